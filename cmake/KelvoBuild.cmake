@@ -1,0 +1,52 @@
+# How every library of the project is built. A library exports its own folder
+# only, so that a file can include just what its library links: includes go
+# down the layers, never up, or the build fails.
+
+add_library(kelvo_options INTERFACE)
+target_compile_options(
+  kelvo_options
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wno-sign-conversion
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Werror)
+target_compile_definitions(
+  kelvo_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH
+                          QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(KELVO_SANITIZE)
+  target_compile_options(kelvo_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
+                                                 -fno-sanitize-recover=undefined)
+  target_link_options(kelvo_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# kelvo_library(NAME [SHARED] SOURCES ... LINK ...)
+function(kelvo_library name)
+  cmake_parse_arguments(ARG "SHARED" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+  if(ARG_SHARED)
+    add_library(${name} SHARED ${ARG_SOURCES})
+    install(TARGETS ${name} LIBRARY DESTINATION lib/kelvo)
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  else()
+    add_library(${name} STATIC ${ARG_SOURCES})
+  endif()
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE kelvo_options ${ARG_PRIVATE_LINK})
+endfunction()
+
+# kelvo_test(NAME SOURCES ... LINK ...): one Qt Test program, run offscreen with
+# a home folder of its own; a skipped test counts as failed.
+function(kelvo_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_link_libraries(${name} PRIVATE kelvo_options Qt6::Test ${ARG_LINK})
+  target_compile_definitions(${name} PRIVATE KELVO_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
+                                             KELVO_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+                                             KELVO_BUILD_DIR="${CMAKE_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/run-isolated $<TARGET_FILE:${name}>)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 FAIL_REGULAR_EXPRESSION "SKIP   :")
+endfunction()

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "result.h"
+
+#include <QByteArray>
+#include <QVariantMap>
+
+#include <functional>
+#include <optional>
+
+// The only code that changes files that users own. Two dialogs at once lose
+// nothing; a crash, a kill or a full disk leaves the old file or the new one.
+namespace kelvo {
+
+// A whole file, at most `limit` bytes, a regular file. Readers take no lock:
+// writers only rename complete files.
+Result<QByteArray> readFile(const QString &path, qint64 limit);
+
+// Replaces the file at `path`: a temporary file in the same folder (0600,
+// O_EXCL), every write and the size checked, synced, renamed, folder synced.
+// After an error the old file is as it was and no temporary file is left.
+Result<void> replaceFile(const QString &path, const QByteArray &bytes);
+
+enum class DamagedStore {
+    SetAside, // a writer that creates: rename to NAME.damaged-1 (…-2), say so, begin empty
+    Keep,     // a writer that only changes: fail and leave it alone
+};
+
+// Read → change → write of a property-list dictionary under its lock (a
+// permanent 0600 lock file ".NAME.lock", opened without following links, waited
+// for at most limits::fileLockWaitMs). `change` gets what the file holds now,
+// an empty dictionary when there is no file, and edits it; returning false
+// means that there is nothing to write. A store that is there but cannot be
+// read fails. Missing folders are created, 0700.
+Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
+                                  const std::function<bool(QVariantMap &)> &change);
+
+// The same without reading: what stands there is replaced under the lock.
+Result<void> writeDictionaryFile(const QString &path, const QVariantMap &dictionary);
+
+// Removes the file under its lock; NotFound when there was none.
+Result<void> removeFile(const QString &path);
+
+// `name` as one safe file-name component: no slash, no control character, not
+// empty, no leading dot, at most 200 bytes of UTF-8. Distinct names stay
+// distinct (what is unsafe is percent-encoded).
+QString safeFileName(const QString &name);
+
+} // namespace kelvo

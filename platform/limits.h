@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtGlobal>
+
+// Every limit on what comes from outside, in one place. Each has a test at
+// the limit and one above.
+namespace kelvo::limits {
+
+inline constexpr qint64 KiB = 1024;
+inline constexpr qint64 MiB = 1024 * KiB;
+
+// Property lists. A job with 99,999 special pages is about 100 MB of XML.
+inline constexpr int plistDepth = 64;
+inline constexpr qint64 plistNodes = 8'000'000;
+inline constexpr qint64 plistBytes = 128 * MiB;
+
+inline constexpr qint64 ppdBytes = 8 * MiB;       // the largest in the field are below 2 MiB
+inline constexpr qint64 scriptBytes = 16 * MiB;
+inline constexpr qint64 secretBytes = 4 * KiB;    // a file given by --secret
+inline constexpr qint64 documentBytes = 2048 * MiB;
+inline constexpr qint64 pictureBytes = 256 * MiB; // a picture file before decoding
+inline constexpr qint64 picturePixels = 200'000'000;
+
+inline constexpr int fileLockWaitMs = 2000;  // how long a store's lock is waited for
+inline constexpr int optionValueBytes = 4000; // longest option value that always reached a filter
+
+} // namespace kelvo::limits

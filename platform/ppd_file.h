@@ -1,0 +1,111 @@
+#pragma once
+
+#include "result.h"
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+// A printer's PPD. ppd_file.cpp is the one file that includes <cups/ppd.h>;
+// what comes out of here is Qt types. A PPD is hostile until checked: its texts
+// are shown as plain text and are never a path, a format or markup.
+namespace kelvo {
+
+struct PpdChoice
+{
+    QString keyword;
+    QString text; // for people
+};
+
+struct PpdOption
+{
+    QString keyword;
+    QString text;          // for people
+    QString defaultChoice; // empty when the PPD names none
+    bool pickMany = false;
+    std::vector<PpdChoice> choices; // in the PPD's order
+
+    const PpdChoice *findChoice(const QString &keyword) const;
+};
+
+struct PpdGroup
+{
+    QString name; // "InstallableOptions"
+    QString text;
+    std::vector<PpdOption> options; // subgroups included
+};
+
+// Lengths in points.
+struct PpdPageSize
+{
+    QString name;
+    double width = 0, height = 0;
+    double left = 0, bottom = 0, right = 0, top = 0; // the printable area's edges
+};
+
+struct CustomPageLimits
+{
+    double minWidth, minHeight, maxWidth, maxHeight; // points
+};
+
+using PpdSelection = QMap<QString, QString>; // option keyword → choice keyword
+
+struct PpdConflict
+{
+    QStringList options; // keywords of the options that cannot stay as they are together
+};
+
+class PpdFile
+{
+public:
+    // Reads a regular file of at most limits::ppdBytes. NotFound, TooLarge, or
+    // Damaged with libcups' reason and line.
+    static Result<std::shared_ptr<PpdFile>> open(const QString &path);
+    ~PpdFile();
+    PpdFile(const PpdFile &) = delete;
+    PpdFile &operator=(const PpdFile &) = delete;
+
+    const QString &path() const;
+    QString manufacturer() const;   // empty when missing
+    QString modelName() const;      // the nickname where there is one
+    QString languageEncoding() const; // lang_encoding as libcups gives it; empty when missing
+    bool isColorDevice() const;
+    // The value of a main keyword such as "KelvoTicket" (without the quotes); none when missing.
+    std::optional<QString> attribute(const char *keyword) const;
+    QStringList attributes(const char *keyword) const; // every value, e.g. of cupsFilter
+
+    const std::vector<PpdGroup> &groups() const;
+    const PpdOption *findOption(const QString &keyword) const; // ppdFindOption; null when missing
+
+    const std::vector<PpdPageSize> &pageSizes() const;
+    const PpdPageSize *findPageSize(const QString &name) const;
+    std::optional<CustomPageLimits> customPageLimits() const; // none: no custom sizes
+
+    // Marks: one choice of each option, kept by libcups, shared by all users of
+    // this object.
+    void markDefaults();
+    // Returns true when the marks are in conflict afterwards. An option or choice
+    // that the PPD lacks changes nothing and is no conflict.
+    bool mark(const QString &option, const QString &choice);
+    std::optional<QString> markedChoice(const QString &option) const; // the first one
+
+    // Constraints, on marks of their own: the defaults with `selection` on top.
+    // Does not disturb the marks above.
+    std::vector<PpdConflict> conflicts(const PpdSelection &selection);
+    // The changes that would end every conflict, option → choice; `keep` names
+    // options that the user has just set and wants kept where possible. None
+    // when libcups finds no way.
+    std::optional<PpdSelection> resolve(const PpdSelection &selection, const QString &keep = {});
+
+private:
+    PpdFile();
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace kelvo

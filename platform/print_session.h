@@ -1,0 +1,66 @@
+#pragma once
+
+#include "plugin_abi.h"
+#include "ticket.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+// One print dialog's session: the printer and the tickets. A ticket handle is a
+// 32-bit number: the session's own number in the upper half, the index into
+// the session's table (from 1) in the lower. It dies with the session.
+namespace kelvo {
+
+// What a session knows of its printer.
+struct SessionPrinter
+{
+    QString name;    // the queue, or the device's name where there is none
+    QString ppdPath; // a local file; empty when there is no PPD
+};
+
+class PrintSession
+{
+public:
+    // With a print settings and a page format ticket, both empty. At most
+    // 65,535 sessions in one process.
+    PrintSession();
+    ~PrintSession();
+    PrintSession(const PrintSession &) = delete;
+    PrintSession &operator=(const PrintSession &) = delete;
+
+    const SessionPrinter &printer() const { return m_printer; }
+    void setPrinter(SessionPrinter printer) { m_printer = std::move(printer); }
+
+    PMTicketRef printSettingsTicket() const;
+    PMTicketRef pageFormatTicket() const;
+
+    Ticket &printSettings() { return m_tickets[0]; }
+    const Ticket &printSettings() const { return m_tickets[0]; }
+    Ticket &pageFormat() { return m_tickets[1]; }
+    const Ticket &pageFormat() const { return m_tickets[1]; }
+
+private:
+    friend Ticket *findTicket(PMTicketRef handle);
+    std::uint16_t m_number;
+    SessionPrinter m_printer;
+    Ticket m_tickets[2];
+};
+
+// The ticket behind a handle of any living session; null for any other number.
+Ticket *findTicket(PMTicketRef handle);
+
+// The data that the session keeps under `key`: for kPMPrintSettingsTicket and
+// kPMPageFormatTicket the handle, four bytes in the machine's order.
+// kPMKeyNotFound for another key, paramErr without session.
+OSStatus PMSessionGetDataFromSession(PMPrintSession session, const QString &key, QByteArray *out);
+
+using PMPrinter = const SessionPrinter *; // borrowed from the session
+OSStatus PMSessionGetCurrentPrinter(PMPrintSession session, PMPrinter *out);
+
+inline const QString kPMPPDDescriptionType = QStringLiteral("PMPPDDescriptionType");
+// The printer's PPD as a file URL; kPMKeyNotFound for another type or a printer without PPD.
+OSStatus PMPrinterGetDescriptionURL(PMPrinter printer, const QString &type, QString *url);
+
+} // namespace kelvo

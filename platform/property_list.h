@@ -1,0 +1,27 @@
+#pragma once
+
+#include "result.h"
+
+#include <QByteArray>
+#include <QVariant>
+
+// XML property lists: read with expat into the types of values.h, written in a
+// fixed form that does not depend on the locale.
+namespace kelvo {
+
+// Reads one property list. `name` stands in the error ("ticket.plist, line 7").
+// Refused: anything that is not a property list, custom entities, text outside
+// its element, a dictionary key that stands twice, and whatever is above the
+// plist limits of limits.h.
+Result<QVariant> CFPropertyListCreateFromXMLData(const QByteArray &xml, const QString &name);
+
+// Writes `list` with sorted keys, tabs, reals in shortest form and data in
+// base64. Fails on a type that a property list cannot hold, with the key path,
+// and on characters that XML cannot hold.
+Result<QByteArray> CFPropertyListCreateXMLData(const QVariant &list);
+
+// Reads the property list at `path`, which must be a regular file within the
+// limits. NotFound when there is none.
+Result<QVariant> readPropertyList(const QString &path);
+
+} // namespace kelvo

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QLocale;
+class QTranslator;
+
+// Localized texts: Qt Linguist tables, English too, one context a table, the
+// key as source text. Keys are fixed and may hold blanks, colons and quotes.
+namespace kelvo {
+
+class StringTables
+{
+public:
+    StringTables();
+    ~StringTables();
+    StringTables(const StringTables &) = delete;
+    StringTables &operator=(const StringTables &) = delete;
+
+    // Loads `folder`/<language>.qm for each of the user's languages in turn and
+    // en.qm last; a language that is not there is skipped.
+    void load(const QString &folder, const QStringList &uiLanguages);
+
+    // The text of `key` in `table`; none when no loaded language has it.
+    std::optional<QString> find(const QString &table, const QString &key) const;
+
+private:
+    std::vector<std::unique_ptr<QTranslator>> m_translators; // best language first
+};
+
+// `format` with the place holders %1 to %9 replaced by `arguments` at once:
+// what users typed is never taken for a place holder itself.
+QString formatted(const QString &format, const QStringList &arguments);
+
+} // namespace kelvo

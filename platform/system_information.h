@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+// Who sits at which computer. Nothing here blocks on the network.
+namespace kelvo {
+
+// The user of the login session that this process belongs to (logind), else
+// the process's owner; none when that has no name.
+std::optional<QString> consoleUser();
+
+std::optional<QString> computerName(); // the host name
+
+// The first IPv4 address of the default route's interface, in dotted form.
+std::optional<QString> primaryIPv4Address();
+
+// The interface of the default route in the text of /proc/net/route:
+// destination and mask 0, up and gateway (flags 3), lowest metric.
+std::optional<QByteArray> defaultRouteInterface(const QByteArray &routeTable);
+
+} // namespace kelvo

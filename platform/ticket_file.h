@@ -1,0 +1,40 @@
+#pragma once
+
+#include "print_session.h"
+#include "result.h"
+#include "values.h"
+
+// A job's settings as a file, and a preset, which is one with a name. An XML
+// property list, 0600:
+//
+//   FormatVersion           1
+//   PMPrintSettingsTicket   dictionary: ticket key → value, exactly as set
+//   PMPageFormatTicket      dictionary, likewise
+//   PPDChoices              dictionary: PPD option keyword → choice keyword
+//   Clients                 dictionary: ticket key → the client that wrote it
+//
+// What else stands in the root is kept and written back.
+namespace kelvo {
+
+struct TicketFile
+{
+    Ticket printSettings;
+    Ticket pageFormat;
+    Dictionary unknown; // root entries that are not ours
+
+    friend bool operator==(const TicketFile &, const TicketFile &) = default;
+};
+
+// `where` names the file in errors. Damaged or WrongType with the key path for
+// what is not a ticket file, Unsupported for another format version.
+Result<TicketFile> ticketFileFromPropertyList(const QVariant &list, const QString &where);
+Dictionary propertyListFrom(const TicketFile &file);
+
+Result<TicketFile> readTicketFile(const QString &path);
+Result<void> writeTicketFile(const QString &path, const TicketFile &file);
+
+// The session's tickets as a file, and back. Locks are not stored.
+TicketFile ticketFileFrom(const PrintSession &session);
+void load(const TicketFile &file, PrintSession &session);
+
+} // namespace kelvo
