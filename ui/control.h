@@ -1,0 +1,69 @@
+#pragma once
+
+#include "four_char_code.h"
+
+#include <QString>
+#include <QVariant>
+#include <QWidget>
+
+#include <cstdint>
+#include <optional>
+
+// Controls by ID. A control ID is a signature and a number, unique in its
+// window, written `KPDE 102`; in a window description it is the dynamic
+// property "controlID" (notr). Any widget can have one.
+namespace kelvo {
+
+struct ControlID
+{
+    OSType signature = 0;
+    std::int32_t number = 0;
+
+    friend bool operator==(const ControlID &, const ControlID &) = default;
+};
+
+inline constexpr OSType kPanelSignature = fourCharCode("KPDE");
+inline constexpr OSType kShellSignature = fourCharCode("Kshl");
+inline constexpr OSType kUserPaneSignature = fourCharCode("KSgb"); // number = tab index
+
+// "KPDE 102" and back: four printable characters, one blank, a decimal number.
+std::optional<ControlID> controlIDFromText(const QString &text);
+QString textOf(ControlID id);
+
+void setControlID(QWidget *control, ControlID id);
+std::optional<ControlID> controlIDOf(const QWidget *control);
+
+// The control with that ID in the window of `anyWidget`, or below `anyWidget`
+// when it has no window yet; null when there is none.
+QWidget *findControl(const QWidget *anyWidget, ControlID id);
+// The same, and of class T; null also when it is of another class.
+template <typename T>
+T *findControl(const QWidget *anyWidget, ControlID id)
+{
+    return qobject_cast<T *>(findControl(anyWidget, id));
+}
+
+// The maximum of a control that has one (pop-ups, menu buttons, spin fields,
+// sliders): for pop-ups it may differ from the item count.
+std::optional<int> controlMaximum(const QWidget *control);
+
+// Values that code hangs onto a control under a creator and a tag.
+void setControlProperty(QWidget *control, OSType creator, OSType tag, const QVariant &value);
+std::optional<QVariant> controlProperty(const QWidget *control, OSType creator, OSType tag);
+void removeControlProperty(QWidget *control, OSType creator, OSType tag);
+
+// Puts `control` into `parent`'s layout (a vertical one is made when it has
+// none) and, for the second, makes it visible. paramErr for a null argument.
+std::int32_t embedControl(QWidget *control, QWidget *parent);
+
+// The dialog window's buttons: set by whoever makes the dialog, found by the
+// panels from any widget in that window. Null when the window has none.
+void setWindowButtons(QWidget *window, QWidget *defaultButton, QWidget *cancelButton);
+QWidget *windowDefaultButton(const QWidget *anyWidget);
+QWidget *windowCancelButton(const QWidget *anyWidget);
+
+// A control with its label: both are enabled, shown and hidden together. The
+// label is the QLabel whose buddy the control is.
+void setEnabledWithLabel(QWidget *control, bool enabled);
+
+} // namespace kelvo

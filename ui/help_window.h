@@ -1,0 +1,24 @@
+#pragma once
+
+#include "bundle.h"
+#include "status.h"
+
+#include <QString>
+
+class QWidget;
+
+namespace kelvo {
+
+// Makes Resources/help of `bundle` the help book. fnfErr when the bundle has
+// none or its folder cannot be read.
+OSStatus AHRegisterHelpBook(CFBundleRef bundle);
+
+// Opens the help window on `page` (relative to the help book, "shell/advanced.html";
+// empty: the contents). fnfErr when no registered book has the page. Only files
+// of the book are shown; other links are not followed.
+OSStatus DisplayHelp(const QString &page = {}, QWidget *parent = nullptr);
+
+// An additional folder of help pages, asked after the books: the host's own.
+void addHelpFolder(const QString &folder);
+
+} // namespace kelvo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "menu.h"
+
+#include <QPushButton>
+
+#include <functional>
+
+namespace kelvo {
+
+// A button that opens a menu with submenus. It sends Menu and then Command for
+// the item that the user chooses; the button itself keeps no value.
+class MenuButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit MenuButton(QWidget *parent = nullptr);
+
+    Menu &menu() { return m_menu; }
+    const Menu &menu() const { return m_menu; }
+    void setMenu(Menu menu);
+
+    // Called just before the menu opens, to enable and check its items.
+    void setMenuUpdate(std::function<void(Menu &)> update) { m_update = std::move(update); }
+
+    int maximum() const { return m_maximum; }
+    void setMaximum(int maximum) { m_maximum = maximum; }
+
+    // The menu as it would open now.
+    const Menu &updatedMenu();
+
+    // As if the user had picked `item` of updatedMenu(); false when it is disabled.
+    bool choose(const MenuItem &item);
+
+private:
+    void open();
+
+    Menu m_menu;
+    std::function<void(Menu &)> m_update;
+    int m_maximum = 0;
+};
+
+} // namespace kelvo

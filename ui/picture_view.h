@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+#include <QWidget>
+
+#include <optional>
+
+namespace kelvo {
+
+// Where a bundle's pictures lie. A name keeps the ending that the system gives
+// it ("Paper_Plain-Blue.gif"); the file is the SVG master of the same base
+// name. Empty when there is none.
+QString pictureFile(const QString &resourcesPath, const QString &name);
+
+// The picture as an icon that follows the device pixel ratio; null icon when
+// it is missing or cannot be read.
+QIcon pictureIcon(const QString &resourcesPath, const QString &name);
+
+// Shows one picture, or several on top of one another, as large as fits
+// without distortion. It is sharp at any device pixel ratio.
+class PictureView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PictureView(QWidget *parent = nullptr);
+
+    // File paths, the lowest first; none draws nothing. `description` is what a
+    // screen reader says.
+    void setPictures(const QStringList &files, const QString &description = {});
+    const QStringList &pictures() const { return m_files; }
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QStringList m_files;
+};
+
+} // namespace kelvo

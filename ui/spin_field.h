@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QAbstractSpinBox>
+
+#include <cstdint>
+#include <functional>
+
+namespace kelvo {
+
+// A number with two arrows. The value is an integer of `decimals` decimal
+// places: 1234 with 2 decimals shows 12.34 in the user's locale. Typed text
+// becomes a value when the field is left or Return is pressed; what is outside
+// the range becomes the nearest limit. Sends TextChanged while typing and
+// ControlHit when the value changes by the user.
+class SpinField : public QAbstractSpinBox
+{
+    Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(int value READ value WRITE setValue)
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
+
+public:
+    explicit SpinField(QWidget *parent = nullptr);
+
+    int value() const { return m_value; }
+    void setValue(int value); // silent, clamped
+    int minimum() const { return m_minimum; }
+    void setMinimum(int minimum);
+    int maximum() const { return m_maximum; }
+    void setMaximum(int maximum);
+    int decimals() const { return m_decimals; } // 0 to 6
+    void setDecimals(int decimals);
+    int singleStep() const { return m_singleStep; }
+    void setSingleStep(int step);
+    QString suffix() const { return m_suffix; } // a unit, such as " mm"
+    void setSuffix(const QString &suffix);
+
+    bool choose(int value);               // as the user, clamped; false when disabled
+    bool typeText(const QString &text);   // replaces the text as a user types it; false when refused
+
+    void stepBy(int steps) override;
+    QValidator::State validate(QString &input, int &pos) const override;
+    void fixup(QString &input) const override;
+    QSize sizeHint() const override;
+
+protected:
+    StepEnabled stepEnabled() const override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QString textFor(int value) const;
+    bool valueFrom(const QString &text, int *value) const; // the unclamped number
+    void takeTypedText();
+    void changeTo(int value);
+    void show(int value);
+
+    int m_value = 0, m_minimum = 0, m_maximum = 99, m_decimals = 0, m_singleStep = 1;
+    QString m_suffix;
+};
+
+} // namespace kelvo

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "status.h"
+
+#include <QPlainTextEdit>
+
+namespace kelvo {
+
+// Read-only lines of plain text ("- Letter"), selectable, with a scroll bar
+// only when needed.
+class SummaryView : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit SummaryView(QWidget *parent = nullptr);
+
+    // Replaces the text in one go, without drawing in between.
+    void setSummary(const QString &text);
+    QSize sizeHint() const override; // five lines
+};
+
+} // namespace kelvo
