@@ -14,6 +14,7 @@ namespace kelvo {
 struct MenuItem
 {
     QString text;
+    QString key; // the map's key or the PPD choice that the item stands for; may be empty
     OSType command = kNoCommand;
     std::int32_t reference = 0; // the item's ticket value
     bool enabled = true;

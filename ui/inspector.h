@@ -9,7 +9,6 @@
 #include <QString>
 #include <QTime>
 
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -52,16 +51,10 @@ struct ItemName
 {
     enum class By { Reference, Unset, Key, Text, Row } by = By::Reference;
     std::int32_t reference = 0; // By::Reference
-    QString text;               // By::Key: map key or PPD choice; By::Text: as shown
+    QString text;               // By::Key: MenuItem::key; By::Text: as shown
     int row = 0;                // By::Row, from 1
 };
 // "12", "'code'" (as its number), "unset", "key NAME", "text \"…\"", "row 3".
-
-// Turns a map key or PPD choice into a reference value for that menu; asked for
-// By::Key. Registered by the extension, which knows the maps.
-using KeyResolver = std::function<std::optional<std::int32_t>(const Menu &menu, const QWidget *control,
-                                                              const QString &key)>;
-void setKeyResolver(KeyResolver resolver);
 
 Done choose(QWidget *control, const ItemName &item);
 Done chooseCommand(QWidget *control, OSType command, const std::optional<ItemName> &item);
