@@ -1,0 +1,60 @@
+#pragma once
+
+#include "menu.h"
+#include "plugin_abi.h"
+#include "ppd_file.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+// The current printer's PPD, opened once, and its choices in the print ticket.
+// Nothing here reports an error: what is missing yields none, -1 or an empty
+// menu.
+namespace kelvo {
+
+// The PPD of the current print session's printer, opened on first use; null
+// while that fails, and the next call tries again. Owned by the cache.
+PpdFile *PPDGetCurrent();
+void PPDCloseCurrent();
+
+// The character encodings that a PPD can declare, with the platform's numbers.
+enum CFStringEncoding : std::uint32_t {
+    kCFStringEncodingMacRoman = 0,
+    kCFStringEncodingISOLatin1 = 0x0201,
+    kCFStringEncodingISOLatin2 = 0x0202,
+    kCFStringEncodingISOLatin5 = 0x0209,
+    kCFStringEncodingShiftJIS = 0x0A01,
+    kCFStringEncodingUTF8 = 0x08000100,
+};
+// What the PPD declares. Its texts come out of libcups as UTF-8 all the same.
+CFStringEncoding PPDGetEncoding(const PpdFile *ppd);
+
+std::optional<QString> PPDCopyChoiceText(const PpdFile *ppd, const QString &keyword,
+                                         const QString &choice);
+std::optional<QString> PPDCopyDefaultChoice(const PpdFile *ppd, const QString &keyword);
+// The choice in the ticket's PPD dictionary.
+std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword);
+void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
+                         const std::optional<QString> &choice);
+
+// Through MainKeywordMap: -1 and none for what it does not have.
+std::int32_t PPDTicketValueForChoice(const QString &keyword, const QString &choice);
+std::optional<QString> PPDChoiceForTicketValue(const QString &keyword, std::int32_t value);
+
+// The value of the ticket's choice, or of the PPD's default when the ticket has
+// none; -1 for a choice that the map does not have. `out` is left alone when
+// neither has a choice.
+void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
+                                         const QString &keyword, std::int32_t *out);
+
+// Fills `menu` with the option's choices that MainKeywordMap has, in the PPD's
+// order; others are named on standard error, as is a missing option. With
+// `honourConstraints` the marks start from the defaults, each choice is marked
+// in turn, one that conflicts is left out, and the marks stay as the walk
+// leaves them. Returns the number of items.
+int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword, OSType command,
+                               bool honourConstraints);
+
+} // namespace kelvo

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "popup_button.h"
+#include "ppd_choices.h"
+#include "setting_map.h"
+
+#include <cstdint>
+
+class QWidget;
+
+// Pop-up buttons filled from maps, history and PPD.
+namespace kelvo {
+
+class SummaryView;
+class TabControl;
+
+// Replaces the items; the maximum becomes the returned count, which is the
+// map's length, skipped rows included.
+std::int16_t PopulatePopupButtonFromMap(CFBundleRef bundle, PopupButton *popup,
+                                        const SettingMap *map, JobContext jobContext,
+                                        OSType commandOverride);
+// The same, then the history's strings after item `insertAfter`, in order, with
+// `historyCommand`; each adds one to the count.
+std::int16_t PopulatePopupButtonFromMapAndHistory(CFBundleRef bundle, PopupButton *popup,
+                                                  const SettingMap *map, JobContext jobContext,
+                                                  const QString &historyKey, int insertAfter,
+                                                  OSType historyCommand, OSType commandOverride);
+// Shows the first item with that value; false, and unchanged, when there is none.
+bool SetPopupButtonToTicketValue(PopupButton *popup, std::int32_t value);
+std::int32_t GetPopupButtonTicketValue(const PopupButton *popup); // kUnset for null
+
+// PPDPopulateMenuWithChoices into a pop-up; the count becomes its maximum.
+int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString &keyword,
+                                bool honourConstraints);
+
+// Shows and enables the pane at the tab's position, hides and disables the others.
+void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[]);
+
+// paramErr for a null view or text (a null QString; an empty one is fine).
+OSStatus UpdateSummaryTextView(SummaryView *view, const QString &text);
+
+} // namespace kelvo
