@@ -1,0 +1,41 @@
+#pragma once
+
+#include "script_parser.h"
+#include "script_target.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace kelvo {
+
+// Runs a script on the dialog, one line at a time from the event loop when the
+// target is idle, also while modal dialogs are open. Results (show, controls,
+// summary) go to standard output, errors as "FILE:LINE: what was wrong" to
+// standard error, secrets masked in both.
+class ScriptRunner : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Options
+    {
+        QString file;
+        bool printAtEnd = false; // --print
+    };
+    ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
+                 QObject *parent = nullptr);
+    ~ScriptRunner() override;
+
+    void start();
+
+signals:
+    // Once. The dialog closes then.
+    void ended(kelvo::ExitStatus status);
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace kelvo

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "document.h"
+#include "job_settings.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace kelvo {
+
+// Shows the sheets that will be printed, one side at a time: white paper in
+// any theme, page forward and back, "Sheet 2, front". The caller says what is
+// printed; nothing here decides it.
+class DocumentPreview : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentPreview(QWidget *parent = nullptr);
+    ~DocumentPreview() override;
+
+    struct Layout
+    {
+        std::vector<PageRun> pages;    // of the document; empty: all
+        QSizeF paper;                  // points; empty: each page's own size
+        Orientation orientation = Orientation::Portrait;
+        bool twoSided = false;
+    };
+    void setDocument(const Document &document);
+    void setLayout(const Layout &layout);
+    void setMessage(const QString &message); // instead of a page; empty shows pages again
+
+    int sheetCount() const;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace kelvo
