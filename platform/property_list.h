@@ -12,7 +12,7 @@ namespace kelvo {
 // Reads one property list. `name` stands in the error ("ticket.plist, line 7").
 // Refused: anything that is not a property list, custom entities, text outside
 // its element, a dictionary key that stands twice, and whatever is above the
-// plist limits of limits.h.
+// plist limits of size_limits.h.
 Result<QVariant> CFPropertyListCreateFromXMLData(const QByteArray &xml, const QString &name);
 
 // Writes `list` with sorted keys, tabs, reals in shortest form and data in
