@@ -15,8 +15,11 @@ namespace kelvo {
 // plist limits of size_limits.h.
 Result<QVariant> CFPropertyListCreateFromXMLData(const QByteArray &xml, const QString &name);
 
+// Depth counts dictionaries and arrays inside one another; nodes are values, keys
+// not counted. Line and limits hold for writing too, so what was written can be read.
+//
 // Writes `list` with sorted keys, tabs, reals in shortest form and data in
-// base64. Fails on a type that a property list cannot hold, with the key path,
+// base64; a date loses its milliseconds. Fails on a type that a property list cannot hold, with the key path,
 // and on characters that XML cannot hold.
 Result<QByteArray> CFPropertyListCreateXMLData(const QVariant &list);
 
