@@ -11,7 +11,8 @@ namespace kelvo {
 
 using LongDateTime = std::int64_t;
 
-// Only the clock and the calendar of the arguments count, never their zone.
+// Only the clock and the calendar of the arguments count, never their zone. An
+// invalid date gives 0, an invalid time midnight.
 LongDateTime longDateFrom(const QDate &date, const QTime &time);
 LongDateTime longDateFrom(const QDateTime &local);
 QDate dateOf(LongDateTime moment);

@@ -29,7 +29,8 @@ struct Menu
     const void *reference = nullptr; // the map that filled it; compared, never followed
 };
 
-// The first item, submenus included, that carries `command`; null when none does.
+// The first item, submenus included, that carries `command`; null when none
+// does, and for kNoCommand.
 MenuItem *findItem(Menu &menu, OSType command);
 const MenuItem *findItem(const Menu &menu, OSType command);
 

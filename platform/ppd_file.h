@@ -63,9 +63,12 @@ struct PpdConflict
 class PpdFile
 {
 public:
-    // Reads a regular file of at most limits::ppdBytes. NotFound, TooLarge, or
-    // Damaged with libcups' reason and line.
+    // Reads a regular file of at most limits::ppdBytes. NotFound, TooLarge,
+    // Unsupported for a compressed one, or Damaged with libcups' reason and line.
     static Result<std::shared_ptr<PpdFile>> open(const QString &path);
+    // The same from bytes that are already here; `path` names them in errors.
+    static Result<std::shared_ptr<PpdFile>> fromBytes(const QByteArray &bytes,
+                                                      const QString &path);
     ~PpdFile();
     PpdFile(const PpdFile &) = delete;
     PpdFile &operator=(const PpdFile &) = delete;

@@ -5,8 +5,8 @@
 
 #include <QString>
 
-#include <memory>
-#include <optional>
+#include <cstdint>
+#include <utility>
 
 // One print dialog's session: the printer and the tickets. A ticket handle is a
 // 32-bit number: the session's own number in the upper half, the index into

@@ -16,7 +16,7 @@ struct Error
         NotFound,     // no such file, entry, printer, choice
         NotReadable,  // there, but it cannot be read
         NotWritable,  // cannot be created, written, synced or renamed
-        TooLarge,     // above a limit of limits.h
+        TooLarge,     // above a limit of size_limits.h
         Damaged,      // its bytes are not what they claim to be
         WrongType,    // a value of another type than its place asks for
         OutOfRange,   // a number outside its limits

@@ -13,7 +13,9 @@
 //   PPDChoices              dictionary: PPD option keyword → choice keyword
 //   Clients                 dictionary: ticket key → the client that wrote it
 //
-// What else stands in the root is kept and written back.
+// FormatVersion and PMPrintSettingsTicket must be there; what else is missing is
+// empty. A key that stands in both tickets has one client, the one that wrote the
+// print settings. What else stands in the root is kept and written back.
 namespace kelvo {
 
 struct TicketFile

@@ -1,0 +1,391 @@
+#include "file_store.h"
+
+#include "property_list.h"
+#include "size_limits.h"
+#include "values.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <thread>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+// A file descriptor that is closed at the end of its scope.
+class Descriptor
+{
+public:
+    explicit Descriptor(int fd)
+        : m_fd(fd)
+    {
+    }
+    ~Descriptor() { close(); }
+    Descriptor(Descriptor &&other) noexcept
+        : m_fd(std::exchange(other.m_fd, -1))
+    {
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    explicit operator bool() const { return m_fd >= 0; }
+    int get() const { return m_fd; }
+
+    // False when the system reports now what it could not write before.
+    bool close() { return m_fd < 0 || ::close(std::exchange(m_fd, -1)) == 0; }
+
+private:
+    int m_fd;
+};
+
+Error systemError(Code code, const QString &path, int number = errno)
+{
+    return {code, path, QString::fromUtf8(std::strerror(number))};
+}
+
+// A path that the system would cut off at its null character names another file.
+std::optional<Error> problemOf(const QString &path)
+{
+    if (path.isEmpty() || path.contains(QChar(0)))
+        return Error{Code::NotFound, path, QStringLiteral("not a path")};
+    return std::nullopt;
+}
+
+QString folderOf(const QString &path)
+{
+    const qsizetype slash = path.lastIndexOf(u'/');
+    if (slash < 0)
+        return QStringLiteral(".");
+    return slash == 0 ? QStringLiteral("/") : path.left(slash);
+}
+
+QString nameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+// Creates what is missing of `folder`, 0700.
+Result<void> makeFolder(const QString &folder)
+{
+    const QByteArray path = QFile::encodeName(folder);
+    if (::mkdir(path.constData(), 0700) == 0 || errno == EEXIST)
+        return {}; // something else of that name fails when it is used
+    const int reason = errno;
+    const QString outer = folderOf(folder);
+    if (reason != ENOENT || outer == folder || outer == QLatin1String("."))
+        return systemError(Code::NotWritable, folder, reason);
+    if (auto made = makeFolder(outer); !made)
+        return made;
+    if (::mkdir(path.constData(), 0700) == 0 || errno == EEXIST)
+        return {};
+    return systemError(Code::NotWritable, folder);
+}
+
+// Not an error when it fails: the new file stands, and a crash of the whole
+// machine would at worst bring the old one back.
+void syncFolder(const QString &folder)
+{
+    const Descriptor fd(
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (fd)
+        ::fsync(fd.get());
+}
+
+// The lock of the store at `path`, held until the descriptor is closed. The
+// lock file stays: one that is removed could be locked by two at once.
+Result<std::shared_ptr<Descriptor>> lockFor(const QString &path)
+{
+    const QString lockPath =
+        folderOf(path) + QStringLiteral("/.") + nameOf(path) + QStringLiteral(".lock");
+    auto fd = std::make_shared<Descriptor>(
+        ::open(QFile::encodeName(lockPath).constData(),
+               O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
+    if (!*fd)
+        return errno == ELOOP ? Error{Code::Refused, lockPath,
+                                      QStringLiteral("the lock file is a symbolic link; remove it")}
+                              : systemError(Code::NotWritable, lockPath);
+    struct stat status;
+    if (::fstat(fd->get(), &status) != 0 || !S_ISREG(status.st_mode))
+        return Error{Code::Refused, lockPath,
+                     QStringLiteral("the lock file is not a regular file; remove it")};
+
+    using Clock = std::chrono::steady_clock;
+    const auto deadline = Clock::now() + std::chrono::milliseconds(limits::fileLockWaitMs);
+    while (::flock(fd->get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return systemError(Code::NotWritable, lockPath);
+        if (Clock::now() >= deadline)
+            return Error{Code::TimedOut, path,
+                         QStringLiteral("another program is writing it; try again")};
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return fd;
+}
+
+bool writeAll(int fd, const QByteArray &bytes)
+{
+    for (qsizetype done = 0; done < bytes.size();) {
+        const ssize_t count =
+            ::write(fd, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) {
+            if (count == 0)
+                errno = ENOSPC;
+            return false;
+        }
+        done += count;
+    }
+    return true;
+}
+
+// Everything up to the rename, checked. `errno` says why it failed.
+bool writeAndSync(Descriptor &fd, const QByteArray &bytes)
+{
+    if (!writeAll(fd.get(), bytes) || ::fsync(fd.get()) != 0)
+        return false;
+    struct stat status;
+    if (::fstat(fd.get(), &status) != 0)
+        return false;
+    if (status.st_size != bytes.size()) {
+        errno = EIO;
+        return false;
+    }
+    return fd.close();
+}
+
+// Renames the damaged store at `path` to the first free NAME.damaged-N.
+Result<void> setAside(const QString &path, const Error &reason)
+{
+    for (int number = 1; number < 1000; ++number) {
+        const QString aside = path + QStringLiteral(".damaged-%1").arg(number);
+        // A link never replaces what is there, on any file system that has links.
+        if (::link(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData())
+            != 0) {
+            if (errno == EEXIST)
+                continue;
+            return systemError(Code::NotWritable, aside);
+        }
+        if (::unlink(QFile::encodeName(path).constData()) != 0)
+            return systemError(Code::NotWritable, path);
+        std::fprintf(stderr, "%s: damaged, kept as %s (%s)\n", qUtf8Printable(path),
+                     qUtf8Printable(nameOf(aside)), qUtf8Printable(reason.text()));
+        return {};
+    }
+    return Error{Code::NotWritable, path,
+                 QStringLiteral("damaged, and too many damaged copies lie beside it; remove them")};
+}
+
+// What a store holds, or why it counts as damaged; any other failure to read it
+// is an error.
+struct StoreContent
+{
+    QVariantMap dictionary;
+    std::optional<Error> damage;
+};
+
+Result<StoreContent> readStore(const QString &path)
+{
+    const auto list = readPropertyList(path);
+    if (list) {
+        if (const auto root = dictionary(list.value()))
+            return StoreContent{*root, std::nullopt};
+        return StoreContent{{}, Error{Code::WrongType, path, QStringLiteral("not a dictionary")}};
+    }
+    switch (list.error().code) {
+    case Code::NotFound:
+        return StoreContent{};
+    case Code::NotReadable: // nobody has seen its bytes
+    case Code::TooLarge:
+        return list.error();
+    default:
+        return StoreContent{{}, list.error()};
+    }
+}
+
+} // namespace
+
+Result<QByteArray> readFile(const QString &path, qint64 limit)
+{
+    if (const auto problem = problemOf(path))
+        return *problem;
+    // O_NONBLOCK: a FIFO of that name must not stop the program.
+    const Descriptor fd(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!fd)
+        return systemError(errno == ENOENT || errno == ENOTDIR ? Code::NotFound : Code::NotReadable,
+                           path);
+    struct stat status;
+    if (::fstat(fd.get(), &status) != 0)
+        return systemError(Code::NotReadable, path);
+    if (!S_ISREG(status.st_mode))
+        return Error{Code::NotReadable, path, QStringLiteral("not a regular file")};
+    const Error tooLarge{Code::TooLarge, path, QStringLiteral("more than %1 bytes").arg(limit)};
+    if (status.st_size > limit)
+        return tooLarge;
+
+    // The size is only a hint: files of /proc say 0, and a file may be growing.
+    // One byte more than it says shows the end without growing the buffer.
+    QByteArray bytes;
+    qsizetype used = 0;
+    for (bytes.resize(std::max<qsizetype>(status.st_size + 1, 4096));;) {
+        const ssize_t count =
+            ::read(fd.get(), bytes.data() + used, static_cast<std::size_t>(bytes.size() - used));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return systemError(Code::NotReadable, path);
+        if (count == 0)
+            break;
+        used += count;
+        if (used > limit)
+            return tooLarge;
+        if (used == bytes.size())
+            bytes.resize(used * 2);
+    }
+    bytes.truncate(used);
+    return bytes;
+}
+
+Result<void> replaceFile(const QString &path, const QByteArray &bytes)
+{
+    if (const auto problem = problemOf(path))
+        return Error{Code::NotWritable, problem->where, problem->detail};
+    const QByteArray target = QFile::encodeName(path);
+    struct stat status;
+    if (::stat(target.constData(), &status) == 0 && !S_ISREG(status.st_mode))
+        return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
+
+    QByteArray temporary = QFile::encodeName(folderOf(path) + QStringLiteral("/.kelvo-XXXXXX"));
+    Descriptor fd(::mkostemp(temporary.data(), O_CLOEXEC)); // 0600, O_EXCL
+    if (!fd)
+        return systemError(Code::NotWritable, path);
+    if (!writeAndSync(fd, bytes) || ::rename(temporary.constData(), target.constData()) != 0) {
+        const Error error = systemError(Code::NotWritable, path);
+        ::unlink(temporary.constData());
+        return error;
+    }
+    syncFolder(folderOf(path));
+    return {};
+}
+
+Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
+                                  const std::function<bool(QVariantMap &)> &change)
+{
+    if (auto made = makeFolder(folderOf(path)); !made)
+        return made;
+    const auto lock = lockFor(path);
+    if (!lock)
+        return lock.error();
+    auto content = readStore(path);
+    if (!content)
+        return content.error();
+    const auto &damage = content.value().damage;
+    if (damage && damaged == DamagedStore::Keep)
+        return *damage;
+    if (!change(content.value().dictionary))
+        return {};
+    const auto xml = CFPropertyListCreateXMLData(content.value().dictionary);
+    if (!xml)
+        return Error{xml.error().code, path + QStringLiteral(": ") + xml.error().where,
+                     xml.error().detail};
+    if (damage) {
+        if (auto moved = setAside(path, *damage); !moved)
+            return moved;
+    }
+    return replaceFile(path, xml.value());
+}
+
+Result<void> writeDictionaryFile(const QString &path, const QVariantMap &dictionary)
+{
+    const auto xml = CFPropertyListCreateXMLData(dictionary);
+    if (!xml)
+        return Error{xml.error().code, path + QStringLiteral(": ") + xml.error().where,
+                     xml.error().detail};
+    if (auto made = makeFolder(folderOf(path)); !made)
+        return made;
+    const auto lock = lockFor(path);
+    if (!lock)
+        return lock.error();
+    return replaceFile(path, xml.value());
+}
+
+Result<void> removeFile(const QString &path)
+{
+    if (const auto problem = problemOf(path))
+        return *problem;
+    const QByteArray target = QFile::encodeName(path);
+    struct stat status;
+    if (::lstat(target.constData(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR))
+        return systemError(Code::NotFound, path); // and no lock file is left for it
+    const auto lock = lockFor(path);
+    if (!lock)
+        return lock.error();
+    if (::unlink(target.constData()) != 0)
+        return systemError(errno == ENOENT ? Code::NotFound : Code::NotWritable, path);
+    syncFolder(folderOf(path));
+    return {};
+}
+
+QString safeFileName(const QString &name)
+{
+    // What follows a percent sign keeps names apart: two hexadecimal digits are
+    // a byte, "u" a lone surrogate, "~" a hash, "-" the empty name.
+    constexpr qsizetype longest = 200;
+    if (name.isEmpty())
+        return QStringLiteral("%-");
+
+    QByteArray safe;
+    const auto encode = [&safe](const QByteArray &bytes) {
+        for (const char byte : bytes)
+            safe += '%' + QByteArray(1, byte).toHex().toUpper();
+    };
+    QByteArray shortened; // as much as leaves room for a hash
+    constexpr qsizetype hashLength = 2 + 32;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        char32_t code = name[i].unicode();
+        QString character = name.mid(i, 1);
+        if (name[i].isHighSurrogate() && i + 1 < name.size() && name[i + 1].isLowSurrogate()) {
+            code = QChar::surrogateToUcs4(name[i], name[i + 1]);
+            character = name.mid(i++, 2);
+        }
+        switch (QChar::category(code)) {
+        case QChar::Other_Surrogate:
+            safe += "%u" + QByteArray::number(static_cast<uint>(code), 16).toUpper();
+            break;
+        case QChar::Other_Control:
+        case QChar::Other_Format: // turns the direction of what is shown
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            encode(character.toUtf8());
+            break;
+        default:
+            if (code == '/' || code == '%' || (code == '.' && i == 0))
+                encode(character.toUtf8());
+            else
+                safe += character.toUtf8();
+        }
+        if (safe.size() <= longest - hashLength)
+            shortened = safe;
+    }
+    if (safe.size() > longest) {
+        const QByteArray units(reinterpret_cast<const char *>(name.utf16()), name.size() * 2);
+        safe = shortened + "%~"
+            + QCryptographicHash::hash(units, QCryptographicHash::Sha256).toHex().left(32);
+    }
+    return QString::fromUtf8(safe);
+}
+
+} // namespace kelvo

@@ -1,0 +1,420 @@
+#include "ppd_file.h"
+
+#include "file_store.h"
+#include "size_limits.h"
+
+#include <QHash>
+
+// The PPD calls are deprecated in favour of IPP, which knows neither vendor
+// options nor their constraints.
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <cstring>
+#include <set>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+// libcups hands out UTF-8 whatever encoding the file declares.
+QString textFrom(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+// Opens the PPD in `bytes`. libcups reads from a descriptor only, so they are
+// put into a file in memory: what was checked is what is read.
+Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &bytes, const QString &path)
+{
+    const int fd = memfd_create("ppd", MFD_CLOEXEC);
+    if (fd < 0)
+        return Error{Code::NotReadable, path, QString::fromUtf8(std::strerror(errno))};
+    for (qsizetype done = 0; done < bytes.size();) {
+        const ssize_t count =
+            ::write(fd, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
+        if (count <= 0 && errno != EINTR) {
+            const QString reason = QString::fromUtf8(std::strerror(errno));
+            ::close(fd);
+            return Error{Code::NotReadable, path, reason};
+        }
+        done += std::max<ssize_t>(count, 0);
+    }
+    ::lseek(fd, 0, SEEK_SET);
+    ppd_file_t *ppd = ppdOpenFd(fd); // closes fd
+    if (!ppd) {
+        int line = 0;
+        const ppd_status_t status = ppdLastError(&line);
+        return Error{Code::Damaged, path,
+                     QStringLiteral("line %1: %2").arg(line).arg(textFrom(ppdErrorString(status)))};
+    }
+    return std::shared_ptr<ppd_file_t>(ppd, &ppdClose);
+}
+
+void walk(const ppd_group_t &group, const auto &visit)
+{
+    for (int i = 0; i < group.num_options; ++i)
+        visit(group.options[i]);
+    for (int i = 0; i < group.num_subgroups; ++i)
+        walk(group.subgroups[i], visit);
+}
+
+void walk(const ppd_file_t &ppd, const auto &visit)
+{
+    for (int i = 0; i < ppd.num_groups; ++i)
+        walk(ppd.groups[i], visit);
+}
+
+PpdOption optionFrom(const ppd_option_t &option)
+{
+    PpdOption copy{textFrom(option.keyword),
+                   textFrom(option.text),
+                   textFrom(option.defchoice),
+                   option.ui == PPD_UI_PICKMANY,
+                   {}};
+    copy.choices.reserve(static_cast<std::size_t>(option.num_choices));
+    for (int i = 0; i < option.num_choices; ++i)
+        copy.choices.push_back(
+            {textFrom(option.choices[i].choice), textFrom(option.choices[i].text)});
+    return copy;
+}
+
+// The page sizes that can be chosen by name: "Custom" has no size of its own.
+std::vector<PpdPageSize> pageSizesFrom(const ppd_file_t &ppd)
+{
+    std::vector<PpdPageSize> sizes;
+    for (int i = 0; i < ppd.num_sizes; ++i) {
+        const ppd_size_t &size = ppd.sizes[i];
+        const double edges[] = {size.width,  size.length, size.left,
+                                size.bottom, size.right,  size.top};
+        const bool finite = std::all_of(std::begin(edges), std::end(edges),
+                                        [](double edge) { return std::isfinite(edge); });
+        if (!finite || size.width <= 0 || size.length <= 0 || std::strcmp(size.name, "Custom") == 0)
+            continue;
+        sizes.push_back(
+            {textFrom(size.name), edges[0], edges[1], edges[2], edges[3], edges[4], edges[5]});
+    }
+    return sizes;
+}
+
+// The option and choice exist; "Custom.WxH" is a choice where custom ones are.
+bool isOffered(ppd_file_t *ppd, const QByteArray &option, const QByteArray &choice)
+{
+    ppd_option_t *found = ppdFindOption(ppd, option.constData());
+    return found && !choice.isEmpty() && ppdFindChoice(found, choice.constData());
+}
+
+bool mark(ppd_file_t *ppd, const QString &option, const QString &choice)
+{
+    const QByteArray keyword = option.toUtf8();
+    const QByteArray value = choice.toUtf8();
+    if (!isOffered(ppd, keyword, value))
+        return false;
+    return ppdMarkOption(ppd, keyword.constData(), value.constData()) != 0;
+}
+
+void markSelection(ppd_file_t *ppd, const PpdSelection &selection)
+{
+    ppdMarkDefaults(ppd);
+    for (auto choice = selection.cbegin(); choice != selection.cend(); ++choice)
+        mark(ppd, choice.key(), choice.value());
+}
+
+// A list of options that libcups made.
+class OptionList
+{
+public:
+    OptionList() = default;
+    ~OptionList() { cupsFreeOptions(count, options); }
+    OptionList(const OptionList &) = delete;
+    OptionList &operator=(const OptionList &) = delete;
+
+    int count = 0;
+    cups_option_t *options = nullptr;
+};
+
+} // namespace
+
+struct PpdFile::Private
+{
+    QString path;
+    QByteArray bytes;
+    std::shared_ptr<ppd_file_t> ppd;
+    std::shared_ptr<ppd_file_t> constraints; // the same file again, for marks of its own
+    std::vector<PpdGroup> groups;
+    QHash<const ppd_option_t *, const PpdOption *> options; // into groups
+    std::vector<PpdPageSize> pageSizes;
+
+    // Null only when memory ran out: the same bytes were opened before.
+    ppd_file_t *constraintMarks()
+    {
+        if (!constraints) {
+            if (auto opened = openBytes(bytes, path))
+                constraints = opened.value();
+        }
+        return constraints.get();
+    }
+};
+
+const PpdChoice *PpdOption::findChoice(const QString &wanted) const
+{
+    const auto found = std::find_if(choices.begin(), choices.end(),
+                                    [&](const PpdChoice &c) { return c.keyword == wanted; });
+    return found == choices.end() ? nullptr : &*found;
+}
+
+PpdFile::PpdFile()
+    : d(std::make_unique<Private>())
+{
+}
+PpdFile::~PpdFile() = default;
+
+Result<std::shared_ptr<PpdFile>> PpdFile::open(const QString &path)
+{
+    auto bytes = readFile(path, limits::ppdBytes);
+    if (!bytes)
+        return bytes.error();
+    return fromBytes(std::move(bytes).value(), path);
+}
+
+Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, const QString &path)
+{
+    if (bytes.size() > limits::ppdBytes)
+        return Error{Code::TooLarge, path,
+                     QStringLiteral("more than %1 bytes").arg(limits::ppdBytes)};
+    // libcups would unpack it, to any size.
+    if (bytes.startsWith("\x1f\x8b"))
+        return Error{Code::Unsupported, path,
+                     QStringLiteral("compressed; unpack it with gunzip first")};
+    auto opened = openBytes(bytes, path);
+    if (!opened)
+        return opened.error();
+
+    std::shared_ptr<PpdFile> file(new PpdFile);
+    Private &d = *file->d;
+    d.path = path;
+    d.bytes = bytes;
+    d.ppd = opened.value();
+    ppdMarkDefaults(d.ppd.get());
+    d.pageSizes = pageSizesFrom(*d.ppd);
+    d.groups.reserve(static_cast<std::size_t>(d.ppd->num_groups));
+    for (int i = 0; i < d.ppd->num_groups; ++i) {
+        const ppd_group_t &group = d.ppd->groups[i];
+        PpdGroup &copy =
+            d.groups.emplace_back(PpdGroup{textFrom(group.name), textFrom(group.text), {}});
+        std::vector<const ppd_option_t *> originals;
+        walk(group, [&](const ppd_option_t &option) {
+            originals.push_back(&option);
+            copy.options.push_back(optionFrom(option));
+        });
+        for (std::size_t at = 0; at < originals.size(); ++at)
+            d.options.insert(originals[at], &copy.options[at]);
+    }
+    return file;
+}
+
+const QString &PpdFile::path() const
+{
+    return d->path;
+}
+
+QString PpdFile::manufacturer() const
+{
+    return textFrom(d->ppd->manufacturer);
+}
+
+QString PpdFile::modelName() const
+{
+    const char *nickname = d->ppd->nickname;
+    return textFrom(nickname && *nickname ? nickname : d->ppd->modelname);
+}
+
+QString PpdFile::languageEncoding() const
+{
+    return textFrom(d->ppd->lang_encoding);
+}
+
+bool PpdFile::isColorDevice() const
+{
+    return d->ppd->color_device != 0;
+}
+
+std::optional<QString> PpdFile::attribute(const char *keyword) const
+{
+    const ppd_attr_t *attribute = ppdFindAttr(d->ppd.get(), keyword, nullptr);
+    if (!attribute || !attribute->value)
+        return std::nullopt;
+    return textFrom(attribute->value);
+}
+
+QStringList PpdFile::attributes(const char *keyword) const
+{
+    QStringList values;
+    for (const ppd_attr_t *attribute = ppdFindAttr(d->ppd.get(), keyword, nullptr); attribute;
+         attribute = ppdFindNextAttr(d->ppd.get(), keyword, nullptr)) {
+        if (attribute->value)
+            values << textFrom(attribute->value);
+    }
+    return values;
+}
+
+const std::vector<PpdGroup> &PpdFile::groups() const
+{
+    return d->groups;
+}
+
+const PpdOption *PpdFile::findOption(const QString &keyword) const
+{
+    return d->options.value(ppdFindOption(d->ppd.get(), keyword.toUtf8().constData()));
+}
+
+const std::vector<PpdPageSize> &PpdFile::pageSizes() const
+{
+    return d->pageSizes;
+}
+
+const PpdPageSize *PpdFile::findPageSize(const QString &name) const
+{
+    const auto found = std::find_if(d->pageSizes.begin(), d->pageSizes.end(),
+                                    [&](const PpdPageSize &size) { return size.name == name; });
+    return found == d->pageSizes.end() ? nullptr : &*found;
+}
+
+std::optional<CustomPageLimits> PpdFile::customPageLimits() const
+{
+    const ppd_file_t &ppd = *d->ppd;
+    const CustomPageLimits limits{ppd.custom_min[0], ppd.custom_min[1], ppd.custom_max[0],
+                                  ppd.custom_max[1]};
+    // Comparisons that NaN fails too.
+    const bool plausible = limits.minWidth >= 0 && limits.minHeight >= 0 && limits.maxWidth > 0
+        && limits.maxHeight > 0 && limits.minWidth <= limits.maxWidth
+        && limits.minHeight <= limits.maxHeight && std::isfinite(limits.maxWidth)
+        && std::isfinite(limits.maxHeight);
+    if (!ppd.variable_sizes || !plausible)
+        return std::nullopt;
+    return limits;
+}
+
+void PpdFile::markDefaults()
+{
+    ppdMarkDefaults(d->ppd.get());
+}
+
+bool PpdFile::mark(const QString &option, const QString &choice)
+{
+    return kelvo::mark(d->ppd.get(), option, choice);
+}
+
+std::optional<QString> PpdFile::markedChoice(const QString &option) const
+{
+    const ppd_choice_t *choice = ppdFindMarkedChoice(d->ppd.get(), option.toUtf8().constData());
+    if (!choice)
+        return std::nullopt;
+    return textFrom(choice->choice);
+}
+
+std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
+{
+    ppd_file_t *ppd = d->constraintMarks();
+    if (!ppd)
+        return {};
+    markSelection(ppd, selection);
+    if (ppdConflicts(ppd) == 0) // marks the options concerned
+        return {};
+
+    // libcups tells for one option all that it conflicts with. An option in two
+    // conflicts names both at once, but the others name each by itself: what
+    // holds another group is dropped.
+    std::vector<std::set<QString>> groups;
+    QStringList order;
+    walk(*ppd, [&](const ppd_option_t &option) {
+        order << textFrom(option.keyword);
+        if (!option.conflicted)
+            return;
+        for (int i = 0; i < option.num_choices; ++i) {
+            if (!option.choices[i].marked)
+                continue;
+            OptionList others;
+            others.count =
+                cupsGetConflicts(ppd, option.keyword, option.choices[i].choice, &others.options);
+            if (others.count == 0)
+                continue;
+            std::set<QString> group{textFrom(option.keyword)};
+            for (int at = 0; at < others.count; ++at)
+                group.insert(textFrom(others.options[at].name));
+            groups.push_back(std::move(group));
+        }
+    });
+    std::sort(groups.begin(), groups.end());
+    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
+    std::vector<PpdConflict> conflicts;
+    for (const auto &group : groups) {
+        const bool holdsAnother = std::any_of(groups.begin(), groups.end(), [&](const auto &other) {
+            return other.size() < group.size()
+                && std::includes(group.begin(), group.end(), other.begin(), other.end());
+        });
+        if (!holdsAnother)
+            conflicts.push_back({QStringList(group.begin(), group.end())});
+    }
+    // In the PPD's order, within a conflict and between them.
+    QHash<QString, qsizetype> position;
+    for (qsizetype i = order.size(); i-- > 0;)
+        position.insert(order[i], i);
+    for (PpdConflict &conflict : conflicts)
+        std::sort(conflict.options.begin(), conflict.options.end(),
+                  [&](const QString &a, const QString &b) { return position[a] < position[b]; });
+    std::sort(conflicts.begin(), conflicts.end(), [&](const auto &a, const auto &b) {
+        return std::lexicographical_compare(
+            a.options.begin(), a.options.end(), b.options.begin(), b.options.end(),
+            [&](const QString &x, const QString &y) { return position[x] < position[y]; });
+    });
+    return conflicts;
+}
+
+std::optional<PpdSelection> PpdFile::resolve(const PpdSelection &selection, const QString &keep)
+{
+    ppd_file_t *ppd = d->constraintMarks();
+    if (!ppd)
+        return std::nullopt;
+    markSelection(ppd, selection);
+    if (ppdConflicts(ppd) == 0)
+        return PpdSelection();
+
+    const QByteArray kept = keep.toUtf8();
+    const ppd_choice_t *keptChoice =
+        kept.isEmpty() ? nullptr : ppdFindMarkedChoice(ppd, kept.constData());
+    // First with what the user has just set; where that must give way, without.
+    for (const ppd_choice_t *fixed : {keptChoice, static_cast<const ppd_choice_t *>(nullptr)}) {
+        OptionList found;
+        const int resolved =
+            cupsResolveConflicts(ppd, fixed ? kept.constData() : nullptr,
+                                 fixed ? fixed->choice : nullptr, &found.count, &found.options);
+        if (!resolved)
+            continue;
+        PpdSelection changes;
+        for (int i = 0; i < found.count; ++i) {
+            const cups_option_t &change = found.options[i];
+            const ppd_choice_t *now = ppdFindMarkedChoice(ppd, change.name);
+            if (!now || std::strcmp(now->choice, change.value) != 0)
+                changes.insert(textFrom(change.name), textFrom(change.value));
+        }
+        // Believed only when it really ends every conflict.
+        for (auto change = changes.cbegin(); change != changes.cend(); ++change)
+            kelvo::mark(ppd, change.key(), change.value());
+        if (ppdConflicts(ppd) == 0)
+            return changes;
+        markSelection(ppd, selection);
+    }
+    return std::nullopt;
+}
+
+} // namespace kelvo

@@ -1,0 +1,710 @@
+#include "property_list.h"
+
+#include "file_store.h"
+#include "size_limits.h"
+#include "values.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QTimeZone>
+
+#include <expat.h>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+// The elements of a property list. Root is the list itself; it and the two
+// containers hold values, the rest hold text or nothing.
+enum class Element { Root, Dictionary, Array, Key, String, Integer, Real, Date, Data, True, False };
+
+struct ElementName
+{
+    std::string_view name;
+    Element element;
+};
+
+constexpr ElementName elementNames[] = {
+    {"key", Element::Key},         {"string", Element::String}, {"integer", Element::Integer},
+    {"dict", Element::Dictionary}, {"true", Element::True},     {"false", Element::False},
+    {"array", Element::Array},     {"real", Element::Real},     {"data", Element::Data},
+    {"date", Element::Date},       {"plist", Element::Root},
+};
+
+std::optional<Element> findElement(std::string_view name)
+{
+    for (const ElementName &row : elementNames) {
+        if (row.name == name)
+            return row.element;
+    }
+    return std::nullopt;
+}
+
+bool isContainer(Element element)
+{
+    return element == Element::Root || element == Element::Dictionary || element == Element::Array;
+}
+
+bool isSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+// Never null: an empty text in a file is a text.
+QString textFrom(std::string_view utf8)
+{
+    if (utf8.empty())
+        return QLatin1String("");
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+// Decimal or 0x hexadecimal with an optional sign, within signed 64 bits.
+std::optional<qint64> integerFrom(std::string_view text)
+{
+    bool negative = false;
+    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
+        negative = text.front() == '-';
+        text.remove_prefix(1);
+    }
+    int base = 10;
+    if (text.starts_with("0x") || text.starts_with("0X")) {
+        base = 16;
+        text.remove_prefix(2);
+    }
+    quint64 magnitude = 0;
+    const char *end = text.data() + text.size();
+    const auto parsed = std::from_chars(text.data(), end, magnitude, base);
+    if (parsed.ec != std::errc() || parsed.ptr != end)
+        return std::nullopt;
+    constexpr quint64 most = std::numeric_limits<qint64>::max();
+    if (magnitude > most + (negative ? 1 : 0))
+        return std::nullopt;
+    return static_cast<qint64>(negative ? 0 - magnitude : magnitude);
+}
+
+std::optional<double> realFrom(std::string_view text)
+{
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
+    double number = 0;
+    const char *end = text.data() + text.size();
+    const auto parsed = std::from_chars(text.data(), end, number);
+    if (parsed.ec != std::errc() || parsed.ptr != end || !std::isfinite(number))
+        return std::nullopt;
+    return number;
+}
+
+// YYYY-MM-DDTHH:MM:SSZ and nothing else.
+std::optional<QDateTime> dateFrom(std::string_view text)
+{
+    constexpr std::string_view shape = "dddd-dd-ddTdd:dd:ddZ";
+    if (text.size() != shape.size())
+        return std::nullopt;
+    for (std::size_t i = 0; i < shape.size(); ++i) {
+        if (shape[i] == 'd' ? text[i] < '0' || text[i] > '9' : text[i] != shape[i])
+            return std::nullopt;
+    }
+    const auto number = [text](std::size_t at, std::size_t digits) {
+        int value = 0;
+        for (const char digit : text.substr(at, digits))
+            value = value * 10 + (digit - '0');
+        return value;
+    };
+    const QDate date(number(0, 4), number(5, 2), number(8, 2));
+    const QTime time(number(11, 2), number(14, 2), number(17, 2));
+    if (!date.isValid() || !time.isValid())
+        return std::nullopt;
+    return QDateTime(date, time, Qt::UTC);
+}
+
+std::optional<QByteArray> dataFrom(QByteArray text)
+{
+    text.removeIf(isSpace);
+    // Unpadded groups would be taken too; a file that was cut off must not be.
+    if (text.size() % 4 != 0)
+        return std::nullopt;
+    auto decoded = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
+    if (!decoded)
+        return std::nullopt;
+    return std::move(decoded.decoded);
+}
+
+// Dictionary keys, shared: long lists repeat a few keys in every entry. What is
+// kept is bounded, so that a list of distinct keys does not stand in memory twice.
+class KeyCache
+{
+public:
+    QString text(const QByteArray &utf8)
+    {
+        constexpr qsizetype longestKey = 128, mostKeys = 4096;
+        if (utf8.size() > longestKey)
+            return textFrom({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+        const auto found = m_keys.constFind(utf8);
+        if (found != m_keys.constEnd())
+            return *found;
+        const QString key = textFrom({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+        if (m_keys.size() < mostKeys)
+            m_keys.insert(QByteArray(utf8.constData(), utf8.size()), key);
+        return key;
+    }
+
+private:
+    QHash<QByteArray, QString> m_keys;
+};
+
+class Parser
+{
+public:
+    Parser()
+        : m_expat(XML_ParserCreate(nullptr), &XML_ParserFree)
+    {
+    }
+
+    Result<QVariant> parse(const QByteArray &xml, const QString &name);
+
+private:
+    // A container that is being filled.
+    struct Frame
+    {
+        Element element;
+        Dictionary dictionary;
+        Array array;
+        QString key;
+        bool hasKey = false;
+    };
+
+    void begin(std::string_view name);
+    void end();
+    void text(std::string_view part);
+    void add(QVariant value);
+    void finishText(Element element);
+    void fail(Code code, const QString &detail);
+
+    static Parser &of(void *user) { return *static_cast<Parser *>(user); }
+
+    std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> m_expat;
+    std::vector<Frame> m_frames;
+    std::optional<Element> m_leaf; // the element whose text is being collected
+    QByteArray m_text;
+    KeyCache m_keys;
+    qint64 m_nodes = 0;
+    std::optional<QVariant> m_list;
+    std::optional<Error> m_error; // where: still without the name
+    quint64 m_errorLine = 0;
+};
+
+void Parser::fail(Code code, const QString &detail)
+{
+    if (m_error)
+        return;
+    m_error = Error{code, {}, detail};
+    m_errorLine = XML_GetCurrentLineNumber(m_expat.get());
+    XML_StopParser(m_expat.get(), XML_FALSE);
+}
+
+void Parser::begin(std::string_view name)
+{
+    // Expat still reports the end of an empty element after it was stopped.
+    if (m_error)
+        return;
+    const auto element = findElement(name);
+    if (!element)
+        return fail(Code::Damaged,
+                    QStringLiteral("<%1> is no element of a property list").arg(textFrom(name)));
+    if (m_leaf)
+        return fail(Code::Damaged,
+                    QStringLiteral("<%1> stands inside a value").arg(textFrom(name)));
+    if ((*element == Element::Root) != m_frames.empty())
+        return fail(Code::Damaged, QStringLiteral("<plist> must be the outermost element"));
+    if (*element == Element::Root) {
+        m_frames.push_back({*element, {}, {}, {}});
+        return;
+    }
+
+    Frame &frame = m_frames.back();
+    if (*element == Element::Key) {
+        if (frame.element != Element::Dictionary || frame.hasKey)
+            return fail(Code::Damaged, QStringLiteral("<key> stands where a value is due"));
+    } else {
+        if (frame.element == Element::Dictionary && !frame.hasKey)
+            return fail(Code::Damaged, QStringLiteral("a value stands where <key> is due"));
+        if (frame.element == Element::Root && m_list)
+            return fail(Code::Damaged, QStringLiteral("holds more than one value"));
+        if (++m_nodes > limits::plistNodes)
+            return fail(Code::TooLarge,
+                        QStringLiteral("more than %1 values").arg(limits::plistNodes));
+    }
+    if (!isContainer(*element)) {
+        m_leaf = *element;
+        m_text.resize(0); // keeps its memory
+        return;
+    }
+    if (m_frames.size() > static_cast<std::size_t>(limits::plistDepth)) // one is <plist>
+        return fail(Code::TooLarge,
+                    QStringLiteral("nested more than %1 deep").arg(limits::plistDepth));
+    m_frames.push_back({*element, {}, {}, {}});
+}
+
+void Parser::end()
+{
+    if (m_error)
+        return;
+    if (m_leaf) {
+        const Element element = *m_leaf;
+        m_leaf.reset();
+        return finishText(element);
+    }
+    Frame frame = std::move(m_frames.back());
+    m_frames.pop_back();
+    switch (frame.element) {
+    case Element::Dictionary:
+        if (frame.hasKey)
+            return fail(Code::Damaged,
+                        QStringLiteral("the key \"%1\" has no value").arg(frame.key));
+        return add(frame.dictionary);
+    case Element::Array:
+        return add(frame.array);
+    default:
+        if (!m_list)
+            fail(Code::Damaged, QStringLiteral("holds no value"));
+    }
+}
+
+void Parser::text(std::string_view part)
+{
+    if (m_error)
+        return;
+    if (m_leaf) {
+        m_text.append(part.data(), static_cast<qsizetype>(part.size()));
+        return;
+    }
+    if (!trimmed(part).empty())
+        fail(Code::Damaged, QStringLiteral("text stands outside a value"));
+}
+
+void Parser::finishText(Element element)
+{
+    const std::string_view whole(m_text.constData(), static_cast<std::size_t>(m_text.size()));
+    const auto refuse = [this](Code code, const QString &what) {
+        fail(code,
+             QStringLiteral("\"%1\" is no %2")
+                 .arg(QString::fromUtf8(m_text.left(60)).trimmed(), what));
+    };
+    switch (element) {
+    case Element::Key:
+        m_frames.back().key = m_keys.text(m_text);
+        m_frames.back().hasKey = true;
+        return;
+    case Element::String:
+        return add(textFrom(whole));
+    case Element::Integer:
+        if (const auto number = integerFrom(trimmed(whole)))
+            return add(*number);
+        return refuse(Code::OutOfRange, QStringLiteral("signed 64-bit integer"));
+    case Element::Real:
+        if (const auto number = realFrom(trimmed(whole)))
+            return add(*number);
+        return refuse(Code::OutOfRange, QStringLiteral("finite number"));
+    case Element::Date:
+        if (const auto date = dateFrom(trimmed(whole)))
+            return add(*date);
+        return refuse(Code::Damaged, QStringLiteral("date of the form 2024-01-31T12:00:00Z"));
+    case Element::Data:
+        if (auto data = dataFrom(m_text))
+            return add(*std::move(data));
+        return refuse(Code::Damaged, QStringLiteral("base64"));
+    case Element::True:
+    case Element::False:
+        if (!trimmed(whole).empty())
+            return refuse(Code::Damaged, QStringLiteral("content of <true/> or <false/>"));
+        return add(element == Element::True);
+    case Element::Root:
+    case Element::Dictionary:
+    case Element::Array:
+        break;
+    }
+    Q_UNREACHABLE();
+}
+
+void Parser::add(QVariant value)
+{
+    Frame &frame = m_frames.back();
+    switch (frame.element) {
+    case Element::Dictionary: {
+        // Files of our own are sorted: the end is the right hint for them.
+        const qsizetype before = frame.dictionary.size();
+        frame.dictionary.insert(frame.dictionary.cend(), frame.key, std::move(value));
+        frame.hasKey = false;
+        if (frame.dictionary.size() == before)
+            fail(Code::Damaged, QStringLiteral("the key \"%1\" stands twice").arg(frame.key));
+        return;
+    }
+    case Element::Array:
+        frame.array.append(std::move(value));
+        return;
+    default:
+        m_list = std::move(value);
+    }
+}
+
+Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
+{
+    XML_Parser expat = m_expat.get();
+    if (!expat)
+        return Error{Code::NotReadable, name, QStringLiteral("out of memory")};
+    XML_SetUserData(expat, this);
+    XML_SetElementHandler(
+        expat,
+        [](void *user, const XML_Char *element, const XML_Char **) { of(user).begin(element); },
+        [](void *user, const XML_Char *) { of(user).end(); });
+    XML_SetCharacterDataHandler(expat, [](void *user, const XML_Char *part, int size) {
+        of(user).text({part, static_cast<std::size_t>(size)});
+    });
+    // Entities of a file's own could grow without bounds or name other files,
+    // and those that are not declared would be dropped silently.
+    XML_SetEntityDeclHandler(expat,
+                             [](void *user, const XML_Char *, int, const XML_Char *, int,
+                                const XML_Char *, const XML_Char *, const XML_Char *,
+                                const XML_Char *) {
+                                 of(user).fail(Code::Damaged, QStringLiteral("declares an entity"));
+                             });
+    XML_SetSkippedEntityHandler(expat, [](void *user, const XML_Char *entity, int) {
+        of(user).fail(
+            Code::Damaged,
+            QStringLiteral("uses the unknown entity \"%1\"").arg(QString::fromUtf8(entity)));
+    });
+
+    const XML_Status status = XML_Parse(expat, xml.constData(), static_cast<int>(xml.size()), 1);
+    if (!m_error && status == XML_STATUS_OK && m_list)
+        return *std::move(m_list);
+    if (!m_error) {
+        const char *reason = XML_ErrorString(XML_GetErrorCode(expat));
+        fail(Code::Damaged, QString::fromUtf8(reason ? reason : "not XML"));
+    }
+    m_error->where = QStringLiteral("%1, line %2").arg(name).arg(m_errorLine);
+    return *std::move(m_error);
+}
+
+class Writer
+{
+public:
+    Result<QByteArray> write(const QVariant &list);
+
+private:
+    // One step of the key path that is being written; the steps stand on the
+    // stack, so that a path costs nothing until it is needed.
+    struct Step
+    {
+        const Step *outer;
+        const QString *key; // null in an array
+        qsizetype index;
+    };
+
+    bool value(const QVariant &variant, int depth, const Step *path);
+    bool dictionary(const Dictionary &dictionary, int depth, const Step *path);
+    template <typename List>
+    bool array(const List &list, int depth, const Step *path);
+    bool text(const char *element, const QString &string, const Step *path);
+    bool date(const QDateTime &moment, const Step *path);
+    bool real(double number, const Step *path);
+    void integer(auto number);
+    bool escaped(const QString &string);
+    bool mayNest(int depth, const Step *path);
+    bool fail(Code code, const QString &detail, const Step *path);
+    void indent(int depth) { m_out.append(depth, '\t'); }
+
+    QByteArray m_out;
+    qint64 m_nodes = 0;
+    std::optional<Error> m_error;
+};
+
+bool Writer::fail(Code code, const QString &detail, const Step *path)
+{
+    QString where;
+    for (const Step *step = path; step; step = step->outer) {
+        const QString name = step->key ? *step->key : QString::number(step->index);
+        where = where.isEmpty() ? name : name + u'/' + where;
+    }
+    m_error = Error{code, where.isEmpty() ? QStringLiteral("property list") : where, detail};
+    return false;
+}
+
+// A container may begin at `depth`, which is 0 for the outermost value.
+bool Writer::mayNest(int depth, const Step *path)
+{
+    return depth < limits::plistDepth
+        || fail(Code::TooLarge, QStringLiteral("nested more than %1 deep").arg(limits::plistDepth),
+                path);
+}
+
+// Appends `string` as UTF-8; false when it holds what XML cannot.
+bool Writer::escaped(const QString &string)
+{
+    const QChar *unit = string.constData();
+    const QChar *const end = unit + string.size();
+    std::array<char, 256> part;
+    std::size_t used = 0;
+    const auto flush = [&] {
+        m_out.append(part.data(), static_cast<qsizetype>(used));
+        used = 0;
+    };
+    const auto put = [&](std::string_view bytes) {
+        for (const char byte : bytes)
+            part[used++] = byte;
+    };
+    for (; unit != end; ++unit) {
+        if (used > part.size() - 8) // room for the longest replacement
+            flush();
+        char32_t code = unit->unicode();
+        if (code < 0x80) {
+            switch (code) {
+            case '&':
+                put("&amp;");
+                break;
+            case '<':
+                put("&lt;");
+                break;
+            case '>':
+                put("&gt;");
+                break;
+            case '\r': // bare, it would be read as a newline
+                put("&#13;");
+                break;
+            default:
+                if (code < 0x20 && code != '\t' && code != '\n')
+                    return false;
+                part[used++] = static_cast<char>(code);
+            }
+            continue;
+        }
+        if (unit->isHighSurrogate() && unit + 1 != end && unit[1].isLowSurrogate()) {
+            code = QChar::surrogateToUcs4(unit[0], unit[1]);
+            ++unit;
+        } else if (unit->isSurrogate() || code == 0xFFFE || code == 0xFFFF) {
+            return false;
+        }
+        const auto tail = [&](int shift) {
+            part[used++] = static_cast<char>(0x80 | (code >> shift & 0x3F));
+        };
+        if (code < 0x800) {
+            part[used++] = static_cast<char>(0xC0 | code >> 6);
+        } else if (code < 0x10000) {
+            part[used++] = static_cast<char>(0xE0 | code >> 12);
+            tail(6);
+        } else {
+            part[used++] = static_cast<char>(0xF0 | code >> 18);
+            tail(12);
+            tail(6);
+        }
+        tail(0);
+    }
+    flush();
+    return true;
+}
+
+bool Writer::text(const char *element, const QString &string, const Step *path)
+{
+    m_out.append('<').append(element).append('>');
+    if (!escaped(string))
+        return fail(Code::Unsupported,
+                    QStringLiteral("the %1 holds a character that XML cannot hold")
+                        .arg(QLatin1String(element)),
+                    path);
+    m_out.append("</").append(element).append(">\n");
+    return true;
+}
+
+bool Writer::date(const QDateTime &moment, const Step *path)
+{
+    const QDateTime utc = moment.toUTC();
+    if (!utc.isValid() || utc.date().year() < 1 || utc.date().year() > 9999)
+        return fail(Code::OutOfRange, QStringLiteral("a date outside the years 1 to 9999"), path);
+    m_out.append("<date>")
+        .append(utc.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ssZ")).toLatin1())
+        .append("</date>\n");
+    return true;
+}
+
+void Writer::integer(auto number)
+{
+    std::array<char, 24> digits; // a sign and 20 digits are the most
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    m_out.append("<integer>").append(digits.data(), end - digits.data()).append("</integer>\n");
+}
+
+bool Writer::real(double number, const Step *path)
+{
+    if (!std::isfinite(number))
+        return fail(Code::OutOfRange, QStringLiteral("a number that is not finite"), path);
+    std::array<char, 32> digits; // the shortest form has at most 24 characters
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    m_out.append("<real>").append(digits.data(), end - digits.data()).append("</real>\n");
+    return true;
+}
+
+bool Writer::dictionary(const Dictionary &dictionary, int depth, const Step *path)
+{
+    if (!mayNest(depth, path))
+        return false;
+    if (dictionary.isEmpty()) {
+        m_out.append("<dict/>\n");
+        return true;
+    }
+    m_out.append("<dict>\n");
+    for (auto entry = dictionary.cbegin(); entry != dictionary.cend(); ++entry) {
+        const Step step{path, &entry.key(), 0};
+        indent(depth + 1);
+        if (!text("key", entry.key(), &step))
+            return false;
+        indent(depth + 1);
+        if (!value(entry.value(), depth + 1, &step))
+            return false;
+    }
+    indent(depth);
+    m_out.append("</dict>\n");
+    return true;
+}
+
+template <typename List>
+bool Writer::array(const List &list, int depth, const Step *path)
+{
+    if (!mayNest(depth, path))
+        return false;
+    if (list.isEmpty()) {
+        m_out.append("<array/>\n");
+        return true;
+    }
+    m_out.append("<array>\n");
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        const Step step{path, nullptr, i};
+        indent(depth + 1);
+        if (!value(list[i], depth + 1, &step))
+            return false;
+    }
+    indent(depth);
+    m_out.append("</array>\n");
+    return true;
+}
+
+bool Writer::value(const QVariant &variant, int depth, const Step *path)
+{
+    if (++m_nodes > limits::plistNodes)
+        return fail(Code::TooLarge, QStringLiteral("more than %1 values").arg(limits::plistNodes),
+                    path);
+    if (m_out.size() > limits::plistBytes)
+        return fail(Code::TooLarge, QStringLiteral("more than %1 bytes").arg(limits::plistBytes),
+                    path);
+    const void *stored = variant.constData();
+    switch (variant.typeId()) {
+    case QMetaType::Bool:
+        m_out.append(*static_cast<const bool *>(stored) ? "<true/>\n" : "<false/>\n");
+        return true;
+    case QMetaType::QString:
+        return text("string", *static_cast<const QString *>(stored), path);
+    case QMetaType::QVariantMap:
+        return dictionary(*static_cast<const Dictionary *>(stored), depth, path);
+    case QMetaType::QVariantList:
+        return array(*static_cast<const Array *>(stored), depth, path);
+    case QMetaType::QStringList:
+        return array(*static_cast<const QStringList *>(stored), depth, path);
+    case QMetaType::Double:
+        return real(*static_cast<const double *>(stored), path);
+    case QMetaType::Float: // as a double, so that the value stays what it is
+        return real(static_cast<double>(*static_cast<const float *>(stored)), path);
+    case QMetaType::QByteArray:
+        m_out.append("<data>")
+            .append(static_cast<const QByteArray *>(stored)->toBase64())
+            .append("</data>\n");
+        return true;
+    case QMetaType::QDateTime:
+        return date(*static_cast<const QDateTime *>(stored), path);
+    default:
+        break;
+    }
+    switch (variant.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::LongLong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+    case QMetaType::ULong:
+    case QMetaType::ULongLong:
+        if (const auto number = integer64(variant)) {
+            integer(*number);
+            return true;
+        }
+        return fail(Code::OutOfRange, QStringLiteral("an integer beyond signed 64 bits"), path);
+    default:
+        return fail(Code::WrongType,
+                    variant.isValid() ? QStringLiteral("a property list holds no %1")
+                                            .arg(QLatin1String(variant.typeName()))
+                                      : QStringLiteral("there is no value"),
+                    path);
+    }
+}
+
+Result<QByteArray> Writer::write(const QVariant &list)
+{
+    m_out.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                 "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                 "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                 "<plist version=\"1.0\">\n");
+    if (!value(list, 0, nullptr))
+        return *std::move(m_error);
+    m_out.append("</plist>\n");
+    if (m_out.size() > limits::plistBytes)
+        return Error{Code::TooLarge, QStringLiteral("property list"),
+                     QStringLiteral("more than %1 bytes").arg(limits::plistBytes)};
+    return std::move(m_out);
+}
+
+} // namespace
+
+Result<QVariant> CFPropertyListCreateFromXMLData(const QByteArray &xml, const QString &name)
+{
+    if (xml.size() > limits::plistBytes)
+        return Error{Code::TooLarge, name,
+                     QStringLiteral("more than %1 bytes").arg(limits::plistBytes)};
+    if (xml.startsWith("bplist"))
+        return Error{Code::Unsupported, name,
+                     QStringLiteral("a binary property list; only the XML form is read")};
+    return Parser().parse(xml, name);
+}
+
+Result<QByteArray> CFPropertyListCreateXMLData(const QVariant &list)
+{
+    return Writer().write(list);
+}
+
+Result<QVariant> readPropertyList(const QString &path)
+{
+    const auto bytes = readFile(path, limits::plistBytes);
+    if (!bytes)
+        return bytes.error();
+    return CFPropertyListCreateFromXMLData(bytes.value(), path);
+}
+
+} // namespace kelvo

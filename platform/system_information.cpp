@@ -1,0 +1,119 @@
+#include "system_information.h"
+
+#include "file_store.h"
+#include "size_limits.h"
+
+#include <QList>
+
+#include <systemd/sd-login.h>
+
+#include <arpa/inet.h>
+#include <ifaddrs.h>
+#include <net/if.h>
+#include <netinet/in.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <memory>
+#include <vector>
+
+namespace kelvo {
+
+namespace {
+
+std::optional<QString> nameOf(uid_t user)
+{
+    // getpwuid_r does not say how much it needs; 1 MiB is beyond any real entry.
+    for (std::size_t size = 1024; size <= 1024 * 1024; size *= 4) {
+        std::vector<char> buffer(size);
+        passwd entry{};
+        passwd *found = nullptr;
+        const int status = getpwuid_r(user, &entry, buffer.data(), buffer.size(), &found);
+        if (status == ERANGE)
+            continue;
+        if (status != 0 || !found || !entry.pw_name || !*entry.pw_name)
+            return std::nullopt;
+        return QString::fromUtf8(entry.pw_name);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<QString> consoleUser()
+{
+    // The owner of the session or user service that started this process: it
+    // stays the person at the desk where the program runs under sudo.
+    uid_t owner = 0;
+    if (sd_pid_get_owner_uid(0, &owner) >= 0) {
+        if (auto name = nameOf(owner))
+            return name;
+    }
+    return nameOf(geteuid());
+}
+
+std::optional<QString> computerName()
+{
+    std::array<char, 257> name{}; // a Linux host name has at most 64 bytes
+    if (gethostname(name.data(), name.size() - 1) != 0 || name[0] == '\0')
+        return std::nullopt;
+    return QString::fromUtf8(name.data());
+}
+
+std::optional<QByteArray> defaultRouteInterface(const QByteArray &routeTable)
+{
+    // Iface Destination Gateway Flags RefCnt Use Metric Mask MTU Window IRTT;
+    // addresses and flags in hexadecimal, the metric in decimal.
+    constexpr qsizetype destinationColumn = 1, flagsColumn = 3, metricColumn = 6, maskColumn = 7;
+    constexpr uint upAndGateway = 3;
+
+    std::optional<QByteArray> best;
+    uint bestMetric = 0;
+    for (const QByteArray &line : routeTable.split('\n')) {
+        const QList<QByteArray> columns = line.simplified().split(' ');
+        if (columns.size() <= maskColumn)
+            continue;
+        bool isNumber[4] = {};
+        const uint destination = columns[destinationColumn].toUInt(&isNumber[0], 16);
+        const uint flags = columns[flagsColumn].toUInt(&isNumber[1], 16);
+        const uint metric = columns[metricColumn].toUInt(&isNumber[2]);
+        const uint mask = columns[maskColumn].toUInt(&isNumber[3], 16);
+        if (!(isNumber[0] && isNumber[1] && isNumber[2] && isNumber[3]) || destination != 0
+            || mask != 0 || (flags & upAndGateway) != upAndGateway)
+            continue;
+        if (!best || metric < bestMetric) {
+            best = columns[0];
+            bestMetric = metric;
+        }
+    }
+    return best;
+}
+
+std::optional<QString> primaryIPv4Address()
+{
+    const auto table = readFile(QStringLiteral("/proc/net/route"), limits::MiB);
+    if (!table)
+        return std::nullopt;
+    const auto interface = defaultRouteInterface(table.value());
+    if (!interface)
+        return std::nullopt;
+
+    ifaddrs *first = nullptr;
+    if (getifaddrs(&first) != 0)
+        return std::nullopt;
+    const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> addresses(first, &freeifaddrs);
+    for (const ifaddrs *address = first; address; address = address->ifa_next) {
+        if (!address->ifa_addr || address->ifa_addr->sa_family != AF_INET
+            || *interface != address->ifa_name)
+            continue;
+        std::array<char, INET_ADDRSTRLEN> text{};
+        const auto *ip = reinterpret_cast<const sockaddr_in *>(address->ifa_addr);
+        if (inet_ntop(AF_INET, &ip->sin_addr, text.data(), text.size()))
+            return QString::fromLatin1(text.data());
+    }
+    return std::nullopt;
+}
+
+} // namespace kelvo
