@@ -1,7 +1,7 @@
 #include "script_parser.h"
 
 #include "file_store.h"
-#include "limits.h"
+#include "size_limits.h"
 #include "nearest_name.h"
 
 #include <QFile>
