@@ -40,7 +40,10 @@ public:
     virtual bool isPrinting() const = 0;
     // How the dialog ended; none while it is open.
     virtual std::optional<ExitStatus> finished() const = 0;
-    virtual QString lastPrintProblem() const = 0; // why the last print did not go out
+    // Why the last print did not go out, and what the program would end with;
+    // empty when it did, or when a notice or dialog took the press.
+    virtual QString lastPrintProblem() const = 0;
+    virtual ExitStatus lastPrintStatus() const = 0;
 
     // The tickets as they stand, after the visible panel has written.
     virtual const PrintSession &sessionForReading() = 0;
