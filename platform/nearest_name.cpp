@@ -34,7 +34,8 @@ QString nearestName(const QString &name, const QStringList &candidates)
     for (const QString &candidate : candidates) {
         const QString have = candidate.left(200).toLower();
         // A name that only continues what was typed is near, however long it is.
-        const int distance = !wanted.isEmpty() && have.startsWith(wanted) ? 1 : editDistance(wanted, have);
+        const int distance =
+            !wanted.isEmpty() && have.startsWith(wanted) ? 1 : editDistance(wanted, have);
         if (distance < best) {
             best = distance;
             nearest = candidate;

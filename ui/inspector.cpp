@@ -26,6 +26,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QRadioButton>
 #include <QSlider>
 #include <QTextEdit>
 
@@ -55,7 +56,8 @@ QString nameOf(const QWidget *control)
 // Qt gives names of its own to the insides of its widgets; they are not ours.
 bool hasSpeakingName(const QWidget *widget)
 {
-    return !widget->objectName().isEmpty() && !widget->objectName().startsWith(QLatin1String("qt_"));
+    return !widget->objectName().isEmpty()
+        && !widget->objectName().startsWith(QLatin1String("qt_"));
 }
 
 bool isMasked(const QWidget *control)
@@ -73,7 +75,10 @@ Done wrongKind(const QWidget *control, const QString &what)
 {
     return Problem{Failure::WrongKind,
                    QStringLiteral("%1 is a %2 and %3")
-                       .arg(nameOf(control), QString::fromLatin1(control->metaObject()->className()).section(QStringLiteral("::"), -1), what)};
+                       .arg(nameOf(control),
+                            QString::fromLatin1(control->metaObject()->className())
+                                .section(QStringLiteral("::"), -1),
+                            what)};
 }
 
 // Why the user could not use the control now; none when it can be used.
@@ -143,7 +148,10 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
 {
     if (name.by == ItemName::By::Row) {
         if (name.row > static_cast<int>(items.size()))
-            return {nullptr, notOffered(control, QStringLiteral("has %1 rows, not %2").arg(items.size()).arg(name.row))};
+            return {
+                nullptr,
+                notOffered(control,
+                           QStringLiteral("has %1 rows, not %2").arg(items.size()).arg(name.row))};
         return {items[name.row - 1], {}};
     }
     const MenuItem *found = nullptr;
@@ -151,13 +159,18 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
         if (!isNamed(*item, name))
             continue;
         if (found)
-            return {nullptr, Problem{Failure::BadValue, QStringLiteral("several rows of %1 carry %2; name one by key, text or row").arg(nameOf(control), name.description())}};
+            return {
+                nullptr,
+                Problem{Failure::BadValue,
+                        QStringLiteral("several rows of %1 carry %2; name one by key, text or row")
+                            .arg(nameOf(control), name.description())}};
         found = item;
     }
     if (found)
         return {found, {}};
     const QStringList names = namesOf(items, name.by);
-    const QString wanted = name.by == ItemName::By::Reference ? QString::number(name.reference) : name.text;
+    const QString wanted =
+        name.by == ItemName::By::Reference ? QString::number(name.reference) : name.text;
     QString why = QStringLiteral("has no item %1").arg(name.description());
     const QString nearest = nearestName(wanted, names);
     if (!nearest.isEmpty())
@@ -176,12 +189,14 @@ Done chooseMenuItem(QWidget *control, const MenuItem &item)
     bool chosen = false;
     if (auto *popup = qobject_cast<PopupButton *>(control)) {
         const auto &items = popup->menu().items;
-        const auto at = std::find_if(items.begin(), items.end(), [&item](const MenuItem &one) { return &one == &item; });
+        const auto at = std::find_if(items.begin(), items.end(),
+                                     [&item](const MenuItem &one) { return &one == &item; });
         chosen = at != items.end() && popup->choose(static_cast<int>(at - items.begin()) + 1);
     } else if (auto *button = qobject_cast<MenuButton *>(control)) {
         chosen = button->choose(MenuItem(item));
     }
-    return chosen ? Done() : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));
+    return chosen ? Done()
+                  : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));
 }
 
 // An ordinary combo box: only texts and rows name its items.
@@ -199,7 +214,9 @@ Done chooseText(QComboBox *box, const ItemName &name)
         return found.problem;
     const int row = found.item->reference - 1;
     if (auto *history = qobject_cast<HistoryField *>(box))
-        return history->chooseItem(row) ? Done() : notOffered(box, QStringLiteral("does not take that item"));
+        return history->chooseItem(row)
+            ? Done()
+            : notOffered(box, QStringLiteral("does not take that item"));
     box->setFocus();
     box->setCurrentIndex(row);
     emit box->activated(row);
@@ -225,7 +242,7 @@ QString textOfControl(const QWidget *control)
         return spin->text();
     if (const auto *radios = qobject_cast<const RadioGroup *>(control)) {
         const auto *button = radios->button(radios->value());
-        return button ? QString(button->property("text").toString()).remove(u'&') : QString();
+        return button ? QString(button->text()).remove(u'&') : QString();
     }
     if (const auto *picture = qobject_cast<const PictureView *>(control)) {
         QStringList names;
@@ -248,7 +265,8 @@ std::optional<int> valueOfControl(const QWidget *control)
         return radios->value();
     if (const auto *tabs = qobject_cast<const TabControl *>(control))
         return tabs->value();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(control); button && button->isCheckable())
+    if (const auto *button = qobject_cast<const QAbstractButton *>(control);
+        button && button->isCheckable())
         return button->isChecked() ? 1 : 0;
     return {};
 }
@@ -281,7 +299,10 @@ std::optional<int> itemsOfControl(QWidget *control)
     return {};
 }
 
-QString words(bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); }
+QString words(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
 
 QJsonArray describeItems(const std::vector<MenuItem> &items)
 {
@@ -350,7 +371,8 @@ QString ItemName::description() const
 Found find(QWidget *window, const ControlName &name)
 {
     Found found;
-    const QList<QWidget *> widgets = window->findChildren<QWidget *>(name.id ? QString() : name.objectName);
+    const QList<QWidget *> widgets =
+        window->findChildren<QWidget *>(name.id ? QString() : name.objectName);
     for (QWidget *widget : widgets) {
         if (name.id && controlIDOf(widget) != name.id)
             continue;
@@ -407,7 +429,10 @@ FoundItem findCommand(QWidget *control, OSType command, const std::optional<Item
     if (items.empty())
         return {nullptr, notOffered(control, QStringLiteral("has no item with that command"))};
     if (items.size() > 1)
-        return {nullptr, Problem{Failure::BadValue, QStringLiteral("several items of %1 carry that command; say which").arg(nameOf(control))}};
+        return {nullptr,
+                Problem{Failure::BadValue,
+                        QStringLiteral("several items of %1 carry that command; say which")
+                            .arg(nameOf(control))}};
     return {items.front(), {}};
 }
 
@@ -454,14 +479,17 @@ Done type(QWidget *control, const QString &text)
     if (auto *spin = qobject_cast<SpinField *>(control))
         taken = spin->typeText(text);
     else if (qobject_cast<QLineEdit *>(control) || qobject_cast<QPlainTextEdit *>(control)
-             || (qobject_cast<QComboBox *>(control) && qobject_cast<QComboBox *>(control)->isEditable()))
+             || (qobject_cast<QComboBox *>(control)
+                 && qobject_cast<QComboBox *>(control)->isEditable()))
         taken = typeText(control, text);
     else
         return wrongKind(control, QStringLiteral("takes no text"));
     if (taken)
         return {};
     // A refused text may be a secret: it is not repeated.
-    return Problem{Failure::NotOffered, QStringLiteral("%1 does not take the whole text; its limits allow less").arg(nameOf(control))};
+    return Problem{Failure::NotOffered,
+                   QStringLiteral("%1 does not take the whole text; its limits allow less")
+                       .arg(nameOf(control))};
 }
 
 Done set(QWidget *control, int value)
@@ -469,7 +497,8 @@ Done set(QWidget *control, int value)
     if (Done problem = unusable(control))
         return problem;
     const auto outside = [control, value](int from, int to) {
-        return notOffered(control, QStringLiteral("goes from %1 to %2, not to %3").arg(from).arg(to).arg(value));
+        return notOffered(
+            control, QStringLiteral("goes from %1 to %2, not to %3").arg(from).arg(to).arg(value));
     };
     if (auto *spin = qobject_cast<SpinField *>(control)) {
         if (value < spin->minimum() || value > spin->maximum())
@@ -484,10 +513,14 @@ Done set(QWidget *control, int value)
         slider->triggerAction(QAbstractSlider::SliderMove);
     } else if (auto *radios = qobject_cast<RadioGroup *>(control)) {
         if (!radios->choose(value))
-            return notOffered(control, QStringLiteral("does not offer button %1 of %2").arg(value).arg(radios->count()));
+            return notOffered(
+                control,
+                QStringLiteral("does not offer button %1 of %2").arg(value).arg(radios->count()));
     } else if (auto *tabs = qobject_cast<TabControl *>(control)) {
         if (!tabs->choose(value))
-            return notOffered(control, QStringLiteral("does not offer tab %1 of %2").arg(value).arg(tabs->count()));
+            return notOffered(
+                control,
+                QStringLiteral("does not offer tab %1 of %2").arg(value).arg(tabs->count()));
     } else {
         return wrongKind(control, QStringLiteral("has no number to set"));
     }
@@ -501,7 +534,8 @@ Done setTime(QWidget *control, const QTime &time)
     auto *field = qobject_cast<TimeField *>(control);
     if (!field)
         return wrongKind(control, QStringLiteral("is no time field"));
-    return field->choose(time) ? Done() : notOffered(control, QStringLiteral("does not take that time"));
+    return field->choose(time) ? Done()
+                               : notOffered(control, QStringLiteral("does not take that time"));
 }
 
 Done select(QWidget *control, const std::vector<int> &rows)
@@ -516,7 +550,8 @@ Done select(QWidget *control, const std::vector<int> &rows)
         if (row == 0)
             continue;
         if (row > list->rowCount())
-            return notOffered(control, QStringLiteral("has %1 rows, not %2").arg(list->rowCount()).arg(row));
+            return notOffered(control,
+                              QStringLiteral("has %1 rows, not %2").arg(list->rowCount()).arg(row));
         fromZero.push_back(row - 1);
     }
     list->selectRows(fromZero, true);
@@ -531,7 +566,8 @@ Done doubleClick(QWidget *control, int row)
     if (!list)
         return wrongKind(control, QStringLiteral("is no list"));
     if (row < 0 || row > list->rowCount())
-        return notOffered(control, QStringLiteral("has %1 rows, not %2").arg(list->rowCount()).arg(row));
+        return notOffered(control,
+                          QStringLiteral("has %1 rows, not %2").arg(list->rowCount()).arg(row));
     list->activateRow(row - 1);
     return {};
 }
@@ -543,7 +579,8 @@ Done drag(QWidget *control, double dx, double dy)
     const QPointF from = QRectF(control->rect()).center();
     const QPointF to = from + QPointF(dx, dy);
     const QPointer<QWidget> alive = control;
-    const auto send = [&alive](QEvent::Type kind, const QPointF &at, Qt::MouseButton button, Qt::MouseButtons held) {
+    const auto send = [&alive](QEvent::Type kind, const QPointF &at, Qt::MouseButton button,
+                               Qt::MouseButtons held) {
         if (!alive)
             return;
         QMouseEvent event(kind, at, alive->mapToGlobal(at), button, held, Qt::NoModifier);
@@ -561,13 +598,16 @@ Done pressKey(QWidget *window, const QString &keys)
 {
     const QKeySequence sequence(keys, QKeySequence::PortableText);
     if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown)
-        return Problem{Failure::BadValue, QStringLiteral("\"%1\" is no key; write Ctrl+P, Return, F6, Alt+1").arg(keys)};
+        return Problem{
+            Failure::BadValue,
+            QStringLiteral("\"%1\" is no key; write Ctrl+P, Return, F6, Alt+1").arg(keys)};
     QWidget *focus = window->focusWidget() ? window->focusWidget() : window;
     const QPointer<QWidget> alive = focus;
     for (int i = 0; i < sequence.count() && alive; ++i) {
         const QKeyCombination one = sequence[i];
         const bool plain = !(one.keyboardModifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
-        const QString text = plain && one.key() < 0x1000000 ? QString(QChar(one.key())).toLower() : QString();
+        const QString text =
+            plain && one.key() < 0x1000000 ? QString(QChar(one.key())).toLower() : QString();
         // A shortcut comes before the focus, as with the real keyboard.
         if (qt_sendShortcutOverrideEvent(alive, 0, one.key(), one.keyboardModifiers(), text))
             continue;
@@ -599,9 +639,9 @@ Done answerFileChooser(QWidget *window, const QString &path)
 
 QStringList propertyNames()
 {
-    return {QStringLiteral("value"),   QStringLiteral("index"), QStringLiteral("text"),
-            QStringLiteral("enabled"), QStringLiteral("visible"), QStringLiteral("checked"),
-            QStringLiteral("focus"),   QStringLiteral("items"), QStringLiteral("maximum"),
+    return {QStringLiteral("value"),     QStringLiteral("index"),   QStringLiteral("text"),
+            QStringLiteral("enabled"),   QStringLiteral("visible"), QStringLiteral("checked"),
+            QStringLiteral("focus"),     QStringLiteral("items"),   QStringLiteral("maximum"),
             QStringLiteral("selection"), QStringLiteral("cell")};
 }
 
@@ -610,7 +650,8 @@ Result<QString> property(QWidget *control, const QString &name)
     const auto number = [control, &name](std::optional<int> value) -> Result<QString> {
         if (value)
             return QString::number(*value);
-        return Error{Error::Code::Unsupported, nameOf(control), QStringLiteral("it has no %1").arg(name)};
+        return Error{Error::Code::Unsupported, nameOf(control),
+                     QStringLiteral("it has no %1").arg(name)};
     };
     if (name == QLatin1String("value"))
         return number(valueOfControl(control));
@@ -632,7 +673,8 @@ Result<QString> property(QWidget *control, const QString &name)
         const auto *button = qobject_cast<const QAbstractButton *>(control);
         if (button && button->isCheckable())
             return words(button->isChecked());
-        return Error{Error::Code::Unsupported, nameOf(control), QStringLiteral("it cannot be checked")};
+        return Error{Error::Code::Unsupported, nameOf(control),
+                     QStringLiteral("it cannot be checked")};
     }
     const auto *list = qobject_cast<const ListView *>(control);
     if (name == QLatin1String("selection") && list) {
@@ -644,33 +686,47 @@ Result<QString> property(QWidget *control, const QString &name)
     if (name.startsWith(QLatin1String("cell ")) && list) {
         const QStringList parts = name.split(u' ');
         const int row = parts.value(1).toInt(), column = parts.value(2).toInt();
-        if (row < 1 || row > list->rowCount() || column < 1 || column > list->model()->columnCount())
+        if (row < 1 || row > list->rowCount() || column < 1
+            || column > list->model()->columnCount())
             return Error{Error::Code::OutOfRange, nameOf(control),
                          QStringLiteral("there is no cell %1 %2; it has %3 rows and %4 columns")
-                             .arg(row).arg(column).arg(list->rowCount()).arg(list->model()->columnCount())};
+                             .arg(row)
+                             .arg(column)
+                             .arg(list->rowCount())
+                             .arg(list->model()->columnCount())};
         return list->cellText(row - 1, column - 1);
     }
-    return Error{Error::Code::Unsupported, nameOf(control), QStringLiteral("it has no %1").arg(name)};
+    return Error{Error::Code::Unsupported, nameOf(control),
+                 QStringLiteral("it has no %1").arg(name)};
 }
 
-Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> &name, const QString &state)
+Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> &name,
+                const QString &state)
 {
     const FoundItem found = findCommand(control, command, name);
-    const bool isAbsent = !found.item && found.problem && found.problem->failure == Failure::NotOffered;
+    const bool isAbsent =
+        !found.item && found.problem && found.problem->failure == Failure::NotOffered;
     const QString problem = found.problem ? found.problem->text : QString();
     if (!found.item && !isAbsent)
         return found.problem;
     if (state == QLatin1String("absent"))
-        return isAbsent ? Done() : Problem{Failure::BadValue, QStringLiteral("%1 has that item: \"%2\"").arg(nameOf(control), found.item->text)};
+        return isAbsent
+            ? Done()
+            : Problem{
+                Failure::BadValue,
+                QStringLiteral("%1 has that item: \"%2\"").arg(nameOf(control), found.item->text)};
     if (isAbsent)
         return Problem{Failure::BadValue, problem};
-    const bool holds = state == QLatin1String("present") || (state == QLatin1String("enabled") && found.item->enabled)
+    const bool holds = state == QLatin1String("present")
+        || (state == QLatin1String("enabled") && found.item->enabled)
         || (state == QLatin1String("disabled") && !found.item->enabled)
         || (state == QLatin1String("checked") && found.item->checked)
         || (state == QLatin1String("unchecked") && !found.item->checked);
     if (holds)
         return {};
-    return Problem{Failure::BadValue, QStringLiteral("\"%1\" of %2 is not %3").arg(found.item->text, nameOf(control), state)};
+    return Problem{
+        Failure::BadValue,
+        QStringLiteral("\"%1\" of %2 is not %3").arg(found.item->text, nameOf(control), state)};
 }
 
 QJsonObject describe(QWidget *control)
@@ -680,7 +736,8 @@ QJsonObject describe(QWidget *control)
         object[QStringLiteral("id")] = textOf(*id);
     if (hasSpeakingName(control))
         object[QStringLiteral("name")] = control->objectName();
-    object[QStringLiteral("kind")] = QString::fromLatin1(control->metaObject()->className()).section(QStringLiteral("::"), -1);
+    object[QStringLiteral("kind")] =
+        QString::fromLatin1(control->metaObject()->className()).section(QStringLiteral("::"), -1);
     if (!control->accessibleName().isEmpty())
         object[QStringLiteral("label")] = control->accessibleName();
     object[QStringLiteral("text")] = textOfControl(control);

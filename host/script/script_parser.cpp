@@ -1,8 +1,8 @@
 #include "script_parser.h"
 
 #include "file_store.h"
-#include "size_limits.h"
 #include "nearest_name.h"
+#include "size_limits.h"
 
 #include <QFile>
 #include <QStringDecoder>
@@ -122,7 +122,9 @@ Words split(const QString &line)
                     else if (escaped == u'"' || escaped == u'\\')
                         word.text += escaped;
                     else
-                        return {{}, QStringLiteral("\\%1 is no escape; there are \\\" \\\\ and \\n").arg(escaped)};
+                        return {{},
+                                QStringLiteral("\\%1 is no escape; there are \\\" \\\\ and \\n")
+                                    .arg(escaped)};
                 } else {
                     word.text += line[at];
                 }
@@ -139,7 +141,8 @@ Words split(const QString &line)
             for (const QChar one : code)
                 printable = printable && one.unicode() >= 0x20 && one.unicode() < 0x7f;
             if (!printable)
-                return {{}, QStringLiteral("a code is four characters in single quotes, like 'KFup'")};
+                return {{},
+                        QStringLiteral("a code is four characters in single quotes, like 'KFup'")};
             for (const QChar one : code)
                 word.code = word.code << 8 | one.unicode();
             word.text = QString::number(static_cast<std::int32_t>(word.code));
@@ -208,7 +211,8 @@ private:
             name += u' ' + next().text;
         auto control = inspector::controlNameFrom(name);
         if (!control)
-            return refuse(QStringLiteral("\"%1\" is no control; write KPDE 102 or @objectName").arg(name));
+            return refuse(
+                QStringLiteral("\"%1\" is no control; write KPDE 102 or @objectName").arg(name));
         m_line.control = control.value();
         return true;
     }
@@ -217,7 +221,9 @@ private:
     {
         const Word &word = next();
         if (word.kind != Word::Kind::Code)
-            return refuse(QStringLiteral("\"%1\" is no code; write four characters in single quotes").arg(word.text));
+            return refuse(
+                QStringLiteral("\"%1\" is no code; write four characters in single quotes")
+                    .arg(word.text));
         m_line.code = word.code;
         return true;
     }
@@ -245,7 +251,8 @@ private:
                 bool isNumber = false;
                 item.row = name.text.toInt(&isNumber);
                 if (!isNumber || item.row < 1 || name.kind != Word::Kind::Bare)
-                    return refuse(QStringLiteral("\"%1\" is no row; rows count from 1").arg(name.text));
+                    return refuse(
+                        QStringLiteral("\"%1\" is no row; rows count from 1").arg(name.text));
             }
         } else {
             bool isNumber = false;
@@ -268,7 +275,10 @@ private:
         else
             word.text.toDouble(&isNumber);
         if (!isNumber || word.kind != Word::Kind::Bare)
-            return refuse(QStringLiteral("\"%1\" is no %2").arg(word.text, whole ? QStringLiteral("whole number") : QStringLiteral("number")));
+            return refuse(
+                QStringLiteral("\"%1\" is no %2")
+                    .arg(word.text,
+                         whole ? QStringLiteral("whole number") : QStringLiteral("number")));
         m_line.arguments.push_back({word.text, false});
         return true;
     }
@@ -309,7 +319,8 @@ QString problemOf(const ScriptLine &line)
         for (const QString &row : arguments[0].text.split(u',')) {
             bool isNumber = false;
             if (row.toInt(&isNumber) < 0 || !isNumber)
-                return QStringLiteral("\"%1\" is no list of rows; write 1,2,5").arg(arguments[0].text);
+                return QStringLiteral("\"%1\" is no list of rows; write 1,2,5")
+                    .arg(arguments[0].text);
         }
     }
     if (line.command == ScriptCommand::Expect) {
@@ -413,7 +424,8 @@ Result<std::vector<ScriptLine>> readScript(const QString &path)
     if (path == QLatin1String("-")) {
         QFile input;
         if (!input.open(stdin, QIODevice::ReadOnly))
-            return Error{Error::Code::NotReadable, QStringLiteral("standard input"), input.errorString()};
+            return Error{Error::Code::NotReadable, QStringLiteral("standard input"),
+                         input.errorString()};
         const QByteArray text = input.read(limits::scriptBytes + 1);
         if (text.size() > limits::scriptBytes)
             return Error{Error::Code::TooLarge, QStringLiteral("standard input"),

@@ -31,7 +31,10 @@ struct LineProblem
 };
 using LineDone = std::optional<LineProblem>;
 
-LineProblem wrong(const QString &text) { return {ExitStatus::WrongUsage, text}; }
+LineProblem wrong(const QString &text)
+{
+    return {ExitStatus::WrongUsage, text};
+}
 
 LineDone lineProblem(const inspector::Done &done)
 {
@@ -52,15 +55,24 @@ bool meetsNotice(ScriptCommand command)
 
 struct ScriptRunner::Private
 {
+    Private(ScriptTarget &drivenTarget, std::vector<ScriptLine> linesToRun, Options runOptions,
+            ScriptRunner *runner)
+        : target(drivenTarget)
+        , lines(std::move(linesToRun))
+        , options(std::move(runOptions))
+        , q(runner)
+    {
+    }
+
     ScriptTarget &target;
     std::vector<ScriptLine> lines;
     Options options;
     ScriptRunner *q;
     QTimer tick;
     std::size_t next = 0;
-    QString metNotice;        // header and message of the notice that a line has met
-    int printedBy = 0;        // line of the print that is on its way, 0 for none
-    bool printAsked = false;  // some line asked for it, or --print
+    QString metNotice;       // header and message of the notice that a line has met
+    int printedBy = 0;       // line of the print that is on its way, 0 for none
+    bool printAsked = false; // some line asked for it, or --print
     bool hasEnded = false;
 
     void step();
@@ -87,7 +99,7 @@ struct ScriptRunner::Private
 ScriptRunner::ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
                            QObject *parent)
     : QObject(parent)
-    , d(new Private{target, std::move(lines), std::move(options), this})
+    , d(new Private(target, std::move(lines), std::move(options), this))
 {
     // Ticks come from whatever event loop runs: also from that of a modal dialog
     // which an earlier line has opened and is still waiting for.
@@ -97,7 +109,10 @@ ScriptRunner::ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, 
 
 ScriptRunner::~ScriptRunner() = default;
 
-void ScriptRunner::start() { d->tick.start(0); }
+void ScriptRunner::start()
+{
+    d->tick.start(0);
+}
 
 QWidget *ScriptRunner::Private::front() const
 {
@@ -120,7 +135,8 @@ void ScriptRunner::Private::step()
         return;
     }
     if (target.finished()) {
-        fail(lines[next].number, wrong(QStringLiteral("the dialog is closed; nothing can be done after that")));
+        fail(lines[next].number,
+             wrong(QStringLiteral("the dialog is closed; nothing can be done after that")));
         return;
     }
     run(lines[next++]);
@@ -152,7 +168,11 @@ bool ScriptRunner::Private::checkNotice()
         metNotice = now;
         return true;
     }
-    fail(at, {ExitStatus::Failed, QStringLiteral("a notice came up: %1 %2").arg(notice.header, notice.message).simplified()});
+    fail(at,
+         {ExitStatus::Failed,
+          QStringLiteral("a notice came up: %1 %2")
+              .arg(notice.header, notice.message)
+              .simplified()});
     return false;
 }
 
@@ -175,7 +195,8 @@ void ScriptRunner::Private::finish()
 {
     if (QWidget *modal = QApplication::activeModalWidget(); modal && !target.finished()) {
         fail(lines.empty() ? 0 : lines.back().number,
-             wrong(QStringLiteral("the script ends while the dialog \"%1\" is open").arg(modal->windowTitle())));
+             wrong(QStringLiteral("the script ends while the dialog \"%1\" is open")
+                       .arg(modal->windowTitle())));
         return;
     }
     if (options.printAtEnd && !printAsked) {
@@ -217,11 +238,14 @@ void ScriptRunner::Private::end(ExitStatus status)
 
 LineDone ScriptRunner::Private::perform(const ScriptLine &line)
 {
-    const auto word = [&line](std::size_t at) { return at < line.arguments.size() ? line.arguments[at].text : QString(); };
+    const auto word = [&line](std::size_t at) {
+        return at < line.arguments.size() ? line.arguments[at].text : QString();
+    };
     const auto done = [](const Result<void> &result) -> LineDone {
         if (result)
             return {};
-        return LineProblem{result.error().code == Error::Code::Refused ? ExitStatus::NotOffered : ExitStatus::WrongUsage,
+        return LineProblem{result.error().code == Error::Code::Refused ? ExitStatus::NotOffered
+                                                                       : ExitStatus::WrongUsage,
                            result.error().text()};
     };
     switch (line.command) {
@@ -242,12 +266,14 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         if (!notice.isShown())
             return wrong(QStringLiteral("no notice is shown"));
         if (!answerNotice(word(0).toInt()))
-            return wrong(QStringLiteral("the notice has no button %1; it has %2").arg(word(0), notice.buttons.join(QStringLiteral(", "))));
+            return wrong(QStringLiteral("the notice has no button %1; it has %2")
+                             .arg(word(0), notice.buttons.join(QStringLiteral(", "))));
         return {};
     }
     case ScriptCommand::Print:
         if (QApplication::activeModalWidget())
-            return wrong(QStringLiteral("the dialog \"%1\" is open and must be closed first").arg(front()->windowTitle()));
+            return wrong(QStringLiteral("the dialog \"%1\" is open and must be closed first")
+                             .arg(front()->windowTitle()));
         printAsked = true;
         printedBy = line.number;
         target.pressPrint();
@@ -269,7 +295,9 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         if (!notice.isShown())
             return wrong(QStringLiteral("no notice is shown"));
         if (!(notice.header + u'\n' + notice.message).contains(word(0)))
-            return wrong(QStringLiteral("the notice says: %1 %2").arg(notice.header, notice.message).simplified());
+            return wrong(QStringLiteral("the notice says: %1 %2")
+                             .arg(notice.header, notice.message)
+                             .simplified());
         return {};
     }
     case ScriptCommand::ExpectWindow: {
@@ -277,11 +305,14 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         const bool byName = !line.arguments[0].quoted && word(0).startsWith(u'@');
         const QString have = byName ? u'@' + window->objectName() : window->windowTitle();
         if (have != word(0))
-            return wrong(QStringLiteral("the front window is \"%1\" (@%2)").arg(window->windowTitle(), window->objectName()));
+            return wrong(QStringLiteral("the front window is \"%1\" (@%2)")
+                             .arg(window->windowTitle(), window->objectName()));
         return {};
     }
     case ScriptCommand::Controls:
-        say(QString::fromUtf8(QJsonDocument(inspector::describeControls(front())).toJson(QJsonDocument::Indented)).trimmed());
+        say(QString::fromUtf8(
+                QJsonDocument(inspector::describeControls(front())).toJson(QJsonDocument::Indented))
+                .trimmed());
         return {};
     case ScriptCommand::Summary:
         say(target.jobInWords().trimmed());
@@ -299,8 +330,14 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     const inspector::Found found = inspector::find(window, *line.control);
     if (!found.control) {
         const QString nearest = inspector::nearestControl(window, *line.control);
-        const QString where = window == target.window() ? QStringLiteral("the window") : QStringLiteral("the dialog \"%1\"").arg(window->windowTitle());
-        return wrong(QStringLiteral("%1 is not in %2%3").arg(line.control->text(), where, nearest.isEmpty() ? QString() : QStringLiteral(", did you mean %1?").arg(nearest)));
+        const QString where = window == target.window()
+            ? QStringLiteral("the window")
+            : QStringLiteral("the dialog \"%1\"").arg(window->windowTitle());
+        return wrong(QStringLiteral("%1 is not in %2%3")
+                         .arg(line.control->text(), where,
+                              nearest.isEmpty()
+                                  ? QString()
+                                  : QStringLiteral(", did you mean %1?").arg(nearest)));
     }
     QWidget *control = found.control;
     const auto word = [&line](std::size_t at) { return line.arguments[at].text; };
@@ -310,7 +347,9 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     case ScriptCommand::ExpectItem:
         return lineProblem(inspector::expectItem(control, *line.code, line.item, word(0)));
     case ScriptCommand::Show:
-        say(QString::fromUtf8(QJsonDocument(inspector::describe(control)).toJson(QJsonDocument::Indented)).trimmed());
+        say(QString::fromUtf8(
+                QJsonDocument(inspector::describe(control)).toJson(QJsonDocument::Indented))
+                .trimmed());
         return {};
     default:
         break;
@@ -318,8 +357,11 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
 
     if (!found.shown) {
         const QString place = target.placeOf(control);
-        return LineProblem{ExitStatus::NotOffered,
-                           QStringLiteral("%1 is not shown%2").arg(line.control->text(), place.isEmpty() ? QString() : QStringLiteral("; it is in %1").arg(place))};
+        return LineProblem{
+            ExitStatus::NotOffered,
+            QStringLiteral("%1 is not shown%2")
+                .arg(line.control->text(),
+                     place.isEmpty() ? QString() : QStringLiteral("; it is in %1").arg(place))};
     }
     switch (line.command) {
     case ScriptCommand::Choose:
@@ -335,14 +377,18 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
             return lineProblem(inspector::type(control, word(0)));
         const auto secret = target.secret(word(1));
         if (!secret)
-            return wrong(QStringLiteral("there is no secret \"%1\"; give --secret %1=FILE").arg(word(1)));
+            return wrong(
+                QStringLiteral("there is no secret \"%1\"; give --secret %1=FILE").arg(word(1)));
         return lineProblem(inspector::type(control, *secret));
     }
     case ScriptCommand::Set:
         return lineProblem(inspector::set(control, word(0).toInt()));
     case ScriptCommand::Time: {
         const QTime withSeconds = QTime::fromString(word(0), QStringLiteral("H:mm:ss"));
-        return lineProblem(inspector::setTime(control, withSeconds.isValid() ? withSeconds : QTime::fromString(word(0), QStringLiteral("H:mm"))));
+        return lineProblem(inspector::setTime(
+            control,
+            withSeconds.isValid() ? withSeconds
+                                  : QTime::fromString(word(0), QStringLiteral("H:mm"))));
     }
     case ScriptCommand::Select: {
         std::vector<int> rows;
@@ -368,11 +414,13 @@ LineDone ScriptRunner::Private::expect(const ScriptLine &line, QWidget *control)
     if (!have)
         return wrong(QStringLiteral("%1: %2").arg(line.control->text(), have.error().detail));
     QString wanted = line.arguments.back().text;
-    if (name == QLatin1String("value") && !line.arguments.back().quoted && wanted == QLatin1String("unset"))
+    if (name == QLatin1String("value") && !line.arguments.back().quoted
+        && wanted == QLatin1String("unset"))
         wanted = QString::number(std::numeric_limits<std::int32_t>::min());
     if (have.value() == wanted)
         return {};
-    return wrong(QStringLiteral("%1 of %2 is \"%3\", not \"%4\"").arg(name, line.control->text(), have.value(), wanted));
+    return wrong(QStringLiteral("%1 of %2 is \"%3\", not \"%4\"")
+                     .arg(name, line.control->text(), have.value(), wanted));
 }
 
 LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
@@ -399,7 +447,8 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
 
     const bool wantsAbsent = !wanted.quoted && wanted.text == QLatin1String("absent");
     if (wantsAbsent)
-        return have ? LineDone(wrong(QStringLiteral("%1 is there: \"%2\"").arg(name, *have))) : LineDone();
+        return have ? LineDone(wrong(QStringLiteral("%1 is there: \"%2\"").arg(name, *have)))
+                    : LineDone();
     if (!have)
         return wrong(QStringLiteral("the ticket has no %1%2").arg(name, didYouMean(name, names)));
     if (*have == wanted.text)
@@ -414,7 +463,10 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
     QCoreApplication::sendPostedEvents();
     if (window->grab().save(file, "PNG"))
         return {};
-    return LineProblem{ExitStatus::Failed, QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights").arg(file)};
+    return LineProblem{
+        ExitStatus::Failed,
+        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights")
+            .arg(file)};
 }
 
 } // namespace kelvo

@@ -34,7 +34,7 @@ public:
     virtual QString placeOf(const QWidget *control) const = 0;
 
     virtual void sync(SyncDirection direction) = 0; // all panels
-    virtual void pressPrint() = 0;  // as the button; may open notices
+    virtual void pressPrint() = 0;                  // as the button; may open notices
     virtual void pressCancel() = 0;
     // Whether a print that was asked for is still on its way.
     virtual bool isPrinting() const = 0;
@@ -49,7 +49,7 @@ public:
     virtual const PrintSession &sessionForReading() = 0;
     virtual QString jobInWords() = 0; // "What will be sent", secrets masked
     virtual std::optional<QString> secret(const QString &name) const = 0; // from --secret
-    virtual QStringList secretValues() = 0; // masked in every message
+    virtual QStringList secretValues() = 0;                               // masked in every message
 };
 
 } // namespace kelvo
