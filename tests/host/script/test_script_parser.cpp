@@ -47,31 +47,36 @@ void TestScriptParser::readsEveryForm_data()
     QTest::newRow("speaking name") << QByteArray("click @aboutButton") << "control=@aboutButton";
     QTest::newRow("negative ID") << QByteArray("click KPDE -3") << "control=KPDE -3";
     QTest::newRow("number") << QByteArray("choose KPDE 102 6") << "control=KPDE 102|item=6";
-    QTest::newRow("negative number") << QByteArray("choose @lighten -5") << "control=@lighten|item=-5";
+    QTest::newRow("negative number")
+        << QByteArray("choose @lighten -5") << "control=@lighten|item=-5";
     QTest::newRow("code") << QByteArray("choose @a 'Kujn'") << "control=@a|item=1265986158";
     QTest::newRow("unset") << QByteArray("choose @a unset") << "control=@a|item=-2147483648";
-    QTest::newRow("key") << QByteArray("choose @a key SecurePrint") << "control=@a|item=key SecurePrint";
+    QTest::newRow("key") << QByteArray("choose @a key SecurePrint")
+                         << "control=@a|item=key SecurePrint";
     QTest::newRow("key with blanks") << QByteArray("choose @a key \"Save to Mailbox Command\"")
                                      << "control=@a|item=key Save to Mailbox Command";
     QTest::newRow("text") << QByteArray("choose @a text \"Letter (8.5 x 11 in)\"")
                           << "control=@a|item=\"Letter (8.5 x 11 in)\"";
     QTest::newRow("row") << QByteArray("choose @a row 3") << "control=@a|item=row 3";
     QTest::newRow("menu item") << QByteArray("item @m 'Stp1'") << "control=@m|code=53747031";
-    QTest::newRow("menu item told apart") << QByteArray("item @m 'Ssiz' 4")
-                                          << "control=@m|code=5373697a|item=4";
+    QTest::newRow("menu item told apart")
+        << QByteArray("item @m 'Ssiz' 4") << "control=@m|code=5373697a|item=4";
     QTest::newRow("state after an item") << QByteArray("expect-item @m 'Ssiz' 4 checked")
                                          << "control=@m|code=5373697a|item=4|checked";
     QTest::newRow("state alone") << QByteArray("expect-item @m 'Stp1' absent")
                                  << "control=@m|code=53747031|absent";
-    QTest::newRow("escapes") << QByteArray(R"(type @t "a \"b\" \\ \n")") << "control=@t|\"a \"b\" \\ \n\"";
+    QTest::newRow("escapes") << QByteArray(R"(type @t "a \"b\" \\ \n")")
+                             << "control=@t|\"a \"b\" \\ \n\"";
     QTest::newRow("secret") << QByteArray("type @t secret pin") << "control=@t|secret|pin";
-    QTest::newRow("text called secret") << QByteArray("type @t \"secret\"") << "control=@t|\"secret\"";
+    QTest::newRow("text called secret")
+        << QByteArray("type @t \"secret\"") << "control=@t|\"secret\"";
     QTest::newRow("absent, and a text that says so")
-        << QByteArray("expect-ticket com.kelvo.print.X \"absent\"") << "com.kelvo.print.X|\"absent\"";
+        << QByteArray("expect-ticket com.kelvo.print.X \"absent\"")
+        << "com.kelvo.print.X|\"absent\"";
     QTest::newRow("cell") << QByteArray("expect @l cell 2 1 \"Page 3\"")
                           << "control=@l|cell|2|1|\"Page 3\"";
-    QTest::newRow("code as a value") << QByteArray("expect @a value 'Kujn'")
-                                     << "control=@a|value|1265986158";
+    QTest::newRow("code as a value")
+        << QByteArray("expect @a value 'Kujn'") << "control=@a|value|1265986158";
     QTest::newRow("comment behind") << QByteArray("tab 4 # Advanced") << "4";
     QTest::newRow("hash inside a text") << QByteArray("type @t \"#1\"") << "control=@t|\"#1\"";
     QTest::newRow("carriage return") << QByteArray("print\r\n") << "";
@@ -98,13 +103,17 @@ void TestScriptParser::refusesWithTheLineAndTheReason_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("unknown command, near one") << QByteArray("chose @a 1") << "did you mean choose?";
-    QTest::newRow("unknown command, far from all") << QByteArray("xyzzy") << "there is no command \"xyzzy\"";
+    QTest::newRow("unknown command, near one")
+        << QByteArray("chose @a 1") << "did you mean choose?";
+    QTest::newRow("unknown command, far from all")
+        << QByteArray("xyzzy") << "there is no command \"xyzzy\"";
     QTest::newRow("quoted command") << QByteArray("\"print\"") << "there is no command";
     QTest::newRow("too few words") << QByteArray("choose @a") << "choose CONTROL WHAT";
     QTest::newRow("too many words") << QByteArray("print now") << "there is too much";
-    QTest::newRow("blanks without quotes") << QByteArray("expect @a text One Two") << "double quotes";
-    QTest::newRow("typed blanks without quotes") << QByteArray("type @a One Two") << "double quotes";
+    QTest::newRow("blanks without quotes")
+        << QByteArray("expect @a text One Two") << "double quotes";
+    QTest::newRow("typed blanks without quotes")
+        << QByteArray("type @a One Two") << "double quotes";
     QTest::newRow("open quote") << QByteArray("type @a \"One") << "not closed";
     QTest::newRow("text glued to another") << QByteArray("type @a \"One\"Two") << "comes a blank";
     QTest::newRow("unknown escape") << QByteArray("type @a \"\\t\"") << "no escape";
@@ -121,10 +130,14 @@ void TestScriptParser::refusesWithTheLineAndTheReason_data()
     QTest::newRow("cell without column") << QByteArray("expect @a cell 1 x") << "a row, a column";
     QTest::newRow("check neither on nor off") << QByteArray("check @a yes") << "none of on, off";
     QTest::newRow("24 o'clock") << QByteArray("time @a 24:00") << "no time";
-    QTest::newRow("negative row in a selection") << QByteArray("select @a 1,-2") << "no list of rows";
+    QTest::newRow("negative row in a selection")
+        << QByteArray("select @a 1,-2") << "no list of rows";
     QTest::newRow("secret without name") << QByteArray("type @a secret") << "its name";
     QTest::newRow("not UTF-8") << QByteArray("type @a \"\xff\"") << "UTF-8";
-    QTest::newRow("binary") << QByteArray("\x7f" "ELF\0\1\2", 7) << "UTF-8";
+    QTest::newRow("binary") << QByteArray("\x7f"
+                                          "ELF\0\1\2",
+                                          7)
+                            << "UTF-8";
 }
 
 void TestScriptParser::refusesWithTheLineAndTheReason()
@@ -166,8 +179,9 @@ void TestScriptParser::walksIntoTheTicket()
 {
     PrintSession session;
     Ticket &ticket = session.printSettings();
-    ticket.entries[QStringLiteral("a")].value = Dictionary{
-        {QStringLiteral("b"), Array{qint64(7), Dictionary{{QStringLiteral("c"), QStringLiteral("x")}}, 2.5}}};
+    ticket.entries[QStringLiteral("a")].value =
+        Dictionary{{QStringLiteral("b"),
+                    Array{qint64(7), Dictionary{{QStringLiteral("c"), QStringLiteral("x")}}, 2.5}}};
     ticket.entries[QStringLiteral("a/b")].value = true;
     session.pageFormat().entries[QStringLiteral("o")].value = qint64(2);
 
@@ -191,7 +205,8 @@ void TestScriptParser::walksIntoTheTicket()
 
 void TestScriptParser::masksTheLongerSecretFirst()
 {
-    QCOMPARE(maskedText(QStringLiteral("code 1234, not 12"), {QStringLiteral("12"), QStringLiteral("1234"), QString()}),
+    QCOMPARE(maskedText(QStringLiteral("code 1234, not 12"),
+                        {QStringLiteral("12"), QStringLiteral("1234"), QString()}),
              QStringLiteral("code ••••, not ••••"));
 }
 

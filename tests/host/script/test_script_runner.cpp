@@ -28,10 +28,16 @@ public:
         popup->setObjectName(QStringLiteral("bannerSheet"));
         setControlID(popup, {kPanelSignature, 614});
         Menu menu;
-        menu.items.push_back({.text = QStringLiteral("No banner"), .key = QStringLiteral("False"), .reference = 0});
-        menu.items.push_back({.text = QStringLiteral("Banner"), .key = QStringLiteral("True"), .reference = 1});
-        menu.items.push_back({.text = QStringLiteral("Twin"), .key = QStringLiteral("Twin"), .reference = 1});
-        menu.items.push_back({.text = QStringLiteral("Gone"), .key = QStringLiteral("Gone"), .reference = 9, .enabled = false});
+        menu.items.push_back(
+            {.text = QStringLiteral("No banner"), .key = QStringLiteral("False"), .reference = 0});
+        menu.items.push_back(
+            {.text = QStringLiteral("Banner"), .key = QStringLiteral("True"), .reference = 1});
+        menu.items.push_back(
+            {.text = QStringLiteral("Twin"), .key = QStringLiteral("Twin"), .reference = 1});
+        menu.items.push_back({.text = QStringLiteral("Gone"),
+                              .key = QStringLiteral("Gone"),
+                              .reference = 9,
+                              .enabled = false});
         popup->setMenu(menu);
         layout->addWidget(popup);
         field = new QLineEdit;
@@ -63,14 +69,16 @@ public:
     {
         if (tab == 4)
             return {};
-        return Error{Error::Code::NotFound, QStringLiteral("tab %1").arg(tab), QStringLiteral("the tabs are 4")};
+        return Error{Error::Code::NotFound, QStringLiteral("tab %1").arg(tab),
+                     QStringLiteral("the tabs are 4")};
     }
     QString placeOf(const QWidget *) const override { return QStringLiteral("tab 4, Advanced"); }
     void sync(SyncDirection) override { }
     void pressPrint() override
     {
         if (noticeAtPrint) {
-            CFUserNotificationDisplayNotice(NoticeLevel::Caution, QStringLiteral("Passcode missing."),
+            CFUserNotificationDisplayNotice(NoticeLevel::Caution,
+                                            QStringLiteral("Passcode missing."),
                                             QStringLiteral("Type 1 to 12 digits."), {}, &m_window);
             return;
         }
@@ -86,7 +94,8 @@ public:
     QString jobInWords() override { return QStringLiteral("Passcode: 4711"); }
     std::optional<QString> secret(const QString &name) const override
     {
-        return name == QLatin1String("pin") ? std::optional<QString>(QStringLiteral("4711")) : std::nullopt;
+        return name == QLatin1String("pin") ? std::optional<QString>(QStringLiteral("4711"))
+                                            : std::nullopt;
     }
     QStringList secretValues() override { return {QStringLiteral("4711")}; }
 
@@ -120,7 +129,7 @@ ExitStatus run(FakeDialog &dialog, const QByteArray &script, bool printAtEnd = f
         // What still stands in front would wait for a user for ever.
         while (frontNotice().isShown())
             answerNotice(1);
-        if (QWidget *modal = QApplication::activeModalWidget())
+        if (QWidget *modal = frontWindow())
             modal->close();
         loop.quit();
     });
@@ -154,10 +163,13 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
     QTest::addColumn<bool>("noticeAtPrint");
     QTest::addColumn<QString>("printProblem");
 
-    const auto row = [](const char *name, const char *script, ExitStatus status, bool notice = false, const char *problem = "") {
-        QTest::newRow(name) << QByteArray(script) << static_cast<int>(status) << notice << QString::fromLatin1(problem);
+    const auto row = [](const char *name, const char *script, ExitStatus status,
+                        bool notice = false, const char *problem = "") {
+        QTest::newRow(name) << QByteArray(script) << static_cast<int>(status) << notice
+                            << QString::fromLatin1(problem);
     };
-    row("nothing printed is fine", "tab 4\nchoose @bannerSheet key True\nexpect KPDE 614 value 1", ExitStatus::Printed);
+    row("nothing printed is fine", "tab 4\nchoose @bannerSheet key True\nexpect KPDE 614 value 1",
+        ExitStatus::Printed);
     row("printed", "choose KPDE 614 0\nprint", ExitStatus::Printed);
     row("cancelled as the script says", "cancel", ExitStatus::Printed);
     row("nothing can follow a print", "print\ntab 4", ExitStatus::WrongUsage);
@@ -171,19 +183,25 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
     row("control of another kind", "check @bannerSheet on", ExitStatus::WrongUsage);
     row("expectation not met", "expect @bannerSheet value 7", ExitStatus::WrongUsage);
     row("expectation of a disabled control", "expect @collate enabled false", ExitStatus::Printed);
-    row("ticket without the key", "expect-ticket com.kelvo.print.X absent\nexpect-choice Jog absent", ExitStatus::Printed);
+    row("ticket without the key",
+        "expect-ticket com.kelvo.print.X absent\nexpect-choice Jog absent", ExitStatus::Printed);
     row("ticket should have the key", "expect-ticket com.kelvo.print.X 1", ExitStatus::WrongUsage);
     row("no notice to answer", "answer 1", ExitStatus::WrongUsage);
-    row("notice met and answered", "print\nexpect-notice \"1 to 12 digits\"\nanswer 1", ExitStatus::Printed, true);
+    row("notice met and answered", "print\nexpect-notice \"1 to 12 digits\"\nanswer 1",
+        ExitStatus::Printed, true);
     row("notice of another text", "print\nexpect-notice \"paper\"", ExitStatus::WrongUsage, true);
-    row("notice without such a button", "print\nexpect-notice \"digits\"\nanswer 2", ExitStatus::WrongUsage, true);
+    row("notice without such a button", "print\nexpect-notice \"digits\"\nanswer 2",
+        ExitStatus::WrongUsage, true);
     row("notice not met", "print\ntab 4", ExitStatus::Failed, true);
     row("notice at the end", "print", ExitStatus::Failed, true);
-    row("print that did not go out", "print", ExitStatus::NotOffered, false, "settings in conflict");
+    row("print that did not go out", "print", ExitStatus::NotOffered, false,
+        "settings in conflict");
     row("modal dialog left open", "click @setup", ExitStatus::WrongUsage);
-    row("the window's name", "expect-window @printDialog\nexpect-window \"Print\"", ExitStatus::Printed);
+    row("the window's name", "expect-window @printDialog\nexpect-window \"Print\"",
+        ExitStatus::Printed);
     row("no secret of that name", "type @passcode secret pi", ExitStatus::WrongUsage);
-    row("picture into a folder that is not there", "screenshot \"no/such/folder.png\"", ExitStatus::Failed);
+    row("picture into a folder that is not there", "screenshot \"no/such/folder.png\"",
+        ExitStatus::Failed);
 }
 
 void TestScriptRunner::endsWithTheStatusThatTheLineDeserves()
@@ -203,9 +221,11 @@ void TestScriptRunner::worksInsideAModalDialogWhileItsOpenerWaits()
 {
     FakeDialog dialog;
 
-    const ExitStatus status = run(dialog, "click @setup\nexpect-window \"Secure print\"\n"
-                                          "type @confirmPasscode \"12\"\nexpect @confirmPasscode text \"12\"\n"
-                                          "cancel\nexpect-window \"Print\"");
+    const ExitStatus status =
+        run(dialog,
+            "click @setup\nexpect-window \"Secure print\"\n"
+            "type @confirmPasscode \"12\"\nexpect @confirmPasscode text \"12\"\n"
+            "cancel\nexpect-window \"Print\"");
 
     QCOMPARE(static_cast<int>(status), 0);
     QCOMPARE(dialog.modalResult, static_cast<int>(DialogResult::Cancel));
@@ -220,7 +240,9 @@ void TestScriptRunner::typesASecretThatNothingRepeats()
     const int kept = dup(1);
     dup2(out.handle(), 1);
 
-    const ExitStatus status = run(dialog, "type @passcode secret pin\nexpect @passcode text \"••••\"\nshow @passcode\nsummary");
+    const ExitStatus status =
+        run(dialog,
+            "type @passcode secret pin\nexpect @passcode text \"••••\"\nshow @passcode\nsummary");
 
     std::fflush(stdout);
     dup2(kept, 1);
