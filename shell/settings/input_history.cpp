@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <limits>
 
 namespace kelvo {
 
@@ -50,13 +51,26 @@ int maximumLengthForNumbers(std::int32_t maximumValue)
 
 std::optional<std::int64_t> numberTyped(const QString &text)
 {
-    bool ok = false;
-    qint64 value = QLocale().toLongLong(text, &ok);
-    if (!ok)
-        value = QLocale::c().toLongLong(text, &ok); // Latin digits work in every locale
-    if (!ok)
-        return std::nullopt;
-    return value;
+    // Latin digits work in every locale.
+    for (const QLocale &locale : {QLocale(), QLocale::c()}) {
+        bool ok = false;
+        const qint64 value = locale.toLongLong(text, &ok);
+        if (ok)
+            return value;
+    }
+    const bool tooLong = !text.isEmpty()
+        && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+    return tooLong ? std::optional(std::numeric_limits<std::int64_t>::max()) : std::nullopt;
+}
+
+QString withinRange(const QString &text, const KComboBoxOptions &options)
+{
+    const std::optional<std::int64_t> value = numberTyped(text);
+    if (value && *value < options.minimumValue)
+        return QLocale().toString(options.minimumValue);
+    if (value && *value > options.maximumValue)
+        return QLocale().toString(options.maximumValue);
+    return text;
 }
 
 bool isValidHistoryItem(const QString &item, const KComboBoxOptions &options)

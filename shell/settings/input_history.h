@@ -35,9 +35,13 @@ struct KComboBoxOptions
 // Digits of the maximum value, or 9 when that is below 1.
 int maximumLengthForNumbers(std::int32_t maximumValue);
 
-// The integer that `text` says in the user's locale, grouped or not; none for
-// what is no 64-bit integer.
+// The integer that `text` says in the user's locale, grouped or not; the largest
+// one for more digits than 64 bits hold, none for what is no integer.
 std::optional<std::int64_t> numberTyped(const QString &text);
+// What a numeric field shows once it is left: a number below the minimum becomes
+// the minimum, one above the maximum the maximum, in the user's locale. What is
+// no number stays as it is.
+QString withinRange(const QString &text, const KComboBoxOptions &options);
 
 // Whether a stored item is offered now.
 bool isValidHistoryItem(const QString &item, const KComboBoxOptions &options);
