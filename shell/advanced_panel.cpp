@@ -3,6 +3,7 @@
 #include "about_dialog.h"
 #include "control.h"
 #include "embed_control.h"
+#include "hint_text.h"
 #include "panel_interface.h"
 #include "pde_session.h"
 #include "popups.h"
@@ -15,6 +16,7 @@
 
 #include <QLabel>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -26,6 +28,7 @@ const QString kBookletOrderClient = QStringLiteral("com.kelvo.printingmanager");
 
 constexpr ControlID kBookletOrderPopup{kPanelSignature, 602};
 constexpr ControlID kAboutButton{kPanelSignature, 670};
+constexpr std::array kHints = {6021, 6141, 6161, 7021}; // KPDE
 
 // A pop-up that shows a PPD option's choices.
 struct PpdRow
@@ -71,6 +74,22 @@ OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
             advanced.*row.value = GetPopupButtonTicketValue(advanced.controls.*row.popup);
     }
     return eventNotHandledErr;
+}
+
+// The rows are views of their own: their labels share one width.
+void arrangeRows(const AdvancedControls &controls, const QWidget *content)
+{
+    const std::array labels = {labelOf(controls.bookletOrder), labelOf(controls.banner),
+                               labelOf(controls.offset), labelOf(controls.feedEdge)};
+    int width = 0;
+    for (const QLabel *label : labels)
+        width = std::max(width, label ? label->sizeHint().width() : 0);
+    for (QLabel *label : labels) {
+        if (label)
+            label->setMinimumWidth(width);
+    }
+    for (const int hint : kHints)
+        makeHintText(findControl<QLabel>(content, {kPanelSignature, hint}));
 }
 
 void fillPopups(AdvancedContext &advanced, const QWidget *content)
@@ -167,6 +186,7 @@ OSStatus Open(PMPDEContext context)
         return kPMInvalidPDEContext;
     }
     fillPopups(*advanced, content.value());
+    arrangeRows(advanced->controls, content.value());
     EmbedAndShowControl(content.value(), advanced->parentUserPane);
     advanced->handler = installEventHandler(content.value(), [advanced](const Event &event) {
         return advancedEventHandler(*advanced, event);

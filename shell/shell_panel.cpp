@@ -4,6 +4,7 @@
 #include "control.h"
 #include "device_profile.h"
 #include "embed_control.h"
+#include "flat_selector.h"
 #include "help_window.h"
 #include "installed_features.h"
 #include "notice.h"
@@ -275,6 +276,8 @@ void setButtonImage(const PDEShellContext &shell, ControlID button, const QStrin
     if (!control)
         return;
     const QIcon icon = pictureIcon(shell.bundle->resourcesPath(), picture);
+    const int side = control->fontMetrics().height();
+    control->setIconSize({side, side});
     control->setIcon(icon);
     control->setVisible(!icon.isNull());
 }
@@ -310,6 +313,7 @@ void fillTabSelector(PDEShellContext &shell)
     PopupButton *selector = shell.controls.tabSelector;
     selector->setMaximum(static_cast<int>(menu.items.size()));
     selector->setMenu(std::move(menu));
+    makeFlat(selector);
 }
 
 bool buildShellWindow(PDEShellContext &shell)
