@@ -290,6 +290,20 @@ void TestPpdFile::refusesOtherFiles_data()
     QTest::newRow("another kind") << QByteArray("%PDF-1.4\n") << Answer(Code::Damaged);
     QTest::newRow("bad rule") << bare + "*UIConstraints: a\n" << Answer(Code::Damaged);
     QTest::newRow("compressed") << QByteArray("\x1f\x8b\x08") << Answer(Code::Unsupported);
+    QTest::newRow("most options") << bare
+            + QByteArray("*OpenUI *A: PickOne\n*CloseUI: *A\n").repeated(limits::ppdOptions)
+                                  << Answer();
+    QTest::newRow("too many options")
+        << bare + QByteArray("*OpenUI *A: PickOne\n*CloseUI: *A\n").repeated(limits::ppdOptions + 1)
+        << Answer(Code::TooLarge);
+    const QByteArray size = "*PaperDimension A: \"1 1\"\n";
+    QTest::newRow("most sizes") << bare + size.repeated(limits::ppdPageSizes) << Answer();
+    QTest::newRow("too many sizes")
+        << bare + size.repeated(limits::ppdPageSizes + 1) << Answer(Code::TooLarge);
+    const QByteArray rule = "*UIConstraints: *A *B\n";
+    QTest::newRow("most rules") << bare + rule.repeated(limits::ppdConstraints) << Answer();
+    QTest::newRow("too many rules")
+        << bare + rule.repeated(limits::ppdConstraints + 1) << Answer(Code::TooLarge);
     QTest::newRow("largest") << padded(limits::ppdBytes) << Answer();
     QTest::newRow("too large") << padded(limits::ppdBytes + 1) << Answer(Code::TooLarge);
 }
