@@ -18,6 +18,7 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
+#include <initializer_list>
 #include <set>
 
 namespace kelvo {
@@ -58,6 +59,32 @@ Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &bytes, const QSt
                      QStringLiteral("line %1: %2").arg(line).arg(textFrom(ppdErrorString(status)))};
     }
     return std::shared_ptr<ppd_file_t>(ppd, &ppdClose);
+}
+
+// Counts what stands in the text, which is never less than what libcups finds.
+std::optional<Error> findExcess(const QByteArray &bytes, const QString &path)
+{
+    struct Row
+    {
+        QByteArrayView word;
+        int most;
+        QLatin1String what;
+    };
+    static constexpr Row rows[] = {
+        {"OpenUI", limits::ppdOptions, QLatin1String("options")},
+        {"OpenGroup", limits::ppdOptions, QLatin1String("groups")},
+        {"OpenSubGroup", limits::ppdOptions, QLatin1String("groups")},
+        {"*PageSize ", limits::ppdPageSizes, QLatin1String("page sizes")},
+        {"*PaperDimension", limits::ppdPageSizes, QLatin1String("page sizes")},
+        {"*ImageableArea", limits::ppdPageSizes, QLatin1String("page sizes")},
+        {"UIConstraints", limits::ppdConstraints, QLatin1String("constraints")},
+    };
+    for (const Row &row : rows) {
+        if (bytes.count(row.word) > row.most)
+            return Error{Code::TooLarge, path,
+                         QStringLiteral("more than %1 %2").arg(row.most).arg(row.what)};
+    }
+    return std::nullopt;
 }
 
 void walk(const ppd_group_t &group, const auto &visit)
@@ -129,6 +156,89 @@ void markSelection(ppd_file_t *ppd, const PpdSelection &selection)
         mark(ppd, choice.key(), choice.value());
 }
 
+// One part of a rule: an option at a choice, or anywhere but off.
+struct Term
+{
+    const ppd_option_t *option;
+    const char *choice; // null: any choice but None, Off and False
+};
+
+using Constraint = std::vector<Term>; // a conflict when every part holds
+
+bool isAny(const char *word, std::initializer_list<const char *> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [word](const char *other) { return qstricmp(word, other) == 0; });
+}
+
+// Adds "option choice" to `constraint`; false when the PPD has no such thing. The
+// custom choice of an option is written "*CustomOption True".
+bool addTerm(ppd_file_t *ppd, const QByteArray &keyword, const QByteArray &choice,
+             Constraint &constraint)
+{
+    const bool isCustom = keyword.startsWith("Custom") && qstricmp(choice.constData(), "True") == 0;
+    ppd_option_t *option = ppdFindOption(ppd, keyword.mid(isCustom ? 6 : 0).constData());
+    if (!option)
+        return false;
+    if (choice.isEmpty()) {
+        constraint.push_back({option, nullptr});
+        return true;
+    }
+    const ppd_choice_t *found = ppdFindChoice(option, isCustom ? "Custom" : choice.constData());
+    if (!found)
+        return false;
+    constraint.push_back({option, found->choice});
+    return true;
+}
+
+// The PPD's rules; those of the newer kind, of any number of options, replace
+// those of the older, of two, where there are any. Rules about what the PPD
+// lacks are left out.
+std::vector<Constraint> constraintsOf(ppd_file_t *ppd)
+{
+    std::vector<Constraint> constraints;
+    const ppd_attr_t *rule = ppdFindAttr(ppd, "cupsUIConstraints", nullptr);
+    if (!rule) {
+        for (int i = 0; i < ppd->num_consts; ++i) {
+            const ppd_const_t &pair = ppd->consts[i];
+            Constraint constraint;
+            if (addTerm(ppd, pair.option1, pair.choice1, constraint)
+                && addTerm(ppd, pair.option2, pair.choice2, constraint))
+                constraints.push_back(std::move(constraint));
+        }
+        return constraints;
+    }
+    for (; rule; rule = ppdFindNextAttr(ppd, "cupsUIConstraints", nullptr)) {
+        Constraint constraint;
+        bool known = true;
+        const QList<QByteArray> parts = QByteArray(rule->value).simplified().split('*');
+        for (const QByteArray &part : parts.mid(1)) { // before the first star stands nothing
+            const QList<QByteArray> words = part.trimmed().split(' ');
+            known = known && addTerm(ppd, words.value(0), words.value(1), constraint);
+        }
+        if (known && !constraint.empty())
+            constraints.push_back(std::move(constraint));
+    }
+    return constraints;
+}
+
+// Whether a part of a rule holds for the marks.
+bool holds(ppd_file_t *ppd, const Term &term)
+{
+    if (term.choice && isAny(term.option->keyword, {"PageSize", "PageRegion"})) {
+        const ppd_size_t *size = ppdPageSize(ppd, nullptr); // whichever of the two is marked
+        return size && qstricmp(size->name, term.choice) == 0;
+    }
+    for (int i = 0; i < term.option->num_choices; ++i) {
+        const ppd_choice_t &choice = term.option->choices[i];
+        if (choice.marked
+            && (term.choice ? qstricmp(choice.choice, term.choice) == 0
+                            : !isAny(choice.choice, {"None", "Off", "False"})))
+            return true;
+    }
+    return false;
+}
+
 // A list of options that libcups made.
 class OptionList
 {
@@ -149,7 +259,12 @@ struct PpdFile::Private
     QString path;
     QByteArray bytes;
     std::shared_ptr<ppd_file_t> ppd;
-    std::shared_ptr<ppd_file_t> constraints; // the same file again, for marks of its own
+    // The same file again, for marks of its own, with its rules and its options
+    // in their order. Opened when first asked for.
+    std::shared_ptr<ppd_file_t> constraints;
+    std::vector<Constraint> rules;
+    std::vector<const ppd_option_t *> order;
+    QHash<const ppd_option_t *, std::size_t> position;
     std::vector<PpdGroup> groups;
     QHash<const ppd_option_t *, const PpdOption *> options; // into groups
     std::vector<PpdPageSize> pageSizes;
@@ -158,8 +273,15 @@ struct PpdFile::Private
     ppd_file_t *constraintMarks()
     {
         if (!constraints) {
-            if (auto opened = openBytes(bytes, path))
-                constraints = opened.value();
+            const auto opened = openBytes(bytes, path);
+            if (!opened)
+                return nullptr;
+            constraints = opened.value();
+            rules = constraintsOf(constraints.get());
+            walk(*constraints, [this](const ppd_option_t &option) {
+                position.insert(&option, order.size());
+                order.push_back(&option);
+            });
         }
         return constraints.get();
     }
@@ -195,6 +317,8 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     if (bytes.startsWith("\x1f\x8b"))
         return Error{Code::Unsupported, path,
                      QStringLiteral("compressed; unpack it with gunzip first")};
+    if (auto excess = findExcess(bytes, path))
+        return *excess;
     auto opened = openBytes(bytes, path);
     if (!opened)
         return opened.error();
@@ -328,55 +452,37 @@ std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
     if (!ppd)
         return {};
     markSelection(ppd, selection);
-    if (ppdConflicts(ppd) == 0) // marks the options concerned
+    if (ppdConflicts(ppd) == 0)
         return {};
 
-    // libcups tells for one option all that it conflicts with. An option in two
-    // conflicts names both at once, but the others name each by itself: what
-    // holds another group is dropped.
-    std::vector<std::set<QString>> groups;
-    QStringList order;
-    walk(*ppd, [&](const ppd_option_t &option) {
-        order << textFrom(option.keyword);
-        if (!option.conflicted)
-            return;
-        for (int i = 0; i < option.num_choices; ++i) {
-            if (!option.choices[i].marked)
-                continue;
-            OptionList others;
-            others.count =
-                cupsGetConflicts(ppd, option.keyword, option.choices[i].choice, &others.options);
-            if (others.count == 0)
-                continue;
-            std::set<QString> group{textFrom(option.keyword)};
-            for (int at = 0; at < others.count; ++at)
-                group.insert(textFrom(others.options[at].name));
-            groups.push_back(std::move(group));
-        }
-    });
-    std::sort(groups.begin(), groups.end());
-    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
-    std::vector<PpdConflict> conflicts;
-    for (const auto &group : groups) {
-        const bool holdsAnother = std::any_of(groups.begin(), groups.end(), [&](const auto &other) {
-            return other.size() < group.size()
-                && std::includes(group.begin(), group.end(), other.begin(), other.end());
-        });
-        if (!holdsAnother)
-            conflicts.push_back({QStringList(group.begin(), group.end())});
+    // libcups tells which options are in any conflict, but not which of them in
+    // the same one; that stands in the rules.
+    std::set<std::vector<std::size_t>> found; // positions: each conflict once, in the PPD's order
+    for (const Constraint &rule : d->rules) {
+        if (!std::all_of(rule.begin(), rule.end(),
+                         [ppd](const Term &term) { return holds(ppd, term); }))
+            continue;
+        std::vector<std::size_t> options;
+        for (const Term &term : rule)
+            options.push_back(d->position.value(term.option));
+        std::sort(options.begin(), options.end());
+        found.insert(std::move(options));
     }
-    // In the PPD's order, within a conflict and between them.
-    QHash<QString, qsizetype> position;
-    for (qsizetype i = order.size(); i-- > 0;)
-        position.insert(order[i], i);
-    for (PpdConflict &conflict : conflicts)
-        std::sort(conflict.options.begin(), conflict.options.end(),
-                  [&](const QString &a, const QString &b) { return position[a] < position[b]; });
-    std::sort(conflicts.begin(), conflicts.end(), [&](const auto &a, const auto &b) {
-        return std::lexicographical_compare(
-            a.options.begin(), a.options.end(), b.options.begin(), b.options.end(),
-            [&](const QString &x, const QString &y) { return position[x] < position[y]; });
-    });
+    if (found.empty()) { // a rule of a form that only libcups knows
+        std::vector<std::size_t> options;
+        for (std::size_t at = 0; at < d->order.size(); ++at) {
+            if (d->order[at]->conflicted)
+                options.push_back(at);
+        }
+        found.insert(std::move(options));
+    }
+
+    std::vector<PpdConflict> conflicts;
+    for (const auto &options : found) {
+        PpdConflict &conflict = conflicts.emplace_back();
+        for (const std::size_t at : options)
+            conflict.options << textFrom(d->order[at]->keyword);
+    }
     return conflicts;
 }
 
