@@ -11,6 +11,7 @@ target_compile_options(
             -Wshadow
             -Wconversion
             -Wno-sign-conversion
+            -Wno-missing-field-initializers # records have defaults
             -Wnon-virtual-dtor
             -Woverloaded-virtual
             -Werror)

@@ -16,19 +16,33 @@ class QWidget;
 
 // What scripts see of a window and do to it: controls by ID or objectName, their
 // state as JSON, and the user's actions on them. An action behaves exactly as
-// the user's own: a disabled control or item is not offered.
+// the user's own: a control or item that is disabled or hidden is not offered.
 namespace kelvo::inspector {
 
 // `KPDE 102` or `@objectName`.
 struct ControlName
 {
     std::optional<ControlID> id;
-    QString objectName; // without the @
+    QString objectName; // without the @; empty when there is an ID
+
     QString text() const;
+    friend bool operator==(const ControlName &, const ControlName &) = default;
 };
 Result<ControlName> controlNameFrom(const QString &text);
 
-// Where an action failed: scripts end with another status for each.
+// How an item of a pop-up or menu is named.
+struct ItemName
+{
+    enum class By { Reference, Key, Text, Row } by = By::Reference;
+    std::int32_t reference = 0; // By::Reference
+    QString text;               // By::Key: MenuItem::key; By::Text: as shown
+    int row = 0;                // By::Row, from 1; dividers count
+
+    QString description() const; // for messages
+    friend bool operator==(const ItemName &, const ItemName &) = default;
+};
+
+// Why an action or a question failed: scripts end with another status for each.
 enum class Failure {
     NoSuchControl,
     NotOffered, // disabled, hidden, or the item is not there
@@ -42,21 +56,20 @@ struct Problem
 };
 using Done = std::optional<Problem>; // none: it was done
 
-// The control in `window`: a visible one before a hidden one. The problem names
-// the nearest ID or name, or where the control is when it is hidden.
-QWidget *findControl(QWidget *window, const ControlName &name, Problem *problem);
-
-// How an item of a pop-up or menu is named.
-struct ItemName
+// A control of `window`: one that is shown before one that is not. Null when
+// there is none of that name.
+struct Found
 {
-    enum class By { Reference, Unset, Key, Text, Row } by = By::Reference;
-    std::int32_t reference = 0; // By::Reference
-    QString text;               // By::Key: MenuItem::key; By::Text: as shown
-    int row = 0;                // By::Row, from 1
+    QWidget *control = nullptr;
+    bool shown = false;
 };
-// "12", "'code'" (as its number), "unset", "key NAME", "text \"…\"", "row 3".
+Found find(QWidget *window, const ControlName &name);
+// The name of the control in `window` that is most like `name`; empty when the
+// window has none.
+QString nearestControl(QWidget *window, const ControlName &name);
 
 Done choose(QWidget *control, const ItemName &item);
+// The item with that command, submenus included; `item` tells several apart.
 Done chooseCommand(QWidget *control, OSType command, const std::optional<ItemName> &item);
 Done click(QWidget *control);
 Done check(QWidget *control, bool on);
@@ -65,19 +78,22 @@ Done set(QWidget *control, int value);
 Done setTime(QWidget *control, const QTime &time);
 Done select(QWidget *control, const std::vector<int> &rows); // from 1; {0}: the empty area
 Done doubleClick(QWidget *control, int row);                 // from 1; 0: the empty area
-Done drag(QWidget *control, double dx, double dy);           // points
-Done pressKey(QWidget *window, const QString &keys);         // "Ctrl+P"
+Done drag(QWidget *control, double dx, double dy);           // from its middle, logical pixels
+Done pressKey(QWidget *window, const QString &keys);         // "Ctrl+P", to the focus
+Done answerFileChooser(QWidget *window, const QString &path);
 
 // A property as a script writes it: value, index, text, enabled, visible,
 // checked, focus, items, maximum, selection, "cell ROW COLUMN". Masked fields
 // give bullets for their text.
 Result<QString> property(QWidget *control, const QString &name);
+// Every name that property() knows.
+QStringList propertyNames();
 
-// state: present, absent, enabled, disabled, checked, unchecked.
+// `state`: present, absent, enabled, disabled, checked or unchecked.
 Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> &item,
                 const QString &state);
 
-QJsonObject describe(QWidget *control);      // with items or rows
-QJsonArray describeControls(QWidget *window); // every control that has an ID or a speaking name
+QJsonObject describe(QWidget *control);       // with items or rows
+QJsonArray describeControls(QWidget *window); // every control with an ID or a speaking name
 
 } // namespace kelvo::inspector

@@ -1,36 +1,85 @@
 #pragma once
 
 #include "four_char_code.h"
+#include "inspector.h"
 #include "result.h"
 
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
-// One command a line, UTF-8, # comments, texts in double quotes (\" \\ \n),
-// four-character codes in single quotes.
+// Scripts as text: one command a line, UTF-8, # comments, texts in double quotes
+// (\" \\ \n), four-character codes in single quotes. What comes out of here is
+// complete and of the right form; whether it can be done is seen when it runs.
 namespace kelvo {
+
+enum class ScriptCommand {
+    Panel,
+    Tab,
+    Choose,
+    Item,
+    Click,
+    Check,
+    Type,
+    Set,
+    Time,
+    Select,
+    DoubleClick,
+    Key,
+    Drag,
+    File,
+    Command,
+    Answer,
+    Print,
+    Cancel,
+    Sync,
+    Expect,
+    ExpectItem,
+    ExpectTicket,
+    ExpectChoice,
+    ExpectNotice,
+    ExpectWindow,
+    Show,
+    Controls,
+    Summary,
+    Screenshot,
+};
 
 struct ScriptWord
 {
-    enum class Kind { Bare, Text, Code } kind = Kind::Bare;
-    QString text;     // unquoted and unescaped
-    OSType code = 0;  // Kind::Code
+    QString text;        // unquoted and unescaped; a code as its number
+    bool quoted = false; // "absent" in quotes is a text, without them it is the word
 
     friend bool operator==(const ScriptWord &, const ScriptWord &) = default;
 };
 
 struct ScriptLine
 {
-    int number = 0;  // from 1
-    std::vector<ScriptWord> words; // never empty; the first is the command
+    int number = 0; // from 1
+    ScriptCommand command = ScriptCommand::Print;
+    std::optional<inspector::ControlName> control;
+    std::optional<OSType> code;              // of command, item and expect-item
+    std::optional<inspector::ItemName> item; // of choose, item and expect-item
+    std::vector<ScriptWord> arguments;       // the other words, in order
 };
 
-// Every line is checked for its form (an unknown command with the nearest one,
-// too few or too many words, an open quote) before anything runs: `where` is
-// "FILE:LINE".
+// Every line is read before anything runs. The error's `where` is "FILE:LINE";
+// its detail says what was wrong, what the command takes, and for an unknown
+// command which one is nearest.
 Result<std::vector<ScriptLine>> parseScript(const QByteArray &text, const QString &file);
-Result<std::vector<ScriptLine>> readScript(const QString &path); // "-": standard input
+
+// The same from a file of at most limits::scriptBytes, or standard input for "-".
+Result<std::vector<ScriptLine>> readScript(const QString &path);
+
+// One row a command, for the usage text and the help: "choose CONTROL WHAT" and
+// what it does.
+struct ScriptCommandHelp
+{
+    const char *usage;
+    const char *meaning;
+};
+std::vector<ScriptCommandHelp> scriptCommandHelp();
 
 } // namespace kelvo

@@ -34,19 +34,22 @@ public:
     virtual QString placeOf(const QWidget *control) const = 0;
 
     virtual void sync(SyncDirection direction) = 0; // all panels
-    virtual void pressPrint() = 0;  // as the button; may open notices
+    virtual void pressPrint() = 0;                  // as the button; may open notices
     virtual void pressCancel() = 0;
     // Whether a print that was asked for is still on its way.
     virtual bool isPrinting() const = 0;
     // How the dialog ended; none while it is open.
     virtual std::optional<ExitStatus> finished() const = 0;
-    virtual QString lastPrintProblem() const = 0; // why the last print did not go out
+    // Why the last print did not go out, and what the program would end with;
+    // empty when it did, or when a notice or dialog took the press.
+    virtual QString lastPrintProblem() const = 0;
+    virtual ExitStatus lastPrintStatus() const = 0;
 
     // The tickets as they stand, after the visible panel has written.
     virtual const PrintSession &sessionForReading() = 0;
     virtual QString jobInWords() = 0; // "What will be sent", secrets masked
     virtual std::optional<QString> secret(const QString &name) const = 0; // from --secret
-    virtual QStringList secretValues() = 0; // masked in every message
+    virtual QStringList secretValues() = 0;                               // masked in every message
 };
 
 } // namespace kelvo

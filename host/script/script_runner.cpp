@@ -1,0 +1,472 @@
+#include "script_runner.h"
+
+#include "inspector.h"
+#include "modal_dialog.h"
+#include "nearest_name.h"
+#include "notice.h"
+#include "secret_mask.h"
+#include "ticket_path.h"
+
+#include <QApplication>
+#include <QJsonDocument>
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+using inspector::Failure;
+
+// How long the runner sleeps while the dialog is busy.
+constexpr int busyWaitMs = 5;
+
+struct LineProblem
+{
+    ExitStatus status;
+    QString text;
+};
+using LineDone = std::optional<LineProblem>;
+
+LineProblem wrong(const QString &text)
+{
+    return {ExitStatus::WrongUsage, text};
+}
+
+LineDone lineProblem(const inspector::Done &done)
+{
+    if (!done)
+        return {};
+    return LineProblem{done->failure == Failure::NotOffered ? ExitStatus::NotOffered
+                                                            : ExitStatus::WrongUsage,
+                       done->text};
+}
+
+// Whether the line looks at or deals with a notice that has just come up.
+bool meetsNotice(ScriptCommand command)
+{
+    return command == ScriptCommand::ExpectNotice || command == ScriptCommand::Answer;
+}
+
+} // namespace
+
+struct ScriptRunner::Private
+{
+    Private(ScriptTarget &drivenTarget, std::vector<ScriptLine> linesToRun, Options runOptions,
+            ScriptRunner *runner)
+        : target(drivenTarget)
+        , lines(std::move(linesToRun))
+        , options(std::move(runOptions))
+        , q(runner)
+    {
+    }
+
+    ScriptTarget &target;
+    std::vector<ScriptLine> lines;
+    Options options;
+    ScriptRunner *q;
+    QTimer tick;
+    std::size_t next = 0;
+    QString metNotice;       // header and message of the notice that a line has met
+    int printedBy = 0;       // line of the print that is on its way, 0 for none
+    bool printAsked = false; // some line asked for it, or --print
+    bool hasEnded = false;
+
+    void step();
+    void run(const ScriptLine &line);
+    LineDone perform(const ScriptLine &line);
+    LineDone withControl(const ScriptLine &line);
+    LineDone expect(const ScriptLine &line, QWidget *control);
+    LineDone expectTicket(const ScriptLine &line);
+    LineDone screenshot(const QString &file);
+    bool checkNotice();
+    bool checkPrint();
+    void finish();
+    void fail(int line, const LineProblem &problem);
+    void end(ExitStatus status);
+    QWidget *front() const;
+    QString masked(const QString &text) const { return maskedText(text, target.secretValues()); }
+    void say(const QString &text) const
+    {
+        std::fputs((masked(text) + u'\n').toUtf8().constData(), stdout);
+        std::fflush(stdout);
+    }
+};
+
+ScriptRunner::ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
+                           QObject *parent)
+    : QObject(parent)
+    , d(new Private(target, std::move(lines), std::move(options), this))
+{
+    // Ticks come from whatever event loop runs: also from that of a modal dialog
+    // which an earlier line has opened and is still waiting for.
+    d->tick.setSingleShot(true);
+    connect(&d->tick, &QTimer::timeout, this, [this] { d->step(); });
+}
+
+ScriptRunner::~ScriptRunner() = default;
+
+void ScriptRunner::start()
+{
+    d->tick.start(0);
+}
+
+QWidget *ScriptRunner::Private::front() const
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal ? modal : target.window();
+}
+
+void ScriptRunner::Private::step()
+{
+    if (hasEnded)
+        return;
+    if (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown())) {
+        tick.start(busyWaitMs);
+        return;
+    }
+    if (!checkNotice() || !checkPrint())
+        return;
+    if (next == lines.size()) {
+        finish();
+        return;
+    }
+    if (target.finished()) {
+        fail(lines[next].number,
+             wrong(QStringLiteral("the dialog is closed; nothing can be done after that")));
+        return;
+    }
+    run(lines[next++]);
+}
+
+void ScriptRunner::Private::run(const ScriptLine &line)
+{
+    // The next tick is set before the line runs: a line that opens a modal dialog
+    // comes back only when that is closed, and the lines in between close it.
+    tick.start(0);
+    const LineDone problem = perform(line);
+    if (problem && !hasEnded)
+        fail(line.number, *problem);
+}
+
+// A notice must be met by the line after the one that brought it up.
+bool ScriptRunner::Private::checkNotice()
+{
+    const ShownNotice notice = frontNotice();
+    if (!notice.isShown()) {
+        metNotice.clear();
+        return true;
+    }
+    const QString now = notice.header + u'\n' + notice.message;
+    if (now == metNotice)
+        return true;
+    const int at = next == 0 ? 0 : lines[next - 1].number;
+    if (next < lines.size() && meetsNotice(lines[next].command)) {
+        metNotice = now;
+        return true;
+    }
+    fail(at,
+         {ExitStatus::Failed,
+          QStringLiteral("a notice came up: %1 %2")
+              .arg(notice.header, notice.message)
+              .simplified()});
+    return false;
+}
+
+// What became of the print that a line asked for.
+bool ScriptRunner::Private::checkPrint()
+{
+    if (printedBy == 0 || frontNotice().isShown())
+        return true;
+    const int line = std::exchange(printedBy, 0);
+    if (target.finished())
+        return true;
+    const QString problem = target.lastPrintProblem();
+    if (problem.isEmpty())
+        return true; // a notice or a set-up dialog took the press, and lines dealt with it
+    fail(line, {target.lastPrintStatus(), problem});
+    return false;
+}
+
+void ScriptRunner::Private::finish()
+{
+    if (QWidget *modal = QApplication::activeModalWidget(); modal && !target.finished()) {
+        fail(lines.empty() ? 0 : lines.back().number,
+             wrong(QStringLiteral("the script ends while the dialog \"%1\" is open")
+                       .arg(modal->windowTitle())));
+        return;
+    }
+    if (options.printAtEnd && !printAsked) {
+        printAsked = true;
+        printedBy = lines.empty() ? 1 : lines.back().number;
+        tick.start(0);
+        target.pressPrint();
+        return;
+    }
+    if (target.finished()) {
+        const bool cancelledByLine = *target.finished() == ExitStatus::Cancelled;
+        end(cancelledByLine ? ExitStatus::Printed : *target.finished());
+        return;
+    }
+    std::fputs(masked(QStringLiteral("%1: the script has ended without printing; nothing was sent. "
+                                     "Add `print`, or --print to the command line, to print.\n")
+                          .arg(options.file))
+                   .toUtf8()
+                   .constData(),
+               stderr);
+    end(ExitStatus::Printed);
+}
+
+void ScriptRunner::Private::fail(int line, const LineProblem &problem)
+{
+    std::fputs(masked(QStringLiteral("%1:%2: %3\n").arg(options.file).arg(line).arg(problem.text))
+                   .toUtf8()
+                   .constData(),
+               stderr);
+    end(problem.status);
+}
+
+void ScriptRunner::Private::end(ExitStatus status)
+{
+    hasEnded = true;
+    tick.stop();
+    emit q->ended(status);
+}
+
+LineDone ScriptRunner::Private::perform(const ScriptLine &line)
+{
+    const auto word = [&line](std::size_t at) {
+        return at < line.arguments.size() ? line.arguments[at].text : QString();
+    };
+    const auto done = [](const Result<void> &result) -> LineDone {
+        if (result)
+            return {};
+        return LineProblem{result.error().code == Error::Code::Refused ? ExitStatus::NotOffered
+                                                                       : ExitStatus::WrongUsage,
+                           result.error().text()};
+    };
+    switch (line.command) {
+    case ScriptCommand::Panel:
+        return done(target.showPanel(word(0)));
+    case ScriptCommand::Tab:
+        return done(target.showTab(word(0).toInt()));
+    case ScriptCommand::Key:
+        return lineProblem(inspector::pressKey(front(), word(0)));
+    case ScriptCommand::File:
+        return lineProblem(inspector::answerFileChooser(front(), word(0)));
+    case ScriptCommand::Command:
+        // Nobody need take it: the platform itself may be the one that is meant.
+        sendCommand(front(), *line.code);
+        return {};
+    case ScriptCommand::Answer: {
+        const ShownNotice notice = frontNotice();
+        if (!notice.isShown())
+            return wrong(QStringLiteral("no notice is shown"));
+        if (!answerNotice(word(0).toInt()))
+            return wrong(QStringLiteral("the notice has no button %1; it has %2")
+                             .arg(word(0), notice.buttons.join(QStringLiteral(", "))));
+        return {};
+    }
+    case ScriptCommand::Print:
+        if (QApplication::activeModalWidget())
+            return wrong(QStringLiteral("the dialog \"%1\" is open and must be closed first")
+                             .arg(front()->windowTitle()));
+        printAsked = true;
+        printedBy = line.number;
+        target.pressPrint();
+        return {};
+    case ScriptCommand::Cancel:
+        if (QWidget *modal = QApplication::activeModalWidget())
+            sendCommand(modal, kCommandCancel);
+        else
+            target.pressCancel();
+        return {};
+    case ScriptCommand::Sync:
+        target.sync(word(0) == QLatin1String("read") ? kSyncRead : kSyncWrite);
+        return {};
+    case ScriptCommand::ExpectTicket:
+    case ScriptCommand::ExpectChoice:
+        return expectTicket(line);
+    case ScriptCommand::ExpectNotice: {
+        const ShownNotice notice = frontNotice();
+        if (!notice.isShown())
+            return wrong(QStringLiteral("no notice is shown"));
+        if (!(notice.header + u'\n' + notice.message).contains(word(0)))
+            return wrong(QStringLiteral("the notice says: %1 %2")
+                             .arg(notice.header, notice.message)
+                             .simplified());
+        return {};
+    }
+    case ScriptCommand::ExpectWindow: {
+        const QWidget *window = front();
+        const bool byName = !line.arguments[0].quoted && word(0).startsWith(u'@');
+        const QString have = byName ? u'@' + window->objectName() : window->windowTitle();
+        if (have != word(0))
+            return wrong(QStringLiteral("the front window is \"%1\" (@%2)")
+                             .arg(window->windowTitle(), window->objectName()));
+        return {};
+    }
+    case ScriptCommand::Controls:
+        say(QString::fromUtf8(
+                QJsonDocument(inspector::describeControls(front())).toJson(QJsonDocument::Indented))
+                .trimmed());
+        return {};
+    case ScriptCommand::Summary:
+        say(target.jobInWords().trimmed());
+        return {};
+    case ScriptCommand::Screenshot:
+        return screenshot(word(0));
+    default:
+        return withControl(line);
+    }
+}
+
+LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
+{
+    QWidget *window = front();
+    const inspector::Found found = inspector::find(window, *line.control);
+    if (!found.control) {
+        const QString nearest = inspector::nearestControl(window, *line.control);
+        const QString where = window == target.window()
+            ? QStringLiteral("the window")
+            : QStringLiteral("the dialog \"%1\"").arg(window->windowTitle());
+        return wrong(QStringLiteral("%1 is not in %2%3")
+                         .arg(line.control->text(), where,
+                              nearest.isEmpty()
+                                  ? QString()
+                                  : QStringLiteral(", did you mean %1?").arg(nearest)));
+    }
+    QWidget *control = found.control;
+    const auto word = [&line](std::size_t at) { return line.arguments[at].text; };
+    switch (line.command) {
+    case ScriptCommand::Expect:
+        return expect(line, control);
+    case ScriptCommand::ExpectItem:
+        return lineProblem(inspector::expectItem(control, *line.code, line.item, word(0)));
+    case ScriptCommand::Show:
+        say(QString::fromUtf8(
+                QJsonDocument(inspector::describe(control)).toJson(QJsonDocument::Indented))
+                .trimmed());
+        return {};
+    default:
+        break;
+    }
+
+    if (!found.shown) {
+        const QString place = target.placeOf(control);
+        return LineProblem{
+            ExitStatus::NotOffered,
+            QStringLiteral("%1 is not shown%2")
+                .arg(line.control->text(),
+                     place.isEmpty() ? QString() : QStringLiteral("; it is in %1").arg(place))};
+    }
+    switch (line.command) {
+    case ScriptCommand::Choose:
+        return lineProblem(inspector::choose(control, *line.item));
+    case ScriptCommand::Item:
+        return lineProblem(inspector::chooseCommand(control, *line.code, line.item));
+    case ScriptCommand::Click:
+        return lineProblem(inspector::click(control));
+    case ScriptCommand::Check:
+        return lineProblem(inspector::check(control, word(0) == QLatin1String("on")));
+    case ScriptCommand::Type: {
+        if (line.arguments.size() < 2)
+            return lineProblem(inspector::type(control, word(0)));
+        const auto secret = target.secret(word(1));
+        if (!secret)
+            return wrong(
+                QStringLiteral("there is no secret \"%1\"; give --secret %1=FILE").arg(word(1)));
+        return lineProblem(inspector::type(control, *secret));
+    }
+    case ScriptCommand::Set:
+        return lineProblem(inspector::set(control, word(0).toInt()));
+    case ScriptCommand::Time: {
+        const QTime withSeconds = QTime::fromString(word(0), QStringLiteral("H:mm:ss"));
+        return lineProblem(inspector::setTime(
+            control,
+            withSeconds.isValid() ? withSeconds
+                                  : QTime::fromString(word(0), QStringLiteral("H:mm"))));
+    }
+    case ScriptCommand::Select: {
+        std::vector<int> rows;
+        for (const QString &row : word(0).split(u','))
+            rows.push_back(row.toInt());
+        return lineProblem(inspector::select(control, rows));
+    }
+    case ScriptCommand::DoubleClick:
+        return lineProblem(inspector::doubleClick(control, word(0).toInt()));
+    case ScriptCommand::Drag:
+        return lineProblem(inspector::drag(control, word(0).toDouble(), word(1).toDouble()));
+    default:
+        return wrong(QStringLiteral("this command takes no control"));
+    }
+}
+
+LineDone ScriptRunner::Private::expect(const ScriptLine &line, QWidget *control)
+{
+    QString name = line.arguments[0].text;
+    if (name == QLatin1String("cell"))
+        name += QStringLiteral(" %1 %2").arg(line.arguments[1].text, line.arguments[2].text);
+    const Result<QString> have = inspector::property(control, name);
+    if (!have)
+        return wrong(QStringLiteral("%1: %2").arg(line.control->text(), have.error().detail));
+    QString wanted = line.arguments.back().text;
+    if (name == QLatin1String("value") && !line.arguments.back().quoted
+        && wanted == QLatin1String("unset"))
+        wanted = QString::number(std::numeric_limits<std::int32_t>::min());
+    if (have.value() == wanted)
+        return {};
+    return wrong(QStringLiteral("%1 of %2 is \"%3\", not \"%4\"")
+                     .arg(name, line.control->text(), have.value(), wanted));
+}
+
+LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
+{
+    const PrintSession &session = target.sessionForReading();
+    const QString name = line.arguments[0].text;
+    const ScriptWord &wanted = line.arguments[1];
+    const bool isChoice = line.command == ScriptCommand::ExpectChoice;
+
+    std::optional<QString> have;
+    QStringList names;
+    if (isChoice) {
+        const PPDDictionary &choices = session.printSettings().ppdChoices;
+        names = choices.keys();
+        if (choices.contains(name))
+            have = choices.value(name);
+    } else {
+        for (const Ticket *ticket : {&session.printSettings(), &session.pageFormat()})
+            for (const auto &entry : ticket->entries)
+                names << entry.first;
+        if (const auto value = valueAtPath(session, name))
+            have = scriptText(*value);
+    }
+
+    const bool wantsAbsent = !wanted.quoted && wanted.text == QLatin1String("absent");
+    if (wantsAbsent)
+        return have ? LineDone(wrong(QStringLiteral("%1 is there: \"%2\"").arg(name, *have)))
+                    : LineDone();
+    if (!have)
+        return wrong(QStringLiteral("the ticket has no %1%2").arg(name, didYouMean(name, names)));
+    if (*have == wanted.text)
+        return {};
+    return wrong(QStringLiteral("%1 is \"%2\", not \"%3\"").arg(name, *have, wanted.text));
+}
+
+LineDone ScriptRunner::Private::screenshot(const QString &file)
+{
+    QWidget *window = front();
+    // What is still to be laid out or painted belongs into the picture.
+    QCoreApplication::sendPostedEvents();
+    if (window->grab().save(file, "PNG"))
+        return {};
+    return LineProblem{
+        ExitStatus::Failed,
+        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights")
+            .arg(file)};
+}
+
+} // namespace kelvo

@@ -1,0 +1,53 @@
+#include "nearest_name.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+namespace kelvo {
+
+namespace {
+
+int editDistance(const QString &a, const QString &b)
+{
+    std::vector<int> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (int i = 1; i <= a.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const int substituted = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, substituted});
+        }
+    }
+    return row.back();
+}
+
+} // namespace
+
+QString nearestName(const QString &name, const QStringList &candidates)
+{
+    const QString wanted = name.left(200).toLower();
+    QString nearest;
+    int best = static_cast<int>(wanted.size()) / 2 + 1;
+    for (const QString &candidate : candidates) {
+        const QString have = candidate.left(200).toLower();
+        // A name that only continues what was typed is near, however long it is.
+        const int distance =
+            !wanted.isEmpty() && have.startsWith(wanted) ? 1 : editDistance(wanted, have);
+        if (distance < best) {
+            best = distance;
+            nearest = candidate;
+        }
+    }
+    return nearest;
+}
+
+QString didYouMean(const QString &name, const QStringList &candidates)
+{
+    const QString nearest = nearestName(name, candidates);
+    return nearest.isEmpty() ? QString() : QStringLiteral(", did you mean %1?").arg(nearest);
+}
+
+} // namespace kelvo
