@@ -35,6 +35,14 @@ struct KComboBoxOptions
 // Digits of the maximum value, or 9 when that is below 1.
 int maximumLengthForNumbers(std::int32_t maximumValue);
 
+// The integer that `text` says in the user's locale, grouped or not; the largest
+// one for more digits than 64 bits hold, none for what is no integer.
+std::optional<std::int64_t> numberTyped(const QString &text);
+// What a numeric field shows once it is left: a number below the minimum becomes
+// the minimum, one above the maximum the maximum, in the user's locale. What is
+// no number stays as it is.
+QString withinRange(const QString &text, const KComboBoxOptions &options);
+
 // Whether a stored item is offered now.
 bool isValidHistoryItem(const QString &item, const KComboBoxOptions &options);
 
@@ -45,7 +53,8 @@ QStringList readHistory(const QString &key);
 QStringList withNewest(const QStringList &history, const QString &text, int limit);
 
 // Adds `text` to the stored history, merged with the file as it is under the
-// lock. False when the file could not be written.
+// lock; a text that stands there stays where it is. False when the file could
+// not be written.
 bool saveHistory(const QString &key, const QString &text, int limit);
 
 } // namespace kelvo

@@ -30,6 +30,8 @@ enum CFStringEncoding : std::uint32_t {
 };
 // What the PPD declares. Its texts come out of libcups as UTF-8 all the same.
 CFStringEncoding PPDGetEncoding(const PpdFile *ppd);
+// The encoding with that name in a PPD; Mac Roman for a name that is none.
+CFStringEncoding PPDEncodingNamed(const QString &languageEncoding);
 
 std::optional<QString> PPDCopyChoiceText(const PpdFile *ppd, const QString &keyword,
                                          const QString &choice);

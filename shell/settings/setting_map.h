@@ -4,6 +4,7 @@
 #include "four_char_code.h"
 #include "menu.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -38,6 +39,32 @@ struct SettingMap
     bool requiredState = true;             // the state that the feature must have
 };
 inline constexpr SettingMap kEndOfMap{};
+
+// Proofs for the compiler, beside each map. A map is well formed when exactly its
+// last row is kEndOfMap.
+template <std::size_t N>
+constexpr bool isWellFormed(const SettingMap (&map)[N])
+{
+    for (std::size_t i = 0; i + 1 < N; ++i) {
+        if (!map[i].localizedKey)
+            return false;
+    }
+    const SettingMap &end = map[N - 1];
+    return !end.localizedKey && end.ticketValue == 0 && end.commandID == kNoCommand
+        && !end.requiredFeature && end.requiredState;
+}
+// No two rows share a value, so that each can be found by its own.
+template <std::size_t N>
+constexpr bool valuesAreDistinct(const SettingMap (&map)[N])
+{
+    for (std::size_t i = 0; i + 1 < N; ++i) {
+        for (std::size_t j = i + 1; j + 1 < N; ++j) {
+            if (map[i].ticketValue == map[j].ticketValue)
+                return false;
+        }
+    }
+    return true;
+}
 
 // Rows before the terminator.
 int CountMaps(const SettingMap *map);

@@ -1,0 +1,194 @@
+#include "ppd_choices.h"
+
+#include "keyword_map.h"
+#include "pde_session.h"
+#include "print_session.h"
+#include "ticket.h"
+
+#include <QFile>
+#include <QUrl>
+
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+std::shared_ptr<PpdFile> currentPpd;
+
+struct EncodingRow
+{
+    const char *name;
+    CFStringEncoding encoding;
+};
+// clang-format off
+constexpr EncodingRow encodingRows[] = {
+    {"ISOLatin1",  kCFStringEncodingISOLatin1},
+    {"ISOLatin2",  kCFStringEncodingISOLatin2},
+    {"ISOLatin5",  kCFStringEncodingISOLatin5},
+    {"JIS83-RKSJ", kCFStringEncodingShiftJIS},
+    {"UTF-8",      kCFStringEncodingUTF8},
+    {"UTF8",       kCFStringEncodingUTF8},
+};
+// clang-format on
+
+// Longer than any path that the file system takes, terminator included.
+constexpr qsizetype kPathBufferBytes = 1025;
+
+// A local path, or empty when the URL names none.
+QString localPathOf(const QString &url)
+{
+    const QString path = QUrl(url).toLocalFile();
+    return QFile::encodeName(path).size() < kPathBufferBytes ? path : QString();
+}
+
+// What a PPD says goes out as one line: control characters could change the terminal.
+void reportOnStandardError(const char *what, const QString &keyword)
+{
+    QString line = keyword;
+    for (QChar &c : line) {
+        if (!c.isPrint())
+            c = QLatin1Char('?');
+    }
+    std::fprintf(stderr, "%s%s\n", what, line.toUtf8().constData());
+}
+
+const PpdChoiceValue *findChoice(const QString &keyword, const QString &choice)
+{
+    for (const PpdChoiceValue *row = findKeyword(keyword); row && row->choice; ++row) {
+        if (choice == QLatin1String(row->choice))
+            return row;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+PpdFile *PPDGetCurrent()
+{
+    if (currentPpd)
+        return currentPpd.get();
+    PMPrinter printer = nullptr;
+    QString url;
+    if (PMSessionGetCurrentPrinter(GetCurrentPrintSession(), &printer) != noErr
+        || PMPrinterGetDescriptionURL(printer, kPMPPDDescriptionType, &url) != noErr)
+        return nullptr;
+    const QString path = localPathOf(url);
+    if (path.isEmpty())
+        return nullptr;
+    Result<std::shared_ptr<PpdFile>> opened = PpdFile::open(path);
+    if (!opened)
+        return nullptr;
+    currentPpd = opened.value();
+    return currentPpd.get();
+}
+
+void PPDCloseCurrent()
+{
+    currentPpd.reset();
+}
+
+CFStringEncoding PPDGetEncoding(const PpdFile *ppd)
+{
+    return ppd ? PPDEncodingNamed(ppd->languageEncoding()) : kCFStringEncodingMacRoman;
+}
+
+CFStringEncoding PPDEncodingNamed(const QString &languageEncoding)
+{
+    for (const EncodingRow &row : encodingRows) {
+        if (languageEncoding == QLatin1String(row.name))
+            return row.encoding;
+    }
+    return kCFStringEncodingMacRoman;
+}
+
+std::optional<QString> PPDCopyChoiceText(const PpdFile *ppd, const QString &keyword,
+                                         const QString &choice)
+{
+    const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
+    const PpdChoice *found = option ? option->findChoice(choice) : nullptr;
+    if (!found)
+        return std::nullopt;
+    return found->text;
+}
+
+std::optional<QString> PPDCopyDefaultChoice(const PpdFile *ppd, const QString &keyword)
+{
+    const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
+    if (!option || option->defaultChoice.isEmpty())
+        return std::nullopt;
+    return option->defaultChoice;
+}
+
+std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword)
+{
+    const PPDDictionary *choices = PMTicketGetPPDDict(ticket);
+    if (!choices || !choices->contains(keyword))
+        return std::nullopt;
+    return choices->value(keyword);
+}
+
+void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
+                         const std::optional<QString> &choice)
+{
+    PPDDictionary *choices = PMTicketGetPPDDict(ticket);
+    if (choices && !keyword.isEmpty() && choice)
+        choices->insert(keyword, *choice);
+}
+
+std::int32_t PPDTicketValueForChoice(const QString &keyword, const QString &choice)
+{
+    const PpdChoiceValue *row = findChoice(keyword, choice);
+    return row ? row->value : -1;
+}
+
+std::optional<QString> PPDChoiceForTicketValue(const QString &keyword, std::int32_t value)
+{
+    for (const PpdChoiceValue *row = findKeyword(keyword); row && row->choice; ++row) {
+        if (row->value == value)
+            return QString::fromUtf8(row->choice);
+    }
+    return std::nullopt;
+}
+
+void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
+                                         const QString &keyword, std::int32_t *out)
+{
+    std::optional<QString> choice = PPDCopyCurrentChoice(ticket, keyword);
+    if (!choice)
+        choice = PPDCopyDefaultChoice(ppd, keyword);
+    if (choice && out)
+        *out = PPDTicketValueForChoice(keyword, *choice);
+}
+
+int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword, OSType command,
+                               bool honourConstraints)
+{
+    if (ppd && honourConstraints)
+        ppd->markDefaults();
+    menu.items.clear();
+    const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
+    if (!option) {
+        reportOnStandardError("Expected PPD option not found: ", keyword);
+        return 0;
+    }
+    for (const PpdChoice &choice : option->choices) {
+        // The mark stays on purpose: the next choice is judged after this one.
+        if (honourConstraints && ppd->mark(keyword, choice.keyword))
+            continue;
+        const std::int32_t value = PPDTicketValueForChoice(keyword, choice.keyword);
+        if (value == -1) {
+            reportOnStandardError("Skipped unrecognized choice in PPD: ", choice.keyword);
+            continue;
+        }
+        MenuItem item;
+        item.text = choice.text;
+        item.key = choice.keyword;
+        item.command = command;
+        item.reference = value;
+        menu.items.push_back(std::move(item));
+    }
+    return static_cast<int>(menu.items.size());
+}
+
+} // namespace kelvo

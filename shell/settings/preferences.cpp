@@ -1,0 +1,129 @@
+#include "preferences.h"
+
+#include "file_store.h"
+#include "folders.h"
+#include "property_list.h"
+#include "size_limits.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+// The system's number for why a write failed.
+int errorNumber(Error::Code code)
+{
+    switch (code) {
+    case Error::Code::NotFound:
+        return ENOENT;
+    case Error::Code::NotReadable:
+        return EACCES;
+    case Error::Code::NotWritable:
+        return EIO;
+    case Error::Code::TooLarge:
+        return EFBIG;
+    case Error::Code::Damaged:
+        return EBADMSG;
+    case Error::Code::WrongType:
+        return EINVAL;
+    case Error::Code::OutOfRange:
+        return ERANGE;
+    case Error::Code::Unsupported:
+        return ENOTSUP;
+    case Error::Code::Unreachable:
+        return EHOSTUNREACH;
+    case Error::Code::Refused:
+        return EPERM;
+    case Error::Code::TimedOut:
+        return ETIMEDOUT;
+    case Error::Code::Cancelled:
+        return ECANCELED;
+    }
+    return EIO;
+}
+
+bool reportWriting(const Result<void> &written)
+{
+    if (!written)
+        std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n",
+                     errorNumber(written.error().code));
+    return bool(written);
+}
+
+Result<QString> userPreferencePath(const QString &name)
+{
+    const QString folder = userPreferencesFolder();
+    if (folder.isEmpty())
+        return Error{Error::Code::NotFound, name, QStringLiteral("there is no preferences folder")};
+    return folder + QLatin1Char('/') + safeFileName(name);
+}
+
+// With what is missing above it, for the user alone. False when something else
+// than a folder is in the way.
+bool makeFolder(const QString &path)
+{
+    const QFileInfo folder(path);
+    if (folder.exists())
+        return folder.isDir();
+    if (!folder.isRoot() && !makeFolder(folder.path()))
+        return false;
+    return QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)
+        || QFileInfo(path).isDir(); // another dialog was faster
+}
+
+} // namespace
+
+std::optional<QString> CopyPreferenceFileURL(const QString &name)
+{
+    const QString support = localApplicationSupportFolder();
+    const QString makerFolder = support + QStringLiteral("/Kelvo");
+    if (support.isEmpty() || !makeFolder(makerFolder))
+        return std::nullopt;
+    return makerFolder + QLatin1Char('/') + safeFileName(name);
+}
+
+std::optional<QVariant> CopyXMLData(const QString &name)
+{
+    const std::optional<QString> path = CopyPreferenceFileURL(name);
+    if (!path)
+        return std::nullopt;
+    const Result<QByteArray> bytes = readFile(*path, limits::plistBytes);
+    if (!bytes)
+        return std::nullopt;
+    Result<QVariant> list = CFPropertyListCreateFromXMLData(bytes.value(), *path);
+    if (!list) {
+        std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n",
+                     list.error().text().toUtf8().constData());
+        return std::nullopt;
+    }
+    return list.value();
+}
+
+std::optional<Dictionary> CopyUserPreferences(const QString &name)
+{
+    const Result<QString> path = userPreferencePath(name);
+    if (!path)
+        return std::nullopt;
+    const Result<QVariant> list = readPropertyList(path.value());
+    return list ? dictionary(list.value()).value_or(Dictionary()) : Dictionary();
+}
+
+bool WriteUserPreferences(const QString &name, const Dictionary &propertyList)
+{
+    const Result<QString> path = userPreferencePath(name);
+    return reportWriting(path ? writeDictionaryFile(path.value(), propertyList) : path.error());
+}
+
+bool ChangeUserPreferences(const QString &name, const std::function<bool(Dictionary &)> &change)
+{
+    const Result<QString> path = userPreferencePath(name);
+    return reportWriting(path ? changeDictionaryFile(path.value(), DamagedStore::SetAside, change)
+                              : path.error());
+}
+
+} // namespace kelvo

@@ -1,0 +1,88 @@
+#include "setting_map.h"
+
+#include "installed_features.h"
+#include "ticket_values.h"
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+bool isOffered(const SettingMap &row)
+{
+    return !row.requiredFeature || getInstalledFeature(row.requiredFeature) == row.requiredState;
+}
+
+// The row that answers for `value`; null when that is the terminator.
+const SettingMap *findRow(const SettingMap *map, std::int32_t value)
+{
+    if (!map)
+        return nullptr;
+    const SettingMap *row = map;
+    while (row->ticketValue != 0) {
+        if (row->ticketValue == value && isOffered(*row))
+            return row;
+        ++row;
+    }
+    return row->localizedKey ? row : nullptr;
+}
+
+QString labelOf(const SettingMap &row, CFBundleRef bundle, JobContext jobContext)
+{
+    if (row.ticketValue != kUnset)
+        return localizedText(bundle, QString::fromUtf8(row.localizedKey));
+    return localizedText(bundle,
+                         jobContext == kJobContextJob ? QStringLiteral("PrinterDefault")
+                                                      : QStringLiteral("UseJobSetting"));
+}
+
+} // namespace
+
+int CountMaps(const SettingMap *map)
+{
+    int count = 0;
+    while (map && map[count].localizedKey)
+        ++count;
+    return count;
+}
+
+std::int32_t UIToTicket(const SettingMap *map, int index)
+{
+    return map[index - 1].ticketValue;
+}
+
+int TicketToUI(const SettingMap *map, std::int32_t value)
+{
+    const SettingMap *row = findRow(map, value);
+    return row ? static_cast<int>(row - map) + 1 : -1;
+}
+
+const char *LocalizedKeyForTicketValue(const SettingMap *map, std::int32_t value)
+{
+    const SettingMap *row = findRow(map, value);
+    return row ? row->localizedKey : nullptr;
+}
+
+std::int16_t PopulateMenuFromMap(CFBundleRef bundle, Menu &menu, const SettingMap *map,
+                                 JobContext jobContext, OSType commandOverride)
+{
+    const int count = CountMaps(map);
+    for (int i = 0; i < count; ++i) {
+        const SettingMap &row = map[i];
+        if (!isOffered(row))
+            continue;
+        MenuItem item;
+        item.text = labelOf(row, bundle, jobContext);
+        item.key = QString::fromUtf8(row.localizedKey);
+        item.command = commandOverride != kNoCommand ? commandOverride : row.commandID;
+        item.reference = row.ticketValue;
+        item.divider = item.key == QLatin1String("-");
+        menu.items.push_back(std::move(item));
+    }
+    menu.reference = map;
+    return static_cast<std::int16_t>(
+        std::min<int>(count, std::numeric_limits<std::int16_t>::max()));
+}
+
+} // namespace kelvo

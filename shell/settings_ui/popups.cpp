@@ -1,0 +1,113 @@
+#include "popups.h"
+
+#include "input_history.h"
+#include "preferences.h"
+#include "summary_view.h"
+#include "tab_control.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace kelvo {
+
+namespace {
+
+// The stored texts put into `menu` after item `insertAfter`, each at its place in
+// the array; how many there were.
+int insertHistory(Menu &menu, const QString &historyKey, int insertAfter, OSType command)
+{
+    const Dictionary histories = CopyUserPreferences(kInputHistoryFile).value_or(Dictionary());
+    const Array history = array(histories, historyKey).value_or(Array());
+    int inserted = 0;
+    for (int i = 0; i < history.size(); ++i) {
+        const std::optional<QString> text = string(history[i]);
+        if (!text)
+            continue;
+        MenuItem item;
+        item.text = *text;
+        item.command = command;
+        const auto after = std::clamp<std::ptrdiff_t>(
+            std::ptrdiff_t(insertAfter) + i, 0, static_cast<std::ptrdiff_t>(menu.items.size()));
+        menu.items.insert(menu.items.begin() + after, std::move(item));
+        ++inserted;
+    }
+    return inserted;
+}
+
+} // namespace
+
+std::int16_t PopulatePopupButtonFromMap(CFBundleRef bundle, PopupButton *popup,
+                                        const SettingMap *map, JobContext jobContext,
+                                        OSType commandOverride)
+{
+    return PopulatePopupButtonFromMapAndHistory(bundle, popup, map, jobContext, {}, 0, kNoCommand,
+                                                commandOverride);
+}
+
+std::int16_t PopulatePopupButtonFromMapAndHistory(CFBundleRef bundle, PopupButton *popup,
+                                                  const SettingMap *map, JobContext jobContext,
+                                                  const QString &historyKey, int insertAfter,
+                                                  OSType historyCommand, OSType commandOverride)
+{
+    if (!popup)
+        return 0;
+    Menu menu;
+    int count = PopulateMenuFromMap(bundle, menu, map, jobContext, commandOverride);
+    if (!historyKey.isEmpty())
+        count += insertHistory(menu, historyKey, insertAfter, historyCommand);
+    count = std::min<int>(count, std::numeric_limits<std::int16_t>::max());
+    popup->setMenu(std::move(menu));
+    popup->setMaximum(count);
+    return static_cast<std::int16_t>(count);
+}
+
+bool SetPopupButtonToTicketValue(PopupButton *popup, std::int32_t value)
+{
+    return popup && popup->setValueByReference(value);
+}
+
+std::int32_t GetPopupButtonTicketValue(const PopupButton *popup)
+{
+    return popup ? popup->chosenReference() : kUnset;
+}
+
+int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString &keyword,
+                                bool honourConstraints)
+{
+    if (!popup)
+        return 0;
+    Menu menu = popup->menu();
+    const int count = PPDPopulateMenuWithChoices(menu, ppd, keyword, kNoCommand, honourConstraints);
+    popup->setMenu(std::move(menu));
+    popup->setMaximum(count);
+    return count;
+}
+
+void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[])
+{
+    if (!tabControl || !panes)
+        return;
+    const int shown = tabControl->value() - 1;
+    // Hidden first: two panes at once would ask the window for room for both.
+    for (int i = 0; i < paneCount; ++i) {
+        if (i != shown && panes[i]) {
+            panes[i]->hide();
+            panes[i]->setEnabled(false);
+        }
+    }
+    if (shown >= 0 && shown < paneCount && panes[shown]) {
+        panes[shown]->setEnabled(true);
+        panes[shown]->show();
+    }
+    tabControl->update();
+}
+
+OSStatus UpdateSummaryTextView(SummaryView *view, const QString &text)
+{
+    if (!view || text.isNull())
+        return paramErr;
+    view->setSummary(text);
+    return noErr;
+}
+
+} // namespace kelvo
