@@ -1,6 +1,7 @@
 #pragma once
 
 #include "four_char_code.h"
+#include "status.h"
 
 #include <QString>
 #include <QVariant>
@@ -8,6 +9,8 @@
 
 #include <cstdint>
 #include <optional>
+
+class QLabel;
 
 // Controls by ID. A control ID is a signature and a number, unique in its
 // window, written `KPDE 102`; in a window description it is the dynamic
@@ -26,15 +29,18 @@ inline constexpr OSType kPanelSignature = fourCharCode("KPDE");
 inline constexpr OSType kShellSignature = fourCharCode("Kshl");
 inline constexpr OSType kUserPaneSignature = fourCharCode("KSgb"); // number = tab index
 
-// "KPDE 102" and back: four printable characters, one blank, a decimal number.
+// "KPDE 102" and back: four printable ASCII characters, one blank, a decimal
+// 32-bit number without plus sign or leading zeros. None when it is malformed.
 std::optional<ControlID> controlIDFromText(const QString &text);
 QString textOf(ControlID id);
 
 void setControlID(QWidget *control, ControlID id);
 std::optional<ControlID> controlIDOf(const QWidget *control);
 
-// The control with that ID in the window of `anyWidget`, or below `anyWidget`
-// when it has no window yet; null when there is none.
+// The control with that ID in the window of `anyWidget`, or below the topmost
+// parent when it is in no window yet; null when there is none. Where an ID
+// stands more than once (panels of several bundles in one window), the control
+// nearest to `anyWidget` is found. Windows that this window owns are not searched.
 QWidget *findControl(const QWidget *anyWidget, ControlID id);
 // The same, and of class T; null also when it is of another class.
 template <typename T>
@@ -52,9 +58,9 @@ void setControlProperty(QWidget *control, OSType creator, OSType tag, const QVar
 std::optional<QVariant> controlProperty(const QWidget *control, OSType creator, OSType tag);
 void removeControlProperty(QWidget *control, OSType creator, OSType tag);
 
-// Puts `control` into `parent`'s layout (a vertical one is made when it has
-// none) and, for the second, makes it visible. paramErr for a null argument.
-std::int32_t embedControl(QWidget *control, QWidget *parent);
+// Puts `control` into `parent`'s layout; a vertical one without margins is made
+// when it has none. A hidden control stays hidden. paramErr for a null argument.
+OSStatus embedControl(QWidget *control, QWidget *parent);
 
 // The dialog window's buttons: set by whoever makes the dialog, found by the
 // panels from any widget in that window. Null when the window has none.
@@ -62,8 +68,11 @@ void setWindowButtons(QWidget *window, QWidget *defaultButton, QWidget *cancelBu
 QWidget *windowDefaultButton(const QWidget *anyWidget);
 QWidget *windowCancelButton(const QWidget *anyWidget);
 
-// A control with its label: both are enabled, shown and hidden together. The
-// label is the QLabel whose buddy the control is.
+// The QLabel whose buddy `control` is; null when it has none.
+QLabel *labelOf(const QWidget *control);
+
+// A control with its label: both are enabled, or shown, together.
 void setEnabledWithLabel(QWidget *control, bool enabled);
+void setVisibleWithLabel(QWidget *control, bool visible);
 
 } // namespace kelvo

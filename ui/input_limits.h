@@ -15,9 +15,9 @@ namespace kelvo {
 struct InputLimits
 {
     int minimumLength = 0;
-    int maximumLength = -1; // -1: no limit
+    int maximumLength = -1;                // -1: no limit
     std::optional<QSet<char32_t>> allowed; // none: any character
-    bool ascii() const;     // only printable ASCII is allowed
+    bool ascii() const;                    // only printable ASCII is allowed
 
     static QSet<char32_t> setOf(const QString &characters);
     static const QSet<char32_t> &decimalDigits();

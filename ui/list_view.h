@@ -5,14 +5,14 @@
 #include <functional>
 #include <vector>
 
-class QAbstractTableModel;
-
 namespace kelvo {
+
+class RowModel;
 
 // A list with columns and any number of selected rows, made for 100,000 rows:
 // it asks for the cells it shows. Sends ListSelection when the selection
-// changes by the user and ListActivated on a double click (row -1 for the empty
-// area) or Return. Rows count from 0.
+// changes by the user, once for each action, and ListActivated on a double
+// click (row -1 for the empty area) or Return. Rows count from 0.
 class ListView : public QTreeView
 {
     Q_OBJECT
@@ -29,22 +29,30 @@ public:
     using CellText = std::function<QString(int row, int column)>;
     void setColumns(const std::vector<Column> &columns, CellText text);
 
-    // Tells the list that it has `count` rows now; the selection is cleared.
+    // Tells the list that it has `count` rows now, whose texts may all be others;
+    // the selection is cleared, silently, and the scroll position kept.
     void reload(int count);
     int rowCount() const;
     QString cellText(int row, int column) const;
 
     std::vector<int> selectedRows() const; // ascending
+    // Selects these and no others; rows that are not there are left out. Silent
+    // unless `asUser`.
     void selectRows(const std::vector<int> &rows, bool asUser = false);
-    void activateRow(int row); // as a double click; -1 for the empty area
+    // As a double click: selects the row first; -1 for the empty area.
+    void activateRow(int row);
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QAbstractTableModel *m_model;
+    void sendActivated(int row);
+    void sendPendingSelection();
+
+    RowModel *m_model;
     bool m_silent = false;
+    bool m_isSelectionPending = false; // the user changed it, and it was not sent yet
 };
 
 } // namespace kelvo

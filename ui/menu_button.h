@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class QMenu;
+
 namespace kelvo {
 
 // A button that opens a menu with submenus. It sends Menu and then Command for
@@ -19,6 +21,7 @@ public:
 
     Menu &menu() { return m_menu; }
     const Menu &menu() const { return m_menu; }
+    // The maximum becomes the number of items of the first level.
     void setMenu(Menu menu);
 
     // Called just before the menu opens, to enable and check its items.
@@ -30,12 +33,15 @@ public:
     // The menu as it would open now.
     const Menu &updatedMenu();
 
-    // As if the user had picked `item` of updatedMenu(); false when it is disabled.
+    // As if the user had picked `item`, an element of menu() itself and not a copy;
+    // false when it, a menu around it or the button is disabled, and when it is a
+    // divider or a submenu.
     bool choose(const MenuItem &item);
 
 private:
-    void open();
+    void fillShownMenu();
 
+    QMenu *m_shown; // what the user sees of m_menu, filled when it opens
     Menu m_menu;
     std::function<void(Menu &)> m_update;
     int m_maximum = 0;

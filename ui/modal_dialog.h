@@ -1,13 +1,14 @@
 #pragma once
 
-#include "bundle.h"
 #include "event.h"
-#include "result.h"
 #include "status.h"
 
 #include <QDialog>
+#include <QPointer>
 
 #include <functional>
+
+class QPushButton;
 
 namespace kelvo {
 
@@ -16,17 +17,20 @@ inline constexpr OSType kCommandCancel = fourCharCode("not!");
 inline constexpr OSType kCommandHelp = fourCharCode("Khlp");
 
 // A modal dialog around a loaded window. A button's command is its dynamic
-// property "command" ("ok  "). Return presses OK when it is the default button,
-// Escape Cancel.
+// property "command" ("ok  "). The OK button becomes the default one, which
+// Return presses; Escape is Cancel. Help that no handler takes opens the help
+// page named by the content's dynamic property "helpPage".
 class ModalDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    // Takes ownership of `content`, whose window title it takes.
+    // Takes ownership of `content`, and its window title and objectName. Modal to
+    // the window of `parent`, or to the front window when that is null.
     ModalDialog(QWidget *content, QWidget *parent);
 
-    // Asked when OK is pressed; false keeps the dialog open (say why first).
+    // Asked when OK is pressed, after typed values have been taken; false keeps
+    // the dialog open (say why first).
     void setAcceptRule(std::function<bool()> mayAccept) { m_mayAccept = std::move(mayAccept); }
 
     // Runs until OK or Cancel. Nested dialogs are fine.
@@ -37,11 +41,14 @@ public:
 
 private:
     std::function<bool()> m_mayAccept;
+    QPointer<QPushButton> m_okButton; // null when the content has none
     EventHandlerRef m_handler;
 };
 
 // The window that the user is working in: the front modal dialog, else the
 // print dialog; null before there is one. What scripts act on.
 QWidget *frontWindow();
+// Tells which window the print dialog is; the host does, once.
+void setPrintWindow(QWidget *window);
 
 } // namespace kelvo

@@ -17,9 +17,8 @@ void CFUserNotificationDisplayNotice(NoticeLevel level, const QString &header,
 
 // Two or three buttons, the default one first; returns the button pressed, from
 // 1. Escape presses the second.
-int CFUserNotificationDisplayAlert(NoticeLevel level, const QString &header,
-                                   const QString &message, const QStringList &buttons,
-                                   QWidget *parent = nullptr);
+int CFUserNotificationDisplayAlert(NoticeLevel level, const QString &header, const QString &message,
+                                   const QStringList &buttons, QWidget *parent = nullptr);
 
 // What stands in front, for scripts; empty header and no buttons when nothing does.
 struct ShownNotice

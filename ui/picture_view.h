@@ -18,7 +18,8 @@ QString pictureFile(const QString &resourcesPath, const QString &name);
 QIcon pictureIcon(const QString &resourcesPath, const QString &name);
 
 // Shows one picture, or several on top of one another, as large as fits
-// without distortion. It is sharp at any device pixel ratio.
+// without distortion. It is sharp at any device pixel ratio, and paler when
+// disabled.
 class PictureView : public QWidget
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ public:
     const QStringList &pictures() const { return m_files; }
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

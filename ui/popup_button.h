@@ -4,12 +4,15 @@
 
 #include <QComboBox>
 
+class QStyleOptionComboBox;
+
 namespace kelvo {
 
 // A pop-up button: shows one item of its menu. It sends Menu, then Command when
 // the item has one, then ControlHit, and only when the user chooses. Values are
 // 1-based, 0 when nothing is shown. Dividers and disabled items cannot be
-// chosen. Submenus are not shown: a pop-up's menu is flat.
+// chosen. Submenus are not shown: a pop-up's menu is flat. A long text is elided
+// in the button and stands whole in its list and its tool tip.
 class PopupButton : public QComboBox
 {
     Q_OBJECT
@@ -18,12 +21,13 @@ public:
     explicit PopupButton(QWidget *parent = nullptr);
 
     const Menu &menu() const { return m_menu; }
-    // Replaces the menu; the value becomes the first item that can be chosen.
+    // Replaces the menu, silently; the value becomes the first item that can be
+    // chosen and the maximum the number of items.
     void setMenu(Menu menu);
 
-    int value() const;         // the shown item, from 1
-    void setValue(int value);  // silent; out of range shows nothing
-    std::int32_t chosenReference() const; // of the shown item; kUnset when nothing is shown
+    int value() const;                    // the shown item, from 1
+    void setValue(int value);             // silent; out of range shows nothing
+    std::int32_t chosenReference() const; // of the shown item; INT32_MIN when none is
     // The first item with that reference; false, and unchanged, when there is none.
     bool setValueByReference(std::int32_t reference);
 
@@ -34,8 +38,17 @@ public:
     // As if the user had picked item `value`; false when it cannot be picked.
     bool choose(int value);
 
+    QSize sizeHint() const override;
+    void showPopup() override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void send(int index);
+    QRect textRect(const QStyleOptionComboBox &option) const;
+    QString elidedText(const QStyleOptionComboBox &option) const;
 
     Menu m_menu;
     int m_maximum = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 class QButtonGroup;
@@ -18,7 +19,7 @@ public:
     explicit RadioGroup(QWidget *parent = nullptr);
 
     int value() const;
-    void setValue(int value); // silent
+    void setValue(int value); // silent; out of range: none is on
     int count() const;
     QRadioButton *button(int value) const; // null out of range
     QRadioButton *addButton(const QString &text);
@@ -29,6 +30,8 @@ protected:
     void childEvent(QChildEvent *event) override;
 
 private:
+    QList<QRadioButton *> buttons() const;
+
     QButtonGroup *m_group;
 };
 

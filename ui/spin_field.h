@@ -10,8 +10,10 @@ namespace kelvo {
 // A number with two arrows. The value is an integer of `decimals` decimal
 // places: 1234 with 2 decimals shows 12.34 in the user's locale. Typed text
 // becomes a value when the field is left or Return is pressed; what is outside
-// the range becomes the nearest limit. Sends TextChanged while typing and
-// ControlHit when the value changes by the user.
+// the range becomes the nearest limit, what is no number leaves the value as it
+// was. Thousands separators are neither shown nor taken. Sends TextChanged while
+// typing, ControlHit when the value changes by the user and FocusChanged when it
+// is left. Page Up and Page Down take ten steps.
 class SpinField : public QAbstractSpinBox
 {
     Q_OBJECT
@@ -38,28 +40,36 @@ public:
     QString suffix() const { return m_suffix; } // a unit, such as " mm"
     void setSuffix(const QString &suffix);
 
-    bool choose(int value);               // as the user, clamped; false when disabled
-    bool typeText(const QString &text);   // replaces the text as a user types it; false when refused
+    bool choose(int value);             // as the user, clamped; false when disabled
+    bool typeText(const QString &text); // replaces the text as a user types it; false when refused
+
+    // Makes the typed text the value, as leaving the field does.
+    void takeTypedText();
 
     void stepBy(int steps) override;
     QValidator::State validate(QString &input, int &pos) const override;
     void fixup(QString &input) const override;
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     StepEnabled stepEnabled() const override;
+    void changeEvent(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QString textFor(int value) const;
     bool valueFrom(const QString &text, int *value) const; // the unclamped number
-    void takeTypedText();
     void changeTo(int value);
-    void show(int value);
+    void showValue(int value);
 
     int m_value = 0, m_minimum = 0, m_maximum = 99, m_decimals = 0, m_singleStep = 1;
     QString m_suffix;
 };
+
+// Makes what was typed into the spin and time fields of `window` their values,
+// as if each field were left: what OK and Print do first.
+void commitTypedValues(QWidget *window);
 
 } // namespace kelvo

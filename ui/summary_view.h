@@ -1,7 +1,5 @@
 #pragma once
 
-#include "status.h"
-
 #include <QPlainTextEdit>
 
 namespace kelvo {
@@ -18,6 +16,7 @@ public:
     // Replaces the text in one go, without drawing in between.
     void setSummary(const QString &text);
     QSize sizeHint() const override; // five lines
+    QSize minimumSizeHint() const override;
 };
 
 } // namespace kelvo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QTabBar>
 
 namespace kelvo {
@@ -9,13 +10,20 @@ namespace kelvo {
 class TabControl : public QTabBar
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList titles READ titles WRITE setTitles)
 
 public:
     explicit TabControl(QWidget *parent = nullptr);
 
+    QStringList titles() const;
+    void setTitles(const QStringList &titles); // silent; keeps the value where it can
+
     int value() const { return currentIndex() + 1; }
     void setValue(int value); // silent
-    bool choose(int value);   // as the user
+    bool choose(int value);   // as the user; false when there is no such tab or it is disabled
+
+protected:
+    bool event(QEvent *event) override;
 };
 
 } // namespace kelvo

@@ -15,7 +15,10 @@ public:
 
     void setValue(const QTime &time); // silent; seconds are kept even where they are not shown
     QTime value() const;
-    bool choose(const QTime &time); // as the user
+    bool choose(const QTime &time); // as the user; false when it cannot be changed
+
+protected:
+    void changeEvent(QEvent *event) override;
 };
 
 } // namespace kelvo

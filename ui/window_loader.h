@@ -13,11 +13,21 @@ namespace kelvo {
 
 // Loads Resources/dialogs/<description>/<window>.ui of `bundle`. Texts are
 // looked up as keys in the table "Localizable" of the bundle (a missing one
-// stays as it stands in the file); controls send their events; IDs are checked.
-// The widget classes are Qt's and this library's (PopupButton, MenuButton,
-// RadioGroup, TabControl, SpinField, TimeField, HistoryField, ListView,
-// PictureView, SummaryView); any other class fails, as does an ID that stands
-// twice or is malformed. `parent` may be null: the caller owns the window.
+// stays as it stands in the file) and labels show them as plain text unless the
+// file names another format; controls send their events; a control without
+// accessible name is called as the label whose buddy it is.
+//
+// Dynamic properties that the loader knows (all notr):
+//   controlID   string   "KPDE 102"; any widget
+//   command     string   four characters, "ok  "; buttons
+//
+// The widget classes are this library's (PopupButton, MenuButton, RadioGroup,
+// TabControl with its property "titles", SpinField, TimeField, HistoryField,
+// ListView, PictureView, SummaryView) and of Qt's QWidget, QFrame, Line, QLabel,
+// QPushButton, QToolButton, QCheckBox, QRadioButton, QLineEdit, QPlainTextEdit,
+// QSlider, QGroupBox, QScrollArea, QStackedWidget, QProgressBar and QSplitter.
+// Any other class, an ID that stands twice and a malformed ID or command fail,
+// all of them named in the error. `parent` may be null: the caller owns the window.
 Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString &description,
                                               const QString &window, QWidget *parent = nullptr);
 

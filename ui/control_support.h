@@ -1,0 +1,31 @@
+#pragma once
+
+#include "event.h"
+
+#include <QString>
+
+class QPlainTextEdit;
+class QWidget;
+
+// What the controls of this library share; not for its users.
+namespace kelvo {
+
+// Sends an event that begins at `source`.
+OSStatus sendFrom(QWidget *source, EventKind kind, OSType command = kNoCommand,
+                  std::int32_t reference = 0, int row = -1);
+
+// The wheel scrolls the panel under it and changes `control` only while it has
+// the focus; it does not give it the focus either.
+void guardWheel(QWidget *control);
+
+// `text` as a tool tip that is never taken for markup.
+QString plainToolTip(const QString &text);
+
+// `text` on one line, as menus show it.
+QString oneLine(const QString &text);
+
+// Takes what `edit`'s limits refuse out of what was just inserted; true when it
+// changed the text.
+bool keepWithinLimits(QPlainTextEdit *edit);
+
+} // namespace kelvo

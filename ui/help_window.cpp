@@ -1,0 +1,239 @@
+#include "help_window.h"
+
+#include "control_support.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QStyle>
+#include <QTextBrowser>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace kelvo {
+
+namespace {
+
+constexpr char contentsPage[] = "index.html";
+
+// Canonical paths of the registered books and, after them, of the host's folders.
+struct HelpFolders
+{
+    QStringList books;
+    QStringList others;
+
+    QStringList all() const { return books + others; }
+};
+
+HelpFolders &helpFolders()
+{
+    static HelpFolders folders;
+    return folders;
+}
+
+QString words(const char *text)
+{
+    return QCoreApplication::translate("kelvo::HelpWindow", text);
+}
+
+// Whether `file` is a file of the help folders, links followed.
+bool isHelpFile(const QString &file)
+{
+    const QString path = QFileInfo(file).canonicalFilePath();
+    const QStringList folders = helpFolders().all();
+    return !path.isEmpty()
+        && std::any_of(folders.begin(), folders.end(),
+                       [&path](const QString &folder) { return path.startsWith(folder + u'/'); });
+}
+
+// The file of `page`, which may end in "#section"; empty when no book has it.
+QUrl findPage(const QString &page)
+{
+    const QString path = page.section(u'#', 0, 0);
+    const QString name = path.isEmpty() ? QString::fromLatin1(contentsPage) : path;
+    const QStringList folders = helpFolders().all();
+    for (const QString &folder : folders) {
+        const QFileInfo file(folder + u'/' + name);
+        if (file.isFile() && file.isReadable() && isHelpFile(file.filePath())) {
+            QUrl url = QUrl::fromLocalFile(file.canonicalFilePath());
+            if (page.contains(u'#'))
+                url.setFragment(page.section(u'#', 1));
+            return url;
+        }
+    }
+    return {};
+}
+
+// Shows files of the help folders and nothing else.
+class HelpBrowser : public QTextBrowser
+{
+public:
+    HelpBrowser(QLabel *message, QWidget *parent)
+        : QTextBrowser(parent)
+        , m_message(message)
+    {
+        setOpenExternalLinks(false);
+        setAccessibleName(words("Help page"));
+    }
+
+    QVariant loadResource(int type, const QUrl &name) override
+    {
+        const QUrl url = source().resolved(name);
+        return url.isLocalFile() && isHelpFile(url.toLocalFile())
+            ? QTextBrowser::loadResource(type, url)
+            : QVariant();
+    }
+
+protected:
+    void doSetSource(const QUrl &name, QTextDocument::ResourceType type) override
+    {
+        const QUrl url = source().resolved(name);
+        if (!url.isLocalFile())
+            say(words("This address is outside the help: %1").arg(url.toDisplayString()));
+        else if (!isHelpFile(url.toLocalFile()))
+            say(words("The help has no page \"%1\".").arg(url.fileName()));
+        else {
+            say({});
+            QTextBrowser::doSetSource(url, type);
+        }
+    }
+
+private:
+    void say(const QString &text)
+    {
+        m_message->setText(text);
+        m_message->setVisible(!text.isEmpty());
+    }
+
+    QLabel *m_message;
+};
+
+class HelpWindow : public QDialog
+{
+public:
+    explicit HelpWindow(QWidget *parent)
+        : QDialog(parent)
+        , m_message(new QLabel(this))
+        , m_browser(new HelpBrowser(m_message, this))
+    {
+        setObjectName(QStringLiteral("helpWindow"));
+        setModal(false);
+        m_message->setTextFormat(Qt::PlainText);
+        m_message->setTextInteractionFlags(Qt::TextSelectableByMouse
+                                           | Qt::TextSelectableByKeyboard);
+        m_message->setWordWrap(true);
+        m_message->setFrameShape(QFrame::StyledPanel);
+        m_message->setVisible(false);
+
+        QToolButton *back = addTool(words("Back"), QStyle::SP_ArrowBack, QKeySequence::Back);
+        QToolButton *forward =
+            addTool(words("Forward"), QStyle::SP_ArrowForward, QKeySequence::Forward);
+        QToolButton *contents = addTool(words("Contents"), QStyle::SP_DirHomeIcon,
+                                        QKeySequence(Qt::ALT | Qt::Key_Home));
+        back->setEnabled(false);
+        forward->setEnabled(false);
+        m_tools->addStretch(1);
+
+        auto *column = new QVBoxLayout(this);
+        column->addLayout(m_tools);
+        column->addWidget(m_browser, 1);
+        column->addWidget(m_message);
+        m_browser->setFocus();
+
+        connect(back, &QToolButton::clicked, m_browser, &QTextBrowser::backward);
+        connect(forward, &QToolButton::clicked, m_browser, &QTextBrowser::forward);
+        connect(contents, &QToolButton::clicked, this, [this] { open(findPage({})); });
+        connect(m_browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+        connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+        connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
+            const QString title = m_browser->documentTitle();
+            setWindowTitle(title.isEmpty() ? words("Help") : title);
+        });
+
+        const QFontMetrics metrics = fontMetrics();
+        resize(metrics.averageCharWidth() * 90, metrics.lineSpacing() * 32);
+    }
+
+    void open(const QUrl &page)
+    {
+        if (page.isValid())
+            m_browser->setSource(page);
+    }
+
+private:
+    QToolButton *addTool(const QString &text, QStyle::StandardPixmap icon, const QKeySequence &keys)
+    {
+        auto *tool = new QToolButton(this);
+        tool->setText(text);
+        tool->setIcon(style()->standardIcon(icon, nullptr, this));
+        tool->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        tool->setAutoRaise(true);
+        tool->setShortcut(keys);
+        m_tools->addWidget(tool);
+        return tool;
+    }
+
+    QHBoxLayout *m_tools = new QHBoxLayout;
+    QLabel *m_message;
+    HelpBrowser *m_browser;
+};
+
+// A window is usable while a modal dialog is open only when that dialog owns it.
+QWidget *ownerFor(QWidget *parent)
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    return parent ? parent->window() : nullptr;
+}
+
+void addFolder(QStringList &folders, const QString &folder)
+{
+    const QString path = QFileInfo(folder).canonicalFilePath();
+    if (!path.isEmpty() && !folders.contains(path))
+        folders.append(path);
+}
+
+} // namespace
+
+OSStatus AHRegisterHelpBook(CFBundleRef bundle)
+{
+    if (!bundle)
+        return paramErr;
+    const QFileInfo folder(bundle->resourcesPath() + QStringLiteral("/help"));
+    if (!folder.isDir() || !folder.isReadable())
+        return fnfErr;
+    addFolder(helpFolders().books, folder.filePath());
+    return noErr;
+}
+
+OSStatus DisplayHelp(const QString &page, QWidget *parent)
+{
+    const QUrl url = findPage(page);
+    if (!url.isValid())
+        return fnfErr;
+    static QPointer<HelpWindow> window;
+    QWidget *owner = ownerFor(parent);
+    if (window && window == owner)
+        owner = window->parentWidget();
+    if (!window)
+        window = new HelpWindow(owner);
+    else if (owner && window->parentWidget() != owner)
+        window->setParent(owner, window->windowFlags());
+    window->open(url);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    return noErr;
+}
+
+void addHelpFolder(const QString &folder)
+{
+    addFolder(helpFolders().others, folder);
+}
+
+} // namespace kelvo

@@ -1,0 +1,80 @@
+#include "history_field.h"
+
+#include "control_support.h"
+
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QPointer>
+
+namespace kelvo {
+
+HistoryField::HistoryField(QWidget *parent)
+    : QComboBox(parent)
+{
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setCompleter(nullptr);
+    // Else Return would replace a typed text by an item that differs in case.
+    setDuplicatesEnabled(true);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(8);
+    guardWheel(this);
+    connect(lineEdit(), &QLineEdit::textEdited, this,
+            [this] { sendFrom(this, EventKind::TextChanged); });
+    connect(this, &QComboBox::activated, this, [this] { sendFrom(this, EventKind::ControlHit); });
+}
+
+QString HistoryField::text() const
+{
+    return currentText();
+}
+
+void HistoryField::setText(const QString &text)
+{
+    const QSignalBlocker silence(this);
+    setCurrentIndex(findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    setEditText(text);
+}
+
+QStringList HistoryField::items() const
+{
+    QStringList texts;
+    for (int i = 0; i < count(); ++i)
+        texts.append(itemText(i));
+    return texts;
+}
+
+bool HistoryField::appendItem(const QString &text)
+{
+    // The first item of an empty list would become the text.
+    const QSignalBlocker silence(this);
+    const QString typed = currentText();
+    const int before = count();
+    addItem(text);
+    setText(typed);
+    return count() == before + 1;
+}
+
+bool HistoryField::chooseItem(int row)
+{
+    if (!isEnabled() || row < 0 || row >= count())
+        return false;
+    {
+        const QSignalBlocker silence(this);
+        setCurrentIndex(row);
+        setEditText(itemText(row));
+    }
+    sendFrom(this, EventKind::ControlHit);
+    return true;
+}
+
+void HistoryField::focusOutEvent(QFocusEvent *event)
+{
+    const QPointer<HistoryField> alive = this;
+    const bool isLeft = event->reason() != Qt::PopupFocusReason;
+    QComboBox::focusOutEvent(event);
+    if (alive && isLeft)
+        sendFrom(this, EventKind::FocusChanged);
+}
+
+} // namespace kelvo

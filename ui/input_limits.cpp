@@ -1,0 +1,305 @@
+#include "input_limits.h"
+
+#include "control_support.h"
+#include "spin_field.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+bool isAllowed(char32_t c, const InputLimits &limits)
+{
+    return !limits.allowed || limits.allowed->contains(c);
+}
+
+int lengthOf(QStringView text)
+{
+    return static_cast<int>(text.toUcs4().size());
+}
+
+// What a user's edit inserted: `before` and `after` are alike but for a piece.
+struct Edit
+{
+    qsizetype start = 0;    // of the piece, in both texts
+    qsizetype removed = 0;  // UTF-16 units of `before`
+    qsizetype inserted = 0; // UTF-16 units of `after`
+};
+
+Edit editBetween(QStringView before, QStringView after)
+{
+    const qsizetype shorter = std::min(before.size(), after.size());
+    qsizetype start = 0;
+    while (start < shorter && before[start] == after[start])
+        ++start;
+    if (start > 0 && before[start - 1].isHighSurrogate())
+        --start;
+    qsizetype tail = 0;
+    while (tail < shorter - start
+           && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
+        ++tail;
+    return {start, before.size() - start - tail, after.size() - start - tail};
+}
+
+// The piece of `after` that may stand in place of what was inserted. What stood
+// there before is never judged: code may have set more than the user may type.
+QString allowedPiece(QStringView before, QStringView after, const Edit &edit,
+                     const InputLimits &limits)
+{
+    InputLimits room = limits;
+    if (limits.maximumLength >= 0) {
+        const int kept = lengthOf(before) - lengthOf(before.mid(edit.start, edit.removed));
+        room.maximumLength = std::max(0, limits.maximumLength - kept);
+    }
+    return withinLimits(after.mid(edit.start, edit.inserted).toString(), room);
+}
+
+// Keeps one field. It is a child of the field.
+class LimitKeeper : public QValidator
+{
+public:
+    LimitKeeper(QWidget *field, const InputLimits &limits)
+        : QValidator(field)
+        , m_field(field)
+        , m_limits(limits)
+    {
+    }
+
+    const InputLimits &limits() const { return m_limits; }
+    void setLimits(const InputLimits &limits) { m_limits = limits; }
+
+    void keep(QLineEdit *line)
+    {
+        m_line = line;
+        m_text = line->text();
+        line->setValidator(this);
+    }
+
+    void keep(QPlainTextEdit *edit)
+    {
+        m_text = edit->toPlainText();
+        connect(edit, &QPlainTextEdit::textChanged, this, [edit] { keepWithinLimits(edit); });
+    }
+
+    // Called by the line edit for every change. A text set by code comes here
+    // too, with the field marked as not modified, and is taken as it is.
+    State validate(QString &input, int &cursor) const override
+    {
+        if (!m_line->isModified()) {
+            m_text = input;
+            return Acceptable;
+        }
+        const Edit edit = editBetween(m_text, input);
+        const QString piece = allowedPiece(m_text, input, edit, m_limits);
+        if (piece.size() != edit.inserted) {
+            explain(input.mid(edit.start, edit.inserted));
+            if (piece.isEmpty())
+                return Invalid; // the line edit brings back what it replaced
+            input.replace(edit.start, edit.inserted, piece);
+            cursor = static_cast<int>(edit.start + piece.size());
+        }
+        m_text = input;
+        return Acceptable;
+    }
+
+    bool correct(QPlainTextEdit *text)
+    {
+        const QString now = text->toPlainText();
+        const QTextDocument *document = text->document();
+        // setPlainText() clears the undo history: a text set by code.
+        if (!document->isUndoAvailable() && !document->isRedoAvailable()) {
+            m_text = now;
+            return false;
+        }
+        const Edit edit = editBetween(m_text, now);
+        QString piece = allowedPiece(m_text, now, edit, m_limits);
+        if (piece.size() == edit.inserted) {
+            m_text = now;
+            return false;
+        }
+        explain(now.mid(edit.start, edit.inserted));
+        if (piece.isEmpty())
+            piece = m_text.mid(edit.start, edit.removed); // what it replaced comes back
+        m_text = now.left(edit.start) + piece + now.mid(edit.start + edit.inserted);
+        QTextCursor cursor(text->document());
+        cursor.joinPreviousEditBlock();
+        cursor.setPosition(static_cast<int>(edit.start));
+        cursor.setPosition(static_cast<int>(edit.start + edit.inserted), QTextCursor::KeepAnchor);
+        cursor.insertText(piece);
+        cursor.endEditBlock();
+        return true;
+    }
+
+private:
+    void explain(const QString &refused) const
+    {
+        if (!m_field->isVisible())
+            return;
+        const auto words = refused.toUcs4();
+        const bool isCharacter =
+            std::ranges::any_of(words, [this](char32_t c) { return !isAllowed(c, m_limits); });
+        const QString text = isCharacter
+            ? QCoreApplication::translate("kelvo::InputLimits",
+                                          "This character cannot be used here.")
+            : QCoreApplication::translate("kelvo::InputLimits", "At most %n characters fit here.",
+                                          nullptr, m_limits.maximumLength);
+        QToolTip::showText(m_field->mapToGlobal(QPoint(0, m_field->height())), text, m_field);
+    }
+
+    QWidget *m_field;
+    QLineEdit *m_line = nullptr; // null for a plain text
+    InputLimits m_limits;
+    mutable QString m_text; // as it stood before the change that is looked at
+};
+
+LimitKeeper *keeperOf(const QWidget *field)
+{
+    for (QObject *child : field->children()) {
+        if (auto *keeper = dynamic_cast<LimitKeeper *>(child))
+            return keeper;
+    }
+    return nullptr;
+}
+
+QLineEdit *lineEditOf(QWidget *field)
+{
+    if (auto *combo = qobject_cast<QComboBox *>(field))
+        return combo->lineEdit();
+    return qobject_cast<QLineEdit *>(field);
+}
+
+bool typeInto(QLineEdit *line, const QString &text)
+{
+    if (line->isReadOnly())
+        return false;
+    const QPointer<QLineEdit> alive = line;
+    line->selectAll();
+    line->del();
+    // One by one, as the keyboard gives them: each is refused on its own.
+    for (const char32_t c : text.toUcs4()) {
+        if (!alive)
+            return false;
+        if (QChar::category(c) != QChar::Other_Control)
+            line->insert(QString::fromUcs4(&c, 1));
+    }
+    return alive && line->text() == text;
+}
+
+bool typeInto(QPlainTextEdit *edit, const QString &text)
+{
+    if (edit->isReadOnly())
+        return false;
+    const QPointer<QPlainTextEdit> alive = edit;
+    edit->selectAll();
+    edit->textCursor().removeSelectedText();
+    for (const char32_t c : text.toUcs4()) {
+        if (!alive)
+            return false;
+        edit->insertPlainText(QString::fromUcs4(&c, 1));
+    }
+    return alive && edit->toPlainText() == text;
+}
+
+} // namespace
+
+bool InputLimits::ascii() const
+{
+    return allowed
+        && std::ranges::all_of(*allowed, [](char32_t c) { return c >= 0x20 && c <= 0x7E; });
+}
+
+QSet<char32_t> InputLimits::setOf(const QString &characters)
+{
+    QSet<char32_t> set;
+    for (const char32_t c : characters.toUcs4())
+        set.insert(c);
+    return set;
+}
+
+const QSet<char32_t> &InputLimits::decimalDigits()
+{
+    static const QSet<char32_t> digits = setOf(QStringLiteral("0123456789"));
+    return digits;
+}
+
+InputProblem findProblem(const QString &text, const InputLimits &limits)
+{
+    const auto characters = text.toUcs4();
+    for (const char32_t c : characters) {
+        if (!isAllowed(c, limits))
+            return InputProblem::BadCharacter;
+    }
+    if (characters.size() < limits.minimumLength)
+        return InputProblem::TooShort;
+    if (limits.maximumLength >= 0 && characters.size() > limits.maximumLength)
+        return InputProblem::TooLong;
+    return InputProblem::None;
+}
+
+QString withinLimits(const QString &typed, const InputLimits &limits)
+{
+    QString kept;
+    int length = 0;
+    for (const char32_t c : typed.toUcs4()) {
+        if (limits.maximumLength >= 0 && length == limits.maximumLength)
+            break;
+        if (!isAllowed(c, limits))
+            continue;
+        kept += QString::fromUcs4(&c, 1);
+        ++length;
+    }
+    return kept;
+}
+
+void setInputLimits(QWidget *field, const InputLimits &limits)
+{
+    if (LimitKeeper *keeper = keeperOf(field)) {
+        keeper->setLimits(limits);
+        return;
+    }
+    auto *keeper = new LimitKeeper(field, limits);
+    if (QLineEdit *line = lineEditOf(field))
+        keeper->keep(line);
+    else if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
+        keeper->keep(edit);
+    else
+        Q_ASSERT_X(false, "setInputLimits", "not a field that text is typed into");
+}
+
+std::optional<InputLimits> inputLimits(const QWidget *field)
+{
+    const LimitKeeper *keeper = keeperOf(field);
+    return keeper ? std::optional(keeper->limits()) : std::nullopt;
+}
+
+bool keepWithinLimits(QPlainTextEdit *edit)
+{
+    LimitKeeper *keeper = keeperOf(edit);
+    return keeper && keeper->correct(edit);
+}
+
+bool typeText(QWidget *field, const QString &text)
+{
+    if (!field->isEnabled())
+        return false;
+    if (auto *spin = qobject_cast<SpinField *>(field))
+        return spin->typeText(text);
+    if (QLineEdit *line = lineEditOf(field))
+        return typeInto(line, text);
+    if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
+        return typeInto(edit, text);
+    return false;
+}
+
+} // namespace kelvo

@@ -1,0 +1,227 @@
+#include "list_view.h"
+
+#include "control_support.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace kelvo {
+
+// Asks for a cell when it is shown; keeps nothing itself.
+class RowModel : public QAbstractTableModel
+{
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void setColumns(const std::vector<ListView::Column> &columns, ListView::CellText text)
+    {
+        beginResetModel();
+        m_columns = columns;
+        m_text = std::move(text);
+        endResetModel();
+    }
+
+    void setRowCount(int count)
+    {
+        beginResetModel();
+        m_rows = count;
+        endResetModel();
+    }
+
+    QString text(int row, int column) const
+    {
+        return m_text && row >= 0 && row < m_rows && column >= 0 && column < columnCount()
+            ? m_text(row, column)
+            : QString();
+    }
+
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : m_rows;
+    }
+
+    int columnCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+    }
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role == Qt::DisplayRole)
+            return oneLine(text(index.row(), index.column()));
+        if (role == Qt::ToolTipRole)
+            return plainToolTip(text(index.row(), index.column()));
+        return {};
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+            return {};
+        if (role == Qt::DisplayRole)
+            return m_columns[static_cast<std::size_t>(section)].title;
+        if (role == Qt::TextAlignmentRole)
+            return QVariant(Qt::AlignLeading | Qt::AlignVCenter);
+        return {};
+    }
+
+private:
+    std::vector<ListView::Column> m_columns;
+    ListView::CellText m_text;
+    int m_rows = 0;
+};
+
+ListView::ListView(QWidget *parent)
+    : QTreeView(parent)
+    , m_model(new RowModel(this))
+{
+    setModel(m_model);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setAlternatingRowColors(true);
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    header()->setSectionsMovable(false);
+    header()->setStretchLastSection(true);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (m_silent || m_isSelectionPending)
+            return;
+        // One action of the user may change the selection in several steps.
+        m_isSelectionPending = true;
+        QMetaObject::invokeMethod(this, &ListView::sendPendingSelection, Qt::QueuedConnection);
+    });
+}
+
+void ListView::setColumns(const std::vector<Column> &columns, CellText text)
+{
+    m_model->setColumns(columns, std::move(text));
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+        const int width = columns[static_cast<std::size_t>(i)].width;
+        header()->resizeSection(i, std::max(width, header()->sectionSizeHint(i)));
+    }
+}
+
+void ListView::reload(int count)
+{
+    // Changing a row must not send the user back to the top of a long list.
+    const int position = verticalScrollBar()->value();
+    m_model->setRowCount(std::max(count, 0));
+    doItemsLayout();
+    verticalScrollBar()->setValue(position);
+}
+
+int ListView::rowCount() const
+{
+    return m_model->rowCount();
+}
+
+QString ListView::cellText(int row, int column) const
+{
+    return m_model->text(row, column);
+}
+
+std::vector<int> ListView::selectedRows() const
+{
+    // Straight from the ranges: asking row by row takes seconds for 100,000.
+    std::vector<int> rows;
+    const QItemSelection ranges = selectionModel()->selection();
+    for (const QItemSelectionRange &range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::ranges::sort(rows);
+    const auto repeated = std::ranges::unique(rows);
+    rows.erase(repeated.begin(), repeated.end());
+    return rows;
+}
+
+void ListView::selectRows(const std::vector<int> &rows, bool asUser)
+{
+    std::vector<int> wanted;
+    for (const int row : rows) {
+        if (row >= 0 && row < rowCount())
+            wanted.push_back(row);
+    }
+    std::ranges::sort(wanted);
+    const std::vector<int> before = selectedRows();
+
+    QItemSelection selection;
+    const int lastColumn = m_model->columnCount() - 1;
+    for (std::size_t i = 0; i < wanted.size();) {
+        std::size_t end = i + 1;
+        while (end < wanted.size() && wanted[end] <= wanted[end - 1] + 1)
+            ++end;
+        selection.append(QItemSelectionRange(m_model->index(wanted[i], 0),
+                                             m_model->index(wanted[end - 1], lastColumn)));
+        i = end;
+    }
+    m_silent = true;
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!wanted.empty())
+        selectionModel()->setCurrentIndex(m_model->index(wanted.front(), 0),
+                                          QItemSelectionModel::NoUpdate);
+    m_silent = false;
+    if (asUser && selectedRows() != before)
+        sendFrom(this, EventKind::ListSelection, kNoCommand, 0,
+                 wanted.empty() ? -1 : wanted.front());
+}
+
+void ListView::activateRow(int row)
+{
+    const bool isRow = row >= 0 && row < rowCount();
+    const QPointer<ListView> alive = this;
+    if (isRow)
+        selectRows({row}, true);
+    if (alive)
+        sendActivated(isRow ? row : -1);
+}
+
+void ListView::sendActivated(int row)
+{
+    const QPointer<ListView> alive = this;
+    sendPendingSelection();
+    if (alive)
+        sendFrom(this, EventKind::ListActivated, kNoCommand, 0, row);
+}
+
+void ListView::sendPendingSelection()
+{
+    if (!std::exchange(m_isSelectionPending, false))
+        return;
+    const std::vector<int> rows = selectedRows();
+    sendFrom(this, EventKind::ListSelection, kNoCommand, 0, rows.empty() ? -1 : rows.front());
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QTreeView::mouseDoubleClickEvent(event);
+        return;
+    }
+    const QModelIndex index = indexAt(event->pos());
+    QTreeView::mouseDoubleClickEvent(event);
+    sendActivated(index.isValid() ? index.row() : -1);
+}
+
+void ListView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && currentIndex().isValid()) {
+        event->accept(); // not the dialog's default button
+        sendActivated(currentIndex().row());
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+} // namespace kelvo

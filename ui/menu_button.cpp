@@ -1,0 +1,99 @@
+#include "menu_button.h"
+
+#include "control_support.h"
+
+#include <QMenu>
+#include <QPointer>
+
+namespace kelvo {
+
+namespace {
+
+// Whether `wanted` is one of `items`, and it and every menu around it is enabled.
+bool isOffered(const std::vector<MenuItem> &items, const MenuItem *wanted)
+{
+    for (const MenuItem &item : items) {
+        if (&item == wanted)
+            return item.enabled && !item.divider && item.submenu.empty();
+        if (item.enabled && isOffered(item.submenu, wanted))
+            return true;
+    }
+    return false;
+}
+
+// A menu shows an ampersand as a mnemonic and a tab as a short cut; the texts
+// come from PPDs and users and mean neither.
+QString asMenuText(const QString &text)
+{
+    return oneLine(text).replace(u'&', QStringLiteral("&&"));
+}
+
+void fill(QMenu *shown, const std::vector<MenuItem> &items, MenuButton *button)
+{
+    for (const MenuItem &item : items) {
+        if (item.divider) {
+            shown->addSeparator();
+            continue;
+        }
+        if (!item.submenu.empty()) {
+            QMenu *submenu = shown->addMenu(asMenuText(item.text));
+            submenu->setEnabled(item.enabled);
+            fill(submenu, item.submenu, button);
+            continue;
+        }
+        QAction *action = shown->addAction(asMenuText(item.text));
+        action->setEnabled(item.enabled);
+        action->setCheckable(item.checked);
+        action->setChecked(item.checked);
+        QObject::connect(action, &QAction::triggered, button,
+                         [button, offered = &item] { button->choose(*offered); });
+    }
+}
+
+} // namespace
+
+MenuButton::MenuButton(QWidget *parent)
+    : QPushButton(parent)
+    , m_shown(new QMenu(this))
+{
+    setAutoDefault(false);
+    QPushButton::setMenu(m_shown);
+    connect(m_shown, &QMenu::aboutToShow, this, &MenuButton::fillShownMenu);
+}
+
+void MenuButton::setMenu(Menu menu)
+{
+    m_menu = std::move(menu);
+    m_maximum = static_cast<int>(m_menu.items.size());
+}
+
+const Menu &MenuButton::updatedMenu()
+{
+    if (m_update)
+        m_update(m_menu);
+    return m_menu;
+}
+
+bool MenuButton::choose(const MenuItem &item)
+{
+    if (!isEnabled() || !isOffered(m_menu.items, &item))
+        return false;
+    // Handlers may fill the menu anew, or close the window.
+    const OSType command = item.command;
+    const std::int32_t reference = item.reference;
+    const QPointer<MenuButton> alive = this;
+    sendFrom(this, EventKind::Menu, command, reference);
+    if (alive && command != kNoCommand)
+        sendFrom(this, EventKind::Command, command, reference);
+    return true;
+}
+
+void MenuButton::fillShownMenu()
+{
+    m_shown->clear();
+    // Submenus are children of their menu, and clear() takes the actions alone.
+    qDeleteAll(m_shown->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
+    fill(m_shown, updatedMenu().items, this);
+}
+
+} // namespace kelvo

@@ -1,0 +1,116 @@
+#include "modal_dialog.h"
+
+#include "help_window.h"
+#include "spin_field.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace kelvo {
+
+namespace {
+
+// The modal dialogs that run, the front one last.
+std::vector<QPointer<QWidget>> &runningDialogs()
+{
+    static std::vector<QPointer<QWidget>> dialogs;
+    return dialogs;
+}
+
+QPointer<QWidget> &printWindow()
+{
+    static QPointer<QWidget> window;
+    return window;
+}
+
+QPushButton *buttonWithCommand(const QWidget *window, OSType command)
+{
+    const auto buttons = window->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (commandOf(button) == command)
+            return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
+    : QDialog(parent ? parent->window() : frontWindow())
+    , m_okButton(buttonWithCommand(content, kCommandOK))
+{
+    setWindowTitle(content->windowTitle());
+    setObjectName(content->objectName());
+    setWindowModality(Qt::WindowModal);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+
+    if (m_okButton)
+        m_okButton->setDefault(true);
+    setWindowButtons(this, m_okButton, buttonWithCommand(content, kCommandCancel));
+
+    // Installed first, so asked last: whoever runs the dialog may take any of these.
+    m_handler = installEventHandler(this, [this, content](const Event &event) -> OSStatus {
+        if (event.kind != EventKind::Command)
+            return eventNotHandledErr;
+        switch (event.command) {
+        case kCommandOK:
+            accept();
+            return noErr;
+        case kCommandCancel:
+            reject();
+            return noErr;
+        case kCommandHelp:
+            return DisplayHelp(content->property("helpPage").toString(), this);
+        }
+        return eventNotHandledErr;
+    });
+}
+
+DialogResult ModalDialog::runModal()
+{
+    runningDialogs().emplace_back(this);
+    const QPointer<QWidget> self = this;
+    const int result = exec();
+    std::erase_if(runningDialogs(),
+                  [&self](const QPointer<QWidget> &dialog) { return !dialog || dialog == self; });
+    return result == Accepted ? DialogResult::OK : DialogResult::Cancel;
+}
+
+void ModalDialog::accept()
+{
+    // What was typed last counts, and it may be what makes OK impossible.
+    commitTypedValues(this);
+    if (m_okButton && !m_okButton->isEnabled())
+        return;
+    if (m_mayAccept && !m_mayAccept())
+        return;
+    QDialog::accept();
+}
+
+void ModalDialog::reject()
+{
+    QDialog::reject();
+}
+
+QWidget *frontWindow()
+{
+    const auto &dialogs = runningDialogs();
+    for (auto dialog = dialogs.rbegin(); dialog != dialogs.rend(); ++dialog) {
+        if (*dialog && (*dialog)->isVisible())
+            return *dialog;
+    }
+    return printWindow();
+}
+
+void setPrintWindow(QWidget *window)
+{
+    printWindow() = window;
+}
+
+} // namespace kelvo

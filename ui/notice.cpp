@@ -1,0 +1,201 @@
+#include "notice.h"
+
+#include "modal_dialog.h"
+
+#include <QAccessible>
+#include <QAccessibleEvent>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+
+#include <vector>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int lineCharacters = 56; // a comfortable line of the message
+
+QStyle::StandardPixmap iconFor(NoticeLevel level)
+{
+    switch (level) {
+    case NoticeLevel::Stop:
+        return QStyle::SP_MessageBoxCritical;
+    case NoticeLevel::Note:
+        return QStyle::SP_MessageBoxInformation;
+    case NoticeLevel::Caution:
+        return QStyle::SP_MessageBoxWarning;
+    }
+    Q_UNREACHABLE();
+}
+
+QLabel *textLabel(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+class NoticeDialog : public QDialog
+{
+public:
+    NoticeDialog(NoticeLevel level, const ShownNotice &notice, QWidget *parent)
+        : QDialog(parent)
+        , m_notice(notice)
+    {
+        setObjectName(QStringLiteral("notice"));
+        setWindowTitle(QGuiApplication::applicationDisplayName());
+        setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
+        setAccessibleName(notice.header);
+        setAccessibleDescription(notice.message);
+
+        auto *grid = new QGridLayout(this);
+        const int space = fontMetrics().height();
+        grid->setContentsMargins(space, space, space, space);
+        grid->setHorizontalSpacing(space);
+        grid->setVerticalSpacing(space / 2);
+        grid->setColumnStretch(1, 1);
+        grid->setSizeConstraint(QLayout::SetFixedSize);
+
+        auto *icon = new QLabel(this);
+        const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+        icon->setPixmap(style()->standardIcon(iconFor(level), nullptr, this).pixmap(side, side));
+        grid->addWidget(icon, 0, 0, 2, 1, Qt::AlignTop);
+
+        QLabel *header = textLabel(notice.header, this);
+        QFont bold = header->font();
+        bold.setBold(true);
+        header->setFont(bold);
+        header->setMinimumWidth(lineWidth());
+        grid->addWidget(header, 0, 1);
+        if (!notice.message.isEmpty())
+            grid->addWidget(messageWidget(), 1, 1);
+        grid->addLayout(buttonRow(), 2, 0, 1, 2);
+    }
+
+    const ShownNotice &notice() const { return m_notice; }
+    const std::vector<QPushButton *> &buttons() const { return m_buttons; }
+
+    // Escape and the close box: the second button, or the only one.
+    void reject() override { done(m_buttons.size() > 1 ? 2 : 1); }
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        QDialog::showEvent(event);
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+
+private:
+    int lineWidth() const { return fontMetrics().averageCharWidth() * lineCharacters; }
+
+    QWidget *messageWidget()
+    {
+        QLabel *message = textLabel(m_notice.message, this);
+        message->setMinimumWidth(lineWidth());
+        // A list of a hundred names must not push the buttons off the screen.
+        const int most = screen()->availableGeometry().height() / 2;
+        if (message->heightForWidth(lineWidth()) <= most)
+            return message;
+        auto *scroll = new QScrollArea(this);
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidgetResizable(true);
+        scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        scroll->setWidget(message);
+        scroll->setFixedHeight(most);
+        scroll->setMinimumWidth(lineWidth()
+                                + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
+        return scroll;
+    }
+
+    // The default button stands rightmost, the others to its left in their order.
+    QHBoxLayout *buttonRow()
+    {
+        auto *row = new QHBoxLayout;
+        row->addStretch(1);
+        for (const QString &text : m_notice.buttons) {
+            auto *button = new QPushButton(text, this);
+            const int number = static_cast<int>(m_buttons.size()) + 1;
+            connect(button, &QPushButton::clicked, this, [this, number] { done(number); });
+            row->insertWidget(1, button);
+            m_buttons.push_back(button);
+        }
+        m_buttons.front()->setDefault(true);
+        m_buttons.front()->setFocus();
+        return row;
+    }
+
+    ShownNotice m_notice;
+    std::vector<QPushButton *> m_buttons; // in the order of m_notice.buttons
+};
+
+// The notices that are open, the front one last. One that is deleted with its
+// owner takes itself out.
+std::vector<QPointer<NoticeDialog>> &openNotices()
+{
+    static std::vector<QPointer<NoticeDialog>> notices;
+    std::erase_if(notices, [](const QPointer<NoticeDialog> &notice) { return !notice; });
+    return notices;
+}
+
+int run(NoticeLevel level, const ShownNotice &notice, QWidget *parent)
+{
+    QWidget *owner = parent ? parent->window() : frontWindow();
+    const QPointer<NoticeDialog> dialog = new NoticeDialog(level, notice, owner);
+    openNotices().push_back(dialog);
+    const int pressed = dialog->exec();
+    // With its owner gone it was closed without an answer.
+    if (!dialog)
+        return notice.buttons.size() > 1 ? 2 : 1;
+    std::erase(openNotices(), dialog);
+    delete dialog.data();
+    return pressed;
+}
+
+} // namespace
+
+void CFUserNotificationDisplayNotice(NoticeLevel level, const QString &header,
+                                     const QString &message, const QString &button, QWidget *parent)
+{
+    const QString text =
+        button.isEmpty() ? QCoreApplication::translate("kelvo::Notice", "OK") : button;
+    run(level, {header, message, {text}}, parent);
+}
+
+int CFUserNotificationDisplayAlert(NoticeLevel level, const QString &header, const QString &message,
+                                   const QStringList &buttons, QWidget *parent)
+{
+    Q_ASSERT(!buttons.isEmpty());
+    return run(level, {header, message, buttons}, parent);
+}
+
+ShownNotice frontNotice()
+{
+    return openNotices().empty() ? ShownNotice{} : openNotices().back()->notice();
+}
+
+bool answerNotice(int button)
+{
+    if (openNotices().empty())
+        return false;
+    const std::vector<QPushButton *> &buttons = openNotices().back()->buttons();
+    if (button < 1 || button > static_cast<int>(buttons.size()))
+        return false;
+    buttons[static_cast<std::size_t>(button - 1)]->click();
+    return true;
+}
+
+} // namespace kelvo

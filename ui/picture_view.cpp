@@ -1,0 +1,105 @@
+#include "picture_view.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include <memory>
+
+namespace kelvo {
+
+namespace {
+
+constexpr double disabledOpacity = 0.4;
+constexpr int fallbackSide = 64; // logical pixels, of a view without picture
+
+// The pictures are the bundle's own, a few dozen: read once and kept. Null when
+// the file is missing or no picture.
+std::shared_ptr<QSvgRenderer> rendererFor(const QString &file)
+{
+    static QHash<QString, std::shared_ptr<QSvgRenderer>> renderers;
+    auto found = renderers.find(file);
+    if (found == renderers.end()) {
+        auto renderer = std::make_shared<QSvgRenderer>(file);
+        if (!renderer->isValid() || renderer->defaultSize().isEmpty())
+            renderer = nullptr;
+        found = renderers.insert(file, renderer);
+    }
+    return *found;
+}
+
+} // namespace
+
+QString pictureFile(const QString &resourcesPath, const QString &name)
+{
+    // A name can come from a PPD, and is never a path.
+    if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.'))
+        return {};
+    const QString path =
+        QStringLiteral("%1/pictures/%2.svg").arg(resourcesPath, QFileInfo(name).completeBaseName());
+    return QFileInfo(path).isFile() ? path : QString();
+}
+
+QIcon pictureIcon(const QString &resourcesPath, const QString &name)
+{
+    const QString file = pictureFile(resourcesPath, name);
+    return file.isEmpty() || !rendererFor(file) ? QIcon() : QIcon(file);
+}
+
+PictureView::PictureView(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+void PictureView::setPictures(const QStringList &files, const QString &description)
+{
+    setAccessibleName(description);
+    if (files == m_files)
+        return;
+    m_files = files;
+    updateGeometry();
+    update();
+}
+
+QSize PictureView::sizeHint() const
+{
+    for (const QString &file : m_files) {
+        if (const auto renderer = rendererFor(file))
+            return renderer->defaultSize();
+    }
+    return {fallbackSide, fallbackSide};
+}
+
+QSize PictureView::minimumSizeHint() const
+{
+    return {16, 16};
+}
+
+void PictureView::paintEvent(QPaintEvent *)
+{
+    // The layers are drawn over one another first and made paler together: the
+    // lower ones must not shine through the upper.
+    const double ratio = devicePixelRatioF();
+    QPixmap picture(size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter layers(&picture);
+    layers.setRenderHint(QPainter::Antialiasing);
+    for (const QString &file : m_files) {
+        const auto renderer = rendererFor(file);
+        if (!renderer)
+            continue;
+        const QSizeF fitted =
+            QSizeF(renderer->defaultSize()).scaled(QSizeF(size()), Qt::KeepAspectRatio);
+        const QPointF corner((width() - fitted.width()) / 2, (height() - fitted.height()) / 2);
+        renderer->render(&layers, QRectF(corner, fitted));
+    }
+    layers.end();
+
+    QPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1.0 : disabledOpacity);
+    painter.drawPixmap(0, 0, picture);
+}
+
+} // namespace kelvo

@@ -1,0 +1,185 @@
+#include "popup_button.h"
+
+#include "control_support.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QStandardItemModel>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QToolTip>
+
+#include <algorithm>
+#include <limits>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int leastCharacters = 8; // what a narrow panel may squeeze a pop-up to
+constexpr int mostCharacters = 26; // what a long text may ask for; it is elided beyond
+
+bool canBeChosen(const MenuItem &item)
+{
+    return item.enabled && !item.divider && item.submenu.empty();
+}
+
+QStandardItem *lineFor(const MenuItem &item)
+{
+    auto *line = new QStandardItem(oneLine(item.text));
+    if (item.divider) {
+        line->setText({});
+        line->setData(QStringLiteral("separator"), Qt::AccessibleDescriptionRole);
+    }
+    if (!canBeChosen(item))
+        line->setFlags(line->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
+    return line;
+}
+
+} // namespace
+
+PopupButton::PopupButton(QWidget *parent)
+    : QComboBox(parent)
+{
+    guardWheel(this);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(leastCharacters);
+    connect(this, &QComboBox::activated, this, &PopupButton::send);
+}
+
+void PopupButton::setMenu(Menu menu)
+{
+    m_menu = std::move(menu);
+    m_maximum = static_cast<int>(m_menu.items.size());
+
+    const QSignalBlocker silence(this);
+    clear();
+    QList<QStandardItem *> lines;
+    lines.reserve(m_maximum);
+    for (const MenuItem &item : m_menu.items)
+        lines.append(lineFor(item));
+    if (!lines.isEmpty())
+        static_cast<QStandardItemModel *>(model())->invisibleRootItem()->appendRows(lines);
+    const auto first = std::ranges::find_if(m_menu.items, canBeChosen);
+    setCurrentIndex(first == m_menu.items.end() ? -1
+                                                : static_cast<int>(first - m_menu.items.begin()));
+    updateGeometry();
+}
+
+int PopupButton::value() const
+{
+    return currentIndex() + 1;
+}
+
+void PopupButton::setValue(int value)
+{
+    const QSignalBlocker silence(this);
+    setCurrentIndex(value >= 1 && value <= count() ? value - 1 : -1);
+}
+
+std::int32_t PopupButton::chosenReference() const
+{
+    const int index = currentIndex();
+    if (index < 0)
+        return std::numeric_limits<std::int32_t>::min();
+    return m_menu.items[static_cast<std::size_t>(index)].reference;
+}
+
+bool PopupButton::setValueByReference(std::int32_t reference)
+{
+    const auto found = std::ranges::find(m_menu.items, reference, &MenuItem::reference);
+    if (found == m_menu.items.end())
+        return false;
+    setValue(static_cast<int>(found - m_menu.items.begin()) + 1);
+    return true;
+}
+
+bool PopupButton::choose(int value)
+{
+    if (!isEnabled() || value < 1 || value > count()
+        || !canBeChosen(m_menu.items[static_cast<std::size_t>(value - 1)]))
+        return false;
+    setValue(value);
+    send(value - 1);
+    return true;
+}
+
+void PopupButton::send(int index)
+{
+    if (index < 0 || index >= count())
+        return;
+    // Handlers may fill the menu anew, or close the window.
+    const MenuItem item = m_menu.items[static_cast<std::size_t>(index)];
+    const QPointer<PopupButton> alive = this;
+    sendFrom(this, EventKind::Menu, item.command, item.reference);
+    if (alive && item.command != kNoCommand)
+        sendFrom(this, EventKind::Command, item.command, item.reference);
+    if (alive)
+        sendFrom(this, EventKind::ControlHit);
+}
+
+QRect PopupButton::textRect(const QStyleOptionComboBox &option) const
+{
+    return style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+        .adjusted(2, 0, -2, 0);
+}
+
+QString PopupButton::elidedText(const QStyleOptionComboBox &option) const
+{
+    return option.fontMetrics.elidedText(option.currentText, Qt::ElideRight,
+                                         textRect(option).width());
+}
+
+QSize PopupButton::sizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    int widest = 0;
+    for (int i = 0; i < count(); ++i)
+        widest = std::max(widest, metrics.horizontalAdvance(itemText(i)));
+    const int character = metrics.horizontalAdvance(u'X');
+    const int least = minimumContentsLength() * character;
+    const int most = std::max(minimumContentsLength(), mostCharacters) * character;
+    QSize hint = QComboBox::minimumSizeHint();
+    hint.rwidth() += std::clamp(widest + character, least, most) - least;
+    return hint;
+}
+
+void PopupButton::showPopup()
+{
+    // The list shows whole texts where the screen has room for them.
+    const int frame = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth)
+        + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * fontMetrics().averageCharWidth();
+    const int wanted = view()->sizeHintForColumn(0) + frame;
+    view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width() / 2));
+    QComboBox::showPopup();
+}
+
+bool PopupButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        if (elidedText(option) != option.currentText) {
+            QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                               plainToolTip(option.currentText), this);
+            return true;
+        }
+    }
+    return QComboBox::event(event);
+}
+
+void PopupButton::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText = elidedText(option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+} // namespace kelvo

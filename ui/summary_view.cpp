@@ -1,0 +1,40 @@
+#include "summary_view.h"
+
+#include <QScrollBar>
+
+namespace kelvo {
+
+SummaryView::SummaryView(QWidget *parent)
+    : QPlainTextEdit(parent)
+{
+    setReadOnly(true);
+    setTabChangesFocus(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void SummaryView::setSummary(const QString &text)
+{
+    if (text == toPlainText())
+        return;
+    const bool drew = updatesEnabled();
+    setUpdatesEnabled(false);
+    setPlainText(text);
+    verticalScrollBar()->setValue(0);
+    setUpdatesEnabled(drew);
+}
+
+QSize SummaryView::sizeHint() const
+{
+    const int around = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin()) + 1;
+    const QFontMetrics metrics = fontMetrics();
+    return {metrics.averageCharWidth() * 30 + around, metrics.lineSpacing() * 5 + around};
+}
+
+QSize SummaryView::minimumSizeHint() const
+{
+    const QSize hint = sizeHint();
+    return {hint.width() / 3, hint.height() / 2};
+}
+
+} // namespace kelvo

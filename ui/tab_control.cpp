@@ -1,0 +1,80 @@
+#include "tab_control.h"
+
+#include "control_support.h"
+
+#include <QEvent>
+#include <QPointer>
+
+namespace kelvo {
+
+TabControl::TabControl(QWidget *parent)
+    : QTabBar(parent)
+{
+    setDrawBase(true);
+    setElideMode(Qt::ElideNone);
+    setUsesScrollButtons(true);
+}
+
+QStringList TabControl::titles() const
+{
+    QStringList titles;
+    for (int i = 0; i < count(); ++i)
+        titles.append(tabText(i));
+    return titles;
+}
+
+void TabControl::setTitles(const QStringList &titles)
+{
+    const QSignalBlocker silence(this);
+    const int shown = currentIndex();
+    while (count() > 0)
+        removeTab(count() - 1);
+    for (const QString &title : titles)
+        addTab(title);
+    setCurrentIndex(qBound(0, shown, count() - 1));
+}
+
+void TabControl::setValue(int value)
+{
+    const QSignalBlocker silence(this);
+    setCurrentIndex(value - 1);
+    updateGeometry();
+}
+
+bool TabControl::choose(int value)
+{
+    if (!isEnabled() || value < 1 || value > count() || !isTabEnabled(value - 1))
+        return false;
+    if (value != this->value()) {
+        setValue(value);
+        sendFrom(this, EventKind::ControlHit);
+    }
+    return true;
+}
+
+bool TabControl::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Wheel:
+        // Scrolling a panel must not leave it.
+        event->ignore();
+        return false;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::KeyPress:
+    case QEvent::Shortcut:
+        break;
+    default:
+        return QTabBar::event(event);
+    }
+    // The hit is sent when the tab bar has done with the event: a handler may
+    // destroy it.
+    const QPointer<TabControl> alive = this;
+    const int before = value();
+    const bool done = QTabBar::event(event);
+    if (alive && value() != before)
+        sendFrom(this, EventKind::ControlHit);
+    return done;
+}
+
+} // namespace kelvo

@@ -1,0 +1,48 @@
+#include "time_field.h"
+
+#include "control_support.h"
+
+#include <QEvent>
+#include <QLocale>
+
+namespace kelvo {
+
+TimeField::TimeField(QWidget *parent)
+    : QTimeEdit(parent)
+{
+    guardWheel(this);
+    setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
+    setKeyboardTracking(false); // half a typed time is no time
+    connect(this, &QTimeEdit::timeChanged, this, [this] { sendFrom(this, EventKind::ControlHit); });
+}
+
+void TimeField::setValue(const QTime &time)
+{
+    const QSignalBlocker silence(this);
+    setTime(time);
+}
+
+QTime TimeField::value() const
+{
+    return time();
+}
+
+bool TimeField::choose(const QTime &time)
+{
+    if (!isEnabled() || isReadOnly() || !time.isValid())
+        return false;
+    if (time != value()) {
+        setValue(time);
+        sendFrom(this, EventKind::ControlHit);
+    }
+    return true;
+}
+
+void TimeField::changeEvent(QEvent *event)
+{
+    QTimeEdit::changeEvent(event);
+    if (event->type() == QEvent::LocaleChange)
+        setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
+}
+
+} // namespace kelvo

@@ -1,0 +1,232 @@
+#include "window_loader.h"
+
+#include "control.h"
+#include "event.h"
+#include "history_field.h"
+#include "list_view.h"
+#include "menu_button.h"
+#include "picture_view.h"
+#include "popup_button.h"
+#include "radio_group.h"
+#include "spin_field.h"
+#include "summary_view.h"
+#include "tab_control.h"
+#include "time_field.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QLabel>
+#include <QUiLoader>
+
+#include <algorithm>
+#include <iterator>
+
+namespace kelvo {
+
+namespace {
+
+template <typename T>
+QWidget *make(QWidget *parent)
+{
+    return new T(parent);
+}
+
+struct ControlClass
+{
+    const char *name;
+    QWidget *(*make)(QWidget *parent);
+};
+
+constexpr ControlClass ownClasses[] = {
+    {"PopupButton", make<PopupButton>},   {"MenuButton", make<MenuButton>},
+    {"RadioGroup", make<RadioGroup>},     {"TabControl", make<TabControl>},
+    {"SpinField", make<SpinField>},       {"TimeField", make<TimeField>},
+    {"HistoryField", make<HistoryField>}, {"ListView", make<ListView>},
+    {"PictureView", make<PictureView>},   {"SummaryView", make<SummaryView>},
+};
+
+// What a window may hold of Qt's own. Qt's combo box, spin boxes and item views
+// are not among them: their changes cannot be told from the user's.
+constexpr const char *qtClasses[] = {
+    "QWidget",     "QFrame",         "Line",         "QLabel",         "QPushButton", "QToolButton",
+    "QCheckBox",   "QRadioButton",   "QLineEdit",    "QPlainTextEdit", "QSlider",     "QGroupBox",
+    "QScrollArea", "QStackedWidget", "QProgressBar", "QSplitter",
+};
+
+// The properties whose text the user reads or hears.
+constexpr const char *textProperties[] = {
+    "windowTitle",           "title",           "toolTip", "accessibleName",
+    "accessibleDescription", "placeholderText", "suffix",
+};
+
+QStringList knownClasses()
+{
+    QStringList names;
+    for (const ControlClass &known : ownClasses)
+        names.append(QString::fromLatin1(known.name));
+    for (const char *name : qtClasses)
+        names.append(QString::fromLatin1(name));
+    return names;
+}
+
+// "&Paper Type:" as a screen reader says it.
+QString spokenText(const QLabel *label)
+{
+    QString text = label->text();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'&')
+            text.remove(i, 1); // a doubled one leaves one
+    }
+    text = text.trimmed();
+    while (text.endsWith(u':') || text.endsWith(u'\uFF1A'))
+        text.chop(1);
+    return text.trimmed();
+}
+
+class DescriptionLoader : public QUiLoader
+{
+public:
+    DescriptionLoader()
+    {
+        // The bundle's own tables are asked, below.
+        setLanguageChangeEnabled(false);
+        setTranslationEnabled(false);
+    }
+
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
+    {
+        QWidget *widget = nullptr;
+        const auto own = std::ranges::find(ownClasses, className.toLatin1(), &ControlClass::name);
+        if (own != std::end(ownClasses)) {
+            widget = own->make(parent);
+            widget->setObjectName(name);
+        } else if (std::ranges::find(qtClasses, className.toLatin1()) != std::end(qtClasses)) {
+            widget = QUiLoader::createWidget(className, parent, name);
+        }
+        if (widget)
+            m_created.append(widget);
+        else
+            m_problems.append(QStringLiteral("\"%1\" is of the class \"%2\"; use one of %3")
+                                  .arg(name, className, knownClasses().join(QStringLiteral(", "))));
+        return widget;
+    }
+
+    // What the description itself made, without the parts of its controls.
+    const QWidgetList &created() const { return m_created; }
+    QStringList &problems() { return m_problems; }
+
+private:
+    QWidgetList m_created;
+    QStringList m_problems;
+};
+
+void giveControlIDs(const QWidgetList &widgets, QStringList &problems)
+{
+    QHash<QString, QString> nameOf; // ID → the control that has it
+    for (QWidget *widget : widgets) {
+        const QVariant property = widget->property("controlID");
+        if (!property.isValid())
+            continue;
+        const QString text = property.toString();
+        const std::optional<ControlID> id = controlIDFromText(text);
+        if (!id) {
+            problems.append(QStringLiteral("\"%1\" has the control ID \"%2\"; write four "
+                                           "characters, a blank and a number, such as \"KPDE 102\"")
+                                .arg(widget->objectName(), text));
+        } else if (nameOf.contains(text)) {
+            problems.append(QStringLiteral("\"%1\" and \"%2\" both have the control ID \"%3\"; "
+                                           "give one of them another")
+                                .arg(nameOf.value(text), widget->objectName(), text));
+        } else {
+            nameOf.insert(text, widget->objectName());
+            setControlID(widget, *id);
+        }
+    }
+}
+
+void checkCommands(const QWidgetList &widgets, QStringList &problems)
+{
+    for (const QWidget *widget : widgets) {
+        const QVariant property = widget->property("command");
+        if (property.isValid() && !commandOf(widget))
+            problems.append(QStringLiteral("\"%1\" has the command \"%2\"; write four characters, "
+                                           "such as \"ok  \"")
+                                .arg(widget->objectName(), property.toString()));
+    }
+}
+
+void localize(QWidget *widget, CFBundleRef bundle)
+{
+    const auto localized = [bundle](const QString &text) {
+        return bundle->findString(text, QStringLiteral("Localizable")).value_or(text);
+    };
+    const auto localizeProperty = [&](const char *name) {
+        const QString text = widget->property(name).toString();
+        if (!text.isEmpty())
+            widget->setProperty(name, localized(text));
+    };
+    for (const char *name : textProperties)
+        localizeProperty(name);
+    if (auto *label = qobject_cast<QLabel *>(widget)) {
+        // A text of the tables that looks like markup is still a text.
+        if (label->textFormat() == Qt::AutoText)
+            label->setTextFormat(Qt::PlainText);
+        localizeProperty("text");
+    } else if (qobject_cast<QAbstractButton *>(widget)) {
+        localizeProperty("text");
+    } else if (auto *tabs = qobject_cast<TabControl *>(widget)) {
+        QStringList titles;
+        for (const QString &title : tabs->titles())
+            titles.append(localized(title));
+        tabs->setTitles(titles);
+    }
+}
+
+void nameByLabels(const QWidgetList &widgets)
+{
+    for (QWidget *widget : widgets) {
+        const auto *label = qobject_cast<QLabel *>(widget);
+        if (label && label->buddy() && label->buddy()->accessibleName().isEmpty())
+            label->buddy()->setAccessibleName(spokenText(label));
+    }
+}
+
+} // namespace
+
+Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString &description,
+                                              const QString &window, QWidget *parent)
+{
+    if (!bundle)
+        return Error{Error::Code::NotFound, description + u'/' + window,
+                     QStringLiteral("there is no bundle to load the window from")};
+    const QString path =
+        QStringLiteral("%1/dialogs/%2/%3.ui").arg(bundle->resourcesPath(), description, window);
+    QFile file(path);
+    if (!file.exists())
+        return Error{Error::Code::NotFound, path,
+                     QStringLiteral("the bundle has no such window description")};
+    if (!file.open(QIODevice::ReadOnly))
+        return Error{Error::Code::NotReadable, path, file.errorString()};
+
+    DescriptionLoader loader;
+    loader.setWorkingDirectory(QDir(bundle->resourcesPath()));
+    std::unique_ptr<QWidget> loaded(loader.load(&file, parent));
+    if (!loaded && loader.problems().isEmpty())
+        return Error{Error::Code::Damaged, path, loader.errorString()};
+
+    giveControlIDs(loader.created(), loader.problems());
+    checkCommands(loader.created(), loader.problems());
+    if (!loader.problems().isEmpty())
+        return Error{Error::Code::Damaged, path, loader.problems().join(QStringLiteral("; "))};
+
+    for (QWidget *widget : loader.created()) {
+        localize(widget, bundle);
+        sendControlEvents(widget);
+    }
+    nameByLabels(loader.created());
+    return loaded.release();
+}
+
+} // namespace kelvo
