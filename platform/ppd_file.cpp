@@ -18,7 +18,7 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
-#include <set>
+#include <initializer_list>
 
 namespace kelvo {
 
@@ -127,6 +127,89 @@ void markSelection(ppd_file_t *ppd, const PpdSelection &selection)
     ppdMarkDefaults(ppd);
     for (auto choice = selection.cbegin(); choice != selection.cend(); ++choice)
         mark(ppd, choice.key(), choice.value());
+}
+
+// One part of a rule: an option at a choice, or anywhere but off.
+struct Term
+{
+    const ppd_option_t *option;
+    const char *choice; // null: any choice but None, Off and False
+};
+
+using Constraint = std::vector<Term>; // a conflict when every part holds
+
+bool isAny(const char *word, std::initializer_list<const char *> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [word](const char *other) { return qstricmp(word, other) == 0; });
+}
+
+// Adds "option choice" to `constraint`; false when the PPD has no such thing. The
+// custom choice of an option is written "*CustomOption True".
+bool addTerm(ppd_file_t *ppd, const QByteArray &keyword, const QByteArray &choice,
+             Constraint &constraint)
+{
+    const bool isCustom = keyword.startsWith("Custom") && qstricmp(choice.constData(), "True") == 0;
+    ppd_option_t *option = ppdFindOption(ppd, keyword.mid(isCustom ? 6 : 0).constData());
+    if (!option)
+        return false;
+    if (choice.isEmpty()) {
+        constraint.push_back({option, nullptr});
+        return true;
+    }
+    const ppd_choice_t *found = ppdFindChoice(option, isCustom ? "Custom" : choice.constData());
+    if (!found)
+        return false;
+    constraint.push_back({option, found->choice});
+    return true;
+}
+
+// The PPD's rules; those of the newer kind, of any number of options, replace
+// those of the older, of two, where there are any. Rules about what the PPD
+// lacks are left out.
+std::vector<Constraint> constraintsOf(ppd_file_t *ppd)
+{
+    std::vector<Constraint> constraints;
+    const ppd_attr_t *rule = ppdFindAttr(ppd, "cupsUIConstraints", nullptr);
+    if (!rule) {
+        for (int i = 0; i < ppd->num_consts; ++i) {
+            const ppd_const_t &pair = ppd->consts[i];
+            Constraint constraint;
+            if (addTerm(ppd, pair.option1, pair.choice1, constraint)
+                && addTerm(ppd, pair.option2, pair.choice2, constraint))
+                constraints.push_back(std::move(constraint));
+        }
+        return constraints;
+    }
+    for (; rule; rule = ppdFindNextAttr(ppd, "cupsUIConstraints", nullptr)) {
+        Constraint constraint;
+        bool known = true;
+        const QList<QByteArray> parts = QByteArray(rule->value).simplified().split('*');
+        for (const QByteArray &part : parts.mid(1)) { // before the first star stands nothing
+            const QList<QByteArray> words = part.trimmed().split(' ');
+            known = known && addTerm(ppd, words.value(0), words.value(1), constraint);
+        }
+        if (known && !constraint.empty())
+            constraints.push_back(std::move(constraint));
+    }
+    return constraints;
+}
+
+// Whether a part of a rule holds for the marks.
+bool holds(ppd_file_t *ppd, const Term &term)
+{
+    if (term.choice && isAny(term.option->keyword, {"PageSize", "PageRegion"})) {
+        const ppd_size_t *size = ppdPageSize(ppd, nullptr); // whichever of the two is marked
+        return size && qstricmp(size->name, term.choice) == 0;
+    }
+    for (int i = 0; i < term.option->num_choices; ++i) {
+        const ppd_choice_t &choice = term.option->choices[i];
+        if (choice.marked
+            && (term.choice ? qstricmp(choice.choice, term.choice) == 0
+                            : !isAny(choice.choice, {"None", "Off", "False"})))
+            return true;
+    }
+    return false;
 }
 
 // A list of options that libcups made.
@@ -328,55 +411,48 @@ std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
     if (!ppd)
         return {};
     markSelection(ppd, selection);
-    if (ppdConflicts(ppd) == 0) // marks the options concerned
+    if (ppdConflicts(ppd) == 0)
         return {};
 
-    // libcups tells for one option all that it conflicts with. An option in two
-    // conflicts names both at once, but the others name each by itself: what
-    // holds another group is dropped.
-    std::vector<std::set<QString>> groups;
+    // libcups tells which options are in any conflict, but not which of them in
+    // the same one; that stands in the rules.
     QStringList order;
+    QStringList conflicted;
     walk(*ppd, [&](const ppd_option_t &option) {
         order << textFrom(option.keyword);
-        if (!option.conflicted)
-            return;
-        for (int i = 0; i < option.num_choices; ++i) {
-            if (!option.choices[i].marked)
-                continue;
-            OptionList others;
-            others.count =
-                cupsGetConflicts(ppd, option.keyword, option.choices[i].choice, &others.options);
-            if (others.count == 0)
-                continue;
-            std::set<QString> group{textFrom(option.keyword)};
-            for (int at = 0; at < others.count; ++at)
-                group.insert(textFrom(others.options[at].name));
-            groups.push_back(std::move(group));
-        }
+        if (option.conflicted)
+            conflicted << order.last();
     });
-    std::sort(groups.begin(), groups.end());
-    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
     std::vector<PpdConflict> conflicts;
-    for (const auto &group : groups) {
-        const bool holdsAnother = std::any_of(groups.begin(), groups.end(), [&](const auto &other) {
-            return other.size() < group.size()
-                && std::includes(group.begin(), group.end(), other.begin(), other.end());
-        });
-        if (!holdsAnother)
-            conflicts.push_back({QStringList(group.begin(), group.end())});
+    for (const Constraint &constraint : constraintsOf(ppd)) {
+        if (!std::all_of(constraint.begin(), constraint.end(),
+                         [ppd](const Term &term) { return holds(ppd, term); }))
+            continue;
+        PpdConflict conflict;
+        for (const Term &term : constraint)
+            conflict.options << textFrom(term.option->keyword);
+        conflicts.push_back(std::move(conflict));
     }
-    // In the PPD's order, within a conflict and between them.
+    if (conflicts.empty()) // a rule of a form that only libcups knows
+        return {PpdConflict{conflicted}};
+
+    // In the PPD's order, within a conflict and between them; each once.
     QHash<QString, qsizetype> position;
     for (qsizetype i = order.size(); i-- > 0;)
         position.insert(order[i], i);
+    const auto before = [&](const QString &x, const QString &y) {
+        return position[x] < position[y];
+    };
     for (PpdConflict &conflict : conflicts)
-        std::sort(conflict.options.begin(), conflict.options.end(),
-                  [&](const QString &a, const QString &b) { return position[a] < position[b]; });
-    std::sort(conflicts.begin(), conflicts.end(), [&](const auto &a, const auto &b) {
-        return std::lexicographical_compare(
-            a.options.begin(), a.options.end(), b.options.begin(), b.options.end(),
-            [&](const QString &x, const QString &y) { return position[x] < position[y]; });
+        std::sort(conflict.options.begin(), conflict.options.end(), before);
+    std::sort(conflicts.begin(), conflicts.end(), [&](const auto &x, const auto &y) {
+        return std::lexicographical_compare(x.options.begin(), x.options.end(), y.options.begin(),
+                                            y.options.end(), before);
     });
+    conflicts.erase(
+        std::unique(conflicts.begin(), conflicts.end(),
+                    [](const auto &x, const auto &y) { return x.options == y.options; }),
+        conflicts.end());
     return conflicts;
 }
 

@@ -48,7 +48,9 @@ public:
     const T &value() const & { return std::get<0>(m_state); }
     T &value() & { return std::get<0>(m_state); }
     T &&value() && { return std::get<0>(std::move(m_state)); }
-    const Error &error() const { return std::get<1>(m_state); }
+    const Error &error() const { return std::get<1>(m_state); } // only after a failure
+    // The error's text; empty after success.
+    QString reason() const { return *this ? QString() : error().text(); }
 
 private:
     std::variant<T, Error> m_state;
@@ -63,7 +65,9 @@ public:
     Result(Error error) : m_error(std::move(error)), m_failed(true) {}
 
     explicit operator bool() const { return !m_failed; }
-    const Error &error() const { return m_error; }
+    const Error &error() const { return m_error; } // only after a failure
+    // The error's text; empty after success.
+    QString reason() const { return *this ? QString() : error().text(); }
 
 private:
     Error m_error{Error::Code::Damaged, {}, {}};

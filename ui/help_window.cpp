@@ -116,9 +116,8 @@ private:
 class HelpWindow : public QDialog
 {
 public:
-    explicit HelpWindow(QWidget *parent)
-        : QDialog(parent)
-        , m_message(new QLabel(this))
+    HelpWindow()
+        : m_message(new QLabel(this))
         , m_browser(new HelpBrowser(m_message, this))
     {
         setObjectName(QStringLiteral("helpWindow"));
@@ -165,6 +164,31 @@ public:
             m_browser->setSource(page);
     }
 
+    // A window is usable while a modal dialog is open only when that dialog owns
+    // it, and goes with its owner: so it moves on when the owner closes.
+    void setOwner(QWidget *owner)
+    {
+        if (owner == parentWidget())
+            return;
+        if (parentWidget())
+            parentWidget()->removeEventFilter(this);
+        if (owner)
+            owner->installEventFilter(this);
+        setParent(owner, windowFlags());
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == parentWidget() && event->type() == QEvent::Hide && isVisible()) {
+            const QWidget *owner = parentWidget();
+            setOwner(owner->parentWidget() ? owner->parentWidget()->window() : nullptr);
+            setAttribute(Qt::WA_ShowWithoutActivating);
+            show();
+            setAttribute(Qt::WA_ShowWithoutActivating, false);
+        }
+        return QDialog::eventFilter(watched, event);
+    }
+
 private:
     QToolButton *addTool(const QString &text, QStyle::StandardPixmap icon, const QKeySequence &keys)
     {
@@ -183,7 +207,7 @@ private:
     HelpBrowser *m_browser;
 };
 
-// A window is usable while a modal dialog is open only when that dialog owns it.
+// Who must own the help window that is opened now.
 QWidget *ownerFor(QWidget *parent)
 {
     if (QWidget *modal = QApplication::activeModalWidget())
@@ -217,13 +241,10 @@ OSStatus DisplayHelp(const QString &page, QWidget *parent)
     if (!url.isValid())
         return fnfErr;
     static QPointer<HelpWindow> window;
-    QWidget *owner = ownerFor(parent);
-    if (window && window == owner)
-        owner = window->parentWidget();
     if (!window)
-        window = new HelpWindow(owner);
-    else if (owner && window->parentWidget() != owner)
-        window->setParent(owner, window->windowFlags());
+        window = new HelpWindow;
+    if (QWidget *owner = ownerFor(parent))
+        window->setOwner(owner);
     window->open(url);
     window->show();
     window->raise();

@@ -15,7 +15,8 @@ OSStatus AHRegisterHelpBook(CFBundleRef bundle);
 
 // Opens the help window on `page` (relative to the help book, "shell/advanced.html";
 // empty: the contents). fnfErr when no registered book has the page. Only files
-// of the book are shown; other links are not followed.
+// of the books are shown; other links are not followed. The window is usable
+// while a modal dialog is open, and stays when that closes.
 OSStatus DisplayHelp(const QString &page = {}, QWidget *parent = nullptr);
 
 // An additional folder of help pages, asked after the books: the host's own.

@@ -45,7 +45,7 @@ ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
 {
     setWindowTitle(content->windowTitle());
     setObjectName(content->objectName());
-    setWindowModality(Qt::WindowModal);
+    setWindowModality(parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);

@@ -156,11 +156,13 @@ int run(NoticeLevel level, const ShownNotice &notice, QWidget *parent)
     QWidget *owner = parent ? parent->window() : frontWindow();
     const QPointer<NoticeDialog> dialog = new NoticeDialog(level, notice, owner);
     openNotices().push_back(dialog);
+    // An answered notice is no longer in front, even before its event loop has ended.
+    QObject::connect(dialog, &QDialog::finished, dialog,
+                     [dialog] { std::erase(openNotices(), dialog); });
     const int pressed = dialog->exec();
     // With its owner gone it was closed without an answer.
     if (!dialog)
         return notice.buttons.size() > 1 ? 2 : 1;
-    std::erase(openNotices(), dialog);
     delete dialog.data();
     return pressed;
 }

@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QScreen>
 #include <QStandardItemModel>
@@ -154,6 +155,9 @@ void PopupButton::showPopup()
     const int frame = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth)
         + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * fontMetrics().averageCharWidth();
     const int wanted = view()->sizeHintForColumn(0) + frame;
+    // Made with the list, when it is opened first; most never are.
+    view()->viewport()->removeEventFilter(this);
+    view()->viewport()->installEventFilter(this);
     view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width() / 2));
     QComboBox::showPopup();
 }
@@ -170,6 +174,18 @@ bool PopupButton::event(QEvent *event)
         }
     }
     return QComboBox::event(event);
+}
+
+bool PopupButton::eventFilter(QObject *watched, QEvent *event)
+{
+    // A click on a line that cannot be chosen would count as one on the line that
+    // is shown, and send it once more.
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const QPoint at = static_cast<QMouseEvent *>(event)->position().toPoint();
+        if (!(view()->indexAt(at).flags() & Qt::ItemIsEnabled))
+            return true;
+    }
+    return QComboBox::eventFilter(watched, event);
 }
 
 void PopupButton::paintEvent(QPaintEvent *)

@@ -59,7 +59,8 @@ TypedNumber readNumber(QString text, const QLocale &locale, int decimals, const 
         }
     }
     // The unit may stand there whole, or as far as it has been deleted.
-    if (!unit.startsWith(text.mid(at).trimmed()))
+    const QString rest = text.mid(at).trimmed();
+    if (!rest.isEmpty() && !unit.startsWith(rest))
         return {};
     if (digits + places == 0)
         return {Typed::Unfinished, 0};

@@ -87,6 +87,7 @@ struct ScriptRunner::Private
     void finish();
     void fail(int line, const LineProblem &problem);
     void end(ExitStatus status);
+    QWidget *openDialog() const; // the modal dialog or notice in front; null for none
     QWidget *front() const;
     QString masked(const QString &text) const { return maskedText(text, target.secretValues()); }
     void say(const QString &text) const
@@ -114,10 +115,18 @@ void ScriptRunner::start()
     d->tick.start(0);
 }
 
+QWidget *ScriptRunner::Private::openDialog() const
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    QWidget *dialog = frontWindow();
+    return dialog == target.window() ? nullptr : dialog;
+}
+
 QWidget *ScriptRunner::Private::front() const
 {
-    QWidget *modal = QApplication::activeModalWidget();
-    return modal ? modal : target.window();
+    QWidget *dialog = openDialog();
+    return dialog ? dialog : target.window();
 }
 
 void ScriptRunner::Private::step()
@@ -193,7 +202,7 @@ bool ScriptRunner::Private::checkPrint()
 
 void ScriptRunner::Private::finish()
 {
-    if (QWidget *modal = QApplication::activeModalWidget(); modal && !target.finished()) {
+    if (const QWidget *modal = openDialog(); modal && !target.finished()) {
         fail(lines.empty() ? 0 : lines.back().number,
              wrong(QStringLiteral("the script ends while the dialog \"%1\" is open")
                        .arg(modal->windowTitle())));
@@ -271,7 +280,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         return {};
     }
     case ScriptCommand::Print:
-        if (QApplication::activeModalWidget())
+        if (openDialog())
             return wrong(QStringLiteral("the dialog \"%1\" is open and must be closed first")
                              .arg(front()->windowTitle()));
         printAsked = true;
@@ -279,7 +288,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         target.pressPrint();
         return {};
     case ScriptCommand::Cancel:
-        if (QWidget *modal = QApplication::activeModalWidget())
+        if (QWidget *modal = openDialog())
             sendCommand(modal, kCommandCancel);
         else
             target.pressCancel();

@@ -21,15 +21,15 @@ enum KComboBoxKind : std::int32_t { kComboBoxNumeric = 1, kComboBoxText = 2 };
 struct KComboBoxOptions
 {
     std::int32_t kind = kComboBoxText;
-    CFBundleRef bundle = nullptr;            // for the map's texts
-    const SettingMap *map = nullptr;         // fixed items; may be null
-    QString historyKey;                      // empty: no history
-    int historyLimit = 0;                    // most items kept; 0 keeps all
-    int minimumLength = 0;                   // of the typed text
-    int maximumLength = -1;                  // computed for the numeric kind; -1: none
-    std::optional<QSet<char32_t>> allowed;   // text kind; none: any character
-    std::int32_t minimumValue = 0;           // numeric kind
-    std::int32_t maximumValue = 0;           // numeric kind
+    CFBundleRef bundle = nullptr;          // for the map's texts
+    const SettingMap *map = nullptr;       // fixed items; may be null
+    QString historyKey;                    // empty: no history
+    int historyLimit = 0;                  // most items kept; 0 keeps all
+    int minimumLength = 0;                 // of the typed text
+    int maximumLength = -1;                // computed for the numeric kind; -1: none
+    std::optional<QSet<char32_t>> allowed; // text kind; none: any character
+    std::int32_t minimumValue = 0;         // numeric kind
+    std::int32_t maximumValue = 0;         // numeric kind
 };
 
 // Digits of the maximum value, or 9 when that is below 1.

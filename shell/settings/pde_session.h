@@ -10,8 +10,8 @@
 // One dialog at a time; everything on the GUI thread.
 namespace kelvo {
 
-inline const QString kPDEBundleIdentifier
-    = QStringLiteral("com.kelvo.print.pde.kelvofeatures.dvm0001");
+inline const QString kPDEBundleIdentifier =
+    QStringLiteral("com.kelvo.print.pde.kelvofeatures.dvm0001");
 inline const QString kPDEPanelKind = QStringLiteral("com.kelvo.print.pde.kelvofeatureskind");
 
 PMPrintSession GetCurrentPrintSession();

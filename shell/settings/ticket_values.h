@@ -23,11 +23,13 @@ QString localizedText(CFBundleRef bundle, const QString &key, const QString &tab
 void WriteTicketValue(Dictionary &dictionary, const QString &key, std::int64_t value);
 // True, and `out` set, only when the key is there and its value is a number that
 // fits a CFIndex.
-bool GetCFIndexFromCFDictionary(const Dictionary &dictionary, const QString &key, std::int64_t *out);
+bool GetCFIndexFromCFDictionary(const Dictionary &dictionary, const QString &key,
+                                std::int64_t *out);
 
 // `value` / 10^decimals in the user's locale, with at least `decimals` fraction
 // digits; computed as a 32-bit float, so large numbers lose digits.
-std::optional<QString> CreateLocalizedCFStringFromNumberWithDecimals(std::int32_t value, int decimals);
+std::optional<QString> CreateLocalizedCFStringFromNumberWithDecimals(std::int32_t value,
+                                                                     int decimals);
 // Decimal digits of |n|; 1 for 0.
 int CountDigits(std::int64_t n);
 

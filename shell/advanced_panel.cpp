@@ -1,0 +1,256 @@
+#include "advanced_panel.h"
+
+#include "about_dialog.h"
+#include "control.h"
+#include "embed_control.h"
+#include "hint_text.h"
+#include "panel_interface.h"
+#include "pde_session.h"
+#include "popups.h"
+#include "ppd_choices.h"
+#include "setting_maps.h"
+#include "ticket.h"
+#include "ticket_values.h"
+#include "values.h"
+#include "window_loader.h"
+
+#include <QLabel>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+const QString kBookletOrderClient = QStringLiteral("com.kelvo.printingmanager");
+
+constexpr ControlID kBookletOrderPopup{kPanelSignature, 602};
+constexpr ControlID kAboutButton{kPanelSignature, 670};
+constexpr std::array kHints = {6021, 6141, 6161, 7021}; // KPDE
+
+// A pop-up that shows a PPD option's choices.
+struct PpdRow
+{
+    const char *option;
+    std::int32_t AdvancedContext::*value;
+    QPointer<PopupButton> AdvancedControls::*popup;
+    std::int32_t popupNumber; // KPDE
+    std::int32_t hintNumber;  // KPDE, the text below the pop-up
+};
+
+const std::array kPpdRows = {
+    PpdRow{"JCLBanner", &AdvancedContext::banner, &AdvancedControls::banner, 614, 6141},
+    PpdRow{"Jog", &AdvancedContext::offset, &AdvancedControls::offset, 616, 6161},
+    PpdRow{"KVFeedEdge", &AdvancedContext::feedEdge, &AdvancedControls::feedEdge, 702, 7021},
+};
+
+AdvancedContext *advancedOf(PMPDEContext context)
+{
+    return reinterpret_cast<AdvancedContext *>(context);
+}
+
+// From the context to the controls.
+void showSettings(const AdvancedContext &advanced)
+{
+    if (!advanced.opened)
+        return;
+    SetPopupButtonToTicketValue(advanced.controls.bookletOrder, advanced.bookletOrder);
+    for (const PpdRow &row : kPpdRows)
+        SetPopupButtonToTicketValue(advanced.controls.*row.popup, advanced.*row.value);
+}
+
+OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
+{
+    if (event.kind != EventKind::ControlHit || event.control.signature != kPanelSignature)
+        return eventNotHandledErr;
+    if (event.control == kAboutButton)
+        RunModalAboutDialog(advanced.bundle, advanced.ppd, advanced.parentUserPane);
+    else if (event.control == kBookletOrderPopup)
+        advanced.bookletOrder = GetPopupButtonTicketValue(advanced.controls.bookletOrder);
+    for (const PpdRow &row : kPpdRows) {
+        if (event.control.number == row.popupNumber)
+            advanced.*row.value = GetPopupButtonTicketValue(advanced.controls.*row.popup);
+    }
+    return eventNotHandledErr;
+}
+
+// The rows are views of their own: their labels share one width.
+void arrangeRows(const AdvancedControls &controls, const QWidget *content)
+{
+    const std::array labels = {labelOf(controls.bookletOrder), labelOf(controls.banner),
+                               labelOf(controls.offset), labelOf(controls.feedEdge)};
+    int width = 0;
+    for (const QLabel *label : labels)
+        width = std::max(width, label ? label->sizeHint().width() : 0);
+    for (QLabel *label : labels) {
+        if (label)
+            label->setMinimumWidth(width);
+    }
+    for (const int hint : kHints)
+        makeHintText(findControl<QLabel>(content, {kPanelSignature, hint}));
+}
+
+void fillPopups(AdvancedContext &advanced, const QWidget *content)
+{
+    AdvancedControls &controls = advanced.controls;
+    controls.bookletOrder = findControl<PopupButton>(content, kBookletOrderPopup);
+    PopulatePopupButtonFromMap(advanced.bundle, controls.bookletOrder, BookletLayoutOrderMap,
+                               kJobContextJob, kNoCommand);
+    for (const PpdRow &row : kPpdRows) {
+        PopupButton *popup = findControl<PopupButton>(content, {kPanelSignature, row.popupNumber});
+        controls.*row.popup = popup;
+        if (!popup)
+            continue;
+        const int offered =
+            PPDPopulatePopupWithChoices(popup, advanced.ppd, QString::fromLatin1(row.option), true);
+        if (offered > 0)
+            continue;
+        // Left in its place, so that users of several devices find it there.
+        setEnabledWithLabel(popup, false);
+        if (auto *hint = findControl<QLabel>(content, {kPanelSignature, row.hintNumber}))
+            hint->setText(localizedText(advanced.bundle, QStringLiteral("Not on This Device")));
+    }
+}
+
+OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
+                  CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
+{
+    if (!context || !creator || !userOptionKind || !title || !maxH || !maxV)
+        return kPMInvalidPDEContext;
+    auto *advanced = new AdvancedContext;
+    advanced->bundle = GetPDEBundle();
+    const QString titleKey = QStringLiteral("Advanced");
+    advanced->title = CFBundleCopyLocalizedString(advanced->bundle, titleKey, titleKey,
+                                                  QStringLiteral("Localizable"));
+    *context = reinterpret_cast<PMPDEContext>(advanced);
+    *creator = fourCharCode("KPDE");
+    *userOptionKind = &kPDEPanelKind;
+    *title = &advanced->title;
+    *maxH = 0;
+    *maxV = 0;
+    return noErr;
+}
+
+OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
+{
+    AdvancedContext *advanced = advancedOf(context);
+    if (!advanced || !session)
+        return kPMInvalidParameter;
+    PMTicketRef ticket = 0;
+    const OSStatus found = GetTicketFromSession(session, kPMPrintSettingsTicket, &ticket);
+    if (found != noErr)
+        return found;
+    if (direction == kSyncWrite) {
+        writeAdvancedSettings(*advanced, ticket);
+    } else {
+        readAdvancedSettings(*advanced, ticket);
+        showSettings(*advanced);
+    }
+    return noErr;
+}
+
+OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane parentUserPane,
+                    PMPrintSession session)
+{
+    AdvancedContext *advanced = advancedOf(context);
+    if (!advanced || !session)
+        return kPMInvalidPDEContext;
+    advanced->parentUserPane = parentUserPane;
+    advanced->ppd = PPDGetCurrent();
+    return Sync(context, session, kSyncRead);
+}
+
+OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray *texts)
+{
+    if (!context || !titles || !texts)
+        return kPMInvalidPDEContext;
+    titles->reset();
+    texts->reset();
+    return noErr;
+}
+
+OSStatus Open(PMPDEContext context)
+{
+    AdvancedContext *advanced = advancedOf(context);
+    if (!advanced || !advanced->parentUserPane)
+        return kPMInvalidPDEContext;
+    if (advanced->opened)
+        return noErr;
+    Result<QWidget *> content = createWindowFromDescription(
+        advanced->bundle, QStringLiteral("AdvancedPanel"), QStringLiteral("Advanced"));
+    if (!content) {
+        std::fprintf(stderr, "Open()::CreateWindowFromNib() failed: %s\n",
+                     qPrintable(content.error().text()));
+        return kPMInvalidPDEContext;
+    }
+    fillPopups(*advanced, content.value());
+    arrangeRows(advanced->controls, content.value());
+    EmbedAndShowControl(content.value(), advanced->parentUserPane);
+    advanced->handler = installEventHandler(content.value(), [advanced](const Event &event) {
+        return advancedEventHandler(*advanced, event);
+    });
+    advanced->opened = true;
+    showSettings(*advanced);
+    return noErr;
+}
+
+OSStatus Close(PMPDEContext context)
+{
+    return context ? noErr : kPMInvalidPDEContext;
+}
+
+OSStatus Terminate(PMPDEContext context, OSStatus)
+{
+    if (!context)
+        return kPMInvalidPDEContext;
+    delete advancedOf(context);
+    return noErr;
+}
+
+} // namespace
+
+void readAdvancedSettings(AdvancedContext &advanced, PMTicketRef ticket)
+{
+    constexpr std::int32_t orderWhenAbsent = 2;
+    const std::optional<std::int64_t> order =
+        PMTicketGetCFNumber(ticket, ticketKey("AdvancedBookletLayoutOrderStr"));
+    advanced.bookletOrder = integer32(QVariant::fromValue<qint64>(order.value_or(orderWhenAbsent)))
+                                .value_or(orderWhenAbsent);
+    for (const PpdRow &row : kPpdRows) {
+        // What an earlier ticket said must not go into this one.
+        advanced.*row.value = kNoPpdChoice;
+        PPDGetTicketValueForChoiceOrDefault(advanced.ppd, ticket, QString::fromLatin1(row.option),
+                                            &(advanced.*row.value));
+    }
+}
+
+void writeAdvancedSettings(const AdvancedContext &advanced, PMTicketRef ticket)
+{
+    PMTicketSetCFNumber(ticket, kBookletOrderClient, ticketKey("AdvancedBookletLayoutOrderStr"),
+                        advanced.bookletOrder);
+    for (const PpdRow &row : kPpdRows) {
+        const QString option = QString::fromLatin1(row.option);
+        PPDSetCurrentChoice(ticket, option, PPDChoiceForTicketValue(option, advanced.*row.value));
+    }
+}
+
+OSStatus GetAdvancedPanelInterface(PanelInterface **interface)
+{
+    if (!interface)
+        return paramErr;
+    *interface = makePanelInterface({.Retain = nullptr,
+                                     .Release = nullptr,
+                                     .GetAPIVersion = nullptr,
+                                     .Prologue = Prologue,
+                                     .Initialize = Initialize,
+                                     .Sync = Sync,
+                                     .GetSummaryText = GetSummaryText,
+                                     .Open = Open,
+                                     .Close = Close,
+                                     .Terminate = Terminate});
+    return noErr;
+}
+
+} // namespace kelvo

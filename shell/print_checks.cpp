@@ -1,0 +1,14 @@
+#include "print_checks.h"
+
+namespace kelvo {
+
+PrintCheck checkBeforePrint(const JobTypeState &state)
+{
+    if (state.jobType == kJobTypeSecurePrint && !state.hasPasscode)
+        return PrintCheck::MissingPasscode;
+    if (state.jobType == kJobTypeFax && !state.hasFaxRecipients)
+        return PrintCheck::MissingFaxRecipients;
+    return PrintCheck::Proceed;
+}
+
+} // namespace kelvo

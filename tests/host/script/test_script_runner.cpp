@@ -1,0 +1,267 @@
+#include "script_runner.h"
+
+#include "event.h"
+#include "modal_dialog.h"
+#include "notice.h"
+#include "popup_button.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+#include <QVBoxLayout>
+
+using namespace kelvo;
+
+namespace {
+
+// A window with a few controls, and a print that does what the test says.
+class FakeDialog : public ScriptTarget
+{
+public:
+    FakeDialog()
+    {
+        auto *layout = new QVBoxLayout(&m_window);
+        m_window.setObjectName(QStringLiteral("printDialog"));
+        m_window.setWindowTitle(QStringLiteral("Print"));
+        popup = new PopupButton;
+        popup->setObjectName(QStringLiteral("bannerSheet"));
+        setControlID(popup, {kPanelSignature, 614});
+        Menu menu;
+        menu.items.push_back(
+            {.text = QStringLiteral("No banner"), .key = QStringLiteral("False"), .reference = 0});
+        menu.items.push_back(
+            {.text = QStringLiteral("Banner"), .key = QStringLiteral("True"), .reference = 1});
+        menu.items.push_back(
+            {.text = QStringLiteral("Twin"), .key = QStringLiteral("Twin"), .reference = 1});
+        menu.items.push_back({.text = QStringLiteral("Gone"),
+                              .key = QStringLiteral("Gone"),
+                              .reference = 9,
+                              .enabled = false});
+        popup->setMenu(menu);
+        layout->addWidget(popup);
+        field = new QLineEdit;
+        field->setObjectName(QStringLiteral("passcode"));
+        field->setEchoMode(QLineEdit::Password);
+        layout->addWidget(field);
+        box = new QCheckBox(QStringLiteral("Collate"));
+        box->setObjectName(QStringLiteral("collate"));
+        box->setEnabled(false);
+        layout->addWidget(box);
+        auto *setup = new QPushButton(QStringLiteral("Set up…"));
+        setup->setObjectName(QStringLiteral("setup"));
+        QObject::connect(setup, &QPushButton::clicked, setup, [this] {
+            auto *content = new QWidget;
+            content->setWindowTitle(QStringLiteral("Secure print"));
+            auto *inside = new QLineEdit(content);
+            inside->setObjectName(QStringLiteral("confirmPasscode"));
+            ModalDialog dialog(content, &m_window);
+            modalResult = static_cast<int>(dialog.runModal());
+        });
+        layout->addWidget(setup);
+        m_window.show();
+    }
+
+    bool isIdle() const override { return true; }
+    QWidget *window() override { return &m_window; }
+    Result<void> showPanel(const QString &) override { return {}; }
+    Result<void> showTab(int tab) override
+    {
+        if (tab == 4)
+            return {};
+        return Error{Error::Code::NotFound, QStringLiteral("tab %1").arg(tab),
+                     QStringLiteral("the tabs are 4")};
+    }
+    QString placeOf(const QWidget *) const override { return QStringLiteral("tab 4, Advanced"); }
+    void sync(SyncDirection) override { }
+    void pressPrint() override
+    {
+        if (noticeAtPrint) {
+            CFUserNotificationDisplayNotice(NoticeLevel::Caution,
+                                            QStringLiteral("Passcode missing."),
+                                            QStringLiteral("Type 1 to 12 digits."), {}, &m_window);
+            return;
+        }
+        if (printProblem.isEmpty())
+            m_finished = ExitStatus::Printed;
+    }
+    void pressCancel() override { m_finished = ExitStatus::Cancelled; }
+    bool isPrinting() const override { return false; }
+    std::optional<ExitStatus> finished() const override { return m_finished; }
+    QString lastPrintProblem() const override { return printProblem; }
+    ExitStatus lastPrintStatus() const override { return ExitStatus::NotOffered; }
+    const PrintSession &sessionForReading() override { return session; }
+    QString jobInWords() override { return QStringLiteral("Passcode: 4711"); }
+    std::optional<QString> secret(const QString &name) const override
+    {
+        return name == QLatin1String("pin") ? std::optional<QString>(QStringLiteral("4711"))
+                                            : std::nullopt;
+    }
+    QStringList secretValues() override { return {QStringLiteral("4711")}; }
+
+    PrintSession session;
+    PopupButton *popup;
+    QLineEdit *field;
+    QCheckBox *box;
+    bool noticeAtPrint = false;
+    QString printProblem;
+    int modalResult = 0;
+
+private:
+    QWidget m_window;
+    std::optional<ExitStatus> m_finished;
+};
+
+ExitStatus run(FakeDialog &dialog, const QByteArray &script, bool printAtEnd = false)
+{
+    auto lines = parseScript(script, QStringLiteral("t.kps"));
+    if (!lines) {
+        qWarning("%s", qPrintable(lines.error().text()));
+        return ExitStatus::WrongUsage;
+    }
+    ScriptRunner runner(dialog, lines.value(), {QStringLiteral("t.kps"), printAtEnd});
+    ExitStatus status = ExitStatus::Failed;
+    QEventLoop loop;
+    bool ended = false;
+    QObject::connect(&runner, &ScriptRunner::ended, &loop, [&](ExitStatus s) {
+        status = s;
+        ended = true;
+        // What still stands in front would wait for a user for ever.
+        while (frontNotice().isShown())
+            answerNotice(1);
+        if (QWidget *modal = frontWindow())
+            modal->close();
+        loop.quit();
+    });
+    QTimer::singleShot(20000, &loop, &QEventLoop::quit);
+    runner.start();
+    loop.exec();
+    if (!ended)
+        qWarning("the script did not end");
+    QCoreApplication::processEvents();
+    return status;
+}
+
+} // namespace
+
+class TestScriptRunner : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void endsWithTheStatusThatTheLineDeserves_data();
+    void endsWithTheStatusThatTheLineDeserves();
+    void worksInsideAModalDialogWhileItsOpenerWaits();
+    void typesASecretThatNothingRepeats();
+    void printsAtTheEndWhenAsked();
+};
+
+void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<bool>("noticeAtPrint");
+    QTest::addColumn<QString>("printProblem");
+
+    const auto row = [](const char *name, const char *script, ExitStatus status,
+                        bool notice = false, const char *problem = "") {
+        QTest::newRow(name) << QByteArray(script) << static_cast<int>(status) << notice
+                            << QString::fromLatin1(problem);
+    };
+    row("nothing printed is fine", "tab 4\nchoose @bannerSheet key True\nexpect KPDE 614 value 1",
+        ExitStatus::Printed);
+    row("printed", "choose KPDE 614 0\nprint", ExitStatus::Printed);
+    row("cancelled as the script says", "cancel", ExitStatus::Printed);
+    row("nothing can follow a print", "print\ntab 4", ExitStatus::WrongUsage);
+    row("no such tab", "tab 5", ExitStatus::WrongUsage);
+    row("no such control", "click @aboutButon", ExitStatus::WrongUsage);
+    row("item not offered", "choose @bannerSheet key Maybe", ExitStatus::NotOffered);
+    row("item disabled", "choose @bannerSheet key Gone", ExitStatus::NotOffered);
+    row("row beyond the last", "choose @bannerSheet row 5", ExitStatus::NotOffered);
+    row("value of two rows", "choose @bannerSheet 1", ExitStatus::WrongUsage);
+    row("disabled control", "check @collate on", ExitStatus::NotOffered);
+    row("control of another kind", "check @bannerSheet on", ExitStatus::WrongUsage);
+    row("expectation not met", "expect @bannerSheet value 7", ExitStatus::WrongUsage);
+    row("expectation of a disabled control", "expect @collate enabled false", ExitStatus::Printed);
+    row("ticket without the key",
+        "expect-ticket com.kelvo.print.X absent\nexpect-choice Jog absent", ExitStatus::Printed);
+    row("ticket should have the key", "expect-ticket com.kelvo.print.X 1", ExitStatus::WrongUsage);
+    row("no notice to answer", "answer 1", ExitStatus::WrongUsage);
+    row("notice met and answered", "print\nexpect-notice \"1 to 12 digits\"\nanswer 1",
+        ExitStatus::Printed, true);
+    row("notice of another text", "print\nexpect-notice \"paper\"", ExitStatus::WrongUsage, true);
+    row("notice without such a button", "print\nexpect-notice \"digits\"\nanswer 2",
+        ExitStatus::WrongUsage, true);
+    row("notice not met", "print\ntab 4", ExitStatus::Failed, true);
+    row("notice at the end", "print", ExitStatus::Failed, true);
+    row("print that did not go out", "print", ExitStatus::NotOffered, false,
+        "settings in conflict");
+    row("modal dialog left open", "click @setup", ExitStatus::WrongUsage);
+    row("the window's name", "expect-window @printDialog\nexpect-window \"Print\"",
+        ExitStatus::Printed);
+    row("no secret of that name", "type @passcode secret pi", ExitStatus::WrongUsage);
+    row("picture into a folder that is not there", "screenshot \"no/such/folder.png\"",
+        ExitStatus::Failed);
+}
+
+void TestScriptRunner::endsWithTheStatusThatTheLineDeserves()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, status);
+    QFETCH(bool, noticeAtPrint);
+    QFETCH(QString, printProblem);
+    FakeDialog dialog;
+    dialog.noticeAtPrint = noticeAtPrint;
+    dialog.printProblem = printProblem;
+
+    QCOMPARE(static_cast<int>(run(dialog, script)), status);
+}
+
+void TestScriptRunner::worksInsideAModalDialogWhileItsOpenerWaits()
+{
+    FakeDialog dialog;
+
+    const ExitStatus status =
+        run(dialog,
+            "click @setup\nexpect-window \"Secure print\"\n"
+            "type @confirmPasscode \"12\"\nexpect @confirmPasscode text \"12\"\n"
+            "cancel\nexpect-window \"Print\"");
+
+    QCOMPARE(static_cast<int>(status), 0);
+    QCOMPARE(dialog.modalResult, static_cast<int>(DialogResult::Cancel));
+}
+
+void TestScriptRunner::typesASecretThatNothingRepeats()
+{
+    FakeDialog dialog;
+    QTemporaryFile out;
+    QVERIFY(out.open());
+    std::fflush(stdout);
+    const int kept = dup(1);
+    dup2(out.handle(), 1);
+
+    const ExitStatus status =
+        run(dialog,
+            "type @passcode secret pin\nexpect @passcode text \"••••\"\nshow @passcode\nsummary");
+
+    std::fflush(stdout);
+    dup2(kept, 1);
+    close(kept);
+    QCOMPARE(static_cast<int>(status), 0);
+    QCOMPARE(dialog.field->text(), QStringLiteral("4711"));
+    out.seek(0);
+    const QByteArray said = out.readAll();
+    QVERIFY(said.contains("Passcode: "));
+    QVERIFY(!said.contains("4711"));
+}
+
+void TestScriptRunner::printsAtTheEndWhenAsked()
+{
+    FakeDialog dialog;
+
+    QCOMPARE(static_cast<int>(run(dialog, "tab 4", true)), 0);
+    QCOMPARE(static_cast<int>(*dialog.finished()), static_cast<int>(ExitStatus::Printed));
+}
+
+QTEST_MAIN(TestScriptRunner)
+#include "test_script_runner.moc"

@@ -1,0 +1,385 @@
+#include "file_store.h"
+#include "property_list.h"
+#include "size_limits.h"
+#include "values.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+
+using namespace kelvo;
+using Code = Error::Code;
+
+class TestFileStore : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void readsRegularFilesUpToTheLimit();
+    void writesPrivateFilesInPrivateFolders();
+    void keepsTheOldFileOnAFullDisk();
+    void keepsTheOldFileInAnUnwritableFolder();
+    void refusesTargetsThatAreNoFiles();
+    void losesNothingWhenProcessesWriteAtOnce();
+    void waitsForALockOnlyForAWhile();
+    void refusesLocksThatAreNoFiles_data();
+    void refusesLocksThatAreNoFiles();
+    void treatsDamagedStoresAsAsked_data();
+    void treatsDamagedStoresAsAsked();
+    void writesNothingWithoutAChange();
+    void keepsTheStoreWhenTheChangeCannotBeWritten();
+    void removesFiles();
+    void makesNamesSafe_data();
+    void makesNamesSafe();
+    void keepsSafeNamesApart();
+
+private:
+    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    QString store() const { return path("store.plist"); }
+    // What lies in the folder, lock files left out.
+    QStringList files() const
+    {
+        QStringList names =
+            QDir(m_folder->path())
+                .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+        names.removeIf([](const QString &name) { return name.endsWith(QLatin1String(".lock")); });
+        return names;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+static const QVariantMap oldContent{{QStringLiteral("n"), qint64(1)}};
+static const QVariantMap newContent{{QStringLiteral("n"), qint64(2)}};
+
+static QVariantMap contentOf(const QString &path)
+{
+    const auto list = readPropertyList(path);
+    return list ? list.value().toMap() : QVariantMap();
+}
+
+static QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+static void put(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+static auto setTo(const QVariantMap &content)
+{
+    return [content](QVariantMap &dictionary) {
+        dictionary = content;
+        return true;
+    };
+}
+
+void TestFileStore::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void TestFileStore::readsRegularFilesUpToTheLimit()
+{
+    put(path("ten"), "0123456789");
+    put(path("empty"), "");
+    QVERIFY(::mkfifo(qPrintable(path("fifo")), 0600) == 0);
+
+    const auto atLimit = readFile(path("ten"), 10);
+    QVERIFY(atLimit);
+    QCOMPARE(atLimit.value(), QByteArray("0123456789"));
+    QCOMPARE(readFile(path("ten"), 9).error().code, Code::TooLarge);
+    QVERIFY(readFile(path("empty"), 0));
+    QCOMPARE(readFile(path("none"), 9).error().code, Code::NotFound);
+    QCOMPARE(readFile(path("ten/none"), 9).error().code, Code::NotFound);
+    QCOMPARE(readFile(path("fifo"), 9).error().code, Code::NotReadable);
+    QCOMPARE(readFile(m_folder->path(), 9).error().code, Code::NotReadable);
+    QCOMPARE(readFile(QString(), 9).error().code, Code::NotFound);
+    QCOMPARE(readFile(path("ten") + QChar(0), 99).error().code, Code::NotFound);
+    // Files of /proc claim to be empty.
+    const auto status = readFile(QStringLiteral("/proc/self/status"), limits::MiB);
+    QVERIFY(status && status.value().contains("VmPeak"));
+    QCOMPARE(readFile(QStringLiteral("/proc/self/status"), 10).error().code, Code::TooLarge);
+}
+
+void TestFileStore::writesPrivateFilesInPrivateFolders()
+{
+    const QString file = path("a/b/store.plist");
+    QVERIFY(changeDictionaryFile(file, DamagedStore::Keep, setTo(oldContent)));
+    QCOMPARE(contentOf(file), oldContent);
+    for (const auto &[name, mode] : {std::pair{"a", 0700U},
+                                     {"a/b", 0700U},
+                                     {"a/b/store.plist", 0600U},
+                                     {"a/b/.store.plist.lock", 0600U}}) {
+        struct stat status;
+        QVERIFY2(::stat(qPrintable(path(name)), &status) == 0, name);
+        QCOMPARE(status.st_mode & 0777U, mode);
+    }
+}
+
+// A limit on file sizes fails like a full disk: first a short write, then an error.
+void TestFileStore::keepsTheOldFileOnAFullDisk()
+{
+    QVERIFY(writeDictionaryFile(store(), oldContent));
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before;
+    QVERIFY(::getrlimit(RLIMIT_FSIZE, &before) == 0);
+    for (const rlim_t room : {0U, 100U, 65'536U}) {
+        rlimit small = before;
+        small.rlim_cur = room;
+        QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
+        const auto replaced = replaceFile(store(), QByteArray(100'000, 'x'));
+        QVERIFY(::setrlimit(RLIMIT_FSIZE, &before) == 0);
+        QVERIFY(!replaced);
+        QCOMPARE(replaced.error().code, Code::NotWritable);
+        QCOMPARE(replaced.error().where, store());
+        QCOMPARE(contentOf(store()), oldContent);
+        QCOMPARE(files(), QStringList{QStringLiteral("store.plist")});
+    }
+}
+
+void TestFileStore::keepsTheOldFileInAnUnwritableFolder()
+{
+    QVERIFY(writeDictionaryFile(store(), oldContent));
+    const auto lockIt = [this](mode_t mode) {
+        return ::chmod(qPrintable(m_folder->path()), mode) == 0;
+    };
+    QVERIFY(lockIt(0500));
+    const auto replaced = replaceFile(store(), "new");
+    const auto changed = changeDictionaryFile(store(), DamagedStore::Keep, setTo(newContent));
+    const auto created = writeDictionaryFile(path("new/store.plist"), newContent);
+    const auto removed = removeFile(store());
+    QVERIFY(lockIt(0700));
+    for (const auto &result : {replaced, changed, created, removed}) {
+        QVERIFY(!result);
+        QCOMPARE(result.error().code, Code::NotWritable);
+    }
+    QCOMPARE(contentOf(store()), oldContent);
+}
+
+void TestFileStore::refusesTargetsThatAreNoFiles()
+{
+    QVERIFY(QDir().mkdir(path("folder")));
+    QVERIFY(::symlink("/dev/null", qPrintable(path("null"))) == 0);
+    for (const char *name : {"folder", "null"}) {
+        const auto replaced = replaceFile(path(name), "bytes");
+        QVERIFY2(!replaced, name);
+        QCOMPARE(replaced.error().code, Code::NotWritable);
+    }
+    QCOMPARE(files(), (QStringList{QStringLiteral("folder"), QStringLiteral("null")}));
+}
+
+void TestFileStore::losesNothingWhenProcessesWriteAtOnce()
+{
+    constexpr int processes = 4, rounds = 50;
+    QList<pid_t> children;
+    for (int child = 0; child < processes; ++child) {
+        const pid_t pid = ::fork();
+        QVERIFY(pid >= 0);
+        if (pid == 0) {
+            bool good = true;
+            for (int round = 0; round < rounds; ++round) {
+                const auto changed =
+                    changeDictionaryFile(store(), DamagedStore::Keep, [](QVariantMap &dictionary) {
+                        const QString key = QStringLiteral("n");
+                        dictionary.insert(key, integer32(dictionary, key).value_or(0) + 1);
+                        return true;
+                    });
+                good = good && changed;
+            }
+            ::_exit(good ? 0 : 1);
+        }
+        children << pid;
+    }
+    for (const pid_t pid : children) {
+        int status = 0;
+        QCOMPARE(::waitpid(pid, &status, 0), pid);
+        QCOMPARE(status, 0);
+    }
+    QCOMPARE(integer32(contentOf(store()), QStringLiteral("n")), std::optional(processes * rounds));
+    QCOMPARE(files(), QStringList{QStringLiteral("store.plist")});
+}
+
+void TestFileStore::waitsForALockOnlyForAWhile()
+{
+    QVERIFY(writeDictionaryFile(store(), oldContent));
+    const int lock = ::open(qPrintable(path(".store.plist.lock")), O_RDWR);
+    QVERIFY(lock >= 0 && ::flock(lock, LOCK_EX) == 0);
+    QElapsedTimer timer;
+    timer.start();
+    const auto changed = changeDictionaryFile(store(), DamagedStore::Keep, setTo(newContent));
+    QVERIFY(timer.elapsed() >= limits::fileLockWaitMs);
+    QVERIFY(!changed);
+    QCOMPARE(changed.error().code, Code::TimedOut);
+    QCOMPARE(contentOf(store()), oldContent);
+    ::close(lock);
+    QVERIFY(changeDictionaryFile(store(), DamagedStore::Keep, setTo(newContent)));
+    QCOMPARE(contentOf(store()), newContent);
+}
+
+void TestFileStore::refusesLocksThatAreNoFiles_data()
+{
+    QTest::addColumn<bool>("isLink");
+    QTest::newRow("symbolic link") << true;
+    QTest::newRow("FIFO") << false;
+}
+
+void TestFileStore::refusesLocksThatAreNoFiles()
+{
+    QFETCH(bool, isLink);
+    const QByteArray lock = QFile::encodeName(path(".store.plist.lock"));
+    const QByteArray victim = QFile::encodeName(path("victim"));
+    QVERIFY((isLink ? ::symlink(victim.constData(), lock.constData())
+                    : ::mkfifo(lock.constData(), 0600))
+            == 0);
+    const auto changed = changeDictionaryFile(store(), DamagedStore::SetAside, setTo(newContent));
+    QVERIFY(!changed);
+    QCOMPARE(changed.error().code, Code::Refused);
+    QVERIFY(!QFile::exists(store()) && !QFile::exists(path("victim")));
+}
+
+void TestFileStore::treatsDamagedStoresAsAsked_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<DamagedStore>("damaged");
+    QTest::addColumn<std::optional<Code>>("code");
+    using Answer = std::optional<Code>;
+    const QByteArray list = "<plist><array/></plist>";
+    QTest::newRow("damaged, creating")
+        << QByteArray("x") << 0600 << DamagedStore::SetAside << Answer();
+    QTest::newRow("no dictionary, creating") << list << 0600 << DamagedStore::SetAside << Answer();
+    QTest::newRow("damaged, changing")
+        << QByteArray("x") << 0600 << DamagedStore::Keep << Answer(Code::Damaged);
+    QTest::newRow("no dictionary, changing")
+        << list << 0600 << DamagedStore::Keep << Answer(Code::WrongType);
+    QTest::newRow("unreadable, creating")
+        << list << 0 << DamagedStore::SetAside << Answer(Code::NotReadable);
+    QTest::newRow("too large, creating") << QByteArray(limits::plistBytes + 1, ' ') << 0600
+                                         << DamagedStore::SetAside << Answer(Code::TooLarge);
+}
+
+void TestFileStore::treatsDamagedStoresAsAsked()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, mode);
+    QFETCH(DamagedStore, damaged);
+    QFETCH(std::optional<Code>, code);
+    put(path("store.plist.damaged-1"), "an older one");
+    put(store(), bytes);
+    QVERIFY(::chmod(qPrintable(store()), mode_t(mode)) == 0);
+
+    bool wasEmpty = false;
+    const auto changed = changeDictionaryFile(store(), damaged, [&](QVariantMap &dictionary) {
+        wasEmpty = dictionary.isEmpty();
+        dictionary = newContent;
+        return true;
+    });
+
+    QVERIFY(::chmod(qPrintable(store()), 0600) == 0);
+    QCOMPARE(bool(changed), !code);
+    QCOMPARE(bytesOf(path("store.plist.damaged-1")), QByteArray("an older one"));
+    if (code) {
+        QCOMPARE(changed.error().code, *code);
+        QVERIFY(bytesOf(store()) == bytes);
+        QCOMPARE(files().size(), 2);
+    } else {
+        QVERIFY(wasEmpty);
+        QCOMPARE(contentOf(store()), newContent);
+        QCOMPARE(bytesOf(path("store.plist.damaged-2")), bytes);
+    }
+}
+
+void TestFileStore::writesNothingWithoutAChange()
+{
+    put(store(), "damaged");
+    QVERIFY(
+        changeDictionaryFile(store(), DamagedStore::SetAside, [](QVariantMap &) { return false; }));
+    QCOMPARE(bytesOf(store()), QByteArray("damaged"));
+    QCOMPARE(files(), QStringList{QStringLiteral("store.plist")});
+}
+
+void TestFileStore::keepsTheStoreWhenTheChangeCannotBeWritten()
+{
+    put(store(), "damaged");
+    const auto changed =
+        changeDictionaryFile(store(), DamagedStore::SetAside, [](QVariantMap &dictionary) {
+            dictionary.insert(QStringLiteral("a"), QVariantList{QString(QChar(1))});
+            return true;
+        });
+    QVERIFY(!changed);
+    QCOMPARE(changed.error().where, store() + QStringLiteral(": a/0"));
+    QCOMPARE(bytesOf(store()), QByteArray("damaged"));
+}
+
+void TestFileStore::removesFiles()
+{
+    QVERIFY(writeDictionaryFile(store(), oldContent));
+    QVERIFY(removeFile(store()));
+    QVERIFY(files().isEmpty());
+    QCOMPARE(removeFile(store()).error().code, Code::NotFound);
+    QCOMPARE(removeFile(path("none/store.plist")).error().code, Code::NotFound);
+    QVERIFY(!QFile::exists(path("none")));
+}
+
+void TestFileStore::makesNamesSafe_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("safe");
+    QTest::newRow("plain") << "Hall 3, Größe"
+                           << "Hall 3, Größe";
+    QTest::newRow("slash") << "a/b"
+                           << "a%2Fb";
+    QTest::newRow("parent folder") << ".."
+                                   << "%2E.";
+    QTest::newRow("hidden") << ".a.b"
+                            << "%2Ea.b";
+    QTest::newRow("percent") << "a%2Fb"
+                             << "a%252Fb";
+    QTest::newRow("empty") << ""
+                           << "%-";
+    QTest::newRow("control characters") << QStringLiteral("a\n\x7F\u0085") << "a%0A%7F%C2%85";
+    QTest::newRow("right to left") << QStringLiteral("a\u202Eb") << "a%E2%80%AEb";
+    QTest::newRow("half a pair") << QString(QChar(0xD800)) << "%uD800";
+    QTest::newRow("200 bytes") << QString(100, u'ä') << QString(100, u'ä');
+}
+
+void TestFileStore::makesNamesSafe()
+{
+    QFETCH(QString, name);
+    QTEST(safeFileName(name), "safe");
+}
+
+void TestFileStore::keepsSafeNamesApart()
+{
+    const QString one = safeFileName(QString(201, u'a'));
+    const QString other = safeFileName(QString(202, u'a'));
+    const QString wide = safeFileName(QString::fromUcs4(U"\U0001F5A8").repeated(60));
+    const QString encoded = safeFileName(QString(100, u'/'));
+    QVERIFY(one != other);
+    for (const QString &name : {one, other, wide, encoded}) {
+        QVERIFY(name.toUtf8().size() <= 200);
+        QVERIFY(!name.contains(QChar::ReplacementCharacter) && !name.contains(u'/'));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestFileStore)
+#include "test_file_store.moc"

@@ -1,0 +1,317 @@
+#include "file_store.h"
+#include "ppd_file.h"
+#include "size_limits.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace kelvo;
+using Code = Error::Code;
+
+// The device of test.ppd: two finishers that are options, staples that need one,
+// and a rule over three options.
+class TestPpdFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void tellsWhatTheDeviceIs();
+    void listsOptionsInTheirGroups();
+    void listsPageSizes();
+    void marksWhatIsOffered_data();
+    void marksWhatIsOffered();
+    void marksDefaultsAgain();
+    void namesConflicts_data();
+    void namesConflicts();
+    void namesConflictsOfPairs();
+    void resolvesConflicts_data();
+    void resolvesConflicts();
+    void leavesTheMarksAloneWhenItLooksForConflicts();
+    void refusesOtherFiles_data();
+    void refusesOtherFiles();
+
+private:
+    std::shared_ptr<PpdFile> m_ppd;
+};
+
+static QString testPpd()
+{
+    return QStringLiteral(KELVO_TEST_DATA "/platform/test.ppd");
+}
+
+void TestPpdFile::init()
+{
+    const auto ppd = PpdFile::open(testPpd());
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    m_ppd = ppd.value();
+}
+
+void TestPpdFile::tellsWhatTheDeviceIs()
+{
+    QCOMPARE(m_ppd->path(), testPpd());
+    QCOMPARE(m_ppd->manufacturer(), QStringLiteral("Kelvo"));
+    QCOMPARE(m_ppd->modelName(), QStringLiteral("Kelvo Test Device"));
+    QVERIFY(m_ppd->isColorDevice());
+    QCOMPARE(m_ppd->attribute("KelvoTicket"), std::optional(QStringLiteral("1")));
+    QVERIFY(!m_ppd->attribute("KelvoNothing"));
+    QCOMPARE(m_ppd->attributes("cupsFilter"),
+             (QStringList{QStringLiteral("application/pdf 0 -"),
+                          QStringLiteral("application/postscript 10 -")}));
+
+    const auto bare = PpdFile::fromBytes("*PPD-Adobe: \"4.3\"\n", QStringLiteral("bare.ppd"));
+    QVERIFY2(bare, qPrintable(bare.reason()));
+    QCOMPARE(bare.value()->manufacturer(), QString());
+    QCOMPARE(bare.value()->languageEncoding(), QString());
+    QVERIFY(!bare.value()->customPageLimits());
+    QVERIFY(bare.value()->groups().empty() && bare.value()->pageSizes().empty());
+    QVERIFY(!bare.value()->isColorDevice());
+}
+
+void TestPpdFile::listsOptionsInTheirGroups()
+{
+    QStringList groups;
+    for (const PpdGroup &group : m_ppd->groups())
+        groups << group.name;
+    QVERIFY(groups.contains(QStringLiteral("InstallableOptions")));
+
+    const PpdOption *media = m_ppd->findOption(QStringLiteral("MediaType"));
+    QVERIFY(media);
+    QCOMPARE(media->text, QStringLiteral("Papersorte é"));
+    QCOMPARE(media->defaultChoice, QStringLiteral("Standard"));
+    QVERIFY(!media->pickMany);
+    QCOMPARE(media->choices.size(), std::size_t(3));
+    QCOMPARE(media->choices[1].keyword, QStringLiteral("Transparency"));
+    const PpdChoice *card = media->findChoice(QStringLiteral("CardStock"));
+    QVERIFY(card);
+    QCOMPARE(card->text, QStringLiteral("Card Stock"));
+    QVERIFY(!media->findChoice(QStringLiteral("cardstock")));
+    QVERIFY(!m_ppd->findOption(QStringLiteral("Media")));
+    QVERIFY(!m_ppd->findOption(QString()));
+    QVERIFY(m_ppd->findOption(QStringLiteral("KVMarks"))->pickMany);
+    QVERIFY(m_ppd->findOption(QStringLiteral("JCLBanner")));
+}
+
+void TestPpdFile::listsPageSizes()
+{
+    QStringList names;
+    for (const PpdPageSize &size : m_ppd->pageSizes())
+        names << size.name;
+    QCOMPARE(names,
+             (QStringList{QStringLiteral("A4"), QStringLiteral("Letter"), QStringLiteral("A3")}));
+    const PpdPageSize *a4 = m_ppd->findPageSize(QStringLiteral("A4"));
+    QVERIFY(a4);
+    QCOMPARE(a4->width, 595.0);
+    QCOMPARE(a4->height, 842.0);
+    QCOMPARE(a4->left, 12.0);
+    QCOMPARE(a4->bottom, 14.0);
+    QCOMPARE(a4->right, 579.0);
+    QCOMPARE(a4->top, 824.0);
+    QVERIFY(!m_ppd->findPageSize(QStringLiteral("Custom")));
+    const auto limits = m_ppd->customPageLimits();
+    QVERIFY(limits);
+    QCOMPARE(limits->minWidth, 216.0);
+    QCOMPARE(limits->maxHeight, 1368.0);
+}
+
+void TestPpdFile::marksWhatIsOffered_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<bool>("conflict");
+    QTest::addColumn<QString>("marked"); // afterwards; empty: none
+    QTest::newRow("no conflict") << "Duplex"
+                                 << "DuplexTumble" << false << "DuplexTumble";
+    QTest::newRow("no finisher") << "StapleLocation"
+                                 << "DualLandscape" << true << "DualLandscape";
+    QTest::newRow("unknown option") << "Colour"
+                                    << "Red" << false << "";
+    QTest::newRow("unknown choice") << "Duplex"
+                                    << "Sideways" << false << "None";
+    QTest::newRow("empty choice") << "Duplex"
+                                  << "" << false << "None";
+    QTest::newRow("custom size") << "PageSize"
+                                 << "Custom.400x500" << false << "Custom";
+    QTest::newRow("custom size of nothing") << "Duplex"
+                                            << "Custom.400x500" << false << "None";
+}
+
+void TestPpdFile::marksWhatIsOffered()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, choice);
+    QTEST(m_ppd->mark(option, choice), "conflict");
+    QTEST(m_ppd->markedChoice(option).value_or(QString()), "marked");
+}
+
+void TestPpdFile::marksDefaultsAgain()
+{
+    QVERIFY(m_ppd->mark(QStringLiteral("StapleLocation"), QStringLiteral("DualLandscape")));
+    // The marks are in conflict, but what the PPD lacks adds none.
+    QVERIFY(!m_ppd->mark(QStringLiteral("Colour"), QStringLiteral("Red")));
+    m_ppd->markDefaults();
+    QCOMPARE(m_ppd->markedChoice(QStringLiteral("StapleLocation")),
+             std::optional(QStringLiteral("None")));
+    QVERIFY(!m_ppd->mark(QStringLiteral("Duplex"), QStringLiteral("DuplexTumble")));
+}
+
+using Groups = QList<QStringList>;
+
+void TestPpdFile::namesConflicts_data()
+{
+    QTest::addColumn<PpdSelection>("selection");
+    QTest::addColumn<Groups>("groups");
+    QTest::newRow("defaults") << PpdSelection() << Groups();
+    QTest::newRow("two options") << PpdSelection{{"StapleLocation", "DualLandscape"}}
+                                 << Groups{{"StapleLocation", "KVFinisher"}};
+    QTest::newRow("one option in two conflicts")
+        << PpdSelection{{"StapleLocation", "DualLandscape"}, {"MediaType", "Transparency"}}
+        << Groups{{"MediaType", "StapleLocation"}, {"StapleLocation", "KVFinisher"}};
+    QTest::newRow("two conflicts apart")
+        << PpdSelection{{"PageSize", "A3"},
+                        {"InputSlot", "Bypass"},
+                        {"KVMarks", "Fold"},
+                        {"JCLBanner", "True"}}
+        << Groups{{"PageSize", "InputSlot"}, {"KVMarks", "JCLBanner"}};
+    QTest::newRow("custom size") << PpdSelection{{"PageSize", "Custom.400x500"},
+                                                 {"Duplex", "DuplexTumble"}}
+                                 << Groups{{"PageSize", "Duplex"}};
+    QTest::newRow("two of three") << PpdSelection{{"MediaType", "CardStock"},
+                                                  {"InputSlot", "Bypass"}}
+                                  << Groups();
+    QTest::newRow("three together") << PpdSelection{{"MediaType", "CardStock"},
+                                                    {"InputSlot", "Bypass"},
+                                                    {"Duplex", "DuplexTumble"}}
+                                    << Groups{{"MediaType", "Duplex", "InputSlot"}};
+    QTest::newRow("second of many") << PpdSelection{{"KVMarks", "Fold"}, {"JCLBanner", "True"}}
+                                    << Groups{{"KVMarks", "JCLBanner"}};
+    QTest::newRow("unknown names")
+        << PpdSelection{{"Colour", "Red"}, {"Duplex", "Sideways"}} << Groups();
+}
+
+void TestPpdFile::namesConflicts()
+{
+    QFETCH(PpdSelection, selection);
+    QFETCH(Groups, groups);
+    Groups found;
+    for (const PpdConflict &conflict : m_ppd->conflicts(selection))
+        found << conflict.options;
+    QCOMPARE(found, groups);
+}
+
+// The older kind of rule, of two options, each way round.
+void TestPpdFile::namesConflictsOfPairs()
+{
+    QFile file(testPpd());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll().replace("*cupsUI", "*%")
+        + "*UIConstraints: *StapleLocation *MediaType Transparency\n"
+          "*UIConstraints: *MediaType Transparency *StapleLocation\n"
+          "*UIConstraints: *Duplex *CustomPageSize True\n"
+          "*UIConstraints: *Duplex *Nowhere\n";
+    const auto ppd = PpdFile::fromBytes(bytes, QStringLiteral("pairs.ppd"));
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    const auto conflicts = ppd.value()->conflicts({{"StapleLocation", "DualLandscape"},
+                                                   {"MediaType", "Transparency"},
+                                                   {"Duplex", "DuplexTumble"},
+                                                   {"PageSize", "Custom.400x500"}});
+    QCOMPARE(conflicts.size(), std::size_t(2));
+    QCOMPARE(conflicts[0].options, (QStringList{"PageSize", "Duplex"}));
+    QCOMPARE(conflicts[1].options, (QStringList{"MediaType", "StapleLocation"}));
+    QVERIFY(ppd.value()->conflicts({{"Duplex", "DuplexTumble"}}).empty());
+}
+
+void TestPpdFile::resolvesConflicts_data()
+{
+    using Changes = std::optional<PpdSelection>;
+    QTest::addColumn<PpdSelection>("selection");
+    QTest::addColumn<QString>("keep");
+    QTest::addColumn<Changes>("changes");
+    const PpdSelection transparency{{"StapleLocation", "DualLandscape"},
+                                    {"MediaType", "Transparency"},
+                                    {"KVFinisher", "BClass"}};
+    QTest::newRow("no conflict") << PpdSelection{{"Duplex", "DuplexTumble"}} << ""
+                                 << Changes(PpdSelection());
+    QTest::newRow("media is kept")
+        << transparency << "MediaType" << Changes(PpdSelection{{"StapleLocation", "None"}});
+    QTest::newRow("staples are kept")
+        << transparency << "StapleLocation" << Changes(PpdSelection{{"MediaType", "Standard"}});
+    QTest::newRow("the PPD's own way") << PpdSelection{{"MediaType", "CardStock"},
+                                                       {"InputSlot", "Bypass"},
+                                                       {"Duplex", "DuplexTumble"}}
+                                       << "" << Changes(PpdSelection{{"Duplex", "None"}});
+    QTest::newRow("only the kept option can give way")
+        << PpdSelection{{"StapleLocation", "DualLandscape"}} << "StapleLocation"
+        << Changes(PpdSelection{{"StapleLocation", "None"}});
+    QTest::newRow("page sizes stay") << PpdSelection{{"PageSize", "A3"}, {"InputSlot", "Bypass"}}
+                                     << "PageSize" << Changes(PpdSelection{{"InputSlot", "Auto"}});
+}
+
+void TestPpdFile::resolvesConflicts()
+{
+    QFETCH(PpdSelection, selection);
+    QFETCH(QString, keep);
+    QFETCH(std::optional<PpdSelection>, changes);
+    const auto found = m_ppd->resolve(selection, keep);
+    QCOMPARE(found.has_value(), changes.has_value());
+    if (!changes)
+        return;
+    QCOMPARE(*found, *changes);
+    selection.insert(*found);
+    QVERIFY(m_ppd->conflicts(selection).empty());
+}
+
+void TestPpdFile::leavesTheMarksAloneWhenItLooksForConflicts()
+{
+    m_ppd->mark(QStringLiteral("Duplex"), QStringLiteral("DuplexTumble"));
+    const PpdSelection selection{{"StapleLocation", "DualLandscape"}, {"Duplex", "None"}};
+    QVERIFY(!m_ppd->conflicts(selection).empty());
+    QVERIFY(m_ppd->resolve(selection));
+    QCOMPARE(m_ppd->markedChoice(QStringLiteral("Duplex")),
+             std::optional(QStringLiteral("DuplexTumble")));
+    QCOMPARE(m_ppd->markedChoice(QStringLiteral("StapleLocation")),
+             std::optional(QStringLiteral("None")));
+    QVERIFY(!m_ppd->mark(QStringLiteral("Duplex"), QStringLiteral("DuplexNoTumble")));
+}
+
+void TestPpdFile::refusesOtherFiles_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<std::optional<Code>>("code");
+    using Answer = std::optional<Code>;
+    const QByteArray bare = "*PPD-Adobe: \"4.3\"\n";
+    const auto padded = [&](qint64 size) { // comments of 100 bytes
+        QByteArray lines = QByteArray("*% ").leftJustified(99, '.') + '\n';
+        lines = bare + lines.repeated((size - bare.size()) / lines.size());
+        return lines + QByteArray(size - lines.size(), '\n');
+    };
+    QTest::newRow("empty") << QByteArray() << Answer(Code::Damaged);
+    QTest::newRow("another kind") << QByteArray("%PDF-1.4\n") << Answer(Code::Damaged);
+    QTest::newRow("bad rule") << bare + "*UIConstraints: a\n" << Answer(Code::Damaged);
+    QTest::newRow("compressed") << QByteArray("\x1f\x8b\x08") << Answer(Code::Unsupported);
+    QTest::newRow("largest") << padded(limits::ppdBytes) << Answer();
+    QTest::newRow("too large") << padded(limits::ppdBytes + 1) << Answer(Code::TooLarge);
+}
+
+void TestPpdFile::refusesOtherFiles()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(std::optional<Code>, code);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.ppd"));
+    QVERIFY(replaceFile(path, bytes));
+    const auto ppd = PpdFile::open(path);
+    QCOMPARE(bool(ppd), !code);
+    if (code) {
+        QCOMPARE(ppd.error().code, *code);
+        QCOMPARE(ppd.error().where, path);
+        QVERIFY(!ppd.error().detail.isEmpty());
+    }
+    QCOMPARE(PpdFile::open(folder.filePath(QStringLiteral("none.ppd"))).error().code,
+             Code::NotFound);
+    QCOMPARE(PpdFile::open(folder.path()).error().code, Code::NotReadable);
+}
+
+QTEST_GUILESS_MAIN(TestPpdFile)
+#include "test_ppd_file.moc"

@@ -1,0 +1,342 @@
+#include "file_store.h"
+#include "property_list.h"
+#include "size_limits.h"
+#include "values.h"
+
+#include <QDateTime>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace kelvo;
+using Code = Error::Code;
+
+class TestPropertyList : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsWhatItWrote_data();
+    void readsWhatItWrote();
+    void writesTheSameBytesForTheSameList();
+    void readsValues_data();
+    void readsValues();
+    void refusesOtherFiles_data();
+    void refusesOtherFiles();
+    void saysInWhichLineAFileIsWrong();
+    void refusesWhatNoListCanHold_data();
+    void refusesWhatNoListCanHold();
+    void holdsItsLimits_data();
+    void holdsItsLimits();
+    void agreesWithOtherPrograms();
+    void readsWhatPythonWrote();
+};
+
+static const QDateTime leapDay(QDate(2024, 2, 29), QTime(23, 59, 58), Qt::UTC);
+
+static QByteArray document(const QByteArray &content)
+{
+    return "<?xml version=\"1.0\"?>\n<plist version=\"1.0\">\n" + content + "\n</plist>\n";
+}
+
+// One of each kind, and the edges of each.
+static Dictionary everything()
+{
+    return {
+        {QStringLiteral("texts"),
+         QStringList{QString(), QStringLiteral(" <&>\"' "), QStringLiteral("tab\tline\nreturn\r."),
+                     QStringLiteral("é € 漢"), QString::fromUcs4(U"\U0001F5A8\U0010FFFF")}},
+        {QStringLiteral("integers"),
+         Array{0, -1, std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min()}},
+        {QStringLiteral("reals"), Array{0.5, -0.0, 0.1, 1.0, 1e22, 5e-324, 1.7976931348623157e308}},
+        {QStringLiteral("booleans"), Array{true, false}},
+        {QStringLiteral("date"), leapDay},
+        {QStringLiteral("data"), Array{QByteArray(), QByteArray("a"), QByteArray("\0\xFF\n", 3)}},
+        {QStringLiteral("empty"), Array{Dictionary(), Array()}},
+        {QStringLiteral("<&>"), Dictionary{{QString(), QStringLiteral("empty key")}}},
+    };
+}
+
+void TestPropertyList::readsWhatItWrote_data()
+{
+    QTest::addColumn<QVariant>("written");
+    QTest::addColumn<QVariant>("read");
+    QTest::newRow("everything") << QVariant(everything()) << QVariant(everything());
+    QTest::newRow("narrow integer") << QVariant(7) << QVariant(qint64(7));
+    QTest::newRow("unsigned") << QVariant(quint64(7)) << QVariant(qint64(7));
+    QTest::newRow("whole real") << QVariant(7.0) << QVariant(7.0);
+    QTest::newRow("float") << QVariant(0.1F) << QVariant(double(0.1F));
+    QTest::newRow("local date with milliseconds")
+        << QVariant(leapDay.addMSecs(999).toOffsetFromUtc(3600)) << QVariant(leapDay);
+    QTest::newRow("null text") << QVariant(QString()) << QVariant(QLatin1String(""));
+}
+
+void TestPropertyList::readsWhatItWrote()
+{
+    QFETCH(QVariant, written);
+    QFETCH(QVariant, read);
+    const auto xml = CFPropertyListCreateXMLData(written);
+    QVERIFY2(xml, qPrintable(xml.reason()));
+    const auto back = CFPropertyListCreateFromXMLData(xml.value(), QStringLiteral("list"));
+    QVERIFY2(back, qPrintable(back.reason()));
+    const auto again = CFPropertyListCreateXMLData(back.value());
+    QVERIFY(again);
+    QCOMPARE(again.value(), xml.value()); // tells -0 from 0 and 7 from 7.0
+    if (read.typeId() == QMetaType::QVariantMap)
+        return; // string lists come back as arrays
+    QCOMPARE(back.value().typeId(), read.typeId());
+    QCOMPARE(back.value(), read);
+    if (read.typeId() == QMetaType::QString)
+        QVERIFY(!back.value().toString().isNull());
+}
+
+void TestPropertyList::writesTheSameBytesForTheSameList()
+{
+    const Dictionary list{{QStringLiteral("b"), Array{1, 0.5}}, {QStringLiteral("B"), true}};
+    const auto xml = CFPropertyListCreateXMLData(list);
+    QVERIFY(xml);
+    QCOMPARE(xml.value(),
+             QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                        "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                        "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                        "<plist version=\"1.0\">\n"
+                        "<dict>\n\t<key>B</key>\n\t<true/>\n\t<key>b</key>\n\t<array>\n"
+                        "\t\t<integer>1</integer>\n\t\t<real>0.5</real>\n\t</array>\n</dict>\n"
+                        "</plist>\n"));
+}
+
+void TestPropertyList::readsValues_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *name, const char *content, const QVariant &value) {
+        QTest::newRow(name) << QByteArray(content) << value;
+    };
+    row("hexadecimal", "<integer>0x1F</integer>", qint64(31));
+    row("least hexadecimal", "<integer>-0x8000000000000000</integer>",
+        std::numeric_limits<qint64>::min());
+    row("blanks around", "<integer> +12\n</integer>", qint64(12));
+    row("real with exponent", "<real>+1.5E3</real>", 1500.0);
+    row("data in lines", "<data>\n\tAAE\n\tC\n</data>", QByteArray("\0\1\2", 3));
+    row("CDATA", "<string><![CDATA[a<b]]>&#x43;&amp;</string>", QStringLiteral("a<bC&"));
+    row("comments", "<!-- a --><string>a<!-- b -->c</string>", QStringLiteral("ac"));
+    row("true with an end", "<true> </true>", true);
+    row("key again deeper", "<dict><key>a</key><dict><key>a</key><true/></dict></dict>",
+        Dictionary{{QStringLiteral("a"), Dictionary{{QStringLiteral("a"), true}}}});
+}
+
+void TestPropertyList::readsValues()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QVariant, value);
+    const auto list = CFPropertyListCreateFromXMLData(document(content), QStringLiteral("list"));
+    QVERIFY2(list, qPrintable(list.reason()));
+    QCOMPARE(list.value().typeId(), value.typeId());
+    QCOMPARE(list.value(), value);
+}
+
+void TestPropertyList::refusesOtherFiles_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<Code>("code");
+    const auto file = [](const char *name, const QByteArray &xml, Code code) {
+        QTest::newRow(name) << xml << code;
+    };
+    const auto content = [&](const char *name, const QByteArray &xml, Code code) {
+        file(name, document(xml), code); // an error stands in line 3
+    };
+    file("empty file", "", Code::Damaged);
+    file("binary list", "bplist00\xD0", Code::Unsupported);
+    file("another root", "<html/>", Code::Damaged);
+    file("value as root", "<string>a</string>", Code::Damaged);
+    file("text as root", "a", Code::Damaged);
+    file("something behind", document("<true/>") + "<plist/>", Code::Damaged);
+    file("cut off", document("<true/>").chopped(5), Code::Damaged);
+    file("declared entity", "<!DOCTYPE plist [<!ENTITY a 'b'>]>" + document("<string>&a;</string>"),
+         Code::Damaged);
+    file("entity from a file",
+         "<!DOCTYPE plist [<!ENTITY a SYSTEM 'file:///etc/passwd'>]>" + document("<true/>"),
+         Code::Damaged);
+    file("entity of the outer declaration",
+         "<!DOCTYPE plist SYSTEM 'x.dtd'>" + document("<string>&a;</string>"), Code::Damaged);
+    content("no value", "", Code::Damaged);
+    content("two values", "<true/><true/>", Code::Damaged);
+    content("bad UTF-8", "<string>\xFF</string>", Code::Damaged);
+    content("zero character", "<string>&#0;</string>", Code::Damaged);
+    content("unknown element", "<float>1</float>", Code::Damaged);
+    content("list in a list", "<array><plist/></array>", Code::Damaged);
+    content("element in a text", "<string>a<true/></string>", Code::Damaged);
+    content("text outside", "<array>a</array>", Code::Damaged);
+    content("content in true", "<true>1</true>", Code::Damaged);
+    content("key twice", "<dict><key>a</key><true/><key>a</key><true/></dict>", Code::Damaged);
+    content("key twice, unsorted",
+            "<dict><key>b</key><true/><key>a</key><true/><key>b</key><true/></dict>",
+            Code::Damaged);
+    content("key without value", "<dict><key>a</key></dict>", Code::Damaged);
+    content("key after key", "<dict><key>a</key><key>b</key></dict>", Code::Damaged);
+    content("value without key", "<dict><true/></dict>", Code::Damaged);
+    content("key in an array", "<array><key>a</key></array>", Code::Damaged);
+    content("2^63", "<integer>9223372036854775808</integer>", Code::OutOfRange);
+    content("below -2^63", "<integer>-0x8000000000000001</integer>", Code::OutOfRange);
+    content("no digits", "<integer/>", Code::OutOfRange);
+    content("two signs", "<integer>+-1</integer>", Code::OutOfRange);
+    content("fraction as integer", "<integer>1.5</integer>", Code::OutOfRange);
+    content("comma in a real", "<real>1,5</real>", Code::OutOfRange);
+    content("two signs of a real", "<real>+-1</real>", Code::OutOfRange);
+    content("infinity", "<real>inf</real>", Code::OutOfRange);
+    content("real too large", "<real>1e999</real>", Code::OutOfRange);
+    content("no such day", "<date>2023-02-29T00:00:00Z</date>", Code::Damaged);
+    content("date without zone", "<date>2024-02-29T00:00:00</date>", Code::Damaged);
+    content("no base64", "<data>AA*=</data>", Code::Damaged);
+    content("data cut off", "<data>AAAAA</data>", Code::Damaged);
+    content("data behind the end", "<data>QQ==QQ==</data>", Code::Damaged);
+}
+
+void TestPropertyList::refusesOtherFiles()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(Code, code);
+    const auto list = CFPropertyListCreateFromXMLData(xml, QStringLiteral("a.plist"));
+    QVERIFY(!list);
+    QCOMPARE(list.error().code, code);
+    QVERIFY(list.error().where.startsWith(QStringLiteral("a.plist")));
+    QVERIFY(!list.error().detail.isEmpty());
+}
+
+void TestPropertyList::saysInWhichLineAFileIsWrong()
+{
+    for (const char *content :
+         {"<true/>\n<float/>", "<true/>\n<integer>x</integer>", "<true/>\n\xFF"})
+        QCOMPARE(CFPropertyListCreateFromXMLData(document(content), QStringLiteral("a.plist"))
+                     .error()
+                     .where,
+                 QStringLiteral("a.plist, line 4"));
+}
+
+void TestPropertyList::refusesWhatNoListCanHold_data()
+{
+    QTest::addColumn<QVariant>("value"); // stands at outer/1 of the list
+    QTest::addColumn<Code>("code");
+    QTest::newRow("nothing") << QVariant() << Code::WrongType;
+    QTest::newRow("another type") << QVariant(QSize(1, 2)) << Code::WrongType;
+    QTest::newRow("null character") << QVariant(QString(QChar(0))) << Code::Unsupported;
+    QTest::newRow("control character") << QVariant(QStringLiteral("\x1B")) << Code::Unsupported;
+    QTest::newRow("half a pair") << QVariant(QString(QChar(0xD83D))) << Code::Unsupported;
+    QTest::newRow("halves swapped")
+        << QVariant(QString(QChar(0xDC00)) + QChar(0xD83D)) << Code::Unsupported;
+    QTest::newRow("U+FFFF") << QVariant(QString(QChar(0xFFFF))) << Code::Unsupported;
+    QTest::newRow("2^63") << QVariant(quint64(1) << 63) << Code::OutOfRange;
+    QTest::newRow("not a number") << QVariant(std::nan("")) << Code::OutOfRange;
+    QTest::newRow("infinite float") << QVariant(HUGE_VALF) << Code::OutOfRange;
+    QTest::newRow("no date") << QVariant(QDateTime()) << Code::OutOfRange;
+    QTest::newRow("year 10000") << QVariant(QDateTime(QDate(10000, 1, 1), QTime(0, 0), Qt::UTC))
+                                << Code::OutOfRange;
+}
+
+void TestPropertyList::refusesWhatNoListCanHold()
+{
+    QFETCH(QVariant, value);
+    QFETCH(Code, code);
+    const auto xml =
+        CFPropertyListCreateXMLData(Dictionary{{QStringLiteral("outer"), Array{true, value}}});
+    QVERIFY(!xml);
+    QCOMPARE(xml.error().code, code);
+    QCOMPARE(xml.error().where, QStringLiteral("outer/1"));
+}
+
+void TestPropertyList::holdsItsLimits_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<bool>("fits");
+    const auto nested = [](int depth) {
+        return document(QByteArray("<array>").repeated(depth)
+                        + QByteArray("</array>").repeated(depth));
+    };
+    QTest::newRow("deepest") << nested(limits::plistDepth) << true;
+    QTest::newRow("too deep") << nested(limits::plistDepth + 1) << false;
+    const auto many = [](qint64 values) { // the array is one of them
+        return document("<array>" + QByteArray("<true/>").repeated(values - 1) + "</array>");
+    };
+    QTest::newRow("most values") << many(limits::plistNodes) << true;
+    QTest::newRow("too many values") << many(limits::plistNodes + 1) << false;
+    const auto padded = [](qint64 size) {
+        const QByteArray list = document("<true/>");
+        return list + QByteArray(size - list.size(), ' ');
+    };
+    QTest::newRow("most bytes") << padded(limits::plistBytes) << true;
+    QTest::newRow("too many bytes") << padded(limits::plistBytes + 1) << false;
+}
+
+void TestPropertyList::holdsItsLimits()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(bool, fits);
+    const auto list = CFPropertyListCreateFromXMLData(xml, QStringLiteral("list"));
+    QCOMPARE(bool(list), fits);
+    if (!fits) {
+        QCOMPARE(list.error().code, Code::TooLarge);
+        return;
+    }
+    // What could be read can be written, and one level more cannot.
+    QVERIFY(CFPropertyListCreateXMLData(list.value()));
+    if (qstrcmp(QTest::currentDataTag(), "most bytes") != 0) {
+        const auto more = CFPropertyListCreateXMLData(Array{list.value()});
+        QVERIFY(!more);
+        QCOMPARE(more.error().code, Code::TooLarge);
+    }
+}
+
+// A list of ours through another program's binary form and back.
+void TestPropertyList::agreesWithOtherPrograms()
+{
+    QTemporaryDir folder;
+    const QString ours = folder.filePath(QStringLiteral("ours.plist"));
+    const QString binary = folder.filePath(QStringLiteral("binary.plist"));
+    const QString back = folder.filePath(QStringLiteral("back.plist"));
+    Dictionary list = everything();
+    // plistutil's own writer prints reals with few digits, drops empty keys and
+    // turns returns into newlines.
+    list.insert(QStringLiteral("texts"),
+                list.value(QStringLiteral("texts"))
+                    .toStringList()
+                    .replaceInStrings(QStringLiteral("\r"), QString()));
+    list.insert(QStringLiteral("reals"), Array{0.5, 1.0, 1e22});
+    list.remove(QStringLiteral("<&>"));
+    QVERIFY(writeDictionaryFile(ours, list));
+    for (const QStringList &arguments :
+         {QStringList{QStringLiteral("-i"), ours, QStringLiteral("-o"), binary,
+                      QStringLiteral("-f"), QStringLiteral("bin")},
+          QStringList{QStringLiteral("-i"), binary, QStringLiteral("-o"), back,
+                      QStringLiteral("-f"), QStringLiteral("xml")}}) {
+        QCOMPARE(QProcess::execute(QStringLiteral("plistutil"), arguments), 0);
+    }
+    const auto theirs = readPropertyList(back);
+    QVERIFY2(theirs, qPrintable(theirs.reason()));
+    const auto expected = readPropertyList(ours);
+    QVERIFY(expected);
+    const Dictionary a = theirs.value().toMap(), b = expected.value().toMap();
+    QCOMPARE(a.keys(), b.keys());
+    for (const QString &key : b.keys())
+        QVERIFY2(a.value(key) == b.value(key), qPrintable(key));
+}
+
+void TestPropertyList::readsWhatPythonWrote()
+{
+    const auto list = readPropertyList(QStringLiteral(KELVO_TEST_DATA "/platform/plistlib.plist"));
+    QVERIFY2(list, qPrintable(list.reason()));
+    const Dictionary expected{
+        {QStringLiteral("data"), QByteArray(100, '\xAB')},
+        {QStringLiteral("date"), leapDay},
+        {QStringLiteral("deep"),
+         Dictionary{{QStringLiteral("é"), Array{true, QStringLiteral("<&>\n")}}}},
+        {QStringLiteral("integer"), std::numeric_limits<qint64>::min()},
+        {QStringLiteral("real"), 0.1},
+    };
+    QCOMPARE(list.value().toMap(), expected);
+}
+
+QTEST_GUILESS_MAIN(TestPropertyList)
+#include "test_property_list.moc"

@@ -1,0 +1,170 @@
+#include "folders.h"
+#include "long_date.h"
+#include "menu.h"
+#include "string_table.h"
+#include "system_information.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace kelvo;
+
+// The small services: folders, dates, menus, texts, the computer.
+class TestSurroundings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void choosesFoldersFromTheEnvironment_data();
+    void choosesFoldersFromTheEnvironment();
+    void countsSecondsSince1904_data();
+    void countsSecondsSince1904();
+    void findsMenuItemsInSubmenus();
+    void fillsPlaceHoldersAtOnce_data();
+    void fillsPlaceHoldersAtOnce();
+    void findsTheDefaultRoute_data();
+    void findsTheDefaultRoute();
+    void knowsUserAndComputer();
+};
+
+void TestSurroundings::choosesFoldersFromTheEnvironment_data()
+{
+    using Variables = QMap<QByteArray, QByteArray>;
+    QTest::addColumn<Variables>("variables");
+    QTest::addColumn<QString>("preferences");
+    QTest::addColumn<QString>("support");
+    QTest::addColumn<QString>("site");
+    const QString site = QStringLiteral("/etc/xdg/kelvo");
+
+    QTest::newRow("home alone") << Variables{{"HOME", "/h/u/"}} << "/h/u/.config/kelvo"
+                                << "/h/u/.local/share" << site;
+    QTest::newRow("desktop's folders")
+        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "/c/"}, {"XDG_DATA_HOME", "/d"}}
+        << "/c/kelvo"
+        << "/d" << site;
+    QTest::newRow("relative folders are ignored")
+        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_DATA_HOME", "d"}}
+        << "/h/.config/kelvo"
+        << "/h/.local/share" << site;
+    QTest::newRow("our own") << Variables{{"KELVO_SUPPORT_DIR", "/s"}, {"KELVO_SITE_DIR", "/t"}}
+                             << ""
+                             << "/s"
+                             << "/t";
+    QTest::newRow("nothing") << Variables() << ""
+                             << "" << site;
+    QTest::newRow("root folder") << Variables{{"HOME", "/"}} << "/.config/kelvo"
+                                 << "/.local/share" << site;
+}
+
+void TestSurroundings::choosesFoldersFromTheEnvironment()
+{
+    using Variables = QMap<QByteArray, QByteArray>;
+    QFETCH(Variables, variables);
+    const char *const names[] = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "KELVO_SUPPORT_DIR",
+                                 "KELVO_SITE_DIR"};
+    Variables before;
+    for (const char *name : names) {
+        before.insert(name, qgetenv(name));
+        variables.contains(name) ? qputenv(name, variables.value(name)) : qunsetenv(name);
+    }
+    QTEST(userPreferencesFolder(), "preferences");
+    QTEST(localApplicationSupportFolder(), "support");
+    QTEST(siteFolder(), "site");
+    for (const char *name : names)
+        qputenv(name, before.value(name));
+}
+
+void TestSurroundings::countsSecondsSince1904_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<QTime>("time");
+    QTest::addColumn<qint64>("seconds");
+    QTest::newRow("epoch") << QDate(1904, 1, 1) << QTime(0, 0) << Q_INT64_C(0);
+    QTest::newRow("a second before") << QDate(1903, 12, 31) << QTime(23, 59, 59) << Q_INT64_C(-1);
+    QTest::newRow("Unix epoch") << QDate(1970, 1, 1) << QTime(0, 0) << Q_INT64_C(2082844800);
+    QTest::newRow("above 32 bits")
+        << QDate(2040, 2, 6) << QTime(6, 28, 16) << Q_INT64_C(4294967296);
+}
+
+void TestSurroundings::countsSecondsSince1904()
+{
+    QFETCH(QDate, date);
+    QFETCH(QTime, time);
+    QFETCH(qint64, seconds);
+    QCOMPARE(qint64(longDateFrom(date, time)), seconds);
+    QCOMPARE(qint64(longDateFrom(QDateTime(date, time.addMSecs(400), Qt::OffsetFromUTC, 7200))),
+             seconds);
+    QCOMPARE(dateOf(seconds), date);
+    QCOMPARE(timeOf(seconds), time);
+}
+
+void TestSurroundings::findsMenuItemsInSubmenus()
+{
+    constexpr OSType command = fourCharCode("edit");
+    Menu menu;
+    menu.items.resize(2);
+    menu.items[0].submenu.resize(1);
+    menu.items[0].submenu[0].command = command;
+    menu.items[1].command = command;
+    QCOMPARE(findItem(menu, command), &menu.items[0].submenu[0]);
+    QCOMPARE(findItem(menu, fourCharCode("none")), nullptr);
+    QCOMPARE(findItem(menu, kNoCommand), nullptr);
+}
+
+void TestSurroundings::fillsPlaceHoldersAtOnce_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("order and repeat") << "%2 of %1, %2" << QStringList{"a", "b"} << "b of a, b";
+    QTest::newRow("typed place holder") << "%1 and %2" << QStringList{"%2", "b"} << "%2 and b";
+    QTest::newRow("missing argument") << "%1 %2" << QStringList{"a"} << "a %2";
+    QTest::newRow("not a place holder") << "100% %0 %x %" << QStringList{"a"} << "100% %0 %x %";
+    QTest::newRow("one digit only") << "%10" << QStringList{"a"} << "a0";
+}
+
+void TestSurroundings::fillsPlaceHoldersAtOnce()
+{
+    QFETCH(QString, format);
+    QFETCH(QStringList, arguments);
+    QTEST(formatted(format, arguments), "text");
+}
+
+void TestSurroundings::findsTheDefaultRoute_data()
+{
+    QTest::addColumn<QByteArray>("routes");    // interface, destination, gateway, flags, …
+    QTest::addColumn<QByteArray>("interface"); // empty: none
+    const QByteArray header =
+        "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n";
+    const QByteArray wired = "eth0\t00000000\t0100A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n";
+    const QByteArray wireless = "wlan0\t00000000\t0100A8C0\t0003\t0\t0\t60\t00000000\t0\t0\t0\n";
+    QTest::newRow("lowest metric") << header + wired + wireless << QByteArray("wlan0");
+    QTest::newRow("first of equal metric")
+        << header + wired + QByteArray(wired).replace("eth0", "eth1") << QByteArray("eth0");
+    QTest::newRow("no gateway") << header + QByteArray(wired).replace("0003", "0001")
+                                << QByteArray();
+    QTest::newRow("not every destination")
+        << header + QByteArray(wired).replace("\t00000000\t0\t", "\t00FFFFFF\t0\t") << QByteArray();
+    QTest::newRow("cut off") << header + wired.left(30) << QByteArray();
+    QTest::newRow("empty") << QByteArray() << QByteArray();
+}
+
+void TestSurroundings::findsTheDefaultRoute()
+{
+    QFETCH(QByteArray, routes);
+    QTEST(defaultRouteInterface(routes).value_or(QByteArray()), "interface");
+}
+
+void TestSurroundings::knowsUserAndComputer()
+{
+    QVERIFY(consoleUser() && !consoleUser()->isEmpty());
+    QVERIFY(computerName() && !computerName()->isEmpty());
+    if (const auto address = primaryIPv4Address()) // a bare machine may have no route
+        QVERIFY2(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+\\.\\d+$"))
+                     .match(*address)
+                     .hasMatch(),
+                 qPrintable(*address));
+}
+
+QTEST_GUILESS_MAIN(TestSurroundings)
+#include "test_surroundings.moc"

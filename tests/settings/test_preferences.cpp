@@ -1,0 +1,281 @@
+#include "file_store.h"
+#include "folders.h"
+#include "input_history.h"
+#include "preferences.h"
+#include "standard_error.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+#include <QProcess>
+#include <QTest>
+
+using namespace kelvo;
+
+namespace {
+
+const QString key = QStringLiteral("jobNotesJobName");
+
+QString preferencePath(const QString &name)
+{
+    return userPreferencesFolder() + QLatin1Char('/') + name;
+}
+
+void putFile(const QString &path, const QByteArray &bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    return readFile(path, 1 << 20).value();
+}
+
+} // namespace
+
+class TestPreferences : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        QDir(userPreferencesFolder()).removeRecursively();
+        QDir(localApplicationSupportFolder()).removeRecursively();
+        QLocale::setDefault(QLocale::c());
+    }
+
+    void readsMissingAndDamagedFilesAsEmpty();
+    void writesWholeFiles();
+    void saysWhyWritingFailedByNumber();
+    void makesTheMakersFolder();
+    void readsSharedFilesAndReportsDamage();
+    void keepsTheNewestTexts_data();
+    void keepsTheNewestTexts();
+    void savesWhatIsNewOnly();
+    void setsADamagedHistoryAside();
+    void losesNothingOfSeveralDialogs();
+    void offersValidItemsOnly_data();
+    void offersValidItemsOnly();
+    void keepsNumbersInTheirRange();
+};
+
+void TestPreferences::readsMissingAndDamagedFilesAsEmpty()
+{
+    const QString name = QStringLiteral("com.kelvo.print.test.plist");
+    QCOMPARE(CopyUserPreferences(name), std::optional(Dictionary()));
+    for (const char *content : {"", "no property list", "<plist><array/></plist>"}) {
+        putFile(preferencePath(name), content);
+        const StandardError quiet;
+        QCOMPARE(CopyUserPreferences(name), std::optional(Dictionary()));
+        QCOMPARE(quiet.text(), QByteArray());
+        QCOMPARE(bytesOf(preferencePath(name)), QByteArray(content)); // a reader moves nothing
+    }
+}
+
+void TestPreferences::writesWholeFiles()
+{
+    const QString name = QStringLiteral("com.kelvo.print.test.plist");
+    QVERIFY(WriteUserPreferences(name, {{"a", 1}, {"b", 2}}));
+    QVERIFY(WriteUserPreferences(name, {{"b", QVariantList{"x & y"}}}));
+    QCOMPARE(CopyUserPreferences(name), std::optional(Dictionary{{"b", QVariantList{"x & y"}}}));
+    QVERIFY(bytesOf(preferencePath(name)).startsWith("<?xml"));
+}
+
+void TestPreferences::saysWhyWritingFailedByNumber()
+{
+    const StandardError captured;
+    QVERIFY(!WriteUserPreferences("a.plist", {{"a", QVariant::fromValue(QSize(1, 2))}}));
+    QCOMPARE(captured.text(), QByteArray("WriteUserPreferences() failed (22)\n"));
+
+    putFile(userPreferencesFolder(), "in the way");
+    QVERIFY(!WriteUserPreferences("a.plist", {}));
+    QVERIFY(!saveHistory(key, "text", 5));
+    const QList<QByteArray> lines = captured.text().split('\n');
+    QCOMPARE(lines.size(), 4); // one each, and what stands behind the last
+    QCOMPARE(lines[1], QByteArray("WriteUserPreferences() failed (5)"));
+    QCOMPARE(lines[2], QByteArray("WriteUserPreferences() failed (5)"));
+    QFile::remove(userPreferencesFolder());
+}
+
+void TestPreferences::makesTheMakersFolder()
+{
+    const QString folder = localApplicationSupportFolder() + QStringLiteral("/Kelvo");
+    QVERIFY(!QFileInfo::exists(folder));
+    QCOMPARE(CopyPreferenceFileURL("a.plist"), std::optional(folder + "/a.plist"));
+    QVERIFY(QFileInfo(folder).isDir());
+    QCOMPARE(CopyPreferenceFileURL("a.plist"), std::optional(folder + "/a.plist"));
+
+    QDir(folder).removeRecursively();
+    putFile(folder, "in the way");
+    QCOMPARE(CopyPreferenceFileURL("a.plist"), std::nullopt);
+    QCOMPARE(CopyXMLData("a.plist"), std::nullopt);
+}
+
+void TestPreferences::readsSharedFilesAndReportsDamage()
+{
+    const StandardError captured;
+    QCOMPARE(CopyXMLData("a.plist"), std::nullopt);
+    QCOMPARE(captured.text(), QByteArray()); // nothing to say of a file that is not there
+
+    const QString path = CopyPreferenceFileURL("a.plist").value();
+    putFile(path, "<plist version=\"1.0\"><array><integer>3</integer></array></plist>");
+    QCOMPARE(CopyXMLData("a.plist"), std::optional(QVariant(QVariantList{qint64(3)})));
+
+    putFile(path, "<plist>\n<dict>");
+    QCOMPARE(CopyXMLData("a.plist"), std::nullopt);
+    const QByteArray said = captured.text();
+    QVERIFY2(said.startsWith("CopyXMLData()::CFPropertyListCreateFromXMLData() error: "),
+             said.constData());
+    QVERIFY2(said.contains("line 2") && said.count('\n') == 1, said.constData());
+}
+
+void TestPreferences::keepsTheNewestTexts_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<int>("limit");
+    QTest::addColumn<QString>("after");
+
+    QTest::newRow("first") << "" << 5 << "new";
+    QTest::newRow("at the limit") << "a b c d e" << 5 << "new a b c d";
+    QTest::newRow("one below") << "a b c d" << 5 << "new a b c d";
+    QTest::newRow("far above a limit that went down") << "a b c d e" << 2 << "new a";
+    QTest::newRow("without a limit") << "a b c d e" << 0 << "new a b c d e";
+}
+
+void TestPreferences::keepsTheNewestTexts()
+{
+    QFETCH(QString, before);
+    QFETCH(int, limit);
+    QFETCH(QString, after);
+    const QStringList stored = before.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    QVERIFY(
+        WriteUserPreferences(kInputHistoryFile, {{key, stored}, {"other", QStringList{"kept"}}}));
+    QVERIFY(saveHistory(key, "new", limit));
+    QCOMPARE(readHistory(key).join(QLatin1Char(' ')), after);
+    QCOMPARE(readHistory("other"), QStringList{"kept"});
+}
+
+void TestPreferences::savesWhatIsNewOnly()
+{
+    saveHistory(key, "old", 5);
+    saveHistory(key, "newer", 5);
+    const QByteArray before = bytesOf(preferencePath(kInputHistoryFile));
+    QVERIFY(saveHistory(key, "old", 5));
+    QCOMPARE(bytesOf(preferencePath(kInputHistoryFile)), before);
+    QCOMPARE(readHistory(key), QStringList({"newer", "old"}));
+}
+
+void TestPreferences::setsADamagedHistoryAside()
+{
+    putFile(preferencePath(kInputHistoryFile), "damaged");
+    QCOMPARE(readHistory(key), QStringList());
+    const StandardError captured;
+    QVERIFY(saveHistory(key, "new", 5));
+    QCOMPARE(readHistory(key), QStringList{"new"});
+    QCOMPARE(bytesOf(preferencePath(kInputHistoryFile) + ".damaged-1"), QByteArray("damaged"));
+
+    // Entries that are no texts are not offered.
+    WriteUserPreferences(kInputHistoryFile, {{key, QVariantList{"a", 3, QVariantList(), "b"}}});
+    QCOMPARE(readHistory(key), QStringList({"a", "b"}));
+    WriteUserPreferences(kInputHistoryFile, {{key, "a"}});
+    QCOMPARE(readHistory(key), QStringList());
+}
+
+void TestPreferences::losesNothingOfSeveralDialogs()
+{
+    constexpr int dialogs = 3;
+    constexpr int texts = 15; // of each
+    QProcess processes[dialogs];
+    for (int i = 0; i < dialogs; ++i)
+        processes[i].start(QCoreApplication::applicationFilePath(),
+                           {"--save", QString::number(i), QString::number(texts)});
+    for (QProcess &process : processes) {
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 0);
+    }
+    const QStringList saved = readHistory(key);
+    QCOMPARE(saved.size(), dialogs * texts);
+    QCOMPARE(QSet<QString>(saved.begin(), saved.end()).size(), dialogs * texts);
+}
+
+void TestPreferences::offersValidItemsOnly_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<bool>("offered");
+
+    QTest::newRow("smallest number") << 1 << "10" << true;
+    QTest::newRow("one below") << 1 << "9" << false;
+    QTest::newRow("greatest number") << 1 << "5000" << true;
+    QTest::newRow("one above") << 1 << "5001" << false;
+    QTest::newRow("grouped number") << 1 << "4.999" << true;
+    QTest::newRow("no number") << 1 << "abc" << false;
+    QTest::newRow("shortest text") << 2 << "ab" << true;
+    QTest::newRow("one shorter") << 2 << "a" << false;
+    QTest::newRow("longest text") << 2 << "abcab" << true;
+    QTest::newRow("one longer") << 2 << "abcabc" << false;
+    QTest::newRow("one character of two units") << 2 << QStringLiteral("\U0001F5A8") << false;
+    QTest::newRow("five characters of two units")
+        << 2 << QStringLiteral("\U0001F5A8").repeated(5) << true;
+    QTest::newRow("character that is not allowed") << 2 << "abx" << false;
+    QTest::newRow("another kind takes all") << 3 << "" << true;
+}
+
+void TestPreferences::offersValidItemsOnly()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, item);
+    QFETCH(bool, offered);
+    QLocale::setDefault(QLocale("de_DE"));
+    KComboBoxOptions options;
+    options.kind = kind;
+    options.minimumLength = 2;
+    options.maximumLength = 5;
+    options.allowed = QSet<char32_t>{U'a', U'b', U'c', U'\U0001F5A8'};
+    options.minimumValue = 10;
+    options.maximumValue = 5000;
+    QCOMPARE(isValidHistoryItem(item, options), offered);
+
+    if (kind == kComboBoxText && !offered && item == QLatin1String("abx")) {
+        options.allowed.reset();
+        options.maximumLength = -1;
+        QVERIFY(isValidHistoryItem("abx and all else", options));
+    }
+}
+
+void TestPreferences::keepsNumbersInTheirRange()
+{
+    QLocale::setDefault(QLocale("de_DE"));
+    KComboBoxOptions options;
+    options.minimumValue = 1;
+    options.maximumValue = 9999;
+    const QList<std::pair<QString, QString>> rows = {
+        {"0", "1"},         {"10000", "9.999"},           {"9999", "9999"},
+        {"9.999", "9.999"}, {QString(25, u'9'), "9.999"}, {"", ""},
+        {"abc", "abc"}};
+    for (const auto &[typed, shown] : rows)
+        QCOMPARE(withinRange(typed, options), shown);
+    QCOMPARE(maximumLengthForNumbers(9999), 4);
+    QCOMPARE(maximumLengthForNumbers(0), 9);
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == QLatin1String("--save")) {
+        for (int i = 0; i < arguments.value(3).toInt(); ++i) {
+            if (!saveHistory(key, QStringLiteral("%1-%2").arg(arguments[2]).arg(i), 0))
+                return 1;
+        }
+        return 0;
+    }
+    TestPreferences test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_preferences.moc"

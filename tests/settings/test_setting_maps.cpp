@@ -1,0 +1,332 @@
+#include "installed_features.h"
+#include "keyword_map.h"
+#include "ppd_choices.h"
+#include "setting_maps.h"
+#include "ticket_values.h"
+
+#include <QTest>
+
+#include <set>
+
+using namespace kelvo;
+
+namespace {
+
+constexpr std::int32_t kujn = 0x4b756a6e; // 'Kujn'
+
+using MapRef = const SettingMap *; // test data takes no arrays
+
+// clang-format off
+const SettingMap *const allMaps[] = {
+    OnOffMap, OPIPrescanMap, OPISubsitutionMap, PrinterEmulationMap, OutputOptionsMap,
+    RotateImageMap, BookletLayoutOrderMap, CoverOptionMap, InsertOptionMap,
+    BookletWatermarkBackgroundFormsMap, PageBordersMap, EnabledDisabledMap, WatermarkOptionsMap,
+    WatermarkMap, FaxResolutionMap, FaxSendSpeedMap, ConfirmationSheetMap, CoverSheetMap,
+    CoverSheetRecipientMap, CoverSheetSenderMap, CoverSheetImageMap, TabStockSetupMap,
+    TabStockRadioMap, SavedJobSaveOptionRadioMap, FolderNameMap, JobNameMap, SavedJobNameMap,
+    LoginNameMap, FaxCoverSizeMap, SeparatorOptionMap, JobTypeMap, ResolutionMap, PlexMap,
+    CoverSidesImagedMap,
+};
+
+constexpr SettingMap contextMap[] = {
+    {"Simplex", 1},
+    {"Duplex",  kUnset},
+    kEndOfMap,
+};
+constexpr SettingMap untilZeroMap[] = {
+    {"On",   1},
+    {"None", 0},
+    {"Off",  2},
+    kEndOfMap,
+};
+constexpr SettingMap withoutFaxMap[] = {
+    {"Normal", 1, kNoCommand, "FaxKey", false},
+    {"Fax",    2, fourCharCode("FaxC"), "FaxKey", true},
+    kEndOfMap,
+};
+constexpr SettingMap emptyMap[] = {kEndOfMap};
+
+constexpr InstalledFeature faxAlways[] = {
+    {"FaxKey", nullptr, nullptr, nullptr, 0},
+    {nullptr,  nullptr, nullptr, nullptr, 0},
+};
+// clang-format on
+
+void installFax()
+{
+    const auto ppd =
+        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-bare.ppd"));
+    LoadInstallableOptions(ppd.value().get(), faxAlways);
+}
+
+// "Key|value|command" of every row.
+QStringList described(const Menu &menu)
+{
+    QStringList items;
+    for (const MenuItem &item : menu.items)
+        items << QStringLiteral("%1|%2|%3").arg(item.text).arg(item.reference).arg(item.command);
+    return items;
+}
+
+} // namespace
+
+class TestSettingMaps : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        const auto opened = Bundle::open(QStringLiteral(KELVO_BUILD_DIR "/tests/settings.pde"));
+        QVERIFY2(opened, qPrintable(opened ? QString() : opened.error().text()));
+        m_bundle = opened.value();
+    }
+    void cleanup() { UnloadInstallableOptions(); }
+
+    void rowsSayWhatTicketsSay_data();
+    void rowsSayWhatTicketsSay();
+    void everyKeyHasAText();
+    void findsRowsByValue_data();
+    void findsRowsByValue();
+    void findsAGatedRowOnlyWhenItsFeatureIsInItsState();
+    void countsSkippedRowsToo();
+    void saysUnsetInTheWordsOfItsContext();
+    void marksDividersAndKeepsTheMap();
+    void missingTextsSaySo();
+    void translatesPpdChoicesBothWays_data();
+    void translatesPpdChoicesBothWays();
+    void knowsTheChoicesOfTheFullDevice();
+
+private:
+    CFBundleRef m_bundle = nullptr;
+};
+
+// Maps whose order or values a hand could easily get wrong.
+void TestSettingMaps::rowsSayWhatTicketsSay_data()
+{
+    QTest::addColumn<MapRef>("map");
+    QTest::addColumn<QString>("rows"); // value and command of each
+
+    const auto command = [](const char(&code)[5]) { return QString::number(fourCharCode(code)); };
+    QTest::newRow("covers skip 4") << MapRef(CoverOptionMap) << "1/0 2/0 3/0 5/0";
+    QTest::newRow("fax resolutions") << MapRef(FaxResolutionMap) << "1/0 2/0 4/0 3/0";
+    QTest::newRow("fax speeds") << MapRef(FaxSendSpeedMap) << "4/0 2/0 5/0";
+    QTest::newRow("printed covers first") << MapRef(CoverSidesImagedMap) << "4/0 1/0";
+    QTest::newRow("job types") << MapRef(JobTypeMap) << "1/0 6/0 8/0 7/0 3/0 5/0";
+    QTest::newRow("one value for all")
+        << MapRef(OPIPrescanMap) << QStringLiteral("%1/0 %1/0 %1/0 %1/0").arg(kujn);
+    QTest::newRow("radio rows have no values") << MapRef(SavedJobSaveOptionRadioMap) << "0/0 0/0";
+    QTest::newRow("cover sheet images") << MapRef(CoverSheetImageMap)
+                                        << "1/" + command("KWmX") + " -5/0 -6/" + command("KWmO")
+            + " -7/" + command("LFin") + " -8/" + command("LFie") + " -9/" + command("LFid");
+    QTest::newRow("watermark options") << MapRef(WatermarkOptionsMap)
+                                       << "1/" + command("KWmB") + " 2/" + command("KWmL") + " 3/"
+            + command("KWmF") + " -5/0 4/" + command("KWmA") + " 5/" + command("KWm1");
+    QTest::newRow("background forms") << MapRef(BookletWatermarkBackgroundFormsMap)
+                                      << "1/" + command("BfCn") + " 2/0 3/" + command("BfCs");
+}
+
+void TestSettingMaps::rowsSayWhatTicketsSay()
+{
+    QFETCH(MapRef, map);
+    QFETCH(QString, rows);
+    QStringList found;
+    for (int i = 1; i <= CountMaps(map); ++i)
+        found << QStringLiteral("%1/%2").arg(UIToTicket(map, i)).arg(map[i - 1].commandID);
+    QCOMPARE(found.join(QLatin1Char(' ')), rows);
+}
+
+void TestSettingMaps::everyKeyHasAText()
+{
+    std::set<QString> keys = {QStringLiteral("PrinterDefault"), QStringLiteral("UseJobSetting")};
+    for (const SettingMap *map : allMaps) {
+        QVERIFY(CountMaps(map) > 0);
+        for (int i = 0; i < CountMaps(map); ++i)
+            keys.insert(QString::fromUtf8(map[i].localizedKey));
+    }
+    for (const InstalledFeature *row = InstalledFeatures; row->feature; ++row) {
+        if (row->localizedKey)
+            keys.insert(QString::fromUtf8(row->localizedKey));
+    }
+    for (const QString &key : keys)
+        QVERIFY2(localizedText(m_bundle, key) != QLatin1String("STRING NOT FOUND"),
+                 qPrintable(key));
+    QCOMPARE(localizedText(m_bundle, QStringLiteral("0.5\" (8.5x11\" Template)")),
+             QStringLiteral("0.5 in (8.5 x 11 in template)"));
+}
+
+void TestSettingMaps::findsRowsByValue_data()
+{
+    QTest::addColumn<MapRef>("map");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("key"); // empty: none
+
+    QTest::newRow("first row of 0 answers for all")
+        << MapRef(OutputOptionsMap) << 1 << 1 << "Face Down";
+    QTest::newRow("before the row of 0") << MapRef(untilZeroMap) << 1 << 1 << "On";
+    QTest::newRow("behind the row of 0") << MapRef(untilZeroMap) << 2 << 2 << "None";
+    QTest::newRow("nowhere, with a row of 0") << MapRef(untilZeroMap) << 7 << 2 << "None";
+    QTest::newRow("nowhere") << MapRef(PlexMap) << 4 << -1 << QString();
+    QTest::newRow("0 in a map without it") << MapRef(PlexMap) << 0 << -1 << QString();
+    QTest::newRow("first of equal values")
+        << MapRef(RotateImageMap) << kujn << 1 << "PrinterDefault";
+    QTest::newRow("negative") << MapRef(WatermarkMap) << -8 << 5 << "Edit...";
+    QTest::newRow("unset") << MapRef(contextMap) << kUnset << 2 << "Duplex";
+    QTest::newRow("in an empty map") << MapRef(emptyMap) << 1 << -1 << QString();
+}
+
+void TestSettingMaps::findsRowsByValue()
+{
+    QFETCH(MapRef, map);
+    QFETCH(int, value);
+    QFETCH(int, row);
+    QFETCH(QString, key);
+    QCOMPARE(TicketToUI(map, value), row);
+    QCOMPARE(QString::fromUtf8(LocalizedKeyForTicketValue(map, value)), key);
+}
+
+void TestSettingMaps::findsAGatedRowOnlyWhenItsFeatureIsInItsState()
+{
+    QCOMPARE(TicketToUI(JobTypeMap, 5), -1);
+    QCOMPARE(TicketToUI(withoutFaxMap, 1), 1);
+    installFax();
+    QCOMPARE(TicketToUI(JobTypeMap, 5), 6);
+    QCOMPARE(TicketToUI(withoutFaxMap, 1), -1);
+}
+
+void TestSettingMaps::countsSkippedRowsToo()
+{
+    Menu menu;
+    QCOMPARE(PopulateMenuFromMap(m_bundle, menu, JobTypeMap, kJobContextJob, kNoCommand), 6);
+    QCOMPARE(menu.items.size(), std::size_t(5));
+    QCOMPARE(menu.items.back().key, QStringLiteral("Save to Mailbox Command"));
+
+    installFax();
+    Menu withFax;
+    QCOMPARE(PopulateMenuFromMap(m_bundle, withFax, withoutFaxMap, kJobContextJob, kNoCommand), 2);
+    QCOMPARE(described(withFax), QStringList{QStringLiteral("Fax|2|%1").arg(fourCharCode("FaxC"))});
+}
+
+void TestSettingMaps::saysUnsetInTheWordsOfItsContext()
+{
+    const auto secondText = [this](JobContext context) {
+        Menu menu;
+        PopulateMenuFromMap(m_bundle, menu, contextMap, context, fourCharCode("Over"));
+        return described(menu).value(1);
+    };
+    const QString tail = QStringLiteral("|-2147483648|%1").arg(fourCharCode("Over"));
+    QCOMPARE(secondText(kJobContextJob), QStringLiteral("Printer default") + tail);
+    for (const JobContext context : {kJobContextCovers, kJobContextInserts, kJobContextExceptions})
+        QCOMPARE(secondText(context), QStringLiteral("Use job setting") + tail);
+}
+
+void TestSettingMaps::marksDividersAndKeepsTheMap()
+{
+    Menu menu;
+    menu.items.resize(1); // what stands there stays
+    QCOMPARE(PopulateMenuFromMap(m_bundle, menu, WatermarkMap, kJobContextJob, kNoCommand), 6);
+    QCOMPARE(menu.reference, static_cast<const void *>(WatermarkMap));
+    QCOMPARE(menu.items.size(), std::size_t(7));
+    QVERIFY(menu.items[2].divider && menu.items[2].reference == -5);
+    QVERIFY(!menu.items[3].divider && menu.items[3].reference == -6);
+
+    Menu empty;
+    QCOMPARE(PopulateMenuFromMap(m_bundle, empty, emptyMap, kJobContextJob, kNoCommand), 0);
+    QCOMPARE(empty.reference, static_cast<const void *>(emptyMap));
+}
+
+void TestSettingMaps::missingTextsSaySo()
+{
+    constexpr SettingMap map[] = {{"No text for this one", 3}, kEndOfMap};
+    Menu menu;
+    PopulateMenuFromMap(m_bundle, menu, map, kJobContextJob, kNoCommand);
+    QCOMPARE(described(menu), QStringList{QStringLiteral("STRING NOT FOUND|3|0")});
+    QCOMPARE(localizedText(nullptr, QStringLiteral("On")), QStringLiteral("STRING NOT FOUND"));
+}
+
+void TestSettingMaps::translatesPpdChoicesBothWays_data()
+{
+    QTest::addColumn<QString>("keyword");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("back"); // what the value turns into
+
+    QTest::newRow("plain") << "Duplex"
+                           << "DuplexTumble" << 3 << "DuplexTumble";
+    QTest::newRow("twin name") << "MediaType"
+                               << "CardStock" << 12 << "CardStock";
+    QTest::newRow("twin name of slip sheets") << "KVSlipSheetType"
+                                              << "CardStock" << 12 << "CardStock";
+    QTest::newRow("twin value, upper bin") << "OutputBin"
+                                           << "Bottom" << 5 << "Upper";
+    QTest::newRow("twin value, top bin") << "OutputBin"
+                                         << "TopTray" << 2 << "Top";
+    QTest::newRow("unset") << "OutputBin"
+                           << "PrinterDefault" << int(kUnset) << "PrinterDefault";
+    QTest::newRow("negative") << "KVImageQuality"
+                              << "Lighten5" << -5 << "Lighten5";
+    QTest::newRow("0") << "KVFrontCoverSheet"
+                       << "Auto" << 0 << "Auto";
+    QTest::newRow("another map's value") << "KVEconomode"
+                                         << "None" << 2 << "None";
+    QTest::newRow("custom size") << "PageSize"
+                                 << "Custom" << 75 << "Custom";
+    QTest::newRow("another letter case") << "Duplex"
+                                         << "duplexTumble" << -1 << QString();
+    QTest::newRow("unknown choice") << "KVPunch"
+                                    << "2HolePunchLandscape" << -1 << QString();
+    QTest::newRow("unknown keyword") << "duplex"
+                                     << "None" << -1 << QString();
+}
+
+void TestSettingMaps::translatesPpdChoicesBothWays()
+{
+    QFETCH(QString, keyword);
+    QFETCH(QString, choice);
+    QFETCH(int, value);
+    QFETCH(QString, back);
+    QCOMPARE(PPDTicketValueForChoice(keyword, choice), value);
+    QCOMPARE(PPDChoiceForTicketValue(keyword, value).value_or(QString()), back);
+    QCOMPARE(PPDChoiceForTicketValue(QStringLiteral("MediaType"), 43),
+             std::optional(QStringLiteral("CardStock")));
+}
+
+// The sample device with everything and the table must not drift apart.
+void TestSettingMaps::knowsTheChoicesOfTheFullDevice()
+{
+    const auto ppd =
+        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    QVERIFY(ppd);
+    // Other names of bins that the PPD has under "Top" and "Upper".
+    const QSet<QString> twins = {"OutputBin TopTray", "OutputBin Center", "OutputBin Bottom"};
+    // What panels set by name, without a number.
+    const QSet<QString> numberless = {
+        "StapleLocation SingleLandscape", "StapleLocation DualPortrait",
+        "KVPunch 2HolePunchLandscape",    "KVPunch 3HolePunchLandscape",
+        "KVPunch 4HolePunchLandscape",    "KVFrontCoverSheet None",
+        "KVBackCoverSheet None"};
+    QSet<QString> missing;
+    QSet<QString> unknown;
+    for (const PpdKeywordMap *row = MainKeywordMap; row->keyword; ++row) {
+        const QString keyword = QString::fromUtf8(row->keyword);
+        const PpdOption *option = ppd.value()->findOption(keyword);
+        QVERIFY2(option, row->keyword);
+        for (const PpdChoiceValue *choice = row->choices; choice->choice; ++choice) {
+            if (!option->findChoice(QString::fromUtf8(choice->choice)))
+                missing.insert(keyword + QLatin1Char(' ') + QString::fromUtf8(choice->choice));
+        }
+        for (const PpdChoice &choice : option->choices) {
+            const PpdChoiceValue *known = row->choices;
+            while (known->choice && choice.keyword != QLatin1String(known->choice))
+                ++known;
+            if (!known->choice)
+                unknown.insert(keyword + QLatin1Char(' ') + choice.keyword);
+        }
+    }
+    QCOMPARE(missing, twins);
+    QCOMPARE(unknown, numberless);
+}
+
+QTEST_GUILESS_MAIN(TestSettingMaps)
+#include "test_setting_maps.moc"

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "control.h"
+#include "event.h"
+#include "plugin_abi.h"
+#include "print_session.h"
+
+#include <QPushButton>
+#include <QTemporaryFile>
+#include <QUuid>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <memory>
+#include <unistd.h>
+
+// A window that drives a shell as a print dialog does, by the plug-in's factory.
+class DrivenDialog
+{
+public:
+    DrivenDialog(kelvo::PlugInFactoryFunction factory, const QString &ppd)
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(pane);
+        layout->addWidget(print);
+        layout->addWidget(cancel);
+        kelvo::setWindowButtons(&window, print, cancel);
+        kelvo::sendControlEvents(print);
+        kelvo::sendControlEvents(cancel);
+        session.setPrinter({QStringLiteral("Hall-3"), ppd});
+
+        kelvo::PlugInInstance *plugIn =
+            factory(nullptr, QUuid::fromString(QLatin1String(kelvo::kPDEPlugInTypeUUID)));
+        void *found = nullptr;
+        plugIn->table->QueryInterface(
+            plugIn, QUuid::fromString(QLatin1String(kelvo::kPDEInterfaceUUID)), &found);
+        interface = static_cast<kelvo::PanelInterface *>(found);
+        plugIn->table->Release(plugIn);
+    }
+
+    ~DrivenDialog()
+    {
+        terminate();
+        interface->table->Release(&interface);
+    }
+
+    DrivenDialog(const DrivenDialog &) = delete;
+    DrivenDialog &operator=(const DrivenDialog &) = delete;
+
+    kelvo::OSStatus prologue()
+    {
+        kelvo::OSType creator = 0;
+        kelvo::CFStringRef kind = nullptr;
+        return interface->table->Prologue(&context, &creator, &kind, &title, &maxH, &maxV);
+    }
+    kelvo::OSStatus initialize()
+    {
+        std::uint32_t flags = 0;
+        return interface->table->Initialize(context, &flags, nullptr, pane, &session);
+    }
+    kelvo::OSStatus open() { return interface->table->Open(context); }
+    kelvo::OSStatus close() { return interface->table->Close(context); }
+    kelvo::OSStatus sync(kelvo::SyncDirection direction)
+    {
+        return interface->table->Sync(context, &session, direction);
+    }
+    void terminate()
+    {
+        if (context)
+            interface->table->Terminate(context, kelvo::noErr);
+        context = nullptr;
+    }
+    // Up and in front; false when a step failed.
+    bool begin()
+    {
+        const bool up =
+            prologue() == kelvo::noErr && initialize() == kelvo::noErr && open() == kelvo::noErr;
+        window.show();
+        return up;
+    }
+
+    template <typename T>
+    T *find(kelvo::OSType signature, std::int32_t number)
+    {
+        return kelvo::findControl<T>(&window, {signature, number});
+    }
+
+    QWidget window;
+    QWidget *pane = new QWidget;
+    QPushButton *print = new QPushButton(QStringLiteral("Print"));
+    QPushButton *cancel = new QPushButton(QStringLiteral("Cancel"));
+    kelvo::PrintSession session;
+    kelvo::PanelInterface *interface = nullptr;
+    kelvo::PMPDEContext context = nullptr;
+    kelvo::CFStringRef title = nullptr;
+    std::uint32_t maxH = 0, maxV = 0;
+};
+
+// What goes to standard error while it lives.
+class CapturedErrors
+{
+public:
+    CapturedErrors()
+    {
+        m_file.open();
+        fflush(stderr);
+        m_saved = dup(STDERR_FILENO);
+        dup2(m_file.handle(), STDERR_FILENO);
+    }
+    ~CapturedErrors()
+    {
+        fflush(stderr);
+        dup2(m_saved, STDERR_FILENO);
+        ::close(m_saved);
+    }
+    CapturedErrors(const CapturedErrors &) = delete;
+    CapturedErrors &operator=(const CapturedErrors &) = delete;
+
+    QString text()
+    {
+        fflush(stderr);
+        m_file.seek(0);
+        return QString::fromUtf8(m_file.readAll());
+    }
+
+private:
+    QTemporaryFile m_file;
+    int m_saved = -1;
+};

@@ -1,0 +1,283 @@
+#include "driven_dialog.h"
+
+#include "bundle.h"
+#include "control.h"
+#include "modal_dialog.h"
+#include "popup_button.h"
+#include "ticket.h"
+
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+using namespace kelvo;
+
+namespace {
+
+const QString kPpds = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/");
+const QString kFullDevice = kPpds + QStringLiteral("kelvo-corvane-full.ppd");
+const QString kBareDevice = kPpds + QStringLiteral("kelvo-corvane-bare.ppd");
+const QString kBookletOrderKey = QStringLiteral("com.kelvo.print.AdvancedBookletLayoutOrderStr");
+
+constexpr std::int32_t kBookletOrder = 602, kBanner = 614, kOffset = 616, kFeedEdge = 702;
+
+QUuid uuid(const char *text)
+{
+    return QUuid::fromString(QLatin1String(text));
+}
+
+} // namespace
+
+class TestModule : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void factoryCountsItsReferences();
+    void interfaceCountsItsReferences();
+    void getterLeavesTheFirstSlotsFree();
+    void onlyOurDevicesAreTaken_data();
+    void onlyOurDevicesAreTaken();
+    void advancedShowsTheTicket();
+    void advancedWritesWhatTheUserChose();
+    void advancedKeepsChoicesThatItDoesNotKnow();
+    void advancedDisablesWhatTheDeviceLacks();
+    void aboutNamesTheDevice();
+    void twoDialogsInOneProcess();
+
+private:
+    Bundle *m_bundle = nullptr;
+    PlugInFactoryFunction m_factory = nullptr;
+};
+
+void TestModule::initTestCase()
+{
+    Result<Bundle *> bundle = Bundle::open(QStringLiteral(KELVO_BUILD_DIR "/lib/KelvoPDE.pde"));
+    QVERIFY2(bundle, "the bundle");
+    m_bundle = bundle.value();
+    const auto factory = m_bundle->findFactory(uuid(kPDEPlugInTypeUUID));
+    QVERIFY(factory);
+    QCOMPARE(factory->identifier, uuid("FD10ECA4-9139-48E2-B8BD-507DF7AA6E20"));
+    m_factory = reinterpret_cast<PlugInFactoryFunction>(
+        m_bundle->findFunction(factory->functionName.toLatin1().constData()));
+    QVERIFY2(m_factory, qPrintable(m_bundle->loadError()));
+}
+
+void TestModule::factoryCountsItsReferences()
+{
+    const QUuid factory = uuid("FD10ECA4-9139-48E2-B8BD-507DF7AA6E20");
+    QVERIFY(!m_factory(nullptr, uuid(kPDEInterfaceUUID)));
+    QCOMPARE(plugInInstanceCount(factory), 0);
+
+    PlugInInstance *plugIn = m_factory(nullptr, uuid(kPDEPlugInTypeUUID));
+    QVERIFY(plugIn);
+    QVERIFY(!plugIn->table->reserved);
+    QCOMPARE(plugInInstanceCount(factory), 1);
+
+    void *out = plugIn;
+    QCOMPARE(plugIn->table->QueryInterface(plugIn, uuid(kPDEPlugInTypeUUID), &out),
+             static_cast<OSStatus>(0x80000004U));
+    QVERIFY(!out);
+    QCOMPARE(plugIn->table->QueryInterface(plugIn, uuid(kIUnknownUUID), &out), noErr);
+    QCOMPARE(out, static_cast<void *>(plugIn));
+    QCOMPARE(plugIn->table->AddRef(plugIn), 3U);
+    QCOMPARE(plugIn->table->Release(plugIn), 2U);
+    QCOMPARE(plugIn->table->Release(plugIn), 1U);
+    QCOMPARE(plugInInstanceCount(factory), 1);
+    QCOMPARE(plugIn->table->Release(plugIn), 0U);
+    QCOMPARE(plugInInstanceCount(factory), 0);
+}
+
+void TestModule::interfaceCountsItsReferences()
+{
+    PlugInInstance *plugIn = m_factory(nullptr, uuid(kPDEPlugInTypeUUID));
+    void *out = nullptr;
+    QCOMPARE(plugIn->table->QueryInterface(plugIn, uuid(kPDEInterfaceUUID), &out), noErr);
+    plugIn->table->Release(plugIn); // the interface does not need it
+    auto *interface = static_cast<PanelInterface *>(out);
+
+    QCOMPARE(interface->referenceCount, 1U);
+    QCOMPARE(interface->table->Retain(interface), noErr);
+    QCOMPARE(interface->referenceCount, 2U);
+    PMPlugInAPIVersion version{9, 9, 9, 9};
+    QCOMPARE(interface->table->GetAPIVersion(interface, &version), noErr);
+    QCOMPARE(version.buildMajor, 1U);
+    QCOMPARE(version.buildMinor, 0U);
+    QCOMPARE(version.baseMajor, 1U);
+    QCOMPARE(version.baseMinor, 0U);
+
+    PanelInterface *second = interface;
+    QCOMPARE(second->table->Release(&second), noErr);
+    QVERIFY(!second);
+    QCOMPARE(interface->referenceCount, 1U);
+    QCOMPARE(interface->table->Release(&interface), noErr);
+    QVERIFY(!interface);
+}
+
+void TestModule::getterLeavesTheFirstSlotsFree()
+{
+    const auto getter =
+        reinterpret_cast<PanelInterfaceGetter>(m_bundle->findFunction("GetAdvancedPanelInterface"));
+    QVERIFY(getter);
+    PanelInterface *interface = nullptr;
+    QCOMPARE(getter(&interface), noErr);
+    QVERIFY(!interface->table->Retain && !interface->table->Release
+            && !interface->table->GetAPIVersion);
+    QVERIFY(interface->table->Prologue && interface->table->Terminate);
+    delete interface->table;
+    delete interface;
+}
+
+void TestModule::onlyOurDevicesAreTaken_data()
+{
+    QTest::addColumn<QString>("ppd");
+    QTest::addColumn<bool>("taken");
+
+    const QString tests = QStringLiteral(KELVO_TEST_DATA "/ppds/");
+    QTest::newRow("ours") << kFullDevice << true;
+    QTest::newRow("a longer name") << tests + QStringLiteral("kelvo-lookalike.ppd") << false;
+    QTest::newRow("another maker") << tests + QStringLiteral("other-maker.ppd") << false;
+    QTest::newRow("no PPD") << QString() << false;
+    QTest::newRow("no such file") << kPpds + QStringLiteral("none.ppd") << false;
+}
+
+void TestModule::onlyOurDevicesAreTaken()
+{
+    QFETCH(QString, ppd);
+    QFETCH(bool, taken);
+    CapturedErrors errors;
+    DrivenDialog dialog(m_factory, ppd);
+    QCOMPARE(dialog.prologue(), noErr);
+
+    QCOMPARE(dialog.initialize(), taken ? noErr : kPMInvalidPDEContext);
+
+    QCOMPARE(
+        errors.text().contains(QLatin1String("Initialize()::GetTicketFromSession() failed.\n")),
+        !taken);
+}
+
+void TestModule::advancedShowsTheTicket()
+{
+    DrivenDialog dialog(m_factory, kFullDevice);
+    Ticket &ticket = dialog.session.printSettings();
+    ticket.ppdChoices[QStringLiteral("JCLBanner")] = QStringLiteral("True");
+    QVERIFY(dialog.begin());
+
+    QCOMPARE(dialog.title ? *dialog.title : QString(), QStringLiteral("Device"));
+    const auto value = [&dialog](std::int32_t number) {
+        return dialog.find<PopupButton>(kPanelSignature, number)->chosenReference();
+    };
+    QCOMPARE(value(kBanner), 1);
+    QCOMPARE(value(kOffset), 0);   // the PPD's default
+    QCOMPARE(value(kFeedEdge), 1); // the same
+    QCOMPARE(dialog.find<PopupButton>(kPanelSignature, kBookletOrder)->value(), 1);
+
+    // Another ticket, such as a preset: nothing of the one before stays.
+    ticket.ppdChoices = {{QStringLiteral("KVFeedEdge"), QStringLiteral("ShortEdge")}};
+    QCOMPARE(dialog.sync(kSyncRead), noErr);
+    QCOMPARE(value(kBanner), 0);
+    QCOMPARE(value(kFeedEdge), 2);
+}
+
+void TestModule::advancedWritesWhatTheUserChose()
+{
+    DrivenDialog dialog(m_factory, kFullDevice);
+    QVERIFY(dialog.begin());
+    const auto choose = [&dialog](std::int32_t number, int item) {
+        return dialog.find<PopupButton>(kPanelSignature, number)->choose(item);
+    };
+    const Ticket &ticket = dialog.session.printSettings();
+    QCOMPARE(dialog.sync(kSyncWrite), noErr);
+    QCOMPARE(ticket.entries.at(kBookletOrderKey),
+             (TicketEntry{QVariant::fromValue<qint64>(2),
+                          QStringLiteral("com.kelvo.printingmanager"), false}));
+    const PPDDictionary defaults{{QStringLiteral("JCLBanner"), QStringLiteral("False")},
+                                 {QStringLiteral("Jog"), QStringLiteral("None")},
+                                 {QStringLiteral("KVFeedEdge"), QStringLiteral("LongEdge")}};
+    QCOMPARE(ticket.ppdChoices, defaults);
+
+    QVERIFY(choose(kBookletOrder, 2));
+    QVERIFY(choose(kBanner, 2));
+    QVERIFY(choose(kOffset, 2));
+    QVERIFY(choose(kFeedEdge, 2));
+    QCOMPARE(ticket.ppdChoices, defaults); // not before the dialog asks
+    QCOMPARE(dialog.sync(kSyncWrite), noErr);
+
+    QCOMPARE(ticket.ppdChoices,
+             (PPDDictionary{{QStringLiteral("JCLBanner"), QStringLiteral("True")},
+                            {QStringLiteral("Jog"), QStringLiteral("EndOfSet")},
+                            {QStringLiteral("KVFeedEdge"), QStringLiteral("ShortEdge")}}));
+    QCOMPARE(PMTicketGetCFNumber(dialog.session.printSettingsTicket(), kBookletOrderKey),
+             std::optional<std::int64_t>(fourCharCode("Kujn")));
+}
+
+void TestModule::advancedKeepsChoicesThatItDoesNotKnow()
+{
+    DrivenDialog dialog(m_factory, kFullDevice);
+    PPDDictionary &choices = dialog.session.printSettings().ppdChoices;
+    choices[QStringLiteral("Jog")] = QStringLiteral("EveryPage");
+    QVERIFY(dialog.begin());
+
+    QCOMPARE(dialog.sync(kSyncWrite), noErr);
+
+    QCOMPARE(choices.value(QStringLiteral("Jog")), QStringLiteral("EveryPage"));
+    QCOMPARE(choices.value(QStringLiteral("JCLBanner")), QStringLiteral("False"));
+}
+
+void TestModule::advancedDisablesWhatTheDeviceLacks()
+{
+    CapturedErrors errors;
+    DrivenDialog dialog(m_factory, kBareDevice);
+    QVERIFY(dialog.begin());
+
+    const auto *feedEdge = dialog.find<PopupButton>(kPanelSignature, kFeedEdge);
+    QCOMPARE(feedEdge->menu().items.size(), 0U);
+    QVERIFY(!feedEdge->isEnabled());
+    QVERIFY(!dialog.find<QLabel>(kPanelSignature, 701)->isEnabled());
+    QVERIFY(errors.text().contains(QLatin1String("Expected PPD option not found: KVFeedEdge")));
+    QVERIFY(dialog.find<PopupButton>(kPanelSignature, kBookletOrder)->isEnabled());
+    QCOMPARE(dialog.sync(kSyncWrite), noErr);
+    QVERIFY(!dialog.session.printSettings().ppdChoices.contains(QStringLiteral("KVFeedEdge")));
+}
+
+void TestModule::aboutNamesTheDevice()
+{
+    DrivenDialog dialog(m_factory, kFullDevice);
+    QVERIFY(dialog.begin());
+    QStringList texts;
+    QTimer::singleShot(0, this, [&texts] {
+        QWidget *box = frontWindow();
+        const QList<QLabel *> labels = box->findChildren<QLabel *>();
+        for (const QLabel *label : labels)
+            texts << label->text();
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+
+    dialog.find<QPushButton>(kPanelSignature, 670)->click();
+
+    QVERIFY2(texts.contains(QStringLiteral("Current device: Kelvo Corvane C90")),
+             qPrintable(texts.join(QLatin1Char('|'))));
+    QVERIFY(texts.contains(QStringLiteral("Version 1.0.0")));
+}
+
+void TestModule::twoDialogsInOneProcess()
+{
+    for (const QString &device : {kFullDevice, kBareDevice}) {
+        CapturedErrors errors;
+        DrivenDialog dialog(m_factory, device);
+        QVERIFY(dialog.begin());
+        QCOMPARE(dialog.find<PopupButton>(kPanelSignature, kFeedEdge)->isEnabled(),
+                 device == kFullDevice);
+        // The same window with another printer: nothing of the first is left.
+        dialog.terminate();
+        QVERIFY(!dialog.find<PopupButton>(kPanelSignature, kFeedEdge));
+        dialog.session.setPrinter({QStringLiteral("Hall-4"), kFullDevice});
+        QVERIFY(dialog.begin());
+        QVERIFY(dialog.find<PopupButton>(kPanelSignature, kFeedEdge)->isEnabled());
+    }
+}
+
+QTEST_MAIN(TestModule)
+#include "test_module.moc"

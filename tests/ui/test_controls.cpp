@@ -1,0 +1,463 @@
+#include "control.h"
+#include "event_log.h"
+#include "menu_button.h"
+#include "popup_button.h"
+#include "radio_group.h"
+#include "tab_control.h"
+
+#include <QAbstractItemView>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <limits>
+
+using namespace kelvo;
+
+namespace {
+
+MenuItem item(const char *text, std::int32_t reference, OSType command = kNoCommand)
+{
+    MenuItem made;
+    made.text = QString::fromUtf8(text);
+    made.reference = reference;
+    made.command = command;
+    return made;
+}
+
+MenuItem divider()
+{
+    MenuItem made;
+    made.divider = true;
+    return made;
+}
+
+MenuItem disabled(MenuItem made)
+{
+    made.enabled = false;
+    return made;
+}
+
+MenuItem submenu(const char *text, std::vector<MenuItem> items)
+{
+    MenuItem made = item(text, 0);
+    made.submenu = std::move(items);
+    return made;
+}
+
+// 1 disabled, 2 "Plain" 10, 3 divider, 4 disabled, 5 "Edit..." 20 'Edit', 6 divider
+Menu stockMenu()
+{
+    return {{disabled(item("Away", 5)), item("Plain", 10), divider(), disabled(item("Gone", 15)),
+             item("Edit...", 20, fourCharCode("Edit")), divider()},
+            nullptr};
+}
+
+void turnWheel(QWidget *control, int steps)
+{
+    const QPointF middle = QRectF(control->rect()).center();
+    QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, QPoint(0, steps * 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(control, &wheel);
+}
+
+} // namespace
+
+class TestControls : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aControlIDHasOneSpelling_data();
+    void aControlIDHasOneSpelling();
+    void theNearestControlIsFoundButNotThroughADialog();
+    void aPropertyIsKeptUnderCreatorAndTag();
+    void aLabelFollowsItsControl();
+    void aHiddenControlIsEmbeddedHidden();
+
+    void aNewMenuShowsItsFirstChoosableItem();
+    void aPopupSendsMenuCommandAndHitInThisOrder();
+    void whatCannotBeChosenIsNot_data();
+    void whatCannotBeChosenIsNot();
+    void keysAndWheelSkipWhatCannotBeChosen();
+    void theWheelNeedsTheFocus();
+    void aReferenceIsFoundAtItsFirstItem();
+    void aHandlerMayFillTheMenuAnew();
+    void aLongTextDoesNotWidenThePopup();
+
+    void aMenuButtonOffersWhatItsUpdateLeaves();
+    void aMenuButtonRefusesWhatIsNotOffered();
+
+    void aRadioGroupCountsInLayoutOrder();
+    void aTabControlTellsTheUsersChangesOnly();
+};
+
+void TestControls::aControlIDHasOneSpelling_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isValid");
+    QTest::newRow("usual") << "KPDE 102" << true;
+    QTest::newRow("a blank in the signature") << "K PD 1" << true;
+    QTest::newRow("greatest number") << "KPDE 2147483647" << true;
+    QTest::newRow("one more") << "KPDE 2147483648" << false;
+    QTest::newRow("least number") << "KPDE -2147483648" << true;
+    QTest::newRow("three characters") << "KPD 102" << false;
+    QTest::newRow("five characters") << "KPDEE 102" << false;
+    QTest::newRow("not ASCII") << QString::fromUtf8("KPD\xC3\x89 102") << false;
+    QTest::newRow("control character") << "KP\tE 102" << false;
+    QTest::newRow("leading zero") << "KPDE 0102" << false;
+    QTest::newRow("plus sign") << "KPDE +102" << false;
+    QTest::newRow("two blanks") << "KPDE  102" << false;
+    QTest::newRow("no number") << "KPDE " << false;
+    QTest::newRow("hexadecimal") << "KPDE 0x10" << false;
+}
+
+void TestControls::aControlIDHasOneSpelling()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isValid);
+    const auto id = controlIDFromText(text);
+    QCOMPARE(id.has_value(), isValid);
+    if (id)
+        QCOMPARE(textOf(*id), text);
+}
+
+void TestControls::theNearestControlIsFoundButNotThroughADialog()
+{
+    const ControlID id{kPanelSignature, 602};
+    QWidget window;
+    QWidget left(&window), right(&window);
+    QPushButton leftButton(&left), rightButton(&right), rightLabel(&right);
+    QWidget dialog(&window, Qt::Dialog);
+    QPushButton inDialog(&dialog);
+    setControlID(&leftButton, id);
+    setControlID(&rightButton, id);
+    setControlID(&inDialog, {kPanelSignature, 700});
+
+    QCOMPARE(findControl(&left, id), &leftButton);
+    QCOMPARE(findControl(&rightLabel, id), &rightButton);
+    QCOMPARE(findControl<QPushButton>(&window, id), &leftButton);
+    QVERIFY(!findControl<QLabel>(&window, id));
+    QVERIFY(!findControl(&left, {kPanelSignature, 700}));
+    QCOMPARE(findControl(&dialog, {kPanelSignature, 700}), &inDialog);
+    QVERIFY(!findControl(&dialog, id));
+}
+
+void TestControls::aPropertyIsKeptUnderCreatorAndTag()
+{
+    QWidget control;
+    const OSType creator = fourCharCode("KCMB");
+    const OSType tag = fourCharCode("ctxt");
+    QVERIFY(!controlProperty(&control, creator, tag));
+    setControlProperty(&control, creator, tag, QVariant()); // a value too
+    QVERIFY(controlProperty(&control, creator, tag).has_value());
+    setControlProperty(&control, creator, tag, 7);
+    setControlProperty(&control, tag, creator, 8);
+    QCOMPARE(controlProperty(&control, creator, tag), std::optional<QVariant>(7));
+    removeControlProperty(&control, creator, tag);
+    QVERIFY(!controlProperty(&control, creator, tag));
+    QCOMPARE(controlProperty(&control, tag, creator), std::optional<QVariant>(8));
+}
+
+void TestControls::aLabelFollowsItsControl()
+{
+    QWidget window;
+    QWidget pane(&window);
+    QLabel away(&window), stranger(&pane);
+    QPushButton control(&pane);
+    away.setBuddy(&control);
+    QCOMPARE(labelOf(&control), &away);
+    setEnabledWithLabel(&control, false);
+    setVisibleWithLabel(&control, false);
+    QVERIFY(!control.isEnabled() && !away.isEnabled() && stranger.isEnabled());
+    QVERIFY(control.isHidden() && away.isHidden() && !stranger.isHidden());
+}
+
+void TestControls::aHiddenControlIsEmbeddedHidden()
+{
+    QWidget window;
+    window.show();
+    auto *control = new QPushButton;
+    control->hide();
+    QCOMPARE(embedControl(control, &window), noErr);
+    QCoreApplication::processEvents();
+    QVERIFY(control->isHidden());
+    QCOMPARE(control->parentWidget(), &window);
+    QCOMPARE(embedControl(nullptr, &window), paramErr);
+    QCOMPARE(embedControl(control, nullptr), paramErr);
+}
+
+void TestControls::aNewMenuShowsItsFirstChoosableItem()
+{
+    PopupButton popup;
+    EventLog log(&popup);
+    QCOMPARE(popup.chosenReference(), std::numeric_limits<std::int32_t>::min());
+    popup.setMenu(stockMenu());
+    QCOMPARE(popup.value(), 2);
+    QCOMPARE(popup.chosenReference(), 10);
+    QCOMPARE(popup.maximum(), 6);
+    popup.setMaximum(9);
+    QCOMPARE(popup.count(), 6);
+    QCOMPARE(controlMaximum(&popup), std::optional(9));
+    popup.setValue(7);
+    QCOMPARE(popup.value(), 0);
+    popup.setMenu({{divider(), disabled(item("None", 1))}, nullptr});
+    QCOMPARE(popup.value(), 0);
+    QCOMPARE(popup.chosenReference(), std::numeric_limits<std::int32_t>::min());
+    QCOMPARE(log.take(), QStringList());
+}
+
+void TestControls::aPopupSendsMenuCommandAndHitInThisOrder()
+{
+    PopupButton popup;
+    popup.setMenu(stockMenu());
+    EventLog log(&popup);
+    QVERIFY(popup.choose(5));
+    QCOMPARE(log.take(), (QStringList{"Menu 'Edit' 20", "Command 'Edit' 20", "ControlHit"}));
+    QCOMPARE(popup.value(), 5);
+    QVERIFY(popup.choose(5)); // "Edit..." twice edits twice
+    QCOMPARE(log.take().size(), 3);
+    QVERIFY(popup.choose(2));
+    QCOMPARE(log.take(), (QStringList{"Menu 10", "ControlHit"}));
+}
+
+void TestControls::whatCannotBeChosenIsNot_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::newRow("before the first") << 0;
+    QTest::newRow("disabled") << 1;
+    QTest::newRow("divider") << 3;
+    QTest::newRow("after the last") << 7;
+}
+
+void TestControls::whatCannotBeChosenIsNot()
+{
+    QFETCH(int, value);
+    PopupButton popup;
+    popup.setMenu(stockMenu());
+    EventLog log(&popup);
+    QVERIFY(!popup.choose(value));
+    popup.setEnabled(false);
+    QVERIFY(!popup.choose(5));
+    QCOMPARE(popup.value(), 2);
+    QCOMPARE(log.take(), QStringList());
+}
+
+void TestControls::keysAndWheelSkipWhatCannotBeChosen()
+{
+    PopupButton popup;
+    popup.setMenu(stockMenu());
+    popup.show();
+    popup.activateWindow();
+    popup.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&popup));
+    EventLog log(&popup);
+
+    QTest::keyClick(&popup, Qt::Key_Down);
+    QCOMPARE(popup.value(), 5);
+    QCOMPARE(log.take().size(), 3);
+    QTest::keyClick(&popup, Qt::Key_Down); // only a divider is left
+    QTest::keyClick(&popup, Qt::Key_End);
+    QCOMPARE(popup.value(), 5);
+    QTest::keyClick(&popup, Qt::Key_G); // "Gone" is disabled
+    QCOMPARE(popup.value(), 5);
+    QTest::keyClick(&popup, Qt::Key_Home);
+    QCOMPARE(popup.value(), 2);
+    log.take();
+    turnWheel(&popup, -1);
+    QCOMPARE(popup.value(), 5);
+    turnWheel(&popup, -1);
+    QCOMPARE(popup.value(), 5);
+    QCOMPARE(log.take().size(), 3);
+
+    popup.showPopup();
+    QTest::mouseClick(popup.view()->viewport(), Qt::LeftButton, {},
+                      popup.view()->visualRect(popup.model()->index(3, 0)).center());
+    popup.hidePopup();
+    QCOMPARE(popup.value(), 5);
+    QCOMPARE(log.take(), QStringList());
+}
+
+void TestControls::theWheelNeedsTheFocus()
+{
+    QWidget window;
+    auto *column = new QVBoxLayout(&window);
+    auto *popup = new PopupButton;
+    auto *button = new QPushButton;
+    column->addWidget(button);
+    column->addWidget(popup);
+    popup->setMenu(stockMenu());
+    window.show();
+    button->setFocus();
+    turnWheel(popup, -1);
+    QCOMPARE(popup->value(), 2);
+    QVERIFY(!popup->hasFocus());
+}
+
+void TestControls::aReferenceIsFoundAtItsFirstItem()
+{
+    PopupButton popup;
+    popup.setMenu({{item("On", 7), item("Off", 7), item("Auto", 8)}, nullptr});
+    popup.setValue(3);
+    QVERIFY(popup.setValueByReference(7));
+    QCOMPARE(popup.value(), 1);
+    QVERIFY(!popup.setValueByReference(9));
+    QCOMPARE(popup.value(), 1);
+}
+
+void TestControls::aHandlerMayFillTheMenuAnew()
+{
+    auto *popup = new PopupButton;
+    popup->setMenu(stockMenu());
+    QStringList seen;
+    const auto handler = installEventHandler(popup, [&](const Event &event) {
+        seen.append(QString::number(event.reference));
+        if (event.kind == EventKind::Menu)
+            popup->setMenu({});
+        if (event.kind == EventKind::Command)
+            delete popup;
+        return noErr;
+    });
+    QVERIFY(popup->choose(5));
+    QCOMPARE(seen, (QStringList{"20", "20"}));
+}
+
+void TestControls::aLongTextDoesNotWidenThePopup()
+{
+    PopupButton popup;
+    popup.setMenu({{item("Short", 1)}, nullptr});
+    const int least = popup.minimumSizeHint().width();
+    const QString longText = QStringLiteral("<b>A very</b> long\nchoice ").repeated(20);
+    popup.setMenu({{item(qPrintable(longText), 1)}, nullptr});
+    QCOMPARE(popup.minimumSizeHint().width(), least);
+    QVERIFY(popup.sizeHint().width() < popup.fontMetrics().horizontalAdvance(longText) / 5);
+    QVERIFY(!popup.currentText().contains(u'\n'));
+
+    popup.show();
+    QHelpEvent help(QEvent::ToolTip, {5, 5}, popup.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&popup, &help);
+    QCOMPARE(QToolTip::text(),
+             QStringLiteral("<qt>%1</qt>").arg(popup.currentText().toHtmlEscaped()));
+}
+
+void TestControls::aMenuButtonOffersWhatItsUpdateLeaves()
+{
+    MenuButton button;
+    button.setMenu(
+        {{item("Options & more", 1, fourCharCode("KWmO")), divider(),
+          submenu("Print on",
+                  {item("All", 4, fourCharCode("KWmA")), item("First", 5, fourCharCode("KWm1"))})},
+         nullptr});
+    QCOMPARE(button.maximum(), 3);
+    button.setMenuUpdate([](Menu &menu) {
+        findItem(menu, fourCharCode("KWmA"))->checked = true;
+        findItem(menu, fourCharCode("KWmO"))->enabled = false;
+    });
+    EventLog log(&button);
+
+    QMenu *shown = button.QPushButton::menu();
+    emit shown->aboutToShow();
+    emit shown->aboutToShow(); // again: nothing is left from before
+    const QList<QAction *> actions = shown->actions();
+    QCOMPARE(actions.size(), 3);
+    QCOMPARE(actions[0]->text(), "Options && more");
+    QVERIFY(!actions[0]->isEnabled());
+    QVERIFY(actions[1]->isSeparator());
+    const QList<QAction *> inner = actions[2]->menu()->actions();
+    QVERIFY(inner[0]->isChecked() && !inner[1]->isChecked());
+    QCOMPARE(log.take(), QStringList());
+    inner[1]->trigger();
+    QCOMPARE(log.take(), (QStringList{"Menu 'KWm1' 5", "Command 'KWm1' 5"}));
+}
+
+void TestControls::aMenuButtonRefusesWhatIsNotOffered()
+{
+    MenuButton button;
+    MenuItem closed = submenu("Closed", {item("Inside", 3)});
+    closed.enabled = false;
+    button.setMenu(
+        {{disabled(item("Off", 1)), divider(), submenu("Open", {item("Inside", 2)}), closed},
+         nullptr});
+    EventLog log(&button);
+    const std::vector<MenuItem> &items = button.menu().items;
+    QVERIFY(!button.choose(items[0]));
+    QVERIFY(!button.choose(items[1]));
+    QVERIFY(!button.choose(items[2]));
+    QVERIFY(!button.choose(items[3].submenu[0]));
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(button.choose(items[2].submenu[0]));
+    QCOMPARE(log.take(), QStringList{"Menu 2"});
+    button.setEnabled(false);
+    QVERIFY(!button.choose(items[2].submenu[0]));
+}
+
+void TestControls::aRadioGroupCountsInLayoutOrder()
+{
+    RadioGroup group;
+    auto *column = new QVBoxLayout(&group);
+    auto *row = new QHBoxLayout;
+    auto *last = new QRadioButton(&group);
+    auto *first = new QRadioButton(&group);
+    column->addLayout(row);
+    row->addWidget(first);
+    column->addWidget(last);
+    QRadioButton *third = group.addButton("Third");
+    EventLog log(&group);
+
+    QCOMPARE(group.count(), 3);
+    QCOMPARE(group.value(), 0);
+    group.setValue(2);
+    QVERIFY(last->isChecked());
+    group.setValue(3);
+    QVERIFY(third->isChecked() && !last->isChecked());
+    group.setValue(0);
+    QCOMPARE(group.value(), 0);
+    QCOMPARE(log.take(), QStringList());
+
+    first->click();
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    QCOMPARE(group.value(), 1);
+    QVERIFY(group.choose(2));
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    third->setEnabled(false);
+    QVERIFY(!group.choose(3));
+    QVERIFY(!group.choose(4));
+    QCOMPARE(group.value(), 2);
+}
+
+void TestControls::aTabControlTellsTheUsersChangesOnly()
+{
+    TabControl tabs;
+    EventLog log(&tabs);
+    tabs.setTitles({"One", "Two", "Three"});
+    tabs.setValue(3);
+    tabs.setTitles({"Eins", "Zwei", "Drei"});
+    QCOMPARE(tabs.value(), 3);
+    tabs.setValue(1);
+    QCOMPARE(log.take(), QStringList());
+
+    tabs.resize(tabs.sizeHint());
+    tabs.show();
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    QCOMPARE(tabs.value(), 2);
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    QTest::keyClick(&tabs, Qt::Key_Right);
+    QCOMPARE(tabs.value(), 3);
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    turnWheel(&tabs, 1);
+    QCOMPARE(tabs.value(), 3);
+    tabs.setTabEnabled(0, false);
+    QVERIFY(!tabs.choose(1));
+    QVERIFY(!tabs.choose(4));
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(tabs.choose(2));
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+}
+
+QTEST_MAIN(TestControls)
+#include "test_controls.moc"

@@ -1,0 +1,334 @@
+#include "event_log.h"
+#include "help_window.h"
+#include "modal_dialog.h"
+#include "notice.h"
+#include "picture_view.h"
+#include "spin_field.h"
+#include "summary_view.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace kelvo;
+
+class TestDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void okAsksTheRuleAndCancelDoesNot();
+    void okTakesTheTypedValueFirst();
+    void escapeAndReturnPressCancelAndOk();
+    void nestedDialogsAreTheFrontWindowInTurn();
+    void anAlertAnswersWithItsButton_data();
+    void anAlertAnswersWithItsButton();
+    void aNoticeHasOneButtonForEveryKey();
+    void aNoticeShowsTextsAsTheyAre();
+    void theHelpWindowShowsTheBooksFilesOnly();
+    void thePictureFillsWhatFits();
+    void aNameIsNeverAPath();
+};
+
+namespace {
+
+// A window with a spin field, an OK and a Cancel button.
+struct Sample
+{
+    Sample()
+        : content(new QWidget)
+        , column(new QVBoxLayout(content))
+        , spin(new SpinField)
+        , ok(button("OK", "ok  "))
+        , cancel(button("Cancel", "not!"))
+        , dialog(content, nullptr)
+    {
+        column->addWidget(spin);
+    }
+
+    QPushButton *button(const char *text, const char *command)
+    {
+        auto *made = new QPushButton(text);
+        column->addWidget(made);
+        made->setProperty("command", command);
+        sendControlEvents(made);
+        return made;
+    }
+
+    // Runs the dialog and does these one after the other while it runs.
+    DialogResult run(const std::vector<std::function<void()>> &actions)
+    {
+        int delay = 0;
+        for (const auto &action : actions)
+            QTimer::singleShot(delay += 20, &dialog, action);
+        return dialog.runModal();
+    }
+
+    QWidget *content;
+    QVBoxLayout *column;
+    SpinField *spin;
+    QPushButton *ok;
+    QPushButton *cancel;
+    ModalDialog dialog;
+};
+
+void press(Qt::Key key)
+{
+    QWidget *window = QApplication::activeModalWidget();
+    QWidget *focus = window->focusWidget();
+    QTest::keyClick(focus ? focus : window, key);
+}
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+} // namespace
+
+void TestDialogs::okAsksTheRuleAndCancelDoesNot()
+{
+    Sample sample;
+    int asked = 0;
+    sample.dialog.setAcceptRule([&asked] { return ++asked > 1; });
+    QStringList states;
+    const auto note = [&] { states.append(sample.dialog.isVisible() ? "open" : "closed"); };
+    QCOMPARE(sample.run({[&] { sample.ok->click(), note(); }, [&] { sample.ok->click(), note(); }}),
+             DialogResult::OK);
+    QCOMPARE(states, (QStringList{"open", "closed"}));
+    QCOMPARE(sample.run({[&] { sample.cancel->click(); }}), DialogResult::Cancel);
+    QCOMPARE(sample.run({[&] { sample.dialog.close(); }}), DialogResult::Cancel);
+    QCOMPARE(asked, 2);
+}
+
+void TestDialogs::okTakesTheTypedValueFirst()
+{
+    Sample sample;
+    int seen = -1;
+    sample.dialog.setAcceptRule([&] {
+        seen = sample.spin->value();
+        return true;
+    });
+    // And a value that makes OK impossible keeps the dialog open.
+    const auto handler = installEventHandler(&sample.dialog, [&](const Event &event) {
+        if (event.source == sample.spin && event.kind == EventKind::ControlHit)
+            sample.ok->setEnabled(sample.spin->value() != 13);
+        return eventNotHandledErr;
+    });
+    QCOMPARE(sample.run({[&] { sample.spin->typeText("13"); },
+                         [&] { sendCommand(&sample.dialog, kCommandOK); },
+                         [&] {
+                             QVERIFY(sample.dialog.isVisible());
+                             QCOMPARE(seen, -1);
+                             sample.spin->typeText("42");
+                             sample.ok->setEnabled(true);
+                         },
+                         [&] { sample.ok->click(); }}),
+             DialogResult::OK);
+    QCOMPARE(seen, 42);
+}
+
+void TestDialogs::escapeAndReturnPressCancelAndOk()
+{
+    Sample sample;
+    QCOMPARE(sample.run({[] { press(Qt::Key_Return); }}), DialogResult::OK);
+    QCOMPARE(sample.run({[] { press(Qt::Key_Escape); }}), DialogResult::Cancel);
+    QCOMPARE(windowDefaultButton(sample.spin), sample.ok);
+    QCOMPARE(windowCancelButton(sample.spin), sample.cancel);
+}
+
+void TestDialogs::nestedDialogsAreTheFrontWindowInTurn()
+{
+    QWidget print;
+    QVERIFY(!frontWindow());
+    setPrintWindow(&print);
+    print.show();
+    QCOMPARE(frontWindow(), &print);
+    Sample outer;
+    QVERIFY(outer.dialog.parentWidget() == &print);
+    outer.run({[&] {
+        QCOMPARE(frontWindow(), &outer.dialog);
+        Sample inner;
+        inner.run({[&] {
+            QCOMPARE(frontWindow(), &inner.dialog);
+            QCOMPARE(inner.dialog.parentWidget(), &outer.dialog);
+            inner.ok->click();
+        }});
+        QCOMPARE(frontWindow(), &outer.dialog);
+        outer.ok->click();
+    }});
+    QCOMPARE(frontWindow(), &print);
+}
+
+void TestDialogs::anAlertAnswersWithItsButton_data()
+{
+    QTest::addColumn<QStringList>("buttons");
+    QTest::addColumn<int>("pressed"); // 0: Escape, -1: Return
+    QTest::addColumn<int>("answer");
+    const QStringList two{"Delete", "Cancel"};
+    const QStringList three{"Save", "Cancel", "Do Not Save"};
+    QTest::newRow("first of two") << two << 1 << 1;
+    QTest::newRow("second of two") << two << 2 << 2;
+    QTest::newRow("third") << three << 3 << 3;
+    QTest::newRow("Escape is the second of two") << two << 0 << 2;
+    QTest::newRow("Escape is the second of three") << three << 0 << 2;
+    QTest::newRow("Return is the first") << three << -1 << 1;
+}
+
+void TestDialogs::anAlertAnswersWithItsButton()
+{
+    QFETCH(QStringList, buttons);
+    QFETCH(int, pressed);
+    QFETCH(int, answer);
+    QVERIFY(!answerNotice(1));
+    ShownNotice shown;
+    QTimer::singleShot(20, qApp, [&] {
+        shown = frontNotice();
+        QVERIFY(!answerNotice(0));
+        QVERIFY(!answerNotice(static_cast<int>(buttons.size()) + 1));
+        if (pressed > 0)
+            QVERIFY(answerNotice(pressed));
+        else
+            press(pressed == 0 ? Qt::Key_Escape : Qt::Key_Return);
+    });
+    QCOMPARE(CFUserNotificationDisplayAlert(NoticeLevel::Caution, "Header", "Message", buttons),
+             answer);
+    QCOMPARE(shown.header, "Header");
+    QCOMPARE(shown.message, "Message");
+    QCOMPARE(shown.buttons, buttons);
+    QVERIFY(!frontNotice().isShown());
+}
+
+void TestDialogs::aNoticeHasOneButtonForEveryKey()
+{
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+        QStringList buttons;
+        QTimer::singleShot(20, qApp, [&] {
+            buttons = frontNotice().buttons;
+            press(key);
+        });
+        CFUserNotificationDisplayNotice(NoticeLevel::Note, "Header", "Message");
+        QCOMPARE(buttons, QStringList{"OK"});
+    }
+}
+
+void TestDialogs::aNoticeShowsTextsAsTheyAre()
+{
+    QString header;
+    QTimer::singleShot(20, qApp, [&] {
+        const auto labels = QApplication::activeModalWidget()->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->text().startsWith(u'<')) {
+                header = label->text();
+                QCOMPARE(label->textFormat(), Qt::PlainText);
+            }
+        }
+        // However long the message is, the buttons can be reached.
+        QVERIFY(QApplication::activeModalWidget()->height()
+                < QGuiApplication::primaryScreen()->availableGeometry().height());
+        answerNotice(1);
+    });
+    CFUserNotificationDisplayNotice(
+        NoticeLevel::Stop, "<b>Hall-3</b>",
+        QStringLiteral("Staple and transparency clash.\n").repeated(200));
+    QCOMPARE(header, "<b>Hall-3</b>");
+}
+
+void TestDialogs::theHelpWindowShowsTheBooksFilesOnly()
+{
+    QTemporaryDir folder;
+    QCOMPARE(DisplayHelp(), fnfErr);
+    QCOMPARE(AHRegisterHelpBook(nullptr), paramErr);
+    writeFile(folder.filePath("help/index.html"), "<title>Contents</title>start");
+    writeFile(folder.filePath("help/shell/advanced.html"), "<title>Advanced</title>advanced");
+    writeFile(folder.filePath("outside.html"), "outside");
+    QVERIFY(QFile::link(folder.filePath("outside.html"), folder.filePath("help/link.html")));
+    addHelpFolder(folder.filePath("help"));
+
+    QCOMPARE(DisplayHelp("none.html"), fnfErr);
+    QCOMPARE(DisplayHelp("../outside.html"), fnfErr);
+    QCOMPARE(DisplayHelp("link.html"), fnfErr);
+    QCOMPARE(DisplayHelp("shell"), fnfErr);
+    QCOMPARE(DisplayHelp("shell/advanced.html#end"), noErr);
+    QPointer<QWidget> window;
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (top->objectName() == "helpWindow")
+            window = top;
+    }
+    QVERIFY(window && window->isVisible() && !window->isModal());
+    QCOMPARE(window->windowTitle(), "Advanced");
+    auto *browser = window->findChild<QTextBrowser *>();
+    QCOMPARE(browser->toPlainText(), "advanced");
+
+    browser->setSource(QUrl("../../outside.html"));
+    browser->setSource(QUrl("https://example.org/"));
+    QCOMPARE(browser->toPlainText(), "advanced");
+    browser->setSource(QUrl("../index.html"));
+    QCOMPARE(browser->toPlainText(), "start");
+    browser->backward();
+    QCOMPARE(browser->toPlainText(), "advanced");
+
+    // From a modal dialog it can be used, and it outlives the dialog.
+    {
+        Sample sample;
+        sample.run({[&] {
+            sendCommand(&sample.dialog, kCommandHelp);
+            QCOMPARE(browser->toPlainText(), "start");
+            QCOMPARE(window->parentWidget(), &sample.dialog);
+            sample.ok->click();
+        }});
+    }
+    QVERIFY(window && window->isVisible());
+    QCOMPARE(window->parentWidget(), nullptr);
+}
+
+void TestDialogs::thePictureFillsWhatFits()
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath("pictures/Paper_Plain-Blue.svg");
+    writeFile(file, R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="10">
+<rect width="20" height="10" fill="#0000ff"/></svg>)");
+    writeFile(folder.filePath("pictures/broken.svg"), "<svg");
+    QCOMPARE(pictureFile(folder.path(), "Paper_Plain-Blue.gif"), file);
+    QCOMPARE(pictureFile(folder.path(), "None.gif"), "");
+    QVERIFY(!pictureIcon(folder.path(), "Paper_Plain-Blue.gif").isNull());
+    QVERIFY(pictureIcon(folder.path(), "broken.png").isNull());
+
+    PictureView view;
+    view.setPictures({folder.filePath("missing.svg"), file}, "Blue paper");
+    QCOMPARE(view.sizeHint(), QSize(20, 10));
+    QCOMPARE(view.accessibleName(), "Blue paper");
+    view.resize(100, 100); // 100 by 50, in the middle
+    const auto colourAt = [&view](int y) { return view.grab().toImage().pixelColor(50, y); };
+    QCOMPARE(colourAt(50), QColor(0, 0, 255));
+    QCOMPARE(colourAt(27), QColor(0, 0, 255));
+    QVERIFY(colourAt(22) != QColor(0, 0, 255));
+    view.setEnabled(false);
+    QVERIFY(colourAt(50).red() > 50);
+}
+
+void TestDialogs::aNameIsNeverAPath()
+{
+    QTemporaryDir folder;
+    writeFile(folder.filePath("secret.svg"), "<svg/>");
+    QVERIFY(QDir().mkpath(folder.filePath("pictures")));
+    QCOMPARE(pictureFile(folder.path(), "../secret.gif"), "");
+    QCOMPARE(pictureFile(folder.path(), ""), "");
+}
+
+QTEST_MAIN(TestDialogs)
+#include "test_dialogs.moc"

@@ -1,0 +1,314 @@
+#include "event_log.h"
+#include "history_field.h"
+#include "spin_field.h"
+#include "time_field.h"
+
+#include <QLineEdit>
+#include <QTest>
+
+#include <limits>
+
+using namespace kelvo;
+
+class TestFields : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void typedTextBecomesAValue_data();
+    void typedTextBecomesAValue();
+    void aWrongCharacterIsNotTakenIn_data();
+    void aWrongCharacterIsNotTakenIn();
+    void aValueIsShownInTheUsersNotation_data();
+    void aValueIsShownInTheUsersNotation();
+    void stepsStayInsideTheRange();
+    void aStepStartsFromWhatWasTyped();
+    void aSpinFieldTellsTheUsersChangesOnly();
+    void returnTakesTheTypedText();
+    void aTimeKeepsTheSecondsItDoesNotShow();
+    void aTimeFieldTellsTheUsersChangesOnly();
+    void okTakesWhatWasTypedLast();
+    void aHistoryFieldKeepsWhatWasTyped();
+    void aHistoryFieldTellsTheUsersChangesOnly();
+};
+
+namespace {
+
+void leave(QWidget *field)
+{
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(field, &out);
+}
+
+} // namespace
+
+void TestFields::typedTextBecomesAValue_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("value"); // range -100 to 2000, 500 before
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("whole number") << "de_DE" << 0 << "12" << 12 << "12 mm";
+    QTest::newRow("with its unit") << "de_DE" << 0 << "12 mm" << 12 << "12 mm";
+    QTest::newRow("half a unit left") << "de_DE" << 0 << "12 m" << 12 << "12 mm";
+    QTest::newRow("blanks around") << "de_DE" << 0 << " 12 " << 12 << "12 mm";
+    QTest::newRow("comma") << "de_DE" << 2 << "12,34" << 1234 << "12,34 mm";
+    QTest::newRow("comma at the end") << "de_DE" << 2 << "12," << 1200 << "12,00 mm";
+    QTest::newRow("comma at the start") << "de_DE" << 2 << ",5" << 50 << "0,50 mm";
+    QTest::newRow("point in a point locale") << "en_US" << 2 << "12.3" << 1230 << "12.30 mm";
+    QTest::newRow("negative") << "de_DE" << 2 << "-0,05" << -5 << "-0,05 mm";
+    QTest::newRow("typographic minus")
+        << "de_DE" << 0 << QString(QChar(0x2212)) + "5" << -5 << "-5 mm";
+    QTest::newRow("leading zeros") << "de_DE" << 0 << "007" << 7 << "7 mm";
+    QTest::newRow("at the maximum") << "de_DE" << 0 << "2000" << 2000 << "2000 mm";
+    QTest::newRow("one above") << "de_DE" << 0 << "2001" << 2000 << "2000 mm";
+    QTest::newRow("far above 32 bits") << "de_DE" << 2 << "9999999999" << 2000 << "20,00 mm";
+    QTest::newRow("at the minimum") << "de_DE" << 0 << "-100" << -100 << "-100 mm";
+    QTest::newRow("one below") << "de_DE" << 0 << "-101" << -100 << "-100 mm";
+    QTest::newRow("nothing") << "de_DE" << 0 << "" << 500 << "500 mm";
+    QTest::newRow("a minus alone") << "de_DE" << 0 << "-" << 500 << "500 mm";
+    QTest::newRow("a comma alone") << "de_DE" << 2 << "," << 500 << "5,00 mm";
+    QTest::newRow("the unit alone") << "de_DE" << 0 << "mm" << 500 << "500 mm";
+}
+
+void TestFields::typedTextBecomesAValue()
+{
+    QFETCH(QString, locale);
+    QFETCH(int, decimals);
+    QFETCH(QString, typed);
+    QFETCH(int, value);
+    QFETCH(QString, shown);
+    SpinField field;
+    field.setLocale(QLocale(locale));
+    field.setDecimals(decimals);
+    field.setMinimum(-100);
+    field.setMaximum(2000);
+    field.setSuffix(QStringLiteral(" mm"));
+    field.setValue(500);
+
+    QVERIFY(field.typeText(typed));
+    QCOMPARE(field.value(), 500); // not before it is left
+    leave(&field);
+    QCOMPARE(field.value(), value);
+    QCOMPARE(field.text(), shown);
+}
+
+void TestFields::aWrongCharacterIsNotTakenIn_data()
+{
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("left");
+    QTest::newRow("letter") << 0 << "1x2"
+                            << "12";
+    QTest::newRow("comma in a whole number") << 0 << "1,5"
+                                             << "15";
+    QTest::newRow("thousands separator") << 2 << "1.5"
+                                         << "15";
+    QTest::newRow("second comma") << 2 << "1,5,5"
+                                  << "1,55";
+    QTest::newRow("third decimal") << 2 << "1,555"
+                                   << "1,55";
+    QTest::newRow("minus where none is negative") << 0 << "-5"
+                                                  << "5";
+    QTest::newRow("eleventh digit") << 0 << "12345678901"
+                                    << "1234567890";
+    QTest::newRow("exponent") << 2 << "1e5"
+                              << "15";
+}
+
+void TestFields::aWrongCharacterIsNotTakenIn()
+{
+    QFETCH(int, decimals);
+    QFETCH(QString, typed);
+    QFETCH(QString, left);
+    SpinField field;
+    field.setLocale(QLocale(QStringLiteral("de_DE")));
+    field.setDecimals(decimals);
+    field.setMaximum(2000);
+    QVERIFY(!field.typeText(typed));
+    QCOMPARE(field.text(), left);
+}
+
+void TestFields::aValueIsShownInTheUsersNotation_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("shown");
+    const int greatest = std::numeric_limits<int>::max();
+    QTest::newRow("no separator in thousands") << "de_DE" << 0 << 1234567 << "1234567";
+    QTest::newRow("two decimals") << "de_DE" << 2 << 1234 << "12,34";
+    QTest::newRow("six decimals, greatest") << "en_US" << 6 << greatest << "2147.483647";
+    QTest::newRow("small negative") << "en_US" << 2 << -5 << "-0.05";
+}
+
+void TestFields::aValueIsShownInTheUsersNotation()
+{
+    QFETCH(QString, locale);
+    QFETCH(int, decimals);
+    QFETCH(int, value);
+    QFETCH(QString, shown);
+    SpinField field;
+    field.setMinimum(std::numeric_limits<int>::min());
+    field.setMaximum(std::numeric_limits<int>::max());
+    field.setDecimals(decimals);
+    field.setValue(value);
+    field.setLocale(QLocale(locale));
+    QCOMPARE(field.text(), shown);
+    field.takeTypedText(); // what it shows is what it means
+    QCOMPARE(field.value(), value);
+}
+
+void TestFields::stepsStayInsideTheRange()
+{
+    SpinField field;
+    EventLog log(&field);
+    field.setMaximum(25);
+    field.setSingleStep(2);
+    QTest::keyClick(&field, Qt::Key_Up);
+    QCOMPARE(field.value(), 2);
+    QTest::keyClick(&field, Qt::Key_PageUp);
+    QCOMPARE(field.value(), 22);
+    QTest::keyClick(&field, Qt::Key_PageUp);
+    QCOMPARE(field.value(), 25);
+    QCOMPARE(log.take().size(), 3);
+    QTest::keyClick(&field, Qt::Key_Up);
+    QCOMPARE(log.take(), QStringList());
+    field.setMinimum(std::numeric_limits<int>::min());
+    field.setSingleStep(std::numeric_limits<int>::max());
+    QTest::keyClick(&field, Qt::Key_PageDown);
+    QCOMPARE(field.value(), std::numeric_limits<int>::min());
+}
+
+void TestFields::aStepStartsFromWhatWasTyped()
+{
+    SpinField field;
+    EventLog log(&field);
+    field.typeText(QStringLiteral("40"));
+    QCOMPARE(log.take(), (QStringList{"TextChanged", "TextChanged", "TextChanged"}));
+    field.stepBy(1);
+    QCOMPARE(field.value(), 41);
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+}
+
+void TestFields::aSpinFieldTellsTheUsersChangesOnly()
+{
+    SpinField field;
+    EventLog log(&field);
+    field.setValue(50);
+    field.setMaximum(20);
+    QCOMPARE(field.value(), 20);
+    field.setMinimum(30); // takes the maximum along
+    QCOMPARE(field.maximum(), 30);
+    field.setMinimum(0);
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(field.choose(99));
+    QCOMPARE(field.value(), 30);
+    QVERIFY(field.choose(5));
+    QCOMPARE(log.take(), QStringList{"ControlHit"}); // 99 was 30, which it was
+    field.setEnabled(false);
+    QVERIFY(!field.choose(6));
+    QVERIFY(!field.typeText(QStringLiteral("6")));
+    QCOMPARE(field.text(), "5");
+}
+
+void TestFields::returnTakesTheTypedText()
+{
+    SpinField field;
+    EventLog log(&field);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&field, "42");
+    log.take();
+    QTest::keyClick(&field, Qt::Key_Return);
+    QCOMPARE(field.value(), 42);
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    leave(&field);
+    QCOMPARE(log.take(), QStringList{"FocusChanged"});
+}
+
+void TestFields::aTimeKeepsTheSecondsItDoesNotShow()
+{
+    TimeField field;
+    field.setLocale(QLocale(QStringLiteral("de_DE")));
+    field.setValue(QTime(23, 4, 56));
+    QCOMPARE(field.text(), "23:04");
+    QCOMPARE(field.value(), QTime(23, 4, 56));
+    field.setLocale(QLocale(QStringLiteral("en_US")));
+    QVERIFY2(field.text().contains("11:04"), qPrintable(field.text()));
+    QCOMPARE(field.value(), QTime(23, 4, 56));
+}
+
+void TestFields::aTimeFieldTellsTheUsersChangesOnly()
+{
+    TimeField field;
+    field.setLocale(QLocale(QStringLiteral("de_DE")));
+    EventLog log(&field);
+    field.setValue(QTime(8, 0));
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(field.choose(QTime(9, 30)));
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    QVERIFY(!field.choose(QTime()));
+    field.stepBy(1);
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    field.setEnabled(false);
+    QVERIFY(!field.choose(QTime(1, 0)));
+}
+
+void TestFields::okTakesWhatWasTypedLast()
+{
+    QWidget window;
+    auto *spin = new SpinField(&window);
+    auto *time = new TimeField(&window);
+    time->setLocale(QLocale(QStringLiteral("de_DE")));
+    time->setValue(QTime(8, 0));
+    spin->typeText(QStringLiteral("17"));
+    auto *line = time->findChild<QLineEdit *>();
+    line->selectAll();
+    line->insert(QStringLiteral("17:45"));
+    EventLog log(&window);
+    commitTypedValues(&window);
+    QCOMPARE(spin->value(), 17);
+    QCOMPARE(time->value(), QTime(17, 45));
+    QCOMPARE(log.take(), (QStringList{"ControlHit", "ControlHit"}));
+}
+
+void TestFields::aHistoryFieldKeepsWhatWasTyped()
+{
+    HistoryField field;
+    field.setText(QStringLiteral("typed"));
+    QVERIFY(field.appendItem(QStringLiteral("First")));
+    QVERIFY(field.appendItem(QStringLiteral("Second")));
+    QCOMPARE(field.text(), "typed");
+    QCOMPARE(field.items(), (QStringList{"First", "Second"}));
+
+    // Neither Return nor leaving turns it into an item that is nearly the same,
+    // and nothing is completed.
+    field.lineEdit()->clear();
+    QTest::keyClicks(&field, "first");
+    QTest::keyClick(&field, Qt::Key_Return);
+    leave(&field);
+    QCOMPARE(field.text(), "first");
+    QCOMPARE(field.items().size(), 2);
+}
+
+void TestFields::aHistoryFieldTellsTheUsersChangesOnly()
+{
+    HistoryField field;
+    EventLog log(&field);
+    field.appendItem(QStringLiteral("First"));
+    field.setText(QStringLiteral("x"));
+    QCOMPARE(log.take(), QStringList());
+    QTest::keyClicks(&field, "y");
+    QCOMPARE(log.take(), QStringList{"TextChanged"});
+    QVERIFY(field.chooseItem(0));
+    QCOMPARE(field.text(), "First");
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
+    QVERIFY(!field.chooseItem(1));
+    leave(&field);
+    QCOMPARE(log.take(), QStringList{"FocusChanged"});
+}
+
+QTEST_MAIN(TestFields)
+#include "test_fields.moc"

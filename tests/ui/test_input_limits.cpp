@@ -1,0 +1,256 @@
+#include "event_log.h"
+#include "input_limits.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+
+using namespace kelvo;
+
+Q_DECLARE_METATYPE(kelvo::InputProblem)
+
+class TestInputLimits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theFirstProblemIsFound_data();
+    void theFirstProblemIsFound();
+    void pastedTextIsCutToFit_data();
+    void pastedTextIsCutToFit();
+    void aRefusedCharacterLeavesTheSelection_data();
+    void aRefusedCharacterLeavesTheSelection();
+    void textsSetByCodeAreNotTouchedAndCanBeShortened();
+    void typedTextIsTakenAsFarAsAllowed_data();
+    void typedTextIsTakenAsFarAsAllowed();
+    void handlersNeverSeeWhatWasRefused();
+    void limitsCanBeChanged();
+};
+
+namespace {
+
+// Digits, one to four of them.
+InputLimits pin()
+{
+    return {1, 4, InputLimits::decimalDigits()};
+}
+
+QString textIn(QWidget *field)
+{
+    if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
+        return edit->toPlainText();
+    if (auto *combo = qobject_cast<QComboBox *>(field))
+        return combo->currentText();
+    return static_cast<QLineEdit *>(field)->text();
+}
+
+void setTextOf(QWidget *field, const QString &text)
+{
+    if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
+        edit->setPlainText(text);
+    else if (auto *combo = qobject_cast<QComboBox *>(field))
+        combo->setEditText(text);
+    else
+        static_cast<QLineEdit *>(field)->setText(text);
+}
+
+std::unique_ptr<QWidget> makeField(const QString &kind)
+{
+    if (kind == "plain text")
+        return std::make_unique<QPlainTextEdit>();
+    if (kind == "combo box") {
+        auto combo = std::make_unique<QComboBox>();
+        combo->setEditable(true);
+        return combo;
+    }
+    auto line = std::make_unique<QLineEdit>();
+    if (kind == "password") // has no undo, and must be kept all the same
+        line->setEchoMode(QLineEdit::Password);
+    return line;
+}
+
+const QStringList kinds{"line", "password", "combo box", "plain text"};
+
+} // namespace
+
+void TestInputLimits::theFirstProblemIsFound_data()
+{
+    using enum InputProblem;
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<InputProblem>("problem");
+    QTest::newRow("one below the minimum") << "" << TooShort;
+    QTest::newRow("at the minimum") << "1" << None;
+    QTest::newRow("at the maximum") << "1234" << None;
+    QTest::newRow("one above") << "12345" << TooLong;
+    QTest::newRow("a letter") << "12a" << BadCharacter;
+    QTest::newRow("a letter, and too long") << "12345a" << BadCharacter;
+    QTest::newRow("a digit of another script") << QString(QChar(0x0661)) << BadCharacter;
+}
+
+void TestInputLimits::theFirstProblemIsFound()
+{
+    QFETCH(QString, text);
+    QFETCH(InputProblem, problem);
+    QCOMPARE(findProblem(text, pin()), problem);
+}
+
+void TestInputLimits::pastedTextIsCutToFit_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<QString>("text"); // pasted between 1 and 9
+    for (const QString &kind : kinds) {
+        const auto row = [&kind](const char *name) -> QTestData & {
+            return QTest::addRow("%s: %s", qPrintable(kind), name);
+        };
+        row("fits") << kind << "23"
+                    << "1239";
+        row("one too many") << kind << "234"
+                            << "1239";
+        row("dashes left out") << kind << "2-3-4"
+                               << "1239";
+        row("nothing of it allowed") << kind << "ab"
+                                     << "19";
+    }
+}
+
+void TestInputLimits::pastedTextIsCutToFit()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, pasted);
+    QFETCH(QString, text);
+    const auto field = makeField(kind);
+    setInputLimits(field.get(), pin());
+    setTextOf(field.get(), QStringLiteral("19"));
+    QTest::keyClick(field.get(), Qt::Key_Home);
+    QTest::keyClick(field.get(), Qt::Key_Right);
+
+    QGuiApplication::clipboard()->setText(pasted);
+    QTest::keyClick(field.get(), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(textIn(field.get()), text);
+    // The cursor stands behind what was pasted.
+    QTest::keyClick(field.get(), Qt::Key_Delete);
+    QCOMPARE(textIn(field.get()), text.chopped(1));
+}
+
+void TestInputLimits::aRefusedCharacterLeavesTheSelection_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const QString &kind : kinds)
+        QTest::addRow("%s", qPrintable(kind)) << kind;
+}
+
+void TestInputLimits::aRefusedCharacterLeavesTheSelection()
+{
+    QFETCH(QString, kind);
+    const auto field = makeField(kind);
+    setInputLimits(field.get(), pin());
+    setTextOf(field.get(), QStringLiteral("1234"));
+    QTest::keyClick(field.get(), Qt::Key_End);
+    QTest::keyClicks(field.get(), "5");
+    QCOMPARE(textIn(field.get()), "1234");
+    QTest::keyClick(field.get(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field.get(), "x");
+    QCOMPARE(textIn(field.get()), "1234");
+    QTest::keyClick(field.get(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field.get(), "7");
+    QCOMPARE(textIn(field.get()), "7");
+}
+
+void TestInputLimits::textsSetByCodeAreNotTouchedAndCanBeShortened()
+{
+    for (const QString &kind : kinds) {
+        const auto field = makeField(kind);
+        setInputLimits(field.get(), pin());
+        setTextOf(field.get(), QStringLiteral("too long"));
+        QCOMPARE(textIn(field.get()), "too long");
+        QTest::keyClick(field.get(), Qt::Key_End);
+        QTest::keyClicks(field.get(), "1");
+        QCOMPARE(textIn(field.get()), "too long");
+        QTest::keyClick(field.get(), Qt::Key_Backspace);
+        QCOMPARE(textIn(field.get()), "too lon");
+        QTest::keyClicks(field.get(), "g");
+        QCOMPARE(textIn(field.get()), "too lon");
+        setTextOf(field.get(), QStringLiteral("abc"));
+        QTest::keyClick(field.get(), Qt::Key_End);
+        QTest::keyClicks(field.get(), "d5");
+        QCOMPARE(textIn(field.get()), "abc5");
+    }
+}
+
+void TestInputLimits::typedTextIsTakenAsFarAsAllowed_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("isWhole");
+    QTest::addColumn<QString>("text");
+    for (const QString &kind : kinds) {
+        const auto row = [&kind](const char *name) -> QTestData & {
+            return QTest::addRow("%s: %s", qPrintable(kind), name);
+        };
+        row("at the limit") << kind << "5678" << true << "5678";
+        row("one above") << kind << "56789" << false << "5678";
+        row("refused ones between") << kind << "5x6" << false << "56";
+        row("all refused") << kind << "xyz" << false << "";
+        row("nothing") << kind << "" << true << "";
+    }
+}
+
+void TestInputLimits::typedTextIsTakenAsFarAsAllowed()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, typed);
+    QFETCH(bool, isWhole);
+    QFETCH(QString, text);
+    const auto field = makeField(kind);
+    setInputLimits(field.get(), pin());
+    setTextOf(field.get(), QStringLiteral("1234"));
+    QCOMPARE(typeText(field.get(), typed), isWhole);
+    QCOMPARE(textIn(field.get()), text);
+    field->setEnabled(false);
+    QVERIFY(!typeText(field.get(), QStringLiteral("1")));
+    QCOMPARE(textIn(field.get()), text);
+}
+
+void TestInputLimits::handlersNeverSeeWhatWasRefused()
+{
+    for (const QString &kind : {QStringLiteral("line"), QStringLiteral("plain text")}) {
+        const auto field = makeField(kind);
+        sendControlEvents(field.get()); // before the limits: it hears first
+        setInputLimits(field.get(), {0, 3, std::nullopt});
+        QStringList seen;
+        const auto handler = installEventHandler(field.get(), [&](const Event &event) {
+            if (event.kind == EventKind::TextChanged)
+                seen.append(textIn(event.source));
+            return noErr;
+        });
+        QGuiApplication::clipboard()->setText(QString::fromUtf8("a\xF0\x9F\x98\x80"
+                                                                "b\xF0\x9F\x98\x80"));
+        QTest::keyClick(field.get(), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(seen,
+                 QStringList{QString::fromUtf8("a\xF0\x9F\x98\x80"
+                                               "b")});
+    }
+}
+
+void TestInputLimits::limitsCanBeChanged()
+{
+    QLineEdit line;
+    QVERIFY(!inputLimits(&line));
+    setInputLimits(&line, pin());
+    InputLimits names;
+    names.maximumLength = 12;
+    setInputLimits(&line, names);
+    QCOMPARE(inputLimits(&line)->maximumLength, 12);
+    QVERIFY(typeText(&line, QStringLiteral("twelve chars")));
+    QVERIFY(!names.ascii());
+    QVERIFY(pin().ascii());
+    names.allowed = InputLimits::setOf(QString::fromUtf8("a\xC3\xA9"));
+    QVERIFY(!names.ascii());
+}
+
+QTEST_MAIN(TestInputLimits)
+#include "test_input_limits.moc"

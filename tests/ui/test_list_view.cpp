@@ -1,0 +1,140 @@
+#include "event_log.h"
+#include "list_view.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace kelvo;
+
+class TestListView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void onlyTheCellsInSightAreAskedFor();
+    void rowsAreSelectedSilentlyByCode();
+    void oneActionOfTheUserSendsOneEvent();
+    void aDoubleClickTellsItsRow();
+    void returnActivatesAndKeepsTheSelection();
+    void reloadingKeepsThePlaceButNotTheSelection();
+};
+
+namespace {
+
+// A list of `rows` rows and two columns, shown; `asked` counts the cells asked for.
+struct Sample
+{
+    explicit Sample(int rows)
+        : log(&list)
+    {
+        list.setColumns({{"Page", 60}, {"Stock", 200}}, [this](int row, int column) {
+            ++asked;
+            return QStringLiteral("%1/%2").arg(row).arg(column);
+        });
+        list.resize(400, 300);
+        list.reload(rows);
+        list.show();
+        list.setFocus();
+        (void)QTest::qWaitForWindowExposed(&list);
+    }
+
+    QPoint middleOf(int row) { return list.visualRect(list.model()->index(row, 0)).center(); }
+    void click(int row, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, middleOf(row));
+        QCoreApplication::processEvents();
+    }
+
+    ListView list;
+    EventLog log;
+    int asked = 0;
+};
+
+} // namespace
+
+void TestListView::onlyTheCellsInSightAreAskedFor()
+{
+    Sample sample(100'000);
+    QTest::qWait(50);
+    QVERIFY(sample.asked > 0);
+    QVERIFY2(sample.asked < 1000, qPrintable(QString::number(sample.asked)));
+    QCOMPARE(sample.list.cellText(99'999, 1), "99999/1");
+    QCOMPARE(sample.list.cellText(100'000, 1), "");
+    QCOMPARE(sample.list.cellText(0, 2), "");
+}
+
+void TestListView::rowsAreSelectedSilentlyByCode()
+{
+    Sample sample(10);
+    sample.list.selectRows({7, 2, 3, 3, -1, 10});
+    QCOMPARE(sample.list.selectedRows(), (std::vector<int>{2, 3, 7}));
+    QCoreApplication::processEvents();
+    QCOMPARE(sample.log.take(), QStringList());
+
+    sample.list.selectRows({4}, true);
+    sample.list.selectRows({4}, true); // nothing changed
+    sample.list.selectRows({}, true);
+    QCoreApplication::processEvents();
+    QCOMPARE(sample.log.take(), (QStringList{"ListSelection row 4", "ListSelection row -1"}));
+}
+
+void TestListView::oneActionOfTheUserSendsOneEvent()
+{
+    Sample sample(100'000);
+    sample.click(2);
+    QCOMPARE(sample.log.take(), QStringList{"ListSelection row 2"});
+    sample.click(5, Qt::ShiftModifier);
+    QCOMPARE(sample.log.take(), QStringList{"ListSelection row 2"});
+    QCOMPARE(sample.list.selectedRows(), (std::vector<int>{2, 3, 4, 5}));
+    sample.click(3, Qt::ControlModifier);
+    QCOMPARE(sample.list.selectedRows(), (std::vector<int>{2, 4, 5}));
+    QCOMPARE(sample.log.take().size(), 1);
+    QTest::keyClick(&sample.list, Qt::Key_A, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    QCOMPARE(sample.log.take().size(), 1);
+    QCOMPARE(sample.list.selectedRows().size(), std::size_t(100'000));
+}
+
+void TestListView::aDoubleClickTellsItsRow()
+{
+    Sample sample(3);
+    QTest::mouseDClick(sample.list.viewport(), Qt::LeftButton, {}, sample.middleOf(1));
+    const QStringList lines = sample.log.take();
+    QCOMPARE(lines.last(), "ListActivated row 1");
+    QTest::mouseDClick(sample.list.viewport(), Qt::LeftButton, {}, {50, 250});
+    QCOMPARE(sample.log.take().last(), "ListActivated row -1");
+
+    sample.list.activateRow(2);
+    QCOMPARE(sample.log.take(), (QStringList{"ListSelection row 2", "ListActivated row 2"}));
+    sample.list.activateRow(3);
+    QCOMPARE(sample.log.take(), QStringList{"ListActivated row -1"});
+}
+
+void TestListView::returnActivatesAndKeepsTheSelection()
+{
+    Sample sample(5);
+    sample.list.selectRows({1, 3});
+    QTest::keyClick(&sample.list, Qt::Key_Return);
+    QCOMPARE(sample.log.take(), QStringList{"ListActivated row 1"});
+    QCOMPARE(sample.list.selectedRows(), (std::vector<int>{1, 3}));
+}
+
+void TestListView::reloadingKeepsThePlaceButNotTheSelection()
+{
+    Sample sample(1000);
+    sample.list.selectRows({500});
+    sample.list.scrollTo(sample.list.model()->index(500, 0), QAbstractItemView::PositionAtTop);
+    const int place = sample.list.verticalScrollBar()->value();
+    QVERIFY(place > 0);
+    sample.list.reload(1001);
+    QCOMPARE(sample.list.verticalScrollBar()->value(), place);
+    QVERIFY(sample.list.selectedRows().empty());
+    sample.list.reload(0);
+    QCOMPARE(sample.list.rowCount(), 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(sample.log.take(), QStringList());
+}
+
+QTEST_MAIN(TestListView)
+#include "test_list_view.moc"

@@ -1,0 +1,193 @@
+#include "control.h"
+#include "event_log.h"
+#include "popup_button.h"
+#include "radio_group.h"
+#include "spin_field.h"
+#include "tab_control.h"
+#include "window_loader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace kelvo;
+
+class TestWindowLoader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void aWindowIsBuiltWiredAndLocalized();
+    void aFaultyDescriptionFails_data();
+    void aFaultyDescriptionFails();
+    void aMissingDescriptionFails();
+
+private:
+    void write(const QString &path, const QByteArray &bytes);
+
+    QTemporaryDir m_folder;
+    CFBundleRef m_bundle = nullptr;
+};
+
+namespace {
+
+QByteArray window(const QByteArray &inner)
+{
+    return R"(<ui version="4.0"><class>W</class><widget class="QWidget" name="W">
+<property name="windowTitle"><string>PaperWindow</string></property>
+<layout class="QVBoxLayout" name="column">)"
+        + inner + "</layout></widget></ui>";
+}
+
+QByteArray widget(const QByteArray &kind, const QByteArray &name, const QByteArray &inner = {})
+{
+    return "<item><widget class=\"" + kind + "\" name=\"" + name + "\">" + inner
+        + "</widget></item>";
+}
+
+QByteArray text(const QByteArray &name, const QByteArray &value)
+{
+    return "<property name=\"" + name + "\"><string>" + value + "</string></property>";
+}
+
+QByteArray dynamic(const QByteArray &name, const QByteArray &value)
+{
+    return "<property name=\"" + name + "\" stdset=\"0\"><string notr=\"true\">" + value
+        + "</string></property>";
+}
+
+} // namespace
+
+void TestWindowLoader::write(const QString &path, const QByteArray &bytes)
+{
+    const QString full = m_folder.filePath(path);
+    QVERIFY(QDir().mkpath(QFileInfo(full).path()));
+    QFile file(full);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+void TestWindowLoader::initTestCase()
+{
+    write("T.pde/Info.plist", R"(<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0"><dict><key>CFBundleIdentifier</key><string>test.ui</string></dict></plist>)");
+    QVERIFY(QDir().mkpath(m_folder.filePath("T.pde/Resources/strings")));
+    QVERIFY(QFile::copy(KELVO_TEST_TEXTS, m_folder.filePath("T.pde/Resources/strings/en.qm")));
+    const auto bundle = Bundle::open(m_folder.filePath("T.pde"));
+    QVERIFY2(bundle, bundle ? "" : qPrintable(bundle.error().text()));
+    m_bundle = bundle.value();
+}
+
+void TestWindowLoader::aWindowIsBuiltWiredAndLocalized()
+{
+    const QByteArray buddy = "<property name=\"buddy\"><cstring>paperMenu</cstring></property>";
+    write("T.pde/Resources/dialogs/Set/Window.ui",
+          window(widget("QLabel", "paperLabel", text("text", "PaperLabel") + buddy)
+                 + widget("PopupButton", "paperMenu",
+                          dynamic("controlID", "KPDE 102") + text("toolTip", "PaperHelp"))
+                 + widget("QLineEdit", "name", text("text", "PaperHelp"))
+                 + widget("SpinField", "copies",
+                          "<property name=\"maximum\"><number>500</number></property>"
+                          "<property name=\"value\"><number>300</number></property>")
+                 + widget("TabControl", "tabs",
+                          "<property name=\"titles\"><stringlist><string>First</string>"
+                          "<string>Second</string></stringlist></property>")
+                 + widget("RadioGroup", "group",
+                          "<layout class=\"QHBoxLayout\" name=\"row\">"
+                              + widget("QRadioButton", "r1", text("text", "First"))
+                              + widget("QRadioButton", "r2", text("text", "unknown key"))
+                              + "</layout>")
+                 + widget("QPushButton", "ok", dynamic("command", "ok  "))));
+
+    const auto loaded = createWindowFromDescription(m_bundle, "Set", "Window");
+    QVERIFY2(loaded, loaded ? "" : qPrintable(loaded.error().text()));
+    const std::unique_ptr<QWidget> shown(loaded.value());
+    EventLog log(shown.get());
+
+    QCOMPARE(shown->windowTitle(), "Paper");
+    auto *label = shown->findChild<QLabel *>("paperLabel");
+    QCOMPARE(label->text(), "&Paper <b>type</b>:");
+    QCOMPARE(label->textFormat(), Qt::PlainText);
+    auto *popup = findControl<PopupButton>(label, {kPanelSignature, 102});
+    QVERIFY(popup);
+    QCOMPARE(popup->toolTip(), "What the tray holds");
+    QCOMPARE(popup->accessibleName(), "Paper <b>type</b>");
+    QCOMPARE(labelOf(popup), label);
+    // What stands in a field is not a key.
+    QCOMPARE(shown->findChild<QLineEdit *>("name")->text(), "PaperHelp");
+    QCOMPARE(shown->findChild<SpinField *>("copies")->value(), 300);
+    QCOMPARE(shown->findChild<TabControl *>("tabs")->titles(), (QStringList{"One", "Second"}));
+
+    auto *group = shown->findChild<RadioGroup *>("group");
+    QCOMPARE(group->count(), 2);
+    QCOMPARE(group->button(1)->text(), "One");
+    QCOMPARE(group->button(2)->text(), "unknown key");
+    QCOMPARE(log.take(), QStringList());
+    group->button(2)->click();
+    QCOMPARE(log.take(), QStringList{"ControlHit"}); // the group's, once
+    shown->findChild<QPushButton *>("ok")->click();
+    QCOMPARE(log.take(), (QStringList{"ControlHit", "Command 'ok  '"}));
+}
+
+void TestWindowLoader::aFaultyDescriptionFails_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("named");
+
+    QTest::newRow("unknown class")
+        << window(widget("FancyDial", "dial")) << QStringList{"dial", "FancyDial", "PopupButton"};
+    QTest::newRow("a class of Qt's that is not offered")
+        << window(widget("QComboBox", "menu")) << QStringList{"menu", "QComboBox"};
+    QTest::newRow("unknown class outermost")
+        << QByteArray(window("")).replace("\"QWidget\"", "\"Fancy\"") << QStringList{"Fancy"};
+    QTest::newRow("an ID twice") << window(
+        widget("QLineEdit", "one", dynamic("controlID", "KPDE 7"))
+        + widget("QLineEdit", "two", dynamic("controlID", "KPDE 7")))
+                                 << QStringList{"one", "two", "KPDE 7"};
+    QTest::newRow("malformed ID") << window(
+        widget("QLineEdit", "one", dynamic("controlID", "KPDE x7")))
+                                  << QStringList{"one", "KPDE x7"};
+    QTest::newRow("an ID that is a number")
+        << window(widget("QLineEdit", "one",
+                         "<property name=\"controlID\" stdset=\"0\"><number>7</number></property>"))
+        << QStringList{"one"};
+    QTest::newRow("malformed command")
+        << window(widget("QPushButton", "one", dynamic("command", "ok")))
+        << QStringList{"one", "\"ok\""};
+    QTest::newRow("two faults, both named") << window(
+        widget("QPushButton", "one", dynamic("command", "ok")) + widget("FancyDial", "dial"))
+                                            << QStringList{"one", "dial"};
+    QTest::newRow("not well formed") << QByteArray("<ui version=\"4.0\"><widget") << QStringList{};
+    QTest::newRow("empty") << QByteArray() << QStringList{};
+}
+
+void TestWindowLoader::aFaultyDescriptionFails()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, named);
+    write("T.pde/Resources/dialogs/Set/Faulty.ui", bytes);
+    const auto loaded = createWindowFromDescription(m_bundle, "Set", "Faulty");
+    QVERIFY(!loaded);
+    QCOMPARE(loaded.error().code, Error::Code::Damaged);
+    QVERIFY(loaded.error().where.endsWith("Set/Faulty.ui"));
+    QVERIFY(!loaded.error().detail.isEmpty());
+    for (const QString &name : named)
+        QVERIFY2(loaded.error().detail.contains(name), qPrintable(loaded.error().detail));
+}
+
+void TestWindowLoader::aMissingDescriptionFails()
+{
+    const auto loaded = createWindowFromDescription(m_bundle, "Set", "None");
+    QVERIFY(!loaded);
+    QCOMPARE(loaded.error().code, Error::Code::NotFound);
+    QVERIFY(!createWindowFromDescription(nullptr, "Set", "None"));
+}
+
+QTEST_MAIN(TestWindowLoader)
+#include "test_window_loader.moc"

@@ -1,0 +1,17 @@
+# The Debian packages of this project, by what they are for.
+
+# Compiling, and everything that the program loads or calls when it runs.
+run_packages="g++ cmake ninja-build ccache pkg-config
+    qt6-base-dev libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
+    libcups2-dev libexpat1-dev libsystemd-dev
+    libcairo2-dev libpango1.0-dev libpoppler-qt6-dev libqpdf-dev
+    qt6-image-formats-plugins fonts-dejavu-core fonts-liberation2 ghostscript"
+
+# Real partners of the tests, and the formatter.
+check_packages="cups-daemon cups-client libplist-utils poppler-utils qpdf clang-format python3-minimal strace"
+
+# The linter and the fuzz targets.
+lint_packages="clang clang-tidy libclang-rt-14-dev"
+
+# Benchmarks and Qt's own print dialog, their yardstick.
+bench_packages="libbenchmark-dev"
