@@ -25,6 +25,13 @@ inline constexpr qint64 secretBytes = 4 * KiB;    // a file given by --secret
 inline constexpr qint64 documentBytes = 2048 * MiB;
 inline constexpr qint64 pictureBytes = 256 * MiB; // a picture file before decoding
 inline constexpr qint64 picturePixels = 200'000'000;
+inline constexpr qint64 textBytes = 64 * MiB;     // plain text; some 15,000 pages
+inline constexpr int documentPages = 100'000;     // made of a text, or named by page ranges
+
+// The child processes that make PDFs of pictures and PostScript. A picture at
+// its pixel limit takes 800 MB, and as much again where it is turned.
+inline constexpr qint64 converterMemory = 3072 * MiB;
+inline constexpr int converterSeconds = 120;
 
 inline constexpr int fileLockWaitMs = 2000;  // how long a store's lock is waited for
 inline constexpr int optionValueBytes = 4000; // longest option value that always reached a filter

@@ -22,19 +22,24 @@ public:
     int pageCount() const;
     QSizeF pageSize(int page) const; // points, as shown (rotation counted); page from 1
     bool isNull() const { return !d; }
+    // Whether the PDF was damaged and what could be saved of it stands here:
+    // worth a look at the preview before it is printed.
+    bool isRepaired() const;
 
-    // The same pages cut to `runs`: what is really printed.
+    // The same pages cut to `runs`, in their order: what is really printed. The
+    // other pages are not in the new file. OutOfRange when `runs` is empty or
+    // names a page that is not there.
     Result<Document> withPages(const std::vector<PageRun> &runs) const;
 
 private:
     friend class DocumentReader;
-    friend Result<Document> documentFromPdf(const QString &path, const QString &title);
     struct Data;
     std::shared_ptr<const Data> d;
 };
 
-// A PDF that is checked, copied and counted. Damaged where neither qpdf nor
-// poppler reads it, Refused when it asks for a password.
+// A PDF that is checked, copied and counted. What qpdf can repair is repaired,
+// else it is Damaged; Refused when it asks for a password or its author does
+// not allow printing. `title` empty: the file's name.
 Result<Document> documentFromPdf(const QString &path, const QString &title);
 
 // Where a document comes from.
@@ -47,7 +52,10 @@ struct DocumentSource
 // Reads PDF, PostScript, plain text (UTF-8, else Latin-1) and pictures, told
 // apart by their bytes, and makes a PDF of each: PostScript through Ghostscript
 // and pictures in a child process with limits on time, memory and size. Blocks:
-// call it on a worker thread; `cancelled` is looked at now and then.
+// call it on a worker thread; `cancelled` is looked at ten times a second.
+// Unsupported, TooLarge (limits::documentBytes, textBytes, pictureBytes),
+// Damaged, Refused, TimedOut and Cancelled are about the source; NotWritable
+// is about the temporary folder.
 Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled);
 
 // The one entry of the child process that decodes pictures: main() calls it for

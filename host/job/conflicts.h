@@ -14,7 +14,7 @@ namespace kelvo {
 struct Conflict
 {
     QStringList options; // PPD keywords
-    QString sentence;    // "Stapling: Top left and Paper type: Transparency cannot be used together."
+    QString sentence;    // "Stapling: Top Left and Paper Type: Transparency cannot be used together."
 };
 
 struct ConflictReport
@@ -25,9 +25,13 @@ struct ConflictReport
     bool isEmpty() const { return conflicts.empty(); }
 };
 
-// What is wrong with the session's choices; `keep` is the option that the user
-// has just set.
+// What is wrong with the session's choices on this PPD; choices that the PPD
+// lacks count for nothing. `keep` is the option that the user has just set: the
+// fix changes others where it can. A fix never changes the device's equipment.
 ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QString &keep = {});
+
+// Puts the fix's choices into the session, and nothing else. A page size among
+// them reaches the page format with the next writeJobSettings(jobSettingsFrom()).
 void applyFix(const ConflictReport &report, PrintSession &session);
 
 // What the ticket asks for and this PPD does not have, in words.

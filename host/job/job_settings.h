@@ -4,7 +4,10 @@
 #include "print_session.h"
 #include "result.h"
 
+#include <QSizeF>
 #include <QString>
+
+#include <optional>
 
 // The host's own settings: what the left column of the window edits. They live
 // in the tickets like everything else.
@@ -17,22 +20,43 @@ struct JobSettings
     int copies = 1;       // 1 to 9999
     bool collate = true;
     QString pageRanges;   // "1-3,7"; empty: all
-    QString paperName;    // a PPD page size; empty: the PPD's default
+    QString paperName;    // a PPD page size, or "Custom.WxH"; empty: the PPD's default
     Orientation orientation = Orientation::Portrait;
 
     friend bool operator==(const JobSettings &, const JobSettings &) = default;
 };
 inline constexpr int kMaximumCopies = 9999;
 
+// What the tickets say. Values that are missing, of another type or out of range
+// count as the defaults above. The paper is the PPD choice "PageSize" where the
+// ticket has one (a panel may have set it), else the page format's paper, else
+// the PPD's default; a name that this PPD lacks is given as it stands.
 JobSettings jobSettingsFrom(const PrintSession &session, const PpdFile *ppd);
+
 // Writes them with the client "com.kelvo.printingmanager": page format (paper
 // name, size and unadjusted rectangle in points) and print settings; "PageSize"
-// becomes a PPD choice when the PPD has it.
+// becomes a PPD choice when the PPD has it. A paper that this PPD lacks leaves
+// the page format's size as it was. Locked entries stay.
 void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSession &session);
 
+// The size in points of a page size of the PPD, or of "Custom.WxH" (with pt, in,
+// ft, cm, mm or m behind it, else points) within the PPD's limits; none otherwise.
+std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
+
 // One -o NAME=VALUE of the command line into the session's tickets: a PPD
-// keyword with one of its choices, media=NAME, orientation-requested=3…6.
-// NotFound with the nearest name for an unknown option or choice.
+// keyword with one of its choices, or one of the names that every printer has:
+//
+//   media=NAME[,NAME…]           a page size (its PPD name in any case, "Custom.WxH", or a
+//                                self-describing name such as iso_a4_210x297mm), an input
+//                                slot or a paper type
+//   orientation-requested=3…6    portrait, landscape, reverse landscape, reverse portrait
+//   sides=one-sided|two-sided-long-edge|two-sided-short-edge
+//   copies=N   page-ranges=1-3,7   collate=true|false
+//   multiple-document-handling=separate-documents-(un)collated-copies
+//
+// Names and choices are found in any case. NotFound with the nearest name for an
+// unknown option or choice, OutOfRange for a number outside its limits; the
+// session is as it was then.
 Result<void> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
                          PrintSession &session);
 

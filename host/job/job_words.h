@@ -14,16 +14,21 @@ namespace kelvo {
 
 struct JobWords
 {
-    QStringList settings; // "Paper size: A4", in the device's words
+    QStringList settings; // "Page Size: A4", in the device's words and the PPD's order
     QStringList defaults; // settings that are as the device has them
     QStringList ticket;   // "com.kelvo.print.… = 2 (written by com.kelvo.printingmanager)"
-    QStringList notSent;  // "Stapling: Top left – this printer does not have it"
+    QStringList notSent;  // "Stapling: Top Left – this printer does not have it"
+    // All four under headings, one a line; a heading without lines is left out.
     QString asText() const;
 };
+// Texts of the PPD and the ticket come as plain text on one line; a ticket value
+// longer than 500 characters is cut and says so. Equipment is not listed.
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
                      const SecretKeys &keys);
 
-// "12 pages, 6 sheets, 2 copies, locked": what the window's foot says.
+// "12 pages, 6 sheets, 2 copies, locked": what the window's foot says. `pages`
+// are those to be printed, 0 while they are not known; sheets are of one copy and
+// count two sides where the ticket's PPD choice "Duplex" prints them.
 QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
                      const SecretKeys &keys);
 

@@ -7,10 +7,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 // Named ticket files: the user's own in the preferences folder's "presets",
-// and an administrator's, read-only, in the site folder's.
+// and an administrator's, read-only, in the site folder's. A preset's name stands
+// in its root as "PresetName"; without that (or where the file is damaged) it is
+// the file's name without ".plist".
 namespace kelvo {
 
 struct Preset
@@ -23,18 +26,25 @@ struct Preset
 class PresetStore
 {
 public:
-    // Own presets and site presets by name; an own one hides a site one of the same name.
+    // Own presets and site presets by name; an own one hides a site one of the
+    // same name. Damaged files are listed too: reading one says what is wrong.
     std::vector<Preset> presets() const;
-    Result<TicketFile> read(const QString &name) const; // NotFound with the nearest name
 
-    // Saves under a safe file name; the name itself stands in the file. Secrets
-    // are left out unless `keepSecrets`. Page ranges and the job's name are never kept.
+    // NotFound with the nearest name; for a damaged file, where and why. The
+    // file's name entry is left out: what comes back is a job's ticket.
+    Result<TicketFile> read(const QString &name) const;
+
+    // Saves under a safe file name, over an own preset of that name. Secrets are
+    // left out unless `keepSecrets`. Page ranges and the job's name are never
+    // kept. Refused for an empty name or one with control characters, and where a
+    // file of another kind would be lost; a damaged file is set aside.
     Result<void> save(const QString &name, const TicketFile &ticket, const SecretKeys &keys,
                       bool keepSecrets);
-    Result<void> remove(const QString &name);                       // Refused for a site preset
+    Result<void> remove(const QString &name);                    // Refused for a site preset
     Result<void> rename(const QString &from, const QString &to); // Refused when `to` exists
 
-    // What every job starts from: the site preset named "default"; none when there is none.
+    // What every job starts from: the site preset named "default"; none when
+    // there is none. A damaged one is told on standard error and counts as none.
     std::optional<TicketFile> siteDefaults() const;
 };
 

@@ -6,13 +6,15 @@
 #include <QStringList>
 
 // Which ticket entries are secrets, as the bundle's Info.plist names them: key
-// paths that step into dictionaries and arrays with "/"; "*" is every element.
+// paths that step into dictionaries and arrays with "/"; "*" is every entry or
+// element, a number one element (from 0). Both tickets are searched. An empty
+// text is no secret; of a dictionary or array under a path, all it holds is one.
 namespace kelvo {
 
 struct SecretKeys
 {
     QStringList secretPaths;
-    QStringList faxKeys;
+    QStringList faxKeys; // paths too: something that is not empty there makes a job a fax
 };
 SecretKeys secretKeysOf(const Bundle *bundle); // empty for null
 
@@ -21,7 +23,8 @@ bool isFax(const TicketFile &ticket, const SecretKeys &keys);
 // The values under secret paths, for comparing and masking texts that hold them.
 QStringList secretValues(const TicketFile &ticket, const SecretKeys &keys);
 
-// Secrets become bullets, for showing; or are taken out, for presets.
+// Secrets become bullets, as many for a long one as for a short one, for showing;
+// or are taken out, with their keys, for presets.
 TicketFile masked(TicketFile ticket, const SecretKeys &keys);
 TicketFile withoutSecrets(TicketFile ticket, const SecretKeys &keys);
 

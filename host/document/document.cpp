@@ -1,0 +1,255 @@
+#include "document.h"
+
+#include "document_files.h"
+#include "output_file.h"
+#include "pdf_pages.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kelvo {
+
+struct Document::Data
+{
+    QString title;
+    std::unique_ptr<QTemporaryDir> folder; // 0700; goes with us
+    QString pdfPath;                       // inside the folder
+    std::vector<QSizeF> sizes;
+    bool isRepaired = false;
+};
+
+// Makes documents; the one place that knows how their files lie.
+class DocumentReader
+{
+public:
+    static Result<Document> read(int fd, const QString &where, const QString &title, bool onlyPdf,
+                                 const std::atomic_bool &cancelled);
+    static Result<Document> select(const Document::Data &whole, const std::vector<PageRun> &runs);
+
+private:
+    static Result<std::unique_ptr<QTemporaryDir>> makeFolder();
+    static Result<void> convert(DocumentKind kind, const ConverterFiles &files,
+                                const std::atomic_bool &cancelled);
+};
+
+namespace {
+
+constexpr QLatin1String pdfName("document.pdf");
+
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(int fd)
+        : m_fd(fd)
+    {
+    }
+    FileDescriptor(FileDescriptor &&other) noexcept
+        : m_fd(std::exchange(other.m_fd, -1))
+    {
+    }
+    FileDescriptor &operator=(FileDescriptor &&) = delete;
+    ~FileDescriptor()
+    {
+        if (m_fd > STDERR_FILENO)
+            ::close(m_fd);
+    }
+    int get() const { return m_fd; }
+
+private:
+    int m_fd;
+};
+
+Result<FileDescriptor> openSource(const QString &path)
+{
+    // Not blocking: a named pipe without a writer would hang here for ever.
+    const int fd =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (fd < 0) {
+        const auto code = errno == ENOENT ? Error::Code::NotFound : Error::Code::NotReadable;
+        return Error{code, path, qt_error_string(errno)};
+    }
+    FileDescriptor file(fd);
+    struct stat status = {};
+    if (::fstat(fd, &status) == 0 && S_ISDIR(status.st_mode)) {
+        return Error{Error::Code::NotReadable, path,
+                     QStringLiteral("this is a folder; choose a file in it")};
+    }
+    return file;
+}
+
+// `error` of a step on our own files, as one about the user's file. Where our
+// files cannot be written, their folder is what the user must look at.
+Error aboutSource(Error error, const QString &where)
+{
+    if (error.code != Error::Code::NotWritable)
+        error.where = where;
+    return error;
+}
+
+QString nameOf(const QString &path)
+{
+    return QFileInfo(path).fileName();
+}
+
+} // namespace
+
+Result<std::unique_ptr<QTemporaryDir>> DocumentReader::makeFolder()
+{
+    auto folder = std::make_unique<QTemporaryDir>(
+        QDir::temp().filePath(QStringLiteral("kelvo-print-XXXXXX")));
+    if (!folder->isValid())
+        return Error{Error::Code::NotWritable, QDir::tempPath(), folder->errorString()};
+    return folder;
+}
+
+Result<void> DocumentReader::convert(DocumentKind kind, const ConverterFiles &files,
+                                     const std::atomic_bool &cancelled)
+{
+    if (kind == DocumentKind::Text)
+        return convertText(files, localePaper(), cancelled);
+    if (kind == DocumentKind::PostScript)
+        return convertPostScript(files, localePaper(), cancelled);
+    return convertPicture(files, cancelled);
+}
+
+Result<Document> DocumentReader::read(int fd, const QString &where, const QString &title,
+                                      bool onlyPdf, const std::atomic_bool &cancelled)
+{
+    auto folder = makeFolder();
+    if (!folder)
+        return folder.error();
+    const QString path = folder.value()->path();
+    const QString source = path + QLatin1String("/source");
+    const Result<DocumentKind> kind = copySource(fd, source, where, cancelled);
+    if (!kind)
+        return kind.error();
+
+    QString unchecked = source;
+    if (kind.value() != DocumentKind::Pdf) {
+        if (onlyPdf)
+            return Error{Error::Code::Damaged, where, QStringLiteral("this is no PDF")};
+        unchecked = path + QLatin1String("/converted.pdf");
+        if (Result<void> made = convert(kind.value(), {path, source, unchecked, where}, cancelled);
+            !made) {
+            return made.error();
+        }
+    }
+
+    auto data = std::make_shared<Document::Data>();
+    data->pdfPath = path + QLatin1Char('/') + pdfName;
+    Result<PdfPages> pages = tidyPdf(unchecked, data->pdfPath);
+    if (!pages)
+        return aboutSource(pages.error(), where);
+    // A converter that writes damage has met a full disk or a broken document.
+    if (unchecked != source && pages.value().isRepaired) {
+        return converterError(Error::Code::Damaged, {path, source, unchecked, where},
+                              QStringLiteral("it could not be turned into a sound PDF"));
+    }
+    QFile::remove(source);
+    QFile::remove(unchecked);
+
+    data->title = title;
+    data->sizes = std::move(pages.value().sizes);
+    data->isRepaired = pages.value().isRepaired;
+    data->folder = std::move(folder).value();
+    Document document;
+    document.d = std::move(data);
+    return document;
+}
+
+Result<Document> DocumentReader::select(const Document::Data &whole,
+                                        const std::vector<PageRun> &runs)
+{
+    auto folder = makeFolder();
+    if (!folder)
+        return folder.error();
+    auto data = std::make_shared<Document::Data>();
+    data->title = whole.title;
+    data->isRepaired = whole.isRepaired;
+    data->pdfPath = folder.value()->path() + QLatin1Char('/') + pdfName;
+    if (Result<void> made = selectPdfPages(whole.pdfPath, runs, data->pdfPath); !made)
+        return aboutSource(made.error(), whole.title);
+    for (const PageRun &run : runs) {
+        data->sizes.insert(data->sizes.end(), whole.sizes.begin() + (run.first - 1),
+                           whole.sizes.begin() + run.last);
+    }
+    data->folder = std::move(folder).value();
+    Document document;
+    document.d = std::move(data);
+    return document;
+}
+
+QString Document::title() const
+{
+    return d ? d->title : QString();
+}
+
+QString Document::pdfPath() const
+{
+    return d ? d->pdfPath : QString();
+}
+
+int Document::pageCount() const
+{
+    return d ? static_cast<int>(d->sizes.size()) : 0;
+}
+
+QSizeF Document::pageSize(int page) const
+{
+    return page >= 1 && page <= pageCount() ? d->sizes[static_cast<std::size_t>(page - 1)]
+                                            : QSizeF();
+}
+
+bool Document::isRepaired() const
+{
+    return d && d->isRepaired;
+}
+
+Result<Document> Document::withPages(const std::vector<PageRun> &runs) const
+{
+    const bool isInside = std::ranges::all_of(runs, [this](const PageRun &run) {
+        return run.first >= 1 && run.first <= run.last && run.last <= pageCount();
+    });
+    if (runs.empty() || !isInside) {
+        return Error{Error::Code::OutOfRange, title(),
+                     QStringLiteral("the document has %1 pages, and not all that are asked for")
+                         .arg(pageCount())};
+    }
+    if (runs == std::vector<PageRun>{{1, pageCount()}})
+        return *this;
+    return DocumentReader::select(*d, runs);
+}
+
+Result<Document> documentFromPdf(const QString &path, const QString &title)
+{
+    Result<FileDescriptor> file = openSource(path);
+    if (!file)
+        return file.error();
+    const std::atomic_bool notCancelled = false;
+    return DocumentReader::read(file.value().get(), path, title.isEmpty() ? nameOf(path) : title,
+                                true, notCancelled);
+}
+
+Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled)
+{
+    if (source.path.isEmpty() || source.path == QLatin1String("-")) {
+        const QString name = QStringLiteral("(stdin)");
+        return DocumentReader::read(STDIN_FILENO, name,
+                                    source.title.isEmpty() ? name : source.title, false, cancelled);
+    }
+    Result<FileDescriptor> file = openSource(source.path);
+    if (!file)
+        return file.error();
+    return DocumentReader::read(file.value().get(), source.path,
+                                source.title.isEmpty() ? nameOf(source.path) : source.title, false,
+                                cancelled);
+}
+
+} // namespace kelvo

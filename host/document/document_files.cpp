@@ -1,0 +1,150 @@
+#include "document_files.h"
+
+#include "output_file.h"
+#include "size_limits.h"
+
+#include <QByteArray>
+#include <QStorageInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <clocale>
+#include <cstdint>
+#include <langinfo.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int pollMs = 100;
+
+Error tooLarge(const QString &where, const QString &what, qint64 most)
+{
+    return Error{
+        Error::Code::TooLarge, where,
+        QStringLiteral("%1 of more than %2 MB is not printed").arg(what).arg(most / limits::MiB)};
+}
+
+struct SizeLimit
+{
+    QString what;
+    qint64 most;
+};
+
+SizeLimit sizeLimit(DocumentKind kind)
+{
+    if (kind == DocumentKind::Text)
+        return {QStringLiteral("a text"), limits::textBytes};
+    if (!pictureFormat(kind).isEmpty())
+        return {QStringLiteral("a picture"), limits::pictureBytes};
+    return {QStringLiteral("a document"), limits::documentBytes};
+}
+
+// Up to `size` bytes; fewer only at the end of the input. Waits for a slow
+// sender no longer than the user does.
+Result<qsizetype> readBlock(int fd, char *bytes, qsizetype size, const QString &where,
+                            const std::atomic_bool &cancelled)
+{
+    qsizetype done = 0;
+    while (done < size) {
+        if (cancelled)
+            return Error{Error::Code::Cancelled, where, {}};
+        pollfd ready{fd, POLLIN, 0};
+        if (::poll(&ready, 1, pollMs) == 0)
+            continue;
+        const ssize_t count = ::read(fd, bytes + done, static_cast<std::size_t>(size - done));
+        if (count < 0 && (errno == EINTR || errno == EAGAIN))
+            continue;
+        if (count < 0)
+            return Error{Error::Code::NotReadable, where, qt_error_string(errno)};
+        if (count == 0)
+            break;
+        done += count;
+    }
+    return done;
+}
+
+} // namespace
+
+QSizeF localePaper()
+{
+    // A locale of our own: setlocale() would change the other threads' too.
+    locale_t locale = ::newlocale(LC_PAPER_MASK, "", nullptr);
+    if (!locale)
+        return kA4;
+    // glibc hands the number of millimetres out in place of a pointer.
+    const auto height = reinterpret_cast<std::intptr_t>(::nl_langinfo_l(_NL_PAPER_HEIGHT, locale));
+    ::freelocale(locale);
+    return static_cast<int>(height) == 279 ? kLetter : kA4;
+}
+
+Result<DocumentKind> copySource(int fd, const QString &target, const QString &where,
+                                const std::atomic_bool &cancelled)
+{
+    std::vector<char> block(1024 * 1024);
+    Result<qsizetype> count = readBlock(fd, block.data(), kKindBytes, where, cancelled);
+    if (!count)
+        return count.error();
+
+    const QByteArrayView head(block.data(), count.value());
+    const DocumentKind kind = documentKind(head);
+    if (kind == DocumentKind::Empty)
+        return Error{Error::Code::Damaged, where, QStringLiteral("the file is empty")};
+    if (kind == DocumentKind::Unsupported) {
+        return Error{Error::Code::Unsupported, where,
+                     QStringLiteral("this is %1; PDF, PostScript, pictures and plain text can be "
+                                    "printed")
+                         .arg(unsupportedKindText(head))};
+    }
+
+    const auto [what, most] = sizeLimit(kind);
+    struct stat status = {};
+    if (::fstat(fd, &status) == 0 && status.st_size > most)
+        return tooLarge(where, what, most);
+
+    Result<OutputFile> file = OutputFile::create(target);
+    if (!file)
+        return file.error();
+    qint64 total = 0;
+    while (count.value() > 0) {
+        total += count.value();
+        if (total > most)
+            return tooLarge(where, what, most);
+        if (!file.value().write(block.data(), static_cast<std::size_t>(count.value())))
+            return file.value().error();
+        count = readBlock(fd, block.data(), static_cast<qsizetype>(block.size()), where, cancelled);
+        if (!count)
+            return count.error();
+    }
+    if (Result<void> closed = file.value().close(); !closed)
+        return closed.error();
+    return kind;
+}
+
+Error converterError(Error::Code code, const ConverterFiles &files, const QString &detail)
+{
+    const QStorageInfo disk(files.folder);
+    if (disk.isValid() && disk.bytesAvailable() < limits::MiB)
+        return notWritable(files.folder, ENOSPC);
+    return Error{code, files.where, detail};
+}
+
+PicturePlacement placePicture(const QSizeF &size, const QSizeF &paper)
+{
+    constexpr double margin = 12 / 25.4 * 72; // 12 mm, in points
+    PicturePlacement placement;
+    placement.paper = size.width() > size.height() ? paper.transposed() : paper;
+    const QSizeF room = placement.paper - QSizeF(2 * margin, 2 * margin);
+    const double scale =
+        std::min({1.0, room.width() / size.width(), room.height() / size.height()});
+    placement.picture.setSize(size * scale);
+    placement.picture.moveCenter(
+        QPointF(placement.paper.width() / 2, placement.paper.height() / 2));
+    return placement;
+}
+
+} // namespace kelvo

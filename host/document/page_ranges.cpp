@@ -1,0 +1,114 @@
+#include "page_ranges.h"
+
+#include "size_limits.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <optional>
+
+namespace kelvo {
+
+namespace {
+
+Error rangeError(Error::Code code, QStringView part, const QString &detail)
+{
+    return Error{code, QStringLiteral("page range \"%1\"").arg(part.trimmed()), detail};
+}
+
+// A page number, or nothing where there is no number. One too long for an int
+// is a page that no document has, not a mistake in writing.
+std::optional<int> findNumber(QStringView text)
+{
+    text = text.trimmed();
+    if (text.isEmpty())
+        return std::nullopt;
+    constexpr int most = 1'000'000'000;
+    int number = 0;
+    for (const QChar digit : text) {
+        if (digit < u'0' || digit > u'9')
+            return std::nullopt;
+        number = number >= most / 10 ? most : number * 10 + (digit.unicode() - u'0');
+    }
+    return number;
+}
+
+Result<PageRun> pageRunFrom(QStringView part, int pageCount)
+{
+    const qsizetype dash = part.indexOf(u'-');
+    const QStringView firstText = dash < 0 ? part : part.first(dash);
+    const QStringView lastText = dash < 0 ? part : part.sliced(dash + 1);
+    const std::optional<int> firstNumber = findNumber(firstText);
+    const std::optional<int> lastNumber = findNumber(lastText);
+
+    const bool firstIsOpen = dash >= 0 && firstText.trimmed().isEmpty();
+    const bool lastIsOpen = dash >= 0 && lastText.trimmed().isEmpty();
+    if ((!firstNumber && !firstIsOpen) || (!lastNumber && !lastIsOpen)
+        || (firstIsOpen && lastIsOpen)) {
+        return rangeError(Error::Code::Damaged, part,
+                          QStringLiteral("write pages as in 1-3, 7, 9-"));
+    }
+
+    const int first = firstNumber.value_or(1);
+    const int last = lastNumber.value_or(pageCount);
+    if (first < 1 || (lastNumber && last < 1))
+        return rangeError(Error::Code::OutOfRange, part, QStringLiteral("pages begin at 1"));
+    if (first > pageCount) {
+        return rangeError(Error::Code::OutOfRange, part,
+                          QStringLiteral("the document ends with page %1").arg(pageCount));
+    }
+    if (last < first) {
+        return rangeError(Error::Code::OutOfRange, part,
+                          QStringLiteral("the last page comes before the first"));
+    }
+    return PageRun{first, std::min(last, pageCount)};
+}
+
+} // namespace
+
+Result<std::vector<PageRun>> pageRunsFrom(const QString &text, int pageCount)
+{
+    if (text.trimmed().isEmpty()) {
+        return pageCount > 0 ? std::vector<PageRun>{{1, pageCount}} : std::vector<PageRun>{};
+    }
+
+    std::vector<PageRun> runs;
+    qint64 pages = 0;
+    for (const QStringView part : QStringView(text).split(u',')) {
+        Result<PageRun> run = pageRunFrom(part, pageCount);
+        if (!run)
+            return run.error();
+        pages += run.value().last - run.value().first + 1;
+        // "1-,1-,1-" multiplies a document: a line of text must not fill a disk.
+        if (pages > std::max(limits::documentPages, pageCount)) {
+            return rangeError(Error::Code::TooLarge, part,
+                              QStringLiteral("all ranges together may name %1 pages at most")
+                                  .arg(std::max(limits::documentPages, pageCount)));
+        }
+        runs.push_back(run.value());
+    }
+    return runs;
+}
+
+int pageCount(const std::vector<PageRun> &runs)
+{
+    int count = 0;
+    for (const PageRun &run : runs)
+        count += run.last - run.first + 1;
+    return count;
+}
+
+int documentPage(const std::vector<PageRun> &runs, int index)
+{
+    if (index < 0)
+        return 0;
+    for (const PageRun &run : runs) {
+        const int length = run.last - run.first + 1;
+        if (index < length)
+            return run.first + index;
+        index -= length;
+    }
+    return 0;
+}
+
+} // namespace kelvo

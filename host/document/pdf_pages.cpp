@@ -1,0 +1,182 @@
+#include "pdf_pages.h"
+
+#include "output_file.h"
+
+#include <QFile>
+#include <QRectF>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFExc.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+namespace kelvo {
+
+namespace {
+
+// What viewers take for a page without a sensible size of its own.
+constexpr QSizeF fallbackSize(612, 792); // points, US Letter
+
+void open(QPDF &pdf, const QString &path)
+{
+    pdf.setSuppressWarnings(true);
+    pdf.processFile(QFile::encodeName(path).constData());
+}
+
+// `work`, which may throw what libqpdf throws, as a result.
+template <typename Work>
+auto guarded(const QString &path, Work work) -> decltype(work())
+{
+    try {
+        return work();
+    } catch (const QPDFExc &problem) {
+        if (problem.getErrorCode() == qpdf_e_password) {
+            return Error{Error::Code::Refused, path,
+                         QStringLiteral("the document is locked with a password; save a copy "
+                                        "without one and print that")};
+        }
+        return Error{Error::Code::Damaged, path,
+                     QStringLiteral("the PDF is damaged and cannot be repaired: ")
+                         + QString::fromStdString(problem.getMessageDetail())};
+    } catch (const std::exception &problem) {
+        return Error{Error::Code::Damaged, path,
+                     QStringLiteral("the PDF cannot be read: ")
+                         + QString::fromUtf8(problem.what())};
+    }
+}
+
+// `box` in whole, or nothing where it is no rectangle with an area.
+QRectF rectangle(QPDFObjectHandle box)
+{
+    if (!box.isRectangle())
+        return {};
+    const auto corners = box.getArrayAsRectangle();
+    return QRectF(QPointF(corners.llx, corners.lly), QPointF(corners.urx, corners.ury))
+        .normalized();
+}
+
+double number(QPDFObjectHandle object, double otherwise)
+{
+    return object.isNumber() ? object.getNumericValue() : otherwise;
+}
+
+QSizeF shownSize(QPDFPageObjectHelper &page)
+{
+    const QRectF media = rectangle(page.getAttribute("/MediaBox", false));
+    const QRectF crop = rectangle(page.getAttribute("/CropBox", false));
+    const QRectF shown = crop.isEmpty() ? media : media.isEmpty() ? crop : crop & media;
+    const double unit = number(page.getObjectHandle().getKey("/UserUnit"), 1);
+    const QSizeF size = (shown.isEmpty() ? media.size() : shown.size()) * unit;
+    // Three points are the smallest page that PDF knows; NaN fails both.
+    if (!(size.width() >= 3 && size.height() >= 3) || !std::isfinite(size.width() * size.height()))
+        return fallbackSize;
+    const double turn = number(page.getAttribute("/Rotate", false), 0);
+    const bool isSideways = std::isfinite(turn) && std::abs(std::fmod(turn, 180)) == 90;
+    return isSideways ? size.transposed() : size;
+}
+
+// Writes `pdf` to a new file at `target`. Warnings of the writer count as
+// damage repaired; a disk that filled up does not.
+Result<void> write(QPDF &pdf, const QString &target)
+{
+    Result<OutputFile> file = OutputFile::create(target);
+    if (!file)
+        return file.error();
+    std::string failure;
+    try {
+        QPDFWriter writer(pdf, "document", file.value().stream(), false);
+        writer.setPreserveEncryption(false);
+        writer.write();
+    } catch (const QPDFExc &) {
+        (void)file.value().close(); // the document is at fault, which guarded() tells
+        throw;
+    } catch (const std::exception &problem) {
+        failure = problem.what();
+    }
+    if (Result<void> closed = file.value().close(); !closed)
+        return closed.error();
+    if (!failure.empty()) {
+        return Error{Error::Code::NotWritable, target, QString::fromStdString(failure)};
+    }
+    return {};
+}
+
+bool beginsWithHeader(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(5) == "%PDF-";
+}
+
+} // namespace
+
+Result<PdfPages> tidyPdf(const QString &source, const QString &target)
+{
+    return guarded(source, [&]() -> Result<PdfPages> {
+        QPDF pdf;
+        open(pdf, source);
+        if (!pdf.allowPrintLowRes() && !pdf.allowPrintHighRes()) {
+            return Error{Error::Code::Refused, source,
+                         QStringLiteral("the author of the document does not allow printing it")};
+        }
+
+        PdfPages pages;
+        for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(pdf).getAllPages())
+            pages.sizes.push_back(shownSize(page));
+        if (pages.sizes.empty())
+            return Error{Error::Code::Damaged, source, QStringLiteral("the document has no pages")};
+
+        pages.isRepaired = pdf.anyWarnings();
+        if (!pages.isRepaired && !pdf.isEncrypted() && beginsWithHeader(source)) {
+            QFile file(source);
+            if (!file.rename(target))
+                return Error{Error::Code::NotWritable, target, file.errorString()};
+            return pages;
+        }
+        if (Result<void> written = write(pdf, target); !written)
+            return written.error();
+        return pages;
+    });
+}
+
+Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
+                            const QString &target)
+{
+    return guarded(source, [&]() -> Result<void> {
+        QPDF pdf;
+        open(pdf, source);
+        QPDFPageDocumentHelper helper(pdf);
+        // The document is cut in place, not copied page by page: layers that are
+        // switched off and form fields live in its catalog.
+        std::vector<QPDFPageObjectHelper> pages = helper.getAllPages();
+        // From the end, because what follows a page is renumbered.
+        for (auto page = pages.rbegin(); page != pages.rend(); ++page)
+            helper.removePage(*page);
+
+        std::vector<bool> isKept(pages.size());
+        for (const PageRun &run : runs) {
+            for (int number = run.first; number <= run.last; ++number) {
+                const auto index = static_cast<std::size_t>(number - 1);
+                helper.addPage(pages.at(index), false); // a page named twice becomes a copy
+                isKept[index] = true;
+            }
+        }
+
+        // Bookmarks, links and form fields still point at the other pages and
+        // would keep their contents in the file.
+        for (std::size_t index = 0; index < pages.size(); ++index) {
+            if (!isKept[index]) {
+                pdf.replaceObject(pages[index].getObjectHandle().getObjGen(),
+                                  QPDFObjectHandle::newNull());
+            }
+        }
+        pdf.getRoot().removeKey("/PageLabels"); // they count the pages that were
+        return write(pdf, target);
+    });
+}
+
+} // namespace kelvo

@@ -1,0 +1,248 @@
+// GLib's headers come first and use names that Qt would make macros of.
+#ifndef QT_NO_KEYWORDS
+#define QT_NO_KEYWORDS
+#endif
+#include <pango/pangocairo.h>
+
+#include "document_files.h"
+#include "pdf_canvas.h"
+#include "size_limits.h"
+
+#include <QFile>
+#include <QStringDecoder>
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+constexpr double margin = 20 / 25.4 * 72; // 20 mm, in points
+constexpr const char *fontName = "Monospace 10";
+constexpr int tabColumns = 8;
+
+// A paragraph is laid out in pieces of this many bytes: the time that a layout
+// takes grows faster than its text, and a file may be one line.
+constexpr qsizetype pieceBytes = 8 * 1024;
+
+// What Windows means by bytes that Latin-1 keeps for controls that no text has.
+constexpr char16_t windowsCharacters[32] = {
+    0x20ac, 0xfffd, 0x201a, 0x0192, 0x201e, 0x2026, 0x2020, 0x2021, 0x02c6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0xfffd, 0x017d, 0xfffd, 0xfffd, 0x2018, 0x2019, 0x201c, 0x201d, 0x2022,
+    0x2013, 0x2014, 0x02dc, 0x2122, 0x0161, 0x203a, 0x0153, 0xfffd, 0x017e, 0x0178};
+
+QByteArray fromLatin1(const QByteArray &bytes)
+{
+    QString text = QString::fromLatin1(bytes);
+    for (QChar &character : text) {
+        if (character >= QChar(0x80) && character < QChar(0xa0))
+            character = QChar(windowsCharacters[character.unicode() - 0x80]);
+    }
+    return text.toUtf8();
+}
+
+// `bytes` as UTF-8 without a byte order mark; nothing when they are no text.
+std::optional<QByteArray> textFrom(const QByteArray &bytes)
+{
+    if (isUtf16(bytes)) {
+        QStringDecoder decoder(QStringDecoder::Utf16);
+        const QString text = decoder(bytes);
+        if (decoder.hasError() || text.contains(QChar(0)))
+            return std::nullopt;
+        return text.toUtf8();
+    }
+    if (!looksLikeText(bytes))
+        return std::nullopt;
+    constexpr QByteArrayView mark = "\xef\xbb\xbf";
+    const qsizetype begin = bytes.startsWith(mark) ? mark.size() : 0;
+    // GLib's check is the one that Pango will apply.
+    if (g_utf8_validate(bytes.constData() + begin, bytes.size() - begin, nullptr))
+        return begin == 0 ? bytes : bytes.sliced(begin);
+    return fromLatin1(bytes);
+}
+
+// A line without what only a terminal understands: "ESC [ … letter" sets
+// colours, a backspace overstrikes to print bold.
+QByteArray withoutTerminalCodes(QByteArrayView line)
+{
+    QByteArray plain;
+    plain.reserve(line.size());
+    for (qsizetype at = 0; at < line.size(); ++at) {
+        const char byte = line[at];
+        if (byte == '\x1b') {
+            if (at + 1 < line.size() && line[at + 1] == '[') {
+                at += 2;
+                while (at < line.size() && !(line[at] >= '@' && line[at] <= '~'))
+                    ++at;
+            }
+        } else if (byte == '\b') {
+            while (!plain.isEmpty() && (static_cast<unsigned char>(plain.back()) & 0xc0) == 0x80)
+                plain.chop(1);
+            plain.chop(1);
+        } else if (byte != '\x1a' && byte != '\v' && byte != '\r') {
+            plain.append(byte);
+        }
+    }
+    return plain;
+}
+
+// A piece of `text`, at most pieceBytes and not in the middle of a character.
+qsizetype pieceLength(QByteArrayView text)
+{
+    if (text.size() <= pieceBytes)
+        return text.size();
+    qsizetype length = pieceBytes;
+    while (length > 1 && (static_cast<unsigned char>(text[length]) & 0xc0) == 0x80)
+        --length;
+    return length;
+}
+
+struct Unreference
+{
+    void operator()(void *object) const { g_object_unref(object); }
+    void operator()(PangoFontDescription *font) const { pango_font_description_free(font); }
+    void operator()(PangoTabArray *tabs) const { pango_tab_array_free(tabs); }
+    void operator()(PangoLayoutIter *iterator) const { pango_layout_iter_free(iterator); }
+};
+template <typename Type>
+using Owned = std::unique_ptr<Type, Unreference>;
+
+// Puts lines on pages, one after the other.
+class Typesetter
+{
+public:
+    Typesetter(PdfCanvas &canvas, const QSizeF &paper)
+        : m_canvas(canvas)
+        , m_paper(paper)
+    {
+        m_page = m_canvas.beginPage(paper);
+        // Made for the page's context, so that metrics are not rounded to a
+        // screen's pixels.
+        m_layout.reset(pango_cairo_create_layout(m_page));
+        const Owned<PangoFontDescription> font(pango_font_description_from_string(fontName));
+        pango_layout_set_font_description(m_layout.get(), font.get());
+        pango_layout_set_width(m_layout.get(),
+                               static_cast<int>((paper.width() - 2 * margin) * PANGO_SCALE));
+        pango_layout_set_wrap(m_layout.get(), PANGO_WRAP_WORD_CHAR);
+
+        pango_layout_set_text(m_layout.get(), " ", 1);
+        int width = 0;
+        pango_layout_get_size(m_layout.get(), &width, nullptr);
+        const Owned<PangoTabArray> tabs(pango_tab_array_new(1, false));
+        pango_tab_array_set_tab(tabs.get(), 0, PANGO_TAB_LEFT, width * tabColumns);
+        pango_layout_set_tabs(m_layout.get(), tabs.get());
+    }
+
+    int pages() const { return m_pages; }
+    bool isFailed() const { return m_isFailed; }
+
+    void addParagraph(QByteArrayView text)
+    {
+        do {
+            const qsizetype length = pieceLength(text);
+            const bool isLast = length == text.size();
+            text = text.sliced(addLines(text.first(length), isLast));
+        } while (!text.isEmpty() && !m_isFailed);
+    }
+
+    void endPage()
+    {
+        m_isFailed = m_isFailed || !m_canvas.endPage();
+        ++m_pages;
+        m_y = 0;
+    }
+
+    void beginPage() { m_canvas.beginPage(m_paper); }
+
+private:
+    // The number of bytes set. Of a piece that is not the paragraph's last, the
+    // last line waits for what follows it.
+    qsizetype addLines(QByteArrayView piece, bool isLast)
+    {
+        pango_layout_set_text(m_layout.get(), piece.data(), static_cast<int>(piece.size()));
+        const int count = pango_layout_get_line_count(m_layout.get());
+        const Owned<PangoLayoutIter> iterator(pango_layout_get_iter(m_layout.get()));
+        for (int index = 0; index < count; ++index) {
+            PangoLayoutLine *line = pango_layout_iter_get_line_readonly(iterator.get());
+            if (!isLast && index > 0 && index == count - 1)
+                return line->start_index;
+            addLine(iterator.get(), line);
+            pango_layout_iter_next_line(iterator.get());
+        }
+        return piece.size();
+    }
+
+    void addLine(PangoLayoutIter *iterator, PangoLayoutLine *line)
+    {
+        PangoRectangle box;
+        pango_layout_iter_get_line_extents(iterator, nullptr, &box);
+        const double height = box.height / double(PANGO_SCALE);
+        if (m_y > 0 && m_y + height > m_paper.height() - 2 * margin) {
+            endPage();
+            beginPage();
+        }
+        const double baseline =
+            (pango_layout_iter_get_baseline(iterator) - box.y) / double(PANGO_SCALE);
+        cairo_move_to(m_page, margin + box.x / double(PANGO_SCALE), margin + m_y + baseline);
+        pango_cairo_show_layout_line(m_page, line);
+        m_y += height;
+    }
+
+    PdfCanvas &m_canvas;
+    QSizeF m_paper;
+    cairo_t *m_page = nullptr; // the canvas's, the same for all pages
+    Owned<PangoLayout> m_layout;
+    double m_y = 0; // below the top margin
+    int m_pages = 0;
+    bool m_isFailed = false;
+};
+
+} // namespace
+
+Result<void> convertText(const ConverterFiles &files, const QSizeF &paper,
+                         const std::atomic_bool &cancelled)
+{
+    QFile file(files.source);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error{Error::Code::NotReadable, files.where, file.errorString()};
+    const std::optional<QByteArray> text = textFrom(file.readAll());
+    if (!text) {
+        return Error{Error::Code::Unsupported, files.where,
+                     QStringLiteral("this begins like a text but holds bytes that no text has")};
+    }
+
+    Result<PdfCanvas> canvas = PdfCanvas::create(files.pdf);
+    if (!canvas)
+        return canvas.error();
+    Typesetter typesetter(canvas.value(), paper);
+    QByteArrayView rest(*text);
+    while (!rest.isEmpty() && !typesetter.isFailed()) {
+        if (cancelled)
+            return Error{Error::Code::Cancelled, files.where, {}};
+        if (typesetter.pages() >= limits::documentPages) {
+            return Error{Error::Code::TooLarge, files.where,
+                         QStringLiteral("a text of more than %1 pages is not printed")
+                             .arg(limits::documentPages)};
+        }
+        // A line ends with a line feed (after a return or not), a return alone,
+        // or a form feed, which ends the page as well.
+        const auto end = std::ranges::find_if(
+            rest, [](char byte) { return byte == '\n' || byte == '\r' || byte == '\f'; });
+        const QByteArrayView line = rest.first(end - rest.begin());
+        const char terminator = end == rest.end() ? '\n' : *end;
+        rest = rest.sliced(std::min(line.size() + 1, rest.size()));
+        if (terminator == '\r' && rest.startsWith('\n'))
+            rest = rest.sliced(1);
+
+        if (terminator != '\f' || !line.isEmpty())
+            typesetter.addParagraph(withoutTerminalCodes(line));
+        if (terminator == '\f' && !rest.isEmpty()) {
+            typesetter.endPage();
+            typesetter.beginPage();
+        }
+    }
+    typesetter.endPage();
+    return canvas.value().close();
+}
+
+} // namespace kelvo

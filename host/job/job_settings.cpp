@@ -1,0 +1,444 @@
+#include "job_settings.h"
+
+#include "nearest_name.h"
+#include "values.h"
+
+#include <QRegularExpression>
+
+#include <charconv>
+#include <cmath>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+const QString client = QStringLiteral("com.kelvo.printingmanager");
+const QString pageSizeOption = QStringLiteral("PageSize");
+
+// What the page format calls them and the print server's names for the same.
+struct OrientationRow
+{
+    const char *requested; // orientation-requested
+    Orientation orientation;
+};
+constexpr OrientationRow orientationRows[] = {
+    {"3", Orientation::Portrait},
+    {"4", Orientation::Landscape},
+    {"5", Orientation::ReverseLandscape},
+    {"6", Orientation::ReversePortrait},
+};
+
+struct WordRow
+{
+    const char *word;
+    const char *choice;
+};
+constexpr WordRow sidesRows[] = {
+    {"one-sided", "None"},
+    {"two-sided-long-edge", "DuplexNoTumble"},
+    {"two-sided-short-edge", "DuplexTumble"},
+};
+
+struct FlagRow
+{
+    const char *word;
+    bool value;
+};
+constexpr FlagRow collateRows[] = {
+    {"true", true},
+    {"false", false},
+};
+constexpr FlagRow documentHandlingRows[] = {
+    {"separate-documents-collated-copies", true},
+    {"separate-documents-uncollated-copies", false},
+};
+
+struct UnitRow
+{
+    const char *unit;
+    double points;
+};
+constexpr UnitRow unitRows[] = {
+    {"pt", 1.0},         {"in", 72.0},        {"ft", 12 * 72.0},
+    {"mm", 72.0 / 25.4}, {"cm", 72.0 / 2.54}, {"m", 72.0 / 0.0254},
+};
+
+template <typename Row, std::size_t N>
+const Row *findRow(const Row (&rows)[N], const QString &word, const char *Row::*column)
+{
+    for (const Row &row : rows) {
+        if (word.compare(QLatin1String(row.*column), Qt::CaseInsensitive) == 0)
+            return &row;
+    }
+    return nullptr;
+}
+
+template <typename Row, std::size_t N>
+QStringList words(const Row (&rows)[N], const char *Row::*column)
+{
+    QStringList list;
+    for (const Row &row : rows)
+        list << QLatin1String(row.*column);
+    return list;
+}
+
+const QVariant *findValue(const Ticket &ticket, const QString &key)
+{
+    const auto found = ticket.entries.find(key);
+    return found == ticket.entries.end() ? nullptr : &found->second.value;
+}
+
+template <typename Read>
+auto read(const Ticket &ticket, const QString &key, Read reader) -> decltype(reader(QVariant()))
+{
+    const QVariant *value = findValue(ticket, key);
+    return value ? reader(*value) : std::nullopt;
+}
+
+const auto asText = [](const QVariant &value) { return string(value); };
+const auto asNumber = [](const QVariant &value) { return integer32(value); };
+const auto asFlag = [](const QVariant &value) { return boolean(value); };
+
+// "210x297mm" as points; none for anything else, zero and what is no length.
+std::optional<QSizeF> sizeFrom(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^([0-9]+(?:\\.[0-9]+)?)x([0-9]+(?:\\.[0-9]+)?)([a-z]*)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const auto match = form.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    double factor = 1;
+    if (const QString unit = match.captured(3); !unit.isEmpty()) {
+        const UnitRow *row = findRow(unitRows, unit, &UnitRow::unit);
+        if (!row)
+            return std::nullopt;
+        factor = row->points;
+    }
+    const auto length = [&](int group) {
+        const QByteArray digits = match.captured(group).toLatin1();
+        double number = 0;
+        const auto parsed =
+            std::from_chars(digits.constData(), digits.constData() + digits.size(), number);
+        return parsed.ec == std::errc() ? number * factor : 0.0;
+    };
+    const QSizeF size(length(1), length(2));
+    // Custom sizes are device lengths: what is larger than a house is a mistake.
+    constexpr double longest = 1e6; // points
+    if (!(size.width() > 0 && size.height() > 0 && size.width() < longest
+          && size.height() < longest))
+        return std::nullopt;
+    return size;
+}
+
+const QString customPrefix = QStringLiteral("Custom.");
+
+// The PPD's name of the page size that the user called `name`.
+std::optional<QString> findPageSizeName(const QString &name, const PpdFile &ppd)
+{
+    for (const PpdPageSize &size : ppd.pageSizes()) {
+        if (size.name.compare(name, Qt::CaseInsensitive) == 0)
+            return size.name;
+    }
+    if (name.startsWith(customPrefix, Qt::CaseInsensitive)) {
+        const QString custom = customPrefix + name.mid(customPrefix.size());
+        if (paperSize(custom, ppd))
+            return custom;
+        return std::nullopt;
+    }
+    // A self-describing name (class_name_210x297mm) says its own size; PPDs round
+    // theirs to whole points.
+    constexpr double tolerance = 2; // points
+    if (name.count(u'_') < 2)
+        return std::nullopt;
+    const auto wanted = sizeFrom(name.section(u'_', -1));
+    if (!wanted)
+        return std::nullopt;
+    for (const PpdPageSize &size : ppd.pageSizes()) {
+        if (std::abs(size.width - wanted->width()) <= tolerance
+            && std::abs(size.height - wanted->height()) <= tolerance)
+            return size.name;
+    }
+    return std::nullopt;
+}
+
+const PpdOption *findOptionInAnyCase(const QString &name, const PpdFile *ppd)
+{
+    return ppd ? ppd->findOption(name) : nullptr; // libcups compares without case
+}
+
+std::optional<QString> findChoiceName(const QString &value, const PpdOption &option)
+{
+    if (const PpdChoice *choice = option.findChoice(value))
+        return choice->keyword;
+    for (const PpdChoice &choice : option.choices) {
+        if (choice.keyword.compare(value, Qt::CaseInsensitive) == 0)
+            return choice.keyword;
+    }
+    return std::nullopt;
+}
+
+QStringList choiceNames(const PpdOption &option)
+{
+    QStringList names;
+    for (const PpdChoice &choice : option.choices)
+        names << choice.keyword;
+    return names;
+}
+
+// One -o: what it says, and what it changes.
+struct Request
+{
+    QString name, value;
+    const PpdFile *ppd;
+    PrintSession &session;
+
+    Error error(Code code, const QString &detail) const
+    {
+        return {code, name + u'=' + value, detail};
+    }
+    Error unknownValue(const QStringList &known) const
+    {
+        return error(
+            Code::NotFound,
+            QStringLiteral("%1 has no value %2%3").arg(name, value, didYouMean(value, known)));
+    }
+    Result<void> change(const std::function<void(JobSettings &)> &edit) const
+    {
+        JobSettings settings = jobSettingsFrom(session, ppd);
+        edit(settings);
+        writeJobSettings(settings, ppd, session);
+        return {};
+    }
+};
+
+Result<void> applyPpdChoice(const Request &request, const PpdOption &option)
+{
+    const bool isPaper = option.keyword == pageSizeOption
+        || option.keyword == QLatin1String("PageRegion"); // the same paper, fed by hand
+    const auto choice = isPaper ? findPageSizeName(request.value, *request.ppd)
+                                : findChoiceName(request.value, option);
+    if (!choice)
+        return request.unknownValue(choiceNames(option));
+    if (isPaper)
+        return request.change([&](JobSettings &settings) { settings.paperName = *choice; });
+    request.session.printSettings().ppdChoices.insert(option.keyword, *choice);
+    return {};
+}
+
+Result<void> applyMedia(const Request &request)
+{
+    if (!request.ppd)
+        return request.change([&](JobSettings &settings) { settings.paperName = request.value; });
+    QString paper;
+    PPDDictionary choices;
+    QStringList known;
+    for (const PpdPageSize &size : request.ppd->pageSizes())
+        known << size.name;
+    const PpdOption *others[] = {request.ppd->findOption(QStringLiteral("InputSlot")),
+                                 request.ppd->findOption(QStringLiteral("MediaType"))};
+    for (const PpdOption *option : others) {
+        if (option)
+            known << choiceNames(*option);
+    }
+    const QStringList parts = request.value.split(u',');
+    for (const QString &part : parts) {
+        bool found = false;
+        if (const auto name = findPageSizeName(part, *request.ppd)) {
+            paper = *name;
+            continue;
+        }
+        for (const PpdOption *option : others) {
+            const auto choice = option ? findChoiceName(part, *option) : std::nullopt;
+            if (!choice)
+                continue;
+            choices.insert(option->keyword, *choice);
+            found = true;
+            break;
+        }
+        if (!found)
+            return request.error(Code::NotFound,
+                                 QStringLiteral("this printer has no paper %1%2")
+                                     .arg(part, didYouMean(part, known)));
+    }
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
+        request.session.printSettings().ppdChoices.insert(choice.key(), choice.value());
+    if (paper.isEmpty())
+        return {};
+    return request.change([&](JobSettings &settings) { settings.paperName = paper; });
+}
+
+Result<void> applyOrientation(const Request &request)
+{
+    const auto *row = findRow(orientationRows, request.value, &OrientationRow::requested);
+    if (!row)
+        return request.error(Code::OutOfRange,
+                             QStringLiteral("3 is portrait, 4 landscape, 5 reverse landscape, "
+                                            "6 reverse portrait"));
+    return request.change([&](JobSettings &settings) { settings.orientation = row->orientation; });
+}
+
+Result<void> applySides(const Request &request)
+{
+    const auto *row = findRow(sidesRows, request.value, &WordRow::word);
+    if (!row)
+        return request.unknownValue(words(sidesRows, &WordRow::word));
+    const PpdOption *duplex = findOptionInAnyCase(QStringLiteral("Duplex"), request.ppd);
+    const QString choice = QLatin1String(row->choice);
+    if (!duplex || !duplex->findChoice(choice)) {
+        if (row == &sidesRows[0])
+            return {}; // what such a printer does anyway
+        return request.error(Code::NotFound,
+                             QStringLiteral("this printer does not print on both sides"));
+    }
+    request.session.printSettings().ppdChoices.insert(duplex->keyword, choice);
+    return {};
+}
+
+Result<void> applyCopies(const Request &request)
+{
+    bool isNumber = false;
+    const int copies = request.value.toInt(&isNumber);
+    if (!isNumber || copies < 1 || copies > kMaximumCopies)
+        return request.error(
+            Code::OutOfRange,
+            QStringLiteral("copies are a number from 1 to %1").arg(kMaximumCopies));
+    return request.change([&](JobSettings &settings) { settings.copies = copies; });
+}
+
+template <std::size_t N>
+Result<void> applyCollate(const Request &request, const FlagRow (&rows)[N])
+{
+    const FlagRow *row = findRow(rows, request.value, &FlagRow::word);
+    if (!row)
+        return request.unknownValue(words(rows, &FlagRow::word));
+    return request.change([&](JobSettings &settings) { settings.collate = row->value; });
+}
+
+Result<void> applyPageRanges(const Request &request)
+{
+    // Whether the document has them shows when it is there.
+    static const QRegularExpression form(QStringLiteral("^[0-9,\\- ]+$"));
+    if (!form.match(request.value).hasMatch())
+        return request.error(Code::OutOfRange, QStringLiteral("pages are written like 1-3,7,9-"));
+    return request.change([&](JobSettings &settings) { settings.pageRanges = request.value; });
+}
+
+struct OptionRow
+{
+    const char *name;
+    Result<void> (*apply)(const Request &);
+};
+constexpr OptionRow optionRows[] = {
+    {"media", applyMedia},
+    {"orientation-requested", applyOrientation},
+    {"sides", applySides},
+    {"copies", applyCopies},
+    {"collate", [](const Request &request) { return applyCollate(request, collateRows); }},
+    {"multiple-document-handling",
+     [](const Request &request) { return applyCollate(request, documentHandlingRows); }},
+    {"page-ranges", applyPageRanges},
+};
+
+} // namespace
+
+JobSettings jobSettingsFrom(const PrintSession &session, const PpdFile *ppd)
+{
+    const Ticket &print = session.printSettings();
+    const Ticket &page = session.pageFormat();
+    JobSettings settings;
+    const int copies = read(print, kPMCopiesKey, asNumber).value_or(1);
+    settings.copies = copies >= 1 && copies <= kMaximumCopies ? copies : 1;
+    settings.collate = read(print, kPMCollateKey, asFlag).value_or(true);
+    settings.pageRanges = read(print, kPMPageRangesKey, asText).value_or(QString());
+
+    settings.paperName = print.ppdChoices.value(pageSizeOption);
+    if (settings.paperName.isEmpty())
+        settings.paperName = read(page, kPMPaperNameKey, asText).value_or(QString());
+    const PpdOption *papers = ppd ? ppd->findOption(pageSizeOption) : nullptr;
+    if (settings.paperName.isEmpty() && papers)
+        settings.paperName = papers->defaultChoice;
+
+    const int orientation = read(page, kPMOrientationKey, asNumber).value_or(1);
+    if (orientation >= 1 && orientation <= 4)
+        settings.orientation = static_cast<Orientation>(orientation);
+    return settings;
+}
+
+void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSession &session)
+{
+    const PMTicketRef print = session.printSettingsTicket();
+    const PMTicketRef page = session.pageFormatTicket();
+    PMTicketSetCFNumber(print, client, kPMCopiesKey, settings.copies);
+    PMTicketSetCFBoolean(print, client, kPMCollateKey, settings.collate);
+    if (settings.pageRanges.isEmpty())
+        PMTicketReleaseItem(print, kPMPageRangesKey);
+    else
+        PMTicketSetCFString(print, client, kPMPageRangesKey, settings.pageRanges);
+    PMTicketSetCFNumber(page, client, kPMOrientationKey, static_cast<int>(settings.orientation));
+
+    const PpdOption *papers = ppd ? ppd->findOption(pageSizeOption) : nullptr;
+    const QString name =
+        settings.paperName.isEmpty() && papers ? papers->defaultChoice : settings.paperName;
+    if (name.isEmpty()) {
+        PMTicketReleaseItem(page, kPMPaperNameKey);
+        return;
+    }
+    PMTicketSetCFString(page, client, kPMPaperNameKey, name);
+    const auto size = ppd ? paperSize(name, *ppd) : std::nullopt;
+    if (!size)
+        return;
+    session.printSettings().ppdChoices.insert(pageSizeOption, name);
+    PMTicketSetCFArray(page, client, kPMPaperSizeKey, {size->width(), size->height()});
+    PMTicketSetCFArray(page, client, kPMUnadjustedPaperRectKey,
+                       {0.0, 0.0, size->height(), size->width()});
+}
+
+std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd)
+{
+    // libcups keeps lengths in single precision: 595.28 comes as 595.280029….
+    const auto rounded = [](double points) { return std::round(points * 1000) / 1000; };
+    if (const PpdPageSize *size = ppd.findPageSize(name))
+        return QSizeF(rounded(size->width), rounded(size->height));
+    const auto limits = ppd.customPageLimits();
+    if (!limits || !name.startsWith(customPrefix))
+        return std::nullopt;
+    const auto size = sizeFrom(name.mid(customPrefix.size()));
+    // A limit written in millimetres is no whole number of points.
+    constexpr double tolerance = 0.5; // points
+    if (!size || size->width() < limits->minWidth - tolerance
+        || size->width() > limits->maxWidth + tolerance
+        || size->height() < limits->minHeight - tolerance
+        || size->height() > limits->maxHeight + tolerance)
+        return std::nullopt;
+    return size;
+}
+
+Result<void> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
+                         PrintSession &session)
+{
+    const Request request{name, value, ppd, session};
+    const OptionRow *row = findRow(optionRows, name, &OptionRow::name);
+    const PpdOption *option = findOptionInAnyCase(name, ppd);
+    if (option) {
+        if (auto applied = applyPpdChoice(request, *option); !applied || !row)
+            return applied;
+    }
+    if (row) // both: a PPD's own Collate, and the host's
+        return row->apply(request);
+
+    QStringList known = words(optionRows, &OptionRow::name);
+    if (ppd) {
+        for (const PpdGroup &group : ppd->groups()) {
+            for (const PpdOption &offered : group.options)
+                known << offered.keyword;
+        }
+    }
+    return request.error(
+        Code::NotFound,
+        QStringLiteral("this printer has no option %1%2").arg(name, didYouMean(name, known)));
+}
+
+} // namespace kelvo

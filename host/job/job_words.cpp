@@ -1,0 +1,214 @@
+#include "job_words.h"
+
+#include "ppd_words.h"
+#include "values.h"
+
+#include <QDateTime>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int longestValue = 500; // characters of a ticket value that are shown
+
+// Control characters and line ends would let a value pass for a line of its own.
+QString quoted(const QString &text)
+{
+    QString shown = QStringLiteral("\"");
+    for (const QChar character : text.left(longestValue)) {
+        if (character == u'"' || character == u'\\')
+            shown += u'\\';
+        if (character == u'\n')
+            shown += QStringLiteral("\\n");
+        else if (!character.isPrint() && !character.isSurrogate())
+            shown += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        else
+            shown += character;
+    }
+    return shown + u'"';
+}
+
+// Appends `value` to `out`; stops adding once `out` is long enough, so that a
+// list of 99,999 pages costs no more than what is shown of it.
+void append(const QVariant &value, QString &out)
+{
+    if (out.size() > longestValue)
+        return;
+    if (const auto entries = dictionary(value)) {
+        out += u'{';
+        const char *separator = "";
+        for (auto entry = entries->cbegin(); entry != entries->cend(); ++entry) {
+            if (out.size() > longestValue)
+                return;
+            out += QLatin1String(separator) + entry.key().simplified() + QStringLiteral(" = ");
+            append(entry.value(), out);
+            separator = "; ";
+        }
+        out += u'}';
+    } else if (const auto elements = array(value)) {
+        out += u'(';
+        const char *separator = "";
+        for (const QVariant &element : *elements) {
+            if (out.size() > longestValue)
+                return;
+            out += QLatin1String(separator);
+            append(element, out);
+            separator = ", ";
+        }
+        out += u')';
+    } else if (const auto text = string(value)) {
+        out += quoted(*text);
+    } else if (const auto flag = boolean(value)) {
+        out += *flag ? QStringLiteral("true") : QStringLiteral("false");
+    } else if (const auto number = integer64(value)) {
+        out += QString::number(*number);
+    } else if (const auto fraction = real(value)) {
+        out += QString::number(*fraction, 'g', 10);
+    } else if (const auto bytes = data(value)) {
+        out += QStringLiteral("%1 bytes").arg(bytes->size());
+    } else if (value.typeId() == QMetaType::QDateTime) {
+        out += value.toDateTime().toUTC().toString(Qt::ISODate);
+    }
+}
+
+QString valueWords(const QVariant &value)
+{
+    QString words;
+    append(value, words);
+    if (words.size() > longestValue)
+        words = words.left(longestValue) + QStringLiteral("… (cut)");
+    return words;
+}
+
+QStringList ticketLines(const Ticket &ticket)
+{
+    QStringList lines;
+    for (const auto &[key, entry] : ticket.entries) {
+        QString line = QStringLiteral("%1 = %2").arg(key.simplified(), valueWords(entry.value));
+        if (!entry.client.isEmpty())
+            line += QStringLiteral(" (written by %1)").arg(entry.client.simplified());
+        lines << line;
+    }
+    return lines;
+}
+
+QString orientationWords(Orientation orientation)
+{
+    switch (orientation) {
+    case Orientation::Portrait:
+        return QStringLiteral("portrait");
+    case Orientation::Landscape:
+        return QStringLiteral("landscape");
+    case Orientation::ReversePortrait:
+        return QStringLiteral("reverse portrait");
+    case Orientation::ReverseLandscape:
+        return QStringLiteral("reverse landscape");
+    }
+    return {};
+}
+
+// "1 page", "2 pages"
+QString counted(int count, const char *one, const char *many)
+{
+    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+}
+
+// The host's own settings, each with what counts as the default.
+void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &words)
+{
+    const auto add = [&words](bool isDefault, const char *name, const QString &value) {
+        (isDefault ? words.defaults : words.settings)
+            << QStringLiteral("%1: %2").arg(QLatin1String(name), value);
+    };
+    const QString order = settings.copies == 1 ? QString()
+        : settings.collate                     ? QStringLiteral(", collated")
+                                               : QStringLiteral(", not collated");
+    add(settings.copies == 1, "Copies", QString::number(settings.copies) + order);
+    add(settings.pageRanges.isEmpty(), "Pages",
+        settings.pageRanges.isEmpty() ? QStringLiteral("all") : settings.pageRanges.simplified());
+    add(settings.orientation == Orientation::Portrait, "Orientation",
+        orientationWords(settings.orientation));
+    // Where there is a PPD, the paper stands among its options.
+    if (!ppd && !settings.paperName.isEmpty())
+        add(false, "Paper", settings.paperName.simplified());
+}
+
+void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, JobWords &words)
+{
+    for (const PpdGroup &group : ppd.groups()) {
+        if (isInstallable(group))
+            continue;
+        for (const PpdOption &option : group.options) {
+            // The same paper again, as it is fed by hand.
+            if (option.keyword == QLatin1String("PageRegion") && !choices.contains(option.keyword))
+                continue;
+            const QString choice = choices.value(option.keyword, option.defaultChoice);
+            if (!choice.isEmpty() && offers(ppd, option.keyword, choice))
+                (choice == option.defaultChoice ? words.defaults : words.settings)
+                    << settingWords(option, choice);
+        }
+    }
+}
+
+} // namespace
+
+JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
+                     const SecretKeys &keys)
+{
+    JobWords words;
+    addHostSettings(settings, ppd, words);
+
+    const PPDDictionary &choices = ticket.printSettings.ppdChoices;
+    if (ppd)
+        addPpdSettings(choices, *ppd, words);
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
+        if (!ppd || !offers(*ppd, choice.key(), choice.value()))
+            words.notSent << missingWords(choice.key(), choice.value(), ppd);
+    }
+    const TicketFile shown = masked(ticket, keys);
+    words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);
+    return words;
+}
+
+QString JobWords::asText() const
+{
+    const struct
+    {
+        const char *heading;
+        const QStringList &lines;
+    } parts[] = {
+        {"Settings", settings},
+        {"Not sent", notSent},
+        {"As the printer has it", defaults},
+        {"Ticket", ticket},
+    };
+    QString text;
+    for (const auto &part : parts) {
+        if (part.lines.isEmpty())
+            continue;
+        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + QLatin1String(part.heading)
+            + QStringLiteral(":\n  ") + part.lines.join(QStringLiteral("\n  ")) + u'\n';
+    }
+    return text;
+}
+
+QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
+                     const SecretKeys &keys)
+{
+    QStringList parts;
+    if (pages > 0) {
+        const QString duplex = ticket.printSettings.ppdChoices.value(QStringLiteral("Duplex"));
+        const bool twoSided = duplex.startsWith(QLatin1String("Duplex"));
+        parts << counted(pages, "page", "pages")
+              << counted(twoSided ? pages / 2 + pages % 2 : pages, "sheet", "sheets");
+    }
+    if (settings.copies > 1)
+        parts << counted(settings.copies, "copy", "copies");
+    if (holdsSecret(ticket, keys))
+        parts << QStringLiteral("locked");
+    if (isFax(ticket, keys))
+        parts << QStringLiteral("fax");
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace kelvo

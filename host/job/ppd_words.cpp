@@ -1,0 +1,58 @@
+#include "ppd_words.h"
+
+#include "job_settings.h"
+
+namespace kelvo {
+
+namespace {
+
+QString plain(const QString &text, const QString &keyword)
+{
+    const QString words = text.simplified();
+    return words.isEmpty() ? keyword : words;
+}
+
+} // namespace
+
+QString optionWords(const PpdOption &option)
+{
+    return plain(option.text, option.keyword);
+}
+
+QString choiceWords(const PpdOption &option, const QString &choice)
+{
+    const PpdChoice *found = option.findChoice(choice);
+    return found ? plain(found->text, choice) : choice;
+}
+
+QString settingWords(const PpdOption &option, const QString &choice)
+{
+    return QStringLiteral("%1: %2").arg(optionWords(option), choiceWords(option, choice));
+}
+
+QString missingWords(const QString &keyword, const QString &choice, const PpdFile *ppd)
+{
+    const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
+    const QString setting =
+        option ? settingWords(*option, choice) : QStringLiteral("%1: %2").arg(keyword, choice);
+    return setting + QStringLiteral(" – this printer does not have it");
+}
+
+bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice)
+{
+    const PpdOption *option = ppd.findOption(keyword);
+    if (!option)
+        return false;
+    if (option->findChoice(choice))
+        return true;
+    return option->keyword == QLatin1String("PageSize") && paperSize(choice, ppd);
+}
+
+bool isInstallable(const PpdGroup &group)
+{
+    // Both spellings are in the field.
+    return group.name.compare(QLatin1String("InstallableOptions"), Qt::CaseInsensitive) == 0
+        || group.name.compare(QLatin1String("Installable"), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace kelvo

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ppd_file.h"
+
+#include <QString>
+
+// Options and choices as the PPD calls them for people: plain text on one line,
+// the keyword where the PPD has no text.
+namespace kelvo {
+
+QString optionWords(const PpdOption &option);
+QString choiceWords(const PpdOption &option, const QString &choice);
+
+// "Stapling: Top Left".
+QString settingWords(const PpdOption &option, const QString &choice);
+
+// "Stapling: Top Left – this printer does not have it", or only the keywords
+// where the option itself is missing.
+QString missingWords(const QString &keyword, const QString &choice, const PpdFile *ppd);
+
+// The option has the choice, or it is a custom page size within the PPD's limits.
+bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice);
+
+// Equipment that the queue's administrator describes; jobs do not change it.
+bool isInstallable(const PpdGroup &group);
+
+} // namespace kelvo
