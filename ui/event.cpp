@@ -45,6 +45,32 @@ void forgetWidget(const QObject *widget)
         installed->target = nullptr;
 }
 
+OSStatus deliver(const Event &event)
+{
+    const QPointer<QWidget> source = event.source;
+    QPointer<QWidget> asked = source;
+    while (asked) {
+        const HandlerList handlers = registry().value(asked.data());
+        for (const auto &installed : handlers | std::views::reverse) {
+            if (!installed->target)
+                continue; // removed by one that was asked before
+            const OSStatus status = installed->handler(event);
+            if (status != eventNotHandledErr)
+                return status;
+            if (!source || !asked)
+                return noErr;
+        }
+        asked = asked->isWindow() ? nullptr : asked->parentWidget();
+    }
+    return eventNotHandledErr;
+}
+
+std::function<void(const Event &)> &eventWatcher()
+{
+    static auto &watcher = *new std::function<void(const Event &)>;
+    return watcher;
+}
+
 constexpr char sendsProperty[] = "_kelvo_sends";
 constexpr char commandProperty[] = "command";
 
@@ -176,24 +202,18 @@ EventHandlerRef installEventHandler(QWidget *target, EventHandler handler)
     return ref;
 }
 
+void watchEvents(std::function<void(const Event &)> watcher)
+{
+    eventWatcher() = std::move(watcher);
+}
+
 OSStatus sendEvent(const Event &event)
 {
     const QPointer<QWidget> source = event.source;
-    QPointer<QWidget> asked = source;
-    while (asked) {
-        const HandlerList handlers = registry().value(asked.data());
-        for (const auto &installed : handlers | std::views::reverse) {
-            if (!installed->target)
-                continue; // removed by one that was asked before
-            const OSStatus status = installed->handler(event);
-            if (status != eventNotHandledErr)
-                return status;
-            if (!source || !asked)
-                return noErr;
-        }
-        asked = asked->isWindow() ? nullptr : asked->parentWidget();
-    }
-    return eventNotHandledErr;
+    const OSStatus status = deliver(event);
+    if (source && eventWatcher())
+        eventWatcher()(event);
+    return status;
 }
 
 OSStatus sendCommand(QWidget *window, OSType command, std::int32_t reference)

@@ -62,6 +62,11 @@ private:
 // nothing more on behalf of a window that is not there.
 OSStatus sendEvent(const Event &event);
 
+// Tells `watcher` of every event in the program once it has ended, whoever took
+// it: for what follows from the user's changes as a whole. There is one watcher;
+// an empty one removes it. An event whose source is gone is not told.
+void watchEvents(std::function<void(const Event &)> watcher);
+
 // A command to `window`, as a menu or a script sends it.
 OSStatus sendCommand(QWidget *window, OSType command, std::int32_t reference = 0);
 

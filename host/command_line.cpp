@@ -1,0 +1,322 @@
+#include "command_line.h"
+
+#include "nearest_name.h"
+#include "page_ranges.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+constexpr int maximumCopies = 9999;
+constexpr int maximumTimeoutSeconds = 3600;
+
+Error refused(const QString &where, const QString &detail)
+{
+    return {Code::Refused, where, detail};
+}
+
+// A whole number in plain digits: no sign, no blank, no exponent.
+std::optional<int> wholeNumber(const QString &text, int minimum, int maximum)
+{
+    const bool isPlain = !text.isEmpty() && text.size() <= 9
+        && std::all_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return c >= u'0' && c <= u'9'; });
+    if (!isPlain)
+        return std::nullopt;
+    const int number = text.toInt();
+    if (number < minimum || number > maximum)
+        return std::nullopt;
+    return number;
+}
+
+QString notANumber(const QString &value, int minimum, int maximum)
+{
+    return QStringLiteral("\"%1\" is not a whole number from %2 to %3")
+        .arg(value)
+        .arg(minimum)
+        .arg(maximum);
+}
+
+// NAME=VALUE; none when there is no name before the sign.
+std::optional<QPair<QString, QString>> nameAndValue(const QString &text)
+{
+    const qsizetype sign = text.indexOf(u'=');
+    if (sign < 1)
+        return std::nullopt;
+    return QPair<QString, QString>{text.left(sign), text.mid(sign + 1)};
+}
+
+bool isSecretName(const QString &name)
+{
+    return std::all_of(name.cbegin(), name.cend(), [](QChar c) {
+        return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9')
+            || c == u'_' || c == u'-';
+    });
+}
+
+// What an option does with its value; `where` is the option as it was written.
+using Take = Result<void> (*)(CommandLine &line, const QString &value, const QString &where);
+
+struct OptionRow
+{
+    const char *shortName; // "-d", or null
+    const char *longName;  // "--ppd", or null
+    const char *value;     // what the usage calls its value; null: it takes none
+    const char *help;      // null: known, but not in the usage
+    Take take;
+};
+
+template <std::optional<QString> CommandLine::*Member>
+Result<void> takeText(CommandLine &line, const QString &value, const QString &where)
+{
+    if (value.isEmpty())
+        return refused(where, QStringLiteral("its value is empty"));
+    line.*Member = value;
+    return {};
+}
+
+template <bool CommandLine::*Member>
+Result<void> takeFlag(CommandLine &line, const QString &, const QString &)
+{
+    line.*Member = true;
+    return {};
+}
+
+Result<void> takeCopies(CommandLine &line, const QString &value, const QString &where)
+{
+    line.copies = wholeNumber(value, 1, maximumCopies);
+    if (!line.copies)
+        return refused(where, notANumber(value, 1, maximumCopies));
+    return {};
+}
+
+Result<void> takeOption(CommandLine &line, const QString &value, const QString &where)
+{
+    const auto option = nameAndValue(value);
+    if (!option || option->second.isEmpty())
+        return refused(where, QStringLiteral("\"%1\" is not NAME=VALUE").arg(value));
+    line.options.append(*option);
+    return {};
+}
+
+Result<void> takePages(CommandLine &line, const QString &value, const QString &where)
+{
+    // How many pages there are is known later; the form is known now.
+    const auto runs = pageRunsFrom(value, std::numeric_limits<int>::max());
+    if (value.trimmed().isEmpty() || !runs)
+        return refused(where, QStringLiteral("\"%1\" is not a list of pages such as 1-3,7,9-")
+                                  .arg(value));
+    line.pages = value;
+    return {};
+}
+
+Result<void> takeSecret(CommandLine &line, const QString &value, const QString &where)
+{
+    const auto secret = nameAndValue(value);
+    if (!secret || secret->second.isEmpty())
+        return refused(where, QStringLiteral("it takes NAME=FILE; the secret itself stands in the "
+                                             "file"));
+    if (!isSecretName(secret->first))
+        return refused(where, QStringLiteral("a secret's name has only letters, digits, - and _"));
+    if (line.secretFiles.contains(secret->first))
+        return refused(where, QStringLiteral("the secret %1 is given twice").arg(secret->first));
+    line.secretFiles.insert(secret->first, secret->second);
+    return {};
+}
+
+Result<void> takeTimeout(CommandLine &line, const QString &value, const QString &where)
+{
+    const auto seconds = wholeNumber(value, 1, maximumTimeoutSeconds);
+    if (!seconds)
+        return refused(where, notANumber(value, 1, maximumTimeoutSeconds));
+    line.timeoutSeconds = *seconds;
+    return {};
+}
+
+// In the order of the usage.
+// clang-format off
+constexpr OptionRow optionRows[] = {
+    {"-d", nullptr, "DESTINATION", "print to this queue", takeText<&CommandLine::destination>},
+    {"-n", nullptr, "COPIES", "print this many copies, 1 to 9999", takeCopies},
+    {"-o", nullptr, "NAME=VALUE", "set an option of the device, media=NAME or\norientation-requested=3|4|5|6", takeOption},
+    {"-P", nullptr, "PAGES", "print only these pages: 1-3,7,9-", takePages},
+    {"-t", nullptr, "TITLE", "call the job so", takeText<&CommandLine::title>},
+    {nullptr, "--ppd", "FILE", "show a device without a queue", takeText<&CommandLine::ppd>},
+    {nullptr, "--demo", nullptr, "show the sample device and document", takeFlag<&CommandLine::demo>},
+    {nullptr, "--preset", "NAME", "begin with this preset", takeText<&CommandLine::preset>},
+    {nullptr, "--ticket-in", "FILE", "begin with the settings in this ticket", takeText<&CommandLine::ticketIn>},
+    {nullptr, "--ticket-out", "FILE", "write the settings when printing, or when the script ends", takeText<&CommandLine::ticketOut>},
+    {nullptr, "--script", "FILE", "drive the dialog; - is standard input", takeText<&CommandLine::script>},
+    {nullptr, "--print", nullptr, "print when the script has ended", takeFlag<&CommandLine::print>},
+    {nullptr, "--secret", "NAME=FILE", "a secret that the script types, in a file of mode 0600", takeSecret},
+    {nullptr, "--no-window", nullptr, "show nothing; without a script, print at once", takeFlag<&CommandLine::noWindow>},
+    {nullptr, "--to", "DIR", "write document.pdf, options and ticket.plist there\ninstead of sending", takeText<&CommandLine::toFolder>},
+    {nullptr, "--timeout", "SECONDS", "wait this long for the print server, 1 to 3600 (30)", takeTimeout},
+    {nullptr, "--list-printers", nullptr, "list the queues and end", takeFlag<&CommandLine::listPrinters>},
+    {nullptr, "--list-controls", nullptr, "list what scripts can reach, and end", takeFlag<&CommandLine::listControls>},
+    {nullptr, "--version", nullptr, "print the version and end", takeFlag<&CommandLine::version>},
+    {"-h", "--help", nullptr, "print this and end", takeFlag<&CommandLine::help>},
+};
+// clang-format on
+
+QString nameOf(const OptionRow &row)
+{
+    return QString::fromLatin1(row.longName ? row.longName : row.shortName);
+}
+
+const OptionRow *findLong(const QString &name)
+{
+    for (const OptionRow &row : optionRows) {
+        if (row.longName && name == QLatin1String(row.longName))
+            return &row;
+    }
+    return nullptr;
+}
+
+const OptionRow *findShort(const QString &name)
+{
+    for (const OptionRow &row : optionRows) {
+        if (row.shortName && name == QLatin1String(row.shortName))
+            return &row;
+    }
+    return nullptr;
+}
+
+QStringList allNames()
+{
+    QStringList names;
+    for (const OptionRow &row : optionRows)
+        names.append(nameOf(row));
+    return names;
+}
+
+Error noSuchOption(const QString &name)
+{
+    return refused(name, QStringLiteral("there is no such option") + didYouMean(name, allNames()));
+}
+
+Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
+{
+    if (*hasFile)
+        return refused(file, QStringLiteral("only one document is printed at a time"));
+    *hasFile = true;
+    line.file = file == QLatin1String("-") ? QString() : file;
+    return {};
+}
+
+// What is wrong with options that are right by themselves.
+std::optional<Error> findClash(const CommandLine &line)
+{
+    if (line.ppd && line.demo)
+        return refused(QStringLiteral("--demo"),
+                       QStringLiteral("it brings a device of its own; leave out --ppd"));
+    if (line.destination && (line.ppd || line.demo))
+        return refused(QStringLiteral("-d"),
+                       QStringLiteral("%1 shows a device without a queue; leave out one of them")
+                           .arg(line.ppd ? QStringLiteral("--ppd") : QStringLiteral("--demo")));
+    if (line.print && !line.script)
+        return refused(QStringLiteral("--print"),
+                       QStringLiteral("it prints after a script: add --script FILE, or use "
+                                      "--no-window to print at once"));
+    if (line.noWindow && !line.script && (line.ppd || line.demo) && !line.toFolder)
+        return refused(QStringLiteral("--no-window"),
+                       QStringLiteral("a device without a queue cannot print; add --to DIR"));
+    if (line.script == QStringLiteral("-") && line.file.isEmpty() && !line.demo)
+        return refused(QStringLiteral("--script -"),
+                       QStringLiteral("standard input is the document already; name one of them "
+                                      "as a file"));
+    return std::nullopt;
+}
+
+} // namespace
+
+Result<CommandLine> parseCommandLine(const QStringList &arguments)
+{
+    CommandLine line;
+    bool hasFile = false;
+    bool optionsEnded = false;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments[i];
+        if (optionsEnded || !argument.startsWith(u'-') || argument == QLatin1String("-")) {
+            if (argument.isEmpty())
+                return refused(QStringLiteral("\"\""), QStringLiteral("a document has a name"));
+            if (const auto taken = takeFile(line, argument, &hasFile); !taken)
+                return taken.error();
+            continue;
+        }
+        if (argument == QLatin1String("--")) {
+            optionsEnded = true;
+            continue;
+        }
+
+        // --name, --name=value, -n, -nvalue
+        const bool isLong = argument.startsWith(QLatin1String("--"));
+        const qsizetype sign = isLong ? argument.indexOf(u'=') : -1;
+        const QString name = isLong ? argument.left(sign) : argument.left(2);
+        const OptionRow *row = isLong ? findLong(name) : findShort(name);
+        if (!row)
+            return noSuchOption(isLong ? name : argument);
+        std::optional<QString> value;
+        if (sign >= 0)
+            value = argument.mid(sign + 1);
+        else if (!isLong && argument.size() > 2)
+            value = argument.mid(2);
+        if (!row->value && value)
+            return refused(name, QStringLiteral("it takes no value; \"%1\" is too much").arg(*value));
+        if (row->value && !value) {
+            if (i + 1 == arguments.size())
+                return refused(name, QStringLiteral("its value %1 is missing")
+                                         .arg(QLatin1String(row->value)));
+            value = arguments[++i];
+        }
+        if (const auto taken = row->take(line, value.value_or(QString()), name); !taken)
+            return taken.error();
+    }
+
+    if (line.help || line.version || line.listPrinters || line.listControls)
+        return line;
+    if (const auto clash = findClash(line))
+        return *clash;
+    return line;
+}
+
+QString usageText()
+{
+    constexpr int helpColumn = 28;
+    QString text = QStringLiteral(
+        "Usage: kelvo-print [OPTION]... [FILE]\n"
+        "\n"
+        "Shows the print dialog for FILE, or for standard input: PDF, PostScript, text\n"
+        "or a picture.\n"
+        "\n");
+    for (const OptionRow &row : optionRows) {
+        QStringList names;
+        for (const char *name : {row.shortName, row.longName}) {
+            if (name)
+                names.append(QString::fromLatin1(name));
+        }
+        QString left = QStringLiteral("  ") + names.join(QStringLiteral(", "));
+        if (row.value)
+            left += u' ' + QLatin1String(row.value);
+        const QStringList help = QString::fromLatin1(row.help).split(u'\n');
+        text += left.leftJustified(helpColumn) + help.first() + u'\n';
+        for (qsizetype i = 1; i < help.size(); ++i)
+            text += QString(helpColumn, u' ') + help[i] + u'\n';
+    }
+    text += QStringLiteral(
+        "\n"
+        "Later beats earlier: the device's defaults, the queue's, the site's preset,\n"
+        "--preset, --ticket-in, -o, --script.\n"
+        "\n"
+        "Ends with 0 printed, 1 failed, 2 wrong usage or script, 3 settings in conflict\n"
+        "or not offered, 4 destination unknown or unreachable, 6 ticket invalid,\n"
+        "130 cancelled.\n");
+    return text;
+}
+
+} // namespace kelvo

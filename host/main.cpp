@@ -1,0 +1,347 @@
+#include "application_files.h"
+#include "background_task.h"
+#include "command_line.h"
+#include "control_list.h"
+#include "exit_status.h"
+#include "file_store.h"
+#include "help_window.h"
+#include "print_dialog.h"
+#include "printers.h"
+#include "script_parser.h"
+#include "script_runner.h"
+#include "size_limits.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QSocketNotifier>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace kelvo;
+
+namespace {
+
+constexpr int endWaitMs = 1000; // for threads that were told to stop
+
+int toInt(ExitStatus status)
+{
+    return static_cast<int>(status);
+}
+
+int fail(ExitStatus status, const QString &text)
+{
+    std::fprintf(stderr, "kelvo-print: %s\n", qUtf8Printable(text));
+    return toInt(status);
+}
+
+void say(const QString &text)
+{
+    std::fputs(qUtf8Printable(text), stdout);
+    std::fflush(stdout);
+}
+
+// ---- before the application object is made
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+// A private run-time folder where the session has none: Qt would warn and make
+// one of its own that stays.
+std::unique_ptr<QTemporaryDir> provideRuntimeFolder()
+{
+    if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        return nullptr;
+    auto folder = std::make_unique<QTemporaryDir>();
+    if (folder->isValid())
+        qputenv("XDG_RUNTIME_DIR", folder->path().toLocal8Bit());
+    return folder;
+}
+
+// ---- signals
+
+int signalPipe[2] = {-1, -1};
+
+extern "C" void noteSignal(int)
+{
+    const char byte = 0;
+    // A full pipe holds a signal already.
+    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
+}
+
+// The first signal ends as Cancel does; a second one ends at once.
+void endOnSignals(PrintDialog &dialog)
+{
+    if (::pipe(signalPipe) != 0)
+        return;
+    struct sigaction action = {};
+    action.sa_handler = noteSignal;
+    action.sa_flags = SA_RESTART | SA_RESETHAND;
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+    auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, &dialog);
+    QObject::connect(notifier, &QSocketNotifier::activated, &dialog, [&dialog] {
+        char byte;
+        [[maybe_unused]] const ssize_t count = ::read(signalPipe[0], &byte, 1);
+        dialog.interrupt();
+    });
+}
+
+// ---- what the command line names
+
+// A secret's file: the user's alone, one text, its last line break left out.
+Result<QString> readSecret(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return Error{Error::Code::NotFound, path,
+                     QString::fromLocal8Bit(std::strerror(errno))};
+    if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        return Error{Error::Code::Refused, path,
+                     QStringLiteral("others may read this secret; set its mode to 0600")};
+    const auto bytes = readFile(path, limits::secretBytes);
+    if (!bytes)
+        return bytes.error();
+    QString text = QString::fromUtf8(bytes.value());
+    if (text.endsWith(u'\n'))
+        text.chop(1);
+    if (text.endsWith(u'\r'))
+        text.chop(1);
+    if (text.isEmpty())
+        return Error{Error::Code::Damaged, path, QStringLiteral("the secret is empty")};
+    return text;
+}
+
+struct Failure
+{
+    ExitStatus status;
+    QString text;
+};
+
+// Reads everything that can be read before there is a window.
+std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString> &secrets,
+                                  std::vector<ScriptLine> &script)
+{
+    const CommandLine &line = options.line;
+    for (auto secret = line.secretFiles.cbegin(); secret != line.secretFiles.cend(); ++secret) {
+        const auto text = readSecret(secret.value());
+        if (!text)
+            return Failure{ExitStatus::WrongUsage, text.error().text()};
+        secrets.insert(secret.key(), text.value());
+    }
+    if (line.script) {
+        auto lines = readScript(*line.script);
+        if (!lines)
+            return Failure{ExitStatus::WrongUsage, lines.error().text()};
+        script = std::move(lines).value();
+    }
+    if (line.ticketIn) {
+        auto ticket = readTicketFile(*line.ticketIn);
+        if (!ticket)
+            return Failure{ExitStatus::InvalidTicket, ticket.error().text()};
+        options.ticketIn = std::move(ticket).value();
+    }
+    if (line.preset) {
+        auto preset = PresetStore().read(*line.preset);
+        if (!preset)
+            return Failure{preset.error().code == Error::Code::NotFound ? ExitStatus::WrongUsage
+                                                                        : ExitStatus::InvalidTicket,
+                           preset.error().text()};
+        options.preset = std::move(preset).value();
+    }
+    const QString devicePath
+        = line.demo ? findSharedFile(QStringLiteral("ppds/kelvo-corvane-full.ppd"))
+                    : line.ppd.value_or(QString());
+    if (line.demo && devicePath.isEmpty())
+        return Failure{ExitStatus::Failed,
+                       QStringLiteral("--demo: the sample device is not installed")};
+    if (!devicePath.isEmpty()) {
+        auto device = PpdFile::open(devicePath);
+        if (!device)
+            return Failure{ExitStatus::NoDestination, device.error().text()};
+        options.device = std::move(device).value();
+    }
+    DocumentSource source{line.file, line.title.value_or(QString())};
+    if (line.file.isEmpty() && line.demo) {
+        source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
+        if (source.path.isEmpty())
+            return Failure{ExitStatus::Failed,
+                           QStringLiteral("--demo: the sample document is not installed")};
+    } else if (line.file.isEmpty()) {
+        if (::isatty(STDIN_FILENO))
+            return Failure{ExitStatus::WrongUsage,
+                           QStringLiteral("there is no document: name a file, or pipe one in. "
+                                          "`kelvo-print --help` says more.")};
+    } else if (!QFileInfo(line.file).isFile() && !QFileInfo(line.file).isReadable()) {
+        return Failure{ExitStatus::Failed,
+                       QStringLiteral("%1: there is no such document").arg(line.file)};
+    }
+    options.document = source;
+    return std::nullopt;
+}
+
+int listQueues(int timeoutMs)
+{
+    const auto printers = listPrinters(timeoutMs);
+    if (!printers)
+        return fail(ExitStatus::NoDestination, printers.error().text());
+    for (const Printer &printer : printers.value()) {
+        const QString state = !printer.acceptsJobs ? QStringLiteral("rejecting")
+            : printer.state == Printer::State::Idle ? QStringLiteral("idle")
+            : printer.state == Printer::State::Busy ? QStringLiteral("printing")
+                                                    : QStringLiteral("stopped");
+        say(QStringList{printer.name, state,
+                        printer.isDefault ? QStringLiteral("default") : QString(),
+                        printer.makeAndModel, printer.location}
+                .join(u'\t')
+            + u'\n');
+    }
+    return 0;
+}
+
+int runDialog(DialogOptions options)
+{
+    QMap<QString, QString> secrets;
+    std::vector<ScriptLine> script;
+    const CommandLine line = options.line;
+    if (const auto failure = readInputs(options, secrets, script))
+        return fail(failure->status, failure->text);
+
+    ExitStatus status = ExitStatus::Failed;
+    PrintDialog dialog(std::move(options));
+    dialog.setSecrets(std::move(secrets));
+    endOnSignals(dialog);
+    QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status](ExitStatus end) {
+        status = end;
+        QCoreApplication::quit();
+    });
+
+    std::unique_ptr<ScriptRunner> runner;
+    if (line.script || line.noWindow) {
+        dialog.setDriven(true);
+        const QString name = line.script.value_or(QStringLiteral("--no-window"));
+        const bool printsAtEnd = line.print || !line.script;
+        runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
+                                                ScriptRunner::Options{name, printsAtEnd});
+        // The runner knows better than the dialog how its run ended.
+        QObject::connect(runner.get(), &ScriptRunner::ended, qApp,
+                         [&status, &dialog](ExitStatus end) {
+                             if (!dialog.finished()) {
+                                 if (const auto written = dialog.writeTicketOut(); !written) {
+                                     fail(ExitStatus::Failed, written.error().text());
+                                     if (end == ExitStatus::Printed)
+                                         end = ExitStatus::Failed;
+                                 }
+                                 dialog.interrupt();
+                             }
+                             status = end;
+                             QCoreApplication::quit();
+                         });
+    }
+    dialog.start();
+    if (!dialog.finished()) {
+        dialog.show();
+        if (runner)
+            runner->start();
+        QApplication::exec();
+    }
+    return toInt(status);
+}
+
+int runApplication(int argc, char **argv, const CommandLine &line)
+{
+    const auto runtimeFolder = provideRuntimeFolder();
+    if (line.noWindow || line.listControls) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    } else if (!hasDisplay()) {
+        return fail(ExitStatus::WrongUsage,
+                    QStringLiteral("there is no display to show the dialog on; --no-window prints "
+                                   "without one"));
+    }
+    QApplication application(argc, argv);
+    // The application object took over the locale; what we write must not follow it.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName(QStringLiteral("kelvo-print"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Print"));
+    QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    DialogOptions options;
+    options.line = line;
+    if (auto bundle = openPanelBundle())
+        options.bundle = bundle.value();
+    else
+        options.bundleProblem = QStringLiteral("The device panels are missing (%1).")
+                                    .arg(bundle.error().text());
+    if (const QString help = findSharedFile(QStringLiteral("help")); !help.isEmpty())
+        addHelpFolder(help);
+
+    if (line.listControls) {
+        PrintDialog dialog(options);
+        const auto list = controlList(&dialog, options.bundle);
+        if (!list)
+            return fail(ExitStatus::Failed, list.error().text());
+        say(list.value());
+        return 0;
+    }
+    return runDialog(std::move(options));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // The child process that decodes a picture; not for users.
+    if (argc == 4 && std::strcmp(argv[1], "--picture-helper") == 0) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        const QGuiApplication application(argc, argv);
+        std::setlocale(LC_NUMERIC, "C");
+        return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
+    }
+
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const auto parsed = parseCommandLine(arguments);
+    if (!parsed) {
+        fail(ExitStatus::WrongUsage, parsed.error().text());
+        std::fputs("Try: kelvo-print --help\n", stderr);
+        return toInt(ExitStatus::WrongUsage);
+    }
+    const CommandLine &line = parsed.value();
+    if (line.help) {
+        say(usageText());
+        return 0;
+    }
+    if (line.version) {
+        say(QStringLiteral("kelvo-print " KELVO_VERSION "\n"));
+        return 0;
+    }
+    if (line.listPrinters) {
+        const QCoreApplication application(argc, argv);
+        return listQueues(line.timeoutSeconds * 1000);
+    }
+
+    // Qt reads its own options out of what it is given: it gets none of ours.
+    int ownCount = 1;
+    char *own[] = {argv[0], nullptr};
+    const int status = runApplication(ownCount, own, line);
+    if (!waitForBackgroundWork(endWaitMs)) {
+        // A thread hangs in a server's answer; nothing of the user's is left to do.
+        std::fflush(nullptr);
+        std::_Exit(status);
+    }
+    return status;
+}

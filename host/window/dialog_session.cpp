@@ -1,0 +1,440 @@
+#include "dialog_session.h"
+
+#include "nearest_name.h"
+#include "ticket_layers.h"
+
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+const QString hostClient = QStringLiteral("com.kelvo.printingmanager");
+
+} // namespace
+
+DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObject *parent)
+    : QObject(parent)
+    , m_options(std::move(options))
+    , m_panesParent(panesParent)
+    , m_secretKeys(secretKeysOf(m_options.bundle))
+    , m_session(std::make_unique<PrintSession>())
+{
+}
+
+DialogSession::~DialogSession()
+{
+    stop();
+}
+
+void DialogSession::start()
+{
+    openTheDocument();
+    if (m_options.device) {
+        m_ppd = m_options.device;
+        m_printerName = m_ppd->modelName();
+        m_arePrintersKnown = m_isPpdKnown = true;
+        emit printersChanged();
+        begin();
+        return;
+    }
+    m_printerName = m_options.line.destination.value_or(QString());
+    findPrinters();
+}
+
+void DialogSession::retry()
+{
+    if (m_stage == Stage::Stuck)
+        findPrinters();
+}
+
+void DialogSession::stop()
+{
+    if (m_openingCancelled)
+        *m_openingCancelled = true;
+    m_opening.drop();
+    endPanels();
+    m_directory.reset();
+}
+
+void DialogSession::setStage(Stage stage, Message message)
+{
+    m_stage = stage;
+    m_message = std::move(message);
+    emit stageChanged();
+}
+
+// ---- printers and their PPDs
+
+void DialogSession::findPrinters()
+{
+    m_arePrintersKnown = m_isPpdKnown = false;
+    m_directory = std::make_unique<PrinterDirectory>();
+    connect(m_directory.get(), &PrinterDirectory::printersFound, this,
+            &DialogSession::takePrinters);
+    connect(m_directory.get(), &PrinterDirectory::printersFailed, this, [this](const Error &error) {
+        const bool isSilent = error.code == Code::TimedOut || error.code == Code::Unreachable;
+        setStage(Stage::Stuck,
+                 {isSilent ? tr("The print server does not answer")
+                           : tr("The printers cannot be listed"),
+                  tr("%1\nCheck that the print server runs and that this computer reaches it, "
+                     "then try again.")
+                      .arg(error.text()),
+                  true});
+    });
+    connect(m_directory.get(), &PrinterDirectory::ppdFetched, this,
+            [this](const QString &printer, const QString &path) {
+                if (printer == m_printerName)
+                    takePpd(path);
+            });
+    connect(m_directory.get(), &PrinterDirectory::ppdFailed, this,
+            [this](const QString &printer, const Error &error) {
+                if (printer != m_printerName)
+                    return;
+                if (error.code == Code::NotFound) {
+                    beginWithoutPpd(tr("The print server has no description of its settings."));
+                } else if (!m_arePrintersKnown || findPrinter(printer)) {
+                    // A name that the server does not know is told as such, with the list.
+                    setStage(Stage::Stuck,
+                             {tr("The settings of “%1” cannot be read").arg(printer),
+                              tr("%1\nTry again, or choose another printer.").arg(error.text()),
+                              true});
+                }
+            });
+    setStage(Stage::Searching,
+             {tr("Looking for printers"), tr("The print server has not answered yet."), false});
+    m_directory->refresh(m_options.line.timeoutSeconds * 1000);
+    // Both questions at once: the second need not wait for the first.
+    if (!m_printerName.isEmpty())
+        m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+}
+
+const Printer *DialogSession::findPrinter(const QString &name) const
+{
+    for (const Printer &printer : m_printers) {
+        if (printer.name == name)
+            return &printer;
+    }
+    return nullptr;
+}
+
+void DialogSession::takePrinters(const QList<Printer> &printers)
+{
+    m_printers = printers;
+    m_arePrintersKnown = true;
+    if (m_printers.isEmpty()) {
+        emit printersChanged();
+        setStage(Stage::Stuck,
+                 {tr("There is no printer"),
+                  tr("Add one in the system's printer settings, then try again."), true});
+        return;
+    }
+    if (m_printerName.isEmpty()) {
+        m_printerName = m_printers.first().name;
+        emit printersChanged();
+        fetchPpd();
+        return;
+    }
+    emit printersChanged();
+    if (!findPrinter(m_printerName)) {
+        QStringList names;
+        for (const Printer &printer : m_printers)
+            names.append(printer.name);
+        setStage(Stage::Stuck,
+                 {tr("There is no printer “%1”").arg(m_printerName),
+                  tr("The print server does not know it%1 Choose another printer, or try again.")
+                      .arg(didYouMean(m_printerName, names).isEmpty()
+                               ? QStringLiteral(".")
+                               : didYouMean(m_printerName, names)),
+                  true});
+        return;
+    }
+    beginWhenComplete();
+}
+
+void DialogSession::fetchPpd()
+{
+    m_isPpdKnown = false;
+    m_ppd.reset();
+    setStage(Stage::Searching,
+             {tr("Asking for the settings of “%1”").arg(m_printerName),
+              tr("The print server has not answered yet."), false});
+    m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+}
+
+void DialogSession::takePpd(const QString &path)
+{
+    auto opened = PpdFile::open(path);
+    if (!opened) {
+        // The copy's path means nothing to the user.
+        beginWithoutPpd(tr("The description of its settings is damaged (%1).")
+                            .arg(opened.error().detail));
+        return;
+    }
+    m_ppd = std::move(opened).value();
+    m_noPpdReason.clear();
+    m_isPpdKnown = true;
+    beginWhenComplete();
+}
+
+void DialogSession::beginWithoutPpd(const QString &why)
+{
+    m_ppd.reset();
+    m_noPpdReason = why;
+    m_isPpdKnown = true;
+    beginWhenComplete();
+}
+
+void DialogSession::beginWhenComplete()
+{
+    if (m_arePrintersKnown && m_isPpdKnown && findPrinter(m_printerName))
+        begin();
+}
+
+void DialogSession::choosePrinter(const QString &name)
+{
+    if (name == m_printerName && m_stage == Stage::Ready)
+        return;
+    if (m_stage == Stage::Ready) {
+        writeAll();
+        m_carried = carriedOn(m_came, m_settled, ticket());
+        m_wasChanged = isChanged();
+        endPanels();
+    }
+    m_printerName = name;
+    fetchPpd();
+}
+
+// ---- tickets
+
+void DialogSession::begin()
+{
+    m_session = std::make_unique<PrintSession>();
+    m_session->setPrinter({m_printerName, m_ppd ? m_ppd->path() : QString()});
+    if (m_carried) {
+        load(*m_carried, *m_session);
+    } else if (const auto laid = layFirstSettings(); !laid) {
+        emit refused(ExitStatus::NotOffered, laid.error().text());
+        return;
+    }
+    m_came = ticketFileFrom(*m_session);
+    beginPanels();
+    settle();
+    setStage(Stage::Ready, m_message);
+    emit reloaded();
+}
+
+// The device's own defaults stand in its PPD; a queue's are laid over them.
+void DialogSession::layDefaults()
+{
+    if (const Printer *printer = findPrinter(m_printerName)) {
+        const auto &defaults = printer->defaults;
+        for (auto option = defaults.cbegin(); option != defaults.cend(); ++option) {
+            // Most of what the server lists is no setting of a job: passed over.
+            static_cast<void>(
+                bool(applyOption(option.key(), option.value(), m_ppd.get(), *m_session)));
+        }
+    }
+    if (const auto site = m_presets.siteDefaults())
+        layOver(*site, *m_session);
+}
+
+Result<void> DialogSession::layFirstSettings()
+{
+    const CommandLine &line = m_options.line;
+    layDefaults();
+    if (m_options.preset)
+        layOver(*m_options.preset, *m_session);
+    if (m_options.ticketIn) {
+        layOver(*m_options.ticketIn, *m_session);
+        m_unknown = m_options.ticketIn->unknown;
+    }
+    for (const auto &[name, value] : line.options) {
+        if (auto applied = applyOption(name, value, m_ppd.get(), *m_session); !applied)
+            return applied;
+    }
+    if (line.copies || line.pages) {
+        JobSettings settings = jobSettingsFrom(*m_session, m_ppd.get());
+        settings.copies = line.copies.value_or(settings.copies);
+        settings.pageRanges = line.pages.value_or(settings.pageRanges);
+        writeJobSettings(settings, m_ppd.get(), *m_session);
+    }
+    PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, title());
+    return {};
+}
+
+// The ticket as this device has it, before the user touches anything.
+void DialogSession::settle()
+{
+    m_missing = m_ppd ? missingOnDevice(*m_session, *m_ppd) : QStringList();
+    writeJobSettings(jobSettingsFrom(*m_session, m_ppd.get()), m_ppd.get(), *m_session);
+    readAll();
+    writeAll();
+    m_settled = ticketFileFrom(*m_session);
+    m_unchanged = m_settled;
+}
+
+JobSettings DialogSession::settings() const
+{
+    return jobSettingsFrom(*m_session, m_ppd.get());
+}
+
+void DialogSession::change(const JobSettings &settings)
+{
+    writeAll();
+    writeJobSettings(settings, m_ppd.get(), *m_session);
+    readAll();
+}
+
+TicketFile DialogSession::ticket() const
+{
+    TicketFile file = ticketFileFrom(*m_session);
+    file.unknown = m_unknown;
+    return file;
+}
+
+void DialogSession::usePreset(const TicketFile *preset)
+{
+    const QString pages = settings().pageRanges;
+    m_session->printSettings() = {};
+    m_session->pageFormat() = {};
+    layDefaults();
+    if (preset)
+        layOver(*preset, *m_session);
+    PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, title());
+    JobSettings own = settings();
+    own.pageRanges = pages;
+    m_came = ticketFileFrom(*m_session);
+    writeJobSettings(own, m_ppd.get(), *m_session);
+    settle();
+    m_wasChanged = false;
+    emit reloaded();
+}
+
+bool DialogSession::isChanged() const
+{
+    return m_wasChanged || !asksForTheSame(m_unchanged, ticketFileFrom(*m_session));
+}
+
+void DialogSession::takeAsUnchanged()
+{
+    m_unchanged = ticketFileFrom(*m_session);
+    m_wasChanged = false;
+}
+
+ConflictReport DialogSession::conflicts()
+{
+    return m_ppd ? findConflicts(*m_session, *m_ppd) : ConflictReport{};
+}
+
+void DialogSession::fix(const ConflictReport &report)
+{
+    applyFix(report, *m_session);
+    readAll();
+}
+
+// ---- the device's panels
+
+Extension *DialogSession::panels()
+{
+    return m_extension && m_extension->isBegun() ? m_extension.get() : nullptr;
+}
+
+void DialogSession::beginPanels()
+{
+    const QString stays = tr("Copies, pages and paper work as usual.");
+    const QString none = tr("“%1” is printed without device panels").arg(m_printerName);
+    m_message = {};
+    if (!m_ppd) {
+        m_message = {none, m_noPpdReason + u'\n' + stays};
+        return;
+    }
+    if (!m_options.bundle) {
+        m_message = {none, m_options.bundleProblem + u'\n' + stays};
+        return;
+    }
+    if (!m_extension && m_extensionProblem.isEmpty()) {
+        m_extension = std::make_unique<Extension>(m_options.bundle);
+        if (const auto loaded = m_extension->load(); !loaded) {
+            m_extensionProblem = loaded.error().text();
+            std::fprintf(stderr, "kelvo-print: %s\n", qUtf8Printable(m_extensionProblem));
+            m_extension.reset();
+        }
+    }
+    if (!m_extension) {
+        m_message = {none,
+                     tr("The panels cannot be loaded: %1").arg(m_extensionProblem) + u'\n' + stays};
+        return;
+    }
+    if (const auto begun = m_extension->begin(*m_session, m_panesParent); !begun) {
+        const QString maker = m_ppd->manufacturer();
+        m_message = {none,
+                     (maker.isEmpty()
+                          ? tr("The panels are not made for this device, a %1.")
+                                .arg(m_ppd->modelName())
+                          : tr("The panels are not made for this device: it is a %1 from %2.")
+                                .arg(m_ppd->modelName(), maker))
+                         + u'\n' + stays};
+        return;
+    }
+    m_extension->show(0);
+}
+
+void DialogSession::endPanels()
+{
+    if (m_extension)
+        m_extension->end(noErr);
+}
+
+void DialogSession::writeAll()
+{
+    if (Extension *begun = panels())
+        begun->sync(kSyncWrite);
+}
+
+void DialogSession::readAll()
+{
+    if (Extension *begun = panels())
+        begun->sync(kSyncRead);
+}
+
+// ---- the document
+
+QString DialogSession::title() const
+{
+    if (!m_document.isNull())
+        return m_document.title();
+    if (m_options.line.title)
+        return *m_options.line.title;
+    if (!m_options.document || m_options.document->path.isEmpty()
+        || m_options.document->path == QLatin1String("-"))
+        return QStringLiteral("(stdin)");
+    return QFileInfo(m_options.document->path).fileName();
+}
+
+void DialogSession::openTheDocument()
+{
+    if (!m_options.document) {
+        m_documentProblem = tr("There is no document to print.");
+        return;
+    }
+    m_openingCancelled = std::make_shared<std::atomic_bool>(false);
+    m_opening.start(
+        [source = *m_options.document, cancelled = m_openingCancelled] {
+            return openDocument(source, *cancelled);
+        },
+        [this](Result<Document> opened) {
+            if (opened)
+                m_document = std::move(opened).value();
+            else
+                m_documentProblem
+                    = tr("The document cannot be opened: %1").arg(opened.error().text());
+            emit documentChanged();
+        });
+}
+
+} // namespace kelvo

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "background_task.h"
+#include "command_line.h"
+#include "conflicts.h"
+#include "document.h"
+#include "exit_status.h"
+#include "extension.h"
+#include "job_settings.h"
+#include "ppd_file.h"
+#include "presets.h"
+#include "printers.h"
+#include "secret_keys.h"
+#include "ticket_file.h"
+
+#include <QObject>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+
+namespace kelvo {
+
+// What the dialog begins with. main() has read every file that the command line
+// names, so that a wrong one is told before there is a window.
+struct DialogOptions
+{
+    CommandLine line;
+    Bundle *bundle = nullptr; // null: no device panels
+    QString bundleProblem;    // why there is no bundle, a sentence
+    std::shared_ptr<PpdFile> device; // --ppd and --demo: a device without a queue
+    std::optional<DocumentSource> document; // none: there is nothing to print
+    std::optional<TicketFile> preset, ticketIn;
+};
+
+// The dialog's life without its looks: printers, then the chosen one's PPD, then
+// the tickets, then the device's panels; the document beside that. Everything
+// that can block runs on a thread of its own and answers by a signal.
+class DialogSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Panels come below `panesParent`, which must outlive this.
+    DialogSession(DialogOptions options, QWidget *panesParent, QObject *parent = nullptr);
+    ~DialogSession() override;
+
+    void start();
+    void retry(); // after Stage::Stuck
+    void stop();  // ends the panels; what is under way is left to itself
+
+    enum class Stage {
+        Searching, // printers or the PPD are on their way
+        Stuck,     // no printer to print to: see problem()
+        Ready,     // tickets are there, and panels when the device has some
+    };
+    Stage stage() const { return m_stage; }
+    // While there are no panels to show: what is going on or wrong, and what to do.
+    struct Message
+    {
+        QString header, text;
+        bool canRetry = false;
+    };
+    const Message &message() const { return m_message; }
+
+    const QList<Printer> &printers() const { return m_printers; }
+    bool hasQueue() const { return !m_options.device; } // else a device without one
+    QString printerName() const { return m_printerName; }
+    // Goes to another printer and takes the settings along. What the new device
+    // does not have comes back with one that has it.
+    void choosePrinter(const QString &name);
+
+    PrintSession &tickets() { return *m_session; } // Stage::Ready
+    const std::shared_ptr<PpdFile> &ppd() const { return m_ppd; } // null: none
+    Extension *panels();                                          // null: none
+    const SecretKeys &secretKeys() const { return m_secretKeys; }
+    const QStringList &missing() const { return m_missing; } // not offered here, in words
+
+    bool isDocumentPending() const { return m_opening.isRunning(); }
+    const Document &document() const { return m_document; }         // null: not (yet) there
+    const QString &documentProblem() const { return m_documentProblem; } // a sentence
+    QString title() const; // of the document, also before it is open
+
+    // Every panel writes, the shown one last. Nothing where there are no panels.
+    void writeAll();
+    void readAll();
+    JobSettings settings() const; // Stage::Ready
+    // The host's own settings: panels write before and read after.
+    void change(const JobSettings &settings);
+    TicketFile ticket() const; // as it stands
+
+    // Begins again on `preset`, or on the defaults for null. The job's own pages
+    // and name stay.
+    void usePreset(const TicketFile *preset);
+    // Whether anything differs from what was chosen as preset.
+    bool isChanged() const;
+    void takeAsUnchanged(); // the settings as they stand are what the preset says
+
+    ConflictReport conflicts(); // as the ticket stands
+    void fix(const ConflictReport &report);
+
+signals:
+    void printersChanged();
+    void stageChanged();
+    void documentChanged();
+    void reloaded(); // every setting may have changed
+    // The command line asks for what this device cannot do.
+    void refused(kelvo::ExitStatus status, const QString &message);
+
+private:
+    void findPrinters();
+    void takePrinters(const QList<Printer> &printers);
+    void fetchPpd();
+    void takePpd(const QString &path);
+    void beginWithoutPpd(const QString &why);
+    void beginWhenComplete();
+    void begin();
+    Result<void> layFirstSettings();
+    void layDefaults();
+    void settle();
+    void beginPanels();
+    void endPanels();
+    void openTheDocument();
+    void setStage(Stage stage, Message message = {});
+    const Printer *findPrinter(const QString &name) const;
+
+    DialogOptions m_options;
+    QWidget *m_panesParent;
+    Stage m_stage = Stage::Searching;
+    Message m_message;
+
+    std::unique_ptr<PrinterDirectory> m_directory;
+    QList<Printer> m_printers;
+    bool m_arePrintersKnown = false;
+    QString m_printerName;
+    bool m_isPpdKnown = false; // or known not to come
+    QString m_noPpdReason;
+    std::shared_ptr<PpdFile> m_ppd;
+
+    PresetStore m_presets;
+    SecretKeys m_secretKeys;
+    std::unique_ptr<PrintSession> m_session;
+    std::unique_ptr<Extension> m_extension; // made once, begun for each printer
+    QString m_extensionProblem;             // why it cannot be loaded
+    QStringList m_missing;
+    std::optional<TicketFile> m_carried; // from the last printer
+    TicketFile m_came, m_settled;        // see ticket_layers.h
+    TicketFile m_unchanged;              // what isChanged() compares with
+    bool m_wasChanged = false;           // on an earlier printer
+    Dictionary m_unknown;                // root entries of --ticket-in
+
+    BackgroundTask<Result<Document>> m_opening;
+    std::shared_ptr<std::atomic_bool> m_openingCancelled;
+    Document m_document;
+    QString m_documentProblem;
+};
+
+} // namespace kelvo

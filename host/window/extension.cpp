@@ -1,0 +1,284 @@
+#include "extension.h"
+
+#include <QUuid>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+const QString shellName = QStringLiteral("PDEShell");
+const QString furtherGettersKey = QStringLiteral("KelvoFurtherPanelGetters");
+
+void warn(const QString &text)
+{
+    std::fputs(("kelvo-print: " + text + '\n').toUtf8().constData(), stderr);
+}
+
+// "GetSpecialPagesPanelInterface" → "SpecialPages"; any other name as it is.
+QString panelNameOf(const QString &getter)
+{
+    constexpr QLatin1String head("Get"), tail("PanelInterface");
+    if (!getter.startsWith(head) || !getter.endsWith(tail)
+        || getter.size() <= head.size() + tail.size())
+        return getter;
+    return getter.mid(head.size(), getter.size() - head.size() - tail.size());
+}
+
+bool isComplete(const PanelOperations &panel)
+{
+    return panel.Prologue && panel.Initialize && panel.Sync && panel.GetSummaryText && panel.Open
+        && panel.Close && panel.Terminate;
+}
+
+// The slots of a further panel, by its getter's name. The interface that the
+// getter hands out has no Release: it is freed here.
+Result<PanelOperations> findFurtherPanel(Bundle *bundle, const QString &getter)
+{
+    const QByteArray name = getter.toLatin1();
+    const auto get
+        = reinterpret_cast<PanelInterfaceGetter>(bundle->findFunction(name.constData()));
+    if (!get)
+        return Error{Code::NotFound, getter, QStringLiteral("the bundle has no such function")};
+    PanelInterface *interface = nullptr;
+    const OSStatus status = get(&interface);
+    if (status != noErr || !interface || !interface->table)
+        return Error{Code::Refused, getter, QStringLiteral("no interface, status %1").arg(status)};
+    const PanelOperations operations = *interface->table;
+    if (operations.Release) {
+        operations.Release(&interface);
+    } else {
+        delete interface->table;
+        delete interface;
+    }
+    if (!isComplete(operations))
+        return Error{Code::Damaged, getter, QStringLiteral("its interface lacks operations")};
+    return operations;
+}
+
+} // namespace
+
+struct Extension::Private
+{
+    struct Record
+    {
+        PanelOperations operations;
+        PMPDEContext context = nullptr;
+        bool isOpen = false;
+    };
+
+    Bundle *bundle = nullptr;
+    PlugInInstance *instance = nullptr;
+    PanelInterface *shell = nullptr; // held until the end
+    PrintSession *session = nullptr;
+    std::vector<Record> records; // beside `panels`, the shell first
+    std::vector<Panel> panels;
+    int shown = -1;
+
+    // Prologue and Initialize of one panel, which joins the lists when both went well.
+    Result<void> add(const PanelOperations &operations, const QString &name, QWidget *parent);
+    void close(Record &record);
+    void sync(Record &record, SyncDirection direction)
+    {
+        record.operations.Sync(record.context, session, direction);
+    }
+};
+
+Extension::Extension(Bundle *bundle)
+    : d(std::make_unique<Private>())
+{
+    d->bundle = bundle;
+}
+
+Extension::~Extension()
+{
+    end(noErr);
+    if (d->shell)
+        d->shell->table->Release(&d->shell);
+    if (d->instance)
+        d->instance->table->Release(d->instance);
+}
+
+Result<void> Extension::load()
+{
+    if (d->shell)
+        return {};
+    const QUuid type = QUuid::fromString(QLatin1String(kPDEPlugInTypeUUID));
+    const auto factory = d->bundle->findFactory(type);
+    if (!factory)
+        return Error{Code::Unsupported, d->bundle->path(),
+                     QStringLiteral("its Info.plist names no factory for print dialog panels")};
+    const auto make = reinterpret_cast<PlugInFactoryFunction>(
+        d->bundle->findFunction(factory->functionName.toLatin1().constData()));
+    if (!make) {
+        const QString why = d->bundle->loadError();
+        return Error{Code::NotReadable, d->bundle->path(),
+                     why.isEmpty()
+                         ? QStringLiteral("it has no function %1").arg(factory->functionName)
+                         : why};
+    }
+    PlugInInstance *instance = make(nullptr, type);
+    if (!instance)
+        return Error{Code::Refused, d->bundle->path(),
+                     QStringLiteral("%1 makes no panels").arg(factory->functionName)};
+    void *interface = nullptr;
+    const OSStatus status = instance->table->QueryInterface(
+        instance, QUuid::fromString(QLatin1String(kPDEInterfaceUUID)), &interface);
+    auto *shell = static_cast<PanelInterface *>(interface);
+    const bool isUsable = status == noErr && shell && shell->table && shell->table->Release
+        && isComplete(*shell->table);
+    if (!isUsable) {
+        instance->table->Release(instance);
+        return Error{Code::Unsupported, d->bundle->path(),
+                     QStringLiteral("it has no panel interface, status %1").arg(status)};
+    }
+    d->instance = instance;
+    d->shell = shell;
+    return {};
+}
+
+Result<void> Extension::Private::add(const PanelOperations &operations, const QString &name,
+                                     QWidget *parent)
+{
+    PMPDEContext context = nullptr;
+    OSType creator = 0;
+    CFStringRef kind = nullptr;
+    CFStringRef title = nullptr;
+    std::uint32_t maxWidth = 0, maxHeight = 0;
+    OSStatus status
+        = operations.Prologue(&context, &creator, &kind, &title, &maxWidth, &maxHeight);
+    if (status != noErr)
+        return Error{Code::Refused, name, QStringLiteral("Prologue failed with %1").arg(status)};
+
+    auto *pane = new QWidget(parent);
+    pane->setObjectName(QStringLiteral("pane") + name);
+    auto *layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    pane->hide();
+    if (parent->layout())
+        parent->layout()->addWidget(pane);
+    const QString shownTitle = title && !title->isEmpty() ? *title : name;
+
+    std::uint32_t flags = 0;
+    status = operations.Initialize(context, &flags, this, pane, session);
+    if (status != noErr) {
+        operations.Terminate(context, status);
+        delete pane;
+        return Error{Code::Refused, name, QStringLiteral("Initialize failed with %1").arg(status)};
+    }
+    records.push_back({operations, context});
+    panels.push_back({name, shownTitle, pane});
+    return {};
+}
+
+Result<void> Extension::begin(PrintSession &session, QWidget *parent)
+{
+    Q_ASSERT(d->shell && d->records.empty());
+    d->session = &session;
+    if (auto added = d->add(*d->shell->table, shellName, parent); !added) {
+        d->session = nullptr;
+        return added;
+    }
+    const Array getters = array(d->bundle->info(), furtherGettersKey).value_or(Array());
+    for (const QVariant &entry : getters) {
+        const QString getter = string(entry).value_or(QString());
+        const auto operations = findFurtherPanel(d->bundle, getter);
+        const auto added = operations
+            ? d->add(operations.value(), panelNameOf(getter), parent)
+            : Result<void>(operations.error());
+        if (!added)
+            warn(QStringLiteral("%1: panel left out: %2")
+                     .arg(d->bundle->path(), added.error().text()));
+    }
+    return {};
+}
+
+bool Extension::isBegun() const
+{
+    return !d->records.empty();
+}
+
+void Extension::Private::close(Record &record)
+{
+    if (std::exchange(record.isOpen, false))
+        record.operations.Close(record.context);
+}
+
+void Extension::end(OSStatus status)
+{
+    while (!d->records.empty()) {
+        Private::Record record = d->records.back();
+        d->close(record);
+        record.operations.Terminate(record.context, status);
+        delete d->panels.back().pane;
+        d->records.pop_back();
+        d->panels.pop_back();
+    }
+    d->shown = -1;
+    d->session = nullptr;
+}
+
+const std::vector<Extension::Panel> &Extension::panels() const
+{
+    return d->panels;
+}
+
+int Extension::shownPanel() const
+{
+    return d->shown;
+}
+
+void Extension::show(int index)
+{
+    Q_ASSERT(index >= 0 && index < static_cast<int>(d->records.size()));
+    if (index == d->shown)
+        return;
+    const int left = d->shown;
+    if (left >= 0) {
+        d->sync(d->records[static_cast<std::size_t>(left)], kSyncWrite);
+        for (std::size_t i = 0; i < d->records.size(); ++i) {
+            if (static_cast<int>(i) != left)
+                d->sync(d->records[i], kSyncRead);
+        }
+        d->close(d->records[static_cast<std::size_t>(left)]);
+        d->panels[static_cast<std::size_t>(left)].pane->hide();
+    }
+    d->shown = index;
+    Private::Record &record = d->records[static_cast<std::size_t>(index)];
+    record.isOpen = record.operations.Open(record.context) == noErr;
+    if (!record.isOpen)
+        warn(QStringLiteral("%1: the panel %2 could not be opened")
+                 .arg(d->bundle->path(), d->panels[static_cast<std::size_t>(index)].name));
+    d->panels[static_cast<std::size_t>(index)].pane->show();
+}
+
+void Extension::sync(SyncDirection direction)
+{
+    for (std::size_t i = 0; i < d->records.size(); ++i) {
+        if (static_cast<int>(i) != d->shown)
+            d->sync(d->records[i], direction);
+    }
+    if (d->shown >= 0)
+        d->sync(d->records[static_cast<std::size_t>(d->shown)], direction);
+}
+
+QStringList Extension::summary()
+{
+    QStringList lines;
+    for (const Private::Record &record : d->records) {
+        SummaryArray titles, texts;
+        record.operations.GetSummaryText(record.context, &titles, &texts);
+        const QStringList names = titles.value_or(QStringList());
+        const QStringList words = texts.value_or(QStringList());
+        for (qsizetype i = 0; i < words.size(); ++i)
+            lines.append(i < names.size() ? names[i] + QStringLiteral(": ") + words[i] : words[i]);
+    }
+    return lines;
+}
+
+} // namespace kelvo

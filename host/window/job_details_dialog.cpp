@@ -1,0 +1,117 @@
+#include "job_details_dialog.h"
+
+#include "modal_dialog.h"
+#include "summary_view.h"
+#include "tab_control.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace kelvo {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kelvo::JobDetailsDialog", text);
+}
+
+QString section(const QString &header, const QStringList &lines)
+{
+    if (lines.isEmpty())
+        return {};
+    return header + QStringLiteral("\n  ") + lines.join(QStringLiteral("\n  "))
+        + QStringLiteral("\n\n");
+}
+
+QString wordsText(const JobWords &words)
+{
+    QString text = section(tr("Set for this job"), words.settings)
+        + section(tr("Not sent"), words.notSent) + section(tr("As the device has it"), words.defaults);
+    return text.isEmpty() ? tr("Nothing is set: the device decides everything.") : text.trimmed();
+}
+
+SummaryView *textView(const QString &name, const QString &label, const QString &text,
+                      QWidget *parent)
+{
+    auto *view = new SummaryView(parent);
+    view->setObjectName(name);
+    view->setAccessibleName(label);
+    view->setSummary(text);
+    return view;
+}
+
+} // namespace
+
+void runJobDetailsDialog(const JobWords &words, QWidget *parent)
+{
+    auto *content = new QWidget;
+    content->setObjectName(QStringLiteral("jobDetailsDialog"));
+    content->setWindowTitle(tr("What Will Be Sent"));
+
+    auto *tabs = new TabControl(content);
+    tabs->setObjectName(QStringLiteral("jobDetailsTabs"));
+    tabs->setAccessibleName(tr("View"));
+    tabs->setTitles({tr("In Words"), tr("Ticket")});
+    auto *pages = new QStackedWidget(content);
+    auto *inWords
+        = textView(QStringLiteral("jobWords"), tr("Settings in words"), wordsText(words), pages);
+    auto *ticket = textView(QStringLiteral("jobTicket"), tr("Ticket"),
+                            words.ticket.join(u'\n'), pages);
+    ticket->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    ticket->setLineWrapMode(QPlainTextEdit::NoWrap);
+    for (SummaryView *view : {inWords, ticket}) {
+        view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        view->setMinimumSize(view->fontMetrics().averageCharWidth() * 72,
+                             view->fontMetrics().lineSpacing() * 22);
+        pages->addWidget(view);
+    }
+    auto *copy = new QPushButton(tr("&Copy"), content);
+    copy->setObjectName(QStringLiteral("copyJob"));
+    copy->setToolTip(tr("Copies the text that is shown"));
+    auto *close = new QPushButton(tr("Close"), content);
+    close->setObjectName(QStringLiteral("close"));
+    close->setProperty("command", QStringLiteral("ok  "));
+    sendControlEvents(copy);
+    sendControlEvents(close);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(copy);
+    buttons->addStretch(1);
+    buttons->addWidget(close);
+    auto *viewLayout = new QVBoxLayout;
+    viewLayout->setSpacing(0);
+    viewLayout->addWidget(tabs);
+    viewLayout->addWidget(pages, 1);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(14, 12, 14, 14);
+    layout->setSpacing(12);
+    layout->addLayout(viewLayout, 1);
+    layout->addLayout(buttons);
+
+    ModalDialog dialog(content, parent);
+    const auto handler
+        = installEventHandler(content, [tabs, pages, copy](const Event &event) -> OSStatus {
+              if (event.kind != EventKind::ControlHit)
+                  return eventNotHandledErr;
+              if (event.source == tabs) {
+                  pages->setCurrentIndex(tabs->value() - 1);
+                  return noErr;
+              }
+              if (event.source == copy) {
+                  const auto *shown = qobject_cast<SummaryView *>(pages->currentWidget());
+                  QGuiApplication::clipboard()->setText(shown->toPlainText());
+                  return noErr;
+              }
+              return eventNotHandledErr;
+          });
+    dialog.runModal();
+}
+
+} // namespace kelvo

@@ -1,0 +1,846 @@
+#include "print_dialog.h"
+
+#include "conflict_bar.h"
+#include "document_preview.h"
+#include "help_window.h"
+#include "job_details_dialog.h"
+#include "modal_dialog.h"
+#include "nearest_name.h"
+#include "notice.h"
+#include "page_ranges.h"
+#include "pane_scroll.h"
+#include "panel_switch.h"
+#include "popup_button.h"
+#include "preset_menu.h"
+#include "printer_pane.h"
+#include "spin_field.h"
+#include "waiting_pane.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+// Logical pixels at the usual font; they grow with a larger one.
+constexpr QSize paneSize(540, 491);
+constexpr QSize windowSize(900, 660);
+constexpr int columnWidth = 300;
+constexpr int narrowWidth = 860; // below it, column and panels do not stand side by side
+constexpr int usualFontHeight = 13;  // pixels: 10 points on an ordinary screen
+
+constexpr int margin = 10;
+constexpr int gap = 6;       // between rows
+constexpr int columnGap = 12;
+
+// So long after the user's last change, settings are written and checked.
+constexpr int lookDelayMs = 150;
+
+constexpr ControlID shellSelector = {kShellSignature, 16};
+constexpr OSType kNextTab = fourCharCode("KFup");
+constexpr OSType kPreviousTab = fourCharCode("KFdn");
+
+double fontScale(const QWidget *widget)
+{
+    return std::max(1.0, double(QFontInfo(widget->font()).pixelSize()) / usualFontHeight);
+}
+
+QPushButton *button(const char *name, const QString &text, QWidget *parent)
+{
+    auto *made = new QPushButton(text, parent);
+    made->setObjectName(QString::fromLatin1(name));
+    // Return presses no button but Print.
+    made->setAutoDefault(false);
+    return made;
+}
+
+} // namespace
+
+PrintDialog::PrintDialog(DialogOptions options)
+    : m_options(options)
+    , m_column(new QWidget(this))
+    , m_panelSide(new QWidget(this))
+    , m_switch(new PanelSwitch(m_panelSide))
+    , m_scroll(new PaneScroll(m_panelSide))
+    , m_stack(new QStackedWidget)
+    , m_waiting(new WaitingPane(m_stack))
+    , m_panes(new QWidget(m_stack))
+    , m_session(std::make_unique<DialogSession>(std::move(options), m_panes))
+    , m_presets(new PresetMenu(*m_session, m_options.line.preset.value_or(QString())))
+    , m_printer(new PrinterPane(m_presets, m_column))
+    , m_preview(new DocumentPreview(m_column))
+    , m_conflictBar(new ConflictBar(this))
+    , m_columnToggle(new QToolButton(this))
+    , m_foot(new QLabel(this))
+    , m_progress(new QProgressBar(this))
+    , m_details(button("whatWillBeSent", tr("&What Will Be Sent…"), this))
+    , m_help(button("help", tr("&Help"), this))
+    , m_cancel(button("cancel", tr("Cancel"), this))
+    , m_print(button("print", tr("&Print"), this))
+{
+    setObjectName(QStringLiteral("printDialog"));
+    setPrintWindow(this);
+    setWindowButtons(this, m_print, m_cancel);
+    buildWindow();
+    addShortcuts();
+    fitToFont();
+
+    m_look.setSingleShot(true);
+    m_look.setInterval(lookDelayMs);
+    connect(&m_look, &QTimer::timeout, this, &PrintDialog::lookAtSettings);
+    watchEvents([this](const Event &) {
+        if (m_session->stage() == DialogSession::Stage::Ready)
+            m_look.start();
+    });
+
+    connect(m_session.get(), &DialogSession::printersChanged, this, [this] {
+        if (m_session->hasQueue())
+            m_printer->setPrinters(m_session->printers(), m_session->printerName());
+        else
+            m_printer->setDevice(m_session->printerName());
+    });
+    connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
+    connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
+    connect(m_session.get(), &DialogSession::reloaded, this, &PrintDialog::takeSettings);
+    connect(m_session.get(), &DialogSession::refused, this,
+            [this](ExitStatus status, const QString &message) {
+                std::fprintf(stderr, "kelvo-print: %s\n", qUtf8Printable(message));
+                end(status);
+            });
+
+    connect(m_printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
+        m_session->choosePrinter(name);
+        m_printer->setPrinters(m_session->printers(), m_session->printerName());
+    });
+    connect(m_printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
+    connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
+    connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
+    connect(m_conflictBar, &ConflictBar::fixRequested, this, &PrintDialog::fixConflicts);
+    connect(m_columnToggle, &QToolButton::clicked, this, &PrintDialog::setColumnShown);
+    connect(m_details, &QPushButton::clicked, this, &PrintDialog::showDetails);
+    connect(m_help, &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        if (sendEvent({.kind = EventKind::ControlHit, .source = m_cancel}) == eventNotHandledErr)
+            pressCancel();
+    });
+    connect(m_print, &QPushButton::clicked, this, [this] {
+        // What was typed last counts. Only when nobody takes the press does the
+        // host print.
+        m_printProblem.clear();
+        commitTypedValues(this);
+        if (sendEvent({.kind = EventKind::ControlHit, .source = m_print}) == eventNotHandledErr)
+            print();
+    });
+    takeStage();
+    takeDocument();
+    updateTitle();
+}
+
+PrintDialog::~PrintDialog()
+{
+    watchEvents({});
+    m_run.reset();
+    m_session.reset(); // before the panes that its panels stand in
+}
+
+void PrintDialog::buildWindow()
+{
+    m_preview->setObjectName(QStringLiteral("preview"));
+    auto *columnLayout = new QVBoxLayout(m_column);
+    columnLayout->setContentsMargins(0, 0, 0, 0);
+    columnLayout->setSpacing(10);
+    columnLayout->addWidget(m_printer);
+    columnLayout->addWidget(m_preview, 1);
+
+    m_switch->setObjectName(QStringLiteral("panelSwitch"));
+    m_switch->setAccessibleName(tr("Panels"));
+    m_switch->hide();
+    auto *panesLayout = new QVBoxLayout(m_panes);
+    panesLayout->setContentsMargins(0, 0, 0, 0);
+    m_stack->addWidget(m_waiting);
+    m_stack->addWidget(m_panes);
+    m_scroll->setWidget(m_stack);
+    auto *sideLayout = new QVBoxLayout(m_panelSide);
+    sideLayout->setContentsMargins(0, 0, 0, 0);
+    sideLayout->setSpacing(gap);
+    sideLayout->addWidget(m_switch, 0, Qt::AlignHCenter);
+    sideLayout->addWidget(m_scroll, 1);
+
+    m_columnToggle->setObjectName(QStringLiteral("columnToggle"));
+    m_columnToggle->setAutoRaise(true);
+    m_columnToggle->setCheckable(true);
+    m_columnToggle->setChecked(true);
+    m_columnToggle->setFocusPolicy(Qt::TabFocus);
+    m_columnToggle->setToolTip(tr("Show or hide printer, pages and preview (F9)"));
+    m_columnToggle->setAccessibleName(tr("Printer, pages and preview"));
+    m_foot->setObjectName(QStringLiteral("summary"));
+    m_foot->setTextFormat(Qt::PlainText);
+    m_foot->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progress->setObjectName(QStringLiteral("progress"));
+    m_progress->setRange(0, 0);
+    m_progress->setTextVisible(false);
+    m_progress->setMaximumWidth(140);
+    m_progress->setMaximumHeight(8);
+    m_progress->setAccessibleName(tr("Printing"));
+    m_progress->hide();
+    m_print->setAutoDefault(true);
+    m_print->setDefault(true);
+    m_cancel->setAccessibleName(tr("Cancel printing"));
+
+    auto *body = new QHBoxLayout;
+    body->setSpacing(columnGap);
+    body->addWidget(m_column, 1);
+    body->addWidget(m_panelSide);
+    auto *footRow = new QHBoxLayout;
+    footRow->setSpacing(gap);
+    footRow->addWidget(m_columnToggle);
+    footRow->addWidget(m_foot, 1);
+    footRow->addWidget(m_progress);
+    footRow->addWidget(m_details);
+    auto *buttonRow = new QHBoxLayout;
+    buttonRow->setSpacing(8);
+    buttonRow->addWidget(m_help);
+    buttonRow->addStretch(1);
+    buttonRow->addWidget(m_cancel);
+    buttonRow->addWidget(m_print);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(gap);
+    layout->addLayout(body, 1);
+    layout->addWidget(m_conflictBar);
+    layout->addLayout(footRow);
+    layout->addLayout(buttonRow);
+}
+
+void PrintDialog::addShortcuts()
+{
+    const auto add = [this](const QKeySequence &keys, auto &&action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    for (int i = 0; i < 9; ++i)
+        add(QKeySequence(int(Qt::ALT) | (int(Qt::Key_1) + i)), [this, i] {
+            if (m_switch->isVisibleTo(this) && i < m_switch->count())
+                m_switch->setCurrentIndex(i);
+        });
+    add(Qt::CTRL | Qt::Key_PageUp, [this] { sendCommand(this, kPreviousTab); });
+    add(Qt::CTRL | Qt::Key_PageDown, [this] { sendCommand(this, kNextTab); });
+    add(Qt::CTRL | Qt::Key_P, [this] { pressPrint(); });
+    add(Qt::Key_F1, [this] { showHelp(); });
+    add(Qt::Key_F6, [this] { goToRegion(true); });
+    add(Qt::SHIFT | Qt::Key_F6, [this] { goToRegion(false); });
+    add(Qt::Key_F9, [this] { m_columnToggle->click(); });
+}
+
+// Sizes that a layout cannot know: they follow the font.
+void PrintDialog::fitToFont()
+{
+    const double scale = fontScale(this);
+    m_stack->setMinimumSize(paneSize * scale);
+    m_column->setMinimumWidth(int(columnWidth * scale));
+    const QSize available = screen() ? screen()->availableSize() : windowSize;
+    setMinimumSize(QSize(m_scroll->minimumSizeHint().width() + 2 * margin, 420)
+                       .boundedTo(available));
+    resize((windowSize * scale).boundedTo(available));
+}
+
+void PrintDialog::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && m_session)
+        fitToFont();
+}
+
+void PrintDialog::start()
+{
+    m_session->start();
+    updatePrintButton();
+}
+
+void PrintDialog::setDriven(bool driven)
+{
+    m_isDriven = driven;
+    // A script waits for the look after each line.
+    m_look.setInterval(driven ? 0 : lookDelayMs);
+}
+
+// ---- what the session tells
+
+void PrintDialog::takeStage()
+{
+    const bool isReady = m_session->stage() == DialogSession::Stage::Ready;
+    Extension *panels = isReady ? m_session->panels() : nullptr;
+    m_waiting->setMessage(m_session->message());
+    m_stack->setCurrentWidget(panels ? m_panes : m_waiting);
+    {
+        const QSignalBlocker silence(m_switch);
+        QStringList titles;
+        if (panels) {
+            for (const Extension::Panel &panel : panels->panels())
+                titles.append(QString(panel.title).replace(u'&', QStringLiteral("&&")));
+        }
+        m_switch->setTitles(titles);
+        m_switch->setValue(panels ? panels->shownPanel() + 1 : 0);
+        m_switch->setVisible(titles.size() > 1);
+    }
+    m_printer->setSettingsEnabled(isReady);
+    if (!isReady)
+        m_conflictBar->setReport({}, {});
+    arrangeColumns();
+    arrangeTabOrder();
+    updatePrintButton();
+    updateFoot();
+}
+
+void PrintDialog::takeDocument()
+{
+    updateTitle();
+    if (!m_session->document().isNull()) {
+        m_preview->setMessage({});
+        m_preview->setDocument(m_session->document());
+    } else {
+        m_preview->setMessage(m_session->isDocumentPending()
+                                  ? tr("Opening %1…").arg(m_session->title())
+                                  : m_session->documentProblem());
+    }
+    updatePreview();
+    updatePrintButton();
+    updateFoot();
+}
+
+void PrintDialog::takeSettings()
+{
+    m_printer->setSettings(m_session->settings(), m_session->ppd().get());
+    m_look.stop();
+    lookAtSettings();
+}
+
+void PrintDialog::updateTitle()
+{
+    setWindowTitle(tr("Print “%1”").arg(m_session->title()));
+}
+
+void PrintDialog::updatePrintButton()
+{
+    const bool mayPrint = !m_run && findReasonNotToPrint().isEmpty();
+    m_print->setEnabled(mayPrint);
+    m_details->setEnabled(!m_run && m_session->stage() == DialogSession::Stage::Ready);
+}
+
+void PrintDialog::updatePreview()
+{
+    if (m_session->document().isNull() || m_session->stage() != DialogSession::Stage::Ready)
+        return;
+    const JobSettings settings = m_session->settings();
+    DocumentPreview::Layout layout;
+    const auto runs = pageRunsFrom(settings.pageRanges, m_session->document().pageCount());
+    if (runs)
+        layout.pages = runs.value();
+    layout.orientation = settings.orientation;
+    if (const auto &ppd = m_session->ppd()) {
+        if (const PpdPageSize *size = ppd->findPageSize(settings.paperName))
+            layout.paper = QSizeF(size->width, size->height);
+    }
+    const QString duplex
+        = m_session->tickets().printSettings().ppdChoices.value(QStringLiteral("Duplex"));
+    layout.twoSided = !duplex.isEmpty() && duplex != QLatin1String("None");
+    m_preview->setLayout(layout);
+}
+
+void PrintDialog::updateFoot()
+{
+    if (m_run) {
+        m_foot->setText(m_options.line.toFolder
+                            ? tr("Writing to %1…").arg(*m_options.line.toFolder)
+                            : tr("Sending to %1…").arg(m_session->printerName()));
+        return;
+    }
+    QString text;
+    if (m_session->stage() == DialogSession::Stage::Ready && !m_session->document().isNull()) {
+        const JobSettings settings = m_session->settings();
+        const auto runs = pageRunsFrom(settings.pageRanges, m_session->document().pageCount());
+        const QString problem = findPagesProblem();
+        m_printer->setPagesProblem(problem);
+        if (runs && problem.isEmpty())
+            text = shortSummary(m_session->ticket(), settings, pageCount(runs.value()),
+                                m_session->secretKeys());
+    }
+    m_foot->setText(text);
+    m_foot->setToolTip(text.toHtmlEscaped());
+}
+
+// ---- panels and settings
+
+void PrintDialog::showPanelAt(int index)
+{
+    Extension *panels = m_session->panels();
+    if (!panels || index < 0 || index >= int(panels->panels().size()))
+        return;
+    panels->show(index);
+    arrangeTabOrder();
+    m_look.start();
+}
+
+void PrintDialog::changeSettings()
+{
+    if (m_session->stage() != DialogSession::Stage::Ready)
+        return;
+    m_session->change(m_printer->settings());
+    m_look.start();
+}
+
+void PrintDialog::lookAtSettings()
+{
+    // While a dialog is open its panel is in the middle of something; the event
+    // that opened it ends with the dialog, and is looked at then.
+    if (m_run || m_session->stage() != DialogSession::Stage::Ready
+        || QApplication::activeModalWidget())
+        return;
+    m_session->writeAll();
+    m_conflictBar->setReport(m_session->conflicts(), m_session->missing());
+    m_printer->setSettings(m_session->settings(), m_session->ppd().get());
+    m_presets->updateStar();
+    arrangeTabOrder();
+    updatePreview();
+    updateFoot();
+    updatePrintButton();
+}
+
+void PrintDialog::fixConflicts()
+{
+    m_session->writeAll();
+    m_session->fix(m_session->conflicts());
+    m_look.stop();
+    lookAtSettings();
+}
+
+JobWords PrintDialog::words()
+{
+    m_session->writeAll();
+    return describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
+                       m_session->secretKeys());
+}
+
+void PrintDialog::showDetails()
+{
+    runJobDetailsDialog(words(), this);
+}
+
+void PrintDialog::showHelp()
+{
+    // The panels' own help first; the host's pages where nobody has any.
+    if (sendCommand(this, fourCharCode("help")) == eventNotHandledErr)
+        DisplayHelp({}, this);
+}
+
+// ---- print
+
+QString PrintDialog::findReasonNotToPrint() const
+{
+    if (m_session->stage() == DialogSession::Stage::Searching)
+        return tr("The printer's settings have not come yet.");
+    if (m_session->stage() == DialogSession::Stage::Stuck)
+        return m_session->message().header + QStringLiteral(". ") + m_session->message().text;
+    if (m_session->isDocumentPending())
+        return tr("The document is not open yet.");
+    if (m_session->document().isNull())
+        return m_session->documentProblem();
+    return {};
+}
+
+QString PrintDialog::findPagesProblem() const
+{
+    if (m_printer->arePagesMissing())
+        return tr("Type the pages to print.");
+    const int count = m_session->document().pageCount();
+    const auto runs = pageRunsFrom(m_session->settings().pageRanges, count);
+    if (runs)
+        return {};
+    return runs.error().code == Error::Code::OutOfRange
+        ? tr("The document has pages 1 to %1.").arg(count)
+        : tr("Pages are written like this: 1-3, 7, 9-");
+}
+
+void PrintDialog::pressPrint()
+{
+    m_printProblem.clear();
+    if (m_print->isEnabled()) {
+        m_print->click();
+        return;
+    }
+    if (m_run || m_finished)
+        return;
+    const ExitStatus status = m_session->stage() == DialogSession::Stage::Ready
+        ? ExitStatus::Failed
+        : ExitStatus::NoDestination;
+    m_printStatus = status;
+    m_printProblem = findReasonNotToPrint();
+}
+
+// A print that did not go out. The dialog stays; a script reads the problem.
+void PrintDialog::refusePrint(ExitStatus status, const QString &header, const QString &problem)
+{
+    m_printStatus = status;
+    m_printProblem = problem;
+    if (!m_isDriven)
+        CFUserNotificationDisplayNotice(NoticeLevel::Stop, header, problem, {}, this);
+}
+
+bool PrintDialog::endsInConflict()
+{
+    const ConflictReport report = m_session->conflicts();
+    if (report.isEmpty())
+        return false;
+    const QString header = tr("These settings cannot be used together");
+    if (!m_isDriven && !report.fix.isEmpty()) {
+        const int answer = CFUserNotificationDisplayAlert(
+            NoticeLevel::Caution, header, conflictText(report),
+            {tr("Fix and Print"), tr("Cancel")}, this);
+        if (answer == 1) {
+            m_session->fix(report);
+            m_session->writeAll();
+            if (m_session->conflicts().isEmpty())
+                return false;
+        } else {
+            m_printStatus = ExitStatus::NotOffered;
+            return true;
+        }
+    }
+    m_look.start();
+    refusePrint(ExitStatus::NotOffered, header, conflictText(report));
+    return true;
+}
+
+void PrintDialog::print()
+{
+    const QString notPrinted = tr("“%1” was not printed").arg(m_session->title());
+    if (!m_session->hasQueue() && !m_options.line.toFolder) {
+        refusePrint(ExitStatus::NoDestination, notPrinted,
+                    tr("“%1” is a device without a queue. Start kelvo-print with --to DIR to write "
+                       "the job into a folder, or with -d to print to a queue.")
+                        .arg(m_session->printerName()));
+        return;
+    }
+    m_session->writeAll();
+    if (const QString problem = findPagesProblem(); !problem.isEmpty()) {
+        refusePrint(ExitStatus::WrongUsage, notPrinted, problem);
+        return;
+    }
+    if (endsInConflict())
+        return;
+    if (const auto written = writeTicketOut(); !written) {
+        refusePrint(ExitStatus::Failed, notPrinted,
+                    tr("The settings could not be written. %1").arg(written.error().text()));
+        return;
+    }
+
+    PrintRun::Order order;
+    order.request.document = m_session->document();
+    order.request.ticket = m_session->ticket();
+    order.request.settings = m_session->settings();
+    order.request.secretKeys = m_session->secretKeys();
+    order.request.title = m_session->title();
+    for (const Printer &printer : m_session->printers()) {
+        if (printer.name == m_session->printerName())
+            order.request.queueDefaults = printer.defaults;
+    }
+    order.ppd = m_session->ppd();
+    order.queue = m_session->printerName();
+    order.folder = m_options.line.toFolder.value_or(QString());
+    order.timeoutMs = m_options.line.timeoutSeconds * 1000;
+    m_run = std::make_unique<PrintRun>();
+    connect(m_run.get(), &PrintRun::finished, this, &PrintDialog::takeOutcome);
+    m_run->start(std::move(order));
+
+    m_look.stop();
+    m_column->setEnabled(false);
+    m_panelSide->setEnabled(false);
+    m_conflictBar->setEnabled(false);
+    m_progress->show();
+    updatePrintButton();
+    updateFoot();
+    m_cancel->setFocus();
+}
+
+void PrintDialog::takeOutcome(const PrintOutcome &outcome)
+{
+    m_run.release()->deleteLater();
+    m_column->setEnabled(true);
+    m_panelSide->setEnabled(true);
+    m_conflictBar->setEnabled(true);
+    m_progress->hide();
+    updatePrintButton();
+    updateFoot();
+    m_print->setFocus();
+
+    if (outcome.status == ExitStatus::Printed) {
+        for (const QString &setting : outcome.notSent)
+            std::fprintf(stderr, "kelvo-print: %s: not sent, the printer does not have it\n",
+                         qUtf8Printable(setting));
+        std::printf("%s %s\n", qUtf8Printable(outcome.place), qUtf8Printable(m_session->title()));
+        std::fflush(stdout);
+        end(ExitStatus::Printed);
+        return;
+    }
+    refusePrint(outcome.status, tr("“%1” was not printed").arg(m_session->title()),
+                outcome.problem);
+}
+
+Result<void> PrintDialog::writeTicketOut()
+{
+    if (!m_options.line.ticketOut || m_session->stage() != DialogSession::Stage::Ready)
+        return {};
+    m_session->writeAll();
+    return writeTicketFile(*m_options.line.ticketOut, m_session->ticket());
+}
+
+void PrintDialog::pressCancel()
+{
+    if (m_run) {
+        // The outcome says whether it was in time.
+        m_run->cancel();
+        m_foot->setText(tr("Cancelling…"));
+        return;
+    }
+    // After a print that failed, giving up is that failure.
+    end(m_printProblem.isEmpty() ? ExitStatus::Cancelled : m_printStatus);
+}
+
+void PrintDialog::interrupt()
+{
+    if (m_run)
+        m_run->cancel();
+    end(ExitStatus::Cancelled);
+}
+
+void PrintDialog::end(ExitStatus status)
+{
+    if (m_finished)
+        return;
+    m_finished = status;
+    m_look.stop();
+    m_session->stop();
+    hide();
+    emit ended(status);
+}
+
+void PrintDialog::closeEvent(QCloseEvent *event)
+{
+    event->ignore(); // end() closes it
+    m_cancel->click();
+}
+
+void PrintDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+        m_cancel->click();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+// ---- how it is laid out
+
+void PrintDialog::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    arrangeColumns();
+}
+
+void PrintDialog::setColumnShown(bool shown)
+{
+    m_isColumnWanted = shown;
+    arrangeColumns();
+}
+
+void PrintDialog::arrangeColumns()
+{
+    const double scale = fontScale(this);
+    const int sideBySide = m_column->minimumWidth() + columnGap
+        + m_scroll->minimumSizeHint().width() + 2 * margin;
+    const bool isNarrow = width() < std::max(int(narrowWidth * scale), sideBySide);
+    if (isNarrow != m_isNarrow) {
+        // Going narrow the panels win; going wide everything is there again.
+        m_isNarrow = isNarrow;
+        m_isColumnWanted = !isNarrow;
+    }
+    m_columnToggle->setChecked(m_isColumnWanted);
+    m_columnToggle->setArrowType(m_isColumnWanted ? Qt::LeftArrow : Qt::RightArrow);
+    m_column->setVisible(m_isColumnWanted);
+    m_panelSide->setVisible(!m_isNarrow || !m_isColumnWanted);
+    const int forPreview = m_column->height() - m_printer->sizeHint().height();
+    m_preview->setVisible(forPreview >= m_preview->minimumSizeHint().height());
+}
+
+// Panels make their controls when they are first shown: later than the buttons
+// below them, which come after them all the same.
+void PrintDialog::arrangeTabOrder()
+{
+    QWidget *last = m_switch;
+    for (QWidget *widget = m_scroll->nextInFocusChain(); widget != m_scroll;
+         widget = widget->nextInFocusChain()) {
+        if (m_scroll->isAncestorOf(widget))
+            last = widget;
+    }
+    const auto below = m_conflictBar->findChildren<QPushButton *>();
+    QList<QWidget *> after(below.cbegin(), below.cend());
+    after << m_columnToggle << m_details << m_help << m_cancel << m_print;
+    for (QWidget *widget : after) {
+        setTabOrder(last, widget);
+        last = widget;
+    }
+}
+
+void PrintDialog::goToRegion(bool forward)
+{
+    const QList<QWidget *> regions
+        = {m_printer, m_preview, m_switch, m_scroll, m_conflictBar, m_columnToggle, m_print};
+    const auto contains = [](const QWidget *region, const QWidget *widget) {
+        return widget && (region == widget || region->isAncestorOf(widget));
+    };
+    const auto firstStop = [&contains](QWidget *region) -> QWidget * {
+        QWidget *widget = region;
+        do {
+            if (contains(region, widget) && widget->isVisible() && widget->isEnabled()
+                && (widget->focusPolicy() & Qt::TabFocus))
+                return widget;
+            widget = widget->nextInFocusChain();
+        } while (widget != region);
+        return nullptr;
+    };
+    qsizetype at = -1;
+    for (qsizetype i = 0; i < regions.size(); ++i) {
+        if (contains(regions[i], focusWidget()))
+            at = i;
+    }
+    for (qsizetype step = 1; step <= regions.size(); ++step) {
+        const qsizetype next = (at + (forward ? step : -step) + 2 * regions.size())
+            % regions.size();
+        if (QWidget *stop = firstStop(regions[next])) {
+            stop->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+// ---- what scripts ask
+
+bool PrintDialog::isIdle() const
+{
+    return m_session->stage() != DialogSession::Stage::Searching
+        && !m_session->isDocumentPending() && !m_look.isActive();
+}
+
+Result<void> PrintDialog::showPanel(const QString &name)
+{
+    Extension *panels = m_session->panels();
+    if (!panels)
+        return Error{Error::Code::NotFound, name, tr("there are no panels")};
+    QStringList names;
+    for (std::size_t i = 0; i < panels->panels().size(); ++i) {
+        if (panels->panels()[i].name == name) {
+            m_switch->setCurrentIndex(int(i));
+            return {};
+        }
+        names.append(panels->panels()[i].name);
+    }
+    // The shell names its own panes in the same way.
+    const auto panes = panels->panels().front().pane->findChildren<QWidget *>();
+    for (const QWidget *pane : panes) {
+        const auto id = controlIDOf(pane);
+        if (!id || id->signature != kUserPaneSignature)
+            continue;
+        if (pane->objectName() == name) {
+            m_switch->setCurrentIndex(0);
+            return showTab(id->number);
+        }
+        names.append(pane->objectName());
+    }
+    return Error{Error::Code::NotFound, name,
+                 tr("there is no such panel") + didYouMean(name, names)};
+}
+
+Result<void> PrintDialog::showTab(int tab)
+{
+    m_switch->setCurrentIndex(0);
+    auto *selector = findControl<PopupButton>(this, shellSelector);
+    if (!selector)
+        return Error{Error::Code::NotFound, QString::number(tab), tr("there are no tabs")};
+    if (tab < 1 || tab > int(selector->menu().items.size()))
+        return Error{Error::Code::OutOfRange, QString::number(tab),
+                     tr("there are tabs 1 to %1").arg(selector->menu().items.size())};
+    if (selector->value() != tab && !selector->choose(tab))
+        return Error{Error::Code::Refused, QString::number(tab), tr("the tab cannot be chosen")};
+    return {};
+}
+
+QString PrintDialog::placeOf(const QWidget *control) const
+{
+    if (m_column->isAncestorOf(control))
+        return tr("the left column");
+    Extension *panels = m_session->panels();
+    if (!panels)
+        return {};
+    for (std::size_t i = 0; i < panels->panels().size(); ++i) {
+        const Extension::Panel &panel = panels->panels()[i];
+        if (!panel.pane->isAncestorOf(control))
+            continue;
+        for (const QWidget *widget = control; widget != panel.pane;
+             widget = widget->parentWidget()) {
+            const auto id = controlIDOf(widget);
+            if (id && id->signature == kUserPaneSignature)
+                return tr("tab %1, %2").arg(id->number).arg(widget->objectName());
+        }
+        return tr("panel %1").arg(panel.name);
+    }
+    return {};
+}
+
+void PrintDialog::sync(SyncDirection direction)
+{
+    if (direction == kSyncWrite)
+        m_session->writeAll();
+    else
+        m_session->readAll();
+}
+
+const PrintSession &PrintDialog::sessionForReading()
+{
+    if (m_session->stage() == DialogSession::Stage::Ready)
+        m_session->writeAll();
+    return m_session->tickets();
+}
+
+QString PrintDialog::jobInWords()
+{
+    return m_session->stage() == DialogSession::Stage::Ready ? words().asText() : QString();
+}
+
+std::optional<QString> PrintDialog::secret(const QString &name) const
+{
+    const auto found = m_secrets.constFind(name);
+    if (found == m_secrets.cend())
+        return std::nullopt;
+    return *found;
+}
+
+QStringList PrintDialog::secretValues()
+{
+    QStringList values = m_secrets.values();
+    values += kelvo::secretValues(m_session->ticket(), m_session->secretKeys());
+    return values;
+}
+
+} // namespace kelvo

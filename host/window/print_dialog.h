@@ -1,0 +1,142 @@
+#pragma once
+
+#include "dialog_session.h"
+#include "event.h"
+#include "print_run.h"
+#include "script_target.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QStackedWidget;
+class QToolButton;
+
+namespace kelvo {
+
+class ConflictBar;
+class DocumentPreview;
+class PaneScroll;
+class PanelSwitch;
+class PresetMenu;
+class PrinterPane;
+class WaitingPane;
+
+// The print dialog. It shows what the session has and prints when it is told to;
+// it ends once, with the status that the program ends with.
+class PrintDialog : public QWidget, public ScriptTarget
+{
+    Q_OBJECT
+
+public:
+    explicit PrintDialog(DialogOptions options);
+    ~PrintDialog() override;
+
+    // Asks for printers and the document. Call it before show(): where nothing
+    // has to be waited for, the first frame has the real values.
+    void start();
+    // A script drives the dialog: what would ask the user ends the print instead.
+    void setDriven(bool driven);
+    // Texts of --secret, by name.
+    void setSecrets(QMap<QString, QString> secrets) { m_secrets = std::move(secrets); }
+    // Writes --ticket-out as the settings stand; nothing without that option.
+    Result<void> writeTicketOut();
+    // Ends as Cancel does, whatever is under way.
+    void interrupt();
+
+    bool isIdle() const override;
+    QWidget *window() override { return this; }
+    Result<void> showPanel(const QString &name) override;
+    Result<void> showTab(int tab) override;
+    QString placeOf(const QWidget *control) const override;
+    void sync(SyncDirection direction) override;
+    void pressPrint() override;
+    void pressCancel() override;
+    bool isPrinting() const override { return m_run != nullptr; }
+    std::optional<ExitStatus> finished() const override { return m_finished; }
+    QString lastPrintProblem() const override { return m_printProblem; }
+    ExitStatus lastPrintStatus() const override { return m_printStatus; }
+    const PrintSession &sessionForReading() override;
+    QString jobInWords() override;
+    std::optional<QString> secret(const QString &name) const override;
+    QStringList secretValues() override;
+
+signals:
+    void ended(kelvo::ExitStatus status); // once
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void buildWindow();
+    void addShortcuts();
+    void fitToFont();
+
+    // The session tells.
+    void takeStage();
+    void takeDocument();
+    void takeSettings();
+
+    // The user tells.
+    void showPanelAt(int index);
+    void changeSettings();
+    void lookAtSettings(); // writes, checks, and shows what follows
+    void fixConflicts();
+    void showDetails();
+    void showHelp();
+    void goToRegion(bool forward);
+    void setColumnShown(bool shown);
+
+    // Print.
+    void print();
+    bool endsInConflict();
+    void takeOutcome(const PrintOutcome &outcome);
+    void refusePrint(ExitStatus status, const QString &header, const QString &problem);
+    QString findReasonNotToPrint() const;
+    QString findPagesProblem() const;
+    void end(ExitStatus status);
+
+    void arrangeColumns();
+    void arrangeTabOrder();
+    void updatePrintButton();
+    void updatePreview();
+    void updateFoot();
+    void updateTitle();
+    JobWords words();
+
+    DialogOptions m_options;
+    QWidget *m_column;
+    QWidget *m_panelSide;
+    PanelSwitch *m_switch;
+    PaneScroll *m_scroll;
+    QStackedWidget *m_stack; // the waiting pane, or the panels
+    WaitingPane *m_waiting;
+    QWidget *m_panes; // parent of the device's panels
+    std::unique_ptr<DialogSession> m_session;
+    PresetMenu *m_presets;
+    PrinterPane *m_printer;
+    DocumentPreview *m_preview;
+    ConflictBar *m_conflictBar;
+    QToolButton *m_columnToggle;
+    QLabel *m_foot;
+    QProgressBar *m_progress;
+    QPushButton *m_details, *m_help, *m_cancel, *m_print;
+
+    QTimer m_look;               // lookAtSettings() soon
+    bool m_isColumnWanted = true; // by the user, when the window is wide enough
+    bool m_isNarrow = false;      // column and panels do not fit side by side
+    bool m_isDriven = false;
+    QMap<QString, QString> m_secrets;
+
+    std::unique_ptr<PrintRun> m_run;
+    ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
+    QString m_printProblem;
+    std::optional<ExitStatus> m_finished;
+};
+
+} // namespace kelvo

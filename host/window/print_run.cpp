@@ -1,0 +1,86 @@
+#include "print_run.h"
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+// While the job is made: what is wrong is in the settings.
+ExitStatus statusOfPreparation(Code code)
+{
+    switch (code) {
+    case Code::Refused:
+    case Code::OutOfRange:
+        return ExitStatus::NotOffered;
+    case Code::Cancelled:
+        return ExitStatus::Cancelled;
+    default:
+        return ExitStatus::Failed;
+    }
+}
+
+// While it is sent: what is wrong is on the way.
+ExitStatus statusOfDelivery(Code code)
+{
+    switch (code) {
+    case Code::NotFound:
+    case Code::Unreachable:
+    case Code::TimedOut:
+        return ExitStatus::NoDestination;
+    case Code::Cancelled:
+        return ExitStatus::Cancelled;
+    default:
+        return ExitStatus::Failed;
+    }
+}
+
+PrintOutcome carryOut(PrintRun::Order &order, const std::atomic_bool &cancelled)
+{
+    order.request.ppd = order.ppd.get();
+    const auto prepared = prepareJob(order.request);
+    if (!prepared)
+        return {statusOfPreparation(prepared.error().code), {}, prepared.error().text(), {}};
+    const PreparedJob &job = prepared.value();
+    if (cancelled)
+        return {ExitStatus::Cancelled, {}, PrintRun::tr("The job was cancelled."), {}};
+    if (!order.folder.isEmpty()) {
+        if (const auto delivered = deliverToFolder(job, order.folder); !delivered)
+            return {ExitStatus::Failed, {}, delivered.error().text(), {}};
+        return {ExitStatus::Printed, order.folder, {}, job.notSent};
+    }
+    const auto delivered
+        = deliverToQueue(job, order.queue, order.request.title, order.timeoutMs, cancelled);
+    if (!delivered)
+        return {statusOfDelivery(delivered.error().code), {}, delivered.error().text(), {}};
+    return {ExitStatus::Printed, delivered.value().name, {}, job.notSent};
+}
+
+} // namespace
+
+PrintRun::PrintRun(QObject *parent)
+    : QObject(parent)
+    , m_cancelled(std::make_shared<std::atomic_bool>(false))
+{
+}
+
+PrintRun::~PrintRun()
+{
+    cancel();
+}
+
+void PrintRun::start(Order order)
+{
+    m_task.start(
+        [order = std::make_shared<Order>(std::move(order)), cancelled = m_cancelled] {
+            return carryOut(*order, *cancelled);
+        },
+        [this](const PrintOutcome &outcome) { emit finished(outcome); });
+}
+
+void PrintRun::cancel()
+{
+    *m_cancelled = true;
+}
+
+} // namespace kelvo

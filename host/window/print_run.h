@@ -1,0 +1,54 @@
+#pragma once
+
+#include "background_task.h"
+#include "delivery.h"
+#include "exit_status.h"
+
+#include <QObject>
+
+#include <atomic>
+#include <memory>
+
+namespace kelvo {
+
+// What becomes of one press of Print.
+struct PrintOutcome
+{
+    ExitStatus status = ExitStatus::Failed;
+    QString place;   // printed: "Hall-123", or the folder
+    QString problem; // not printed: what, where and what to do
+    QStringList notSent; // settings that the queue's PPD lacks
+};
+
+// Prepares and delivers one job on a thread of its own. It runs once.
+class PrintRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Order
+    {
+        JobRequest request;           // its PPD pointer is set from `ppd`
+        std::shared_ptr<PpdFile> ppd; // kept until the job is out
+        QString queue;                // or
+        QString folder;               // instead of a queue
+        int timeoutMs = 30000;
+    };
+    explicit PrintRun(QObject *parent = nullptr);
+    ~PrintRun() override; // cancels
+
+    void start(Order order);
+    bool isRunning() const { return m_task.isRunning(); }
+    // Stops before the document is complete where that is still possible; the
+    // outcome says what happened.
+    void cancel();
+
+signals:
+    void finished(const kelvo::PrintOutcome &outcome);
+
+private:
+    BackgroundTask<PrintOutcome> m_task;
+    std::shared_ptr<std::atomic_bool> m_cancelled;
+};
+
+} // namespace kelvo

@@ -1,0 +1,310 @@
+#include "printer_pane.h"
+
+#include "popup_button.h"
+#include "spin_field.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+enum PagesChoice { AllPages = 1, SomePages = 2 };
+
+// The reference values are PMOrientation's.
+struct OrientationRow
+{
+    Orientation value;
+    const char *text;
+    const char *key;
+};
+constexpr OrientationRow orientationRows[] = {
+    {Orientation::Portrait, QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Portrait"), "portrait"},
+    {Orientation::Landscape, QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Landscape"), "landscape"},
+    {Orientation::ReversePortrait,
+     QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Portrait, upside down"), "reverse-portrait"},
+    {Orientation::ReverseLandscape,
+     QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Landscape, upside down"), "reverse-landscape"},
+};
+
+QString stateText(const Printer &printer)
+{
+    if (!printer.acceptsJobs)
+        return PrinterPane::tr("takes no jobs");
+    switch (printer.state) {
+    case Printer::State::Idle:
+        return PrinterPane::tr("idle");
+    case Printer::State::Busy:
+        return PrinterPane::tr("printing");
+    case Printer::State::Stopped:
+        return PrinterPane::tr("stopped");
+    }
+    Q_UNREACHABLE();
+}
+
+QString toolTipFor(const Printer &printer)
+{
+    QStringList lines = {printer.name + QStringLiteral(": ") + stateText(printer)};
+    for (const QString &text :
+         {printer.stateMessage, printer.info, printer.location, printer.makeAndModel}) {
+        if (!text.isEmpty())
+            lines.append(text);
+    }
+    // As text: names and places come from the server.
+    return QStringLiteral("<qt>%1</qt>")
+        .arg(lines.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+}
+
+} // namespace
+
+PrinterPane::PrinterPane(QWidget *presets, QWidget *parent)
+    : QWidget(parent)
+    , m_printer(new PopupButton(this))
+    , m_copies(new SpinField(this))
+    , m_collate(new QCheckBox(tr("C&ollate"), this))
+    , m_pagesChoice(new PopupButton(this))
+    , m_pages(new QLineEdit(this))
+    , m_pagesProblem(new QLabel(this))
+    , m_paper(new PopupButton(this))
+    , m_orientation(new PopupButton(this))
+    , m_settingControls{presets, m_copies, m_collate, m_pagesChoice, m_pages, m_paper, m_orientation}
+    , m_grid(new QGridLayout(this))
+{
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setHorizontalSpacing(8);
+    m_grid->setVerticalSpacing(6);
+    m_grid->setColumnStretch(1, 1);
+
+    m_printer->setObjectName(QStringLiteral("printer"));
+    addRow(tr("Prin&ter:"), m_printer, m_printer);
+    // The pop-up in front, by which Alt reaches the row.
+    addRow(tr("Pre&set:"), presets->focusProxy(), presets);
+
+    m_copies->setObjectName(QStringLiteral("copies"));
+    m_copies->setMinimum(1);
+    m_copies->setMaximum(kMaximumCopies);
+    m_copies->setValue(1);
+    m_collate->setObjectName(QStringLiteral("collate"));
+    m_collate->setToolTip(tr("Each copy is complete before the next one begins"));
+    sendControlEvents(m_collate);
+    auto *copiesRow = new QWidget(this);
+    auto *copiesLayout = new QHBoxLayout(copiesRow);
+    copiesLayout->setContentsMargins(0, 0, 0, 0);
+    copiesLayout->setSpacing(12);
+    copiesLayout->addWidget(m_copies);
+    copiesLayout->addWidget(m_collate);
+    copiesLayout->addStretch(1);
+    addRow(tr("&Copies:"), m_copies, copiesRow);
+
+    m_pagesChoice->setObjectName(QStringLiteral("pagesChoice"));
+    Menu choices;
+    choices.items = {{.text = tr("All"), .key = QStringLiteral("all"), .reference = AllPages},
+                     {.text = tr("Range"), .key = QStringLiteral("range"), .reference = SomePages}};
+    m_pagesChoice->setMenu(choices);
+    m_pages->setObjectName(QStringLiteral("pages"));
+    m_pages->setAccessibleName(tr("Pages to print"));
+    m_pages->setPlaceholderText(tr("such as 1-3, 7"));
+    sendControlEvents(m_pages);
+    auto *pagesRow = new QWidget(this);
+    auto *pagesLayout = new QHBoxLayout(pagesRow);
+    pagesLayout->setContentsMargins(0, 0, 0, 0);
+    pagesLayout->setSpacing(6);
+    pagesLayout->addWidget(m_pagesChoice);
+    pagesLayout->addWidget(m_pages, 1);
+    addRow(tr("Pa&ges:"), m_pagesChoice, pagesRow);
+
+    m_pagesProblem->setObjectName(QStringLiteral("pagesProblem"));
+    m_pagesProblem->setTextFormat(Qt::PlainText);
+    m_pagesProblem->setWordWrap(true);
+    m_pagesProblem->hide();
+    m_grid->addWidget(m_pagesProblem, m_grid->rowCount(), 1);
+
+    m_paper->setObjectName(QStringLiteral("paper"));
+    addRow(tr("Pap&er:"), m_paper, m_paper);
+
+    m_orientation->setObjectName(QStringLiteral("orientation"));
+    Menu orientations;
+    for (const OrientationRow &row : orientationRows)
+        orientations.items.push_back({.text = tr(row.text),
+                                      .key = QString::fromLatin1(row.key),
+                                      .reference = static_cast<std::int32_t>(row.value)});
+    m_orientation->setMenu(orientations);
+    addRow(tr("Or&ientation:"), m_orientation, m_orientation);
+
+    m_handler = installEventHandler(this, [this](const Event &event) { return handle(event); });
+    setSettings({}, nullptr);
+    setSettingsEnabled(false);
+}
+
+QLabel *PrinterPane::addRow(const QString &text, QWidget *buddy, QWidget *field)
+{
+    auto *label = new QLabel(text, this);
+    label->setBuddy(buddy);
+    if (buddy->accessibleName().isEmpty())
+        buddy->setAccessibleName(QString(text).remove(u'&').remove(u':'));
+    const int row = m_grid->rowCount();
+    m_grid->addWidget(label, row, 0);
+    m_grid->addWidget(field, row, 1);
+    return label;
+}
+
+void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &chosen)
+{
+    Menu menu;
+    std::int32_t reference = 0;
+    std::int32_t shown = -1;
+    for (const Printer &printer : printers) {
+        if (printer.name == chosen) {
+            shown = reference;
+            m_printer->setToolTip(toolTipFor(printer));
+        }
+        menu.items.push_back({.text = tr("%1 (%2)", "printer and its state")
+                                          .arg(printer.name, stateText(printer)),
+                              .key = printer.name,
+                              .reference = reference++});
+    }
+    if (shown < 0 && !chosen.isEmpty()) {
+        // Asked for, and not there (yet): shown all the same.
+        shown = reference;
+        menu.items.push_back(
+            {.text = chosen, .key = chosen, .reference = reference, .enabled = false});
+    }
+    m_printer->setMenu(std::move(menu));
+    if (!m_printer->setValueByReference(shown))
+        m_printer->setValue(0);
+    m_printer->setEnabled(!printers.isEmpty());
+}
+
+void PrinterPane::setDevice(const QString &name)
+{
+    Menu menu;
+    menu.items.push_back({.text = name, .key = name});
+    m_printer->setMenu(std::move(menu));
+    m_printer->setValue(1);
+    m_printer->setToolTip(tr("A device without a queue: nothing can be sent to it"));
+}
+
+void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
+{
+    m_copies->setValue(settings.copies);
+    m_collate->setChecked(settings.collate);
+    m_collate->setEnabled(m_copies->isEnabled() && settings.copies > 1);
+    // A range that the user has not typed yet stays a range.
+    const bool isRange = !settings.pageRanges.isEmpty() || arePagesMissing();
+    m_pagesChoice->setValueByReference(isRange ? SomePages : AllPages);
+    // While the user types, the text is already what the ticket has.
+    if (m_pages->text().trimmed() != settings.pageRanges && !settings.pageRanges.isEmpty())
+        m_pages->setText(settings.pageRanges);
+    showPageField();
+
+    Menu papers;
+    if (ppd) {
+        for (const PpdPageSize &size : ppd->pageSizes()) {
+            if (size.name == QLatin1String("Custom"))
+                continue;
+            const PpdOption *option = ppd->findOption(QStringLiteral("PageSize"));
+            const PpdChoice *choice = option ? option->findChoice(size.name) : nullptr;
+            papers.items.push_back({.text = choice ? choice->text : size.name,
+                                    .key = size.name,
+                                    .reference = static_cast<std::int32_t>(papers.items.size())});
+        }
+    }
+    m_hasPaper = !papers.items.empty();
+    m_paperName = settings.paperName;
+    if (!m_hasPaper)
+        papers.items.push_back({.text = tr("As the printer has it")});
+    const auto shown = std::find_if(
+        papers.items.cbegin(), papers.items.cend(),
+        [&settings](const MenuItem &item) { return item.key == settings.paperName; });
+    const int value
+        = shown == papers.items.cend() ? 1 : int(shown - papers.items.cbegin()) + 1;
+    if (m_paper->menu().items.size() != papers.items.size() || m_paper->menu().reference != ppd) {
+        papers.reference = ppd;
+        m_paper->setMenu(std::move(papers));
+    }
+    m_paper->setValue(value);
+    m_paper->setEnabled(m_hasPaper && m_copies->isEnabled());
+    m_orientation->setValueByReference(static_cast<std::int32_t>(settings.orientation));
+}
+
+JobSettings PrinterPane::settings() const
+{
+    JobSettings settings;
+    settings.copies = m_copies->value();
+    settings.collate = m_collate->isChecked();
+    if (m_pagesChoice->chosenReference() == SomePages)
+        settings.pageRanges = m_pages->text().trimmed();
+    settings.paperName = m_paperName;
+    settings.orientation = static_cast<Orientation>(m_orientation->chosenReference());
+    return settings;
+}
+
+bool PrinterPane::arePagesMissing() const
+{
+    return m_pagesChoice->chosenReference() == SomePages && m_pages->text().trimmed().isEmpty();
+}
+
+void PrinterPane::setSettingsEnabled(bool enabled)
+{
+    for (QWidget *control : m_settingControls)
+        setEnabledWithLabel(control, enabled);
+    m_collate->setEnabled(enabled && m_copies->value() > 1);
+    m_paper->setEnabled(enabled && m_hasPaper);
+    showPageField();
+}
+
+void PrinterPane::setPagesProblem(const QString &problem)
+{
+    m_pagesProblem->setText(problem);
+    m_pagesProblem->setVisible(!problem.isEmpty());
+    m_pages->setAccessibleDescription(problem);
+}
+
+void PrinterPane::showPageField()
+{
+    m_pages->setEnabled(m_pagesChoice->isEnabled()
+                        && m_pagesChoice->chosenReference() == SomePages);
+}
+
+OSStatus PrinterPane::handle(const Event &event)
+{
+    const QWidget *source = event.source;
+    const bool isHit = event.kind == EventKind::ControlHit;
+    if (source == m_printer && isHit) {
+        const auto row = static_cast<std::size_t>(m_printer->value() - 1);
+        if (row < m_printer->menu().items.size())
+            emit printerChosen(m_printer->menu().items[row].key);
+        return noErr;
+    }
+    if (source == m_paper && isHit) {
+        const auto row = static_cast<std::size_t>(m_paper->value() - 1);
+        if (row < m_paper->menu().items.size())
+            m_paperName = m_paper->menu().items[row].key;
+        emit settingsEdited();
+        return noErr;
+    }
+    if (source == m_pagesChoice && isHit) {
+        showPageField();
+        if (m_pages->isEnabled())
+            m_pages->setFocus();
+        emit settingsEdited();
+        return noErr;
+    }
+    if (source == m_copies && isHit)
+        m_collate->setEnabled(m_copies->value() > 1);
+    const bool isEdit = (isHit && (source == m_copies || source == m_collate
+                                   || source == m_orientation))
+        || (source == m_pages && event.kind == EventKind::TextChanged);
+    if (!isEdit)
+        return eventNotHandledErr;
+    emit settingsEdited();
+    return noErr;
+}
+
+} // namespace kelvo

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "job_settings.h"
+#include "printers.h"
+
+#include "event.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QCheckBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+
+namespace kelvo {
+
+class PopupButton;
+class SpinField;
+
+// The host's own controls: printer, preset, copies, pages, paper. It shows what
+// it is given and tells what the user did.
+class PrinterPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // `presets` stands in the second row; it becomes a child of this.
+    explicit PrinterPane(QWidget *presets, QWidget *parent = nullptr);
+
+    // The queues, or one device without a queue.
+    void setPrinters(const QList<Printer> &printers, const QString &chosen);
+    void setDevice(const QString &name);
+
+    // Enables what `ppd` offers; null: the paper is the printer's own.
+    void setSettings(const JobSettings &settings, const PpdFile *ppd);
+    JobSettings settings() const;
+    bool arePagesMissing() const; // a range is chosen and not typed yet
+    void setSettingsEnabled(bool enabled); // before there is a ticket: not
+
+    // Why the pages cannot be printed; empty when they can.
+    void setPagesProblem(const QString &problem);
+
+signals:
+    void printerChosen(const QString &name);
+    void settingsEdited();
+
+private:
+    QLabel *addRow(const QString &text, QWidget *buddy, QWidget *field);
+    OSStatus handle(const Event &event);
+    void showPageField();
+
+    PopupButton *m_printer;
+    SpinField *m_copies;
+    QCheckBox *m_collate;
+    PopupButton *m_pagesChoice;
+    QLineEdit *m_pages;
+    QLabel *m_pagesProblem;
+    PopupButton *m_paper;
+    PopupButton *m_orientation;
+    std::vector<QWidget *> m_settingControls;
+    QGridLayout *m_grid;
+    EventHandlerRef m_handler;
+    QString m_paperName;   // as the ticket has it, also when the device lacks it
+    bool m_hasPaper = false;
+};
+
+} // namespace kelvo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "dialog_session.h"
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+namespace kelvo {
+
+// Stands where the panels would: what is going on or why there are none, and
+// what the user can do.
+class WaitingPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit WaitingPane(QWidget *parent = nullptr);
+
+    void setMessage(const DialogSession::Message &message);
+
+signals:
+    void retryRequested();
+
+private:
+    QLabel *m_header, *m_text;
+    QPushButton *m_retry;
+};
+
+} // namespace kelvo
