@@ -239,10 +239,10 @@ Result<void> convertPicture(const ConverterFiles &files, const std::atomic_bool 
     if (end.value().status == 0)
         return {};
     const auto row = std::ranges::find(exitStatuses, end.value().status, &ExitStatus::status);
+    // The libraries may have chatted before; the reason comes last.
+    const QString reason = end.value().message.section(u'\n', -1);
     return converterError(row == std::end(exitStatuses) ? Error::Code::Damaged : row->code, files,
-                          end.value().message.isEmpty()
-                              ? QStringLiteral("the picture cannot be read")
-                              : end.value().message);
+                          reason.isEmpty() ? QStringLiteral("the picture cannot be read") : reason);
 }
 
 int runPictureHelper(const QString &picturePath, const QString &pdfPath)
