@@ -21,9 +21,10 @@
 //   CFBundleExecutable          string   file name of the module
 //   CFPlugInTypes               dictionary: plug-in type UUID → array of factory UUIDs
 //   CFPlugInFactories           dictionary: factory UUID → function name
-//   KelvoFurtherPanelGetters    array of strings: panels beside the shell, in order (may be missing)
-//   KelvoSecretTicketKeys       array of key paths ("com.kelvo.print.JobType/SecurePrintPassword")
-//   KelvoFaxTicketKeys          array of keys whose presence makes a job a fax
+//   KelvoFurtherPanelGetters    array of strings: panels beside the shell, in order (may be
+//   missing) KelvoSecretTicketKeys       array of key paths
+//   ("com.kelvo.print.JobType/SecurePrintPassword") KelvoFaxTicketKeys          array of keys whose
+//   presence makes a job a fax
 namespace kelvo {
 
 class Bundle
@@ -77,8 +78,8 @@ CFBundleRef CFBundleGetBundleWithIdentifier(const QString &identifier);
 void *CFBundleGetFunctionPointerForName(CFBundleRef bundle, const char *name);
 
 // The text of `key`, else `fallback`.
-QString CFBundleCopyLocalizedString(CFBundleRef bundle, const QString &key,
-                                    const QString &fallback, const QString &table);
+QString CFBundleCopyLocalizedString(CFBundleRef bundle, const QString &key, const QString &fallback,
+                                    const QString &table);
 
 // Which factories have living instances; a bundle's module may not go while
 // they do.

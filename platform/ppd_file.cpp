@@ -19,6 +19,7 @@
 #include <cmath>
 #include <cstring>
 #include <initializer_list>
+#include <set>
 
 namespace kelvo {
 
@@ -58,6 +59,32 @@ Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &bytes, const QSt
                      QStringLiteral("line %1: %2").arg(line).arg(textFrom(ppdErrorString(status)))};
     }
     return std::shared_ptr<ppd_file_t>(ppd, &ppdClose);
+}
+
+// Counts what stands in the text, which is never less than what libcups finds.
+std::optional<Error> findExcess(const QByteArray &bytes, const QString &path)
+{
+    struct Row
+    {
+        QByteArrayView word;
+        int most;
+        QLatin1String what;
+    };
+    static constexpr Row rows[] = {
+        {"OpenUI", limits::ppdOptions, QLatin1String("options")},
+        {"OpenGroup", limits::ppdOptions, QLatin1String("groups")},
+        {"OpenSubGroup", limits::ppdOptions, QLatin1String("groups")},
+        {"*PageSize ", limits::ppdPageSizes, QLatin1String("page sizes")},
+        {"*PaperDimension", limits::ppdPageSizes, QLatin1String("page sizes")},
+        {"*ImageableArea", limits::ppdPageSizes, QLatin1String("page sizes")},
+        {"UIConstraints", limits::ppdConstraints, QLatin1String("constraints")},
+    };
+    for (const Row &row : rows) {
+        if (bytes.count(row.word) > row.most)
+            return Error{Code::TooLarge, path,
+                         QStringLiteral("more than %1 %2").arg(row.most).arg(row.what)};
+    }
+    return std::nullopt;
 }
 
 void walk(const ppd_group_t &group, const auto &visit)
@@ -232,7 +259,12 @@ struct PpdFile::Private
     QString path;
     QByteArray bytes;
     std::shared_ptr<ppd_file_t> ppd;
-    std::shared_ptr<ppd_file_t> constraints; // the same file again, for marks of its own
+    // The same file again, for marks of its own, with its rules and its options
+    // in their order. Opened when first asked for.
+    std::shared_ptr<ppd_file_t> constraints;
+    std::vector<Constraint> rules;
+    std::vector<const ppd_option_t *> order;
+    QHash<const ppd_option_t *, std::size_t> position;
     std::vector<PpdGroup> groups;
     QHash<const ppd_option_t *, const PpdOption *> options; // into groups
     std::vector<PpdPageSize> pageSizes;
@@ -241,8 +273,15 @@ struct PpdFile::Private
     ppd_file_t *constraintMarks()
     {
         if (!constraints) {
-            if (auto opened = openBytes(bytes, path))
-                constraints = opened.value();
+            const auto opened = openBytes(bytes, path);
+            if (!opened)
+                return nullptr;
+            constraints = opened.value();
+            rules = constraintsOf(constraints.get());
+            walk(*constraints, [this](const ppd_option_t &option) {
+                position.insert(&option, order.size());
+                order.push_back(&option);
+            });
         }
         return constraints.get();
     }
@@ -278,6 +317,8 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     if (bytes.startsWith("\x1f\x8b"))
         return Error{Code::Unsupported, path,
                      QStringLiteral("compressed; unpack it with gunzip first")};
+    if (auto excess = findExcess(bytes, path))
+        return *excess;
     auto opened = openBytes(bytes, path);
     if (!opened)
         return opened.error();
@@ -416,43 +457,32 @@ std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
 
     // libcups tells which options are in any conflict, but not which of them in
     // the same one; that stands in the rules.
-    QStringList order;
-    QStringList conflicted;
-    walk(*ppd, [&](const ppd_option_t &option) {
-        order << textFrom(option.keyword);
-        if (option.conflicted)
-            conflicted << order.last();
-    });
-    std::vector<PpdConflict> conflicts;
-    for (const Constraint &constraint : constraintsOf(ppd)) {
-        if (!std::all_of(constraint.begin(), constraint.end(),
+    std::set<std::vector<std::size_t>> found; // positions: each conflict once, in the PPD's order
+    for (const Constraint &rule : d->rules) {
+        if (!std::all_of(rule.begin(), rule.end(),
                          [ppd](const Term &term) { return holds(ppd, term); }))
             continue;
-        PpdConflict conflict;
-        for (const Term &term : constraint)
-            conflict.options << textFrom(term.option->keyword);
-        conflicts.push_back(std::move(conflict));
+        std::vector<std::size_t> options;
+        for (const Term &term : rule)
+            options.push_back(d->position.value(term.option));
+        std::sort(options.begin(), options.end());
+        found.insert(std::move(options));
     }
-    if (conflicts.empty()) // a rule of a form that only libcups knows
-        return {PpdConflict{conflicted}};
+    if (found.empty()) { // a rule of a form that only libcups knows
+        std::vector<std::size_t> options;
+        for (std::size_t at = 0; at < d->order.size(); ++at) {
+            if (d->order[at]->conflicted)
+                options.push_back(at);
+        }
+        found.insert(std::move(options));
+    }
 
-    // In the PPD's order, within a conflict and between them; each once.
-    QHash<QString, qsizetype> position;
-    for (qsizetype i = order.size(); i-- > 0;)
-        position.insert(order[i], i);
-    const auto before = [&](const QString &x, const QString &y) {
-        return position[x] < position[y];
-    };
-    for (PpdConflict &conflict : conflicts)
-        std::sort(conflict.options.begin(), conflict.options.end(), before);
-    std::sort(conflicts.begin(), conflicts.end(), [&](const auto &x, const auto &y) {
-        return std::lexicographical_compare(x.options.begin(), x.options.end(), y.options.begin(),
-                                            y.options.end(), before);
-    });
-    conflicts.erase(
-        std::unique(conflicts.begin(), conflicts.end(),
-                    [](const auto &x, const auto &y) { return x.options == y.options; }),
-        conflicts.end());
+    std::vector<PpdConflict> conflicts;
+    for (const auto &options : found) {
+        PpdConflict &conflict = conflicts.emplace_back();
+        for (const std::size_t at : options)
+            conflict.options << textFrom(d->order[at]->keyword);
+    }
     return conflicts;
 }
 

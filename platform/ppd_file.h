@@ -67,15 +67,14 @@ public:
     // Unsupported for a compressed one, or Damaged with libcups' reason and line.
     static Result<std::shared_ptr<PpdFile>> open(const QString &path);
     // The same from bytes that are already here; `path` names them in errors.
-    static Result<std::shared_ptr<PpdFile>> fromBytes(const QByteArray &bytes,
-                                                      const QString &path);
+    static Result<std::shared_ptr<PpdFile>> fromBytes(const QByteArray &bytes, const QString &path);
     ~PpdFile();
     PpdFile(const PpdFile &) = delete;
     PpdFile &operator=(const PpdFile &) = delete;
 
     const QString &path() const;
-    QString manufacturer() const;   // empty when missing
-    QString modelName() const;      // the nickname where there is one
+    QString manufacturer() const;     // empty when missing
+    QString modelName() const;        // the nickname where there is one
     QString languageEncoding() const; // lang_encoding as libcups gives it; empty when missing
     bool isColorDevice() const;
     // The value of a main keyword such as "KelvoTicket" (without the quotes); none when missing.

@@ -13,16 +13,16 @@ namespace kelvo {
 struct Error
 {
     enum class Code {
-        NotFound,     // no such file, entry, printer, choice
-        NotReadable,  // there, but it cannot be read
-        NotWritable,  // cannot be created, written, synced or renamed
-        TooLarge,     // above a limit of size_limits.h
-        Damaged,      // its bytes are not what they claim to be
-        WrongType,    // a value of another type than its place asks for
-        OutOfRange,   // a number outside its limits
-        Unsupported,  // well formed, but not a kind that we handle
-        Unreachable,  // a server that does not answer
-        Refused,      // a rule of ours, or the server, said no
+        NotFound,    // no such file, entry, printer, choice
+        NotReadable, // there, but it cannot be read
+        NotWritable, // cannot be created, written, synced or renamed
+        TooLarge,    // above a limit of size_limits.h
+        Damaged,     // its bytes are not what they claim to be
+        WrongType,   // a value of another type than its place asks for
+        OutOfRange,  // a number outside its limits
+        Unsupported, // well formed, but not a kind that we handle
+        Unreachable, // a server that does not answer
+        Refused,     // a rule of ours, or the server, said no
         TimedOut,
         Cancelled,
     };
@@ -32,7 +32,10 @@ struct Error
     QString detail; // the value found or the system's message; may be empty
 
     // "where: detail", for one line of a log.
-    QString text() const { return detail.isEmpty() ? where : where + QStringLiteral(": ") + detail; }
+    QString text() const
+    {
+        return detail.isEmpty() ? where : where + QStringLiteral(": ") + detail;
+    }
 };
 
 // A value or the reason why there is none. Forgetting to look is a warning,
@@ -41,8 +44,14 @@ template <typename T>
 class [[nodiscard]] Result
 {
 public:
-    Result(T value) : m_state(std::in_place_index<0>, std::move(value)) {}
-    Result(Error error) : m_state(std::in_place_index<1>, std::move(error)) {}
+    Result(T value)
+        : m_state(std::in_place_index<0>, std::move(value))
+    {
+    }
+    Result(Error error)
+        : m_state(std::in_place_index<1>, std::move(error))
+    {
+    }
 
     explicit operator bool() const { return m_state.index() == 0; }
     const T &value() const & { return std::get<0>(m_state); }
@@ -62,7 +71,11 @@ class [[nodiscard]] Result<void>
 {
 public:
     Result() = default;
-    Result(Error error) : m_error(std::move(error)), m_failed(true) {}
+    Result(Error error)
+        : m_error(std::move(error))
+        , m_failed(true)
+    {
+    }
 
     explicit operator bool() const { return !m_failed; }
     const Error &error() const { return m_error; } // only after a failure

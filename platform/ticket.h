@@ -18,14 +18,18 @@ inline const QString kPMPrintSettingsTicket = QStringLiteral("PMPrintSettingsTic
 inline const QString kPMPageFormatTicket = QStringLiteral("PMPageFormatTicket");
 
 // Keys of the platform itself. Lengths are points.
-inline const QString kPMOrientationKey = QStringLiteral("com.apple.print.PageFormat.PMOrientation"); // 1…4
-inline const QString kPMPaperNameKey = QStringLiteral("com.apple.print.PaperInfo.PMPaperName"); // a PPD page size
-inline const QString kPMPaperSizeKey = QStringLiteral("com.kelvo.print.PageFormat.PaperSize"); // array: width, height
-inline const QString kPMUnadjustedPaperRectKey
-    = QStringLiteral("com.apple.print.PaperInfo.PMUnadjustedPaperRect"); // array: top, left, bottom, right
+inline const QString kPMOrientationKey =
+    QStringLiteral("com.apple.print.PageFormat.PMOrientation"); // 1…4
+inline const QString kPMPaperNameKey =
+    QStringLiteral("com.apple.print.PaperInfo.PMPaperName"); // a PPD page size
+inline const QString kPMPaperSizeKey =
+    QStringLiteral("com.kelvo.print.PageFormat.PaperSize"); // array: width, height
+inline const QString kPMUnadjustedPaperRectKey = QStringLiteral(
+    "com.apple.print.PaperInfo.PMUnadjustedPaperRect"); // array: top, left, bottom, right
 inline const QString kPMCopiesKey = QStringLiteral("com.apple.print.PrintSettings.PMCopies");
 inline const QString kPMCollateKey = QStringLiteral("com.apple.print.PrintSettings.PMCopyCollate");
-inline const QString kPMPageRangesKey = QStringLiteral("com.kelvo.print.PrintSettings.PageRanges"); // "1-3,7"; absent: all
+inline const QString kPMPageRangesKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.PageRanges"); // "1-3,7"; absent: all
 inline const QString kPMJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
 
 using PPDDictionary = QMap<QString, QString>;

@@ -43,7 +43,9 @@ Parts partsOf(const QStyleOptionComboBox &popup)
 {
     const int arrowSide = arrowSideFor(popup);
     const int room = popup.rect.width() - 3 * kGap - arrowSide;
-    const int textWidth = std::min(room, popup.fontMetrics.horizontalAdvance(popup.currentText));
+    // The advance is rounded; a text in a box of just that width would be elided.
+    const int textWidth =
+        std::min(room, popup.fontMetrics.horizontalAdvance(popup.currentText) + 1);
     const int left = popup.rect.left() + (popup.rect.width() - textWidth - kGap - arrowSide) / 2;
     const QRect text(left, popup.rect.top(), textWidth, popup.rect.height());
     const QRect arrow(left + textWidth + kGap, popup.rect.center().y() - arrowSide / 2 + 1,

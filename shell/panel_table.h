@@ -17,7 +17,8 @@ namespace kelvo {
 // its panel's tab index, whether or not the others are there.
 extern const char *const PanelInterfaces[];
 
-inline constexpr std::int32_t kNoTab = -1; // marks an empty record
+inline constexpr std::int32_t kNoTab = -1;         // marks an empty record
+inline constexpr std::int32_t kPaperOutputTab = 1; // the panel that knows the job type
 
 struct PanelRecord
 {

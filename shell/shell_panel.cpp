@@ -130,9 +130,8 @@ void showTab(std::int32_t tabIndex, PDEShellContext &shell)
 
 PrintCheck checkOf(const PDEShellContext &shell, const PanelRecord **paperOutput)
 {
-    // The panel that registers itself as provider is the first in the list.
     const JobTypeProvider jobType = jobTypeProvider();
-    *paperOutput = findPanel(shell, 1);
+    *paperOutput = findPanel(shell, kPaperOutputTab);
     return jobType && *paperOutput ? checkBeforePrint(jobType((*paperOutput)->context))
                                    : PrintCheck::Proceed;
 }

@@ -5,32 +5,53 @@
 #include "spin_field.h"
 
 #include <QAbstractSlider>
+#include <QHash>
 #include <QLabel>
 #include <QPointer>
 #include <QVBoxLayout>
+
+#include <limits>
 
 namespace kelvo {
 
 namespace {
 
-constexpr char idProperty[] = "_kelvo_controlID";
 constexpr char defaultButtonProperty[] = "_kelvo_defaultButton";
 constexpr char cancelButtonProperty[] = "_kelvo_cancelButton";
 
-// Below `root`, it included, but not in the windows that it owns: the dialogs
-// of a window are its children too, and have IDs of their own.
-QWidget *findBelow(QWidget *root, ControlID id, const QWidget *searched = nullptr)
+// Which widget has which ID, and the other way round. Never destroyed: widgets
+// of static objects may go after it would.
+struct ControlRegistry
 {
-    if (controlIDOf(root) == id)
-        return root;
-    for (QObject *child : root->children()) {
-        auto *widget = qobject_cast<QWidget *>(child);
-        if (!widget || widget == searched || widget->isWindow())
-            continue;
-        if (QWidget *found = findBelow(widget, id))
-            return found;
-    }
-    return nullptr;
+    QHash<const QObject *, ControlID> idOf;
+    QHash<ControlID, QList<QWidget *>> controls;
+};
+
+ControlRegistry &registry()
+{
+    static auto &controls = *new ControlRegistry;
+    return controls;
+}
+
+void forgetControl(const QObject *control)
+{
+    const auto id = registry().idOf.constFind(control);
+    if (id == registry().idOf.constEnd())
+        return;
+    const auto list = registry().controls.find(*id);
+    list->removeIf([control](const QObject *other) { return other == control; });
+    if (list->isEmpty())
+        registry().controls.erase(list);
+    registry().idOf.erase(id);
+}
+
+// How far up from `widget` the first parent is that holds `other` too.
+int distance(const QWidget *widget, const QWidget *other)
+{
+    int steps = 0;
+    for (; widget != other && !widget->isAncestorOf(other); widget = widget->parentWidget())
+        ++steps;
+    return steps;
 }
 
 QByteArray propertyName(OSType creator, OSType tag)
@@ -85,28 +106,37 @@ QString textOf(ControlID id)
 
 void setControlID(QWidget *control, ControlID id)
 {
-    control->setProperty(idProperty, textOf(id));
+    if (registry().idOf.contains(control))
+        forgetControl(control);
+    else
+        QObject::connect(control, &QObject::destroyed, &forgetControl);
+    registry().idOf.insert(control, id);
+    registry().controls[id].append(control);
 }
 
 std::optional<ControlID> controlIDOf(const QWidget *control)
 {
-    if (!control)
-        return std::nullopt;
-    const QVariant text = control->property(idProperty);
-    return text.isValid() ? controlIDFromText(text.toString()) : std::nullopt;
+    const auto id = registry().idOf.constFind(control);
+    return id == registry().idOf.constEnd() ? std::nullopt : std::optional(*id);
 }
 
 QWidget *findControl(const QWidget *anyWidget, ControlID id)
 {
-    const QWidget *searched = nullptr;
-    for (auto *root = const_cast<QWidget *>(anyWidget); root; root = root->parentWidget()) {
-        if (QWidget *found = findBelow(root, id, searched))
-            return found;
-        if (root->isWindow())
-            break;
-        searched = root;
+    if (!anyWidget)
+        return nullptr;
+    QWidget *nearest = nullptr;
+    int least = std::numeric_limits<int>::max();
+    const QList<QWidget *> candidates = registry().controls.value(id);
+    for (QWidget *candidate : candidates) {
+        // The dialogs of a window are its children too, and have IDs of their own.
+        if (candidate->window() != anyWidget->window())
+            continue;
+        if (const int steps = distance(anyWidget, candidate); steps < least) {
+            nearest = candidate;
+            least = steps;
+        }
     }
-    return nullptr;
+    return nearest;
 }
 
 std::optional<int> controlMaximum(const QWidget *control)

@@ -3,6 +3,7 @@
 #include "four_char_code.h"
 #include "status.h"
 
+#include <QHashFunctions>
 #include <QString>
 #include <QVariant>
 #include <QWidget>
@@ -23,6 +24,10 @@ struct ControlID
     std::int32_t number = 0;
 
     friend bool operator==(const ControlID &, const ControlID &) = default;
+    friend std::size_t qHash(const ControlID &id, std::size_t seed = 0)
+    {
+        return qHashMulti(seed, id.signature, id.number);
+    }
 };
 
 inline constexpr OSType kPanelSignature = fourCharCode("KPDE");

@@ -13,6 +13,12 @@
 
 namespace kelvo {
 
+namespace {
+
+constexpr int usualFontHeight = 15; // logical pixels, of the font that widths are given for
+
+} // namespace
+
 // Asks for a cell when it is shown; keeps nothing itself.
 class RowModel : public QAbstractTableModel
 {
@@ -106,7 +112,8 @@ void ListView::setColumns(const std::vector<Column> &columns, CellText text)
 {
     m_model->setColumns(columns, std::move(text));
     for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
-        const int width = columns[static_cast<std::size_t>(i)].width;
+        const int width =
+            columns[static_cast<std::size_t>(i)].width * fontMetrics().height() / usualFontHeight;
         header()->resizeSection(i, std::max(width, header()->sectionSizeHint(i)));
     }
 }

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <vector>
@@ -74,6 +75,9 @@ ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
 
 DialogResult ModalDialog::runModal()
 {
+    // Left alone, Qt squeezes a dialog into two thirds of the screen.
+    if (!testAttribute(Qt::WA_Resized))
+        resize(sizeHint().boundedTo(screen()->availableSize()));
     runningDialogs().emplace_back(this);
     const QPointer<QWidget> self = this;
     const int result = exec();

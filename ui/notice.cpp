@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -24,17 +25,47 @@ namespace {
 
 constexpr int lineCharacters = 56; // a comfortable line of the message
 
-QStyle::StandardPixmap iconFor(NoticeLevel level)
+// A sign in the usual colours, which read on light and dark alike. Drawn here
+// because the built-in ones are coarse on a dense screen.
+QPixmap signFor(NoticeLevel level, int side, double ratio)
 {
+    QPixmap sign(QSize(side, side) * ratio);
+    sign.setDevicePixelRatio(ratio);
+    sign.fill(Qt::transparent);
+    QPainter painter(&sign);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / 32.0, side / 32.0);
+    const auto stroke = [&painter](const QColor &colour, double width) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    };
+    painter.setPen(Qt::NoPen);
     switch (level) {
     case NoticeLevel::Stop:
-        return QStyle::SP_MessageBoxCritical;
+        painter.setBrush(QColor(0xC6, 0x28, 0x28));
+        painter.drawEllipse(QRectF(1, 1, 30, 30));
+        stroke(Qt::white, 3.5);
+        painter.drawLine(QPointF(11, 11), QPointF(21, 21));
+        painter.drawLine(QPointF(21, 11), QPointF(11, 21));
+        break;
     case NoticeLevel::Note:
-        return QStyle::SP_MessageBoxInformation;
-    case NoticeLevel::Caution:
-        return QStyle::SP_MessageBoxWarning;
+        painter.setBrush(QColor(0x1F, 0x6F, 0xB8));
+        painter.drawEllipse(QRectF(1, 1, 30, 30));
+        stroke(Qt::white, 3.5);
+        painter.drawPoint(QPointF(16, 9.5));
+        painter.drawLine(QPointF(16, 15), QPointF(16, 23));
+        break;
+    case NoticeLevel::Caution: {
+        const QColor amber(0xF5, 0xA6, 0x23);
+        painter.setBrush(amber);
+        stroke(amber, 4);
+        painter.drawPolygon(QPolygonF{{16, 4.5}, {29, 27}, {3, 27}});
+        stroke(QColor(0x33, 0x26, 0x05), 3.5);
+        painter.drawLine(QPointF(16, 12), QPointF(16, 18));
+        painter.drawPoint(QPointF(16, 24));
+        break;
     }
-    Q_UNREACHABLE();
+    }
+    return sign;
 }
 
 QLabel *textLabel(const QString &text, QWidget *parent)
@@ -70,8 +101,7 @@ public:
         grid->setSizeConstraint(QLayout::SetFixedSize);
 
         auto *icon = new QLabel(this);
-        const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-        icon->setPixmap(style()->standardIcon(iconFor(level), nullptr, this).pixmap(side, side));
+        icon->setPixmap(signFor(level, fontMetrics().height() * 5 / 2, devicePixelRatioF()));
         grid->addWidget(icon, 0, 0, 2, 1, Qt::AlignTop);
 
         QLabel *header = textLabel(notice.header, this);
@@ -125,6 +155,7 @@ private:
     QHBoxLayout *buttonRow()
     {
         auto *row = new QHBoxLayout;
+        row->setSpacing(fontMetrics().height() / 2);
         row->addStretch(1);
         for (const QString &text : m_notice.buttons) {
             auto *button = new QPushButton(text, this);

@@ -55,6 +55,7 @@ void PopupButton::setMenu(Menu menu)
 {
     m_menu = std::move(menu);
     m_maximum = static_cast<int>(m_menu.items.size());
+    m_widest = -1;
 
     const QSignalBlocker silence(this);
     clear();
@@ -138,14 +139,13 @@ QString PopupButton::elidedText(const QStyleOptionComboBox &option) const
 QSize PopupButton::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    int widest = 0;
-    for (int i = 0; i < count(); ++i)
-        widest = std::max(widest, metrics.horizontalAdvance(itemText(i)));
+    for (int i = m_widest < 0 ? 0 : count(); i < count(); ++i)
+        m_widest = std::max(m_widest, metrics.horizontalAdvance(itemText(i)));
     const int character = metrics.horizontalAdvance(u'X');
     const int least = minimumContentsLength() * character;
     const int most = std::max(minimumContentsLength(), mostCharacters) * character;
     QSize hint = QComboBox::minimumSizeHint();
-    hint.rwidth() += std::clamp(widest + character, least, most) - least;
+    hint.rwidth() += std::clamp(m_widest + character, least, most) - least;
     return hint;
 }
 
@@ -173,6 +173,8 @@ bool PopupButton::event(QEvent *event)
             return true;
         }
     }
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        m_widest = -1;
     return QComboBox::event(event);
 }
 

@@ -53,6 +53,7 @@ private:
 
     Menu m_menu;
     int m_maximum = 0;
+    mutable int m_widest = -1; // text of the menu in pixels, -1: not measured yet
 };
 
 } // namespace kelvo

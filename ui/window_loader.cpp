@@ -16,8 +16,11 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QFile>
+#include <QGroupBox>
 #include <QHash>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QUiLoader>
 
 #include <algorithm>
@@ -53,12 +56,6 @@ constexpr const char *qtClasses[] = {
     "QWidget",     "QFrame",         "Line",         "QLabel",         "QPushButton", "QToolButton",
     "QCheckBox",   "QRadioButton",   "QLineEdit",    "QPlainTextEdit", "QSlider",     "QGroupBox",
     "QScrollArea", "QStackedWidget", "QProgressBar", "QSplitter",
-};
-
-// The properties whose text the user reads or hears.
-constexpr const char *textProperties[] = {
-    "windowTitle",           "title",           "toolTip", "accessibleName",
-    "accessibleDescription", "placeholderText", "suffix",
 };
 
 QStringList knownClasses()
@@ -157,25 +154,35 @@ void checkCommands(const QWidgetList &widgets, QStringList &problems)
     }
 }
 
+// Every text that the user reads or hears. What stands in a field is the user's.
 void localize(QWidget *widget, CFBundleRef bundle)
 {
     const auto localized = [bundle](const QString &text) {
-        return bundle->findString(text, QStringLiteral("Localizable")).value_or(text);
+        return text.isEmpty()
+            ? text
+            : bundle->findString(text, QStringLiteral("Localizable")).value_or(text);
     };
-    const auto localizeProperty = [&](const char *name) {
-        const QString text = widget->property(name).toString();
-        if (!text.isEmpty())
-            widget->setProperty(name, localized(text));
-    };
-    for (const char *name : textProperties)
-        localizeProperty(name);
+    if (!widget->windowTitle().isEmpty())
+        widget->setWindowTitle(localized(widget->windowTitle()));
+    widget->setToolTip(localized(widget->toolTip()));
+    widget->setAccessibleName(localized(widget->accessibleName()));
+    widget->setAccessibleDescription(localized(widget->accessibleDescription()));
+
     if (auto *label = qobject_cast<QLabel *>(widget)) {
         // A text of the tables that looks like markup is still a text.
         if (label->textFormat() == Qt::AutoText)
             label->setTextFormat(Qt::PlainText);
-        localizeProperty("text");
-    } else if (qobject_cast<QAbstractButton *>(widget)) {
-        localizeProperty("text");
+        label->setText(localized(label->text()));
+    } else if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
+        button->setText(localized(button->text()));
+    } else if (auto *group = qobject_cast<QGroupBox *>(widget)) {
+        group->setTitle(localized(group->title()));
+    } else if (auto *line = qobject_cast<QLineEdit *>(widget)) {
+        line->setPlaceholderText(localized(line->placeholderText()));
+    } else if (auto *text = qobject_cast<QPlainTextEdit *>(widget)) {
+        text->setPlaceholderText(localized(text->placeholderText()));
+    } else if (auto *spin = qobject_cast<SpinField *>(widget)) {
+        spin->setSuffix(localized(spin->suffix()));
     } else if (auto *tabs = qobject_cast<TabControl *>(widget)) {
         QStringList titles;
         for (const QString &title : tabs->titles())

@@ -79,7 +79,7 @@ QStringList choicesToTry(const PpdOption &option)
     return choices;
 }
 
-// A way of our own, for conflicts that libcups can only end by changing the
+// A way of our own, where libcups finds none or the PPD's own way out changes the
 // equipment: one option at a time, as long as conflicts become fewer.
 std::optional<PpdSelection> searchFix(PpdFile &ppd, PpdSelection selection, std::set<QString> fixed)
 {

@@ -398,8 +398,10 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
 
 std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd)
 {
+    // libcups keeps lengths in single precision: 595.28 comes as 595.280029….
+    const auto rounded = [](double points) { return std::round(points * 1000) / 1000; };
     if (const PpdPageSize *size = ppd.findPageSize(name))
-        return QSizeF(size->width, size->height);
+        return QSizeF(rounded(size->width), rounded(size->height));
     const auto limits = ppd.customPageLimits();
     if (!limits || !name.startsWith(customPrefix))
         return std::nullopt;

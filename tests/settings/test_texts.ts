@@ -7,5 +7,9 @@
         <source>Test of %1 and %2</source>
         <translation>%1, then %2</translation>
     </message>
+    <message>
+        <source>Zero pages</source>
+        <translation>0</translation>
+    </message>
 </context>
 </TS>

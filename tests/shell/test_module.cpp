@@ -45,6 +45,7 @@ private slots:
     void advancedKeepsChoicesThatItDoesNotKnow();
     void advancedDisablesWhatTheDeviceLacks();
     void aboutNamesTheDevice();
+    void helpCommandShowsTheBundlesHelp();
     void twoDialogsInOneProcess();
 
 private:
@@ -239,7 +240,16 @@ void TestModule::advancedDisablesWhatTheDeviceLacks()
     QVERIFY(errors.text().contains(QLatin1String("Expected PPD option not found: KVFeedEdge")));
     QVERIFY(dialog.find<PopupButton>(kPanelSignature, kBookletOrder)->isEnabled());
     QCOMPARE(dialog.sync(kSyncWrite), noErr);
-    QVERIFY(!dialog.session.printSettings().ppdChoices.contains(QStringLiteral("KVFeedEdge")));
+    PPDDictionary &choices = dialog.session.printSettings().ppdChoices;
+    QVERIFY(!choices.contains(QStringLiteral("KVFeedEdge")));
+
+    // Nor does a choice get from one ticket into the next.
+    choices[QStringLiteral("KVFeedEdge")] = QStringLiteral("ShortEdge");
+    QCOMPARE(dialog.sync(kSyncRead), noErr);
+    choices.clear();
+    QCOMPARE(dialog.sync(kSyncRead), noErr);
+    QCOMPARE(dialog.sync(kSyncWrite), noErr);
+    QVERIFY(!choices.contains(QStringLiteral("KVFeedEdge")));
 }
 
 void TestModule::aboutNamesTheDevice()
@@ -260,6 +270,17 @@ void TestModule::aboutNamesTheDevice()
     QVERIFY2(texts.contains(QStringLiteral("Current device: Kelvo Corvane C90")),
              qPrintable(texts.join(QLatin1Char('|'))));
     QVERIFY(texts.contains(QStringLiteral("Version 1.0.0")));
+}
+
+void TestModule::helpCommandShowsTheBundlesHelp()
+{
+    DrivenDialog dialog(m_factory, kFullDevice);
+    QVERIFY(dialog.begin());
+
+    QCOMPARE(sendCommand(&dialog.window, fourCharCode("help")), noErr);
+
+    const auto *help = dialog.window.findChild<QWidget *>(QStringLiteral("helpWindow"));
+    QVERIFY(help && help->isVisible());
 }
 
 void TestModule::twoDialogsInOneProcess()

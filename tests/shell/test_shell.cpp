@@ -49,6 +49,8 @@ private slots:
     void shownPanelHasTheLastWord();
     void focusFollowsTheTab();
     void summaryIsEmptyThoughPanelsWriteOne();
+    void summaryBeginsEmpty();
+    void dialogMayEndBeforeItOpens();
     void printIsHeldBack_data();
     void printIsHeldBack();
     void faxSetUpOpensInsteadOfPrinting();
@@ -278,6 +280,34 @@ void TestShell::summaryIsEmptyThoughPanelsWriteOne()
 
     QVERIFY(!titles);
     QVERIFY(!texts);
+}
+
+void TestShell::summaryBeginsEmpty()
+{
+    panels->failing = QStringLiteral("Advanced"); // the one that empties it
+    CapturedErrors errors;
+    DrivenDialog dialog(KelvoPDEPluginFactory, kDevice);
+    QVERIFY(dialog.begin());
+    SummaryArray titles(QStringList{QStringLiteral("left over")});
+    SummaryArray texts(titles);
+
+    dialog.interface->table->GetSummaryText(dialog.context, &titles, &texts);
+
+    QCOMPARE(titles,
+             SummaryArray(QStringList({"PaperOutput", "ImageOptions", "BookletWatermark"})));
+    QCOMPARE(texts, SummaryArray(QStringList({"- text", "- text", "- text"})));
+}
+
+void TestShell::dialogMayEndBeforeItOpens()
+{
+    DrivenDialog dialog(KelvoPDEPluginFactory, kDevice);
+    QCOMPARE(dialog.prologue(), noErr);
+    QCOMPARE(dialog.initialize(), noErr);
+    QVERIFY(dialog.find<QWidget>(kUserPaneSignature, 1));
+
+    dialog.terminate();
+
+    QVERIFY(!dialog.find<QWidget>(kUserPaneSignature, 1));
 }
 
 void TestShell::printIsHeldBack_data()

@@ -1,0 +1,149 @@
+#include "conflicts.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace kelvo;
+
+// Settings that contradict one another, on sample devices.
+class TestConflicts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void areNamedAndMended_data();
+    void areNamedAndMended();
+    void changeOnlyWhatTheFixSays();
+    void neverChangeTheEquipment();
+    void listWhatTheDeviceLacks();
+};
+
+static std::shared_ptr<PpdFile> device(const QString &name)
+{
+    return PpdFile::open(
+               QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(name))
+        .value();
+}
+
+void TestConflicts::areNamedAndMended_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<PpdSelection>("choices");
+    QTest::addColumn<QString>("keep");
+    QTest::addColumn<QStringList>("sentences");
+    QTest::addColumn<QStringList>("fixWords");
+    const auto row = [](const char *title, const char *model, const PpdSelection &choices,
+                        const char *keep, const QStringList &sentences, const QStringList &fix) {
+        QTest::newRow(title) << model << choices << keep << sentences << fix;
+    };
+
+    row("nothing chosen", "full", {}, "", {}, {});
+    row("what the device lacks", "full", {{"StapleLocation", "Golden"}, {"Glitter", "On"}}, "", {},
+        {});
+    const QString clash =
+        "Paper Type: Transparency and Stapling: 2 Staples, Portrait cannot be used together.";
+    const PpdSelection stapled{{"StapleLocation", "DualPortrait"}, {"MediaType", "Transparency"}};
+    row("the paper is kept", "full", stapled, "MediaType", {clash}, {"Set Stapling to No Staple"});
+    row("the staple is kept", "full", stapled, "StapleLocation", {clash},
+        {"Set Paper Type to Plain"});
+    row("three of them", "full",
+        {{"KVFeedEdge", "LongEdge"}, {"InputSlot", "Bypass"}, {"PageSize", "A3"}}, "PageSize",
+        {"Page Size: A3 (297 × 420 mm), Paper Source: Bypass Tray and Bypass Feed Edge: Long Edge "
+         "First cannot be used together."},
+        {});
+    row("two at once", "full",
+        {{"StapleLocation", "DualPortrait"},
+         {"MediaType", "Transparency"},
+         {"Duplex", "DuplexTumble"}},
+        "MediaType",
+        {"Paper Type: Transparency and Two-Sided Printing: 2-Sided Print, Flip on Short Edge "
+         "cannot "
+         "be used together.",
+         clash},
+        {"Set Two-Sided Printing to 1-Sided Print", "Set Stapling to No Staple"});
+    row("equipment that is not there", "full", {{"KVFolder", "None"}, {"KVFold", "C"}}, "KVFold",
+        {"Folding: C Fold cannot be used on this printer (Folding Unit: Not Installed)."},
+        {"Set Folding to No Fold"});
+}
+
+void TestConflicts::areNamedAndMended()
+{
+    QFETCH(QString, model);
+    QFETCH(PpdSelection, choices);
+    QFETCH(QString, keep);
+    QFETCH(QStringList, sentences);
+    QFETCH(QStringList, fixWords);
+
+    const auto ppd = device(model);
+    PrintSession session;
+    session.printSettings().ppdChoices = choices;
+    const ConflictReport report = findConflicts(session, *ppd, keep);
+    QStringList said;
+    for (const Conflict &conflict : report.conflicts)
+        said << conflict.sentence;
+    QCOMPARE(said, sentences);
+    if (!fixWords.isEmpty())
+        QCOMPARE(report.fixWords, fixWords);
+    if (!report.isEmpty()) {
+        QVERIFY(!report.fix.isEmpty());
+        QVERIFY(!report.fix.contains(keep) || fixWords.size() == 1);
+        for (const PpdGroup &group : ppd->groups()) {
+            for (const PpdOption &option : group.options)
+                QVERIFY(group.name != QLatin1String("InstallableOptions")
+                        || !report.fix.contains(option.keyword));
+        }
+    }
+    applyFix(report, session);
+    QVERIFY(findConflicts(session, *ppd).isEmpty());
+}
+
+void TestConflicts::changeOnlyWhatTheFixSays()
+{
+    const auto ppd = device(QStringLiteral("full"));
+    PrintSession session;
+    const PPDDictionary before{{"StapleLocation", "DualPortrait"},
+                               {"MediaType", "Transparency"},
+                               {"OutputBin", "Top"},
+                               {"Glitter", "On"}};
+    session.printSettings().ppdChoices = before;
+    applyFix(findConflicts(session, *ppd, QStringLiteral("MediaType")), session);
+    PPDDictionary expected = before;
+    expected[QStringLiteral("StapleLocation")] = QStringLiteral("None");
+    QCOMPARE(session.printSettings().ppdChoices, expected);
+}
+
+void TestConflicts::neverChangeTheEquipment()
+{
+    // A PPD whose own way out is to fit a folding unit.
+    QFile file(device(QStringLiteral("full"))->path());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray bytes = file.readAll();
+    const QByteArray rule = "*cupsUIConstraints: \"*KVFolder None *KVFold C\"\n";
+    QVERIFY(bytes.contains(rule));
+    bytes.replace(rule,
+                  "*cupsUIConstraints fold: \"*KVFolder None *KVFold C\"\n"
+                  "*cupsUIResolver fold: \"*KVFolder Full\"\n");
+    const auto ppd = PpdFile::fromBytes(bytes, QStringLiteral("resolver.ppd"));
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    const PpdSelection choices{{"KVFolder", "None"}, {"KVFold", "C"}};
+    QVERIFY(ppd.value()->resolve(choices)->contains("KVFolder")); // else this proves nothing
+
+    PrintSession session;
+    session.printSettings().ppdChoices = choices;
+    const ConflictReport report = findConflicts(session, *ppd.value(), "KVFold");
+    QCOMPARE(report.fix, (PpdSelection{{"KVFold", "None"}}));
+}
+
+void TestConflicts::listWhatTheDeviceLacks()
+{
+    const auto bare = device(QStringLiteral("bare"));
+    PrintSession session;
+    session.printSettings().ppdChoices = {
+        {"Glitter", "On"}, {"PageSize", "Custom.1x1"}, {"MediaType", "Standard"}};
+    QCOMPARE(missingOnDevice(session, *bare),
+             (QStringList{"Glitter: On – this printer does not have it",
+                          "Page Size: Custom.1x1 – this printer does not have it"}));
+}
+
+QTEST_GUILESS_MAIN(TestConflicts)
+#include "test_conflicts.moc"

@@ -1,0 +1,253 @@
+#include "job_settings.h"
+#include "ticket_file.h"
+
+#include <QTest>
+
+using namespace kelvo;
+using Code = Error::Code;
+
+// The host's settings in the tickets of a full device.
+class TestJobSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void comeBackFromTheTickets_data();
+    void comeBackFromTheTickets();
+    void standInTheTicketsInPoints();
+    void takeThePaperThatAPanelChose();
+    void ignoreValuesThatAreNone();
+    void leaveLockedEntriesAlone();
+    void knowPaperSizes_data();
+    void knowPaperSizes();
+    void takeOptions_data();
+    void takeOptions();
+    void refuseOptions_data();
+    void refuseOptions();
+    void workWithoutPpd();
+
+private:
+    std::shared_ptr<PpdFile> m_ppd;
+};
+
+void TestJobSettings::initTestCase()
+{
+    auto ppd =
+        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    m_ppd = ppd.value();
+}
+
+void TestJobSettings::comeBackFromTheTickets_data()
+{
+    QTest::addColumn<JobSettings>("settings");
+    QTest::newRow("one portrait copy") << JobSettings{1, true, {}, "A4", Orientation::Portrait};
+    QTest::newRow("everything set")
+        << JobSettings{9999, false, "1-3,7", "Legal", Orientation::ReverseLandscape};
+    QTest::newRow("own size") << JobSettings{
+        2, true, {}, "Custom.100x200mm", Orientation::Landscape};
+    QTest::newRow("paper of another device")
+        << JobSettings{1, true, {}, "Papyrus", Orientation::ReversePortrait};
+}
+
+void TestJobSettings::comeBackFromTheTickets()
+{
+    QFETCH(JobSettings, settings);
+    PrintSession session;
+    writeJobSettings(settings, m_ppd.get(), session);
+    QCOMPARE(jobSettingsFrom(session, m_ppd.get()), settings);
+    // A second time changes nothing.
+    const TicketFile before = ticketFileFrom(session);
+    writeJobSettings(jobSettingsFrom(session, m_ppd.get()), m_ppd.get(), session);
+    QCOMPARE(ticketFileFrom(session), before);
+}
+
+void TestJobSettings::standInTheTicketsInPoints()
+{
+    PrintSession session;
+    writeJobSettings({2, true, {}, {}, Orientation::ReversePortrait}, m_ppd.get(), session);
+    const PMTicketRef page = session.pageFormatTicket();
+    QCOMPARE(PMTicketGetCFString(page, kPMPaperNameKey), std::optional(QStringLiteral("A4")));
+    QCOMPARE(PMTicketGetCFArray(page, kPMPaperSizeKey), std::optional(Array{595.28, 841.89}));
+    QCOMPARE(PMTicketGetCFArray(page, kPMUnadjustedPaperRectKey),
+             std::optional(Array{0.0, 0.0, 841.89, 595.28}));
+    QCOMPARE(PMTicketGetCFNumber(page, kPMOrientationKey), std::optional<std::int64_t>(3));
+    QCOMPARE(PMTicketGetCFNumber(session.printSettingsTicket(), kPMCopiesKey),
+             std::optional<std::int64_t>(2));
+    QCOMPARE(session.printSettings().ppdChoices,
+             (PPDDictionary{{QStringLiteral("PageSize"), QStringLiteral("A4")}}));
+    QCOMPARE(session.pageFormat().entries[kPMPaperNameKey].client,
+             QStringLiteral("com.kelvo.printingmanager"));
+}
+
+void TestJobSettings::takeThePaperThatAPanelChose()
+{
+    PrintSession session;
+    writeJobSettings({}, m_ppd.get(), session);
+    session.printSettings().ppdChoices[QStringLiteral("PageSize")] = QStringLiteral("A3");
+    QCOMPARE(jobSettingsFrom(session, m_ppd.get()).paperName, QStringLiteral("A3"));
+}
+
+void TestJobSettings::ignoreValuesThatAreNone()
+{
+    const QString client = QStringLiteral("test");
+    PrintSession session;
+    PMTicketSetCFNumber(session.printSettingsTicket(), client, kPMCopiesKey, 10000);
+    PMTicketSetCFString(session.printSettingsTicket(), client, kPMCollateKey,
+                        QStringLiteral("false"));
+    PMTicketSetCFNumber(session.pageFormatTicket(), client, kPMOrientationKey, 5);
+    PMTicketSetCFNumber(session.pageFormatTicket(), client, kPMPaperNameKey, 3);
+    QCOMPARE(jobSettingsFrom(session, m_ppd.get()),
+             (JobSettings{1, true, {}, "A4", Orientation::Portrait}));
+}
+
+void TestJobSettings::leaveLockedEntriesAlone()
+{
+    PrintSession session;
+    PMTicketSetCFNumber(session.printSettingsTicket(), QStringLiteral("site"), kPMCopiesKey, 2,
+                        true);
+    writeJobSettings({50, true, {}, {}, Orientation::Portrait}, m_ppd.get(), session);
+    QCOMPARE(jobSettingsFrom(session, m_ppd.get()).copies, 2);
+}
+
+void TestJobSettings::knowPaperSizes_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSizeF>("points"); // invalid: no such paper
+    QTest::newRow("of the PPD") << "Legal" << QSizeF(612, 1008);
+    QTest::newRow("points") << "Custom.252x360" << QSizeF(252, 360);
+    QTest::newRow("inches") << "Custom.4x6.5in" << QSizeF(288, 468);
+    QTest::newRow("centimetres") << "Custom.25.4x30.48cm" << QSizeF(720, 864);
+    QTest::newRow("one point too narrow") << "Custom.251x360" << QSizeF();
+    QTest::newRow("one point too long") << "Custom.300x1369" << QSizeF();
+    QTest::newRow("unknown unit") << "Custom.300x400px" << QSizeF();
+    QTest::newRow("no length") << "Custom.300" << QSizeF();
+    QTest::newRow("not a number") << "Custom.infxnan" << QSizeF();
+    QTest::newRow("endless") << "Custom.300x" + QString(400, u'9') << QSizeF();
+    QTest::newRow("unknown") << "Papyrus" << QSizeF();
+}
+
+void TestJobSettings::knowPaperSizes()
+{
+    QFETCH(QString, name);
+    QFETCH(QSizeF, points);
+    const auto size = paperSize(name, *m_ppd);
+    QCOMPARE(size.has_value(), points.isValid());
+    if (size) {
+        QCOMPARE(size->width(), points.width());
+        QCOMPARE(size->height(), points.height());
+    }
+}
+
+void TestJobSettings::takeOptions_data()
+{
+    const auto orientation = [](int value) {
+        JobSettings settings{1, true, {}, "A4", static_cast<Orientation>(value)};
+        return settings;
+    };
+    const JobSettings plain = orientation(1);
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<JobSettings>("settings");
+    QTest::addColumn<PpdSelection>("choices");
+    const auto row = [](const char *title, const char *name, const char *value,
+                        const JobSettings &settings, const PpdSelection &choices = {}) {
+        QTest::newRow(title) << name << value << settings << choices;
+    };
+    row("PPD option", "StapleLocation", "DualPortrait", plain,
+        {{"StapleLocation", "DualPortrait"}});
+    row("in any case", "staplelocation", "dualportrait", plain,
+        {{"StapleLocation", "DualPortrait"}});
+    row("page size", "PageSize", "Legal", {1, true, {}, "Legal"}, {{"PageSize", "Legal"}});
+    row("media by PPD name", "media", "legal", {1, true, {}, "Legal"}, {{"PageSize", "Legal"}});
+    row("media by its own description", "media", "iso_a3_297x420mm", {1, true, {}, "A3"},
+        {{"PageSize", "A3"}});
+    row("media by description in inches", "media", "na_legal_8.5x14in", {1, true, {}, "Legal"},
+        {{"PageSize", "Legal"}});
+    row("own size", "media", "custom.300x400", {1, true, {}, "Custom.300x400"},
+        {{"PageSize", "Custom.300x400"}});
+    row("media with tray and type", "media", "A3,Tray2,Bond", {1, true, {}, "A3"},
+        {{"PageSize", "A3"}, {"InputSlot", "Tray2"}, {"MediaType", "Bond"}});
+    row("portrait", "orientation-requested", "3", orientation(1), {{"PageSize", "A4"}});
+    row("landscape", "orientation-requested", "4", orientation(2), {{"PageSize", "A4"}});
+    row("reverse landscape", "orientation-requested", "5", orientation(4), {{"PageSize", "A4"}});
+    row("reverse portrait", "orientation-requested", "6", orientation(3), {{"PageSize", "A4"}});
+    row("two sides", "sides", "two-sided-short-edge", plain, {{"Duplex", "DuplexTumble"}});
+    row("copies", "copies", "9999", {9999, true, {}, "A4"}, {{"PageSize", "A4"}});
+    row("collate", "Collate", "False", {1, false, {}, "A4"}, {{"PageSize", "A4"}});
+    row("uncollated", "multiple-document-handling", "separate-documents-uncollated-copies",
+        {1, false, {}, "A4"}, {{"PageSize", "A4"}});
+    row("pages", "page-ranges", "1-3,7", {1, true, "1-3,7", "A4"}, {{"PageSize", "A4"}});
+}
+
+void TestJobSettings::takeOptions()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, value);
+    QFETCH(JobSettings, settings);
+    QFETCH(PpdSelection, choices);
+    PrintSession session;
+    const auto applied = applyOption(name, value, m_ppd.get(), session);
+    QVERIFY2(applied, qPrintable(applied.reason()));
+    QCOMPARE(session.printSettings().ppdChoices, choices);
+    QCOMPARE(jobSettingsFrom(session, m_ppd.get()), settings);
+}
+
+void TestJobSettings::refuseOptions_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<Code>("code");
+    QTest::addColumn<QString>("says");
+    const auto row = [](const char *title, const char *name, const char *value, Code code,
+                        const char *says) {
+        QTest::newRow(title) << name << value << code << says;
+    };
+    row("unknown option", "StapleLocaton", "None", Code::NotFound, "did you mean StapleLocation?");
+    row("unknown host option", "orientation", "4", Code::NotFound, "orientation-requested");
+    row("unknown choice", "StapleLocation", "DualPortait", Code::NotFound,
+        "did you mean DualPortrait?");
+    row("unknown paper", "media", "Leagl", Code::NotFound, "did you mean Legal?");
+    row("unknown part of media", "media", "A4,Tray9", Code::NotFound, "Tray9");
+    row("custom paper too long", "media", "Custom.300x1400", Code::NotFound, "Custom.300x1400");
+    row("described paper that it lacks", "media", "iso_a0_841x1189mm", Code::NotFound, "iso_a0");
+    row("orientation 2", "orientation-requested", "2", Code::OutOfRange, "3 is portrait");
+    row("orientation 7", "orientation-requested", "7", Code::OutOfRange, "3 is portrait");
+    row("no copy", "copies", "0", Code::OutOfRange, "from 1 to 9999");
+    row("one copy too many", "copies", "10000", Code::OutOfRange, "from 1 to 9999");
+    row("half a copy", "copies", "1.5", Code::OutOfRange, "from 1 to 9999");
+    row("unknown sides", "sides", "two-sided-longedge", Code::NotFound, "two-sided-long-edge");
+    row("collate maybe", "collate", "maybe", Code::NotFound, "collate");
+    row("pages in words", "page-ranges", "two", Code::OutOfRange, "1-3,7");
+}
+
+void TestJobSettings::refuseOptions()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, value);
+    QFETCH(Code, code);
+    QFETCH(QString, says);
+    PrintSession session;
+    const auto applied = applyOption(name, value, m_ppd.get(), session);
+    QVERIFY(!applied);
+    QCOMPARE(applied.error().code, code);
+    QVERIFY2(applied.error().detail.contains(says), qPrintable(applied.reason()));
+    QCOMPARE(applied.error().where, name + u'=' + value);
+    QCOMPARE(ticketFileFrom(session), TicketFile());
+}
+
+void TestJobSettings::workWithoutPpd()
+{
+    PrintSession session;
+    QVERIFY(applyOption(QStringLiteral("media"), QStringLiteral("A4"), nullptr, session));
+    QVERIFY(applyOption(QStringLiteral("sides"), QStringLiteral("one-sided"), nullptr, session));
+    QVERIFY(!applyOption(QStringLiteral("sides"), QStringLiteral("two-sided-long-edge"), nullptr,
+                         session));
+    QVERIFY(!applyOption(QStringLiteral("Duplex"), QStringLiteral("None"), nullptr, session));
+    QCOMPARE(jobSettingsFrom(session, nullptr).paperName, QStringLiteral("A4"));
+    QVERIFY(session.printSettings().ppdChoices.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestJobSettings)
+#include "test_job_settings.moc"

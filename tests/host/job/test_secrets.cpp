@@ -1,0 +1,185 @@
+#include "job_words.h"
+#include "secret_keys.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+// What is a secret, and that words never show one.
+class TestSecrets : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void areFoundByTheirPaths_data();
+    void areFoundByTheirPaths();
+    void areTakenOutWithTheirKeys();
+    void makeAFax_data();
+    void makeAFax();
+    void neverStandInWords();
+    void areSaidInTheSummary_data();
+    void areSaidInTheSummary();
+    void wordsStayInBounds();
+};
+
+static const Dictionary sample{
+    {"Job", Dictionary{{"Password", "1234"}, {"Name", "Ann"}, {"Pin", 77}, {"Empty", ""}}},
+    {"People", Array{Dictionary{{"Code", "c0de"}, {"Fax", "030"}}, Dictionary{{"Code", "42"}}}},
+    {"Plain", "open"},
+};
+
+static TicketFile ticketOf(const Dictionary &entries)
+{
+    TicketFile file;
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
+        file.printSettings.entries[entry.key()] = {entry.value(), QStringLiteral("test")};
+    return file;
+}
+
+static QVariant valueOf(const TicketFile &file, const QString &key)
+{
+    const auto found = file.printSettings.entries.find(key);
+    return found == file.printSettings.entries.end() ? QVariant() : found->second.value;
+}
+
+void TestSecrets::areFoundByTheirPaths_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QStringList>("secrets");
+    QTest::newRow("in a dictionary") << "Job/Password" << QStringList{"1234"};
+    QTest::newRow("a number") << "Job/Pin" << QStringList{"77"};
+    QTest::newRow("an empty one is none") << "Job/Empty" << QStringList();
+    QTest::newRow("of every element") << "People/*/Code" << QStringList{"c0de", "42"};
+    QTest::newRow("of one element") << "People/1/Code" << QStringList{"42"};
+    QTest::newRow("of an element that is not there") << "People/2/Code" << QStringList();
+    QTest::newRow("every entry") << "Job/*" << QStringList{"Ann", "1234", "77"};
+    QTest::newRow("all below") << "People" << QStringList{"c0de", "030", "42"};
+    QTest::newRow("a whole entry") << "Plain" << QStringList{"open"};
+    QTest::newRow("below a text") << "Plain/Password" << QStringList();
+    QTest::newRow("unknown") << "Nothing/Password" << QStringList();
+    QTest::newRow("empty path") << "" << QStringList();
+}
+
+void TestSecrets::areFoundByTheirPaths()
+{
+    QFETCH(QString, path);
+    QFETCH(QStringList, secrets);
+    const SecretKeys keys{{path}, {}};
+    for (const bool inPageFormat : {false, true}) {
+        TicketFile file = ticketOf(sample);
+        if (inPageFormat)
+            std::swap(file.printSettings.entries, file.pageFormat.entries);
+        QCOMPARE(secretValues(file, keys), secrets);
+        QCOMPARE(holdsSecret(file, keys), !secrets.isEmpty());
+
+        const QStringList left = secretValues(masked(file, keys), keys);
+        QCOMPARE(left, secrets.isEmpty() ? QStringList() : QStringList{kMask});
+        QVERIFY(!holdsSecret(withoutSecrets(file, keys), keys));
+    }
+}
+
+void TestSecrets::areTakenOutWithTheirKeys()
+{
+    const TicketFile file = ticketOf(sample);
+    const SecretKeys keys{{"Job/Password", "People/*/Code", "Plain"}, {}};
+    const TicketFile open = withoutSecrets(file, keys);
+    QCOMPARE(valueOf(open, "Job"),
+             QVariant(Dictionary{{"Name", "Ann"}, {"Pin", 77}, {"Empty", ""}}));
+    QCOMPARE(valueOf(open, "People"), QVariant(Array{Dictionary{{"Fax", "030"}}, Dictionary{}}));
+    QCOMPARE(open.printSettings.entries.count("Plain"), 0U);
+
+    const TicketFile hidden = masked(file, keys);
+    QCOMPARE(
+        valueOf(hidden, "Job"),
+        QVariant(Dictionary{{"Name", "Ann"}, {"Pin", 77}, {"Empty", ""}, {"Password", kMask}}));
+    QCOMPARE(hidden.printSettings.entries.at("Job").client, QStringLiteral("test"));
+}
+
+void TestSecrets::makeAFax_data()
+{
+    QTest::addColumn<QVariant>("recipients");
+    QTest::addColumn<bool>("isFax");
+    QTest::newRow("no entry") << QVariant() << false;
+    QTest::newRow("nobody") << QVariant(Array{}) << false;
+    QTest::newRow("somebody") << QVariant(Array{Dictionary{{"Fax", "030"}}}) << true;
+    QTest::newRow("somebody of another form") << QVariant("030") << true;
+}
+
+void TestSecrets::makeAFax()
+{
+    QFETCH(QVariant, recipients);
+    QFETCH(bool, isFax);
+    TicketFile file;
+    if (recipients.isValid())
+        file = ticketOf({{"Recipients", recipients}});
+    QCOMPARE(kelvo::isFax(file, {{}, {"Recipients"}}), isFax);
+}
+
+void TestSecrets::neverStandInWords()
+{
+    const auto ppd =
+        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    QVERIFY(ppd);
+    TicketFile file = ticketOf(sample);
+    file.printSettings.ppdChoices = {{"StapleLocation", "DualPortrait"}, {"Glitter", "On"}};
+    const JobWords words = describeJob(file, {3, false, "2-5", "A4", Orientation::Landscape},
+                                       ppd.value().get(), {{"Job/Password", "People/*/Code"}, {}});
+    QCOMPARE(words.settings,
+             (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: landscape",
+                          "Stapling: 2 Staples, Portrait"}));
+    QCOMPARE(words.notSent, QStringList{"Glitter: On – this printer does not have it"});
+    QVERIFY(words.defaults.contains("Page Size: A4 (210 × 297 mm)"));
+    QVERIFY(words.ticket.contains("Plain = \"open\" (written by test)"));
+    const QString text = words.asText();
+    QVERIFY(text.contains("Password = \"••••\""));
+    for (const char *secret : {"1234", "c0de", "42\""})
+        QVERIFY2(!text.contains(QLatin1String(secret)), secret);
+}
+
+void TestSecrets::areSaidInTheSummary_data()
+{
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<int>("copies");
+    QTest::addColumn<QString>("duplex");
+    QTest::addColumn<bool>("locked");
+    QTest::addColumn<QString>("summary");
+    QTest::newRow("one page") << 1 << 1 << "None" << false << "1 page, 1 sheet";
+    QTest::newRow("one-sided") << 3 << 1 << "" << false << "3 pages, 3 sheets";
+    QTest::newRow("two-sided") << 12 << 2 << "DuplexNoTumble" << true
+                               << "12 pages, 6 sheets, 2 copies, locked";
+    QTest::newRow("odd page") << 13 << 1 << "DuplexTumble" << false << "13 pages, 7 sheets";
+    QTest::newRow("pages not known") << 0 << 2 << "None" << true << "2 copies, locked";
+}
+
+void TestSecrets::areSaidInTheSummary()
+{
+    QFETCH(int, pages);
+    QFETCH(int, copies);
+    QFETCH(QString, duplex);
+    QFETCH(bool, locked);
+    QFETCH(QString, summary);
+    TicketFile file = locked ? ticketOf({{"Job", Dictionary{{"Password", "1"}}}}) : TicketFile();
+    if (!duplex.isEmpty())
+        file.printSettings.ppdChoices["Duplex"] = duplex;
+    JobSettings settings;
+    settings.copies = copies;
+    QCOMPARE(shortSummary(file, settings, pages, {{"Job/Password"}, {}}), summary);
+}
+
+void TestSecrets::wordsStayInBounds()
+{
+    Array pages;
+    for (int page = 0; page < 99999; ++page)
+        pages << Dictionary{{"first", page}, {"name", "two\nlines\u0007"}};
+    const JobWords words =
+        describeJob(ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}), {}, nullptr, {});
+    QCOMPARE(words.ticket.size(), 2);
+    for (const QString &line : words.ticket) {
+        QVERIFY(line.size() < 600);
+        QVERIFY(line.contains("… (cut)"));
+        QVERIFY(!line.contains(u'\n') && !line.contains(u'\u0007'));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestSecrets)
+#include "test_secrets.moc"
