@@ -121,7 +121,7 @@ private:
     void beginPanels();
     void endPanels();
     void openTheDocument();
-    void setStage(Stage stage, Message message = {});
+    void setStage(Stage stage, Message message);
     const Printer *findPrinter(const QString &name) const;
 
     DialogOptions m_options;

@@ -40,7 +40,8 @@ constexpr QSize paneSize(540, 491);
 constexpr QSize windowSize(900, 660);
 constexpr int columnWidth = 300;
 constexpr int narrowWidth = 860; // below it, column and panels do not stand side by side
-constexpr int usualFontHeight = 13;  // pixels: 10 points on an ordinary screen
+constexpr int lowestWindow = 420;
+constexpr int usualFontHeight = 13; // pixels: 10 points on an ordinary screen
 
 constexpr int margin = 10;
 constexpr int gap = 6;       // between rows
@@ -56,6 +57,15 @@ constexpr OSType kPreviousTab = fourCharCode("KFdn");
 double fontScale(const QWidget *widget)
 {
     return std::max(1.0, double(QFontInfo(widget->font()).pixelSize()) / usualFontHeight);
+}
+
+// What a window may take of its screen. Without a screen that anybody sees the
+// window is as large as it likes: scripts meet the same window everywhere.
+QSize availableSize(const QWidget *window)
+{
+    if (QGuiApplication::platformName() == QLatin1String("offscreen") || !window->screen())
+        return {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+    return window->screen()->availableSize();
 }
 
 QPushButton *button(const char *name, const QString &text, QWidget *parent)
@@ -250,10 +260,9 @@ void PrintDialog::fitToFont()
     const double scale = fontScale(this);
     m_stack->setMinimumSize(paneSize * scale);
     m_column->setMinimumWidth(int(columnWidth * scale));
-    const QSize available = screen() ? screen()->availableSize() : windowSize;
-    setMinimumSize(QSize(m_scroll->minimumSizeHint().width() + 2 * margin, 420)
-                       .boundedTo(available));
-    resize((windowSize * scale).boundedTo(available));
+    const QSize smallest(m_scroll->minimumSizeHint().width() + 2 * margin, lowestWindow);
+    setMinimumSize(smallest.boundedTo(availableSize(this)));
+    resize((windowSize * scale).boundedTo(availableSize(this)));
 }
 
 void PrintDialog::changeEvent(QEvent *event)
@@ -349,10 +358,8 @@ void PrintDialog::updatePreview()
     if (runs)
         layout.pages = runs.value();
     layout.orientation = settings.orientation;
-    if (const auto &ppd = m_session->ppd()) {
-        if (const PpdPageSize *size = ppd->findPageSize(settings.paperName))
-            layout.paper = QSizeF(size->width, size->height);
-    }
+    if (const auto &ppd = m_session->ppd())
+        layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());
     const QString duplex
         = m_session->tickets().printSettings().ppdChoices.value(QStringLiteral("Duplex"));
     layout.twoSided = !duplex.isEmpty() && duplex != QLatin1String("None");
@@ -778,12 +785,22 @@ Result<void> PrintDialog::showTab(int tab)
     auto *selector = findControl<PopupButton>(this, shellSelector);
     if (!selector)
         return Error{Error::Code::NotFound, QString::number(tab), tr("there are no tabs")};
-    if (tab < 1 || tab > int(selector->menu().items.size()))
-        return Error{Error::Code::OutOfRange, QString::number(tab),
-                     tr("there are tabs 1 to %1").arg(selector->menu().items.size())};
-    if (selector->value() != tab && !selector->choose(tab))
-        return Error{Error::Code::Refused, QString::number(tab), tr("the tab cannot be chosen")};
-    return {};
+    // A tab keeps its number where others are not there.
+    const auto &items = selector->menu().items;
+    QStringList numbers;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i].reference != tab) {
+            numbers.append(QString::number(items[i].reference));
+            continue;
+        }
+        const int row = int(i) + 1;
+        if (selector->value() != row && !selector->choose(row))
+            return Error{Error::Code::Refused, QString::number(tab),
+                         tr("the tab cannot be chosen")};
+        return {};
+    }
+    return Error{Error::Code::OutOfRange, QString::number(tab),
+                 tr("there is no such tab; there are %1").arg(numbers.join(QStringLiteral(", ")))};
 }
 
 QString PrintDialog::placeOf(const QWidget *control) const

@@ -2,6 +2,7 @@
 
 #include "dialog_session.h"
 #include "event.h"
+#include "job_words.h"
 #include "print_run.h"
 #include "script_target.h"
 

@@ -219,15 +219,26 @@ void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
     m_paperName = settings.paperName;
     if (!m_hasPaper)
         papers.items.push_back({.text = tr("As the printer has it")});
+    else if (ppd && !settings.paperName.isEmpty() && !ppd->findPageSize(settings.paperName))
+        papers.items.push_back(
+            {.text = paperSize(settings.paperName, *ppd)
+                 ? tr("Custom: %1").arg(settings.paperName.section(u'.', 1))
+                 : tr("%1 (not on this printer)").arg(settings.paperName),
+             .key = settings.paperName,
+             .reference = static_cast<std::int32_t>(papers.items.size()),
+             .enabled = paperSize(settings.paperName, *ppd).has_value()});
     const auto shown = std::find_if(
         papers.items.cbegin(), papers.items.cend(),
         [&settings](const MenuItem &item) { return item.key == settings.paperName; });
     const int value
         = shown == papers.items.cend() ? 1 : int(shown - papers.items.cbegin()) + 1;
-    if (m_paper->menu().items.size() != papers.items.size() || m_paper->menu().reference != ppd) {
-        papers.reference = ppd;
+    const bool isSame = std::equal(
+        papers.items.cbegin(), papers.items.cend(), m_paper->menu().items.cbegin(),
+        m_paper->menu().items.cend(), [](const MenuItem &one, const MenuItem &other) {
+            return one.key == other.key && one.text == other.text;
+        });
+    if (!isSame)
         m_paper->setMenu(std::move(papers));
-    }
     m_paper->setValue(value);
     m_paper->setEnabled(m_hasPaper && m_copies->isEnabled());
     m_orientation->setValueByReference(static_cast<std::int32_t>(settings.orientation));
