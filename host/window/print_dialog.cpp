@@ -784,12 +784,22 @@ Result<void> PrintDialog::showTab(int tab)
     auto *selector = findControl<PopupButton>(this, shellSelector);
     if (!selector)
         return Error{Error::Code::NotFound, QString::number(tab), tr("there are no tabs")};
-    if (tab < 1 || tab > int(selector->menu().items.size()))
-        return Error{Error::Code::OutOfRange, QString::number(tab),
-                     tr("there are tabs 1 to %1").arg(selector->menu().items.size())};
-    if (selector->value() != tab && !selector->choose(tab))
-        return Error{Error::Code::Refused, QString::number(tab), tr("the tab cannot be chosen")};
-    return {};
+    // A tab keeps its number where others are not there.
+    const auto &items = selector->menu().items;
+    QStringList numbers;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i].reference != tab) {
+            numbers.append(QString::number(items[i].reference));
+            continue;
+        }
+        const int row = int(i) + 1;
+        if (selector->value() != row && !selector->choose(row))
+            return Error{Error::Code::Refused, QString::number(tab),
+                         tr("the tab cannot be chosen")};
+        return {};
+    }
+    return Error{Error::Code::OutOfRange, QString::number(tab),
+                 tr("there is no such tab; there are %1").arg(numbers.join(QStringLiteral(", ")))};
 }
 
 QString PrintDialog::placeOf(const QWidget *control) const

@@ -31,6 +31,7 @@ private slots:
     void readsRegularFilesUpToTheLimit();
     void writesPrivateFilesInPrivateFolders();
     void keepsTheOldFileOnAFullDisk();
+    void copiesFiles();
     void keepsTheOldFileInAnUnwritableFolder();
     void refusesTargetsThatAreNoFiles();
     void losesNothingWhenProcessesWriteAtOnce();
@@ -140,6 +141,9 @@ void TestFileStore::writesPrivateFilesInPrivateFolders()
 void TestFileStore::keepsTheOldFileOnAFullDisk()
 {
     QVERIFY(writeDictionaryFile(store(), oldContent));
+    QTemporaryDir elsewhere;
+    const QString source = elsewhere.filePath(QStringLiteral("source"));
+    put(source, QByteArray(700'000, 'x'));
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before;
     QVERIFY(::getrlimit(RLIMIT_FSIZE, &before) == 0);
@@ -148,13 +152,29 @@ void TestFileStore::keepsTheOldFileOnAFullDisk()
         small.rlim_cur = room;
         QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
         const auto replaced = replaceFile(store(), QByteArray(100'000, 'x'));
+        const auto copied = replaceFileByCopy(store(), source);
         QVERIFY(::setrlimit(RLIMIT_FSIZE, &before) == 0);
-        QVERIFY(!replaced);
-        QCOMPARE(replaced.error().code, Code::NotWritable);
-        QCOMPARE(replaced.error().where, store());
+        for (const auto &result : {replaced, copied}) {
+            QVERIFY(!result);
+            QCOMPARE(result.error().code, Code::NotWritable);
+            QCOMPARE(result.error().where, store());
+        }
         QCOMPARE(contentOf(store()), oldContent);
         QCOMPARE(files(), QStringList{u"store.plist"_s});
     }
+}
+
+void TestFileStore::copiesFiles()
+{
+    const QByteArray bytes = QByteArray(300'000, 'x') + "end"; // more than one block
+    put(path("source"), bytes);
+    put(store(), "old");
+    QVERIFY(replaceFileByCopy(store(), path("source")));
+    QCOMPARE(readFile(store(), limits::MiB).value(), bytes);
+    QVERIFY(QFile::setPermissions(path("source"), {}));
+    QCOMPARE(replaceFileByCopy(store(), path("source")).error().code, Code::NotReadable);
+    QCOMPARE(replaceFileByCopy(store(), path("nothing")).error().code, Code::NotFound);
+    QCOMPARE(readFile(store(), limits::MiB).value(), bytes);
 }
 
 void TestFileStore::keepsTheOldFileInAnUnwritableFolder()
