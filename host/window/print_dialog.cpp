@@ -44,7 +44,7 @@ constexpr int lowestWindow = 420;
 constexpr int usualFontHeight = 13; // pixels: 10 points on an ordinary screen
 
 constexpr int margin = 10;
-constexpr int gap = 6;       // between rows
+constexpr int gap = 6; // between rows
 constexpr int columnGap = 12;
 
 // So long after the user's last change, settings are written and checked.
@@ -139,7 +139,10 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_conflictBar, &ConflictBar::fixRequested, this, &PrintDialog::fixConflicts);
-    connect(m_columnToggle, &QToolButton::clicked, this, &PrintDialog::setColumnShown);
+    connect(m_columnToggle, &QToolButton::clicked, this, [this] {
+        m_isColumnWanted = !m_isColumnWanted;
+        arrangeColumns();
+    });
     connect(m_details, &QPushButton::clicked, this, &PrintDialog::showDetails);
     connect(m_help, &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
@@ -191,8 +194,6 @@ void PrintDialog::buildWindow()
 
     m_columnToggle->setObjectName(QStringLiteral("columnToggle"));
     m_columnToggle->setAutoRaise(true);
-    m_columnToggle->setCheckable(true);
-    m_columnToggle->setChecked(true);
     m_columnToggle->setFocusPolicy(Qt::TabFocus);
     m_columnToggle->setToolTip(tr("Show or hide printer, pages and preview (F9)"));
     m_columnToggle->setAccessibleName(tr("Printer, pages and preview"));
@@ -360,8 +361,8 @@ void PrintDialog::updatePreview()
     layout.orientation = settings.orientation;
     if (const auto &ppd = m_session->ppd())
         layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());
-    const QString duplex
-        = m_session->tickets().printSettings().ppdChoices.value(QStringLiteral("Duplex"));
+    const QString duplex =
+        m_session->tickets().printSettings().ppdChoices.value(QStringLiteral("Duplex"));
     layout.twoSided = !duplex.isEmpty() && duplex != QLatin1String("None");
     m_preview->setLayout(layout);
 }
@@ -512,9 +513,9 @@ bool PrintDialog::endsInConflict()
         return false;
     const QString header = tr("These settings cannot be used together");
     if (!m_isDriven && !report.fix.isEmpty()) {
-        const int answer = CFUserNotificationDisplayAlert(
-            NoticeLevel::Caution, header, conflictText(report),
-            {tr("Fix and Print"), tr("Cancel")}, this);
+        const int answer =
+            CFUserNotificationDisplayAlert(NoticeLevel::Caution, header, conflictText(report),
+                                           {tr("Fix and Print"), tr("Cancel")}, this);
         if (answer == 1) {
             m_session->fix(report);
             m_session->writeAll();
@@ -666,25 +667,22 @@ void PrintDialog::resizeEvent(QResizeEvent *event)
     arrangeColumns();
 }
 
-void PrintDialog::setColumnShown(bool shown)
-{
-    m_isColumnWanted = shown;
-    arrangeColumns();
-}
-
 void PrintDialog::arrangeColumns()
 {
     const double scale = fontScale(this);
-    const int sideBySide = m_column->minimumWidth() + columnGap
-        + m_scroll->minimumSizeHint().width() + 2 * margin;
+    const int sideBySide =
+        m_column->minimumWidth() + columnGap + m_scroll->minimumSizeHint().width() + 2 * margin;
     const bool isNarrow = width() < std::max(int(narrowWidth * scale), sideBySide);
     if (isNarrow != m_isNarrow) {
         // Going narrow the panels win; going wide everything is there again.
         m_isNarrow = isNarrow;
         m_isColumnWanted = !isNarrow;
     }
-    m_columnToggle->setChecked(m_isColumnWanted);
     m_columnToggle->setArrowType(m_isColumnWanted ? Qt::LeftArrow : Qt::RightArrow);
+    // In a narrow window it goes from one to the other, and says to which.
+    m_columnToggle->setText(m_isColumnWanted ? tr("Device") : tr("Printer and Pages"));
+    m_columnToggle->setToolButtonStyle(m_isNarrow ? Qt::ToolButtonTextBesideIcon
+                                                  : Qt::ToolButtonIconOnly);
     m_column->setVisible(m_isColumnWanted);
     m_panelSide->setVisible(!m_isNarrow || !m_isColumnWanted);
     const int forPreview = m_column->height() - m_printer->sizeHint().height();
@@ -712,8 +710,8 @@ void PrintDialog::arrangeTabOrder()
 
 void PrintDialog::goToRegion(bool forward)
 {
-    const QList<QWidget *> regions
-        = {m_printer, m_preview, m_switch, m_scroll, m_conflictBar, m_columnToggle, m_print};
+    const QList<QWidget *> regions = {m_printer,     m_preview,      m_switch, m_scroll,
+                                      m_conflictBar, m_columnToggle, m_print};
     const auto contains = [](const QWidget *region, const QWidget *widget) {
         return widget && (region == widget || region->isAncestorOf(widget));
     };
@@ -733,8 +731,8 @@ void PrintDialog::goToRegion(bool forward)
             at = i;
     }
     for (qsizetype step = 1; step <= regions.size(); ++step) {
-        const qsizetype next = (at + (forward ? step : -step) + 2 * regions.size())
-            % regions.size();
+        const qsizetype next =
+            (at + (forward ? step : -step) + 2 * regions.size()) % regions.size();
         if (QWidget *stop = firstStop(regions[next])) {
             stop->setFocus(Qt::TabFocusReason);
             return;
@@ -746,8 +744,9 @@ void PrintDialog::goToRegion(bool forward)
 
 bool PrintDialog::isIdle() const
 {
-    return m_session->stage() != DialogSession::Stage::Searching
-        && !m_session->isDocumentPending() && !m_look.isActive();
+    return m_finished
+        || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
+            && !m_look.isActive());
 }
 
 Result<void> PrintDialog::showPanel(const QString &name)
