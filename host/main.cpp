@@ -230,7 +230,7 @@ int runDialog(DialogOptions options)
     std::unique_ptr<ScriptRunner> runner;
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
-        const QString name = line.script.value_or(QStringLiteral("--no-window"));
+        const QString name = line.script.value_or(QStringLiteral("kelvo-print"));
         const bool printsAtEnd = line.print || !line.script;
         runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
                                                 ScriptRunner::Options{name, printsAtEnd});

@@ -231,9 +231,10 @@ void ScriptRunner::Private::finish()
 
 void ScriptRunner::Private::fail(int line, const LineProblem &problem)
 {
-    std::fputs(masked(QStringLiteral("%1:%2: %3\n").arg(options.file).arg(line).arg(problem.text))
-                   .toUtf8()
-                   .constData(),
+    // Without lines it is the program itself that prints.
+    const QString place =
+        lines.empty() ? options.file : QStringLiteral("%1:%2").arg(options.file).arg(line);
+    std::fputs(masked(QStringLiteral("%1: %2\n").arg(place, problem.text)).toUtf8().constData(),
                stderr);
     end(problem.status);
 }
