@@ -22,8 +22,8 @@ public:
 
     struct Layout
     {
-        std::vector<PageRun> pages;    // of the document; empty: all
-        QSizeF paper;                  // points; empty: each page's own size
+        std::vector<PageRun> pages; // of the document; empty: all
+        QSizeF paper;               // points; empty: each page's own size
         Orientation orientation = Orientation::Portrait;
         bool twoSided = false;
     };
