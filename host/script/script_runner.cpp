@@ -70,9 +70,10 @@ struct ScriptRunner::Private
     ScriptRunner *q;
     QTimer tick;
     std::size_t next = 0;
-    QString metNotice;       // header and message of the notice that a line has met
-    int printedBy = 0;       // line of the print that is on its way, 0 for none
-    bool printAsked = false; // some line asked for it, or --print
+    QString metNotice;        // header and message of the notice that a line has met
+    int printedBy = 0;        // line of the print that is on its way, 0 for none
+    bool printAsked = false;  // some line asked for it, or --print
+    bool cancelAsked = false; // by a line, of the dialog itself
     bool hasEnded = false;
 
     void step();
@@ -113,6 +114,11 @@ ScriptRunner::~ScriptRunner() = default;
 void ScriptRunner::start()
 {
     d->tick.start(0);
+}
+
+bool ScriptRunner::hasAskedForEnd() const
+{
+    return d->printAsked || d->cancelAsked;
 }
 
 QWidget *ScriptRunner::Private::openDialog() const
@@ -208,16 +214,16 @@ void ScriptRunner::Private::finish()
                        .arg(modal->windowTitle())));
         return;
     }
+    if (target.finished()) {
+        const bool cancelledByLine = cancelAsked && *target.finished() == ExitStatus::Cancelled;
+        end(cancelledByLine ? ExitStatus::Printed : *target.finished());
+        return;
+    }
     if (options.printAtEnd && !printAsked) {
         printAsked = true;
         printedBy = lines.empty() ? 1 : lines.back().number;
         tick.start(0);
         target.pressPrint();
-        return;
-    }
-    if (target.finished()) {
-        const bool cancelledByLine = *target.finished() == ExitStatus::Cancelled;
-        end(cancelledByLine ? ExitStatus::Printed : *target.finished());
         return;
     }
     std::fputs(masked(QStringLiteral("%1: the script has ended without printing; nothing was sent. "
@@ -231,9 +237,10 @@ void ScriptRunner::Private::finish()
 
 void ScriptRunner::Private::fail(int line, const LineProblem &problem)
 {
-    std::fputs(masked(QStringLiteral("%1:%2: %3\n").arg(options.file).arg(line).arg(problem.text))
-                   .toUtf8()
-                   .constData(),
+    const QString place = options.file.isEmpty()
+        ? QStringLiteral("kelvo-print")
+        : QStringLiteral("%1:%2").arg(options.file).arg(line);
+    std::fputs(masked(QStringLiteral("%1: %2\n").arg(place, problem.text)).toUtf8().constData(),
                stderr);
     end(problem.status);
 }
@@ -290,8 +297,10 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     case ScriptCommand::Cancel:
         if (QWidget *modal = openDialog())
             sendCommand(modal, kCommandCancel);
-        else
+        else {
+            cancelAsked = true;
             target.pressCancel();
+        }
         return {};
     case ScriptCommand::Sync:
         target.sync(word(0) == QLatin1String("read") ? kSyncRead : kSyncWrite);
