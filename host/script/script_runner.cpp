@@ -8,6 +8,7 @@
 #include "ticket_path.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QPixmap>
 #include <QTimer>
@@ -23,6 +24,8 @@ using inspector::Failure;
 
 // How long the runner sleeps while the dialog is busy.
 constexpr int busyWaitMs = 5;
+// How long a picture waits for a page of the document, which can be endless.
+constexpr int pictureWaitMs = 5000;
 
 struct LineProblem
 {
@@ -69,6 +72,7 @@ struct ScriptRunner::Private
     Options options;
     ScriptRunner *q;
     QTimer tick;
+    QElapsedTimer pictureWait;
     std::size_t next = 0;
     QString metNotice;        // header and message of the notice that a line has met
     int printedBy = 0;        // line of the print that is on its way, 0 for none
@@ -154,6 +158,15 @@ void ScriptRunner::Private::step()
              wrong(QStringLiteral("the dialog is closed; nothing can be done after that")));
         return;
     }
+    if (lines[next].command == ScriptCommand::Screenshot && target.isDrawing()) {
+        if (!pictureWait.isValid())
+            pictureWait.start();
+        if (pictureWait.elapsed() < pictureWaitMs) {
+            tick.start(busyWaitMs);
+            return;
+        }
+    }
+    pictureWait.invalidate();
     run(lines[next++]);
 }
 
