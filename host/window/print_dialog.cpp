@@ -775,6 +775,11 @@ bool PrintDialog::isIdle() const
             && !m_look.isActive());
 }
 
+bool PrintDialog::isDrawing() const
+{
+    return m_preview->isVisible() && m_preview->isDrawing();
+}
+
 Result<void> PrintDialog::showPanel(const QString &name)
 {
     Extension *panels = m_session->panels();

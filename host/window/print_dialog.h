@@ -48,6 +48,7 @@ public:
     void interrupt();
 
     bool isIdle() const override;
+    bool isDrawing() const override;
     QWidget *window() override { return this; }
     Result<void> showPanel(const QString &name) override;
     Result<void> showTab(int tab) override;
