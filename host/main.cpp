@@ -96,6 +96,7 @@ void endOnSignals(PrintDialog &dialog)
         char byte;
         [[maybe_unused]] const ssize_t count = ::read(signalPipe[0], &byte, 1);
         dialog.interrupt();
+        QCoreApplication::quit();
     });
 }
 
@@ -222,15 +223,17 @@ int runDialog(DialogOptions options)
     PrintDialog dialog(std::move(options));
     dialog.setSecrets(std::move(secrets));
     endOnSignals(dialog);
-    QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status](ExitStatus end) {
+    std::unique_ptr<ScriptRunner> runner;
+    QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status, &runner](ExitStatus end) {
         status = end;
-        QCoreApplication::quit();
+        // An end that the script asked for is a step of it: lines may follow.
+        if (!runner || !runner->hasAskedForEnd())
+            QCoreApplication::quit();
     });
 
-    std::unique_ptr<ScriptRunner> runner;
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
-        const QString name = line.script.value_or(QStringLiteral("--no-window"));
+        const QString name = line.script.value_or(QString());
         const bool printsAtEnd = line.print || !line.script;
         runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
                                                 ScriptRunner::Options{name, printsAtEnd});

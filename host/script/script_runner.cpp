@@ -8,6 +8,7 @@
 #include "ticket_path.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QPixmap>
 #include <QTimer>
@@ -23,6 +24,8 @@ using inspector::Failure;
 
 // How long the runner sleeps while the dialog is busy.
 constexpr int busyWaitMs = 5;
+// How long a picture waits for a page of the document, which can be endless.
+constexpr int pictureWaitMs = 5000;
 
 struct LineProblem
 {
@@ -69,10 +72,12 @@ struct ScriptRunner::Private
     Options options;
     ScriptRunner *q;
     QTimer tick;
+    QElapsedTimer pictureWait;
     std::size_t next = 0;
-    QString metNotice;       // header and message of the notice that a line has met
-    int printedBy = 0;       // line of the print that is on its way, 0 for none
-    bool printAsked = false; // some line asked for it, or --print
+    QString metNotice;        // header and message of the notice that a line has met
+    int printedBy = 0;        // line of the print that is on its way, 0 for none
+    bool printAsked = false;  // some line asked for it, or --print
+    bool cancelAsked = false; // by a line, of the dialog itself
     bool hasEnded = false;
 
     void step();
@@ -115,6 +120,11 @@ void ScriptRunner::start()
     d->tick.start(0);
 }
 
+bool ScriptRunner::hasAskedForEnd() const
+{
+    return d->printAsked || d->cancelAsked;
+}
+
 QWidget *ScriptRunner::Private::openDialog() const
 {
     if (QWidget *modal = QApplication::activeModalWidget())
@@ -148,6 +158,15 @@ void ScriptRunner::Private::step()
              wrong(QStringLiteral("the dialog is closed; nothing can be done after that")));
         return;
     }
+    if (lines[next].command == ScriptCommand::Screenshot && target.isDrawing()) {
+        if (!pictureWait.isValid())
+            pictureWait.start();
+        if (pictureWait.elapsed() < pictureWaitMs) {
+            tick.start(busyWaitMs);
+            return;
+        }
+    }
+    pictureWait.invalidate();
     run(lines[next++]);
 }
 
@@ -208,16 +227,16 @@ void ScriptRunner::Private::finish()
                        .arg(modal->windowTitle())));
         return;
     }
+    if (target.finished()) {
+        const bool cancelledByLine = cancelAsked && *target.finished() == ExitStatus::Cancelled;
+        end(cancelledByLine ? ExitStatus::Printed : *target.finished());
+        return;
+    }
     if (options.printAtEnd && !printAsked) {
         printAsked = true;
         printedBy = lines.empty() ? 1 : lines.back().number;
         tick.start(0);
         target.pressPrint();
-        return;
-    }
-    if (target.finished()) {
-        const bool cancelledByLine = *target.finished() == ExitStatus::Cancelled;
-        end(cancelledByLine ? ExitStatus::Printed : *target.finished());
         return;
     }
     std::fputs(masked(QStringLiteral("%1: the script has ended without printing; nothing was sent. "
@@ -231,9 +250,10 @@ void ScriptRunner::Private::finish()
 
 void ScriptRunner::Private::fail(int line, const LineProblem &problem)
 {
-    std::fputs(masked(QStringLiteral("%1:%2: %3\n").arg(options.file).arg(line).arg(problem.text))
-                   .toUtf8()
-                   .constData(),
+    const QString place = options.file.isEmpty()
+        ? QStringLiteral("kelvo-print")
+        : QStringLiteral("%1:%2").arg(options.file).arg(line);
+    std::fputs(masked(QStringLiteral("%1: %2\n").arg(place, problem.text)).toUtf8().constData(),
                stderr);
     end(problem.status);
 }
@@ -290,8 +310,10 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     case ScriptCommand::Cancel:
         if (QWidget *modal = openDialog())
             sendCommand(modal, kCommandCancel);
-        else
+        else {
+            cancelAsked = true;
             target.pressCancel();
+        }
         return {};
     case ScriptCommand::Sync:
         target.sync(word(0) == QLatin1String("read") ? kSyncRead : kSyncWrite);

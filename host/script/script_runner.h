@@ -20,7 +20,7 @@ class ScriptRunner : public QObject
 public:
     struct Options
     {
-        QString file;
+        QString file;            // empty: there is no script, only a print at its end
         bool printAtEnd = false; // --print
     };
     ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
@@ -28,6 +28,8 @@ public:
     ~ScriptRunner() override;
 
     void start();
+    // Whether a line, or the end of the script, has pressed Print or Cancel.
+    bool hasAskedForEnd() const;
 
 signals:
     // Once. The dialog closes then.

@@ -23,6 +23,9 @@ public:
     // Printers, PPD and document are there (or known not to come) and nothing is
     // under way: the next line may run. Also true while a modal dialog is open.
     virtual bool isIdle() const = 0;
+    // Whether a part of the window is still being drawn; lines do not wait for it,
+    // pictures do.
+    virtual bool isDrawing() const { return false; }
     virtual QWidget *window() = 0; // the dialog's own window
 
     // A panel by the middle of its getter's name: the host's ("SpecialPages",

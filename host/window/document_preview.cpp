@@ -379,6 +379,11 @@ void DocumentPreview::setMessage(const QString &message)
     d->sync();
 }
 
+bool DocumentPreview::isDrawing() const
+{
+    return d->askedPage > 0 && !d->hasAnswer;
+}
+
 int DocumentPreview::sheetCount() const
 {
     return sheetsFor(d->count(), d->layout.twoSided);

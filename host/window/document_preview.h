@@ -22,8 +22,8 @@ public:
 
     struct Layout
     {
-        std::vector<PageRun> pages;    // of the document; empty: all
-        QSizeF paper;                  // points; empty: each page's own size
+        std::vector<PageRun> pages; // of the document; empty: all
+        QSizeF paper;               // points; empty: each page's own size
         Orientation orientation = Orientation::Portrait;
         bool twoSided = false;
     };
@@ -32,6 +32,7 @@ public:
     void setMessage(const QString &message); // instead of a page; empty shows pages again
 
     int sheetCount() const;
+    bool isDrawing() const; // a page that was asked for is not in sight yet
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

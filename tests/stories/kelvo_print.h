@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <functional>
+
+// How a run of kelvo-print ended.
+struct Run
+{
+    int status = -1; // of the exit; -1 for a crash or a run that was ended from here
+    QString out, err;
+    qint64 ms = 0;
+
+    // What was said on standard error, without the lines about panels that the
+    // bundle does not have.
+    QStringList messages() const;
+};
+
+// A user's place: a home, a folder of an administrator's presets and a working
+// folder of its own, in which the program is run.
+class Desk
+{
+public:
+    Desk();
+
+    QString path(const QString &name) const
+    {
+        return m_folder.filePath(QStringLiteral("work/") + name);
+    }
+    QString presetFolder() const;     // the user's own
+    QString sitePresetFolder() const; // the administrator's
+
+    // Sets a variable of the environment that the program runs in.
+    void set(const QString &name, const QString &value) { m_environment.insert(name, value); }
+    // Runs in the program's process before it begins.
+    void atStart(std::function<void()> modifier) { m_atStart = std::move(modifier); }
+
+    // Runs the program to its end, at most 30 s.
+    Run run(const QStringList &arguments, const QByteArray &input = {}) const;
+    // The same, with an interrupt after `afterMs`.
+    Run interrupt(const QStringList &arguments, int afterMs) const;
+
+private:
+    Run run(const QStringList &arguments, const QByteArray &input, int interruptMs) const;
+
+    QTemporaryDir m_folder;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    std::function<void()> m_atStart;
+};
+
+// Files of a few lines, for scripts and settings. They fail the test that they
+// are needed in by coming back empty or not being there.
+QByteArray contents(const QString &path);
+void write(const QString &path, const QByteArray &bytes);
+// The file's name and contents of everything in a folder.
+QMap<QString, QByteArray> filesIn(const QString &folder);
+// `lines` of "name=value"; a name that stands twice has two values.
+QMultiMap<QString, QString> optionsIn(const QString &path);

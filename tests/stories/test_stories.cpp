@@ -1,0 +1,722 @@
+#include "kelvo_print.h"
+#include "private_cups.h"
+#include "property_list.h"
+#include "ticket_file.h"
+#include "unreliable_server.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QImage>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <poppler-qt6.h>
+
+#include <csignal>
+#include <memory>
+#include <sys/resource.h>
+
+using namespace kelvo;
+
+namespace {
+
+const QString documentPath = QStringLiteral(KELVO_SOURCE_DIR "/resources/demo/document.pdf");
+const QString fullPpd = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
+const QString testPpds = QStringLiteral(KELVO_TEST_DATA "/ppds/");
+const QString nonceKey = QStringLiteral("com.kelvo.print.TicketNonce");
+const QString ticketOption = QStringLiteral("kelvo-ticket");
+const QString passcode = QStringLiteral("48151623");
+
+QString script(const char *name)
+{
+    return QStringLiteral(KELVO_SCRIPTS "/") + QLatin1String(name);
+}
+
+// The run ended with `status`; else what it said.
+#define QENDED(run, wanted)                                                                        \
+    QVERIFY2((run).status == (wanted),                                                             \
+             qPrintable(QStringLiteral("ended with %1\n%2%3")                                      \
+                            .arg(QString::number((run).status), (run).out, (run).err)))
+
+// The ticket file in a folder that a job went to, and one from settings.
+TicketFile ticketIn(const QString &folder)
+{
+    const auto ticket = readTicketFile(folder + QStringLiteral("/ticket.plist"));
+    return ticket ? ticket.value() : TicketFile();
+}
+
+QString clientOf(const TicketFile &ticket, const char *key)
+{
+    const auto entry =
+        ticket.printSettings.entries.find(QLatin1String("com.kelvo.print.") + QLatin1String(key));
+    return entry == ticket.printSettings.entries.end() ? QString() : entry->second.client;
+}
+
+TicketFile ticketWith(const PPDDictionary &choices)
+{
+    TicketFile ticket;
+    ticket.printSettings.ppdChoices = choices;
+    return ticket;
+}
+
+// A ticket file whose job type has a passcode; its path.
+QString secureTicket(const Desk &desk)
+{
+    TicketFile ticket = ticketWith({{QStringLiteral("Jog"), QStringLiteral("EndOfSet")}});
+    const Dictionary jobType{{QStringLiteral("JobType"), 6},
+                             {QStringLiteral("SecurePrintPassword"), passcode}};
+    ticket.printSettings.entries[QStringLiteral("com.kelvo.print.JobType")] = {
+        jobType, QStringLiteral("com.kelvo.printingmanager")};
+    const QString path = desk.path(QStringLiteral("secure.plist"));
+    return writeTicketFile(path, ticket) ? path : QString();
+}
+
+// The attachment of that name in a PDF.
+QByteArray attachmentIn(const QByteArray &pdf, const QString &name)
+{
+    const auto document = Poppler::Document::loadFromData(pdf);
+    const auto files = document ? document->embeddedFiles() : QList<Poppler::EmbeddedFile *>();
+    QByteArray found;
+    for (Poppler::EmbeddedFile *file : files) {
+        if (file->name() == name)
+            found = file->data();
+    }
+    return found;
+}
+
+QByteArray sha256(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+}
+
+// The job's PDF carries the ticket that its option names by its SHA-256.
+QString ticketProblem(const QByteArray &pdf, const QString &option, const QString &flags)
+{
+    const QByteArray ticket = attachmentIn(pdf, QStringLiteral("kelvo-ticket.plist"));
+    if (ticket.isEmpty())
+        return QStringLiteral("no ticket in the PDF of %1 bytes").arg(pdf.size());
+    const QString wanted =
+        QStringLiteral("1:%1:%2").arg(QString::fromLatin1(sha256(ticket)), flags);
+    return option == wanted ? QString() : option + QStringLiteral(" is not ") + wanted;
+}
+
+} // namespace
+
+class TestStories : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void printsTheBundledDeviceIntoAFolder();
+    void givesTheSameTicketEachTime();
+    void takesDocumentsFromStandardInput();
+    void printsToAQueue();
+    void refusesASecretThatWouldLieOpen_data();
+    void refusesASecretThatWouldLieOpen();
+    void printsOtherMakersDevicesWithoutPanels_data();
+    void printsOtherMakersDevicesWithoutPanels();
+    void leavesOutAChoiceThatNoTableKnows();
+    void refusesBrokenInputs_data();
+    void refusesBrokenInputs();
+    void waitsForADeadServerOnlySoLong_data();
+    void waitsForADeadServerOnlySoLong();
+    void endsOnAnInterrupt();
+    void keepsWhatStandsInTheFolder_data();
+    void keepsWhatStandsInTheFolder();
+    void keepsPresets();
+    void mendsAConflict();
+    void refusesToPrintAConflict();
+    void laterSettingsBeatEarlierOnes();
+    void refusesWhatCannotBeDone_data();
+    void refusesWhatCannotBeDone();
+    void makesPictures_data();
+    void makesPictures();
+
+private:
+    PrivateCups m_cups;
+};
+
+void TestStories::initTestCase()
+{
+    QCOMPARE(m_cups.start(), QString());
+    QCOMPARE(m_cups.addQueue(QStringLiteral("Hall-3"), fullPpd), QString());
+    QCOMPARE(m_cups.addQueue(QStringLiteral("No-Ticket"), testPpds + "no-ticket.ppd"), QString());
+}
+
+void TestStories::printsTheBundledDeviceIntoAFolder()
+{
+    const Desk desk;
+    const QString folder = desk.path("out");
+    const Run run =
+        desk.run({"--demo", "--no-window", "--script", script("advanced.kps"), "--to", folder});
+    QENDED(run, 0);
+    QCOMPARE(run.out, folder + " document.pdf\n");
+    QCOMPARE(run.messages(), QStringList());
+
+    const auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+    const auto rights = [](const QString &path) {
+        return QFile::permissions(path) & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+    };
+    QCOMPARE(rights(folder), ownerOnly | QFile::ExeOwner);
+    for (const char *name : {"document.pdf", "options", "ticket.plist"})
+        QCOMPARE(rights(folder + '/' + name), ownerOnly);
+
+    const TicketFile ticket = ticketIn(folder);
+    for (const char *key : {"KPIFOptions", "ControllerInformation.ControllerFamily",
+                            "ControllerInformation.ControllerVersion", "ClientInformation.UserName",
+                            "ClientInformation.ComputerName"})
+        QVERIFY2(clientOf(ticket, key) == "K", key);
+    QCOMPARE(clientOf(ticket, "AdvancedBookletLayoutOrderStr"), "com.kelvo.printingmanager");
+    const PPDDictionary &choices = ticket.printSettings.ppdChoices;
+    const auto options = optionsIn(folder + "/options");
+    for (const auto &[option, choice] : {std::pair("JCLBanner", "True"),
+                                         {"Jog", "EndOfSet"},
+                                         {"KVFeedEdge", "ShortEdge"},
+                                         {"PageSize", "A4"}}) {
+        QCOMPARE(choices.value(option), choice);
+        QCOMPARE(options.values(option), QStringList(choice));
+    }
+    QCOMPARE(options.keys().size(), options.uniqueKeys().size());
+    QCOMPARE(ticketProblem(contents(folder + "/document.pdf"), options.value(ticketOption), "none"),
+             QString());
+    QCOMPARE(attachmentIn(contents(folder + "/document.pdf"), "kelvo-ticket.plist"),
+             contents(folder + "/ticket.plist"));
+
+    // Another user, another dialog, the same settings.
+    const Desk fresh;
+    const Run again = fresh.run({"--demo", "--no-window", "--ticket-in", folder + "/ticket.plist",
+                                 "--script", script("advanced-again.kps")});
+    QENDED(again, 0);
+}
+
+void TestStories::givesTheSameTicketEachTime()
+{
+    const Desk desk;
+    QList<QMap<QString, QByteArray>> results;
+    QSet<QByteArray> nonces;
+    for (const char *name : {"one", "two", "three"}) {
+        const QString folder = desk.path(name);
+        QENDED(
+            desk.run({"--demo", "--no-window", "--script", script("advanced.kps"), "--to", folder}),
+            0);
+        TicketFile ticket = ticketIn(folder);
+        nonces.insert(ticket.unknown.take(nonceKey).toByteArray());
+        QByteArray options = contents(folder + "/options");
+        options.truncate(options.indexOf("kelvo-ticket="));
+        results.append({{"options", options},
+                        {"ticket", CFPropertyListCreateXMLData(propertyListFrom(ticket)).value()}});
+    }
+    QCOMPARE(nonces.size(), 3);
+    QVERIFY(!results[0].value("options").isEmpty());
+    QCOMPARE(results[1], results[0]);
+    QCOMPARE(results[2], results[0]);
+}
+
+void TestStories::takesDocumentsFromStandardInput()
+{
+    const Desk desk;
+    const QString folder = desk.path("out");
+    const QStringList arguments{"--ppd", fullPpd, "--no-window", "--to", folder};
+    const Run pages = desk.run(arguments + QStringList{"-P", "2,5-", "-n", "3", "-t", "Quarter"},
+                               contents(documentPath));
+    QENDED(pages, 0);
+    QCOMPARE(pages.out, folder + " Quarter\n");
+    QCOMPARE(optionsIn(folder + "/options").values("copies"), QStringList("3"));
+    QCOMPARE(Poppler::Document::load(folder + "/document.pdf")->numPages(), 3);
+
+    const Run text = desk.run(arguments, "One line.\n");
+    QENDED(text, 0);
+    QCOMPARE(text.out, folder + " (stdin)\n");
+    QCOMPARE(Poppler::Document::load(folder + "/document.pdf")->numPages(), 1);
+}
+
+void TestStories::printsToAQueue()
+{
+    const Desk desk;
+    const std::size_t before = m_cups.jobs(0).size();
+    const Run run =
+        desk.run({"-d", "Hall-3", "--no-window", "--script", script("advanced.kps"), documentPath});
+    QENDED(run, 0);
+    QVERIFY2(QRegularExpression("^Hall-3-[1-9][0-9]* document.pdf\n$").match(run.out).hasMatch(),
+             qPrintable(run.out));
+    QCOMPARE(run.messages(), QStringList());
+
+    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
+    QCOMPARE(jobs.size(), before + 1);
+    const PrivateCups::Job &job = jobs.back();
+    QCOMPARE(run.out, "Hall-3-" + job.id + " document.pdf\n");
+    QCOMPARE(job.title, "document.pdf");
+    for (const auto &[option, choice] : {std::pair("JCLBanner", "True"),
+                                         {"Jog", "EndOfSet"},
+                                         {"KVFeedEdge", "ShortEdge"},
+                                         {"PageSize", "A4"}})
+        QVERIFY2(job.options.value(option) == QStringList(choice), option);
+    QCOMPARE(job.options.value(ticketOption).size(), 1);
+    QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).first(), "none"),
+             QString());
+}
+
+void TestStories::refusesASecretThatWouldLieOpen_data()
+{
+    QTest::addColumn<QStringList>("device");
+    QTest::addColumn<bool>("withSecret");
+    QTest::addColumn<int>("status");
+
+    const QStringList openQueue{"-d", "No-Ticket"}, queue{"-d", "Hall-3"};
+    const QStringList openDevice{"--ppd", testPpds + "no-ticket.ppd", "--to", "out"};
+    QTest::newRow("a queue that reads no tickets") << openQueue << true << 3;
+    QTest::newRow("the same without a secret") << openQueue << false << 0;
+    QTest::newRow("a folder for such a device") << openDevice << true << 3;
+    QTest::newRow("a queue that reads tickets") << queue << true << 0;
+}
+
+void TestStories::refusesASecretThatWouldLieOpen()
+{
+    QFETCH(QStringList, device);
+    QFETCH(bool, withSecret);
+    QFETCH(int, status);
+    const Desk desk;
+    const std::size_t before = m_cups.jobs(0).size();
+    write(desk.path("look.kps"), "summary\nprint\n");
+    QStringList arguments = device + QStringList{"--no-window", "--script", "look.kps"};
+    if (withSecret)
+        arguments << "--ticket-in" << secureTicket(desk);
+
+    const Run run = desk.run(arguments << documentPath);
+    QENDED(run, status);
+    QVERIFY(!run.out.contains(passcode));
+    QVERIFY(!run.err.contains(passcode));
+    QCOMPARE(run.out.contains("••••"), withSecret);
+    if (status != 0) {
+        QCOMPARE(run.messages().size(), 1);
+        QVERIFY2(run.err.contains("passcode") && run.err.contains("*KelvoTicket"),
+                 qPrintable(run.err));
+        QVERIFY(!QFile::exists(desk.path("out")));
+        QTest::qWait(200); // for a job that must not come
+        QCOMPARE(m_cups.jobs(0).size(), before);
+        return;
+    }
+    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
+    QCOMPARE(jobs.size(), before + 1);
+    const PrivateCups::Job &job = jobs.back();
+    for (const QStringList &values : job.options)
+        QVERIFY(!values.join(' ').contains(passcode));
+    QVERIFY(!job.title.contains(passcode));
+    if (withSecret)
+        QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).value(0), "passcode"),
+                 QString());
+    else
+        QVERIFY(!job.options.contains(ticketOption));
+}
+
+void TestStories::printsOtherMakersDevicesWithoutPanels_data()
+{
+    QTest::addColumn<QString>("ppd");
+    QTest::addColumn<QString>("maker");
+
+    QTest::newRow("another maker") << "other-maker.ppd"
+                                   << "Ostrava Print";
+    QTest::newRow("a maker that begins like ours") << "kelvo-lookalike.ppd"
+                                                   << "Kelvodyne";
+}
+
+void TestStories::printsOtherMakersDevicesWithoutPanels()
+{
+    QFETCH(QString, ppd);
+    QFETCH(QString, maker);
+    const Desk desk;
+    const QStringList device{"--ppd", testPpds + ppd, "--no-window"};
+    const QString statusLine = "Initialize()::GetTicketFromSession() failed.";
+
+    const Run told =
+        desk.run(device + QStringList{"--script", script("foreign.kps"), documentPath});
+    QENDED(told, 0);
+    QCOMPARE(told.messages().count(statusLine), 1);
+    write(desk.path("show.kps"), "show @waitingText\n");
+    const Run shown = desk.run(device + QStringList{"--script", "show.kps", documentPath});
+    QVERIFY2(shown.out.contains("not made for this device") && shown.out.contains(maker),
+             qPrintable(shown.out));
+
+    const Run printed = desk.run(device + QStringList{"--to", "out", documentPath});
+    QENDED(printed, 0);
+    QCOMPARE(printed.messages(), QStringList(statusLine));
+    QCOMPARE(optionsIn(desk.path("out/options")).values("PageSize"), QStringList("A4"));
+    QCOMPARE(Poppler::Document::load(desk.path("out/document.pdf"))->numPages(), 6);
+    // The ticket goes only where the PPD asks for it, whoever made the device.
+    const bool readsTickets = contents(testPpds + ppd).contains("*KelvoTicket: \"1\"");
+    QCOMPARE(optionsIn(desk.path("out/options")).contains(ticketOption), readsTickets);
+    QCOMPARE(!attachmentIn(contents(desk.path("out/document.pdf")), "kelvo-ticket.plist").isEmpty(),
+             readsTickets);
+}
+
+void TestStories::leavesOutAChoiceThatNoTableKnows()
+{
+    const Desk desk;
+    const QStringList device{
+        "--ppd", testPpds + "unknown-choice.ppd", "--no-window", "--script", "s.kps", documentPath};
+    write(desk.path("s.kps"),
+          "panel Advanced\nexpect @requestOffset items 2\n"
+          "choose @requestOffset key EndOfSet\n");
+    const Run run = desk.run(device);
+    QENDED(run, 0);
+    QCOMPARE(run.messages().count("Skipped unrecognized choice in PPD: Spiral"), 1);
+    write(desk.path("s.kps"), "panel Advanced\nchoose @requestOffset key Spiral\n");
+    QENDED(desk.run(device), 3);
+}
+
+void TestStories::refusesBrokenInputs_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("damage");
+    QTest::addColumn<int>("status");
+
+    const QList<std::pair<const char *, int>> kinds = {
+        {"ppd", 4}, {"document", 1}, {"ticket", 6}, {"preset", 6}, {"script", 2}};
+    for (const auto &[kind, status] : kinds) {
+        for (const char *damage : {"missing", "empty", "truncated", "binary", "huge", "a folder"}) {
+            const QByteArray name = QByteArray(kind) + ": " + damage;
+            // A script without a line has nothing wrong with it.
+            if (name == "script: empty")
+                continue;
+            // A folder is no preset.
+            const bool isUnknown = name == "preset: missing" || name == "preset: a folder";
+            QTest::newRow(name.constData()) << kind << damage << (isUnknown ? 2 : status);
+        }
+    }
+}
+
+void TestStories::refusesBrokenInputs()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, damage);
+    QFETCH(int, status);
+    const Desk desk;
+    const TicketFile ticket = ticketWith({{"Jog", "EndOfSet"}});
+    QMap<QString, QString> paths{{"ppd", "device.ppd"},
+                                 {"document", "Budget.pdf"},
+                                 {"ticket", "job.plist"},
+                                 {"script", "job.kps"}};
+    for (QString &path : paths)
+        path = desk.path(path);
+    paths.insert("preset", desk.presetFolder() + "/Sets.plist");
+    write(paths["ppd"], contents(fullPpd));
+    write(paths["document"], contents(documentPath));
+    write(paths["script"], "tab 4\nexpect @preset text \"Sets\"\nprint\n");
+    QVERIFY(writeTicketFile(paths["ticket"], ticket));
+    QVERIFY(writeTicketFile(paths["preset"], ticket));
+    const QStringList arguments{"--ppd",       "device.ppd", "--ticket-in", "job.plist",
+                                "--preset",    "Sets",       "--script",    "job.kps",
+                                "--no-window", "--to",       "out",         "Budget.pdf"};
+    QENDED(desk.run(arguments), 0); // all is well with them
+    const auto stood = filesIn(desk.path("out"));
+    QCOMPARE(stood.size(), 3);
+
+    const QString path = paths.value(kind);
+    const QByteArray whole = contents(path);
+    QVERIFY(QFile::remove(path));
+    if (damage == "empty") {
+        write(path, {});
+    } else if (damage == "truncated") {
+        // In the middle of a text; libcups takes any whole line of a PPD for its end.
+        write(path, whole.left(kind == "script" ? 28 : kind == "ppd" ? 15 : whole.size() / 2));
+    } else if (damage == "binary") {
+        QByteArray bytes(5000, '\0');
+        for (qsizetype i = 0; i < bytes.size(); ++i)
+            bytes[i] = static_cast<char>((i * 7919 >> 3) ^ i);
+        write(path, bytes);
+    } else if (damage == "huge") {
+        write(path, {});
+        QVERIFY(QFile::resize(path, 200 << 20));
+    } else if (damage == "a folder") {
+        QVERIFY(QDir().mkpath(path));
+    }
+
+    const Run run = desk.run(arguments);
+    QENDED(run, status);
+    QVERIFY2(run.ms < 15'000, qPrintable(QString::number(run.ms)));
+    QCOMPARE(run.out, QString());
+    const QStringList messages = run.messages();
+    QVERIFY2(messages.size() == 1, qPrintable(run.err));
+    const QString name = kind == "preset" ? "Sets" : QFileInfo(path).fileName();
+    QVERIFY2(messages.first().contains(name) && messages.first().size() > name.size() + 10,
+             qPrintable(run.err));
+    QCOMPARE(filesIn(desk.path("out")), stood);
+}
+
+void TestStories::waitsForADeadServerOnlySoLong_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+
+    QTest::newRow("list") << QStringList{"--list-printers"} << 4;
+    QTest::newRow("print") << QStringList{"-d", "Hall-3", "--no-window", documentPath} << 4;
+    QTest::newRow("no destination") << QStringList{"--no-window", documentPath} << 4;
+    QTest::newRow("cancel in a script")
+        << QStringList{"--no-window", "--script", "cancel.kps", documentPath} << 0;
+}
+
+void TestStories::waitsForADeadServerOnlySoLong()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    const UnreliableServer server(UnreliableServer::Trouble::NeverAnswers);
+    Desk desk;
+    desk.set("CUPS_SERVER", server.address());
+    write(desk.path("cancel.kps"), "cancel\n");
+    const Run run = desk.run(QStringList{"--timeout", "2"} + arguments);
+    QENDED(run, status);
+    QVERIFY2(run.ms < 6000, qPrintable(QString::number(run.ms)));
+    if (status != 0) {
+        QVERIFY2(run.err.startsWith("kelvo-print: ") && run.err.contains(server.address()),
+                 qPrintable(run.err));
+    }
+}
+
+void TestStories::endsOnAnInterrupt()
+{
+    // The dialog is up while the server is still silent, and goes when it is told.
+    const UnreliableServer server(UnreliableServer::Trouble::NeverAnswers);
+    Desk desk;
+    desk.set("CUPS_SERVER", server.address());
+    const Run dead = desk.interrupt({"--no-window", documentPath}, 700);
+    QENDED(dead, 130);
+    QVERIFY2(dead.ms < 4000, qPrintable(QString::number(dead.ms)));
+
+    const Run ready = Desk().interrupt({"--demo"}, 700);
+    QENDED(ready, 130);
+    QVERIFY2(ready.ms < 4000, qPrintable(QString::number(ready.ms)));
+    QCOMPARE(ready.messages(), QStringList());
+}
+
+void TestStories::keepsWhatStandsInTheFolder_data()
+{
+    QTest::addColumn<QString>("trouble");
+
+    QTest::newRow("no room for the document") << "8192";
+    QTest::newRow("no room in a folder that cannot be written") << "unwritable";
+    QTest::newRow("a file where the folder should be") << "a file";
+    QTest::newRow("a folder where a file should be") << "a folder";
+}
+
+void TestStories::keepsWhatStandsInTheFolder()
+{
+    QFETCH(QString, trouble);
+    Desk desk;
+    const QString folder = desk.path("out");
+    const QStringList arguments{"--ppd", testPpds + "no-ticket.ppd", "--no-window", documentPath};
+    QENDED(desk.run(arguments + QStringList{"--to", folder}), 0);
+    const auto stood = filesIn(folder);
+    QCOMPARE(stood.size(), 3);
+
+    QString target = folder;
+    if (trouble == "unwritable") {
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    } else if (trouble == "a file") {
+        target = desk.path("file");
+        write(target, "mine");
+    } else if (trouble == "a folder") {
+        target = desk.path("other");
+        QVERIFY(QDir().mkpath(target + "/document.pdf"));
+    } else {
+        desk.atStart([bytes = trouble.toULong()] {
+            const rlimit limit{bytes, bytes};
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+            ::signal(SIGXFSZ, SIG_IGN);
+        });
+    }
+    const Run run = desk.run(arguments + QStringList{"--to", target, "-n", "7"});
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QENDED(run, 1);
+    QVERIFY2(run.messages().size() == 1, qPrintable(run.err));
+    QCOMPARE(run.out, QString());
+    QCOMPARE(filesIn(folder), stood);
+    if (trouble == "a file")
+        QCOMPARE(contents(target), "mine");
+}
+
+void TestStories::keepsPresets()
+{
+    Desk desk;
+    QENDED(desk.run({"--demo", "--no-window", "--script", script("save-preset.kps")}), 0);
+    QENDED(desk.run({"--demo", "--no-window", "--preset", "Offset sets", "--to", "out"}), 0);
+    QCOMPARE(optionsIn(desk.path("out/options")).values("Jog"), QStringList("EndOfSet"));
+
+    Desk locked;
+    QFile::setPermissions(locked.presetFolder(), QFile::ReadOwner | QFile::ExeOwner);
+    QENDED(locked.run({"--demo", "--no-window", "--script", script("preset-not-saved.kps"), "--to",
+                       "out"}),
+           0);
+    QFile::setPermissions(locked.presetFolder(),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(filesIn(locked.presetFolder()).size(), 0);
+}
+
+void TestStories::mendsAConflict()
+{
+    const Desk desk;
+    QENDED(desk.run({"--demo", "--no-window", "--script", script("conflict.kps"), "--to", "out"}),
+           0);
+    const auto options = optionsIn(desk.path("out/options"));
+    QVERIFY(options.value("Jog") != "EndOfSet" || options.value("PageSize") != "Env10");
+    QVERIFY(!QImage(desk.path("conflict.png")).isNull());
+}
+
+void TestStories::refusesToPrintAConflict()
+{
+    const Desk desk;
+    write(desk.path("clash.kps"),
+          "tab 4\nchoose @requestOffset key EndOfSet\n"
+          "choose @paper key Env10\nprint\n");
+    const Run scripted =
+        desk.run({"--demo", "--no-window", "--script", "clash.kps", "--to", "out"});
+    QENDED(scripted, 3);
+    QVERIFY2(scripted.err.contains("clash.kps:4: ") && scripted.err.contains("Request Offset"),
+             qPrintable(scripted.err));
+    const Run plain = desk.run(
+        {"--demo", "--no-window", "-o", "Jog=EndOfSet", "-o", "PageSize=Env10", "--to", "out"});
+    QENDED(plain, 3);
+    QVERIFY2(plain.err.contains("No. 10 Envelope"), qPrintable(plain.err));
+    QVERIFY(!QFile::exists(desk.path("out")));
+}
+
+void TestStories::laterSettingsBeatEarlierOnes()
+{
+    // Each layer sets the options of all later ones too, and each layer's first
+    // option is set by no later one.
+    const QStringList names{"InputSlot", "MediaColor", "OutputBin", "Resolution", "MediaType"};
+    const QStringList words{"Tray2", "Ivory", "Top", "300x300dpi", "Bond"};
+    const auto layer = [&](int first) {
+        PPDDictionary choices;
+        const QStringList others[] = {{},
+                                      {"Buff", "Middle", "1200x600dpi", "Light"},
+                                      {"Middle2", "1200x1200dpi", "Recycled"},
+                                      {"200x200dpi", "Letterhead"}};
+        for (int i = first; i < names.size(); ++i)
+            choices.insert(names[i], i == first ? words[i] : others[first].value(i - 1));
+        return choices;
+    };
+    const Desk desk;
+    QVERIFY(QDir().mkpath(desk.path("../home/.cups")));
+    write(desk.path("../home/.cups/lpoptions"),
+          "Dest Hall-3 InputSlot=Tray2 MediaColor=Red OutputBin=Side Resolution=200x100dpi "
+          "MediaType=Rough PageSize=A6\n");
+    TicketFile site = ticketWith(layer(1));
+    site.printSettings.ppdChoices.insert("PageSize", "A5");
+    QVERIFY(writeTicketFile(desk.sitePresetFolder() + "/default.plist", site));
+    QVERIFY(writeTicketFile(desk.presetFolder() + "/Own.plist", ticketWith(layer(2))));
+    QVERIFY(writeTicketFile(desk.path("job.plist"), ticketWith(layer(3))));
+    write(desk.path("last.kps"), "choose @paper key Letter\nprint\n");
+
+    const std::size_t before = m_cups.jobs(0).size();
+    const Run run = desk.run({"-d", "Hall-3", "--no-window", "--preset", "Own", "--ticket-in",
+                              "job.plist", "-o", "MediaType=Bond", "-o", "PageSize=A3", "--script",
+                              "last.kps", documentPath});
+    QENDED(run, 0);
+    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
+    QCOMPARE(jobs.size(), before + 1);
+    for (int i = 0; i < names.size(); ++i)
+        QCOMPARE(jobs.back().options.value(names[i]), QStringList(words[i]));
+    QCOMPARE(jobs.back().options.value("PageSize"), QStringList("Letter"));
+}
+
+void TestStories::refusesWhatCannotBeDone_data()
+{
+    QTest::addColumn<QByteArray>("lines"); // of a script; empty: there is none
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message"); // a part of it
+
+    const auto row = [](const char *name, const char *lines, int status, const char *message,
+                        const QStringList &arguments = {"--demo", "--to", "out"}) {
+        QTest::newRow(name) << QByteArray(lines) << arguments << status << message;
+    };
+    const QStringList hall{"-d", "Hall-3", documentPath};
+    row("unknown command", "tab 4\nchose @x row 1\n", 2, "s.kps:2: there is no command \"chose\"");
+    row("text not closed", "type @pages \"1-\n", 2, "s.kps:1: ");
+    row("too few words", "\n\nexpect @copies\n", 2, "s.kps:3: ");
+    row("not UTF-8", "tab 4\ntype @pages \"\xff\"\n", 2, "s.kps:2: this is not UTF-8");
+    row("unknown control", "tab 4\nclick @prnt\n", 2, "s.kps:2: @prnt is not in the window");
+    row("unknown tab", "tab 7\n", 2, "s.kps:1: 7: there is no such tab");
+    row("unknown panel", "panel Advancd\n", 2, "s.kps:1: Advancd: there is no such panel");
+    row("expectation", "expect @copies value 2\n", 2, "s.kps:1: value of @copies is \"1\"");
+    row("item not offered", "tab 4\nchoose @requestOffset key Spiral\n", 3, "s.kps:2: ");
+    row("control disabled", "check @collate off\n", 3, "s.kps:1: @collate");
+    row("pages out of range", "choose @pagesChoice key range\ntype @pages \"9\"\nprint\n", 2,
+        "s.kps:3: The document has pages 1 to 6.");
+    row("dialog left open", "tab 4\nclick @aboutButton\n", 2, "s.kps:2: the script ends while");
+    row("notice not met", "item @presetMenu 'PsSA'\ntype @presetName \"\"\nclick @ok\n", 3,
+        "s.kps:3: ");
+    row("lines after the end", "cancel\nclick @print\n", 2, "s.kps:2: the dialog is closed");
+    row("cancelled, in spite of --print", "cancel\n", 0, "", {"--demo", "--to", "out", "--print"});
+    row("no queue", "print\n", 4, "s.kps:1: ", {"--demo"});
+    row("unknown destination", "", 4, "Hall-3", {"-d", "Hal-3", documentPath});
+    row("unknown option name", "", 3, "Jogg", hall + QStringList{"-o", "Jogg=None"});
+    row("unknown choice", "", 3, "Jog", hall + QStringList{"-o", "Jog=Spiral"});
+    row("no such switch", "", 2, "--ticket-in", hall + QStringList{"--tiket-in", "x"});
+    row("copies beyond reason", "", 2, "-n", hall + QStringList{"-n", "10000"});
+    row("unknown preset", "", 2, "Nightly", hall + QStringList{"--preset", "Nightly"});
+    row("secret that others can read", "print\n", 2, "0600",
+        hall + QStringList{"--secret", "code=open.txt"});
+}
+
+void TestStories::refusesWhatCannotBeDone()
+{
+    QFETCH(QByteArray, lines);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, message);
+    const Desk desk;
+    const std::size_t before = m_cups.jobs(0).size();
+    write(desk.path("open.txt"), passcode.toUtf8());
+    QFile::setPermissions(desk.path("open.txt"), QFile::ReadOwner | QFile::ReadOther);
+    write(desk.path("s.kps"), lines);
+    if (!lines.isEmpty())
+        arguments << "--script"
+                  << "s.kps";
+    const Run run = desk.run(arguments << "--no-window");
+    QENDED(run, status);
+    QVERIFY2(run.err.contains(message), qPrintable(run.err));
+    QVERIFY(!run.err.contains(passcode));
+    QCOMPARE(run.out, QString());
+    QVERIFY(!QFile::exists(desk.path("out")));
+    QCOMPARE(m_cups.jobs(0).size(), before);
+}
+
+void TestStories::makesPictures_data()
+{
+    QTest::addColumn<int>("scale");
+    QTest::newRow("1x") << 1;
+    QTest::newRow("2x") << 2;
+}
+
+void TestStories::makesPictures()
+{
+    QFETCH(int, scale);
+    Desk desk;
+    // A screen with room for the window at that scale.
+    write(desk.path("screen.json"),
+          "{\"screens\": [{\"name\": \"S\", \"x\": 0, \"y\": 0, \"width\": 3840, \"height\": 2400,"
+          " \"logicalDpi\": 96, \"logicalBaseDpi\": 96, \"dpr\": 1}]}");
+    desk.set("QT_QPA_PLATFORM", "offscreen:configfile=" + desk.path("screen.json"));
+    desk.set("QT_SCALE_FACTOR", QString::number(scale));
+    QENDED(desk.run({"--demo", "--script", script("pictures.kps")}), 0);
+    const QImage window(desk.path("window.png"));
+    QCOMPARE(window.size(), QSize(900, 660) * scale);
+    // The first page is in it, which is drawn later than the window.
+    int coloured = 0;
+    for (int y = 190; y < 300; ++y)
+        coloured += window.pixelColor(QPoint(100, y) * scale).saturation() > 150;
+    QVERIFY2(coloured > 20, qPrintable(QString::number(coloured)));
+    for (const char *name : {"about.png", "details.png"})
+        QVERIFY2(QImage(desk.path(name)).width() > 200 * scale, name);
+    const QString kept = qEnvironmentVariable("KELVO_KEEP_PICTURES");
+    for (const char *name : {"window", "about", "details"})
+        if (!kept.isEmpty())
+            QFile::copy(desk.path(name + QStringLiteral(".png")),
+                        QStringLiteral("%1/%2-%3x.png").arg(kept, QLatin1String(name)).arg(scale));
+}
+
+QTEST_GUILESS_MAIN(TestStories)
+#include "test_stories.moc"
