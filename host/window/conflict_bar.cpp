@@ -137,11 +137,17 @@ void ConflictBar::hideMissing()
     setReport(m_report, m_missing);
 }
 
+QString conflictSentences(const ConflictReport &report, QChar separator)
+{
+    QStringList sentences;
+    for (const Conflict &conflict : report.conflicts)
+        sentences.append(conflict.sentence);
+    return sentences.join(separator);
+}
+
 QString conflictText(const ConflictReport &report)
 {
-    QStringList paragraphs;
-    for (const Conflict &conflict : report.conflicts)
-        paragraphs.append(conflict.sentence);
+    QStringList paragraphs = {conflictSentences(report, u'\n')};
     if (report.fix.isEmpty())
         paragraphs.append(ConflictBar::tr("Change one of them."));
     else

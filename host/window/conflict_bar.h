@@ -42,7 +42,9 @@ private:
     bool m_isColouring = false;
 };
 
-// What is wrong and what would mend it, a paragraph each.
+// What is wrong, a sentence each.
+QString conflictSentences(const ConflictReport &report, QChar separator);
+// The same and what would mend it, a paragraph each, for a notice.
 QString conflictText(const ConflictReport &report);
 
 } // namespace kelvo

@@ -81,10 +81,7 @@ void DialogSession::findPrinters()
         setStage(Stage::Stuck,
                  {isSilent ? tr("The print server does not answer")
                            : tr("The printers cannot be listed"),
-                  tr("%1\nCheck that the print server runs and that this computer reaches it, "
-                     "then try again.")
-                      .arg(error.text()),
-                  true});
+                  error.text(), true});
     });
     connect(m_directory.get(), &PrinterDirectory::ppdFetched, this,
             [this](const QString &printer, const QString &path) {

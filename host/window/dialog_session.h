@@ -94,7 +94,9 @@ public:
     void usePreset(const TicketFile *preset);
     // Whether anything differs from what was chosen as preset.
     bool isChanged() const;
-    void takeAsUnchanged(); // the settings as they stand are what the preset says
+    // The settings as they stand are what the preset says, or are not any more.
+    void takeAsUnchanged();
+    void takeAsChanged() { m_wasChanged = true; }
 
     ConflictReport conflicts(); // as the ticket stands
     void fix(const ConflictReport &report);
@@ -146,7 +148,7 @@ private:
     std::optional<TicketFile> m_carried; // from the last printer
     TicketFile m_came, m_settled;        // see ticket_layers.h
     TicketFile m_unchanged;              // what isChanged() compares with
-    bool m_wasChanged = false;           // on an earlier printer
+    bool m_wasChanged = false;           // on an earlier printer, or under another name
     Dictionary m_unknown;                // root entries of --ticket-in
 
     BackgroundTask<Result<Document>> m_opening;

@@ -26,8 +26,8 @@ QSize PaneScroll::minimumSizeHint() const
 {
     if (!widget())
         return QScrollArea::minimumSizeHint();
-    int width = widget()->minimumSizeHint().expandedTo(widget()->minimumSize()).width()
-        + 2 * frameWidth();
+    int width =
+        widget()->minimumSizeHint().expandedTo(widget()->minimumSize()).width() + 2 * frameWidth();
     if (verticalScrollBar()->isVisible())
         width += verticalScrollBar()->sizeHint().width();
     return {width, fontMetrics().lineSpacing() * 8};

@@ -123,12 +123,12 @@ PresetMenu::PresetMenu(DialogSession &session, const QString &chosen, QWidget *p
     // names' room.
     m_button->setMaximumWidth(m_button->fontMetrics().horizontalAdvance(u'…')
                               + m_button->fontMetrics().height() + 20);
-    setFocusProxy(m_popup);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     layout->addWidget(m_popup, 1);
     layout->addWidget(m_button);
+    setTabOrder(m_popup, m_button);
 
     Menu actions;
     actions.items = {{.text = tr("&Save"), .command = kSave},
@@ -146,6 +146,11 @@ PresetMenu::PresetMenu(DialogSession &session, const QString &chosen, QWidget *p
     });
     reload();
     m_handler = installEventHandler(this, [this](const Event &event) { return handle(event); });
+}
+
+QWidget *PresetMenu::popup() const
+{
+    return m_popup;
 }
 
 const Preset *PresetMenu::chosenPreset() const
@@ -321,7 +326,10 @@ void PresetMenu::remove()
                                         removed.error().text(), {}, this);
         return;
     }
+    // The settings stay, and are not the defaults.
     m_chosen.clear();
+    m_session.takeAsChanged();
+    m_hasStar = true;
     reload();
 }
 

@@ -22,6 +22,7 @@ public:
     PresetMenu(DialogSession &session, const QString &chosen, QWidget *parent = nullptr);
 
     void updateStar();
+    QWidget *popup() const; // what a label in front of this is for
 
 private:
     enum Reference { Defaults = -1 }; // else the row in m_presets

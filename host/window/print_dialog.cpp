@@ -24,6 +24,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -178,6 +179,7 @@ void PrintDialog::buildWindow()
     columnLayout->addWidget(m_printer);
     columnLayout->addWidget(m_preview, 1);
 
+    m_scroll->setObjectName(QStringLiteral("panels"));
     m_switch->setObjectName(QStringLiteral("panelSwitch"));
     m_switch->setAccessibleName(tr("Panels"));
     m_switch->hide();
@@ -261,9 +263,21 @@ void PrintDialog::fitToFont()
     const double scale = fontScale(this);
     m_stack->setMinimumSize(paneSize * scale);
     m_column->setMinimumWidth(int(columnWidth * scale));
-    const QSize smallest(m_scroll->minimumSizeHint().width() + 2 * margin, lowestWindow);
-    setMinimumSize(smallest.boundedTo(availableSize(this)));
+    // Its words end too near to the frame in some styles.
+    m_details->setMinimumWidth(m_details->sizeHint().width() + fontMetrics().height());
+    fitToPanels();
     resize((windowSize * scale).boundedTo(availableSize(this)));
+}
+
+// No smaller than the panels need side by side with their scroll bar.
+void PrintDialog::fitToPanels()
+{
+    const int scrollBar = m_scroll->verticalScrollBar()->isVisible()
+        ? 0
+        : m_scroll->verticalScrollBar()->sizeHint().width();
+    const QSize smallest(m_scroll->minimumSizeHint().width() + scrollBar + 2 * margin,
+                         lowestWindow);
+    setMinimumSize(smallest.boundedTo(availableSize(this)));
 }
 
 void PrintDialog::changeEvent(QEvent *event)
@@ -277,6 +291,7 @@ void PrintDialog::start()
 {
     m_session->start();
     updatePrintButton();
+    m_printer->focusFirst();
 }
 
 void PrintDialog::setDriven(bool driven)
@@ -308,6 +323,7 @@ void PrintDialog::takeStage()
     m_printer->setSettingsEnabled(isReady);
     if (!isReady)
         m_conflictBar->setReport({}, {});
+    fitToPanels();
     arrangeColumns();
     arrangeTabOrder();
     updatePrintButton();
@@ -527,7 +543,8 @@ bool PrintDialog::endsInConflict()
         }
     }
     m_look.start();
-    refusePrint(ExitStatus::NotOffered, header, conflictText(report));
+    refusePrint(ExitStatus::NotOffered, header,
+                conflictSentences(report, m_isDriven ? u' ' : u'\n'));
     return true;
 }
 
@@ -689,23 +706,34 @@ void PrintDialog::arrangeColumns()
     m_preview->setVisible(forPreview >= m_preview->minimumSizeHint().height());
 }
 
+// Where Tab stops below `region`, in the order of the focus chain.
+static QList<QWidget *> stopsIn(QWidget *region)
+{
+    QList<QWidget *> stops;
+    for (QWidget *widget = region->nextInFocusChain(); widget != region;
+         widget = widget->nextInFocusChain()) {
+        if (region->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus)
+            && !widget->focusProxy())
+            stops << widget;
+    }
+    return stops;
+}
+
 // Panels make their controls when they are first shown: later than the buttons
 // below them, which come after them all the same.
 void PrintDialog::arrangeTabOrder()
 {
-    QWidget *last = m_switch;
-    for (QWidget *widget = m_scroll->nextInFocusChain(); widget != m_scroll;
-         widget = widget->nextInFocusChain()) {
-        if (m_scroll->isAncestorOf(widget))
-            last = widget;
-    }
-    const auto below = m_conflictBar->findChildren<QPushButton *>();
-    QList<QWidget *> after(below.cbegin(), below.cend());
-    after << m_columnToggle << m_details << m_help << m_cancel << m_print;
-    for (QWidget *widget : after) {
-        setTabOrder(last, widget);
-        last = widget;
-    }
+    const QList<QWidget *> panelStops = stopsIn(m_scroll);
+    if (panelStops == m_panelStops)
+        return;
+    m_panelStops = panelStops;
+    QList<QWidget *> order = stopsIn(m_printer) + stopsIn(m_preview);
+    order << m_switch;
+    order += panelStops;
+    order += stopsIn(m_conflictBar);
+    order << m_columnToggle << m_details << m_help << m_cancel << m_print;
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 void PrintDialog::goToRegion(bool forward)
@@ -715,14 +743,12 @@ void PrintDialog::goToRegion(bool forward)
     const auto contains = [](const QWidget *region, const QWidget *widget) {
         return widget && (region == widget || region->isAncestorOf(widget));
     };
-    const auto firstStop = [&contains](QWidget *region) -> QWidget * {
-        QWidget *widget = region;
-        do {
-            if (contains(region, widget) && widget->isVisible() && widget->isEnabled()
+    const auto firstStop = [](QWidget *region) -> QWidget * {
+        for (QWidget *widget : QList<QWidget *>{region} + stopsIn(region)) {
+            if (widget->isVisible() && widget->isEnabled()
                 && (widget->focusPolicy() & Qt::TabFocus))
                 return widget;
-            widget = widget->nextInFocusChain();
-        } while (widget != region);
+        }
         return nullptr;
     };
     qsizetype at = -1;

@@ -78,6 +78,7 @@ private:
     void buildWindow();
     void addShortcuts();
     void fitToFont();
+    void fitToPanels();
 
     // The session tells.
     void takeStage();
@@ -128,9 +129,10 @@ private:
     QProgressBar *m_progress;
     QPushButton *m_details, *m_help, *m_cancel, *m_print;
 
-    QTimer m_look;                // lookAtSettings() soon
-    bool m_isColumnWanted = true; // by the user, when the window is wide enough
-    bool m_isNarrow = false;      // column and panels do not fit side by side
+    QList<QWidget *> m_panelStops; // the tab order is made for these; compared, never followed
+    QTimer m_look;                 // lookAtSettings() soon
+    bool m_isColumnWanted = true;  // by the user, when the window is wide enough
+    bool m_isNarrow = false;       // column and panels do not fit side by side
     bool m_isDriven = false;
     QMap<QString, QString> m_secrets;
 

@@ -1,6 +1,7 @@
 #include "printer_pane.h"
 
 #include "popup_button.h"
+#include "preset_menu.h"
 #include "spin_field.h"
 
 #include <QCheckBox>
@@ -63,7 +64,7 @@ QString toolTipFor(const Printer &printer)
 
 } // namespace
 
-PrinterPane::PrinterPane(QWidget *presets, QWidget *parent)
+PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     : QWidget(parent)
     , m_printer(new PopupButton(this))
     , m_copies(new SpinField(this))
@@ -84,8 +85,7 @@ PrinterPane::PrinterPane(QWidget *presets, QWidget *parent)
 
     m_printer->setObjectName(QStringLiteral("printer"));
     addRow(tr("Prin&ter:"), m_printer, m_printer);
-    // The pop-up in front, by which Alt reaches the row.
-    addRow(tr("Pre&set:"), presets->focusProxy(), presets);
+    addRow(tr("Pre&set:"), presets->popup(), presets);
 
     m_copies->setObjectName(QStringLiteral("copies"));
     m_copies->setMinimum(1);
@@ -138,6 +138,15 @@ PrinterPane::PrinterPane(QWidget *presets, QWidget *parent)
     m_orientation->setMenu(orientations);
     addRow(tr("Or&ientation:"), m_orientation, m_orientation);
 
+    // The presets were made before this, and come second all the same.
+    QWidget *last = m_printer;
+    auto stops = presets->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    stops << m_copies << m_collate << m_pagesChoice << m_pages << m_paper << m_orientation;
+    for (QWidget *stop : stops) {
+        setTabOrder(last, stop);
+        last = stop;
+    }
+
     m_handler = installEventHandler(this, [this](const Event &event) { return handle(event); });
     setSettings({}, nullptr);
     setSettingsEnabled(false);
@@ -154,6 +163,11 @@ QLabel *PrinterPane::addRow(const QString &text, QWidget *buddy, QWidget *field)
     m_grid->addWidget(label, row, 0);
     m_grid->addWidget(field, row, 1);
     return label;
+}
+
+void PrinterPane::focusFirst()
+{
+    m_printer->setFocus();
 }
 
 void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &chosen)

@@ -17,6 +17,7 @@ class QLineEdit;
 namespace kelvo {
 
 class PopupButton;
+class PresetMenu;
 class SpinField;
 
 // The host's own controls: printer, preset, copies, pages, paper. It shows what
@@ -27,7 +28,9 @@ class PrinterPane : public QWidget
 
 public:
     // `presets` stands in the second row; it becomes a child of this.
-    explicit PrinterPane(QWidget *presets, QWidget *parent = nullptr);
+    explicit PrinterPane(PresetMenu *presets, QWidget *parent = nullptr);
+
+    void focusFirst(); // where the keyboard begins
 
     // The queues, or one device without a queue.
     void setPrinters(const QList<Printer> &printers, const QString &chosen);

@@ -28,7 +28,7 @@ WaitingPane::WaitingPane(QWidget *parent)
     : QWidget(parent)
     , m_header(centredLabel(QStringLiteral("waitingHeader"), this))
     , m_text(centredLabel(QStringLiteral("waitingText"), this))
-    , m_retry(new QPushButton(tr("&Try Again"), this))
+    , m_retry(new QPushButton(tr("Tr&y Again"), this))
 {
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.25);
