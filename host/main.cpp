@@ -233,7 +233,7 @@ int runDialog(DialogOptions options)
 
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
-        const QString name = line.script.value_or(QString());
+        const QString name = line.script.value_or(QStringLiteral("kelvo-print"));
         const bool printsAtEnd = line.print || !line.script;
         runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
                                                 ScriptRunner::Options{name, printsAtEnd});

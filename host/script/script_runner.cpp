@@ -250,9 +250,9 @@ void ScriptRunner::Private::finish()
 
 void ScriptRunner::Private::fail(int line, const LineProblem &problem)
 {
-    const QString place = options.file.isEmpty()
-        ? QStringLiteral("kelvo-print")
-        : QStringLiteral("%1:%2").arg(options.file).arg(line);
+    // Without lines it is the program itself that prints.
+    const QString place =
+        lines.empty() ? options.file : QStringLiteral("%1:%2").arg(options.file).arg(line);
     std::fputs(masked(QStringLiteral("%1: %2\n").arg(place, problem.text)).toUtf8().constData(),
                stderr);
     end(problem.status);

@@ -372,8 +372,8 @@ void DialogSession::beginPanels()
         m_message = {
             none,
             (maker.isEmpty()
-                 ? tr("The panels are not made for this device, a %1.").arg(m_ppd->modelName())
-                 : tr("The panels are not made for this device: it is a %1 from %2.")
+                 ? tr("The panels are not made for this device (%1).").arg(m_ppd->modelName())
+                 : tr("The panels are not made for this device (%1, made by %2).")
                        .arg(m_ppd->modelName(), maker))
                 + u'\n' + stays};
         return;

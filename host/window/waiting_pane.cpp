@@ -1,5 +1,6 @@
 #include "waiting_pane.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -17,8 +18,7 @@ QLabel *centredLabel(const QString &name, QWidget *parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignCenter);
-    label->setMaximumWidth(label->fontMetrics().averageCharWidth() * lineCharacters);
-    label->setMinimumWidth(std::min(label->maximumWidth(), 300));
+    label->setFixedWidth(label->fontMetrics().averageCharWidth() * lineCharacters);
     return label;
 }
 
@@ -37,14 +37,20 @@ WaitingPane::WaitingPane(QWidget *parent)
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_retry->setObjectName(QStringLiteral("retry"));
 
-    auto *layout = new QVBoxLayout(this);
-    layout->setSpacing(10);
-    layout->addStretch(2);
-    layout->addWidget(m_header, 0, Qt::AlignHCenter);
-    layout->addWidget(m_text, 0, Qt::AlignHCenter);
-    layout->addSpacing(4);
-    layout->addWidget(m_retry, 0, Qt::AlignHCenter);
-    layout->addStretch(3);
+    // The column is as wide as its lines: asked for the height at the pane's
+    // width, a label that wraps would get too little.
+    auto *column = new QVBoxLayout;
+    column->setSpacing(10);
+    column->addStretch(2);
+    column->addWidget(m_header);
+    column->addWidget(m_text);
+    column->addSpacing(4);
+    column->addWidget(m_retry, 0, Qt::AlignHCenter);
+    column->addStretch(3);
+    auto *layout = new QHBoxLayout(this);
+    layout->addStretch(1);
+    layout->addLayout(column);
+    layout->addStretch(1);
     connect(m_retry, &QPushButton::clicked, this, &WaitingPane::retryRequested);
     setMessage({});
 }
