@@ -152,18 +152,62 @@ bool writeAll(int fd, const QByteArray &bytes)
 }
 
 // Everything up to the rename, checked. `errno` says why it failed.
-bool writeAndSync(Descriptor &fd, const QByteArray &bytes)
+bool syncAndClose(Descriptor &fd, qint64 size)
 {
-    if (!writeAll(fd.get(), bytes) || ::fsync(fd.get()) != 0)
-        return false;
     struct stat status;
-    if (::fstat(fd.get(), &status) != 0)
+    if (::fsync(fd.get()) != 0 || ::fstat(fd.get(), &status) != 0)
         return false;
-    if (status.st_size != bytes.size()) {
+    if (status.st_size != size) {
         errno = EIO;
         return false;
     }
     return fd.close();
+}
+
+// Opens a regular file for reading. O_NONBLOCK: a FIFO of that name must not
+// stop the program.
+Result<std::shared_ptr<Descriptor>> openForReading(const QString &path, struct stat &status)
+{
+    if (const auto problem = problemOf(path))
+        return *problem;
+    auto fd = std::make_shared<Descriptor>(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!*fd)
+        return systemError(errno == ENOENT || errno == ENOTDIR ? Code::NotFound : Code::NotReadable,
+                           path);
+    if (::fstat(fd->get(), &status) != 0)
+        return systemError(Code::NotReadable, path);
+    if (!S_ISREG(status.st_mode))
+        return Error{Code::NotReadable, path, QStringLiteral("not a regular file")};
+    return fd;
+}
+
+// How many bytes were written into the new file; -1 with `errno` where they
+// could not be.
+using Writer = std::function<Result<qint64>(int fd)>;
+
+Result<void> replaceFileWith(const QString &path, const Writer &write)
+{
+    if (const auto problem = problemOf(path))
+        return Error{Code::NotWritable, problem->where, problem->detail};
+    const QByteArray target = QFile::encodeName(path);
+    struct stat status;
+    if (::stat(target.constData(), &status) == 0 && !S_ISREG(status.st_mode))
+        return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
+
+    QByteArray temporary = QFile::encodeName(folderOf(path) + QStringLiteral("/.kelvo-XXXXXX"));
+    Descriptor fd(::mkostemp(temporary.data(), O_CLOEXEC)); // 0600, O_EXCL
+    if (!fd)
+        return systemError(Code::NotWritable, path);
+    const Result<qint64> size = write(fd.get());
+    if (!size || size.value() < 0 || !syncAndClose(fd, size.value())
+        || ::rename(temporary.constData(), target.constData()) != 0) {
+        const Error error = size ? systemError(Code::NotWritable, path) : size.error();
+        ::unlink(temporary.constData());
+        return error;
+    }
+    syncFolder(folderOf(path));
+    return {};
 }
 
 // Renames the damaged store at `path` to the first free NAME.damaged-N.
@@ -219,19 +263,11 @@ Result<StoreContent> readStore(const QString &path)
 
 Result<QByteArray> readFile(const QString &path, qint64 limit)
 {
-    if (const auto problem = problemOf(path))
-        return *problem;
-    // O_NONBLOCK: a FIFO of that name must not stop the program.
-    const Descriptor fd(
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!fd)
-        return systemError(errno == ENOENT || errno == ENOTDIR ? Code::NotFound : Code::NotReadable,
-                           path);
     struct stat status;
-    if (::fstat(fd.get(), &status) != 0)
-        return systemError(Code::NotReadable, path);
-    if (!S_ISREG(status.st_mode))
-        return Error{Code::NotReadable, path, QStringLiteral("not a regular file")};
+    const auto opened = openForReading(path, status);
+    if (!opened)
+        return opened.error();
+    const Descriptor &fd = *opened.value();
     const Error tooLarge{Code::TooLarge, path, QStringLiteral("more than %1 bytes").arg(limit)};
     if (status.st_size > limit)
         return tooLarge;
@@ -261,24 +297,35 @@ Result<QByteArray> readFile(const QString &path, qint64 limit)
 
 Result<void> replaceFile(const QString &path, const QByteArray &bytes)
 {
-    if (const auto problem = problemOf(path))
-        return Error{Code::NotWritable, problem->where, problem->detail};
-    const QByteArray target = QFile::encodeName(path);
-    struct stat status;
-    if (::stat(target.constData(), &status) == 0 && !S_ISREG(status.st_mode))
-        return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
+    return replaceFileWith(path, [&bytes](int fd) -> Result<qint64> {
+        return writeAll(fd, bytes) ? bytes.size() : -1;
+    });
+}
 
-    QByteArray temporary = QFile::encodeName(folderOf(path) + QStringLiteral("/.kelvo-XXXXXX"));
-    Descriptor fd(::mkostemp(temporary.data(), O_CLOEXEC)); // 0600, O_EXCL
-    if (!fd)
-        return systemError(Code::NotWritable, path);
-    if (!writeAndSync(fd, bytes) || ::rename(temporary.constData(), target.constData()) != 0) {
-        const Error error = systemError(Code::NotWritable, path);
-        ::unlink(temporary.constData());
-        return error;
-    }
-    syncFolder(folderOf(path));
-    return {};
+Result<void> replaceFileByCopy(const QString &path, const QString &source)
+{
+    struct stat status;
+    const auto from = openForReading(source, status);
+    if (!from)
+        return from.error();
+    return replaceFileWith(path, [&](int fd) -> Result<qint64> {
+        QByteArray block;
+        for (qint64 copied = 0;; copied += block.size()) {
+            block.resize(256 * 1024);
+            ssize_t count = 0;
+            do {
+                count = ::read(from.value()->get(), block.data(),
+                               static_cast<std::size_t>(block.size()));
+            } while (count < 0 && errno == EINTR);
+            if (count < 0)
+                return systemError(Code::NotReadable, source);
+            if (count == 0)
+                return copied;
+            block.truncate(count);
+            if (!writeAll(fd, block))
+                return -1;
+        }
+    });
 }
 
 Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,

@@ -21,6 +21,10 @@ Result<QByteArray> readFile(const QString &path, qint64 limit);
 // After an error the old file is as it was and no temporary file is left.
 Result<void> replaceFile(const QString &path, const QByteArray &bytes);
 
+// The same with the bytes of the regular file `source`, of any size: they are
+// streamed. NotFound or NotReadable when it cannot be read.
+Result<void> replaceFileByCopy(const QString &path, const QString &source);
+
 enum class DamagedStore {
     SetAside, // a writer that creates: rename to NAME.damaged-1 (…-2), say so, begin empty
     Keep,     // a writer that only changes: fail and leave it alone

@@ -193,7 +193,7 @@ Done chooseMenuItem(QWidget *control, const MenuItem &item)
                                      [&item](const MenuItem &one) { return &one == &item; });
         chosen = at != items.end() && popup->choose(static_cast<int>(at - items.begin()) + 1);
     } else if (auto *button = qobject_cast<MenuButton *>(control)) {
-        chosen = button->choose(MenuItem(item));
+        chosen = button->choose(item);
     }
     return chosen ? Done()
                   : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));

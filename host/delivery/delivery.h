@@ -8,9 +8,12 @@
 #include "ticket_file.h"
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <atomic>
+#include <memory>
 #include <vector>
 
 // From settings to a job that is out of the house. Fails closed: no secret
@@ -25,13 +28,14 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document;     // as the user opened it; pages are cut here
-    TicketFile ticket;     // as the panels wrote it, without nonce
-    JobSettings settings;  // copies, pages, paper (job_settings.h)
+    Document document;            // as the user opened it; pages are cut here
+    TicketFile ticket;            // as the panels wrote it, without nonce
+    JobSettings settings;         // copies, pages, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one
-    SecretKeys secretKeys; // from the bundle
-    QString title;
-    QMap<QString, QString> queueDefaults; // what lpoptions set, to be contradicted where needed
+    SecretKeys secretKeys;        // from the bundle
+    QString title;                // for deliverToQueue; nothing of it enters the document
+    QMap<QString, QString>
+        queueDefaults; // of the queue (Printer::defaults), to be contradicted where needed
 };
 
 // What goes out. The PDF (a private 0600 file, pages cut, ticket attached) and
@@ -39,32 +43,46 @@ struct JobRequest
 struct PreparedJob
 {
     QString pdfPath;
-    std::shared_ptr<void> pdfOwner; // removes the file
-    std::vector<JobOption> options; // in a fixed order
-    QByteArray ticket;              // the attachment's bytes
-    QByteArray ticketSha256;        // of those bytes
+    std::shared_ptr<const void> pdfOwner; // removes the file with its last copy
+    std::vector<JobOption> options;       // in a fixed order: the PPD's, the host's, kelvo-ticket
+    QByteArray ticket;                    // the attachment's bytes
+    QByteArray ticketSha256;              // of those bytes, 32 bytes
     bool hasPasscode = false, isFax = false;
     QStringList notSent; // "OPTION=CHOICE" that the ticket has and the PPD lacks
 };
 
+// The PDF carries the ticket as an embedded file "kelvo-ticket.plist", and the
+// option "kelvo-ticket" says "1:SHA256:FLAGS" of it, where the PPD declares
+// *KelvoTicket: "1". Any other queue gets the document without ticket (an older
+// one is taken out) and without that option.
+//
 // Refused when the ticket holds a secret or a fax and the PPD does not declare
-// *KelvoTicket: "1"; OutOfRange for pages that the document does not have.
+// that, and for a choice that cannot be an option; OutOfRange for pages that the
+// document does not have; NotWritable for a full disk. Blocks for as long as it
+// takes to write the PDF.
 Result<PreparedJob> prepareJob(const JobRequest &request);
 
-// Writes document.pdf, options ("name=value" a line) and ticket.plist into the
-// folder, which is created 0700 when missing. Files that stand there are
-// replaced one by one; after an error what stood there stays.
+// Writes document.pdf, options ("name=value" a line) and ticket.plist (always,
+// also where no device would read it: this is what the job would have said)
+// into the folder, which is created 0700 when missing; the files are 0600. Files
+// that stand there are replaced one by one; after an error what stood there
+// stays.
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
 
 struct DeliveredJob
 {
     QString name; // "Hall-123"
 };
-// Streams the job to the queue. Blocks: call it on a worker thread. Refused when
-// the job holds a secret and the server is on the network without TLS. A job
-// that may have been accepted is never sent twice: the error says so then.
-// TimedOut after `timeoutMs` without progress; `cancelled` stops it before the
-// document is complete, and the half-sent job is cancelled.
+// Streams the job to the queue. Blocks: call it on a worker thread. What libcups
+// does happens on yet another one, which is left to itself when the server does
+// not answer.
+//
+// NotFound for an unknown queue, Unreachable when no server is there, Refused
+// when the server says no, when it asks for a password, or when the job holds a
+// secret and the server is on the network without TLS. TimedOut after
+// `timeoutMs` without progress; `cancelled` stops it before the document is
+// complete. A half-sent job is cancelled on the server. A job that may have been
+// accepted is never sent twice: the error says so then, and where to look.
 Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue,
                                     const QString &title, int timeoutMs,
                                     const std::atomic_bool &cancelled);

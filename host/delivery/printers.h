@@ -3,9 +3,9 @@
 #include "result.h"
 
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 
@@ -22,9 +22,11 @@ struct Printer
     QString info, location, makeAndModel;
     State state = State::Idle;
     bool acceptsJobs = true;
-    QString stateMessage; // why it is stopped; may be empty
+    QString stateMessage; // what it reports ("media-empty-error, paused"); may be empty
     bool isDefault = false;
-    QMap<QString, QString> defaults; // option → value set for the queue by lpoptions
+    // Option → value: what lpoptions set for the queue or instance, and what the
+    // server's administrator did. Descriptions of the queue are not among them.
+    QMap<QString, QString> defaults;
 };
 
 class PrinterDirectory : public QObject
@@ -33,16 +35,18 @@ class PrinterDirectory : public QObject
 
 public:
     explicit PrinterDirectory(QObject *parent = nullptr);
-    ~PrinterDirectory() override;
+    ~PrinterDirectory() override; // removes the PPD files; waits for nothing
 
-    // Both answer by a signal, at the latest after `timeoutMs` with TimedOut.
+    // Each call answers once, by one of its two signals, never from within the
+    // call itself, and at the latest after `timeoutMs` with TimedOut.
     void refresh(int timeoutMs = 30000);
     void fetchPpd(const QString &printer, int timeoutMs = 30000);
 
 signals:
     void printersFound(const QList<kelvo::Printer> &printers); // the default one first
     void printersFailed(const kelvo::Error &error);
-    // A local copy, 0600, which this object removes when it goes.
+    // A local copy, 0600, which this object removes when it goes. For a class of
+    // printers, that of its first member.
     void ppdFetched(const QString &printer, const QString &path);
     void ppdFailed(const QString &printer, const kelvo::Error &error); // NotFound: it has none
 
@@ -51,7 +55,8 @@ private:
     std::shared_ptr<Private> d;
 };
 
-// Blocking; for the command line.
+// Blocking, at most `timeoutMs`; for the command line. The default one first. A
+// server without printers gives an empty list.
 Result<QList<Printer>> listPrinters(int timeoutMs);
 
 } // namespace kelvo

@@ -7,6 +7,7 @@
 #include <QTest>
 
 using namespace kelvo;
+using namespace Qt::StringLiterals;
 using Code = Error::Code;
 
 class TestBundle : public QObject
@@ -39,8 +40,8 @@ void TestBundle::opensOnceAndIsFoundByItsIdentifier()
     const auto again = Bundle::open(QStringLiteral(TEST_BUNDLE "/../Test.pde/"));
     QVERIFY(again);
     QCOMPARE(again.value(), bundle);
-    QCOMPARE(CFBundleGetBundleWithIdentifier(QStringLiteral("com.kelvo.test")), bundle);
-    QCOMPARE(CFBundleGetBundleWithIdentifier(QStringLiteral("com.kelvo.other")), nullptr);
+    QCOMPARE(CFBundleGetBundleWithIdentifier(u"com.kelvo.test"_s), bundle);
+    QCOMPARE(CFBundleGetBundleWithIdentifier(u"com.kelvo.other"_s), nullptr);
 }
 
 void TestBundle::callsTheModuleItNames()
@@ -64,9 +65,8 @@ void TestBundle::namesTheFactoryOfItsType()
     // The first factory of the list has no function.
     const auto factory = bundle->findFactory(QUuid::fromString(QLatin1String(kPDEPlugInTypeUUID)));
     QVERIFY(factory);
-    QCOMPARE(factory->functionName, QStringLiteral("makeTestPlugIn"));
-    QCOMPARE(factory->identifier,
-             QUuid::fromString(QStringLiteral("6E9C7B40-5C5F-4F0C-9A1B-0123456789AB")));
+    QCOMPARE(factory->functionName, u"makeTestPlugIn"_s);
+    QCOMPARE(factory->identifier, QUuid::fromString(u"6E9C7B40-5C5F-4F0C-9A1B-0123456789AB"_s));
     QVERIFY(!bundle->findFactory(QUuid::fromString(QLatin1String(kIUnknownUUID))));
 }
 
@@ -74,17 +74,15 @@ void TestBundle::findsTextsByTableAndKey()
 {
     Bundle *bundle = testBundle();
     const auto text = [bundle](const char *key, const char *table) {
-        return CFBundleCopyLocalizedString(bundle, QString::fromUtf8(key),
-                                           QStringLiteral("fallback"), QString::fromUtf8(table));
+        return CFBundleCopyLocalizedString(bundle, QString::fromUtf8(key), u"fallback"_s,
+                                           QString::fromUtf8(table));
     };
-    QCOMPARE(text("1 Staple", "Localizable"), QStringLiteral("One staple"));
-    QCOMPARE(text("1 Staple", "LANFax"), QStringLiteral("Fax staple"));
-    QCOMPARE(text("Quote \"this\": a\nsecond line", "Localizable"), QStringLiteral("“This”"));
-    QCOMPARE(text("1 staple", "Localizable"), QStringLiteral("fallback"));
-    QCOMPARE(text("1 Staple", "Nowhere"), QStringLiteral("fallback"));
-    QCOMPARE(CFBundleCopyLocalizedString(nullptr, QStringLiteral("1 Staple"), QStringLiteral("?"),
-                                         QStringLiteral("LANFax")),
-             QStringLiteral("?"));
+    QCOMPARE(text("1 Staple", "Localizable"), u"One staple"_s);
+    QCOMPARE(text("1 Staple", "LANFax"), u"Fax staple"_s);
+    QCOMPARE(text("Quote \"this\": a\nsecond line", "Localizable"), u"“This”"_s);
+    QCOMPARE(text("1 staple", "Localizable"), u"fallback"_s);
+    QCOMPARE(text("1 Staple", "Nowhere"), u"fallback"_s);
+    QCOMPARE(CFBundleCopyLocalizedString(nullptr, u"1 Staple"_s, u"?"_s, u"LANFax"_s), u"?"_s);
 }
 
 void TestBundle::findsResourcesInsideOnly()
@@ -94,8 +92,7 @@ void TestBundle::findsResourcesInsideOnly()
         return bundle->findResource(QString::fromUtf8(name), QString::fromUtf8(type),
                                     QString::fromUtf8(folder));
     };
-    QCOMPARE(find("en", "qm", "strings"),
-             bundle->resourcesPath() + QStringLiteral("/strings/en.qm"));
+    QCOMPARE(find("en", "qm", "strings"), bundle->resourcesPath() + u"/strings/en.qm"_s);
     QCOMPARE(find("en", "qm", ""), QString());
     QCOMPARE(find("strings", "", ""), QString()); // a folder
     QCOMPARE(find("Info", "plist", ".."), QString());
@@ -109,8 +106,7 @@ void TestBundle::saysWhyItCannotBeOpened_data()
     QTest::newRow("no Info.plist") << QVariant() << Code::NotFound;
     QTest::newRow("empty identifier") << QVariant(QString()) << Code::Damaged;
     QTest::newRow("number as identifier") << QVariant(7) << Code::Damaged;
-    QTest::newRow("taken identifier")
-        << QVariant(QStringLiteral("com.kelvo.test")) << Code::Refused;
+    QTest::newRow("taken identifier") << QVariant(u"com.kelvo.test"_s) << Code::Refused;
 }
 
 void TestBundle::saysWhyItCannotBeOpened()
@@ -119,9 +115,9 @@ void TestBundle::saysWhyItCannotBeOpened()
     QFETCH(Code, code);
     QVERIFY(testBundle());
     QTemporaryDir folder;
-    const QString info = folder.filePath(QStringLiteral("Info.plist"));
+    const QString info = folder.filePath(u"Info.plist"_s);
     if (identifier.isValid())
-        QVERIFY(writeDictionaryFile(info, {{QStringLiteral("CFBundleIdentifier"), identifier}}));
+        QVERIFY(writeDictionaryFile(info, {{u"CFBundleIdentifier"_s, identifier}}));
 
     const auto bundle = Bundle::open(folder.path());
 
@@ -133,9 +129,9 @@ void TestBundle::saysWhyItCannotBeOpened()
 void TestBundle::saysWhyItsModuleCannotBeLoaded_data()
 {
     QTest::addColumn<QVariant>("executable");
-    QTest::newRow("no such file") << QVariant(QStringLiteral("Missing.so"));
-    QTest::newRow("no module") << QVariant(QStringLiteral("Info.plist"));
-    QTest::newRow("elsewhere") << QVariant(QStringLiteral("../Test.pde/Test.so"));
+    QTest::newRow("no such file") << QVariant(u"Missing.so"_s);
+    QTest::newRow("no module") << QVariant(u"Info.plist"_s);
+    QTest::newRow("elsewhere") << QVariant(u"../Test.pde/Test.so"_s);
     QTest::newRow("not a name") << QVariant(1);
 }
 
@@ -144,10 +140,9 @@ void TestBundle::saysWhyItsModuleCannotBeLoaded()
     QFETCH(QVariant, executable);
     QTemporaryDir folder;
     QVERIFY(writeDictionaryFile(
-        folder.filePath(QStringLiteral("Info.plist")),
-        {{QStringLiteral("CFBundleIdentifier"),
-          QStringLiteral("com.kelvo.") + QLatin1String(QTest::currentDataTag())},
-         {QStringLiteral("CFBundleExecutable"), executable}}));
+        folder.filePath(u"Info.plist"_s),
+        {{u"CFBundleIdentifier"_s, u"com.kelvo."_s + QLatin1String(QTest::currentDataTag())},
+         {u"CFBundleExecutable"_s, executable}}));
     const auto bundle = Bundle::open(folder.path());
     QVERIFY(bundle);
     QCOMPARE(bundle.value()->findFunction("countCalls"), nullptr);

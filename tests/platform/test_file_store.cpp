@@ -19,6 +19,7 @@
 #include <csignal>
 
 using namespace kelvo;
+using namespace Qt::StringLiterals;
 using Code = Error::Code;
 
 class TestFileStore : public QObject
@@ -30,6 +31,7 @@ private slots:
     void readsRegularFilesUpToTheLimit();
     void writesPrivateFilesInPrivateFolders();
     void keepsTheOldFileOnAFullDisk();
+    void copiesFiles();
     void keepsTheOldFileInAnUnwritableFolder();
     void refusesTargetsThatAreNoFiles();
     void losesNothingWhenProcessesWriteAtOnce();
@@ -61,8 +63,8 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-static const QVariantMap oldContent{{QStringLiteral("n"), qint64(1)}};
-static const QVariantMap newContent{{QStringLiteral("n"), qint64(2)}};
+static const QVariantMap oldContent{{u"n"_s, qint64(1)}};
+static const QVariantMap newContent{{u"n"_s, qint64(2)}};
 
 static QVariantMap contentOf(const QString &path)
 {
@@ -115,9 +117,9 @@ void TestFileStore::readsRegularFilesUpToTheLimit()
     QCOMPARE(readFile(QString(), 9).error().code, Code::NotFound);
     QCOMPARE(readFile(path("ten") + QChar(0), 99).error().code, Code::NotFound);
     // Files of /proc claim to be empty.
-    const auto status = readFile(QStringLiteral("/proc/self/status"), limits::MiB);
+    const auto status = readFile(u"/proc/self/status"_s, limits::MiB);
     QVERIFY(status && status.value().contains("VmPeak"));
-    QCOMPARE(readFile(QStringLiteral("/proc/self/status"), 10).error().code, Code::TooLarge);
+    QCOMPARE(readFile(u"/proc/self/status"_s, 10).error().code, Code::TooLarge);
 }
 
 void TestFileStore::writesPrivateFilesInPrivateFolders()
@@ -139,6 +141,9 @@ void TestFileStore::writesPrivateFilesInPrivateFolders()
 void TestFileStore::keepsTheOldFileOnAFullDisk()
 {
     QVERIFY(writeDictionaryFile(store(), oldContent));
+    QTemporaryDir elsewhere;
+    const QString source = elsewhere.filePath(QStringLiteral("source"));
+    put(source, QByteArray(700'000, 'x'));
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before;
     QVERIFY(::getrlimit(RLIMIT_FSIZE, &before) == 0);
@@ -147,13 +152,29 @@ void TestFileStore::keepsTheOldFileOnAFullDisk()
         small.rlim_cur = room;
         QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
         const auto replaced = replaceFile(store(), QByteArray(100'000, 'x'));
+        const auto copied = replaceFileByCopy(store(), source);
         QVERIFY(::setrlimit(RLIMIT_FSIZE, &before) == 0);
-        QVERIFY(!replaced);
-        QCOMPARE(replaced.error().code, Code::NotWritable);
-        QCOMPARE(replaced.error().where, store());
+        for (const auto &result : {replaced, copied}) {
+            QVERIFY(!result);
+            QCOMPARE(result.error().code, Code::NotWritable);
+            QCOMPARE(result.error().where, store());
+        }
         QCOMPARE(contentOf(store()), oldContent);
-        QCOMPARE(files(), QStringList{QStringLiteral("store.plist")});
+        QCOMPARE(files(), QStringList{u"store.plist"_s});
     }
+}
+
+void TestFileStore::copiesFiles()
+{
+    const QByteArray bytes = QByteArray(300'000, 'x') + "end"; // more than one block
+    put(path("source"), bytes);
+    put(store(), "old");
+    QVERIFY(replaceFileByCopy(store(), path("source")));
+    QCOMPARE(readFile(store(), limits::MiB).value(), bytes);
+    QVERIFY(QFile::setPermissions(path("source"), {}));
+    QCOMPARE(replaceFileByCopy(store(), path("source")).error().code, Code::NotReadable);
+    QCOMPARE(replaceFileByCopy(store(), path("nothing")).error().code, Code::NotFound);
+    QCOMPARE(readFile(store(), limits::MiB).value(), bytes);
 }
 
 void TestFileStore::keepsTheOldFileInAnUnwritableFolder()
@@ -184,7 +205,7 @@ void TestFileStore::refusesTargetsThatAreNoFiles()
         QVERIFY2(!replaced, name);
         QCOMPARE(replaced.error().code, Code::NotWritable);
     }
-    QCOMPARE(files(), (QStringList{QStringLiteral("folder"), QStringLiteral("null")}));
+    QCOMPARE(files(), (QStringList{u"folder"_s, u"null"_s}));
 }
 
 void TestFileStore::losesNothingWhenProcessesWriteAtOnce()
@@ -199,7 +220,7 @@ void TestFileStore::losesNothingWhenProcessesWriteAtOnce()
             for (int round = 0; round < rounds; ++round) {
                 const auto changed =
                     changeDictionaryFile(store(), DamagedStore::Keep, [](QVariantMap &dictionary) {
-                        const QString key = QStringLiteral("n");
+                        const QString key = u"n"_s;
                         dictionary.insert(key, integer32(dictionary, key).value_or(0) + 1);
                         return true;
                     });
@@ -214,8 +235,8 @@ void TestFileStore::losesNothingWhenProcessesWriteAtOnce()
         QCOMPARE(::waitpid(pid, &status, 0), pid);
         QCOMPARE(status, 0);
     }
-    QCOMPARE(integer32(contentOf(store()), QStringLiteral("n")), std::optional(processes * rounds));
-    QCOMPARE(files(), QStringList{QStringLiteral("store.plist")});
+    QCOMPARE(integer32(contentOf(store()), u"n"_s), std::optional(processes * rounds));
+    QCOMPARE(files(), QStringList{u"store.plist"_s});
 }
 
 void TestFileStore::waitsForALockOnlyForAWhile()
@@ -314,7 +335,7 @@ void TestFileStore::writesNothingWithoutAChange()
     QVERIFY(
         changeDictionaryFile(store(), DamagedStore::SetAside, [](QVariantMap &) { return false; }));
     QCOMPARE(bytesOf(store()), QByteArray("damaged"));
-    QCOMPARE(files(), QStringList{QStringLiteral("store.plist")});
+    QCOMPARE(files(), QStringList{u"store.plist"_s});
 }
 
 void TestFileStore::keepsTheStoreWhenTheChangeCannotBeWritten()
@@ -322,11 +343,11 @@ void TestFileStore::keepsTheStoreWhenTheChangeCannotBeWritten()
     put(store(), "damaged");
     const auto changed =
         changeDictionaryFile(store(), DamagedStore::SetAside, [](QVariantMap &dictionary) {
-            dictionary.insert(QStringLiteral("a"), QVariantList{QString(QChar(1))});
+            dictionary.insert(u"a"_s, QVariantList{QString(QChar(1))});
             return true;
         });
     QVERIFY(!changed);
-    QCOMPARE(changed.error().where, store() + QStringLiteral(": a/0"));
+    QCOMPARE(changed.error().where, store() + u": a/0"_s);
     QCOMPARE(bytesOf(store()), QByteArray("damaged"));
 }
 
@@ -356,8 +377,8 @@ void TestFileStore::makesNamesSafe_data()
                              << "a%252Fb";
     QTest::newRow("empty") << ""
                            << "%-";
-    QTest::newRow("control characters") << QStringLiteral("a\n\x7F\u0085") << "a%0A%7F%C2%85";
-    QTest::newRow("right to left") << QStringLiteral("a\u202Eb") << "a%E2%80%AEb";
+    QTest::newRow("control characters") << u"a\n\x7F\u0085"_s << "a%0A%7F%C2%85";
+    QTest::newRow("right to left") << u"a\u202Eb"_s << "a%E2%80%AEb";
     QTest::newRow("half a pair") << QString(QChar(0xD800)) << "%uD800";
     QTest::newRow("200 bytes") << QString(100, u'ä') << QString(100, u'ä');
 }

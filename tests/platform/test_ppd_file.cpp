@@ -7,6 +7,7 @@
 #include <QTest>
 
 using namespace kelvo;
+using namespace Qt::StringLiterals;
 using Code = Error::Code;
 
 // The device of test.ppd: two finishers that are options, staples that need one,
@@ -51,16 +52,15 @@ void TestPpdFile::init()
 void TestPpdFile::tellsWhatTheDeviceIs()
 {
     QCOMPARE(m_ppd->path(), testPpd());
-    QCOMPARE(m_ppd->manufacturer(), QStringLiteral("Kelvo"));
-    QCOMPARE(m_ppd->modelName(), QStringLiteral("Kelvo Test Device"));
+    QCOMPARE(m_ppd->manufacturer(), u"Kelvo"_s);
+    QCOMPARE(m_ppd->modelName(), u"Kelvo Test Device"_s);
     QVERIFY(m_ppd->isColorDevice());
-    QCOMPARE(m_ppd->attribute("KelvoTicket"), std::optional(QStringLiteral("1")));
+    QCOMPARE(m_ppd->attribute("KelvoTicket"), std::optional(u"1"_s));
     QVERIFY(!m_ppd->attribute("KelvoNothing"));
     QCOMPARE(m_ppd->attributes("cupsFilter"),
-             (QStringList{QStringLiteral("application/pdf 0 -"),
-                          QStringLiteral("application/postscript 10 -")}));
+             (QStringList{u"application/pdf 0 -"_s, u"application/postscript 10 -"_s}));
 
-    const auto bare = PpdFile::fromBytes("*PPD-Adobe: \"4.3\"\n", QStringLiteral("bare.ppd"));
+    const auto bare = PpdFile::fromBytes("*PPD-Adobe: \"4.3\"\n", u"bare.ppd"_s);
     QVERIFY2(bare, qPrintable(bare.reason()));
     QCOMPARE(bare.value()->manufacturer(), QString());
     QCOMPARE(bare.value()->languageEncoding(), QString());
@@ -74,23 +74,23 @@ void TestPpdFile::listsOptionsInTheirGroups()
     QStringList groups;
     for (const PpdGroup &group : m_ppd->groups())
         groups << group.name;
-    QVERIFY(groups.contains(QStringLiteral("InstallableOptions")));
+    QVERIFY(groups.contains(u"InstallableOptions"_s));
 
-    const PpdOption *media = m_ppd->findOption(QStringLiteral("MediaType"));
+    const PpdOption *media = m_ppd->findOption(u"MediaType"_s);
     QVERIFY(media);
-    QCOMPARE(media->text, QStringLiteral("Papersorte é"));
-    QCOMPARE(media->defaultChoice, QStringLiteral("Standard"));
+    QCOMPARE(media->text, u"Papersorte é"_s);
+    QCOMPARE(media->defaultChoice, u"Standard"_s);
     QVERIFY(!media->pickMany);
     QCOMPARE(media->choices.size(), std::size_t(3));
-    QCOMPARE(media->choices[1].keyword, QStringLiteral("Transparency"));
-    const PpdChoice *card = media->findChoice(QStringLiteral("CardStock"));
+    QCOMPARE(media->choices[1].keyword, u"Transparency"_s);
+    const PpdChoice *card = media->findChoice(u"CardStock"_s);
     QVERIFY(card);
-    QCOMPARE(card->text, QStringLiteral("Card Stock"));
-    QVERIFY(!media->findChoice(QStringLiteral("cardstock")));
-    QVERIFY(!m_ppd->findOption(QStringLiteral("Media")));
+    QCOMPARE(card->text, u"Card Stock"_s);
+    QVERIFY(!media->findChoice(u"cardstock"_s));
+    QVERIFY(!m_ppd->findOption(u"Media"_s));
     QVERIFY(!m_ppd->findOption(QString()));
-    QVERIFY(m_ppd->findOption(QStringLiteral("KVMarks"))->pickMany);
-    QVERIFY(m_ppd->findOption(QStringLiteral("JCLBanner")));
+    QVERIFY(m_ppd->findOption(u"KVMarks"_s)->pickMany);
+    QVERIFY(m_ppd->findOption(u"JCLBanner"_s));
 }
 
 void TestPpdFile::listsPageSizes()
@@ -98,9 +98,8 @@ void TestPpdFile::listsPageSizes()
     QStringList names;
     for (const PpdPageSize &size : m_ppd->pageSizes())
         names << size.name;
-    QCOMPARE(names,
-             (QStringList{QStringLiteral("A4"), QStringLiteral("Letter"), QStringLiteral("A3")}));
-    const PpdPageSize *a4 = m_ppd->findPageSize(QStringLiteral("A4"));
+    QCOMPARE(names, (QStringList{u"A4"_s, u"Letter"_s, u"A3"_s}));
+    const PpdPageSize *a4 = m_ppd->findPageSize(u"A4"_s);
     QVERIFY(a4);
     QCOMPARE(a4->width, 595.0);
     QCOMPARE(a4->height, 842.0);
@@ -108,7 +107,7 @@ void TestPpdFile::listsPageSizes()
     QCOMPARE(a4->bottom, 14.0);
     QCOMPARE(a4->right, 579.0);
     QCOMPARE(a4->top, 824.0);
-    QVERIFY(!m_ppd->findPageSize(QStringLiteral("Custom")));
+    QVERIFY(!m_ppd->findPageSize(u"Custom"_s));
     const auto limits = m_ppd->customPageLimits();
     QVERIFY(limits);
     QCOMPARE(limits->minWidth, 216.0);
@@ -147,13 +146,12 @@ void TestPpdFile::marksWhatIsOffered()
 
 void TestPpdFile::marksDefaultsAgain()
 {
-    QVERIFY(m_ppd->mark(QStringLiteral("StapleLocation"), QStringLiteral("DualLandscape")));
+    QVERIFY(m_ppd->mark(u"StapleLocation"_s, u"DualLandscape"_s));
     // The marks are in conflict, but what the PPD lacks adds none.
-    QVERIFY(!m_ppd->mark(QStringLiteral("Colour"), QStringLiteral("Red")));
+    QVERIFY(!m_ppd->mark(u"Colour"_s, u"Red"_s));
     m_ppd->markDefaults();
-    QCOMPARE(m_ppd->markedChoice(QStringLiteral("StapleLocation")),
-             std::optional(QStringLiteral("None")));
-    QVERIFY(!m_ppd->mark(QStringLiteral("Duplex"), QStringLiteral("DuplexTumble")));
+    QCOMPARE(m_ppd->markedChoice(u"StapleLocation"_s), std::optional(u"None"_s));
+    QVERIFY(!m_ppd->mark(u"Duplex"_s, u"DuplexTumble"_s));
 }
 
 using Groups = QList<QStringList>;
@@ -210,7 +208,7 @@ void TestPpdFile::namesConflictsOfPairs()
           "*UIConstraints: *MediaType Transparency *StapleLocation\n"
           "*UIConstraints: *Duplex *CustomPageSize True\n"
           "*UIConstraints: *Duplex *Nowhere\n";
-    const auto ppd = PpdFile::fromBytes(bytes, QStringLiteral("pairs.ppd"));
+    const auto ppd = PpdFile::fromBytes(bytes, u"pairs.ppd"_s);
     QVERIFY2(ppd, qPrintable(ppd.reason()));
     const auto conflicts = ppd.value()->conflicts({{"StapleLocation", "DualLandscape"},
                                                    {"MediaType", "Transparency"},
@@ -264,15 +262,13 @@ void TestPpdFile::resolvesConflicts()
 
 void TestPpdFile::leavesTheMarksAloneWhenItLooksForConflicts()
 {
-    m_ppd->mark(QStringLiteral("Duplex"), QStringLiteral("DuplexTumble"));
+    m_ppd->mark(u"Duplex"_s, u"DuplexTumble"_s);
     const PpdSelection selection{{"StapleLocation", "DualLandscape"}, {"Duplex", "None"}};
     QVERIFY(!m_ppd->conflicts(selection).empty());
     QVERIFY(m_ppd->resolve(selection));
-    QCOMPARE(m_ppd->markedChoice(QStringLiteral("Duplex")),
-             std::optional(QStringLiteral("DuplexTumble")));
-    QCOMPARE(m_ppd->markedChoice(QStringLiteral("StapleLocation")),
-             std::optional(QStringLiteral("None")));
-    QVERIFY(!m_ppd->mark(QStringLiteral("Duplex"), QStringLiteral("DuplexNoTumble")));
+    QCOMPARE(m_ppd->markedChoice(u"Duplex"_s), std::optional(u"DuplexTumble"_s));
+    QCOMPARE(m_ppd->markedChoice(u"StapleLocation"_s), std::optional(u"None"_s));
+    QVERIFY(!m_ppd->mark(u"Duplex"_s, u"DuplexNoTumble"_s));
 }
 
 void TestPpdFile::refusesOtherFiles_data()
@@ -313,7 +309,7 @@ void TestPpdFile::refusesOtherFiles()
     QFETCH(QByteArray, bytes);
     QFETCH(std::optional<Code>, code);
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.ppd"));
+    const QString path = folder.filePath(u"a.ppd"_s);
     QVERIFY(replaceFile(path, bytes));
     const auto ppd = PpdFile::open(path);
     QCOMPARE(bool(ppd), !code);
@@ -322,8 +318,7 @@ void TestPpdFile::refusesOtherFiles()
         QCOMPARE(ppd.error().where, path);
         QVERIFY(!ppd.error().detail.isEmpty());
     }
-    QCOMPARE(PpdFile::open(folder.filePath(QStringLiteral("none.ppd"))).error().code,
-             Code::NotFound);
+    QCOMPARE(PpdFile::open(folder.filePath(u"none.ppd"_s)).error().code, Code::NotFound);
     QCOMPARE(PpdFile::open(folder.path()).error().code, Code::NotReadable);
 }
 

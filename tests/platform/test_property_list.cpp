@@ -12,6 +12,7 @@
 #include <limits>
 
 using namespace kelvo;
+using namespace Qt::StringLiterals;
 using Code = Error::Code;
 
 class TestPropertyList : public QObject
@@ -46,17 +47,17 @@ static QByteArray document(const QByteArray &content)
 static Dictionary everything()
 {
     return {
-        {QStringLiteral("texts"),
-         QStringList{QString(), QStringLiteral(" <&>\"' "), QStringLiteral("tab\tline\nreturn\r."),
-                     QStringLiteral("é € 漢"), QString::fromUcs4(U"\U0001F5A8\U0010FFFF")}},
-        {QStringLiteral("integers"),
+        {u"texts"_s,
+         QStringList{QString(), u" <&>\"' "_s, u"tab\tline\nreturn\r."_s, u"é € 漢"_s,
+                     QString::fromUcs4(U"\U0001F5A8\U0010FFFF")}},
+        {u"integers"_s,
          Array{0, -1, std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min()}},
-        {QStringLiteral("reals"), Array{0.5, -0.0, 0.1, 1.0, 1e22, 5e-324, 1.7976931348623157e308}},
-        {QStringLiteral("booleans"), Array{true, false}},
-        {QStringLiteral("date"), leapDay},
-        {QStringLiteral("data"), Array{QByteArray(), QByteArray("a"), QByteArray("\0\xFF\n", 3)}},
-        {QStringLiteral("empty"), Array{Dictionary(), Array()}},
-        {QStringLiteral("<&>"), Dictionary{{QString(), QStringLiteral("empty key")}}},
+        {u"reals"_s, Array{0.5, -0.0, 0.1, 1.0, 1e22, 5e-324, 1.7976931348623157e308}},
+        {u"booleans"_s, Array{true, false}},
+        {u"date"_s, leapDay},
+        {u"data"_s, Array{QByteArray(), QByteArray("a"), QByteArray("\0\xFF\n", 3)}},
+        {u"empty"_s, Array{Dictionary(), Array()}},
+        {u"<&>"_s, Dictionary{{QString(), u"empty key"_s}}},
     };
 }
 
@@ -80,7 +81,7 @@ void TestPropertyList::readsWhatItWrote()
     QFETCH(QVariant, read);
     const auto xml = CFPropertyListCreateXMLData(written);
     QVERIFY2(xml, qPrintable(xml.reason()));
-    const auto back = CFPropertyListCreateFromXMLData(xml.value(), QStringLiteral("list"));
+    const auto back = CFPropertyListCreateFromXMLData(xml.value(), u"list"_s);
     QVERIFY2(back, qPrintable(back.reason()));
     const auto again = CFPropertyListCreateXMLData(back.value());
     QVERIFY(again);
@@ -95,7 +96,7 @@ void TestPropertyList::readsWhatItWrote()
 
 void TestPropertyList::writesTheSameBytesForTheSameList()
 {
-    const Dictionary list{{QStringLiteral("b"), Array{1, 0.5}}, {QStringLiteral("B"), true}};
+    const Dictionary list{{u"b"_s, Array{1, 0.5}}, {u"B"_s, true}};
     const auto xml = CFPropertyListCreateXMLData(list);
     QVERIFY(xml);
     QCOMPARE(xml.value(),
@@ -125,18 +126,18 @@ void TestPropertyList::readsValues_data()
     row("data of two bytes", "<data>+/8=</data>", QByteArray("\xFB\xFF"));
     row("data of four bytes", "<data>AAECA\t\nw =\r= </data>", QByteArray("\0\1\2\3", 4));
     row("no data", "<data> </data>", QByteArray());
-    row("CDATA", "<string><![CDATA[a<b]]>&#x43;&amp;</string>", QStringLiteral("a<bC&"));
-    row("comments", "<!-- a --><string>a<!-- b -->c</string>", QStringLiteral("ac"));
+    row("CDATA", "<string><![CDATA[a<b]]>&#x43;&amp;</string>", u"a<bC&"_s);
+    row("comments", "<!-- a --><string>a<!-- b -->c</string>", u"ac"_s);
     row("true with an end", "<true> </true>", true);
     row("key again deeper", "<dict><key>a</key><dict><key>a</key><true/></dict></dict>",
-        Dictionary{{QStringLiteral("a"), Dictionary{{QStringLiteral("a"), true}}}});
+        Dictionary{{u"a"_s, Dictionary{{u"a"_s, true}}}});
 }
 
 void TestPropertyList::readsValues()
 {
     QFETCH(QByteArray, content);
     QFETCH(QVariant, value);
-    const auto list = CFPropertyListCreateFromXMLData(document(content), QStringLiteral("list"));
+    const auto list = CFPropertyListCreateFromXMLData(document(content), u"list"_s);
     QVERIFY2(list, qPrintable(list.reason()));
     QCOMPARE(list.value().typeId(), value.typeId());
     QCOMPARE(list.value(), value);
@@ -211,10 +212,10 @@ void TestPropertyList::refusesOtherFiles()
 {
     QFETCH(QByteArray, xml);
     QFETCH(Code, code);
-    const auto list = CFPropertyListCreateFromXMLData(xml, QStringLiteral("a.plist"));
+    const auto list = CFPropertyListCreateFromXMLData(xml, u"a.plist"_s);
     QVERIFY(!list);
     QCOMPARE(list.error().code, code);
-    QVERIFY(list.error().where.startsWith(QStringLiteral("a.plist")));
+    QVERIFY(list.error().where.startsWith(u"a.plist"_s));
     QVERIFY(!list.error().detail.isEmpty());
 }
 
@@ -222,10 +223,8 @@ void TestPropertyList::saysInWhichLineAFileIsWrong()
 {
     for (const char *content :
          {"<true/>\n<float/>", "<true/>\n<integer>x</integer>", "<true/>\n\xFF"})
-        QCOMPARE(CFPropertyListCreateFromXMLData(document(content), QStringLiteral("a.plist"))
-                     .error()
-                     .where,
-                 QStringLiteral("a.plist, line 4"));
+        QCOMPARE(CFPropertyListCreateFromXMLData(document(content), u"a.plist"_s).error().where,
+                 u"a.plist, line 4"_s);
 }
 
 void TestPropertyList::refusesWhatNoListCanHold_data()
@@ -235,7 +234,7 @@ void TestPropertyList::refusesWhatNoListCanHold_data()
     QTest::newRow("nothing") << QVariant() << Code::WrongType;
     QTest::newRow("another type") << QVariant(QSize(1, 2)) << Code::WrongType;
     QTest::newRow("null character") << QVariant(QString(QChar(0))) << Code::Unsupported;
-    QTest::newRow("control character") << QVariant(QStringLiteral("\x1B")) << Code::Unsupported;
+    QTest::newRow("control character") << QVariant(u"\x1B"_s) << Code::Unsupported;
     QTest::newRow("half a pair") << QVariant(QString(QChar(0xD83D))) << Code::Unsupported;
     QTest::newRow("halves swapped")
         << QVariant(QString(QChar(0xDC00)) + QChar(0xD83D)) << Code::Unsupported;
@@ -252,11 +251,10 @@ void TestPropertyList::refusesWhatNoListCanHold()
 {
     QFETCH(QVariant, value);
     QFETCH(Code, code);
-    const auto xml =
-        CFPropertyListCreateXMLData(Dictionary{{QStringLiteral("outer"), Array{true, value}}});
+    const auto xml = CFPropertyListCreateXMLData(Dictionary{{u"outer"_s, Array{true, value}}});
     QVERIFY(!xml);
     QCOMPARE(xml.error().code, code);
-    QCOMPARE(xml.error().where, QStringLiteral("outer/1"));
+    QCOMPARE(xml.error().where, u"outer/1"_s);
 }
 
 void TestPropertyList::holdsItsLimits_data()
@@ -286,7 +284,7 @@ void TestPropertyList::holdsItsLimits()
 {
     QFETCH(QByteArray, xml);
     QFETCH(bool, fits);
-    const auto list = CFPropertyListCreateFromXMLData(xml, QStringLiteral("list"));
+    const auto list = CFPropertyListCreateFromXMLData(xml, u"list"_s);
     QCOMPARE(bool(list), fits);
     if (!fits) {
         QCOMPARE(list.error().code, Code::TooLarge);
@@ -305,25 +303,21 @@ void TestPropertyList::holdsItsLimits()
 void TestPropertyList::agreesWithOtherPrograms()
 {
     QTemporaryDir folder;
-    const QString ours = folder.filePath(QStringLiteral("ours.plist"));
-    const QString binary = folder.filePath(QStringLiteral("binary.plist"));
-    const QString back = folder.filePath(QStringLiteral("back.plist"));
+    const QString ours = folder.filePath(u"ours.plist"_s);
+    const QString binary = folder.filePath(u"binary.plist"_s);
+    const QString back = folder.filePath(u"back.plist"_s);
     Dictionary list = everything();
     // plistutil's own writer prints reals with few digits, drops empty keys and
     // turns returns into newlines.
-    list.insert(QStringLiteral("texts"),
-                list.value(QStringLiteral("texts"))
-                    .toStringList()
-                    .replaceInStrings(QStringLiteral("\r"), QString()));
-    list.insert(QStringLiteral("reals"), Array{0.5, 1.0, 1e22});
-    list.remove(QStringLiteral("<&>"));
+    list.insert(u"texts"_s,
+                list.value(u"texts"_s).toStringList().replaceInStrings(u"\r"_s, QString()));
+    list.insert(u"reals"_s, Array{0.5, 1.0, 1e22});
+    list.remove(u"<&>"_s);
     QVERIFY(writeDictionaryFile(ours, list));
     for (const QStringList &arguments :
-         {QStringList{QStringLiteral("-i"), ours, QStringLiteral("-o"), binary,
-                      QStringLiteral("-f"), QStringLiteral("bin")},
-          QStringList{QStringLiteral("-i"), binary, QStringLiteral("-o"), back,
-                      QStringLiteral("-f"), QStringLiteral("xml")}}) {
-        QCOMPARE(QProcess::execute(QStringLiteral("plistutil"), arguments), 0);
+         {QStringList{u"-i"_s, ours, u"-o"_s, binary, u"-f"_s, u"bin"_s},
+          QStringList{u"-i"_s, binary, u"-o"_s, back, u"-f"_s, u"xml"_s}}) {
+        QCOMPARE(QProcess::execute(u"plistutil"_s, arguments), 0);
     }
     const auto theirs = readPropertyList(back);
     QVERIFY2(theirs, qPrintable(theirs.reason()));
@@ -340,12 +334,11 @@ void TestPropertyList::readsWhatPythonWrote()
     const auto list = readPropertyList(QStringLiteral(KELVO_TEST_DATA "/platform/plistlib.plist"));
     QVERIFY2(list, qPrintable(list.reason()));
     const Dictionary expected{
-        {QStringLiteral("data"), QByteArray(100, '\xAB')},
-        {QStringLiteral("date"), leapDay},
-        {QStringLiteral("deep"),
-         Dictionary{{QStringLiteral("é"), Array{true, QStringLiteral("<&>\n")}}}},
-        {QStringLiteral("integer"), std::numeric_limits<qint64>::min()},
-        {QStringLiteral("real"), 0.1},
+        {u"data"_s, QByteArray(100, '\xAB')},
+        {u"date"_s, leapDay},
+        {u"deep"_s, Dictionary{{u"é"_s, Array{true, u"<&>\n"_s}}}},
+        {u"integer"_s, std::numeric_limits<qint64>::min()},
+        {u"real"_s, 0.1},
     };
     QCOMPARE(list.value().toMap(), expected);
 }

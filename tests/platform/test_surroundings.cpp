@@ -8,6 +8,7 @@
 #include <QTest>
 
 using namespace kelvo;
+using namespace Qt::StringLiterals;
 
 // The small services: folders, dates, menus, texts, the computer.
 class TestSurroundings : public QObject
@@ -34,7 +35,7 @@ void TestSurroundings::choosesFoldersFromTheEnvironment_data()
     QTest::addColumn<QString>("preferences");
     QTest::addColumn<QString>("support");
     QTest::addColumn<QString>("site");
-    const QString site = QStringLiteral("/etc/xdg/kelvo");
+    const QString site = u"/etc/xdg/kelvo"_s;
 
     QTest::newRow("home alone") << Variables{{"HOME", "/h/u/"}} << "/h/u/.config/kelvo"
                                 << "/h/u/.local/share" << site;
@@ -160,9 +161,7 @@ void TestSurroundings::knowsUserAndComputer()
     QVERIFY(consoleUser() && !consoleUser()->isEmpty());
     QVERIFY(computerName() && !computerName()->isEmpty());
     if (const auto address = primaryIPv4Address()) // a bare machine may have no route
-        QVERIFY2(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+\\.\\d+$"))
-                     .match(*address)
-                     .hasMatch(),
+        QVERIFY2(QRegularExpression(u"^\\d+\\.\\d+\\.\\d+\\.\\d+$"_s).match(*address).hasMatch(),
                  qPrintable(*address));
 }
 

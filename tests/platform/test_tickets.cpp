@@ -7,6 +7,7 @@
 #include <QUrl>
 
 using namespace kelvo;
+using namespace Qt::StringLiterals;
 using Code = Error::Code;
 
 class TestTickets : public QObject
@@ -24,8 +25,8 @@ private slots:
     void refusesOtherLists();
 };
 
-static const QString kelvoClient = QStringLiteral("com.kelvo.print.pde");
-static const QString key = QStringLiteral("com.kelvo.print.JobType");
+static const QString kelvoClient = u"com.kelvo.print.pde"_s;
+static const QString key = u"com.kelvo.print.JobType"_s;
 
 void TestTickets::namesEachLivingTicketByAHandle()
 {
@@ -60,8 +61,8 @@ void TestTickets::handsOutWhatTheSessionKnows()
     QString url;
     QCOMPARE(PMSessionGetCurrentPrinter(&session, &printer), noErr);
     QCOMPARE(PMPrinterGetDescriptionURL(printer, kPMPPDDescriptionType, &url), kPMKeyNotFound);
-    const QString path = QStringLiteral("/tmp/a b%20#é.ppd");
-    session.setPrinter({QStringLiteral("Hall 3"), path});
+    const QString path = u"/tmp/a b%20#é.ppd"_s;
+    session.setPrinter({u"Hall 3"_s, path});
     QCOMPARE(PMPrinterGetDescriptionURL(printer, key, &url), kPMKeyNotFound);
     QCOMPARE(PMPrinterGetDescriptionURL(printer, kPMPPDDescriptionType, &url), noErr);
     QCOMPARE(QUrl(url).toLocalFile(), path);
@@ -75,9 +76,9 @@ void TestTickets::readsAnEntryAsItsOwnTypeOnly()
     QCOMPARE(PMTicketGetCFNumber(ticket, key), std::optional<std::int64_t>(7));
     QVERIFY(!PMTicketGetCFString(ticket, key));
     QVERIFY(!PMTicketGetCFBoolean(ticket, key));
-    QCOMPARE(PMTicketSetCFString(ticket, kelvoClient, key, QStringLiteral("7")), noErr);
+    QCOMPARE(PMTicketSetCFString(ticket, kelvoClient, key, u"7"_s), noErr);
     QVERIFY(!PMTicketGetCFNumber(ticket, key));
-    QCOMPARE(PMTicketGetCFString(ticket, key), std::optional(QStringLiteral("7")));
+    QCOMPARE(PMTicketGetCFString(ticket, key), std::optional(u"7"_s));
 
     QCOMPARE(PMTicketSetCFNumber(ticket, kelvoClient, QString(), 7), paramErr);
     QCOMPARE(PMTicketSetCFNumber(0, kelvoClient, key, 7), kPMInvalidTicket);
@@ -101,16 +102,15 @@ void TestTickets::keepsLockedEntries()
 void TestTickets::survivesItsFile()
 {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("ticket.plist"));
+    const QString path = folder.filePath(u"ticket.plist"_s);
     PrintSession session;
     const PMTicketRef settings = session.printSettingsTicket();
     const PMTicketRef format = session.pageFormatTicket();
     PMTicketSetCFDictionary(settings, kelvoClient, key,
-                            {{QStringLiteral("name"), QString()}, {QStringLiteral("n"), qint64(1)}},
-                            true);
-    PMTicketSetCFReal(settings, QString(), QStringLiteral("whole"), 2.0);
-    PMTicketSetCFArray(format, QStringLiteral("host"), kPMPaperSizeKey, {595.0, 842.0});
-    PMTicketGetPPDDict(settings)->insert(QStringLiteral("Duplex"), QStringLiteral("None"));
+                            {{u"name"_s, QString()}, {u"n"_s, qint64(1)}}, true);
+    PMTicketSetCFReal(settings, QString(), u"whole"_s, 2.0);
+    PMTicketSetCFArray(format, u"host"_s, kPMPaperSizeKey, {595.0, 842.0});
+    PMTicketGetPPDDict(settings)->insert(u"Duplex"_s, u"None"_s);
 
     QVERIFY(writeTicketFile(path, ticketFileFrom(session)));
     const auto read = readTicketFile(path);
@@ -121,15 +121,14 @@ void TestTickets::survivesItsFile()
     session.printSettings().entries[key].locked = false; // locks are not stored
     QVERIFY(next.printSettings() == session.printSettings());
     QVERIFY(next.pageFormat() == session.pageFormat());
-    QCOMPARE(next.printSettings().entries[QStringLiteral("whole")].value.typeId(),
-             int(QMetaType::Double));
+    QCOMPARE(next.printSettings().entries[u"whole"_s].value.typeId(), int(QMetaType::Double));
 }
 
 void TestTickets::keepsWhatItDoesNotKnow()
 {
     Dictionary root = propertyListFrom(TicketFile());
-    root.insert(QStringLiteral("Comment"), QStringLiteral("by hand"));
-    const auto file = ticketFileFromPropertyList(root, QStringLiteral("a"));
+    root.insert(u"Comment"_s, u"by hand"_s);
+    const auto file = ticketFileFromPropertyList(root, u"a"_s);
     QVERIFY(file);
     QCOMPARE(propertyListFrom(file.value()), root);
 }
@@ -143,10 +142,10 @@ void TestTickets::refusesOtherLists_data()
     const auto row = [](const char *title, const char *name, const QVariant &value, Code code,
                         const char *where) {
         QTest::newRow(title) << QString::fromUtf8(name) << value << code
-                             << QStringLiteral("a.plist: ") + QString::fromUtf8(where);
+                             << u"a.plist: "_s + QString::fromUtf8(where);
     };
     const Dictionary nameless{{QString(), 1}};
-    const Dictionary number{{QStringLiteral("Duplex"), 1}};
+    const Dictionary number{{u"Duplex"_s, 1}};
     row("no version", "FormatVersion", {}, Code::Damaged, "FormatVersion");
     row("version as text", "FormatVersion", "1", Code::WrongType, "FormatVersion");
     row("version 0", "FormatVersion", 0, Code::Unsupported, "FormatVersion");
@@ -168,12 +167,11 @@ void TestTickets::refusesOtherLists()
     root.remove(name);
     if (value.isValid())
         root.insert(name, value);
-    const auto file = ticketFileFromPropertyList(root, QStringLiteral("a.plist"));
+    const auto file = ticketFileFromPropertyList(root, u"a.plist"_s);
     QVERIFY(!file);
     QCOMPARE(file.error().code, code);
     QCOMPARE(file.error().where, where);
-    QCOMPARE(ticketFileFromPropertyList(Array(), QStringLiteral("a")).error().code,
-             Code::WrongType);
+    QCOMPARE(ticketFileFromPropertyList(Array(), u"a"_s).error().code, Code::WrongType);
 }
 
 QTEST_GUILESS_MAIN(TestTickets)

@@ -6,6 +6,7 @@
 #include <limits>
 
 using namespace kelvo;
+using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(std::optional<std::int64_t>)
 Q_DECLARE_METATYPE(std::optional<std::int32_t>)
@@ -56,7 +57,7 @@ void TestValues::readsNumbersWithoutChangingThem_data()
     row("-2^63 real", std::ldexp(-1.0, 63), least, none, std::ldexp(-1.0, 63));
     row("infinity", std::numeric_limits<double>::infinity(), none, none,
         std::numeric_limits<double>::infinity());
-    row("text", QStringLiteral("12"), none, none, none);
+    row("text", u"12"_s, none, none, none);
     row("boolean", true, none, none, none);
     row("nothing", QVariant(), none, none, none);
 }
@@ -73,22 +74,21 @@ void TestValues::readsOtherTypesOnlyAsStored()
 {
     QCOMPARE(boolean(QVariant(false)), std::optional(false));
     QVERIFY(!boolean(QVariant(1)));
-    QCOMPARE(string(QVariant(QStringLiteral("a"))), std::optional(QStringLiteral("a")));
+    QCOMPARE(string(QVariant(u"a"_s)), std::optional(u"a"_s));
     QVERIFY(!string(QVariant(1)));
     QVERIFY(!string(QVariant(QByteArray("a"))));
-    QVERIFY(!data(QVariant(QStringLiteral("a"))));
+    QVERIFY(!data(QVariant(u"a"_s)));
     QVERIFY(!dictionary(QVariant(Array())));
-    QCOMPARE(array(QVariant(QStringList{QStringLiteral("a")})),
-             std::optional(Array{QStringLiteral("a")}));
-    QVERIFY(!array(QVariant(QStringLiteral("a"))));
+    QCOMPARE(array(QVariant(QStringList{u"a"_s})), std::optional(Array{u"a"_s}));
+    QVERIFY(!array(QVariant(u"a"_s)));
 }
 
 void TestValues::countsWrongEntriesAsMissing()
 {
-    const Dictionary in{{QStringLiteral("n"), QStringLiteral("12")}, {QStringLiteral("m"), 12}};
-    QVERIFY(!integer32(in, QStringLiteral("n")));
-    QVERIFY(!integer32(in, QStringLiteral("absent")));
-    QCOMPARE(integer32(in, QStringLiteral("m")), std::optional(12));
+    const Dictionary in{{u"n"_s, u"12"_s}, {u"m"_s, 12}};
+    QVERIFY(!integer32(in, u"n"_s));
+    QVERIFY(!integer32(in, u"absent"_s));
+    QCOMPARE(integer32(in, u"m"_s), std::optional(12));
 }
 
 QTEST_GUILESS_MAIN(TestValues)

@@ -1,0 +1,159 @@
+#include "cups_connection.h"
+
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <system_error>
+#include <thread>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+qint64 now()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+// How often a blocked call of libcups asks whether it should go on.
+constexpr double wakeUp = 0.2; // seconds
+
+int goOn(http_t *, void *patience)
+{
+    return static_cast<Patience *>(patience)->isOver() ? 0 : 1;
+}
+
+const char *noPassword(const char *, http_t *, const char *, const char *, void *)
+{
+    return nullptr;
+}
+
+QString howToFindTheServer()
+{
+    return QStringLiteral("check that it runs (lpstat -r), or name another one with CUPS_SERVER");
+}
+
+} // namespace
+
+Patience::Patience(int timeoutMs)
+    : m_timeoutMs(timeoutMs)
+    , m_lastProgress(now())
+{
+}
+
+void Patience::progress()
+{
+    m_lastProgress = now();
+}
+
+bool Patience::isTimedOut(int graceMs) const
+{
+    return now() - m_lastProgress >= m_timeoutMs + graceMs;
+}
+
+QString serverName()
+{
+    const QString server = QString::fromUtf8(cupsServer());
+    return server.startsWith(u'/') ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
+}
+
+Result<Connection> connectToServer(Patience &patience)
+{
+    // libcups keeps its settings by thread. Its own call back would ask on the
+    // terminal, and wait there.
+    cupsSetPasswordCB2(noPassword, nullptr);
+    errno = 0;
+    Connection http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                 patience.timeoutMs(), nullptr));
+    if (!http) {
+        const int reason = errno;
+        if (patience.isOver())
+            return serverError(patience, serverName());
+        return Error{Code::Unreachable, serverName(),
+                     QStringLiteral("there is no print server (%1); %2")
+                         .arg(reason ? QString::fromUtf8(std::strerror(reason))
+                                     : QString::fromUtf8(cupsLastErrorString()),
+                              howToFindTheServer())};
+    }
+    httpSetTimeout(http.get(), wakeUp, goOn, &patience);
+    patience.progress();
+    return http;
+}
+
+bool lastCallSucceeded()
+{
+    return cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;
+}
+
+Error timedOut(const Patience &patience, const QString &where)
+{
+    return {Code::TimedOut, where,
+            QStringLiteral("the print server at %1 did not answer for %2 s; %3")
+                .arg(serverName())
+                .arg(patience.timeoutMs() / 1000.0)
+                .arg(howToFindTheServer())};
+}
+
+Error serverError(const Patience &patience, const QString &where)
+{
+    if (patience.isStopped())
+        return {Code::Cancelled, where, QStringLiteral("cancelled")};
+    if (patience.isTimedOut())
+        return timedOut(patience, where);
+    const QString reason = QString::fromUtf8(cupsLastErrorString()).simplified();
+    switch (cupsLastError()) {
+    case IPP_STATUS_ERROR_NOT_FOUND:
+        return {Code::NotFound, where,
+                QStringLiteral("the print server at %1 has no such printer; lpstat -e lists those "
+                               "it has")
+                    .arg(serverName())};
+    case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
+    case IPP_STATUS_ERROR_INTERNAL:
+        return {Code::Unreachable, where,
+                QStringLiteral("the print server at %1 does not answer (%2); %3")
+                    .arg(serverName(), reason, howToFindTheServer())};
+    case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
+    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+        return {Code::Refused, where,
+                QStringLiteral("the print server at %1 asks for a password, which this program "
+                               "cannot give; ask its administrator to let you print")
+                    .arg(serverName())};
+    case IPP_STATUS_ERROR_FORBIDDEN:
+    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+        return {Code::Refused, where,
+                QStringLiteral("the print server at %1 does not let you use this printer; ask its "
+                               "administrator")
+                    .arg(serverName())};
+    default:
+        return {Code::Refused, where,
+                QStringLiteral("the print server at %1 said no: %2").arg(serverName(), reason)};
+    }
+}
+
+Result<QString> queueName(const QString &printer)
+{
+    const QString name = printer.section(u'/', 0, 0);
+    for (const QChar character : name) {
+        if (character.unicode() <= 0x20 || character.unicode() == 0x7f || character == u'#'
+            || character == u'?')
+            return Error{Code::NotFound, printer, QStringLiteral("no printer has such a name")};
+    }
+    if (name.isEmpty() || name.toUtf8().size() > 127)
+        return Error{Code::NotFound, printer, QStringLiteral("no printer has such a name")};
+    return name;
+}
+
+bool startDetached(std::function<void()> work)
+{
+    try {
+        std::thread(std::move(work)).detach();
+        return true;
+    } catch (const std::system_error &) {
+        return false;
+    }
+}
+
+} // namespace kelvo

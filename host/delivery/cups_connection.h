@@ -1,0 +1,98 @@
+#pragma once
+
+#include "result.h"
+
+#include <QString>
+
+#include <cups/cups.h>
+
+#include <atomic>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+
+// Talking to a print server that may never answer. Every call of libcups can
+// block; it runs on a thread that can be left to itself, and the thread ends by
+// itself as soon as libcups gives it back.
+namespace kelvo {
+
+// How long a conversation may go without progress. Shared by the thread that
+// talks and the one that waits for it.
+class Patience
+{
+public:
+    explicit Patience(int timeoutMs);
+
+    void progress(); // something came or went: the time begins anew
+    void stop() { m_isStopped = true; }
+
+    bool isStopped() const { return m_isStopped; }
+    bool isTimedOut(int graceMs = 0) const;
+    bool isOver() const { return isStopped() || isTimedOut(); }
+    int timeoutMs() const { return m_timeoutMs; }
+
+private:
+    const int m_timeoutMs;
+    std::atomic<qint64> m_lastProgress; // milliseconds of the steady clock
+    std::atomic_bool m_isStopped = false;
+};
+
+struct CloseConnection
+{
+    void operator()(http_t *http) const { httpClose(http); }
+};
+using Connection = std::unique_ptr<http_t, CloseConnection>;
+
+// Connects to the server of the environment (CUPS_SERVER, client.conf). What is
+// called on the connection fails within a quarter of a second once `patience`
+// is over; it is borrowed. This thread is never asked for a password then.
+Result<Connection> connectToServer(Patience &patience);
+
+// The server for messages: "localhost:631", or a socket's path.
+QString serverName();
+
+// Whether what libcups did last on this thread went well.
+bool lastCallSucceeded();
+// Why it did not; `where` as in Error.
+Error serverError(const Patience &patience, const QString &where);
+
+// The queue of "Hall-3/draft" is "Hall-3"; NotFound for what cannot be a name.
+Result<QString> queueName(const QString &printer);
+
+Error timedOut(const Patience &patience, const QString &where);
+
+// False when the system has no thread to give.
+bool startDetached(std::function<void()> work);
+
+// `work` on a thread of its own. While it runs, `isGivenUp` is asked every 20 ms;
+// once it says yes the thread is left to itself and nothing comes back.
+template <typename T>
+std::optional<T> runAside(std::function<T()> work, const std::function<bool()> &isGivenUp)
+{
+    struct State
+    {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::optional<T> result;
+    };
+    auto state = std::make_shared<State>();
+    const bool isStarted = startDetached([state, work = std::move(work)] {
+        T result = work();
+        const std::lock_guard lock(state->mutex);
+        state->result = std::move(result);
+        state->changed.notify_all();
+    });
+    if (!isStarted)
+        return std::nullopt;
+    std::unique_lock lock(state->mutex);
+    while (!state->changed.wait_for(lock, std::chrono::milliseconds(20),
+                                    [&] { return state->result.has_value(); })) {
+        if (isGivenUp())
+            return std::nullopt;
+    }
+    return std::move(state->result);
+}
+
+} // namespace kelvo

@@ -1,0 +1,378 @@
+#include "delivery.h"
+
+#include "cups_connection.h"
+#include "file_store.h"
+#include "job_options.h"
+#include "page_ranges.h"
+#include "ticket_attachment.h"
+
+#include <QCryptographicHash>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+std::optional<Error> secretProblem(const PreparedJob &job, const PpdFile *ppd)
+{
+    if (readsTickets(ppd) || (!job.hasPasscode && !job.isFax))
+        return std::nullopt;
+    return Error{
+        Code::Refused, QStringLiteral("kelvo-ticket"),
+        QStringLiteral("the printer's PPD does not say that it reads tickets "
+                       "(*KelvoTicket: \"1\"): %1; print without it, or have the queue set "
+                       "up with the device's own PPD")
+            .arg(job.hasPasscode
+                     ? QStringLiteral("a job with a passcode would lie open in the tray")
+                     : QStringLiteral("a fax would be printed instead of sent"))};
+}
+
+Result<Document> pagesToPrint(const Document &document, const QString &pageRanges)
+{
+    if (document.isNull())
+        return Error{Code::NotFound, QStringLiteral("document"),
+                     QStringLiteral("there is nothing to print")};
+    if (pageRanges.trimmed().isEmpty())
+        return document;
+    const auto runs = pageRunsFrom(pageRanges, document.pageCount());
+    if (!runs)
+        return runs.error();
+    return document.withPages(runs.value());
+}
+
+// The PDF that goes out: with the ticket where the device reads it, and without
+// any older one, which could tell an older passcode.
+Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job)
+{
+    if (!withTicket) {
+        const auto holdsOne = holdsTicket(document.pdfPath());
+        if (!holdsOne)
+            return holdsOne.error();
+        if (!holdsOne.value()) {
+            job.pdfPath = document.pdfPath();
+            job.pdfOwner = std::make_shared<Document>(document);
+            return {};
+        }
+    }
+    auto folder = std::make_shared<QTemporaryDir>(); // 0700
+    if (!folder->isValid())
+        return Error{Code::NotWritable, folder->path(), folder->errorString()};
+    job.pdfPath = folder->filePath(QStringLiteral("document.pdf"));
+    job.pdfOwner = folder;
+    return replaceTicket(document.pdfPath(), withTicket ? job.ticket : QByteArray(), job.pdfPath);
+}
+
+} // namespace
+
+Result<PreparedJob> prepareJob(const JobRequest &request)
+{
+    PreparedJob job;
+    job.hasPasscode = holdsSecret(request.ticket, request.secretKeys);
+    job.isFax = isFax(request.ticket, request.secretKeys);
+    if (const auto problem = secretProblem(job, request.ppd))
+        return *problem;
+    auto options = jobOptions(request.ticket, request.settings, request.ppd, request.queueDefaults);
+    if (!options)
+        return options.error();
+    const auto document = pagesToPrint(request.document, request.settings.pageRanges);
+    if (!document)
+        return document.error();
+    auto ticket = ticketForJob(request.ticket);
+    if (!ticket)
+        return ticket.error();
+
+    job.options = std::move(options.value().options);
+    job.notSent = std::move(options.value().notSent);
+    job.ticket = std::move(ticket).value();
+    job.ticketSha256 = QCryptographicHash::hash(job.ticket, QCryptographicHash::Sha256);
+    const bool withTicket = readsTickets(request.ppd);
+    if (withTicket)
+        job.options.push_back(ticketOption(job.ticketSha256, job.hasPasscode, job.isFax));
+    if (auto made = makePdf(document.value(), withTicket, job); !made)
+        return made.error();
+    return job;
+}
+
+Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
+{
+    if (::mkdir(QFile::encodeName(folder).constData(), 0700) != 0 && errno != EEXIST)
+        return Error{Code::NotWritable, folder,
+                     QStringLiteral("the folder cannot be made: %1")
+                         .arg(QString::fromUtf8(std::strerror(errno)))};
+    QByteArray options;
+    for (const JobOption &option : job.options)
+        options += (option.name + u'=' + option.value + u'\n').toUtf8();
+    const auto in = [&folder](const char *name) { return folder + u'/' + QLatin1String(name); };
+    // The largest first: a disk that is full says so before anything changed.
+    if (auto written = replaceFileByCopy(in("document.pdf"), job.pdfPath); !written)
+        return written;
+    if (auto written = replaceFile(in("ticket.plist"), job.ticket); !written)
+        return written;
+    return replaceFile(in("options"), options);
+}
+
+namespace {
+
+// One job on its way, shared by the caller and the thread that sends it.
+struct Sending
+{
+    Sending(const PreparedJob &prepared, QString printer, QString jobTitle, int timeoutMs)
+        : job(prepared)
+        , queue(std::move(printer))
+        , title(std::move(jobTitle))
+        , patience(timeoutMs)
+    {
+    }
+
+    const PreparedJob job; // keeps the PDF while the thread reads it
+    const QString queue;
+    const QString title;
+    Patience patience;
+    std::atomic<int> jobId = 0; // 0 until the server has given one
+
+    // Only from Open a job can be stopped, and only an Open one can be completed.
+    enum class Phase { Open, Stopped, Complete, Refused };
+    std::atomic<Phase> phase = Phase::Open;
+    bool leaveOpenFor(Phase next)
+    {
+        Phase open = Phase::Open;
+        return phase.compare_exchange_strong(open, next);
+    }
+};
+
+QString jobName(const Sending &sending)
+{
+    return QStringLiteral("%1-%2").arg(sending.queue).arg(sending.jobId.load());
+}
+
+// What must be said where the whole document went and no answer came.
+Error perhapsAccepted(const Sending &sending, Code code, const QString &reason)
+{
+    return {code, sending.queue,
+            QStringLiteral("the whole document was sent as %1, but %2. The job may have been "
+                           "accepted: look with \"lpstat -W all -o %3\" before you print it again")
+                .arg(jobName(sending), reason, sending.queue)};
+}
+
+Error noAnswer(const Sending &sending)
+{
+    const QString reason = QStringLiteral("the print server at %1 did not answer for %2 s")
+                               .arg(serverName())
+                               .arg(sending.patience.timeoutMs() / 1000.0);
+    if (sending.phase == Sending::Phase::Complete)
+        return perhapsAccepted(sending, Code::TimedOut, reason);
+    Error error = timedOut(sending.patience, sending.queue);
+    error.detail += QStringLiteral("; nothing was printed");
+    return error;
+}
+
+struct FreeMessage
+{
+    void operator()(ipp_t *message) const { ippDelete(message); }
+};
+using Message = std::unique_ptr<ipp_t, FreeMessage>;
+
+// A request for the queue. libcups frees what it sends.
+ipp_t *newRequest(ipp_op_t operation, const Sending &sending)
+{
+    ipp_t *request = ippNewRequest(operation);
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", sending.queue.toUtf8().constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    if (sending.jobId > 0)
+        ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", sending.jobId);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    return request;
+}
+
+QByteArray resourceOf(const Sending &sending)
+{
+    return "/printers/" + sending.queue.toUtf8();
+}
+
+// One line, within the 255 bytes of an IPP name.
+QByteArray ippName(const QString &title)
+{
+    QString name = title.simplified();
+    while (name.toUtf8().size() > 255)
+        name.chop(name.size() > 1 && name.back().isLowSurrogate() ? 2 : 1);
+    return name.toUtf8();
+}
+
+void addOption(ipp_t *request, const JobOption &option)
+{
+    const QByteArray name = option.name.toUtf8();
+    const QByteArray value = option.value.toUtf8();
+    // libcups would make a boolean of it, which reaches a filter as NAME or
+    // noNAME, and not as the PPD's choice.
+    const bool isFlag = value.compare("true", Qt::CaseInsensitive) == 0
+        || value.compare("false", Qt::CaseInsensitive) == 0;
+    if (isFlag)
+        ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.constData(), nullptr,
+                     value.constData());
+    else
+        cupsEncodeOption(request, IPP_TAG_JOB, name.constData(), value.constData());
+}
+
+// A secret goes over the network only through TLS.
+Result<void> secureFor(const Sending &sending, http_t *http)
+{
+    if (!sending.job.hasPasscode || httpAddrLocalhost(httpGetAddress(http))
+        || httpIsEncrypted(http))
+        return {};
+    if (httpEncryption(http, HTTP_ENCRYPTION_REQUIRED) == 0 && httpIsEncrypted(http))
+        return {};
+    if (sending.patience.isOver())
+        return serverError(sending.patience, sending.queue);
+    return Error{Code::Refused, sending.queue,
+                 QStringLiteral("the job holds a passcode, and the print server at %1 does not "
+                                "offer an encrypted connection (TLS); nothing was sent. Have it "
+                                "switched on, or print without the passcode")
+                     .arg(serverName())};
+}
+
+Result<void> createJob(Sending &sending, http_t *http)
+{
+    ipp_t *request = newRequest(IPP_OP_CREATE_JOB, sending);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                 ippName(sending.title).constData());
+    for (const JobOption &option : sending.job.options)
+        addOption(request, option);
+    const Message response(cupsDoRequest(http, request, resourceOf(sending).constData()));
+    ipp_attribute_t *id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
+    if (!lastCallSucceeded() || !id)
+        return serverError(sending.patience, sending.queue);
+    sending.jobId = ippGetInteger(id, 0);
+    sending.patience.progress();
+    return {};
+}
+
+// The document's bytes into the request that `http` has begun.
+Result<void> writeDocument(Sending &sending, http_t *http)
+{
+    QFile pdf(sending.job.pdfPath);
+    if (!pdf.open(QIODevice::ReadOnly))
+        return Error{Code::NotReadable, sending.job.pdfPath, pdf.errorString()};
+    std::array<char, 65536> block;
+    while (!pdf.atEnd()) {
+        const qint64 count = pdf.read(block.data(), static_cast<qint64>(block.size()));
+        if (count < 0)
+            return Error{Code::NotReadable, sending.job.pdfPath, pdf.errorString()};
+        if (sending.patience.isOver()
+            || cupsWriteRequestData(http, block.data(), static_cast<std::size_t>(count))
+                != HTTP_STATUS_CONTINUE)
+            return serverError(sending.patience, sending.queue);
+        sending.patience.progress();
+    }
+    return {};
+}
+
+Result<void> sendDocument(Sending &sending, http_t *http)
+{
+    const Message request(newRequest(IPP_OP_SEND_DOCUMENT, sending));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                 ippName(sending.title).constData());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 "application/pdf");
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
+    const QByteArray resource = resourceOf(sending);
+    if (cupsSendRequest(http, request.get(), resource.constData(), CUPS_LENGTH_VARIABLE)
+        != HTTP_STATUS_CONTINUE)
+        return serverError(sending.patience, sending.queue);
+    if (auto written = writeDocument(sending, http); !written)
+        return written;
+
+    // From here on the server may print, whatever is heard of it.
+    if (!sending.leaveOpenFor(Sending::Phase::Complete))
+        return serverError(sending.patience, sending.queue);
+    const Message response(cupsGetResponse(http, resource.constData()));
+    if (response && lastCallSucceeded())
+        return {};
+    if (response || httpGetStatus(http) >= HTTP_STATUS_BAD_REQUEST) {
+        sending.phase = Sending::Phase::Refused;
+        return serverError(sending.patience, sending.queue);
+    }
+    if (sending.patience.isTimedOut())
+        return noAnswer(sending);
+    return perhapsAccepted(
+        sending, Code::Unreachable,
+        QStringLiteral("the print server at %1 broke off before it answered").arg(serverName()));
+}
+
+// Takes a half-sent job off the server. The words say what is left to do.
+QString cancelJob(const Sending &sending)
+{
+    constexpr int enough = 5000; // milliseconds; it is only courtesy
+    Patience patience(enough);
+    if (const auto http = connectToServer(patience)) {
+        const QByteArray queue = sending.queue.toUtf8();
+        if (cupsCancelJob2(http.value().get(), queue.constData(), sending.jobId, 0)
+            < IPP_STATUS_REDIRECTION_OTHER_SITE)
+            return QStringLiteral("; nothing was printed");
+    }
+    return QStringLiteral("; the job could not be taken back: cancel it with \"cancel %1\"")
+        .arg(jobName(sending));
+}
+
+// All that talks to the server, on a thread of its own.
+Result<DeliveredJob> send(Sending &sending)
+{
+    const auto http = connectToServer(sending.patience);
+    if (!http)
+        return http.error();
+    if (auto secured = secureFor(sending, http.value().get()); !secured)
+        return secured.error();
+    if (auto created = createJob(sending, http.value().get()); !created)
+        return created.error();
+    if (auto sent = sendDocument(sending, http.value().get()); !sent) {
+        Error error = sent.error();
+        if (sending.phase != Sending::Phase::Complete)
+            error.detail += cancelJob(sending);
+        return error;
+    }
+    return DeliveredJob{jobName(sending)};
+}
+
+} // namespace
+
+Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue,
+                                    const QString &title, int timeoutMs,
+                                    const std::atomic_bool &cancelled)
+{
+    const auto name = queueName(queue);
+    if (!name)
+        return name.error();
+    const auto sending = std::make_shared<Sending>(job, name.value(), title, timeoutMs);
+    // Time for the thread to see it itself, and to take a half-sent job back.
+    const auto graceMs = [&] { return sending->jobId > 0 ? 6000 : 1000; };
+    QElapsedTimer sinceStop;
+    const auto isGivenUp = [&] {
+        if (cancelled && sending->leaveOpenFor(Sending::Phase::Stopped)) {
+            sending->patience.stop();
+            sinceStop.start();
+        }
+        return sinceStop.isValid() ? sinceStop.hasExpired(graceMs())
+                                   : sending->patience.isTimedOut(graceMs());
+    };
+    if (auto result =
+            runAside<Result<DeliveredJob>>([sending] { return send(*sending); }, isGivenUp))
+        return *result;
+    const Error error =
+        sinceStop.isValid() ? serverError(sending->patience, sending->queue) : noAnswer(*sending);
+    sending->patience.stop();
+    return error;
+}
+
+} // namespace kelvo

@@ -1,0 +1,250 @@
+#include "job_options.h"
+
+#include "ppd_words.h"
+#include "size_limits.h"
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+// Why `option` cannot be sent; empty when it can. Options reach a filter as one
+// line of text, and a few names mean something on the way there.
+QString problemOf(const JobOption &option)
+{
+    static const QString dangerous = QStringLiteral(",'\"`\\{}");
+    const auto isPlain = [](QChar character) {
+        return character.unicode() > 0x20 && character.unicode() < 0x7f
+            && !dangerous.contains(character);
+    };
+    if (!std::all_of(option.name.begin(), option.name.end(), isPlain) || option.name.contains(u'=')
+        || option.name.isEmpty() || !std::all_of(option.value.begin(), option.value.end(), isPlain)
+        || option.value.isEmpty())
+        return QStringLiteral("blanks, commas, quotes and special characters cannot be sent");
+    if (option.value.size() > limits::optionValueBytes)
+        return QStringLiteral("it is longer than %1 characters").arg(limits::optionValueBytes);
+    if (option.name.startsWith(QLatin1String("job-"), Qt::CaseInsensitive))
+        return QStringLiteral("the print server drops options of that name");
+    if (option.name.compare(QLatin1String("booklet"), Qt::CaseInsensitive) == 0)
+        return QStringLiteral("the print server would make a booklet of its own");
+    return {};
+}
+
+QString sidesFor(const QString &choice)
+{
+    static const QMap<QString, QString> words{
+        {QStringLiteral("None"), QStringLiteral("one-sided")},
+        {QStringLiteral("DuplexNoTumble"), QStringLiteral("two-sided-long-edge")},
+        {QStringLiteral("DuplexTumble"), QStringLiteral("two-sided-short-edge")},
+    };
+    return words.value(choice);
+}
+
+QString itself(const QString &choice)
+{
+    return choice;
+}
+
+// "FaceUp" as "face-up": how the print server calls a PPD's output bins.
+QString dashed(const QString &choice)
+{
+    QString word;
+    for (qsizetype i = 0; i < choice.size(); ++i) {
+        if (i > 0 && choice[i].isUpper() && choice[i - 1].isLower())
+            word += u'-';
+        word += choice[i] == u'_' ? QChar(u'-') : choice[i].toLower();
+    }
+    return word;
+}
+
+// The print server's own name for what a PPD option says. Where the queue has a
+// default under that name, both must agree.
+struct TwinRow
+{
+    const char *option;
+    const char *twin;
+    QString (*value)(const QString &choice);
+};
+constexpr TwinRow twinRows[] = {
+    {"Duplex", "sides", sidesFor},
+    {"PageSize", "media", itself},
+    {"OutputBin", "output-bin", dashed},
+};
+
+// What filters would do to pages that we have laid out, and how to say no.
+struct NeutralRow
+{
+    const char *name;
+    const char *value;
+};
+constexpr NeutralRow neutralRows[] = {
+    {"number-up", "1"},
+    {"page-set", "all"},
+};
+
+const char *orientationRequested(Orientation orientation)
+{
+    switch (orientation) {
+    case Orientation::Portrait:
+        return "3";
+    case Orientation::Landscape:
+        return "4";
+    case Orientation::ReverseLandscape:
+        return "5";
+    case Orientation::ReversePortrait:
+        return "6";
+    }
+    return "3";
+}
+
+// Collects options, each name once: the first one stands.
+class OptionList
+{
+public:
+    bool contains(const QString &name) const
+    {
+        return std::any_of(m_options.begin(), m_options.end(), [&](const JobOption &option) {
+            return option.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    }
+    void add(const QString &name, const QString &value)
+    {
+        if (!contains(name))
+            m_options.push_back({name, value});
+    }
+    std::vector<JobOption> take() { return std::move(m_options); }
+    const std::vector<JobOption> &options() const { return m_options; }
+
+private:
+    std::vector<JobOption> m_options;
+};
+
+QString collateWord(const JobSettings &settings)
+{
+    return settings.collate ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+// The ticket's choices with the paper of the settings: what the PPD is asked for.
+PPDDictionary wantedChoices(const TicketFile &ticket, const JobSettings &settings)
+{
+    PPDDictionary wanted = ticket.printSettings.ppdChoices;
+    const QString pageSize = QStringLiteral("PageSize");
+    if (!wanted.contains(pageSize) && !settings.paperName.isEmpty())
+        wanted.insert(pageSize, settings.paperName);
+    // The same paper, as it is fed by hand: whichever comes last would win.
+    if (wanted.contains(pageSize))
+        wanted.remove(QStringLiteral("PageRegion"));
+    // Some PPDs have the host's own setting among their options.
+    const QString collate = QStringLiteral("Collate");
+    if (wanted.contains(collate))
+        wanted.insert(collate, collateWord(settings));
+    return wanted;
+}
+
+void addPpdChoices(const PPDDictionary &wanted, const PpdFile &ppd, OptionList &options,
+                   QStringList &notSent)
+{
+    for (const PpdGroup &group : ppd.groups()) {
+        for (const PpdOption &option : group.options) {
+            const auto choice = wanted.constFind(option.keyword);
+            if (choice != wanted.constEnd() && offers(ppd, option.keyword, *choice))
+                options.add(option.keyword, *choice);
+        }
+    }
+    for (auto choice = wanted.cbegin(); choice != wanted.cend(); ++choice) {
+        if (!options.contains(choice.key()))
+            notSent << choice.key() + u'=' + choice.value();
+    }
+}
+
+void addHostOptions(const JobSettings &settings, const PpdFile *ppd,
+                    const QMap<QString, QString> &queueDefaults, OptionList &options)
+{
+    const auto isDefaulted = [&](const char *name) {
+        return queueDefaults.contains(QLatin1String(name));
+    };
+    options.add(QStringLiteral("copies"), QString::number(settings.copies));
+    if (settings.copies > 1 || isDefaulted("multiple-document-handling"))
+        options.add(QStringLiteral("multiple-document-handling"),
+                    settings.collate ? QStringLiteral("separate-documents-collated-copies")
+                                     : QStringLiteral("separate-documents-uncollated-copies"));
+    if (settings.copies > 1 || isDefaulted("Collate"))
+        options.add(QStringLiteral("Collate"), collateWord(settings));
+    // A device that reads tickets finds the orientation there, and its pages
+    // are not to be turned before.
+    const bool turnsPages = !readsTickets(ppd) && settings.orientation != Orientation::Portrait;
+    if (turnsPages || isDefaulted("orientation-requested"))
+        options.add(QStringLiteral("orientation-requested"),
+                    QLatin1String(orientationRequested(turnsPages ? settings.orientation
+                                                                  : Orientation::Portrait)));
+}
+
+void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDefaults, bool hasPpd,
+              OptionList &options)
+{
+    for (const TwinRow &row : twinRows) {
+        const QString option = QLatin1String(row.option);
+        const QString twin = QLatin1String(row.twin);
+        // Without a PPD the server's name is the only one.
+        const bool isSent =
+            options.contains(option) || (!hasPpd && option == QLatin1String("PageSize"));
+        const QString value = isSent ? row.value(wanted.value(option)) : QString();
+        if (!value.isEmpty() && (!hasPpd || queueDefaults.contains(twin)))
+            options.add(twin, value);
+    }
+    for (const NeutralRow &row : neutralRows) {
+        if (queueDefaults.contains(QLatin1String(row.name)))
+            options.add(QLatin1String(row.name), QLatin1String(row.value));
+    }
+}
+
+} // namespace
+
+Result<JobOptions> jobOptions(const TicketFile &ticket, const JobSettings &settings,
+                              const PpdFile *ppd, const QMap<QString, QString> &queueDefaults)
+{
+    const PPDDictionary wanted = wantedChoices(ticket, settings);
+    OptionList options;
+    JobOptions result;
+    if (ppd) {
+        addPpdChoices(wanted, *ppd, options, result.notSent);
+    } else {
+        for (auto choice = ticket.printSettings.ppdChoices.cbegin();
+             choice != ticket.printSettings.ppdChoices.cend(); ++choice)
+            result.notSent << choice.key() + u'=' + choice.value();
+    }
+    addHostOptions(settings, ppd, queueDefaults, options);
+    addTwins(wanted, queueDefaults, ppd != nullptr, options);
+    for (const JobOption &option : options.options()) {
+        if (const QString problem = problemOf(option); !problem.isEmpty())
+            return Error{Code::Refused, option.name + u'=' + option.value,
+                         QStringLiteral("this setting cannot be sent to a print server: %1; choose "
+                                        "another")
+                             .arg(problem)};
+    }
+    result.options = options.take();
+    return result;
+}
+
+JobOption ticketOption(const QByteArray &sha256, bool hasPasscode, bool isFax)
+{
+    QStringList flags;
+    if (hasPasscode)
+        flags << QStringLiteral("passcode");
+    if (isFax)
+        flags << QStringLiteral("fax");
+    if (flags.isEmpty())
+        flags << QStringLiteral("none");
+    return {QStringLiteral("kelvo-ticket"),
+            QStringLiteral("1:%1:%2").arg(QString::fromLatin1(sha256.toHex()), flags.join(u'+'))};
+}
+
+bool readsTickets(const PpdFile *ppd)
+{
+    return ppd && ppd->attribute("KelvoTicket") == QStringLiteral("1");
+}
+
+} // namespace kelvo

@@ -1,0 +1,291 @@
+#include "printers.h"
+
+#include "cups_connection.h"
+#include "file_store.h"
+#include "size_limits.h"
+
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <vector>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+// Attributes of the queue that libcups lists among its options.
+bool isDescription(const QString &name)
+{
+    static const char *const prefixes[] = {"printer-", "marker-",    "job-",
+                                           "notify-",  "auth-info-", "device-uri"};
+    return std::any_of(std::begin(prefixes), std::end(prefixes),
+                       [&](const char *prefix) { return name.startsWith(QLatin1String(prefix)); });
+}
+
+Printer printerFrom(const cups_dest_t &destination)
+{
+    QMap<QString, QString> options;
+    for (int i = 0; i < destination.num_options; ++i)
+        options.insert(QString::fromUtf8(destination.options[i].name),
+                       QString::fromUtf8(destination.options[i].value));
+    const auto option = [&options](const char *name) {
+        return options.value(QLatin1String(name)).simplified();
+    };
+
+    Printer printer;
+    printer.name = QString::fromUtf8(destination.name);
+    if (destination.instance)
+        printer.name += u'/' + QString::fromUtf8(destination.instance);
+    printer.info = option("printer-info");
+    printer.location = option("printer-location");
+    printer.makeAndModel = option("printer-make-and-model");
+    switch (option("printer-state").toInt()) {
+    case IPP_PSTATE_PROCESSING:
+        printer.state = Printer::State::Busy;
+        break;
+    case IPP_PSTATE_STOPPED:
+        printer.state = Printer::State::Stopped;
+        break;
+    default:
+        break;
+    }
+    printer.acceptsJobs = option("printer-is-accepting-jobs") != QLatin1String("false");
+    const QString reasons = option("printer-state-reasons");
+    if (reasons != QLatin1String("none"))
+        printer.stateMessage = QString(reasons).replace(u',', QStringLiteral(", "));
+    printer.isDefault = destination.is_default != 0;
+    for (auto value = options.cbegin(); value != options.cend(); ++value) {
+        if (!isDescription(value.key()))
+            printer.defaults.insert(value.key(), value.value());
+    }
+    return printer;
+}
+
+Result<QList<Printer>> readPrinters(Patience &patience)
+{
+    const auto http = connectToServer(patience);
+    if (!http)
+        return http.error();
+    cups_dest_t *destinations = nullptr;
+    const int count = cupsGetDests2(http.value().get(), &destinations);
+    const bool isKnown = lastCallSucceeded() || cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND;
+    if (count == 0 && (!isKnown || patience.isOver()))
+        return serverError(patience, serverName());
+
+    QList<Printer> printers;
+    for (int i = 0; i < count; ++i) {
+        // A printer that only announces itself on the network has no queue yet.
+        if (cupsGetOption("printer-uri-supported", destinations[i].num_options,
+                          destinations[i].options))
+            printers << printerFrom(destinations[i]);
+    }
+    cupsFreeDests(count, destinations);
+    std::stable_partition(printers.begin(), printers.end(),
+                          [](const Printer &printer) { return printer.isDefault; });
+    return printers;
+}
+
+struct FreeMessage
+{
+    void operator()(ipp_t *message) const { ippDelete(message); }
+};
+
+// The first printer of a class; empty for anything that is no class.
+QString firstMember(http_t *http, const QString &queue)
+{
+    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.toUtf8().constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "member-names");
+    const std::unique_ptr<ipp_t, FreeMessage> response(cupsDoRequest(http, request, "/"));
+    ipp_attribute_t *members = ippFindAttribute(response.get(), "member-names", IPP_TAG_NAME);
+    return members ? QString::fromUtf8(ippGetString(members, 0, nullptr)) : QString();
+}
+
+// The file at `resource` of the server; NotFound when there is none.
+Result<QByteArray> readResource(http_t *http, const QString &resource, const QString &where,
+                                Patience &patience)
+{
+    httpClearFields(http);
+    if (httpGet(http, resource.toUtf8().constData()) != 0)
+        return serverError(patience, where);
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE && !patience.isOver())
+        status = httpUpdate(http);
+    if (patience.isOver())
+        return serverError(patience, where);
+    if (status == HTTP_STATUS_NOT_FOUND) {
+        httpFlush(http);
+        return Error{Code::NotFound, where,
+                     QStringLiteral("the print server has no PPD for it: it prints with common "
+                                    "settings only")};
+    }
+    if (status != HTTP_STATUS_OK)
+        return Error{status == HTTP_STATUS_ERROR ? Code::Unreachable : Code::Refused, where,
+                     QStringLiteral("the print server at %1 does not give its PPD: %2")
+                         .arg(serverName(), QString::fromUtf8(httpStatus(status)))};
+    QByteArray bytes;
+    char block[32768];
+    ssize_t count = 0;
+    while ((count = httpRead2(http, block, sizeof block)) > 0) {
+        patience.progress();
+        bytes.append(block, count);
+        if (bytes.size() > limits::ppdBytes)
+            return Error{Code::TooLarge, where,
+                         QStringLiteral("its PPD has more than %1 bytes").arg(limits::ppdBytes)};
+    }
+    // A body that ends early is no PPD, whatever there is of it.
+    if (count < 0 || httpGetState(http) == HTTP_STATE_GET_SEND || patience.isOver())
+        return patience.isOver() ? serverError(patience, where)
+                                 : Error{Code::Unreachable, where,
+                                         QStringLiteral("the print server at %1 broke off while it "
+                                                        "sent the PPD; try again")
+                                             .arg(serverName())};
+    return bytes;
+}
+
+Result<QByteArray> readPpd(const QString &printer, Patience &patience)
+{
+    const auto queue = queueName(printer);
+    if (!queue)
+        return queue.error();
+    const auto http = connectToServer(patience);
+    if (!http)
+        return http.error();
+    const auto resource = [](const QString &name) {
+        return QStringLiteral("/printers/%1.ppd").arg(name);
+    };
+    auto ppd = readResource(http.value().get(), resource(queue.value()), printer, patience);
+    if (ppd || ppd.error().code != Code::NotFound)
+        return ppd;
+    const QString member = firstMember(http.value().get(), queue.value());
+    if (member.isEmpty() || !queueName(member))
+        return ppd;
+    return readResource(http.value().get(), resource(member), printer, patience);
+}
+
+} // namespace
+
+// Shared with the threads that talk to the server; the directory may go first.
+struct PrinterDirectory::Private
+{
+    std::mutex mutex;
+    PrinterDirectory *owner = nullptr; // null once it is gone
+    QTemporaryDir folder;              // 0700
+    int ppdCount = 0;
+    std::vector<std::weak_ptr<Patience>> conversations;
+
+    // `call` on the owner's thread, if there is an owner then.
+    void post(std::function<void(PrinterDirectory *)> call)
+    {
+        const std::lock_guard lock(mutex);
+        if (PrinterDirectory *target = owner)
+            QMetaObject::invokeMethod(
+                target, [target, call = std::move(call)] { call(target); }, Qt::QueuedConnection);
+    }
+
+    QString newPpdPath()
+    {
+        const std::lock_guard lock(mutex);
+        return folder.filePath(QStringLiteral("%1.ppd").arg(++ppdCount));
+    }
+
+    // `work` aside; `answer` gets its result, or what became of it, once.
+    template <typename T>
+    static void ask(const std::shared_ptr<Private> &d, int timeoutMs,
+                    std::function<Result<T>(Patience &)> work, std::function<QString()> where,
+                    std::function<void(PrinterDirectory *, const Result<T> &)> answer)
+    {
+        auto patience = std::make_shared<Patience>(timeoutMs);
+        auto isAnswered = std::make_shared<bool>(false); // of the owner's thread
+        const auto answerOnce = [isAnswered, answer](PrinterDirectory *owner,
+                                                     const Result<T> &result) {
+            if (!std::exchange(*isAnswered, true))
+                answer(owner, result);
+        };
+        std::erase_if(d->conversations, [](const auto &one) { return one.expired(); });
+        d->conversations.push_back(patience);
+        const bool isStarted = startDetached([d, patience, work, answerOnce] {
+            d->post([result = work(*patience), answerOnce](PrinterDirectory *owner) {
+                answerOnce(owner, result);
+            });
+        });
+        QTimer::singleShot(isStarted ? timeoutMs : 0, d->owner,
+                           [owner = d->owner, patience, where, answerOnce] {
+                               answerOnce(owner, timedOut(*patience, where()));
+                               patience->stop();
+                           });
+    }
+};
+
+PrinterDirectory::PrinterDirectory(QObject *parent)
+    : QObject(parent)
+    , d(std::make_shared<Private>())
+{
+    d->owner = this;
+}
+
+PrinterDirectory::~PrinterDirectory()
+{
+    const std::lock_guard lock(d->mutex);
+    d->owner = nullptr;
+    for (const auto &conversation : d->conversations) {
+        if (const auto patience = conversation.lock())
+            patience->stop();
+    }
+    d->folder.remove();
+}
+
+void PrinterDirectory::refresh(int timeoutMs)
+{
+    Private::ask<QList<Printer>>(
+        d, timeoutMs, readPrinters, serverName,
+        [](PrinterDirectory *self, const Result<QList<Printer>> &printers) {
+            if (printers)
+                emit self->printersFound(printers.value());
+            else
+                emit self->printersFailed(printers.error());
+        });
+}
+
+void PrinterDirectory::fetchPpd(const QString &printer, int timeoutMs)
+{
+    Private::ask<QString>(
+        d, timeoutMs,
+        [printer, shared = d](Patience &patience) -> Result<QString> {
+            const auto bytes = readPpd(printer, patience);
+            if (!bytes)
+                return bytes.error();
+            const QString path = shared->newPpdPath();
+            if (auto written = replaceFile(path, bytes.value()); !written)
+                return written.error();
+            return path;
+        },
+        [printer] { return printer; },
+        [printer](PrinterDirectory *self, const Result<QString> &path) {
+            if (path)
+                emit self->ppdFetched(printer, path.value());
+            else
+                emit self->ppdFailed(printer, path.error());
+        });
+}
+
+Result<QList<Printer>> listPrinters(int timeoutMs)
+{
+    const auto patience = std::make_shared<Patience>(timeoutMs);
+    auto printers =
+        runAside<Result<QList<Printer>>>([patience] { return readPrinters(*patience); },
+                                         [patience] { return patience->isTimedOut(500); });
+    if (printers)
+        return *printers;
+    patience->stop();
+    return timedOut(*patience, serverName());
+}
+
+} // namespace kelvo

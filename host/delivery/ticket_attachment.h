@@ -1,0 +1,30 @@
+#pragma once
+
+#include "result.h"
+#include "ticket_file.h"
+
+#include <QByteArray>
+#include <QString>
+
+// The ticket inside the PDF. Devices look for the embedded file of this name.
+namespace kelvo {
+
+inline const QString kTicketAttachmentName = QStringLiteral("kelvo-ticket.plist");
+
+// 16 random bytes in the ticket file's root: without them a short passcode could
+// be found by trying all of them against the hash, which everybody may read.
+inline const QString kTicketNonceKey = QStringLiteral("com.kelvo.print.TicketNonce");
+
+// The ticket as the attachment holds it: a ticket file with a nonce of its own,
+// and without page ranges, which have been cut already.
+Result<QByteArray> ticketForJob(const TicketFile &ticket);
+
+// Whether the PDF at `path` has an embedded file of that name.
+Result<bool> holdsTicket(const QString &path);
+
+// A new PDF, 0600, at `target`: the one at `source` with `ticket` as its only
+// embedded file of that name; with a null `ticket` it has none. Damaged for what
+// libqpdf cannot read, NotWritable for a full disk.
+Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target);
+
+} // namespace kelvo
