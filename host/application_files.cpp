@@ -22,8 +22,8 @@ Result<Bundle *> openPanelBundle()
 
 QString findSharedFile(const QString &name)
 {
-    const QString path
-        = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/kelvo-print/") + name;
+    const QString path =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/kelvo-print/") + name;
     return QFileInfo::exists(path) ? QFileInfo(path).canonicalFilePath() : QString();
 }
 

@@ -24,8 +24,7 @@ Error refused(const QString &where, const QString &detail)
 std::optional<int> wholeNumber(const QString &text, int minimum, int maximum)
 {
     const bool isPlain = !text.isEmpty() && text.size() <= 9
-        && std::all_of(text.cbegin(), text.cend(),
-                       [](QChar c) { return c >= u'0' && c <= u'9'; });
+        && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!isPlain)
         return std::nullopt;
     const int number = text.toInt();
@@ -109,8 +108,8 @@ Result<void> takePages(CommandLine &line, const QString &value, const QString &w
     // How many pages there are is known later; the form is known now.
     const auto runs = pageRunsFrom(value, std::numeric_limits<int>::max());
     if (value.trimmed().isEmpty() || !runs)
-        return refused(where, QStringLiteral("\"%1\" is not a list of pages such as 1-3,7,9-")
-                                  .arg(value));
+        return refused(where,
+                       QStringLiteral("\"%1\" is not a list of pages such as 1-3,7,9-").arg(value));
     line.pages = value;
     return {};
 }
@@ -119,8 +118,9 @@ Result<void> takeSecret(CommandLine &line, const QString &value, const QString &
 {
     const auto secret = nameAndValue(value);
     if (!secret || secret->second.isEmpty())
-        return refused(where, QStringLiteral("it takes NAME=FILE; the secret itself stands in the "
-                                             "file"));
+        return refused(where,
+                       QStringLiteral("it takes NAME=FILE; the secret itself stands in the "
+                                      "file"));
     if (!isSecretName(secret->first))
         return refused(where, QStringLiteral("a secret's name has only letters, digits, - and _"));
     if (line.secretFiles.contains(secret->first))
@@ -150,7 +150,7 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--demo", nullptr, "show the sample device and document", takeFlag<&CommandLine::demo>},
     {nullptr, "--preset", "NAME", "begin with this preset", takeText<&CommandLine::preset>},
     {nullptr, "--ticket-in", "FILE", "begin with the settings in this ticket", takeText<&CommandLine::ticketIn>},
-    {nullptr, "--ticket-out", "FILE", "write the settings when printing, or when the script ends", takeText<&CommandLine::ticketOut>},
+    {nullptr, "--ticket-out", "FILE", "write the settings when printing or when the\nscript ends", takeText<&CommandLine::ticketOut>},
     {nullptr, "--script", "FILE", "drive the dialog; - is standard input", takeText<&CommandLine::script>},
     {nullptr, "--print", nullptr, "print when the script has ended", takeFlag<&CommandLine::print>},
     {nullptr, "--secret", "NAME=FILE", "a secret that the script types, in a file of mode 0600", takeSecret},
@@ -267,11 +267,12 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
         else if (!isLong && argument.size() > 2)
             value = argument.mid(2);
         if (!row->value && value)
-            return refused(name, QStringLiteral("it takes no value; \"%1\" is too much").arg(*value));
+            return refused(name,
+                           QStringLiteral("it takes no value; \"%1\" is too much").arg(*value));
         if (row->value && !value) {
             if (i + 1 == arguments.size())
-                return refused(name, QStringLiteral("its value %1 is missing")
-                                         .arg(QLatin1String(row->value)));
+                return refused(
+                    name, QStringLiteral("its value %1 is missing").arg(QLatin1String(row->value)));
             value = arguments[++i];
         }
         if (const auto taken = row->take(line, value.value_or(QString()), name); !taken)

@@ -15,20 +15,20 @@ namespace kelvo {
 // What the user asked for. See usageText() for each option.
 struct CommandLine
 {
-    QString file;              // empty: standard input, or no document with --demo
-    std::optional<QString> destination;        // -d
-    std::optional<int> copies;                 // -n, 1 to 9999
-    QList<QPair<QString, QString>> options;    // -o, in order
-    std::optional<QString> pages;              // -P
-    std::optional<QString> title;              // -t
-    std::optional<QString> ppd;                // --ppd: a device without a queue
+    QString file;                           // empty: standard input, or no document with --demo
+    std::optional<QString> destination;     // -d
+    std::optional<int> copies;              // -n, 1 to 9999
+    QList<QPair<QString, QString>> options; // -o, in order
+    std::optional<QString> pages;           // -P
+    std::optional<QString> title;           // -t
+    std::optional<QString> ppd;             // --ppd: a device without a queue
     bool demo = false;
     std::optional<QString> ticketIn, ticketOut, preset, script;
-    bool print = false;                        // --print: after the script
-    QMap<QString, QString> secretFiles;        // --secret NAME=FILE
+    bool print = false;                 // --print: after the script
+    QMap<QString, QString> secretFiles; // --secret NAME=FILE
     bool noWindow = false;
-    std::optional<QString> toFolder;           // --to
-    int timeoutSeconds = 30;                   // --timeout, 1 to 3600
+    std::optional<QString> toFolder; // --to
+    int timeoutSeconds = 30;         // --timeout, 1 to 3600
     bool listPrinters = false, listControls = false, version = false, help = false;
 };
 

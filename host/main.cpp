@@ -106,8 +106,7 @@ Result<QString> readSecret(const QString &path)
 {
     struct stat status = {};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0)
-        return Error{Error::Code::NotFound, path,
-                     QString::fromLocal8Bit(std::strerror(errno))};
+        return Error{Error::Code::NotFound, path, QString::fromLocal8Bit(std::strerror(errno))};
     if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
         return Error{Error::Code::Refused, path,
                      QStringLiteral("others may read this secret; set its mode to 0600")};
@@ -161,9 +160,9 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
                            preset.error().text()};
         options.preset = std::move(preset).value();
     }
-    const QString devicePath
-        = line.demo ? findSharedFile(QStringLiteral("ppds/kelvo-corvane-full.ppd"))
-                    : line.ppd.value_or(QString());
+    const QString devicePath = line.demo
+        ? findSharedFile(QStringLiteral("ppds/kelvo-corvane-full.ppd"))
+        : line.ppd.value_or(QString());
     if (line.demo && devicePath.isEmpty())
         return Failure{ExitStatus::Failed,
                        QStringLiteral("--demo: the sample device is not installed")};
@@ -198,7 +197,7 @@ int listQueues(int timeoutMs)
     if (!printers)
         return fail(ExitStatus::NoDestination, printers.error().text());
     for (const Printer &printer : printers.value()) {
-        const QString state = !printer.acceptsJobs ? QStringLiteral("rejecting")
+        const QString state = !printer.acceptsJobs  ? QStringLiteral("rejecting")
             : printer.state == Printer::State::Idle ? QStringLiteral("idle")
             : printer.state == Printer::State::Busy ? QStringLiteral("printing")
                                                     : QStringLiteral("stopped");
@@ -283,8 +282,8 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     if (auto bundle = openPanelBundle())
         options.bundle = bundle.value();
     else
-        options.bundleProblem = QStringLiteral("The device panels are missing (%1).")
-                                    .arg(bundle.error().text());
+        options.bundleProblem =
+            QStringLiteral("The device panels are missing (%1).").arg(bundle.error().text());
     if (const QString help = findSharedFile(QStringLiteral("help")); !help.isEmpty())
         addHelpFolder(help);
 

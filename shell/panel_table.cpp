@@ -22,6 +22,16 @@ bool isComplete(const PanelOperations &operations)
         && operations.GetSummaryText && operations.Open && operations.Close && operations.Terminate;
 }
 
+// "GetAdvancedPanelInterface" → "Advanced"; any other name as it is.
+QString panelNameOf(const QString &getter)
+{
+    constexpr QLatin1String head("Get"), tail("PanelInterface");
+    if (!getter.startsWith(head) || !getter.endsWith(tail)
+        || getter.size() <= head.size() + tail.size())
+        return getter;
+    return getter.mid(head.size(), getter.size() - head.size() - tail.size());
+}
+
 // A getter's interface has no Release of its own: whoever loads the panel copies
 // the slots and frees the object and its table.
 PanelOperations takeOperations(PanelInterface *interface)
@@ -67,6 +77,7 @@ std::variant<PanelRecord, QString> loadPanel(CFBundleRef bundle, const char *get
         record.operations.Prologue(&record.context, &creator, &kind, &title, &maxH, &maxV);
     if (status != noErr)
         return QStringLiteral("its panel's Prologue failed (%1)").arg(status);
+    record.name = panelNameOf(QString::fromUtf8(getterName));
     record.title = title ? *title : QString::fromUtf8(getterName);
     record.kind = kind ? *kind : QString();
     return record;

@@ -24,7 +24,8 @@ struct PanelRecord
 {
     PanelOperations operations{}; // slots 4 to 10; the first three stay null
     PMPDEContext context = nullptr;
-    QString title;              // "Advanced", localized
+    QString name;               // "Advanced", the middle of its getter's name
+    QString title;              // the same for the user, localized
     QString kind;               // the panel's kind identifier
     QPointer<QWidget> userPane; // where the panel puts its controls; from Initialize on
     std::int32_t tabIndex = kNoTab;

@@ -261,7 +261,8 @@ void makeUserPanes(PDEShellContext &shell, QSize size)
         if (panel.tabIndex == kNoTab)
             continue;
         auto *pane = new QWidget(shell.parentUserPane->window());
-        pane->setObjectName(QStringLiteral("userPane%1").arg(panel.tabIndex));
+        // By this name scripts and messages of the dialog call the panel.
+        pane->setObjectName(panel.name);
         setControlID(pane, {kUserPaneSignature, panel.tabIndex});
         pane->resize(size);
         pane->hide();

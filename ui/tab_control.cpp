@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace kelvo {
 
 TabControl::TabControl(QWidget *parent)
@@ -31,7 +33,7 @@ void TabControl::setTitles(const QStringList &titles)
         removeTab(count() - 1);
     for (const QString &title : titles)
         addTab(title);
-    setCurrentIndex(qBound(0, shown, count() - 1));
+    setCurrentIndex(std::min(std::max(shown, 0), count() - 1));
 }
 
 void TabControl::setValue(int value)

@@ -20,7 +20,8 @@ public:
     QString title() const;
     QString pdfPath() const;
     int pageCount() const;
-    QSizeF pageSize(int page) const; // points, as shown (rotation counted); page from 1
+    QSizeF pageSize(int page) const; // points, as shown (rotation counted); page
+                                     // from 1, else an invalid size
     bool isNull() const { return !d; }
     // Whether the PDF was damaged and what could be saved of it stands here:
     // worth a look at the preview before it is printed.

@@ -80,9 +80,14 @@ QImage flattened(QImage image, const QSizeF &placed)
     return flat;
 }
 
-struct Destroyer
+// Finishing makes whoever still holds the surface let go of the image's pixels.
+struct Finisher
 {
-    void operator()(cairo_surface_t *surface) const { cairo_surface_destroy(surface); }
+    void operator()(cairo_surface_t *surface) const
+    {
+        cairo_surface_finish(surface);
+        cairo_surface_destroy(surface);
+    }
 };
 
 // A photograph stays a JPEG in the PDF, encoded anew: what came in is damaged
@@ -111,7 +116,7 @@ bool drawPicture(PdfCanvas &canvas, const QImage &image, const QSizeF &paper, bo
     const auto [page, placed] = placePicture(size, paper);
     QImage flat = flattened(image, placed.size());
 
-    const std::unique_ptr<cairo_surface_t, Destroyer> surface(
+    const std::unique_ptr<cairo_surface_t, Finisher> surface(
         cairo_image_surface_create_for_data(flat.bits(), CAIRO_FORMAT_RGB24, flat.width(),
                                             flat.height(), static_cast<int>(flat.bytesPerLine())));
     if (isPhotograph)
@@ -132,7 +137,7 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, const QString
         return canvas.error();
     const QSizeF paper = localePaper();
     // Only of a TIFF are all pictures pages; a GIF's are a film.
-    const bool hasPages = kind == DocumentKind::Tiff;
+    const int pages = kind == DocumentKind::Tiff ? reader.imageCount() : 1;
     int page = 1;
     do {
         const QSize size = reader.size();
@@ -148,7 +153,7 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, const QString
         if (image.isNull()) {
             return pictureError(
                 Error::Code::Damaged,
-                hasPages
+                pages > 1
                     ? QStringLiteral("page %1 of the picture cannot be read: %2")
                           .arg(page)
                           .arg(reader.errorString())
@@ -157,7 +162,7 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, const QString
         if (!drawPicture(canvas.value(), image, paper, kind == DocumentKind::Jpeg))
             break; // close() tells why
         ++page;
-    } while (hasPages && page <= reader.imageCount() && reader.jumpToNextImage());
+    } while (page <= pages && reader.jumpToNextImage());
     return canvas.value().close();
 }
 
@@ -234,14 +239,16 @@ Result<void> convertPicture(const ConverterFiles &files, const std::atomic_bool 
     if (end.value().status == 0)
         return {};
     const auto row = std::ranges::find(exitStatuses, end.value().status, &ExitStatus::status);
+    // The libraries may have chatted before; the reason comes last.
+    const QString reason = end.value().message.section(u'\n', -1);
     return converterError(row == std::end(exitStatuses) ? Error::Code::Damaged : row->code, files,
-                          end.value().message.isEmpty()
-                              ? QStringLiteral("the picture cannot be read")
-                              : end.value().message);
+                          reason.isEmpty() ? QStringLiteral("the picture cannot be read") : reason);
 }
 
 int runPictureHelper(const QString &picturePath, const QString &pdfPath)
 {
+    // Readers chat about every oddity; the parent shows what comes out here.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     // Texts in drawings need fonts, and those an application; no window is ever
     // shown, so no display is asked for.
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -252,8 +259,6 @@ int runPictureHelper(const QString &picturePath, const QString &pdfPath)
     std::unique_ptr<QGuiApplication> application;
     if (!QCoreApplication::instance())
         application = std::make_unique<QGuiApplication>(argc, argv);
-    // Readers chat about every oddity; the parent shows what comes out here.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 
     const Result<void> made = makePicturePdf(picturePath, pdfPath);
     if (made)

@@ -60,10 +60,6 @@ Result<void> convertPostScript(const ConverterFiles &files, const QSizeF &paper,
                               QStringLiteral("Ghostscript cannot read the PostScript: ")
                                   + problemIn(end.value().message));
     }
-    if (QFileInfo(files.pdf).size() == 0) {
-        return converterError(Error::Code::Damaged, files,
-                              QStringLiteral("the PostScript draws no page"));
-    }
     return {};
 }
 

@@ -116,9 +116,9 @@ public:
         , m_paper(paper)
     {
         m_page = m_canvas.beginPage(paper);
-        // Made for the page's context, so that metrics are not rounded to a
-        // screen's pixels.
         m_layout.reset(pango_cairo_create_layout(m_page));
+        // A point on the page is a point of the font; Pango's own are a screen's.
+        pango_cairo_context_set_resolution(pango_layout_get_context(m_layout.get()), 72);
         const Owned<PangoFontDescription> font(pango_font_description_from_string(fontName));
         pango_layout_set_font_description(m_layout.get(), font.get());
         pango_layout_set_width(m_layout.get(),

@@ -112,8 +112,7 @@ void ConflictBar::colour()
     m_isColouring = true;
     setPalette(QPalette());
     QPalette colours = palette();
-    colours.setColor(QPalette::Window,
-                     mixed(colours.color(QPalette::Window), cautionColour, 0.18));
+    colours.setColor(QPalette::Window, mixed(colours.color(QPalette::Window), cautionColour, 0.18));
     setPalette(colours);
     m_isColouring = false;
 }

@@ -171,8 +171,8 @@ void DialogSession::takePpd(const QString &path)
     auto opened = PpdFile::open(path);
     if (!opened) {
         // The copy's path means nothing to the user.
-        beginWithoutPpd(tr("The description of its settings is damaged (%1).")
-                            .arg(opened.error().detail));
+        beginWithoutPpd(
+            tr("The description of its settings is damaged (%1).").arg(opened.error().detail));
         return;
     }
     m_ppd = std::move(opened).value();
@@ -372,13 +372,13 @@ void DialogSession::beginPanels()
     }
     if (const auto begun = m_extension->begin(*m_session, m_panesParent); !begun) {
         const QString maker = m_ppd->manufacturer();
-        m_message = {none,
-                     (maker.isEmpty()
-                          ? tr("The panels are not made for this device, a %1.")
-                                .arg(m_ppd->modelName())
-                          : tr("The panels are not made for this device: it is a %1 from %2.")
-                                .arg(m_ppd->modelName(), maker))
-                         + u'\n' + stays};
+        m_message = {
+            none,
+            (maker.isEmpty()
+                 ? tr("The panels are not made for this device, a %1.").arg(m_ppd->modelName())
+                 : tr("The panels are not made for this device: it is a %1 from %2.")
+                       .arg(m_ppd->modelName(), maker))
+                + u'\n' + stays};
         return;
     }
     m_extension->show(0);
@@ -423,18 +423,16 @@ void DialogSession::openTheDocument()
         return;
     }
     m_openingCancelled = std::make_shared<std::atomic_bool>(false);
-    m_opening.start(
-        [source = *m_options.document, cancelled = m_openingCancelled] {
-            return openDocument(source, *cancelled);
-        },
-        [this](Result<Document> opened) {
-            if (opened)
-                m_document = std::move(opened).value();
-            else
-                m_documentProblem
-                    = tr("The document cannot be opened: %1").arg(opened.error().text());
-            emit documentChanged();
-        });
+    m_opening.start([source = *m_options.document,
+                     cancelled = m_openingCancelled] { return openDocument(source, *cancelled); },
+                    [this](Result<Document> opened) {
+                        if (opened)
+                            m_document = std::move(opened).value();
+                        else
+                            m_documentProblem =
+                                tr("The document cannot be opened: %1").arg(opened.error().text());
+                        emit documentChanged();
+                    });
 }
 
 } // namespace kelvo

@@ -26,9 +26,9 @@ namespace kelvo {
 struct DialogOptions
 {
     CommandLine line;
-    Bundle *bundle = nullptr; // null: no device panels
-    QString bundleProblem;    // why there is no bundle, a sentence
-    std::shared_ptr<PpdFile> device; // --ppd and --demo: a device without a queue
+    Bundle *bundle = nullptr;               // null: no device panels
+    QString bundleProblem;                  // why there is no bundle, a sentence
+    std::shared_ptr<PpdFile> device;        // --ppd and --demo: a device without a queue
     std::optional<DocumentSource> document; // none: there is nothing to print
     std::optional<TicketFile> preset, ticketIn;
 };
@@ -70,14 +70,14 @@ public:
     // does not have comes back with one that has it.
     void choosePrinter(const QString &name);
 
-    PrintSession &tickets() { return *m_session; } // Stage::Ready
+    PrintSession &tickets() { return *m_session; }                // Stage::Ready
     const std::shared_ptr<PpdFile> &ppd() const { return m_ppd; } // null: none
     Extension *panels();                                          // null: none
     const SecretKeys &secretKeys() const { return m_secretKeys; }
     const QStringList &missing() const { return m_missing; } // not offered here, in words
 
     bool isDocumentPending() const { return m_opening.isRunning(); }
-    const Document &document() const { return m_document; }         // null: not (yet) there
+    const Document &document() const { return m_document; }              // null: not (yet) there
     const QString &documentProblem() const { return m_documentProblem; } // a sentence
     QString title() const; // of the document, also before it is open
 
@@ -121,7 +121,7 @@ private:
     void beginPanels();
     void endPanels();
     void openTheDocument();
-    void setStage(Stage stage, Message message = {});
+    void setStage(Stage stage, Message message);
     const Printer *findPrinter(const QString &name) const;
 
     DialogOptions m_options;

@@ -41,8 +41,7 @@ bool isComplete(const PanelOperations &panel)
 Result<PanelOperations> findFurtherPanel(Bundle *bundle, const QString &getter)
 {
     const QByteArray name = getter.toLatin1();
-    const auto get
-        = reinterpret_cast<PanelInterfaceGetter>(bundle->findFunction(name.constData()));
+    const auto get = reinterpret_cast<PanelInterfaceGetter>(bundle->findFunction(name.constData()));
     if (!get)
         return Error{Code::NotFound, getter, QStringLiteral("the bundle has no such function")};
     PanelInterface *interface = nullptr;
@@ -150,8 +149,7 @@ Result<void> Extension::Private::add(const PanelOperations &operations, const QS
     CFStringRef kind = nullptr;
     CFStringRef title = nullptr;
     std::uint32_t maxWidth = 0, maxHeight = 0;
-    OSStatus status
-        = operations.Prologue(&context, &creator, &kind, &title, &maxWidth, &maxHeight);
+    OSStatus status = operations.Prologue(&context, &creator, &kind, &title, &maxWidth, &maxHeight);
     if (status != noErr)
         return Error{Code::Refused, name, QStringLiteral("Prologue failed with %1").arg(status)};
 
@@ -188,9 +186,8 @@ Result<void> Extension::begin(PrintSession &session, QWidget *parent)
     for (const QVariant &entry : getters) {
         const QString getter = string(entry).value_or(QString());
         const auto operations = findFurtherPanel(d->bundle, getter);
-        const auto added = operations
-            ? d->add(operations.value(), panelNameOf(getter), parent)
-            : Result<void>(operations.error());
+        const auto added = operations ? d->add(operations.value(), panelNameOf(getter), parent)
+                                      : Result<void>(operations.error());
         if (!added)
             warn(QStringLiteral("%1: panel left out: %2")
                      .arg(d->bundle->path(), added.error().text()));

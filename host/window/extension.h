@@ -37,7 +37,7 @@ public:
 
     struct Panel
     {
-        QString name;  // the middle of its getter's name; "PDEShell" for the shell
+        QString name; // the middle of its getter's name; "PDEShell" for the shell
         QString title;
         QWidget *pane; // owned by `parent` of begin()
     };

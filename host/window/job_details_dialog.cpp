@@ -33,7 +33,8 @@ QString section(const QString &header, const QStringList &lines)
 QString wordsText(const JobWords &words)
 {
     QString text = section(tr("Set for this job"), words.settings)
-        + section(tr("Not sent"), words.notSent) + section(tr("As the device has it"), words.defaults);
+        + section(tr("Not sent"), words.notSent)
+        + section(tr("As the device has it"), words.defaults);
     return text.isEmpty() ? tr("Nothing is set: the device decides everything.") : text.trimmed();
 }
 
@@ -60,10 +61,10 @@ void runJobDetailsDialog(const JobWords &words, QWidget *parent)
     tabs->setAccessibleName(tr("View"));
     tabs->setTitles({tr("In Words"), tr("Ticket")});
     auto *pages = new QStackedWidget(content);
-    auto *inWords
-        = textView(QStringLiteral("jobWords"), tr("Settings in words"), wordsText(words), pages);
-    auto *ticket = textView(QStringLiteral("jobTicket"), tr("Ticket"),
-                            words.ticket.join(u'\n'), pages);
+    auto *inWords =
+        textView(QStringLiteral("jobWords"), tr("Settings in words"), wordsText(words), pages);
+    auto *ticket =
+        textView(QStringLiteral("jobTicket"), tr("Ticket"), words.ticket.join(u'\n'), pages);
     ticket->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     ticket->setLineWrapMode(QPlainTextEdit::NoWrap);
     for (SummaryView *view : {inWords, ticket}) {
@@ -96,21 +97,21 @@ void runJobDetailsDialog(const JobWords &words, QWidget *parent)
     layout->addLayout(buttons);
 
     ModalDialog dialog(content, parent);
-    const auto handler
-        = installEventHandler(content, [tabs, pages, copy](const Event &event) -> OSStatus {
-              if (event.kind != EventKind::ControlHit)
-                  return eventNotHandledErr;
-              if (event.source == tabs) {
-                  pages->setCurrentIndex(tabs->value() - 1);
-                  return noErr;
-              }
-              if (event.source == copy) {
-                  const auto *shown = qobject_cast<SummaryView *>(pages->currentWidget());
-                  QGuiApplication::clipboard()->setText(shown->toPlainText());
-                  return noErr;
-              }
-              return eventNotHandledErr;
-          });
+    const auto handler =
+        installEventHandler(content, [tabs, pages, copy](const Event &event) -> OSStatus {
+            if (event.kind != EventKind::ControlHit)
+                return eventNotHandledErr;
+            if (event.source == tabs) {
+                pages->setCurrentIndex(tabs->value() - 1);
+                return noErr;
+            }
+            if (event.source == copy) {
+                const auto *shown = qobject_cast<SummaryView *>(pages->currentWidget());
+                QGuiApplication::clipboard()->setText(shown->toPlainText());
+                return noErr;
+            }
+            return eventNotHandledErr;
+        });
     dialog.runModal();
 }
 

@@ -8,7 +8,7 @@ namespace kelvo {
 PaneScroll::PaneScroll(QWidget *parent)
     : QScrollArea(parent)
 {
-    setFrameShape(QFrame::NoFrame);
+    setFrameShape(QFrame::StyledPanel);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
     verticalScrollBar()->installEventFilter(this);
@@ -18,14 +18,16 @@ QSize PaneScroll::sizeHint() const
 {
     if (!widget())
         return QScrollArea::sizeHint();
-    return widget()->sizeHint().expandedTo(widget()->minimumSize());
+    const int frame = 2 * frameWidth();
+    return widget()->sizeHint().expandedTo(widget()->minimumSize()) + QSize(frame, frame);
 }
 
 QSize PaneScroll::minimumSizeHint() const
 {
     if (!widget())
         return QScrollArea::minimumSizeHint();
-    int width = widget()->minimumSizeHint().expandedTo(widget()->minimumSize()).width();
+    int width = widget()->minimumSizeHint().expandedTo(widget()->minimumSize()).width()
+        + 2 * frameWidth();
     if (verticalScrollBar()->isVisible())
         width += verticalScrollBar()->sizeHint().width();
     return {width, fontMetrics().lineSpacing() * 8};

@@ -50,13 +50,13 @@ void PanelSwitch::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette colours = palette();
-    const QRectF frame
-        = QRectF(tabRect(0).united(tabRect(count() - 1))).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QRectF frame =
+        QRectF(tabRect(0).united(tabRect(count() - 1))).adjusted(0.5, 0.5, -0.5, -0.5);
     QPainterPath shape;
     shape.addRoundedRect(frame, cornerRadius, cornerRadius);
 
-    const QColor line
-        = mixed(colours.color(QPalette::Window), colours.color(QPalette::WindowText), 0.28);
+    const QColor line =
+        mixed(colours.color(QPalette::Window), colours.color(QPalette::WindowText), 0.28);
     painter.fillPath(shape, colours.color(QPalette::Button));
     painter.setClipPath(shape);
     const QPoint mouse = mapFromGlobal(QCursor::pos());
@@ -66,16 +66,15 @@ void PanelSwitch::paintEvent(QPaintEvent *)
         if (isChosen)
             painter.fillRect(segment, colours.color(QPalette::Highlight));
         else if (underMouse() && segment.contains(mouse))
-            painter.fillRect(segment,
-                             mixed(colours.color(QPalette::Button),
-                                   colours.color(QPalette::ButtonText), 0.08));
+            painter.fillRect(
+                segment,
+                mixed(colours.color(QPalette::Button), colours.color(QPalette::ButtonText), 0.08));
         if (i > 0 && !isChosen && i - 1 != currentIndex()) {
             painter.setPen(line);
             painter.drawLine(QPointF(segment.left() + 0.5, frame.top() + 5),
                              QPointF(segment.left() + 0.5, frame.bottom() - 5));
         }
-        painter.setPen(
-            colours.color(isChosen ? QPalette::HighlightedText : QPalette::ButtonText));
+        painter.setPen(colours.color(isChosen ? QPalette::HighlightedText : QPalette::ButtonText));
         const QRect textArea = segment.adjusted(topPadding, 0, -topPadding, 0);
         painter.drawText(textArea, Qt::AlignCenter | Qt::TextShowMnemonic,
                          fontMetrics().elidedText(tabText(i), Qt::ElideRight, textArea.width(),

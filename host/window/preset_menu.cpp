@@ -90,8 +90,7 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
             return true;
         if (mayReplace)
             return CFUserNotificationDisplayAlert(
-                       NoticeLevel::Caution,
-                       PresetMenu::tr("Replace the preset “%1”?").arg(wanted),
+                       NoticeLevel::Caution, PresetMenu::tr("Replace the preset “%1”?").arg(wanted),
                        PresetMenu::tr("There is a preset of this name. Its settings are lost when "
                                       "you replace it."),
                        {PresetMenu::tr("Replace"), PresetMenu::tr("Cancel")}, &dialog)
@@ -120,6 +119,10 @@ PresetMenu::PresetMenu(DialogSession &session, const QString &chosen, QWidget *p
     m_button->setText(QStringLiteral("…"));
     m_button->setAccessibleName(tr("Preset actions"));
     m_button->setToolTip(tr("Save, rename or delete presets"));
+    // Three dots and the arrow of a menu; a button's usual width would take the
+    // names' room.
+    m_button->setMaximumWidth(m_button->fontMetrics().horizontalAdvance(u'…')
+                              + m_button->fontMetrics().height() + 20);
     setFocusProxy(m_popup);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -154,9 +157,9 @@ const Preset *PresetMenu::chosenPreset() const
 
 const Preset *PresetMenu::findOwn(const QString &name) const
 {
-    const auto preset
-        = std::find_if(m_presets.cbegin(), m_presets.cend(),
-                       [&name](const Preset &p) { return !p.isSite && p.name == name; });
+    const auto preset =
+        std::find_if(m_presets.cbegin(), m_presets.cend(),
+                     [&name](const Preset &p) { return !p.isSite && p.name == name; });
     return preset == m_presets.cend() ? nullptr : &*preset;
 }
 
@@ -174,8 +177,8 @@ void PresetMenu::fillMenu()
         return isChosen && m_hasStar ? tr("%1*", "a preset that was changed").arg(name) : name;
     };
     Menu menu;
-    menu.items.push_back({.text = starred(tr("Default Settings"), m_chosen.isEmpty()),
-                          .reference = Defaults});
+    menu.items.push_back(
+        {.text = starred(tr("Default Settings"), m_chosen.isEmpty()), .reference = Defaults});
     if (!m_presets.empty())
         menu.items.push_back({.reference = Defaults, .divider = true});
     std::int32_t shown = Defaults;
@@ -185,9 +188,8 @@ void PresetMenu::fillMenu()
         const bool isChosen = preset.name == m_chosen;
         if (isChosen)
             shown = reference;
-        menu.items.push_back({.text = starred(preset.name, isChosen),
-                              .key = preset.name,
-                              .reference = reference});
+        menu.items.push_back(
+            {.text = starred(preset.name, isChosen), .key = preset.name, .reference = reference});
     }
     m_popup->setMenu(std::move(menu));
     m_popup->setValueByReference(shown);
@@ -252,8 +254,8 @@ void PresetMenu::choose(int reference)
 bool PresetMenu::store(const QString &name, bool keepSecrets)
 {
     m_session.writeAll();
-    if (const auto saved
-        = m_store.save(name, m_session.ticket(), m_session.secretKeys(), keepSecrets);
+    if (const auto saved =
+            m_store.save(name, m_session.ticket(), m_session.secretKeys(), keepSecrets);
         !saved) {
         CFUserNotificationDisplayNotice(NoticeLevel::Stop,
                                         tr("The preset “%1” was not saved").arg(name),
@@ -280,9 +282,9 @@ void PresetMenu::save()
 
 void PresetMenu::saveAs()
 {
-    const auto answer
-        = askForName(this, tr("Save Preset"), tr("&Save"), m_chosen, true, true,
-                     [this](const QString &name) { return findOwn(name) != nullptr; });
+    const auto answer =
+        askForName(this, tr("Save Preset"), tr("&Save"), m_chosen, true, true,
+                   [this](const QString &name) { return findOwn(name) != nullptr; });
     if (answer)
         store(answer->name, answer->keepsSecrets);
 }
@@ -290,10 +292,9 @@ void PresetMenu::saveAs()
 void PresetMenu::rename()
 {
     const QString from = m_chosen;
-    const auto answer = askForName(this, tr("Rename Preset"), tr("&Rename"), from, false, false,
-                                   [this, &from](const QString &name) {
-                                       return name != from && findOwn(name);
-                                   });
+    const auto answer =
+        askForName(this, tr("Rename Preset"), tr("&Rename"), from, false, false,
+                   [this, &from](const QString &name) { return name != from && findOwn(name); });
     if (!answer || answer->name == from)
         return;
     if (const auto renamed = m_store.rename(from, answer->name); !renamed) {

@@ -40,10 +40,11 @@ constexpr QSize paneSize(540, 491);
 constexpr QSize windowSize(900, 660);
 constexpr int columnWidth = 300;
 constexpr int narrowWidth = 860; // below it, column and panels do not stand side by side
-constexpr int usualFontHeight = 13;  // pixels: 10 points on an ordinary screen
+constexpr int lowestWindow = 420;
+constexpr int usualFontHeight = 13; // pixels: 10 points on an ordinary screen
 
 constexpr int margin = 10;
-constexpr int gap = 6;       // between rows
+constexpr int gap = 6; // between rows
 constexpr int columnGap = 12;
 
 // So long after the user's last change, settings are written and checked.
@@ -56,6 +57,15 @@ constexpr OSType kPreviousTab = fourCharCode("KFdn");
 double fontScale(const QWidget *widget)
 {
     return std::max(1.0, double(QFontInfo(widget->font()).pixelSize()) / usualFontHeight);
+}
+
+// What a window may take of its screen. Without a screen that anybody sees the
+// window is as large as it likes: scripts meet the same window everywhere.
+QSize availableSize(const QWidget *window)
+{
+    if (QGuiApplication::platformName() == QLatin1String("offscreen") || !window->screen())
+        return {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+    return window->screen()->availableSize();
 }
 
 QPushButton *button(const char *name, const QString &text, QWidget *parent)
@@ -129,7 +139,10 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_conflictBar, &ConflictBar::fixRequested, this, &PrintDialog::fixConflicts);
-    connect(m_columnToggle, &QToolButton::clicked, this, &PrintDialog::setColumnShown);
+    connect(m_columnToggle, &QToolButton::clicked, this, [this] {
+        m_isColumnWanted = !m_isColumnWanted;
+        arrangeColumns();
+    });
     connect(m_details, &QPushButton::clicked, this, &PrintDialog::showDetails);
     connect(m_help, &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
@@ -181,8 +194,6 @@ void PrintDialog::buildWindow()
 
     m_columnToggle->setObjectName(QStringLiteral("columnToggle"));
     m_columnToggle->setAutoRaise(true);
-    m_columnToggle->setCheckable(true);
-    m_columnToggle->setChecked(true);
     m_columnToggle->setFocusPolicy(Qt::TabFocus);
     m_columnToggle->setToolTip(tr("Show or hide printer, pages and preview (F9)"));
     m_columnToggle->setAccessibleName(tr("Printer, pages and preview"));
@@ -250,10 +261,9 @@ void PrintDialog::fitToFont()
     const double scale = fontScale(this);
     m_stack->setMinimumSize(paneSize * scale);
     m_column->setMinimumWidth(int(columnWidth * scale));
-    const QSize available = screen() ? screen()->availableSize() : windowSize;
-    setMinimumSize(QSize(m_scroll->minimumSizeHint().width() + 2 * margin, 420)
-                       .boundedTo(available));
-    resize((windowSize * scale).boundedTo(available));
+    const QSize smallest(m_scroll->minimumSizeHint().width() + 2 * margin, lowestWindow);
+    setMinimumSize(smallest.boundedTo(availableSize(this)));
+    resize((windowSize * scale).boundedTo(availableSize(this)));
 }
 
 void PrintDialog::changeEvent(QEvent *event)
@@ -349,12 +359,10 @@ void PrintDialog::updatePreview()
     if (runs)
         layout.pages = runs.value();
     layout.orientation = settings.orientation;
-    if (const auto &ppd = m_session->ppd()) {
-        if (const PpdPageSize *size = ppd->findPageSize(settings.paperName))
-            layout.paper = QSizeF(size->width, size->height);
-    }
-    const QString duplex
-        = m_session->tickets().printSettings().ppdChoices.value(QStringLiteral("Duplex"));
+    if (const auto &ppd = m_session->ppd())
+        layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());
+    const QString duplex =
+        m_session->tickets().printSettings().ppdChoices.value(QStringLiteral("Duplex"));
     layout.twoSided = !duplex.isEmpty() && duplex != QLatin1String("None");
     m_preview->setLayout(layout);
 }
@@ -505,9 +513,9 @@ bool PrintDialog::endsInConflict()
         return false;
     const QString header = tr("These settings cannot be used together");
     if (!m_isDriven && !report.fix.isEmpty()) {
-        const int answer = CFUserNotificationDisplayAlert(
-            NoticeLevel::Caution, header, conflictText(report),
-            {tr("Fix and Print"), tr("Cancel")}, this);
+        const int answer =
+            CFUserNotificationDisplayAlert(NoticeLevel::Caution, header, conflictText(report),
+                                           {tr("Fix and Print"), tr("Cancel")}, this);
         if (answer == 1) {
             m_session->fix(report);
             m_session->writeAll();
@@ -659,25 +667,22 @@ void PrintDialog::resizeEvent(QResizeEvent *event)
     arrangeColumns();
 }
 
-void PrintDialog::setColumnShown(bool shown)
-{
-    m_isColumnWanted = shown;
-    arrangeColumns();
-}
-
 void PrintDialog::arrangeColumns()
 {
     const double scale = fontScale(this);
-    const int sideBySide = m_column->minimumWidth() + columnGap
-        + m_scroll->minimumSizeHint().width() + 2 * margin;
+    const int sideBySide =
+        m_column->minimumWidth() + columnGap + m_scroll->minimumSizeHint().width() + 2 * margin;
     const bool isNarrow = width() < std::max(int(narrowWidth * scale), sideBySide);
     if (isNarrow != m_isNarrow) {
         // Going narrow the panels win; going wide everything is there again.
         m_isNarrow = isNarrow;
         m_isColumnWanted = !isNarrow;
     }
-    m_columnToggle->setChecked(m_isColumnWanted);
     m_columnToggle->setArrowType(m_isColumnWanted ? Qt::LeftArrow : Qt::RightArrow);
+    // In a narrow window it goes from one to the other, and says to which.
+    m_columnToggle->setText(m_isColumnWanted ? tr("Device") : tr("Printer and Pages"));
+    m_columnToggle->setToolButtonStyle(m_isNarrow ? Qt::ToolButtonTextBesideIcon
+                                                  : Qt::ToolButtonIconOnly);
     m_column->setVisible(m_isColumnWanted);
     m_panelSide->setVisible(!m_isNarrow || !m_isColumnWanted);
     const int forPreview = m_column->height() - m_printer->sizeHint().height();
@@ -705,8 +710,8 @@ void PrintDialog::arrangeTabOrder()
 
 void PrintDialog::goToRegion(bool forward)
 {
-    const QList<QWidget *> regions
-        = {m_printer, m_preview, m_switch, m_scroll, m_conflictBar, m_columnToggle, m_print};
+    const QList<QWidget *> regions = {m_printer,     m_preview,      m_switch, m_scroll,
+                                      m_conflictBar, m_columnToggle, m_print};
     const auto contains = [](const QWidget *region, const QWidget *widget) {
         return widget && (region == widget || region->isAncestorOf(widget));
     };
@@ -726,8 +731,8 @@ void PrintDialog::goToRegion(bool forward)
             at = i;
     }
     for (qsizetype step = 1; step <= regions.size(); ++step) {
-        const qsizetype next = (at + (forward ? step : -step) + 2 * regions.size())
-            % regions.size();
+        const qsizetype next =
+            (at + (forward ? step : -step) + 2 * regions.size()) % regions.size();
         if (QWidget *stop = firstStop(regions[next])) {
             stop->setFocus(Qt::TabFocusReason);
             return;
@@ -739,8 +744,9 @@ void PrintDialog::goToRegion(bool forward)
 
 bool PrintDialog::isIdle() const
 {
-    return m_session->stage() != DialogSession::Stage::Searching
-        && !m_session->isDocumentPending() && !m_look.isActive();
+    return m_finished
+        || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
+            && !m_look.isActive());
 }
 
 Result<void> PrintDialog::showPanel(const QString &name)
@@ -778,12 +784,22 @@ Result<void> PrintDialog::showTab(int tab)
     auto *selector = findControl<PopupButton>(this, shellSelector);
     if (!selector)
         return Error{Error::Code::NotFound, QString::number(tab), tr("there are no tabs")};
-    if (tab < 1 || tab > int(selector->menu().items.size()))
-        return Error{Error::Code::OutOfRange, QString::number(tab),
-                     tr("there are tabs 1 to %1").arg(selector->menu().items.size())};
-    if (selector->value() != tab && !selector->choose(tab))
-        return Error{Error::Code::Refused, QString::number(tab), tr("the tab cannot be chosen")};
-    return {};
+    // A tab keeps its number where others are not there.
+    const auto &items = selector->menu().items;
+    QStringList numbers;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i].reference != tab) {
+            numbers.append(QString::number(items[i].reference));
+            continue;
+        }
+        const int row = int(i) + 1;
+        if (selector->value() != row && !selector->choose(row))
+            return Error{Error::Code::Refused, QString::number(tab),
+                         tr("the tab cannot be chosen")};
+        return {};
+    }
+    return Error{Error::Code::OutOfRange, QString::number(tab),
+                 tr("there is no such tab; there are %1").arg(numbers.join(QStringLiteral(", ")))};
 }
 
 QString PrintDialog::placeOf(const QWidget *control) const

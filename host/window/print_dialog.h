@@ -2,6 +2,7 @@
 
 #include "dialog_session.h"
 #include "event.h"
+#include "job_words.h"
 #include "print_run.h"
 #include "script_target.h"
 
@@ -90,7 +91,6 @@ private:
     void showDetails();
     void showHelp();
     void goToRegion(bool forward);
-    void setColumnShown(bool shown);
 
     // Print.
     void print();
@@ -127,7 +127,7 @@ private:
     QProgressBar *m_progress;
     QPushButton *m_details, *m_help, *m_cancel, *m_print;
 
-    QTimer m_look;               // lookAtSettings() soon
+    QTimer m_look;                // lookAtSettings() soon
     bool m_isColumnWanted = true; // by the user, when the window is wide enough
     bool m_isNarrow = false;      // column and panels do not fit side by side
     bool m_isDriven = false;

@@ -49,8 +49,8 @@ PrintOutcome carryOut(PrintRun::Order &order, const std::atomic_bool &cancelled)
             return {ExitStatus::Failed, {}, delivered.error().text(), {}};
         return {ExitStatus::Printed, order.folder, {}, job.notSent};
     }
-    const auto delivered
-        = deliverToQueue(job, order.queue, order.request.title, order.timeoutMs, cancelled);
+    const auto delivered =
+        deliverToQueue(job, order.queue, order.request.title, order.timeoutMs, cancelled);
     if (!delivered)
         return {statusOfDelivery(delivered.error().code), {}, delivered.error().text(), {}};
     return {ExitStatus::Printed, delivered.value().name, {}, job.notSent};
@@ -71,11 +71,9 @@ PrintRun::~PrintRun()
 
 void PrintRun::start(Order order)
 {
-    m_task.start(
-        [order = std::make_shared<Order>(std::move(order)), cancelled = m_cancelled] {
-            return carryOut(*order, *cancelled);
-        },
-        [this](const PrintOutcome &outcome) { emit finished(outcome); });
+    m_task.start([order = std::make_shared<Order>(std::move(order)),
+                  cancelled = m_cancelled] { return carryOut(*order, *cancelled); },
+                 [this](const PrintOutcome &outcome) { emit finished(outcome); });
 }
 
 void PrintRun::cancel()

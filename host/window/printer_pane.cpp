@@ -27,8 +27,8 @@ struct OrientationRow
 constexpr OrientationRow orientationRows[] = {
     {Orientation::Portrait, QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Portrait"), "portrait"},
     {Orientation::Landscape, QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Landscape"), "landscape"},
-    {Orientation::ReversePortrait,
-     QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Portrait, upside down"), "reverse-portrait"},
+    {Orientation::ReversePortrait, QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Portrait, upside down"),
+     "reverse-portrait"},
     {Orientation::ReverseLandscape,
      QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Landscape, upside down"), "reverse-landscape"},
 };
@@ -73,7 +73,8 @@ PrinterPane::PrinterPane(QWidget *presets, QWidget *parent)
     , m_pagesProblem(new QLabel(this))
     , m_paper(new PopupButton(this))
     , m_orientation(new PopupButton(this))
-    , m_settingControls{presets, m_copies, m_collate, m_pagesChoice, m_pages, m_paper, m_orientation}
+    , m_settingControls{presets, m_copies, m_collate,    m_pagesChoice,
+                        m_pages, m_paper,  m_orientation}
     , m_grid(new QGridLayout(this))
 {
     m_grid->setContentsMargins(0, 0, 0, 0);
@@ -146,6 +147,7 @@ QLabel *PrinterPane::addRow(const QString &text, QWidget *buddy, QWidget *field)
 {
     auto *label = new QLabel(text, this);
     label->setBuddy(buddy);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (buddy->accessibleName().isEmpty())
         buddy->setAccessibleName(QString(text).remove(u'&').remove(u':'));
     const int row = m_grid->rowCount();
@@ -164,10 +166,10 @@ void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &cho
             shown = reference;
             m_printer->setToolTip(toolTipFor(printer));
         }
-        menu.items.push_back({.text = tr("%1 (%2)", "printer and its state")
-                                          .arg(printer.name, stateText(printer)),
-                              .key = printer.name,
-                              .reference = reference++});
+        menu.items.push_back(
+            {.text = tr("%1 (%2)", "printer and its state").arg(printer.name, stateText(printer)),
+             .key = printer.name,
+             .reference = reference++});
     }
     if (shown < 0 && !chosen.isEmpty()) {
         // Asked for, and not there (yet): shown all the same.
@@ -219,15 +221,24 @@ void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
     m_paperName = settings.paperName;
     if (!m_hasPaper)
         papers.items.push_back({.text = tr("As the printer has it")});
-    const auto shown = std::find_if(
-        papers.items.cbegin(), papers.items.cend(),
-        [&settings](const MenuItem &item) { return item.key == settings.paperName; });
-    const int value
-        = shown == papers.items.cend() ? 1 : int(shown - papers.items.cbegin()) + 1;
-    if (m_paper->menu().items.size() != papers.items.size() || m_paper->menu().reference != ppd) {
-        papers.reference = ppd;
+    else if (ppd && !settings.paperName.isEmpty() && !ppd->findPageSize(settings.paperName))
+        papers.items.push_back({.text = paperSize(settings.paperName, *ppd)
+                                    ? tr("Custom: %1").arg(settings.paperName.section(u'.', 1))
+                                    : tr("%1 (not on this printer)").arg(settings.paperName),
+                                .key = settings.paperName,
+                                .reference = static_cast<std::int32_t>(papers.items.size()),
+                                .enabled = paperSize(settings.paperName, *ppd).has_value()});
+    const auto shown =
+        std::find_if(papers.items.cbegin(), papers.items.cend(),
+                     [&settings](const MenuItem &item) { return item.key == settings.paperName; });
+    const int value = shown == papers.items.cend() ? 1 : int(shown - papers.items.cbegin()) + 1;
+    const bool isSame =
+        std::equal(papers.items.cbegin(), papers.items.cend(), m_paper->menu().items.cbegin(),
+                   m_paper->menu().items.cend(), [](const MenuItem &one, const MenuItem &other) {
+                       return one.key == other.key && one.text == other.text;
+                   });
+    if (!isSame)
         m_paper->setMenu(std::move(papers));
-    }
     m_paper->setValue(value);
     m_paper->setEnabled(m_hasPaper && m_copies->isEnabled());
     m_orientation->setValueByReference(static_cast<std::int32_t>(settings.orientation));
@@ -298,8 +309,8 @@ OSStatus PrinterPane::handle(const Event &event)
     }
     if (source == m_copies && isHit)
         m_collate->setEnabled(m_copies->value() > 1);
-    const bool isEdit = (isHit && (source == m_copies || source == m_collate
-                                   || source == m_orientation))
+    const bool isEdit =
+        (isHit && (source == m_copies || source == m_collate || source == m_orientation))
         || (source == m_pages && event.kind == EventKind::TextChanged);
     if (!isEdit)
         return eventNotHandledErr;

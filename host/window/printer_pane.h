@@ -36,7 +36,7 @@ public:
     // Enables what `ppd` offers; null: the paper is the printer's own.
     void setSettings(const JobSettings &settings, const PpdFile *ppd);
     JobSettings settings() const;
-    bool arePagesMissing() const; // a range is chosen and not typed yet
+    bool arePagesMissing() const;          // a range is chosen and not typed yet
     void setSettingsEnabled(bool enabled); // before there is a ticket: not
 
     // Why the pages cannot be printed; empty when they can.
@@ -62,7 +62,7 @@ private:
     std::vector<QWidget *> m_settingControls;
     QGridLayout *m_grid;
     EventHandlerRef m_handler;
-    QString m_paperName;   // as the ticket has it, also when the device lacks it
+    QString m_paperName; // as the ticket has it, also when the device lacks it
     bool m_hasPaper = false;
 };
 

@@ -42,8 +42,8 @@ Ticket carriedOn(const Ticket &came, const Ticket &settled, const Ticket &left)
     for (const QString &key : keys) {
         const auto now = find(left, key);
         const auto before = find(settled, key);
-        const bool isUntouched = now.has_value() == before.has_value()
-            && (!now || now->value == before->value);
+        const bool isUntouched =
+            now.has_value() == before.has_value() && (!now || now->value == before->value);
         if (auto entry = isUntouched ? find(came, key) : now)
             result.entries.emplace_hint(result.entries.end(), key, *std::move(entry));
     }
@@ -56,8 +56,7 @@ Ticket carriedOn(const Ticket &came, const Ticket &settled, const Ticket &left)
     }
     for (const QString &option : options) {
         const auto now = findChoice(left, option);
-        if (const auto choice
-            = now == findChoice(settled, option) ? findChoice(came, option) : now)
+        if (const auto choice = now == findChoice(settled, option) ? findChoice(came, option) : now)
             result.ppdChoices.insert(option, *choice);
     }
     return result;

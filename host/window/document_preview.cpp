@@ -1,0 +1,399 @@
+#include "document_preview.h"
+
+#include "page_renderer.h"
+#include "preview_layout.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int rim = 10; // logical pixels around the sheet: its shadow and the focus ring
+constexpr int shadowSteps = 6;
+constexpr int wheelNotch = 120; // as Qt counts a wheel's turn
+
+// The sheet and what lies on it.
+class SheetView : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    std::function<void(int)> step; // one side back (-1) or forward (1), ends included
+    std::function<void()> changed; // size, pixels or visibility
+    PagePlacement placement;       // what the sheet is, or shall be
+    QImage image;                  // the page as last drawn
+    PagePlacement imagePlacement;  // what `image` was drawn for
+    QString note;                  // on the sheet, in place of a page
+    QString message;               // in place of a sheet
+    bool isEmpty = true;
+
+    QRectF sheetRect(const QSizeF &sheet) const
+    {
+        const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
+        const double scale = scaleFor(sheet);
+        QRectF rect(QPointF(), sheet * scale);
+        rect.moveCenter(QPointF(rim + room.width() / 2, rim + room.height() / 2));
+        // Whole pixels: a hair of grey along an edge looks like a printed line.
+        return QRectF(rect.toAlignedRect());
+    }
+
+    double scaleFor(const QSizeF &sheet) const
+    {
+        const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
+        if (sheet.isEmpty())
+            return 0;
+        return std::max(0.0,
+                        std::min(room.width() / sheet.width(), room.height() / sheet.height()));
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        if (!message.isEmpty() || isEmpty) {
+            painter.setPen(palette().color(QPalette::WindowText));
+            painter.drawText(rect().adjusted(rim, rim, -rim, -rim),
+                             Qt::AlignCenter | Qt::TextWordWrap, message);
+            if (hasFocus())
+                paintFocus(painter, QRectF(rect()).adjusted(2, 2, -2, -2));
+            return;
+        }
+        // Until the new page is drawn, the old one stays, on its own sheet.
+        const PagePlacement &shown = image.isNull() ? placement : imagePlacement;
+        const QRectF sheet = sheetRect(shown.sheet);
+        paintShadow(painter, sheet);
+        painter.fillRect(sheet, Qt::white);
+        if (!note.isEmpty())
+            paintNote(painter, sheet);
+        else if (!image.isNull())
+            paintPage(painter, sheet, shown);
+        painter.setPen(QColor(0, 0, 0, 45));
+        painter.drawRect(sheet.adjusted(-0.5, -0.5, 0.5, 0.5));
+        if (hasFocus())
+            paintFocus(painter, sheet.adjusted(-4, -4, 4, 4));
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        switch (event->key()) {
+        case Qt::Key_PageUp:
+            return step(-1);
+        case Qt::Key_PageDown:
+            return step(1);
+        case Qt::Key_Home:
+            return step(-toEnd);
+        case Qt::Key_End:
+            return step(toEnd);
+        default:
+            QWidget::keyPressEvent(event);
+        }
+    }
+
+    void wheelEvent(QWheelEvent *event) override
+    {
+        m_wheel += event->angleDelta().y();
+        if (const int steps = m_wheel / wheelNotch; steps != 0) {
+            m_wheel -= steps * wheelNotch;
+            step(-steps);
+        }
+        event->accept();
+    }
+
+    void resizeEvent(QResizeEvent *) override { changed(); }
+    void showEvent(QShowEvent *) override { changed(); }
+    bool event(QEvent *event) override
+    {
+        const bool isTaken = QWidget::event(event);
+        // Another screen, other pixels.
+        if (event->type() == QEvent::ScreenChangeInternal)
+            changed();
+        return isTaken;
+    }
+
+private:
+    static constexpr int toEnd = 1'000'000'000;
+
+    static void paintShadow(QPainter &painter, const QRectF &sheet)
+    {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0, 0, 0, 11));
+        for (int grow = 1; grow <= shadowSteps; ++grow) {
+            const QRectF layer = sheet.adjusted(-grow, -grow, grow, grow).translated(0, 1.5);
+            painter.drawRoundedRect(layer, grow, grow);
+        }
+        painter.restore();
+    }
+
+    void paintFocus(QPainter &painter, const QRectF &around) const
+    {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(around, 3, 3);
+        painter.restore();
+    }
+
+    void paintNote(QPainter &painter, const QRectF &sheet) const
+    {
+        painter.setPen(QColor(90, 90, 90)); // on paper, which is white in any theme
+        painter.drawText(sheet.adjusted(rim, rim, -rim, -rim), Qt::AlignCenter | Qt::TextWordWrap,
+                         note);
+    }
+
+    void paintPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
+    {
+        const double scale = sheet.width() / shown.sheet.width();
+        QRectF page(sheet.topLeft() + shown.page.topLeft() * scale, shown.page.size() * scale);
+        // Quarter turns move pixels and blur none.
+        const QImage turned = image.transformed(QTransform().rotate(shown.rotation));
+        // Drawn for this very size, up to rounding: pixel upon pixel, or small
+        // print would blur.
+        const double ratio = devicePixelRatioF();
+        const QSizeF size = QSizeF(turned.size()) / ratio;
+        const QSizeF difference = page.size() - size;
+        if (std::abs(difference.width()) * ratio <= 2
+            && std::abs(difference.height()) * ratio <= 2) {
+            page = QRectF(
+                QPointF(std::round(page.x() * ratio), std::round(page.y() * ratio)) / ratio, size);
+        }
+        painter.save();
+        painter.setClipRect(sheet);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(page, turned);
+        painter.restore();
+    }
+
+    int m_wheel = 0; // turned, but less than a notch
+};
+
+} // namespace
+
+struct DocumentPreview::Private
+{
+    DocumentPreview *preview;
+    Document document;
+    Layout layout;
+    std::vector<PageRun> runs; // of `layout`, or the whole document
+    int index = 0;             // of the shown page in `runs`, from 0
+    QString message;
+
+    PageRenderer renderer;
+    SheetView *sheet;
+    QToolButton *previous;
+    QToolButton *next;
+    QLabel *caption;
+
+    int askedPage = 0; // what the renderer was asked for last
+    QSize askedPixels;
+    PagePlacement askedPlacement;
+
+    explicit Private(DocumentPreview *owner)
+        : preview(owner)
+    {
+    }
+
+    int count() const { return pageCount(runs); }
+    int page() const { return documentPage(runs, index); }
+
+    void setUpRuns()
+    {
+        // The same page stays in sight where it is still printed.
+        const int pageBefore = page();
+        const int last = document.pageCount();
+        runs = layout.pages;
+        if (runs.empty() && last > 0)
+            runs = {{1, last}};
+        // The layout of another document may still stand.
+        std::erase_if(runs, [last](const PageRun &run) { return run.first > last; });
+        for (PageRun &run : runs)
+            run.last = std::min(run.last, last);
+        if (page() == pageBefore)
+            return;
+        for (int candidate = 0; candidate < count(); ++candidate) {
+            if (documentPage(runs, candidate) == pageBefore) {
+                index = candidate;
+                return;
+            }
+        }
+        index = std::clamp(index, 0, std::max(0, count() - 1));
+    }
+
+    void step(int by)
+    {
+        const int last = std::max(0, count() - 1);
+        const int wanted = static_cast<int>(std::clamp<qint64>(qint64(index) + by, 0, last));
+        if (wanted == index || !message.isEmpty())
+            return;
+        index = wanted;
+        sync();
+    }
+
+    // From what is printed to what is shown.
+    void sync()
+    {
+        const bool hasPage = message.isEmpty() && count() > 0;
+        previous->setEnabled(hasPage && index > 0);
+        next->setEnabled(hasPage && index + 1 < count());
+        caption->setText(hasPage ? sideCaption(index, layout.twoSided, page(), document.pageCount())
+                                 : QString());
+        sheet->setAccessibleDescription(hasPage ? caption->text() : message);
+        sheet->message = message;
+        sheet->isEmpty = count() == 0;
+        if (count() > 0) {
+            sheet->placement =
+                placePage(document.pageSize(page()), layout.paper, layout.orientation);
+        }
+        sheet->update();
+        request();
+    }
+
+    void request()
+    {
+        if (!sheet->isVisible() || sheet->isEmpty || !message.isEmpty())
+            return;
+        const PagePlacement &placement = sheet->placement;
+        const double scale = sheet->scaleFor(placement.sheet) * sheet->devicePixelRatioF();
+        QSizeF pixels = placement.page.size() * scale;
+        if (placement.rotation % 180 != 0)
+            pixels.transpose();
+        const QSize whole = pixels.toSize();
+        if (whole.isEmpty()
+            || (page() == askedPage && whole == askedPixels && placement == askedPlacement)) {
+            return;
+        }
+        // The same page in the same pixels need not be drawn again to lie elsewhere.
+        const bool isDrawn = page() == askedPage && whole == askedPixels && hasAnswer;
+        askedPage = page();
+        askedPixels = whole;
+        askedPlacement = placement;
+        if (isDrawn) {
+            sheet->imagePlacement = placement;
+            return;
+        }
+        hasAnswer = false;
+        renderer.render(page(), whole);
+    }
+
+    void show(const QImage &image)
+    {
+        hasAnswer = true;
+        sheet->image = image;
+        sheet->imagePlacement = askedPlacement;
+        sheet->note =
+            image.isNull() ? DocumentPreview::tr("This page cannot be shown.") : QString();
+        sheet->update();
+    }
+
+    bool hasAnswer = false; // what was asked for is in sight
+};
+
+DocumentPreview::DocumentPreview(QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<Private>(this))
+{
+    d->sheet = new SheetView(this);
+    d->sheet->setObjectName(QStringLiteral("previewSheet"));
+    d->sheet->setAccessibleName(tr("Preview"));
+    d->sheet->setFocusPolicy(Qt::StrongFocus);
+    d->sheet->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    d->sheet->step = [this](int by) { d->step(by); };
+    d->sheet->changed = [this] { d->request(); };
+    setFocusProxy(d->sheet);
+
+    const auto button = [this](const char *name, Qt::ArrowType arrow, const QString &text, int by) {
+        auto *made = new QToolButton(this);
+        made->setObjectName(QLatin1String(name));
+        made->setArrowType(arrow);
+        made->setAutoRaise(true);
+        made->setAccessibleName(text);
+        made->setToolTip(text);
+        made->setAutoRepeat(true);
+        connect(made, &QToolButton::clicked, this, [this, by] { d->step(by); });
+        return made;
+    };
+    d->previous = button("previewPrevious", Qt::LeftArrow, tr("Previous page"), -1);
+    d->next = button("previewNext", Qt::RightArrow, tr("Next page"), 1);
+
+    d->caption = new QLabel(this);
+    d->caption->setObjectName(QStringLiteral("previewPage"));
+    d->caption->setTextFormat(Qt::PlainText);
+    d->caption->setAlignment(Qt::AlignCenter);
+
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(d->previous);
+    row->addWidget(d->caption, 1);
+    row->addWidget(d->next);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    column->addWidget(d->sheet, 1);
+    column->addLayout(row);
+
+    connect(&d->renderer, &PageRenderer::rendered, this,
+            [this](int, const QImage &image) { d->show(image); });
+    d->sync();
+}
+
+DocumentPreview::~DocumentPreview() = default;
+
+void DocumentPreview::setDocument(const Document &document)
+{
+    d->document = document;
+    d->index = 0;
+    d->runs.clear();
+    d->setUpRuns();
+    d->askedPage = 0;
+    d->hasAnswer = false;
+    // Another document's page must not stand in for this one's.
+    d->sheet->image = {};
+    d->sheet->note.clear();
+    d->renderer.setDocument(document);
+    d->sync();
+}
+
+void DocumentPreview::setLayout(const Layout &layout)
+{
+    d->layout = layout;
+    d->setUpRuns();
+    d->sync();
+}
+
+void DocumentPreview::setMessage(const QString &message)
+{
+    d->message = message;
+    d->sync();
+}
+
+int DocumentPreview::sheetCount() const
+{
+    return sheetsFor(d->count(), d->layout.twoSided);
+}
+
+QSize DocumentPreview::sizeHint() const
+{
+    const int em = fontMetrics().height();
+    return {em * 16, em * 20};
+}
+
+QSize DocumentPreview::minimumSizeHint() const
+{
+    const int em = fontMetrics().height();
+    return {em * 8, em * 8};
+}
+
+} // namespace kelvo

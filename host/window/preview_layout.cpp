@@ -1,0 +1,61 @@
+#include "preview_layout.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+bool isWide(const QSizeF &size)
+{
+    return size.width() > size.height();
+}
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("DocumentPreview", text);
+}
+
+} // namespace
+
+PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation orientation)
+{
+    const bool isLandscape =
+        orientation == Orientation::Landscape || orientation == Orientation::ReverseLandscape;
+    const bool isReverse =
+        orientation == Orientation::ReversePortrait || orientation == Orientation::ReverseLandscape;
+
+    PagePlacement placement;
+    if (paper.isEmpty())
+        placement.sheet = page;
+    else
+        placement.sheet = isLandscape ? paper.transposed() : paper;
+
+    const bool isTurned = isWide(page) != isWide(placement.sheet) && page.width() != page.height();
+    const QSizeF turned = isTurned ? page.transposed() : page;
+    const double scale = std::min({1.0, placement.sheet.width() / turned.width(),
+                                   placement.sheet.height() / turned.height()});
+    placement.page.setSize(turned * scale);
+    placement.page.moveCenter(QPointF(placement.sheet.width() / 2, placement.sheet.height() / 2));
+    placement.rotation = (isTurned ? 270 : 0) + (isReverse ? 180 : 0);
+    placement.rotation %= 360;
+    return placement;
+}
+
+int sheetsFor(int pages, bool twoSided)
+{
+    return twoSided ? (pages + 1) / 2 : pages;
+}
+
+QString sideCaption(int index, bool twoSided, int page, int count)
+{
+    if (!twoSided)
+        return tr("Sheet %1 · page %2 of %3").arg(index + 1).arg(page).arg(count);
+    const QString text = index % 2 == 0 ? tr("Sheet %1, front · page %2 of %3")
+                                        : tr("Sheet %1, back · page %2 of %3");
+    return text.arg(index / 2 + 1).arg(page).arg(count);
+}
+
+} // namespace kelvo

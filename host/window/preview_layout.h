@@ -1,0 +1,37 @@
+#pragma once
+
+#include "job_settings.h"
+#include "page_ranges.h"
+
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+
+#include <vector>
+
+// What the preview shows, as rules without a window.
+namespace kelvo {
+
+// How a page of the document lies on the sheet as one looks at it. Points, from
+// the sheet's top left.
+struct PagePlacement
+{
+    QSizeF sheet;     // turned for landscape
+    QRectF page;      // centred on the sheet; made smaller to fit, never larger
+    int rotation = 0; // of the page, clockwise: 0, 90, 180 or 270
+    friend bool operator==(const PagePlacement &, const PagePlacement &) = default;
+};
+
+// `paper` empty: the sheet is the page. A page that is wide on tall paper (or
+// the other way round) is turned a quarter, as printers do; reverse orientations
+// turn everything upside down.
+PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation orientation);
+
+// Sheets of paper for `pages` pages.
+int sheetsFor(int pages, bool twoSided);
+
+// "Sheet 2, front · page 3 of 12" for page `index` (from 0) of what is printed,
+// which is page `page` of the document's `count`. One-sided sheets have no front.
+QString sideCaption(int index, bool twoSided, int page, int count);
+
+} // namespace kelvo

@@ -1,0 +1,59 @@
+#include "sample_documents.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace kelvo::test {
+
+QByteArray pdfOf(const QList<QByteArray> &objects)
+{
+    QByteArray pdf = "%PDF-1.7\n";
+    QByteArray table = "0000000000 65535 f \n";
+    for (qsizetype index = 0; index < objects.size(); ++index) {
+        table += QByteArray::number(pdf.size()).rightJustified(10, '0') + " 00000 n \n";
+        pdf += QByteArray::number(index + 1) + " 0 obj\n" + objects[index] + "\nendobj\n";
+    }
+    const QByteArray count = QByteArray::number(objects.size() + 1);
+    const QByteArray start = QByteArray::number(pdf.size());
+    return pdf + "xref\n0 " + count + "\n" + table + "trailer\n<< /Size " + count
+        + " /Root 1 0 R >>\nstartxref\n" + start + "\n%%EOF\n";
+}
+
+QByteArray stream(const QByteArray &contents)
+{
+    return "<< /Length " + QByteArray::number(contents.size()) + " >>\nstream\n" + contents
+        + "\nendstream";
+}
+
+QByteArray pdfWithPages(const QList<QByteArray> &contents, const QByteArray &pageEntries)
+{
+    // 1 the catalog, 2 the page tree, then each page and its contents.
+    QByteArray kids;
+    QList<QByteArray> pages;
+    for (qsizetype index = 0; index < contents.size(); ++index) {
+        const QByteArray number = QByteArray::number(3 + 2 * index);
+        kids += number + " 0 R ";
+        pages << "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 " + QByteArray::number(201 + index)
+                + " 300] /Contents " + QByteArray::number(4 + 2 * index) + " 0 R " + pageEntries
+                + " >>";
+        pages << stream(contents[index]);
+    }
+    return pdfOf(QList<QByteArray>{"<< /Type /Catalog /Pages 2 0 R >>",
+                                   "<< /Type /Pages /Kids [" + kids + "] /Count "
+                                       + QByteArray::number(contents.size()) + " >>"}
+                 + pages);
+}
+
+QByteArray filled(const QByteArray &rgb)
+{
+    return rgb + " rg 0 0 2000 2000 re f";
+}
+
+QString file(const QString &name, const QByteArray &bytes)
+{
+    QFile made(name);
+    const bool isWritten = made.open(QIODevice::WriteOnly) && made.write(bytes) == bytes.size();
+    return isWritten ? QDir::current().absoluteFilePath(name) : QString();
+}
+
+} // namespace kelvo::test

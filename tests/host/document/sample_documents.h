@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+// Documents for the tests, made of bytes that one can read.
+namespace kelvo::test {
+
+// A sound PDF file of `objects`; the first is number 1, the catalog.
+QByteArray pdfOf(const QList<QByteArray> &objects);
+
+// "<< … /Length n >> stream …" of page contents.
+QByteArray stream(const QByteArray &contents);
+
+// A PDF with one page for each of `contents`. Page n is 200 + n points wide and
+// 300 high; `pageEntries` go into every page's dictionary.
+QByteArray pdfWithPages(const QList<QByteArray> &contents, const QByteArray &pageEntries = {});
+
+// Page contents: the whole page in a colour ("1 0 0" is red).
+QByteArray filled(const QByteArray &rgb);
+
+// Writes `bytes` to `name` in the current folder, the test's own; its full path.
+QString file(const QString &name, const QByteArray &bytes);
+
+} // namespace kelvo::test

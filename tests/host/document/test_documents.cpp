@@ -1,0 +1,704 @@
+#include "document.h"
+#include "document_files.h"
+#include "sample_documents.h"
+#include "size_limits.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QImage>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <poppler-qt6.h>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace kelvo;
+using namespace kelvo::test;
+
+Q_DECLARE_METATYPE(kelvo::Error::Code)
+
+namespace {
+
+Result<Document> open(const QString &path)
+{
+    const std::atomic_bool cancelled = false;
+    return openDocument({path, {}}, cancelled);
+}
+
+// Several pictures are more bytes than one would write down.
+QByteArray picture(const char *format, const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.setDotsPerMeterX(2835); // 72 dpi: a pixel is a point
+    image.setDotsPerMeterY(2835);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, format) ? bytes : QByteArray();
+}
+
+QByteArray bigEndian(quint32 number)
+{
+    QByteArray bytes;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        bytes += static_cast<char>(number >> shift);
+    return bytes;
+}
+
+// A PNG that says it is this large, and is not.
+QByteArray emptyPng(quint32 width, quint32 height)
+{
+    const QByteArray header =
+        "IHDR" + bigEndian(width) + bigEndian(height) + QByteArray("\x08\x02\0\0\0", 5);
+    quint32 crc = 0xffffffff;
+    for (const char byte : header) {
+        crc ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ (crc & 1 ? 0xedb88320 : 0);
+    }
+    return "\x89PNG\r\n\x1a\n" + bigEndian(13) + header + bigEndian(~crc) + bigEndian(1000)
+        + "IDAT\x78\x9c";
+}
+
+// A grey TIFF of one pixel a page.
+QByteArray tiff(int pages)
+{
+    QByteArray bytes = QByteArray("MM\0*", 4) + bigEndian(8);
+    const auto entry = [](int tag, int type, quint32 value) {
+        return bigEndian(quint32(tag) << 16 | quint32(type)) + bigEndian(1)
+            + (type == 3 ? bigEndian(value << 16) : bigEndian(value));
+    };
+    for (int page = 0; page < pages; ++page) {
+        const auto next = static_cast<quint32>(bytes.size() + 2 + 8 * 12 + 4);
+        bytes += QByteArray("\0\x08", 2) + entry(256, 3, 1) + entry(257, 3, 1) + entry(258, 3, 8)
+            + entry(259, 3, 1) + entry(262, 3, 1) + entry(273, 4, 8) + entry(278, 3, 1)
+            + entry(279, 4, 1) + bigEndian(page + 1 < pages ? next : 0);
+    }
+    return bytes;
+}
+
+QByteArray readAll(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray encrypted(const QByteArray &pdf, const char *password, bool mayPrint)
+{
+    QPDF document;
+    document.processMemoryFile("sample", pdf.constData(), static_cast<std::size_t>(pdf.size()));
+    QPDFWriter writer(document);
+    writer.setOutputMemory();
+    writer.setR6EncryptionParameters(password, "owner", true, true, true, true, true, true,
+                                     mayPrint ? qpdf_r3p_full : qpdf_r3p_none, true);
+    writer.write();
+    const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
+    return QByteArray(reinterpret_cast<const char *>(buffer->getBuffer()),
+                      static_cast<qsizetype>(buffer->getSize()));
+}
+
+// A file of `size` bytes that begins with `head`; the rest are zeros that take no room.
+QString sparseFile(const QByteArray &head, qint64 size)
+{
+    const QString path = file("sparse", head);
+    return QFile::resize(path, size) ? path : QString();
+}
+
+QString textOf(const Document &document)
+{
+    const auto pdf = Poppler::Document::load(document.pdfPath());
+    QStringList pages;
+    for (int page = 0; page < pdf->numPages(); ++page)
+        pages << pdf->page(page)->text(QRectF()).trimmed();
+    return pages.join(u'|');
+}
+
+// Files may have this many bytes while this lives: a disk that fills up.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before = {};
+};
+
+const QByteArray postScriptPage =
+    "/Helvetica findfont 20 scalefont setfont 72 700 moveto (hello) show showpage\n";
+
+} // namespace
+
+class TestDocuments : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void makesPdfOfEachKind_data();
+    void makesPdfOfEachKind();
+    void refusesWhatItCannotPrint_data();
+    void refusesWhatItCannotPrint();
+    void obeysSizeLimits_data();
+    void obeysSizeLimits();
+    void setsTexts_data();
+    void setsTexts();
+    void fillsPagesBetweenTheMargins();
+    void wrapsOneEndlessLine();
+    void tellsShownSizes_data();
+    void tellsShownSizes();
+    void repairsDamageAndSaysSo();
+    void unlocksWhatNeedsNoPassword();
+    void cutsPagesInOrder();
+    void leavesNothingOfOtherPages();
+    void refusesPagesThatAreNotThere();
+    void keepsFilesPrivateAndCleansUp();
+    void saysThatTheDiskIsFull_data();
+    void saysThatTheDiskIsFull();
+    void saysThatTheDiskIsFullWhenCutting();
+    void stopsWhenCancelled();
+    void survivesACrashingHelper();
+    void namesTheMissingPackage();
+    void readsStandardInput();
+    void placesPictures_data();
+    void placesPictures();
+};
+
+// Whatever a test did: when its documents are gone, so are their files.
+void TestDocuments::cleanup()
+{
+    QCOMPARE(QDir::temp().entryList({"kelvo-print-*"}, QDir::Dirs), QStringList());
+}
+
+void TestDocuments::makesPdfOfEachKind_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<QSize>("size"); // points, rounded, of the first page
+    const QSize portrait(595, 842);
+    const QSize landscape(842, 595);
+
+    QTest::newRow("PDF") << pdfWithPages({"", ""}) << 2 << QSize(201, 300);
+    QTest::newRow("PDF after junk") << "junk\n" + pdfWithPages({""}) << 1 << QSize(201, 300);
+    QTest::newRow("PostScript") << "%!PS\n" + postScriptPage + postScriptPage << 2 << portrait;
+    QTest::newRow("wrapped PostScript")
+        << "\x1b%-12345X@PJL ENTER LANGUAGE=POSTSCRIPT\r\n%!PS\n" + postScriptPage << 1 << portrait;
+    QTest::newRow("EPS without showpage")
+        << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n0 0 9 9 rectfill\n") << 1
+        << portrait;
+    QTest::newRow("PNG, wide") << picture("png", {300, 200}) << 1 << landscape;
+    QTest::newRow("JPEG, tall") << picture("jpeg", {200, 300}) << 1 << portrait;
+    QTest::newRow("JPEG, larger than paper") << picture("jpeg", {6000, 2000}) << 1 << landscape;
+    QTest::newRow("BMP") << picture("bmp", {20, 30}) << 1 << portrait;
+    QTest::newRow("WebP") << picture("webp", {20, 30}) << 1 << portrait;
+    QTest::newRow("GIF") << QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0"
+                                       "\2\2D\1\0;",
+                                       35)
+                         << 1 << portrait;
+    QTest::newRow("TIFF with pages") << tiff(3) << 3 << portrait;
+    QTest::newRow("SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='300' "
+                                       "height='100'><text x='9' y='50'>hello</text></svg>")
+                         << 1 << landscape;
+}
+
+void TestDocuments::makesPdfOfEachKind()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, pages);
+    QFETCH(QSize, size);
+
+    // No ending, and a name that a careless caller would take for something else.
+    const Result<Document> document = open(file("%d -o 'x' <b>.ps.png", bytes));
+
+    QVERIFY2(document, document ? "" : qPrintable(document.error().text()));
+    QCOMPARE(document.value().title(), "%d -o 'x' <b>.ps.png");
+    QCOMPARE(document.value().pageCount(), pages);
+    QCOMPARE(document.value().pageSize(1).toSize(), size);
+    QVERIFY(!document.value().isRepaired());
+    const auto pdf = Poppler::Document::load(document.value().pdfPath());
+    QVERIFY(pdf);
+    QCOMPARE(pdf->numPages(), pages);
+    QCOMPARE(pdf->page(0)->pageSizeF().toSize(), size);
+}
+
+void TestDocuments::refusesWhatItCannotPrint_data()
+{
+    using Code = Error::Code;
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<Error::Code>("code");
+    QTest::addColumn<QString>("words"); // in the message
+
+    const QByteArray pdf = pdfWithPages({"", ""});
+    QTest::newRow("empty") << QByteArray() << Code::Damaged << "is empty";
+    QTest::newRow("binary") << QByteArray("\1\0\2\0", 4) << Code::Unsupported << "can be printed";
+    QTest::newRow("office") << QByteArray("PK\3\4x") << Code::Unsupported << "office";
+    QTest::newRow("binary after much text")
+        << QByteArray(100'000, 'a') + '\0' << Code::Unsupported << "no text has";
+    QTest::newRow("PDF, only its header") << pdf.first(20) << Code::Damaged << "damaged";
+    QTest::newRow("PDF without pages")
+        << pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [] /Count 0 >>"})
+        << Code::Damaged << "no pages";
+    QTest::newRow("PDF that is its own page tree")
+        << pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [2 0 R] /Count 1 >>"})
+        << Code::Damaged << "PDF";
+    QTest::newRow("PDF with a password")
+        << encrypted(pdf, "secret", true) << Code::Refused << "password";
+    QTest::newRow("PDF that must not be printed")
+        << encrypted(pdf, "", false) << Code::Refused << "does not allow";
+    QTest::newRow("PostScript with an error")
+        << QByteArray("%!PS\nnonsense showpage\n") << Code::Damaged << "undefined";
+    QTest::newRow("PostScript that reads files")
+        << QByteArray("%!PS\n(/etc/passwd) (r) file showpage\n") << Code::Damaged
+        << "invalidfileaccess";
+    QTest::newRow("picture cut off")
+        << picture("png", {300, 200}).first(60) << Code::Damaged << "cannot be read";
+    QTest::newRow("picture at the pixel limit")
+        << emptyPng(20'000, 10'000) << Code::Damaged << "cannot be read";
+    QTest::newRow("one row above") << emptyPng(20'000, 10'001) << Code::TooLarge << "200 million";
+    QTest::newRow("picture of all numbers")
+        << emptyPng(0x7fffffff, 0x7fffffff) << Code::Damaged << "cannot be read";
+    QTest::newRow("SVG cut off") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'><g")
+                                 << Code::Damaged << "cannot be read";
+}
+
+void TestDocuments::refusesWhatItCannotPrint()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(Error::Code, code);
+    QFETCH(QString, words);
+    const QString path = file("document", bytes);
+
+    const Result<Document> document = open(path);
+
+    QVERIFY(!document);
+    QCOMPARE(document.error().code, code);
+    QCOMPARE(document.error().where, path);
+    QVERIFY2(document.error().detail.contains(words), qPrintable(document.error().detail));
+}
+
+void TestDocuments::obeysSizeLimits_data()
+{
+    using Code = Error::Code;
+    QTest::addColumn<QByteArray>("head");
+    QTest::addColumn<qint64>("size");
+    QTest::addColumn<Error::Code>("code");
+
+    // At the limit the zeros are looked at, and found to be neither text nor picture.
+    const QByteArray text(kKindBytes, 'a');
+    const QByteArray png = emptyPng(1, 1);
+    QTest::newRow("text") << text << limits::textBytes << Code::Unsupported;
+    QTest::newRow("text + 1") << text << limits::textBytes + 1 << Code::TooLarge;
+    QTest::newRow("picture") << png << limits::pictureBytes << Code::Damaged;
+    QTest::newRow("picture + 1") << png << limits::pictureBytes + 1 << Code::TooLarge;
+    QTest::newRow("PDF + 1") << QByteArray("%PDF-1.7\n") << limits::documentBytes + 1
+                             << Code::TooLarge;
+}
+
+void TestDocuments::obeysSizeLimits()
+{
+    QFETCH(QByteArray, head);
+    QFETCH(qint64, size);
+    QFETCH(Error::Code, code);
+    const QString path = sparseFile(head, size);
+    QVERIFY(!path.isEmpty());
+
+    const Result<Document> document = open(path);
+
+    QFile::remove(path);
+    QVERIFY(!document);
+    QCOMPARE(document.error().code, code);
+}
+
+void TestDocuments::setsTexts_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text"); // as poppler reads it; pages between bars
+
+    QTest::newRow("UTF-8") << QByteArray("Gr\xc3\xbc\xc3\x9f"
+                                         "e\n")
+                           << QStringLiteral("Grüße");
+    QTest::newRow("Latin-1") << QByteArray("Gr\xfc\xdf"
+                                           "e\n")
+                             << QStringLiteral("Grüße");
+    QTest::newRow("Windows quotes") << QByteArray("\x93hi\x94 \x80") << QStringLiteral("“hi” €");
+    QTest::newRow("UTF-16") << QByteArray("\xff\xfe"
+                                          "h\0i\0",
+                                          6)
+                            << "hi";
+    QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbfhi") << "hi";
+    QTest::newRow("form feeds") << QByteArray("one\ftwo\n\f\fthree") << "one|two||three";
+    QTest::newRow("form feed at the end") << QByteArray("one\f") << "one";
+    QTest::newRow("all line ends") << QByteArray("a\nb\r\nc\rd") << "a\nb\nc\nd";
+    QTest::newRow("terminal codes") << QByteArray("\x1b[1;31mN\bNAME\x1b[0m") << "NAME";
+    QTest::newRow("no markup") << QByteArray("<b>x</b> &amp;") << "<b>x</b> &amp;";
+}
+
+void TestDocuments::setsTexts()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+
+    const Result<Document> document = open(file("text", bytes));
+
+    QVERIFY2(document, document ? "" : qPrintable(document.error().text()));
+    QCOMPARE(textOf(document.value()), text);
+}
+
+void TestDocuments::fillsPagesBetweenTheMargins()
+{
+    const Result<Document> document = open(file("text", QByteArray("Ag\n").repeated(200)));
+    QVERIFY(document);
+
+    const double margin = 20 / 25.4 * 72;
+    const QRectF inside = QRectF(QPointF(), document.value().pageSize(1))
+                              .adjusted(margin - 1, margin - 1, 1 - margin, 1 - margin);
+    const auto pdf = Poppler::Document::load(document.value().pdfPath());
+    std::size_t words = 0;
+    for (int page = 0; page < pdf->numPages(); ++page) {
+        const auto boxes = pdf->page(page)->textList();
+        words += boxes.size();
+        for (const auto &box : boxes)
+            QVERIFY(inside.contains(box->boundingBox()));
+        // One more line would not have gone on a page that is followed by another.
+        const double lineHeight = boxes[1]->boundingBox().top() - boxes[0]->boundingBox().top();
+        QVERIFY(page + 1 == pdf->numPages()
+                || boxes.back()->boundingBox().bottom() + lineHeight > inside.bottom());
+    }
+    QCOMPARE(words, std::size_t(200));
+}
+
+// Longer than the pieces that are laid out at a time: nothing may be lost,
+// doubled or broken where they meet.
+void TestDocuments::wrapsOneEndlessLine()
+{
+    QByteArray line;
+    for (int number = 0; number < 5000; ++number)
+        line += QByteArray::number(number) + "\xc3\xa9 ";
+
+    const Result<Document> document = open(file("text", line));
+
+    QVERIFY(document);
+    const QString text = textOf(document.value());
+    QCOMPARE(QString(text).replace(u'|', u' ').simplified(), QString::fromUtf8(line).trimmed());
+    for (const QString &row : text.split(QRegularExpression("[\n|]")).mid(0, 300))
+        QVERIFY2(row.size() > 70 && row.size() <= 80, qPrintable(row));
+}
+
+void TestDocuments::tellsShownSizes_data()
+{
+    QTest::addColumn<QByteArray>("entries");
+    QTest::addColumn<QSizeF>("size");
+
+    QTest::newRow("media box") << QByteArray() << QSizeF(201, 300);
+    QTest::newRow("rotated") << QByteArray("/Rotate 90") << QSizeF(300, 201);
+    QTest::newRow("rotated back") << QByteArray("/Rotate -270") << QSizeF(300, 201);
+    QTest::newRow("rotated by nonsense") << QByteArray("/Rotate 45") << QSizeF(201, 300);
+    QTest::newRow("cropped") << QByteArray("/CropBox [10 10 110 60]") << QSizeF(100, 50);
+    QTest::newRow("cropped upside down")
+        << QByteArray("/CropBox [110 60 10 10]") << QSizeF(100, 50);
+    QTest::newRow("cropped beyond the paper")
+        << QByteArray("/CropBox [-10 -10 900 900]") << QSizeF(201, 300);
+    QTest::newRow("cropped away") << QByteArray("/CropBox [500 500 600 600]") << QSizeF(201, 300);
+    QTest::newRow("a unit of its own") << QByteArray("/UserUnit 2") << QSizeF(402, 600);
+}
+
+void TestDocuments::tellsShownSizes()
+{
+    QFETCH(QByteArray, entries);
+    QFETCH(QSizeF, size);
+
+    const Result<Document> document = open(file("pdf", pdfWithPages({""}, entries)));
+
+    QVERIFY(document);
+    QCOMPARE(document.value().pageSize(1), size);
+    QVERIFY(document.value().pageSize(0).isEmpty());
+    QVERIFY(document.value().pageSize(2).isEmpty());
+}
+
+void TestDocuments::repairsDamageAndSaysSo()
+{
+    QByteArray pdf = pdfWithPages({filled("1 0 0"), filled("0 1 0")});
+    pdf.replace("startxref\n", "startxref\n9");
+
+    const Result<Document> document = open(file("pdf", pdf));
+
+    QVERIFY(document);
+    QVERIFY(document.value().isRepaired());
+    QCOMPARE(document.value().pageCount(), 2);
+    const Result<Document> again = documentFromPdf(document.value().pdfPath(), {});
+    QVERIFY(again);
+    QVERIFY(!again.value().isRepaired());
+    QVERIFY(!documentFromPdf(file("text", "text"), {}));
+}
+
+void TestDocuments::unlocksWhatNeedsNoPassword()
+{
+    const QByteArray pdf = encrypted(pdfWithPages({"", ""}), "", true);
+
+    const Result<Document> document = open(file("pdf", pdf));
+
+    QVERIFY(document);
+    QVERIFY(!document.value().isRepaired());
+    QVERIFY(readAll(document.value().pdfPath()).indexOf("/Encrypt") < 0);
+}
+
+void TestDocuments::cutsPagesInOrder()
+{
+    const Result<Document> whole = open(file("pdf", pdfWithPages({"", "", "", "", ""})));
+    QVERIFY(whole);
+
+    const Result<Document> cut = whole.value().withPages({{4, 5}, {2, 2}, {4, 4}});
+
+    QVERIFY2(cut, cut ? "" : qPrintable(cut.error().text()));
+    QCOMPARE(cut.value().title(), whole.value().title());
+    const auto pdf = Poppler::Document::load(cut.value().pdfPath());
+    QVERIFY(pdf);
+    QList<int> widths;
+    for (int page = 1; page <= cut.value().pageCount(); ++page) {
+        widths << cut.value().pageSize(page).toSize().width();
+        QCOMPARE(pdf->page(page - 1)->pageSize().width(), widths.last());
+    }
+    QCOMPARE(widths, QList<int>({204, 205, 202, 204}));
+    QCOMPARE(pdf->numPages(), 4);
+
+    // All pages are the document itself, and no other file.
+    const Result<Document> all = whole.value().withPages({{1, 5}});
+    QVERIFY(all);
+    QCOMPARE(all.value().pdfPath(), whole.value().pdfPath());
+}
+
+void TestDocuments::leavesNothingOfOtherPages()
+{
+    // A bookmark, a link and a form field lead to the page that is cut away.
+    const QByteArray pdf = pdfOf(
+        {"<< /Type /Catalog /Pages 2 0 R /Outlines 7 0 R /AcroForm << /Fields [9 0 R] >> >>",
+         "<< /Type /Pages /Kids [3 0 R 5 0 R] /Count 2 >>",
+         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 4 0 R /Annots [<< /Type "
+         "/Annot /Subtype /Link /Rect [0 0 9 9] /Dest [5 0 R /Fit] >>] >>",
+         stream("% KEPT"),
+         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 6 0 R /Annots [9 0 R] >>",
+         stream("% SECRET"), "<< /Type /Outlines /First 8 0 R /Last 8 0 R >>",
+         "<< /Title (b) /Parent 7 0 R /Dest [5 0 R /Fit] >>",
+         "<< /Type /Annot /Subtype /Widget /FT /Tx /T (t) /Rect [0 0 9 9] /P 5 0 R >>"});
+    const Result<Document> whole = open(file("pdf", pdf));
+    QVERIFY(whole);
+
+    const Result<Document> cut = whole.value().withPages({{1, 1}});
+
+    QVERIFY(cut);
+    QPDF result;
+    result.processFile(cut.value().pdfPath().toLocal8Bit().constData());
+    QByteArray contents;
+    for (QPDFObjectHandle &object : result.getAllObjects()) {
+        if (object.isStream()) {
+            const auto data = object.getStreamData();
+            contents.append(reinterpret_cast<const char *>(data->getBuffer()),
+                            static_cast<qsizetype>(data->getSize()));
+        }
+    }
+    QVERIFY(contents.contains("KEPT"));
+    QVERIFY(!contents.contains("SECRET"));
+    QVERIFY(!result.anyWarnings());
+}
+
+void TestDocuments::refusesPagesThatAreNotThere()
+{
+    const Result<Document> whole = open(file("pdf", pdfWithPages({"", ""})));
+    QVERIFY(whole);
+
+    QVERIFY(!whole.value().withPages({}));
+    QVERIFY(!whole.value().withPages({{0, 1}}));
+    QVERIFY(!whole.value().withPages({{2, 3}}));
+    QVERIFY(!whole.value().withPages({{2, 1}}));
+    QVERIFY(!Document().withPages({{1, 1}}));
+}
+
+void TestDocuments::keepsFilesPrivateAndCleansUp()
+{
+    ::umask(0);
+    const QString source = file("text", "text");
+    QString folder;
+    {
+        Result<Document> document = open(source);
+        QVERIFY(document);
+        Document copy = document.value();
+        document = Error{Error::Code::NotFound, {}, {}};
+        folder = QFileInfo(copy.pdfPath()).path();
+        struct stat status = {};
+        QCOMPARE(::stat(folder.toLocal8Bit().constData(), &status), 0);
+        QCOMPARE(status.st_mode & 0777, 0700U);
+        QCOMPARE(::stat(copy.pdfPath().toLocal8Bit().constData(), &status), 0);
+        QCOMPARE(status.st_mode & 0777, 0600U);
+        // The PDF alone: no copy of the source lies beside it.
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("document.pdf"));
+    }
+    QVERIFY(!QFileInfo::exists(folder));
+    QCOMPARE(readAll(source), "text");
+}
+
+void TestDocuments::saysThatTheDiskIsFull_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("room"); // bytes that a file may have
+
+    const QByteArray pdf = pdfWithPages({QByteArray(20'000, '\n')});
+    QTest::newRow("PDF") << pdf << 10'000;
+    QTest::newRow("text") << QByteArray("text") << 2000;
+    QTest::newRow("source of a text") << QByteArray(20'000, 'x') << 10'000;
+}
+
+void TestDocuments::saysThatTheDiskIsFull()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, room);
+    const QString path = file("document", bytes);
+
+    const FullDisk full(static_cast<rlim_t>(room));
+    const Result<Document> document = open(path);
+
+    QVERIFY(!document);
+    QCOMPARE(document.error().code, Error::Code::NotWritable);
+    QVERIFY2(document.error().where.startsWith(QDir::tempPath()),
+             qPrintable(document.error().text()));
+}
+
+void TestDocuments::saysThatTheDiskIsFullWhenCutting()
+{
+    QByteArray noise = "% ";
+    for (quint32 seed = 1; noise.size() < 30'000; seed = seed * 1'664'525 + 1'013'904'223)
+        noise += QByteArray::number(seed >> 8);
+    const Result<Document> whole = open(file("pdf", pdfWithPages({noise, noise})));
+    QVERIFY(whole);
+
+    const FullDisk full(5000);
+    const Result<Document> cut = whole.value().withPages({{1, 1}});
+
+    QVERIFY(!cut);
+    QCOMPARE(cut.error().code, Error::Code::NotWritable);
+}
+
+void TestDocuments::stopsWhenCancelled()
+{
+    QVERIFY(::mkfifo("pipe", 0600) == 0);
+    for (const QString &path : {file("loop", "%!PS\n{} loop\n"), QString("pipe")}) {
+        std::atomic_bool cancelled = false;
+        QElapsedTimer timer;
+        timer.start();
+        std::thread user([&cancelled] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+            cancelled = true;
+        });
+        const Result<Document> document = openDocument({path, {}}, cancelled);
+        user.join();
+        QVERIFY(!document);
+        QCOMPARE(document.error().code, Error::Code::Cancelled);
+        QVERIFY(timer.elapsed() < 20'000);
+    }
+}
+
+void TestDocuments::survivesACrashingHelper()
+{
+    const QString program = file("helper", "#!/bin/sh\nkill -SEGV $$\n");
+    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    setPictureHelperProgram(program);
+
+    const Result<Document> document = open(file("picture", picture("png", {20, 30})));
+
+    setPictureHelperProgram({});
+    QVERIFY(!document);
+    QCOMPARE(document.error().code, Error::Code::Damaged);
+    QVERIFY2(document.error().detail.contains("crashed"), qPrintable(document.error().detail));
+}
+
+void TestDocuments::namesTheMissingPackage()
+{
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QDir::currentPath().toLocal8Bit());
+    const Result<Document> document = open(file("ps", "%!PS\n" + postScriptPage));
+    qputenv("PATH", path);
+
+    QVERIFY(!document);
+    QCOMPARE(document.error().code, Error::Code::Unsupported);
+    QVERIFY(document.error().detail.contains("\"ghostscript\""));
+}
+
+void TestDocuments::readsStandardInput()
+{
+    const int fd =
+        ::open(file("pdf", pdfWithPages({"", ""})).toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
+    const int before = ::dup(STDIN_FILENO);
+    QVERIFY(::dup2(fd, STDIN_FILENO) == STDIN_FILENO);
+    const Result<Document> document = open("-");
+    ::dup2(before, STDIN_FILENO);
+    ::close(before);
+    ::close(fd);
+
+    QVERIFY(document);
+    QCOMPARE(document.value().title(), "(stdin)");
+    QCOMPARE(document.value().pageCount(), 2);
+
+    const Result<Document> folder = open(QDir::currentPath());
+    QVERIFY(!folder && folder.error().detail.contains("folder"));
+    const Result<Document> missing = open("missing");
+    QVERIFY(!missing);
+    QCOMPARE(missing.error().code, Error::Code::NotFound);
+}
+
+void TestDocuments::placesPictures_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QSizeF>("paper");
+    QTest::addColumn<QRectF>("placed");
+    const double margin = 12 / 25.4 * 72;
+    const QSizeF room = kLetter - QSizeF(2 * margin, 2 * margin);
+
+    QTest::newRow("small, at its size")
+        << QSizeF(100, 200) << kLetter << QRectF(256, 296, 100, 200);
+    QTest::newRow("wide") << QSizeF(200, 100) << kLetter.transposed() << QRectF(296, 256, 200, 100);
+    QTest::newRow("square") << QSizeF(100, 100) << kLetter << QRectF(256, 346, 100, 100);
+    QTest::newRow("fills the room exactly")
+        << room << kLetter << QRectF(QPointF(margin, margin), room);
+    QTest::newRow("too large") << room * 10 << kLetter << QRectF(QPointF(margin, margin), room);
+}
+
+void TestDocuments::placesPictures()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(QSizeF, paper);
+    QFETCH(QRectF, placed);
+
+    const PicturePlacement placement = placePicture(size, kLetter);
+
+    QCOMPARE(placement.paper, paper);
+    QVERIFY(qAbs(placement.picture.x() - placed.x()) < 0.01);
+    QVERIFY(qAbs(placement.picture.y() - placed.y()) < 0.01);
+    QCOMPARE(placement.picture.size(), placed.size());
+}
+
+// The pictures' child process is this program.
+int main(int argc, char **argv)
+{
+    if (argc == 4 && std::strcmp(argv[1], "--picture-helper") == 0)
+        return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
+    QCoreApplication application(argc, argv);
+    TestDocuments test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "test_documents.moc"

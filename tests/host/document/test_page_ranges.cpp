@@ -1,0 +1,111 @@
+#include "page_ranges.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+using Runs = std::vector<PageRun>;
+Q_DECLARE_METATYPE(kelvo::Error::Code)
+
+class TestPageRanges : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsRanges_data();
+    void readsRanges();
+    void refusesRanges_data();
+    void refusesRanges();
+    void boundsWhatRangesMultiply();
+    void findsTheDocumentsPage();
+};
+
+void TestPageRanges::readsRanges_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Runs>("runs"); // of a document of 12 pages
+
+    QTest::newRow("nothing is everything") << "  " << Runs{{1, 12}};
+    QTest::newRow("one page") << "7" << Runs{{7, 7}};
+    QTest::newRow("the order written") << "9-10,1-3" << Runs{{9, 10}, {1, 3}};
+    QTest::newRow("overlapping") << "1-3,2" << Runs{{1, 3}, {2, 2}};
+    QTest::newRow("blanks") << " 1 - 3 , 7 " << Runs{{1, 3}, {7, 7}};
+    QTest::newRow("open end") << "9-" << Runs{{9, 12}};
+    QTest::newRow("open begin") << "-3" << Runs{{1, 3}};
+    QTest::newRow("last page") << "12-12" << Runs{{12, 12}};
+    QTest::newRow("ends after the document") << "11-13" << Runs{{11, 12}};
+    QTest::newRow("ends after all numbers") << "11-99999999999999999999" << Runs{{11, 12}};
+}
+
+void TestPageRanges::readsRanges()
+{
+    QFETCH(QString, text);
+    QFETCH(Runs, runs);
+
+    const Result<Runs> read = pageRunsFrom(text, 12);
+
+    QVERIFY2(read, read ? "" : qPrintable(read.error().text()));
+    QVERIFY(read.value() == runs);
+}
+
+void TestPageRanges::refusesRanges_data()
+{
+    using Code = Error::Code;
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Error::Code>("code");
+    QTest::addColumn<QString>("part"); // named in the message
+
+    QTest::newRow("page 0") << "1,0" << Code::OutOfRange << "\"0\"";
+    QTest::newRow("from page 0") << "0-3" << Code::OutOfRange << "\"0-3\"";
+    QTest::newRow("up to page 0") << "-0" << Code::OutOfRange << "\"-0\"";
+    QTest::newRow("backwards") << "1,3-2" << Code::OutOfRange << "\"3-2\"";
+    QTest::newRow("one after the last") << "13" << Code::OutOfRange << "\"13\"";
+    QTest::newRow("begins after the last") << "13-" << Code::OutOfRange << "\"13-\"";
+    QTest::newRow("after all numbers") << "4294967297" << Code::OutOfRange << "\"4294967297\"";
+    QTest::newRow("only a dash") << "-" << Code::Damaged << "\"-\"";
+    QTest::newRow("a comma too many") << "1,,3" << Code::Damaged << "\"\"";
+    QTest::newRow("a comma at the end") << "1," << Code::Damaged << "\"\"";
+    QTest::newRow("two dashes") << "1--3" << Code::Damaged << "\"1--3\"";
+    QTest::newRow("a blank inside") << "1 2" << Code::Damaged << "\"1 2\"";
+    QTest::newRow("a word") << "1,odd" << Code::Damaged << "\"odd\"";
+    QTest::newRow("a fraction") << "1.5" << Code::Damaged << "\"1.5\"";
+    QTest::newRow("other digits") << QStringLiteral("\u0661") << Code::Damaged << "";
+}
+
+void TestPageRanges::refusesRanges()
+{
+    QFETCH(QString, text);
+    QFETCH(Error::Code, code);
+    QFETCH(QString, part);
+
+    const Result<Runs> read = pageRunsFrom(text, 12);
+
+    QVERIFY(!read);
+    QCOMPARE(read.error().code, code);
+    QVERIFY2(read.error().where.contains(part), qPrintable(read.error().where));
+}
+
+void TestPageRanges::boundsWhatRangesMultiply()
+{
+    QVERIFY(pageRunsFrom("1-,1-", 50'000));
+    const Result<Runs> tooMany = pageRunsFrom("1-,1-,1", 50'000);
+    QVERIFY(!tooMany);
+    QCOMPARE(tooMany.error().code, Error::Code::TooLarge);
+    QVERIFY(pageRunsFrom("1-", 150'000)); // a document may have more by itself
+}
+
+void TestPageRanges::findsTheDocumentsPage()
+{
+    const Runs runs{{9, 10}, {1, 3}};
+
+    QCOMPARE(pageCount(runs), 5);
+    QCOMPARE(documentPage(runs, 0), 9);
+    QCOMPARE(documentPage(runs, 1), 10);
+    QCOMPARE(documentPage(runs, 2), 1);
+    QCOMPARE(documentPage(runs, 4), 3);
+    QCOMPARE(documentPage(runs, 5), 0);
+    QCOMPARE(documentPage(runs, -1), 0);
+}
+
+QTEST_APPLESS_MAIN(TestPageRanges)
+#include "test_page_ranges.moc"

@@ -1,0 +1,246 @@
+#include "document_preview.h"
+#include "preview_layout.h"
+#include "sample_documents.h"
+
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+#include <QWheelEvent>
+
+using namespace kelvo;
+using namespace kelvo::test;
+
+Q_DECLARE_METATYPE(kelvo::Orientation)
+Q_DECLARE_METATYPE(kelvo::PagePlacement)
+
+namespace {
+
+const QSizeF a4(595, 842);
+
+Document documentOf(const QList<QByteArray> &contents)
+{
+    const Result<Document> document = documentFromPdf(file("pdf", pdfWithPages(contents)), {});
+    return document ? document.value() : Document();
+}
+
+QString caption(const DocumentPreview &preview)
+{
+    return preview.findChild<QLabel *>("previewPage")->text();
+}
+
+QToolButton *button(const DocumentPreview &preview, const char *name)
+{
+    return preview.findChild<QToolButton *>(QLatin1String(name));
+}
+
+// The colour in the middle of the sheet.
+QColor middle(DocumentPreview &preview)
+{
+    QWidget *sheet = preview.findChild<QWidget *>("previewSheet");
+    const QImage image = sheet->grab().toImage();
+    return image.pixelColor(image.rect().center());
+}
+
+} // namespace
+
+class TestDocumentPreview : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void placesPages_data();
+    void placesPages();
+    void countsSheets_data();
+    void countsSheets();
+    void turnsPages();
+    void staysOnThePageWhereItIsStillPrinted();
+    void showsPaperAndMessages();
+    void drawsWhatIsPrinted();
+};
+
+void TestDocumentPreview::placesPages_data()
+{
+    QTest::addColumn<QSizeF>("page");
+    QTest::addColumn<QSizeF>("paper");
+    QTest::addColumn<Orientation>("orientation");
+    QTest::addColumn<PagePlacement>("placement");
+    using enum Orientation;
+    const QSizeF wide = a4.transposed();
+
+    QTest::newRow("fits") << a4 << a4 << Portrait << PagePlacement{a4, {{0, 0}, a4}, 0};
+    QTest::newRow("no paper known")
+        << wide << QSizeF() << Portrait << PagePlacement{wide, {{0, 0}, wide}, 0};
+    QTest::newRow("smaller, centred")
+        << QSizeF(195, 442) << a4 << Portrait << PagePlacement{a4, {200, 200, 195, 442}, 0};
+    QTest::newRow("larger, made to fit")
+        << QSizeF(1190, 1684) << a4 << Portrait << PagePlacement{a4, {{0, 0}, a4}, 0};
+    QTest::newRow("wide page on tall paper")
+        << wide << a4 << Portrait << PagePlacement{a4, {{0, 0}, a4}, 270};
+    QTest::newRow("wide page, landscape")
+        << wide << a4 << Landscape << PagePlacement{wide, {{0, 0}, wide}, 0};
+    QTest::newRow("tall page, landscape")
+        << a4 << a4 << Landscape << PagePlacement{wide, {{0, 0}, wide}, 270};
+    QTest::newRow("upside down") << a4 << a4 << ReversePortrait
+                                 << PagePlacement{a4, {{0, 0}, a4}, 180};
+    QTest::newRow("tall page, reverse landscape")
+        << a4 << a4 << ReverseLandscape << PagePlacement{wide, {{0, 0}, wide}, 90};
+    QTest::newRow("a square is never turned") << QSizeF(100, 100) << QSizeF(200, 300) << Portrait
+                                              << PagePlacement{{200, 300}, {50, 100, 100, 100}, 0};
+}
+
+void TestDocumentPreview::placesPages()
+{
+    QFETCH(QSizeF, page);
+    QFETCH(QSizeF, paper);
+    QFETCH(Orientation, orientation);
+    QFETCH(PagePlacement, placement);
+
+    QCOMPARE(placePage(page, paper, orientation), placement);
+}
+
+void TestDocumentPreview::countsSheets_data()
+{
+    QTest::addColumn<std::vector<PageRun>>("pages"); // of a document of 5
+    QTest::addColumn<bool>("twoSided");
+    QTest::addColumn<int>("sheets");
+    QTest::addColumn<QStringList>("captions");
+    using Runs = std::vector<PageRun>;
+
+    QTest::newRow("one-sided") << Runs{{1, 2}} << false << 2
+                               << QStringList{"Sheet 1 · page 1 of 5", "Sheet 2 · page 2 of 5"};
+    QTest::newRow("two-sided") << Runs() << true << 3
+                               << QStringList{
+                                      "Sheet 1, front · page 1 of 5", "Sheet 1, back · page 2 of 5",
+                                      "Sheet 2, front · page 3 of 5", "Sheet 2, back · page 4 of 5",
+                                      "Sheet 3, front · page 5 of 5"};
+    QTest::newRow("cut") << Runs{{4, 5}, {2, 2}} << true << 2
+                         << QStringList{"Sheet 1, front · page 4 of 5",
+                                        "Sheet 1, back · page 5 of 5",
+                                        "Sheet 2, front · page 2 of 5"};
+}
+
+void TestDocumentPreview::countsSheets()
+{
+    QFETCH(std::vector<PageRun>, pages);
+    QFETCH(bool, twoSided);
+    QFETCH(int, sheets);
+    QFETCH(QStringList, captions);
+    DocumentPreview preview;
+    QCOMPARE(preview.sheetCount(), 0);
+    preview.setDocument(documentOf({"", "", "", "", ""}));
+
+    preview.setLayout({pages, a4, Orientation::Portrait, twoSided});
+
+    QCOMPARE(preview.sheetCount(), sheets);
+    for (const QString &expected : captions) {
+        QCOMPARE(caption(preview), expected);
+        button(preview, "previewNext")->click();
+    }
+    QCOMPARE(caption(preview), captions.last()); // and no further
+    QVERIFY(!button(preview, "previewNext")->isEnabled());
+}
+
+void TestDocumentPreview::turnsPages()
+{
+    DocumentPreview preview;
+    preview.setDocument(documentOf({"", "", "", ""}));
+    preview.show();
+    QVERIFY(QTest::qWaitForWindowActive(&preview));
+    preview.setFocus();
+    QWidget *sheet = preview.findChild<QWidget *>("previewSheet");
+    QVERIFY(sheet->hasFocus());
+    const auto turnWheel = [sheet](int angle) {
+        QWheelEvent event(QPointF(5, 5), sheet->mapToGlobal(QPointF(5, 5)), {}, {0, angle},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(sheet, &event);
+    };
+
+    QTest::keyClick(sheet, Qt::Key_PageDown);
+    QCOMPARE(caption(preview), "Sheet 2 · page 2 of 4");
+    QTest::keyClick(sheet, Qt::Key_End);
+    QCOMPARE(caption(preview), "Sheet 4 · page 4 of 4");
+    QTest::keyClick(sheet, Qt::Key_PageUp);
+    QCOMPARE(caption(preview), "Sheet 3 · page 3 of 4");
+    QTest::keyClick(sheet, Qt::Key_Home);
+    QCOMPARE(caption(preview), "Sheet 1 · page 1 of 4");
+    turnWheel(-120);
+    QCOMPARE(caption(preview), "Sheet 2 · page 2 of 4");
+    turnWheel(60); // half a notch
+    QCOMPARE(caption(preview), "Sheet 2 · page 2 of 4");
+    turnWheel(60);
+    QCOMPARE(caption(preview), "Sheet 1 · page 1 of 4");
+    QCOMPARE(sheet->accessibleDescription(), caption(preview));
+}
+
+void TestDocumentPreview::staysOnThePageWhereItIsStillPrinted()
+{
+    DocumentPreview preview;
+    preview.setDocument(documentOf({"", "", "", "", ""}));
+    for (int page = 1; page < 4; ++page)
+        button(preview, "previewNext")->click();
+    QCOMPARE(caption(preview), "Sheet 4 · page 4 of 5");
+
+    preview.setLayout({{{3, 5}}, a4, Orientation::Portrait, false});
+    QCOMPARE(caption(preview), "Sheet 2 · page 4 of 5");
+    preview.setLayout({{{1, 2}}, a4, Orientation::Portrait, false});
+    QCOMPARE(caption(preview), "Sheet 2 · page 2 of 5");
+    preview.setDocument(documentOf({"", ""}));
+    QCOMPARE(caption(preview), "Sheet 1 · page 1 of 2");
+    preview.setDocument({});
+    QCOMPARE(caption(preview), "");
+    QCOMPARE(preview.sheetCount(), 0);
+}
+
+void TestDocumentPreview::showsPaperAndMessages()
+{
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(30, 30, 30));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    DocumentPreview preview;
+    preview.setPalette(dark);
+    preview.resize(300, 400);
+    preview.setMessage("Opening the document…");
+    preview.show();
+    QVERIFY(!button(preview, "previewNext")->isEnabled());
+
+    preview.setDocument(documentOf({"", ""}));
+    QCOMPARE(caption(preview), ""); // the message stands
+    preview.setMessage({});
+
+    QCOMPARE(caption(preview), "Sheet 1 · page 1 of 2");
+    QVERIFY(button(preview, "previewNext")->isEnabled());
+    QCOMPARE(middle(preview), QColor(Qt::white)); // at once, before the page is drawn
+}
+
+void TestDocumentPreview::drawsWhatIsPrinted()
+{
+    // The right half of the second page is blue.
+    DocumentPreview preview;
+    preview.resize(300, 400);
+    preview.setDocument(documentOf({filled("1 0 0"), "0 0 1 rg 101 0 101 300 re f"}));
+    preview.show();
+    QTRY_COMPARE(middle(preview), QColor(Qt::red));
+
+    button(preview, "previewNext")->click();
+    QCOMPARE(middle(preview), QColor(Qt::red)); // the old page until the new one is there
+    QWidget *sheet = preview.findChild<QWidget *>("previewSheet");
+    const auto colourAt = [sheet](double x, double y) {
+        const QImage image = sheet->grab().toImage();
+        return image.pixelColor(static_cast<int>(image.width() * x),
+                                static_cast<int>(image.height() * y));
+    };
+    QTRY_COMPARE(colourAt(0.6, 0.5), QColor(Qt::blue));
+    QCOMPARE(colourAt(0.4, 0.5), QColor(Qt::white));
+
+    // Turned counter-clockwise on wide paper: what was right is on top.
+    preview.setLayout({{}, {202, 300}, Orientation::Landscape, false});
+    QTRY_COMPARE(colourAt(0.45, 0.4), QColor(Qt::blue));
+    QCOMPARE(colourAt(0.45, 0.6), QColor(Qt::white));
+
+    preview.setLayout({{{1, 1}}, {202, 300}, Orientation::Portrait, false});
+    QTRY_COMPARE(middle(preview), QColor(Qt::red));
+}
+
+QTEST_MAIN(TestDocumentPreview)
+#include "test_document_preview.moc"
