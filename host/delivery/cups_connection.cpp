@@ -83,6 +83,18 @@ Result<Connection> connectToServer(Patience &patience)
     return http;
 }
 
+ipp_t *newRequest(ipp_op_t operation, const QString &queue)
+{
+    ipp_t *request = ippNewRequest(operation);
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.toUtf8().constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    return request;
+}
+
 bool lastCallSucceeded()
 {
     return cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;

@@ -192,12 +192,13 @@ void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDe
         const bool isSent =
             options.contains(option) || (!hasPpd && option == QLatin1String("PageSize"));
         const QString value = isSent ? row.value(wanted.value(option)) : QString();
-        if (!value.isEmpty() && (!hasPpd || queueDefaults.contains(twin)))
+        if (!value.isEmpty() && (!hasPpd || queueDefaults.value(twin, value) != value))
             options.add(twin, value);
     }
     for (const NeutralRow &row : neutralRows) {
-        if (queueDefaults.contains(QLatin1String(row.name)))
-            options.add(QLatin1String(row.name), QLatin1String(row.value));
+        const QString neutral = QLatin1String(row.value);
+        if (queueDefaults.value(QLatin1String(row.name), neutral) != neutral)
+            options.add(QLatin1String(row.name), neutral);
     }
 }
 

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-// The only code of the host that edits PDFs. libqpdf throws; nothing leaves here.
+// The only code that edits the pages of PDFs. libqpdf throws; nothing leaves here.
 namespace kelvo {
 
 struct PdfPages

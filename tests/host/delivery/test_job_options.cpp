@@ -1,0 +1,215 @@
+#include "job_options.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace kelvo;
+using Code = Error::Code;
+
+// From settings to options, without any server.
+class TestJobOptions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sayEachSettingOnce_data();
+    void sayEachSettingOnce();
+    void standInTheOrderOfThePpd();
+    void refuseWhatCannotBeSaid_data();
+    void refuseWhatCannotBeSaid();
+    void refusePapersThatCannotBeSaid();
+    void nameTheTicket_data();
+    void nameTheTicket();
+};
+
+using Defaults = QMap<QString, QString>;
+
+static std::shared_ptr<PpdFile> device(const QString &name)
+{
+    if (name.isEmpty())
+        return nullptr;
+    const QString path = QStringLiteral("%1/%2.ppd")
+                             .arg(name.startsWith("kelvo-") ? KELVO_SOURCE_DIR "/resources/ppds"
+                                                            : KELVO_TEST_DATA "/ppds",
+                                  name);
+    return PpdFile::open(path).value();
+}
+
+static QStringList lines(const std::vector<JobOption> &options)
+{
+    QStringList list;
+    for (const JobOption &option : options)
+        list << option.name + u'=' + option.value;
+    return list;
+}
+
+void TestJobOptions::sayEachSettingOnce_data()
+{
+    QTest::addColumn<QString>("ppd");
+    QTest::addColumn<PPDDictionary>("choices");
+    QTest::addColumn<JobSettings>("settings");
+    QTest::addColumn<Defaults>("defaults");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QStringList>("notSent");
+    const auto row = [](const char *title, const char *ppd, const PPDDictionary &choices,
+                        const JobSettings &settings, const Defaults &defaults,
+                        const QStringList &expected, const QStringList &notSent = {}) {
+        QTest::newRow(title) << ppd << choices << settings << defaults << expected << notSent;
+    };
+    const char *full = "kelvo-corvane-full";
+    const JobSettings plain;
+    const JobSettings landscape{1, true, {}, {}, Orientation::Landscape};
+
+    row("nothing chosen", full, {}, plain, {}, {"copies=1"});
+    row("no page ranges", full, {}, {1, true, "2-3"}, {}, {"copies=1"});
+    row("paper of the settings", full, {}, {1, true, {}, "A3"}, {}, {"PageSize=A3", "copies=1"});
+    row("the ticket's paper goes first", full, {{"PageSize", "A5"}}, {1, true, {}, "A3"}, {},
+        {"PageSize=A5", "copies=1"});
+    row("paper once", full, {{"PageSize", "A5"}, {"PageRegion", "A4"}}, plain, {},
+        {"PageSize=A5", "copies=1"});
+    row("own paper", full, {{"PageSize", "Custom.300x400"}}, plain, {},
+        {"PageSize=Custom.300x400", "copies=1"});
+    row("what the PPD lacks", full, {{"Glitter", "On"}, {"StapleLocation", "Gold"}}, plain, {},
+        {"copies=1"}, {"Glitter=On", "StapleLocation=Gold"});
+    row("copies, collated", full, {}, {3, true}, {},
+        {"copies=3", "multiple-document-handling=separate-documents-collated-copies",
+         "Collate=True"});
+    row("copies, uncollated", full, {}, {3, false}, {},
+        {"copies=3", "multiple-document-handling=separate-documents-uncollated-copies",
+         "Collate=False"});
+
+    const PPDDictionary duplex{
+        {"Duplex", "DuplexTumble"}, {"OutputBin", "EnvFolder"}, {"PageSize", "A4"}};
+    row("no twins without defaults", full, duplex, plain, {},
+        {"PageSize=A4", "Duplex=DuplexTumble", "OutputBin=EnvFolder", "copies=1"});
+    row("twins where defaults say otherwise", full, duplex, plain,
+        {{"sides", "one-sided"}, {"media", "na_letter_8.5x11in"}, {"output-bin", "top"}},
+        {"PageSize=A4", "Duplex=DuplexTumble", "OutputBin=EnvFolder", "copies=1",
+         "sides=two-sided-short-edge", "media=A4", "output-bin=env-folder"});
+    row("no twins where defaults agree", full, {{"Duplex", "DuplexTumble"}}, plain,
+        {{"sides", "two-sided-short-edge"}, {"number-up", "1"}},
+        {"Duplex=DuplexTumble", "copies=1"});
+    row("a default for what is not chosen stays", full, {}, plain, {{"sides", "one-sided"}},
+        {"copies=1"});
+    row("pages are laid out already", full, {}, plain, {{"number-up", "2"}, {"page-set", "even"}},
+        {"copies=1", "number-up=1", "page-set=all"});
+
+    row("a reader of tickets turns pages itself", full, {}, landscape, {}, {"copies=1"});
+    row("and is not turned by a default", full, {}, landscape, {{"orientation-requested", "5"}},
+        {"copies=1", "orientation-requested=3"});
+    row("others are told to turn them", "no-ticket", {{"Jog", "EndOfSet"}}, landscape, {},
+        {"Jog=EndOfSet", "copies=1", "orientation-requested=4"});
+    row("no PPD", "", {{"Duplex", "None"}}, {2, true, {}, "A4", Orientation::ReversePortrait}, {},
+        {"copies=2", "multiple-document-handling=separate-documents-collated-copies",
+         "Collate=True", "orientation-requested=6", "media=A4"},
+        {"Duplex=None"});
+}
+
+void TestJobOptions::sayEachSettingOnce()
+{
+    QFETCH(QString, ppd);
+    QFETCH(PPDDictionary, choices);
+    QFETCH(JobSettings, settings);
+    QFETCH(Defaults, defaults);
+    QFETCH(QStringList, expected);
+    QFETCH(QStringList, notSent);
+    TicketFile ticket;
+    ticket.printSettings.ppdChoices = choices;
+    const auto file = device(ppd);
+    const auto made = jobOptions(ticket, settings, file.get(), defaults);
+    QVERIFY2(made, qPrintable(made.reason()));
+    QCOMPARE(lines(made.value().options), expected);
+    QCOMPARE(made.value().notSent, notSent);
+}
+
+void TestJobOptions::standInTheOrderOfThePpd()
+{
+    // Every option of the device, with its last choice.
+    const auto ppd = device(QStringLiteral("kelvo-corvane-full"));
+    TicketFile ticket;
+    QStringList expected;
+    for (const PpdGroup &group : ppd->groups()) {
+        for (const PpdOption &option : group.options) {
+            const QString choice = option.choices.back().keyword;
+            ticket.printSettings.ppdChoices[option.keyword] = choice;
+            if (option.keyword != QLatin1String("PageRegion"))
+                expected << option.keyword + u'=' + choice;
+        }
+    }
+    QVERIFY(expected.size() > 25);
+    expected << QStringLiteral("copies=1");
+    const auto made = jobOptions(ticket, {}, ppd.get(), {});
+    QVERIFY2(made, qPrintable(made.reason()));
+    QCOMPARE(lines(made.value().options), expected);
+}
+
+void TestJobOptions::refuseWhatCannotBeSaid_data()
+{
+    QTest::addColumn<QByteArray>("option");
+    QTest::addColumn<QByteArray>("choice");
+    QTest::newRow("comma") << QByteArray("Glitter") << QByteArray("a,b");
+    QTest::newRow("quote") << QByteArray("Glitter") << QByteArray("a'b");
+    QTest::newRow("double quote") << QByteArray("Glitter") << QByteArray("a\"b");
+    QTest::newRow("backslash") << QByteArray("Glitter") << QByteArray("a\\b");
+    QTest::newRow("collection") << QByteArray("Glitter") << QByteArray("{a=b}");
+    QTest::newRow("dropped by the server") << QByteArray("job-hold-until") << QByteArray("Night");
+    QTest::newRow("acted on by a filter") << QByteArray("Booklet") << QByteArray("On");
+}
+
+void TestJobOptions::refuseWhatCannotBeSaid()
+{
+    QFETCH(QByteArray, option);
+    QFETCH(QByteArray, choice);
+    QFile file(QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll() + "\n*OpenUI *" + option + "/Odd: PickOne\n*Default"
+        + option + ": Plain\n*" + option + " Plain/Plain: \"\"\n*" + option + " " + choice
+        + "/Odd One: \"\"\n*CloseUI: *" + option + "\n";
+    const auto ppd = PpdFile::fromBytes(bytes, QStringLiteral("odd.ppd"));
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    const PpdOption *odd = ppd.value()->findOption(QString::fromUtf8(option));
+    QVERIFY(odd && odd->choices.size() == 2);
+
+    TicketFile ticket;
+    ticket.printSettings.ppdChoices[odd->keyword] = odd->choices.back().keyword;
+    const auto made = jobOptions(ticket, {}, ppd.value().get(), {});
+    QVERIFY(!made);
+    QCOMPARE(made.error().code, Code::Refused);
+    QVERIFY(made.error().where.startsWith(odd->keyword));
+}
+
+void TestJobOptions::refusePapersThatCannotBeSaid()
+{
+    // Without a PPD a paper's name is what the user wrote.
+    for (const char *name : {"a b", "a\nb", "a\u00e4"}) {
+        const auto made = jobOptions({}, {1, true, {}, name}, nullptr, {});
+        QVERIFY2(!made, name);
+        QCOMPARE(made.error().code, Code::Refused);
+    }
+    const QString longest(4000, u'x');
+    QVERIFY(jobOptions({}, {1, true, {}, longest}, nullptr, {}));
+    QVERIFY(!jobOptions({}, {1, true, {}, longest + u'x'}, nullptr, {}));
+}
+
+void TestJobOptions::nameTheTicket_data()
+{
+    QTest::addColumn<bool>("hasPasscode");
+    QTest::addColumn<bool>("isFax");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("plain") << false << false << "1:00ff:none";
+    QTest::newRow("passcode") << true << false << "1:00ff:passcode";
+    QTest::newRow("fax") << false << true << "1:00ff:fax";
+    QTest::newRow("both") << true << true << "1:00ff:passcode+fax";
+}
+
+void TestJobOptions::nameTheTicket()
+{
+    QFETCH(bool, hasPasscode);
+    QFETCH(bool, isFax);
+    QFETCH(QString, value);
+    QCOMPARE(ticketOption(QByteArray::fromHex("00ff"), hasPasscode, isFax),
+             (JobOption{"kelvo-ticket", value}));
+}
+
+QTEST_GUILESS_MAIN(TestJobOptions)
+#include "test_job_options.moc"
