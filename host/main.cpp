@@ -223,12 +223,14 @@ int runDialog(DialogOptions options)
     PrintDialog dialog(std::move(options));
     dialog.setSecrets(std::move(secrets));
     endOnSignals(dialog);
-    QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status](ExitStatus end) {
+    std::unique_ptr<ScriptRunner> runner;
+    QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status, &runner](ExitStatus end) {
         status = end;
-        QCoreApplication::quit();
+        // With a script its runner says when it is over: lines may be left.
+        if (!runner)
+            QCoreApplication::quit();
     });
 
-    std::unique_ptr<ScriptRunner> runner;
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
         const QString name = line.script.value_or(QStringLiteral("--no-window"));

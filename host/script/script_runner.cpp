@@ -73,6 +73,7 @@ struct ScriptRunner::Private
     QString metNotice;       // header and message of the notice that a line has met
     int printedBy = 0;       // line of the print that is on its way, 0 for none
     bool printAsked = false; // some line asked for it, or --print
+    bool closedByLine = false;
     bool hasEnded = false;
 
     void step();
@@ -133,7 +134,13 @@ void ScriptRunner::Private::step()
 {
     if (hasEnded)
         return;
-    if (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown())) {
+    const std::optional<ExitStatus> closed = target.finished();
+    if (closed && *closed != ExitStatus::Printed && !closedByLine) {
+        end(*closed); // by a signal, by the user, or because nothing could be begun
+        return;
+    }
+    // A closed dialog may have been in the middle of something, and stay so.
+    if (!closed && (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown()))) {
         tick.start(busyWaitMs);
         return;
     }
@@ -156,7 +163,10 @@ void ScriptRunner::Private::run(const ScriptLine &line)
     // The next tick is set before the line runs: a line that opens a modal dialog
     // comes back only when that is closed, and the lines in between close it.
     tick.start(0);
+    const bool wasOpen = !target.finished();
     const LineDone problem = perform(line);
+    if (wasOpen && target.finished())
+        closedByLine = true;
     if (problem && !hasEnded)
         fail(line.number, *problem);
 }
@@ -208,7 +218,7 @@ void ScriptRunner::Private::finish()
                        .arg(modal->windowTitle())));
         return;
     }
-    if (options.printAtEnd && !printAsked) {
+    if (options.printAtEnd && !printAsked && !target.finished()) {
         printAsked = true;
         printedBy = lines.empty() ? 1 : lines.back().number;
         tick.start(0);
