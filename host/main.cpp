@@ -226,8 +226,8 @@ int runDialog(DialogOptions options)
     std::unique_ptr<ScriptRunner> runner;
     QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status, &runner](ExitStatus end) {
         status = end;
-        // An end that the script asked for is a step of it: lines may follow.
-        if (!runner || !runner->hasAskedForEnd())
+        // With a script its runner says when it is over: lines may be left.
+        if (!runner)
             QCoreApplication::quit();
     });
 
