@@ -8,7 +8,7 @@ namespace kelvo {
 
 namespace {
 
-constexpr int lineCharacters = 60; // a comfortable line of the text
+constexpr int sideMargin = 60; // lines that do not run from edge to edge
 
 QLabel *centredLabel(const QString &name, QWidget *parent)
 {
@@ -17,8 +17,6 @@ QLabel *centredLabel(const QString &name, QWidget *parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignCenter);
-    label->setMaximumWidth(label->fontMetrics().averageCharWidth() * lineCharacters);
-    label->setMinimumWidth(std::min(label->maximumWidth(), 300));
     return label;
 }
 
@@ -38,10 +36,11 @@ WaitingPane::WaitingPane(QWidget *parent)
     m_retry->setObjectName(QStringLiteral("retry"));
 
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
     layout->setSpacing(10);
     layout->addStretch(2);
-    layout->addWidget(m_header, 0, Qt::AlignHCenter);
-    layout->addWidget(m_text, 0, Qt::AlignHCenter);
+    layout->addWidget(m_header);
+    layout->addWidget(m_text);
     layout->addSpacing(4);
     layout->addWidget(m_retry, 0, Qt::AlignHCenter);
     layout->addStretch(3);
@@ -56,6 +55,8 @@ void WaitingPane::setMessage(const DialogSession::Message &message)
     m_text->setText(message.text);
     m_text->setVisible(!message.text.isEmpty());
     m_retry->setVisible(message.canRetry);
+    if (message.canRetry)
+        m_retry->setFocus();
 }
 
 } // namespace kelvo
