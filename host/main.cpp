@@ -70,6 +70,14 @@ std::unique_ptr<QTemporaryDir> provideRuntimeFolder()
     return folder;
 }
 
+// Without a display Qt has nothing to do with a dialog's size, and says so each
+// time. Nobody wants to read it among a script's own messages.
+void passMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.contains(QLatin1String("propagateSizeHints")))
+        std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
+
 // ---- signals
 
 int signalPipe[2] = {-1, -1};
@@ -267,6 +275,7 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     const auto runtimeFolder = provideRuntimeFolder();
     if (line.noWindow || line.listControls) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(passMessage);
     } else if (!hasDisplay()) {
         return fail(ExitStatus::WrongUsage,
                     QStringLiteral("there is no display to show the dialog on; --no-window prints "
