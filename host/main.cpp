@@ -313,6 +313,8 @@ int main(int argc, char **argv)
         return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
     }
 
+    // A file that may not grow is an error of its write, which says so.
+    std::signal(SIGXFSZ, SIG_IGN);
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
