@@ -238,19 +238,20 @@ int runDialog(DialogOptions options)
         runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
                                                 ScriptRunner::Options{name, printsAtEnd});
         // The runner knows better than the dialog how its run ended.
-        QObject::connect(runner.get(), &ScriptRunner::ended, qApp,
-                         [&status, &dialog](ExitStatus end) {
-                             if (!dialog.finished()) {
-                                 if (const auto written = dialog.writeTicketOut(); !written) {
-                                     fail(ExitStatus::Failed, written.error().text());
-                                     if (end == ExitStatus::Printed)
-                                         end = ExitStatus::Failed;
-                                 }
-                                 dialog.interrupt();
-                             }
-                             status = end;
-                             QCoreApplication::quit();
-                         });
+        QObject::connect(
+            runner.get(), &ScriptRunner::ended, qApp, [&status, &dialog](ExitStatus end) {
+                if (!dialog.finished()) {
+                    // What a failed script has left unfinished is no
+                    // ticket to keep.
+                    const auto written =
+                        end == ExitStatus::Printed ? dialog.writeTicketOut() : Result<void>();
+                    if (!written)
+                        end = ExitStatus(fail(ExitStatus::Failed, written.error().text()));
+                    dialog.interrupt();
+                }
+                status = end;
+                QCoreApplication::quit();
+            });
     }
     dialog.start();
     if (!dialog.finished()) {
