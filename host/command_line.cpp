@@ -153,7 +153,7 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--ticket-out", "FILE", "write the settings when printing or when the\nscript ends", takeText<&CommandLine::ticketOut>},
     {nullptr, "--script", "FILE", "drive the dialog; - is standard input", takeText<&CommandLine::script>},
     {nullptr, "--print", nullptr, "print when the script has ended", takeFlag<&CommandLine::print>},
-    {nullptr, "--secret", "NAME=FILE", "a secret that the script types, in a file of mode 0600", takeSecret},
+    {nullptr, "--secret", "NAME=FILE", "a secret for the script, in a file of mode 0600", takeSecret},
     {nullptr, "--no-window", nullptr, "show nothing; without a script, print at once", takeFlag<&CommandLine::noWindow>},
     {nullptr, "--to", "DIR", "write document.pdf, options and ticket.plist there\ninstead of sending", takeText<&CommandLine::toFolder>},
     {nullptr, "--timeout", "SECONDS", "wait this long for the print server, 1 to 3600 (30)", takeTimeout},

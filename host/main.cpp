@@ -70,6 +70,14 @@ std::unique_ptr<QTemporaryDir> provideRuntimeFolder()
     return folder;
 }
 
+// Without a display Qt has nothing to do with a dialog's size, and says so each
+// time. Nobody wants to read it among a script's own messages.
+void passMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.contains(QLatin1String("propagateSizeHints")))
+        std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
+
 // ---- signals
 
 int signalPipe[2] = {-1, -1};
@@ -226,8 +234,8 @@ int runDialog(DialogOptions options)
     std::unique_ptr<ScriptRunner> runner;
     QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status, &runner](ExitStatus end) {
         status = end;
-        // An end that the script asked for is a step of it: lines may follow.
-        if (!runner || !runner->hasAskedForEnd())
+        // With a script its runner says when it is over: lines may be left.
+        if (!runner)
             QCoreApplication::quit();
     });
 
@@ -268,6 +276,7 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     const auto runtimeFolder = provideRuntimeFolder();
     if (line.noWindow || line.listControls) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(passMessage);
     } else if (!hasDisplay()) {
         return fail(ExitStatus::WrongUsage,
                     QStringLiteral("there is no display to show the dialog on; --no-window prints "

@@ -28,8 +28,6 @@ public:
     ~ScriptRunner() override;
 
     void start();
-    // Whether a line, or the end of the script, has pressed Print or Cancel.
-    bool hasAskedForEnd() const;
 
 signals:
     // Once. The dialog closes then.

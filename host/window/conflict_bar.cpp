@@ -1,5 +1,6 @@
 #include "conflict_bar.h"
 
+#include "caution_colours.h"
 #include "notice.h"
 
 #include <QEvent>
@@ -9,20 +10,6 @@
 #include <QStyle>
 
 namespace kelvo {
-
-namespace {
-
-QColor mixed(const QColor &one, const QColor &other, double share)
-{
-    return QColor(int(one.red() * (1 - share) + other.red() * share),
-                  int(one.green() * (1 - share) + other.green() * share),
-                  int(one.blue() * (1 - share) + other.blue() * share));
-}
-
-// An amber that shows on light and dark.
-const QColor cautionColour(230, 160, 0);
-
-} // namespace
 
 ConflictBar::ConflictBar(QWidget *parent)
     : QFrame(parent)
@@ -112,7 +99,7 @@ void ConflictBar::colour()
     m_isColouring = true;
     setPalette(QPalette());
     QPalette colours = palette();
-    colours.setColor(QPalette::Window, mixed(colours.color(QPalette::Window), cautionColour, 0.18));
+    colours.setColor(QPalette::Window, cautionGround(colours));
     setPalette(colours);
     m_isColouring = false;
 }

@@ -59,6 +59,7 @@ void runJobDetailsDialog(const JobWords &words, QWidget *parent)
     auto *tabs = new TabControl(content);
     tabs->setObjectName(QStringLiteral("jobDetailsTabs"));
     tabs->setAccessibleName(tr("View"));
+    tabs->setExpanding(false);
     tabs->setTitles({tr("In Words"), tr("Ticket")});
     auto *pages = new QStackedWidget(content);
     auto *inWords =
@@ -67,6 +68,7 @@ void runJobDetailsDialog(const JobWords &words, QWidget *parent)
         textView(QStringLiteral("jobTicket"), tr("Ticket"), words.ticket.join(u'\n'), pages);
     ticket->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     ticket->setLineWrapMode(QPlainTextEdit::NoWrap);
+    ticket->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     for (SummaryView *view : {inWords, ticket}) {
         view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         view->setMinimumSize(view->fontMetrics().averageCharWidth() * 72,

@@ -65,6 +65,7 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
         sendControlEvents(control);
 
     auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     buttons->addStretch(1);
     buttons->addWidget(cancelButton);
     buttons->addWidget(okButton);

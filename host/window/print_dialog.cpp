@@ -69,6 +69,19 @@ QSize availableSize(const QWidget *window)
     return window->screen()->availableSize();
 }
 
+// Where Tab stops below `region`, in the order of the focus chain.
+QList<QWidget *> stopsIn(QWidget *region)
+{
+    QList<QWidget *> stops;
+    for (QWidget *widget = region->nextInFocusChain(); widget != region;
+         widget = widget->nextInFocusChain()) {
+        if (region->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus)
+            && !widget->focusProxy())
+            stops << widget;
+    }
+    return stops;
+}
+
 QPushButton *button(const char *name, const QString &text, QWidget *parent)
 {
     auto *made = new QPushButton(text, parent);
@@ -704,19 +717,6 @@ void PrintDialog::arrangeColumns()
     m_panelSide->setVisible(!m_isNarrow || !m_isColumnWanted);
     const int forPreview = m_column->height() - m_printer->sizeHint().height();
     m_preview->setVisible(forPreview >= m_preview->minimumSizeHint().height());
-}
-
-// Where Tab stops below `region`, in the order of the focus chain.
-static QList<QWidget *> stopsIn(QWidget *region)
-{
-    QList<QWidget *> stops;
-    for (QWidget *widget = region->nextInFocusChain(); widget != region;
-         widget = widget->nextInFocusChain()) {
-        if (region->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus)
-            && !widget->focusProxy())
-            stops << widget;
-    }
-    return stops;
 }
 
 // Panels make their controls when they are first shown: later than the buttons

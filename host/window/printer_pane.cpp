@@ -1,10 +1,12 @@
 #include "printer_pane.h"
 
+#include "caution_colours.h"
 #include "popup_button.h"
 #include "preset_menu.h"
 #include "spin_field.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -66,6 +68,7 @@ QString toolTipFor(const Printer &printer)
 
 PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     : QWidget(parent)
+    , m_presets(presets)
     , m_printer(new PopupButton(this))
     , m_copies(new SpinField(this))
     , m_collate(new QCheckBox(tr("C&ollate"), this))
@@ -74,8 +77,8 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     , m_pagesProblem(new QLabel(this))
     , m_paper(new PopupButton(this))
     , m_orientation(new PopupButton(this))
-    , m_settingControls{presets, m_copies, m_collate,    m_pagesChoice,
-                        m_pages, m_paper,  m_orientation}
+    , m_settingControls{presets->popup(), m_copies, m_collate,    m_pagesChoice,
+                        m_pages,          m_paper,  m_orientation}
     , m_grid(new QGridLayout(this))
 {
     m_grid->setContentsMargins(0, 0, 0, 0);
@@ -110,7 +113,6 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_pagesChoice->setMenu(choices);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->setAccessibleName(tr("Pages to print"));
-    m_pages->setPlaceholderText(tr("such as 1-3, 7"));
     sendControlEvents(m_pages);
     auto *pagesRow = new QWidget(this);
     auto *pagesLayout = new QHBoxLayout(pagesRow);
@@ -124,6 +126,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_pagesProblem->setTextFormat(Qt::PlainText);
     m_pagesProblem->setWordWrap(true);
     m_pagesProblem->hide();
+    colour();
     m_grid->addWidget(m_pagesProblem, m_grid->rowCount(), 1);
 
     m_paper->setObjectName(QStringLiteral("paper"));
@@ -148,6 +151,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     }
 
     m_handler = installEventHandler(this, [this](const Event &event) { return handle(event); });
+    setPrinters({}, {});
     setSettings({}, nullptr);
     setSettingsEnabled(false);
 }
@@ -163,6 +167,20 @@ QLabel *PrinterPane::addRow(const QString &text, QWidget *buddy, QWidget *field)
     m_grid->addWidget(label, row, 0);
     m_grid->addWidget(field, row, 1);
     return label;
+}
+
+void PrinterPane::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colour();
+}
+
+void PrinterPane::colour()
+{
+    QPalette colours;
+    colours.setColor(QPalette::WindowText, cautionText(palette()));
+    m_pagesProblem->setPalette(colours);
 }
 
 void PrinterPane::focusFirst()
@@ -191,10 +209,14 @@ void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &cho
         menu.items.push_back(
             {.text = chosen, .key = chosen, .reference = reference, .enabled = false});
     }
+    if (menu.items.empty()) {
+        shown = reference;
+        menu.items.push_back({.text = tr("None"), .reference = reference, .enabled = false});
+    }
     m_printer->setMenu(std::move(menu));
     if (!m_printer->setValueByReference(shown))
         m_printer->setValue(0);
-    m_printer->setEnabled(!printers.isEmpty());
+    setEnabledWithLabel(m_printer, !printers.isEmpty());
 }
 
 void PrinterPane::setDevice(const QString &name)
@@ -203,6 +225,7 @@ void PrinterPane::setDevice(const QString &name)
     menu.items.push_back({.text = name, .key = name});
     m_printer->setMenu(std::move(menu));
     m_printer->setValue(1);
+    setEnabledWithLabel(m_printer, true);
     m_printer->setToolTip(tr("A device without a queue: nothing can be sent to it"));
 }
 
@@ -279,6 +302,7 @@ void PrinterPane::setSettingsEnabled(bool enabled)
 {
     for (QWidget *control : m_settingControls)
         setEnabledWithLabel(control, enabled);
+    m_presets->setEnabled(enabled);
     m_collate->setEnabled(enabled && m_copies->value() > 1);
     m_paper->setEnabled(enabled && m_hasPaper);
     showPageField();
@@ -295,6 +319,7 @@ void PrinterPane::showPageField()
 {
     m_pages->setEnabled(m_pagesChoice->isEnabled()
                         && m_pagesChoice->chosenReference() == SomePages);
+    m_pages->setPlaceholderText(m_pages->isEnabled() ? tr("such as 1-3, 7") : QString());
 }
 
 OSStatus PrinterPane::handle(const Event &event)

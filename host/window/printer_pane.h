@@ -45,6 +45,9 @@ public:
     // Why the pages cannot be printed; empty when they can.
     void setPagesProblem(const QString &problem);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 signals:
     void printerChosen(const QString &name);
     void settingsEdited();
@@ -53,7 +56,9 @@ private:
     QLabel *addRow(const QString &text, QWidget *buddy, QWidget *field);
     OSStatus handle(const Event &event);
     void showPageField();
+    void colour();
 
+    PresetMenu *m_presets;
     PopupButton *m_printer;
     SpinField *m_copies;
     QCheckBox *m_collate;
