@@ -246,19 +246,20 @@ int runDialog(DialogOptions options)
         runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
                                                 ScriptRunner::Options{name, printsAtEnd});
         // The runner knows better than the dialog how its run ended.
-        QObject::connect(runner.get(), &ScriptRunner::ended, qApp,
-                         [&status, &dialog](ExitStatus end) {
-                             if (!dialog.finished()) {
-                                 if (const auto written = dialog.writeTicketOut(); !written) {
-                                     fail(ExitStatus::Failed, written.error().text());
-                                     if (end == ExitStatus::Printed)
-                                         end = ExitStatus::Failed;
-                                 }
-                                 dialog.interrupt();
-                             }
-                             status = end;
-                             QCoreApplication::quit();
-                         });
+        QObject::connect(
+            runner.get(), &ScriptRunner::ended, qApp, [&status, &dialog](ExitStatus end) {
+                if (!dialog.finished()) {
+                    // What a failed script has left unfinished is no
+                    // ticket to keep.
+                    const auto written =
+                        end == ExitStatus::Printed ? dialog.writeTicketOut() : Result<void>();
+                    if (!written)
+                        end = ExitStatus(fail(ExitStatus::Failed, written.error().text()));
+                    dialog.interrupt();
+                }
+                status = end;
+                QCoreApplication::quit();
+            });
     }
     dialog.start();
     if (!dialog.finished()) {
@@ -322,6 +323,8 @@ int main(int argc, char **argv)
         return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
     }
 
+    // A file that may not grow is an error of its write, which says so.
+    std::signal(SIGXFSZ, SIG_IGN);
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -344,7 +344,7 @@ Extension *DialogSession::panels()
 void DialogSession::beginPanels()
 {
     const QString stays = tr("Copies, pages and paper work as usual.");
-    const QString none = tr("“%1” is printed without device panels").arg(m_printerName);
+    const QString none = tr("No device panels for “%1”").arg(m_printerName);
     m_message = {};
     if (!m_ppd) {
         m_message = {none, m_noPpdReason + u'\n' + stays};
@@ -368,13 +368,9 @@ void DialogSession::beginPanels()
         return;
     }
     if (const auto begun = m_extension->begin(*m_session, m_panesParent); !begun) {
-        const QString maker = m_ppd->manufacturer();
         m_message = {
             none,
-            (maker.isEmpty()
-                 ? tr("The panels are not made for this device (%1).").arg(m_ppd->modelName())
-                 : tr("The panels are not made for this device (%1, made by %2).")
-                       .arg(m_ppd->modelName(), maker))
+            tr("The installed panels do not support this device: %1.").arg(m_ppd->modelName())
                 + u'\n' + stays};
         return;
     }

@@ -12,7 +12,6 @@
 
 #include <poppler-qt6.h>
 
-#include <csignal>
 #include <memory>
 #include <sys/resource.h>
 
@@ -336,7 +335,7 @@ void TestStories::printsOtherMakersDevicesWithoutPanels()
     QCOMPARE(told.messages().count(statusLine), 1);
     write(desk.path("show.kps"), "show @waitingText\n");
     const Run shown = desk.run(device + QStringList{"--script", "show.kps", documentPath});
-    QVERIFY2(shown.out.contains("not made for this device") && shown.out.contains(maker),
+    QVERIFY2(shown.out.contains("do not support this device") && shown.out.contains(maker),
              qPrintable(shown.out));
 
     const Run printed = desk.run(device + QStringList{"--to", "out", documentPath});
@@ -498,6 +497,7 @@ void TestStories::keepsWhatStandsInTheFolder_data()
     QTest::newRow("no room in a folder that cannot be written") << "unwritable";
     QTest::newRow("a file where the folder should be") << "a file";
     QTest::newRow("a folder where a file should be") << "a folder";
+    QTest::newRow("no place for the ticket") << "a ticket";
 }
 
 void TestStories::keepsWhatStandsInTheFolder()
@@ -519,14 +519,16 @@ void TestStories::keepsWhatStandsInTheFolder()
     } else if (trouble == "a folder") {
         target = desk.path("other");
         QVERIFY(QDir().mkpath(target + "/document.pdf"));
-    } else {
+    } else if (trouble != "a ticket") {
         desk.atStart([bytes = trouble.toULong()] {
             const rlimit limit{bytes, bytes};
             ::setrlimit(RLIMIT_FSIZE, &limit);
-            ::signal(SIGXFSZ, SIG_IGN);
         });
     }
-    const Run run = desk.run(arguments + QStringList{"--to", target, "-n", "7"});
+    QStringList more{"--to", target, "-n", "7"};
+    if (trouble == "a ticket")
+        more << "--ticket-out" << documentPath + "/job.plist";
+    const Run run = desk.run(arguments + more);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QENDED(run, 1);
     QVERIFY2(run.messages().size() == 1, qPrintable(run.err));
@@ -651,6 +653,7 @@ void TestStories::refusesWhatCannotBeDone_data()
     row("lines after the end", "cancel\nclick @print\n", 2, "s.kps:2: the dialog is closed");
     row("cancelled, in spite of --print", "cancel\n", 0, "", {"--demo", "--to", "out", "--print"});
     row("no queue", "print\n", 4, "s.kps:1: ", {"--demo"});
+    row("no server", "print\n", 4, "127.0.0.1:1: no print server", {documentPath});
     row("unknown destination", "", 4, "Hall-3", {"-d", "Hal-3", documentPath});
     row("unknown option name", "", 3, "Jogg", hall + QStringList{"-o", "Jogg=None"});
     row("unknown choice", "", 3, "Jog", hall + QStringList{"-o", "Jog=Spiral"});
@@ -667,7 +670,9 @@ void TestStories::refusesWhatCannotBeDone()
     QFETCH(QStringList, arguments);
     QFETCH(int, status);
     QFETCH(QString, message);
-    const Desk desk;
+    Desk desk;
+    if (message == "127.0.0.1:1: no print server")
+        desk.set("CUPS_SERVER", "127.0.0.1:1");
     const std::size_t before = m_cups.jobs(0).size();
     write(desk.path("open.txt"), passcode.toUtf8());
     QFile::setPermissions(desk.path("open.txt"), QFile::ReadOwner | QFile::ReadOther);
