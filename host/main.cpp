@@ -234,14 +234,14 @@ int runDialog(DialogOptions options)
     std::unique_ptr<ScriptRunner> runner;
     QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status, &runner](ExitStatus end) {
         status = end;
-        // An end that the script asked for is a step of it: lines may follow.
-        if (!runner || !runner->hasAskedForEnd())
+        // With a script its runner says when it is over: lines may be left.
+        if (!runner)
             QCoreApplication::quit();
     });
 
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
-        const QString name = line.script.value_or(QString());
+        const QString name = line.script.value_or(QStringLiteral("kelvo-print"));
         const bool printsAtEnd = line.print || !line.script;
         runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
                                                 ScriptRunner::Options{name, printsAtEnd});

@@ -18,7 +18,7 @@ inline constexpr qint64 ppdBytes = 8 * MiB;       // the largest in the field ar
 // libcups looks names up one by one: far beyond any device it would take minutes.
 inline constexpr int ppdOptions = 4096; // and groups
 inline constexpr int ppdPageSizes = 4096;
-inline constexpr int ppdConstraints = 65'536; // the largest in the field have 20,000
+inline constexpr int ppdConstraints = 24'576; // the largest in the field have 20,000
 
 inline constexpr qint64 scriptBytes = 16 * MiB;
 inline constexpr qint64 secretBytes = 4 * KiB;    // a file given by --secret

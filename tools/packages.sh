@@ -13,5 +13,5 @@ check_packages="cups-daemon cups-client libplist-utils poppler-utils qpdf clang-
 # The linter and the fuzz targets.
 lint_packages="clang clang-tidy libclang-rt-14-dev"
 
-# Benchmarks and Qt's own print dialog, their yardstick.
-bench_packages="libbenchmark-dev"
+# Benchmarks and their yardsticks; Qt's own print dialog comes with qt6-base-dev.
+bench_packages="libbenchmark-dev libplist-dev"

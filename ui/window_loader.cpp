@@ -14,6 +14,7 @@
 #include "time_field.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QGroupBox>
@@ -25,6 +26,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace kelvo {
 
@@ -117,6 +119,20 @@ public:
 private:
     QWidgetList m_created;
     QStringList m_problems;
+};
+
+// QUiLoader begins with loading every widget plug-in of Qt Designer on the system;
+// one brings all of Qt Quick with it. Our classes are our own, so it finds none.
+class WithoutDesignerPlugins
+{
+public:
+    WithoutDesignerPlugins() { QCoreApplication::setLibraryPaths({}); }
+    ~WithoutDesignerPlugins() { QCoreApplication::setLibraryPaths(m_paths); }
+    WithoutDesignerPlugins(const WithoutDesignerPlugins &) = delete;
+    WithoutDesignerPlugins &operator=(const WithoutDesignerPlugins &) = delete;
+
+private:
+    const QStringList m_paths = QCoreApplication::libraryPaths();
 };
 
 void giveControlIDs(const QWidgetList &widgets, QStringList &problems)
@@ -217,7 +233,12 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
     if (!file.open(QIODevice::ReadOnly))
         return Error{Error::Code::NotReadable, path, file.errorString()};
 
-    DescriptionLoader loader;
+    std::optional<DescriptionLoader> made;
+    {
+        const WithoutDesignerPlugins guard;
+        made.emplace();
+    }
+    DescriptionLoader &loader = *made;
     loader.setWorkingDirectory(QDir(bundle->resourcesPath()));
     std::unique_ptr<QWidget> loaded(loader.load(&file, parent));
     if (!loaded && loader.problems().isEmpty())

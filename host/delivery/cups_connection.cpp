@@ -1,8 +1,6 @@
 #include "cups_connection.h"
 
-#include <cerrno>
 #include <chrono>
-#include <cstring>
 #include <system_error>
 #include <thread>
 
@@ -65,22 +63,34 @@ Result<Connection> connectToServer(Patience &patience)
     // libcups keeps its settings by thread. Its own call back would ask on the
     // terminal, and wait there.
     cupsSetPasswordCB2(noPassword, nullptr);
-    errno = 0;
     Connection http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                                  patience.timeoutMs(), nullptr));
     if (!http) {
-        const int reason = errno;
         if (patience.isOver())
             return serverError(patience, serverName());
+        // libcups says "Host is down" of any that takes no connection.
+        const QString reason = cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE
+            ? QStringLiteral("nothing takes connections there")
+            : QString::fromUtf8(cupsLastErrorString()).simplified();
         return Error{Code::Unreachable, serverName(),
-                     QStringLiteral("there is no print server (%1); %2")
-                         .arg(reason ? QString::fromUtf8(std::strerror(reason))
-                                     : QString::fromUtf8(cupsLastErrorString()),
-                              howToFindTheServer())};
+                     QStringLiteral("no print server can be reached: %1; %2")
+                         .arg(reason, howToFindTheServer())};
     }
     httpSetTimeout(http.get(), wakeUp, goOn, &patience);
     patience.progress();
     return http;
+}
+
+ipp_t *newRequest(ipp_op_t operation, const QString &queue)
+{
+    ipp_t *request = ippNewRequest(operation);
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.toUtf8().constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    return request;
 }
 
 bool lastCallSucceeded()

@@ -45,6 +45,16 @@ struct CloseConnection
 };
 using Connection = std::unique_ptr<http_t, CloseConnection>;
 
+struct FreeMessage
+{
+    void operator()(ipp_t *message) const { ippDelete(message); }
+};
+using Message = std::unique_ptr<ipp_t, FreeMessage>;
+
+// A request about `queue`, for the user of this process. cupsDoRequest() frees
+// what it sends; cupsSendRequest() does not.
+ipp_t *newRequest(ipp_op_t operation, const QString &queue);
+
 // Connects to the server of the environment (CUPS_SERVER, client.conf). What is
 // called on the connection fails within a quarter of a second once `patience`
 // is over; it is borrowed. This thread is never asked for a password then.

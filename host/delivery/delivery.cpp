@@ -4,6 +4,7 @@
 #include "file_store.h"
 #include "job_options.h"
 #include "page_ranges.h"
+#include "queue_ppds.h"
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
@@ -23,18 +24,16 @@ namespace {
 
 using Code = Error::Code;
 
-std::optional<Error> secretProblem(const PreparedJob &job, const PpdFile *ppd)
+// The error for a job with a secret or a fax and a queue that would print it.
+Error notRead(const PreparedJob &job, const QString &where)
 {
-    if (readsTickets(ppd) || (!job.hasPasscode && !job.isFax))
-        return std::nullopt;
-    return Error{
-        Code::Refused, QStringLiteral("kelvo-ticket"),
-        QStringLiteral("the printer's PPD does not say that it reads tickets "
-                       "(*KelvoTicket: \"1\"): %1; print without it, or have the queue set "
-                       "up with the device's own PPD")
-            .arg(job.hasPasscode
-                     ? QStringLiteral("a job with a passcode would lie open in the tray")
-                     : QStringLiteral("a fax would be printed instead of sent"))};
+    return {Code::Refused, where,
+            QStringLiteral("the printer's PPD does not say that it reads tickets "
+                           "(*KelvoTicket: \"1\"): %1; print without it, or have the queue set "
+                           "up with the device's own PPD")
+                .arg(job.hasPasscode
+                         ? QStringLiteral("a job with a passcode would lie open in the tray")
+                         : QStringLiteral("a fax would be printed instead of sent"))};
 }
 
 Result<Document> pagesToPrint(const Document &document, const QString &pageRanges)
@@ -79,8 +78,8 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     PreparedJob job;
     job.hasPasscode = holdsSecret(request.ticket, request.secretKeys);
     job.isFax = isFax(request.ticket, request.secretKeys);
-    if (const auto problem = secretProblem(job, request.ppd))
-        return *problem;
+    if ((job.hasPasscode || job.isFax) && !readsTickets(request.ppd))
+        return notRead(job, QStringLiteral("kelvo-ticket"));
     auto options = jobOptions(request.ticket, request.settings, request.ppd, request.queueDefaults);
     if (!options)
         return options.error();
@@ -176,27 +175,6 @@ Error noAnswer(const Sending &sending)
     return error;
 }
 
-struct FreeMessage
-{
-    void operator()(ipp_t *message) const { ippDelete(message); }
-};
-using Message = std::unique_ptr<ipp_t, FreeMessage>;
-
-// A request for the queue. libcups frees what it sends.
-ipp_t *newRequest(ipp_op_t operation, const Sending &sending)
-{
-    ipp_t *request = ippNewRequest(operation);
-    char uri[HTTP_MAX_URI];
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
-                     "/printers/%s", sending.queue.toUtf8().constData());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
-    if (sending.jobId > 0)
-        ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", sending.jobId);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 cupsUser());
-    return request;
-}
-
 QByteArray resourceOf(const Sending &sending)
 {
     return "/printers/" + sending.queue.toUtf8();
@@ -243,9 +221,27 @@ Result<void> secureFor(const Sending &sending, http_t *http)
                      .arg(serverName())};
 }
 
+// A secret goes only to a queue that reads tickets by what the server says now:
+// the PPD that the job was prepared for may have been another one.
+Result<void> checkReader(Sending &sending, http_t *http)
+{
+    if (!sending.job.hasPasscode && !sending.job.isFax)
+        return {};
+    const auto ppds = allPpds(http, sending.queue, sending.patience);
+    if (!ppds)
+        return ppds.error();
+    for (const QByteArray &bytes : ppds.value()) {
+        const auto ppd = PpdFile::fromBytes(bytes, sending.queue);
+        if (!ppd || !readsTickets(ppd.value().get()))
+            return notRead(sending.job, sending.queue);
+    }
+    sending.patience.progress();
+    return {};
+}
+
 Result<void> createJob(Sending &sending, http_t *http)
 {
-    ipp_t *request = newRequest(IPP_OP_CREATE_JOB, sending);
+    ipp_t *request = newRequest(IPP_OP_CREATE_JOB, sending.queue);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  ippName(sending.title).constData());
     for (const JobOption &option : sending.job.options)
@@ -281,7 +277,8 @@ Result<void> writeDocument(Sending &sending, http_t *http)
 
 Result<void> sendDocument(Sending &sending, http_t *http)
 {
-    const Message request(newRequest(IPP_OP_SEND_DOCUMENT, sending));
+    const Message request(newRequest(IPP_OP_SEND_DOCUMENT, sending.queue));
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", sending.jobId);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
                  ippName(sending.title).constData());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
@@ -334,6 +331,8 @@ Result<DeliveredJob> send(Sending &sending)
         return http.error();
     if (auto secured = secureFor(sending, http.value().get()); !secured)
         return secured.error();
+    if (auto checked = checkReader(sending, http.value().get()); !checked)
+        return checked.error();
     if (auto created = createJob(sending, http.value().get()); !created)
         return created.error();
     if (auto sent = sendDocument(sending, http.value().get()); !sent) {

@@ -78,8 +78,10 @@ struct DeliveredJob
 // not answer.
 //
 // NotFound for an unknown queue, Unreachable when no server is there, Refused
-// when the server says no, when it asks for a password, or when the job holds a
-// secret and the server is on the network without TLS. TimedOut after
+// when the server says no, when it asks for a password, when the job holds a
+// secret and the server is on the network without TLS, or when it holds a secret
+// or a fax and the PPD that the server has for the queue (for every printer of a
+// class) does not declare *KelvoTicket: "1". TimedOut after
 // `timeoutMs` without progress; `cancelled` stops it before the document is
 // complete. A half-sent job is cancelled on the server. A job that may have been
 // accepted is never sent twice: the error says so then, and where to look.

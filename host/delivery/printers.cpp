@@ -2,7 +2,7 @@
 
 #include "cups_connection.h"
 #include "file_store.h"
-#include "size_limits.h"
+#include "queue_ppds.h"
 
 #include <QTemporaryDir>
 #include <QTimer>
@@ -88,68 +88,6 @@ Result<QList<Printer>> readPrinters(Patience &patience)
     return printers;
 }
 
-struct FreeMessage
-{
-    void operator()(ipp_t *message) const { ippDelete(message); }
-};
-
-// The first printer of a class; empty for anything that is no class.
-QString firstMember(http_t *http, const QString &queue)
-{
-    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-    char uri[HTTP_MAX_URI];
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
-                     "/printers/%s", queue.toUtf8().constData());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "member-names");
-    const std::unique_ptr<ipp_t, FreeMessage> response(cupsDoRequest(http, request, "/"));
-    ipp_attribute_t *members = ippFindAttribute(response.get(), "member-names", IPP_TAG_NAME);
-    return members ? QString::fromUtf8(ippGetString(members, 0, nullptr)) : QString();
-}
-
-// The file at `resource` of the server; NotFound when there is none.
-Result<QByteArray> readResource(http_t *http, const QString &resource, const QString &where,
-                                Patience &patience)
-{
-    httpClearFields(http);
-    if (httpGet(http, resource.toUtf8().constData()) != 0)
-        return serverError(patience, where);
-    http_status_t status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE && !patience.isOver())
-        status = httpUpdate(http);
-    if (patience.isOver())
-        return serverError(patience, where);
-    if (status == HTTP_STATUS_NOT_FOUND) {
-        httpFlush(http);
-        return Error{Code::NotFound, where,
-                     QStringLiteral("the print server has no PPD for it: it prints with common "
-                                    "settings only")};
-    }
-    if (status != HTTP_STATUS_OK)
-        return Error{status == HTTP_STATUS_ERROR ? Code::Unreachable : Code::Refused, where,
-                     QStringLiteral("the print server at %1 does not give its PPD: %2")
-                         .arg(serverName(), QString::fromUtf8(httpStatus(status)))};
-    QByteArray bytes;
-    char block[32768];
-    ssize_t count = 0;
-    while ((count = httpRead2(http, block, sizeof block)) > 0) {
-        patience.progress();
-        bytes.append(block, count);
-        if (bytes.size() > limits::ppdBytes)
-            return Error{Code::TooLarge, where,
-                         QStringLiteral("its PPD has more than %1 bytes").arg(limits::ppdBytes)};
-    }
-    // A body that ends early is no PPD, whatever there is of it.
-    if (count < 0 || httpGetState(http) == HTTP_STATE_GET_SEND || patience.isOver())
-        return patience.isOver() ? serverError(patience, where)
-                                 : Error{Code::Unreachable, where,
-                                         QStringLiteral("the print server at %1 broke off while it "
-                                                        "sent the PPD; try again")
-                                             .arg(serverName())};
-    return bytes;
-}
-
 Result<QByteArray> readPpd(const QString &printer, Patience &patience)
 {
     const auto queue = queueName(printer);
@@ -158,16 +96,8 @@ Result<QByteArray> readPpd(const QString &printer, Patience &patience)
     const auto http = connectToServer(patience);
     if (!http)
         return http.error();
-    const auto resource = [](const QString &name) {
-        return QStringLiteral("/printers/%1.ppd").arg(name);
-    };
-    auto ppd = readResource(http.value().get(), resource(queue.value()), printer, patience);
-    if (ppd || ppd.error().code != Code::NotFound)
-        return ppd;
-    const QString member = firstMember(http.value().get(), queue.value());
-    if (member.isEmpty() || !queueName(member))
-        return ppd;
-    return readResource(http.value().get(), resource(member), printer, patience);
+    auto ppd = queuePpd(http.value().get(), queue.value(), patience);
+    return ppd ? ppd : Error{ppd.error().code, printer, ppd.error().detail};
 }
 
 } // namespace

@@ -74,10 +74,10 @@ struct ScriptRunner::Private
     QTimer tick;
     QElapsedTimer pictureWait;
     std::size_t next = 0;
-    QString metNotice;        // header and message of the notice that a line has met
-    int printedBy = 0;        // line of the print that is on its way, 0 for none
-    bool printAsked = false;  // some line asked for it, or --print
-    bool cancelAsked = false; // by a line, of the dialog itself
+    QString metNotice;       // header and message of the notice that a line has met
+    int printedBy = 0;       // line of the print that is on its way, 0 for none
+    bool printAsked = false; // some line asked for it, or --print
+    bool closedByLine = false;
     bool hasEnded = false;
 
     void step();
@@ -120,11 +120,6 @@ void ScriptRunner::start()
     d->tick.start(0);
 }
 
-bool ScriptRunner::hasAskedForEnd() const
-{
-    return d->printAsked || d->cancelAsked;
-}
-
 QWidget *ScriptRunner::Private::openDialog() const
 {
     if (QWidget *modal = QApplication::activeModalWidget())
@@ -143,7 +138,13 @@ void ScriptRunner::Private::step()
 {
     if (hasEnded)
         return;
-    if (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown())) {
+    const std::optional<ExitStatus> closed = target.finished();
+    if (closed && *closed != ExitStatus::Printed && !closedByLine) {
+        end(*closed); // by a signal, by the user, or because nothing could be begun
+        return;
+    }
+    // A closed dialog may have been in the middle of something, and stay so.
+    if (!closed && (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown()))) {
         tick.start(busyWaitMs);
         return;
     }
@@ -175,7 +176,10 @@ void ScriptRunner::Private::run(const ScriptLine &line)
     // The next tick is set before the line runs: a line that opens a modal dialog
     // comes back only when that is closed, and the lines in between close it.
     tick.start(0);
+    const bool wasOpen = !target.finished();
     const LineDone problem = perform(line);
+    if (wasOpen && target.finished())
+        closedByLine = true;
     if (problem && !hasEnded)
         fail(line.number, *problem);
 }
@@ -228,8 +232,9 @@ void ScriptRunner::Private::finish()
         return;
     }
     if (target.finished()) {
-        const bool cancelledByLine = cancelAsked && *target.finished() == ExitStatus::Cancelled;
-        end(cancelledByLine ? ExitStatus::Printed : *target.finished());
+        // A line closed it, and cancelling is what that line was for.
+        const bool isCancelled = *target.finished() == ExitStatus::Cancelled;
+        end(isCancelled ? ExitStatus::Printed : *target.finished());
         return;
     }
     if (options.printAtEnd && !printAsked) {
@@ -250,9 +255,9 @@ void ScriptRunner::Private::finish()
 
 void ScriptRunner::Private::fail(int line, const LineProblem &problem)
 {
-    const QString place = options.file.isEmpty()
-        ? QStringLiteral("kelvo-print")
-        : QStringLiteral("%1:%2").arg(options.file).arg(line);
+    // Without lines it is the program itself that prints.
+    const QString place =
+        lines.empty() ? options.file : QStringLiteral("%1:%2").arg(options.file).arg(line);
     std::fputs(masked(QStringLiteral("%1: %2\n").arg(place, problem.text)).toUtf8().constData(),
                stderr);
     end(problem.status);
@@ -311,7 +316,6 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         if (QWidget *modal = openDialog())
             sendCommand(modal, kCommandCancel);
         else {
-            cancelAsked = true;
             target.pressCancel();
         }
         return {};

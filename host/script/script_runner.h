@@ -20,7 +20,7 @@ class ScriptRunner : public QObject
 public:
     struct Options
     {
-        QString file;            // empty: there is no script, only a print at its end
+        QString file; // begins every message; with no lines it stands alone
         bool printAtEnd = false; // --print
     };
     ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
@@ -28,8 +28,6 @@ public:
     ~ScriptRunner() override;
 
     void start();
-    // Whether a line, or the end of the script, has pressed Print or Cancel.
-    bool hasAskedForEnd() const;
 
 signals:
     // Once. The dialog closes then.

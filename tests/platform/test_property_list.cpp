@@ -122,6 +122,10 @@ void TestPropertyList::readsValues_data()
     row("blanks around", "<integer> +12\n</integer>", qint64(12));
     row("real with exponent", "<real>+1.5E3</real>", 1500.0);
     row("data in lines", "<data>\n\tAAE\n\tC\n</data>", QByteArray("\0\1\2", 3));
+    row("data of one byte", "<data>/w==</data>", QByteArray("\xFF"));
+    row("data of two bytes", "<data>+/8=</data>", QByteArray("\xFB\xFF"));
+    row("data of four bytes", "<data>AAECA\t\nw =\r= </data>", QByteArray("\0\1\2\3", 4));
+    row("no data", "<data> </data>", QByteArray());
     row("CDATA", "<string><![CDATA[a<b]]>&#x43;&amp;</string>", u"a<bC&"_s);
     row("comments", "<!-- a --><string>a<!-- b -->c</string>", u"ac"_s);
     row("true with an end", "<true> </true>", true);
@@ -194,6 +198,14 @@ void TestPropertyList::refusesOtherFiles_data()
     content("no base64", "<data>AA*=</data>", Code::Damaged);
     content("data cut off", "<data>AAAAA</data>", Code::Damaged);
     content("data behind the end", "<data>QQ==QQ==</data>", Code::Damaged);
+    content("data within the padding", "<data>QQ=Q</data>", Code::Damaged);
+    content("padding alone", "<data>====</data>", Code::Damaged);
+    content("padding too many", "<data>QQ===</data>", Code::Damaged);
+    content("padding of a full group", "<data>AAAA=</data>", Code::Damaged);
+    content("padding missing", "<data>QQ</data>", Code::Damaged);
+    content("padding for one digit", "<data>AAAAQ===</data>", Code::Damaged);
+    content("base64 for URLs", "<data>-_8=</data>", Code::Damaged);
+    content("data not of ASCII", "<data>AA\xC3\xA4=</data>", Code::Damaged);
 }
 
 void TestPropertyList::refusesOtherFiles()

@@ -27,6 +27,7 @@ private slots:
     void aFaultyDescriptionFails_data();
     void aFaultyDescriptionFails();
     void aMissingDescriptionFails();
+    void noPluginOfTheDesignerIsLoaded();
 
 private:
     void write(const QString &path, const QByteArray &bytes);
@@ -187,6 +188,26 @@ void TestWindowLoader::aMissingDescriptionFails()
     QVERIFY(!loaded);
     QCOMPARE(loaded.error().code, Error::Code::NotFound);
     QVERIFY(!createWindowFromDescription(nullptr, "Set", "None"));
+}
+
+// One brings all of Qt Quick into the process, for good.
+void TestWindowLoader::noPluginOfTheDesignerIsLoaded()
+{
+    write("T.pde/Resources/dialogs/Set/Small.ui", window(widget("QLabel", "label")));
+    const QStringList paths = QCoreApplication::libraryPaths();
+    QVERIFY(!paths.isEmpty());
+
+    const auto loaded = createWindowFromDescription(m_bundle, "Set", "Small");
+    QVERIFY(loaded);
+    const std::unique_ptr<QWidget> shown(loaded.value());
+
+    QFile maps("/proc/self/maps");
+    QVERIFY(maps.open(QIODevice::ReadOnly));
+    const QByteArray files = maps.readAll();
+    QVERIFY(files.contains("libQt6UiTools"));
+    QVERIFY(!files.contains("/designer/"));
+    // The platform's other plug-ins are found as before.
+    QCOMPARE(QCoreApplication::libraryPaths(), paths);
 }
 
 QTEST_MAIN(TestWindowLoader)

@@ -41,7 +41,8 @@ void writePdf(const QString &path, int pages, const QMap<QString, QByteArray> &a
         pdf.getTrailer().replaceKey("/Filler",
                                     QPDFObjectHandle::newStream(&pdf, noise.toStdString()));
     }
-    QPDFWriter writer(pdf, QFile::encodeName(path).constData());
+    const QByteArray name = QFile::encodeName(path); // the writer does not copy it
+    QPDFWriter writer(pdf, name.constData());
     writer.write();
 }
 

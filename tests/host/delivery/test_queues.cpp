@@ -45,6 +45,8 @@ private slots:
     void jobsAreRefused();
     void secretsStayWhereTheNetworkIsOpen();
     void secretsGoThroughTls();
+    void secretsStayWhereTheQueueIsAnother_data();
+    void secretsStayWhereTheQueueIsAnother();
     void jobsCanBeCancelledBeforeTheyAreSent();
 
 private:
@@ -78,6 +80,12 @@ void TestQueues::initTestCase()
     if (problem.isEmpty())
         problem = m_cups.administer(
             {"-p", "Office", "-c", "Offices", "-D", "The office", "-L", "Floor 2"});
+    for (const char *member : {"Hall-3", "Office"}) {
+        if (problem.isEmpty())
+            problem = m_cups.administer({"-p", member, "-c", "Mixed"});
+    }
+    if (problem.isEmpty())
+        problem = m_cups.addQueue("Raw", {});
     if (problem.isEmpty()) // without -E a queue takes no jobs
         problem = m_cups.administer({"-p", "Closed", "-v", "kvtest://test", "-P", reads});
     if (problem.isEmpty())
@@ -145,10 +153,12 @@ void TestQueues::printersAreListed()
         names << printer.name;
     QCOMPARE(names.first(), QStringLiteral("Office"));
     names.sort();
-    QCOMPARE(names, (QStringList{"Closed", "Hall-3", "Hall-3/draft", "Office", "Offices"}));
+    QCOMPARE(
+        names,
+        (QStringList{"Closed", "Hall-3", "Hall-3/draft", "Mixed", "Office", "Offices", "Raw"}));
     for (const Printer &printer : printers) {
         QCOMPARE(printer.isDefault, printer.name == "Office");
-        const bool isEnabled = printer.name != "Offices" && printer.name != "Closed";
+        const bool isEnabled = !QStringList{"Closed", "Mixed", "Offices"}.contains(printer.name);
         QCOMPARE(printer.state, isEnabled ? Printer::State::Idle : Printer::State::Stopped);
         QCOMPARE(printer.acceptsJobs, isEnabled);
         if (printer.name == "Office") {
@@ -190,12 +200,12 @@ void TestQueues::ppdsAreFetched()
         QVERIFY(::stat(qPrintable(path), &status) == 0);
         QCOMPARE(status.st_mode & 0777U, 0600U);
     }
-    for (const char *name : {"Nowhere", "two words", ""}) {
+    for (const char *name : {"Nowhere", "Raw", "two words", ""}) {
         directory->fetchPpd(name, 10000);
         QVERIFY2(failed.wait(10000), name);
         QCOMPARE(failed.last().at(1).value<Error>().code, Code::NotFound);
     }
-    QCOMPARE(failed.size(), 3);
+    QCOMPARE(failed.size(), 4);
     const QString folder = QFileInfo(fetched.first().at(1).toString()).path();
     directory.reset();
     QVERIFY(!QFileInfo::exists(folder));
@@ -334,6 +344,33 @@ void TestQueues::secretsGoThroughTls()
     const auto jobs = secure.jobs(1);
     QCOMPARE(jobs.size(), 1U);
     QVERIFY(jobs.back().document == bytesOf(job.value().pdfPath));
+}
+
+void TestQueues::secretsStayWhereTheQueueIsAnother_data()
+{
+    QTest::addColumn<QString>("queue");
+    QTest::newRow("reads no tickets") << "Office";
+    QTest::newRow("a class that reads none") << "Offices";
+    QTest::newRow("a class of which one reads none") << "Mixed";
+    QTest::newRow("no PPD") << "Raw";
+}
+
+void TestQueues::secretsStayWhereTheQueueIsAnother()
+{
+    // The job was prepared for a PPD that was given by hand, say.
+    QFETCH(QString, queue);
+    for (const bool isFax : {false, true}) {
+        auto job = prepare(reads);
+        QVERIFY(job);
+        job.value().hasPasscode = !isFax;
+        job.value().isFax = isFax;
+        const std::size_t before = m_cups.jobs(0).size();
+        const auto delivered = deliver(job.value(), queue);
+        QVERIFY(!delivered);
+        QVERIFY2(delivered.error().code == Code::Refused, qPrintable(delivered.reason()));
+        QVERIFY2(delivered.error().detail.contains("KelvoTicket"), qPrintable(delivered.reason()));
+        QCOMPARE(m_cups.jobs(0).size(), before);
+    }
 }
 
 void TestQueues::jobsCanBeCancelledBeforeTheyAreSent()

@@ -62,7 +62,7 @@ public:
         m_window.show();
     }
 
-    bool isIdle() const override { return true; }
+    bool isIdle() const override { return idle; }
     QWidget *window() override { return &m_window; }
     Result<void> showPanel(const QString &) override { return {}; }
     Result<void> showTab(int tab) override
@@ -76,6 +76,7 @@ public:
     void sync(SyncDirection) override { }
     void pressPrint() override
     {
+        ++printPresses;
         if (noticeAtPrint) {
             CFUserNotificationDisplayNotice(NoticeLevel::Caution,
                                             QStringLiteral("Passcode missing."),
@@ -103,6 +104,11 @@ public:
     PopupButton *popup;
     QLineEdit *field;
     QCheckBox *box;
+    // What a signal does, or a dialog that cannot be begun.
+    void close(ExitStatus status) { m_finished = status; }
+
+    bool idle = true;
+    int printPresses = 0;
     bool noticeAtPrint = false;
     QString printProblem;
     int modalResult = 0;
@@ -154,6 +160,8 @@ private slots:
     void worksInsideAModalDialogWhileItsOpenerWaits();
     void typesASecretThatNothingRepeats();
     void printsAtTheEndWhenAsked();
+    void endsWithADialogThatOthersClose_data();
+    void endsWithADialogThatOthersClose();
 };
 
 void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
@@ -261,6 +269,38 @@ void TestScriptRunner::printsAtTheEndWhenAsked()
 
     QCOMPARE(static_cast<int>(run(dialog, "tab 4", true)), 0);
     QCOMPARE(static_cast<int>(*dialog.finished()), static_cast<int>(ExitStatus::Printed));
+
+    FakeDialog cancelled;
+    QCOMPARE(static_cast<int>(run(cancelled, "cancel", true)), 0);
+    QCOMPARE(cancelled.printPresses, 0);
+}
+
+void TestScriptRunner::endsWithADialogThatOthersClose_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<bool>("idle");
+    QTest::addColumn<bool>("printAtEnd");
+
+    const auto row = [](const char *name, ExitStatus status, bool idle, bool printAtEnd) {
+        QTest::newRow(name) << static_cast<int>(status) << idle << printAtEnd;
+    };
+    row("interrupted between lines", ExitStatus::Cancelled, true, false);
+    row("interrupted while it waits", ExitStatus::Cancelled, false, false);
+    row("interrupted before it prints", ExitStatus::Cancelled, false, true);
+    row("settings refused", ExitStatus::NotOffered, false, false);
+}
+
+void TestScriptRunner::endsWithADialogThatOthersClose()
+{
+    QFETCH(int, status);
+    QFETCH(bool, idle);
+    QFETCH(bool, printAtEnd);
+    FakeDialog dialog;
+    dialog.idle = idle;
+    QTimer::singleShot(0, dialog.window(), [&] { dialog.close(static_cast<ExitStatus>(status)); });
+
+    QCOMPARE(static_cast<int>(run(dialog, printAtEnd ? "" : "tab 4\ntab 4", printAtEnd)), status);
+    QCOMPARE(dialog.printPresses, 0);
 }
 
 QTEST_MAIN(TestScriptRunner)

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "cups_connection.h"
+#include "result.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+namespace kelvo {
+
+// The PPD of `queue` as the server has it; of a class of printers, that of its
+// first member. NotFound when it has none. All these block.
+Result<QByteArray> queuePpd(http_t *http, const QString &queue, Patience &patience);
+
+// The PPDs of all printers that may get what is sent to `queue`: its own, or
+// those of a class's members, and of their members. Null for a printer that has
+// none. NotFound when there is no such queue.
+Result<std::vector<QByteArray>> allPpds(http_t *http, const QString &queue, Patience &patience);
+
+} // namespace kelvo
