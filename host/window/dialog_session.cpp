@@ -368,9 +368,13 @@ void DialogSession::beginPanels()
         return;
     }
     if (const auto begun = m_extension->begin(*m_session, m_panesParent); !begun) {
+        const QString maker = m_ppd->manufacturer();
         m_message = {
             none,
-            tr("The installed panels do not support this device: %1.").arg(m_ppd->modelName())
+            (maker.isEmpty()
+                 ? tr("The panels are not made for this device (%1).").arg(m_ppd->modelName())
+                 : tr("The panels are not made for this device (%1, made by %2).")
+                       .arg(m_ppd->modelName(), maker))
                 + u'\n' + stays};
         return;
     }
