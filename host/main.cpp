@@ -182,7 +182,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
         options.device = std::move(device).value();
     }
     DocumentSource source{line.file, line.title.value_or(QString())};
-    if (line.file.isEmpty() && line.demo) {
+    if (line.file.isEmpty() && line.demo && !line.readsStandardInput) {
         source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
         if (source.path.isEmpty())
             return Failure{ExitStatus::Failed,
