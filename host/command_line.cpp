@@ -205,7 +205,8 @@ Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
     if (*hasFile)
         return refused(file, QStringLiteral("only one document is printed at a time"));
     *hasFile = true;
-    line.file = file == QLatin1String("-") ? QString() : file;
+    line.readsStandardInput = file == QLatin1String("-");
+    line.file = line.readsStandardInput ? QString() : file;
     return {};
 }
 
@@ -226,7 +227,8 @@ std::optional<Error> findClash(const CommandLine &line)
     if (line.noWindow && !line.script && (line.ppd || line.demo) && !line.toFolder)
         return refused(QStringLiteral("--no-window"),
                        QStringLiteral("a device without a queue cannot print; add --to DIR"));
-    if (line.script == QStringLiteral("-") && line.file.isEmpty() && !line.demo)
+    if (line.script == QStringLiteral("-") && line.file.isEmpty()
+        && (!line.demo || line.readsStandardInput))
         return refused(QStringLiteral("--script -"),
                        QStringLiteral("standard input is the document already; name one of them "
                                       "as a file"));

@@ -15,7 +15,8 @@ namespace kelvo {
 // What the user asked for. See usageText() for each option.
 struct CommandLine
 {
-    QString file;                           // empty: standard input, or no document with --demo
+    QString file;                           // empty: standard input, or the sample with --demo
+    bool readsStandardInput = false;        // - was given: also with --demo
     std::optional<QString> destination;     // -d
     std::optional<int> copies;              // -n, 1 to 9999
     QList<QPair<QString, QString>> options; // -o, in order

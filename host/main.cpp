@@ -5,6 +5,7 @@
 #include "exit_status.h"
 #include "file_store.h"
 #include "help_window.h"
+#include "output_targets.h"
 #include "print_dialog.h"
 #include "printers.h"
 #include "script_parser.h"
@@ -143,6 +144,8 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
                                   std::vector<ScriptLine> &script)
 {
     const CommandLine &line = options.line;
+    if (const auto checked = checkOutputTargets(line); !checked)
+        return Failure{ExitStatus::WrongUsage, checked.error().text()};
     for (auto secret = line.secretFiles.cbegin(); secret != line.secretFiles.cend(); ++secret) {
         const auto text = readSecret(secret.value());
         if (!text)
@@ -182,7 +185,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
         options.device = std::move(device).value();
     }
     DocumentSource source{line.file, line.title.value_or(QString())};
-    if (line.file.isEmpty() && line.demo) {
+    if (line.file.isEmpty() && line.demo && !line.readsStandardInput) {
         source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
         if (source.path.isEmpty())
             return Failure{ExitStatus::Failed,

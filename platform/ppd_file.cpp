@@ -55,6 +55,9 @@ Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &bytes, const QSt
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
+        if (status == PPD_MISSING_PPDADOBE4 || status == PPD_NULL_FILE)
+            return Error{Code::Damaged, path,
+                         QStringLiteral("this is not a PPD file; one begins with *PPD-Adobe")};
         return Error{Code::Damaged, path,
                      QStringLiteral("line %1: %2").arg(line).arg(textFrom(ppdErrorString(status)))};
     }
@@ -84,6 +87,75 @@ std::optional<Error> findExcess(const QByteArray &bytes, const QString &path)
             return Error{Code::TooLarge, path,
                          QStringLiteral("more than %1 %2").arg(row.most).arg(row.what)};
     }
+    return std::nullopt;
+}
+
+// A PPD that was cut off on its way has all that stood before the cut, and
+// libcups takes it: options that the device has would silently be missing.
+std::optional<Error> findCut(const QByteArray &bytes, const QString &path)
+{
+    struct Open
+    {
+        QByteArrayView begin, end; // keywords
+        QLatin1String what;
+        QByteArray name; // empty: none is open
+        int line = 0;
+    };
+    Open opens[] = {
+        {"*OpenUI", "*CloseUI", QLatin1String("the option"), {}, 0},
+        {"*JCLOpenUI", "*JCLCloseUI", QLatin1String("the option"), {}, 0},
+        {"*OpenGroup", "*CloseGroup", QLatin1String("the group"), {}, 0},
+    };
+    int number = 0;
+    int quoteLine = 0; // where a value in quotes began that goes over several lines
+    for (qsizetype at = 0; at < bytes.size();) {
+        qsizetype end = at;
+        while (end < bytes.size() && bytes[end] != '\n' && bytes[end] != '\r')
+            ++end;
+        const QByteArrayView line(bytes.constData() + at, end - at);
+        at = end + (bytes.mid(end, 2) == "\r\n" ? 2 : 1);
+        ++number;
+        const bool isQuoted = quoteLine != 0;
+        const QByteArrayView value =
+            isQuoted ? line : line.sliced(std::min(line.size(), line.indexOf(':') + 1)).trimmed();
+        if (isQuoted && value.contains('"'))
+            quoteLine = 0;
+        else if (!isQuoted && value.startsWith('"') && value.count('"') == 1
+                 && !line.startsWith("*%"))
+            quoteLine = number;
+        if (isQuoted || !line.startsWith('*'))
+            continue;
+        const auto isWordEnd = [](char c) { return c == ' ' || c == '\t' || c == ':'; };
+        const auto *wordEnd = std::find_if(line.begin(), line.end(), isWordEnd);
+        const QByteArrayView keyword = line.first(wordEnd - line.begin());
+        for (Open &open : opens) {
+            if (keyword == open.end)
+                open.name.clear();
+            if (keyword != open.begin)
+                continue;
+            // "*OpenUI *Name/Text: PickOne", "*OpenGroup: Name/Text"
+            QByteArray name = line.sliced(keyword.size()).toByteArray().trimmed();
+            while (name.startsWith(':') || name.startsWith('*') || name.startsWith(' '))
+                name.remove(0, 1);
+            const auto *nameEnd = std::find_if(name.cbegin(), name.cend(),
+                                               [](char c) { return c == '/' || c == ':'; });
+            open.name = name.first(nameEnd - name.cbegin());
+            open.line = number;
+        }
+    }
+    for (const Open &open : opens) {
+        if (!open.name.isEmpty())
+            return Error{Code::Damaged, path,
+                         QStringLiteral("line %1: the file ends in the middle of %2 %3; get it "
+                                        "again")
+                             .arg(open.line)
+                             .arg(open.what, QString::fromLatin1(open.name))};
+    }
+    if (quoteLine != 0)
+        return Error{Code::Damaged, path,
+                     QStringLiteral("line %1: the file ends in the middle of a text in quotes; "
+                                    "get it again")
+                         .arg(quoteLine)};
     return std::nullopt;
 }
 
@@ -322,6 +394,8 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     auto opened = openBytes(bytes, path);
     if (!opened)
         return opened.error();
+    if (auto cut = findCut(bytes, path))
+        return *cut;
 
     std::shared_ptr<PpdFile> file(new PpdFile);
     Private &d = *file->d;

@@ -3,6 +3,8 @@
 #include "file_store.h"
 #include "property_list.h"
 
+#include <QFileInfo>
+
 #include <array>
 
 namespace kelvo {
@@ -173,9 +175,33 @@ Result<TicketFile> readTicketFile(const QString &path)
     return ticketFileFromPropertyList(list.value(), path);
 }
 
+Result<void> checkTicketTarget(const QString &path)
+{
+    const QFileInfo target(path);
+    const QString folder = target.path();
+    if (!QFileInfo(folder).isDir())
+        return Error{Code::NotWritable, path,
+                     QStringLiteral("the folder %1 does not exist").arg(folder)};
+    if (!target.exists())
+        return {};
+    if (!target.isFile())
+        return Error{Code::Refused, path, QStringLiteral("this is not a regular file")};
+    if (target.size() == 0 || readTicketFile(path))
+        return {};
+    return Error{Code::Refused, path,
+                 QStringLiteral("a file that is not a ticket stands there and is not replaced; "
+                                "move it away or name another file")};
+}
+
 Result<void> writeTicketFile(const QString &path, const TicketFile &file)
 {
-    return writeDictionaryFile(path, propertyListFrom(file));
+    if (auto checked = checkTicketTarget(path); !checked)
+        return checked;
+    const auto xml = CFPropertyListCreateXMLData(propertyListFrom(file));
+    if (!xml)
+        return Error{xml.error().code, path + QStringLiteral(": ") + xml.error().where,
+                     xml.error().detail};
+    return replaceFile(path, xml.value());
 }
 
 TicketFile ticketFileFrom(const PrintSession &session)

@@ -33,6 +33,11 @@ Result<TicketFile> ticketFileFromPropertyList(const QVariant &list, const QStrin
 Dictionary propertyListFrom(const TicketFile &file);
 
 Result<TicketFile> readTicketFile(const QString &path);
+// Whether a ticket may be written to `path`: its folder is there, and what stands
+// at `path`, if anything, is a ticket file or empty. The error is a sentence.
+Result<void> checkTicketTarget(const QString &path);
+// Writes where checkTicketTarget() lets it, and nothing beside: no folder, no
+// lock file. The last of two writers wins.
 Result<void> writeTicketFile(const QString &path, const TicketFile &file);
 
 // The session's tickets as a file, and back. Locks are not stored.

@@ -8,8 +8,10 @@
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
@@ -102,16 +104,53 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     return job;
 }
 
+namespace {
+
+Result<void> provideFolder(const QString &folder)
+{
+    if (::mkdir(QFile::encodeName(folder).constData(), 0700) == 0)
+        return {};
+    const int reason = errno;
+    if (reason == EEXIST && QFileInfo(folder).isDir())
+        return {};
+    if (reason == EEXIST)
+        return Error{Code::NotWritable, folder, QStringLiteral("this is not a folder")};
+    if (reason == ENOENT)
+        return Error{Code::NotWritable, folder,
+                     QStringLiteral("the folder %1 does not exist")
+                         .arg(QFileInfo(QDir::cleanPath(folder)).path())};
+    return Error{Code::NotWritable, folder,
+                 QStringLiteral("the folder cannot be made: %1")
+                     .arg(QString::fromUtf8(std::strerror(reason)))};
+}
+
+// Every file before the first one is replaced: a job is never half a new one.
+Result<void> checkReplaceable(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        const QFileInfo file(path);
+        if (file.exists() && !file.isFile())
+            return Error{Code::NotWritable, path,
+                         QStringLiteral("this is not a regular file; move it away")};
+        if (file.exists() && !file.isWritable())
+            return Error{Code::NotWritable, path, QStringLiteral("the file is write-protected")};
+    }
+    return {};
+}
+
+} // namespace
+
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
 {
-    if (::mkdir(QFile::encodeName(folder).constData(), 0700) != 0 && errno != EEXIST)
-        return Error{Code::NotWritable, folder,
-                     QStringLiteral("the folder cannot be made: %1")
-                         .arg(QString::fromUtf8(std::strerror(errno)))};
+    if (auto provided = provideFolder(folder); !provided)
+        return provided;
     QByteArray options;
     for (const JobOption &option : job.options)
         options += (option.name + u'=' + option.value + u'\n').toUtf8();
     const auto in = [&folder](const char *name) { return folder + u'/' + QLatin1String(name); };
+    if (auto checked = checkReplaceable({in("document.pdf"), in("ticket.plist"), in("options")});
+        !checked)
+        return checked;
     // The largest first: a disk that is full says so before anything changed.
     if (auto written = replaceFileByCopy(in("document.pdf"), job.pdfPath); !written)
         return written;

@@ -64,9 +64,9 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 
 // Writes document.pdf, options ("name=value" a line) and ticket.plist (always,
 // also where no device would read it: this is what the job would have said)
-// into the folder, which is created 0700 when missing; the files are 0600. Files
-// that stand there are replaced one by one; after an error what stood there
-// stays.
+// into the folder, which is 0700 when it makes it and keeps its rights when it is
+// there; the files are 0600. Files that stand there are replaced one by one, after
+// all three were found to be replaceable; after an error what stood there stays.
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
 
 struct DeliveredJob

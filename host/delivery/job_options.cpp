@@ -83,6 +83,9 @@ struct NeutralRow
 constexpr NeutralRow neutralRows[] = {
     {"number-up", "1"},
     {"page-set", "all"},
+    {"page-ranges", "1-2147483647"}, // the pages are cut already
+    {"mirror", "false"},
+    {"outputorder", "normal"},
 };
 
 const char *orientationRequested(Orientation orientation)

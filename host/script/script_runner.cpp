@@ -208,12 +208,14 @@ bool ScriptRunner::Private::checkNotice()
     return false;
 }
 
-// What became of the print that a line asked for.
+// What became of the print that a line asked for: `print`, but also a click on
+// the button, keys, or a control that prints by itself.
 bool ScriptRunner::Private::checkPrint()
 {
-    if (printedBy == 0 || frontNotice().isShown())
+    if (frontNotice().isShown())
         return true;
-    const int line = std::exchange(printedBy, 0);
+    const int pressed = std::exchange(printedBy, 0);
+    const int line = pressed != 0 || next == 0 ? pressed : lines[next - 1].number;
     if (target.finished())
         return true;
     const QString problem = target.lastPrintProblem();

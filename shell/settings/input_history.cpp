@@ -90,24 +90,17 @@ QStringList readHistory(const QString &key)
     return stringsIn(CopyUserPreferences(kInputHistoryFile).value_or(Dictionary()), key);
 }
 
-QStringList withNewest(const QStringList &history, const QString &text, int limit)
-{
-    QStringList changed = history;
-    changed.prepend(text);
-    if (limit > 0 && changed.size() > limit)
-        changed.resize(limit);
-    return changed;
-}
-
 bool saveHistory(const QString &key, const QString &text, int limit)
 {
     return ChangeUserPreferences(kInputHistoryFile, [&](Dictionary &histories) {
         const QStringList history = stringsIn(histories, key);
         if (history.contains(text)) // another dialog saved it since
             return false;
-        Array changed;
-        for (const QString &item : withNewest(history, text, limit))
-            changed.append(item);
+        // What is no text stays: another version of this program may read it.
+        Array changed = array(histories.value(key)).value_or(Array());
+        changed.prepend(text);
+        if (limit > 0 && changed.size() > limit)
+            changed.resize(limit);
         histories.insert(key, changed);
         return true;
     });

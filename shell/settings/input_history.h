@@ -49,9 +49,6 @@ bool isValidHistoryItem(const QString &item, const KComboBoxOptions &options);
 // The stored strings under `key`, most recent first; what is no string is left out.
 QStringList readHistory(const QString &key);
 
-// `text` put in front of `history`, the end cut to `limit` (0: not cut).
-QStringList withNewest(const QStringList &history, const QString &text, int limit);
-
 // Adds `text` to the stored history, merged with the file as it is under the
 // lock; a text that stands there stays where it is. False when the file could
 // not be written.

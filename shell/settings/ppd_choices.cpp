@@ -171,16 +171,16 @@ int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword,
         // The mark stays on purpose: the next choice is judged after this one.
         if (honourConstraints && ppd->mark(keyword, choice.keyword))
             continue;
-        const std::int32_t value = PPDTicketValueForChoice(keyword, choice.keyword);
-        if (value == -1) {
+        const PpdChoiceValue *row = findChoice(keyword, choice.keyword);
+        if (!row)
             reportOnStandardError("Skipped unrecognized choice in PPD: ", choice.keyword);
+        if (!row || row->value == -1) // -1: known, but no menu has it
             continue;
-        }
         MenuItem item;
         item.text = choice.text;
         item.key = choice.keyword;
         item.command = command;
-        item.reference = value;
+        item.reference = row->value;
         menu.items.push_back(std::move(item));
     }
     return static_cast<int>(menu.items.size());

@@ -60,8 +60,10 @@ std::optional<QString> referredCharacter(QStringView reference)
 std::optional<QString> replacementOf(QStringView entity,
                                      const QMap<QString, QString> &extraEntities)
 {
-    if (entity.startsWith(u'#'))
-        return referredCharacter(entity.sliced(1));
+    if (entity.startsWith(u'#')) {
+        if (auto character = referredCharacter(entity.sliced(1)))
+            return character;
+    }
     for (const Predefined &row : predefinedRows) {
         if (entity == row.name)
             return QString(row.character);

@@ -286,6 +286,14 @@ void TestPpdFile::refusesOtherFiles_data()
     QTest::newRow("another kind") << QByteArray("%PDF-1.4\n") << Answer(Code::Damaged);
     QTest::newRow("bad rule") << bare + "*UIConstraints: a\n" << Answer(Code::Damaged);
     QTest::newRow("compressed") << QByteArray("\x1f\x8b\x08") << Answer(Code::Unsupported);
+    for (const char *cut :
+         {"*OpenUI *A/Text: PickOne\n*A B/C: \"x\"\n", "*JCLOpenUI *JCLA/Text: PickOne\n",
+          "*OpenGroup: G/Text\n", "*OpenGroup: G\r\n*OpenUI *A: PickOne\r\n*CloseUI: *A\r\n"})
+        QTest::newRow(qPrintable(QStringLiteral("cut off after %1").arg(QLatin1String(cut))))
+            << bare + cut << Answer(Code::Damaged);
+    QTest::newRow("a word of the kind in a text")
+        << bare + "*A: \"\n*OpenUI *B: PickOne\n\"\n*End\n"
+        << Answer();
     QTest::newRow("most options") << bare
             + QByteArray("*OpenUI *A: PickOne\n*CloseUI: *A\n").repeated(limits::ppdOptions)
                                   << Answer();

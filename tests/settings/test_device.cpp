@@ -278,7 +278,6 @@ void TestDevice::reportsWhatItCannotShow()
     QVERIFY(menu.items.empty());
     QCOMPARE(captured.text(),
              QByteArray("Skipped unrecognized choice in PPD: Spiral\n"
-                        "Skipped unrecognized choice in PPD: Lighten1\n"
                         "Skipped unrecognized choice in PPD: None\n"
                         "Expected PPD option not found: KVFold\n"
                         "Expected PPD option not found: Duplex\n"));

@@ -55,6 +55,7 @@ private slots:
     void readsSharedFilesAndReportsDamage();
     void keepsTheNewestTexts_data();
     void keepsTheNewestTexts();
+    void keepsWhatIsNoText();
     void savesWhatIsNewOnly();
     void setsADamagedHistoryAside();
     void losesNothingOfSeveralDialogs();
@@ -157,6 +158,17 @@ void TestPreferences::keepsTheNewestTexts()
     QVERIFY(saveHistory(key, "new", limit));
     QCOMPARE(readHistory(key).join(QLatin1Char(' ')), after);
     QCOMPARE(readHistory("other"), QStringList{"kept"});
+}
+
+void TestPreferences::keepsWhatIsNoText()
+{
+    const QVariantList before{"a", 7, QVariantMap{{"later", true}}};
+    QVERIFY(WriteUserPreferences(kInputHistoryFile, {{key, before}}));
+    QVERIFY(saveHistory(key, "new", 0));
+    const auto stored = CopyUserPreferences(kInputHistoryFile).value_or(Dictionary());
+    QCOMPARE(stored.value(key).toList().size(), 4);
+    QCOMPARE(stored.value(key).toList().mid(1).value(2).toMap(), before[2].toMap());
+    QCOMPARE(readHistory(key), QStringList({"new", "a"}));
 }
 
 void TestPreferences::savesWhatIsNewOnly()

@@ -128,6 +128,8 @@ void TestTicketValues::unescapesEntities_data()
     QTest::newRow("sign") << "&#-65;"
                           << "&#-65;";
     QTest::newRow("extra") << "&nbsp;&hall;" << QStringLiteral(" Hall 3");
+    QTest::newRow("an extra like a number") << "&#hall;&#65;"
+                                            << "Hall 4A";
     QTest::newRow("the five win") << "&lt;"
                                   << "<";
     QTest::newRow("unknown") << "&what;&lt;"
@@ -151,7 +153,7 @@ void TestTicketValues::unescapesEntities()
     QFETCH(QString, escaped);
     QFETCH(QString, text);
     const QMap<QString, QString> extra = {
-        {"nbsp", " "}, {"hall", "Hall 3"}, {"lt", "no"}, {"deep", "&amp;"}};
+        {"nbsp", " "}, {"hall", "Hall 3"}, {"#hall", "Hall 4"}, {"lt", "no"}, {"deep", "&amp;"}};
     QCOMPARE(XMLCreateStringByUnescapingEntities(escaped, extra), text);
 }
 

@@ -124,6 +124,10 @@ private slots:
     void endsOnAnInterrupt();
     void keepsWhatStandsInTheFolder_data();
     void keepsWhatStandsInTheFolder();
+    void keepsWhatTheUserNamed_data();
+    void keepsWhatTheUserNamed();
+    void refusesAPpdThatWasCutOff();
+    void printsWhatIsNamedOnTheSampleDevice();
     void keepsPresets();
     void mendsAConflict();
     void refusesToPrintAConflict();
@@ -530,12 +534,84 @@ void TestStories::keepsWhatStandsInTheFolder()
         more << "--ticket-out" << documentPath + "/job.plist";
     const Run run = desk.run(arguments + more);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QENDED(run, 1);
+    QENDED(run, trouble == "a ticket" ? 2 : 1);
     QVERIFY2(run.messages().size() == 1, qPrintable(run.err));
     QCOMPARE(run.out, QString());
     QCOMPARE(filesIn(folder), stood);
     if (trouble == "a file")
         QCOMPARE(contents(target), "mine");
+}
+
+// Nothing that the user named is lost to what the program writes.
+void TestStories::keepsWhatTheUserNamed_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const QStringList &arguments, int status, const char *message) {
+        QTest::newRow(qPrintable(arguments.join(u' ')))
+            << arguments << status << QString::fromLatin1(message);
+    };
+    row({"--ticket-out", "document.pdf", "document.pdf"}, 2, "document.pdf is the document itself");
+    row({"--ticket-out", "link.pdf", "document.pdf"}, 2, "link.pdf is the document itself");
+    row({"--ticket-out", "keep.txt", "document.pdf"}, 2, "not a ticket");
+    row({"--ticket-out", "no/t.plist", "document.pdf"}, 2, "the folder no does not exist");
+    row({"--ticket-out", "run.kps", "--script", "run.kps", "document.pdf"}, 2, "the script itself");
+    row({"--to", ".", "document.pdf"}, 2, "./document.pdf is the document itself");
+    row({"--to", "busy", "keep.txt"}, 1, "busy/options: this is not a regular file");
+    row({"--to", "a/b/c", "keep.txt"}, 1, "the folder a/b does not exist");
+}
+
+void TestStories::keepsWhatTheUserNamed()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, message);
+    const Desk desk;
+    write(desk.path("document.pdf"), contents(documentPath));
+    QVERIFY(QFile::link(desk.path("document.pdf"), desk.path("link.pdf")));
+    write(desk.path("keep.txt"), "years of work\n");
+    write(desk.path("run.kps"), "print\n");
+    QVERIFY(QDir().mkpath(desk.path("busy/options")));
+    write(desk.path("busy/ticket.plist"), "an older one\n");
+    const auto before = filesIn(desk.path("."));
+    const auto busyBefore = filesIn(desk.path("busy"));
+
+    QStringList line{"--no-window", "--ppd", fullPpd};
+    if (!arguments.contains("--to"))
+        line << "--to"
+             << "out";
+    const Run run = desk.run(line + arguments);
+
+    QENDED(run, status);
+    QVERIFY2(run.err.contains(message), qPrintable(run.err));
+    QCOMPARE(filesIn(desk.path(".")), before);
+    QCOMPARE(filesIn(desk.path("busy")), busyBefore);
+    QVERIFY(!QFile::exists(desk.path("no")) && !QFile::exists(desk.path("a")));
+}
+
+void TestStories::refusesAPpdThatWasCutOff()
+{
+    const Desk desk;
+    write(desk.path("cut.ppd"), contents(fullPpd).left(20'000));
+    const Run run = desk.run({"--no-window", "--ppd", "cut.ppd", "--to", "out", documentPath});
+    QENDED(run, 4);
+    QVERIFY2(run.err.contains("the file ends in the middle of the option"), qPrintable(run.err));
+}
+
+void TestStories::printsWhatIsNamedOnTheSampleDevice()
+{
+    const Desk desk;
+    write(desk.path("own.txt"), "Of my own\n");
+    for (const auto &[arguments, input] :
+         {std::pair(QStringList{"own.txt"}, ""), {QStringList{"-"}, "Of my own\n"}}) {
+        const Run run =
+            desk.run(QStringList{"--demo", "--no-window", "--to", "out"} + arguments, input);
+        QENDED(run, 0);
+        const auto pdf = Poppler::Document::load(desk.path("out/document.pdf"));
+        QVERIFY(pdf);
+        QVERIFY(pdf->page(0)->text({}).contains("Of my own"));
+    }
 }
 
 void TestStories::keepsPresets()

@@ -94,6 +94,9 @@ void TestJobOptions::sayEachSettingOnce_data()
     row("pages are laid out already", full, {}, plain, {{"number-up", "2"}, {"page-set", "even"}},
         {"copies=1", "number-up=1", "page-set=all"});
 
+    row("and cut, in their order", full, {}, plain,
+        {{"page-ranges", "1-2"}, {"mirror", "true"}, {"outputorder", "reverse"}},
+        {"copies=1", "page-ranges=1-2147483647", "mirror=false", "outputorder=normal"});
     row("a reader of tickets turns pages itself", full, {}, landscape, {}, {"copies=1"});
     row("and is not turned by a default", full, {}, landscape, {{"orientation-requested", "5"}},
         {"copies=1", "orientation-requested=3"});

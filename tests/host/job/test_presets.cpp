@@ -147,6 +147,7 @@ void TestPresets::leaveOutWhatIsOfOneJob()
 
 void TestPresets::hideTheSitesPresetOfTheirName()
 {
+    QVERIFY(QDir().mkpath(sitePresets()));
     QVERIFY(writeTicketFile(sitePresets() + "/Draft.plist", ticketWith("SinglePortrait")));
     QVERIFY(writeTicketFile(sitePresets() + "/Report.plist", ticketWith("SingleLandscape")));
     QCOMPARE(names(m_store.presets()), (QStringList{"Draft (site)", "Report (site)"}));
@@ -189,6 +190,7 @@ void TestPresets::areRenamedAndRemoved()
 
 void TestPresets::ofTheSiteAreReadOnly()
 {
+    QVERIFY(QDir().mkpath(sitePresets()));
     QVERIFY(writeTicketFile(sitePresets() + "/Report.plist", ticketWith("None")));
     QCOMPARE(m_store.remove("Report").error().code, Code::Refused);
     QCOMPARE(m_store.rename("Report", "Mine").error().code, Code::Refused);
@@ -229,6 +231,7 @@ void TestPresets::startJobsFromTheSitesDefaults()
     QVERIFY(
         m_store.save("default", ticketWith("None"), keys, true)); // the user's own is no default
     QVERIFY(!m_store.siteDefaults());
+    QVERIFY(QDir().mkpath(sitePresets()));
     QVERIFY(writeTicketFile(sitePresets() + "/default.plist", ticketWith("DualPortrait")));
     QCOMPARE(m_store.siteDefaults(), std::optional(ticketWith("DualPortrait")));
     write(sitePresets() + "/default.plist", "<plist>");

@@ -59,6 +59,10 @@ public:
             modalResult = static_cast<int>(dialog.runModal());
         });
         layout->addWidget(setup);
+        auto *print = new QPushButton(QStringLiteral("Print"));
+        print->setObjectName(QStringLiteral("print"));
+        QObject::connect(print, &QPushButton::clicked, print, [this] { pressPrint(); });
+        layout->addWidget(print);
         m_window.show();
     }
 
@@ -89,7 +93,10 @@ public:
     void pressCancel() override { m_finished = ExitStatus::Cancelled; }
     bool isPrinting() const override { return false; }
     std::optional<ExitStatus> finished() const override { return m_finished; }
-    QString lastPrintProblem() const override { return printProblem; }
+    QString lastPrintProblem() const override
+    {
+        return printPresses > 0 ? printProblem : QString();
+    }
     ExitStatus lastPrintStatus() const override { return ExitStatus::NotOffered; }
     const PrintSession &sessionForReading() override { return session; }
     QString jobInWords() override { return QStringLiteral("Passcode: 4711"); }
@@ -181,6 +188,10 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
     row("printed", "choose KPDE 614 0\nprint", ExitStatus::Printed);
     row("cancelled as the script says", "cancel", ExitStatus::Printed);
     row("nothing can follow a print", "print\ntab 4", ExitStatus::WrongUsage);
+    row("the button prints as the line does", "click @print", ExitStatus::Printed);
+    row("its refusal ends the run", "click @print\ntab 4", ExitStatus::NotOffered, false,
+        "A conflict.");
+    row("also at the end", "tab 4\nclick @print", ExitStatus::NotOffered, false, "A conflict.");
     row("no such tab", "tab 5", ExitStatus::WrongUsage);
     row("no such control", "click @aboutButon", ExitStatus::WrongUsage);
     row("item not offered", "choose @bannerSheet key Maybe", ExitStatus::NotOffered);

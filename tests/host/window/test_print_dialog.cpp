@@ -437,6 +437,7 @@ void TestPrintDialog::theTicketIsWrittenBeforeTheJob()
              qPrintable(shown.dialog.lastPrintProblem()));
 
     QVERIFY(inTheWay.remove());
+    QVERIFY(QDir().mkdir(m_folder->filePath("no")));
     shown.dialog.pressPrint();
     QVERIFY(shown.waitUntilEnded());
     const auto out = readTicketFile(m_folder->filePath("no/out.plist"));
