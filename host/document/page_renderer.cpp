@@ -1,19 +1,16 @@
 #include "page_renderer.h"
 
+#include "document_functions.h"
+
 #include <QMutex>
 #include <QThread>
 
-#include <poppler-qt6.h>
-
-#include <algorithm>
-#include <cmath>
+#include <atomic>
 #include <optional>
 
 namespace kelvo {
 
 namespace {
-
-constexpr int mostPixels = 8192; // along either side; 4 times a large screen
 
 struct Request
 {
@@ -32,37 +29,6 @@ struct Shared
     std::atomic<quint64> wanted = 0;
 };
 
-// What poppler's callback needs to know of the page being drawn.
-struct Progress
-{
-    const Shared *shared;
-    quint64 number;
-};
-
-bool isAbandoned(const QVariant &payload)
-{
-    const auto *progress = static_cast<const Progress *>(payload.value<void *>());
-    return progress->shared->wanted != progress->number;
-}
-
-QImage draw(Poppler::Document &pdf, int number, const QSize &pixels, Progress progress)
-{
-    const std::unique_ptr<Poppler::Page> page = pdf.page(number - 1);
-    if (!page)
-        return {};
-    const QSizeF size = page->pageSizeF(); // points
-    if (size.isEmpty() || pixels.isEmpty())
-        return {};
-    const QSize room = pixels.boundedTo(QSize(mostPixels, mostPixels));
-    const double scale = std::min(room.width() / size.width(), room.height() / size.height());
-    const QSize fitted = (size * scale).toSize().expandedTo(QSize(1, 1));
-    const auto none = [](const QImage &, const QVariant &) {};
-    const auto never = [](const QVariant &) { return false; };
-    return page->renderToImage(72 * scale, 72 * scale, 0, 0, fitted.width(), fitted.height(),
-                               Poppler::Page::Rotate0, none, never, isAbandoned,
-                               QVariant::fromValue(static_cast<void *>(&progress)));
-}
-
 } // namespace
 
 struct PageRenderer::Private
@@ -74,8 +40,8 @@ struct PageRenderer::Private
 
     // On the thread only.
     QString loadedPath;
-    Document loaded; // keeps the file while poppler reads it
-    std::unique_ptr<Poppler::Document> pdf;
+    Document loaded; // keeps the file while it is read
+    std::unique_ptr<PdfDrawing> pdf;
 
     std::optional<Request> takeRequest()
     {
@@ -87,14 +53,10 @@ struct PageRenderer::Private
     {
         if (loadedPath == wanted.pdfPath())
             return;
-        pdf = Poppler::Document::load(wanted.pdfPath());
+        const auto functions = documentFunctions();
+        pdf = functions ? functions.value()->openDrawing(wanted.pdfPath()) : nullptr;
         loaded = wanted;
         loadedPath = wanted.pdfPath();
-        if (!pdf)
-            return;
-        pdf->setRenderHint(Poppler::Document::Antialiasing);
-        pdf->setRenderHint(Poppler::Document::TextAntialiasing);
-        pdf->setPaperColor(Qt::white);
     }
 };
 
@@ -102,8 +64,6 @@ PageRenderer::PageRenderer(QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Private>())
 {
-    // It reports every oddity of a document on standard error.
-    Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
     d->worker.moveToThread(&d->thread);
     d->thread.setObjectName(QStringLiteral("page renderer"));
     d->thread.start();
@@ -135,9 +95,11 @@ void PageRenderer::render(int page, const QSize &pixels)
         if (!request)
             return;
         d->load(request->document);
-        const QImage image = d->pdf
-            ? draw(*d->pdf, request->page, request->pixels, {&d->shared, request->number})
-            : QImage();
+        const auto isAbandoned = [this, number = request->number] {
+            return d->shared.wanted != number;
+        };
+        const QImage image =
+            d->pdf ? d->pdf->draw(request->page, request->pixels, isAbandoned) : QImage();
         // Told on our own thread, where a newer request can no longer slip in.
         QMetaObject::invokeMethod(this,
                                   [this, number = request->number, page = request->page, image] {

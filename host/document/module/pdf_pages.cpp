@@ -1,5 +1,4 @@
-#include "pdf_pages.h"
-
+#include "functions.h"
 #include "output_file.h"
 
 #include <QFile>
@@ -15,7 +14,7 @@
 #include <cmath>
 #include <set>
 
-namespace kelvo {
+namespace kelvo::documents {
 
 namespace {
 
@@ -179,4 +178,4 @@ Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &r
     });
 }
 
-} // namespace kelvo
+} // namespace kelvo::documents

@@ -4,7 +4,7 @@
 #endif
 #include <pango/pangocairo.h>
 
-#include "document_files.h"
+#include "functions.h"
 #include "pdf_canvas.h"
 #include "size_limits.h"
 
@@ -13,7 +13,7 @@
 
 #include <algorithm>
 
-namespace kelvo {
+namespace kelvo::documents {
 
 namespace {
 
@@ -245,4 +245,4 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper,
     return canvas.value().close();
 }
 
-} // namespace kelvo
+} // namespace kelvo::documents

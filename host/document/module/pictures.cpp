@@ -1,0 +1,197 @@
+#include "functions.h"
+#include "pdf_canvas.h"
+#include "size_limits.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgRenderer>
+
+#include <cmath>
+
+namespace kelvo::documents {
+
+namespace {
+
+constexpr double sharpest = 600; // dots per inch; more is lost on paper and costs time
+constexpr int jpegQuality = 95;
+
+Error pictureError(Error::Code code, const QString &detail)
+{
+    return Error{code, {}, detail};
+}
+
+// What the file says of its resolution, in dots per inch, where that makes
+// sense; else what screens and browsers take.
+double resolution(int dotsPerMeter)
+{
+    const double dpi = dotsPerMeter * 0.0254;
+    return dpi >= 30 && dpi <= 2400 ? dpi : 96;
+}
+
+// Without transparency, in the pixel layout of cairo, and no sharper than paper.
+QImage flattened(QImage image, const QSizeF &placed)
+{
+    const double most = sharpest / 72;
+    const QSize enough(static_cast<int>(std::ceil(placed.width() * most)),
+                       static_cast<int>(std::ceil(placed.height() * most)));
+    const QSize size = image.size().boundedTo(enough).expandedTo(QSize(1, 1));
+    if (size != image.size())
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (!image.hasAlphaChannel()) {
+        image.convertTo(QImage::Format_RGB32);
+        return image;
+    }
+    QImage flat(image.size(), QImage::Format_RGB32);
+    flat.fill(Qt::white);
+    QPainter painter(&flat);
+    painter.drawImage(0, 0, image);
+    return flat;
+}
+
+// Finishing makes whoever still holds the surface let go of the image's pixels.
+struct Finisher
+{
+    void operator()(cairo_surface_t *surface) const
+    {
+        cairo_surface_finish(surface);
+        cairo_surface_destroy(surface);
+    }
+};
+
+// A photograph stays a JPEG in the PDF, encoded anew: what came in is damaged
+// for all we know, and ends in printers.
+void attachJpeg(cairo_surface_t *surface, const QImage &image)
+{
+    auto *bytes = new QByteArray;
+    QBuffer buffer(bytes);
+    buffer.open(QIODevice::WriteOnly);
+    const bool isSaved = image.save(&buffer, "jpeg", jpegQuality);
+    buffer.close();
+    const auto destroy = [](void *data) { delete static_cast<QByteArray *>(data); };
+    if (!isSaved
+        || cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_JPEG,
+                                       reinterpret_cast<const unsigned char *>(bytes->constData()),
+                                       static_cast<unsigned long>(bytes->size()), destroy, bytes)
+            != CAIRO_STATUS_SUCCESS) {
+        delete bytes;
+    }
+}
+
+bool drawPicture(PdfCanvas &canvas, const QImage &image, const QSizeF &paper, bool isPhotograph)
+{
+    const QSizeF size(image.width() * 72 / resolution(image.dotsPerMeterX()),
+                      image.height() * 72 / resolution(image.dotsPerMeterY()));
+    const auto [page, placed] = placePicture(size, paper);
+    QImage flat = flattened(image, placed.size());
+
+    const std::unique_ptr<cairo_surface_t, Finisher> surface(
+        cairo_image_surface_create_for_data(flat.bits(), CAIRO_FORMAT_RGB24, flat.width(),
+                                            flat.height(), static_cast<int>(flat.bytesPerLine())));
+    if (isPhotograph)
+        attachJpeg(surface.get(), flat);
+
+    cairo_t *context = canvas.beginPage(page);
+    cairo_translate(context, placed.x(), placed.y());
+    cairo_scale(context, placed.width() / flat.width(), placed.height() / flat.height());
+    cairo_set_source_surface(context, surface.get(), 0, 0);
+    cairo_paint(context);
+    return canvas.endPage();
+}
+
+Result<void> drawPictures(QImageReader &reader, DocumentKind kind, const QString &pdfPath)
+{
+    Result<PdfCanvas> canvas = PdfCanvas::create(pdfPath);
+    if (!canvas)
+        return canvas.error();
+    const QSizeF paper = localePaper();
+    // Only of a TIFF are all pictures pages; a GIF's are a film.
+    const int pages = kind == DocumentKind::Tiff ? reader.imageCount() : 1;
+    int page = 1;
+    do {
+        const QSize size = reader.size();
+        if (size.isValid() && qint64(size.width()) * size.height() > limits::picturePixels) {
+            return pictureError(Error::Code::TooLarge,
+                                QStringLiteral("a picture of %1 by %2 pixels is not printed; the "
+                                               "limit is %3 million")
+                                    .arg(size.width())
+                                    .arg(size.height())
+                                    .arg(limits::picturePixels / 1'000'000));
+        }
+        const QImage image = reader.read();
+        if (image.isNull()) {
+            return pictureError(
+                Error::Code::Damaged,
+                pages > 1
+                    ? QStringLiteral("page %1 of the picture cannot be read: %2")
+                          .arg(page)
+                          .arg(reader.errorString())
+                    : QStringLiteral("the picture cannot be read: %1").arg(reader.errorString()));
+        }
+        if (!drawPicture(canvas.value(), image, paper, kind == DocumentKind::Jpeg))
+            break; // close() tells why
+        ++page;
+    } while (page <= pages && reader.jumpToNextImage());
+    return canvas.value().close();
+}
+
+// As lines and curves, which stay sharp at any size.
+Result<void> drawSvg(const QString &picturePath, const QString &pdfPath)
+{
+    QSvgRenderer renderer(picturePath);
+    const QSizeF size = QSizeF(renderer.defaultSize()) * 72 / 96; // CSS pixels
+    if (!renderer.isValid() || size.isEmpty())
+        return pictureError(Error::Code::Damaged, QStringLiteral("the drawing cannot be read"));
+    const auto [page, placed] = placePicture(size, localePaper());
+
+    Result<OutputFile> output = OutputFile::create(pdfPath);
+    if (!output)
+        return output.error();
+    QFile file;
+    if (!file.open(output.value().stream(), QIODevice::WriteOnly))
+        return output.value().error();
+    {
+        QPdfWriter writer(&file);
+        writer.setResolution(1200);
+        writer.setPageMargins(QMarginsF());
+        writer.setPageSize(QPageSize(page, QPageSize::Point, QString(), QPageSize::ExactMatch));
+        QPainter painter(&writer);
+        const double unit = writer.resolution() / 72.0;
+        renderer.render(&painter, QRectF(placed.topLeft() * unit, placed.size() * unit));
+    }
+    if (!file.flush())
+        return output.value().error();
+    file.close();
+    return output.value().close();
+}
+
+} // namespace
+
+Result<void> makePicturePdf(const QString &picturePath, const QString &pdfPath)
+{
+    QFile file(picturePath);
+    if (!file.open(QIODevice::ReadOnly))
+        return pictureError(Error::Code::Damaged, file.errorString());
+    const DocumentKind kind = documentKind(file.read(kKindBytes));
+    file.seek(0);
+
+    if (kind == DocumentKind::Svg)
+        return drawSvg(picturePath, pdfPath);
+    const QByteArray format = QByteArray(pictureFormat(kind).data(), pictureFormat(kind).size());
+    if (!QImageReader::supportedImageFormats().contains(format)) {
+        return pictureError(Error::Code::Unsupported,
+                            QStringLiteral("%1 pictures cannot be read here; install the package "
+                                           "\"qt6-image-formats-plugins\"")
+                                .arg(QString::fromLatin1(format).toUpper()));
+    }
+    QImageReader::setAllocationLimit(static_cast<int>(limits::picturePixels * 4 / limits::MiB) + 1);
+    QImageReader reader(&file, format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    return drawPictures(reader, kind, pdfPath);
+}
+
+} // namespace kelvo::documents
