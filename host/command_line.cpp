@@ -94,12 +94,32 @@ Result<void> takeCopies(CommandLine &line, const QString &value, const QString &
     return {};
 }
 
+// What lp knows without a value.
+std::optional<QPair<QString, QString>> orientationWord(const QString &word)
+{
+    const QString name = QStringLiteral("orientation-requested");
+    if (word == QLatin1String("portrait"))
+        return QPair<QString, QString>{name, QStringLiteral("3")};
+    if (word == QLatin1String("landscape"))
+        return QPair<QString, QString>{name, QStringLiteral("4")};
+    return std::nullopt;
+}
+
 Result<void> takeOption(CommandLine &line, const QString &value, const QString &where)
 {
-    const auto option = nameAndValue(value);
-    if (!option || option->second.isEmpty())
-        return refused(where, QStringLiteral("\"%1\" is not NAME=VALUE").arg(value));
-    line.options.append(*option);
+    // Several in one, separated by blanks.
+    const QStringList words = value.simplified().split(u' ');
+    for (const QString &word : words) {
+        const auto option = orientationWord(word);
+        const auto named = option ? option : nameAndValue(word);
+        if (word == QLatin1String("fit-to-page"))
+            return refused(where,
+                           QStringLiteral("fit-to-page: pages are printed at their own size; "
+                                          "choose a paper that holds them, -o media=NAME"));
+        if (!named || named->second.isEmpty())
+            return refused(where, QStringLiteral("\"%1\" is not NAME=VALUE").arg(word));
+        line.options.append(*named);
+    }
     return {};
 }
 
@@ -160,6 +180,7 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--list-printers", nullptr, "list the queues and end", takeFlag<&CommandLine::listPrinters>},
     {nullptr, "--list-controls", nullptr, "list what scripts can reach, and end", takeFlag<&CommandLine::listControls>},
     {nullptr, "--version", nullptr, "print the version and end", takeFlag<&CommandLine::version>},
+    {nullptr, "--help-scripts", nullptr, "list the commands of scripts and end", takeFlag<&CommandLine::helpScripts>},
     {"-h", "--help", nullptr, "print this and end", takeFlag<&CommandLine::help>},
 };
 // clang-format on
@@ -197,7 +218,9 @@ QStringList allNames()
 
 Error noSuchOption(const QString &name)
 {
-    return refused(name, QStringLiteral("there is no such option") + didYouMean(name, allNames()));
+    // Every single letter is near every other one.
+    const QString near = name.size() > 2 ? didYouMean(name, allNames()) : QString();
+    return refused(name, QStringLiteral("there is no such option") + near);
 }
 
 Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
@@ -281,7 +304,7 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
             return taken.error();
     }
 
-    if (line.help || line.version || line.listPrinters || line.listControls)
+    if (line.help || line.helpScripts || line.version || line.listPrinters || line.listControls)
         return line;
     if (const auto clash = findClash(line))
         return *clash;
@@ -316,9 +339,9 @@ QString usageText()
         "Later beats earlier: the device's defaults, the queue's, the site's preset,\n"
         "--preset, --ticket-in, -o, --script.\n"
         "\n"
-        "Ends with 0 printed, 1 failed, 2 wrong usage or script, 3 settings in conflict\n"
-        "or not offered, 4 destination unknown or unreachable, 6 ticket invalid,\n"
-        "130 cancelled.\n");
+        "Ends with 0 printed, 1 failed, 2 wrong usage or script, 3 settings of -o or a\n"
+        "script in conflict or not offered, 4 destination or PPD unknown, unreachable or\n"
+        "unreadable, 6 ticket missing or invalid, 130 cancelled.\n");
     return text;
 }
 

@@ -31,6 +31,7 @@ struct CommandLine
     std::optional<QString> toFolder; // --to
     int timeoutSeconds = 30;         // --timeout, 1 to 3600
     bool listPrinters = false, listControls = false, version = false, help = false;
+    bool helpScripts = false; // --help-scripts
 };
 
 // Refused with what was wrong, where, and the nearest option that exists.

@@ -71,12 +71,37 @@ std::unique_ptr<QTemporaryDir> provideRuntimeFolder()
     return folder;
 }
 
-// Without a display Qt has nothing to do with a dialog's size, and says so each
-// time. Nobody wants to read it among a script's own messages.
+// Without a display Qt has nothing to do with a window's size, place or keys, and
+// says so each time. Nobody wants to read it among a script's own messages.
 void passMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
-    if (!text.contains(QLatin1String("propagateSizeHints")))
+    if (!text.startsWith(QLatin1String("This plugin does not support ")))
         std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
+
+// What was said on standard output has arrived. Where it has not, a script that
+// reads it must not take the silence for an answer.
+int endWith(int status)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return status;
+    fail(ExitStatus::Failed,
+         QStringLiteral("standard output cannot be written; what was done before stays done"));
+    return status == 0 ? toInt(ExitStatus::Failed) : status;
+}
+
+// What is wrong with a ticket, after its name: "(line 1: …)".
+QString ticketProblem(const QString &path, const Error &error)
+{
+    if (error.code != Error::Code::Damaged && error.code != Error::Code::WrongType)
+        return error.text();
+    QString reason = error.text();
+    if (reason.startsWith(path))
+        reason.remove(0, path.size());
+    while (reason.startsWith(u',') || reason.startsWith(u':') || reason.startsWith(u' '))
+        reason.remove(0, 1);
+    reason.remove(QStringLiteral(": this is not a ticket file"));
+    return QStringLiteral("%1 is not a ticket file (%2)").arg(path, reason);
 }
 
 // ---- signals
@@ -161,7 +186,8 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
     if (line.ticketIn) {
         auto ticket = readTicketFile(*line.ticketIn);
         if (!ticket)
-            return Failure{ExitStatus::InvalidTicket, ticket.error().text()};
+            return Failure{ExitStatus::InvalidTicket,
+                           ticketProblem(*line.ticketIn, ticket.error())};
         options.ticketIn = std::move(ticket).value();
     }
     if (line.preset) {
@@ -279,12 +305,12 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     const auto runtimeFolder = provideRuntimeFolder();
     if (line.noWindow || line.listControls) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        qInstallMessageHandler(passMessage);
     } else if (!hasDisplay()) {
         return fail(ExitStatus::WrongUsage,
                     QStringLiteral("there is no display to show the dialog on; --no-window prints "
                                    "without one"));
     }
+    qInstallMessageHandler(passMessage);
     QApplication application(argc, argv);
     // The application object took over the locale; what we write must not follow it.
     std::setlocale(LC_NUMERIC, "C");
@@ -340,21 +366,25 @@ int main(int argc, char **argv)
     const CommandLine &line = parsed.value();
     if (line.help) {
         say(usageText());
-        return 0;
+        return endWith(0);
+    }
+    if (line.helpScripts) {
+        say(scriptCommandsText());
+        return endWith(0);
     }
     if (line.version) {
         say(QStringLiteral("kelvo-print " KELVO_VERSION "\n"));
-        return 0;
+        return endWith(0);
     }
     if (line.listPrinters) {
         const QCoreApplication application(argc, argv);
-        return listQueues(line.timeoutSeconds * 1000);
+        return endWith(listQueues(line.timeoutSeconds * 1000));
     }
 
     // Qt reads its own options out of what it is given: it gets none of ours.
     int ownCount = 1;
     char *own[] = {argv[0], nullptr};
-    const int status = runApplication(ownCount, own, line);
+    const int status = endWith(runApplication(ownCount, own, line));
     if (!waitForBackgroundWork(endWaitMs)) {
         // A thread hangs in a server's answer; nothing of the user's is left to do.
         std::fflush(nullptr);

@@ -50,4 +50,13 @@ QString didYouMean(const QString &name, const QStringList &candidates)
     return nearest.isEmpty() ? QString() : QStringLiteral(", did you mean %1?").arg(nearest);
 }
 
+QString shortList(const QStringList &names)
+{
+    constexpr qsizetype most = 12;
+    QString list = names.mid(0, most).join(QStringLiteral(", "));
+    if (names.size() > most)
+        list += QStringLiteral(", …");
+    return list;
+}
+
 } // namespace kelvo

@@ -13,4 +13,7 @@ QString nearestName(const QString &name, const QStringList &candidates);
 // ", did you mean NAME?" or nothing: the end of a sentence.
 QString didYouMean(const QString &name, const QStringList &candidates);
 
+// The first twelve names, and "…" where there are more.
+QString shortList(const QStringList &names);
+
 } // namespace kelvo

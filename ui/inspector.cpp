@@ -45,19 +45,25 @@ namespace kelvo::inspector {
 
 namespace {
 
-// A control's name as its user writes it: the ID where it has one.
-QString nameOf(const QWidget *control)
-{
-    if (const auto id = controlIDOf(control))
-        return textOf(*id);
-    return QStringLiteral("@%1").arg(control->objectName());
-}
-
 // Qt gives names of its own to the insides of its widgets; they are not ours.
 bool hasSpeakingName(const QWidget *widget)
 {
     return !widget->objectName().isEmpty()
         && !widget->objectName().startsWith(QLatin1String("qt_"));
+}
+
+// A control's name as its user writes it: the one that speaks, else the ID.
+QString nameOf(const QWidget *control)
+{
+    const auto id = controlIDOf(control);
+    return hasSpeakingName(control) || !id ? QStringLiteral("@%1").arg(control->objectName())
+                                           : textOf(*id);
+}
+
+// An item as the user reads it: without the mark of its access key.
+QString plainText(const MenuItem &item)
+{
+    return QString(item.text).remove(u'&');
 }
 
 bool isMasked(const QWidget *control)
@@ -117,7 +123,7 @@ bool isNamed(const MenuItem &item, const ItemName &name)
     case ItemName::By::Key:
         return !item.divider && item.key == name.text;
     case ItemName::By::Text:
-        return !item.divider && item.text == name.text;
+        return !item.divider && (item.text == name.text || plainText(item) == name.text);
     case ItemName::By::Row:
         return false; // rows are counted by the caller
     }
@@ -132,7 +138,7 @@ QStringList namesOf(const std::vector<const MenuItem *> &items, ItemName::By by)
             continue;
         names << (by == ItemName::By::Reference ? QString::number(item->reference)
                       : by == ItemName::By::Key ? item->key
-                                                : item->text);
+                                                : plainText(*item));
     }
     return names;
 }
@@ -176,16 +182,17 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
     if (!nearest.isEmpty())
         why += QStringLiteral(", the nearest is %1").arg(nearest);
     else if (!names.isEmpty())
-        why += QStringLiteral("; it has %1").arg(names.mid(0, 12).join(QStringLiteral(", ")));
+        why += QStringLiteral("; it has %1").arg(shortList(names));
     return {nullptr, notOffered(control, why)};
 }
 
 Done chooseMenuItem(QWidget *control, const MenuItem &item)
 {
     if (item.divider || !item.submenu.empty())
-        return notOffered(control, QStringLiteral("cannot choose \"%1\"").arg(item.text));
+        return notOffered(control, QStringLiteral("cannot choose \"%1\"").arg(plainText(item)));
     if (!item.enabled)
-        return notOffered(control, QStringLiteral("offers \"%1\" only disabled").arg(item.text));
+        return notOffered(control,
+                          QStringLiteral("offers \"%1\" only disabled").arg(plainText(item)));
     bool chosen = false;
     if (auto *popup = qobject_cast<PopupButton *>(control)) {
         const auto &items = popup->menu().items;
@@ -195,8 +202,9 @@ Done chooseMenuItem(QWidget *control, const MenuItem &item)
     } else if (auto *button = qobject_cast<MenuButton *>(control)) {
         chosen = button->choose(item);
     }
-    return chosen ? Done()
-                  : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));
+    return chosen
+        ? Done()
+        : notOffered(control, QStringLiteral("does not take \"%1\"").arg(plainText(item)));
 }
 
 // An ordinary combo box: only texts and rows name its items.
@@ -312,7 +320,7 @@ QJsonArray describeItems(const std::vector<MenuItem> &items)
         if (item.divider) {
             object[QStringLiteral("divider")] = true;
         } else {
-            object[QStringLiteral("text")] = item.text;
+            object[QStringLiteral("text")] = plainText(item);
             object[QStringLiteral("value")] = item.reference;
             if (!item.key.isEmpty())
                 object[QStringLiteral("key")] = item.key;
@@ -710,11 +718,10 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
     if (!found.item && !isAbsent)
         return found.problem;
     if (state == QLatin1String("absent"))
-        return isAbsent
-            ? Done()
-            : Problem{
-                Failure::BadValue,
-                QStringLiteral("%1 has that item: \"%2\"").arg(nameOf(control), found.item->text)};
+        return isAbsent ? Done()
+                        : Problem{Failure::BadValue,
+                                  QStringLiteral("%1 has that item: \"%2\"")
+                                      .arg(nameOf(control), plainText(*found.item))};
     if (isAbsent)
         return Problem{Failure::BadValue, problem};
     const bool holds = state == QLatin1String("present")
@@ -724,9 +731,9 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
         || (state == QLatin1String("unchecked") && !found.item->checked);
     if (holds)
         return {};
-    return Problem{
-        Failure::BadValue,
-        QStringLiteral("\"%1\" of %2 is not %3").arg(found.item->text, nameOf(control), state)};
+    return Problem{Failure::BadValue,
+                   QStringLiteral("\"%1\" of %2 is not %3")
+                       .arg(plainText(*found.item), nameOf(control), state)};
 }
 
 QJsonObject describe(QWidget *control)

@@ -201,9 +201,10 @@ struct Request
     }
     Error unknownValue(const QStringList &known) const
     {
-        return error(
-            Code::NotFound,
-            QStringLiteral("%1 has no value %2%3").arg(name, value, didYouMean(value, known)));
+        QString there = didYouMean(value, known);
+        if (there.isEmpty() && !known.isEmpty())
+            there = QStringLiteral("; there are ") + shortList(known);
+        return error(Code::NotFound, QStringLiteral("there is no such value") + there);
     }
     Result<void> change(const std::function<void(JobSettings &)> &edit) const
     {
@@ -438,7 +439,7 @@ Result<void> applyOption(const QString &name, const QString &value, const PpdFil
     }
     return request.error(
         Code::NotFound,
-        QStringLiteral("this printer has no option %1%2").arg(name, didYouMean(name, known)));
+        QStringLiteral("this printer has no such option%1").arg(didYouMean(name, known)));
 }
 
 } // namespace kelvo

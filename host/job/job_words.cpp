@@ -5,6 +5,8 @@
 
 #include <QDateTime>
 
+#include <algorithm>
+
 namespace kelvo {
 
 namespace {
@@ -96,13 +98,13 @@ QString orientationWords(Orientation orientation)
 {
     switch (orientation) {
     case Orientation::Portrait:
-        return QStringLiteral("portrait");
+        return QStringLiteral("Portrait");
     case Orientation::Landscape:
-        return QStringLiteral("landscape");
+        return QStringLiteral("Landscape");
     case Orientation::ReversePortrait:
-        return QStringLiteral("reverse portrait");
+        return QStringLiteral("Portrait, upside down");
     case Orientation::ReverseLandscape:
-        return QStringLiteral("reverse landscape");
+        return QStringLiteral("Landscape, upside down");
     }
     return {};
 }
@@ -125,7 +127,7 @@ void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &
                                                : QStringLiteral(", not collated");
     add(settings.copies == 1, "Copies", QString::number(settings.copies) + order);
     add(settings.pageRanges.isEmpty(), "Pages",
-        settings.pageRanges.isEmpty() ? QStringLiteral("all") : settings.pageRanges.simplified());
+        settings.pageRanges.isEmpty() ? QStringLiteral("All") : settings.pageRanges.simplified());
     add(settings.orientation == Orientation::Portrait, "Orientation",
         orientationWords(settings.orientation));
     // Where there is a PPD, the paper stands among its options.
@@ -150,6 +152,15 @@ void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, JobWords &
     }
 }
 
+// Entries of the print settings that are not the host's own.
+int panelEntries(const TicketFile &ticket)
+{
+    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMPageRangesKey, kPMJobNameKey};
+    return static_cast<int>(
+        std::count_if(ticket.printSettings.entries.begin(), ticket.printSettings.entries.end(),
+                      [](const auto &entry) { return !own.contains(entry.first); }));
+}
+
 } // namespace
 
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
@@ -165,6 +176,10 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
         if (!ppd || !offers(*ppd, choice.key(), choice.value()))
             words.notSent << missingWords(choice.key(), choice.value(), ppd);
     }
+    // Only the panels know what their entries say; that they are there is said.
+    if (const int count = panelEntries(ticket); count > 0)
+        words.settings << QStringLiteral("%1 of the device panels, see Ticket")
+                              .arg(counted(count, "entry", "entries"));
     const TicketFile shown = masked(ticket, keys);
     words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);
     return words;
@@ -199,11 +214,16 @@ QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int 
     if (pages > 0) {
         const QString duplex = ticket.printSettings.ppdChoices.value(QStringLiteral("Duplex"));
         const bool twoSided = duplex.startsWith(QLatin1String("Duplex"));
-        parts << counted(pages, "page", "pages")
-              << counted(twoSided ? pages / 2 + pages % 2 : pages, "sheet", "sheets");
-    }
-    if (settings.copies > 1)
+        const int sheets = twoSided ? pages / 2 + pages % 2 : pages;
+        QString paper = counted(sheets, "sheet", "sheets");
+        if (settings.copies > 1)
+            paper += QStringLiteral(" × %1 = %2 sheets")
+                         .arg(counted(settings.copies, "copy", "copies"))
+                         .arg(qint64(sheets) * settings.copies);
+        parts << counted(pages, "page", "pages") << paper;
+    } else if (settings.copies > 1) {
         parts << counted(settings.copies, "copy", "copies");
+    }
     if (holdsSecret(ticket, keys))
         parts << QStringLiteral("locked");
     if (isFax(ticket, keys))

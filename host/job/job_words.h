@@ -26,8 +26,8 @@ struct JobWords
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
                      const SecretKeys &keys);
 
-// "12 pages, 6 sheets, 2 copies, locked": what the window's foot says. `pages`
-// are those to be printed, 0 while they are not known; sheets are of one copy and
+// "12 pages, 6 sheets × 2 copies = 12 sheets, locked": what the foot says. `pages`
+// are those to be printed, 0 while they are not known; sheets
 // count two sides where the ticket's PPD choice "Duplex" prints them.
 QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
                      const SecretKeys &keys);

@@ -353,7 +353,9 @@ QString readLine(const QString &text, ScriptLine &line)
             row = &one;
     }
     if (!row)
-        return QStringLiteral("there is no command \"%1\"%2").arg(name, didYouMean(name, names));
+        return QStringLiteral(
+                   "there is no command \"%1\"%2 (kelvo-print --help-scripts lists them)")
+            .arg(name, didYouMean(name, names));
 
     line.command = row->command;
     const std::vector<Word> rest(words.words.begin() + 1, words.words.end());
@@ -444,6 +446,17 @@ std::vector<ScriptCommandHelp> scriptCommandHelp()
     for (const CommandRow &row : commandRows)
         help.push_back(row.help);
     return help;
+}
+
+QString scriptCommandsText()
+{
+    QString text = QStringLiteral("A script has one command a line; # begins a comment. CONTROL "
+                                  "is KPDE 614 or\n@bannerSheet: kelvo-print --list-controls "
+                                  "lists them.\n\n");
+    for (const ScriptCommandHelp &help : scriptCommandHelp())
+        text += QStringLiteral("  %1\n      %2\n")
+                    .arg(QString::fromUtf8(help.usage), QString::fromUtf8(help.meaning));
+    return text;
 }
 
 } // namespace kelvo

@@ -81,5 +81,7 @@ struct ScriptCommandHelp
     const char *meaning;
 };
 std::vector<ScriptCommandHelp> scriptCommandHelp();
+// The same as lines for a terminal.
+QString scriptCommandsText();
 
 } // namespace kelvo

@@ -54,6 +54,16 @@ bool meetsNotice(ScriptCommand command)
     return command == ScriptCommand::ExpectNotice || command == ScriptCommand::Answer;
 }
 
+// "1 Delete, 2 Cancel": what `answer` takes.
+QString answersOf(const ShownNotice &notice)
+{
+    QStringList answers;
+    for (const QString &button : notice.buttons)
+        answers
+            << QStringLiteral("%1 %2").arg(answers.size() + 1).arg(QString(button).remove(u'&'));
+    return answers.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 struct ScriptRunner::Private
@@ -202,8 +212,8 @@ bool ScriptRunner::Private::checkNotice()
     }
     fail(at,
          {ExitStatus::Failed,
-          QStringLiteral("a notice came up: %1 %2")
-              .arg(notice.header, notice.message)
+          QStringLiteral("a notice came up: %1 %2 (answers: %3)")
+              .arg(notice.header, notice.message, answersOf(notice))
               .simplified()});
     return false;
 }
@@ -303,7 +313,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
             return wrong(QStringLiteral("no notice is shown"));
         if (!answerNotice(word(0).toInt()))
             return wrong(QStringLiteral("the notice has no button %1; it has %2")
-                             .arg(word(0), notice.buttons.join(QStringLiteral(", "))));
+                             .arg(word(0), answersOf(notice)));
         return {};
     }
     case ScriptCommand::Print:
@@ -456,6 +466,9 @@ LineDone ScriptRunner::Private::expect(const ScriptLine &line, QWidget *control)
         wanted = QString::number(std::numeric_limits<std::int32_t>::min());
     if (have.value() == wanted)
         return {};
+    if (name == QLatin1String("items"))
+        return wrong(QStringLiteral("%1 has %2 items, not %3")
+                         .arg(line.control->text(), have.value(), wanted));
     return wrong(QStringLiteral("%1 of %2 is \"%3\", not \"%4\"")
                      .arg(name, line.control->text(), have.value(), wanted));
 }

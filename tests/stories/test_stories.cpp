@@ -12,8 +12,10 @@
 
 #include <poppler-qt6.h>
 
+#include <fcntl.h>
 #include <memory>
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace kelvo;
 
@@ -128,6 +130,7 @@ private slots:
     void keepsWhatTheUserNamed();
     void refusesAPpdThatWasCutOff();
     void printsWhatIsNamedOnTheSampleDevice();
+    void tellsOfAnOutputThatIsFull();
     void keepsPresets();
     void mendsAConflict();
     void refusesToPrintAConflict();
@@ -612,6 +615,22 @@ void TestStories::printsWhatIsNamedOnTheSampleDevice()
         QVERIFY(pdf);
         QVERIFY(pdf->page(0)->text({}).contains("Of my own"));
     }
+}
+
+// Who reads the result must not take silence for one.
+void TestStories::tellsOfAnOutputThatIsFull()
+{
+    Desk desk;
+    desk.atStart([] { ::dup2(::open("/dev/full", O_WRONLY), STDOUT_FILENO); });
+    for (const QStringList &arguments :
+         {QStringList{"--help"}, QStringList{"--demo", "--no-window", "--to", "out"}}) {
+        const Run run = desk.run(arguments);
+        QENDED(run, 1);
+        QCOMPARE(run.messages(),
+                 QStringList{"kelvo-print: standard output cannot be written; what was done "
+                             "before stays done"});
+    }
+    QVERIFY(QFile::exists(desk.path("out/document.pdf")));
 }
 
 void TestStories::keepsPresets()

@@ -60,6 +60,10 @@ void TestCommandLine::takesEveryForm_data()
     QTest::newRow("document first") << QStringList{"a.pdf", "-n2"} << "file=a.pdf n=2";
     QTest::newRow("most copies") << QStringList{"-n", "9999"} << "n=9999";
     QTest::newRow("options in order") << QStringList{"-o", "B=1", "-oA=2"} << "o=B:1 o=A:2";
+    QTest::newRow("several options in one") << QStringList{"-o", "B=1  A=2"} << "o=B:1 o=A:2";
+    QTest::newRow("landscape") << QStringList{"-o", "landscape"} << "o=orientation-requested:4";
+    QTest::newRow("portrait") << QStringList{"-o", "portrait A=1"}
+                              << "o=orientation-requested:3 o=A:1";
     QTest::newRow("value with a sign") << QStringList{"-o", "A=b=c"} << "o=A:b=c";
     QTest::newRow("open range") << QStringList{"-P", "1-3, 7,9-"} << "P=1-3, 7,9-";
     QTest::newRow("later beats earlier") << QStringList{"-n2", "-n3"} << "n=3";
@@ -119,7 +123,12 @@ void TestCommandLine::refusesWrongLines_data()
     QTest::newRow("timeout too long") << QStringList{"--timeout", "3601"}
                                       << "--timeout: \"3601\" is not a whole number from 1 to 3600";
     QTest::newRow("option without value")
-        << QStringList{"-o", "landscape"} << "-o: \"landscape\" is not NAME=VALUE";
+        << QStringList{"-o", "Jog"} << "-o: \"Jog\" is not NAME=VALUE";
+    QTest::newRow("scaling")
+        << QStringList{"-o", "A=1 fit-to-page"}
+        << "-o: fit-to-page: pages are printed at their own size; choose a paper that holds them, "
+           "-o media=NAME";
+    QTest::newRow("unknown letter") << QStringList{"-x"} << "-x: there is no such option";
     QTest::newRow("option without name")
         << QStringList{"-o", "=x"} << "-o: \"=x\" is not NAME=VALUE";
     QTest::newRow("pages backwards")

@@ -218,7 +218,7 @@ void TestJobSettings::refuseOptions_data()
     row("one copy too many", "copies", "10000", Code::OutOfRange, "from 1 to 9999");
     row("half a copy", "copies", "1.5", Code::OutOfRange, "from 1 to 9999");
     row("unknown sides", "sides", "two-sided-longedge", Code::NotFound, "two-sided-long-edge");
-    row("collate maybe", "collate", "maybe", Code::NotFound, "collate");
+    row("collate maybe", "collate", "maybe", Code::NotFound, "there are true, false");
     row("pages in words", "page-ranges", "two", Code::OutOfRange, "1-3,7");
 }
 

@@ -125,8 +125,9 @@ void TestSecrets::neverStandInWords()
     const JobWords words = describeJob(file, {3, false, "2-5", "A4", Orientation::Landscape},
                                        ppd.value().get(), {{"Job/Password", "People/*/Code"}, {}});
     QCOMPARE(words.settings,
-             (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: landscape",
-                          "Stapling: 2 Staples, Portrait"}));
+             (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: Landscape",
+                          "Stapling: 2 Staples, Portrait",
+                          "3 entries of the device panels, see Ticket"}));
     QCOMPARE(words.notSent, QStringList{"Glitter: On – this printer does not have it"});
     QVERIFY(words.defaults.contains("Page Size: A4 (210 × 297 mm)"));
     QVERIFY(words.ticket.contains("Plain = \"open\" (written by test)"));
@@ -146,7 +147,7 @@ void TestSecrets::areSaidInTheSummary_data()
     QTest::newRow("one page") << 1 << 1 << "None" << false << "1 page, 1 sheet";
     QTest::newRow("one-sided") << 3 << 1 << "" << false << "3 pages, 3 sheets";
     QTest::newRow("two-sided") << 12 << 2 << "DuplexNoTumble" << true
-                               << "12 pages, 6 sheets, 2 copies, locked";
+                               << "12 pages, 6 sheets × 2 copies = 12 sheets, locked";
     QTest::newRow("odd page") << 13 << 1 << "DuplexTumble" << false << "13 pages, 7 sheets";
     QTest::newRow("pages not known") << 0 << 2 << "None" << true << "2 copies, locked";
 }
