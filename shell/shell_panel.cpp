@@ -318,7 +318,7 @@ void fillTabSelector(PDEShellContext &shell)
 
 bool buildShellWindow(PDEShellContext &shell)
 {
-    QWidget *window = loadShellWindow(shell, "Open()");
+    QWidget *window = shell.window ? shell.window.release() : loadShellWindow(shell, "Open()");
     if (!window)
         return false;
     ShellControls &controls = shell.controls;
@@ -423,10 +423,11 @@ OSStatus Initialize(PMPDEContext context, std::uint32_t *flags, PMPDERef ref,
     shell->defaultButtonHandler = installShellHandler(*shell, shell->defaultButton);
     shell->cancelButtonHandler = installShellHandler(*shell, shell->cancelButton);
 
-    const std::unique_ptr<QWidget> window(loadShellWindow(*shell, "Initialize()"));
-    if (!window)
+    // Kept for Open: reading the description is the dearest step of both.
+    shell->window.reset(loadShellWindow(*shell, "Initialize()"));
+    if (!shell->window)
         return kPMInvalidPDEContext;
-    const QWidget *panelArea = findControl(window.get(), kPanelArea);
+    const QWidget *panelArea = findControl(shell->window.get(), kPanelArea);
     makeUserPanes(*shell, panelArea ? panelArea->size() : QSize(kShellWidth, kShellHeight));
     for (const PanelRecord &panel : shell->panels) {
         if (panel.tabIndex == kNoTab)

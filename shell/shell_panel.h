@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 class QAbstractButton;
@@ -59,6 +60,7 @@ struct PDEShellContext
     QPointer<QWidget> parentUserPane;
     PMPrintSession session = nullptr;
     std::vector<PanelRecord> panels; // in tab order
+    std::unique_ptr<QWidget> window; // loaded by Initialize, until Open takes it apart
     ShellControls controls;
     QPointer<QWidget> defaultButton; // the dialog's Print button
     QPointer<QWidget> cancelButton;

@@ -51,6 +51,9 @@ constexpr int columnGap = 12;
 // So long after the user's last change, settings are written and checked.
 constexpr int lookDelayMs = 150;
 
+// So long the window is left alone to paint itself, before pages are drawn.
+constexpr int firstFrameMs = 100;
+
 constexpr ControlID shellSelector = {kShellSignature, 16};
 constexpr OSType kNextTab = fourCharCode("KFup");
 constexpr OSType kPreviousTab = fourCharCode("KFdn");
@@ -125,6 +128,9 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_look.setSingleShot(true);
     m_look.setInterval(lookDelayMs);
     connect(&m_look, &QTimer::timeout, this, &PrintDialog::lookAtSettings);
+    m_firstFrame.setSingleShot(true);
+    m_firstFrame.setInterval(firstFrameMs);
+    connect(&m_firstFrame, &QTimer::timeout, this, &PrintDialog::takeDocument);
     watchEvents([this](const Event &) {
         if (m_session->stage() == DialogSession::Stage::Ready)
             m_look.start();
@@ -302,6 +308,7 @@ void PrintDialog::changeEvent(QEvent *event)
 
 void PrintDialog::start()
 {
+    m_firstFrame.start();
     m_session->start();
     updatePrintButton();
     m_printer->focusFirst();
@@ -312,6 +319,7 @@ void PrintDialog::setDriven(bool driven)
     m_isDriven = driven;
     // A script waits for the look after each line.
     m_look.setInterval(driven ? 0 : lookDelayMs);
+    m_firstFrame.setInterval(driven ? 0 : firstFrameMs);
 }
 
 // ---- what the session tells
@@ -347,8 +355,11 @@ void PrintDialog::takeDocument()
 {
     updateTitle();
     if (!m_session->document().isNull()) {
-        m_preview->setMessage({});
-        m_preview->setDocument(m_session->document());
+        // Once the window is painted; the timer comes here again.
+        if (!m_firstFrame.isActive()) {
+            m_preview->setMessage({});
+            m_preview->setDocument(m_session->document());
+        }
     } else {
         m_preview->setMessage(m_session->isDocumentPending()
                                   ? tr("Opening %1…").arg(m_session->title())
@@ -362,6 +373,15 @@ void PrintDialog::takeDocument()
 void PrintDialog::takeSettings()
 {
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
+    if (!m_hasLooked) {
+        // Conflicts take a reading of the whole description: the frame comes first.
+        m_hasLooked = true;
+        if (m_firstFrame.isActive())
+            m_firstFrame.start();
+        m_look.start();
+        showWhatFollows();
+        return;
+    }
     m_look.stop();
     lookAtSettings();
 }
@@ -447,6 +467,11 @@ void PrintDialog::lookAtSettings()
         return;
     m_session->writeAll();
     m_conflictBar->setReport(m_session->conflicts(), m_session->missing());
+    showWhatFollows();
+}
+
+void PrintDialog::showWhatFollows()
+{
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
     m_presets->updateStar();
     arrangeTabOrder();
@@ -772,7 +797,7 @@ bool PrintDialog::isIdle() const
 {
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
-            && !m_look.isActive());
+            && !m_look.isActive() && !m_firstFrame.isActive());
 }
 
 bool PrintDialog::isDrawing() const

@@ -88,7 +88,8 @@ private:
     // The user tells.
     void showPanelAt(int index);
     void changeSettings();
-    void lookAtSettings(); // writes, checks, and shows what follows
+    void lookAtSettings();  // writes, checks, and shows what follows
+    void showWhatFollows(); // all but conflicts
     void fixConflicts();
     void showDetails();
     void showHelp();
@@ -131,6 +132,8 @@ private:
 
     QList<QWidget *> m_panelStops; // the tab order is made for these; compared, never followed
     QTimer m_look;                 // lookAtSettings() soon
+    QTimer m_firstFrame;           // until then the document is not drawn
+    bool m_hasLooked = false;      // at the settings of any printer
     bool m_isColumnWanted = true;  // by the user, when the window is wide enough
     bool m_isNarrow = false;       // column and panels do not fit side by side
     bool m_isDriven = false;
