@@ -1,5 +1,6 @@
 #include "waiting_pane.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -8,7 +9,7 @@ namespace kelvo {
 
 namespace {
 
-constexpr int sideMargin = 60; // lines that do not run from edge to edge
+constexpr int lineCharacters = 60; // a comfortable line of the text
 
 QLabel *centredLabel(const QString &name, QWidget *parent)
 {
@@ -17,6 +18,7 @@ QLabel *centredLabel(const QString &name, QWidget *parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignCenter);
+    label->setFixedWidth(label->fontMetrics().averageCharWidth() * lineCharacters);
     return label;
 }
 
@@ -35,15 +37,20 @@ WaitingPane::WaitingPane(QWidget *parent)
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_retry->setObjectName(QStringLiteral("retry"));
 
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
-    layout->setSpacing(10);
-    layout->addStretch(2);
-    layout->addWidget(m_header);
-    layout->addWidget(m_text);
-    layout->addSpacing(4);
-    layout->addWidget(m_retry, 0, Qt::AlignHCenter);
-    layout->addStretch(3);
+    // The column is as wide as its lines: asked for the height at the pane's
+    // width, a label that wraps would get too little.
+    auto *column = new QVBoxLayout;
+    column->setSpacing(10);
+    column->addStretch(2);
+    column->addWidget(m_header);
+    column->addWidget(m_text);
+    column->addSpacing(4);
+    column->addWidget(m_retry, 0, Qt::AlignHCenter);
+    column->addStretch(3);
+    auto *layout = new QHBoxLayout(this);
+    layout->addStretch(1);
+    layout->addLayout(column);
+    layout->addStretch(1);
     connect(m_retry, &QPushButton::clicked, this, &WaitingPane::retryRequested);
     setMessage({});
 }

@@ -225,9 +225,9 @@ void TestPrintDialog::printsWithoutPanels_data()
     QTest::addColumn<bool>("hasBundle");
     QTest::addColumn<QString>("says");
 
-    QTest::newRow("another maker") << testPpd("other-maker.ppd") << true << "do not support";
+    QTest::newRow("another maker") << testPpd("other-maker.ppd") << true << "not made for this";
     QTest::newRow("a maker that begins alike")
-        << testPpd("kelvo-lookalike.ppd") << true << "do not support";
+        << testPpd("kelvo-lookalike.ppd") << true << "not made for this";
     QTest::newRow("no bundle") << "kelvo-corvane-full.ppd" << false << "It is not installed.";
 }
 
