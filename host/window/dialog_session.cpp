@@ -73,6 +73,7 @@ void DialogSession::setStage(Stage stage, Message message)
 void DialogSession::findPrinters()
 {
     m_arePrintersKnown = m_isPpdKnown = false;
+    m_askedFor.clear(); // answers to the last directory do not come any more
     m_directory = std::make_unique<PrinterDirectory>();
     connect(m_directory.get(), &PrinterDirectory::printersFound, this,
             &DialogSession::takePrinters);
@@ -85,12 +86,14 @@ void DialogSession::findPrinters()
     });
     connect(m_directory.get(), &PrinterDirectory::ppdFetched, this,
             [this](const QString &printer, const QString &path) {
-                if (printer == m_printerName)
+                m_askedFor.remove(printer);
+                if (isPpdAwaited(printer))
                     takePpd(path);
             });
     connect(m_directory.get(), &PrinterDirectory::ppdFailed, this,
             [this](const QString &printer, const Error &error) {
-                if (printer != m_printerName)
+                m_askedFor.remove(printer);
+                if (!isPpdAwaited(printer))
                     return;
                 if (error.code == Code::NotFound) {
                     beginWithoutPpd(tr("The print server has no description of its settings."));
@@ -107,7 +110,22 @@ void DialogSession::findPrinters()
     m_directory->refresh(m_options.line.timeoutSeconds * 1000);
     // Both questions at once: the second need not wait for the first.
     if (!m_printerName.isEmpty())
-        m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+        askForPpd();
+}
+
+// A printer that is chosen again while its answer is on its way is not asked
+// twice: each answer would begin the panels.
+void DialogSession::askForPpd()
+{
+    if (m_askedFor.contains(m_printerName))
+        return;
+    m_askedFor.insert(m_printerName);
+    m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+}
+
+bool DialogSession::isPpdAwaited(const QString &printer) const
+{
+    return printer == m_printerName && !m_isPpdKnown;
 }
 
 const Printer *DialogSession::findPrinter(const QString &name) const
@@ -160,7 +178,7 @@ void DialogSession::fetchPpd()
     setStage(Stage::Searching,
              {tr("Asking for the settings of “%1”").arg(m_printerName),
               tr("The print server has not answered yet."), false});
-    m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+    askForPpd();
 }
 
 void DialogSession::takePpd(const QString &path)
@@ -194,7 +212,7 @@ void DialogSession::beginWhenComplete()
 
 void DialogSession::choosePrinter(const QString &name)
 {
-    if (name == m_printerName && m_stage == Stage::Ready)
+    if (name == m_printerName && m_stage != Stage::Stuck)
         return;
     if (m_stage == Stage::Ready) {
         writeAll();

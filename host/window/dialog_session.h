@@ -14,6 +14,7 @@
 #include "ticket_file.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <atomic>
 #include <memory>
@@ -113,6 +114,8 @@ private:
     void findPrinters();
     void takePrinters(const QList<Printer> &printers);
     void fetchPpd();
+    void askForPpd();
+    bool isPpdAwaited(const QString &printer) const;
     void takePpd(const QString &path);
     void beginWithoutPpd(const QString &why);
     void beginWhenComplete();
@@ -135,6 +138,7 @@ private:
     QList<Printer> m_printers;
     bool m_arePrintersKnown = false;
     QString m_printerName;
+    QSet<QString> m_askedFor;  // printers whose PPD is on its way
     bool m_isPpdKnown = false; // or known not to come
     QString m_noPpdReason;
     std::shared_ptr<PpdFile> m_ppd;

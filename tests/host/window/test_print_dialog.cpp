@@ -52,6 +52,7 @@ private slots:
     void aServerThatComesBackIsFound();
     void anUnknownPrinterIsToldWithTheNearest();
     void settingsComeBackWithTheirPrinter();
+    void aPrinterChosenAgainBeginsOnce();
 
     void returnPrintsOnlyFromThePrintButton();
     void keysReachPanelsAndRegions();
@@ -287,6 +288,8 @@ void TestPrintDialog::whatWasTypedLastIsPrinted()
     auto *copies = shown.find<SpinField>("copies");
     copies->setFocus();
     QVERIFY(copies->typeText("7"));
+    // The settings are looked at between the typing and the press.
+    QVERIFY(shown.waitUntilIdle());
     shown.dialog.pressPrint();
     QVERIFY(shown.waitUntilEnded());
 
@@ -623,6 +626,30 @@ void TestPrintDialog::settingsComeBackWithTheirPrinter()
     QVERIFY(shown.waitUntilEnded());
     QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
     QCOMPARE(cups.jobs(1).size(), 1U);
+}
+
+void TestPrintDialog::aPrinterChosenAgainBeginsOnce()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.destination = "Full";
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    m_panels->calls.clear();
+
+    // Faster than the server answers.
+    for (const char *printer : {"Bare", "Full", "Full", "Bare", "Full"})
+        QVERIFY(shown.choose("printer", printer));
+    QVERIFY(shown.waitUntilIdle());
+    QTest::qWait(500); // for an answer too many
+
+    QVERIFY(shown.find<QPushButton>("print")->isEnabled());
+    QCOMPARE(m_panels->calls.count("PDEShell prologue"), 1);
+    QCOMPARE(m_panels->calls.count("PDEShell terminate"), 1);
 }
 
 // ---- keyboard and looks
