@@ -146,6 +146,7 @@ PrintDialog::PrintDialog(DialogOptions options)
             });
 
     connect(m_printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
+        commitTypedValues(this);
         m_session->choosePrinter(name);
         m_printer->setPrinters(m_session->printers(), m_session->printerName());
     });
@@ -361,6 +362,7 @@ void PrintDialog::takeDocument()
 
 void PrintDialog::takeSettings()
 {
+    m_printer->dropTypedText();
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
     m_look.stop();
     lookAtSettings();
@@ -425,6 +427,7 @@ void PrintDialog::showPanelAt(int index)
     Extension *panels = m_session->panels();
     if (!panels || index < 0 || index >= int(panels->panels().size()))
         return;
+    commitTypedValues(this);
     panels->show(index);
     arrangeTabOrder();
     m_look.start();
@@ -472,6 +475,7 @@ JobWords PrintDialog::words()
 
 void PrintDialog::showDetails()
 {
+    commitTypedValues(this);
     runJobDetailsDialog(words(), this);
 }
 

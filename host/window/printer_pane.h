@@ -38,6 +38,7 @@ public:
 
     // Enables what `ppd` offers; null: the paper is the printer's own.
     void setSettings(const JobSettings &settings, const PpdFile *ppd);
+    void dropTypedText(); // what is typed and not taken yet goes
     JobSettings settings() const;
     bool arePagesMissing() const;          // a range is chosen and not typed yet
     void setSettingsEnabled(bool enabled); // before there is a ticket: not
