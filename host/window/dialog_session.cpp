@@ -1,6 +1,7 @@
 #include "dialog_session.h"
 
 #include "nearest_name.h"
+#include "ticket_attachment.h"
 #include "ticket_layers.h"
 
 #include <QFileInfo>
@@ -258,16 +259,22 @@ void DialogSession::layDefaults()
         layOver(*site, *m_session);
 }
 
+void DialogSession::layWithUnknown(const TicketFile &file)
+{
+    layOver(file, *m_session);
+    m_unknown.insert(file.unknown);
+    m_unknown.remove(kTicketNonceKey); // of one sent job, and of no other
+}
+
 Result<void> DialogSession::layFirstSettings()
 {
     const CommandLine &line = m_options.line;
     layDefaults();
+    m_unknown.clear();
     if (m_options.preset)
-        layOver(*m_options.preset, *m_session);
-    if (m_options.ticketIn) {
-        layOver(*m_options.ticketIn, *m_session);
-        m_unknown = m_options.ticketIn->unknown;
-    }
+        layWithUnknown(*m_options.preset);
+    if (m_options.ticketIn)
+        layWithUnknown(*m_options.ticketIn);
     for (const auto &[name, value] : line.options) {
         if (auto applied = applyOption(name, value, m_ppd.get(), *m_session); !applied)
             return applied;
@@ -317,9 +324,10 @@ void DialogSession::usePreset(const TicketFile *preset)
     const QString pages = settings().pageRanges;
     m_session->printSettings() = {};
     m_session->pageFormat() = {};
+    m_unknown.clear();
     layDefaults();
     if (preset)
-        layOver(*preset, *m_session);
+        layWithUnknown(*preset);
     PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, title());
     JobSettings own = settings();
     own.pageRanges = pages;
@@ -335,8 +343,9 @@ bool DialogSession::isChanged() const
     return m_wasChanged || !asksForTheSame(m_unchanged, ticketFileFrom(*m_session));
 }
 
-void DialogSession::takeAsUnchanged()
+void DialogSession::takeAsUnchanged(const Dictionary &unknown)
 {
+    m_unknown = unknown;
     m_unchanged = ticketFileFrom(*m_session);
     m_wasChanged = false;
 }

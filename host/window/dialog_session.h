@@ -96,7 +96,8 @@ public:
     // Whether anything differs from what was chosen as preset.
     bool isChanged() const;
     // The settings as they stand are what the preset says, or are not any more.
-    void takeAsUnchanged();
+    // `unknown` is what else stands in the root of that preset.
+    void takeAsUnchanged(const Dictionary &unknown);
     void takeAsChanged() { m_wasChanged = true; }
 
     ConflictReport conflicts(); // as the ticket stands
@@ -122,6 +123,7 @@ private:
     void begin();
     Result<void> layFirstSettings();
     void layDefaults();
+    void layWithUnknown(const TicketFile &file);
     void settle();
     void beginPanels();
     void endPanels();
@@ -153,7 +155,7 @@ private:
     TicketFile m_came, m_settled;        // see ticket_layers.h
     TicketFile m_unchanged;              // what isChanged() compares with
     bool m_wasChanged = false;           // on an earlier printer, or under another name
-    Dictionary m_unknown;                // root entries of --ticket-in
+    Dictionary m_unknown;                // root entries of the preset and --ticket-in
 
     BackgroundTask<Result<Document>> m_opening;
     std::shared_ptr<std::atomic_bool> m_openingCancelled;
