@@ -51,6 +51,8 @@ constexpr int columnGap = 12;
 // So long after the user's last change, settings are written and checked.
 constexpr int lookDelayMs = 150;
 
+constexpr int activationWaitMs = 1000; // a window manager takes less
+
 constexpr ControlID shellSelector = {kShellSignature, 16};
 constexpr OSType kNextTab = fourCharCode("KFup");
 constexpr OSType kPreviousTab = fourCharCode("KFdn");
@@ -135,6 +137,7 @@ PrintDialog::PrintDialog(DialogOptions options)
             m_printer->setPrinters(m_session->printers(), m_session->printerName());
         else
             m_printer->setDevice(m_session->printerName());
+        giveFirstFocus();
     });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
@@ -305,7 +308,7 @@ void PrintDialog::start()
 {
     m_session->start();
     updatePrintButton();
-    m_printer->focusFirst();
+    giveFirstFocus();
 }
 
 void PrintDialog::setDriven(bool driven)
@@ -342,6 +345,7 @@ void PrintDialog::takeStage()
     arrangeTabOrder();
     updatePrintButton();
     updateFoot();
+    giveFirstFocus();
 }
 
 void PrintDialog::takeDocument()
@@ -415,6 +419,8 @@ void PrintDialog::updateFoot()
         if (runs && problem.isEmpty())
             text = shortSummary(m_session->ticket(), settings, pageCount(runs.value()),
                                 m_session->secretKeys());
+        else
+            text = tr("Not to be printed like this. Pages: %1").arg(problem);
     }
     m_foot->setText(text);
     m_foot->setToolTip(text.toHtmlEscaped());
@@ -577,7 +583,8 @@ void PrintDialog::print()
     }
     m_session->writeAll();
     if (const QString problem = findPagesProblem(); !problem.isEmpty()) {
-        refusePrint(ExitStatus::WrongUsage, notPrinted, problem);
+        m_printer->focusPages();
+        refusePrint(ExitStatus::WrongUsage, notPrinted, tr("Pages: %1").arg(problem));
         return;
     }
     if (endsInConflict())
@@ -695,6 +702,12 @@ void PrintDialog::keyPressEvent(QKeyEvent *event)
 
 // ---- how it is laid out
 
+void PrintDialog::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_sinceShown.start();
+}
+
 void PrintDialog::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
@@ -740,6 +753,19 @@ void PrintDialog::arrangeTabOrder()
         setTabOrder(order[i - 1], order[i]);
 }
 
+// The keyboard begins at the printers; while there are none to choose from, at
+// what can be pressed.
+void PrintDialog::giveFirstFocus()
+{
+    QWidget *holder = focusWidget();
+    if (holder && holder->isEnabled() && holder != m_firstFocus)
+        return; // where the user, or a pane, wants it
+    QWidget *first = m_printer->firstControl();
+    m_firstFocus = first->isEnabled() ? first : m_cancel;
+    if (holder != m_firstFocus)
+        m_firstFocus->setFocus(Qt::OtherFocusReason);
+}
+
 void PrintDialog::goToRegion(bool forward)
 {
     const QList<QWidget *> regions = {m_printer,     m_preview,      m_switch, m_scroll,
@@ -774,6 +800,10 @@ void PrintDialog::goToRegion(bool forward)
 
 bool PrintDialog::isIdle() const
 {
+    // Shortcuts reach only an active window, and a window becomes active some
+    // time after it was shown; without a window manager it may never.
+    if (isVisible() && !QApplication::activeWindow() && m_sinceShown.elapsed() < activationWaitMs)
+        return false;
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
             && !m_look.isActive());

@@ -183,9 +183,15 @@ void PrinterPane::colour()
     m_pagesProblem->setPalette(colours);
 }
 
-void PrinterPane::focusFirst()
+QWidget *PrinterPane::firstControl() const
 {
-    m_printer->setFocus();
+    return m_printer;
+}
+
+void PrinterPane::focusPages()
+{
+    m_pages->setFocus();
+    m_pages->selectAll();
 }
 
 void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &chosen)

@@ -30,7 +30,8 @@ public:
     // `presets` stands in the second row; it becomes a child of this.
     explicit PrinterPane(PresetMenu *presets, QWidget *parent = nullptr);
 
-    void focusFirst(); // where the keyboard begins
+    QWidget *firstControl() const; // where the keyboard begins
+    void focusPages();
 
     // The queues, or one device without a queue.
     void setPrinters(const QList<Printer> &printers, const QString &chosen);

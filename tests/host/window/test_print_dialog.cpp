@@ -47,6 +47,9 @@ private slots:
     void theTicketIsWrittenBeforeTheJob();
     void givingUpIsCancelOrTheFailure();
     void aChangedPresetHasAStar();
+    void unknownEntriesStayWithTheirPreset();
+    void namesThatNoPresetCanHave_data();
+    void namesThatNoPresetCanHave();
 
     void theWindowDoesNotWaitForAServer();
     void aServerThatComesBackIsFound();
@@ -54,6 +57,7 @@ private slots:
     void settingsComeBackWithTheirPrinter();
     void aPrinterChosenAgainBeginsOnce();
 
+    void theFirstKeyIsHeard();
     void returnPrintsOnlyFromThePrintButton();
     void keysReachPanelsAndRegions();
     void everyStopIsReachedOnceAndHasAName();
@@ -362,10 +366,12 @@ void TestPrintDialog::wrongPagesAreNotPrinted()
     QVERIFY(!inspector::type(shown.find<QWidget>("pages"), pages));
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(shown.isShown("pagesProblem"));
+    QVERIFY2(shown.text("summary").contains(says), qPrintable(shown.text("summary")));
 
     shown.dialog.pressPrint();
 
     QVERIFY(!shown.dialog.isPrinting());
+    QVERIFY(shown.dialog.lastPrintProblem().startsWith("Pages:"));
     QVERIFY2(shown.dialog.lastPrintProblem().contains(says),
              qPrintable(shown.dialog.lastPrintProblem()));
     QCOMPARE(shown.dialog.lastPrintStatus(), ExitStatus::WrongUsage);
@@ -506,6 +512,83 @@ void TestPrintDialog::aChangedPresetHasAStar()
     QVERIFY(PresetStore().presets().empty());
     QCOMPARE(second.find<PopupButton>("preset")->currentText(), "Default Settings*");
     QCOMPARE(second.find<SpinField>("copies")->value(), 4); // nothing was lost here
+}
+
+void TestPrintDialog::unknownEntriesStayWithTheirPreset()
+{
+    PresetStore store;
+    const auto unknownOf = [&store](const char *name) {
+        return store.read(QString::fromLatin1(name)).value().unknown;
+    };
+    for (const char *name : {"One", "Two"}) {
+        TicketFile file;
+        file.unknown = {{name, "kept"}, {"com.kelvo.print.TicketNonce", QByteArray("0123")}};
+        QVERIFY(store.save(QString::fromLatin1(name), file, {}, false));
+    }
+    auto begin = options();
+    begin.preset = store.read("One").value();
+    begin.line.preset = "One";
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    const auto save = [&shown] {
+        QVERIFY(!inspector::set(shown.find<QWidget>("copies"), 3));
+        QVERIFY(shown.waitUntilIdle());
+        QVERIFY(
+            !inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSv"), {}));
+    };
+
+    save();
+    QCOMPARE(unknownOf("One"), (Dictionary{{"One", "kept"}}));
+    QVERIFY(shown.choose("preset", "Two"));
+    save();
+    QCOMPARE(unknownOf("Two"), (Dictionary{{"Two", "kept"}}));
+
+    // A new preset begins without what belongs to another.
+    QVERIFY(shown.find<PopupButton>("preset")->choose(1));
+    QTimer::singleShot(50, [] {
+        inspector::type(frontWindow()->findChild<QWidget *>("presetName"), QStringLiteral("New"));
+        inspector::click(frontWindow()->findChild<QWidget *>("ok"));
+    });
+    inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSA"), {});
+    QCOMPARE(unknownOf("New"), Dictionary());
+    for (const char *name : {"One", "Two", "New"})
+        QVERIFY(store.remove(QString::fromLatin1(name)));
+}
+
+void TestPrintDialog::namesThatNoPresetCanHave_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("says");
+
+    QTest::newRow("the first row") << "Default Settings"
+                                   << "how the printer comes";
+    QTest::newRow("nearly") << " default  settings"
+                            << "how the printer comes";
+    QTest::newRow("with its star") << "Default Settings*"
+                                   << "how the printer comes";
+    QTest::newRow("none") << " "
+                          << "Type a name";
+}
+
+void TestPrintDialog::namesThatNoPresetCanHave()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, says);
+    Shown shown(options());
+    QVERIFY(shown.waitUntilIdle());
+    NoticeAnswer notice(1);
+    QTimer::singleShot(20, [name] {
+        QWidget *front = frontWindow();
+        auto *field = front->findChild<QLineEdit *>("presetName");
+        inspector::type(field, name);
+        sendCommand(front, kCommandOK);
+        // The notice has been answered by now, and the dialog is still open.
+        sendCommand(front, kCommandCancel);
+    });
+    inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSA"), {});
+
+    QVERIFY2(notice.text.contains(says), qPrintable(notice.text));
+    QVERIFY(PresetStore().presets().empty());
 }
 
 // ---- print servers
@@ -653,6 +736,21 @@ void TestPrintDialog::aPrinterChosenAgainBeginsOnce()
 }
 
 // ---- keyboard and looks
+
+void TestPrintDialog::theFirstKeyIsHeard()
+{
+    Shown shown(options());
+    QVERIFY(shown.waitUntilIdle());
+    QCOMPARE(shown.dialog.focusWidget(), shown.find<QWidget>("printer"));
+    QVERIFY(!inspector::pressKey(&shown.dialog, "Alt+C"));
+    QCOMPARE(shown.dialog.focusWidget(), shown.find<QWidget>("copies"));
+    for (const char *key : {"Ctrl+A", "5", "Tab"})
+        QVERIFY(!inspector::pressKey(&shown.dialog, key));
+    QCOMPARE(shown.find<SpinField>("copies")->value(), 5);
+    QVERIFY(!inspector::pressKey(&shown.dialog, "Ctrl+P"));
+    QVERIFY(shown.dialog.isPrinting());
+    QVERIFY(shown.waitUntilEnded());
+}
 
 void TestPrintDialog::returnPrintsOnlyFromThePrintButton()
 {
