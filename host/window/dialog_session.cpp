@@ -370,7 +370,7 @@ Extension *DialogSession::panels()
 
 void DialogSession::beginPanels()
 {
-    const QString stays = tr("Copies, pages and paper work as usual.");
+    const QString stays = tr("Copies, pages, paper and orientation work as usual.");
     const QString none = tr("“%1” is printed without device panels").arg(m_printerName);
     m_message = {};
     if (!m_ppd) {

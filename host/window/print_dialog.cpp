@@ -40,7 +40,8 @@ namespace {
 constexpr QSize paneSize(540, 491);
 constexpr QSize windowSize(900, 660);
 constexpr int columnWidth = 300;
-constexpr int narrowWidth = 860; // below it, column and panels do not stand side by side
+constexpr int narrowColumnWidth = 208; // without the preview: its fields are still to be read
+constexpr int narrowWidth = 860;       // below it there is no preview
 constexpr int lowestWindow = 420;
 constexpr int usualFontHeight = 13; // pixels: 10 points on an ordinary screen
 
@@ -195,6 +196,7 @@ void PrintDialog::buildWindow()
     columnLayout->setSpacing(10);
     columnLayout->addWidget(m_printer);
     columnLayout->addWidget(m_preview, 1);
+    columnLayout->addStretch(0); // keeps the fields at the top where there is no preview
 
     m_scroll->setObjectName(QStringLiteral("panels"));
     m_switch->setObjectName(QStringLiteral("panelSwitch"));
@@ -279,7 +281,6 @@ void PrintDialog::fitToFont()
 {
     const double scale = fontScale(this);
     m_stack->setMinimumSize(paneSize * scale);
-    m_column->setMinimumWidth(int(columnWidth * scale));
     // Its words end too near to the frame in some styles.
     m_details->setMinimumWidth(m_details->sizeHint().width() + fontMetrics().height());
     fitToPanels();
@@ -459,6 +460,7 @@ void PrintDialog::lookAtSettings()
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
     m_presets->updateStar();
     arrangeTabOrder();
+    m_scroll->updateScrollBar();
     updatePreview();
     updateFoot();
     updatePrintButton();
@@ -717,23 +719,38 @@ void PrintDialog::resizeEvent(QResizeEvent *event)
 void PrintDialog::arrangeColumns()
 {
     const double scale = fontScale(this);
-    const int sideBySide =
-        m_column->minimumWidth() + columnGap + m_scroll->minimumSizeHint().width() + 2 * margin;
-    const bool isNarrow = width() < std::max(int(narrowWidth * scale), sideBySide);
+    const int scrollBar = m_scroll->verticalScrollBar()->isVisible()
+        ? 0
+        : m_scroll->verticalScrollBar()->sizeHint().width();
+    const int besides = columnGap + m_scroll->minimumSizeHint().width() + scrollBar + 2 * margin;
+    const bool isNarrow = width() < int(narrowColumnWidth * scale) + besides;
     if (isNarrow != m_isNarrow) {
-        // Going narrow the panels win; going wide everything is there again.
+        // Where only one of both has room, printer, copies and paper come first.
         m_isNarrow = isNarrow;
-        m_isColumnWanted = !isNarrow;
+        m_isColumnWanted = true;
     }
-    m_columnToggle->setArrowType(m_isColumnWanted ? Qt::LeftArrow : Qt::RightArrow);
+    m_column->setMinimumWidth(
+        std::clamp(width() - besides, int(narrowColumnWidth * scale), int(columnWidth * scale)));
+    m_columnToggle->setArrowType(m_isColumnWanted == m_isNarrow ? Qt::RightArrow : Qt::LeftArrow);
     // In a narrow window it goes from one to the other, and says to which.
-    m_columnToggle->setText(m_isColumnWanted ? tr("Device") : tr("Printer and Pages"));
+    m_columnToggle->setText(m_isColumnWanted ? tr("Device Settings") : tr("Printer and Paper"));
+    m_columnToggle->setAccessibleName(m_isNarrow ? m_columnToggle->text()
+                                                 : tr("Printer, pages and preview"));
     m_columnToggle->setToolButtonStyle(m_isNarrow ? Qt::ToolButtonTextBesideIcon
                                                   : Qt::ToolButtonIconOnly);
     m_column->setVisible(m_isColumnWanted);
     m_panelSide->setVisible(!m_isNarrow || !m_isColumnWanted);
     const int forPreview = m_column->height() - m_printer->sizeHint().height();
-    m_preview->setVisible(forPreview >= m_preview->minimumSizeHint().height());
+    const bool isWide = width() >= int(narrowWidth * scale) || m_isNarrow;
+    m_preview->setVisible(isWide && forPreview >= m_preview->minimumSizeHint().height());
+}
+
+void PrintDialog::showPanelSide()
+{
+    if (m_isNarrow && m_isColumnWanted) {
+        m_isColumnWanted = false;
+        arrangeColumns();
+    }
 }
 
 // Panels make their controls when they are first shown: later than the buttons
@@ -816,9 +833,13 @@ bool PrintDialog::isDrawing() const
 
 Result<void> PrintDialog::showPanel(const QString &name)
 {
+    if (m_session->stage() == DialogSession::Stage::Stuck)
+        return Error{Error::Code::Unreachable, m_session->message().header,
+                     m_session->message().text};
     Extension *panels = m_session->panels();
     if (!panels)
         return Error{Error::Code::NotFound, name, tr("there are no panels")};
+    showPanelSide();
     QStringList names;
     for (std::size_t i = 0; i < panels->panels().size(); ++i) {
         if (panels->panels()[i].name == name) {
@@ -845,6 +866,10 @@ Result<void> PrintDialog::showPanel(const QString &name)
 
 Result<void> PrintDialog::showTab(int tab)
 {
+    if (m_session->stage() == DialogSession::Stage::Stuck)
+        return Error{Error::Code::Unreachable, m_session->message().header,
+                     m_session->message().text};
+    showPanelSide();
     m_switch->setCurrentIndex(0);
     auto *selector = findControl<PopupButton>(this, shellSelector);
     if (!selector)

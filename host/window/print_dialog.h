@@ -108,6 +108,7 @@ private:
     void end(ExitStatus status);
 
     void arrangeColumns();
+    void showPanelSide(); // where it stands behind the column
     void arrangeTabOrder();
     void updatePrintButton();
     void updatePreview();

@@ -181,6 +181,12 @@ void PrinterPane::colour()
     QPalette colours;
     colours.setColor(QPalette::WindowText, cautionText(palette()));
     m_pagesProblem->setPalette(colours);
+    // Not every dark theme has a colour for this.
+    QColor hint = palette().color(QPalette::Text);
+    hint.setAlphaF(0.6F);
+    QPalette fieldColours;
+    fieldColours.setColor(QPalette::PlaceholderText, hint);
+    m_pages->setPalette(fieldColours);
 }
 
 QWidget *PrinterPane::firstControl() const

@@ -656,6 +656,10 @@ void TestPrintDialog::anUnknownPrinterIsToldWithTheNearest()
     QVERIFY(shown.text("waitingHeader").contains("Hal-3"));
     QVERIFY(shown.text("waitingText").contains("Hall-3"));
     QVERIFY(!shown.find<QPushButton>("print")->isEnabled());
+    for (const auto &refused : {shown.dialog.showPanel("SpecialPages"), shown.dialog.showTab(1)}) {
+        QVERIFY(!refused && refused.error().code == Error::Code::Unreachable);
+        QVERIFY(refused.error().text().contains("Hal-3"));
+    }
 
     QVERIFY(shown.choose("printer", "Hall-3"));
 
@@ -866,9 +870,11 @@ void TestPrintDialog::everythingFits_data()
     QTest::newRow("dark") << QSize(900, 660) << 1.0 << true << true << false;
     QTest::newRow("laptop") << QSize(1366, 768) << 1.0 << false << true << false;
     QTest::newRow("860 wide") << QSize(880, 640) << 1.0 << false << true << false;
-    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false << false << false;
-    QTest::newRow("low") << QSize(900, 480) << 1.0 << false << true << true;
-    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false << false << true;
+    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false << true << false;
+    QTest::newRow("small") << QSize(800, 600) << 1.0 << false << true << false;
+    QTest::newRow("netbook") << QSize(1024, 600) << 1.0 << false << true << false;
+    QTest::newRow("low") << QSize(900, 480) << 1.0 << false << true << false;
+    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false << true << false;
     QTest::newRow("large font") << QSize(1900, 1400) << 2.0 << false << true << false;
 }
 
@@ -920,6 +926,7 @@ void TestPrintDialog::everythingFits()
             QVERIFY2(widget->width() >= widget->sizeHint().width(), qPrintable(label->text()));
     }
     QVERIFY(shown.isShown("print"));
+    QVERIFY(shown.isShown("copies") && shown.isShown("paper"));
     shown.find<QWidget>("columnToggle")->setFocus();
     QTest::keyClick(&shown.dialog, Qt::Key_F9);
     QCOMPARE(shown.isShown("printer"), !showsColumn);
