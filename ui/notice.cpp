@@ -1,6 +1,7 @@
 #include "notice.h"
 
 #include "modal_dialog.h"
+#include "notice_sign.h"
 
 #include <QAccessible>
 #include <QAccessibleEvent>
@@ -24,49 +25,6 @@ namespace kelvo {
 namespace {
 
 constexpr int lineCharacters = 56; // a comfortable line of the message
-
-// A sign in the usual colours, which read on light and dark alike. Drawn here
-// because the built-in ones are coarse on a dense screen.
-QPixmap signFor(NoticeLevel level, int side, double ratio)
-{
-    QPixmap sign(QSize(side, side) * ratio);
-    sign.setDevicePixelRatio(ratio);
-    sign.fill(Qt::transparent);
-    QPainter painter(&sign);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(side / 32.0, side / 32.0);
-    const auto stroke = [&painter](const QColor &colour, double width) {
-        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    };
-    painter.setPen(Qt::NoPen);
-    switch (level) {
-    case NoticeLevel::Stop:
-        painter.setBrush(QColor(0xC6, 0x28, 0x28));
-        painter.drawEllipse(QRectF(1, 1, 30, 30));
-        stroke(Qt::white, 3.5);
-        painter.drawLine(QPointF(11, 11), QPointF(21, 21));
-        painter.drawLine(QPointF(21, 11), QPointF(11, 21));
-        break;
-    case NoticeLevel::Note:
-        painter.setBrush(QColor(0x1F, 0x6F, 0xB8));
-        painter.drawEllipse(QRectF(1, 1, 30, 30));
-        stroke(Qt::white, 3.5);
-        painter.drawPoint(QPointF(16, 9.5));
-        painter.drawLine(QPointF(16, 15), QPointF(16, 23));
-        break;
-    case NoticeLevel::Caution: {
-        const QColor amber(0xF5, 0xA6, 0x23);
-        painter.setBrush(amber);
-        stroke(amber, 4);
-        painter.drawPolygon(QPolygonF{{16, 4.5}, {29, 27}, {3, 27}});
-        stroke(QColor(0x33, 0x26, 0x05), 3.5);
-        painter.drawLine(QPointF(16, 12), QPointF(16, 18));
-        painter.drawPoint(QPointF(16, 24));
-        break;
-    }
-    }
-    return sign;
-}
 
 QLabel *textLabel(const QString &text, QWidget *parent)
 {
@@ -101,7 +59,7 @@ public:
         grid->setSizeConstraint(QLayout::SetFixedSize);
 
         auto *icon = new QLabel(this);
-        icon->setPixmap(signFor(level, fontMetrics().height() * 5 / 2, devicePixelRatioF()));
+        icon->setPixmap(noticeSign(level, fontMetrics().height() * 5 / 2, devicePixelRatioF()));
         grid->addWidget(icon, 0, 0, 2, 1, Qt::AlignTop);
 
         QLabel *header = textLabel(notice.header, this);
@@ -199,6 +157,48 @@ int run(NoticeLevel level, const ShownNotice &notice, QWidget *parent)
 }
 
 } // namespace
+
+// Drawn here because the built-in ones are coarse on a dense screen.
+QPixmap noticeSign(NoticeLevel level, int side, double ratio)
+{
+    QPixmap sign(QSize(side, side) * ratio);
+    sign.setDevicePixelRatio(ratio);
+    sign.fill(Qt::transparent);
+    QPainter painter(&sign);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / 32.0, side / 32.0);
+    const auto stroke = [&painter](const QColor &colour, double width) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    };
+    painter.setPen(Qt::NoPen);
+    switch (level) {
+    case NoticeLevel::Stop:
+        painter.setBrush(QColor(0xC6, 0x28, 0x28));
+        painter.drawEllipse(QRectF(1, 1, 30, 30));
+        stroke(Qt::white, 3.5);
+        painter.drawLine(QPointF(11, 11), QPointF(21, 21));
+        painter.drawLine(QPointF(21, 11), QPointF(11, 21));
+        break;
+    case NoticeLevel::Note:
+        painter.setBrush(QColor(0x1F, 0x6F, 0xB8));
+        painter.drawEllipse(QRectF(1, 1, 30, 30));
+        stroke(Qt::white, 3.5);
+        painter.drawPoint(QPointF(16, 9.5));
+        painter.drawLine(QPointF(16, 15), QPointF(16, 23));
+        break;
+    case NoticeLevel::Caution: {
+        const QColor amber(0xF5, 0xA6, 0x23);
+        painter.setBrush(amber);
+        stroke(amber, 4);
+        painter.drawPolygon(QPolygonF{{16, 4.5}, {29, 27}, {3, 27}});
+        stroke(QColor(0x33, 0x26, 0x05), 3.5);
+        painter.drawLine(QPointF(16, 12), QPointF(16, 18));
+        painter.drawPoint(QPointF(16, 24));
+        break;
+    }
+    }
+    return sign;
+}
 
 void CFUserNotificationDisplayNotice(NoticeLevel level, const QString &header,
                                      const QString &message, const QString &button, QWidget *parent)

@@ -290,9 +290,11 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     const auto done = [](const Result<void> &result) -> LineDone {
         if (result)
             return {};
-        return LineProblem{result.error().code == Error::Code::Refused ? ExitStatus::NotOffered
-                                                                       : ExitStatus::WrongUsage,
-                           result.error().text()};
+        const Error &error = result.error();
+        const ExitStatus status = error.code == Error::Code::Unreachable ? ExitStatus::NoDestination
+            : error.code == Error::Code::Refused                         ? ExitStatus::NotOffered
+                                                                         : ExitStatus::WrongUsage;
+        return LineProblem{status, error.text()};
     };
     switch (line.command) {
     case ScriptCommand::Panel:

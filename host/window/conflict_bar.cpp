@@ -1,15 +1,20 @@
 #include "conflict_bar.h"
 
 #include "caution_colours.h"
-#include "notice.h"
+#include "notice_sign.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 
 namespace kelvo {
+
+namespace {
+
+constexpr int mostLines = 2;
+
+} // namespace
 
 ConflictBar::ConflictBar(QWidget *parent)
     : QFrame(parent)
@@ -24,9 +29,11 @@ ConflictBar::ConflictBar(QWidget *parent)
     setAutoFillBackground(true);
     m_label->setObjectName(QStringLiteral("conflictText"));
     m_label->setTextFormat(Qt::PlainText);
-    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_label->setWordWrap(true);
+    QSizePolicy wrapped(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    wrapped.setHeightForWidth(true);
+    m_label->setSizePolicy(wrapped);
     m_fix->setObjectName(QStringLiteral("fix"));
-    m_fix->setToolTip(tr("Changes the settings so that they can be used together"));
     m_details->setObjectName(QStringLiteral("conflictDetails"));
     m_hide->setObjectName(QStringLiteral("hideMissing"));
 
@@ -53,6 +60,11 @@ void ConflictBar::setReport(const ConflictReport &report, const QStringList &mis
     const bool isConflict = !m_report.isEmpty();
     const bool tellsMissing = !isConflict && !m_missing.isEmpty() && m_missing != m_hiddenMissing;
     m_fix->setVisible(isConflict && !m_report.fix.isEmpty());
+    const QString fixes = m_report.fixWords.size() == 1
+        ? tr("Fix: %1").arg(m_report.fixWords.front())
+        : tr("Changes the settings so that they can be used together");
+    m_fix->setToolTip(fixes.toHtmlEscaped());
+    m_fix->setAccessibleDescription(fixes);
     m_hide->setVisible(tellsMissing);
     if (isConflict) {
         m_text = m_report.conflicts.front().sentence;
@@ -64,11 +76,8 @@ void ConflictBar::setReport(const ConflictReport &report, const QStringList &mis
     } else {
         m_text.clear();
     }
-    const int iconSize = fontMetrics().height() + 2;
-    m_icon->setPixmap(style()
-                          ->standardIcon(isConflict ? QStyle::SP_MessageBoxWarning
-                                                    : QStyle::SP_MessageBoxInformation)
-                          .pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
+    m_icon->setPixmap(noticeSign(isConflict ? NoticeLevel::Caution : NoticeLevel::Note,
+                                 fontMetrics().height() + 2, devicePixelRatioF()));
     m_label->setAccessibleName(m_text);
     elide();
     setVisible(!m_text.isEmpty());
@@ -76,7 +85,9 @@ void ConflictBar::setReport(const ConflictReport &report, const QStringList &mis
 
 void ConflictBar::elide()
 {
-    m_label->setText(fontMetrics().elidedText(m_text, Qt::ElideRight, m_label->width()));
+    // Lines end at words: of each some room stays empty.
+    const int room = m_label->width() * mostLines * 4 / 5;
+    m_label->setText(fontMetrics().elidedText(m_text, Qt::ElideRight, room));
     m_label->setToolTip(m_label->text() == m_text ? QString() : m_text.toHtmlEscaped());
 }
 

@@ -1,6 +1,7 @@
 #include "dialog_session.h"
 
 #include "nearest_name.h"
+#include "ticket_attachment.h"
 #include "ticket_layers.h"
 
 #include <QFileInfo>
@@ -73,6 +74,7 @@ void DialogSession::setStage(Stage stage, Message message)
 void DialogSession::findPrinters()
 {
     m_arePrintersKnown = m_isPpdKnown = false;
+    m_askedFor.clear(); // answers to the last directory do not come any more
     m_directory = std::make_unique<PrinterDirectory>();
     connect(m_directory.get(), &PrinterDirectory::printersFound, this,
             &DialogSession::takePrinters);
@@ -85,12 +87,14 @@ void DialogSession::findPrinters()
     });
     connect(m_directory.get(), &PrinterDirectory::ppdFetched, this,
             [this](const QString &printer, const QString &path) {
-                if (printer == m_printerName)
+                m_askedFor.remove(printer);
+                if (isPpdAwaited(printer))
                     takePpd(path);
             });
     connect(m_directory.get(), &PrinterDirectory::ppdFailed, this,
             [this](const QString &printer, const Error &error) {
-                if (printer != m_printerName)
+                m_askedFor.remove(printer);
+                if (!isPpdAwaited(printer))
                     return;
                 if (error.code == Code::NotFound) {
                     beginWithoutPpd(tr("The print server has no description of its settings."));
@@ -107,7 +111,22 @@ void DialogSession::findPrinters()
     m_directory->refresh(m_options.line.timeoutSeconds * 1000);
     // Both questions at once: the second need not wait for the first.
     if (!m_printerName.isEmpty())
-        m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+        askForPpd();
+}
+
+// A printer that is chosen again while its answer is on its way is not asked
+// twice: each answer would begin the panels.
+void DialogSession::askForPpd()
+{
+    if (m_askedFor.contains(m_printerName))
+        return;
+    m_askedFor.insert(m_printerName);
+    m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+}
+
+bool DialogSession::isPpdAwaited(const QString &printer) const
+{
+    return printer == m_printerName && !m_isPpdKnown;
 }
 
 const Printer *DialogSession::findPrinter(const QString &name) const
@@ -160,7 +179,7 @@ void DialogSession::fetchPpd()
     setStage(Stage::Searching,
              {tr("Asking for the settings of “%1”").arg(m_printerName),
               tr("The print server has not answered yet."), false});
-    m_directory->fetchPpd(m_printerName, m_options.line.timeoutSeconds * 1000);
+    askForPpd();
 }
 
 void DialogSession::takePpd(const QString &path)
@@ -194,7 +213,7 @@ void DialogSession::beginWhenComplete()
 
 void DialogSession::choosePrinter(const QString &name)
 {
-    if (name == m_printerName && m_stage == Stage::Ready)
+    if (name == m_printerName && m_stage != Stage::Stuck)
         return;
     if (m_stage == Stage::Ready) {
         writeAll();
@@ -240,16 +259,22 @@ void DialogSession::layDefaults()
         layOver(*site, *m_session);
 }
 
+void DialogSession::layWithUnknown(const TicketFile &file)
+{
+    layOver(file, *m_session);
+    m_unknown.insert(file.unknown);
+    m_unknown.remove(kTicketNonceKey); // of one sent job, and of no other
+}
+
 Result<void> DialogSession::layFirstSettings()
 {
     const CommandLine &line = m_options.line;
     layDefaults();
+    m_unknown.clear();
     if (m_options.preset)
-        layOver(*m_options.preset, *m_session);
-    if (m_options.ticketIn) {
-        layOver(*m_options.ticketIn, *m_session);
-        m_unknown = m_options.ticketIn->unknown;
-    }
+        layWithUnknown(*m_options.preset);
+    if (m_options.ticketIn)
+        layWithUnknown(*m_options.ticketIn);
     for (const auto &[name, value] : line.options) {
         if (auto applied = applyOption(name, value, m_ppd.get(), *m_session); !applied)
             return applied;
@@ -299,9 +324,10 @@ void DialogSession::usePreset(const TicketFile *preset)
     const QString pages = settings().pageRanges;
     m_session->printSettings() = {};
     m_session->pageFormat() = {};
+    m_unknown.clear();
     layDefaults();
     if (preset)
-        layOver(*preset, *m_session);
+        layWithUnknown(*preset);
     PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, title());
     JobSettings own = settings();
     own.pageRanges = pages;
@@ -317,8 +343,9 @@ bool DialogSession::isChanged() const
     return m_wasChanged || !asksForTheSame(m_unchanged, ticketFileFrom(*m_session));
 }
 
-void DialogSession::takeAsUnchanged()
+void DialogSession::takeAsUnchanged(const Dictionary &unknown)
 {
+    m_unknown = unknown;
     m_unchanged = ticketFileFrom(*m_session);
     m_wasChanged = false;
 }
@@ -343,7 +370,7 @@ Extension *DialogSession::panels()
 
 void DialogSession::beginPanels()
 {
-    const QString stays = tr("Copies, pages and paper work as usual.");
+    const QString stays = tr("Copies, pages, paper and orientation work as usual.");
     const QString none = tr("No device panels for “%1”").arg(m_printerName);
     m_message = {};
     if (!m_ppd) {

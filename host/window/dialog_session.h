@@ -14,6 +14,7 @@
 #include "ticket_file.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <atomic>
 #include <memory>
@@ -95,7 +96,8 @@ public:
     // Whether anything differs from what was chosen as preset.
     bool isChanged() const;
     // The settings as they stand are what the preset says, or are not any more.
-    void takeAsUnchanged();
+    // `unknown` is what else stands in the root of that preset.
+    void takeAsUnchanged(const Dictionary &unknown);
     void takeAsChanged() { m_wasChanged = true; }
 
     ConflictReport conflicts(); // as the ticket stands
@@ -113,12 +115,15 @@ private:
     void findPrinters();
     void takePrinters(const QList<Printer> &printers);
     void fetchPpd();
+    void askForPpd();
+    bool isPpdAwaited(const QString &printer) const;
     void takePpd(const QString &path);
     void beginWithoutPpd(const QString &why);
     void beginWhenComplete();
     void begin();
     Result<void> layFirstSettings();
     void layDefaults();
+    void layWithUnknown(const TicketFile &file);
     void settle();
     void beginPanels();
     void endPanels();
@@ -135,6 +140,7 @@ private:
     QList<Printer> m_printers;
     bool m_arePrintersKnown = false;
     QString m_printerName;
+    QSet<QString> m_askedFor;  // printers whose PPD is on its way
     bool m_isPpdKnown = false; // or known not to come
     QString m_noPpdReason;
     std::shared_ptr<PpdFile> m_ppd;
@@ -149,7 +155,7 @@ private:
     TicketFile m_came, m_settled;        // see ticket_layers.h
     TicketFile m_unchanged;              // what isChanged() compares with
     bool m_wasChanged = false;           // on an earlier printer, or under another name
-    Dictionary m_unknown;                // root entries of --ticket-in
+    Dictionary m_unknown;                // root entries of the preset and --ticket-in
 
     BackgroundTask<Result<Document>> m_opening;
     std::shared_ptr<std::atomic_bool> m_openingCancelled;

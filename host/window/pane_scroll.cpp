@@ -1,7 +1,11 @@
 #include "pane_scroll.h"
 
 #include <QEvent>
+#include <QLabel>
+#include <QPainter>
 #include <QScrollBar>
+
+#include <algorithm>
 
 namespace kelvo {
 
@@ -11,6 +15,7 @@ PaneScroll::PaneScroll(QWidget *parent)
     setFrameShape(QFrame::StyledPanel);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalScrollBar()->installEventFilter(this);
 }
 
@@ -31,6 +36,45 @@ QSize PaneScroll::minimumSizeHint() const
     if (verticalScrollBar()->isVisible())
         width += verticalScrollBar()->sizeHint().width();
     return {width, fontMetrics().lineSpacing() * 8};
+}
+
+void PaneScroll::updateScrollBar()
+{
+    int lowest = 0;
+    if (widget()) {
+        const auto parts = widget()->findChildren<QWidget *>();
+        for (const QWidget *part : parts) {
+            // Panes and boxes reach down to the edge, also where they are empty.
+            const auto *label = qobject_cast<const QLabel *>(part);
+            const bool isSeen = label ? !label->text().isEmpty() || !label->pixmap().isNull()
+                                      : part->focusPolicy() != Qt::NoFocus;
+            if (isSeen && part->isVisible())
+                lowest = std::max(lowest, part->mapTo(widget(), QPoint(0, part->height())).y());
+        }
+    }
+    const bool fits = lowest <= viewport()->height();
+    if (fits)
+        verticalScrollBar()->setValue(0);
+    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+}
+
+bool PaneScroll::event(QEvent *event)
+{
+    if (event->type() != QEvent::Paint)
+        return QScrollArea::event(event);
+    // The style's frame is darker than the window, and not to be seen on a dark one.
+    QPainter painter(this);
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(0.28F);
+    painter.setPen(line);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    return true;
+}
+
+void PaneScroll::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    updateScrollBar();
 }
 
 bool PaneScroll::eventFilter(QObject *watched, QEvent *event)

@@ -5,7 +5,7 @@
 namespace kelvo {
 
 // Holds the panels. It is as wide as they need, and scrolls them up and down
-// when the window is too low; only a window at its narrowest scrolls sideways.
+// when the window is too low for what they show; never sideways.
 class PaneScroll : public QScrollArea
 {
     Q_OBJECT
@@ -16,7 +16,14 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    // Shows the scroll bar only where something stands below the lower edge: the
+    // panels ask for one height, and a tab may need less. Call it when what they
+    // show changed.
+    void updateScrollBar();
+
 protected:
+    bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 

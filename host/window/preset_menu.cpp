@@ -5,6 +5,7 @@
 #include "modal_dialog.h"
 #include "notice.h"
 #include "popup_button.h"
+#include "ticket_attachment.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -25,6 +26,26 @@ constexpr OSType kRename = fourCharCode("PsRn");
 constexpr OSType kDelete = fourCharCode("PsDl");
 
 constexpr int maximumNameLength = 60; // characters; what a menu shows
+
+QString defaultsName()
+{
+    return PresetMenu::tr("Default Settings");
+}
+
+// Why no preset can have this name; empty when one can.
+QString problemWithName(const QString &name)
+{
+    if (name.isEmpty())
+        return PresetMenu::tr("Type a name for the preset.");
+    // The star stands behind the name of one that was changed.
+    QString bare = name;
+    if (bare.endsWith(u'*'))
+        bare.chop(1);
+    if (bare.simplified().compare(defaultsName(), Qt::CaseInsensitive) == 0)
+        return PresetMenu::tr("“%1” is how the printer comes. Choose another name.")
+            .arg(defaultsName());
+    return {};
+}
 
 struct NameAnswer
 {
@@ -59,7 +80,6 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
     auto *okButton = new QPushButton(ok, content);
     okButton->setObjectName(QStringLiteral("ok"));
     okButton->setProperty("command", QStringLiteral("ok  "));
-    okButton->setEnabled(!name.trimmed().isEmpty());
     for (QWidget *control :
          std::initializer_list<QWidget *>{field, secrets, cancelButton, okButton})
         sendControlEvents(control);
@@ -78,15 +98,14 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
     grid->addLayout(buttons, 2, 0, 1, 2);
 
     ModalDialog dialog(content, parent);
-    const auto handler = installEventHandler(content, [field, okButton](const Event &event) {
-        if (event.source == field)
-            okButton->setEnabled(!field->text().trimmed().isEmpty());
-        return eventNotHandledErr;
-    });
     dialog.setAcceptRule([&] {
-        const QString wanted = field->text().trimmed();
-        if (wanted.isEmpty())
+        const QString wanted = field->text().simplified();
+        if (const QString problem = problemWithName(wanted); !problem.isEmpty()) {
+            CFUserNotificationDisplayNotice(NoticeLevel::Caution,
+                                            PresetMenu::tr("A preset cannot have this name"),
+                                            problem, {}, &dialog);
             return false;
+        }
         if (!taken(wanted))
             return true;
         if (mayReplace)
@@ -103,7 +122,7 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
     });
     if (dialog.runModal() != DialogResult::OK)
         return std::nullopt;
-    return NameAnswer{field->text().trimmed(), secrets->isChecked()};
+    return NameAnswer{field->text().simplified(), secrets->isChecked()};
 }
 
 } // namespace
@@ -184,7 +203,7 @@ void PresetMenu::fillMenu()
     };
     Menu menu;
     menu.items.push_back(
-        {.text = starred(tr("Default Settings"), m_chosen.isEmpty()), .reference = Defaults});
+        {.text = starred(defaultsName(), m_chosen.isEmpty()), .reference = Defaults});
     if (!m_presets.empty())
         menu.items.push_back({.reference = Defaults, .divider = true});
     std::int32_t shown = Defaults;
@@ -260,8 +279,14 @@ void PresetMenu::choose(int reference)
 bool PresetMenu::store(const QString &name, bool keepSecrets)
 {
     m_session.writeAll();
-    if (const auto saved =
-            m_store.save(name, m_session.ticket(), m_session.secretKeys(), keepSecrets);
+    TicketFile ticket = m_session.ticket();
+    // A preset that is replaced keeps what we do not know of it.
+    if (findOwn(name)) {
+        if (const auto stored = m_store.read(name))
+            ticket.unknown = stored.value().unknown;
+        ticket.unknown.remove(kTicketNonceKey);
+    }
+    if (const auto saved = m_store.save(name, ticket, m_session.secretKeys(), keepSecrets);
         !saved) {
         CFUserNotificationDisplayNotice(NoticeLevel::Stop,
                                         tr("The preset “%1” was not saved").arg(name),
@@ -269,7 +294,7 @@ bool PresetMenu::store(const QString &name, bool keepSecrets)
         return false;
     }
     m_chosen = name;
-    m_session.takeAsUnchanged();
+    m_session.takeAsUnchanged(ticket.unknown);
     m_hasStar = false;
     reload();
     return true;

@@ -40,7 +40,8 @@ namespace {
 constexpr QSize paneSize(540, 491);
 constexpr QSize windowSize(900, 660);
 constexpr int columnWidth = 300;
-constexpr int narrowWidth = 860; // below it, column and panels do not stand side by side
+constexpr int narrowColumnWidth = 208; // without the preview: its fields are still to be read
+constexpr int narrowWidth = 860;       // below it there is no preview
 constexpr int lowestWindow = 420;
 constexpr int usualFontHeight = 13; // pixels: 10 points on an ordinary screen
 
@@ -53,6 +54,7 @@ constexpr int lookDelayMs = 150;
 
 // So long the window is left alone to paint itself, before pages are drawn.
 constexpr int firstFrameMs = 100;
+constexpr int activationWaitMs = 1000; // a window manager takes less
 
 constexpr ControlID shellSelector = {kShellSignature, 16};
 constexpr OSType kNextTab = fourCharCode("KFup");
@@ -141,6 +143,7 @@ PrintDialog::PrintDialog(DialogOptions options)
             m_printer->setPrinters(m_session->printers(), m_session->printerName());
         else
             m_printer->setDevice(m_session->printerName());
+        giveFirstFocus();
     });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
@@ -152,6 +155,7 @@ PrintDialog::PrintDialog(DialogOptions options)
             });
 
     connect(m_printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
+        commitTypedValues(this);
         m_session->choosePrinter(name);
         m_printer->setPrinters(m_session->printers(), m_session->printerName());
     });
@@ -197,6 +201,7 @@ void PrintDialog::buildWindow()
     columnLayout->setSpacing(10);
     columnLayout->addWidget(m_printer);
     columnLayout->addWidget(m_preview, 1);
+    columnLayout->addStretch(0); // keeps the fields at the top where there is no preview
 
     m_scroll->setObjectName(QStringLiteral("panels"));
     m_switch->setObjectName(QStringLiteral("panelSwitch"));
@@ -281,7 +286,6 @@ void PrintDialog::fitToFont()
 {
     const double scale = fontScale(this);
     m_stack->setMinimumSize(paneSize * scale);
-    m_column->setMinimumWidth(int(columnWidth * scale));
     // Its words end too near to the frame in some styles.
     m_details->setMinimumWidth(m_details->sizeHint().width() + fontMetrics().height());
     fitToPanels();
@@ -311,7 +315,7 @@ void PrintDialog::start()
     m_firstFrame.start();
     m_session->start();
     updatePrintButton();
-    m_printer->focusFirst();
+    giveFirstFocus();
 }
 
 void PrintDialog::setDriven(bool driven)
@@ -349,6 +353,7 @@ void PrintDialog::takeStage()
     arrangeTabOrder();
     updatePrintButton();
     updateFoot();
+    giveFirstFocus();
 }
 
 void PrintDialog::takeDocument()
@@ -372,6 +377,7 @@ void PrintDialog::takeDocument()
 
 void PrintDialog::takeSettings()
 {
+    m_printer->dropTypedText();
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
     if (!m_hasLooked) {
         // Conflicts take a reading of the whole description: the frame comes first.
@@ -433,6 +439,8 @@ void PrintDialog::updateFoot()
         if (runs && problem.isEmpty())
             text = shortSummary(m_session->ticket(), settings, pageCount(runs.value()),
                                 m_session->secretKeys());
+        else
+            text = tr("Not to be printed like this. Pages: %1").arg(problem);
     }
     m_foot->setText(text);
     m_foot->setToolTip(text.toHtmlEscaped());
@@ -445,6 +453,7 @@ void PrintDialog::showPanelAt(int index)
     Extension *panels = m_session->panels();
     if (!panels || index < 0 || index >= int(panels->panels().size()))
         return;
+    commitTypedValues(this);
     panels->show(index);
     arrangeTabOrder();
     m_look.start();
@@ -475,6 +484,7 @@ void PrintDialog::showWhatFollows()
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
     m_presets->updateStar();
     arrangeTabOrder();
+    m_scroll->updateScrollBar();
     updatePreview();
     updateFoot();
     updatePrintButton();
@@ -497,6 +507,7 @@ JobWords PrintDialog::words()
 
 void PrintDialog::showDetails()
 {
+    commitTypedValues(this);
     runJobDetailsDialog(words(), this);
 }
 
@@ -598,7 +609,8 @@ void PrintDialog::print()
     }
     m_session->writeAll();
     if (const QString problem = findPagesProblem(); !problem.isEmpty()) {
-        refusePrint(ExitStatus::WrongUsage, notPrinted, problem);
+        m_printer->focusPages();
+        refusePrint(ExitStatus::WrongUsage, notPrinted, tr("Pages: %1").arg(problem));
         return;
     }
     if (endsInConflict())
@@ -716,6 +728,12 @@ void PrintDialog::keyPressEvent(QKeyEvent *event)
 
 // ---- how it is laid out
 
+void PrintDialog::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_sinceShown.start();
+}
+
 void PrintDialog::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
@@ -725,23 +743,38 @@ void PrintDialog::resizeEvent(QResizeEvent *event)
 void PrintDialog::arrangeColumns()
 {
     const double scale = fontScale(this);
-    const int sideBySide =
-        m_column->minimumWidth() + columnGap + m_scroll->minimumSizeHint().width() + 2 * margin;
-    const bool isNarrow = width() < std::max(int(narrowWidth * scale), sideBySide);
+    const int scrollBar = m_scroll->verticalScrollBar()->isVisible()
+        ? 0
+        : m_scroll->verticalScrollBar()->sizeHint().width();
+    const int besides = columnGap + m_scroll->minimumSizeHint().width() + scrollBar + 2 * margin;
+    const bool isNarrow = width() < int(narrowColumnWidth * scale) + besides;
     if (isNarrow != m_isNarrow) {
-        // Going narrow the panels win; going wide everything is there again.
+        // Where only one of both has room, printer, copies and paper come first.
         m_isNarrow = isNarrow;
-        m_isColumnWanted = !isNarrow;
+        m_isColumnWanted = true;
     }
-    m_columnToggle->setArrowType(m_isColumnWanted ? Qt::LeftArrow : Qt::RightArrow);
+    m_column->setMinimumWidth(
+        std::clamp(width() - besides, int(narrowColumnWidth * scale), int(columnWidth * scale)));
+    m_columnToggle->setArrowType(m_isColumnWanted == m_isNarrow ? Qt::RightArrow : Qt::LeftArrow);
     // In a narrow window it goes from one to the other, and says to which.
-    m_columnToggle->setText(m_isColumnWanted ? tr("Device") : tr("Printer and Pages"));
+    m_columnToggle->setText(m_isColumnWanted ? tr("Device Settings") : tr("Printer and Paper"));
+    m_columnToggle->setAccessibleName(m_isNarrow ? m_columnToggle->text()
+                                                 : tr("Printer, pages and preview"));
     m_columnToggle->setToolButtonStyle(m_isNarrow ? Qt::ToolButtonTextBesideIcon
                                                   : Qt::ToolButtonIconOnly);
     m_column->setVisible(m_isColumnWanted);
     m_panelSide->setVisible(!m_isNarrow || !m_isColumnWanted);
     const int forPreview = m_column->height() - m_printer->sizeHint().height();
-    m_preview->setVisible(forPreview >= m_preview->minimumSizeHint().height());
+    const bool isWide = width() >= int(narrowWidth * scale) || m_isNarrow;
+    m_preview->setVisible(isWide && forPreview >= m_preview->minimumSizeHint().height());
+}
+
+void PrintDialog::showPanelSide()
+{
+    if (m_isNarrow && m_isColumnWanted) {
+        m_isColumnWanted = false;
+        arrangeColumns();
+    }
 }
 
 // Panels make their controls when they are first shown: later than the buttons
@@ -759,6 +792,19 @@ void PrintDialog::arrangeTabOrder()
     order << m_columnToggle << m_details << m_help << m_cancel << m_print;
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
+}
+
+// The keyboard begins at the printers; while there are none to choose from, at
+// what can be pressed.
+void PrintDialog::giveFirstFocus()
+{
+    QWidget *holder = focusWidget();
+    if (holder && holder->isEnabled() && holder != m_firstFocus)
+        return; // where the user, or a pane, wants it
+    QWidget *first = m_printer->firstControl();
+    m_firstFocus = first->isEnabled() ? first : m_cancel;
+    if (holder != m_firstFocus)
+        m_firstFocus->setFocus(Qt::OtherFocusReason);
 }
 
 void PrintDialog::goToRegion(bool forward)
@@ -795,6 +841,10 @@ void PrintDialog::goToRegion(bool forward)
 
 bool PrintDialog::isIdle() const
 {
+    // Shortcuts reach only an active window, and a window becomes active some
+    // time after it was shown; without a window manager it may never.
+    if (isVisible() && !QApplication::activeWindow() && m_sinceShown.elapsed() < activationWaitMs)
+        return false;
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
             && !m_look.isActive() && !m_firstFrame.isActive());
@@ -807,9 +857,13 @@ bool PrintDialog::isDrawing() const
 
 Result<void> PrintDialog::showPanel(const QString &name)
 {
+    if (m_session->stage() == DialogSession::Stage::Stuck)
+        return Error{Error::Code::Unreachable, m_session->message().header,
+                     m_session->message().text};
     Extension *panels = m_session->panels();
     if (!panels)
         return Error{Error::Code::NotFound, name, tr("there are no panels")};
+    showPanelSide();
     QStringList names;
     for (std::size_t i = 0; i < panels->panels().size(); ++i) {
         if (panels->panels()[i].name == name) {
@@ -836,6 +890,10 @@ Result<void> PrintDialog::showPanel(const QString &name)
 
 Result<void> PrintDialog::showTab(int tab)
 {
+    if (m_session->stage() == DialogSession::Stage::Stuck)
+        return Error{Error::Code::Unreachable, m_session->message().header,
+                     m_session->message().text};
+    showPanelSide();
     m_switch->setCurrentIndex(0);
     auto *selector = findControl<PopupButton>(this, shellSelector);
     if (!selector)

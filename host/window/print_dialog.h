@@ -6,6 +6,8 @@
 #include "print_run.h"
 #include "script_target.h"
 
+#include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -71,6 +73,7 @@ signals:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -94,6 +97,7 @@ private:
     void showDetails();
     void showHelp();
     void goToRegion(bool forward);
+    void giveFirstFocus();
 
     // Print.
     void print();
@@ -105,6 +109,7 @@ private:
     void end(ExitStatus status);
 
     void arrangeColumns();
+    void showPanelSide(); // where it stands behind the column
     void arrangeTabOrder();
     void updatePrintButton();
     void updatePreview();
@@ -137,6 +142,8 @@ private:
     bool m_isColumnWanted = true;  // by the user, when the window is wide enough
     bool m_isNarrow = false;       // column and panels do not fit side by side
     bool m_isDriven = false;
+    QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
+    QElapsedTimer m_sinceShown;
     QMap<QString, QString> m_secrets;
 
     std::unique_ptr<PrintRun> m_run;

@@ -181,11 +181,23 @@ void PrinterPane::colour()
     QPalette colours;
     colours.setColor(QPalette::WindowText, cautionText(palette()));
     m_pagesProblem->setPalette(colours);
+    // Not every dark theme has a colour for this.
+    QColor hint = palette().color(QPalette::Text);
+    hint.setAlphaF(0.6F);
+    QPalette fieldColours;
+    fieldColours.setColor(QPalette::PlaceholderText, hint);
+    m_pages->setPalette(fieldColours);
 }
 
-void PrinterPane::focusFirst()
+QWidget *PrinterPane::firstControl() const
 {
-    m_printer->setFocus();
+    return m_printer;
+}
+
+void PrinterPane::focusPages()
+{
+    m_pages->setFocus();
+    m_pages->selectAll();
 }
 
 void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &chosen)
@@ -231,7 +243,9 @@ void PrinterPane::setDevice(const QString &name)
 
 void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
 {
-    m_copies->setValue(settings.copies);
+    // What is being typed stays until it is taken.
+    if (m_copies->value() != settings.copies)
+        m_copies->setValue(settings.copies);
     m_collate->setChecked(settings.collate);
     m_collate->setEnabled(m_copies->isEnabled() && settings.copies > 1);
     // A range that the user has not typed yet stays a range.
@@ -279,6 +293,11 @@ void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
     m_paper->setValue(value);
     m_paper->setEnabled(m_hasPaper && m_copies->isEnabled());
     m_orientation->setValueByReference(static_cast<std::int32_t>(settings.orientation));
+}
+
+void PrinterPane::dropTypedText()
+{
+    m_copies->setValue(m_copies->value());
 }
 
 JobSettings PrinterPane::settings() const

@@ -30,7 +30,8 @@ public:
     // `presets` stands in the second row; it becomes a child of this.
     explicit PrinterPane(PresetMenu *presets, QWidget *parent = nullptr);
 
-    void focusFirst(); // where the keyboard begins
+    QWidget *firstControl() const; // where the keyboard begins
+    void focusPages();
 
     // The queues, or one device without a queue.
     void setPrinters(const QList<Printer> &printers, const QString &chosen);
@@ -38,6 +39,7 @@ public:
 
     // Enables what `ppd` offers; null: the paper is the printer's own.
     void setSettings(const JobSettings &settings, const PpdFile *ppd);
+    void dropTypedText(); // what is typed and not taken yet goes
     JobSettings settings() const;
     bool arePagesMissing() const;          // a range is chosen and not typed yet
     void setSettingsEnabled(bool enabled); // before there is a ticket: not

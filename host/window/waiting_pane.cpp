@@ -1,5 +1,6 @@
 #include "waiting_pane.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -18,7 +19,6 @@ QLabel *centredLabel(const QString &name, QWidget *parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignCenter);
-    label->setFixedWidth(label->fontMetrics().averageCharWidth() * lineCharacters);
     return label;
 }
 
@@ -30,10 +30,6 @@ WaitingPane::WaitingPane(QWidget *parent)
     , m_text(centredLabel(QStringLiteral("waitingText"), this))
     , m_retry(new QPushButton(tr("Tr&y Again"), this))
 {
-    QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.25);
-    large.setWeight(QFont::DemiBold);
-    m_header->setFont(large);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_retry->setObjectName(QStringLiteral("retry"));
 
@@ -55,12 +51,33 @@ WaitingPane::WaitingPane(QWidget *parent)
     setMessage({});
 }
 
+void WaitingPane::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitToFont();
+}
+
+void WaitingPane::fitToFont()
+{
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.25);
+    large.setWeight(QFont::DemiBold);
+    m_header->setFont(large);
+    const int width = fontMetrics().averageCharWidth() * lineCharacters;
+    for (QLabel *label : {m_header, m_text}) {
+        label->setFixedWidth(width);
+        label->setMinimumHeight(label->text().isEmpty() ? 0 : label->heightForWidth(width));
+    }
+}
+
 void WaitingPane::setMessage(const DialogSession::Message &message)
 {
     m_header->setText(message.header);
     m_header->setVisible(!message.header.isEmpty());
     m_text->setText(message.text);
     m_text->setVisible(!message.text.isEmpty());
+    fitToFont();
     m_retry->setVisible(message.canRetry);
     if (message.canRetry)
         m_retry->setFocus();

@@ -23,7 +23,12 @@ public:
 signals:
     void retryRequested();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void fitToFont();
+
     QLabel *m_header, *m_text;
     QPushButton *m_retry;
 };

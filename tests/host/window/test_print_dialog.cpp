@@ -47,12 +47,17 @@ private slots:
     void theTicketIsWrittenBeforeTheJob();
     void givingUpIsCancelOrTheFailure();
     void aChangedPresetHasAStar();
+    void unknownEntriesStayWithTheirPreset();
+    void namesThatNoPresetCanHave_data();
+    void namesThatNoPresetCanHave();
 
     void theWindowDoesNotWaitForAServer();
     void aServerThatComesBackIsFound();
     void anUnknownPrinterIsToldWithTheNearest();
     void settingsComeBackWithTheirPrinter();
+    void aPrinterChosenAgainBeginsOnce();
 
+    void theFirstKeyIsHeard();
     void returnPrintsOnlyFromThePrintButton();
     void keysReachPanelsAndRegions();
     void everyStopIsReachedOnceAndHasAName();
@@ -287,6 +292,8 @@ void TestPrintDialog::whatWasTypedLastIsPrinted()
     auto *copies = shown.find<SpinField>("copies");
     copies->setFocus();
     QVERIFY(copies->typeText("7"));
+    // The settings are looked at between the typing and the press.
+    QVERIFY(shown.waitUntilIdle());
     shown.dialog.pressPrint();
     QVERIFY(shown.waitUntilEnded());
 
@@ -359,10 +366,12 @@ void TestPrintDialog::wrongPagesAreNotPrinted()
     QVERIFY(!inspector::type(shown.find<QWidget>("pages"), pages));
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(shown.isShown("pagesProblem"));
+    QVERIFY2(shown.text("summary").contains(says), qPrintable(shown.text("summary")));
 
     shown.dialog.pressPrint();
 
     QVERIFY(!shown.dialog.isPrinting());
+    QVERIFY(shown.dialog.lastPrintProblem().startsWith("Pages:"));
     QVERIFY2(shown.dialog.lastPrintProblem().contains(says),
              qPrintable(shown.dialog.lastPrintProblem()));
     QCOMPARE(shown.dialog.lastPrintStatus(), ExitStatus::WrongUsage);
@@ -506,6 +515,83 @@ void TestPrintDialog::aChangedPresetHasAStar()
     QCOMPARE(second.find<SpinField>("copies")->value(), 4); // nothing was lost here
 }
 
+void TestPrintDialog::unknownEntriesStayWithTheirPreset()
+{
+    PresetStore store;
+    const auto unknownOf = [&store](const char *name) {
+        return store.read(QString::fromLatin1(name)).value().unknown;
+    };
+    for (const char *name : {"One", "Two"}) {
+        TicketFile file;
+        file.unknown = {{name, "kept"}, {"com.kelvo.print.TicketNonce", QByteArray("0123")}};
+        QVERIFY(store.save(QString::fromLatin1(name), file, {}, false));
+    }
+    auto begin = options();
+    begin.preset = store.read("One").value();
+    begin.line.preset = "One";
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    const auto save = [&shown] {
+        QVERIFY(!inspector::set(shown.find<QWidget>("copies"), 3));
+        QVERIFY(shown.waitUntilIdle());
+        QVERIFY(
+            !inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSv"), {}));
+    };
+
+    save();
+    QCOMPARE(unknownOf("One"), (Dictionary{{"One", "kept"}}));
+    QVERIFY(shown.choose("preset", "Two"));
+    save();
+    QCOMPARE(unknownOf("Two"), (Dictionary{{"Two", "kept"}}));
+
+    // A new preset begins without what belongs to another.
+    QVERIFY(shown.find<PopupButton>("preset")->choose(1));
+    QTimer::singleShot(50, [] {
+        inspector::type(frontWindow()->findChild<QWidget *>("presetName"), QStringLiteral("New"));
+        inspector::click(frontWindow()->findChild<QWidget *>("ok"));
+    });
+    inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSA"), {});
+    QCOMPARE(unknownOf("New"), Dictionary());
+    for (const char *name : {"One", "Two", "New"})
+        QVERIFY(store.remove(QString::fromLatin1(name)));
+}
+
+void TestPrintDialog::namesThatNoPresetCanHave_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("says");
+
+    QTest::newRow("the first row") << "Default Settings"
+                                   << "how the printer comes";
+    QTest::newRow("nearly") << " default  settings"
+                            << "how the printer comes";
+    QTest::newRow("with its star") << "Default Settings*"
+                                   << "how the printer comes";
+    QTest::newRow("none") << " "
+                          << "Type a name";
+}
+
+void TestPrintDialog::namesThatNoPresetCanHave()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, says);
+    Shown shown(options());
+    QVERIFY(shown.waitUntilIdle());
+    NoticeAnswer notice(1);
+    QTimer::singleShot(20, [name] {
+        QWidget *front = frontWindow();
+        auto *field = front->findChild<QLineEdit *>("presetName");
+        inspector::type(field, name);
+        sendCommand(front, kCommandOK);
+        // The notice has been answered by now, and the dialog is still open.
+        sendCommand(front, kCommandCancel);
+    });
+    inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSA"), {});
+
+    QVERIFY2(notice.text.contains(says), qPrintable(notice.text));
+    QVERIFY(PresetStore().presets().empty());
+}
+
 // ---- print servers
 
 void TestPrintDialog::theWindowDoesNotWaitForAServer()
@@ -571,6 +657,10 @@ void TestPrintDialog::anUnknownPrinterIsToldWithTheNearest()
     QVERIFY(shown.text("waitingHeader").contains("Hal-3"));
     QVERIFY(shown.text("waitingText").contains("Hall-3"));
     QVERIFY(!shown.find<QPushButton>("print")->isEnabled());
+    for (const auto &refused : {shown.dialog.showPanel("SpecialPages"), shown.dialog.showTab(1)}) {
+        QVERIFY(!refused && refused.error().code == Error::Code::Unreachable);
+        QVERIFY(refused.error().text().contains("Hal-3"));
+    }
 
     QVERIFY(shown.choose("printer", "Hall-3"));
 
@@ -626,7 +716,46 @@ void TestPrintDialog::settingsComeBackWithTheirPrinter()
     QCOMPARE(cups.jobs(1).size(), 1U);
 }
 
+void TestPrintDialog::aPrinterChosenAgainBeginsOnce()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.destination = "Full";
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    m_panels->calls.clear();
+
+    // Faster than the server answers.
+    for (const char *printer : {"Bare", "Full", "Full", "Bare", "Full"})
+        QVERIFY(shown.choose("printer", printer));
+    QVERIFY(shown.waitUntilIdle());
+    QTest::qWait(500); // for an answer too many
+
+    QVERIFY(shown.find<QPushButton>("print")->isEnabled());
+    QCOMPARE(m_panels->calls.count("PDEShell prologue"), 1);
+    QCOMPARE(m_panels->calls.count("PDEShell terminate"), 1);
+}
+
 // ---- keyboard and looks
+
+void TestPrintDialog::theFirstKeyIsHeard()
+{
+    Shown shown(options());
+    QVERIFY(shown.waitUntilIdle());
+    QCOMPARE(shown.dialog.focusWidget(), shown.find<QWidget>("printer"));
+    QVERIFY(!inspector::pressKey(&shown.dialog, "Alt+C"));
+    QCOMPARE(shown.dialog.focusWidget(), shown.find<QWidget>("copies"));
+    for (const char *key : {"Ctrl+A", "5", "Tab"})
+        QVERIFY(!inspector::pressKey(&shown.dialog, key));
+    QCOMPARE(shown.find<SpinField>("copies")->value(), 5);
+    QVERIFY(!inspector::pressKey(&shown.dialog, "Ctrl+P"));
+    QVERIFY(shown.dialog.isPrinting());
+    QVERIFY(shown.waitUntilEnded());
+}
 
 void TestPrintDialog::returnPrintsOnlyFromThePrintButton()
 {
@@ -742,9 +871,11 @@ void TestPrintDialog::everythingFits_data()
     QTest::newRow("dark") << QSize(900, 660) << 1.0 << true << true << false;
     QTest::newRow("laptop") << QSize(1366, 768) << 1.0 << false << true << false;
     QTest::newRow("860 wide") << QSize(880, 640) << 1.0 << false << true << false;
-    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false << false << false;
-    QTest::newRow("low") << QSize(900, 480) << 1.0 << false << true << true;
-    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false << false << true;
+    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false << true << false;
+    QTest::newRow("small") << QSize(800, 600) << 1.0 << false << true << false;
+    QTest::newRow("netbook") << QSize(1024, 600) << 1.0 << false << true << false;
+    QTest::newRow("low") << QSize(900, 480) << 1.0 << false << true << false;
+    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false << true << false;
     QTest::newRow("large font") << QSize(1900, 1400) << 2.0 << false << true << false;
 }
 
@@ -796,6 +927,7 @@ void TestPrintDialog::everythingFits()
             QVERIFY2(widget->width() >= widget->sizeHint().width(), qPrintable(label->text()));
     }
     QVERIFY(shown.isShown("print"));
+    QVERIFY(shown.isShown("copies") && shown.isShown("paper"));
     shown.find<QWidget>("columnToggle")->setFocus();
     QTest::keyClick(&shown.dialog, Qt::Key_F9);
     QCOMPARE(shown.isShown("printer"), !showsColumn);
