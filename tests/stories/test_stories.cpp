@@ -114,6 +114,7 @@ private slots:
     void givesTheSameTicketEachTime();
     void takesDocumentsFromStandardInput();
     void printsToAQueue();
+    void cutsPagesOnlyOnce();
     void refusesASecretThatWouldLieOpen_data();
     void refusesASecretThatWouldLieOpen();
     void printsOtherMakersDevicesWithoutPanels_data();
@@ -262,6 +263,29 @@ void TestStories::printsToAQueue()
     QCOMPARE(job.options.value(ticketOption).size(), 1);
     QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).first(), "none"),
              QString());
+}
+
+// A queue's defaults are read once; its filters do not apply them again.
+void TestStories::cutsPagesOnlyOnce()
+{
+    QCOMPARE(m_cups.addQueue("Half", fullPpd,
+                             {"-o", "page-ranges-default=2-3", "-o", "mirror-default=true", "-o",
+                              "outputorder-default=reverse"}),
+             QString());
+    const Desk desk;
+    const std::size_t before = m_cups.jobs(0).size();
+    const Run run = desk.run({"-d", "Half", "--no-window", documentPath});
+    QENDED(run, 0);
+
+    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
+    QCOMPARE(jobs.size(), before + 1);
+    const PrivateCups::Job &job = jobs.back();
+    QCOMPARE(job.options.value("page-ranges"), QStringList("1-2147483647"));
+    QCOMPARE(job.options.value("mirror"), QStringList("false"));
+    QCOMPARE(job.options.value("outputorder"), QStringList("normal"));
+    const auto pdf = Poppler::Document::loadFromData(job.document);
+    QVERIFY(pdf);
+    QCOMPARE(pdf->numPages(), 2);
 }
 
 void TestStories::refusesASecretThatWouldLieOpen_data()
