@@ -30,6 +30,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace kelvo {
@@ -844,6 +845,12 @@ bool PrintDialog::isIdle() const
     // Shortcuts reach only an active window, and a window becomes active some
     // time after it was shown; without a window manager it may never.
     if (isVisible() && !QApplication::activeWindow() && m_sinceShown.elapsed() < activationWaitMs)
+        return false;
+    // A button that its mnemonic pressed comes up again a moment later, and only
+    // then does what it is for.
+    const auto buttons = findChildren<QAbstractButton *>();
+    if (std::any_of(buttons.cbegin(), buttons.cend(),
+                    [](const QAbstractButton *each) { return each->isDown(); }))
         return false;
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()

@@ -127,6 +127,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_pagesProblem->setWordWrap(true);
     m_pagesProblem->hide();
     colour();
+    fitToFont();
     m_grid->addWidget(m_pagesProblem, m_grid->rowCount(), 1);
 
     m_paper->setObjectName(QStringLiteral("paper"));
@@ -174,6 +175,17 @@ void PrinterPane::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         colour();
+    else if (event->type() == QEvent::FontChange)
+        fitToFont();
+}
+
+// In a narrow column the room is the range's, not the two words' before it.
+void PrinterPane::fitToFont()
+{
+    int words = 0;
+    for (const MenuItem &item : m_pagesChoice->menu().items)
+        words = std::max(words, m_pagesChoice->fontMetrics().horizontalAdvance(item.text));
+    m_pagesChoice->setMaximumWidth(words + 3 * m_pagesChoice->fontMetrics().height());
 }
 
 void PrinterPane::colour()

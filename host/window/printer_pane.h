@@ -59,6 +59,7 @@ private:
     OSStatus handle(const Event &event);
     void showPageField();
     void colour();
+    void fitToFont();
 
     PresetMenu *m_presets;
     PopupButton *m_printer;

@@ -928,6 +928,8 @@ void TestPrintDialog::everythingFits()
     }
     QVERIFY(shown.isShown("print"));
     QVERIFY(shown.isShown("copies") && shown.isShown("paper"));
+    auto *pages = shown.find<QLineEdit>("pages");
+    QVERIFY(pages->width() >= pages->fontMetrics().horizontalAdvance("1-3, 7") + 8);
     shown.find<QWidget>("columnToggle")->setFocus();
     QTest::keyClick(&shown.dialog, Qt::Key_F9);
     QCOMPARE(shown.isShown("printer"), !showsColumn);
