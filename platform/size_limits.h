@@ -14,26 +14,26 @@ inline constexpr int plistDepth = 64;
 inline constexpr qint64 plistNodes = 8'000'000;
 inline constexpr qint64 plistBytes = 128 * MiB;
 
-inline constexpr qint64 ppdBytes = 8 * MiB;       // the largest in the field are below 2 MiB
+inline constexpr qint64 ppdBytes = 8 * MiB; // the largest in the field are below 2 MiB
 // libcups looks names up one by one: far beyond any device it would take minutes.
 inline constexpr int ppdOptions = 4096; // and groups
 inline constexpr int ppdPageSizes = 4096;
 inline constexpr int ppdConstraints = 24'576; // the largest in the field have 20,000
 
 inline constexpr qint64 scriptBytes = 16 * MiB;
-inline constexpr qint64 secretBytes = 4 * KiB;    // a file given by --secret
+inline constexpr qint64 secretBytes = 4 * KiB; // a file given by --secret
 inline constexpr qint64 documentBytes = 2048 * MiB;
 inline constexpr qint64 pictureBytes = 256 * MiB; // a picture file before decoding
 inline constexpr qint64 picturePixels = 200'000'000;
-inline constexpr qint64 textBytes = 64 * MiB;     // plain text; some 15,000 pages
-inline constexpr int documentPages = 100'000;     // made of a text, or named by page ranges
+inline constexpr qint64 textBytes = 64 * MiB; // plain text; some 15,000 pages
+inline constexpr int documentPages = 100'000; // made of a text, or named by page ranges
 
 // The child processes that make PDFs of pictures and PostScript. A picture at
 // its pixel limit takes 800 MB, and as much again where it is turned.
 inline constexpr qint64 converterMemory = 3072 * MiB;
 inline constexpr int converterSeconds = 120;
 
-inline constexpr int fileLockWaitMs = 2000;  // how long a store's lock is waited for
+inline constexpr int fileLockWaitMs = 2000;   // how long a store's lock is waited for
 inline constexpr int optionValueBytes = 4000; // longest option value that always reached a filter
 
 } // namespace kelvo::limits

@@ -41,7 +41,7 @@ void enterLimits()
     limit(RLIMIT_CPU, limits::converterSeconds);
     limit(RLIMIT_FSIZE, limits::documentBytes);
     ::signal(SIGXFSZ, SIG_DFL); // the program ignores it
-    limit(RLIMIT_CORE, 0); // a core file would hold the user's document
+    limit(RLIMIT_CORE, 0);      // a core file would hold the user's document
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
 }

@@ -14,14 +14,14 @@ namespace kelvo {
 struct Conflict
 {
     QStringList options; // PPD keywords
-    QString sentence;    // "Stapling: Top Left and Paper Type: Transparency cannot be used together."
+    QString sentence; // "Stapling: Top Left and Paper Type: Transparency cannot be used together."
 };
 
 struct ConflictReport
 {
     std::vector<Conflict> conflicts;
-    PpdSelection fix;      // option → choice that would end all; empty when there is none
-    QStringList fixWords;  // "Set Stapling to None"
+    PpdSelection fix;     // option → choice that would end all; empty when there is none
+    QStringList fixWords; // "Set Stapling to None"
     bool isEmpty() const { return conflicts.empty(); }
 };
 

@@ -13,14 +13,19 @@
 // in the tickets like everything else.
 namespace kelvo {
 
-enum class Orientation : int { Portrait = 1, Landscape = 2, ReversePortrait = 3, ReverseLandscape = 4 };
+enum class Orientation : int {
+    Portrait = 1,
+    Landscape = 2,
+    ReversePortrait = 3,
+    ReverseLandscape = 4
+};
 
 struct JobSettings
 {
-    int copies = 1;       // 1 to 9999
+    int copies = 1; // 1 to 9999
     bool collate = true;
-    QString pageRanges;   // "1-3,7"; empty: all
-    QString paperName;    // a PPD page size, or "Custom.WxH"; empty: the PPD's default
+    QString pageRanges; // "1-3,7"; empty: all
+    QString paperName;  // a PPD page size, or "Custom.WxH"; empty: the PPD's default
     Orientation orientation = Orientation::Portrait;
 
     friend bool operator==(const JobSettings &, const JobSettings &) = default;

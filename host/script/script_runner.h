@@ -20,7 +20,7 @@ class ScriptRunner : public QObject
 public:
     struct Options
     {
-        QString file; // begins every message; with no lines it stands alone
+        QString file;            // begins every message; with no lines it stands alone
         bool printAtEnd = false; // --print
     };
     ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
