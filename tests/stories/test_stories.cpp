@@ -765,10 +765,10 @@ void TestStories::refusesWhatCannotBeDone_data()
     row("item not offered", "tab 4\nchoose @requestOffset key Spiral\n", 3, "s.kps:2: ");
     row("control disabled", "check @collate off\n", 3, "s.kps:1: @collate");
     row("pages out of range", "choose @pagesChoice key range\ntype @pages \"9\"\nprint\n", 2,
-        "s.kps:3: The document has pages 1 to 6.");
+        "s.kps:3: Pages: The document has pages 1 to 6.");
     row("dialog left open", "tab 4\nclick @aboutButton\n", 2, "s.kps:2: the script ends while");
-    row("notice not met", "item @presetMenu 'PsSA'\ntype @presetName \"\"\nclick @ok\n", 3,
-        "s.kps:3: ");
+    row("notice not met", "item @presetMenu 'PsSA'\ntype @presetName \"\"\nclick @ok\n", 1,
+        "A preset cannot have this name");
     row("lines after the end", "cancel\nclick @print\n", 2, "s.kps:2: the dialog is closed");
     row("cancelled, in spite of --print", "cancel\n", 0, "", {"--demo", "--to", "out", "--print"});
     row("no queue", "print\n", 4, "s.kps:1: ", {"--demo"});
