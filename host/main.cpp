@@ -24,6 +24,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <thread>
+
+#include <fontconfig/fontconfig.h>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -292,7 +295,6 @@ int runDialog(DialogOptions options)
     }
     dialog.start();
     if (!dialog.finished()) {
-        dialog.show();
         if (runner)
             runner->start();
         QApplication::exec();
@@ -311,6 +313,9 @@ int runApplication(int argc, char **argv, const CommandLine &line)
                                    "without one"));
     }
     qInstallMessageHandler(passMessage);
+    // Fonts take as long to be found as the application object takes to be made,
+    // which would ask for them next.
+    const std::jthread fonts([] { FcInit(); });
     QApplication application(argc, argv);
     // The application object took over the locale; what we write must not follow it.
     std::setlocale(LC_NUMERIC, "C");
@@ -321,6 +326,12 @@ int runApplication(int argc, char **argv, const CommandLine &line)
 
     DialogOptions options;
     options.line = line;
+    if (!line.listControls && !line.demo && !line.ppd) {
+        options.directory = std::make_shared<PrinterDirectory>();
+        options.directory->refresh(line.timeoutSeconds * 1000);
+        if (line.destination)
+            options.directory->fetchPpd(*line.destination, line.timeoutSeconds * 1000);
+    }
     if (auto bundle = openPanelBundle())
         options.bundle = bundle.value();
     else

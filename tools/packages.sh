@@ -4,7 +4,7 @@
 run_packages="g++ cmake ninja-build ccache pkg-config
     qt6-base-dev libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
     libcups2-dev libexpat1-dev libsystemd-dev
-    libcairo2-dev libpango1.0-dev libpoppler-qt6-dev libqpdf-dev
+    libfontconfig-dev libcairo2-dev libpango1.0-dev libpoppler-qt6-dev libqpdf-dev
     qt6-image-formats-plugins fonts-dejavu-core fonts-liberation2 ghostscript"
 
 # Real partners of the tests, and the formatter.

@@ -25,6 +25,8 @@ DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObjec
     , m_secretKeys(secretKeysOf(m_options.bundle))
     , m_session(std::make_unique<PrintSession>())
 {
+    if (!m_options.document)
+        m_documentProblem = tr("There is no document to print.");
 }
 
 DialogSession::~DialogSession()
@@ -34,7 +36,6 @@ DialogSession::~DialogSession()
 
 void DialogSession::start()
 {
-    openTheDocument();
     if (m_options.device) {
         m_ppd = m_options.device;
         m_printerName = m_ppd->modelName();
@@ -75,23 +76,40 @@ void DialogSession::findPrinters()
 {
     m_arePrintersKnown = m_isPpdKnown = false;
     m_askedFor.clear(); // answers to the last directory do not come any more
-    m_directory = std::make_unique<PrinterDirectory>();
-    connect(m_directory.get(), &PrinterDirectory::printersFound, this,
-            &DialogSession::takePrinters);
-    connect(m_directory.get(), &PrinterDirectory::printersFailed, this, [this](const Error &error) {
+    setStage(Stage::Searching,
+             {tr("Looking for printers"), tr("The print server has not answered yet."), false});
+    if (m_options.directory) {
+        m_directory = std::move(m_options.directory);
+        if (!m_printerName.isEmpty())
+            m_askedFor.insert(m_printerName);
+        listenTo(*m_directory);
+        return;
+    }
+    m_directory = std::make_shared<PrinterDirectory>();
+    listenTo(*m_directory);
+    m_directory->refresh(m_options.line.timeoutSeconds * 1000);
+    // Both questions at once: the second need not wait for the first.
+    if (!m_printerName.isEmpty())
+        askForPpd();
+}
+
+void DialogSession::listenTo(PrinterDirectory &directory)
+{
+    connect(&directory, &PrinterDirectory::printersFound, this, &DialogSession::takePrinters);
+    connect(&directory, &PrinterDirectory::printersFailed, this, [this](const Error &error) {
         const bool isSilent = error.code == Code::TimedOut || error.code == Code::Unreachable;
         setStage(Stage::Stuck,
                  {isSilent ? tr("The print server does not answer")
                            : tr("The printers cannot be listed"),
                   error.text(), true});
     });
-    connect(m_directory.get(), &PrinterDirectory::ppdFetched, this,
+    connect(&directory, &PrinterDirectory::ppdFetched, this,
             [this](const QString &printer, const QString &path) {
                 m_askedFor.remove(printer);
                 if (isPpdAwaited(printer))
                     takePpd(path);
             });
-    connect(m_directory.get(), &PrinterDirectory::ppdFailed, this,
+    connect(&directory, &PrinterDirectory::ppdFailed, this,
             [this](const QString &printer, const Error &error) {
                 m_askedFor.remove(printer);
                 if (!isPpdAwaited(printer))
@@ -106,12 +124,6 @@ void DialogSession::findPrinters()
                               true});
                 }
             });
-    setStage(Stage::Searching,
-             {tr("Looking for printers"), tr("The print server has not answered yet."), false});
-    m_directory->refresh(m_options.line.timeoutSeconds * 1000);
-    // Both questions at once: the second need not wait for the first.
-    if (!m_printerName.isEmpty())
-        askForPpd();
 }
 
 // A printer that is chosen again while its answer is on its way is not asked
@@ -442,10 +454,8 @@ QString DialogSession::title() const
 
 void DialogSession::openTheDocument()
 {
-    if (!m_options.document) {
-        m_documentProblem = tr("There is no document to print.");
+    if (m_openingCancelled || !m_options.document)
         return;
-    }
     m_openingCancelled = std::make_shared<std::atomic_bool>(false);
     m_opening.start([source = *m_options.document,
                      cancelled = m_openingCancelled] { return openDocument(source, *cancelled); },

@@ -27,9 +27,12 @@ namespace kelvo {
 struct DialogOptions
 {
     CommandLine line;
-    Bundle *bundle = nullptr;               // null: no device panels
-    QString bundleProblem;                  // why there is no bundle, a sentence
-    std::shared_ptr<PpdFile> device;        // --ppd and --demo: a device without a queue
+    Bundle *bundle = nullptr;        // null: no device panels
+    QString bundleProblem;           // why there is no bundle, a sentence
+    std::shared_ptr<PpdFile> device; // --ppd and --demo: a device without a queue
+    // Asked already for the printers and the settings of the line's destination, so that
+    // the server works while the window is built. Null: the dialog asks.
+    std::shared_ptr<PrinterDirectory> directory;
     std::optional<DocumentSource> document; // none: there is nothing to print
     std::optional<TicketFile> preset, ticketIn;
 };
@@ -46,7 +49,10 @@ public:
     DialogSession(DialogOptions options, QWidget *panesParent, QObject *parent = nullptr);
     ~DialogSession() override;
 
-    void start();
+    void start(); // printers and their settings
+    // A second call does nothing. No part of start(): the first frame would wait
+    // for the memory and the processor that this takes.
+    void openTheDocument();
     void retry(); // after Stage::Stuck
     void stop();  // ends the panels; what is under way is left to itself
 
@@ -77,7 +83,7 @@ public:
     const SecretKeys &secretKeys() const { return m_secretKeys; }
     const QStringList &missing() const { return m_missing; } // not offered here, in words
 
-    bool isDocumentPending() const { return m_opening.isRunning(); }
+    bool isDocumentPending() const { return m_document.isNull() && m_documentProblem.isEmpty(); }
     const Document &document() const { return m_document; }              // null: not (yet) there
     const QString &documentProblem() const { return m_documentProblem; } // a sentence
     QString title() const; // of the document, also before it is open
@@ -113,6 +119,7 @@ signals:
 
 private:
     void findPrinters();
+    void listenTo(PrinterDirectory &directory);
     void takePrinters(const QList<Printer> &printers);
     void fetchPpd();
     void askForPpd();
@@ -127,7 +134,6 @@ private:
     void settle();
     void beginPanels();
     void endPanels();
-    void openTheDocument();
     void setStage(Stage stage, Message message);
     const Printer *findPrinter(const QString &name) const;
 
@@ -136,7 +142,7 @@ private:
     Stage m_stage = Stage::Searching;
     Message m_message;
 
-    std::unique_ptr<PrinterDirectory> m_directory;
+    std::shared_ptr<PrinterDirectory> m_directory;
     QList<Printer> m_printers;
     bool m_arePrintersKnown = false;
     QString m_printerName;

@@ -53,8 +53,12 @@ constexpr int columnGap = 12;
 // So long after the user's last change, settings are written and checked.
 constexpr int lookDelayMs = 150;
 
-// So long the window is left alone to paint itself, before pages are drawn.
-constexpr int firstFrameMs = 100;
+// So long the window waits for a print server that is near: no message that is
+// gone before it can be read, and one frame less.
+constexpr int graceMs = 40;
+
+// So long the document waits for the first frame with the printer's settings.
+constexpr int firstFrameMs = 300;
 constexpr int activationWaitMs = 1000; // a window manager takes less
 
 constexpr ControlID shellSelector = {kShellSignature, 16};
@@ -131,9 +135,12 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_look.setSingleShot(true);
     m_look.setInterval(lookDelayMs);
     connect(&m_look, &QTimer::timeout, this, &PrintDialog::lookAtSettings);
+    m_grace.setSingleShot(true);
+    m_grace.setInterval(graceMs);
+    connect(&m_grace, &QTimer::timeout, this, &QWidget::show);
     m_firstFrame.setSingleShot(true);
     m_firstFrame.setInterval(firstFrameMs);
-    connect(&m_firstFrame, &QTimer::timeout, this, &PrintDialog::takeDocument);
+    connect(&m_firstFrame, &QTimer::timeout, this, [this] { m_session->openTheDocument(); });
     watchEvents([this](const Event &) {
         if (m_session->stage() == DialogSession::Stage::Ready)
             m_look.start();
@@ -317,6 +324,10 @@ void PrintDialog::start()
     m_session->start();
     updatePrintButton();
     giveFirstFocus();
+    if (m_session->stage() == DialogSession::Stage::Searching)
+        m_grace.start();
+    else if (!m_finished)
+        show();
 }
 
 void PrintDialog::setDriven(bool driven)
@@ -355,17 +366,16 @@ void PrintDialog::takeStage()
     updatePrintButton();
     updateFoot();
     giveFirstFocus();
+    if (m_grace.isActive() && m_session->stage() != DialogSession::Stage::Searching)
+        m_grace.start(0); // when all that this stage brings is in place
 }
 
 void PrintDialog::takeDocument()
 {
     updateTitle();
     if (!m_session->document().isNull()) {
-        // Once the window is painted; the timer comes here again.
-        if (!m_firstFrame.isActive()) {
-            m_preview->setMessage({});
-            m_preview->setDocument(m_session->document());
-        }
+        m_preview->setMessage({});
+        m_preview->setDocument(m_session->document());
     } else {
         m_preview->setMessage(m_session->isDocumentPending()
                                   ? tr("Opening %1…").arg(m_session->title())
@@ -383,8 +393,6 @@ void PrintDialog::takeSettings()
     if (!m_hasLooked) {
         // Conflicts take a reading of the whole description: the frame comes first.
         m_hasLooked = true;
-        if (m_firstFrame.isActive())
-            m_firstFrame.start();
         m_look.start();
         showWhatFollows();
         return;
@@ -707,6 +715,8 @@ void PrintDialog::end(ExitStatus status)
         return;
     m_finished = status;
     m_look.stop();
+    m_grace.stop();
+    m_firstFrame.stop();
     m_session->stop();
     hide();
     emit ended(status);
@@ -728,6 +738,14 @@ void PrintDialog::keyPressEvent(QKeyEvent *event)
 }
 
 // ---- how it is laid out
+
+void PrintDialog::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    // The frame that shows the panels, or why there are none, is on its way.
+    if (m_firstFrame.isActive() && m_session->stage() != DialogSession::Stage::Searching)
+        m_firstFrame.start(0);
+}
 
 void PrintDialog::showEvent(QShowEvent *event)
 {

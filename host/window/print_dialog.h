@@ -37,8 +37,8 @@ public:
     explicit PrintDialog(DialogOptions options);
     ~PrintDialog() override;
 
-    // Asks for printers and the document. Call it before show(): where nothing
-    // has to be waited for, the first frame has the real values.
+    // Asks for printers and shows the window, with real values in its first frame
+    // where the print server is quick; the document follows.
     void start();
     // A script drives the dialog: what would ask the user ends the print instead.
     void setDriven(bool driven);
@@ -73,6 +73,7 @@ signals:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -137,7 +138,8 @@ private:
 
     QList<QWidget *> m_panelStops; // the tab order is made for these; compared, never followed
     QTimer m_look;                 // lookAtSettings() soon
-    QTimer m_firstFrame;           // until then the document is not drawn
+    QTimer m_grace;                // until then the window is not shown
+    QTimer m_firstFrame;           // until then the document is not opened
     bool m_hasLooked = false;      // at the settings of any printer
     bool m_isColumnWanted = true;  // by the user, when the window is wide enough
     bool m_isNarrow = false;       // column and panels do not fit side by side
