@@ -313,9 +313,9 @@ int runApplication(int argc, char **argv, const CommandLine &line)
                                    "without one"));
     }
     qInstallMessageHandler(passMessage);
-    // Fonts take as long to be found as the application object takes to be made,
-    // which would ask for them next.
-    const std::jthread fonts([] { FcInit(); });
+    // Fonts take as long to be found as the application object takes to be made.
+    // Whoever asks for them meanwhile would look for them a second time.
+    std::jthread fonts([] { FcInit(); });
     QApplication application(argc, argv);
     // The application object took over the locale; what we write must not follow it.
     std::setlocale(LC_NUMERIC, "C");
@@ -340,6 +340,7 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     if (const QString help = findSharedFile(QStringLiteral("help")); !help.isEmpty())
         addHelpFolder(help);
 
+    fonts.join();
     if (line.listControls) {
         PrintDialog dialog(options);
         const auto list = controlList(&dialog, options.bundle);
