@@ -60,12 +60,6 @@ QString nameOf(const QWidget *control)
                                            : textOf(*id);
 }
 
-// An item as the user reads it: without the mark of its access key.
-QString plainText(const MenuItem &item)
-{
-    return QString(item.text).remove(u'&');
-}
-
 bool isMasked(const QWidget *control)
 {
     const auto *field = qobject_cast<const QLineEdit *>(control);
@@ -123,7 +117,7 @@ bool isNamed(const MenuItem &item, const ItemName &name)
     case ItemName::By::Key:
         return !item.divider && item.key == name.text;
     case ItemName::By::Text:
-        return !item.divider && (item.text == name.text || plainText(item) == name.text);
+        return !item.divider && item.text == name.text;
     case ItemName::By::Row:
         return false; // rows are counted by the caller
     }
@@ -138,7 +132,7 @@ QStringList namesOf(const std::vector<const MenuItem *> &items, ItemName::By by)
             continue;
         names << (by == ItemName::By::Reference ? QString::number(item->reference)
                       : by == ItemName::By::Key ? item->key
-                                                : plainText(*item));
+                                                : item->text);
     }
     return names;
 }
@@ -189,10 +183,9 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
 Done chooseMenuItem(QWidget *control, const MenuItem &item)
 {
     if (item.divider || !item.submenu.empty())
-        return notOffered(control, QStringLiteral("cannot choose \"%1\"").arg(plainText(item)));
+        return notOffered(control, QStringLiteral("cannot choose \"%1\"").arg(item.text));
     if (!item.enabled)
-        return notOffered(control,
-                          QStringLiteral("offers \"%1\" only disabled").arg(plainText(item)));
+        return notOffered(control, QStringLiteral("offers \"%1\" only disabled").arg(item.text));
     bool chosen = false;
     if (auto *popup = qobject_cast<PopupButton *>(control)) {
         const auto &items = popup->menu().items;
@@ -202,9 +195,8 @@ Done chooseMenuItem(QWidget *control, const MenuItem &item)
     } else if (auto *button = qobject_cast<MenuButton *>(control)) {
         chosen = button->choose(item);
     }
-    return chosen
-        ? Done()
-        : notOffered(control, QStringLiteral("does not take \"%1\"").arg(plainText(item)));
+    return chosen ? Done()
+                  : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));
 }
 
 // An ordinary combo box: only texts and rows name its items.
@@ -320,7 +312,7 @@ QJsonArray describeItems(const std::vector<MenuItem> &items)
         if (item.divider) {
             object[QStringLiteral("divider")] = true;
         } else {
-            object[QStringLiteral("text")] = plainText(item);
+            object[QStringLiteral("text")] = item.text;
             object[QStringLiteral("value")] = item.reference;
             if (!item.key.isEmpty())
                 object[QStringLiteral("key")] = item.key;
@@ -718,10 +710,11 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
     if (!found.item && !isAbsent)
         return found.problem;
     if (state == QLatin1String("absent"))
-        return isAbsent ? Done()
-                        : Problem{Failure::BadValue,
-                                  QStringLiteral("%1 has that item: \"%2\"")
-                                      .arg(nameOf(control), plainText(*found.item))};
+        return isAbsent
+            ? Done()
+            : Problem{
+                Failure::BadValue,
+                QStringLiteral("%1 has that item: \"%2\"").arg(nameOf(control), found.item->text)};
     if (isAbsent)
         return Problem{Failure::BadValue, problem};
     const bool holds = state == QLatin1String("present")
@@ -731,9 +724,9 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
         || (state == QLatin1String("unchecked") && !found.item->checked);
     if (holds)
         return {};
-    return Problem{Failure::BadValue,
-                   QStringLiteral("\"%1\" of %2 is not %3")
-                       .arg(plainText(*found.item), nameOf(control), state)};
+    return Problem{
+        Failure::BadValue,
+        QStringLiteral("\"%1\" of %2 is not %3").arg(found.item->text, nameOf(control), state)};
 }
 
 QJsonObject describe(QWidget *control)

@@ -151,11 +151,11 @@ PresetMenu::PresetMenu(DialogSession &session, const QString &chosen, QWidget *p
     setTabOrder(m_popup, m_button);
 
     Menu actions;
-    actions.items = {{.text = tr("&Save"), .command = kSave},
+    actions.items = {{.text = tr("Save"), .command = kSave},
                      {.text = tr("Save &As…"), .command = kSaveAs},
                      {.divider = true},
-                     {.text = tr("&Rename…"), .command = kRename},
-                     {.text = tr("&Delete"), .command = kDelete}};
+                     {.text = tr("Rename…"), .command = kRename},
+                     {.text = tr("Delete"), .command = kDelete}};
     m_button->setMenu(std::move(actions));
     m_button->setMenuUpdate([this](Menu &menu) {
         const Preset *preset = chosenPreset();
