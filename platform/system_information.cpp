@@ -67,7 +67,7 @@ std::optional<QByteArray> defaultRouteInterface(const QByteArray &routeTable)
     // Iface Destination Gateway Flags RefCnt Use Metric Mask MTU Window IRTT;
     // addresses and flags in hexadecimal, the metric in decimal.
     constexpr qsizetype destinationColumn = 1, flagsColumn = 3, metricColumn = 6, maskColumn = 7;
-    constexpr uint upAndGateway = 3;
+    constexpr uint up = 0x1, reject = 0x200; // a point-to-point link has no gateway
 
     std::optional<QByteArray> best;
     uint bestMetric = 0;
@@ -81,7 +81,7 @@ std::optional<QByteArray> defaultRouteInterface(const QByteArray &routeTable)
         const uint metric = columns[metricColumn].toUInt(&isNumber[2]);
         const uint mask = columns[maskColumn].toUInt(&isNumber[3], 16);
         if (!(isNumber[0] && isNumber[1] && isNumber[2] && isNumber[3]) || destination != 0
-            || mask != 0 || (flags & upAndGateway) != upAndGateway)
+            || mask != 0 || (flags & (up | reject)) != up)
             continue;
         if (!best || metric < bestMetric) {
             best = columns[0];

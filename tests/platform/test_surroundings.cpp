@@ -143,7 +143,9 @@ void TestSurroundings::findsTheDefaultRoute_data()
     QTest::newRow("first of equal metric")
         << header + wired + QByteArray(wired).replace("eth0", "eth1") << QByteArray("eth0");
     QTest::newRow("no gateway") << header + QByteArray(wired).replace("0003", "0001")
-                                << QByteArray();
+                                << QByteArray("eth0");
+    QTest::newRow("not up") << header + QByteArray(wired).replace("0003", "0002") << QByteArray();
+    QTest::newRow("rejects") << header + QByteArray(wired).replace("0003", "0201") << QByteArray();
     QTest::newRow("not every destination")
         << header + QByteArray(wired).replace("\t00000000\t0\t", "\t00FFFFFF\t0\t") << QByteArray();
     QTest::newRow("cut off") << header + wired.left(30) << QByteArray();
