@@ -52,7 +52,7 @@ private:
 
 Error systemError(Code code, const QString &path, int number = errno)
 {
-    return {code, path, QString::fromUtf8(std::strerror(number))};
+    return {code, path, QString::fromUtf8(std::strerror(number)), number};
 }
 
 // A path that the system would cut off at its null character names another file.
@@ -182,34 +182,6 @@ Result<std::shared_ptr<Descriptor>> openForReading(const QString &path, struct s
     return fd;
 }
 
-// How many bytes were written into the new file; -1 with `errno` where they
-// could not be.
-using Writer = std::function<Result<qint64>(int fd)>;
-
-Result<void> replaceFileWith(const QString &path, const Writer &write)
-{
-    if (const auto problem = problemOf(path))
-        return Error{Code::NotWritable, problem->where, problem->detail};
-    const QByteArray target = QFile::encodeName(path);
-    struct stat status;
-    if (::stat(target.constData(), &status) == 0 && !S_ISREG(status.st_mode))
-        return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
-
-    QByteArray temporary = QFile::encodeName(folderOf(path) + QStringLiteral("/.kelvo-XXXXXX"));
-    Descriptor fd(::mkostemp(temporary.data(), O_CLOEXEC)); // 0600, O_EXCL
-    if (!fd)
-        return systemError(Code::NotWritable, path);
-    const Result<qint64> size = write(fd.get());
-    if (!size || size.value() < 0 || !syncAndClose(fd, size.value())
-        || ::rename(temporary.constData(), target.constData()) != 0) {
-        const Error error = size ? systemError(Code::NotWritable, path) : size.error();
-        ::unlink(temporary.constData());
-        return error;
-    }
-    syncFolder(folderOf(path));
-    return {};
-}
-
 // Renames the damaged store at `path` to the first free NAME.damaged-N.
 Result<void> setAside(const QString &path, const Error &reason)
 {
@@ -295,20 +267,43 @@ Result<QByteArray> readFile(const QString &path, qint64 limit)
     return bytes;
 }
 
-Result<void> replaceFile(const QString &path, const QByteArray &bytes)
+Result<StagedFile> StagedFile::write(const QString &path, const Writer &writer)
 {
-    return replaceFileWith(path, [&bytes](int fd) -> Result<qint64> {
+    if (const auto problem = problemOf(path))
+        return Error{Code::NotWritable, problem->where, problem->detail};
+    struct stat status;
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0 && !S_ISREG(status.st_mode))
+        return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
+
+    StagedFile staged;
+    QByteArray temporary = QFile::encodeName(folderOf(path) + QStringLiteral("/.kelvo-XXXXXX"));
+    Descriptor fd(::mkostemp(temporary.data(), O_CLOEXEC)); // 0600, O_EXCL
+    if (!fd)
+        return systemError(Code::NotWritable, path);
+    staged.m_path = path;
+    staged.m_temporary = temporary;
+    const Result<qint64> size = writer(fd.get());
+    if (!size)
+        return size.error();
+    if (size.value() < 0 || !syncAndClose(fd, size.value()))
+        return systemError(Code::NotWritable, path);
+    return staged;
+}
+
+Result<StagedFile> StagedFile::withBytes(const QString &path, const QByteArray &bytes)
+{
+    return write(path, [&bytes](int fd) -> Result<qint64> {
         return writeAll(fd, bytes) ? bytes.size() : -1;
     });
 }
 
-Result<void> replaceFileByCopy(const QString &path, const QString &source)
+Result<StagedFile> StagedFile::withCopy(const QString &path, const QString &source)
 {
     struct stat status;
     const auto from = openForReading(source, status);
     if (!from)
         return from.error();
-    return replaceFileWith(path, [&](int fd) -> Result<qint64> {
+    return write(path, [&](int fd) -> Result<qint64> {
         QByteArray block;
         for (qint64 copied = 0;; copied += block.size()) {
             block.resize(256 * 1024);
@@ -326,6 +321,33 @@ Result<void> replaceFileByCopy(const QString &path, const QString &source)
                 return -1;
         }
     });
+}
+
+StagedFile::StagedFile(StagedFile &&other) noexcept
+    : m_path(std::move(other.m_path))
+    , m_temporary(std::exchange(other.m_temporary, {}))
+{
+}
+
+StagedFile::~StagedFile()
+{
+    if (!m_temporary.isEmpty())
+        ::unlink(m_temporary.constData());
+}
+
+Result<void> StagedFile::place()
+{
+    if (::rename(m_temporary.constData(), QFile::encodeName(m_path).constData()) != 0)
+        return systemError(Code::NotWritable, m_path);
+    m_temporary.clear();
+    syncFolder(folderOf(m_path));
+    return {};
+}
+
+Result<void> replaceFile(const QString &path, const QByteArray &bytes)
+{
+    auto staged = StagedFile::withBytes(path, bytes);
+    return staged ? staged.value().place() : staged.error();
 }
 
 Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
@@ -352,20 +374,6 @@ Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
         if (auto moved = setAside(path, *damage); !moved)
             return moved;
     }
-    return replaceFile(path, xml.value());
-}
-
-Result<void> writeDictionaryFile(const QString &path, const QVariantMap &dictionary)
-{
-    const auto xml = CFPropertyListCreateXMLData(dictionary);
-    if (!xml)
-        return Error{xml.error().code, path + QStringLiteral(": ") + xml.error().where,
-                     xml.error().detail};
-    if (auto made = makeFolder(folderOf(path)); !made)
-        return made;
-    const auto lock = lockFor(path);
-    if (!lock)
-        return lock.error();
     return replaceFile(path, xml.value());
 }
 

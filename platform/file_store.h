@@ -21,9 +21,32 @@ Result<QByteArray> readFile(const QString &path, qint64 limit);
 // After an error the old file is as it was and no temporary file is left.
 Result<void> replaceFile(const QString &path, const QByteArray &bytes);
 
-// The same with the bytes of the regular file `source`, of any size: they are
-// streamed. NotFound or NotReadable when it cannot be read.
-Result<void> replaceFileByCopy(const QString &path, const QString &source);
+// A file that is written, as replaceFile() writes it, and waits to take its
+// place: what belongs together is all on the disk before the first one changes.
+// One that goes without place() leaves nothing behind.
+class StagedFile
+{
+public:
+    static Result<StagedFile> withBytes(const QString &path, const QByteArray &bytes);
+    // The bytes of the regular file `source`, of any size: they are streamed.
+    // NotFound or NotReadable when it cannot be read.
+    static Result<StagedFile> withCopy(const QString &path, const QString &source);
+
+    StagedFile(StagedFile &&other) noexcept;
+    StagedFile &operator=(StagedFile &&other) = delete;
+    ~StagedFile();
+
+    Result<void> place(); // once
+
+private:
+    // How many bytes went into the new file; -1 with `errno` where they could not.
+    using Writer = std::function<Result<qint64>(int fd)>;
+    static Result<StagedFile> write(const QString &path, const Writer &writer);
+    StagedFile() = default;
+
+    QString m_path;
+    QByteArray m_temporary; // its encoded path; empty: there is none any more
+};
 
 enum class DamagedStore {
     SetAside, // a writer that creates: rename to NAME.damaged-1 (…-2), say so, begin empty
@@ -38,9 +61,6 @@ enum class DamagedStore {
 // read fails. Missing folders are created, 0700.
 Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
                                   const std::function<bool(QVariantMap &)> &change);
-
-// The same without reading: what stands there is replaced under the lock.
-Result<void> writeDictionaryFile(const QString &path, const QVariantMap &dictionary);
 
 // Removes the file under its lock; NotFound when there was none.
 Result<void> removeFile(const QString &path);

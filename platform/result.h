@@ -30,6 +30,7 @@ struct Error
     Code code;
     QString where;  // a path, "FILE:LINE", a key path or a printer name
     QString detail; // the value found or the system's message; may be empty
+    int number = 0; // the system's errno; 0: the system did not fail
 
     // "where: detail", for one line of a log.
     QString text() const

@@ -151,12 +151,22 @@ Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
     if (auto checked = checkReplaceable({in("document.pdf"), in("ticket.plist"), in("options")});
         !checked)
         return checked;
-    // The largest first: a disk that is full says so before anything changed.
-    if (auto written = replaceFileByCopy(in("document.pdf"), job.pdfPath); !written)
-        return written;
-    if (auto written = replaceFile(in("ticket.plist"), job.ticket); !written)
-        return written;
-    return replaceFile(in("options"), options);
+    // All three are on the disk before the first one changes: a folder never
+    // holds half a job.
+    auto pdf = StagedFile::withCopy(in("document.pdf"), job.pdfPath);
+    if (!pdf)
+        return pdf.error();
+    auto ticket = StagedFile::withBytes(in("ticket.plist"), job.ticket);
+    if (!ticket)
+        return ticket.error();
+    auto list = StagedFile::withBytes(in("options"), options);
+    if (!list)
+        return list.error();
+    for (StagedFile *file : {&pdf.value(), &ticket.value(), &list.value()}) {
+        if (auto placed = file->place(); !placed)
+            return placed;
+    }
+    return {};
 }
 
 namespace {

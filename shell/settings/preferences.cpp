@@ -15,43 +15,12 @@ namespace kelvo {
 
 namespace {
 
-// The system's number for why a write failed.
-int errorNumber(Error::Code code)
-{
-    switch (code) {
-    case Error::Code::NotFound:
-        return ENOENT;
-    case Error::Code::NotReadable:
-        return EACCES;
-    case Error::Code::NotWritable:
-        return EIO;
-    case Error::Code::TooLarge:
-        return EFBIG;
-    case Error::Code::Damaged:
-        return EBADMSG;
-    case Error::Code::WrongType:
-        return EINVAL;
-    case Error::Code::OutOfRange:
-        return ERANGE;
-    case Error::Code::Unsupported:
-        return ENOTSUP;
-    case Error::Code::Unreachable:
-        return EHOSTUNREACH;
-    case Error::Code::Refused:
-        return EPERM;
-    case Error::Code::TimedOut:
-        return ETIMEDOUT;
-    case Error::Code::Cancelled:
-        return ECANCELED;
-    }
-    return EIO;
-}
-
 bool reportWriting(const Result<void> &written)
 {
-    if (!written)
-        std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n",
-                     errorNumber(written.error().code));
+    if (!written) {
+        const int number = written.error().number;
+        std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n", number ? number : EINVAL);
+    }
     return bool(written);
 }
 
@@ -115,8 +84,10 @@ std::optional<Dictionary> CopyUserPreferences(const QString &name)
 
 bool WriteUserPreferences(const QString &name, const Dictionary &propertyList)
 {
-    const Result<QString> path = userPreferencePath(name);
-    return reportWriting(path ? writeDictionaryFile(path.value(), propertyList) : path.error());
+    return ChangeUserPreferences(name, [&propertyList](Dictionary &content) {
+        content = propertyList;
+        return true;
+    });
 }
 
 bool ChangeUserPreferences(const QString &name, const std::function<bool(Dictionary &)> &change)

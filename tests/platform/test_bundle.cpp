@@ -1,6 +1,7 @@
 #include "bundle.h"
 #include "file_store.h"
 #include "plugin_abi.h"
+#include "property_list.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -31,6 +32,11 @@ static Bundle *testBundle()
 {
     const auto bundle = Bundle::open(QStringLiteral(TEST_BUNDLE));
     return bundle ? bundle.value() : nullptr;
+}
+
+static Result<void> writeInfo(const QString &folder, const Dictionary &info)
+{
+    return replaceFile(folder + u"/Info.plist"_s, CFPropertyListCreateXMLData(info).value());
 }
 
 void TestBundle::opensOnceAndIsFoundByItsIdentifier()
@@ -115,15 +121,14 @@ void TestBundle::saysWhyItCannotBeOpened()
     QFETCH(Code, code);
     QVERIFY(testBundle());
     QTemporaryDir folder;
-    const QString info = folder.filePath(u"Info.plist"_s);
     if (identifier.isValid())
-        QVERIFY(writeDictionaryFile(info, {{u"CFBundleIdentifier"_s, identifier}}));
+        QVERIFY(writeInfo(folder.path(), {{u"CFBundleIdentifier"_s, identifier}}));
 
     const auto bundle = Bundle::open(folder.path());
 
     QVERIFY(!bundle);
     QCOMPARE(bundle.error().code, code);
-    QVERIFY2(bundle.error().where.startsWith(info), qPrintable(bundle.error().where));
+    QVERIFY2(bundle.error().where.startsWith(folder.path()), qPrintable(bundle.error().where));
 }
 
 void TestBundle::saysWhyItsModuleCannotBeLoaded_data()
@@ -139,8 +144,8 @@ void TestBundle::saysWhyItsModuleCannotBeLoaded()
 {
     QFETCH(QVariant, executable);
     QTemporaryDir folder;
-    QVERIFY(writeDictionaryFile(
-        folder.filePath(u"Info.plist"_s),
+    QVERIFY(writeInfo(
+        folder.path(),
         {{u"CFBundleIdentifier"_s, u"com.kelvo."_s + QLatin1String(QTest::currentDataTag())},
          {u"CFBundleExecutable"_s, executable}}));
     const auto bundle = Bundle::open(folder.path());

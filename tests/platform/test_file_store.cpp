@@ -140,7 +140,7 @@ void TestFileStore::writesPrivateFilesInPrivateFolders()
 // A limit on file sizes fails like a full disk: first a short write, then an error.
 void TestFileStore::keepsTheOldFileOnAFullDisk()
 {
-    QVERIFY(writeDictionaryFile(store(), oldContent));
+    QVERIFY(changeDictionaryFile(store(), DamagedStore::SetAside, setTo(oldContent)));
     QTemporaryDir elsewhere;
     const QString source = elsewhere.filePath(QStringLiteral("source"));
     put(source, QByteArray(700'000, 'x'));
@@ -152,12 +152,13 @@ void TestFileStore::keepsTheOldFileOnAFullDisk()
         small.rlim_cur = room;
         QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
         const auto replaced = replaceFile(store(), QByteArray(100'000, 'x'));
-        const auto copied = replaceFileByCopy(store(), source);
+        const auto copied = StagedFile::withCopy(store(), source);
         QVERIFY(::setrlimit(RLIMIT_FSIZE, &before) == 0);
-        for (const auto &result : {replaced, copied}) {
-            QVERIFY(!result);
-            QCOMPARE(result.error().code, Code::NotWritable);
-            QCOMPARE(result.error().where, store());
+        QVERIFY(!replaced && !copied);
+        for (const auto &error : {replaced.error(), copied.error()}) {
+            QCOMPARE(error.code, Code::NotWritable);
+            QCOMPARE(error.where, store());
+            QVERIFY(error.number == EFBIG);
         }
         QCOMPARE(contentOf(store()), oldContent);
         QCOMPARE(files(), QStringList{u"store.plist"_s});
@@ -169,24 +170,27 @@ void TestFileStore::copiesFiles()
     const QByteArray bytes = QByteArray(300'000, 'x') + "end"; // more than one block
     put(path("source"), bytes);
     put(store(), "old");
-    QVERIFY(replaceFileByCopy(store(), path("source")));
+    QVERIFY(StagedFile::withCopy(store(), path("source"))); // and let go
+    QCOMPARE(readFile(store(), limits::MiB).value(), "old");
+    QVERIFY(StagedFile::withCopy(store(), path("source")).value().place());
     QCOMPARE(readFile(store(), limits::MiB).value(), bytes);
     QVERIFY(QFile::setPermissions(path("source"), {}));
-    QCOMPARE(replaceFileByCopy(store(), path("source")).error().code, Code::NotReadable);
-    QCOMPARE(replaceFileByCopy(store(), path("nothing")).error().code, Code::NotFound);
+    QCOMPARE(StagedFile::withCopy(store(), path("source")).error().code, Code::NotReadable);
+    QCOMPARE(StagedFile::withCopy(store(), path("nothing")).error().code, Code::NotFound);
     QCOMPARE(readFile(store(), limits::MiB).value(), bytes);
 }
 
 void TestFileStore::keepsTheOldFileInAnUnwritableFolder()
 {
-    QVERIFY(writeDictionaryFile(store(), oldContent));
+    QVERIFY(changeDictionaryFile(store(), DamagedStore::SetAside, setTo(oldContent)));
     const auto lockIt = [this](mode_t mode) {
         return ::chmod(qPrintable(m_folder->path()), mode) == 0;
     };
     QVERIFY(lockIt(0500));
     const auto replaced = replaceFile(store(), "new");
     const auto changed = changeDictionaryFile(store(), DamagedStore::Keep, setTo(newContent));
-    const auto created = writeDictionaryFile(path("new/store.plist"), newContent);
+    const auto created =
+        changeDictionaryFile(path("new/store.plist"), DamagedStore::SetAside, setTo(newContent));
     const auto removed = removeFile(store());
     QVERIFY(lockIt(0700));
     for (const auto &result : {replaced, changed, created, removed}) {
@@ -241,7 +245,7 @@ void TestFileStore::losesNothingWhenProcessesWriteAtOnce()
 
 void TestFileStore::waitsForALockOnlyForAWhile()
 {
-    QVERIFY(writeDictionaryFile(store(), oldContent));
+    QVERIFY(changeDictionaryFile(store(), DamagedStore::SetAside, setTo(oldContent)));
     const int lock = ::open(qPrintable(path(".store.plist.lock")), O_RDWR);
     QVERIFY(lock >= 0 && ::flock(lock, LOCK_EX) == 0);
     QElapsedTimer timer;
@@ -353,7 +357,7 @@ void TestFileStore::keepsTheStoreWhenTheChangeCannotBeWritten()
 
 void TestFileStore::removesFiles()
 {
-    QVERIFY(writeDictionaryFile(store(), oldContent));
+    QVERIFY(changeDictionaryFile(store(), DamagedStore::SetAside, setTo(oldContent)));
     QVERIFY(removeFile(store()));
     QVERIFY(files().isEmpty());
     QCOMPARE(removeFile(store()).error().code, Code::NotFound);

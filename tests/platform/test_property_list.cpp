@@ -313,7 +313,7 @@ void TestPropertyList::agreesWithOtherPrograms()
                 list.value(u"texts"_s).toStringList().replaceInStrings(u"\r"_s, QString()));
     list.insert(u"reals"_s, Array{0.5, 1.0, 1e22});
     list.remove(u"<&>"_s);
-    QVERIFY(writeDictionaryFile(ours, list));
+    QVERIFY(replaceFile(ours, CFPropertyListCreateXMLData(list).value()));
     for (const QStringList &arguments :
          {QStringList{u"-i"_s, ours, u"-o"_s, binary, u"-f"_s, u"bin"_s},
           QStringList{u"-i"_s, binary, u"-o"_s, back, u"-f"_s, u"xml"_s}}) {

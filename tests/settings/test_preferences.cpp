@@ -84,22 +84,25 @@ void TestPreferences::writesWholeFiles()
     QVERIFY(WriteUserPreferences(name, {{"b", QVariantList{"x & y"}}}));
     QCOMPARE(CopyUserPreferences(name), std::optional(Dictionary{{"b", QVariantList{"x & y"}}}));
     QVERIFY(bytesOf(preferencePath(name)).startsWith("<?xml"));
+
+    putFile(preferencePath(name), "damaged by hand");
+    const StandardError says;
+    QVERIFY(WriteUserPreferences(name, {{"a", 3}}));
+    QCOMPARE(bytesOf(preferencePath(name) + ".damaged-1"), QByteArray("damaged by hand"));
 }
 
 void TestPreferences::saysWhyWritingFailedByNumber()
 {
     const StandardError captured;
-    QVERIFY(!WriteUserPreferences("a.plist", {{"a", QVariant::fromValue(QSize(1, 2))}}));
-    QCOMPARE(captured.text(), QByteArray("WriteUserPreferences() failed (22)\n"));
-
     putFile(userPreferencesFolder(), "in the way");
     QVERIFY(!WriteUserPreferences("a.plist", {}));
     QVERIFY(!saveHistory(key, "text", 5));
-    const QList<QByteArray> lines = captured.text().split('\n');
-    QCOMPARE(lines.size(), 4); // one each, and what stands behind the last
-    QCOMPARE(lines[1], QByteArray("WriteUserPreferences() failed (5)"));
-    QCOMPARE(lines[2], QByteArray("WriteUserPreferences() failed (5)"));
     QFile::remove(userPreferencesFolder());
+    QVERIFY(!WriteUserPreferences("a.plist", {{"a", QVariant::fromValue(QSize(1, 2))}}));
+    QByteArray expected; // one line each
+    for (const int number : {ENOTDIR, ENOTDIR, EINVAL})
+        expected += "WriteUserPreferences() failed (" + QByteArray::number(number) + ")\n";
+    QCOMPARE(captured.text(), expected);
 }
 
 void TestPreferences::makesTheMakersFolder()

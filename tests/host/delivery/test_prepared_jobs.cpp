@@ -287,6 +287,17 @@ void TestPreparedJobs::keepWhatStandsThereOnAFullDisk()
         QCOMPARE(bytesOf(folder + "/ticket.plist"), job.value().ticket);
         QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 3);
     }
+
+    // Room for the document but not for what belongs to it.
+    PreparedJob unbalanced = other.value();
+    const auto room = rlim_t(QFileInfo(unbalanced.pdfPath).size()) + 1;
+    unbalanced.ticket = QByteArray(qsizetype(room) * 2, 'x');
+    QVERIFY(limitFileSize(room));
+    const auto delivered = deliverToFolder(unbalanced, folder);
+    QVERIFY(limitFileSize(RLIM_INFINITY));
+    QVERIFY(!delivered);
+    QCOMPARE(bytesOf(folder + "/document.pdf"), bytesOf(job.value().pdfPath));
+    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 3);
 }
 
 void TestPreparedJobs::sayWhenTheDiskIsFullBefore()

@@ -1,6 +1,7 @@
 #include "file_store.h"
 #include "folders.h"
 #include "presets.h"
+#include "property_list.h"
 
 #include <QDir>
 #include <QFile>
@@ -218,7 +219,8 @@ void TestPresets::areNeverWrittenOverOtherFiles()
     // Such as a preset that a later version of the program wrote.
     const QString path = ownFolder() + "/Draft.plist";
     const Dictionary later{{"FormatVersion", 2}, {"Everything", "new"}};
-    QVERIFY(writeDictionaryFile(path, later));
+    QVERIFY(QDir().mkpath(ownFolder()));
+    QVERIFY(replaceFile(path, CFPropertyListCreateXMLData(later).value()));
     const QByteArray before = bytesOf(path);
     QCOMPARE(m_store.read("Draft").error().code, Code::Unsupported);
     QCOMPARE(m_store.save("Draft", ticketWith("None"), keys, true).error().code, Code::Refused);
