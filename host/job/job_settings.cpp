@@ -1,6 +1,7 @@
 #include "job_settings.h"
 
 #include "nearest_name.h"
+#include "ppd_words.h"
 #include "values.h"
 
 #include <QRegularExpression>
@@ -225,6 +226,10 @@ Result<void> applyPpdChoice(const Request &request, const PpdOption &option)
         return request.unknownValue(choiceNames(option));
     if (isPaper)
         return request.change([&](JobSettings &settings) { settings.paperName = *choice; });
+    if (!offers(*request.ppd, option.keyword, *choice))
+        return request.error(Code::Refused,
+                             QStringLiteral("this is equipment of the printer, which its "
+                                            "administrator enters (lpadmin -p PRINTER -o …)"));
     request.session.printSettings().ppdChoices.insert(option.keyword, *choice);
     return {};
 }

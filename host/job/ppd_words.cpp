@@ -43,9 +43,22 @@ bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice)
     const PpdOption *option = ppd.findOption(keyword);
     if (!option)
         return false;
+    if (isEquipment(*option, ppd))
+        return option->defaultChoice == choice;
     if (option->findChoice(choice))
         return true;
     return option->keyword == QLatin1String("PageSize") && paperSize(choice, ppd);
+}
+
+bool isEquipment(const PpdOption &option, const PpdFile &ppd)
+{
+    const auto &groups = ppd.groups();
+    return std::any_of(groups.cbegin(), groups.cend(), [&](const PpdGroup &group) {
+        return isInstallable(group)
+            && std::any_of(
+                   group.options.cbegin(), group.options.cend(),
+                   [&](const PpdOption &fitted) { return fitted.keyword == option.keyword; });
+    });
 }
 
 bool isInstallable(const PpdGroup &group)

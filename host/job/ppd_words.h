@@ -19,9 +19,11 @@ QString settingWords(const PpdOption &option, const QString &choice);
 QString missingWords(const QString &keyword, const QString &choice, const PpdFile *ppd);
 
 // The option has the choice, or it is a custom page size within the PPD's limits.
+// Of equipment a job can only ask for what the printer has.
 bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice);
 
 // Equipment that the queue's administrator describes; jobs do not change it.
 bool isInstallable(const PpdGroup &group);
+bool isEquipment(const PpdOption &option, const PpdFile &ppd);
 
 } // namespace kelvo

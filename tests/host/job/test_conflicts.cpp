@@ -25,6 +25,20 @@ static std::shared_ptr<PpdFile> device(const QString &name)
         .value();
 }
 
+// The full device without its folding unit, and with `rule` about it.
+static std::shared_ptr<PpdFile>
+unfolded(const QByteArray &rule = "*cupsUIConstraints: \"*KVFolder None *KVFold C\"\n")
+{
+    QFile file(device(QStringLiteral("full"))->path());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray bytes = file.readAll();
+    bytes.replace("*DefaultKVFolder: Full", "*DefaultKVFolder: None");
+    bytes.replace("*cupsUIConstraints: \"*KVFolder None *KVFold C\"\n", rule);
+    const auto ppd = PpdFile::fromBytes(bytes, QStringLiteral("unfolded.ppd"));
+    return ppd ? ppd.value() : nullptr;
+}
+
 void TestConflicts::areNamedAndMended_data()
 {
     QTest::addColumn<QString>("model");
@@ -38,6 +52,9 @@ void TestConflicts::areNamedAndMended_data()
     };
 
     row("nothing chosen", "full", {}, "", {}, {});
+    row("equipment that a job asks for", "unfolded", {{"KVFolder", "Full"}, {"KVFold", "C"}},
+        "KVFold", {"Folding: C Fold cannot be used on this printer (Folding Unit: Not Installed)."},
+        {"Set Folding to No Fold"});
     row("what the device lacks", "full", {{"StapleLocation", "Golden"}, {"Glitter", "On"}}, "", {},
         {});
     const QString clash =
@@ -61,7 +78,7 @@ void TestConflicts::areNamedAndMended_data()
          "be used together.",
          clash},
         {"Set Two-Sided Printing to 1-Sided Print", "Set Stapling to No Staple"});
-    row("equipment that is not there", "full", {{"KVFolder", "None"}, {"KVFold", "C"}}, "KVFold",
+    row("equipment that is not there", "unfolded", {{"KVFold", "C"}}, "KVFold",
         {"Folding: C Fold cannot be used on this printer (Folding Unit: Not Installed)."},
         {"Set Folding to No Fold"});
 }
@@ -74,7 +91,8 @@ void TestConflicts::areNamedAndMended()
     QFETCH(QStringList, sentences);
     QFETCH(QStringList, fixWords);
 
-    const auto ppd = device(model);
+    const auto ppd = model == "unfolded" ? unfolded() : device(model);
+    QVERIFY(ppd);
     PrintSession session;
     session.printSettings().ppdChoices = choices;
     const ConflictReport report = findConflicts(session, *ppd, keep);
@@ -115,22 +133,15 @@ void TestConflicts::changeOnlyWhatTheFixSays()
 void TestConflicts::neverChangeTheEquipment()
 {
     // A PPD whose own way out is to fit a folding unit.
-    QFile file(device(QStringLiteral("full"))->path());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QByteArray bytes = file.readAll();
-    const QByteArray rule = "*cupsUIConstraints: \"*KVFolder None *KVFold C\"\n";
-    QVERIFY(bytes.contains(rule));
-    bytes.replace(rule,
-                  "*cupsUIConstraints fold: \"*KVFolder None *KVFold C\"\n"
-                  "*cupsUIResolver fold: \"*KVFolder Full\"\n");
-    const auto ppd = PpdFile::fromBytes(bytes, QStringLiteral("resolver.ppd"));
-    QVERIFY2(ppd, qPrintable(ppd.reason()));
-    const PpdSelection choices{{"KVFolder", "None"}, {"KVFold", "C"}};
-    QVERIFY(ppd.value()->resolve(choices)->contains("KVFolder")); // else this proves nothing
+    const auto ppd = unfolded("*cupsUIConstraints fold: \"*KVFolder None *KVFold C\"\n"
+                              "*cupsUIResolver fold: \"*KVFolder Full\"\n");
+    QVERIFY(ppd);
+    const PpdSelection choices{{"KVFold", "C"}};
+    QVERIFY(ppd->resolve(choices)->contains("KVFolder")); // else this proves nothing
 
     PrintSession session;
     session.printSettings().ppdChoices = choices;
-    const ConflictReport report = findConflicts(session, *ppd.value(), "KVFold");
+    const ConflictReport report = findConflicts(session, *ppd, "KVFold");
     QCOMPARE(report.fix, (PpdSelection{{"KVFold", "None"}}));
 }
 

@@ -208,6 +208,7 @@ void TestJobSettings::refuseOptions_data()
     row("unknown host option", "orientation", "4", Code::NotFound, "orientation-requested");
     row("unknown choice", "StapleLocation", "DualPortait", Code::NotFound,
         "did you mean DualPortrait?");
+    row("equipment", "KVFinisher", "None", Code::Refused, "its administrator");
     row("unknown paper", "media", "Leagl", Code::NotFound, "did you mean Legal?");
     row("unknown part of media", "media", "A4,Tray9", Code::NotFound, "Tray9");
     row("custom paper too long", "media", "Custom.300x1400", Code::NotFound, "Custom.300x1400");
