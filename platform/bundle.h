@@ -17,14 +17,15 @@
 //   NAME.pde/Resources/             dialogs/ pictures/ help/ strings/ and property lists
 //
 // Info.plist keys:
-//   CFBundleIdentifier          string
-//   CFBundleExecutable          string   file name of the module
-//   CFPlugInTypes               dictionary: plug-in type UUID → array of factory UUIDs
-//   CFPlugInFactories           dictionary: factory UUID → function name
-//   KelvoFurtherPanelGetters    array of strings: panels beside the shell, in order (may be
-//   missing) KelvoSecretTicketKeys       array of key paths
-//   ("com.kelvo.print.JobType/SecurePrintPassword") KelvoFaxTicketKeys          array of keys whose
-//   presence makes a job a fax
+//   CFBundleIdentifier         string
+//   CFBundleExecutable         string: file name of the module
+//   CFPlugInTypes              dictionary: plug-in type UUID → array of factory UUIDs
+//   CFPlugInFactories          dictionary: factory UUID → function name
+// and where they are needed:
+//   KelvoDeviceMaker           string: the manufacturer of its devices, as PPDs name it
+//   KelvoFaxTicketKeys         array of keys whose presence makes a job a fax
+//   KelvoFurtherPanelGetters   array of strings: panels beside the shell, in order
+//   KelvoSecretTicketKeys      array of key paths: "com.kelvo.print.JobType/Password"
 namespace kelvo {
 
 class Bundle

@@ -103,14 +103,16 @@ void fillPopups(AdvancedContext &advanced, const QWidget *content)
         controls.*row.popup = popup;
         if (!popup)
             continue;
-        const int offered =
-            PPDPopulatePopupWithChoices(popup, advanced.ppd, QString::fromLatin1(row.option), true);
-        if (offered > 0)
+        const QString option = QString::fromLatin1(row.option);
+        if (PPDPopulatePopupWithChoices(popup, advanced.ppd, option, true) > 0)
             continue;
         // Left in its place, so that users of several devices find it there.
         setEnabledWithLabel(popup, false);
+        const bool isMissing = !advanced.ppd || !advanced.ppd->findOption(option);
         if (auto *hint = findControl<QLabel>(content, {kPanelSignature, row.hintNumber}))
-            hint->setText(localizedText(advanced.bundle, QStringLiteral("Not on This Device")));
+            hint->setText(localizedText(advanced.bundle,
+                                        isMissing ? QStringLiteral("Not on This Device")
+                                                  : QStringLiteral("All Choices in Conflict")));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "nearest_name.h"
 #include "ticket_attachment.h"
 #include "ticket_layers.h"
+#include "values.h"
 
 #include <QFileInfo>
 
@@ -14,6 +15,7 @@ namespace {
 
 using Code = Error::Code;
 
+const QString deviceMakerKey = QStringLiteral("KelvoDeviceMaker");
 const QString hostClient = QStringLiteral("com.kelvo.printingmanager");
 
 } // namespace
@@ -380,6 +382,17 @@ Extension *DialogSession::panels()
     return m_extension && m_extension->isBegun() ? m_extension.get() : nullptr;
 }
 
+QString DialogSession::whyPanelsDidNotBegin(const Error &error) const
+{
+    const QString maker = m_ppd->manufacturer();
+    if (maker.isEmpty())
+        return tr("The panels are not made for this device (%1).").arg(m_ppd->modelName());
+    if (maker != string(m_options.bundle->info(), deviceMakerKey))
+        return tr("The panels are not made for this device (%1, made by %2).")
+            .arg(m_ppd->modelName(), maker);
+    return tr("The panels could not start (%1). Installing them again may help.").arg(error.text());
+}
+
 void DialogSession::beginPanels()
 {
     const QString stays = tr("Copies, pages, paper and orientation work as usual.");
@@ -407,14 +420,7 @@ void DialogSession::beginPanels()
         return;
     }
     if (const auto begun = m_extension->begin(*m_session, m_panesParent); !begun) {
-        const QString maker = m_ppd->manufacturer();
-        m_message = {
-            none,
-            (maker.isEmpty()
-                 ? tr("The panels are not made for this device (%1).").arg(m_ppd->modelName())
-                 : tr("The panels are not made for this device (%1, made by %2).")
-                       .arg(m_ppd->modelName(), maker))
-                + u'\n' + stays};
+        m_message = {none, whyPanelsDidNotBegin(begun.error()) + u'\n' + stays};
         return;
     }
     m_extension->show(0);

@@ -133,6 +133,7 @@ private:
     void layWithUnknown(const TicketFile &file);
     void settle();
     void beginPanels();
+    QString whyPanelsDidNotBegin(const Error &error) const;
     void endPanels();
     void setStage(Stage stage, Message message);
     const Printer *findPrinter(const QString &name) const;

@@ -28,7 +28,8 @@ enum CFStringEncoding : std::uint32_t {
     kCFStringEncodingShiftJIS = 0x0A01,
     kCFStringEncodingUTF8 = 0x08000100,
 };
-// What the PPD declares. Its texts come out of libcups as UTF-8 all the same.
+// Of the texts as libcups gives them: UTF-8 wherever it could convert them from
+// what the file declares.
 CFStringEncoding PPDGetEncoding(const PpdFile *ppd);
 // The encoding with that name in a PPD; Mac Roman for a name that is none.
 CFStringEncoding PPDEncodingNamed(const QString &languageEncoding);

@@ -119,7 +119,9 @@ private slots:
     void refusesASecretThatWouldLieOpen();
     void printsOtherMakersDevicesWithoutPanels_data();
     void printsOtherMakersDevicesWithoutPanels();
+    void saysThatItsPanelsAreDamaged();
     void leavesOutAChoiceThatNoTableKnows();
+    void saysWhyNothingCanBeChosen();
     void refusesBrokenInputs_data();
     void refusesBrokenInputs();
     void waitsForADeadServerOnlySoLong_data();
@@ -381,6 +383,20 @@ void TestStories::printsOtherMakersDevicesWithoutPanels()
              readsTickets);
 }
 
+void TestStories::saysThatItsPanelsAreDamaged()
+{
+    Desk desk;
+    const QString bundle = desk.path("KelvoPDE.pde");
+    QCOMPARE(QProcess::execute("cp", {"-r", KELVO_BUILD_DIR "/lib/KelvoPDE.pde", bundle}), 0);
+    QVERIFY(QDir(bundle + "/Resources/dialogs").removeRecursively());
+    desk.set("KELVO_BUNDLE", bundle);
+    write(desk.path("show.kps"), "show @waitingText\n");
+    const Run run = desk.run({"--ppd", fullPpd, "--no-window", "--script", "show.kps"});
+    QENDED(run, 0);
+    QVERIFY2(run.out.contains("could not start") && !run.out.contains("not made for"),
+             qPrintable(run.out));
+}
+
 void TestStories::leavesOutAChoiceThatNoTableKnows()
 {
     const Desk desk;
@@ -394,6 +410,19 @@ void TestStories::leavesOutAChoiceThatNoTableKnows()
     QCOMPARE(run.messages().count("Skipped unrecognized choice in PPD: Spiral"), 1);
     write(desk.path("s.kps"), "panel Advanced\nchoose @requestOffset key Spiral\n");
     QENDED(desk.run(device), 3);
+}
+
+void TestStories::saysWhyNothingCanBeChosen()
+{
+    const Desk desk;
+    QByteArray ppd = contents(fullPpd);
+    ppd.replace("*DefaultKVFinisher: BClass", "*DefaultKVFinisher: None");
+    ppd.replace("*DefaultStapleLocation: None", "*DefaultStapleLocation: SinglePortrait");
+    write(desk.path("clash.ppd"), ppd);
+    write(desk.path("s.kps"), "panel Advanced\nexpect @requestOffset items 0\nshow KPDE 6161\n");
+    const Run run = desk.run({"--ppd", "clash.ppd", "--no-window", "--script", "s.kps"});
+    QENDED(run, 0);
+    QVERIFY2(run.out.contains("conflict"), qPrintable(run.out));
 }
 
 void TestStories::refusesBrokenInputs_data()

@@ -76,6 +76,10 @@
         <translation>This device does not offer it.</translation>
     </message>
     <message>
+        <source>All Choices in Conflict</source>
+        <translation>The device’s own settings conflict: nothing can be chosen.</translation>
+    </message>
+    <message>
         <source>About...</source>
         <translation>Ab&amp;out…</translation>
     </message>
