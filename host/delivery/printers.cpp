@@ -83,8 +83,15 @@ Result<QList<Printer>> readPrinters(Patience &patience)
             printers << printerFrom(destinations[i]);
     }
     cupsFreeDests(count, destinations);
-    std::stable_partition(printers.begin(), printers.end(),
-                          [](const Printer &printer) { return printer.isDefault; });
+    // The user's own options for a queue hide from libcups' list that the
+    // server has it as its default.
+    const auto isDefault = [](const Printer &printer) { return printer.isDefault; };
+    if (!printers.isEmpty() && std::none_of(printers.cbegin(), printers.cend(), isDefault)) {
+        const QString name = QString::fromUtf8(cupsGetDefault2(http.value().get()));
+        for (Printer &printer : printers)
+            printer.isDefault = printer.name == name;
+    }
+    std::stable_partition(printers.begin(), printers.end(), isDefault);
     return printers;
 }
 

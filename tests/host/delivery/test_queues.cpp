@@ -134,7 +134,8 @@ void TestQueues::printersAreListed()
     // An instance and settings of the user's own.
     QVERIFY(qputenv("HOME", m_folder.path().toUtf8()));
     for (const QStringList &arguments :
-         {QStringList{"-p", "Hall-3", "-o", "sides=two-sided-long-edge"},
+         {QStringList{"-p", "Office", "-o", "sides=one-sided"}, // the server's default
+          QStringList{"-p", "Hall-3", "-o", "sides=two-sided-long-edge"},
           QStringList{"-p", "Hall-3/draft", "-o", "StapleLocation=DualPortrait"}}) {
         QProcess lpoptions;
         lpoptions.start("lpoptions", arguments);
