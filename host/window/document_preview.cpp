@@ -21,7 +21,8 @@ namespace {
 
 constexpr int rim = 10; // logical pixels around the sheet: its shadow and the focus ring
 constexpr int shadowSteps = 6;
-constexpr int wheelNotch = 120; // as Qt counts a wheel's turn
+constexpr int wheelNotch = 120;     // as Qt counts a wheel's turn
+constexpr double mostPixels = 4096; // of a page's longer side
 
 // The sheet and what lies on it.
 class SheetView : public QWidget
@@ -248,15 +249,17 @@ struct DocumentPreview::Private
         const bool hasPage = message.isEmpty() && count() > 0;
         previous->setEnabled(hasPage && index > 0);
         next->setEnabled(hasPage && index + 1 < count());
-        caption->setText(hasPage ? sideCaption(index, layout.twoSided, page(), document.pageCount())
-                                 : QString());
-        sheet->setAccessibleDescription(hasPage ? caption->text() : message);
         sheet->message = message;
         sheet->isEmpty = count() == 0;
         if (count() > 0) {
             sheet->placement =
                 placePage(document.pageSize(page()), layout.paper, layout.orientation);
         }
+        QString text;
+        if (hasPage)
+            text = sideCaption(index, layout.twoSided, page(), document.pageCount());
+        caption->setText(hasPage && sheet->placement.isCut() ? cutCaption(text) : text);
+        sheet->setAccessibleDescription(hasPage ? caption->text() : message);
         sheet->update();
         request();
     }
@@ -268,6 +271,9 @@ struct DocumentPreview::Private
         const PagePlacement &placement = sheet->placement;
         const double scale = sheet->scaleFor(placement.sheet) * sheet->devicePixelRatioF();
         QSizeF pixels = placement.page.size() * scale;
+        // Of a page that is far larger than the paper, less is enough.
+        if (const double longest = std::max(pixels.width(), pixels.height()); longest > mostPixels)
+            pixels *= mostPixels / longest;
         if (placement.rotation % 180 != 0)
             pixels.transpose();
         const QSize whole = pixels.toSize();

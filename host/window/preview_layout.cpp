@@ -2,8 +2,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace kelvo {
 
 namespace {
@@ -20,6 +18,12 @@ QString tr(const char *text)
 
 } // namespace
 
+bool PagePlacement::isCut() const
+{
+    constexpr double rounding = 1.5; // points
+    return page.width() > sheet.width() + rounding || page.height() > sheet.height() + rounding;
+}
+
 PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation orientation)
 {
     const bool isLandscape =
@@ -34,10 +38,7 @@ PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation ori
         placement.sheet = isLandscape ? paper.transposed() : paper;
 
     const bool isTurned = isWide(page) != isWide(placement.sheet) && page.width() != page.height();
-    const QSizeF turned = isTurned ? page.transposed() : page;
-    const double scale = std::min({1.0, placement.sheet.width() / turned.width(),
-                                   placement.sheet.height() / turned.height()});
-    placement.page.setSize(turned * scale);
+    placement.page.setSize(isTurned ? page.transposed() : page);
     placement.page.moveCenter(QPointF(placement.sheet.width() / 2, placement.sheet.height() / 2));
     placement.rotation = (isTurned ? 270 : 0) + (isReverse ? 180 : 0);
     placement.rotation %= 360;
@@ -56,6 +57,11 @@ QString sideCaption(int index, bool twoSided, int page, int count)
     const QString text = index % 2 == 0 ? tr("Sheet %1, front · page %2 of %3")
                                         : tr("Sheet %1, back · page %2 of %3");
     return text.arg(index / 2 + 1).arg(page).arg(count);
+}
+
+QString cutCaption(const QString &caption)
+{
+    return tr("%1 · larger than the paper").arg(caption);
 }
 
 } // namespace kelvo

@@ -16,9 +16,10 @@ namespace kelvo {
 // the sheet's top left.
 struct PagePlacement
 {
-    QSizeF sheet;     // turned for landscape
-    QRectF page;      // centred on the sheet; made smaller to fit, never larger
-    int rotation = 0; // of the page, clockwise: 0, 90, 180 or 270
+    QSizeF sheet;       // turned for landscape
+    QRectF page;        // centred on the sheet, in its own size, which may be larger
+    int rotation = 0;   // of the page, clockwise: 0, 90, 180 or 270
+    bool isCut() const; // by more than what sizes are rounded by
     friend bool operator==(const PagePlacement &, const PagePlacement &) = default;
 };
 
@@ -33,5 +34,7 @@ int sheetsFor(int pages, bool twoSided);
 // "Sheet 2, front · page 3 of 12" for page `index` (from 0) of what is printed,
 // which is page `page` of the document's `count`. One-sided sheets have no front.
 QString sideCaption(int index, bool twoSided, int page, int count);
+// The same of a page that is cut at the paper's edges.
+QString cutCaption(const QString &caption);
 
 } // namespace kelvo

@@ -73,8 +73,8 @@ void TestDocumentPreview::placesPages_data()
         << wide << QSizeF() << Portrait << PagePlacement{wide, {{0, 0}, wide}, 0};
     QTest::newRow("smaller, centred")
         << QSizeF(195, 442) << a4 << Portrait << PagePlacement{a4, {200, 200, 195, 442}, 0};
-    QTest::newRow("larger, made to fit")
-        << QSizeF(1190, 1684) << a4 << Portrait << PagePlacement{a4, {{0, 0}, a4}, 0};
+    QTest::newRow("larger, cut") << QSizeF(795, 1042) << a4 << Portrait
+                                 << PagePlacement{a4, {-100, -100, 795, 1042}, 0};
     QTest::newRow("wide page on tall paper")
         << wide << a4 << Portrait << PagePlacement{a4, {{0, 0}, a4}, 270};
     QTest::newRow("wide page, landscape")
@@ -97,6 +97,7 @@ void TestDocumentPreview::placesPages()
     QFETCH(PagePlacement, placement);
 
     QCOMPARE(placePage(page, paper, orientation), placement);
+    QCOMPARE(placement.isCut(), QByteArray(QTest::currentDataTag()) == "larger, cut");
 }
 
 void TestDocumentPreview::countsSheets_data()
