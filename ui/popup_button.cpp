@@ -151,6 +151,7 @@ QSize PopupButton::sizeHint() const
 
 void PopupButton::showPopup()
 {
+    m_isChosenFromList = true;
     // The list shows whole texts where the screen has room for them.
     const int frame = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth)
         + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * fontMetrics().averageCharWidth();
@@ -160,6 +161,18 @@ void PopupButton::showPopup()
     view()->viewport()->installEventFilter(this);
     view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width() / 2));
     QComboBox::showPopup();
+}
+
+void PopupButton::keyPressEvent(QKeyEvent *event)
+{
+    m_isChosenFromList = false;
+    QComboBox::keyPressEvent(event);
+}
+
+void PopupButton::wheelEvent(QWheelEvent *event)
+{
+    m_isChosenFromList = false;
+    QComboBox::wheelEvent(event);
 }
 
 bool PopupButton::event(QEvent *event)

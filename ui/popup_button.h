@@ -35,6 +35,10 @@ public:
     int maximum() const { return m_maximum; }
     void setMaximum(int maximum) { m_maximum = maximum; }
 
+    // The last choice was made in the open list; false after an arrow key or the
+    // wheel on the closed button, where the next one may follow.
+    bool isChosenFromList() const { return m_isChosenFromList; }
+
     // As if the user had picked item `value`; false when it cannot be picked.
     bool choose(int value);
 
@@ -43,6 +47,8 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
@@ -53,6 +59,7 @@ private:
 
     Menu m_menu;
     int m_maximum = 0;
+    bool m_isChosenFromList = false;
     mutable int m_widest = -1; // text of the menu in pixels, -1: not measured yet
 };
 

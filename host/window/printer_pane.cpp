@@ -372,7 +372,7 @@ OSStatus PrinterPane::handle(const Event &event)
     }
     if (source == m_pagesChoice && isHit) {
         showPageField();
-        if (m_pages->isEnabled())
+        if (m_pages->isEnabled() && m_pagesChoice->isChosenFromList())
             m_pages->setFocus();
         emit settingsEdited();
         return noErr;
