@@ -79,6 +79,17 @@ public:
     {
         setOpenExternalLinks(false);
         setAccessibleName(words("Help page"));
+        colourLinks();
+    }
+
+    // Dark themes often leave links the dark blue of white pages.
+    void colourLinks()
+    {
+        QColor link = palette().color(QPalette::Link);
+        constexpr int light = 190, middle = 128; // of 255
+        if (palette().color(QPalette::Base).lightness() < middle && link.lightness() < light)
+            link.setHsl(link.hslHue(), link.hslSaturation(), light);
+        document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(link.name()));
     }
 
     QVariant loadResource(int type, const QUrl &name) override
