@@ -73,8 +73,8 @@ Result<Connection> connectToServer(Patience &patience)
             ? QStringLiteral("nothing takes connections there")
             : QString::fromUtf8(cupsLastErrorString()).simplified();
         return Error{Code::Unreachable, serverName(),
-                     QStringLiteral("no print server can be reached: %1; %2")
-                         .arg(reason, howToFindTheServer())};
+                     QStringLiteral("no print server can be reached at %1: %2; %3")
+                         .arg(serverName(), reason, howToFindTheServer())};
     }
     httpSetTimeout(http.get(), wakeUp, goOn, &patience);
     patience.progress();

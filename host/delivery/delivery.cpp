@@ -115,10 +115,10 @@ Result<void> provideFolder(const QString &folder)
         return {};
     if (reason == EEXIST)
         return Error{Code::NotWritable, folder, QStringLiteral("this is not a folder")};
-    if (reason == ENOENT)
+    const QString parent = QFileInfo(QDir::cleanPath(folder)).path();
+    if (reason == ENOENT && !QFileInfo::exists(parent))
         return Error{Code::NotWritable, folder,
-                     QStringLiteral("the folder %1 does not exist")
-                         .arg(QFileInfo(QDir::cleanPath(folder)).path())};
+                     QStringLiteral("the folder %1 does not exist").arg(parent)};
     return Error{Code::NotWritable, folder,
                  QStringLiteral("the folder cannot be made: %1")
                      .arg(QString::fromUtf8(std::strerror(reason)))};

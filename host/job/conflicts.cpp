@@ -52,9 +52,13 @@ QString sentenceFor(const PpdConflict &conflict, const PpdSelection &selection, 
     QStringList settings, fitted;
     for (const QString &keyword : conflict.options) {
         const PpdOption *option = ppd.findOption(keyword);
-        if (option)
-            (equipment.contains(keyword) ? fitted : settings)
-                << settingWords(*option, choiceOf(*option, selection));
+        if (!option)
+            continue;
+        const QString words = settingWords(*option, choiceOf(*option, selection));
+        if (equipment.contains(keyword))
+            fitted << words;
+        else
+            settings << u'“' + words + u'”';
     }
     if (fitted.isEmpty())
         return listed(settings) + QStringLiteral(" cannot be used together.");

@@ -190,6 +190,15 @@ QStringList choiceNames(const PpdOption &option)
 }
 
 // One -o: what it says, and what it changes.
+// What follows a value that is not among `known`.
+QString nearestOrAll(const QString &value, const QStringList &known)
+{
+    const QString nearest = didYouMean(value, known);
+    return !nearest.isEmpty() || known.isEmpty()
+        ? nearest
+        : QStringLiteral("; there are ") + shortList(known);
+}
+
 struct Request
 {
     QString name, value;
@@ -202,10 +211,8 @@ struct Request
     }
     Error unknownValue(const QStringList &known) const
     {
-        QString there = didYouMean(value, known);
-        if (there.isEmpty() && !known.isEmpty())
-            there = QStringLiteral("; there are ") + shortList(known);
-        return error(Code::NotFound, QStringLiteral("there is no such value") + there);
+        return error(Code::NotFound,
+                     QStringLiteral("there is no such value") + nearestOrAll(value, known));
     }
     Result<void> change(const std::function<void(JobSettings &)> &edit) const
     {
@@ -266,8 +273,8 @@ Result<void> applyMedia(const Request &request)
         }
         if (!found)
             return request.error(Code::NotFound,
-                                 QStringLiteral("this printer has no paper %1%2")
-                                     .arg(part, didYouMean(part, known)));
+                                 QStringLiteral("this printer has no paper %1").arg(part)
+                                     + nearestOrAll(part, known));
     }
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
         request.session.printSettings().ppdChoices.insert(choice.key(), choice.value());
@@ -442,9 +449,9 @@ Result<void> applyOption(const QString &name, const QString &value, const PpdFil
                 known << offered.keyword;
         }
     }
-    return request.error(
-        Code::NotFound,
-        QStringLiteral("this printer has no such option%1").arg(didYouMean(name, known)));
+    return request.error(Code::NotFound,
+                         QStringLiteral("neither this printer nor kelvo-print has such an option%1")
+                             .arg(didYouMean(name, known)));
 }
 
 } // namespace kelvo

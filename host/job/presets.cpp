@@ -43,8 +43,8 @@ std::vector<Preset> presetsIn(const QString &folder, bool isSite)
     if (folder.isEmpty())
         return presets;
     QSet<QString> names;
-    const auto files =
-        QDir(folder).entryInfoList({u'*' + suffix}, QDir::Files | QDir::Readable, QDir::Name);
+    // Those that cannot be read are listed too: choosing one says why.
+    const auto files = QDir(folder).entryInfoList({u'*' + suffix}, QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
         QString name = nameIn(file.filePath());
         if (names.contains(name))

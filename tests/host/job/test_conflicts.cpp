@@ -53,33 +53,33 @@ void TestConflicts::areNamedAndMended_data()
 
     row("nothing chosen", "full", {}, "", {}, {});
     row("equipment that a job asks for", "unfolded", {{"KVFolder", "Full"}, {"KVFold", "C"}},
-        "KVFold", {"Folding: C Fold cannot be used on this printer (Folding Unit: Not Installed)."},
+        "KVFold",
+        {"“Folding: C Fold” cannot be used on this printer (Folding Unit: Not Installed)."},
         {"Set Folding to No Fold"});
     row("what the device lacks", "full", {{"StapleLocation", "Golden"}, {"Glitter", "On"}}, "", {},
         {});
     const QString clash =
-        "Paper Type: Transparency and Stapling: 2 Staples, Portrait cannot be used together.";
+        "“Paper Type: Transparency” and “Stapling: 2 Staples, Portrait” cannot be used together.";
     const PpdSelection stapled{{"StapleLocation", "DualPortrait"}, {"MediaType", "Transparency"}};
     row("the paper is kept", "full", stapled, "MediaType", {clash}, {"Set Stapling to No Staple"});
     row("the staple is kept", "full", stapled, "StapleLocation", {clash},
         {"Set Paper Type to Plain"});
     row("three of them", "full",
         {{"KVFeedEdge", "LongEdge"}, {"InputSlot", "Bypass"}, {"PageSize", "A3"}}, "PageSize",
-        {"Page Size: A3 (297 × 420 mm), Paper Source: Bypass Tray and Bypass Feed Edge: Long Edge "
-         "First cannot be used together."},
+        {"“Page Size: A3 (297 × 420 mm)”, “Paper Source: Bypass Tray” and “Bypass Feed Edge: Long "
+         "Edge First” cannot be used together."},
         {});
     row("two at once", "full",
         {{"StapleLocation", "DualPortrait"},
          {"MediaType", "Transparency"},
          {"Duplex", "DuplexTumble"}},
         "MediaType",
-        {"Paper Type: Transparency and Two-Sided Printing: 2-Sided Print, Flip on Short Edge "
-         "cannot "
-         "be used together.",
+        {"“Paper Type: Transparency” and “Two-Sided Printing: 2-Sided Print, Flip on Short Edge” "
+         "cannot be used together.",
          clash},
         {"Set Two-Sided Printing to 1-Sided Print", "Set Stapling to No Staple"});
     row("equipment that is not there", "unfolded", {{"KVFold", "C"}}, "KVFold",
-        {"Folding: C Fold cannot be used on this printer (Folding Unit: Not Installed)."},
+        {"“Folding: C Fold” cannot be used on this printer (Folding Unit: Not Installed)."},
         {"Set Folding to No Fold"});
 }
 
