@@ -236,7 +236,7 @@ int listQueues(int timeoutMs)
 {
     const auto printers = listPrinters(timeoutMs);
     if (!printers)
-        return fail(ExitStatus::NoDestination, printers.error().text());
+        return fail(ExitStatus::NoDestination, printers.error().detail);
     for (const Printer &printer : printers.value()) {
         const QString state = !printer.acceptsJobs  ? QStringLiteral("rejecting")
             : printer.state == Printer::State::Idle ? QStringLiteral("idle")
@@ -320,7 +320,8 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     // The application object took over the locale; what we write must not follow it.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("kelvo-print"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Print"));
+    QApplication::setDesktopFileName(QStringLiteral("kelvo-print"));
+    QApplication::setWindowIcon(QIcon(findSharedFile(QStringLiteral("icons/kelvo-print.svg"))));
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
 

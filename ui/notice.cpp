@@ -45,7 +45,8 @@ public:
         , m_notice(notice)
     {
         setObjectName(QStringLiteral("notice"));
-        setWindowTitle(QGuiApplication::applicationDisplayName());
+        setWindowTitle(parent ? parent->window()->windowTitle()
+                              : QGuiApplication::applicationDisplayName());
         setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
         setAccessibleName(notice.header);
         setAccessibleDescription(notice.message);

@@ -64,6 +64,12 @@ QString answersOf(const ShownNotice &notice)
     return answers.join(QStringLiteral(", "));
 }
 
+QString wordsOf(const ShownNotice &notice)
+{
+    const QString colon = notice.message.isEmpty() ? QString() : QStringLiteral(": ");
+    return (notice.header + colon + notice.message).simplified();
+}
+
 } // namespace
 
 struct ScriptRunner::Private
@@ -212,9 +218,8 @@ bool ScriptRunner::Private::checkNotice()
     }
     fail(at,
          {ExitStatus::Failed,
-          QStringLiteral("a notice came up: %1 %2 (answers: %3)")
-              .arg(notice.header, notice.message, answersOf(notice))
-              .simplified()});
+          QStringLiteral("a notice came up: %1 (answers: %2)")
+              .arg(wordsOf(notice), answersOf(notice))});
     return false;
 }
 
@@ -344,9 +349,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         if (!notice.isShown())
             return wrong(QStringLiteral("no notice is shown"));
         if (!(notice.header + u'\n' + notice.message).contains(word(0)))
-            return wrong(QStringLiteral("the notice says: %1 %2")
-                             .arg(notice.header, notice.message)
-                             .simplified());
+            return wrong(QStringLiteral("the notice says: %1").arg(wordsOf(notice)));
         return {};
     }
     case ScriptCommand::ExpectWindow: {

@@ -103,7 +103,7 @@ void DialogSession::listenTo(PrinterDirectory &directory)
         setStage(Stage::Stuck,
                  {isSilent ? tr("The print server does not answer")
                            : tr("The printers cannot be listed"),
-                  error.text(), true});
+                  error.detail, true});
     });
     connect(&directory, &PrinterDirectory::ppdFetched, this,
             [this](const QString &printer, const QString &path) {
@@ -121,9 +121,8 @@ void DialogSession::listenTo(PrinterDirectory &directory)
                 } else if (!m_arePrintersKnown || findPrinter(printer)) {
                     // A name that the server does not know is told as such, with the list.
                     setStage(Stage::Stuck,
-                             {tr("The settings of “%1” cannot be read").arg(printer),
-                              tr("%1\nTry again, or choose another printer.").arg(error.text()),
-                              true});
+                             {tr("The settings of “%1” cannot be read").arg(printer), error.detail,
+                              true, tr("Try again, or choose another printer.")});
                 }
             });
 }
@@ -165,6 +164,7 @@ void DialogSession::takePrinters(const QList<Printer> &printers)
     }
     if (m_printerName.isEmpty()) {
         m_printerName = m_printers.first().name;
+        m_isPrinterAssumed = !m_printers.first().isDefault;
         emit printersChanged();
         fetchPpd();
         return;
@@ -174,13 +174,12 @@ void DialogSession::takePrinters(const QList<Printer> &printers)
         QStringList names;
         for (const Printer &printer : m_printers)
             names.append(printer.name);
+        const QString nearest = didYouMean(m_printerName, names);
         setStage(Stage::Stuck,
                  {tr("There is no printer “%1”").arg(m_printerName),
-                  tr("The print server does not know it%1 Choose another printer, or try again.")
-                      .arg(didYouMean(m_printerName, names).isEmpty()
-                               ? QStringLiteral(".")
-                               : didYouMean(m_printerName, names)),
-                  true});
+                  tr("The print server does not know it%1")
+                      .arg(nearest.isEmpty() ? QStringLiteral(".") : nearest),
+                  true, tr("Choose another printer, or try again.")});
         return;
     }
     beginWhenComplete();
@@ -227,6 +226,7 @@ void DialogSession::beginWhenComplete()
 
 void DialogSession::choosePrinter(const QString &name)
 {
+    m_isPrinterAssumed = false;
     if (name == m_printerName && m_stage != Stage::Stuck)
         return;
     if (m_stage == Stage::Ready) {

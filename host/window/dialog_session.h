@@ -67,11 +67,14 @@ public:
     {
         QString header, text;
         bool canRetry = false;
+        QString advice; // for those who sit before the window
     };
     const Message &message() const { return m_message; }
 
     const QList<Printer> &printers() const { return m_printers; }
     bool hasQueue() const { return !m_options.device; } // else a device without one
+    // Nobody named the printer, and the system has no default one.
+    bool isPrinterAssumed() const { return m_isPrinterAssumed; }
     QString printerName() const { return m_printerName; }
     // Goes to another printer and takes the settings along. What the new device
     // does not have comes back with one that has it.
@@ -147,6 +150,7 @@ private:
     QList<Printer> m_printers;
     bool m_arePrintersKnown = false;
     QString m_printerName;
+    bool m_isPrinterAssumed = false;
     QSet<QString> m_askedFor;  // printers whose PPD is on its way
     bool m_isPpdKnown = false; // or known not to come
     QString m_noPpdReason;

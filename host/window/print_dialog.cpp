@@ -29,6 +29,7 @@
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdio>
@@ -76,7 +77,13 @@ QSize availableSize(const QWidget *window)
 {
     if (QGuiApplication::platformName() == QLatin1String("offscreen") || !window->screen())
         return {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
-    return window->screen()->availableSize();
+    // A window's frame is known only once it is shown.
+    constexpr int usualFrame = 40;
+    QMargins frame;
+    if (const QWindow *shown = window->windowHandle())
+        frame = shown->frameMargins();
+    const int bars = std::max(frame.top() + frame.bottom(), usualFrame);
+    return window->screen()->availableSize() - QSize(frame.left() + frame.right(), bars);
 }
 
 // Where Tab stops below `region`, in the order of the focus chain.
@@ -242,7 +249,6 @@ void PrintDialog::buildWindow()
     m_progress->setAccessibleName(tr("Printing"));
     m_progress->hide();
     m_print->setAutoDefault(true);
-    m_print->setDefault(true);
     m_cancel->setAccessibleName(tr("Cancel printing"));
 
     auto *body = new QHBoxLayout;
@@ -444,7 +450,8 @@ void PrintDialog::updateFoot()
         const JobSettings settings = m_session->settings();
         const auto runs = pageRunsFrom(settings.pageRanges, m_session->document().pageCount());
         const QString problem = findPagesProblem();
-        m_printer->setPagesProblem(problem);
+        // Pages that are still to be typed are no mistake yet.
+        m_printer->setPagesProblem(m_printer->arePagesMissing() ? QString() : problem);
         if (runs && problem.isEmpty())
             text = shortSummary(m_session->ticket(), settings, pageCount(runs.value()),
                                 m_session->secretKeys());
@@ -614,6 +621,12 @@ void PrintDialog::print()
                     tr("“%1” is a device without a queue. Start kelvo-print with --to DIR to write "
                        "the job into a folder, or with -d to print to a queue.")
                         .arg(m_session->printerName()));
+        return;
+    }
+    if (m_isDriven && m_session->isPrinterAssumed() && !m_options.line.toFolder) {
+        refusePrint(ExitStatus::NoDestination, notPrinted,
+                    tr("No printer was named, and there is no default printer. Name one with -d; "
+                       "--list-printers says which there are."));
         return;
     }
     m_session->writeAll();
@@ -850,6 +863,7 @@ void PrintDialog::goToRegion(bool forward)
         const qsizetype next =
             (at + (forward ? step : -step) + 2 * regions.size()) % regions.size();
         if (QWidget *stop = firstStop(regions[next])) {
+            setAttribute(Qt::WA_KeyboardFocusChange); // else styles do not show where it is
             stop->setFocus(Qt::TabFocusReason);
             return;
         }
@@ -909,8 +923,9 @@ Result<void> PrintDialog::showPanel(const QString &name)
         }
         names.append(pane->objectName());
     }
-    return Error{Error::Code::NotFound, name,
-                 tr("there is no such panel") + didYouMean(name, names)};
+    return Error{
+        Error::Code::NotFound, name,
+        tr("there is no such panel here; there are: %1").arg(names.join(QStringLiteral(", ")))};
 }
 
 Result<void> PrintDialog::showTab(int tab)
@@ -925,10 +940,10 @@ Result<void> PrintDialog::showTab(int tab)
         return Error{Error::Code::NotFound, QString::number(tab), tr("there are no tabs")};
     // A tab keeps its number where others are not there.
     const auto &items = selector->menu().items;
-    QStringList numbers;
+    QStringList tabs;
     for (std::size_t i = 0; i < items.size(); ++i) {
         if (items[i].reference != tab) {
-            numbers.append(QString::number(items[i].reference));
+            tabs.append(QStringLiteral("%1 (%2)").arg(items[i].reference).arg(items[i].text));
             continue;
         }
         const int row = int(i) + 1;
@@ -937,8 +952,9 @@ Result<void> PrintDialog::showTab(int tab)
                          tr("the tab cannot be chosen")};
         return {};
     }
-    return Error{Error::Code::OutOfRange, QString::number(tab),
-                 tr("there is no such tab; there are %1").arg(numbers.join(QStringLiteral(", ")))};
+    return Error{
+        Error::Code::OutOfRange, QString::number(tab),
+        tr("there is no such tab here; there are: %1").arg(tabs.join(QStringLiteral(", ")))};
 }
 
 QString PrintDialog::placeOf(const QWidget *control) const

@@ -75,8 +75,10 @@ void WaitingPane::setMessage(const DialogSession::Message &message)
 {
     m_header->setText(message.header);
     m_header->setVisible(!message.header.isEmpty());
-    m_text->setText(message.text);
-    m_text->setVisible(!message.text.isEmpty());
+    QStringList lines{message.text, message.advice};
+    lines.removeAll(QString());
+    m_text->setText(lines.join(u'\n'));
+    m_text->setVisible(!lines.isEmpty());
     fitToFont();
     m_retry->setVisible(message.canRetry);
     if (message.canRetry)
