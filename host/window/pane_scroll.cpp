@@ -66,8 +66,10 @@ bool PaneScroll::event(QEvent *event)
     QPainter painter(this);
     QColor line = palette().color(QPalette::WindowText);
     line.setAlphaF(0.28F);
-    painter.setPen(line);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // Filled: a line between two pixels of the screen would lie below the viewport.
+    for (const QRect &side : {QRect(0, 0, width(), 1), QRect(0, height() - 1, width(), 1),
+                              QRect(0, 1, 1, height() - 2), QRect(width() - 1, 1, 1, height() - 2)})
+        painter.fillRect(side, line);
     return true;
 }
 
