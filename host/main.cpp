@@ -1,5 +1,5 @@
 #include "application_files.h"
-#include "background_task.h"
+#include "background_work.h"
 #include "command_line.h"
 #include "control_list.h"
 #include "exit_status.h"
@@ -91,6 +91,17 @@ int endWith(int status)
     fail(ExitStatus::Failed,
          QStringLiteral("standard output cannot be written; what was done before stays done"));
     return status == 0 ? toInt(ExitStatus::Failed) : status;
+}
+
+int endAfterBackgroundWork(int status)
+{
+    status = endWith(status);
+    if (!waitForBackgroundWork(endWaitMs)) {
+        // A thread hangs in a server's answer; nothing of the user's is left to do.
+        std::fflush(nullptr);
+        std::_Exit(status);
+    }
+    return status;
 }
 
 // What is wrong with a ticket, after its name: "(line 1: …)".
@@ -391,17 +402,11 @@ int main(int argc, char **argv)
     }
     if (line.listPrinters) {
         const QCoreApplication application(argc, argv);
-        return endWith(listQueues(line.timeoutSeconds * 1000));
+        return endAfterBackgroundWork(listQueues(line.timeoutSeconds * 1000));
     }
 
     // Qt reads its own options out of what it is given: it gets none of ours.
     int ownCount = 1;
     char *own[] = {argv[0], nullptr};
-    const int status = endWith(runApplication(ownCount, own, line));
-    if (!waitForBackgroundWork(endWaitMs)) {
-        // A thread hangs in a server's answer; nothing of the user's is left to do.
-        std::fflush(nullptr);
-        std::_Exit(status);
-    }
-    return status;
+    return endAfterBackgroundWork(runApplication(ownCount, own, line));
 }

@@ -1,8 +1,6 @@
 #include "cups_connection.h"
 
 #include <chrono>
-#include <system_error>
-#include <thread>
 
 namespace kelvo {
 
@@ -154,16 +152,6 @@ Result<QString> queueName(const QString &printer)
     if (name.isEmpty() || name.toUtf8().size() > 127)
         return Error{Code::NotFound, printer, QStringLiteral("no printer has such a name")};
     return name;
-}
-
-bool startDetached(std::function<void()> work)
-{
-    try {
-        std::thread(std::move(work)).detach();
-        return true;
-    } catch (const std::system_error &) {
-        return false;
-    }
 }
 
 } // namespace kelvo

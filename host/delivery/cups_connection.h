@@ -1,5 +1,6 @@
 #pragma once
 
+#include "background_work.h"
 #include "result.h"
 
 #include <QString>
@@ -73,9 +74,6 @@ Result<QString> queueName(const QString &printer);
 
 Error timedOut(const Patience &patience, const QString &where);
 
-// False when the system has no thread to give.
-bool startDetached(std::function<void()> work);
-
 // `work` on a thread of its own. While it runs, `isGivenUp` is asked every 20 ms;
 // once it says yes the thread is left to itself and nothing comes back.
 template <typename T>
@@ -88,7 +86,7 @@ std::optional<T> runAside(std::function<T()> work, const std::function<bool()> &
         std::optional<T> result;
     };
     auto state = std::make_shared<State>();
-    const bool isStarted = startDetached([state, work = std::move(work)] {
+    const bool isStarted = startBackgroundWork([state, work = std::move(work)] {
         T result = work();
         const std::lock_guard lock(state->mutex);
         state->result = std::move(result);

@@ -148,7 +148,7 @@ struct PrinterDirectory::Private
         };
         std::erase_if(d->conversations, [](const auto &one) { return one.expired(); });
         d->conversations.push_back(patience);
-        const bool isStarted = startDetached([d, patience, work, answerOnce] {
+        const bool isStarted = startBackgroundWork([d, patience, work, answerOnce] {
             d->post([result = work(*patience), answerOnce](PrinterDirectory *owner) {
                 answerOnce(owner, result);
             });

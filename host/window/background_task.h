@@ -1,30 +1,24 @@
 #pragma once
 
+#include "background_work.h"
+
 #include <QFutureWatcher>
 #include <QPromise>
 
 #include <functional>
 #include <memory>
-#include <thread>
 
-// Work that can block, on a thread of its own. The answer comes by the event
-// loop of the thread that owns the task, and not at all once the task is gone:
-// work that never ends keeps nobody waiting. What the work uses it must own.
 namespace kelvo {
 
-// Counts the threads that still run, so that the program can end in the middle
-// of one without tearing its data away (see waitForBackgroundWork).
-void beginBackgroundWork();
-void endBackgroundWork();
-// Whether all work has ended within `milliseconds`. Where it has not, the
-// program must leave with _exit().
-bool waitForBackgroundWork(int milliseconds);
-
+// Background work that gives an answer. It comes by the event loop of the thread
+// that owns the task, and not at all once the task is gone: work that never ends
+// keeps nobody waiting. What the work uses it must own.
 template <typename T>
 class BackgroundTask
 {
 public:
-    // Replaces a task that is still running: its answer is dropped.
+    // Replaces a task that is still running: its answer is dropped. Without a
+    // thread to be had, the work is done here and now.
     void start(std::function<T()> work, std::function<void(T)> done)
     {
         m_watcher = std::make_unique<QFutureWatcher<T>>();
@@ -35,16 +29,15 @@ public:
                              watcher->deleteLater();
                              done(watcher->future().takeResult());
                          });
-        QPromise<T> promise;
-        m_watcher->setFuture(promise.future());
-        beginBackgroundWork();
-        std::thread([work = std::move(work), promise = std::move(promise)]() mutable {
-            promise.start();
-            promise.addResult(work());
-            promise.finish();
-            work = nullptr; // lets go of what it owns before it counts as ended
-            endBackgroundWork();
-        }).detach();
+        const auto promise = std::make_shared<QPromise<T>>();
+        m_watcher->setFuture(promise->future());
+        const std::function<void()> answer = [work = std::move(work), promise] {
+            promise->start();
+            promise->addResult(work());
+            promise->finish();
+        };
+        if (!startBackgroundWork(answer))
+            answer();
     }
 
     bool isRunning() const { return m_watcher != nullptr; }

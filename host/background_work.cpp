@@ -1,8 +1,10 @@
-#include "background_task.h"
+#include "background_work.h"
 
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
+#include <thread>
 
 namespace kelvo {
 
@@ -22,19 +24,29 @@ Running &running()
     return state;
 }
 
-} // namespace
-
-void beginBackgroundWork()
+void count(int change)
 {
     const std::lock_guard lock(running().mutex);
-    ++running().count;
+    running().count += change;
+    running().ended.notify_all();
 }
 
-void endBackgroundWork()
+} // namespace
+
+bool startBackgroundWork(std::function<void()> work)
 {
-    const std::lock_guard lock(running().mutex);
-    --running().count;
-    running().ended.notify_all();
+    count(1);
+    try {
+        std::thread([work = std::move(work)]() mutable {
+            work();
+            work = nullptr; // lets go of what it owns before it counts as ended
+            count(-1);
+        }).detach();
+        return true;
+    } catch (const std::system_error &) {
+        count(-1);
+        return false;
+    }
 }
 
 bool waitForBackgroundWork(int milliseconds)
