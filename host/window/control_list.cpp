@@ -1,6 +1,8 @@
 #include "control_list.h"
 
 #include "inspector.h"
+#include "job_details_dialog.h"
+#include "preset_menu.h"
 #include "window_loader.h"
 
 #include <QDir>
@@ -23,9 +25,11 @@ QString table(const QString &title, QWidget *window)
     QString text = QStringLiteral("## ") + title
         + QStringLiteral("\n\n| ID | Name | Kind | Label |\n| --- | --- | --- | --- |\n");
     const QJsonArray controls = inspector::describeControls(window);
-    for (const QJsonValue &value : controls) {
+    for (const auto &value : controls) {
         const QJsonObject control = value.toObject();
         const QString name = cell(control, "name");
+        if (name.startsWith(QLatin1String("Scroll"))) // the insides of Qt's tab bar
+            continue;
         QString label = cell(control, "label");
         if (label.isEmpty())
             label = cell(control, "text");
@@ -33,6 +37,12 @@ QString table(const QString &title, QWidget *window)
                     .arg(cell(control, "id"),
                          name.isEmpty() ? QString() : QStringLiteral("`@%1`").arg(name),
                          cell(control, "kind"), label);
+        const QJsonArray items = control.value(QLatin1String("items")).toArray();
+        for (const auto &item : items) {
+            if (const QString command = cell(item.toObject(), "command"); !command.isEmpty())
+                text += QStringLiteral("| |  | item %1 | %2 |\n")
+                            .arg(command, cell(item.toObject(), "text"));
+        }
     }
     return text + u'\n';
 }
@@ -44,6 +54,11 @@ Result<QString> controlList(QWidget *dialog, Bundle *bundle)
     QString text = QStringLiteral("# Controls\n\nWhat scripts can reach, window by window. Made by "
                                   "`kelvo-print --list-controls`.\n\n");
     text += table(QStringLiteral("Print dialog"), dialog);
+    const std::unique_ptr<QWidget> presetName(
+        makePresetNamePane({}, QStringLiteral("Save"), {}, true));
+    text += table(QStringLiteral("Save and rename presets"), presetName.get());
+    const std::unique_ptr<QWidget> details(makeJobDetailsPane({}));
+    text += table(QStringLiteral("What will be sent"), details.get());
     if (!bundle)
         return text;
     const QDir descriptions(bundle->resourcesPath() + QStringLiteral("/dialogs"));

@@ -17,6 +17,8 @@ namespace kelvo {
 
 namespace {
 
+const QString copyName = QStringLiteral("copyJob");
+
 QString tr(const char *text)
 {
     return QCoreApplication::translate("kelvo::JobDetailsDialog", text);
@@ -50,7 +52,7 @@ SummaryView *textView(const QString &name, const QString &label, const QString &
 
 } // namespace
 
-void runJobDetailsDialog(const JobWords &words, QWidget *parent)
+QWidget *makeJobDetailsPane(const JobWords &words)
 {
     auto *content = new QWidget;
     content->setObjectName(QStringLiteral("jobDetailsDialog"));
@@ -76,7 +78,7 @@ void runJobDetailsDialog(const JobWords &words, QWidget *parent)
         pages->addWidget(view);
     }
     auto *copy = new QPushButton(tr("&Copy"), content);
-    copy->setObjectName(QStringLiteral("copyJob"));
+    copy->setObjectName(copyName);
     copy->setToolTip(tr("Copies the text that is shown"));
     auto *close = new QPushButton(tr("Close"), content);
     close->setObjectName(QStringLiteral("close"));
@@ -97,17 +99,24 @@ void runJobDetailsDialog(const JobWords &words, QWidget *parent)
     layout->setSpacing(12);
     layout->addLayout(viewLayout, 1);
     layout->addLayout(buttons);
+    return content;
+}
 
+void runJobDetailsDialog(const JobWords &words, QWidget *parent)
+{
+    QWidget *content = makeJobDetailsPane(words);
+    auto *tabs = content->findChild<TabControl *>();
+    auto *pages = content->findChild<QStackedWidget *>();
     ModalDialog dialog(content, parent);
     const auto handler =
-        installEventHandler(content, [tabs, pages, copy](const Event &event) -> OSStatus {
+        installEventHandler(content, [tabs, pages](const Event &event) -> OSStatus {
             if (event.kind != EventKind::ControlHit)
                 return eventNotHandledErr;
             if (event.source == tabs) {
                 pages->setCurrentIndex(tabs->value() - 1);
                 return noErr;
             }
-            if (event.source == copy) {
+            if (event.source->objectName() == copyName) {
                 const auto *shown = qobject_cast<SummaryView *>(pages->currentWidget());
                 QGuiApplication::clipboard()->setText(shown->toPlainText());
                 return noErr;

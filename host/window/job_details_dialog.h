@@ -6,8 +6,11 @@ class QWidget;
 
 namespace kelvo {
 
-// Shows what will be sent: the settings in words, and the ticket as it stands.
-// `words` come with secrets masked. Runs until it is closed.
+// What will be sent: the settings in words, and the ticket as it stands. `words`
+// come with secrets masked.
+QWidget *makeJobDetailsPane(const JobWords &words);
+
+// Shows them until the user closes it.
 void runJobDetailsDialog(const JobWords &words, QWidget *parent);
 
 } // namespace kelvo

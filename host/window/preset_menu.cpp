@@ -53,11 +53,10 @@ struct NameAnswer
     bool keepsSecrets = false;
 };
 
-// Asks for a preset's name. `taken` says whether a name is another preset's;
-// one that may be replaced is asked about, unless `mayReplace` is false.
-std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, const QString &ok,
-                                     const QString &name, bool asksForSecrets, bool mayReplace,
-                                     const std::function<bool(const QString &)> &taken)
+} // namespace
+
+QWidget *makePresetNamePane(const QString &title, const QString &ok, const QString &name,
+                            bool asksForSecrets)
 {
     auto *content = new QWidget;
     content->setObjectName(QStringLiteral("presetNameDialog"));
@@ -96,7 +95,20 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
     grid->addWidget(field, 0, 1);
     grid->addWidget(secrets, 1, 1);
     grid->addLayout(buttons, 2, 0, 1, 2);
+    return content;
+}
 
+namespace {
+
+// Asks for a preset's name. `taken` says whether a name is another preset's;
+// one that may be replaced is asked about, unless `mayReplace` is false.
+std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, const QString &ok,
+                                     const QString &name, bool asksForSecrets, bool mayReplace,
+                                     const std::function<bool(const QString &)> &taken)
+{
+    QWidget *content = makePresetNamePane(title, ok, name, asksForSecrets);
+    auto *field = content->findChild<QLineEdit *>();
+    auto *secrets = content->findChild<QCheckBox *>();
     ModalDialog dialog(content, parent);
     dialog.setAcceptRule([&] {
         const QString wanted = field->text().simplified();
@@ -152,7 +164,7 @@ PresetMenu::PresetMenu(DialogSession &session, const QString &chosen, QWidget *p
 
     Menu actions;
     actions.items = {{.text = tr("Save"), .command = kSave},
-                     {.text = tr("Save &As…"), .command = kSaveAs},
+                     {.text = tr("Save As…"), .command = kSaveAs},
                      {.divider = true},
                      {.text = tr("Rename…"), .command = kRename},
                      {.text = tr("Delete"), .command = kDelete}};

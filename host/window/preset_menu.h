@@ -11,6 +11,10 @@ class DialogSession;
 class MenuButton;
 class PopupButton;
 
+// Where a preset gets its name: `ok` is what the button says.
+QWidget *makePresetNamePane(const QString &title, const QString &ok, const QString &name,
+                            bool asksForSecrets);
+
 // Chooses a preset for the session, and saves, renames and deletes the user's
 // own. A star behind the name says that settings were changed since.
 class PresetMenu : public QWidget
