@@ -176,6 +176,7 @@ struct Failure
 {
     ExitStatus status;
     QString text;
+    bool isOfScript = false; // "FILE:LINE: …", as a script's run tells its own
 };
 
 // Reads everything that can be read before there is a window.
@@ -194,7 +195,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
     if (line.script) {
         auto lines = readScript(*line.script);
         if (!lines)
-            return Failure{ExitStatus::WrongUsage, lines.error().text()};
+            return Failure{ExitStatus::WrongUsage, lines.error().text(), true};
         script = std::move(lines).value();
     }
     if (line.ticketIn) {
@@ -267,8 +268,12 @@ int runDialog(DialogOptions options)
     QMap<QString, QString> secrets;
     std::vector<ScriptLine> script;
     const CommandLine line = options.line;
-    if (const auto failure = readInputs(options, secrets, script))
-        return fail(failure->status, failure->text);
+    if (const auto failure = readInputs(options, secrets, script)) {
+        if (!failure->isOfScript)
+            return fail(failure->status, failure->text);
+        std::fprintf(stderr, "%s\n", qUtf8Printable(failure->text));
+        return toInt(failure->status);
+    }
 
     ExitStatus status = ExitStatus::Failed;
     PrintDialog dialog(std::move(options));

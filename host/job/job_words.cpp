@@ -178,7 +178,7 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
     }
     // Only the panels know what their entries say; that they are there is said.
     if (const int count = panelEntries(ticket); count > 0)
-        words.settings << QStringLiteral("%1 of the device panels, see Ticket")
+        words.settings << QStringLiteral("%1 that the device panels add (see Ticket)")
                               .arg(counted(count, "entry", "entries"));
     const TicketFile shown = masked(ticket, keys);
     words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);

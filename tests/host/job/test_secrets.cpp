@@ -127,7 +127,7 @@ void TestSecrets::neverStandInWords()
     QCOMPARE(words.settings,
              (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: Landscape",
                           "Stapling: 2 Staples, Portrait",
-                          "3 entries of the device panels, see Ticket"}));
+                          "3 entries that the device panels add (see Ticket)"}));
     QCOMPARE(words.notSent, QStringList{"Glitter: On – this printer does not have it"});
     QVERIFY(words.defaults.contains("Page Size: A4 (210 × 297 mm)"));
     QVERIFY(words.ticket.contains("Plain = \"open\" (written by test)"));
