@@ -242,10 +242,7 @@ OSStatus GetAdvancedPanelInterface(PanelInterface **interface)
 {
     if (!interface)
         return paramErr;
-    *interface = makePanelInterface({.Retain = nullptr,
-                                     .Release = nullptr,
-                                     .GetAPIVersion = nullptr,
-                                     .Prologue = Prologue,
+    *interface = makePanelInterface({.Prologue = Prologue,
                                      .Initialize = Initialize,
                                      .Sync = Sync,
                                      .GetSummaryText = GetSummaryText,

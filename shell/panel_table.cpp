@@ -1,7 +1,8 @@
 #include "panel_table.h"
 
+#include "panel_interface.h"
+
 #include <cstdio>
-#include <memory>
 #include <variant>
 
 namespace kelvo {
@@ -16,55 +17,14 @@ const char *const PanelInterfaces[] = {
 
 namespace {
 
-bool isComplete(const PanelOperations &operations)
-{
-    return operations.Prologue && operations.Initialize && operations.Sync
-        && operations.GetSummaryText && operations.Open && operations.Close && operations.Terminate;
-}
-
-// "GetAdvancedPanelInterface" → "Advanced"; any other name as it is.
-QString panelNameOf(const QString &getter)
-{
-    constexpr QLatin1String head("Get"), tail("PanelInterface");
-    if (!getter.startsWith(head) || !getter.endsWith(tail)
-        || getter.size() <= head.size() + tail.size())
-        return getter;
-    return getter.mid(head.size(), getter.size() - head.size() - tail.size());
-}
-
-// A getter's interface has no Release of its own: whoever loads the panel copies
-// the slots and frees the object and its table.
-PanelOperations takeOperations(PanelInterface *interface)
-{
-    const std::unique_ptr<PanelInterface> object(interface);
-    const std::unique_ptr<PanelOperations> table(interface->table);
-    PanelOperations operations = table ? *table : PanelOperations{};
-    operations.Retain = nullptr;
-    operations.Release = nullptr;
-    operations.GetAPIVersion = nullptr;
-    return operations;
-}
-
 // The panel behind one getter, without its tab index; or why there is none.
-std::variant<PanelRecord, QString> loadPanel(CFBundleRef bundle, const char *getterName)
+std::variant<PanelRecord, QString> loadPanel(Bundle &bundle, const QString &getter)
 {
-    const auto getter = reinterpret_cast<PanelInterfaceGetter>(
-        CFBundleGetFunctionPointerForName(bundle, getterName));
-    if (!getter) {
-        const QString reason = bundle->loadError();
-        return reason.isEmpty() ? QStringLiteral("the module has no such function") : reason;
-    }
-
-    PanelInterface *interface = nullptr;
-    const OSStatus got = getter(&interface);
-    if (!interface)
-        return QStringLiteral("it gave no interface (%1)").arg(got);
+    const auto operations = findPanelOperations(bundle, getter);
+    if (!operations)
+        return operations.error().detail;
     PanelRecord record;
-    record.operations = takeOperations(interface);
-    if (got != noErr)
-        return QStringLiteral("it failed (%1)").arg(got);
-    if (!isComplete(record.operations))
-        return QStringLiteral("its interface lacks an operation");
+    record.operations = operations.value();
 
     // The shell speaks to the dialog for all panels: their creators and sizes
     // are asked for and not used.
@@ -77,8 +37,8 @@ std::variant<PanelRecord, QString> loadPanel(CFBundleRef bundle, const char *get
         record.operations.Prologue(&record.context, &creator, &kind, &title, &maxH, &maxV);
     if (status != noErr)
         return QStringLiteral("its panel's Prologue failed (%1)").arg(status);
-    record.name = panelNameOf(QString::fromUtf8(getterName));
-    record.title = title ? *title : QString::fromUtf8(getterName);
+    record.name = panelNameOf(getter);
+    record.title = title ? *title : getter;
     record.kind = kind ? *kind : QString();
     return record;
 }
@@ -91,7 +51,8 @@ void LoadBuiltInPanels(CFBundleRef bundle, std::vector<PanelRecord> &panels,
     if (!bundle)
         return;
     for (std::int32_t place = 0; getters[place]; ++place) {
-        std::variant<PanelRecord, QString> loaded = loadPanel(bundle, getters[place]);
+        std::variant<PanelRecord, QString> loaded =
+            loadPanel(*bundle, QString::fromLatin1(getters[place]));
         if (const QString *reason = std::get_if<QString>(&loaded)) {
             std::fprintf(stderr, "LoadBuiltInPanels() skipped %s: %s.\n", getters[place],
                          qPrintable(*reason));

@@ -528,10 +528,7 @@ OSStatus Terminate(PMPDEContext context, OSStatus status)
 
 PanelOperations shellOperations()
 {
-    return {.Retain = nullptr,
-            .Release = nullptr,
-            .GetAPIVersion = nullptr,
-            .Prologue = Prologue,
+    return {.Prologue = Prologue,
             .Initialize = Initialize,
             .Sync = Sync,
             .GetSummaryText = GetSummaryText,

@@ -1,5 +1,7 @@
 #include "extension.h"
 
+#include "panel_interface.h"
+
 #include <QUuid>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -18,46 +20,6 @@ const QString furtherGettersKey = QStringLiteral("KelvoFurtherPanelGetters");
 void warn(const QString &text)
 {
     std::fputs(("kelvo-print: " + text + '\n').toUtf8().constData(), stderr);
-}
-
-// "GetSpecialPagesPanelInterface" → "SpecialPages"; any other name as it is.
-QString panelNameOf(const QString &getter)
-{
-    constexpr QLatin1String head("Get"), tail("PanelInterface");
-    if (!getter.startsWith(head) || !getter.endsWith(tail)
-        || getter.size() <= head.size() + tail.size())
-        return getter;
-    return getter.mid(head.size(), getter.size() - head.size() - tail.size());
-}
-
-bool isComplete(const PanelOperations &panel)
-{
-    return panel.Prologue && panel.Initialize && panel.Sync && panel.GetSummaryText && panel.Open
-        && panel.Close && panel.Terminate;
-}
-
-// The slots of a further panel, by its getter's name. The interface that the
-// getter hands out has no Release: it is freed here.
-Result<PanelOperations> findFurtherPanel(Bundle *bundle, const QString &getter)
-{
-    const QByteArray name = getter.toLatin1();
-    const auto get = reinterpret_cast<PanelInterfaceGetter>(bundle->findFunction(name.constData()));
-    if (!get)
-        return Error{Code::NotFound, getter, QStringLiteral("the bundle has no such function")};
-    PanelInterface *interface = nullptr;
-    const OSStatus status = get(&interface);
-    if (status != noErr || !interface || !interface->table)
-        return Error{Code::Refused, getter, QStringLiteral("no interface, status %1").arg(status)};
-    const PanelOperations operations = *interface->table;
-    if (operations.Release) {
-        operations.Release(&interface);
-    } else {
-        delete interface->table;
-        delete interface;
-    }
-    if (!isComplete(operations))
-        return Error{Code::Damaged, getter, QStringLiteral("its interface lacks operations")};
-    return operations;
 }
 
 } // namespace
@@ -185,7 +147,7 @@ Result<void> Extension::begin(PrintSession &session, QWidget *parent)
     const Array getters = array(d->bundle->info(), furtherGettersKey).value_or(Array());
     for (const QVariant &entry : getters) {
         const QString getter = string(entry).value_or(QString());
-        const auto operations = findFurtherPanel(d->bundle, getter);
+        const auto operations = findPanelOperations(*d->bundle, getter);
         const auto added = operations ? d->add(operations.value(), panelNameOf(getter), parent)
                                       : Result<void>(operations.error());
         if (!added)
