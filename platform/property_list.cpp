@@ -400,7 +400,7 @@ void Parser::add(QVariant value)
     case Element::Dictionary: {
         // Files of our own are sorted: the end is the right hint for them.
         const qsizetype before = frame.dictionary.size();
-        frame.dictionary.insert(frame.dictionary.cend(), frame.key, std::move(value));
+        frame.dictionary.insert(frame.dictionary.cend(), frame.key, value);
         frame.hasKey = false;
         if (frame.dictionary.size() == before)
             fail(Code::Damaged, QStringLiteral("the key \"%1\" stands twice").arg(frame.key));

@@ -136,26 +136,27 @@ struct PrinterDirectory::Private
     // `work` aside; `answer` gets its result, or what became of it, once.
     template <typename T>
     static void ask(const std::shared_ptr<Private> &d, int timeoutMs,
-                    std::function<Result<T>(Patience &)> work, std::function<QString()> where,
+                    std::function<Result<T>(Patience &)> work,
+                    const std::function<QString()> &where,
                     std::function<void(PrinterDirectory *, const Result<T> &)> answer)
     {
         auto patience = std::make_shared<Patience>(timeoutMs);
         auto isAnswered = std::make_shared<bool>(false); // of the owner's thread
-        const auto answerOnce = [isAnswered, answer](PrinterDirectory *owner,
+        const auto answerOnce = [isAnswered, answer](PrinterDirectory *directory,
                                                      const Result<T> &result) {
             if (!std::exchange(*isAnswered, true))
-                answer(owner, result);
+                answer(directory, result);
         };
         std::erase_if(d->conversations, [](const auto &one) { return one.expired(); });
         d->conversations.push_back(patience);
         const bool isStarted = startBackgroundWork([d, patience, work, answerOnce] {
-            d->post([result = work(*patience), answerOnce](PrinterDirectory *owner) {
-                answerOnce(owner, result);
+            d->post([result = work(*patience), answerOnce](PrinterDirectory *directory) {
+                answerOnce(directory, result);
             });
         });
         QTimer::singleShot(isStarted ? timeoutMs : 0, d->owner,
-                           [owner = d->owner, patience, where, answerOnce] {
-                               answerOnce(owner, timedOut(*patience, where()));
+                           [directory = d->owner, patience, where, answerOnce] {
+                               answerOnce(directory, timedOut(*patience, where()));
                                patience->stop();
                            });
     }

@@ -85,7 +85,8 @@ QStringList choicesToTry(const PpdOption &option)
 
 // A way of our own, where libcups finds none or the PPD's own way out changes the
 // equipment: one option at a time, as long as conflicts become fewer.
-std::optional<PpdSelection> searchFix(PpdFile &ppd, PpdSelection selection, std::set<QString> fixed)
+std::optional<PpdSelection> searchFix(PpdFile &ppd, PpdSelection selection,
+                                      const std::set<QString> &fixed)
 {
     constexpr int rounds = 64; // more conflicts at once are not mended, only told
     int triesLeft = 2000;      // each costs about as much as a tab change's check
