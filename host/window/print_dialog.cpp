@@ -2,10 +2,10 @@
 
 #include "conflict_bar.h"
 #include "document_preview.h"
+#include "focus_regions.h"
 #include "help_window.h"
 #include "job_details_dialog.h"
 #include "modal_dialog.h"
-#include "nearest_name.h"
 #include "notice.h"
 #include "page_ranges.h"
 #include "pane_scroll.h"
@@ -15,6 +15,7 @@
 #include "printer_pane.h"
 #include "spin_field.h"
 #include "waiting_pane.h"
+#include "window_columns.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -24,7 +25,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -41,15 +41,10 @@ namespace {
 // Logical pixels at the usual font; they grow with a larger one.
 constexpr QSize paneSize(540, 491);
 constexpr QSize windowSize(900, 660);
-constexpr int columnWidth = 300;
-constexpr int narrowColumnWidth = 208; // without the preview: its fields are still to be read
-constexpr int narrowWidth = 860;       // below it there is no preview
 constexpr int lowestWindow = 420;
-constexpr int usualFontHeight = 13; // pixels: 10 points on an ordinary screen
 
 constexpr int margin = 10;
 constexpr int gap = 6; // between rows
-constexpr int columnGap = 12;
 
 // So long after the user's last change, settings are written and checked.
 constexpr int lookDelayMs = 150;
@@ -66,11 +61,6 @@ constexpr ControlID shellSelector = {kShellSignature, 16};
 constexpr OSType kNextTab = fourCharCode("KFup");
 constexpr OSType kPreviousTab = fourCharCode("KFdn");
 
-double fontScale(const QWidget *widget)
-{
-    return std::max(1.0, double(QFontInfo(widget->font()).pixelSize()) / usualFontHeight);
-}
-
 // What a window may take of its screen. Without a screen that anybody sees the
 // window is as large as it likes: scripts meet the same window everywhere.
 QSize availableSize(const QWidget *window)
@@ -86,19 +76,6 @@ QSize availableSize(const QWidget *window)
     return window->screen()->availableSize() - QSize(frame.left() + frame.right(), bars);
 }
 
-// Where Tab stops below `region`, in the order of the focus chain.
-QList<QWidget *> stopsIn(QWidget *region)
-{
-    QList<QWidget *> stops;
-    for (QWidget *widget = region->nextInFocusChain(); widget != region;
-         widget = widget->nextInFocusChain()) {
-        if (region->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus)
-            && !widget->focusProxy())
-            stops << widget;
-    }
-    return stops;
-}
-
 QPushButton *button(const char *name, const QString &text, QWidget *parent)
 {
     auto *made = new QPushButton(text, parent);
@@ -112,19 +89,17 @@ QPushButton *button(const char *name, const QString &text, QWidget *parent)
 
 PrintDialog::PrintDialog(DialogOptions options)
     : m_options(options)
-    , m_column(new QWidget(this))
-    , m_panelSide(new QWidget(this))
-    , m_switch(new PanelSwitch(m_panelSide))
-    , m_scroll(new PaneScroll(m_panelSide))
+    , m_columns(new WindowColumns(this))
+    , m_switch(new PanelSwitch(m_columns->right()))
+    , m_scroll(new PaneScroll(m_columns->right()))
     , m_stack(new QStackedWidget)
     , m_waiting(new WaitingPane(m_stack))
     , m_panes(new QWidget(m_stack))
     , m_session(std::make_unique<DialogSession>(std::move(options), m_panes))
     , m_presets(new PresetMenu(*m_session, m_options.line.preset.value_or(QString())))
-    , m_printer(new PrinterPane(m_presets, m_column))
-    , m_preview(new DocumentPreview(m_column))
+    , m_printer(new PrinterPane(m_presets, m_columns->left()))
+    , m_preview(new DocumentPreview(m_columns->left()))
     , m_conflictBar(new ConflictBar(this))
-    , m_columnToggle(new QToolButton(this))
     , m_foot(new QLabel(this))
     , m_progress(new QProgressBar(this))
     , m_details(button("whatWillBeSent", tr("&What Will Be Sent…"), this))
@@ -178,10 +153,6 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_conflictBar, &ConflictBar::fixRequested, this, &PrintDialog::fixConflicts);
-    connect(m_columnToggle, &QToolButton::clicked, this, [this] {
-        m_isColumnWanted = !m_isColumnWanted;
-        arrangeColumns();
-    });
     connect(m_details, &QPushButton::clicked, this, &PrintDialog::showDetails);
     connect(m_help, &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
@@ -211,13 +182,6 @@ PrintDialog::~PrintDialog()
 void PrintDialog::buildWindow()
 {
     m_preview->setObjectName(QStringLiteral("preview"));
-    auto *columnLayout = new QVBoxLayout(m_column);
-    columnLayout->setContentsMargins(0, 0, 0, 0);
-    columnLayout->setSpacing(10);
-    columnLayout->addWidget(m_printer);
-    columnLayout->addWidget(m_preview, 1);
-    columnLayout->addStretch(0); // keeps the fields at the top where there is no preview
-
     m_scroll->setObjectName(QStringLiteral("panels"));
     m_switch->setObjectName(QStringLiteral("panelSwitch"));
     m_switch->setAccessibleName(tr("Panels"));
@@ -227,17 +191,8 @@ void PrintDialog::buildWindow()
     m_stack->addWidget(m_waiting);
     m_stack->addWidget(m_panes);
     m_scroll->setWidget(m_stack);
-    auto *sideLayout = new QVBoxLayout(m_panelSide);
-    sideLayout->setContentsMargins(0, 0, 0, 0);
-    sideLayout->setSpacing(gap);
-    sideLayout->addWidget(m_switch, 0, Qt::AlignHCenter);
-    sideLayout->addWidget(m_scroll, 1);
+    m_columns->setParts(m_printer, m_preview, m_switch, m_scroll);
 
-    m_columnToggle->setObjectName(QStringLiteral("columnToggle"));
-    m_columnToggle->setAutoRaise(true);
-    m_columnToggle->setFocusPolicy(Qt::TabFocus);
-    m_columnToggle->setToolTip(tr("Show or hide printer, pages and preview (F9)"));
-    m_columnToggle->setAccessibleName(tr("Printer, pages and preview"));
     m_foot->setObjectName(QStringLiteral("summary"));
     m_foot->setTextFormat(Qt::PlainText);
     m_foot->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -251,13 +206,9 @@ void PrintDialog::buildWindow()
     m_print->setAutoDefault(true);
     m_cancel->setAccessibleName(tr("Cancel printing"));
 
-    auto *body = new QHBoxLayout;
-    body->setSpacing(columnGap);
-    body->addWidget(m_column, 1);
-    body->addWidget(m_panelSide);
     auto *footRow = new QHBoxLayout;
     footRow->setSpacing(gap);
-    footRow->addWidget(m_columnToggle);
+    footRow->addWidget(m_columns->toggle());
     footRow->addWidget(m_foot, 1);
     footRow->addWidget(m_progress);
     footRow->addWidget(m_details);
@@ -270,7 +221,7 @@ void PrintDialog::buildWindow()
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(gap);
-    layout->addLayout(body, 1);
+    layout->addWidget(m_columns, 1);
     layout->addWidget(m_conflictBar);
     layout->addLayout(footRow);
     layout->addLayout(buttonRow);
@@ -292,7 +243,7 @@ void PrintDialog::addShortcuts()
     add(Qt::Key_F1, [this] { showHelp(); });
     add(Qt::Key_F6, [this] { goToRegion(true); });
     add(Qt::SHIFT | Qt::Key_F6, [this] { goToRegion(false); });
-    add(Qt::Key_F9, [this] { m_columnToggle->click(); });
+    add(Qt::Key_F9, [this] { m_columns->toggle()->click(); });
 }
 
 // Sizes that a layout cannot know: they follow the font.
@@ -306,14 +257,9 @@ void PrintDialog::fitToFont()
     resize((windowSize * scale).boundedTo(availableSize(this)));
 }
 
-// No smaller than the panels need side by side with their scroll bar.
 void PrintDialog::fitToPanels()
 {
-    const int scrollBar = m_scroll->verticalScrollBar()->isVisible()
-        ? 0
-        : m_scroll->verticalScrollBar()->sizeHint().width();
-    const QSize smallest(m_scroll->minimumSizeHint().width() + scrollBar + 2 * margin,
-                         lowestWindow);
+    const QSize smallest(m_columns->smallestWidth() + 2 * margin, lowestWindow);
     setMinimumSize(smallest.boundedTo(availableSize(this)));
 }
 
@@ -367,7 +313,7 @@ void PrintDialog::takeStage()
     if (!isReady)
         m_conflictBar->setReport({}, {});
     fitToPanels();
-    arrangeColumns();
+    m_columns->arrange();
     arrangeTabOrder();
     updatePrintButton();
     updateFoot();
@@ -662,8 +608,7 @@ void PrintDialog::print()
     m_run->start(std::move(order));
 
     m_look.stop();
-    m_column->setEnabled(false);
-    m_panelSide->setEnabled(false);
+    m_columns->setEnabled(false);
     m_conflictBar->setEnabled(false);
     m_progress->show();
     updatePrintButton();
@@ -674,8 +619,7 @@ void PrintDialog::print()
 void PrintDialog::takeOutcome(const PrintOutcome &outcome)
 {
     m_run.release()->deleteLater();
-    m_column->setEnabled(true);
-    m_panelSide->setEnabled(true);
+    m_columns->setEnabled(true);
     m_conflictBar->setEnabled(true);
     m_progress->hide();
     updatePrintButton();
@@ -766,64 +710,17 @@ void PrintDialog::showEvent(QShowEvent *event)
     m_sinceShown.start();
 }
 
-void PrintDialog::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    arrangeColumns();
-}
-
-void PrintDialog::arrangeColumns()
-{
-    const double scale = fontScale(this);
-    const int scrollBar = m_scroll->verticalScrollBar()->isVisible()
-        ? 0
-        : m_scroll->verticalScrollBar()->sizeHint().width();
-    const int besides = columnGap + m_scroll->minimumSizeHint().width() + scrollBar + 2 * margin;
-    const bool isNarrow = width() < int(narrowColumnWidth * scale) + besides;
-    if (isNarrow != m_isNarrow) {
-        // Where only one of both has room, printer, copies and paper come first.
-        m_isNarrow = isNarrow;
-        m_isColumnWanted = true;
-    }
-    m_column->setMinimumWidth(
-        std::clamp(width() - besides, int(narrowColumnWidth * scale), int(columnWidth * scale)));
-    m_columnToggle->setArrowType(m_isColumnWanted == m_isNarrow ? Qt::RightArrow : Qt::LeftArrow);
-    // In a narrow window it goes from one to the other, and says to which.
-    m_columnToggle->setText(m_isColumnWanted ? tr("Device Settings") : tr("Printer and Paper"));
-    m_columnToggle->setAccessibleName(m_isNarrow ? m_columnToggle->text()
-                                                 : tr("Printer, pages and preview"));
-    m_columnToggle->setToolButtonStyle(m_isNarrow ? Qt::ToolButtonTextBesideIcon
-                                                  : Qt::ToolButtonIconOnly);
-    m_column->setVisible(m_isColumnWanted);
-    m_panelSide->setVisible(!m_isNarrow || !m_isColumnWanted);
-    const int forPreview = m_column->height() - m_printer->sizeHint().height();
-    const bool isWide = width() >= int(narrowWidth * scale) || m_isNarrow;
-    m_preview->setVisible(isWide && forPreview >= m_preview->minimumSizeHint().height());
-}
-
-void PrintDialog::showPanelSide()
-{
-    if (m_isNarrow && m_isColumnWanted) {
-        m_isColumnWanted = false;
-        arrangeColumns();
-    }
-}
-
 // Panels make their controls when they are first shown: later than the buttons
 // below them, which come after them all the same.
 void PrintDialog::arrangeTabOrder()
 {
-    const QList<QWidget *> panelStops = stopsIn(m_scroll);
+    const QList<QWidget *> panelStops = focusStopsIn(m_scroll);
     if (panelStops == m_panelStops)
         return;
     m_panelStops = panelStops;
-    QList<QWidget *> order = stopsIn(m_printer) + stopsIn(m_preview);
-    order << m_switch;
-    order += panelStops;
-    order += stopsIn(m_conflictBar);
-    order << m_columnToggle << m_details << m_help << m_cancel << m_print;
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    chainFocusStops(focusStopsIn(m_printer) + focusStopsIn(m_preview) + QList<QWidget *>{m_switch}
+                    + panelStops + focusStopsIn(m_conflictBar)
+                    + QList<QWidget *>{m_columns->toggle(), m_details, m_help, m_cancel, m_print});
 }
 
 // The keyboard begins at the printers; while there are none to choose from, at
@@ -841,33 +738,9 @@ void PrintDialog::giveFirstFocus()
 
 void PrintDialog::goToRegion(bool forward)
 {
-    const QList<QWidget *> regions = {m_printer,     m_preview,      m_switch, m_scroll,
-                                      m_conflictBar, m_columnToggle, m_print};
-    const auto contains = [](const QWidget *region, const QWidget *widget) {
-        return widget && (region == widget || region->isAncestorOf(widget));
-    };
-    const auto firstStop = [](QWidget *region) -> QWidget * {
-        for (QWidget *widget : QList<QWidget *>{region} + stopsIn(region)) {
-            if (widget->isVisible() && widget->isEnabled()
-                && (widget->focusPolicy() & Qt::TabFocus))
-                return widget;
-        }
-        return nullptr;
-    };
-    qsizetype at = -1;
-    for (qsizetype i = 0; i < regions.size(); ++i) {
-        if (contains(regions[i], focusWidget()))
-            at = i;
-    }
-    for (qsizetype step = 1; step <= regions.size(); ++step) {
-        const qsizetype next =
-            (at + (forward ? step : -step) + 2 * regions.size()) % regions.size();
-        if (QWidget *stop = firstStop(regions[next])) {
-            setAttribute(Qt::WA_KeyboardFocusChange); // else styles do not show where it is
-            stop->setFocus(Qt::TabFocusReason);
-            return;
-        }
-    }
+    focusNextRegion(
+        {m_printer, m_preview, m_switch, m_scroll, m_conflictBar, m_columns->toggle(), m_print},
+        forward);
 }
 
 // ---- what scripts ask
@@ -902,7 +775,7 @@ Result<void> PrintDialog::showPanel(const QString &name)
     Extension *panels = m_session->panels();
     if (!panels)
         return Error{Error::Code::NotFound, name, tr("there are no panels")};
-    showPanelSide();
+    m_columns->showRight();
     QStringList names;
     for (std::size_t i = 0; i < panels->panels().size(); ++i) {
         if (panels->panels()[i].name == name) {
@@ -933,7 +806,7 @@ Result<void> PrintDialog::showTab(int tab)
     if (m_session->stage() == DialogSession::Stage::Stuck)
         return Error{Error::Code::Unreachable, m_session->message().header,
                      m_session->message().text};
-    showPanelSide();
+    m_columns->showRight();
     m_switch->setCurrentIndex(0);
     auto *selector = findControl<PopupButton>(this, shellSelector);
     if (!selector)
@@ -959,7 +832,7 @@ Result<void> PrintDialog::showTab(int tab)
 
 QString PrintDialog::placeOf(const QWidget *control) const
 {
-    if (m_column->isAncestorOf(control))
+    if (m_columns->left()->isAncestorOf(control))
         return tr("the left column");
     Extension *panels = m_session->panels();
     if (!panels)

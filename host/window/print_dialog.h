@@ -15,7 +15,6 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QStackedWidget;
-class QToolButton;
 
 namespace kelvo {
 
@@ -26,6 +25,7 @@ class PanelSwitch;
 class PresetMenu;
 class PrinterPane;
 class WaitingPane;
+class WindowColumns;
 
 // The print dialog. It shows what the session has and prints when it is told to;
 // it ends once, with the status that the program ends with.
@@ -75,7 +75,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -109,8 +108,6 @@ private:
     QString findPagesProblem() const;
     void end(ExitStatus status);
 
-    void arrangeColumns();
-    void showPanelSide(); // where it stands behind the column
     void arrangeTabOrder();
     void updatePrintButton();
     void updatePreview();
@@ -119,8 +116,7 @@ private:
     JobWords words();
 
     DialogOptions m_options;
-    QWidget *m_column;
-    QWidget *m_panelSide;
+    WindowColumns *m_columns;
     PanelSwitch *m_switch;
     PaneScroll *m_scroll;
     QStackedWidget *m_stack; // the waiting pane, or the panels
@@ -131,7 +127,6 @@ private:
     PrinterPane *m_printer;
     DocumentPreview *m_preview;
     ConflictBar *m_conflictBar;
-    QToolButton *m_columnToggle;
     QLabel *m_foot;
     QProgressBar *m_progress;
     QPushButton *m_details, *m_help, *m_cancel, *m_print;
@@ -141,8 +136,6 @@ private:
     QTimer m_grace;                // until then the window is not shown
     QTimer m_firstFrame;           // until then the document is not opened
     bool m_hasLooked = false;      // at the settings of any printer
-    bool m_isColumnWanted = true;  // by the user, when the window is wide enough
-    bool m_isNarrow = false;       // column and panels do not fit side by side
     bool m_isDriven = false;
     QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
     QElapsedTimer m_sinceShown;
