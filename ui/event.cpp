@@ -17,7 +17,6 @@
 #include <QTextDocument>
 
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 namespace kelvo {
@@ -51,7 +50,8 @@ OSStatus deliver(const Event &event)
     QPointer<QWidget> asked = source;
     while (asked) {
         const HandlerList handlers = registry().value(asked.data());
-        for (const auto &installed : handlers | std::views::reverse) {
+        for (auto last = handlers.crbegin(); last != handlers.crend(); ++last) {
+            const auto &installed = *last;
             if (!installed->target)
                 continue; // removed by one that was asked before
             const OSStatus status = installed->handler(event);

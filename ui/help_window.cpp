@@ -157,7 +157,7 @@ public:
 
         connect(back, &QToolButton::clicked, m_browser, &QTextBrowser::backward);
         connect(forward, &QToolButton::clicked, m_browser, &QTextBrowser::forward);
-        connect(contents, &QToolButton::clicked, this, [this] { open(findPage({})); });
+        connect(contents, &QToolButton::clicked, this, [this] { turnTo(findPage({})); });
         connect(m_browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
         connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
         connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
@@ -169,7 +169,7 @@ public:
         resize(metrics.averageCharWidth() * 90, metrics.lineSpacing() * 32);
     }
 
-    void open(const QUrl &page)
+    void turnTo(const QUrl &page)
     {
         if (page.isValid())
             m_browser->setSource(page);
@@ -256,7 +256,7 @@ OSStatus DisplayHelp(const QString &page, QWidget *parent)
         window = new HelpWindow;
     if (QWidget *owner = ownerFor(parent))
         window->setOwner(owner);
-    window->open(url);
+    window->turnTo(url);
     window->show();
     window->raise();
     window->activateWindow();

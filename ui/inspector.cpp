@@ -203,6 +203,7 @@ Done chooseMenuItem(QWidget *control, const MenuItem &item)
 Done chooseText(QComboBox *box, const ItemName &name)
 {
     std::vector<MenuItem> rows;
+    rows.reserve(static_cast<std::size_t>(box->count()));
     for (int i = 0; i < box->count(); ++i)
         rows.push_back({.text = box->itemText(i), .reference = i + 1});
     if (name.by == ItemName::By::Key || name.by == ItemName::By::Reference)

@@ -147,8 +147,7 @@ std::vector<int> ListView::selectedRows() const
             rows.push_back(row);
     }
     std::ranges::sort(rows);
-    const auto repeated = std::ranges::unique(rows);
-    rows.erase(repeated.begin(), repeated.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
 }
 

@@ -35,9 +35,12 @@ QString script(const char *name)
 
 // The run ended with `status`; else what it said.
 #define QENDED(run, wanted)                                                                        \
-    QVERIFY2((run).status == (wanted),                                                             \
-             qPrintable(QStringLiteral("ended with %1\n%2%3")                                      \
-                            .arg(QString::number((run).status), (run).out, (run).err)))
+    do {                                                                                           \
+        const Run &ended = (run);                                                                  \
+        QVERIFY2(ended.status == (wanted),                                                         \
+                 qPrintable(QStringLiteral("ended with %1\n%2%3")                                  \
+                                .arg(QString::number(ended.status), ended.out, ended.err)));       \
+    } while (false)
 
 // The ticket file in a folder that a job went to, and one from settings.
 TicketFile ticketIn(const QString &folder)

@@ -90,7 +90,8 @@ void UnreliableServer::serve()
         if (m_targetPort != 0 && (link.isReliable || m_trouble != Trouble::NeverAnswers)) {
             link.server = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
             const sockaddr_in address = loopback(m_targetPort);
-            ::connect(link.server, reinterpret_cast<const sockaddr *>(&address), sizeof address);
+            (void)::connect(link.server, reinterpret_cast<const sockaddr *>(&address),
+                            sizeof address);
         }
         links.push_back(link);
     };

@@ -229,7 +229,6 @@ void TestPreparedJobs::takeTheirFilesWithThem()
         const auto job = prepareJob(request(reads));
         QVERIFY(job);
         path = job.value().pdfPath;
-        const PreparedJob copy = job.value();
         QVERIFY(QFile::exists(path));
     }
     QVERIFY(!QFile::exists(path));

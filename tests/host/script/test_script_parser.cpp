@@ -6,7 +6,6 @@
 #include <QtTest>
 
 using namespace kelvo;
-using inspector::ItemName;
 
 class TestScriptParser : public QObject
 {
