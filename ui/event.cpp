@@ -47,7 +47,7 @@ void forgetWidget(const QObject *widget)
 OSStatus deliver(const Event &event)
 {
     const QPointer<QWidget> source = event.source;
-    QPointer<QWidget> asked = source;
+    QPointer<QWidget> asked = event.source;
     while (asked) {
         const HandlerList handlers = registry().value(asked.data());
         for (auto last = handlers.crbegin(); last != handlers.crend(); ++last) {
