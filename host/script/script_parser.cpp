@@ -4,11 +4,13 @@
 #include "nearest_name.h"
 #include "size_limits.h"
 
-#include <QFile>
 #include <QStringDecoder>
 
 #include <array>
+#include <cerrno>
 #include <cstring>
+
+#include <unistd.h>
 
 namespace kelvo {
 
@@ -191,7 +193,6 @@ public:
         }
     }
 
-    // Whether the words that are left hold an item before the last one.
     std::size_t left() const { return m_words.size() - m_at; }
 
 private:
@@ -421,18 +422,37 @@ Result<std::vector<ScriptLine>> parseScript(const QByteArray &text, const QStrin
     return lines;
 }
 
+namespace {
+
+// To its end: a pipe gives what is there, and more later.
+Result<QByteArray> readStandardInput()
+{
+    const QString name = QStringLiteral("standard input");
+    QByteArray text;
+    char block[65536];
+    for (;;) {
+        const ssize_t count = ::read(STDIN_FILENO, block, sizeof block);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return Error{Error::Code::NotReadable, name,
+                         QString::fromLocal8Bit(std::strerror(errno)), errno};
+        if (count == 0)
+            return text;
+        text.append(block, count);
+        if (text.size() > limits::scriptBytes)
+            return Error{Error::Code::TooLarge, name,
+                         QStringLiteral("a script has at most 16 MiB")};
+    }
+}
+
+} // namespace
+
 Result<std::vector<ScriptLine>> readScript(const QString &path)
 {
     if (path == QLatin1String("-")) {
-        QFile input;
-        if (!input.open(stdin, QIODevice::ReadOnly))
-            return Error{Error::Code::NotReadable, QStringLiteral("standard input"),
-                         input.errorString()};
-        const QByteArray text = input.read(limits::scriptBytes + 1);
-        if (text.size() > limits::scriptBytes)
-            return Error{Error::Code::TooLarge, QStringLiteral("standard input"),
-                         QStringLiteral("a script has at most 16 MiB")};
-        return parseScript(text, QStringLiteral("(stdin)"));
+        const auto text = readStandardInput();
+        return text ? parseScript(text.value(), standardInputName) : text.error();
     }
     auto text = readFile(path, limits::scriptBytes);
     if (!text)

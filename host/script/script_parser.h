@@ -70,6 +70,9 @@ struct ScriptLine
 // command which one is nearest.
 Result<std::vector<ScriptLine>> parseScript(const QByteArray &text, const QString &file);
 
+// What messages call the script "-".
+inline const QString standardInputName = QStringLiteral("(stdin)");
+
 // The same from a file of at most limits::scriptBytes, or standard input for "-".
 Result<std::vector<ScriptLine>> readScript(const QString &path);
 
