@@ -11,11 +11,12 @@
 #include "script_parser.h"
 #include "script_runner.h"
 #include "size_limits.h"
+#include "temporary_folder.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QSocketNotifier>
-#include <QTemporaryDir>
+#include <QStringDecoder>
 #include <QTimer>
 
 #include <clocale>
@@ -64,11 +65,11 @@ bool hasDisplay()
 
 // A private run-time folder where the session has none: Qt would warn and make
 // one of its own that stays.
-std::unique_ptr<QTemporaryDir> provideRuntimeFolder()
+std::unique_ptr<TemporaryFolder> provideRuntimeFolder()
 {
     if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
         return nullptr;
-    auto folder = std::make_unique<QTemporaryDir>();
+    auto folder = std::make_unique<TemporaryFolder>();
     if (folder->isValid())
         qputenv("XDG_RUNTIME_DIR", folder->path().toLocal8Bit());
     return folder;
@@ -98,6 +99,7 @@ int endAfterBackgroundWork(int status)
     status = endWith(status);
     if (!waitForBackgroundWork(endWaitMs)) {
         // A thread hangs in a server's answer; nothing of the user's is left to do.
+        removeTemporaryFolders();
         std::fflush(nullptr);
         std::_Exit(status);
     }
@@ -137,14 +139,21 @@ void endOnSignals(PrintDialog &dialog)
     struct sigaction action = {};
     action.sa_handler = noteSignal;
     action.sa_flags = SA_RESTART | SA_RESETHAND;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction before = {};
+        sigaction(number, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) // as nohup and shells in the background leave it
+            sigaction(number, &action, nullptr);
+    }
     auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, &dialog);
     QObject::connect(notifier, &QSocketNotifier::activated, &dialog, [&dialog] {
         char byte;
         [[maybe_unused]] const ssize_t count = ::read(signalPipe[0], &byte, 1);
+        // A job that is on its way ends first: the status says what became of it.
+        QObject::connect(&dialog, &PrintDialog::ended, qApp, &QCoreApplication::quit);
         dialog.interrupt();
-        QCoreApplication::quit();
+        if (dialog.finished())
+            QCoreApplication::quit();
     });
 }
 
@@ -162,7 +171,11 @@ Result<QString> readSecret(const QString &path)
     const auto bytes = readFile(path, limits::secretBytes);
     if (!bytes)
         return bytes.error();
-    QString text = QString::fromUtf8(bytes.value());
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    QString text = decoder(bytes.value());
+    if (decoder.hasError())
+        return Error{Error::Code::Damaged, path,
+                     QStringLiteral("this is not UTF-8; write the secret as UTF-8 text")};
     if (text.endsWith(u'\n'))
         text.chop(1);
     if (text.endsWith(u'\r'))
@@ -289,7 +302,9 @@ int runDialog(DialogOptions options)
 
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
-        const QString name = line.script.value_or(QStringLiteral("kelvo-print"));
+        QString name = line.script.value_or(QStringLiteral("kelvo-print"));
+        if (name == QLatin1String("-"))
+            name = standardInputName;
         const bool printsAtEnd = line.print || !line.script;
         runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
                                                 ScriptRunner::Options{name, printsAtEnd});
@@ -383,6 +398,7 @@ int main(int argc, char **argv)
 
     // A file that may not grow is an error of its write, which says so.
     std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -5,6 +5,7 @@
 #include "job_options.h"
 #include "page_ranges.h"
 #include "queue_ppds.h"
+#include "temporary_folder.h"
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
@@ -12,7 +13,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -65,7 +65,7 @@ Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job
             return {};
         }
     }
-    auto folder = std::make_shared<QTemporaryDir>(); // 0700
+    auto folder = std::make_shared<TemporaryFolder>();
     if (!folder->isValid())
         return Error{Code::NotWritable, folder->path(), folder->errorString()};
     job.pdfPath = folder->filePath(QStringLiteral("document.pdf"));

@@ -3,8 +3,8 @@
 #include "cups_connection.h"
 #include "file_store.h"
 #include "queue_ppds.h"
+#include "temporary_folder.h"
 
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -114,7 +114,7 @@ struct PrinterDirectory::Private
 {
     std::mutex mutex;
     PrinterDirectory *owner = nullptr; // null once it is gone
-    QTemporaryDir folder;              // 0700
+    TemporaryFolder folder;
     int ppdCount = 0;
     std::vector<std::weak_ptr<Patience>> conversations;
 

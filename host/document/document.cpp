@@ -3,11 +3,11 @@
 #include "document_files.h"
 #include "output_file.h"
 #include "pdf_pages.h"
+#include "temporary_folder.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -19,8 +19,8 @@ namespace kelvo {
 struct Document::Data
 {
     QString title;
-    std::unique_ptr<QTemporaryDir> folder; // 0700; goes with us
-    QString pdfPath;                       // inside the folder
+    std::unique_ptr<TemporaryFolder> folder; // goes with us
+    QString pdfPath;                         // inside the folder
     std::vector<QSizeF> sizes;
     bool isRepaired = false;
 };
@@ -34,7 +34,7 @@ public:
     static Result<Document> select(const Document::Data &whole, const std::vector<PageRun> &runs);
 
 private:
-    static Result<std::unique_ptr<QTemporaryDir>> makeFolder();
+    static Result<std::unique_ptr<TemporaryFolder>> makeFolder();
     static Result<void> convert(DocumentKind kind, const ConverterFiles &files,
                                 const std::atomic_bool &cancelled);
 };
@@ -100,10 +100,9 @@ QString nameOf(const QString &path)
 
 } // namespace
 
-Result<std::unique_ptr<QTemporaryDir>> DocumentReader::makeFolder()
+Result<std::unique_ptr<TemporaryFolder>> DocumentReader::makeFolder()
 {
-    auto folder = std::make_unique<QTemporaryDir>(
-        QDir::temp().filePath(QStringLiteral("kelvo-print-XXXXXX")));
+    auto folder = std::make_unique<TemporaryFolder>();
     if (!folder->isValid())
         return Error{Error::Code::NotWritable, QDir::tempPath(), folder->errorString()};
     return folder;
