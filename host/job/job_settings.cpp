@@ -189,7 +189,6 @@ QStringList choiceNames(const PpdOption &option)
     return names;
 }
 
-// One -o: what it says, and what it changes.
 // What follows a value that is not among `known`.
 QString nearestOrAll(const QString &value, const QStringList &known)
 {
@@ -199,6 +198,7 @@ QString nearestOrAll(const QString &value, const QStringList &known)
         : QStringLiteral("; there are ") + shortList(known);
 }
 
+// One -o: what it says, and what it changes.
 struct Request
 {
     QString name, value;
@@ -452,6 +452,14 @@ Result<void> applyOption(const QString &name, const QString &value, const PpdFil
     return request.error(Code::NotFound,
                          QStringLiteral("neither this printer nor kelvo-print has such an option%1")
                              .arg(didYouMean(name, known)));
+}
+
+bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd)
+{
+    const QString keyword = QStringLiteral("Duplex");
+    const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
+    const QString choice = choices.value(keyword, option ? option->defaultChoice : QString());
+    return choice == QLatin1String("DuplexNoTumble") || choice == QLatin1String("DuplexTumble");
 }
 
 } // namespace kelvo

@@ -44,6 +44,10 @@ JobSettings jobSettingsFrom(const PrintSession &session, const PpdFile *ppd);
 // the page format's size as it was. Locked entries stay.
 void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSession &session);
 
+// Whether both sides are printed: by the choice of "Duplex", or by the PPD's own
+// default where nothing is chosen.
+bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd);
+
 // The size in points of a page size of the PPD, or of "Custom.WxH" (with pt, in,
 // ft, cm, mm or m behind it, else points) within the PPD's limits; none otherwise.
 std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);

@@ -207,13 +207,12 @@ QString JobWords::asText() const
     return text;
 }
 
-QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
-                     const SecretKeys &keys)
+QString shortSummary(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
+                     int pages, const SecretKeys &keys)
 {
     QStringList parts;
     if (pages > 0) {
-        const QString duplex = ticket.printSettings.ppdChoices.value(QStringLiteral("Duplex"));
-        const bool twoSided = duplex.startsWith(QLatin1String("Duplex"));
+        const bool twoSided = isTwoSided(ticket.printSettings.ppdChoices, ppd);
         const int sheets = twoSided ? pages / 2 + pages % 2 : pages;
         QString paper = counted(sheets, "sheet", "sheets");
         if (settings.copies > 1)

@@ -27,9 +27,9 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
                      const SecretKeys &keys);
 
 // "12 pages, 6 sheets × 2 copies = 12 sheets, locked": what the foot says. `pages`
-// are those to be printed, 0 while they are not known; sheets
-// count two sides where the ticket's PPD choice "Duplex" prints them.
-QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
-                     const SecretKeys &keys);
+// are those to be printed, 0 while they are not known; two-sided sheets count
+// two of them.
+QString shortSummary(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
+                     int pages, const SecretKeys &keys);
 
 } // namespace kelvo

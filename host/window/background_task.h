@@ -40,7 +40,6 @@ public:
             answer();
     }
 
-    bool isRunning() const { return m_watcher != nullptr; }
     void drop() { m_watcher.reset(); }
 
 private:

@@ -220,7 +220,7 @@ void DialogSession::beginWithoutPpd(const QString &why)
 
 void DialogSession::beginWhenComplete()
 {
-    if (m_arePrintersKnown && m_isPpdKnown && findPrinter(m_printerName))
+    if (m_stage != Stage::Ready && m_arePrintersKnown && m_isPpdKnown && findPrinter(m_printerName))
         begin();
 }
 
@@ -342,11 +342,13 @@ void DialogSession::usePreset(const TicketFile *preset)
     layDefaults();
     if (preset)
         layWithUnknown(*preset);
-    PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, title());
-    JobSettings own = settings();
-    own.pageRanges = pages;
+    const PMTicketRef print = m_session->printSettingsTicket();
+    PMTicketSetCFString(print, hostClient, kPMJobNameKey, title());
+    // The pages are the user's, and no other printer takes them away.
+    if (!pages.isEmpty())
+        PMTicketSetCFString(print, hostClient, kPMPageRangesKey, pages);
     m_came = ticketFileFrom(*m_session);
-    writeJobSettings(own, m_ppd.get(), *m_session);
+    writeJobSettings(settings(), m_ppd.get(), *m_session);
     settle();
     m_wasChanged = false;
     emit reloaded();
@@ -357,9 +359,8 @@ bool DialogSession::isChanged() const
     return m_wasChanged || !asksForTheSame(m_unchanged, ticketFileFrom(*m_session));
 }
 
-void DialogSession::takeAsUnchanged(const Dictionary &unknown)
+void DialogSession::takeAsUnchanged()
 {
-    m_unknown = unknown;
     m_unchanged = ticketFileFrom(*m_session);
     m_wasChanged = false;
 }

@@ -58,7 +58,7 @@ public:
 
     enum class Stage {
         Searching, // printers or the PPD are on their way
-        Stuck,     // no printer to print to: see problem()
+        Stuck,     // no printer to print to: see message()
         Ready,     // tickets are there, and panels when the device has some
     };
     Stage stage() const { return m_stage; }
@@ -106,7 +106,7 @@ public:
     bool isChanged() const;
     // The settings as they stand are what the preset says, or are not any more.
     // `unknown` is what else stands in the root of that preset.
-    void takeAsUnchanged(const Dictionary &unknown);
+    void takeAsUnchanged();
     void takeAsChanged() { m_wasChanged = true; }
 
     ConflictReport conflicts(); // as the ticket stands

@@ -390,11 +390,6 @@ bool DocumentPreview::isDrawing() const
     return d->askedPage > 0 && !d->hasAnswer;
 }
 
-int DocumentPreview::sheetCount() const
-{
-    return sheetsFor(d->count(), d->layout.twoSided);
-}
-
 QSize DocumentPreview::sizeHint() const
 {
     const int em = fontMetrics().height();

@@ -31,7 +31,6 @@ public:
     void setLayout(const Layout &layout);
     void setMessage(const QString &message); // instead of a page; empty shows pages again
 
-    int sheetCount() const;
     bool isDrawing() const; // a page that was asked for is not in sight yet
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -294,8 +294,11 @@ bool PresetMenu::store(const QString &name, bool keepSecrets)
     TicketFile ticket = m_session.ticket();
     // A preset that is replaced keeps what we do not know of it.
     if (findOwn(name)) {
-        if (const auto stored = m_store.read(name))
-            ticket.unknown = stored.value().unknown;
+        if (const auto stored = m_store.read(name)) {
+            Dictionary unknown = stored.value().unknown;
+            unknown.insert(ticket.unknown);
+            ticket.unknown = unknown;
+        }
         ticket.unknown.remove(kTicketNonceKey);
     }
     if (const auto saved = m_store.save(name, ticket, m_session.secretKeys(), keepSecrets);
@@ -306,7 +309,7 @@ bool PresetMenu::store(const QString &name, bool keepSecrets)
         return false;
     }
     m_chosen = name;
-    m_session.takeAsUnchanged(ticket.unknown);
+    m_session.takeAsUnchanged();
     m_hasStar = false;
     reload();
     return true;

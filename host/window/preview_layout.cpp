@@ -45,11 +45,6 @@ PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation ori
     return placement;
 }
 
-int sheetsFor(int pages, bool twoSided)
-{
-    return twoSided ? (pages + 1) / 2 : pages;
-}
-
 QString sideCaption(int index, bool twoSided, int page, int count)
 {
     if (!twoSided)

@@ -28,9 +28,6 @@ struct PagePlacement
 // turn everything upside down.
 PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation orientation);
 
-// Sheets of paper for `pages` pages.
-int sheetsFor(int pages, bool twoSided);
-
 // "Sheet 2, front · page 3 of 12" for page `index` (from 0) of what is printed,
 // which is page `page` of the document's `count`. One-sided sheets have no front.
 QString sideCaption(int index, bool twoSided, int page, int count);

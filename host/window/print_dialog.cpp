@@ -55,6 +55,8 @@ constexpr int graceMs = 40;
 
 // So long the document waits for the first frame with the printer's settings.
 constexpr int firstFrameMs = 300;
+// So long an interrupted job may still tell what became of it.
+constexpr int interruptMs = 5000;
 constexpr int activationWaitMs = 1000; // a window manager takes less
 
 constexpr ControlID shellSelector = {kShellSignature, 16};
@@ -107,6 +109,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     , m_cancel(button("cancel", tr("Cancel"), this))
     , m_print(button("print", tr("&Print"), this))
 {
+    m_options.directory.reset(); // the session's alone, which ends it
     setObjectName(QStringLiteral("printDialog"));
     setPrintWindow(this);
     setWindowButtons(this, m_print, m_cancel);
@@ -377,9 +380,8 @@ void PrintDialog::updatePreview()
     layout.orientation = settings.orientation;
     if (const auto &ppd = m_session->ppd())
         layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());
-    const QString duplex =
-        m_session->tickets().printSettings().ppdChoices.value(QStringLiteral("Duplex"));
-    layout.twoSided = !duplex.isEmpty() && duplex != QLatin1String("None");
+    layout.twoSided =
+        isTwoSided(m_session->tickets().printSettings().ppdChoices, m_session->ppd().get());
     m_preview->setLayout(layout);
 }
 
@@ -399,8 +401,8 @@ void PrintDialog::updateFoot()
         // Pages that are still to be typed are no mistake yet.
         m_printer->setPagesProblem(m_printer->arePagesMissing() ? QString() : problem);
         if (runs && problem.isEmpty())
-            text = shortSummary(m_session->ticket(), settings, pageCount(runs.value()),
-                                m_session->secretKeys());
+            text = shortSummary(m_session->ticket(), settings, m_session->ppd().get(),
+                                pageCount(runs.value()), m_session->secretKeys());
         else
             text = tr("Not to be printed like this. Pages: %1").arg(problem);
     }
@@ -463,8 +465,11 @@ void PrintDialog::fixConflicts()
 JobWords PrintDialog::words()
 {
     m_session->writeAll();
-    return describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
-                       m_session->secretKeys());
+    JobWords words = describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
+                                 m_session->secretKeys());
+    if (Extension *panels = m_session->panels())
+        words.settings += panels->summary();
+    return words;
 }
 
 void PrintDialog::showDetails()
@@ -515,7 +520,7 @@ void PrintDialog::pressPrint()
         m_print->click();
         return;
     }
-    if (m_run || m_finished)
+    if (m_run || m_finished || !m_isDriven)
         return;
     const ExitStatus status = m_session->stage() == DialogSession::Stage::Ready
         ? ExitStatus::Failed
@@ -549,7 +554,6 @@ bool PrintDialog::endsInConflict()
             if (m_session->conflicts().isEmpty())
                 return false;
         } else {
-            m_printStatus = ExitStatus::NotOffered;
             return true;
         }
     }
@@ -635,6 +639,13 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
         end(ExitStatus::Printed);
         return;
     }
+    if (m_isInterrupted) {
+        end(outcome.status);
+        return;
+    }
+    // What was left alone meanwhile: a fix before the print, say.
+    m_look.stop();
+    lookAtSettings();
     refusePrint(outcome.status, tr("“%1” was not printed").arg(m_session->title()),
                 outcome.problem);
 }
@@ -661,9 +672,20 @@ void PrintDialog::pressCancel()
 
 void PrintDialog::interrupt()
 {
-    if (m_run)
-        m_run->cancel();
-    end(ExitStatus::Cancelled);
+    if (!m_run) {
+        end(ExitStatus::Cancelled);
+        return;
+    }
+    m_run->cancel();
+    m_isInterrupted = true;
+    QTimer::singleShot(interruptMs, this, [this] {
+        if (m_finished)
+            return;
+        std::fprintf(stderr,
+                     "kelvo-print: interrupted while the job was being sent; it may have "
+                     "been accepted: look at the printer's queue before you print again\n");
+        end(ExitStatus::Failed);
+    });
 }
 
 void PrintDialog::end(ExitStatus status)

@@ -46,7 +46,8 @@ public:
     void setSecrets(QMap<QString, QString> secrets) { m_secrets = std::move(secrets); }
     // Writes --ticket-out as the settings stand; nothing without that option.
     Result<void> writeTicketOut();
-    // Ends as Cancel does, whatever is under way.
+    // Ends as Cancel does. A job that is on its way is cancelled and waited for, for
+    // a few seconds: the status says what became of it.
     void interrupt();
 
     bool isIdle() const override;
@@ -137,6 +138,7 @@ private:
     QTimer m_firstFrame;           // until then the document is not opened
     bool m_hasLooked = false;      // at the settings of any printer
     bool m_isDriven = false;
+    bool m_isInterrupted = false;   // what is under way is the last
     QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
     QElapsedTimer m_sinceShown;
     QMap<QString, QString> m_secrets;

@@ -38,7 +38,6 @@ public:
     ~PrintRun() override; // cancels
 
     void start(Order order);
-    bool isRunning() const { return m_task.isRunning(); }
     // Stops before the document is complete where that is still possible; the
     // outcome says what happened.
     void cancel();

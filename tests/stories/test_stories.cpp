@@ -122,6 +122,9 @@ private slots:
     void refusesASecretThatWouldLieOpen();
     void printsOtherMakersDevicesWithoutPanels_data();
     void printsOtherMakersDevicesWithoutPanels();
+    void readsScriptsFromAPipeToTheirEnd();
+    void keepsPagesAcrossPresetsAndPrinters();
+    void countsSheetsAsThePrinterDoes();
     void saysThatItsPanelsAreDamaged();
     void leavesOutAChoiceThatNoTableKnows();
     void saysWhyNothingCanBeChosen();
@@ -386,6 +389,43 @@ void TestStories::printsOtherMakersDevicesWithoutPanels()
              readsTickets);
 }
 
+void TestStories::readsScriptsFromAPipeToTheirEnd()
+{
+    const Desk desk;
+    QByteArray lines;
+    for (int i = 0; i < 9000; ++i)
+        lines += "# as long as no pipe is at once\n";
+    lines += "expect @copies value 77\n";
+    const Run run = desk.run({"--demo", "--no-window", "--script", "-"}, lines);
+    QENDED(run, 2);
+    QVERIFY2(run.err.contains("(stdin):9001: "), qPrintable(run.err));
+}
+
+void TestStories::keepsPagesAcrossPresetsAndPrinters()
+{
+    const Desk desk;
+    const std::size_t before = m_cups.jobs(0).size();
+    write(desk.path("s.kps"),
+          "choose @pagesChoice key range\ntype @pages \"2-3\"\nchoose @preset row 1\n"
+          "choose @printer key No-Ticket\nprint\n");
+    const Run run = desk.run({"-d", "Hall-3", "--no-window", "--script", "s.kps", documentPath});
+    QENDED(run, 0);
+    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
+    QCOMPARE(jobs.size(), before + 1);
+    QCOMPARE(Poppler::Document::loadFromData(jobs.back().document)->numPages(), 2);
+}
+
+void TestStories::countsSheetsAsThePrinterDoes()
+{
+    const Desk desk;
+    QByteArray ppd = contents(fullPpd);
+    ppd.replace("*DefaultDuplex: None", "*DefaultDuplex: DuplexNoTumble");
+    write(desk.path("two-sided.ppd"), ppd);
+    write(desk.path("s.kps"), "expect @summary text \"6 pages, 3 sheets\"\n");
+    QENDED(desk.run({"--ppd", "two-sided.ppd", "--no-window", "--script", "s.kps", documentPath}),
+           0);
+}
+
 void TestStories::saysThatItsPanelsAreDamaged()
 {
     Desk desk;
@@ -545,6 +585,18 @@ void TestStories::endsOnAnInterrupt()
     const Run dead = desk.interrupt({"--no-window", documentPath}, 700);
     QENDED(dead, 130);
     QVERIFY2(dead.ms < 4000, qPrintable(QString::number(dead.ms)));
+
+    // A document that is out may be printed: that is no cancelling.
+    const UnreliableServer mute(UnreliableServer::Trouble::LosesAnswers, m_cups.port());
+    desk.set("CUPS_SERVER", mute.address());
+    desk.set("TMPDIR", desk.path("tmp"));
+    QVERIFY(QDir().mkpath(desk.path("tmp")));
+    const Run sent = desk.interrupt({"-d", "Hall-3", "--no-window", documentPath}, 2500);
+    QENDED(sent, 1);
+    QVERIFY2(sent.err.contains("may have been accepted"), qPrintable(sent.err));
+    QVERIFY2(sent.ms < 12000, qPrintable(QString::number(sent.ms)));
+    QCOMPARE(QDir(desk.path("tmp")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList());
 
     const Run ready = Desk().interrupt({"--demo"}, 700);
     QENDED(ready, 130);

@@ -164,7 +164,7 @@ void TestSecrets::areSaidInTheSummary()
         file.printSettings.ppdChoices["Duplex"] = duplex;
     JobSettings settings;
     settings.copies = copies;
-    QCOMPARE(shortSummary(file, settings, pages, {{"Job/Password"}, {}}), summary);
+    QCOMPARE(shortSummary(file, settings, nullptr, pages, {{"Job/Password"}, {}}), summary);
 }
 
 void TestSecrets::wordsStayInBounds()

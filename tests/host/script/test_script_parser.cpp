@@ -207,6 +207,10 @@ void TestScriptParser::masksTheLongerSecretFirst()
     QCOMPARE(maskedText(QStringLiteral("code 1234, not 12"),
                         {QStringLiteral("12"), QStringLiteral("1234"), QString()}),
              QStringLiteral("code ••••, not ••••"));
+    const QString quoted = QStringLiteral("a\"b\\c");
+    for (const QString &text : {quoted, QStringLiteral("{\"text\":\"a\\\"b\\\\c\"}"),
+                                QString::fromLatin1(quoted.toUtf8().toBase64())})
+        QVERIFY2(maskedText(text, {quoted}).contains(QStringLiteral("••••")), qPrintable(text));
 }
 
 QTEST_GUILESS_MAIN(TestScriptParser)
