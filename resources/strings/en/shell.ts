@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>About Description</source>
-        <translation>Settings of Corvane devices in the print dialog: paper and output, image quality, booklets and watermarks, secure print and fax.</translation>
+        <translation>Settings of Corvane devices in the print dialog.</translation>
     </message>
     <message>
         <source>About Device</source>
