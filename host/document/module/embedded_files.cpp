@@ -1,5 +1,5 @@
 #include "functions.h"
-#include "output_file.h"
+#include "pdf_writer.h"
 
 #include <QFile>
 
@@ -8,7 +8,6 @@
 #include <qpdf/QPDFEmbeddedFileDocumentHelper.hh>
 #include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFFileSpecObjectHelper.hh>
-#include <qpdf/QPDFWriter.hh>
 
 #include <vector>
 
@@ -52,28 +51,6 @@ std::vector<std::string> keysOf(QPDFEmbeddedFileDocumentHelper &files, const QSt
     return keys;
 }
 
-Result<void> write(QPDF &pdf, const QString &target)
-{
-    auto file = OutputFile::create(target);
-    if (!file)
-        return file.error();
-    std::string failure;
-    try {
-        QPDFWriter writer(pdf, "document", file.value().stream(), false);
-        writer.write();
-    } catch (const QPDFExc &) {
-        (void)file.value().close(); // the document is at fault, which guarded() tells
-        throw;
-    } catch (const std::exception &problem) {
-        failure = problem.what();
-    }
-    if (auto closed = file.value().close(); !closed)
-        return closed;
-    if (!failure.empty())
-        return Error{Code::NotWritable, target, QString::fromStdString(failure)};
-    return {};
-}
-
 } // namespace
 
 Result<bool> holdsEmbeddedFile(const QString &pdfPath, const QString &name)
@@ -103,7 +80,7 @@ Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
             files.replaceEmbeddedFile(key,
                                       QPDFFileSpecObjectHelper::createFileSpec(pdf, key, stream));
         }
-        return write(pdf, target);
+        return writePdf(pdf, target);
     });
 }
 

@@ -1,5 +1,5 @@
 #include "functions.h"
-#include "output_file.h"
+#include "pdf_writer.h"
 
 #include <QFile>
 #include <QRectF>
@@ -8,7 +8,6 @@
 #include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
-#include <qpdf/QPDFWriter.hh>
 
 #include <algorithm>
 #include <cmath>
@@ -79,32 +78,6 @@ QSizeF shownSize(QPDFPageObjectHelper &page)
     return isSideways ? size.transposed() : size;
 }
 
-// Writes `pdf` to a new file at `target`. Warnings of the writer count as
-// damage repaired; a disk that filled up does not.
-Result<void> write(QPDF &pdf, const QString &target)
-{
-    Result<OutputFile> file = OutputFile::create(target);
-    if (!file)
-        return file.error();
-    std::string failure;
-    try {
-        QPDFWriter writer(pdf, "document", file.value().stream(), false);
-        writer.setPreserveEncryption(false);
-        writer.write();
-    } catch (const QPDFExc &) {
-        (void)file.value().close(); // the document is at fault, which guarded() tells
-        throw;
-    } catch (const std::exception &problem) {
-        failure = problem.what();
-    }
-    if (Result<void> closed = file.value().close(); !closed)
-        return closed.error();
-    if (!failure.empty()) {
-        return Error{Error::Code::NotWritable, target, QString::fromStdString(failure)};
-    }
-    return {};
-}
-
 bool beginsWithHeader(const QString &path)
 {
     QFile file(path);
@@ -136,7 +109,7 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target)
                 return Error{Error::Code::NotWritable, target, file.errorString()};
             return pages;
         }
-        if (Result<void> written = write(pdf, target); !written)
+        if (Result<void> written = writePdf(pdf, target); !written)
             return written.error();
         return pages;
     });
@@ -174,7 +147,7 @@ Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &r
             }
         }
         pdf.getRoot().removeKey("/PageLabels"); // they count the pages that were
-        return write(pdf, target);
+        return writePdf(pdf, target);
     });
 }
 
