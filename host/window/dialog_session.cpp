@@ -345,7 +345,9 @@ void DialogSession::usePreset(const TicketFile *preset)
     const PMTicketRef print = m_session->printSettingsTicket();
     PMTicketSetCFString(print, hostClient, kPMJobNameKey, title());
     // The pages are the user's, and no other printer takes them away.
-    if (!pages.isEmpty())
+    if (pages.isEmpty())
+        PMTicketReleaseItem(print, kPMPageRangesKey);
+    else
         PMTicketSetCFString(print, hostClient, kPMPageRangesKey, pages);
     m_came = ticketFileFrom(*m_session);
     writeJobSettings(settings(), m_ppd.get(), *m_session);

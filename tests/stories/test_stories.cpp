@@ -294,6 +294,12 @@ void TestStories::cutsPagesOnlyOnce()
     const auto pdf = Poppler::Document::loadFromData(job.document);
     QVERIFY(pdf);
     QCOMPARE(pdf->numPages(), 2);
+
+    // All, once chosen, outlasts the queue's default and a preset.
+    write(desk.path("s.kps"),
+          "choose @pagesChoice key all\nchoose @preset row 1\n"
+          "expect @pagesChoice text \"All\"\n");
+    QENDED(desk.run({"-d", "Half", "--no-window", "--script", "s.kps", documentPath}), 0);
 }
 
 void TestStories::refusesASecretThatWouldLieOpen_data()
