@@ -1,5 +1,7 @@
 #include "print_checks.h"
 
+#include "job_types.h"
+
 namespace kelvo {
 
 PrintCheck checkBeforePrint(const JobTypeState &state)

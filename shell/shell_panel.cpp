@@ -7,6 +7,7 @@
 #include "flat_selector.h"
 #include "help_window.h"
 #include "installed_features.h"
+#include "job_types.h"
 #include "notice.h"
 #include "pde_hooks.h"
 #include "picture_view.h"

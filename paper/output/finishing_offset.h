@@ -1,0 +1,39 @@
+#pragma once
+
+#include "finishing.h"
+
+#include <QString>
+
+#include <cstdint>
+
+// The rules of the offset dialog: which sets, and which parts of them, the
+// device moves aside.
+namespace kelvo {
+
+inline constexpr int kMostPagesPerSubset = 99'999;
+
+struct OffsetSettings
+{
+    std::int32_t offset = kOffsetNone; // kOffset…
+    bool hasSubsets = false;
+    std::int32_t pagesPerSubset = 0;
+
+    friend bool operator==(const OffsetSettings &, const OffsetSettings &) = default;
+};
+
+// What the dialog begins with; without subsets their pages are shown as 0.
+OffsetSettings offsetOf(const Finishing &finishing);
+// What OK stores. Pages per subset only with subsets.
+void storeOffset(Finishing &finishing, const OffsetSettings &settings);
+
+// The user chose `offset`, or switched subsets.
+OffsetSettings withOffset(OffsetSettings settings, std::int32_t offset);
+OffsetSettings withSubsets(OffsetSettings settings, bool hasSubsets);
+
+// "no offset" and "between sets" know no subsets; the field for their pages goes
+// with the switch.
+bool isSubsetSwitchEnabled(const OffsetSettings &settings);
+
+QString offsetPicture(std::int32_t offset);
+
+} // namespace kelvo

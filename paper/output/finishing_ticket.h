@@ -1,0 +1,28 @@
+#pragma once
+
+#include "finishing.h"
+
+#include <QString>
+
+#include <optional>
+
+// Staples and holes as PPD choices. The device's choices say where on the sheet
+// they go, so they depend on how the page lies: orientation 1 portrait, 2
+// landscape, 3 reverse portrait, 4 reverse landscape.
+namespace kelvo {
+
+// The "KVPunch" choice for two, three or four holes; none for any other value
+// and any other orientation.
+std::optional<QString> punchChoice(std::int32_t punch, std::int32_t orientation);
+// The holes of a landscape choice, which has no ticket value of its own; none for
+// any other choice.
+std::optional<std::int32_t> punchOfChoice(const QString &choice);
+
+// The "StapleLocation" choice. Reversed pages have one choice each, whatever is
+// chosen: reverse landscape "SingleLandscape", reverse portrait "DualPortrait".
+// None for a value without a choice, on pages that are not reversed.
+std::optional<QString> stapleChoice(std::int32_t staple, std::int32_t orientation);
+// The staple of a choice without a ticket value of its own, as above.
+std::optional<std::int32_t> stapleOfChoice(const QString &choice);
+
+} // namespace kelvo

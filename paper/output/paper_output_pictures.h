@@ -1,0 +1,20 @@
+#pragma once
+
+#include "paper_output_context.h"
+
+#include <QString>
+
+// The pictures of the panel's icons, as the bundle names them ("….gif"); empty
+// where nothing is drawn.
+namespace kelvo {
+
+QString jobTypePicture(std::int32_t jobType);
+QString duplexPicture(const _PaperOutputContext &context);
+QString staplePicture(const Finishing &finishing);
+QString punchPicture(std::int32_t punch);
+QString colorModePicture(std::int32_t colorMode);
+// All finishing in one: a fold decides alone, then staples with holes, then holes.
+// Two holes show three here; the icon beside the hole punch menu shows two.
+QString finishingPicture(const _PaperOutputContext &context);
+
+} // namespace kelvo

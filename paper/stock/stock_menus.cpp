@@ -1,0 +1,171 @@
+#include "stock_menus.h"
+
+#include "installed_features.h"
+#include "ppd_choices.h"
+#include "ticket_values.h"
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+MenuItem divider()
+{
+    MenuItem item;
+    item.text = QStringLiteral("-");
+    item.enabled = false;
+    item.divider = true;
+    return item;
+}
+
+MenuItem commandItem(const QString &text, OSType command, std::int32_t reference = 0)
+{
+    MenuItem item;
+    item.text = text;
+    item.command = command;
+    item.reference = reference;
+    return item;
+}
+
+std::vector<MenuItem> choices(const char *option, OSType command)
+{
+    Menu menu;
+    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), QString::fromLatin1(option), command, false);
+    return std::move(menu.items);
+}
+
+MenuItem useJobSetting(CFBundleRef bundle, OSType command)
+{
+    return commandItem(localizedText(bundle, QStringLiteral("UseJobSetting")), command, kUnset);
+}
+
+void append(Menu &menu, std::vector<MenuItem> items)
+{
+    menu.items.insert(menu.items.end(), std::make_move_iterator(items.begin()),
+                      std::make_move_iterator(items.end()));
+}
+
+// An item that opens one of the menus below.
+void appendSubmenu(Menu &menu, CFBundleRef bundle, const char *titleKey, OSType command,
+                   void (*populate)(Menu &, CFBundleRef, JobContext), JobContext jobContext)
+{
+    Menu submenu;
+    populate(submenu, bundle, jobContext);
+    MenuItem item = commandItem(localizedText(bundle, QString::fromLatin1(titleKey)), command);
+    item.enabled = !submenu.items.empty();
+    item.submenu = std::move(submenu.items);
+    menu.items.push_back(std::move(item));
+}
+
+} // namespace
+
+void PopulateStockSizeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    std::vector<MenuItem> items = choices("PageSize", kCommandStockSize);
+    if (jobContext == kJobContextCovers) {
+        const auto custom = std::ranges::find(items, kStockSizeCustom, &MenuItem::reference);
+        if (custom != items.end())
+            custom->enabled = false;
+    }
+    if (jobContext != kJobContextJob)
+        items.insert(items.begin(), useJobSetting(bundle, kCommandStockSize));
+    append(menu, std::move(items));
+}
+
+void PopulateStockColorMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    std::vector<MenuItem> items = choices("MediaColor", kCommandStockColor);
+    if (jobContext != kJobContextJob) {
+        const auto unspecified =
+            std::ranges::find(items, kStockColorUnspecified, &MenuItem::reference);
+        if (unspecified != items.end())
+            items.erase(unspecified);
+        items.insert(items.begin(), useJobSetting(bundle, kCommandStockColor));
+    }
+    append(menu, std::move(items));
+}
+
+void PopulateStockTypeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    std::vector<MenuItem> items = choices("MediaType", kCommandStockType);
+    if (jobContext != kJobContextJob) {
+        std::erase_if(items, [](const MenuItem &item) {
+            return item.reference == kStockTypeSystemDefault
+                || item.reference == kStockTypeUnspecified;
+        });
+        items.insert(items.begin(), useJobSetting(bundle, kCommandStockType));
+    }
+    append(menu, std::move(items));
+}
+
+void PopulateStockMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    if (jobContext != kJobContextJob)
+        appendSubmenu(menu, bundle, "OtherSize", kCommandStockSize, PopulateStockSizeMenu,
+                      jobContext);
+    appendSubmenu(menu, bundle, "OtherColor", kNoCommand, PopulateStockColorMenu, jobContext);
+    appendSubmenu(menu, bundle, "OtherType", kNoCommand, PopulateStockTypeMenu, jobContext);
+    menu.items.push_back(divider());
+    menu.items.push_back(divider());
+    if (jobContext == kJobContextCovers || jobContext == kJobContextInserts) {
+        const std::optional<QString> name = CopyLocalizedStringForInstalledFeatureFromPlugin(
+            QStringLiteral("PostPrintInserterKey"), bundle);
+        if (name)
+            menu.items.push_back(commandItem(*name, kCommandStockSource, kStockSourceInserter));
+    }
+}
+
+Menu stockButtonMenu(CFBundleRef bundle, JobContext jobContext)
+{
+    Menu menu;
+    menu.items.push_back(commandItem(localizedText(bundle, QStringLiteral("Default Stock")),
+                                     kCommandStockDefault));
+    menu.items.push_back(divider());
+    PopulateStockMenu(menu, bundle, jobContext);
+    menu.items.push_back(divider());
+    menu.items.push_back(
+        commandItem(localizedText(bundle, QStringLiteral("Advanced Stock Selection...")),
+                    kCommandStockAdvanced));
+    return menu;
+}
+
+bool applyStockCommand(Stock &stock, OSType command, std::int32_t value, JobContext jobContext)
+{
+    switch (command) {
+    case kCommandStockSize:
+        if (value == kStockSizeCustom)
+            return false;
+        stock.setSource(kUnset);
+        stock.setSize(value);
+        break;
+    case kCommandStockColor:
+        stock.setSource(kUnset);
+        stock.setColor(value);
+        break;
+    case kCommandStockType:
+        stock.setSource(kUnset);
+        stock.setType(value);
+        if (value == kStockTypeTransparency)
+            stock.setColor(kStockColorClear);
+        break;
+    case kCommandStockSource:
+        stock.setSource(value);
+        return true; // the name stays
+    case kCommandStockDefault:
+        DefaultStock(&stock, jobContext);
+        return true;
+    default:
+        return false;
+    }
+    forgetStockName(stock);
+    return true;
+}
+
+void forgetStockName(Stock &stock)
+{
+    stock.setCustomName(QStringLiteral(""));
+    stock.setCustomNameOnly(false);
+}
+
+} // namespace kelvo

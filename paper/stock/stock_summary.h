@@ -1,0 +1,26 @@
+#pragma once
+
+#include "bundle.h"
+#include "stock.h"
+
+#include <QString>
+
+namespace kelvo {
+
+// One line for each thing that the stock says, joined by `separator`:
+//
+//   its name ("Name:My card"); the size, but for the job's own stock, whose size
+//   belongs to the page set-up; colour; type. A stock known by its name alone
+//   shows nothing else, one from the post-print inserter only that, and one from
+//   another source nothing.
+//
+// What is not set has no line; for the job an unset colour or type is a line
+// without text. Texts are the current PPD's.
+QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const Stock &stock,
+                             const QString &separator);
+
+// What a summary view shows for it: the lines, or where there are none "printer
+// default" (the job) or "use job setting". Empty for null.
+QString stockSummaryText(CFBundleRef bundle, JobContext jobContext, const Stock *stock);
+
+} // namespace kelvo

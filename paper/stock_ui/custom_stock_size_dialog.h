@@ -1,0 +1,19 @@
+#pragma once
+
+#include "bundle.h"
+#include "status.h"
+
+#include <cstdint>
+
+class QWidget;
+
+namespace kelvo {
+
+// Asks for a width and a length, 1/100 mm; kUnset begins with the device's default
+// page size. They are written after OK alone. paramErr when a pointer is missing,
+// kWindowNotMade when the window is.
+OSStatus RunModalCustomStockSizeDialog(CFBundleRef bundle, DialogResult *result,
+                                       std::int32_t *width, std::int32_t *length,
+                                       QWidget *parent = nullptr);
+
+} // namespace kelvo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "bundle.h"
+#include "status.h"
+#include "stock.h"
+
+class QWidget;
+
+// What a stock is, beyond the menu of its button. `result` is OK or Cancel;
+// nothing changes on Cancel. paramErr when a pointer is missing, kWindowNotMade
+// when the window is.
+namespace kelvo {
+
+// Which named stocks a dialog offers: 1, those of the user's library.
+enum NamedPaperContext : std::int32_t { kNamedPaperLibrary = 1 };
+
+// Description, weight, coating, finish, grain, punched and comment.
+OSStatus RunModalStockDescriptionSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
+                                       Stock *stock, DialogResult *result,
+                                       QWidget *parent = nullptr);
+
+// Type, with the name and the number of tabs of those types that have them.
+OSStatus RunModalStockTypeSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
+                                Stock *stock, DialogResult *result, QWidget *parent = nullptr);
+
+// All of the stock, with the library of named stocks.
+OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
+                                        NamedPaperContext namedPapers, Stock *stock,
+                                        DialogResult *result, QWidget *parent = nullptr);
+
+} // namespace kelvo

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "bundle.h"
+#include "image_shift.h"
+#include "status.h"
+#include "stock.h"
+
+class QWidget;
+
+// How tab stock is printed. `result` is OK or Cancel; nothing changes on Cancel.
+// paramErr when a pointer is missing, kWindowNotMade when the window is.
+namespace kelvo {
+
+// How far the image moves towards the tab; the stock itself is not changed.
+OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock, _IS_Options *options,
+                                     DialogResult *result, QWidget *parent = nullptr);
+
+inline constexpr int kFewestTabs = 1, kMostTabs = 254, kUsualTabs = 3; // in a set
+
+// How many tabs a set of pre-cut tab stock has: the stock's modulus.
+OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
+                                     Stock *stock, DialogResult *result,
+                                     QWidget *parent = nullptr);
+
+} // namespace kelvo

@@ -1,0 +1,33 @@
+#include "special_page.h"
+
+#include "ticket_values.h"
+
+namespace kelvo {
+
+namespace {
+
+const QString startPageKey = QStringLiteral("StartPage");
+const QString stockKey = QStringLiteral("Stock");
+
+Stock stockFrom(const std::optional<Dictionary> &dictionary)
+{
+    return Stock(dictionary ? &*dictionary : nullptr);
+}
+
+} // namespace
+
+SpecialPage::SpecialPage(const Dictionary &dictionary)
+    : m_startPage(integer32(dictionary, startPageKey).value_or(0))
+    , m_stock(stockFrom(kelvo::dictionary(dictionary, stockKey)))
+{
+}
+
+Dictionary SpecialPage::asTicket() const
+{
+    Dictionary dictionary;
+    WriteTicketValue(dictionary, startPageKey, m_startPage);
+    dictionary.insert(stockKey, m_stock.asTicket());
+    return dictionary;
+}
+
+} // namespace kelvo
