@@ -1,5 +1,7 @@
 #pragma once
 
+#include "setting_map.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -10,18 +12,19 @@ namespace kelvo {
 
 inline constexpr int kFirstMailbox = 1;
 inline constexpr int kLastMailbox = 200;
-inline constexpr int kLongestSavedJobName = 24;       // characters
-inline constexpr int kShortestSavedJobPasscode = 4;   // digits
-inline constexpr int kLongestAnnouncedPasscode = 20;  // digits, as its announcement says
-inline constexpr std::int32_t kSaveOnly = 1;          // positions in SavedJobSaveOptionRadioMap
+inline constexpr int kLongestSavedJobName = 24;      // characters
+inline constexpr int kShortestSavedJobPasscode = 4;  // digits
+inline constexpr int kLongestAnnouncedPasscode = 20; // digits, as its announcement says
+inline constexpr std::int32_t kSaveOnly = 1;         // positions in SavedJobSaveOptionRadioMap
 inline constexpr std::int32_t kSaveAndPrint = 2;
 
-// What the mailbox keeps; values of "SavedJobFormat".
+// What the device keeps the job as: values of SavedJobFormatMap.
 inline constexpr std::int32_t kSavedAsTiff = 1;
 inline constexpr std::int32_t kSavedAsMultiPageTiff = 2;
 inline constexpr std::int32_t kSavedAsPdf = 3;
-inline constexpr std::int32_t kSavedAsRaster = 4;               // the device's own
-inline constexpr std::int32_t kSavedAsScalableRaster = 5;       // the same for any resolution
+inline constexpr std::int32_t kSavedAsRaster = 4;         // the device's own format
+inline constexpr std::int32_t kSavedAsScalableRaster = 5; // the same, for any resolution
+extern const SettingMap SavedJobFormatMap[];
 
 // The folder of the device's mailboxes; a mailbox is the folder below it that
 // has its number for a name: file:///job-repository/17
@@ -29,9 +32,9 @@ inline const QString kDefaultJobFolder = QStringLiteral("file:///job-repository/
 
 struct SavedJob
 {
-    bool usesJobName = true;                // the document's name
-    QString name;                           // otherwise; at most kLongestSavedJobName
-    std::optional<QString> location;        // a mailbox's folder; none: not chosen
+    bool usesJobName = true;         // the document's name
+    QString name;                    // otherwise; at most kLongestSavedJobName
+    std::optional<QString> location; // a mailbox's folder; none: not chosen
     std::int32_t saveDisposition = kSaveOnly;
     std::int32_t fileFormat = kSavedAsPdf;
 
@@ -42,5 +45,21 @@ struct SavedJob
 std::optional<int> mailboxOf(const std::optional<QString> &location);
 // The location of mailbox `number`, as typed: decimal digits. None for an empty text.
 std::optional<QString> locationOfMailbox(const QString &number);
+// Whether `number`, as typed, may stand: one of the device's mailboxes, or nothing.
+// There is no mailbox 0.
+bool isMailboxAllowed(const QString &number);
+// The location after the user has left `number` in the mailbox field. A location
+// that is no mailbox shows as an empty field, and stays as long as that is empty.
+std::optional<QString> locationAfter(const QString &number, const std::optional<QString> &location);
+
+// A name of blanks is none: the job takes the document's then.
+void setSavedJobName(SavedJob &job, bool usesJobName, const QString &name);
+
+// OK is there for a job that is not secure, for one whose passcode is long enough,
+// and for one without passcode, which gets one made.
+bool isSavedJobPasscodeAllowed(bool isSecure, const QString &passcode);
+
+// The picture of a file format, as the bundle names it; empty for no format of ours.
+QString fileFormatPicture(std::int32_t fileFormat);
 
 } // namespace kelvo
