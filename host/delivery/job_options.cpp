@@ -131,11 +131,20 @@ QString collateWord(const JobSettings &settings)
 }
 
 // The ticket's choices with the paper of the settings: what the PPD is asked for.
-PPDDictionary wantedChoices(const TicketFile &ticket, const JobSettings &settings)
+PPDDictionary wantedChoices(const TicketFile &ticket, const JobSettings &settings,
+                            const PpdFile *ppd, const QMap<QString, QString> &queueDefaults)
 {
     PPDDictionary wanted = ticket.printSettings.ppdChoices;
+    // A ticket without a choice means the device's own default. The queue would put
+    // its own in there.
+    for (auto option = queueDefaults.cbegin(); ppd && option != queueDefaults.cend(); ++option) {
+        const PpdOption *known = ppd->findOption(option.key());
+        if (known && !wanted.contains(known->keyword) && !isEquipment(*known, *ppd)
+            && !known->defaultChoice.isEmpty() && known->defaultChoice != option.value())
+            wanted.insert(known->keyword, known->defaultChoice);
+    }
     const QString pageSize = QStringLiteral("PageSize");
-    if (!wanted.contains(pageSize) && !settings.paperName.isEmpty())
+    if (!ticket.printSettings.ppdChoices.contains(pageSize) && !settings.paperName.isEmpty())
         wanted.insert(pageSize, settings.paperName);
     // The same paper, as it is fed by hand: whichever comes last would win.
     if (wanted.contains(pageSize))
@@ -158,7 +167,7 @@ void addPpdChoices(const PPDDictionary &wanted, const PpdFile &ppd, OptionList &
         }
     }
     for (auto choice = wanted.cbegin(); choice != wanted.cend(); ++choice) {
-        if (!options.contains(choice.key()))
+        if (!options.contains(choice.key()) && lacks(ppd, choice.key(), choice.value()))
             notSent << choice.key() + u'=' + choice.value();
     }
 }
@@ -210,7 +219,7 @@ void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDe
 Result<JobOptions> jobOptions(const TicketFile &ticket, const JobSettings &settings,
                               const PpdFile *ppd, const QMap<QString, QString> &queueDefaults)
 {
-    const PPDDictionary wanted = wantedChoices(ticket, settings);
+    const PPDDictionary wanted = wantedChoices(ticket, settings, ppd, queueDefaults);
     OptionList options;
     JobOptions result;
     if (ppd) {

@@ -181,7 +181,7 @@ QStringList missingOnDevice(const PrintSession &session, const PpdFile &ppd)
     QStringList missing;
     const PPDDictionary &choices = session.printSettings().ppdChoices;
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
-        if (!offers(ppd, choice.key(), choice.value()))
+        if (lacks(ppd, choice.key(), choice.value()))
             missing << missingWords(choice.key(), choice.value(), &ppd);
     }
     return missing;

@@ -173,7 +173,7 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
     if (ppd)
         addPpdSettings(choices, *ppd, words);
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
-        if (!ppd || !offers(*ppd, choice.key(), choice.value()))
+        if (!ppd || lacks(*ppd, choice.key(), choice.value()))
             words.notSent << missingWords(choice.key(), choice.value(), ppd);
     }
     // Only the panels know what their entries say; that they are there is said.

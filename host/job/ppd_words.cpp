@@ -50,6 +50,14 @@ bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice)
     return option->keyword == QLatin1String("PageSize") && paperSize(choice, ppd);
 }
 
+bool lacks(const PpdFile &ppd, const QString &keyword, const QString &choice)
+{
+    if (offers(ppd, keyword, choice))
+        return false;
+    const bool asksForNothing = choice == QLatin1String("None") || choice == QLatin1String("False");
+    return !asksForNothing || ppd.findOption(keyword);
+}
+
 bool isEquipment(const PpdOption &option, const PpdFile &ppd)
 {
     const auto &groups = ppd.groups();

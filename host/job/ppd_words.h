@@ -21,6 +21,9 @@ QString missingWords(const QString &keyword, const QString &choice, const PpdFil
 // The option has the choice, or it is a custom page size within the PPD's limits.
 // Of equipment a job can only ask for what the printer has.
 bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice);
+// The choice asks for something that this device cannot do. "None" and "False" of
+// an option that it does not have at all ask for nothing.
+bool lacks(const PpdFile &ppd, const QString &keyword, const QString &choice);
 
 // Equipment that the queue's administrator describes; jobs do not change it.
 bool isInstallable(const PpdGroup &group);

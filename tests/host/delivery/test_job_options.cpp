@@ -71,6 +71,12 @@ void TestJobOptions::sayEachSettingOnce_data()
         {"PageSize=Custom.300x400", "copies=1"});
     row("what the PPD lacks", full, {{"Glitter", "On"}, {"StapleLocation", "Gold"}}, plain, {},
         {"copies=1"}, {"Glitter=On", "StapleLocation=Gold"});
+    row("nothing asked of what the PPD lacks", "kelvo-corvane-bare",
+        {{"KVFold", "None"}, {"KVPunch", "2HolePunch"}, {"Jog", "Sideways"}}, plain, {},
+        {"copies=1"}, {"Jog=Sideways", "KVPunch=2HolePunch"});
+    row("the queue's default of what is not chosen", full, {{"Duplex", "DuplexTumble"}}, plain,
+        {{"KVPunch", "2HolePunch"}, {"Jog", "None"}, {"Duplex", "None"}, {"KVFinisher", "None"}},
+        {"Duplex=DuplexTumble", "KVPunch=None", "copies=1"});
     row("copies, collated", full, {}, {3, true}, {},
         {"copies=3", "multiple-document-handling=separate-documents-collated-copies",
          "Collate=True"});
