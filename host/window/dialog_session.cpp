@@ -25,6 +25,7 @@ DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObjec
     , m_options(std::move(options))
     , m_panesParent(panesParent)
     , m_secretKeys(secretKeysOf(m_options.bundle))
+    , m_repeatedChoices(repeatedChoicesOf(m_options.bundle))
     , m_session(std::make_unique<PrintSession>())
 {
     if (!m_options.document)
@@ -270,14 +271,41 @@ void DialogSession::layDefaults()
         }
     }
     if (const auto site = m_presets.siteDefaults())
-        layOver(*site, *m_session);
+        lay(*site);
+}
+
+// A choice of `file` takes away what earlier settings say of it in entries.
+void DialogSession::lay(const TicketFile &file)
+{
+    dropRepeats(m_session->printSettings(), file.printSettings.ppdChoices, m_repeatedChoices);
+    layOver(file, *m_session);
 }
 
 void DialogSession::layWithUnknown(const TicketFile &file)
 {
-    layOver(file, *m_session);
+    lay(file);
     m_unknown.insert(file.unknown);
     m_unknown.remove(kTicketNonceKey); // of one sent job, and of no other
+}
+
+Result<void> DialogSession::layOption(const QString &name, const QString &value)
+{
+    // Without the choice an option shows that it set it, also to what it was.
+    Ticket &settings = m_session->printSettings();
+    PPDDictionary before;
+    for (auto option = m_repeatedChoices.cbegin(); option != m_repeatedChoices.cend(); ++option) {
+        if (const auto choice = settings.ppdChoices.constFind(option.key());
+            choice != settings.ppdChoices.cend())
+            before.insert(option.key(), *choice);
+        settings.ppdChoices.remove(option.key());
+    }
+    Result<void> applied = applyOption(name, value, m_ppd.get(), *m_session);
+    dropRepeats(settings, settings.ppdChoices, m_repeatedChoices);
+    for (auto choice = before.cbegin(); choice != before.cend(); ++choice) {
+        if (!settings.ppdChoices.contains(choice.key()))
+            settings.ppdChoices.insert(choice.key(), choice.value());
+    }
+    return applied;
 }
 
 Result<void> DialogSession::layFirstSettings()
@@ -290,7 +318,7 @@ Result<void> DialogSession::layFirstSettings()
     if (m_options.ticketIn)
         layWithUnknown(*m_options.ticketIn);
     for (const auto &[name, value] : line.options) {
-        if (auto applied = applyOption(name, value, m_ppd.get(), *m_session); !applied)
+        if (auto applied = layOption(name, value); !applied)
             return applied;
     }
     if (line.copies || line.pages) {
@@ -374,6 +402,7 @@ ConflictReport DialogSession::conflicts()
 
 void DialogSession::fix(const ConflictReport &report)
 {
+    dropRepeats(m_session->printSettings(), report.fix, m_repeatedChoices);
     applyFix(report, *m_session);
     readAll();
 }

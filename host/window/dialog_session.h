@@ -10,6 +10,7 @@
 #include "ppd_file.h"
 #include "presets.h"
 #include "printers.h"
+#include "repeated_choices.h"
 #include "secret_keys.h"
 #include "ticket_file.h"
 
@@ -133,7 +134,9 @@ private:
     void begin();
     Result<void> layFirstSettings();
     void layDefaults();
+    void lay(const TicketFile &file);
     void layWithUnknown(const TicketFile &file);
+    Result<void> layOption(const QString &name, const QString &value);
     void settle();
     void beginPanels();
     QString whyPanelsDidNotBegin(const Error &error) const;
@@ -158,6 +161,7 @@ private:
 
     PresetStore m_presets;
     SecretKeys m_secretKeys;
+    RepeatedChoices m_repeatedChoices;
     std::unique_ptr<PrintSession> m_session;
     std::unique_ptr<Extension> m_extension; // made once, begun for each printer
     QString m_extensionProblem;             // why it cannot be loaded

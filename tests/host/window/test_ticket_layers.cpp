@@ -1,3 +1,4 @@
+#include "repeated_choices.h"
 #include "ticket_layers.h"
 
 #include <QTest>
@@ -12,6 +13,7 @@ class TestTicketLayers : public QObject
 
 private slots:
     void laterBeatsEarlierEntryByEntry();
+    void aChoiceTakesAwayWhatRepeatsIt();
     void settingsLiveThroughAnotherDevice_data();
     void settingsLiveThroughAnotherDevice();
     void onlyWhatIsAskedForCounts_data();
@@ -42,6 +44,16 @@ void TestTicketLayers::laterBeatsEarlierEntryByEntry()
     QCOMPARE(
         ticketFileFrom(session),
         ticket({{"a", 1}, {"b", 2}, {"c", 2}}, {{"Duplex", "DuplexTumble"}, {"KVPunch", "None"}}));
+}
+
+void TestTicketLayers::aChoiceTakesAwayWhatRepeatsIt()
+{
+    const RepeatedChoices repeated{{"Duplex", {"a", "b"}}, {"KVFold", {"c"}}};
+    Ticket settings = ticket({{"a", 2}, {"b", 2}, {"c", 1}, {"d", 2}}).printSettings;
+
+    dropRepeats(settings, {{"Duplex", "None"}, {"KVPunch", "None"}}, repeated);
+
+    QCOMPARE(settings, ticket({{"c", 1}, {"d", 2}}).printSettings);
 }
 
 void TestTicketLayers::settingsLiveThroughAnotherDevice_data()
