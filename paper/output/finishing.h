@@ -50,8 +50,11 @@ inline constexpr std::int32_t kOffsetSets = 3;
 inline constexpr std::int32_t kOffsetSubsets = 4;
 inline constexpr std::int32_t kOffsetBoth = 5;
 
-// com.kelvo.print.FinishingBindValue
+// com.kelvo.print.FinishingBindValue: the edge that is taped
 inline constexpr std::int32_t kBindNone = 1;
+inline constexpr std::int32_t kBindLeft = 2;
+inline constexpr std::int32_t kBindRight = 3;
+inline constexpr std::int32_t kBindTop = 4;
 
 struct Finishing
 {

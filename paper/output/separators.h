@@ -27,8 +27,4 @@ OSStatus SyncSeparatorsToTicket(PMTicketRef ticket, std::int32_t separators,
 // "- Separators:Tray 1" for blank and printed separators, else empty.
 QString separatorSummary(CFBundleRef bundle, std::int32_t separators, const Stock &separatorStock);
 
-// The picture of the dialog; empty for none. The colour is a "MediaColor" value
-// that is shown and stored nowhere.
-QString separatorPicture(std::int32_t separators, std::int32_t color);
-
 } // namespace kelvo

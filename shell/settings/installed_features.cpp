@@ -34,6 +34,7 @@ constexpr InstalledFeature InstalledFeatures[] = {
     {"ZFoldKey",             "KVFolder",         "Full",             "FoldZFold",           0},
     {"ZFoldHalfSheetKey",    "KVFolder",         "Full",             "Z Fold Half Sheet",   0},
     {"BookletFoldKey",       "KVBookletMaker",   "True",             "BiFoldNoStaple",      0},
+    {"TapeBindKey",          "KVBinder",         "True",             "Tape Binding",        0},
     {"PostPrintInserterKey", "KVInserter",       "True",             "Post-Print Inserter", 0},
     {"AutoSwitchTrayKey",    "KVAutoSwitchTray", "True",             "Auto Switch Tray",    0},
     {"StackerTray1Key",      "KVStackerTrays",   "One",              "Stacker Tray 1",      0},

@@ -291,7 +291,7 @@ void TestDevice::findsTheFeaturesOfTheSampleDevices_data()
     QTest::newRow("full") << fullPpd
                           << "FaxKey SingleStapleKey DualStapleKey MultipleStapleKey DualPunchKey "
                              "TriplePunchKey QuadruplePunchKey CFoldKey ZFoldKey ZFoldHalfSheetKey "
-                             "BookletFoldKey PostPrintInserterKey AutoSwitchTrayKey "
+                             "BookletFoldKey TapeBindKey PostPrintInserterKey AutoSwitchTrayKey "
                              "StackerTray1Key StackerTray2Key SimpleCatchTrayKey";
     QTest::newRow("mid") << midPpd
                          << "SingleStapleKey DualPunchKey AutoSwitchTrayKey StackerTray1Key "

@@ -370,6 +370,10 @@
         <translation>Bi-fold</translation>
     </message>
     <message>
+        <source>Tape Binding</source>
+        <translation>Tape binding</translation>
+    </message>
+    <message>
         <source>Post-Print Inserter</source>
         <translation>Post-print inserter</translation>
     </message>

@@ -1,0 +1,201 @@
+#include "finishing_choices.h"
+
+#include "installed_features.h"
+#include "paper_output_context.h"
+#include "paper_output_pictures.h"
+#include "ppd_choices.h"
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+// What a dialog sets; several dialogs set one thing.
+enum class Setting { Staple, Punch, Fold, Bind };
+
+constexpr unsigned in(FinishingDialogKind kind)
+{
+    return 1U << static_cast<unsigned>(kind);
+}
+constexpr unsigned kInStaples =
+    in(FinishingDialogKind::SingleStaple) | in(FinishingDialogKind::DualStaple);
+constexpr unsigned kInFolds = in(FinishingDialogKind::Fold) | in(FinishingDialogKind::AdvancedFold)
+    | in(FinishingDialogKind::ZFold);
+
+struct ChoiceRow
+{
+    Setting setting;
+    const char *feature; // must be installed; null: always offered
+    unsigned dialogs;    // in(kind), several together
+    FinishingChoice choice;
+};
+
+// "none" of each setting stands first and needs nothing.
+// clang-format off
+constexpr ChoiceRow kRows[] = {
+    {Setting::Staple, nullptr,             kInStaples,                            {"No Staple Value",    "No Staple Hint",          kCommandNoStaple,        kStapleNone}},
+    {Setting::Staple, "SingleStapleKey",   in(FinishingDialogKind::SingleStaple), {"1 Staple",           "1 Staple Hint",           kCommandSingleStaple,    kStapleSingle}},
+    {Setting::Staple, "DualStapleKey",     in(FinishingDialogKind::DualStaple),   {"2 Staples",          "2 Staples Hint",          kCommandDualStaple,      kStapleDual}},
+    {Setting::Staple, "MultipleStapleKey", 0,                                     {"Multiple Staples",   "",                        kCommandMultipleStaples, kStapleMultiple}},
+    {Setting::Punch,  nullptr,             in(FinishingDialogKind::HolePunch),    {"NoHolePunch",        "NoHolePunch Hint",        kCommandNoPunch,         kPunchNone}},
+    {Setting::Punch,  "GenericPunchKey",   in(FinishingDialogKind::HolePunch),    {"HolePunch",          "HolePunch Hint",          kCommandGenericPunch,    kPunchGeneric}},
+    {Setting::Punch,  "DualPunchKey",      in(FinishingDialogKind::HolePunch),    {"2 Hole Punch",       "2 Hole Punch Hint",       kCommandTwoHoles,        kPunchTwoHoles}},
+    {Setting::Punch,  "TriplePunchKey",    in(FinishingDialogKind::HolePunch),    {"3 Hole Punch",       "3 Hole Punch Hint",       kCommandThreeHoles,      kPunchThreeHoles}},
+    {Setting::Punch,  "QuadruplePunchKey", in(FinishingDialogKind::HolePunch),    {"4 Hole Punch",       "4 Hole Punch Hint",       kCommandFourHoles,       kPunchFourHoles}},
+    {Setting::Fold,   nullptr,             kInFolds,                              {"No Fold",            "No Fold Hint",            kCommandNoFold,          kFoldNone}},
+    {Setting::Fold,   "BookletFoldKey",    in(FinishingDialogKind::AdvancedFold), {"BiFoldNoStaple",     "BiFoldNoStaple Hint",     kCommandBiFold,          kFoldBi}},
+    {Setting::Fold,   "BookletFoldKey",    in(FinishingDialogKind::AdvancedFold), {"Booklet FoldStaple", "Booklet FoldStaple Hint", kCommandBiFold,          kFoldBiAndStaple}},
+    {Setting::Fold,   "CFoldKey",          in(FinishingDialogKind::Fold) | in(FinishingDialogKind::AdvancedFold),
+                                                                                  {"FoldCFold",          "FoldCFold Hint",          kCommandCFold,           kFoldC}},
+    {Setting::Fold,   "ZFoldKey",          kInFolds,                              {"FoldZFold",          "FoldZFold Hint",          kCommandZFold,           kFoldZ}},
+    {Setting::Fold,   "ZFoldHalfSheetKey", in(FinishingDialogKind::AdvancedFold) | in(FinishingDialogKind::ZFold),
+                                                                                  {"Z Fold Half Sheet",  "Z Fold Half Sheet Hint",  kCommandZFoldHalfSheet,  kFoldZHalfSheet}},
+    {Setting::Bind,   nullptr,             in(FinishingDialogKind::Bind),         {"No Binding",         "No Binding Hint",         kNoCommand,              kBindNone}},
+    {Setting::Bind,   "TapeBindKey",       in(FinishingDialogKind::Bind),         {"Bind Left Edge",     "Bind Left Edge Hint",     kNoCommand,              kBindLeft}},
+    {Setting::Bind,   "TapeBindKey",       in(FinishingDialogKind::Bind),         {"Bind Right Edge",    "Bind Right Edge Hint",    kNoCommand,              kBindRight}},
+    {Setting::Bind,   "TapeBindKey",       in(FinishingDialogKind::Bind),         {"Bind Top Edge",      "Bind Top Edge Hint",      kNoCommand,              kBindTop}},
+};
+// clang-format on
+
+Setting settingOf(FinishingDialogKind kind)
+{
+    switch (kind) {
+    case FinishingDialogKind::SingleStaple:
+    case FinishingDialogKind::DualStaple:
+        return Setting::Staple;
+    case FinishingDialogKind::HolePunch:
+        return Setting::Punch;
+    case FinishingDialogKind::Fold:
+    case FinishingDialogKind::AdvancedFold:
+    case FinishingDialogKind::ZFold:
+        return Setting::Fold;
+    case FinishingDialogKind::Bind:
+        break;
+    }
+    return Setting::Bind;
+}
+
+std::int32_t currentValue(Setting setting, const Finishing &finishing)
+{
+    switch (setting) {
+    case Setting::Staple:
+        return chosenStaple(finishing);
+    case Setting::Punch:
+        return finishing.punch;
+    case Setting::Fold:
+        return finishing.fold;
+    case Setting::Bind:
+        break;
+    }
+    return finishing.bind;
+}
+
+// Binding is not among a PPD's options.
+bool isInPpd(Setting setting, std::int32_t value, const PpdFile *ppd)
+{
+    const auto hasChoice = [value, ppd](const QString &option) {
+        const auto choice = PPDChoiceForTicketValue(option, value);
+        return choice && PPDCopyChoiceText(ppd, option, *choice);
+    };
+    switch (setting) {
+    case Setting::Staple:
+        return hasChoice(QStringLiteral("StapleLocation"));
+    case Setting::Punch:
+        return hasChoice(QStringLiteral("KVPunch"));
+    case Setting::Fold:
+        return hasChoice(QStringLiteral("KVFold"));
+    case Setting::Bind:
+        break;
+    }
+    return true;
+}
+
+bool isOffered(const ChoiceRow &row, const PpdFile *ppd)
+{
+    return !row.feature
+        || (getInstalledFeature(row.feature) && isInPpd(row.setting, row.choice.value, ppd));
+}
+
+QString bindPicture(std::int32_t bind)
+{
+    switch (bind) {
+    case kBindLeft:
+        return QStringLiteral("Finishing_Bind_Left.gif");
+    case kBindRight:
+        return QStringLiteral("Finishing_Bind_Right.gif");
+    case kBindTop:
+        return QStringLiteral("Finishing_Bind_Top.gif");
+    default:
+        return QStringLiteral("OfficeFinishing_None.gif");
+    }
+}
+
+} // namespace
+
+std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const PpdFile *ppd)
+{
+    std::vector<FinishingChoice> choices;
+    for (const ChoiceRow &row : kRows) {
+        if ((row.dialogs & in(kind)) && isOffered(row, ppd))
+            choices.push_back(row.choice);
+    }
+    return choices;
+}
+
+std::size_t initialChoice(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
+                          const Finishing &finishing)
+{
+    const auto found =
+        std::ranges::find(choices, currentValue(settingOf(kind), finishing), &FinishingChoice::value);
+    return found == choices.end() ? 0 : static_cast<std::size_t>(found - choices.begin());
+}
+
+const char *replacedFinishing(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
+                              const Finishing &finishing)
+{
+    const Setting setting = settingOf(kind);
+    const std::int32_t value = currentValue(setting, finishing);
+    if (std::ranges::find(choices, value, &FinishingChoice::value) != choices.end())
+        return nullptr;
+    for (const ChoiceRow &row : kRows) {
+        if (row.setting == setting && row.choice.value == value)
+            return row.choice.key;
+    }
+    return nullptr;
+}
+
+bool endsBooklet(FinishingDialogKind kind, const _PaperOutputContext &context)
+{
+    const Setting setting = settingOf(kind);
+    return (setting == Setting::Staple || setting == Setting::Punch)
+        && (context.isBooklet() || context.finishing.options == kFinishingBooklet);
+}
+
+void applyFinishingChoice(_PaperOutputContext &context, const FinishingChoice &choice)
+{
+    if (choice.command == kNoCommand)
+        context.finishing.bind = choice.value;
+    else
+        applyFinishingCommand(context, choice.command, choice.value);
+}
+
+QString finishingChoicePicture(FinishingDialogKind kind, const _PaperOutputContext &context,
+                               const FinishingChoice &choice)
+{
+    const Setting setting = settingOf(kind);
+    if (setting == Setting::Bind)
+        return bindPicture(choice.value);
+    _PaperOutputContext after;
+    after.booklet = context.booklet;
+    after.finishing = context.finishing;
+    applyFinishingChoice(after, choice);
+    // The picture of all finishing shows three holes for two, and here the holes
+    // are what is chosen.
+    const bool isHolesAlone = setting == Setting::Punch && after.finishing.fold == kFoldNone
+        && staplePicture(after.finishing).isEmpty();
+    const QString holes = isHolesAlone ? punchPicture(after.finishing.punch) : QString();
+    return holes.isEmpty() ? finishingPicture(after) : holes;
+}
+
+} // namespace kelvo

@@ -1,0 +1,84 @@
+#include "finishing_offset.h"
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+bool dividesSets(std::int32_t offset)
+{
+    return offset == kOffsetSubsets || offset == kOffsetBoth;
+}
+
+bool keepsSetsWhole(std::int32_t offset)
+{
+    return offset == kOffsetNone || offset == kOffsetSets;
+}
+
+} // namespace
+
+OffsetSettings offsetOf(const Finishing &finishing)
+{
+    OffsetSettings settings{.offset = finishing.offset,
+                            .hasSubsets = finishing.offsetSubsetEnabled != 0};
+    if (settings.hasSubsets)
+        settings.pagesPerSubset = std::clamp(finishing.pagesPerSubset, 0, kMostPagesPerSubset);
+    // A ticket may say what no user could choose: a set that is kept whole and
+    // divided.
+    return withOffset(settings, settings.offset);
+}
+
+void storeOffset(Finishing &finishing, const OffsetSettings &settings)
+{
+    finishing.offset = settings.offset;
+    finishing.offsetSubsetEnabled = settings.hasSubsets ? 1 : 0;
+    if (settings.hasSubsets)
+        finishing.pagesPerSubset = settings.pagesPerSubset;
+}
+
+OffsetSettings withOffset(OffsetSettings settings, std::int32_t offset)
+{
+    settings.offset = offset;
+    if (dividesSets(offset)) {
+        settings.hasSubsets = true;
+    } else if (keepsSetsWhole(offset)) {
+        settings.hasSubsets = false;
+        settings.pagesPerSubset = 0;
+    }
+    return settings;
+}
+
+OffsetSettings withSubsets(OffsetSettings settings, bool hasSubsets)
+{
+    settings.hasSubsets = hasSubsets;
+    if (hasSubsets)
+        return settings;
+    settings.pagesPerSubset = 0;
+    if (dividesSets(settings.offset))
+        settings.offset = kOffsetSets;
+    return settings;
+}
+
+bool isSubsetSwitchEnabled(const OffsetSettings &settings)
+{
+    return !keepsSetsWhole(settings.offset);
+}
+
+QString offsetPicture(std::int32_t offset)
+{
+    switch (offset) {
+    case kOffsetNone:
+        return QStringLiteral("OffsetSubset_NoOffset.gif");
+    case kOffsetSets:
+        return QStringLiteral("OffsetSubset_OffsetSets.gif");
+    case kOffsetSubsets:
+        return QStringLiteral("OffsetSubset_OffsetSubset.gif");
+    case kOffsetBoth:
+        return QStringLiteral("OffsetSubset_OffsetBoth.gif");
+    default:
+        return QStringLiteral("OutputColor_PrnDef.gif");
+    }
+}
+
+} // namespace kelvo

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "bundle.h"
+
+#include <QString>
+
+namespace kelvo {
+
+class PictureView;
+
+// Shows one picture of the bundle ("….gif"); nothing for an empty name and for a
+// picture that the bundle does not have. `description` is what a screen reader
+// says. Nothing happens for a null view.
+void showBundlePicture(PictureView *view, CFBundleRef bundle, const QString &name,
+                       const QString &description);
+
+} // namespace kelvo

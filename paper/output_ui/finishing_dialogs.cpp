@@ -1,0 +1,272 @@
+#include "finishing_dialogs.h"
+
+#include "bundle_picture.h"
+#include "control.h"
+#include "dialog_window.h"
+#include "finishing_choices.h"
+#include "help_window.h"
+#include "hint_text.h"
+#include "localized_controls.h"
+#include "paper_output_context.h"
+#include "picture_view.h"
+#include "popups.h"
+#include "ppd_choices.h"
+#include "ticket_values.h"
+
+#include <QLabel>
+
+#include <algorithm>
+#include <iterator>
+
+namespace kelvo {
+
+namespace {
+
+constexpr ControlID kChoiceLabel{kPanelSignature, 8000};
+constexpr ControlID kChoice{kPanelSignature, 8001};
+constexpr ControlID kPicture{kPanelSignature, 8002};
+constexpr ControlID kChoiceHint{kPanelSignature, 8003};
+constexpr ControlID kLimits{kPanelSignature, 8004};
+constexpr ControlID kNote{kPanelSignature, 8005};
+
+// What tells the dialogs of one window apart. All texts are keys.
+struct DialogRow
+{
+    FinishingDialogKind kind;
+    OSType menuCommand;
+    const char *menuText;
+    const char *title;
+    const char *label;
+    const char *limits;
+    const char *helpPage;
+};
+
+// In the order of the menu.
+// clang-format off
+constexpr DialogRow kDialogRows[] = {
+    {FinishingDialogKind::SingleStaple, kCommandSingleStapleDialog, "1 Staple...", "1 Staple Title", "Staples:", "Staple Limits",
+     "paper_output/finishing/db_1_staple_d.htm"},
+    {FinishingDialogKind::DualStaple, kCommandDualStapleDialog, "2 Staples...", "2 Staples Title", "Staples:", "Staple Limits",
+     "paper_output/finishing/db_2_staples_d.htm"},
+    {FinishingDialogKind::HolePunch, kCommandHolePunchDialog, "Hole Punch...", "Hole Punch Title", "Holes:", "Hole Punch Limits",
+     "paper_output/finishing/db_2_3_or_4_hole_punch_d.htm"},
+    {FinishingDialogKind::Fold, kCommandFoldDialog, "Fold...", "Fold Title", "Fold:", "Fold Limits",
+     "paper_output/finishing/db_folding.htm"},
+    {FinishingDialogKind::AdvancedFold, kCommandAdvancedFoldDialog, "Advanced Fold...", "Advanced Fold Title", "Fold:", "Fold Limits",
+     "paper_output/finishing/db_folding_db.htm"},
+    {FinishingDialogKind::ZFold, kCommandZFoldDialog, "Z Fold...", "Z Fold Title", "Fold:", "Fold Limits",
+     "paper_output/finishing/db_folding_db.htm"},
+    {FinishingDialogKind::Bind, kCommandBindDialog, "Bind...", "Bind Title", "Bind:", "Bind Limits",
+     "paper_output/finishing/db_bind_d.htm"},
+};
+// clang-format on
+
+const DialogRow &rowOf(FinishingDialogKind kind)
+{
+    return *std::ranges::find(kDialogRows, kind, &DialogRow::kind);
+}
+
+QString textOf(CFBundleRef bundle, const char *key)
+{
+    return localizedText(bundle, QString::fromLatin1(key));
+}
+
+struct ChoiceDialog
+{
+    CFBundleRef bundle = nullptr;
+    FinishingDialogKind kind = FinishingDialogKind::SingleStaple;
+    const _PaperOutputContext *context = nullptr; // as it was before OK
+    std::vector<FinishingChoice> choices;
+    std::size_t chosen = 0;
+    std::unique_ptr<ModalDialog> window; // null when it could not be made
+    PopupButton *choice = nullptr;
+    PictureView *picture = nullptr;
+    QLabel *hint = nullptr;
+};
+
+// From the choice to the controls.
+void showChoice(const ChoiceDialog &dialog)
+{
+    const FinishingChoice &chosen = dialog.choices[dialog.chosen];
+    dialog.choice->setValue(static_cast<int>(dialog.chosen) + 1);
+    dialog.hint->setText(textOf(dialog.bundle, chosen.hintKey));
+    showBundlePicture(dialog.picture, dialog.bundle,
+                      finishingChoicePicture(dialog.kind, *dialog.context, chosen),
+                      textOf(dialog.bundle, chosen.key));
+}
+
+OSStatus choiceEventHandler(ChoiceDialog &dialog, const Event &event)
+{
+    if (event.kind == EventKind::Command && event.command == kCommandHelp)
+        return DisplayHelp(QString::fromLatin1(rowOf(dialog.kind).helpPage), dialog.window.get());
+    if (event.kind != EventKind::ControlHit || event.control != kChoice)
+        return eventNotHandledErr;
+    dialog.chosen = static_cast<std::size_t>(dialog.choice->value() - 1);
+    showChoice(dialog);
+    return noErr;
+}
+
+void fillChoices(const ChoiceDialog &dialog)
+{
+    Menu menu;
+    for (const FinishingChoice &choice : dialog.choices) {
+        MenuItem item;
+        item.text = textOf(dialog.bundle, choice.key);
+        item.key = QString::fromLatin1(choice.key);
+        item.reference = choice.value;
+        menu.items.push_back(std::move(item));
+    }
+    dialog.choice->setMenu(std::move(menu));
+}
+
+// The sentence changes with the choice, the window's size must not.
+void reserveHeight(const ChoiceDialog &dialog)
+{
+    int height = 0;
+    for (const FinishingChoice &choice : dialog.choices) {
+        dialog.hint->setText(textOf(dialog.bundle, choice.hintKey));
+        height = std::max(height, dialog.hint->heightForWidth(dialog.hint->minimumWidth()));
+    }
+    dialog.hint->setMinimumHeight(height);
+}
+
+// What OK does beyond the choice.
+QString noteFor(const ChoiceDialog &dialog)
+{
+    QStringList sentences;
+    const Finishing &finishing = dialog.context->finishing;
+    if (const char *replaced = replacedFinishing(dialog.kind, dialog.choices, finishing))
+        sentences += textOf(dialog.bundle, "Finishing Replaced").arg(textOf(dialog.bundle, replaced));
+    if (endsBooklet(dialog.kind, *dialog.context))
+        sentences += textOf(dialog.bundle, "Finishing Ends Booklet");
+    return sentences.join(u' ');
+}
+
+void showTexts(const ChoiceDialog &dialog)
+{
+    const DialogRow &row = rowOf(dialog.kind);
+    QWidget *window = dialog.window.get();
+    const QString label = QString::fromLatin1(row.label);
+    SetLocalizedWindowTitle(dialog.bundle, QString::fromLatin1(row.title), window);
+    SetLocalizedStaticText(dialog.bundle, label, findControl<QLabel>(window, kChoiceLabel));
+    dialog.choice->setAccessibleName(textOf(dialog.bundle, row.title));
+    if (auto *limits = findControl<QLabel>(window, kLimits)) {
+        // Not every device can do what its menu names.
+        const bool hasChoice = dialog.choices.size() > 1;
+        limits->setText(textOf(dialog.bundle, hasChoice ? row.limits : "Not on This Device"));
+        makeHintText(limits);
+    }
+    if (auto *note = findControl<QLabel>(window, kNote)) {
+        note->setText(noteFor(dialog));
+        note->setVisible(!note->text().isEmpty());
+    }
+}
+
+// The window of any choice of finishing, as `kind` fills it.
+ChoiceDialog CreateFinishingDialog(CFBundleRef bundle, FinishingDialogKind kind,
+                                   const _PaperOutputContext &context, QWidget *parent)
+{
+    ChoiceDialog dialog;
+    dialog.bundle = bundle;
+    dialog.kind = kind;
+    dialog.context = &context;
+    dialog.choices = finishingChoices(kind, PPDGetCurrent());
+    dialog.chosen = initialChoice(kind, dialog.choices, context.finishing);
+    auto window = createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
+                                    QStringLiteral("ChoiceDialog"), parent);
+    dialog.choice = findControl<PopupButton>(window.get(), kChoice);
+    dialog.picture = findControl<PictureView>(window.get(), kPicture);
+    dialog.hint = findControl<QLabel>(window.get(), kChoiceHint);
+    if (!dialog.choice || !dialog.hint)
+        return dialog;
+    dialog.window = std::move(window);
+    fillChoices(dialog);
+    setEnabledWithLabel(dialog.choice, dialog.choices.size() > 1);
+    showTexts(dialog);
+    reserveHeight(dialog);
+    showChoice(dialog);
+    return dialog;
+}
+
+OSStatus runChoiceDialog(CFBundleRef bundle, FinishingDialogKind kind, _PaperOutputContext *context,
+                         DialogResult *result, QWidget *parent)
+{
+    if (!bundle || !context || !result)
+        return paramErr;
+    ChoiceDialog dialog = CreateFinishingDialog(bundle, kind, *context, parent);
+    if (!dialog.window)
+        return kWindowNotMade;
+    const EventHandlerRef handler =
+        installEventHandler(dialog.window.get(), [&dialog](const Event &event) {
+            return choiceEventHandler(dialog, event);
+        });
+    *result = dialog.window->runModal();
+    if (*result == DialogResult::OK)
+        applyFinishingChoice(*context, dialog.choices[dialog.chosen]);
+    return noErr;
+}
+
+void appendItem(Menu &menu, CFBundleRef bundle, const char *key, OSType command)
+{
+    MenuItem item;
+    item.text = textOf(bundle, key);
+    item.key = QString::fromLatin1(key);
+    item.command = command;
+    menu.items.push_back(std::move(item));
+}
+
+} // namespace
+
+void PopulateMoreFinishingMenu(Menu &menu, CFBundleRef bundle)
+{
+    for (const DialogRow &row : kDialogRows) {
+        if (finishingChoices(row.kind, PPDGetCurrent()).size() > 1)
+            appendItem(menu, bundle, row.menuText, row.menuCommand);
+    }
+    appendItem(menu, bundle, "Offset...", kCommandOffsetDialog);
+    appendItem(menu, bundle, "Custom Finishing...", kCommandCustomFinishingDialog);
+}
+
+OSStatus RunModal1StapleFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                        DialogResult *result, QWidget *parent)
+{
+    return runChoiceDialog(bundle, FinishingDialogKind::SingleStaple, context, result, parent);
+}
+
+OSStatus RunModal2StaplesFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                         DialogResult *result, QWidget *parent)
+{
+    return runChoiceDialog(bundle, FinishingDialogKind::DualStaple, context, result, parent);
+}
+
+OSStatus RunModalHolePunchFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                          DialogResult *result, QWidget *parent)
+{
+    return runChoiceDialog(bundle, FinishingDialogKind::HolePunch, context, result, parent);
+}
+
+OSStatus RunModalFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                     DialogResult *result, QWidget *parent)
+{
+    return runChoiceDialog(bundle, FinishingDialogKind::Fold, context, result, parent);
+}
+
+OSStatus RunModalAdvancedFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                             DialogResult *result, QWidget *parent)
+{
+    return runChoiceDialog(bundle, FinishingDialogKind::AdvancedFold, context, result, parent);
+}
+
+OSStatus RunModalZFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                      DialogResult *result, QWidget *parent)
+{
+    return runChoiceDialog(bundle, FinishingDialogKind::ZFold, context, result, parent);
+}
+
+OSStatus RunModalBindFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                     DialogResult *result, QWidget *parent)
+{
+    return runChoiceDialog(bundle, FinishingDialogKind::Bind, context, result, parent);
+}
+
+} // namespace kelvo

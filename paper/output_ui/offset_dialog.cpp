@@ -1,0 +1,126 @@
+#include "finishing_dialogs.h"
+
+#include "bundle_picture.h"
+#include "control.h"
+#include "dialog_window.h"
+#include "finishing_offset.h"
+#include "hint_text.h"
+#include "paper_output_context.h"
+#include "picture_view.h"
+#include "popups.h"
+#include "setting_map.h"
+#include "spin_field.h"
+#include "ticket_values.h"
+
+#include <QCheckBox>
+#include <QLabel>
+
+namespace kelvo {
+
+namespace {
+
+constexpr ControlID kOffset{kPanelSignature, 8101};
+constexpr ControlID kPicture{kPanelSignature, 8102};
+constexpr ControlID kSubsets{kPanelSignature, 8103};
+constexpr ControlID kPagesPerSubset{kPanelSignature, 8104};
+constexpr ControlID kHint{kPanelSignature, 8105};
+
+constexpr SettingMap OffsetMap[] = {
+    {"No Offset", kOffsetNone},
+    {"Offset Sets", kOffsetSets},
+    {"Offset Subsets", kOffsetSubsets},
+    {"Offset Sets and Subsets", kOffsetBoth},
+    kEndOfMap,
+};
+static_assert(isWellFormed(OffsetMap) && valuesAreDistinct(OffsetMap));
+
+struct OffsetDialog
+{
+    CFBundleRef bundle = nullptr;
+    OffsetSettings settings;
+    std::unique_ptr<ModalDialog> window;
+    PopupButton *offset = nullptr;
+    PictureView *picture = nullptr;
+    QCheckBox *subsets = nullptr;
+    SpinField *pagesPerSubset = nullptr;
+};
+
+// From the settings to the controls.
+void showSettings(const OffsetDialog &dialog)
+{
+    const OffsetSettings &settings = dialog.settings;
+    SetPopupButtonToTicketValue(dialog.offset, settings.offset);
+    dialog.subsets->setChecked(settings.hasSubsets);
+    dialog.subsets->setEnabled(isSubsetSwitchEnabled(settings));
+    dialog.pagesPerSubset->setValue(settings.pagesPerSubset);
+    setEnabledWithLabel(dialog.pagesPerSubset, settings.hasSubsets);
+    showBundlePicture(dialog.picture, dialog.bundle, offsetPicture(settings.offset),
+                      dialog.offset->currentText());
+}
+
+OSStatus offsetEventHandler(OffsetDialog &dialog, const Event &event)
+{
+    if (event.kind != EventKind::ControlHit)
+        return eventNotHandledErr;
+    if (event.control == kOffset)
+        dialog.settings = withOffset(dialog.settings, GetPopupButtonTicketValue(dialog.offset));
+    else if (event.control == kSubsets)
+        dialog.settings = withSubsets(dialog.settings, dialog.subsets->isChecked());
+    else if (event.control == kPagesPerSubset)
+        dialog.settings.pagesPerSubset = dialog.pagesPerSubset->value();
+    else
+        return eventNotHandledErr;
+    showSettings(dialog);
+    return noErr;
+}
+
+// An offset that cannot be chosen here stands in front until another is chosen:
+// the pop-up says what is set, and OK keeps it.
+void fillOffsets(const OffsetDialog &dialog)
+{
+    Menu menu;
+    if (TicketToUI(OffsetMap, dialog.settings.offset) < 0) {
+        MenuItem item;
+        item.text = localizedText(dialog.bundle, QStringLiteral("PrinterDefault"));
+        item.reference = dialog.settings.offset;
+        menu.items.push_back(std::move(item));
+    }
+    PopulateMenuFromMap(dialog.bundle, menu, OffsetMap, kJobContextJob, kNoCommand);
+    dialog.offset->setMenu(std::move(menu));
+}
+
+} // namespace
+
+OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                       DialogResult *result, QWidget *parent)
+{
+    if (!bundle || !context || !result)
+        return paramErr;
+    OffsetDialog dialog;
+    dialog.bundle = bundle;
+    dialog.settings = offsetOf(context->finishing);
+    dialog.window = createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
+                                      QStringLiteral("OffsetDialog"), parent);
+    QWidget *window = dialog.window.get();
+    if (!window)
+        return kWindowNotMade;
+    dialog.offset = findControl<PopupButton>(window, kOffset);
+    dialog.picture = findControl<PictureView>(window, kPicture);
+    dialog.subsets = findControl<QCheckBox>(window, kSubsets);
+    dialog.pagesPerSubset = findControl<SpinField>(window, kPagesPerSubset);
+    if (!dialog.offset || !dialog.subsets || !dialog.pagesPerSubset)
+        return kWindowNotMade;
+    makeHintText(findControl<QLabel>(window, kHint));
+    dialog.pagesPerSubset->setMaximum(kMostPagesPerSubset);
+    fillOffsets(dialog);
+    showSettings(dialog);
+    const EventHandlerRef handler = installEventHandler(
+        window, [&dialog](const Event &event) { return offsetEventHandler(dialog, event); });
+
+    *result = dialog.window->runModal();
+    if (*result == DialogResult::OK)
+        storeOffset(context->finishing, dialog.settings);
+    return noErr;
+}
+
+} // namespace kelvo

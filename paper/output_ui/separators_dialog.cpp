@@ -1,0 +1,161 @@
+#include "separators_dialog.h"
+
+#include "bundle_picture.h"
+#include "control.h"
+#include "dialog_window.h"
+#include "hint_text.h"
+#include "picture_view.h"
+#include "popups.h"
+#include "ppd_choices.h"
+#include "separator_picture.h"
+#include "setting_maps.h"
+#include "ticket_values.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace kelvo {
+
+namespace {
+
+constexpr ControlID kOption{kPanelSignature, 8301};
+constexpr ControlID kSource{kPanelSignature, 8302};
+constexpr ControlID kColor{kPanelSignature, 8303};
+constexpr ControlID kPicture{kPanelSignature, 8304};
+constexpr ControlID kOptionHint{kPanelSignature, 8305};
+constexpr ControlID kColorHint{kPanelSignature, 8306};
+constexpr ControlID kRevert{kPanelSignature, 8307};
+
+constexpr OSType kCommandOption = fourCharCode("SepO");
+constexpr OSType kCommandRevert = fourCharCode("rvrt");
+
+struct SeparatorsDialog
+{
+    CFBundleRef bundle = nullptr;
+    std::unique_ptr<ModalDialog> window;
+    PopupButton *option = nullptr;
+    PopupButton *source = nullptr;
+    PopupButton *color = nullptr;
+    PictureView *picture = nullptr;
+
+    // "none" as well where the printer has no separators.
+    std::int32_t separators() const
+    {
+        return option->value() > 0 ? option->chosenReference() : kSeparatorsNone;
+    }
+};
+
+// What the option decides.
+void showOption(const SeparatorsDialog &dialog)
+{
+    const std::int32_t separators = dialog.separators();
+    const bool hasSeparators = separators != kSeparatorsNone;
+    setEnabledWithLabel(dialog.source, hasSeparators && dialog.source->count() > 0);
+    setEnabledWithLabel(dialog.color, hasSeparators && dialog.color->count() > 0);
+    if (auto *hint = findControl<QLabel>(dialog.window.get(), kColorHint))
+        hint->setEnabled(hasSeparators);
+    showBundlePicture(dialog.picture, dialog.bundle,
+                      separatorPicture(separators, dialog.color->chosenReference()),
+                      dialog.option->currentText());
+}
+
+OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &event)
+{
+    if (event.kind == EventKind::ControlHit && event.control == kColor) {
+        showOption(dialog);
+        return noErr;
+    }
+    if (event.kind != EventKind::Command)
+        return eventNotHandledErr;
+    switch (event.command) {
+    case kCommandRevert:
+        dialog.option->setValue(1);
+        dialog.source->setValue(1);
+        [[fallthrough]];
+    case kCommandOption:
+        showOption(dialog);
+        return noErr;
+    default:
+        return eventNotHandledErr;
+    }
+}
+
+// The PPD's separators under the names that every other window uses.
+void fillOptions(const SeparatorsDialog &dialog, PpdFile *ppd)
+{
+    Menu menu;
+    PPDPopulateMenuWithChoices(menu, ppd, QStringLiteral("KVSlipSheetPrint"), kCommandOption,
+                               false);
+    for (MenuItem &item : menu.items) {
+        if (const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, item.reference))
+            item.text = localizedText(dialog.bundle, QString::fromUtf8(key));
+    }
+    dialog.option->setMenu(std::move(menu));
+}
+
+void showMissingSeparators(const SeparatorsDialog &dialog)
+{
+    QWidget *window = dialog.window.get();
+    setEnabledWithLabel(dialog.option, false);
+    if (auto *hint = findControl<QLabel>(window, kOptionHint))
+        hint->setText(localizedText(dialog.bundle, QStringLiteral("No Separators on This Device")));
+    if (auto *revert = findControl<QPushButton>(window, kRevert))
+        revert->setEnabled(false);
+}
+
+void fillPopups(const SeparatorsDialog &dialog, PpdFile *ppd)
+{
+    const auto hasOption = [ppd](const QString &keyword) { return ppd && ppd->findOption(keyword); };
+    const QString sources = QStringLiteral("KVSlipSheetSource");
+    const QString colors = QStringLiteral("MediaColor");
+    if (!hasOption(QStringLiteral("KVSlipSheetPrint"))) {
+        showMissingSeparators(dialog);
+        return;
+    }
+    fillOptions(dialog, ppd);
+    if (hasOption(sources))
+        PPDPopulatePopupWithChoices(dialog.source, ppd, sources, false);
+    if (hasOption(colors))
+        PPDPopulatePopupWithChoices(dialog.color, ppd, colors, false);
+    SetPopupButtonToTicketValue(dialog.color, kStockColorWhite);
+}
+
+} // namespace
+
+OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
+                                  Stock *separatorStock, DialogResult *result, QWidget *parent)
+{
+    if (!bundle || !separators || !separatorStock || !result)
+        return paramErr;
+    SeparatorsDialog dialog;
+    dialog.bundle = bundle;
+    dialog.window = createModalDialog(bundle, QStringLiteral("Separators"),
+                                      QStringLiteral("Separators"), parent);
+    QWidget *window = dialog.window.get();
+    if (!window)
+        return kWindowNotMade;
+    dialog.option = findControl<PopupButton>(window, kOption);
+    dialog.source = findControl<PopupButton>(window, kSource);
+    dialog.color = findControl<PopupButton>(window, kColor);
+    dialog.picture = findControl<PictureView>(window, kPicture);
+    if (!dialog.option || !dialog.source || !dialog.color)
+        return kWindowNotMade;
+    makeHintText(findControl<QLabel>(window, kOptionHint));
+    makeHintText(findControl<QLabel>(window, kColorHint));
+    fillPopups(dialog, PPDGetCurrent());
+    SetPopupButtonToTicketValue(dialog.option, *separators);
+    SetPopupButtonToTicketValue(dialog.source, separatorStock->source());
+    showOption(dialog);
+    const EventHandlerRef handler = installEventHandler(
+        window, [&dialog](const Event &event) { return separatorsEventHandler(dialog, event); });
+
+    *result = dialog.window->runModal();
+    if (*result != DialogResult::OK)
+        return noErr;
+    *separators = dialog.separators();
+    if (*separators != kSeparatorsNone && dialog.source->value() > 0)
+        separatorStock->setSource(dialog.source->chosenReference());
+    return noErr;
+}
+
+} // namespace kelvo

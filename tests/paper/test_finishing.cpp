@@ -1,0 +1,375 @@
+#include "device_session.h"
+#include "finishing.h"
+#include "finishing_ticket.h"
+#include "output_destinations.h"
+#include "paper_output_context.h"
+#include "paper_output_pictures.h"
+#include "picture_view.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+namespace {
+
+QString codeText(OSType code)
+{
+    return code == kNoCommand ? QStringLiteral("-")
+                              : QStringLiteral("%1%2%3%4")
+                                    .arg(QChar(code >> 24), QChar(code >> 16 & 255),
+                                         QChar(code >> 8 & 255), QChar(code & 255));
+}
+
+// What commands leave behind, in one line.
+QString stateOf(const _PaperOutputContext &context)
+{
+    const Finishing &finishing = context.finishing;
+    return QStringLiteral("booklet %1 duplex %2 options %3 fold %4 punch %5/%6 staples %7,%8,%9")
+        .arg(context.booklet)
+        .arg(context.duplex)
+        .arg(finishing.options)
+        .arg(finishing.fold)
+        .arg(finishing.punch)
+        .arg(finishing.punchKind)
+        .arg(finishing.singleStaple)
+        .arg(finishing.dualStaple)
+        .arg(finishing.otherStaple);
+}
+
+} // namespace
+
+class TestFinishing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void offersWhatIsInstalled_data();
+    void offersWhatIsInstalled();
+    void followsTheMenu_data();
+    void followsTheMenu();
+    void checksWhatIsChosen_data();
+    void checksWhatIsChosen();
+    void summarizes_data();
+    void summarizes();
+    void placesStaplesAndHolesByOrientation_data();
+    void placesStaplesAndHolesByOrientation();
+    void readsChoicesWithoutValue();
+    void showsWhatComesOut_data();
+    void showsWhatComesOut();
+    void hasItsPictures();
+    void deliversToWhatIsInstalled_data();
+    void deliversToWhatIsInstalled();
+};
+
+void TestFinishing::offersWhatIsInstalled_data()
+{
+    QTest::addColumn<QString>("commands");
+
+    QTest::newRow("full") << "Stp0 Stp1 Stp2 Stp4 - Hpn2 Hpn3 Hpn4 Hpn0 - Fld0 Bfld Cfld Zfld Zfol "
+                             "- Bkcr";
+    QTest::newRow("mid") << "Stp0 Stp1 - Hpn2 Hpn0 - - Bkcr";
+    QTest::newRow("bare") << "- - - Bkcr";
+}
+
+void TestFinishing::offersWhatIsInstalled()
+{
+    QFETCH(QString, commands);
+    const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
+
+    Menu menu;
+    PopulateFinishingMenu(menu, device.bundle);
+
+    QStringList offered;
+    for (const MenuItem &item : menu.items) {
+        offered << codeText(item.command);
+        QVERIFY2(item.divider || !item.text.isEmpty(), qPrintable(offered.last()));
+    }
+    QCOMPARE(offered.join(u' '), commands);
+}
+
+void TestFinishing::followsTheMenu_data()
+{
+    QTest::addColumn<OSType>("command");
+    QTest::addColumn<std::int32_t>("value");
+    QTest::addColumn<QString>("plain");   // from two staples, four holes and a C-fold
+    QTest::addColumn<QString>("booklet"); // from a stapled booklet
+
+    const auto row = [](const char *command, std::int32_t value, const char *plain,
+                        const char *booklet) {
+        const char code[5] = {command[0], command[1], command[2], command[3], 0};
+        QTest::newRow(command) << fourCharCode(code) << value << QString::fromLatin1(plain)
+                               << QString::fromLatin1(booklet);
+    };
+    row("Stp0", 1, "booklet 2 duplex 1 options 9 fold 19 punch 5/32 staples 1,1,1",
+        "booklet 2 duplex 2 options 0 fold 1 punch 1/1 staples 1,1,1");
+    row("Stp1", 5, "booklet 2 duplex 1 options 4 fold 1 punch 5/32 staples 5,1,1",
+        "booklet 2 duplex 2 options 4 fold 1 punch 1/1 staples 5,1,1");
+    row("Stp2", 10, "booklet 2 duplex 1 options 9 fold 1 punch 5/32 staples 1,10,1",
+        "booklet 2 duplex 2 options 9 fold 1 punch 1/1 staples 1,10,1");
+    row("Stp4", 54, "booklet 2 duplex 1 options 53 fold 1 punch 1/1 staples 1,1,54",
+        "booklet 2 duplex 2 options 53 fold 1 punch 1/1 staples 1,1,54");
+    row("Hpn3", 4, "booklet 2 duplex 1 options 30 fold 1 punch 4/32 staples 1,10,1",
+        "booklet 2 duplex 2 options 30 fold 1 punch 4/32 staples 1,1,1");
+    row("Hpn0", 1, "booklet 2 duplex 1 options 9 fold 19 punch 1/1 staples 1,10,1",
+        "booklet 2 duplex 2 options 0 fold 1 punch 1/1 staples 1,1,1");
+    row("Zfld", 20, "booklet 2 duplex 1 options 9 fold 20 punch 5/32 staples 1,10,1",
+        "booklet 1 duplex 3 options 24 fold 20 punch 1/1 staples 1,1,1");
+}
+
+void TestFinishing::followsTheMenu()
+{
+    QFETCH(OSType, command);
+    QFETCH(std::int32_t, value);
+    QFETCH(QString, plain);
+    QFETCH(QString, booklet);
+
+    _PaperOutputContext context;
+    context.finishing = {.options = kFinishingDualStaple,
+                         .fold = kFoldC,
+                         .punch = kPunchFourHoles,
+                         .punchKind = kPunchKindPunched,
+                         .dualStaple = kStapleDual};
+    QVERIFY(applyFinishingCommand(context, command, value));
+    QCOMPARE(stateOf(context), plain);
+
+    context = {};
+    context.booklet = kBookletOn;
+    context.duplex = kPlexDuplexShort;
+    context.finishing.options = kFinishingBooklet;
+    context.finishing.fold = kFoldBiAndStaple;
+    QVERIFY(applyFinishingCommand(context, command, value));
+    QCOMPARE(stateOf(context), booklet);
+
+    QVERIFY(!applyFinishingCommand(context, kCommandBookletCreation, 0));
+}
+
+void TestFinishing::checksWhatIsChosen_data()
+{
+    QTest::addColumn<std::int32_t>("booklet");
+    QTest::addColumn<Finishing>("finishing");
+    QTest::addColumn<QString>("checked");
+
+    QTest::newRow("nothing") << kBookletOff << Finishing() << "Stp0 Hpn0 Fld0";
+    QTest::newRow("two staples, three holes")
+        << kBookletOff << Finishing{.punch = kPunchThreeHoles, .dualStaple = kStapleDual}
+        << "Stp2 Hpn3 Fld0";
+    QTest::newRow("a staple of another place")
+        << kBookletOff << Finishing{.singleStaple = 6} << "Hpn0 Fld0";
+    QTest::newRow("booklet layout") << kBookletOn << Finishing{.fold = kFoldC} << "Bkcr";
+    QTest::newRow("booklet finishing")
+        << kBookletOff << Finishing{.options = kFinishingBooklet, .fold = kFoldBi} << "Bkcr";
+}
+
+void TestFinishing::checksWhatIsChosen()
+{
+    QFETCH(std::int32_t, booklet);
+    QFETCH(Finishing, finishing);
+    QFETCH(QString, checked);
+    const DeviceSession device(QStringLiteral("full"));
+    _PaperOutputContext context;
+    context.booklet = booklet;
+    context.finishing = finishing;
+
+    Menu menu;
+    PopulateFinishingMenu(menu, device.bundle);
+    menu.items.front().checked = true; // an earlier mark goes
+    MarkFinishingMenu(menu, context);
+
+    QStringList found;
+    for (const MenuItem &item : menu.items) {
+        if (item.checked)
+            found << codeText(item.command);
+    }
+    QCOMPARE(found.join(u' '), checked);
+}
+
+void TestFinishing::summarizes_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<std::int32_t>("booklet");
+    QTest::addColumn<Finishing>("finishing");
+    QTest::addColumn<QString>("summary");
+
+    const QString full = QStringLiteral("full");
+    QTest::newRow("nothing chosen")
+        << full << kBookletOff << Finishing() << "- No staple|- No hole punch|- No fold|";
+    QTest::newRow("multiple staples")
+        << full << kBookletOff << Finishing{.otherStaple = kStapleMultiple}
+        << "- Multiple staples|- No hole punch|- No fold|";
+    QTest::newRow("single before multiple")
+        << full << kBookletOff << Finishing{.singleStaple = 5, .otherStaple = kStapleMultiple}
+        << "- 1 staple|- No hole punch|- No fold|";
+    QTest::newRow("holes and half-sheet fold")
+        << full << kBookletOff << Finishing{.fold = kFoldZHalfSheet, .punch = kPunchTwoHoles}
+        << "- No staple|- 2-hole punch|- Z-fold half sheet|";
+    QTest::newRow("booklet finishing without layout")
+        << full << kBookletOff << Finishing{.options = kFinishingBooklet, .fold = kFoldBiAndStaple}
+        << "- Booklet fold and staple|";
+    QTest::newRow("booklet layout")
+        << full << kBookletOn << Finishing{.fold = kFoldBi} << "- Booklet fold|- Booklet layout|";
+    QTest::newRow("one stapler, no folder")
+        << QStringLiteral("mid") << kBookletOff << Finishing() << "- No staple|- No hole punch|";
+    QTest::newRow("no finisher") << QStringLiteral("bare") << kBookletOff << Finishing() << "";
+}
+
+void TestFinishing::summarizes()
+{
+    QFETCH(QString, device);
+    QFETCH(std::int32_t, booklet);
+    QFETCH(Finishing, finishing);
+    QFETCH(QString, summary);
+    const DeviceSession session(device);
+    _PaperOutputContext context;
+    context.bundle = session.bundle;
+    context.booklet = booklet;
+    context.finishing = finishing;
+    context.devices = installedFinishingDevices();
+
+    QCOMPARE(CreateFinishingString(context).replace(u'\n', u'|'), summary);
+}
+
+void TestFinishing::placesStaplesAndHolesByOrientation_data()
+{
+    QTest::addColumn<std::int32_t>("value");
+    QTest::addColumn<bool>("isStaple");
+    QTest::addColumn<QString>("choices"); // by orientation; "-": none
+
+    QTest::newRow("no staple") << 1 << true << "None None DualPortrait SingleLandscape";
+    QTest::newRow("one staple") << 5 << true
+                                << "SinglePortrait SingleLandscape DualPortrait SingleLandscape";
+    QTest::newRow("two staples") << 10 << true
+                                 << "DualPortrait DualLandscape DualPortrait SingleLandscape";
+    QTest::newRow("multiple staples")
+        << 54 << true << "MultipleStaples MultipleStaples DualPortrait SingleLandscape";
+    QTest::newRow("no hole") << 1 << false << "- - - -";
+    QTest::newRow("one pattern") << 2 << false << "- - - -";
+    QTest::newRow("two holes") << 3 << false
+                               << "2HolePunch 2HolePunchLandscape 2HolePunch 2HolePunchLandscape";
+    QTest::newRow("three holes") << 4 << false
+                                 << "3HolePunch 3HolePunchLandscape 3HolePunch 3HolePunchLandscape";
+    QTest::newRow("four holes") << 5 << false
+                                << "4HolePunch 4HolePunchLandscape 4HolePunch 4HolePunchLandscape";
+}
+
+void TestFinishing::placesStaplesAndHolesByOrientation()
+{
+    QFETCH(std::int32_t, value);
+    QFETCH(bool, isStaple);
+    QFETCH(QString, choices);
+
+    QStringList found;
+    for (const std::int32_t orientation : {1, 2, 3, 4}) {
+        const std::optional<QString> choice =
+            isStaple ? stapleChoice(value, orientation) : punchChoice(value, orientation);
+        found << choice.value_or(QStringLiteral("-"));
+    }
+    QCOMPARE(found.join(u' '), choices);
+    QVERIFY(!punchChoice(kPunchTwoHoles, 5));
+}
+
+void TestFinishing::readsChoicesWithoutValue()
+{
+    QCOMPARE(punchOfChoice(QStringLiteral("3HolePunchLandscape")), kPunchThreeHoles);
+    QVERIFY(!punchOfChoice(QStringLiteral("3HolePunch")));
+    QCOMPARE(stapleOfChoice(QStringLiteral("SingleLandscape")), kStapleSingle);
+    QCOMPARE(stapleOfChoice(QStringLiteral("DualPortrait")), kStapleDual);
+    QVERIFY(!stapleOfChoice(QStringLiteral("Corner")));
+}
+
+void TestFinishing::showsWhatComesOut_data()
+{
+    QTest::addColumn<std::int32_t>("booklet");
+    QTest::addColumn<Finishing>("finishing");
+    QTest::addColumn<QString>("picture");
+
+    const auto row = [](const char *name, Finishing finishing, const char *picture,
+                        std::int32_t booklet = kBookletOff) {
+        QTest::newRow(name) << booklet << finishing << QString::fromLatin1(picture);
+    };
+    row("nothing", {}, "OfficeFinishing_None.gif");
+    row("a fold decides alone", {.fold = kFoldC, .singleStaple = 5}, "OfficeFinishing_CFold.gif");
+    row("unknown fold", {.fold = 99}, "");
+    row("bi-fold", {.fold = kFoldBi}, "OfficeFinishing_Bklt_Fold.gif");
+    row("bi-fold of a layout", {.fold = kFoldBi}, "OfficeFinishing_Bklt_Fold_Layout.gif",
+        kBookletOn);
+    row("stapled booklet", {.fold = kFoldBiAndStaple}, "OfficeFinishing_BKlt_Fold&Stple.gif");
+    row("stapled layout", {.fold = kFoldBiAndStaple}, "OfficeFinishing_Bklt_Fold&Stpl_Layout.gif",
+        kBookletOn);
+    row("staple and two holes", {.punch = kPunchTwoHoles, .singleStaple = 5},
+        "OfficeFinishing_1St&2Hp.gif");
+    row("two staples and a pattern", {.punch = kPunchGeneric, .dualStaple = 10},
+        "OfficeFinishing_2St&3Hp.gif");
+    row("many staples", {.otherStaple = 54}, "OfficeFinishing_4St.gif");
+    row("a staple without picture", {.singleStaple = 6}, "OfficeFinishing_None.gif");
+    row("two holes show three", {.punch = kPunchTwoHoles}, "OfficeFinishing_3Hp.gif");
+    row("four holes", {.punch = kPunchFourHoles}, "OfficeFinishing_4Hp.gif");
+    row("layout alone", {}, "OfficeFinishing_Bklt_Layout.gif", kBookletOn);
+}
+
+void TestFinishing::showsWhatComesOut()
+{
+    QFETCH(std::int32_t, booklet);
+    QFETCH(Finishing, finishing);
+    QFETCH(QString, picture);
+    _PaperOutputContext context;
+    context.booklet = booklet;
+    context.finishing = finishing;
+
+    QCOMPARE(finishingPicture(context), picture);
+}
+
+// Every name that the rules can come to is a file of the bundle.
+void TestFinishing::hasItsPictures()
+{
+    const DeviceSession device(QString{});
+    QStringList pictures;
+    for (const std::int32_t value : {1, 2, 3, 4, 5, 6, 7, 8, 9}) {
+        pictures << jobTypePicture(value) << punchPicture(value) << colorModePicture(value);
+        for (const std::int32_t booklet : {kBookletOn, kBookletOff}) {
+            _PaperOutputContext context;
+            context.booklet = booklet;
+            context.duplex = value;
+            pictures << duplexPicture(context);
+            for (const std::int32_t fold : {1, 19, 20, 36, 43, 53}) {
+                for (const std::int32_t staple : {1, 5, 6, 10, 12, 54}) {
+                    context.finishing = {.fold = fold, .punch = value};
+                    setStaple(context.finishing, staple);
+                    pictures << finishingPicture(context) << staplePicture(context.finishing);
+                }
+            }
+        }
+    }
+    pictures.removeDuplicates();
+    pictures.removeAll(QString());
+    QVERIFY(pictures.size() > 35);
+    for (const QString &picture : std::as_const(pictures))
+        QVERIFY2(!pictureFile(device.bundle->resourcesPath(), picture).isEmpty(),
+                 qPrintable(picture));
+}
+
+void TestFinishing::deliversToWhatIsInstalled_data()
+{
+    QTest::addColumn<QString>("bins");
+
+    QTest::newRow("full") << "Auto PrinterDefault Top Side Middle Middle2 Upper Lower Stacker "
+                             "Booklet EnvFolder SBM";
+    QTest::newRow("mid") << "Auto Top Side Upper";
+    QTest::newRow("bare") << "Top"; // its catch tray is not installed
+}
+
+void TestFinishing::deliversToWhatIsInstalled()
+{
+    QFETCH(QString, bins);
+    const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
+
+    Menu menu;
+    PopulateOutputDestination(menu, PPDGetCurrent());
+
+    QStringList found;
+    for (const MenuItem &item : menu.items)
+        found << item.key;
+    QCOMPARE(found.join(u' '), bins);
+}
+
+QTEST_GUILESS_MAIN(TestFinishing)
+#include "test_finishing.moc"

@@ -1,0 +1,328 @@
+#include "delayed_print.h"
+#include "device_session.h"
+#include "paper_output_ticket.h"
+#include "separators.h"
+#include "ticket.h"
+#include "ticket_values.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+namespace {
+
+const QString client = QStringLiteral("test");
+
+Dictionary jobTypeIn(const DeviceSession &device)
+{
+    return PMTicketGetCFDictionary(device.settings(), ticketKey("JobType")).value_or(Dictionary());
+}
+
+void read(_PaperOutputContext &context, const DeviceSession &device)
+{
+    readPaperOutput(context, device.settings(), device.pageFormat(), PPDGetCurrent());
+}
+
+// Reads, writes, and gives the ticket's value of `name`.
+std::optional<std::int64_t> numberIn(const DeviceSession &device, const char *name)
+{
+    return PMTicketGetCFNumber(device.settings(), ticketKey(name));
+}
+
+} // namespace
+
+class TestPaperOutputTicket : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsAnEmptyTicketAsTheDevicesDefaults();
+    void letsTheTicketsChoicesRuleTheStock();
+    void findsTwoSidedInThreePlaces_data();
+    void findsTwoSidedInThreePlaces();
+    void writesWhatBelongsToTheJobType();
+    void keepsForeignEntriesOfTheJobType();
+    void forgetsWhatAnEarlierTicketSaid();
+    void writesBookletEntriesWithALayoutOnly();
+    void writesTwoSidedWhileOpenOnly();
+    void takesBackHolesThatAreNotChosen_data();
+    void takesBackHolesThatAreNotChosen();
+    void writesSeparatorsSourceWithSeparatorsOnly();
+};
+
+void TestPaperOutputTicket::readsAnEmptyTicketAsTheDevicesDefaults()
+{
+    _PaperOutputContext context;
+    initializePaperOutput(context, 1000);
+    {
+        const DeviceSession device(QStringLiteral("full"));
+        read(context, device);
+    }
+
+    QCOMPARE(context.jobType, kJobTypeNormal);
+    QVERIFY(context.savedJob.usesJobName);
+    QVERIFY(context.savedJob.name.isEmpty());
+    QVERIFY(!context.savedJob.location);
+    QVERIFY(!context.passcode);
+    QCOMPARE(context.delayedPrintTime, 1000 + 86'400);
+    QCOMPARE(context.jobStock.size(), kStockSizeLetter);
+    QCOMPARE(context.jobStock.type(), kStockTypeStandard);
+    QCOMPARE(context.orientation, 1);
+    QCOMPARE(context.duplex, kPlexSimplex);
+    QCOMPARE(context.colorMode, 2);
+    QCOMPARE(context.finishing, Finishing());
+    QCOMPARE(context.separators, kSeparatorsNone);
+    QVERIFY(!context.frontCover && !context.backCover);
+
+    const DeviceSession none(QString{});
+    read(context, none);
+    QCOMPARE(context.jobStock.color(), kUnset);
+    QCOMPARE(context.finishing, Finishing());
+}
+
+void TestPaperOutputTicket::letsTheTicketsChoicesRuleTheStock()
+{
+    DeviceSession device(QStringLiteral("full"));
+    device.session.printSettings().ppdChoices = {{"MediaColor", "Blue"},
+                                                 {"MediaType", "CardStock"}};
+    Stock stored;
+    stored.setColor(kStockColorCustom);
+    stored.setType(kStockTypeCustom);
+    stored.setWeight(160);
+    PMTicketSetCFDictionary(device.settings(), client, ticketKey("JobLevelStock"),
+                            stored.asTicket());
+    _PaperOutputContext context;
+
+    read(context, device);
+
+    QCOMPARE(context.jobStock.color(), 2);
+    QCOMPARE(context.jobStock.type(), 12);
+    QCOMPARE(context.jobStock.weight(), 160);
+}
+
+void TestPaperOutputTicket::findsTwoSidedInThreePlaces_data()
+{
+    QTest::addColumn<QVariant>("finishingDuplex");
+    QTest::addColumn<QVariant>("duplexing");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<std::int32_t>("duplex");
+
+    QTest::newRow("own entry first") << QVariant(3) << QVariant(2) << "None" << kPlexDuplexShort;
+    QTest::newRow("then the platform's") << QVariant() << QVariant(2) << "None" << kPlexDuplex;
+    QTest::newRow("then the choice")
+        << QVariant() << QVariant() << "DuplexTumble" << kPlexDuplexShort;
+    QTest::newRow("an entry that is no number")
+        << QVariant("3") << QVariant() << "DuplexNoTumble" << kPlexDuplex;
+}
+
+void TestPaperOutputTicket::findsTwoSidedInThreePlaces()
+{
+    QFETCH(QVariant, finishingDuplex);
+    QFETCH(QVariant, duplexing);
+    QFETCH(QString, choice);
+    QFETCH(std::int32_t, duplex);
+    DeviceSession device(QStringLiteral("full"));
+    Ticket &ticket = device.session.printSettings();
+    if (finishingDuplex.isValid())
+        ticket.entries[ticketKey("FinishingDuplex")] = {finishingDuplex, client};
+    if (duplexing.isValid())
+        ticket.entries[QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")] = {duplexing,
+                                                                                       client};
+    ticket.ppdChoices[QStringLiteral("Duplex")] = choice;
+    _PaperOutputContext context;
+
+    read(context, device);
+
+    QCOMPARE(context.duplex, duplex);
+}
+
+void TestPaperOutputTicket::writesWhatBelongsToTheJobType()
+{
+    const DeviceSession device(QStringLiteral("full"));
+    _PaperOutputContext context;
+    read(context, device);
+    writePaperOutput(context, device.settings());
+    QCOMPARE(jobTypeIn(device).keys(),
+             (QStringList{"DelayedPrintTime", "JobType", "MediaType", "UseJobName"}));
+
+    context.jobType = kJobTypeSaved;
+    context.savedJob = {false, QStringLiteral("Minutes"), locationOfMailbox(QStringLiteral("17")),
+                        kSaveAndPrint, kSavedAsTiff};
+    context.passcode = QStringLiteral("4815");
+    writePaperOutput(context, device.settings());
+    const Dictionary saved = jobTypeIn(device);
+    QCOMPARE(saved.value("SavedJobName"), QVariant("Minutes"));
+    QCOMPARE(saved.value("SavedJobLocation"), QVariant("file:///job-repository/17"));
+    QCOMPARE(saved.value("SaveDisposition"), QVariant(qint64(2)));
+    QCOMPARE(saved.value("SavedJobFormat"), QVariant(qint64(1)));
+    QCOMPARE(saved.value("SecurePrintPassword"), QVariant("4815"));
+    _PaperOutputContext again;
+    read(again, device);
+    QCOMPARE(again.savedJob, context.savedJob);
+    QCOMPARE(again.passcode, context.passcode);
+
+    again.jobType = kJobTypeNormal;
+    again.savedJob.usesJobName = true;
+    again.savedJob.location.reset();
+    again.passcode.reset();
+    writePaperOutput(again, device.settings());
+    QCOMPARE(jobTypeIn(device).keys(),
+             (QStringList{"DelayedPrintTime", "JobType", "MediaType", "UseJobName"}));
+}
+
+void TestPaperOutputTicket::keepsForeignEntriesOfTheJobType()
+{
+    const DeviceSession device(QStringLiteral("full"));
+    PMTicketSetCFDictionary(device.settings(), client, ticketKey("JobType"),
+                            {{"Shelf", "B"}, {"MediaType", 7}});
+    _PaperOutputContext context;
+    read(context, device);
+    writePaperOutput(context, device.settings());
+
+    QCOMPARE(jobTypeIn(device).value("Shelf"), QVariant("B"));
+    QCOMPARE(jobTypeIn(device).value("MediaType"), QVariant(qint64(7)));
+}
+
+void TestPaperOutputTicket::forgetsWhatAnEarlierTicketSaid()
+{
+    _PaperOutputContext context;
+    {
+        DeviceSession device(QStringLiteral("full"));
+        _PaperOutputContext full;
+        read(full, device);
+        full.opened = true;
+        full.duplex = kPlexDuplex;
+        full.passcode = QStringLiteral("1");
+        full.finishing = {.options = 30,
+                          .fold = kFoldC,
+                          .offset = kOffsetSubsets,
+                          .offsetSubsetEnabled = 1,
+                          .pagesPerSubset = 9,
+                          .custom = "tape"};
+        full.separators = kSeparatorsBlank;
+        full.frontCover = std::make_unique<Cover>();
+        full.frontCover->stock().setSource(2);
+        full.faxOptions = Dictionary{{"Resolution", 2}};
+        writePaperOutput(full, device.settings());
+        read(context, device);
+        QCOMPARE(context.finishing.pagesPerSubset, 9);
+        QCOMPARE(context.frontCover->stock().source(), 2);
+    }
+    const DeviceSession empty(QStringLiteral("full"));
+
+    read(context, empty);
+
+    QCOMPARE(context.duplex, kPlexSimplex);
+    QVERIFY(!context.passcode && !context.faxOptions && !context.frontCover);
+    QCOMPARE(context.finishing, Finishing());
+    QCOMPARE(context.separators, kSeparatorsNone);
+}
+
+void TestPaperOutputTicket::writesBookletEntriesWithALayoutOnly()
+{
+    const DeviceSession device(QStringLiteral("full"));
+    _PaperOutputContext context;
+    read(context, device);
+    context.opened = true;
+    context.duplex = kPlexDuplexShort;
+    context.bookletLayout = {2, 36, 5, 5};
+    writePaperOutput(context, device.settings());
+    QCOMPARE(PMTicketGetCFBoolean(device.settings(), ticketKey("BookletLayout")), false);
+    QVERIFY(!numberIn(device, "Gutter"));
+
+    context.booklet = kBookletOn;
+    writePaperOutput(context, device.settings());
+    QCOMPARE(numberIn(device, "FinishingDuplex"), kPlexDuplex);
+    QCOMPARE(device.choice(QStringLiteral("Duplex")), QStringLiteral("DuplexNoTumble"));
+    QCOMPARE(numberIn(device, "Gutter"), 36);
+    const auto stock = PMTicketGetCFDictionary(device.settings(), ticketKey("JobLevelStock"));
+    QCOMPARE(stock->value("Size"), QVariant(qint64(5)));
+    _PaperOutputContext again;
+    read(again, device);
+    QVERIFY(again.isBooklet());
+    QCOMPARE(again.bookletLayout.pageBorders, 2);
+    QCOMPARE(again.bookletLayout.creep, 5);
+    QCOMPARE(again.bookletLayout.newSize, 5);
+
+    again.bookletLayout.newSize = kUnset;
+    writePaperOutput(again, device.settings());
+    QVERIFY(
+        !PMTicketGetCFDictionary(device.settings(), ticketKey("JobLevelStock"))->contains("Size"));
+}
+
+void TestPaperOutputTicket::writesTwoSidedWhileOpenOnly()
+{
+    const DeviceSession device(QStringLiteral("full"));
+    _PaperOutputContext context;
+    read(context, device);
+    context.duplex = kPlexDuplex;
+    writePaperOutput(context, device.settings());
+    QVERIFY(!numberIn(device, "FinishingDuplex"));
+    QCOMPARE(device.choice(QStringLiteral("Duplex")), QString());
+
+    context.opened = true;
+    writePaperOutput(context, device.settings());
+    QCOMPARE(numberIn(device, "FinishingDuplex"), kPlexDuplex);
+    QCOMPARE(PMTicketGetCFNumber(device.settings(),
+                                 QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")),
+             kPlexDuplex);
+}
+
+void TestPaperOutputTicket::takesBackHolesThatAreNotChosen_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<std::int32_t>("punch");
+    QTest::addColumn<QString>("after");
+
+    QTest::newRow("none after three") << "3HolePunch" << kPunchNone << "";
+    QTest::newRow("none after two across") << "2HolePunchLandscape" << kPunchNone << "";
+    QTest::newRow("one pattern after three") << "3HolePunch" << kPunchGeneric << "";
+    QTest::newRow("one pattern stays") << "HolePunch" << kPunchGeneric << "HolePunch";
+    QTest::newRow("never written") << "" << kPunchGeneric << "";
+    QTest::newRow("four after three") << "3HolePunch" << kPunchFourHoles << "4HolePunch";
+}
+
+void TestPaperOutputTicket::takesBackHolesThatAreNotChosen()
+{
+    QFETCH(QString, before);
+    QFETCH(std::int32_t, punch);
+    QFETCH(QString, after);
+    DeviceSession device(QStringLiteral("full"));
+    if (!before.isEmpty())
+        device.session.printSettings().ppdChoices[QStringLiteral("KVPunch")] = before;
+    _PaperOutputContext context;
+    read(context, device);
+    context.finishing.punch = punch;
+
+    writePaperOutput(context, device.settings());
+
+    QCOMPARE(device.choice(QStringLiteral("KVPunch")), after);
+}
+
+void TestPaperOutputTicket::writesSeparatorsSourceWithSeparatorsOnly()
+{
+    const DeviceSession device(QStringLiteral("full"));
+    Stock stock;
+    stock.setSource(2);
+    QCOMPARE(SyncSeparatorsToTicket(device.settings(), kSeparatorsNone, &stock), noErr);
+    QCOMPARE(device.choice(QStringLiteral("KVSlipSheetSource")), QString());
+    QCOMPARE(SyncSeparatorsToTicket(device.settings(), kSeparatorsPrinted, &stock), noErr);
+    QCOMPARE(device.choice(QStringLiteral("KVSlipSheetPrint")), QStringLiteral("Printed"));
+    QCOMPARE(device.choice(QStringLiteral("KVSlipSheetSource")), QStringLiteral("Tray2"));
+
+    std::int32_t separators = 0;
+    Stock read;
+    read.setWeight(90);
+    QCOMPARE(SyncSeparatorsFromTicket(device.settings(), &separators, &read), noErr);
+    QCOMPARE(separators, kSeparatorsPrinted);
+    QCOMPARE(read.source(), 2);
+    QCOMPARE(read.weight(), kUnset);
+    QCOMPARE(separatorSummary(device.bundle, separators, read),
+             QStringLiteral("- Separators: Tray 2"));
+    QCOMPARE(separatorSummary(device.bundle, kSeparatorsNone, read), QString());
+    QCOMPARE(SyncSeparatorsFromTicket(0, &separators, &read), paramErr);
+    QCOMPARE(SyncSeparatorsFromTicket(device.settings(), nullptr, &read), paramErr);
+}
+
+QTEST_GUILESS_MAIN(TestPaperOutputTicket)
+#include "test_paper_output_ticket.moc"
