@@ -76,6 +76,8 @@ struct Finishing
 struct FinishingDevices
 {
     bool stapler = false, holePunch = false, folder = false;
+
+    friend bool operator==(const FinishingDevices &, const FinishingDevices &) = default;
 };
 FinishingDevices installedFinishingDevices();
 
@@ -121,6 +123,6 @@ void UnselectBooklet(_PaperOutputContext &context);
 
 // One line for each part: "- " text and a line feed. Empty where the device has
 // no finishing device and there is no booklet.
-QString CreateFinishingString(const _PaperOutputContext &context, const FinishingDevices &devices);
+QString CreateFinishingString(const _PaperOutputContext &context);
 
 } // namespace kelvo

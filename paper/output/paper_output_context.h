@@ -34,6 +34,7 @@ struct _PaperOutputContext // NOLINT(bugprone-reserved-identifier): the panel's 
 {
     CFBundleRef bundle = nullptr;
     QString title;
+    QString documentName; // what a saved job is called that takes the job's name
     bool opened = false; // the controls exist
 
     std::int32_t jobType = 0;      // JobTypeMap; 0 until the first read
@@ -57,6 +58,7 @@ struct _PaperOutputContext // NOLINT(bugprone-reserved-identifier): the panel's 
     std::int32_t booklet = kBookletOff;
     BookletLayout bookletLayout;
     Finishing finishing;
+    FinishingDevices devices; // set when the panel opens
 
     std::unique_ptr<Cover> frontCover, backCover;
 

@@ -21,6 +21,7 @@ class PpdFile;
 //     SecurePrintPassword           string   only when there is one
 //     DelayedPrintTime              integer  long-date seconds
 //     SaveDisposition               integer  only for saved jobs
+//     SavedJobFormat                integer  only for saved jobs
 //   FaxOptions, FaxRecipientList  dictionary, array; only when there are any
 //   BookletLayout                 boolean
 //   BookletDrawOutlines, BookletForceNewSize, Gutter, Creep   with booklet layout
@@ -40,6 +41,6 @@ void initializePaperOutput(_PaperOutputContext &context, LongDateTime now);
 void readPaperOutput(_PaperOutputContext &context, PMTicketRef settings, PMTicketRef pageFormat,
                      const PpdFile *ppd);
 // Duplex is written only while the panel is open.
-void writePaperOutput(const _PaperOutputContext &context, PMTicketRef settings);
+void writePaperOutput(_PaperOutputContext &context, PMTicketRef settings);
 
 } // namespace kelvo

@@ -1,0 +1,47 @@
+#include "output_destinations.h"
+
+#include "installed_features.h"
+#include "ppd_choices.h"
+#include "setting_map.h"
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+// Bins that a device has only with the unit they belong to, by ticket value of
+// "OutputBin". All others are part of the device itself.
+struct UnitBin
+{
+    std::int32_t bin;
+    const char *feature;
+};
+constexpr UnitBin kUnitBins[] = {
+    {1, "AutoSwitchTrayKey"}, // the device switches between trays by itself
+    {5, "StackerTray1Key"},   // Upper
+    {6, "StackerTray2Key"},   // Lower
+    {4, "StackerTray1Key"},   // Stacker: any of its trays
+    {3, "SimpleCatchTrayKey"}, // Side
+    {7, "BookletFoldKey"},    // where the booklet maker delivers
+};
+
+bool isInstalled(const MenuItem &item)
+{
+    const auto *unit = std::ranges::find(kUnitBins, item.reference, &UnitBin::bin);
+    return unit == std::end(kUnitBins) || getInstalledFeature(unit->feature);
+}
+
+} // namespace
+
+void PopulateOutputDestination(Menu &menu, PpdFile *ppd)
+{
+    if (!ppd) {
+        menu.items.clear();
+        return;
+    }
+    PPDPopulateMenuWithChoices(menu, ppd, QStringLiteral("OutputBin"), kNoCommand, false);
+    std::erase_if(menu.items, [](const MenuItem &item) { return !isInstalled(item); });
+}
+
+} // namespace kelvo

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "paper_output_context.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace kelvo {
+
+class PpdFile;
+
+struct SummaryLine
+{
+    QString title; // "Job Type:"
+    QString text;
+};
+
+// What the panel has chosen, in words: job type, paper, sides, colour, stapling,
+// hole punch and output destination. A line whose setting the device does not
+// have, or that has no words, is left out.
+std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, const PpdFile *ppd);
+
+} // namespace kelvo
