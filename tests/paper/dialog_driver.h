@@ -17,49 +17,49 @@ class DialogDriver
 {
 public:
     using Step = std::function<void()>;
+    using Steps = std::deque<Step>;
 
     // The steps begin once the dialog runs, one for each round of its event loop.
-    explicit DialogDriver(std::deque<Step> steps)
-        : m_steps(std::make_shared<std::deque<Step>>(std::move(steps)))
+    explicit DialogDriver(Steps steps)
+        : m_steps(std::make_shared<Steps>(std::move(steps)))
     {
-        QTimer::singleShot(0, [left = m_steps] { doNext(left); });
+        scheduleNext(m_steps);
     }
     // A step that was not done is a dialog that closed too early.
     ~DialogDriver()
     {
         if (!m_steps->empty())
             QTest::qFail("the dialog closed before its last step", __FILE__, __LINE__);
-        m_steps->clear();
     }
     DialogDriver(const DialogDriver &) = delete;
     DialogDriver &operator=(const DialogDriver &) = delete;
 
 private:
-    static void doNext(const std::shared_ptr<std::deque<Step>> &left)
+    // Nothing more happens once the driver is gone.
+    static void scheduleNext(const std::weak_ptr<Steps> &steps)
     {
-        if (left->empty()) {
-            closeWhatIsLeft();
-            return;
-        }
-        const Step step = left->front();
-        left->pop_front();
+        QTimer::singleShot(0, [steps] {
+            if (const std::shared_ptr<Steps> left = steps.lock())
+                doNext(*left, steps);
+        });
+    }
+
+    static void doNext(Steps &left, const std::weak_ptr<Steps> &steps)
+    {
         // First, since a step may open a notice and return only when that is gone.
-        QTimer::singleShot(0, [left] { doNext(left); });
-        step();
+        scheduleNext(steps);
+        if (!left.empty()) {
+            const Step step = left.front();
+            left.pop_front();
+            step();
+        } else if (QWidget *open = QApplication::activeModalWidget()) {
+            // It would hang the test.
+            QTest::qFail("a window is open after the last step", __FILE__, __LINE__);
+            open->close();
+        }
     }
 
-    // A window that the last step should have closed would hang the test.
-    static void closeWhatIsLeft()
-    {
-        QWidget *left = QApplication::activeModalWidget();
-        if (!left)
-            return;
-        QTest::qFail("a window is open after the last step", __FILE__, __LINE__);
-        QTimer::singleShot(0, [] { closeWhatIsLeft(); });
-        left->close();
-    }
-
-    std::shared_ptr<std::deque<Step>> m_steps;
+    std::shared_ptr<Steps> m_steps;
 };
 
 inline QWidget *control(const char *name)
