@@ -1,0 +1,129 @@
+#include "job_type_dialog.h"
+
+#include "control.h"
+#include "hint_text.h"
+#include "input_limits.h"
+#include "job_types.h"
+#include "localized_controls.h"
+#include "notice.h"
+#include "passcode.h"
+#include "picture_view.h"
+#include "string_table.h"
+#include "ticket_values.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace kelvo {
+
+namespace {
+
+constexpr ControlID kPasscodeField{kPanelSignature, 8501};
+constexpr ControlID kConfirmationField{kPanelSignature, 8502};
+constexpr ControlID kPasscodeDigits{kPanelSignature, 8503};
+constexpr ControlID kConfirmationDigits{kPanelSignature, 8504};
+constexpr ControlID kShowPasscode{kPanelSignature, 8505};
+
+void limitToDigits(CFBundleRef bundle, QLineEdit *field, QLabel *hint, int shortest)
+{
+    setInputLimits(field,
+                   {.maximumLength = kLongestPasscode, .allowed = InputLimits::decimalDigits()});
+    field->setInputMethodHints(Qt::ImhDigitsOnly | Qt::ImhSensitiveData | Qt::ImhHiddenText
+                               | Qt::ImhNoPredictiveText);
+    SetLocalizedStaticText(bundle, QStringLiteral("Min-Max Digits"), hint,
+                           {QString::number(shortest), QString::number(kLongestPasscode)});
+    makeHintText(hint);
+    field->setAccessibleDescription(hint->text());
+}
+
+QString textWith(CFBundleRef bundle, const char *key, const QStringList &arguments)
+{
+    return formatted(localizedText(bundle, QString::fromLatin1(key)), arguments);
+}
+
+} // namespace
+
+void showJobTypePicture(CFBundleRef bundle, const QWidget *window, int number,
+                        const QString &picture, const QString &nameKey)
+{
+    auto *view = findControl<PictureView>(window, {kPanelSignature, number});
+    if (!view || !bundle)
+        return;
+    const QString file = pictureFile(bundle->resourcesPath(), picture);
+    view->setPictures(file.isEmpty() ? QStringList() : QStringList{file},
+                      localizedText(bundle, nameKey));
+}
+
+std::optional<PasscodeFields> findPasscodeFields(CFBundleRef bundle, const QWidget *window,
+                                                 int shortest)
+{
+    PasscodeFields fields;
+    fields.passcode = findControl<QLineEdit>(window, kPasscodeField);
+    fields.confirmation = findControl<QLineEdit>(window, kConfirmationField);
+    fields.digits = findControl<QLabel>(window, kPasscodeDigits);
+    fields.confirmationDigits = findControl<QLabel>(window, kConfirmationDigits);
+    fields.show = findControl<QCheckBox>(window, kShowPasscode);
+    fields.shortest = shortest;
+    if (!fields.passcode || !fields.confirmation || !fields.digits || !fields.confirmationDigits
+        || !fields.show)
+        return std::nullopt;
+    limitToDigits(bundle, fields.passcode, fields.digits, shortest);
+    limitToDigits(bundle, fields.confirmation, fields.confirmationDigits, shortest);
+    return fields;
+}
+
+void setPasscode(const PasscodeFields &fields, const QString &passcode)
+{
+    fields.passcode->setText(passcode);
+    fields.confirmation->setText(passcode);
+}
+
+void syncPasscodeFields(const PasscodeFields &fields, bool isEnabled)
+{
+    const bool mayConfirm = isEnabled && fields.passcode->text().size() >= fields.shortest;
+    if (isEnabled && !mayConfirm)
+        fields.confirmation->clear();
+    setEnabledWithLabel(fields.passcode, isEnabled);
+    setEnabledWithLabel(fields.confirmation, mayConfirm);
+    fields.digits->setEnabled(isEnabled);
+    fields.confirmationDigits->setEnabled(mayConfirm);
+    fields.show->setEnabled(isEnabled);
+    const auto echo = fields.show->isChecked() ? QLineEdit::Normal : QLineEdit::Password;
+    fields.passcode->setEchoMode(echo);
+    fields.confirmation->setEchoMode(echo);
+}
+
+bool takePasscode(CFBundleRef bundle, const PasscodeFields &fields, int longestAnnounced)
+{
+    QWidget *window = fields.passcode->window();
+    switch (findProblem(fields.passcode->text(), fields.confirmation->text())) {
+    case PasscodeProblem::None:
+        return true;
+    case PasscodeProblem::Missing: {
+        // The job never goes out without a passcode. The notice says it in clear:
+        // nobody knows it otherwise.
+        setPasscode(fields, madePasscode());
+        CFUserNotificationDisplayNotice(
+            NoticeLevel::Note, localizedText(bundle, QStringLiteral("Passcode Required Header")),
+            textWith(bundle, "Passcode Required Message",
+                     {QString::number(kShortestPasscode), QString::number(longestAnnounced),
+                      fields.passcode->text()}),
+            {}, window);
+        return true;
+    }
+    case PasscodeProblem::Unconfirmed:
+        CFUserNotificationDisplayNotice(
+            NoticeLevel::Stop,
+            localizedText(bundle, QStringLiteral("Invalid Secure Print Passcode Header")),
+            textWith(bundle, "Invalid Secure Print Passcode Message",
+                     {QString::number(kShortestPasscode), QString::number(kLongestPasscode)}),
+            {}, window);
+        fields.confirmation->setFocus();
+        fields.confirmation->selectAll();
+        return false;
+    }
+    return false;
+}
+
+} // namespace kelvo

@@ -1,0 +1,250 @@
+#include "saved_job_dialog.h"
+
+#include "control.h"
+#include "dialog_window.h"
+#include "event.h"
+#include "hint_text.h"
+#include "input_limits.h"
+#include "job_type_dialog.h"
+#include "job_types.h"
+#include "k_combo_box.h"
+#include "localized_controls.h"
+#include "notice.h"
+#include "popups.h"
+#include "radio_group.h"
+#include "string_table.h"
+#include "ticket_values.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int kPictureView = 8500;       // KPDE
+constexpr int kFormatPictureView = 8548; // KPDE
+constexpr ControlID kNameField{kPanelSignature, 8541};
+constexpr ControlID kUseJobName{kPanelSignature, 8542};
+constexpr ControlID kMailboxLabel{kPanelSignature, 8543};
+constexpr ControlID kMailboxField{kPanelSignature, 8544};
+constexpr ControlID kMailboxHint{kPanelSignature, 8545};
+constexpr ControlID kDisposition{kPanelSignature, 8546};
+constexpr ControlID kFormatPopup{kPanelSignature, 8547};
+constexpr ControlID kSecure{kPanelSignature, 8549};
+
+constexpr int kHistoryLength = 10;       // names, and mailboxes
+constexpr int kLongestMailboxNumber = 3; // digits
+
+struct SavedJobContext
+{
+    CFBundleRef bundle = nullptr;
+    std::unique_ptr<ModalDialog> window;
+    DialogResult result = DialogResult::Cancel;
+    SavedJobData data;
+    QString typedName; // while the document's name stands in the field
+    QPointer<HistoryField> name;
+    QPointer<QCheckBox> useJobName;
+    QPointer<HistoryField> mailbox;
+    QPointer<QLabel> mailboxHint;
+    QPointer<RadioGroup> disposition;
+    QPointer<PopupButton> format;
+    QPointer<QCheckBox> secure;
+    PasscodeFields fields;
+    EventHandlerRef handler;
+};
+
+bool findControls(SavedJobContext &context)
+{
+    const QWidget *window = context.window.get();
+    context.name = findControl<HistoryField>(window, kNameField);
+    context.useJobName = findControl<QCheckBox>(window, kUseJobName);
+    context.mailbox = findControl<HistoryField>(window, kMailboxField);
+    context.mailboxHint = findControl<QLabel>(window, kMailboxHint);
+    context.disposition = findControl<RadioGroup>(window, kDisposition);
+    context.format = findControl<PopupButton>(window, kFormatPopup);
+    context.secure = findControl<QCheckBox>(window, kSecure);
+    const auto fields = findPasscodeFields(context.bundle, window, kShortestSavedJobPasscode);
+    if (fields)
+        context.fields = *fields;
+    return fields && context.name && context.useJobName && context.mailbox && context.mailboxHint
+        && context.disposition && context.format && context.secure;
+}
+
+// A number that is too large must stand until OK says so, so the mailbox is a text
+// of digits: a numeric field would turn it into 200.
+void fillControls(const SavedJobContext &context)
+{
+    KComboBoxOptions names;
+    names.bundle = context.bundle;
+    names.historyKey = QStringLiteral("savedJobNames");
+    names.historyLimit = kHistoryLength;
+    names.maximumLength = kLongestSavedJobName;
+    KComboBoxInitializeWithMapAndHistory(context.name, names);
+
+    KComboBoxOptions mailboxes;
+    mailboxes.bundle = context.bundle;
+    mailboxes.historyKey = QStringLiteral("mailboxNumbers");
+    mailboxes.historyLimit = kHistoryLength;
+    mailboxes.maximumLength = kLongestMailboxNumber;
+    mailboxes.allowed = InputLimits::decimalDigits();
+    KComboBoxInitializeWithMapAndHistory(context.mailbox, mailboxes);
+    const QStringList range = {QString::number(kFirstMailbox), QString::number(kLastMailbox)};
+    SetLocalizedStaticText(context.bundle, QStringLiteral("Mailbox Number Label"),
+                           findControl<QLabel>(context.window.get(), kMailboxLabel), range);
+    makeHintText(context.mailboxHint);
+
+    PopulatePopupButtonFromMap(context.bundle, context.format, SavedJobFormatMap, kJobContextJob,
+                               kNoCommand);
+}
+
+// What is enabled and drawn, from what the controls hold.
+void syncToUI(const SavedJobContext &context)
+{
+    const bool isSecure = context.secure->isChecked();
+    setEnabledWithLabel(context.name, !context.useJobName->isChecked());
+    syncPasscodeFields(context.fields, isSecure);
+    // An empty field keeps OK: then the dialog makes a passcode, which nobody
+    // could reach otherwise.
+    windowDefaultButton(context.name)
+        ->setEnabled(isSavedJobPasscodeAllowed(isSecure, context.fields.passcode->text()));
+    // The pop-up beside it says which format it is.
+    showJobTypePicture(context.bundle, context.window.get(), kFormatPictureView,
+                       fileFormatPicture(GetPopupButtonTicketValue(context.format)),
+                       QStringLiteral("File Format Picture"));
+}
+
+void showName(SavedJobContext &context)
+{
+    KComboBoxSetValue(context.name,
+                      context.useJobName->isChecked() ? context.data.documentName
+                                                      : context.typedName);
+}
+
+void RestoreUIValuesFromData(SavedJobContext &context)
+{
+    const SavedJob &job = context.data.job;
+    context.typedName = job.name;
+    context.useJobName->setChecked(job.usesJobName);
+    showName(context);
+    const std::optional<int> mailbox = mailboxOf(job.location);
+    KComboBoxSetValue(context.mailbox, mailbox ? QString::number(*mailbox) : QStringLiteral(""));
+    const bool isElsewhere = job.location && !mailbox;
+    SetLocalizedStaticText(context.bundle,
+                           isElsewhere ? QStringLiteral("Mailbox Elsewhere Hint")
+                                       : QStringLiteral("Mailbox Hint"),
+                           context.mailboxHint, {job.location.value_or(QString())});
+    context.mailbox->setAccessibleDescription(context.mailboxHint->text());
+    context.disposition->setValue(job.saveDisposition);
+    if (!SetPopupButtonToTicketValue(context.format, job.fileFormat))
+        context.format->setValue(0);
+    const QString passcode = context.data.passcode.value_or(QString());
+    context.secure->setChecked(!passcode.isEmpty());
+    setPasscode(context.fields, passcode);
+    syncToUI(context);
+    std::fprintf(stderr, "Values restored.\n");
+}
+
+void SaveUIValuesToData(SavedJobContext &context)
+{
+    SavedJob &job = context.data.job;
+    const bool usesJobName = context.useJobName->isChecked();
+    setSavedJobName(job, usesJobName, usesJobName ? context.typedName : context.name->text());
+    job.location = locationAfter(context.mailbox->text(), job.location);
+    // The histories get what is stored: "7", and not "007" beside it.
+    if (!job.usesJobName)
+        KComboBoxSetValue(context.name, job.name);
+    if (const std::optional<int> mailbox = mailboxOf(job.location))
+        KComboBoxSetValue(context.mailbox, QString::number(*mailbox));
+    // What the controls cannot show stays as it was.
+    if (const int position = context.disposition->value())
+        job.saveDisposition = position;
+    if (context.format->value() > 0)
+        job.fileFormat = GetPopupButtonTicketValue(context.format);
+    context.data.passcode =
+        context.secure->isChecked() ? std::optional(context.fields.passcode->text()) : std::nullopt;
+}
+
+bool mayClose(const SavedJobContext &context)
+{
+    if (!isMailboxAllowed(context.mailbox->text())) {
+        CFUserNotificationDisplayNotice(
+            NoticeLevel::Stop,
+            localizedText(context.bundle, QStringLiteral("Invalid Mailbox Headline")),
+            formatted(localizedText(context.bundle, QStringLiteral("Invalid Mailbox Number Error")),
+                      {QString::number(kFirstMailbox), QString::number(kLastMailbox)}),
+            {}, context.window.get());
+        context.mailbox->setFocus();
+        context.mailbox->lineEdit()->selectAll();
+        return false;
+    }
+    return !context.secure->isChecked()
+        || takePasscode(context.bundle, context.fields, kLongestAnnouncedPasscode);
+}
+
+OSStatus handleEvent(SavedJobContext &context, const Event &event)
+{
+    if (event.kind != EventKind::TextChanged && event.kind != EventKind::ControlHit)
+        return eventNotHandledErr;
+    if (event.source == context.name)
+        context.typedName = context.name->text();
+    else if (event.source == context.useJobName)
+        showName(context);
+    syncToUI(context);
+    if (event.source == context.secure && context.secure->isChecked())
+        context.fields.passcode->setFocus();
+    return eventNotHandledErr;
+}
+
+OSStatus initializeSavedJob(SavedJobContext &context, QWidget *parent)
+{
+    context.window = createModalDialog(context.bundle, QStringLiteral("JobTypes"),
+                                       QStringLiteral("SavedJob"), parent);
+    if (!context.window || !findControls(context) || !windowDefaultButton(context.name))
+        return kWindowNotMade;
+    showJobTypePicture(context.bundle, context.window.get(), kPictureView,
+                       QStringLiteral("JobType_SavedJob.gif"),
+                       QStringLiteral("Save to Mailbox Command"));
+    fillControls(context);
+    RestoreUIValuesFromData(context);
+    context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {
+        return handleEvent(context, event);
+    });
+    context.window->setAcceptRule([&context] { return mayClose(context); });
+    return noErr;
+}
+
+void finalizeSavedJob(const SavedJobContext &context)
+{
+    const bool isKept = context.result == DialogResult::OK;
+    // The document's name was not typed.
+    KComboBoxFinalize(context.name, isKept && !context.data.job.usesJobName);
+    KComboBoxFinalize(context.mailbox, isKept);
+}
+
+} // namespace
+
+OSStatus RunModalSavedJobDialog(CFBundleRef bundle, SavedJobData *data, QWidget *parent)
+{
+    if (!bundle || !data)
+        return paramErr;
+    SavedJobContext context;
+    context.bundle = bundle;
+    context.data = *data;
+    const OSStatus status = initializeSavedJob(context, parent);
+    if (status != noErr)
+        return status;
+    context.result = context.window->runModal();
+    if (context.result == DialogResult::OK) {
+        SaveUIValuesToData(context);
+        *data = context.data;
+    }
+    finalizeSavedJob(context);
+    return noErr;
+}
+
+} // namespace kelvo

@@ -1,0 +1,123 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <!-- Passcodes -->
+    <message>
+        <source>Passcode:</source>
+        <translation>&amp;Passcode:</translation>
+    </message>
+    <message>
+        <source>ConfirmPasscode:</source>
+        <translation>Con&amp;firm passcode:</translation>
+    </message>
+    <message>
+        <source>Min-Max Digits</source>
+        <translation>%1 to %2 digits</translation>
+    </message>
+    <message>
+        <source>Show Passcode</source>
+        <translation>&amp;Show passcode</translation>
+    </message>
+    <message>
+        <source>Passcode Required Header</source>
+        <translation>This job has a new passcode: %3</translation>
+    </message>
+    <message>
+        <source>Passcode Required Message</source>
+        <translation>The fields were empty, so the passcode %3 was made for you. Note it down: it has to be entered at the device. To use one of your own, open this window again and enter %1 to %2 digits.</translation>
+    </message>
+    <!-- Secure print -->
+    <message>
+        <source>SecurePrintSetupTitle</source>
+        <translation>Secure print setup</translation>
+    </message>
+    <message>
+        <source>Secure Print Hint</source>
+        <translation>The device holds the job until the passcode is entered there. Leave both fields empty to have a passcode made for you.</translation>
+    </message>
+    <!-- Delayed print -->
+    <message>
+        <source>TimeToPrint:</source>
+        <translation>&amp;Time to print:</translation>
+    </message>
+    <message>
+        <source>Prints Today</source>
+        <translation>The job prints today at %1.</translation>
+    </message>
+    <message>
+        <source>Prints Tomorrow</source>
+        <translation>The job prints tomorrow at %1.</translation>
+    </message>
+    <!-- Saved job -->
+    <message>
+        <source>Save to Mailbox Title</source>
+        <translation>Saved job setup</translation>
+    </message>
+    <message>
+        <source>Job Name:</source>
+        <translation>&amp;Job name:</translation>
+    </message>
+    <message>
+        <source>Use Document Name</source>
+        <translation>&amp;Use document name</translation>
+    </message>
+    <message>
+        <source>Mailbox Number Label</source>
+        <translation>&amp;Mailbox (%1 to %2):</translation>
+    </message>
+    <message>
+        <source>Mailbox Hint</source>
+        <translation>Without a number, the job is kept in the device’s default public folder.</translation>
+    </message>
+    <message>
+        <source>Mailbox Elsewhere Hint</source>
+        <translation>The job is kept in %1. Enter a number to keep it in a mailbox instead.</translation>
+    </message>
+    <message>
+        <source>Invalid Mailbox Headline</source>
+        <translation>There is no mailbox with this number</translation>
+    </message>
+    <message>
+        <source>Invalid Mailbox Number Error</source>
+        <translation>Enter a number from %1 to %2, or leave the field empty to keep the job in the device’s default public folder.</translation>
+    </message>
+    <message>
+        <source>Save Option:</source>
+        <translation>Sa&amp;ve option:</translation>
+    </message>
+    <message>
+        <source>File Format:</source>
+        <translation>File fo&amp;rmat:</translation>
+    </message>
+    <message>
+        <source>File Format Picture</source>
+        <translation>File format</translation>
+    </message>
+    <message>
+        <source>Saved Job Format TIFF</source>
+        <translation>TIFF, one file per page</translation>
+    </message>
+    <message>
+        <source>Saved Job Format Multi-Page TIFF</source>
+        <translation>TIFF, all pages in one file</translation>
+    </message>
+    <message>
+        <source>Saved Job Format PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Saved Job Format Raster</source>
+        <translation>Device raster</translation>
+    </message>
+    <message>
+        <source>Saved Job Format Scalable Raster</source>
+        <translation>Device raster, any resolution</translation>
+    </message>
+    <message>
+        <source>SecureSavedJob:</source>
+        <translation>&amp;Lock the saved job with a passcode</translation>
+    </message>
+</context>
+</TS>
