@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+#include <functional>
+
 using namespace kelvo;
 
 namespace {
@@ -48,6 +50,8 @@ private slots:
     void takesBackHolesThatAreNotChosen_data();
     void takesBackHolesThatAreNotChosen();
     void writesSeparatorsSourceWithSeparatorsOnly();
+    void readsBackWhatItWroteBut_data();
+    void readsBackWhatItWroteBut();
 };
 
 void TestPaperOutputTicket::readsAnEmptyTicketAsTheDevicesDefaults()
@@ -322,6 +326,102 @@ void TestPaperOutputTicket::writesSeparatorsSourceWithSeparatorsOnly()
     QCOMPARE(separatorSummary(device.bundle, kSeparatorsNone, read), QString());
     QCOMPARE(SyncSeparatorsFromTicket(0, &separators, &read), paramErr);
     QCOMPARE(SyncSeparatorsFromTicket(device.settings(), nullptr, &read), paramErr);
+}
+
+// Everything that does not come back as it was, one by one.
+void TestPaperOutputTicket::readsBackWhatItWroteBut_data()
+{
+    using Change = std::function<void(_PaperOutputContext &)>;
+    QTest::addColumn<std::int32_t>("orientation");
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<Change>("whatComesBack"); // done to what was written
+
+    const auto row = [](const char *name, const Change &change, const Change &back = {},
+                        std::int32_t orientation = 1) {
+        QTest::newRow(name) << orientation << change << back;
+    };
+    using Context = _PaperOutputContext;
+    row("nothing", [](Context &) {});
+    row("a colour of the PPD", [](Context &c) { c.jobStock.setColor(9); });
+    row(
+        "a colour of the user's", [](Context &c) { c.jobStock.setColor(kStockColorCustom); },
+        [](Context &c) { c.jobStock.setColor(kStockColorWhite); });
+    for (const std::int32_t type : {kStockTypePrecutTab, kStockTypeOrdered, kStockTypeCustom})
+        row(
+            qPrintable(QStringLiteral("type %1").arg(type)),
+            [type](Context &c) { c.jobStock.setType(type); },
+            [](Context &c) { c.jobStock.setType(kStockTypeStandard); });
+    row(
+        "the second card stock", [](Context &c) { c.jobStock.setType(43); },
+        [](Context &c) { c.jobStock.setType(12); });
+    row("four holes", [](Context &c) { c.finishing.punch = kPunchFourHoles; });
+    row(
+        "one hole pattern", [](Context &c) { c.finishing.punch = kPunchGeneric; },
+        [](Context &c) { c.finishing.punch = kPunchNone; });
+    row("a fold", [](Context &c) { c.finishing.fold = kFoldZHalfSheet; });
+    row("covers from trays", [](Context &c) {
+        c.frontCover = std::make_unique<Cover>();
+        c.frontCover->stock().setSource(2);
+    });
+    row(
+        "what a cover is printed on",
+        [](Context &c) {
+            c.backCover = std::make_unique<Cover>();
+            c.backCover->setSidesImaged(kCoverPrinted);
+            c.backCover->stock().setColor(9);
+            c.backCover->stock().setSource(2);
+        },
+        [](Context &c) {
+            c.backCover->setSidesImaged(kCoverBlank);
+            c.backCover->stock().setColor(kStockColorWhite);
+        });
+    const auto dual = [](Context &c) { setStaple(c.finishing, kStapleDual); };
+    const auto none = [](Context &) {};
+    const auto single = [](Context &c) { setStaple(c.finishing, kStapleSingle); };
+    row("two staples", dual);
+    row("two staples across", dual, {}, 2);
+    row("two staples, reverse portrait", dual, {}, 3);
+    row("two staples, reverse landscape", dual, single, 4);
+    row("one staple, reverse portrait", single, dual, 3);
+    row("no staple, reverse portrait", none, dual, 3);
+    row("no staple, reverse landscape", none, single, 4);
+    row("multiple staples", [](Context &c) { setStaple(c.finishing, kStapleMultiple); });
+}
+
+void TestPaperOutputTicket::readsBackWhatItWroteBut()
+{
+    using Change = std::function<void(_PaperOutputContext &)>;
+    QFETCH(std::int32_t, orientation);
+    QFETCH(Change, change);
+    QFETCH(Change, whatComesBack);
+    const DeviceSession device(QStringLiteral("full"));
+    PMTicketSetCFNumber(device.pageFormat(), client, kPMOrientationKey, orientation);
+    _PaperOutputContext context;
+    read(context, device);
+    context.opened = true;
+    change(context);
+    writePaperOutput(context, device.settings());
+
+    _PaperOutputContext again;
+    read(again, device);
+    again.opened = true;
+
+    if (whatComesBack)
+        whatComesBack(context);
+    QCOMPARE(again.jobStock, context.jobStock);
+    QCOMPARE(again.finishing.punch, context.finishing.punch);
+    QCOMPARE(again.finishing.fold, context.finishing.fold);
+    QCOMPARE(chosenStaple(again.finishing), chosenStaple(context.finishing));
+    for (const auto &[one, other] : {std::pair(&again.frontCover, &context.frontCover),
+                                     {&again.backCover, &context.backCover}})
+        QVERIFY(*one ? *other && **one == **other : !*other);
+    // Once read, it stays as it is.
+    if (orientation <= 2) {
+        const Ticket written = device.session.printSettings();
+        writePaperOutput(again, device.settings());
+        if (!whatComesBack)
+            QCOMPARE(device.session.printSettings(), written);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestPaperOutputTicket)

@@ -1,0 +1,87 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>PaperOutput</source>
+        <translation>Paper/Output</translation>
+    </message>
+    <message>
+        <source>Job Type:</source>
+        <translation>&amp;Job type:</translation>
+    </message>
+    <message>
+        <source>Job Type Setup</source>
+        <translation>S&amp;et up…</translation>
+    </message>
+    <message>
+        <source>Paper Summary:</source>
+        <translation>&amp;Paper:</translation>
+    </message>
+    <message>
+        <source>Paper Summary Spoken</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>Stock Menu Title</source>
+        <translation>Change paper</translation>
+    </message>
+    <message>
+        <source>Two Sided Printing:</source>
+        <translation>&amp;Two-sided printing:</translation>
+    </message>
+    <message>
+        <source>Output Color:</source>
+        <translation>Output co&amp;lor:</translation>
+    </message>
+    <message>
+        <source>Stapling:</source>
+        <translation>&amp;Stapling:</translation>
+    </message>
+    <message>
+        <source>Hole Punch:</source>
+        <translation>&amp;Hole punch:</translation>
+    </message>
+    <message>
+        <source>Output Destination:</source>
+        <translation>Output &amp;destination:</translation>
+    </message>
+    <message>
+        <source>Finishing:</source>
+        <translation>&amp;Finishing:</translation>
+    </message>
+    <message>
+        <source>Finishing Summary Spoken</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Finishing Menu Title</source>
+        <translation>Change finishing</translation>
+    </message>
+    <message>
+        <source>More Finishing Menu Title</source>
+        <translation>More finishing</translation>
+    </message>
+    <message>
+        <source>No Finishing Devices</source>
+        <translation>This device has no finisher.</translation>
+    </message>
+    <message>
+        <source>Booklet Not Available Header</source>
+        <translation>Booklets cannot be set up here</translation>
+    </message>
+    <message>
+        <source>Booklet Not Available Message</source>
+        <translation>This version of the Corvane panels cannot lay out booklets. A booklet layout that a ticket or preset brings is kept and printed.</translation>
+    </message>
+    <message>
+        <source>Fax Setup Not Available Header</source>
+        <translation>Fax recipients cannot be entered here</translation>
+    </message>
+    <message>
+        <source>Fax Setup Not Available Message</source>
+        <translation>This version of the Corvane panels cannot edit fax recipients. Recipients that a ticket or preset brings are kept, and the job is sent to them.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,337 @@
+#include "driven_dialog.h"
+
+#include "bundle.h"
+#include "inspector.h"
+#include "menu_button.h"
+#include "modal_dialog.h"
+#include "panel_interface.h"
+#include "popup_button.h"
+#include "summary_view.h"
+#include "ticket.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+#include <malloc.h>
+
+using namespace kelvo;
+
+namespace {
+
+constexpr std::int32_t kJobType = 102, kJobTypeSetup = 103, kTwoSided = 110, kStapling = 113,
+                       kHolePunch = 116, kOutputColor = 119, kOutputDestination = 126;
+const QList<std::int32_t> kPopups = {kJobType,   kTwoSided,    kStapling,
+                                     kHolePunch, kOutputColor, kOutputDestination};
+
+QString key(const char *name)
+{
+    return QStringLiteral("com.kelvo.print.") + QLatin1String(name);
+}
+
+// The panel of one sample device, in front of its user.
+class Panel : public DrivenDialog
+{
+public:
+    Panel(PlugInFactoryFunction factory, const QString &device, const Panel *before = nullptr)
+        : DrivenDialog(factory,
+                       QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd")
+                           .arg(device))
+    {
+        if (before) {
+            session.printSettings() = before->session.printSettings();
+            session.pageFormat() = before->session.pageFormat();
+        }
+        isUp = begin();
+    }
+
+    PopupButton *popup(std::int32_t number) { return find<PopupButton>(kPanelSignature, number); }
+    QString summary(std::int32_t number)
+    {
+        return find<SummaryView>(kPanelSignature, number)->toPlainText();
+    }
+    // What the controls show, in one text.
+    QString shown()
+    {
+        QStringList values;
+        for (const std::int32_t number : kPopups)
+            values << QStringLiteral("%1=%2").arg(number).arg(popup(number)->chosenReference());
+        return values.join(u' ') + u'\n' + summary(107) + u'\n' + summary(127);
+    }
+    QString choice(const QString &option) { return session.printSettings().ppdChoices.value(option); }
+
+    bool isUp = false;
+};
+
+} // namespace
+
+class TestPaperOutputPanel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void showsAgainWhatItWrote_data();
+    void showsAgainWhatItWrote();
+    void menusAreShownAgainToo();
+    void opensAgainAfterItWasClosed();
+    void asksForTheSetUpOfAJobType_data();
+    void asksForTheSetUpOfAJobType();
+    void aStapleEndsABooklet();
+    void keepsWhatTheDeviceDoesNotOffer();
+    void summarizesForTheDialog();
+    void doesNotGrow();
+
+private:
+    PlugInFactoryFunction m_factory = nullptr;
+    Bundle *m_bundle = nullptr;
+};
+
+void TestPaperOutputPanel::initTestCase()
+{
+    Result<Bundle *> bundle = Bundle::open(QStringLiteral(KELVO_BUILD_DIR "/lib/KelvoPDE.pde"));
+    QVERIFY2(bundle, qPrintable(bundle.reason()));
+    m_bundle = bundle.value();
+    const auto factory =
+        m_bundle->findFactory(QUuid::fromString(QLatin1String(kPDEPlugInTypeUUID)));
+    QVERIFY(factory);
+    m_factory = reinterpret_cast<PlugInFactoryFunction>(
+        m_bundle->findFunction(factory->functionName.toLatin1().constData()));
+    QVERIFY2(m_factory, qPrintable(m_bundle->loadError()));
+}
+
+void TestPaperOutputPanel::showsAgainWhatItWrote_data()
+{
+    QTest::addColumn<QString>("device");
+    for (const char *device : {"full", "mid", "bare"})
+        QTest::newRow(device) << QString::fromLatin1(device);
+}
+
+// Every item of every pop-up.
+void TestPaperOutputPanel::showsAgainWhatItWrote()
+{
+    QFETCH(QString, device);
+    int shown = 0;
+    for (const std::int32_t number : kPopups) {
+        const std::size_t count = Panel(m_factory, device).popup(number)->menu().items.size();
+        for (std::size_t row = 1; row <= count; ++row) {
+            Panel panel(m_factory, device);
+            QVERIFY(panel.isUp);
+            PopupButton *popup = panel.popup(number);
+            if (!popup->isEnabled())
+                continue;
+            if (number == kJobType && panel.find<QWidget>(kPanelSignature, kJobTypeSetup))
+                QTimer::singleShot(0, [] {
+                    if (auto *dialog = qobject_cast<QDialog *>(frontWindow()))
+                        dialog->reject();
+                });
+            QVERIFY(popup->choose(static_cast<int>(row)));
+            QCoreApplication::processEvents();
+            const std::int32_t value = popup->chosenReference();
+            const QString before = panel.shown();
+            QCOMPARE(panel.sync(kSyncWrite), noErr);
+
+            Panel again(m_factory, device, &panel);
+            // One hole pattern is never written.
+            const bool isException = number == kHolePunch && value == 2;
+            if (!isException)
+                QCOMPARE(again.shown(), before);
+            QCOMPARE(again.sync(kSyncWrite), noErr);
+            QCOMPARE(again.session.printSettings(), panel.session.printSettings());
+            ++shown;
+        }
+    }
+    QVERIFY(shown > 5);
+}
+
+void TestPaperOutputPanel::menusAreShownAgainToo()
+{
+    const auto commandsOf = [](const MenuButton *button) {
+        QList<std::pair<OSType, std::int32_t>> commands;
+        std::vector<const std::vector<MenuItem> *> menus{&button->menu().items};
+        while (!menus.empty()) {
+            const std::vector<MenuItem> *items = menus.back();
+            menus.pop_back();
+            for (const MenuItem &item : *items) {
+                if (!item.submenu.empty())
+                    menus.push_back(&item.submenu);
+                else if (!item.divider)
+                    commands.append({item.command, item.reference});
+            }
+        }
+        return commands;
+    };
+    for (const std::int32_t number : {106, 123}) {
+        Panel first(m_factory, QStringLiteral("full"));
+        const auto commands = commandsOf(first.find<MenuButton>(kPanelSignature, number));
+        QVERIFY(commands.size() > 10);
+        for (const auto &[command, reference] : commands) {
+            if (command == fourCharCode("Bkcr") || command == fourCharCode("Sadv"))
+                continue; // these open windows
+            Panel panel(m_factory, QStringLiteral("full"));
+            inspector::ItemName item;
+            item.reference = reference;
+            const auto problem = inspector::chooseCommand(
+                panel.find<MenuButton>(kPanelSignature, number), command, item);
+            QVERIFY2(!problem, qPrintable(problem ? problem->text : QString()));
+            QCOMPARE(panel.sync(kSyncWrite), noErr);
+            Panel again(m_factory, QStringLiteral("full"), &panel);
+            QCOMPARE(again.shown(), panel.shown());
+            QCOMPARE(again.sync(kSyncWrite), noErr);
+            QCOMPARE(again.session.printSettings(), panel.session.printSettings());
+        }
+    }
+}
+
+void TestPaperOutputPanel::opensAgainAfterItWasClosed()
+{
+    Panel panel(m_factory, QStringLiteral("full"));
+    QVERIFY(panel.popup(kTwoSided)->choose(2));
+    const QString before = panel.shown();
+    QCOMPARE(panel.close(), noErr);
+    QVERIFY(!panel.popup(kTwoSided));
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.open(), noErr);
+
+    QCOMPARE(panel.shown(), before);
+    QVERIFY(panel.popup(kOutputColor)->choose(2));
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.choice(QStringLiteral("KVColorMode")), QStringLiteral("Grayscale"));
+}
+
+void TestPaperOutputPanel::asksForTheSetUpOfAJobType_data()
+{
+    QTest::addColumn<std::int32_t>("jobType");
+    QTest::addColumn<bool>("isEnabled");
+    QTest::addColumn<QString>("window"); // that the button opens; empty: none
+
+    QTest::newRow("normal") << 1 << false << "";
+    QTest::newRow("saved") << 3 << true << "savedJobWindow";
+    QTest::newRow("4 opens nothing") << 4 << true << "";
+    QTest::newRow("secure") << 6 << true << "securePrintWindow";
+    QTest::newRow("delayed") << 7 << true << "delayedPrintWindow";
+    QTest::newRow("sample set") << 8 << false << "";
+    QTest::newRow("9 opens nothing") << 9 << true << "";
+    QTest::newRow("10") << 10 << false << "";
+}
+
+void TestPaperOutputPanel::asksForTheSetUpOfAJobType()
+{
+    QFETCH(std::int32_t, jobType);
+    QFETCH(bool, isEnabled);
+    QFETCH(QString, window);
+    Panel panel(m_factory, QStringLiteral("full"));
+    PMTicketSetCFDictionary(panel.session.printSettingsTicket(), QStringLiteral("test"),
+                            key("JobType"), {{"JobType", jobType}});
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+
+    auto *button = panel.find<QPushButton>(kPanelSignature, kJobTypeSetup);
+    QCOMPARE(button->isEnabled(), isEnabled);
+    QString opened;
+    QTimer::singleShot(0, [&opened] {
+        if (auto *dialog = qobject_cast<QDialog *>(frontWindow())) {
+            opened = dialog->objectName();
+            dialog->reject();
+        }
+    });
+    button->click();
+    QCoreApplication::processEvents();
+    QCOMPARE(opened, window);
+}
+
+void TestPaperOutputPanel::aStapleEndsABooklet()
+{
+    Panel panel(m_factory, QStringLiteral("full"));
+    const PMTicketRef settings = panel.session.printSettingsTicket();
+    PMTicketSetCFBoolean(settings, QStringLiteral("test"), key("BookletLayout"), true);
+    PMTicketSetCFNumber(settings, QStringLiteral("test"), key("FinishingOptions"), 24);
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QVERIFY(!panel.popup(kTwoSided)->isEnabled());
+    QCOMPARE(panel.popup(kTwoSided)->chosenReference(), 2);
+
+    QVERIFY(!inspector::chooseCommand(panel.find<MenuButton>(kPanelSignature, 123),
+                                      fourCharCode("Stp1"), std::nullopt));
+    QVERIFY(panel.popup(kTwoSided)->isEnabled());
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(PMTicketGetCFBoolean(settings, key("BookletLayout")), false);
+    QCOMPARE(PMTicketGetCFNumber(settings, key("FinishingDuplex")), 2);
+    QCOMPARE(panel.choice(QStringLiteral("StapleLocation")), QStringLiteral("SinglePortrait"));
+}
+
+void TestPaperOutputPanel::keepsWhatTheDeviceDoesNotOffer()
+{
+    Panel panel(m_factory, QStringLiteral("bare"));
+    PPDDictionary &choices = panel.session.printSettings().ppdChoices;
+    choices = {{"KVFold", "C"}, {"Duplex", "DuplexTumble"}, {"OutputBin", "Gold"}};
+    PMTicketSetCFDictionary(panel.session.printSettingsTicket(), QStringLiteral("test"),
+                            key("JobType"), {{"JobType", 5}});
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QCOMPARE(panel.popup(kOutputDestination)->value(), 0);
+    QCOMPARE(panel.popup(kJobType)->value(), 0);
+    QVERIFY(!panel.popup(kTwoSided)->isEnabled());
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(choices.value("KVFold"), QStringLiteral("C"));
+    QCOMPARE(choices.value("Duplex"), QStringLiteral("DuplexTumble"));
+    QCOMPARE(choices.value("OutputBin"), QStringLiteral("Gold"));
+    QCOMPARE(PMTicketGetCFDictionary(panel.session.printSettingsTicket(), key("JobType"))
+                 ->value("JobType"),
+             QVariant(qint64(5)));
+}
+
+// The shell's own answer is empty: its last panel takes the lines away. The
+// panel's stands for dialogs that ask it alone.
+void TestPaperOutputPanel::summarizesForTheDialog()
+{
+    DrivenDialog dialog(m_factory, QStringLiteral(KELVO_SOURCE_DIR
+                                                  "/resources/ppds/kelvo-corvane-mid.ppd"));
+    const auto operations =
+        findPanelOperations(*m_bundle, QStringLiteral("GetPaperOutputPanelInterface"));
+    QVERIFY2(operations, qPrintable(operations.reason()));
+    QVERIFY(dialog.begin());
+    PMPDEContext context = nullptr;
+    OSType creator = 0;
+    CFStringRef kind = nullptr, title = nullptr;
+    std::uint32_t width = 0, height = 0;
+    QCOMPARE(operations.value().Prologue(&context, &creator, &kind, &title, &width, &height),
+             noErr);
+    QCOMPARE(creator, kPanelSignature);
+    QWidget pane;
+    QCOMPARE(operations.value().Initialize(context, nullptr, nullptr, &pane, &dialog.session),
+             noErr);
+    QCOMPARE(operations.value().Open(context), noErr);
+    SummaryArray titles, texts;
+    QCOMPARE(operations.value().GetSummaryText(context, &titles, &texts), noErr);
+    QCOMPARE(titles->size(), texts->size());
+    QCOMPARE(texts->join(u'|'),
+             QStringLiteral("Normal print|- White\n- Plain|1-sided print|Color|No Staple|"
+                            "No Hole Punch|Automatic"));
+    QCOMPARE(operations.value().Terminate(context, noErr), noErr);
+}
+
+void TestPaperOutputPanel::doesNotGrow()
+{
+    Panel one(m_factory, QStringLiteral("full"));
+    const Ticket plain = one.session.printSettings();
+    QCOMPARE(one.sync(kSyncWrite), noErr);
+    Ticket rich = one.session.printSettings();
+    rich.ppdChoices = {{"MediaType", "Transparency"}, {"KVSlipSheetPrint", "Blank"},
+                       {"KVFrontCoverSheet", "Tray2"}, {"StapleLocation", "MultipleStaples"}};
+    const auto refill = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            one.session.printSettings() = i % 2 ? plain : rich;
+            one.sync(kSyncRead);
+        }
+        QCoreApplication::processEvents();
+    };
+    refill(200);
+    const auto before = mallinfo2().uordblks;
+    refill(1000);
+    const auto after = mallinfo2().uordblks;
+    QVERIFY2(after < before + 50'000,
+             qPrintable(QStringLiteral("%1 bytes before, %2 after").arg(before).arg(after)));
+}
+
+QTEST_MAIN(TestPaperOutputPanel)
+#include "test_paper_output_panel.moc"
