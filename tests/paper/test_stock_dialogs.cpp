@@ -220,7 +220,6 @@ void TestStockDialogs::argumentsAreChecked()
 {
     std::int32_t length = 0;
     Stock stock;
-    _IS_Options options;
     QCOMPARE(RunModalCustomStockSizeDialog(m_bundle, &m_result, nullptr, &length), paramErr);
     QCOMPARE(RunModalTabStockSetupDialog(m_bundle, &stock, nullptr, &m_result), paramErr);
     QCOMPARE(
