@@ -172,7 +172,8 @@ QStringList stockPropertyLines(CFBundleRef bundle, const Stock &stock)
         const char *key = value == kUnset ? nullptr : LocalizedKeyForTicketValue(map, value);
         return key ? localizedText(bundle, QString::fromLatin1(key)) : QString();
     };
-    add(stock.description());
+    if (stock.description() != stock.customName())
+        add(stock.description());
     if (stock.weight() != kUnset)
         add(localizedText(bundle, QStringLiteral("StockWeightText"))
                 .arg(QLocale().toString(stock.weight())));

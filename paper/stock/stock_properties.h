@@ -71,7 +71,8 @@ Stock tidied(Stock stock);
 enum class StockProblem { None, TypeNameMissing, ColorNameMissing };
 [[nodiscard]] StockProblem findProblem(const Stock &stock);
 
-// One line for each of them that is set, as the summary has them ("- 120 g/m²").
+// One line for each of them that is set, as the summary has them ("- 120 g/m²"). A
+// description that is the stock's name has none: the summary begins with the name.
 QStringList stockPropertyLines(CFBundleRef bundle, const Stock &stock);
 
 } // namespace kelvo

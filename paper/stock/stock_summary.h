@@ -9,7 +9,7 @@ namespace kelvo {
 
 // One line for each thing that the stock says, joined by `separator`:
 //
-//   its name ("Name:My card"); the size, but for the job's own stock, whose size
+//   its name ("Name: My card"); the size, but for the job's own stock, whose size
 //   belongs to the page set-up; colour; type. A stock known by its name alone
 //   shows nothing else, one from the post-print inserter only that, and one from
 //   another source nothing.

@@ -11,6 +11,7 @@ class TestCustomSize : public QObject
     Q_OBJECT
 
 private slots:
+    void firstUnitIsTheLocales();
     void limitsAreRoundedToTheUnit_data();
     void limitsAreRoundedToTheUnit();
     void fieldsBecomeLengthsAndBack_data();
@@ -24,6 +25,15 @@ private slots:
     void tabShiftIsStoredInMillimetres_data();
     void tabShiftIsStoredInMillimetres();
 };
+
+void TestCustomSize::firstUnitIsTheLocales()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+    QCOMPARE(currentSizeUnit(), SizeUnit::Inches);
+    // What was in use stays, whatever the locale.
+    setCurrentSizeUnit(SizeUnit::Millimetres);
+    QCOMPARE(currentSizeUnit(), SizeUnit::Millimetres);
+}
 
 void TestCustomSize::limitsAreRoundedToTheUnit_data()
 {

@@ -124,6 +124,8 @@ private slots:
     void tabsOfASetAreCounted();
     void typesWithANameNeedOne();
     void transparencyIsClearOnlyWhenItIsKept();
+    void typesCanBeLeftOpen_data();
+    void typesCanBeLeftOpen();
     void descriptionSetsAndUnsets();
     void descriptionOffersWhatTheDeviceHas();
     void libraryStocksGiveTheirNameToTheDescription();
@@ -218,7 +220,6 @@ void TestStockDialogs::argumentsAreChecked()
 {
     std::int32_t length = 0;
     Stock stock;
-    _IS_Options options;
     QCOMPARE(RunModalCustomStockSizeDialog(m_bundle, &m_result, nullptr, &length), paramErr);
     QCOMPARE(RunModalTabStockSetupDialog(m_bundle, &stock, nullptr, &m_result), paramErr);
     QCOMPARE(
@@ -386,6 +387,34 @@ void TestStockDialogs::transparencyIsClearOnlyWhenItIsKept()
     }
 }
 
+void TestStockDialogs::typesCanBeLeftOpen_data()
+{
+    QTest::addColumn<QString>("printer");
+    QTest::addColumn<JobContext>("context");
+    QTest::addColumn<int>("notSet"); // the item that says so
+
+    QTest::newRow("a type of the device") << "full" << kJobContextJob << kStockTypeSystemDefault;
+    QTest::newRow("an item of ours") << "bare" << kJobContextJob << kUnset;
+    QTest::newRow("the job's") << "full" << kJobContextExceptions << kUnset;
+}
+
+void TestStockDialogs::typesCanBeLeftOpen()
+{
+    QFETCH(QString, printer);
+    QFETCH(JobContext, context);
+    QFETCH(int, notSet);
+    usePrinter(printer);
+    Stock stock;
+    inNextDialog([notSet](const Front &front) {
+        QCOMPARE(front.value("@stockType"), QString::number(notSet));
+        QVERIFY(front.choose("@stockType", kCardStock));
+        QVERIFY(front.choose("@stockType", notSet));
+        QVERIFY(front.click("@okButton"));
+    });
+    RunModalStockTypeSetup(m_bundle, kDialogModeEdit, context, &stock, &m_result);
+    QCOMPARE(stock.type(), notSet);
+}
+
 void TestStockDialogs::descriptionSetsAndUnsets()
 {
     Stock stock;
@@ -447,7 +476,7 @@ void TestStockDialogs::libraryStocksGiveTheirNameToTheDescription()
         QVERIFY(front.choose("@stockLibrary", 0));
         QVERIFY(front.isEnabled("@removeFromLibrary"));
         QCOMPARE(front.text("@advancedStockSummary"),
-                 QStringLiteral("Name: Blue card\n- Blue\n- Blue card\n- 250 g/m²"));
+                 QStringLiteral("Name: Blue card\n- Blue\n- 250 g/m²"));
         QVERIFY(front.click("@okButton"));
     });
     QCOMPARE(RunModalAdvancedStockSelection(m_bundle, kDialogModeEdit, kJobContextCovers,
@@ -567,6 +596,8 @@ void TestStockDialogs::menuCommandsChangeTheStock()
     QCOMPARE(stock.asTicket(), ticket);
     QCOMPARE(view->toPlainText(), summary);
     QCOMPARE(changes, 1);
+    // The first colour is the job's: checked only while no other is set.
+    QCOMPARE(findItem(button->updatedMenu(), kCommandStockColor)->checked, stock.color() == kUnset);
 
     FinalizeStockMenuButton(&data);
     stock.setColor(kBlue);

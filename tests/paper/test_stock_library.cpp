@@ -44,6 +44,7 @@ private slots:
     void refusesNames();
     void isFullAtItsLimit();
     void damagedEntriesAreSkippedAndStay();
+    void saysWhenItCannotBeKept();
 
     void weightsAreChecked_data();
     void weightsAreChecked();
@@ -123,6 +124,15 @@ void TestStockLibrary::damagedEntriesAreSkippedAndStay()
     QCOMPARE(names(), QStringList());
     QCOMPARE(saveInStockLibrary("Bond", card()), LibraryProblem::None);
     QCOMPARE(names(), QStringList("Bond"));
+}
+
+void TestStockLibrary::saysWhenItCannotBeKept()
+{
+    const QByteArray folder = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", "/dev/null");
+    QCOMPARE(saveInStockLibrary("Card", card()), LibraryProblem::NotWritten);
+    QCOMPARE(removeFromStockLibrary("Card"), LibraryProblem::NotWritten);
+    qputenv("XDG_CONFIG_HOME", folder);
 }
 
 void TestStockLibrary::weightsAreChecked_data()
