@@ -1,5 +1,6 @@
 #include "job_type_dialog.h"
 
+#include "bundle_picture.h"
 #include "control.h"
 #include "hint_text.h"
 #include "input_limits.h"
@@ -47,11 +48,7 @@ QString textWith(CFBundleRef bundle, const char *key, const QStringList &argumen
 void showJobTypePicture(CFBundleRef bundle, const QWidget *window, int number,
                         const QString &picture, const QString &nameKey)
 {
-    auto *view = findControl<PictureView>(window, {kPanelSignature, number});
-    if (!view || !bundle)
-        return;
-    const QString file = pictureFile(bundle->resourcesPath(), picture);
-    view->setPictures(file.isEmpty() ? QStringList() : QStringList{file},
+    showBundlePicture(findControl<PictureView>(window, {kPanelSignature, number}), bundle, picture,
                       localizedText(bundle, nameKey));
 }
 

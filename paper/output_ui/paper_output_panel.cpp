@@ -1,6 +1,7 @@
 #include "paper_output_panel.h"
 
 #include "booklet_dialog.h"
+#include "bundle_picture.h"
 #include "covers_dialog.h"
 #include "delayed_print.h"
 #include "delayed_print_dialog.h"
@@ -50,14 +51,6 @@ bool hasOption(const PaperOutputPanelContext &panel, const char *option)
 
 // --- From the context to the controls ----------------------------------------
 
-void showPicture(const PaperOutputPanelContext &panel, PictureView *view, const QString &picture)
-{
-    if (!view || !panel.bundle)
-        return;
-    const QString file = pictureFile(panel.bundle->resourcesPath(), picture);
-    view->setPictures(file.isEmpty() ? QStringList() : QStringList{file});
-}
-
 // A value that the device does not offer shows nothing, and stays.
 void showValue(PopupButton *popup, std::int32_t value)
 {
@@ -69,7 +62,7 @@ void showJobType(const PaperOutputPanelContext &panel)
 {
     showValue(panel.controls.jobType, panel.jobType);
     EnableDisableJobTypeSetupButton(panel);
-    showPicture(panel, panel.controls.jobTypeIcon, jobTypePicture(panel.jobType));
+    showBundlePicture(panel.controls.jobTypeIcon, panel.bundle, jobTypePicture(panel.jobType));
 }
 
 void showSeparators(const PaperOutputPanelContext &panel)
@@ -105,7 +98,7 @@ void showTwoSided(const PaperOutputPanelContext &panel)
     showValue(popup, panel.isBooklet() ? kPlexDuplex : panel.duplex);
     if (popup)
         setEnabledWithLabel(popup, !panel.isBooklet() && hasOption(panel, "Duplex"));
-    showPicture(panel, panel.controls.twoSidedIcon, duplexPicture(panel));
+    showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel));
 }
 
 void showFinishing(const PaperOutputPanelContext &panel)
@@ -121,15 +114,15 @@ void showFinishing(const PaperOutputPanelContext &panel)
                               : summary);
     showValue(controls.stapling, chosenStaple(panel.finishing));
     showValue(controls.holePunch, panel.finishing.punch);
-    showPicture(panel, controls.finishingIcon, finishingPicture(panel));
-    showPicture(panel, controls.staplingIcon, staplePicture(panel.finishing));
-    showPicture(panel, controls.holePunchIcon, punchPicture(panel.finishing.punch));
+    showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel));
+    showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.finishing));
+    showBundlePicture(controls.holePunchIcon, panel.bundle, punchPicture(panel.finishing.punch));
 }
 
 void showOutputColor(const PaperOutputPanelContext &panel)
 {
     showValue(panel.controls.outputColor, panel.colorMode);
-    showPicture(panel, panel.controls.outputColorIcon, colorModePicture(panel.colorMode));
+    showBundlePicture(panel.controls.outputColorIcon, panel.bundle, colorModePicture(panel.colorMode));
 }
 
 void showSettings(const PaperOutputPanelContext &panel)

@@ -1,11 +1,12 @@
 #include "custom_stock_size_dialog.h"
 
 #include "custom_size.h"
-#include "dialog_picture.h"
+#include "bundle_picture.h"
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "localized_controls.h"
 #include "ppd_choices.h"
+#include "picture_view.h"
 #include "radio_group.h"
 #include "spin_field.h"
 #include "ticket_values.h"
@@ -69,8 +70,7 @@ public:
         , m_length(window, 7004)
         , m_unitRadio(findControl<RadioGroup>(window, kUnitRadio))
     {
-        showDialogPicture(bundle, window, kPictureView, QStringLiteral("Paper_CustomSize.gif"),
-                          QStringLiteral("Custom Size Picture"));
+        showBundlePicture(findControl<PictureView>(window, kPictureView), bundle, QStringLiteral("Paper_CustomSize.gif"), localizedText(bundle, QStringLiteral("Custom Size Picture")));
         m_unitRadio->setValue(static_cast<int>(m_unit));
         showUnit(fieldOfLength(width, m_unit), fieldOfLength(length, m_unit));
     }

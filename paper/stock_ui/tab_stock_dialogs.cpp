@@ -1,9 +1,10 @@
 #include "tab_stock_dialogs.h"
 
-#include "dialog_picture.h"
+#include "bundle_picture.h"
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "popups.h"
+#include "picture_view.h"
 #include "radio_group.h"
 #include "setting_maps.h"
 #include "spin_field.h"
@@ -43,15 +44,12 @@ public:
         PopulatePopupButtonFromMap(bundle, m_template, TabStockSetupMap, kJobContextJob,
                                    kNoCommand);
         makeHintText(findControl<QLabel>(window, kShiftHint));
-        showDialogPicture(bundle, window, kShiftPicture,
-                    QStringLiteral("Paper_Pre-CutTabs_TabMarginShift.gif"),
-                    QStringLiteral("Tab Shift Picture"));
+        showBundlePicture(findControl<PictureView>(window, kShiftPicture), bundle, QStringLiteral("Paper_Pre-CutTabs_TabMarginShift.gif"), localizedText(bundle, QStringLiteral("Tab Shift Picture")));
         m_shift = tabShiftOf(options, QLocale().measurementSystem(), m_unit->value());
-        m_shift.value = std::max(m_shift.value, 0);
         // Where the locale has neither unit, nothing can be shown until the user
         // chooses one: what is stored stays as it is until then.
         if (m_shift.maximum > 0)
-            m_shift.value = std::min(m_shift.value, m_shift.maximum);
+            keepWithinReach();
         show();
     }
 
@@ -67,7 +65,7 @@ public:
             const int unit = m_unit->value();
             m_field->takeTypedText();
             m_shift = withUnit(m_shift, unit);
-            m_shift.value = std::min(m_shift.value, m_shift.maximum);
+            keepWithinReach();
         } else {
             return eventNotHandledErr;
         }
@@ -78,11 +76,18 @@ public:
     const TabShift &shift() const { return m_shift; }
 
 private:
+    // As far back from the tab as towards it.
+    void keepWithinReach()
+    {
+        m_shift.value = std::clamp(m_shift.value, -m_shift.maximum, m_shift.maximum);
+    }
+
     void show()
     {
         const bool isEditable = isTabShiftEditable(m_shift);
         SetPopupButtonToTicketValue(m_template, m_shift.choice);
         m_field->setDecimals(m_shift.decimals);
+        m_field->setMinimum(-m_shift.maximum);
         m_field->setMaximum(m_shift.maximum);
         m_field->setValue(m_shift.value);
         m_unit->setValue(m_shift.unit);
@@ -130,8 +135,7 @@ OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode, JobContext,
     field->setMaximum(kMostTabs);
     field->setValue(stock->modulus() == kUnset ? kUsualTabs : stock->modulus());
     makeHintText(findControl<QLabel>(dialog.get(), kTabsHint));
-    showDialogPicture(bundle, dialog.get(), kTabsPicture, QStringLiteral("Paper_Pre-CutTab_White.gif"),
-                QStringLiteral("Tabs in Set Picture"));
+    showBundlePicture(findControl<PictureView>(dialog.get(), kTabsPicture), bundle, QStringLiteral("Paper_Pre-CutTab_White.gif"), localizedText(bundle, QStringLiteral("Tabs in Set Picture")));
     *result = dialog->runModal();
     if (*result == DialogResult::OK)
         stock->setModulus(field->value());

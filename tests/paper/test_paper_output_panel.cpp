@@ -35,9 +35,9 @@ class Panel : public DrivenDialog
 {
 public:
     Panel(PlugInFactoryFunction factory, const QString &device, const Panel *before = nullptr)
-        : DrivenDialog(factory,
-                       QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd")
-                           .arg(device))
+        : DrivenDialog(
+            factory,
+            QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device))
     {
         if (before) {
             session.printSettings() = before->session.printSettings();
@@ -59,7 +59,10 @@ public:
             values << QStringLiteral("%1=%2").arg(number).arg(popup(number)->chosenReference());
         return values.join(u' ') + u'\n' + summary(107) + u'\n' + summary(127);
     }
-    QString choice(const QString &option) { return session.printSettings().ppdChoices.value(option); }
+    QString choice(const QString &option)
+    {
+        return session.printSettings().ppdChoices.value(option);
+    }
 
     bool isUp = false;
 };
@@ -284,8 +287,8 @@ void TestPaperOutputPanel::keepsWhatTheDeviceDoesNotOffer()
 // panel's stands for dialogs that ask it alone.
 void TestPaperOutputPanel::summarizesForTheDialog()
 {
-    DrivenDialog dialog(m_factory, QStringLiteral(KELVO_SOURCE_DIR
-                                                  "/resources/ppds/kelvo-corvane-mid.ppd"));
+    DrivenDialog dialog(m_factory,
+                        QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-mid.ppd"));
     const auto operations =
         findPanelOperations(*m_bundle, QStringLiteral("GetPaperOutputPanelInterface"));
     QVERIFY2(operations, qPrintable(operations.reason()));
@@ -316,8 +319,10 @@ void TestPaperOutputPanel::doesNotGrow()
     const Ticket plain = one.session.printSettings();
     QCOMPARE(one.sync(kSyncWrite), noErr);
     Ticket rich = one.session.printSettings();
-    rich.ppdChoices = {{"MediaType", "Transparency"}, {"KVSlipSheetPrint", "Blank"},
-                       {"KVFrontCoverSheet", "Tray2"}, {"StapleLocation", "MultipleStaples"}};
+    rich.ppdChoices = {{"MediaType", "Transparency"},
+                       {"KVSlipSheetPrint", "Blank"},
+                       {"KVFrontCoverSheet", "Tray2"},
+                       {"StapleLocation", "MultipleStaples"}};
     const auto refill = [&](int times) {
         for (int i = 0; i < times; ++i) {
             one.session.printSettings() = i % 2 ? plain : rich;

@@ -228,7 +228,7 @@ void TestStock::summarizes_data()
     QTest::newRow("custom colour and type") << kJobContextJob << colored << "Color: Teal|- Felt";
     Stock tab = stockOf(1, 1, kStockTypePrecutTab);
     tab.setModulus(5);
-    QTest::newRow("pre-cut tabs") << kJobContextJob << tab << "- White|- Pre-cut tab stock (5)";
+    QTest::newRow("pre-cut tabs") << kJobContextJob << tab << "- White|- Precut tabs (5)";
     tab.setType(kStockTypeTab);
     QTest::newRow("tab stock of five") << kJobContextJob << tab << "- White|- Tab Stock (5)";
     tab.setModulus(kUnset);

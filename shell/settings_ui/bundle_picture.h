@@ -10,8 +10,8 @@ class PictureView;
 
 // Shows one picture of the bundle ("….gif"); nothing for an empty name and for a
 // picture that the bundle does not have. `description` is what a screen reader
-// says. Nothing happens for a null view.
+// says. Nothing happens for a null view or bundle.
 void showBundlePicture(PictureView *view, CFBundleRef bundle, const QString &name,
-                       const QString &description);
+                       const QString &description = {});
 
 } // namespace kelvo
