@@ -15,8 +15,6 @@ namespace kelvo {
 OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock, _IS_Options *options,
                                      DialogResult *result, QWidget *parent = nullptr);
 
-inline constexpr int kFewestTabs = 1, kMostTabs = 254, kUsualTabs = 3; // in a set
-
 // How many tabs a set of pre-cut tab stock has: the stock's modulus.
 OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
                                      Stock *stock, DialogResult *result,

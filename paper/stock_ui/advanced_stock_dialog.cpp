@@ -1,0 +1,324 @@
+#include "stock_dialogs.h"
+
+#include "control.h"
+#include "custom_size.h"
+#include "dialog_window.h"
+#include "hint_text.h"
+#include "input_limits.h"
+#include "ppd_choices.h"
+#include "save_stock_dialog.h"
+#include "stock_library.h"
+#include "stock_menu_button.h"
+#include "stock_menus.h"
+#include "stock_notices.h"
+#include "stock_popups.h"
+#include "stock_properties.h"
+#include "stock_summary.h"
+#include "ticket_values.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+constexpr OSType kCommandRevert = fourCharCode("rvrt");
+
+constexpr ControlID kIcon{kPanelSignature, 7061};
+constexpr ControlID kSummary{kPanelSignature, 7062};
+constexpr ControlID kLibraryPopup{kPanelSignature, 7063};
+constexpr ControlID kSaveButton{kPanelSignature, 7064};
+constexpr ControlID kRemoveButton{kPanelSignature, 7065};
+constexpr ControlID kSizeButton{kPanelSignature, 7066};
+constexpr ControlID kColorPopup{kPanelSignature, 7067};
+constexpr ControlID kColorNameField{kPanelSignature, 7068};
+constexpr ControlID kTypeButton{kPanelSignature, 7069};
+constexpr ControlID kDescriptionButton{kPanelSignature, 7070};
+constexpr ControlID kLibraryHint{kPanelSignature, 7071};
+
+constexpr std::int32_t kNoLibraryStock = -1; // the first line of the pop-up
+
+// The width and length of a custom size, in the unit that the user works with.
+QString customSizeText(CFBundleRef bundle, const Stock &stock)
+{
+    const SizeUnit unit = currentSizeUnit();
+    const auto text = [unit](std::int32_t length) {
+        return CreateLocalizedCFStringFromNumberWithDecimals(fieldOfLength(length, unit),
+                                                             decimalsOf(unit))
+            .value_or(QString());
+    };
+    return localizedText(bundle,
+                         unit == SizeUnit::Inches ? QStringLiteral("StockCustomSizeInches")
+                                                  : QStringLiteral("StockCustomSizeMillimeters"))
+        .arg(text(stock.width()), text(stock.length()));
+}
+
+QString sizeText(CFBundleRef bundle, JobContext jobContext, const Stock &stock)
+{
+    if (stock.size() == kUnset)
+        return notSetText(bundle, jobContext);
+    if (stock.size() == kStockSizeCustom && stock.width() != kUnset && stock.length() != kUnset)
+        return customSizeText(bundle, stock);
+    const QString option = QStringLiteral("PageSize");
+    const std::optional<QString> choice = PPDChoiceForTicketValue(option, stock.size());
+    return PPDCopyChoiceText(PPDGetCurrent(), option, choice.value_or(QString()))
+        .value_or(localizedText(bundle, QStringLiteral("StockSizeUnknown")));
+}
+
+// A stock as its context begins with it, all of it: the default by itself leaves
+// some of the finer properties as they were.
+Stock freshStock(JobContext jobContext)
+{
+    Stock stock;
+    DefaultStock(&stock, jobContext);
+    return stock;
+}
+
+// The library's `named` in place of `current`, as far as the context has room for it.
+Stock takenFromLibrary(const Stock &named, const Stock &current, JobContext jobContext)
+{
+    Stock taken = named;
+    const bool isJob = jobContext == kJobContextJob;
+    const bool cannotBeCustom =
+        jobContext == kJobContextCovers && named.size() == kStockSizeCustom;
+    if (isJob || cannotBeCustom) {
+        taken.setSize(current.size());
+        if (current.size() == kStockSizeCustom) {
+            taken.setWidth(current.width());
+            taken.setLength(current.length());
+        }
+    }
+    // Who asked for the stock forgets its name; the description stays.
+    taken.setDescription(named.customName());
+    return taken;
+}
+
+class AdvancedStockWindow
+{
+public:
+    AdvancedStockWindow(CFBundleRef bundle, QWidget *window, JobContext jobContext,
+                        bool offersLibrary, const Stock &stock)
+        : m_bundle(bundle)
+        , m_window(window)
+        , m_jobContext(jobContext)
+        , m_summary(findControl<SummaryView>(window, kSummary))
+        , m_library(findControl<PopupButton>(window, kLibraryPopup))
+        , m_remove(findControl<QPushButton>(window, kRemoveButton))
+        , m_size(findControl<MenuButton>(window, kSizeButton))
+        , m_color(findControl<PopupButton>(window, kColorPopup))
+        , m_colorName(findControl<QLineEdit>(window, kColorNameField))
+        , m_stock(stock)
+    {
+        fillStockColorPopup(bundle, m_color, jobContext);
+        setInputLimits(m_colorName, {.maximumLength = kLongestStockText});
+
+        m_sizeData.bundle = bundle;
+        m_sizeData.stock = &m_stock;
+        m_sizeData.jobContext = jobContext;
+        m_sizeData.icon = findControl<PictureView>(window, kIcon);
+        m_sizeData.changed = [this] { show(); };
+        // The job's own size belongs to the page set-up.
+        const bool hasSize = jobContext != kJobContextJob;
+        setVisibleWithLabel(m_size, hasSize);
+        if (hasSize)
+            InitializeStockSizeMenuButton(m_size, &m_sizeData);
+
+        auto *hint = findControl<QLabel>(window, kLibraryHint);
+        makeHintText(hint);
+        fillLibrary({});
+        if (!offersLibrary) {
+            setVisibleWithLabel(m_library, false);
+            for (QWidget *control : {static_cast<QWidget *>(hint), findControl(window, kSaveButton),
+                                     static_cast<QWidget *>(m_remove)})
+                control->hide();
+        }
+        m_colorName->setText(m_stock.customColor());
+        show();
+        // Not the summary, which comes first.
+        findControl(window, kTypeButton)->setFocus();
+    }
+    ~AdvancedStockWindow() { FinalizeStockSizeMenuButton(&m_sizeData); }
+    AdvancedStockWindow(const AdvancedStockWindow &) = delete;
+    AdvancedStockWindow &operator=(const AdvancedStockWindow &) = delete;
+
+    OSStatus handle(const Event &event)
+    {
+        if (event.kind == EventKind::TextChanged && event.control == kColorNameField) {
+            m_stock.setCustomColor(m_colorName->text());
+            forgetStockName(m_stock);
+        } else if (event.kind == EventKind::Command && event.command == kCommandRevert) {
+            replaceStock(freshStock(m_jobContext));
+            m_library->setValueByReference(kNoLibraryStock);
+        } else if (event.kind != EventKind::ControlHit || !handleHit(event.control)) {
+            return eventNotHandledErr;
+        }
+        show();
+        return noErr;
+    }
+
+    bool mayAccept() const
+    {
+        const StockProblem problem = findProblem(tidied(m_stock));
+        showStockProblem(m_bundle, problem, m_window);
+        if (problem == StockProblem::ColorNameMissing)
+            m_colorName->setFocus();
+        return problem == StockProblem::None;
+    }
+
+    Stock stock() const { return tidied(m_stock); }
+
+private:
+    bool handleHit(ControlID control)
+    {
+        if (control == kColorPopup)
+            applyStockCommand(m_stock, kCommandStockColor, m_color->chosenReference(),
+                              m_jobContext);
+        else if (control == kTypeButton)
+            runType();
+        else if (control == kDescriptionButton)
+            runDescription();
+        else if (control == kLibraryPopup)
+            takeFromLibrary(m_library->chosenReference());
+        else if (control == kSaveButton)
+            save();
+        else if (control == kRemoveButton)
+            remove();
+        else
+            return false;
+        return true;
+    }
+
+    void runType()
+    {
+        DialogResult result = DialogResult::Cancel;
+        RunModalStockTypeSetup(m_bundle, kDialogModeEdit, m_jobContext, &m_stock, &result,
+                               m_window);
+    }
+
+    void runDescription()
+    {
+        DialogResult result = DialogResult::Cancel;
+        RunModalStockDescriptionSetup(m_bundle, kDialogModeEdit, m_jobContext, &m_stock, &result,
+                                      m_window);
+    }
+
+    void takeFromLibrary(std::int32_t row)
+    {
+        if (row >= 0 && row < static_cast<std::int32_t>(m_named.size()))
+            replaceStock(takenFromLibrary(m_named[row], m_stock, m_jobContext));
+    }
+
+    void save()
+    {
+        const QString chosen = chosenName();
+        const std::optional<QString> name = RunModalSaveStock(
+            m_bundle, tidied(m_stock), chosen.isEmpty() ? m_stock.description() : chosen, m_window);
+        if (name)
+            fillLibrary(*name);
+    }
+
+    void remove()
+    {
+        const QString name = chosenName();
+        if (name.isEmpty()
+            || !mayChangeLibrary(m_bundle, QStringLiteral("Remove"), name, m_window))
+            return;
+        showLibraryProblem(m_bundle, removeFromStockLibrary(name), name, m_window);
+        fillLibrary({});
+    }
+
+    // The library's stock that the pop-up shows; empty when it shows none.
+    QString chosenName() const
+    {
+        const std::int32_t row = m_library->chosenReference();
+        return row >= 0 && row < static_cast<std::int32_t>(m_named.size())
+            ? m_named[row].customName()
+            : QString();
+    }
+
+    // Lists the library as it is now, and shows the stock of that name.
+    void fillLibrary(const QString &name)
+    {
+        m_named = readStockLibrary();
+        Menu menu;
+        MenuItem none;
+        none.text = localizedText(m_bundle,
+                                  m_named.empty() ? QStringLiteral("Stock Library Empty")
+                                                  : QStringLiteral("Stock Library Choose"));
+        none.reference = kNoLibraryStock;
+        menu.items.push_back(std::move(none));
+        for (std::size_t row = 0; row < m_named.size(); ++row) {
+            MenuItem item;
+            item.text = m_named[row].customName();
+            item.reference = static_cast<std::int32_t>(row);
+            menu.items.push_back(std::move(item));
+        }
+        m_library->setMenu(std::move(menu));
+        for (std::size_t row = 0; row < m_named.size(); ++row) {
+            if (sameStockName(m_named[row].customName(), name))
+                m_library->setValueByReference(static_cast<std::int32_t>(row));
+        }
+    }
+
+    void replaceStock(const Stock &stock)
+    {
+        m_stock = stock;
+        m_colorName->setText(m_stock.customColor());
+    }
+
+    void show()
+    {
+        setEnabledWithLabel(m_library, !m_named.empty());
+        m_remove->setEnabled(!chosenName().isEmpty());
+        showStockColor(m_color, m_stock.color());
+        setEnabledWithLabel(m_colorName, m_stock.color() == kStockColorCustom);
+        m_size->setText(
+            sizeText(m_bundle, m_jobContext, m_stock).replace(u'&', QLatin1String("&&")));
+        QStringList lines(stockSummaryText(m_bundle, m_jobContext, &m_stock));
+        lines += stockPropertyLines(m_bundle, m_stock);
+        m_summary->setSummary(lines.join(u'\n'));
+        StockIconEventHandler(m_sizeData);
+    }
+
+    CFBundleRef m_bundle;
+    QWidget *m_window;
+    JobContext m_jobContext;
+    SummaryView *m_summary;
+    PopupButton *m_library;
+    QPushButton *m_remove;
+    MenuButton *m_size;
+    PopupButton *m_color;
+    QLineEdit *m_colorName;
+    Stock m_stock;
+    std::vector<Stock> m_named; // the library, as the pop-up lists it
+    _StockMenuCommandEventHandlerData m_sizeData;
+};
+
+} // namespace
+
+OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode, JobContext jobContext,
+                                        NamedPaperContext namedPapers, Stock *stock,
+                                        DialogResult *result, QWidget *parent)
+{
+    if (!bundle || !stock || !result)
+        return paramErr;
+    const QString name = QStringLiteral("AdvancedStockSelection");
+    const auto dialog = createModalDialog(bundle, name, name, parent);
+    if (!dialog)
+        return kWindowNotMade;
+    AdvancedStockWindow window(bundle, dialog.get(), jobContext,
+                               namedPapers == kNamedPaperLibrary, *stock);
+    const EventHandlerRef handler = installEventHandler(
+        dialog.get(), [&window](const Event &event) { return window.handle(event); });
+    dialog->setAcceptRule([&window] { return window.mayAccept(); });
+    *result = dialog->runModal();
+    if (*result == DialogResult::OK)
+        *stock = window.stock();
+    return noErr;
+}
+
+} // namespace kelvo

@@ -1,0 +1,162 @@
+#include "custom_stock_size_dialog.h"
+
+#include "custom_size.h"
+#include "dialog_picture.h"
+#include "dialog_window.h"
+#include "hint_text.h"
+#include "localized_controls.h"
+#include "ppd_choices.h"
+#include "radio_group.h"
+#include "spin_field.h"
+#include "ticket_values.h"
+
+#include <QLabel>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kelvo {
+
+namespace {
+
+constexpr ControlID kUnitRadio{kPanelSignature, 7007};
+constexpr ControlID kPictureView{kPanelSignature, 7008};
+
+// One of the two lengths, with what stands beside its field.
+struct LengthControls
+{
+    SpinField *field = nullptr;
+    QLabel *unit = nullptr;
+    QLabel *limits = nullptr;
+
+    LengthControls(const QWidget *window, std::int32_t number)
+        : field(findControl<SpinField>(window, {kPanelSignature, number}))
+        , unit(findControl<QLabel>(window, {kPanelSignature, number + 1}))
+        , limits(findControl<QLabel>(window, {kPanelSignature, number + 2}))
+    {
+        makeHintText(limits);
+    }
+};
+
+CustomPageLimits mediaLimits()
+{
+    CustomPageLimits limits{};
+    GetMediaLimits(&limits.minWidth, &limits.minHeight, &limits.maxWidth, &limits.maxHeight);
+    return limits;
+}
+
+// The size that a printer is set to, 1/100 mm; Letter where that is unknown.
+std::pair<std::int32_t, std::int32_t> defaultSize()
+{
+    constexpr double lengthPerPoint = 2540.0 / 72;
+    const PpdFile *ppd = PPDGetCurrent();
+    const std::optional<QString> name = PPDCopyDefaultChoice(ppd, QStringLiteral("PageSize"));
+    const PpdPageSize *size = ppd && name ? ppd->findPageSize(*name) : nullptr;
+    const auto lengthOf = [](double points) {
+        return static_cast<std::int32_t>(std::lround(std::clamp(points, 0.0, 1e6) * lengthPerPoint));
+    };
+    return size ? std::pair(lengthOf(size->width), lengthOf(size->height))
+                : std::pair(lengthOf(612), lengthOf(792));
+}
+
+class CustomSizeWindow
+{
+public:
+    CustomSizeWindow(CFBundleRef bundle, const QWidget *window, std::int32_t width,
+                     std::int32_t length)
+        : m_bundle(bundle)
+        , m_width(window, 7001)
+        , m_length(window, 7004)
+        , m_unitRadio(findControl<RadioGroup>(window, kUnitRadio))
+    {
+        showDialogPicture(bundle, window, kPictureView, QStringLiteral("Paper_CustomSize.gif"),
+                          QStringLiteral("Custom Size Picture"));
+        m_unitRadio->setValue(static_cast<int>(m_unit));
+        showUnit(fieldOfLength(width, m_unit), fieldOfLength(length, m_unit));
+    }
+
+    OSStatus handle(const Event &event)
+    {
+        if (event.kind != EventKind::ControlHit || event.control != kUnitRadio)
+            return eventNotHandledErr;
+        const auto unit = static_cast<SizeUnit>(m_unitRadio->value());
+        if (unit == m_unit)
+            return noErr;
+        m_width.field->takeTypedText();
+        m_length.field->takeTypedText();
+        m_unit = unit;
+        setCurrentSizeUnit(unit);
+        showUnit(convertedField(m_width.field->value(), unit),
+                 convertedField(m_length.field->value(), unit));
+        return noErr;
+    }
+
+    std::int32_t width() const { return lengthOfField(m_width.field->value(), m_unit); }
+    std::int32_t length() const { return lengthOfField(m_length.field->value(), m_unit); }
+
+private:
+    void showUnit(std::int32_t width, std::int32_t length)
+    {
+        const SizeFieldLimits limits = sizeFieldLimits(mediaLimits(), m_unit);
+        show(m_width, width, limits.minWidth, limits.maxWidth);
+        show(m_length, length, limits.minLength, limits.maxLength);
+    }
+
+    void show(const LengthControls &controls, std::int32_t value, std::int32_t least,
+              std::int32_t most)
+    {
+        const bool inInches = m_unit == SizeUnit::Inches;
+        const int decimals = decimalsOf(m_unit);
+        SpinField &field = *controls.field;
+        field.setDecimals(decimals);
+        field.setSingleStep(inInches ? 5 : 10); // 0.05 in, 1 mm
+        // A device's greatest length below its least leaves one length to choose.
+        field.setMinimum(least);
+        field.setMaximum(std::max(least, most));
+        field.setValue(value);
+        SetLocalizedStaticText(m_bundle,
+                               inInches ? QStringLiteral("Inches") : QStringLiteral("Millimeters"),
+                               controls.unit);
+        const auto text = [decimals](int limit) {
+            return CreateLocalizedCFStringFromNumberWithDecimals(limit, decimals)
+                .value_or(QString());
+        };
+        SetLocalizedStaticText(m_bundle,
+                               inInches ? QStringLiteral("Custom Size Limits Inches")
+                                        : QStringLiteral("Custom Size Limits Millimeters"),
+                               controls.limits, {text(field.minimum()), text(field.maximum())});
+        field.setAccessibleDescription(controls.limits->text());
+    }
+
+    CFBundleRef m_bundle;
+    LengthControls m_width;
+    LengthControls m_length;
+    RadioGroup *m_unitRadio;
+    SizeUnit m_unit = currentSizeUnit();
+};
+
+} // namespace
+
+OSStatus RunModalCustomStockSizeDialog(CFBundleRef bundle, DialogResult *result,
+                                       std::int32_t *width, std::int32_t *length, QWidget *parent)
+{
+    if (!bundle || !result || !width || !length)
+        return paramErr;
+    const QString name = QStringLiteral("CustomStockSize");
+    const auto dialog = createModalDialog(bundle, name, name, parent);
+    if (!dialog)
+        return kWindowNotMade;
+    const auto [usualWidth, usualLength] = defaultSize();
+    CustomSizeWindow window(bundle, dialog.get(), *width == kUnset ? usualWidth : *width,
+                            *length == kUnset ? usualLength : *length);
+    const EventHandlerRef handler = installEventHandler(
+        dialog.get(), [&window](const Event &event) { return window.handle(event); });
+    *result = dialog->runModal();
+    if (*result == DialogResult::OK) {
+        *width = window.width();
+        *length = window.length();
+    }
+    return noErr;
+}
+
+} // namespace kelvo

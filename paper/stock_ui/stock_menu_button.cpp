@@ -1,0 +1,161 @@
+#include "stock_menu_button.h"
+
+#include "custom_stock_size_dialog.h"
+#include "picture_view.h"
+#include "popups.h"
+#include "stock_dialogs.h"
+#include "stock_menus.h"
+#include "stock_pictures.h"
+#include "stock_summary.h"
+
+namespace kelvo {
+
+namespace {
+
+bool isChosen(const MenuItem &item, const Stock &stock)
+{
+    if (item.command == kCommandStockSource)
+        return stock.source() == item.reference;
+    if (stock.source() != kUnset)
+        return false;
+    switch (item.command) {
+    case kCommandStockSize:
+        return stock.size() == item.reference;
+    case kCommandStockColor:
+        return stock.color() == item.reference;
+    case kCommandStockType:
+        return stock.type() == item.reference;
+    default:
+        return false;
+    }
+}
+
+void checkChosen(std::vector<MenuItem> &items, const Stock &stock)
+{
+    for (MenuItem &item : items) {
+        checkChosen(item.submenu, stock);
+        item.checked = item.submenu.empty() && isChosen(item, stock);
+    }
+}
+
+void showStock(const _StockMenuCommandEventHandlerData &data)
+{
+    if (data.summary)
+        ShowStockSummary(data.bundle, data.summary, data.stock, data.jobContext);
+    StockIconEventHandler(data);
+}
+
+OSStatus initializeButton(MenuButton *button, _StockMenuCommandEventHandlerData *data,
+                          Menu (*menuFor)(CFBundleRef, JobContext))
+{
+    if (!button || !data || !data->bundle || !data->stock)
+        return paramErr;
+    FinalizeStockMenuButton(data);
+    data->button = button;
+    button->setMenu(menuFor(data->bundle, data->jobContext));
+    button->setMenuUpdate([data](Menu &menu) { checkChosen(menu.items, *data->stock); });
+    data->handlers.push_back(installEventHandler(button, [data](const Event &event) {
+        return StockMenuCommandEventHandler(event, data);
+    }));
+    showStock(*data);
+    return noErr;
+}
+
+// Width and length are asked for, and only then the size is a custom one.
+OSStatus takeCustomSize(_StockMenuCommandEventHandlerData &data)
+{
+    Stock &stock = *data.stock;
+    stock.setSource(kUnset);
+    std::int32_t width = stock.width();
+    std::int32_t length = stock.length();
+    DialogResult result = DialogResult::Cancel;
+    const OSStatus status =
+        RunModalCustomStockSizeDialog(data.bundle, &result, &width, &length, data.button);
+    if (status == noErr && result == DialogResult::OK) {
+        stock.setSize(kStockSizeCustom);
+        stock.setWidth(width);
+        stock.setLength(length);
+    }
+    forgetStockName(stock);
+    return status;
+}
+
+} // namespace
+
+OSStatus InitializeStockMenuButton(MenuButton *button, _StockMenuCommandEventHandlerData *data)
+{
+    return initializeButton(button, data, stockButtonMenu);
+}
+
+OSStatus InitializeStockSizeMenuButton(MenuButton *button, _StockMenuCommandEventHandlerData *data)
+{
+    return initializeButton(button, data, [](CFBundleRef bundle, JobContext jobContext) {
+        Menu menu;
+        PopulateStockSizeMenu(menu, bundle, jobContext);
+        return menu;
+    });
+}
+
+void FinalizeStockMenuButton(_StockMenuCommandEventHandlerData *data)
+{
+    if (!data)
+        return;
+    data->handlers.clear();
+    if (data->button)
+        data->button->setMenuUpdate({});
+    data->button.clear();
+}
+
+void FinalizeStockSizeMenuButton(_StockMenuCommandEventHandlerData *data)
+{
+    FinalizeStockMenuButton(data);
+}
+
+OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEventHandlerData *data)
+{
+    if (event.kind != EventKind::Command || !data || !data->stock)
+        return eventNotHandledErr;
+    OSStatus status = noErr;
+    if (event.command == kCommandStockAdvanced) {
+        DialogResult result = DialogResult::Cancel;
+        status = RunModalAdvancedStockSelection(data->bundle, kDialogModeEdit, data->jobContext,
+                                                kNamedPaperLibrary, data->stock, &result,
+                                                data->button);
+        if (status != noErr || result != DialogResult::OK)
+            return status;
+        forgetStockName(*data->stock);
+    } else if (event.command == kCommandStockSize && event.reference == kStockSizeCustom) {
+        status = takeCustomSize(*data);
+    } else if (!applyStockCommand(*data->stock, event.command, event.reference,
+                                  data->jobContext)) {
+        return eventNotHandledErr;
+    }
+    showStock(*data);
+    if (data->changed)
+        data->changed();
+    return status;
+}
+
+void StockIconEventHandler(const _StockMenuCommandEventHandlerData &data)
+{
+    if (!data.icon || !data.bundle || !data.stock)
+        return;
+    QStringList files;
+    for (const QString &name : stockPictures(*data.stock)) {
+        const QString file = pictureFile(data.bundle->resourcesPath(), name);
+        if (!file.isEmpty())
+            files << file;
+    }
+    QString description = stockSummaryText(data.bundle, data.jobContext, data.stock);
+    data.icon->setPictures(files, description.replace(u'\n', QLatin1String(", ")));
+}
+
+OSStatus ShowStockSummary(CFBundleRef bundle, SummaryView *view, const Stock *stock,
+                          JobContext jobContext)
+{
+    if (!bundle || !view)
+        return paramErr;
+    return UpdateSummaryTextView(view, stockSummaryText(bundle, jobContext, stock));
+}
+
+} // namespace kelvo

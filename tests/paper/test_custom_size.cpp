@@ -1,0 +1,173 @@
+#include "custom_size.h"
+#include "tab_shift.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+// The numbers of the custom size and the tab shift, exactly as tickets have them.
+class TestCustomSize : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void limitsAreRoundedToTheUnit_data();
+    void limitsAreRoundedToTheUnit();
+    void fieldsBecomeLengthsAndBack_data();
+    void fieldsBecomeLengthsAndBack();
+    void unitsConvertWithRounding();
+
+    void tabShiftBeginsWithTheLocalesUnit_data();
+    void tabShiftBeginsWithTheLocalesUnit();
+    void tabShiftConverts_data();
+    void tabShiftConverts();
+    void tabShiftIsStoredInMillimetres_data();
+    void tabShiftIsStoredInMillimetres();
+};
+
+void TestCustomSize::limitsAreRoundedToTheUnit_data()
+{
+    QTest::addColumn<CustomPageLimits>("points");
+    QTest::addColumn<SizeUnit>("unit");
+    QTest::addColumn<SizeFieldLimits>("limits");
+
+    const CustomPageLimits usual{432, 432, 864, 864};
+    QTest::newRow("inches") << usual << SizeUnit::Inches << SizeFieldLimits{600, 1200, 600, 1200};
+    QTest::newRow("millimetres") << usual << SizeUnit::Millimetres
+                                 << SizeFieldLimits{1524, 3048, 1524, 3048};
+    QTest::newRow("rounded") << CustomPageLimits{279, 420, 612, 1008} << SizeUnit::Inches
+                             << SizeFieldLimits{388, 850, 583, 1400};
+    QTest::newRow("beyond 32 bits") << CustomPageLimits{0, 0, 1e300, 1e10} << SizeUnit::Millimetres
+                                    << SizeFieldLimits{0, 2147483647, 0, 2147483647};
+}
+
+void TestCustomSize::limitsAreRoundedToTheUnit()
+{
+    QFETCH(CustomPageLimits, points);
+    QFETCH(SizeUnit, unit);
+    QFETCH(SizeFieldLimits, limits);
+    QCOMPARE(sizeFieldLimits(points, unit), limits);
+}
+
+void TestCustomSize::fieldsBecomeLengthsAndBack_data()
+{
+    QTest::addColumn<SizeUnit>("unit");
+    QTest::addColumn<int>("field");
+    QTest::addColumn<int>("length");
+
+    QTest::newRow("8.50 in") << SizeUnit::Inches << 850 << 21590;
+    QTest::newRow("11.69 in, rounded down") << SizeUnit::Inches << 1169 << 29693;
+    QTest::newRow("8.27 in, rounded up") << SizeUnit::Inches << 827 << 21006;
+    QTest::newRow("215.9 mm") << SizeUnit::Millimetres << 2159 << 21590;
+}
+
+void TestCustomSize::fieldsBecomeLengthsAndBack()
+{
+    QFETCH(SizeUnit, unit);
+    QFETCH(int, field);
+    QFETCH(int, length);
+    QCOMPARE(lengthOfField(field, unit), length);
+    QCOMPARE(fieldOfLength(length, unit), field);
+}
+
+void TestCustomSize::unitsConvertWithRounding()
+{
+    QCOMPARE(convertedField(850, SizeUnit::Millimetres), 2159);
+    QCOMPARE(convertedField(2159, SizeUnit::Inches), 850);
+    // 297.0 mm comes back as 296.9 mm: each direction rounds.
+    QCOMPARE(convertedField(2970, SizeUnit::Inches), 1169);
+    QCOMPARE(convertedField(1169, SizeUnit::Millimetres), 2969);
+    // What the largest field would be does not run over.
+    QCOMPARE(convertedField(2147483647, SizeUnit::Millimetres), 2147483647);
+}
+
+void TestCustomSize::tabShiftBeginsWithTheLocalesUnit_data()
+{
+    QTest::addColumn<QLocale::MeasurementSystem>("system");
+    QTest::addColumn<int>("option");
+    QTest::addColumn<int>("x1");
+    QTest::addColumn<TabShift>("shift");
+
+    const auto us = QLocale::ImperialUSSystem;
+    const auto metric = QLocale::MetricSystem;
+    const auto other = QLocale::ImperialUKSystem;
+    QTest::newRow("none") << us << kUnset << 13 << TabShift{1, 1, 0, 20, 1};
+    QTest::newRow("template, inches") << us << 1 << 13 << TabShift{2, 1, 0, 20, 1};
+    QTest::newRow("template, millimetres") << metric << 1 << 13 << TabShift{3, 2, 0, 50, 0};
+    QTest::newRow("custom, millimetres") << metric << 1 << 20 << TabShift{4, 2, 20, 50, 0};
+    QTest::newRow("custom, inches") << us << 1 << 20 << TabShift{4, 1, 8, 20, 1};
+    QTest::newRow("negative, inches") << us << 1 << -20 << TabShift{4, 1, -8, 20, 1};
+    QTest::newRow("no unit of its own") << other << 1 << 0 << TabShift{4, 2, 0, 0, 0};
+}
+
+void TestCustomSize::tabShiftBeginsWithTheLocalesUnit()
+{
+    QFETCH(QLocale::MeasurementSystem, system);
+    QFETCH(int, option);
+    QFETCH(int, x1);
+    QFETCH(TabShift, shift);
+    _IS_Options options;
+    options.option = option;
+    options.x1 = x1;
+    QCOMPARE(tabShiftOf(options, system, kTabUnitMillimetres), shift);
+}
+
+void TestCustomSize::tabShiftConverts_data()
+{
+    QTest::addColumn<int>("millimetres");
+    QTest::addColumn<int>("tenths");
+    QTest::addColumn<int>("back"); // in millimetres again
+
+    // One inch is 25 mm, halves go away from zero.
+    QTest::newRow("nothing") << 0 << 0 << 0;
+    QTest::newRow("an inch") << 25 << 10 << 25;
+    QTest::newRow("below half a tenth") << 1 << 0 << 0;
+    QTest::newRow("up") << 2 << 1 << 3;
+    QTest::newRow("the most") << 50 << 20 << 50;
+    QTest::newRow("negative, towards zero") << -1 << 0 << 0;
+    QTest::newRow("negative, away from zero") << -2 << -1 << -3;
+}
+
+void TestCustomSize::tabShiftConverts()
+{
+    QFETCH(int, millimetres);
+    QFETCH(int, tenths);
+    QFETCH(int, back);
+    const TabShift metric{kTabShiftCustom, kTabUnitMillimetres, millimetres, 50, 0};
+    const TabShift inches = withUnit(metric, kTabUnitInches);
+    QCOMPARE(inches, (TabShift{kTabShiftCustom, kTabUnitInches, tenths, 20, 1}));
+    QCOMPARE(withUnit(inches, kTabUnitInches), inches);
+    QCOMPARE(withUnit(inches, kTabUnitMillimetres).value, back);
+}
+
+void TestCustomSize::tabShiftIsStoredInMillimetres_data()
+{
+    QTest::addColumn<TabShift>("shift");
+    QTest::addColumn<int>("option");
+    QTest::addColumn<bool>("inches");
+    QTest::addColumn<int>("x1");
+
+    QTest::newRow("none keeps the rest") << TabShift{1, 1, 8, 20, 1} << kUnset << true << 7;
+    QTest::newRow("half an inch") << TabShift{2, 1, 8, 20, 1} << 1 << false << 13;
+    QTest::newRow("12.7 mm") << TabShift{3, 2, 8, 50, 0} << 1 << false << 13;
+    QTest::newRow("custom inches") << TabShift{4, 1, 5, 20, 1} << 1 << false << 13;
+    QTest::newRow("custom millimetres") << TabShift{4, 2, 30, 50, 0} << 1 << false << 30;
+}
+
+void TestCustomSize::tabShiftIsStoredInMillimetres()
+{
+    QFETCH(TabShift, shift);
+    QFETCH(int, option);
+    QFETCH(bool, inches);
+    QFETCH(int, x1);
+    _IS_Options options;
+    options.inches = true;
+    options.x1 = 7;
+    storeTabShift(options, shift);
+    QCOMPARE(options.option, option);
+    QCOMPARE(options.inches, inches);
+    QCOMPARE(options.x1, x1);
+}
+
+QTEST_GUILESS_MAIN(TestCustomSize)
+#include "test_custom_size.moc"

@@ -1,0 +1,234 @@
+#include "stock_library.h"
+
+#include "preferences.h"
+#include "stock_properties.h"
+
+#include <QLocale>
+#include <QTest>
+
+using namespace kelvo;
+
+namespace {
+
+QStringList names()
+{
+    QStringList found;
+    for (const Stock &stock : readStockLibrary())
+        found << stock.customName();
+    return found;
+}
+
+Stock card()
+{
+    Stock stock;
+    stock.setType(12);
+    stock.setWeight(250);
+    return stock;
+}
+
+} // namespace
+
+class TestStockLibrary : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+        WriteUserPreferences(kStockLibraryFile, {});
+    }
+
+    void keepsOneStockOfAName();
+    void refusesNames_data();
+    void refusesNames();
+    void isFullAtItsLimit();
+    void damagedEntriesAreSkippedAndStay();
+
+    void weightsAreChecked_data();
+    void weightsAreChecked();
+    void devicesOfferWhatTheirPpdHas_data();
+    void devicesOfferWhatTheirPpdHas();
+    void whatIsNotOfferedIsNotSet();
+    void nothingStaysWithoutItsTypeOrColor();
+    void namesAreAskedFor();
+};
+
+void TestStockLibrary::keepsOneStockOfAName()
+{
+    QCOMPARE(saveInStockLibrary("gamma 10", card()), LibraryProblem::None);
+    QCOMPARE(saveInStockLibrary("Beta", card()), LibraryProblem::None);
+    QCOMPARE(saveInStockLibrary("gamma 9", card()), LibraryProblem::None);
+    Stock other = card();
+    other.setWeight(300);
+    QCOMPARE(saveInStockLibrary(" BETA ", other), LibraryProblem::None);
+    QCOMPARE(names(), QStringList({"BETA", "gamma 9", "gamma 10"}));
+    QCOMPARE(readStockLibrary().front().weight(), 300);
+
+    QCOMPARE(removeFromStockLibrary("Gamma 9"), LibraryProblem::None);
+    QCOMPARE(names(), QStringList({"BETA", "gamma 10"}));
+    QCOMPARE(removeFromStockLibrary("gamma 9"), LibraryProblem::NotFound);
+}
+
+void TestStockLibrary::refusesNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<LibraryProblem>("problem");
+
+    const QString longest = QString(kLongestStockName - 1, u'x') + QStringLiteral("\U0001F4C4");
+    QTest::newRow("blanks") << "  " << LibraryProblem::NameMissing;
+    QTest::newRow("the longest") << longest << LibraryProblem::None;
+    QTest::newRow("one character more") << longest + 'x' << LibraryProblem::NameTooLong;
+}
+
+void TestStockLibrary::refusesNames()
+{
+    QFETCH(QString, name);
+    QFETCH(LibraryProblem, problem);
+    QCOMPARE(saveInStockLibrary(name, card()), problem);
+    QCOMPARE(names().size(), problem == LibraryProblem::None ? 1 : 0);
+}
+
+void TestStockLibrary::isFullAtItsLimit()
+{
+    Array entries;
+    for (int i = 1; i < kMostLibraryStocks; ++i) {
+        Stock stock = card();
+        stock.setCustomName(QStringLiteral("Card %1").arg(i));
+        entries << stock.asTicket();
+    }
+    WriteUserPreferences(kStockLibraryFile, {{"Stocks", entries}});
+
+    QCOMPARE(saveInStockLibrary("Last", card()), LibraryProblem::None);
+    QCOMPARE(saveInStockLibrary("One more", card()), LibraryProblem::Full);
+    QCOMPARE(saveInStockLibrary("last", card()), LibraryProblem::None); // replaces
+    QCOMPARE(int(readStockLibrary().size()), kMostLibraryStocks);
+}
+
+void TestStockLibrary::damagedEntriesAreSkippedAndStay()
+{
+    const Array damaged = {QStringLiteral("text"), Dictionary{{"CustomName", 7}},
+                           Dictionary{{"Weight", 80}}};
+    WriteUserPreferences(
+        kStockLibraryFile,
+        {{"Stocks", damaged + Array{Dictionary{{"CustomName", "Card"}}}}, {"Other", 1}});
+    QCOMPARE(names(), QStringList("Card"));
+    QCOMPARE(saveInStockLibrary("Bond", card()), LibraryProblem::None);
+    QCOMPARE(names(), QStringList({"Bond", "Card"}));
+    const Dictionary content = *CopyUserPreferences(kStockLibraryFile);
+    QCOMPARE(array(content, "Stocks")->size(), damaged.size() + 2);
+    QVERIFY(content.contains("Other"));
+
+    WriteUserPreferences(kStockLibraryFile, {{"Stocks", "no array"}});
+    QCOMPARE(names(), QStringList());
+    QCOMPARE(saveInStockLibrary("Bond", card()), LibraryProblem::None);
+    QCOMPARE(names(), QStringList("Bond"));
+}
+
+void TestStockLibrary::weightsAreChecked_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<std::optional<WeightRange>>("range");
+
+    const std::optional<WeightRange> none;
+    QTest::newRow("two numbers") << " 60  300 " << std::optional(WeightRange{60, 300});
+    QTest::newRow("at the limits") << "1 1000" << std::optional(WeightRange{1, 1000});
+    QTest::newRow("one weight") << "80 80" << std::optional(WeightRange{80, 80});
+    QTest::newRow("nothing at all") << "0 300" << none;
+    QTest::newRow("too heavy") << "60 1001" << none;
+    QTest::newRow("the wrong way round") << "300 60" << none;
+    QTest::newRow("one number") << "300" << none;
+    QTest::newRow("three numbers") << "60 300 400" << none;
+    QTest::newRow("no numbers") << "light heavy" << none;
+    QTest::newRow("fractions") << "60.5 300" << none;
+}
+
+void TestStockLibrary::weightsAreChecked()
+{
+    QFETCH(QString, text);
+    QFETCH(std::optional<WeightRange>, range);
+    QCOMPARE(weightRangeFrom(text), range);
+}
+
+void TestStockLibrary::devicesOfferWhatTheirPpdHas_data()
+{
+    QTest::addColumn<QString>("ppd");
+    QTest::addColumn<StockProperties>("properties");
+
+    const QString samples = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-");
+    QTest::newRow("all") << samples + "full.ppd" << StockProperties{{60, 350}, true, true};
+    QTest::newRow("little") << samples + "bare.ppd" << StockProperties{{60, 163}, false, false};
+    QTest::newRow("no weights") << KELVO_TEST_DATA "/platform/test.ppd"
+                                << StockProperties{{60, 300}, false, false};
+}
+
+void TestStockLibrary::devicesOfferWhatTheirPpdHas()
+{
+    QFETCH(QString, ppd);
+    QFETCH(StockProperties, properties);
+    const auto opened = PpdFile::open(ppd);
+    QVERIFY(opened);
+    QCOMPARE(stockPropertiesOf(opened.value().get()), properties);
+    QCOMPARE(stockPropertiesOf(nullptr), (StockProperties{{60, 300}, false, false}));
+}
+
+void TestStockLibrary::whatIsNotOfferedIsNotSet()
+{
+    Stock stock = card();
+    stock.setWeight(301);
+    stock.setSidesCoated(3);
+    stock.setCoatingType(2);
+    stock.setPunched(kStockPrePunched);
+
+    const Stock rich = offered(stock, {{60, 350}, true, true});
+    QCOMPARE(rich.asTicket(), stock.asTicket());
+    const Stock poor = offered(stock, {{60, 300}, false, false});
+    QCOMPARE(poor.weight(), 300);
+    QCOMPARE(poor.sidesCoated(), kUnset);
+    QCOMPARE(poor.coatingType(), kUsualCoating);
+    QCOMPARE(poor.punched(), kUnset);
+
+    stock.setWeight(kUnset);
+    stock.setPunched(1);
+    QCOMPARE(offered(stock, {}).weight(), kUnset);
+    QCOMPARE(offered(stock, {}).punched(), 1); // needs nothing of the device
+}
+
+void TestStockLibrary::nothingStaysWithoutItsTypeOrColor()
+{
+    Stock stock;
+    stock.setType(kStockTypeOrdered);
+    stock.setCustomType(" Dividers ");
+    stock.setColor(kStockColorCustom);
+    stock.setCustomColor(" Sunset ");
+    const Stock kept = tidied(stock);
+    QCOMPARE(kept.customType(), QStringLiteral("Dividers"));
+    QCOMPARE(kept.customColor(), QStringLiteral("Sunset"));
+    QCOMPARE(kept.modulus(), kUsualTabs);
+
+    stock.setModulus(9);
+    stock.setColor(kStockColorWhite);
+    stock.setType(kStockTypeTab);
+    QCOMPARE(tidied(stock).modulus(), 9);
+    QCOMPARE(tidied(stock).customType(), QString());
+    QCOMPARE(tidied(stock).customColor(), QString());
+    stock.setType(kStockTypeStandard);
+    QCOMPARE(tidied(stock).modulus(), kUnset);
+}
+
+void TestStockLibrary::namesAreAskedFor()
+{
+    Stock stock;
+    QCOMPARE(findProblem(stock), StockProblem::None);
+    stock.setColor(kStockColorCustom);
+    QCOMPARE(findProblem(stock), StockProblem::ColorNameMissing);
+    stock.setType(kStockTypeCustom);
+    stock.setCustomType("  ");
+    QCOMPARE(findProblem(stock), StockProblem::TypeNameMissing);
+    stock.setCustomType("Bank");
+    stock.setCustomColor("Sunset");
+    QCOMPARE(findProblem(stock), StockProblem::None);
+}
+
+QTEST_GUILESS_MAIN(TestStockLibrary)
+#include "test_stock_library.moc"
