@@ -29,7 +29,6 @@ private slots:
     void aSecureSavedJobWithoutPasscodeGetsOne();
     void whatIsNotTouchedStays();
     void cancelKeepsTheSavedJob();
-    void argumentsAreNeeded();
 
 private:
     CFBundleRef m_bundle = nullptr;
@@ -209,19 +208,6 @@ void TestJobTypeDialogs::cancelKeepsTheSavedJob()
     QCOMPARE(RunModalSavedJobDialog(m_bundle, &data), noErr);
     QCOMPARE(data.job, SavedJob());
     QCOMPARE(readHistory("savedJobNames"), QStringList());
-}
-
-void TestJobTypeDialogs::argumentsAreNeeded()
-{
-    std::optional<QString> passcode;
-    LongDateTime time = 0;
-    SavedJobData data;
-    QCOMPARE(RunModalSecurePrintSetup(nullptr, &passcode), paramErr);
-    QCOMPARE(RunModalSecurePrintSetup(m_bundle, nullptr), paramErr);
-    QCOMPARE(RunModalDelayedPrintSetup(nullptr, &time), paramErr);
-    QCOMPARE(RunModalDelayedPrintSetup(m_bundle, nullptr), paramErr);
-    QCOMPARE(RunModalSavedJobDialog(nullptr, &data), paramErr);
-    QCOMPARE(RunModalSavedJobDialog(m_bundle, nullptr), paramErr);
 }
 
 QTEST_MAIN(TestJobTypeDialogs)

@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>Invalid Secure Print Passcode Header</source>
-        <translation>Check the Secure Print passcode</translation>
+        <translation>Check the passcode</translation>
     </message>
     <message>
         <source>Invalid Secure Print Passcode Message</source>
-        <translation>Secure Print needs a passcode of %1 to %2 digits, the same in both fields. The job is printed when it is entered at the device.</translation>
+        <translation>The job needs a passcode of %1 to %2 digits, the same in both fields. It is printed when the passcode is entered at the device.</translation>
     </message>
     <message>
         <source>FaxRecipientsMissing Header</source>

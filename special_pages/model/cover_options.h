@@ -1,0 +1,74 @@
+#pragma once
+
+#include "cover.h"
+#include "menu.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+
+// The rules of the covers dialog.
+namespace kelvo {
+
+// Which covers there are: values of CoverOptionMap, and "the same" between them.
+inline constexpr std::int32_t kNoCovers = 1;
+inline constexpr std::int32_t kFrontCoverOnly = 2;
+inline constexpr std::int32_t kBackCoverOnly = 3;
+inline constexpr std::int32_t kSameCovers = 4;
+inline constexpr std::int32_t kFrontAndBackCovers = 5;
+
+inline constexpr std::int32_t kCoverSourceAutomatic = 0; // "Auto" of KVFrontCoverSheet
+
+constexpr bool hasFrontCover(std::int32_t option)
+{
+    return option != kNoCovers && option != kBackCoverOnly;
+}
+constexpr bool hasBackCover(std::int32_t option)
+{
+    return option != kNoCovers && option != kFrontCoverOnly;
+}
+
+// A cover as the dialog makes one: the job's own paper, from whatever tray has it.
+Cover newCover();
+
+// What the dialog works on. A cover that the option leaves out is as new.
+struct WorkingCovers
+{
+    std::int32_t option = kNoCovers;
+    Cover front = newCover();
+    Cover back = newCover();
+};
+
+// Copies of the covers given, null where there is none. Two equal ones are the same.
+WorkingCovers workingCovers(const Cover *front, const Cover *back);
+
+// The user chose `option`. A cover that stays keeps what was set; one that goes
+// and comes again is as new.
+void setCoverOption(WorkingCovers &covers, std::int32_t option);
+
+// A printed cover has the document's size, so its stock's is unset.
+void setSidesImaged(Cover &cover, std::int32_t sidesImaged);
+
+// To be called after any change of a cover or its stock: a printed cover stays
+// without a size of its own, and a back cover that is the same follows the front.
+void settleCovers(WorkingCovers &covers);
+
+// Enables the stock menu's size and post-print inserter for a cover that is not
+// printed; a submenu without choices stays disabled.
+void enableStockItems(Menu &menu, const Cover &cover);
+
+// The sources of a cover as a menu shows them: `sources`, and before them an item
+// with `notSet` and kUnset where the cover's own is none of them.
+Menu sourceMenu(const Menu &sources, const Cover &cover, const QString &notSet);
+bool hasSource(const Menu &sources, const Cover &cover);
+
+// What OK leaves with the caller: a cover that is there before and after stays the
+// same object and takes the new values.
+void handOver(const WorkingCovers &covers, std::unique_ptr<Cover> &front,
+              std::unique_ptr<Cover> &back);
+
+// The picture of an option, as the bundle names it.
+QString coverOptionPicture(std::int32_t option);
+
+} // namespace kelvo

@@ -1,0 +1,297 @@
+#include "covers_dialog.h"
+
+#include "control.h"
+#include "cover_options.h"
+#include "dialog_window.h"
+#include "hint_text.h"
+#include "localized_controls.h"
+#include "picture_view.h"
+#include "popups.h"
+#include "ppd_choices.h"
+#include "setting_maps.h"
+#include "stock_menu_button.h"
+#include "stock_summary.h"
+#include "ticket_values.h"
+
+#include <QGroupBox>
+#include <QLabel>
+
+#include <algorithm>
+#include <array>
+
+namespace kelvo {
+
+namespace {
+
+constexpr OSType kCommandCoverOptions = fourCharCode("Copt");
+constexpr OSType kCommandFrontSides = fourCharCode("Cfpo");
+constexpr OSType kCommandBackSides = fourCharCode("Cbpo");
+constexpr OSType kCommandRevert = fourCharCode("rvrt");
+
+constexpr ControlID kPicture{kPanelSignature, 8600};
+constexpr ControlID kOptions{kPanelSignature, 8601};
+constexpr ControlID kJobPaper{kPanelSignature, 8602};
+
+// KPDE numbers of a cover's controls, from the first one of its group.
+enum CoverControl : std::int32_t {
+    kGroup,
+    kStockIcon,
+    kStockButton,
+    kStockSummary,
+    kSource,
+    kSourceHint,
+    kSides,
+};
+constexpr std::int32_t kFrontControls = 8610;
+constexpr std::int32_t kBackControls = 8630;
+
+constexpr int kHintLines = 2;
+
+// The controls of one cover.
+struct CoverSide
+{
+    Cover *cover = nullptr; // of the working covers
+    Menu sources;           // what the device offers
+    QPointer<QGroupBox> group;
+    QPointer<PopupButton> source;
+    QPointer<QLabel> sourceHint;
+    QPointer<PopupButton> sides;
+    _StockMenuCommandEventHandlerData stock;
+};
+
+struct CoversContext
+{
+    CFBundleRef bundle = nullptr;
+    std::unique_ptr<ModalDialog> window;
+    DialogResult result = DialogResult::Cancel;
+    WorkingCovers covers;
+    QPointer<PictureView> picture;
+    QPointer<PopupButton> options;
+    CoverSide front, back;
+    EventHandlerRef handler;
+};
+
+QString sourceHintKey(const CoverSide &side)
+{
+    if (side.sources.items.empty())
+        return QStringLiteral("Not on This Device");
+    if (!hasSource(side.sources, *side.cover))
+        return QStringLiteral("Cover Source Missing");
+    return side.cover->stock().source() == kCoverSourceAutomatic
+        ? QStringLiteral("Cover Source Automatic")
+        : QStringLiteral("Cover Source Chosen");
+}
+
+// From a cover to its controls. One that is not there leaves them empty.
+void showCover(CFBundleRef bundle, CoverSide &side, bool isThere, bool isEnabled)
+{
+    const Cover &cover = *side.cover;
+    side.group->setEnabled(isEnabled);
+    ShowStockSummary(bundle, side.stock.summary, isThere ? &cover.stock() : nullptr,
+                     kJobContextCovers);
+    StockIconEventHandler(side.stock);
+    enableStockItems(side.stock.button->menu(), cover);
+
+    side.source->setMenu(sourceMenu(side.sources, cover,
+                                    localizedText(bundle, QStringLiteral("Cover Source Not Set"))));
+    if (!side.source->setValueByReference(cover.stock().source()))
+        side.source->setValueByReference(kUnset);
+    setEnabledWithLabel(side.source, !side.sources.items.empty());
+    const QString hint = isThere ? localizedText(bundle, sourceHintKey(side)) : QString();
+    QFont font = side.group->font();
+    font.setBold(isEnabled && !hasSource(side.sources, cover)); // the cover is not printed
+    side.sourceHint->setFont(font);
+    side.sourceHint->setText(hint);
+    side.source->setAccessibleDescription(hint);
+
+    if (!isThere || !SetPopupButtonToTicketValue(side.sides, cover.sidesImaged()))
+        side.sides->setValue(isThere ? 0 : 1);
+}
+
+// From the context to the controls.
+void syncToUI(CoversContext &context)
+{
+    const std::int32_t option = context.covers.option;
+    SetPopupButtonToTicketValue(context.options, option);
+    const QString file = pictureFile(context.bundle->resourcesPath(), coverOptionPicture(option));
+    context.picture->setPictures(file.isEmpty() ? QStringList() : QStringList{file},
+                                 context.options->currentText());
+    showCover(context.bundle, context.front, hasFrontCover(option), hasFrontCover(option));
+    showCover(context.bundle, context.back, hasBackCover(option),
+              hasBackCover(option) && option != kSameCovers);
+}
+
+void settle(CoversContext &context)
+{
+    settleCovers(context.covers);
+    syncToUI(context);
+}
+
+void DefaultCovers(CoversContext &context)
+{
+    setCoverOption(context.covers, kNoCovers);
+    syncToUI(context);
+}
+
+OSStatus handleCommand(CoversContext &context, OSType command, std::int32_t value)
+{
+    switch (command) {
+    case kCommandCoverOptions:
+        setCoverOption(context.covers, value);
+        syncToUI(context);
+        return noErr;
+    case kCommandFrontSides:
+        context.covers.front.setSidesImaged(value);
+        settle(context);
+        return noErr;
+    case kCommandBackSides:
+        context.covers.back.setSidesImaged(value);
+        settle(context);
+        return noErr;
+    case kCommandRevert:
+        DefaultCovers(context);
+        return noErr;
+    default:
+        return eventNotHandledErr;
+    }
+}
+
+OSStatus handleEvent(CoversContext &context, const Event &event)
+{
+    if (event.kind == EventKind::Command)
+        return handleCommand(context, event.command, event.reference);
+    if (event.kind != EventKind::ControlHit)
+        return eventNotHandledErr;
+    for (const CoverSide *side : {&context.front, &context.back}) {
+        if (event.source == side->source) {
+            side->cover->stock().setSource(side->source->chosenReference());
+            settle(context);
+        }
+    }
+    return eventNotHandledErr;
+}
+
+// CoverOptionMap's items, and the covers that are the same before those that differ.
+void fillOptions(CFBundleRef bundle, PopupButton *options)
+{
+    PopulatePopupButtonFromMap(bundle, options, CoverOptionMap, kJobContextCovers,
+                               kCommandCoverOptions);
+    Menu menu = options->menu();
+    MenuItem same;
+    same.key = QStringLiteral("Front and Back the Same");
+    same.text = localizedText(bundle, same.key);
+    same.command = kCommandCoverOptions;
+    same.reference = kSameCovers;
+    menu.items.insert(std::ranges::find(menu.items, kFrontAndBackCovers, &MenuItem::reference),
+                      same);
+    options->setMenu(std::move(menu));
+}
+
+bool initializeSide(CoversContext &context, CoverSide &side, Cover &cover, std::int32_t controls,
+                    const char *sourceOption, OSType sidesCommand)
+{
+    const QWidget *window = context.window.get();
+    const auto idOf = [controls](CoverControl control) {
+        return ControlID{kPanelSignature, controls + control};
+    };
+    side.cover = &cover;
+    side.group = findControl<QGroupBox>(window, idOf(kGroup));
+    side.source = findControl<PopupButton>(window, idOf(kSource));
+    side.sourceHint = findControl<QLabel>(window, idOf(kSourceHint));
+    side.sides = findControl<PopupButton>(window, idOf(kSides));
+    side.stock.bundle = context.bundle;
+    side.stock.stock = &cover.stock();
+    side.stock.jobContext = kJobContextCovers;
+    side.stock.summary = findControl<SummaryView>(window, idOf(kStockSummary));
+    side.stock.icon = findControl<PictureView>(window, idOf(kStockIcon));
+    side.stock.changed = [&context] { settle(context); };
+    auto *button = findControl<MenuButton>(window, idOf(kStockButton));
+    if (!side.group || !side.source || !side.sourceHint || !side.sides || !side.stock.summary
+        || InitializeStockMenuButton(button, &side.stock) != noErr)
+        return false;
+
+    PPDPopulatePopupWithChoices(side.source, PPDGetCurrent(), QString::fromLatin1(sourceOption),
+                                true);
+    side.sources = side.source->menu();
+    makeHintText(side.sourceHint);
+    // The window keeps its size while the hints change.
+    side.sourceHint->setMinimumHeight(kHintLines * side.sourceHint->fontMetrics().lineSpacing());
+    PopulatePopupButtonFromMap(context.bundle, side.sides, CoverSidesImagedMap, kJobContextCovers,
+                               sidesCommand);
+    return true;
+}
+
+// "White, Standard": what a cover follows that says nothing itself.
+void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock)
+{
+    if (!label)
+        return;
+    const QString bullet = QStringLiteral("- ");
+    QStringList parts;
+    if (jobStock)
+        parts = GenerateStockSummary(bundle, kJobContextJob, *jobStock, QStringLiteral("\n"))
+                    .split(u'\n');
+    for (QString &part : parts) {
+        if (part.startsWith(bullet))
+            part.remove(0, bullet.size());
+    }
+    parts.removeAll(QString());
+    SetLocalizedStaticText(bundle, QStringLiteral("Job Paper"), label,
+                           {parts.join(QStringLiteral(", "))});
+    makeHintText(label);
+    label->setVisible(!parts.isEmpty());
+}
+
+OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget *parent)
+{
+    context.window = createModalDialog(context.bundle, QStringLiteral("SpecialPages"),
+                                       QStringLiteral("Basic Covers"), parent);
+    if (!context.window)
+        return kWindowNotMade;
+    const QWidget *window = context.window.get();
+    context.picture = findControl<PictureView>(window, kPicture);
+    context.options = findControl<PopupButton>(window, kOptions);
+    if (!context.picture || !context.options
+        || !initializeSide(context, context.front, context.covers.front, kFrontControls,
+                           "KVFrontCoverSheet", kCommandFrontSides)
+        || !initializeSide(context, context.back, context.covers.back, kBackControls,
+                           "KVBackCoverSheet", kCommandBackSides))
+        return kWindowNotMade;
+    fillOptions(context.bundle, context.options);
+    showJobPaper(context.bundle, findControl<QLabel>(window, kJobPaper), jobStock);
+    context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {
+        return handleEvent(context, event);
+    });
+    syncToUI(context);
+    return noErr;
+}
+
+void finalizeCovers(CoversContext &context)
+{
+    FinalizeStockMenuButton(&context.front.stock);
+    FinalizeStockMenuButton(&context.back.stock);
+}
+
+} // namespace
+
+OSStatus RunModalCoversDialog(CFBundleRef bundle, DialogMode mode, Stock *jobStock,
+                              std::unique_ptr<Cover> *front, std::unique_ptr<Cover> *back,
+                              DialogResult *outcome, QWidget *parent)
+{
+    if (!bundle || !front || !back || !outcome || (mode == kDialogModeEdit && !*front && !*back))
+        return paramErr;
+    CoversContext context;
+    context.bundle = bundle;
+    context.covers = workingCovers(front->get(), back->get());
+    const OSStatus status = initializeCovers(context, jobStock, parent);
+    if (status != noErr)
+        return status;
+    context.result = context.window->runModal();
+    finalizeCovers(context);
+    if (context.result == DialogResult::OK)
+        handOver(context.covers, *front, *back);
+    *outcome = context.result;
+    return noErr;
+}
+
+} // namespace kelvo

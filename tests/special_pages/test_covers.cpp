@@ -1,0 +1,326 @@
+#include "cover_options.h"
+#include "cover_sync.h"
+#include "pde_session.h"
+#include "ppd_choices.h"
+#include "print_session.h"
+#include "stock_menus.h"
+#include "ticket.h"
+#include "ticket_values.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+namespace {
+
+constexpr std::int32_t kTray1 = 1, kTray2 = 2;
+constexpr std::int32_t kA4 = 4, kBlue = 2;
+
+Cover coverFrom(std::int32_t source, std::int32_t sidesImaged = kCoverBlank)
+{
+    Cover cover = newCover();
+    cover.stock().setSource(source);
+    cover.setSidesImaged(sidesImaged);
+    return cover;
+}
+
+std::unique_ptr<Cover> given(std::optional<std::int32_t> source)
+{
+    return source ? std::make_unique<Cover>(coverFrom(*source)) : nullptr;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::optional<std::int32_t>)
+
+class TestCovers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void optionSaysWhichCoversAreGiven_data();
+    void optionSaysWhichCoversAreGiven();
+    void coversThatStayKeepTheirSettings();
+    void sameCoversFollowTheFront();
+    void printedCoversHaveNoSizeOfTheirOwn();
+    void aSourceThatIsNotOfferedIsNotSet_data();
+    void aSourceThatIsNotOfferedIsNotSet();
+    void theCallersCoverStaysTheSameObject();
+    void readsDictionaries_data();
+    void readsDictionaries();
+    void writesSources_data();
+    void writesSources();
+    void readsSources_data();
+    void readsSources();
+};
+
+void TestCovers::optionSaysWhichCoversAreGiven_data()
+{
+    QTest::addColumn<std::optional<std::int32_t>>("front");
+    QTest::addColumn<std::optional<std::int32_t>>("back");
+    QTest::addColumn<int>("option");
+    const std::optional<std::int32_t> none;
+    const std::optional<std::int32_t> one = kTray1;
+    const std::optional<std::int32_t> two = kTray2;
+
+    QTest::newRow("none") << none << none << 1;
+    QTest::newRow("front") << one << none << 2;
+    QTest::newRow("back") << none << one << 3;
+    QTest::newRow("the same") << one << one << 4;
+    QTest::newRow("both") << one << two << 5;
+}
+
+void TestCovers::optionSaysWhichCoversAreGiven()
+{
+    QFETCH(std::optional<std::int32_t>, front);
+    QFETCH(std::optional<std::int32_t>, back);
+    const WorkingCovers covers = workingCovers(given(front).get(), given(back).get());
+    QTEST(int(covers.option), "option");
+    QCOMPARE(covers.front.stock().source(), front.value_or(kCoverSourceAutomatic));
+    QCOMPARE(covers.back.stock().source(), back.value_or(kCoverSourceAutomatic));
+}
+
+void TestCovers::coversThatStayKeepTheirSettings()
+{
+    const Cover front = coverFrom(kTray1);
+    const Cover back = coverFrom(kTray2);
+    WorkingCovers covers = workingCovers(&front, &back);
+    setCoverOption(covers, kFrontCoverOnly);
+    QVERIFY(covers.front == front);
+    setCoverOption(covers, kFrontAndBackCovers);
+    QVERIFY(covers.front == front);
+    // A cover that comes again follows the job, from whatever tray has its paper.
+    QVERIFY(covers.back == coverFrom(kCoverSourceAutomatic));
+    QCOMPARE(covers.back.stock().color(), kUnset);
+    setCoverOption(covers, kBackCoverOnly);
+    QVERIFY(covers.front == newCover());
+    setCoverOption(covers, kNoCovers);
+    std::unique_ptr<Cover> left = given(kTray1);
+    std::unique_ptr<Cover> none;
+    handOver(covers, left, none);
+    QVERIFY(!left && !none);
+}
+
+void TestCovers::sameCoversFollowTheFront()
+{
+    Cover front = coverFrom(kTray1);
+    front.setStartPage(3);
+    const Cover back = coverFrom(kTray2);
+    WorkingCovers covers = workingCovers(&front, &back);
+    setCoverOption(covers, kSameCovers);
+    QVERIFY(covers.back == front);
+    QCOMPARE(covers.back.startPage(), 3);
+    covers.front.setSidesImaged(kCoverPrinted);
+    covers.front.stock().setColor(kBlue);
+    settleCovers(covers);
+    QCOMPARE(covers.back.sidesImaged(), kCoverPrinted);
+    QCOMPARE(covers.back.stock().color(), kBlue);
+    // Apart again, they begin as equals and change one by one.
+    setCoverOption(covers, kFrontAndBackCovers);
+    covers.front.setSidesImaged(kCoverBlank);
+    settleCovers(covers);
+    QCOMPARE(covers.back.sidesImaged(), kCoverPrinted);
+}
+
+void TestCovers::printedCoversHaveNoSizeOfTheirOwn()
+{
+    Menu menu;
+    for (const OSType command : {kCommandStockSize, kCommandStockColor, kCommandStockSource}) {
+        MenuItem item;
+        item.command = command;
+        item.submenu.resize(command == kCommandStockSize ? 1 : 0);
+        menu.items.push_back(item);
+    }
+    const auto enabled = [&menu] {
+        QString text;
+        for (const MenuItem &item : menu.items)
+            text += item.enabled ? u'+' : u'-';
+        return text;
+    };
+
+    Cover cover = coverFrom(kTray1);
+    cover.stock().setSize(kA4);
+    setSidesImaged(cover, kCoverPrinted);
+    QCOMPARE(cover.stock().size(), kUnset);
+    QCOMPARE(cover.stock().source(), kTray1);
+    enableStockItems(menu, cover);
+    QCOMPARE(enabled(), QStringLiteral("-+-"));
+
+    setSidesImaged(cover, kCoverBlank);
+    cover.stock().setSize(kA4);
+    setSidesImaged(cover, kCoverBlank);
+    QCOMPARE(cover.stock().size(), kA4);
+    enableStockItems(menu, cover);
+    QCOMPARE(enabled(), QStringLiteral("+++"));
+    menu.items[0].submenu.clear(); // a device without sizes
+    enableStockItems(menu, cover);
+    QCOMPARE(enabled(), QStringLiteral("-++"));
+}
+
+void TestCovers::aSourceThatIsNotOfferedIsNotSet_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<QString>("menu"); // references
+
+    QTest::newRow("automatic") << 0 << "0 1";
+    QTest::newRow("a tray") << int(kTray1) << "0 1";
+    QTest::newRow("a tray that is not there") << int(kTray2) << "unset 0 1";
+    QTest::newRow("not set") << int(kUnset) << "unset 0 1";
+    QTest::newRow("the inserter") << int(kStockSourceInserter) << "unset 0 1";
+}
+
+void TestCovers::aSourceThatIsNotOfferedIsNotSet()
+{
+    QFETCH(int, source);
+    Menu sources;
+    for (const std::int32_t offered : {kCoverSourceAutomatic, kTray1}) {
+        MenuItem item;
+        item.reference = offered;
+        sources.items.push_back(item);
+    }
+    QStringList found;
+    for (const MenuItem &item : sourceMenu(sources, coverFrom(source), "Not set").items)
+        found << (item.reference == kUnset ? "unset" : QString::number(item.reference));
+    QTEST(found.join(u' '), "menu");
+}
+
+void TestCovers::theCallersCoverStaysTheSameObject()
+{
+    std::unique_ptr<Cover> front = given(kTray1);
+    std::unique_ptr<Cover> back;
+    const Cover *const before = front.get();
+    WorkingCovers covers = workingCovers(front.get(), nullptr);
+    setCoverOption(covers, kFrontAndBackCovers);
+    covers.front.setSidesImaged(kCoverPrinted);
+    covers.back.stock().setSource(kTray2);
+    handOver(covers, front, back);
+    QCOMPARE(front.get(), before);
+    QCOMPARE(front->sidesImaged(), kCoverPrinted);
+    QVERIFY(back);
+    QCOMPARE(back->stock().source(), kTray2);
+}
+
+void TestCovers::readsDictionaries_data()
+{
+    QTest::addColumn<Dictionary>("dictionary");
+    QTest::addColumn<int>("startPage");
+    QTest::addColumn<int>("sides");
+    QTest::addColumn<int>("color");
+
+    const Dictionary stock{{"Color", qint64(kBlue)}};
+    QTest::newRow("all") << Dictionary{{"StartPage", qint64(7)},
+                                       {"SidesImaged", qint64(4)},
+                                       {"Stock", stock}}
+                         << 7 << 4 << int(kBlue);
+    QTest::newRow("empty") << Dictionary() << 0 << 1 << int(kUnset);
+    QTest::newRow("numbers as texts")
+        << Dictionary{{"StartPage", "7"}, {"SidesImaged", "4"}, {"Stock", "Blue"}} << 0 << 1
+        << int(kUnset);
+    QTest::newRow("beyond 32 bits")
+        << Dictionary{{"SidesImaged", qint64(1) << 32}} << 0 << 1 << int(kUnset);
+}
+
+void TestCovers::readsDictionaries()
+{
+    QFETCH(Dictionary, dictionary);
+    const Cover cover(dictionary);
+    QTEST(int(cover.startPage()), "startPage");
+    QTEST(int(cover.sidesImaged()), "sides");
+    QTEST(int(cover.stock().color()), "color");
+    // What was read is written, and read again as the same.
+    const Cover again(cover.asTicket());
+    QVERIFY(again == cover);
+    QCOMPARE(again.startPage(), cover.startPage());
+}
+
+void TestCovers::writesSources_data()
+{
+    QTest::addColumn<bool>("booklet");
+    QTest::addColumn<std::optional<std::int32_t>>("front");
+    QTest::addColumn<std::optional<std::int32_t>>("back");
+    QTest::addColumn<QString>("choices"); // front and back
+    const std::optional<std::int32_t> none;
+    const std::optional<std::int32_t> one = kTray1;
+    const std::optional<std::int32_t> two = kTray2;
+
+    QTest::newRow("none") << false << none << none << "None None";
+    QTest::newRow("front") << false << one << none << "Tray1 None";
+    QTest::newRow("equal") << false << one << one << "Tray1 Tray1";
+    QTest::newRow("bypass and automatic") << false << std::optional<std::int32_t>(100)
+                                          << std::optional<std::int32_t>(0) << "Bypass Auto";
+    // The stock's size, colour and type do not reach the printer.
+    QTest::newRow("no source") << false << std::optional<std::int32_t>(kUnset) << none << "- None";
+    QTest::newRow("booklet, equal") << true << one << one << "Tray1 None";
+    QTest::newRow("booklet, front") << true << one << none << "Tray1 None";
+    QTest::newRow("booklet, different") << true << one << two << "Tray1 Tray2";
+    QTest::newRow("booklet, back") << true << none << two << "None Tray2";
+}
+
+void TestCovers::writesSources()
+{
+    QFETCH(bool, booklet);
+    QFETCH(std::optional<std::int32_t>, front);
+    QFETCH(std::optional<std::int32_t>, back);
+    PrintSession session;
+    const PMTicketRef ticket = session.printSettingsTicket();
+    PMTicketSetCFBoolean(ticket, "test", ticketKey("BookletLayout"), booklet);
+    std::unique_ptr<Cover> frontCover = given(front);
+    std::unique_ptr<Cover> backCover = given(back);
+
+    QCOMPARE(SyncCovers(ticket, kSyncWrite, &frontCover, &backCover), noErr);
+
+    const auto choice = [ticket](const char *option) {
+        return PPDCopyCurrentChoice(ticket, option).value_or("-");
+    };
+    QTEST(choice("KVFrontCoverSheet") + u' ' + choice("KVBackCoverSheet"), "choices");
+}
+
+void TestCovers::readsSources_data()
+{
+    QTest::addColumn<bool>("booklet");
+    QTest::addColumn<QString>("front"); // choices
+    QTest::addColumn<QString>("back");
+    QTest::addColumn<QString>("sources"); // front and back
+
+    QTest::newRow("none") << false << "None"
+                          << "None"
+                          << "- -";
+    QTest::newRow("both") << false << "Tray1"
+                          << "Bypass"
+                          << "1 100";
+    QTest::newRow("unknown") << false << "Tray9"
+                             << "Auto"
+                             << "- 0";
+    QTest::newRow("booklet") << true << "Tray2"
+                             << "None"
+                             << "2 2";
+    QTest::newRow("booklet without front") << true << "None"
+                                           << "Tray1"
+                                           << "- -";
+}
+
+void TestCovers::readsSources()
+{
+    QFETCH(bool, booklet);
+    QFETCH(QString, front);
+    QFETCH(QString, back);
+    PrintSession session;
+    const PMTicketRef ticket = session.printSettingsTicket();
+    if (booklet)
+        PMTicketSetCFBoolean(ticket, "test", ticketKey("BookletLayout"), true);
+    PPDSetCurrentChoice(ticket, "KVFrontCoverSheet", front);
+    PPDSetCurrentChoice(ticket, "KVBackCoverSheet", back);
+    std::unique_ptr<Cover> frontCover = given(kTray1);
+    std::unique_ptr<Cover> backCover = given(kTray1);
+
+    QCOMPARE(SyncCovers(ticket, kSyncRead, &frontCover, &backCover),
+             booklet ? noErr : kPMKeyNotFound);
+
+    const auto source = [](const std::unique_ptr<Cover> &cover) {
+        return cover ? QString::number(cover->stock().source()) : QStringLiteral("-");
+    };
+    QTEST(source(frontCover) + u' ' + source(backCover), "sources");
+}
+
+QTEST_APPLESS_MAIN(TestCovers)
+#include "test_covers.moc"

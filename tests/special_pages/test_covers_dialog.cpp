@@ -1,0 +1,190 @@
+#include "device_session.h"
+#include "dialog_driver.h"
+
+#include "cover_options.h"
+#include "covers_dialog.h"
+#include "stock_menus.h"
+
+using namespace kelvo;
+
+namespace {
+
+constexpr std::int32_t kTray1 = 1, kTray2 = 2, kBypass = 100;
+constexpr std::int32_t kBlue = 2;
+
+std::unique_ptr<Cover> coverFrom(std::int32_t source)
+{
+    auto cover = std::make_unique<Cover>(newCover());
+    cover->stock().setSource(source);
+    return cover;
+}
+
+inspector::ItemName reference(std::int32_t value)
+{
+    return {inspector::ItemName::By::Reference, value, {}, 0};
+}
+
+// Of the stock menu.
+DialogDriver::Step chooseColor(const char *button, std::int32_t color)
+{
+    return [button, color] {
+        expectDone(inspector::chooseCommand(control(button), kCommandStockColor, reference(color)));
+    };
+}
+
+} // namespace
+
+class TestCoversDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        front.reset();
+        back.reset();
+        outcome = DialogResult::Cancel;
+    }
+
+    void optionsOfferWhatIsEdited();
+    void theSameCoversFollowTheFront();
+    void choosingPaperUnsetsTheSource();
+    void printedCoversOfferNoSize();
+    void revertRemovesBothCovers();
+    void cancelChangesNothing();
+    void aDeviceWithoutCoversSaysSo();
+    void editingNeedsACover();
+
+private:
+    OSStatus run(DialogMode mode, const DeviceSession &device)
+    {
+        return RunModalCoversDialog(device.bundle, mode, &jobStock, &front, &back, &outcome);
+    }
+
+    Stock jobStock;
+    std::unique_ptr<Cover> front, back;
+    DialogResult outcome = DialogResult::Cancel;
+};
+
+void TestCoversDialog::optionsOfferWhatIsEdited()
+{
+    const DeviceSession device("full");
+    const DialogDriver driver(
+        {expect("coverOptions", "value", "1"), expect("frontStockButton", "enabled", "false"),
+         expect("frontStockSummary", "text", ""), choose("coverOptions", kFrontCoverOnly),
+         expect("frontStockButton", "enabled", "true"), expect("frontSource", "value", "0"),
+         expect("backSource", "enabled", "false"), choose("frontSource", kBypass),
+         choose("coverOptions", kFrontAndBackCovers), expect("frontSource", "value", "100"),
+         expect("backSides", "enabled", "true"), choose("backSides", kCoverPrinted),
+         press("okButton")});
+    QCOMPARE(run(kDialogModeAdd, device), noErr);
+    QCOMPARE(outcome, DialogResult::OK);
+    QVERIFY(front && back);
+    QCOMPARE(front->stock().source(), kBypass);
+    QCOMPARE(back->stock().source(), kCoverSourceAutomatic);
+    QCOMPARE(back->sidesImaged(), kCoverPrinted);
+}
+
+void TestCoversDialog::theSameCoversFollowTheFront()
+{
+    const DeviceSession device("full");
+    front = coverFrom(kTray1);
+    back = coverFrom(kTray2);
+    const Cover *const backBefore = back.get();
+    const DialogDriver driver(
+        {expect("coverOptions", "value", "5"), choose("coverOptions", kSameCovers),
+         expect("backSource", "value", "1"), expect("backStockButton", "enabled", "false"),
+         expect("backSides", "enabled", "false"), choose("frontSides", kCoverPrinted),
+         expect("backSides", "value", "4"), chooseColor("frontStockButton", kBlue),
+         [] { QCOMPARE(shown("backStockSummary"), shown("frontStockSummary")); },
+         choose("frontSource", kTray2), expect("backSource", "value", "2"), press("okButton")});
+    QCOMPARE(run(kDialogModeEdit, device), noErr);
+    QVERIFY(*front == *back);
+    QCOMPARE(back.get(), backBefore);
+    QCOMPARE(back->sidesImaged(), kCoverPrinted);
+    QCOMPARE(back->stock().color(), kBlue);
+}
+
+void TestCoversDialog::choosingPaperUnsetsTheSource()
+{
+    const DeviceSession device("full");
+    front = coverFrom(kTray1);
+    const DialogDriver driver(
+        {expect("frontSource", "items", "8"), chooseColor("frontStockButton", kBlue),
+         expect("frontSource", "text", "Not set"),
+         [] {
+             const QString hint = shown("frontSourceHint");
+             QVERIFY2(hint.contains("leaves this cover out"), qPrintable(hint));
+         },
+         choose("frontSource", kTray2), expect("frontSource", "items", "8"), press("okButton")});
+    QCOMPARE(run(kDialogModeEdit, device), noErr);
+    QCOMPARE(front->stock().source(), kTray2);
+}
+
+void TestCoversDialog::printedCoversOfferNoSize()
+{
+    const DeviceSession device("full");
+    front = coverFrom(kTray1);
+    front->stock().setSize(kStockSizeLetter);
+    const auto expectSizes = [](const char *state) {
+        return [state] {
+            expectDone(
+                inspector::expectItem(control("frontStockButton"), kCommandStockSize,
+                                      inspector::ItemName{inspector::ItemName::By::Row, 0, {}, 1},
+                                      QString::fromLatin1(state)));
+        };
+    };
+    const DialogDriver driver({expectSizes("enabled"), choose("frontSides", kCoverPrinted),
+                               expectSizes("disabled"), choose("frontSides", kCoverBlank),
+                               expectSizes("enabled"), choose("frontSides", kCoverPrinted),
+                               press("okButton")});
+    QCOMPARE(run(kDialogModeEdit, device), noErr);
+    QCOMPARE(front->stock().size(), kUnset);
+}
+
+void TestCoversDialog::revertRemovesBothCovers()
+{
+    const DeviceSession device("full");
+    front = coverFrom(kTray1);
+    back = coverFrom(kTray1);
+    const DialogDriver driver({expect("coverOptions", "value", "4"), press("revertButton"),
+                               expect("coverOptions", "value", "1"),
+                               expect("backStockSummary", "text", ""),
+                               expect("backSides", "index", "1"), press("okButton")});
+    QCOMPARE(run(kDialogModeEdit, device), noErr);
+    QVERIFY(!front && !back);
+}
+
+void TestCoversDialog::cancelChangesNothing()
+{
+    const DeviceSession device("full");
+    front = coverFrom(kTray1);
+    const DialogDriver driver({choose("coverOptions", kFrontAndBackCovers),
+                               choose("frontSource", kTray2), press("cancelButton")});
+    QCOMPARE(run(kDialogModeEdit, device), noErr);
+    QCOMPARE(outcome, DialogResult::Cancel);
+    QCOMPARE(front->stock().source(), kTray1);
+    QVERIFY(!back);
+}
+
+void TestCoversDialog::aDeviceWithoutCoversSaysSo()
+{
+    const DeviceSession device("bare");
+    const DialogDriver driver({choose("coverOptions", kFrontCoverOnly),
+                               expect("frontSource", "enabled", "false"),
+                               [] {
+                                   const QString hint = shown("frontSourceHint");
+                                   QVERIFY2(hint.contains("does not offer"), qPrintable(hint));
+                               },
+                               press("cancelButton")});
+    QCOMPARE(run(kDialogModeAdd, device), noErr);
+}
+
+void TestCoversDialog::editingNeedsACover()
+{
+    const DeviceSession device("full");
+    QCOMPARE(run(kDialogModeEdit, device), paramErr);
+}
+
+QTEST_MAIN(TestCoversDialog)
+#include "test_covers_dialog.moc"
