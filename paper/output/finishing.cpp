@@ -19,8 +19,8 @@ constexpr std::array kFolderFeatures = {"CFoldKey", "ZFoldKey", "ZFoldHalfSheetK
 // A line of the menu. Its text is the feature's name, or that of `textKey`.
 struct MenuLine
 {
-    const char *textKey; // null: the feature's name; "-": a divider
-    const char *feature; // null: always there, or as `unit` says
+    const char *textKey;          // null: the feature's name; "-": a divider
+    const char *feature;          // null: always there, or as `unit` says
     bool FinishingDevices::*unit; // the unit that must be there; null: none
     OSType command;
     std::int32_t value;
@@ -289,8 +289,8 @@ QString CreateFinishingString(const _PaperOutputContext &context)
 {
     QString summary = QStringLiteral("");
     const auto addLine = [&](const char *key) {
-        summary += QStringLiteral("- ")
-            + localizedText(context.bundle, QString::fromLatin1(key)) + QStringLiteral("\n");
+        summary += QStringLiteral("- ") + localizedText(context.bundle, QString::fromLatin1(key))
+            + QStringLiteral("\n");
     };
     const Finishing &finishing = context.finishing;
     if (finishing.options == kFinishingBooklet || context.isBooklet()) {

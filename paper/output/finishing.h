@@ -26,7 +26,7 @@ inline constexpr std::int32_t kFoldNone = 1;
 inline constexpr std::int32_t kFoldC = 19;
 inline constexpr std::int32_t kFoldZ = 20;
 inline constexpr std::int32_t kFoldZHalfSheet = 36;
-inline constexpr std::int32_t kFoldBi = 43;         // without staple
+inline constexpr std::int32_t kFoldBi = 43;          // without staple
 inline constexpr std::int32_t kFoldBiAndStaple = 53; // a booklet
 
 // "KVPunch"

@@ -146,8 +146,8 @@ std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const Pp
 std::size_t initialChoice(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
                           const Finishing &finishing)
 {
-    const auto found =
-        std::ranges::find(choices, currentValue(settingOf(kind), finishing), &FinishingChoice::value);
+    const auto found = std::ranges::find(choices, currentValue(settingOf(kind), finishing),
+                                         &FinishingChoice::value);
     return found == choices.end() ? 0 : static_cast<std::size_t>(found - choices.begin());
 }
 

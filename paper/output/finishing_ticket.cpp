@@ -82,4 +82,17 @@ std::optional<std::int32_t> stapleOfChoice(const QString &choice)
     return std::nullopt;
 }
 
+QStringList punchChoicesWithoutValue()
+{
+    QStringList choices;
+    for (const Holes &holes : kHoles)
+        choices << QString::fromLatin1(holes.landscape);
+    return choices;
+}
+
+QStringList stapleChoicesWithoutValue()
+{
+    return {singleLandscape, dualPortrait};
+}
+
 } // namespace kelvo

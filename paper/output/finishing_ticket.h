@@ -3,6 +3,7 @@
 #include "finishing.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -24,5 +25,9 @@ std::optional<std::int32_t> punchOfChoice(const QString &choice);
 std::optional<QString> stapleChoice(std::int32_t staple, std::int32_t orientation);
 // The staple of a choice without a ticket value of its own, as above.
 std::optional<std::int32_t> stapleOfChoice(const QString &choice);
+
+// Those choices: a menu shows each staple and punch once.
+QStringList punchChoicesWithoutValue();
+QStringList stapleChoicesWithoutValue();
 
 } // namespace kelvo

@@ -18,12 +18,12 @@ struct UnitBin
     const char *feature;
 };
 constexpr UnitBin kUnitBins[] = {
-    {1, "AutoSwitchTrayKey"}, // the device switches between trays by itself
-    {5, "StackerTray1Key"},   // Upper
-    {6, "StackerTray2Key"},   // Lower
-    {4, "StackerTray1Key"},   // Stacker: any of its trays
+    {1, "AutoSwitchTrayKey"},  // the device switches between trays by itself
+    {5, "StackerTray1Key"},    // Upper
+    {6, "StackerTray2Key"},    // Lower
+    {4, "StackerTray1Key"},    // Stacker: any of its trays
     {3, "SimpleCatchTrayKey"}, // Side
-    {7, "BookletFoldKey"},    // where the booklet maker delivers
+    {7, "BookletFoldKey"},     // where the booklet maker delivers
 };
 
 bool isInstalled(const MenuItem &item)
@@ -36,11 +36,11 @@ bool isInstalled(const MenuItem &item)
 
 void PopulateOutputDestination(Menu &menu, PpdFile *ppd)
 {
-    if (!ppd) {
-        menu.items.clear();
+    menu.items.clear();
+    const QString option = QStringLiteral("OutputBin");
+    if (!ppd || !ppd->findOption(option))
         return;
-    }
-    PPDPopulateMenuWithChoices(menu, ppd, QStringLiteral("OutputBin"), kNoCommand, false);
+    PPDPopulateMenuWithChoices(menu, ppd, option, kNoCommand, false);
     std::erase_if(menu.items, [](const MenuItem &item) { return !isInstalled(item); });
 }
 

@@ -23,9 +23,9 @@ inline constexpr std::int32_t kPlexSimplex = 1, kPlexDuplex = 2, kPlexDuplexShor
 // What the booklet dialog is handed and gives back.
 struct BookletLayout
 {
-    std::int32_t pageBorders = 1; // PageBordersMap: 1 none, 2 drawn
-    std::int32_t gutter = 24;     // points, 0 to 216
-    std::int32_t creep = 0;       // tenths, 0 to 10
+    std::int32_t pageBorders = 1;  // PageBordersMap: 1 none, 2 drawn
+    std::int32_t gutter = 24;      // points, 0 to 216
+    std::int32_t creep = 0;        // tenths, 0 to 10
     std::int32_t newSize = kUnset; // PageSizeMap; kUnset: the document's own
 };
 
@@ -35,13 +35,13 @@ struct _PaperOutputContext // NOLINT(bugprone-reserved-identifier): the panel's 
     CFBundleRef bundle = nullptr;
     QString title;
     QString documentName; // what a saved job is called that takes the job's name
-    bool opened = false; // the controls exist
+    bool opened = false;  // the controls exist
 
-    std::int32_t jobType = 0;      // JobTypeMap; 0 until the first read
-    std::int32_t colorMode = 0;    // "KVColorMode"
-    std::int32_t orientation = 1;  // 1 portrait, 2 landscape, 3 and 4 the same reversed
-    std::int32_t outputBin = 1;    // "OutputBin"
-    std::int32_t duplex = 1;       // PlexMap
+    std::int32_t jobType = 0;     // JobTypeMap; 0 until the first read
+    std::int32_t colorMode = 0;   // "KVColorMode"
+    std::int32_t orientation = 1; // 1 portrait, 2 landscape, 3 and 4 the same reversed
+    std::int32_t outputBin = 1;   // "OutputBin"
+    std::int32_t duplex = 1;      // PlexMap
 
     Stock jobStock;
     std::int32_t separators = 1; // "KVSlipSheetPrint": 1 none, 2 blank, 3 printed

@@ -47,9 +47,9 @@ std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, 
             mapText(bundle, PlexMap, context.isBooklet() ? kPlexDuplex : context.duplex));
     add("Output Color:", valueText(ppd, "KVColorMode", context.colorMode));
     if (context.devices.stapler)
-        add("Stapling:", choiceText(ppd, "StapleLocation",
-                                    stapleChoice(chosenStaple(context.finishing),
-                                                 context.orientation)));
+        add("Stapling:",
+            choiceText(ppd, "StapleLocation",
+                       stapleChoice(chosenStaple(context.finishing), context.orientation)));
     if (context.devices.holePunch)
         add("Hole Punch:", valueText(ppd, "KVPunch", context.finishing.punch));
     add("Output Destination:", valueText(ppd, "OutputBin", context.outputBin));

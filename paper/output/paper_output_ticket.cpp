@@ -82,12 +82,11 @@ void setOrRemove(Dictionary &dictionary, const QString &key, bool isSet, const Q
 
 void readJobType(_PaperOutputContext &context, PMTicketRef ticket)
 {
-    context.jobTypeOptions =
-        PMTicketGetCFDictionary(ticket, ticketKey("JobType"))
-            .value_or(Dictionary{{mediaTypeKey, qint64(1)},
-                                 {jobTypeKey, qint64(kJobTypeNormal)},
-                                 {useJobNameKey, true},
-                                 {savedJobNameKey, QStringLiteral("")}});
+    context.jobTypeOptions = PMTicketGetCFDictionary(ticket, ticketKey("JobType"))
+                                 .value_or(Dictionary{{mediaTypeKey, qint64(1)},
+                                                      {jobTypeKey, qint64(kJobTypeNormal)},
+                                                      {useJobNameKey, true},
+                                                      {savedJobNameKey, QStringLiteral("")}});
     const Dictionary &options = context.jobTypeOptions;
     context.mediaTypeEcho = integer32(options, mediaTypeKey).value_or(1);
     context.savedJob.usesJobName = boolean(options, useJobNameKey).value_or(true);
@@ -190,9 +189,8 @@ void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
     finishing.options = number(ticket, "FinishingOptions", kFinishingNone);
     finishing.offset = number(ticket, "FinishingOffset", 1);
     finishing.offsetSubsetEnabled = number(ticket, "FinishingOffsetEnableSubset", 0);
-    finishing.pagesPerSubset = finishing.offsetSubsetEnabled
-        ? number(ticket, "FinishingOffsetPagesPerSubset", 1)
-        : 1;
+    finishing.pagesPerSubset =
+        finishing.offsetSubsetEnabled ? number(ticket, "FinishingOffsetPagesPerSubset", 1) : 1;
     finishing.slipSheet = number(ticket, "FinishingSlipSheet", 0);
     finishing.bind = number(ticket, "FinishingBindValue", kBindNone);
     finishing.fold = choiceValue(ppd, ticket, "KVFold", kFoldNone);
@@ -236,8 +234,7 @@ void writeFinishing(const _PaperOutputContext &context, PMTicketRef ticket)
     setNumber(ticket, "FinishingSlipSheet", finishing.slipSheet);
     setChoiceValue(ticket, "KVFold", finishing.fold);
     writePunch(context, ticket);
-    setChoice(ticket, "StapleLocation",
-              stapleChoice(chosenStaple(finishing), context.orientation));
+    setChoice(ticket, "StapleLocation", stapleChoice(chosenStaple(finishing), context.orientation));
     setNumber(ticket, "FinishingBindValue", finishing.bind);
     PMTicketSetCFString(ticket, kClient, ticketKey("FinishingCustom"), finishing.custom);
 }

@@ -136,7 +136,8 @@ QString noteFor(const ChoiceDialog &dialog)
     QStringList sentences;
     const Finishing &finishing = dialog.context->finishing;
     if (const char *replaced = replacedFinishing(dialog.kind, dialog.choices, finishing))
-        sentences += textOf(dialog.bundle, "Finishing Replaced").arg(textOf(dialog.bundle, replaced));
+        sentences +=
+            textOf(dialog.bundle, "Finishing Replaced").arg(textOf(dialog.bundle, replaced));
     if (endsBooklet(dialog.kind, *dialog.context))
         sentences += textOf(dialog.bundle, "Finishing Ends Booklet");
     return sentences.join(u' ');

@@ -26,14 +26,23 @@ inline constexpr OSType kCommandOffsetDialog = fourCharCode("Foff");
 inline constexpr OSType kCommandCustomFinishingDialog = fourCharCode("Fcus");
 void PopulateMoreFinishingMenu(Menu &menu, CFBundleRef bundle);
 
-OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModal1StapleFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModal2StaplesFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModalHolePunchFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModalFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModalAdvancedFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModalZFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModalBindFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
-OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context, DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                       DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModal1StapleFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                        DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModal2StaplesFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                         DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModalHolePunchFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                          DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModalFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                     DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModalAdvancedFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                             DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModalZFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                      DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModalBindFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                     DialogResult *result, QWidget *parent = nullptr);
+OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+                                       DialogResult *result, QWidget *parent = nullptr);
 
 } // namespace kelvo

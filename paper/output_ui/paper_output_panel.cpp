@@ -7,6 +7,7 @@
 #include "delayed_print_dialog.h"
 #include "embed_control.h"
 #include "finishing_dialogs.h"
+#include "finishing_ticket.h"
 #include "hint_text.h"
 #include "job_type_setup.h"
 #include "lan_fax_setup.h"
@@ -77,18 +78,18 @@ void showSeparators(const PaperOutputPanelContext &panel)
             controls.stockSummary,
             QStringLiteral("%1\n%2").arg(controls.stockSummary->toPlainText(), line));
     const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, panel.separators);
-    controls.separatorsSummary->setText(
-        key ? localizedText(panel.bundle, QString::fromLatin1(key)) : QString());
+    controls.separatorsSummary->setText(key ? localizedText(panel.bundle, QString::fromLatin1(key))
+                                            : QString());
 }
 
 void showCovers(const PaperOutputPanelContext &panel)
 {
     if (!panel.controls.coversSummary)
         return;
-    const char *key = panel.frontCover ? panel.backCover ? "Front and Back Covers"
-                                                         : "Front Cover Only"
-        : panel.backCover              ? "Back Cover Only"
-                                       : "No Covers";
+    const char *key = panel.frontCover
+        ? panel.backCover ? "Front and Back Covers" : "Front Cover Only"
+        : panel.backCover ? "Back Cover Only"
+                          : "No Covers";
     panel.controls.coversSummary->setText(localizedText(panel.bundle, QString::fromLatin1(key)));
 }
 
@@ -122,7 +123,8 @@ void showFinishing(const PaperOutputPanelContext &panel)
 void showOutputColor(const PaperOutputPanelContext &panel)
 {
     showValue(panel.controls.outputColor, panel.colorMode);
-    showBundlePicture(panel.controls.outputColorIcon, panel.bundle, colorModePicture(panel.colorMode));
+    showBundlePicture(panel.controls.outputColorIcon, panel.bundle,
+                      colorModePicture(panel.colorMode));
 }
 
 void showSettings(const PaperOutputPanelContext &panel)
@@ -187,8 +189,8 @@ void chooseJobType(PaperOutputPanelContext &panel)
 void createBooklet(PaperOutputPanelContext &panel)
 {
     BookletLayout &layout = panel.bookletLayout;
-    _BookletCreationParams params{panel.bundle,   panel.finishing.fold, panel.booklet,
-                                  layout.pageBorders, layout.newSize,   layout.gutter,
+    _BookletCreationParams params{panel.bundle,       panel.finishing.fold, panel.booklet,
+                                  layout.pageBorders, layout.newSize,       layout.gutter,
                                   layout.creep};
     if (RunModalBookletCreationDialog(&params, panel.content) != noErr)
         return;
@@ -202,8 +204,10 @@ void createBooklet(PaperOutputPanelContext &panel)
 void editCovers(PaperOutputPanelContext &panel)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalCoversDialog(panel.bundle, kDialogModeAdd, &panel.jobStock, &panel.frontCover,
-                         &panel.backCover, &outcome, panel.content);
+    const bool hasCovers = panel.frontCover || panel.backCover;
+    RunModalCoversDialog(panel.bundle, hasCovers ? kDialogModeEdit : kDialogModeAdd,
+                         &panel.jobStock, &panel.frontCover, &panel.backCover, &outcome,
+                         panel.content);
     showCovers(panel);
 }
 
@@ -215,8 +219,7 @@ void editSeparators(PaperOutputPanelContext &panel)
     showSeparators(panel);
 }
 
-using FinishingDialog = OSStatus (*)(CFBundleRef, _PaperOutputContext *, DialogResult *,
-                                     QWidget *);
+using FinishingDialog = OSStatus (*)(CFBundleRef, _PaperOutputContext *, DialogResult *, QWidget *);
 FinishingDialog findFinishingDialog(OSType command)
 {
     switch (command) {
@@ -338,12 +341,16 @@ PaperOutputControls findControls(const QWidget *content)
 }
 
 // A pop-up of the PPD's choices; disabled where the device has none of them.
-void fillFromPpd(PopupButton *popup, PpdFile *ppd, const char *option, bool honourConstraints)
+void fillFromPpd(PopupButton *popup, const PaperOutputPanelContext &panel, const char *option,
+                 bool honourConstraints, const QStringList &readByName = {})
 {
-    if (popup
-        && PPDPopulatePopupWithChoices(popup, ppd, QString::fromLatin1(option), honourConstraints)
-            == 0)
-        setEnabledWithLabel(popup, false);
+    if (!popup)
+        return;
+    const int count = hasOption(panel, option)
+        ? PPDPopulatePopupWithChoices(popup, panel.ppd, QString::fromLatin1(option),
+                                      honourConstraints, readByName)
+        : 0;
+    setEnabledWithLabel(popup, count > 0);
 }
 
 void fillControls(PaperOutputPanelContext &panel)
@@ -354,9 +361,9 @@ void fillControls(PaperOutputPanelContext &panel)
     PopulatePopupButtonFromMap(panel.bundle, controls.twoSided, PlexMap, kJobContextJob,
                                kNoCommand);
     // What is not installed clashes with the device's defaults, and is left out.
-    fillFromPpd(controls.stapling, panel.ppd, "StapleLocation", true);
-    fillFromPpd(controls.holePunch, panel.ppd, "KVPunch", true);
-    fillFromPpd(controls.outputColor, panel.ppd, "KVColorMode", false);
+    fillFromPpd(controls.stapling, panel, "StapleLocation", true, stapleChoicesWithoutValue());
+    fillFromPpd(controls.holePunch, panel, "KVPunch", true, punchChoicesWithoutValue());
+    fillFromPpd(controls.outputColor, panel, "KVColorMode", false);
     if (controls.outputDestination) {
         Menu destinations;
         PopulateOutputDestination(destinations, panel.ppd);

@@ -6,6 +6,7 @@
 #include "picture_view.h"
 #include "plugin_abi.h"
 #include "popup_button.h"
+#include "ppd_file.h"
 #include "stock_menu_button.h"
 #include "summary_view.h"
 
@@ -53,7 +54,7 @@ struct PaperOutputPanelContext : _PaperOutputContext
 {
     QPointer<QWidget> parentUserPane;
     PMPrintSession session = nullptr;
-    PpdFile *ppd = nullptr; // the current one, from Initialize on
+    PpdFile *ppd = nullptr;    // the current one, from Initialize on
     QPointer<QWidget> content; // the panel's own views, from Open to Close
     PaperOutputControls controls;
     _StockMenuCommandEventHandlerData stockButtonData;

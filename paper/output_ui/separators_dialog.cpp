@@ -105,7 +105,9 @@ void showMissingSeparators(const SeparatorsDialog &dialog)
 
 void fillPopups(const SeparatorsDialog &dialog, PpdFile *ppd)
 {
-    const auto hasOption = [ppd](const QString &keyword) { return ppd && ppd->findOption(keyword); };
+    const auto hasOption = [ppd](const QString &keyword) {
+        return ppd && ppd->findOption(keyword);
+    };
     const QString sources = QStringLiteral("KVSlipSheetSource");
     const QString colors = QStringLiteral("MediaColor");
     if (!hasOption(QStringLiteral("KVSlipSheetPrint"))) {

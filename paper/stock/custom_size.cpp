@@ -12,11 +12,11 @@ namespace kelvo {
 namespace {
 
 constexpr double pointsPerInch = 72;
-constexpr double inchFieldPerInch = 100;          // hundredths of an inch
-constexpr double millimetreFieldPerInch = 254;    // tenths of a millimetre
+constexpr double inchFieldPerInch = 100;       // hundredths of an inch
+constexpr double millimetreFieldPerInch = 254; // tenths of a millimetre
 constexpr double millimetreFieldPerInchField = 2.54;
-constexpr double lengthPerInchField = 25.4;       // 1/100 mm
-constexpr double lengthPerMillimetreField = 10;   // 1/100 mm
+constexpr double lengthPerInchField = 25.4;     // 1/100 mm
+constexpr double lengthPerMillimetreField = 10; // 1/100 mm
 
 std::optional<SizeUnit> &unitInUse()
 {
@@ -39,8 +39,7 @@ SizeUnit currentSizeUnit()
 {
     std::optional<SizeUnit> &unit = unitInUse();
     if (!unit) {
-        const bool isAmerican =
-            QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+        const bool isAmerican = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
         unit = isAmerican ? SizeUnit::Inches : SizeUnit::Millimetres;
     }
     return *unit;

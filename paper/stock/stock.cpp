@@ -123,10 +123,12 @@ Stock &Stock::operator=(const Stock &other)
 bool Stock::operator==(const Stock &other) const
 {
     const auto numbers = [](const Stock &stock) {
-        return std::array{stock.m_size,        stock.m_width,       stock.m_length,
-                          stock.m_color,       stock.m_type,        stock.m_modulus,
-                          stock.m_weight,      stock.m_punched,     stock.m_sidesCoated,
-                          stock.m_coatingType, stock.m_finish,      stock.m_grain,
+        return std::array{stock.m_size,        stock.m_width,
+                          stock.m_length,      stock.m_color,
+                          stock.m_type,        stock.m_modulus,
+                          stock.m_weight,      stock.m_punched,
+                          stock.m_sidesCoated, stock.m_coatingType,
+                          stock.m_finish,      stock.m_grain,
                           stock.m_source,      std::int32_t(stock.m_customNameOnly)};
     };
     return numbers(*this) == numbers(other) && sameText(m_customColor, other.m_customColor)

@@ -18,7 +18,7 @@ namespace kelvo {
 
 inline const QString kStockLibraryFile = QStringLiteral("com.kelvo.print.stocks.plist");
 
-inline constexpr int kLongestStockName = 60;  // characters
+inline constexpr int kLongestStockName = 60; // characters
 inline constexpr int kMostLibraryStocks = 200;
 
 // Sorted by name; at most kMostLibraryStocks.

@@ -30,8 +30,11 @@ MenuItem commandItem(const QString &text, OSType command, std::int32_t reference
 
 std::vector<MenuItem> choices(const char *option, OSType command)
 {
+    const QString keyword = QString::fromLatin1(option);
+    PpdFile *ppd = PPDGetCurrent();
     Menu menu;
-    PPDPopulateMenuWithChoices(menu, PPDGetCurrent(), QString::fromLatin1(option), command, false);
+    if (ppd && ppd->findOption(keyword))
+        PPDPopulateMenuWithChoices(menu, ppd, keyword, command, false);
     return std::move(menu.items);
 }
 
@@ -119,8 +122,8 @@ void PopulateStockMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
 Menu stockButtonMenu(CFBundleRef bundle, JobContext jobContext)
 {
     Menu menu;
-    menu.items.push_back(commandItem(localizedText(bundle, QStringLiteral("Default Stock")),
-                                     kCommandStockDefault));
+    menu.items.push_back(
+        commandItem(localizedText(bundle, QStringLiteral("Default Stock")), kCommandStockDefault));
     menu.items.push_back(divider());
     PopulateStockMenu(menu, bundle, jobContext);
     menu.items.push_back(divider());

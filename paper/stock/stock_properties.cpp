@@ -120,8 +120,8 @@ bool hasTypeName(std::int32_t type)
 Stock offered(Stock stock, const StockProperties &properties)
 {
     if (stock.weight() != kUnset)
-        stock.setWeight(std::clamp(stock.weight(), properties.weight.least,
-                                   properties.weight.greatest));
+        stock.setWeight(
+            std::clamp(stock.weight(), properties.weight.least, properties.weight.greatest));
     if (!properties.coating)
         stock.setSidesCoated(kUnset);
     if (!isCoated(stock))
@@ -133,8 +133,7 @@ Stock offered(Stock stock, const StockProperties &properties)
 
 Stock withTabs(Stock stock)
 {
-    const bool needsTabs =
-        stock.type() == kStockTypePrecutTab || stock.type() == kStockTypeOrdered;
+    const bool needsTabs = stock.type() == kStockTypePrecutTab || stock.type() == kStockTypeOrdered;
     if (needsTabs && stock.modulus() == kUnset)
         stock.setModulus(kUsualTabs);
     return stock;

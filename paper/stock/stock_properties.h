@@ -21,13 +21,13 @@ extern const SettingMap CoatingTypeMap[];
 extern const SettingMap SurfaceFinishMap[];
 extern const SettingMap GrainMap[];
 
-inline constexpr std::int32_t kNotCoated = 1;   // SidesCoatedMap
+inline constexpr std::int32_t kNotCoated = 1;    // SidesCoatedMap
 inline constexpr std::int32_t kUsualCoating = 1; // CoatingTypeMap, the default kind
 
 inline constexpr int kFewestTabs = 1, kMostTabs = 254, kUsualTabs = 3; // in a set
 
 // The longest texts that the dialogs take, in characters.
-inline constexpr int kLongestStockText = 80;     // description, names of type and colour
+inline constexpr int kLongestStockText = 80; // description, names of type and colour
 inline constexpr int kLongestStockComment = 400;
 
 // Grams per square metre.

@@ -11,10 +11,10 @@ namespace kelvo {
 
 // Values of TabStockSetupMap.
 inline constexpr std::int32_t kTabShiftNone = 1;
-inline constexpr std::int32_t kTabShiftHalfInch = 2;      // a template for 8.5 by 11 inch
-inline constexpr std::int32_t kTabShiftMillimetres = 3;   // 12.7 mm, a template for A4
+inline constexpr std::int32_t kTabShiftHalfInch = 2;    // a template for 8.5 by 11 inch
+inline constexpr std::int32_t kTabShiftMillimetres = 3; // 12.7 mm, a template for A4
 inline constexpr std::int32_t kTabShiftCustom = 4;
-inline constexpr std::int32_t kTabTemplateShift = 13;     // mm, of both templates
+inline constexpr std::int32_t kTabTemplateShift = 13; // mm, of both templates
 
 // Positions in TabStockRadioMap.
 inline constexpr int kTabUnitInches = 1, kTabUnitMillimetres = 2;

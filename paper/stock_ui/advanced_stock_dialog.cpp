@@ -83,8 +83,7 @@ Stock takenFromLibrary(const Stock &named, const Stock &current, JobContext jobC
 {
     Stock taken = named;
     const bool isJob = jobContext == kJobContextJob;
-    const bool cannotBeCustom =
-        jobContext == kJobContextCovers && named.size() == kStockSizeCustom;
+    const bool cannotBeCustom = jobContext == kJobContextCovers && named.size() == kStockSizeCustom;
     if (isJob || cannotBeCustom) {
         taken.setSize(current.size());
         if (current.size() == kStockSizeCustom) {
@@ -224,8 +223,7 @@ private:
     void remove()
     {
         const QString name = chosenName();
-        if (name.isEmpty()
-            || !mayChangeLibrary(m_bundle, QStringLiteral("Remove"), name, m_window))
+        if (name.isEmpty() || !mayChangeLibrary(m_bundle, QStringLiteral("Remove"), name, m_window))
             return;
         showLibraryProblem(m_bundle, removeFromStockLibrary(name), name, m_window);
         fillLibrary({});
@@ -310,8 +308,8 @@ OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode, JobConte
     const auto dialog = createModalDialog(bundle, name, name, parent);
     if (!dialog)
         return kWindowNotMade;
-    AdvancedStockWindow window(bundle, dialog.get(), jobContext,
-                               namedPapers == kNamedPaperLibrary, *stock);
+    AdvancedStockWindow window(bundle, dialog.get(), jobContext, namedPapers == kNamedPaperLibrary,
+                               *stock);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
     dialog->setAcceptRule([&window] { return window.mayAccept(); });

@@ -1,12 +1,12 @@
 #include "custom_stock_size_dialog.h"
 
-#include "custom_size.h"
 #include "bundle_picture.h"
+#include "custom_size.h"
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "localized_controls.h"
-#include "ppd_choices.h"
 #include "picture_view.h"
+#include "ppd_choices.h"
 #include "radio_group.h"
 #include "spin_field.h"
 #include "ticket_values.h"
@@ -54,7 +54,8 @@ std::pair<std::int32_t, std::int32_t> defaultSize()
     const std::optional<QString> name = PPDCopyDefaultChoice(ppd, QStringLiteral("PageSize"));
     const PpdPageSize *size = ppd && name ? ppd->findPageSize(*name) : nullptr;
     const auto lengthOf = [](double points) {
-        return static_cast<std::int32_t>(std::lround(std::clamp(points, 0.0, 1e6) * lengthPerPoint));
+        return static_cast<std::int32_t>(
+            std::lround(std::clamp(points, 0.0, 1e6) * lengthPerPoint));
     };
     return size ? std::pair(lengthOf(size->width), lengthOf(size->height))
                 : std::pair(lengthOf(612), lengthOf(792));
@@ -70,7 +71,9 @@ public:
         , m_length(window, 7004)
         , m_unitRadio(findControl<RadioGroup>(window, kUnitRadio))
     {
-        showBundlePicture(findControl<PictureView>(window, kPictureView), bundle, QStringLiteral("Paper_CustomSize.gif"), localizedText(bundle, QStringLiteral("Custom Size Picture")));
+        showBundlePicture(findControl<PictureView>(window, kPictureView), bundle,
+                          QStringLiteral("Paper_CustomSize.gif"),
+                          localizedText(bundle, QStringLiteral("Custom Size Picture")));
         m_unitRadio->setValue(static_cast<int>(m_unit));
         showUnit(fieldOfLength(width, m_unit), fieldOfLength(length, m_unit));
     }

@@ -148,9 +148,8 @@ private:
             return;
         PopupButton *punched = findControl<PopupButton>(m_window, kPunchedPopup);
         Menu menu = punched->menu();
-        std::erase_if(menu.items, [](const MenuItem &item) {
-            return item.reference == kStockPrePunched;
-        });
+        std::erase_if(menu.items,
+                      [](const MenuItem &item) { return item.reference == kStockPrePunched; });
         punched->setMenu(std::move(menu));
     }
 

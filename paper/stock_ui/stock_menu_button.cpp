@@ -54,9 +54,8 @@ OSStatus initializeButton(MenuButton *button, _StockMenuCommandEventHandlerData 
     data->button = button;
     button->setMenu(menuFor(data->bundle, data->jobContext));
     button->setMenuUpdate([data](Menu &menu) { checkChosen(menu.items, *data->stock); });
-    data->handlers.push_back(installEventHandler(button, [data](const Event &event) {
-        return StockMenuCommandEventHandler(event, data);
-    }));
+    data->handlers.push_back(installEventHandler(
+        button, [data](const Event &event) { return StockMenuCommandEventHandler(event, data); }));
     showStock(*data);
     return noErr;
 }
@@ -118,16 +117,15 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
     OSStatus status = noErr;
     if (event.command == kCommandStockAdvanced) {
         DialogResult result = DialogResult::Cancel;
-        status = RunModalAdvancedStockSelection(data->bundle, kDialogModeEdit, data->jobContext,
-                                                kNamedPaperLibrary, data->stock, &result,
-                                                data->button);
+        status =
+            RunModalAdvancedStockSelection(data->bundle, kDialogModeEdit, data->jobContext,
+                                           kNamedPaperLibrary, data->stock, &result, data->button);
         if (status != noErr || result != DialogResult::OK)
             return status;
         forgetStockName(*data->stock);
     } else if (event.command == kCommandStockSize && event.reference == kStockSizeCustom) {
         status = takeCustomSize(*data);
-    } else if (!applyStockCommand(*data->stock, event.command, event.reference,
-                                  data->jobContext)) {
+    } else if (!applyStockCommand(*data->stock, event.command, event.reference, data->jobContext)) {
         return eventNotHandledErr;
     }
     showStock(*data);

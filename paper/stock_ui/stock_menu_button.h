@@ -23,8 +23,8 @@ struct _StockMenuCommandEventHandlerData // NOLINT(bugprone-reserved-identifier)
     Stock *stock = nullptr; // the owner's
     JobContext jobContext = kJobContextJob;
     QPointer<SummaryView> summary;
-    QPointer<PictureView> icon; // may be null
-    QPointer<MenuButton> button; // set by Initialize…
+    QPointer<PictureView> icon;            // may be null
+    QPointer<MenuButton> button;           // set by Initialize…
     std::vector<EventHandlerRef> handlers; // set by Initialize…, emptied by Finalize…
     // Called after each command that changed the stock, once summary and icon show
     // it; may be empty.

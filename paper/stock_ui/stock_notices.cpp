@@ -63,12 +63,12 @@ bool mayChangeLibrary(CFBundleRef bundle, const QString &question, const QString
     const auto text = [&](const QString &part) {
         return localizedText(bundle, QStringLiteral("Library %1 %2").arg(question, part));
     };
-    return CFUserNotificationDisplayAlert(
-               NoticeLevel::Caution, text(QStringLiteral("Header")).arg(name),
-               text(QStringLiteral("Message")),
-               {text(QStringLiteral("Button")),
-                localizedText(bundle, QStringLiteral("Cancel Command"))},
-               parent)
+    return CFUserNotificationDisplayAlert(NoticeLevel::Caution,
+                                          text(QStringLiteral("Header")).arg(name),
+                                          text(QStringLiteral("Message")),
+                                          {text(QStringLiteral("Button")),
+                                           localizedText(bundle, QStringLiteral("Cancel Command"))},
+                                          parent)
         == 1;
 }
 

@@ -33,8 +33,7 @@ void fillPopup(PopupButton *popup, CFBundleRef bundle, JobContext jobContext, Me
     for (MenuItem &item : menu.items)
         item.command = kNoCommand;
     if (!offers(menu, kUnset) && !offers(menu, sameAsUnset))
-        menu.items.insert(menu.items.begin(),
-                          choiceItem(notSetText(bundle, jobContext), kUnset));
+        menu.items.insert(menu.items.begin(), choiceItem(notSetText(bundle, jobContext), kUnset));
     menu.items.insert(menu.items.end(), further);
     popup->setMenu(std::move(menu));
 }
@@ -57,9 +56,9 @@ void fillStockColorPopup(CFBundleRef bundle, PopupButton *popup, JobContext jobC
 {
     Menu menu;
     PopulateStockColorMenu(menu, bundle, jobContext);
-    fillPopup(popup, bundle, jobContext, std::move(menu), kUnset,
-              {choiceItem(localizedText(bundle, QStringLiteral("StockColorCustom")),
-                          kStockColorCustom)});
+    fillPopup(
+        popup, bundle, jobContext, std::move(menu), kUnset,
+        {choiceItem(localizedText(bundle, QStringLiteral("StockColorCustom")), kStockColorCustom)});
 }
 
 void showStockType(PopupButton *popup, std::int32_t type)

@@ -3,8 +3,8 @@
 #include "bundle_picture.h"
 #include "dialog_window.h"
 #include "hint_text.h"
-#include "popups.h"
 #include "picture_view.h"
+#include "popups.h"
 #include "radio_group.h"
 #include "setting_maps.h"
 #include "spin_field.h"
@@ -44,7 +44,9 @@ public:
         PopulatePopupButtonFromMap(bundle, m_template, TabStockSetupMap, kJobContextJob,
                                    kNoCommand);
         makeHintText(findControl<QLabel>(window, kShiftHint));
-        showBundlePicture(findControl<PictureView>(window, kShiftPicture), bundle, QStringLiteral("Paper_Pre-CutTabs_TabMarginShift.gif"), localizedText(bundle, QStringLiteral("Tab Shift Picture")));
+        showBundlePicture(findControl<PictureView>(window, kShiftPicture), bundle,
+                          QStringLiteral("Paper_Pre-CutTabs_TabMarginShift.gif"),
+                          localizedText(bundle, QStringLiteral("Tab Shift Picture")));
         m_shift = tabShiftOf(options, QLocale().measurementSystem(), m_unit->value());
         // Where the locale has neither unit, nothing can be shown until the user
         // chooses one: what is stored stays as it is until then.
@@ -135,7 +137,9 @@ OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode, JobContext,
     field->setMaximum(kMostTabs);
     field->setValue(stock->modulus() == kUnset ? kUsualTabs : stock->modulus());
     makeHintText(findControl<QLabel>(dialog.get(), kTabsHint));
-    showBundlePicture(findControl<PictureView>(dialog.get(), kTabsPicture), bundle, QStringLiteral("Paper_Pre-CutTab_White.gif"), localizedText(bundle, QStringLiteral("Tabs in Set Picture")));
+    showBundlePicture(findControl<PictureView>(dialog.get(), kTabsPicture), bundle,
+                      QStringLiteral("Paper_Pre-CutTab_White.gif"),
+                      localizedText(bundle, QStringLiteral("Tabs in Set Picture")));
     *result = dialog->runModal();
     if (*result == DialogResult::OK)
         stock->setModulus(field->value());

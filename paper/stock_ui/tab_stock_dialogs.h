@@ -17,7 +17,6 @@ OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock, _IS
 
 // How many tabs a set of pre-cut tab stock has: the stock's modulus.
 OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
-                                     Stock *stock, DialogResult *result,
-                                     QWidget *parent = nullptr);
+                                     Stock *stock, DialogResult *result, QWidget *parent = nullptr);
 
 } // namespace kelvo

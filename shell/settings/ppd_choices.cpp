@@ -157,7 +157,7 @@ void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
 }
 
 int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword, OSType command,
-                               bool honourConstraints)
+                               bool honourConstraints, const QStringList &readByName)
 {
     if (ppd && honourConstraints)
         ppd->markDefaults();
@@ -168,6 +168,8 @@ int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword,
         return 0;
     }
     for (const PpdChoice &choice : option->choices) {
+        if (readByName.contains(choice.keyword))
+            continue;
         // The mark stays on purpose: the next choice is judged after this one.
         if (honourConstraints && ppd->mark(keyword, choice.keyword))
             continue;

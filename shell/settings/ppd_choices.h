@@ -5,6 +5,7 @@
 #include "ppd_file.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <optional>
@@ -56,8 +57,9 @@ void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
 // order; others are named on standard error, as is a missing option. With
 // `honourConstraints` the marks start from the defaults, each choice is marked
 // in turn, one that conflicts is left out, and the marks stay as the walk
-// leaves them. Returns the number of items.
+// leaves them. Choices of `readByName` have no value, but are known to whoever
+// fills the menu: they are left out and not named. Returns the number of items.
 int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword, OSType command,
-                               bool honourConstraints);
+                               bool honourConstraints, const QStringList &readByName = {});
 
 } // namespace kelvo

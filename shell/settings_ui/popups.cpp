@@ -72,12 +72,13 @@ std::int32_t GetPopupButtonTicketValue(const PopupButton *popup)
 }
 
 int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString &keyword,
-                                bool honourConstraints)
+                                bool honourConstraints, const QStringList &readByName)
 {
     if (!popup)
         return 0;
     Menu menu = popup->menu();
-    const int count = PPDPopulateMenuWithChoices(menu, ppd, keyword, kNoCommand, honourConstraints);
+    const int count =
+        PPDPopulateMenuWithChoices(menu, ppd, keyword, kNoCommand, honourConstraints, readByName);
     popup->setMenu(std::move(menu));
     popup->setMaximum(count);
     return count;

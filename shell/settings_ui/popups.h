@@ -31,7 +31,7 @@ std::int32_t GetPopupButtonTicketValue(const PopupButton *popup); // kUnset for 
 
 // PPDPopulateMenuWithChoices into a pop-up; the count becomes its maximum.
 int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString &keyword,
-                                bool honourConstraints);
+                                bool honourConstraints, const QStringList &readByName = {});
 
 // Shows and enables the pane at the tab's position, hides and disables the others.
 void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[]);

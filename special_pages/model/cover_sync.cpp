@@ -14,9 +14,8 @@ const QString noCover = QStringLiteral("None"); // has no ticket value
 
 void writeSource(PMTicketRef ticket, const QString &option, const Cover *cover)
 {
-    PPDSetCurrentChoice(
-        ticket, option,
-        cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : noCover);
+    PPDSetCurrentChoice(ticket, option,
+                        cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : noCover);
 }
 
 std::unique_ptr<Cover> readSource(PMTicketRef ticket, const QString &option)

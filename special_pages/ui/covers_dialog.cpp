@@ -210,8 +210,9 @@ bool initializeSide(CoversContext &context, CoverSide &side, Cover &cover, std::
         || InitializeStockMenuButton(button, &side.stock) != noErr)
         return false;
 
+    // "None" is no source, but no cover.
     PPDPopulatePopupWithChoices(side.source, PPDGetCurrent(), QString::fromLatin1(sourceOption),
-                                true);
+                                true, {QStringLiteral("None")});
     side.sources = side.source->menu();
     makeHintText(side.sourceHint);
     // The window keeps its size while the hints change.

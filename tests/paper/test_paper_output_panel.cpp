@@ -3,14 +3,13 @@
 #include "bundle.h"
 #include "inspector.h"
 #include "menu_button.h"
-#include "modal_dialog.h"
 #include "panel_interface.h"
 #include "popup_button.h"
 #include "summary_view.h"
 #include "ticket.h"
 
-#include <QLabel>
-#include <QLineEdit>
+#include <QApplication>
+#include <QDialog>
 #include <QTest>
 #include <QTimer>
 
@@ -29,6 +28,27 @@ QString key(const char *name)
 {
     return QStringLiteral("com.kelvo.print.") + QLatin1String(name);
 }
+
+// While it lives, whatever window opens is cancelled at once.
+class WindowCloser
+{
+public:
+    WindowCloser()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+                closed = dialog->objectName();
+                dialog->reject();
+            }
+        });
+        m_timer.start();
+    }
+
+    QString closed; // the name of the last one
+
+private:
+    QTimer m_timer;
+};
 
 // The panel of one sample device, in front of its user.
 class Panel : public DrivenDialog
@@ -125,13 +145,8 @@ void TestPaperOutputPanel::showsAgainWhatItWrote()
             PopupButton *popup = panel.popup(number);
             if (!popup->isEnabled())
                 continue;
-            if (number == kJobType && panel.find<QWidget>(kPanelSignature, kJobTypeSetup))
-                QTimer::singleShot(0, [] {
-                    if (auto *dialog = qobject_cast<QDialog *>(frontWindow()))
-                        dialog->reject();
-                });
+            const WindowCloser closer;
             QVERIFY(popup->choose(static_cast<int>(row)));
-            QCoreApplication::processEvents();
             const std::int32_t value = popup->chosenReference();
             const QString before = panel.shown();
             QCOMPARE(panel.sync(kSyncWrite), noErr);
@@ -232,16 +247,9 @@ void TestPaperOutputPanel::asksForTheSetUpOfAJobType()
 
     auto *button = panel.find<QPushButton>(kPanelSignature, kJobTypeSetup);
     QCOMPARE(button->isEnabled(), isEnabled);
-    QString opened;
-    QTimer::singleShot(0, [&opened] {
-        if (auto *dialog = qobject_cast<QDialog *>(frontWindow())) {
-            opened = dialog->objectName();
-            dialog->reject();
-        }
-    });
+    const WindowCloser closer;
     button->click();
-    QCoreApplication::processEvents();
-    QCOMPARE(opened, window);
+    QCOMPARE(closer.closed, window);
 }
 
 void TestPaperOutputPanel::aStapleEndsABooklet()
@@ -266,6 +274,7 @@ void TestPaperOutputPanel::aStapleEndsABooklet()
 void TestPaperOutputPanel::keepsWhatTheDeviceDoesNotOffer()
 {
     Panel panel(m_factory, QStringLiteral("bare"));
+    panel.session.printSettings() = {};
     PPDDictionary &choices = panel.session.printSettings().ppdChoices;
     choices = {{"KVFold", "C"}, {"Duplex", "DuplexTumble"}, {"OutputBin", "Gold"}};
     PMTicketSetCFDictionary(panel.session.printSettingsTicket(), QStringLiteral("test"),
