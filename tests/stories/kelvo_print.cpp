@@ -120,3 +120,14 @@ QMultiMap<QString, QString> optionsIn(const QString &path)
         options.insert(line.section(u'=', 0, 0), line.section(u'=', 1));
     return options;
 }
+
+QString script(const char *name)
+{
+    return QStringLiteral(KELVO_SCRIPTS "/") + QLatin1String(name);
+}
+
+kelvo::TicketFile ticketIn(const QString &folder)
+{
+    const auto ticket = kelvo::readTicketFile(folder + QStringLiteral("/ticket.plist"));
+    return ticket ? ticket.value() : kelvo::TicketFile();
+}

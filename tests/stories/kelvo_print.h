@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ticket_file.h"
+
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -59,3 +61,21 @@ void write(const QString &path, const QByteArray &bytes);
 QMap<QString, QByteArray> filesIn(const QString &folder);
 // `lines` of "name=value"; a name that stands twice has two values.
 QMultiMap<QString, QString> optionsIn(const QString &path);
+
+inline const QString documentPath = QStringLiteral(KELVO_SOURCE_DIR "/resources/demo/document.pdf");
+inline const QString nonceKey = QStringLiteral("com.kelvo.print.TicketNonce"); // of one job
+
+// The path of a script beside the stories.
+QString script(const char *name);
+
+// The ticket in a folder that a job went to; an empty one where there is none.
+kelvo::TicketFile ticketIn(const QString &folder);
+
+// The run ended with `status`; else what it said.
+#define QENDED(run, wanted)                                                                        \
+    do {                                                                                           \
+        const Run &ended = (run);                                                                  \
+        QVERIFY2(ended.status == (wanted),                                                         \
+                 qPrintable(QStringLiteral("ended with %1\n%2%3")                                  \
+                                .arg(QString::number(ended.status), ended.out, ended.err)));       \
+    } while (false)

@@ -21,33 +21,10 @@ using namespace kelvo;
 
 namespace {
 
-const QString documentPath = QStringLiteral(KELVO_SOURCE_DIR "/resources/demo/document.pdf");
 const QString fullPpd = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
 const QString testPpds = QStringLiteral(KELVO_TEST_DATA "/ppds/");
-const QString nonceKey = QStringLiteral("com.kelvo.print.TicketNonce");
 const QString ticketOption = QStringLiteral("kelvo-ticket");
 const QString passcode = QStringLiteral("48151623");
-
-QString script(const char *name)
-{
-    return QStringLiteral(KELVO_SCRIPTS "/") + QLatin1String(name);
-}
-
-// The run ended with `status`; else what it said.
-#define QENDED(run, wanted)                                                                        \
-    do {                                                                                           \
-        const Run &ended = (run);                                                                  \
-        QVERIFY2(ended.status == (wanted),                                                         \
-                 qPrintable(QStringLiteral("ended with %1\n%2%3")                                  \
-                                .arg(QString::number(ended.status), ended.out, ended.err)));       \
-    } while (false)
-
-// The ticket file in a folder that a job went to, and one from settings.
-TicketFile ticketIn(const QString &folder)
-{
-    const auto ticket = readTicketFile(folder + QStringLiteral("/ticket.plist"));
-    return ticket ? ticket.value() : TicketFile();
-}
 
 QString clientOf(const TicketFile &ticket, const char *key)
 {

@@ -1,0 +1,156 @@
+#include "kelvo_print.h"
+#include "values.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace kelvo;
+
+// What people do on the Paper/Output tab, from the window to the job.
+class TestPaperStories : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void keepsASecurePrintsCodeInTheTicketAlone();
+    void makesACodeWhereNoneIsGiven();
+    void holdsBackASecurePrintWithoutCode();
+    void carriesEverythingThroughATicket_data();
+    void carriesEverythingThroughATicket();
+    void putsSeparatorsBetweenTransparencies();
+    void letsOptionsBeatATicket_data();
+    void letsOptionsBeatATicket();
+};
+
+namespace {
+
+Dictionary jobTypeIn(const TicketFile &ticket)
+{
+    const auto entry = ticket.printSettings.entries.find(QStringLiteral("com.kelvo.print.JobType"));
+    return entry == ticket.printSettings.entries.end()
+        ? Dictionary()
+        : dictionary(entry->second.value).value_or(Dictionary());
+}
+
+QString ppd(const QString &device)
+{
+    return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device);
+}
+
+} // namespace
+
+void TestPaperStories::keepsASecurePrintsCodeInTheTicketAlone()
+{
+    const Desk desk;
+    const QString folder = desk.path("out");
+    const Run run =
+        desk.run({"--demo", "--no-window", "--script", script("secure-print.kps"), "--to", folder});
+    QENDED(run, 0);
+
+    const Dictionary jobType = jobTypeIn(ticketIn(folder));
+    QCOMPARE(jobType.value("JobType"), QVariant(qint64(6)));
+    QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("4815"));
+    QVERIFY(!contents(folder + "/options").contains("4815"));
+    QVERIFY(!run.out.contains("4815") && !run.err.contains("4815"));
+}
+
+void TestPaperStories::makesACodeWhereNoneIsGiven()
+{
+    const Desk desk;
+    const QString folder = desk.path("out");
+    QENDED(desk.run({"--demo", "--no-window", "--script", script("secure-print-made.kps"), "--to",
+                     folder}),
+           0);
+    const QString made = jobTypeIn(ticketIn(folder)).value("SecurePrintPassword").toString();
+    static const QRegularExpression fourDigits(QStringLiteral("^[1-9][0-9]{3}$"));
+    QVERIFY2(fourDigits.match(made).hasMatch(), qPrintable(made));
+}
+
+void TestPaperStories::holdsBackASecurePrintWithoutCode()
+{
+    const Desk desk;
+    const QString folder = desk.path("out");
+    const Run run = desk.run(
+        {"--demo", "--no-window", "--script", script("secure-print-missing.kps"), "--to", folder});
+    QENDED(run, 0);
+    QVERIFY(!QFile::exists(folder));
+}
+
+void TestPaperStories::carriesEverythingThroughATicket_data()
+{
+    QTest::addColumn<QString>("device");
+    for (const char *device : {"full", "mid", "bare"})
+        QTest::newRow(device) << QString::fromLatin1(device);
+}
+
+void TestPaperStories::carriesEverythingThroughATicket()
+{
+    QFETCH(QString, device);
+    const QString name = device == QLatin1String("full") ? QStringLiteral("paper-output")
+                                                         : QStringLiteral("paper-output-") + device;
+    const Desk desk;
+    const QString first = desk.path("first"), second = desk.path("second");
+    const QStringList arguments{"--ppd", ppd(device), "--no-window", documentPath};
+    QENDED(desk.run(arguments
+                    + QStringList{"--script", script(qPrintable(name + ".kps")), "--to", first}),
+           0);
+    const Desk fresh;
+    QENDED(fresh.run(arguments
+                     + QStringList{"--script", script(qPrintable(name + "-again.kps")),
+                                   "--ticket-in", first + "/ticket.plist", "--to", second}),
+           0);
+
+    TicketFile one = ticketIn(first), other = ticketIn(second);
+    QVERIFY(!one.printSettings.entries.empty());
+    for (TicketFile *ticket : {&one, &other})
+        ticket->unknown.remove(nonceKey);
+    QCOMPARE(other, one);
+}
+
+void TestPaperStories::putsSeparatorsBetweenTransparencies()
+{
+    const Desk desk;
+    const QString folder = desk.path("out");
+    QENDED(
+        desk.run({"--demo", "--no-window", "--script", script("separators.kps"), "--to", folder}),
+        0);
+    const auto options = optionsIn(folder + "/options");
+    for (const auto &[option, choice] : {std::pair("MediaType", "Transparency"),
+                                         {"MediaColor", "Clear"},
+                                         {"KVSlipSheetPrint", "Blank"},
+                                         {"KVSlipSheetSource", "Tray3"},
+                                         {"Duplex", "None"}})
+        QCOMPARE(options.values(option), QStringList(choice));
+}
+
+void TestPaperStories::letsOptionsBeatATicket_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("duplex");
+
+    QTest::newRow("the ticket alone") << QStringList() << "DuplexNoTumble";
+    QTest::newRow("the PPD's option") << QStringList{"-o", "Duplex=None"} << "None";
+    QTest::newRow("the server's option")
+        << QStringList{"-o", "sides=two-sided-short-edge"} << "DuplexTumble";
+    QTest::newRow("another option") << QStringList{"-o", "Jog=EndOfSet"} << "DuplexNoTumble";
+}
+
+void TestPaperStories::letsOptionsBeatATicket()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, duplex);
+    const Desk desk;
+    write(desk.path("two.kps"), "tab 1\nchoose @twoSided key Duplex\nprint\n");
+    const QStringList arguments{"--demo", "--no-window"};
+    QENDED(desk.run(arguments + QStringList{"--script", "two.kps", "--to", desk.path("first")}), 0);
+
+    const QString folder = desk.path("second");
+    QENDED(desk.run(arguments + options
+                    + QStringList{"--ticket-in", desk.path("first/ticket.plist"), "--to", folder}),
+           0);
+    QCOMPARE(optionsIn(folder + "/options").values("Duplex"), QStringList(duplex));
+}
+
+QTEST_GUILESS_MAIN(TestPaperStories)
+#include "test_paper_stories.moc"
