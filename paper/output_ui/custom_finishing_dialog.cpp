@@ -15,6 +15,7 @@ namespace {
 
 constexpr ControlID kText{kPanelSignature, 8201};
 constexpr ControlID kHint{kPanelSignature, 8202};
+constexpr ControlID kRemove{kPanelSignature, 8203};
 
 constexpr int kLongestText = 255; // characters
 
@@ -38,17 +39,25 @@ OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
         if (QWidget *okButton = windowDefaultButton(dialog.get()))
             okButton->setEnabled(!text->text().isEmpty());
     };
-    const EventHandlerRef handler =
-        installEventHandler(dialog.get(), [&enableOK](const Event &event) {
+    // OK needs a text, so what is there is removed by a button of its own.
+    bool isRemoved = false;
+    const EventHandlerRef handler = installEventHandler(
+        dialog.get(), [&dialog, &enableOK, &isRemoved](const Event &event) -> OSStatus {
             if (event.kind == EventKind::TextChanged)
                 enableOK();
-            return eventNotHandledErr;
+            if (event.kind != EventKind::ControlHit || event.control != kRemove)
+                return eventNotHandledErr;
+            isRemoved = true;
+            dialog->done(QDialog::Accepted);
+            return noErr;
         });
     enableOK();
+    if (QWidget *remove = findControl(dialog.get(), kRemove))
+        remove->setEnabled(!context->finishing.custom.isEmpty());
 
     *result = dialog->runModal();
     if (*result == DialogResult::OK)
-        context->finishing.custom = text->text();
+        context->finishing.custom = isRemoved ? QStringLiteral("") : text->text();
     return noErr;
 }
 

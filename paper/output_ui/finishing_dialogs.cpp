@@ -228,6 +228,22 @@ void PopulateMoreFinishingMenu(Menu &menu, CFBundleRef bundle)
     appendItem(menu, bundle, "Custom Finishing...", kCommandCustomFinishingDialog);
 }
 
+void MarkMoreFinishingMenu(Menu &menu, const _PaperOutputContext &context)
+{
+    const Finishing &finishing = context.finishing;
+    for (MenuItem &item : menu.items) {
+        const auto row = std::ranges::find(kDialogRows, item.command, &DialogRow::menuCommand);
+        if (row != std::end(kDialogRows)) {
+            const auto choices = finishingChoices(row->kind, PPDGetCurrent());
+            item.checked = initialChoice(row->kind, choices, finishing) != 0;
+        } else if (item.command == kCommandOffsetDialog) {
+            item.checked = finishing.offset >= kOffsetSets;
+        } else if (item.command == kCommandCustomFinishingDialog) {
+            item.checked = !finishing.custom.isEmpty();
+        }
+    }
+}
+
 OSStatus RunModal1StapleFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
                                         DialogResult *result, QWidget *parent)
 {

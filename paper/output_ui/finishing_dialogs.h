@@ -25,6 +25,8 @@ inline constexpr OSType kCommandBindDialog = fourCharCode("Fbnd");
 inline constexpr OSType kCommandOffsetDialog = fourCharCode("Foff");
 inline constexpr OSType kCommandCustomFinishingDialog = fourCharCode("Fcus");
 void PopulateMoreFinishingMenu(Menu &menu, CFBundleRef bundle);
+// Checks the items whose dialog has something set.
+void MarkMoreFinishingMenu(Menu &menu, const _PaperOutputContext &context);
 
 OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
                                        DialogResult *result, QWidget *parent = nullptr);

@@ -108,6 +108,7 @@ void showFinishing(const PaperOutputPanelContext &panel)
     if (!controls.finishingSummary)
         return;
     MarkFinishingMenu(controls.finishingButton->menu(), panel);
+    MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel);
     const QString summary = CreateFinishingString(panel).trimmed();
     UpdateSummaryTextView(controls.finishingSummary,
                           summary.isEmpty()

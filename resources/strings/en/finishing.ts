@@ -34,7 +34,7 @@
     </message>
     <message>
         <source>Covers Menu Option</source>
-        <translation>Covers…</translation>
+        <translation>Co&amp;vers…</translation>
     </message>
     <message>
         <source>Separators Option</source>
@@ -299,6 +299,10 @@
     <message>
         <source>Custom Finishing</source>
         <translation>Finishing instruction</translation>
+    </message>
+    <message>
+        <source>Remove Custom Finishing</source>
+        <translation>&amp;Remove</translation>
     </message>
     <message>
         <source>Custom Finishing Hint</source>

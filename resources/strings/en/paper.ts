@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>Job Type Setup</source>
-        <translation>S&amp;et up…</translation>
+        <translation>Set up…</translation>
     </message>
     <message>
         <source>Paper Summary:</source>
-        <translation>&amp;Paper:</translation>
+        <translation>P&amp;aper:</translation>
     </message>
     <message>
         <source>Paper Summary Spoken</source>
@@ -29,19 +29,19 @@
     </message>
     <message>
         <source>Two Sided Printing:</source>
-        <translation>&amp;Two-sided printing:</translation>
+        <translation>Two-sided p&amp;rinting:</translation>
     </message>
     <message>
         <source>Output Color:</source>
-        <translation>Output co&amp;lor:</translation>
+        <translation>O&amp;utput color:</translation>
     </message>
     <message>
         <source>Stapling:</source>
-        <translation>&amp;Stapling:</translation>
+        <translation>Stapli&amp;ng:</translation>
     </message>
     <message>
         <source>Hole Punch:</source>
-        <translation>&amp;Hole punch:</translation>
+        <translation>Ho&amp;le punch:</translation>
     </message>
     <message>
         <source>Output Destination:</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>More Finishing Menu Title</source>
-        <translation>More finishing</translation>
+        <translation>&amp;More finishing</translation>
     </message>
     <message>
         <source>No Finishing Devices</source>
