@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>About Description</source>
-        <translation>Settings of Corvane devices in the print dialog.</translation>
+        <translation>Paper, finishing and job settings of Corvane devices in the print dialog.</translation>
     </message>
     <message>
         <source>About Device</source>
