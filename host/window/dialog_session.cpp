@@ -351,7 +351,6 @@ void DialogSession::change(const JobSettings &settings)
 {
     writeAll();
     writeJobSettings(settings, m_ppd.get(), *m_session);
-    readAll();
 }
 
 TicketFile DialogSession::ticket() const

@@ -96,7 +96,9 @@ public:
     void writeAll();
     void readAll();
     JobSettings settings() const; // Stage::Ready
-    // The host's own settings: panels write before and read after.
+    // The host's own settings; panels write before. They do not read: a ticket may
+    // hold less of a panel's setting than the user chose there, and more copies must
+    // not take it away. A panel looks at the page format when it writes.
     void change(const JobSettings &settings);
     TicketFile ticket() const; // as it stands
 

@@ -174,10 +174,17 @@ bool endsBooklet(FinishingDialogKind kind, const _PaperOutputContext &context)
 
 void applyFinishingChoice(_PaperOutputContext &context, const FinishingChoice &choice)
 {
-    if (choice.command == kNoCommand)
-        context.finishing.bind = choice.value;
-    else
-        applyFinishingCommand(context, choice.command, choice.value);
+    Finishing &finishing = context.finishing;
+    if (choice.command == kNoCommand) {
+        finishing.bind = choice.value;
+        return;
+    }
+    applyFinishingCommand(context, choice.command, choice.value);
+    // Folded and stapled is a booklet's finishing. Folded alone may be one, or not.
+    if (finishing.fold == kFoldBiAndStaple)
+        finishing.options = kFinishingBooklet;
+    else if (finishing.fold != kFoldBi && finishing.options == kFinishingBooklet)
+        finishing.options = kFinishingNone;
 }
 
 QString finishingChoicePicture(FinishingDialogKind kind, const _PaperOutputContext &context,

@@ -51,8 +51,8 @@ const char *replacedFinishing(FinishingDialogKind kind, const std::vector<Finish
 bool endsBooklet(FinishingDialogKind kind, const _PaperOutputContext &context);
 
 // What OK does: the choice's command of the finishing menu with the choice's
-// value. A booklet that is folded and stapled has no command of its own and is the
-// bi-fold's with another value.
+// value. A booklet that is folded and stapled has no command of its own: it is the
+// bi-fold's with another value, and finishing options 24 for as long as it is set.
 void applyFinishingChoice(_PaperOutputContext &context, const FinishingChoice &choice);
 
 // What would come out, as the bundle names the picture; empty where it has none.

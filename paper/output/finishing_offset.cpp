@@ -13,7 +13,7 @@ bool dividesSets(std::int32_t offset)
 
 bool keepsSetsWhole(std::int32_t offset)
 {
-    return offset == kOffsetNone || offset == kOffsetSets;
+    return offset == kOffsetSets;
 }
 
 } // namespace

@@ -30,8 +30,7 @@ void storeOffset(Finishing &finishing, const OffsetSettings &settings);
 OffsetSettings withOffset(OffsetSettings settings, std::int32_t offset);
 OffsetSettings withSubsets(OffsetSettings settings, bool hasSubsets);
 
-// "no offset" and "between sets" know no subsets; the field for their pages goes
-// with the switch.
+// "between sets" knows no subsets; the field for their pages goes with the switch.
 bool isSubsetSwitchEnabled(const OffsetSettings &settings);
 
 QString offsetPicture(std::int32_t offset);

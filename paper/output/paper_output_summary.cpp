@@ -18,6 +18,12 @@ QString mapText(CFBundleRef bundle, const SettingMap *map, std::int32_t value)
     return key ? localizedText(bundle, QString::fromLatin1(key)) : QString();
 }
 
+// "&Job type:" without what the keyboard needs.
+QString withoutMnemonic(QString label)
+{
+    return label.remove(u'&');
+}
+
 QString choiceText(const PpdFile *ppd, const char *option, const std::optional<QString> &choice)
 {
     if (!choice)
@@ -38,7 +44,8 @@ std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, 
     std::vector<SummaryLine> lines;
     const auto add = [&](const char *titleKey, const QString &text) {
         if (!text.isEmpty())
-            lines.push_back({localizedText(bundle, QString::fromLatin1(titleKey)), text});
+            lines.push_back(
+                {withoutMnemonic(localizedText(bundle, QString::fromLatin1(titleKey))), text});
     };
     add("Job Type:", mapText(bundle, JobTypeMap, context.jobType));
     add("Paper Summary:", stockSummaryText(bundle, kJobContextJob, &context.jobStock));

@@ -67,9 +67,22 @@ void setChoice(PMTicketRef ticket, const char *option, const std::optional<QStri
     PPDSetCurrentChoice(ticket, QString::fromLatin1(option), choice);
 }
 
+void removeChoice(PMTicketRef ticket, const char *option)
+{
+    if (PPDDictionary *choices = PMTicketGetPPDDict(ticket))
+        choices->remove(QString::fromLatin1(option));
+}
+
+// A value without a choice (the printer's default, a colour of the user's) takes an
+// earlier choice back: the device would do what the panel does not show. A choice
+// that we do not know stays.
 void setChoiceValue(PMTicketRef ticket, const char *option, std::int32_t value)
 {
-    setChoice(ticket, option, PPDChoiceForTicketValue(QString::fromLatin1(option), value));
+    const auto choice = PPDChoiceForTicketValue(QString::fromLatin1(option), value);
+    if (choice)
+        setChoice(ticket, option, choice);
+    else if (value != kNoChoice)
+        removeChoice(ticket, option);
 }
 
 void setOrRemove(Dictionary &dictionary, const QString &key, bool isSet, const QVariant &value)
@@ -168,8 +181,8 @@ void readDuplex(_PaperOutputContext &context, PMTicketRef ticket, const PpdFile 
 void writeDuplex(const _PaperOutputContext &context, PMTicketRef ticket)
 {
     const std::int32_t duplex = context.isBooklet() ? kPlexDuplex : context.duplex;
-    if (duplex < kPlexSimplex || duplex > kPlexDuplexShort)
-        return; // the ticket says something that we do not know, and keeps it
+    if (duplex == kNoChoice)
+        return; // the ticket's choice is one that we do not know, and stays
     setChoiceValue(ticket, "Duplex", duplex);
     setNumber(ticket, "FinishingDuplex", duplex);
     PMTicketSetCFNumber(ticket, kClient, kDuplexingKey, duplex);
@@ -218,9 +231,8 @@ void writePunch(const _PaperOutputContext &context, PMTicketRef ticket)
         setChoice(ticket, "KVPunch", choice);
         return;
     }
-    PPDDictionary *choices = PMTicketGetPPDDict(ticket);
-    if (choices && punch != kNoChoice && readPunch(ticket, nullptr) != punch)
-        choices->remove(QStringLiteral("KVPunch"));
+    if (punch != kNoChoice && readPunch(ticket, nullptr) != punch)
+        removeChoice(ticket, "KVPunch");
 }
 
 void writeFinishing(const _PaperOutputContext &context, PMTicketRef ticket)
@@ -247,11 +259,15 @@ void initializePaperOutput(_PaperOutputContext &context, LongDateTime now)
     context.delayedPrintTime = defaultDelayedPrintTime(now);
 }
 
+void readOrientation(_PaperOutputContext &context, PMTicketRef pageFormat)
+{
+    context.orientation = findNumber(pageFormat, kPMOrientationKey).value_or(1);
+}
+
 void readPaperOutput(_PaperOutputContext &context, PMTicketRef settings, PMTicketRef pageFormat,
                      const PpdFile *ppd)
 {
-    context.orientation = findNumber(pageFormat, kPMOrientationKey).value_or(1);
-
+    readOrientation(context, pageFormat);
     const std::optional<Dictionary> stock =
         PMTicketGetCFDictionary(settings, ticketKey("JobLevelStock"));
     if (stock) {

@@ -40,6 +40,8 @@ void initializePaperOutput(_PaperOutputContext &context, LongDateTime now);
 
 void readPaperOutput(_PaperOutputContext &context, PMTicketRef settings, PMTicketRef pageFormat,
                      const PpdFile *ppd);
+// The page format alone: its user may turn the pages between reading and writing.
+void readOrientation(_PaperOutputContext &context, PMTicketRef pageFormat);
 // Duplex is written only while the panel is open.
 void writePaperOutput(_PaperOutputContext &context, PMTicketRef settings);
 

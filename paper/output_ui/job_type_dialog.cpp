@@ -101,12 +101,11 @@ bool takePasscode(CFBundleRef bundle, const PasscodeFields &fields, int longestA
         // The job never goes out without a passcode. The notice says it in clear:
         // nobody knows it otherwise.
         setPasscode(fields, madePasscode());
+        const QStringList arguments = {QString::number(kShortestPasscode),
+                                       QString::number(longestAnnounced), fields.passcode->text()};
         CFUserNotificationDisplayNotice(
-            NoticeLevel::Note, localizedText(bundle, QStringLiteral("Passcode Required Header")),
-            textWith(bundle, "Passcode Required Message",
-                     {QString::number(kShortestPasscode), QString::number(longestAnnounced),
-                      fields.passcode->text()}),
-            {}, window);
+            NoticeLevel::Note, textWith(bundle, "Passcode Required Header", arguments),
+            textWith(bundle, "Passcode Required Message", arguments), {}, window);
         return true;
     }
     case PasscodeProblem::Unconfirmed:

@@ -2,8 +2,6 @@
 
 #include "bundle.h"
 
-#include <QPointer>
-
 #include <optional>
 
 class QCheckBox;
@@ -20,12 +18,13 @@ void showJobTypePicture(CFBundleRef bundle, const QWidget *window, int number,
                         const QString &picture, const QString &nameKey);
 
 // A passcode and its confirmation: digits, masked until the user asks to see them.
+// The controls are those of the window that is running.
 struct PasscodeFields
 {
-    QPointer<QLineEdit> passcode;
-    QPointer<QLineEdit> confirmation;
-    QPointer<QLabel> digits, confirmationDigits; // "4 to 12 digits"
-    QPointer<QCheckBox> show;
+    QLineEdit *passcode = nullptr;
+    QLineEdit *confirmation = nullptr;
+    QLabel *digits = nullptr, *confirmationDigits = nullptr; // "4 to 12 digits"
+    QCheckBox *show = nullptr;
     int shortest = 1; // from so many digits on there is something to confirm
 };
 

@@ -9,6 +9,7 @@
 #include "finishing_dialogs.h"
 #include "finishing_ticket.h"
 #include "hint_text.h"
+#include "installed_features.h"
 #include "job_type_setup.h"
 #include "lan_fax_setup.h"
 #include "output_destinations.h"
@@ -109,11 +110,11 @@ void showFinishing(const PaperOutputPanelContext &panel)
         return;
     MarkFinishingMenu(controls.finishingButton->menu(), panel);
     MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel);
-    const QString summary = CreateFinishingString(panel).trimmed();
-    UpdateSummaryTextView(controls.finishingSummary,
-                          summary.isEmpty()
-                              ? localizedText(panel.bundle, QStringLiteral("No Finishing Devices"))
-                              : summary);
+    QString summary = CreateFinishingString(panel).trimmed();
+    if (summary.isEmpty() && !getInstalledFeature("BookletFoldKey")
+        && !getInstalledFeature("TapeBindKey"))
+        summary = localizedText(panel.bundle, QStringLiteral("No Finishing Devices"));
+    UpdateSummaryTextView(controls.finishingSummary, summary);
     showValue(controls.stapling, chosenStaple(panel.finishing));
     showValue(controls.holePunch, panel.finishing.punch);
     showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel));
@@ -435,8 +436,9 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
     if (status != noErr)
         return status;
     if (direction == kSyncWrite) {
+        readOrientation(*panel, pageFormat);
         writePaperOutput(*panel, settings);
-    } else {
+    } else if (direction == kSyncRead) {
         readPaperOutput(*panel, settings, pageFormat, panel->ppd);
         showSettings(*panel);
     }

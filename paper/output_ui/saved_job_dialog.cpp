@@ -96,6 +96,8 @@ void fillControls(const SavedJobContext &context)
     const QStringList range = {QString::number(kFirstMailbox), QString::number(kLastMailbox)};
     SetLocalizedStaticText(context.bundle, QStringLiteral("Mailbox Number Label"),
                            findControl<QLabel>(context.window.get(), kMailboxLabel), range);
+    context.mailbox->setAccessibleName(
+        formatted(localizedText(context.bundle, QStringLiteral("Mailbox Number Spoken")), range));
     makeHintText(context.mailboxHint);
 
     PopulatePopupButtonFromMap(context.bundle, context.format, SavedJobFormatMap, kJobContextJob,

@@ -12,10 +12,16 @@ const QString frontOption = QStringLiteral("KVFrontCoverSheet");
 const QString backOption = QStringLiteral("KVBackCoverSheet");
 const QString noCover = QStringLiteral("None"); // has no ticket value
 
+// A cover without a source does not reach the device: an earlier source goes, or
+// it would be fed from there all the same.
 void writeSource(PMTicketRef ticket, const QString &option, const Cover *cover)
 {
-    PPDSetCurrentChoice(ticket, option,
-                        cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : noCover);
+    const auto choice = cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : noCover;
+    PPDDictionary *choices = PMTicketGetPPDDict(ticket);
+    if (choice)
+        PPDSetCurrentChoice(ticket, option, choice);
+    else if (choices)
+        choices->remove(option);
 }
 
 std::unique_ptr<Cover> readSource(PMTicketRef ticket, const QString &option)

@@ -282,7 +282,7 @@ void TestFinishing::showsWhatComesOut_data()
     QTest::addColumn<Finishing>("finishing");
     QTest::addColumn<QString>("picture");
 
-    const auto row = [](const char *name, Finishing finishing, const char *picture,
+    const auto row = [](const char *name, const Finishing &finishing, const char *picture,
                         std::int32_t booklet = kBookletOff) {
         QTest::newRow(name) << booklet << finishing << QString::fromLatin1(picture);
     };

@@ -64,8 +64,8 @@ void TestFinishingRules::offsetsAndSubsetsKeepTogether_data()
 
     QTest::newRow("sets clear the subsets")
         << OffsetSettings{5, true, 12} << 3 << false << OffsetSettings{3, false, 0} << false;
-    QTest::newRow("so does no offset")
-        << OffsetSettings{4, true, 12} << 2 << false << OffsetSettings{2, false, 0} << false;
+    QTest::newRow("no offset leaves them")
+        << OffsetSettings{4, true, 12} << 2 << false << OffsetSettings{2, true, 12} << true;
     QTest::newRow("subsets turn the switch on")
         << OffsetSettings{3, false, 0} << 4 << false << OffsetSettings{4, true, 0} << true;
     QTest::newRow("both keep the pages")
@@ -185,6 +185,8 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
             const bool saysBookletEnds = endsBooklet(kind, byDialog);
             QVERIFY(applyFinishingCommand(byMenu, choice.command, choice.value));
             applyFinishingChoice(byDialog, choice);
+            if (choice.value == kFoldBiAndStaple) // the dialog's own
+                byMenu.finishing.options = kFinishingBooklet;
             QVERIFY2(byDialog.finishing == byMenu.finishing, choice.key);
             QCOMPARE(byDialog.isBooklet(), byMenu.isBooklet());
             QCOMPARE(saysBookletEnds, !byDialog.isBooklet());
@@ -195,6 +197,9 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
     const auto folds = finishingChoices(Kind::AdvancedFold, PPDGetCurrent());
     applyFinishingChoice(context, folds[2]);
     QCOMPARE(context.finishing.fold, kFoldBiAndStaple);
+    QCOMPARE(context.finishing.options, kFinishingBooklet);
+    applyFinishingChoice(context, folds[0]);
+    QCOMPARE(context.finishing.options, kFinishingNone);
     applyFinishingChoice(context, finishingChoices(Kind::Bind, PPDGetCurrent())[2]);
     QCOMPARE(context.finishing.bind, kBindRight);
     QVERIFY(context.isBooklet());

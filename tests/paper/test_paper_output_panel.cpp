@@ -315,7 +315,9 @@ void TestPaperOutputPanel::summarizesForTheDialog()
     QCOMPARE(operations.value().Open(context), noErr);
     SummaryArray titles, texts;
     QCOMPARE(operations.value().GetSummaryText(context, &titles, &texts), noErr);
-    QCOMPARE(titles->size(), texts->size());
+    QCOMPARE(titles->join(u'|'),
+             QStringLiteral("Job type:|Paper:|Two-sided printing:|Output color:|Stapling:|"
+                            "Hole punch:|Output destination:"));
     QCOMPARE(texts->join(u'|'),
              QStringLiteral("Normal print|- White\n- Plain|1-sided print|Color|No Staple|"
                             "No Hole Punch|Automatic"));

@@ -49,6 +49,7 @@ private slots:
     void writesTwoSidedWhileOpenOnly();
     void takesBackHolesThatAreNotChosen_data();
     void takesBackHolesThatAreNotChosen();
+    void takesBackPaperThatIsNotChosen();
     void writesSeparatorsSourceWithSeparatorsOnly();
     void readsBackWhatItWroteBut_data();
     void readsBackWhatItWroteBut();
@@ -301,6 +302,24 @@ void TestPaperOutputTicket::takesBackHolesThatAreNotChosen()
     writePaperOutput(context, device.settings());
 
     QCOMPARE(device.choice(QStringLiteral("KVPunch")), after);
+}
+
+void TestPaperOutputTicket::takesBackPaperThatIsNotChosen()
+{
+    DeviceSession device(QStringLiteral("full"));
+    PPDDictionary &choices = device.session.printSettings().ppdChoices;
+    choices = {{"MediaColor", "Blue"}, {"MediaType", "Sparkling"}};
+    _PaperOutputContext context;
+    read(context, device);
+    writePaperOutput(context, device.settings());
+    QCOMPARE(choices.value("MediaType"), QStringLiteral("Sparkling")); // not ours to judge
+
+    for (const std::int32_t color : {kUnset, kStockColorCustom}) {
+        choices["MediaColor"] = QStringLiteral("Blue");
+        context.jobStock.setColor(color);
+        writePaperOutput(context, device.settings());
+        QVERIFY(!choices.contains("MediaColor"));
+    }
 }
 
 void TestPaperOutputTicket::writesSeparatorsSourceWithSeparatorsOnly()

@@ -264,6 +264,8 @@ void TestCovers::writesSources()
     PrintSession session;
     const PMTicketRef ticket = session.printSettingsTicket();
     PMTicketSetCFBoolean(ticket, "test", ticketKey("BookletLayout"), booklet);
+    for (const char *option : {"KVFrontCoverSheet", "KVBackCoverSheet"})
+        PPDSetCurrentChoice(ticket, option, "Tray6"); // of an earlier cover
     std::unique_ptr<Cover> frontCover = given(front);
     std::unique_ptr<Cover> backCover = given(back);
 

@@ -19,6 +19,7 @@ private slots:
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void putsSeparatorsBetweenTransparencies();
+    void keepsItsSettingsWhileOthersChange();
     void letsOptionsBeatATicket_data();
     void letsOptionsBeatATicket();
 };
@@ -122,6 +123,16 @@ void TestPaperStories::putsSeparatorsBetweenTransparencies()
                                          {"KVSlipSheetSource", "Tray3"},
                                          {"Duplex", "None"}})
         QCOMPARE(options.values(option), QStringList(choice));
+}
+
+void TestPaperStories::keepsItsSettingsWhileOthersChange()
+{
+    const Desk desk;
+    const QString folder = desk.path("out");
+    QENDED(desk.run({"--demo", "--no-window", "--script", script("kept.kps"), "--to", folder}), 0);
+    const auto options = optionsIn(folder + "/options");
+    QVERIFY(!options.contains("MediaColor"));
+    QCOMPARE(options.values("StapleLocation"), QStringList("None"));
 }
 
 void TestPaperStories::letsOptionsBeatATicket_data()

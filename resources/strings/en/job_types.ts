@@ -64,6 +64,10 @@
         <translation>&amp;Use document name</translation>
     </message>
     <message>
+        <source>Mailbox Number Spoken</source>
+        <translation>Mailbox, %1 to %2</translation>
+    </message>
+    <message>
         <source>Mailbox Number Label</source>
         <translation>&amp;Mailbox (%1 to %2):</translation>
     </message>

@@ -8,6 +8,10 @@
         <translation>Paper/Output</translation>
     </message>
     <message>
+        <source>Unknown</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
         <source>Job Type:</source>
         <translation>&amp;Job type:</translation>
     </message>
