@@ -116,6 +116,9 @@ inline DialogDriver::Step answerNoticeWith(const char *part)
     return [part] {
         QVERIFY(kelvo::frontNotice().isShown());
         const QString message = kelvo::frontNotice().message;
+        // No place holder is left in either text.
+        QVERIFY2(!kelvo::frontNotice().header.contains(u'%') && !message.contains(u'%'),
+                 qPrintable(kelvo::frontNotice().header));
         const bool isThis = message.contains(QString::fromUtf8(part));
         kelvo::answerNotice(1);
         QVERIFY2(isThis, qPrintable(message));
