@@ -284,11 +284,18 @@ void setButtonImage(const PDEShellContext &shell, ControlID button, const QStrin
 }
 
 // The panes share the area's one cell. A hidden one keeps its claim, so the area
-// is as large as the largest panel and nothing moves when the tab changes.
-void embedUserPanes(PDEShellContext &shell)
+// is as large as the largest panel and nothing moves when the tab changes. The
+// shell is never smaller than `least`: layouts keep to that, for a minimum of the
+// widget's own would keep longer texts from asking for more.
+void embedUserPanes(PDEShellContext &shell, QSize least)
 {
+    auto *rows = qobject_cast<QBoxLayout *>(shell.controls.group->layout());
+    const int around = rows ? rows->totalMinimumSize().height() : 0;
     auto *cell = new QGridLayout(shell.controls.panelArea);
     cell->setContentsMargins({});
+    cell->setRowMinimumHeight(0, least.height() - around);
+    if (rows)
+        rows->addStrut(least.width());
     for (const PanelRecord &panel : shell.panels) {
         if (!panel.userPane)
             continue;
@@ -472,12 +479,11 @@ OSStatus Open(PMPDEContext context)
             return kPMInvalidPDEContext;
         shell->opened = true;
         QWidget *group = shell->controls.group;
-        group->setMinimumSize(minimumShellSize(QFontInfo(group->font()).pixelSize()));
         fillTabSelector(*shell);
         shell->groupHandler = installShellHandler(*shell, group);
         setButtonImage(*shell, kPreviousButton, QStringLiteral("ButtonGraphic_MacUp.png"));
         setButtonImage(*shell, kNextButton, QStringLiteral("ButtonGraphic_MacDown.png"));
-        embedUserPanes(*shell);
+        embedUserPanes(*shell, minimumShellSize(QFontInfo(group->font()).pixelSize()));
         openPanels(*shell);
     }
     showTab(tabToShow(presentTabs(*shell), gCurrentPanel), *shell);

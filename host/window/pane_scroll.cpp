@@ -81,7 +81,10 @@ void PaneScroll::resizeEvent(QResizeEvent *event)
 
 bool PaneScroll::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+    // Of the scroll bar, and of panels that ask for more than before: a scroll
+    // area passes neither on.
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide
+        || (watched == widget() && event->type() == QEvent::LayoutRequest))
         updateGeometry();
     return QScrollArea::eventFilter(watched, event);
 }

@@ -2,6 +2,7 @@
 
 #include "pane_scroll.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <QHBoxLayout>
 #include <QScrollBar>
@@ -114,6 +115,15 @@ void WindowColumns::showRight()
         m_isLeftWanted = false;
         arrange();
     }
+}
+
+bool WindowColumns::event(QEvent *event)
+{
+    // The panels come after the window, and may ask for more than it gave them.
+    const bool isDone = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        arrange();
+    return isDone;
 }
 
 void WindowColumns::resizeEvent(QResizeEvent *event)

@@ -35,6 +35,7 @@ public:
     void showRight(); // where it stands behind the left column
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
