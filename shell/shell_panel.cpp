@@ -133,6 +133,8 @@ PrintCheck checkOf(const PDEShellContext &shell, const PanelRecord **paperOutput
 {
     const JobTypeProvider jobType = jobTypeProvider();
     *paperOutput = findPanel(shell, kPaperOutputTab);
+    if (const PrintPreparation prepare = printPreparation(); prepare && *paperOutput)
+        prepare((*paperOutput)->context);
     return jobType && *paperOutput ? checkBeforePrint(jobType((*paperOutput)->context))
                                    : PrintCheck::Proceed;
 }

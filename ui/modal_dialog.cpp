@@ -7,8 +7,12 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
+#include <memory>
 #include <vector>
 
 namespace kelvo {
@@ -55,6 +59,9 @@ ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
         m_okButton->setDefault(true);
     setWindowButtons(this, m_okButton, buttonWithCommand(content, kCommandCancel));
 
+    auto *help = new QShortcut(QKeySequence::HelpContents, this);
+    connect(help, &QShortcut::activated, this, [this] { sendCommand(this, kCommandHelp); });
+
     // Installed first, so asked last: whoever runs the dialog may take any of these.
     m_handler = installEventHandler(this, [this, content](const Event &event) -> OSStatus {
         if (event.kind != EventKind::Command)
@@ -73,11 +80,30 @@ ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
     });
 }
 
+// A small screen, or a large font: every button can still be reached.
+void ModalDialog::scrollContent()
+{
+    const std::unique_ptr<QLayoutItem> item(layout()->takeAt(0));
+    QWidget *content = item->widget();
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setMinimumWidth(content->sizeHint().width()
+                          + area->verticalScrollBar()->sizeHint().width());
+    area->setWidget(content);
+    layout()->addWidget(area);
+}
+
 DialogResult ModalDialog::runModal()
 {
+    const QSize available = screen()->availableSize();
+    if (sizeHint().height() > available.height())
+        scrollContent();
     // Left alone, Qt squeezes a dialog into two thirds of the screen.
     if (!testAttribute(Qt::WA_Resized))
-        resize(sizeHint().boundedTo(screen()->availableSize()));
+        resize(sizeHint().boundedTo(available));
     runningDialogs().emplace_back(this);
     const QPointer<QWidget> self = this;
     const int result = exec();

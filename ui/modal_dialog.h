@@ -18,8 +18,9 @@ inline constexpr OSType kCommandHelp = fourCharCode("Khlp");
 
 // A modal dialog around a loaded window. A button's command is its dynamic
 // property "command" ("ok  "). The OK button becomes the default one, which
-// Return presses; Escape is Cancel. Help that no handler takes opens the help
-// page named by the content's dynamic property "helpPage".
+// Return presses; Escape is Cancel. F1 sends the help command. Help that no
+// handler takes opens the help page named by the content's dynamic property
+// "helpPage". A content that is higher than the screen scrolls.
 class ModalDialog : public QDialog
 {
     Q_OBJECT
@@ -40,6 +41,8 @@ public:
     void reject() override;
 
 private:
+    void scrollContent();
+
     std::function<bool()> m_mayAccept;
     QPointer<QPushButton> m_okButton; // null when the content has none
     EventHandlerRef m_handler;

@@ -222,6 +222,15 @@ void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
         PMTicketGetCFString(ticket, ticketKey("FinishingCustom")).value_or(QStringLiteral(""));
 }
 
+// A choice that this panel cannot show. It stays until the user chooses a staple.
+bool isUnknownStaple(PMTicketRef ticket)
+{
+    const QString option = QStringLiteral("StapleLocation");
+    const auto choice = PPDCopyCurrentChoice(ticket, option);
+    return choice && PPDTicketValueForChoice(option, *choice) == kNoChoice
+        && !stapleOfChoice(*choice);
+}
+
 // Two, three and four holes alone are written. Where it is another punch, a choice
 // that says otherwise goes: the device would punch what the panel does not show.
 void writePunch(const _PaperOutputContext &context, PMTicketRef ticket)
@@ -246,7 +255,9 @@ void writeFinishing(const _PaperOutputContext &context, PMTicketRef ticket)
     setNumber(ticket, "FinishingSlipSheet", finishing.slipSheet);
     setChoiceValue(ticket, "KVFold", finishing.fold);
     writePunch(context, ticket);
-    setChoice(ticket, "StapleLocation", stapleChoice(chosenStaple(finishing), context.orientation));
+    if (!isUnknownStaple(ticket) || chosenStaple(finishing) != kStapleNone)
+        setChoice(ticket, "StapleLocation",
+                  stapleChoice(chosenStaple(finishing), context.orientation));
     setNumber(ticket, "FinishingBindValue", finishing.bind);
     PMTicketSetCFString(ticket, kClient, ticketKey("FinishingCustom"), finishing.custom);
 }

@@ -73,6 +73,7 @@ std::optional<PasscodeFields> findPasscodeFields(CFBundleRef bundle, const QWidg
 void setPasscode(const PasscodeFields &fields, const QString &passcode)
 {
     fields.passcode->setText(passcode);
+    fields.passcode->selectAll(); // what is typed next replaces it
     fields.confirmation->setText(passcode);
 }
 

@@ -83,14 +83,27 @@ void showSeparators(const PaperOutputPanelContext &panel)
                                             : QString());
 }
 
+// Covers travel as their paper source. No cover at all is in order.
+bool reachesDevice(const Cover *cover)
+{
+    return !cover
+        || PPDChoiceForTicketValue(QStringLiteral("KVFrontCoverSheet"), cover->stock().source());
+}
+
+const char *coversKey(const Cover *front, const Cover *back)
+{
+    if (!reachesDevice(front) || !reachesDevice(back))
+        return "Cover Without Source";
+    if (front)
+        return back ? "Front and Back Covers" : "Front Cover Only";
+    return back ? "Back Cover Only" : "No Covers";
+}
+
 void showCovers(const PaperOutputPanelContext &panel)
 {
     if (!panel.controls.coversSummary)
         return;
-    const char *key = panel.frontCover
-        ? panel.backCover ? "Front and Back Covers" : "Front Cover Only"
-        : panel.backCover ? "Back Cover Only"
-                          : "No Covers";
+    const char *key = coversKey(panel.frontCover.get(), panel.backCover.get());
     panel.controls.coversSummary->setText(localizedText(panel.bundle, QString::fromLatin1(key)));
 }
 
@@ -103,6 +116,19 @@ void showTwoSided(const PaperOutputPanelContext &panel)
     showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel));
 }
 
+// What the summary has no line for.
+void showMoreFinishing(const PaperOutputPanelContext &panel)
+{
+    QStringList names;
+    for (const MenuItem &item : panel.controls.moreFinishing->menu().items) {
+        if (item.checked
+            && (item.command == kCommandBindDialog || item.command == kCommandOffsetDialog
+                || item.command == kCommandCustomFinishingDialog))
+            names << QString(item.text).remove(QStringLiteral("…"));
+    }
+    panel.controls.moreFinishingSummary->setText(names.join(QStringLiteral(", ")));
+}
+
 void showFinishing(const PaperOutputPanelContext &panel)
 {
     const PaperOutputControls &controls = panel.controls;
@@ -110,6 +136,7 @@ void showFinishing(const PaperOutputPanelContext &panel)
         return;
     MarkFinishingMenu(controls.finishingButton->menu(), panel);
     MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel);
+    showMoreFinishing(panel);
     QString summary = CreateFinishingString(panel).trimmed();
     if (summary.isEmpty() && !getInstalledFeature("BookletFoldKey")
         && !getInstalledFeature("TapeBindKey"))
@@ -182,6 +209,10 @@ void runJobTypeSetup(PaperOutputPanelContext &panel)
 void chooseJobType(PaperOutputPanelContext &panel)
 {
     panel.jobType = GetPopupButtonTicketValue(panel.controls.jobType);
+    // A code that nobody will be asked for would only keep the job from queues that
+    // hold no secrets.
+    if (panel.jobType != kJobTypeSecurePrint && panel.jobType != kJobTypeSaved)
+        panel.passcode.reset();
     showJobType(panel);
     // A job type that needs a set-up asks for it at once.
     if (panel.controls.jobTypeSetup && panel.controls.jobTypeSetup->isEnabled())
@@ -338,6 +369,7 @@ PaperOutputControls findControls(const QWidget *content)
         .finishingIcon = findControl<PictureView>(content, id(124)),
         .finishingSummary = findControl<SummaryView>(content, id(127)),
         .moreFinishing = findControl<MenuButton>(content, id(128)),
+        .moreFinishingSummary = findControl<QLabel>(content, id(1281)),
         .outputDestination = findControl<PopupButton>(content, id(kOutputDestination)),
     };
 }
@@ -382,6 +414,7 @@ void fillControls(PaperOutputPanelContext &panel)
     controls.separatorsButton->setEnabled(hasOption(panel, "KVSlipSheetPrint"));
     makeHintText(controls.coversSummary);
     makeHintText(controls.separatorsSummary);
+    makeHintText(controls.moreFinishingSummary);
 }
 
 // --- The panel's operations --------------------------------------------------
@@ -393,6 +426,15 @@ JobTypeState jobTypeState(PMPDEContext context)
         return {};
     return {panel->jobType, panel->passcode && !panel->passcode->isEmpty(),
             panel->faxRecipients && !panel->faxRecipients->isEmpty()};
+}
+
+// A ticket or preset may be older than its time: the job waits for the next one.
+void prepareToPrint(PMPDEContext context)
+{
+    PaperOutputPanelContext *panel = panelOf(context);
+    const LongDateTime now = currentLongDate();
+    if (panel && panel->jobType == kJobTypeDelayedPrint && panel->delayedPrintTime < now)
+        panel->delayedPrintTime = delayedPrintTime(timeOf(panel->delayedPrintTime), now);
 }
 
 void runFaxSetupFor(PMPDEContext context)
@@ -414,6 +456,7 @@ OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptio
     initializePaperOutput(*panel, currentLongDate());
     setJobTypeProvider(jobTypeState);
     setFaxSetupRunner(runFaxSetupFor);
+    setPrintPreparation(prepareToPrint);
     *context = reinterpret_cast<PMPDEContext>(panel);
     *creator = kPanelSignature;
     *userOptionKind = &kPDEPanelKind;
@@ -532,6 +575,7 @@ OSStatus Terminate(PMPDEContext context, OSStatus)
     Close(context);
     setJobTypeProvider(nullptr);
     setFaxSetupRunner(nullptr);
+    setPrintPreparation(nullptr);
     delete panelOf(context);
     return noErr;
 }

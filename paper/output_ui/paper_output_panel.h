@@ -47,6 +47,7 @@ struct PaperOutputControls
     QPointer<PictureView> finishingIcon;     // KPDE 124
     QPointer<SummaryView> finishingSummary;  // KPDE 127
     QPointer<MenuButton> moreFinishing;      // KPDE 128
+    QPointer<QLabel> moreFinishingSummary;   // KPDE 1281
     QPointer<PopupButton> outputDestination; // KPDE 126
 };
 

@@ -197,8 +197,6 @@ OSStatus handleEvent(SavedJobContext &context, const Event &event)
     else if (event.source == context.useJobName)
         showName(context);
     syncToUI(context);
-    if (event.source == context.secure && context.secure->isChecked())
-        context.fields.passcode->setFocus();
     return eventNotHandledErr;
 }
 

@@ -12,6 +12,7 @@ PMPrintSession currentSession = nullptr;
 OSStatus (*shellSync)(PMPrintSession, std::int32_t) = nullptr;
 JobTypeProvider currentJobTypeProvider = nullptr;
 FaxSetupRunner currentFaxSetupRunner = nullptr;
+PrintPreparation currentPrintPreparation = nullptr;
 
 } // namespace
 
@@ -59,6 +60,16 @@ void setJobTypeProvider(JobTypeProvider provider)
 JobTypeProvider jobTypeProvider()
 {
     return currentJobTypeProvider;
+}
+
+void setPrintPreparation(PrintPreparation preparation)
+{
+    currentPrintPreparation = preparation;
+}
+
+PrintPreparation printPreparation()
+{
+    return currentPrintPreparation;
 }
 
 void setFaxSetupRunner(FaxSetupRunner runner)

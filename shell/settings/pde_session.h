@@ -39,6 +39,11 @@ struct JobTypeState
 using JobTypeProvider = JobTypeState (*)(PMPDEContext paperOutputContext);
 void setJobTypeProvider(JobTypeProvider provider); // null: no Paper/Output panel
 JobTypeProvider jobTypeProvider();
+// Called when the user presses Print, before anything is checked: what depends on
+// the moment is settled then. Registered by the same.
+using PrintPreparation = void (*)(PMPDEContext paperOutputContext);
+void setPrintPreparation(PrintPreparation preparation);
+PrintPreparation printPreparation();
 // Opens the LAN fax set-up on the panel's fax settings; registered by the same.
 using FaxSetupRunner = void (*)(PMPDEContext paperOutputContext);
 void setFaxSetupRunner(FaxSetupRunner runner);

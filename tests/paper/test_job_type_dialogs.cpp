@@ -163,7 +163,7 @@ void TestJobTypeDialogs::aSecureSavedJobNeedsFourDigits()
     SavedJobData data;
     const DialogDriver driver(
         {expect("passcode", "enabled", "false"), press("secureSavedJob"),
-         expect("passcode", "focus", "true"), type("passcode", "123"),
+         expect("passcode", "enabled", "true"), type("passcode", "123"),
          expect("okButton", "enabled", "false"), expect("confirmPasscode", "enabled", "false"),
          press("secureSavedJob"), expect("okButton", "enabled", "true"), press("secureSavedJob"),
          type("passcode", "1234"), expect("okButton", "enabled", "true"),

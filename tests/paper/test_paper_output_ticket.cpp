@@ -308,11 +308,13 @@ void TestPaperOutputTicket::takesBackPaperThatIsNotChosen()
 {
     DeviceSession device(QStringLiteral("full"));
     PPDDictionary &choices = device.session.printSettings().ppdChoices;
-    choices = {{"MediaColor", "Blue"}, {"MediaType", "Sparkling"}};
+    const PPDDictionary unknown{{"MediaType", "Sparkling"}, {"StapleLocation", "Gold"}};
+    choices = unknown;
     _PaperOutputContext context;
     read(context, device);
     writePaperOutput(context, device.settings());
-    QCOMPARE(choices.value("MediaType"), QStringLiteral("Sparkling")); // not ours to judge
+    for (auto choice = unknown.cbegin(); choice != unknown.cend(); ++choice)
+        QCOMPARE(choices.value(choice.key()), choice.value()); // not ours to judge
 
     for (const std::int32_t color : {kUnset, kStockColorCustom}) {
         choices["MediaColor"] = QStringLiteral("Blue");

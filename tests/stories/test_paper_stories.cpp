@@ -1,4 +1,5 @@
 #include "kelvo_print.h"
+#include "long_date.h"
 #include "values.h"
 
 #include <QDir>
@@ -16,6 +17,8 @@ private slots:
     void keepsASecurePrintsCodeInTheTicketAlone();
     void makesACodeWhereNoneIsGiven();
     void holdsBackASecurePrintWithoutCode();
+    void forgetsACodeThatNobodyWillBeAskedFor();
+    void waitsForTheNextTimeOfADelayedJob();
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void putsSeparatorsBetweenTransparencies();
@@ -76,6 +79,36 @@ void TestPaperStories::holdsBackASecurePrintWithoutCode()
         {"--demo", "--no-window", "--script", script("secure-print-missing.kps"), "--to", folder});
     QENDED(run, 0);
     QVERIFY(!QFile::exists(folder));
+}
+
+void TestPaperStories::forgetsACodeThatNobodyWillBeAskedFor()
+{
+    const Desk desk;
+    write(desk.path("s.kps"),
+          "tab 1\nchoose @jobType key SecurePrint\n"
+          "type @passcode \"4815\"\ntype @confirmPasscode \"4815\"\n"
+          "click @okButton\nchoose @jobType key Normal\nprint\n");
+    QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps", "--to", "out"}), 0);
+    const Dictionary jobType = jobTypeIn(ticketIn(desk.path("out")));
+    QCOMPARE(jobType.value("JobType"), QVariant(qint64(1)));
+    QVERIFY(!jobType.contains("SecurePrintPassword"));
+}
+
+void TestPaperStories::waitsForTheNextTimeOfADelayedJob()
+{
+    const Desk desk;
+    TicketFile old;
+    const LongDateTime then = longDateFrom(QDate(2020, 2, 29), QTime(10, 0));
+    old.printSettings.entries[QStringLiteral("com.kelvo.print.JobType")] = {
+        Dictionary{{"JobType", 7}, {"DelayedPrintTime", qint64(then)}}, QStringLiteral("test")};
+    QVERIFY(writeTicketFile(desk.path("old.plist"), old));
+
+    const LongDateTime before = longDateFrom(QDateTime::currentDateTime());
+    QENDED(desk.run({"--demo", "--no-window", "--ticket-in", "old.plist", "--to", "out"}), 0);
+    const LongDateTime sent =
+        jobTypeIn(ticketIn(desk.path("out"))).value("DelayedPrintTime").toLongLong();
+    QCOMPARE(timeOf(sent), QTime(10, 0));
+    QVERIFY(sent >= before && sent <= before + 2 * 86'400);
 }
 
 void TestPaperStories::carriesEverythingThroughATicket_data()

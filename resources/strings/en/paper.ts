@@ -12,6 +12,10 @@
         <translation>Untitled</translation>
     </message>
     <message>
+        <source>Cover Without Source</source>
+        <translation>No paper source: left out</translation>
+    </message>
+    <message>
         <source>Job Type:</source>
         <translation>&amp;Job type:</translation>
     </message>

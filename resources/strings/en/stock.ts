@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Stock Type Name Hint</source>
-        <translation>Ordered paper and custom types need a name: the one that the device knows the paper by.</translation>
+        <translation>Ordered paper and “Custom type” need a name: the one that the device knows the paper by.</translation>
     </message>
     <message>
         <source>Stock Type Tabs:</source>
@@ -302,7 +302,7 @@
     </message>
     <message>
         <source>Stock Type Name Missing Message</source>
-        <translation>Ordered paper and custom types need a name. Enter the one that the device knows the paper by, or choose another type.</translation>
+        <translation>Ordered paper and “Custom type” need a name. Enter the one that the device knows the paper by, or choose another type.</translation>
     </message>
     <!-- Description of the paper -->
     <message>
