@@ -80,8 +80,9 @@ ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
     });
 }
 
-// A small screen, or a large font: every button can still be reached.
-void ModalDialog::scrollContent()
+// A small screen, or a large font: every button can still be reached. Returns the
+// width of the scroll bar.
+int ModalDialog::scrollContent()
 {
     const std::unique_ptr<QLayoutItem> item(layout()->takeAt(0));
     QWidget *content = item->widget();
@@ -90,20 +91,22 @@ void ModalDialog::scrollContent()
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
-    area->setMinimumWidth(content->sizeHint().width()
-                          + area->verticalScrollBar()->sizeHint().width());
+    const int bar = area->verticalScrollBar()->sizeHint().width();
+    area->setMinimumWidth(content->minimumSizeHint().width() + bar);
     area->setWidget(content);
     layout()->addWidget(area);
+    return bar;
 }
 
 DialogResult ModalDialog::runModal()
 {
     const QSize available = screen()->availableSize();
-    if (sizeHint().height() > available.height())
-        scrollContent();
+    QSize wanted = sizeHint();
+    if (wanted.height() > available.height())
+        wanted.rwidth() += scrollContent();
     // Left alone, Qt squeezes a dialog into two thirds of the screen.
     if (!testAttribute(Qt::WA_Resized))
-        resize(sizeHint().boundedTo(available));
+        resize(wanted.boundedTo(available));
     runningDialogs().emplace_back(this);
     const QPointer<QWidget> self = this;
     const int result = exec();

@@ -41,7 +41,7 @@ public:
     void reject() override;
 
 private:
-    void scrollContent();
+    int scrollContent();
 
     std::function<bool()> m_mayAccept;
     QPointer<QPushButton> m_okButton; // null when the content has none
