@@ -1,68 +1,11 @@
 #pragma once
 
-#include "event.h"
-#include "menu_button.h"
-#include "paper_output_context.h"
-#include "picture_view.h"
 #include "plugin_abi.h"
-#include "popup_button.h"
-#include "ppd_file.h"
-#include "stock_menu_button.h"
-#include "summary_view.h"
-
-#include <QPointer>
-#include <QWidget>
-
-class QLabel;
-class QPushButton;
 
 // The Paper/Output panel: paper, job type, sides, colour, finishing and where the
 // sheets come out.
 namespace kelvo {
 
 KELVO_PLUGIN_EXPORT OSStatus GetPaperOutputPanelInterface(PanelInterface **interface);
-
-// Null while the panel is closed.
-struct PaperOutputControls
-{
-    QPointer<PopupButton> jobType;           // KPDE 102
-    QPointer<QPushButton> jobTypeSetup;      // KPDE 103
-    QPointer<PictureView> jobTypeIcon;       // KPDE 104
-    QPointer<MenuButton> stockButton;        // KPDE 106
-    QPointer<SummaryView> stockSummary;      // KPDE 107
-    QPointer<PictureView> stockIcon;         // KPDE 108
-    QPointer<QPushButton> coversButton;      // KPDE 129
-    QPointer<QLabel> coversSummary;          // KPDE 1291
-    QPointer<QPushButton> separatorsButton;  // KPDE 130
-    QPointer<QLabel> separatorsSummary;      // KPDE 1301
-    QPointer<PopupButton> twoSided;          // KPDE 110
-    QPointer<PictureView> twoSidedIcon;      // KPDE 111
-    QPointer<PopupButton> stapling;          // KPDE 113
-    QPointer<PictureView> staplingIcon;      // KPDE 114
-    QPointer<PopupButton> holePunch;         // KPDE 116
-    QPointer<PictureView> holePunchIcon;     // KPDE 117
-    QPointer<PopupButton> outputColor;       // KPDE 119
-    QPointer<PictureView> outputColorIcon;   // KPDE 120
-    QPointer<MenuButton> finishingButton;    // KPDE 123
-    QPointer<PictureView> finishingIcon;     // KPDE 124
-    QPointer<SummaryView> finishingSummary;  // KPDE 127
-    QPointer<MenuButton> moreFinishing;      // KPDE 128
-    QPointer<QLabel> moreFinishingSummary;   // KPDE 1281
-    QPointer<PopupButton> outputDestination; // KPDE 126
-};
-
-struct PaperOutputPanelContext : _PaperOutputContext
-{
-    QPointer<QWidget> parentUserPane;
-    PMPrintSession session = nullptr;
-    PpdFile *ppd = nullptr;    // the current one, from Initialize on
-    QPointer<QWidget> content; // the panel's own views, from Open to Close
-    PaperOutputControls controls;
-    _StockMenuCommandEventHandlerData stockButtonData;
-    EventHandlerRef handler;
-};
-
-// The set-up button is enabled for the job types that have a set-up.
-void EnableDisableJobTypeSetupButton(const PaperOutputPanelContext &context);
 
 } // namespace kelvo

@@ -1,0 +1,190 @@
+#include "paper_output_events.h"
+
+#include "booklet_dialog.h"
+#include "covers_dialog.h"
+#include "delayed_print_dialog.h"
+#include "finishing_dialogs.h"
+#include "lan_fax_setup.h"
+#include "popups.h"
+#include "saved_job_dialog.h"
+#include "secure_print_dialog.h"
+#include "separators_dialog.h"
+
+#include <QPushButton>
+
+namespace kelvo {
+
+namespace {
+
+void runJobTypeSetup(PaperOutputPanelContext &panel)
+{
+    switch (panel.jobType) {
+    case kJobTypeSaved: {
+        SavedJobData data{panel.savedJob, panel.passcode, panel.documentName};
+        if (RunModalSavedJobDialog(panel.bundle, &data, panel.content) == noErr) {
+            panel.savedJob = data.job;
+            panel.passcode = data.passcode;
+        }
+        break;
+    }
+    case kJobTypeFax:
+        runFaxSetup(panel);
+        break;
+    case kJobTypeSecurePrint:
+        RunModalSecurePrintSetup(panel.bundle, &panel.passcode, panel.content);
+        break;
+    case kJobTypeDelayedPrint:
+        RunModalDelayedPrintSetup(panel.bundle, &panel.delayedPrintTime, panel.content);
+        break;
+    default: // the button of some job types is enabled and opens nothing
+        break;
+    }
+}
+
+void chooseJobType(PaperOutputPanelContext &panel)
+{
+    panel.jobType = GetPopupButtonTicketValue(panel.controls.jobType);
+    // A code that nobody will be asked for would only keep the job from queues that
+    // hold no secrets.
+    if (panel.jobType != kJobTypeSecurePrint && panel.jobType != kJobTypeSaved)
+        panel.passcode.reset();
+    showJobType(panel);
+    // A job type that needs a set-up asks for it at once.
+    if (panel.controls.jobTypeSetup && panel.controls.jobTypeSetup->isEnabled())
+        panel.controls.jobTypeSetup->click();
+}
+
+void createBooklet(PaperOutputPanelContext &panel)
+{
+    BookletLayout &layout = panel.bookletLayout;
+    _BookletCreationParams params{panel.bundle,       panel.finishing.fold, panel.booklet,
+                                  layout.pageBorders, layout.newSize,       layout.gutter,
+                                  layout.creep};
+    if (RunModalBookletCreationDialog(&params, panel.content) != noErr)
+        return;
+    panel.finishing.fold = params.fold;
+    panel.booklet = params.booklet;
+    layout = {params.pageBorders, params.gutter, params.creep, params.newSize};
+    if (panel.isBooklet())
+        panel.duplex = kPlexDuplexShort;
+}
+
+void editCovers(PaperOutputPanelContext &panel)
+{
+    DialogResult outcome = DialogResult::Cancel;
+    const bool hasCovers = panel.frontCover || panel.backCover;
+    RunModalCoversDialog(panel.bundle, hasCovers ? kDialogModeEdit : kDialogModeAdd,
+                         &panel.jobStock, &panel.frontCover, &panel.backCover, &outcome,
+                         panel.content);
+    showCovers(panel);
+}
+
+void editSeparators(PaperOutputPanelContext &panel)
+{
+    DialogResult result = DialogResult::Cancel;
+    RunModalSeparatorsDialog(panel.bundle, &panel.separators, &panel.separatorStock, &result,
+                             panel.content);
+    showStockAndSeparators(panel);
+}
+
+using FinishingDialog = OSStatus (*)(CFBundleRef, _PaperOutputContext *, DialogResult *, QWidget *);
+FinishingDialog findFinishingDialog(OSType command)
+{
+    switch (command) {
+    case kCommandSingleStapleDialog:
+        return RunModal1StapleFinishingDialog;
+    case kCommandDualStapleDialog:
+        return RunModal2StaplesFinishingDialog;
+    case kCommandHolePunchDialog:
+        return RunModalHolePunchFinishingDialog;
+    case kCommandFoldDialog:
+        return RunModalFoldFinishingDialog;
+    case kCommandAdvancedFoldDialog:
+        return RunModalAdvancedFoldFinishingDialog;
+    case kCommandZFoldDialog:
+        return RunModalZFoldFinishingDialog;
+    case kCommandBindDialog:
+        return RunModalBindFinishingDialog;
+    case kCommandOffsetDialog:
+        return RunModalOffsetFinishingDialog;
+    case kCommandCustomFinishingDialog:
+        return RunModalCustomFinishingDialog;
+    default:
+        return nullptr;
+    }
+}
+
+OSStatus takeCommand(PaperOutputPanelContext &panel, OSType command, std::int32_t value)
+{
+    DialogResult result = DialogResult::Cancel;
+    if (command == kCommandCovers) {
+        editCovers(panel);
+    } else if (command == kCommandSeparators) {
+        editSeparators(panel);
+    } else if (command == kCommandBookletCreation) {
+        createBooklet(panel);
+    } else if (const FinishingDialog runModal = findFinishingDialog(command)) {
+        runModal(panel.bundle, &panel, &result, panel.content);
+    } else if (!applyFinishingCommand(panel, command, value)) {
+        return eventNotHandledErr;
+    }
+    showTwoSided(panel);
+    showFinishing(panel);
+    return noErr;
+}
+
+OSStatus takeHit(PaperOutputPanelContext &panel, std::int32_t control)
+{
+    const PaperOutputControls &controls = panel.controls;
+    switch (control) {
+    case kJobTypePopup:
+        chooseJobType(panel);
+        return noErr;
+    case kJobTypeSetupButton:
+        runJobTypeSetup(panel);
+        return noErr;
+    case kTwoSidedPopup:
+        panel.duplex = GetPopupButtonTicketValue(controls.twoSided);
+        showTwoSided(panel);
+        return noErr;
+    case kStaplingPopup:
+        setStaple(panel.finishing, GetPopupButtonTicketValue(controls.stapling));
+        showFinishing(panel);
+        return noErr;
+    case kHolePunchPopup:
+        panel.finishing.punch = GetPopupButtonTicketValue(controls.holePunch);
+        showFinishing(panel);
+        return noErr;
+    case kOutputColorPopup:
+        panel.colorMode = GetPopupButtonTicketValue(controls.outputColor);
+        showOutputColor(panel);
+        return noErr;
+    case kOutputDestinationPopup:
+        panel.outputBin = GetPopupButtonTicketValue(controls.outputDestination);
+        return noErr;
+    default:
+        return eventNotHandledErr;
+    }
+}
+
+} // namespace
+
+OSStatus PaperOutputEventHandler(PaperOutputPanelContext &panel, const Event &event)
+{
+    if (event.kind == EventKind::Command)
+        return takeCommand(panel, event.command, event.reference);
+    if (event.kind == EventKind::ControlHit && event.control.signature == kPanelSignature)
+        return takeHit(panel, event.control.number);
+    return eventNotHandledErr;
+}
+
+void runFaxSetup(PaperOutputPanelContext &panel)
+{
+    if (!panel.faxOptions)
+        panel.faxOptions = Dictionary();
+    if (!panel.faxRecipients)
+        panel.faxRecipients = Array();
+    RunModalLANFaxSetup(panel.bundle, &*panel.faxOptions, &*panel.faxRecipients, panel.content);
+}
+
+} // namespace kelvo

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "paper_output_view.h"
+
+// What the user does on the Paper/Output panel.
+namespace kelvo {
+
+// Takes the hits and commands of the panel's controls; eventNotHandledErr for any
+// other event.
+OSStatus PaperOutputEventHandler(PaperOutputPanelContext &panel, const Event &event);
+
+// The LAN fax set-up, on fax settings that are made where there are none.
+void runFaxSetup(PaperOutputPanelContext &panel);
+
+} // namespace kelvo

@@ -1,0 +1,227 @@
+#include "paper_output_view.h"
+
+#include "bundle_picture.h"
+#include "finishing_dialogs.h"
+#include "finishing_ticket.h"
+#include "hint_text.h"
+#include "installed_features.h"
+#include "job_type_setup.h"
+#include "output_destinations.h"
+#include "paper_output_pictures.h"
+#include "popups.h"
+#include "separators.h"
+#include "setting_maps.h"
+#include "ticket_values.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace kelvo {
+
+namespace {
+
+bool hasOption(const PaperOutputPanelContext &panel, const char *option)
+{
+    return panel.ppd && panel.ppd->findOption(QString::fromLatin1(option));
+}
+
+// A value that the device does not offer shows nothing, and stays.
+void showValue(PopupButton *popup, std::int32_t value)
+{
+    if (popup && !SetPopupButtonToTicketValue(popup, value))
+        popup->setValue(0);
+}
+
+// Covers travel as their paper source. No cover at all is in order.
+bool reachesDevice(const Cover *cover)
+{
+    return !cover
+        || PPDChoiceForTicketValue(QStringLiteral("KVFrontCoverSheet"), cover->stock().source());
+}
+
+const char *coversKey(const Cover *front, const Cover *back)
+{
+    if (!reachesDevice(front) || !reachesDevice(back))
+        return "Cover Without Source";
+    if (front)
+        return back ? "Front and Back Covers" : "Front Cover Only";
+    return back ? "Back Cover Only" : "No Covers";
+}
+
+// What the summary has no line for.
+void showMoreFinishing(const PaperOutputPanelContext &panel)
+{
+    QStringList names;
+    for (const MenuItem &item : panel.controls.moreFinishing->menu().items) {
+        if (item.checked
+            && (item.command == kCommandBindDialog || item.command == kCommandOffsetDialog
+                || item.command == kCommandCustomFinishingDialog))
+            names << QString(item.text).remove(QStringLiteral("…"));
+    }
+    panel.controls.moreFinishingSummary->setText(names.join(QStringLiteral(", ")));
+}
+
+// A pop-up of the PPD's choices; disabled where the device has none of them.
+void fillFromPpd(PopupButton *popup, const PaperOutputPanelContext &panel, const char *option,
+                 bool honourConstraints, const QStringList &readByName = {})
+{
+    if (!popup)
+        return;
+    const int count = hasOption(panel, option)
+        ? PPDPopulatePopupWithChoices(popup, panel.ppd, QString::fromLatin1(option),
+                                      honourConstraints, readByName)
+        : 0;
+    setEnabledWithLabel(popup, count > 0);
+}
+
+} // namespace
+
+PaperOutputControls findPaperOutputControls(const QWidget *content)
+{
+    const auto id = [](std::int32_t number) { return ControlID{kPanelSignature, number}; };
+    return {
+        .jobType = findControl<PopupButton>(content, id(kJobTypePopup)),
+        .jobTypeSetup = findControl<QPushButton>(content, id(kJobTypeSetupButton)),
+        .jobTypeIcon = findControl<PictureView>(content, id(104)),
+        .stockButton = findControl<MenuButton>(content, id(106)),
+        .stockSummary = findControl<SummaryView>(content, id(107)),
+        .stockIcon = findControl<PictureView>(content, id(108)),
+        .coversButton = findControl<QPushButton>(content, id(129)),
+        .coversSummary = findControl<QLabel>(content, id(1291)),
+        .separatorsButton = findControl<QPushButton>(content, id(130)),
+        .separatorsSummary = findControl<QLabel>(content, id(1301)),
+        .twoSided = findControl<PopupButton>(content, id(kTwoSidedPopup)),
+        .twoSidedIcon = findControl<PictureView>(content, id(111)),
+        .stapling = findControl<PopupButton>(content, id(kStaplingPopup)),
+        .staplingIcon = findControl<PictureView>(content, id(114)),
+        .holePunch = findControl<PopupButton>(content, id(kHolePunchPopup)),
+        .holePunchIcon = findControl<PictureView>(content, id(117)),
+        .outputColor = findControl<PopupButton>(content, id(kOutputColorPopup)),
+        .outputColorIcon = findControl<PictureView>(content, id(120)),
+        .finishingButton = findControl<MenuButton>(content, id(123)),
+        .finishingIcon = findControl<PictureView>(content, id(124)),
+        .finishingSummary = findControl<SummaryView>(content, id(127)),
+        .moreFinishing = findControl<MenuButton>(content, id(128)),
+        .moreFinishingSummary = findControl<QLabel>(content, id(1281)),
+        .outputDestination = findControl<PopupButton>(content, id(kOutputDestinationPopup)),
+    };
+}
+
+void fillPaperOutputControls(PaperOutputPanelContext &panel)
+{
+    const PaperOutputControls &controls = panel.controls;
+    PopulatePopupButtonFromMap(panel.bundle, controls.jobType, JobTypeMap, kJobContextJob,
+                               kNoCommand);
+    PopulatePopupButtonFromMap(panel.bundle, controls.twoSided, PlexMap, kJobContextJob,
+                               kNoCommand);
+    // What is not installed clashes with the device's defaults, and is left out.
+    fillFromPpd(controls.stapling, panel, "StapleLocation", true, stapleChoicesWithoutValue());
+    fillFromPpd(controls.holePunch, panel, "KVPunch", true, punchChoicesWithoutValue());
+    fillFromPpd(controls.outputColor, panel, "KVColorMode", false);
+    if (controls.outputDestination) {
+        Menu destinations;
+        PopulateOutputDestination(destinations, panel.ppd);
+        setEnabledWithLabel(controls.outputDestination, !destinations.items.empty());
+        controls.outputDestination->setMenu(std::move(destinations));
+    }
+    Menu finishing;
+    PopulateFinishingMenu(finishing, panel.bundle);
+    controls.finishingButton->setMenu(std::move(finishing));
+    Menu more;
+    PopulateMoreFinishingMenu(more, panel.bundle);
+    controls.moreFinishing->setMenu(std::move(more));
+    controls.coversButton->setEnabled(hasOption(panel, "KVFrontCoverSheet"));
+    controls.separatorsButton->setEnabled(hasOption(panel, "KVSlipSheetPrint"));
+    makeHintText(controls.coversSummary);
+    makeHintText(controls.separatorsSummary);
+    makeHintText(controls.moreFinishingSummary);
+}
+
+void showJobType(const PaperOutputPanelContext &panel)
+{
+    showValue(panel.controls.jobType, panel.jobType);
+    EnableDisableJobTypeSetupButton(panel);
+    showBundlePicture(panel.controls.jobTypeIcon, panel.bundle, jobTypePicture(panel.jobType));
+}
+
+void showStockAndSeparators(const PaperOutputPanelContext &panel)
+{
+    const PaperOutputControls &controls = panel.controls;
+    if (!controls.stockSummary)
+        return;
+    ShowStockSummary(panel.bundle, controls.stockSummary, &panel.jobStock, kJobContextJob);
+    const QString line = separatorSummary(panel.bundle, panel.separators, panel.separatorStock);
+    if (panel.jobStock.type() == kStockTypeTransparency && !line.isEmpty())
+        UpdateSummaryTextView(
+            controls.stockSummary,
+            QStringLiteral("%1\n%2").arg(controls.stockSummary->toPlainText(), line));
+    const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, panel.separators);
+    controls.separatorsSummary->setText(key ? localizedText(panel.bundle, QString::fromLatin1(key))
+                                            : QString());
+}
+
+void showCovers(const PaperOutputPanelContext &panel)
+{
+    if (!panel.controls.coversSummary)
+        return;
+    const char *key = coversKey(panel.frontCover.get(), panel.backCover.get());
+    panel.controls.coversSummary->setText(localizedText(panel.bundle, QString::fromLatin1(key)));
+}
+
+void showTwoSided(const PaperOutputPanelContext &panel)
+{
+    PopupButton *popup = panel.controls.twoSided;
+    showValue(popup, panel.isBooklet() ? kPlexDuplex : panel.duplex);
+    if (popup)
+        setEnabledWithLabel(popup, !panel.isBooklet() && hasOption(panel, "Duplex"));
+    showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel));
+}
+
+void showFinishing(const PaperOutputPanelContext &panel)
+{
+    const PaperOutputControls &controls = panel.controls;
+    if (!controls.finishingSummary)
+        return;
+    MarkFinishingMenu(controls.finishingButton->menu(), panel);
+    MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel);
+    showMoreFinishing(panel);
+    QString summary = CreateFinishingString(panel).trimmed();
+    if (summary.isEmpty() && !getInstalledFeature("BookletFoldKey")
+        && !getInstalledFeature("TapeBindKey"))
+        summary = localizedText(panel.bundle, QStringLiteral("No Finishing Devices"));
+    UpdateSummaryTextView(controls.finishingSummary, summary);
+    showValue(controls.stapling, chosenStaple(panel.finishing));
+    showValue(controls.holePunch, panel.finishing.punch);
+    showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel));
+    showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.finishing));
+    showBundlePicture(controls.holePunchIcon, panel.bundle, punchPicture(panel.finishing.punch));
+}
+
+void showOutputColor(const PaperOutputPanelContext &panel)
+{
+    showValue(panel.controls.outputColor, panel.colorMode);
+    showBundlePicture(panel.controls.outputColorIcon, panel.bundle,
+                      colorModePicture(panel.colorMode));
+}
+
+void showPaperOutput(const PaperOutputPanelContext &panel)
+{
+    if (!panel.opened)
+        return;
+    StockIconEventHandler(panel.stockButtonData);
+    showStockAndSeparators(panel);
+    showValue(panel.controls.outputDestination, panel.outputBin);
+    showOutputColor(panel);
+    showJobType(panel);
+    showTwoSided(panel);
+    showFinishing(panel);
+    showCovers(panel);
+}
+
+void EnableDisableJobTypeSetupButton(const PaperOutputPanelContext &panel)
+{
+    if (panel.controls.jobTypeSetup)
+        panel.controls.jobTypeSetup->setEnabled(hasJobTypeSetup(panel.jobType));
+}
+
+} // namespace kelvo
