@@ -62,11 +62,14 @@ void createBooklet(PaperOutputPanelContext &panel)
                                   layout.creep};
     if (RunModalBookletCreationDialog(&params, panel.content) != noErr)
         return;
+    const bool wasBooklet = panel.isBooklet();
     panel.finishing.fold = params.fold;
     panel.booklet = params.booklet;
     layout = {params.pageBorders, params.gutter, params.creep, params.newSize};
     if (panel.isBooklet())
         panel.duplex = kPlexDuplexShort;
+    else if (wasBooklet)
+        UnselectBooklet(panel);
 }
 
 void editCovers(PaperOutputPanelContext &panel)
