@@ -206,25 +206,19 @@ bool applyFinishingCommand(_PaperOutputContext &context, OSType command, std::in
     case kCommandSingleStaple:
         leaveBooklet(context);
         finishing.options = kFinishingSingleStaple;
-        finishing.singleStaple = value;
-        finishing.dualStaple = kStapleNone;
-        finishing.otherStaple = kStapleNone;
+        setStaple(finishing, value);
         finishing.fold = kFoldNone;
         return true;
     case kCommandDualStaple:
         leaveBooklet(context);
         finishing.options = kFinishingDualStaple;
-        finishing.singleStaple = kStapleNone;
-        finishing.dualStaple = value;
-        finishing.otherStaple = kStapleNone;
+        setStaple(finishing, value);
         finishing.fold = kFoldNone;
         return true;
     case kCommandMultipleStaples:
         leaveBooklet(context);
         finishing.options = kFinishingMultipleStaples;
-        finishing.singleStaple = kStapleNone;
-        finishing.dualStaple = kStapleNone;
-        finishing.otherStaple = kStapleMultiple;
+        setStaple(finishing, kStapleMultiple);
         finishing.fold = kFoldNone;
         finishing.punchKind = kPunchKindNone;
         finishing.punch = kPunchNone;
