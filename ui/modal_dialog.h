@@ -15,6 +15,8 @@ namespace kelvo {
 inline constexpr OSType kCommandOK = fourCharCode("ok  ");
 inline constexpr OSType kCommandCancel = fourCharCode("not!");
 inline constexpr OSType kCommandHelp = fourCharCode("Khlp");
+inline constexpr OSType kCommandRevert =
+    fourCharCode("rvrt"); // to its defaults; each takes it itself
 
 // A modal dialog around a loaded window. A button's command is its dynamic
 // property "command" ("ok  "). The OK button becomes the default one, which

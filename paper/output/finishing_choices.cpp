@@ -95,8 +95,7 @@ std::int32_t currentValue(Setting setting, const Finishing &finishing)
 bool isInPpd(Setting setting, std::int32_t value, const PpdFile *ppd)
 {
     const auto hasChoice = [value, ppd](const QString &option) {
-        const auto choice = PPDChoiceForTicketValue(option, value);
-        return choice && PPDCopyChoiceText(ppd, option, *choice);
+        return PPDCopyTextForTicketValue(ppd, option, value).has_value();
     };
     switch (setting) {
     case Setting::Staple:

@@ -24,16 +24,17 @@ QString withoutMnemonic(QString label)
     return label.remove(u'&');
 }
 
-QString choiceText(const PpdFile *ppd, const char *option, const std::optional<QString> &choice)
-{
-    if (!choice)
-        return {};
-    return PPDCopyChoiceText(ppd, QString::fromLatin1(option), *choice).value_or(QString());
-}
-
 QString valueText(const PpdFile *ppd, const char *option, std::int32_t value)
 {
-    return choiceText(ppd, option, PPDChoiceForTicketValue(QString::fromLatin1(option), value));
+    return PPDCopyTextForTicketValue(ppd, QString::fromLatin1(option), value).value_or(QString());
+}
+
+// As the ticket says it, which depends on how the pages lie.
+QString stapleText(const _PaperOutputContext &context, const PpdFile *ppd)
+{
+    const auto choice = stapleChoice(chosenStaple(context.finishing), context.orientation);
+    return PPDCopyChoiceText(ppd, QStringLiteral("StapleLocation"), choice.value_or(QString()))
+        .value_or(QString());
 }
 
 } // namespace
@@ -54,9 +55,7 @@ std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, 
             mapText(bundle, PlexMap, context.isBooklet() ? kPlexDuplex : context.duplex));
     add("Output Color:", valueText(ppd, "KVColorMode", context.colorMode));
     if (context.devices.stapler)
-        add("Stapling:",
-            choiceText(ppd, "StapleLocation",
-                       stapleChoice(chosenStaple(context.finishing), context.orientation)));
+        add("Stapling:", stapleText(context, ppd));
     if (context.devices.holePunch)
         add("Hole Punch:", valueText(ppd, "KVPunch", context.finishing.punch));
     add("Output Destination:", valueText(ppd, "OutputBin", context.outputBin));

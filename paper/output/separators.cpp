@@ -45,11 +45,9 @@ QString separatorSummary(CFBundleRef bundle, std::int32_t separators, const Stoc
 {
     if (separators != kSeparatorsBlank && separators != kSeparatorsPrinted)
         return QStringLiteral("");
-    const std::optional<QString> choice =
-        PPDChoiceForTicketValue(sourceOption, separatorStock.source());
-    const QString source = choice
-        ? PPDCopyChoiceText(PPDGetCurrent(), sourceOption, *choice).value_or(QString())
-        : QString();
+    const QString source =
+        PPDCopyTextForTicketValue(PPDGetCurrent(), sourceOption, separatorStock.source())
+            .value_or(QString());
     return QStringLiteral("- ") + localizedText(bundle, QStringLiteral("Separators"))
         + localizedText(bundle, QStringLiteral(":")) + source;
 }

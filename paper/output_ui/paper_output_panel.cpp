@@ -99,7 +99,6 @@ OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane 
     if (!panel || !session)
         return kPMInvalidPDEContext;
     panel->parentUserPane = parentUserPane;
-    panel->session = session;
     panel->ppd = PPDGetCurrent();
     PMTicketRef settings = 0;
     GetTicketFromSession(session, kPMPrintSettingsTicket, &settings);

@@ -61,7 +61,6 @@ struct PaperOutputControls
 struct PaperOutputPanelContext : _PaperOutputContext
 {
     QPointer<QWidget> parentUserPane;
-    PMPrintSession session = nullptr;
     PpdFile *ppd = nullptr;    // the current one, from Initialize on
     QPointer<QWidget> content; // the panel's own views, from Open to Close
     PaperOutputControls controls;

@@ -27,7 +27,6 @@ constexpr ControlID kColorHint{kPanelSignature, 8306};
 constexpr ControlID kRevert{kPanelSignature, 8307};
 
 constexpr OSType kCommandOption = fourCharCode("SepO");
-constexpr OSType kCommandRevert = fourCharCode("rvrt");
 
 struct SeparatorsDialog
 {

@@ -15,11 +15,8 @@ const QString bullet = QStringLiteral("- ");
 // The PPD's text of the choice with that value; empty when it has none.
 QString choiceText(const char *option, std::int32_t value)
 {
-    const QString keyword = QString::fromLatin1(option);
-    const std::optional<QString> choice = PPDChoiceForTicketValue(keyword, value);
-    if (!choice)
-        return {};
-    return PPDCopyChoiceText(PPDGetCurrent(), keyword, *choice).value_or(QString());
+    return PPDCopyTextForTicketValue(PPDGetCurrent(), QString::fromLatin1(option), value)
+        .value_or(QString());
 }
 
 QString labelled(CFBundleRef bundle, const char *labelKey, const QString &text)

@@ -26,8 +26,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr OSType kCommandRevert = fourCharCode("rvrt");
-
 constexpr ControlID kIcon{kPanelSignature, 7061};
 constexpr ControlID kSummary{kPanelSignature, 7062};
 constexpr ControlID kLibraryPopup{kPanelSignature, 7063};
@@ -63,9 +61,7 @@ QString sizeText(CFBundleRef bundle, JobContext jobContext, const Stock &stock)
         return notSetText(bundle, jobContext);
     if (stock.size() == kStockSizeCustom && stock.width() != kUnset && stock.length() != kUnset)
         return customSizeText(bundle, stock);
-    const QString option = QStringLiteral("PageSize");
-    const std::optional<QString> choice = PPDChoiceForTicketValue(option, stock.size());
-    return PPDCopyChoiceText(PPDGetCurrent(), option, choice.value_or(QString()))
+    return PPDCopyTextForTicketValue(PPDGetCurrent(), QStringLiteral("PageSize"), stock.size())
         .value_or(localizedText(bundle, QStringLiteral("StockSizeUnknown")));
 }
 

@@ -146,6 +146,13 @@ std::optional<QString> PPDChoiceForTicketValue(const QString &keyword, std::int3
     return std::nullopt;
 }
 
+std::optional<QString> PPDCopyTextForTicketValue(const PpdFile *ppd, const QString &keyword,
+                                                 std::int32_t value)
+{
+    const std::optional<QString> choice = PPDChoiceForTicketValue(keyword, value);
+    return choice ? PPDCopyChoiceText(ppd, keyword, *choice) : std::nullopt;
+}
+
 void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
                                          const QString &keyword, std::int32_t *out)
 {

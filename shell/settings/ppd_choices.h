@@ -46,6 +46,9 @@ void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
 // Through MainKeywordMap: -1 and none for what it does not have.
 std::int32_t PPDTicketValueForChoice(const QString &keyword, const QString &choice);
 std::optional<QString> PPDChoiceForTicketValue(const QString &keyword, std::int32_t value);
+// The PPD's text of that choice; none when the map or the PPD does not have it.
+std::optional<QString> PPDCopyTextForTicketValue(const PpdFile *ppd, const QString &keyword,
+                                                 std::int32_t value);
 
 // The value of the ticket's choice, or of the PPD's default when the ticket has
 // none; -1 for a choice that the map does not have. `out` is left alone when

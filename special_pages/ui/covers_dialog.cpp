@@ -26,7 +26,6 @@ namespace {
 constexpr OSType kCommandCoverOptions = fourCharCode("Copt");
 constexpr OSType kCommandFrontSides = fourCharCode("Cfpo");
 constexpr OSType kCommandBackSides = fourCharCode("Cbpo");
-constexpr OSType kCommandRevert = fourCharCode("rvrt");
 
 constexpr ControlID kPicture{kPanelSignature, 8600};
 constexpr ControlID kOptions{kPanelSignature, 8601};
