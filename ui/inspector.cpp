@@ -509,9 +509,7 @@ Done set(QWidget *control, int value)
         if (value < slider->minimum() || value > slider->maximum())
             return outside(slider->minimum(), slider->maximum());
         slider->setFocus();
-        slider->setValue(value);
-        emit slider->sliderMoved(value);
-        slider->triggerAction(QAbstractSlider::SliderMove);
+        slider->setSliderPosition(value); // as dragging does: an action, then the value
     } else if (auto *radios = qobject_cast<RadioGroup *>(control)) {
         if (!radios->choose(value))
             return notOffered(
