@@ -18,12 +18,6 @@ QString mapText(CFBundleRef bundle, const SettingMap *map, std::int32_t value)
     return key ? localizedText(bundle, QString::fromLatin1(key)) : QString();
 }
 
-// "&Job type:" without what the keyboard needs.
-QString withoutMnemonic(QString label)
-{
-    return label.remove(u'&');
-}
-
 QString valueText(const PpdFile *ppd, const char *option, std::int32_t value)
 {
     return PPDCopyTextForTicketValue(ppd, QString::fromLatin1(option), value).value_or(QString());
@@ -43,10 +37,8 @@ std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, 
 {
     const CFBundleRef bundle = context.bundle;
     std::vector<SummaryLine> lines;
-    const auto add = [&](const char *titleKey, const QString &text) {
-        if (!text.isEmpty())
-            lines.push_back(
-                {withoutMnemonic(localizedText(bundle, QString::fromLatin1(titleKey))), text});
+    const auto add = [&](const char *labelKey, const QString &text) {
+        addSummaryLine(lines, bundle, labelKey, text);
     };
     add("Job Type:", mapText(bundle, JobTypeMap, context.jobType));
     add("Paper Summary:", stockSummaryText(bundle, kJobContextJob, &context.jobStock));

@@ -1,20 +1,13 @@
 #pragma once
 
+#include "panel_summary.h"
 #include "paper_output_context.h"
-
-#include <QString>
 
 #include <vector>
 
 namespace kelvo {
 
 class PpdFile;
-
-struct SummaryLine
-{
-    QString title; // "Job Type:"
-    QString text;
-};
 
 // What the panel has chosen, in words: job type, paper, sides, colour, stapling,
 // hole punch and output destination. A line whose setting the device does not

@@ -113,14 +113,7 @@ OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray
     const PaperOutputPanelContext *panel = panelOf(context);
     if (!panel || !titles || !texts)
         return kPMInvalidPDEContext;
-    if (!*titles)
-        titles->emplace();
-    if (!*texts)
-        texts->emplace();
-    for (const SummaryLine &line : paperOutputSummary(*panel, panel->ppd)) {
-        (*titles)->append(line.title);
-        (*texts)->append(line.text);
-    }
+    appendSummary(paperOutputSummary(*panel, panel->ppd), titles, texts);
     return noErr;
 }
 

@@ -25,13 +25,6 @@ bool hasOption(const PaperOutputPanelContext &panel, const char *option)
     return panel.ppd && panel.ppd->findOption(QString::fromLatin1(option));
 }
 
-// A value that the device does not offer shows nothing, and stays.
-void showValue(PopupButton *popup, std::int32_t value)
-{
-    if (popup && !SetPopupButtonToTicketValue(popup, value))
-        popup->setValue(0);
-}
-
 // Covers travel as their paper source. No cover at all is in order.
 bool reachesDevice(const Cover *cover)
 {
@@ -139,7 +132,7 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
 
 void showJobType(const PaperOutputPanelContext &panel)
 {
-    showValue(panel.controls.jobType, panel.jobType);
+    showTicketValue(panel.controls.jobType, panel.jobType);
     EnableDisableJobTypeSetupButton(panel);
     showBundlePicture(panel.controls.jobTypeIcon, panel.bundle, jobTypePicture(panel.jobType));
 }
@@ -171,7 +164,7 @@ void showCovers(const PaperOutputPanelContext &panel)
 void showTwoSided(const PaperOutputPanelContext &panel)
 {
     PopupButton *popup = panel.controls.twoSided;
-    showValue(popup, panel.isBooklet() ? kPlexDuplex : panel.duplex);
+    showTicketValue(popup, panel.isBooklet() ? kPlexDuplex : panel.duplex);
     if (popup)
         setEnabledWithLabel(popup, !panel.isBooklet() && hasOption(panel, "Duplex"));
     showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel));
@@ -190,8 +183,8 @@ void showFinishing(const PaperOutputPanelContext &panel)
         && !getInstalledFeature("TapeBindKey"))
         summary = localizedText(panel.bundle, QStringLiteral("No Finishing Devices"));
     UpdateSummaryTextView(controls.finishingSummary, summary);
-    showValue(controls.stapling, chosenStaple(panel.finishing));
-    showValue(controls.holePunch, panel.finishing.punch);
+    showTicketValue(controls.stapling, chosenStaple(panel.finishing));
+    showTicketValue(controls.holePunch, panel.finishing.punch);
     showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel));
     showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.finishing));
     showBundlePicture(controls.holePunchIcon, panel.bundle, punchPicture(panel.finishing.punch));
@@ -199,7 +192,7 @@ void showFinishing(const PaperOutputPanelContext &panel)
 
 void showOutputColor(const PaperOutputPanelContext &panel)
 {
-    showValue(panel.controls.outputColor, panel.colorMode);
+    showTicketValue(panel.controls.outputColor, panel.colorMode);
     showBundlePicture(panel.controls.outputColorIcon, panel.bundle,
                       colorModePicture(panel.colorMode));
 }
@@ -210,7 +203,7 @@ void showPaperOutput(const PaperOutputPanelContext &panel)
         return;
     StockIconEventHandler(panel.stockButtonData);
     showStockAndSeparators(panel);
-    showValue(panel.controls.outputDestination, panel.outputBin);
+    showTicketValue(panel.controls.outputDestination, panel.outputBin);
     showOutputColor(panel);
     showJobType(panel);
     showTwoSided(panel);

@@ -66,6 +66,12 @@ bool SetPopupButtonToTicketValue(PopupButton *popup, std::int32_t value)
     return popup && popup->setValueByReference(value);
 }
 
+void showTicketValue(PopupButton *popup, std::int32_t value)
+{
+    if (popup && !SetPopupButtonToTicketValue(popup, value))
+        popup->setValue(0);
+}
+
 std::int32_t GetPopupButtonTicketValue(const PopupButton *popup)
 {
     return popup ? popup->chosenReference() : kUnset;

@@ -27,6 +27,9 @@ std::int16_t PopulatePopupButtonFromMapAndHistory(CFBundleRef bundle, PopupButto
                                                   OSType historyCommand, OSType commandOverride);
 // Shows the first item with that value; false, and unchanged, when there is none.
 bool SetPopupButtonToTicketValue(PopupButton *popup, std::int32_t value);
+// The same, but a value that no item has shows nothing: for choices that this
+// device does not offer. Nothing happens for null.
+void showTicketValue(PopupButton *popup, std::int32_t value);
 std::int32_t GetPopupButtonTicketValue(const PopupButton *popup); // kUnset for null
 
 // PPDPopulateMenuWithChoices into a pop-up; the count becomes its maximum.
