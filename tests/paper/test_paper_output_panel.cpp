@@ -319,7 +319,7 @@ void TestPaperOutputPanel::summarizesForTheDialog()
              QStringLiteral("Job type:|Paper:|Two-sided printing:|Output color:|Stapling:|"
                             "Hole punch:|Output destination:"));
     QCOMPARE(texts->join(u'|'),
-             QStringLiteral("Normal print|- White\n- Plain|1-sided print|Color|No Staple|"
+             QStringLiteral("Normal|- White\n- Plain|1-sided print|Color|No Staple|"
                             "No Hole Punch|Automatic"));
     QCOMPARE(operations.value().Terminate(context, noErr), noErr);
 }

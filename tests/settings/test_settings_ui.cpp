@@ -237,8 +237,8 @@ void TestSettingsUi::comboBoxesListMapAndValidHistory()
     options.map = JobTypeMap; // gated rows too
     QCOMPARE(KComboBoxInitializeWithMapAndHistory(&field, options), noErr);
     QCOMPARE(field.items(),
-             QStringList({"Normal print", "Secure print", "Sample set", "Delayed print",
-                          "Saved job", "Fax", "Report", "Plan"}));
+             QStringList({"Normal", "Secure print", "Sample set", "Delayed print", "Saved job",
+                          "Fax", "Report", "Plan"}));
     KComboBoxFinalize(&field, true); // no text
     QCOMPARE(readHistory(key), QStringList({"Report", "x", "Plan"}));
 

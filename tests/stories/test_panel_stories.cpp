@@ -8,8 +8,8 @@
 
 using namespace kelvo;
 
-// What people do on the Paper/Output tab, from the window to the job.
-class TestPaperStories : public QObject
+// What people do on the device's tabs, from the window to the job.
+class TestPanelStories : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ QString ppd(const QString &device)
 
 } // namespace
 
-void TestPaperStories::keepsASecurePrintsCodeInTheTicketAlone()
+void TestPanelStories::keepsASecurePrintsCodeInTheTicketAlone()
 {
     const Desk desk;
     const QString folder = desk.path("out");
@@ -59,7 +59,7 @@ void TestPaperStories::keepsASecurePrintsCodeInTheTicketAlone()
     QVERIFY(!run.out.contains("4815") && !run.err.contains("4815"));
 }
 
-void TestPaperStories::makesACodeWhereNoneIsGiven()
+void TestPanelStories::makesACodeWhereNoneIsGiven()
 {
     const Desk desk;
     const QString folder = desk.path("out");
@@ -71,7 +71,7 @@ void TestPaperStories::makesACodeWhereNoneIsGiven()
     QVERIFY2(fourDigits.match(made).hasMatch(), qPrintable(made));
 }
 
-void TestPaperStories::holdsBackASecurePrintWithoutCode()
+void TestPanelStories::holdsBackASecurePrintWithoutCode()
 {
     const Desk desk;
     const QString folder = desk.path("out");
@@ -81,7 +81,7 @@ void TestPaperStories::holdsBackASecurePrintWithoutCode()
     QVERIFY(!QFile::exists(folder));
 }
 
-void TestPaperStories::forgetsACodeThatNobodyWillBeAskedFor()
+void TestPanelStories::forgetsACodeThatNobodyWillBeAskedFor()
 {
     const Desk desk;
     write(desk.path("s.kps"),
@@ -94,7 +94,7 @@ void TestPaperStories::forgetsACodeThatNobodyWillBeAskedFor()
     QVERIFY(!jobType.contains("SecurePrintPassword"));
 }
 
-void TestPaperStories::waitsForTheNextTimeOfADelayedJob()
+void TestPanelStories::waitsForTheNextTimeOfADelayedJob()
 {
     const Desk desk;
     TicketFile old;
@@ -111,18 +111,27 @@ void TestPaperStories::waitsForTheNextTimeOfADelayedJob()
     QVERIFY(sent >= before && sent <= before + 2 * 86'400);
 }
 
-void TestPaperStories::carriesEverythingThroughATicket_data()
+void TestPanelStories::carriesEverythingThroughATicket_data()
 {
     QTest::addColumn<QString>("device");
-    for (const char *device : {"full", "mid", "bare"})
-        QTest::newRow(device) << QString::fromLatin1(device);
+    QTest::addColumn<QString>("name"); // of the scripts
+
+    QTest::newRow("paper, full") << "full"
+                                 << "paper-output";
+    QTest::newRow("paper, mid") << "mid"
+                                << "paper-output-mid";
+    QTest::newRow("paper, bare") << "bare"
+                                 << "paper-output-bare";
+    QTest::newRow("image, full") << "full"
+                                 << "image-options";
+    QTest::newRow("image, bare") << "bare"
+                                 << "image-options-bare";
 }
 
-void TestPaperStories::carriesEverythingThroughATicket()
+void TestPanelStories::carriesEverythingThroughATicket()
 {
     QFETCH(QString, device);
-    const QString name = device == QLatin1String("full") ? QStringLiteral("paper-output")
-                                                         : QStringLiteral("paper-output-") + device;
+    QFETCH(QString, name);
     const Desk desk;
     const QString first = desk.path("first"), second = desk.path("second");
     const QStringList arguments{"--ppd", ppd(device), "--no-window", documentPath};
@@ -142,7 +151,7 @@ void TestPaperStories::carriesEverythingThroughATicket()
     QCOMPARE(other, one);
 }
 
-void TestPaperStories::putsSeparatorsBetweenTransparencies()
+void TestPanelStories::putsSeparatorsBetweenTransparencies()
 {
     const Desk desk;
     const QString folder = desk.path("out");
@@ -158,7 +167,7 @@ void TestPaperStories::putsSeparatorsBetweenTransparencies()
         QCOMPARE(options.values(option), QStringList(choice));
 }
 
-void TestPaperStories::keepsItsSettingsWhileOthersChange()
+void TestPanelStories::keepsItsSettingsWhileOthersChange()
 {
     const Desk desk;
     const QString folder = desk.path("out");
@@ -168,7 +177,7 @@ void TestPaperStories::keepsItsSettingsWhileOthersChange()
     QCOMPARE(options.values("StapleLocation"), QStringList("None"));
 }
 
-void TestPaperStories::letsOptionsBeatATicket_data()
+void TestPanelStories::letsOptionsBeatATicket_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("duplex");
@@ -180,7 +189,7 @@ void TestPaperStories::letsOptionsBeatATicket_data()
     QTest::newRow("another option") << QStringList{"-o", "Jog=EndOfSet"} << "DuplexNoTumble";
 }
 
-void TestPaperStories::letsOptionsBeatATicket()
+void TestPanelStories::letsOptionsBeatATicket()
 {
     QFETCH(QStringList, options);
     QFETCH(QString, duplex);
@@ -196,5 +205,5 @@ void TestPaperStories::letsOptionsBeatATicket()
     QCOMPARE(optionsIn(folder + "/options").values("Duplex"), QStringList(duplex));
 }
 
-QTEST_GUILESS_MAIN(TestPaperStories)
-#include "test_paper_stories.moc"
+QTEST_GUILESS_MAIN(TestPanelStories)
+#include "test_panel_stories.moc"

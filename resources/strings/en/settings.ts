@@ -278,7 +278,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>Normal print</translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>SecurePrint</source>

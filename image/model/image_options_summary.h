@@ -1,0 +1,15 @@
+#pragma once
+
+#include "image_options_context.h"
+#include "panel_summary.h"
+
+namespace kelvo {
+
+// "Lighten 3", "Printer default"; in the words of the user's language.
+QString lightenDarkenText(CFBundleRef bundle, std::int32_t lightenDarken);
+
+// What the panel has chosen, in words. A line whose setting the device does not
+// have, or that has no words, is left out.
+std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsContext &context);
+
+} // namespace kelvo

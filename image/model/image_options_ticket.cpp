@@ -1,0 +1,123 @@
+#include "image_options_ticket.h"
+
+#include "ppd_choices.h"
+#include "setting_map.h"
+
+#include <span>
+
+namespace kelvo {
+
+namespace {
+
+struct Setting
+{
+    const char *option;
+    std::int32_t ImageOptionsContext::*value;
+};
+constexpr Setting lightenDarken[] = {{"KVImageQuality", &ImageOptionsContext::lightenDarken}};
+constexpr Setting tonerSaver[] = {{"KVEconomode", &ImageOptionsContext::tonerSaver}};
+constexpr Setting qualityAndColor[] = {
+    {"KVOutputMode", &ImageOptionsContext::imageQuality},
+    {"KVCMYKColorSpace", &ImageOptionsContext::cmykSourceColor},
+    {"KVColorCorrection", &ImageOptionsContext::outputColorCorrection},
+};
+
+OSStatus readSettings(ImageOptionsContext *context, PMTicketRef ticket,
+                      std::span<const Setting> settings)
+{
+    if (!context || !ticket)
+        return kPMInvalidParameter;
+    for (const Setting &setting : settings)
+        PPDGetTicketValueForChoiceOrDefault(
+            context->ppd, ticket, QString::fromLatin1(setting.option), &(context->*setting.value));
+    return noErr;
+}
+
+OSStatus writeSettings(const ImageOptionsContext *context, PMTicketRef ticket,
+                       std::span<const Setting> settings)
+{
+    if (!context || !ticket)
+        return kPMInvalidParameter;
+    for (const Setting &setting : settings) {
+        const QString option = QString::fromLatin1(setting.option);
+        if (!context->ppd || context->ppd->findOption(option))
+            PPDSetCurrentChoice(ticket, option,
+                                PPDChoiceForTicketValue(option, context->*setting.value));
+    }
+    return noErr;
+}
+
+// kUnset for a choice that no step stands for: its number is also that of a step.
+std::int32_t stepOf(const std::optional<QString> &choice)
+{
+    const QString option = QString::fromLatin1(lightenDarken->option);
+    const std::int32_t step = choice ? PPDTicketValueForChoice(option, *choice) : kUnset;
+    return PPDChoiceForTicketValue(option, step) == choice ? step : kUnset;
+}
+
+// What the ticket goes on saying while the printer's default is chosen.
+void noteKeptLightenDarken(ImageOptionsContext &context, PMTicketRef ticket)
+{
+    const QString option = QString::fromLatin1(lightenDarken->option);
+    const auto chosen = PPDCopyCurrentChoice(ticket, option);
+    const bool isDefault = chosen == PPDCopyDefaultChoice(context.ppd, option);
+    context.keptLightenDarken = isDefault ? kUnset : stepOf(chosen);
+}
+
+} // namespace
+
+OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket)
+{
+    if (!context || !ticket)
+        return kPMInvalidParameter;
+    const QString option = QString::fromLatin1(lightenDarken->option);
+    const auto chosen = PPDCopyCurrentChoice(ticket, option);
+    const auto choice = chosen ? chosen : PPDCopyDefaultChoice(context->ppd, option);
+    if (choice)
+        context->lightenDarken = stepOf(choice);
+    noteKeptLightenDarken(*context, ticket);
+    return noErr;
+}
+
+OSStatus SyncLightenDarkenToTicket(ImageOptionsContext *context, PMTicketRef ticket)
+{
+    if (!context || !ticket)
+        return kPMInvalidParameter;
+    if (!context->opened)
+        return noErr;
+    writeSettings(context, ticket, lightenDarken);
+    noteKeptLightenDarken(*context, ticket);
+    return noErr;
+}
+
+OSStatus SyncTonerSaverToUI(ImageOptionsContext *context, PMTicketRef ticket)
+{
+    return readSettings(context, ticket, tonerSaver);
+}
+
+OSStatus SyncTonerSaverToTicket(const ImageOptionsContext *context, PMTicketRef ticket)
+{
+    return writeSettings(context, ticket, tonerSaver);
+}
+
+OSStatus SyncQualityAndColorToUI(ImageOptionsContext *context, PMTicketRef ticket)
+{
+    return readSettings(context, ticket, qualityAndColor);
+}
+
+OSStatus SyncQualityAndColorToTicket(const ImageOptionsContext *context, PMTicketRef ticket)
+{
+    return writeSettings(context, ticket, qualityAndColor);
+}
+
+OSStatus SyncResolutionToUI(ImageOptionsContext *, PMTicketRef)
+{
+    return noErr;
+}
+
+OSStatus SyncResolutionToTicket(const ImageOptionsContext *, PMTicketRef)
+{
+    return noErr;
+}
+
+} // namespace kelvo

@@ -1,0 +1,225 @@
+#include "image_options_view.h"
+
+#include "bundle_picture.h"
+#include "hint_text.h"
+#include "image_options_pictures.h"
+#include "image_options_summary.h"
+#include "lighten_darken.h"
+#include "popups.h"
+#include "ppd_file.h"
+#include "string_table.h"
+#include "ticket_values.h"
+
+#include <array>
+
+namespace kelvo {
+
+namespace {
+
+// A pop-up that shows a PPD option's choices.
+struct PpdRow
+{
+    const char *option;
+    std::int32_t hintNumber; // KPDE, the text below the pop-up
+    std::int32_t ImageOptionsContext::*value;
+    QPointer<PopupButton> ImageOptionsControls::*popup;
+};
+constexpr PpdRow ppdRows[] = {
+    {"KVOutputMode", 1204, &ImageOptionsContext::imageQuality, &ImageOptionsControls::imageQuality},
+    {"KVCMYKColorSpace", 1904, &ImageOptionsContext::cmykSourceColor,
+     &ImageOptionsControls::cmykSourceColor},
+    {"KVColorCorrection", 2004, &ImageOptionsContext::outputColorCorrection,
+     &ImageOptionsControls::outputColorCorrection},
+};
+constexpr std::int32_t tonerSaverHint = 1304;
+
+// What goes with the value of lighten/darken: label, slider, picture, spin field
+// and the numbers below the slider.
+constexpr std::array lightenDarkenParts = {1101, 1102, 1103, 1104, 1106, 1107, 1108};
+
+ControlID panelID(std::int32_t number)
+{
+    return {kPanelSignature, number};
+}
+
+bool hasOption(const ImageOptionsPanelContext &panel, const char *option)
+{
+    return panel.ppd && panel.ppd->findOption(QString::fromLatin1(option));
+}
+
+void findControls(ImageOptionsPanelContext &panel)
+{
+    const QWidget *content = panel.content;
+    panel.controls = {
+        .lightenDarkenSlider = findControl<QSlider>(content, panelID(kLightenDarkenSlider)),
+        .lightenDarkenPicture = findControl<PictureView>(content, panelID(1103)),
+        .lightenDarken = findControl<SpinField>(content, panelID(kLightenDarkenField)),
+        .lightenDarkenWords = findControl<QLabel>(content, panelID(1105)),
+        .printerDefault = findControl<QCheckBox>(content, panelID(1109)),
+        .imageQuality = findControl<PopupButton>(content, panelID(1202)),
+        .imageQualityPicture = findControl<PictureView>(content, panelID(1203)),
+        .tonerSaver = findControl<QCheckBox>(content, panelID(1302)),
+        .tonerSaverPicture = findControl<PictureView>(content, panelID(1303)),
+        .cmykSourceColor = findControl<PopupButton>(content, panelID(1902)),
+        .cmykSourceColorPicture = findControl<PictureView>(content, panelID(1903)),
+        .outputColorCorrection = findControl<PopupButton>(content, panelID(2002)),
+        .outputColorCorrectionPicture = findControl<PictureView>(content, panelID(2003)),
+        .mirror = findControl<QCheckBox>(content, panelID(2103)),
+        .invertPicture = findControl<PictureView>(content, panelID(2104)),
+        .invertHint = findControl<QLabel>(content, panelID(2105)),
+    };
+}
+
+// Left in its place, so that users of several devices find it there.
+void disableMissing(const ImageOptionsPanelContext &panel, QWidget *control,
+                    std::int32_t hintNumber)
+{
+    setEnabledWithLabel(control, false);
+    if (auto *hint = findControl<QLabel>(panel.content, panelID(hintNumber)))
+        hint->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
+}
+
+void setUpLightenDarken(const ImageOptionsPanelContext &panel)
+{
+    const ImageOptionsControls &controls = panel.controls;
+    if (controls.lightenDarkenSlider)
+        controls.lightenDarkenSlider->setRange(kLightest, kDarkest);
+    if (controls.lightenDarken) {
+        controls.lightenDarken->setMinimum(kLightest);
+        controls.lightenDarken->setMaximum(kDarkest);
+    }
+    const std::pair<std::int32_t, QString> numbers[] = {
+        {1106, QString::asprintf("%+d", kLightest)},
+        {1107, QStringLiteral("0")},
+        {1108, QString::asprintf("%+d", kDarkest)},
+    };
+    for (const auto &[number, text] : numbers) {
+        if (auto *label = findControl<QLabel>(panel.content, panelID(number)))
+            label->setText(text);
+    }
+}
+
+QString lightenDarkenWords(const ImageOptionsPanelContext &panel)
+{
+    if (!hasOption(panel, "KVImageQuality"))
+        return localizedText(panel.bundle, QStringLiteral("Not on This Device"));
+    if (panel.lightenDarken != kUnset)
+        return lightenDarkenText(panel.bundle, panel.lightenDarken);
+    if (panel.keptLightenDarken == kUnset)
+        return localizedText(panel.bundle, QStringLiteral("Printer Default Words"));
+    return formatted(localizedText(panel.bundle, QStringLiteral("Kept Lightness Words")),
+                     {lightenDarkenText(panel.bundle, panel.keptLightenDarken)});
+}
+
+void showLightenDarken(const ImageOptionsPanelContext &panel)
+{
+    const ImageOptionsControls &controls = panel.controls;
+    const bool isSet = panel.lightenDarken != kUnset;
+    if (isSet && controls.lightenDarken)
+        controls.lightenDarken->setValue(panel.lightenDarken);
+    if (isSet && controls.lightenDarkenSlider)
+        controls.lightenDarkenSlider->setValue(panel.lightenDarken);
+    const bool isOnDevice = hasOption(panel, "KVImageQuality");
+    for (const std::int32_t number : lightenDarkenParts) {
+        if (QWidget *part = findControl(panel.content, panelID(number)))
+            part->setEnabled(isSet && isOnDevice);
+    }
+    if (controls.printerDefault) {
+        controls.printerDefault->setChecked(!isSet);
+        controls.printerDefault->setEnabled(isOnDevice);
+    }
+    if (controls.lightenDarkenWords)
+        controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
+}
+
+void showPictures(const ImageOptionsPanelContext &panel)
+{
+    const ImageOptionsControls &controls = panel.controls;
+    const auto show = [&](PictureView *view, const QString &name) {
+        showBundlePicture(view, panel.bundle, name);
+    };
+    show(controls.lightenDarkenPicture, lightenDarkenPicture(panel.lightenDarken));
+    show(controls.imageQualityPicture, imageQualityPicture(panel.imageQuality));
+    show(controls.tonerSaverPicture, tonerSaverPicture(panel.tonerSaver));
+    show(controls.cmykSourceColorPicture, cmykSourceColorPicture(panel.cmykSourceColor));
+    show(controls.outputColorCorrectionPicture,
+         outputColorCorrectionPicture(panel.outputColorCorrection));
+    show(controls.invertPicture, invertImagePicture(panel.invert));
+}
+
+} // namespace
+
+void fillImageOptionsControls(ImageOptionsPanelContext &panel)
+{
+    findControls(panel);
+    setUpLightenDarken(panel);
+    for (const PpdRow &row : ppdRows) {
+        PopupButton *popup = panel.controls.*row.popup;
+        if (!popup)
+            continue;
+        const bool isOnDevice = hasOption(panel, row.option);
+        if (isOnDevice)
+            PPDPopulatePopupWithChoices(popup, panel.ppd, QString::fromLatin1(row.option), false);
+        else
+            disableMissing(panel, popup, row.hintNumber);
+    }
+    if (!hasOption(panel, "KVEconomode"))
+        disableMissing(panel, panel.controls.tonerSaver, tonerSaverHint);
+    for (const std::int32_t number :
+         {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105})
+        makeHintText(findControl<QLabel>(panel.content, panelID(number)));
+}
+
+void SaveUIValuesToData(ImageOptionsPanelContext &panel)
+{
+    if (!panel.opened)
+        return;
+    const ImageOptionsControls &controls = panel.controls;
+    if (controls.printerDefault && controls.lightenDarken)
+        panel.lightenDarken =
+            controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
+    for (const PpdRow &row : ppdRows)
+        panel.*row.value = GetPopupButtonTicketValue(controls.*row.popup);
+    if (controls.tonerSaver)
+        panel.tonerSaver = controls.tonerSaver->isChecked() ? kTonerSaverOn : kTonerSaverOff;
+    if (controls.mirror)
+        panel.invert.mirror = controls.mirror->isChecked();
+}
+
+void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
+{
+    if (!panel.opened)
+        return;
+    const ImageOptionsControls &controls = panel.controls;
+    showLightenDarken(panel);
+    for (const PpdRow &row : ppdRows)
+        showTicketValue(controls.*row.popup, panel.*row.value);
+    if (controls.tonerSaver)
+        controls.tonerSaver->setChecked(panel.tonerSaver == kTonerSaverOn);
+    if (controls.mirror)
+        controls.mirror->setChecked(panel.invert.mirror);
+    if (controls.invertHint)
+        controls.invertHint->setText(localizedText(panel.bundle,
+                                                   panel.invert.negative
+                                                       ? QStringLiteral("Negative Image Hint")
+                                                       : QStringLiteral("Mirror Image Hint")));
+    showPictures(panel);
+}
+
+OSStatus ImageOptionsEventHandler(ImageOptionsPanelContext &panel, const Event &event)
+{
+    if (event.kind != EventKind::ControlHit || event.control.signature != kPanelSignature)
+        return eventNotHandledErr;
+    if (event.control.number == kShowAgain) {
+        RestoreUIValuesFromData(panel);
+        return eventNotHandledErr;
+    }
+    const ImageOptionsControls &controls = panel.controls;
+    if (event.control.number == kLightenDarkenSlider && controls.lightenDarken)
+        controls.lightenDarken->setValue(controls.lightenDarkenSlider->value());
+    SaveUIValuesToData(panel);
+    RestoreUIValuesFromData(panel);
+    return noErr;
+}
+
+} // namespace kelvo

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "event.h"
+#include "image_options_context.h"
+#include "invert_image_controls.h"
+#include "picture_view.h"
+#include "popup_button.h"
+#include "spin_field.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPointer>
+#include <QSlider>
+
+// What the Image Options panel shows: its controls, what fills them, and the way
+// between them and the context.
+namespace kelvo {
+
+// KPDE numbers that events are told apart by.
+inline constexpr std::int32_t kLightenDarkenSlider = 1102;
+inline constexpr std::int32_t kLightenDarkenField = 1104;
+inline constexpr std::int32_t kShowAgain = 1004; // another control; the panel shows itself again
+
+// Null while the panel is closed.
+struct ImageOptionsControls
+{
+    QPointer<QSlider> lightenDarkenSlider;              // KPDE 1102
+    QPointer<PictureView> lightenDarkenPicture;         // KPDE 1103
+    QPointer<SpinField> lightenDarken;                  // KPDE 1104
+    QPointer<QLabel> lightenDarkenWords;                // KPDE 1105
+    QPointer<QCheckBox> printerDefault;                 // KPDE 1109
+    QPointer<PopupButton> imageQuality;                 // KPDE 1202
+    QPointer<PictureView> imageQualityPicture;          // KPDE 1203
+    QPointer<QCheckBox> tonerSaver;                     // KPDE 1302
+    QPointer<PictureView> tonerSaverPicture;            // KPDE 1303
+    QPointer<PopupButton> cmykSourceColor;              // KPDE 1902
+    QPointer<PictureView> cmykSourceColorPicture;       // KPDE 1903
+    QPointer<PopupButton> outputColorCorrection;        // KPDE 2002
+    QPointer<PictureView> outputColorCorrectionPicture; // KPDE 2003
+    QPointer<QCheckBox> mirror;                         // KPDE 2103
+    QPointer<PictureView> invertPicture;                // KPDE 2104
+    QPointer<QLabel> invertHint;                        // KPDE 2105
+};
+
+struct ImageOptionsPanelContext : ImageOptionsContext
+{
+    QPointer<QWidget> parentUserPane;
+    QPointer<QWidget> content; // the panel's own views, once opened
+    ImageOptionsControls controls;
+    InvertImageContext invertControls;
+    EventHandlerRef handler;
+};
+
+// Finds the controls in the panel's content, gives them ranges, and fills the
+// pop-ups from the PPD. What the device does not have is disabled, and says so.
+void fillImageOptionsControls(ImageOptionsPanelContext &panel);
+
+// From the controls to the context; nothing happens while the panel is closed.
+void SaveUIValuesToData(ImageOptionsPanelContext &panel);
+// From the context to the controls and the pictures; likewise.
+void RestoreUIValuesFromData(ImageOptionsPanelContext &panel);
+
+// Slider and spin field follow each other, and every change by the user is taken
+// and shown at once. eventNotHandledErr for what is not the panel's.
+OSStatus ImageOptionsEventHandler(ImageOptionsPanelContext &panel, const Event &event);
+
+} // namespace kelvo

@@ -1,0 +1,320 @@
+#include "device_session.h"
+#include "image_options_pictures.h"
+#include "image_options_summary.h"
+#include "image_options_ticket.h"
+#include "image_shift.h"
+#include "picture_view.h"
+#include "ticket.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+Q_DECLARE_METATYPE(kelvo::_IS_Options)
+
+namespace {
+
+_IS_Options shift(bool inches, std::int32_t x1, std::int32_t x2, std::int32_t y1, std::int32_t y2)
+{
+    _IS_Options options;
+    ImageShiftInitialize(nullptr, nullptr, &options);
+    options.option = 1;
+    options.inches = inches;
+    options.x1 = x1;
+    options.x2 = x2;
+    options.y1 = y1;
+    options.y2 = y2;
+    return options;
+}
+
+Dictionary shiftDictionary(qint64 inches, qint64 x1, qint64 x2, qint64 y1, qint64 y2)
+{
+    return {{"Option", qint64(1)},
+            {"Inches", inches},
+            {"FullPrecision", true},
+            {"X1", x1},
+            {"X2", x2},
+            {"Y1", y1},
+            {"Y2", y2}};
+}
+
+} // namespace
+
+class TestImageOptions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void writesAShiftAndReadsItAgain_data();
+    void writesAShiftAndReadsItAgain();
+    void readsAShiftAsItFindsIt_data();
+    void readsAShiftAsItFindsIt();
+    void writesNoShiftThatIsNotSet();
+    void readsAnInvertedImage_data();
+    void readsAnInvertedImage();
+    void readsChoicesAndDefaults_data();
+    void readsChoicesAndDefaults();
+    void writesOnlyWhatTheDeviceHas();
+    void needsContextAndTicket();
+    void hasAPictureOfEveryChoice();
+    void summarizesForTheDialog();
+};
+
+void TestImageOptions::writesAShiftAndReadsItAgain_data()
+{
+    QTest::addColumn<_IS_Options>("options");
+    QTest::addColumn<Dictionary>("written");
+    QTest::addColumn<_IS_Options>("read");
+
+    QTest::newRow("inches") << shift(true, 100, 0, -100, 72)
+                            << shiftDictionary(1, 2540, 0, -2540, 1829)
+                            << shift(true, 100, 0, -100, 72);
+    // 25.4 rounds to 25, and 25 is less than an inch.
+    QTest::newRow("inches that lose their fraction")
+        << shift(true, 1, -1, 3, 2) << shiftDictionary(1, 25, -25, 76, 51)
+        << shift(true, 0, 0, 2, 2);
+    QTest::newRow("millimetres") << shift(false, 7, -3, 0, 1000)
+                                 << shiftDictionary(0, 70, -30, 0, 10000)
+                                 << shift(false, 7, -3, 0, 1000);
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    QTest::newRow("beyond 32 bits when written")
+        << shift(false, most, -most, 0, 0)
+        << shiftDictionary(0, 10 * qint64(most), -10 * qint64(most), 0, 0)
+        << shift(false, most, -most, 0, 0);
+}
+
+void TestImageOptions::writesAShiftAndReadsItAgain()
+{
+    QFETCH(_IS_Options, options);
+    QFETCH(Dictionary, written);
+    QFETCH(_IS_Options, read);
+    const auto dictionary = ImageShiftCreateTicketFromOptions(&options, kJobContextExceptions);
+    QVERIFY(dictionary);
+    QCOMPARE(*dictionary, written);
+    _IS_Options again;
+    ImageShiftInitialize(nullptr, nullptr, &again);
+    ImageShiftSetOptionsFromTicket(&again, *dictionary);
+    QCOMPARE(again, read);
+}
+
+void TestImageOptions::readsAShiftAsItFindsIt_data()
+{
+    QTest::addColumn<Dictionary>("dictionary");
+    QTest::addColumn<_IS_Options>("read");
+
+    _IS_Options none = shift(true, 0, 0, 0, 0);
+    none.option = kUnset;
+    const _IS_Options asItStands = shift(true, 2540, 0, 0, -3);
+    QTest::newRow("missing keys") << Dictionary() << none;
+    QTest::newRow("without full precision")
+        << Dictionary{{"Option", 1}, {"X1", 2540}, {"Y2", -3}} << asItStands;
+    QTest::newRow("full precision that is false")
+        << Dictionary{{"Option", 1}, {"FullPrecision", false}, {"X1", 2540}, {"Y2", -3}}
+        << asItStands;
+    QTest::newRow("negative tenths of a millimetre") << Dictionary{{"Option", 1},
+                                                                   {"Inches", 0},
+                                                                   {"FullPrecision", true},
+                                                                   {"X1", -19},
+                                                                   {"Y1", 19}}
+                                                     << shift(false, -1, 0, 1, 0);
+    QTest::newRow("other types") << Dictionary{{"Option", "1"}, {"Inches", "0"}, {"X1", 2.5}}
+                                 << none;
+    QTest::newRow("too large") << Dictionary{{"Option", 1}, {"X1", qint64(1) << 40}}
+                               << shift(true, 0, 0, 0, 0);
+}
+
+void TestImageOptions::readsAShiftAsItFindsIt()
+{
+    QFETCH(Dictionary, dictionary);
+    QFETCH(_IS_Options, read);
+    _IS_Options options = shift(false, 1, 2, 3, 4); // what was there goes
+    options.valid = 0;
+    ImageShiftSetOptionsFromTicket(&options, dictionary);
+    QCOMPARE(options, read);
+}
+
+void TestImageOptions::writesNoShiftThatIsNotSet()
+{
+    _IS_Options options = shift(true, 1, 2, 3, 4);
+    options.option = kUnset;
+    QVERIFY(!ImageShiftCreateTicketFromOptions(&options, kJobContextJob));
+    options.option = 0;
+    QVERIFY(ImageShiftCreateTicketFromOptions(&options, kJobContextJob));
+    options.valid = 0;
+    QVERIFY(!ImageShiftCreateTicketFromOptions(&options, kJobContextJob));
+}
+
+void TestImageOptions::readsAnInvertedImage_data()
+{
+    QTest::addColumn<Dictionary>("dictionary");
+    QTest::addColumn<bool>("negative");
+    QTest::addColumn<bool>("mirror");
+
+    QTest::newRow("nothing") << Dictionary() << false << false;
+    QTest::newRow("one") << Dictionary{{"NegativeImage", 1}} << true << false;
+    QTest::newRow("both") << Dictionary{{"NegativeImage", 0}, {"MirrorImage", 2}} << false << true;
+    QTest::newRow("no numbers") << Dictionary{{"NegativeImage", true}, {"MirrorImage", "1"}}
+                                << false << false;
+}
+
+void TestImageOptions::readsAnInvertedImage()
+{
+    QFETCH(Dictionary, dictionary);
+    QFETCH(bool, negative);
+    QFETCH(bool, mirror);
+    II_Options options{.valid = false, .negative = true, .mirror = true};
+    InvertImageSetOptionsFromTicket(&options, dictionary);
+    QCOMPARE(options, (II_Options{true, negative, mirror}));
+    const Dictionary written{{"NegativeImage", qint64(negative)}, {"MirrorImage", qint64(mirror)}};
+    QCOMPARE(InvertImageCreateTicketFromOptions(&options), written);
+}
+
+void TestImageOptions::readsChoicesAndDefaults_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<PPDDictionary>("choices");
+    // lighten/darken, toner saver, image quality, CMYK source, output correction
+    QTest::addColumn<QList<std::int32_t>>("values");
+    QTest::addColumn<std::int32_t>("kept");
+
+    using Values = QList<std::int32_t>;
+    QTest::newRow("defaults") << "full" << PPDDictionary() << Values{0, 2, 2, 3, 1} << kUnset;
+    QTest::newRow("choices") << "full"
+                             << PPDDictionary{{"KVImageQuality", "Lighten1"},
+                                              {"KVEconomode", "Draft"},
+                                              {"KVOutputMode", "HighResolution"},
+                                              {"KVCMYKColorSpace", "JapanColor"},
+                                              {"KVColorCorrection", "None"}}
+                             << Values{-1, 1, 6, 5, 5} << -1;
+    QTest::newRow("unknown choices")
+        << "full" << PPDDictionary{{"KVImageQuality", "Pale"}, {"KVOutputMode", "Best"}}
+        << Values{kUnset, 2, -1, 3, 1} << kUnset;
+    QTest::newRow("what the device lacks") << "bare" << PPDDictionary{{"KVCMYKColorSpace", "SWOP"}}
+                                           << Values{0, 2, 2, 2, 77} << kUnset;
+}
+
+void TestImageOptions::readsChoicesAndDefaults()
+{
+    QFETCH(QString, device);
+    QFETCH(PPDDictionary, choices);
+    QFETCH(QList<std::int32_t>, values);
+    QFETCH(std::int32_t, kept);
+    const DeviceSession session(device);
+    *PMTicketGetPPDDict(session.settings()) = choices;
+    ImageOptionsContext context;
+    context.ppd = PPDGetCurrent();
+    context.opened = true;
+    context.outputColorCorrection = 77;
+    QCOMPARE(SyncLightenDarkenToUI(&context, session.settings()), noErr);
+    QCOMPARE(SyncTonerSaverToUI(&context, session.settings()), noErr);
+    QCOMPARE(SyncQualityAndColorToUI(&context, session.settings()), noErr);
+    QCOMPARE((QList{context.lightenDarken, context.tonerSaver, context.imageQuality,
+                    context.cmykSourceColor, context.outputColorCorrection}),
+             values);
+    QCOMPARE(context.keptLightenDarken, kept);
+
+    // What cannot be said in choices leaves the ticket's alone.
+    SyncLightenDarkenToTicket(&context, session.settings());
+    SyncTonerSaverToTicket(&context, session.settings());
+    SyncQualityAndColorToTicket(&context, session.settings());
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
+        QCOMPARE(session.choice(choice.key()), *choice);
+}
+
+void TestImageOptions::writesOnlyWhatTheDeviceHas()
+{
+    const DeviceSession bare(QStringLiteral("bare"));
+    ImageOptionsContext context;
+    context.ppd = PPDGetCurrent();
+    context.lightenDarken = -3;
+    context.tonerSaver = kTonerSaverOn;
+    context.cmykSourceColor = 2; // of an earlier ticket
+    const auto write = [&] {
+        SyncLightenDarkenToTicket(&context, bare.settings());
+        SyncTonerSaverToTicket(&context, bare.settings());
+        SyncQualityAndColorToTicket(&context, bare.settings());
+        return *PMTicketGetPPDDict(bare.settings());
+    };
+    QCOMPARE(write(), (PPDDictionary{{"KVEconomode", "Draft"}}));
+    context.opened = true;
+    QCOMPARE(write(), (PPDDictionary{{"KVEconomode", "Draft"}, {"KVImageQuality", "Lighten3"}}));
+    QCOMPARE(context.keptLightenDarken, -3);
+    context.lightenDarken = kUnset;
+    QCOMPARE(write().value("KVImageQuality"), QStringLiteral("Lighten3"));
+    QCOMPARE(context.keptLightenDarken, -3);
+    context.ppd = nullptr; // nothing is known of the device
+    QCOMPARE(write().value("KVCMYKColorSpace"), QStringLiteral("SWOP"));
+}
+
+void TestImageOptions::needsContextAndTicket()
+{
+    const DeviceSession session(QStringLiteral("full"));
+    ImageOptionsContext context;
+    for (const auto sync : {SyncLightenDarkenToUI, SyncTonerSaverToUI, SyncQualityAndColorToUI,
+                            SyncLightenDarkenToTicket}) {
+        QCOMPARE(sync(nullptr, session.settings()), kPMInvalidParameter);
+        QCOMPARE(sync(&context, 0), kPMInvalidParameter);
+    }
+    for (const auto sync : {SyncTonerSaverToTicket, SyncQualityAndColorToTicket}) {
+        QCOMPARE(sync(nullptr, session.settings()), kPMInvalidParameter);
+        QCOMPARE(sync(&context, 0), kPMInvalidParameter);
+    }
+}
+
+void TestImageOptions::hasAPictureOfEveryChoice()
+{
+    const QString resources = DeviceSession(QStringLiteral("full")).bundle->resourcesPath();
+    QStringList names;
+    for (std::int32_t value = -6; value <= 7; ++value)
+        names << lightenDarkenPicture(value) << imageQualityPicture(value)
+              << tonerSaverPicture(value) << cmykSourceColorPicture(value)
+              << outputColorCorrectionPicture(value);
+    for (const int flags : {0, 1, 2, 3})
+        names << invertImagePicture({true, (flags & 1) != 0, (flags & 2) != 0});
+    for (const QString &name : names)
+        QVERIFY2(name.isEmpty() || !pictureFile(resources, name).isEmpty(), qPrintable(name));
+
+    // A negative shows the page as it is.
+    QCOMPARE(
+        names.mid(names.size() - 4),
+        QStringList({"ImageOptions_InvertImage_Off.gif", "ImageOptions_InvertImage_Off.gif",
+                     "ImageOptions_InvertImage_Mirror.gif", "ImageOptions_InvertImage_Off.gif"}));
+    QStringList qualities;
+    for (std::int32_t value = 0; value <= 7; ++value)
+        qualities << imageQualityPicture(value).section(u'_', 2).section(u'.', 0, 0);
+    QCOMPARE(qualities.join(u' '),
+             QStringLiteral(" TonerSaver Standard Enhanced TonerSaver Standard Enhanced "));
+    QCOMPARE(names.removeAll(QString()), 8 + 2 * 9); // beyond quality 6 and colour 5
+}
+
+void TestImageOptions::summarizesForTheDialog()
+{
+    const auto summary = [](const QString &device, ImageOptionsContext context) {
+        const DeviceSession session(device);
+        context.bundle = session.bundle;
+        context.ppd = PPDGetCurrent();
+        QStringList lines;
+        for (const SummaryLine &line : imageOptionsSummary(context))
+            lines << line.title + u' ' + line.text;
+        return lines.join(u'|');
+    };
+    ImageOptionsContext context;
+    context.lightenDarken = -3;
+    context.imageQuality = 5;
+    context.tonerSaver = kTonerSaverOn;
+    context.cmykSourceColor = 2;
+    context.outputColorCorrection = 4;
+    context.invert.mirror = true;
+    QCOMPARE(summary(QStringLiteral("full"), context),
+             QStringLiteral("Lighten/darken: Lighten 3|Image quality: High Quality|"
+                            "Toner saver: Draft|CMYK source color: SWOP|"
+                            "Output color correction: Press Match|Invert image: Mirror image"));
+    context.lightenDarken = kUnset;
+    context.invert.mirror = false;
+    QCOMPARE(summary(QStringLiteral("bare"), context),
+             QStringLiteral("Lighten/darken: Printer default|Image quality: High Quality|"
+                            "Toner saver: Draft"));
+}
+
+QTEST_MAIN(TestImageOptions)
+#include "test_image_options.moc"

@@ -1,0 +1,327 @@
+#include "device_session.h"
+#include "dialog_driver.h"
+#include "embed_control.h"
+#include "image_options_panel.h"
+#include "image_options_view.h"
+#include "invert_image_controls.h"
+#include "panel_interface.h"
+#include "ticket.h"
+#include "ticket_values.h"
+
+#include <QSlider>
+#include <QTest>
+
+using namespace kelvo;
+
+namespace {
+
+const QString kInvertKey = QStringLiteral("com.kelvo.print.InvertImageOptions");
+
+// The panel of one sample device, in front of its user.
+class Panel
+{
+public:
+    explicit Panel(const QString &device)
+        : session(device)
+    {
+        PanelInterface *interface = nullptr;
+        GetImageOptionsPanelInterface(&interface);
+        operations = *interface->table;
+        delete interface;
+        OSType creator = 0;
+        CFStringRef kind = nullptr, title = nullptr;
+        std::uint32_t width = 0, height = 0;
+        operations.Prologue(&context, &creator, &kind, &title, &width, &height);
+        isAsAnnounced = creator == kShellSignature && *kind == kPDEPanelKind
+            && *title == QLatin1String("Image Options");
+    }
+    ~Panel() { operations.Terminate(context, noErr); }
+    Panel(const Panel &) = delete;
+    Panel &operator=(const Panel &) = delete;
+
+    OSStatus initialize()
+    {
+        return operations.Initialize(context, nullptr, nullptr, &pane, &session.session);
+    }
+    void begin()
+    {
+        QCOMPARE(initialize(), noErr);
+        QCOMPARE(operations.Open(context), noErr);
+        pane.show();
+    }
+    OSStatus sync(SyncDirection direction)
+    {
+        return operations.Sync(context, &session.session, direction);
+    }
+
+    template <typename T>
+    T *find(std::int32_t number)
+    {
+        return findControl<T>(&pane, {kPanelSignature, number});
+    }
+    QStringList picture(std::int32_t number)
+    {
+        QStringList names;
+        for (const QString &file : find<PictureView>(number)->pictures())
+            names << QFileInfo(file).completeBaseName();
+        return names;
+    }
+    QString enabled(const QList<std::int32_t> &numbers)
+    {
+        QString states;
+        for (const std::int32_t number : numbers)
+            states += find<QWidget>(number)->isEnabled() ? u'1' : u'0';
+        return states;
+    }
+
+    DeviceSession session;
+    QWidget pane;
+    PanelOperations operations{};
+    PMPDEContext context = nullptr;
+    bool isAsAnnounced = false;
+};
+
+} // namespace
+
+class TestImageOptionsPanel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void answersAsEveryPanel();
+    void sliderAndFieldFollowEachOther();
+    void leavesLightnessToThePrinter();
+    void showsWhatEachChoiceDoes();
+    void writesBackWhatItRead();
+    void keepsANegativeOfTheTicket();
+    void disablesWhatTheDeviceLacks_data();
+    void disablesWhatTheDeviceLacks();
+    void invertsWhereAWindowHasTheControls_data();
+    void invertsWhereAWindowHasTheControls();
+};
+
+void TestImageOptionsPanel::answersAsEveryPanel()
+{
+    Panel panel(QStringLiteral("full"));
+    QVERIFY(panel.isAsAnnounced);
+    const PanelOperations &call = panel.operations;
+    PrintSession *session = &panel.session.session;
+    QCOMPARE(GetImageOptionsPanelInterface(nullptr), paramErr);
+    QCOMPARE(call.Initialize(nullptr, nullptr, nullptr, &panel.pane, session),
+             kPMInvalidPDEContext);
+    QCOMPARE(call.Initialize(panel.context, nullptr, nullptr, &panel.pane, nullptr),
+             kPMInvalidPDEContext);
+    QCOMPARE(call.Sync(nullptr, session, kSyncRead), kPMInvalidParameter);
+    QCOMPARE(call.Sync(panel.context, nullptr, kSyncRead), kPMInvalidParameter);
+    QCOMPARE(call.Open(panel.context), kPMInvalidPDEContext); // no pane yet
+    QCOMPARE(call.Open(nullptr), kPMInvalidPDEContext);
+    QCOMPARE(call.Close(nullptr), kPMInvalidPDEContext);
+    QCOMPARE(call.Terminate(nullptr, noErr), kPMInvalidPDEContext);
+
+    // Before it is opened it says nothing of the lightness.
+    QCOMPARE(panel.initialize(), noErr);
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QString());
+    QCOMPARE(panel.session.choice(QStringLiteral("KVEconomode")), QStringLiteral("None"));
+    panel.begin();
+    auto *field = panel.find<SpinField>(1104);
+    QCOMPARE(call.Open(panel.context), noErr); // once is enough
+    QCOMPARE(panel.find<SpinField>(1104), field);
+    QCOMPARE(panel.find<QLabel>(1106)->text(), QStringLiteral("-5"));
+    QCOMPARE(panel.find<QLabel>(1108)->text(), QStringLiteral("+5"));
+}
+
+void TestImageOptionsPanel::sliderAndFieldFollowEachOther()
+{
+    Panel panel(QStringLiteral("full"));
+    panel.begin();
+    auto *slider = panel.find<QSlider>(1102);
+    auto *field = panel.find<SpinField>(1104);
+    expectDone(inspector::set(slider, -3));
+    QCOMPARE(field->value(), -3);
+    QCOMPARE(panel.picture(1103), QStringList("ImageOptions_LightenDarken_Lighten3"));
+    QCOMPARE(panel.find<QLabel>(1105)->text(), QStringLiteral("Lighten 3"));
+    QTest::keyClick(slider, Qt::Key_Home);
+    QCOMPARE(field->value(), -5);
+    QVERIFY(field->choose(5));
+    QCOMPARE(slider->value(), 5);
+    QVERIFY(!inspector::set(slider, 6)->text.isEmpty());
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QStringLiteral("Darken5"));
+}
+
+void TestImageOptionsPanel::leavesLightnessToThePrinter()
+{
+    const QList<std::int32_t> parts = {1101, 1102, 1103, 1104, 1106, 1107, 1108};
+    Panel panel(QStringLiteral("full"));
+    panel.begin();
+    auto *printerDefault = panel.find<QCheckBox>(1109);
+    printerDefault->click();
+    QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
+    QCOMPARE(panel.find<QLabel>(1105)->text(), QStringLiteral("The printer decides."));
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QString());
+
+    // What the ticket says already is kept, and the panel does not hide it.
+    printerDefault->click();
+    QCOMPARE(panel.enabled(parts), QStringLiteral("1111111"));
+    panel.find<SpinField>(1104)->choose(2);
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    printerDefault->click();
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QStringLiteral("Darken2"));
+    QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Darken 2")));
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QVERIFY(!printerDefault->isChecked());
+    QCOMPARE(panel.find<QSlider>(1102)->value(), 2);
+}
+
+void TestImageOptionsPanel::showsWhatEachChoiceDoes()
+{
+    Panel panel(QStringLiteral("full"));
+    panel.begin();
+    const auto choose = [&](std::int32_t popup, std::int32_t value) {
+        auto *control = panel.find<PopupButton>(popup);
+        for (int row = 1; row <= control->maximum(); ++row) {
+            if (control->menu().items[static_cast<std::size_t>(row) - 1].reference == value)
+                return control->choose(row);
+        }
+        return false;
+    };
+    QVERIFY(choose(1202, 6));
+    QCOMPARE(panel.picture(1203), QStringList("ImageOptions_ImgQual_Enhanced"));
+    QVERIFY(choose(2002, 6)); // "Standard" corrects nothing
+    QCOMPARE(panel.picture(2003), QStringList());
+    QVERIFY(choose(2002, 4));
+    QCOMPARE(panel.picture(2003), QStringList("ImageOptions_ColorCorrection_OutputColor"));
+    panel.find<QCheckBox>(1302)->click();
+    QCOMPARE(panel.picture(1303), QStringList("ImageOptions_TonerSaver_On"));
+    panel.find<QCheckBox>(2103)->click();
+    QCOMPARE(panel.picture(2104), QStringList("ImageOptions_InvertImage_Mirror"));
+
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    for (const auto &[option, choice] : {std::pair("KVOutputMode", "HighResolution"),
+                                         {"KVColorCorrection", "PressMatch"},
+                                         {"KVEconomode", "Draft"}})
+        QCOMPARE(panel.session.choice(option), choice);
+}
+
+void TestImageOptionsPanel::writesBackWhatItRead()
+{
+    Panel panel(QStringLiteral("full"));
+    PMTicketGetPPDDict(panel.session.settings())->insert("KVOutputMode", "Enhanced");
+    panel.begin();
+    QCOMPARE(*PMTicketGetPPDDict(panel.session.settings()),
+             (PPDDictionary{{"KVOutputMode", "Enhanced"},
+                            {"KVCMYKColorSpace", "EuroScale"},
+                            {"KVColorCorrection", "Auto"}}));
+    // A choice that this panel cannot show stays as it is.
+    PMTicketGetPPDDict(panel.session.settings())->insert("KVOutputMode", "Best");
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QCOMPARE(panel.find<PopupButton>(1202)->value(), 0);
+    QCOMPARE(panel.picture(1203), QStringList());
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.session.choice(QStringLiteral("KVOutputMode")), QStringLiteral("Best"));
+}
+
+void TestImageOptionsPanel::keepsANegativeOfTheTicket()
+{
+    Panel panel(QStringLiteral("full"));
+    panel.begin();
+    const PMTicketRef ticket = panel.session.settings();
+    QVERIFY(!PMTicketGetCFDictionary(ticket, kInvertKey)); // reading writes none
+    PMTicketSetCFDictionary(ticket, QStringLiteral("test"), kInvertKey,
+                            {{"NegativeImage", 1}, {"MirrorImage", 1}});
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    auto *mirror = panel.find<QCheckBox>(2103);
+    QVERIFY(mirror->isChecked());
+    QCOMPARE(panel.picture(2104), QStringList("ImageOptions_InvertImage_Off"));
+    QVERIFY(panel.find<QLabel>(2105)->text().contains(QStringLiteral("negative")));
+    mirror->click();
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(PMTicketGetCFDictionary(ticket, kInvertKey),
+             (Dictionary{{"NegativeImage", qint64(1)}, {"MirrorImage", qint64(0)}}));
+    QCOMPARE(panel.session.session.printSettings().entries.at(kInvertKey).client,
+             QStringLiteral("K"));
+
+    PMTicketReleaseItem(ticket, kInvertKey);
+    mirror->click();
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QVERIFY(!mirror->isChecked());
+    QVERIFY(!panel.find<QLabel>(2105)->text().contains(QStringLiteral("negative")));
+}
+
+void TestImageOptionsPanel::disablesWhatTheDeviceLacks_data()
+{
+    QTest::addColumn<QString>("enabled");
+    QTest::newRow("full") << "111111111";
+    QTest::newRow("bare") << "111100001";
+    QTest::newRow("") << "000000001"; // no PPD
+}
+
+void TestImageOptionsPanel::disablesWhatTheDeviceLacks()
+{
+    QFETCH(QString, enabled);
+    Panel panel(QString::fromLatin1(QTest::currentDataTag()));
+    panel.begin();
+    QCOMPARE(panel.enabled({1102, 1109, 1202, 1302, 1901, 1902, 2001, 2002, 2103}), enabled);
+    QCOMPARE(panel.find<QLabel>(1904)->text() == QLatin1String("This device does not offer it."),
+             !enabled.startsWith(QLatin1String("11111")));
+}
+
+void TestImageOptionsPanel::invertsWhereAWindowHasTheControls_data()
+{
+    QTest::addColumn<QList<std::int32_t>>("controls"); // Kshl
+    QTest::addColumn<bool>("negative");                // what is written
+    QTest::addColumn<bool>("mirror");
+
+    QTest::newRow("none") << QList<std::int32_t>() << false << false;
+    QTest::newRow("mirror") << QList{910, 912} << false << true;
+    QTest::newRow("both") << QList{910, 911, 912} << true << true;
+    QTest::newRow("without group") << QList{911} << true << false;
+}
+
+void TestImageOptionsPanel::invertsWhereAWindowHasTheControls()
+{
+    QFETCH(QList<std::int32_t>, controls);
+    QFETCH(bool, negative);
+    QFETCH(bool, mirror);
+    const DeviceSession session(QStringLiteral("full"));
+    QWidget window, pane;
+    QWidget *parent = &window;
+    for (const std::int32_t number : controls) {
+        QWidget *control = number == 910 ? new QWidget(&window) : new QCheckBox(parent);
+        setControlID(control, {kShellSignature, number});
+        if (number == 910)
+            parent = control;
+    }
+    InvertImageContext context;
+    II_Options options{.valid = false, .negative = true, .mirror = true};
+    InvertImageInitialize(&context, &options);
+    QCOMPARE(options, (II_Options{true, false, false}));
+    QCOMPARE(InvertImageOpen(session.bundle, &window, &pane, &context, nullptr), paramErr);
+    QCOMPARE(InvertImageOpen(session.bundle, &window, &pane, &context, &options), noErr);
+    QVERIFY(window.findChildren<QCheckBox *>().isEmpty());
+
+    QCOMPARE(InvertImageSync(&context, nullptr, kSyncWrite, session.settings()),
+             kPMInvalidParameter);
+    QCOMPARE(InvertImageSync(&context, &options, kSyncWrite, session.settings()), noErr);
+    QCOMPARE(options, (II_Options{true, negative, mirror}));
+    QCOMPARE(PMTicketGetCFDictionary(session.settings(), kInvertKey),
+             (Dictionary{{"NegativeImage", qint64(negative)}, {"MirrorImage", qint64(mirror)}}));
+
+    // Read, they are what the ticket says, and the controls show it.
+    PMTicketReleaseItem(session.settings(), kInvertKey);
+    QCOMPARE(InvertImageSync(&context, &options, kSyncRead, session.settings()), noErr);
+    QCOMPARE(options, (II_Options{true, false, false}));
+    PMTicketSetCFDictionary(session.settings(), QStringLiteral("test"), kInvertKey,
+                            {{"NegativeImage", 1}, {"MirrorImage", 1}});
+    QCOMPARE(InvertImageSync(&context, &options, kSyncRead, session.settings()), noErr);
+    for (const QCheckBox *box : pane.findChildren<QCheckBox *>())
+        QVERIFY(box->isChecked());
+    InvertImageTerminate(&context);
+    QVERIFY(!context.group && !context.negative && !context.mirror);
+}
+
+QTEST_MAIN(TestImageOptionsPanel)
+#include "test_image_options_panel.moc"
