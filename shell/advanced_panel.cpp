@@ -4,7 +4,9 @@
 #include "control.h"
 #include "embed_control.h"
 #include "hint_text.h"
+#include "panel_content.h"
 #include "panel_interface.h"
+#include "panel_prologue.h"
 #include "pde_session.h"
 #include "popups.h"
 #include "ppd_choices.h"
@@ -12,13 +14,11 @@
 #include "ticket.h"
 #include "ticket_values.h"
 #include "values.h"
-#include "window_loader.h"
 
 #include <QLabel>
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 
 namespace kelvo {
 
@@ -119,20 +119,8 @@ void fillPopups(AdvancedContext &advanced, const QWidget *content)
 OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
-    if (!context || !creator || !userOptionKind || !title || !maxH || !maxV)
-        return kPMInvalidPDEContext;
-    auto *advanced = new AdvancedContext;
-    advanced->bundle = GetPDEBundle();
-    const QString titleKey = QStringLiteral("Advanced");
-    advanced->title = CFBundleCopyLocalizedString(advanced->bundle, titleKey, titleKey,
-                                                  QStringLiteral("Localizable"));
-    *context = reinterpret_cast<PMPDEContext>(advanced);
-    *creator = fourCharCode("KPDE");
-    *userOptionKind = &kPDEPanelKind;
-    *title = &advanced->title;
-    *maxH = 0;
-    *maxV = 0;
-    return noErr;
+    return announcePanel<AdvancedContext>(QStringLiteral("Advanced"), kPanelSignature, context,
+                                          creator, userOptionKind, title, maxH, maxV);
 }
 
 OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
@@ -180,19 +168,15 @@ OSStatus Open(PMPDEContext context)
         return kPMInvalidPDEContext;
     if (advanced->opened)
         return noErr;
-    Result<QWidget *> content = createWindowFromDescription(
-        advanced->bundle, QStringLiteral("AdvancedPanel"), QStringLiteral("Advanced"));
-    if (!content) {
-        std::fprintf(stderr, "Open()::CreateWindowFromNib() failed: %s\n",
-                     qPrintable(content.error().text()));
+    QWidget *content = createPanelContent(advanced->bundle, QStringLiteral("AdvancedPanel"),
+                                          QStringLiteral("Advanced"));
+    if (!content)
         return kPMInvalidPDEContext;
-    }
-    fillPopups(*advanced, content.value());
-    arrangeRows(advanced->controls, content.value());
-    EmbedAndShowControl(content.value(), advanced->parentUserPane);
-    advanced->handler = installEventHandler(content.value(), [advanced](const Event &event) {
-        return advancedEventHandler(*advanced, event);
-    });
+    fillPopups(*advanced, content);
+    arrangeRows(advanced->controls, content);
+    EmbedAndShowControl(content, advanced->parentUserPane);
+    advanced->handler = installEventHandler(
+        content, [advanced](const Event &event) { return advancedEventHandler(*advanced, event); });
     advanced->opened = true;
     showSettings(*advanced);
     return noErr;

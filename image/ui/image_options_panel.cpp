@@ -4,13 +4,12 @@
 #include "image_options_summary.h"
 #include "image_options_ticket.h"
 #include "image_options_view.h"
+#include "panel_content.h"
 #include "panel_interface.h"
+#include "panel_prologue.h"
 #include "pde_session.h"
 #include "ppd_choices.h"
 #include "ticket.h"
-#include "window_loader.h"
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -24,20 +23,9 @@ ImageOptionsPanelContext *panelOf(PMPDEContext context)
 OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
-    if (!context || !creator || !userOptionKind || !title || !maxH || !maxV)
-        return kPMInvalidPDEContext;
-    auto *panel = new ImageOptionsPanelContext;
-    panel->bundle = GetPDEBundle();
-    const QString titleKey = QStringLiteral("ImageOptions");
-    panel->title = CFBundleCopyLocalizedString(panel->bundle, titleKey, titleKey,
-                                               QStringLiteral("Localizable"));
-    *context = reinterpret_cast<PMPDEContext>(panel);
-    *creator = kShellSignature;
-    *userOptionKind = &kPDEPanelKind;
-    *title = &panel->title;
-    *maxH = 0;
-    *maxV = 0;
-    return noErr;
+    return announcePanel<ImageOptionsPanelContext>(QStringLiteral("ImageOptions"), kShellSignature,
+                                                   context, creator, userOptionKind, title, maxH,
+                                                   maxV);
 }
 
 OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
@@ -96,14 +84,10 @@ OSStatus Open(PMPDEContext context)
         return kPMInvalidPDEContext;
     if (panel->opened)
         return noErr;
-    Result<QWidget *> content = createWindowFromDescription(
-        panel->bundle, QStringLiteral("ImageOptionsPanel"), QStringLiteral("ImageOptions"));
-    if (!content) {
-        std::fprintf(stderr, "Open()::CreateWindowFromNib() failed: %s\n",
-                     qPrintable(content.error().text()));
+    panel->content = createPanelContent(panel->bundle, QStringLiteral("ImageOptionsPanel"),
+                                        QStringLiteral("ImageOptions"));
+    if (!panel->content)
         return kPMInvalidPDEContext;
-    }
-    panel->content = content.value();
     fillImageOptionsControls(*panel);
     InvertImageOpen(panel->bundle, panel->content, panel->content, &panel->invertControls,
                     &panel->invert);

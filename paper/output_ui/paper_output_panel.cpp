@@ -2,7 +2,9 @@
 
 #include "delayed_print.h"
 #include "embed_control.h"
+#include "panel_content.h"
 #include "panel_interface.h"
+#include "panel_prologue.h"
 #include "paper_output_events.h"
 #include "paper_output_summary.h"
 #include "paper_output_ticket.h"
@@ -10,9 +12,6 @@
 #include "ppd_choices.h"
 #include "ticket.h"
 #include "ticket_values.h"
-#include "window_loader.h"
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -50,23 +49,15 @@ void runFaxSetupFor(PMPDEContext context)
 OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
-    if (!context || !creator || !userOptionKind || !title || !maxH || !maxV)
-        return kPMInvalidPDEContext;
-    auto *panel = new PaperOutputPanelContext;
-    panel->bundle = GetPDEBundle();
-    const QString titleKey = QStringLiteral("PaperOutput");
-    panel->title = CFBundleCopyLocalizedString(panel->bundle, titleKey, titleKey,
-                                               QStringLiteral("Localizable"));
-    initializePaperOutput(*panel, currentLongDate());
+    const OSStatus status =
+        announcePanel<PaperOutputPanelContext>(QStringLiteral("PaperOutput"), kPanelSignature,
+                                               context, creator, userOptionKind, title, maxH, maxV);
+    if (status != noErr)
+        return status;
+    initializePaperOutput(*panelOf(*context), currentLongDate());
     setJobTypeProvider(jobTypeState);
     setFaxSetupRunner(runFaxSetupFor);
     setPrintPreparation(prepareToPrint);
-    *context = reinterpret_cast<PMPDEContext>(panel);
-    *creator = kPanelSignature;
-    *userOptionKind = &kPDEPanelKind;
-    *title = &panel->title;
-    *maxH = 0;
-    *maxV = 0;
     return noErr;
 }
 
@@ -124,14 +115,10 @@ OSStatus Open(PMPDEContext context)
         return kPMInvalidPDEContext;
     if (panel->opened)
         return noErr;
-    Result<QWidget *> content = createWindowFromDescription(
-        panel->bundle, QStringLiteral("PaperOutputPanel"), QStringLiteral("PaperOutput"));
-    if (!content) {
-        std::fprintf(stderr, "Open()::CreateWindowFromNib() failed: %s\n",
-                     qPrintable(content.error().text()));
+    panel->content = createPanelContent(panel->bundle, QStringLiteral("PaperOutputPanel"),
+                                        QStringLiteral("PaperOutput"));
+    if (!panel->content)
         return kPMInvalidPDEContext;
-    }
-    panel->content = content.value();
     panel->controls = findPaperOutputControls(panel->content);
     panel->devices = installedFinishingDevices();
     fillPaperOutputControls(*panel);

@@ -27,6 +27,7 @@ public:
         PanelInterface *interface = nullptr;
         GetImageOptionsPanelInterface(&interface);
         operations = *interface->table;
+        delete interface->table;
         delete interface;
         OSType creator = 0;
         CFStringRef kind = nullptr, title = nullptr;

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "bundle.h"
+
+#include <QString>
+
+class QWidget;
+
+namespace kelvo {
+
+// What a panel shows: the window of that name in the bundle's description, the
+// caller's and without parent. Null when it cannot be made; standard error says why.
+QWidget *createPanelContent(CFBundleRef bundle, const QString &description, const QString &window);
+
+} // namespace kelvo
