@@ -4,7 +4,7 @@
 #include "event.h"
 #include "plugin_abi.h"
 #include "popup_button.h"
-#include "ppd_file.h"
+#include "ppd_choices.h"
 
 #include <QPointer>
 #include <QString>
@@ -17,8 +17,6 @@
 namespace kelvo {
 
 KELVO_PLUGIN_EXPORT OSStatus GetAdvancedPanelInterface(PanelInterface **interface);
-
-inline constexpr std::int32_t kNoPpdChoice = -1; // neither ticket nor PPD has a choice we know
 
 // The panel's pop-ups, each with its label beside it; null before Open.
 struct AdvancedControls

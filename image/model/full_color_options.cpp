@@ -180,10 +180,11 @@ void FullColorOptions::fromTicket(const Dictionary *dictionary)
     const Dictionary cast = kelvo::dictionary(*dictionary, colorCastKey).value_or(Dictionary());
     for (const Form::Number &number : Form::colorCast)
         Form::readNumber(*this, number, cast);
-    m_trapping = integer32(*dictionary, trappingKey).value_or(kUnset);
+    const std::optional<std::int32_t> trapping = integer32(*dictionary, trappingKey);
+    m_trapping = trapping.value_or(kUnset);
     for (const Form::Number &number : Form::trappingDirections) {
         this->*number.value = kUnset;
-        if (m_trapping != kUnset)
+        if (trapping)
             Form::readNumber(*this, number, *dictionary);
     }
     for (const Form::Named &row : Form::profiles) {

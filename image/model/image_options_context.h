@@ -2,11 +2,11 @@
 
 #include "bundle.h"
 #include "invert_image.h"
-#include "setting_map.h"
 
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace kelvo {
 
@@ -24,11 +24,10 @@ struct ImageOptionsContext
     bool opened = false;    // the controls exist
 
     std::int32_t lightenDarken = 0; // -5 to 5; kUnset: the printer's default
-    // What the ticket says of it and goes on saying while the printer's default is
-    // chosen; kUnset: nothing, or what is the default anyway.
-    std::int32_t keptLightenDarken = kUnset;
+    // The ticket's choice for it, which stays while the printer's default is chosen.
+    std::optional<QString> keptLightness;
     std::int32_t imageQuality = 0;          // "KVOutputMode"
-    std::int32_t tonerSaver = 0;            // "KVEconomode"
+    std::int32_t tonerSaver = 0;            // "KVEconomode"; -1 for a choice of its own
     std::int32_t cmykSourceColor = 0;       // "KVCMYKColorSpace"
     std::int32_t outputColorCorrection = 0; // "KVColorCorrection"
     II_Options invert;

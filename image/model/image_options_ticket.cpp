@@ -1,5 +1,6 @@
 #include "image_options_ticket.h"
 
+#include "lighten_darken.h"
 #include "ppd_choices.h"
 #include "setting_map.h"
 
@@ -47,23 +48,6 @@ OSStatus writeSettings(const ImageOptionsContext *context, PMTicketRef ticket,
     return noErr;
 }
 
-// kUnset for a choice that no step stands for: its number is also that of a step.
-std::int32_t stepOf(const std::optional<QString> &choice)
-{
-    const QString option = QString::fromLatin1(lightenDarken->option);
-    const std::int32_t step = choice ? PPDTicketValueForChoice(option, *choice) : kUnset;
-    return PPDChoiceForTicketValue(option, step) == choice ? step : kUnset;
-}
-
-// What the ticket goes on saying while the printer's default is chosen.
-void noteKeptLightenDarken(ImageOptionsContext &context, PMTicketRef ticket)
-{
-    const QString option = QString::fromLatin1(lightenDarken->option);
-    const auto chosen = PPDCopyCurrentChoice(ticket, option);
-    const bool isDefault = chosen == PPDCopyDefaultChoice(context.ppd, option);
-    context.keptLightenDarken = isDefault ? kUnset : stepOf(chosen);
-}
-
 } // namespace
 
 OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket)
@@ -71,11 +55,11 @@ OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket)
     if (!context || !ticket)
         return kPMInvalidParameter;
     const QString option = QString::fromLatin1(lightenDarken->option);
-    const auto chosen = PPDCopyCurrentChoice(ticket, option);
-    const auto choice = chosen ? chosen : PPDCopyDefaultChoice(context->ppd, option);
+    context->keptLightness = PPDCopyCurrentChoice(ticket, option);
+    const auto choice = context->keptLightness ? context->keptLightness
+                                               : PPDCopyDefaultChoice(context->ppd, option);
     if (choice)
-        context->lightenDarken = stepOf(choice);
-    noteKeptLightenDarken(*context, ticket);
+        context->lightenDarken = lightenDarkenStep(*choice);
     return noErr;
 }
 
@@ -86,7 +70,8 @@ OSStatus SyncLightenDarkenToTicket(ImageOptionsContext *context, PMTicketRef tic
     if (!context->opened)
         return noErr;
     writeSettings(context, ticket, lightenDarken);
-    noteKeptLightenDarken(*context, ticket);
+    context->keptLightness =
+        PPDCopyCurrentChoice(ticket, QString::fromLatin1(lightenDarken->option));
     return noErr;
 }
 

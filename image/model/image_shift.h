@@ -23,9 +23,9 @@ struct _IS_Options // NOLINT(bugprone-reserved-identifier): the name of the form
     std::int32_t valid = 0; // 1 once initialised or read
     std::int32_t second = 0;
     std::int32_t reserved = 0;
-    std::int32_t option = 0; // kUnset: no shift
+    std::int32_t option = kUnset; // no shift
     std::int32_t unnamed = 0;
-    bool inches = false;
+    bool inches = true;
     std::int32_t x1 = 0, x2 = 0; // front side, back side, along the width
     std::int32_t y1 = 0, y2 = 0; // the same along the length
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 
 // How much lighter or darker pages are printed: steps from -5 (lightest) to 5.
@@ -15,6 +17,9 @@ struct LightenDarkenStep
 };
 
 extern const LightenDarkenStep LightenDarkenMap[];
+
+// The step that a choice of "KVImageQuality" stands for; kUnset for what is none.
+std::int32_t lightenDarkenStep(const QString &choice);
 
 // The key of a step; null for what is none.
 const char *lightenDarkenKey(std::int32_t value);

@@ -6,6 +6,7 @@
 #include "image_options_summary.h"
 #include "lighten_darken.h"
 #include "popups.h"
+#include "ppd_choices.h"
 #include "ppd_file.h"
 #include "string_table.h"
 #include "ticket_values.h"
@@ -105,10 +106,19 @@ QString lightenDarkenWords(const ImageOptionsPanelContext &panel)
         return localizedText(panel.bundle, QStringLiteral("Not on This Device"));
     if (panel.lightenDarken != kUnset)
         return lightenDarkenText(panel.bundle, panel.lightenDarken);
-    if (panel.keptLightenDarken == kUnset)
-        return localizedText(panel.bundle, QStringLiteral("Printer Default Words"));
-    return formatted(localizedText(panel.bundle, QStringLiteral("Kept Lightness Words")),
-                     {lightenDarkenText(panel.bundle, panel.keptLightenDarken)});
+    // The printer's default is a choice like others, and a job that has one keeps it.
+    const auto usual = PPDCopyDefaultChoice(panel.ppd, QStringLiteral("KVImageQuality"));
+    const bool isKept = panel.keptLightness && panel.keptLightness != usual;
+    const auto choice = isKept ? panel.keptLightness : usual;
+    if (!choice)
+        return {};
+    const std::int32_t step = lightenDarkenStep(*choice);
+    const auto ppdText = PPDCopyChoiceText(panel.ppd, QStringLiteral("KVImageQuality"), *choice);
+    return formatted(
+        localizedText(panel.bundle,
+                      isKept ? QStringLiteral("Kept Lightness Words")
+                             : QStringLiteral("Printer Default Words")),
+        {step == kUnset ? ppdText.value_or(*choice) : lightenDarkenText(panel.bundle, step)});
 }
 
 void showLightenDarken(const ImageOptionsPanelContext &panel)
@@ -135,16 +145,18 @@ void showLightenDarken(const ImageOptionsPanelContext &panel)
 void showPictures(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
-    const auto show = [&](PictureView *view, const QString &name) {
-        showBundlePicture(view, panel.bundle, name);
+    const auto show = [&](PictureView *view, const char *option, const QString &name) {
+        showBundlePicture(view, panel.bundle, hasOption(panel, option) ? name : QString());
     };
-    show(controls.lightenDarkenPicture, lightenDarkenPicture(panel.lightenDarken));
-    show(controls.imageQualityPicture, imageQualityPicture(panel.imageQuality));
-    show(controls.tonerSaverPicture, tonerSaverPicture(panel.tonerSaver));
-    show(controls.cmykSourceColorPicture, cmykSourceColorPicture(panel.cmykSourceColor));
-    show(controls.outputColorCorrectionPicture,
+    show(controls.lightenDarkenPicture, "KVImageQuality",
+         lightenDarkenPicture(panel.lightenDarken));
+    show(controls.imageQualityPicture, "KVOutputMode", imageQualityPicture(panel.imageQuality));
+    show(controls.tonerSaverPicture, "KVEconomode", tonerSaverPicture(panel.tonerSaver));
+    show(controls.cmykSourceColorPicture, "KVCMYKColorSpace",
+         cmykSourceColorPicture(panel.cmykSourceColor));
+    show(controls.outputColorCorrectionPicture, "KVColorCorrection",
          outputColorCorrectionPicture(panel.outputColorCorrection));
-    show(controls.invertPicture, invertImagePicture(panel.invert));
+    showBundlePicture(controls.invertPicture, panel.bundle, invertImagePicture(panel.invert));
 }
 
 } // namespace
@@ -178,10 +190,16 @@ void SaveUIValuesToData(ImageOptionsPanelContext &panel)
     if (controls.printerDefault && controls.lightenDarken)
         panel.lightenDarken =
             controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
-    for (const PpdRow &row : ppdRows)
-        panel.*row.value = GetPopupButtonTicketValue(controls.*row.popup);
-    if (controls.tonerSaver)
-        panel.tonerSaver = controls.tonerSaver->isChecked() ? kTonerSaverOn : kTonerSaverOff;
+    // What a control cannot show is not the user's choice, and stays.
+    for (const PpdRow &row : ppdRows) {
+        const PopupButton *popup = controls.*row.popup;
+        if (popup && popup->value() > 0)
+            panel.*row.value = GetPopupButtonTicketValue(popup);
+    }
+    if (controls.tonerSaver && controls.tonerSaver->isChecked())
+        panel.tonerSaver = kTonerSaverOn;
+    else if (controls.tonerSaver && panel.tonerSaver != kNoPpdChoice)
+        panel.tonerSaver = kTonerSaverOff;
     if (controls.mirror)
         panel.invert.mirror = controls.mirror->isChecked();
 }
@@ -217,6 +235,8 @@ OSStatus ImageOptionsEventHandler(ImageOptionsPanelContext &panel, const Event &
     const ImageOptionsControls &controls = panel.controls;
     if (event.control.number == kLightenDarkenSlider && controls.lightenDarken)
         controls.lightenDarken->setValue(controls.lightenDarkenSlider->value());
+    else if (controls.lightenDarken)
+        controls.lightenDarken->takeTypedText(); // else showing would undo it
     SaveUIValuesToData(panel);
     RestoreUIValuesFromData(panel);
     return noErr;

@@ -26,8 +26,6 @@ const QString passwordKey = QStringLiteral("SecurePrintPassword");
 const QString delayedPrintTimeKey = QStringLiteral("DelayedPrintTime");
 const QString saveDispositionKey = QStringLiteral("SaveDisposition");
 
-constexpr std::int32_t kNoChoice = -1; // a choice that the keyword map does not have
-
 std::optional<std::int32_t> findNumber(PMTicketRef ticket, const QString &key)
 {
     const std::optional<std::int64_t> found = PMTicketGetCFNumber(ticket, key);
@@ -81,7 +79,7 @@ void setChoiceValue(PMTicketRef ticket, const char *option, std::int32_t value)
     const auto choice = PPDChoiceForTicketValue(QString::fromLatin1(option), value);
     if (choice)
         setChoice(ticket, option, choice);
-    else if (value != kNoChoice)
+    else if (value != kNoPpdChoice)
         removeChoice(ticket, option);
 }
 
@@ -181,7 +179,7 @@ void readDuplex(_PaperOutputContext &context, PMTicketRef ticket, const PpdFile 
 void writeDuplex(const _PaperOutputContext &context, PMTicketRef ticket)
 {
     const std::int32_t duplex = context.isBooklet() ? kPlexDuplex : context.duplex;
-    if (duplex == kNoChoice)
+    if (duplex == kNoPpdChoice)
         return; // the ticket's choice is one that we do not know, and stays
     setChoiceValue(ticket, "Duplex", duplex);
     setNumber(ticket, "FinishingDuplex", duplex);
@@ -191,10 +189,10 @@ void writeDuplex(const _PaperOutputContext &context, PMTicketRef ticket)
 std::int32_t readPunch(PMTicketRef ticket, const PpdFile *ppd)
 {
     const std::int32_t punch = choiceValue(ppd, ticket, "KVPunch", kPunchNone);
-    if (punch != kNoChoice)
+    if (punch != kNoPpdChoice)
         return punch;
     return punchOfChoice(currentChoice(ppd, ticket, "KVPunch").value_or(QString()))
-        .value_or(kNoChoice);
+        .value_or(kNoPpdChoice);
 }
 
 void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
@@ -212,7 +210,7 @@ void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
     finishing.punchKind = finishing.punch > kPunchNone ? kPunchKindPunched : kPunchKindNone;
 
     std::int32_t staple = choiceValue(ppd, ticket, "StapleLocation", kStapleNone);
-    if (staple == kNoChoice) {
+    if (staple == kNoPpdChoice) {
         const QString choice = currentChoice(ppd, ticket, "StapleLocation").value_or(QString());
         staple = stapleOfChoice(choice).value_or(kStapleNone);
     }
@@ -227,7 +225,7 @@ bool isUnknownStaple(PMTicketRef ticket)
 {
     const QString option = QStringLiteral("StapleLocation");
     const auto choice = PPDCopyCurrentChoice(ticket, option);
-    return choice && PPDTicketValueForChoice(option, *choice) == kNoChoice
+    return choice && PPDTicketValueForChoice(option, *choice) == kNoPpdChoice
         && !stapleOfChoice(*choice);
 }
 
@@ -240,7 +238,7 @@ void writePunch(const _PaperOutputContext &context, PMTicketRef ticket)
         setChoice(ticket, "KVPunch", choice);
         return;
     }
-    if (punch != kNoChoice && readPunch(ticket, nullptr) != punch)
+    if (punch != kNoPpdChoice && readPunch(ticket, nullptr) != punch)
         removeChoice(ticket, "KVPunch");
 }
 
@@ -290,7 +288,7 @@ void readPaperOutput(_PaperOutputContext &context, PMTicketRef settings, PMTicke
     context.jobStock.setColor(choiceValue(ppd, settings, "MediaColor", kUnset));
     context.jobStock.setType(choiceValue(ppd, settings, "MediaType", kUnset));
     context.outputBin = choiceValue(ppd, settings, "OutputBin", 1);
-    context.colorMode = choiceValue(ppd, settings, "KVColorMode", kNoChoice);
+    context.colorMode = choiceValue(ppd, settings, "KVColorMode", kNoPpdChoice);
     SyncSeparatorsFromTicket(settings, &context.separators, &context.separatorStock);
 
     readJobType(context, settings);

@@ -134,7 +134,7 @@ void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
 std::int32_t PPDTicketValueForChoice(const QString &keyword, const QString &choice)
 {
     const PpdChoiceValue *row = findChoice(keyword, choice);
-    return row ? row->value : -1;
+    return row ? row->value : kNoPpdChoice;
 }
 
 std::optional<QString> PPDChoiceForTicketValue(const QString &keyword, std::int32_t value)

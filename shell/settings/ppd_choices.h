@@ -43,7 +43,9 @@ std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &k
 void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
                          const std::optional<QString> &choice);
 
-// Through MainKeywordMap: -1 and none for what it does not have.
+// The value of a choice that MainKeywordMap does not have.
+inline constexpr std::int32_t kNoPpdChoice = -1;
+// Through MainKeywordMap: kNoPpdChoice and none for what it does not have.
 std::int32_t PPDTicketValueForChoice(const QString &keyword, const QString &choice);
 std::optional<QString> PPDChoiceForTicketValue(const QString &keyword, std::int32_t value);
 // The PPD's text of that choice; none when the map or the PPD does not have it.

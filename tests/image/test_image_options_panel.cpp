@@ -92,6 +92,7 @@ private slots:
     void answersAsEveryPanel();
     void sliderAndFieldFollowEachOther();
     void leavesLightnessToThePrinter();
+    void takesWhatIsTypedWhenAnotherControlIsUsed();
     void showsWhatEachChoiceDoes();
     void writesBackWhatItRead();
     void keepsANegativeOfTheTicket();
@@ -159,7 +160,8 @@ void TestImageOptionsPanel::leavesLightnessToThePrinter()
     auto *printerDefault = panel.find<QCheckBox>(1109);
     printerDefault->click();
     QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
-    QCOMPARE(panel.find<QLabel>(1105)->text(), QStringLiteral("The printer decides."));
+    QCOMPARE(panel.find<QLabel>(1105)->text(),
+             QStringLiteral("The printer’s default is “Normal”."));
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QString());
 
@@ -175,6 +177,28 @@ void TestImageOptionsPanel::leavesLightnessToThePrinter()
     QCOMPARE(panel.sync(kSyncRead), noErr);
     QVERIFY(!printerDefault->isChecked());
     QCOMPARE(panel.find<QSlider>(1102)->value(), 2);
+
+    // Also what no step stands for.
+    PMTicketGetPPDDict(panel.session.settings())->insert("KVImageQuality", "Pale");
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QVERIFY(printerDefault->isChecked());
+    QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Pale")));
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QStringLiteral("Pale"));
+}
+
+void TestImageOptionsPanel::takesWhatIsTypedWhenAnotherControlIsUsed()
+{
+    Panel panel(QStringLiteral("full"));
+    panel.begin();
+    auto *field = panel.find<SpinField>(1104);
+    QVERIFY(field->typeText(QStringLiteral("4")));
+    panel.find<QCheckBox>(2103)->click();
+    QCOMPARE(field->value(), 4);
+    QVERIFY(panel.find<QCheckBox>(2103)->isChecked());
+    QVERIFY(field->typeText(QStringLiteral("2")));
+    expectDone(inspector::set(panel.find<QSlider>(1102), -1));
+    QCOMPARE(field->value(), -1);
 }
 
 void TestImageOptionsPanel::showsWhatEachChoiceDoes()
@@ -218,11 +242,18 @@ void TestImageOptionsPanel::writesBackWhatItRead()
                             {"KVColorCorrection", "Auto"}}));
     // A choice that this panel cannot show stays as it is.
     PMTicketGetPPDDict(panel.session.settings())->insert("KVOutputMode", "Best");
+    PMTicketGetPPDDict(panel.session.settings())->insert("KVEconomode", "Deep");
     QCOMPARE(panel.sync(kSyncRead), noErr);
     QCOMPARE(panel.find<PopupButton>(1202)->value(), 0);
     QCOMPARE(panel.picture(1203), QStringList());
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QCOMPARE(panel.session.choice(QStringLiteral("KVOutputMode")), QStringLiteral("Best"));
+    QCOMPARE(panel.session.choice(QStringLiteral("KVEconomode")), QStringLiteral("Deep"));
+    auto *tonerSaver = panel.find<QCheckBox>(1302);
+    tonerSaver->click();
+    tonerSaver->click();
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(panel.session.choice(QStringLiteral("KVEconomode")), QStringLiteral("None"));
 }
 
 void TestImageOptionsPanel::keepsANegativeOfTheTicket()

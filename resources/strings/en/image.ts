@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Printer Default Words</source>
-        <translation>The printer decides.</translation>
+        <translation>The printer’s default is “%1”.</translation>
     </message>
     <message>
         <source>Kept Lightness Words</source>
