@@ -31,6 +31,7 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <limits>
 
 // What Qt's own test library presses keys with: it asks the shortcuts first. Qt
 // exports it, but only the test library's header declares it.
@@ -358,7 +359,8 @@ QString ItemName::description() const
 {
     switch (by) {
     case By::Reference:
-        return QString::number(reference);
+        return reference == std::numeric_limits<std::int32_t>::min() ? QStringLiteral("unset")
+                                                                     : QString::number(reference);
     case By::Key:
         return QStringLiteral("key %1").arg(text);
     case By::Text:

@@ -45,6 +45,8 @@ TypedNumber readNumber(QString text, const QLocale &locale, int decimals, const 
     if (at < text.size() && (text[at] == u'-' || text[at] == u'\u2212')) {
         isNegative = true;
         ++at;
+    } else if (at < text.size() && text[at] == u'+') {
+        ++at;
     }
     for (; at < text.size(); ++at) {
         const QChar c = text[at];
@@ -172,7 +174,8 @@ QValidator::State SpinField::validate(QString &input, int &) const
 {
     const TypedNumber typed = readNumber(input, locale(), m_decimals, m_suffix);
     const QString trimmed = input.trimmed();
-    const bool hasSign = trimmed.startsWith(u'-') || trimmed.startsWith(u'\u2212');
+    const bool hasSign =
+        trimmed.startsWith(u'-') || trimmed.startsWith(u'\u2212') || trimmed.startsWith(u'+');
     if (typed.state == Typed::Wrong || (hasSign && m_minimum >= 0))
         return QValidator::Invalid;
     if (typed.state == Typed::Unfinished || typed.value < m_minimum || typed.value > m_maximum)

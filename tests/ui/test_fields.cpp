@@ -65,6 +65,7 @@ void TestFields::typedTextBecomesAValue_data()
     QTest::newRow("at the maximum") << "de_DE" << 0 << "2000" << 2000 << "2000 mm";
     QTest::newRow("one above") << "de_DE" << 0 << "2001" << 2000 << "2000 mm";
     QTest::newRow("far above 32 bits") << "de_DE" << 2 << "9999999999" << 2000 << "20,00 mm";
+    QTest::newRow("a plus") << "de_DE" << 0 << "+42" << 42 << "42 mm";
     QTest::newRow("at the minimum") << "de_DE" << 0 << "-100" << -100 << "-100 mm";
     QTest::newRow("one below") << "de_DE" << 0 << "-101" << -100 << "-100 mm";
     QTest::newRow("nothing") << "de_DE" << 0 << "" << 500 << "500 mm";
@@ -110,6 +111,8 @@ void TestFields::aWrongCharacterIsNotTakenIn_data()
                                   << "1,55";
     QTest::newRow("third decimal") << 2 << "1,555"
                                    << "1,55";
+    QTest::newRow("plus where none is negative") << 0 << "+5"
+                                                 << "5";
     QTest::newRow("minus where none is negative") << 0 << "-5"
                                                   << "5";
     QTest::newRow("eleventh digit") << 0 << "12345678901"
