@@ -22,15 +22,17 @@ struct PpdRow
 {
     const char *option;
     std::int32_t hintNumber; // KPDE, the text below the pop-up
+    const char *hintKey;
     std::int32_t ImageOptionsContext::*value;
     QPointer<PopupButton> ImageOptionsControls::*popup;
 };
 constexpr PpdRow ppdRows[] = {
-    {"KVOutputMode", 1204, &ImageOptionsContext::imageQuality, &ImageOptionsControls::imageQuality},
-    {"KVCMYKColorSpace", 1904, &ImageOptionsContext::cmykSourceColor,
+    {"KVOutputMode", 1204, "Image Quality Hint", &ImageOptionsContext::imageQuality,
+     &ImageOptionsControls::imageQuality},
+    {"KVCMYKColorSpace", 1904, "CMYK Source Color Hint", &ImageOptionsContext::cmykSourceColor,
      &ImageOptionsControls::cmykSourceColor},
-    {"KVColorCorrection", 2004, &ImageOptionsContext::outputColorCorrection,
-     &ImageOptionsControls::outputColorCorrection},
+    {"KVColorCorrection", 2004, "Output Color Correction Hint",
+     &ImageOptionsContext::outputColorCorrection, &ImageOptionsControls::outputColorCorrection},
 };
 constexpr std::int32_t tonerSaverHint = 1304;
 
@@ -104,8 +106,13 @@ QString lightenDarkenWords(const ImageOptionsPanelContext &panel)
 {
     if (!hasOption(panel, "KVImageQuality"))
         return localizedText(panel.bundle, QStringLiteral("Not on This Device"));
-    if (panel.lightenDarken != kUnset)
-        return lightenDarkenText(panel.bundle, panel.lightenDarken);
+    if (panel.lightenDarken != kUnset) {
+        const PpdOption *option = panel.ppd->findOption(QStringLiteral("KVImageQuality"));
+        const auto step = PPDChoiceForTicketValue(option->keyword, panel.lightenDarken);
+        return step && option->findChoice(*step)
+            ? lightenDarkenText(panel.bundle, panel.lightenDarken)
+            : localizedText(panel.bundle, QStringLiteral("Choice Not Offered"));
+    }
     // The printer's default is a choice like others, and a job that has one keeps it.
     const auto usual = PPDCopyDefaultChoice(panel.ppd, QStringLiteral("KVImageQuality"));
     const bool isKept = panel.keptLightness && panel.keptLightness != usual;
@@ -142,21 +149,37 @@ void showLightenDarken(const ImageOptionsPanelContext &panel)
         controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
 }
 
+// Nothing where the ticket has a choice that the device does not offer.
+void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
+{
+    PopupButton *popup = panel.controls.*row.popup;
+    if (!popup || !hasOption(panel, row.option))
+        return;
+    showTicketValue(popup, panel.*row.value);
+    if (auto *hint = findControl<QLabel>(panel.content, panelID(row.hintNumber)))
+        hint->setText(localizedText(panel.bundle,
+                                    popup->value() > 0 ? QString::fromLatin1(row.hintKey)
+                                                       : QStringLiteral("Choice Not Offered")));
+}
+
 void showPictures(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
-    const auto show = [&](PictureView *view, const char *option, const QString &name) {
-        showBundlePicture(view, panel.bundle, hasOption(panel, option) ? name : QString());
+    const auto show = [&](PictureView *view, bool isOnDevice, const QString &name) {
+        showBundlePicture(view, panel.bundle, isOnDevice ? name : QString());
     };
-    show(controls.lightenDarkenPicture, "KVImageQuality",
+    const auto isShown = [](const PopupButton *popup) { return popup && popup->value() > 0; };
+    show(controls.lightenDarkenPicture, hasOption(panel, "KVImageQuality"),
          lightenDarkenPicture(panel.lightenDarken));
-    show(controls.imageQualityPicture, "KVOutputMode", imageQualityPicture(panel.imageQuality));
-    show(controls.tonerSaverPicture, "KVEconomode", tonerSaverPicture(panel.tonerSaver));
-    show(controls.cmykSourceColorPicture, "KVCMYKColorSpace",
+    show(controls.imageQualityPicture, isShown(controls.imageQuality),
+         imageQualityPicture(panel.imageQuality));
+    show(controls.tonerSaverPicture, hasOption(panel, "KVEconomode"),
+         tonerSaverPicture(panel.tonerSaver));
+    show(controls.cmykSourceColorPicture, isShown(controls.cmykSourceColor),
          cmykSourceColorPicture(panel.cmykSourceColor));
-    show(controls.outputColorCorrectionPicture, "KVColorCorrection",
+    show(controls.outputColorCorrectionPicture, isShown(controls.outputColorCorrection),
          outputColorCorrectionPicture(panel.outputColorCorrection));
-    showBundlePicture(controls.invertPicture, panel.bundle, invertImagePicture(panel.invert));
+    show(controls.invertPicture, true, invertImagePicture(panel.invert));
 }
 
 } // namespace
@@ -211,7 +234,7 @@ void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
     const ImageOptionsControls &controls = panel.controls;
     showLightenDarken(panel);
     for (const PpdRow &row : ppdRows)
-        showTicketValue(controls.*row.popup, panel.*row.value);
+        showPpdRow(panel, row);
     if (controls.tonerSaver)
         controls.tonerSaver->setChecked(panel.tonerSaver == kTonerSaverOn);
     if (controls.mirror)

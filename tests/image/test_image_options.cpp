@@ -303,13 +303,13 @@ void TestImageOptions::summarizesForTheDialog()
     context.invert.mirror = true;
     QCOMPARE(summary(QStringLiteral("full"), context),
              QStringLiteral("Lighten/darken: Lighten 3|Image quality: High Quality|"
-                            "Toner saver: Draft|CMYK source color: SWOP|"
+                            "Toner saver: Conserve Dry Ink|CMYK source color: SWOP|"
                             "Output color correction: Press Match|Invert image: Mirror image"));
     context.lightenDarken = kUnset;
     context.invert.mirror = false;
     QCOMPARE(summary(QStringLiteral("bare"), context),
              QStringLiteral("Lighten/darken: Printer default|Image quality: High Quality|"
-                            "Toner saver: Draft"));
+                            "Toner saver: Conserve Dry Ink"));
 }
 
 QTEST_MAIN(TestImageOptions)

@@ -68,6 +68,10 @@
         <translation>The job already says “%1”, and keeps it.</translation>
     </message>
     <message>
+        <source>Choice Not Offered</source>
+        <translation>The job has a choice that is not offered here, and keeps it.</translation>
+    </message>
+    <message>
         <source>Image Quality:</source>
         <translation>Image &amp;quality:</translation>
     </message>
@@ -121,11 +125,11 @@
     </message>
     <message>
         <source>Mirror Image Hint</source>
-        <translation>For film and transfers: text reads backwards.</translation>
+        <translation>Exchanges left and right, for film and transfers.</translation>
     </message>
     <message>
         <source>Negative Image Hint</source>
-        <translation>The ticket also asks for a negative, and keeps it.</translation>
+        <translation>The ticket asks for a negative, and keeps it.</translation>
     </message>
 </context>
 </TS>
