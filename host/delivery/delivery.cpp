@@ -4,6 +4,7 @@
 #include "file_store.h"
 #include "job_options.h"
 #include "page_ranges.h"
+#include "ppd_words.h"
 #include "queue_ppds.h"
 #include "temporary_folder.h"
 #include "ticket_attachment.h"

@@ -255,9 +255,4 @@ JobOption ticketOption(const QByteArray &sha256, bool hasPasscode, bool isFax)
             QStringLiteral("1:%1:%2").arg(QString::fromLatin1(sha256.toHex()), flags.join(u'+'))};
 }
 
-bool readsTickets(const PpdFile *ppd)
-{
-    return ppd && ppd->attribute("KelvoTicket") == QStringLiteral("1");
-}
-
 } // namespace kelvo

@@ -22,7 +22,4 @@ Result<JobOptions> jobOptions(const TicketFile &ticket, const JobSettings &setti
 // both joined by "+", or "none".
 JobOption ticketOption(const QByteArray &sha256, bool hasPasscode, bool isFax);
 
-// The PPD says that its device reads tickets of our format.
-bool readsTickets(const PpdFile *ppd);
-
 } // namespace kelvo

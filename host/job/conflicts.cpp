@@ -182,7 +182,7 @@ QStringList missingOnDevice(const PrintSession &session, const PpdFile &ppd)
     const PPDDictionary &choices = session.printSettings().ppdChoices;
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
         if (lacks(ppd, choice.key(), choice.value()))
-            missing << missingWords(choice.key(), choice.value(), &ppd);
+            missing << settingWords(choice.key(), choice.value(), &ppd);
     }
     return missing;
 }

@@ -174,12 +174,18 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
         addPpdSettings(choices, *ppd, words);
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
         if (!ppd || lacks(*ppd, choice.key(), choice.value()))
-            words.notSent << missingWords(choice.key(), choice.value(), ppd);
+            words.notSent << settingWords(choice.key(), choice.value(), ppd)
+                    + QStringLiteral(" – this printer does not have it");
     }
     // Only the panels know what their entries say; that they are there is said.
-    if (const int count = panelEntries(ticket); count > 0)
-        words.settings << QStringLiteral("%1 that the device panels add (see Ticket)")
-                              .arg(counted(count, "entry", "entries"));
+    if (const int count = panelEntries(ticket); count > 0) {
+        const QString entries = QStringLiteral("%1 that the device panels add (see Ticket)")
+                                    .arg(counted(count, "entry", "entries"));
+        if (readsTickets(ppd))
+            words.settings << entries;
+        else
+            words.notSent << entries + QStringLiteral(" – this printer reads no tickets");
+    }
     const TicketFile shown = masked(ticket, keys);
     words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);
     return words;

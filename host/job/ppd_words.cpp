@@ -30,12 +30,10 @@ QString settingWords(const PpdOption &option, const QString &choice)
     return QStringLiteral("%1: %2").arg(optionWords(option), choiceWords(option, choice));
 }
 
-QString missingWords(const QString &keyword, const QString &choice, const PpdFile *ppd)
+QString settingWords(const QString &keyword, const QString &choice, const PpdFile *ppd)
 {
     const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
-    const QString setting =
-        option ? settingWords(*option, choice) : QStringLiteral("%1: %2").arg(keyword, choice);
-    return setting + QStringLiteral(" – this printer does not have it");
+    return option ? settingWords(*option, choice) : QStringLiteral("%1: %2").arg(keyword, choice);
 }
 
 bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice)
@@ -56,6 +54,11 @@ bool lacks(const PpdFile &ppd, const QString &keyword, const QString &choice)
         return false;
     const bool asksForNothing = choice == QLatin1String("None") || choice == QLatin1String("False");
     return !asksForNothing || ppd.findOption(keyword);
+}
+
+bool readsTickets(const PpdFile *ppd)
+{
+    return ppd && ppd->attribute("KelvoTicket") == QStringLiteral("1");
 }
 
 bool isEquipment(const PpdOption &option, const PpdFile &ppd)

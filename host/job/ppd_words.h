@@ -14,9 +14,8 @@ QString choiceWords(const PpdOption &option, const QString &choice);
 // "Stapling: Top Left".
 QString settingWords(const PpdOption &option, const QString &choice);
 
-// "Stapling: Top Left – this printer does not have it", or only the keywords
-// where the option itself is missing.
-QString missingWords(const QString &keyword, const QString &choice, const PpdFile *ppd);
+// The same by keyword; only the keywords where the PPD, or it, is missing.
+QString settingWords(const QString &keyword, const QString &choice, const PpdFile *ppd);
 
 // The option has the choice, or it is a custom page size within the PPD's limits.
 // Of equipment a job can only ask for what the printer has.
@@ -24,6 +23,9 @@ bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice);
 // The choice asks for something that this device cannot do. "None" and "False" of
 // an option that it does not have at all ask for nothing.
 bool lacks(const PpdFile &ppd, const QString &keyword, const QString &choice);
+
+// The PPD says that its device reads tickets of our format; null does not.
+bool readsTickets(const PpdFile *ppd);
 
 // Equipment that the queue's administrator describes; jobs do not change it.
 bool isInstallable(const PpdGroup &group);

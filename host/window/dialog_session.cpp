@@ -334,12 +334,13 @@ Result<void> DialogSession::layFirstSettings()
 // The ticket as this device has it, before the user touches anything.
 void DialogSession::settle()
 {
-    m_missing = m_ppd ? missingOnDevice(*m_session, *m_ppd) : QStringList();
     writeJobSettings(jobSettingsFrom(*m_session, m_ppd.get()), m_ppd.get(), *m_session);
     readAll();
     writeAll();
     m_settled = ticketFileFrom(*m_session);
     m_unchanged = m_settled;
+    m_lookedAt = m_session->printSettings().ppdChoices;
+    m_lastSet.clear();
 }
 
 JobSettings DialogSession::settings() const
@@ -394,9 +395,24 @@ void DialogSession::takeAsUnchanged()
     m_wasChanged = false;
 }
 
+QStringList DialogSession::missing() const
+{
+    return m_ppd ? missingOnDevice(*m_session, *m_ppd) : QStringList();
+}
+
 ConflictReport DialogSession::conflicts()
 {
-    return m_ppd ? findConflicts(*m_session, *m_ppd) : ConflictReport{};
+    if (!m_ppd)
+        return {};
+    // Whoever has just set something wants to keep that. Where more has changed at
+    // once, one is as good as another.
+    const PPDDictionary &choices = m_session->printSettings().ppdChoices;
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
+        if (m_lookedAt.value(choice.key()) != *choice)
+            m_lastSet = choice.key();
+    }
+    m_lookedAt = choices;
+    return findConflicts(*m_session, *m_ppd, m_lastSet);
 }
 
 void DialogSession::fix(const ConflictReport &report)

@@ -85,7 +85,7 @@ public:
     const std::shared_ptr<PpdFile> &ppd() const { return m_ppd; } // null: none
     Extension *panels();                                          // null: none
     const SecretKeys &secretKeys() const { return m_secretKeys; }
-    const QStringList &missing() const { return m_missing; } // not offered here, in words
+    QStringList missing() const; // what the ticket has and this printer does not, in words
 
     bool isDocumentPending() const { return m_document.isNull() && m_documentProblem.isEmpty(); }
     const Document &document() const { return m_document; }              // null: not (yet) there
@@ -167,12 +167,13 @@ private:
     std::unique_ptr<PrintSession> m_session;
     std::unique_ptr<Extension> m_extension; // made once, begun for each printer
     QString m_extensionProblem;             // why it cannot be loaded
-    QStringList m_missing;
-    std::optional<TicketFile> m_carried; // from the last printer
-    TicketFile m_came, m_settled;        // see ticket_layers.h
-    TicketFile m_unchanged;              // what isChanged() compares with
-    bool m_wasChanged = false;           // on an earlier printer, or under another name
-    Dictionary m_unknown;                // root entries of the preset and --ticket-in
+    std::optional<TicketFile> m_carried;    // from the last printer
+    TicketFile m_came, m_settled;           // see ticket_layers.h
+    TicketFile m_unchanged;                 // what isChanged() compares with
+    PPDDictionary m_lookedAt;               // when conflicts were looked for the last time
+    QString m_lastSet;                      // the option that has changed since; empty: none yet
+    bool m_wasChanged = false;              // on an earlier printer, or under another name
+    Dictionary m_unknown;                   // root entries of the preset and --ticket-in
 
     BackgroundTask<Result<Document>> m_opening;
     std::shared_ptr<std::atomic_bool> m_openingCancelled;

@@ -464,6 +464,7 @@ void PrintDialog::fixConflicts()
 
 JobWords PrintDialog::words()
 {
+    commitTypedValues(this);
     m_session->writeAll();
     JobWords words = describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
                                  m_session->secretKeys());
@@ -474,7 +475,6 @@ JobWords PrintDialog::words()
 
 void PrintDialog::showDetails()
 {
-    commitTypedValues(this);
     runJobDetailsDialog(words(), this);
 }
 

@@ -22,6 +22,8 @@ private slots:
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void putsSeparatorsBetweenTransparencies();
+    void keepsWhatWasSetLast_data();
+    void keepsWhatWasSetLast();
     void keepsItsSettingsWhileOthersChange();
     void letsOptionsBeatATicket_data();
     void letsOptionsBeatATicket();
@@ -165,6 +167,34 @@ void TestPanelStories::putsSeparatorsBetweenTransparencies()
                                          {"KVSlipSheetSource", "Tray3"},
                                          {"Duplex", "None"}})
         QCOMPARE(options.values(option), QStringList(choice));
+}
+
+void TestPanelStories::keepsWhatWasSetLast_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("last");
+    QTest::addColumn<QString>("kept"); // of the device's options
+    QTest::addColumn<QString>("choice");
+
+    const QString quality = QStringLiteral("choose @imageQuality key HighQuality\n");
+    const QString toner = QStringLiteral("check @tonerSaver on\n");
+    QTest::newRow("toner saver") << quality << toner << "KVEconomode"
+                                 << "Draft";
+    QTest::newRow("quality") << toner << quality << "KVOutputMode"
+                             << "HighQuality";
+}
+
+void TestPanelStories::keepsWhatWasSetLast()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, last);
+    QFETCH(QString, kept);
+    QFETCH(QString, choice);
+    const Desk desk;
+    write(desk.path("fix.kps"),
+          ("tab 2\n" + first + last + "click @fix\nexpect @fix visible false\nprint\n").toUtf8());
+    QENDED(desk.run({"--demo", "--no-window", "--script", "fix.kps", "--to", "out"}), 0);
+    QCOMPARE(optionsIn(desk.path("out/options")).values(kept), QStringList(choice));
 }
 
 void TestPanelStories::keepsItsSettingsWhileOthersChange()

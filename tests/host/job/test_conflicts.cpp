@@ -152,8 +152,7 @@ void TestConflicts::listWhatTheDeviceLacks()
     session.printSettings().ppdChoices = {
         {"Glitter", "On"}, {"PageSize", "Custom.1x1"}, {"MediaType", "Standard"}};
     QCOMPARE(missingOnDevice(session, *bare),
-             (QStringList{"Glitter: On – this printer does not have it",
-                          "Page Size: Custom.1x1 – this printer does not have it"}));
+             (QStringList{"Glitter: On", "Page Size: Custom.1x1"}));
 }
 
 QTEST_GUILESS_MAIN(TestConflicts)

@@ -174,6 +174,9 @@ void TestSecrets::wordsStayInBounds()
         pages << Dictionary{{"first", page}, {"name", "two\nlines\u0007"}};
     const JobWords words =
         describeJob(ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}), {}, nullptr, {});
+    QCOMPARE(words.notSent,
+             QStringList("2 entries that the device panels add (see Ticket) – this "
+                         "printer reads no tickets"));
     QCOMPARE(words.ticket.size(), 2);
     for (const QString &line : words.ticket) {
         QVERIFY(line.size() < 600);
