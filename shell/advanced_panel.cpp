@@ -54,8 +54,6 @@ AdvancedContext *advancedOf(PMPDEContext context)
 // From the context to the controls.
 void showSettings(const AdvancedContext &advanced)
 {
-    if (!advanced.opened)
-        return;
     SetPopupButtonToTicketValue(advanced.controls.bookletOrder, advanced.bookletOrder);
     for (const PpdRow &row : kPpdRows)
         SetPopupButtonToTicketValue(advanced.controls.*row.popup, advanced.*row.value);
@@ -116,6 +114,20 @@ void fillPopups(AdvancedContext &advanced, const QWidget *content)
     }
 }
 
+void buildContent(AdvancedContext &advanced)
+{
+    QWidget *content = createPanelContent(advanced.bundle, QStringLiteral("AdvancedPanel"),
+                                          QStringLiteral("Advanced"));
+    if (!content)
+        return;
+    fillPopups(advanced, content);
+    arrangeRows(advanced.controls, content);
+    EmbedAndShowControl(content, advanced.parentUserPane);
+    advanced.handler = installEventHandler(
+        content, [&advanced](const Event &event) { return advancedEventHandler(advanced, event); });
+    showSettings(advanced);
+}
+
 OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
@@ -166,19 +178,9 @@ OSStatus Open(PMPDEContext context)
     AdvancedContext *advanced = advancedOf(context);
     if (!advanced || !advanced->parentUserPane)
         return kPMInvalidPDEContext;
-    if (advanced->opened)
-        return noErr;
-    QWidget *content = createPanelContent(advanced->bundle, QStringLiteral("AdvancedPanel"),
-                                          QStringLiteral("Advanced"));
-    if (!content)
-        return kPMInvalidPDEContext;
-    fillPopups(*advanced, content);
-    arrangeRows(advanced->controls, content);
-    EmbedAndShowControl(content, advanced->parentUserPane);
-    advanced->handler = installEventHandler(
-        content, [advanced](const Event &event) { return advancedEventHandler(*advanced, event); });
-    advanced->opened = true;
-    showSettings(*advanced);
+    if (!advanced->lateContent)
+        advanced->lateContent =
+            buildBeforeSeen(advanced->parentUserPane, [advanced] { buildContent(*advanced); });
     return noErr;
 }
 

@@ -2,6 +2,7 @@
 
 #include "bundle.h"
 #include "event.h"
+#include "late_content.h"
 #include "plugin_abi.h"
 #include "popup_button.h"
 #include "ppd_choices.h"
@@ -31,7 +32,6 @@ struct AdvancedControls
 // options "JCLBanner", "Jog" and "KVFeedEdge" for the others.
 struct AdvancedContext
 {
-    bool opened = false;
     CFBundleRef bundle = nullptr;
     QPointer<QWidget> parentUserPane;
     QString title;
@@ -40,7 +40,8 @@ struct AdvancedContext
     std::int32_t banner = kNoPpdChoice;
     std::int32_t offset = kNoPpdChoice;
     std::int32_t feedEdge = kNoPpdChoice;
-    PpdFile *ppd = nullptr; // the current one, from Initialize on
+    PpdFile *ppd = nullptr;  // the current one, from Initialize on
+    LateContent lateContent; // from Open on
     EventHandlerRef handler;
 };
 

@@ -17,11 +17,14 @@ void SummaryView::setSummary(const QString &text)
 {
     if (text == toPlainText())
         return;
-    const bool drew = updatesEnabled();
-    setUpdatesEnabled(false);
+    // Where a parent holds drawing off, it is the parent that lets it go again.
+    const bool draws = updatesEnabled();
+    if (draws)
+        setUpdatesEnabled(false);
     setPlainText(text);
     verticalScrollBar()->setValue(0);
-    setUpdatesEnabled(drew);
+    if (draws)
+        setUpdatesEnabled(true);
 }
 
 QSize SummaryView::sizeHint() const

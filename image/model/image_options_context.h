@@ -21,7 +21,7 @@ struct ImageOptionsContext
     CFBundleRef bundle = nullptr;
     QString title;
     PpdFile *ppd = nullptr; // the current one, from Initialize on
-    bool opened = false;    // the controls exist
+    bool opened = false;    // Open was called
 
     std::int32_t lightenDarken = 0; // -5 to 5; kUnset: the printer's default
     // The ticket's choice for it, which stays while the printer's default is chosen.

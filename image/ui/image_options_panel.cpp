@@ -20,6 +20,22 @@ ImageOptionsPanelContext *panelOf(PMPDEContext context)
     return reinterpret_cast<ImageOptionsPanelContext *>(context);
 }
 
+void buildContent(ImageOptionsPanelContext &panel)
+{
+    panel.content = createPanelContent(panel.bundle, QStringLiteral("ImageOptionsPanel"),
+                                       QStringLiteral("ImageOptions"));
+    if (!panel.content)
+        return;
+    fillImageOptionsControls(panel);
+    InvertImageOpen(panel.bundle, panel.content, panel.content, &panel.invertControls,
+                    &panel.invert);
+    EmbedAndShowControl(panel.content, panel.parentUserPane);
+    panel.handler = installEventHandler(panel.content, [&panel](const Event &event) {
+        return ImageOptionsEventHandler(panel, event);
+    });
+    RestoreUIValuesFromData(panel);
+}
+
 OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
@@ -84,19 +100,8 @@ OSStatus Open(PMPDEContext context)
         return kPMInvalidPDEContext;
     if (panel->opened)
         return noErr;
-    panel->content = createPanelContent(panel->bundle, QStringLiteral("ImageOptionsPanel"),
-                                        QStringLiteral("ImageOptions"));
-    if (!panel->content)
-        return kPMInvalidPDEContext;
-    fillImageOptionsControls(*panel);
-    InvertImageOpen(panel->bundle, panel->content, panel->content, &panel->invertControls,
-                    &panel->invert);
-    EmbedAndShowControl(panel->content, panel->parentUserPane);
-    panel->handler = installEventHandler(panel->content, [panel](const Event &event) {
-        return ImageOptionsEventHandler(*panel, event);
-    });
     panel->opened = true;
-    RestoreUIValuesFromData(*panel);
+    panel->lateContent = buildBeforeSeen(panel->parentUserPane, [panel] { buildContent(*panel); });
     return noErr;
 }
 

@@ -207,7 +207,7 @@ void fillImageOptionsControls(ImageOptionsPanelContext &panel)
 
 void SaveUIValuesToData(ImageOptionsPanelContext &panel)
 {
-    if (!panel.opened)
+    if (!panel.content)
         return;
     const ImageOptionsControls &controls = panel.controls;
     if (controls.printerDefault && controls.lightenDarken)
@@ -229,7 +229,7 @@ void SaveUIValuesToData(ImageOptionsPanelContext &panel)
 
 void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
 {
-    if (!panel.opened)
+    if (!panel.content)
         return;
     const ImageOptionsControls &controls = panel.controls;
     showLightenDarken(panel);

@@ -3,6 +3,7 @@
 #include "event.h"
 #include "image_options_context.h"
 #include "invert_image_controls.h"
+#include "late_content.h"
 #include "picture_view.h"
 #include "popup_button.h"
 #include "spin_field.h"
@@ -21,7 +22,7 @@ inline constexpr std::int32_t kLightenDarkenSlider = 1102;
 inline constexpr std::int32_t kLightenDarkenField = 1104;
 inline constexpr std::int32_t kShowAgain = 1004; // another control; the panel shows itself again
 
-// Null while the panel is closed.
+// Null until they are built.
 struct ImageOptionsControls
 {
     QPointer<QSlider> lightenDarkenSlider;              // KPDE 1102
@@ -45,7 +46,8 @@ struct ImageOptionsControls
 struct ImageOptionsPanelContext : ImageOptionsContext
 {
     QPointer<QWidget> parentUserPane;
-    QPointer<QWidget> content; // the panel's own views, once opened
+    LateContent lateContent;   // from Open on
+    QPointer<QWidget> content; // the panel's own views, once they are built
     ImageOptionsControls controls;
     InvertImageContext invertControls;
     EventHandlerRef handler;
@@ -55,7 +57,7 @@ struct ImageOptionsPanelContext : ImageOptionsContext
 // pop-ups from the PPD. What the device does not have is disabled, and says so.
 void fillImageOptionsControls(ImageOptionsPanelContext &panel);
 
-// From the controls to the context; nothing happens while the panel is closed.
+// From the controls to the context; nothing happens before they are built.
 void SaveUIValuesToData(ImageOptionsPanelContext &panel);
 // From the context to the controls and the pictures; likewise.
 void RestoreUIValuesFromData(ImageOptionsPanelContext &panel);

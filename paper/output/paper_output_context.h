@@ -35,7 +35,7 @@ struct _PaperOutputContext // NOLINT(bugprone-reserved-identifier): the panel's 
     CFBundleRef bundle = nullptr;
     QString title;
     QString documentName; // what a saved job is called that takes the job's name
-    bool opened = false;  // the controls exist
+    bool opened = false;  // from Open to Close
 
     std::int32_t jobType = 0;     // JobTypeMap; 0 until the first read
     std::int32_t colorMode = 0;   // "KVColorMode"

@@ -46,6 +46,28 @@ void runFaxSetupFor(PMPDEContext context)
         runFaxSetup(*panel);
 }
 
+void buildContent(PaperOutputPanelContext &panel)
+{
+    panel.content = createPanelContent(panel.bundle, QStringLiteral("PaperOutputPanel"),
+                                       QStringLiteral("PaperOutput"));
+    if (!panel.content)
+        return;
+    panel.controls = findPaperOutputControls(panel.content);
+    fillPaperOutputControls(panel);
+    EmbedAndShowControl(panel.content, panel.parentUserPane);
+    panel.handler = installEventHandler(panel.content, [&panel](const Event &event) {
+        return PaperOutputEventHandler(panel, event);
+    });
+    panel.stockButtonData.bundle = panel.bundle;
+    panel.stockButtonData.stock = &panel.jobStock;
+    panel.stockButtonData.jobContext = kJobContextJob;
+    panel.stockButtonData.summary = panel.controls.stockSummary;
+    panel.stockButtonData.icon = panel.controls.stockIcon;
+    panel.stockButtonData.changed = [&panel] { showStockAndSeparators(panel); };
+    InitializeStockMenuButton(panel.controls.stockButton, &panel.stockButtonData);
+    showPaperOutput(panel);
+}
+
 OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
@@ -115,26 +137,9 @@ OSStatus Open(PMPDEContext context)
         return kPMInvalidPDEContext;
     if (panel->opened)
         return noErr;
-    panel->content = createPanelContent(panel->bundle, QStringLiteral("PaperOutputPanel"),
-                                        QStringLiteral("PaperOutput"));
-    if (!panel->content)
-        return kPMInvalidPDEContext;
-    panel->controls = findPaperOutputControls(panel->content);
-    panel->devices = installedFinishingDevices();
-    fillPaperOutputControls(*panel);
-    EmbedAndShowControl(panel->content, panel->parentUserPane);
-    panel->handler = installEventHandler(panel->content, [panel](const Event &event) {
-        return PaperOutputEventHandler(*panel, event);
-    });
-    panel->stockButtonData.bundle = panel->bundle;
-    panel->stockButtonData.stock = &panel->jobStock;
-    panel->stockButtonData.jobContext = kJobContextJob;
-    panel->stockButtonData.summary = panel->controls.stockSummary;
-    panel->stockButtonData.icon = panel->controls.stockIcon;
-    panel->stockButtonData.changed = [panel] { showStockAndSeparators(*panel); };
-    InitializeStockMenuButton(panel->controls.stockButton, &panel->stockButtonData);
     panel->opened = true;
-    showPaperOutput(*panel);
+    panel->devices = installedFinishingDevices();
+    panel->lateContent = buildBeforeSeen(panel->parentUserPane, [panel] { buildContent(*panel); });
     return noErr;
 }
 
@@ -143,6 +148,7 @@ OSStatus Close(PMPDEContext context)
     PaperOutputPanelContext *panel = panelOf(context);
     if (!panel)
         return kPMInvalidPDEContext;
+    panel->lateContent.reset();
     FinalizeStockMenuButton(&panel->stockButtonData);
     panel->handler.remove();
     delete panel->content;

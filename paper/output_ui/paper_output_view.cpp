@@ -199,7 +199,7 @@ void showOutputColor(const PaperOutputPanelContext &panel)
 
 void showPaperOutput(const PaperOutputPanelContext &panel)
 {
-    if (!panel.opened)
+    if (!panel.content)
         return;
     StockIconEventHandler(panel.stockButtonData);
     showStockAndSeparators(panel);

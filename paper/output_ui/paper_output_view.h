@@ -1,6 +1,7 @@
 #pragma once
 
 #include "event.h"
+#include "late_content.h"
 #include "menu_button.h"
 #include "paper_output_context.h"
 #include "picture_view.h"
@@ -29,7 +30,7 @@ inline constexpr std::int32_t kHolePunchPopup = 116;
 inline constexpr std::int32_t kOutputColorPopup = 119;
 inline constexpr std::int32_t kOutputDestinationPopup = 126;
 
-// Null while the panel is closed.
+// Null until they are built, and while the panel is closed.
 struct PaperOutputControls
 {
     QPointer<PopupButton> jobType;           // KPDE 102
@@ -62,7 +63,8 @@ struct PaperOutputPanelContext : _PaperOutputContext
 {
     QPointer<QWidget> parentUserPane;
     PpdFile *ppd = nullptr;    // the current one, from Initialize on
-    QPointer<QWidget> content; // the panel's own views, from Open to Close
+    LateContent lateContent;   // from Open to Close
+    QPointer<QWidget> content; // the panel's own views, once they are built
     PaperOutputControls controls;
     _StockMenuCommandEventHandlerData stockButtonData;
     EventHandlerRef handler;
@@ -74,7 +76,7 @@ PaperOutputControls findPaperOutputControls(const QWidget *content);
 // have is disabled.
 void fillPaperOutputControls(PaperOutputPanelContext &panel);
 
-// From the context to the controls; nothing happens while the panel is closed.
+// From the context to the controls; nothing happens where there are none.
 void showPaperOutput(const PaperOutputPanelContext &panel);
 // Parts of it.
 void showJobType(const PaperOutputPanelContext &panel);

@@ -206,6 +206,8 @@ void TestPaperOutputPanel::menusAreShownAgainToo()
 void TestPaperOutputPanel::opensAgainAfterItWasClosed()
 {
     Panel panel(m_factory, QStringLiteral("full"));
+    // It was built and filled while the shell held drawing off.
+    QVERIFY(panel.find<SummaryView>(kPanelSignature, 107)->updatesEnabled());
     QVERIFY(panel.popup(kTwoSided)->choose(2));
     const QString before = panel.shown();
     QCOMPARE(panel.close(), noErr);

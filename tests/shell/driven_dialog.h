@@ -5,12 +5,15 @@
 #include "plugin_abi.h"
 #include "print_session.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QPushButton>
 #include <QTemporaryFile>
 #include <QUuid>
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <algorithm>
 #include <memory>
 #include <unistd.h>
 
@@ -70,13 +73,26 @@ public:
             interface->table->Terminate(context, kelvo::noErr);
         context = nullptr;
     }
-    // Up and in front; false when a step failed.
+    // Up and in front, with the panels of all tabs built; false when a step failed.
     bool begin()
     {
         const bool up =
             prologue() == kelvo::noErr && initialize() == kelvo::noErr && open() == kelvo::noErr;
         window.show();
-        return up;
+        // Those of hidden tabs come after the first frame.
+        const auto panes = pane->findChildren<QWidget *>();
+        const auto areBuilt = [&panes] {
+            return std::all_of(panes.cbegin(), panes.cend(), [](const QWidget *each) {
+                const auto id = kelvo::controlIDOf(each);
+                return !id || id->signature != kelvo::kUserPaneSignature || each->layout();
+            });
+        };
+        constexpr qint64 longestWaitMs = 5000;
+        QElapsedTimer waited;
+        waited.start();
+        while (up && !areBuilt() && waited.elapsed() < longestWaitMs)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        return up && areBuilt();
     }
 
     template <typename T>
