@@ -164,7 +164,7 @@ int panelEntries(const TicketFile &ticket)
 } // namespace
 
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
-                     const SecretKeys &keys)
+                     const SecretKeys &keys, const std::vector<EntryWords> &entryWords)
 {
     JobWords words;
     addHostSettings(settings, ppd, words);
@@ -177,14 +177,16 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
             words.notSent << settingWords(choice.key(), choice.value(), ppd)
                     + QStringLiteral(" – this printer does not have it");
     }
-    // Only the panels know what their entries say; that they are there is said.
-    if (const int count = panelEntries(ticket); count > 0) {
-        const QString entries = QStringLiteral("%1 that the device panels add (see Ticket)")
-                                    .arg(counted(count, "entry", "entries"));
-        if (readsTickets(ppd))
-            words.settings << entries;
-        else
-            words.notSent << entries + QStringLiteral(" – this printer reads no tickets");
+    QStringList entries = entriesInWords(ticket.printSettings, entryWords);
+    // Of the others only the panels know what they say; that they are there is said.
+    if (const int count = panelEntries(ticket); count > 0)
+        entries << QStringLiteral("%1 that the device panels add (see Ticket)")
+                       .arg(counted(count, "entry", "entries"));
+    if (readsTickets(ppd)) {
+        words.settings += entries;
+    } else {
+        for (const QString &entry : entries)
+            words.notSent << entry + QStringLiteral(" – this printer reads no tickets");
     }
     const TicketFile shown = masked(ticket, keys);
     words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);

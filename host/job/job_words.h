@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entry_words.h"
 #include "job_settings.h"
 #include "ppd_file.h"
 #include "secret_keys.h"
@@ -23,8 +24,9 @@ struct JobWords
 };
 // Texts of the PPD and the ticket come as plain text on one line; a ticket value
 // longer than 500 characters is cut and says so. Equipment is not listed.
+// Entries of the panels are told as far as `entryWords` has words for them.
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
-                     const SecretKeys &keys);
+                     const SecretKeys &keys, const std::vector<EntryWords> &entryWords);
 
 // "12 pages, 6 sheets × 2 copies = 12 sheets, locked": what the foot says. `pages`
 // are those to be printed, 0 while they are not known; two-sided sheets count

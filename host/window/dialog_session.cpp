@@ -26,6 +26,7 @@ DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObjec
     , m_panesParent(panesParent)
     , m_secretKeys(secretKeysOf(m_options.bundle))
     , m_repeatedChoices(repeatedChoicesOf(m_options.bundle))
+    , m_entryWords(entryWordsOf(m_options.bundle))
     , m_session(std::make_unique<PrintSession>())
 {
     if (!m_options.document)

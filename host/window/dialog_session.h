@@ -4,6 +4,7 @@
 #include "command_line.h"
 #include "conflicts.h"
 #include "document.h"
+#include "entry_words.h"
 #include "exit_status.h"
 #include "extension.h"
 #include "job_settings.h"
@@ -85,6 +86,7 @@ public:
     const std::shared_ptr<PpdFile> &ppd() const { return m_ppd; } // null: none
     Extension *panels();                                          // null: none
     const SecretKeys &secretKeys() const { return m_secretKeys; }
+    const std::vector<EntryWords> &entryWords() const { return m_entryWords; }
     QStringList missing() const; // what the ticket has and this printer does not, in words
 
     bool isDocumentPending() const { return m_document.isNull() && m_documentProblem.isEmpty(); }
@@ -164,6 +166,7 @@ private:
     PresetStore m_presets;
     SecretKeys m_secretKeys;
     RepeatedChoices m_repeatedChoices;
+    std::vector<EntryWords> m_entryWords;
     std::unique_ptr<PrintSession> m_session;
     std::unique_ptr<Extension> m_extension; // made once, begun for each printer
     QString m_extensionProblem;             // why it cannot be loaded

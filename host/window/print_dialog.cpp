@@ -467,7 +467,7 @@ JobWords PrintDialog::words()
     commitTypedValues(this);
     m_session->writeAll();
     JobWords words = describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
-                                 m_session->secretKeys());
+                                 m_session->secretKeys(), m_session->entryWords());
     if (Extension *panels = m_session->panels())
         words.settings += panels->summary();
     return words;

@@ -22,6 +22,7 @@ private slots:
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void putsSeparatorsBetweenTransparencies();
+    void saysWhatPanelsEntered();
     void keepsWhatWasSetLast_data();
     void keepsWhatWasSetLast();
     void keepsItsSettingsWhileOthersChange();
@@ -167,6 +168,18 @@ void TestPanelStories::putsSeparatorsBetweenTransparencies()
                                          {"KVSlipSheetSource", "Tray3"},
                                          {"Duplex", "None"}})
         QCOMPARE(options.values(option), QStringList(choice));
+}
+
+void TestPanelStories::saysWhatPanelsEntered()
+{
+    const Desk desk;
+    write(desk.path("look.kps"),
+          "tab 1\nchoose @jobType key SampleSet\ntab 2\ncheck @mirrorImage on\nsummary\nprint\n");
+    const Run run = desk.run({"--demo", "--no-window", "--script", "look.kps", "--to", "out"});
+    QENDED(run, 0);
+    for (const char *words : {"Job type: Sample set", "Invert image: Mirror image"})
+        QVERIFY2(run.out.contains(words), qPrintable(run.out));
+    QVERIFY(!run.out.contains("Negative image"));
 }
 
 void TestPanelStories::keepsWhatWasSetLast_data()

@@ -128,6 +128,10 @@
         <translation>Exchanges left and right, for film and transfers.</translation>
     </message>
     <message>
+        <source>Negative Image Title</source>
+        <translation>Negative image</translation>
+    </message>
+    <message>
         <source>Negative Image Hint</source>
         <translation>The ticket asks for a negative, and keeps it.</translation>
     </message>

@@ -123,10 +123,14 @@ void TestSecrets::neverStandInWords()
     TicketFile file = ticketOf(sample);
     file.printSettings.ppdChoices = {{"StapleLocation", "DualPortrait"}, {"Glitter", "On"}};
     const JobWords words = describeJob(file, {3, false, "2-5", "A4", Orientation::Landscape},
-                                       ppd.value().get(), {{"Job/Password", "People/*/Code"}, {}});
+                                       ppd.value().get(), {{"Job/Password", "People/*/Code"}, {}},
+                                       {{"Job/Pin", "Pin:", {{77, "the lucky one"}}},
+                                        {"Job/Name", "Name:", {{0, "none"}}},
+                                        {"Job/Pin/Deep", "Deep:", {{77, "no"}}},
+                                        {"Gone", "Gone:", {{0, "no"}}}});
     QCOMPARE(words.settings,
              (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: Landscape",
-                          "Stapling: 2 Staples, Portrait",
+                          "Stapling: 2 Staples, Portrait", "Pin: the lucky one",
                           "3 entries that the device panels add (see Ticket)"}));
     QCOMPARE(words.notSent, QStringList{"Glitter: On – this printer does not have it"});
     QVERIFY(words.defaults.contains("Page Size: A4 (210 × 297 mm)"));
@@ -172,8 +176,8 @@ void TestSecrets::wordsStayInBounds()
     Array pages;
     for (int page = 0; page < 99999; ++page)
         pages << Dictionary{{"first", page}, {"name", "two\nlines\u0007"}};
-    const JobWords words =
-        describeJob(ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}), {}, nullptr, {});
+    const JobWords words = describeJob(ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}),
+                                       {}, nullptr, {}, {});
     QCOMPARE(words.notSent,
              QStringList("2 entries that the device panels add (see Ticket) – this "
                          "printer reads no tickets"));
