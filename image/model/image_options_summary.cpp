@@ -2,9 +2,24 @@
 
 #include "lighten_darken.h"
 #include "ppd_choices.h"
+#include "string_table.h"
 #include "ticket_values.h"
 
 namespace kelvo {
+
+namespace {
+
+const QString lightnessOption = QStringLiteral("KVImageQuality");
+
+// A choice of the PPD's own is called as the PPD does.
+QString choiceText(const ImageOptionsContext &context, const QString &choice)
+{
+    const std::int32_t step = lightenDarkenStep(choice);
+    return step == kUnset ? PPDCopyChoiceText(context.ppd, lightnessOption, choice).value_or(choice)
+                          : lightenDarkenText(context.bundle, step);
+}
+
+} // namespace
 
 QString lightenDarkenText(CFBundleRef bundle, std::int32_t lightenDarken)
 {
@@ -12,11 +27,33 @@ QString lightenDarkenText(CFBundleRef bundle, std::int32_t lightenDarken)
     return localizedText(bundle, QString::fromLatin1(step ? step : "PrinterDefault"));
 }
 
+QString lightenDarkenWords(const ImageOptionsContext &context)
+{
+    const CFBundleRef bundle = context.bundle;
+    const PpdOption *option = context.ppd ? context.ppd->findOption(lightnessOption) : nullptr;
+    if (!option)
+        return localizedText(bundle, QStringLiteral("Not on This Device"));
+    if (context.lightenDarken != kUnset) {
+        const auto choice = PPDChoiceForTicketValue(lightnessOption, context.lightenDarken);
+        return choice && option->findChoice(*choice)
+            ? lightenDarkenText(bundle, context.lightenDarken)
+            : localizedText(bundle, QStringLiteral("Choice Not Offered"));
+    }
+    // The printer's default is a choice like others, and a job that has one keeps it.
+    const auto usual = PPDCopyDefaultChoice(context.ppd, lightnessOption);
+    if (context.keptLightness && context.keptLightness != usual)
+        return formatted(localizedText(bundle, QStringLiteral("Kept Lightness Words")),
+                         {choiceText(context, *context.keptLightness)});
+    return usual ? formatted(localizedText(bundle, QStringLiteral("Printer Default Words")),
+                             {choiceText(context, *usual)})
+                 : QString();
+}
+
 std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsContext &context)
 {
     const CFBundleRef bundle = context.bundle;
     std::vector<SummaryLine> lines;
-    if (context.ppd && context.ppd->findOption(QStringLiteral("KVImageQuality")))
+    if (context.ppd && context.ppd->findOption(lightnessOption))
         addSummaryLine(lines, bundle,
                        "Lighten/Darken:", lightenDarkenText(bundle, context.lightenDarken));
     const auto addChoice = [&](const char *labelKey, const char *option, std::int32_t value) {

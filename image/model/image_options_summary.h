@@ -8,6 +8,10 @@ namespace kelvo {
 // "Lighten 3", "Printer default"; in the words of the user's language.
 QString lightenDarkenText(CFBundleRef bundle, std::int32_t lightenDarken);
 
+// What the panel says of the lightness: the step, or what the job does where none is
+// chosen or the device does not offer it.
+QString lightenDarkenWords(const ImageOptionsContext &context);
+
 // What the panel has chosen, in words. A line whose setting the device does not
 // have, or that has no words, is left out.
 std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsContext &context);

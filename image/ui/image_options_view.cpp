@@ -6,9 +6,7 @@
 #include "image_options_summary.h"
 #include "lighten_darken.h"
 #include "popups.h"
-#include "ppd_choices.h"
 #include "ppd_file.h"
-#include "string_table.h"
 #include "ticket_values.h"
 
 #include <array>
@@ -100,32 +98,6 @@ void setUpLightenDarken(const ImageOptionsPanelContext &panel)
         if (auto *label = findControl<QLabel>(panel.content, panelID(number)))
             label->setText(text);
     }
-}
-
-QString lightenDarkenWords(const ImageOptionsPanelContext &panel)
-{
-    if (!hasOption(panel, "KVImageQuality"))
-        return localizedText(panel.bundle, QStringLiteral("Not on This Device"));
-    if (panel.lightenDarken != kUnset) {
-        const PpdOption *option = panel.ppd->findOption(QStringLiteral("KVImageQuality"));
-        const auto step = PPDChoiceForTicketValue(option->keyword, panel.lightenDarken);
-        return step && option->findChoice(*step)
-            ? lightenDarkenText(panel.bundle, panel.lightenDarken)
-            : localizedText(panel.bundle, QStringLiteral("Choice Not Offered"));
-    }
-    // The printer's default is a choice like others, and a job that has one keeps it.
-    const auto usual = PPDCopyDefaultChoice(panel.ppd, QStringLiteral("KVImageQuality"));
-    const bool isKept = panel.keptLightness && panel.keptLightness != usual;
-    const auto choice = isKept ? panel.keptLightness : usual;
-    if (!choice)
-        return {};
-    const std::int32_t step = lightenDarkenStep(*choice);
-    const auto ppdText = PPDCopyChoiceText(panel.ppd, QStringLiteral("KVImageQuality"), *choice);
-    return formatted(
-        localizedText(panel.bundle,
-                      isKept ? QStringLiteral("Kept Lightness Words")
-                             : QStringLiteral("Printer Default Words")),
-        {step == kUnset ? ppdText.value_or(*choice) : lightenDarkenText(panel.bundle, step)});
 }
 
 void showLightenDarken(const ImageOptionsPanelContext &panel)
