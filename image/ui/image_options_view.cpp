@@ -6,6 +6,7 @@
 #include "image_options_summary.h"
 #include "lighten_darken.h"
 #include "popups.h"
+#include "ppd_choices.h"
 #include "ppd_file.h"
 #include "ticket_values.h"
 
@@ -134,6 +135,28 @@ void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
                                                        : QStringLiteral("Choice Not Offered")));
 }
 
+// 0 is none, for a PPD without default.
+bool isTonerSaverOffered(const ImageOptionsPanelContext &panel)
+{
+    const QString keyword = QStringLiteral("KVEconomode");
+    const PpdOption *option = panel.ppd ? panel.ppd->findOption(keyword) : nullptr;
+    const auto choice = PPDChoiceForTicketValue(keyword, panel.tonerSaver);
+    return option && (panel.tonerSaver == 0 || (choice && option->findChoice(*choice)));
+}
+
+void showTonerSaver(const ImageOptionsPanelContext &panel)
+{
+    if (!panel.controls.tonerSaver)
+        return;
+    panel.controls.tonerSaver->setChecked(panel.tonerSaver == kTonerSaverOn);
+    auto *hint = findControl<QLabel>(panel.content, panelID(tonerSaverHint));
+    if (hint && hasOption(panel, "KVEconomode"))
+        hint->setText(localizedText(panel.bundle,
+                                    isTonerSaverOffered(panel)
+                                        ? QStringLiteral("Toner Saver Hint")
+                                        : QStringLiteral("Choice Not Offered")));
+}
+
 void showPictures(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
@@ -142,10 +165,12 @@ void showPictures(const ImageOptionsPanelContext &panel)
     };
     const auto isShown = [](const PopupButton *popup) { return popup && popup->value() > 0; };
     show(controls.lightenDarkenPicture, hasOption(panel, "KVImageQuality"),
-         lightenDarkenPicture(panel.lightenDarken));
+         lightenDarkenPicture(panel.lightenDarken == kUnset && panel.keptLightness
+                                  ? lightenDarkenStep(*panel.keptLightness)
+                                  : panel.lightenDarken));
     show(controls.imageQualityPicture, isShown(controls.imageQuality),
          imageQualityPicture(panel.imageQuality));
-    show(controls.tonerSaverPicture, hasOption(panel, "KVEconomode"),
+    show(controls.tonerSaverPicture, isTonerSaverOffered(panel),
          tonerSaverPicture(panel.tonerSaver));
     show(controls.cmykSourceColorPicture, isShown(controls.cmykSourceColor),
          cmykSourceColorPicture(panel.cmykSourceColor));
@@ -193,7 +218,7 @@ void SaveUIValuesToData(ImageOptionsPanelContext &panel)
     }
     if (controls.tonerSaver && controls.tonerSaver->isChecked())
         panel.tonerSaver = kTonerSaverOn;
-    else if (controls.tonerSaver && panel.tonerSaver != kNoPpdChoice)
+    else if (panel.tonerSaver == kTonerSaverOn)
         panel.tonerSaver = kTonerSaverOff;
     if (controls.mirror)
         panel.invert.mirror = controls.mirror->isChecked();
@@ -207,8 +232,7 @@ void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
     showLightenDarken(panel);
     for (const PpdRow &row : ppdRows)
         showPpdRow(panel, row);
-    if (controls.tonerSaver)
-        controls.tonerSaver->setChecked(panel.tonerSaver == kTonerSaverOn);
+    showTonerSaver(panel);
     if (controls.mirror)
         controls.mirror->setChecked(panel.invert.mirror);
     if (controls.invertHint)
