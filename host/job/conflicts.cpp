@@ -131,10 +131,16 @@ std::optional<PpdSelection> findFix(PpdFile &ppd, const PpdSelection &selection,
         return std::any_of(keywords.begin(), keywords.end(),
                            [&](const QString &keyword) { return fix.contains(keyword); });
     };
+    // Paper is more than one option, and half of another paper is none. It gives way
+    // only where nothing else helps, and so does what the user has just set.
+    const std::set<QString> paper{QStringLiteral("PageSize"), QStringLiteral("PageRegion"),
+                                  QStringLiteral("MediaType"), QStringLiteral("MediaColor")};
     const auto found = ppd.resolve(selection, keep);
-    // What the user has just set gives way only where nothing else helps.
-    for (const QString &kept : {keep, QString()}) {
+    for (const auto &[keepsPaper, kept] : {std::pair(true, keep), std::pair(true, QString()),
+                                           std::pair(false, keep), std::pair(false, QString())}) {
         std::set<QString> fixed = equipment;
+        if (keepsPaper)
+            fixed.insert(paper.begin(), paper.end());
         if (!kept.isEmpty())
             fixed.insert(kept);
         if (found && !found->isEmpty() && !touches(*found, fixed))

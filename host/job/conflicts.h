@@ -27,7 +27,8 @@ struct ConflictReport
 
 // What is wrong with the session's choices on this PPD; choices that the PPD
 // lacks count for nothing. `keep` is the option that the user has just set: the
-// fix changes others where it can. A fix never changes the device's equipment.
+// fix changes others where it can, and the paper last of all. It never changes the
+// device's equipment.
 ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QString &keep = {});
 
 // Puts the fix's choices into the session, and nothing else. A page size among

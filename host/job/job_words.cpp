@@ -177,7 +177,8 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
             words.notSent << settingWords(choice.key(), choice.value(), ppd)
                     + QStringLiteral(" – this printer does not have it");
     }
-    QStringList entries = entriesInWords(ticket.printSettings, entryWords);
+    const TicketFile shown = masked(ticket, keys);
+    QStringList entries = entriesInWords(shown.printSettings, entryWords);
     // Of the others only the panels know what they say; that they are there is said.
     if (const int count = panelEntries(ticket); count > 0)
         entries << QStringLiteral("%1 that the device panels add (see Ticket)")
@@ -188,7 +189,6 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
         for (const QString &entry : entries)
             words.notSent << entry + QStringLiteral(" – this printer reads no tickets");
     }
-    const TicketFile shown = masked(ticket, keys);
     words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);
     return words;
 }

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace kelvo {
 
 namespace {
@@ -58,7 +60,10 @@ void ConflictBar::setReport(const ConflictReport &report, const QStringList &mis
     m_report = report;
     m_missing = missing;
     const bool isConflict = !m_report.isEmpty();
-    const bool tellsMissing = !isConflict && !m_missing.isEmpty() && m_missing != m_hiddenMissing;
+    const bool isKnown =
+        std::all_of(m_missing.cbegin(), m_missing.cend(),
+                    [this](const auto &each) { return m_hiddenMissing.contains(each); });
+    const bool tellsMissing = !isConflict && !isKnown;
     m_fix->setVisible(isConflict && !m_report.fix.isEmpty());
     const QString fixes = m_report.fixWords.size() == 1
         ? tr("Fix: %1").arg(m_report.fixWords.front())

@@ -1,6 +1,7 @@
 #include "dialog_session.h"
 
 #include "nearest_name.h"
+#include "ppd_words.h"
 #include "ticket_attachment.h"
 #include "ticket_layers.h"
 #include "values.h"
@@ -335,6 +336,7 @@ Result<void> DialogSession::layFirstSettings()
 // The ticket as this device has it, before the user touches anything.
 void DialogSession::settle()
 {
+    const PPDDictionary came = m_session->printSettings().ppdChoices;
     writeJobSettings(jobSettingsFrom(*m_session, m_ppd.get()), m_ppd.get(), *m_session);
     readAll();
     writeAll();
@@ -342,6 +344,14 @@ void DialogSession::settle()
     m_unchanged = m_settled;
     m_lookedAt = m_session->printSettings().ppdChoices;
     m_lastSet.clear();
+    // What this device lacks and a panel has put another choice for.
+    m_replaced.clear();
+    for (auto choice = came.cbegin(); m_ppd && choice != came.cend(); ++choice) {
+        const QString now = m_lookedAt.value(choice.key());
+        if (now != *choice && lacks(*m_ppd, choice.key(), *choice))
+            m_replaced.insert(choice.key(),
+                              {settingWords(choice.key(), *choice, m_ppd.get()), now});
+    }
 }
 
 JobSettings DialogSession::settings() const
@@ -398,7 +408,15 @@ void DialogSession::takeAsUnchanged()
 
 QStringList DialogSession::missing() const
 {
-    return m_ppd ? missingOnDevice(*m_session, *m_ppd) : QStringList();
+    if (!m_ppd)
+        return {};
+    QStringList missing = missingOnDevice(*m_session, *m_ppd);
+    // Until the user chooses something else there.
+    for (auto option = m_replaced.cbegin(); option != m_replaced.cend(); ++option) {
+        if (m_session->printSettings().ppdChoices.value(option.key()) == option->by)
+            missing << option->words;
+    }
+    return missing;
 }
 
 ConflictReport DialogSession::conflicts()
@@ -420,6 +438,7 @@ void DialogSession::fix(const ConflictReport &report)
 {
     dropRepeats(m_session->printSettings(), report.fix, m_repeatedChoices);
     applyFix(report, *m_session);
+    writeJobSettings(settings(), m_ppd.get(), *m_session); // the size of another paper
     readAll();
 }
 

@@ -173,10 +173,16 @@ private:
     std::optional<TicketFile> m_carried;    // from the last printer
     TicketFile m_came, m_settled;           // see ticket_layers.h
     TicketFile m_unchanged;                 // what isChanged() compares with
-    PPDDictionary m_lookedAt;               // when conflicts were looked for the last time
-    QString m_lastSet;                      // the option that has changed since; empty: none yet
-    bool m_wasChanged = false;              // on an earlier printer, or under another name
-    Dictionary m_unknown;                   // root entries of the preset and --ticket-in
+    struct Replaced
+    {
+        QString words; // "Two-Sided Printing: Bogus"
+        QString by;    // the choice that stands there now
+    };
+    QMap<QString, Replaced> m_replaced; // options whose choice this device lacks
+    PPDDictionary m_lookedAt;           // when conflicts were looked for the last time
+    QString m_lastSet;                  // the option that has changed since; empty: none yet
+    bool m_wasChanged = false;          // on an earlier printer, or under another name
+    Dictionary m_unknown;               // root entries of the preset and --ticket-in
 
     BackgroundTask<Result<Document>> m_opening;
     std::shared_ptr<std::atomic_bool> m_openingCancelled;

@@ -53,6 +53,8 @@ constexpr int lookDelayMs = 150;
 // gone before it can be read, and one frame less.
 constexpr int graceMs = 40;
 
+// So long scripts wait for panels of hidden tabs; one may fail to be built.
+constexpr int panelsWaitMs = 1000;
 // So long the document waits for the first frame with the printer's settings.
 constexpr int firstFrameMs = 300;
 // So long an interrupted job may still tell what became of it.
@@ -299,6 +301,7 @@ void PrintDialog::takeStage()
 {
     const bool isReady = m_session->stage() == DialogSession::Stage::Ready;
     Extension *panels = isReady ? m_session->panels() : nullptr;
+    m_sinceReady.start();
     m_waiting->setMessage(m_session->message());
     m_stack->setCurrentWidget(panels ? m_panes : m_waiting);
     {
@@ -456,6 +459,7 @@ void PrintDialog::showWhatFollows()
 
 void PrintDialog::fixConflicts()
 {
+    commitTypedValues(this);
     m_session->writeAll();
     m_session->fix(m_session->conflicts());
     m_look.stop();
@@ -779,9 +783,21 @@ bool PrintDialog::isIdle() const
     if (std::any_of(buttons.cbegin(), buttons.cend(),
                     [](const QAbstractButton *each) { return each->isDown(); }))
         return false;
+    // The panels of hidden tabs follow the first frame.
+    if (m_sinceReady.isValid() && m_sinceReady.elapsed() < panelsWaitMs && !arePanelsBuilt())
+        return false;
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
             && !m_look.isActive() && !m_firstFrame.isActive());
+}
+
+bool PrintDialog::arePanelsBuilt() const
+{
+    const auto panes = m_scroll->findChildren<QWidget *>();
+    return std::all_of(panes.cbegin(), panes.cend(), [](const QWidget *pane) {
+        const auto id = controlIDOf(pane);
+        return !id || id->signature != kUserPaneSignature || pane->layout();
+    });
 }
 
 bool PrintDialog::isDrawing() const

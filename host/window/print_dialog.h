@@ -109,6 +109,7 @@ private:
     QString findPagesProblem() const;
     void end(ExitStatus status);
 
+    bool arePanelsBuilt() const;
     void arrangeTabOrder();
     void updatePrintButton();
     void updatePreview();
@@ -141,6 +142,7 @@ private:
     bool m_isInterrupted = false;   // what is under way is the last
     QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
     QElapsedTimer m_sinceShown;
+    QElapsedTimer m_sinceReady; // for the printer, or known not to be
     QMap<QString, QString> m_secrets;
 
     std::unique_ptr<PrintRun> m_run;

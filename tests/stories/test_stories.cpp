@@ -396,7 +396,9 @@ void TestStories::keepsPagesAcrossPresetsAndPrinters()
     const std::size_t before = m_cups.jobs(0).size();
     write(desk.path("s.kps"),
           "choose @pagesChoice key range\ntype @pages \"2-3\"\nchoose @preset row 1\n"
-          "choose @printer key No-Ticket\nprint\n");
+          "choose @printer key No-Ticket\n"
+          "expect @bannerSheet visible false\n" // a hidden tab's, and there
+          "print\n");
     const Run run = desk.run({"-d", "Hall-3", "--no-window", "--script", "s.kps", documentPath});
     QENDED(run, 0);
     const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);

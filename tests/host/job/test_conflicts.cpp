@@ -62,8 +62,13 @@ void TestConflicts::areNamedAndMended_data()
         "“Paper Type: Transparency” and “Stapling: 2 Staples, Portrait” cannot be used together.";
     const PpdSelection stapled{{"StapleLocation", "DualPortrait"}, {"MediaType", "Transparency"}};
     row("the paper is kept", "full", stapled, "MediaType", {clash}, {"Set Stapling to No Staple"});
-    row("the staple is kept", "full", stapled, "StapleLocation", {clash},
-        {"Set Paper Type to Plain"});
+    row("and before a staple", "full", stapled, "StapleLocation", {clash},
+        {"Set Stapling to No Staple"});
+    row("what was set last is kept", "full",
+        {{"KVEconomode", "Draft"}, {"KVOutputMode", "HighQuality"}}, "KVEconomode",
+        {"“Image Quality: High Quality” and “Toner Saver: Conserve Dry Ink” cannot be used "
+         "together."},
+        {"Set Image Quality to Standard"});
     row("three of them", "full",
         {{"KVFeedEdge", "LongEdge"}, {"InputSlot", "Bypass"}, {"PageSize", "A3"}}, "PageSize",
         {"“Page Size: A3 (297 × 420 mm)”, “Paper Source: Bypass Tray” and “Bypass Feed Edge: Long "
