@@ -153,7 +153,7 @@ std::optional<PpdSelection> findFix(PpdFile &ppd, const PpdSelection &selection,
 
 } // namespace
 
-ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QString &keep)
+ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QStringList &lastSet)
 {
     const PpdSelection selection = offeredChoices(session.printSettings().ppdChoices, ppd);
     const std::set<QString> equipment = equipmentOf(ppd);
@@ -164,6 +164,13 @@ ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QS
     if (report.isEmpty())
         return report;
 
+    const auto kept =
+        std::find_if(lastSet.begin(), lastSet.end(), [&report](const QString &option) {
+            return std::any_of(
+                report.conflicts.begin(), report.conflicts.end(),
+                [&option](const Conflict &conflict) { return conflict.options.contains(option); });
+        });
+    const QString keep = kept == lastSet.end() ? QString() : *kept;
     report.fix = findFix(ppd, selection, equipment, keep).value_or(PpdSelection());
     for (const PpdGroup &group : ppd.groups()) {
         for (const PpdOption &option : group.options) {

@@ -26,10 +26,11 @@ struct ConflictReport
 };
 
 // What is wrong with the session's choices on this PPD; choices that the PPD
-// lacks count for nothing. `keep` is the option that the user has just set: the
-// fix changes others where it can, and the paper last of all. It never changes the
-// device's equipment.
-ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QString &keep = {});
+// lacks count for nothing. `lastSet` are the options that the user has set, the last
+// one first: of those in conflict the fix keeps the first where it can. It changes
+// the paper last of all, and the device's equipment never.
+ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd,
+                             const QStringList &lastSet = {});
 
 // Puts the fix's choices into the session, and nothing else. A page size among
 // them reaches the page format with the next writeJobSettings(jobSettingsFrom()).

@@ -423,12 +423,13 @@ ConflictReport DialogSession::conflicts()
 {
     if (!m_ppd)
         return {};
-    // Whoever has just set something wants to keep that. Where more has changed at
-    // once, one is as good as another.
+    // Whoever has just set something wants to keep that.
     const PPDDictionary &choices = m_session->printSettings().ppdChoices;
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
-        if (m_lookedAt.value(choice.key()) != *choice)
-            m_lastSet = choice.key();
+        if (m_lookedAt.value(choice.key()) == *choice)
+            continue;
+        m_lastSet.removeAll(choice.key());
+        m_lastSet.prepend(choice.key());
     }
     m_lookedAt = choices;
     return findConflicts(*m_session, *m_ppd, m_lastSet);

@@ -180,7 +180,7 @@ private:
     };
     QMap<QString, Replaced> m_replaced; // options whose choice this device lacks
     PPDDictionary m_lookedAt;           // when conflicts were looked for the last time
-    QString m_lastSet;                  // the option that has changed since; empty: none yet
+    QStringList m_lastSet;              // options, the one set last first
     bool m_wasChanged = false;          // on an earlier printer, or under another name
     Dictionary m_unknown;               // root entries of the preset and --ticket-in
 

@@ -195,6 +195,10 @@ void TestPanelStories::keepsWhatWasSetLast_data()
                                  << "Draft";
     QTest::newRow("quality") << toner << quality << "KVOutputMode"
                              << "HighQuality";
+    QTest::newRow("what has no part in it set later")
+        << quality << toner + "choose @outputColorCorrection key sRGB\n"
+        << "KVEconomode"
+        << "Draft";
     QTest::newRow("but not at the paper's cost")
         << QStringLiteral("choose @paper key SRA3\ntab 1\n")
         << QStringLiteral("item @finishingButton 'Stp2'\n") << "PageSize"

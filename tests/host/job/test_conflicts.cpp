@@ -100,7 +100,7 @@ void TestConflicts::areNamedAndMended()
     QVERIFY(ppd);
     PrintSession session;
     session.printSettings().ppdChoices = choices;
-    const ConflictReport report = findConflicts(session, *ppd, keep);
+    const ConflictReport report = findConflicts(session, *ppd, {"Jog", keep, "KVOutputMode"});
     QStringList said;
     for (const Conflict &conflict : report.conflicts)
         said << conflict.sentence;
@@ -129,7 +129,7 @@ void TestConflicts::changeOnlyWhatTheFixSays()
                                {"OutputBin", "Top"},
                                {"Glitter", "On"}};
     session.printSettings().ppdChoices = before;
-    applyFix(findConflicts(session, *ppd, QStringLiteral("MediaType")), session);
+    applyFix(findConflicts(session, *ppd, {"MediaType"}), session);
     PPDDictionary expected = before;
     expected[QStringLiteral("StapleLocation")] = QStringLiteral("None");
     QCOMPARE(session.printSettings().ppdChoices, expected);
@@ -146,7 +146,7 @@ void TestConflicts::neverChangeTheEquipment()
 
     PrintSession session;
     session.printSettings().ppdChoices = choices;
-    const ConflictReport report = findConflicts(session, *ppd, "KVFold");
+    const ConflictReport report = findConflicts(session, *ppd, {"KVFold"});
     QCOMPARE(report.fix, (PpdSelection{{"KVFold", "None"}}));
 }
 
