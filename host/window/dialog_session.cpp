@@ -344,7 +344,6 @@ void DialogSession::settle()
     m_unchanged = m_settled;
     m_lookedAt = m_session->printSettings().ppdChoices;
     m_lastSet.clear();
-    // What this device lacks and a panel has put another choice for.
     m_replaced.clear();
     for (auto choice = came.cbegin(); m_ppd && choice != came.cend(); ++choice) {
         const QString now = m_lookedAt.value(choice.key());

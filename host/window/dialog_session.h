@@ -148,6 +148,13 @@ private:
     void setStage(Stage stage, Message message);
     const Printer *findPrinter(const QString &name) const;
 
+    // A choice that this device lacks, and a panel has put another for.
+    struct Replaced
+    {
+        QString words; // "Two-Sided Printing: Bogus"
+        QString by;    // the choice that stands there now
+    };
+
     DialogOptions m_options;
     QWidget *m_panesParent;
     Stage m_stage = Stage::Searching;
@@ -173,16 +180,11 @@ private:
     std::optional<TicketFile> m_carried;    // from the last printer
     TicketFile m_came, m_settled;           // see ticket_layers.h
     TicketFile m_unchanged;                 // what isChanged() compares with
-    struct Replaced
-    {
-        QString words; // "Two-Sided Printing: Bogus"
-        QString by;    // the choice that stands there now
-    };
-    QMap<QString, Replaced> m_replaced; // options whose choice this device lacks
-    PPDDictionary m_lookedAt;           // when conflicts were looked for the last time
-    QStringList m_lastSet;              // options, the one set last first
-    bool m_wasChanged = false;          // on an earlier printer, or under another name
-    Dictionary m_unknown;               // root entries of the preset and --ticket-in
+    QMap<QString, Replaced> m_replaced;     // by option
+    PPDDictionary m_lookedAt;               // when conflicts were looked for the last time
+    QStringList m_lastSet;                  // options, the one set last first
+    bool m_wasChanged = false;              // on an earlier printer, or under another name
+    Dictionary m_unknown;                   // root entries of the preset and --ticket-in
 
     BackgroundTask<Result<Document>> m_opening;
     std::shared_ptr<std::atomic_bool> m_openingCancelled;

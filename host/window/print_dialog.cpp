@@ -791,6 +791,7 @@ bool PrintDialog::isIdle() const
             && !m_look.isActive() && !m_firstFrame.isActive());
 }
 
+// A pane has a layout from when its panel's content is put into it.
 bool PrintDialog::arePanelsBuilt() const
 {
     const auto panes = m_scroll->findChildren<QWidget *>();

@@ -157,8 +157,8 @@ Dictionary FullColorOptions::asTicket() const
     for (const Form::Named &row : Form::profiles) {
         const Profile &profile = this->*row.profile;
         const QString key = QString::fromLatin1(row.key);
-        // A ticket may have named the kind by its number, without a name: it goes
-        // back as it came.
+        // A ticket may have given the named kind by its number: without a name that
+        // was held before, it goes back as it came.
         if (profile.kind == row.namedKind && profile.name)
             dictionary.insert(key, *profile.name);
         else if (profile.kind != kUnset)

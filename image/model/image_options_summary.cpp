@@ -11,6 +11,11 @@ namespace {
 
 const QString lightnessOption = QStringLiteral("KVImageQuality");
 
+bool isOffered(const ImageOptionsContext &context, const QString &option, std::int32_t value)
+{
+    return PPDCopyTextForTicketValue(context.ppd, option, value).has_value();
+}
+
 // A choice of the PPD's own is called as the PPD does.
 QString choiceText(const ImageOptionsContext &context, const QString &choice)
 {
@@ -30,15 +35,12 @@ QString lightenDarkenText(CFBundleRef bundle, std::int32_t lightenDarken)
 QString lightenDarkenWords(const ImageOptionsContext &context)
 {
     const CFBundleRef bundle = context.bundle;
-    const PpdOption *option = context.ppd ? context.ppd->findOption(lightnessOption) : nullptr;
-    if (!option)
+    if (!context.ppd || !context.ppd->findOption(lightnessOption))
         return localizedText(bundle, QStringLiteral("Not on This Device"));
-    if (context.lightenDarken != kUnset) {
-        const auto choice = PPDChoiceForTicketValue(lightnessOption, context.lightenDarken);
-        return choice && option->findChoice(*choice)
+    if (context.lightenDarken != kUnset)
+        return isOffered(context, lightnessOption, context.lightenDarken)
             ? lightenDarkenText(bundle, context.lightenDarken)
             : localizedText(bundle, QStringLiteral("Choice Not Offered"));
-    }
     // The printer's default is a choice like others, and a job that has one keeps it.
     const auto usual = PPDCopyDefaultChoice(context.ppd, lightnessOption);
     if (context.keptLightness && context.keptLightness != usual)
@@ -47,6 +49,15 @@ QString lightenDarkenWords(const ImageOptionsContext &context)
     return usual ? formatted(localizedText(bundle, QStringLiteral("Printer Default Words")),
                              {choiceText(context, *usual)})
                  : QString();
+}
+
+bool isTonerSaverOffered(const ImageOptionsContext &context)
+{
+    const QString option = QStringLiteral("KVEconomode");
+    if (!context.ppd || !context.ppd->findOption(option))
+        return false;
+    // 0: neither the ticket nor the PPD has a choice.
+    return context.tonerSaver == 0 || isOffered(context, option, context.tonerSaver);
 }
 
 std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsContext &context)

@@ -12,6 +12,9 @@ QString lightenDarkenText(CFBundleRef bundle, std::int32_t lightenDarken);
 // chosen or the device does not offer it.
 QString lightenDarkenWords(const ImageOptionsContext &context);
 
+// The device has the toner saver, and the choice that the job has for it.
+bool isTonerSaverOffered(const ImageOptionsContext &context);
+
 // What the panel has chosen, in words. A line whose setting the device does not
 // have, or that has no words, is left out.
 std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsContext &context);

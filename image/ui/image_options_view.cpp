@@ -6,7 +6,6 @@
 #include "image_options_summary.h"
 #include "lighten_darken.h"
 #include "popups.h"
-#include "ppd_choices.h"
 #include "ppd_file.h"
 #include "ticket_values.h"
 
@@ -133,15 +132,6 @@ void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
         hint->setText(localizedText(panel.bundle,
                                     popup->value() > 0 ? QString::fromLatin1(row.hintKey)
                                                        : QStringLiteral("Choice Not Offered")));
-}
-
-// 0 is none, for a PPD without default.
-bool isTonerSaverOffered(const ImageOptionsPanelContext &panel)
-{
-    const QString keyword = QStringLiteral("KVEconomode");
-    const PpdOption *option = panel.ppd ? panel.ppd->findOption(keyword) : nullptr;
-    const auto choice = PPDChoiceForTicketValue(keyword, panel.tonerSaver);
-    return option && (panel.tonerSaver == 0 || (choice && option->findChoice(*choice)));
 }
 
 void showTonerSaver(const ImageOptionsPanelContext &panel)
