@@ -1,0 +1,31 @@
+#pragma once
+
+#include "insert.h"
+#include "special_page_list.h"
+
+namespace kelvo {
+
+// Inserts by the page that they follow. Those after the same page stand in the
+// order in which they were added, until they are promoted or demoted.
+class InsertList : public SpecialPageList
+{
+public:
+    InsertList() = default;
+    InsertList(const InsertList &other); // of clones
+
+    const Insert *pageAtIndex(std::int32_t index) const override; // null also for another kind
+    OSStatus add(Pages pages) override;                           // noErr
+    std::unique_ptr<SpecialPageList> clone() const override;
+
+    // One place up or down, among the inserts after the same page. Nothing happens
+    // where that cannot be.
+    bool canPromote(const Insert *insert) const;
+    void promote(const Insert *insert);
+    bool canDemote(const Insert *insert) const;
+    void demote(const Insert *insert);
+
+private:
+    void swapWithNext(std::int32_t index);
+};
+
+} // namespace kelvo

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "bundle.h"
+#include "exception_page_list.h"
+#include "plugin_abi.h"
+#include "setting_map.h"
+#include "status.h"
+
+class QWidget;
+
+namespace kelvo {
+
+// As RunModalInsertsDialog, for ranges of exception pages. `ticket` says how the
+// job is printed where the exception says nothing.
+OSStatus RunModalExceptionsDialog(CFBundleRef bundle, DialogMode mode, const Stock *jobStock,
+                                  PMTicketRef ticket, ExceptionPageList *exceptions,
+                                  const ExceptionPage *edited, DialogResult *outcome,
+                                  QWidget *parent = nullptr);
+
+} // namespace kelvo
