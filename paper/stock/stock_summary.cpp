@@ -30,7 +30,20 @@ QString withModulus(const QString &name, std::int32_t modulus)
     return QStringLiteral("%1 (%2)").arg(name, QString::number(modulus));
 }
 
-QString typeText(CFBundleRef bundle, const Stock &stock)
+} // namespace
+
+QString stockSizeText(const Stock &stock)
+{
+    return choiceText("PageSize", stock.size());
+}
+
+QString stockColorText(const Stock &stock)
+{
+    return stock.color() == kStockColorCustom ? stock.customColor()
+                                              : choiceText("MediaColor", stock.color());
+}
+
+QString stockTypeText(CFBundleRef bundle, const Stock &stock)
 {
     switch (stock.type()) {
     case kStockTypeOrdered:
@@ -51,8 +64,6 @@ QString typeText(CFBundleRef bundle, const Stock &stock)
     return choiceText("MediaType", stock.type());
 }
 
-} // namespace
-
 QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const Stock &stock,
                              const QString &separator)
 {
@@ -71,13 +82,13 @@ QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const St
         lines << labelled(bundle, "StockName", stock.customName());
     if (!stock.customNameOnly()) {
         if (stock.size() != kUnset && !isJob)
-            lines << bullet + choiceText("PageSize", stock.size());
+            lines << bullet + stockSizeText(stock);
         if (stock.color() == kStockColorCustom)
-            lines << labelled(bundle, "StockColor", stock.customColor());
+            lines << labelled(bundle, "StockColor", stockColorText(stock));
         else if (stock.color() != kUnset || isJob)
-            lines << bullet + choiceText("MediaColor", stock.color());
+            lines << bullet + stockColorText(stock);
         if (stock.type() != kUnset || isJob)
-            lines << bullet + typeText(bundle, stock);
+            lines << bullet + stockTypeText(bundle, stock);
     }
     return lines.isEmpty() ? QStringLiteral("") : lines.join(separator);
 }

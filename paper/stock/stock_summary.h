@@ -19,6 +19,12 @@ namespace kelvo {
 QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const Stock &stock,
                              const QString &separator);
 
+// What the stock says of one of them; empty where it says nothing, or what the device
+// does not have.
+QString stockSizeText(const Stock &stock);
+QString stockColorText(const Stock &stock);
+QString stockTypeText(CFBundleRef bundle, const Stock &stock); // "Precut tab (5)"
+
 // What a summary view shows for it: the lines, or where there are none "printer
 // default" (the job) or "use job setting". Empty for null.
 QString stockSummaryText(CFBundleRef bundle, JobContext jobContext, const Stock *stock);
