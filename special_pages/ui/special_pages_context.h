@@ -4,7 +4,6 @@
 #include "event.h"
 #include "exception_page_list.h"
 #include "insert_list.h"
-#include "late_content.h"
 #include "list_view.h"
 #include "plugin_abi.h"
 #include "special_pages_summary.h"
@@ -37,9 +36,8 @@ struct _SpecialPagesContext // NOLINT(bugprone-reserved-identifier)
     PMTicketRef ticket = 0;          // the print settings of the last Sync
 
     QPointer<QWidget> parentPane;
-    LateContent lateContent; // from Open on
-    QPointer<QWidget> pane;  // the panel's own views, once they are built
-    // Null until they are built.
+    QPointer<QWidget> pane; // KPDE 1, the panel's own views, from Open on
+    // Null until then.
     QPointer<ListView> list;                                     // KPDE 1000
     QPointer<QAbstractButton> addCoversButton, addInsertsButton; // KPDE 100, 200
     QPointer<QAbstractButton> addExceptionsButton;               // KPDE 300

@@ -1,0 +1,151 @@
+#include "special_pages_panel.h"
+
+#include "cover_sync.h"
+#include "embed_control.h"
+#include "panel_interface.h"
+#include "panel_prologue.h"
+#include "pde_session.h"
+#include "special_pages_commands.h"
+#include "special_pages_context.h"
+#include "special_pages_ticket.h"
+#include "special_pages_view.h"
+#include "ticket.h"
+#include "window_loader.h"
+
+#include <cstdio>
+
+namespace kelvo {
+
+namespace {
+
+_SpecialPagesContext *panelOf(PMPDEContext context)
+{
+    return reinterpret_cast<_SpecialPagesContext *>(context);
+}
+
+constexpr ControlID kUserPane{kPanelSignature, 1};
+
+// Whoever starts the dialog from a terminal sees why the pane stays empty.
+OSStatus openFailed(const char *what)
+{
+    std::printf("!! Failed to %s.\n", what);
+    return fnfErr;
+}
+
+// Builds the panel's pane and puts it into its place.
+OSStatus buildPane(_SpecialPagesContext &panel)
+{
+    const QString name = QStringLiteral("SpecialPages");
+    const Result<QWidget *> made = createWindowFromDescription(panel.bundle, name, name);
+    if (!made) {
+        std::fprintf(stderr, "%s\n", qPrintable(made.error().text()));
+        return made.error().code == Error::Code::NotFound ? openFailed("load nib from bundle")
+                                                          : openFailed("create window from nib");
+    }
+    const std::unique_ptr<QWidget> window(made.value());
+    panel.pane = findControl(window.get(), kUserPane);
+    if (!panel.pane)
+        return openFailed("get user pane control reference");
+    InitializeSpecialPages(panel);
+    panel.handler = installEventHandler(panel.pane, [&panel](const Event &event) {
+        return SpecialPagesEventHandler(panel, event);
+    });
+    return EmbedAndShowControl(panel.pane, panel.parentPane);
+}
+
+OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
+                  CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
+{
+    const OSStatus status =
+        announcePanel<_SpecialPagesContext>(QStringLiteral("SpecialPagesTitle"), kPanelSignature,
+                                            context, creator, userOptionKind, title, maxH, maxV);
+    if (status == noErr)
+        _specialPagesContext = panelOf(*context);
+    return status;
+}
+
+OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
+{
+    _SpecialPagesContext *panel = panelOf(context);
+    if (!panel)
+        return kPMInvalidPDEContext;
+    OSStatus status = GetTicketFromSession(session, kPMPrintSettingsTicket, &panel->ticket);
+    if (status != noErr)
+        return status;
+    if (direction == kSyncWrite)
+        status = writeSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions);
+    else if (direction == kSyncRead)
+        status =
+            readSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions, panel->jobStock);
+    SyncCovers(panel->ticket, direction, &panel->frontCover, &panel->backCover);
+    if (direction == kSyncRead)
+        UpdateSpecialPagesSummary(panel);
+    return status;
+}
+
+OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane parentPane,
+                    PMPrintSession session)
+{
+    _SpecialPagesContext *panel = panelOf(context);
+    if (!panel || !parentPane || !session)
+        return kPMInvalidPDEContext;
+    panel->parentPane = parentPane;
+    panel->exceptions = std::make_unique<ExceptionPageList>();
+    panel->inserts = std::make_unique<InsertList>();
+    Sync(context, session, kSyncRead); // what a ticket does not have is in order
+    return noErr;
+}
+
+// Nothing: special pages are not a line of the summary.
+OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray *texts)
+{
+    if (!context || !titles || !texts)
+        return kPMInvalidPDEContext;
+    titles->reset();
+    texts->reset();
+    return noErr;
+}
+
+OSStatus Open(PMPDEContext context)
+{
+    _SpecialPagesContext *panel = panelOf(context);
+    if (!panel || panel->opened || !panel->parentPane)
+        return kPMInvalidPDEContext;
+    panel->opened = true;
+    return buildPane(*panel);
+}
+
+OSStatus Close(PMPDEContext context)
+{
+    return context ? noErr : kPMInvalidPDEContext;
+}
+
+OSStatus Terminate(PMPDEContext context, OSStatus)
+{
+    _SpecialPagesContext *panel = panelOf(context);
+    if (!panel)
+        return kPMInvalidPDEContext;
+    if (_specialPagesContext == panel)
+        _specialPagesContext = nullptr;
+    delete panel->pane; // before what it shows
+    delete panel;
+    return noErr;
+}
+
+} // namespace
+
+OSStatus GetSpecialPagesPanelInterface(PanelInterface **interface)
+{
+    if (!interface)
+        return paramErr;
+    *interface = makePanelInterface({.Prologue = Prologue,
+                                     .Initialize = Initialize,
+                                     .Sync = Sync,
+                                     .GetSummaryText = GetSummaryText,
+                                     .Open = Open,
+                                     .Close = Close,
+                                     .Terminate = Terminate});
+    return noErr;
+}
+
+} // namespace kelvo

@@ -1,0 +1,192 @@
+#include "special_pages_view.h"
+
+#include "hint_text.h"
+#include "localized_controls.h"
+#include "picture_view.h"
+#include "ppd_choices.h"
+#include "ticket_values.h"
+
+#include <QLabel>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int addIconSize = 28, commandIconSize = 20; // logical pixels
+
+constexpr std::int32_t listNumber = 1000;
+constexpr std::int32_t hintNumber = 1001;
+
+// In the order of the columns: 'PAGE', 'TYPE' and 'ATTR'.
+enum Column : int { kColumnPages, kColumnType, kColumnAttributes };
+
+// A button: its number, the text of its label or its help tag, and its picture.
+struct CommandButton
+{
+    std::int32_t number;      // KPDE
+    std::int32_t labelNumber; // 0: the text is the help tag
+    const char *textKey;
+    const char *picture;
+    const char *shortcut; // beside the mouse; may be null
+    QPointer<QAbstractButton> _SpecialPagesContext::*button;
+};
+constexpr CommandButton commandButtons[] = {
+    {100, 101, "Add Covers Command", "ButtonGraphic_AddCovers.icns", nullptr,
+     &_SpecialPagesContext::addCoversButton},
+    {200, 201, "Add Inserts Command", "ButtonGraphic_AddInserts.icns", nullptr,
+     &_SpecialPagesContext::addInsertsButton},
+    {300, 301, "Add Exceptions Command", "ButtonGraphic_AddExceptions.icns", nullptr,
+     &_SpecialPagesContext::addExceptionsButton},
+    {1200, 0, "Edit Command", "ButtonGraphic_Edit.icns", nullptr,
+     &_SpecialPagesContext::editButton},
+    {1300, 0, "Delete Command", "ButtonGraphic_Delete.icns", "Delete",
+     &_SpecialPagesContext::deleteButton},
+    {1400, 0, "Delete All Command", "ButtonGraphic_DeleteAll.icns", nullptr,
+     &_SpecialPagesContext::deleteAllButton},
+    {1500, 0, "Undo Command", "ButtonGraphic_Undo.icns", "Ctrl+Z",
+     &_SpecialPagesContext::undoButton},
+    {1600, 0, "Move Up Command", "ButtonGraphic_Move_Up.icns", "Alt+Up",
+     &_SpecialPagesContext::moveUpButton},
+    {1700, 0, "Move Down Command", "ButtonGraphic_Move_Down.icns", "Alt+Down",
+     &_SpecialPagesContext::moveDownButton},
+};
+
+ControlID panelID(std::int32_t number)
+{
+    return {kPanelSignature, number};
+}
+
+void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
+{
+    QPointer<QAbstractButton> &button = panel.*row.button;
+    button = findControl<QAbstractButton>(panel.pane, panelID(row.number));
+    if (!button)
+        return;
+    const bool hasLabel = row.labelNumber != 0;
+    const QString text = localizedText(panel.bundle, QString::fromLatin1(row.textKey));
+    button->setIcon(pictureIcon(panel.bundle->resourcesPath(), QString::fromLatin1(row.picture)));
+    const int side = hasLabel ? addIconSize : commandIconSize;
+    button->setIconSize({side, side});
+    if (hasLabel) {
+        auto *label = findControl<QLabel>(panel.pane, panelID(row.labelNumber));
+        SetLocalizedStaticText(panel.bundle, QString::fromLatin1(row.textKey), label);
+        return;
+    }
+    const QKeySequence keys(QString::fromLatin1(row.shortcut));
+    button->setAccessibleName(text);
+    button->setToolTip(keys.isEmpty() ? text
+                                      : QStringLiteral("%1 (%2)").arg(
+                                          text, keys.toString(QKeySequence::NativeText)));
+    if (!keys.isEmpty()) {
+        auto *shortcut = new QShortcut(keys, panel.pane);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
+    }
+}
+
+QString cellText(const _SpecialPagesContext &panel, const SpecialPage &page, int column)
+{
+    switch (column) {
+    case kColumnPages:
+        return pagesText(panel.bundle, panel.pages(), page);
+    case kColumnType:
+        return typeText(panel.bundle, page);
+    case kColumnAttributes: {
+        QStringList parts{CopySpecialPageSummary(page, panel.bundle),
+                          imageText(page, panel.bundle)};
+        parts.removeAll(QString());
+        return parts.join(QStringLiteral("; "));
+    }
+    default:
+        return {};
+    }
+}
+
+void configureList(_SpecialPagesContext &panel)
+{
+    const auto title = [&panel](const char *key) {
+        return localizedText(panel.bundle, QString::fromLatin1(key));
+    };
+    panel.list->setColumns(
+        {{title("Page(s)"), 90}, {title("Type Title"), 90}, {title("Attributes Title"), 450}},
+        [&panel](int row, int column) {
+            return cellText(panel, *panel.rows[static_cast<std::size_t>(row)], column);
+        });
+}
+
+// Left in their place, so that users of several devices find them there.
+void disableCoversWithoutOption(_SpecialPagesContext &panel)
+{
+    const PpdFile *ppd = PPDGetCurrent();
+    if (!panel.addCoversButton || (ppd && ppd->findOption(QStringLiteral("KVFrontCoverSheet"))))
+        return;
+    setEnabledWithLabel(panel.addCoversButton, false);
+    panel.addCoversButton->setToolTip(
+        localizedText(panel.bundle, QStringLiteral("Not on This Device")));
+}
+
+} // namespace
+
+void InitializeSpecialPages(_SpecialPagesContext &panel)
+{
+    for (const CommandButton &row : commandButtons)
+        initializeButton(panel, row);
+    disableCoversWithoutOption(panel);
+    makeHintText(findControl<QLabel>(panel.pane, panelID(hintNumber)));
+    panel.list = findControl<ListView>(panel.pane, panelID(listNumber));
+    if (panel.list)
+        configureList(panel);
+    UpdateSpecialPagesSummary(&panel);
+}
+
+void UpdateSpecialPagesSummary(_SpecialPagesContext *panel)
+{
+    if (!panel || !panel->list)
+        return;
+    std::vector<const SpecialPage *> selected = selectedPages(*panel);
+    std::ranges::sort(selected, std::less<>());
+    panel->rows = rowsOf(panel->pages());
+    panel->list->reload(static_cast<int>(panel->rows.size()));
+    std::vector<int> rows;
+    for (std::size_t row = 0; row < panel->rows.size() && !selected.empty(); ++row) {
+        if (std::ranges::binary_search(selected, panel->rows[row], std::less<>()))
+            rows.push_back(static_cast<int>(row));
+    }
+    panel->list->selectRows(rows);
+    UpdateSpecialPagesCommandButtons(panel);
+}
+
+void UpdateSpecialPagesCommandButtons(_SpecialPagesContext *panel)
+{
+    if (!panel || !panel->list)
+        return;
+    const SpecialPagesCommands commands = commandsFor(
+        *panel->inserts, selectedPages(*panel), panel->list->rowCount(), hasUndoState(*panel));
+    const auto enable = [](QAbstractButton *button, bool isEnabled) {
+        if (button)
+            button->setEnabled(isEnabled);
+    };
+    enable(panel->editButton, commands.edit);
+    enable(panel->deleteButton, commands.remove);
+    enable(panel->deleteAllButton, commands.removeAll);
+    enable(panel->undoButton, commands.undo);
+    enable(panel->moveUpButton, commands.moveUp);
+    enable(panel->moveDownButton, commands.moveDown);
+}
+
+std::vector<const SpecialPage *> selectedPages(const _SpecialPagesContext &panel)
+{
+    std::vector<const SpecialPage *> pages;
+    if (!panel.list)
+        return pages;
+    const std::vector<int> rows = panel.list->selectedRows();
+    pages.reserve(rows.size());
+    for (const int row : rows)
+        pages.push_back(panel.rows[static_cast<std::size_t>(row)]);
+    return pages;
+}
+
+} // namespace kelvo
