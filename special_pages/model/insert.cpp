@@ -1,0 +1,31 @@
+#include "insert.h"
+
+#include "ticket_values.h"
+
+namespace kelvo {
+
+namespace {
+
+const QString quantityKey = QStringLiteral("Quantity");
+
+} // namespace
+
+Insert::Insert(const Dictionary &dictionary)
+    : SpecialPage(dictionary)
+    , m_quantity(integer32(dictionary, quantityKey).value_or(1))
+{
+}
+
+Dictionary Insert::asTicket() const
+{
+    Dictionary dictionary = SpecialPage::asTicket();
+    WriteTicketValue(dictionary, quantityKey, m_quantity);
+    return dictionary;
+}
+
+std::unique_ptr<SpecialPage> Insert::clone() const
+{
+    return std::make_unique<Insert>(*this);
+}
+
+} // namespace kelvo

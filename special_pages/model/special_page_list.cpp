@@ -1,0 +1,90 @@
+#include "special_page_list.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace kelvo {
+
+const SpecialPage *SpecialPageList::pageAtIndex(std::int32_t index) const
+{
+    return index >= 0 && index < count() ? m_pages[index].get() : nullptr;
+}
+
+std::int32_t SpecialPageList::indexOfPage(const SpecialPage *page) const
+{
+    if (!page)
+        return -1;
+    const auto alike = std::ranges::equal_range(
+        m_pages, page->startPage(), {}, [](const auto &listed) { return listed->startPage(); });
+    const auto found = std::ranges::find(alike, page, &std::unique_ptr<SpecialPage>::get);
+    return found == alike.end() ? -1 : static_cast<std::int32_t>(found - m_pages.begin());
+}
+
+void SpecialPageList::remove(const SpecialPage *page)
+{
+    const std::int32_t index = indexOfPage(page);
+    if (index < 0)
+        return;
+    m_pages.erase(m_pages.begin() + index);
+    pagesChanged();
+}
+
+void SpecialPageList::remove(Pages pages)
+{
+    std::vector<const SpecialPage *> goes(pages.begin(), pages.end());
+    std::ranges::sort(goes);
+    std::erase_if(m_pages, [&goes](const auto &page) {
+        return std::ranges::binary_search(goes, page.get());
+    });
+    pagesChanged();
+}
+
+void SpecialPageList::clear()
+{
+    m_pages.clear();
+    pagesChanged();
+}
+
+OSStatus SpecialPageList::update(const SpecialPage &page, Pages replacements)
+{
+    const std::int32_t index = indexOfPage(&page);
+    if (index < 0)
+        return noErr;
+    std::unique_ptr<SpecialPage> old = std::move(m_pages[index]);
+    m_pages.erase(m_pages.begin() + index);
+    pagesChanged();
+    const OSStatus status = add(replacements);
+    if (status != noErr)
+        m_pages.insert(m_pages.begin() + index, std::move(old));
+    return status;
+}
+
+std::optional<Array> SpecialPageList::asTicket() const
+{
+    if (m_pages.empty())
+        return std::nullopt;
+    if (!m_form) {
+        Array form;
+        form.reserve(count());
+        for (const auto &page : m_pages)
+            form.append(page->asTicket());
+        m_form = std::move(form);
+    }
+    return m_form;
+}
+
+bool SpecialPageList::isWrittenAs(const Array &form) const
+{
+    return m_form && m_form->isSharedWith(form);
+}
+
+std::vector<const SpecialPage *> SpecialPageList::pages() const
+{
+    std::vector<const SpecialPage *> pages;
+    pages.reserve(m_pages.size());
+    for (const auto &page : m_pages)
+        pages.push_back(page.get());
+    return pages;
+}
+
+} // namespace kelvo
