@@ -98,7 +98,6 @@ ListView::ListView(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     header()->setSectionsMovable(false);
-    header()->setStretchLastSection(true);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (m_silent || m_isSelectionPending)
             return;
@@ -116,6 +115,8 @@ void ListView::setColumns(const std::vector<Column> &columns, CellText text)
             columns[static_cast<std::size_t>(i)].width * fontMetrics().height() / usualFontHeight;
         header()->resizeSection(i, std::max(width, header()->sectionSizeHint(i)));
     }
+    if (!columns.empty())
+        header()->setSectionResizeMode(static_cast<int>(columns.size()) - 1, QHeaderView::Stretch);
 }
 
 void ListView::reload(int count)

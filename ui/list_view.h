@@ -23,7 +23,7 @@ public:
     struct Column
     {
         QString title;
-        int width = 100; // logical pixels, grows with the font; the last one stretches
+        int width = 100; // logical pixels, grows with the font; the last one takes what is left
     };
     // Text of a cell; called while painting, must be quick.
     using CellText = std::function<QString(int row, int column)>;
