@@ -111,7 +111,7 @@ void configureList(_SpecialPagesContext &panel)
         return localizedText(panel.bundle, QString::fromLatin1(key));
     };
     panel.list->setColumns(
-        {{title("Page(s)"), 90}, {title("Type Title"), 90}, {title("Attributes Title"), 450}},
+        {{title("Page(s)"), 110}, {title("Type Title"), 90}, {title("Attributes Title"), 450}},
         [&panel](int row, int column) {
             return cellText(panel, *panel.rows[static_cast<std::size_t>(row)], column);
         });
