@@ -4,13 +4,11 @@
 #include "cover_options.h"
 #include "dialog_window.h"
 #include "hint_text.h"
-#include "localized_controls.h"
 #include "picture_view.h"
 #include "popups.h"
 #include "ppd_choices.h"
 #include "setting_maps.h"
-#include "stock_menu_button.h"
-#include "stock_summary.h"
+#include "special_page_dialogs.h"
 #include "ticket_values.h"
 
 #include <QGroupBox>
@@ -34,10 +32,8 @@ constexpr ControlID kJobPaper{kPanelSignature, 8602};
 // KPDE numbers of a cover's controls, from the first one of its group.
 enum CoverControl : std::int32_t {
     kGroup,
-    kStockIcon,
-    kStockButton,
-    kStockSummary,
-    kSource,
+    kStock, // and the two after it
+    kSource = kStock + 3,
     kSourceHint,
     kSides,
 };
@@ -201,12 +197,9 @@ bool initializeSide(CoversContext &context, CoverSide &side, Cover &cover, std::
     side.stock.bundle = context.bundle;
     side.stock.stock = &cover.stock();
     side.stock.jobContext = kJobContextCovers;
-    side.stock.summary = findControl<SummaryView>(window, idOf(kStockSummary));
-    side.stock.icon = findControl<PictureView>(window, idOf(kStockIcon));
     side.stock.changed = [&context] { settle(context); };
-    auto *button = findControl<MenuButton>(window, idOf(kStockButton));
-    if (!side.group || !side.source || !side.sourceHint || !side.sides || !side.stock.summary
-        || InitializeStockMenuButton(button, &side.stock) != noErr)
+    if (!side.group || !side.source || !side.sourceHint || !side.sides
+        || !initializeStockControls(side.stock, window, controls + kStock))
         return false;
 
     // "None" is no source, but no cover.
@@ -219,27 +212,6 @@ bool initializeSide(CoversContext &context, CoverSide &side, Cover &cover, std::
     PopulatePopupButtonFromMap(context.bundle, side.sides, CoverSidesImagedMap, kJobContextCovers,
                                sidesCommand);
     return true;
-}
-
-// "White, Standard": what a cover follows that says nothing itself.
-void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock)
-{
-    if (!label)
-        return;
-    const QString bullet = QStringLiteral("- ");
-    QStringList parts;
-    if (jobStock)
-        parts = GenerateStockSummary(bundle, kJobContextJob, *jobStock, QStringLiteral("\n"))
-                    .split(u'\n');
-    for (QString &part : parts) {
-        if (part.startsWith(bullet))
-            part.remove(0, bullet.size());
-    }
-    parts.removeAll(QString());
-    SetLocalizedStaticText(bundle, QStringLiteral("Job Paper"), label,
-                           {parts.join(QStringLiteral(", "))});
-    makeHintText(label);
-    label->setVisible(!parts.isEmpty());
 }
 
 OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget *parent)

@@ -11,7 +11,8 @@ class QWidget;
 namespace kelvo {
 
 // As RunModalInsertsDialog, for ranges of exception pages. `ticket` says how the
-// job is printed where the exception says nothing.
+// job is printed where the exception says nothing; without it the printer's
+// defaults do.
 OSStatus RunModalExceptionsDialog(CFBundleRef bundle, DialogMode mode, const Stock *jobStock,
                                   PMTicketRef ticket, ExceptionPageList *exceptions,
                                   const ExceptionPage *edited, DialogResult *outcome,

@@ -100,5 +100,180 @@
         <source>Job Paper</source>
         <translation>“Use job setting” means the paper of the job: %1.</translation>
     </message>
+    <!-- Inserts -->
+    <message>
+        <source>Inserts Title</source>
+        <translation>Inserts</translation>
+    </message>
+    <message>
+        <source>Insert Position:</source>
+        <translation>&amp;Insert:</translation>
+    </message>
+    <message>
+        <source>Insert Pages:</source>
+        <translation>Pa&amp;ges:</translation>
+    </message>
+    <message>
+        <source>Insert Pages Hint</source>
+        <translation>The sheets come after each of these pages. Examples: 2,5 · 3-7 · 12- (from page 12 on)</translation>
+    </message>
+    <message>
+        <source>Insert Quantity:</source>
+        <translation>&amp;Sheets:</translation>
+    </message>
+    <message>
+        <source>Insert Paper...</source>
+        <translation>Choose &amp;paper</translation>
+    </message>
+    <message>
+        <source>Insert Paper</source>
+        <translation>Insert paper</translation>
+    </message>
+    <message>
+        <source>Insert Summary</source>
+        <translation>Insert paper, summary</translation>
+    </message>
+    <!-- Exception pages -->
+    <message>
+        <source>Exceptions Title</source>
+        <translation>Exception pages</translation>
+    </message>
+    <message>
+        <source>Exception Pages:</source>
+        <translation>Pa&amp;ges:</translation>
+    </message>
+    <message>
+        <source>Exception Pages Hint</source>
+        <translation>Examples: 2,5 · 3-7 · 12- (from page 12 on)</translation>
+    </message>
+    <message>
+        <source>Exception Tabs</source>
+        <translation>Settings of these pages</translation>
+    </message>
+    <message>
+        <source>Exception Paper and Sides</source>
+        <translation>&amp;Paper and sides</translation>
+    </message>
+    <message>
+        <source>Exception Image</source>
+        <translation>&amp;Image</translation>
+    </message>
+    <message>
+        <source>Exception Paper...</source>
+        <translation>Choose pap&amp;er</translation>
+    </message>
+    <message>
+        <source>Exception Paper</source>
+        <translation>Exception paper</translation>
+    </message>
+    <message>
+        <source>Exception Summary</source>
+        <translation>Exception paper, summary</translation>
+    </message>
+    <message>
+        <source>Exception Tab Shift:</source>
+        <translation>&amp;Tab margin shift:</translation>
+    </message>
+    <message>
+        <source>Exception Tab Shift...</source>
+        <translation>Set &amp;up…</translation>
+    </message>
+    <message>
+        <source>Exception Tab Shift</source>
+        <translation>Set up tab margin shift</translation>
+    </message>
+    <message>
+        <source>Tab Shift Not Needed</source>
+        <translation>Only for tab stock</translation>
+    </message>
+    <message>
+        <source>Tab Shift Words Inches</source>
+        <translation>%1 in</translation>
+    </message>
+    <message>
+        <source>Tab Shift Words Millimeters</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Exception Sides:</source>
+        <translation>&amp;Sides:</translation>
+    </message>
+    <message>
+        <source>Exception Lightness:</source>
+        <translation>&amp;Lighten/darken:</translation>
+    </message>
+    <message>
+        <source>Job Setting Hint</source>
+        <translation>“Use job setting” means: %1.</translation>
+    </message>
+    <!-- Notices -->
+    <message>
+        <source>Page Number Limit Title</source>
+        <translation>The page number is too high</translation>
+    </message>
+    <message>
+        <source>Page Number Limit</source>
+        <translation>A page number has at most %1 digits. Correct the pages and choose OK again.</translation>
+    </message>
+    <message>
+        <source>Invalid Pages Title</source>
+        <translation>The pages cannot be read</translation>
+    </message>
+    <message>
+        <source>Invalid Page Ranges</source>
+        <translation>Type page numbers, and ranges with one dash, separated by commas. Examples: 2,5 or 3-7. The range 12- begins at page 12 and goes on to the last page.</translation>
+    </message>
+    <message>
+        <source>Invalid Ranges Title</source>
+        <translation>A page range is the wrong way round</translation>
+    </message>
+    <message>
+        <source>Invalid Range Order</source>
+        <translation>The first page of a range comes before its last one. Type 3-7 rather than 7-3.</translation>
+    </message>
+    <message>
+        <source>Invalid Page Numbers Title</source>
+        <translation>There is no page 0</translation>
+    </message>
+    <message>
+        <source>Invalid Page Numbers Message</source>
+        <translation>Pages are counted from 1. Begin the range with page 1 or a later one.</translation>
+    </message>
+    <message>
+        <source>Too Many Inserts Title</source>
+        <translation>There are too many inserts</translation>
+    </message>
+    <message>
+        <source>Too Many Inserts Message</source>
+        <translation>The list of special pages takes at most %1 inserts, and with these pages it would have more. Choose fewer pages. To put several sheets in one place, make one insert and set the number of its sheets.</translation>
+    </message>
+    <message>
+        <source>PageRangeConflictTitle</source>
+        <translation>Page ranges overlap</translation>
+    </message>
+    <message>
+        <source>PageRangeConflictMessage</source>
+        <translation>A page can be in one range only. Change the ranges so that they share no page.</translation>
+    </message>
+    <message>
+        <source>Delete Special Pages Title</source>
+        <translation>Delete special pages?</translation>
+    </message>
+    <message>
+        <source>Delete Selected Special Pages</source>
+        <translation>The selected covers, inserts and exception pages are taken out of the job. Undo brings them back.</translation>
+    </message>
+    <message>
+        <source>Delete All Special Pages</source>
+        <translation>All covers, inserts and exception pages are taken out of the job. Undo brings them back.</translation>
+    </message>
+    <message>
+        <source>No Command</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Yes Command</source>
+        <translation>Yes</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,71 @@
+#include "special_page_dialogs.h"
+
+#include "control.h"
+#include "hint_text.h"
+#include "input_limits.h"
+#include "localized_controls.h"
+#include "special_pages_context.h"
+#include "special_pages_notices.h"
+#include "special_pages_view.h"
+#include "stock_summary.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace kelvo {
+
+bool initializeStockControls(_StockMenuCommandEventHandlerData &data, const QWidget *window,
+                             std::int32_t first)
+{
+    data.icon = findControl<PictureView>(window, {kPanelSignature, first});
+    data.summary = findControl<SummaryView>(window, {kPanelSignature, first + 2});
+    return data.icon && data.summary
+        && InitializeStockMenuButton(findControl<MenuButton>(window, {kPanelSignature, first + 1}),
+                                     &data)
+        == noErr;
+}
+
+void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock)
+{
+    if (!label)
+        return;
+    const QString bullet = QStringLiteral("- ");
+    QStringList parts;
+    if (jobStock)
+        parts = GenerateStockSummary(bundle, kJobContextJob, *jobStock, QStringLiteral("\n"))
+                    .split(u'\n');
+    for (QString &part : parts) {
+        if (part.startsWith(bullet))
+            part.remove(0, bullet.size());
+    }
+    parts.removeAll(QString());
+    SetLocalizedStaticText(bundle, QStringLiteral("Job Paper"), label,
+                           {parts.join(QStringLiteral(", "))});
+    makeHintText(label);
+    label->setVisible(!parts.isEmpty());
+}
+
+void initializePagesField(QLineEdit *field, QLabel *hint)
+{
+    setInputLimits(field, {.allowed = InputLimits::setOf(QStringLiteral("0123456789, -"))});
+    makeHintText(hint);
+    field->setAccessibleDescription(hint->text());
+    field->setFocus();
+}
+
+void refusePages(OSStatus problem, CFBundleRef bundle, QLineEdit *field)
+{
+    SpecialPagesUserNotification(problem, bundle, field);
+    field->setFocus();
+    field->selectAll();
+}
+
+OSStatus putIntoList(SpecialPageList &list, const SpecialPage *edited, SpecialPageList::Pages pages)
+{
+    SaveUndoState(_specialPagesContext);
+    const OSStatus status = edited ? list.update(*edited, pages) : list.add(pages);
+    UpdateSpecialPagesSummary(_specialPagesContext);
+    return status;
+}
+
+} // namespace kelvo
