@@ -22,6 +22,8 @@ private slots:
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void leavesNothingOfDeletedPages();
+    void endsWhileAPanelAsks_data();
+    void endsWhileAPanelAsks();
     void putsSeparatorsBetweenTransparencies();
     void saysWhatPanelsEntered();
     void keepsWhatWasSetLast_data();
@@ -175,6 +177,25 @@ void TestPanelStories::leavesNothingOfDeletedPages()
     for (const QString &key : keys)
         QVERIFY(!sent.printSettings.entries.contains(key));
     QCOMPARE(sent.printSettings.ppdChoices.value("KVFrontCoverSheet"), QStringLiteral("None"));
+}
+
+void TestPanelStories::endsWhileAPanelAsks_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    const QByteArray addInserts = "panel SpecialPages\nclick @addInserts\n";
+    QTest::newRow("in a dialog") << addInserts + "expect @insertPages text \"7\"\n";
+    QTest::newRow("in a notice") << addInserts + "click @okButton\nexpect-notice \"thumb\"\n";
+    QTest::newRow("in a question") << addInserts
+            + "type @insertPages \"2\"\nclick @okButton\nclick @deleteAll\n"
+              "expect-notice \"thumb\"\n";
+}
+
+void TestPanelStories::endsWhileAPanelAsks()
+{
+    QFETCH(QByteArray, lines);
+    const Desk desk;
+    write(desk.path("ends.kps"), lines);
+    QENDED(desk.run({"--demo", "--no-window", "--script", "ends.kps", "--to", "out"}), 2);
 }
 
 void TestPanelStories::putsSeparatorsBetweenTransparencies()
