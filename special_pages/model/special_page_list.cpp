@@ -1,7 +1,6 @@
 #include "special_page_list.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace kelvo {
 
