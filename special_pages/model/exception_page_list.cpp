@@ -67,15 +67,16 @@ ExceptionPageList::ExceptionPageList(const ExceptionPageList &other)
 
 const ExceptionPage *ExceptionPageList::pageAtIndex(std::int32_t index) const
 {
-    return static_cast<const ExceptionPage *>(SpecialPageList::pageAtIndex(index)); // see add()
+    return static_cast<const ExceptionPage *>(
+        SpecialPageList::pageAtIndex(index)); // add() takes no other
 }
 
 OSStatus ExceptionPageList::add(Pages pages)
 {
     std::vector<Range> ranges;
     ranges.reserve(m_pages.size() + pages.size());
-    for (std::int32_t index = 0; index < count(); ++index)
-        ranges.push_back(rangeOf(*pageAtIndex(index), ranges.size()));
+    for (const auto &page : m_pages)
+        ranges.push_back(rangeOf(static_cast<const ExceptionPage &>(*page), ranges.size()));
     for (const SpecialPage *page : pages) {
         const auto *exception = dynamic_cast<const ExceptionPage *>(page);
         if (exception && exception->startPage() <= exception->endPage())

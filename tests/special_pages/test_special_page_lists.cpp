@@ -36,6 +36,7 @@ template <class Page>
 std::vector<const SpecialPage *> pointersTo(const std::vector<Page> &pages)
 {
     std::vector<const SpecialPage *> pointers;
+    pointers.reserve(pages.size());
     for (const Page &page : pages)
         pointers.push_back(&page);
     return pointers;
