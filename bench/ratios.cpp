@@ -76,17 +76,17 @@ int runAndCompare(int argc, char **argv, const std::vector<Ratio> &ratios)
     benchmark::RunSpecifiedBenchmarks(&collector);
 
     bool missed = false;
-    std::printf("\n%-24s %-24s %-5s %7s %7s\n", "what", "against", "clock", "ratio", "budget");
+    std::printf("\n%-30s %-30s %-5s %7s %7s\n", "what", "against", "clock", "ratio", "budget");
     for (const Ratio &row : ratios) {
         const auto what = collector.byName.find(row.what);
         const auto yardstick = collector.byName.find(row.yardstick);
         if (what == collector.byName.end() || yardstick == collector.byName.end()) {
-            std::printf("%-24s %-24s was not measured\n", row.what, row.yardstick);
+            std::printf("%-30s %-30s was not measured\n", row.what, row.yardstick);
             collector.failed = true;
             continue;
         }
         const double ratio = ratioOf(what->second, yardstick->second, row.clock);
-        std::printf("%-24s %-24s %-5s %7.3f", row.what, row.yardstick,
+        std::printf("%-30s %-30s %-5s %7.3f", row.what, row.yardstick,
                     row.clock == Clock::Cpu ? "cpu" : "wall", ratio);
         if (row.budget > 0)
             std::printf(" %7.2f%s", row.budget, ratio > row.budget ? "  MISSED" : "");

@@ -1,6 +1,7 @@
 #include "exception_page_list.h"
 
 #include <algorithm>
+#include <limits>
 #include <queue>
 
 namespace kelvo {
@@ -18,6 +19,44 @@ struct Range
     bool operator<(const Range &other) const { return rank < other.rank; }
 };
 
+Range rangeOf(const ExceptionPage &page, std::size_t rank)
+{
+    return {page.startPage(), std::int64_t(page.endPage()) + 1, rank, &page};
+}
+
+// What is seen of the ranges, from page to page. They are in the order of their
+// first pages, and none is empty.
+std::vector<Range> seenOf(const std::vector<Range> &ranges)
+{
+    std::vector<Range> pieces;
+    pieces.reserve(ranges.size());
+    // Of those that have begun, the highest is seen until it ends or a higher one
+    // begins. Those below wait, and may end unseen.
+    std::priority_queue<Range> begun;
+    std::int64_t at = std::numeric_limits<std::int64_t>::min(); // all before is done
+    auto next = ranges.begin();
+    while (next != ranges.end() || !begun.empty()) {
+        if (begun.empty())
+            begun.push(*next++);
+        Range seen = begun.top();
+        while (next != ranges.end() && next->first < seen.end && *next < seen)
+            begun.push(*next++);
+        const bool isCut = next != ranges.end() && next->first < seen.end;
+        if (isCut) {
+            seen.end = next->first;
+            begun.push(*next++);
+        } else {
+            begun.pop();
+        }
+        seen.first = std::max(seen.first, at);
+        if (seen.first < seen.end) {
+            pieces.push_back(seen);
+            at = seen.end;
+        }
+    }
+    return pieces;
+}
+
 } // namespace
 
 ExceptionPageList::ExceptionPageList(const ExceptionPageList &other)
@@ -28,61 +67,37 @@ ExceptionPageList::ExceptionPageList(const ExceptionPageList &other)
 
 const ExceptionPage *ExceptionPageList::pageAtIndex(std::int32_t index) const
 {
-    return static_cast<const ExceptionPage *>(SpecialPageList::pageAtIndex(index)); // see add()
+    return static_cast<const ExceptionPage *>(
+        SpecialPageList::pageAtIndex(index)); // add() takes no other
 }
 
 OSStatus ExceptionPageList::add(Pages pages)
 {
     std::vector<Range> ranges;
     ranges.reserve(m_pages.size() + pages.size());
-    const auto addRange = [&ranges](const SpecialPage *page) {
+    for (const auto &page : m_pages)
+        ranges.push_back(rangeOf(static_cast<const ExceptionPage &>(*page), ranges.size()));
+    for (const SpecialPage *page : pages) {
         const auto *exception = dynamic_cast<const ExceptionPage *>(page);
         if (exception && exception->startPage() <= exception->endPage())
-            ranges.push_back({exception->startPage(), std::int64_t(exception->endPage()) + 1,
-                              ranges.size(), exception});
-    };
-    for (const auto &page : m_pages)
-        addRange(page.get());
-    for (const SpecialPage *page : pages)
-        addRange(page);
-    std::ranges::sort(ranges, {}, &Range::first);
-
-    std::vector<std::unique_ptr<SpecialPage>> pieces;
-    const auto addPiece = [this, &pieces](const Range &range, std::int64_t first,
-                                          std::int64_t end) {
-        // The first piece of an old page is that page still.
-        const bool isOld = range.rank < m_pages.size() && m_pages[range.rank];
-        std::unique_ptr<SpecialPage> piece =
-            isOld ? std::move(m_pages[range.rank]) : range.page->clone();
-        piece->setStartPage(static_cast<std::int32_t>(first));
-        static_cast<ExceptionPage &>(*piece).setEndPage(static_cast<std::int32_t>(end - 1));
-        pieces.push_back(std::move(piece));
-    };
-
-    // From page to page: of the ranges that have begun, the highest is seen until it
-    // ends or a higher one begins. Ranges below it wait, and may end unseen.
-    std::priority_queue<Range> begun;
-    std::int64_t at = ranges.empty() ? 0 : ranges.front().first;
-    auto next = ranges.begin();
-    while (next != ranges.end() || !begun.empty()) {
-        if (begun.empty())
-            begun.push(*next++);
-        const Range seen = begun.top();
-        while (next != ranges.end() && next->first < seen.end && *next < seen)
-            begun.push(*next++);
-        const bool isCut = next != ranges.end() && next->first < seen.end;
-        const std::int64_t end = isCut ? next->first : seen.end;
-        at = std::max(at, seen.first);
-        if (at < end) {
-            addPiece(seen, at, end);
-            at = end;
-        }
-        if (isCut)
-            begun.push(*next++);
-        else
-            begun.pop();
+            ranges.push_back(rangeOf(*exception, ranges.size()));
     }
-    m_pages = std::move(pieces);
+    const auto added = ranges.begin() + count(); // those before are in order
+    std::ranges::stable_sort(added, ranges.end(), {}, &Range::first);
+    std::ranges::inplace_merge(ranges, added, {}, &Range::first);
+
+    const std::vector<Range> pieces = seenOf(ranges);
+    std::vector<std::unique_ptr<SpecialPage>> result;
+    result.reserve(pieces.size());
+    for (const Range &piece : pieces) {
+        // The first piece of an old page is that page still.
+        const bool isOldPage = piece.rank < m_pages.size() && m_pages[piece.rank];
+        result.push_back(isOldPage ? std::move(m_pages[piece.rank]) : piece.page->clone());
+        auto &page = static_cast<ExceptionPage &>(*result.back());
+        page.setStartPage(static_cast<std::int32_t>(piece.first));
+        page.setEndPage(static_cast<std::int32_t>(piece.end - 1));
+    }
+    m_pages = std::move(result);
     pagesChanged();
     return noErr;
 }

@@ -12,9 +12,8 @@ enum class State { Nothing, Dash, Number, NumberAndDash };
 class Reader
 {
 public:
-    Reader(bool asRanges, std::vector<PageRange> &ranges)
-        : m_asRanges(asRanges)
-        , m_ranges(ranges)
+    explicit Reader(std::vector<PageRange> &ranges)
+        : m_ranges(ranges)
     {
     }
 
@@ -76,14 +75,10 @@ private:
         m_state = State::Nothing;
         if (first > last)
             m_status = kPageRangeBackwards;
-        else if (m_asRanges)
-            m_ranges.push_back({first, last - first + 1});
         else
-            for (std::int32_t page = first; page <= last; ++page)
-                m_ranges.push_back({page, 1});
+            m_ranges.push_back({first, last - first + 1});
     }
 
-    const bool m_asRanges;
     std::vector<PageRange> &m_ranges;
     State m_state = State::Nothing;
     std::int32_t m_first = 0; // with State::Number and State::NumberAndDash
@@ -105,9 +100,9 @@ std::int32_t takeNumber(const QString &text, qsizetype *at)
     return number;
 }
 
-OSStatus read(const QString &text, bool asRanges, std::vector<PageRange> &ranges)
+OSStatus read(const QString &text, std::vector<PageRange> &ranges)
 {
-    Reader reader(asRanges, ranges);
+    Reader reader(ranges);
     for (qsizetype at = 0; at < text.size() && reader.status() == noErr;) {
         const QChar character = text[at];
         if (startsNumber(character)) {
@@ -127,6 +122,16 @@ OSStatus read(const QString &text, bool asRanges, std::vector<PageRange> &ranges
     return reader.status();
 }
 
+std::vector<PageRange> pagesOf(const std::vector<PageRange> &ranges)
+{
+    std::vector<PageRange> pages;
+    for (const PageRange &range : ranges) {
+        for (std::int32_t page = range.first; page < range.first + range.count; ++page)
+            pages.push_back({page, 1});
+    }
+    return pages;
+}
+
 } // namespace
 
 OSStatus CreatePageRangesBySeparatingString(const QString *text, bool asRanges,
@@ -136,9 +141,11 @@ OSStatus CreatePageRangesBySeparatingString(const QString *text, bool asRanges,
         ranges->clear();
     if (!text || !ranges)
         return paramErr;
-    const OSStatus status = read(*text, asRanges, *ranges);
+    const OSStatus status = read(*text, *ranges);
     if (status != noErr)
         ranges->clear();
+    else if (!asRanges)
+        *ranges = pagesOf(*ranges);
     return status;
 }
 

@@ -1,7 +1,6 @@
 #include "special_page_list.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace kelvo {
 
@@ -14,10 +13,13 @@ std::int32_t SpecialPageList::indexOfPage(const SpecialPage *page) const
 {
     if (!page)
         return -1;
-    const auto alike = std::ranges::equal_range(
-        m_pages, page->startPage(), {}, [](const auto &listed) { return listed->startPage(); });
-    const auto found = std::ranges::find(alike, page, &std::unique_ptr<SpecialPage>::get);
-    return found == alike.end() ? -1 : static_cast<std::int32_t>(found - m_pages.begin());
+    auto at = std::ranges::lower_bound(m_pages, page->startPage(), {},
+                                       [](const auto &listed) { return listed->startPage(); });
+    for (; at != m_pages.end() && (*at)->startPage() == page->startPage(); ++at) {
+        if (at->get() == page)
+            return static_cast<std::int32_t>(at - m_pages.begin());
+    }
+    return -1;
 }
 
 void SpecialPageList::remove(const SpecialPage *page)

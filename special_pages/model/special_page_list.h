@@ -31,7 +31,8 @@ public:
     // -1 for null and for what is not in this list. The page must be alive.
     virtual std::int32_t indexOfPage(const SpecialPage *page) const;
 
-    // Copies of the pages, one after the other; the caller's stay the caller's.
+    // Copies of the pages, one after the other; the caller's stay the caller's. When
+    // it fails, the list is as it was.
     virtual OSStatus add(Pages pages) = 0;
     // Deletes the page; one that is not in the list is left alone.
     void remove(const SpecialPage *page);
@@ -45,7 +46,8 @@ public:
     // The dictionary forms in list order; none for an empty list. Kept until the
     // list changes: the panels write far more often than anybody edits.
     std::optional<Array> asTicket() const;
-    // Whether `form` is what asTicket() answered last, and still would. Quick.
+    // Whether `form` is the array that asTicket() answered last (or a copy, also out
+    // of a ticket), and still would. Quick; an equal array is another array.
     bool isWrittenAs(const Array &form) const;
 
     virtual std::unique_ptr<SpecialPageList> clone() const = 0;

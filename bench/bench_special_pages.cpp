@@ -1,0 +1,217 @@
+// Lists of 99,999 special pages beside one stable sort of as many. See README.md.
+
+#include "exception_page_list.h"
+#include "insert_list.h"
+#include "page_range_text.h"
+#include "ratios.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <deque>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+using namespace kelvo;
+
+namespace {
+
+// Pages as a caller holds them, and as add() wants them.
+template <class Page>
+struct Sample
+{
+    std::vector<Page> pages;
+    std::vector<const SpecialPage *> pointers;
+};
+
+enum Order { InOrder, Reversed, Shuffled };
+constexpr int kOrders = 3;
+template <class Page>
+using Samples = std::array<Sample<Page>, kOrders>;
+
+Samples<Insert> inserts;
+Samples<ExceptionPage> exceptions;
+Samples<ExceptionPage> overlaps; // each reaches over some of its neighbours
+
+bool isBefore(const SpecialPage &one, const SpecialPage &other)
+{
+    return one.startPage() < other.startPage();
+}
+
+template <class Page>
+void arrange(std::vector<Page> &pages, Order order)
+{
+    if (order == Reversed)
+        std::ranges::reverse(pages);
+    else if (order == Shuffled)
+        std::ranges::shuffle(pages, std::mt19937(1));
+}
+
+template <class Page, class MakePage>
+Samples<Page> samples(MakePage makePage)
+{
+    Samples<Page> samples;
+    for (int order = 0; order < kOrders; ++order) {
+        Sample<Page> &sample = samples[order];
+        for (std::int32_t number = 1; number <= kHighestPage; ++number) {
+            Page page = makePage(number);
+            page.setStartPage(number);
+            page.stock().setWeight(80 + number % 200);
+            page.stock().setCustomName(QStringLiteral("Letterhead, 2nd floor"));
+            sample.pages.push_back(page);
+        }
+        arrange(sample.pages, Order(order));
+        for (const Page &page : sample.pages)
+            sample.pointers.push_back(&page);
+    }
+    return samples;
+}
+
+void makeSamples()
+{
+    inserts = samples<Insert>([](std::int32_t) { return Insert(); });
+    const auto range = [](std::int32_t first, std::int32_t pages) {
+        ExceptionPage page;
+        page.setEndPage(first + pages - 1);
+        page.setPlex(first % 3);
+        return page;
+    };
+    exceptions = samples<ExceptionPage>([&](std::int32_t first) { return range(first, 1); });
+    overlaps =
+        samples<ExceptionPage>([&](std::int32_t first) { return range(first, 1 + first % 50); });
+}
+
+enum class Before { Empty, Full };
+
+template <class List, class Page>
+void add(benchmark::State &state, const Sample<Page> &sample, Before before)
+{
+    List list;
+    if (before == Before::Full)
+        list.add(sample.pointers);
+    for ([[maybe_unused]] auto _ : state)
+        list.add(sample.pointers);
+}
+
+template <class Page>
+void sortPages(benchmark::State &state, const Sample<Page> &sample)
+{
+    std::vector<Page> sorted;
+    for ([[maybe_unused]] auto _ : state) {
+        sorted = sample.pages;
+        std::ranges::stable_sort(sorted, isBefore);
+    }
+}
+
+template <class Page>
+void sortPointers(benchmark::State &state, const Sample<Page> &sample)
+{
+    std::vector<const SpecialPage *> sorted;
+    for ([[maybe_unused]] auto _ : state) {
+        sorted = sample.pointers;
+        std::ranges::stable_sort(sorted, {}, &SpecialPage::startPage);
+    }
+}
+
+// ---- without a yardstick
+
+// What happens to a full list, once for each round.
+template <class Function>
+void onFullList(benchmark::State &state, Function function)
+{
+    ExceptionPageList list;
+    list.add(exceptions[InOrder].pointers);
+    for ([[maybe_unused]] auto _ : state)
+        function(list);
+}
+
+void copyList(benchmark::State &state)
+{
+    std::unique_ptr<SpecialPageList> copy;
+    onFullList(state, [&copy](ExceptionPageList &list) { copy = list.clone(); });
+}
+
+void writeList(benchmark::State &state)
+{
+    onFullList(state, [](ExceptionPageList &list) { benchmark::DoNotOptimize(list.asTicket()); });
+}
+
+void removeHalf(benchmark::State &state)
+{
+    onFullList(state, [](ExceptionPageList &list) {
+        std::vector<const SpecialPage *> pages;
+        for (std::int32_t index = 0; index < list.count(); index += 2)
+            pages.push_back(list.pageAtIndex(index));
+        list.remove(pages);
+    });
+}
+
+void readList(benchmark::State &state)
+{
+    ExceptionPageList list;
+    list.add(exceptions[InOrder].pointers);
+    const Array form = list.asTicket().value_or(Array());
+    std::vector<ExceptionPage> pages;
+    pages.reserve(form.size());
+    for ([[maybe_unused]] auto _ : state) {
+        for (const QVariant &value : form)
+            pages.emplace_back(value.toMap());
+    }
+}
+
+// ---- registration
+
+const char *run(std::string name, std::function<void(benchmark::State &)> function)
+{
+    constexpr int repetitions = 11;
+    static std::deque<std::string> names; // which bench::Ratio points to
+    names.push_back(std::move(name));
+    benchmark::RegisterBenchmark(names.back().c_str(), std::move(function))
+        ->Iterations(1)
+        ->Repetitions(repetitions)
+        ->Unit(benchmark::kMillisecond);
+    return names.back().c_str();
+}
+
+template <class List, class Page>
+void compare(const std::string &what, const Samples<Page> &samples,
+             std::vector<bench::Ratio> &ratios)
+{
+    constexpr double budget = 3;
+    constexpr std::array orders{"InOrder", "Reversed", "Shuffled"};
+    for (int order = 0; order < kOrders; ++order) {
+        const Sample<Page> &sample = samples[order];
+        const std::string name = what + orders[order];
+        const char *pages =
+            run(name + "SortPages", [&sample](auto &state) { sortPages(state, sample); });
+        const char *pointers =
+            run(name + "SortPointers", [&sample](auto &state) { sortPointers(state, sample); });
+        const char *empty =
+            run(name, [&sample](auto &state) { add<List>(state, sample, Before::Empty); });
+        const char *full = run(name + "ToFull",
+                               [&sample](auto &state) { add<List>(state, sample, Before::Full); });
+        for (const char *added : {empty, full}) {
+            ratios.push_back({added, pages, budget});
+            ratios.push_back({added, pointers, 0});
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    makeSamples();
+    std::vector<bench::Ratio> ratios;
+    compare<InsertList>("inserts", inserts, ratios);
+    compare<ExceptionPageList>("exceptions", exceptions, ratios);
+    compare<ExceptionPageList>("overlaps", overlaps, ratios);
+    run("copyList", copyList);
+    run("writeList", writeList);
+    run("removeHalf", removeHalf);
+    run("readList", readList);
+    return bench::runAndCompare(argc, argv, ratios);
+}
