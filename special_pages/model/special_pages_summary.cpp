@@ -1,7 +1,7 @@
 #include "special_pages_summary.h"
 
-#include "image_options_summary.h"
 #include "installed_features.h"
+#include "lighten_darken.h"
 #include "setting_maps.h"
 #include "stock_summary.h"
 #include "ticket_values.h"
@@ -129,16 +129,15 @@ QString CopySpecialPageSummary(const SpecialPage &page, CFBundleRef bundle)
     return joined(parts, separator);
 }
 
-QString imageText(const SpecialPage &page, CFBundleRef bundle)
+QString attributesText(const SpecialPage &page, CFBundleRef bundle)
 {
-    const auto *exception = dynamic_cast<const ExceptionPage *>(&page);
-    if (!exception)
-        return {};
-    QStringList parts;
-    if (exception->lightenDarken() != kUnset)
-        parts << lightenDarkenText(bundle, exception->lightenDarken());
-    if (exception->imageShift()->option != kUnset)
-        parts << text(bundle, "Exception Image Shift");
+    QStringList parts{CopySpecialPageSummary(page, bundle)};
+    if (const auto *exception = dynamic_cast<const ExceptionPage *>(&page)) {
+        if (const char *step = lightenDarkenKey(exception->lightenDarken()))
+            parts << text(bundle, step);
+        if (exception->imageShift()->option != kUnset)
+            parts << text(bundle, "Exception Image Shift");
+    }
     return joined(parts, separator);
 }
 

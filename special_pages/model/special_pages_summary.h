@@ -29,9 +29,8 @@ QString pagesText(CFBundleRef bundle, const SpecialPages &pages, const SpecialPa
 QString typeText(CFBundleRef bundle, const SpecialPage &page);
 // What is special about it, joined by "; ".
 QString CopySpecialPageSummary(const SpecialPage &page, CFBundleRef bundle);
-// How the image of an exception page differs from the job's; empty for the others,
-// and where it does not.
-QString imageText(const SpecialPage &page, CFBundleRef bundle);
+// The same and how the image of an exception page differs: all that the list says.
+QString attributesText(const SpecialPage &page, CFBundleRef bundle);
 
 // The same in a line for the dialogs.
 QString CreateInsertAttributesDescription(CFBundleRef bundle, const Insert &insert);

@@ -20,9 +20,6 @@ constexpr int addIconSize = 28, commandIconSize = 20; // logical pixels
 constexpr std::int32_t listNumber = 1000;
 constexpr std::int32_t hintNumber = 1001;
 
-// In the order of the columns: 'PAGE', 'TYPE' and 'ATTR'.
-enum Column : int { kColumnPages, kColumnType, kColumnAttributes };
-
 // A button: its number, the text of its label or its help tag, and its picture.
 struct CommandButton
 {
@@ -87,34 +84,30 @@ void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
     }
 }
 
-QString cellText(const _SpecialPagesContext &panel, const SpecialPage &page, int column)
+struct ListColumn
 {
-    switch (column) {
-    case kColumnPages:
-        return pagesText(panel.bundle, panel.pages(), page);
-    case kColumnType:
-        return typeText(panel.bundle, page);
-    case kColumnAttributes: {
-        QStringList parts{CopySpecialPageSummary(page, panel.bundle),
-                          imageText(page, panel.bundle)};
-        parts.removeAll(QString());
-        return parts.join(QStringLiteral("; "));
-    }
-    default:
-        return {};
-    }
-}
+    OSType property;
+    const char *titleKey;
+    int width; // logical pixels
+};
+constexpr ListColumn listColumns[] = {
+    {kPropertyPages, "Page(s)", 110},
+    {kPropertyType, "Type Title", 90},
+    {kPropertyAttributes, "Attributes Title", 450},
+};
 
-void configureList(_SpecialPagesContext &panel)
+void ConfigureSpecialPagesListAndInstallCallbacks(_SpecialPagesContext &panel)
 {
-    const auto title = [&panel](const char *key) {
-        return localizedText(panel.bundle, QString::fromLatin1(key));
-    };
-    panel.list->setColumns(
-        {{title("Page(s)"), 110}, {title("Type Title"), 90}, {title("Attributes Title"), 450}},
-        [&panel](int row, int column) {
-            return cellText(panel, *panel.rows[static_cast<std::size_t>(row)], column);
-        });
+    std::vector<ListView::Column> columns;
+    for (const ListColumn &column : listColumns)
+        columns.push_back(
+            {localizedText(panel.bundle, QString::fromLatin1(column.titleKey)), column.width});
+    panel.list->setColumns(columns, [&panel](int row, int column) {
+        QString text;
+        SpecialPagesListItemDataCallback(panel, *panel.rows[static_cast<std::size_t>(row)],
+                                         listColumns[column].property, &text);
+        return text;
+    });
 }
 
 // Left in their place, so that users of several devices find them there.
@@ -138,8 +131,26 @@ void InitializeSpecialPages(_SpecialPagesContext &panel)
     makeHintText(findControl<QLabel>(panel.pane, panelID(hintNumber)));
     panel.list = findControl<ListView>(panel.pane, panelID(listNumber));
     if (panel.list)
-        configureList(panel);
+        ConfigureSpecialPagesListAndInstallCallbacks(panel);
     UpdateSpecialPagesSummary(&panel);
+}
+
+OSStatus SpecialPagesListItemDataCallback(const _SpecialPagesContext &panel,
+                                          const SpecialPage &page, OSType property, QString *text)
+{
+    switch (property) {
+    case kPropertyPages:
+        *text = pagesText(panel.bundle, panel.pages(), page);
+        return noErr;
+    case kPropertyType:
+        *text = typeText(panel.bundle, page);
+        return noErr;
+    case kPropertyAttributes:
+        *text = attributesText(page, panel.bundle);
+        return noErr;
+    default:
+        return kUnknownListProperty;
+    }
 }
 
 void UpdateSpecialPagesSummary(_SpecialPagesContext *panel)

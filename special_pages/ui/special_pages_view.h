@@ -9,6 +9,15 @@ namespace kelvo {
 // the list.
 void InitializeSpecialPages(_SpecialPagesContext &panel);
 
+// The list's columns.
+inline constexpr OSType kPropertyPages = fourCharCode("PAGE");
+inline constexpr OSType kPropertyType = fourCharCode("TYPE");
+inline constexpr OSType kPropertyAttributes = fourCharCode("ATTR");
+inline constexpr OSStatus kUnknownListProperty = -4979;
+// The text of a page in that column; kUnknownListProperty for any other.
+OSStatus SpecialPagesListItemDataCallback(const _SpecialPagesContext &panel,
+                                          const SpecialPage &page, OSType property, QString *text);
+
 // Fills the list anew; the pages that were selected and are still there stay
 // selected. Nothing happens for null, or before there is a list.
 void UpdateSpecialPagesSummary(_SpecialPagesContext *panel);
