@@ -40,9 +40,10 @@ QLabel *textLabel(const QString &text, QWidget *parent)
 class NoticeDialog : public QDialog
 {
 public:
-    NoticeDialog(NoticeLevel level, const ShownNotice &notice, QWidget *parent)
+    NoticeDialog(NoticeLevel level, const ShownNotice &notice, int escape, QWidget *parent)
         : QDialog(parent)
         , m_notice(notice)
+        , m_escape(escape)
     {
         setObjectName(QStringLiteral("notice"));
         setWindowTitle(parent ? parent->window()->windowTitle()
@@ -77,8 +78,8 @@ public:
     const ShownNotice &notice() const { return m_notice; }
     const std::vector<QPushButton *> &buttons() const { return m_buttons; }
 
-    // Escape and the close box: the second button, or the only one.
-    void reject() override { done(m_buttons.size() > 1 ? 2 : 1); }
+    // Escape and the close box.
+    void reject() override { done(m_escape); }
 
 protected:
     void showEvent(QShowEvent *event) override
@@ -129,6 +130,7 @@ private:
     }
 
     ShownNotice m_notice;
+    int m_escape;                         // a button, from 1
     std::vector<QPushButton *> m_buttons; // in the order of m_notice.buttons
 };
 
@@ -141,20 +143,19 @@ std::vector<QPointer<NoticeDialog>> &openNotices()
     return notices;
 }
 
-int run(NoticeLevel level, const ShownNotice &notice, QWidget *parent)
+int run(NoticeLevel level, const ShownNotice &notice, int escape, QWidget *parent)
 {
     QWidget *owner = parent ? parent->window() : frontWindow();
-    const QPointer<NoticeDialog> dialog = new NoticeDialog(level, notice, owner);
+    const QPointer<NoticeDialog> dialog = new NoticeDialog(level, notice, escape, owner);
     openNotices().push_back(dialog);
     // An answered notice is no longer in front, even before its event loop has ended.
     QObject::connect(dialog, &QDialog::finished, dialog,
                      [dialog] { std::erase(openNotices(), dialog); });
     const int pressed = dialog->exec();
-    // With its owner gone it was closed without an answer.
-    if (!dialog)
-        return notice.buttons.size() > 1 ? 2 : 1;
+    // Gone with its owner, or hidden, it was closed without an answer.
+    const bool isAnswered = dialog && pressed != 0;
     delete dialog.data();
-    return pressed;
+    return isAnswered ? pressed : escape;
 }
 
 } // namespace
@@ -206,14 +207,14 @@ void CFUserNotificationDisplayNotice(NoticeLevel level, const QString &header,
 {
     const QString text =
         button.isEmpty() ? QCoreApplication::translate("kelvo::Notice", "OK") : button;
-    run(level, {header, message, {text}}, parent);
+    run(level, {header, message, {text}}, 1, parent);
 }
 
 int CFUserNotificationDisplayAlert(NoticeLevel level, const QString &header, const QString &message,
-                                   const QStringList &buttons, QWidget *parent)
+                                   const QStringList &buttons, QWidget *parent, int escape)
 {
-    Q_ASSERT(!buttons.isEmpty());
-    return run(level, {header, message, buttons}, parent);
+    Q_ASSERT(escape >= 1 && escape <= buttons.size());
+    return run(level, {header, message, buttons}, escape, parent);
 }
 
 ShownNotice frontNotice()

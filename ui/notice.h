@@ -16,9 +16,10 @@ void CFUserNotificationDisplayNotice(NoticeLevel level, const QString &header,
                                      QWidget *parent = nullptr);
 
 // Two or three buttons, the default one first; returns the button pressed, from
-// 1. Escape presses the second.
+// 1. Escape, and the end of the program, press `escape`: one that changes nothing.
 int CFUserNotificationDisplayAlert(NoticeLevel level, const QString &header, const QString &message,
-                                   const QStringList &buttons, QWidget *parent = nullptr);
+                                   const QStringList &buttons, QWidget *parent = nullptr,
+                                   int escape = 2);
 
 // What stands in front, for scripts; empty header and no buttons when nothing does.
 struct ShownNotice

@@ -29,7 +29,7 @@ struct CommandRow
 
 // clang-format off
 constexpr CommandRow commandRows[] = {
-    {ScriptCommand::Panel, "panel", "W", {"panel NAME", "shows a panel of the window, or a tab of the device by name: PaperOutput, ImageOptions, Advanced"}},
+    {ScriptCommand::Panel, "panel", "W", {"panel NAME", "shows a panel of the window, or a tab of the device by name: PaperOutput, ImageOptions, Advanced, SpecialPages"}},
     {ScriptCommand::Tab, "tab", "N", {"tab N", "shows the device's tab N, from 1"}},
     {ScriptCommand::Choose, "choose", "CI", {"choose CONTROL WHAT", "picks an item of a pop-up; WHAT: 12, 'code', unset, key NAME, text \"…\", row 3"}},
     {ScriptCommand::Item, "item", "CKi", {"item CONTROL 'code' [WHAT]", "picks the menu item with that command, submenus included"}},

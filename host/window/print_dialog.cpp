@@ -700,7 +700,10 @@ void PrintDialog::end(ExitStatus status)
     m_look.stop();
     m_grace.stop();
     m_firstFrame.stop();
-    m_session->stop();
+    // A panel that is asking the user something is not ended below its own hands, but
+    // with this window.
+    if (!QApplication::activeModalWidget())
+        m_session->stop();
     hide();
     emit ended(status);
 }

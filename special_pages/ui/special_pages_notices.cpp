@@ -45,14 +45,14 @@ void SpecialPagesUserNotification(OSStatus code, CFBundleRef bundle, QWidget *pa
 
 bool mayDeleteSpecialPages(CFBundleRef bundle, const QString &question, QWidget *parent)
 {
-    constexpr int yes = 2;
+    constexpr int no = 1, yes = 2;
     return CFUserNotificationDisplayAlert(
                NoticeLevel::Caution,
                localizedText(bundle, QStringLiteral("Delete Special Pages Title")),
                localizedText(bundle, question),
                {localizedText(bundle, QStringLiteral("No Command")),
                 localizedText(bundle, QStringLiteral("Yes Command"))},
-               parent)
+               parent, no)
         == yes;
 }
 

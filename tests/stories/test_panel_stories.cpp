@@ -21,6 +21,9 @@ private slots:
     void waitsForTheNextTimeOfADelayedJob();
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
+    void leavesNothingOfDeletedPages();
+    void endsWhileAPanelAsks_data();
+    void endsWhileAPanelAsks();
     void putsSeparatorsBetweenTransparencies();
     void saysWhatPanelsEntered();
     void keepsWhatWasSetLast_data();
@@ -129,6 +132,8 @@ void TestPanelStories::carriesEverythingThroughATicket_data()
                                  << "image-options";
     QTest::newRow("image, bare") << "bare"
                                  << "image-options-bare";
+    QTest::newRow("special pages") << "full"
+                                   << "special-pages";
 }
 
 void TestPanelStories::carriesEverythingThroughATicket()
@@ -152,6 +157,45 @@ void TestPanelStories::carriesEverythingThroughATicket()
     for (TicketFile *ticket : {&one, &other})
         ticket->unknown.remove(nonceKey);
     QCOMPARE(other, one);
+}
+
+void TestPanelStories::leavesNothingOfDeletedPages()
+{
+    const Desk desk;
+    const QStringList keys{QStringLiteral("com.kelvo.print.SpecialPages.InsertList"),
+                           QStringLiteral("com.kelvo.print.SpecialPages.ExceptionList")};
+    TicketFile old;
+    for (const QString &key : keys)
+        old.printSettings.entries[key] = {Array{Dictionary{{"StartPage", 1}, {"EndPage", 2}}},
+                                          QStringLiteral("test")};
+    old.printSettings.ppdChoices = {{"KVFrontCoverSheet", "Tray1"}};
+    QVERIFY(writeTicketFile(desk.path("old.plist"), old));
+    QENDED(desk.run({"--demo", "--no-window", "--ticket-in", "old.plist", "--script",
+                     script("special-pages-empty.kps"), "--to", "out"}),
+           0);
+    const TicketFile sent = ticketIn(desk.path("out"));
+    for (const QString &key : keys)
+        QVERIFY(!sent.printSettings.entries.contains(key));
+    QCOMPARE(sent.printSettings.ppdChoices.value("KVFrontCoverSheet"), QStringLiteral("None"));
+}
+
+void TestPanelStories::endsWhileAPanelAsks_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    const QByteArray addInserts = "panel SpecialPages\nclick @addInserts\n";
+    QTest::newRow("in a dialog") << addInserts + "expect @insertPages text \"7\"\n";
+    QTest::newRow("in a notice") << addInserts + "click @okButton\nexpect-notice \"thumb\"\n";
+    QTest::newRow("in a question") << addInserts
+            + "type @insertPages \"2\"\nclick @okButton\nclick @deleteAll\n"
+              "expect-notice \"thumb\"\n";
+}
+
+void TestPanelStories::endsWhileAPanelAsks()
+{
+    QFETCH(QByteArray, lines);
+    const Desk desk;
+    write(desk.path("ends.kps"), lines);
+    QENDED(desk.run({"--demo", "--no-window", "--script", "ends.kps", "--to", "out"}), 2);
 }
 
 void TestPanelStories::putsSeparatorsBetweenTransparencies()
