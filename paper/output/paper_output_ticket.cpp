@@ -53,11 +53,9 @@ std::int32_t choiceValue(const PpdFile *ppd, PMTicketRef ticket, const char *opt
     return value;
 }
 
-std::optional<QString> currentChoice(const PpdFile *ppd, PMTicketRef ticket, const char *option)
+QString currentChoice(const PpdFile *ppd, PMTicketRef ticket, const char *option)
 {
-    const QString keyword = QString::fromLatin1(option);
-    std::optional<QString> choice = PPDCopyCurrentChoice(ticket, keyword);
-    return choice ? choice : PPDCopyDefaultChoice(ppd, keyword);
+    return PPDCopyChoiceOrDefault(ppd, ticket, QString::fromLatin1(option)).value_or(QString());
 }
 
 void setChoice(PMTicketRef ticket, const char *option, const std::optional<QString> &choice)
@@ -191,8 +189,7 @@ std::int32_t readPunch(PMTicketRef ticket, const PpdFile *ppd)
     const std::int32_t punch = choiceValue(ppd, ticket, "KVPunch", kPunchNone);
     if (punch != kNoPpdChoice)
         return punch;
-    return punchOfChoice(currentChoice(ppd, ticket, "KVPunch").value_or(QString()))
-        .value_or(kNoPpdChoice);
+    return punchOfChoice(currentChoice(ppd, ticket, "KVPunch")).value_or(kNoPpdChoice);
 }
 
 void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
@@ -211,7 +208,7 @@ void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
 
     std::int32_t staple = choiceValue(ppd, ticket, "StapleLocation", kStapleNone);
     if (staple == kNoPpdChoice) {
-        const QString choice = currentChoice(ppd, ticket, "StapleLocation").value_or(QString());
+        const QString choice = currentChoice(ppd, ticket, "StapleLocation");
         staple = stapleOfChoice(choice).value_or(kStapleNone);
     }
     setStaple(finishing, staple);

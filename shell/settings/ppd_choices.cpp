@@ -123,6 +123,13 @@ std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &k
     return choices->value(keyword);
 }
 
+std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
+                                              const QString &keyword)
+{
+    std::optional<QString> choice = PPDCopyCurrentChoice(ticket, keyword);
+    return choice ? choice : PPDCopyDefaultChoice(ppd, keyword);
+}
+
 void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
                          const std::optional<QString> &choice)
 {
@@ -156,9 +163,7 @@ std::optional<QString> PPDCopyTextForTicketValue(const PpdFile *ppd, const QStri
 void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
                                          const QString &keyword, std::int32_t *out)
 {
-    std::optional<QString> choice = PPDCopyCurrentChoice(ticket, keyword);
-    if (!choice)
-        choice = PPDCopyDefaultChoice(ppd, keyword);
+    const std::optional<QString> choice = PPDCopyChoiceOrDefault(ppd, ticket, keyword);
     if (choice && out)
         *out = PPDTicketValueForChoice(keyword, *choice);
 }

@@ -40,6 +40,9 @@ std::optional<QString> PPDCopyChoiceText(const PpdFile *ppd, const QString &keyw
 std::optional<QString> PPDCopyDefaultChoice(const PpdFile *ppd, const QString &keyword);
 // The choice in the ticket's PPD dictionary.
 std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword);
+// That, or the PPD's default when the ticket has none.
+std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
+                                              const QString &keyword);
 void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
                          const std::optional<QString> &choice);
 

@@ -84,13 +84,11 @@ QString tabShiftWords(CFBundleRef bundle, const ExceptionPage &page)
 QString jobChoiceText(PMTicketRef ticket, const QString &option)
 {
     const PpdFile *ppd = PPDGetCurrent();
-    std::optional<QString> choice = PPDCopyCurrentChoice(ticket, option);
-    if (!choice)
-        choice = PPDCopyDefaultChoice(ppd, option);
+    const std::optional<QString> choice = PPDCopyChoiceOrDefault(ppd, ticket, option);
     return choice ? PPDCopyChoiceText(ppd, option, *choice).value_or(QString()) : QString();
 }
 
-// A pop-up that is not the job's setting where something is chosen.
+// The hint says what the job does where the pop-up leaves it to the job.
 void showSetting(const ExceptionsContext &context, PopupButton *popup, QLabel *hint,
                  const QString &option, std::int32_t value)
 {
