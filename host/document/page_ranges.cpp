@@ -111,4 +111,15 @@ int documentPage(const std::vector<PageRun> &runs, int index)
     return 0;
 }
 
+int printedPage(const std::vector<PageRun> &runs, int page)
+{
+    int before = 0;
+    for (const PageRun &run : runs) {
+        if (page >= run.first && page <= run.last)
+            return before + page - run.first + 1;
+        before += run.last - run.first + 1;
+    }
+    return 0;
+}
+
 } // namespace kelvo

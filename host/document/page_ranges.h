@@ -25,5 +25,7 @@ Result<std::vector<PageRun>> pageRunsFrom(const QString &text, int pageCount);
 int pageCount(const std::vector<PageRun> &runs);
 // The document's page (from 1) that becomes page `index` (from 0) of what is printed.
 int documentPage(const std::vector<PageRun> &runs, int index);
+// The other way, both from 1; 0 for a page that is not printed, the first of several.
+int printedPage(const std::vector<PageRun> &runs, int page);
 
 } // namespace kelvo

@@ -77,8 +77,11 @@ QString valueWords(const QVariant &value)
 {
     QString words;
     append(value, words);
-    if (words.size() > longestValue)
-        words = words.left(longestValue) + QStringLiteral("… (cut)");
+    if (words.size() <= longestValue)
+        return words;
+    words = words.left(longestValue) + QStringLiteral("… (cut)");
+    if (const auto elements = array(value))
+        words += QStringLiteral(", %1 entries in all").arg(elements->size());
     return words;
 }
 
@@ -110,7 +113,7 @@ QString orientationWords(Orientation orientation)
 }
 
 // "1 page", "2 pages"
-QString counted(int count, const char *one, const char *many)
+QString counted(qint64 count, const char *one, const char *many)
 {
     return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
 }
@@ -215,18 +218,16 @@ QString JobWords::asText() const
     return text;
 }
 
-QString shortSummary(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
-                     int pages, const SecretKeys &keys)
+QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
+                     qint64 sheets, const SecretKeys &keys)
 {
     QStringList parts;
     if (pages > 0) {
-        const bool twoSided = isTwoSided(ticket.printSettings.ppdChoices, ppd);
-        const int sheets = twoSided ? pages / 2 + pages % 2 : pages;
         QString paper = counted(sheets, "sheet", "sheets");
         if (settings.copies > 1)
             paper += QStringLiteral(" × %1 = %2 sheets")
                          .arg(counted(settings.copies, "copy", "copies"))
-                         .arg(qint64(sheets) * settings.copies);
+                         .arg(sheets * settings.copies);
         parts << counted(pages, "page", "pages") << paper;
     } else if (settings.copies > 1) {
         parts << counted(settings.copies, "copy", "copies");

@@ -29,9 +29,8 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
                      const SecretKeys &keys, const std::vector<EntryWords> &entryWords);
 
 // "12 pages, 6 sheets × 2 copies = 12 sheets, locked": what the foot says. `pages`
-// are those to be printed, 0 while they are not known; two-sided sheets count
-// two of them.
-QString shortSummary(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
-                     int pages, const SecretKeys &keys);
+// are those to be printed, 0 while they are not known, and `sheets` those of one copy.
+QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
+                     qint64 sheets, const SecretKeys &keys);
 
 } // namespace kelvo

@@ -4,8 +4,10 @@
 #include "folders.h"
 #include "nearest_name.h"
 #include "property_list.h"
+#include "size_limits.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -27,8 +29,31 @@ QString presetsFolder(const QString &folder)
     return folder.isEmpty() ? QString() : folder + QStringLiteral("/presets");
 }
 
+// The name where our own files have it: near their end, behind what may be 100 MB.
+// Empty for a file that was written by another hand.
+QString nameAtEndOf(const QString &path)
+{
+    constexpr qint64 end = 16 * limits::KiB;
+    static const QByteArray before("\n\t<key>PresetName</key>\n\t<string>");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(std::max<qint64>(0, file.size() - end)))
+        return {};
+    const QByteArray bytes = file.read(end);
+    const qsizetype key = bytes.indexOf(before);
+    if (key < 0)
+        return {};
+    const qsizetype text = key + before.size();
+    const auto name = CFPropertyListCreateFromXMLData(
+        "<plist><string>" + bytes.mid(text, bytes.indexOf("</string>", text) - text)
+            + "</string></plist>",
+        path);
+    return name ? string(name.value()).value_or(QString()).simplified() : QString();
+}
+
 QString nameIn(const QString &path)
 {
+    if (const QString name = nameAtEndOf(path); !name.isEmpty())
+        return name;
     const auto list = readPropertyList(path);
     const auto root = list ? dictionary(list.value()) : std::nullopt;
     const QString name = root ? string(*root, nameKey).value_or(QString()).simplified() : QString();

@@ -501,14 +501,20 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
     }
 
     const bool wantsAbsent = !wanted.quoted && wanted.text == QLatin1String("absent");
-    if (wantsAbsent)
-        return have ? LineDone(wrong(QStringLiteral("%1 is there: \"%2\"").arg(name, *have)))
-                    : LineDone();
-    if (!have)
-        return wrong(QStringLiteral("the ticket has no %1%2").arg(name, didYouMean(name, names)));
-    if (*have == wanted.text)
+    if (!have) {
+        return wantsAbsent
+            ? LineDone()
+            : wrong(QStringLiteral("the ticket has no %1%2").arg(name, didYouMean(name, names)));
+    }
+    if (!wantsAbsent && *have == wanted.text)
         return {};
-    return wrong(QStringLiteral("%1 is \"%2\", not \"%3\"").arg(name, *have, wanted.text));
+    constexpr qsizetype mostShown = 500; // characters; a list may have 100 MB
+    QString shown = masked(*have);
+    if (shown.size() > mostShown)
+        shown = shown.left(mostShown) + QStringLiteral("… (cut)");
+    return wantsAbsent
+        ? wrong(QStringLiteral("%1 is there: \"%2\"").arg(name, shown))
+        : wrong(QStringLiteral("%1 is \"%2\", not \"%3\"").arg(name, shown, wanted.text));
 }
 
 LineDone ScriptRunner::Private::screenshot(const QString &file)

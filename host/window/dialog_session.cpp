@@ -405,6 +405,23 @@ void DialogSession::takeAsUnchanged()
     m_wasChanged = false;
 }
 
+SpecialSheetsReader &DialogSession::specialSheetsReader()
+{
+    if (!m_specialSheets)
+        m_specialSheets.emplace(specialSheetKeysOf(m_options.bundle));
+    return *m_specialSheets;
+}
+
+const SpecialSheets &DialogSession::specialSheets()
+{
+    return specialSheetsReader().read(m_session->printSettings(), m_ppd.get());
+}
+
+const SpecialSheetKeys &DialogSession::specialSheetKeys()
+{
+    return specialSheetsReader().keys();
+}
+
 QStringList DialogSession::missing() const
 {
     if (!m_ppd)

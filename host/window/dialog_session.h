@@ -13,6 +13,7 @@
 #include "printers.h"
 #include "repeated_choices.h"
 #include "secret_keys.h"
+#include "special_sheets.h"
 #include "ticket_file.h"
 
 #include <QObject>
@@ -87,6 +88,10 @@ public:
     Extension *panels();                                          // null: none
     const SecretKeys &secretKeys() const { return m_secretKeys; }
     const std::vector<EntryWords> &entryWords() const { return m_entryWords; }
+    // Covers, inserts and exception pages as the ticket stands. Not asked for before the
+    // first frame, which needs none of it.
+    const SpecialSheets &specialSheets();
+    const SpecialSheetKeys &specialSheetKeys();
     QStringList missing() const; // what the ticket has and this printer does not, in words
 
     bool isDocumentPending() const { return m_document.isNull() && m_documentProblem.isEmpty(); }
@@ -142,6 +147,7 @@ private:
     void layWithUnknown(const TicketFile &file);
     Result<void> layOption(const QString &name, const QString &value);
     void settle();
+    SpecialSheetsReader &specialSheetsReader();
     void beginPanels();
     QString whyPanelsDidNotBegin(const Error &error) const;
     void endPanels();
@@ -174,6 +180,7 @@ private:
     SecretKeys m_secretKeys;
     RepeatedChoices m_repeatedChoices;
     std::vector<EntryWords> m_entryWords;
+    std::optional<SpecialSheetsReader> m_specialSheets; // made when it is first asked
     std::unique_ptr<PrintSession> m_session;
     std::unique_ptr<Extension> m_extension; // made once, begun for each printer
     QString m_extensionProblem;             // why it cannot be loaded

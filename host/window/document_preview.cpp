@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPolygonF>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -35,7 +36,9 @@ public:
     PagePlacement placement;       // what the sheet is, or shall be
     QImage image;                  // the page as last drawn
     PagePlacement imagePlacement;  // what `image` was drawn for
-    QString note;                  // on the sheet, in place of a page
+    QString note;                  // on the sheet, in place of a page that cannot be drawn
+    QString words;                 // what the sheet is, where no page is printed on it
+    bool isMarked = false;         // the page is an exception
     QString message;               // in place of a sheet
     bool isEmpty = true;
 
@@ -71,14 +74,17 @@ protected:
             return;
         }
         // Until the new page is drawn, the old one stays, on its own sheet.
-        const PagePlacement &shown = image.isNull() ? placement : imagePlacement;
+        const bool hasPage = words.isEmpty() && !image.isNull();
+        const PagePlacement &shown = hasPage ? imagePlacement : placement;
         const QRectF sheet = sheetRect(shown.sheet);
         paintShadow(painter, sheet);
         painter.fillRect(sheet, Qt::white);
-        if (!note.isEmpty())
-            paintNote(painter, sheet);
-        else if (!image.isNull())
+        if (hasPage)
             paintPage(painter, sheet, shown);
+        else
+            paintText(painter, sheet, words.isEmpty() ? note : words);
+        if (isMarked)
+            paintMark(painter, sheet);
         painter.setPen(QColor(0, 0, 0, 45));
         painter.drawRect(sheet.adjusted(-0.5, -0.5, 0.5, 0.5));
         if (hasFocus())
@@ -148,11 +154,24 @@ private:
         painter.restore();
     }
 
-    void paintNote(QPainter &painter, const QRectF &sheet) const
+    static void paintText(QPainter &painter, const QRectF &sheet, const QString &text)
     {
         painter.setPen(QColor(90, 90, 90)); // on paper, which is white in any theme
         painter.drawText(sheet.adjusted(rim, rim, -rim, -rim), Qt::AlignCenter | Qt::TextWordWrap,
-                         note);
+                         text);
+    }
+
+    // The top right corner, where few pages have print.
+    void paintMark(QPainter &painter, const QRectF &sheet) const
+    {
+        const double side = std::min(fontMetrics().height() * 1.4, sheet.width() / 4);
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette().color(QPalette::Highlight));
+        painter.drawPolygon(QPolygonF({sheet.topRight() - QPointF(side, 0), sheet.topRight(),
+                                       sheet.topRight() + QPointF(0, side)}));
+        painter.restore();
     }
 
     void paintPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
@@ -189,7 +208,8 @@ struct DocumentPreview::Private
     Document document;
     Layout layout;
     std::vector<PageRun> runs; // of `layout`, or the whole document
-    int index = 0;             // of the shown page in `runs`, from 0
+    SheetSequence sequence;    // of their pages
+    int index = 0;             // of the shown side
     QString message;
 
     PageRenderer renderer;
@@ -207,13 +227,17 @@ struct DocumentPreview::Private
     {
     }
 
-    int count() const { return pageCount(runs); }
-    int page() const { return documentPage(runs, index); }
+    int count() const { return sequence.sides(); }
+    SheetSide side() const { return index < count() ? sequence.side(index) : SheetSide{}; }
+    // The document's page on the shown side, or the last one before it; 0 for none.
+    int page() const { return documentPage(runs, side().page - 1); }
 
-    void setUpRuns()
+    void setUpSequence()
     {
-        // The same page stays in sight where it is still printed.
+        // The same page stays in sight where it is still printed, and what comes
+        // after it stays as far behind it.
         const int pageBefore = page();
+        const int behind = index - std::max(0, sequence.indexOfPage(side().page));
         const int last = document.pageCount();
         runs = layout.pages;
         if (runs.empty() && last > 0)
@@ -222,14 +246,13 @@ struct DocumentPreview::Private
         std::erase_if(runs, [last](const PageRun &run) { return run.first > last; });
         for (PageRun &run : runs)
             run.last = std::min(run.last, last);
-        if (page() == pageBefore)
-            return;
-        for (int candidate = 0; candidate < count(); ++candidate) {
-            if (documentPage(runs, candidate) == pageBefore) {
-                index = candidate;
-                return;
-            }
-        }
+        sequence = SheetSequence(pageCount(runs), layout.twoSided, layout.special);
+        // A page may be printed twice.
+        const bool isThere = page() == pageBefore
+            && index - std::max(0, sequence.indexOfPage(side().page)) == behind;
+        const int printed = isThere ? 0 : printedPage(runs, pageBefore);
+        if (printed > 0)
+            index = sequence.indexOfPage(printed) + behind;
         index = std::clamp(index, 0, std::max(0, count() - 1));
     }
 
@@ -246,27 +269,41 @@ struct DocumentPreview::Private
     // From what is printed to what is shown.
     void sync()
     {
-        const bool hasPage = message.isEmpty() && count() > 0;
-        previous->setEnabled(hasPage && index > 0);
-        next->setEnabled(hasPage && index + 1 < count());
+        const bool hasSide = message.isEmpty() && count() > 0;
+        previous->setEnabled(hasSide && index > 0);
+        next->setEnabled(hasSide && index + 1 < count());
         sheet->message = message;
         sheet->isEmpty = count() == 0;
-        if (count() > 0) {
-            sheet->placement =
-                placePage(document.pageSize(page()), layout.paper, layout.orientation);
-        }
         QString text;
-        if (hasPage)
-            text = sideCaption(index, layout.twoSided, page(), document.pageCount());
-        caption->setText(hasPage && sheet->placement.isCut() ? cutCaption(text) : text);
-        sheet->setAccessibleDescription(hasPage ? caption->text() : message);
+        if (count() > 0) {
+            const SheetSide shown = side();
+            // Before the first page, sheets are like the one that it is on.
+            sheet->placement =
+                placePage(document.pageSize(page() > 0 ? page() : runs.front().first), layout.paper,
+                          layout.orientation);
+            const bool hadWords = !sheet->words.isEmpty();
+            sheet->words = sheetWords(shown, layout.words);
+            sheet->isMarked = shown.kind == SheetSide::Kind::Page && shown.exceptionFirst > 0;
+            // The page before an insert is no stand-in for the one after it.
+            if (hadWords && sheet->words.isEmpty() && page() != askedPage)
+                sheet->image = {};
+            text = sideCaption(shown, page(), document.pageCount(), layout.words);
+            if (const QString remark = remarkCaption(shown, sheet->placement.isCut(), layout.words);
+                !remark.isEmpty())
+                text += u'\n' + remark;
+        }
+        // Room for a remark, so that sheets do not change their size as one turns them.
+        caption->setMinimumHeight(
+            layout.special.exceptions.isEmpty() ? 0 : 2 * caption->fontMetrics().lineSpacing());
+        caption->setText(hasSide ? text : QString());
+        sheet->setAccessibleDescription(hasSide ? text : message);
         sheet->update();
         request();
     }
 
     void request()
     {
-        if (!sheet->isVisible() || sheet->isEmpty || !message.isEmpty())
+        if (!sheet->isVisible() || sheet->isEmpty || !message.isEmpty() || !sheet->words.isEmpty())
             return;
         const PagePlacement &placement = sheet->placement;
         const double scale = sheet->scaleFor(placement.sheet) * sheet->devicePixelRatioF();
@@ -338,6 +375,7 @@ DocumentPreview::DocumentPreview(QWidget *parent)
     d->caption->setObjectName(QStringLiteral("previewPage"));
     d->caption->setTextFormat(Qt::PlainText);
     d->caption->setAlignment(Qt::AlignCenter);
+    d->caption->setWordWrap(true);
 
     auto *row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
@@ -362,7 +400,7 @@ void DocumentPreview::setDocument(const Document &document)
     d->document = document;
     d->index = 0;
     d->runs.clear();
-    d->setUpRuns();
+    d->setUpSequence();
     d->askedPage = 0;
     d->hasAnswer = false;
     // Another document's page must not stand in for this one's.
@@ -375,7 +413,7 @@ void DocumentPreview::setDocument(const Document &document)
 void DocumentPreview::setLayout(const Layout &layout)
 {
     d->layout = layout;
-    d->setUpRuns();
+    d->setUpSequence();
     d->sync();
 }
 

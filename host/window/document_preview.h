@@ -2,16 +2,20 @@
 
 #include "document.h"
 #include "job_settings.h"
+#include "page_ranges.h"
+#include "sheet_sequence.h"
 
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 namespace kelvo {
 
 // Shows the sheets that will be printed, one side at a time: white paper in
-// any theme, page forward and back, "Sheet 2, front". The caller says what is
-// printed; nothing here decides it.
+// any theme, page forward and back, "Sheet 2, front". Covers and inserts are sheets
+// with their name on them; pages of an exception range have a corner marked. The
+// caller says what is printed; nothing here decides it.
 class DocumentPreview : public QWidget
 {
     Q_OBJECT
@@ -26,6 +30,8 @@ public:
         QSizeF paper;               // points; empty: each page's own size
         Orientation orientation = Orientation::Portrait;
         bool twoSided = false;
+        SpecialSheets special;
+        SpecialSheetKeys words; // what they are called
     };
     void setDocument(const Document &document);
     void setLayout(const Layout &layout);

@@ -30,6 +30,7 @@ struct Extension::Private
     {
         PanelOperations operations;
         PMPDEContext context = nullptr;
+        bool wasOpened = false; // its controls are there
         bool isOpen = false;
     };
 
@@ -43,6 +44,7 @@ struct Extension::Private
 
     // Prologue and Initialize of one panel, which joins the lists when both went well.
     Result<void> add(const PanelOperations &operations, const QString &name, QWidget *parent);
+    bool open(Record &record);
     void close(Record &record);
     void sync(Record &record, SyncDirection direction)
     {
@@ -162,6 +164,16 @@ bool Extension::isBegun() const
     return !d->records.empty();
 }
 
+// Controls live until Terminate, so some panels have nothing to open again: they
+// answer a second Open with an error and are as open as others.
+bool Extension::Private::open(Record &record)
+{
+    const OSStatus status = record.operations.Open(record.context);
+    record.isOpen = status == noErr || (record.wasOpened && status == kPMInvalidPDEContext);
+    record.wasOpened |= record.isOpen;
+    return record.isOpen;
+}
+
 void Extension::Private::close(Record &record)
 {
     if (std::exchange(record.isOpen, false))
@@ -208,9 +220,7 @@ void Extension::show(int index)
         d->panels[static_cast<std::size_t>(left)].pane->hide();
     }
     d->shown = index;
-    Private::Record &record = d->records[static_cast<std::size_t>(index)];
-    record.isOpen = record.operations.Open(record.context) == noErr;
-    if (!record.isOpen)
+    if (!d->open(d->records[static_cast<std::size_t>(index)]))
         warn(QStringLiteral("%1: the panel %2 could not be opened")
                  .arg(d->bundle->path(), d->panels[static_cast<std::size_t>(index)].name));
     d->panels[static_cast<std::size_t>(index)].pane->show();

@@ -44,7 +44,8 @@ public:
     const std::vector<Panel> &panels() const; // the shell first
 
     int shownPanel() const; // index
-    // The panel left writes, all others read; then its pane is opened.
+    // The panel left writes, all others read; then its pane is opened. A panel that
+    // was opened before may answer kPMInvalidPDEContext: what it built is shown again.
     void show(int index);
 
     // All panels, the shown one last. kSyncWrite is what Print does.

@@ -288,20 +288,24 @@ void PresetMenu::choose(int reference)
     fillMenu();
 }
 
-bool PresetMenu::store(const QString &name, bool keepSecrets)
+bool PresetMenu::store(const QString &name, std::optional<bool> keepSecrets)
 {
     m_session.writeAll();
     TicketFile ticket = m_session.ticket();
-    // A preset that is replaced keeps what we do not know of it.
     if (findOwn(name)) {
         if (const auto stored = m_store.read(name)) {
+            // A preset that is replaced keeps what we do not know of it, and passcodes
+            // once kept are kept on.
             Dictionary unknown = stored.value().unknown;
             unknown.insert(ticket.unknown);
             ticket.unknown = unknown;
+            if (!keepSecrets)
+                keepSecrets = holdsSecret(stored.value(), m_session.secretKeys());
         }
         ticket.unknown.remove(kTicketNonceKey);
     }
-    if (const auto saved = m_store.save(name, ticket, m_session.secretKeys(), keepSecrets);
+    if (const auto saved =
+            m_store.save(name, ticket, m_session.secretKeys(), keepSecrets.value_or(false));
         !saved) {
         CFUserNotificationDisplayNotice(NoticeLevel::Stop,
                                         tr("The preset “%1” was not saved").arg(name),
@@ -318,12 +322,8 @@ bool PresetMenu::store(const QString &name, bool keepSecrets)
 void PresetMenu::save()
 {
     const Preset *preset = chosenPreset();
-    if (!preset || preset->isSite)
-        return;
-    // Once kept, passcodes are kept on.
-    const auto stored = m_store.read(preset->name);
-    const bool keepsSecrets = stored && holdsSecret(stored.value(), m_session.secretKeys());
-    store(QString(preset->name), keepsSecrets);
+    if (preset && !preset->isSite)
+        store(QString(preset->name), std::nullopt);
 }
 
 void PresetMenu::saveAs()

@@ -39,7 +39,8 @@ private:
     void saveAs();
     void rename();
     void remove();
-    bool store(const QString &name, bool keepSecrets);
+    // Without `keepSecrets`, as the preset that is replaced has it.
+    bool store(const QString &name, std::optional<bool> keepSecrets);
     const Preset *chosenPreset() const;
     const Preset *findOwn(const QString &name) const;
 

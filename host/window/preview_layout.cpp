@@ -1,6 +1,7 @@
 #include "preview_layout.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 namespace kelvo {
 
@@ -45,18 +46,62 @@ PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation ori
     return placement;
 }
 
-QString sideCaption(int index, bool twoSided, int page, int count)
+QString sideCaption(const SheetSide &side, int page, int count, const SpecialSheetKeys &words)
 {
-    if (!twoSided)
-        return tr("Sheet %1 · page %2 of %3").arg(index + 1).arg(page).arg(count);
-    const QString text = index % 2 == 0 ? tr("Sheet %1, front · page %2 of %3")
-                                        : tr("Sheet %1, back · page %2 of %3");
-    return text.arg(index / 2 + 1).arg(page).arg(count);
+    const QString sheet = QString::number(side.sheet);
+    switch (side.kind) {
+    case SheetSide::Kind::FrontCover:
+        return tr("Sheet %1 · %2").arg(sheet, words.frontCover.label);
+    case SheetSide::Kind::BackCover:
+        return tr("Sheet %1 · %2").arg(sheet, words.backCover.label);
+    case SheetSide::Kind::Insert:
+        if (side.sheets == 1)
+            return tr("Sheet %1 · %2").arg(sheet, words.inserts.label);
+        return tr("Sheets %1–%2 · %3")
+            .arg(sheet, QString::number(side.sheet + side.sheets - 1), words.inserts.label);
+    case SheetSide::Kind::BlankBack:
+        return tr("Sheet %1, back · blank").arg(sheet);
+    case SheetSide::Kind::Page:
+        break;
+    }
+    const QString text = !side.isTwoSided ? tr("Sheet %1 · page %2 of %3")
+        : side.isBack                     ? tr("Sheet %1, back · page %2 of %3")
+                                          : tr("Sheet %1, front · page %2 of %3");
+    return text.arg(sheet).arg(page).arg(count);
 }
 
-QString cutCaption(const QString &caption)
+QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetKeys &words)
 {
-    return tr("%1 · larger than the paper").arg(caption);
+    if (side.kind != SheetSide::Kind::Page)
+        return {};
+    QStringList remarks;
+    if (side.exceptionFirst > 0) {
+        const QString pages = side.exceptionFirst == side.exceptionLast
+            ? QString::number(side.exceptionFirst)
+            : tr("%1–%2").arg(side.exceptionFirst).arg(side.exceptionLast);
+        remarks << QString(words.exceptions.label).replace(QStringLiteral("%1"), pages);
+    }
+    if (isCut)
+        remarks << tr("larger than the paper");
+    return remarks.join(QStringLiteral(" · "));
+}
+
+QString sheetWords(const SheetSide &side, const SpecialSheetKeys &words)
+{
+    switch (side.kind) {
+    case SheetSide::Kind::FrontCover:
+        return words.frontCover.label;
+    case SheetSide::Kind::BackCover:
+        return words.backCover.label;
+    case SheetSide::Kind::Insert:
+        return side.sheets == 1 ? words.inserts.label
+                                : tr("%1, %2 sheets").arg(words.inserts.label).arg(side.sheets);
+    case SheetSide::Kind::BlankBack:
+        return tr("Blank");
+    case SheetSide::Kind::Page:
+        break;
+    }
+    return {};
 }
 
 } // namespace kelvo

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "job_settings.h"
-#include "page_ranges.h"
+#include "sheet_sequence.h"
 
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
-
-#include <vector>
 
 // What the preview shows, as rules without a window.
 namespace kelvo {
@@ -28,10 +26,12 @@ struct PagePlacement
 // turn everything upside down.
 PagePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation orientation);
 
-// "Sheet 2, front · page 3 of 12" for page `index` (from 0) of what is printed,
-// which is page `page` of the document's `count`. One-sided sheets have no front.
-QString sideCaption(int index, bool twoSided, int page, int count);
-// The same of a page that is cut at the paper's edges.
-QString cutCaption(const QString &caption);
+// "Sheet 2, front · page 3 of 12" for a side of what is printed, where that is page
+// `page` of the document's `count`. One-sided sheets have no front.
+QString sideCaption(const SheetSide &side, int page, int count, const SpecialSheetKeys &words);
+// What else is to be said of it: the exception that it lies in, and that it is cut.
+QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetKeys &words);
+// What stands on a sheet or a back without print, "Insert, 3 sheets"; empty for pages.
+QString sheetWords(const SheetSide &side, const SpecialSheetKeys &words);
 
 } // namespace kelvo

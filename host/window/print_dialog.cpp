@@ -13,6 +13,7 @@
 #include "popup_button.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
+#include "sheet_sequence.h"
 #include "spin_field.h"
 #include "waiting_pane.h"
 #include "window_columns.h"
@@ -371,6 +372,12 @@ void PrintDialog::updatePrintButton()
     m_details->setEnabled(!m_run && m_session->stage() == DialogSession::Stage::Ready);
 }
 
+bool PrintDialog::isTwoSided() const
+{
+    return kelvo::isTwoSided(m_session->tickets().printSettings().ppdChoices,
+                             m_session->ppd().get());
+}
+
 void PrintDialog::updatePreview()
 {
     if (m_session->document().isNull() || m_session->stage() != DialogSession::Stage::Ready)
@@ -383,8 +390,9 @@ void PrintDialog::updatePreview()
     layout.orientation = settings.orientation;
     if (const auto &ppd = m_session->ppd())
         layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());
-    layout.twoSided =
-        isTwoSided(m_session->tickets().printSettings().ppdChoices, m_session->ppd().get());
+    layout.twoSided = isTwoSided();
+    layout.special = m_session->specialSheets();
+    layout.words = m_session->specialSheetKeys();
     m_preview->setLayout(layout);
 }
 
@@ -403,11 +411,14 @@ void PrintDialog::updateFoot()
         const QString problem = findPagesProblem();
         // Pages that are still to be typed are no mistake yet.
         m_printer->setPagesProblem(m_printer->arePagesMissing() ? QString() : problem);
-        if (runs && problem.isEmpty())
-            text = shortSummary(m_session->ticket(), settings, m_session->ppd().get(),
-                                pageCount(runs.value()), m_session->secretKeys());
-        else
+        if (runs && problem.isEmpty()) {
+            const int pages = pageCount(runs.value());
+            const SheetSequence sequence(pages, isTwoSided(), m_session->specialSheets());
+            text = shortSummary(m_session->ticket(), settings, pages, sequence.sheets(),
+                                m_session->secretKeys());
+        } else {
             text = tr("Not to be printed like this. Pages: %1").arg(problem);
+        }
     }
     m_foot->setText(text);
     m_foot->setToolTip(text.toHtmlEscaped());

@@ -111,6 +111,7 @@ private:
 
     bool arePanelsBuilt() const;
     void arrangeTabOrder();
+    bool isTwoSided() const;
     void updatePrintButton();
     void updatePreview();
     void updateFoot();

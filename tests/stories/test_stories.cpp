@@ -415,6 +415,21 @@ void TestStories::countsSheetsAsThePrinterDoes()
     write(desk.path("s.kps"), "expect @summary text \"6 pages, 3 sheets\"\n");
     QENDED(desk.run({"--ppd", "two-sided.ppd", "--no-window", "--script", "s.kps", documentPath}),
            0);
+
+    TicketFile ticket = ticketWith({{"KVFrontCoverSheet", "Tray2"}});
+    auto &entries = ticket.printSettings.entries;
+    entries["com.kelvo.print.SpecialPages.InsertList"].value =
+        Array{Dictionary{{"StartPage", 1}, {"Quantity", 2}}};
+    entries["com.kelvo.print.SpecialPages.ExceptionList"].value =
+        Array{Dictionary{{"StartPage", 5}, {"EndPage", 6}, {"SidesImaged", 1}}};
+    QVERIFY(writeTicketFile(desk.path("special.plist"), ticket));
+    write(desk.path("s.kps"),
+          "expect @summary text \"6 pages, 8 sheets\"\n"
+          "expect @previewPage text \"Sheet 2, front · page 1 of 6\"\nsummary\n");
+    const Run run = desk.run({"--ppd", "two-sided.ppd", "--no-window", "--ticket-in",
+                              "special.plist", "--script", "s.kps", documentPath});
+    QENDED(run, 0);
+    QVERIFY2(run.out.contains("Inserts: 1\n  Exception pages: 5–6\n"), qPrintable(run.out));
 }
 
 void TestStories::saysThatItsPanelsAreDamaged()

@@ -275,5 +275,23 @@
         <source>Yes Command</source>
         <translation>Yes</translation>
     </message>
+
+    <!-- What print dialogs say of special pages (Info.plist) -->
+    <message>
+        <source>Inserts in Words</source>
+        <translation>Inserts:</translation>
+    </message>
+    <message>
+        <source>Exception Pages in Words</source>
+        <translation>Exception pages:</translation>
+    </message>
+    <message>
+        <source>Insert in Preview</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>Exception in Preview</source>
+        <translation>exception %1</translation>
+    </message>
 </context>
 </TS>

@@ -105,6 +105,9 @@ void TestPageRanges::findsTheDocumentsPage()
     QCOMPARE(documentPage(runs, 4), 3);
     QCOMPARE(documentPage(runs, 5), 0);
     QCOMPARE(documentPage(runs, -1), 0);
+    QCOMPARE(printedPage(runs, 10), 2);
+    QCOMPARE(printedPage(runs, 1), 3);
+    QCOMPARE(printedPage(runs, 4), 0);
 }
 
 QTEST_APPLESS_MAIN(TestPageRanges)

@@ -145,30 +145,29 @@ void TestSecrets::areSaidInTheSummary_data()
 {
     QTest::addColumn<int>("pages");
     QTest::addColumn<int>("copies");
-    QTest::addColumn<QString>("duplex");
+    QTest::addColumn<qint64>("sheets");
     QTest::addColumn<bool>("locked");
     QTest::addColumn<QString>("summary");
-    QTest::newRow("one page") << 1 << 1 << "None" << false << "1 page, 1 sheet";
-    QTest::newRow("one-sided") << 3 << 1 << "" << false << "3 pages, 3 sheets";
-    QTest::newRow("two-sided") << 12 << 2 << "DuplexNoTumble" << true
-                               << "12 pages, 6 sheets × 2 copies = 12 sheets, locked";
-    QTest::newRow("odd page") << 13 << 1 << "DuplexTumble" << false << "13 pages, 7 sheets";
-    QTest::newRow("pages not known") << 0 << 2 << "None" << true << "2 copies, locked";
+    QTest::newRow("one page") << 1 << 1 << qint64(1) << false << "1 page, 1 sheet";
+    QTest::newRow("copies") << 12 << 2 << qint64(6) << true
+                            << "12 pages, 6 sheets × 2 copies = 12 sheets, locked";
+    QTest::newRow("many") << 13 << 9999 << qint64(999'900'001) << false
+                          << "13 pages, 999900001 sheets × 9999 copies = 9998000109999 sheets";
+    QTest::newRow("pages not known") << 0 << 2 << qint64(0) << true << "2 copies, locked";
 }
 
 void TestSecrets::areSaidInTheSummary()
 {
     QFETCH(int, pages);
     QFETCH(int, copies);
-    QFETCH(QString, duplex);
+    QFETCH(qint64, sheets);
     QFETCH(bool, locked);
     QFETCH(QString, summary);
-    TicketFile file = locked ? ticketOf({{"Job", Dictionary{{"Password", "1"}}}}) : TicketFile();
-    if (!duplex.isEmpty())
-        file.printSettings.ppdChoices["Duplex"] = duplex;
+    const TicketFile file =
+        locked ? ticketOf({{"Job", Dictionary{{"Password", "1"}}}}) : TicketFile();
     JobSettings settings;
     settings.copies = copies;
-    QCOMPARE(shortSummary(file, settings, nullptr, pages, {{"Job/Password"}, {}}), summary);
+    QCOMPARE(shortSummary(file, settings, pages, sheets, {{"Job/Password"}, {}}), summary);
 }
 
 void TestSecrets::wordsStayInBounds()
@@ -176,11 +175,15 @@ void TestSecrets::wordsStayInBounds()
     Array pages;
     for (int page = 0; page < 99999; ++page)
         pages << Dictionary{{"first", page}, {"name", "two\nlines\u0007"}};
-    const JobWords words = describeJob(ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}),
-                                       {}, nullptr, {}, {});
+    const JobWords words = describeJob(
+        ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}), {}, nullptr, {},
+        {{.path = "Pages", .label = "Pages:"},
+         {.path = "Pages", .label = "First:", .firstPage = "first", .lastPage = "first"}});
+    const QString notRead = " – this printer reads no tickets";
     QCOMPARE(words.notSent,
-             QStringList("2 entries that the device panels add (see Ticket) – this "
-                         "printer reads no tickets"));
+             (QStringList{"Pages: 99999" + notRead,
+                          "First: 0, 1, 2, 3, 4, 5, 6, 7 and 99991 more" + notRead,
+                          "2 entries that the device panels add (see Ticket)" + notRead}));
     QCOMPARE(words.ticket.size(), 2);
     for (const QString &line : words.ticket) {
         QVERIFY(line.size() < 600);

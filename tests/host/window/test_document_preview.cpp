@@ -55,6 +55,7 @@ private slots:
     void namesSheets();
     void turnsPages();
     void staysOnThePageWhereItIsStillPrinted();
+    void showsSpecialSheets();
     void showsPaperAndMessages();
     void drawsWhatIsPrinted();
 };
@@ -186,6 +187,45 @@ void TestDocumentPreview::staysOnThePageWhereItIsStillPrinted()
     QCOMPARE(caption(preview), "Sheet 1 · page 1 of 2");
     preview.setDocument({});
     QCOMPARE(caption(preview), "");
+}
+
+void TestDocumentPreview::showsSpecialSheets()
+{
+    DocumentPreview preview;
+    preview.resize(300, 400);
+    preview.setDocument(documentOf({"", "", "", ""}));
+    preview.show();
+    SpecialSheetKeys words;
+    words.frontCover.label = "Cover";
+    words.inserts.label = "Insert";
+    words.exceptions.label = "exception %1";
+    DocumentPreview::Layout layout{.paper = a4, .twoSided = true, .words = words};
+    layout.special = {true, false, {{1, 3}}, {{2, 3, false}, {4, 9, false}}};
+    preview.setLayout(layout);
+    QCOMPARE(caption(preview), "Sheet 2, front · page 1 of 4"); // as before
+
+    button(preview, "previewPrevious")->click();
+    QStringList captions;
+    do {
+        captions << caption(preview);
+        button(preview, "previewNext")->click();
+    } while (caption(preview) != captions.last());
+    QCOMPARE(captions,
+             (QStringList{
+                 "Sheet 1 · Cover", "Sheet 2, front · page 1 of 4", "Sheet 2, back · blank",
+                 "Sheets 3–5 · Insert", "Sheet 6 · page 2 of 4\nexception 2–3",
+                 "Sheet 7 · page 3 of 4\nexception 2–3", "Sheet 8 · page 4 of 4\nexception 4"}));
+
+    // The insert stays in sight when the cover goes.
+    for (int back = 0; back < 3; ++back)
+        button(preview, "previewPrevious")->click();
+    QCOMPARE(caption(preview), "Sheets 3–5 · Insert");
+    layout.special.hasFrontCover = false;
+    preview.setLayout(layout);
+    QCOMPARE(caption(preview), "Sheets 2–4 · Insert");
+    layout.special = {};
+    preview.setLayout(layout);
+    QCOMPARE(caption(preview), "Sheet 2, front · page 3 of 4");
 }
 
 void TestDocumentPreview::showsPaperAndMessages()

@@ -22,6 +22,7 @@ private slots:
 
     void callsComeInOrder();
     void onePanelWritesAndAllOthersRead();
+    void aPanelThatOpensOnceIsShownAgain();
     void aRefusedPrinterLeavesNothingBehind();
     void unusableBundlesAreRefused_data();
     void unusableBundlesAreRefused();
@@ -134,6 +135,23 @@ void TestExtension::onePanelWritesAndAllOthersRead()
     QCOMPARE(extension.summary(),
              (QStringList{"The PDEShell: typed here", "The Second: typed here",
                           "The Third: typed here"}));
+}
+
+void TestExtension::aPanelThatOpensOnceIsShownAgain()
+{
+    PrintSession session;
+    Window window;
+    Extension extension(m_bundle);
+    QVERIFY(extension.load());
+    QVERIFY(extension.begin(session, window.pane));
+    extension.show(2);
+    extension.show(0);
+    extension.show(2);
+    QVERIFY(extension.panels()[2].pane->isVisibleTo(window.pane));
+    taken(m_log->calls);
+    extension.show(0);
+
+    QCOMPARE(m_log->calls.filter("Third"), (QStringList{"Third write", "Third close"}));
 }
 
 void TestExtension::aRefusedPrinterLeavesNothingBehind()

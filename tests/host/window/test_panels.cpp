@@ -12,7 +12,8 @@ using namespace kelvo;
 
 // A bundle that logs what is asked of it. The shell has a field whose text is
 // the ticket entry com.kelvo.test.Note; Second has the same, as a panel that
-// shares a setting; Failing refuses to be initialized.
+// shares a setting, and Third too, which can be opened once only; Failing refuses
+// to be initialized.
 namespace {
 
 TestPanels state;
@@ -26,6 +27,7 @@ struct Context
     QString note; // what the panel knows of the ticket
     QLineEdit *field = nullptr;
     EventHandlerRef printHandler;
+    bool wasOpened = false;
 };
 
 Context *contextOf(PMPDEContext context)
@@ -91,7 +93,10 @@ OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray
 
 OSStatus Open(PMPDEContext context)
 {
-    return note(context, "open");
+    note(context, "open");
+    const bool again = std::exchange(contextOf(context)->wasOpened, true);
+    return again && contextOf(context)->name == QLatin1String("Third") ? kPMInvalidPDEContext
+                                                                       : noErr;
 }
 
 OSStatus Close(PMPDEContext context)
