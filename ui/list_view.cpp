@@ -98,6 +98,7 @@ ListView::ListView(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     header()->setSectionsMovable(false);
+    header()->setStretchLastSection(false); // it would only grow
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (m_silent || m_isSelectionPending)
             return;
