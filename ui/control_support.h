@@ -14,6 +14,9 @@ namespace kelvo {
 OSStatus sendFrom(QWidget *source, EventKind kind, OSType command = kNoCommand,
                   std::int32_t reference = 0, int row = -1);
 
+// ControlHit, then, unless that was taken, the control's command when it has one.
+void sendHit(QWidget *control);
+
 // The wheel scrolls the panel under it and changes `control` only while it has
 // the focus; it does not give it the focus either.
 void guardWheel(QWidget *control);

@@ -74,15 +74,6 @@ std::function<void(const Event &)> &eventWatcher()
 constexpr char sendsProperty[] = "_kelvo_sends";
 constexpr char commandProperty[] = "command";
 
-void sendHit(QWidget *control)
-{
-    const QPointer<QWidget> alive = control;
-    const std::optional<OSType> command = commandOf(control);
-    const OSStatus status = sendFrom(control, EventKind::ControlHit);
-    if (status == eventNotHandledErr && command && alive)
-        sendFrom(control, EventKind::Command, *command);
-}
-
 // Tells when a field is left.
 class LeaveWatcher : public QObject
 {
@@ -231,6 +222,15 @@ OSStatus sendFrom(QWidget *source, EventKind kind, OSType command, std::int32_t 
     event.reference = reference;
     event.row = row;
     return sendEvent(event);
+}
+
+void sendHit(QWidget *control)
+{
+    const QPointer<QWidget> alive = control;
+    const std::optional<OSType> command = commandOf(control);
+    const OSStatus status = sendFrom(control, EventKind::ControlHit);
+    if (status == eventNotHandledErr && command && alive)
+        sendFrom(control, EventKind::Command, *command);
 }
 
 void guardWheel(QWidget *control)

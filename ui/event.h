@@ -77,7 +77,7 @@ std::optional<OSType> commandOf(const QWidget *control);
 // Makes an ordinary Qt control tell of the user's changes as events:
 //   buttons, check boxes   ControlHit, then, unless that was taken, Command when
 //                          they have one (the dynamic property "command", four
-//                          characters)
+//                          characters); tab controls do the same
 //   QGroupBox with a check box, QSlider, QComboBox   ControlHit
 //   QLineEdit, QPlainTextEdit   TextChanged, and FocusChanged when it is left
 // The controls of this library send by themselves, and a radio button inside a

@@ -49,7 +49,7 @@ bool TabControl::choose(int value)
         return false;
     if (value != this->value()) {
         setValue(value);
-        sendFrom(this, EventKind::ControlHit);
+        sendHit(this);
     }
     return true;
 }
@@ -75,7 +75,7 @@ bool TabControl::event(QEvent *event)
     const int before = value();
     const bool done = QTabBar::event(event);
     if (alive && value() != before)
-        sendFrom(this, EventKind::ControlHit);
+        sendHit(this);
     return done;
 }
 

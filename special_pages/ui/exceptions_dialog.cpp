@@ -26,6 +26,7 @@ namespace kelvo {
 namespace {
 
 constexpr OSType kCommandSides = fourCharCode("Eplx");
+constexpr OSType kCommandTabs = fourCharCode("Etab");
 
 constexpr ControlID kPages{kPanelSignature, 8750};
 constexpr ControlID kPagesHint{kPanelSignature, 8751};
@@ -154,25 +155,38 @@ OSStatus handleStockEvent(ExceptionsContext &context, const Event &event)
     return status;
 }
 
-OSStatus handleEvent(ExceptionsContext &context, const Event &event)
+void showPane(const ExceptionsContext &context)
 {
-    if (event.kind == EventKind::Command && event.command == kCommandSides) {
+    UpdateTabControl(context.tabs, static_cast<int>(context.panes.size()), context.panes.data());
+}
+
+OSStatus handleCommand(ExceptionsContext &context, const Event &event)
+{
+    switch (event.command) {
+    case kCommandSides:
         context.edit.page.setPlex(event.reference);
         syncToUI(context);
         return noErr;
-    }
-    if (event.kind == EventKind::Command && event.command == kCommandRevert) {
+    case kCommandTabs:
+        showPane(context);
+        return noErr;
+    case kCommandRevert:
         DefaultExceptions(context);
         return noErr;
+    default:
+        return eventNotHandledErr;
     }
+}
+
+OSStatus handleEvent(ExceptionsContext &context, const Event &event)
+{
+    if (event.kind == EventKind::Command)
+        return handleCommand(context, event);
     if (event.kind != EventKind::ControlHit)
         return eventNotHandledErr;
     if (event.control == kLightness) {
         context.edit.page.setLightenDarken(context.lightness->chosenReference());
         syncToUI(context);
-    } else if (event.control == kTabs) {
-        UpdateTabControl(context.tabs, static_cast<int>(context.panes.size()),
-                         context.panes.data());
     } else if (event.control == kTabShiftButton) {
         setUpTabShift(context);
     } else {
@@ -224,7 +238,7 @@ Menu lightnessMenu(CFBundleRef bundle)
     return menu;
 }
 
-void initializePanes(ExceptionsContext &context)
+void initializePanes(const ExceptionsContext &context)
 {
     for (QWidget *pane : context.panes) {
         // The window keeps its size when the tab changes.
@@ -232,7 +246,7 @@ void initializePanes(ExceptionsContext &context)
         policy.setRetainSizeWhenHidden(true);
         pane->setSizePolicy(policy);
     }
-    UpdateTabControl(context.tabs, static_cast<int>(context.panes.size()), context.panes.data());
+    showPane(context);
 }
 
 bool findControls(ExceptionsContext &context)
