@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,6 +47,15 @@ QString problemWithName(const QString &name)
             .arg(defaultsName());
     return {};
 }
+
+// A preset may have 100 MB, which takes seconds to read and to write.
+class WaitCursor
+{
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(WaitCursor)
+};
 
 struct NameAnswer
 {
@@ -273,7 +283,10 @@ void PresetMenu::choose(int reference)
         m_session.usePreset(nullptr);
     } else {
         const Preset &preset = m_presets[static_cast<std::size_t>(reference)];
-        const auto file = m_store.read(preset.name);
+        const auto file = [this, &preset] {
+            const WaitCursor waiting;
+            return m_store.read(preset.name);
+        }();
         if (!file) {
             CFUserNotificationDisplayNotice(
                 NoticeLevel::Caution, tr("The preset “%1” cannot be read").arg(preset.name),
@@ -288,9 +301,9 @@ void PresetMenu::choose(int reference)
     fillMenu();
 }
 
-bool PresetMenu::store(const QString &name, std::optional<bool> keepSecrets)
+Result<void> PresetMenu::write(const QString &name, std::optional<bool> keepSecrets)
 {
-    m_session.writeAll();
+    const WaitCursor waiting;
     TicketFile ticket = m_session.ticket();
     if (findOwn(name)) {
         if (const auto stored = m_store.read(name)) {
@@ -304,9 +317,13 @@ bool PresetMenu::store(const QString &name, std::optional<bool> keepSecrets)
         }
         ticket.unknown.remove(kTicketNonceKey);
     }
-    if (const auto saved =
-            m_store.save(name, ticket, m_session.secretKeys(), keepSecrets.value_or(false));
-        !saved) {
+    return m_store.save(name, ticket, m_session.secretKeys(), keepSecrets.value_or(false));
+}
+
+bool PresetMenu::store(const QString &name, std::optional<bool> keepSecrets)
+{
+    m_session.writeAll();
+    if (const auto saved = write(name, keepSecrets); !saved) {
         CFUserNotificationDisplayNotice(NoticeLevel::Stop,
                                         tr("The preset “%1” was not saved").arg(name),
                                         saved.error().text(), {}, this);

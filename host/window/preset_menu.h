@@ -41,6 +41,7 @@ private:
     void remove();
     // Without `keepSecrets`, as the preset that is replaced has it.
     bool store(const QString &name, std::optional<bool> keepSecrets);
+    Result<void> write(const QString &name, std::optional<bool> keepSecrets);
     const Preset *chosenPreset() const;
     const Preset *findOwn(const QString &name) const;
 
