@@ -22,6 +22,7 @@ private slots:
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void leavesNothingOfDeletedPages();
+    void printsTheExampleWithDividers();
     void endsWhileAPanelAsks_data();
     void endsWhileAPanelAsks();
     void putsSeparatorsBetweenTransparencies();
@@ -177,6 +178,16 @@ void TestPanelStories::leavesNothingOfDeletedPages()
     for (const QString &key : keys)
         QVERIFY(!sent.printSettings.entries.contains(key));
     QCOMPARE(sent.printSettings.ppdChoices.value("KVFrontCoverSheet"), QStringLiteral("None"));
+}
+
+void TestPanelStories::printsTheExampleWithDividers()
+{
+    const Desk desk;
+    const Run run = desk.run({"--demo", "--no-window", "--script",
+                              KELVO_SOURCE_DIR "/docs/examples/dividers.kps", "--to", "out"});
+    QENDED(run, 0);
+    for (const char *words : {"Front Cover Source: Tray 1", "Inserts: 2", "Exception pages: 5"})
+        QVERIFY2(run.out.contains(words), qPrintable(run.out));
 }
 
 void TestPanelStories::endsWhileAPanelAsks_data()
