@@ -102,8 +102,10 @@ public:
         }
         const Edit edit = editBetween(m_text, input);
         const QString piece = allowedPiece(m_text, input, edit, m_limits);
-        if (piece.size() != edit.inserted) {
-            explain(input.mid(edit.start, edit.inserted));
+        const QString typed = input.mid(edit.start, edit.inserted);
+        if (piece != typed) {
+            if (piece.size() != typed.size())
+                explain(typed);
             if (piece.isEmpty())
                 return Invalid; // the line edit brings back what it replaced
             input.replace(edit.start, edit.inserted, piece);
@@ -124,11 +126,13 @@ public:
         }
         const Edit edit = editBetween(m_text, now);
         QString piece = allowedPiece(m_text, now, edit, m_limits);
-        if (piece.size() == edit.inserted) {
+        const QString typed = now.mid(edit.start, edit.inserted);
+        if (piece == typed) {
             m_text = now;
             return false;
         }
-        explain(now.mid(edit.start, edit.inserted));
+        if (piece.size() != typed.size())
+            explain(typed);
         if (piece.isEmpty())
             piece = m_text.mid(edit.start, edit.removed); // what it replaced comes back
         m_text = now.left(edit.start) + piece + now.mid(edit.start + edit.inserted);
@@ -251,9 +255,11 @@ QString withinLimits(const QString &typed, const InputLimits &limits)
 {
     QString kept;
     int length = 0;
-    for (const char32_t c : typed.toUcs4()) {
+    for (char32_t c : typed.toUcs4()) {
         if (limits.maximumLength >= 0 && length == limits.maximumLength)
             break;
+        if (!isAllowed(c, limits))
+            c = limits.substitutes.value(c, c);
         if (!isAllowed(c, limits))
             continue;
         kept += QString::fromUcs4(&c, 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QValidator>
@@ -17,6 +18,7 @@ struct InputLimits
     int minimumLength = 0;
     int maximumLength = -1;                // -1: no limit
     std::optional<QSet<char32_t>> allowed; // none: any character
+    QHash<char32_t, char32_t> substitutes; // of others, allowed ones that are taken instead
     bool ascii() const;                    // only printable ASCII is allowed
 
     static QSet<char32_t> setOf(const QString &characters);
@@ -28,8 +30,8 @@ enum class InputProblem { None, TooShort, TooLong, BadCharacter };
 // The first thing wrong with `text`, characters before lengths.
 [[nodiscard]] InputProblem findProblem(const QString &text, const InputLimits &limits);
 
-// What of `typed` may stand: characters that are not allowed are left out, the
-// rest is cut at the maximum. Used for pasting.
+// What of `typed` may stand: characters that are not allowed are left out or have
+// a substitute, the rest is cut at the maximum. Used for typing and pasting.
 QString withinLimits(const QString &typed, const InputLimits &limits);
 
 // Keeps `field` (QLineEdit, an editable QComboBox or a QPlainTextEdit) within

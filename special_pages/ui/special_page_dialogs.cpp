@@ -47,7 +47,15 @@ void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock)
 
 void initializePagesField(QLineEdit *field, QLabel *hint)
 {
-    setInputLimits(field, {.allowed = InputLimits::setOf(QStringLiteral("0123456789, -"))});
+    InputLimits limits{.allowed = InputLimits::setOf(QStringLiteral("0123456789, -"))};
+    // As page numbers are written elsewhere. Left out, they would make one number of two.
+    for (const char32_t dash : {U'\u2010', U'\u2011', U'\u2012', U'\u2013', U'\u2014', U'\u2212'})
+        limits.substitutes.insert(dash, U'-');
+    for (const char32_t comma : {U';', U':', U'.', U'/', U'+', U'&', U'\u3001', U'\uFF0C'})
+        limits.substitutes.insert(comma, U',');
+    for (const char32_t blank : {U'\t', U'\n', U'\u00A0', U'\u202F', U'\u2009'})
+        limits.substitutes.insert(blank, U' ');
+    setInputLimits(field, limits);
     makeHintText(hint);
     field->setAccessibleDescription(hint->text());
     field->setFocus();

@@ -32,10 +32,10 @@ private slots:
 
 namespace {
 
-// Digits, one to four of them.
+// Digits, one to four of them; an l is taken for a 1.
 InputLimits pin()
 {
-    return {1, 4, InputLimits::decimalDigits()};
+    return {1, 4, InputLimits::decimalDigits(), {{U'l', U'1'}}};
 }
 
 QString textIn(QWidget *field)
@@ -112,6 +112,8 @@ void TestInputLimits::pastedTextIsCutToFit_data()
                             << "1239";
         row("dashes left out") << kind << "2-3-4"
                                << "1239";
+        row("one with a substitute") << kind << "2l"
+                                     << "1219";
         row("nothing of it allowed") << kind << "ab"
                                      << "19";
     }
