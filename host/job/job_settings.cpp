@@ -459,6 +459,8 @@ bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd)
     const QString keyword = QStringLiteral("Duplex");
     const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
     const QString choice = choices.value(keyword, option ? option->defaultChoice : QString());
+    if (ppd && (!option || !option->findChoice(choice)))
+        return false; // it is not sent
     return choice == QLatin1String("DuplexNoTumble") || choice == QLatin1String("DuplexTumble");
 }
 

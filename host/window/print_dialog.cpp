@@ -495,8 +495,14 @@ void PrintDialog::showDetails()
 
 void PrintDialog::showHelp()
 {
-    // The panels' own help first; the host's pages where nobody has any.
-    if (sendCommand(this, fourCharCode("help")) == eventNotHandledErr)
+    // The shown panel's own page; the contents where it has none.
+    Event event;
+    event.kind = EventKind::Command;
+    event.command = fourCharCode("help");
+    event.source = this;
+    if (const Extension *panels = m_session->panels(); panels && panels->shownPanel() >= 0)
+        event.source = panels->panels()[static_cast<std::size_t>(panels->shownPanel())].pane;
+    if (sendEvent(event) == eventNotHandledErr)
         DisplayHelp({}, this);
 }
 
