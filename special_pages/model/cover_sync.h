@@ -10,7 +10,8 @@ namespace kelvo {
 
 // Moves the covers between a panel and the print settings ticket. They travel as
 // the paper source of their stock alone, in the PPD choices KVFrontCoverSheet and
-// KVBackCoverSheet; the rest of a cover stays with the panel. In booklet layout
+// KVBackCoverSheet; the rest of a cover is told nobody, and a read forgets it: it
+// makes both covers anew. In booklet layout
 // the back cover follows the front one: an equal or missing back cover is written
 // as none, and read as a copy of the front.
 //

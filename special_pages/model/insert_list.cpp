@@ -4,6 +4,24 @@
 
 namespace kelvo {
 
+namespace {
+
+class Members
+{
+public:
+    explicit Members(SpecialPageList::Pages pages)
+        : m_pages(pages.begin(), pages.end())
+    {
+        std::ranges::sort(m_pages);
+    }
+    bool has(const SpecialPage &page) const { return std::ranges::binary_search(m_pages, &page); }
+
+private:
+    std::vector<const SpecialPage *> m_pages;
+};
+
+} // namespace
+
 InsertList::InsertList(const InsertList &other)
     : SpecialPageList()
 {
@@ -40,8 +58,7 @@ std::unique_ptr<SpecialPageList> InsertList::clone() const
 
 bool InsertList::canPromote(const Insert *insert) const
 {
-    const std::int32_t index = indexOfPage(insert);
-    return index > 0 && m_pages[index - 1]->startPage() == insert->startPage();
+    return canSwapWithNext(indexOfPage(insert) - 1);
 }
 
 void InsertList::promote(const Insert *insert)
@@ -52,15 +69,39 @@ void InsertList::promote(const Insert *insert)
 
 bool InsertList::canDemote(const Insert *insert) const
 {
-    const std::int32_t index = indexOfPage(insert);
-    return index >= 0 && index + 1 < count()
-        && m_pages[index + 1]->startPage() == insert->startPage();
+    return canSwapWithNext(indexOfPage(insert));
 }
 
 void InsertList::demote(const Insert *insert)
 {
     if (canDemote(insert))
         swapWithNext(indexOfPage(insert));
+}
+
+void InsertList::promote(Pages inserts)
+{
+    const Members members(inserts);
+    for (std::int32_t index = 0; index + 1 < count(); ++index) {
+        if (canSwapWithNext(index) && !members.has(*m_pages[index])
+            && members.has(*m_pages[index + 1]))
+            swapWithNext(index);
+    }
+}
+
+void InsertList::demote(Pages inserts)
+{
+    const Members members(inserts);
+    for (std::int32_t index = count() - 2; index >= 0; --index) {
+        if (canSwapWithNext(index) && members.has(*m_pages[index])
+            && !members.has(*m_pages[index + 1]))
+            swapWithNext(index);
+    }
+}
+
+bool InsertList::canSwapWithNext(std::int32_t index) const
+{
+    return index >= 0 && index + 1 < count()
+        && m_pages[index]->startPage() == m_pages[index + 1]->startPage();
 }
 
 void InsertList::swapWithNext(std::int32_t index)

@@ -23,8 +23,13 @@ public:
     void promote(const Insert *insert);
     bool canDemote(const Insert *insert) const;
     void demote(const Insert *insert);
+    // The same for many: neighbours move together, and keep their order where the
+    // first of them cannot move.
+    void promote(Pages inserts);
+    void demote(Pages inserts);
 
 private:
+    bool canSwapWithNext(std::int32_t index) const;
     void swapWithNext(std::int32_t index);
 };
 

@@ -22,6 +22,25 @@ SpecialPage::SpecialPage(const Dictionary &dictionary)
 {
 }
 
+SpecialPage::SpecialPage(const SpecialPage &other)
+    : m_startPage(other.m_startPage)
+    , m_stock(other.m_stock)
+{
+}
+
+SpecialPage &SpecialPage::operator=(const SpecialPage &other)
+{
+    m_startPage = other.m_startPage;
+    m_stock = other.m_stock;
+    return *this;
+}
+
+std::uint64_t SpecialPage::newIdentity()
+{
+    static std::uint64_t last = 0;
+    return ++last;
+}
+
 Dictionary SpecialPage::asTicket() const
 {
     Dictionary dictionary;

@@ -8,7 +8,8 @@
 
 namespace kelvo {
 
-// A sheet of the job that is not like the others: its place and its paper.
+// A sheet of the job that is not like the others: its place and its paper. Pages are
+// told apart by identity, on the GUI thread alone: a copy is another page.
 //
 // Dictionary form:
 //   StartPage   integer     missing or no number: 0
@@ -23,6 +24,9 @@ public:
     virtual Dictionary asTicket() const;
     virtual std::unique_ptr<SpecialPage> clone() const = 0;
 
+    // No other page of this program has it, also when this one is gone.
+    std::uint64_t identity() const { return m_identity; }
+
     // The first page of the document that this is about; for what is put in
     // between, the page after which it comes.
     std::int32_t startPage() const { return m_startPage; }
@@ -32,10 +36,13 @@ public:
     const Stock &stock() const { return m_stock; }
 
 protected:
-    SpecialPage(const SpecialPage &) = default;
-    SpecialPage &operator=(const SpecialPage &) = default;
+    SpecialPage(const SpecialPage &other);
+    SpecialPage &operator=(const SpecialPage &other); // stays the page that it is
 
 private:
+    static std::uint64_t newIdentity();
+
+    const std::uint64_t m_identity = newIdentity();
     std::int32_t m_startPage = 0;
     Stock m_stock;
 };

@@ -9,12 +9,14 @@ namespace {
 // As a user types it. What a ticket has before page 1 are no pages.
 QString rangeText(std::int32_t startPage, std::int32_t endPage)
 {
+    if (endPage < 1)
+        return {};
     const std::int32_t first = std::max(startPage, 1);
     const std::int32_t last = std::max(endPage, first);
     const QString text = QString::number(first);
     if (last == first)
         return text;
-    return text + u'-' + (last == kHighestPage ? QString() : QString::number(last));
+    return text + u'-' + (last >= kHighestPage ? QString() : QString::number(last));
 }
 
 } // namespace
@@ -51,10 +53,10 @@ OSStatus insertsFrom(const InsertEdit &edit, std::int32_t others, std::vector<In
         count += range.count;
     if (count > kMostInserts)
         return kTooManyInserts;
-    for (const PageRange &range : ranges) {
-        for (std::int32_t i = 0; i < range.count; ++i)
-            inserts->emplace_back(edit.page).setStartPage(range.first + i);
-    }
+    if (edit.position == kInsertAfterPages)
+        CreatePageRangesBySeparatingString(&edit.pages, false, &ranges);
+    for (const PageRange &page : ranges)
+        inserts->emplace_back(edit.page).setStartPage(page.first);
     return noErr;
 }
 

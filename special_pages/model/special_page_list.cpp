@@ -22,23 +22,15 @@ std::int32_t SpecialPageList::indexOfPage(const SpecialPage *page) const
     return -1;
 }
 
-void SpecialPageList::remove(const SpecialPage *page)
-{
-    const std::int32_t index = indexOfPage(page);
-    if (index < 0)
-        return;
-    m_pages.erase(m_pages.begin() + index);
-    pagesChanged();
-}
-
 void SpecialPageList::remove(Pages pages)
 {
     std::vector<const SpecialPage *> goes(pages.begin(), pages.end());
     std::ranges::sort(goes);
-    std::erase_if(m_pages, [&goes](const auto &page) {
+    const auto gone = std::erase_if(m_pages, [&goes](const auto &page) {
         return std::ranges::binary_search(goes, page.get());
     });
-    pagesChanged();
+    if (gone > 0)
+        pagesChanged();
 }
 
 void SpecialPageList::clear()
@@ -77,7 +69,7 @@ std::optional<Array> SpecialPageList::asTicket() const
 
 bool SpecialPageList::isWrittenAs(const Array &form) const
 {
-    return m_form && m_form->isSharedWith(form);
+    return m_pages.empty() ? form.isEmpty() : m_form && m_form->isSharedWith(form);
 }
 
 std::vector<const SpecialPage *> SpecialPageList::pages() const

@@ -34,11 +34,11 @@ public:
     // Copies of the pages, one after the other; the caller's stay the caller's. When
     // it fails, the list is as it was.
     virtual OSStatus add(Pages pages) = 0;
-    // Deletes the page; one that is not in the list is left alone.
-    void remove(const SpecialPage *page);
+    // Deletes the pages; null, and one that is not in the list, is left alone.
+    void remove(const SpecialPage *page) { remove(Pages(&page, 1)); }
     void remove(Pages pages);
     void clear();
-    // Puts the replacements in the place of `page`, as add() does, and deletes it.
+    // Adds the replacements as add() does, without `page` in its way, and deletes it.
     // When add() fails, the page is back at its place and the status is add()'s.
     // noErr, and nothing changed, for a page that is not in the list.
     OSStatus update(const SpecialPage &page, Pages replacements);
@@ -47,7 +47,8 @@ public:
     // list changes: the panels write far more often than anybody edits.
     std::optional<Array> asTicket() const;
     // Whether `form` is the array that asTicket() answered last (or a copy, also out
-    // of a ticket), and still would. Quick; an equal array is another array.
+    // of a ticket), and still would; an empty one for an empty list. Quick; an equal
+    // array is another array.
     bool isWrittenAs(const Array &form) const;
 
     virtual std::unique_ptr<SpecialPageList> clone() const = 0;

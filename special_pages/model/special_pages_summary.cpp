@@ -2,6 +2,7 @@
 
 #include "installed_features.h"
 #include "lighten_darken.h"
+#include "ppd_choices.h"
 #include "setting_maps.h"
 #include "stock_summary.h"
 #include "ticket_values.h"
@@ -13,6 +14,7 @@ namespace kelvo {
 namespace {
 
 const QString separator = QStringLiteral("; ");
+const QString coverOption = QStringLiteral("KVFrontCoverSheet"); // as of the back cover
 const QString wideSeparator = QStringLiteral(";  ");
 
 QString text(CFBundleRef bundle, const char *key)
@@ -107,7 +109,7 @@ QString pagesText(CFBundleRef bundle, const SpecialPages &pages, const SpecialPa
             ? first
             : first + u'-' + QString::number(exception->endPage());
     }
-    return page.startPage() == 0 ? text(bundle, "SpecialPageSummaryBefore1") : first;
+    return page.startPage() < 1 ? text(bundle, "SpecialPageSummaryBefore1") : first;
 }
 
 QString typeText(CFBundleRef bundle, const SpecialPage &page)
@@ -132,13 +134,21 @@ QString CopySpecialPageSummary(const SpecialPage &page, CFBundleRef bundle)
 QString attributesText(const SpecialPage &page, CFBundleRef bundle)
 {
     QStringList parts{CopySpecialPageSummary(page, bundle)};
+    if (dynamic_cast<const Cover *>(&page)) {
+        const PpdFile *ppd = PPDGetCurrent();
+        if (!ppd || !ppd->findOption(coverOption))
+            parts << text(bundle, "Not on This Device");
+        else if (!PPDChoiceForTicketValue(coverOption, page.stock().source()))
+            parts << text(bundle, "Cover Without Source");
+    }
     if (const auto *exception = dynamic_cast<const ExceptionPage *>(&page)) {
         if (const char *step = lightenDarkenKey(exception->lightenDarken()))
             parts << text(bundle, step);
         if (exception->imageShift()->option != kUnset)
             parts << text(bundle, "Exception Image Shift");
     }
-    return joined(parts, separator);
+    const QString all = joined(parts, separator);
+    return all.isEmpty() ? text(bundle, "UseJobSetting") : all;
 }
 
 QString CreateInsertAttributesDescription(CFBundleRef bundle, const Insert &insert)

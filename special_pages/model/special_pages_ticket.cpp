@@ -25,10 +25,15 @@ OSStatus writeList(PMTicketRef ticket, const QString &key, const SpecialPageList
     return form ? PMTicketSetCFArray(ticket, client, key, *form) : PMTicketReleaseItem(ticket, key);
 }
 
+Array formIn(PMTicketRef ticket, const QString &key)
+{
+    return PMTicketGetCFArray(ticket, key).value_or(Array());
+}
+
 template <typename Page>
 void readList(PMTicketRef ticket, const QString &key, SpecialPageList &list)
 {
-    const Array form = PMTicketGetCFArray(ticket, key).value_or(Array());
+    const Array form = formIn(ticket, key);
     if (list.isWrittenAs(form))
         return;
     list.clear();
@@ -52,6 +57,13 @@ OSStatus writeSpecialPages(PMTicketRef ticket, const InsertList &inserts,
 {
     writeList(ticket, insertsKey(), inserts);
     return writeList(ticket, exceptionsKey(), exceptions);
+}
+
+bool holdsSpecialPages(PMTicketRef ticket, const InsertList &inserts,
+                       const ExceptionPageList &exceptions)
+{
+    return inserts.isWrittenAs(formIn(ticket, insertsKey()))
+        && exceptions.isWrittenAs(formIn(ticket, exceptionsKey()));
 }
 
 OSStatus readSpecialPages(PMTicketRef ticket, InsertList &inserts, ExceptionPageList &exceptions,

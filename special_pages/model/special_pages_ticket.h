@@ -17,6 +17,10 @@ namespace kelvo {
 OSStatus writeSpecialPages(PMTicketRef ticket, const InsertList &inserts,
                            const ExceptionPageList &exceptions);
 
+// Whether the ticket has both lists just as they were written.
+bool holdsSpecialPages(PMTicketRef ticket, const InsertList &inserts,
+                       const ExceptionPageList &exceptions);
+
 // The lists become what the ticket says, and `jobStock` the stock that the
 // Paper/Output panel wrote; null when there is none. A list that the ticket has just
 // as it was written keeps its pages: making 99,999 of them anew takes a while, and

@@ -70,11 +70,12 @@ QString sourceHintKey(const CoverSide &side)
 {
     if (side.sources.items.empty())
         return QStringLiteral("Not on This Device");
+    const std::int32_t source = side.cover->stock().source();
     if (!hasSource(side.sources, *side.cover))
-        return QStringLiteral("Cover Source Missing");
-    return side.cover->stock().source() == kCoverSourceAutomatic
-        ? QStringLiteral("Cover Source Automatic")
-        : QStringLiteral("Cover Source Chosen");
+        return source == kStockSourceInserter ? QStringLiteral("Cover Source Inserter")
+                                              : QStringLiteral("Cover Source Missing");
+    return source == kCoverSourceAutomatic ? QStringLiteral("Cover Source Automatic")
+                                           : QStringLiteral("Cover Source Chosen");
 }
 
 // From a cover to its controls. One that is not there leaves them empty.

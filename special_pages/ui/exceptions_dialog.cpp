@@ -8,6 +8,7 @@
 #include "setting_maps.h"
 #include "special_page_dialogs.h"
 #include "special_page_edits.h"
+#include "special_pages_summary.h"
 #include "stock_menus.h"
 #include "string_table.h"
 #include "tab_control.h"
@@ -113,6 +114,8 @@ void syncToUI(const ExceptionsContext &context)
     const ExceptionPage &page = context.edit.page;
     ShowStockSummary(context.bundle, context.stock.summary, &page.stock(), kJobContextExceptions);
     StockIconEventHandler(context.stock);
+    context.window->setAccessibleDescription(
+        CreateExceptionAttributesDescription(context.bundle, page));
     const QString tabShift = tabShiftWords(context.bundle, page);
     context.tabShift->setText(tabShift);
     context.tabShiftButton->setAccessibleDescription(tabShift);

@@ -6,10 +6,13 @@
 #include "setting_maps.h"
 #include "special_page_dialogs.h"
 #include "special_page_edits.h"
+#include "special_pages_summary.h"
 #include "spin_field.h"
 
 #include <QLabel>
 #include <QLineEdit>
+
+#include <algorithm>
 
 namespace kelvo {
 
@@ -50,6 +53,8 @@ void syncToUI(const InsertsContext &context)
     context.pagesHint->setEnabled(isAfterPages);
     context.quantity->setValue(edit.page.quantity());
     ShowStockSummary(context.bundle, context.stock.summary, &edit.page.stock(), kJobContextInserts);
+    context.window->setAccessibleDescription(
+        CreateInsertAttributesDescription(context.bundle, edit.page));
     StockIconEventHandler(context.stock);
 }
 
@@ -121,8 +126,9 @@ OSStatus initializeInserts(InsertsContext &context, const Stock *jobStock, QWidg
     PopulatePopupButtonFromMap(context.bundle, context.position, InsertOptionMap,
                                kJobContextInserts, kCommandInsertOption);
     initializePagesField(context.pages, context.pagesHint);
-    context.quantity->setMinimum(1);
-    context.quantity->setMaximum(kMostInsertedSheets);
+    // What a ticket asks for is kept, however much it is.
+    context.quantity->setMinimum(std::min(1, context.edit.page.quantity()));
+    context.quantity->setMaximum(std::max(kMostInsertedSheets, context.edit.page.quantity()));
     showJobPaper(context.bundle, findControl<QLabel>(window, kJobPaper), jobStock);
     context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {
         return handleEvent(context, event);

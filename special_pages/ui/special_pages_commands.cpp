@@ -2,6 +2,7 @@
 
 #include "covers_dialog.h"
 #include "exceptions_dialog.h"
+#include "help_window.h"
 #include "inserts_dialog.h"
 #include "special_pages_notices.h"
 #include "special_pages_view.h"
@@ -11,6 +12,8 @@
 namespace kelvo {
 
 namespace {
+
+constexpr OSType kCommandPanelHelp = fourCharCode("help");
 
 // KPDE numbers of the buttons.
 enum Command : std::int32_t {
@@ -68,19 +71,10 @@ bool editSelected(_SpecialPagesContext &panel)
 void moveSelected(_SpecialPagesContext &panel, bool isUp)
 {
     SaveUndoState(&panel);
-    std::vector<const SpecialPage *> selected = selectedPages(panel);
-    // Going down, the last goes first: neighbours would only change places.
-    if (!isUp)
-        std::ranges::reverse(selected);
-    for (const SpecialPage *page : selected) {
-        const auto *insert = dynamic_cast<const Insert *>(page);
-        if (!insert)
-            continue;
-        if (isUp)
-            panel.inserts->promote(insert);
-        else
-            panel.inserts->demote(insert);
-    }
+    if (isUp)
+        panel.inserts->promote(selectedPages(panel));
+    else
+        panel.inserts->demote(selectedPages(panel));
 }
 
 // Does the command of that number; false when the list need not be filled anew.
@@ -133,6 +127,8 @@ OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &even
         UpdateSpecialPagesCommandButtons(&panel);
         return noErr;
     }
+    if (event.kind == EventKind::Command && event.command == kCommandPanelHelp)
+        return DisplayHelp(QStringLiteral("special_pages/special_pages.htm"), panel.pane);
     if (event.kind == EventKind::ListActivated && event.source == panel.list && event.row >= 0)
         command = kEdit;
     else if (event.kind == EventKind::ControlHit && isCommand(event.control.number))

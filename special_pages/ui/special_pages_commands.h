@@ -6,9 +6,9 @@
 // What the commands of the Special Pages panel do.
 namespace kelvo {
 
-// A hit on a command's button does it; a double click on a page edits it. The list
-// is filled anew, but after a dialog that was cancelled. eventNotHandledErr for
-// what is not the panel's.
+// A hit on a command's button does it; a double click on a page edits it, and help
+// opens the panel's page. The list is filled anew, but after a dialog that was cancelled.
+// eventNotHandledErr for what is not the panel's.
 OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &event);
 
 // Each asks first, and deletes when the answer is yes.

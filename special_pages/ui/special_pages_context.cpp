@@ -38,6 +38,14 @@ void PerformUndo(_SpecialPagesContext *context)
     context->exceptions = std::move(context->savedExceptions);
 }
 
+void DropUndoState(_SpecialPagesContext *context)
+{
+    context->savedFrontCover.reset();
+    context->savedBackCover.reset();
+    context->savedInserts.reset();
+    context->savedExceptions.reset();
+}
+
 bool hasUndoState(const _SpecialPagesContext &context)
 {
     return context.savedFrontCover || context.savedBackCover || context.savedInserts

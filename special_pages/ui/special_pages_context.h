@@ -46,7 +46,14 @@ struct _SpecialPagesContext // NOLINT(bugprone-reserved-identifier)
     QPointer<QAbstractButton> moveUpButton, moveDownButton;      // KPDE 1600, 1700
     EventHandlerRef handler;
 
-    std::vector<const SpecialPage *> rows; // what the list shows, row by row
+    // What the list shows, row by row. Pages go and others come in their memory, so
+    // what was selected is known by identity.
+    struct Row
+    {
+        const SpecialPage *page;
+        std::uint64_t identity;
+    };
+    std::vector<Row> rows;
 
     SpecialPages pages() const;
 };
@@ -59,6 +66,7 @@ extern _SpecialPagesContext *_specialPagesContext;
 void SaveUndoState(_SpecialPagesContext *context);
 // Brings the copies back, and none are left.
 void PerformUndo(_SpecialPagesContext *context);
+void DropUndoState(_SpecialPagesContext *context);
 bool hasUndoState(const _SpecialPagesContext &context);
 
 } // namespace kelvo

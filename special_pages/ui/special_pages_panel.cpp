@@ -47,7 +47,8 @@ OSStatus buildPane(_SpecialPagesContext &panel)
     if (!panel.pane)
         return openFailed("get user pane control reference");
     InitializeSpecialPages(panel);
-    panel.handler = installEventHandler(panel.pane, [&panel](const Event &event) {
+    // On the parent, which the dialog's help command is sent to.
+    panel.handler = installEventHandler(panel.parentPane, [&panel](const Event &event) {
         return SpecialPagesEventHandler(panel, event);
     });
     return EmbedAndShowControl(panel.pane, panel.parentPane);
@@ -72,11 +73,15 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
     OSStatus status = GetTicketFromSession(session, kPMPrintSettingsTicket, &panel->ticket);
     if (status != noErr)
         return status;
-    if (direction == kSyncWrite)
+    if (direction == kSyncWrite) {
         status = writeSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions);
-    else if (direction == kSyncRead)
+    } else if (direction == kSyncRead) {
+        // Of another ticket, a preset's say, nothing can be undone.
+        if (!holdsSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions))
+            DropUndoState(panel);
         status =
             readSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions, panel->jobStock);
+    }
     SyncCovers(panel->ticket, direction, &panel->frontCover, &panel->backCover);
     if (direction == kSyncRead)
         UpdateSpecialPagesSummary(panel);

@@ -104,7 +104,7 @@ void ConfigureSpecialPagesListAndInstallCallbacks(_SpecialPagesContext &panel)
             {localizedText(panel.bundle, QString::fromLatin1(column.titleKey)), column.width});
     panel.list->setColumns(columns, [&panel](int row, int column) {
         QString text;
-        SpecialPagesListItemDataCallback(panel, *panel.rows[static_cast<std::size_t>(row)],
+        SpecialPagesListItemDataCallback(panel, *panel.rows[static_cast<std::size_t>(row)].page,
                                          listColumns[column].property, &text);
         return text;
     });
@@ -157,16 +157,19 @@ void UpdateSpecialPagesSummary(_SpecialPagesContext *panel)
 {
     if (!panel || !panel->list)
         return;
-    std::vector<const SpecialPage *> selected = selectedPages(*panel);
-    std::ranges::sort(selected, std::less<>());
-    panel->rows = rowsOf(panel->pages());
-    panel->list->reload(static_cast<int>(panel->rows.size()));
-    std::vector<int> rows;
-    for (std::size_t row = 0; row < panel->rows.size() && !selected.empty(); ++row) {
-        if (std::ranges::binary_search(selected, panel->rows[row], std::less<>()))
-            rows.push_back(static_cast<int>(row));
+    std::vector<std::uint64_t> selected;
+    for (const int row : panel->list->selectedRows())
+        selected.push_back(panel->rows[static_cast<std::size_t>(row)].identity);
+    std::ranges::sort(selected);
+    panel->rows.clear();
+    std::vector<int> selectedRows;
+    for (const SpecialPage *page : rowsOf(panel->pages())) {
+        if (std::ranges::binary_search(selected, page->identity()))
+            selectedRows.push_back(static_cast<int>(panel->rows.size()));
+        panel->rows.push_back({page, page->identity()});
     }
-    panel->list->selectRows(rows);
+    panel->list->reload(static_cast<int>(panel->rows.size()));
+    panel->list->selectRows(selectedRows);
     UpdateSpecialPagesCommandButtons(panel);
 }
 
@@ -196,7 +199,7 @@ std::vector<const SpecialPage *> selectedPages(const _SpecialPagesContext &panel
     const std::vector<int> rows = panel.list->selectedRows();
     pages.reserve(rows.size());
     for (const int row : rows)
-        pages.push_back(panel.rows[static_cast<std::size_t>(row)]);
+        pages.push_back(panel.rows[static_cast<std::size_t>(row)].page);
     return pages;
 }
 

@@ -147,7 +147,9 @@ void TestSpecialPageEdits::editingShowsWhereThePageIs_data()
     QTest::newRow("the last page") << kHighestPage << kHighestPage << "99999"
                                    << "99999";
     QTest::newRow("no pages, from a ticket") << -3 << -2 << ""
-                                             << "1";
+                                             << "";
+    QTest::newRow("beyond the last page, from a ticket") << 7 << 100'005 << "7"
+                                                         << "7-";
 }
 
 void TestSpecialPageEdits::editingShowsWhereThePageIs()

@@ -1,6 +1,7 @@
 #include "device_session.h"
 #include "dialog_driver.h"
 #include "special_pages_context.h"
+#include "special_pages_notices.h"
 #include "special_pages_panel.h"
 #include "special_pages_view.h"
 #include "ticket.h"
@@ -134,7 +135,10 @@ private slots:
     void asksBeforeItDeletes();
     void undoesOnce();
     void carriesPagesThroughTheTicket();
-    void keepsPagesThatTheTicketHas();
+    void keepsPagesAndUndoThatTheTicketHas();
+    void selectsNoPageThatCameInAnothersPlace();
+    void everyAlertHasItsTexts_data();
+    void everyAlertHasItsTexts();
 };
 
 void TestSpecialPagesPanel::answersAsItsProtocolSays()
@@ -160,6 +164,13 @@ void TestSpecialPagesPanel::answersAsItsProtocolSays()
     QVERIFY(panel.find(1000)->isVisible());
     QCOMPARE(call.GetSummaryText(panel.context, &titles, &texts), noErr);
     QVERIFY(!titles && !texts);
+    QString text;
+    QCOMPARE(
+        SpecialPagesListItemDataCallback(panel.data(), insertAfter(1), fourCharCode("SIZE"), &text),
+        -4979);
+    // A cover that is neither the front nor the back one has no place.
+    QCOMPARE(SpecialPagesListItemDataCallback(panel.data(), Cover(), kPropertyPages, &text), noErr);
+    QCOMPARE(text, QString());
     panel.end();
     QVERIFY(!_specialPagesContext);
 }
@@ -263,7 +274,8 @@ void TestSpecialPagesPanel::describesPages_data()
     cover.setSidesImaged(kCoverPrinted);
     cover.stock().setSource(kUnset);
     cover.stock().setCustomName("Card");
-    row("a printed cover of named stock", cover, "Name: Card; Printed; White");
+    row("a printed cover of named stock", cover,
+        "Name: Card; Printed; White; No paper source: left out");
     row("an insert", insertAfter(2, 3), "Sheets [3]");
     row("from the inserter", insertOn([](Stock &stock) {
             stock.setSource(kStockSourceInserter);
@@ -293,7 +305,7 @@ void TestSpecialPagesPanel::describesPages_data()
         insertOn([](Stock &stock) { stock.setColor(4711); }), "Sheets [3]");
 
     ExceptionPage exception = exceptionOf(1, 2);
-    row("an exception", exception, "");
+    row("an exception that differs in nothing", exception, "Use job setting");
     exception.setPlex(3);
     exception.setLightenDarken(-2);
     row("an exception's sides and image", exception,
@@ -415,8 +427,12 @@ void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
     PMTicketSetCFArray(ticket, "test", insertsKey, others);
     PMTicketReleaseItem(ticket, exceptionsKey);
     PMTicketSetCFDictionary(ticket, "test", ticketKey("JobLevelStock"), {{"Color", kBlue}});
-    QCOMPARE(panel.sync(7), noErr); // another direction
+    // Another direction moves nothing, covers neither.
+    panel.data().frontCover->stock().setSource(1);
+    QCOMPARE(panel.sync(7), noErr);
     QCOMPARE(panel.rows(), QString());
+    QCOMPARE(panel.data().frontCover->stock().source(), 1);
+    QCOMPARE(panel.session.choice("KVFrontCoverSheet"), QStringLiteral("Tray2"));
     QCOMPARE(panel.sync(kSyncRead), noErr);
     QCOMPARE(panel.rows(), QStringLiteral("Front Cover · 1 Insert · 9 Insert"));
     QCOMPARE(panel.data().jobStock->color(), kBlue);
@@ -430,16 +446,76 @@ void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
     QVERIFY(!panel.data().jobStock);
 }
 
-void TestSpecialPagesPanel::keepsPagesThatTheTicketHas()
+void TestSpecialPagesPanel::keepsPagesAndUndoThatTheTicketHas()
 {
     Panel panel;
     panel.begin();
     addTo(*panel.data().inserts, insertAfter(3), insertAfter(4));
     panel.refill();
     panel.select({2});
+    panel.press(1300, 1); // declined: there is something to undo
     panel.sync(kSyncWrite);
     panel.sync(kSyncRead);
     QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{1}));
+    QVERIFY(panel.find(1500)->isEnabled());
+    PMTicketSetCFArray(panel.session.settings(), "test", ticketKey("SpecialPages.InsertList"),
+                       {insertAfter(9).asTicket()});
+    panel.sync(kSyncRead);
+    QCOMPARE(panel.rows(), QStringLiteral("9 Insert"));
+    QVERIFY(!panel.find(1500)->isEnabled());
+}
+
+void TestSpecialPagesPanel::selectsNoPageThatCameInAnothersPlace()
+{
+    Panel panel;
+    panel.begin();
+    for (auto *cover : {&panel.data().frontCover, &panel.data().backCover}) {
+        *cover = std::make_unique<Cover>();
+        (*cover)->stock().setSource(1);
+    }
+    panel.sync(kSyncWrite);
+    panel.refill();
+    panel.select({1});
+    panel.sync(kSyncRead); // both are made anew, the back one where the front one was
+    QCOMPARE(panel.rows(), QStringLiteral("Front Cover · Back Cover"));
+    QVERIFY(panel.data().list->selectedRows().empty());
+}
+
+void TestSpecialPagesPanel::everyAlertHasItsTexts_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("title"); // keys; none: nothing is shown
+    QTest::addColumn<QString>("message");
+
+    const auto row = [](int code, const char *title, const char *message) {
+        QTest::addRow("%d", code) << code << title << message;
+    };
+    row(1000, "Page Number Limit Title", "Page Number Limit");
+    row(1001, "Invalid Pages Title", "Invalid Page Ranges");
+    row(1002, "Invalid Ranges Title", "Invalid Range Order");
+    row(1003, "Invalid Page Numbers Title", "Invalid Page Numbers Message");
+    row(1234, "PageRangeConflictTitle", "PageRangeConflictMessage");
+    row(1004, "", "");
+}
+
+void TestSpecialPagesPanel::everyAlertHasItsTexts()
+{
+    QFETCH(int, code);
+    QFETCH(QString, title);
+    QFETCH(QString, message);
+    const Panel panel;
+    ShownNotice shown;
+    QTimer::singleShot(0, [&shown] {
+        shown = frontNotice();
+        answerNotice(1);
+    });
+    SpecialPagesUserNotification(code, panel.session.bundle);
+    QCoreApplication::processEvents(); // the timer of what shows nothing
+    const auto text = [&panel](const QString &key) {
+        return key.isEmpty() ? QString() : localizedText(panel.session.bundle, key);
+    };
+    QCOMPARE(shown.header, text(title));
+    QCOMPARE(shown.message, text(message).replace("%1", "5")); // digits of 99999
 }
 
 QTEST_MAIN(TestSpecialPagesPanel)

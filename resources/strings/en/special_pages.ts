@@ -89,6 +89,10 @@
         <translation>The printer leaves this cover out until you choose a paper source.</translation>
     </message>
     <message>
+        <source>Cover Source Inserter</source>
+        <translation>Covers do not come from the inserter. The printer leaves this one out until you choose a paper source.</translation>
+    </message>
+    <message>
         <source>Cover Source Automatic</source>
         <translation>The printer chooses the tray.</translation>
     </message>

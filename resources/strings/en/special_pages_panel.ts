@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Add Covers Command</source>
-        <translation>Add &amp;covers…</translation>
+        <translation>Add co&amp;vers…</translation>
     </message>
     <message>
         <source>Add Inserts Command</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Add Exceptions Command</source>
-        <translation>Add e&amp;xceptions…</translation>
+        <translation>&amp;Add exceptions…</translation>
     </message>
     <message>
         <source>Edit Command</source>
