@@ -22,7 +22,6 @@ private slots:
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void leavesNothingOfDeletedPages();
-    void printsTheExampleWithDividers();
     void endsWhileAPanelAsks_data();
     void endsWhileAPanelAsks();
     void putsSeparatorsBetweenTransparencies();
@@ -180,25 +179,15 @@ void TestPanelStories::leavesNothingOfDeletedPages()
     QCOMPARE(sent.printSettings.ppdChoices.value("KVFrontCoverSheet"), QStringLiteral("None"));
 }
 
-void TestPanelStories::printsTheExampleWithDividers()
-{
-    const Desk desk;
-    const Run run = desk.run({"--demo", "--no-window", "--script",
-                              KELVO_SOURCE_DIR "/docs/examples/dividers.kps", "--to", "out"});
-    QENDED(run, 0);
-    for (const char *words : {"Front Cover Source: Tray 1", "Inserts: 2", "Exception pages: 5"})
-        QVERIFY2(run.out.contains(words), qPrintable(run.out));
-}
-
 void TestPanelStories::endsWhileAPanelAsks_data()
 {
     QTest::addColumn<QByteArray>("lines");
-    const QByteArray addInserts = "panel SpecialPages\nclick @addInserts\n";
-    QTest::newRow("in a dialog") << addInserts + "expect @insertPages text \"7\"\n";
-    QTest::newRow("in a notice") << addInserts + "click @okButton\nexpect-notice \"thumb\"\n";
-    QTest::newRow("in a question") << addInserts
-            + "type @insertPages \"2\"\nclick @okButton\nclick @deleteAll\n"
-              "expect-notice \"thumb\"\n";
+    const QByteArray dialog = "panel SpecialPages\nclick @addInserts\n";
+    const QByteArray question =
+        dialog + "type @insertPages \"2\"\nclick @okButton\nclick @deleteAll\n";
+    QTest::newRow("in a dialog") << dialog + "expect @insertPages text \"7\"\n";
+    QTest::newRow("in a notice") << dialog + "click @okButton\nexpect-notice \"thumb\"\n";
+    QTest::newRow("in a question") << question + "expect-notice \"thumb\"\n";
 }
 
 void TestPanelStories::endsWhileAPanelAsks()

@@ -94,6 +94,7 @@ private slots:
     void givesTheSameTicketEachTime();
     void takesDocumentsFromStandardInput();
     void printsToAQueue();
+    void sendsDividersToAQueue();
     void cutsPagesOnlyOnce();
     void refusesASecretThatWouldLieOpen_data();
     void refusesASecretThatWouldLieOpen();
@@ -254,6 +255,35 @@ void TestStories::printsToAQueue()
     QCOMPARE(job.options.value(ticketOption).size(), 1);
     QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).first(), "none"),
              QString());
+}
+
+void TestStories::sendsDividersToAQueue()
+{
+    const Desk desk;
+    const std::size_t before = m_cups.jobs(0).size();
+    const Run run = desk.run({"-d", "Hall-3", "--no-window", "--script",
+                              KELVO_SOURCE_DIR "/docs/examples/dividers.kps", documentPath});
+    QENDED(run, 0);
+    for (const char *words : {"Front Cover Source: Tray 1", "Inserts: 2", "Exception pages: 5"})
+        QVERIFY2(run.out.contains(words), qPrintable(run.out));
+
+    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
+    QCOMPARE(jobs.size(), before + 1);
+    const PrivateCups::Job &job = jobs.back();
+    for (const char *option : {"KVFrontCoverSheet", "KVBackCoverSheet"})
+        QCOMPARE(job.options.value(option), QStringList("Tray1"));
+    write(desk.path("arrived.plist"), attachmentIn(job.document, "kelvo-ticket.plist"));
+    const auto ticket = readTicketFile(desk.path("arrived.plist"));
+    QVERIFY(ticket);
+    QStringList pages;
+    for (const char *list : {"InsertList", "ExceptionList"}) {
+        const auto entry = ticket.value().printSettings.entries.find(
+            QStringLiteral("com.kelvo.print.SpecialPages.") + QLatin1String(list));
+        QVERIFY(entry != ticket.value().printSettings.entries.end());
+        for (const QVariant &page : array(entry->second.value).value_or(Array()))
+            pages << page.toMap().value("StartPage").toString();
+    }
+    QCOMPARE(pages.join(u' '), "2 4 5");
 }
 
 // A queue's defaults are read once; its filters do not apply them again.
