@@ -15,6 +15,7 @@ namespace kelvo {
 
 namespace {
 
+constexpr int cellMargins = 12;     // logical pixels, of both sides
 constexpr int usualFontHeight = 15; // logical pixels, of the font that widths are given for
 
 } // namespace
@@ -112,8 +113,10 @@ void ListView::setColumns(const std::vector<Column> &columns, CellText text)
 {
     m_model->setColumns(columns, std::move(text));
     for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
-        const int width =
-            columns[static_cast<std::size_t>(i)].width * fontMetrics().height() / usualFontHeight;
+        const Column &column = columns[static_cast<std::size_t>(i)];
+        int width = column.width * fontMetrics().height() / usualFontHeight;
+        for (const QString &shown : column.texts)
+            width = std::max(width, fontMetrics().horizontalAdvance(shown) + cellMargins);
         header()->resizeSection(i, std::max(width, header()->sectionSizeHint(i)));
     }
     if (!columns.empty())

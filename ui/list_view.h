@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QTreeView>
 
 #include <functional>
@@ -23,7 +24,8 @@ public:
     struct Column
     {
         QString title;
-        int width = 100; // logical pixels, grows with the font; the last one takes what is left
+        int width = 100;     // logical pixels, grows with the font; the last one takes what is left
+        QStringList texts{}; // that it is wide enough for in any case
     };
     // Text of a cell; called while painting, must be quick.
     using CellText = std::function<QString(int row, int column)>;

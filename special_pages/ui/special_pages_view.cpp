@@ -10,6 +10,7 @@
 #include <QShortcut>
 
 #include <algorithm>
+#include <array>
 
 namespace kelvo {
 
@@ -88,20 +89,35 @@ struct ListColumn
 {
     OSType property;
     const char *titleKey;
-    int width; // logical pixels
+    int width;                              // logical pixels
+    std::array<const char *, 3> textKeys{}; // of what it shows, where that is known
 };
 constexpr ListColumn listColumns[] = {
-    {kPropertyPages, "Page(s)", 110},
-    {kPropertyType, "Type Title", 90},
+    {kPropertyPages,
+     "Page(s)",
+     110,
+     {"SpecialPageSummaryFront", "SpecialPageSummaryBack", "SpecialPageSummaryBefore1"}},
+    {kPropertyType,
+     "Type Title",
+     90,
+     {"SpecialPageSummaryCover", "SpecialPageSummaryInsert", "SpecialPageSummaryException"}},
     {kPropertyAttributes, "Attributes Title", 450},
 };
 
 void ConfigureSpecialPagesListAndInstallCallbacks(_SpecialPagesContext &panel)
 {
     std::vector<ListView::Column> columns;
-    for (const ListColumn &column : listColumns)
-        columns.push_back(
-            {localizedText(panel.bundle, QString::fromLatin1(column.titleKey)), column.width});
+    const auto localized = [&panel](const char *key) {
+        return localizedText(panel.bundle, QString::fromLatin1(key));
+    };
+    for (const ListColumn &column : listColumns) {
+        QStringList texts;
+        for (const char *key : column.textKeys) {
+            if (key)
+                texts << localized(key);
+        }
+        columns.push_back({localized(column.titleKey), column.width, texts});
+    }
     panel.list->setColumns(columns, [&panel](int row, int column) {
         QString text;
         SpecialPagesListItemDataCallback(panel, *panel.rows[static_cast<std::size_t>(row)].page,
