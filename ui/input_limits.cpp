@@ -24,6 +24,16 @@ bool isAllowed(char32_t c, const InputLimits &limits)
     return !limits.allowed || limits.allowed->contains(c);
 }
 
+QString withSubstitutes(const QString &text, const InputLimits &limits)
+{
+    QString changed;
+    for (const char32_t c : text.toUcs4()) {
+        const char32_t taken = isAllowed(c, limits) ? c : limits.substitutes.value(c, c);
+        changed += QString::fromUcs4(&taken, 1);
+    }
+    return changed;
+}
+
 int lengthOf(QStringView text)
 {
     return static_cast<int>(text.toUcs4().size());
@@ -255,11 +265,9 @@ QString withinLimits(const QString &typed, const InputLimits &limits)
 {
     QString kept;
     int length = 0;
-    for (char32_t c : typed.toUcs4()) {
+    for (const char32_t c : withSubstitutes(typed, limits).toUcs4()) {
         if (limits.maximumLength >= 0 && length == limits.maximumLength)
             break;
-        if (!isAllowed(c, limits))
-            c = limits.substitutes.value(c, c);
         if (!isAllowed(c, limits))
             continue;
         kept += QString::fromUcs4(&c, 1);
@@ -301,10 +309,12 @@ bool typeText(QWidget *field, const QString &text)
         return false;
     if (auto *spin = qobject_cast<SpinField *>(field))
         return spin->typeText(text);
+    const std::optional<InputLimits> limits = inputLimits(field);
+    const QString taken = limits ? withSubstitutes(text, *limits) : text;
     if (QLineEdit *line = lineEditOf(field))
-        return typeInto(line, text);
+        return typeInto(line, taken);
     if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
-        return typeInto(edit, text);
+        return typeInto(edit, taken);
     return false;
 }
 

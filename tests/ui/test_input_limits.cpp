@@ -196,6 +196,7 @@ void TestInputLimits::typedTextIsTakenAsFarAsAllowed_data()
         row("at the limit") << kind << "5678" << true << "5678";
         row("one above") << kind << "56789" << false << "5678";
         row("refused ones between") << kind << "5x6" << false << "56";
+        row("a substitute") << kind << "5l6" << true << "516";
         row("all refused") << kind << "xyz" << false << "";
         row("nothing") << kind << "" << true << "";
     }
