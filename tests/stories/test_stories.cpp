@@ -261,8 +261,8 @@ void TestStories::sendsDividersToAQueue()
 {
     const Desk desk;
     const std::size_t before = m_cups.jobs(0).size();
-    const Run run = desk.run({"-d", "Hall-3", "--no-window", "--script",
-                              KELVO_SOURCE_DIR "/docs/examples/dividers.kps", documentPath});
+    const QString example = QStringLiteral(KELVO_SOURCE_DIR "/docs/examples/dividers.kps");
+    const Run run = desk.run({"-d", "Hall-3", "--no-window", "--script", example, documentPath});
     QENDED(run, 0);
     for (const char *words : {"Front Cover Source: Tray 1", "Inserts: 2", "Exception pages: 5"})
         QVERIFY2(run.out.contains(words), qPrintable(run.out));
