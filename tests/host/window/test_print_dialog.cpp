@@ -22,6 +22,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace kelvo;
 
 class TestPrintDialog : public QObject
@@ -222,6 +224,13 @@ void TestPrintDialog::opensOnEveryDevice()
     QVERIFY(shown.dialog.showPanel("Advanced"));
     QVERIFY(!shown.dialog.showPanel("Advancd"));
     QVERIFY(!shown.dialog.showTab(99));
+
+    // Help is about the panel that is shown.
+    QVERIFY(shown.dialog.showPanel("SpecialPages"));
+    shown.find<QPushButton>("help")->click();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    QVERIFY(std::ranges::find(windows, "The Special Pages panel", &QWidget::windowTitle)
+            != windows.end());
 }
 
 void TestPrintDialog::printsWithoutPanels_data()
