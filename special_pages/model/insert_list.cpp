@@ -4,24 +4,6 @@
 
 namespace kelvo {
 
-namespace {
-
-class Members
-{
-public:
-    explicit Members(SpecialPageList::Pages pages)
-        : m_pages(pages.begin(), pages.end())
-    {
-        std::ranges::sort(m_pages);
-    }
-    bool has(const SpecialPage &page) const { return std::ranges::binary_search(m_pages, &page); }
-
-private:
-    std::vector<const SpecialPage *> m_pages;
-};
-
-} // namespace
-
 InsertList::InsertList(const InsertList &other)
     : SpecialPageList()
 {
@@ -63,8 +45,8 @@ bool InsertList::canPromote(const Insert *insert) const
 
 void InsertList::promote(const Insert *insert)
 {
-    if (canPromote(insert))
-        swapWithNext(indexOfPage(insert) - 1);
+    const SpecialPage *page = insert;
+    promote(Pages(&page, 1));
 }
 
 bool InsertList::canDemote(const Insert *insert) const
@@ -74,8 +56,8 @@ bool InsertList::canDemote(const Insert *insert) const
 
 void InsertList::demote(const Insert *insert)
 {
-    if (canDemote(insert))
-        swapWithNext(indexOfPage(insert));
+    const SpecialPage *page = insert;
+    demote(Pages(&page, 1));
 }
 
 void InsertList::promote(Pages inserts)

@@ -24,11 +24,9 @@ std::int32_t SpecialPageList::indexOfPage(const SpecialPage *page) const
 
 void SpecialPageList::remove(Pages pages)
 {
-    std::vector<const SpecialPage *> goes(pages.begin(), pages.end());
-    std::ranges::sort(goes);
-    const auto gone = std::erase_if(m_pages, [&goes](const auto &page) {
-        return std::ranges::binary_search(goes, page.get());
-    });
+    const Members members(pages);
+    const auto gone =
+        std::erase_if(m_pages, [&members](const auto &page) { return members.has(*page); });
     if (gone > 0)
         pagesChanged();
 }
@@ -79,6 +77,17 @@ std::vector<const SpecialPage *> SpecialPageList::pages() const
     for (const auto &page : m_pages)
         pages.push_back(page.get());
     return pages;
+}
+
+SpecialPageList::Members::Members(Pages pages)
+    : m_sorted(pages.begin(), pages.end())
+{
+    std::ranges::sort(m_sorted);
+}
+
+bool SpecialPageList::Members::has(const SpecialPage &page) const
+{
+    return std::ranges::binary_search(m_sorted, &page);
 }
 
 } // namespace kelvo

@@ -60,6 +60,17 @@ protected:
 
     std::vector<const SpecialPage *> pages() const; // for add()
 
+    // Which pages are meant, by identity; asked for each page of a list.
+    class Members
+    {
+    public:
+        explicit Members(Pages pages);
+        bool has(const SpecialPage &page) const;
+
+    private:
+        std::vector<const SpecialPage *> m_sorted;
+    };
+
     // Ascending by startPage(). Whoever changes it calls pagesChanged().
     std::vector<std::unique_ptr<SpecialPage>> m_pages;
     void pagesChanged() { m_form.reset(); }
