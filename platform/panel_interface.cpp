@@ -30,6 +30,14 @@ PanelInterface *makePanelInterface(const PanelOperations &operations)
     return new PanelInterface{new PanelOperations(withoutFirstThree(operations)), 1};
 }
 
+OSStatus givePanelInterface(const PanelOperations &operations, PanelInterface **interface)
+{
+    if (!interface)
+        return paramErr;
+    *interface = makePanelInterface(operations);
+    return noErr;
+}
+
 bool isComplete(const PanelOperations &operations)
 {
     return operations.Prologue && operations.Initialize && operations.Sync

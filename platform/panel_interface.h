@@ -12,6 +12,8 @@ namespace kelvo {
 // A fresh interface with slots 4 to 10 of `operations`; the first three are
 // null. What a panel's getter returns; the caller owns it.
 PanelInterface *makePanelInterface(const PanelOperations &operations);
+// The same for the getter's caller, at `interface`; paramErr for null.
+OSStatus givePanelInterface(const PanelOperations &operations, PanelInterface **interface);
 
 // Slots 4 to 10 are all there.
 bool isComplete(const PanelOperations &operations);

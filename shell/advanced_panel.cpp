@@ -226,16 +226,14 @@ void writeAdvancedSettings(const AdvancedContext &advanced, PMTicketRef ticket)
 
 OSStatus GetAdvancedPanelInterface(PanelInterface **interface)
 {
-    if (!interface)
-        return paramErr;
-    *interface = makePanelInterface({.Prologue = Prologue,
-                                     .Initialize = Initialize,
-                                     .Sync = Sync,
-                                     .GetSummaryText = GetSummaryText,
-                                     .Open = Open,
-                                     .Close = Close,
-                                     .Terminate = Terminate});
-    return noErr;
+    return givePanelInterface({.Prologue = Prologue,
+                               .Initialize = Initialize,
+                               .Sync = Sync,
+                               .GetSummaryText = GetSummaryText,
+                               .Open = Open,
+                               .Close = Close,
+                               .Terminate = Terminate},
+                              interface);
 }
 
 } // namespace kelvo

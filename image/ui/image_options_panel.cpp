@@ -125,16 +125,14 @@ OSStatus Terminate(PMPDEContext context, OSStatus)
 
 OSStatus GetImageOptionsPanelInterface(PanelInterface **interface)
 {
-    if (!interface)
-        return paramErr;
-    *interface = makePanelInterface({.Prologue = Prologue,
-                                     .Initialize = Initialize,
-                                     .Sync = Sync,
-                                     .GetSummaryText = GetSummaryText,
-                                     .Open = Open,
-                                     .Close = Close,
-                                     .Terminate = Terminate});
-    return noErr;
+    return givePanelInterface({.Prologue = Prologue,
+                               .Initialize = Initialize,
+                               .Sync = Sync,
+                               .GetSummaryText = GetSummaryText,
+                               .Open = Open,
+                               .Close = Close,
+                               .Terminate = Terminate},
+                              interface);
 }
 
 } // namespace kelvo
