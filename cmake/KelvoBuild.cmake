@@ -44,6 +44,7 @@ function(kelvo_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
   target_link_libraries(${name} PRIVATE kelvo_options Qt6::Test ${ARG_LINK})
   target_compile_definitions(${name} PRIVATE KELVO_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
                                              KELVO_SOURCE_DIR="${CMAKE_SOURCE_DIR}"

@@ -12,6 +12,7 @@
 #include "script_runner.h"
 #include "size_limits.h"
 #include "temporary_folder.h"
+#include "terminal.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -45,14 +46,8 @@ int toInt(ExitStatus status)
 
 int fail(ExitStatus status, const QString &text)
 {
-    std::fprintf(stderr, "kelvo-print: %s\n", qUtf8Printable(text));
+    printLine(stderr, QStringLiteral("kelvo-print: ") + text);
     return toInt(status);
-}
-
-void say(const QString &text)
-{
-    std::fputs(qUtf8Printable(text), stdout);
-    std::fflush(stdout);
 }
 
 // ---- before the application object is made
@@ -80,7 +75,7 @@ std::unique_ptr<TemporaryFolder> provideRuntimeFolder()
 void passMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     if (!text.startsWith(QLatin1String("This plugin does not support ")))
-        std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+        printLine(stderr, text);
 }
 
 // What was said on standard output has arrived. Where it has not, a script that
@@ -267,11 +262,10 @@ int listQueues(int timeoutMs)
             : printer.state == Printer::State::Idle ? QStringLiteral("idle")
             : printer.state == Printer::State::Busy ? QStringLiteral("printing")
                                                     : QStringLiteral("stopped");
-        say(QStringList{printer.name, state,
-                        printer.isDefault ? QStringLiteral("default") : QString(),
-                        printer.makeAndModel, printer.location}
-                .join(u'\t')
-            + u'\n');
+        printLine(stdout,
+                  QStringList{printer.name, state,
+                              printer.isDefault ? QStringLiteral("default") : QString(),
+                              printer.makeAndModel, printer.location});
     }
     return 0;
 }
@@ -284,7 +278,7 @@ int runDialog(DialogOptions options)
     if (const auto failure = readInputs(options, secrets, script)) {
         if (!failure->isOfScript)
             return fail(failure->status, failure->text);
-        std::fprintf(stderr, "%s\n", qUtf8Printable(failure->text));
+        printLine(stderr, failure->text);
         return toInt(failure->status);
     }
 
@@ -343,7 +337,6 @@ int runApplication(int argc, char **argv, const CommandLine &line)
                     QStringLiteral("there is no display to show the dialog on; --no-window prints "
                                    "without one"));
     }
-    qInstallMessageHandler(passMessage);
     // Fonts take as long to be found as the application object takes to be made.
     // Whoever asks for them meanwhile would look for them a second time.
     std::jthread fonts([] { FcInit(); });
@@ -378,7 +371,7 @@ int runApplication(int argc, char **argv, const CommandLine &line)
         const auto list = controlList(&dialog, options.bundle);
         if (!list)
             return fail(ExitStatus::Failed, list.error().text());
-        say(list.value());
+        printLines(stdout, list.value());
         return 0;
     }
     return runDialog(std::move(options));
@@ -396,6 +389,7 @@ int main(int argc, char **argv)
         return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
     }
 
+    qInstallMessageHandler(passMessage);
     // A file that may not grow is an error of its write, which says so.
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
@@ -405,20 +399,20 @@ int main(int argc, char **argv)
     const auto parsed = parseCommandLine(arguments);
     if (!parsed) {
         fail(ExitStatus::WrongUsage, parsed.error().text());
-        std::fputs("Try: kelvo-print --help\n", stderr);
+        printLine(stderr, QStringLiteral("Try: kelvo-print --help"));
         return toInt(ExitStatus::WrongUsage);
     }
     const CommandLine &line = parsed.value();
     if (line.help) {
-        say(usageText());
+        printLines(stdout, usageText());
         return endWith(0);
     }
     if (line.helpScripts) {
-        say(scriptCommandsText());
+        printLines(stdout, scriptCommandsText());
         return endWith(0);
     }
     if (line.version) {
-        say(QStringLiteral("kelvo-print " KELVO_VERSION "\n"));
+        printLine(stdout, QStringLiteral("kelvo-print " KELVO_VERSION));
         return endWith(0);
     }
     if (line.listPrinters) {

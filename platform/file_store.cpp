@@ -2,6 +2,7 @@
 
 #include "property_list.h"
 #include "size_limits.h"
+#include "terminal.h"
 #include "values.h"
 
 #include <QCryptographicHash>
@@ -196,8 +197,9 @@ Result<void> setAside(const QString &path, const Error &reason)
         }
         if (::unlink(QFile::encodeName(path).constData()) != 0)
             return systemError(Code::NotWritable, path);
-        std::fprintf(stderr, "%s: damaged, kept as %s (%s)\n", qUtf8Printable(path),
-                     qUtf8Printable(nameOf(aside)), qUtf8Printable(reason.text()));
+        printLine(
+            stderr,
+            QStringLiteral("%1: damaged, kept as %2 (%3)").arg(path, nameOf(aside), reason.text()));
         return {};
     }
     return Error{Code::NotWritable, path,

@@ -1,8 +1,8 @@
 #include "panel_table.h"
 
 #include "panel_interface.h"
+#include "terminal.h"
 
-#include <cstdio>
 #include <variant>
 
 namespace kelvo {
@@ -54,8 +54,9 @@ void LoadBuiltInPanels(CFBundleRef bundle, std::vector<PanelRecord> &panels,
         std::variant<PanelRecord, QString> loaded =
             loadPanel(*bundle, QString::fromLatin1(getters[place]));
         if (const QString *reason = std::get_if<QString>(&loaded)) {
-            std::fprintf(stderr, "LoadBuiltInPanels() skipped %s: %s.\n", getters[place],
-                         qPrintable(*reason));
+            printLine(stderr,
+                      QStringLiteral("LoadBuiltInPanels() skipped %1: %2.")
+                          .arg(QLatin1String(getters[place]), *reason));
             continue;
         }
         panels.push_back(std::get<PanelRecord>(std::move(loaded)));

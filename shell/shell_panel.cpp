@@ -15,6 +15,7 @@
 #include "print_checks.h"
 #include "string_table.h"
 #include "tab_selection.h"
+#include "terminal.h"
 #include "ticket.h"
 #include "ticket_values.h"
 #include "window_loader.h"
@@ -243,7 +244,9 @@ OSStatus shellEventHandler(PDEShellContext &shell, const QWidget *target, const 
 QWidget *loadShellWindow(const PDEShellContext &shell, const char *caller)
 {
     if (!shell.bundle) {
-        std::fprintf(stderr, "%s::CreateNibReferenceWithCFBundle() failed.\n", caller);
+        printLine(stderr,
+                  QLatin1String(caller)
+                      + QStringLiteral("::CreateNibReferenceWithCFBundle() failed."));
         return nullptr;
     }
     Result<QWidget *> window = createWindowFromDescription(
@@ -253,8 +256,9 @@ QWidget *loadShellWindow(const PDEShellContext &shell, const char *caller)
     const char *step = window.error().code == Error::Code::NotFound
         ? "CreateNibReferenceWithCFBundle"
         : "CreateWindowFromNib";
-    std::fprintf(stderr, "%s::%s() failed.\n", caller, step);
-    std::fprintf(stderr, "%s\n", qPrintable(window.error().text()));
+    printLine(stderr,
+              QStringLiteral("%1::%2() failed.").arg(QLatin1String(caller), QLatin1String(step)));
+    printLine(stderr, window.error().text());
     return nullptr;
 }
 
@@ -342,7 +346,8 @@ bool buildShellWindow(PDEShellContext &shell)
         EmbedAndShowControl(controls.group, shell.parentUserPane);
         shell.parentUserPane->layout()->setAlignment(controls.group, Qt::AlignHCenter);
     } else {
-        std::fprintf(stderr, "Open(): PDE_Shell/Window.ui lacks one of Kshl 10, 15, 16, 17.\n");
+        printLine(stderr,
+                  QStringLiteral("Open(): PDE_Shell/Window.ui lacks one of Kshl 10, 15, 16, 17."));
     }
     if (window != controls.group || !complete)
         delete window;
@@ -364,7 +369,7 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
     PMTicketRef ticket = 0;
     const OSStatus found = GetTicketFromSession(session, kPMPrintSettingsTicket, &ticket);
     if (found != noErr) {
-        std::fprintf(stderr, "Sync()::GetTicketFromSession() failed (%d).\n", found);
+        printLine(stderr, QStringLiteral("Sync()::GetTicketFromSession() failed (%1).").arg(found));
         return status;
     }
     writeShellEntries(ticket);
@@ -416,7 +421,7 @@ OSStatus Initialize(PMPDEContext context, std::uint32_t *flags, PMPDERef ref,
     PpdFile *ppd = PPDGetCurrent();
     if (!ppd || ppd->manufacturer() != kMaker) {
         // Dialogs look for this line to tell that the printer was refused.
-        std::fputs("Initialize()::GetTicketFromSession() failed.\n", stderr);
+        printLine(stderr, QStringLiteral("Initialize()::GetTicketFromSession() failed."));
         return kPMInvalidPDEContext;
     }
     KDPInitialize();
@@ -445,8 +450,9 @@ OSStatus Initialize(PMPDEContext context, std::uint32_t *flags, PMPDERef ref,
         const OSStatus status =
             panel.operations.Initialize(panel.context, flags, ref, panel.userPane, session);
         if (status != noErr)
-            std::fprintf(stderr, "Initialize(): the panel \"%s\" failed (%d).\n",
-                         qPrintable(panel.title), status);
+            printLine(stderr,
+                      QStringLiteral("Initialize(): the panel \"%1\" failed (%2).")
+                          .arg(panel.title, QString::number(status)));
     }
     return Sync(context, session, kSyncRead);
 }

@@ -1,12 +1,12 @@
 #include "child_process.h"
 #include "document.h"
 #include "document_functions.h"
+#include "terminal.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace kelvo {
 
@@ -76,7 +76,7 @@ int runPictureHelper(const QString &picturePath, const QString &pdfPath)
                                         : Result<void>(functions.error());
     if (made)
         return 0;
-    std::fprintf(stderr, "%s\n", made.error().detail.toUtf8().constData());
+    printLine(stderr, made.error().detail);
     const auto row = std::ranges::find(exitStatuses, made.error().code, &ExitStatus::code);
     return row == std::end(exitStatuses) ? 1 : row->status;
 }

@@ -1,6 +1,7 @@
 #include "job_words.h"
 
 #include "ppd_words.h"
+#include "terminal.h"
 #include "values.h"
 
 #include <QDateTime>
@@ -16,18 +17,9 @@ constexpr int longestValue = 500; // characters of a ticket value that are shown
 // Control characters and line ends would let a value pass for a line of its own.
 QString quoted(const QString &text)
 {
-    QString shown = QStringLiteral("\"");
-    for (const QChar character : text.left(longestValue)) {
-        if (character == u'"' || character == u'\\')
-            shown += u'\\';
-        if (character == u'\n')
-            shown += QStringLiteral("\\n");
-        else if (!character.isPrint() && !character.isSurrogate())
-            shown += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
-        else
-            shown += character;
-    }
-    return shown + u'"';
+    QString shown = text.left(longestValue);
+    shown.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+    return u'"' + visibleText(shown) + u'"';
 }
 
 // Appends `value` to `out`; stops adding once `out` is long enough, so that a
@@ -42,7 +34,7 @@ void append(const QVariant &value, QString &out)
         for (auto entry = entries->cbegin(); entry != entries->cend(); ++entry) {
             if (out.size() > longestValue)
                 return;
-            out += QLatin1String(separator) + entry.key().simplified() + QStringLiteral(" = ");
+            out += QLatin1String(separator) + visibleText(entry.key()) + QStringLiteral(" = ");
             append(entry.value(), out);
             separator = "; ";
         }
@@ -89,9 +81,9 @@ QStringList ticketLines(const Ticket &ticket)
 {
     QStringList lines;
     for (const auto &[key, entry] : ticket.entries) {
-        QString line = QStringLiteral("%1 = %2").arg(key.simplified(), valueWords(entry.value));
+        QString line = QStringLiteral("%1 = %2").arg(visibleText(key), valueWords(entry.value));
         if (!entry.client.isEmpty())
-            line += QStringLiteral(" (written by %1)").arg(entry.client.simplified());
+            line += QStringLiteral(" (written by %1)").arg(visibleText(entry.client));
         lines << line;
     }
     return lines;
@@ -130,12 +122,12 @@ void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &
                                                : QStringLiteral(", not collated");
     add(settings.copies == 1, "Copies", QString::number(settings.copies) + order);
     add(settings.pageRanges.isEmpty(), "Pages",
-        settings.pageRanges.isEmpty() ? QStringLiteral("All") : settings.pageRanges.simplified());
+        settings.pageRanges.isEmpty() ? QStringLiteral("All") : visibleText(settings.pageRanges));
     add(settings.orientation == Orientation::Portrait, "Orientation",
         orientationWords(settings.orientation));
     // Where there is a PPD, the paper stands among its options.
     if (!ppd && !settings.paperName.isEmpty())
-        add(false, "Paper", settings.paperName.simplified());
+        add(false, "Paper", visibleText(settings.paperName));
 }
 
 void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, JobWords &words)
@@ -213,7 +205,9 @@ QString JobWords::asText() const
         if (part.lines.isEmpty())
             continue;
         text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + QLatin1String(part.heading)
-            + QStringLiteral(":\n  ") + part.lines.join(QStringLiteral("\n  ")) + u'\n';
+            + QStringLiteral(":\n");
+        for (const QString &line : part.lines)
+            text += QStringLiteral("  ") + visibleText(line) + u'\n';
     }
     return text;
 }

@@ -5,6 +5,7 @@
 #include "nearest_name.h"
 #include "property_list.h"
 #include "size_limits.h"
+#include "terminal.h"
 
 #include <QDir>
 #include <QFile>
@@ -237,8 +238,8 @@ std::optional<TicketFile> PresetStore::siteDefaults() const
         return std::nullopt;
     auto ticket = readTicketFile(preset->path);
     if (!ticket) {
-        std::fprintf(stderr, "%s; the site's defaults are not used\n",
-                     qUtf8Printable(ticket.error().text()));
+        printLine(stderr,
+                  ticket.error().text() + QStringLiteral("; the site's defaults are not used"));
         return std::nullopt;
     }
     ticket.value().unknown.remove(nameKey);

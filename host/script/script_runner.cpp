@@ -5,6 +5,7 @@
 #include "nearest_name.h"
 #include "notice.h"
 #include "secret_mask.h"
+#include "terminal.h"
 #include "ticket_path.h"
 
 #include <QApplication>
@@ -111,10 +112,10 @@ struct ScriptRunner::Private
     QWidget *openDialog() const; // the modal dialog or notice in front; null for none
     QWidget *front() const;
     QString masked(const QString &text) const { return maskedText(text, target.secretValues()); }
-    void say(const QString &text) const
+    void say(const QJsonDocument &json) const
     {
-        std::fputs((masked(text) + u'\n').toUtf8().constData(), stdout);
-        std::fflush(stdout);
+        printJson(stdout,
+                  QJsonDocument::fromJson(masked(QString::fromUtf8(json.toJson())).toUtf8()));
     }
 };
 
@@ -261,12 +262,10 @@ void ScriptRunner::Private::finish()
         target.pressPrint();
         return;
     }
-    std::fputs(masked(QStringLiteral("%1: the script has ended without printing; nothing was sent. "
-                                     "Add `print`, or --print to the command line, to print.\n")
-                          .arg(options.file))
-                   .toUtf8()
-                   .constData(),
-               stderr);
+    printLine(stderr,
+              masked(QStringLiteral("%1: the script has ended without printing; nothing was sent. "
+                                    "Add `print`, or --print to the command line, to print.")
+                         .arg(options.file)));
     end(ExitStatus::Printed);
 }
 
@@ -275,8 +274,7 @@ void ScriptRunner::Private::fail(int line, const LineProblem &problem)
     // Without lines it is the program itself that prints.
     const QString place =
         lines.empty() ? options.file : QStringLiteral("%1:%2").arg(options.file).arg(line);
-    std::fputs(masked(QStringLiteral("%1: %2\n").arg(place, problem.text)).toUtf8().constData(),
-               stderr);
+    printLine(stderr, masked(QStringLiteral("%1: %2").arg(place, problem.text)));
     end(problem.status);
 }
 
@@ -362,12 +360,10 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         return {};
     }
     case ScriptCommand::Controls:
-        say(QString::fromUtf8(
-                QJsonDocument(inspector::describeControls(front())).toJson(QJsonDocument::Indented))
-                .trimmed());
+        say(QJsonDocument(inspector::describeControls(front())));
         return {};
     case ScriptCommand::Summary:
-        say(target.jobInWords().trimmed());
+        printLines(stdout, masked(target.jobInWords()));
         return {};
     case ScriptCommand::Screenshot:
         return screenshot(word(0));
@@ -399,9 +395,7 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     case ScriptCommand::ExpectItem:
         return lineProblem(inspector::expectItem(control, *line.code, line.item, word(0)));
     case ScriptCommand::Show:
-        say(QString::fromUtf8(
-                QJsonDocument(inspector::describe(control)).toJson(QJsonDocument::Indented))
-                .trimmed());
+        say(QJsonDocument(inspector::describe(control)));
         return {};
     default:
         break;

@@ -2,13 +2,12 @@
 
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "terminal.h"
 #include "ticket_attachment.h"
 #include "ticket_layers.h"
 #include "values.h"
 
 #include <QFileInfo>
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -494,7 +493,7 @@ void DialogSession::beginPanels()
         m_extension = std::make_unique<Extension>(m_options.bundle);
         if (const auto loaded = m_extension->load(); !loaded) {
             m_extensionProblem = loaded.error().text();
-            std::fprintf(stderr, "kelvo-print: %s\n", qUtf8Printable(m_extensionProblem));
+            printLine(stderr, QStringLiteral("kelvo-print: ") + m_extensionProblem);
             m_extension.reset();
         }
     }

@@ -1,12 +1,11 @@
 #include "extension.h"
 
 #include "panel_interface.h"
+#include "terminal.h"
 
 #include <QUuid>
 #include <QVBoxLayout>
 #include <QWidget>
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -19,7 +18,7 @@ const QString furtherGettersKey = QStringLiteral("KelvoFurtherPanelGetters");
 
 void warn(const QString &text)
 {
-    std::fputs(("kelvo-print: " + text + '\n').toUtf8().constData(), stderr);
+    printLine(stderr, QStringLiteral("kelvo-print: ") + text);
 }
 
 } // namespace

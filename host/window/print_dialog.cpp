@@ -15,6 +15,7 @@
 #include "printer_pane.h"
 #include "sheet_sequence.h"
 #include "spin_field.h"
+#include "terminal.h"
 #include "waiting_pane.h"
 #include "window_columns.h"
 
@@ -146,7 +147,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_session.get(), &DialogSession::reloaded, this, &PrintDialog::takeSettings);
     connect(m_session.get(), &DialogSession::refused, this,
             [this](ExitStatus status, const QString &message) {
-                std::fprintf(stderr, "kelvo-print: %s\n", qUtf8Printable(message));
+                printLine(stderr, QStringLiteral("kelvo-print: ") + message);
                 end(status);
             });
 
@@ -653,10 +654,10 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
 
     if (outcome.status == ExitStatus::Printed) {
         for (const QString &setting : outcome.notSent)
-            std::fprintf(stderr, "kelvo-print: %s: not sent, the printer does not have it\n",
-                         qUtf8Printable(setting));
-        std::printf("%s %s\n", qUtf8Printable(outcome.place), qUtf8Printable(m_session->title()));
-        std::fflush(stdout);
+            printLine(stderr,
+                      QStringLiteral("kelvo-print: %1: not sent, the printer does not have it")
+                          .arg(setting));
+        printLine(stdout, outcome.place + u' ' + m_session->title());
         end(ExitStatus::Printed);
         return;
     }
@@ -702,9 +703,11 @@ void PrintDialog::interrupt()
     QTimer::singleShot(interruptMs, this, [this] {
         if (m_finished)
             return;
-        std::fprintf(stderr,
-                     "kelvo-print: interrupted while the job was being sent; it may have "
-                     "been accepted: look at the printer's queue before you print again\n");
+        printLine(
+            stderr,
+            QStringLiteral("kelvo-print: interrupted while the job was being sent; it may have "
+                           "been accepted: look at the printer's queue before you print "
+                           "again"));
         end(ExitStatus::Failed);
     });
 }

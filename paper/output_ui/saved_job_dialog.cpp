@@ -13,14 +13,13 @@
 #include "popups.h"
 #include "radio_group.h"
 #include "string_table.h"
+#include "terminal.h"
 #include "ticket_values.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -148,7 +147,7 @@ void RestoreUIValuesFromData(SavedJobContext &context)
     context.secure->setChecked(!passcode.isEmpty());
     setPasscode(context.fields, passcode);
     syncToUI(context);
-    std::fprintf(stderr, "Values restored.\n");
+    printLine(stderr, QStringLiteral("Values restored."));
 }
 
 void SaveUIValuesToData(SavedJobContext &context)

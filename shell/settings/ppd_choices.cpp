@@ -3,12 +3,11 @@
 #include "keyword_map.h"
 #include "pde_session.h"
 #include "print_session.h"
+#include "terminal.h"
 #include "ticket.h"
 
 #include <QFile>
 #include <QUrl>
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -45,7 +44,7 @@ QString localPathOf(const QString &url)
 // libcups takes nothing but printable ASCII in a PPD's keywords.
 void reportOnStandardError(const char *what, const QString &keyword)
 {
-    std::fprintf(stderr, "%s%s\n", what, keyword.toUtf8().constData());
+    printLine(stderr, QLatin1String(what) + keyword);
 }
 
 const PpdChoiceValue *findChoice(const QString &keyword, const QString &choice)

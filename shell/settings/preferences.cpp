@@ -4,6 +4,7 @@
 #include "folders.h"
 #include "property_list.h"
 #include "size_limits.h"
+#include "terminal.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,7 +20,9 @@ bool reportWriting(const Result<void> &written)
 {
     if (!written) {
         const int number = written.error().number;
-        std::fprintf(stderr, "WriteUserPreferences() failed (%d)\n", number ? number : EINVAL);
+        printLine(
+            stderr,
+            QStringLiteral("WriteUserPreferences() failed (%1)").arg(number ? number : EINVAL));
     }
     return bool(written);
 }
@@ -66,8 +69,9 @@ std::optional<QVariant> CopyXMLData(const QString &name)
         return std::nullopt;
     Result<QVariant> list = CFPropertyListCreateFromXMLData(bytes.value(), *path);
     if (!list) {
-        std::fprintf(stderr, "CopyXMLData()::CFPropertyListCreateFromXMLData() error: %s\n",
-                     list.error().text().toUtf8().constData());
+        printLine(stderr,
+                  QStringLiteral("CopyXMLData()::CFPropertyListCreateFromXMLData() error: ")
+                      + list.error().text());
         return std::nullopt;
     }
     return list.value();

@@ -1,8 +1,7 @@
 #include "dialog_window.h"
 
+#include "terminal.h"
 #include "window_loader.h"
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -11,8 +10,9 @@ std::unique_ptr<ModalDialog> createModalDialog(CFBundleRef bundle, const QString
 {
     Result<QWidget *> content = createWindowFromDescription(bundle, description, window);
     if (!content) {
-        std::fprintf(stderr, "%s/%s: the window cannot be made: %s\n", qPrintable(description),
-                     qPrintable(window), qPrintable(content.error().text()));
+        printLine(stderr,
+                  QStringLiteral("%1/%2: the window cannot be made: %3")
+                      .arg(description, window, content.error().text()));
         return nullptr;
     }
     return std::make_unique<ModalDialog>(content.value(), parent);

@@ -1,8 +1,7 @@
 #include "panel_content.h"
 
+#include "terminal.h"
 #include "window_loader.h"
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -11,8 +10,8 @@ QWidget *createPanelContent(CFBundleRef bundle, const QString &description, cons
     const Result<QWidget *> content = createWindowFromDescription(bundle, description, window);
     if (content)
         return content.value();
-    std::fprintf(stderr, "Open()::CreateWindowFromNib() failed: %s\n",
-                 qPrintable(content.error().text()));
+    printLine(stderr,
+              QStringLiteral("Open()::CreateWindowFromNib() failed: ") + content.error().text());
     return nullptr;
 }
 

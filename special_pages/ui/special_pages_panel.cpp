@@ -9,10 +9,9 @@
 #include "special_pages_context.h"
 #include "special_pages_ticket.h"
 #include "special_pages_view.h"
+#include "terminal.h"
 #include "ticket.h"
 #include "window_loader.h"
-
-#include <cstdio>
 
 namespace kelvo {
 
@@ -28,7 +27,7 @@ constexpr ControlID kUserPane{kPanelSignature, 1};
 // Whoever starts the dialog from a terminal sees why the pane stays empty.
 OSStatus openFailed(const char *what)
 {
-    std::printf("!! Failed to %s.\n", what);
+    printLine(stdout, QStringLiteral("!! Failed to %1.").arg(QLatin1String(what)));
     return fnfErr;
 }
 
@@ -38,7 +37,7 @@ OSStatus buildPane(_SpecialPagesContext &panel)
     const QString name = QStringLiteral("SpecialPages");
     const Result<QWidget *> made = createWindowFromDescription(panel.bundle, name, name);
     if (!made) {
-        std::fprintf(stderr, "%s\n", qPrintable(made.error().text()));
+        printLine(stderr, made.error().text());
         return made.error().code == Error::Code::NotFound ? openFailed("load nib from bundle")
                                                           : openFailed("create window from nib");
     }

@@ -19,6 +19,7 @@ private slots:
     void neverStandInWords();
     void areSaidInTheSummary_data();
     void areSaidInTheSummary();
+    void wordsStayOnTheirLines();
     void wordsStayInBounds();
 };
 
@@ -168,6 +169,19 @@ void TestSecrets::areSaidInTheSummary()
     JobSettings settings;
     settings.copies = copies;
     QCOMPARE(shortSummary(file, settings, pages, sheets, {{"Job/Password"}, {}}), summary);
+}
+
+// A stranger's line break, in a key or in a choice, begins no line of its own.
+void TestSecrets::wordsStayOnTheirLines()
+{
+    TicketFile file = ticketOf({{"A\nB", Dictionary{{"C\nD", "E\nF\x1b"}}}});
+    file.printSettings.ppdChoices = {{"Glit\nter", "O\xc2\x9bn"}};
+    const JobSettings settings{1, true, "2\n3", "A4\n", Orientation::Portrait};
+    const QString text = describeJob(file, settings, nullptr, {}, {}).asText();
+    for (const char *line :
+         {"  Pages: 2\\n3\n", "  Paper: A4\\n\n", "  Glit\\nter: O\\x9bn – this printer",
+          "  A\\nB = {C\\nD = \"E\\nF\\x1b\"} (written by test)\n"})
+        QVERIFY2(text.contains(QString::fromUtf8(line)), qPrintable(text));
 }
 
 void TestSecrets::wordsStayInBounds()

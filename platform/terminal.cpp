@@ -1,0 +1,116 @@
+#include "terminal.h"
+
+#include <QJsonDocument>
+
+namespace kelvo {
+
+namespace {
+
+constexpr char32_t kNonJoiner = 0x200C, kJoiner = 0x200D;
+
+bool isSeen(char32_t c)
+{
+    switch (QChar::category(c)) {
+    case QChar::Other_Control:
+    case QChar::Other_Surrogate:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    case QChar::Other_Format:
+        return c == kNonJoiner || c == kJoiner;
+    default:
+        return true;
+    }
+}
+
+QString escaped(char32_t c)
+{
+    switch (c) {
+    case '\n':
+        return QStringLiteral("\\n");
+    case '\t':
+        return QStringLiteral("\\t");
+    case '\r':
+        return QStringLiteral("\\r");
+    default:
+        break;
+    }
+    const char *form = c < 0x100 ? "\\x%02x" : c < 0x10000 ? "\\u%04x" : "\\U%08x";
+    return QString::asprintf(form, static_cast<unsigned>(c));
+}
+
+// As JSON spells it inside a string; the line ends are those between its values.
+QString escapedInJson(char32_t c)
+{
+    if (c == '\n')
+        return QStringLiteral("\n");
+    QString text;
+    for (const QChar unit : QString::fromUcs4(&c, 1))
+        text += QString::asprintf("\\u%04x", unit.unicode());
+    return text;
+}
+
+QString withEscapes(QStringView text, QString (*escape)(char32_t))
+{
+    QString visible;
+    visible.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        char32_t c = text[i].unicode();
+        qsizetype units = 1;
+        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            c = QChar::surrogateToUcs4(text[i], text[i + 1]);
+            units = 2;
+        }
+        if (isSeen(c))
+            visible += text.mid(i, units);
+        else
+            visible += escape(c);
+        i += units - 1;
+    }
+    return visible;
+}
+
+// Whole at once: two threads' lines stay two lines. Nulls are written out, so
+// there are none.
+void write(std::FILE *stream, const QString &visible)
+{
+    std::fputs(visible.toUtf8().constData(), stream);
+    std::fflush(stream);
+}
+
+} // namespace
+
+QString visibleText(QStringView text)
+{
+    return withEscapes(text, escaped);
+}
+
+void printLine(std::FILE *stream, const QString &text)
+{
+    write(stream, visibleText(text) + u'\n');
+}
+
+void printLine(std::FILE *stream, const QStringList &columns)
+{
+    QStringList visible;
+    for (const QString &column : columns)
+        visible << visibleText(column);
+    write(stream, visible.join(u'\t') + u'\n');
+}
+
+void printLines(std::FILE *stream, const QString &lines)
+{
+    QString visible;
+    for (const QString &line : lines.split(u'\n'))
+        visible += visibleText(line) + u'\n';
+    if (lines.endsWith(u'\n'))
+        visible.chop(1);
+    write(stream, visible);
+}
+
+void printJson(std::FILE *stream, const QJsonDocument &json)
+{
+    write(stream, withEscapes(QString::fromUtf8(json.toJson()), escapedInJson));
+}
+
+} // namespace kelvo
