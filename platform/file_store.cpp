@@ -106,10 +106,10 @@ void syncFolder(const QString &folder)
 
 // The lock of the store at `path`, held until the descriptor is closed. The
 // lock file stays: one that is removed could be locked by two at once.
-Result<std::shared_ptr<Descriptor>> lockFor(const QString &path)
+Result<std::shared_ptr<Descriptor>> lockFor(const QString &path, StoreLock scope)
 {
-    const QString lockPath =
-        folderOf(path) + QStringLiteral("/.") + nameOf(path) + QStringLiteral(".lock");
+    const QString lockPath = folderOf(path) + QStringLiteral("/.")
+        + (scope == StoreLock::OfFolder ? QString() : nameOf(path) + u'.') + QStringLiteral("lock");
     auto fd = std::make_shared<Descriptor>(
         ::open(QFile::encodeName(lockPath).constData(),
                O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
@@ -226,7 +226,6 @@ Result<StoreContent> readStore(const QString &path)
     case Code::NotFound:
         return StoreContent{};
     case Code::NotReadable: // nobody has seen its bytes
-    case Code::TooLarge:
         return list.error();
     default:
         return StoreContent{{}, list.error()};
@@ -353,11 +352,11 @@ Result<void> replaceFile(const QString &path, const QByteArray &bytes)
 }
 
 Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
-                                  const std::function<bool(QVariantMap &)> &change)
+                                  const std::function<bool(QVariantMap &)> &change, StoreLock scope)
 {
     if (auto made = makeFolder(folderOf(path)); !made)
         return made;
-    const auto lock = lockFor(path);
+    const auto lock = lockFor(path, scope);
     if (!lock)
         return lock.error();
     auto content = readStore(path);
@@ -379,7 +378,7 @@ Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
     return replaceFile(path, xml.value());
 }
 
-Result<void> removeFile(const QString &path)
+Result<void> removeFile(const QString &path, StoreLock scope)
 {
     if (const auto problem = problemOf(path))
         return *problem;
@@ -387,7 +386,7 @@ Result<void> removeFile(const QString &path)
     struct stat status;
     if (::lstat(target.constData(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR))
         return systemError(Code::NotFound, path); // and no lock file is left for it
-    const auto lock = lockFor(path);
+    const auto lock = lockFor(path, scope);
     if (!lock)
         return lock.error();
     if (::unlink(target.constData()) != 0)

@@ -53,17 +53,25 @@ enum class DamagedStore {
     Keep,     // a writer that only changes: fail and leave it alone
 };
 
-// Read → change → write of a property-list dictionary under its lock (a
-// permanent 0600 lock file ".NAME.lock", opened without following links, waited
-// for at most limits::fileLockWaitMs). `change` gets what the file holds now,
-// an empty dictionary when there is no file, and edits it; returning false
-// means that there is nothing to write. A store that is there but cannot be
+// What two writers of a store meet at: a permanent 0600 lock file beside it, opened
+// without following links, waited for at most limits::fileLockWaitMs. Every writer
+// of a store takes the same one.
+enum class StoreLock {
+    OfFile,   // ".NAME.lock"
+    OfFolder, // ".lock": one for all where users make up the names, and each would leave one
+};
+
+// Read → change → write of a property-list dictionary under its lock. `change` gets
+// what the file holds now, an empty dictionary when there is no file, and edits it;
+// returning false means that there is nothing to write. What is no property list
+// within the limits of size_limits.h is damaged; a store that is there but cannot be
 // read fails. Missing folders are created, 0700.
 Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
-                                  const std::function<bool(QVariantMap &)> &change);
+                                  const std::function<bool(QVariantMap &)> &change,
+                                  StoreLock scope = StoreLock::OfFile);
 
 // Removes the file under its lock; NotFound when there was none.
-Result<void> removeFile(const QString &path);
+Result<void> removeFile(const QString &path, StoreLock scope = StoreLock::OfFile);
 
 // `name` as one safe file-name component: no slash, no control character, not
 // empty, no leading dot, at most 200 bytes of UTF-8. Distinct names stay

@@ -298,8 +298,13 @@ void TestFileStore::treatsDamagedStoresAsAsked_data()
         << list << 0600 << DamagedStore::Keep << Answer(Code::WrongType);
     QTest::newRow("unreadable, creating")
         << list << 0 << DamagedStore::SetAside << Answer(Code::NotReadable);
-    QTest::newRow("too large, creating") << QByteArray(limits::plistBytes + 1, ' ') << 0600
-                                         << DamagedStore::SetAside << Answer(Code::TooLarge);
+    const QByteArray deep = "<plist>" + QByteArray("<array>").repeated(limits::plistDepth + 1)
+        + QByteArray("</array>").repeated(limits::plistDepth + 1) + "</plist>";
+    QTest::newRow("too deep, creating") << deep << 0600 << DamagedStore::SetAside << Answer();
+    QTest::newRow("too deep, changing")
+        << deep << 0600 << DamagedStore::Keep << Answer(Code::TooLarge);
+    QTest::newRow("too large, creating")
+        << QByteArray(limits::plistBytes + 1, ' ') << 0600 << DamagedStore::SetAside << Answer();
 }
 
 void TestFileStore::treatsDamagedStoresAsAsked()
