@@ -23,6 +23,8 @@ bool reportWriting(const Result<void> &written)
         printLine(
             stderr,
             QStringLiteral("WriteUserPreferences() failed (%1)").arg(number ? number : EINVAL));
+        // The number alone does not say which file it was, nor what to do.
+        printLine(stderr, written.error().text());
     }
     return bool(written);
 }
