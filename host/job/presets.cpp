@@ -25,6 +25,8 @@ using Code = Error::Code;
 const QString nameKey = QStringLiteral("PresetName");
 const QString suffix = QStringLiteral(".plist");
 
+constexpr StoreLock presetsLock = StoreLock::OfFolder;
+
 QString presetsFolder(const QString &folder)
 {
     return folder.isEmpty() ? QString() : folder + QStringLiteral("/presets");
@@ -128,18 +130,22 @@ Result<void> write(const QString &path, const QString &name, TicketFile ticket, 
     ticket.unknown.insert(nameKey, name);
     const Dictionary root = propertyListFrom(ticket);
     std::optional<Error> refused;
-    auto changed = changeDictionaryFile(path, DamagedStore::SetAside, [&](QVariantMap &stored) {
-        if (!stored.isEmpty() && !mayReplace)
-            refused = Error{Code::Refused, path, QStringLiteral("there is such a preset already")};
-        else if (!stored.isEmpty() && !ticketFileFromPropertyList(stored, path))
-            refused =
-                Error{Code::Refused, path,
-                      QStringLiteral("the file that stands there is no preset of this program "
-                                     "version; move it away or take another name")};
-        else
-            stored = root;
-        return !refused;
-    });
+    auto changed = changeDictionaryFile(
+        path, DamagedStore::SetAside,
+        [&](QVariantMap &stored) {
+            if (!stored.isEmpty() && !mayReplace)
+                refused =
+                    Error{Code::Refused, path, QStringLiteral("there is such a preset already")};
+            else if (!stored.isEmpty() && !ticketFileFromPropertyList(stored, path))
+                refused =
+                    Error{Code::Refused, path,
+                          QStringLiteral("the file that stands there is no preset of this program "
+                                         "version; move it away or take another name")};
+            else
+                stored = root;
+            return !refused;
+        },
+        presetsLock);
     return refused ? Result<void>(*refused) : changed;
 }
 
@@ -201,7 +207,7 @@ Result<void> PresetStore::save(const QString &name, const TicketFile &ticket,
 Result<void> PresetStore::remove(const QString &name)
 {
     const auto preset = findOwn(presets(), name);
-    return preset ? removeFile(preset.value().path) : Result<void>(preset.error());
+    return preset ? removeFile(preset.value().path, presetsLock) : Result<void>(preset.error());
 }
 
 Result<void> PresetStore::rename(const QString &from, const QString &to)
@@ -227,7 +233,7 @@ Result<void> PresetStore::rename(const QString &from, const QString &to)
     const bool inPlace = path.value() == preset.value().path;
     if (auto written = write(path.value(), renamed, std::move(ticket).value(), inPlace); !written)
         return written;
-    return inPlace ? Result<void>() : removeFile(preset.value().path);
+    return inPlace ? Result<void>() : removeFile(preset.value().path, presetsLock);
 }
 
 std::optional<TicketFile> PresetStore::siteDefaults() const

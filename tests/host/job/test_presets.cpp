@@ -179,6 +179,9 @@ void TestPresets::areRenamedAndRemoved()
     QCOMPARE(names(m_store.presets()), (QStringList{"one", "Two"}));
     QCOMPARE(m_store.read("one").value(), ticketWith("None"));
     QVERIFY(m_store.remove("Two"));
+    // Whatever presets were called, one lock is left of them.
+    QCOMPARE(QDir(ownFolder()).entryList(QDir::Files | QDir::Hidden),
+             (QStringList{".lock", "one.plist"}));
     QCOMPARE(m_store.remove("Two").error().code, Code::NotFound);
     QCOMPARE(names(m_store.presets()), QStringList{"one"});
 
