@@ -17,8 +17,10 @@ constexpr qint64 formatVersion = 1;
 
 // Stored in users' files: a key once written keeps its spelling.
 const QString formatVersionKey = QStringLiteral("FormatVersion");
-const QString ppdChoicesKey = QStringLiteral("PPDChoices");
 const QString clientsKey = QStringLiteral("Clients");
+const QString isPartKey = QStringLiteral("IsPart");
+const QString removedKey = QStringLiteral("Removed");
+const QString choiceWordsKey = QStringLiteral("ChoiceWords");
 
 // Takes the entries of a ticket file out of its root dictionary and remembers
 // the first thing that was wrong.
@@ -81,6 +83,35 @@ public:
         return words;
     }
 
+    bool flag(const QString &key)
+    {
+        const QVariant value = m_root.take(key);
+        const auto flag = boolean(value);
+        if (value.isValid() && !flag)
+            fail(Code::WrongType, key, QStringLiteral("not true or false"));
+        return flag.value_or(false);
+    }
+
+    TicketPlaces places(const QString &key)
+    {
+        const QVariant value = m_root.take(key);
+        TicketPlaces places;
+        if (value.isValid() && !array(value))
+            fail(Code::WrongType, key, QStringLiteral("not an array"));
+        for (const QVariant &element : array(value).value_or(Array())) {
+            TicketPlace place;
+            for (const QVariant &step : array(element).value_or(Array()))
+                place << string(step).value_or(QString());
+            static const QStringList parts{kPMPrintSettingsTicket, kPMPageFormatTicket,
+                                           kPPDChoices};
+            if (place.size() < 2 || place.contains(QString()) || !parts.contains(place.first()))
+                fail(Code::WrongType, key, QStringLiteral("holds what is no place of a ticket"));
+            else
+                places.insert(place);
+        }
+        return places;
+    }
+
     // Valid once everything of ours has been taken out.
     const Dictionary &rest() const { return m_root; }
     const std::optional<Error> &error() const { return m_error; }
@@ -114,6 +145,14 @@ Dictionary valuesOf(const Ticket &ticket)
     return values;
 }
 
+Dictionary dictionaryOf(const QMap<QString, QString> &words)
+{
+    Dictionary dictionary;
+    for (auto word = words.cbegin(); word != words.cend(); ++word)
+        dictionary.insert(dictionary.cend(), word.key(), word.value());
+    return dictionary;
+}
+
 Ticket withoutLocks(Ticket ticket)
 {
     for (auto &[key, entry] : ticket.entries)
@@ -133,14 +172,19 @@ Result<TicketFile> ticketFileFromPropertyList(const QVariant &list, const QStrin
     reader.requireVersion();
     const Dictionary printSettings = reader.section(kPMPrintSettingsTicket, true);
     const Dictionary pageFormat = reader.section(kPMPageFormatTicket, false);
-    const PPDDictionary choices = reader.words(ppdChoicesKey);
+    const PPDDictionary choices = reader.words(kPPDChoices);
     const PPDDictionary clients = reader.words(clientsKey);
+    TicketFile file;
+    file.isPart = reader.flag(isPartKey);
+    file.removed = reader.places(removedKey);
+    file.choiceWords = reader.words(choiceWordsKey);
     if (reader.error())
         return *reader.error();
 
-    TicketFile file{ticketFrom(printSettings, clients), ticketFrom(pageFormat, clients),
-                    reader.rest()};
+    file.printSettings = ticketFrom(printSettings, clients);
     file.printSettings.ppdChoices = choices;
+    file.pageFormat = ticketFrom(pageFormat, clients);
+    file.unknown = reader.rest();
     return file;
 }
 
@@ -153,17 +197,23 @@ Dictionary propertyListFrom(const TicketFile &file)
                 clients.insert(key, entry.client);
         }
     }
-    Dictionary choices;
-    const PPDDictionary &stored = file.printSettings.ppdChoices;
-    for (auto choice = stored.cbegin(); choice != stored.cend(); ++choice)
-        choices.insert(choices.cend(), choice.key(), choice.value());
-
     Dictionary root = file.unknown;
     root.insert(formatVersionKey, formatVersion);
     root.insert(kPMPrintSettingsTicket, valuesOf(file.printSettings));
     root.insert(kPMPageFormatTicket, valuesOf(file.pageFormat));
-    root.insert(ppdChoicesKey, choices);
+    root.insert(kPPDChoices, dictionaryOf(file.printSettings.ppdChoices));
     root.insert(clientsKey, clients);
+    // Most files are whole tickets and have none of these.
+    if (file.isPart)
+        root.insert(isPartKey, true);
+    if (!file.removed.empty()) {
+        Array removed;
+        for (const TicketPlace &place : file.removed)
+            removed << QVariant(Array(place.cbegin(), place.cend()));
+        root.insert(removedKey, removed);
+    }
+    if (!file.choiceWords.isEmpty())
+        root.insert(choiceWordsKey, dictionaryOf(file.choiceWords));
     return root;
 }
 
@@ -206,7 +256,10 @@ Result<void> writeTicketFile(const QString &path, const TicketFile &file)
 
 TicketFile ticketFileFrom(const PrintSession &session)
 {
-    return {withoutLocks(session.printSettings()), withoutLocks(session.pageFormat()), {}};
+    TicketFile file;
+    file.printSettings = withoutLocks(session.printSettings());
+    file.pageFormat = withoutLocks(session.pageFormat());
+    return file;
 }
 
 void load(const TicketFile &file, PrintSession &session)

@@ -4,6 +4,11 @@
 #include "result.h"
 #include "values.h"
 
+#include <QMap>
+#include <QStringList>
+
+#include <set>
+
 // A job's settings as a file, and a preset, which is one with a name. An XML
 // property list, 0600:
 //
@@ -16,13 +21,29 @@
 // FormatVersion and PMPrintSettingsTicket must be there; what else is missing is
 // empty. A key that stands in both tickets has one client, the one that wrote the
 // print settings. What else stands in the root is kept and written back.
+//
+// A preset is mostly a part of a ticket, to be laid over what a device begins with:
+//
+//   IsPart                  true: dictionaries hold some of their keys
+//   Removed                 array of places (arrays of strings): what is taken away
+//   ChoiceWords             dictionary: "OPTION=CHOICE" → how the device that the choice
+//                           was made on calls it, "Stapling: Top Left"
 namespace kelvo {
+
+// Where a value stands in a ticket file: one of the three names of its parts, the
+// entry's key or the option, and keys of dictionaries inside one another.
+using TicketPlace = QStringList;
+using TicketPlaces = std::set<TicketPlace>;
+inline const QString kPPDChoices = QStringLiteral("PPDChoices");
 
 struct TicketFile
 {
     Ticket printSettings;
     Ticket pageFormat;
     Dictionary unknown; // root entries that are not ours
+    bool isPart = false;
+    TicketPlaces removed;
+    QMap<QString, QString> choiceWords;
 
     friend bool operator==(const TicketFile &, const TicketFile &) = default;
 };

@@ -93,8 +93,7 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     if (!ticket)
         return ticket.error();
 
-    job.options = std::move(options.value().options);
-    job.notSent = std::move(options.value().notSent);
+    job.options = std::move(options).value();
     job.ticket = std::move(ticket).value();
     job.ticketSha256 = QCryptographicHash::hash(job.ticket, QCryptographicHash::Sha256);
     const bool withTicket = readsTickets(request.ppd);

@@ -10,7 +10,6 @@
 #include <QByteArray>
 #include <QMap>
 #include <QString>
-#include <QStringList>
 
 #include <atomic>
 #include <memory>
@@ -48,7 +47,6 @@ struct PreparedJob
     QByteArray ticket;                    // the attachment's bytes
     QByteArray ticketSha256;              // of those bytes, 32 bytes
     bool hasPasscode = false, isFax = false;
-    QStringList notSent; // "OPTION=CHOICE" that the ticket has and the PPD lacks
 };
 
 // The PDF carries the ticket as an embedded file "kelvo-ticket.plist", and the

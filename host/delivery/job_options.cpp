@@ -156,8 +156,8 @@ PPDDictionary wantedChoices(const TicketFile &ticket, const JobSettings &setting
     return wanted;
 }
 
-void addPpdChoices(const PPDDictionary &wanted, const PpdFile &ppd, OptionList &options,
-                   QStringList &notSent)
+// What the PPD lacks is not sent.
+void addPpdChoices(const PPDDictionary &wanted, const PpdFile &ppd, OptionList &options)
 {
     for (const PpdGroup &group : ppd.groups()) {
         for (const PpdOption &option : group.options) {
@@ -165,10 +165,6 @@ void addPpdChoices(const PPDDictionary &wanted, const PpdFile &ppd, OptionList &
             if (choice != wanted.constEnd() && offers(ppd, option.keyword, *choice))
                 options.add(option.keyword, *choice);
         }
-    }
-    for (auto choice = wanted.cbegin(); choice != wanted.cend(); ++choice) {
-        if (!options.contains(choice.key()) && lacks(ppd, choice.key(), choice.value()))
-            notSent << choice.key() + u'=' + choice.value();
     }
 }
 
@@ -216,19 +212,14 @@ void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDe
 
 } // namespace
 
-Result<JobOptions> jobOptions(const TicketFile &ticket, const JobSettings &settings,
-                              const PpdFile *ppd, const QMap<QString, QString> &queueDefaults)
+Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSettings &settings,
+                                          const PpdFile *ppd,
+                                          const QMap<QString, QString> &queueDefaults)
 {
     const PPDDictionary wanted = wantedChoices(ticket, settings, ppd, queueDefaults);
     OptionList options;
-    JobOptions result;
-    if (ppd) {
-        addPpdChoices(wanted, *ppd, options, result.notSent);
-    } else {
-        for (auto choice = ticket.printSettings.ppdChoices.cbegin();
-             choice != ticket.printSettings.ppdChoices.cend(); ++choice)
-            result.notSent << choice.key() + u'=' + choice.value();
-    }
+    if (ppd)
+        addPpdChoices(wanted, *ppd, options);
     addHostOptions(settings, ppd, queueDefaults, options);
     addTwins(wanted, queueDefaults, ppd != nullptr, options);
     for (const JobOption &option : options.options()) {
@@ -238,8 +229,7 @@ Result<JobOptions> jobOptions(const TicketFile &ticket, const JobSettings &setti
                                         "another")
                              .arg(problem)};
     }
-    result.options = options.take();
-    return result;
+    return options.take();
 }
 
 JobOption ticketOption(const QByteArray &sha256, bool hasPasscode, bool isFax)

@@ -5,17 +5,13 @@
 // From settings to the options that a print server and its filters read.
 namespace kelvo {
 
-struct JobOptions
-{
-    std::vector<JobOption> options; // the PPD's in the PPD's order, then the host's
-    QStringList notSent;            // "OPTION=CHOICE" that the ticket has and the PPD lacks
-};
-
-// Every PPD choice of the ticket once, copies and order, and what must be said
-// because the queue's defaults (`queueDefaults`) would say otherwise. Refused,
-// with a sentence, for a choice that cannot be said as an option.
-Result<JobOptions> jobOptions(const TicketFile &ticket, const JobSettings &settings,
-                              const PpdFile *ppd, const QMap<QString, QString> &queueDefaults);
+// The PPD's options in the PPD's order, then the host's: every PPD choice of the ticket
+// once, if the PPD has it, copies and order, and what must be said because the queue's
+// defaults (`queueDefaults`) would say otherwise. Refused, with a sentence, for a choice
+// that cannot be said as an option.
+Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSettings &settings,
+                                          const PpdFile *ppd,
+                                          const QMap<QString, QString> &queueDefaults);
 
 // "FORMAT:SHA256:FLAGS" for the option "kelvo-ticket": the format of the
 // attachment (1), the hexadecimal SHA-256 of its bytes, and "passcode", "fax",

@@ -1,6 +1,7 @@
 #include "conflicts.h"
 
 #include "ppd_words.h"
+#include "values.h"
 
 #include <algorithm>
 #include <set>
@@ -189,13 +190,21 @@ void applyFix(const ConflictReport &report, PrintSession &session)
         session.printSettings().ppdChoices.insert(change.key(), change.value());
 }
 
-QStringList missingOnDevice(const PrintSession &session, const PpdFile &ppd)
+QStringList missingOnDevice(const TicketFile &asked, const PpdFile *ppd)
 {
+    PPDDictionary choices = asked.printSettings.ppdChoices;
+    const QString pageSize = QStringLiteral("PageSize");
+    const auto paper = asked.pageFormat.entries.find(kPMPaperNameKey);
+    if (!choices.contains(pageSize) && paper != asked.pageFormat.entries.end()) {
+        if (const auto name = string(paper->second.value); name && !name->isEmpty())
+            choices.insert(pageSize, *name);
+    }
     QStringList missing;
-    const PPDDictionary &choices = session.printSettings().ppdChoices;
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
-        if (lacks(ppd, choice.key(), choice.value()))
-            missing << settingWords(choice.key(), choice.value(), &ppd);
+        if (!lacks(ppd, choice.key(), *choice))
+            continue;
+        const QString words = asked.choiceWords.value(choice.key() + u'=' + *choice).simplified();
+        missing << (words.isEmpty() ? settingWords(choice.key(), *choice, ppd) : words);
     }
     return missing;
 }

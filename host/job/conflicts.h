@@ -2,6 +2,7 @@
 
 #include "ppd_file.h"
 #include "print_session.h"
+#include "ticket_file.h"
 
 #include <QString>
 #include <QStringList>
@@ -36,7 +37,8 @@ ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd,
 // them reaches the page format with the next writeJobSettings(jobSettingsFrom()).
 void applyFix(const ConflictReport &report, PrintSession &session);
 
-// What the ticket asks for and this PPD does not have, in words.
-QStringList missingOnDevice(const PrintSession &session, const PpdFile &ppd);
+// What `asked` asks for and a device with this PPD does not have (null: a queue without
+// one, which takes a paper and no other choice), in the words of the device that has it.
+QStringList missingOnDevice(const TicketFile &asked, const PpdFile *ppd);
 
 } // namespace kelvo

@@ -2,6 +2,7 @@
 
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "ticket_layers.h"
 #include "values.h"
 
 #include <QRegularExpression>
@@ -214,16 +215,23 @@ struct Request
         return error(Code::NotFound,
                      QStringLiteral("there is no such value") + nearestOrAll(value, known));
     }
-    Result<void> change(const std::function<void(JobSettings &)> &edit) const
+    // `places` is what `edit` is about: the others are only written again.
+    TicketPlaces change(const TicketPlaces &places,
+                        const std::function<void(JobSettings &)> &edit) const
     {
         JobSettings settings = jobSettingsFrom(session, ppd);
         edit(settings);
         writeJobSettings(settings, ppd, session);
-        return {};
+        return places;
+    }
+    TicketPlaces choose(const QString &option, const QString &choice) const
+    {
+        session.printSettings().ppdChoices.insert(option, choice);
+        return {{kPPDChoices, option}};
     }
 };
 
-Result<void> applyPpdChoice(const Request &request, const PpdOption &option)
+Result<TicketPlaces> applyPpdChoice(const Request &request, const PpdOption &option)
 {
     const bool isPaper = option.keyword == pageSizeOption
         || option.keyword == QLatin1String("PageRegion"); // the same paper, fed by hand
@@ -232,19 +240,20 @@ Result<void> applyPpdChoice(const Request &request, const PpdOption &option)
     if (!choice)
         return request.unknownValue(choiceNames(option));
     if (isPaper)
-        return request.change([&](JobSettings &settings) { settings.paperName = *choice; });
+        return request.change(paperPlaces(),
+                              [&](JobSettings &settings) { settings.paperName = *choice; });
     if (!offers(*request.ppd, option.keyword, *choice))
         return request.error(Code::Refused,
                              QStringLiteral("this is equipment of the printer, which its "
                                             "administrator enters (lpadmin -p PRINTER -o …)"));
-    request.session.printSettings().ppdChoices.insert(option.keyword, *choice);
-    return {};
+    return request.choose(option.keyword, *choice);
 }
 
-Result<void> applyMedia(const Request &request)
+Result<TicketPlaces> applyMedia(const Request &request)
 {
     if (!request.ppd)
-        return request.change([&](JobSettings &settings) { settings.paperName = request.value; });
+        return request.change(paperPlaces(),
+                              [&](JobSettings &settings) { settings.paperName = request.value; });
     QString paper;
     PPDDictionary choices;
     QStringList known;
@@ -276,24 +285,27 @@ Result<void> applyMedia(const Request &request)
                                  QStringLiteral("this printer has no paper %1").arg(part)
                                      + nearestOrAll(part, known));
     }
+    TicketPlaces places;
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
-        request.session.printSettings().ppdChoices.insert(choice.key(), choice.value());
-    if (paper.isEmpty())
-        return {};
-    return request.change([&](JobSettings &settings) { settings.paperName = paper; });
+        places.merge(request.choose(choice.key(), choice.value()));
+    if (!paper.isEmpty())
+        places.merge(request.change(paperPlaces(),
+                                    [&](JobSettings &settings) { settings.paperName = paper; }));
+    return places;
 }
 
-Result<void> applyOrientation(const Request &request)
+Result<TicketPlaces> applyOrientation(const Request &request)
 {
     const auto *row = findRow(orientationRows, request.value, &OrientationRow::requested);
     if (!row)
         return request.error(Code::OutOfRange,
                              QStringLiteral("3 is portrait, 4 landscape, 5 reverse landscape, "
                                             "6 reverse portrait"));
-    return request.change([&](JobSettings &settings) { settings.orientation = row->orientation; });
+    return request.change({{kPMPageFormatTicket, kPMOrientationKey}},
+                          [&](JobSettings &settings) { settings.orientation = row->orientation; });
 }
 
-Result<void> applySides(const Request &request)
+Result<TicketPlaces> applySides(const Request &request)
 {
     const auto *row = findRow(sidesRows, request.value, &WordRow::word);
     if (!row)
@@ -302,15 +314,14 @@ Result<void> applySides(const Request &request)
     const QString choice = QLatin1String(row->choice);
     if (!duplex || !duplex->findChoice(choice)) {
         if (row == &sidesRows[0])
-            return {}; // what such a printer does anyway
+            return TicketPlaces(); // what such a printer does anyway
         return request.error(Code::NotFound,
                              QStringLiteral("this printer does not print on both sides"));
     }
-    request.session.printSettings().ppdChoices.insert(duplex->keyword, choice);
-    return {};
+    return request.choose(duplex->keyword, choice);
 }
 
-Result<void> applyCopies(const Request &request)
+Result<TicketPlaces> applyCopies(const Request &request)
 {
     bool isNumber = false;
     const int copies = request.value.toInt(&isNumber);
@@ -318,31 +329,34 @@ Result<void> applyCopies(const Request &request)
         return request.error(
             Code::OutOfRange,
             QStringLiteral("copies are a number from 1 to %1").arg(kMaximumCopies));
-    return request.change([&](JobSettings &settings) { settings.copies = copies; });
+    return request.change({{kPMPrintSettingsTicket, kPMCopiesKey}},
+                          [&](JobSettings &settings) { settings.copies = copies; });
 }
 
 template <std::size_t N>
-Result<void> applyCollate(const Request &request, const FlagRow (&rows)[N])
+Result<TicketPlaces> applyCollate(const Request &request, const FlagRow (&rows)[N])
 {
     const FlagRow *row = findRow(rows, request.value, &FlagRow::word);
     if (!row)
         return request.unknownValue(words(rows, &FlagRow::word));
-    return request.change([&](JobSettings &settings) { settings.collate = row->value; });
+    return request.change({{kPMPrintSettingsTicket, kPMCollateKey}},
+                          [&](JobSettings &settings) { settings.collate = row->value; });
 }
 
-Result<void> applyPageRanges(const Request &request)
+Result<TicketPlaces> applyPageRanges(const Request &request)
 {
     // Whether the document has them shows when it is there.
     static const QRegularExpression form(QStringLiteral("^[0-9,\\- ]+$"));
     if (!form.match(request.value).hasMatch())
         return request.error(Code::OutOfRange, QStringLiteral("pages are written like 1-3,7,9-"));
-    return request.change([&](JobSettings &settings) { settings.pageRanges = request.value; });
+    return request.change({{kPMPrintSettingsTicket, kPMPageRangesKey}},
+                          [&](JobSettings &settings) { settings.pageRanges = request.value; });
 }
 
 struct OptionRow
 {
     const char *name;
-    Result<void> (*apply)(const Request &);
+    Result<TicketPlaces> (*apply)(const Request &);
 };
 constexpr OptionRow optionRows[] = {
     {"media", applyMedia},
@@ -429,18 +443,25 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd)
     return size;
 }
 
-Result<void> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
-                         PrintSession &session)
+Result<TicketPlaces> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
+                                 PrintSession &session)
 {
     const Request request{name, value, ppd, session};
     const OptionRow *row = findRow(optionRows, name, &OptionRow::name);
     const PpdOption *option = findOptionInAnyCase(name, ppd);
+    TicketPlaces places;
     if (option) {
-        if (auto applied = applyPpdChoice(request, *option); !applied || !row)
+        auto applied = applyPpdChoice(request, *option);
+        if (!applied || !row)
             return applied;
+        places = std::move(applied).value();
     }
-    if (row) // both: a PPD's own Collate, and the host's
-        return row->apply(request);
+    if (row) { // both: a PPD's own Collate, and the host's
+        auto applied = row->apply(request);
+        if (applied)
+            applied.value().merge(places);
+        return applied;
+    }
 
     QStringList known = words(optionRows, &OptionRow::name);
     if (ppd) {

@@ -3,6 +3,7 @@
 #include "ppd_file.h"
 #include "print_session.h"
 #include "result.h"
+#include "ticket_file.h"
 
 #include <QSizeF>
 #include <QString>
@@ -65,8 +66,8 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 //
 // Names and choices are found in any case. NotFound with the nearest name for an
 // unknown option or choice, OutOfRange for a number outside its limits; the
-// session is as it was then.
-Result<void> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
-                         PrintSession &session);
+// session is as it was then. What comes back is where it was set, also to what it was.
+Result<TicketPlaces> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
+                                 PrintSession &session);
 
 } // namespace kelvo

@@ -159,19 +159,16 @@ int panelEntries(const TicketFile &ticket)
 } // namespace
 
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
-                     const SecretKeys &keys, const std::vector<EntryWords> &entryWords)
+                     const SecretKeys &keys, const std::vector<EntryWords> &entryWords,
+                     const QStringList &missing)
 {
     JobWords words;
     addHostSettings(settings, ppd, words);
 
-    const PPDDictionary &choices = ticket.printSettings.ppdChoices;
     if (ppd)
-        addPpdSettings(choices, *ppd, words);
-    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
-        if (!ppd || lacks(*ppd, choice.key(), choice.value()))
-            words.notSent << settingWords(choice.key(), choice.value(), ppd)
-                    + QStringLiteral(" – this printer does not have it");
-    }
+        addPpdSettings(ticket.printSettings.ppdChoices, *ppd, words);
+    for (const QString &setting : missing)
+        words.notSent << setting + QStringLiteral(" – this printer does not have it");
     const TicketFile shown = masked(ticket, keys);
     QStringList entries = entriesInWords(shown.printSettings, entryWords);
     // Of the others only the panels know what they say; that they are there is said.

@@ -24,9 +24,11 @@ struct JobWords
 };
 // Texts of the PPD and the ticket come as plain text on one line; a ticket value
 // longer than 500 characters is cut and says so. Equipment is not listed.
-// Entries of the panels are told as far as `entryWords` has words for them.
+// Entries of the panels are told as far as `entryWords` has words for them. `missing`
+// is what is asked for and the device lacks (conflicts.h).
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
-                     const SecretKeys &keys, const std::vector<EntryWords> &entryWords);
+                     const SecretKeys &keys, const std::vector<EntryWords> &entryWords,
+                     const QStringList &missing);
 
 // "12 pages, 6 sheets × 2 copies = 12 sheets, locked": what the foot says. `pages`
 // are those to be printed, 0 while they are not known, and `sheets` those of one copy.

@@ -48,12 +48,12 @@ bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice)
     return option->keyword == QLatin1String("PageSize") && paperSize(choice, ppd);
 }
 
-bool lacks(const PpdFile &ppd, const QString &keyword, const QString &choice)
+bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice)
 {
-    if (offers(ppd, keyword, choice))
+    if (ppd ? offers(*ppd, keyword, choice) : keyword == QLatin1String("PageSize"))
         return false;
     const bool asksForNothing = choice == QLatin1String("None") || choice == QLatin1String("False");
-    return !asksForNothing || ppd.findOption(keyword);
+    return !asksForNothing || (ppd && ppd->findOption(keyword));
 }
 
 bool readsTickets(const PpdFile *ppd)

@@ -21,8 +21,9 @@ QString settingWords(const QString &keyword, const QString &choice, const PpdFil
 // Of equipment a job can only ask for what the printer has.
 bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice);
 // The choice asks for something that this device cannot do. "None" and "False" of
-// an option that it does not have at all ask for nothing.
-bool lacks(const PpdFile &ppd, const QString &keyword, const QString &choice);
+// an option that it does not have at all ask for nothing. Without a PPD a queue is
+// told the paper, and no other choice.
+bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice);
 
 // The PPD says that its device reads tickets of our format; null does not.
 bool readsTickets(const PpdFile *ppd);

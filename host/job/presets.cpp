@@ -160,6 +160,15 @@ Result<QString> newPath(const QString &name)
 
 } // namespace
 
+TicketFile presetFrom(TicketFile ticket, const SecretKeys &keys, bool keepSecrets)
+{
+    if (!keepSecrets)
+        ticket = withoutSecrets(std::move(ticket), keys);
+    for (const QString &key : {kPMPageRangesKey, kPMJobNameKey})
+        ticket.printSettings.entries.erase(key);
+    return ticket;
+}
+
 std::vector<Preset> PresetStore::presets() const
 {
     std::vector<Preset> all = presetsIn(presetsFolder(userPreferencesFolder()), false);
@@ -191,17 +200,13 @@ Result<void> PresetStore::save(const QString &name, const TicketFile &ticket,
 {
     if (const auto problem = problemOf(name))
         return *problem;
-    TicketFile kept = keepSecrets ? ticket : withoutSecrets(ticket, keys);
-    for (const QString &key : {kPMPageRangesKey, kPMJobNameKey})
-        kept.printSettings.entries.erase(key);
-
     const QString saved = name.simplified();
     const auto existing = findPreset(presets(), saved);
     const bool isOwn = existing && !existing->isSite;
     const auto path = isOwn ? Result<QString>(existing->path) : newPath(saved);
     if (!path)
         return path.error();
-    return write(path.value(), saved, std::move(kept), true);
+    return write(path.value(), saved, presetFrom(ticket, keys, keepSecrets), true);
 }
 
 Result<void> PresetStore::remove(const QString &name)

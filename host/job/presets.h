@@ -16,6 +16,10 @@
 // the file's name without ".plist".
 namespace kelvo {
 
+// What of `ticket` a preset may hold: no page ranges and no job's name, and secrets only
+// when `keepSecrets`.
+TicketFile presetFrom(TicketFile ticket, const SecretKeys &keys, bool keepSecrets);
+
 struct Preset
 {
     QString name;
@@ -34,9 +38,8 @@ public:
     // file's name entry is left out: what comes back is a job's ticket.
     Result<TicketFile> read(const QString &name) const;
 
-    // Saves under a safe file name, over an own preset of that name. Secrets are
-    // left out unless `keepSecrets`. Page ranges and the job's name are never
-    // kept. Refused for an empty name or one with control characters, and where a
+    // Saves presetFrom(ticket) under a safe file name, over an own preset of that name.
+    // Refused for an empty name or one with control characters, and where a
     // file of another kind would be lost; a damaged file is set aside.
     Result<void> save(const QString &name, const TicketFile &ticket, const SecretKeys &keys,
                       bool keepSecrets);

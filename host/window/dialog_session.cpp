@@ -28,6 +28,7 @@ DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObjec
     , m_repeatedChoices(repeatedChoicesOf(m_options.bundle))
     , m_entryWords(entryWordsOf(m_options.bundle))
     , m_session(std::make_unique<PrintSession>())
+    , m_asked(m_repeatedChoices)
 {
     if (!m_options.document)
         m_documentProblem = tr("There is no document to print.");
@@ -233,8 +234,10 @@ void DialogSession::choosePrinter(const QString &name)
         return;
     if (m_stage == Stage::Ready) {
         writeAll();
-        m_carried = carriedOn(m_came, m_settled, ticket());
-        m_wasChanged = isChanged();
+        if (isChanged())
+            takeAsChanged();
+        if (m_ppd)
+            m_asked.learnWords(*m_ppd);
         endPanels();
     }
     m_printerName = name;
@@ -243,113 +246,131 @@ void DialogSession::choosePrinter(const QString &name)
 
 // ---- tickets
 
+// What was asked for on an earlier printer is laid over what this one begins with.
 void DialogSession::begin()
 {
     m_session = std::make_unique<PrintSession>();
     m_session->setPrinter({m_printerName, m_ppd ? m_ppd->path() : QString()});
-    if (m_carried) {
-        load(*m_carried, *m_session);
-    } else if (const auto laid = layFirstSettings(); !laid) {
-        emit refused(ExitStatus::NotOffered, laid.error().text());
+    nameJob();
+    const TicketFile defaults = queueDefaults();
+    m_asked.beginOn(defaults);
+    if (const auto asked = m_hasBegun ? Result<void>() : askFirst(); !asked) {
+        emit refused(ExitStatus::NotOffered, asked.error().text());
         return;
     }
-    m_came = ticketFileFrom(*m_session);
+    m_hasBegun = true;
+    load(defaults, *m_session);
     beginPanels();
+    m_asked.setBeginning(firstWrites());
     settle();
     setStage(Stage::Ready, m_message);
     emit reloaded();
 }
 
-// The device's own defaults stand in its PPD; a queue's are laid over them.
-void DialogSession::layDefaults()
+void DialogSession::nameJob()
 {
-    if (const Printer *printer = findPrinter(m_printerName)) {
-        const auto &defaults = printer->defaults;
+    PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, title());
+}
+
+// The device's own defaults stand in its PPD; a queue's are laid over them. What they
+// say of the PPD's options beats the print server's own names for the same.
+TicketFile DialogSession::queueDefaults()
+{
+    const Printer *printer = findPrinter(m_printerName);
+    const QMap<QString, QString> defaults = printer ? printer->defaults : QMap<QString, QString>();
+    for (const bool ofPpd : {false, true}) {
         for (auto option = defaults.cbegin(); option != defaults.cend(); ++option) {
+            if ((m_ppd && m_ppd->findOption(option.key())) != ofPpd)
+                continue;
             // Most of what the server lists is no setting of a job: passed over.
             static_cast<void>(
                 bool(applyOption(option.key(), option.value(), m_ppd.get(), *m_session)));
         }
     }
+    return ticketFileFrom(*m_session);
+}
+
+// What the panels make of these defaults.
+TicketFile DialogSession::firstWrites()
+{
+    writeJobSettings(settings(), m_ppd.get(), *m_session);
+    readAll();
+    sync(kSyncWrite);
+    return ticketFileFrom(*m_session);
+}
+
+void DialogSession::askForSiteDefaults()
+{
     if (const auto site = m_presets.siteDefaults())
-        lay(*site);
+        m_asked.lay(*site, AskedSettings::Kind::Given);
 }
 
-// A choice of `file` takes away what earlier settings say of it in entries.
-void DialogSession::lay(const TicketFile &file)
+void DialogSession::ask(const TicketFile &file, AskedSettings::Kind kind)
 {
-    dropRepeats(m_session->printSettings(), file.printSettings.ppdChoices, m_repeatedChoices);
-    layOver(file, *m_session);
-}
-
-void DialogSession::layWithUnknown(const TicketFile &file)
-{
-    lay(file);
+    m_asked.lay(file, kind);
     m_unknown.insert(file.unknown);
     m_unknown.remove(kTicketNonceKey); // of one sent job, and of no other
 }
 
-Result<void> DialogSession::layOption(const QString &name, const QString &value)
+// An option may mean several settings, and change one by another: it is tried on what
+// is wanted so far.
+Result<void> DialogSession::askForOption(const QString &name, const QString &value)
 {
-    // Without the choice an option shows that it set it, also to what it was.
-    Ticket &settings = m_session->printSettings();
-    PPDDictionary before;
-    for (auto option = m_repeatedChoices.cbegin(); option != m_repeatedChoices.cend(); ++option) {
-        if (const auto choice = settings.ppdChoices.constFind(option.key());
-            choice != settings.ppdChoices.cend())
-            before.insert(option.key(), *choice);
-        settings.ppdChoices.remove(option.key());
-    }
-    Result<void> applied = applyOption(name, value, m_ppd.get(), *m_session);
-    dropRepeats(settings, settings.ppdChoices, m_repeatedChoices);
-    for (auto choice = before.cbegin(); choice != before.cend(); ++choice) {
-        if (!settings.ppdChoices.contains(choice.key()))
-            settings.ppdChoices.insert(choice.key(), choice.value());
-    }
-    return applied;
+    load(m_asked.wanted(), *m_session);
+    const auto places = applyOption(name, value, m_ppd.get(), *m_session);
+    if (!places)
+        return places.error();
+    m_asked.lay(part(ticketFileFrom(*m_session), places.value()), AskedSettings::Kind::Chosen);
+    return {};
 }
 
-Result<void> DialogSession::layFirstSettings()
+void DialogSession::askForPages(const QString &pages)
 {
+    TicketFile asked;
+    asked.isPart = true;
+    if (pages.isEmpty())
+        asked.removed.insert({kPMPrintSettingsTicket, kPMPageRangesKey});
+    else
+        asked.printSettings.entries[kPMPageRangesKey] = {pages, hostClient};
+    m_asked.lay(asked, AskedSettings::Kind::Given);
+}
+
+Result<void> DialogSession::askFirst()
+{
+    using Kind = AskedSettings::Kind;
     const CommandLine &line = m_options.line;
-    layDefaults();
-    m_unknown.clear();
+    askForSiteDefaults();
     if (m_options.preset)
-        layWithUnknown(*m_options.preset);
-    if (m_options.ticketIn)
-        layWithUnknown(*m_options.ticketIn);
+        ask(*m_options.preset, Kind::Chosen);
+    if (const auto &ticket = m_options.ticketIn) // of a whole one nobody chose all
+        ask(*ticket, ticket->isPart ? Kind::Chosen : Kind::Given);
     for (const auto &[name, value] : line.options) {
-        if (auto applied = layOption(name, value); !applied)
-            return applied;
+        if (auto asked = askForOption(name, value); !asked)
+            return asked;
     }
-    if (line.copies || line.pages) {
-        JobSettings settings = jobSettingsFrom(*m_session, m_ppd.get());
-        settings.copies = line.copies.value_or(settings.copies);
-        settings.pageRanges = line.pages.value_or(settings.pageRanges);
-        writeJobSettings(settings, m_ppd.get(), *m_session);
+    if (line.copies) {
+        TicketFile copies;
+        copies.printSettings.entries[kPMCopiesKey] = {qint64(*line.copies), hostClient};
+        m_asked.lay(copies, Kind::Chosen);
     }
-    PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, title());
+    if (line.pages)
+        askForPages(*line.pages);
     return {};
 }
 
 // The ticket as this device has it, before the user touches anything.
 void DialogSession::settle()
 {
-    const PPDDictionary came = m_session->printSettings().ppdChoices;
-    writeJobSettings(jobSettingsFrom(*m_session, m_ppd.get()), m_ppd.get(), *m_session);
-    readAll();
-    writeAll();
-    m_settled = ticketFileFrom(*m_session);
-    m_unchanged = m_settled;
+    if (!m_asked.isEmpty()) {
+        load(m_asked.wanted(), *m_session);
+        nameJob();
+        writeJobSettings(settings(), m_ppd.get(), *m_session);
+        readAll();
+        sync(kSyncWrite);
+    }
+    m_asked.settle(ticketFileFrom(*m_session));
     m_lookedAt = m_session->printSettings().ppdChoices;
     m_lastSet.clear();
-    m_replaced.clear();
-    for (auto choice = came.cbegin(); m_ppd && choice != came.cend(); ++choice) {
-        const QString now = m_lookedAt.value(choice.key());
-        if (now != *choice && lacks(*m_ppd, choice.key(), *choice))
-            m_replaced.insert(choice.key(),
-                              {settingWords(choice.key(), *choice, m_ppd.get()), now});
-    }
 }
 
 JobSettings DialogSession::settings() const
@@ -370,38 +391,34 @@ TicketFile DialogSession::ticket() const
     return file;
 }
 
+TicketFile DialogSession::preset() const
+{
+    TicketFile file = m_asked.preset(ticketFileFrom(*m_session), m_ppd.get());
+    file.unknown = m_unknown;
+    return file;
+}
+
 void DialogSession::usePreset(const TicketFile *preset)
 {
     const QString pages = settings().pageRanges;
-    m_session->printSettings() = {};
-    m_session->pageFormat() = {};
+    m_asked.clear();
     m_unknown.clear();
-    layDefaults();
+    askForSiteDefaults();
     if (preset)
-        layWithUnknown(*preset);
-    const PMTicketRef print = m_session->printSettingsTicket();
-    PMTicketSetCFString(print, hostClient, kPMJobNameKey, title());
-    // The pages are the user's, and no other printer takes them away.
-    if (pages.isEmpty())
-        PMTicketReleaseItem(print, kPMPageRangesKey);
-    else
-        PMTicketSetCFString(print, hostClient, kPMPageRangesKey, pages);
-    m_came = ticketFileFrom(*m_session);
-    writeJobSettings(settings(), m_ppd.get(), *m_session);
+        ask(*preset, AskedSettings::Kind::Chosen);
+    askForPages(pages); // the user's: no other printer takes them away
     settle();
-    m_wasChanged = false;
     emit reloaded();
 }
 
 bool DialogSession::isChanged() const
 {
-    return m_wasChanged || !asksForTheSame(m_unchanged, ticketFileFrom(*m_session));
+    return m_asked.isChanged(ticketFileFrom(*m_session));
 }
 
 void DialogSession::takeAsUnchanged()
 {
-    m_unchanged = ticketFileFrom(*m_session);
-    m_wasChanged = false;
+    m_asked.takeAsUnchanged(ticketFileFrom(*m_session));
 }
 
 SpecialSheetsReader &DialogSession::specialSheetsReader()
@@ -423,15 +440,7 @@ const SpecialSheetKeys &DialogSession::specialSheetKeys()
 
 QStringList DialogSession::missing() const
 {
-    if (!m_ppd)
-        return {};
-    QStringList missing = missingOnDevice(*m_session, *m_ppd);
-    // Until the user chooses something else there.
-    for (auto option = m_replaced.cbegin(); option != m_replaced.cend(); ++option) {
-        if (m_session->printSettings().ppdChoices.value(option.key()) == option->by)
-            missing << option->words;
-    }
-    return missing;
+    return missingOnDevice(m_asked.asked(), m_ppd.get());
 }
 
 ConflictReport DialogSession::conflicts()
@@ -515,16 +524,22 @@ void DialogSession::endPanels()
         m_extension->end(noErr);
 }
 
-void DialogSession::writeAll()
+void DialogSession::sync(SyncDirection direction)
 {
     if (Extension *begun = panels())
-        begun->sync(kSyncWrite);
+        begun->sync(direction);
+}
+
+void DialogSession::writeAll()
+{
+    sync(kSyncWrite);
+    if (m_stage == Stage::Ready)
+        m_asked.take(ticketFileFrom(*m_session), m_ppd.get());
 }
 
 void DialogSession::readAll()
 {
-    if (Extension *begun = panels())
-        begun->sync(kSyncRead);
+    sync(kSyncRead);
 }
 
 // ---- the document

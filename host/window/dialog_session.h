@@ -1,5 +1,6 @@
 #pragma once
 
+#include "asked_settings.h"
 #include "background_task.h"
 #include "command_line.h"
 #include "conflicts.h"
@@ -92,7 +93,7 @@ public:
     // first frame, which needs none of it.
     const SpecialSheets &specialSheets();
     const SpecialSheetKeys &specialSheetKeys();
-    QStringList missing() const; // what the ticket has and this printer does not, in words
+    QStringList missing() const; // what is asked for and this printer lacks, in words
 
     bool isDocumentPending() const { return m_document.isNull() && m_documentProblem.isEmpty(); }
     const Document &document() const { return m_document; }              // null: not (yet) there
@@ -100,6 +101,7 @@ public:
     QString title() const; // of the document, also before it is open
 
     // Every panel writes, the shown one last. Nothing where there are no panels.
+    // What is different then, the user has set.
     void writeAll();
     void readAll();
     JobSettings settings() const; // Stage::Ready
@@ -108,6 +110,7 @@ public:
     // not take it away. A panel looks at the page format when it writes.
     void change(const JobSettings &settings);
     TicketFile ticket() const; // as it stands
+    TicketFile preset() const; // the part of it that a preset keeps; secrets are in it
 
     // Begins again on `preset`, or on the defaults for null. The job's own pages
     // and name stay.
@@ -115,9 +118,8 @@ public:
     // Whether anything differs from what was chosen as preset.
     bool isChanged() const;
     // The settings as they stand are what the preset says, or are not any more.
-    // `unknown` is what else stands in the root of that preset.
     void takeAsUnchanged();
-    void takeAsChanged() { m_wasChanged = true; }
+    void takeAsChanged() { m_asked.takeAsChanged(); }
 
     ConflictReport conflicts(); // as the ticket stands
     void fix(const ConflictReport &report);
@@ -141,25 +143,22 @@ private:
     void beginWithoutPpd(const QString &why);
     void beginWhenComplete();
     void begin();
-    Result<void> layFirstSettings();
-    void layDefaults();
-    void lay(const TicketFile &file);
-    void layWithUnknown(const TicketFile &file);
-    Result<void> layOption(const QString &name, const QString &value);
+    Result<void> askFirst();
+    void askForSiteDefaults();
+    void ask(const TicketFile &file, AskedSettings::Kind kind);
+    Result<void> askForOption(const QString &name, const QString &value);
+    void askForPages(const QString &pages);
+    void nameJob();
+    TicketFile queueDefaults();
+    TicketFile firstWrites();
     void settle();
+    void sync(SyncDirection direction);
     SpecialSheetsReader &specialSheetsReader();
     void beginPanels();
     QString whyPanelsDidNotBegin(const Error &error) const;
     void endPanels();
     void setStage(Stage stage, Message message);
     const Printer *findPrinter(const QString &name) const;
-
-    // A choice that this device lacks, and a panel has put another for.
-    struct Replaced
-    {
-        QString words; // "Two-Sided Printing: Bogus"
-        QString by;    // the choice that stands there now
-    };
 
     DialogOptions m_options;
     QWidget *m_panesParent;
@@ -184,14 +183,11 @@ private:
     std::unique_ptr<PrintSession> m_session;
     std::unique_ptr<Extension> m_extension; // made once, begun for each printer
     QString m_extensionProblem;             // why it cannot be loaded
-    std::optional<TicketFile> m_carried;    // from the last printer
-    TicketFile m_came, m_settled;           // see ticket_layers.h
-    TicketFile m_unchanged;                 // what isChanged() compares with
-    QMap<QString, Replaced> m_replaced;     // by option
-    PPDDictionary m_lookedAt;               // when conflicts were looked for the last time
-    QStringList m_lastSet;                  // options, the one set last first
-    bool m_wasChanged = false;              // on an earlier printer, or under another name
-    Dictionary m_unknown;                   // root entries of the preset and --ticket-in
+    AskedSettings m_asked;
+    bool m_hasBegun = false;  // on this printer or an earlier one
+    PPDDictionary m_lookedAt; // when conflicts were looked for the last time
+    QStringList m_lastSet;    // options, the one set last first
+    Dictionary m_unknown;     // root entries of the preset and --ticket-in
 
     BackgroundTask<Result<Document>> m_opening;
     std::shared_ptr<std::atomic_bool> m_openingCancelled;

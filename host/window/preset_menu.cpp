@@ -304,7 +304,7 @@ void PresetMenu::choose(int reference)
 Result<void> PresetMenu::write(const QString &name, std::optional<bool> keepSecrets)
 {
     const WaitCursor waiting;
-    TicketFile ticket = m_session.ticket();
+    TicketFile ticket = m_session.preset();
     if (findOwn(name)) {
         if (const auto stored = m_store.read(name)) {
             // A preset that is replaced keeps what we do not know of it, and passcodes

@@ -482,8 +482,9 @@ JobWords PrintDialog::words()
 {
     commitTypedValues(this);
     m_session->writeAll();
-    JobWords words = describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
-                                 m_session->secretKeys(), m_session->entryWords());
+    JobWords words =
+        describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
+                    m_session->secretKeys(), m_session->entryWords(), m_session->missing());
     if (Extension *panels = m_session->panels())
         words.settings += panels->summary();
     return words;
@@ -653,7 +654,7 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
     m_print->setFocus();
 
     if (outcome.status == ExitStatus::Printed) {
-        for (const QString &setting : outcome.notSent)
+        for (const QString &setting : m_session->missing())
             printLine(stderr,
                       QStringLiteral("kelvo-print: %1: not sent, the printer does not have it")
                           .arg(setting));

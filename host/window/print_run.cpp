@@ -40,20 +40,20 @@ PrintOutcome carryOut(PrintRun::Order &order, const std::atomic_bool &cancelled)
     order.request.ppd = order.ppd.get();
     const auto prepared = prepareJob(order.request);
     if (!prepared)
-        return {statusOfPreparation(prepared.error().code), {}, prepared.error().text(), {}};
+        return {statusOfPreparation(prepared.error().code), {}, prepared.error().text()};
     const PreparedJob &job = prepared.value();
     if (cancelled)
-        return {ExitStatus::Cancelled, {}, PrintRun::tr("The job was cancelled."), {}};
+        return {ExitStatus::Cancelled, {}, PrintRun::tr("The job was cancelled.")};
     if (!order.folder.isEmpty()) {
         if (const auto delivered = deliverToFolder(job, order.folder); !delivered)
-            return {ExitStatus::Failed, {}, delivered.error().text(), {}};
-        return {ExitStatus::Printed, order.folder, {}, job.notSent};
+            return {ExitStatus::Failed, {}, delivered.error().text()};
+        return {ExitStatus::Printed, order.folder, {}};
     }
     const auto delivered =
         deliverToQueue(job, order.queue, order.request.title, order.timeoutMs, cancelled);
     if (!delivered)
-        return {statusOfDelivery(delivered.error().code), {}, delivered.error().text(), {}};
-    return {ExitStatus::Printed, delivered.value().name, {}, job.notSent};
+        return {statusOfDelivery(delivered.error().code), {}, delivered.error().text()};
+    return {ExitStatus::Printed, delivered.value().name, {}};
 }
 
 } // namespace

@@ -15,9 +15,8 @@ namespace kelvo {
 struct PrintOutcome
 {
     ExitStatus status = ExitStatus::Failed;
-    QString place;       // printed: "Hall-123", or the folder
-    QString problem;     // not printed: what, where and what to do
-    QStringList notSent; // settings that the queue's PPD lacks
+    QString place;   // printed: "Hall-123", or the folder
+    QString problem; // not printed: what, where and what to do
 };
 
 // Prepares and delivers one job on a thread of its own. It runs once.

@@ -155,6 +155,13 @@ void TestTickets::refusesOtherLists_data()
     row("entry without key", "PMPageFormatTicket", nameless, Code::Damaged, "PMPageFormatTicket");
     row("choice as number", "PPDChoices", number, Code::WrongType, "PPDChoices/Duplex");
     row("client as number", "Clients", number, Code::WrongType, "Clients/Duplex");
+    row("part as text", "IsPart", "true", Code::WrongType, "IsPart");
+    row("words as number", "ChoiceWords", number, Code::WrongType, "ChoiceWords/Duplex");
+    row("removed as text", "Removed", "Duplex", Code::WrongType, "Removed");
+    const Array wrongPlaces[] = {{u"PPDChoices"_s}, {u"Clients"_s, u"a"_s}, {u"PPDChoices"_s, 1}};
+    for (const Array &place : wrongPlaces)
+        row(qPrintable(u"no place: %1"_s.arg(place.size()) + place.first().toString()), "Removed",
+            Array{QVariant(place)}, Code::WrongType, "Removed");
 }
 
 void TestTickets::refusesOtherLists()

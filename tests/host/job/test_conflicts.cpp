@@ -15,6 +15,7 @@ private slots:
     void areNamedAndMended();
     void changeOnlyWhatTheFixSays();
     void neverChangeTheEquipment();
+    void listWhatTheDeviceLacks_data();
     void listWhatTheDeviceLacks();
 };
 
@@ -150,14 +151,44 @@ void TestConflicts::neverChangeTheEquipment()
     QCOMPARE(report.fix, (PpdSelection{{"KVFold", "None"}}));
 }
 
+void TestConflicts::listWhatTheDeviceLacks_data()
+{
+    QTest::addColumn<PPDDictionary>("choices");
+    QTest::addColumn<QString>("paper"); // of the page format
+    QTest::addColumn<bool>("hasPpd");
+    QTest::addColumn<QStringList>("expected");
+
+    const PPDDictionary staple{{"StapleLocation", "Dual"}};
+    QTest::newRow("options and choices")
+        << PPDDictionary{{"Glitter", "On"}, {"MediaType", "Standard"}, {"Jog", "Sideways"}} << "A4"
+        << true << QStringList{"Glitter: On", "Request Offset: Sideways"};
+    QTest::newRow("nothing is asked of what it lacks")
+        << PPDDictionary{{"KVFold", "None"}, {"Glitter", "False"}} << QString() << true
+        << QStringList();
+    QTest::newRow("in the words of the device that has it")
+        << staple << QString() << true << QStringList{"Stapling: 2 Staples"};
+    QTest::newRow("a choice of paper") << PPDDictionary{{"PageSize", "Custom.1x1"}} << "A4" << true
+                                       << QStringList{"Page Size: Custom.1x1"};
+    QTest::newRow("a paper of the page format")
+        << PPDDictionary() << "Custom.1x1" << true << QStringList{"Page Size: Custom.1x1"};
+    QTest::newRow("without a PPD") << PPDDictionary{{"StapleLocation", "Dual"}, {"PageSize", "A4"}}
+                                   << "A4" << false << QStringList{"Stapling: 2 Staples"};
+}
+
 void TestConflicts::listWhatTheDeviceLacks()
 {
+    QFETCH(PPDDictionary, choices);
+    QFETCH(QString, paper);
+    QFETCH(bool, hasPpd);
+    QFETCH(QStringList, expected);
     const auto bare = device(QStringLiteral("bare"));
-    PrintSession session;
-    session.printSettings().ppdChoices = {
-        {"Glitter", "On"}, {"PageSize", "Custom.1x1"}, {"MediaType", "Standard"}};
-    QCOMPARE(missingOnDevice(session, *bare),
-             (QStringList{"Glitter: On", "Page Size: Custom.1x1"}));
+    TicketFile asked;
+    asked.printSettings.ppdChoices = choices;
+    if (!paper.isEmpty())
+        asked.pageFormat.entries[kPMPaperNameKey] = {paper, QStringLiteral("test")};
+    asked.choiceWords = {{"StapleLocation=Dual", "Stapling:\n2 Staples"}};
+
+    QCOMPARE(missingOnDevice(asked, hasPpd ? bare.get() : nullptr), expected);
 }
 
 QTEST_GUILESS_MAIN(TestConflicts)

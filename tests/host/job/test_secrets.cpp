@@ -1,3 +1,4 @@
+#include "conflicts.h"
 #include "job_words.h"
 #include "secret_keys.h"
 
@@ -128,7 +129,8 @@ void TestSecrets::neverStandInWords()
                                        {{"Job/Pin", "Pin:", {{77, "the lucky one"}}},
                                         {"Job/Name", "Name:", {{0, "none"}}},
                                         {"Job/Pin/Deep", "Deep:", {{77, "no"}}},
-                                        {"Gone", "Gone:", {{0, "no"}}}});
+                                        {"Gone", "Gone:", {{0, "no"}}}},
+                                       {"Glitter: On"});
     QCOMPARE(words.settings,
              (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: Landscape",
                           "Stapling: 2 Staples, Portrait", "Pin: the lucky one",
@@ -177,7 +179,8 @@ void TestSecrets::wordsStayOnTheirLines()
     TicketFile file = ticketOf({{"A\nB", Dictionary{{"C\nD", "E\nF\x1b"}}}});
     file.printSettings.ppdChoices = {{"Glit\nter", "O\xc2\x9bn"}};
     const JobSettings settings{1, true, "2\n3", "A4\n", Orientation::Portrait};
-    const QString text = describeJob(file, settings, nullptr, {}, {}).asText();
+    const QString text =
+        describeJob(file, settings, nullptr, {}, {}, missingOnDevice(file, nullptr)).asText();
     for (const char *line :
          {"  Pages: 2\\n3\n", "  Paper: A4\\n\n", "  Glit\\nter: O\\x9bn – this printer",
           "  A\\nB = {C\\nD = \"E\\nF\\x1b\"} (written by test)\n"})
@@ -192,7 +195,8 @@ void TestSecrets::wordsStayInBounds()
     const JobWords words = describeJob(
         ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}), {}, nullptr, {},
         {{.path = "Pages", .label = "Pages:"},
-         {.path = "Pages", .label = "First:", .firstPage = "first", .lastPage = "first"}});
+         {.path = "Pages", .label = "First:", .firstPage = "first", .lastPage = "first"}},
+        {});
     const QString notRead = " – this printer reads no tickets";
     QCOMPARE(words.notSent,
              (QStringList{"Pages: 99999" + notRead,

@@ -1,0 +1,145 @@
+#include "asked_settings.h"
+
+#include "ppd_words.h"
+
+namespace kelvo {
+
+namespace {
+
+TicketPlaces withoutOneJob(TicketPlaces places)
+{
+    for (const QString &key : {kPMJobNameKey, kPMPageRangesKey})
+        places.erase({kPMPrintSettingsTicket, key});
+    return places;
+}
+
+QString wordsKey(const QString &option, const QString &choice)
+{
+    return option + u'=' + choice;
+}
+
+} // namespace
+
+void AskedSettings::beginOn(TicketFile defaults)
+{
+    m_defaults = std::move(defaults);
+    m_beginning = {};
+}
+
+void AskedSettings::lay(const TicketFile &file, Kind kind)
+{
+    m_layers.push_back(file);
+    m_words.insert(file.choiceWords);
+    if (kind == Kind::Chosen)
+        m_chosen.merge(completed(placesOf(file), m_repeated));
+}
+
+void AskedSettings::clear()
+{
+    m_layers.clear();
+    m_changes = {};
+    m_changes.isPart = true;
+    m_chosen.clear();
+    m_words.clear();
+    m_wasChanged = false;
+}
+
+bool AskedSettings::isEmpty() const
+{
+    return m_layers.empty() && placesOf(m_changes).empty();
+}
+
+TicketFile AskedSettings::laidOver(TicketFile under) const
+{
+    for (const TicketFile &layer : m_layers)
+        under = laid(layer, std::move(under), m_beginning, m_repeated);
+    return laid(m_changes, std::move(under), m_beginning, m_repeated);
+}
+
+TicketFile AskedSettings::wanted() const
+{
+    return laidOver(m_defaults);
+}
+
+TicketFile AskedSettings::asked() const
+{
+    TicketFile asked = laidOver({});
+    asked.choiceWords = m_words;
+    return asked;
+}
+
+void AskedSettings::settle(const TicketFile &ticket)
+{
+    m_seen = ticket;
+    m_unchanged = ticket;
+}
+
+bool AskedSettings::isFirstWrite(const TicketPlace &place, const TicketFile &ticket,
+                                 const PpdFile *ppd) const
+{
+    if (place.first() != kPPDChoices || m_chosen.contains(place))
+        return false;
+    const QString &option = place[1];
+    const PpdOption *known = ppd ? ppd->findOption(option) : nullptr;
+    return known && ticket.printSettings.ppdChoices.value(option) == known->defaultChoice
+        && !m_seen.printSettings.ppdChoices.contains(option)
+        && !m_beginning.printSettings.ppdChoices.contains(option);
+}
+
+void AskedSettings::take(const TicketFile &ticket, const PpdFile *ppd)
+{
+    TicketPlaces places = completed(differences(m_seen, ticket), m_repeated);
+    std::erase_if(places, [&](const TicketPlace &place) {
+        if (!isFirstWrite(place, ticket, ppd))
+            return false;
+        for (TicketFile *file : {&m_beginning, &m_unchanged})
+            file->printSettings.ppdChoices.insert(place[1],
+                                                  ticket.printSettings.ppdChoices.value(place[1]));
+        return true;
+    });
+    m_seen = ticket;
+    m_changes = laid(part(ticket, places), std::move(m_changes), {}, m_repeated);
+    m_chosen.merge(places);
+}
+
+bool AskedSettings::isChanged(const TicketFile &ticket) const
+{
+    return m_wasChanged
+        || !withoutOneJob(completed(differences(m_unchanged, ticket), m_repeated)).empty();
+}
+
+void AskedSettings::takeAsUnchanged(const TicketFile &ticket)
+{
+    m_unchanged = ticket;
+    m_wasChanged = false;
+}
+
+void AskedSettings::learnWords(const PpdFile &ppd)
+{
+    const PPDDictionary choices = laidOver({}).printSettings.ppdChoices;
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
+        if (offers(ppd, choice.key(), *choice))
+            m_words.insert(wordsKey(choice.key(), *choice),
+                           settingWords(choice.key(), *choice, &ppd));
+    }
+}
+
+TicketFile AskedSettings::preset(const TicketFile &ticket, const PpdFile *ppd) const
+{
+    TicketPlaces places = completed(differences(m_beginning, ticket), m_repeated);
+    places.insert(m_chosen.begin(), m_chosen.end());
+    const TicketFile chosen = part(wanted(), m_chosen);
+    TicketFile preset = part(laid(chosen, ticket, {}, m_repeated), withoutOneJob(places));
+    const PPDDictionary &choices = preset.printSettings.ppdChoices;
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
+        const QString key = wordsKey(choice.key(), *choice);
+        const QString words = ppd && offers(*ppd, choice.key(), *choice)
+            ? settingWords(choice.key(), *choice, ppd)
+            : m_words.value(key);
+        if (!words.isEmpty())
+            preset.choiceWords.insert(key, words);
+    }
+    return preset;
+}
+
+} // namespace kelvo

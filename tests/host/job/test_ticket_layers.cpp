@@ -1,0 +1,321 @@
+#include "asked_settings.h"
+#include "ticket_layers.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+Q_DECLARE_METATYPE(kelvo::TicketFile)
+
+class TestTicketLayers : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void differAndComeBack_data();
+    void differAndComeBack();
+    void areLaidOverOneAnother_data();
+    void areLaidOverOneAnother();
+    void areCompleted_data();
+    void areCompleted();
+
+    void presetsKeepWhatWasAskedFor_data();
+    void presetsKeepWhatWasAskedFor();
+    void settingsLiveThroughAnotherDevice();
+    void onlyWhatIsSetIsAChange_data();
+    void onlyWhatIsSetIsAChange();
+};
+
+namespace {
+
+using Values = QMap<QString, QVariant>;
+using Kind = AskedSettings::Kind;
+
+const RepeatedChoices repeated{{"Duplex", {"repeat"}}};
+
+TicketFile ticket(const Values &values, const PPDDictionary &choices = {})
+{
+    TicketFile file;
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        file.printSettings.entries[value.key()] = {value.value(), QStringLiteral("K")};
+    file.printSettings.ppdChoices = choices;
+    return file;
+}
+
+// A part of a ticket; `removed` are places such as "Settings/key" or "Choices/option".
+TicketFile partOf(const Values &values, const PPDDictionary &choices = {},
+                  const QStringList &removed = {})
+{
+    TicketFile file = ticket(values, choices);
+    file.isPart = true;
+    for (const QString &place : removed) {
+        TicketPlace steps = place.split(u'/');
+        steps.first() = steps.first() == "Settings" ? kPMPrintSettingsTicket : kPPDChoices;
+        file.removed.insert(steps);
+    }
+    return file;
+}
+
+TicketFile onPaper(const QString &choice, const QString &name)
+{
+    TicketFile file =
+        ticket({}, choice.isEmpty() ? PPDDictionary() : PPDDictionary{{"PageSize", choice}});
+    if (!name.isEmpty()) {
+        file.pageFormat.entries[kPMPaperNameKey] = {name, "K"};
+        file.pageFormat.entries[kPMPaperSizeKey] = {Array{1.0, 2.0}, "K"};
+    }
+    return file;
+}
+
+QStringList listed(const TicketPlaces &places)
+{
+    QStringList list;
+    for (const TicketPlace &place : places)
+        list << place.join(u'/');
+    return list;
+}
+
+} // namespace
+
+void TestTicketLayers::differAndComeBack_data()
+{
+    QTest::addColumn<TicketFile>("from");
+    QTest::addColumn<TicketFile>("to");
+    QTest::addColumn<TicketFile>("expected"); // the part of `to` that differs
+
+    const Dictionary deep{{"a", Dictionary{{"b", 1}, {"c", 1}}}, {"d", 1}};
+    const Dictionary deeper{{"a", Dictionary{{"b", 2}, {"c", 1}}}, {"d", 1}};
+    QTest::newRow("the same") << ticket({{"x", deep}}, {{"o", "c"}})
+                              << ticket({{"x", deep}}, {{"o", "c"}}) << partOf({});
+    QTest::newRow("values and choices")
+        << ticket({{"x", 1}, {"y", 1}}, {{"o", "c"}, {"p", "c"}})
+        << ticket({{"x", 2}, {"y", 1}, {"z", 1}}, {{"o", "d"}, {"p", "c"}, {"q", ""}})
+        << partOf({{"x", 2}, {"z", 1}}, {{"o", "d"}, {"q", ""}});
+    QTest::newRow("a key deep inside") << ticket({{"x", deep}}) << ticket({{"x", deeper}})
+                                       << partOf({{"x", Dictionary{{"a", Dictionary{{"b", 2}}}}}});
+    QTest::newRow("an array is one value")
+        << ticket({{"x", Array{1, 2, deep}}}) << ticket({{"x", Array{1, 2, deeper}}})
+        << partOf({{"x", Array{1, 2, deeper}}});
+    QTest::newRow("what went") << ticket({{"x", deep}, {"y", deep}, {"z", 1}}, {{"o", "c"}})
+                               << ticket({{"x", Dictionary{{"d", 1}}}, {"y", 1}})
+                               << partOf({{"y", 1}}, {},
+                                         {"Settings/x/a", "Settings/z", "Choices/o"});
+    QTest::newRow("empty is not nothing")
+        << ticket({}) << ticket({{"x", Dictionary()}, {"y", Array()}, {"z", ""}})
+        << partOf({{"x", Dictionary()}, {"y", Array()}, {"z", ""}});
+    TicketFile byAnother = ticket({{"x", 1}});
+    byAnother.printSettings.entries["x"].client = "L";
+    QTest::newRow("who wrote it does not count") << ticket({{"x", 1}}) << byAnother << partOf({});
+}
+
+// What differs is found, and laid over the first makes the second.
+void TestTicketLayers::differAndComeBack()
+{
+    QFETCH(TicketFile, from);
+    QFETCH(TicketFile, to);
+    QFETCH(TicketFile, expected);
+    for (int turn = 0; turn < 2; ++turn) {
+        const TicketFile found = part(to, differences(from, to));
+        if (turn == 0)
+            QCOMPARE(found, expected);
+        QVERIFY(differences(to, laid(found, from, {}, {})).empty());
+        const auto stored = ticketFileFromPropertyList(propertyListFrom(found), "stored");
+        QVERIFY2(stored, qPrintable(stored.reason()));
+        QCOMPARE(stored.value(), found);
+        // The same of the page format, which has no choices.
+        for (TicketFile *file : {&from, &to}) {
+            std::swap(file->printSettings, file->pageFormat);
+            std::swap(file->printSettings.ppdChoices, file->pageFormat.ppdChoices);
+        }
+    }
+}
+
+void TestTicketLayers::areLaidOverOneAnother_data()
+{
+    QTest::addColumn<TicketFile>("under");
+    QTest::addColumn<TicketFile>("over");
+    QTest::addColumn<TicketFile>("expected");
+
+    const Dictionary below{{"a", 1}, {"b", 1}}, above{{"b", 2}};
+    QTest::newRow("entry by entry, choice by choice")
+        << ticket({{"x", 1}, {"y", 1}}, {{"o", "c"}, {"p", "c"}})
+        << ticket({{"y", 2}, {"z", 2}}, {{"p", "d"}})
+        << ticket({{"x", 1}, {"y", 2}, {"z", 2}}, {{"o", "c"}, {"p", "d"}});
+    QTest::newRow("a whole ticket's dictionary is whole")
+        << ticket({{"x", below}}) << ticket({{"x", above}}) << ticket({{"x", above}});
+    QTest::newRow("a part's is not") << ticket({{"x", below}}) << partOf({{"x", above}})
+                                     << ticket({{"x", Dictionary{{"a", 1}, {"b", 2}}}});
+    QTest::newRow("and begins as the panels would")
+        << ticket({}) << partOf({{"begun", above}})
+        << ticket({{"begun", Dictionary{{"b", 2}, {"c", 9}}}});
+    QTest::newRow("what a part removes")
+        << ticket({{"x", below}, {"y", 1}, {"z", 1}}, {{"o", "c"}})
+        << partOf({}, {},
+                  {"Settings/x/a", "Settings/y", "Settings/z/a", "Settings/none/a", "Choices/o"})
+        << ticket({{"x", Dictionary{{"b", 1}}}, {"z", 1}});
+    QTest::newRow("a part over a part") << partOf({{"x", below}}, {}, {"Settings/y", "Choices/o"})
+                                        << partOf({{"y", 1}}, {{"p", "c"}}, {"Settings/x/a"})
+                                        << partOf({{"x", Dictionary{{"b", 1}}}, {"y", 1}},
+                                                  {{"p", "c"}}, {"Settings/x/a", "Choices/o"});
+    QTest::newRow("a choice takes away what repeats it")
+        << ticket({{"repeat", 2}, {"x", 2}}, {{"Duplex", "Long"}})
+        << ticket({}, {{"Duplex", "None"}}) << ticket({{"x", 2}}, {{"Duplex", "None"}});
+    QTest::newRow("so does one that is removed")
+        << ticket({{"repeat", 2}}, {{"Duplex", "Long"}}) << partOf({}, {}, {"Choices/Duplex"})
+        << ticket({});
+    QTest::newRow("a choice of paper beats a page format")
+        << onPaper("A4", "A4") << onPaper("A5", {}) << onPaper("A5", {});
+    QTest::newRow("a page format beats a choice")
+        << onPaper("A4", "A4") << onPaper({}, "A5") << onPaper({}, "A5");
+}
+
+void TestTicketLayers::areLaidOverOneAnother()
+{
+    QFETCH(TicketFile, under);
+    QFETCH(TicketFile, over);
+    QFETCH(TicketFile, expected);
+    const TicketFile beginning = ticket({{"begun", Dictionary{{"b", 9}, {"c", 9}}}});
+    QCOMPARE(laid(over, under, beginning, repeated), expected);
+}
+
+void TestTicketLayers::areCompleted_data()
+{
+    QTest::addColumn<TicketFile>("file");
+    QTest::addColumn<QStringList>("expected");
+    const QStringList paper = listed(paperPlaces());
+    QTest::newRow("the choice speaks for what repeats it")
+        << ticket({{"repeat", 1}}, {{"Duplex", "None"}}) << QStringList{"PPDChoices/Duplex"};
+    QTest::newRow("nothing but a repeat") << ticket({{"repeat", 1}}) << QStringList();
+    QTest::newRow("the choice of paper") << onPaper("A4", {}) << paper;
+    QTest::newRow("the paper of the page format") << onPaper({}, "A4") << paper;
+}
+
+void TestTicketLayers::areCompleted()
+{
+    QFETCH(TicketFile, file);
+    QFETCH(QStringList, expected);
+    QCOMPARE(listed(completed(placesOf(file), repeated)), expected);
+}
+
+// The device's own: two-sided by its queue's default, and what panels write of it.
+static const TicketFile queueDefault = ticket({}, {{"Duplex", "Long"}});
+static const Values byPanels{{"repeat", 2}, {"job", Dictionary{{"type", 1}, {"time", 1}}}};
+static const PPDDictionary panelChoices{{"Duplex", "Long"}, {"Bin", "Auto"}};
+
+void TestTicketLayers::presetsKeepWhatWasAskedFor_data()
+{
+    QTest::addColumn<TicketFile>("given");
+    QTest::addColumn<TicketFile>("chosen");
+    QTest::addColumn<QList<TicketFile>>("tickets"); // as they stand one after the other
+    QTest::addColumn<TicketFile>("expected");
+
+    const TicketFile begun = ticket(byPanels, panelChoices);
+    const auto with = [](TicketFile file, const Values &values, const PPDDictionary &choices = {}) {
+        return laid(partOf(values, choices), file, {}, {});
+    };
+    const QList<TicketFile> untouched{begun};
+    QTest::newRow("nothing of the device's own")
+        << TicketFile() << TicketFile() << untouched << partOf({});
+    QTest::newRow("what the user sets, and what follows from it")
+        << TicketFile() << TicketFile()
+        << QList{begun, with(begun, {{"job", Dictionary{{"type", 6}}}}, {{"Staple", "One"}})}
+        << partOf({{"job", Dictionary{{"type", 6}}}}, {{"Staple", "One"}});
+    QTest::newRow("what the user sets and takes back")
+        << TicketFile() << TicketFile()
+        << QList{begun, with(begun, {{"repeat", 1}}, {{"Duplex", "None"}}), begun}
+        << partOf({}, {{"Duplex", "Long"}});
+    QTest::newRow("what the user removes")
+        << TicketFile() << TicketFile()
+        << QList{begun,
+                 ticket({{"repeat", 2}, {"job", Dictionary{{"type", 1}}}}, {{"Duplex", "Long"}})}
+        << partOf({}, {}, {"Settings/job/time", "Choices/Bin"});
+    QTest::newRow("a default that was chosen") << TicketFile() << ticket({}, {{"Duplex", "Long"}})
+                                               << untouched << partOf({}, {{"Duplex", "Long"}});
+    QTest::newRow("no default of a ticket that was given")
+        << with(begun, {}, {{"Staple", "One"}}) << TicketFile()
+        << QList{with(begun, {}, {{"Staple", "One"}})} << partOf({}, {{"Staple", "One"}});
+    QTest::newRow("what this device lacks")
+        << TicketFile() << ticket({{"gold", 1}}, {{"Staple", "Gold"}})
+        << QList{with(begun, {}, {{"Staple", "None"}})}
+        << partOf({{"gold", 1}}, {{"Staple", "Gold"}});
+    QTest::newRow("but what was chosen after it")
+        << TicketFile() << ticket({}, {{"Staple", "Gold"}})
+        << QList{with(begun, {}, {{"Staple", "None"}}), with(begun, {}, {{"Staple", "One"}})}
+        << partOf({}, {{"Staple", "One"}});
+    QTest::newRow("no pages and no name of one job")
+        << TicketFile() << ticket({{kPMPageRangesKey, "1-2"}, {kPMJobNameKey, "x"}})
+        << QList{begun, with(begun, {{kPMPageRangesKey, "3"}})} << partOf({});
+}
+
+void TestTicketLayers::presetsKeepWhatWasAskedFor()
+{
+    QFETCH(TicketFile, given);
+    QFETCH(TicketFile, chosen);
+    QFETCH(QList<TicketFile>, tickets);
+    QFETCH(TicketFile, expected);
+    AskedSettings asked(repeated);
+    asked.beginOn(queueDefault);
+    asked.setBeginning(ticket(byPanels, panelChoices));
+    asked.lay(given, Kind::Given);
+    asked.lay(chosen, Kind::Chosen);
+    asked.settle(tickets.first());
+    for (const TicketFile &each : tickets)
+        asked.take(each, nullptr);
+    QCOMPARE(asked.preset(tickets.last(), nullptr), expected);
+}
+
+void TestTicketLayers::settingsLiveThroughAnotherDevice()
+{
+    const TicketFile plain = ticket(byPanels, panelChoices);
+    AskedSettings asked(repeated);
+    asked.beginOn(queueDefault);
+    asked.setBeginning(plain);
+    asked.lay(ticket({{"x", 1}}, {{"Staple", "One"}}), Kind::Given);
+    asked.settle(plain); // which drops both
+    asked.take(laid(partOf({{"y", 1}}, {}, {"Choices/Bin"}), plain, {}, {}), nullptr);
+
+    // The next queue has other defaults, and keeps them.
+    asked.beginOn(ticket({}, {{"Duplex", "Short"}, {"Bin", "Top"}}));
+    QCOMPARE(asked.wanted(),
+             ticket({{"x", 1}, {"y", 1}}, {{"Staple", "One"}, {"Duplex", "Short"}}));
+    asked.clear();
+    QCOMPARE(asked.wanted(), ticket({}, {{"Duplex", "Short"}, {"Bin", "Top"}}));
+    QVERIFY(asked.isEmpty());
+}
+
+void TestTicketLayers::onlyWhatIsSetIsAChange_data()
+{
+    QTest::addColumn<TicketFile>("other");
+    QTest::addColumn<bool>("isChange");
+
+    TicketFile byAnother = ticket({{"a", 1}});
+    byAnother.printSettings.entries["a"].client = "L";
+    QTest::newRow("written by another") << byAnother << false;
+    QTest::newRow("other pages and name")
+        << ticket({{"a", 1}, {kPMPageRangesKey, "2-3"}, {kPMJobNameKey, "x"}}) << false;
+    QTest::newRow("another value") << ticket({{"a", 2}}) << true;
+    QTest::newRow("a value more") << ticket({{"a", 1}, {"b", 1}}) << true;
+    QTest::newRow("a choice more") << ticket({{"a", 1}}, {{"Jog", "EndOfSet"}}) << true;
+    QTest::newRow("a panel's first write, which is the device's default")
+        << ticket({{"a", 1}, {"repeat", 1}}, {{"Jog", "None"}}) << false;
+}
+
+void TestTicketLayers::onlyWhatIsSetIsAChange()
+{
+    QFETCH(TicketFile, other);
+    QFETCH(bool, isChange);
+    const auto ppd =
+        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    QVERIFY(ppd);
+    AskedSettings asked(repeated);
+    asked.beginOn({});
+    asked.setBeginning(ticket({{"a", 1}}));
+    asked.settle(ticket({{"a", 1}}));
+    asked.take(other, ppd.value().get());
+    QCOMPARE(asked.isChanged(other), isChange);
+    asked.takeAsUnchanged(other);
+    QVERIFY(!asked.isChanged(other));
+}
+
+QTEST_APPLESS_MAIN(TestTicketLayers)
+#include "test_ticket_layers.moc"
