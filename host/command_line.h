@@ -24,7 +24,7 @@ struct CommandLine
     std::optional<QString> title;           // -t
     std::optional<QString> ppd;             // --ppd: a device without a queue
     bool demo = false;
-    std::optional<QString> ticketIn, ticketOut, preset, script;
+    std::optional<QString> ticketIn, ticketOut, preset, presetOut, script;
     bool print = false;                 // --print: after the script
     QMap<QString, QString> secretFiles; // --secret NAME=FILE
     bool noWindow = false;

@@ -309,7 +309,7 @@ int runDialog(DialogOptions options)
                     // What a failed script has left unfinished is no
                     // ticket to keep.
                     const auto written =
-                        end == ExitStatus::Printed ? dialog.writeTicketOut() : Result<void>();
+                        end == ExitStatus::Printed ? dialog.writeSettingsOut() : Result<void>();
                     if (!written)
                         end = ExitStatus(fail(ExitStatus::Failed, written.error().text()));
                     dialog.interrupt();

@@ -2,7 +2,8 @@
 
 #include "ticket_file.h"
 
-#include <QFile>
+#include <QDir>
+#include <QFileInfo>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -38,6 +39,12 @@ std::optional<struct stat> documentStatus(const CommandLine &line)
         || !S_ISREG(status.st_mode))
         return std::nullopt;
     return status;
+}
+
+// Of files that may not be there yet.
+QString absolutePath(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
 struct Input
@@ -78,11 +85,29 @@ Result<void> checkTarget(const QString &option, const QString &target, const QLi
 Result<void> checkOutputTargets(const CommandLine &line)
 {
     const QList<Input> inputs = inputsOf(line);
+    // A preset is less than a whole ticket.
+    QList<Input> whole = inputs;
+    if (line.ticketIn)
+        whole.append({QStringLiteral("the ticket that is read"), statusOf(*line.ticketIn)});
     if (line.ticketOut) {
-        const QString option = QStringLiteral("--ticket-out");
-        if (auto checked = checkTarget(option, *line.ticketOut, inputs); !checked)
+        whole.append({QStringLiteral("what --ticket-out writes"), statusOf(*line.ticketOut)});
+        if (line.presetOut && absolutePath(*line.presetOut) == absolutePath(*line.ticketOut))
+            return Error{Code::Refused, QStringLiteral("--preset-out"),
+                         QStringLiteral("%1 is what --ticket-out writes").arg(*line.presetOut)};
+    }
+    const struct
+    {
+        QString option;
+        const std::optional<QString> &target;
+        const QList<Input> &inputs;
+    } tickets[] = {{QStringLiteral("--ticket-out"), line.ticketOut, inputs},
+                   {QStringLiteral("--preset-out"), line.presetOut, whole}};
+    for (const auto &[option, target, keeps] : tickets) {
+        if (!target)
+            continue;
+        if (auto checked = checkTarget(option, *target, keeps); !checked)
             return checked;
-        if (auto checked = checkTicketTarget(*line.ticketOut); !checked)
+        if (auto checked = checkTicketTarget(*target); !checked)
             return Error{checked.error().code, option, checked.error().text()};
     }
     if (line.toFolder) {

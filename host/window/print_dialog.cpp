@@ -610,7 +610,7 @@ void PrintDialog::print()
     }
     if (endsInConflict())
         return;
-    if (const auto written = writeTicketOut(); !written) {
+    if (const auto written = writeSettingsOut(); !written) {
         refusePrint(ExitStatus::Failed, notPrinted,
                     tr("The settings could not be written. %1").arg(written.error().text()));
         return;
@@ -673,12 +673,18 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
                 outcome.problem);
 }
 
-Result<void> PrintDialog::writeTicketOut()
+Result<void> PrintDialog::writeSettingsOut()
 {
-    if (!m_options.line.ticketOut || m_session->stage() != DialogSession::Stage::Ready)
+    const CommandLine &line = m_options.line;
+    if (m_session->stage() != DialogSession::Stage::Ready || !(line.ticketOut || line.presetOut))
         return {};
     m_session->writeAll();
-    return writeTicketFile(*m_options.line.ticketOut, m_session->ticket());
+    auto written =
+        line.ticketOut ? writeTicketFile(*line.ticketOut, m_session->ticket()) : Result<void>();
+    if (!written || !line.presetOut)
+        return written;
+    return writeTicketFile(*line.presetOut,
+                           presetFrom(m_session->preset(), m_session->secretKeys(), false));
 }
 
 void PrintDialog::pressCancel()

@@ -44,8 +44,8 @@ public:
     void setDriven(bool driven);
     // Texts of --secret, by name.
     void setSecrets(QMap<QString, QString> secrets) { m_secrets = std::move(secrets); }
-    // Writes --ticket-out as the settings stand; nothing without that option.
-    Result<void> writeTicketOut();
+    // Writes --ticket-out and --preset-out as the settings stand; nothing without them.
+    Result<void> writeSettingsOut();
     // Ends as Cancel does. A job that is on its way is cancelled and waited for, for
     // a few seconds: the status says what became of it.
     void interrupt();

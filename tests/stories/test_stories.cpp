@@ -119,6 +119,9 @@ private slots:
     void printsWhatIsNamedOnTheSampleDevice();
     void tellsOfAnOutputThatIsFull();
     void keepsPresets();
+    void keepsNoDefaultsInPresets();
+    void leavesEachQueueItsOwnDefaults_data();
+    void leavesEachQueueItsOwnDefaults();
     void mendsAConflict();
     void refusesToPrintAConflict();
     void laterSettingsBeatEarlierOnes();
@@ -703,6 +706,9 @@ void TestStories::keepsWhatTheUserNamed_data()
     row({"--ticket-out", "link.pdf", "document.pdf"}, 2, "link.pdf is the document itself");
     row({"--ticket-out", "keep.txt", "document.pdf"}, 2, "not a ticket");
     row({"--ticket-out", "no/t.plist", "document.pdf"}, 2, "the folder no does not exist");
+    row({"--preset-out", "keep.txt", "document.pdf"}, 2, "not a ticket");
+    row({"--preset-out", "./p.plist", "--ticket-out", "p.plist", "document.pdf"}, 2,
+        "--preset-out: ./p.plist is what --ticket-out writes");
     row({"--ticket-out", "run.kps", "--script", "run.kps", "document.pdf"}, 2, "the script itself");
     row({"--to", ".", "document.pdf"}, 2, "./document.pdf is the document itself");
     row({"--to", "busy", "keep.txt"}, 1, "busy/options: this is not a regular file");
@@ -792,6 +798,96 @@ void TestStories::keepsPresets()
     QFile::setPermissions(locked.presetFolder(),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QCOMPARE(filesIn(locked.presetFolder()).size(), 0);
+}
+
+void TestStories::keepsNoDefaultsInPresets()
+{
+    const Desk desk;
+    const auto ownPreset = [&desk](const char *name) {
+        return readTicketFile(desk.presetFolder() + u'/' + QLatin1String(name) + ".plist").value();
+    };
+    // To look at panels is to set nothing, though they write when they are first opened.
+    write(desk.path("s.kps"),
+          "tab 2\ntab 4\npanel SpecialPages\ntab 1\n"
+          "expect @preset text \"Default Settings\"\n"
+          "item @presetMenu 'PsSA'\ntype @presetName \"Nothing\"\nclick @ok\n"
+          "tab 4\nchoose @requestOffset key EndOfSet\nchoose @requestOffset key None\n"
+          "choose @paper key A5\nexpect @preset text \"Nothing*\"\n"
+          "item @presetMenu 'PsSA'\ntype @presetName \"Something\"\nclick @ok\n"
+          "choose @preset row 1\nexpect @paper text \"A4 (210 × 297 mm)\"\n"
+          "choose @preset key Something\nexpect @paper text \"A5 (148 × 210 mm)\"\n"
+          "expect @preset text \"Something\"\n");
+    QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
+    const TicketFile nothing = ownPreset("Nothing");
+    QVERIFY(nothing.isPart && nothing.removed.empty());
+    QCOMPARE(nothing.printSettings, Ticket());
+    QCOMPARE(nothing.pageFormat, Ticket());
+    const TicketFile something = ownPreset("Something");
+    QCOMPARE(something.printSettings.ppdChoices,
+             (PPDDictionary{{"Jog", "None"}, {"PageSize", "A5"}}));
+    QVERIFY(something.printSettings.entries.empty());
+    QCOMPARE(something.pageFormat.entries.size(), std::size_t(3)); // of the paper
+}
+
+void TestStories::leavesEachQueueItsOwnDefaults_data()
+{
+    QTest::addColumn<QStringList>("made"); // how the site's preset is made
+    QTest::addColumn<QString>("queue");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("duplex");
+    QTest::addColumn<QString>("staple");
+    QTest::addColumn<QString>("missing");
+
+    const QStringList staple{"--script", "staple.kps"};
+    const QStringList oneSided = staple + QStringList{"-o", "Duplex=None"};
+    const QStringList toMid{"--script", "to-mid.kps"};
+    const QString lacks = "Stapling: 1 Staple";
+    const QString single = "SinglePortrait", both = "DuplexNoTumble";
+    QTest::newRow("a device that staples")
+        << staple << "Mid" << QStringList() << both << single << "";
+    QTest::newRow("one that does not") << staple << "Bare" << QStringList() << ""
+                                       << "" << lacks;
+    QTest::newRow("a default that was chosen")
+        << oneSided << "Mid" << QStringList() << "None" << single << "";
+    QTest::newRow("from one to the other") << staple << "Bare" << toMid << both << single << "";
+}
+
+// A site's preset says what was set in it, and nothing else.
+void TestStories::leavesEachQueueItsOwnDefaults()
+{
+    QFETCH(QStringList, made);
+    QFETCH(QString, queue);
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, duplex);
+    QFETCH(QString, staple);
+    QFETCH(QString, missing);
+    const QString ppds = KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-";
+    QCOMPARE(m_cups.addQueue("Bare", ppds + "bare.ppd"), QString());
+    // The server lists "sides=one-sided" beside it, which it takes from the PPD.
+    QCOMPARE(m_cups.addQueue("Mid", ppds + "mid.ppd", {"-o", "Duplex-default=DuplexNoTumble"}),
+             QString());
+    const Desk desk;
+    write(desk.path("staple.kps"), "tab 1\nitem @finishingButton 'Stp1'\n");
+    write(desk.path("to-mid.kps"), "choose @printer key Mid\nprint\n");
+    QENDED(desk.run(QStringList{"--demo", "--no-window", "--preset-out", "site.plist"} + made), 0);
+    QCOMPARE(QFile::permissions(desk.path("site.plist"))
+                 & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+             QFile::Permissions());
+    QVERIFY(QFile::copy(desk.path("site.plist"), desk.sitePresetFolder() + "/default.plist"));
+
+    const std::size_t before = m_cups.jobs(0).size();
+    const Run run = desk.run(QStringList{"-d", queue, "--no-window", documentPath} + arguments);
+    QENDED(run, 0);
+    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
+    QCOMPARE(jobs.size(), before + 1);
+    QCOMPARE(jobs.back().options.value("Duplex").join(u' '), duplex);
+    QCOMPARE(jobs.back().options.value("StapleLocation").join(u' '), staple);
+    QStringList messages = run.messages();
+    messages.removeIf([](const QString &line) { return line.startsWith("Expected PPD option"); });
+    QCOMPARE(messages,
+             missing.isEmpty() ? QStringList()
+                               : QStringList{"kelvo-print: " + missing
+                                             + ": not sent, the printer does not have it"});
 }
 
 void TestStories::mendsAConflict()

@@ -336,7 +336,7 @@ void TestPrintDialog::laterSettingsBeatEarlierOnes()
     QCOMPARE(shown.find<QLineEdit>("PDEShellField")->text(), "ticket");
     // A script comes last, and what it did is in the ticket that goes out.
     QVERIFY(shown.choose("paper", "A4"));
-    QVERIFY(shown.dialog.writeTicketOut());
+    QVERIFY(shown.dialog.writeSettingsOut());
     const auto out = readTicketFile(m_folder->filePath("out.plist"));
     QVERIFY(out);
     QCOMPARE(out.value().printSettings.ppdChoices["PageSize"], "A4");
