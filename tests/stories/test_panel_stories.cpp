@@ -142,21 +142,35 @@ void TestPanelStories::carriesEverythingThroughATicket()
     QFETCH(QString, name);
     const Desk desk;
     const QString first = desk.path("first"), second = desk.path("second");
+    const QString third = desk.path("third"), preset = desk.path("preset.plist");
     const QStringList arguments{"--ppd", ppd(device), "--no-window", documentPath};
     QENDED(desk.run(arguments
-                    + QStringList{"--script", script(qPrintable(name + ".kps")), "--to", first}),
+                    + QStringList{"--script", script(qPrintable(name + ".kps")), "--to", first,
+                                  "--preset-out", preset}),
            0);
     const Desk fresh;
     QENDED(fresh.run(arguments
                      + QStringList{"--script", script(qPrintable(name + "-again.kps")),
                                    "--ticket-in", first + "/ticket.plist", "--to", second}),
            0);
+    QENDED(fresh.run(arguments + QStringList{"--ticket-in", preset, "--to", third}), 0);
 
-    TicketFile one = ticketIn(first), other = ticketIn(second);
+    TicketFile one = ticketIn(first), other = ticketIn(second), fromPreset = ticketIn(third);
     QVERIFY(!one.printSettings.entries.empty());
-    for (TicketFile *ticket : {&one, &other})
+    for (TicketFile *ticket : {&one, &other, &fromPreset})
         ticket->unknown.remove(nonceKey);
     QCOMPARE(other, one);
+    // A preset, which is only a part, brings back all but the passcode, and a time that
+    // nobody has set.
+    for (TicketFile *ticket : {&one, &fromPreset}) {
+        Dictionary jobType = jobTypeIn(*ticket);
+        for (const char *key : {"DelayedPrintTime", "SecurePrintPassword"})
+            jobType.remove(QLatin1String(key));
+        if (!jobType.isEmpty())
+            ticket->printSettings.entries[QStringLiteral("com.kelvo.print.JobType")].value =
+                jobType;
+    }
+    QCOMPARE(fromPreset, one);
 }
 
 void TestPanelStories::leavesNothingOfDeletedPages()
