@@ -99,6 +99,11 @@ bool PopupButton::setValueByReference(std::int32_t reference)
     return true;
 }
 
+QString PopupButton::shownText() const
+{
+    return currentIndex() < 0 ? placeholderText() : currentText();
+}
+
 bool PopupButton::choose(int value)
 {
     if (!isEnabled() || value < 1 || value > count()
@@ -132,8 +137,7 @@ QRect PopupButton::textRect(const QStyleOptionComboBox &option) const
 
 QString PopupButton::elidedText(const QStyleOptionComboBox &option) const
 {
-    return option.fontMetrics.elidedText(option.currentText, Qt::ElideRight,
-                                         textRect(option).width());
+    return option.fontMetrics.elidedText(shownText(), Qt::ElideRight, textRect(option).width());
 }
 
 QSize PopupButton::sizeHint() const
@@ -144,8 +148,9 @@ QSize PopupButton::sizeHint() const
     const int character = metrics.horizontalAdvance(u'X');
     const int least = minimumContentsLength() * character;
     const int most = std::max(minimumContentsLength(), mostCharacters) * character;
+    const int widest = std::max(m_widest, metrics.horizontalAdvance(placeholderText()));
     QSize hint = QComboBox::minimumSizeHint();
-    hint.rwidth() += std::clamp(m_widest + character, least, most) - least;
+    hint.rwidth() += std::clamp(widest + character, least, most) - least;
     return hint;
 }
 
@@ -180,9 +185,9 @@ bool PopupButton::event(QEvent *event)
     if (event->type() == QEvent::ToolTip) {
         QStyleOptionComboBox option;
         initStyleOption(&option);
-        if (elidedText(option) != option.currentText) {
+        if (elidedText(option) != shownText()) {
             QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                               plainToolTip(option.currentText), this);
+                               plainToolTip(shownText()), this);
             return true;
         }
     }
@@ -208,6 +213,8 @@ void PopupButton::paintEvent(QPaintEvent *)
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
+    if (currentIndex() < 0)
+        option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
     option.currentText = elidedText(option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);

@@ -206,24 +206,14 @@ void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
     finishing.punch = readPunch(ticket, ppd);
     finishing.punchKind = finishing.punch > kPunchNone ? kPunchKindPunched : kPunchKindNone;
 
-    std::int32_t staple = choiceValue(ppd, ticket, "StapleLocation", kStapleNone);
-    if (staple == kNoPpdChoice) {
-        const QString choice = currentChoice(ppd, ticket, "StapleLocation");
-        staple = stapleOfChoice(choice).value_or(kStapleNone);
-    }
-    setStaple(finishing, staple);
+    std::optional<std::int32_t> staple = choiceValue(ppd, ticket, "StapleLocation", kStapleNone);
+    if (staple == kNoPpdChoice)
+        staple = stapleOfChoice(currentChoice(ppd, ticket, "StapleLocation"));
+    setStaple(finishing, staple.value_or(kStapleNone));
+    finishing.hasUnknownStaple = !staple;
 
     finishing.custom =
         PMTicketGetCFString(ticket, ticketKey("FinishingCustom")).value_or(QStringLiteral(""));
-}
-
-// A choice that this panel cannot show. It stays until the user chooses a staple.
-bool isUnknownStaple(PMTicketRef ticket)
-{
-    const QString option = QStringLiteral("StapleLocation");
-    const auto choice = PPDCopyCurrentChoice(ticket, option);
-    return choice && PPDTicketValueForChoice(option, *choice) == kNoPpdChoice
-        && !stapleOfChoice(*choice);
 }
 
 // Two, three and four holes alone are written. Where it is another punch, a choice
@@ -250,7 +240,7 @@ void writeFinishing(const _PaperOutputContext &context, PMTicketRef ticket)
     setNumber(ticket, "FinishingSlipSheet", finishing.slipSheet);
     setChoiceValue(ticket, "KVFold", finishing.fold);
     writePunch(context, ticket);
-    if (!isUnknownStaple(ticket) || chosenStaple(finishing) != kStapleNone)
+    if (!finishing.hasUnknownStaple)
         setChoice(ticket, "StapleLocation",
                   stapleChoice(chosenStaple(finishing), context.orientation));
     setNumber(ticket, "FinishingBindValue", finishing.bind);

@@ -4,6 +4,7 @@
 #include "control.h"
 #include "dialog_window.h"
 #include "hint_text.h"
+#include "offered_choices.h"
 #include "picture_view.h"
 #include "popups.h"
 #include "ppd_choices.h"
@@ -36,11 +37,14 @@ struct SeparatorsDialog
     PopupButton *source = nullptr;
     PopupButton *color = nullptr;
     PictureView *picture = nullptr;
+    std::int32_t before = kSeparatorsNone; // what the job has
 
-    // "none" as well where the printer has no separators.
+    // What the pop-up cannot show stays; "none" where the printer has no separators.
     std::int32_t separators() const
     {
-        return option->value() > 0 ? option->chosenReference() : kSeparatorsNone;
+        if (option->count() == 0)
+            return kSeparatorsNone;
+        return option->value() > 0 ? option->chosenReference() : before;
     }
 };
 
@@ -83,8 +87,7 @@ OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &eve
 void fillOptions(const SeparatorsDialog &dialog, PpdFile *ppd)
 {
     Menu menu;
-    PPDPopulateMenuWithChoices(menu, ppd, QStringLiteral("KVSlipSheetPrint"), kCommandOption,
-                               false);
+    PopulateMenuWithOfferedChoices(menu, ppd, QStringLiteral("KVSlipSheetPrint"), kCommandOption);
     for (MenuItem &item : menu.items) {
         if (const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, item.reference))
             item.text = localizedText(dialog.bundle, QString::fromUtf8(key));
@@ -115,9 +118,9 @@ void fillPopups(const SeparatorsDialog &dialog, PpdFile *ppd)
     }
     fillOptions(dialog, ppd);
     if (hasOption(sources))
-        PPDPopulatePopupWithChoices(dialog.source, ppd, sources, false);
+        fillWithOfferedChoices(dialog.source, ppd, sources);
     if (hasOption(colors))
-        PPDPopulatePopupWithChoices(dialog.color, ppd, colors, false);
+        fillWithOfferedChoices(dialog.color, ppd, colors);
     SetPopupButtonToTicketValue(dialog.color, kStockColorWhite);
 }
 
@@ -144,8 +147,10 @@ OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
     makeHintText(findControl<QLabel>(window, kOptionHint));
     makeHintText(findControl<QLabel>(window, kColorHint));
     fillPopups(dialog, PPDGetCurrent());
-    SetPopupButtonToTicketValue(dialog.option, *separators);
-    SetPopupButtonToTicketValue(dialog.source, separatorStock->source());
+    dialog.before = *separators;
+    showChoice(bundle, dialog.option, *separators);
+    if (separatorStock->source() != kUnset) // else the first is ready to be taken
+        showChoice(bundle, dialog.source, separatorStock->source());
     showOption(dialog);
     const EventHandlerRef handler = installEventHandler(
         window, [&dialog](const Event &event) { return separatorsEventHandler(dialog, event); });

@@ -27,6 +27,7 @@ private slots:
     void namesConflicts_data();
     void namesConflicts();
     void namesConflictsOfPairs();
+    void knowsWhatTheEquipmentRulesOut();
     void resolvesConflicts_data();
     void resolvesConflicts();
     void leavesTheMarksAloneWhenItLooksForConflicts();
@@ -218,6 +219,41 @@ void TestPpdFile::namesConflictsOfPairs()
     QCOMPARE(conflicts[0].options, (QStringList{"PageSize", "Duplex"}));
     QCOMPARE(conflicts[1].options, (QStringList{"MediaType", "StapleLocation"}));
     QVERIFY(ppd.value()->conflicts({{"Duplex", "DuplexTumble"}}).empty());
+}
+
+// A rule that needs a third setting, or more equipment than is fitted, rules nothing
+// out by itself.
+void TestPpdFile::knowsWhatTheEquipmentRulesOut()
+{
+    QFile file(testPpd());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll()
+                                 .replace("*cupsUI", "*%")
+                                 .replace("*OpenUI *KVFinisher",
+                                          "*OpenUI *KVFax: Boolean\n*DefaultKVFax: False\n"
+                                          "*KVFax False: \"\"\n*KVFax True: \"\"\n"
+                                          "*CloseUI: *KVFax\n*OpenUI *KVFinisher");
+    const auto ruledOut = [&bytes](const QByteArray &rules) {
+        const auto ppd = PpdFile::fromBytes(bytes + rules, u"equipment.ppd"_s);
+        QStringList found;
+        for (const QString &option : {u"StapleLocation"_s, u"KVFinisher"_s, u"KVFax"_s}) {
+            for (const PpdChoice &choice : ppd.value()->findOption(option)->choices) {
+                if (ppd.value()->isRuledOutByEquipment(option, choice.keyword))
+                    found << choice.keyword;
+            }
+        }
+        return found.join(u' ');
+    };
+    const QByteArray rule = "*cupsUIConstraints: \"*KVFinisher None ";
+    QCOMPARE(ruledOut(""), QString());
+    QCOMPARE(ruledOut("*UIConstraints: *StapleLocation DualLandscape *KVFinisher None\n"),
+             u"DualLandscape"_s);
+    QCOMPARE(ruledOut(rule + "*StapleLocation\"\n"), u"SinglePortrait DualLandscape"_s);
+    QCOMPARE(ruledOut(rule + "*StapleLocation None *KVFax False\"\n"), u"None"_s);
+    QCOMPARE(ruledOut(rule + "*StapleLocation None *KVFax True\"\n"), QString());
+    QCOMPARE(ruledOut(rule + "*StapleLocation None *Duplex None\"\n"), QString());
+    QCOMPARE(ruledOut(rule + "*KVFax False\"\n"), QString());
+    QCOMPARE(ruledOut("*UIConstraints: *StapleLocation None *Duplex None\n"), QString());
 }
 
 void TestPpdFile::resolvesConflicts_data()
