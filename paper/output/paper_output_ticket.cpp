@@ -65,8 +65,7 @@ void setChoice(PMTicketRef ticket, const char *option, const std::optional<QStri
 
 void removeChoice(PMTicketRef ticket, const char *option)
 {
-    if (PPDDictionary *choices = PMTicketGetPPDDict(ticket))
-        choices->remove(QString::fromLatin1(option));
+    PPDRemoveCurrentChoice(ticket, QString::fromLatin1(option));
 }
 
 // A value without a choice (the printer's default, a colour of the user's) takes an
