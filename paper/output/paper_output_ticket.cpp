@@ -88,6 +88,30 @@ void setOrRemove(Dictionary &dictionary, const QString &key, bool isSet, const Q
         dictionary.remove(key);
 }
 
+// What only a stock can say: a color or a type that no PPD has a choice for.
+bool hasOwnColor(const Stock &stock)
+{
+    return stock.color() == kStockColorCustom;
+}
+bool hasOwnType(const Stock &stock)
+{
+    return stock.type() == kStockTypePrecutTab || stock.type() == kStockTypeOrdered
+        || stock.type() == kStockTypeCustom;
+}
+
+// The ticket's choices rule, and where it has none, the PPD's defaults; but no choice
+// is also what is written for a color or type of the stock's own.
+void readColorAndType(Stock &stock, PMTicketRef ticket, const PpdFile *ppd)
+{
+    const auto hasChoice = [ticket](const char *option) {
+        return PPDCopyCurrentChoice(ticket, QString::fromLatin1(option)).has_value();
+    };
+    if (hasChoice("MediaColor") || !hasOwnColor(stock))
+        stock.setColor(choiceValue(ppd, ticket, "MediaColor", kUnset));
+    if (hasChoice("MediaType") || !hasOwnType(stock))
+        stock.setType(choiceValue(ppd, ticket, "MediaType", kUnset));
+}
+
 void readJobType(_PaperOutputContext &context, PMTicketRef ticket)
 {
     context.jobTypeOptions = PMTicketGetCFDictionary(ticket, ticketKey("JobType"))
@@ -271,8 +295,7 @@ void readPaperOutput(_PaperOutputContext &context, PMTicketRef settings, PMTicke
         context.jobStock = Stock();
         DefaultStock(&context.jobStock, kJobContextJob);
     }
-    context.jobStock.setColor(choiceValue(ppd, settings, "MediaColor", kUnset));
-    context.jobStock.setType(choiceValue(ppd, settings, "MediaType", kUnset));
+    readColorAndType(context.jobStock, settings, ppd);
     context.outputBin = choiceValue(ppd, settings, "OutputBin", 1);
     context.colorMode = choiceValue(ppd, settings, "KVColorMode", kNoPpdChoice);
     SyncSeparatorsFromTicket(settings, &context.separators, &context.separatorStock);
