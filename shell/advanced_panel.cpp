@@ -55,10 +55,19 @@ AdvancedContext *advancedOf(PMPDEContext context)
     return reinterpret_cast<AdvancedContext *>(context);
 }
 
+// The orders of the map have one value: which of them was chosen cannot be read from
+// the ticket, and is still shown while the ticket has that value.
+void showBookletOrder(PopupButton *popup, std::int32_t order)
+{
+    if (!popup || popup->chosenReference() == order || SetPopupButtonToTicketValue(popup, order))
+        return;
+    popup->setValue(1); // as where nothing was ever chosen
+}
+
 // From the context to the controls.
 void showSettings(const AdvancedContext &advanced)
 {
-    SetPopupButtonToTicketValue(advanced.controls.bookletOrder, advanced.bookletOrder);
+    showBookletOrder(advanced.controls.bookletOrder, advanced.bookletOrder);
     for (const PpdRow &row : kPpdRows)
         showChoice(advanced.bundle, advanced.controls.*row.popup, advanced.*row.value,
                    findControl<QLabel>(advanced.content, {kPanelSignature, row.hintNumber}),

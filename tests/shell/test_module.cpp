@@ -61,6 +61,7 @@ private slots:
     void onlyOurDevicesAreTaken();
     void advancedShowsTheTicket();
     void advancedWritesWhatTheUserChose();
+    void advancedShowsTheOrderThatWasChosen();
     void advancedKeepsChoicesThatItDoesNotKnow();
     void advancedDisablesWhatTheDeviceLacks();
     void aboutNamesTheDevice();
@@ -231,6 +232,22 @@ void TestModule::advancedWritesWhatTheUserChose()
                             {QStringLiteral("KVFeedEdge"), QStringLiteral("ShortEdge")}}));
     QCOMPARE(PMTicketGetCFNumber(dialog.session.printSettingsTicket(), kBookletOrderKey),
              std::optional<std::int64_t>(fourCharCode("Kujn")));
+}
+
+// The orders have one value in the ticket.
+void TestModule::advancedShowsTheOrderThatWasChosen()
+{
+    DrivenDialog dialog(m_factory, kFullDevice);
+    QVERIFY(dialog.begin() && showAdvanced(dialog));
+    auto *order = dialog.find<PopupButton>(kPanelSignature, kBookletOrder);
+    QVERIFY(order->choose(2));
+    QCOMPARE(dialog.sync(kSyncWrite), noErr);
+    QCOMPARE(dialog.sync(kSyncRead), noErr);
+    QCOMPARE(order->value(), 2);
+
+    dialog.session.printSettings().entries.erase(kBookletOrderKey); // another ticket
+    QCOMPARE(dialog.sync(kSyncRead), noErr);
+    QCOMPARE(order->value(), 1);
 }
 
 void TestModule::advancedKeepsChoicesThatItDoesNotKnow()
