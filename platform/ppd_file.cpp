@@ -34,10 +34,34 @@ QString textFrom(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-// Opens the PPD in `bytes`. libcups reads from a descriptor only, so they are
-// put into a file in memory: what was checked is what is read.
-Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &bytes, const QString &path)
+// ISO Latin 5 is ISO 8859-9, Latin 1 with six letters of Turkish. libcups takes it
+// for ISO 8859-5, which is Cyrillic, so it is given UTF-8 instead.
+QByteArray withoutLatin5(const QByteArray &bytes)
 {
+    static constexpr QByteArrayView keyword = "*LanguageEncoding:";
+    const auto isLineEnd = [](char c) { return c == '\n' || c == '\r'; };
+    const qsizetype found = bytes.indexOf(keyword);
+    if (found <= 0 || !isLineEnd(bytes[found - 1]))
+        return bytes;
+    const qsizetype begin = found + keyword.size();
+    const auto *lineEnd = std::find_if(bytes.cbegin() + begin, bytes.cend(), isLineEnd);
+    const qsizetype end = lineEnd - bytes.cbegin();
+    if (qstricmp(bytes.mid(begin, end - begin).trimmed().constData(), "ISOLatin5") != 0)
+        return bytes;
+    static constexpr std::pair<char16_t, char16_t> letters[] = {
+        {u'\u00D0', u'\u011E'}, {u'\u00DD', u'\u0130'}, {u'\u00DE', u'\u015E'},
+        {u'\u00F0', u'\u011F'}, {u'\u00FD', u'\u0131'}, {u'\u00FE', u'\u015F'}};
+    QString text = QString::fromLatin1(bytes.sliced(end)); // what stands before is not in it
+    for (const auto &[latin1, latin5] : letters)
+        text.replace(QChar(latin1), QChar(latin5));
+    return bytes.first(begin) + " UTF-8" + text.toUtf8();
+}
+
+// Opens the PPD in `file`. libcups reads from a descriptor only, so they are
+// put into a file in memory: what was checked is what is read.
+Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &file, const QString &path)
+{
+    const QByteArray bytes = withoutLatin5(file);
     const int fd = memfd_create("ppd", MFD_CLOEXEC);
     if (fd < 0)
         return Error{Code::NotReadable, path, QString::fromUtf8(std::strerror(errno))};

@@ -26,6 +26,8 @@ private slots:
     void marksDefaultsAgain();
     void namesConflicts_data();
     void namesConflicts();
+    void readsTextsInTheirEncoding_data();
+    void readsTextsInTheirEncoding();
     void namesConflictsOfPairs();
     void knowsWhatTheEquipmentRulesOut();
     void resolvesConflicts_data();
@@ -197,6 +199,31 @@ void TestPpdFile::namesConflicts()
     for (const PpdConflict &conflict : m_ppd->conflicts(selection))
         found << conflict.options;
     QCOMPARE(found, groups);
+}
+
+void TestPpdFile::readsTextsInTheirEncoding_data()
+{
+    QTest::addColumn<QByteArray>("encoding"); // as the PPD's line says it
+    QTest::addColumn<QString>("text");        // of the bytes D0 DD DE F0 FD FE E7
+    QTest::newRow("Latin 1") << QByteArray("ISOLatin1") << u"ÐÝÞðýþç"_s;
+    QTest::newRow("Latin 2") << QByteArray("ISOLatin2") << u"ĐÝŢđýţç"_s;
+    QTest::newRow("Latin 5") << QByteArray("ISOLatin5") << u"ĞİŞğışç"_s;
+    QTest::newRow("Latin 5 with a carriage return") << QByteArray("ISOLatin5\r") << u"ĞİŞğışç"_s;
+}
+
+void TestPpdFile::readsTextsInTheirEncoding()
+{
+    QFETCH(QByteArray, encoding);
+    const QByteArray letters("\xD0\xDD\xDE\xF0\xFD\xFE\xE7");
+    const auto ppd = PpdFile::fromBytes("*PPD-Adobe: \"4.3\"\n*LanguageEncoding: " + encoding
+                                            + "\n*NickName: \"" + letters + "\"\n*OpenUI *Jog/"
+                                            + letters + ": PickOne\n*DefaultJog: None\n*Jog None/"
+                                            + letters + ": \"\"\n*CloseUI: *Jog\n",
+                                        u"letters.ppd"_s);
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    QTEST(ppd.value()->modelName(), "text");
+    QTEST(ppd.value()->findOption("Jog")->text, "text");
+    QTEST(ppd.value()->findOption("Jog")->findChoice("None")->text, "text");
 }
 
 // The older kind of rule, of two options, each way round.
