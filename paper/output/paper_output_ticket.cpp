@@ -125,6 +125,7 @@ void readJobType(_PaperOutputContext &context, PMTicketRef ticket)
     context.jobType = integer32(options, jobTypeKey).value_or(kJobTypeNormal);
     context.savedJob.name = string(options, savedJobNameKey).value_or(QString());
     context.savedJob.location = string(options, savedJobLocationKey);
+    context.savedJob.elsewhere = locationElsewhere(context.savedJob);
     context.savedJob.fileFormat = integer32(options, savedJobFormatKey).value_or(kSavedAsPdf);
     context.savedJob.saveDisposition = integer32(options, saveDispositionKey).value_or(kSaveOnly);
     context.passcode = string(options, passwordKey);
