@@ -64,14 +64,19 @@ void showBookletOrder(PopupButton *popup, std::int32_t order)
     popup->setValue(1); // as where nothing was ever chosen
 }
 
+void showRow(const AdvancedContext &advanced, const PpdRow &row)
+{
+    showChoice(advanced.bundle, advanced.controls.*row.popup, advanced.*row.value,
+               findControl<QLabel>(advanced.content, {kPanelSignature, row.hintNumber}),
+               localizedText(advanced.bundle, QString::fromLatin1(row.hintKey)));
+}
+
 // From the context to the controls.
 void showSettings(const AdvancedContext &advanced)
 {
     showBookletOrder(advanced.controls.bookletOrder, advanced.bookletOrder);
     for (const PpdRow &row : kPpdRows)
-        showChoice(advanced.bundle, advanced.controls.*row.popup, advanced.*row.value,
-                   findControl<QLabel>(advanced.content, {kPanelSignature, row.hintNumber}),
-                   localizedText(advanced.bundle, QString::fromLatin1(row.hintKey)));
+        showRow(advanced, row);
 }
 
 OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
@@ -83,8 +88,10 @@ OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
     else if (event.control == kBookletOrderPopup)
         advanced.bookletOrder = GetPopupButtonTicketValue(advanced.controls.bookletOrder);
     for (const PpdRow &row : kPpdRows) {
-        if (event.control.number == row.popupNumber)
-            advanced.*row.value = GetPopupButtonTicketValue(advanced.controls.*row.popup);
+        if (event.control.number != row.popupNumber)
+            continue;
+        advanced.*row.value = GetPopupButtonTicketValue(advanced.controls.*row.popup);
+        showRow(advanced, row);
     }
     return eventNotHandledErr;
 }

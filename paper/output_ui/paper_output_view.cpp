@@ -206,13 +206,18 @@ void showOutputColor(const PaperOutputPanelContext &panel)
                       colorModePicture(panel.colorMode));
 }
 
+void showOutputDestination(const PaperOutputPanelContext &panel)
+{
+    showChoice(panel.bundle, panel.controls.outputDestination, panel.outputBin);
+}
+
 void showPaperOutput(const PaperOutputPanelContext &panel)
 {
     if (!panel.content)
         return;
     StockIconEventHandler(panel.stockButtonData);
     showStockAndSeparators(panel);
-    showChoice(panel.bundle, panel.controls.outputDestination, panel.outputBin);
+    showOutputDestination(panel);
     showOutputColor(panel);
     showJobType(panel);
     showTwoSided(panel);

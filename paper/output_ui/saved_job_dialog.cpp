@@ -151,8 +151,7 @@ void RestoreUIValuesFromData(SavedJobContext &context)
     KComboBoxSetValue(context.mailbox, mailboxText(job));
     context.mailbox->lineEdit()->setCursorPosition(0);
     context.disposition->setValue(job.saveDisposition);
-    if (!SetPopupButtonToTicketValue(context.format, job.fileFormat))
-        context.format->setValue(0);
+    showChoice(context.bundle, context.format, job.fileFormat);
     const QString passcode = context.data.passcode.value_or(QString());
     context.secure->setChecked(!passcode.isEmpty());
     setPasscode(context.fields, passcode);

@@ -53,6 +53,10 @@ void showOption(const SeparatorsDialog &dialog)
 {
     const std::int32_t separators = dialog.separators();
     const bool hasSeparators = separators != kSeparatorsNone;
+    for (PopupButton *popup : {dialog.option, dialog.source}) {
+        if (popup->value() > 0) // what the job had, and is not offered here, is said no more
+            showChoice(dialog.bundle, popup, popup->chosenReference());
+    }
     setEnabledWithLabel(dialog.source, hasSeparators && dialog.source->count() > 0);
     setEnabledWithLabel(dialog.color, hasSeparators && dialog.color->count() > 0);
     if (auto *hint = findControl<QLabel>(dialog.window.get(), kColorHint))
@@ -64,7 +68,8 @@ void showOption(const SeparatorsDialog &dialog)
 
 OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &event)
 {
-    if (event.kind == EventKind::ControlHit && event.control == kColor) {
+    if (event.kind == EventKind::ControlHit
+        && (event.control == kColor || event.control == kSource)) {
         showOption(dialog);
         return noErr;
     }

@@ -260,12 +260,18 @@ void TestModule::advancedKeepsChoicesThatItDoesNotKnow()
     DrivenDialog dialog(m_factory, kFullDevice);
     PPDDictionary &choices = dialog.session.printSettings().ppdChoices;
     choices[QStringLiteral("Jog")] = QStringLiteral("EveryPage");
-    QVERIFY(dialog.begin());
+    QVERIFY(dialog.begin() && showAdvanced(dialog));
 
     QCOMPARE(dialog.sync(kSyncWrite), noErr);
 
     QCOMPARE(choices.value(QStringLiteral("Jog")), QStringLiteral("EveryPage"));
     QCOMPARE(choices.value(QStringLiteral("JCLBanner")), QStringLiteral("False"));
+
+    // The panel says so until the user chooses another.
+    const auto *hint = dialog.find<QLabel>(kPanelSignature, 6161);
+    QVERIFY(hint->text().contains(QLatin1String("keeps it")));
+    QVERIFY(dialog.find<PopupButton>(kPanelSignature, kOffset)->choose(1));
+    QVERIFY(hint->text().contains(QLatin1String("Shifts each")));
 }
 
 void TestModule::advancedDisablesWhatTheDeviceLacks()
