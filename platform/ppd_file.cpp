@@ -4,6 +4,7 @@
 #include "size_limits.h"
 
 #include <QHash>
+#include <QSet>
 
 // The PPD calls are deprecated in favour of IPP, which knows neither vendor
 // options nor their constraints.
@@ -33,10 +34,34 @@ QString textFrom(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-// Opens the PPD in `bytes`. libcups reads from a descriptor only, so they are
-// put into a file in memory: what was checked is what is read.
-Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &bytes, const QString &path)
+// ISO Latin 5 is ISO 8859-9, Latin 1 with six letters of Turkish. libcups takes it
+// for ISO 8859-5, which is Cyrillic, so it is given UTF-8 instead.
+QByteArray withoutLatin5(const QByteArray &bytes)
 {
+    static constexpr QByteArrayView keyword = "*LanguageEncoding:";
+    const auto isLineEnd = [](char c) { return c == '\n' || c == '\r'; };
+    const qsizetype found = bytes.indexOf(keyword);
+    if (found <= 0 || !isLineEnd(bytes[found - 1]))
+        return bytes;
+    const qsizetype begin = found + keyword.size();
+    const auto *lineEnd = std::find_if(bytes.cbegin() + begin, bytes.cend(), isLineEnd);
+    const qsizetype end = lineEnd - bytes.cbegin();
+    if (qstricmp(bytes.mid(begin, end - begin).trimmed().constData(), "ISOLatin5") != 0)
+        return bytes;
+    static constexpr std::pair<char16_t, char16_t> letters[] = {
+        {u'\u00D0', u'\u011E'}, {u'\u00DD', u'\u0130'}, {u'\u00DE', u'\u015E'},
+        {u'\u00F0', u'\u011F'}, {u'\u00FD', u'\u0131'}, {u'\u00FE', u'\u015F'}};
+    QString text = QString::fromLatin1(bytes.sliced(end)); // what stands before is not in it
+    for (const auto &[latin1, latin5] : letters)
+        text.replace(QChar(latin1), QChar(latin5));
+    return bytes.first(begin) + " UTF-8" + text.toUtf8();
+}
+
+// Opens the PPD in `file`. libcups reads from a descriptor only, so they are
+// put into a file in memory: what was checked is what is read.
+Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &file, const QString &path)
+{
+    const QByteArray bytes = withoutLatin5(file);
     const int fd = memfd_create("ppd", MFD_CLOEXEC);
     if (fd < 0)
         return Error{Code::NotReadable, path, QString::fromUtf8(std::strerror(errno))};
@@ -294,6 +319,13 @@ std::vector<Constraint> constraintsOf(ppd_file_t *ppd)
     return constraints;
 }
 
+// Whether a part of a rule holds where its option is at `choice`.
+bool holdsAt(const Term &term, const char *choice)
+{
+    return term.choice ? qstricmp(choice, term.choice) == 0
+                       : !isAny(choice, {"None", "Off", "False"});
+}
+
 // Whether a part of a rule holds for the marks.
 bool holds(ppd_file_t *ppd, const Term &term)
 {
@@ -303,12 +335,30 @@ bool holds(ppd_file_t *ppd, const Term &term)
     }
     for (int i = 0; i < term.option->num_choices; ++i) {
         const ppd_choice_t &choice = term.option->choices[i];
-        if (choice.marked
-            && (term.choice ? qstricmp(choice.choice, term.choice) == 0
-                            : !isAny(choice.choice, {"None", "Off", "False"})))
+        if (choice.marked && holdsAt(term, choice.choice))
             return true;
     }
     return false;
+}
+
+// What the fitted equipment forbids: the one part left of each rule whose other
+// parts are installable options that stand as it says.
+std::vector<Term> ruledOutByEquipment(ppd_file_t *ppd)
+{
+    QSet<const ppd_option_t *> equipment;
+    for (int i = 0; i < ppd->num_groups; ++i) {
+        if (isInstallable({textFrom(ppd->groups[i].name), {}, {}}))
+            walk(ppd->groups[i], [&](const ppd_option_t &option) { equipment.insert(&option); });
+    }
+    std::vector<Term> ruledOut;
+    for (Constraint &rule : constraintsOf(ppd)) {
+        const auto met = std::erase_if(rule, [&](const Term &term) {
+            return equipment.contains(term.option) && holdsAt(term, term.option->defchoice);
+        });
+        if (met > 0 && rule.size() == 1 && !equipment.contains(rule.front().option))
+            ruledOut.push_back(rule.front());
+    }
+    return ruledOut;
 }
 
 // A list of options that libcups made.
@@ -340,6 +390,7 @@ struct PpdFile::Private
     std::vector<PpdGroup> groups;
     QHash<const ppd_option_t *, const PpdOption *> options; // into groups
     std::vector<PpdPageSize> pageSizes;
+    std::optional<std::vector<Term>> ruledOut; // by the equipment; once asked for
 
     // Null only when memory ran out: the same bytes were opened before.
     ppd_file_t *constraintMarks()
@@ -364,6 +415,13 @@ const PpdChoice *PpdOption::findChoice(const QString &wanted) const
     const auto found = std::find_if(choices.begin(), choices.end(),
                                     [&](const PpdChoice &c) { return c.keyword == wanted; });
     return found == choices.end() ? nullptr : &*found;
+}
+
+bool isInstallable(const PpdGroup &group)
+{
+    // Both spellings are in the field.
+    return group.name.compare(QLatin1String("InstallableOptions"), Qt::CaseInsensitive) == 0
+        || group.name.compare(QLatin1String("Installable"), Qt::CaseInsensitive) == 0;
 }
 
 PpdFile::PpdFile()
@@ -473,6 +531,17 @@ const std::vector<PpdGroup> &PpdFile::groups() const
 const PpdOption *PpdFile::findOption(const QString &keyword) const
 {
     return d->options.value(ppdFindOption(d->ppd.get(), keyword.toUtf8().constData()));
+}
+
+bool PpdFile::isRuledOutByEquipment(const QString &option, const QString &choice) const
+{
+    if (!d->ruledOut)
+        d->ruledOut = ruledOutByEquipment(d->ppd.get());
+    const ppd_option_t *found = ppdFindOption(d->ppd.get(), option.toUtf8().constData());
+    const QByteArray keyword = choice.toUtf8();
+    return std::ranges::any_of(*d->ruledOut, [&](const Term &term) {
+        return term.option == found && holdsAt(term, keyword.constData());
+    });
 }
 
 const std::vector<PpdPageSize> &PpdFile::pageSizes() const

@@ -39,6 +39,8 @@ struct PpdGroup
     QString text;
     std::vector<PpdOption> options; // subgroups included
 };
+// The group of what is fitted to the printer, not of what a job sets.
+bool isInstallable(const PpdGroup &group);
 
 // Lengths in points.
 struct PpdPageSize
@@ -83,6 +85,9 @@ public:
 
     const std::vector<PpdGroup> &groups() const;
     const PpdOption *findOption(const QString &keyword) const; // ppdFindOption; null when missing
+    // Whether a rule of the PPD forbids this choice with what is fitted to the
+    // printer (the defaults of its installable options) and nothing else.
+    bool isRuledOutByEquipment(const QString &option, const QString &choice) const;
 
     const std::vector<PpdPageSize> &pageSizes() const;
     const PpdPageSize *findPageSize(const QString &name) const;

@@ -38,12 +38,16 @@ struct PpdRow
     QPointer<PopupButton> AdvancedControls::*popup;
     std::int32_t popupNumber; // KPDE
     std::int32_t hintNumber;  // KPDE, the text below the pop-up
+    const char *hintKey;
 };
 
 const std::array kPpdRows = {
-    PpdRow{"JCLBanner", &AdvancedContext::banner, &AdvancedControls::banner, 614, 6141},
-    PpdRow{"Jog", &AdvancedContext::offset, &AdvancedControls::offset, 616, 6161},
-    PpdRow{"KVFeedEdge", &AdvancedContext::feedEdge, &AdvancedControls::feedEdge, 702, 7021},
+    PpdRow{"JCLBanner", &AdvancedContext::banner, &AdvancedControls::banner, 614, 6141,
+           "Banner Sheet Hint"},
+    PpdRow{"Jog", &AdvancedContext::offset, &AdvancedControls::offset, 616, 6161,
+           "Request Offset Hint"},
+    PpdRow{"KVFeedEdge", &AdvancedContext::feedEdge, &AdvancedControls::feedEdge, 702, 7021,
+           "Bypass Feed Edge Hint"},
 };
 
 AdvancedContext *advancedOf(PMPDEContext context)
@@ -51,12 +55,28 @@ AdvancedContext *advancedOf(PMPDEContext context)
     return reinterpret_cast<AdvancedContext *>(context);
 }
 
+// The orders of the map have one value: which of them was chosen cannot be read from
+// the ticket, and is still shown while the ticket has that value.
+void showBookletOrder(PopupButton *popup, std::int32_t order)
+{
+    if (!popup || popup->chosenReference() == order || SetPopupButtonToTicketValue(popup, order))
+        return;
+    popup->setValue(1); // as where nothing was ever chosen
+}
+
+void showRow(const AdvancedContext &advanced, const PpdRow &row)
+{
+    showChoice(advanced.bundle, advanced.controls.*row.popup, advanced.*row.value,
+               findControl<QLabel>(advanced.content, {kPanelSignature, row.hintNumber}),
+               localizedText(advanced.bundle, QString::fromLatin1(row.hintKey)));
+}
+
 // From the context to the controls.
 void showSettings(const AdvancedContext &advanced)
 {
-    SetPopupButtonToTicketValue(advanced.controls.bookletOrder, advanced.bookletOrder);
+    showBookletOrder(advanced.controls.bookletOrder, advanced.bookletOrder);
     for (const PpdRow &row : kPpdRows)
-        SetPopupButtonToTicketValue(advanced.controls.*row.popup, advanced.*row.value);
+        showRow(advanced, row);
 }
 
 OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
@@ -68,8 +88,10 @@ OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
     else if (event.control == kBookletOrderPopup)
         advanced.bookletOrder = GetPopupButtonTicketValue(advanced.controls.bookletOrder);
     for (const PpdRow &row : kPpdRows) {
-        if (event.control.number == row.popupNumber)
-            advanced.*row.value = GetPopupButtonTicketValue(advanced.controls.*row.popup);
+        if (event.control.number != row.popupNumber)
+            continue;
+        advanced.*row.value = GetPopupButtonTicketValue(advanced.controls.*row.popup);
+        showRow(advanced, row);
     }
     return eventNotHandledErr;
 }
@@ -90,27 +112,17 @@ void arrangeRows(const AdvancedControls &controls, const QWidget *content)
         makeHintText(findControl<QLabel>(content, {kPanelSignature, hint}));
 }
 
-void fillPopups(AdvancedContext &advanced, const QWidget *content)
+void fillPopups(AdvancedContext &advanced)
 {
     AdvancedControls &controls = advanced.controls;
-    controls.bookletOrder = findControl<PopupButton>(content, kBookletOrderPopup);
+    controls.bookletOrder = findControl<PopupButton>(advanced.content, kBookletOrderPopup);
     PopulatePopupButtonFromMap(advanced.bundle, controls.bookletOrder, BookletLayoutOrderMap,
                                kJobContextJob, kNoCommand);
     for (const PpdRow &row : kPpdRows) {
-        PopupButton *popup = findControl<PopupButton>(content, {kPanelSignature, row.popupNumber});
+        PopupButton *popup =
+            findControl<PopupButton>(advanced.content, {kPanelSignature, row.popupNumber});
         controls.*row.popup = popup;
-        if (!popup)
-            continue;
-        const QString option = QString::fromLatin1(row.option);
-        if (PPDPopulatePopupWithChoices(popup, advanced.ppd, option, true) > 0)
-            continue;
-        // Left in its place, so that users of several devices find it there.
-        setEnabledWithLabel(popup, false);
-        const bool isMissing = !advanced.ppd || !advanced.ppd->findOption(option);
-        if (auto *hint = findControl<QLabel>(content, {kPanelSignature, row.hintNumber}))
-            hint->setText(localizedText(advanced.bundle,
-                                        isMissing ? QStringLiteral("Not on This Device")
-                                                  : QStringLiteral("All Choices in Conflict")));
+        fillWithOfferedChoices(popup, advanced.ppd, QString::fromLatin1(row.option));
     }
 }
 
@@ -120,7 +132,8 @@ void buildContent(AdvancedContext &advanced)
                                           QStringLiteral("Advanced"));
     if (!content)
         return;
-    fillPopups(advanced, content);
+    advanced.content = content;
+    fillPopups(advanced);
     arrangeRows(advanced.controls, content);
     EmbedAndShowControl(content, advanced.parentUserPane);
     advanced.handler = installEventHandler(

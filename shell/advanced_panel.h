@@ -35,6 +35,7 @@ struct AdvancedContext
     CFBundleRef bundle = nullptr;
     QPointer<QWidget> parentUserPane;
     QString title;
+    QPointer<QWidget> content; // the panel's own views, once they are built
     AdvancedControls controls;
     std::int32_t bookletOrder = 2; // where the ticket says nothing
     std::int32_t banner = kNoPpdChoice;

@@ -228,8 +228,10 @@ Done chooseText(QComboBox *box, const ItemName &name)
 
 QString textOfControl(const QWidget *control)
 {
-    if (const auto *popup = qobject_cast<const QComboBox *>(control))
-        return popup->currentText();
+    if (const auto *popup = qobject_cast<const PopupButton *>(control))
+        return popup->shownText();
+    if (const auto *box = qobject_cast<const QComboBox *>(control))
+        return box->currentText();
     if (const auto *button = qobject_cast<const QAbstractButton *>(control))
         return QString(button->text()).remove(u'&');
     if (const auto *label = qobject_cast<const QLabel *>(control))

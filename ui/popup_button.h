@@ -31,6 +31,10 @@ public:
     // The first item with that reference; false, and unchanged, when there is none.
     bool setValueByReference(std::int32_t reference);
 
+    // The shown item's text; where none is shown, the place holder's, which the
+    // button then has in its place.
+    QString shownText() const;
+
     // May differ from the item count.
     int maximum() const { return m_maximum; }
     void setMaximum(int maximum) { m_maximum = maximum; }

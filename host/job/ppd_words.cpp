@@ -72,11 +72,4 @@ bool isEquipment(const PpdOption &option, const PpdFile &ppd)
     });
 }
 
-bool isInstallable(const PpdGroup &group)
-{
-    // Both spellings are in the field.
-    return group.name.compare(QLatin1String("InstallableOptions"), Qt::CaseInsensitive) == 0
-        || group.name.compare(QLatin1String("Installable"), Qt::CaseInsensitive) == 0;
-}
-
 } // namespace kelvo

@@ -29,7 +29,6 @@ bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice);
 bool readsTickets(const PpdFile *ppd);
 
 // Equipment that the queue's administrator describes; jobs do not change it.
-bool isInstallable(const PpdGroup &group);
 bool isEquipment(const PpdOption &option, const PpdFile &ppd);
 
 } // namespace kelvo

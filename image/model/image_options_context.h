@@ -24,7 +24,10 @@ struct ImageOptionsContext
     bool opened = false;    // Open was called
 
     std::int32_t lightenDarken = 0; // -5 to 5; kUnset: the printer's default
-    // The ticket's choice for it, which stays while the printer's default is chosen.
+    // The choice that the panel wrote for it last; it is taken back where the printer's
+    // default is chosen and the ticket still has it.
+    std::optional<QString> writtenLightness;
+    // Any other choice of the ticket, which stays.
     std::optional<QString> keptLightness;
     std::int32_t imageQuality = 0;          // "KVOutputMode"
     std::int32_t tonerSaver = 0;            // "KVEconomode"; -1 for a choice of its own

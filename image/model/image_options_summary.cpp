@@ -1,6 +1,7 @@
 #include "image_options_summary.h"
 
 #include "lighten_darken.h"
+#include "offered_choices.h"
 #include "ppd_choices.h"
 #include "string_table.h"
 #include "ticket_values.h"
@@ -10,11 +11,6 @@ namespace kelvo {
 namespace {
 
 const QString lightnessOption = QStringLiteral("KVImageQuality");
-
-bool isOffered(const ImageOptionsContext &context, const QString &option, std::int32_t value)
-{
-    return PPDCopyTextForTicketValue(context.ppd, option, value).has_value();
-}
 
 // A choice of the PPD's own is called as the PPD does.
 QString choiceText(const ImageOptionsContext &context, const QString &choice)
@@ -38,7 +34,7 @@ QString lightenDarkenWords(const ImageOptionsContext &context)
     if (!context.ppd || !context.ppd->findOption(lightnessOption))
         return localizedText(bundle, QStringLiteral("Not on This Device"));
     if (context.lightenDarken != kUnset)
-        return isOffered(context, lightnessOption, context.lightenDarken)
+        return isOffered(context.ppd, lightnessOption, context.lightenDarken)
             ? lightenDarkenText(bundle, context.lightenDarken)
             : localizedText(bundle, QStringLiteral("Choice Not Offered"));
     // The printer's default is a choice like others, and a job that has one keeps it.
@@ -57,7 +53,7 @@ bool isTonerSaverOffered(const ImageOptionsContext &context)
     if (!context.ppd || !context.ppd->findOption(option))
         return false;
     // 0: neither the ticket nor the PPD has a choice.
-    return context.tonerSaver == 0 || isOffered(context, option, context.tonerSaver);
+    return context.tonerSaver == 0 || isOffered(context.ppd, option, context.tonerSaver);
 }
 
 std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsContext &context)

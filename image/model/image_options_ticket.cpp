@@ -15,13 +15,25 @@ struct Setting
     const char *option;
     std::int32_t ImageOptionsContext::*value;
 };
-constexpr Setting lightenDarken[] = {{"KVImageQuality", &ImageOptionsContext::lightenDarken}};
+const QString lightnessOption = QStringLiteral("KVImageQuality");
 constexpr Setting tonerSaver[] = {{"KVEconomode", &ImageOptionsContext::tonerSaver}};
 constexpr Setting qualityAndColor[] = {
     {"KVOutputMode", &ImageOptionsContext::imageQuality},
     {"KVCMYKColorSpace", &ImageOptionsContext::cmykSourceColor},
     {"KVColorCorrection", &ImageOptionsContext::outputColorCorrection},
 };
+
+bool isWritten(const ImageOptionsContext &context, const QString &option)
+{
+    return !context.ppd || context.ppd->findOption(option);
+}
+
+// What of the ticket's lightness is not the panel's own.
+std::optional<QString> keptLightness(const ImageOptionsContext &context, PMTicketRef ticket)
+{
+    const auto choice = PPDCopyCurrentChoice(ticket, lightnessOption);
+    return choice == context.writtenLightness ? std::nullopt : choice;
+}
 
 OSStatus readSettings(ImageOptionsContext *context, PMTicketRef ticket,
                       std::span<const Setting> settings)
@@ -41,7 +53,7 @@ OSStatus writeSettings(const ImageOptionsContext *context, PMTicketRef ticket,
         return kPMInvalidParameter;
     for (const Setting &setting : settings) {
         const QString option = QString::fromLatin1(setting.option);
-        if (!context->ppd || context->ppd->findOption(option))
+        if (isWritten(*context, option))
             PPDSetCurrentChoice(ticket, option,
                                 PPDChoiceForTicketValue(option, context->*setting.value));
     }
@@ -54,10 +66,12 @@ OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket)
 {
     if (!context || !ticket)
         return kPMInvalidParameter;
-    const QString option = QString::fromLatin1(lightenDarken->option);
-    context->keptLightness = PPDCopyCurrentChoice(ticket, option);
-    const auto choice = context->keptLightness ? context->keptLightness
-                                               : PPDCopyDefaultChoice(context->ppd, option);
+    context->keptLightness = keptLightness(*context, ticket);
+    auto choice = PPDCopyCurrentChoice(ticket, lightnessOption);
+    if (!choice && context->lightenDarken == kUnset)
+        return noErr; // a ticket without a choice is what was chosen
+    if (!choice)
+        choice = PPDCopyDefaultChoice(context->ppd, lightnessOption);
     if (choice)
         context->lightenDarken = lightenDarkenStep(*choice);
     return noErr;
@@ -67,11 +81,18 @@ OSStatus SyncLightenDarkenToTicket(ImageOptionsContext *context, PMTicketRef tic
 {
     if (!context || !ticket)
         return kPMInvalidParameter;
-    if (!context->opened)
+    if (!context->opened || !isWritten(*context, lightnessOption))
         return noErr;
-    writeSettings(context, ticket, lightenDarken);
-    context->keptLightness =
-        PPDCopyCurrentChoice(ticket, QString::fromLatin1(lightenDarken->option));
+    if (context->lightenDarken == kUnset) {
+        if (PPDCopyCurrentChoice(ticket, lightnessOption) == context->writtenLightness)
+            PPDRemoveCurrentChoice(ticket, lightnessOption);
+        context->writtenLightness.reset();
+    } else {
+        context->writtenLightness =
+            PPDChoiceForTicketValue(lightnessOption, context->lightenDarken);
+        PPDSetCurrentChoice(ticket, lightnessOption, context->writtenLightness);
+    }
+    context->keptLightness = keptLightness(*context, ticket);
     return noErr;
 }
 

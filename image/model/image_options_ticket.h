@@ -21,9 +21,11 @@
 // All give noErr, or kPMInvalidParameter for a null context or no ticket.
 namespace kelvo {
 
-// A choice that no step stands for is read as the printer's default.
+// A choice that no step stands for is read as the printer's default, and so is no
+// choice where that was chosen.
 OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket);
-// Nothing is written before the panel was opened.
+// Nothing is written before the panel was opened. The printer's default takes the
+// choice back that the panel itself wrote; any other stays.
 OSStatus SyncLightenDarkenToTicket(ImageOptionsContext *context, PMTicketRef ticket);
 
 OSStatus SyncTonerSaverToUI(ImageOptionsContext *context, PMTicketRef ticket);

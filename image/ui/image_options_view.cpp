@@ -71,15 +71,6 @@ void findControls(ImageOptionsPanelContext &panel)
     };
 }
 
-// Left in its place, so that users of several devices find it there.
-void disableMissing(const ImageOptionsPanelContext &panel, QWidget *control,
-                    std::int32_t hintNumber)
-{
-    setEnabledWithLabel(control, false);
-    if (auto *hint = findControl<QLabel>(panel.content, panelID(hintNumber)))
-        hint->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
-}
-
 void setUpLightenDarken(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
@@ -121,17 +112,11 @@ void showLightenDarken(const ImageOptionsPanelContext &panel)
         controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
 }
 
-// Nothing where the ticket has a choice that the device does not offer.
 void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
 {
-    PopupButton *popup = panel.controls.*row.popup;
-    if (!popup || !hasOption(panel, row.option))
-        return;
-    showTicketValue(popup, panel.*row.value);
-    if (auto *hint = findControl<QLabel>(panel.content, panelID(row.hintNumber)))
-        hint->setText(localizedText(panel.bundle,
-                                    popup->value() > 0 ? QString::fromLatin1(row.hintKey)
-                                                       : QStringLiteral("Choice Not Offered")));
+    showChoice(panel.bundle, panel.controls.*row.popup, panel.*row.value,
+               findControl<QLabel>(panel.content, panelID(row.hintNumber)),
+               localizedText(panel.bundle, QString::fromLatin1(row.hintKey)));
 }
 
 void showTonerSaver(const ImageOptionsPanelContext &panel)
@@ -177,16 +162,16 @@ void fillImageOptionsControls(ImageOptionsPanelContext &panel)
     setUpLightenDarken(panel);
     for (const PpdRow &row : ppdRows) {
         PopupButton *popup = panel.controls.*row.popup;
-        if (!popup)
-            continue;
-        const bool isOnDevice = hasOption(panel, row.option);
-        if (isOnDevice)
-            PPDPopulatePopupWithChoices(popup, panel.ppd, QString::fromLatin1(row.option), false);
-        else
-            disableMissing(panel, popup, row.hintNumber);
+        if (hasOption(panel, row.option))
+            fillWithOfferedChoices(popup, panel.ppd, QString::fromLatin1(row.option));
+        else if (popup)
+            setEnabledWithLabel(popup, false);
     }
-    if (!hasOption(panel, "KVEconomode"))
-        disableMissing(panel, panel.controls.tonerSaver, tonerSaverHint);
+    if (!hasOption(panel, "KVEconomode") && panel.controls.tonerSaver) {
+        setEnabledWithLabel(panel.controls.tonerSaver, false);
+        if (auto *hint = findControl<QLabel>(panel.content, panelID(tonerSaverHint)))
+            hint->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
+    }
     for (const std::int32_t number :
          {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105})
         makeHintText(findControl<QLabel>(panel.content, panelID(number)));

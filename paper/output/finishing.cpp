@@ -86,7 +86,7 @@ bool isChecked(const MenuItem &item, const _PaperOutputContext &context)
         return finishing.punch == item.reference;
     case kCommandNoStaple:
         return finishing.singleStaple == kStapleNone && finishing.dualStaple == kStapleNone
-            && finishing.otherStaple == kStapleNone;
+            && finishing.otherStaple == kStapleNone && !finishing.hasUnknownStaple;
     case kCommandSingleStaple:
         return finishing.singleStaple == item.reference;
     case kCommandDualStaple:
@@ -256,6 +256,7 @@ void setStaple(Finishing &finishing, std::int32_t value)
     finishing.singleStaple = kStapleNone;
     finishing.dualStaple = kStapleNone;
     finishing.otherStaple = kStapleNone;
+    finishing.hasUnknownStaple = false;
     if (value >= 5 && value <= 8)
         finishing.singleStaple = value;
     else if (value >= 10 && value <= 13)

@@ -65,6 +65,8 @@ struct Finishing
     std::int32_t singleStaple = kStapleNone;
     std::int32_t dualStaple = kStapleNone;
     std::int32_t otherStaple = kStapleNone;
+    // The job has a choice that is none of these; it stays until a staple is chosen.
+    bool hasUnknownStaple = false;
     std::int32_t offset = 1;
     std::int32_t offsetSubsetEnabled = 0;
     std::int32_t pagesPerSubset = 1;

@@ -1,9 +1,9 @@
 #include "finishing_choices.h"
 
 #include "installed_features.h"
+#include "offered_choices.h"
 #include "paper_output_context.h"
 #include "paper_output_pictures.h"
-#include "ppd_choices.h"
 
 #include <algorithm>
 
@@ -95,7 +95,7 @@ std::int32_t currentValue(Setting setting, const Finishing &finishing)
 bool isInPpd(Setting setting, std::int32_t value, const PpdFile *ppd)
 {
     const auto hasChoice = [value, ppd](const QString &option) {
-        return PPDCopyTextForTicketValue(ppd, option, value).has_value();
+        return isOffered(ppd, option, value);
     };
     switch (setting) {
     case Setting::Staple:

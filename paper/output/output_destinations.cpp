@@ -1,7 +1,8 @@
 #include "output_destinations.h"
 
 #include "installed_features.h"
-#include "ppd_choices.h"
+#include "offered_choices.h"
+#include "ppd_file.h"
 #include "setting_map.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ void PopulateOutputDestination(Menu &menu, PpdFile *ppd)
     const QString option = QStringLiteral("OutputBin");
     if (!ppd || !ppd->findOption(option))
         return;
-    PPDPopulateMenuWithChoices(menu, ppd, option, kNoCommand, false);
+    PopulateMenuWithOfferedChoices(menu, ppd, option, kNoCommand);
     std::erase_if(menu.items, [](const MenuItem &item) { return !isInstalled(item); });
 }
 

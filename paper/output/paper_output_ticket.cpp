@@ -65,8 +65,7 @@ void setChoice(PMTicketRef ticket, const char *option, const std::optional<QStri
 
 void removeChoice(PMTicketRef ticket, const char *option)
 {
-    if (PPDDictionary *choices = PMTicketGetPPDDict(ticket))
-        choices->remove(QString::fromLatin1(option));
+    PPDRemoveCurrentChoice(ticket, QString::fromLatin1(option));
 }
 
 // A value without a choice (the printer's default, a colour of the user's) takes an
@@ -89,6 +88,30 @@ void setOrRemove(Dictionary &dictionary, const QString &key, bool isSet, const Q
         dictionary.remove(key);
 }
 
+// What only a stock can say: a color or a type that no PPD has a choice for.
+bool hasOwnColor(const Stock &stock)
+{
+    return stock.color() == kStockColorCustom;
+}
+bool hasOwnType(const Stock &stock)
+{
+    return stock.type() == kStockTypePrecutTab || stock.type() == kStockTypeOrdered
+        || stock.type() == kStockTypeCustom;
+}
+
+// The ticket's choices rule, and where it has none, the PPD's defaults; but no choice
+// is also what is written for a color or type of the stock's own.
+void readColorAndType(Stock &stock, PMTicketRef ticket, const PpdFile *ppd)
+{
+    const auto hasChoice = [ticket](const char *option) {
+        return PPDCopyCurrentChoice(ticket, QString::fromLatin1(option)).has_value();
+    };
+    if (hasChoice("MediaColor") || !hasOwnColor(stock))
+        stock.setColor(choiceValue(ppd, ticket, "MediaColor", kUnset));
+    if (hasChoice("MediaType") || !hasOwnType(stock))
+        stock.setType(choiceValue(ppd, ticket, "MediaType", kUnset));
+}
+
 void readJobType(_PaperOutputContext &context, PMTicketRef ticket)
 {
     context.jobTypeOptions = PMTicketGetCFDictionary(ticket, ticketKey("JobType"))
@@ -102,6 +125,7 @@ void readJobType(_PaperOutputContext &context, PMTicketRef ticket)
     context.jobType = integer32(options, jobTypeKey).value_or(kJobTypeNormal);
     context.savedJob.name = string(options, savedJobNameKey).value_or(QString());
     context.savedJob.location = string(options, savedJobLocationKey);
+    context.savedJob.elsewhere = locationElsewhere(context.savedJob);
     context.savedJob.fileFormat = integer32(options, savedJobFormatKey).value_or(kSavedAsPdf);
     context.savedJob.saveDisposition = integer32(options, saveDispositionKey).value_or(kSaveOnly);
     context.passcode = string(options, passwordKey);
@@ -206,24 +230,14 @@ void readFinishing(Finishing &finishing, PMTicketRef ticket, const PpdFile *ppd)
     finishing.punch = readPunch(ticket, ppd);
     finishing.punchKind = finishing.punch > kPunchNone ? kPunchKindPunched : kPunchKindNone;
 
-    std::int32_t staple = choiceValue(ppd, ticket, "StapleLocation", kStapleNone);
-    if (staple == kNoPpdChoice) {
-        const QString choice = currentChoice(ppd, ticket, "StapleLocation");
-        staple = stapleOfChoice(choice).value_or(kStapleNone);
-    }
-    setStaple(finishing, staple);
+    std::optional<std::int32_t> staple = choiceValue(ppd, ticket, "StapleLocation", kStapleNone);
+    if (staple == kNoPpdChoice)
+        staple = stapleOfChoice(currentChoice(ppd, ticket, "StapleLocation"));
+    setStaple(finishing, staple.value_or(kStapleNone));
+    finishing.hasUnknownStaple = !staple;
 
     finishing.custom =
         PMTicketGetCFString(ticket, ticketKey("FinishingCustom")).value_or(QStringLiteral(""));
-}
-
-// A choice that this panel cannot show. It stays until the user chooses a staple.
-bool isUnknownStaple(PMTicketRef ticket)
-{
-    const QString option = QStringLiteral("StapleLocation");
-    const auto choice = PPDCopyCurrentChoice(ticket, option);
-    return choice && PPDTicketValueForChoice(option, *choice) == kNoPpdChoice
-        && !stapleOfChoice(*choice);
 }
 
 // Two, three and four holes alone are written. Where it is another punch, a choice
@@ -250,7 +264,7 @@ void writeFinishing(const _PaperOutputContext &context, PMTicketRef ticket)
     setNumber(ticket, "FinishingSlipSheet", finishing.slipSheet);
     setChoiceValue(ticket, "KVFold", finishing.fold);
     writePunch(context, ticket);
-    if (!isUnknownStaple(ticket) || chosenStaple(finishing) != kStapleNone)
+    if (!finishing.hasUnknownStaple)
         setChoice(ticket, "StapleLocation",
                   stapleChoice(chosenStaple(finishing), context.orientation));
     setNumber(ticket, "FinishingBindValue", finishing.bind);
@@ -282,8 +296,7 @@ void readPaperOutput(_PaperOutputContext &context, PMTicketRef settings, PMTicke
         context.jobStock = Stock();
         DefaultStock(&context.jobStock, kJobContextJob);
     }
-    context.jobStock.setColor(choiceValue(ppd, settings, "MediaColor", kUnset));
-    context.jobStock.setType(choiceValue(ppd, settings, "MediaType", kUnset));
+    readColorAndType(context.jobStock, settings, ppd);
     context.outputBin = choiceValue(ppd, settings, "OutputBin", 1);
     context.colorMode = choiceValue(ppd, settings, "KVColorMode", kNoPpdChoice);
     SyncSeparatorsFromTicket(settings, &context.separators, &context.separatorStock);

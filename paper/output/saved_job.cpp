@@ -30,6 +30,12 @@ QString withoutLeadingZeros(const QString &digits)
     return digits.mid(zeros);
 }
 
+bool meansElsewhere(const QString &text, const SavedJob &job)
+{
+    const std::optional<QString> elsewhere = locationElsewhere(job);
+    return elsewhere && text == nameOfLocation(*elsewhere);
+}
+
 } // namespace
 
 // clang-format off
@@ -61,16 +67,32 @@ std::optional<QString> locationOfMailbox(const QString &number)
     return kDefaultJobFolder + withoutLeadingZeros(number);
 }
 
-bool isMailboxAllowed(const QString &number)
+std::optional<QString> locationElsewhere(const SavedJob &job)
 {
-    return number.isEmpty() || mailboxNumber(number);
+    return job.location && !mailboxOf(job.location) ? job.location : job.elsewhere;
 }
 
-std::optional<QString> locationAfter(const QString &number, const std::optional<QString> &location)
+QString nameOfLocation(const QString &location)
 {
-    if (number.isEmpty() && !mailboxOf(location))
-        return location;
-    return locationOfMailbox(number);
+    constexpr int longest = 200; // characters, of a text that a ticket brings
+    return location.simplified().left(longest);
+}
+
+QString mailboxText(const SavedJob &job)
+{
+    if (const std::optional<int> mailbox = mailboxOf(job.location))
+        return QString::number(*mailbox);
+    return job.location ? nameOfLocation(*job.location) : QStringLiteral("");
+}
+
+bool isMailboxAllowed(const QString &text, const SavedJob &job)
+{
+    return text.isEmpty() || mailboxNumber(text) || meansElsewhere(text, job);
+}
+
+std::optional<QString> locationOfText(const QString &text, const SavedJob &job)
+{
+    return meansElsewhere(text, job) ? locationElsewhere(job) : locationOfMailbox(text);
 }
 
 void setSavedJobName(SavedJob &job, bool usesJobName, const QString &name)

@@ -37,6 +37,8 @@ struct SavedJob
     std::optional<QString> location; // a mailbox's folder; none: not chosen
     std::int32_t saveDisposition = kSaveOnly;
     std::int32_t fileFormat = kSavedAsPdf;
+    // A location that is no mailbox, which a ticket had; it can be chosen again.
+    std::optional<QString> elsewhere;
 
     friend bool operator==(const SavedJob &, const SavedJob &) = default;
 };
@@ -45,12 +47,18 @@ struct SavedJob
 std::optional<int> mailboxOf(const std::optional<QString> &location);
 // The location of mailbox `number`, as typed: decimal digits. None for an empty text.
 std::optional<QString> locationOfMailbox(const QString &number);
-// Whether `number`, as typed, may stand: one of the device's mailboxes, or nothing.
-// There is no mailbox 0.
-bool isMailboxAllowed(const QString &number);
-// The location after the user has left `number` in the mailbox field. A location
-// that is no mailbox shows as an empty field, and stays as long as that is empty.
-std::optional<QString> locationAfter(const QString &number, const std::optional<QString> &location);
+// The job's location where that is no mailbox, else the last one that was none.
+std::optional<QString> locationElsewhere(const SavedJob &job);
+// What a location is called beside the mailboxes: itself, in one line.
+QString nameOfLocation(const QString &location);
+// What the mailbox field shows: the mailbox's number, the name of another location,
+// or nothing where none is chosen.
+QString mailboxText(const SavedJob &job);
+// Whether a text in that field may stand: a number of the device's mailboxes (there
+// is no mailbox 0), the name of the job's location elsewhere, or nothing.
+bool isMailboxAllowed(const QString &text, const SavedJob &job);
+// The location that it means then.
+std::optional<QString> locationOfText(const QString &text, const SavedJob &job);
 
 // A name of blanks is none: the job takes the document's then.
 void setSavedJobName(SavedJob &job, bool usesJobName, const QString &name);

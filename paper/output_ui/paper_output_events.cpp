@@ -164,6 +164,7 @@ OSStatus takeHit(PaperOutputPanelContext &panel, std::int32_t control)
         return noErr;
     case kOutputDestinationPopup:
         panel.outputBin = GetPopupButtonTicketValue(controls.outputDestination);
+        showOutputDestination(panel);
         return noErr;
     default:
         return eventNotHandledErr;

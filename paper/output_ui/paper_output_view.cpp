@@ -6,9 +6,11 @@
 #include "hint_text.h"
 #include "installed_features.h"
 #include "job_type_setup.h"
+#include "offered_choices.h"
 #include "output_destinations.h"
 #include "paper_output_pictures.h"
 #include "popups.h"
+#include "ppd_choices.h"
 #include "separators.h"
 #include "setting_maps.h"
 #include "ticket_values.h"
@@ -54,17 +56,25 @@ void showMoreFinishing(const PaperOutputPanelContext &panel)
     panel.controls.moreFinishingSummary->setText(names.join(QStringLiteral(", ")));
 }
 
-// A pop-up of the PPD's choices; disabled where the device has none of them.
 void fillFromPpd(PopupButton *popup, const PaperOutputPanelContext &panel, const char *option,
-                 bool honourConstraints, const QStringList &readByName = {})
+                 const QStringList &readByName = {})
 {
-    if (!popup)
+    if (hasOption(panel, option))
+        fillWithOfferedChoices(popup, panel.ppd, QString::fromLatin1(option), readByName);
+    else if (popup)
+        setEnabledWithLabel(popup, false);
+}
+
+// The map's words; where the device has none of them, they stay and cannot be chosen.
+void fillTwoSided(const PaperOutputPanelContext &panel)
+{
+    PopupButton *popup = panel.controls.twoSided;
+    PopulatePopupButtonFromMap(panel.bundle, popup, PlexMap, kJobContextJob, kNoCommand);
+    if (!popup || !hasOption(panel, "Duplex"))
         return;
-    const int count = hasOption(panel, option)
-        ? PPDPopulatePopupWithChoices(popup, panel.ppd, QString::fromLatin1(option),
-                                      honourConstraints, readByName)
-        : 0;
-    setEnabledWithLabel(popup, count > 0);
+    Menu menu = popup->menu();
+    removeWhatIsNotOffered(menu, panel.ppd, QStringLiteral("Duplex"));
+    popup->setMenu(std::move(menu));
 }
 
 } // namespace
@@ -105,12 +115,10 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
     const PaperOutputControls &controls = panel.controls;
     PopulatePopupButtonFromMap(panel.bundle, controls.jobType, JobTypeMap, kJobContextJob,
                                kNoCommand);
-    PopulatePopupButtonFromMap(panel.bundle, controls.twoSided, PlexMap, kJobContextJob,
-                               kNoCommand);
-    // What is not installed clashes with the device's defaults, and is left out.
-    fillFromPpd(controls.stapling, panel, "StapleLocation", true, stapleChoicesWithoutValue());
-    fillFromPpd(controls.holePunch, panel, "KVPunch", true, punchChoicesWithoutValue());
-    fillFromPpd(controls.outputColor, panel, "KVColorMode", false);
+    fillTwoSided(panel);
+    fillFromPpd(controls.stapling, panel, "StapleLocation", stapleChoicesWithoutValue());
+    fillFromPpd(controls.holePunch, panel, "KVPunch", punchChoicesWithoutValue());
+    fillFromPpd(controls.outputColor, panel, "KVColorMode");
     if (controls.outputDestination) {
         Menu destinations;
         PopulateOutputDestination(destinations, panel.ppd);
@@ -132,7 +140,7 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
 
 void showJobType(const PaperOutputPanelContext &panel)
 {
-    showTicketValue(panel.controls.jobType, panel.jobType);
+    showChoice(panel.bundle, panel.controls.jobType, panel.jobType);
     EnableDisableJobTypeSetupButton(panel);
     showBundlePicture(panel.controls.jobTypeIcon, panel.bundle, jobTypePicture(panel.jobType));
 }
@@ -164,7 +172,7 @@ void showCovers(const PaperOutputPanelContext &panel)
 void showTwoSided(const PaperOutputPanelContext &panel)
 {
     PopupButton *popup = panel.controls.twoSided;
-    showTicketValue(popup, panel.isBooklet() ? kPlexDuplex : panel.duplex);
+    showChoice(panel.bundle, popup, panel.isBooklet() ? kPlexDuplex : panel.duplex);
     if (popup)
         setEnabledWithLabel(popup, !panel.isBooklet() && hasOption(panel, "Duplex"));
     showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel));
@@ -183,8 +191,9 @@ void showFinishing(const PaperOutputPanelContext &panel)
         && !getInstalledFeature("TapeBindKey"))
         summary = localizedText(panel.bundle, QStringLiteral("No Finishing Devices"));
     UpdateSummaryTextView(controls.finishingSummary, summary);
-    showTicketValue(controls.stapling, chosenStaple(panel.finishing));
-    showTicketValue(controls.holePunch, panel.finishing.punch);
+    showChoice(panel.bundle, controls.stapling,
+               panel.finishing.hasUnknownStaple ? kNoPpdChoice : chosenStaple(panel.finishing));
+    showChoice(panel.bundle, controls.holePunch, panel.finishing.punch);
     showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel));
     showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.finishing));
     showBundlePicture(controls.holePunchIcon, panel.bundle, punchPicture(panel.finishing.punch));
@@ -192,9 +201,14 @@ void showFinishing(const PaperOutputPanelContext &panel)
 
 void showOutputColor(const PaperOutputPanelContext &panel)
 {
-    showTicketValue(panel.controls.outputColor, panel.colorMode);
+    showChoice(panel.bundle, panel.controls.outputColor, panel.colorMode);
     showBundlePicture(panel.controls.outputColorIcon, panel.bundle,
                       colorModePicture(panel.colorMode));
+}
+
+void showOutputDestination(const PaperOutputPanelContext &panel)
+{
+    showChoice(panel.bundle, panel.controls.outputDestination, panel.outputBin);
 }
 
 void showPaperOutput(const PaperOutputPanelContext &panel)
@@ -203,7 +217,7 @@ void showPaperOutput(const PaperOutputPanelContext &panel)
         return;
     StockIconEventHandler(panel.stockButtonData);
     showStockAndSeparators(panel);
-    showTicketValue(panel.controls.outputDestination, panel.outputBin);
+    showOutputDestination(panel);
     showOutputColor(panel);
     showJobType(panel);
     showTwoSided(panel);

@@ -85,6 +85,7 @@ void showCovers(const PaperOutputPanelContext &panel);
 void showTwoSided(const PaperOutputPanelContext &panel);
 void showFinishing(const PaperOutputPanelContext &panel);
 void showOutputColor(const PaperOutputPanelContext &panel);
+void showOutputDestination(const PaperOutputPanelContext &panel);
 
 // The set-up button is enabled for the job types that have a set-up.
 void EnableDisableJobTypeSetupButton(const PaperOutputPanelContext &panel);

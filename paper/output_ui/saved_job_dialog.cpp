@@ -85,6 +85,8 @@ void fillControls(const SavedJobContext &context)
     names.maximumLength = kLongestSavedJobName;
     KComboBoxInitializeWithMapAndHistory(context.name, names);
 
+    if (const std::optional<QString> elsewhere = locationElsewhere(context.data.job))
+        context.mailbox->appendItem(nameOfLocation(*elsewhere));
     KComboBoxOptions mailboxes;
     mailboxes.bundle = context.bundle;
     mailboxes.historyKey = QStringLiteral("mailboxNumbers");
@@ -103,11 +105,25 @@ void fillControls(const SavedJobContext &context)
                                kNoCommand);
 }
 
+// The place that is no mailbox is named while it is shown, and while it can be chosen.
+void showMailboxHint(const SavedJobContext &context)
+{
+    const QString elsewhere =
+        nameOfLocation(locationElsewhere(context.data.job).value_or(QString()));
+    QString key = QStringLiteral("Mailbox Hint");
+    if (!elsewhere.isEmpty())
+        key = context.mailbox->text() == elsewhere ? QStringLiteral("Mailbox Elsewhere Hint")
+                                                   : QStringLiteral("Mailbox Not Elsewhere Hint");
+    SetLocalizedStaticText(context.bundle, key, context.mailboxHint, {elsewhere});
+    context.mailbox->setAccessibleDescription(context.mailboxHint->text());
+}
+
 // What is enabled and drawn, from what the controls hold.
 void syncToUI(const SavedJobContext &context)
 {
     const bool isSecure = context.secure->isChecked();
     setEnabledWithLabel(context.name, !context.useJobName->isChecked());
+    showMailboxHint(context);
     syncPasscodeFields(context.fields, isSecure);
     // An empty field keeps OK: then the dialog makes a passcode, which nobody
     // could reach otherwise.
@@ -132,17 +148,10 @@ void RestoreUIValuesFromData(SavedJobContext &context)
     context.typedName = job.name;
     context.useJobName->setChecked(job.usesJobName);
     showName(context);
-    const std::optional<int> mailbox = mailboxOf(job.location);
-    KComboBoxSetValue(context.mailbox, mailbox ? QString::number(*mailbox) : QStringLiteral(""));
-    const bool isElsewhere = job.location && !mailbox;
-    SetLocalizedStaticText(context.bundle,
-                           isElsewhere ? QStringLiteral("Mailbox Elsewhere Hint")
-                                       : QStringLiteral("Mailbox Hint"),
-                           context.mailboxHint, {job.location.value_or(QString())});
-    context.mailbox->setAccessibleDescription(context.mailboxHint->text());
+    KComboBoxSetValue(context.mailbox, mailboxText(job));
+    context.mailbox->lineEdit()->setCursorPosition(0);
     context.disposition->setValue(job.saveDisposition);
-    if (!SetPopupButtonToTicketValue(context.format, job.fileFormat))
-        context.format->setValue(0);
+    showChoice(context.bundle, context.format, job.fileFormat);
     const QString passcode = context.data.passcode.value_or(QString());
     context.secure->setChecked(!passcode.isEmpty());
     setPasscode(context.fields, passcode);
@@ -155,12 +164,11 @@ void SaveUIValuesToData(SavedJobContext &context)
     SavedJob &job = context.data.job;
     const bool usesJobName = context.useJobName->isChecked();
     setSavedJobName(job, usesJobName, usesJobName ? context.typedName : context.name->text());
-    job.location = locationAfter(context.mailbox->text(), job.location);
+    job.location = locationOfText(context.mailbox->text(), job);
     // The histories get what is stored: "7", and not "007" beside it.
     if (!job.usesJobName)
         KComboBoxSetValue(context.name, job.name);
-    if (const std::optional<int> mailbox = mailboxOf(job.location))
-        KComboBoxSetValue(context.mailbox, QString::number(*mailbox));
+    KComboBoxSetValue(context.mailbox, mailboxText(job));
     // What the controls cannot show stays as it was.
     if (const int position = context.disposition->value())
         job.saveDisposition = position;
@@ -172,7 +180,7 @@ void SaveUIValuesToData(SavedJobContext &context)
 
 bool mayClose(const SavedJobContext &context)
 {
-    if (!isMailboxAllowed(context.mailbox->text())) {
+    if (!isMailboxAllowed(context.mailbox->text(), context.data.job)) {
         CFUserNotificationDisplayNotice(
             NoticeLevel::Stop,
             localizedText(context.bundle, QStringLiteral("Invalid Mailbox Headline")),

@@ -4,6 +4,7 @@
 #include "control.h"
 #include "dialog_window.h"
 #include "hint_text.h"
+#include "offered_choices.h"
 #include "picture_view.h"
 #include "popups.h"
 #include "ppd_choices.h"
@@ -36,11 +37,14 @@ struct SeparatorsDialog
     PopupButton *source = nullptr;
     PopupButton *color = nullptr;
     PictureView *picture = nullptr;
+    std::int32_t before = kSeparatorsNone; // what the job has
 
-    // "none" as well where the printer has no separators.
+    // What the pop-up cannot show stays; "none" where the printer has no separators.
     std::int32_t separators() const
     {
-        return option->value() > 0 ? option->chosenReference() : kSeparatorsNone;
+        if (option->count() == 0)
+            return kSeparatorsNone;
+        return option->value() > 0 ? option->chosenReference() : before;
     }
 };
 
@@ -49,6 +53,10 @@ void showOption(const SeparatorsDialog &dialog)
 {
     const std::int32_t separators = dialog.separators();
     const bool hasSeparators = separators != kSeparatorsNone;
+    for (PopupButton *popup : {dialog.option, dialog.source}) {
+        if (popup->value() > 0) // what the job had, and is not offered here, is said no more
+            showChoice(dialog.bundle, popup, popup->chosenReference());
+    }
     setEnabledWithLabel(dialog.source, hasSeparators && dialog.source->count() > 0);
     setEnabledWithLabel(dialog.color, hasSeparators && dialog.color->count() > 0);
     if (auto *hint = findControl<QLabel>(dialog.window.get(), kColorHint))
@@ -60,7 +68,8 @@ void showOption(const SeparatorsDialog &dialog)
 
 OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &event)
 {
-    if (event.kind == EventKind::ControlHit && event.control == kColor) {
+    if (event.kind == EventKind::ControlHit
+        && (event.control == kColor || event.control == kSource)) {
         showOption(dialog);
         return noErr;
     }
@@ -83,8 +92,7 @@ OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &eve
 void fillOptions(const SeparatorsDialog &dialog, PpdFile *ppd)
 {
     Menu menu;
-    PPDPopulateMenuWithChoices(menu, ppd, QStringLiteral("KVSlipSheetPrint"), kCommandOption,
-                               false);
+    PopulateMenuWithOfferedChoices(menu, ppd, QStringLiteral("KVSlipSheetPrint"), kCommandOption);
     for (MenuItem &item : menu.items) {
         if (const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, item.reference))
             item.text = localizedText(dialog.bundle, QString::fromUtf8(key));
@@ -115,9 +123,9 @@ void fillPopups(const SeparatorsDialog &dialog, PpdFile *ppd)
     }
     fillOptions(dialog, ppd);
     if (hasOption(sources))
-        PPDPopulatePopupWithChoices(dialog.source, ppd, sources, false);
+        fillWithOfferedChoices(dialog.source, ppd, sources);
     if (hasOption(colors))
-        PPDPopulatePopupWithChoices(dialog.color, ppd, colors, false);
+        fillWithOfferedChoices(dialog.color, ppd, colors);
     SetPopupButtonToTicketValue(dialog.color, kStockColorWhite);
 }
 
@@ -144,8 +152,10 @@ OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
     makeHintText(findControl<QLabel>(window, kOptionHint));
     makeHintText(findControl<QLabel>(window, kColorHint));
     fillPopups(dialog, PPDGetCurrent());
-    SetPopupButtonToTicketValue(dialog.option, *separators);
-    SetPopupButtonToTicketValue(dialog.source, separatorStock->source());
+    dialog.before = *separators;
+    showChoice(bundle, dialog.option, *separators);
+    if (separatorStock->source() != kUnset) // else the first is ready to be taken
+        showChoice(bundle, dialog.source, separatorStock->source());
     showOption(dialog);
     const EventHandlerRef handler = installEventHandler(
         window, [&dialog](const Event &event) { return separatorsEventHandler(dialog, event); });

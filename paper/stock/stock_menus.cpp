@@ -1,6 +1,7 @@
 #include "stock_menus.h"
 
 #include "installed_features.h"
+#include "offered_choices.h"
 #include "ppd_choices.h"
 #include "ticket_values.h"
 
@@ -34,7 +35,7 @@ std::vector<MenuItem> choices(const char *option, OSType command)
     PpdFile *ppd = PPDGetCurrent();
     Menu menu;
     if (ppd && ppd->findOption(keyword))
-        PPDPopulateMenuWithChoices(menu, ppd, keyword, command, false);
+        PopulateMenuWithOfferedChoices(menu, ppd, keyword, command);
     return std::move(menu.items);
 }
 

@@ -5,6 +5,7 @@
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "input_limits.h"
+#include "popups.h"
 #include "ppd_choices.h"
 #include "save_stock_dialog.h"
 #include "stock_library.h"
@@ -268,7 +269,7 @@ private:
     {
         setEnabledWithLabel(m_library, !m_named.empty());
         m_remove->setEnabled(!chosenName().isEmpty());
-        showStockColor(m_color, m_stock.color());
+        showChoice(m_bundle, m_color, m_stock.color());
         setEnabledWithLabel(m_colorName, m_stock.color() == kStockColorCustom);
         m_size->setText(
             sizeText(m_bundle, m_jobContext, m_stock).replace(u'&', QLatin1String("&&")));

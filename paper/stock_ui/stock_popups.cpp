@@ -1,5 +1,6 @@
 #include "stock_popups.h"
 
+#include "popups.h"
 #include "stock.h"
 #include "stock_menus.h"
 #include "ticket_values.h"
@@ -61,18 +62,10 @@ void fillStockColorPopup(CFBundleRef bundle, PopupButton *popup, JobContext jobC
         {choiceItem(localizedText(bundle, QStringLiteral("StockColorCustom")), kStockColorCustom)});
 }
 
-void showStockType(PopupButton *popup, std::int32_t type)
+void showStockType(CFBundleRef bundle, PopupButton *popup, std::int32_t type)
 {
-    if (!popup || popup->setValueByReference(type))
-        return;
-    if (type != kUnset || !popup->setValueByReference(kStockTypeSystemDefault))
-        popup->setValue(0);
-}
-
-void showStockColor(PopupButton *popup, std::int32_t color)
-{
-    if (popup && !popup->setValueByReference(color))
-        popup->setValue(0);
+    const bool isDefault = popup && type == kUnset && !offers(popup->menu(), kUnset);
+    showChoice(bundle, popup, isDefault ? kStockTypeSystemDefault : type);
 }
 
 QString notSetText(CFBundleRef bundle, JobContext jobContext)

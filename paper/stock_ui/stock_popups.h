@@ -13,10 +13,8 @@ namespace kelvo {
 void fillStockTypePopup(CFBundleRef bundle, PopupButton *popup, JobContext jobContext);
 void fillStockColorPopup(CFBundleRef bundle, PopupButton *popup, JobContext jobContext);
 
-// Shows `value`; one that is not offered shows nothing. A type that is not set
-// shows as the printer's default.
-void showStockType(PopupButton *popup, std::int32_t type);
-void showStockColor(PopupButton *popup, std::int32_t color);
+// Shows the type as showChoice does; one that is not set as the printer's default.
+void showStockType(CFBundleRef bundle, PopupButton *popup, std::int32_t type);
 
 // "Printer default" for the job, "Use job setting" for a special page.
 QString notSetText(CFBundleRef bundle, JobContext jobContext);

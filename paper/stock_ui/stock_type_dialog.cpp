@@ -88,7 +88,7 @@ private:
     void show()
     {
         const std::int32_t type = m_stock.type();
-        showStockType(m_type, type);
+        showStockType(m_bundle, m_type, type);
         setEnabledWithLabel(m_name, hasTypeName(type));
         m_tabsButton->setEnabled(hasTabs(type));
         const bool isCounted = m_stock.modulus() != kUnset;

@@ -137,6 +137,12 @@ void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
         choices->insert(keyword, *choice);
 }
 
+void PPDRemoveCurrentChoice(PMTicketRef ticket, const QString &keyword)
+{
+    if (PPDDictionary *choices = PMTicketGetPPDDict(ticket))
+        choices->remove(keyword);
+}
+
 std::int32_t PPDTicketValueForChoice(const QString &keyword, const QString &choice)
 {
     const PpdChoiceValue *row = findChoice(keyword, choice);

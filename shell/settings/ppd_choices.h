@@ -45,6 +45,8 @@ std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ti
                                               const QString &keyword);
 void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
                          const std::optional<QString> &choice);
+// The ticket then leaves the option to the PPD's default.
+void PPDRemoveCurrentChoice(PMTicketRef ticket, const QString &keyword);
 
 // The value of a choice that MainKeywordMap does not have.
 inline constexpr std::int32_t kNoPpdChoice = -1;

@@ -1,9 +1,14 @@
 #include "popups.h"
 
+#include "control.h"
 #include "input_history.h"
+#include "offered_choices.h"
 #include "preferences.h"
 #include "summary_view.h"
 #include "tab_control.h"
+#include "ticket_values.h"
+
+#include <QLabel>
 
 #include <algorithm>
 #include <limits>
@@ -66,28 +71,51 @@ bool SetPopupButtonToTicketValue(PopupButton *popup, std::int32_t value)
     return popup && popup->setValueByReference(value);
 }
 
-void showTicketValue(PopupButton *popup, std::int32_t value)
-{
-    if (popup && !SetPopupButtonToTicketValue(popup, value))
-        popup->setValue(0);
-}
-
 std::int32_t GetPopupButtonTicketValue(const PopupButton *popup)
 {
     return popup ? popup->chosenReference() : kUnset;
 }
 
 int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString &keyword,
-                                bool honourConstraints, const QStringList &readByName)
+                                bool honourConstraints)
 {
     if (!popup)
         return 0;
     Menu menu = popup->menu();
-    const int count =
-        PPDPopulateMenuWithChoices(menu, ppd, keyword, kNoCommand, honourConstraints, readByName);
-    popup->setMenu(std::move(menu));
-    popup->setMaximum(count);
+    const int count = PPDPopulateMenuWithChoices(menu, ppd, keyword, kNoCommand, honourConstraints);
+    popup->setMenu(std::move(menu)); // the maximum too
     return count;
+}
+
+void fillWithOfferedChoices(PopupButton *popup, PpdFile *ppd, const QString &option,
+                            const QStringList &readByName)
+{
+    if (!popup)
+        return;
+    Menu menu = popup->menu();
+    const int count = PopulateMenuWithOfferedChoices(menu, ppd, option, kNoCommand, readByName);
+    popup->setMenu(std::move(menu));
+    setEnabledWithLabel(popup, count > 0);
+}
+
+void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint,
+                const QString &hintText)
+{
+    if (!popup)
+        return;
+    popup->setPlaceholderText(localizedText(bundle, QStringLiteral("Not Offered Here")));
+    QString text = hintText;
+    if (!SetPopupButtonToTicketValue(popup, value)) {
+        popup->setValue(0);
+        text = localizedText(bundle,
+                             popup->count() > 0 ? QStringLiteral("Choice Not Offered")
+                                                : QStringLiteral("Not on This Device"));
+    }
+    if (hint)
+        hint->setText(text);
+    else
+        popup->setToolTip(text);
+    popup->setAccessibleDescription(text);
 }
 
 void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[])

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 
+class QLabel;
 class QWidget;
 
 // Pop-up buttons filled from maps, history and PPD.
@@ -27,14 +28,24 @@ std::int16_t PopulatePopupButtonFromMapAndHistory(CFBundleRef bundle, PopupButto
                                                   OSType historyCommand, OSType commandOverride);
 // Shows the first item with that value; false, and unchanged, when there is none.
 bool SetPopupButtonToTicketValue(PopupButton *popup, std::int32_t value);
-// The same, but a value that no item has shows nothing: for choices that this
-// device does not offer. Nothing happens for null.
-void showTicketValue(PopupButton *popup, std::int32_t value);
 std::int32_t GetPopupButtonTicketValue(const PopupButton *popup); // kUnset for null
 
 // PPDPopulateMenuWithChoices into a pop-up; the count becomes its maximum.
 int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString &keyword,
-                                bool honourConstraints, const QStringList &readByName = {});
+                                bool honourConstraints);
+
+// How every panel and dialog fills and shows a PPD option. Null is taken and left.
+//
+// Fills the pop-up with what the device offers (offered_choices.h); the count becomes
+// its maximum. Where that is nothing it is disabled with its label, and stays in its
+// place, so that users of several devices find it there.
+void fillWithOfferedChoices(PopupButton *popup, PpdFile *ppd, const QString &option,
+                            const QStringList &readByName = {});
+// Shows the item with that value, and `hintText` in `hint`. A value that no item has
+// is the job's, and not offered here: the pop-up says so in place of an item, and the
+// hint (the tool tip where there is none) that the job keeps it.
+void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint = nullptr,
+                const QString &hintText = {});
 
 // Shows and enables the pane at the tab's position, hides and disables the others.
 void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[]);

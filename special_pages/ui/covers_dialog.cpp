@@ -90,8 +90,9 @@ void showCover(CFBundleRef bundle, CoverSide &side, bool isThere, bool isEnabled
 
     side.source->setMenu(sourceMenu(side.sources, cover,
                                     localizedText(bundle, QStringLiteral("Cover Source Not Set"))));
-    if (!side.source->setValueByReference(cover.stock().source()))
-        side.source->setValueByReference(kUnset);
+    const std::int32_t source = cover.stock().source();
+    const bool hasNone = side.sources.items.empty() || source == kStockSourceInserter;
+    showChoice(bundle, side.source, hasNone ? kUnset : source);
     setEnabledWithLabel(side.source, !side.sources.items.empty());
     const QString hint = isThere ? localizedText(bundle, sourceHintKey(side)) : QString();
     QFont font = side.group->font();
@@ -204,8 +205,8 @@ bool initializeSide(CoversContext &context, CoverSide &side, Cover &cover, std::
         return false;
 
     // "None" is no source, but no cover.
-    PPDPopulatePopupWithChoices(side.source, PPDGetCurrent(), QString::fromLatin1(sourceOption),
-                                true, {QStringLiteral("None")});
+    fillWithOfferedChoices(side.source, PPDGetCurrent(), QString::fromLatin1(sourceOption),
+                           {QStringLiteral("None")});
     side.sources = side.source->menu();
     makeHintText(side.sourceHint);
     // The window keeps its size while the hints change.

@@ -4,7 +4,9 @@
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "lighten_darken.h"
+#include "offered_choices.h"
 #include "popups.h"
+#include "ppd_choices.h"
 #include "setting_maps.h"
 #include "special_page_dialogs.h"
 #include "special_page_edits.h"
@@ -95,17 +97,14 @@ void showSetting(const ExceptionsContext &context, PopupButton *popup, QLabel *h
                  const QString &option, std::int32_t value)
 {
     const bool isOnDevice = popup->count() > 1;
-    showTicketValue(popup, value);
     setEnabledWithLabel(popup, isOnDevice);
-    QString text;
-    if (!isOnDevice)
-        text = localizedText(context.bundle, QStringLiteral("Not on This Device"));
-    else if (popup->value() == 0)
-        text = localizedText(context.bundle, QStringLiteral("Choice Not Offered"));
-    else if (const QString job = jobChoiceText(context.ticket, option); !job.isEmpty())
-        text = formatted(localizedText(context.bundle, QStringLiteral("Job Setting Hint")), {job});
-    hint->setText(text);
-    popup->setAccessibleDescription(text);
+    const QString job = jobChoiceText(context.ticket, option);
+    showChoice(
+        context.bundle, popup, value, hint,
+        !isOnDevice ? localizedText(context.bundle, QStringLiteral("Not on This Device"))
+            : job.isEmpty()
+            ? QString()
+            : formatted(localizedText(context.bundle, QStringLiteral("Job Setting Hint")), {job}));
 }
 
 // From the context to the controls, but for the pages, which stay as typed.
@@ -215,10 +214,7 @@ bool takeExceptions(ExceptionsContext &context)
 void fillSetting(CFBundleRef bundle, PopupButton *popup, Menu menu, const QString &option,
                  OSType command)
 {
-    const PpdFile *ppd = PPDGetCurrent();
-    std::erase_if(menu.items, [&](const MenuItem &item) {
-        return !PPDCopyTextForTicketValue(ppd, option, item.reference);
-    });
+    removeWhatIsNotOffered(menu, PPDGetCurrent(), option);
     MenuItem job;
     job.key = QStringLiteral("UseJobSetting");
     job.text = localizedText(bundle, job.key);

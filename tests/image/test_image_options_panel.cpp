@@ -158,33 +158,49 @@ void TestImageOptionsPanel::leavesLightnessToThePrinter()
     Panel panel(QStringLiteral("full"));
     panel.begin();
     auto *printerDefault = panel.find<QCheckBox>(1109);
+    PPDDictionary &ticket = *PMTicketGetPPDDict(panel.session.settings());
+    const QString option = QStringLiteral("KVImageQuality");
+    const QString usual = QStringLiteral("The printer’s default is “Normal”.");
+    QCOMPARE(panel.sync(kSyncWrite), noErr); // as the dialog does when it begins
+    QCOMPARE(ticket.value(option), QStringLiteral("Normal"));
     printerDefault->click();
     QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
-    QCOMPARE(panel.find<QLabel>(1105)->text(),
-             QStringLiteral("The printer’s default is “Normal”."));
+    QCOMPARE(panel.find<QLabel>(1105)->text(), usual);
     QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QString());
+    QVERIFY(!ticket.contains(option));
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QVERIFY(printerDefault->isChecked());
+    QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
 
-    // What the ticket says already is kept, and the panel does not hide it.
+    // What was set in the panel goes as well.
     printerDefault->click();
     QCOMPARE(panel.enabled(parts), QStringLiteral("1111111"));
     panel.find<SpinField>(1104)->choose(2);
     QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(ticket.value(option), QStringLiteral("Darken2"));
     printerDefault->click();
+    QCOMPARE(panel.find<QLabel>(1105)->text(), usual);
     QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QStringLiteral("Darken2"));
+    QVERIFY(!ticket.contains(option));
+
+    // What came from elsewhere stays, and the panel does not hide it.
+    ticket.insert(option, QStringLiteral("Darken2"));
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(ticket.value(option), QStringLiteral("Darken2"));
+    printerDefault->click(); // a lightness
+    printerDefault->click(); // and none again
     QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Darken 2")));
     QCOMPARE(panel.sync(kSyncRead), noErr);
     QVERIFY(!printerDefault->isChecked());
     QCOMPARE(panel.find<QSlider>(1102)->value(), 2);
 
     // Also what no step stands for.
-    PMTicketGetPPDDict(panel.session.settings())->insert("KVImageQuality", "Pale");
+    ticket.insert(option, QStringLiteral("Pale"));
     QCOMPARE(panel.sync(kSyncRead), noErr);
     QVERIFY(printerDefault->isChecked());
     QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Pale")));
     QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QStringLiteral("Pale"));
+    QCOMPARE(ticket.value(option), QStringLiteral("Pale"));
 }
 
 void TestImageOptionsPanel::takesWhatIsTypedWhenAnotherControlIsUsed()

@@ -57,7 +57,7 @@ private slots:
     void customFinishingNeedsAText();
     void separatorsFollowTheirOption();
     void revertLeavesNoSeparators();
-    void aSourceThatThePpdLacksBecomesTheFirst();
+    void whatThePpdLacksIsSaidAndKept();
     void aDeviceWithoutSeparatorsSaysSo();
     void badArgumentsAreRefused();
 };
@@ -285,16 +285,19 @@ void TestFinishingDialogs::revertLeavesNoSeparators()
     QCOMPARE(stock.source(), 3); // stored with separators only
 }
 
-void TestFinishingDialogs::aSourceThatThePpdLacksBecomesTheFirst()
+void TestFinishingDialogs::whatThePpdLacksIsSaidAndKept()
 {
     const DeviceSession device("mid"); // three trays
-    std::int32_t separators = kSeparatorsBlank;
+    std::int32_t separators = kNoPpdChoice;
     Stock stock;
     stock.setSource(6);
     DialogResult result = DialogResult::Cancel;
-    const DialogDriver driver({press("okButton")});
+    const DialogDriver driver({expect("separatorOption", "text", "Not offered here"),
+                               expect("separatorSource", "text", "Not offered here"),
+                               press("okButton")});
     QCOMPARE(RunModalSeparatorsDialog(device.bundle, &separators, &stock, &result), noErr);
-    QCOMPARE(stock.source(), 0);
+    QCOMPARE(separators, kNoPpdChoice);
+    QCOMPARE(stock.source(), 6);
 }
 
 void TestFinishingDialogs::aDeviceWithoutSeparatorsSaysSo()

@@ -2,6 +2,7 @@
 
 #include "delayed_print.h"
 #include "delayed_print_dialog.h"
+#include "history_field.h"
 #include "input_history.h"
 #include "preferences.h"
 #include "saved_job_dialog.h"
@@ -28,6 +29,7 @@ private slots:
     void aSecureSavedJobNeedsFourDigits();
     void aSecureSavedJobWithoutPasscodeGetsOne();
     void whatIsNotTouchedStays();
+    void aLocationElsewhereIsNamedAndCanBeTakenBack();
     void cancelKeepsTheSavedJob();
 
 private:
@@ -192,14 +194,36 @@ void TestJobTypeDialogs::whatIsNotTouchedStays()
     data.job.fileFormat = 9;
     data.passcode = QStringLiteral("123456");
     const SavedJobData before = data;
-    const DialogDriver driver({[] {
-                                   const QString hint = shown("mailboxHint");
-                                   QVERIFY2(hint.contains("smb://archive/17"), qPrintable(hint));
-                               },
-                               press("okButton")});
+    const DialogDriver driver({press("okButton")});
     QCOMPARE(RunModalSavedJobDialog(m_bundle, &data), noErr);
     QCOMPARE(data.job, before.job);
     QCOMPARE(data.passcode, before.passcode);
+}
+
+void TestJobTypeDialogs::aLocationElsewhereIsNamedAndCanBeTakenBack()
+{
+    const QString archive = QStringLiteral("smb://archive/17");
+    SavedJobData data;
+    data.job.location = archive;
+    data.job.elsewhere = archive; // as the panel reads it
+    const auto hintNamesIt = [archive] {
+        const QString hint = shown("mailboxHint");
+        QVERIFY2(hint.contains(archive), qPrintable(hint));
+    };
+    {
+        const DialogDriver driver({expect("mailbox", "text", "smb://archive/17"), hintNamesIt,
+                                   type("mailbox", "7"), hintNamesIt, press("okButton")});
+        QCOMPARE(RunModalSavedJobDialog(m_bundle, &data), noErr);
+        QCOMPARE(mailboxOf(data.job.location), std::optional(7));
+        QCOMPARE(readHistory("mailboxNumbers"), QStringList{"7"});
+    }
+    const DialogDriver driver(
+        {expect("mailbox", "text", "7"),
+         [] { QVERIFY(qobject_cast<HistoryField *>(control("mailbox"))->chooseItem(0)); },
+         press("okButton")});
+    QCOMPARE(RunModalSavedJobDialog(m_bundle, &data), noErr);
+    QCOMPARE(data.job.location, std::optional(archive));
+    QCOMPARE(readHistory("mailboxNumbers"), QStringList{"7"});
 }
 
 void TestJobTypeDialogs::cancelKeepsTheSavedJob()

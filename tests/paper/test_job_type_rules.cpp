@@ -22,8 +22,8 @@ private slots:
     void locationsAreMailboxes();
     void typedNumbersAreMailboxes_data();
     void typedNumbersAreMailboxes();
-    void anUntouchedLocationStays_data();
-    void anUntouchedLocationStays();
+    void aLocationElsewhereCanBeChosen_data();
+    void aLocationElsewhereCanBeChosen();
     void aJobWithoutNameTakesTheDocuments();
     void shortPasscodesHoldBackASecureJobOnly();
 };
@@ -161,33 +161,49 @@ void TestJobTypeRules::typedNumbersAreMailboxes_data()
 void TestJobTypeRules::typedNumbersAreMailboxes()
 {
     QFETCH(QString, number);
-    QTEST(isMailboxAllowed(number), "isAllowed");
+    QTEST(isMailboxAllowed(number, {}), "isAllowed");
     QTEST(mailboxOf(locationOfMailbox(number)).value_or(0), "mailbox");
 }
 
-void TestJobTypeRules::anUntouchedLocationStays_data()
+void TestJobTypeRules::aLocationElsewhereCanBeChosen_data()
 {
-    QTest::addColumn<QString>("before"); // null: none
-    QTest::addColumn<QString>("number");
+    QTest::addColumn<QString>("location"); // null: none
+    QTest::addColumn<QString>("elsewhere");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("after");
 
-    const QString seven = "file:///job-repository/7";
-    QTest::newRow("another server, untouched") << "smb://archive/17"
-                                               << ""
-                                               << "smb://archive/17";
-    QTest::newRow("another server, replaced") << "smb://archive/17"
-                                              << "7" << seven;
-    QTest::newRow("mailbox, untouched") << seven << "7" << seven;
-    QTest::newRow("mailbox, emptied") << seven << "" << QString();
-    QTest::newRow("none, untouched") << QString() << "" << QString();
+    const QString seven = "file:///job-repository/7", archive = "smb://archive/17", none;
+    QTest::newRow("elsewhere, untouched") << archive << none << archive << archive << archive;
+    QTest::newRow("elsewhere, replaced") << archive << none << archive << "7" << seven;
+    QTest::newRow("elsewhere, emptied") << archive << none << archive << "" << none;
+    QTest::newRow("elsewhere, taken back") << seven << archive << "7" << archive << archive;
+    QTest::newRow("mailbox, untouched") << seven << archive << "7"
+                                        << "7" << seven;
+    QTest::newRow("mailbox, emptied") << seven << none << "7"
+                                      << "" << none;
+    QTest::newRow("none, untouched") << none << none << ""
+                                     << "" << none;
+    QTest::newRow("several lines") << "a:\n b" << none << "a: b"
+                                   << "a: b"
+                                   << "a:\n b";
 }
 
-void TestJobTypeRules::anUntouchedLocationStays()
+void TestJobTypeRules::aLocationElsewhereCanBeChosen()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, number);
-    const auto given = before.isNull() ? std::nullopt : std::optional(before);
-    QTEST(locationAfter(number, given).value_or(QString()), "after");
+    QFETCH(QString, location);
+    QFETCH(QString, elsewhere);
+    QFETCH(QString, typed);
+    const auto given = [](const QString &text) {
+        return text.isNull() ? std::nullopt : std::optional(text);
+    };
+    SavedJob job;
+    job.location = given(location);
+    job.elsewhere = given(elsewhere);
+    QTEST(mailboxText(job), "shown");
+    QVERIFY(isMailboxAllowed(typed, job));
+    QTEST(locationOfText(typed, job).value_or(QString()), "after");
+    QVERIFY(!isMailboxAllowed("smb://archive/1", job)); // half typed away
 }
 
 void TestJobTypeRules::aJobWithoutNameTakesTheDocuments()

@@ -10,6 +10,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -20,7 +23,8 @@ using namespace kelvo;
 namespace {
 
 constexpr std::int32_t kJobType = 102, kJobTypeSetup = 103, kTwoSided = 110, kStapling = 113,
-                       kHolePunch = 116, kOutputColor = 119, kOutputDestination = 126;
+                       kHolePunch = 116, kOutputColor = 119, kOutputDestination = 126,
+                       kBanner = 614, kOffset = 616; // the last two of the Advanced panel
 const QList<std::int32_t> kPopups = {kJobType,   kTwoSided,    kStapling,
                                      kHolePunch, kOutputColor, kOutputDestination};
 
@@ -50,14 +54,17 @@ private:
     QTimer m_timer;
 };
 
-// The panel of one sample device, in front of its user.
+QString samplePpd(const QString &device)
+{
+    return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device);
+}
+
+// The panel of one sample device, or of a PPD file, in front of its user.
 class Panel : public DrivenDialog
 {
 public:
     Panel(PlugInFactoryFunction factory, const QString &device, const Panel *before = nullptr)
-        : DrivenDialog(
-            factory,
-            QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device))
+        : DrivenDialog(factory, device.endsWith(QLatin1String(".ppd")) ? device : samplePpd(device))
     {
         if (before) {
             session.printSettings() = before->session.printSettings();
@@ -103,13 +110,29 @@ private slots:
     void asksForTheSetUpOfAJobType_data();
     void asksForTheSetUpOfAJobType();
     void aStapleEndsABooklet();
+    void offersWhatTheDeviceCanDo_data();
+    void offersWhatTheDeviceCanDo();
+    void saysWhatTheDeviceDoesNotOffer();
     void keepsWhatTheDeviceDoesNotOffer();
     void summarizesForTheDialog();
     void doesNotGrow();
 
 private:
+    // A sample device's PPD in which `line`, a pattern, is another one.
+    QString changedPpd(const QString &device, const QString &line, const QString &other)
+    {
+        QFile sample(samplePpd(device));
+        QFile changed(m_folder.filePath(QStringLiteral("changed.ppd")));
+        if (!sample.open(QFile::ReadOnly) || !changed.open(QFile::WriteOnly))
+            return {};
+        changed.write(
+            QString::fromUtf8(sample.readAll()).replace(QRegularExpression(line), other).toUtf8());
+        return changed.fileName();
+    }
+
     PlugInFactoryFunction m_factory = nullptr;
     Bundle *m_bundle = nullptr;
+    QTemporaryDir m_folder;
 };
 
 void TestPaperOutputPanel::initTestCase()
@@ -271,6 +294,93 @@ void TestPaperOutputPanel::aStapleEndsABooklet()
     QCOMPARE(PMTicketGetCFBoolean(settings, key("BookletLayout")), false);
     QCOMPARE(PMTicketGetCFNumber(settings, key("FinishingDuplex")), 2);
     QCOMPARE(panel.choice(QStringLiteral("StapleLocation")), QStringLiteral("SinglePortrait"));
+}
+
+void TestPaperOutputPanel::offersWhatTheDeviceCanDo_data()
+{
+    QTest::addColumn<QString>("option"); // and another default for it, in the full device's PPD
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<std::int32_t>("popup");
+    QTest::addColumn<QString>("offered"); // choices of the PPD
+
+    // A job may have another paper or tray than the one that the PPD begins with.
+    const QString staples = "None SinglePortrait DualLandscape MultipleStaples";
+    const QString holes = "None 2HolePunch 3HolePunch 4HolePunch";
+    QTest::newRow("envelopes: offset") << "PageSize"
+                                       << "EnvDL" << kOffset << "None EndOfSet";
+    QTest::newRow("labels: staples") << "MediaType"
+                                     << "Labels" << kStapling << staples;
+    QTest::newRow("labels: holes") << "MediaType"
+                                   << "Labels" << kHolePunch << holes;
+    QTest::newRow("bypass: banner") << "InputSlot"
+                                    << "Bypass" << kBanner << "False True";
+    // What is not fitted cannot be asked for, whatever else the job says.
+    QTest::newRow("no finisher") << "KVFinisher"
+                                 << "None" << kStapling << "None";
+    QTest::newRow("single stapler")
+        << "KVFinisher"
+        << "AClass" << kStapling << "None SinglePortrait MultipleStaples";
+    QTest::newRow("two holes") << "KVPunchUnit"
+                               << "TwoHole" << kHolePunch << "None 2HolePunch";
+}
+
+void TestPaperOutputPanel::offersWhatTheDeviceCanDo()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, choice);
+    QFETCH(std::int32_t, popup);
+    Panel panel(m_factory,
+                changedPpd("full", QStringLiteral("\\*Default%1: \\w+").arg(option),
+                           QStringLiteral("*Default%1: %2").arg(option, choice)));
+    QVERIFY(panel.isUp);
+    QStringList offered;
+    for (const MenuItem &item : panel.popup(popup)->menu().items)
+        offered << item.key;
+    QTEST(offered.join(u' '), "offered");
+}
+
+// On every panel, and nothing of it is lost.
+void TestPaperOutputPanel::saysWhatTheDeviceDoesNotOffer()
+{
+    const QMap<std::int32_t, std::pair<QString, QString>> choices = {
+        {kTwoSided, {"Duplex", "DuplexTumble"}},
+        {kStapling, {"StapleLocation", "Corner"}},
+        {kHolePunch, {"KVPunch", "3HolePunch"}},
+        {kOutputColor, {"KVColorMode", "Sepia"}},
+        {kOutputDestination, {"OutputBin", "Lower"}},
+        {kOffset, {"Jog", "EveryPage"}},
+        {kBanner, {"JCLBanner", "Maybe"}},
+        {1202, {"KVOutputMode", "HighSpeed"}},
+        {1902, {"KVCMYKColorSpace", "SNAP"}},
+        {2002, {"KVColorCorrection", "Vivid"}}};
+    Panel panel(m_factory, changedPpd("mid", "\\*Duplex DuplexTumble.*\n", {}));
+    QVERIFY(panel.isUp);
+    PPDDictionary &ticket = panel.session.printSettings().ppdChoices;
+    panel.session.printSettings() = {};
+    for (const auto &[option, choice] : choices)
+        ticket.insert(option, choice);
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    for (auto each = choices.cbegin(); each != choices.cend(); ++each) {
+        const PopupButton *popup = panel.popup(each.key());
+        QCOMPARE(QStringLiteral("%1 %2").arg(each.key()).arg(popup->shownText()),
+                 QStringLiteral("%1 Not offered here").arg(each.key()));
+        QVERIFY(popup->accessibleDescription().contains(QLatin1String("keeps it")));
+    }
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    for (const auto &[option, choice] : choices)
+        QCOMPARE(ticket.value(option), choice);
+
+    // The pop-ups say so no longer than the job does.
+    for (auto each = choices.cbegin(); each != choices.cend(); ++each) {
+        PopupButton *popup = panel.popup(each.key());
+        if (!popup->isEnabled()) // of another tab
+            continue;
+        QVERIFY(popup->choose(1));
+        QVERIFY(!popup->accessibleDescription().contains(QLatin1String("keeps it")));
+    }
+    QCOMPARE(panel.popup(kStapling)->shownText(), QStringLiteral("No Staple"));
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(ticket.value("StapleLocation"), QStringLiteral("None"));
 }
 
 void TestPaperOutputPanel::keepsWhatTheDeviceDoesNotOffer()

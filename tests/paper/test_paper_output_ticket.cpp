@@ -40,6 +40,8 @@ class TestPaperOutputTicket : public QObject
 private slots:
     void readsAnEmptyTicketAsTheDevicesDefaults();
     void letsTheTicketsChoicesRuleTheStock();
+    void keepsWhatOnlyAStockCanSay_data();
+    void keepsWhatOnlyAStockCanSay();
     void findsTwoSidedInThreePlaces_data();
     void findsTwoSidedInThreePlaces();
     void writesWhatBelongsToTheJobType();
@@ -103,6 +105,58 @@ void TestPaperOutputTicket::letsTheTicketsChoicesRuleTheStock()
     QCOMPARE(context.jobStock.color(), 2);
     QCOMPARE(context.jobStock.type(), 12);
     QCOMPARE(context.jobStock.weight(), 160);
+}
+
+void TestPaperOutputTicket::keepsWhatOnlyAStockCanSay_data()
+{
+    QTest::addColumn<std::int32_t>("color"); // of the stock
+    QTest::addColumn<std::int32_t>("type");
+    QTest::addColumn<PPDDictionary>("choices"); // of the ticket
+    QTest::addColumn<std::int32_t>("readColor");
+    QTest::addColumn<std::int32_t>("readType");
+
+    const std::int32_t custom = kStockColorCustom, white = kStockColorWhite, plain = 1, blue = 2;
+    const PPDDictionary none;
+    QTest::newRow("no choice") << custom << kStockTypeCustom << none << custom << kStockTypeCustom;
+    QTest::newRow("others have a choice") << blue << 12 << none << white << plain;
+    QTest::newRow("color in the ticket")
+        << custom << kStockTypeCustom << PPDDictionary{{"MediaColor", "Blue"}} << blue
+        << kStockTypeCustom;
+    QTest::newRow("type in the ticket")
+        << custom << kStockTypeCustom << PPDDictionary{{"MediaType", "Standard"}} << custom
+        << plain;
+    QTest::newRow("unknown choice")
+        << custom << plain << PPDDictionary{{"MediaColor", "Puce"}} << kNoPpdChoice << plain;
+}
+
+void TestPaperOutputTicket::keepsWhatOnlyAStockCanSay()
+{
+    QFETCH(std::int32_t, color);
+    QFETCH(std::int32_t, type);
+    QFETCH(PPDDictionary, choices);
+    DeviceSession device(QStringLiteral("full"));
+    device.session.printSettings().ppdChoices = choices;
+    Stock stock;
+    stock.setColor(color);
+    stock.setCustomColor(QStringLiteral("Lime"));
+    stock.setType(type);
+    stock.setCustomType(QStringLiteral("Felt"));
+    stock.setModulus(5);
+    PMTicketSetCFDictionary(device.settings(), client, ticketKey("JobLevelStock"),
+                            stock.asTicket());
+    _PaperOutputContext context;
+    read(context, device);
+    QTEST(context.jobStock.color(), "readColor");
+    QTEST(context.jobStock.type(), "readType");
+
+    // What is written says the same when it is read again: ticket in, ticket out.
+    writePaperOutput(context, device.settings());
+    const auto written = PMTicketGetCFDictionary(device.settings(), ticketKey("JobLevelStock"));
+    QCOMPARE(written->value("CustomColor"), QVariant("Lime"));
+    QCOMPARE(written->value("CustomType"), QVariant("Felt"));
+    _PaperOutputContext again;
+    read(again, device);
+    QVERIFY(again.jobStock == context.jobStock);
 }
 
 void TestPaperOutputTicket::findsTwoSidedInThreePlaces_data()
@@ -364,14 +418,10 @@ void TestPaperOutputTicket::readsBackWhatItWroteBut_data()
     using Context = _PaperOutputContext;
     row("nothing", [](Context &) {});
     row("a colour of the PPD", [](Context &c) { c.jobStock.setColor(9); });
-    row(
-        "a colour of the user's", [](Context &c) { c.jobStock.setColor(kStockColorCustom); },
-        [](Context &c) { c.jobStock.setColor(kStockColorWhite); });
+    row("a colour of the user's", [](Context &c) { c.jobStock.setColor(kStockColorCustom); });
     for (const std::int32_t type : {kStockTypePrecutTab, kStockTypeOrdered, kStockTypeCustom})
-        row(
-            qPrintable(QStringLiteral("type %1").arg(type)),
-            [type](Context &c) { c.jobStock.setType(type); },
-            [](Context &c) { c.jobStock.setType(kStockTypeStandard); });
+        row(qPrintable(QStringLiteral("type %1").arg(type)),
+            [type](Context &c) { c.jobStock.setType(type); });
     row(
         "the second card stock", [](Context &c) { c.jobStock.setType(43); },
         [](Context &c) { c.jobStock.setType(12); });

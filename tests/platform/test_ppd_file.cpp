@@ -26,7 +26,10 @@ private slots:
     void marksDefaultsAgain();
     void namesConflicts_data();
     void namesConflicts();
+    void readsTextsInTheirEncoding_data();
+    void readsTextsInTheirEncoding();
     void namesConflictsOfPairs();
+    void knowsWhatTheEquipmentRulesOut();
     void resolvesConflicts_data();
     void resolvesConflicts();
     void leavesTheMarksAloneWhenItLooksForConflicts();
@@ -198,6 +201,31 @@ void TestPpdFile::namesConflicts()
     QCOMPARE(found, groups);
 }
 
+void TestPpdFile::readsTextsInTheirEncoding_data()
+{
+    QTest::addColumn<QByteArray>("encoding"); // as the PPD's line says it
+    QTest::addColumn<QString>("text");        // of the bytes D0 DD DE F0 FD FE E7
+    QTest::newRow("Latin 1") << QByteArray("ISOLatin1") << u"ÐÝÞðýþç"_s;
+    QTest::newRow("Latin 2") << QByteArray("ISOLatin2") << u"ĐÝŢđýţç"_s;
+    QTest::newRow("Latin 5") << QByteArray("ISOLatin5") << u"ĞİŞğışç"_s;
+    QTest::newRow("Latin 5 with a carriage return") << QByteArray("ISOLatin5\r") << u"ĞİŞğışç"_s;
+}
+
+void TestPpdFile::readsTextsInTheirEncoding()
+{
+    QFETCH(QByteArray, encoding);
+    const QByteArray letters("\xD0\xDD\xDE\xF0\xFD\xFE\xE7");
+    const auto ppd = PpdFile::fromBytes("*PPD-Adobe: \"4.3\"\n*LanguageEncoding: " + encoding
+                                            + "\n*NickName: \"" + letters + "\"\n*OpenUI *Jog/"
+                                            + letters + ": PickOne\n*DefaultJog: None\n*Jog None/"
+                                            + letters + ": \"\"\n*CloseUI: *Jog\n",
+                                        u"letters.ppd"_s);
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    QTEST(ppd.value()->modelName(), "text");
+    QTEST(ppd.value()->findOption("Jog")->text, "text");
+    QTEST(ppd.value()->findOption("Jog")->findChoice("None")->text, "text");
+}
+
 // The older kind of rule, of two options, each way round.
 void TestPpdFile::namesConflictsOfPairs()
 {
@@ -218,6 +246,41 @@ void TestPpdFile::namesConflictsOfPairs()
     QCOMPARE(conflicts[0].options, (QStringList{"PageSize", "Duplex"}));
     QCOMPARE(conflicts[1].options, (QStringList{"MediaType", "StapleLocation"}));
     QVERIFY(ppd.value()->conflicts({{"Duplex", "DuplexTumble"}}).empty());
+}
+
+// A rule that needs a third setting, or more equipment than is fitted, rules nothing
+// out by itself.
+void TestPpdFile::knowsWhatTheEquipmentRulesOut()
+{
+    QFile file(testPpd());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll()
+                                 .replace("*cupsUI", "*%")
+                                 .replace("*OpenUI *KVFinisher",
+                                          "*OpenUI *KVFax: Boolean\n*DefaultKVFax: False\n"
+                                          "*KVFax False: \"\"\n*KVFax True: \"\"\n"
+                                          "*CloseUI: *KVFax\n*OpenUI *KVFinisher");
+    const auto ruledOut = [&bytes](const QByteArray &rules) {
+        const auto ppd = PpdFile::fromBytes(bytes + rules, u"equipment.ppd"_s);
+        QStringList found;
+        for (const QString &option : {u"StapleLocation"_s, u"KVFinisher"_s, u"KVFax"_s}) {
+            for (const PpdChoice &choice : ppd.value()->findOption(option)->choices) {
+                if (ppd.value()->isRuledOutByEquipment(option, choice.keyword))
+                    found << choice.keyword;
+            }
+        }
+        return found.join(u' ');
+    };
+    const QByteArray rule = "*cupsUIConstraints: \"*KVFinisher None ";
+    QCOMPARE(ruledOut(""), QString());
+    QCOMPARE(ruledOut("*UIConstraints: *StapleLocation DualLandscape *KVFinisher None\n"),
+             u"DualLandscape"_s);
+    QCOMPARE(ruledOut(rule + "*StapleLocation\"\n"), u"SinglePortrait DualLandscape"_s);
+    QCOMPARE(ruledOut(rule + "*StapleLocation None *KVFax False\"\n"), u"None"_s);
+    QCOMPARE(ruledOut(rule + "*StapleLocation None *KVFax True\"\n"), QString());
+    QCOMPARE(ruledOut(rule + "*StapleLocation None *Duplex None\"\n"), QString());
+    QCOMPARE(ruledOut(rule + "*KVFax False\"\n"), QString());
+    QCOMPARE(ruledOut("*UIConstraints: *StapleLocation None *Duplex None\n"), QString());
 }
 
 void TestPpdFile::resolvesConflicts_data()

@@ -4,11 +4,15 @@
 #include "control.h"
 #include "modal_dialog.h"
 #include "popup_button.h"
+#include "ppd_file.h"
+#include "property_list.h"
 #include "ticket.h"
 
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
+
+#include <algorithm>
 
 using namespace kelvo;
 
@@ -61,8 +65,10 @@ private slots:
     void onlyOurDevicesAreTaken();
     void advancedShowsTheTicket();
     void advancedWritesWhatTheUserChose();
+    void advancedShowsTheOrderThatWasChosen();
     void advancedKeepsChoicesThatItDoesNotKnow();
     void advancedDisablesWhatTheDeviceLacks();
+    void profileAgreesWithDeviceAndPanels();
     void aboutNamesTheDevice();
     void helpCommandShowsTheBundlesHelp();
     void twoDialogsInOneProcess();
@@ -233,17 +239,39 @@ void TestModule::advancedWritesWhatTheUserChose()
              std::optional<std::int64_t>(fourCharCode("Kujn")));
 }
 
+// The orders have one value in the ticket.
+void TestModule::advancedShowsTheOrderThatWasChosen()
+{
+    DrivenDialog dialog(m_factory, kFullDevice);
+    QVERIFY(dialog.begin() && showAdvanced(dialog));
+    auto *order = dialog.find<PopupButton>(kPanelSignature, kBookletOrder);
+    QVERIFY(order->choose(2));
+    QCOMPARE(dialog.sync(kSyncWrite), noErr);
+    QCOMPARE(dialog.sync(kSyncRead), noErr);
+    QCOMPARE(order->value(), 2);
+
+    dialog.session.printSettings().entries.erase(kBookletOrderKey); // another ticket
+    QCOMPARE(dialog.sync(kSyncRead), noErr);
+    QCOMPARE(order->value(), 1);
+}
+
 void TestModule::advancedKeepsChoicesThatItDoesNotKnow()
 {
     DrivenDialog dialog(m_factory, kFullDevice);
     PPDDictionary &choices = dialog.session.printSettings().ppdChoices;
     choices[QStringLiteral("Jog")] = QStringLiteral("EveryPage");
-    QVERIFY(dialog.begin());
+    QVERIFY(dialog.begin() && showAdvanced(dialog));
 
     QCOMPARE(dialog.sync(kSyncWrite), noErr);
 
     QCOMPARE(choices.value(QStringLiteral("Jog")), QStringLiteral("EveryPage"));
     QCOMPARE(choices.value(QStringLiteral("JCLBanner")), QStringLiteral("False"));
+
+    // The panel says so until the user chooses another.
+    const auto *hint = dialog.find<QLabel>(kPanelSignature, 6161);
+    QVERIFY(hint->text().contains(QLatin1String("keeps it")));
+    QVERIFY(dialog.find<PopupButton>(kPanelSignature, kOffset)->choose(1));
+    QVERIFY(hint->text().contains(QLatin1String("Shifts each")));
 }
 
 void TestModule::advancedDisablesWhatTheDeviceLacks()
@@ -269,6 +297,47 @@ void TestModule::advancedDisablesWhatTheDeviceLacks()
     QCOMPARE(dialog.sync(kSyncRead), noErr);
     QCOMPARE(dialog.sync(kSyncWrite), noErr);
     QVERIFY(!choices.contains(QStringLiteral("KVFeedEdge")));
+}
+
+void TestModule::profileAgreesWithDeviceAndPanels()
+{
+    const auto ppd = PpdFile::open(kFullDevice);
+    const auto profile = readPropertyList(m_bundle->findResource("Device Profile", "plist"));
+    QVERIFY(ppd && profile);
+    const auto isEquipment = [&ppd](const QVariant &option) {
+        return std::ranges::any_of(ppd.value()->groups(), [&](const PpdGroup &group) {
+            return isInstallable(group)
+                && std::ranges::find(group.options, option.toString(), &PpdOption::keyword)
+                != group.options.end();
+        });
+    };
+    const auto hasNoOther = [&isEquipment](const QVariantMap &properties) {
+        return !properties.contains("InstalledBy") || isEquipment(properties["InstalledBy"]);
+    };
+    const QVariantMap features = profile.value().toMap()["Features"].toMap();
+    for (auto feature = features.cbegin(); feature != features.cend(); ++feature) {
+        const QVariantMap properties = feature->toMap()["Properties"].toMap();
+        const QVariantMap syntax = feature->toMap()["Syntax"].toMap();
+        const QString getter = properties.value("Panel").toString();
+        QVERIFY2(getter.isEmpty()
+                     || m_bundle->findFunction(
+                         qPrintable(QStringLiteral("Get%1PanelInterface").arg(getter))),
+                 qPrintable(feature.key()));
+        QVERIFY2(hasNoOther(properties), qPrintable(feature.key()));
+        const PpdOption *option = ppd.value()->findOption(feature.key());
+        QCOMPARE(option != nullptr, properties["PPD"].toBool());
+        if (!option)
+            continue;
+        const QVariantMap keywords = syntax["Keyword"].toMap();
+        QVERIFY2(!keywords.isEmpty(), qPrintable(feature.key()));
+        for (auto keyword = keywords.cbegin(); keyword != keywords.cend(); ++keyword) {
+            const QString name = feature.key() + u' ' + keyword.key();
+            QVERIFY2(option->findChoice(keyword.key()), qPrintable(name));
+            QVERIFY2(hasNoOther(keyword->toMap()["Properties"].toMap()), qPrintable(name));
+            QCOMPARE(keyword->toMap().contains("Default"), keyword.key() == option->defaultChoice);
+        }
+    }
+    QVERIFY(features.size() > 10);
 }
 
 void TestModule::aboutNamesTheDevice()

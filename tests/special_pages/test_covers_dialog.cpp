@@ -52,6 +52,7 @@ private slots:
     void printedCoversOfferNoSize();
     void revertRemovesBothCovers();
     void cancelChangesNothing();
+    void aSourceThatTheDeviceLacksIsSaid();
     void aDeviceWithoutCoversSaysSo();
     void editingNeedsACover();
 
@@ -165,6 +166,16 @@ void TestCoversDialog::cancelChangesNothing()
     QCOMPARE(outcome, DialogResult::Cancel);
     QCOMPARE(front->stock().source(), kTray1);
     QVERIFY(!back);
+}
+
+void TestCoversDialog::aSourceThatTheDeviceLacksIsSaid()
+{
+    const DeviceSession device("mid"); // three trays
+    front = coverFrom(6);
+    const DialogDriver driver(
+        {expect("frontSource", "text", "Not offered here"), press("okButton")});
+    QCOMPARE(run(kDialogModeEdit, device), noErr);
+    QCOMPARE(front->stock().source(), 6);
 }
 
 void TestCoversDialog::aDeviceWithoutCoversSaysSo()

@@ -68,10 +68,6 @@
         <translation>The job already says “%1”, and keeps it.</translation>
     </message>
     <message>
-        <source>Choice Not Offered</source>
-        <translation>The job has a choice that is not offered here, and keeps it.</translation>
-    </message>
-    <message>
         <source>Image Quality:</source>
         <translation>Image &amp;quality:</translation>
     </message>

@@ -77,7 +77,11 @@
     </message>
     <message>
         <source>Mailbox Elsewhere Hint</source>
-        <translation>The job is kept in %1. Enter a number to keep it in a mailbox instead.</translation>
+        <translation>The job is kept in %1, which is none of the mailboxes. Enter a number to keep it in one.</translation>
+    </message>
+    <message>
+        <source>Mailbox Not Elsewhere Hint</source>
+        <translation>The list still has %1, where the job was to be kept.</translation>
     </message>
     <message>
         <source>Invalid Mailbox Headline</source>

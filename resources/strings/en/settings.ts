@@ -13,6 +13,18 @@
         <translation>Use job setting</translation>
     </message>
     <message>
+        <source>Not Offered Here</source>
+        <translation>Not offered here</translation>
+    </message>
+    <message>
+        <source>Choice Not Offered</source>
+        <translation>The job has a choice that is not offered here, and keeps it.</translation>
+    </message>
+    <message>
+        <source>Not on This Device</source>
+        <translation>This device does not offer it.</translation>
+    </message>
+    <message>
         <source>-</source>
         <translation>-</translation>
     </message>

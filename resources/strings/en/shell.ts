@@ -72,14 +72,6 @@
         <translation>The edge of the paper that goes into the bypass tray first.</translation>
     </message>
     <message>
-        <source>Not on This Device</source>
-        <translation>This device does not offer it.</translation>
-    </message>
-    <message>
-        <source>All Choices in Conflict</source>
-        <translation>The device’s own settings conflict: nothing can be chosen.</translation>
-    </message>
-    <message>
         <source>About...</source>
         <translation>Ab&amp;out…</translation>
     </message>
