@@ -2,6 +2,7 @@
 
 #include "control.h"
 #include "dialog_window.h"
+#include "embed_control.h"
 #include "hint_text.h"
 #include "lighten_darken.h"
 #include "popups.h"
@@ -243,12 +244,8 @@ Menu lightnessMenu(CFBundleRef bundle)
 
 void initializePanes(const ExceptionsContext &context)
 {
-    for (QWidget *pane : context.panes) {
-        // The window keeps its size when the tab changes.
-        QSizePolicy policy = pane->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        pane->setSizePolicy(policy);
-    }
+    for (QWidget *pane : context.panes)
+        keepPlaceWhenHidden(pane);
     showPane(context);
 }
 
