@@ -235,7 +235,7 @@ void MarkMoreFinishingMenu(Menu &menu, const _PaperOutputContext &context)
         const auto row = std::ranges::find(kDialogRows, item.command, &DialogRow::menuCommand);
         if (row != std::end(kDialogRows)) {
             const auto choices = finishingChoices(row->kind, PPDGetCurrent());
-            item.checked = initialChoice(row->kind, choices, finishing) != 0;
+            item.checked = findSetChoice(row->kind, choices, finishing).value_or(0) != 0;
         } else if (item.command == kCommandOffsetDialog) {
             item.checked = finishing.offset >= kOffsetSets;
         } else if (item.command == kCommandCustomFinishingDialog) {
