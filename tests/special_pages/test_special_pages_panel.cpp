@@ -133,7 +133,7 @@ private slots:
     void describesPages();
     void lastOneSelectedSaysWhetherItMoves();
     void asksBeforeItDeletes();
-    void undoesOnce();
+    void movesOneAfterTheOtherAndUndoesOnce();
     void carriesPagesThroughTheTicket();
     void keepsPagesAndUndoThatTheTicketHas();
     void selectsNoPageThatCameInAnothersPlace();
@@ -378,7 +378,7 @@ void TestSpecialPagesPanel::asksBeforeItDeletes()
     QCOMPARE(panel.rows(), QStringLiteral("3 Insert · 5-6 Exception"));
 }
 
-void TestSpecialPagesPanel::undoesOnce()
+void TestSpecialPagesPanel::movesOneAfterTheOtherAndUndoesOnce()
 {
     Panel panel;
     panel.begin();
@@ -390,16 +390,21 @@ void TestSpecialPagesPanel::undoesOnce()
             texts += QString::number(panel.data().inserts->pageAtIndex(i)->quantity());
         return texts;
     };
-    panel.select({2});
+    panel.select({1, 2}); // the first cannot, and the second passes it
     panel.press(1600);
     QCOMPARE(quantities(), QStringLiteral("213"));
-    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{0}));
+    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{0, 1}));
     panel.press(1500);
     QCOMPARE(quantities(), QStringLiteral("123"));
     QVERIFY(!panel.find(1500)->isEnabled());
-    panel.select({1, 2});
+    panel.select({1, 2}); // each passes the other; that can be undone as well
     panel.press(1700);
-    QCOMPARE(quantities(), QStringLiteral("312"));
+    QCOMPARE(quantities(), QStringLiteral("123"));
+    QVERIFY(panel.find(1500)->isEnabled());
+    panel.select({2});
+    panel.press(1700);
+    QCOMPARE(quantities(), QStringLiteral("132"));
+    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{2}));
 }
 
 void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
