@@ -310,6 +310,10 @@ void TestSpecialPagesPanel::describesPages_data()
     exception.setLightenDarken(-2);
     row("an exception's sides and image", exception,
         "2-sided print, flip on short edge; Lighten 2");
+    row("an exception without a last page", ExceptionPage(Dictionary{{"StartPage", 5}}),
+        "Covers no page");
+    row("an exception before page 1", ExceptionPage(Dictionary{{"SidesImaged", 1}}),
+        "1-sided print; Covers no page");
 }
 
 void TestSpecialPagesPanel::describesPages()
