@@ -5,10 +5,12 @@
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "localized_controls.h"
+#include "notice.h"
 #include "picture_view.h"
 #include "ppd_choices.h"
 #include "radio_group.h"
 #include "spin_field.h"
+#include "string_table.h"
 #include "ticket_values.h"
 
 #include <QLabel>
@@ -94,10 +96,31 @@ public:
         return noErr;
     }
 
+    // False after a notice that the device does not take one of the two.
+    bool mayAccept() const
+    {
+        return isTaken(m_width, QStringLiteral("Custom Width Refused Header"))
+            && isTaken(m_length, QStringLiteral("Custom Length Refused Header"));
+    }
+
     std::int32_t width() const { return lengthOfField(m_width.field->value(), m_unit); }
     std::int32_t length() const { return lengthOfField(m_length.field->value(), m_unit); }
 
 private:
+    bool isTaken(const LengthControls &controls, const QString &refusalKey) const
+    {
+        if (controls.field->isInRange())
+            return true;
+        CFUserNotificationDisplayNotice(
+            NoticeLevel::Stop, localizedText(m_bundle, refusalKey),
+            formatted(localizedText(m_bundle, QStringLiteral("Custom Size Refused Message")),
+                      {controls.limits->text()}),
+            {}, controls.field);
+        controls.field->setFocus();
+        controls.field->selectAll();
+        return false;
+    }
+
     void showUnit(std::int32_t width, std::int32_t length)
     {
         const SizeFieldLimits limits = sizeFieldLimits(mediaLimits(), m_unit);
@@ -154,6 +177,7 @@ OSStatus RunModalCustomStockSizeDialog(CFBundleRef bundle, DialogResult *result,
                             *length == kUnset ? usualLength : *length);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
+    dialog->setAcceptRule([&window] { return window.mayAccept(); });
     *result = dialog->runModal();
     if (*result == DialogResult::OK) {
         *width = window.width();

@@ -1,3 +1,5 @@
+#include "dialog_driver.h"
+
 #include "custom_size.h"
 #include "custom_stock_size_dialog.h"
 #include "stock_dialogs.h"
@@ -118,6 +120,7 @@ private slots:
 
     void customSizeIsStoredAsTyped_data();
     void customSizeIsStoredAsTyped();
+    void customSizeOutOfRangeIsRefused();
     void customSizeSaysItsLimitsInEitherUnit();
     void tabShiftIsSetInEitherUnit();
     void tabShiftStaysWhereNoUnitIsKnown();
@@ -243,8 +246,8 @@ void TestStockDialogs::customSizeIsStoredAsTyped_data()
                             << "@okButton" << 21590;
     QTest::newRow("decimal comma") << "de_DE" << SizeUnit::Millimetres << "215,5"
                                    << "@okButton" << 21550;
-    QTest::newRow("too wide") << "en_US" << SizeUnit::Inches << "99"
-                              << "@okButton" << 33020;
+    QTest::newRow("the widest") << "en_US" << SizeUnit::Inches << "13"
+                                << "@okButton" << 33020;
     QTest::newRow("cancelled") << "en_US" << SizeUnit::Inches << "8.50"
                                << "@cancelButton" << kUnset;
 }
@@ -267,6 +270,25 @@ void TestStockDialogs::customSizeIsStoredAsTyped()
     QCOMPARE(RunModalCustomStockSizeDialog(m_bundle, &m_result, &newWidth, &newLength), noErr);
     QCOMPARE(m_result, width == kUnset ? DialogResult::Cancel : DialogResult::OK);
     QCOMPARE(newWidth, width);
+}
+
+// Nothing that was typed is changed without a word, and nothing of the dialog is lost.
+void TestStockDialogs::customSizeOutOfRangeIsRefused()
+{
+    setCurrentSizeUnit(SizeUnit::Inches);
+    QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+    std::int32_t width = 21590;
+    std::int32_t length = 90000; // of a ticket for another device
+    const DialogDriver driver(
+        {expect("customLength", "text", "35.43"), type("customWidth", "13.01"), press("okButton"),
+         answerNoticeWith("3.50 to 13.00 in"), expect("customWidth", "text", "13.01"),
+         expect("customWidth", "focus", "true"), type("customWidth", "3.49"), press("okButton"),
+         answerNoticeWith("3.50 to 13.00 in"), type("customWidth", "8.5"), press("okButton"),
+         answerNoticeWith("5.00 to 19.00 in"), type("customLength", "11"), press("okButton")});
+    QCOMPARE(RunModalCustomStockSizeDialog(m_bundle, &m_result, &width, &length), noErr);
+    QCOMPARE(m_result, DialogResult::OK);
+    QCOMPARE(width, 21590);
+    QCOMPARE(length, 27940);
 }
 
 void TestStockDialogs::customSizeSaysItsLimitsInEitherUnit()
