@@ -9,6 +9,7 @@
 #include "setting_maps.h"
 #include "spin_field.h"
 #include "stock_properties.h"
+#include "system_information.h"
 #include "tab_shift.h"
 #include "ticket_values.h"
 
@@ -47,7 +48,7 @@ public:
         showBundlePicture(findControl<PictureView>(window, kShiftPicture), bundle,
                           QStringLiteral("Paper_Pre-CutTabs_TabMarginShift.gif"),
                           localizedText(bundle, QStringLiteral("Tab Shift Picture")));
-        m_shift = tabShiftOf(options, QLocale().measurementSystem(), m_unit->value());
+        m_shift = tabShiftOf(options, measurementSystem(), m_unit->value());
         // Where the locale has neither unit, nothing can be shown until the user
         // chooses one: what is stored stays as it is until then.
         if (m_shift.maximum > 0)

@@ -12,6 +12,7 @@
 #include "special_pages_summary.h"
 #include "stock_menus.h"
 #include "string_table.h"
+#include "system_information.h"
 #include "tab_control.h"
 #include "tab_shift.h"
 #include "tab_stock_dialogs.h"
@@ -68,8 +69,7 @@ struct ExceptionsContext
 // "12.7 mm (A4 template)", "0.4 in": as the tab stock set-up shows it.
 QString tabShiftWords(CFBundleRef bundle, const ExceptionPage &page)
 {
-    const TabShift shift =
-        tabShiftOf(*page.imageShift(), QLocale().measurementSystem(), kTabUnitMillimetres);
+    const TabShift shift = tabShiftOf(*page.imageShift(), measurementSystem(), kTabUnitMillimetres);
     if (shift.choice == kTabShiftNone && !isTabStock(page.stock()))
         return localizedText(bundle, QStringLiteral("Tab Shift Not Needed"));
     if (shift.choice != kTabShiftCustom)

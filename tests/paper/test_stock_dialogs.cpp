@@ -123,7 +123,7 @@ private slots:
     void customSizeOutOfRangeIsRefused();
     void customSizeSaysItsLimitsInEitherUnit();
     void tabShiftIsSetInEitherUnit();
-    void tabShiftStaysWhereNoUnitIsKnown();
+    void tabShiftIsMetricInBritain();
     void tabsOfASetAreCounted();
     void typesWithANameNeedOne();
     void transparencyIsClearOnlyWhenItIsKept();
@@ -336,7 +336,7 @@ void TestStockDialogs::tabShiftIsSetInEitherUnit()
     QCOMPARE(options, before);
 }
 
-void TestStockDialogs::tabShiftStaysWhereNoUnitIsKnown()
+void TestStockDialogs::tabShiftIsMetricInBritain()
 {
     QLocale::setDefault(QLocale(QStringLiteral("en_GB")));
     const Stock stock;
@@ -344,11 +344,13 @@ void TestStockDialogs::tabShiftStaysWhereNoUnitIsKnown()
     options.option = 1;
     options.x1 = 20;
     inNextDialog([](const Front &front) {
-        QCOMPARE(front.value("KPDE 1002"), QStringLiteral("0"));
+        QCOMPARE(front.value("KPDE 1004"), QStringLiteral("2"));
+        QCOMPARE(front.value("KPDE 1002"), QStringLiteral("20"));
+        QVERIFY(front.type("KPDE 1002", "21"));
         QVERIFY(front.click("@okButton"));
     });
     QCOMPARE(RunModalTabStockSetupDialog(m_bundle, &stock, &options, &m_result), noErr);
-    QCOMPARE(options.x1, 20);
+    QCOMPARE(options.x1, 21);
 }
 
 void TestStockDialogs::tabsOfASetAreCounted()
