@@ -74,24 +74,6 @@ Stock freshStock(JobContext jobContext)
     return stock;
 }
 
-// The library's `named` in place of `current`, as far as the context has room for it.
-Stock takenFromLibrary(const Stock &named, const Stock &current, JobContext jobContext)
-{
-    Stock taken = named;
-    const bool isJob = jobContext == kJobContextJob;
-    const bool cannotBeCustom = jobContext == kJobContextCovers && named.size() == kStockSizeCustom;
-    if (isJob || cannotBeCustom) {
-        taken.setSize(current.size());
-        if (current.size() == kStockSizeCustom) {
-            taken.setWidth(current.width());
-            taken.setLength(current.length());
-        }
-    }
-    // Who asked for the stock forgets its name; the description stays.
-    taken.setDescription(named.customName());
-    return taken;
-}
-
 class AdvancedStockWindow
 {
 public:
@@ -124,7 +106,7 @@ public:
 
         auto *hint = findControl<QLabel>(window, kLibraryHint);
         makeHintText(hint);
-        fillLibrary({});
+        fillLibrary();
         if (!offersLibrary) {
             setVisibleWithLabel(m_library, false);
             for (QWidget *control : {static_cast<QWidget *>(hint), findControl(window, kSaveButton),
@@ -143,11 +125,11 @@ public:
     OSStatus handle(const Event &event)
     {
         if (event.kind == EventKind::TextChanged && event.control == kColorNameField) {
+            const Stock before = m_stock;
             m_stock.setCustomColor(m_colorName->text());
-            forgetStockName(m_stock);
+            settle(before);
         } else if (event.kind == EventKind::Command && event.command == kCommandRevert) {
             replaceStock(freshStock(m_jobContext));
-            m_library->setValueByReference(kNoLibraryStock);
         } else if (event.kind != EventKind::ControlHit || !handleHit(event.control)) {
             return eventNotHandledErr;
         }
@@ -169,6 +151,7 @@ public:
 private:
     bool handleHit(ControlID control)
     {
+        const Stock before = m_stock;
         if (control == kColorPopup)
             applyStockCommand(m_stock, kCommandStockColor, m_color->chosenReference(),
                               m_jobContext);
@@ -177,14 +160,24 @@ private:
         else if (control == kDescriptionButton)
             runDescription();
         else if (control == kLibraryPopup)
-            takeFromLibrary(m_library->chosenReference());
+            return takeFromLibrary(m_library->chosenReference());
         else if (control == kSaveButton)
-            save();
+            return save();
         else if (control == kRemoveButton)
-            remove();
+            return remove();
         else
             return false;
+        settle(before);
         return true;
+    }
+
+    // The stock was `before`: another one has no name any more.
+    void settle(const Stock &before)
+    {
+        if (m_stock == before)
+            return;
+        forgetStockName(m_stock);
+        leaveLibrary(m_stock, before, m_named, m_jobContext);
     }
 
     void runType()
@@ -201,28 +194,43 @@ private:
                                       m_window);
     }
 
-    void takeFromLibrary(std::int32_t row)
+    bool takeFromLibrary(std::int32_t row)
     {
-        if (row >= 0 && row < static_cast<std::int32_t>(m_named.size()))
+        if (row >= 0 && row < static_cast<std::int32_t>(m_named.size())) {
             replaceStock(takenFromLibrary(m_named[row], m_stock, m_jobContext));
+            m_libraryName = m_named[row].customName();
+        }
+        return true;
     }
 
-    void save()
+    bool save()
     {
-        const QString chosen = chosenName();
+        // What a library's name describes is saved without that.
+        Stock own = tidied(m_stock);
+        const auto row = findInLibrary(m_named, m_stock, m_jobContext);
+        if (row && m_named[*row].description().isEmpty())
+            own.setDescription(QStringLiteral(""));
         const std::optional<QString> name = RunModalSaveStock(
-            m_bundle, tidied(m_stock), chosen.isEmpty() ? m_stock.description() : chosen, m_window);
-        if (name)
-            fillLibrary(*name);
+            m_bundle, own, m_libraryName.isEmpty() ? m_stock.description() : m_libraryName,
+            m_window);
+        if (name) {
+            own.setCustomName(*name);
+            replaceStock(takenFromLibrary(own, m_stock, m_jobContext));
+            m_libraryName = *name;
+            fillLibrary();
+        }
+        return true;
     }
 
-    void remove()
+    bool remove()
     {
         const QString name = chosenName();
         if (name.isEmpty() || !mayChangeLibrary(m_bundle, QStringLiteral("Remove"), name, m_window))
-            return;
+            return true;
         showLibraryProblem(m_bundle, removeFromStockLibrary(name), name, m_window);
-        fillLibrary({});
+        m_libraryName.clear();
+        fillLibrary();
+        return true;
     }
 
     // The library's stock that the pop-up shows; empty when it shows none.
@@ -234,8 +242,8 @@ private:
             : QString();
     }
 
-    // Lists the library as it is now, and shows the stock of that name.
-    void fillLibrary(const QString &name)
+    // Lists the library as it is now.
+    void fillLibrary()
     {
         m_named = readStockLibrary();
         Menu menu;
@@ -252,10 +260,18 @@ private:
             menu.items.push_back(std::move(item));
         }
         m_library->setMenu(std::move(menu));
+    }
+
+    // The library's paper that the stock is: of two that are the same, the one chosen last.
+    std::int32_t libraryRow() const
+    {
         for (std::size_t row = 0; row < m_named.size(); ++row) {
-            if (sameStockName(m_named[row].customName(), name))
-                m_library->setValueByReference(static_cast<std::int32_t>(row));
+            if (sameStockName(m_named[row].customName(), m_libraryName)
+                && findInLibrary({m_named[row]}, m_stock, m_jobContext))
+                return static_cast<std::int32_t>(row);
         }
+        const auto found = findInLibrary(m_named, m_stock, m_jobContext);
+        return found ? static_cast<std::int32_t>(*found) : kNoLibraryStock;
     }
 
     void replaceStock(const Stock &stock)
@@ -266,6 +282,7 @@ private:
 
     void show()
     {
+        m_library->setValueByReference(libraryRow());
         setEnabledWithLabel(m_library, !m_named.empty());
         m_remove->setEnabled(!chosenName().isEmpty());
         showStockColor(m_color, m_stock.color());
@@ -289,6 +306,7 @@ private:
     QLineEdit *m_colorName;
     Stock m_stock;
     std::vector<Stock> m_named; // the library, as the pop-up lists it
+    QString m_libraryName;      // chosen or saved last, suggested for saving again
     _StockMenuCommandEventHandlerData m_sizeData;
 };
 

@@ -4,6 +4,7 @@
 #include "picture_view.h"
 #include "popups.h"
 #include "stock_dialogs.h"
+#include "stock_library.h"
 #include "stock_menus.h"
 #include "stock_pictures.h"
 #include "stock_summary.h"
@@ -115,6 +116,7 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
     if (event.kind != EventKind::Command || !data || !data->stock)
         return eventNotHandledErr;
     OSStatus status = noErr;
+    const Stock before = *data->stock;
     if (event.command == kCommandStockAdvanced) {
         DialogResult result = DialogResult::Cancel;
         status =
@@ -128,6 +130,8 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
     } else if (!applyStockCommand(*data->stock, event.command, event.reference, data->jobContext)) {
         return eventNotHandledErr;
     }
+    if (event.command != kCommandStockAdvanced)
+        leaveLibrary(*data->stock, before, readStockLibrary(), data->jobContext);
     showStock(*data);
     if (data->changed)
         data->changed();

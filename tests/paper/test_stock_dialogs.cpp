@@ -105,6 +105,8 @@ void answerNextNotice(int button, QString *header)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(const Front &)>)
+
 class TestStockDialogs : public QObject
 {
     Q_OBJECT
@@ -131,7 +133,8 @@ private slots:
     void typesCanBeLeftOpen();
     void descriptionSetsAndUnsets();
     void descriptionOffersWhatTheDeviceHas();
-    void libraryStocksGiveTheirNameToTheDescription();
+    void libraryStocksAreCalledByTheirNameUntilChanged_data();
+    void libraryStocksAreCalledByTheirNameUntilChanged();
     void libraryIsKeptInTheWindow();
     void advancedSelectionNeedsAColorName();
     void revertLeavesNothingBehind();
@@ -486,30 +489,78 @@ void TestStockDialogs::descriptionOffersWhatTheDeviceHas()
     RunModalStockDescriptionSetup(m_bundle, kDialogModeEdit, kJobContextJob, &stock, &m_result);
 }
 
-void TestStockDialogs::libraryStocksGiveTheirNameToTheDescription()
+void TestStockDialogs::libraryStocksAreCalledByTheirNameUntilChanged_data()
 {
+    using Act = std::function<void(const Front &)>;
+    QTest::addColumn<QString>("own"); // description of the library's stock
+    QTest::addColumn<Act>("change");
+    QTest::addColumn<QString>("shown"); // in the window's list
+    QTest::addColumn<QString>("description");
+
+    const Act nothing = [](const Front &) {};
+    const Act color = [](const Front &front) {
+        QVERIFY(front.choose("@advancedStockColor", kStockColorWhite));
+    };
+    const Act weight = [](const Front &front) {
+        inNextDialog([](const Front &description) {
+            QVERIFY(description.type("@stockWeight", "160"));
+            QVERIFY(description.click("@okButton"));
+        });
+        QVERIFY(front.click("@advancedStockDescription"));
+    };
+    const QString choose = QStringLiteral("Choose a named paper");
+    QTest::newRow("as it is") << "" << nothing << "Blue card"
+                              << "Blue card";
+    QTest::newRow("as it is, described") << "For menus" << nothing << "Blue card"
+                                         << "For menus";
+    QTest::newRow("another color") << "" << color << choose << "";
+    QTest::newRow("another color, described") << "For menus" << color << choose << "For menus";
+    QTest::newRow("another weight") << "" << weight << choose << "";
+    QTest::newRow("another weight, described") << "For menus" << weight << choose << "For menus";
+}
+
+void TestStockDialogs::libraryStocksAreCalledByTheirNameUntilChanged()
+{
+    QFETCH(QString, own);
+    QFETCH(std::function<void(const Front &)>, change);
+    QFETCH(QString, shown);
+    QFETCH(QString, description);
     Stock named;
     named.setWidth(10000); // a custom size, which covers cannot have
     named.setColor(kBlue);
     named.setWeight(250);
+    named.setDescription(own);
     QCOMPARE(saveInStockLibrary("Blue card", named), LibraryProblem::None);
     Stock stock;
     DefaultStock(&stock, kJobContextCovers);
-    inNextDialog([](const Front &front) {
+    inNextDialog([&](const Front &front) {
         QVERIFY(!front.isEnabled("@removeFromLibrary"));
         QVERIFY(front.choose("@stockLibrary", 0));
         QVERIFY(front.isEnabled("@removeFromLibrary"));
-        QCOMPARE(front.text("@advancedStockSummary"),
-                 QStringLiteral("Name: Blue card\n- Blue\n- 250 g/m²"));
+        QVERIFY(front.text("@advancedStockSummary").startsWith("Name: Blue card\n- Blue\n"));
+        change(front);
+        QCOMPARE(front.text("@stockLibrary"), shown);
+        QCOMPARE(front.text("@advancedStockSummary").contains("Blue card"), shown == "Blue card");
         QVERIFY(front.click("@okButton"));
     });
     QCOMPARE(RunModalAdvancedStockSelection(m_bundle, kDialogModeEdit, kJobContextCovers,
                                             kNamedPaperLibrary, &stock, &m_result),
              noErr);
-    QCOMPARE(stock.description(), QStringLiteral("Blue card"));
-    QCOMPARE(stock.color(), kBlue);
-    QCOMPARE(stock.weight(), 250);
+    QCOMPARE(stock.description(), description);
     QCOMPARE(stock.size(), kUnset);
+
+    // Also when it is opened again, and changed by the menu of its button.
+    forgetStockName(stock);
+    inNextDialog([&](const Front &front) { QCOMPARE(front.text("@stockLibrary"), shown); });
+    RunModalAdvancedStockSelection(m_bundle, kDialogModeEdit, kJobContextCovers, kNamedPaperLibrary,
+                                   &stock, &m_result);
+    _StockMenuCommandEventHandlerData data{m_bundle, &stock, kJobContextCovers};
+    Event event;
+    event.kind = EventKind::Command;
+    event.command = kCommandStockColor;
+    event.reference = 5;
+    QCOMPARE(StockMenuCommandEventHandler(event, &data), noErr);
+    QCOMPARE(stock.description(), own);
 }
 
 void TestStockDialogs::libraryIsKeptInTheWindow()
