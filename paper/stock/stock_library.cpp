@@ -125,12 +125,19 @@ LibraryProblem removeFromStockLibrary(const QString &name)
     return isWritten ? problem : LibraryProblem::NotWritten;
 }
 
-Stock takenFromLibrary(const Stock &named, const Stock &current, JobContext jobContext)
+OwnSize ownSizeFor(JobContext jobContext, bool offersSize)
+{
+    // The job's own size belongs to the page set-up.
+    if (jobContext == kJobContextJob || !offersSize)
+        return OwnSize::None;
+    return jobContext == kJobContextCovers ? OwnSize::NotCustom : OwnSize::Any;
+}
+
+Stock takenFromLibrary(const Stock &named, const Stock &current, OwnSize ownSize)
 {
     Stock taken = tidied(named);
-    const bool isJob = jobContext == kJobContextJob;
-    const bool cannotBeCustom = jobContext == kJobContextCovers && named.size() == kStockSizeCustom;
-    if (isJob || cannotBeCustom) {
+    const bool cannotBeCustom = ownSize == OwnSize::NotCustom && named.size() == kStockSizeCustom;
+    if (ownSize == OwnSize::None || cannotBeCustom) {
         taken.setSize(current.size());
         if (current.size() == kStockSizeCustom) {
             taken.setWidth(current.width());
@@ -143,11 +150,11 @@ Stock takenFromLibrary(const Stock &named, const Stock &current, JobContext jobC
 }
 
 std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, const Stock &stock,
-                                         JobContext jobContext)
+                                         OwnSize ownSize)
 {
     const Stock nameless = withoutName(stock);
     const auto found = std::ranges::find_if(library, [&](const Stock &named) {
-        return withoutName(takenFromLibrary(named, stock, jobContext)) == nameless;
+        return withoutName(takenFromLibrary(named, stock, ownSize)) == nameless;
     });
     if (found == library.end())
         return std::nullopt;
@@ -155,11 +162,11 @@ std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, cons
 }
 
 void leaveLibrary(Stock &stock, const Stock &before, const std::vector<Stock> &library,
-                  JobContext jobContext)
+                  OwnSize ownSize)
 {
     if (stock.description() != before.description() || withoutName(stock) == withoutName(before))
         return;
-    const std::optional<std::size_t> row = findInLibrary(library, before, jobContext);
+    const std::optional<std::size_t> row = findInLibrary(library, before, ownSize);
     if (row && library[*row].description().isEmpty())
         stock.setDescription(QStringLiteral(""));
 }

@@ -77,11 +77,12 @@ Stock freshStock(JobContext jobContext)
 class AdvancedStockWindow
 {
 public:
-    AdvancedStockWindow(CFBundleRef bundle, QWidget *window, JobContext jobContext,
+    AdvancedStockWindow(CFBundleRef bundle, QWidget *window, JobContext jobContext, OwnSize ownSize,
                         bool offersLibrary, const Stock &stock)
         : m_bundle(bundle)
         , m_window(window)
         , m_jobContext(jobContext)
+        , m_ownSize(ownSize)
         , m_summary(findControl<SummaryView>(window, kSummary))
         , m_library(findControl<PopupButton>(window, kLibraryPopup))
         , m_remove(findControl<QPushButton>(window, kRemoveButton))
@@ -93,13 +94,13 @@ public:
         fillStockColorPopup(bundle, m_color, jobContext);
         setInputLimits(m_colorName, {.maximumLength = kLongestStockText});
 
+        const bool hasSize = ownSize != OwnSize::None;
         m_sizeData.bundle = bundle;
         m_sizeData.stock = &m_stock;
         m_sizeData.jobContext = jobContext;
+        m_sizeData.offersSize = hasSize;
         m_sizeData.icon = findControl<PictureView>(window, kIcon);
         m_sizeData.changed = [this] { show(); };
-        // The job's own size belongs to the page set-up.
-        const bool hasSize = jobContext != kJobContextJob;
         setVisibleWithLabel(m_size, hasSize);
         if (hasSize)
             InitializeStockSizeMenuButton(m_size, &m_sizeData);
@@ -177,7 +178,7 @@ private:
         if (m_stock == before)
             return;
         forgetStockName(m_stock);
-        leaveLibrary(m_stock, before, m_named, m_jobContext);
+        leaveLibrary(m_stock, before, m_named, m_ownSize);
     }
 
     void runType()
@@ -197,7 +198,7 @@ private:
     bool takeFromLibrary(std::int32_t row)
     {
         if (row >= 0 && row < static_cast<std::int32_t>(m_named.size())) {
-            replaceStock(takenFromLibrary(m_named[row], m_stock, m_jobContext));
+            replaceStock(takenFromLibrary(m_named[row], m_stock, m_ownSize));
             m_libraryName = m_named[row].customName();
         }
         return true;
@@ -207,7 +208,7 @@ private:
     {
         // What a library's name describes is saved without that.
         Stock own = tidied(m_stock);
-        const auto row = findInLibrary(m_named, m_stock, m_jobContext);
+        const auto row = findInLibrary(m_named, m_stock, m_ownSize);
         if (row && m_named[*row].description().isEmpty())
             own.setDescription(QStringLiteral(""));
         const std::optional<QString> name = RunModalSaveStock(
@@ -215,7 +216,7 @@ private:
             m_window);
         if (name) {
             own.setCustomName(*name);
-            replaceStock(takenFromLibrary(own, m_stock, m_jobContext));
+            replaceStock(takenFromLibrary(own, m_stock, m_ownSize));
             m_libraryName = *name;
             fillLibrary();
         }
@@ -267,10 +268,10 @@ private:
     {
         for (std::size_t row = 0; row < m_named.size(); ++row) {
             if (sameStockName(m_named[row].customName(), m_libraryName)
-                && findInLibrary({m_named[row]}, m_stock, m_jobContext))
+                && findInLibrary({m_named[row]}, m_stock, m_ownSize))
                 return static_cast<std::int32_t>(row);
         }
-        const auto found = findInLibrary(m_named, m_stock, m_jobContext);
+        const auto found = findInLibrary(m_named, m_stock, m_ownSize);
         return found ? static_cast<std::int32_t>(*found) : kNoLibraryStock;
     }
 
@@ -298,6 +299,7 @@ private:
     CFBundleRef m_bundle;
     QWidget *m_window;
     JobContext m_jobContext;
+    OwnSize m_ownSize;
     SummaryView *m_summary;
     PopupButton *m_library;
     QPushButton *m_remove;
@@ -314,7 +316,7 @@ private:
 
 OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode, JobContext jobContext,
                                         NamedPaperContext namedPapers, Stock *stock,
-                                        DialogResult *result, QWidget *parent)
+                                        DialogResult *result, QWidget *parent, bool offersSize)
 {
     if (!bundle || !stock || !result)
         return paramErr;
@@ -322,8 +324,8 @@ OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode, JobConte
     const auto dialog = createModalDialog(bundle, name, name, parent);
     if (!dialog)
         return kWindowNotMade;
-    AdvancedStockWindow window(bundle, dialog.get(), jobContext, namedPapers == kNamedPaperLibrary,
-                               *stock);
+    AdvancedStockWindow window(bundle, dialog.get(), jobContext, ownSizeFor(jobContext, offersSize),
+                               namedPapers == kNamedPaperLibrary, *stock);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
     dialog->setAcceptRule([&window] { return window.mayAccept(); });
