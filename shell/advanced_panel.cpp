@@ -117,7 +117,7 @@ void fillPopups(AdvancedContext &advanced, const QWidget *content)
 void buildContent(AdvancedContext &advanced)
 {
     QWidget *content = createPanelContent(advanced.bundle, QStringLiteral("AdvancedPanel"),
-                                          QStringLiteral("Advanced"));
+                                          QStringLiteral("Advanced"), advanced.parentUserPane);
     if (!content)
         return;
     fillPopups(advanced, content);

@@ -216,7 +216,7 @@ OSStatus initializeSavedJob(SavedJobContext &context, QWidget *parent)
     context.window = createModalDialog(context.bundle, QStringLiteral("JobTypes"),
                                        QStringLiteral("SavedJob"), parent);
     if (!context.window || !findControls(context) || !windowDefaultButton(context.name))
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     showJobTypePicture(context.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_SavedJob.gif"),
                        QStringLiteral("Save to Mailbox Command"));

@@ -321,7 +321,10 @@ OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode, JobConte
     if (!bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("AdvancedStockSelection");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog = createModalDialog(bundle, name, name, parent,
+                                          {kSummary, kLibraryPopup, kSaveButton, kRemoveButton,
+                                           kSizeButton, kColorPopup, kColorNameField, kTypeButton,
+                                           kDescriptionButton, kLibraryHint});
     if (!dialog)
         return kWindowNotMade;
     AdvancedStockWindow window(bundle, dialog.get(), jobContext, ownSizeFor(jobContext, offersSize),

@@ -22,6 +22,9 @@ namespace kelvo {
 
 namespace {
 
+// Each with its unit and its limits at the two numbers after it.
+constexpr ControlID kWidthField{kPanelSignature, 7001};
+constexpr ControlID kLengthField{kPanelSignature, 7004};
 constexpr ControlID kUnitRadio{kPanelSignature, 7007};
 constexpr ControlID kPictureView{kPanelSignature, 7008};
 
@@ -32,10 +35,10 @@ struct LengthControls
     QLabel *unit = nullptr;
     QLabel *limits = nullptr;
 
-    LengthControls(const QWidget *window, std::int32_t number)
-        : field(findControl<SpinField>(window, {kPanelSignature, number}))
-        , unit(findControl<QLabel>(window, {kPanelSignature, number + 1}))
-        , limits(findControl<QLabel>(window, {kPanelSignature, number + 2}))
+    LengthControls(const QWidget *window, ControlID id)
+        : field(findControl<SpinField>(window, id))
+        , unit(findControl<QLabel>(window, {id.signature, id.number + 1}))
+        , limits(findControl<QLabel>(window, {id.signature, id.number + 2}))
     {
         makeHintText(limits);
     }
@@ -69,8 +72,8 @@ public:
     CustomSizeWindow(CFBundleRef bundle, const QWidget *window, std::int32_t width,
                      std::int32_t length)
         : m_bundle(bundle)
-        , m_width(window, 7001)
-        , m_length(window, 7004)
+        , m_width(window, kWidthField)
+        , m_length(window, kLengthField)
         , m_unitRadio(findControl<RadioGroup>(window, kUnitRadio))
     {
         showBundlePicture(findControl<PictureView>(window, kPictureView), bundle,
@@ -169,7 +172,8 @@ OSStatus RunModalCustomStockSizeDialog(CFBundleRef bundle, DialogResult *result,
     if (!bundle || !result || !width || !length)
         return paramErr;
     const QString name = QStringLiteral("CustomStockSize");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog =
+        createModalDialog(bundle, name, name, parent, {kWidthField, kLengthField, kUnitRadio});
     if (!dialog)
         return kWindowNotMade;
     const auto [usualWidth, usualLength] = defaultSize();

@@ -112,7 +112,8 @@ OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock, _IS
     if (!bundle || !stock || !options || !result)
         return paramErr;
     const auto dialog = createModalDialog(bundle, QStringLiteral("StockTypeSetupDialogs"),
-                                          QStringLiteral("TabStockSetup"), parent);
+                                          QStringLiteral("TabStockSetup"), parent,
+                                          {kTemplatePopup, kShiftField, kUnitRadio});
     if (!dialog)
         return kWindowNotMade;
     TabShiftWindow window(bundle, dialog.get(), *options);
@@ -130,7 +131,7 @@ OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode, JobContext,
     if (!bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("PreCutTabStockSetup");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog = createModalDialog(bundle, name, name, parent, {kTabsField});
     if (!dialog)
         return kWindowNotMade;
     auto *field = findControl<SpinField>(dialog.get(), kTabsField);

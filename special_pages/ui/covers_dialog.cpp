@@ -263,7 +263,7 @@ OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget
     context.window = createModalDialog(context.bundle, QStringLiteral("SpecialPages"),
                                        QStringLiteral("Basic Covers"), parent);
     if (!context.window)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     const QWidget *window = context.window.get();
     context.picture = findControl<PictureView>(window, kPicture);
     context.options = findControl<PopupButton>(window, kOptions);
@@ -272,7 +272,7 @@ OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget
                            "KVFrontCoverSheet", kCommandFrontSides)
         || !initializeSide(context, context.back, context.covers.back, kBackControls,
                            "KVBackCoverSheet", kCommandBackSides))
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     fillOptions(context.bundle, context.options);
     showJobPaper(context.bundle, findControl<QLabel>(window, kJobPaper), jobStock);
     context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {

@@ -273,7 +273,7 @@ OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock,
     context.window = createModalDialog(bundle, QStringLiteral("SpecialPages"),
                                        QStringLiteral("Basic Exceptions"), parent);
     if (!context.window)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     const QWidget *window = context.window.get();
     auto *pagesHint = findControl<QLabel>(window, kPagesHint);
     context.stock.bundle = bundle;
@@ -281,7 +281,7 @@ OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock,
     context.stock.jobContext = kJobContextExceptions;
     if (!pagesHint || !findControls(context)
         || !initializeStockControls(context.stock, window, kStockControls))
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     // Asked before the button's own, which knows nothing of the image shift.
     context.stockHandler =
         installEventHandler(context.stock.button, [&context](const Event &event) {

@@ -7,6 +7,7 @@
 #include "ticket.h"
 #include "ticket_values.h"
 
+#include <QLabel>
 #include <QTest>
 
 using namespace kelvo;
@@ -228,6 +229,8 @@ void TestSpecialPagesPanel::saysOnStandardOutputWhyItIsEmpty()
     out.seek(0);
     const QByteArray said = out.readAll();
     QVERIFY2(said.endsWith(message), said.constData());
+    const auto *label = panel.pane.findChild<QLabel *>("panelNotMade");
+    QVERIFY(label && label->text().contains("SpecialPages/SpecialPages"));
     // It goes on without its pane.
     QCOMPARE(panel.sync(kSyncWrite), noErr);
 }
