@@ -152,6 +152,19 @@ public:
 private:
     bool handleHit(ControlID control)
     {
+        if (control == kLibraryPopup)
+            takeFromLibrary(m_library->chosenReference());
+        else if (control == kSaveButton)
+            save();
+        else if (control == kRemoveButton)
+            remove();
+        else
+            return changeStock(control);
+        return true;
+    }
+
+    bool changeStock(ControlID control)
+    {
         const Stock before = m_stock;
         if (control == kColorPopup)
             applyStockCommand(m_stock, kCommandStockColor, m_color->chosenReference(),
@@ -160,12 +173,6 @@ private:
             runType();
         else if (control == kDescriptionButton)
             runDescription();
-        else if (control == kLibraryPopup)
-            return takeFromLibrary(m_library->chosenReference());
-        else if (control == kSaveButton)
-            return save();
-        else if (control == kRemoveButton)
-            return remove();
         else
             return false;
         settle(before);
@@ -195,16 +202,15 @@ private:
                                       m_window);
     }
 
-    bool takeFromLibrary(std::int32_t row)
+    void takeFromLibrary(std::int32_t row)
     {
         if (row >= 0 && row < static_cast<std::int32_t>(m_named.size())) {
             replaceStock(takenFromLibrary(m_named[row], m_stock, m_ownSize));
             m_libraryName = m_named[row].customName();
         }
-        return true;
     }
 
-    bool save()
+    void save()
     {
         // What a library's name describes is saved without that.
         Stock own = tidied(m_stock);
@@ -220,18 +226,16 @@ private:
             m_libraryName = *name;
             fillLibrary();
         }
-        return true;
     }
 
-    bool remove()
+    void remove()
     {
         const QString name = chosenName();
         if (name.isEmpty() || !mayChangeLibrary(m_bundle, QStringLiteral("Remove"), name, m_window))
-            return true;
+            return;
         showLibraryProblem(m_bundle, removeFromStockLibrary(name), name, m_window);
         m_libraryName.clear();
         fillLibrary();
-        return true;
     }
 
     // The library's stock that the pop-up shows; empty when it shows none.
