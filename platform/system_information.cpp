@@ -91,6 +91,12 @@ std::optional<QByteArray> defaultRouteInterface(const QByteArray &routeTable)
     return best;
 }
 
+QLocale::MeasurementSystem measurementSystem()
+{
+    const QLocale::MeasurementSystem system = QLocale().measurementSystem();
+    return system == QLocale::ImperialUKSystem ? QLocale::MetricSystem : system;
+}
+
 std::optional<QString> primaryIPv4Address()
 {
     const auto table = readFile(QStringLiteral("/proc/net/route"), limits::MiB);

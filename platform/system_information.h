@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLocale>
 #include <QString>
 
 #include <optional>
 
-// Who sits at which computer. Nothing here blocks on the network.
+// Who sits at which computer, and how they measure. Nothing here blocks on the network.
 namespace kelvo {
 
 // The user of the login session that this process belongs to (logind), else
@@ -13,6 +14,10 @@ namespace kelvo {
 std::optional<QString> consoleUser();
 
 std::optional<QString> computerName(); // the host name
+
+// The default locale's. Metric for Britain too, which measures its paper in
+// millimetres, whatever its roads are measured in.
+QLocale::MeasurementSystem measurementSystem();
 
 // The first IPv4 address of the default route's interface, in dotted form.
 std::optional<QString> primaryIPv4Address();

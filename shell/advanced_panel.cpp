@@ -129,7 +129,7 @@ void fillPopups(AdvancedContext &advanced)
 void buildContent(AdvancedContext &advanced)
 {
     QWidget *content = createPanelContent(advanced.bundle, QStringLiteral("AdvancedPanel"),
-                                          QStringLiteral("Advanced"));
+                                          QStringLiteral("Advanced"), advanced.parentUserPane);
     if (!content)
         return;
     advanced.content = content;

@@ -305,9 +305,7 @@ void embedUserPanes(PDEShellContext &shell, QSize least)
     for (const PanelRecord &panel : shell.panels) {
         if (!panel.userPane)
             continue;
-        QSizePolicy policy = panel.userPane->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        panel.userPane->setSizePolicy(policy);
+        keepPlaceWhenHidden(panel.userPane);
         cell->addWidget(panel.userPane, 0, 0);
     }
 }

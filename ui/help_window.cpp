@@ -1,6 +1,7 @@
 #include "help_window.h"
 
 #include "control_support.h"
+#include "notice.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -261,6 +262,19 @@ OSStatus DisplayHelp(const QString &page, QWidget *parent)
     window->raise();
     window->activateWindow();
     return noErr;
+}
+
+OSStatus showHelp(const QString &page, QWidget *parent)
+{
+    const OSStatus status = DisplayHelp(page, parent);
+    if (status == noErr)
+        return status;
+    CFUserNotificationDisplayNotice(
+        NoticeLevel::Caution, words("There is no help for this"),
+        words("The page “%1” is missing. Install the software again, or tell your administrator.")
+            .arg(page),
+        {}, parent);
+    return status;
 }
 
 void addHelpFolder(const QString &folder)

@@ -19,6 +19,9 @@ OSStatus AHRegisterHelpBook(CFBundleRef bundle);
 // while a modal dialog is open, and stays when that closes.
 OSStatus DisplayHelp(const QString &page = {}, QWidget *parent = nullptr);
 
+// The same for a button or a key: where there is no such page a notice says so first.
+OSStatus showHelp(const QString &page, QWidget *parent);
+
 // An additional folder of help pages, asked after the books: the host's own.
 void addHelpFolder(const QString &folder);
 

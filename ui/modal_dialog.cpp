@@ -74,7 +74,7 @@ ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
             reject();
             return noErr;
         case kCommandHelp:
-            return DisplayHelp(content->property("helpPage").toString(), this);
+            return showHelp(content->property("helpPage").toString(), this);
         }
         return eventNotHandledErr;
     });

@@ -86,8 +86,14 @@ SpinField::SpinField(QWidget *parent)
 
 void SpinField::setValue(int value)
 {
-    m_value = std::clamp(value, m_minimum, m_maximum);
+    m_value = allowed(value);
     showValue(m_value);
+}
+
+void SpinField::setClamping(bool isClamping)
+{
+    m_isClamping = isClamping;
+    setValue(m_value);
 }
 
 void SpinField::setMinimum(int minimum)
@@ -187,7 +193,7 @@ void SpinField::fixup(QString &input) const
 {
     int value = m_value;
     valueFrom(input, &value);
-    input = textFor(std::clamp(value, m_minimum, m_maximum));
+    input = textFor(allowed(value));
 }
 
 QSize SpinField::sizeHint() const
@@ -274,6 +280,11 @@ bool SpinField::valueFrom(const QString &text, int *value) const
     *value = static_cast<int>(std::clamp<std::int64_t>(typed.value, std::numeric_limits<int>::min(),
                                                        std::numeric_limits<int>::max()));
     return true;
+}
+
+int SpinField::allowed(int value) const
+{
+    return m_isClamping ? std::clamp(value, m_minimum, m_maximum) : value;
 }
 
 void SpinField::changeTo(int value)

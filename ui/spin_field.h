@@ -10,8 +10,8 @@ namespace kelvo {
 // A number with two arrows. The value is an integer of `decimals` decimal
 // places: 1234 with 2 decimals shows 12.34 in the user's locale. Typed text
 // becomes a value when the field is left or Return is pressed; what is outside
-// the range becomes the nearest limit, what is no number leaves the value as it
-// was. Thousands separators are neither shown nor taken. Sends TextChanged while
+// the range becomes the nearest limit (but see setClamping), what is no number leaves
+// the value as it was. Thousands separators are neither shown nor taken. Sends TextChanged while
 // typing, ControlHit when the value changes by the user and FocusChanged when it
 // is left. Page Up and Page Down take ten steps.
 class SpinField : public QAbstractSpinBox
@@ -23,12 +23,19 @@ class SpinField : public QAbstractSpinBox
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
     Q_PROPERTY(int value READ value WRITE setValue)
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
+    Q_PROPERTY(bool clamping READ isClamping WRITE setClamping)
 
 public:
     explicit SpinField(QWidget *parent = nullptr);
 
     int value() const { return m_value; }
     void setValue(int value); // silent, clamped
+    // Without clamping (it begins with it) a value may lie outside the range and is shown
+    // as it is, for an owner that would rather say so than change what was typed. Only
+    // the arrows keep to the range then.
+    bool isClamping() const { return m_isClamping; }
+    void setClamping(bool isClamping);
+    bool isInRange() const { return m_value >= m_minimum && m_value <= m_maximum; }
     int minimum() const { return m_minimum; }
     void setMinimum(int minimum);
     int maximum() const { return m_maximum; }
@@ -61,10 +68,12 @@ protected:
 private:
     QString textFor(int value) const;
     bool valueFrom(const QString &text, int *value) const; // the unclamped number
+    int allowed(int value) const;                          // clamped, unless it is not clamping
     void changeTo(int value);
     void showValue(int value);
 
     int m_value = 0, m_minimum = 0, m_maximum = 99, m_decimals = 0, m_singleStep = 1;
+    bool m_isClamping = true;
     QString m_suffix;
 };
 

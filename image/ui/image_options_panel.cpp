@@ -23,7 +23,7 @@ ImageOptionsPanelContext *panelOf(PMPDEContext context)
 void buildContent(ImageOptionsPanelContext &panel)
 {
     panel.content = createPanelContent(panel.bundle, QStringLiteral("ImageOptionsPanel"),
-                                       QStringLiteral("ImageOptions"));
+                                       QStringLiteral("ImageOptions"), panel.parentUserPane);
     if (!panel.content)
         return;
     fillImageOptionsControls(panel);

@@ -142,21 +142,32 @@ std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const Pp
     return choices;
 }
 
-std::size_t initialChoice(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
-                          const Finishing &finishing)
+std::optional<std::size_t> findSetChoice(FinishingDialogKind kind,
+                                         const std::vector<FinishingChoice> &choices,
+                                         const Finishing &finishing)
 {
     const auto found = std::ranges::find(choices, currentValue(settingOf(kind), finishing),
                                          &FinishingChoice::value);
-    return found == choices.end() ? 0 : static_cast<std::size_t>(found - choices.begin());
+    if (found == choices.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - choices.begin());
+}
+
+std::size_t initialChoice(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
+                          const Finishing &finishing)
+{
+    const std::size_t set = findSetChoice(kind, choices, finishing).value_or(0);
+    const bool isStapleToChoose = settingOf(kind) == Setting::Staple && choices.size() > 1;
+    return set == 0 && isStapleToChoose ? 1 : set;
 }
 
 const char *replacedFinishing(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
                               const Finishing &finishing)
 {
+    if (findSetChoice(kind, choices, finishing))
+        return nullptr;
     const Setting setting = settingOf(kind);
     const std::int32_t value = currentValue(setting, finishing);
-    if (std::ranges::find(choices, value, &FinishingChoice::value) != choices.end())
-        return nullptr;
     for (const ChoiceRow &row : kRows) {
         if (row.setting == setting && row.choice.value == value)
             return row.choice.key;

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 // What the dialogs of stapling, punching, folding and binding offer, and what
@@ -37,8 +38,14 @@ struct FinishingChoice
 // that there is nothing to choose. Binding has no choices in a PPD.
 std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const PpdFile *ppd);
 
-// The line that the dialog begins with: the one that is set, else "none".
-// `choices` has at least that one.
+// The line of what is set; none where this dialog does not offer it.
+std::optional<std::size_t> findSetChoice(FinishingDialogKind kind,
+                                         const std::vector<FinishingChoice> &choices,
+                                         const Finishing &finishing);
+
+// The line that the dialog begins with: the one that is set, else "none". The two
+// staple dialogs are called for what they offer, and begin with that where no staple
+// of theirs is set. `choices` has at least "none".
 std::size_t initialChoice(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
                           const Finishing &finishing);
 

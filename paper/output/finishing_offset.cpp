@@ -1,6 +1,7 @@
 #include "finishing_offset.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kelvo {
 
@@ -40,6 +41,7 @@ void storeOffset(Finishing &finishing, const OffsetSettings &settings)
 OffsetSettings withOffset(OffsetSettings settings, std::int32_t offset)
 {
     settings.offset = offset;
+    settings.earlierOffset.reset();
     if (dividesSets(offset)) {
         settings.hasSubsets = true;
     } else if (keepsSetsWhole(offset)) {
@@ -51,18 +53,20 @@ OffsetSettings withOffset(OffsetSettings settings, std::int32_t offset)
 
 OffsetSettings withSubsets(OffsetSettings settings, bool hasSubsets)
 {
-    settings.hasSubsets = hasSubsets;
-    if (hasSubsets)
+    if (hasSubsets == settings.hasSubsets)
         return settings;
+    if (hasSubsets && settings.earlierOffset)
+        return withOffset(settings, *settings.earlierOffset);
+    settings.hasSubsets = hasSubsets;
     settings.pagesPerSubset = 0;
     if (dividesSets(settings.offset))
-        settings.offset = kOffsetSets;
+        settings.earlierOffset = std::exchange(settings.offset, kOffsetSets);
     return settings;
 }
 
 bool isSubsetSwitchEnabled(const OffsetSettings &settings)
 {
-    return !keepsSetsWhole(settings.offset);
+    return !keepsSetsWhole(settings.offset) || settings.earlierOffset;
 }
 
 QString offsetPicture(std::int32_t offset)

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 // The rules of the offset dialog: which sets, and which parts of them, the
 // device moves aside.
@@ -17,6 +18,9 @@ struct OffsetSettings
     std::int32_t offset = kOffsetNone; // kOffset…
     bool hasSubsets = false;
     std::int32_t pagesPerSubset = 0;
+    // Of subsets, as it was before the user turned them off; none once another offset
+    // has been chosen.
+    std::optional<std::int32_t> earlierOffset = {};
 
     friend bool operator==(const OffsetSettings &, const OffsetSettings &) = default;
 };
@@ -26,7 +30,8 @@ OffsetSettings offsetOf(const Finishing &finishing);
 // What OK stores. Pages per subset only with subsets.
 void storeOffset(Finishing &finishing, const OffsetSettings &settings);
 
-// The user chose `offset`, or switched subsets.
+// The user chose `offset`, or switched subsets. Turning them off and on again brings
+// back the offset that there was.
 OffsetSettings withOffset(OffsetSettings settings, std::int32_t offset);
 OffsetSettings withSubsets(OffsetSettings settings, bool hasSubsets);
 

@@ -1,6 +1,6 @@
 #include "job_type_setup.h"
 
-#include "job_types.h"
+#include "paper_output_context.h"
 
 namespace kelvo {
 
@@ -17,6 +17,18 @@ bool hasJobTypeSetup(std::int32_t jobType)
     default:
         return false;
     }
+}
+
+void changeJobType(_PaperOutputContext &context, std::int32_t jobType)
+{
+    if (jobType != context.jobType)
+        context.passcode.reset();
+    context.jobType = jobType;
+}
+
+bool lacksPasscode(const _PaperOutputContext &context)
+{
+    return context.jobType == kJobTypeSecurePrint && context.passcode.value_or(QString()).isEmpty();
 }
 
 } // namespace kelvo

@@ -4,7 +4,17 @@
 
 namespace kelvo {
 
+struct _PaperOutputContext;
+
 // The set-up button is enabled for these job types; two of them open nothing.
 bool hasJobTypeSetup(std::int32_t jobType);
+
+// The user chose `jobType`. A passcode belongs to the job type that it was entered
+// for: another one would lock its job with a code that nobody entered for it, or keep
+// it from queues that hold no secrets.
+void changeJobType(_PaperOutputContext &context, std::int32_t jobType);
+
+// A secure print that cannot be printed yet, as it has no passcode.
+bool lacksPasscode(const _PaperOutputContext &context);
 
 } // namespace kelvo

@@ -30,7 +30,7 @@ OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
                                           QStringLiteral("CustomFinishing"), parent);
     auto *text = dialog ? findControl<QLineEdit>(dialog.get(), kText) : nullptr;
     if (!text)
-        return kWindowNotMade;
+        return windowNotMade(bundle, dialog.get());
     makeHintText(findControl<QLabel>(dialog.get(), kHint));
     text->setText(context->finishing.custom);
     setInputLimits(text, {.maximumLength = kLongestText});

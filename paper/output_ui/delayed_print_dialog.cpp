@@ -55,11 +55,11 @@ OSStatus initializeDelayedPrint(_DelayedPrintContext &context, LongDateTime time
     context.window = createModalDialog(context.bundle, QStringLiteral("JobTypes"),
                                        QStringLiteral("DelayedPrint"), parent);
     if (!context.window)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     context.time = findControl<TimeField>(context.window.get(), kTimeField);
     context.day = findControl<QLabel>(context.window.get(), kDayText);
     if (!context.time || !context.day)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     showJobTypePicture(context.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_DelayPrint.gif"), QStringLiteral("DelayedPrint"));
     // Half a typed time changes nothing here but the sentence beside it.

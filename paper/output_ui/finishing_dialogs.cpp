@@ -98,7 +98,7 @@ void showChoice(const ChoiceDialog &dialog)
 OSStatus choiceEventHandler(ChoiceDialog &dialog, const Event &event)
 {
     if (event.kind == EventKind::Command && event.command == kCommandHelp)
-        return DisplayHelp(QString::fromLatin1(rowOf(dialog.kind).helpPage), dialog.window.get());
+        return showHelp(QString::fromLatin1(rowOf(dialog.kind).helpPage), dialog.window.get());
     if (event.kind != EventKind::ControlHit || event.control != kChoice)
         return eventNotHandledErr;
     dialog.chosen = static_cast<std::size_t>(dialog.choice->value() - 1);
@@ -173,13 +173,14 @@ ChoiceDialog CreateFinishingDialog(CFBundleRef bundle, FinishingDialogKind kind,
     dialog.context = &context;
     dialog.choices = finishingChoices(kind, PPDGetCurrent());
     dialog.chosen = initialChoice(kind, dialog.choices, context.finishing);
-    auto window = createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
-                                    QStringLiteral("ChoiceDialog"), parent);
+    auto window =
+        createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
+                          QStringLiteral("ChoiceDialog"), parent, {kChoice, kPicture, kChoiceHint});
+    if (!window)
+        return dialog;
     dialog.choice = findControl<PopupButton>(window.get(), kChoice);
     dialog.picture = findControl<PictureView>(window.get(), kPicture);
     dialog.hint = findControl<QLabel>(window.get(), kChoiceHint);
-    if (!dialog.choice || !dialog.hint)
-        return dialog;
     dialog.window = std::move(window);
     fillChoices(dialog);
     setEnabledWithLabel(dialog.choice, dialog.choices.size() > 1);
@@ -235,7 +236,7 @@ void MarkMoreFinishingMenu(Menu &menu, const _PaperOutputContext &context)
         const auto row = std::ranges::find(kDialogRows, item.command, &DialogRow::menuCommand);
         if (row != std::end(kDialogRows)) {
             const auto choices = finishingChoices(row->kind, PPDGetCurrent());
-            item.checked = initialChoice(row->kind, choices, finishing) != 0;
+            item.checked = findSetChoice(row->kind, choices, finishing).value_or(0) != 0;
         } else if (item.command == kCommandOffsetDialog) {
             item.checked = finishing.offset >= kOffsetSets;
         } else if (item.command == kCommandCustomFinishingDialog) {

@@ -103,13 +103,13 @@ OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
                                       QStringLiteral("OffsetDialog"), parent);
     QWidget *window = dialog.window.get();
     if (!window)
-        return kWindowNotMade;
+        return windowNotMade(bundle, dialog.window.get());
     dialog.offset = findControl<PopupButton>(window, kOffset);
     dialog.picture = findControl<PictureView>(window, kPicture);
     dialog.subsets = findControl<QCheckBox>(window, kSubsets);
     dialog.pagesPerSubset = findControl<SpinField>(window, kPagesPerSubset);
     if (!dialog.offset || !dialog.subsets || !dialog.pagesPerSubset)
-        return kWindowNotMade;
+        return windowNotMade(bundle, dialog.window.get());
     makeHintText(findControl<QLabel>(window, kHint));
     dialog.pagesPerSubset->setMaximum(kMostPagesPerSubset);
     fillOffsets(dialog);

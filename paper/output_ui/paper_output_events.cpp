@@ -4,6 +4,7 @@
 #include "covers_dialog.h"
 #include "delayed_print_dialog.h"
 #include "finishing_dialogs.h"
+#include "job_type_setup.h"
 #include "lan_fax_setup.h"
 #include "popups.h"
 #include "saved_job_dialog.h"
@@ -39,15 +40,12 @@ void runJobTypeSetup(PaperOutputPanelContext &panel)
     default: // the button of some job types is enabled and opens nothing
         break;
     }
+    showJobType(panel);
 }
 
 void chooseJobType(PaperOutputPanelContext &panel)
 {
-    panel.jobType = GetPopupButtonTicketValue(panel.controls.jobType);
-    // A code that nobody will be asked for would only keep the job from queues that
-    // hold no secrets.
-    if (panel.jobType != kJobTypeSecurePrint && panel.jobType != kJobTypeSaved)
-        panel.passcode.reset();
+    changeJobType(panel, GetPopupButtonTicketValue(panel.controls.jobType));
     showJobType(panel);
     // A job type that needs a set-up asks for it at once.
     if (panel.controls.jobTypeSetup && panel.controls.jobTypeSetup->isEnabled())

@@ -49,7 +49,7 @@ void runFaxSetupFor(PMPDEContext context)
 void buildContent(PaperOutputPanelContext &panel)
 {
     panel.content = createPanelContent(panel.bundle, QStringLiteral("PaperOutputPanel"),
-                                       QStringLiteral("PaperOutput"));
+                                       QStringLiteral("PaperOutput"), panel.parentUserPane);
     if (!panel.content)
         return;
     panel.controls = findPaperOutputControls(panel.content);

@@ -86,6 +86,7 @@ PaperOutputControls findPaperOutputControls(const QWidget *content)
         .jobType = findControl<PopupButton>(content, id(kJobTypePopup)),
         .jobTypeSetup = findControl<QPushButton>(content, id(kJobTypeSetupButton)),
         .jobTypeIcon = findControl<PictureView>(content, id(104)),
+        .jobTypeHint = findControl<QLabel>(content, id(1021)),
         .stockButton = findControl<MenuButton>(content, id(106)),
         .stockSummary = findControl<SummaryView>(content, id(107)),
         .stockIcon = findControl<PictureView>(content, id(108)),
@@ -143,6 +144,11 @@ void showJobType(const PaperOutputPanelContext &panel)
     showChoice(panel.bundle, panel.controls.jobType, panel.jobType);
     EnableDisableJobTypeSetupButton(panel);
     showBundlePicture(panel.controls.jobTypeIcon, panel.bundle, jobTypePicture(panel.jobType));
+    if (QLabel *hint = panel.controls.jobTypeHint) {
+        const bool isShown = lacksPasscode(panel);
+        hint->setVisible(isShown);
+        panel.controls.jobType->setAccessibleDescription(isShown ? hint->text() : QString());
+    }
 }
 
 void showStockAndSeparators(const PaperOutputPanelContext &panel)

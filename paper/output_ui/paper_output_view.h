@@ -36,6 +36,7 @@ struct PaperOutputControls
     QPointer<PopupButton> jobType;           // KPDE 102
     QPointer<QPushButton> jobTypeSetup;      // KPDE 103
     QPointer<PictureView> jobTypeIcon;       // KPDE 104
+    QPointer<QLabel> jobTypeHint;            // KPDE 1021
     QPointer<MenuButton> stockButton;        // KPDE 106
     QPointer<SummaryView> stockSummary;      // KPDE 107
     QPointer<PictureView> stockIcon;         // KPDE 108

@@ -2,6 +2,7 @@
 
 #include "control.h"
 #include "dialog_window.h"
+#include "embed_control.h"
 #include "event.h"
 #include "hint_text.h"
 #include "input_limits.h"
@@ -35,6 +36,7 @@ constexpr ControlID kMailboxHint{kPanelSignature, 8545};
 constexpr ControlID kDisposition{kPanelSignature, 8546};
 constexpr ControlID kFormatPopup{kPanelSignature, 8547};
 constexpr ControlID kSecure{kPanelSignature, 8549};
+constexpr ControlID kPasscodeHint{kPanelSignature, 8506};
 
 constexpr int kHistoryLength = 10;       // names, and mailboxes
 constexpr int kLongestMailboxNumber = 3; // digits
@@ -54,6 +56,7 @@ struct SavedJobContext
     QPointer<PopupButton> format;
     QPointer<QCheckBox> secure;
     PasscodeFields fields;
+    QPointer<QLabel> passcodeHint; // why OK is disabled
     EventHandlerRef handler;
 };
 
@@ -67,11 +70,12 @@ bool findControls(SavedJobContext &context)
     context.disposition = findControl<RadioGroup>(window, kDisposition);
     context.format = findControl<PopupButton>(window, kFormatPopup);
     context.secure = findControl<QCheckBox>(window, kSecure);
+    context.passcodeHint = findControl<QLabel>(window, kPasscodeHint);
     const auto fields = findPasscodeFields(context.bundle, window, kShortestSavedJobPasscode);
     if (fields)
         context.fields = *fields;
     return fields && context.name && context.useJobName && context.mailbox && context.mailboxHint
-        && context.disposition && context.format && context.secure;
+        && context.disposition && context.format && context.secure && context.passcodeHint;
 }
 
 // A number that is too large must stand until OK says so, so the mailbox is a text
@@ -101,6 +105,11 @@ void fillControls(const SavedJobContext &context)
         formatted(localizedText(context.bundle, QStringLiteral("Mailbox Number Spoken")), range));
     makeHintText(context.mailboxHint);
 
+    SetLocalizedStaticText(
+        context.bundle, QStringLiteral("Saved Job Passcode Hint"), context.passcodeHint,
+        {QString::number(kShortestSavedJobPasscode), QString::number(kLongestPasscode)});
+    keepPlaceWhenHidden(context.passcodeHint);
+
     PopulatePopupButtonFromMap(context.bundle, context.format, SavedJobFormatMap, kJobContextJob,
                                kNoCommand);
 }
@@ -127,8 +136,11 @@ void syncToUI(const SavedJobContext &context)
     syncPasscodeFields(context.fields, isSecure);
     // An empty field keeps OK: then the dialog makes a passcode, which nobody
     // could reach otherwise.
-    windowDefaultButton(context.name)
-        ->setEnabled(isSavedJobPasscodeAllowed(isSecure, context.fields.passcode->text()));
+    const bool mayAccept = isSavedJobPasscodeAllowed(isSecure, context.fields.passcode->text());
+    auto *okButton = windowDefaultButton(context.name);
+    okButton->setEnabled(mayAccept);
+    okButton->setAccessibleDescription(mayAccept ? QString() : context.passcodeHint->text());
+    context.passcodeHint->setVisible(!mayAccept);
     // The pop-up beside it says which format it is.
     showJobTypePicture(context.bundle, context.window.get(), kFormatPictureView,
                        fileFormatPicture(GetPopupButtonTicketValue(context.format)),
@@ -212,7 +224,7 @@ OSStatus initializeSavedJob(SavedJobContext &context, QWidget *parent)
     context.window = createModalDialog(context.bundle, QStringLiteral("JobTypes"),
                                        QStringLiteral("SavedJob"), parent);
     if (!context.window || !findControls(context) || !windowDefaultButton(context.name))
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     showJobTypePicture(context.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_SavedJob.gif"),
                        QStringLiteral("Save to Mailbox Command"));

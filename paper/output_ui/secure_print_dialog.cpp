@@ -40,7 +40,7 @@ OSStatus initializeSecurePrint(_SecurePrintContext &context, const QString &pass
         ? findPasscodeFields(context.bundle, context.window.get(), kShortestPasscode)
         : std::nullopt;
     if (!fields)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     context.fields = *fields;
     showJobTypePicture(context.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_SecurePrint.gif"), QStringLiteral("SecurePrint"));

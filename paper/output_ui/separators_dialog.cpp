@@ -142,13 +142,13 @@ OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
                                       QStringLiteral("Separators"), parent);
     QWidget *window = dialog.window.get();
     if (!window)
-        return kWindowNotMade;
+        return windowNotMade(bundle, dialog.window.get());
     dialog.option = findControl<PopupButton>(window, kOption);
     dialog.source = findControl<PopupButton>(window, kSource);
     dialog.color = findControl<PopupButton>(window, kColor);
     dialog.picture = findControl<PictureView>(window, kPicture);
     if (!dialog.option || !dialog.source || !dialog.color)
-        return kWindowNotMade;
+        return windowNotMade(bundle, dialog.window.get());
     makeHintText(findControl<QLabel>(window, kOptionHint));
     makeHintText(findControl<QLabel>(window, kColorHint));
     fillPopups(dialog, PPDGetCurrent());

@@ -1,6 +1,6 @@
 #include "custom_size.h"
 
-#include <QLocale>
+#include "system_information.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,7 +39,7 @@ SizeUnit currentSizeUnit()
 {
     std::optional<SizeUnit> &unit = unitInUse();
     if (!unit) {
-        const bool isAmerican = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+        const bool isAmerican = measurementSystem() == QLocale::ImperialUSSystem;
         unit = isAmerican ? SizeUnit::Inches : SizeUnit::Millimetres;
     }
     return *unit;

@@ -1,6 +1,8 @@
 #include "stock_library.h"
 
 #include "preferences.h"
+#include "stock_menus.h"
+#include "stock_properties.h"
 
 #include <QCollator>
 
@@ -33,6 +35,12 @@ bool isNamed(const QVariant &entry, const QString &name)
 qsizetype lengthOf(const QString &name)
 {
     return name.toUcs4().size();
+}
+
+Stock withoutName(Stock stock)
+{
+    forgetStockName(stock);
+    return stock;
 }
 
 // Runs `change` on the stored array. It returns false when there is nothing to write.
@@ -115,6 +123,52 @@ LibraryProblem removeFromStockLibrary(const QString &name)
         return false;
     });
     return isWritten ? problem : LibraryProblem::NotWritten;
+}
+
+OwnSize ownSizeFor(JobContext jobContext, bool offersSize)
+{
+    // The job's own size belongs to the page set-up.
+    if (jobContext == kJobContextJob || !offersSize)
+        return OwnSize::None;
+    return jobContext == kJobContextCovers ? OwnSize::NotCustom : OwnSize::Any;
+}
+
+Stock takenFromLibrary(const Stock &named, const Stock &current, OwnSize ownSize)
+{
+    Stock taken = tidied(named);
+    const bool cannotBeCustom = ownSize == OwnSize::NotCustom && named.size() == kStockSizeCustom;
+    if (ownSize == OwnSize::None || cannotBeCustom) {
+        taken.setSize(current.size());
+        if (current.size() == kStockSizeCustom) {
+            taken.setWidth(current.width());
+            taken.setLength(current.length());
+        }
+    }
+    if (taken.description().isEmpty())
+        taken.setDescription(named.customName());
+    return taken;
+}
+
+std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, const Stock &stock,
+                                         OwnSize ownSize)
+{
+    const Stock nameless = withoutName(stock);
+    const auto found = std::ranges::find_if(library, [&](const Stock &named) {
+        return withoutName(takenFromLibrary(named, stock, ownSize)) == nameless;
+    });
+    if (found == library.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - library.begin());
+}
+
+void leaveLibrary(Stock &stock, const Stock &before, const std::vector<Stock> &library,
+                  OwnSize ownSize)
+{
+    if (stock.description() != before.description() || withoutName(stock) == withoutName(before))
+        return;
+    const std::optional<std::size_t> row = findInLibrary(library, before, ownSize);
+    if (row && library[*row].description().isEmpty())
+        stock.setDescription(QStringLiteral(""));
 }
 
 } // namespace kelvo

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 // The stocks that the user has given names, in the preference file
@@ -39,5 +40,25 @@ enum class LibraryProblem {
 [[nodiscard]] LibraryProblem removeFromStockLibrary(const QString &name);
 
 bool sameStockName(const QString &one, const QString &other);
+
+// Which sizes of its own a stock may have where it is used.
+enum class OwnSize { None, NotCustom, Any };
+// `offersSize` is false where the user of a special page cannot choose its size.
+OwnSize ownSizeFor(JobContext jobContext, bool offersSize);
+
+// The library's `named` in place of `current`. Where it has no description of its own,
+// its name is the description: whoever asks for a stock forgets the name. A size that
+// it may not have stays that of `current`.
+Stock takenFromLibrary(const Stock &named, const Stock &current, OwnSize ownSize);
+
+// The place in `library` of the paper that `stock` is: as it was taken, but for the name.
+// None once anything has been changed.
+std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, const Stock &stock,
+                                         OwnSize ownSize);
+
+// To be called when `stock` may have been changed and was `before`: a library's paper that
+// has been changed is no longer described by the library's name.
+void leaveLibrary(Stock &stock, const Stock &before, const std::vector<Stock> &library,
+                  OwnSize ownSize);
 
 } // namespace kelvo

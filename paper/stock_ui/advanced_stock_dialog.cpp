@@ -75,32 +75,15 @@ Stock freshStock(JobContext jobContext)
     return stock;
 }
 
-// The library's `named` in place of `current`, as far as the context has room for it.
-Stock takenFromLibrary(const Stock &named, const Stock &current, JobContext jobContext)
-{
-    Stock taken = named;
-    const bool isJob = jobContext == kJobContextJob;
-    const bool cannotBeCustom = jobContext == kJobContextCovers && named.size() == kStockSizeCustom;
-    if (isJob || cannotBeCustom) {
-        taken.setSize(current.size());
-        if (current.size() == kStockSizeCustom) {
-            taken.setWidth(current.width());
-            taken.setLength(current.length());
-        }
-    }
-    // Who asked for the stock forgets its name; the description stays.
-    taken.setDescription(named.customName());
-    return taken;
-}
-
 class AdvancedStockWindow
 {
 public:
-    AdvancedStockWindow(CFBundleRef bundle, QWidget *window, JobContext jobContext,
+    AdvancedStockWindow(CFBundleRef bundle, QWidget *window, JobContext jobContext, OwnSize ownSize,
                         bool offersLibrary, const Stock &stock)
         : m_bundle(bundle)
         , m_window(window)
         , m_jobContext(jobContext)
+        , m_ownSize(ownSize)
         , m_summary(findControl<SummaryView>(window, kSummary))
         , m_library(findControl<PopupButton>(window, kLibraryPopup))
         , m_remove(findControl<QPushButton>(window, kRemoveButton))
@@ -112,20 +95,20 @@ public:
         fillStockColorPopup(bundle, m_color, jobContext);
         setInputLimits(m_colorName, {.maximumLength = kLongestStockText});
 
+        const bool hasSize = ownSize != OwnSize::None;
         m_sizeData.bundle = bundle;
         m_sizeData.stock = &m_stock;
         m_sizeData.jobContext = jobContext;
+        m_sizeData.offersSize = hasSize;
         m_sizeData.icon = findControl<PictureView>(window, kIcon);
         m_sizeData.changed = [this] { show(); };
-        // The job's own size belongs to the page set-up.
-        const bool hasSize = jobContext != kJobContextJob;
         setVisibleWithLabel(m_size, hasSize);
         if (hasSize)
             InitializeStockSizeMenuButton(m_size, &m_sizeData);
 
         auto *hint = findControl<QLabel>(window, kLibraryHint);
         makeHintText(hint);
-        fillLibrary({});
+        fillLibrary();
         if (!offersLibrary) {
             setVisibleWithLabel(m_library, false);
             for (QWidget *control : {static_cast<QWidget *>(hint), findControl(window, kSaveButton),
@@ -144,11 +127,11 @@ public:
     OSStatus handle(const Event &event)
     {
         if (event.kind == EventKind::TextChanged && event.control == kColorNameField) {
+            const Stock before = m_stock;
             m_stock.setCustomColor(m_colorName->text());
-            forgetStockName(m_stock);
+            settle(before);
         } else if (event.kind == EventKind::Command && event.command == kCommandRevert) {
             replaceStock(freshStock(m_jobContext));
-            m_library->setValueByReference(kNoLibraryStock);
         } else if (event.kind != EventKind::ControlHit || !handleHit(event.control)) {
             return eventNotHandledErr;
         }
@@ -170,6 +153,20 @@ public:
 private:
     bool handleHit(ControlID control)
     {
+        if (control == kLibraryPopup)
+            takeFromLibrary(m_library->chosenReference());
+        else if (control == kSaveButton)
+            save();
+        else if (control == kRemoveButton)
+            remove();
+        else
+            return changeStock(control);
+        return true;
+    }
+
+    bool changeStock(ControlID control)
+    {
+        const Stock before = m_stock;
         if (control == kColorPopup)
             applyStockCommand(m_stock, kCommandStockColor, m_color->chosenReference(),
                               m_jobContext);
@@ -177,15 +174,19 @@ private:
             runType();
         else if (control == kDescriptionButton)
             runDescription();
-        else if (control == kLibraryPopup)
-            takeFromLibrary(m_library->chosenReference());
-        else if (control == kSaveButton)
-            save();
-        else if (control == kRemoveButton)
-            remove();
         else
             return false;
+        settle(before);
         return true;
+    }
+
+    // The stock was `before`: another one has no name any more.
+    void settle(const Stock &before)
+    {
+        if (m_stock == before)
+            return;
+        forgetStockName(m_stock);
+        leaveLibrary(m_stock, before, m_named, m_ownSize);
     }
 
     void runType()
@@ -204,17 +205,28 @@ private:
 
     void takeFromLibrary(std::int32_t row)
     {
-        if (row >= 0 && row < static_cast<std::int32_t>(m_named.size()))
-            replaceStock(takenFromLibrary(m_named[row], m_stock, m_jobContext));
+        if (row >= 0 && row < static_cast<std::int32_t>(m_named.size())) {
+            replaceStock(takenFromLibrary(m_named[row], m_stock, m_ownSize));
+            m_libraryName = m_named[row].customName();
+        }
     }
 
     void save()
     {
-        const QString chosen = chosenName();
+        // What a library's name describes is saved without that.
+        Stock own = tidied(m_stock);
+        const auto row = findInLibrary(m_named, m_stock, m_ownSize);
+        if (row && m_named[*row].description().isEmpty())
+            own.setDescription(QStringLiteral(""));
         const std::optional<QString> name = RunModalSaveStock(
-            m_bundle, tidied(m_stock), chosen.isEmpty() ? m_stock.description() : chosen, m_window);
-        if (name)
-            fillLibrary(*name);
+            m_bundle, own, m_libraryName.isEmpty() ? m_stock.description() : m_libraryName,
+            m_window);
+        if (name) {
+            own.setCustomName(*name);
+            replaceStock(takenFromLibrary(own, m_stock, m_ownSize));
+            m_libraryName = *name;
+            fillLibrary();
+        }
     }
 
     void remove()
@@ -223,7 +235,8 @@ private:
         if (name.isEmpty() || !mayChangeLibrary(m_bundle, QStringLiteral("Remove"), name, m_window))
             return;
         showLibraryProblem(m_bundle, removeFromStockLibrary(name), name, m_window);
-        fillLibrary({});
+        m_libraryName.clear();
+        fillLibrary();
     }
 
     // The library's stock that the pop-up shows; empty when it shows none.
@@ -235,8 +248,8 @@ private:
             : QString();
     }
 
-    // Lists the library as it is now, and shows the stock of that name.
-    void fillLibrary(const QString &name)
+    // Lists the library as it is now.
+    void fillLibrary()
     {
         m_named = readStockLibrary();
         Menu menu;
@@ -253,10 +266,18 @@ private:
             menu.items.push_back(std::move(item));
         }
         m_library->setMenu(std::move(menu));
+    }
+
+    // The library's paper that the stock is: of two that are the same, the one chosen last.
+    std::int32_t libraryRow() const
+    {
         for (std::size_t row = 0; row < m_named.size(); ++row) {
-            if (sameStockName(m_named[row].customName(), name))
-                m_library->setValueByReference(static_cast<std::int32_t>(row));
+            if (sameStockName(m_named[row].customName(), m_libraryName)
+                && findInLibrary({m_named[row]}, m_stock, m_ownSize))
+                return static_cast<std::int32_t>(row);
         }
+        const auto found = findInLibrary(m_named, m_stock, m_ownSize);
+        return found ? static_cast<std::int32_t>(*found) : kNoLibraryStock;
     }
 
     void replaceStock(const Stock &stock)
@@ -267,6 +288,7 @@ private:
 
     void show()
     {
+        m_library->setValueByReference(libraryRow());
         setEnabledWithLabel(m_library, !m_named.empty());
         m_remove->setEnabled(!chosenName().isEmpty());
         showChoice(m_bundle, m_color, m_stock.color());
@@ -282,6 +304,7 @@ private:
     CFBundleRef m_bundle;
     QWidget *m_window;
     JobContext m_jobContext;
+    OwnSize m_ownSize;
     SummaryView *m_summary;
     PopupButton *m_library;
     QPushButton *m_remove;
@@ -290,6 +313,7 @@ private:
     QLineEdit *m_colorName;
     Stock m_stock;
     std::vector<Stock> m_named; // the library, as the pop-up lists it
+    QString m_libraryName;      // chosen or saved last, suggested for saving again
     _StockMenuCommandEventHandlerData m_sizeData;
 };
 
@@ -297,16 +321,19 @@ private:
 
 OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode, JobContext jobContext,
                                         NamedPaperContext namedPapers, Stock *stock,
-                                        DialogResult *result, QWidget *parent)
+                                        DialogResult *result, QWidget *parent, bool offersSize)
 {
     if (!bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("AdvancedStockSelection");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog = createModalDialog(bundle, name, name, parent,
+                                          {kSummary, kLibraryPopup, kSaveButton, kRemoveButton,
+                                           kSizeButton, kColorPopup, kColorNameField, kTypeButton,
+                                           kDescriptionButton, kLibraryHint});
     if (!dialog)
         return kWindowNotMade;
-    AdvancedStockWindow window(bundle, dialog.get(), jobContext, namedPapers == kNamedPaperLibrary,
-                               *stock);
+    AdvancedStockWindow window(bundle, dialog.get(), jobContext, ownSizeFor(jobContext, offersSize),
+                               namedPapers == kNamedPaperLibrary, *stock);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
     dialog->setAcceptRule([&window] { return window.mayAccept(); });

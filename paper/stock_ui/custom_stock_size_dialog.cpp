@@ -5,10 +5,12 @@
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "localized_controls.h"
+#include "notice.h"
 #include "picture_view.h"
 #include "ppd_choices.h"
 #include "radio_group.h"
 #include "spin_field.h"
+#include "string_table.h"
 #include "ticket_values.h"
 
 #include <QLabel>
@@ -20,6 +22,9 @@ namespace kelvo {
 
 namespace {
 
+// Each with its unit and its limits at the two numbers after it.
+constexpr ControlID kWidthField{kPanelSignature, 7001};
+constexpr ControlID kLengthField{kPanelSignature, 7004};
 constexpr ControlID kUnitRadio{kPanelSignature, 7007};
 constexpr ControlID kPictureView{kPanelSignature, 7008};
 
@@ -30,10 +35,10 @@ struct LengthControls
     QLabel *unit = nullptr;
     QLabel *limits = nullptr;
 
-    LengthControls(const QWidget *window, std::int32_t number)
-        : field(findControl<SpinField>(window, {kPanelSignature, number}))
-        , unit(findControl<QLabel>(window, {kPanelSignature, number + 1}))
-        , limits(findControl<QLabel>(window, {kPanelSignature, number + 2}))
+    LengthControls(const QWidget *window, ControlID id)
+        : field(findControl<SpinField>(window, id))
+        , unit(findControl<QLabel>(window, {id.signature, id.number + 1}))
+        , limits(findControl<QLabel>(window, {id.signature, id.number + 2}))
     {
         makeHintText(limits);
     }
@@ -67,8 +72,8 @@ public:
     CustomSizeWindow(CFBundleRef bundle, const QWidget *window, std::int32_t width,
                      std::int32_t length)
         : m_bundle(bundle)
-        , m_width(window, 7001)
-        , m_length(window, 7004)
+        , m_width(window, kWidthField)
+        , m_length(window, kLengthField)
         , m_unitRadio(findControl<RadioGroup>(window, kUnitRadio))
     {
         showBundlePicture(findControl<PictureView>(window, kPictureView), bundle,
@@ -94,10 +99,31 @@ public:
         return noErr;
     }
 
+    // False after a notice that the device does not take one of the two.
+    bool mayAccept() const
+    {
+        return isTaken(m_width, QStringLiteral("Custom Width Refused Header"))
+            && isTaken(m_length, QStringLiteral("Custom Length Refused Header"));
+    }
+
     std::int32_t width() const { return lengthOfField(m_width.field->value(), m_unit); }
     std::int32_t length() const { return lengthOfField(m_length.field->value(), m_unit); }
 
 private:
+    bool isTaken(const LengthControls &controls, const QString &refusalKey) const
+    {
+        if (controls.field->isInRange())
+            return true;
+        CFUserNotificationDisplayNotice(
+            NoticeLevel::Stop, localizedText(m_bundle, refusalKey),
+            formatted(localizedText(m_bundle, QStringLiteral("Custom Size Refused Message")),
+                      {controls.limits->text()}),
+            {}, controls.field);
+        controls.field->setFocus();
+        controls.field->selectAll();
+        return false;
+    }
+
     void showUnit(std::int32_t width, std::int32_t length)
     {
         const SizeFieldLimits limits = sizeFieldLimits(mediaLimits(), m_unit);
@@ -146,7 +172,8 @@ OSStatus RunModalCustomStockSizeDialog(CFBundleRef bundle, DialogResult *result,
     if (!bundle || !result || !width || !length)
         return paramErr;
     const QString name = QStringLiteral("CustomStockSize");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog =
+        createModalDialog(bundle, name, name, parent, {kWidthField, kLengthField, kUnitRadio});
     if (!dialog)
         return kWindowNotMade;
     const auto [usualWidth, usualLength] = defaultSize();
@@ -154,6 +181,7 @@ OSStatus RunModalCustomStockSizeDialog(CFBundleRef bundle, DialogResult *result,
                             *length == kUnset ? usualLength : *length);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
+    dialog->setAcceptRule([&window] { return window.mayAccept(); });
     *result = dialog->runModal();
     if (*result == DialogResult::OK) {
         *width = window.width();

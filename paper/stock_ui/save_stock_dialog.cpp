@@ -32,7 +32,7 @@ std::optional<QString> RunModalSaveStock(CFBundleRef bundle, const Stock &stock,
                                          const QString &suggestion, QWidget *parent)
 {
     const auto dialog = createModalDialog(bundle, QStringLiteral("AdvancedStockSelection"),
-                                          QStringLiteral("SaveInLibrary"), parent);
+                                          QStringLiteral("SaveInLibrary"), parent, {kNameField});
     if (!dialog)
         return std::nullopt;
     auto *field = findControl<QLineEdit>(dialog.get(), kNameField);

@@ -33,6 +33,8 @@ constexpr ControlID kWeightRange{kPanelSignature, 7044};
 constexpr ControlID kSidesCoatedPopup{kPanelSignature, 7045};
 constexpr ControlID kCoatingTypePopup{kPanelSignature, 7046};
 constexpr ControlID kCoatingHint{kPanelSignature, 7047};
+constexpr ControlID kFinishPopup{kPanelSignature, 7048};
+constexpr ControlID kGrainPopup{kPanelSignature, 7049};
 constexpr ControlID kPunchedPopup{kPanelSignature, 7050};
 constexpr ControlID kCommentField{kPanelSignature, 7051};
 
@@ -58,8 +60,8 @@ struct PropertyRow
 const std::array kRows = {
     PropertyRow{kSidesCoatedPopup, SidesCoatedMap, &Stock::sidesCoated, &Stock::setSidesCoated},
     PropertyRow{kCoatingTypePopup, CoatingTypeMap, &Stock::coatingType, &Stock::setCoatingType},
-    PropertyRow{{kPanelSignature, 7048}, SurfaceFinishMap, &Stock::finish, &Stock::setFinish},
-    PropertyRow{{kPanelSignature, 7049}, GrainMap, &Stock::grain, &Stock::setGrain},
+    PropertyRow{kFinishPopup, SurfaceFinishMap, &Stock::finish, &Stock::setFinish},
+    PropertyRow{kGrainPopup, GrainMap, &Stock::grain, &Stock::setGrain},
     PropertyRow{kPunchedPopup, PunchedMap, &Stock::punched, &Stock::setPunched},
 };
 
@@ -183,7 +185,10 @@ OSStatus RunModalStockDescriptionSetup(CFBundleRef bundle, DialogMode, JobContex
     if (!bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("StockDescription");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog = createModalDialog(
+        bundle, name, name, parent,
+        {kDescriptionField, kWeightField, kWeightUnsetBox, kWeightRange, kSidesCoatedPopup,
+         kCoatingTypePopup, kCoatingHint, kFinishPopup, kGrainPopup, kPunchedPopup, kCommentField});
     if (!dialog)
         return kWindowNotMade;
     StockDescriptionWindow window(bundle, dialog.get(), jobContext, *stock);

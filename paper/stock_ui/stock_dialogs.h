@@ -23,9 +23,11 @@ OSStatus RunModalStockDescriptionSetup(CFBundleRef bundle, DialogMode mode, JobC
 OSStatus RunModalStockTypeSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
                                 Stock *stock, DialogResult *result, QWidget *parent = nullptr);
 
-// All of the stock, with the library of named stocks.
+// All of the stock, with the library of named stocks. No size is offered for the job,
+// and none where `offersSize` is false.
 OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
                                         NamedPaperContext namedPapers, Stock *stock,
-                                        DialogResult *result, QWidget *parent = nullptr);
+                                        DialogResult *result, QWidget *parent = nullptr,
+                                        bool offersSize = true);
 
 } // namespace kelvo

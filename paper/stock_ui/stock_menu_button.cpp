@@ -4,6 +4,7 @@
 #include "picture_view.h"
 #include "popups.h"
 #include "stock_dialogs.h"
+#include "stock_library.h"
 #include "stock_menus.h"
 #include "stock_pictures.h"
 #include "stock_summary.h"
@@ -115,11 +116,12 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
     if (event.kind != EventKind::Command || !data || !data->stock)
         return eventNotHandledErr;
     OSStatus status = noErr;
+    const Stock before = *data->stock;
     if (event.command == kCommandStockAdvanced) {
         DialogResult result = DialogResult::Cancel;
-        status =
-            RunModalAdvancedStockSelection(data->bundle, kDialogModeEdit, data->jobContext,
-                                           kNamedPaperLibrary, data->stock, &result, data->button);
+        status = RunModalAdvancedStockSelection(data->bundle, kDialogModeEdit, data->jobContext,
+                                                kNamedPaperLibrary, data->stock, &result,
+                                                data->button, data->offersSize);
         if (status != noErr || result != DialogResult::OK)
             return status;
         forgetStockName(*data->stock);
@@ -128,6 +130,9 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
     } else if (!applyStockCommand(*data->stock, event.command, event.reference, data->jobContext)) {
         return eventNotHandledErr;
     }
+    if (event.command != kCommandStockAdvanced)
+        leaveLibrary(*data->stock, before, readStockLibrary(),
+                     ownSizeFor(data->jobContext, data->offersSize));
     showStock(*data);
     if (data->changed)
         data->changed();
@@ -136,16 +141,23 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
 
 void StockIconEventHandler(const _StockMenuCommandEventHandlerData &data)
 {
-    if (!data.icon || !data.bundle || !data.stock)
+    if (data.icon && data.bundle && data.stock)
+        showStockIcon(data.bundle, data.icon, *data.stock,
+                      stockSummaryText(data.bundle, data.jobContext, data.stock));
+}
+
+void showStockIcon(CFBundleRef bundle, PictureView *icon, const Stock &stock,
+                   const QString &description)
+{
+    if (!bundle || !icon)
         return;
     QStringList files;
-    for (const QString &name : stockPictures(*data.stock)) {
-        const QString file = pictureFile(data.bundle->resourcesPath(), name);
+    for (const QString &name : stockPictures(stock)) {
+        const QString file = pictureFile(bundle->resourcesPath(), name);
         if (!file.isEmpty())
             files << file;
     }
-    QString description = stockSummaryText(data.bundle, data.jobContext, data.stock);
-    data.icon->setPictures(files, description.replace(u'\n', QLatin1String(", ")));
+    icon->setPictures(files, QString(description).replace(u'\n', QLatin1String(", ")));
 }
 
 OSStatus ShowStockSummary(CFBundleRef bundle, SummaryView *view, const Stock *stock,

@@ -22,6 +22,7 @@ struct _StockMenuCommandEventHandlerData // NOLINT(bugprone-reserved-identifier)
     CFBundleRef bundle = nullptr;
     Stock *stock = nullptr; // the owner's
     JobContext jobContext = kJobContextJob;
+    bool offersSize = true; // in the advanced selection of a special page's stock
     QPointer<SummaryView> summary;
     QPointer<PictureView> icon;            // may be null
     QPointer<MenuButton> button;           // set by Initialize…
@@ -43,6 +44,10 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
 
 // Shows the stock's pictures in the icon.
 void StockIconEventHandler(const _StockMenuCommandEventHandlerData &data);
+// The same for any stock; `description` is what a screen reader says. Nothing happens
+// without an icon or a bundle.
+void showStockIcon(CFBundleRef bundle, PictureView *icon, const Stock &stock,
+                   const QString &description);
 
 // Puts the stock's summary into the view; an empty one for a null stock. paramErr
 // when bundle or view is missing.

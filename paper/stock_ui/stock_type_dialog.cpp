@@ -119,7 +119,8 @@ OSStatus RunModalStockTypeSetup(CFBundleRef bundle, DialogMode, JobContext jobCo
     if (!bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("StockType");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog = createModalDialog(bundle, name, name, parent,
+                                          {kTypePopup, kNameField, kTabsLabel, kTabsButton});
     if (!dialog)
         return kWindowNotMade;
     StockTypeWindow window(bundle, dialog.get(), jobContext, *stock);

@@ -9,6 +9,7 @@
 #include "setting_maps.h"
 #include "spin_field.h"
 #include "stock_properties.h"
+#include "system_information.h"
 #include "tab_shift.h"
 #include "ticket_values.h"
 
@@ -47,7 +48,7 @@ public:
         showBundlePicture(findControl<PictureView>(window, kShiftPicture), bundle,
                           QStringLiteral("Paper_Pre-CutTabs_TabMarginShift.gif"),
                           localizedText(bundle, QStringLiteral("Tab Shift Picture")));
-        m_shift = tabShiftOf(options, QLocale().measurementSystem(), m_unit->value());
+        m_shift = tabShiftOf(options, measurementSystem(), m_unit->value());
         // Where the locale has neither unit, nothing can be shown until the user
         // chooses one: what is stored stays as it is until then.
         if (m_shift.maximum > 0)
@@ -111,7 +112,8 @@ OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock, _IS
     if (!bundle || !stock || !options || !result)
         return paramErr;
     const auto dialog = createModalDialog(bundle, QStringLiteral("StockTypeSetupDialogs"),
-                                          QStringLiteral("TabStockSetup"), parent);
+                                          QStringLiteral("TabStockSetup"), parent,
+                                          {kTemplatePopup, kShiftField, kUnitRadio});
     if (!dialog)
         return kWindowNotMade;
     TabShiftWindow window(bundle, dialog.get(), *options);
@@ -129,7 +131,7 @@ OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode, JobContext,
     if (!bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("PreCutTabStockSetup");
-    const auto dialog = createModalDialog(bundle, name, name, parent);
+    const auto dialog = createModalDialog(bundle, name, name, parent, {kTabsField});
     if (!dialog)
         return kWindowNotMade;
     auto *field = findControl<SpinField>(dialog.get(), kTabsField);

@@ -1,21 +1,82 @@
 #include "dialog_window.h"
 
+#include "notice.h"
 #include "terminal.h"
+#include "ticket_values.h"
 #include "window_loader.h"
+
+#include <QLabel>
+
+#include <algorithm>
 
 namespace kelvo {
 
-std::unique_ptr<ModalDialog> createModalDialog(CFBundleRef bundle, const QString &description,
-                                               const QString &window, QWidget *parent)
+namespace {
+
+constexpr char kNameProperty[] = "description"; // of a dialog: "JobTypes/SavedJob"
+
+// What the user reads; to standard error goes the last line. That stands outside the
+// localized text, since the string tables may be missing as well.
+QString notMadeText(CFBundleRef bundle, const QString &window, const QString &reason)
 {
-    Result<QWidget *> content = createWindowFromDescription(bundle, description, window);
+    printLine(stderr, QStringLiteral("%1: the window cannot be made: %2").arg(window, reason));
+    return QStringLiteral("%1\n%2: %3")
+        .arg(localizedText(bundle, QStringLiteral("Not Made Message")), window, reason);
+}
+
+void tell(CFBundleRef bundle, const QString &window, const QString &reason, QWidget *parent)
+{
+    CFUserNotificationDisplayNotice(NoticeLevel::Stop,
+                                    localizedText(bundle, QStringLiteral("Window Not Made Header")),
+                                    notMadeText(bundle, window, reason), {}, parent);
+}
+
+} // namespace
+
+std::unique_ptr<ModalDialog> createModalDialog(CFBundleRef bundle, const QString &description,
+                                               const QString &window, QWidget *parent,
+                                               std::initializer_list<ControlID> needed)
+{
+    const QString name = description + u'/' + window;
+    const Result<QWidget *> content = createWindowFromDescription(bundle, description, window);
     if (!content) {
-        printLine(stderr,
-                  QStringLiteral("%1/%2: the window cannot be made: %3")
-                      .arg(description, window, content.error().text()));
+        tell(bundle, name, content.error().text(), parent);
         return nullptr;
     }
-    return std::make_unique<ModalDialog>(content.value(), parent);
+    auto dialog = std::make_unique<ModalDialog>(content.value(), parent);
+    dialog->setProperty(kNameProperty, name);
+    const bool canBeClosed = windowDefaultButton(dialog.get()) || windowCancelButton(dialog.get());
+    const bool isComplete = std::ranges::all_of(
+        needed, [&dialog](ControlID id) { return findControl(dialog.get(), id); });
+    if (!canBeClosed || !isComplete) {
+        windowNotMade(bundle, dialog.get());
+        return nullptr;
+    }
+    return dialog;
+}
+
+OSStatus windowNotMade(CFBundleRef bundle, const ModalDialog *dialog)
+{
+    if (dialog)
+        tell(bundle, dialog->property(kNameProperty).toString(),
+             localizedText(bundle, QStringLiteral("Window Lacks Controls")),
+             dialog->parentWidget());
+    return kWindowNotMade;
+}
+
+void showPanelNotMade(CFBundleRef bundle, QWidget *pane, const QString &window,
+                      const QString &reason)
+{
+    auto *label = new QLabel;
+    label->setObjectName(QStringLiteral("panelNotMade"));
+    label->setTextFormat(Qt::PlainText);
+    label->setText(localizedText(bundle, QStringLiteral("Panel Not Made Header"))
+                   + QStringLiteral("\n\n") + notMadeText(bundle, window, reason));
+    label->setWordWrap(true);
+    label->setMargin(2 * label->fontMetrics().height());
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    embedControl(label, pane);
+    label->show();
 }
 
 } // namespace kelvo

@@ -2,6 +2,8 @@
 
 #include "control.h"
 
+#include <QWidget>
+
 namespace kelvo {
 
 // Puts `control` into `parent`'s layout and shows it. The first status that is
@@ -12,6 +14,14 @@ inline OSStatus EmbedAndShowControl(QWidget *control, QWidget *parent)
     if (status == noErr)
         control->show();
     return status;
+}
+
+// The window keeps its size while `widget` comes and goes.
+inline void keepPlaceWhenHidden(QWidget *widget)
+{
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
 }
 
 } // namespace kelvo

@@ -58,8 +58,13 @@ void setCoverOption(WorkingCovers &covers, std::int32_t option)
 void setSidesImaged(Cover &cover, std::int32_t sidesImaged)
 {
     cover.setSidesImaged(sidesImaged);
-    if (sidesImaged != kCoverBlank)
+    if (!offersSize(cover))
         cover.stock().setSize(kUnset);
+}
+
+bool offersSize(const Cover &cover)
+{
+    return cover.sidesImaged() == kCoverBlank;
 }
 
 void settleCovers(WorkingCovers &covers)
@@ -72,7 +77,7 @@ void settleCovers(WorkingCovers &covers)
 
 void enableStockItems(Menu &menu, const Cover &cover)
 {
-    const bool isOffered = cover.sidesImaged() == kCoverBlank;
+    const bool isOffered = offersSize(cover);
     for (MenuItem &item : menu.items) {
         if (item.command == kCommandStockSize)
             item.enabled = isOffered && !item.submenu.empty();

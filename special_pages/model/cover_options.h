@@ -54,6 +54,9 @@ void setSidesImaged(Cover &cover, std::int32_t sidesImaged);
 // without a size of its own, and a back cover that is the same follows the front.
 void settleCovers(WorkingCovers &covers);
 
+// Whether a cover can have a size of its own: not one that is printed.
+bool offersSize(const Cover &cover);
+
 // Enables the stock menu's size and post-print inserter for a cover that is not
 // printed; a submenu without choices stays disabled.
 void enableStockItems(Menu &menu, const Cover &cover);

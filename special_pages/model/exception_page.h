@@ -26,6 +26,8 @@ public:
 
     std::int32_t endPage() const { return m_endPage; }
     void setEndPage(std::int32_t endPage) { m_endPage = endPage; }
+    // False where the range ends before it begins.
+    bool coversPages() const { return startPage() <= m_endPage; }
     std::int32_t plex() const { return m_plex; }
     void setPlex(std::int32_t plex) { m_plex = plex; }
     _IS_Options *imageShift() { return &m_imageShift; } // edited in place

@@ -75,20 +75,33 @@ OSStatus ExceptionPageList::add(Pages pages)
 {
     std::vector<Range> ranges;
     ranges.reserve(m_pages.size() + pages.size());
-    for (const auto &page : m_pages)
-        ranges.push_back(rangeOf(static_cast<const ExceptionPage &>(*page), ranges.size()));
+    std::vector<std::unique_ptr<SpecialPage>> result; // first those that cover nothing
+    for (std::size_t rank = 0; rank < m_pages.size(); ++rank) {
+        const auto &page = static_cast<const ExceptionPage &>(*m_pages[rank]);
+        if (page.coversPages())
+            ranges.push_back(rangeOf(page, rank));
+        else
+            result.push_back(std::move(m_pages[rank]));
+    }
+    const auto oldRanges = static_cast<std::ptrdiff_t>(ranges.size());
     for (const SpecialPage *page : pages) {
         const auto *exception = dynamic_cast<const ExceptionPage *>(page);
-        if (exception && exception->startPage() <= exception->endPage())
-            ranges.push_back(rangeOf(*exception, ranges.size()));
+        if (exception && exception->coversPages())
+            ranges.push_back(rangeOf(*exception, m_pages.size() + ranges.size()));
+        else if (exception)
+            result.push_back(exception->clone());
     }
-    const auto added = ranges.begin() + count(); // those before are in order
+    const auto added = ranges.begin() + oldRanges; // those before are in order
     std::ranges::stable_sort(added, ranges.end(), {}, &Range::first);
     std::ranges::inplace_merge(ranges, added, {}, &Range::first);
 
+    const auto isBefore = [](const auto &one, const auto &other) {
+        return one->startPage() < other->startPage();
+    };
+    std::ranges::stable_sort(result, isBefore);
+    const auto coveringNothing = static_cast<std::ptrdiff_t>(result.size());
     const std::vector<Range> pieces = seenOf(ranges);
-    std::vector<std::unique_ptr<SpecialPage>> result;
-    result.reserve(pieces.size());
+    result.reserve(result.size() + pieces.size());
     for (const Range &piece : pieces) {
         // The first piece of an old page is that page still.
         const bool isOldPage = piece.rank < m_pages.size() && m_pages[piece.rank];
@@ -97,6 +110,7 @@ OSStatus ExceptionPageList::add(Pages pages)
         page.setStartPage(static_cast<std::int32_t>(piece.first));
         page.setEndPage(static_cast<std::int32_t>(piece.end - 1));
     }
+    std::ranges::inplace_merge(result, result.begin() + coveringNothing, isBefore);
     m_pages = std::move(result);
     pagesChanged();
     return noErr;

@@ -6,7 +6,9 @@
 namespace kelvo {
 
 // Ranges of exception pages, none of which share a page: what is added later wins,
-// and of an older range what is not covered keeps its settings, in one piece or two.
+// and of an older range what is not covered keeps its settings, in one piece or two. A
+// page of a ticket that covers no pages stays as it is, before the range that begins on
+// its first page: it cuts nothing, and nothing cuts it.
 class ExceptionPageList : public SpecialPageList
 {
 public:
@@ -14,8 +16,7 @@ public:
     ExceptionPageList(const ExceptionPageList &other); // of clones
 
     const ExceptionPage *pageAtIndex(std::int32_t index) const override;
-    // noErr. A range that ends before it begins, and a page of another kind, covers
-    // nothing and is left out.
+    // noErr. A page of another kind is left out.
     OSStatus add(Pages pages) override;
     std::unique_ptr<SpecialPageList> clone() const override;
 };

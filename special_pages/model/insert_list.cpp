@@ -1,6 +1,7 @@
 #include "insert_list.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace kelvo {
 
@@ -60,36 +61,29 @@ void InsertList::demote(const Insert *insert)
     demote(Pages(&page, 1));
 }
 
-void InsertList::promote(Pages inserts)
-{
-    const Members members(inserts);
-    for (std::int32_t index = 0; index + 1 < count(); ++index) {
-        if (canSwapWithNext(index) && !members.has(*m_pages[index])
-            && members.has(*m_pages[index + 1]))
-            swapWithNext(index);
-    }
-}
-
-void InsertList::demote(Pages inserts)
-{
-    const Members members(inserts);
-    for (std::int32_t index = count() - 2; index >= 0; --index) {
-        if (canSwapWithNext(index) && members.has(*m_pages[index])
-            && !members.has(*m_pages[index + 1]))
-            swapWithNext(index);
-    }
-}
-
 bool InsertList::canSwapWithNext(std::int32_t index) const
 {
     return index >= 0 && index + 1 < count()
         && m_pages[index]->startPage() == m_pages[index + 1]->startPage();
 }
 
-void InsertList::swapWithNext(std::int32_t index)
+// Found all at once: each of 99,999 after one page would be a walk over the others.
+void InsertList::swapEach(Pages inserts, Neighbour with)
 {
-    std::swap(m_pages[index], m_pages[index + 1]);
-    pagesChanged();
+    std::unordered_map<const SpecialPage *, std::int32_t> indexOf;
+    indexOf.reserve(m_pages.size());
+    for (std::int32_t index = 0; index < count(); ++index)
+        indexOf.emplace(m_pages[index].get(), index);
+    for (const SpecialPage *insert : inserts) {
+        const auto found = indexOf.find(insert);
+        const auto upper =
+            found == indexOf.end() ? -1 : found->second + static_cast<std::int32_t>(with);
+        if (!canSwapWithNext(upper))
+            continue;
+        std::swap(m_pages[upper], m_pages[upper + 1]);
+        std::swap(indexOf[m_pages[upper].get()], indexOf[m_pages[upper + 1].get()]);
+        pagesChanged();
+    }
 }
 
 } // namespace kelvo

@@ -23,14 +23,16 @@ public:
     void promote(const Insert *insert);
     bool canDemote(const Insert *insert) const;
     void demote(const Insert *insert);
-    // The same for many: neighbours move together, and keep their order where the
-    // first of them cannot move.
-    void promote(Pages inserts);
-    void demote(Pages inserts);
+    // The same for each of many, one after the other in the order given.
+    void promote(Pages inserts) { swapEach(inserts, Neighbour::Before); }
+    void demote(Pages inserts) { swapEach(inserts, Neighbour::After); }
 
 private:
+    // As the distance from an insert to the upper one of the two that change places.
+    enum class Neighbour : std::int32_t { Before = -1, After = 0 };
+
     bool canSwapWithNext(std::int32_t index) const;
-    void swapWithNext(std::int32_t index);
+    void swapEach(Pages inserts, Neighbour with);
 };
 
 } // namespace kelvo

@@ -7,12 +7,12 @@ namespace kelvo {
 namespace {
 
 // As a user types it. What a ticket has before page 1 are no pages.
-QString rangeText(std::int32_t startPage, std::int32_t endPage)
+QString rangeText(const ExceptionPage &page)
 {
-    if (endPage < 1)
+    const std::int32_t first = std::max(page.startPage(), 1);
+    const std::int32_t last = page.endPage();
+    if (last < first)
         return {};
-    const std::int32_t first = std::max(startPage, 1);
-    const std::int32_t last = std::max(endPage, first);
     const QString text = QString::number(first);
     if (last == first)
         return text;
@@ -68,7 +68,7 @@ ExceptionEdit exceptionEdit(const ExceptionPage *edited)
         return edit;
     }
     edit.page = *edited;
-    edit.pages = rangeText(edited->startPage(), edited->endPage());
+    edit.pages = rangeText(*edited);
     return edit;
 }
 

@@ -142,6 +142,9 @@ QString attributesText(const SpecialPage &page, CFBundleRef bundle)
             parts << text(bundle, "Cover Without Source");
     }
     if (const auto *exception = dynamic_cast<const ExceptionPage *>(&page)) {
+        // Nor is there a page before page 1.
+        if (!exception->coversPages() || exception->endPage() < 1)
+            parts << text(bundle, "Exception Without Pages");
         if (const char *step = lightenDarkenKey(exception->lightenDarken()))
             parts << text(bundle, step);
         if (exception->imageShift()->option != kUnset)

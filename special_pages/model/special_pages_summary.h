@@ -29,8 +29,9 @@ QString pagesText(CFBundleRef bundle, const SpecialPages &pages, const SpecialPa
 QString typeText(CFBundleRef bundle, const SpecialPage &page);
 // What is special about it, joined by "; ".
 QString CopySpecialPageSummary(const SpecialPage &page, CFBundleRef bundle);
-// The same, and what else is worth knowing: that a cover will be left out, how the
-// image of an exception page differs, or that nothing does. All that the list says.
+// The same, and what else is worth knowing: that a cover will be left out, that an
+// exception page covers no page and how its image differs, or that nothing does. All
+// that the list says.
 QString attributesText(const SpecialPage &page, CFBundleRef bundle);
 
 // The same in a line for the dialogs.

@@ -4,11 +4,13 @@
 #include "cover_options.h"
 #include "dialog_window.h"
 #include "hint_text.h"
+#include "notice.h"
 #include "picture_view.h"
 #include "popups.h"
 #include "ppd_choices.h"
 #include "setting_maps.h"
 #include "special_page_dialogs.h"
+#include "stock_summary.h"
 #include "ticket_values.h"
 
 #include <QGroupBox>
@@ -78,15 +80,26 @@ QString sourceHintKey(const CoverSide &side)
                                            : QStringLiteral("Cover Source Chosen");
 }
 
+// The paper of a tray is what lies in it: whatever was chosen before is not shown as if
+// it came from there.
+void showStock(CFBundleRef bundle, const CoverSide &side, bool isThere)
+{
+    const Stock &stock = side.cover->stock();
+    QString text = stockSummaryText(bundle, kJobContextCovers, isThere ? &stock : nullptr);
+    const bool isFromSource = isThere && hasSource(side.sources, *side.cover);
+    if (isFromSource && stock.source() != kCoverSourceAutomatic)
+        text = QStringLiteral("- ") + side.source->currentText();
+    UpdateSummaryTextView(side.stock.summary, text);
+    showStockIcon(bundle, side.stock.icon, isFromSource ? newCover().stock() : stock, text);
+}
+
 // From a cover to its controls. One that is not there leaves them empty.
 void showCover(CFBundleRef bundle, CoverSide &side, bool isThere, bool isEnabled)
 {
     const Cover &cover = *side.cover;
     side.group->setEnabled(isEnabled);
-    ShowStockSummary(bundle, side.stock.summary, isThere ? &cover.stock() : nullptr,
-                     kJobContextCovers);
-    StockIconEventHandler(side.stock);
     enableStockItems(side.stock.button->menu(), cover);
+    side.stock.offersSize = offersSize(cover);
 
     side.source->setMenu(sourceMenu(side.sources, cover,
                                     localizedText(bundle, QStringLiteral("Cover Source Not Set"))));
@@ -94,6 +107,7 @@ void showCover(CFBundleRef bundle, CoverSide &side, bool isThere, bool isEnabled
     const bool hasNone = side.sources.items.empty() || source == kStockSourceInserter;
     showChoice(bundle, side.source, hasNone ? kUnset : source);
     setEnabledWithLabel(side.source, !side.sources.items.empty());
+    showStock(bundle, side, isThere);
     const QString hint = isThere ? localizedText(bundle, sourceHintKey(side)) : QString();
     QFont font = side.group->font();
     font.setBold(isEnabled && !hasSource(side.sources, cover)); // the cover is not printed
@@ -168,6 +182,35 @@ OSStatus handleEvent(CoversContext &context, const Event &event)
     return eventNotHandledErr;
 }
 
+// OK: a cover that the printer leaves out is nothing that anybody chose. True when there
+// is none, or the user wants it so.
+bool mayClose(const CoversContext &context)
+{
+    const std::int32_t option = context.covers.option;
+    const auto isLeftOut = [](const CoverSide &side, bool isThere) {
+        return isThere && !hasSource(side.sources, *side.cover);
+    };
+    const bool noFront = isLeftOut(context.front, hasFrontCover(option));
+    const bool noBack = isLeftOut(context.back, hasBackCover(option));
+    if (!noFront && !noBack)
+        return true;
+    const CoverSide &side = noFront ? context.front : context.back;
+    const char *header = noFront && noBack ? "Covers Left Out Header"
+        : noFront                          ? "Front Cover Left Out Header"
+                                           : "Back Cover Left Out Header";
+    const auto text = [&context](const QString &key) { return localizedText(context.bundle, key); };
+    constexpr int goBack = 1, leaveOut = 2;
+    const int answer = CFUserNotificationDisplayAlert(
+        NoticeLevel::Caution, text(QString::fromLatin1(header)), text(sourceHintKey(side)),
+        {text(QStringLiteral("Cover Go Back")), text(QStringLiteral("Cover Leave Out"))},
+        context.window.get(), goBack);
+    if (answer == leaveOut)
+        return true;
+    if (side.source->isEnabled())
+        side.source->setFocus();
+    return false;
+}
+
 // CoverOptionMap's items, and the covers that are the same before those that differ.
 void fillOptions(CFBundleRef bundle, PopupButton *options)
 {
@@ -221,7 +264,7 @@ OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget
     context.window = createModalDialog(context.bundle, QStringLiteral("SpecialPages"),
                                        QStringLiteral("Basic Covers"), parent);
     if (!context.window)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     const QWidget *window = context.window.get();
     context.picture = findControl<PictureView>(window, kPicture);
     context.options = findControl<PopupButton>(window, kOptions);
@@ -230,12 +273,13 @@ OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget
                            "KVFrontCoverSheet", kCommandFrontSides)
         || !initializeSide(context, context.back, context.covers.back, kBackControls,
                            "KVBackCoverSheet", kCommandBackSides))
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     fillOptions(context.bundle, context.options);
     showJobPaper(context.bundle, findControl<QLabel>(window, kJobPaper), jobStock);
     context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {
         return handleEvent(context, event);
     });
+    context.window->setAcceptRule([&context] { return mayClose(context); });
     syncToUI(context);
     return noErr;
 }

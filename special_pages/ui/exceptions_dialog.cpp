@@ -2,6 +2,7 @@
 
 #include "control.h"
 #include "dialog_window.h"
+#include "embed_control.h"
 #include "hint_text.h"
 #include "lighten_darken.h"
 #include "offered_choices.h"
@@ -13,6 +14,7 @@
 #include "special_pages_summary.h"
 #include "stock_menus.h"
 #include "string_table.h"
+#include "system_information.h"
 #include "tab_control.h"
 #include "tab_shift.h"
 #include "tab_stock_dialogs.h"
@@ -69,8 +71,7 @@ struct ExceptionsContext
 // "12.7 mm (A4 template)", "0.4 in": as the tab stock set-up shows it.
 QString tabShiftWords(CFBundleRef bundle, const ExceptionPage &page)
 {
-    const TabShift shift =
-        tabShiftOf(*page.imageShift(), QLocale().measurementSystem(), kTabUnitMillimetres);
+    const TabShift shift = tabShiftOf(*page.imageShift(), measurementSystem(), kTabUnitMillimetres);
     if (shift.choice == kTabShiftNone && !isTabStock(page.stock()))
         return localizedText(bundle, QStringLiteral("Tab Shift Not Needed"));
     if (shift.choice != kTabShiftCustom)
@@ -239,12 +240,8 @@ Menu lightnessMenu(CFBundleRef bundle)
 
 void initializePanes(const ExceptionsContext &context)
 {
-    for (QWidget *pane : context.panes) {
-        // The window keeps its size when the tab changes.
-        QSizePolicy policy = pane->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        pane->setSizePolicy(policy);
-    }
+    for (QWidget *pane : context.panes)
+        keepPlaceWhenHidden(pane);
     showPane(context);
 }
 
@@ -272,7 +269,7 @@ OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock,
     context.window = createModalDialog(bundle, QStringLiteral("SpecialPages"),
                                        QStringLiteral("Basic Exceptions"), parent);
     if (!context.window)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     const QWidget *window = context.window.get();
     auto *pagesHint = findControl<QLabel>(window, kPagesHint);
     context.stock.bundle = bundle;
@@ -280,7 +277,7 @@ OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock,
     context.stock.jobContext = kJobContextExceptions;
     if (!pagesHint || !findControls(context)
         || !initializeStockControls(context.stock, window, kStockControls))
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     // Asked before the button's own, which knows nothing of the image shift.
     context.stockHandler =
         installEventHandler(context.stock.button, [&context](const Event &event) {

@@ -110,7 +110,7 @@ OSStatus initializeInserts(InsertsContext &context, const Stock *jobStock, QWidg
     context.window = createModalDialog(context.bundle, QStringLiteral("SpecialPages"),
                                        QStringLiteral("Basic Inserts"), parent);
     if (!context.window)
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
     const QWidget *window = context.window.get();
     context.position = findControl<PopupButton>(window, kPosition);
     context.pages = findControl<QLineEdit>(window, kPages);
@@ -121,7 +121,7 @@ OSStatus initializeInserts(InsertsContext &context, const Stock *jobStock, QWidg
     context.stock.jobContext = kJobContextInserts;
     if (!context.position || !context.pages || !context.pagesHint || !context.quantity
         || !initializeStockControls(context.stock, window, kStockControls))
-        return kWindowNotMade;
+        return windowNotMade(context.bundle, context.window.get());
 
     PopulatePopupButtonFromMap(context.bundle, context.position, InsertOptionMap,
                                kJobContextInserts, kCommandInsertOption);

@@ -128,7 +128,7 @@ OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &even
         return noErr;
     }
     if (event.kind == EventKind::Command && event.command == kCommandPanelHelp)
-        return DisplayHelp(QStringLiteral("special_pages/special_pages.htm"), panel.pane);
+        return showHelp(QStringLiteral("special_pages/special_pages.htm"), panel.pane);
     if (event.kind == EventKind::ListActivated && event.source == panel.list && event.row >= 0)
         command = kEdit;
     else if (event.kind == EventKind::ControlHit && isCommand(event.control.number))

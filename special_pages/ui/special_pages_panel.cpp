@@ -1,6 +1,7 @@
 #include "special_pages_panel.h"
 
 #include "cover_sync.h"
+#include "dialog_window.h"
 #include "embed_control.h"
 #include "panel_interface.h"
 #include "panel_prologue.h"
@@ -11,6 +12,7 @@
 #include "special_pages_view.h"
 #include "terminal.h"
 #include "ticket.h"
+#include "ticket_values.h"
 #include "window_loader.h"
 
 namespace kelvo {
@@ -36,15 +38,20 @@ OSStatus buildPane(_SpecialPagesContext &panel)
 {
     const QString name = QStringLiteral("SpecialPages");
     const Result<QWidget *> made = createWindowFromDescription(panel.bundle, name, name);
+    const auto sayNotMade = [&panel, &name](const QString &reason) {
+        showPanelNotMade(panel.bundle, panel.parentPane, name + u'/' + name, reason);
+    };
     if (!made) {
-        printLine(stderr, made.error().text());
+        sayNotMade(made.error().text());
         return made.error().code == Error::Code::NotFound ? openFailed("load nib from bundle")
                                                           : openFailed("create window from nib");
     }
     const std::unique_ptr<QWidget> window(made.value());
     panel.pane = findControl(window.get(), kUserPane);
-    if (!panel.pane)
+    if (!panel.pane) {
+        sayNotMade(localizedText(panel.bundle, QStringLiteral("Window Lacks Controls")));
         return openFailed("get user pane control reference");
+    }
     InitializeSpecialPages(panel);
     // On the parent, which the dialog's help command is sent to.
     panel.handler = installEventHandler(panel.parentPane, [&panel](const Event &event) {

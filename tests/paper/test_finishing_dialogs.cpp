@@ -194,6 +194,13 @@ void TestFinishingDialogs::offsetDialogStoresWithOkOnly()
             check("subsets", false), // and sets again
             expect("offset", "value", "3"),
             expect("pagesPerSubset", "value", "0"),
+            expect("pagesPerSubset", "enabled", "false"),
+            check("subsets", true), // a slip of the hand
+            expect("offset", "value", "5"),
+            expect("pagesPerSubset", "enabled", "true"),
+            choose("offset", kOffsetSets),
+            expect("subsets", "enabled", "false"),
+            expect("pagesPerSubset", "enabled", "false"),
             choose("offset", kOffsetSubsets),
             type("pagesPerSubset", "8"), // taken by OK
             openHelp(),

@@ -71,9 +71,13 @@ void TestFinishingRules::offsetsAndSubsetsKeepTogether_data()
     QTest::newRow("both keep the pages")
         << OffsetSettings{4, true, 12} << 5 << false << OffsetSettings{5, true, 12} << true;
     QTest::newRow("off: subsets become sets")
-        << OffsetSettings{4, true, 12} << -1 << false << OffsetSettings{3, false, 0} << false;
+        << OffsetSettings{4, true, 12} << -1 << false << OffsetSettings{3, false, 0, 4} << true;
     QTest::newRow("off: both become sets")
-        << OffsetSettings{5, true, 12} << -1 << false << OffsetSettings{3, false, 0} << false;
+        << OffsetSettings{5, true, 12} << -1 << false << OffsetSettings{3, false, 0, 5} << true;
+    QTest::newRow("on again: both come back")
+        << OffsetSettings{3, false, 0, 5} << -1 << true << OffsetSettings{5, true, 0} << true;
+    QTest::newRow("sets, chosen after the switch")
+        << OffsetSettings{3, false, 0, 5} << 3 << false << OffsetSettings{3, false, 0} << false;
     QTest::newRow("off: another offset stays")
         << OffsetSettings{1, true, 12} << -1 << false << OffsetSettings{1, false, 0} << true;
     QTest::newRow("on: another offset stays")
@@ -91,9 +95,7 @@ void TestFinishingRules::offsetsAndSubsetsKeepTogether()
     const OffsetSettings found =
         offset >= 0 ? withOffset(before, offset) : withSubsets(before, switchOn);
 
-    QCOMPARE(found.offset, after.offset);
-    QCOMPARE(found.hasSubsets, after.hasSubsets);
-    QCOMPARE(found.pagesPerSubset, after.pagesPerSubset);
+    QCOMPARE(found, after);
     QCOMPARE(isSubsetSwitchEnabled(found), switchEnabled);
 }
 
@@ -157,11 +159,21 @@ void TestFinishingRules::whatADialogDoesNotOfferIsNamed()
     const DeviceSession device("full");
     const auto staples = finishingChoices(Kind::SingleStaple, PPDGetCurrent());
     const Finishing dual = stapledAndPunched(kStapleDual, kPunchNone);
-    QCOMPARE(initialChoice(Kind::SingleStaple, staples, dual), 0U);
+    QCOMPARE(initialChoice(Kind::SingleStaple, staples, dual), 1U);
+    QVERIFY(!findSetChoice(Kind::SingleStaple, staples, dual));
     QCOMPARE(replacedFinishing(Kind::SingleStaple, staples, dual), "2 Staples");
     const Finishing single = stapledAndPunched(kStapleSingle, kPunchNone);
     QCOMPARE(initialChoice(Kind::SingleStaple, staples, single), 1U);
     QVERIFY(!replacedFinishing(Kind::SingleStaple, staples, single));
+    // Called for a staple, it begins with one; nothing is set for that.
+    QCOMPARE(initialChoice(Kind::DualStaple, finishingChoices(Kind::DualStaple, PPDGetCurrent()),
+                           Finishing()),
+             1U);
+    QCOMPARE(initialChoice(Kind::SingleStaple, finishingChoices(Kind::SingleStaple, nullptr),
+                           Finishing()),
+             0U); // none to choose
+    QCOMPARE(findSetChoice(Kind::SingleStaple, staples, Finishing()),
+             std::optional<std::size_t>(0));
 
     const auto folds = finishingChoices(Kind::Fold, PPDGetCurrent());
     const Finishing half = stapledAndPunched(kStapleNone, kPunchNone, kFoldZHalfSheet);

@@ -164,13 +164,26 @@ void TestJobTypeDialogs::aSecureSavedJobNeedsFourDigits()
 {
     SavedJobData data;
     const DialogDriver driver(
-        {expect("passcode", "enabled", "false"), press("secureSavedJob"),
-         expect("passcode", "enabled", "true"), type("passcode", "123"),
-         expect("okButton", "enabled", "false"), expect("confirmPasscode", "enabled", "false"),
-         press("secureSavedJob"), expect("okButton", "enabled", "true"), press("secureSavedJob"),
-         type("passcode", "1234"), expect("okButton", "enabled", "true"),
-         type("confirmPasscode", "1243"), press("okButton"), answerNoticeWith("same"),
-         type("confirmPasscode", "1234"), press("okButton")});
+        {expect("passcode", "enabled", "false"),
+         press("secureSavedJob"),
+         expect("passcode", "enabled", "true"),
+         type("passcode", "123"),
+         expect("okButton", "enabled", "false"),
+         expect("confirmPasscode", "enabled", "false"),
+         expect("passcodeHint", "visible", "true"),
+         [] { QVERIFY2(shown("passcodeHint").contains("4 to 12"), "why OK is disabled"); },
+         press("secureSavedJob"),
+         expect("okButton", "enabled", "true"),
+         expect("passcodeHint", "visible", "false"),
+         press("secureSavedJob"),
+         type("passcode", "1234"),
+         expect("okButton", "enabled", "true"),
+         expect("passcodeHint", "visible", "false"),
+         type("confirmPasscode", "1243"),
+         press("okButton"),
+         answerNoticeWith("same"),
+         type("confirmPasscode", "1234"),
+         press("okButton")});
     QCOMPARE(RunModalSavedJobDialog(m_bundle, &data), noErr);
     QCOMPARE(data.passcode, std::optional<QString>("1234"));
 }

@@ -1,3 +1,5 @@
+#include "dialog_driver.h"
+
 #include "custom_size.h"
 #include "custom_stock_size_dialog.h"
 #include "stock_dialogs.h"
@@ -103,6 +105,8 @@ void answerNextNotice(int button, QString *header)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(const Front &)>)
+
 class TestStockDialogs : public QObject
 {
     Q_OBJECT
@@ -118,9 +122,10 @@ private slots:
 
     void customSizeIsStoredAsTyped_data();
     void customSizeIsStoredAsTyped();
+    void customSizeOutOfRangeIsRefused();
     void customSizeSaysItsLimitsInEitherUnit();
     void tabShiftIsSetInEitherUnit();
-    void tabShiftStaysWhereNoUnitIsKnown();
+    void tabShiftIsMetricInBritain();
     void tabsOfASetAreCounted();
     void typesWithANameNeedOne();
     void transparencyIsClearOnlyWhenItIsKept();
@@ -128,7 +133,8 @@ private slots:
     void typesCanBeLeftOpen();
     void descriptionSetsAndUnsets();
     void descriptionOffersWhatTheDeviceHas();
-    void libraryStocksGiveTheirNameToTheDescription();
+    void libraryStocksAreCalledByTheirNameUntilChanged_data();
+    void libraryStocksAreCalledByTheirNameUntilChanged();
     void libraryIsKeptInTheWindow();
     void advancedSelectionNeedsAColorName();
     void revertLeavesNothingBehind();
@@ -243,8 +249,8 @@ void TestStockDialogs::customSizeIsStoredAsTyped_data()
                             << "@okButton" << 21590;
     QTest::newRow("decimal comma") << "de_DE" << SizeUnit::Millimetres << "215,5"
                                    << "@okButton" << 21550;
-    QTest::newRow("too wide") << "en_US" << SizeUnit::Inches << "99"
-                              << "@okButton" << 33020;
+    QTest::newRow("the widest") << "en_US" << SizeUnit::Inches << "13"
+                                << "@okButton" << 33020;
     QTest::newRow("cancelled") << "en_US" << SizeUnit::Inches << "8.50"
                                << "@cancelButton" << kUnset;
 }
@@ -267,6 +273,25 @@ void TestStockDialogs::customSizeIsStoredAsTyped()
     QCOMPARE(RunModalCustomStockSizeDialog(m_bundle, &m_result, &newWidth, &newLength), noErr);
     QCOMPARE(m_result, width == kUnset ? DialogResult::Cancel : DialogResult::OK);
     QCOMPARE(newWidth, width);
+}
+
+// Nothing that was typed is changed without a word, and nothing of the dialog is lost.
+void TestStockDialogs::customSizeOutOfRangeIsRefused()
+{
+    setCurrentSizeUnit(SizeUnit::Inches);
+    QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+    std::int32_t width = 21590;
+    std::int32_t length = 90000; // of a ticket for another device
+    const DialogDriver driver(
+        {expect("customLength", "text", "35.43"), type("customWidth", "13.01"), press("okButton"),
+         answerNoticeWith("3.50 to 13.00 in"), expect("customWidth", "text", "13.01"),
+         expect("customWidth", "focus", "true"), type("customWidth", "3.49"), press("okButton"),
+         answerNoticeWith("3.50 to 13.00 in"), type("customWidth", "8.5"), press("okButton"),
+         answerNoticeWith("5.00 to 19.00 in"), type("customLength", "11"), press("okButton")});
+    QCOMPARE(RunModalCustomStockSizeDialog(m_bundle, &m_result, &width, &length), noErr);
+    QCOMPARE(m_result, DialogResult::OK);
+    QCOMPARE(width, 21590);
+    QCOMPARE(length, 27940);
 }
 
 void TestStockDialogs::customSizeSaysItsLimitsInEitherUnit()
@@ -314,7 +339,7 @@ void TestStockDialogs::tabShiftIsSetInEitherUnit()
     QCOMPARE(options, before);
 }
 
-void TestStockDialogs::tabShiftStaysWhereNoUnitIsKnown()
+void TestStockDialogs::tabShiftIsMetricInBritain()
 {
     QLocale::setDefault(QLocale(QStringLiteral("en_GB")));
     const Stock stock;
@@ -322,11 +347,13 @@ void TestStockDialogs::tabShiftStaysWhereNoUnitIsKnown()
     options.option = 1;
     options.x1 = 20;
     inNextDialog([](const Front &front) {
-        QCOMPARE(front.value("KPDE 1002"), QStringLiteral("0"));
+        QCOMPARE(front.value("KPDE 1004"), QStringLiteral("2"));
+        QCOMPARE(front.value("KPDE 1002"), QStringLiteral("20"));
+        QVERIFY(front.type("KPDE 1002", "21"));
         QVERIFY(front.click("@okButton"));
     });
     QCOMPARE(RunModalTabStockSetupDialog(m_bundle, &stock, &options, &m_result), noErr);
-    QCOMPARE(options.x1, 20);
+    QCOMPARE(options.x1, 21);
 }
 
 void TestStockDialogs::tabsOfASetAreCounted()
@@ -462,30 +489,78 @@ void TestStockDialogs::descriptionOffersWhatTheDeviceHas()
     RunModalStockDescriptionSetup(m_bundle, kDialogModeEdit, kJobContextJob, &stock, &m_result);
 }
 
-void TestStockDialogs::libraryStocksGiveTheirNameToTheDescription()
+void TestStockDialogs::libraryStocksAreCalledByTheirNameUntilChanged_data()
 {
+    using Act = std::function<void(const Front &)>;
+    QTest::addColumn<QString>("own"); // description of the library's stock
+    QTest::addColumn<Act>("change");
+    QTest::addColumn<QString>("shown"); // in the window's list
+    QTest::addColumn<QString>("description");
+
+    const Act nothing = [](const Front &) {};
+    const Act color = [](const Front &front) {
+        QVERIFY(front.choose("@advancedStockColor", kStockColorWhite));
+    };
+    const Act weight = [](const Front &front) {
+        inNextDialog([](const Front &description) {
+            QVERIFY(description.type("@stockWeight", "160"));
+            QVERIFY(description.click("@okButton"));
+        });
+        QVERIFY(front.click("@advancedStockDescription"));
+    };
+    const QString choose = QStringLiteral("Choose a named paper");
+    QTest::newRow("as it is") << "" << nothing << "Blue card"
+                              << "Blue card";
+    QTest::newRow("as it is, described") << "For menus" << nothing << "Blue card"
+                                         << "For menus";
+    QTest::newRow("another color") << "" << color << choose << "";
+    QTest::newRow("another color, described") << "For menus" << color << choose << "For menus";
+    QTest::newRow("another weight") << "" << weight << choose << "";
+    QTest::newRow("another weight, described") << "For menus" << weight << choose << "For menus";
+}
+
+void TestStockDialogs::libraryStocksAreCalledByTheirNameUntilChanged()
+{
+    QFETCH(QString, own);
+    QFETCH(std::function<void(const Front &)>, change);
+    QFETCH(QString, shown);
+    QFETCH(QString, description);
     Stock named;
     named.setWidth(10000); // a custom size, which covers cannot have
     named.setColor(kBlue);
     named.setWeight(250);
+    named.setDescription(own);
     QCOMPARE(saveInStockLibrary("Blue card", named), LibraryProblem::None);
     Stock stock;
     DefaultStock(&stock, kJobContextCovers);
-    inNextDialog([](const Front &front) {
+    inNextDialog([&](const Front &front) {
         QVERIFY(!front.isEnabled("@removeFromLibrary"));
         QVERIFY(front.choose("@stockLibrary", 0));
         QVERIFY(front.isEnabled("@removeFromLibrary"));
-        QCOMPARE(front.text("@advancedStockSummary"),
-                 QStringLiteral("Name: Blue card\n- Blue\n- 250 g/m²"));
+        QVERIFY(front.text("@advancedStockSummary").startsWith("Name: Blue card\n- Blue\n"));
+        change(front);
+        QCOMPARE(front.text("@stockLibrary"), shown);
+        QCOMPARE(front.text("@advancedStockSummary").contains("Blue card"), shown == "Blue card");
         QVERIFY(front.click("@okButton"));
     });
     QCOMPARE(RunModalAdvancedStockSelection(m_bundle, kDialogModeEdit, kJobContextCovers,
                                             kNamedPaperLibrary, &stock, &m_result),
              noErr);
-    QCOMPARE(stock.description(), QStringLiteral("Blue card"));
-    QCOMPARE(stock.color(), kBlue);
-    QCOMPARE(stock.weight(), 250);
+    QCOMPARE(stock.description(), description);
     QCOMPARE(stock.size(), kUnset);
+
+    // Also when it is opened again, and changed by the menu of its button.
+    forgetStockName(stock);
+    inNextDialog([&](const Front &front) { QCOMPARE(front.text("@stockLibrary"), shown); });
+    RunModalAdvancedStockSelection(m_bundle, kDialogModeEdit, kJobContextCovers, kNamedPaperLibrary,
+                                   &stock, &m_result);
+    _StockMenuCommandEventHandlerData data{m_bundle, &stock, kJobContextCovers};
+    Event event;
+    event.kind = EventKind::Command;
+    event.command = kCommandStockColor;
+    event.reference = 5;
+    QCOMPARE(StockMenuCommandEventHandler(event, &data), noErr);
+    QCOMPARE(stock.description(), own);
 }
 
 void TestStockDialogs::libraryIsKeptInTheWindow()

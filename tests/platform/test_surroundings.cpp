@@ -26,6 +26,8 @@ private slots:
     void findsTheDefaultRoute_data();
     void findsTheDefaultRoute();
     void knowsUserAndComputer();
+    void measuresPaperAsTheLocaleDoes_data();
+    void measuresPaperAsTheLocaleDoes();
 };
 
 void TestSurroundings::choosesFoldersFromTheEnvironment_data()
@@ -165,6 +167,22 @@ void TestSurroundings::knowsUserAndComputer()
     if (const auto address = primaryIPv4Address()) // a bare machine may have no route
         QVERIFY2(QRegularExpression(u"^\\d+\\.\\d+\\.\\d+\\.\\d+$"_s).match(*address).hasMatch(),
                  qPrintable(*address));
+}
+
+void TestSurroundings::measuresPaperAsTheLocaleDoes_data()
+{
+    QTest::addColumn<QLocale::MeasurementSystem>("system");
+    QTest::newRow("en_US") << QLocale::ImperialUSSystem;
+    QTest::newRow("en_GB") << QLocale::MetricSystem;
+    QTest::newRow("de_DE") << QLocale::MetricSystem;
+}
+
+// The row's name is the locale.
+void TestSurroundings::measuresPaperAsTheLocaleDoes()
+{
+    QLocale::setDefault(QLocale(QString::fromLatin1(QTest::currentDataTag())));
+    QTEST(measurementSystem(), "system");
+    QLocale::setDefault(QLocale::c());
 }
 
 QTEST_GUILESS_MAIN(TestSurroundings)

@@ -3,6 +3,9 @@
 
 #include "cover_options.h"
 #include "covers_dialog.h"
+#include "picture_view.h"
+#include "preferences.h"
+#include "stock_library.h"
 #include "stock_menus.h"
 
 using namespace kelvo;
@@ -49,6 +52,7 @@ private slots:
     void optionsOfferWhatIsEdited();
     void theSameCoversFollowTheFront();
     void choosingPaperUnsetsTheSource();
+    void aCoverThatIsLeftOutIsAskedAbout();
     void printedCoversOfferNoSize();
     void revertRemovesBothCovers();
     void cancelChangesNothing();
@@ -117,9 +121,41 @@ void TestCoversDialog::choosingPaperUnsetsTheSource()
              const QString hint = shown("frontSourceHint");
              QVERIFY2(hint.contains("leaves this cover out"), qPrintable(hint));
          },
-         choose("frontSource", kTray2), expect("frontSource", "items", "8"), press("okButton")});
+         choose("frontSource", kTray2), expect("frontSource", "items", "8"),
+         // the tray's paper, whatever was chosen before
+         expect("frontStockSummary", "text", "- Tray 2"),
+         [] {
+             QCOMPARE(control("frontStockIcon")->accessibleName(), QString("- Tray 2"));
+             const auto *icon = qobject_cast<PictureView *>(control("frontStockIcon"));
+             QVERIFY(icon && !icon->pictures().join(u' ').contains("Blue"));
+         },
+         press("okButton")});
     QCOMPARE(run(kDialogModeEdit, device), noErr);
     QCOMPARE(front->stock().source(), kTray2);
+}
+
+// The answer 1 goes back, and nothing is lost.
+void TestCoversDialog::aCoverThatIsLeftOutIsAskedAbout()
+{
+    const DeviceSession device("full");
+    const DialogDriver driver(
+        {choose("coverOptions", kFrontAndBackCovers), chooseColor("frontStockButton", kBlue),
+         press("okButton"),
+         [] { QCOMPARE(frontNotice().header, QString("The front cover will be left out")); },
+         answerNoticeWith("until you choose a paper source"),
+         expect("frontSource", "focus", "true"), expect("frontStockSummary", "text", "- Blue"),
+         chooseColor("backStockButton", kBlue), press("okButton"),
+         [] { QCOMPARE(frontNotice().header, QString("Both covers will be left out")); },
+         answerNoticeWith("until you choose a paper source"), choose("frontSource", kTray1),
+         press("okButton"),
+         [] {
+             QCOMPARE(frontNotice().header, QString("The back cover will be left out"));
+             answerNotice(2);
+         }});
+    QCOMPARE(run(kDialogModeAdd, device), noErr);
+    QCOMPARE(outcome, DialogResult::OK);
+    QCOMPARE(front->stock().source(), kTray1);
+    QCOMPARE(back->stock().source(), kUnset);
 }
 
 void TestCoversDialog::printedCoversOfferNoSize()
@@ -127,6 +163,14 @@ void TestCoversDialog::printedCoversOfferNoSize()
     const DeviceSession device("full");
     front = coverFrom(kTray1);
     front->stock().setSize(kStockSizeLetter);
+    Stock named;
+    named.setSize(4); // A4
+    QCOMPARE(saveInStockLibrary("Card", named), LibraryProblem::None);
+    const auto openAdvanced = [] {
+        // Runs until the dialog is closed.
+        expectDone(inspector::chooseCommand(control("frontStockButton"), kCommandStockAdvanced,
+                                            std::nullopt));
+    };
     const auto expectSizes = [](const char *state) {
         return [state] {
             expectDone(
@@ -135,12 +179,18 @@ void TestCoversDialog::printedCoversOfferNoSize()
                                       QString::fromLatin1(state)));
         };
     };
-    const DialogDriver driver({expectSizes("enabled"), choose("frontSides", kCoverPrinted),
-                               expectSizes("disabled"), choose("frontSides", kCoverBlank),
-                               expectSizes("enabled"), choose("frontSides", kCoverPrinted),
-                               press("okButton")});
+    const DialogDriver driver(
+        {expectSizes("enabled"), choose("frontSides", kCoverPrinted), expectSizes("disabled"),
+         choose("frontSides", kCoverBlank), expectSizes("enabled"), openAdvanced,
+         expect("advancedStockSize", "visible", "true"), choose("stockLibrary", 0),
+         press("okButton"), [] { QVERIFY(shown("frontStockSummary").contains("A4")); },
+         choose("frontSides", kCoverPrinted), openAdvanced,
+         expect("advancedStockSize", "visible", "false"), choose("stockLibrary", 0),
+         [] { QVERIFY(!shown("advancedStockSummary").contains("A4")); }, press("okButton"),
+         choose("frontSource", kTray1), press("okButton")});
     QCOMPARE(run(kDialogModeEdit, device), noErr);
     QCOMPARE(front->stock().size(), kUnset);
+    WriteUserPreferences(kStockLibraryFile, {});
 }
 
 void TestCoversDialog::revertRemovesBothCovers()

@@ -148,6 +148,8 @@ void TestSpecialPageEdits::editingShowsWhereThePageIs_data()
                                    << "99999";
     QTest::newRow("no pages, from a ticket") << -3 << -2 << ""
                                              << "";
+    QTest::newRow("ends before it begins, from a ticket") << 7 << 5 << "7"
+                                                          << "";
     QTest::newRow("beyond the last page, from a ticket") << 7 << 100'005 << "7"
                                                          << "7-";
 }

@@ -7,6 +7,7 @@
 #include "ticket.h"
 #include "ticket_values.h"
 
+#include <QLabel>
 #include <QTest>
 
 using namespace kelvo;
@@ -133,7 +134,7 @@ private slots:
     void describesPages();
     void lastOneSelectedSaysWhetherItMoves();
     void asksBeforeItDeletes();
-    void undoesOnce();
+    void movesOneAfterTheOtherAndUndoesOnce();
     void carriesPagesThroughTheTicket();
     void keepsPagesAndUndoThatTheTicketHas();
     void selectsNoPageThatCameInAnothersPlace();
@@ -228,6 +229,8 @@ void TestSpecialPagesPanel::saysOnStandardOutputWhyItIsEmpty()
     out.seek(0);
     const QByteArray said = out.readAll();
     QVERIFY2(said.endsWith(message), said.constData());
+    const auto *label = panel.pane.findChild<QLabel *>("panelNotMade");
+    QVERIFY(label && label->text().contains("SpecialPages/SpecialPages"));
     // It goes on without its pane.
     QCOMPARE(panel.sync(kSyncWrite), noErr);
 }
@@ -310,6 +313,10 @@ void TestSpecialPagesPanel::describesPages_data()
     exception.setLightenDarken(-2);
     row("an exception's sides and image", exception,
         "2-sided print, flip on short edge; Lighten 2");
+    row("an exception without a last page", ExceptionPage(Dictionary{{"StartPage", 5}}),
+        "Covers no page");
+    row("an exception before page 1", ExceptionPage(Dictionary{{"SidesImaged", 1}}),
+        "1-sided print; Covers no page");
 }
 
 void TestSpecialPagesPanel::describesPages()
@@ -378,7 +385,7 @@ void TestSpecialPagesPanel::asksBeforeItDeletes()
     QCOMPARE(panel.rows(), QStringLiteral("3 Insert · 5-6 Exception"));
 }
 
-void TestSpecialPagesPanel::undoesOnce()
+void TestSpecialPagesPanel::movesOneAfterTheOtherAndUndoesOnce()
 {
     Panel panel;
     panel.begin();
@@ -390,16 +397,21 @@ void TestSpecialPagesPanel::undoesOnce()
             texts += QString::number(panel.data().inserts->pageAtIndex(i)->quantity());
         return texts;
     };
-    panel.select({2});
+    panel.select({1, 2}); // the first cannot, and the second passes it
     panel.press(1600);
     QCOMPARE(quantities(), QStringLiteral("213"));
-    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{0}));
+    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{0, 1}));
     panel.press(1500);
     QCOMPARE(quantities(), QStringLiteral("123"));
     QVERIFY(!panel.find(1500)->isEnabled());
-    panel.select({1, 2});
+    panel.select({1, 2}); // each passes the other; that can be undone as well
     panel.press(1700);
-    QCOMPARE(quantities(), QStringLiteral("312"));
+    QCOMPARE(quantities(), QStringLiteral("123"));
+    QVERIFY(panel.find(1500)->isEnabled());
+    panel.select({2});
+    panel.press(1700);
+    QCOMPARE(quantities(), QStringLiteral("132"));
+    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{2}));
 }
 
 void TestSpecialPagesPanel::carriesPagesThroughTheTicket()

@@ -17,7 +17,8 @@ private slots:
     void keepsASecurePrintsCodeInTheTicketAlone();
     void makesACodeWhereNoneIsGiven();
     void holdsBackASecurePrintWithoutCode();
-    void forgetsACodeThatNobodyWillBeAskedFor();
+    void forgetsTheCodeOfAnotherJobType_data();
+    void forgetsTheCodeOfAnotherJobType();
     void waitsForTheNextTimeOfADelayedJob();
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
@@ -87,17 +88,43 @@ void TestPanelStories::holdsBackASecurePrintWithoutCode()
     QVERIFY(!QFile::exists(folder));
 }
 
-void TestPanelStories::forgetsACodeThatNobodyWillBeAskedFor()
+void TestPanelStories::forgetsTheCodeOfAnotherJobType_data()
 {
+    QTest::addColumn<QByteArray>("script"); // after a secure print got its code
+    QTest::addColumn<int>("jobType");
+
+    QTest::newRow("normal") << QByteArray("choose @jobType key Normal\n") << 1;
+    QTest::newRow("saved, given up")
+        << QByteArray("choose @jobType key \"Save to Mailbox Command\"\n"
+                      "expect @secureSavedJob checked false\nexpect @passcode text \"\"\n"
+                      "expect @okButton enabled true\nclick @cancelButton\n")
+        << 3;
+    QTest::newRow("saved with a code, and secure again")
+        << QByteArray("choose @jobType key \"Save to Mailbox Command\"\n"
+                      "check @secureSavedJob on\n"
+                      "type @passcode \"1623\"\ntype @confirmPasscode \"1623\"\n"
+                      "click @okButton\nchoose @jobType key SecurePrint\n"
+                      "expect @passcode text \"\"\nclick @cancelButton\n"
+                      "expect @jobTypeHint visible true\n"
+                      "choose @jobType key Normal\nexpect @jobTypeHint visible false\n")
+        << 1;
+}
+
+void TestPanelStories::forgetsTheCodeOfAnotherJobType()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, jobType);
     const Desk desk;
+    // Three digits: a saved job could not even be kept with it.
     write(desk.path("s.kps"),
           "tab 1\nchoose @jobType key SecurePrint\n"
-          "type @passcode \"4815\"\ntype @confirmPasscode \"4815\"\n"
-          "click @okButton\nchoose @jobType key Normal\nprint\n");
+          "type @passcode \"481\"\ntype @confirmPasscode \"481\"\n"
+          "click @okButton\n"
+              + script + "print\n");
     QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps", "--to", "out"}), 0);
-    const Dictionary jobType = jobTypeIn(ticketIn(desk.path("out")));
-    QCOMPARE(jobType.value("JobType"), QVariant(qint64(1)));
-    QVERIFY(!jobType.contains("SecurePrintPassword"));
+    const Dictionary entry = jobTypeIn(ticketIn(desk.path("out")));
+    QCOMPARE(entry.value("JobType"), QVariant(qint64(jobType)));
+    QVERIFY(!entry.contains("SecurePrintPassword"));
 }
 
 void TestPanelStories::waitsForTheNextTimeOfADelayedJob()

@@ -263,6 +263,14 @@ void TestDialogs::theHelpWindowShowsTheBooksFilesOnly()
     QCOMPARE(DisplayHelp("../outside.html"), fnfErr);
     QCOMPARE(DisplayHelp("link.html"), fnfErr);
     QCOMPARE(DisplayHelp("shell"), fnfErr);
+    // A button says what is missing.
+    QString said;
+    QTimer::singleShot(0, [&said] {
+        said = frontNotice().message;
+        answerNotice(1);
+    });
+    QCOMPARE(showHelp("none.html", nullptr), fnfErr);
+    QVERIFY2(said.contains("none.html"), qPrintable(said));
     QCOMPARE(DisplayHelp("shell/advanced.html#end"), noErr);
     QPointer<QWidget> window;
     for (QWidget *top : QApplication::topLevelWidgets()) {

@@ -22,6 +22,7 @@ private slots:
     void aValueIsShownInTheUsersNotation_data();
     void aValueIsShownInTheUsersNotation();
     void stepsStayInsideTheRange();
+    void withoutClampingWhatWasTypedStays();
     void aStepStartsFromWhatWasTyped();
     void aSpinFieldTellsTheUsersChangesOnly();
     void returnTakesTheTypedText();
@@ -183,6 +184,24 @@ void TestFields::stepsStayInsideTheRange()
     field.setSingleStep(std::numeric_limits<int>::max());
     QTest::keyClick(&field, Qt::Key_PageDown);
     QCOMPARE(field.value(), std::numeric_limits<int>::min());
+}
+
+void TestFields::withoutClampingWhatWasTypedStays()
+{
+    SpinField field;
+    field.setClamping(false);
+    field.setMinimum(10);
+    field.setMaximum(20);
+    QCOMPARE(field.value(), 0); // as it began
+    field.typeText(QStringLiteral("200"));
+    QTest::keyClick(&field, Qt::Key_Return);
+    leave(&field);
+    QCOMPARE(field.value(), 200);
+    QCOMPARE(field.text(), "200");
+    QVERIFY(!field.isInRange());
+    field.stepBy(1);
+    QCOMPARE(field.value(), 20);
+    QVERIFY(field.isInRange());
 }
 
 void TestFields::aStepStartsFromWhatWasTyped()

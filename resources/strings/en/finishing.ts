@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>Custom Finishing Hint</source>
-        <translation>For the operator of the device, in your own words. It goes with the job and can have up to 255 characters.</translation>
+        <translation>For the operator of the device, in your own words. It goes with the job and can have up to 255 characters; OK needs at least one.</translation>
     </message>
     <!-- Separators -->
     <message>

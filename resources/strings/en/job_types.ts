@@ -37,6 +37,10 @@
         <source>Secure Print Hint</source>
         <translation>The device holds the job until the passcode is entered there. Leave both fields empty to have a passcode made for you.</translation>
     </message>
+    <message>
+        <source>Passcode Not Set Hint</source>
+        <translation>No passcode yet: the job does not print without one.</translation>
+    </message>
     <!-- Delayed print -->
     <message>
         <source>TimeToPrint:</source>
@@ -126,6 +130,10 @@
     <message>
         <source>SecureSavedJob:</source>
         <translation>&amp;Lock the saved job with a passcode</translation>
+    </message>
+    <message>
+        <source>Saved Job Passcode Hint</source>
+        <translation>OK needs %1 to %2 digits, or none: then a passcode is made for you.</translation>
     </message>
 </context>
 </TS>

@@ -85,6 +85,26 @@
         <translation>Not set</translation>
     </message>
     <message>
+        <source>Front Cover Left Out Header</source>
+        <translation>The front cover will be left out</translation>
+    </message>
+    <message>
+        <source>Back Cover Left Out Header</source>
+        <translation>The back cover will be left out</translation>
+    </message>
+    <message>
+        <source>Covers Left Out Header</source>
+        <translation>Both covers will be left out</translation>
+    </message>
+    <message>
+        <source>Cover Go Back</source>
+        <translation>Go Back</translation>
+    </message>
+    <message>
+        <source>Cover Leave Out</source>
+        <translation>Leave Out</translation>
+    </message>
+    <message>
         <source>Cover Source Missing</source>
         <translation>The printer leaves this cover out until you choose a paper source.</translation>
     </message>

@@ -92,6 +92,10 @@
         <translation>Sheets</translation>
     </message>
     <message>
+        <source>Exception Without Pages</source>
+        <translation>Covers no page</translation>
+    </message>
+    <message>
         <source>Exception Image Shift</source>
         <translation>Image shifted for tabs</translation>
     </message>

@@ -183,6 +183,18 @@
         <translation>%1 to %2 mm</translation>
     </message>
     <message>
+        <source>Custom Width Refused Header</source>
+        <translation>The device does not take this width</translation>
+    </message>
+    <message>
+        <source>Custom Length Refused Header</source>
+        <translation>The device does not take this length</translation>
+    </message>
+    <message>
+        <source>Custom Size Refused Message</source>
+        <translation>It takes %1. Change the number, or cancel to keep the size that the paper has.</translation>
+    </message>
+    <message>
         <source>Custom Size Picture</source>
         <translation>A sheet with its width and length</translation>
     </message>
