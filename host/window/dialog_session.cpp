@@ -561,16 +561,20 @@ void DialogSession::openTheDocument()
     if (m_openingCancelled || !m_options.document)
         return;
     m_openingCancelled = std::make_shared<std::atomic_bool>(false);
-    m_opening.start([source = *m_options.document,
-                     cancelled = m_openingCancelled] { return openDocument(source, *cancelled); },
-                    [this](Result<Document> opened) {
-                        if (opened)
-                            m_document = std::move(opened).value();
-                        else
-                            m_documentProblem =
-                                tr("The document cannot be opened: %1").arg(opened.error().text());
-                        emit documentChanged();
-                    });
+    const auto take = [this](Result<Document> opened) {
+        if (opened)
+            m_document = std::move(opened).value();
+        else
+            m_documentProblem = tr("The document cannot be opened: %1").arg(opened.error().text());
+        emit documentChanged();
+    };
+    const bool isStarted = m_opening.start(
+        [source = *m_options.document, cancelled = m_openingCancelled] {
+            return openDocument(source, *cancelled);
+        },
+        take);
+    if (!isStarted)
+        take(Error{Code::NotReadable, title(), noThreadReason()});
 }
 
 } // namespace kelvo

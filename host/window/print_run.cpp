@@ -71,9 +71,20 @@ PrintRun::~PrintRun()
 
 void PrintRun::start(Order order)
 {
-    m_task.start([order = std::make_shared<Order>(std::move(order)),
-                  cancelled = m_cancelled] { return carryOut(*order, *cancelled); },
-                 [this](const PrintOutcome &outcome) { emit finished(outcome); });
+    const bool isStarted =
+        m_task.start([order = std::make_shared<Order>(std::move(order)),
+                      cancelled = m_cancelled] { return carryOut(*order, *cancelled); },
+                     [this](const PrintOutcome &outcome) { emit finished(outcome); });
+    if (isStarted)
+        return;
+    // Never from within this call: whoever calls has not yet shown that it prints.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            emit finished(
+                {ExitStatus::Failed, {}, tr("Nothing was sent: %1.").arg(noThreadReason()), {}});
+        },
+        Qt::QueuedConnection);
 }
 
 void PrintRun::cancel()
