@@ -414,8 +414,8 @@ Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue
         return sinceStop.isValid() ? sinceStop.hasExpired(graceMs())
                                    : sending->patience.isTimedOut(graceMs());
     };
-    if (auto result =
-            runAside<Result<DeliveredJob>>([sending] { return send(*sending); }, isGivenUp))
+    if (auto result = runAside<DeliveredJob>([sending] { return send(*sending); },
+                                             [sending] { return sending->queue; }, isGivenUp))
         return *result;
     const Error error =
         sinceStop.isValid() ? serverError(sending->patience, sending->queue) : noAnswer(*sending);

@@ -118,6 +118,8 @@ private slots:
     void refusesAPpdThatWasCutOff();
     void printsWhatIsNamedOnTheSampleDevice();
     void tellsOfAnOutputThatIsFull();
+    void endsWhereThereAreNoThreads();
+    void hearsShortcutsAfterASetUp();
     void keepsPresets();
     void keepsNoDefaultsInPresets();
     void leavesEachQueueItsOwnDefaults_data();
@@ -780,6 +782,38 @@ void TestStories::tellsOfAnOutputThatIsFull()
                  QStringList{"kelvo-print: standard output cannot be written; what was done "
                              "before stays done"});
     }
+    QVERIFY(QFile::exists(desk.path("out/document.pdf")));
+}
+
+// Not in terminate(), and not waiting for threads that never came.
+void TestStories::endsWhereThereAreNoThreads()
+{
+    for (const int most : {1, 4}) { // processes of this user, of which there are some already
+        Desk desk;
+        desk.atStart([most] {
+            rlimit limit = {};
+            ::getrlimit(RLIMIT_NPROC, &limit);
+            limit.rlim_cur = static_cast<rlim_t>(most);
+            ::setrlimit(RLIMIT_NPROC, &limit);
+        });
+        const Run print = desk.run({"--demo", "--no-window", "--to", "out"});
+        QENDED(print, 1);
+        QVERIFY2(print.messages().size() == 1 && print.err.contains("ulimit -u"),
+                 qPrintable(print.err));
+        QVERIFY(!QFile::exists(desk.path("out")));
+    }
+}
+
+void TestStories::hearsShortcutsAfterASetUp()
+{
+    const Desk desk;
+    write(desk.path("keys.kps"),
+          "choose @jobType key SecurePrint\n"
+          "type @passcode \"4815\"\n"
+          "type @confirmPasscode \"4815\"\n"
+          "click @okButton\n"
+          "key Ctrl+P\n");
+    QENDED(desk.run({"--demo", "--no-window", "--to", "out", "--script", "keys.kps"}), 0);
     QVERIFY(QFile::exists(desk.path("out/document.pdf")));
 }
 
