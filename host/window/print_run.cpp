@@ -11,6 +11,7 @@ ExitStatus statusOfPreparation(Code code)
 {
     switch (code) {
     case Code::Refused:
+    case Code::Unsupported:
     case Code::OutOfRange:
         return ExitStatus::NotOffered;
     case Code::Cancelled:
@@ -20,14 +21,18 @@ ExitStatus statusOfPreparation(Code code)
     }
 }
 
-// While it is sent: what is wrong is on the way.
+// While it is sent: what is wrong is on the way, but for what the queue turns out
+// not to do.
 ExitStatus statusOfDelivery(Code code)
 {
     switch (code) {
     case Code::NotFound:
     case Code::Unreachable:
     case Code::TimedOut:
+    case Code::Damaged: // the PPD that the server has for it
         return ExitStatus::NoDestination;
+    case Code::Unsupported:
+        return ExitStatus::NotOffered;
     case Code::Cancelled:
         return ExitStatus::Cancelled;
     default:

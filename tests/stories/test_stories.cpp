@@ -110,6 +110,7 @@ private slots:
     void refusesBrokenInputs();
     void waitsForADeadServerOnlySoLong_data();
     void waitsForADeadServerOnlySoLong();
+    void printsPlainlyOnlyWhereThereIsNoPpd();
     void endsOnAnInterrupt();
     void keepsWhatStandsInTheFolder_data();
     void keepsWhatStandsInTheFolder();
@@ -141,6 +142,7 @@ void TestStories::initTestCase()
     QCOMPARE(m_cups.start(), QString());
     QCOMPARE(m_cups.addQueue(QStringLiteral("Hall-3"), fullPpd), QString());
     QCOMPARE(m_cups.addQueue(QStringLiteral("No-Ticket"), testPpds + "no-ticket.ppd"), QString());
+    QCOMPARE(m_cups.addQueue(QStringLiteral("Raw"), {}), QString());
 }
 
 void TestStories::printsTheBundledDeviceIntoAFolder()
@@ -615,6 +617,30 @@ void TestStories::waitsForADeadServerOnlySoLong()
         QVERIFY2(run.err.startsWith("kelvo-print: ") && run.err.contains(server.address()),
                  qPrintable(run.err));
     }
+}
+
+void TestStories::printsPlainlyOnlyWhereThereIsNoPpd()
+{
+    Desk desk;
+    const QStringList arguments{"-d", "Hall-3", "--no-window", documentPath};
+    const std::size_t before = m_cups.jobs(0).size();
+    for (const qint64 place : {21, 200, 30'000}) { // in the head of the answer, and in the PPD
+        const UnreliableServer server(UnreliableServer::Trouble::CutsPpds, m_cups.port(), place);
+        desk.set("CUPS_SERVER", server.address());
+        const Run run = desk.run(arguments);
+        QENDED(run, 4);
+        QVERIFY2(run.err.contains("Hall-3") && run.err.contains("broke off"), qPrintable(run.err));
+    }
+    desk.set("CUPS_SERVER", m_cups.server());
+    QVERIFY(m_cups.damagePpd("Hall-3", contents(fullPpd).left(20'000)));
+    const Run damaged = desk.run(arguments);
+    QVERIFY(m_cups.damagePpd("Hall-3", contents(fullPpd)));
+    QENDED(damaged, 4);
+    QVERIFY2(damaged.err.contains("damaged"), qPrintable(damaged.err));
+    QCOMPARE(m_cups.jobs(0).size(), before);
+
+    QENDED(desk.run({"-d", "Raw", "--no-window", documentPath}), 0);
+    QCOMPARE(m_cups.jobs(static_cast<int>(before) + 1).size(), before + 1);
 }
 
 void TestStories::endsOnAnInterrupt()
