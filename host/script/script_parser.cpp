@@ -93,11 +93,6 @@ struct Words
     QString problem;
 };
 
-QString textProblem(QChar after)
-{
-    return QStringLiteral("after a closing quote comes a blank, not \"%1\"").arg(after);
-}
-
 Words split(const QString &line)
 {
     Words result;
@@ -134,7 +129,7 @@ Words split(const QString &line)
             if (!closed)
                 return {{}, QStringLiteral("the text is not closed with a double quote")};
             if (at < line.size() && !line[at].isSpace())
-                return {{}, textProblem(line[at])};
+                return {{}, QStringLiteral("after a closing quote comes a blank")};
         } else if (c == u'\'') {
             word.kind = Word::Kind::Code;
             const qsizetype end = line.indexOf(u'\'', at + 1);
@@ -150,7 +145,7 @@ Words split(const QString &line)
             word.text = QString::number(static_cast<std::int32_t>(word.code));
             at = end + 1;
             if (at < line.size() && !line[at].isSpace())
-                return {{}, textProblem(line[at])};
+                return {{}, QStringLiteral("after a closing quote comes a blank")};
         } else {
             while (at < line.size() && !line[at].isSpace())
                 word.text += line[at++];
@@ -211,9 +206,15 @@ private:
             && m_words[m_at].kind == Word::Kind::Bare)
             name += u' ' + next().text;
         auto control = inspector::controlNameFrom(name);
-        if (!control)
+        if (!control) {
+            // Where the control was forgotten or misspelled, what is typed may be
+            // a secret: of `type` the line is not repeated.
+            const QString what = m_line.command == ScriptCommand::Type
+                ? QStringLiteral("what follows type")
+                : QStringLiteral("\"%1\"").arg(name);
             return refuse(
-                QStringLiteral("\"%1\" is no control; write KPDE 102 or @objectName").arg(name));
+                QStringLiteral("%1 is no control; write KPDE 102 or @objectName").arg(what));
+        }
         m_line.control = control.value();
         return true;
     }

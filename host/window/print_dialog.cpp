@@ -951,6 +951,11 @@ std::optional<QString> PrintDialog::secret(const QString &name) const
     return *found;
 }
 
+TicketFile PrintDialog::withSecretsMasked(TicketFile file) const
+{
+    return masked(std::move(file), m_session->secretKeys());
+}
+
 QStringList PrintDialog::secretValues()
 {
     QStringList values = m_secrets.values();

@@ -65,6 +65,7 @@ public:
     ExitStatus lastPrintStatus() const override { return m_printStatus; }
     const PrintSession &sessionForReading() override;
     QString jobInWords() override;
+    TicketFile withSecretsMasked(TicketFile file) const override;
     std::optional<QString> secret(const QString &name) const override;
     QStringList secretValues() override;
 

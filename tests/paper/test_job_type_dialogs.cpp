@@ -8,6 +8,8 @@
 #include "saved_job_dialog.h"
 #include "secure_print_dialog.h"
 
+#include <QLineEdit>
+
 using namespace kelvo;
 
 class TestJobTypeDialogs : public QObject

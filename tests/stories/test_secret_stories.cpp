@@ -1,5 +1,8 @@
 #include "kelvo_print.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
 
 using namespace kelvo;
@@ -10,9 +13,55 @@ class TestSecretStories : public QObject
     Q_OBJECT
 
 private slots:
+    void masksAPasscodeAndNothingElse_data();
+    void masksAPasscodeAndNothingElse();
     void showsControlCharactersAsEscapes_data();
     void showsControlCharactersAsEscapes();
 };
+
+// One digit is a part of nearly everything that a script asks for.
+void TestSecretStories::masksAPasscodeAndNothingElse_data()
+{
+    QTest::addColumn<QByteArray>("passcode");
+    QTest::newRow("one digit") << QByteArray("1");
+    QTest::newRow("three digits") << QByteArray("102");
+    QTest::newRow("a control's number") << QByteArray("8501");
+    QTest::newRow("twelve digits") << QByteArray("123456789012");
+}
+
+void TestSecretStories::masksAPasscodeAndNothingElse()
+{
+    QFETCH(QByteArray, passcode);
+    const Desk desk;
+    write(desk.path("s.kps"),
+          "tab 1\nchoose @jobType key SecurePrint\n"
+          "type @passcode \"CODE\"\ntype @confirmPasscode \"CODE\"\nclick @showPasscode\n"
+          "controls\nclick @okButton\nsummary\nexpect-ticket com.kelvo.print.JobType absent\n");
+    QByteArray script = contents(desk.path("s.kps"));
+    write(desk.path("s.kps"), script.replace("CODE", passcode));
+    const Run run = desk.run({"--demo", "--no-window", "--script", "s.kps"});
+    QENDED(run, 2);
+
+    const qsizetype end = run.out.indexOf(QLatin1String("\n]\n")) + 3;
+    QJsonParseError error;
+    const QJsonArray controls = QJsonDocument::fromJson(run.out.left(end).toUtf8(), &error).array();
+    QCOMPARE(error.error, QJsonParseError::NoError);
+    QMap<QString, QString> texts;
+    for (const auto &control : controls)
+        texts.insert(control[QLatin1String("id")].toString(),
+                     control[QLatin1String("text")].toString());
+    QCOMPARE(texts.value("KPDE 8501"), QStringLiteral("••••"));
+    QCOMPARE(texts.value("KPDE 8502"), QStringLiteral("••••"));
+    QCOMPARE(texts.value("KPDE 8503"), QStringLiteral("1 to 12 digits"));
+
+    const QString summary = run.out.mid(end);
+    QVERIFY2(summary.contains("Copies: 1\n"), qPrintable(summary));
+    QVERIFY2(summary.contains("SecurePrintPassword = \"••••\""), qPrintable(summary));
+    QVERIFY2(run.err.contains("s.kps:9: "), qPrintable(run.err));
+    QVERIFY2(run.err.contains("\"SecurePrintPassword\":\"••••\""), qPrintable(run.err));
+    for (const QString &text : {summary, run.err})
+        QCOMPARE(text.count(QStringLiteral("••••")), 1);
+}
 
 // Everybody may name files, options and keys of tickets.
 void TestSecretStories::showsControlCharactersAsEscapes_data()
