@@ -277,12 +277,15 @@ Result<StagedFile> StagedFile::write(const QString &path, const Writer &writer)
         return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
 
     StagedFile staged;
-    QByteArray temporary = QFile::encodeName(folderOf(path) + QStringLiteral("/.kelvo-XXXXXX"));
-    Descriptor fd(::mkostemp(temporary.data(), O_CLOEXEC)); // 0600, O_EXCL
+    auto temporary = HeldPath::make(folderOf(path), kStagedFilePrefix, LeftoverKind::File);
+    if (!temporary)
+        return systemError(Code::NotWritable, path, temporary.error().number);
+    staged.m_path = path;
+    staged.m_temporary = std::move(temporary).value();
+    // The lock outlives the closing that shows whether all was written.
+    Descriptor fd(::fcntl(staged.m_temporary.fd(), F_DUPFD_CLOEXEC, 0));
     if (!fd)
         return systemError(Code::NotWritable, path);
-    staged.m_path = path;
-    staged.m_temporary = temporary;
     const Result<qint64> size = writer(fd.get());
     if (!size)
         return size.error();
@@ -326,21 +329,21 @@ Result<StagedFile> StagedFile::withCopy(const QString &path, const QString &sour
 
 StagedFile::StagedFile(StagedFile &&other) noexcept
     : m_path(std::move(other.m_path))
-    , m_temporary(std::exchange(other.m_temporary, {}))
+    , m_temporary(std::move(other.m_temporary))
 {
 }
 
 StagedFile::~StagedFile()
 {
-    if (!m_temporary.isEmpty())
-        ::unlink(m_temporary.constData());
+    if (!m_temporary.path().isEmpty())
+        ::unlink(m_temporary.path().constData());
 }
 
 Result<void> StagedFile::place()
 {
-    if (::rename(m_temporary.constData(), QFile::encodeName(m_path).constData()) != 0)
+    if (::rename(m_temporary.path().constData(), QFile::encodeName(m_path).constData()) != 0)
         return systemError(Code::NotWritable, m_path);
-    m_temporary.clear();
+    m_temporary = {};
     syncFolder(folderOf(m_path));
     return {};
 }

@@ -47,10 +47,6 @@ namespace kelvo::inspector {
 
 namespace {
 
-// As .ui files and typeSecret() mark a field: whoever asks to see its text has not
-// asked for it to be in a log.
-constexpr const char *secretProperty = "secret";
-
 // Qt gives names of its own to the insides of its widgets; they are not ours.
 bool hasSpeakingName(const QWidget *widget)
 {
@@ -353,7 +349,7 @@ constexpr int describedRows = 100;
 bool isSecret(const QWidget *control)
 {
     const auto *field = qobject_cast<const QLineEdit *>(control);
-    return control->property(secretProperty).toBool()
+    return control->property(kSecretProperty).toBool()
         || (field && field->echoMode() != QLineEdit::Normal);
 }
 
@@ -513,7 +509,7 @@ Done type(QWidget *control, const QString &text)
 
 Done typeSecret(QWidget *control, const QString &text)
 {
-    control->setProperty(secretProperty, true);
+    control->setProperty(kSecretProperty, true);
     return type(control, text);
 }
 

@@ -85,7 +85,7 @@ Done pressKey(QWidget *window, const QString &keys);         // "Ctrl+P", to the
 Done answerFileChooser(QWidget *window, const QString &path);
 
 // Whether what the control holds is a secret: its window's description says so
-// (the dynamic property "secret"), it shows bullets, or a secret was typed into it.
+// (kSecretProperty), it shows bullets, or a secret was typed into it.
 bool isSecret(const QWidget *control);
 
 // A property as a script writes it: value, index, text, enabled, visible,

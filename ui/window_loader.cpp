@@ -8,6 +8,7 @@
 #include "picture_view.h"
 #include "popup_button.h"
 #include "radio_group.h"
+#include "secrets.h"
 #include "spin_field.h"
 #include "summary_view.h"
 #include "tab_control.h"
@@ -252,6 +253,8 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
     for (QWidget *widget : loader.created()) {
         localize(widget, bundle);
         sendControlEvents(widget);
+        if (widget->property(kSecretProperty).toBool())
+            protectSecrets(); // it is about to be typed, or put in
     }
     nameByLabels(loader.created());
     return loaded.release();

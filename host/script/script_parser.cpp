@@ -425,7 +425,8 @@ Result<std::vector<ScriptLine>> parseScript(const QByteArray &text, const QStrin
 
 namespace {
 
-// To its end: a pipe gives what is there, and more later.
+// To its end: a pipe gives what is there, and more later. Whoever waits for more
+// can be interrupted.
 Result<QByteArray> readStandardInput()
 {
     const QString name = QStringLiteral("standard input");
@@ -434,7 +435,7 @@ Result<QByteArray> readStandardInput()
     for (;;) {
         const ssize_t count = ::read(STDIN_FILENO, block, sizeof block);
         if (count < 0 && errno == EINTR)
-            continue;
+            return Error{Error::Code::Cancelled, name, QStringLiteral("interrupted")};
         if (count < 0)
             return Error{Error::Code::NotReadable, name,
                          QString::fromLocal8Bit(std::strerror(errno)), errno};

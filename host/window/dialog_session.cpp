@@ -2,6 +2,7 @@
 
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "secrets.h"
 #include "terminal.h"
 #include "ticket_attachment.h"
 #include "ticket_layers.h"
@@ -32,6 +33,10 @@ DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObjec
 {
     if (!m_options.document)
         m_documentProblem = tr("There is no document to print.");
+    for (const auto *given : {&m_options.preset, &m_options.ticketIn}) {
+        if (*given && holdsSecret(**given, m_secretKeys))
+            protectSecrets();
+    }
 }
 
 DialogSession::~DialogSession()
@@ -314,6 +319,8 @@ void DialogSession::askForSiteDefaults()
 
 void DialogSession::ask(const TicketFile &file, AskedSettings::Kind kind)
 {
+    if (holdsSecret(file, m_secretKeys))
+        protectSecrets();
     m_asked.lay(file, kind);
     m_unknown.insert(file.unknown);
     m_unknown.remove(kTicketNonceKey); // of one sent job, and of no other

@@ -129,7 +129,10 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(&m_grace, &QTimer::timeout, this, &QWidget::show);
     m_firstFrame.setSingleShot(true);
     m_firstFrame.setInterval(firstFrameMs);
-    connect(&m_firstFrame, &QTimer::timeout, this, [this] { m_session->openTheDocument(); });
+    connect(&m_firstFrame, &QTimer::timeout, this, [this] {
+        m_session->openTheDocument();
+        emit begun();
+    });
     watchEvents([this](const Event &) {
         if (m_session->stage() == DialogSession::Stage::Ready)
             m_look.start();

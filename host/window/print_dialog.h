@@ -70,6 +70,7 @@ public:
     QStringList secretValues() override;
 
 signals:
+    void begun(); // once: the first frame, which nothing may delay, is painted
     void ended(kelvo::ExitStatus status); // once
 
 protected:

@@ -1,9 +1,13 @@
 #include "kelvo_print.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
+
+#include <sys/resource.h>
 
 using namespace kelvo;
 
@@ -15,6 +19,12 @@ class TestSecretStories : public QObject
 private slots:
     void masksAPasscodeAndNothingElse_data();
     void masksAPasscodeAndNothingElse();
+    void leavesNothingOfAKilledRun_data();
+    void leavesNothingOfAKilledRun();
+    void leavesARunThatLivesAlone();
+    void endsOnASignalBeforeThereIsADialog();
+    void closesItsMemoryOnceItHoldsASecret_data();
+    void closesItsMemoryOnceItHoldsASecret();
     void showsControlCharactersAsEscapes_data();
     void showsControlCharactersAsEscapes();
 };
@@ -61,6 +71,129 @@ void TestSecretStories::masksAPasscodeAndNothingElse()
     QVERIFY2(run.err.contains("\"SecurePrintPassword\":\"••••\""), qPrintable(run.err));
     for (const QString &text : {summary, run.err})
         QCOMPARE(text.count(QStringLiteral("••••")), 1);
+}
+
+namespace {
+
+// Folders and files of a moment, of any run.
+QStringList leftoversOf(const Desk &desk)
+{
+    const auto all = QDir::Dirs | QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot;
+    QStringList names = QDir(desk.path("tmp")).entryList({"kelvo-print-*"}, all);
+    for (const QString &folder : {desk.path("out"), desk.presetFolder()})
+        names += QDir(folder).entryList({".kelvo-*"}, all);
+    return names;
+}
+
+void giveTemporaryFolder(Desk &desk)
+{
+    QDir().mkpath(desk.path("tmp"));
+    desk.set("TMPDIR", desk.path("tmp"));
+}
+
+const QStringList secureJob{"--demo", "--no-window", "--script", script("secure-print.kps"),
+                            "--to",   "out"};
+
+} // namespace
+
+// Between any two steps somebody may pull the plug.
+void TestSecretStories::leavesNothingOfAKilledRun_data()
+{
+    QTest::addColumn<QString>("step");
+    for (const char *step : {"flock:when=1", "fsync:when=1", "fsync:when=3", "rename:when=1",
+                             "rename:when=3", "unlink:when=2"})
+        QTest::newRow(step) << QString::fromLatin1(step);
+}
+
+void TestSecretStories::leavesNothingOfAKilledRun()
+{
+    QFETCH(QString, step);
+    Desk desk;
+    giveTemporaryFolder(desk);
+    desk.unset("XDG_RUNTIME_DIR");
+    const QString kill =
+        step.section(u':', 0, 0) + QStringLiteral(":signal=KILL:") + step.section(u':', 1);
+    desk.under({"strace", "-f", "-qq", "-o", desk.path("trace"), "-e", "inject=" + kill});
+    QCOMPARE(desk.run(secureJob).status, -1);
+    QVERIFY2(!leftoversOf(desk).isEmpty(), "nothing was killed in the middle");
+
+    desk.under({});
+    QENDED(desk.run(secureJob), 0);
+    QCOMPARE(leftoversOf(desk), QStringList());
+}
+
+void TestSecretStories::leavesARunThatLivesAlone()
+{
+    Desk desk;
+    giveTemporaryFolder(desk);
+    QProcess waiting;
+    desk.prepare(waiting, {"--demo", "--no-window", "--to", "waiting", "-"});
+    waiting.start();
+    waiting.write("%PDF");
+    QTRY_VERIFY(!leftoversOf(desk).isEmpty());
+    const QStringList held = leftoversOf(desk);
+
+    QENDED(desk.run(secureJob), 0);
+    QCOMPARE(leftoversOf(desk), held);
+    waiting.write(contents(documentPath).mid(4));
+    waiting.closeWriteChannel();
+    QVERIFY(waiting.waitForFinished());
+    QCOMPARE(waiting.exitCode(), 0);
+    QCOMPARE(leftoversOf(desk), QStringList());
+}
+
+void TestSecretStories::endsOnASignalBeforeThereIsADialog()
+{
+    Desk desk;
+    giveTemporaryFolder(desk);
+    desk.unset("XDG_RUNTIME_DIR");
+    desk.under(
+        {"strace", "-f", "-qq", "-o", desk.path("trace"), "-e", "inject=mkdir:signal=TERM:when=1"});
+    QENDED(desk.run(secureJob), 130);
+    QCOMPARE(leftoversOf(desk), QStringList());
+    QVERIFY(!QFile::exists(desk.path("out")));
+}
+
+void TestSecretStories::closesItsMemoryOnceItHoldsASecret_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("isClosed");
+    QTest::newRow("of a script") << QStringList{"--secret", "CODE=code.txt"} << true;
+    QTest::newRow("of a ticket") << QStringList{"--ticket-in", "ticket.plist"} << true;
+    QTest::newRow("none") << QStringList() << false;
+}
+
+void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, isClosed);
+    Desk desk;
+    giveTemporaryFolder(desk);
+    write(desk.path("code.txt"), "4815");
+    QVERIFY(QFile::setPermissions(desk.path("code.txt"), QFile::ReadOwner | QFile::WriteOwner));
+    TicketFile ticket;
+    ticket.printSettings.entries[QStringLiteral("com.kelvo.print.JobType")] = {
+        Dictionary{{"JobType", 6}, {"SecurePrintPassword", "4815"}}, {}};
+    QVERIFY(writeTicketFile(desk.path("ticket.plist"), ticket));
+    desk.atStart([] {
+        rlimit cores;
+        ::getrlimit(RLIMIT_CORE, &cores);
+        cores.rlim_cur = cores.rlim_max;
+        ::setrlimit(RLIMIT_CORE, &cores);
+    });
+
+    QProcess waiting;
+    desk.prepare(waiting, arguments + QStringList{"--demo", "--no-window", "--to", "out", "-"});
+    waiting.start();
+    QTRY_VERIFY(!leftoversOf(desk).isEmpty()); // the document is waited for
+    const QString process = QStringLiteral("/proc/%1/").arg(waiting.processId());
+    // A process that the kernel makes no core file of closes this to its own user.
+    QCOMPARE(QFile(process + "environ").open(QIODevice::ReadOnly), !isClosed);
+    static const QRegularExpression noCores(QStringLiteral("Max core file size +0 +0 "));
+    if (isClosed)
+        QVERIFY(noCores.match(QString::fromLatin1(contents(process + "limits"))).hasMatch());
+    waiting.kill();
+    waiting.waitForFinished();
 }
 
 // Everybody may name files, options and keys of tickets.
