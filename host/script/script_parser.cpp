@@ -57,7 +57,7 @@ constexpr CommandRow commandRows[] = {
     {ScriptCommand::Show, "show", "C", {"show CONTROL", "prints one control as JSON"}},
     {ScriptCommand::Controls, "controls", "", {"controls", "prints the front window's controls as JSON"}},
     {ScriptCommand::Summary, "summary", "", {"summary", "prints what will be sent, in words"}},
-    {ScriptCommand::Screenshot, "screenshot", "W", {"screenshot FILE", "writes the front window as PNG"}},
+    {ScriptCommand::Screenshot, "screenshot", "W", {"screenshot FILE", "writes the front window as PNG, for its owner alone"}},
 };
 // clang-format on
 

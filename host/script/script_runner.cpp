@@ -1,5 +1,6 @@
 #include "script_runner.h"
 
+#include "file_store.h"
 #include "inspector.h"
 #include "modal_dialog.h"
 #include "nearest_name.h"
@@ -11,6 +12,7 @@
 #include "values.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -546,12 +548,19 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
     QWidget *window = front();
     // What is still to be laid out or painted belongs into the picture.
     QCoreApplication::sendPostedEvents();
-    if (window->grab().save(file, "PNG"))
+    QByteArray png;
+    QBuffer buffer(&png);
+    // For the user alone, as everything that we write: it may show what a job says.
+    const bool isMade = buffer.open(QIODevice::WriteOnly) && window->grab().save(&buffer, "PNG");
+    const auto written =
+        isMade ? replaceFile(file, png) : Error{Error::Code::NotWritable, file, {}};
+    if (written)
         return {};
     return LineProblem{
         ExitStatus::Failed,
-        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights")
-            .arg(file)};
+        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights "
+                       "(%2)")
+            .arg(file, written.error().detail)};
 }
 
 } // namespace kelvo
