@@ -3,6 +3,7 @@
 #include "command_line.h"
 #include "control_list.h"
 #include "exit_status.h"
+#include "file_names.h"
 #include "file_store.h"
 #include "folders.h"
 #include "help_window.h"
@@ -182,10 +183,10 @@ void endOnSignals(PrintDialog &dialog)
 // A secret's file: the user's alone, one text, its last line break left out.
 Result<QString> readSecret(const QString &path)
 {
-    struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+    const auto status = fileStatus(path);
+    if (!status)
         return Error{Error::Code::NotFound, path, QString::fromLocal8Bit(std::strerror(errno))};
-    if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+    if ((status->st_mode & (S_IRWXG | S_IRWXO)) != 0)
         return Error{Error::Code::Refused, path,
                      QStringLiteral("others may read this secret; set its mode to 0600")};
     const auto bytes = readFile(path, limits::secretBytes);
@@ -289,7 +290,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
             return Failure{ExitStatus::WrongUsage,
                            QStringLiteral("there is no document: name a file, or pipe one in. "
                                           "`kelvo-print --help` says more.")};
-    } else if (!QFileInfo(line.file).isFile() && !QFileInfo(line.file).isReadable()) {
+    } else if (!fileStatus(line.file)) {
         return Failure{ExitStatus::Failed,
                        QStringLiteral("%1: there is no such document").arg(line.file)};
     }
@@ -454,7 +455,7 @@ int main(int argc, char **argv)
     std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(fileNameFrom(argv[i]));
     const auto parsed = parseCommandLine(arguments);
     if (!parsed) {
         fail(ExitStatus::WrongUsage, parsed.error().text());

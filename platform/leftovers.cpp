@@ -1,6 +1,7 @@
 #include "leftovers.h"
 
-#include <QFile>
+#include "file_names.h"
+
 #include <QRandomGenerator>
 
 #include <dirent.h>
@@ -141,7 +142,7 @@ Result<HeldPath> HeldPath::make(const QString &folder, QLatin1String prefix, Lef
             + QString::number(QRandomGenerator::system()->generate64(), 16)
                   .rightJustified(kDigits, u'0');
         HeldPath held;
-        held.m_path = QFile::encodeName(folder + u'/' + name);
+        held.m_path = fileNameBytes(folder + u'/' + name);
         const char *path = held.m_path.constData();
         // Whoever is clearing up may meet it before it is locked. Then it is gone, or
         // goes at once, and another one is made.
@@ -167,7 +168,7 @@ Result<HeldPath> HeldPath::make(const QString &folder, QLatin1String prefix, Lef
 
 void removeLeftovers(const QString &folder, QLatin1String prefix, LeftoverKind kind)
 {
-    const Directory directory(::opendir(QFile::encodeName(folder).constData()));
+    const Directory directory(::opendir(fileNameBytes(folder).constData()));
     if (!directory)
         return;
     const int at = ::dirfd(directory.get());

@@ -8,8 +8,6 @@
 #include "ticket_layers.h"
 #include "values.h"
 
-#include <QFileInfo>
-
 namespace kelvo {
 
 namespace {
@@ -562,12 +560,7 @@ QString DialogSession::title() const
 {
     if (!m_document.isNull())
         return m_document.title();
-    if (m_options.line.title)
-        return *m_options.line.title;
-    if (!m_options.document || m_options.document->path.isEmpty()
-        || m_options.document->path == QLatin1String("-"))
-        return QStringLiteral("(stdin)");
-    return QFileInfo(m_options.document->path).fileName();
+    return titleOf(m_options.document.value_or(DocumentSource()));
 }
 
 void DialogSession::openTheDocument()

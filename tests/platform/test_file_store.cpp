@@ -1,3 +1,4 @@
+#include "file_names.h"
 #include "file_store.h"
 #include "property_list.h"
 #include "size_limits.h"
@@ -48,6 +49,8 @@ private slots:
     void clearsUpOnlyAfterTheDead_data();
     void clearsUpOnlyAfterTheDead();
     void neverClearsUpWhatIsBeingMade();
+    void keepsTheBytesOfNames_data();
+    void keepsTheBytesOfNames();
     void makesNamesSafe_data();
     void makesNamesSafe();
     void keepsSafeNamesApart();
@@ -460,6 +463,36 @@ void TestFileStore::neverClearsUpWhatIsBeingMade()
     cleaners.clear();
     QCOMPARE(lost, 0);
     QCOMPARE(readFile(store(), 10).value(), "99");
+}
+
+void TestFileStore::keepsTheBytesOfNames_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("UTF-8") << "Grüße 😀"_ba << u"Grüße 😀"_s;
+    QTest::newRow("Latin-1") << "Gr\xfc\xdf"_ba << u"Gr"_s + QChar(0xDCFC) + QChar(0xDCDF);
+    QTest::newRow("both") << "\xffä\x80"_ba << QString(QChar(0xDCFF)) + u'ä' + QChar(0xDC80);
+    QTest::newRow("cut character")
+        << "a\xf0\x9f\x98"_ba << u"a"_s + QChar(0xDCF0) + QChar(0xDC9F) + QChar(0xDC98);
+    QTest::newRow("surrogate as UTF-8")
+        << "\xed\xb3\xbc"_ba << QString(QChar(0xDCED)) + QChar(0xDCB3) + QChar(0xDCBC);
+    QTest::newRow("overlong") << "\xc0\xaf"_ba << QString(QChar(0xDCC0)) + QChar(0xDCAF);
+    QTest::newRow("byte order mark") << "\xef\xbb\xbf"
+                                        "a"_ba
+                                     << u"\ufeffa"_s;
+}
+
+void TestFileStore::keepsTheBytesOfNames()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, name);
+    QCOMPARE(fileNameFrom(bytes), name);
+    QCOMPARE(fileNameBytes(name), bytes);
+
+    QVERIFY(replaceFile(m_folder->filePath(name), bytes));
+    QCOMPARE(readFile(m_folder->filePath(name), 20).value(), bytes);
+    const QByteArray folder = m_folder->path().toUtf8();
+    QCOMPARE(::access((folder + '/' + bytes).constData(), R_OK), 0);
 }
 
 void TestFileStore::makesNamesSafe_data()

@@ -1,3 +1,5 @@
+#include "file_names.h"
+#include "file_store.h"
 #include "kelvo_print.h"
 
 #include <QDir>
@@ -25,6 +27,8 @@ private slots:
     void endsOnASignalBeforeThereIsADialog();
     void closesItsMemoryOnceItHoldsASecret_data();
     void closesItsMemoryOnceItHoldsASecret();
+    void printsUnderAnyName_data();
+    void printsUnderAnyName();
     void showsControlCharactersAsEscapes_data();
     void showsControlCharactersAsEscapes();
 };
@@ -194,6 +198,61 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
         QVERIFY(noCores.match(QString::fromLatin1(contents(process + "limits"))).hasMatch());
     waiting.kill();
     waiting.waitForFinished();
+}
+
+// A name that no ticket could hold is no reason not to print.
+void TestSecretStories::printsUnderAnyName_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("title"); // empty: none is given
+    QTest::addColumn<QString>("printed");
+    const auto row = [](const char *name, const QByteArray &file, const QByteArray &title,
+                        const char *printed) {
+        QTest::newRow(name) << file << title << QString::fromUtf8(printed);
+    };
+    row("bytes that are no UTF-8", "Gr\xfc\xdf\x65.pdf", {},
+        "Gr\xef\xbf\xbd\xef\xbf\xbd"
+        "e.pdf");
+    row("control characters in the name", "a\x01\x1b[2J\nb.pdf", {}, "a [2J b.pdf");
+    row("nothing else in the name", "\x01", {}, "(untitled)");
+    row("line break in the title", "a.pdf", "Quarter\n\x1b[2J\xc2\x9b\xe2\x80\xae end",
+        "Quarter [2J end");
+    row("no character of any list in the title", "a.pdf", "x\xef\xbf\xbe", "x\xef\xbf\xbd");
+    row("a title of nothing", "a.pdf", "\n", "a.pdf");
+}
+
+void TestSecretStories::printsUnderAnyName()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QByteArray, title);
+    QFETCH(QString, printed);
+    const Desk desk;
+    const QString path = desk.path(fileNameFrom(file));
+    QVERIFY(replaceFile(path, contents(documentPath)));
+    QVERIFY(QFile::copy(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"),
+                        desk.path("device.ppd")));
+
+    // QProcess passes on text only: the shell makes bytes of the escapes.
+    const auto quoted = [](const QByteArray &bytes) {
+        QByteArray octal;
+        for (const char byte : bytes)
+            octal += '\\' + QByteArray::number(static_cast<uchar>(byte), 8).rightJustified(4, '0');
+        return "\"$(printf '%b_' '" + octal + "')\"";
+    };
+    QByteArray command = "f=" + quoted(file) + "; t=" + quoted(title)
+        + "; f=${f%_}; t=${t%_}; exec \"$0\" --ppd device.ppd --no-window --to out "
+          "${t:+-t \"$t\"} \"$f\"";
+    QProcess process;
+    desk.prepare(process, {});
+    process.setArguments({"-c", QString::fromLatin1(command), process.program()});
+    process.setProgram("bash");
+    process.start();
+    QVERIFY(process.waitForFinished());
+    const QByteArray error = process.readAllStandardError();
+    QVERIFY2(process.exitCode() == 0, error.constData());
+    QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()), "out " + printed + '\n');
+    const auto name = ticketIn(desk.path("out")).printSettings.entries.find(kPMJobNameKey);
+    QCOMPARE(name->second.value.toString(), printed);
 }
 
 // Everybody may name files, options and keys of tickets.
