@@ -3,23 +3,29 @@
 #include "command_line.h"
 #include "control_list.h"
 #include "exit_status.h"
+#include "file_names.h"
 #include "file_store.h"
+#include "folders.h"
 #include "help_window.h"
+#include "leftovers.h"
 #include "output_targets.h"
 #include "print_dialog.h"
 #include "printers.h"
 #include "script_parser.h"
 #include "script_runner.h"
+#include "secrets.h"
 #include "size_limits.h"
 #include "temporary_folder.h"
 #include "terminal.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QSocketNotifier>
 #include <QStringDecoder>
 #include <QTimer>
 
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
@@ -30,6 +36,7 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -129,27 +136,36 @@ int signalPipe[2] = {-1, -1};
 
 extern "C" void noteSignal(int)
 {
+    const int before = errno;
     ::alarm(signalSeconds);
     const char byte = 0;
     // A full pipe holds a signal already.
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
+    errno = before;
 }
 
-// The first signal ends as Cancel does; a second one ends at once.
-void endOnSignals(PrintDialog &dialog)
+// Before the first temporary folder is made: a signal that ended the program at
+// once would leave it. The first one ends as Cancel does, as soon as there is
+// somebody to cancel; a second one ends at once. `flags`: SA_RESTART or 0.
+void noteSignals(int flags)
 {
-    if (::pipe(signalPipe) != 0)
-        return;
     std::signal(SIGALRM, SIG_DFL); // whatever the caller left
     struct sigaction action = {};
     action.sa_handler = noteSignal;
-    action.sa_flags = SA_RESTART | SA_RESETHAND;
+    action.sa_flags = flags | SA_RESETHAND;
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         struct sigaction before = {};
         sigaction(number, nullptr, &before);
         if (before.sa_handler != SIG_IGN) // as nohup and shells in the background leave it
             sigaction(number, &action, nullptr);
     }
+}
+
+void endOnSignals(PrintDialog &dialog)
+{
+    if (signalPipe[0] < 0)
+        return;
+    noteSignals(SA_RESTART);
     auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, &dialog);
     QObject::connect(notifier, &QSocketNotifier::activated, &dialog, [&dialog] {
         char byte;
@@ -167,10 +183,10 @@ void endOnSignals(PrintDialog &dialog)
 // A secret's file: the user's alone, one text, its last line break left out.
 Result<QString> readSecret(const QString &path)
 {
-    struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+    const auto status = fileStatus(path);
+    if (!status)
         return Error{Error::Code::NotFound, path, QString::fromLocal8Bit(std::strerror(errno))};
-    if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+    if ((status->st_mode & (S_IRWXG | S_IRWXO)) != 0)
         return Error{Error::Code::Refused, path,
                      QStringLiteral("others may read this secret; set its mode to 0600")};
     const auto bytes = readFile(path, limits::secretBytes);
@@ -188,6 +204,23 @@ Result<QString> readSecret(const QString &path)
     if (text.isEmpty())
         return Error{Error::Code::Damaged, path, QStringLiteral("the secret is empty")};
     return text;
+}
+
+// What runs that were killed have left: in the temporary folder, and beside the
+// files that a run writes.
+void removeLeftoversOfKilledRuns(const CommandLine &line)
+{
+    removeLeftovers(QDir::tempPath(), kTemporaryFolderPrefix, LeftoverKind::Folder);
+    QStringList folders = {userPreferencesFolder(), PresetStore::ownFolder(),
+                           localApplicationSupportFolder() + QStringLiteral("/Kelvo")};
+    if (line.toFolder)
+        folders << *line.toFolder;
+    for (const auto &file : {line.ticketOut, line.presetOut}) {
+        if (file)
+            folders << QFileInfo(*file).path();
+    }
+    for (const QString &folder : std::as_const(folders))
+        removeLeftovers(folder, kStagedFilePrefix, LeftoverKind::File);
 }
 
 struct Failure
@@ -208,12 +241,15 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
         const auto text = readSecret(secret.value());
         if (!text)
             return Failure{ExitStatus::WrongUsage, text.error().text()};
+        protectSecrets();
         secrets.insert(secret.key(), text.value());
     }
     if (line.script) {
         auto lines = readScript(*line.script);
         if (!lines)
-            return Failure{ExitStatus::WrongUsage, lines.error().text(), true};
+            return Failure{lines.error().code == Error::Code::Cancelled ? ExitStatus::Cancelled
+                                                                        : ExitStatus::WrongUsage,
+                           lines.error().text(), true};
         script = std::move(lines).value();
     }
     if (line.ticketIn) {
@@ -254,7 +290,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
             return Failure{ExitStatus::WrongUsage,
                            QStringLiteral("there is no document: name a file, or pipe one in. "
                                           "`kelvo-print --help` says more.")};
-    } else if (!QFileInfo(line.file).isFile() && !QFileInfo(line.file).isReadable()) {
+    } else if (!fileStatus(line.file)) {
         return Failure{ExitStatus::Failed,
                        QStringLiteral("%1: there is no such document").arg(line.file)};
     }
@@ -286,6 +322,8 @@ int runDialog(DialogOptions options)
     std::vector<ScriptLine> script;
     const CommandLine line = options.line;
     if (const auto failure = readInputs(options, secrets, script)) {
+        if (failure->status == ExitStatus::Cancelled)
+            return toInt(failure->status);
         if (!failure->isOfScript)
             return fail(failure->status, failure->text);
         printLine(stderr, failure->text);
@@ -296,6 +334,9 @@ int runDialog(DialogOptions options)
     PrintDialog dialog(std::move(options));
     dialog.setSecrets(std::move(secrets));
     endOnSignals(dialog);
+    QObject::connect(&dialog, &PrintDialog::begun, qApp, [line] {
+        startBackgroundWork([line] { removeLeftoversOfKilledRuns(line); });
+    });
     std::unique_ptr<ScriptRunner> runner;
     QObject::connect(&dialog, &PrintDialog::ended, qApp, [&status, &runner](ExitStatus end) {
         status = end;
@@ -339,6 +380,8 @@ int runDialog(DialogOptions options)
 
 int runApplication(int argc, char **argv, const CommandLine &line)
 {
+    if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) == 0)
+        noteSignals(0); // what waits for input ends with it
     const auto runtimeFolder = provideRuntimeFolder();
     if (line.noWindow || line.listControls) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -412,7 +455,7 @@ int main(int argc, char **argv)
     std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(fileNameFrom(argv[i]));
     const auto parsed = parseCommandLine(arguments);
     if (!parsed) {
         fail(ExitStatus::WrongUsage, parsed.error().text());

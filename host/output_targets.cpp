@@ -1,5 +1,6 @@
 #include "output_targets.h"
 
+#include "file_names.h"
 #include "ticket_file.h"
 
 #include <QDir>
@@ -21,19 +22,10 @@ bool isSameFile(const struct stat &one, const struct stat &other)
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
-// The file that is read under this name, by whatever other name too.
-std::optional<struct stat> statusOf(const QString &path)
-{
-    struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
-        return std::nullopt;
-    return status;
-}
-
 std::optional<struct stat> documentStatus(const CommandLine &line)
 {
     if (!line.file.isEmpty())
-        return statusOf(line.file);
+        return fileStatus(line.file);
     struct stat status = {};
     if ((line.demo && !line.readsStandardInput) || ::fstat(STDIN_FILENO, &status) != 0
         || !S_ISREG(status.st_mode))
@@ -58,17 +50,17 @@ QList<Input> inputsOf(const CommandLine &line)
 {
     QList<Input> inputs{{QStringLiteral("the document"), documentStatus(line)}};
     if (line.script && *line.script != QLatin1String("-"))
-        inputs.append({QStringLiteral("the script"), statusOf(*line.script)});
+        inputs.append({QStringLiteral("the script"), fileStatus(*line.script)});
     if (line.ppd)
-        inputs.append({QStringLiteral("the device's PPD"), statusOf(*line.ppd)});
+        inputs.append({QStringLiteral("the device's PPD"), fileStatus(*line.ppd)});
     for (const QString &file : line.secretFiles)
-        inputs.append({QStringLiteral("a secret"), statusOf(file)});
+        inputs.append({QStringLiteral("a secret"), fileStatus(file)});
     return inputs;
 }
 
 Result<void> checkTarget(const QString &option, const QString &target, const QList<Input> &inputs)
 {
-    const auto status = statusOf(target);
+    const auto status = fileStatus(target);
     if (!status)
         return {};
     for (const Input &input : inputs) {
@@ -88,9 +80,9 @@ Result<void> checkOutputTargets(const CommandLine &line)
     // A preset is less than a whole ticket.
     QList<Input> whole = inputs;
     if (line.ticketIn)
-        whole.append({QStringLiteral("the ticket that is read"), statusOf(*line.ticketIn)});
+        whole.append({QStringLiteral("the ticket that is read"), fileStatus(*line.ticketIn)});
     if (line.ticketOut) {
-        whole.append({QStringLiteral("what --ticket-out writes"), statusOf(*line.ticketOut)});
+        whole.append({QStringLiteral("what --ticket-out writes"), fileStatus(*line.ticketOut)});
         if (line.presetOut && absolutePath(*line.presetOut) == absolutePath(*line.ticketOut))
             return Error{Code::Refused, QStringLiteral("--preset-out"),
                          QStringLiteral("%1 is what --ticket-out writes").arg(*line.presetOut)};

@@ -1,6 +1,7 @@
 #include "temporary_folder.h"
 
 #include <QDir>
+#include <QFile>
 #include <QSet>
 
 #include <mutex>
@@ -25,11 +26,16 @@ Folders &folders()
 } // namespace
 
 TemporaryFolder::TemporaryFolder()
-    : m_folder(QDir::temp().filePath(QStringLiteral("kelvo-print-XXXXXX")))
 {
+    auto held = HeldPath::make(QDir::tempPath(), kTemporaryFolderPrefix, LeftoverKind::Folder);
+    if (!held) {
+        m_problem = held.error().detail;
+        return;
+    }
+    m_held = std::move(held).value();
+    m_path = QFile::decodeName(m_held.path());
     const std::lock_guard lock(folders().mutex);
-    if (m_folder.isValid())
-        folders().paths.insert(m_folder.path());
+    folders().paths.insert(m_path);
 }
 
 TemporaryFolder::~TemporaryFolder()
@@ -40,8 +46,9 @@ TemporaryFolder::~TemporaryFolder()
 void TemporaryFolder::remove()
 {
     const std::lock_guard lock(folders().mutex);
-    folders().paths.remove(m_folder.path());
-    m_folder.remove();
+    if (folders().paths.remove(m_path))
+        QDir(m_path).removeRecursively();
+    m_held = {};
 }
 
 void removeTemporaryFolders()

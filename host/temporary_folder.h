@@ -1,11 +1,14 @@
 #pragma once
 
-#include <QTemporaryDir>
+#include "leftovers.h"
+
+#include <QString>
 
 namespace kelvo {
 
 // A folder of rights 0700 that goes with its owner; also where the owner is a
-// thread that the program leaves behind (see removeTemporaryFolders).
+// thread that the program leaves behind (see removeTemporaryFolders), and at the
+// next start where the program was killed (see removeLeftovers).
 class TemporaryFolder
 {
 public:
@@ -14,14 +17,15 @@ public:
     TemporaryFolder(const TemporaryFolder &) = delete;
     TemporaryFolder &operator=(const TemporaryFolder &) = delete;
 
-    bool isValid() const { return m_folder.isValid(); }
-    QString errorString() const { return m_folder.errorString(); }
-    QString path() const { return m_folder.path(); }
-    QString filePath(const QString &name) const { return m_folder.filePath(name); }
+    bool isValid() const { return !m_path.isEmpty(); }
+    QString errorString() const { return m_problem; } // of the system, why it is not valid
+    QString path() const { return m_path; }
+    QString filePath(const QString &name) const { return m_path + u'/' + name; }
     void remove();
 
 private:
-    QTemporaryDir m_folder;
+    HeldPath m_held;
+    QString m_path, m_problem;
 };
 
 // Before the program leaves without ending its threads: removes the folders that

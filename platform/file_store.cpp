@@ -1,12 +1,12 @@
 #include "file_store.h"
 
+#include "file_names.h"
 #include "property_list.h"
 #include "size_limits.h"
 #include "terminal.h"
 #include "values.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -80,7 +80,7 @@ QString nameOf(const QString &path)
 // Creates what is missing of `folder`, 0700.
 Result<void> makeFolder(const QString &folder)
 {
-    const QByteArray path = QFile::encodeName(folder);
+    const QByteArray path = fileNameBytes(folder);
     if (::mkdir(path.constData(), 0700) == 0 || errno == EEXIST)
         return {}; // something else of that name fails when it is used
     const int reason = errno;
@@ -99,7 +99,7 @@ Result<void> makeFolder(const QString &folder)
 void syncFolder(const QString &folder)
 {
     const Descriptor fd(
-        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        ::open(fileNameBytes(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (fd)
         ::fsync(fd.get());
 }
@@ -111,7 +111,7 @@ Result<std::shared_ptr<Descriptor>> lockFor(const QString &path, StoreLock scope
     const QString lockPath = folderOf(path) + QStringLiteral("/.")
         + (scope == StoreLock::OfFolder ? QString() : nameOf(path) + u'.') + QStringLiteral("lock");
     auto fd = std::make_shared<Descriptor>(
-        ::open(QFile::encodeName(lockPath).constData(),
+        ::open(fileNameBytes(lockPath).constData(),
                O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
     if (!*fd)
         return errno == ELOOP ? Error{Code::Refused, lockPath,
@@ -172,7 +172,7 @@ Result<std::shared_ptr<Descriptor>> openForReading(const QString &path, struct s
     if (const auto problem = problemOf(path))
         return *problem;
     auto fd = std::make_shared<Descriptor>(
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+        ::open(fileNameBytes(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!*fd)
         return systemError(errno == ENOENT || errno == ENOTDIR ? Code::NotFound : Code::NotReadable,
                            path);
@@ -189,13 +189,12 @@ Result<void> setAside(const QString &path, const Error &reason)
     for (int number = 1; number < 1000; ++number) {
         const QString aside = path + QStringLiteral(".damaged-%1").arg(number);
         // A link never replaces what is there, on any file system that has links.
-        if (::link(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData())
-            != 0) {
+        if (::link(fileNameBytes(path).constData(), fileNameBytes(aside).constData()) != 0) {
             if (errno == EEXIST)
                 continue;
             return systemError(Code::NotWritable, aside);
         }
-        if (::unlink(QFile::encodeName(path).constData()) != 0)
+        if (::unlink(fileNameBytes(path).constData()) != 0)
             return systemError(Code::NotWritable, path);
         printLine(
             stderr,
@@ -273,16 +272,19 @@ Result<StagedFile> StagedFile::write(const QString &path, const Writer &writer)
     if (const auto problem = problemOf(path))
         return Error{Code::NotWritable, problem->where, problem->detail};
     struct stat status;
-    if (::stat(QFile::encodeName(path).constData(), &status) == 0 && !S_ISREG(status.st_mode))
+    if (::stat(fileNameBytes(path).constData(), &status) == 0 && !S_ISREG(status.st_mode))
         return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
 
     StagedFile staged;
-    QByteArray temporary = QFile::encodeName(folderOf(path) + QStringLiteral("/.kelvo-XXXXXX"));
-    Descriptor fd(::mkostemp(temporary.data(), O_CLOEXEC)); // 0600, O_EXCL
+    auto temporary = HeldPath::make(folderOf(path), kStagedFilePrefix, LeftoverKind::File);
+    if (!temporary)
+        return systemError(Code::NotWritable, path, temporary.error().number);
+    staged.m_path = path;
+    staged.m_temporary = std::move(temporary).value();
+    // The lock outlives the closing that shows whether all was written.
+    Descriptor fd(::fcntl(staged.m_temporary.fd(), F_DUPFD_CLOEXEC, 0));
     if (!fd)
         return systemError(Code::NotWritable, path);
-    staged.m_path = path;
-    staged.m_temporary = temporary;
     const Result<qint64> size = writer(fd.get());
     if (!size)
         return size.error();
@@ -326,21 +328,21 @@ Result<StagedFile> StagedFile::withCopy(const QString &path, const QString &sour
 
 StagedFile::StagedFile(StagedFile &&other) noexcept
     : m_path(std::move(other.m_path))
-    , m_temporary(std::exchange(other.m_temporary, {}))
+    , m_temporary(std::move(other.m_temporary))
 {
 }
 
 StagedFile::~StagedFile()
 {
-    if (!m_temporary.isEmpty())
-        ::unlink(m_temporary.constData());
+    if (!m_temporary.path().isEmpty())
+        ::unlink(m_temporary.path().constData());
 }
 
 Result<void> StagedFile::place()
 {
-    if (::rename(m_temporary.constData(), QFile::encodeName(m_path).constData()) != 0)
+    if (::rename(m_temporary.path().constData(), fileNameBytes(m_path).constData()) != 0)
         return systemError(Code::NotWritable, m_path);
-    m_temporary.clear();
+    m_temporary = {};
     syncFolder(folderOf(m_path));
     return {};
 }
@@ -382,7 +384,7 @@ Result<void> removeFile(const QString &path, StoreLock scope)
 {
     if (const auto problem = problemOf(path))
         return *problem;
-    const QByteArray target = QFile::encodeName(path);
+    const QByteArray target = fileNameBytes(path);
     struct stat status;
     if (::lstat(target.constData(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR))
         return systemError(Code::NotFound, path); // and no lock file is left for it

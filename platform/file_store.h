@@ -1,5 +1,6 @@
 #pragma once
 
+#include "leftovers.h"
 #include "result.h"
 
 #include <QByteArray>
@@ -16,9 +17,10 @@ namespace kelvo {
 // writers only rename complete files.
 Result<QByteArray> readFile(const QString &path, qint64 limit);
 
-// Replaces the file at `path`: a temporary file in the same folder (0600,
-// O_EXCL), every write and the size checked, synced, renamed, folder synced.
-// After an error the old file is as it was and no temporary file is left.
+// Replaces the file at `path`: a temporary file in the same folder (0600; locked, so
+// that what a killed program leaves is known by its free lock), every write and the
+// size checked, synced, renamed, folder synced. After an error the old file is as it
+// was and no temporary file is left.
 Result<void> replaceFile(const QString &path, const QByteArray &bytes);
 
 // A file that is written, as replaceFile() writes it, and waits to take its
@@ -45,7 +47,7 @@ private:
     StagedFile() = default;
 
     QString m_path;
-    QByteArray m_temporary; // its encoded path; empty: there is none any more
+    HeldPath m_temporary; // without a path: there is none any more
 };
 
 enum class DamagedStore {

@@ -1,4 +1,6 @@
 #include "property_list.h"
+
+#include "characters.h"
 #include "size_limits.h"
 #include "values.h"
 
@@ -101,7 +103,7 @@ bool Writer::escaped(const QString &string)
                 put("&#13;");
                 break;
             default:
-                if (code < 0x20 && code != '\t' && code != '\n')
+                if (!isKept(code))
                     return false;
                 part[used++] = static_cast<char>(code);
             }
@@ -110,7 +112,7 @@ bool Writer::escaped(const QString &string)
         if (unit->isHighSurrogate() && unit + 1 != end && unit[1].isLowSurrogate()) {
             code = QChar::surrogateToUcs4(unit[0], unit[1]);
             ++unit;
-        } else if (unit->isSurrogate() || code == 0xFFFE || code == 0xFFFF) {
+        } else if (!isKept(code)) {
             return false;
         }
         const auto tail = [&](int shift) {

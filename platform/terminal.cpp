@@ -1,27 +1,13 @@
 #include "terminal.h"
 
+#include "characters.h"
+#include "file_names.h"
+
 #include <QJsonDocument>
 
 namespace kelvo {
 
 namespace {
-
-constexpr char32_t kNonJoiner = 0x200C, kJoiner = 0x200D;
-
-bool isSeen(char32_t c)
-{
-    switch (QChar::category(c)) {
-    case QChar::Other_Control:
-    case QChar::Other_Surrogate:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return false;
-    case QChar::Other_Format:
-        return c == kNonJoiner || c == kJoiner;
-    default:
-        return true;
-    }
-}
 
 QString escaped(char32_t c)
 {
@@ -35,6 +21,8 @@ QString escaped(char32_t c)
     default:
         break;
     }
+    if (c >= kFirstByte && c <= kLastByte)
+        c -= kFirstByte - 0x80;
     const char *form = c < 0x100 ? "\\x%02x" : c < 0x10000 ? "\\u%04x" : "\\U%08x";
     return QString::asprintf(form, static_cast<unsigned>(c));
 }
@@ -54,19 +42,12 @@ QString withEscapes(QStringView text, QString (*escape)(char32_t))
 {
     QString visible;
     visible.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        char32_t c = text[i].unicode();
-        qsizetype units = 1;
-        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
-            c = QChar::surrogateToUcs4(text[i], text[i + 1]);
-            units = 2;
-        }
+    eachCharacter(text, [&](char32_t c) {
         if (isSeen(c))
-            visible += text.mid(i, units);
+            visible += QString::fromUcs4(&c, 1);
         else
             visible += escape(c);
-        i += units - 1;
-    }
+    });
     return visible;
 }
 

@@ -15,9 +15,9 @@ namespace kelvo {
 
 // `text` with what a terminal would obey, or show as nothing, written out: \n \t
 // \r, \x1b (C0, DEL, C1), \u202e and the other characters that turn the direction
-// of text or are not seen, line and paragraph separators, lone surrogates. The
-// joiners U+200C and U+200D stay, which Arabic, Indic and emoji texts are spelled
-// with. A backslash stays one: this is for reading, not for reading back.
+// of text or are not seen (isSeen()), line and paragraph separators, lone surrogates,
+// \xfc for a byte of a file name that is no UTF-8. A backslash stays one: this is for reading, not
+// for reading back.
 QString visibleText(QStringView text);
 
 // One line: the visible text and a line end, as UTF-8, flushed.

@@ -1,5 +1,6 @@
 #include "ticket_file.h"
 
+#include "file_names.h"
 #include "file_store.h"
 #include "property_list.h"
 
@@ -227,16 +228,17 @@ Result<TicketFile> readTicketFile(const QString &path)
 
 Result<void> checkTicketTarget(const QString &path)
 {
-    const QFileInfo target(path);
-    const QString folder = target.path();
-    if (!QFileInfo(folder).isDir())
+    const QString folder = QFileInfo(path).path();
+    const auto inFolder = fileStatus(folder);
+    if (!inFolder || !S_ISDIR(inFolder->st_mode))
         return Error{Code::NotWritable, path,
                      QStringLiteral("the folder %1 does not exist").arg(folder)};
-    if (!target.exists())
+    const auto target = fileStatus(path);
+    if (!target)
         return {};
-    if (!target.isFile())
+    if (!S_ISREG(target->st_mode))
         return Error{Code::Refused, path, QStringLiteral("this is not a regular file")};
-    if (target.size() == 0 || readTicketFile(path))
+    if (target->st_size == 0 || readTicketFile(path))
         return {};
     return Error{Code::Refused, path,
                  QStringLiteral("a file that is not a ticket stands there and is not replaced; "

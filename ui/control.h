@@ -42,6 +42,10 @@ QString textOf(ControlID id);
 void setControlID(QWidget *control, ControlID id);
 std::optional<ControlID> controlIDOf(const QWidget *control);
 
+// The dynamic property, in a window description, of a field whose text is a secret
+// also while the user has it shown: true.
+inline constexpr const char *kSecretProperty = "secret";
+
 // The control with that ID in the window of `anyWidget`, or below the topmost
 // parent when it is in no window yet; null when there is none. Where an ID
 // stands more than once (panels of several bundles in one window), the control

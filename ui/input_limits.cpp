@@ -1,5 +1,6 @@
 #include "input_limits.h"
 
+#include "characters.h"
 #include "control_support.h"
 #include "spin_field.h"
 
@@ -21,16 +22,16 @@ namespace {
 
 bool isAllowed(char32_t c, const InputLimits &limits)
 {
-    return !limits.allowed || limits.allowed->contains(c);
+    return isKept(c) && (!limits.allowed || limits.allowed->contains(c));
 }
 
 QString withSubstitutes(const QString &text, const InputLimits &limits)
 {
     QString changed;
-    for (const char32_t c : text.toUcs4()) {
+    eachCharacter(text, [&](char32_t c) {
         const char32_t taken = isAllowed(c, limits) ? c : limits.substitutes.value(c, c);
         changed += QString::fromUcs4(&taken, 1);
-    }
+    });
     return changed;
 }
 
@@ -59,6 +60,8 @@ Edit editBetween(QStringView before, QStringView after)
     while (tail < shorter - start
            && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
         ++tail;
+    if (tail > 0 && before[before.size() - tail].isLowSurrogate())
+        --tail;
     return {start, before.size() - start - tail, after.size() - start - tail};
 }
 
@@ -160,9 +163,10 @@ private:
     {
         if (!m_field->isVisible())
             return;
-        const auto words = refused.toUcs4();
-        const bool isCharacter =
-            std::ranges::any_of(words, [this](char32_t c) { return !isAllowed(c, m_limits); });
+        InputLimits anyLength = m_limits;
+        anyLength.minimumLength = 0;
+        anyLength.maximumLength = -1;
+        const bool isCharacter = findProblem(refused, anyLength) == InputProblem::BadCharacter;
         const QString text = isCharacter
             ? QCoreApplication::translate("kelvo::InputLimits",
                                           "This character cannot be used here.")
@@ -249,14 +253,17 @@ const QSet<char32_t> &InputLimits::decimalDigits()
 
 InputProblem findProblem(const QString &text, const InputLimits &limits)
 {
-    const auto characters = text.toUcs4();
-    for (const char32_t c : characters) {
-        if (!isAllowed(c, limits))
-            return InputProblem::BadCharacter;
-    }
-    if (characters.size() < limits.minimumLength)
+    int length = 0;
+    bool areAllowed = true;
+    eachCharacter(text, [&](char32_t c) {
+        ++length;
+        areAllowed = areAllowed && isAllowed(c, limits);
+    });
+    if (!areAllowed)
+        return InputProblem::BadCharacter;
+    if (length < limits.minimumLength)
         return InputProblem::TooShort;
-    if (limits.maximumLength >= 0 && characters.size() > limits.maximumLength)
+    if (limits.maximumLength >= 0 && length > limits.maximumLength)
         return InputProblem::TooLong;
     return InputProblem::None;
 }
@@ -265,14 +272,13 @@ QString withinLimits(const QString &typed, const InputLimits &limits)
 {
     QString kept;
     int length = 0;
-    for (const char32_t c : withSubstitutes(typed, limits).toUcs4()) {
-        if (limits.maximumLength >= 0 && length == limits.maximumLength)
-            break;
-        if (!isAllowed(c, limits))
-            continue;
+    eachCharacter(withSubstitutes(typed, limits), [&](char32_t c) {
+        const bool isFull = limits.maximumLength >= 0 && length == limits.maximumLength;
+        if (isFull || !isAllowed(c, limits))
+            return;
         kept += QString::fromUcs4(&c, 1);
         ++length;
-    }
+    });
     return kept;
 }
 

@@ -16,8 +16,9 @@ namespace kelvo {
 struct InputLimits
 {
     int minimumLength = 0;
-    int maximumLength = -1;                // -1: no limit
-    std::optional<QSet<char32_t>> allowed; // none: any character
+    int maximumLength = -1; // -1: no limit
+    // None: any character. What no property list can hold (isKept()) never is.
+    std::optional<QSet<char32_t>> allowed;
     QHash<char32_t, char32_t> substitutes; // of others, allowed ones that are taken instead
     bool ascii() const;                    // only printable ASCII is allowed
 

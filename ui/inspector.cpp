@@ -8,6 +8,7 @@
 #include "picture_view.h"
 #include "popup_button.h"
 #include "radio_group.h"
+#include "secrets.h"
 #include "spin_field.h"
 #include "summary_view.h"
 #include "tab_control.h"
@@ -59,12 +60,6 @@ QString nameOf(const QWidget *control)
     const auto id = controlIDOf(control);
     return hasSpeakingName(control) || !id ? QStringLiteral("@%1").arg(control->objectName())
                                            : textOf(*id);
-}
-
-bool isMasked(const QWidget *control)
-{
-    const auto *field = qobject_cast<const QLineEdit *>(control);
-    return field && field->echoMode() != QLineEdit::Normal;
 }
 
 Done notOffered(const QWidget *control, const QString &why)
@@ -226,7 +221,7 @@ Done chooseText(QComboBox *box, const ItemName &name)
     return {};
 }
 
-QString textOfControl(const QWidget *control)
+QString openTextOfControl(const QWidget *control)
 {
     if (const auto *popup = qobject_cast<const PopupButton *>(control))
         return popup->shownText();
@@ -237,7 +232,7 @@ QString textOfControl(const QWidget *control)
     if (const auto *label = qobject_cast<const QLabel *>(control))
         return QString(label->text()).remove(label->buddy() ? QStringLiteral("&") : QString());
     if (const auto *field = qobject_cast<const QLineEdit *>(control))
-        return isMasked(control) ? QString(field->text().size(), u'•') : field->text();
+        return field->text();
     if (const auto *view = qobject_cast<const QPlainTextEdit *>(control))
         return view->toPlainText();
     if (const auto *view = qobject_cast<const QTextEdit *>(control))
@@ -257,8 +252,16 @@ QString textOfControl(const QWidget *control)
     return control->accessibleName();
 }
 
+QString textOfControl(const QWidget *control)
+{
+    const QString text = openTextOfControl(control);
+    return isSecret(control) && !text.isEmpty() ? kMask : text;
+}
+
 std::optional<int> valueOfControl(const QWidget *control)
 {
+    if (isSecret(control))
+        return {};
     if (const auto *popup = qobject_cast<const PopupButton *>(control))
         return popup->chosenReference();
     if (const auto *spin = qobject_cast<const SpinField *>(control))
@@ -342,6 +345,13 @@ QJsonArray describeItems(const std::vector<MenuItem> &items)
 constexpr int describedRows = 100;
 
 } // namespace
+
+bool isSecret(const QWidget *control)
+{
+    const auto *field = qobject_cast<const QLineEdit *>(control);
+    return control->property(kSecretProperty).toBool()
+        || (field && field->echoMode() != QLineEdit::Normal);
+}
 
 QString ControlName::text() const
 {
@@ -495,6 +505,12 @@ Done type(QWidget *control, const QString &text)
     return Problem{Failure::NotOffered,
                    QStringLiteral("%1 does not take the whole text; its limits allow less")
                        .arg(nameOf(control))};
+}
+
+Done typeSecret(QWidget *control, const QString &text)
+{
+    control->setProperty(kSecretProperty, true);
+    return type(control, text);
 }
 
 Done set(QWidget *control, int value)
@@ -750,6 +766,8 @@ QJsonObject describe(QWidget *control)
         object[QStringLiteral("value")] = *value;
     if (const auto maximum = controlMaximum(control))
         object[QStringLiteral("maximum")] = *maximum;
+    if (isSecret(control))
+        return object; // also of those that were typed before
     if (const Menu *menu = menuOf(control)) {
         object[QStringLiteral("items")] = describeItems(menu->items);
     } else if (const auto *box = qobject_cast<const QComboBox *>(control)) {

@@ -74,6 +74,8 @@ Done chooseCommand(QWidget *control, OSType command, const std::optional<ItemNam
 Done click(QWidget *control);
 Done check(QWidget *control, bool on);
 Done type(QWidget *control, const QString &text);
+// The same; from then on the control counts as one that holds a secret.
+Done typeSecret(QWidget *control, const QString &text);
 Done set(QWidget *control, int value);
 Done setTime(QWidget *control, const QTime &time);
 Done select(QWidget *control, const std::vector<int> &rows); // from 1; {0}: the empty area
@@ -82,9 +84,13 @@ Done drag(QWidget *control, double dx, double dy);           // from its middle,
 Done pressKey(QWidget *window, const QString &keys);         // "Ctrl+P", to the focus
 Done answerFileChooser(QWidget *window, const QString &path);
 
+// Whether what the control holds is a secret: its window's description says so
+// (kSecretProperty), it shows bullets, or a secret was typed into it.
+bool isSecret(const QWidget *control);
+
 // A property as a script writes it: value, index, text, enabled, visible,
-// checked, focus, items, maximum, selection, "cell ROW COLUMN". Masked fields
-// give bullets for their text.
+// checked, focus, items, maximum, selection, "cell ROW COLUMN". For the text of a
+// field with a secret kMask stands, or nothing when it is empty.
 Result<QString> property(QWidget *control, const QString &name);
 // Every name that property() knows.
 QStringList propertyNames();

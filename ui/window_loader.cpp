@@ -3,11 +3,13 @@
 #include "control.h"
 #include "event.h"
 #include "history_field.h"
+#include "input_limits.h"
 #include "list_view.h"
 #include "menu_button.h"
 #include "picture_view.h"
 #include "popup_button.h"
 #include "radio_group.h"
+#include "secrets.h"
 #include "spin_field.h"
 #include "summary_view.h"
 #include "tab_control.h"
@@ -216,6 +218,16 @@ void nameByLabels(const QWidgetList &widgets)
     }
 }
 
+// What is pasted into a field goes into a ticket or a file of ours sooner or later.
+// Those that say what they take replace these limits.
+void keepToWhatCanBeKept(QWidget *widget)
+{
+    const auto *box = qobject_cast<QComboBox *>(widget);
+    if (qobject_cast<QLineEdit *>(widget) || qobject_cast<QPlainTextEdit *>(widget)
+        || (box && box->isEditable()))
+        setInputLimits(widget, {});
+}
+
 } // namespace
 
 Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString &description,
@@ -252,6 +264,9 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
     for (QWidget *widget : loader.created()) {
         localize(widget, bundle);
         sendControlEvents(widget);
+        if (widget->property(kSecretProperty).toBool())
+            protectSecrets(); // it is about to be typed, or put in
+        keepToWhatCanBeKept(widget);
     }
     nameByLabels(loader.created());
     return loaded.release();

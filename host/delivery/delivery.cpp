@@ -1,6 +1,7 @@
 #include "delivery.h"
 
 #include "cups_connection.h"
+#include "file_names.h"
 #include "file_store.h"
 #include "job_options.h"
 #include "page_ranges.h"
@@ -108,15 +109,16 @@ namespace {
 
 Result<void> provideFolder(const QString &folder)
 {
-    if (::mkdir(QFile::encodeName(folder).constData(), 0700) == 0)
+    if (::mkdir(fileNameBytes(folder).constData(), 0700) == 0)
         return {};
     const int reason = errno;
-    if (reason == EEXIST && QFileInfo(folder).isDir())
+    const auto there = fileStatus(folder);
+    if (reason == EEXIST && there && S_ISDIR(there->st_mode))
         return {};
     if (reason == EEXIST)
         return Error{Code::NotWritable, folder, QStringLiteral("this is not a folder")};
     const QString parent = QFileInfo(QDir::cleanPath(folder)).path();
-    if (reason == ENOENT && !QFileInfo::exists(parent))
+    if (reason == ENOENT && !fileStatus(parent))
         return Error{Code::NotWritable, folder,
                      QStringLiteral("the folder %1 does not exist").arg(parent)};
     return Error{Code::NotWritable, folder,
@@ -128,11 +130,11 @@ Result<void> provideFolder(const QString &folder)
 Result<void> checkReplaceable(const QStringList &paths)
 {
     for (const QString &path : paths) {
-        const QFileInfo file(path);
-        if (file.exists() && !file.isFile())
+        const auto there = fileStatus(path);
+        if (there && !S_ISREG(there->st_mode))
             return Error{Code::NotWritable, path,
                          QStringLiteral("this is not a regular file; move it away")};
-        if (file.exists() && !file.isWritable())
+        if (there && ::access(fileNameBytes(path).constData(), W_OK) != 0)
             return Error{Code::NotWritable, path, QStringLiteral("the file is write-protected")};
     }
     return {};

@@ -1,6 +1,8 @@
 #include "document.h"
 
+#include "characters.h"
 #include "document_files.h"
+#include "file_names.h"
 #include "output_file.h"
 #include "pdf_pages.h"
 #include "temporary_folder.h"
@@ -70,7 +72,7 @@ Result<FileDescriptor> openSource(const QString &path)
 {
     // Not blocking: a named pipe without a writer would hang here for ever.
     const int fd =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+        ::open(fileNameBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (fd < 0) {
         const auto code = errno == ENOENT ? Error::Code::NotFound : Error::Code::NotReadable;
         return Error{code, path, qt_error_string(errno)};
@@ -93,12 +95,35 @@ Error aboutSource(Error error, const QString &where)
     return error;
 }
 
-QString nameOf(const QString &path)
+bool isStandardInput(const DocumentSource &source)
 {
-    return QFileInfo(path).fileName();
+    return source.path.isEmpty() || source.path == QLatin1String("-");
+}
+
+QString inOneLine(const QString &title)
+{
+    QString line;
+    eachCharacter(title, [&line](char32_t c) {
+        if (!isKept(c) && c >= ' ')
+            line += QChar(QChar::ReplacementCharacter);
+        else if (isSeen(c))
+            line += QString::fromUcs4(&c, 1);
+        else if (QChar::category(c) != QChar::Other_Format)
+            line += u' ';
+    });
+    return line.simplified();
 }
 
 } // namespace
+
+QString titleOf(const DocumentSource &source)
+{
+    QString title = inOneLine(source.title);
+    if (title.isEmpty())
+        title = isStandardInput(source) ? QStringLiteral("(stdin)")
+                                        : inOneLine(QFileInfo(source.path).fileName());
+    return title.isEmpty() ? QStringLiteral("(untitled)") : title;
+}
 
 Result<std::unique_ptr<TemporaryFolder>> DocumentReader::makeFolder()
 {
@@ -232,23 +257,19 @@ Result<Document> documentFromPdf(const QString &path, const QString &title)
     if (!file)
         return file.error();
     const std::atomic_bool notCancelled = false;
-    return DocumentReader::read(file.value().get(), path, title.isEmpty() ? nameOf(path) : title,
-                                true, notCancelled);
+    return DocumentReader::read(file.value().get(), path, titleOf({path, title}), true,
+                                notCancelled);
 }
 
 Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled)
 {
-    if (source.path.isEmpty() || source.path == QLatin1String("-")) {
-        const QString name = QStringLiteral("(stdin)");
-        return DocumentReader::read(STDIN_FILENO, name,
-                                    source.title.isEmpty() ? name : source.title, false, cancelled);
-    }
+    if (isStandardInput(source))
+        return DocumentReader::read(STDIN_FILENO, QStringLiteral("(stdin)"), titleOf(source), false,
+                                    cancelled);
     Result<FileDescriptor> file = openSource(source.path);
     if (!file)
         return file.error();
-    return DocumentReader::read(file.value().get(), source.path,
-                                source.title.isEmpty() ? nameOf(source.path) : source.title, false,
-                                cancelled);
+    return DocumentReader::read(file.value().get(), source.path, titleOf(source), false, cancelled);
 }
 
 } // namespace kelvo

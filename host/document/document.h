@@ -50,6 +50,11 @@ struct DocumentSource
     QString title; // empty: the file's name, "(stdin)" for standard input
 };
 
+// What the job is called, in one line that every place takes where a title goes: the
+// ticket, the print server, windows. Control characters and what turns the direction
+// of text are left out.
+QString titleOf(const DocumentSource &source);
+
 // Reads PDF, PostScript, plain text (UTF-8, else Latin-1) and pictures, told
 // apart by their bytes, and makes a PDF of each: PostScript through Ghostscript
 // and pictures in a child process with limits on time, memory and size. Blocks:

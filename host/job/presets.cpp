@@ -151,7 +151,7 @@ Result<void> write(const QString &path, const QString &name, TicketFile ticket, 
 
 Result<QString> newPath(const QString &name)
 {
-    const QString folder = presetsFolder(userPreferencesFolder());
+    const QString folder = PresetStore::ownFolder();
     if (folder.isEmpty())
         return Error{Code::NotWritable, name,
                      QStringLiteral("there is no home folder to keep presets in; set HOME")};
@@ -169,9 +169,14 @@ TicketFile presetFrom(TicketFile ticket, const SecretKeys &keys, bool keepSecret
     return ticket;
 }
 
+QString PresetStore::ownFolder()
+{
+    return presetsFolder(userPreferencesFolder());
+}
+
 std::vector<Preset> PresetStore::presets() const
 {
-    std::vector<Preset> all = presetsIn(presetsFolder(userPreferencesFolder()), false);
+    std::vector<Preset> all = presetsIn(ownFolder(), false);
     for (const Preset &site : presetsIn(presetsFolder(siteFolder()), true)) {
         if (!findPreset(all, site.name))
             all.push_back(site);

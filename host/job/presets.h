@@ -38,6 +38,7 @@ public:
     // file's name entry is left out: what comes back is a job's ticket.
     Result<TicketFile> read(const QString &name) const;
 
+    static QString ownFolder(); // where the user's own lie
     // Saves presetFrom(ticket) under a safe file name, over an own preset of that name.
     // Refused for an empty name or one with control characters, and where a
     // file of another kind would be lost; a damaged file is set aside.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bundle.h"
+#include "secrets.h"
 #include "ticket_file.h"
 
 #include <QStringList>
@@ -27,7 +28,5 @@ QStringList secretValues(const TicketFile &ticket, const SecretKeys &keys);
 // or are taken out, with their keys, for presets.
 TicketFile masked(TicketFile ticket, const SecretKeys &keys);
 TicketFile withoutSecrets(TicketFile ticket, const SecretKeys &keys);
-
-inline const QString kMask = QStringLiteral("••••");
 
 } // namespace kelvo

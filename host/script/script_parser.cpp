@@ -57,7 +57,7 @@ constexpr CommandRow commandRows[] = {
     {ScriptCommand::Show, "show", "C", {"show CONTROL", "prints one control as JSON"}},
     {ScriptCommand::Controls, "controls", "", {"controls", "prints the front window's controls as JSON"}},
     {ScriptCommand::Summary, "summary", "", {"summary", "prints what will be sent, in words"}},
-    {ScriptCommand::Screenshot, "screenshot", "W", {"screenshot FILE", "writes the front window as PNG"}},
+    {ScriptCommand::Screenshot, "screenshot", "W", {"screenshot FILE", "writes the front window as PNG, for its owner alone"}},
 };
 // clang-format on
 
@@ -92,11 +92,6 @@ struct Words
     std::vector<Word> words;
     QString problem;
 };
-
-QString textProblem(QChar after)
-{
-    return QStringLiteral("after a closing quote comes a blank, not \"%1\"").arg(after);
-}
 
 Words split(const QString &line)
 {
@@ -134,7 +129,7 @@ Words split(const QString &line)
             if (!closed)
                 return {{}, QStringLiteral("the text is not closed with a double quote")};
             if (at < line.size() && !line[at].isSpace())
-                return {{}, textProblem(line[at])};
+                return {{}, QStringLiteral("after a closing quote comes a blank")};
         } else if (c == u'\'') {
             word.kind = Word::Kind::Code;
             const qsizetype end = line.indexOf(u'\'', at + 1);
@@ -150,7 +145,7 @@ Words split(const QString &line)
             word.text = QString::number(static_cast<std::int32_t>(word.code));
             at = end + 1;
             if (at < line.size() && !line[at].isSpace())
-                return {{}, textProblem(line[at])};
+                return {{}, QStringLiteral("after a closing quote comes a blank")};
         } else {
             while (at < line.size() && !line[at].isSpace())
                 word.text += line[at++];
@@ -211,9 +206,15 @@ private:
             && m_words[m_at].kind == Word::Kind::Bare)
             name += u' ' + next().text;
         auto control = inspector::controlNameFrom(name);
-        if (!control)
+        if (!control) {
+            // Where the control was forgotten or misspelled, what is typed may be
+            // a secret: of `type` the line is not repeated.
+            const QString what = m_line.command == ScriptCommand::Type
+                ? QStringLiteral("what follows type")
+                : QStringLiteral("\"%1\"").arg(name);
             return refuse(
-                QStringLiteral("\"%1\" is no control; write KPDE 102 or @objectName").arg(name));
+                QStringLiteral("%1 is no control; write KPDE 102 or @objectName").arg(what));
+        }
         m_line.control = control.value();
         return true;
     }
@@ -424,7 +425,8 @@ Result<std::vector<ScriptLine>> parseScript(const QByteArray &text, const QStrin
 
 namespace {
 
-// To its end: a pipe gives what is there, and more later.
+// To its end: a pipe gives what is there, and more later. Whoever waits for more
+// can be interrupted.
 Result<QByteArray> readStandardInput()
 {
     const QString name = QStringLiteral("standard input");
@@ -433,7 +435,7 @@ Result<QByteArray> readStandardInput()
     for (;;) {
         const ssize_t count = ::read(STDIN_FILENO, block, sizeof block);
         if (count < 0 && errno == EINTR)
-            continue;
+            return Error{Error::Code::Cancelled, name, QStringLiteral("interrupted")};
         if (count < 0)
             return Error{Error::Code::NotReadable, name,
                          QString::fromLocal8Bit(std::strerror(errno)), errno};

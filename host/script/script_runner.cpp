@@ -1,16 +1,22 @@
 #include "script_runner.h"
 
+#include "file_store.h"
 #include "inspector.h"
 #include "modal_dialog.h"
 #include "nearest_name.h"
 #include "notice.h"
 #include "secret_mask.h"
+#include "secrets.h"
 #include "terminal.h"
 #include "ticket_path.h"
+#include "values.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QElapsedTimer>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
@@ -120,11 +126,6 @@ struct ScriptRunner::Private
     QWidget *openDialog() const; // the modal dialog or notice in front; null for none
     QWidget *front() const;
     QString masked(const QString &text) const { return maskedText(text, target.secretValues()); }
-    void say(const QJsonDocument &json) const
-    {
-        printJson(stdout,
-                  QJsonDocument::fromJson(masked(QString::fromUtf8(json.toJson())).toUtf8()));
-    }
 };
 
 ScriptRunner::ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
@@ -228,7 +229,7 @@ bool ScriptRunner::Private::checkNotice()
     fail(at,
          {ExitStatus::Failed,
           QStringLiteral("a notice came up: %1 (answers: %2)")
-              .arg(wordsOf(notice), answersOf(notice))});
+              .arg(masked(wordsOf(notice)), answersOf(notice))});
     return false;
 }
 
@@ -245,7 +246,7 @@ bool ScriptRunner::Private::checkPrint()
     const QString problem = target.lastPrintProblem();
     if (problem.isEmpty())
         return true; // a notice or a set-up dialog took the press, and lines dealt with it
-    fail(line, {target.lastPrintStatus(), problem});
+    fail(line, {target.lastPrintStatus(), masked(problem)});
     return false;
 }
 
@@ -271,9 +272,9 @@ void ScriptRunner::Private::finish()
         return;
     }
     printLine(stderr,
-              masked(QStringLiteral("%1: the script has ended without printing; nothing was sent. "
-                                    "Add `print`, or --print to the command line, to print.")
-                         .arg(options.file)));
+              QStringLiteral("%1: the script has ended without printing; nothing was sent. "
+                             "Add `print`, or --print to the command line, to print.")
+                  .arg(options.file));
     end(ExitStatus::Printed);
 }
 
@@ -282,7 +283,7 @@ void ScriptRunner::Private::fail(int line, const LineProblem &problem)
     // Without lines it is the program itself that prints.
     const QString place =
         lines.empty() ? options.file : QStringLiteral("%1:%2").arg(options.file).arg(line);
-    printLine(stderr, masked(QStringLiteral("%1: %2").arg(place, problem.text)));
+    printLine(stderr, QStringLiteral("%1: %2").arg(place, problem.text));
     end(problem.status);
 }
 
@@ -355,7 +356,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         if (!notice.isShown())
             return wrong(QStringLiteral("no notice is shown"));
         if (!(notice.header + u'\n' + notice.message).contains(word(0)))
-            return wrong(QStringLiteral("the notice says: %1").arg(wordsOf(notice)));
+            return wrong(QStringLiteral("the notice says: %1").arg(masked(wordsOf(notice))));
         return {};
     }
     case ScriptCommand::ExpectWindow: {
@@ -368,7 +369,10 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         return {};
     }
     case ScriptCommand::Controls:
-        say(QJsonDocument(inspector::describeControls(front())));
+        printJson(stdout,
+                  QJsonDocument(
+                      maskedControls(inspector::describeControls(front()), target.secretValues())
+                          .toArray()));
         return {};
     case ScriptCommand::Summary:
         printLines(stdout, masked(target.jobInWords()));
@@ -403,7 +407,10 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     case ScriptCommand::ExpectItem:
         return lineProblem(inspector::expectItem(control, *line.code, line.item, word(0)));
     case ScriptCommand::Show:
-        say(QJsonDocument(inspector::describe(control)));
+        printJson(
+            stdout,
+            QJsonDocument(
+                maskedControls(inspector::describe(control), target.secretValues()).toObject()));
         return {};
     default:
         break;
@@ -433,7 +440,7 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
         if (!secret)
             return wrong(
                 QStringLiteral("there is no secret \"%1\"; give --secret %1=FILE").arg(word(1)));
-        return lineProblem(inspector::type(control, *secret));
+        return lineProblem(inspector::typeSecret(control, *secret));
     }
     case ScriptCommand::Set:
         return lineProblem(inspector::set(control, word(0).toInt()));
@@ -476,8 +483,13 @@ LineDone ScriptRunner::Private::expect(const ScriptLine &line, QWidget *control)
     if (name == QLatin1String("items"))
         return wrong(QStringLiteral("%1 has %2 items, not %3")
                          .arg(line.control->text(), have.value(), wanted));
+    const bool isText = name == QLatin1String("text") || name.startsWith(QLatin1String("cell "));
+    if (isText && inspector::isSecret(control) && !wanted.isEmpty())
+        return wrong(QStringLiteral("%1 of %2 is \"%3\"; of a secret only \"%4\" or \"\" is told")
+                         .arg(name, line.control->text(), have.value(), kMask));
     return wrong(QStringLiteral("%1 of %2 is \"%3\", not \"%4\"")
-                     .arg(name, line.control->text(), have.value(), wanted));
+                     .arg(name, line.control->text(), isText ? masked(have.value()) : have.value(),
+                          isText ? masked(wanted) : wanted));
 }
 
 LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
@@ -498,7 +510,7 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
         for (const Ticket *ticket : {&session.printSettings(), &session.pageFormat()})
             for (const auto &entry : ticket->entries)
                 names << entry.first;
-        if (const auto value = valueAtPath(session, name))
+        if (const auto value = valueAtPath(session.printSettings(), session.pageFormat(), name))
             have = scriptText(*value);
     }
 
@@ -510,13 +522,25 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
     }
     if (!wantsAbsent && *have == wanted.text)
         return {};
+    QString shown = *have, shownWanted = wanted.text;
+    if (!isChoice) {
+        const TicketFile hidden = target.withSecretsMasked(ticketFileFrom(session));
+        const QVariant value =
+            valueAtPath(hidden.printSettings, hidden.pageFormat, name).value_or(QVariant(kMask));
+        // Numbers, and what is JSON, stay what they are.
+        const auto text = string(value);
+        shown = text ? masked(*text) : scriptText(value);
+        if (shown != *have)
+            shownWanted = kMask;
+        else if (text)
+            shownWanted = masked(wanted.text);
+    }
     constexpr qsizetype mostShown = 500; // characters; a list may have 100 MB
-    QString shown = masked(*have);
     if (shown.size() > mostShown)
         shown = shown.left(mostShown) + QStringLiteral("… (cut)");
     return wantsAbsent
         ? wrong(QStringLiteral("%1 is there: \"%2\"").arg(name, shown))
-        : wrong(QStringLiteral("%1 is \"%2\", not \"%3\"").arg(name, shown, wanted.text));
+        : wrong(QStringLiteral("%1 is \"%2\", not \"%3\"").arg(name, shown, shownWanted));
 }
 
 LineDone ScriptRunner::Private::screenshot(const QString &file)
@@ -524,12 +548,19 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
     QWidget *window = front();
     // What is still to be laid out or painted belongs into the picture.
     QCoreApplication::sendPostedEvents();
-    if (window->grab().save(file, "PNG"))
+    QByteArray png;
+    QBuffer buffer(&png);
+    // For the user alone, as everything that we write: it may show what a job says.
+    const bool isMade = buffer.open(QIODevice::WriteOnly) && window->grab().save(&buffer, "PNG");
+    const auto written =
+        isMade ? replaceFile(file, png) : Error{Error::Code::NotWritable, file, {}};
+    if (written)
         return {};
     return LineProblem{
         ExitStatus::Failed,
-        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights")
-            .arg(file)};
+        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights "
+                       "(%2)")
+            .arg(file, written.error().detail)};
 }
 
 } // namespace kelvo

@@ -3,6 +3,7 @@
 #include "exit_status.h"
 #include "print_session.h"
 #include "result.h"
+#include "ticket_file.h"
 
 #include <QString>
 #include <QStringList>
@@ -50,9 +51,11 @@ public:
 
     // The tickets as they stand, after the visible panel has written.
     virtual const PrintSession &sessionForReading() = 0;
+    // `file` with the secrets in it masked by their places.
+    virtual TicketFile withSecretsMasked(TicketFile file) const = 0;
     virtual QString jobInWords() = 0; // "What will be sent", secrets masked
     virtual std::optional<QString> secret(const QString &name) const = 0; // from --secret
-    virtual QStringList secretValues() = 0;                               // masked in every message
+    virtual QStringList secretValues() = 0; // what texts must not repeat
 };
 
 } // namespace kelvo

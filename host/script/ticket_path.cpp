@@ -10,9 +10,10 @@ namespace kelvo {
 
 namespace {
 
-const TicketEntry *findEntry(const PrintSession &session, const QString &key)
+const TicketEntry *findEntry(const Ticket &printSettings, const Ticket &pageFormat,
+                             const QString &key)
 {
-    for (const Ticket *ticket : {&session.printSettings(), &session.pageFormat()}) {
+    for (const Ticket *ticket : {&printSettings, &pageFormat}) {
         const auto entry = ticket->entries.find(key);
         if (entry != ticket->entries.end())
             return &entry->second;
@@ -22,13 +23,14 @@ const TicketEntry *findEntry(const PrintSession &session, const QString &key)
 
 } // namespace
 
-std::optional<QVariant> valueAtPath(const PrintSession &session, const QString &path)
+std::optional<QVariant> valueAtPath(const Ticket &printSettings, const Ticket &pageFormat,
+                                    const QString &path)
 {
     // A key may hold a slash itself: the longest one that the tickets have wins.
     QStringList steps = path.split(u'/');
     QStringList rest;
     const TicketEntry *entry = nullptr;
-    while (!steps.isEmpty() && !(entry = findEntry(session, steps.join(u'/'))))
+    while (!steps.isEmpty() && !(entry = findEntry(printSettings, pageFormat, steps.join(u'/'))))
         rest.prepend(steps.takeLast());
     if (!entry)
         return {};

@@ -2,12 +2,11 @@
 
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "secrets.h"
 #include "terminal.h"
 #include "ticket_attachment.h"
 #include "ticket_layers.h"
 #include "values.h"
-
-#include <QFileInfo>
 
 namespace kelvo {
 
@@ -32,6 +31,10 @@ DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObjec
 {
     if (!m_options.document)
         m_documentProblem = tr("There is no document to print.");
+    for (const auto *given : {&m_options.preset, &m_options.ticketIn}) {
+        if (*given && holdsSecret(**given, m_secretKeys))
+            protectSecrets();
+    }
 }
 
 DialogSession::~DialogSession()
@@ -314,6 +317,8 @@ void DialogSession::askForSiteDefaults()
 
 void DialogSession::ask(const TicketFile &file, AskedSettings::Kind kind)
 {
+    if (holdsSecret(file, m_secretKeys))
+        protectSecrets();
     m_asked.lay(file, kind);
     m_unknown.insert(file.unknown);
     m_unknown.remove(kTicketNonceKey); // of one sent job, and of no other
@@ -555,12 +560,7 @@ QString DialogSession::title() const
 {
     if (!m_document.isNull())
         return m_document.title();
-    if (m_options.line.title)
-        return *m_options.line.title;
-    if (!m_options.document || m_options.document->path.isEmpty()
-        || m_options.document->path == QLatin1String("-"))
-        return QStringLiteral("(stdin)");
-    return QFileInfo(m_options.document->path).fileName();
+    return titleOf(m_options.document.value_or(DocumentSource()));
 }
 
 void DialogSession::openTheDocument()

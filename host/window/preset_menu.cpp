@@ -1,6 +1,7 @@
 #include "preset_menu.h"
 
 #include "dialog_session.h"
+#include "input_limits.h"
 #include "menu_button.h"
 #include "modal_dialog.h"
 #include "notice.h"
@@ -76,6 +77,7 @@ QWidget *makePresetNamePane(const QString &title, const QString &ok, const QStri
     field->setObjectName(QStringLiteral("presetName"));
     field->setAccessibleName(PresetMenu::tr("Name of the preset"));
     field->setMaxLength(maximumNameLength);
+    setInputLimits(field, {}); // the preset is a property list
     field->setMinimumWidth(field->fontMetrics().averageCharWidth() * 36);
     field->selectAll();
     label->setBuddy(field);

@@ -129,7 +129,10 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(&m_grace, &QTimer::timeout, this, &QWidget::show);
     m_firstFrame.setSingleShot(true);
     m_firstFrame.setInterval(firstFrameMs);
-    connect(&m_firstFrame, &QTimer::timeout, this, [this] { m_session->openTheDocument(); });
+    connect(&m_firstFrame, &QTimer::timeout, this, [this] {
+        m_session->openTheDocument();
+        emit begun();
+    });
     watchEvents([this](const Event &) {
         if (m_session->stage() == DialogSession::Stage::Ready)
             m_look.start();
@@ -949,6 +952,11 @@ std::optional<QString> PrintDialog::secret(const QString &name) const
     if (found == m_secrets.cend())
         return std::nullopt;
     return *found;
+}
+
+TicketFile PrintDialog::withSecretsMasked(TicketFile file) const
+{
+    return masked(std::move(file), m_session->secretKeys());
 }
 
 QStringList PrintDialog::secretValues()

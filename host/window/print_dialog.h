@@ -65,10 +65,12 @@ public:
     ExitStatus lastPrintStatus() const override { return m_printStatus; }
     const PrintSession &sessionForReading() override;
     QString jobInWords() override;
+    TicketFile withSecretsMasked(TicketFile file) const override;
     std::optional<QString> secret(const QString &name) const override;
     QStringList secretValues() override;
 
 signals:
+    void begun(); // once: the first frame, which nothing may delay, is painted
     void ended(kelvo::ExitStatus status); // once
 
 protected:

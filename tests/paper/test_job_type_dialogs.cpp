@@ -8,6 +8,8 @@
 #include "saved_job_dialog.h"
 #include "secure_print_dialog.h"
 
+#include <QLineEdit>
+
 using namespace kelvo;
 
 class TestJobTypeDialogs : public QObject
@@ -76,10 +78,15 @@ void TestJobTypeDialogs::aMissingPasscodeIsMadeAndAnnounced()
 void TestJobTypeDialogs::cancelKeepsThePasscode()
 {
     std::optional<QString> passcode = QStringLiteral("4711");
-    const DialogDriver driver({expect("passcode", "text", "••••"),
-                               expect("confirmPasscode", "text", "••••"), press("showPasscode"),
-                               expect("passcode", "text", "4711"), type("passcode", "9"),
-                               press("cancelButton")});
+    const DialogDriver driver(
+        {expect("passcode", "text", "••••"), expect("confirmPasscode", "text", "••••"),
+         press("showPasscode"),
+         [] {
+             const auto *field = qobject_cast<QLineEdit *>(control("passcode"));
+             QCOMPARE(field->displayText(), QStringLiteral("4711"));
+         },
+         // Shown to the user, and not to a log.
+         expect("passcode", "text", "••••"), type("passcode", "9"), press("cancelButton")});
     QCOMPARE(RunModalSecurePrintSetup(m_bundle, &passcode), noErr);
     QCOMPARE(passcode, std::optional<QString>("4711"));
 }

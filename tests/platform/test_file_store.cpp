@@ -1,3 +1,4 @@
+#include "file_names.h"
 #include "file_store.h"
 #include "property_list.h"
 #include "size_limits.h"
@@ -16,7 +17,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
+#include <thread>
 
 using namespace kelvo;
 using namespace Qt::StringLiterals;
@@ -43,6 +46,11 @@ private slots:
     void writesNothingWithoutAChange();
     void keepsTheStoreWhenTheChangeCannotBeWritten();
     void removesFiles();
+    void clearsUpOnlyAfterTheDead_data();
+    void clearsUpOnlyAfterTheDead();
+    void neverClearsUpWhatIsBeingMade();
+    void keepsTheBytesOfNames_data();
+    void keepsTheBytesOfNames();
     void makesNamesSafe_data();
     void makesNamesSafe();
     void keepsSafeNamesApart();
@@ -368,6 +376,123 @@ void TestFileStore::removesFiles()
     QCOMPARE(removeFile(store()).error().code, Code::NotFound);
     QCOMPARE(removeFile(path("none/store.plist")).error().code, Code::NotFound);
     QVERIFY(!QFile::exists(path("none")));
+}
+
+void TestFileStore::clearsUpOnlyAfterTheDead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("rights");
+    QTest::addColumn<bool>("isFolder");
+    QTest::addColumn<bool>("isTaken");
+    const QString dead = u"left-0123456789abcdef"_s;
+    QTest::newRow("a folder that somebody has left") << dead << 0700 << true << true;
+    QTest::newRow("a file that somebody has left") << dead << 0600 << false << true;
+    QTest::newRow("a folder that others may enter") << dead << 0755 << true << false;
+    QTest::newRow("a file that others may read") << dead << 0644 << false << false;
+    QTest::newRow("a word of so many letters")
+        << u"left-0123456789abcdeg"_s << 0700 << true << false;
+    QTest::newRow("a name that goes on") << dead + u"0"_s << 0700 << true << false;
+    QTest::newRow("a name that is shorter") << dead.chopped(1) << 0600 << false << false;
+    QTest::newRow("another beginning") << u"Left-0123456789abcdef"_s << 0600 << false << false;
+}
+
+void TestFileStore::clearsUpOnlyAfterTheDead()
+{
+    QFETCH(QString, name);
+    QFETCH(int, rights);
+    QFETCH(bool, isFolder);
+    QFETCH(bool, isTaken);
+    const auto kind = isFolder ? LeftoverKind::Folder : LeftoverKind::File;
+    const QByteArray left = QFile::encodeName(m_folder->filePath(name));
+    if (isFolder) {
+        QVERIFY(QDir().mkpath(m_folder->filePath(name) + u"/deep/er"_s));
+        // A link leads out of the folder: it goes, and what it leads to stays.
+        QVERIFY(QFile::link(m_folder->path(), m_folder->filePath(name) + u"/deep/out"_s));
+    } else {
+        QVERIFY(replaceFile(m_folder->filePath(name), "x"));
+    }
+    QCOMPARE(::chmod(left.constData(), static_cast<mode_t>(rights)), 0);
+    QVERIFY(QFile::link(u"elsewhere"_s, path("left-ffffffffffffffff")));
+    QVERIFY(replaceFile(path("elsewhere"), "x"));
+
+    // Nor what is of the other kind, or what somebody holds.
+    constexpr QLatin1String prefix("left-");
+    removeLeftovers(m_folder->path(), prefix, isFolder ? LeftoverKind::File : LeftoverKind::Folder);
+    QCOMPARE(::access(left.constData(), F_OK), 0);
+    {
+        const auto held = HeldPath::make(m_folder->path(), prefix, kind);
+        QVERIFY(held);
+        removeLeftovers(m_folder->path(), prefix, kind);
+        QCOMPARE(::access(held.value().path().constData(), F_OK), 0);
+        QCOMPARE(::access(left.constData(), F_OK) == 0, !isTaken);
+    }
+    removeLeftovers(m_folder->path(), prefix, kind);
+    QStringList stay{u"elsewhere"_s, u"left-ffffffffffffffff"_s};
+    if (!isTaken)
+        stay << name;
+    stay.sort();
+    QStringList there = files();
+    there.sort();
+    QCOMPARE(there, stay);
+}
+
+void TestFileStore::neverClearsUpWhatIsBeingMade()
+{
+    constexpr QLatin1String prefix("left-");
+    std::atomic_bool isOver = false;
+    std::vector<std::jthread> cleaners;
+    for (const auto kind : {LeftoverKind::File, LeftoverKind::Folder}) {
+        cleaners.emplace_back([&, kind] {
+            while (!isOver) {
+                removeLeftovers(m_folder->path(), prefix, kind);
+                removeLeftovers(m_folder->path(), kStagedFilePrefix, kind);
+            }
+        });
+    }
+    int lost = 0;
+    for (int i = 0; i < 2000; ++i) {
+        for (const auto kind : {LeftoverKind::File, LeftoverKind::Folder}) {
+            const auto held = HeldPath::make(m_folder->path(), prefix, kind);
+            if (!held || ::access(held.value().path().constData(), F_OK) != 0)
+                ++lost;
+        }
+    }
+    for (int i = 0; i < 100; ++i)
+        lost += replaceFile(store(), QByteArray::number(i)) ? 0 : 1;
+    isOver = true;
+    cleaners.clear();
+    QCOMPARE(lost, 0);
+    QCOMPARE(readFile(store(), 10).value(), "99");
+}
+
+void TestFileStore::keepsTheBytesOfNames_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("UTF-8") << "Grüße 😀"_ba << u"Grüße 😀"_s;
+    QTest::newRow("Latin-1") << "Gr\xfc\xdf"_ba << u"Gr"_s + QChar(0xDCFC) + QChar(0xDCDF);
+    QTest::newRow("both") << "\xffä\x80"_ba << QString(QChar(0xDCFF)) + u'ä' + QChar(0xDC80);
+    QTest::newRow("cut character")
+        << "a\xf0\x9f\x98"_ba << u"a"_s + QChar(0xDCF0) + QChar(0xDC9F) + QChar(0xDC98);
+    QTest::newRow("surrogate as UTF-8")
+        << "\xed\xb3\xbc"_ba << QString(QChar(0xDCED)) + QChar(0xDCB3) + QChar(0xDCBC);
+    QTest::newRow("overlong") << "\xc0\xaf"_ba << QString(QChar(0xDCC0)) + QChar(0xDCAF);
+    QTest::newRow("byte order mark") << "\xef\xbb\xbf"
+                                        "a"_ba
+                                     << u"\ufeffa"_s;
+}
+
+void TestFileStore::keepsTheBytesOfNames()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, name);
+    QCOMPARE(fileNameFrom(bytes), name);
+    QCOMPARE(fileNameBytes(name), bytes);
+
+    QVERIFY(replaceFile(m_folder->filePath(name), bytes));
+    QCOMPARE(readFile(m_folder->filePath(name), 20).value(), bytes);
+    const QByteArray folder = m_folder->path().toUtf8();
+    QCOMPARE(::access((folder + '/' + bytes).constData(), R_OK), 0);
 }
 
 void TestFileStore::makesNamesSafe_data()

@@ -1,3 +1,4 @@
+#include "file_names.h"
 #include "standard_error.h"
 #include "terminal.h"
 
@@ -42,6 +43,7 @@ void TestTerminal::writesOutWhatIsNotSeen_data()
     row("line separator", u"a\u2028b\u2029"_s, u"a\\u2028b\\u2029"_s);
     row("tag beyond the BMP", u"a\U000e0041"_s, u"a\\U000e0041"_s);
     row("joiners spell words", u"می\u200cخواهم 👩\u200d💻"_s, u"می\u200cخواهم 👩\u200d💻"_s);
+    row("bytes of a file name", fileNameFrom("Gr\xfc\xdf\x65"), u"Gr\\xfc\\xdfe"_s);
     row("lone surrogates", QString(QChar(0xd83d)) + u'a' + QChar(0xde00), u"\\ud83da\\ude00"_s);
 }
 

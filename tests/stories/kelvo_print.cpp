@@ -61,16 +61,24 @@ Run Desk::interrupt(const QStringList &arguments, int afterMs) const
     return run(arguments, {}, afterMs);
 }
 
-Run Desk::run(const QStringList &arguments, const QByteArray &input, int interruptMs) const
+void Desk::prepare(QProcess &process, const QStringList &arguments) const
 {
-    QProcess process;
     process.setProcessEnvironment(m_environment);
     process.setWorkingDirectory(path({}));
     if (m_atStart)
         process.setChildProcessModifier(m_atStart);
+    QStringList words = m_command + QStringList(QStringLiteral(KELVO_PRINT)) + arguments;
+    process.setProgram(words.takeFirst());
+    process.setArguments(words);
+}
+
+Run Desk::run(const QStringList &arguments, const QByteArray &input, int interruptMs) const
+{
+    QProcess process;
+    prepare(process, arguments);
     QElapsedTimer timer;
     timer.start();
-    process.start(QStringLiteral(KELVO_PRINT), arguments);
+    process.start();
     process.write(input);
     process.closeWriteChannel();
     if (interruptMs > 0 && !process.waitForFinished(interruptMs))

@@ -37,9 +37,15 @@ public:
 
     // Sets a variable of the environment that the program runs in.
     void set(const QString &name, const QString &value) { m_environment.insert(name, value); }
+    // Takes a variable out of that environment.
+    void unset(const QString &name) { m_environment.remove(name); }
+    // The program's path and arguments become the last ones of `command`.
+    void under(const QStringList &command) { m_command = command; }
     // Runs in the program's process before it begins.
     void atStart(std::function<void()> modifier) { m_atStart = std::move(modifier); }
 
+    // The program, ready to be started: for what happens while it runs.
+    void prepare(QProcess &process, const QStringList &arguments) const;
     // Runs the program to its end, at most 30 s.
     Run run(const QStringList &arguments, const QByteArray &input = {}) const;
     // The same, with an interrupt after `afterMs`.
@@ -50,6 +56,7 @@ private:
 
     QTemporaryDir m_folder;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    QStringList m_command;
     std::function<void()> m_atStart;
 };
 

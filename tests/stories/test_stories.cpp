@@ -1114,6 +1114,9 @@ void TestStories::makesPictures()
     for (int y = 190; y < 300; ++y)
         coloured += window.pixelColor(QPoint(100, y) * scale).saturation() > 150;
     QVERIFY2(coloured > 20, qPrintable(QString::number(coloured)));
+    QCOMPARE(QFile::permissions(desk.path("window.png"))
+                 & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+             QFile::Permissions());
     for (const char *name : {"about.png", "details.png"})
         QVERIFY2(QImage(desk.path(name)).width() > 200 * scale, name);
     const QString kept = qEnvironmentVariable("KELVO_KEEP_PICTURES");

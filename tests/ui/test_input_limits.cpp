@@ -27,6 +27,7 @@ private slots:
     void typedTextIsTakenAsFarAsAllowed_data();
     void typedTextIsTakenAsFarAsAllowed();
     void handlersNeverSeeWhatWasRefused();
+    void whatCannotBeKeptIsRefused();
     void limitsCanBeChanged();
 };
 
@@ -237,6 +238,29 @@ void TestInputLimits::handlersNeverSeeWhatWasRefused()
                  QStringList{QString::fromUtf8("a\xF0\x9F\x98\x80"
                                                "b")});
     }
+}
+
+// What no property list can hold would lose the whole file that it goes into.
+void TestInputLimits::whatCannotBeKeptIsRefused()
+{
+    const QString bad = QString(QChar(0)) + u'\x01' + u'\x1b' + QChar(0xFFFE) + QChar(0xFFFF)
+        + QChar(0xD83D) + u'x' + QChar(0xDE00);
+    const QString good = QStringLiteral("a\tü\u0085\uFFFD😀");
+    for (const InputLimits &limits : {InputLimits(), InputLimits{.maximumLength = 20}}) {
+        QCOMPARE(findProblem(bad, limits), InputProblem::BadCharacter);
+        QCOMPARE(findProblem(good, limits), InputProblem::None);
+        QCOMPARE(withinLimits(bad + good, limits), u'x' + good);
+    }
+
+    QLineEdit line;
+    setInputLimits(&line, {});
+    line.setText(QStringLiteral("😀"));
+    line.selectAll();
+    line.insert(QStringLiteral("\U0001F400")); // half of it is as before
+    QCOMPARE(line.text(), QStringLiteral("\U0001F400"));
+    line.insert(QStringLiteral("\x01"));
+    line.insert(QString(QChar(0xD83D)));
+    QCOMPARE(line.text(), QStringLiteral("\U0001F400"));
 }
 
 void TestInputLimits::limitsCanBeChanged()

@@ -1,5 +1,6 @@
 #include "control.h"
 #include "event_log.h"
+#include "input_limits.h"
 #include "popup_button.h"
 #include "radio_group.h"
 #include "spin_field.h"
@@ -122,6 +123,8 @@ void TestWindowLoader::aWindowIsBuiltWiredAndLocalized()
     QCOMPARE(labelOf(popup), label);
     // What stands in a field is not a key.
     QCOMPARE(shown->findChild<QLineEdit *>("name")->text(), "PaperHelp");
+    // What no file of ours could hold is refused from the start.
+    QVERIFY(inputLimits(shown->findChild<QLineEdit *>("name")));
     QCOMPARE(shown->findChild<SpinField *>("copies")->value(), 300);
     QCOMPARE(shown->findChild<TabControl *>("tabs")->titles(), (QStringList{"One", "Second"}));
 

@@ -3,6 +3,8 @@
 #include "secret_mask.h"
 #include "ticket_path.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QtTest>
 
 using namespace kelvo;
@@ -19,7 +21,10 @@ private slots:
     void keepsLineNumbersOverCommentsAndBlankLines();
     void everyCommandHasHelp();
     void walksIntoTheTicket();
-    void masksTheLongerSecretFirst();
+    void neverRepeatsWhatIsTyped();
+    void masksWholeWords_data();
+    void masksWholeWords();
+    void masksControlsButNotWhatTheyAreCalled();
 };
 
 // One line back as text, so that a row shows all that was read.
@@ -176,16 +181,15 @@ void TestScriptParser::everyCommandHasHelp()
 
 void TestScriptParser::walksIntoTheTicket()
 {
-    PrintSession session;
-    Ticket &ticket = session.printSettings();
+    Ticket ticket, page;
     ticket.entries[QStringLiteral("a")].value =
         Dictionary{{QStringLiteral("b"),
                     Array{qint64(7), Dictionary{{QStringLiteral("c"), QStringLiteral("x")}}, 2.5}}};
     ticket.entries[QStringLiteral("a/b")].value = true;
-    session.pageFormat().entries[QStringLiteral("o")].value = qint64(2);
+    page.entries[QStringLiteral("o")].value = qint64(2);
 
-    const auto at = [&session](const char *path) -> QString {
-        const auto value = valueAtPath(session, QString::fromLatin1(path));
+    const auto at = [&ticket, &page](const char *path) -> QString {
+        const auto value = valueAtPath(ticket, page, QString::fromLatin1(path));
         return value ? scriptText(*value) : QStringLiteral("absent");
     };
 
@@ -202,15 +206,57 @@ void TestScriptParser::walksIntoTheTicket()
     QCOMPARE(at("a/b/1"), QStringLiteral("{\"c\":\"x\"}"));
 }
 
-void TestScriptParser::masksTheLongerSecretFirst()
+void TestScriptParser::neverRepeatsWhatIsTyped()
 {
-    QCOMPARE(maskedText(QStringLiteral("code 1234, not 12"),
-                        {QStringLiteral("12"), QStringLiteral("1234"), QString()}),
-             QStringLiteral("code ••••, not ••••"));
-    const QString quoted = QStringLiteral("a\"b\\c");
-    for (const QString &text : {quoted, QStringLiteral("{\"text\":\"a\\\"b\\\\c\"}"),
-                                QString::fromLatin1(quoted.toUtf8().toBase64())})
-        QVERIFY2(maskedText(text, {quoted}).contains(QStringLiteral("••••")), qPrintable(text));
+    for (const char *line : {"type passcode 4711", "type \"4711\" @passcode", "type KPDE \"4711\"",
+                             "type @passcode \"4711", "type @passcode \"4711\"x",
+                             "type @passcode 4711 4711", "type @passcode \"4711\" 4711 4711"}) {
+        const auto read = parseScript(line, QStringLiteral("t.kps"));
+        QVERIFY2(!read, line);
+        QVERIFY2(!read.error().text().contains(u"4711"), qPrintable(read.error().text()));
+    }
+}
+
+void TestScriptParser::masksWholeWords_data()
+{
+    QTest::addColumn<QStringList>("secrets");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("masked");
+    const auto row = [](const char *name, const QStringList &secrets, const char *text,
+                        const char *masked) {
+        QTest::newRow(name) << secrets << QString::fromUtf8(text) << QString::fromUtf8(masked);
+    };
+    row("alone", {"4711"}, "4711", "••••");
+    row("in a sentence", {"4711"}, "code 4711. 4711-4711", "code ••••. ••••-••••");
+    row("the longer one first", {"4711", "4711 a"}, "4711 a, 4711", "••••, ••••");
+    row("part of a word", {"4711"}, "47110 x4711 4711mm _4711", "47110 x4711 4711mm _4711");
+    row("part of a number", {"4711"}, "0.4711 4711,5", "0.4711 4711,5");
+    row("too short to be looked for", {"1", "12", "123", ""}, "1 copy of 12, line 123",
+        "1 copy of 12, line 123");
+    row("not a word at its ends", {"(pin)"}, "a(pin)b", "a••••b");
+    row("quotes and umlauts", {"a\"b\\ü"}, "say a\"b\\ü!", "say ••••!");
+}
+
+void TestScriptParser::masksWholeWords()
+{
+    QFETCH(QStringList, secrets);
+    QFETCH(QString, text);
+    QFETCH(QString, masked);
+    QCOMPARE(maskedText(text, secrets), masked);
+}
+
+void TestScriptParser::masksControlsButNotWhatTheyAreCalled()
+{
+    const auto json = [](const char *text) { return QJsonDocument::fromJson(text).array(); };
+    const QJsonValue open = json(R"([{"id":"KPDE 4711","name":"4711","kind":"4711",
+        "text":"a 4711","label":"4711","rows":[["4711","x"]],"maximum":4711},
+        {"text":"4711","value":4711,"items":[{"text":"4711","value":1}]},
+        {"text":"x","items":["4711"]}])");
+    const QJsonValue masked = json(R"([{"id":"KPDE 4711","name":"4711","kind":"4711",
+        "text":"a ••••","label":"••••","rows":[["••••","x"]],"maximum":4711},
+        {"text":"4711","value":4711,"items":[{"text":"4711","value":1}]},
+        {"text":"x","items":["••••"]}])");
+    QCOMPARE(maskedControls(open, {"4711", "1"}), masked);
 }
 
 QTEST_GUILESS_MAIN(TestScriptParser)

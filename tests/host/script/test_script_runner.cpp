@@ -4,6 +4,8 @@
 #include "modal_dialog.h"
 #include "notice.h"
 #include "popup_button.h"
+#include "secrets.h"
+#include "standard_error.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -105,6 +107,13 @@ public:
         return name == QLatin1String("pin") ? std::optional<QString>(QStringLiteral("4711"))
                                             : std::nullopt;
     }
+    TicketFile withSecretsMasked(TicketFile file) const override
+    {
+        const auto found = file.printSettings.entries.find(QStringLiteral("Code"));
+        if (found != file.printSettings.entries.end())
+            found->second.value = kMask;
+        return file;
+    }
     QStringList secretValues() override { return {QStringLiteral("4711")}; }
 
     PrintSession session;
@@ -166,6 +175,8 @@ private slots:
     void endsWithTheStatusThatTheLineDeserves();
     void worksInsideAModalDialogWhileItsOpenerWaits();
     void typesASecretThatNothingRepeats();
+    void masksByPlace_data();
+    void masksByPlace();
     void printsAtTheEndWhenAsked();
     void endsWithADialogThatOthersClose_data();
     void endsWithADialogThatOthersClose();
@@ -276,6 +287,43 @@ void TestScriptRunner::typesASecretThatNothingRepeats()
     const QByteArray said = out.readAll();
     QVERIFY(said.contains("Passcode: "));
     QVERIFY(!said.contains("4711"));
+}
+
+// A passcode of one digit is also a line, a value and a part of every number.
+void TestScriptRunner::masksByPlace_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("a field, in the message about it")
+        << QByteArray("type @passcode \"1\"\nexpect @passcode text \"1\"")
+        << "t.kps:2: text of @passcode is \"••••\"; of a secret only \"••••\" or \"\" is told\n";
+    QTest::newRow("an empty field") << QByteArray("expect @passcode text \"••••\"")
+                                    << "t.kps:1: text of @passcode is \"\"; of a secret only "
+                                       "\"••••\" or \"\" is told\n";
+    QTest::newRow("an entry, and what was expected of it")
+        << QByteArray("expect-ticket Code \"12\"") << "t.kps:1: Code is \"••••\", not \"••••\"\n";
+    QTest::newRow("another entry")
+        << QByteArray("expect-ticket Size 12") << "t.kps:1: Size is \"4711\", not \"12\"\n";
+    QTest::newRow("a value and its line")
+        << QByteArray(4710, '\n') + QByteArray("expect KPDE 614 value 4711")
+        << "t.kps:4711: value of KPDE 614 is \"0\", not \"4711\"\n";
+    QTest::newRow("the words of a problem")
+        << QByteArray("print") << "t.kps:1: ••••: 1 of 4711x was not taken\n";
+}
+
+void TestScriptRunner::masksByPlace()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, said);
+    FakeDialog dialog;
+    dialog.printProblem = QStringLiteral("4711: 1 of 4711x was not taken");
+    auto &entries = dialog.session.printSettings().entries;
+    entries[QStringLiteral("Code")].value = QStringLiteral("1");
+    entries[QStringLiteral("Size")].value = 4711;
+
+    const StandardError written;
+    run(dialog, script);
+    QCOMPARE(QString::fromUtf8(written.text()), said);
 }
 
 void TestScriptRunner::printsAtTheEndWhenAsked()

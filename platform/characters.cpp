@@ -1,0 +1,28 @@
+#include "characters.h"
+
+namespace kelvo {
+
+bool isSeen(char32_t c)
+{
+    constexpr char32_t nonJoiner = 0x200C, joiner = 0x200D;
+    switch (QChar::category(c)) {
+    case QChar::Other_Control:
+    case QChar::Other_Surrogate:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    case QChar::Other_Format:
+        return c == nonJoiner || c == joiner;
+    default:
+        return true;
+    }
+}
+
+bool isKept(char32_t c)
+{
+    if (c < 0x20)
+        return c == '\t' || c == '\n' || c == '\r';
+    return !QChar::isSurrogate(c) && c != 0xFFFE && c != 0xFFFF && c <= QChar::LastValidCodePoint;
+}
+
+} // namespace kelvo
