@@ -23,6 +23,10 @@ if(KELVO_SANITIZE)
                                                  -fno-sanitize-recover=undefined)
   target_link_options(kelvo_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(KELVO_SANITIZE_THREADS)
+  target_compile_options(kelvo_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+  target_link_options(kelvo_options INTERFACE -fsanitize=thread)
+endif()
 
 # kelvo_library(NAME [SHARED] SOURCES ... LINK ...)
 function(kelvo_library name)
@@ -38,10 +42,13 @@ function(kelvo_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE kelvo_options ${ARG_PRIVATE_LINK})
 endfunction()
 
-# kelvo_test(NAME SOURCES ... LINK ...): one Qt Test program, run offscreen with
-# a home folder of its own; a skipped test counts as failed.
+# The tests about background work, which the thread sanitizer runs too.
+add_custom_target(background_tests)
+
+# kelvo_test(NAME [BACKGROUND] SOURCES ... LINK ...): one Qt Test program, run
+# offscreen with a home folder of its own; a skipped test counts as failed.
 function(kelvo_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "BACKGROUND" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
@@ -51,4 +58,8 @@ function(kelvo_test name)
                                              KELVO_BUILD_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/run-isolated $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300 FAIL_REGULAR_EXPRESSION "SKIP   :")
+  if(ARG_BACKGROUND)
+    add_dependencies(background_tests ${name})
+    set_tests_properties(${name} PROPERTIES LABELS background)
+  endif()
 endfunction()

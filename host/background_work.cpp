@@ -3,8 +3,10 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <semaphore>
 #include <system_error>
 #include <thread>
+#include <vector>
 
 namespace kelvo {
 
@@ -47,6 +49,28 @@ bool startBackgroundWork(std::function<void()> work)
         count(-1);
         return false;
     }
+}
+
+bool canStartThreads(int count)
+{
+    std::counting_semaphore<> allTried(0);
+    std::vector<std::thread> threads;
+    try {
+        while (static_cast<int>(threads.size()) < count)
+            threads.emplace_back([&allTried] { allTried.acquire(); });
+    } catch (const std::system_error &) {
+    }
+    allTried.release(static_cast<std::ptrdiff_t>(threads.size()));
+    for (std::thread &thread : threads)
+        thread.join();
+    return static_cast<int>(threads.size()) == count;
+}
+
+QString noThreadReason()
+{
+    return QStringLiteral("the system gives this program no thread, because too many processes run "
+                          "for this user or in this container; end some, or have the limit raised "
+                          "(ulimit -u), and try again");
 }
 
 bool waitForBackgroundWork(int milliseconds)

@@ -25,8 +25,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <future>
 #include <memory>
-#include <thread>
 
 #include <fontconfig/fontconfig.h>
 
@@ -38,6 +38,14 @@ using namespace kelvo;
 namespace {
 
 constexpr int endWaitMs = 1000; // for threads that were told to stop
+
+// The document, the printers, their PPD, the preview and two for painting. Qt paints large
+// areas on threads of its own, and waits for ever for one that could not be started.
+constexpr int threadsAtOnce = 6;
+
+// So long after a signal the program ends as the user would have it, and tells what
+// became of a job; then it hangs, and is ended.
+constexpr unsigned int signalSeconds = 10;
 
 int toInt(ExitStatus status)
 {
@@ -121,6 +129,7 @@ int signalPipe[2] = {-1, -1};
 
 extern "C" void noteSignal(int)
 {
+    ::alarm(signalSeconds);
     const char byte = 0;
     // A full pipe holds a signal already.
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
@@ -131,6 +140,7 @@ void endOnSignals(PrintDialog &dialog)
 {
     if (::pipe(signalPipe) != 0)
         return;
+    std::signal(SIGALRM, SIG_DFL); // whatever the caller left
     struct sigaction action = {};
     action.sa_handler = noteSignal;
     action.sa_flags = SA_RESTART | SA_RESETHAND;
@@ -339,7 +349,13 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     }
     // Fonts take as long to be found as the application object takes to be made.
     // Whoever asks for them meanwhile would look for them a second time.
-    std::jthread fonts([] { FcInit(); });
+    const auto areThreadsToBeHad = std::make_shared<std::promise<bool>>();
+    if (!startBackgroundWork([areThreadsToBeHad] {
+            const bool enough = canStartThreads(threadsAtOnce);
+            FcInit();
+            areThreadsToBeHad->set_value(enough);
+        }))
+        return fail(ExitStatus::Failed, noThreadReason());
     QApplication application(argc, argv);
     // The application object took over the locale; what we write must not follow it.
     std::setlocale(LC_NUMERIC, "C");
@@ -365,7 +381,8 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     if (const QString help = findSharedFile(QStringLiteral("help")); !help.isEmpty())
         addHelpFolder(help);
 
-    fonts.join();
+    if (!areThreadsToBeHad->get_future().get())
+        return fail(ExitStatus::Failed, noThreadReason());
     if (line.listControls) {
         PrintDialog dialog(options);
         const auto list = controlList(&dialog, options.bundle);

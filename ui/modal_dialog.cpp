@@ -109,9 +109,11 @@ DialogResult ModalDialog::runModal()
         resize(wanted.boundedTo(available));
     runningDialogs().emplace_back(this);
     const QPointer<QWidget> self = this;
+    const QPointer<QWidget> behind = parentWidget();
     const int result = exec();
     std::erase_if(runningDialogs(),
                   [&self](const QPointer<QWidget> &dialog) { return !dialog || dialog == self; });
+    activateAgain(behind);
     return result == Accepted ? DialogResult::OK : DialogResult::Cancel;
 }
 
@@ -139,6 +141,12 @@ QWidget *frontWindow()
             return *dialog;
     }
     return printWindow();
+}
+
+void activateAgain(QWidget *window)
+{
+    if (window && window->isVisible() && !QApplication::activeWindow())
+        window->activateWindow();
 }
 
 void setPrintWindow(QWidget *window)

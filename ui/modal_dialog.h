@@ -53,6 +53,9 @@ private:
 // The window that the user is working in: the front modal dialog, else the
 // print dialog; null before there is one. What scripts act on.
 QWidget *frontWindow();
+// Makes `window` active when a dialog before it has closed and no window manager did:
+// only an active window hears shortcuts. Null, or not shown: nothing.
+void activateAgain(QWidget *window);
 // Tells which window the print dialog is; the host does, once.
 void setPrintWindow(QWidget *window);
 

@@ -145,7 +145,7 @@ std::vector<QPointer<NoticeDialog>> &openNotices()
 
 int run(NoticeLevel level, const ShownNotice &notice, int escape, QWidget *parent)
 {
-    QWidget *owner = parent ? parent->window() : frontWindow();
+    const QPointer<QWidget> owner = parent ? parent->window() : frontWindow();
     const QPointer<NoticeDialog> dialog = new NoticeDialog(level, notice, escape, owner);
     openNotices().push_back(dialog);
     // An answered notice is no longer in front, even before its event loop has ended.
@@ -155,6 +155,7 @@ int run(NoticeLevel level, const ShownNotice &notice, int escape, QWidget *paren
     // Gone with its owner, or hidden, it was closed without an answer.
     const bool isAnswered = dialog && pressed != 0;
     delete dialog.data();
+    activateAgain(owner);
     return isAnswered ? pressed : escape;
 }
 

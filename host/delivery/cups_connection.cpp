@@ -96,6 +96,11 @@ bool lastCallSucceeded()
     return cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE;
 }
 
+Error noThread(const QString &where)
+{
+    return {Code::NotReadable, where, noThreadReason()};
+}
+
 Error timedOut(const Patience &patience, const QString &where)
 {
     return {Code::TimedOut, where,

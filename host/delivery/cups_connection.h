@@ -74,26 +74,33 @@ Result<QString> queueName(const QString &printer);
 
 Error timedOut(const Patience &patience, const QString &where);
 
+// What became of a call because the system has no thread for it.
+Error noThread(const QString &where);
+
 // `work` on a thread of its own. While it runs, `isGivenUp` is asked every 20 ms;
-// once it says yes the thread is left to itself and nothing comes back.
+// once it says yes the thread is left to itself and nothing comes back. noThread()
+// of `where` when there is none: asked only then, because libcups keeps the server
+// that a thread first asks for.
 template <typename T>
-std::optional<T> runAside(std::function<T()> work, const std::function<bool()> &isGivenUp)
+std::optional<Result<T>> runAside(std::function<Result<T>()> work,
+                                  const std::function<QString()> &where,
+                                  const std::function<bool()> &isGivenUp)
 {
     struct State
     {
         std::mutex mutex;
         std::condition_variable changed;
-        std::optional<T> result;
+        std::optional<Result<T>> result;
     };
     auto state = std::make_shared<State>();
     const bool isStarted = startBackgroundWork([state, work = std::move(work)] {
-        T result = work();
+        Result<T> result = work();
         const std::lock_guard lock(state->mutex);
         state->result = std::move(result);
         state->changed.notify_all();
     });
     if (!isStarted)
-        return std::nullopt;
+        return noThread(where());
     std::unique_lock lock(state->mutex);
     while (!state->changed.wait_for(lock, std::chrono::milliseconds(20),
                                     [&] { return state->result.has_value(); })) {

@@ -30,7 +30,7 @@ using Code = Error::Code;
 // The error for a job with a secret or a fax and a queue that would print it.
 Error notRead(const PreparedJob &job, const QString &where)
 {
-    return {Code::Refused, where,
+    return {Code::Unsupported, where,
             QStringLiteral("the printer's PPD does not say that it reads tickets "
                            "(*KelvoTicket: \"1\"): %1; print without it, or have the queue set "
                            "up with the device's own PPD")
@@ -280,8 +280,15 @@ Result<void> checkReader(Sending &sending, http_t *http)
     if (!ppds)
         return ppds.error();
     for (const QByteArray &bytes : ppds.value()) {
+        if (bytes.isNull())
+            return notRead(sending.job, sending.queue);
         const auto ppd = PpdFile::fromBytes(bytes, sending.queue);
-        if (!ppd || !readsTickets(ppd.value().get()))
+        if (!ppd)
+            return Error{Code::Damaged, sending.queue,
+                         QStringLiteral("the PPD that the print server at %1 has for it is damaged "
+                                        "(%2); have the queue set up again with the device's PPD")
+                             .arg(serverName(), ppd.error().detail)};
+        if (!readsTickets(ppd.value().get()))
             return notRead(sending.job, sending.queue);
     }
     sending.patience.progress();
@@ -414,8 +421,8 @@ Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue
         return sinceStop.isValid() ? sinceStop.hasExpired(graceMs())
                                    : sending->patience.isTimedOut(graceMs());
     };
-    if (auto result =
-            runAside<Result<DeliveredJob>>([sending] { return send(*sending); }, isGivenUp))
+    if (auto result = runAside<DeliveredJob>([sending] { return send(*sending); },
+                                             [sending] { return sending->queue; }, isGivenUp))
         return *result;
     const Error error =
         sinceStop.isValid() ? serverError(sending->patience, sending->queue) : noAnswer(*sending);

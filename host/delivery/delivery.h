@@ -54,8 +54,8 @@ struct PreparedJob
 // *KelvoTicket: "1". Any other queue gets the document without ticket (an older
 // one is taken out) and without that option.
 //
-// Refused when the ticket holds a secret or a fax and the PPD does not declare
-// that, and for a choice that cannot be an option; OutOfRange for pages that the
+// Unsupported when the ticket holds a secret or a fax and the PPD does not declare
+// that; Refused for a choice that cannot be an option; OutOfRange for pages that the
 // document does not have; NotWritable for a full disk. Blocks for as long as it
 // takes to write the PDF.
 Result<PreparedJob> prepareJob(const JobRequest &request);
@@ -76,10 +76,11 @@ struct DeliveredJob
 // not answer.
 //
 // NotFound for an unknown queue, Unreachable when no server is there, Refused
-// when the server says no, when it asks for a password, when the job holds a
-// secret and the server is on the network without TLS, or when it holds a secret
-// or a fax and the PPD that the server has for the queue (for every printer of a
-// class) does not declare *KelvoTicket: "1". TimedOut after
+// when the server says no, when it asks for a password, or when the job holds a
+// secret and the server is on the network without TLS. For a job with a secret or
+// a fax the PPD that the server has for the queue is looked at (for every printer
+// of a class): Unsupported when it does not declare *KelvoTicket: "1", Damaged when
+// it cannot be read. TimedOut after
 // `timeoutMs` without progress; `cancelled` stops it before the document is
 // complete. A half-sent job is cancelled on the server. A job that may have been
 // accepted is never sent twice: the error says so then, and where to look.

@@ -154,11 +154,12 @@ struct PrinterDirectory::Private
                 answerOnce(directory, result);
             });
         });
-        QTimer::singleShot(isStarted ? timeoutMs : 0, d->owner,
-                           [directory = d->owner, patience, where, answerOnce] {
-                               answerOnce(directory, timedOut(*patience, where()));
-                               patience->stop();
-                           });
+        QTimer::singleShot(
+            isStarted ? timeoutMs : 0, d->owner,
+            [directory = d->owner, isStarted, patience, where, answerOnce] {
+                patience->stop();
+                answerOnce(directory, isStarted ? timedOut(*patience, where()) : noThread(where()));
+            });
     }
 };
 
@@ -218,8 +219,8 @@ Result<QList<Printer>> listPrinters(int timeoutMs)
 {
     const auto patience = std::make_shared<Patience>(timeoutMs);
     auto printers =
-        runAside<Result<QList<Printer>>>([patience] { return readPrinters(*patience); },
-                                         [patience] { return patience->isTimedOut(500); });
+        runAside<QList<Printer>>([patience] { return readPrinters(*patience); }, serverName,
+                                 [patience] { return patience->isTimedOut(500); });
     if (printers)
         return *printers;
     patience->stop();

@@ -25,7 +25,14 @@ Result<QStringList> membersOf(http_t *http, const QString &queue, Patience &pati
     return members;
 }
 
-// The file at `resource` of the server; NotFound when there is none.
+Error brokenOff(const QString &where)
+{
+    return {Code::Unreachable, where,
+            QStringLiteral("the print server at %1 broke off while it sent the PPD; try again")
+                .arg(serverName())};
+}
+
+// The file at `resource` of the server, whole; NotFound when there is none.
 Result<QByteArray> readResource(http_t *http, const QString &resource, const QString &where,
                                 Patience &patience)
 {
@@ -37,6 +44,10 @@ Result<QByteArray> readResource(http_t *http, const QString &resource, const QSt
         status = httpUpdate(http);
     if (patience.isOver())
         return serverError(patience, where);
+    // The state for the body is that of a whole header. A connection that ends in the
+    // middle of one leaves the status of its first line, and no body to be read.
+    if (status != HTTP_STATUS_ERROR && httpGetState(http) != HTTP_STATE_GET_SEND)
+        return brokenOff(where);
     if (status == HTTP_STATUS_NOT_FOUND) {
         httpFlush(http);
         return Error{Code::NotFound, where,
@@ -57,13 +68,17 @@ Result<QByteArray> readResource(http_t *http, const QString &resource, const QSt
             return Error{Code::TooLarge, where,
                          QStringLiteral("its PPD has more than %1 bytes").arg(limits::ppdBytes)};
     }
+    if (patience.isOver())
+        return serverError(patience, where);
     // A body that ends early is no PPD, whatever there is of it.
-    if (count < 0 || httpGetState(http) == HTTP_STATE_GET_SEND || patience.isOver())
-        return patience.isOver() ? serverError(patience, where)
-                                 : Error{Code::Unreachable, where,
-                                         QStringLiteral("the print server at %1 broke off while it "
-                                                        "sent the PPD; try again")
-                                             .arg(serverName())};
+    if (count < 0 || httpGetState(http) == HTTP_STATE_GET_SEND)
+        return brokenOff(where);
+    if (bytes.isEmpty())
+        return Error{
+            Code::Damaged, where,
+            QStringLiteral("the print server at %1 has an empty PPD for it; have the queue "
+                           "set up again with the device's PPD")
+                .arg(serverName())};
     return bytes;
 }
 

@@ -11,7 +11,8 @@
 namespace kelvo {
 
 // The PPD of `queue` as the server has it; of a class of printers, that of its
-// first member. NotFound when it has none. All these block.
+// first member. NotFound only when the server says that it has none; what does not
+// come whole is Unreachable, and an empty one Damaged. All these block.
 Result<QByteArray> queuePpd(http_t *http, const QString &queue, Patience &patience);
 
 // The PPDs of all printers that may get what is sent to `queue`: its own, or

@@ -66,7 +66,6 @@ PageRenderer::PageRenderer(QObject *parent)
 {
     d->worker.moveToThread(&d->thread);
     d->thread.setObjectName(QStringLiteral("page renderer"));
-    d->thread.start();
 }
 
 PageRenderer::~PageRenderer()
@@ -86,6 +85,19 @@ void PageRenderer::setDocument(const Document &document)
 
 void PageRenderer::render(int page, const QSize &pixels)
 {
+    if (!d->thread.isRunning())
+        d->thread.start();
+    if (!d->thread.isRunning()) {
+        // The system has no thread to give; the next page may be luckier.
+        QMetaObject::invokeMethod(
+            this,
+            [this, number = ++d->shared.wanted, page] {
+                if (d->shared.wanted == number)
+                    emit rendered(page, {});
+            },
+            Qt::QueuedConnection);
+        return;
+    }
     {
         const QMutexLocker lock(&d->shared.mutex);
         d->shared.next = Request{++d->shared.wanted, d->document, page, pixels};

@@ -49,6 +49,14 @@ LineDone lineProblem(const inspector::Done &done)
                        done->text};
 }
 
+// Whether the line reaches for what a modal dialog keeps from the user: panels that
+// read, say, would take away the paper that the dialog is about.
+bool isBehindDialogs(ScriptCommand command)
+{
+    return command == ScriptCommand::Panel || command == ScriptCommand::Tab
+        || command == ScriptCommand::Sync || command == ScriptCommand::Print;
+}
+
 // Whether the line looks at or deals with a notice that has just come up.
 bool meetsNotice(ScriptCommand command)
 {
@@ -299,6 +307,9 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
                                                                          : ExitStatus::WrongUsage;
         return LineProblem{status, error.text()};
     };
+    if (isBehindDialogs(line.command) && openDialog())
+        return wrong(QStringLiteral("the dialog \"%1\" is open and must be closed first")
+                         .arg(front()->windowTitle()));
     switch (line.command) {
     case ScriptCommand::Panel:
         return done(target.showPanel(word(0)));
@@ -322,9 +333,6 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         return {};
     }
     case ScriptCommand::Print:
-        if (openDialog())
-            return wrong(QStringLiteral("the dialog \"%1\" is open and must be closed first")
-                             .arg(front()->windowTitle()));
         printAsked = true;
         printedBy = line.number;
         target.pressPrint();

@@ -123,9 +123,7 @@ void DialogSession::listenTo(PrinterDirectory &directory)
                     beginWithoutPpd(tr("The print server has no description of its settings."));
                 } else if (!m_arePrintersKnown || findPrinter(printer)) {
                     // A name that the server does not know is told as such, with the list.
-                    setStage(Stage::Stuck,
-                             {tr("The settings of “%1” cannot be read").arg(printer), error.detail,
-                              true, tr("Try again, or choose another printer.")});
+                    takePpdProblem(error.detail);
                 }
             });
 }
@@ -203,14 +201,23 @@ void DialogSession::takePpd(const QString &path)
     auto opened = PpdFile::open(path);
     if (!opened) {
         // The copy's path means nothing to the user.
-        beginWithoutPpd(
-            tr("The description of its settings is damaged (%1).").arg(opened.error().detail));
+        takePpdProblem(tr("The description of them that the print server has is damaged (%1).")
+                           .arg(opened.error().detail));
         return;
     }
     m_ppd = std::move(opened).value();
     m_noPpdReason.clear();
     m_isPpdKnown = true;
     beginWhenComplete();
+}
+
+// Not the same as a printer without a PPD: whoever printed all the same would lose
+// every setting without a word.
+void DialogSession::takePpdProblem(const QString &why)
+{
+    setStage(Stage::Stuck,
+             {tr("The settings of “%1” cannot be read").arg(m_printerName), why, true,
+              tr("Try again, or choose another printer.")});
 }
 
 void DialogSession::beginWithoutPpd(const QString &why)
@@ -561,16 +568,20 @@ void DialogSession::openTheDocument()
     if (m_openingCancelled || !m_options.document)
         return;
     m_openingCancelled = std::make_shared<std::atomic_bool>(false);
-    m_opening.start([source = *m_options.document,
-                     cancelled = m_openingCancelled] { return openDocument(source, *cancelled); },
-                    [this](Result<Document> opened) {
-                        if (opened)
-                            m_document = std::move(opened).value();
-                        else
-                            m_documentProblem =
-                                tr("The document cannot be opened: %1").arg(opened.error().text());
-                        emit documentChanged();
-                    });
+    const auto take = [this](Result<Document> opened) {
+        if (opened)
+            m_document = std::move(opened).value();
+        else
+            m_documentProblem = tr("The document cannot be opened: %1").arg(opened.error().text());
+        emit documentChanged();
+    };
+    const bool isStarted = m_opening.start(
+        [source = *m_options.document, cancelled = m_openingCancelled] {
+            return openDocument(source, *cancelled);
+        },
+        take);
+    if (!isStarted)
+        take(Error{Code::NotReadable, title(), noThreadReason()});
 }
 
 } // namespace kelvo

@@ -140,6 +140,7 @@ private:
     void askForPpd();
     bool isPpdAwaited(const QString &printer) const;
     void takePpd(const QString &path);
+    void takePpdProblem(const QString &why);
     void beginWithoutPpd(const QString &why);
     void beginWhenComplete();
     void begin();

@@ -588,6 +588,8 @@ bool PrintDialog::endsInConflict()
 
 void PrintDialog::print()
 {
+    if (m_finished)
+        return; // by a signal, while the press was asking something
     const QString notPrinted = tr("“%1” was not printed").arg(m_session->title());
     if (!m_session->hasQueue() && !m_options.line.toFolder) {
         refusePrint(ExitStatus::NoDestination, notPrinted,
@@ -727,9 +729,9 @@ void PrintDialog::end(ExitStatus status)
     m_look.stop();
     m_grace.stop();
     m_firstFrame.stop();
-    // A panel that is asking the user something is not ended below its own hands, but
-    // with this window.
-    if (!QApplication::activeModalWidget())
+    // A panel that is asking the user something, or shows a menu, is not ended below its
+    // own hands, but with this window.
+    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget())
         m_session->stop();
     hide();
     emit ended(status);

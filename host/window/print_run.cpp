@@ -11,6 +11,7 @@ ExitStatus statusOfPreparation(Code code)
 {
     switch (code) {
     case Code::Refused:
+    case Code::Unsupported:
     case Code::OutOfRange:
         return ExitStatus::NotOffered;
     case Code::Cancelled:
@@ -20,14 +21,18 @@ ExitStatus statusOfPreparation(Code code)
     }
 }
 
-// While it is sent: what is wrong is on the way.
+// While it is sent: what is wrong is on the way, but for what the queue turns out
+// not to do.
 ExitStatus statusOfDelivery(Code code)
 {
     switch (code) {
     case Code::NotFound:
     case Code::Unreachable:
     case Code::TimedOut:
+    case Code::Damaged: // the PPD that the server has for it
         return ExitStatus::NoDestination;
+    case Code::Unsupported:
+        return ExitStatus::NotOffered;
     case Code::Cancelled:
         return ExitStatus::Cancelled;
     default:
@@ -71,9 +76,20 @@ PrintRun::~PrintRun()
 
 void PrintRun::start(Order order)
 {
-    m_task.start([order = std::make_shared<Order>(std::move(order)),
-                  cancelled = m_cancelled] { return carryOut(*order, *cancelled); },
-                 [this](const PrintOutcome &outcome) { emit finished(outcome); });
+    const bool isStarted =
+        m_task.start([order = std::make_shared<Order>(std::move(order)),
+                      cancelled = m_cancelled] { return carryOut(*order, *cancelled); },
+                     [this](const PrintOutcome &outcome) { emit finished(outcome); });
+    if (isStarted)
+        return;
+    // Never from within this call: whoever calls has not yet shown that it prints.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            emit finished(
+                {ExitStatus::Failed, {}, tr("Nothing was sent: %1.").arg(noThreadReason()), {}});
+        },
+        Qt::QueuedConnection);
 }
 
 void PrintRun::cancel()

@@ -110,6 +110,7 @@ private slots:
     void refusesBrokenInputs();
     void waitsForADeadServerOnlySoLong_data();
     void waitsForADeadServerOnlySoLong();
+    void printsPlainlyOnlyWhereThereIsNoPpd();
     void endsOnAnInterrupt();
     void keepsWhatStandsInTheFolder_data();
     void keepsWhatStandsInTheFolder();
@@ -118,6 +119,8 @@ private slots:
     void refusesAPpdThatWasCutOff();
     void printsWhatIsNamedOnTheSampleDevice();
     void tellsOfAnOutputThatIsFull();
+    void endsWhereThereAreNoThreads();
+    void hearsShortcutsAfterASetUp();
     void keepsPresets();
     void keepsNoDefaultsInPresets();
     void leavesEachQueueItsOwnDefaults_data();
@@ -139,6 +142,7 @@ void TestStories::initTestCase()
     QCOMPARE(m_cups.start(), QString());
     QCOMPARE(m_cups.addQueue(QStringLiteral("Hall-3"), fullPpd), QString());
     QCOMPARE(m_cups.addQueue(QStringLiteral("No-Ticket"), testPpds + "no-ticket.ppd"), QString());
+    QCOMPARE(m_cups.addQueue(QStringLiteral("Raw"), {}), QString());
 }
 
 void TestStories::printsTheBundledDeviceIntoAFolder()
@@ -618,6 +622,30 @@ void TestStories::waitsForADeadServerOnlySoLong()
     }
 }
 
+void TestStories::printsPlainlyOnlyWhereThereIsNoPpd()
+{
+    Desk desk;
+    const QStringList arguments{"-d", "Hall-3", "--no-window", documentPath};
+    const std::size_t before = m_cups.jobs(0).size();
+    for (const qint64 place : {21, 200, 30'000}) { // in the head of the answer, and in the PPD
+        const UnreliableServer server(UnreliableServer::Trouble::CutsPpds, m_cups.port(), place);
+        desk.set("CUPS_SERVER", server.address());
+        const Run run = desk.run(arguments);
+        QENDED(run, 4);
+        QVERIFY2(run.err.contains("Hall-3") && run.err.contains("broke off"), qPrintable(run.err));
+    }
+    desk.set("CUPS_SERVER", m_cups.server());
+    QVERIFY(m_cups.damagePpd("Hall-3", contents(fullPpd).left(20'000)));
+    const Run damaged = desk.run(arguments);
+    QVERIFY(m_cups.damagePpd("Hall-3", contents(fullPpd)));
+    QENDED(damaged, 4);
+    QVERIFY2(damaged.err.contains("damaged"), qPrintable(damaged.err));
+    QCOMPARE(m_cups.jobs(0).size(), before);
+
+    QENDED(desk.run({"-d", "Raw", "--no-window", documentPath}), 0);
+    QCOMPARE(m_cups.jobs(static_cast<int>(before) + 1).size(), before + 1);
+}
+
 void TestStories::endsOnAnInterrupt()
 {
     // The dialog is up while the server is still silent, and goes when it is told.
@@ -783,6 +811,38 @@ void TestStories::tellsOfAnOutputThatIsFull()
                  QStringList{"kelvo-print: standard output cannot be written; what was done "
                              "before stays done"});
     }
+    QVERIFY(QFile::exists(desk.path("out/document.pdf")));
+}
+
+// Not in terminate(), and not waiting for threads that never came.
+void TestStories::endsWhereThereAreNoThreads()
+{
+    for (const int most : {1, 4}) { // processes of this user, of which there are some already
+        Desk desk;
+        desk.atStart([most] {
+            rlimit limit = {};
+            ::getrlimit(RLIMIT_NPROC, &limit);
+            limit.rlim_cur = static_cast<rlim_t>(most);
+            ::setrlimit(RLIMIT_NPROC, &limit);
+        });
+        const Run print = desk.run({"--demo", "--no-window", "--to", "out"});
+        QENDED(print, 1);
+        QVERIFY2(print.messages().size() == 1 && print.err.contains("ulimit -u"),
+                 qPrintable(print.err));
+        QVERIFY(!QFile::exists(desk.path("out")));
+    }
+}
+
+void TestStories::hearsShortcutsAfterASetUp()
+{
+    const Desk desk;
+    write(desk.path("keys.kps"),
+          "choose @jobType key SecurePrint\n"
+          "type @passcode \"4815\"\n"
+          "type @confirmPasscode \"4815\"\n"
+          "click @okButton\n"
+          "key Ctrl+P\n");
+    QENDED(desk.run({"--demo", "--no-window", "--to", "out", "--script", "keys.kps"}), 0);
     QVERIFY(QFile::exists(desk.path("out/document.pdf")));
 }
 

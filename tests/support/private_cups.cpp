@@ -180,6 +180,13 @@ QString PrivateCups::addQueue(const QString &name, const QString &ppdPath,
     return administer(arguments + options);
 }
 
+bool PrivateCups::damagePpd(const QString &queue, const QByteArray &bytes) const
+{
+    QFile file(m_folder.filePath(QStringLiteral("etc/ppd/%1.ppd").arg(queue)));
+    return file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Truncate)
+        && file.write(bytes) == bytes.size();
+}
+
 std::list<PrivateCups::Job> PrivateCups::jobs(int count)
 {
     QDir received(m_folder.filePath(QStringLiteral("received")));

@@ -30,6 +30,8 @@ public:
     // A queue with the PPD at `ppdPath`, none (raw) where that is empty.
     // `options` are further arguments for lpadmin. Empty, or what went wrong.
     QString addQueue(const QString &name, const QString &ppdPath, const QStringList &options = {});
+    // What stands in the place of that queue's PPD from now on, past lpadmin's checks.
+    bool damagePpd(const QString &queue, const QByteArray &bytes) const;
     // lpadmin with any arguments.
     QString administer(const QStringList &arguments);
 

@@ -42,6 +42,7 @@ struct Link
     bool isMute = false; // what the server says is dropped
     qint64 passedOn = 0; // bytes of the client
     QByteArray tail;     // the client's last bytes
+    qint64 ppdLeft = -1; // bytes of a PPD's answer before the end; -1: none was asked for
 };
 
 // What is there to read from `from`, at most `limit` bytes, to `to` (-1: nowhere).
@@ -104,10 +105,21 @@ void UnreliableServer::serve()
             : std::string::npos;
         const QByteArray bytes = pass(link.client, link.server, limit);
         link.passedOn += bytes.size();
+        if (m_trouble == Trouble::CutsPpds && !link.isReliable && bytes.startsWith("GET ")
+            && bytes.left(bytes.indexOf('\r')).contains(".ppd "))
+            link.ppdLeft = m_after;
         link.tail = (link.tail + bytes).right(7);
         if (m_trouble == Trouble::LosesAnswers && link.tail == "\r\n0\r\n\r\n")
             link.isMute = !link.isReliable;
         return !bytes.isEmpty();
+    };
+    const auto answer = [](Link &link) { // false when the server has gone, or is cut off
+        const bool isCut = link.ppdLeft >= 0;
+        const QByteArray bytes =
+            pass(link.server, link.isMute ? -1 : link.client,
+                 isCut ? static_cast<std::size_t>(link.ppdLeft) : std::string::npos);
+        link.ppdLeft -= isCut ? bytes.size() : 0;
+        return !bytes.isEmpty() && link.ppdLeft != 0;
     };
     while (!m_isOver) {
         std::vector<pollfd> sockets{{m_socket, POLLIN, 0}};
@@ -122,8 +134,7 @@ void UnreliableServer::serve()
             if (sockets[at].revents != 0)
                 isUp = hear(*link);
             if (isUp && sockets[at + 1].revents != 0)
-                isUp = !pass(link->server, link->isMute ? -1 : link->client, std::string::npos)
-                            .isEmpty();
+                isUp = answer(*link);
             if (isUp) {
                 ++link;
                 continue;

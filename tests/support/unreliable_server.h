@@ -14,6 +14,7 @@ public:
         NeverAnswers, // reads, and that is all
         Stalls,       // passes `after` bytes of a client on, and then reads no more
         LosesAnswers, // passes on a document sent in chunks, but not what is answered to it
+        CutsPpds,     // passes on `after` bytes of each PPD's answer, head and all, and hangs up
     };
 
     // `port` is the real server's; 0 where there is none.

@@ -5,6 +5,7 @@
 #include "unreliable_server.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -26,6 +27,7 @@ private slots:
     void failWhereThereIsNone();
     void timeOutWhereNothingIsAnswered();
     void keepNobodyWaitingAtTheEnd();
+    void giveOnlyWholePpds();
     void giveUpAHalfSentJob_data();
     void giveUpAHalfSentJob();
     void sayThatAJobMayHaveBeenAccepted();
@@ -144,6 +146,34 @@ void TestDeadServers::keepNobodyWaitingAtTheEnd()
     QVERIFY(!delivered);
     QCOMPARE(delivered.error().code, Code::Cancelled);
     QVERIFY(timer.elapsed() < promptly);
+}
+
+// Wherever its answer ends, a PPD that was cut off is not "there is none".
+void TestDeadServers::giveOnlyWholePpds()
+{
+    const auto fetch = [this](const QString &server) {
+        use(server);
+        PrinterDirectory directory;
+        QSignalSpy failed(&directory, &PrinterDirectory::ppdFailed);
+        QSignalSpy fetched(&directory, &PrinterDirectory::ppdFetched);
+        directory.fetchPpd("Office", 10000);
+        while (failed.isEmpty() && fetched.isEmpty())
+            QTest::qWait(1);
+        return failed.isEmpty() ? std::optional<Error>() : failed.first().at(1).value<Error>();
+    };
+    const qint64 whole = QFileInfo(QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd")).size();
+    QList<qint64> places{0, 1, whole - 1, whole};
+    for (qint64 place = 8; place < 700; place += 13) // the head of the answer, and beyond
+        places << place;
+    for (const qint64 place : places) {
+        const UnreliableServer server(Trouble::CutsPpds, m_cups.port(), place);
+        const auto error = fetch(server.address());
+        QVERIFY2(error && error->code == Code::Unreachable,
+                 qPrintable(QStringLiteral("cut after %1: %2")
+                                .arg(place)
+                                .arg(error ? error->text() : QStringLiteral("taken as whole"))));
+    }
+    QVERIFY(!fetch(m_cups.server()));
 }
 
 void TestDeadServers::giveUpAHalfSentJob_data()

@@ -183,7 +183,7 @@ void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
     const auto job = prepareJob(wanted);
     QCOMPARE(!job, isRefused);
     if (!job) {
-        QCOMPARE(job.error().code, Code::Refused);
+        QCOMPARE(job.error().code, Code::Unsupported);
         QVERIFY(job.error().detail.contains("KelvoTicket"));
     } else if (ppd != reads) {
         QVERIFY(optionOf(job.value(), "kelvo-ticket").isEmpty());

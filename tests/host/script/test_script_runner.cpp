@@ -216,6 +216,10 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
     row("print that did not go out", "print", ExitStatus::NotOffered, false,
         "settings in conflict");
     row("modal dialog left open", "click @setup", ExitStatus::WrongUsage);
+    row("panels that read behind a modal dialog", "click @setup\nsync read\nclick @okButton",
+        ExitStatus::WrongUsage);
+    row("another tab behind a modal dialog", "click @setup\ntab 4\nclick @okButton",
+        ExitStatus::WrongUsage);
     row("the window's name", "expect-window @printDialog\nexpect-window \"Print\"",
         ExitStatus::Printed);
     row("no secret of that name", "type @passcode secret pi", ExitStatus::WrongUsage);

@@ -1,6 +1,7 @@
 #include "test_panels.h"
 
 #include "bundle.h"
+#include "file_store.h"
 #include "inspector.h"
 #include "modal_dialog.h"
 #include "notice.h"
@@ -56,6 +57,8 @@ private slots:
     void theWindowDoesNotWaitForAServer();
     void aServerThatComesBackIsFound();
     void anUnknownPrinterIsToldWithTheNearest();
+    void settingsThatCannotBeReadAreNotNone();
+    void aRefusalHasOneStatusWhereverItIsFound();
     void settingsComeBackWithTheirPrinter();
     void aPrinterChosenAgainBeginsOnce();
 
@@ -675,6 +678,77 @@ void TestPrintDialog::anUnknownPrinterIsToldWithTheNearest()
 
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(shown.find<QPushButton>("print")->isEnabled());
+}
+
+// A queue whose PPD is damaged would print without a single setting, and not a word.
+void TestPrintDialog::settingsThatCannotBeReadAreNotNone()
+{
+    PrivateCups cups;
+    const QString ppd = shared("ppds/kelvo-corvane-full.ppd");
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", ppd), QString());
+    const QByteArray whole = readFile(ppd, 1'000'000).value();
+    auto begin = options();
+    begin.device.reset();
+    begin.line.destination = "Hall-3";
+    for (const QByteArray &damaged : {QByteArray(), whole.left(20'000), QByteArray("*PPD")}) {
+        QVERIFY(cups.damagePpd("Hall-3", damaged));
+        Shown shown(begin);
+        QVERIFY(shown.waitUntilIdle());
+        QVERIFY2(shown.text("waitingHeader").contains("cannot be read"),
+                 qPrintable(shown.text("waitingHeader")));
+        QVERIFY(!shown.find<QPushButton>("print")->isEnabled());
+        shown.dialog.pressPrint();
+        QCOMPARE(shown.dialog.lastPrintStatus(), ExitStatus::NoDestination);
+        QVERIFY(shown.isShown("retry"));
+
+        QVERIFY(cups.damagePpd("Hall-3", whole));
+        shown.find<QPushButton>("retry")->click();
+        QVERIFY(shown.waitUntilIdle());
+        QVERIFY(shown.find<QPushButton>("print")->isEnabled());
+        QVERIFY(shown.find<QLineEdit>("PDEShellField"));
+    }
+}
+
+// The PPD that the job was made for, and the one that the server has when it is sent.
+void TestPrintDialog::aRefusalHasOneStatusWhereverItIsFound()
+{
+    PrivateCups cups;
+    const QString reads = shared("ppds/kelvo-corvane-full.ppd");
+    const QByteArray readsNot = readFile(testPpd("no-ticket.ppd"), 1'000'000).value();
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", reads), QString());
+    QCOMPARE(cups.addQueue("Office", testPpd("no-ticket.ppd")), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.bundle = m_bundle;
+    begin.line.toFolder.reset();
+    begin.ticketIn = TicketFile();
+    begin.ticketIn->printSettings.entries["com.kelvo.print.JobType"] = {
+        Dictionary{{"JobType", 6}, {"SecurePrintPassword", "4815"}}, "com.kelvo.printingmanager"};
+    struct Row
+    {
+        QString queue;
+        QByteArray later; // the PPD on the server at Print; empty: as before
+        ExitStatus status;
+        QString says;
+    };
+    for (const Row &row : {Row{"Office", {}, ExitStatus::NotOffered, "*KelvoTicket"},
+                           Row{"Hall-3", readsNot, ExitStatus::NotOffered, "*KelvoTicket"},
+                           Row{"Hall-3", "*PPD", ExitStatus::NoDestination, "damaged"}}) {
+        QVERIFY(cups.damagePpd("Hall-3", readFile(reads, 1'000'000).value()));
+        begin.line.destination = row.queue;
+        Shown shown(begin);
+        QVERIFY(shown.waitUntilIdle());
+        if (!row.later.isEmpty())
+            QVERIFY(cups.damagePpd(row.queue, row.later));
+        shown.dialog.pressPrint();
+        QVERIFY(QTest::qWaitFor([&] { return !shown.dialog.isPrinting(); }, 15000));
+        const QString problem = shown.dialog.lastPrintProblem();
+        QVERIFY2(problem.contains(row.says), qPrintable(problem));
+        QCOMPARE(shown.dialog.lastPrintStatus(), row.status);
+    }
+    QCOMPARE(cups.jobs(0).size(), 0U);
 }
 
 void TestPrintDialog::settingsComeBackWithTheirPrinter()
