@@ -87,7 +87,7 @@ void PrintRun::start(Order order)
         this,
         [this] {
             emit finished(
-                {ExitStatus::Failed, {}, tr("Nothing was sent: %1.").arg(noThreadReason()), {}});
+                {ExitStatus::Failed, {}, tr("Nothing was sent: %1.").arg(noThreadReason())});
         },
         Qt::QueuedConnection);
 }
