@@ -44,8 +44,8 @@ Result<QByteArray> readResource(http_t *http, const QString &resource, const QSt
         status = httpUpdate(http);
     if (patience.isOver())
         return serverError(patience, where);
-    // The state for the body is that of a whole header. A connection that ends in the
-    // middle of one leaves the status of its first line, and no body to be read.
+    // The state turns to the body's only when the head is whole. A connection that ends
+    // in the middle of it leaves the status of its first line, and no body to be read.
     if (status != HTTP_STATUS_ERROR && httpGetState(http) != HTTP_STATE_GET_SEND)
         return brokenOff(where);
     if (status == HTTP_STATUS_NOT_FOUND) {
