@@ -2,6 +2,7 @@
 
 #include "caution_colours.h"
 #include "notice_sign.h"
+#include "tool_tip.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -68,7 +69,7 @@ void ConflictBar::setReport(const ConflictReport &report, const QStringList &mis
     const QString fixes = m_report.fixWords.size() == 1
         ? tr("Fix: %1").arg(m_report.fixWords.front())
         : tr("Changes the settings so that they can be used together");
-    m_fix->setToolTip(fixes.toHtmlEscaped());
+    m_fix->setToolTip(plainToolTip(fixes));
     m_fix->setAccessibleDescription(fixes);
     m_hide->setVisible(tellsMissing);
     if (isConflict) {
@@ -93,7 +94,7 @@ void ConflictBar::elide()
     // Lines end at words: of each some room stays empty.
     const int room = m_label->width() * mostLines * 4 / 5;
     m_label->setText(fontMetrics().elidedText(m_text, Qt::ElideRight, room));
-    m_label->setToolTip(m_label->text() == m_text ? QString() : m_text.toHtmlEscaped());
+    m_label->setToolTip(m_label->text() == m_text ? QString() : plainToolTip(m_text));
 }
 
 void ConflictBar::resizeEvent(QResizeEvent *event)

@@ -16,6 +16,7 @@
 #include "sheet_sequence.h"
 #include "spin_field.h"
 #include "terminal.h"
+#include "tool_tip.h"
 #include "waiting_pane.h"
 #include "window_columns.h"
 
@@ -422,7 +423,7 @@ void PrintDialog::updateFoot()
         }
     }
     m_foot->setText(text);
-    m_foot->setToolTip(text.toHtmlEscaped());
+    m_foot->setToolTip(plainToolTip(text));
 }
 
 // ---- panels and settings

@@ -4,6 +4,7 @@
 #include "popup_button.h"
 #include "preset_menu.h"
 #include "spin_field.h"
+#include "tool_tip.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -59,9 +60,7 @@ QString toolTipFor(const Printer &printer)
         if (!text.isEmpty())
             lines.append(text);
     }
-    // As text: names and places come from the server.
-    return QStringLiteral("<qt>%1</qt>")
-        .arg(lines.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    return plainToolTip(lines.join(u'\n'));
 }
 
 } // namespace
