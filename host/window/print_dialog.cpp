@@ -64,7 +64,6 @@ constexpr int firstFrameMs = 300;
 constexpr int interruptMs = 5000;
 constexpr int activationWaitMs = 1000; // a window manager takes less
 
-constexpr ControlID shellSelector = {kShellSignature, 16};
 constexpr OSType kNextTab = fourCharCode("KFup");
 constexpr OSType kPreviousTab = fourCharCode("KFdn");
 
@@ -98,6 +97,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     : m_options(options)
     , m_columns(new WindowColumns(this))
     , m_switch(new PanelSwitch(m_columns->right()))
+    , m_places(this, m_switch)
     , m_scroll(new PaneScroll(m_columns->right()))
     , m_stack(new QStackedWidget)
     , m_waiting(new WaitingPane(m_stack))
@@ -154,6 +154,8 @@ PrintDialog::PrintDialog(DialogOptions options)
 
     connect(m_printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
         commitTypedValues(this);
+        if (const Extension *panels = m_session->panels())
+            m_place = m_places.current(*panels);
         m_session->choosePrinter(name);
         m_printer->setPrinters(m_session->printers(), m_session->printerName());
     });
@@ -307,6 +309,8 @@ void PrintDialog::takeStage()
     m_sinceReady.start();
     m_waiting->setMessage(m_session->message());
     m_stack->setCurrentWidget(panels ? m_panes : m_waiting);
+    if (panels)
+        m_places.goTo(m_place, *panels);
     {
         const QSignalBlocker silence(m_switch);
         QStringList titles;
@@ -848,29 +852,7 @@ Result<void> PrintDialog::showPanel(const QString &name)
     if (!panels)
         return Error{Error::Code::NotFound, name, tr("there are no panels")};
     m_columns->showRight();
-    QStringList names;
-    for (std::size_t i = 0; i < panels->panels().size(); ++i) {
-        if (panels->panels()[i].name == name) {
-            m_switch->setCurrentIndex(int(i));
-            return {};
-        }
-        names.append(panels->panels()[i].name);
-    }
-    // The shell names its own panes in the same way.
-    const auto panes = panels->panels().front().pane->findChildren<QWidget *>();
-    for (const QWidget *pane : panes) {
-        const auto id = controlIDOf(pane);
-        if (!id || id->signature != kUserPaneSignature)
-            continue;
-        if (pane->objectName() == name) {
-            m_switch->setCurrentIndex(0);
-            return showTab(id->number);
-        }
-        names.append(pane->objectName());
-    }
-    return Error{
-        Error::Code::NotFound, name,
-        tr("there is no such panel here; there are: %1").arg(names.join(QStringLiteral(", ")))};
+    return m_places.showPanel(*panels, name);
 }
 
 Result<void> PrintDialog::showTab(int tab)
@@ -879,49 +861,15 @@ Result<void> PrintDialog::showTab(int tab)
         return Error{Error::Code::Unreachable, m_session->message().header,
                      m_session->message().text};
     m_columns->showRight();
-    m_switch->setCurrentIndex(0);
-    auto *selector = findControl<PopupButton>(this, shellSelector);
-    if (!selector)
-        return Error{Error::Code::NotFound, QString::number(tab), tr("there are no tabs")};
-    // A tab keeps its number where others are not there.
-    const auto &items = selector->menu().items;
-    QStringList tabs;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (items[i].reference != tab) {
-            tabs.append(QStringLiteral("%1 (%2)").arg(items[i].reference).arg(items[i].text));
-            continue;
-        }
-        const int row = int(i) + 1;
-        if (selector->value() != row && !selector->choose(row))
-            return Error{Error::Code::Refused, QString::number(tab),
-                         tr("the tab cannot be chosen")};
-        return {};
-    }
-    return Error{
-        Error::Code::OutOfRange, QString::number(tab),
-        tr("there is no such tab here; there are: %1").arg(tabs.join(QStringLiteral(", ")))};
+    return m_places.showTab(tab);
 }
 
 QString PrintDialog::placeOf(const QWidget *control) const
 {
     if (m_columns->left()->isAncestorOf(control))
         return tr("the left column");
-    Extension *panels = m_session->panels();
-    if (!panels)
-        return {};
-    for (std::size_t i = 0; i < panels->panels().size(); ++i) {
-        const Extension::Panel &panel = panels->panels()[i];
-        if (!panel.pane->isAncestorOf(control))
-            continue;
-        for (const QWidget *widget = control; widget != panel.pane;
-             widget = widget->parentWidget()) {
-            const auto id = controlIDOf(widget);
-            if (id && id->signature == kUserPaneSignature)
-                return tr("tab %1, %2").arg(id->number).arg(widget->objectName());
-        }
-        return tr("panel %1").arg(panel.name);
-    }
-    return {};
+    const Extension *panels = m_session->panels();
+    return panels ? PanelPlaces::placeOf(control, *panels) : QString();
 }
 
 void PrintDialog::sync(SyncDirection direction)

@@ -3,6 +3,7 @@
 #include "dialog_session.h"
 #include "event.h"
 #include "job_words.h"
+#include "panel_places.h"
 #include "print_run.h"
 #include "script_target.h"
 
@@ -121,6 +122,7 @@ private:
     DialogOptions m_options;
     WindowColumns *m_columns;
     PanelSwitch *m_switch;
+    PanelPlaces m_places;
     PaneScroll *m_scroll;
     QStackedWidget *m_stack; // the waiting pane, or the panels
     WaitingPane *m_waiting;
@@ -146,6 +148,7 @@ private:
     QElapsedTimer m_sinceReady; // for the printer, or known not to be
     QMap<QString, QString> m_secrets;
 
+    PanelPlaces::Place m_place; // among the panels that were shown last
     std::unique_ptr<PrintRun> m_run;
     ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
     QString m_printProblem;

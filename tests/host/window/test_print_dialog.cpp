@@ -21,6 +21,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTabBar>
 #include <QTest>
 
 #include <algorithm>
@@ -61,6 +62,7 @@ private slots:
     void aRefusalHasOneStatusWhereverItIsFound();
     void settingsComeBackWithTheirPrinter();
     void aPrinterChosenAgainBeginsOnce();
+    void thePanelStaysWhenThePrinterChanges();
 
     void theFirstKeyIsHeard();
     void returnPrintsOnlyFromThePrintButton();
@@ -821,6 +823,40 @@ void TestPrintDialog::aPrinterChosenAgainBeginsOnce()
     QVERIFY(shown.find<QPushButton>("print")->isEnabled());
     QCOMPARE(m_panels->calls.count("PDEShell prologue"), 1);
     QCOMPARE(m_panels->calls.count("PDEShell terminate"), 1);
+}
+
+void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
+    QCOMPARE(cups.addQueue("Raw", {}), QString());
+    auto begin = options();
+    begin.bundle = m_bundle;
+    begin.device.reset();
+    begin.line.destination = "Full";
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    const auto place = [&shown] {
+        const auto *tabs = findControl<PopupButton>(&shown.dialog, {kShellSignature, 16});
+        const auto *panels = shown.find<QTabBar>("panelSwitch");
+        return QStringLiteral("%1, %2").arg(panels->tabText(panels->currentIndex()),
+                                            tabs->currentText());
+    };
+    QVERIFY(shown.dialog.showTab(2));
+    QVERIFY(shown.dialog.showPanel("SpecialPages"));
+    const QString before = place();
+    QCOMPARE(before, "Special Pages, Image Options");
+
+    // Also by way of a printer that has no panels.
+    for (const char *printer : {"Bare", "Raw", "Full"}) {
+        QVERIFY(shown.choose("printer", printer));
+        QVERIFY(shown.waitUntilIdle());
+        if (shown.isShown("panelSwitch"))
+            QCOMPARE(place(), before);
+    }
+    QVERIFY(shown.find<QWidget>("specialPagesList")->isVisible());
 }
 
 // ---- keyboard and looks
