@@ -192,9 +192,8 @@ QString JobWords::asText() const
         const char *heading;
         const QStringList &lines;
     } parts[] = {
-        {"Settings", settings},
-        {"Not sent", notSent},
-        {"As the printer has it", defaults},
+        {"Cautions", cautions}, {"Settings", settings},
+        {"Not sent", notSent},  {"As the printer has it", defaults},
         {"Ticket", ticket},
     };
     QString text;

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int rim = 10; // logical pixels around the sheet: its shadow and the focus ring
 constexpr int shadowSteps = 6;
-constexpr int wheelNotch = 120;     // as Qt counts a wheel's turn
+constexpr int wheelNotch = 120; // as Qt counts a wheel's turn
 
 // The sheet and what lies on it.
 class SheetView : public QWidget
@@ -201,8 +201,7 @@ private:
     {
         // The sheet has come to whole pixels; where it is small, that would be much of
         // a page around it.
-        const double scale =
-            shown.isCut() ? scaleFor(shown) : sheet.width() / shown.sheet.width();
+        const double scale = shown.isCut() ? scaleFor(shown) : sheet.width() / shown.sheet.width();
         QRectF page(QPointF(), shown.page.size() * scale);
         page.moveCenter(sheet.center());
         return page;

@@ -1,6 +1,6 @@
 #include "print_dialog.h"
 
-#include "conflict_bar.h"
+#include "caution_bar.h"
 #include "document_preview.h"
 #include "focus_regions.h"
 #include "help_window.h"
@@ -63,6 +63,8 @@ constexpr int firstFrameMs = 300;
 // So long an interrupted job may still tell what became of it.
 constexpr int interruptMs = 5000;
 constexpr int activationWaitMs = 1000; // a window manager takes less
+// So often a window looks whether its printer goes on.
+constexpr int watchMs = 5000;
 
 constexpr OSType kNextTab = fourCharCode("KFup");
 constexpr OSType kPreviousTab = fourCharCode("KFdn");
@@ -103,10 +105,11 @@ PrintDialog::PrintDialog(DialogOptions options)
     , m_waiting(new WaitingPane(m_stack))
     , m_panes(new QWidget(m_stack))
     , m_session(std::make_unique<DialogSession>(std::move(options), m_panes))
+    , m_cautions(*m_session, m_session->hasQueue() && !m_options.line.toFolder)
     , m_presets(new PresetMenu(*m_session, m_options.line.preset.value_or(QString())))
     , m_printer(new PrinterPane(m_presets, m_columns->left()))
     , m_preview(new DocumentPreview(m_columns->left()))
-    , m_conflictBar(new ConflictBar(this))
+    , m_cautionBar(new CautionBar(this))
     , m_foot(new QLabel(this))
     , m_progress(new QProgressBar(this))
     , m_details(button("whatWillBeSent", tr("&What Will Be Sent…"), this))
@@ -131,6 +134,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_firstFrame.setSingleShot(true);
     m_firstFrame.setInterval(firstFrameMs);
     connect(&m_firstFrame, &QTimer::timeout, this, [this] { m_session->openTheDocument(); });
+    m_watch.setInterval(watchMs);
+    connect(&m_watch, &QTimer::timeout, m_session.get(), &DialogSession::lookAtPrinter);
     watchEvents([this](const Event &) {
         if (m_session->stage() == DialogSession::Stage::Ready)
             m_look.start();
@@ -142,6 +147,10 @@ PrintDialog::PrintDialog(DialogOptions options)
         else
             m_printer->setDevice(m_session->printerName());
         giveFirstFocus();
+    });
+    connect(m_session.get(), &DialogSession::conditionChanged, this, [this] {
+        m_printer->setPrinters(m_session->printers(), m_session->printerName());
+        m_look.start();
     });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
@@ -162,7 +171,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
     connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
-    connect(m_conflictBar, &ConflictBar::fixRequested, this, &PrintDialog::fixConflicts);
+    connect(m_cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_details, &QPushButton::clicked, this, &PrintDialog::showDetails);
     connect(m_help, &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
@@ -232,7 +241,7 @@ void PrintDialog::buildWindow()
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(gap);
     layout->addWidget(m_columns, 1);
-    layout->addWidget(m_conflictBar);
+    layout->addWidget(m_cautionBar);
     layout->addLayout(footRow);
     layout->addLayout(buttonRow);
 }
@@ -324,7 +333,7 @@ void PrintDialog::takeStage()
     }
     m_printer->setSettingsEnabled(isReady);
     if (!isReady)
-        m_conflictBar->setReport({}, {});
+        m_cautionBar->setContents({}, {});
     fitToPanels();
     m_columns->arrange();
     arrangeTabOrder();
@@ -346,6 +355,9 @@ void PrintDialog::takeDocument()
                                   ? tr("Opening %1…").arg(m_session->title())
                                   : m_session->documentProblem());
     }
+    // Its pages may be too large; the first look may still be to come.
+    if (m_hasLooked)
+        m_look.start();
     updatePreview();
     updatePrintButton();
     updateFoot();
@@ -353,6 +365,7 @@ void PrintDialog::takeDocument()
 
 void PrintDialog::takeSettings()
 {
+    m_cautions.forget();
     m_printer->dropTypedText();
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
     if (!m_hasLooked) {
@@ -459,7 +472,10 @@ void PrintDialog::lookAtSettings()
         || QApplication::activeModalWidget())
         return;
     m_session->writeAll();
-    m_conflictBar->setReport(m_session->conflicts(), m_session->missing());
+    findCautions();
+    if (m_isDriven)
+        m_cautions.sayWhatHappened();
+    m_cautionBar->setContents(m_session->conflicts(), m_cautions.all());
     showWhatFollows();
 }
 
@@ -472,6 +488,12 @@ void PrintDialog::showWhatFollows()
     updatePreview();
     updateFoot();
     updatePrintButton();
+}
+
+void PrintDialog::findCautions()
+{
+    const Extension *panels = m_session->panels();
+    m_cautions.look(panels ? m_places.current(*panels).text() : QString());
 }
 
 void PrintDialog::fixConflicts()
@@ -492,6 +514,11 @@ JobWords PrintDialog::words()
                     m_session->secretKeys(), m_session->entryWords(), m_session->missing());
     if (Extension *panels = m_session->panels())
         words.settings += panels->summary();
+    findCautions();
+    const ConflictReport conflicts = m_session->conflicts();
+    for (const Conflict &conflict : conflicts.conflicts)
+        words.cautions << conflict.sentence;
+    words.cautions += m_cautions.inWords();
     return words;
 }
 
@@ -525,7 +552,10 @@ QString PrintDialog::findReasonNotToPrint() const
         return tr("The document is not open yet.");
     if (m_session->document().isNull())
         return m_session->documentProblem();
-    return {};
+    // That nobody has named this printer is told first.
+    const bool isNamed = !m_isDriven || !m_session->isPrinterAssumed();
+    const Caution *refused = isNamed ? m_cautions.find(Caution::Weight::Refused) : nullptr;
+    return refused ? refused->sentences() : QString();
 }
 
 QString PrintDialog::findPagesProblem() const
@@ -591,6 +621,28 @@ bool PrintDialog::endsInConflict()
     return true;
 }
 
+// What the user would want to know before, not after. A driven run is told, and goes on.
+bool PrintDialog::isHeldBack()
+{
+    findCautions();
+    if (const Caution *refused = m_cautions.find(Caution::Weight::Refused)) {
+        refusePrint(ExitStatus::Failed, refused->text, refused->advice);
+        return true;
+    }
+    if (m_isDriven) {
+        m_cautions.sayAll();
+        return false;
+    }
+    const Caution *asked = m_cautions.find(Caution::Weight::Asked);
+    if (!asked)
+        return false;
+    const int answer =
+        CFUserNotificationDisplayAlert(NoticeLevel::Caution, asked->text, asked->advice,
+                                       {tr("Print Anyway"), tr("Cancel")}, this);
+    m_look.start(); // what came meanwhile
+    return answer != 1;
+}
+
 void PrintDialog::print()
 {
     if (m_finished)
@@ -615,7 +667,7 @@ void PrintDialog::print()
         refusePrint(ExitStatus::WrongUsage, notPrinted, tr("Pages: %1").arg(problem));
         return;
     }
-    if (endsInConflict())
+    if (endsInConflict() || isHeldBack())
         return;
     if (const auto written = writeSettingsOut(); !written) {
         refusePrint(ExitStatus::Failed, notPrinted,
@@ -643,7 +695,7 @@ void PrintDialog::print()
 
     m_look.stop();
     m_columns->setEnabled(false);
-    m_conflictBar->setEnabled(false);
+    m_cautionBar->setEnabled(false);
     m_progress->show();
     updatePrintButton();
     updateFoot();
@@ -654,7 +706,7 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
 {
     m_run.release()->deleteLater();
     m_columns->setEnabled(true);
-    m_conflictBar->setEnabled(true);
+    m_cautionBar->setEnabled(true);
     m_progress->hide();
     updatePrintButton();
     updateFoot();
@@ -734,6 +786,7 @@ void PrintDialog::end(ExitStatus status)
     m_look.stop();
     m_grace.stop();
     m_firstFrame.stop();
+    m_watch.stop();
     // A panel that is asking the user something, or shows a menu, is not ended below its
     // own hands, but with this window.
     if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget())
@@ -771,6 +824,8 @@ void PrintDialog::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     m_sinceShown.start();
+    if (!m_isDriven && m_session->hasQueue())
+        m_watch.start();
 }
 
 // Panels make their controls when they are first shown: later than the buttons
@@ -782,7 +837,7 @@ void PrintDialog::arrangeTabOrder()
         return;
     m_panelStops = panelStops;
     chainFocusStops(focusStopsIn(m_printer) + focusStopsIn(m_preview) + QList<QWidget *>{m_switch}
-                    + panelStops + focusStopsIn(m_conflictBar)
+                    + panelStops + focusStopsIn(m_cautionBar)
                     + QList<QWidget *>{m_columns->toggle(), m_details, m_help, m_cancel, m_print});
 }
 
@@ -802,7 +857,7 @@ void PrintDialog::giveFirstFocus()
 void PrintDialog::goToRegion(bool forward)
 {
     focusNextRegion(
-        {m_printer, m_preview, m_switch, m_scroll, m_conflictBar, m_columns->toggle(), m_print},
+        {m_printer, m_preview, m_switch, m_scroll, m_cautionBar, m_columns->toggle(), m_print},
         forward);
 }
 
@@ -825,7 +880,8 @@ bool PrintDialog::isIdle() const
         return false;
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
-            && !m_look.isActive() && !m_firstFrame.isActive());
+            && !(m_isDriven && m_session->isLookingAtPrinter()) && !m_look.isActive()
+            && !m_firstFrame.isActive());
 }
 
 // A pane has a layout from when its panel's content is put into it.

@@ -6,6 +6,7 @@
 #include "panel_places.h"
 #include "print_run.h"
 #include "script_target.h"
+#include "session_cautions.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -19,7 +20,7 @@ class QStackedWidget;
 
 namespace kelvo {
 
-class ConflictBar;
+class CautionBar;
 class DocumentPreview;
 class PaneScroll;
 class PanelSwitch;
@@ -104,6 +105,8 @@ private:
     // Print.
     void print();
     bool endsInConflict();
+    bool isHeldBack();
+    void findCautions(); // after all panels have written
     void takeOutcome(const PrintOutcome &outcome);
     void refusePrint(ExitStatus status, const QString &header, const QString &problem);
     QString findReasonNotToPrint() const;
@@ -128,10 +131,11 @@ private:
     WaitingPane *m_waiting;
     QWidget *m_panes; // parent of the device's panels
     std::unique_ptr<DialogSession> m_session;
+    SessionCautions m_cautions;
     PresetMenu *m_presets;
     PrinterPane *m_printer;
     DocumentPreview *m_preview;
-    ConflictBar *m_conflictBar;
+    CautionBar *m_cautionBar;
     QLabel *m_foot;
     QProgressBar *m_progress;
     QPushButton *m_details, *m_help, *m_cancel, *m_print;
@@ -149,6 +153,8 @@ private:
     QMap<QString, QString> m_secrets;
 
     PanelPlaces::Place m_place; // among the panels that were shown last
+    QTimer m_watch;             // asks what the printer is doing
+
     std::unique_ptr<PrintRun> m_run;
     ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
     QString m_printProblem;

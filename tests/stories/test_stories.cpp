@@ -94,6 +94,7 @@ private slots:
     void givesTheSameTicketEachTime();
     void takesDocumentsFromStandardInput();
     void printsToAQueue();
+    void saysWhyAPrinterDoesNotPrint();
     void sendsDividersToAQueue();
     void cutsPagesOnlyOnce();
     void refusesASecretThatWouldLieOpen_data();
@@ -262,6 +263,27 @@ void TestStories::printsToAQueue()
     QCOMPARE(job.options.value(ticketOption).size(), 1);
     QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).first(), "none"),
              QString());
+}
+
+void TestStories::saysWhyAPrinterDoesNotPrint()
+{
+    for (const char *queue : {"Stopped", "Closed"})
+        QCOMPARE(m_cups.addQueue(queue, fullPpd), QString());
+    QCOMPARE(m_cups.administer({"-r", "Toner is on order", "Stopped"}, "cupsdisable"), QString());
+    QCOMPARE(m_cups.administer({"-r", "Moving house", "Closed"}, "cupsreject"), QString());
+    const Desk desk;
+
+    const Run stopped = desk.run({"-d", "Stopped", "--no-window", documentPath});
+    QENDED(stopped, 0);
+    QVERIFY(stopped.out.startsWith("Stopped-"));
+    QCOMPARE(stopped.messages().size(), 1);
+    QVERIFY(stopped.messages().front().startsWith(
+        "kelvo-print: caution: “Stopped” is stopped: Toner is on order. "));
+
+    const Run closed = desk.run({"-d", "Closed", "--no-window", documentPath});
+    QENDED(closed, 1);
+    QCOMPARE(closed.out, QString());
+    QVERIFY(closed.err.contains("kelvo-print: “Closed” takes no jobs: Moving house. "));
 }
 
 void TestStories::sendsDividersToAQueue()

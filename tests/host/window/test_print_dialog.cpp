@@ -20,9 +20,10 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTabBar>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -48,6 +49,7 @@ private slots:
     void wrongPagesAreNotPrinted();
     void conflictsAreShownAndFixed();
     void conflictsAreNotPrinted();
+    void severalCautionsStandInARow();
     void theTicketIsWrittenBeforeTheJob();
     void givingUpIsCancelOrTheFailure();
     void aChangedPresetHasAStar();
@@ -63,6 +65,8 @@ private slots:
     void settingsComeBackWithTheirPrinter();
     void aPrinterChosenAgainBeginsOnce();
     void thePanelStaysWhenThePrinterChanges();
+    void aStoppedPrinterIsAskedAbout();
+    void aPrinterThatTakesNoJobsIsWaitedFor();
 
     void theFirstKeyIsHeard();
     void returnPrintsOnlyFromThePrintButton();
@@ -444,6 +448,30 @@ void TestPrintDialog::conflictsAreNotPrinted()
     QVERIFY(shown.waitUntilEnded());
     QCOMPARE(*shown.dialog.finished(), ExitStatus::Printed);
     QVERIFY(!written("options").contains("SinglePortrait"));
+}
+
+void TestPrintDialog::severalCautionsStandInARow()
+{
+    auto begin = options("kelvo-corvane-bare.ppd");
+    begin.line.options = {{"media", "A5"}};
+    begin.ticketIn = TicketFile();
+    begin.ticketIn->printSettings.ppdChoices = {{"KVPunch", "2HolePunch"}};
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    QVERIFY2(shown.text("conflictText").startsWith("Pages 1–6 are larger"),
+             qPrintable(shown.text("conflictText")));
+    QVERIFY(shown.text("cautionText2").contains("2HolePunch"));
+    QVERIFY(shown.dialog.jobInWords().startsWith("Cautions:\n  Pages 1–6 are larger"));
+
+    shown.find<QPushButton>("hideMissing")->click();
+    QVERIFY(shown.isShown("conflictText") && !shown.isShown("cautionText2"));
+    QVERIFY(shown.choose("pagesChoice", "range"));
+    QVERIFY(!inspector::type(shown.find<QWidget>("pages"), "2,4-6"));
+    QVERIFY(shown.waitUntilIdle());
+    QVERIFY(shown.text("conflictText").startsWith("Pages 2 and 4–6 are larger"));
+    NoticeAnswer details(1);
+    shown.find<QPushButton>("conflictDetails")->click();
+    QVERIFY(details.text.contains("Pages 2 and 4–6") && details.text.contains("2HolePunch"));
 }
 
 void TestPrintDialog::theTicketIsWrittenBeforeTheJob()
@@ -857,6 +885,70 @@ void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
             QCOMPARE(place(), before);
     }
     QVERIFY(shown.find<QWidget>("specialPagesList")->isVisible());
+}
+
+void TestPrintDialog::aStoppedPrinterIsAskedAbout()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.administer({"-r", "Toner & drum on order", "Hall-3"}, "cupsdisable"), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.toFolder.reset();
+    begin.line.destination = "Hall-3";
+    Shown shown(begin, false);
+    QTRY_VERIFY_WITH_TIMEOUT(shown.isShown("conflictBar")
+                                 && shown.text("conflictText").contains("Toner & drum on order"),
+                             15000);
+    // The tool tip too shows what was written, and no markup.
+    QTextDocument toolTip;
+    toolTip.setHtml(shown.find<QWidget>("printer")->toolTip());
+    QVERIFY(toolTip.toPlainText().contains("Toner & drum on order"));
+
+    NoticeAnswer cancel(2);
+    shown.dialog.pressPrint();
+    QVERIFY2(cancel.text.contains("Toner & drum on order"), qPrintable(cancel.text));
+    QVERIFY(!shown.dialog.isPrinting());
+    QVERIFY(shown.dialog.isVisible());
+    NoticeAnswer anyway(1);
+    shown.dialog.pressPrint();
+    QVERIFY(shown.waitUntilEnded());
+    QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+}
+
+void TestPrintDialog::aPrinterThatTakesNoJobsIsWaitedFor()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.administer({"-r", "Closed for inventory", "Hall-3"}, "cupsreject"), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.toFolder.reset();
+    begin.line.destination = "Hall-3";
+    {
+        Shown driven(begin);
+        QVERIFY(driven.waitUntilIdle());
+        driven.dialog.pressPrint();
+        QCOMPARE(driven.dialog.lastPrintStatus(), ExitStatus::Failed);
+        QVERIFY(driven.dialog.lastPrintProblem().contains("Closed for inventory"));
+    }
+    {
+        // A job that goes elsewhere needs no printer.
+        auto elsewhere = begin;
+        elsewhere.line.toFolder = m_folder->filePath("job");
+        Shown driven(elsewhere);
+        QVERIFY(driven.waitUntilIdle());
+        QVERIFY(!driven.isShown("conflictBar"));
+        QVERIFY(driven.find<QPushButton>("print")->isEnabled());
+    }
+    Shown shown(begin, false);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        shown.isShown("conflictBar") && !shown.find<QPushButton>("print")->isEnabled(), 15000);
+    QCOMPARE(cups.administer({"Hall-3"}, "cupsaccept"), QString());
+    QTRY_VERIFY_WITH_TIMEOUT(shown.find<QPushButton>("print")->isEnabled(), 15000);
+    QVERIFY(!shown.isShown("conflictBar"));
 }
 
 // ---- keyboard and looks
