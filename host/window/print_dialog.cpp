@@ -136,6 +136,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(&m_firstFrame, &QTimer::timeout, this, [this] { m_session->openTheDocument(); });
     m_watch.setInterval(watchMs);
     connect(&m_watch, &QTimer::timeout, m_session.get(), &DialogSession::lookAtPrinter);
+    connect(&m_sent, &SentMessage::told, this, [this] { end(ExitStatus::Printed); });
     watchEvents([this](const Event &) {
         if (m_session->stage() == DialogSession::Stage::Ready)
             m_look.start();
@@ -386,7 +387,7 @@ void PrintDialog::updateTitle()
 
 void PrintDialog::updatePrintButton()
 {
-    const bool mayPrint = !m_run && findReasonNotToPrint().isEmpty();
+    const bool mayPrint = !m_run && !m_sent.isTelling() && findReasonNotToPrint().isEmpty();
     m_print->setEnabled(mayPrint);
     m_details->setEnabled(!m_run && m_session->stage() == DialogSession::Stage::Ready);
 }
@@ -468,7 +469,7 @@ void PrintDialog::lookAtSettings()
 {
     // While a dialog is open its panel is in the middle of something; the event
     // that opened it ends with the dialog, and is looked at then.
-    if (m_run || m_session->stage() != DialogSession::Stage::Ready
+    if (m_run || m_sent.isTelling() || m_session->stage() != DialogSession::Stage::Ready
         || QApplication::activeModalWidget())
         return;
     m_session->writeAll();
@@ -718,7 +719,10 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
                       QStringLiteral("kelvo-print: %1: not sent, the printer does not have it")
                           .arg(setting));
         printLine(stdout, outcome.place + u' ' + m_session->title());
-        end(ExitStatus::Printed);
+        if (m_isDriven || m_isInterrupted)
+            end(ExitStatus::Printed);
+        else
+            tellSent(outcome.place);
         return;
     }
     if (m_isInterrupted) {
@@ -730,6 +734,19 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
     lookAtSettings();
     refusePrint(outcome.status, tr("“%1” was not printed").arg(m_session->title()),
                 outcome.problem);
+}
+
+void PrintDialog::tellSent(const QString &place)
+{
+    const QString text = m_options.line.toFolder ? tr("Written to %1").arg(place)
+                                                 : tr("%1 sent", "a job").arg(place);
+    m_sent.tell(text, m_session->title());
+    m_columns->setEnabled(false);
+    m_cautionBar->setEnabled(false);
+    updatePrintButton();
+    m_foot->setText(text);
+    m_cancel->setText(tr("Close"));
+    m_cancel->setFocus();
 }
 
 Result<void> PrintDialog::writeSettingsOut()
@@ -754,6 +771,10 @@ void PrintDialog::pressCancel()
         m_foot->setText(tr("Cancelling…"));
         return;
     }
+    if (m_sent.isTelling()) {
+        end(ExitStatus::Printed);
+        return;
+    }
     // After a print that failed, giving up is that failure.
     end(m_printProblem.isEmpty() ? ExitStatus::Cancelled : m_printStatus);
 }
@@ -761,7 +782,7 @@ void PrintDialog::pressCancel()
 void PrintDialog::interrupt()
 {
     if (!m_run) {
-        end(ExitStatus::Cancelled);
+        end(m_sent.isTelling() ? ExitStatus::Printed : ExitStatus::Cancelled);
         return;
     }
     m_run->cancel();

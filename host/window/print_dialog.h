@@ -6,6 +6,7 @@
 #include "panel_places.h"
 #include "print_run.h"
 #include "script_target.h"
+#include "sent_message.h"
 #include "session_cautions.h"
 
 #include <QElapsedTimer>
@@ -108,6 +109,7 @@ private:
     bool isHeldBack();
     void findCautions(); // after all panels have written
     void takeOutcome(const PrintOutcome &outcome);
+    void tellSent(const QString &place);
     void refusePrint(ExitStatus status, const QString &header, const QString &problem);
     QString findReasonNotToPrint() const;
     QString findPagesProblem() const;
@@ -156,6 +158,7 @@ private:
     QTimer m_watch;             // asks what the printer is doing
 
     std::unique_ptr<PrintRun> m_run;
+    SentMessage m_sent;
     ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
     QString m_printProblem;
     std::optional<ExitStatus> m_finished;

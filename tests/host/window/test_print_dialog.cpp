@@ -5,6 +5,7 @@
 #include "inspector.h"
 #include "modal_dialog.h"
 #include "notice.h"
+#include "notification_service.h"
 #include "popup_button.h"
 #include "presets.h"
 #include "print_dialog.h"
@@ -67,6 +68,8 @@ private slots:
     void thePanelStaysWhenThePrinterChanges();
     void aStoppedPrinterIsAskedAbout();
     void aPrinterThatTakesNoJobsIsWaitedFor();
+    void theDesktopTellsThatAJobIsOut();
+    void aDeadDesktopKeepsNobody();
 
     void theFirstKeyIsHeard();
     void returnPrintsOnlyFromThePrintButton();
@@ -949,6 +952,56 @@ void TestPrintDialog::aPrinterThatTakesNoJobsIsWaitedFor()
     QCOMPARE(cups.administer({"Hall-3"}, "cupsaccept"), QString());
     QTRY_VERIFY_WITH_TIMEOUT(shown.find<QPushButton>("print")->isEnabled(), 15000);
     QVERIFY(!shown.isShown("conflictBar"));
+}
+
+void TestPrintDialog::theDesktopTellsThatAJobIsOut()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    NotificationService desktop;
+    QCOMPARE(desktop.start(), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.toFolder.reset();
+    begin.line.destination = "Hall-3";
+    begin.document->title = "Profit & loss";
+    {
+        Shown shown(begin, false);
+        QVERIFY(shown.waitUntilIdle());
+        shown.dialog.pressPrint();
+        QVERIFY(shown.waitUntilEnded());
+        QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+        QCOMPARE(desktop.shown(), QStringList("Hall-3-1 sent|Profit &amp; loss"));
+    }
+    // Whoever drives it reads its output.
+    Shown driven(begin);
+    QVERIFY(driven.waitUntilIdle());
+    driven.dialog.pressPrint();
+    QVERIFY(driven.waitUntilEnded());
+    QTest::qWait(50);
+    QCOMPARE(desktop.shown().size(), 1);
+}
+
+void TestPrintDialog::aDeadDesktopKeepsNobody()
+{
+    const UnreliableServer silent(UnreliableServer::Trouble::NeverAnswers);
+    qputenv("DBUS_SESSION_BUS_ADDRESS",
+            QStringLiteral("tcp:host=127.0.0.1,port=%1").arg(silent.port()).toUtf8());
+    const auto restore = qScopeGuard([] { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); });
+    for (const bool isImpatient : {false, true}) {
+        Shown shown(options(), false);
+        QVERIFY(shown.waitUntilIdle());
+        shown.dialog.pressPrint();
+        QVERIFY(QTest::qWaitFor([&shown] { return shown.text("summary").contains("Written to"); },
+                                15000));
+        QVERIFY(!shown.dialog.finished()); // the line can be read
+        if (isImpatient)
+            shown.find<QPushButton>("cancel")->click();
+        else
+            QVERIFY(shown.waitUntilEnded());
+        QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+    }
 }
 
 // ---- keyboard and looks
