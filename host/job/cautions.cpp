@@ -25,11 +25,6 @@ QString pagesInWords(const QList<int> &pages)
     return runs.isEmpty() ? last : runs.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
 }
 
-QString kept()
-{
-    return QStringLiteral("They are kept, and come back with a printer that has them.");
-}
-
 } // namespace
 
 QString Caution::sentences() const
@@ -68,26 +63,16 @@ std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &p
                    QStringLiteral("Choose larger paper; jobs are not scaled.")};
 }
 
-std::optional<Caution> missingCaution(const QStringList &settings)
+std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd)
 {
     if (settings.isEmpty())
         return std::nullopt;
-    return Caution{
-        Weight::Noted,
-        QStringLiteral("This printer does not have: %1.").arg(settings.join(QStringLiteral(", "))),
-        kept(), settings};
-}
-
-std::optional<Caution> noDescriptionCaution(const QString &printer, int count)
-{
-    if (count == 0)
-        return std::nullopt;
-    return Caution{Weight::Noted,
-                   QStringLiteral("The print server has no description of “%1”: what was set for "
-                                  "other printers is not sent to it.")
-                       .arg(printer),
-                   kept(),
-                   {printer}};
+    const QString text = hasPpd
+        ? QStringLiteral("This printer does not have: %1.")
+        : QStringLiteral("Not sent, for the print server has no description of this printer: %1.");
+    return Caution{Weight::Noted, text.arg(settings.join(QStringLiteral(", "))),
+                   QStringLiteral("They are kept, and come back with a printer that has them."),
+                   settings};
 }
 
 } // namespace kelvo

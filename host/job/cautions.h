@@ -38,9 +38,7 @@ std::optional<Caution> printerCaution(const QString &printer, const PrinterCondi
 // `pages` of the document, ascending, do not fit on `paper`, which is called so.
 std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &paper);
 
-// The device lacks these settings.
-std::optional<Caution> missingCaution(const QStringList &settings);
-// A queue without a PPD is told no setting of a device; `count` are set.
-std::optional<Caution> noDescriptionCaution(const QString &printer, int count);
+// The device lacks these settings, or nobody knows what it has: a queue without a PPD.
+std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd);
 
 } // namespace kelvo

@@ -531,7 +531,11 @@ void DialogSession::beginPanels()
     const QString none = tr("No device panels for “%1”").arg(m_printerName);
     m_message = {};
     if (!m_ppd) {
-        m_message = {none, m_noPpdReason + u'\n' + stays};
+        m_message = {
+            none,
+            m_noPpdReason + u'\n'
+                + tr("Copies and pages work as usual. Paper, orientation and collating are "
+                     "passed on; whether they are heeded is up to the printer.")};
         return;
     }
     if (!m_options.bundle) {

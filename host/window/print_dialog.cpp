@@ -11,6 +11,7 @@
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "popup_button.h"
+#include "ppd_words.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
 #include "sheet_sequence.h"
@@ -637,11 +638,10 @@ bool PrintDialog::isHeldBack()
     const Caution *asked = m_cautions.find(Caution::Weight::Asked);
     if (!asked)
         return false;
-    const int answer =
-        CFUserNotificationDisplayAlert(NoticeLevel::Caution, asked->text, asked->advice,
-                                       {tr("Print Anyway"), tr("Cancel")}, this);
+    const int answer = CFUserNotificationDisplayAlert(
+        NoticeLevel::Caution, asked->text, asked->advice, {tr("Print Anyway"), tr("Cancel")}, this);
     m_look.start(); // what came meanwhile
-    return answer != 1;
+    return m_finished || answer != 1;
 }
 
 void PrintDialog::print()
@@ -716,8 +716,8 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
     if (outcome.status == ExitStatus::Printed) {
         for (const QString &setting : m_session->missing())
             printLine(stderr,
-                      QStringLiteral("kelvo-print: %1: not sent, the printer does not have it")
-                          .arg(setting));
+                      QStringLiteral("kelvo-print: %1: not sent, %2")
+                          .arg(setting, whyNotSent(m_session->ppd().get())));
         printLine(stdout, outcome.place + u' ' + m_session->title());
         if (m_isDriven || m_isInterrupted)
             end(ExitStatus::Printed);

@@ -282,7 +282,9 @@ void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
     m_hasPaper = !papers.items.empty();
     m_paperName = settings.paperName;
     if (!m_hasPaper)
-        papers.items.push_back({.text = tr("As the printer has it")});
+        papers.items.push_back({.text = settings.paperName.isEmpty() ? tr("As the printer has it")
+                                                                     : settings.paperName,
+                                .key = settings.paperName});
     else if (ppd && !settings.paperName.isEmpty() && !ppd->findPageSize(settings.paperName))
         papers.items.push_back({.text = paperSize(settings.paperName, *ppd)
                                     ? tr("Custom: %1").arg(settings.paperName.section(u'.', 1))

@@ -4,9 +4,9 @@
 #include "page_placement.h"
 #include "page_ranges.h"
 #include "ppd_words.h"
+#include "terminal.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <set>
 
 namespace kelvo {
@@ -51,7 +51,7 @@ void SessionCautions::look(const QString &place)
         addCover(m_covers.front(), keys.frontCover.leftOut);
         addCover(m_covers.back(), keys.backCover.leftOut);
     }
-    add(notSent());
+    add(missingCaution(m_session.missing(), m_session.ppd() != nullptr));
 }
 
 void SessionCautions::forget()
@@ -81,7 +81,7 @@ void SessionCautions::say(bool happenedOnly)
             || m_said.contains(caution.text))
             continue;
         m_said << caution.text;
-        std::fprintf(stderr, "kelvo-print: caution: %s\n", qUtf8Printable(caution.sentences()));
+        printLine(stderr, QStringLiteral("kelvo-print: caution: ") + caution.sentences());
     }
 }
 
@@ -111,14 +111,6 @@ std::optional<Caution> SessionCautions::cutPages() const
     }
     return cutPagesCaution(QList<int>(pages.begin(), pages.end()),
                            paperWords(settings.paperName, *ppd));
-}
-
-std::optional<Caution> SessionCautions::notSent() const
-{
-    if (!m_session.ppd())
-        return noDescriptionCaution(m_session.printerName(),
-                                    int(m_session.tickets().printSettings().ppdChoices.size()));
-    return missingCaution(m_session.missing());
 }
 
 } // namespace kelvo

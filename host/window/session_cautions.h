@@ -32,7 +32,6 @@ private:
     void say(bool happenedOnly);
     std::optional<Caution> printer() const;
     std::optional<Caution> cutPages() const;
-    std::optional<Caution> notSent() const;
 
     DialogSession &m_session;
     const bool m_goesToQueue;
