@@ -204,7 +204,7 @@ private:
         const double scale = shown.isCut() ? scaleFor(shown) : sheet.width() / shown.sheet.width();
         QRectF page(QPointF(), shown.page.size() * scale);
         page.moveCenter(sheet.center());
-        return page;
+        return shown.isCut() ? QRectF(page.toAlignedRect()) : page;
     }
 
     void paintPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const

@@ -1163,7 +1163,10 @@ void TestPrintDialog::everythingFits()
         QApplication::setPalette(usualPalette);
     });
     auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
+    // A conflict and a caution.
+    begin.line.options = {{"StapleLocation", "SinglePortrait"},
+                          {"MediaType", "Transparency"},
+                          {"media", "A5"}};
     Shown shown(begin);
     shown.dialog.resize(size);
     QVERIFY(shown.waitUntilIdle());
@@ -1173,6 +1176,7 @@ void TestPrintDialog::everythingFits()
                                  + ".png");
 
     QCOMPARE(shown.isShown("printer"), showsColumn);
+    QVERIFY(shown.isShown("fix") && shown.isShown("cautionText2"));
     auto *scroll = shown.find<QScrollArea>("panels");
     QCOMPARE(scroll->verticalScrollBar()->isVisible(), scrolls);
     QVERIFY(!scroll->horizontalScrollBar()->isVisible());
