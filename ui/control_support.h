@@ -21,9 +21,6 @@ void sendHit(QWidget *control);
 // the focus; it does not give it the focus either.
 void guardWheel(QWidget *control);
 
-// `text` as a tool tip that is never taken for markup.
-QString plainToolTip(const QString &text);
-
 // `text` on one line, as menus show it.
 QString oneLine(const QString &text);
 

@@ -239,12 +239,6 @@ void guardWheel(QWidget *control)
     control->installEventFilter(new WheelGuard(control));
 }
 
-QString plainToolTip(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped())
-                                     : text;
-}
-
 QString oneLine(const QString &text)
 {
     QString line = text;

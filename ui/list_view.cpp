@@ -1,6 +1,7 @@
 #include "list_view.h"
 
 #include "control_support.h"
+#include "tool_tip.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>

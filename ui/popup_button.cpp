@@ -1,6 +1,7 @@
 #include "popup_button.h"
 
 #include "control_support.h"
+#include "tool_tip.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

@@ -25,6 +25,18 @@ bool isDescription(const QString &name)
                        [&](const char *prefix) { return name.startsWith(QLatin1String(prefix)); });
 }
 
+Printer::State stateFrom(int value)
+{
+    switch (value) {
+    case IPP_PSTATE_PROCESSING:
+        return Printer::State::Busy;
+    case IPP_PSTATE_STOPPED:
+        return Printer::State::Stopped;
+    default:
+        return Printer::State::Idle;
+    }
+}
+
 Printer printerFrom(const cups_dest_t &destination)
 {
     QMap<QString, QString> options;
@@ -42,20 +54,10 @@ Printer printerFrom(const cups_dest_t &destination)
     printer.info = option("printer-info");
     printer.location = option("printer-location");
     printer.makeAndModel = option("printer-make-and-model");
-    switch (option("printer-state").toInt()) {
-    case IPP_PSTATE_PROCESSING:
-        printer.state = Printer::State::Busy;
-        break;
-    case IPP_PSTATE_STOPPED:
-        printer.state = Printer::State::Stopped;
-        break;
-    default:
-        break;
-    }
+    printer.state = stateFrom(option("printer-state").toInt());
     printer.acceptsJobs = option("printer-is-accepting-jobs") != QLatin1String("false");
-    const QString reasons = option("printer-state-reasons");
-    if (reasons != QLatin1String("none"))
-        printer.stateMessage = QString(reasons).replace(u',', QStringLiteral(", "));
+    printer.stateMessage =
+        stateWords({}, option("printer-state-reasons").split(u',', Qt::SkipEmptyParts));
     printer.isDefault = destination.is_default != 0;
     for (auto value = options.cbegin(); value != options.cend(); ++value) {
         if (!isDescription(value.key()))
@@ -105,6 +107,39 @@ Result<QByteArray> readPpd(const QString &printer, Patience &patience)
         return http.error();
     auto ppd = queuePpd(http.value().get(), queue.value(), patience);
     return ppd ? ppd : Error{ppd.error().code, printer, ppd.error().detail};
+}
+
+Result<PrinterCondition> readCondition(const QString &printer, Patience &patience)
+{
+    const auto queue = queueName(printer);
+    if (!queue)
+        return queue.error();
+    const auto http = connectToServer(patience);
+    if (!http)
+        return http.error();
+    static const char *const wanted[] = {"printer-state", "printer-state-message",
+                                         "printer-state-reasons", "printer-is-accepting-jobs"};
+    ipp_t *request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue.value());
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(wanted)), nullptr, wanted);
+    const Message response(cupsDoRequest(http.value().get(), request, "/"));
+    if (!response || !lastCallSucceeded())
+        return serverError(patience, printer);
+    const auto find = [&response](const char *name, ipp_tag_t tag) {
+        return ippFindAttribute(response.get(), name, tag);
+    };
+    PrinterCondition condition;
+    condition.state = stateFrom(ippGetInteger(find("printer-state", IPP_TAG_ENUM), 0));
+    if (ipp_attribute_t *accepts = find("printer-is-accepting-jobs", IPP_TAG_BOOLEAN))
+        condition.acceptsJobs = ippGetBoolean(accepts, 0) != 0;
+    QStringList reasons;
+    ipp_attribute_t *listed = find("printer-state-reasons", IPP_TAG_KEYWORD);
+    for (int i = 0; i < ippGetCount(listed); ++i)
+        reasons << QString::fromUtf8(ippGetString(listed, i, nullptr));
+    condition.stateMessage = stateWords(
+        QString::fromUtf8(ippGetString(find("printer-state-message", IPP_TAG_TEXT), 0, nullptr)),
+        reasons);
+    return condition;
 }
 
 } // namespace
@@ -212,6 +247,19 @@ void PrinterDirectory::fetchPpd(const QString &printer, int timeoutMs)
                 emit self->ppdFetched(printer, path.value());
             else
                 emit self->ppdFailed(printer, path.error());
+        });
+}
+
+void PrinterDirectory::fetchCondition(const QString &printer, int timeoutMs)
+{
+    Private::ask<PrinterCondition>(
+        d, timeoutMs, [printer](Patience &patience) { return readCondition(printer, patience); },
+        [printer] { return printer; },
+        [printer](PrinterDirectory *self, const Result<PrinterCondition> &condition) {
+            if (condition)
+                emit self->conditionFound(printer, condition.value());
+            else
+                emit self->conditionFailed(printer, condition.error());
         });
 }
 

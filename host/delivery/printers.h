@@ -1,5 +1,6 @@
 #pragma once
 
+#include "printer_condition.h"
 #include "result.h"
 
 #include <QList>
@@ -14,15 +15,10 @@
 // of the program waiting.
 namespace kelvo {
 
-struct Printer
+struct Printer : PrinterCondition
 {
-    enum class State { Idle, Busy, Stopped };
-
     QString name; // "Hall-3"; instances as "Hall-3/draft"
     QString info, location, makeAndModel;
-    State state = State::Idle;
-    bool acceptsJobs = true;
-    QString stateMessage; // what it reports ("media-empty-error, paused"); may be empty
     bool isDefault = false;
     // Option → value: what lpoptions set for the queue or instance, and what the
     // server's administrator did. Descriptions of the queue are not among them.
@@ -41,6 +37,8 @@ public:
     // call itself, and at the latest after `timeoutMs` with TimedOut.
     void refresh(int timeoutMs = 30000);
     void fetchPpd(const QString &printer, int timeoutMs = 30000);
+    // What it is doing now, with its own message, which no list of printers has.
+    void fetchCondition(const QString &printer, int timeoutMs = 30000);
 
 signals:
     void printersFound(const QList<kelvo::Printer> &printers); // the default one first
@@ -49,6 +47,8 @@ signals:
     // printers, that of its first member.
     void ppdFetched(const QString &printer, const QString &path);
     void ppdFailed(const QString &printer, const kelvo::Error &error); // NotFound: it has none
+    void conditionFound(const QString &printer, const kelvo::PrinterCondition &condition);
+    void conditionFailed(const QString &printer, const kelvo::Error &error);
 
 private:
     struct Private;

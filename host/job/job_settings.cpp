@@ -199,6 +199,13 @@ QString nearestOrAll(const QString &value, const QStringList &known)
         : QStringLiteral("; there are ") + shortList(known);
 }
 
+// Nobody knows whether such a printer can do it.
+QString noDescription()
+{
+    return QStringLiteral("the print server has no description (PPD) of this printer, so that it "
+                          "cannot be asked for this");
+}
+
 // One -o: what it says, and what it changes.
 struct Request
 {
@@ -316,7 +323,9 @@ Result<TicketPlaces> applySides(const Request &request)
         if (row == &sidesRows[0])
             return TicketPlaces(); // what such a printer does anyway
         return request.error(Code::NotFound,
-                             QStringLiteral("this printer does not print on both sides"));
+                             request.ppd
+                                 ? QStringLiteral("this printer does not print on both sides")
+                                 : noDescription());
     }
     return request.choose(duplex->keyword, choice);
 }
@@ -470,17 +479,19 @@ Result<TicketPlaces> applyOption(const QString &name, const QString &value, cons
                 known << offered.keyword;
         }
     }
-    return request.error(Code::NotFound,
-                         QStringLiteral("neither this printer nor kelvo-print has such an option%1")
-                             .arg(didYouMean(name, known)));
+    return request.error(
+        Code::NotFound,
+        ppd ? QStringLiteral("neither this printer nor kelvo-print has such an option%1")
+                  .arg(didYouMean(name, known))
+            : noDescription() + didYouMean(name, known));
 }
 
 bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd)
 {
     const QString keyword = QStringLiteral("Duplex");
     const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
-    const QString choice = choices.value(keyword, option ? option->defaultChoice : QString());
-    if (ppd && (!option || !option->findChoice(choice)))
+    const QString choice = option ? choices.value(keyword, option->defaultChoice) : QString();
+    if (!option || !option->findChoice(choice))
         return false; // it is not sent
     return choice == QLatin1String("DuplexNoTumble") || choice == QLatin1String("DuplexTumble");
 }

@@ -46,7 +46,7 @@ JobSettings jobSettingsFrom(const PrintSession &session, const PpdFile *ppd);
 void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSession &session);
 
 // Whether both sides are printed: by the choice of "Duplex", or by the PPD's own
-// default where nothing is chosen.
+// default where nothing is chosen. Without a PPD no choice is sent.
 bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd);
 
 // The size in points of a page size of the PPD, or of "Custom.WxH" (with pt, in,

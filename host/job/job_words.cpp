@@ -120,14 +120,20 @@ void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &
     const QString order = settings.copies == 1 ? QString()
         : settings.collate                     ? QStringLiteral(", collated")
                                                : QStringLiteral(", not collated");
-    add(settings.copies == 1, "Copies", QString::number(settings.copies) + order);
+    // Without a PPD nobody on the way sees to it.
+    const QString passedOn =
+        ppd ? QString() : QStringLiteral(" – passed on, the printer may not heed it");
+    add(settings.copies == 1, "Copies",
+        QString::number(settings.copies) + order
+            + (settings.copies == 1 || settings.collate ? QString() : passedOn));
     add(settings.pageRanges.isEmpty(), "Pages",
         settings.pageRanges.isEmpty() ? QStringLiteral("All") : visibleText(settings.pageRanges));
     add(settings.orientation == Orientation::Portrait, "Orientation",
-        orientationWords(settings.orientation));
+        orientationWords(settings.orientation)
+            + (settings.orientation == Orientation::Portrait ? QString() : passedOn));
     // Where there is a PPD, the paper stands among its options.
     if (!ppd && !settings.paperName.isEmpty())
-        add(false, "Paper", visibleText(settings.paperName));
+        add(false, "Paper", visibleText(settings.paperName) + passedOn);
 }
 
 void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, JobWords &words)
@@ -168,7 +174,7 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
     if (ppd)
         addPpdSettings(ticket.printSettings.ppdChoices, *ppd, words);
     for (const QString &setting : missing)
-        words.notSent << setting + QStringLiteral(" – this printer does not have it");
+        words.notSent << setting + QStringLiteral(" – ") + whyNotSent(ppd);
     const TicketFile shown = masked(ticket, keys);
     QStringList entries = entriesInWords(shown.printSettings, entryWords);
     // Of the others only the panels know what they say; that they are there is said.
@@ -192,10 +198,13 @@ QString JobWords::asText() const
         const char *heading;
         const QStringList &lines;
     } parts[] = {
+        // clang-format off
+        {"Cautions", cautions},
         {"Settings", settings},
         {"Not sent", notSent},
         {"As the printer has it", defaults},
         {"Ticket", ticket},
+        // clang-format on
     };
     QString text;
     for (const auto &part : parts) {

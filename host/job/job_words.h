@@ -15,11 +15,12 @@ namespace kelvo {
 
 struct JobWords
 {
+    QStringList cautions; // what to know before it goes out, see cautions.h
     QStringList settings; // "Page Size: A4", in the device's words and the PPD's order
     QStringList defaults; // settings that are as the device has them
     QStringList ticket;   // "com.kelvo.print.… = 2 (written by com.kelvo.printingmanager)"
     QStringList notSent;  // "Stapling: Top Left – this printer does not have it"
-    // All four under headings, one a line; a heading without lines is left out.
+    // All five under headings, one a line; a heading without lines is left out.
     QString asText() const;
 };
 // Texts of the PPD and the ticket come as plain text on one line; a ticket value

@@ -56,6 +56,12 @@ bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice)
     return !asksForNothing || (ppd && ppd->findOption(keyword));
 }
 
+QString whyNotSent(const PpdFile *ppd)
+{
+    return ppd ? QStringLiteral("this printer does not have it")
+               : QStringLiteral("the print server has no description of this printer");
+}
+
 bool readsTickets(const PpdFile *ppd)
 {
     return ppd && ppd->attribute("KelvoTicket") == QStringLiteral("1");

@@ -104,9 +104,10 @@ SpecialSheetKeys specialSheetKeysOf(const Bundle *bundle)
     const auto text = [](const Dictionary &in, const QString &key) {
         return string(in, key).value_or(QString());
     };
-    const auto label = [&](const Dictionary &in) {
-        return plainText(*bundle, text(in, QStringLiteral("Label")));
+    const auto words = [&](const Dictionary &in, const QString &key) {
+        return plainText(*bundle, text(in, key));
     };
+    const auto label = [&](const Dictionary &in) { return words(in, QStringLiteral("Label")); };
     const auto numbers = [](const Dictionary &in, const QString &key) {
         QList<std::int64_t> list;
         for (const QVariant &each : array(in, key).value_or(Array())) {
@@ -118,7 +119,8 @@ SpecialSheetKeys specialSheetKeysOf(const Bundle *bundle)
     const auto cover = [&](const QString &name) {
         const Dictionary in = part(name);
         return SpecialSheetKeys::Cover{text(in, QStringLiteral("Option")),
-                                       text(in, QStringLiteral("None")), label(in)};
+                                       text(in, QStringLiteral("None")), label(in),
+                                       words(in, QStringLiteral("LeftOut"))};
     };
     keys.frontCover = cover(QStringLiteral("FrontCover"));
     keys.backCover = cover(QStringLiteral("BackCover"));

@@ -18,6 +18,7 @@
 //   FrontCover, BackCover  dictionary:
 //     Option      PPD option
 //     None        its choice for no cover; any other is a cover
+//     LeftOut     what is to be said of a cover that has no choice, likewise a key
 //   Inserts                dictionary:
 //     Entry       entry of the print settings: an array of dictionaries
 //     AfterPage   key in each of them: the page that the sheets follow; 0 is before page 1
@@ -37,6 +38,7 @@ struct SpecialSheetKeys
     struct Cover
     {
         QString option, none, label;
+        QString leftOut; // what is said of one that does not reach the device
     };
     Cover frontCover, backCover;
     struct

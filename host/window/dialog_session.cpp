@@ -1,5 +1,6 @@
 #include "dialog_session.h"
 
+#include "cautions.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
 #include "secrets.h"
@@ -84,6 +85,7 @@ void DialogSession::findPrinters()
 {
     m_arePrintersKnown = m_isPpdKnown = false;
     m_askedFor.clear(); // answers to the last directory do not come any more
+    m_lookedAtPrinter.reset();
     setStage(Stage::Searching,
              {tr("Looking for printers"), tr("The print server has not answered yet."), false});
     if (m_options.directory) {
@@ -110,6 +112,12 @@ void DialogSession::listenTo(PrinterDirectory &directory)
                  {isSilent ? tr("The print server does not answer")
                            : tr("The printers cannot be listed"),
                   error.detail, true});
+    });
+    connect(&directory, &PrinterDirectory::conditionFound, this, &DialogSession::takeCondition);
+    // What the list said stands then.
+    connect(&directory, &PrinterDirectory::conditionFailed, this, [this](const QString &printer) {
+        if (m_lookedAtPrinter == printer)
+            m_lookedAtPrinter.reset();
     });
     connect(&directory, &PrinterDirectory::ppdFetched, this,
             [this](const QString &printer, const QString &path) {
@@ -144,6 +152,26 @@ void DialogSession::askForPpd()
 bool DialogSession::isPpdAwaited(const QString &printer) const
 {
     return printer == m_printerName && !m_isPpdKnown;
+}
+
+void DialogSession::lookAtPrinter()
+{
+    if (!m_directory || !printer() || isLookingAtPrinter())
+        return;
+    m_lookedAtPrinter = m_printerName;
+    m_directory->fetchCondition(m_printerName, m_options.line.timeoutSeconds * 1000);
+}
+
+void DialogSession::takeCondition(const QString &printer, const PrinterCondition &condition)
+{
+    if (m_lookedAtPrinter == printer)
+        m_lookedAtPrinter.reset();
+    for (Printer &known : m_printers) {
+        if (known.name != printer || static_cast<PrinterCondition &>(known) == condition)
+            continue;
+        static_cast<PrinterCondition &>(known) = condition;
+        emit conditionChanged();
+    }
 }
 
 const Printer *DialogSession::findPrinter(const QString &name) const
@@ -240,6 +268,7 @@ void DialogSession::beginWhenComplete()
 void DialogSession::choosePrinter(const QString &name)
 {
     m_isPrinterAssumed = false;
+    m_isPrinterChosen = true;
     if (name == m_printerName && m_stage != Stage::Stuck)
         return;
     if (m_stage == Stage::Ready) {
@@ -273,6 +302,10 @@ void DialogSession::begin()
     beginPanels();
     m_asked.setBeginning(firstWrites());
     settle();
+    // A queue in trouble has a message of its own, which the list does not have.
+    if (const Printer *now = printer();
+        now && (m_isPrinterChosen || printerCaution(now->name, *now)))
+        lookAtPrinter();
     setStage(Stage::Ready, m_message);
     emit reloaded();
 }
@@ -503,7 +536,11 @@ void DialogSession::beginPanels()
     const QString none = tr("No device panels for “%1”").arg(m_printerName);
     m_message = {};
     if (!m_ppd) {
-        m_message = {none, m_noPpdReason + u'\n' + stays};
+        m_message = {
+            none,
+            m_noPpdReason + u'\n'
+                + tr("Copies and pages work as usual. Paper, orientation and collating are "
+                     "passed on; whether they are heeded is up to the printer.")};
         return;
     }
     if (!m_options.bundle) {

@@ -80,6 +80,10 @@ public:
     // Nobody named the printer, and the system has no default one.
     bool isPrinterAssumed() const { return m_isPrinterAssumed; }
     QString printerName() const { return m_printerName; }
+    const Printer *printer() const { return findPrinter(m_printerName); } // null: none such
+    // Asks what the printer is doing now; conditionChanged() says when that is news.
+    void lookAtPrinter();
+    bool isLookingAtPrinter() const { return m_lookedAtPrinter == m_printerName; }
     // Goes to another printer and takes the settings along. What the new device
     // does not have comes back with one that has it.
     void choosePrinter(const QString &name);
@@ -126,6 +130,7 @@ public:
 
 signals:
     void printersChanged();
+    void conditionChanged(); // of a printer in the list
     void stageChanged();
     void documentChanged();
     void reloaded(); // every setting may have changed
@@ -136,6 +141,7 @@ private:
     void findPrinters();
     void listenTo(PrinterDirectory &directory);
     void takePrinters(const QList<Printer> &printers);
+    void takeCondition(const QString &printer, const PrinterCondition &condition);
     void fetchPpd();
     void askForPpd();
     bool isPpdAwaited(const QString &printer) const;
@@ -171,8 +177,10 @@ private:
     bool m_arePrintersKnown = false;
     QString m_printerName;
     bool m_isPrinterAssumed = false;
-    QSet<QString> m_askedFor;  // printers whose PPD is on its way
-    bool m_isPpdKnown = false; // or known not to come
+    bool m_isPrinterChosen = false;           // by the user: the list may be old by then
+    std::optional<QString> m_lookedAtPrinter; // whose condition is on its way
+    QSet<QString> m_askedFor;                 // printers whose PPD is on its way
+    bool m_isPpdKnown = false;                // or known not to come
     QString m_noPpdReason;
     std::shared_ptr<PpdFile> m_ppd;
 

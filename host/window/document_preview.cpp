@@ -1,7 +1,9 @@
 #include "document_preview.h"
 
+#include "caution_colours.h"
+#include "page_placement.h"
 #include "page_renderer.h"
-#include "preview_layout.h"
+#include "preview_captions.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -22,8 +24,7 @@ namespace {
 
 constexpr int rim = 10; // logical pixels around the sheet: its shadow and the focus ring
 constexpr int shadowSteps = 6;
-constexpr int wheelNotch = 120;     // as Qt counts a wheel's turn
-constexpr double mostPixels = 4096; // of a page's longer side
+constexpr int wheelNotch = 120; // as Qt counts a wheel's turn
 
 // The sheet and what lies on it.
 class SheetView : public QWidget
@@ -42,23 +43,23 @@ public:
     QString message;               // in place of a sheet
     bool isEmpty = true;
 
-    QRectF sheetRect(const QSizeF &sheet) const
+    // The sheet is drawn at `scale` in the middle, where pages lie on it centred.
+    QRectF sheetRect(const QSizeF &sheet, double scale) const
     {
-        const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
-        const double scale = scaleFor(sheet);
         QRectF rect(QPointF(), sheet * scale);
-        rect.moveCenter(QPointF(rim + room.width() / 2, rim + room.height() / 2));
+        rect.moveCenter(QRectF(this->rect()).center());
         // Whole pixels: a hair of grey along an edge looks like a printed line.
         return QRectF(rect.toAlignedRect());
     }
 
-    double scaleFor(const QSizeF &sheet) const
+    // There is room for the sheet, and for all of a page that the sheet cuts.
+    double scaleFor(const PagePlacement &shown) const
     {
         const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
-        if (sheet.isEmpty())
+        const QSizeF all = shown.all().size();
+        if (all.isEmpty())
             return 0;
-        return std::max(0.0,
-                        std::min(room.width() / sheet.width(), room.height() / sheet.height()));
+        return std::max(0.0, std::min(room.width() / all.width(), room.height() / all.height()));
     }
 
 protected:
@@ -76,10 +77,12 @@ protected:
         // Until the new page is drawn, the old one stays, on its own sheet.
         const bool hasPage = words.isEmpty() && !image.isNull();
         const PagePlacement &shown = hasPage ? imagePlacement : placement;
-        const QRectF sheet = sheetRect(shown.sheet);
+        const QRectF sheet = sheetRect(shown.sheet, scaleFor(shown));
         paintShadow(painter, sheet);
         painter.fillRect(sheet, Qt::white);
-        if (hasPage)
+        if (hasPage && shown.isCut())
+            paintCutPage(painter, sheet, shown);
+        else if (hasPage)
             paintPage(painter, sheet, shown);
         else
             paintText(painter, sheet, words.isEmpty() ? note : words);
@@ -174,10 +177,39 @@ private:
         painter.restore();
     }
 
+    // All of it: the sheet as it comes out, and veiled around that what is lost.
+    void paintCutPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
+    {
+        const QRectF page = pageRect(sheet, shown);
+        painter.fillRect(page, Qt::white);
+        paintPage(painter, sheet, shown);
+        QPainterPath lost;
+        lost.addRect(page);
+        QPainterPath kept;
+        kept.addRect(sheet);
+        QColor veil = palette().color(QPalette::Window);
+        veil.setAlphaF(0.72F);
+        painter.fillPath(lost - kept, veil);
+        painter.setPen(QPen(QColor(110, 110, 110), 1, Qt::DotLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(page.adjusted(0, 0, -1, -1));
+        painter.setPen(QPen(cautionText(palette()), 2));
+        painter.drawRect(sheet.adjusted(-1, -1, 1, 1));
+    }
+
+    QRectF pageRect(const QRectF &sheet, const PagePlacement &shown) const
+    {
+        // The sheet has come to whole pixels; where it is small, that would be much of
+        // a page around it.
+        const double scale = shown.isCut() ? scaleFor(shown) : sheet.width() / shown.sheet.width();
+        QRectF page(QPointF(), shown.page.size() * scale);
+        page.moveCenter(sheet.center());
+        return shown.isCut() ? QRectF(page.toAlignedRect()) : page;
+    }
+
     void paintPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
     {
-        const double scale = sheet.width() / shown.sheet.width();
-        QRectF page(sheet.topLeft() + shown.page.topLeft() * scale, shown.page.size() * scale);
+        QRectF page = pageRect(sheet, shown);
         // Quarter turns move pixels and blur none.
         const QImage turned = image.transformed(QTransform().rotate(shown.rotation));
         // Drawn for this very size, up to rounding: pixel upon pixel, or small
@@ -191,7 +223,7 @@ private:
                 QPointF(std::round(page.x() * ratio), std::round(page.y() * ratio)) / ratio, size);
         }
         painter.save();
-        painter.setClipRect(sheet);
+        painter.setClipRect(shown.isCut() ? page : sheet);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(page, turned);
         painter.restore();
@@ -306,11 +338,8 @@ struct DocumentPreview::Private
         if (!sheet->isVisible() || sheet->isEmpty || !message.isEmpty() || !sheet->words.isEmpty())
             return;
         const PagePlacement &placement = sheet->placement;
-        const double scale = sheet->scaleFor(placement.sheet) * sheet->devicePixelRatioF();
+        const double scale = sheet->scaleFor(placement) * sheet->devicePixelRatioF();
         QSizeF pixels = placement.page.size() * scale;
-        // Of a page that is far larger than the paper, less is enough.
-        if (const double longest = std::max(pixels.width(), pixels.height()); longest > mostPixels)
-            pixels *= mostPixels / longest;
         if (placement.rotation % 180 != 0)
             pixels.transpose();
         const QSize whole = pixels.toSize();

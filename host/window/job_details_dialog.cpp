@@ -34,8 +34,8 @@ QString section(const QString &header, const QStringList &lines)
 
 QString wordsText(const JobWords &words)
 {
-    QString text = section(tr("Set for this job"), words.settings)
-        + section(tr("Not sent"), words.notSent)
+    QString text = section(tr("Before you print"), words.cautions)
+        + section(tr("Set for this job"), words.settings) + section(tr("Not sent"), words.notSent)
         + section(tr("As the device has it"), words.defaults);
     return text.isEmpty() ? tr("Nothing is set: the device decides everything.") : text.trimmed();
 }

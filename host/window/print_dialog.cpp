@@ -1,6 +1,6 @@
 #include "print_dialog.h"
 
-#include "conflict_bar.h"
+#include "caution_bar.h"
 #include "document_preview.h"
 #include "focus_regions.h"
 #include "help_window.h"
@@ -11,11 +11,13 @@
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "popup_button.h"
+#include "ppd_words.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
 #include "sheet_sequence.h"
 #include "spin_field.h"
 #include "terminal.h"
+#include "tool_tip.h"
 #include "waiting_pane.h"
 #include "window_columns.h"
 
@@ -62,8 +64,9 @@ constexpr int firstFrameMs = 300;
 // So long an interrupted job may still tell what became of it.
 constexpr int interruptMs = 5000;
 constexpr int activationWaitMs = 1000; // a window manager takes less
+// So often a window looks whether its printer goes on.
+constexpr int watchMs = 5000;
 
-constexpr ControlID shellSelector = {kShellSignature, 16};
 constexpr OSType kNextTab = fourCharCode("KFup");
 constexpr OSType kPreviousTab = fourCharCode("KFdn");
 
@@ -97,15 +100,17 @@ PrintDialog::PrintDialog(DialogOptions options)
     : m_options(options)
     , m_columns(new WindowColumns(this))
     , m_switch(new PanelSwitch(m_columns->right()))
+    , m_places(this, m_switch)
     , m_scroll(new PaneScroll(m_columns->right()))
     , m_stack(new QStackedWidget)
     , m_waiting(new WaitingPane(m_stack))
     , m_panes(new QWidget(m_stack))
     , m_session(std::make_unique<DialogSession>(std::move(options), m_panes))
+    , m_cautions(*m_session, m_session->hasQueue() && !m_options.line.toFolder)
     , m_presets(new PresetMenu(*m_session, m_options.line.preset.value_or(QString())))
     , m_printer(new PrinterPane(m_presets, m_columns->left()))
     , m_preview(new DocumentPreview(m_columns->left()))
-    , m_conflictBar(new ConflictBar(this))
+    , m_cautionBar(new CautionBar(this))
     , m_foot(new QLabel(this))
     , m_progress(new QProgressBar(this))
     , m_details(button("whatWillBeSent", tr("&What Will Be Sent…"), this))
@@ -133,6 +138,9 @@ PrintDialog::PrintDialog(DialogOptions options)
         m_session->openTheDocument();
         emit begun();
     });
+    m_watch.setInterval(watchMs);
+    connect(&m_watch, &QTimer::timeout, m_session.get(), &DialogSession::lookAtPrinter);
+    connect(&m_sent, &SentMessage::told, this, [this] { end(ExitStatus::Printed); });
     watchEvents([this](const Event &) {
         if (m_session->stage() == DialogSession::Stage::Ready)
             m_look.start();
@@ -145,6 +153,10 @@ PrintDialog::PrintDialog(DialogOptions options)
             m_printer->setDevice(m_session->printerName());
         giveFirstFocus();
     });
+    connect(m_session.get(), &DialogSession::conditionChanged, this, [this] {
+        m_printer->setPrinters(m_session->printers(), m_session->printerName());
+        m_look.start();
+    });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
     connect(m_session.get(), &DialogSession::reloaded, this, &PrintDialog::takeSettings);
@@ -156,13 +168,15 @@ PrintDialog::PrintDialog(DialogOptions options)
 
     connect(m_printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
         commitTypedValues(this);
+        if (const Extension *panels = m_session->panels())
+            m_place = m_places.current(*panels);
         m_session->choosePrinter(name);
         m_printer->setPrinters(m_session->printers(), m_session->printerName());
     });
     connect(m_printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
     connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
-    connect(m_conflictBar, &ConflictBar::fixRequested, this, &PrintDialog::fixConflicts);
+    connect(m_cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_details, &QPushButton::clicked, this, &PrintDialog::showDetails);
     connect(m_help, &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
@@ -232,7 +246,7 @@ void PrintDialog::buildWindow()
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(gap);
     layout->addWidget(m_columns, 1);
-    layout->addWidget(m_conflictBar);
+    layout->addWidget(m_cautionBar);
     layout->addLayout(footRow);
     layout->addLayout(buttonRow);
 }
@@ -309,6 +323,8 @@ void PrintDialog::takeStage()
     m_sinceReady.start();
     m_waiting->setMessage(m_session->message());
     m_stack->setCurrentWidget(panels ? m_panes : m_waiting);
+    if (panels)
+        m_places.goTo(m_place, *panels);
     {
         const QSignalBlocker silence(m_switch);
         QStringList titles;
@@ -322,7 +338,7 @@ void PrintDialog::takeStage()
     }
     m_printer->setSettingsEnabled(isReady);
     if (!isReady)
-        m_conflictBar->setReport({}, {});
+        m_cautionBar->setContents({}, {});
     fitToPanels();
     m_columns->arrange();
     arrangeTabOrder();
@@ -344,6 +360,9 @@ void PrintDialog::takeDocument()
                                   ? tr("Opening %1…").arg(m_session->title())
                                   : m_session->documentProblem());
     }
+    // Its pages may be too large; the first look may still be to come.
+    if (m_hasLooked)
+        m_look.start();
     updatePreview();
     updatePrintButton();
     updateFoot();
@@ -351,6 +370,7 @@ void PrintDialog::takeDocument()
 
 void PrintDialog::takeSettings()
 {
+    m_cautions.forget();
     m_printer->dropTypedText();
     m_printer->setSettings(m_session->settings(), m_session->ppd().get());
     if (!m_hasLooked) {
@@ -371,7 +391,7 @@ void PrintDialog::updateTitle()
 
 void PrintDialog::updatePrintButton()
 {
-    const bool mayPrint = !m_run && findReasonNotToPrint().isEmpty();
+    const bool mayPrint = !m_run && !m_sent.isTelling() && findReasonNotToPrint().isEmpty();
     m_print->setEnabled(mayPrint);
     m_details->setEnabled(!m_run && m_session->stage() == DialogSession::Stage::Ready);
 }
@@ -425,7 +445,7 @@ void PrintDialog::updateFoot()
         }
     }
     m_foot->setText(text);
-    m_foot->setToolTip(text.toHtmlEscaped());
+    m_foot->setToolTip(plainToolTip(text));
 }
 
 // ---- panels and settings
@@ -453,11 +473,14 @@ void PrintDialog::lookAtSettings()
 {
     // While a dialog is open its panel is in the middle of something; the event
     // that opened it ends with the dialog, and is looked at then.
-    if (m_run || m_session->stage() != DialogSession::Stage::Ready
+    if (m_run || m_sent.isTelling() || m_session->stage() != DialogSession::Stage::Ready
         || QApplication::activeModalWidget())
         return;
     m_session->writeAll();
-    m_conflictBar->setReport(m_session->conflicts(), m_session->missing());
+    findCautions();
+    if (m_isDriven)
+        m_cautions.sayWhatHappened();
+    m_cautionBar->setContents(m_session->conflicts(), m_cautions.all());
     showWhatFollows();
 }
 
@@ -470,6 +493,12 @@ void PrintDialog::showWhatFollows()
     updatePreview();
     updateFoot();
     updatePrintButton();
+}
+
+void PrintDialog::findCautions()
+{
+    const Extension *panels = m_session->panels();
+    m_cautions.look(panels ? m_places.current(*panels).text() : QString());
 }
 
 void PrintDialog::fixConflicts()
@@ -490,6 +519,11 @@ JobWords PrintDialog::words()
                     m_session->secretKeys(), m_session->entryWords(), m_session->missing());
     if (Extension *panels = m_session->panels())
         words.settings += panels->summary();
+    findCautions();
+    const ConflictReport conflicts = m_session->conflicts();
+    for (const Conflict &conflict : conflicts.conflicts)
+        words.cautions << conflict.sentence;
+    words.cautions += m_cautions.inWords();
     return words;
 }
 
@@ -523,7 +557,10 @@ QString PrintDialog::findReasonNotToPrint() const
         return tr("The document is not open yet.");
     if (m_session->document().isNull())
         return m_session->documentProblem();
-    return {};
+    // That nobody has named this printer is told first.
+    const bool isNamed = !m_isDriven || !m_session->isPrinterAssumed();
+    const Caution *refused = isNamed ? m_cautions.find(Caution::Weight::Refused) : nullptr;
+    return refused ? refused->sentences() : QString();
 }
 
 QString PrintDialog::findPagesProblem() const
@@ -589,6 +626,27 @@ bool PrintDialog::endsInConflict()
     return true;
 }
 
+// What the user would want to know before, not after. A driven run is told, and goes on.
+bool PrintDialog::isHeldBack()
+{
+    findCautions();
+    if (const Caution *refused = m_cautions.find(Caution::Weight::Refused)) {
+        refusePrint(ExitStatus::Failed, refused->text, refused->advice);
+        return true;
+    }
+    if (m_isDriven) {
+        m_cautions.sayAll();
+        return false;
+    }
+    const Caution *asked = m_cautions.find(Caution::Weight::Asked);
+    if (!asked)
+        return false;
+    const int answer = CFUserNotificationDisplayAlert(
+        NoticeLevel::Caution, asked->text, asked->advice, {tr("Print Anyway"), tr("Cancel")}, this);
+    m_look.start(); // what came meanwhile
+    return m_finished || answer != 1;
+}
+
 void PrintDialog::print()
 {
     if (m_finished)
@@ -613,7 +671,7 @@ void PrintDialog::print()
         refusePrint(ExitStatus::WrongUsage, notPrinted, tr("Pages: %1").arg(problem));
         return;
     }
-    if (endsInConflict())
+    if (endsInConflict() || isHeldBack())
         return;
     if (const auto written = writeSettingsOut(); !written) {
         refusePrint(ExitStatus::Failed, notPrinted,
@@ -641,7 +699,7 @@ void PrintDialog::print()
 
     m_look.stop();
     m_columns->setEnabled(false);
-    m_conflictBar->setEnabled(false);
+    m_cautionBar->setEnabled(false);
     m_progress->show();
     updatePrintButton();
     updateFoot();
@@ -652,7 +710,7 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
 {
     m_run.release()->deleteLater();
     m_columns->setEnabled(true);
-    m_conflictBar->setEnabled(true);
+    m_cautionBar->setEnabled(true);
     m_progress->hide();
     updatePrintButton();
     updateFoot();
@@ -661,10 +719,13 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
     if (outcome.status == ExitStatus::Printed) {
         for (const QString &setting : m_session->missing())
             printLine(stderr,
-                      QStringLiteral("kelvo-print: %1: not sent, the printer does not have it")
-                          .arg(setting));
+                      QStringLiteral("kelvo-print: %1: not sent, %2")
+                          .arg(setting, whyNotSent(m_session->ppd().get())));
         printLine(stdout, outcome.place + u' ' + m_session->title());
-        end(ExitStatus::Printed);
+        if (m_isDriven || m_isInterrupted)
+            end(ExitStatus::Printed);
+        else
+            tellSent(outcome.place);
         return;
     }
     if (m_isInterrupted) {
@@ -676,6 +737,19 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
     lookAtSettings();
     refusePrint(outcome.status, tr("“%1” was not printed").arg(m_session->title()),
                 outcome.problem);
+}
+
+void PrintDialog::tellSent(const QString &place)
+{
+    const QString text = m_options.line.toFolder ? tr("Written to %1").arg(place)
+                                                 : tr("%1 sent", "a job").arg(place);
+    m_sent.tell(text, m_session->title());
+    m_columns->setEnabled(false);
+    m_cautionBar->setEnabled(false);
+    updatePrintButton();
+    m_foot->setText(text);
+    m_cancel->setText(tr("Close"));
+    m_cancel->setFocus();
 }
 
 Result<void> PrintDialog::writeSettingsOut()
@@ -700,6 +774,10 @@ void PrintDialog::pressCancel()
         m_foot->setText(tr("Cancelling…"));
         return;
     }
+    if (m_sent.isTelling()) {
+        end(ExitStatus::Printed);
+        return;
+    }
     // After a print that failed, giving up is that failure.
     end(m_printProblem.isEmpty() ? ExitStatus::Cancelled : m_printStatus);
 }
@@ -707,7 +785,7 @@ void PrintDialog::pressCancel()
 void PrintDialog::interrupt()
 {
     if (!m_run) {
-        end(ExitStatus::Cancelled);
+        end(m_sent.isTelling() ? ExitStatus::Printed : ExitStatus::Cancelled);
         return;
     }
     m_run->cancel();
@@ -732,6 +810,7 @@ void PrintDialog::end(ExitStatus status)
     m_look.stop();
     m_grace.stop();
     m_firstFrame.stop();
+    m_watch.stop();
     // A panel that is asking the user something, or shows a menu, is not ended below its
     // own hands, but with this window.
     if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget())
@@ -769,6 +848,8 @@ void PrintDialog::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     m_sinceShown.start();
+    if (!m_isDriven && m_session->hasQueue())
+        m_watch.start();
 }
 
 // Panels make their controls when they are first shown: later than the buttons
@@ -780,7 +861,7 @@ void PrintDialog::arrangeTabOrder()
         return;
     m_panelStops = panelStops;
     chainFocusStops(focusStopsIn(m_printer) + focusStopsIn(m_preview) + QList<QWidget *>{m_switch}
-                    + panelStops + focusStopsIn(m_conflictBar)
+                    + panelStops + focusStopsIn(m_cautionBar)
                     + QList<QWidget *>{m_columns->toggle(), m_details, m_help, m_cancel, m_print});
 }
 
@@ -800,7 +881,7 @@ void PrintDialog::giveFirstFocus()
 void PrintDialog::goToRegion(bool forward)
 {
     focusNextRegion(
-        {m_printer, m_preview, m_switch, m_scroll, m_conflictBar, m_columns->toggle(), m_print},
+        {m_printer, m_preview, m_switch, m_scroll, m_cautionBar, m_columns->toggle(), m_print},
         forward);
 }
 
@@ -823,7 +904,8 @@ bool PrintDialog::isIdle() const
         return false;
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching && !m_session->isDocumentPending()
-            && !m_look.isActive() && !m_firstFrame.isActive());
+            && !(m_isDriven && m_session->isLookingAtPrinter()) && !m_look.isActive()
+            && !m_firstFrame.isActive());
 }
 
 // A pane has a layout from when its panel's content is put into it.
@@ -850,29 +932,7 @@ Result<void> PrintDialog::showPanel(const QString &name)
     if (!panels)
         return Error{Error::Code::NotFound, name, tr("there are no panels")};
     m_columns->showRight();
-    QStringList names;
-    for (std::size_t i = 0; i < panels->panels().size(); ++i) {
-        if (panels->panels()[i].name == name) {
-            m_switch->setCurrentIndex(int(i));
-            return {};
-        }
-        names.append(panels->panels()[i].name);
-    }
-    // The shell names its own panes in the same way.
-    const auto panes = panels->panels().front().pane->findChildren<QWidget *>();
-    for (const QWidget *pane : panes) {
-        const auto id = controlIDOf(pane);
-        if (!id || id->signature != kUserPaneSignature)
-            continue;
-        if (pane->objectName() == name) {
-            m_switch->setCurrentIndex(0);
-            return showTab(id->number);
-        }
-        names.append(pane->objectName());
-    }
-    return Error{
-        Error::Code::NotFound, name,
-        tr("there is no such panel here; there are: %1").arg(names.join(QStringLiteral(", ")))};
+    return m_places.showPanel(*panels, name);
 }
 
 Result<void> PrintDialog::showTab(int tab)
@@ -881,49 +941,15 @@ Result<void> PrintDialog::showTab(int tab)
         return Error{Error::Code::Unreachable, m_session->message().header,
                      m_session->message().text};
     m_columns->showRight();
-    m_switch->setCurrentIndex(0);
-    auto *selector = findControl<PopupButton>(this, shellSelector);
-    if (!selector)
-        return Error{Error::Code::NotFound, QString::number(tab), tr("there are no tabs")};
-    // A tab keeps its number where others are not there.
-    const auto &items = selector->menu().items;
-    QStringList tabs;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (items[i].reference != tab) {
-            tabs.append(QStringLiteral("%1 (%2)").arg(items[i].reference).arg(items[i].text));
-            continue;
-        }
-        const int row = int(i) + 1;
-        if (selector->value() != row && !selector->choose(row))
-            return Error{Error::Code::Refused, QString::number(tab),
-                         tr("the tab cannot be chosen")};
-        return {};
-    }
-    return Error{
-        Error::Code::OutOfRange, QString::number(tab),
-        tr("there is no such tab here; there are: %1").arg(tabs.join(QStringLiteral(", ")))};
+    return m_places.showTab(tab);
 }
 
 QString PrintDialog::placeOf(const QWidget *control) const
 {
     if (m_columns->left()->isAncestorOf(control))
         return tr("the left column");
-    Extension *panels = m_session->panels();
-    if (!panels)
-        return {};
-    for (std::size_t i = 0; i < panels->panels().size(); ++i) {
-        const Extension::Panel &panel = panels->panels()[i];
-        if (!panel.pane->isAncestorOf(control))
-            continue;
-        for (const QWidget *widget = control; widget != panel.pane;
-             widget = widget->parentWidget()) {
-            const auto id = controlIDOf(widget);
-            if (id && id->signature == kUserPaneSignature)
-                return tr("tab %1, %2").arg(id->number).arg(widget->objectName());
-        }
-        return tr("panel %1").arg(panel.name);
-    }
-    return {};
+    const Extension *panels = m_session->panels();
+    return panels ? PanelPlaces::placeOf(control, *panels) : QString();
 }
 
 void PrintDialog::sync(SyncDirection direction)

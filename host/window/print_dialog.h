@@ -3,8 +3,11 @@
 #include "dialog_session.h"
 #include "event.h"
 #include "job_words.h"
+#include "panel_places.h"
 #include "print_run.h"
 #include "script_target.h"
+#include "sent_message.h"
+#include "session_cautions.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -18,7 +21,7 @@ class QStackedWidget;
 
 namespace kelvo {
 
-class ConflictBar;
+class CautionBar;
 class DocumentPreview;
 class PaneScroll;
 class PanelSwitch;
@@ -105,7 +108,10 @@ private:
     // Print.
     void print();
     bool endsInConflict();
+    bool isHeldBack();
+    void findCautions(); // after all panels have written
     void takeOutcome(const PrintOutcome &outcome);
+    void tellSent(const QString &place);
     void refusePrint(ExitStatus status, const QString &header, const QString &problem);
     QString findReasonNotToPrint() const;
     QString findPagesProblem() const;
@@ -123,15 +129,17 @@ private:
     DialogOptions m_options;
     WindowColumns *m_columns;
     PanelSwitch *m_switch;
+    PanelPlaces m_places;
     PaneScroll *m_scroll;
     QStackedWidget *m_stack; // the waiting pane, or the panels
     WaitingPane *m_waiting;
     QWidget *m_panes; // parent of the device's panels
     std::unique_ptr<DialogSession> m_session;
+    SessionCautions m_cautions;
     PresetMenu *m_presets;
     PrinterPane *m_printer;
     DocumentPreview *m_preview;
-    ConflictBar *m_conflictBar;
+    CautionBar *m_cautionBar;
     QLabel *m_foot;
     QProgressBar *m_progress;
     QPushButton *m_details, *m_help, *m_cancel, *m_print;
@@ -148,7 +156,11 @@ private:
     QElapsedTimer m_sinceReady; // for the printer, or known not to be
     QMap<QString, QString> m_secrets;
 
+    PanelPlaces::Place m_place; // among the panels that were shown last
+    QTimer m_watch;             // asks what the printer is doing
+
     std::unique_ptr<PrintRun> m_run;
+    SentMessage m_sent;
     ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
     QString m_printProblem;
     std::optional<ExitStatus> m_finished;

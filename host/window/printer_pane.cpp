@@ -4,6 +4,7 @@
 #include "popup_button.h"
 #include "preset_menu.h"
 #include "spin_field.h"
+#include "tool_tip.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -59,9 +60,7 @@ QString toolTipFor(const Printer &printer)
         if (!text.isEmpty())
             lines.append(text);
     }
-    // As text: names and places come from the server.
-    return QStringLiteral("<qt>%1</qt>")
-        .arg(lines.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    return plainToolTip(lines.join(u'\n'));
 }
 
 } // namespace
@@ -283,7 +282,9 @@ void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
     m_hasPaper = !papers.items.empty();
     m_paperName = settings.paperName;
     if (!m_hasPaper)
-        papers.items.push_back({.text = tr("As the printer has it")});
+        papers.items.push_back({.text = settings.paperName.isEmpty() ? tr("As the printer has it")
+                                                                     : settings.paperName,
+                                .key = settings.paperName});
     else if (ppd && !settings.paperName.isEmpty() && !ppd->findPageSize(settings.paperName))
         papers.items.push_back({.text = paperSize(settings.paperName, *ppd)
                                     ? tr("Custom: %1").arg(settings.paperName.section(u'.', 1))

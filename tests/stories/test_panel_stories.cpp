@@ -27,6 +27,7 @@ private slots:
     void endsWhileAPanelAsks();
     void putsSeparatorsBetweenTransparencies();
     void saysWhatPanelsEntered();
+    void saysWhatWillBeMissing();
     void keepsWhatWasSetLast_data();
     void keepsWhatWasSetLast();
     void keepsItsSettingsWhileOthersChange();
@@ -265,6 +266,26 @@ void TestPanelStories::saysWhatPanelsEntered()
     for (const char *words : {"Job type: Sample set", "Invert image: Mirror image"})
         QVERIFY2(run.out.contains(words), qPrintable(run.out));
     QVERIFY(!run.out.contains("Negative image"));
+}
+
+// A cover without a source is forgotten when another panel is shown, and pages are cut:
+// both are said once, and stand in the summary until the end.
+void TestPanelStories::saysWhatWillBeMissing()
+{
+    const Desk desk;
+    write(desk.path("cover.kps"),
+          "panel SpecialPages\nclick @addCovers\nchoose @coverOptions 2\n"
+          "item @frontStockButton 'Sclr' key Blue\nclick @okButton\n"
+          "panel PaperOutput\ntab 2\ntab 1\nexpect @conflictBar visible true\nsummary\nprint\n");
+    const Run run = desk.run({"--demo", "--no-window", "--script", "cover.kps", "--to", "out", "-o",
+                              "PageSize=A5", "-P", "1,3-4"});
+    QENDED(run, 0);
+    const QStringList messages = run.messages();
+    QCOMPARE(messages.size(), 2);
+    QVERIFY(messages[0].startsWith("kelvo-print: caution: The front cover has no paper source"));
+    QVERIFY(messages[1].startsWith("kelvo-print: caution: Pages 1 and 3–4 are larger"));
+    QVERIFY(run.out.startsWith("Cautions:\n  Pages 1 and 3–4 are larger"));
+    QVERIFY(run.out.contains("\n  The front cover has no paper source"));
 }
 
 void TestPanelStories::keepsWhatWasSetLast_data()

@@ -94,6 +94,8 @@ private slots:
     void givesTheSameTicketEachTime();
     void takesDocumentsFromStandardInput();
     void printsToAQueue();
+    void saysWhyAPrinterDoesNotPrint();
+    void saysWhatARawQueueIsTold();
     void sendsDividersToAQueue();
     void cutsPagesOnlyOnce();
     void refusesASecretThatWouldLieOpen_data();
@@ -262,6 +264,53 @@ void TestStories::printsToAQueue()
     QCOMPARE(job.options.value(ticketOption).size(), 1);
     QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).first(), "none"),
              QString());
+}
+
+void TestStories::saysWhyAPrinterDoesNotPrint()
+{
+    for (const char *queue : {"Stopped", "Closed"})
+        QCOMPARE(m_cups.addQueue(queue, fullPpd), QString());
+    QCOMPARE(m_cups.administer({"-r", "Toner is on order", "Stopped"}, "cupsdisable"), QString());
+    QCOMPARE(m_cups.administer({"-r", "Moving house", "Closed"}, "cupsreject"), QString());
+    const Desk desk;
+
+    const Run stopped = desk.run({"-d", "Stopped", "--no-window", documentPath});
+    QENDED(stopped, 0);
+    QVERIFY(stopped.out.startsWith("Stopped-"));
+    QCOMPARE(stopped.messages().size(), 1);
+    QVERIFY(stopped.messages().front().startsWith(
+        "kelvo-print: caution: “Stopped” is stopped: Toner is on order. "));
+
+    const Run closed = desk.run({"-d", "Closed", "--no-window", documentPath});
+    QENDED(closed, 1);
+    QCOMPARE(closed.out, QString());
+    QVERIFY(closed.err.contains("kelvo-print: “Closed” takes no jobs: Moving house. "));
+}
+
+// A queue without a PPD: the words, the window and the job agree.
+void TestStories::saysWhatARawQueueIsTold()
+{
+    QCOMPARE(m_cups.addQueue("Raw", {}), QString());
+    const Desk desk;
+    QVERIFY(writeTicketFile(desk.path("t.plist"), ticketWith({{"Duplex", "DuplexTumble"}})));
+    write(
+        desk.path("raw.kps"),
+        "expect @waitingText text \"The print server has no description of its settings.\\n"
+        "Copies and pages work as usual. Paper, orientation and collating are passed on; "
+        "whether they are heeded is up to the printer.\"\n"
+        "expect @paper text \"A4\"\nexpect @paper enabled false\n"
+        "expect @summary text \"6 pages, 6 sheets\"\n"
+        "expect @conflictText text \"Not sent, for the print server has no description of this "
+        "printer: Duplex: DuplexTumble. They are kept, and come back with a printer that has "
+        "them.\"\nsummary\nprint\n");
+
+    const Run run = desk.run({"-d", "Raw", "--no-window", "--script", "raw.kps", "--ticket-in",
+                              "t.plist", "-o", "media=A4", documentPath});
+    QENDED(run, 0);
+    QVERIFY(run.out.contains("Paper: A4 – passed on"));
+    const QString unknown = "the print server has no description of this printer";
+    QVERIFY(run.out.contains("Not sent:\n  Duplex: DuplexTumble – " + unknown));
+    QCOMPARE(run.messages(), QStringList("kelvo-print: Duplex: DuplexTumble: not sent, " + unknown));
 }
 
 void TestStories::sendsDividersToAQueue()

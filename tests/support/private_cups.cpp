@@ -160,14 +160,14 @@ QString PrivateCups::start(Encryption encryption)
     return QStringLiteral("cupsd does not start: ") + textOf(m_process.readAll()) + u'\n' + log();
 }
 
-QString PrivateCups::administer(const QStringList &arguments)
+QString PrivateCups::administer(const QStringList &arguments, const QString &program)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QStringLiteral(LPADMIN), arguments);
+    process.start(QStringLiteral(CUPS_ADMIN_BIN "/") + program, arguments);
     if (process.waitForFinished(10000) && process.exitCode() == 0)
         return {};
-    return QStringLiteral("lpadmin: ") + textOf(process.readAll()) + u'\n' + log();
+    return program + QStringLiteral(": ") + textOf(process.readAll()) + u'\n' + log();
 }
 
 QString PrivateCups::addQueue(const QString &name, const QString &ppdPath,

@@ -32,8 +32,9 @@ public:
     QString addQueue(const QString &name, const QString &ppdPath, const QStringList &options = {});
     // What stands in the place of that queue's PPD from now on, past lpadmin's checks.
     bool damagePpd(const QString &queue, const QByteArray &bytes) const;
-    // lpadmin with any arguments.
-    QString administer(const QStringList &arguments);
+    // lpadmin with any arguments, or another program of the administrator's.
+    QString administer(const QStringList &arguments,
+                       const QString &program = QStringLiteral("lpadmin"));
 
     struct Job
     {

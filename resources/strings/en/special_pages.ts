@@ -21,6 +21,14 @@
         <translation>Front cover</translation>
     </message>
     <message>
+        <source>Front Cover Left Out</source>
+        <translation>The front cover has no paper source: the printer leaves it out.</translation>
+    </message>
+    <message>
+        <source>Back Cover Left Out</source>
+        <translation>The back cover has no paper source: the printer leaves it out.</translation>
+    </message>
+    <message>
         <source>Back Cover</source>
         <translation>Back cover</translation>
     </message>

@@ -243,9 +243,14 @@ void TestJobSettings::workWithoutPpd()
     PrintSession session;
     QVERIFY(applyOption(QStringLiteral("media"), QStringLiteral("A4"), nullptr, session));
     QVERIFY(applyOption(QStringLiteral("sides"), QStringLiteral("one-sided"), nullptr, session));
-    QVERIFY(!applyOption(QStringLiteral("sides"), QStringLiteral("two-sided-long-edge"), nullptr,
-                         session));
-    QVERIFY(!applyOption(QStringLiteral("Duplex"), QStringLiteral("None"), nullptr, session));
+    // What is not known of it is not said of it either.
+    for (const auto &[name, value] :
+         {std::pair("sides", "two-sided-long-edge"), {"Duplex", "None"}}) {
+        const auto applied =
+            applyOption(QLatin1String(name), QLatin1String(value), nullptr, session);
+        QVERIFY(!applied && applied.error().text().contains("no description"));
+    }
+    QVERIFY(!isTwoSided({{"Duplex", "DuplexTumble"}}, nullptr)); // of another printer
     QCOMPARE(jobSettingsFrom(session, nullptr).paperName, QStringLiteral("A4"));
     QVERIFY(session.printSettings().ppdChoices.isEmpty());
 }

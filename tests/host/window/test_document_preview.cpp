@@ -1,5 +1,6 @@
 #include "document_preview.h"
-#include "preview_layout.h"
+#include "page_placement.h"
+#include "preview_captions.h"
 #include "sample_documents.h"
 
 #include <QLabel>
@@ -58,6 +59,7 @@ private slots:
     void showsSpecialSheets();
     void showsPaperAndMessages();
     void drawsWhatIsPrinted();
+    void showsWhatIsCutOff();
 };
 
 void TestDocumentPreview::placesPages_data()
@@ -276,6 +278,29 @@ void TestDocumentPreview::drawsWhatIsPrinted()
 
     preview.setLayout({{{1, 1}}, {202, 300}, Orientation::Portrait, false});
     QTRY_COMPARE(middle(preview), QColor(Qt::red));
+}
+
+// Print at the edges of a page that is larger than the paper is lost: it is in sight
+// all the same, and told from what comes out.
+void TestDocumentPreview::showsWhatIsCutOff()
+{
+    DocumentPreview preview;
+    preview.resize(300, 400);
+    preview.setDocument(documentOf({filled("1 0 0")}));
+    preview.show();
+    QTRY_COMPARE(middle(preview), QColor(Qt::red));
+
+    preview.setLayout({.paper = {101, 150}}); // half of each
+    QVERIFY(caption(preview).endsWith("larger than the paper"));
+    QTRY_VERIFY(!preview.isDrawing());
+    const QImage image = preview.findChild<QWidget *>("previewSheet")->grab().toImage();
+    QCOMPARE(image.pixelColor(image.rect().center()), QColor(Qt::red));
+    const auto redness = [&image](double part) {
+        const QColor colour = image.pixelColor(image.width() / 2, int(image.height() * part));
+        return colour.red() - colour.blue();
+    };
+    QCOMPARE(redness(0.3), 255);
+    QVERIFY(redness(0.15) > 20 && redness(0.15) < 200);
 }
 
 QTEST_MAIN(TestDocumentPreview)

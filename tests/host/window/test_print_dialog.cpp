@@ -5,6 +5,7 @@
 #include "inspector.h"
 #include "modal_dialog.h"
 #include "notice.h"
+#include "notification_service.h"
 #include "popup_button.h"
 #include "presets.h"
 #include "print_dialog.h"
@@ -20,8 +21,10 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -47,6 +50,7 @@ private slots:
     void wrongPagesAreNotPrinted();
     void conflictsAreShownAndFixed();
     void conflictsAreNotPrinted();
+    void severalCautionsStandInARow();
     void theTicketIsWrittenBeforeTheJob();
     void givingUpIsCancelOrTheFailure();
     void aChangedPresetHasAStar();
@@ -61,6 +65,11 @@ private slots:
     void aRefusalHasOneStatusWhereverItIsFound();
     void settingsComeBackWithTheirPrinter();
     void aPrinterChosenAgainBeginsOnce();
+    void thePanelStaysWhenThePrinterChanges();
+    void aStoppedPrinterIsAskedAbout();
+    void aPrinterThatTakesNoJobsIsWaitedFor();
+    void theDesktopTellsThatAJobIsOut();
+    void aDeadDesktopKeepsNobody();
 
     void theFirstKeyIsHeard();
     void returnPrintsOnlyFromThePrintButton();
@@ -444,6 +453,30 @@ void TestPrintDialog::conflictsAreNotPrinted()
     QVERIFY(!written("options").contains("SinglePortrait"));
 }
 
+void TestPrintDialog::severalCautionsStandInARow()
+{
+    auto begin = options("kelvo-corvane-bare.ppd");
+    begin.line.options = {{"media", "A5"}};
+    begin.ticketIn = TicketFile();
+    begin.ticketIn->printSettings.ppdChoices = {{"KVPunch", "2HolePunch"}};
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    QVERIFY2(shown.text("conflictText").startsWith("Pages 1–6 are larger"),
+             qPrintable(shown.text("conflictText")));
+    QVERIFY(shown.text("cautionText2").contains("2HolePunch"));
+    QVERIFY(shown.dialog.jobInWords().startsWith("Cautions:\n  Pages 1–6 are larger"));
+
+    shown.find<QPushButton>("hideMissing")->click();
+    QVERIFY(shown.isShown("conflictText") && !shown.isShown("cautionText2"));
+    QVERIFY(shown.choose("pagesChoice", "range"));
+    QVERIFY(!inspector::type(shown.find<QWidget>("pages"), "2,4-6"));
+    QVERIFY(shown.waitUntilIdle());
+    QVERIFY(shown.text("conflictText").startsWith("Pages 2 and 4–6 are larger"));
+    NoticeAnswer details(1);
+    shown.find<QPushButton>("conflictDetails")->click();
+    QVERIFY(details.text.contains("Pages 2 and 4–6") && details.text.contains("2HolePunch"));
+}
+
 void TestPrintDialog::theTicketIsWrittenBeforeTheJob()
 {
     auto begin = options();
@@ -823,6 +856,154 @@ void TestPrintDialog::aPrinterChosenAgainBeginsOnce()
     QCOMPARE(m_panels->calls.count("PDEShell terminate"), 1);
 }
 
+void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
+    QCOMPARE(cups.addQueue("Raw", {}), QString());
+    auto begin = options();
+    begin.bundle = m_bundle;
+    begin.device.reset();
+    begin.line.destination = "Full";
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    const auto place = [&shown] {
+        const auto *tabs = findControl<PopupButton>(&shown.dialog, {kShellSignature, 16});
+        const auto *panels = shown.find<QTabBar>("panelSwitch");
+        return QStringLiteral("%1, %2").arg(panels->tabText(panels->currentIndex()),
+                                            tabs->currentText());
+    };
+    QVERIFY(shown.dialog.showTab(2));
+    QVERIFY(shown.dialog.showPanel("SpecialPages"));
+    const QString before = place();
+    QCOMPARE(before, "Special Pages, Image Options");
+
+    // Also by way of a printer that has no panels.
+    for (const char *printer : {"Bare", "Raw", "Full"}) {
+        QVERIFY(shown.choose("printer", printer));
+        QVERIFY(shown.waitUntilIdle());
+        if (shown.isShown("panelSwitch"))
+            QCOMPARE(place(), before);
+    }
+    QVERIFY(shown.find<QWidget>("specialPagesList")->isVisible());
+}
+
+void TestPrintDialog::aStoppedPrinterIsAskedAbout()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.administer({"-r", "Toner & drum on order", "Hall-3"}, "cupsdisable"), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.toFolder.reset();
+    begin.line.destination = "Hall-3";
+    Shown shown(begin, false);
+    QTRY_VERIFY_WITH_TIMEOUT(shown.isShown("conflictBar")
+                                 && shown.text("conflictText").contains("Toner & drum on order"),
+                             15000);
+    // The tool tip too shows what was written, and no markup.
+    QTextDocument toolTip;
+    toolTip.setHtml(shown.find<QWidget>("printer")->toolTip());
+    QVERIFY(toolTip.toPlainText().contains("Toner & drum on order"));
+
+    NoticeAnswer cancel(2);
+    shown.dialog.pressPrint();
+    QVERIFY2(cancel.text.contains("Toner & drum on order"), qPrintable(cancel.text));
+    QVERIFY(!shown.dialog.isPrinting());
+    QVERIFY(shown.dialog.isVisible());
+    NoticeAnswer anyway(1);
+    shown.dialog.pressPrint();
+    QVERIFY(shown.waitUntilEnded());
+    QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+}
+
+void TestPrintDialog::aPrinterThatTakesNoJobsIsWaitedFor()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.administer({"-r", "Closed for inventory", "Hall-3"}, "cupsreject"), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.toFolder.reset();
+    begin.line.destination = "Hall-3";
+    {
+        Shown driven(begin);
+        QVERIFY(driven.waitUntilIdle());
+        driven.dialog.pressPrint();
+        QCOMPARE(driven.dialog.lastPrintStatus(), ExitStatus::Failed);
+        QVERIFY(driven.dialog.lastPrintProblem().contains("Closed for inventory"));
+    }
+    {
+        // A job that goes elsewhere needs no printer.
+        auto elsewhere = begin;
+        elsewhere.line.toFolder = m_folder->filePath("job");
+        Shown driven(elsewhere);
+        QVERIFY(driven.waitUntilIdle());
+        QVERIFY(!driven.isShown("conflictBar"));
+        QVERIFY(driven.find<QPushButton>("print")->isEnabled());
+    }
+    Shown shown(begin, false);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        shown.isShown("conflictBar") && !shown.find<QPushButton>("print")->isEnabled(), 15000);
+    QCOMPARE(cups.administer({"Hall-3"}, "cupsaccept"), QString());
+    QTRY_VERIFY_WITH_TIMEOUT(shown.find<QPushButton>("print")->isEnabled(), 15000);
+    QVERIFY(!shown.isShown("conflictBar"));
+}
+
+void TestPrintDialog::theDesktopTellsThatAJobIsOut()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    NotificationService desktop;
+    QCOMPARE(desktop.start(), QString());
+    auto begin = options();
+    begin.device.reset();
+    begin.line.toFolder.reset();
+    begin.line.destination = "Hall-3";
+    begin.document->title = "Profit & loss";
+    {
+        Shown shown(begin, false);
+        QVERIFY(shown.waitUntilIdle());
+        shown.dialog.pressPrint();
+        QVERIFY(shown.waitUntilEnded());
+        QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+        QCOMPARE(desktop.shown(), QStringList("Hall-3-1 sent|Profit &amp; loss"));
+    }
+    // Whoever drives it reads its output.
+    Shown driven(begin);
+    QVERIFY(driven.waitUntilIdle());
+    driven.dialog.pressPrint();
+    QVERIFY(driven.waitUntilEnded());
+    QTest::qWait(50);
+    QCOMPARE(desktop.shown().size(), 1);
+}
+
+void TestPrintDialog::aDeadDesktopKeepsNobody()
+{
+    const UnreliableServer silent(UnreliableServer::Trouble::NeverAnswers);
+    qputenv("DBUS_SESSION_BUS_ADDRESS",
+            QStringLiteral("tcp:host=127.0.0.1,port=%1").arg(silent.port()).toUtf8());
+    const auto restore = qScopeGuard([] { qunsetenv("DBUS_SESSION_BUS_ADDRESS"); });
+    for (const bool isImpatient : {false, true}) {
+        Shown shown(options(), false);
+        QVERIFY(shown.waitUntilIdle());
+        shown.dialog.pressPrint();
+        QVERIFY(QTest::qWaitFor([&shown] { return shown.text("summary").contains("Written to"); },
+                                15000));
+        QVERIFY(!shown.dialog.finished()); // the line can be read
+        if (isImpatient)
+            shown.find<QPushButton>("cancel")->click();
+        else
+            QVERIFY(shown.waitUntilEnded());
+        QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+    }
+}
+
 // ---- keyboard and looks
 
 void TestPrintDialog::theFirstKeyIsHeard()
@@ -982,7 +1163,10 @@ void TestPrintDialog::everythingFits()
         QApplication::setPalette(usualPalette);
     });
     auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
+    // A conflict and a caution.
+    begin.line.options = {{"StapleLocation", "SinglePortrait"},
+                          {"MediaType", "Transparency"},
+                          {"media", "A5"}};
     Shown shown(begin);
     shown.dialog.resize(size);
     QVERIFY(shown.waitUntilIdle());
@@ -992,6 +1176,7 @@ void TestPrintDialog::everythingFits()
                                  + ".png");
 
     QCOMPARE(shown.isShown("printer"), showsColumn);
+    QVERIFY(shown.isShown("fix") && shown.isShown("cautionText2"));
     auto *scroll = shown.find<QScrollArea>("panels");
     QCOMPARE(scroll->verticalScrollBar()->isVisible(), scrolls);
     QVERIFY(!scroll->horizontalScrollBar()->isVisible());

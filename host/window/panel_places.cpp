@@ -1,0 +1,127 @@
+#include "panel_places.h"
+
+#include "control.h"
+#include "extension.h"
+#include "panel_switch.h"
+#include "popup_button.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+constexpr ControlID shellSelector = {kShellSignature, 16};
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kelvo::PanelPlaces", text);
+}
+
+} // namespace
+
+PanelPlaces::PanelPlaces(QWidget *window, PanelSwitch *panelSwitch)
+    : m_window(window)
+    , m_switch(panelSwitch)
+{
+}
+
+PopupButton *PanelPlaces::selector() const
+{
+    return findControl<PopupButton>(m_window, shellSelector);
+}
+
+Result<void> PanelPlaces::showPanel(Extension &panels, const QString &name)
+{
+    QStringList names;
+    for (std::size_t i = 0; i < panels.panels().size(); ++i) {
+        if (panels.panels()[i].name == name) {
+            m_switch->setCurrentIndex(int(i));
+            return {};
+        }
+        names.append(panels.panels()[i].name);
+    }
+    // The shell names its own panes in the same way.
+    const auto panes = panels.panels().front().pane->findChildren<QWidget *>();
+    for (const QWidget *pane : panes) {
+        const auto id = controlIDOf(pane);
+        if (!id || id->signature != kUserPaneSignature)
+            continue;
+        if (pane->objectName() == name)
+            return showTab(id->number);
+        names.append(pane->objectName());
+    }
+    return Error{
+        Code::NotFound, name,
+        tr("there is no such panel here; there are: %1").arg(names.join(QStringLiteral(", ")))};
+}
+
+Result<void> PanelPlaces::showTab(int number)
+{
+    m_switch->setCurrentIndex(0);
+    PopupButton *tabs = selector();
+    if (!tabs)
+        return Error{Code::NotFound, QString::number(number), tr("there are no tabs")};
+    // A tab keeps its number where others are not there.
+    const auto &items = tabs->menu().items;
+    QStringList names;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i].reference != number) {
+            names.append(QStringLiteral("%1 (%2)").arg(items[i].reference).arg(items[i].text));
+            continue;
+        }
+        const int row = int(i) + 1;
+        if (tabs->value() != row && !tabs->choose(row))
+            return Error{Code::Refused, QString::number(number), tr("the tab cannot be chosen")};
+        return {};
+    }
+    return Error{
+        Code::OutOfRange, QString::number(number),
+        tr("there is no such tab here; there are: %1").arg(names.join(QStringLiteral(", ")))};
+}
+
+QString PanelPlaces::placeOf(const QWidget *control, const Extension &panels)
+{
+    for (const Extension::Panel &panel : panels.panels()) {
+        if (!panel.pane->isAncestorOf(control))
+            continue;
+        for (const QWidget *widget = control; widget != panel.pane;
+             widget = widget->parentWidget()) {
+            const auto id = controlIDOf(widget);
+            if (id && id->signature == kUserPaneSignature)
+                return tr("tab %1, %2").arg(id->number).arg(widget->objectName());
+        }
+        return tr("panel %1").arg(panel.name);
+    }
+    return {};
+}
+
+PanelPlaces::Place PanelPlaces::current(const Extension &panels) const
+{
+    Place place;
+    if (const int shown = panels.shownPanel(); shown >= 0)
+        place.panel = panels.panels()[static_cast<std::size_t>(shown)].name;
+    if (const PopupButton *tabs = selector())
+        place.tab = tabs->chosenReference();
+    return place;
+}
+
+void PanelPlaces::goTo(const Place &place, Extension &panels)
+{
+    PopupButton *tabs = selector();
+    const auto rows = tabs ? tabs->menu().items : std::vector<MenuItem>();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const int row = int(i) + 1;
+        if (rows[i].reference == place.tab && row != tabs->value())
+            tabs->choose(row);
+    }
+    for (std::size_t i = 0; i < panels.panels().size(); ++i) {
+        if (panels.panels()[i].name == place.panel)
+            panels.show(int(i));
+    }
+}
+
+} // namespace kelvo

@@ -1,0 +1,134 @@
+#include "cautions.h"
+#include "left_out_covers.h"
+
+#include <QTest>
+
+using namespace kelvo;
+
+using Cover = LeftOutCovers::Cover;
+using Weight = Caution::Weight;
+
+Q_DECLARE_METATYPE(kelvo::PrinterCondition)
+
+class TestCautions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void saysWhyAPrinterDoesNotPrint_data();
+    void saysWhyAPrinterDoesNotPrint();
+    void numbersThePagesThatAreCut_data();
+    void numbersThePagesThatAreCut();
+    void remembersCoversThatAreLeftOut_data();
+    void remembersCoversThatAreLeftOut();
+};
+
+void TestCautions::saysWhyAPrinterDoesNotPrint_data()
+{
+    using enum PrinterCondition::State;
+    QTest::addColumn<PrinterCondition>("condition");
+    QTest::addColumn<int>("weight"); // -1: nothing is to be said
+    QTest::addColumn<QString>("text");
+    const auto condition = [](PrinterCondition::State state, bool accepts, const char *message,
+                              const QStringList &reasons) {
+        return PrinterCondition{state, accepts, stateWords(QString::fromUtf8(message), reasons)};
+    };
+    const int asked = int(Weight::Asked);
+    const int refused = int(Weight::Refused);
+
+    QTest::newRow("idle") << condition(Idle, true, "Ready.", {"none"}) << -1 << "";
+    QTest::newRow("busy, and paper low")
+        << condition(Busy, true, "", {"media-low-warning"}) << -1 << "";
+    QTest::newRow("stopped by somebody who says why")
+        << condition(Stopped, true, " Toner is\non order. ", {"paused"}) << asked
+        << "“Q” is stopped: Toner is on order.";
+    QTest::newRow("stopped without a word")
+        << condition(Stopped, true, "Paused", {"paused"}) << asked << "“Q” is stopped.";
+    QTest::newRow("reasons of the device")
+        << condition(Stopped, true, "",
+                     {"media-empty-error", "door-open-report", "com.example-glued", "other"})
+        << asked << "“Q” is stopped: there is no paper, a door is open, com.example glued.";
+    QTest::newRow("takes no jobs")
+        << condition(Idle, false, "Rejecting Jobs", {"none"}) << refused << "“Q” takes no jobs.";
+    QTest::newRow("takes no jobs, and is stopped")
+        << condition(Stopped, false, "Closed", {"paused"}) << refused
+        << "“Q” takes no jobs: Closed.";
+}
+
+void TestCautions::saysWhyAPrinterDoesNotPrint()
+{
+    QFETCH(PrinterCondition, condition);
+    QFETCH(int, weight);
+    QFETCH(QString, text);
+    const auto caution = printerCaution("Q", condition);
+    QCOMPARE(caution ? int(caution->weight) : -1, weight);
+    QCOMPARE(caution ? caution->text : QString(), text);
+}
+
+void TestCautions::numbersThePagesThatAreCut_data()
+{
+    QTest::addColumn<QList<int>>("pages");
+    QTest::addColumn<QString>("begin"); // empty: nothing is to be said
+    QList<int> many;
+    for (int page = 1; page < 40; page += 2)
+        many << page;
+
+    QTest::newRow("none") << QList<int>() << "";
+    QTest::newRow("one") << QList<int>{7} << "Page 7 is larger than the paper, A4: ";
+    QTest::newRow("neighbours") << QList<int>{1, 2} << "Pages 1–2 are larger ";
+    QTest::newRow("both") << QList<int>{2, 4, 5, 6, 9} << "Pages 2, 4–6 and 9 are larger ";
+    QTest::newRow("many") << many << "Pages 1, 3, 5, 7, 9, 11, 13, 15 and 12 more are larger ";
+}
+
+void TestCautions::numbersThePagesThatAreCut()
+{
+    QFETCH(QList<int>, pages);
+    QFETCH(QString, begin);
+    const auto caution = cutPagesCaution(pages, "A4");
+    QCOMPARE(caution.has_value(), !begin.isEmpty());
+    if (caution)
+        QVERIFY2(caution->text.startsWith(begin), qPrintable(caution->text));
+}
+
+void TestCautions::remembersCoversThatAreLeftOut_data()
+{
+    // What the ticket says each time, "-" for no choice, and where the user is then.
+    QTest::addColumn<QStringList>("looks");
+    QTest::addColumn<int>("last");
+
+    QTest::newRow("no cover") << QStringList{"None 1", "None 2"} << int(Cover::None);
+    QTest::newRow("with a source") << QStringList{"Tray2 1"} << int(Cover::None);
+    QTest::newRow("without one") << QStringList{"None 1", "- 1"} << int(Cover::LeftOut);
+    QTest::newRow("still held elsewhere") << QStringList{"- 1", "- 2"} << int(Cover::LeftOut);
+    QTest::newRow("given a source") << QStringList{"- 1", "Tray2 1"} << int(Cover::None);
+    QTest::newRow("taken away") << QStringList{"- 1", "None 1"} << int(Cover::None);
+    QTest::newRow("forgotten by the next panel")
+        << QStringList{"- 1", "None 2"} << int(Cover::Gone);
+    QTest::newRow("forgotten for good")
+        << QStringList{"- 1", "None 2", "None 2", "None 1"} << int(Cover::Gone);
+    QTest::newRow("chosen anew") << QStringList{"- 1", "None 2", "Auto 2"} << int(Cover::None);
+}
+
+void TestCautions::remembersCoversThatAreLeftOut()
+{
+    QFETCH(QStringList, looks);
+    QFETCH(int, last);
+    const auto ppd =
+        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    QVERIFY(ppd);
+    SpecialSheetKeys keys;
+    keys.backCover.option = "KVBackCoverSheet";
+    keys.backCover.none = "None";
+    LeftOutCovers covers;
+    for (const QString &look : looks) {
+        PPDDictionary choices;
+        if (const QString choice = look.section(u' ', 0, 0); choice != "-")
+            choices.insert(keys.backCover.option, choice);
+        covers.look(keys, choices, ppd.value().get(), look.section(u' ', 1));
+    }
+    QCOMPARE(int(covers.back()), last);
+    QCOMPARE(covers.front(), Cover::None); // the device has no such option
+}
+
+QTEST_GUILESS_MAIN(TestCautions)
+#include "test_cautions.moc"
