@@ -569,10 +569,13 @@ void DialogSession::openTheDocument()
         return;
     m_openingCancelled = std::make_shared<std::atomic_bool>(false);
     const auto take = [this](Result<Document> opened) {
-        if (opened)
+        if (opened) {
             m_document = std::move(opened).value();
-        else
+            if (const QString remark = m_document.remark(); !remark.isEmpty())
+                printLine(stderr, QStringLiteral("kelvo-print: %1: %2").arg(title(), remark));
+        } else {
             m_documentProblem = tr("The document cannot be opened: %1").arg(opened.error().text());
+        }
         emit documentChanged();
     };
     const bool isStarted = m_opening.start(

@@ -173,8 +173,8 @@ private slots:
     void saysThatTheDiskIsFull_data();
     void saysThatTheDiskIsFull();
     void saysThatTheDiskIsFullWhenCutting();
+    void doesNotWaitForASilentPipe();
     void stopsWhenCancelled();
-    void survivesACrashingHelper();
     void namesTheMissingPackage();
     void readsStandardInput();
     void placesPictures_data();
@@ -594,6 +594,31 @@ void TestDocuments::saysThatTheDiskIsFullWhenCutting()
     QCOMPARE(cut.error().code, Error::Code::NotWritable);
 }
 
+void TestDocuments::doesNotWaitForASilentPipe()
+{
+    QVERIFY(::mkfifo("silent", 0600) == 0);
+    const std::atomic_bool cancelled = false;
+    const Result<Document> silent = openDocument({"silent", {}, 300}, cancelled);
+    QVERIFY(!silent);
+    QCOMPARE(silent.error().code, Error::Code::TimedOut);
+    QVERIFY2(silent.error().detail.contains("0.3 seconds"), qPrintable(silent.error().detail));
+
+    // A slow one is no silent one.
+    std::thread writer([] {
+        QFile pipe("silent");
+        if (!pipe.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return;
+        for (int part = 0; part < 4; ++part) {
+            pipe.write("text ");
+            std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        }
+    });
+    const Result<Document> slow = openDocument({"silent", {}, 1500}, cancelled);
+    writer.join();
+    QVERIFY2(slow, qPrintable(slow.reason()));
+    QCOMPARE(textOf(slow.value()), "text text text text");
+}
+
 void TestDocuments::stopsWhenCancelled()
 {
     QVERIFY(::mkfifo("pipe", 0600) == 0);
@@ -611,20 +636,6 @@ void TestDocuments::stopsWhenCancelled()
         QCOMPARE(document.error().code, Error::Code::Cancelled);
         QVERIFY(timer.elapsed() < 20'000);
     }
-}
-
-void TestDocuments::survivesACrashingHelper()
-{
-    const QString program = file("helper", "#!/bin/sh\nkill -SEGV $$\n");
-    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    setPictureHelperProgram(program);
-
-    const Result<Document> document = open(file("picture", picture("png", {20, 30})));
-
-    setPictureHelperProgram({});
-    QVERIFY(!document);
-    QCOMPARE(document.error().code, Error::Code::Damaged);
-    QVERIFY2(document.error().detail.contains("crashed"), qPrintable(document.error().detail));
 }
 
 void TestDocuments::namesTheMissingPackage()
@@ -692,13 +703,5 @@ void TestDocuments::placesPictures()
     QCOMPARE(placement.picture.size(), placed.size());
 }
 
-// The pictures' child process is this program.
-int main(int argc, char **argv)
-{
-    if (argc == 4 && std::strcmp(argv[1], "--picture-helper") == 0)
-        return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
-    QCoreApplication application(argc, argv);
-    TestDocuments test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestDocuments)
 #include "test_documents.moc"

@@ -4,14 +4,17 @@
 #endif
 #include <pango/pangocairo.h>
 
-#include "functions.h"
+#include "confinement.h"
+#include "font_folders.h"
 #include "pdf_canvas.h"
 #include "size_limits.h"
+#include "tasks.h"
 
 #include <QFile>
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <optional>
 
 namespace kelvo::documents {
 
@@ -142,7 +145,7 @@ public:
             const qsizetype length = pieceLength(text);
             const bool isLast = length == text.size();
             text = text.sliced(addLines(text.first(length), isLast));
-        } while (!text.isEmpty() && !m_isFailed);
+        } while (!text.isEmpty() && !isFailed());
     }
 
     void endPage()
@@ -199,26 +202,25 @@ private:
 
 } // namespace
 
-Result<void> convertText(const ConverterFiles &files, const QSizeF &paper,
-                         const std::atomic_bool &cancelled)
+Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
 {
     QFile file(files.source);
     if (!file.open(QIODevice::ReadOnly))
         return Error{Error::Code::NotReadable, files.where, file.errorString()};
+    Result<PdfCanvas> canvas = PdfCanvas::create(files.pdf);
+    if (!canvas)
+        return canvas.error();
+    confineTo(fontFolders());
+
     const std::optional<QByteArray> text = textFrom(file.readAll());
     if (!text) {
         return Error{Error::Code::Unsupported, files.where,
                      QStringLiteral("this begins like a text but holds bytes that no text has")};
     }
 
-    Result<PdfCanvas> canvas = PdfCanvas::create(files.pdf);
-    if (!canvas)
-        return canvas.error();
     Typesetter typesetter(canvas.value(), paper);
     QByteArrayView rest(*text);
     while (!rest.isEmpty() && !typesetter.isFailed()) {
-        if (cancelled)
-            return Error{Error::Code::Cancelled, files.where, {}};
         if (typesetter.pages() >= limits::documentPages) {
             return Error{Error::Code::TooLarge, files.where,
                          QStringLiteral("a text of more than %1 pages is not printed")
