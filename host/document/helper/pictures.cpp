@@ -2,6 +2,7 @@
 #include "font_folders.h"
 #include "pdf_canvas.h"
 #include "size_limits.h"
+#include "svg_references.h"
 #include "tasks.h"
 
 #include <QBuffer>
@@ -201,8 +202,9 @@ Result<QString> convertSvg(QFile &source, const ConverterFiles &files)
     ::tzset(); // the PDF says when it was made
     confineTo(fontFolders(), files.folder);
 
+    const std::optional<ClosedSvg> svg = withoutReferences(source.readAll());
     QSvgRenderer renderer;
-    const bool isLoaded = renderer.load(source.readAll());
+    const bool isLoaded = svg && renderer.load(svg->bytes);
     const QSizeF size = QSizeF(renderer.defaultSize()) * 72 / 96; // CSS pixels
     if (!isLoaded || size.isEmpty())
         return pictureError(Error::Code::Damaged, QStringLiteral("the drawing cannot be read"));
@@ -225,7 +227,11 @@ Result<QString> convertSvg(QFile &source, const ConverterFiles &files)
     file.close();
     if (Result<void> closed = output.value().close(); !closed)
         return closed.error();
-    return QString();
+    return svg->leftOut == 0
+        ? QString()
+        : QStringLiteral("the drawing shows or uses %1 other file(s), which are left out: only "
+                         "what a drawing holds itself is printed; embed them in it")
+              .arg(svg->leftOut);
 }
 
 Result<QString> convert(const ConverterFiles &files)

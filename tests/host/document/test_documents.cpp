@@ -158,6 +158,8 @@ private slots:
     void refusesWhatItCannotPrint();
     void obeysSizeLimits_data();
     void obeysSizeLimits();
+    void keepsOutOtherFiles_data();
+    void keepsOutOtherFiles();
     void setsTexts_data();
     void setsTexts();
     void fillsPagesBetweenTheMargins();
@@ -324,6 +326,95 @@ void TestDocuments::obeysSizeLimits()
     QFile::remove(path);
     QVERIFY(!document);
     QCOMPARE(document.error().code, code);
+}
+
+// What a drawing shows of other files, and of pictures that it holds.
+void TestDocuments::keepsOutOtherFiles_data()
+{
+    QTest::addColumn<QByteArray>("inside"); // of an <svg> of 10 by 10; FILE is a red picture
+    QTest::addColumn<bool>("isRed");
+    QTest::addColumn<bool>("isSaid");
+    const auto base64 = [](const QByteArray &bytes) { return bytes.toBase64(); };
+    const QByteArray png = base64(picture("png", {10, 10}));
+    const auto image = [](const QByteArray &address, const char *attribute = "xlink:href") {
+        return QByteArray("<image width='10' height='10' ") + attribute + "='" + address + "'/>";
+    };
+    const auto svg = [](const QByteArray &inside) {
+        return "<svg xmlns='http://www.w3.org/2000/svg' "
+               "xmlns:xlink='http://www.w3.org/1999/xlink' width='10' height='10'>"
+            + inside + "</svg>";
+    };
+    const auto held = [&](const QByteArray &inside) {
+        return image("data:image/svg+xml;base64," + base64(svg(inside)));
+    };
+    const QByteArray style = "rect{fill:#ff0000}";
+    const QByteArray rect = "<rect width='10' height='10'/>";
+
+    QTest::newRow("path") << image("FILE") << false << true;
+    QTest::newRow("path, href") << image("FILE", "href") << false << true;
+    QTest::newRow("path, another prefix") << image("FILE", "x:href") << false << true;
+    QTest::newRow("address") << image("file://FILE") << false << true;
+    QTest::newRow("like data") << image("data/../../../../../../../../../../../../FILE") << false
+                               << true;
+    QTest::newRow("like an anchor") << image("#FILE") << false << true;
+    QTest::newRow("through an entity") << QByteArray(image("&amp;&lt;FILE")) << false << true;
+    QTest::newRow("pipe") << image("PIPE") << false << true;
+    QTest::newRow("in a held drawing") << held(image("FILE")) << false << true;
+    QTest::newRow("in a held drawing of a held drawing")
+        << held(held(image("FILE"))) << false << true;
+    QTest::newRow("pipe in a held drawing") << held(image("PIPE")) << false << true;
+    QTest::newRow("held drawing, compressed")
+        << image("data:;base64," + base64("\x1f\x8b" + qCompress(svg(image("PIPE"))).mid(4)))
+        << false << true;
+    QTest::newRow("style of another file")
+        << QByteArray("<?xml-stylesheet type=\"text/css\" href=\"STYLE\"?>" + rect) << false
+        << true;
+    QTest::newRow("style's address")
+        << QByteArray("<style>rect{fill:url(FILE)}</style>" + rect) << false << true;
+    QTest::newRow("part of another file")
+        << QByteArray("<use xlink:href='FILE#a'/>") << false << true;
+
+    QTest::newRow("held picture") << image("data:image/png;base64," + png) << true << false;
+    QTest::newRow("held picture, escaped")
+        << image(" data:image/png;base64,\n" + png.toPercentEncoding()) << true << false;
+    QTest::newRow("held drawing") << held("<style>" + style + "</style>" + rect) << true << false;
+    QTest::newRow("part of its own")
+        << QByteArray("<defs><rect id='a' fill='#ff0000' width='10' height='10'/></defs>"
+                      "<use xlink:href='#a'/><a xlink:href='http://example.com/'/>")
+        << true << false;
+    QTest::newRow("gradient of its own")
+        << QByteArray("<linearGradient id='g'><stop stop-color='#ff0000'/></linearGradient>"
+                      "<rect width='10' height='10' style='fill:url(#g)'/>")
+        << true << false;
+}
+
+void TestDocuments::keepsOutOtherFiles()
+{
+    QFETCH(QByteArray, inside);
+    QFETCH(bool, isRed);
+    QFETCH(bool, isSaid);
+    const QString pipe = QDir::current().absoluteFilePath("svg-pipe");
+    ::mkfifo(pipe.toLocal8Bit().constData(), 0600);
+    inside.replace("FILE", file("red.png", picture("png", {10, 10})).toLocal8Bit());
+    inside.replace("PIPE", pipe.toLocal8Bit());
+    inside.replace("STYLE", file("red.css", "rect{fill:#ff0000}").toLocal8Bit());
+    const QString path = file("svg",
+                              "<svg xmlns='http://www.w3.org/2000/svg' "
+                              "xmlns:xlink='http://www.w3.org/1999/xlink' "
+                              "xmlns:x='http://www.w3.org/1999/xlink' width='10' height='10'>"
+                                  + inside + "</svg>");
+
+    QElapsedTimer timer;
+    timer.start();
+    const Result<Document> document = open(path);
+
+    QVERIFY2(document, qPrintable(document.reason()));
+    QVERIFY(timer.elapsed() < 60'000); // nobody writes into the pipe
+    QCOMPARE(!document.value().remark().isEmpty(), isSaid);
+    const auto pdf = Poppler::Document::load(document.value().pdfPath());
+    const QImage page = pdf->page(0)->renderToImage();
+    const QColor middle = page.pixelColor(page.rect().center()); // a JPEG's red is nearly that
+    QCOMPARE(middle.red() > 250 && middle.green() < 5, isRed);
 }
 
 void TestDocuments::setsTexts_data()
