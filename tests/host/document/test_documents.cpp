@@ -162,6 +162,8 @@ private slots:
     void keepsOutOtherFiles();
     void setsTexts_data();
     void setsTexts();
+    void saysWhichFontIsMissing_data();
+    void saysWhichFontIsMissing();
     void fillsPagesBetweenTheMargins();
     void wrapsOneEndlessLine();
     void tellsShownSizes_data();
@@ -450,6 +452,31 @@ void TestDocuments::setsTexts()
 
     QVERIFY2(document, document ? "" : qPrintable(document.error().text()));
     QCOMPARE(textOf(document.value()), text);
+}
+
+void TestDocuments::saysWhichFontIsMissing_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("words"); // in the message; empty: it is printed
+    QTest::newRow("script of history")
+        << QByteArray("one\ntwo \xf0\x92\x80\x80 three\n") << "\"\U00012000\" (U+12000) in line 2";
+    QTest::newRow("script of today") << QByteArray("\xe1\x80\x80") << "Burmese";
+    QTest::newRow("what no font has") << QByteArray("a \xf4\x80\x80\x80 b") << "";
+}
+
+void TestDocuments::saysWhichFontIsMissing()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, words);
+
+    const Result<Document> document = open(file("text", text));
+
+    QCOMPARE(!document, !words.isEmpty());
+    if (!document) {
+        QCOMPARE(document.error().code, Error::Code::Unsupported);
+        const QString detail = document.error().detail;
+        QVERIFY2(detail.contains(words) && detail.contains("fonts-noto"), qPrintable(detail));
+    }
 }
 
 void TestDocuments::fillsPagesBetweenTheMargins()
