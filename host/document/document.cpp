@@ -131,11 +131,8 @@ QString titleOf(const DocumentSource &source)
 Result<std::unique_ptr<TemporaryFolder>> DocumentReader::makeFolder()
 {
     auto folder = std::make_unique<TemporaryFolder>();
-    if (!folder->isValid()) {
-        return isFull(QDir::tempPath())
-            ? notWritable(QDir::temp().filePath(pdfName), ENOSPC)
-            : Error{Error::Code::NotWritable, QDir::tempPath(), folder->errorString()};
-    }
+    if (!folder->isValid())
+        return folderNotMade(folder->errorString());
     return folder;
 }
 

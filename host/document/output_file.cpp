@@ -2,6 +2,7 @@
 
 #include "size_limits.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -39,6 +40,13 @@ Error notWritable(const QString &path, int errorNumber)
                          .arg(qt_error_string(errorNumber))};
     }
     return Error{Error::Code::NotWritable, path, qt_error_string(errorNumber)};
+}
+
+Error folderNotMade(const QString &reason)
+{
+    return isFull(QDir::tempPath())
+        ? notWritable(QDir::temp().filePath(QStringLiteral("x")), ENOSPC)
+        : Error{Error::Code::NotWritable, QDir::tempPath(), reason};
 }
 
 Result<OutputFile> OutputFile::create(const QString &path)

@@ -44,4 +44,7 @@ bool isFull(const QString &folder);
 // full, and what to do. 0: the reason was lost on the way.
 Error notWritable(const QString &path, int errorNumber);
 
+// The error where no temporary folder could be made, for the `reason` that Qt gives.
+Error folderNotMade(const QString &reason);
+
 } // namespace kelvo

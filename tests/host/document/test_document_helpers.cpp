@@ -1,3 +1,4 @@
+#include "confinement.h"
 #include "document.h"
 #include "document_helper.h"
 #include "page_drawing.h"
@@ -8,6 +9,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
+
+#include <fcntl.h>
+#include <linux/landlock.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace kelvo;
 using namespace kelvo::test;
@@ -25,6 +33,8 @@ private slots:
     void areMissedWithAMessage();
     void areForTheirOwnVersionOnly();
     void areAskedForEverything();
+    void openNothingElse_data();
+    void openNothingElse();
     void saySoWhenTheyFail_data();
     void saySoWhenTheyFail();
 };
@@ -128,6 +138,53 @@ void TestDocumentHelpers::areAskedForEverything()
     QVERIFY(!drawing.draw(1, {100, 100}, [] { return false; }).image.isNull());
 
     QCOMPARE(readersHere(), QStringList());
+}
+
+void TestDocumentHelpers::openNothingElse_data()
+{
+    QTest::addColumn<bool>("mayRead"); // what is in a folder that is allowed
+    QTest::newRow("but open files") << false;
+    QTest::newRow("but what is allowed") << true;
+}
+
+void TestDocumentHelpers::openNothingElse()
+{
+    QFETCH(bool, mayRead);
+    QVERIFY(QDir().mkpath("allowed") && QDir().mkpath("folder"));
+    const QByteArray allowed = file("allowed/file", "x").toLocal8Bit();
+    const QByteArray other = file("other", "x").toLocal8Bit();
+    const QByteArray made = QFileInfo("folder/made").absoluteFilePath().toLocal8Bit();
+    const bool hasLandlock =
+        ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) > 0;
+
+    // A bit for each that works in a process that is confined.
+    enum { OpenFile = 1, Allowed = 2, Other = 4, Made = 8, Removed = 16 };
+    const pid_t child = ::fork();
+    QVERIFY(child >= 0);
+    if (child == 0) {
+        const int fd = ::open(other.constData(), O_RDONLY | O_CLOEXEC);
+        ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+        if (mayRead)
+            documents::confineTo({"allowed"}, "folder");
+        else
+            documents::confineToOpenFiles();
+        char byte = 0;
+        int result = ::read(fd, &byte, 1) == 1 ? OpenFile : 0;
+        result |= ::open(allowed.constData(), O_RDONLY | O_CLOEXEC) >= 0 ? Allowed : 0;
+        result |= ::open(other.constData(), O_RDONLY | O_CLOEXEC) >= 0 ? Other : 0;
+        result |= ::open(made.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600) >= 0 ? Made : 0;
+        result |= ::unlink(other.constData()) == 0 ? Removed : 0;
+        if (hasLandlock)
+            ::execl("/bin/true", "true", nullptr);
+        ::_exit(result);
+    }
+    int status = 0;
+    QCOMPARE(::waitpid(child, &status, 0), child);
+    QVERIFY(WIFEXITED(status));
+    if (hasLandlock)
+        QCOMPARE(WEXITSTATUS(status), mayRead ? OpenFile | Allowed | Made : OpenFile);
+    else if (!mayRead)
+        QCOMPARE(WEXITSTATUS(status) & ~Removed, OpenFile);
 }
 
 void TestDocumentHelpers::saySoWhenTheyFail_data()

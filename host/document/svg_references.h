@@ -4,7 +4,7 @@
 
 #include <optional>
 
-namespace kelvo::documents {
+namespace kelvo {
 
 // A drawing that names nothing outside itself.
 struct ClosedSvg
@@ -18,4 +18,4 @@ struct ClosedSvg
 // XML, or drawings hold drawings too deep to be meant.
 std::optional<ClosedSvg> withoutReferences(const QByteArray &svg);
 
-} // namespace kelvo::documents
+} // namespace kelvo

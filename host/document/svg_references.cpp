@@ -6,7 +6,7 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-namespace kelvo::documents {
+namespace kelvo {
 
 namespace {
 
@@ -149,4 +149,4 @@ std::optional<ClosedSvg> withoutReferences(const QByteArray &svg)
     return closed(svg, 0);
 }
 
-} // namespace kelvo::documents
+} // namespace kelvo
