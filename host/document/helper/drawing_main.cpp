@@ -8,6 +8,7 @@
 #include <QImage>
 
 #include <algorithm>
+#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -80,6 +81,8 @@ int main(int argc, char **argv)
     endWithoutMemory();
     const int answers = ::dup(STDOUT_FILENO);
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
+    // A page is a megabyte and more, and a pipe holds a sixteenth of one.
+    ::fcntl(answers, F_SETPIPE_SZ, 1024 * 1024);
     // It reports every oddity of a document on standard error.
     Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
     const QString path = QFile::decodeName(argv[2]);
