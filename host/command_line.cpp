@@ -177,7 +177,7 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--secret", "NAME=FILE", "a secret for the script, in a file of mode 0600", takeSecret},
     {nullptr, "--no-window", nullptr, "show nothing; without a script, print at once", takeFlag<&CommandLine::noWindow>},
     {nullptr, "--to", "DIR", "write document.pdf, options and ticket.plist there\ninstead of sending", takeText<&CommandLine::toFolder>},
-    {nullptr, "--timeout", "SECONDS", "wait this long for the print server, 1 to 3600 (30)", takeTimeout},
+    {nullptr, "--timeout", "SECONDS", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)", takeTimeout},
     {nullptr, "--list-printers", nullptr, "list the queues and end", takeFlag<&CommandLine::listPrinters>},
     {nullptr, "--list-controls", nullptr, "list what scripts can reach, and end", takeFlag<&CommandLine::listControls>},
     {nullptr, "--version", nullptr, "print the version and end", takeFlag<&CommandLine::version>},

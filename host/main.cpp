@@ -279,7 +279,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
             return Failure{ExitStatus::NoDestination, device.error().text()};
         options.device = std::move(device).value();
     }
-    DocumentSource source{line.file, line.title.value_or(QString())};
+    DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
     if (line.file.isEmpty() && line.demo && !line.readsStandardInput) {
         source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
         if (source.path.isEmpty())
@@ -441,14 +441,6 @@ int runApplication(int argc, char **argv, const CommandLine &line)
 
 int main(int argc, char **argv)
 {
-    // The child process that decodes a picture; not for users.
-    if (argc == 4 && std::strcmp(argv[1], "--picture-helper") == 0) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        const QGuiApplication application(argc, argv);
-        std::setlocale(LC_NUMERIC, "C");
-        return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
-    }
-
     qInstallMessageHandler(passMessage);
     // A file that may not grow is an error of its write, which says so.
     std::signal(SIGXFSZ, SIG_IGN);

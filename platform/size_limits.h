@@ -28,10 +28,15 @@ inline constexpr qint64 picturePixels = 200'000'000;
 inline constexpr qint64 textBytes = 64 * MiB; // plain text; some 15,000 pages
 inline constexpr int documentPages = 100'000; // made of a text, or named by page ranges
 
-// The child processes that make PDFs of pictures and PostScript. A picture at
-// its pixel limit takes 800 MB, and as much again where it is turned.
+// The child processes that make PDFs of what users choose, and read and write PDFs.
+// A picture at its pixel limit takes 800 MB, and as much again where it is turned.
 inline constexpr qint64 converterMemory = 3072 * MiB;
 inline constexpr int converterSeconds = 120;
+
+// The child process that draws pages for the preview. The largest picture of a page
+// takes 256 MB twice; what the libraries map is another 300 MB of addresses.
+inline constexpr qint64 drawingMemory = 1536 * MiB;
+inline constexpr int drawingSeconds = 15; // for one page
 
 inline constexpr int fileLockWaitMs = 2000;   // how long a store's lock is waited for
 inline constexpr int optionValueBytes = 4000; // longest option value that always reached a filter

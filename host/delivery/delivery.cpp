@@ -4,6 +4,7 @@
 #include "file_names.h"
 #include "file_store.h"
 #include "job_options.h"
+#include "output_file.h"
 #include "page_ranges.h"
 #include "ppd_words.h"
 #include "queue_ppds.h"
@@ -69,7 +70,7 @@ Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job
     }
     auto folder = std::make_shared<TemporaryFolder>();
     if (!folder->isValid())
-        return Error{Code::NotWritable, folder->path(), folder->errorString()};
+        return folderNotMade(folder->errorString());
     job.pdfPath = folder->filePath(QStringLiteral("document.pdf"));
     job.pdfOwner = folder;
     return replaceTicket(document.pdfPath(), withTicket ? job.ticket : QByteArray(), job.pdfPath);

@@ -1,6 +1,6 @@
 #include "ticket_attachment.h"
 
-#include "document_functions.h"
+#include "embedded_files.h"
 #include "property_list.h"
 
 #include <sys/random.h>
@@ -30,17 +30,13 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
 
 Result<bool> holdsTicket(const QString &path)
 {
-    const auto functions = documentFunctions();
-    return functions ? functions.value()->holdsEmbeddedFile(path, kTicketAttachmentName)
-                     : Result<bool>(functions.error());
+    return holdsEmbeddedFile(path, kTicketAttachmentName);
 }
 
 Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target)
 {
-    const auto functions = documentFunctions();
-    return functions ? functions.value()->replaceEmbeddedFile(source, kTicketAttachmentName,
-                                                              "application/x-plist", ticket, target)
-                     : Result<void>(functions.error());
+    return replaceEmbeddedFile(source, kTicketAttachmentName, "application/x-plist", ticket,
+                               target);
 }
 
 } // namespace kelvo

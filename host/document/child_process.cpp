@@ -1,12 +1,11 @@
 #include "child_process.h"
 
-#include "size_limits.h"
-
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 
+#include <algorithm>
 #include <csignal>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -17,11 +16,16 @@ namespace {
 
 constexpr int pollMs = 100;
 constexpr qsizetype messageBytes = 4096;
+constexpr qsizetype outputBytes = 256 * limits::MiB; // the sizes of 16 million pages
 
-void limit(int resource, qint64 value)
+// At most `value`, or less where less was set before.
+void limit(__rlimit_resource_t resource, qint64 value)
 {
-    const rlimit both{static_cast<rlim_t>(value), static_cast<rlim_t>(value)};
-    ::setrlimit(static_cast<__rlimit_resource_t>(resource), &both);
+    rlimit before = {};
+    ::getrlimit(resource, &before);
+    const rlim_t most = std::min(static_cast<rlim_t>(value), before.rlim_cur);
+    const rlimit both{most, most};
+    ::setrlimit(resource, &both);
 }
 
 // The address sanitizer reserves terabytes that it never touches.
@@ -34,14 +38,20 @@ constexpr bool memoryIsLimited = true;
 #endif
 
 // Between fork and exec: only what is safe there.
-void enterLimits()
+void enterLimits(qint64 memory, int seconds)
 {
     if (memoryIsLimited)
-        limit(RLIMIT_AS, limits::converterMemory);
-    limit(RLIMIT_CPU, limits::converterSeconds);
+        limit(RLIMIT_AS, memory);
+    if (seconds > 0)
+        limit(RLIMIT_CPU, seconds);
+    // The program ignores the signal, and so does a child that has a smaller limit
+    // than ours from the user: to it, that is a full disk.
+    rlimit files = {};
+    ::getrlimit(RLIMIT_FSIZE, &files);
+    if (files.rlim_cur > static_cast<rlim_t>(limits::documentBytes))
+        ::signal(SIGXFSZ, SIG_DFL);
     limit(RLIMIT_FSIZE, limits::documentBytes);
-    ::signal(SIGXFSZ, SIG_DFL); // the program ignores it
-    limit(RLIMIT_CORE, 0);      // a core file would hold the user's document
+    limit(RLIMIT_CORE, 0); // a core file would hold the user's document
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
 }
@@ -51,7 +61,6 @@ QProcessEnvironment childEnvironment(const QString &folder)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("GS_OPTIONS")); // could take -dSAFER back
     environment.insert(QStringLiteral("TMPDIR"), folder);
-    environment.insert(QString::fromLatin1(kConverterVariable), QStringLiteral("1"));
     return environment;
 }
 
@@ -59,7 +68,8 @@ Error timedOut(const QString &where)
 {
     return Error{
         Error::Code::TimedOut, where,
-        QStringLiteral("turning it into PDF took longer than %1 seconds; it may be damaged")
+        QStringLiteral("reading it and making a PDF of it took longer than %1 seconds; it may be "
+                       "damaged")
             .arg(limits::converterSeconds)};
 }
 
@@ -83,55 +93,70 @@ void end(QProcess &process)
     process.waitForFinished(-1);
 }
 
+// What is too much is read all the same, and dropped: a full pipe would hold the
+// child up, a full buffer us.
+void readInto(QByteArray &bytes, const QByteArray &more, qsizetype most)
+{
+    bytes += more.left(most - bytes.size());
+}
+
 } // namespace
 
-Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
-                          const std::atomic_bool &cancelled)
+void prepareChild(QProcess &process, const ChildProgram &child)
 {
-    // A program that does not know the helper's option would start helpers
-    // without end.
-    if (qEnvironmentVariableIsSet(kConverterVariable)) {
-        return Error{Error::Code::Refused, where,
-                     QStringLiteral("a converter must not start another one")};
-    }
-
-    QProcess process;
     process.setProgram(child.program);
     process.setArguments(child.arguments);
     process.setWorkingDirectory(child.folder);
     process.setProcessEnvironment(childEnvironment(child.folder));
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setChildProcessModifier(enterLimits);
+    process.setChildProcessModifier(
+        [memory = child.memory, seconds = child.seconds] { enterLimits(memory, seconds); });
+}
+
+Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
+                          const std::atomic_bool &cancelled)
+{
+    QProcess process;
+    prepareChild(process, child);
+    if (!child.input) {
+        process.setStandardInputFile(QProcess::nullDevice());
+        process.setStandardOutputFile(QProcess::nullDevice());
+    }
     process.start();
     if (!process.waitForStarted(-1)) {
         return Error{Error::Code::NotReadable, where,
                      QStringLiteral("%1 does not start: %2")
                          .arg(QFileInfo(child.program).fileName(), process.errorString())};
     }
+    if (child.input) {
+        process.write(*child.input);
+        process.closeWriteChannel();
+    }
 
     QElapsedTimer timer;
     timer.start();
     QByteArray message;
+    QByteArray output;
+    const auto read = [&] {
+        readInto(message, process.readAllStandardError(), messageBytes);
+        readInto(output, process.readAllStandardOutput(), outputBytes);
+    };
     while (!process.waitForFinished(pollMs) && process.state() != QProcess::NotRunning) {
-        // Read all the time, and what is too much is dropped: a full pipe would
-        // hold the child up, a full buffer us.
-        message += process.readAllStandardError().left(messageBytes - message.size());
+        read();
         if (cancelled) {
             end(process);
             return Error{Error::Code::Cancelled, where, {}};
         }
-        if (timer.hasExpired(limits::converterSeconds * 1000)) {
+        if (child.seconds > 0 && timer.hasExpired(child.seconds * 1000)) {
             end(process);
             return timedOut(where);
         }
     }
-    message += process.readAllStandardError().left(messageBytes - message.size());
+    read();
 
     // After a crash, Qt's exit code on Unix is the signal.
     if (process.exitStatus() == QProcess::CrashExit)
         return crashed(where, process.exitCode());
-    return ChildEnd{process.exitCode(), QString::fromUtf8(message).trimmed()};
+    return ChildEnd{process.exitCode(), output, QString::fromUtf8(message).trimmed()};
 }
 
 } // namespace kelvo

@@ -25,20 +25,22 @@ struct Document::Data
     QString pdfPath;                         // inside the folder
     std::vector<QSizeF> sizes;
     bool isRepaired = false;
+    QString remark;
 };
 
 // Makes documents; the one place that knows how their files lie.
 class DocumentReader
 {
 public:
-    static Result<Document> read(int fd, const QString &where, const QString &title, bool onlyPdf,
+    static Result<Document> read(const OpenSource &source, const QString &title, bool onlyPdf,
                                  const std::atomic_bool &cancelled);
     static Result<Document> select(const Document::Data &whole, const std::vector<PageRun> &runs);
 
 private:
     static Result<std::unique_ptr<TemporaryFolder>> makeFolder();
-    static Result<void> convert(DocumentKind kind, const ConverterFiles &files,
-                                const std::atomic_bool &cancelled);
+    // The value is the document's remark.
+    static Result<QString> convert(DocumentKind kind, const ConverterFiles &files,
+                                   const std::atomic_bool &cancelled);
 };
 
 namespace {
@@ -70,7 +72,8 @@ private:
 
 Result<FileDescriptor> openSource(const QString &path)
 {
-    // Not blocking: a named pipe without a writer would hang here for ever.
+    // Not blocking: a named pipe without a writer would hang here, where nothing counts
+    // the time.
     const int fd =
         ::open(fileNameBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (fd < 0) {
@@ -129,46 +132,48 @@ Result<std::unique_ptr<TemporaryFolder>> DocumentReader::makeFolder()
 {
     auto folder = std::make_unique<TemporaryFolder>();
     if (!folder->isValid())
-        return Error{Error::Code::NotWritable, QDir::tempPath(), folder->errorString()};
+        return folderNotMade(folder->errorString());
     return folder;
 }
 
-Result<void> DocumentReader::convert(DocumentKind kind, const ConverterFiles &files,
-                                     const std::atomic_bool &cancelled)
+Result<QString> DocumentReader::convert(DocumentKind kind, const ConverterFiles &files,
+                                        const std::atomic_bool &cancelled)
 {
-    if (kind == DocumentKind::Text)
-        return convertText(files, localePaper(), cancelled);
-    if (kind == DocumentKind::PostScript)
-        return convertPostScript(files, localePaper(), cancelled);
-    return convertPicture(files, cancelled);
+    if (kind != DocumentKind::Text && kind != DocumentKind::PostScript)
+        return convertPicture(files, cancelled);
+    const Result<void> made = kind == DocumentKind::Text
+        ? convertText(files, localePaper(), cancelled)
+        : convertPostScript(files, localePaper(), cancelled);
+    return made ? Result<QString>(QString()) : Result<QString>(made.error());
 }
 
-Result<Document> DocumentReader::read(int fd, const QString &where, const QString &title,
-                                      bool onlyPdf, const std::atomic_bool &cancelled)
+Result<Document> DocumentReader::read(const OpenSource &opened, const QString &title, bool onlyPdf,
+                                      const std::atomic_bool &cancelled)
 {
+    const QString &where = opened.where;
     auto folder = makeFolder();
     if (!folder)
         return folder.error();
     const QString path = folder.value()->path();
     const QString source = path + QLatin1String("/source");
-    const Result<DocumentKind> kind = copySource(fd, source, where, cancelled);
+    const Result<DocumentKind> kind = copySource(opened, source, cancelled);
     if (!kind)
         return kind.error();
 
+    auto data = std::make_shared<Document::Data>();
     QString unchecked = source;
     if (kind.value() != DocumentKind::Pdf) {
         if (onlyPdf)
             return Error{Error::Code::Damaged, where, QStringLiteral("this is no PDF")};
         unchecked = path + QLatin1String("/converted.pdf");
-        if (Result<void> made = convert(kind.value(), {path, source, unchecked, where}, cancelled);
-            !made) {
+        Result<QString> made = convert(kind.value(), {path, source, unchecked, where}, cancelled);
+        if (!made)
             return made.error();
-        }
+        data->remark = std::move(made).value();
     }
 
-    auto data = std::make_shared<Document::Data>();
     data->pdfPath = path + QLatin1Char('/') + pdfName;
-    Result<PdfPages> pages = tidyPdf(unchecked, data->pdfPath);
+    Result<PdfPages> pages = tidyPdf(unchecked, data->pdfPath, cancelled);
     if (!pages)
         return aboutSource(pages.error(), where);
     // A converter that writes damage has met a full disk or a broken document.
@@ -197,6 +202,7 @@ Result<Document> DocumentReader::select(const Document::Data &whole,
     auto data = std::make_shared<Document::Data>();
     data->title = whole.title;
     data->isRepaired = whole.isRepaired;
+    data->remark = whole.remark;
     data->pdfPath = folder.value()->path() + QLatin1Char('/') + pdfName;
     if (Result<void> made = selectPdfPages(whole.pdfPath, runs, data->pdfPath); !made)
         return aboutSource(made.error(), whole.title);
@@ -236,6 +242,11 @@ bool Document::isRepaired() const
     return d && d->isRepaired;
 }
 
+QString Document::remark() const
+{
+    return d ? d->remark : QString();
+}
+
 Result<Document> Document::withPages(const std::vector<PageRun> &runs) const
 {
     const bool isInside = std::ranges::all_of(runs, [this](const PageRun &run) {
@@ -257,19 +268,20 @@ Result<Document> documentFromPdf(const QString &path, const QString &title)
     if (!file)
         return file.error();
     const std::atomic_bool notCancelled = false;
-    return DocumentReader::read(file.value().get(), path, titleOf({path, title}), true,
+    return DocumentReader::read({file.value().get(), path}, titleOf({path, title}), true,
                                 notCancelled);
 }
 
 Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled)
 {
     if (isStandardInput(source))
-        return DocumentReader::read(STDIN_FILENO, QStringLiteral("(stdin)"), titleOf(source), false,
-                                    cancelled);
+        return DocumentReader::read({STDIN_FILENO, QStringLiteral("(stdin)")}, titleOf(source),
+                                    false, cancelled);
     Result<FileDescriptor> file = openSource(source.path);
     if (!file)
         return file.error();
-    return DocumentReader::read(file.value().get(), source.path, titleOf(source), false, cancelled);
+    return DocumentReader::read({file.value().get(), source.path, source.patienceMs},
+                                titleOf(source), false, cancelled);
 }
 
 } // namespace kelvo

@@ -26,6 +26,8 @@ public:
     // Whether the PDF was damaged and what could be saved of it stands here:
     // worth a look at the preview before it is printed.
     bool isRepaired() const;
+    // A sentence on what of the source is not in the PDF; mostly empty.
+    QString remark() const;
 
     // The same pages cut to `runs`, in their order: what is really printed. The
     // other pages are not in the new file. OutOfRange when `runs` is empty or
@@ -48,6 +50,9 @@ struct DocumentSource
 {
     QString path;  // "-" or empty: standard input
     QString title; // empty: the file's name, "(stdin)" for standard input
+    // How long a pipe that `path` names may send nothing before it is given up; 0, and
+    // for standard input: for ever.
+    int patienceMs = 0;
 };
 
 // What the job is called, in one line that every place takes where a title goes: the
@@ -56,16 +61,13 @@ struct DocumentSource
 QString titleOf(const DocumentSource &source);
 
 // Reads PDF, PostScript, plain text (UTF-8, else Latin-1) and pictures, told
-// apart by their bytes, and makes a PDF of each: PostScript through Ghostscript
-// and pictures in a child process with limits on time, memory and size. Blocks:
-// call it on a worker thread; `cancelled` is looked at ten times a second.
+// apart by their bytes, and makes a PDF of each, in child processes with limits on
+// time, memory and size; PostScript through Ghostscript. Blocks: call it on a worker
+// thread; `cancelled` is looked at ten times a second.
 // Unsupported, TooLarge (limits::documentBytes, textBytes, pictureBytes),
-// Damaged, Refused, TimedOut and Cancelled are about the source; NotWritable
-// is about the temporary folder.
+// Damaged, Refused, TimedOut and Cancelled are about the source, and so is a text that
+// no font has the characters of (Unsupported); NotWritable is about the temporary
+// folder.
 Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled);
-
-// The one entry of the child process that decodes pictures: main() calls it for
-// its hidden option and exits with the result.
-int runPictureHelper(const QString &picturePath, const QString &pdfPath);
 
 } // namespace kelvo

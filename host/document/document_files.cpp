@@ -4,7 +4,7 @@
 #include "size_limits.h"
 
 #include <QByteArray>
-#include <QStorageInfo>
+#include <QElapsedTimer>
 
 #include <algorithm>
 #include <cerrno>
@@ -45,25 +45,36 @@ SizeLimit sizeLimit(DocumentKind kind)
 }
 
 // Up to `size` bytes; fewer only at the end of the input. Waits for a slow
-// sender no longer than the user does.
-Result<qsizetype> readBlock(int fd, char *bytes, qsizetype size, const QString &where,
+// sender no longer than the user does, and for a silent one no longer than the source says.
+Result<qsizetype> readBlock(const OpenSource &source, char *bytes, qsizetype size,
                             const std::atomic_bool &cancelled)
 {
     qsizetype done = 0;
+    QElapsedTimer silence;
+    silence.start();
     while (done < size) {
         if (cancelled)
-            return Error{Error::Code::Cancelled, where, {}};
-        pollfd ready{fd, POLLIN, 0};
-        if (::poll(&ready, 1, pollMs) == 0)
+            return Error{Error::Code::Cancelled, source.where, {}};
+        pollfd ready{source.fd, POLLIN, 0};
+        if (::poll(&ready, 1, pollMs) == 0) {
+            if (source.patienceMs > 0 && silence.hasExpired(source.patienceMs)) {
+                return Error{Error::Code::TimedOut, source.where,
+                             QStringLiteral("this is a pipe, and nothing came through it for %1 "
+                                            "seconds; start what writes into it, or name a file")
+                                 .arg(source.patienceMs / 1000.0)};
+            }
             continue;
-        const ssize_t count = ::read(fd, bytes + done, static_cast<std::size_t>(size - done));
+        }
+        const ssize_t count =
+            ::read(source.fd, bytes + done, static_cast<std::size_t>(size - done));
         if (count < 0 && (errno == EINTR || errno == EAGAIN))
             continue;
         if (count < 0)
-            return Error{Error::Code::NotReadable, where, qt_error_string(errno)};
+            return Error{Error::Code::NotReadable, source.where, qt_error_string(errno)};
         if (count == 0)
             break;
         done += count;
+        silence.restart();
     }
     return done;
 }
@@ -82,11 +93,12 @@ QSizeF localePaper()
     return static_cast<int>(height) == 279 ? kLetter : kA4;
 }
 
-Result<DocumentKind> copySource(int fd, const QString &target, const QString &where,
+Result<DocumentKind> copySource(const OpenSource &source, const QString &target,
                                 const std::atomic_bool &cancelled)
 {
+    const QString &where = source.where;
     std::vector<char> block(1024 * 1024);
-    Result<qsizetype> count = readBlock(fd, block.data(), kKindBytes, where, cancelled);
+    Result<qsizetype> count = readBlock(source, block.data(), kKindBytes, cancelled);
     if (!count)
         return count.error();
 
@@ -103,7 +115,7 @@ Result<DocumentKind> copySource(int fd, const QString &target, const QString &wh
 
     const auto [what, most] = sizeLimit(kind);
     struct stat status = {};
-    if (::fstat(fd, &status) == 0 && status.st_size > most)
+    if (::fstat(source.fd, &status) == 0 && status.st_size > most)
         return tooLarge(where, what, most);
 
     Result<OutputFile> file = OutputFile::create(target);
@@ -116,7 +128,7 @@ Result<DocumentKind> copySource(int fd, const QString &target, const QString &wh
             return tooLarge(where, what, most);
         if (!file.value().write(block.data(), static_cast<std::size_t>(count.value())))
             return file.value().error();
-        count = readBlock(fd, block.data(), static_cast<qsizetype>(block.size()), where, cancelled);
+        count = readBlock(source, block.data(), static_cast<qsizetype>(block.size()), cancelled);
         if (!count)
             return count.error();
     }
@@ -127,9 +139,8 @@ Result<DocumentKind> copySource(int fd, const QString &target, const QString &wh
 
 Error converterError(Error::Code code, const ConverterFiles &files, const QString &detail)
 {
-    const QStorageInfo disk(files.folder);
-    if (disk.isValid() && disk.bytesAvailable() < limits::MiB)
-        return notWritable(files.folder, ENOSPC);
+    if (isFull(files.folder))
+        return notWritable(files.pdf, ENOSPC);
     return Error{code, files.where, detail};
 }
 

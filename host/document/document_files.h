@@ -27,26 +27,31 @@ QSizeF localePaper();
 inline constexpr QSizeF kA4(595.276, 841.89);
 inline constexpr QSizeF kLetter(612, 792);
 
-// Reads `fd` to its end into a new 0600 file `target`. Its kind is told by the
+// What the user chose, open for reading.
+struct OpenSource
+{
+    int fd = -1;
+    QString where;      // how messages name it
+    int patienceMs = 0; // how long it may send nothing; 0: for ever
+};
+
+// Reads `source` to its end into a new 0600 file `target`. Its kind is told by the
 // first bytes; what is not printed, or is larger than its kind may be, is
 // refused before it is copied.
-Result<DocumentKind> copySource(int fd, const QString &target, const QString &where,
+Result<DocumentKind> copySource(const OpenSource &source, const QString &target,
                                 const std::atomic_bool &cancelled);
 
 // An Error of a converter that failed: a full disk speaks through strange
 // messages, so it is looked for first.
 Error converterError(Error::Code code, const ConverterFiles &files, const QString &detail);
 
-// Each makes the PDF at `files.pdf`.
+// Each makes the PDF at `files.pdf`, in a child process.
 Result<void> convertText(const ConverterFiles &files, const QSizeF &paper,
                          const std::atomic_bool &cancelled);
 Result<void> convertPostScript(const ConverterFiles &files, const QSizeF &paper,
                                const std::atomic_bool &cancelled);
-Result<void> convertPicture(const ConverterFiles &files, const std::atomic_bool &cancelled);
-
-// The program that convertPicture() starts with `--picture-helper PICTURE PDF`;
-// empty: the running program itself. For programs that do not know the option.
-void setPictureHelperProgram(const QString &path);
+// The value is a sentence on what was left out of the picture; mostly empty.
+Result<QString> convertPicture(const ConverterFiles &files, const std::atomic_bool &cancelled);
 
 // Where a picture of `size` (points, at its own resolution) lies.
 struct PicturePlacement

@@ -1,20 +1,52 @@
 #include "output_file.h"
 
+#include "size_limits.h"
+
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace kelvo {
 
+bool isFull(const QString &folder)
+{
+    constexpr quint64 enough = limits::MiB;
+    struct statvfs disk = {};
+    if (::statvfs(QFile::encodeName(folder).constData(), &disk) != 0)
+        return false;
+    // A file system without a fixed number of files tells none at all.
+    return quint64(disk.f_bavail) * disk.f_frsize < enough
+        || (disk.f_files > 0 && disk.f_favail == 0);
+}
+
 Error notWritable(const QString &path, int errorNumber)
 {
-    QString reason = qt_error_string(errorNumber);
+    // Our files lie in a private folder that is gone when this is read.
+    QString folder = QFileInfo(path).path();
+    if (QFileInfo(folder).fileName().startsWith(QLatin1String("kelvo-print-")))
+        folder = QFileInfo(folder).path();
+    if (errorNumber == 0)
+        errorNumber = isFull(folder) ? ENOSPC : EIO;
     if (errorNumber == ENOSPC || errorNumber == EDQUOT) {
-        reason += QStringLiteral("; make room there, or set TMPDIR to a folder on another disk");
+        return Error{Error::Code::NotWritable, folder,
+                     QStringLiteral("the folder for temporary files is full (%1); remove what is "
+                                    "no longer needed there, or set TMPDIR to a folder on another "
+                                    "disk")
+                         .arg(qt_error_string(errorNumber))};
     }
-    return Error{Error::Code::NotWritable, path, reason};
+    return Error{Error::Code::NotWritable, path, qt_error_string(errorNumber)};
+}
+
+Error folderNotMade(const QString &reason)
+{
+    return isFull(QDir::tempPath())
+        ? notWritable(QDir::temp().filePath(QStringLiteral("x")), ENOSPC)
+        : Error{Error::Code::NotWritable, QDir::tempPath(), reason};
 }
 
 Result<OutputFile> OutputFile::create(const QString &path)
@@ -56,7 +88,7 @@ Result<void> OutputFile::close()
 Error OutputFile::error() const
 {
     // A library that wrote and failed on its own keeps the reason to itself.
-    return notWritable(m_path, m_errno != 0 ? m_errno : EIO);
+    return notWritable(m_path, m_errno);
 }
 
 } // namespace kelvo

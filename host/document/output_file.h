@@ -18,6 +18,7 @@ public:
     static Result<OutputFile> create(const QString &path);
 
     std::FILE *stream() const { return m_stream.get(); }
+    QString path() const { return m_path; }
     bool write(const char *bytes, std::size_t size);
 
     // Flushes and closes. NotWritable when any write since create() was lost.
@@ -36,7 +37,14 @@ private:
     int m_errno = 0;
 };
 
-// The system's error number as NotWritable with what to do about a full disk.
+// Whether there is no room left for files in `folder`.
+bool isFull(const QString &folder);
+
+// The system's error number as NotWritable; of a full disk it says which folder is
+// full, and what to do. 0: the reason was lost on the way.
 Error notWritable(const QString &path, int errorNumber);
+
+// The error where no temporary folder could be made, for the `reason` that Qt gives.
+Error folderNotMade(const QString &reason);
 
 } // namespace kelvo

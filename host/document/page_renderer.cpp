@@ -1,7 +1,5 @@
 #include "page_renderer.h"
 
-#include "document_functions.h"
-
 #include <QMutex>
 #include <QThread>
 
@@ -41,7 +39,7 @@ struct PageRenderer::Private
     // On the thread only.
     QString loadedPath;
     Document loaded; // keeps the file while it is read
-    std::unique_ptr<PdfDrawing> pdf;
+    std::unique_ptr<PageDrawing> drawing;
 
     std::optional<Request> takeRequest()
     {
@@ -53,8 +51,7 @@ struct PageRenderer::Private
     {
         if (loadedPath == wanted.pdfPath())
             return;
-        const auto functions = documentFunctions();
-        pdf = functions ? functions.value()->openDrawing(wanted.pdfPath()) : nullptr;
+        drawing = wanted.isNull() ? nullptr : std::make_unique<PageDrawing>(wanted.pdfPath());
         loaded = wanted;
         loadedPath = wanted.pdfPath();
     }
@@ -71,6 +68,8 @@ PageRenderer::PageRenderer(QObject *parent)
 PageRenderer::~PageRenderer()
 {
     setDocument({}); // stops the page being drawn
+    // A process belongs to the thread that started it.
+    QMetaObject::invokeMethod(&d->worker, [this] { d->drawing.reset(); });
     d->thread.quit();
     d->thread.wait();
 }
@@ -110,13 +109,14 @@ void PageRenderer::render(int page, const QSize &pixels)
         const auto isAbandoned = [this, number = request->number] {
             return d->shared.wanted != number;
         };
-        const QImage image =
-            d->pdf ? d->pdf->draw(request->page, request->pixels, isAbandoned) : QImage();
+        const DrawnPage drawn = d->drawing
+            ? d->drawing->draw(request->page, request->pixels, isAbandoned)
+            : DrawnPage{{}, PageProblem::NotDrawable};
         // Told on our own thread, where a newer request can no longer slip in.
         QMetaObject::invokeMethod(this,
-                                  [this, number = request->number, page = request->page, image] {
+                                  [this, number = request->number, page = request->page, drawn] {
                                       if (d->shared.wanted == number)
-                                          emit rendered(page, image);
+                                          emit rendered(page, drawn.image, drawn.problem);
                                   });
     });
 }

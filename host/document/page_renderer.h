@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document.h"
+#include "page_drawing.h"
 
 #include <QImage>
 #include <QObject>
@@ -9,8 +10,8 @@
 
 namespace kelvo {
 
-// Renders pages on a thread of its own. One document at a time; a newer request
-// replaces an older one that has not begun.
+// Renders pages in a child process, beside which a thread of its own waits. One document
+// at a time; a newer request replaces an older one.
 class PageRenderer : public QObject
 {
     Q_OBJECT
@@ -24,7 +25,7 @@ public:
     void render(int page, const QSize &pixels);
 
 signals:
-    void rendered(int page, const QImage &image); // a null image: the page cannot be drawn
+    void rendered(int page, const QImage &image, kelvo::PageProblem problem);
 
 private:
     struct Private;

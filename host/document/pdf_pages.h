@@ -6,22 +6,27 @@
 #include <QSizeF>
 #include <QString>
 
+#include <atomic>
 #include <vector>
 
-// The only code that edits the pages of PDFs. libqpdf throws; nothing leaves here.
+// What is read of PDFs, and done to their pages: in a child process with limits on
+// time and memory. Blocks: for worker threads.
 namespace kelvo {
 
 struct PdfPages
 {
     std::vector<QSizeF> sizes; // points, as shown
     bool isRepaired = false;   // something was missing or wrong and was made good
+    bool isSound = false;      // nothing had to change
 };
 
 // Checks the PDF at `source` and makes a sound, unencrypted one of it at `target`:
-// the same file, moved, where nothing had to change. Refused when it asks for a
-// password or must not be printed, Damaged when it cannot be read or has no
-// page, NotWritable when `target` cannot be written.
-Result<PdfPages> tidyPdf(const QString &source, const QString &target);
+// the same file, moved, where it is sound. Refused when it asks for a password or
+// must not be printed, Damaged when it cannot be read or has no page, NotWritable
+// when `target` cannot be written, TimedOut and TooLarge when that takes more than a
+// child may have (child_process.h).
+Result<PdfPages> tidyPdf(const QString &source, const QString &target,
+                         const std::atomic_bool &cancelled);
 
 // A PDF at `target` of the pages that `runs` name, in their order. What belongs
 // to the other pages alone is not in it.

@@ -26,6 +26,24 @@ constexpr int rim = 10; // logical pixels around the sheet: its shadow and the f
 constexpr int shadowSteps = 6;
 constexpr int wheelNotch = 120; // as Qt counts a wheel's turn
 
+// In place of a page that cannot be drawn; empty for one that can.
+QString noteOn(PageProblem problem)
+{
+    switch (problem) {
+    case PageProblem::None:
+        return {};
+    case PageProblem::NotDrawable:
+        return DocumentPreview::tr("This page cannot be shown.");
+    case PageProblem::TooSlow:
+        return DocumentPreview::tr(
+            "This page takes too long to be shown. The printer may still print it.");
+    case PageProblem::TooLarge:
+        return DocumentPreview::tr(
+            "This page needs too much memory to be shown. The printer may still print it.");
+    }
+    return {};
+}
+
 // The sheet and what lies on it.
 class SheetView : public QWidget
 {
@@ -360,13 +378,12 @@ struct DocumentPreview::Private
         renderer.render(page(), whole);
     }
 
-    void show(const QImage &image)
+    void show(const QImage &image, PageProblem problem)
     {
         hasAnswer = true;
         sheet->image = image;
         sheet->imagePlacement = askedPlacement;
-        sheet->note =
-            image.isNull() ? DocumentPreview::tr("This page cannot be shown.") : QString();
+        sheet->note = noteOn(problem);
         sheet->update();
     }
 
@@ -418,7 +435,7 @@ DocumentPreview::DocumentPreview(QWidget *parent)
     column->addLayout(row);
 
     connect(&d->renderer, &PageRenderer::rendered, this,
-            [this](int, const QImage &image) { d->show(image); });
+            [this](int, const QImage &image, PageProblem problem) { d->show(image, problem); });
     d->sync();
 }
 

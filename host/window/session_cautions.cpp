@@ -37,6 +37,8 @@ void SessionCautions::look(const QString &place)
     };
     add(printer());
     add(cutPages());
+    if (const QString remark = m_session.document().remark(); !remark.isEmpty())
+        add(Caution{.text = remark});
     if (m_session.panels()) {
         const SpecialSheetKeys &keys = m_session.specialSheetKeys();
         m_covers.look(keys, m_session.tickets().printSettings().ppdChoices, m_session.ppd().get(),

@@ -293,16 +293,15 @@ void TestStories::saysWhatARawQueueIsTold()
     QCOMPARE(m_cups.addQueue("Raw", {}), QString());
     const Desk desk;
     QVERIFY(writeTicketFile(desk.path("t.plist"), ticketWith({{"Duplex", "DuplexTumble"}})));
-    write(
-        desk.path("raw.kps"),
-        "expect @waitingText text \"The print server has no description of its settings.\\n"
-        "Copies and pages work as usual. Paper, orientation and collating are passed on; "
-        "whether they are heeded is up to the printer.\"\n"
-        "expect @paper text \"A4\"\nexpect @paper enabled false\n"
-        "expect @summary text \"6 pages, 6 sheets\"\n"
-        "expect @conflictText text \"Not sent, for the print server has no description of this "
-        "printer: Duplex: DuplexTumble. They are kept, and come back with a printer that has "
-        "them.\"\nsummary\nprint\n");
+    write(desk.path("raw.kps"),
+          "expect @waitingText text \"The print server has no description of its settings.\\n"
+          "Copies and pages work as usual. Paper, orientation and collating are passed on; "
+          "whether they are heeded is up to the printer.\"\n"
+          "expect @paper text \"A4\"\nexpect @paper enabled false\n"
+          "expect @summary text \"6 pages, 6 sheets\"\n"
+          "expect @conflictText text \"Not sent, for the print server has no description of this "
+          "printer: Duplex: DuplexTumble. They are kept, and come back with a printer that has "
+          "them.\"\nsummary\nprint\n");
 
     const Run run = desk.run({"-d", "Raw", "--no-window", "--script", "raw.kps", "--ticket-in",
                               "t.plist", "-o", "media=A4", documentPath});
@@ -310,7 +309,8 @@ void TestStories::saysWhatARawQueueIsTold()
     QVERIFY(run.out.contains("Paper: A4 – passed on"));
     const QString unknown = "the print server has no description of this printer";
     QVERIFY(run.out.contains("Not sent:\n  Duplex: DuplexTumble – " + unknown));
-    QCOMPARE(run.messages(), QStringList("kelvo-print: Duplex: DuplexTumble: not sent, " + unknown));
+    QCOMPARE(run.messages(),
+             QStringList("kelvo-print: Duplex: DuplexTumble: not sent, " + unknown));
 }
 
 void TestStories::sendsDividersToAQueue()

@@ -57,12 +57,58 @@ QMap<QString, QByteArray> attachmentsOf(const QString &path)
         QString shown = QString::fromStdString(key);
         if (shown != name)
             shown += QStringLiteral(" (%1)").arg(name);
-        const auto bytes = file->getEmbeddedFileStream().getStreamData();
+        auto stream = file->getEmbeddedFileStream();
+        if (!stream.isStream())
+            continue;
+        const auto bytes = stream.getStreamData();
         attachments.insert(shown,
                            QByteArray(reinterpret_cast<const char *>(bytes->getBuffer()),
                                       static_cast<qsizetype>(bytes->getSize())));
     }
     return attachments;
+}
+
+static void addTexts(QPDFObjectHandle object, QStringList &texts)
+{
+    if (object.isString())
+        texts << QString::fromStdString(object.getUTF8Value());
+    if (object.isStream())
+        object = object.getDict();
+    for (auto &[key, value] : object.isDictionary() ? object.getDictAsMap()
+                                                    : std::map<std::string, QPDFObjectHandle>()) {
+        if (!value.isIndirect() && key != "/Contents")
+            addTexts(value, texts);
+    }
+    for (auto &item :
+         object.isArray() ? object.getArrayAsVector() : std::vector<QPDFObjectHandle>()) {
+        if (!item.isIndirect())
+            addTexts(item, texts);
+    }
+}
+
+QStringList namesInside(const QString &path)
+{
+    QPDF pdf;
+    pdf.processFile(QFile::encodeName(path).constData());
+    QStringList texts;
+    for (auto &object : pdf.getAllObjects())
+        addTexts(object, texts);
+    return texts;
+}
+
+QByteArrayList streamsInside(const QString &path)
+{
+    QPDF pdf;
+    pdf.processFile(QFile::encodeName(path).constData());
+    QByteArrayList streams;
+    for (auto &object : pdf.getAllObjects()) {
+        if (!object.isStream())
+            continue;
+        const auto bytes = object.getStreamData();
+        streams << QByteArray(reinterpret_cast<const char *>(bytes->getBuffer()),
+                              static_cast<qsizetype>(bytes->getSize()));
+    }
+    return streams;
 }
 
 QList<int> pagesOf(const QString &path)

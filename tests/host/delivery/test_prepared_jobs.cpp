@@ -1,6 +1,7 @@
 #include "delivery.h"
 #include "pdf_samples.h"
 #include "property_list.h"
+#include "sample_documents.h"
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
@@ -14,6 +15,7 @@
 #include <sys/stat.h>
 
 using namespace kelvo;
+using kelvo::test::pdfOf;
 using Code = Error::Code;
 
 // What goes out of the house, before it does.
@@ -27,6 +29,10 @@ private slots:
     void neverRepeatATicket();
     void replaceOlderTickets_data();
     void replaceOlderTickets();
+    void takeOlderTicketsOutWhereverTheyHang_data();
+    void takeOlderTicketsOutWhereverTheyHang();
+    void keepOtherFiles();
+    void refuseTicketsThatCannotBeTakenOut();
     void refuseSecretsWhereTicketsAreNotRead_data();
     void refuseSecretsWhereTicketsAreNotRead();
     void cutPages_data();
@@ -37,6 +43,7 @@ private slots:
     void sayWhenTheDiskIsFullBefore();
 
 private:
+    Document documentFrom(const QByteArray &pdf);
     JobRequest request(const QString &ppd, int pages = 3,
                        const QMap<QString, QByteArray> &attachments = {});
 
@@ -63,6 +70,16 @@ JobRequest TestPreparedJobs::request(const QString &ppd, int pages,
     request.ticket.printSettings.ppdChoices["MediaType"] = "Transparency";
     request.ticket.printSettings.entries["Job"] = {Dictionary{{"Password", "1234"}}, "test"};
     return request;
+}
+
+Document TestPreparedJobs::documentFrom(const QByteArray &pdf)
+{
+    QFile file(m_folder->filePath("made.pdf"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size())
+        return {};
+    file.close();
+    const auto document = documentFromPdf(file.fileName(), {});
+    return document ? document.value() : Document();
 }
 
 static const QString reads =
@@ -152,6 +169,220 @@ void TestPreparedJobs::replaceOlderTickets()
     const auto plain = prepareJob(open);
     QVERIFY2(plain, qPrintable(plain.reason()));
     QCOMPARE(attachmentsOf(plain.value().pdfPath).keys(), QStringList{"notes.txt"});
+}
+
+// Objects 1 to 3 are the catalog, the page tree and the page; each form adds what it
+// needs, with OLD for the ticket's specification and STREAM for what is in it.
+void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
+{
+    QTest::addColumn<QByteArray>("catalog"); // entries
+    QTest::addColumn<QByteArray>("page");
+    QTest::addColumn<QList<QByteArray>>("objects"); // from number 4
+
+    const QByteArray stream = "<< /Type /EmbeddedFile /Length 6 >>\nstream\nsecret\nendstream";
+    struct Name
+    {
+        const char *what;
+        QByteArray entries;
+    };
+    const Name names[] = {
+        {"/F", "/F (kelvo-ticket.plist)"},
+        {"/UF", "/F (x.txt) /UF (kelvo-ticket.plist)"},
+        {"/Unix", "/F (x.txt) /Unix (kelvo-ticket.plist)"},
+        {"UTF-16",
+         "/F (x.txt) /UF <FEFF006B0065006C0076006F002D007400690063006B00650074002E"
+         "0070006C006900730074>"},
+        {"UTF-16, bytes swapped",
+         "/F (x.txt) /UF <FFFE6B0065006C0076006F002D007400690063006B0065"
+         "0074002E0070006C00690073007400>"},
+        {"UTF-8", "/F (x.txt) /UF <EFBBBF6B656C766F2D7469636B65742E706C697374>"},
+        {"capitals", "/F (KELVO-Ticket.PList)"},
+        {"with folders", "/F (/C/tmp/kelvo-ticket.plist)"},
+        {"with folders of Windows", "/F (C:\\\\tmp\\\\kelvo-ticket.plist)"},
+        {"as hexadecimal digits", "/#46 <6b656c766f2d7469636b65742e706c697374>"},
+        {"name elsewhere", "/F 6 0 R"},
+    };
+    struct Place
+    {
+        const char *what;
+        QByteArray catalog, page;
+        QList<QByteArray> objects;
+    };
+    const Place places[] = {
+        {"list", "/Names << /EmbeddedFiles << /Names [(k) OLD] >> >>", "", {}},
+        {"unsorted list",
+         "/Names << /EmbeddedFiles << /Names [(z) << /Type /Filespec /F (z) >> (k) OLD (a) << "
+         "/Type /Filespec /F (a) >>] >> >>",
+         "",
+         {}},
+        {"list of an odd length", "/Names << /EmbeddedFiles << /Names [(k) OLD (z)] >> >>", "", {}},
+        {"tree without limits",
+         "/Names << /EmbeddedFiles << /Kids [<< /Kids [<< /Names [(k) OLD] >>] >>] >> >>",
+         "",
+         {}},
+        {"tree with wrong limits",
+         "/Names << /EmbeddedFiles << /Kids [<< /Limits [(x) (y)] /Names [(k) OLD] >>] >> >>",
+         "",
+         {}},
+        {"tree in a circle",
+         "/Names << /EmbeddedFiles 7 0 R >>",
+         "",
+         {"<< /Kids [7 0 R 8 0 R] >>", "<< /Names [(k) OLD] /Kids [7 0 R] >>"}},
+        {"twice", "/Names << /EmbeddedFiles << /Names [(k) OLD (k) OLD] >> >>", "", {}},
+        {"document's files", "/AF [OLD]", "", {}},
+        {"document's file", "/AF OLD", "", {}},
+        {"page's files", "", "/AF [OLD]", {}},
+        {"structure's files",
+         "/StructTreeRoot 7 0 R",
+         "",
+         {"<< /Type /StructTreeRoot /K [<< /S /Document /P 7 0 R /AF [OLD] >>] >>"}},
+        {"a picture's files",
+         "",
+         "/Resources << /XObject << /I 7 0 R >> >>",
+         {"<< /Type /XObject /Subtype /Form /BBox [0 0 9 9] /AF [OLD] /Length 0 "
+          ">>\nstream\n\nendstream"}},
+        {"marked content", "", "/Resources << /Properties << /M OLD >> >>", {}},
+        {"note",
+         "",
+         "/Annots [<< /Type /Annot /Subtype /FileAttachment /Rect [0 0 9 9] /FS OLD >>]",
+         {}},
+        {"note elsewhere",
+         "",
+         "/Annots 7 0 R",
+         {"[8 0 R 9 0 R]",
+          "<< /Type /Annot /Subtype /FileAttachment /Rect [0 0 9 9] /FS OLD /Popup 9 0 R >>",
+          "<< /Type /Annot /Subtype /Popup /Rect [0 0 9 9] /Parent 8 0 R >>"}},
+        {"files of a link",
+         "",
+         "/Annots [<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /AF [OLD] /A << /S /Launch /F "
+         "OLD >> >>]",
+         {}},
+        {"film",
+         "",
+         "/Annots [<< /Type /Annot /Subtype /RichMedia /Rect [0 0 9 9] /RichMediaContent << "
+         "/Assets << /Names [(k) OLD] >> >> >>]",
+         {}},
+        {"collection",
+         "/Collection << /View /D >> /Names << /EmbeddedFiles << /Names [(k) OLD] >> >>",
+         "",
+         {}},
+        {"related file",
+         "/Names << /EmbeddedFiles << /Names [(a) << /Type /Filespec /F (a) /EF << /F STREAM >> "
+         "/RF << /F [(kelvo-ticket.plist) STREAM] >> >>] >> >>",
+         "",
+         {}},
+        {"key of a list",
+         "/Names << /EmbeddedFiles << /Names [(z) << /Type /Filespec /F (z) >> "
+         "(kelvo-ticket.plist) << /Type /Filespec /F (x) /EF << /F STREAM >> >>] >> >>",
+         "",
+         {}},
+        {"key of a list, and a file of the page",
+         "/Names << /EmbeddedFiles << /Names [(kelvo-ticket.plist) 7 0 R] >> >>",
+         "/AF [7 0 R]",
+         {"<< /Type /Filespec /F (x) /EF << /F STREAM >> >>"}},
+        {"shared with another file",
+         "/AF [<< /Type /Filespec /F (b) /EF << /F STREAM >> >> OLD]",
+         "",
+         {}},
+    };
+    const auto add = [&](const QByteArray &what, const QByteArray &name, const Place &place,
+                         bool isDirect, const QByteArray &type) {
+        const QByteArray file = "<< " + type + name + " /EF << /F 5 0 R >> >>";
+        const auto filled = [&](QByteArray text) {
+            return text.replace("OLD", isDirect ? file : "4 0 R").replace("STREAM", "5 0 R");
+        };
+        QList<QByteArray> objects = {file, stream, "(kelvo-ticket.plist)"};
+        for (const QByteArray &object : place.objects)
+            objects << filled(object);
+        QTest::newRow(what.constData()) << filled(place.catalog) << filled(place.page) << objects;
+    };
+    const QByteArray type = "/Type /Filespec ";
+    for (const Name &name : names)
+        add(QByteArray("named by ") + name.what, name.entries, places[0], false, type);
+    for (const Place &place : places) {
+        add(place.what, names[0].entries, place, false, type);
+        add(QByteArray(place.what) + ", directly", names[0].entries, place, true, {});
+    }
+}
+
+void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang()
+{
+    QFETCH(QByteArray, catalog);
+    QFETCH(QByteArray, page);
+    QFETCH(QList<QByteArray>, objects);
+    const auto pdf = pdfOf(
+        QList<QByteArray>{"<< /Type /Catalog /Pages 2 0 R " + catalog + " >>",
+                          "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+                          "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 101 200] " + page + " >>"}
+        + objects);
+    JobRequest wanted = request(reads);
+    wanted.document = documentFrom(pdf);
+    QVERIFY(!wanted.document.isNull());
+
+    const auto job = prepareJob(wanted);
+
+    QVERIFY2(job, qPrintable(job.reason()));
+    QCOMPARE(attachmentsOf(job.value().pdfPath).value("kelvo-ticket.plist"), job.value().ticket);
+    QCOMPARE(namesInside(job.value().pdfPath).count("kelvo-ticket.plist"), 3); // F, UF and the key
+    QVERIFY(!streamsInside(job.value().pdfPath).contains("secret"));
+    QCOMPARE(pagesOf(job.value().pdfPath), QList<int>{1});
+
+    // Nor does a queue get it that reads none.
+    wanted.ppd = nullptr;
+    wanted.ticket.printSettings.entries.clear();
+    const auto plain = prepareJob(wanted);
+    QVERIFY2(plain, qPrintable(plain.reason()));
+    QCOMPARE(namesInside(plain.value().pdfPath).count("kelvo-ticket.plist"), 0);
+    QVERIFY(!streamsInside(plain.value().pdfPath).contains("secret"));
+}
+
+void TestPreparedJobs::keepOtherFiles()
+{
+    // Out of order, two of one name, and one that is only called like a ticket's reader.
+    const auto file = [](const char *name, int stream) {
+        return QByteArray("<< /Type /Filespec /F (") + name + ") /EF << /F "
+            + QByteArray::number(stream) + " 0 R >> >>";
+    };
+    const auto stream = [](const char *bytes) {
+        return QByteArray("<< /Type /EmbeddedFile /Length 1 >>\nstream\n") + bytes + "\nendstream";
+    };
+    JobRequest wanted = request(reads);
+    wanted.document = documentFrom(pdfOf(
+        {"<< /Type /Catalog /Pages 2 0 R /Names << /EmbeddedFiles << /Names [(z) " + file("z", 4)
+             + " (a) " + file("a", 5) + " (a) " + file("b", 6) + " (my-kelvo-ticket.plist) "
+             + file("my-kelvo-ticket.plist", 7) + "] >> >> >>",
+         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 101 200] /Annots [<< /Subtype /Link /Rect [0 "
+         "0 9 9] /Contents (kelvo-ticket.plist) >>] >>",
+         stream("1"), stream("2"), stream("3"), stream("4")}));
+
+    const auto job = prepareJob(wanted);
+
+    QVERIFY2(job, qPrintable(job.reason()));
+    QMap<QString, QByteArray> kept = attachmentsOf(job.value().pdfPath);
+    QCOMPARE(kept.take("kelvo-ticket.plist"), job.value().ticket);
+    QCOMPARE(kept,
+             (QMap<QString, QByteArray>{
+                 {"z", "1"}, {"a", "2"}, {"a_ (b)", "3"}, {"my-kelvo-ticket.plist", "4"}}));
+}
+
+// What cannot go is found when it is looked at again, and nothing goes out.
+void TestPreparedJobs::refuseTicketsThatCannotBeTakenOut()
+{
+    JobRequest wanted = request(reads);
+    wanted.document = documentFrom(
+        pdfOf({"<< /Type /Catalog /Pages 2 0 R /F (kelvo-ticket.plist) /EF << /F 4 0 R >> >>",
+               "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+               "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 101 200] >>",
+               "<< /Length 6 >>\nstream\nsecret\nendstream"}));
+    QVERIFY(!wanted.document.isNull());
+
+    const auto job = prepareJob(wanted);
+
+    QVERIFY(!job);
+    QCOMPARE(job.error().code, Code::Refused);
+    QVERIFY2(job.error().detail.contains("older file kelvo-ticket.plist"),
+             qPrintable(job.error().text()));
 }
 
 void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead_data()

@@ -158,8 +158,12 @@ private slots:
     void refusesWhatItCannotPrint();
     void obeysSizeLimits_data();
     void obeysSizeLimits();
+    void keepsOutOtherFiles_data();
+    void keepsOutOtherFiles();
     void setsTexts_data();
     void setsTexts();
+    void saysWhichFontIsMissing_data();
+    void saysWhichFontIsMissing();
     void fillsPagesBetweenTheMargins();
     void wrapsOneEndlessLine();
     void tellsShownSizes_data();
@@ -173,8 +177,8 @@ private slots:
     void saysThatTheDiskIsFull_data();
     void saysThatTheDiskIsFull();
     void saysThatTheDiskIsFullWhenCutting();
+    void doesNotWaitForASilentPipe();
     void stopsWhenCancelled();
-    void survivesACrashingHelper();
     void namesTheMissingPackage();
     void readsStandardInput();
     void placesPictures_data();
@@ -326,6 +330,95 @@ void TestDocuments::obeysSizeLimits()
     QCOMPARE(document.error().code, code);
 }
 
+// What a drawing shows of other files, and of pictures that it holds.
+void TestDocuments::keepsOutOtherFiles_data()
+{
+    QTest::addColumn<QByteArray>("inside"); // of an <svg> of 10 by 10; FILE is a red picture
+    QTest::addColumn<bool>("isRed");
+    QTest::addColumn<bool>("isSaid");
+    const auto base64 = [](const QByteArray &bytes) { return bytes.toBase64(); };
+    const QByteArray png = base64(picture("png", {10, 10}));
+    const auto image = [](const QByteArray &address, const char *attribute = "xlink:href") {
+        return QByteArray("<image width='10' height='10' ") + attribute + "='" + address + "'/>";
+    };
+    const auto svg = [](const QByteArray &inside) {
+        return "<svg xmlns='http://www.w3.org/2000/svg' "
+               "xmlns:xlink='http://www.w3.org/1999/xlink' width='10' height='10'>"
+            + inside + "</svg>";
+    };
+    const auto held = [&](const QByteArray &inside) {
+        return image("data:image/svg+xml;base64," + base64(svg(inside)));
+    };
+    const QByteArray style = "rect{fill:#ff0000}";
+    const QByteArray rect = "<rect width='10' height='10'/>";
+
+    QTest::newRow("path") << image("FILE") << false << true;
+    QTest::newRow("path, href") << image("FILE", "href") << false << true;
+    QTest::newRow("path, another prefix") << image("FILE", "x:href") << false << true;
+    QTest::newRow("address") << image("file://FILE") << false << true;
+    QTest::newRow("like data") << image("data/../../../../../../../../../../../../FILE") << false
+                               << true;
+    QTest::newRow("like an anchor") << image("#FILE") << false << true;
+    QTest::newRow("through an entity") << QByteArray(image("&amp;&lt;FILE")) << false << true;
+    QTest::newRow("pipe") << image("PIPE") << false << true;
+    QTest::newRow("in a held drawing") << held(image("FILE")) << false << true;
+    QTest::newRow("in a held drawing of a held drawing")
+        << held(held(image("FILE"))) << false << true;
+    QTest::newRow("pipe in a held drawing") << held(image("PIPE")) << false << true;
+    QTest::newRow("held drawing, compressed")
+        << image("data:;base64," + base64("\x1f\x8b" + qCompress(svg(image("PIPE"))).mid(4)))
+        << false << true;
+    QTest::newRow("style of another file")
+        << QByteArray("<?xml-stylesheet type=\"text/css\" href=\"STYLE\"?>" + rect) << false
+        << true;
+    QTest::newRow("style's address")
+        << QByteArray("<style>rect{fill:url(FILE)}</style>" + rect) << false << true;
+    QTest::newRow("part of another file")
+        << QByteArray("<use xlink:href='FILE#a'/>") << false << true;
+
+    QTest::newRow("held picture") << image("data:image/png;base64," + png) << true << false;
+    QTest::newRow("held picture, escaped")
+        << image(" data:image/png;base64,\n" + png.toPercentEncoding()) << true << false;
+    QTest::newRow("held drawing") << held("<style>" + style + "</style>" + rect) << true << false;
+    QTest::newRow("part of its own")
+        << QByteArray("<defs><rect id='a' fill='#ff0000' width='10' height='10'/></defs>"
+                      "<use xlink:href='#a'/><a xlink:href='http://example.com/'/>")
+        << true << false;
+    QTest::newRow("gradient of its own")
+        << QByteArray("<linearGradient id='g'><stop stop-color='#ff0000'/></linearGradient>"
+                      "<rect width='10' height='10' style='fill:url(#g)'/>")
+        << true << false;
+}
+
+void TestDocuments::keepsOutOtherFiles()
+{
+    QFETCH(QByteArray, inside);
+    QFETCH(bool, isRed);
+    QFETCH(bool, isSaid);
+    const QString pipe = QDir::current().absoluteFilePath("svg-pipe");
+    ::mkfifo(pipe.toLocal8Bit().constData(), 0600);
+    inside.replace("FILE", file("red.png", picture("png", {10, 10})).toLocal8Bit());
+    inside.replace("PIPE", pipe.toLocal8Bit());
+    inside.replace("STYLE", file("red.css", "rect{fill:#ff0000}").toLocal8Bit());
+    const QString path = file("svg",
+                              "<svg xmlns='http://www.w3.org/2000/svg' "
+                              "xmlns:xlink='http://www.w3.org/1999/xlink' "
+                              "xmlns:x='http://www.w3.org/1999/xlink' width='10' height='10'>"
+                                  + inside + "</svg>");
+
+    QElapsedTimer timer;
+    timer.start();
+    const Result<Document> document = open(path);
+
+    QVERIFY2(document, qPrintable(document.reason()));
+    QVERIFY(timer.elapsed() < 60'000); // nobody writes into the pipe
+    QCOMPARE(!document.value().remark().isEmpty(), isSaid);
+    const auto pdf = Poppler::Document::load(document.value().pdfPath());
+    const QImage page = pdf->page(0)->renderToImage();
+    const QColor middle = page.pixelColor(page.rect().center()); // a JPEG's red is nearly that
+    QCOMPARE(middle.red() > 250 && middle.green() < 5, isRed);
+}
+
 void TestDocuments::setsTexts_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -359,6 +452,39 @@ void TestDocuments::setsTexts()
 
     QVERIFY2(document, document ? "" : qPrintable(document.error().text()));
     QCOMPARE(textOf(document.value()), text);
+}
+
+void TestDocuments::saysWhichFontIsMissing_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("words"); // in the message; empty: it is printed
+    QTest::newRow("script of history")
+        << QByteArray("one\ntwo \xf0\x92\x80\x80 three\n") << "\"\U00012000\" (U+12000) in line 2";
+    QTest::newRow("script of today") << QByteArray("\xe1\x80\x80") << "Burmese";
+    QTest::newRow("what no font has") << QByteArray("a \xf4\x80\x80\x80 b") << "";
+}
+
+void TestDocuments::saysWhichFontIsMissing()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, words);
+    // Whatever else is installed here.
+    const QString fonts = file("fonts.conf",
+                               "<fontconfig><include>/etc/fonts/fonts.conf</include><selectfont>"
+                               "<rejectfont><glob>*.?t?</glob></rejectfont>"
+                               "<acceptfont><glob>*DejaVu*</glob></acceptfont>"
+                               "</selectfont></fontconfig>");
+    qputenv("FONTCONFIG_FILE", fonts.toLocal8Bit());
+
+    const Result<Document> document = open(file("text", text));
+    qunsetenv("FONTCONFIG_FILE");
+
+    QCOMPARE(!document, !words.isEmpty());
+    if (!document) {
+        QCOMPARE(document.error().code, Error::Code::Unsupported);
+        const QString detail = document.error().detail;
+        QVERIFY2(detail.contains(words) && detail.contains("fonts-noto"), qPrintable(detail));
+    }
 }
 
 void TestDocuments::fillsPagesBetweenTheMargins()
@@ -594,6 +720,31 @@ void TestDocuments::saysThatTheDiskIsFullWhenCutting()
     QCOMPARE(cut.error().code, Error::Code::NotWritable);
 }
 
+void TestDocuments::doesNotWaitForASilentPipe()
+{
+    QVERIFY(::mkfifo("silent", 0600) == 0);
+    const std::atomic_bool cancelled = false;
+    const Result<Document> silent = openDocument({"silent", {}, 300}, cancelled);
+    QVERIFY(!silent);
+    QCOMPARE(silent.error().code, Error::Code::TimedOut);
+    QVERIFY2(silent.error().detail.contains("0.3 seconds"), qPrintable(silent.error().detail));
+
+    // A slow one is no silent one.
+    std::thread writer([] {
+        QFile pipe("silent");
+        if (!pipe.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return;
+        for (int part = 0; part < 4; ++part) {
+            pipe.write("text ");
+            std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        }
+    });
+    const Result<Document> slow = openDocument({"silent", {}, 1500}, cancelled);
+    writer.join();
+    QVERIFY2(slow, qPrintable(slow.reason()));
+    QCOMPARE(textOf(slow.value()), "text text text text");
+}
+
 void TestDocuments::stopsWhenCancelled()
 {
     QVERIFY(::mkfifo("pipe", 0600) == 0);
@@ -611,20 +762,6 @@ void TestDocuments::stopsWhenCancelled()
         QCOMPARE(document.error().code, Error::Code::Cancelled);
         QVERIFY(timer.elapsed() < 20'000);
     }
-}
-
-void TestDocuments::survivesACrashingHelper()
-{
-    const QString program = file("helper", "#!/bin/sh\nkill -SEGV $$\n");
-    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    setPictureHelperProgram(program);
-
-    const Result<Document> document = open(file("picture", picture("png", {20, 30})));
-
-    setPictureHelperProgram({});
-    QVERIFY(!document);
-    QCOMPARE(document.error().code, Error::Code::Damaged);
-    QVERIFY2(document.error().detail.contains("crashed"), qPrintable(document.error().detail));
 }
 
 void TestDocuments::namesTheMissingPackage()
@@ -692,13 +829,5 @@ void TestDocuments::placesPictures()
     QCOMPARE(placement.picture.size(), placed.size());
 }
 
-// The pictures' child process is this program.
-int main(int argc, char **argv)
-{
-    if (argc == 4 && std::strcmp(argv[1], "--picture-helper") == 0)
-        return runPictureHelper(QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
-    QCoreApplication application(argc, argv);
-    TestDocuments test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestDocuments)
 #include "test_documents.moc"

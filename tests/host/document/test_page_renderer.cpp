@@ -1,12 +1,17 @@
 #include "page_renderer.h"
 #include "sample_documents.h"
+#include "size_limits.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <sys/resource.h>
+
 using namespace kelvo;
 using namespace kelvo::test;
+
+Q_DECLARE_METATYPE(kelvo::PageProblem)
 
 class TestPageRenderer : public QObject
 {
@@ -17,6 +22,8 @@ private slots:
     void answersForTheNewestRequestOnly();
     void saysWhenAPageCannotBeDrawn();
     void doesNotWaitForASlowPage();
+    void saysWhatIsTooMuch_data();
+    void saysWhatIsTooMuch();
 };
 
 namespace {
@@ -25,6 +32,18 @@ Document documentOf(const QByteArray &pdf)
 {
     const Result<Document> document = documentFromPdf(file("pdf", pdf), {});
     return document ? document.value() : Document();
+}
+
+qint64 peakMemory() // bytes
+{
+    rusage usage = {};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return qint64(usage.ru_maxrss) * 1024;
+}
+
+PageProblem problemOf(const QSignalSpy &spy)
+{
+    return spy.last().at(2).value<PageProblem>();
 }
 
 QImage imageOf(const QSignalSpy &spy)
@@ -114,6 +133,46 @@ void TestPageRenderer::doesNotWaitForASlowPage()
         QVERIFY(!spy.wait(300));
     }
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void TestPageRenderer::saysWhatIsTooMuch_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<PageProblem>("problem");
+    // A few kilobytes when they are compressed; each "q" keeps 4 kB of state.
+    QTest::newRow("memory") << QByteArray("q ").repeated(2'000'000) << PageProblem::TooLarge;
+    QTest::newRow("time")
+        << QByteArray("0 0 2000 2000 re 5 5 m 900 20 70 800 30 40 c f*\n").repeated(3'000'000)
+        << PageProblem::TooSlow;
+}
+
+void TestPageRenderer::saysWhatIsTooMuch()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(PageProblem, problem);
+    const Document document = documentOf(pdfWithPages({filled("1 0 0"), contents}));
+    contents.clear();
+    PageRenderer renderer;
+    QSignalSpy spy(&renderer, &PageRenderer::rendered);
+    renderer.setDocument(document);
+    const qint64 before = peakMemory();
+
+    renderer.render(2, {2000, 2000});
+    QVERIFY(spy.wait((limits::drawingSeconds + 30) * 1000));
+    QVERIFY(imageOf(spy).isNull());
+    QCOMPARE(problemOf(spy), problem);
+    QVERIFY2(peakMemory() - before < 50 * limits::MiB, qPrintable(QString::number(peakMemory())));
+
+    // It is not tried again, and the others can be looked at.
+    QElapsedTimer timer;
+    timer.start();
+    renderer.render(2, {100, 100});
+    QVERIFY(spy.wait());
+    QCOMPARE(problemOf(spy), problem);
+    renderer.render(1, {100, 100});
+    QVERIFY(spy.wait());
+    QVERIFY(!imageOf(spy).isNull());
+    QVERIFY(timer.elapsed() < 5000);
 }
 
 QTEST_GUILESS_MAIN(TestPageRenderer)

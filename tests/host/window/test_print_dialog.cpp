@@ -1164,9 +1164,8 @@ void TestPrintDialog::everythingFits()
     });
     auto begin = options();
     // A conflict and a caution.
-    begin.line.options = {{"StapleLocation", "SinglePortrait"},
-                          {"MediaType", "Transparency"},
-                          {"media", "A5"}};
+    begin.line.options = {
+        {"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}, {"media", "A5"}};
     Shown shown(begin);
     shown.dialog.resize(size);
     QVERIFY(shown.waitUntilIdle());

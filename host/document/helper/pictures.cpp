@@ -1,16 +1,22 @@
-#include "functions.h"
+#include "confinement.h"
+#include "font_folders.h"
 #include "pdf_canvas.h"
 #include "size_limits.h"
+#include "svg_references.h"
+#include "tasks.h"
 
 #include <QBuffer>
 #include <QFile>
+#include <QGuiApplication>
 #include <QImageReader>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgRenderer>
 
+#include <clocale>
 #include <cmath>
+#include <ctime>
 
 namespace kelvo::documents {
 
@@ -102,12 +108,9 @@ bool drawPicture(PdfCanvas &canvas, const QImage &image, const QSizeF &paper, bo
     return canvas.endPage();
 }
 
-Result<void> drawPictures(QImageReader &reader, DocumentKind kind, const QString &pdfPath)
+Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfCanvas &canvas,
+                          const QSizeF &paper)
 {
-    Result<PdfCanvas> canvas = PdfCanvas::create(pdfPath);
-    if (!canvas)
-        return canvas.error();
-    const QSizeF paper = localePaper();
     // Only of a TIFF are all pictures pages; a GIF's are a film.
     const int pages = kind == DocumentKind::Tiff ? reader.imageCount() : 1;
     int page = 1;
@@ -131,25 +134,82 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, const QString
                           .arg(reader.errorString())
                     : QStringLiteral("the picture cannot be read: %1").arg(reader.errorString()));
         }
-        if (!drawPicture(canvas.value(), image, paper, kind == DocumentKind::Jpeg))
+        if (!drawPicture(canvas, image, paper, kind == DocumentKind::Jpeg))
             break; // close() tells why
         ++page;
     } while (page <= pages && reader.jumpToNextImage());
-    return canvas.value().close();
+    return canvas.close();
+}
+
+// Qt loads the reader of a format when it is first needed; that is too late here.
+// Whether there is one.
+bool loadReader(const QByteArray &format)
+{
+    if (!QImageReader::supportedImageFormats().contains(format))
+        return false;
+    QBuffer nothing;
+    nothing.open(QIODevice::ReadOnly);
+    (void)QImageReader(&nothing, format).canRead();
+    return true;
+}
+
+QByteArray formatOf(DocumentKind kind)
+{
+    return QByteArray(pictureFormat(kind).data(), pictureFormat(kind).size());
+}
+
+Result<void> convertPixels(QFile &file, DocumentKind kind, const QString &pdfPath)
+{
+    const QByteArray format = formatOf(kind);
+    if (!loadReader(format)) {
+        return pictureError(Error::Code::Unsupported,
+                            QStringLiteral("%1 pictures cannot be read here; install the package "
+                                           "\"qt6-image-formats-plugins\"")
+                                .arg(QString::fromLatin1(format).toUpper()));
+    }
+    const QSizeF paper = localePaper();
+    Result<PdfCanvas> canvas = PdfCanvas::create(pdfPath);
+    if (!canvas)
+        return canvas.error();
+    confineToOpenFiles();
+
+    QImageReader::setAllocationLimit(static_cast<int>(limits::picturePixels * 4 / limits::MiB) + 1);
+    QImageReader reader(&file, format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    return drawPictures(reader, kind, canvas.value(), paper);
 }
 
 // As lines and curves, which stay sharp at any size.
-Result<void> drawSvg(const QString &picturePath, const QString &pdfPath)
+Result<QString> convertSvg(QFile &source, const ConverterFiles &files)
 {
-    QSvgRenderer renderer(picturePath);
-    const QSizeF size = QSizeF(renderer.defaultSize()) * 72 / 96; // CSS pixels
-    if (!renderer.isValid() || size.isEmpty())
-        return pictureError(Error::Code::Damaged, QStringLiteral("the drawing cannot be read"));
-    const auto [page, placed] = placePicture(size, localePaper());
+    // Texts in drawings need fonts, and those an application; no window is ever shown,
+    // so no display is asked for.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    int argc = 1;
+    char name[] = "kelvo-converter";
+    char *argv[] = {name, nullptr};
+    const QGuiApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C"); // the application object took over the locale
 
-    Result<OutputFile> output = OutputFile::create(pdfPath);
+    for (int kind = 0; kind <= int(DocumentKind::Svg); ++kind)
+        loadReader(formatOf(DocumentKind(kind))); // of pictures that the drawing holds
+    const QSizeF paper = localePaper();
+    Result<OutputFile> output = OutputFile::create(files.pdf);
     if (!output)
         return output.error();
+    ::tzset(); // the PDF says when it was made
+    confineTo(fontFolders(), files.folder);
+
+    const std::optional<ClosedSvg> svg = withoutReferences(source.readAll());
+    QSvgRenderer renderer;
+    const bool isLoaded = svg && renderer.load(svg->bytes);
+    const QSizeF size = QSizeF(renderer.defaultSize()) * 72 / 96; // CSS pixels
+    if (!isLoaded || size.isEmpty())
+        return pictureError(Error::Code::Damaged, QStringLiteral("the drawing cannot be read"));
+    const auto [page, placed] = placePicture(size, paper);
+
     QFile file;
     if (!file.open(output.value().stream(), QIODevice::WriteOnly))
         return output.value().error();
@@ -165,33 +225,37 @@ Result<void> drawSvg(const QString &picturePath, const QString &pdfPath)
     if (!file.flush())
         return output.value().error();
     file.close();
-    return output.value().close();
+    if (Result<void> closed = output.value().close(); !closed)
+        return closed.error();
+    return svg->leftOut == 0
+        ? QString()
+        : QStringLiteral("The drawing shows or uses %1 other file(s), which are left out: only "
+                         "what a drawing holds itself is printed. Embed them in it.")
+              .arg(svg->leftOut);
 }
 
-} // namespace
-
-Result<void> makePicturePdf(const QString &picturePath, const QString &pdfPath)
+Result<QString> convert(const ConverterFiles &files)
 {
-    QFile file(picturePath);
+    QFile file(files.source);
     if (!file.open(QIODevice::ReadOnly))
         return pictureError(Error::Code::Damaged, file.errorString());
     const DocumentKind kind = documentKind(file.read(kKindBytes));
     file.seek(0);
-
     if (kind == DocumentKind::Svg)
-        return drawSvg(picturePath, pdfPath);
-    const QByteArray format = QByteArray(pictureFormat(kind).data(), pictureFormat(kind).size());
-    if (!QImageReader::supportedImageFormats().contains(format)) {
-        return pictureError(Error::Code::Unsupported,
-                            QStringLiteral("%1 pictures cannot be read here; install the package "
-                                           "\"qt6-image-formats-plugins\"")
-                                .arg(QString::fromLatin1(format).toUpper()));
-    }
-    QImageReader::setAllocationLimit(static_cast<int>(limits::picturePixels * 4 / limits::MiB) + 1);
-    QImageReader reader(&file, format);
-    reader.setAutoDetectImageFormat(false);
-    reader.setAutoTransform(true);
-    return drawPictures(reader, kind, pdfPath);
+        return convertSvg(file, files);
+    if (Result<void> made = convertPixels(file, kind, files.pdf); !made)
+        return made.error();
+    return QString();
+}
+
+} // namespace
+
+Result<QString> convertPicture(const ConverterFiles &files)
+{
+    Result<QString> made = convert(files);
+    if (made || made.error().code == Error::Code::NotWritable)
+        return made;
+    return Error{made.error().code, files.where, made.error().detail};
 }
 
 } // namespace kelvo::documents

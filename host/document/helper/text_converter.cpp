@@ -4,14 +4,17 @@
 #endif
 #include <pango/pangocairo.h>
 
-#include "functions.h"
+#include "confinement.h"
+#include "font_folders.h"
 #include "pdf_canvas.h"
 #include "size_limits.h"
+#include "tasks.h"
 
 #include <QFile>
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <optional>
 
 namespace kelvo::documents {
 
@@ -97,6 +100,88 @@ qsizetype pieceLength(QByteArrayView text)
     return length;
 }
 
+// A character that no font here has.
+struct MissingCharacter
+{
+    gunichar character = 0;
+    int line = 0; // of the text, from 1
+};
+
+// Whether paper shows a character at all, and so a font can be missed: what nobody has
+// assigned, or everybody assigns for himself, is a box everywhere.
+bool isPrinted(gunichar character)
+{
+    switch (g_unichar_type(character)) {
+    case G_UNICODE_CONTROL:
+    case G_UNICODE_FORMAT:
+    case G_UNICODE_UNASSIGNED:
+    case G_UNICODE_PRIVATE_USE:
+    case G_UNICODE_SURROGATE:
+        return false;
+    default:
+        return true;
+    }
+}
+
+struct ScriptFonts
+{
+    GUnicodeScript script;
+    const char *name;
+    const char *package; // of Debian
+};
+
+// What documents in offices are written in; the last row is for all others.
+constexpr const char *mostScripts = "fonts-noto-core";
+constexpr const char *farEast = "fonts-noto-cjk";
+constexpr ScriptFonts scriptFonts[] = {
+    {G_UNICODE_SCRIPT_HAN, "Chinese or Japanese", farEast},
+    {G_UNICODE_SCRIPT_BOPOMOFO, "Chinese", farEast},
+    {G_UNICODE_SCRIPT_HIRAGANA, "Japanese", farEast},
+    {G_UNICODE_SCRIPT_KATAKANA, "Japanese", farEast},
+    {G_UNICODE_SCRIPT_HANGUL, "Korean", farEast},
+    {G_UNICODE_SCRIPT_ARABIC, "Arabic", mostScripts},
+    {G_UNICODE_SCRIPT_ARMENIAN, "Armenian", mostScripts},
+    {G_UNICODE_SCRIPT_BENGALI, "Bengali", mostScripts},
+    {G_UNICODE_SCRIPT_CYRILLIC, "Cyrillic", mostScripts},
+    {G_UNICODE_SCRIPT_DEVANAGARI, "Devanagari", mostScripts},
+    {G_UNICODE_SCRIPT_ETHIOPIC, "Ethiopic", mostScripts},
+    {G_UNICODE_SCRIPT_GEORGIAN, "Georgian", mostScripts},
+    {G_UNICODE_SCRIPT_GREEK, "Greek", mostScripts},
+    {G_UNICODE_SCRIPT_GUJARATI, "Gujarati", mostScripts},
+    {G_UNICODE_SCRIPT_GURMUKHI, "Gurmukhi", mostScripts},
+    {G_UNICODE_SCRIPT_HEBREW, "Hebrew", mostScripts},
+    {G_UNICODE_SCRIPT_KANNADA, "Kannada", mostScripts},
+    {G_UNICODE_SCRIPT_KHMER, "Khmer", mostScripts},
+    {G_UNICODE_SCRIPT_LAO, "Lao", mostScripts},
+    {G_UNICODE_SCRIPT_MALAYALAM, "Malayalam", mostScripts},
+    {G_UNICODE_SCRIPT_MYANMAR, "Burmese", mostScripts},
+    {G_UNICODE_SCRIPT_SINHALA, "Sinhala", mostScripts},
+    {G_UNICODE_SCRIPT_TAMIL, "Tamil", mostScripts},
+    {G_UNICODE_SCRIPT_TELUGU, "Telugu", mostScripts},
+    {G_UNICODE_SCRIPT_THAI, "Thai", mostScripts},
+    {G_UNICODE_SCRIPT_TIBETAN, "Tibetan", mostScripts},
+};
+
+Error noFont(const QString &where, const MissingCharacter &missing)
+{
+    const QString code =
+        QStringLiteral("%1").arg(uint(missing.character), 4, 16, QLatin1Char('0')).toUpper();
+    const auto row = std::ranges::find(scriptFonts, g_unichar_get_script(missing.character),
+                                       &ScriptFonts::script);
+    const bool isKnown = row != std::end(scriptFonts);
+    const bool isPictograph = missing.character >= 0x1f000;
+    return Error{
+        Error::Code::Unsupported, where,
+        QStringLiteral("no font here has the %1character \"%2\" (U+%3) in line %4; install "
+                       "one, for example with the package \"%5\"")
+            .arg(isKnown ? QLatin1String(row->name) + QLatin1Char(' ') : QString(),
+                 QString::fromUcs4(reinterpret_cast<const char32_t *>(&missing.character), 1), code,
+                 QString::number(missing.line),
+                 QLatin1String(isKnown            ? row->package
+                                   : isPictograph ? "fonts-noto-color-emoji"
+                                                  : mostScripts))};
+}
+
 struct Unreference
 {
     void operator()(void *object) const { g_object_unref(object); }
@@ -134,15 +219,18 @@ public:
     }
 
     int pages() const { return m_pages; }
-    bool isFailed() const { return m_isFailed; }
+    bool isFailed() const { return m_isFailed || m_missing; }
+    // The first character that no font has; nothing more is set then.
+    const std::optional<MissingCharacter> &missing() const { return m_missing; }
 
     void addParagraph(QByteArrayView text)
     {
+        ++m_line;
         do {
             const qsizetype length = pieceLength(text);
             const bool isLast = length == text.size();
             text = text.sliced(addLines(text.first(length), isLast));
-        } while (!text.isEmpty() && !m_isFailed);
+        } while (!text.isEmpty() && !isFailed());
     }
 
     void endPage()
@@ -166,10 +254,26 @@ private:
             PangoLayoutLine *line = pango_layout_iter_get_line_readonly(iterator.get());
             if (!isLast && index > 0 && index == count - 1)
                 return line->start_index;
+            findMissing(line);
             addLine(iterator.get(), line);
             pango_layout_iter_next_line(iterator.get());
         }
         return piece.size();
+    }
+
+    void findMissing(PangoLayoutLine *line)
+    {
+        if (pango_layout_get_unknown_glyphs_count(m_layout.get()) == 0)
+            return;
+        for (GSList *run = line->runs; run && !m_missing; run = run->next) {
+            const PangoGlyphString *glyphs = static_cast<PangoLayoutRun *>(run->data)->glyphs;
+            for (int index = 0; index < glyphs->num_glyphs && !m_missing; ++index) {
+                const PangoGlyph glyph = glyphs->glyphs[index].glyph;
+                const gunichar character = glyph & ~PANGO_GLYPH_UNKNOWN_FLAG;
+                if ((glyph & PANGO_GLYPH_UNKNOWN_FLAG) && isPrinted(character))
+                    m_missing = MissingCharacter{character, m_line};
+            }
+        }
     }
 
     void addLine(PangoLayoutIter *iterator, PangoLayoutLine *line)
@@ -194,31 +298,32 @@ private:
     Owned<PangoLayout> m_layout;
     double m_y = 0; // below the top margin
     int m_pages = 0;
+    int m_line = 0; // of the text
+    std::optional<MissingCharacter> m_missing;
     bool m_isFailed = false;
 };
 
 } // namespace
 
-Result<void> convertText(const ConverterFiles &files, const QSizeF &paper,
-                         const std::atomic_bool &cancelled)
+Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
 {
     QFile file(files.source);
     if (!file.open(QIODevice::ReadOnly))
         return Error{Error::Code::NotReadable, files.where, file.errorString()};
+    Result<PdfCanvas> canvas = PdfCanvas::create(files.pdf);
+    if (!canvas)
+        return canvas.error();
+    confineTo(fontFolders());
+
     const std::optional<QByteArray> text = textFrom(file.readAll());
     if (!text) {
         return Error{Error::Code::Unsupported, files.where,
                      QStringLiteral("this begins like a text but holds bytes that no text has")};
     }
 
-    Result<PdfCanvas> canvas = PdfCanvas::create(files.pdf);
-    if (!canvas)
-        return canvas.error();
     Typesetter typesetter(canvas.value(), paper);
     QByteArrayView rest(*text);
     while (!rest.isEmpty() && !typesetter.isFailed()) {
-        if (cancelled)
-            return Error{Error::Code::Cancelled, files.where, {}};
         if (typesetter.pages() >= limits::documentPages) {
             return Error{Error::Code::TooLarge, files.where,
                          QStringLiteral("a text of more than %1 pages is not printed")
@@ -241,6 +346,8 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper,
             typesetter.beginPage();
         }
     }
+    if (typesetter.missing())
+        return noFont(files.where, *typesetter.missing());
     typesetter.endPage();
     return canvas.value().close();
 }

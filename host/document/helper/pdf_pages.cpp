@@ -1,17 +1,14 @@
-#include "functions.h"
-#include "pdf_writer.h"
+#include "pdf_file.h"
+#include "tasks.h"
 
-#include <QFile>
 #include <QRectF>
 
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 
 #include <algorithm>
 #include <cmath>
-#include <set>
+#include <unistd.h>
 
 namespace kelvo::documents {
 
@@ -19,34 +16,6 @@ namespace {
 
 // What viewers take for a page without a sensible size of its own.
 constexpr QSizeF fallbackSize(612, 792); // points, US Letter
-
-void open(QPDF &pdf, const QString &path)
-{
-    pdf.setSuppressWarnings(true);
-    pdf.processFile(QFile::encodeName(path).constData());
-}
-
-// `work`, which may throw what libqpdf throws, as a result.
-template <typename Work>
-auto guarded(const QString &path, Work work) -> decltype(work())
-{
-    try {
-        return work();
-    } catch (const QPDFExc &problem) {
-        if (problem.getErrorCode() == qpdf_e_password) {
-            return Error{Error::Code::Refused, path,
-                         QStringLiteral("the document is locked with a password; save a copy "
-                                        "without one and print that")};
-        }
-        return Error{Error::Code::Damaged, path,
-                     QStringLiteral("the PDF is damaged and cannot be repaired: ")
-                         + QString::fromStdString(problem.getMessageDetail())};
-    } catch (const std::exception &problem) {
-        return Error{Error::Code::Damaged, path,
-                     QStringLiteral("the PDF cannot be read: ")
-                         + QString::fromUtf8(problem.what())};
-    }
-}
 
 // `box` in whole, or nothing where it is no rectangle with an area.
 QRectF rectangle(QPDFObjectHandle box)
@@ -78,10 +47,12 @@ QSizeF shownSize(QPDFPageObjectHelper &page)
     return isSideways ? size.transposed() : size;
 }
 
-bool beginsWithHeader(const QString &path)
+bool beginsWithHeader(std::FILE *source)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(5) == "%PDF-";
+    constexpr QByteArrayView header("%PDF-");
+    char begin[header.size()];
+    return ::pread(::fileno(source), begin, sizeof begin, 0) == header.size()
+        && QByteArrayView(begin, header.size()) == header;
 }
 
 } // namespace
@@ -89,8 +60,12 @@ bool beginsWithHeader(const QString &path)
 Result<PdfPages> tidyPdf(const QString &source, const QString &target)
 {
     return guarded(source, [&]() -> Result<PdfPages> {
+        auto files = openPdfFiles(source, target);
+        if (!files)
+            return files.error();
+        const bool hasHeader = beginsWithHeader(files.value().source);
         QPDF pdf;
-        open(pdf, source);
+        load(pdf, files.value().source);
         if (!pdf.allowPrintLowRes() && !pdf.allowPrintHighRes()) {
             return Error{Error::Code::Refused, source,
                          QStringLiteral("the author of the document does not allow printing it")};
@@ -103,13 +78,10 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target)
             return Error{Error::Code::Damaged, source, QStringLiteral("the document has no pages")};
 
         pages.isRepaired = pdf.anyWarnings();
-        if (!pages.isRepaired && !pdf.isEncrypted() && beginsWithHeader(source)) {
-            QFile file(source);
-            if (!file.rename(target))
-                return Error{Error::Code::NotWritable, target, file.errorString()};
+        pages.isSound = !pages.isRepaired && !pdf.isEncrypted() && hasHeader;
+        if (pages.isSound)
             return pages;
-        }
-        if (Result<void> written = writePdf(pdf, target); !written)
+        if (Result<void> written = writePdf(pdf, *files.value().target); !written)
             return written.error();
         return pages;
     });
@@ -119,8 +91,11 @@ Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &r
                             const QString &target)
 {
     return guarded(source, [&]() -> Result<void> {
+        auto files = openPdfFiles(source, target);
+        if (!files)
+            return files.error();
         QPDF pdf;
-        open(pdf, source);
+        load(pdf, files.value().source);
         QPDFPageDocumentHelper helper(pdf);
         // The document is cut in place, not copied page by page: layers that are
         // switched off and form fields live in its catalog.
@@ -147,7 +122,7 @@ Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &r
             }
         }
         pdf.getRoot().removeKey("/PageLabels"); // they count the pages that were
-        return writePdf(pdf, target);
+        return writePdf(pdf, *files.value().target);
     });
 }
 

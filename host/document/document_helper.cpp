@@ -1,0 +1,115 @@
+#include "document_helper.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QMutex>
+
+namespace kelvo {
+
+namespace {
+
+struct HelperFolder
+{
+    QMutex mutex;
+    QString path; // empty: beside the program
+};
+
+// Never destroyed: a thread may outlive every static object.
+HelperFolder &helperFolder()
+{
+    static auto &state = *new HelperFolder;
+    return state;
+}
+
+QStringList foldersToSearch()
+{
+    const QMutexLocker lock(&helperFolder().mutex);
+    if (!helperFolder().path.isEmpty())
+        return {helperFolder().path};
+    const QString folder = QCoreApplication::applicationDirPath();
+    return {folder + QLatin1String("/../lib"), folder + QLatin1String("/../lib/kelvo")};
+}
+
+QLatin1String nameOf(DocumentHelper helper)
+{
+    switch (helper) {
+    case DocumentHelper::Pages:
+        return QLatin1String("kelvo-pdf-pages");
+    case DocumentHelper::Converter:
+        return QLatin1String("kelvo-converter");
+    case DocumentHelper::Drawing:
+        return QLatin1String("kelvo-page-drawing");
+    }
+    return {};
+}
+
+DocumentHelper helperFor(Task task)
+{
+    const bool converts = task == Task::ConvertText || task == Task::ConvertPicture;
+    return converts ? DocumentHelper::Converter : DocumentHelper::Pages;
+}
+
+} // namespace
+
+void setDocumentHelperFolder(const QString &path)
+{
+    const QMutexLocker lock(&helperFolder().mutex);
+    helperFolder().path = path;
+}
+
+Result<ChildProgram> documentHelper(DocumentHelper helper)
+{
+    const QString name = nameOf(helper);
+    for (const QString &folder : foldersToSearch()) {
+        const QString path = folder + QLatin1Char('/') + name;
+        if (QFileInfo::exists(path))
+            return ChildProgram{.program = path, .arguments = {QStringLiteral(KELVO_VERSION)}};
+    }
+    return Error{Error::Code::NotFound, name,
+                 QStringLiteral("this part that reads documents is not installed beside the "
+                                "program; install kelvo-print anew")};
+}
+
+Error senselessAnswer(const QString &where)
+{
+    return Error{Error::Code::Damaged, where,
+                 QStringLiteral("the program that reads it gave no answer that makes sense; the "
+                                "file may be damaged")};
+}
+
+Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJob &job)
+{
+    Result<ChildProgram> child = documentHelper(helperFor(task));
+    if (!child)
+        return child.error();
+    child.value().folder = job.folder;
+    child.value().input = request;
+    // A long text is no sign of anything wrong; it has a limit of its own.
+    if (task == Task::ConvertText)
+        child.value().seconds = 0;
+    static const std::atomic_bool never = false;
+    Result<ChildEnd> end =
+        runChild(child.value(), job.where, job.cancelled ? *job.cancelled : never);
+    if (!end)
+        return end.error();
+    switch (end.value().status) {
+    case 0:
+        return std::move(end.value().output);
+    case kOtherVersionStatus:
+        return Error{Error::Code::Damaged, child.value().program,
+                     QStringLiteral("this is not the part that reads documents of kelvo-print %1; "
+                                    "install kelvo-print anew")
+                         .arg(QStringLiteral(KELVO_VERSION))};
+    case kOutOfMemoryStatus:
+        return Error{Error::Code::TooLarge, job.where,
+                     QStringLiteral("reading it needs more than %1 MB of memory")
+                         .arg(limits::converterMemory / limits::MiB)};
+    default:
+        return Error{Error::Code::Damaged, job.where,
+                     QStringLiteral("the program that reads it ended with status %1: %2")
+                         .arg(end.value().status)
+                         .arg(end.value().message.section(u'\n', -1))};
+    }
+}
+
+} // namespace kelvo

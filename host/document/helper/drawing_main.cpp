@@ -1,0 +1,110 @@
+#include "confinement.h"
+#include "font_folders.h"
+#include "helper_main.h"
+
+#include <poppler-qt6.h>
+
+#include <QFile>
+#include <QImage>
+
+#include <algorithm>
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+using namespace kelvo;
+using namespace kelvo::documents;
+
+// Draws pages of one PDF until nobody asks any more.
+
+// False at the end of the input.
+static bool readWhole(void *data, std::size_t size)
+{
+    auto *bytes = static_cast<char *>(data);
+    while (size > 0) {
+        const ssize_t count = ::read(STDIN_FILENO, bytes, size);
+        if (count <= 0)
+            return false;
+        bytes += count;
+        size -= static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+static bool writeWhole(int fd, const void *data, std::size_t size)
+{
+    const auto *bytes = static_cast<const char *>(data);
+    while (size > 0) {
+        const ssize_t count = ::write(fd, bytes, size);
+        if (count <= 0)
+            return false;
+        bytes += count;
+        size -= static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+// Whoever asks again wants this page no longer; nor does who has gone.
+static bool isAskedAgain(const QVariant &)
+{
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    return ::poll(&input, 1, 0) > 0;
+}
+
+static QImage draw(const Poppler::Document &pdf, const DrawingRequest &request)
+{
+    const std::unique_ptr<Poppler::Page> page = pdf.page(request.page - 1);
+    if (!page)
+        return {};
+    const QSizeF size = page->pageSizeF(); // points
+    const QSize room =
+        QSize(request.width, request.height).boundedTo({kMostDrawnPixels, kMostDrawnPixels});
+    if (size.isEmpty() || room.isEmpty())
+        return {};
+    const double scale = std::min(room.width() / size.width(), room.height() / size.height());
+    const QSize fitted = (size * scale).toSize().expandedTo(QSize(1, 1));
+    const auto none = [](const QImage &, const QVariant &) {};
+    const auto never = [](const QVariant &) { return false; };
+    QImage image =
+        page->renderToImage(72 * scale, 72 * scale, 0, 0, fitted.width(), fitted.height(),
+                            Poppler::Page::Rotate0, none, never, isAskedAgain, QVariant());
+    if (isAskedAgain({}))
+        return {};
+    image.convertTo(QImage::Format_RGB32);
+    return image;
+}
+
+int main(int argc, char **argv)
+{
+    if (!isOwnCaller(argc, argv) || argc != 3)
+        return kOtherVersionStatus;
+    endWithoutMemory();
+    const int answers = ::dup(STDOUT_FILENO);
+    ::dup2(STDERR_FILENO, STDOUT_FILENO);
+    // A page is a megabyte and more, and a pipe holds a sixteenth of one.
+    ::fcntl(answers, F_SETPIPE_SZ, 1024 * 1024);
+    // It reports every oddity of a document on standard error.
+    Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
+    const QString path = QFile::decodeName(argv[2]);
+    confineTo(fontFolders() << path);
+
+    const std::unique_ptr<Poppler::Document> pdf = Poppler::Document::load(path);
+    if (pdf) {
+        pdf->setRenderHint(Poppler::Document::Antialiasing);
+        pdf->setRenderHint(Poppler::Document::TextAntialiasing);
+        pdf->setPaperColor(Qt::white);
+    }
+    DrawingRequest request;
+    while (readWhole(&request, sizeof request)) {
+        if (request.number == 0)
+            continue;
+        const QImage image = pdf ? draw(*pdf, request) : QImage();
+        const DrawingAnswer answer{request.number, image.width(), image.height()};
+        // Rows of four-byte pixels have no gaps.
+        if (!writeWhole(answers, &answer, sizeof answer)
+            || !writeWhole(answers, image.constBits(),
+                           static_cast<std::size_t>(image.sizeInBytes())))
+            break;
+    }
+    std::_Exit(0);
+}

@@ -1,0 +1,50 @@
+#include "helper_main.h"
+
+#include "terminal.h"
+
+#include <QFile>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <unistd.h>
+
+namespace kelvo::documents {
+
+bool isOwnCaller(int argc, char **argv)
+{
+    if (argc >= 2 && std::strcmp(argv[1], KELVO_VERSION) == 0)
+        return true;
+    printLine(stderr,
+              QStringLiteral("This is a part of kelvo-print " KELVO_VERSION ", which starts it."));
+    return false;
+}
+
+void endWithoutMemory()
+{
+    std::set_new_handler([] { ::_exit(kOutOfMemoryStatus); });
+}
+
+void answerRequest(void (*answer)(Task task, QDataStream &in, QDataStream &out))
+{
+    QFile input;
+    QByteArray request;
+    if (input.open(STDIN_FILENO, QIODevice::ReadOnly))
+        request = input.readAll();
+
+    const int answers = ::dup(STDOUT_FILENO);
+    ::dup2(STDERR_FILENO, STDOUT_FILENO);
+    QDataStream in(request);
+    QByteArray written;
+    QDataStream out(&written, QIODevice::WriteOnly);
+    const Task task = take<Task>(in);
+    answer(task, in, out);
+    QFile output;
+    if (output.open(answers, QIODevice::WriteOnly, QFile::AutoCloseHandle))
+        output.write(written);
+    output.close();
+    std::_Exit(0); // nothing is left to be torn down
+}
+
+} // namespace kelvo::documents

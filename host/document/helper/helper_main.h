@@ -1,0 +1,29 @@
+#pragma once
+
+#include "helper_messages.h"
+
+// What the programs of all helpers have in common.
+namespace kelvo::documents {
+
+// Whether `argv` begins as ours do: with the program's version. Says it on standard
+// error if not; main() ends with kOtherVersionStatus then.
+bool isOwnCaller(int argc, char **argv);
+
+// From now on a process that is out of memory ends with kOutOfMemoryStatus.
+void endWithoutMemory();
+
+// Answers the one request on standard input and ends the process; `answer` reads the
+// arguments of the task and writes the result. What libraries print goes to standard
+// error.
+[[noreturn]] void answerRequest(void (*answer)(Task task, QDataStream &in, QDataStream &out));
+
+// The next argument of a request.
+template <typename Value>
+Value take(QDataStream &in)
+{
+    Value value{};
+    in >> value;
+    return value;
+}
+
+} // namespace kelvo::documents

@@ -1,0 +1,53 @@
+#include "helper_main.h"
+#include "tasks.h"
+
+using namespace kelvo;
+using namespace kelvo::documents;
+
+static void answer(Task task, QDataStream &in, QDataStream &out)
+{
+    // Arguments of a call are evaluated in any order: all but the last are taken before.
+    switch (task) {
+    case Task::TidyPdf: {
+        const auto source = take<QString>(in);
+        out << documents::tidyPdf(source, take<QString>(in));
+        break;
+    }
+    case Task::SelectPdfPages: {
+        const auto source = take<QString>(in);
+        const auto runs = take<std::vector<PageRun>>(in);
+        out << documents::selectPdfPages(source, runs, take<QString>(in));
+        break;
+    }
+    case Task::FindEmbeddedFile: {
+        const auto path = take<QString>(in);
+        out << findEmbeddedFile(path, take<QString>(in));
+        break;
+    }
+    case Task::ReplaceEmbeddedFile: {
+        const auto source = take<QString>(in);
+        const auto name = take<QString>(in);
+        const auto type = take<QByteArray>(in);
+        const auto bytes = take<QByteArray>(in);
+        out << documents::replaceEmbeddedFile(source, name, type, bytes, take<QString>(in));
+        break;
+    }
+    case Task::CheckEmbeddedFile: {
+        const auto path = take<QString>(in);
+        const auto name = take<QString>(in);
+        out << checkEmbeddedFile(path, name, take<QByteArray>(in));
+        break;
+    }
+    case Task::ConvertText:
+    case Task::ConvertPicture:
+        break; // another helper's
+    }
+}
+
+int main(int argc, char **argv)
+{
+    if (!isOwnCaller(argc, argv))
+        return kOtherVersionStatus;
+    endWithoutMemory();
+    answerRequest(answer);
+}

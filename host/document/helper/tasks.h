@@ -1,0 +1,30 @@
+#pragma once
+
+#include "document_files.h"
+#include "pdf_pages.h"
+#include "result.h"
+
+#include <QByteArray>
+#include <QString>
+
+// What the helpers do, each task in a file of its own: it opens its files, lets go of
+// the right to open any other (confinement.h), and only then looks at what is in them.
+// Their own namespace keeps them apart from the program's functions of the same names,
+// which ask for them and say what they do.
+namespace kelvo::documents {
+
+Result<PdfPages> tidyPdf(const QString &source, const QString &target);
+Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
+                            const QString &target);
+Result<bool> findEmbeddedFile(const QString &pdfPath, const QString &name);
+Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
+                                 const QByteArray &mimeType, const QByteArray &bytes,
+                                 const QString &target);
+// Whether the only embedded file `name` has these `bytes`, or with null `bytes` there
+// is none; else Refused.
+Result<void> checkEmbeddedFile(const QString &pdfPath, const QString &name,
+                               const QByteArray &bytes);
+Result<void> convertText(const ConverterFiles &files, const QSizeF &paper);
+Result<QString> convertPicture(const ConverterFiles &files);
+
+} // namespace kelvo::documents

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "document_files.h"
+#include "page_ranges.h"
+#include "pdf_pages.h"
+#include "result.h"
+
+#include <QDataStream>
+#include <QSize>
+
+#include <vector>
+
+// What the program asks of its document helpers, and how they answer: one request
+// on standard input, one answer on standard output. Both sides are of one version
+// (see document_helper.h), so the format is nobody else's business.
+namespace kelvo {
+
+// The first value of a request; then come the arguments of the function.
+enum class Task : quint8 {
+    TidyPdf,             // source, target → PdfPages, whether `source` is good as it is
+    SelectPdfPages,      // source, runs, target
+    FindEmbeddedFile,    // pdf, name → whether it is there
+    ReplaceEmbeddedFile, // source, name, type, bytes, target
+    CheckEmbeddedFile,   // pdf, name, bytes
+    ConvertText,         // files, paper
+    ConvertPicture,      // files → what was left out
+};
+
+inline QDataStream &operator<<(QDataStream &stream, const PageRun &run)
+{
+    return stream << qint32(run.first) << qint32(run.last);
+}
+
+inline QDataStream &operator>>(QDataStream &stream, PageRun &run)
+{
+    qint32 first = 0;
+    qint32 last = 0;
+    stream >> first >> last;
+    run = {first, last};
+    return stream;
+}
+
+// A count, then so many values. What ends too early is an error of the stream.
+template <typename Value>
+QDataStream &operator<<(QDataStream &stream, const std::vector<Value> &values)
+{
+    stream << quint64(values.size());
+    for (const Value &value : values)
+        stream << value;
+    return stream;
+}
+
+template <typename Value>
+QDataStream &operator>>(QDataStream &stream, std::vector<Value> &values)
+{
+    quint64 count = 0;
+    stream >> count;
+    values.clear();
+    while (count-- > 0 && stream.status() == QDataStream::Ok) {
+        Value value;
+        stream >> value;
+        values.push_back(value);
+    }
+    return stream;
+}
+
+inline QDataStream &operator<<(QDataStream &stream, const PdfPages &pages)
+{
+    return stream << pages.sizes << pages.isRepaired << pages.isSound;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, PdfPages &pages)
+{
+    return stream >> pages.sizes >> pages.isRepaired >> pages.isSound;
+}
+
+inline QDataStream &operator<<(QDataStream &stream, const ConverterFiles &files)
+{
+    return stream << files.folder << files.source << files.pdf << files.where;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, ConverterFiles &files)
+{
+    return stream >> files.folder >> files.source >> files.pdf >> files.where;
+}
+
+inline QDataStream &operator<<(QDataStream &stream, const Error &error)
+{
+    return stream << qint32(error.code) << error.where << error.detail;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, Error &error)
+{
+    qint32 code = 0;
+    stream >> code >> error.where >> error.detail;
+    error.code = code >= 0 && code <= qint32(Error::Code::Cancelled) ? Error::Code(code)
+                                                                     : Error::Code::Damaged;
+    return stream;
+}
+
+// A result is whether it is one, then the value or the error.
+inline QDataStream &operator<<(QDataStream &stream, const Result<void> &result)
+{
+    stream << bool(result);
+    return result ? stream : stream << result.error();
+}
+
+template <typename Value>
+QDataStream &operator<<(QDataStream &stream, const Result<Value> &result)
+{
+    stream << bool(result);
+    return result ? stream << result.value() : stream << result.error();
+}
+
+// ---- the helper that draws, which is asked again and again
+
+// What it is asked for: the picture of a page, or with number 0 to stop drawing.
+// The PDF is an argument of the program.
+inline constexpr int kMostDrawnPixels = 8192; // along either side; 4 times a large screen
+struct DrawingRequest
+{
+    quint32 number = 0;
+    qint32 page = 0;              // from 1
+    qint32 width = 0, height = 0; // pixels to fit it into
+};
+
+// Its answer: so many pixels of QImage::Format_RGB32 follow, rows without gaps; none
+// of a page that it cannot draw or was told to leave.
+struct DrawingAnswer
+{
+    quint32 number = 0;
+    qint32 width = 0, height = 0;
+};
+
+// Exit statuses of helpers, beside 0.
+inline constexpr int kOtherVersionStatus = 20;
+inline constexpr int kOutOfMemoryStatus = 21;
+
+} // namespace kelvo

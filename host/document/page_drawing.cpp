@@ -1,0 +1,147 @@
+#include "page_drawing.h"
+
+#include "document_helper.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <csignal>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int pollMs = 10;
+constexpr int leaveMs = 500; // for a page that is no longer wanted to be left
+
+template <typename Record>
+void send(QProcess &process, const Record &record)
+{
+    process.write(reinterpret_cast<const char *>(&record), sizeof record);
+    process.waitForBytesWritten(pollMs);
+}
+
+} // namespace
+
+PageDrawing::PageDrawing(const QString &pdfPath)
+    : m_pdfPath(pdfPath)
+{
+}
+
+PageDrawing::~PageDrawing()
+{
+    stop();
+}
+
+bool PageDrawing::start()
+{
+    if (m_process)
+        return true;
+    Result<ChildProgram> child = documentHelper(DocumentHelper::Drawing);
+    if (!child)
+        return false;
+    child.value().arguments << m_pdfPath;
+    child.value().folder = QFileInfo(m_pdfPath).path();
+    child.value().memory = limits::drawingMemory;
+    child.value().seconds = 0; // each page has its own
+    m_process = std::make_unique<QProcess>();
+    prepareChild(*m_process, child.value());
+    m_process->setStandardErrorFile(QProcess::nullDevice());
+    m_process->start();
+    m_owed = 0;
+    if (m_process->waitForStarted(-1))
+        return true;
+    m_process.reset();
+    return false;
+}
+
+void PageDrawing::stop()
+{
+    if (!m_process)
+        return;
+    m_process->kill();
+    m_process->waitForFinished(-1);
+    m_process.reset();
+}
+
+// Takes the answers that are there as a whole; true with the one for `number`.
+bool PageDrawing::readAnswer(quint32 number, QImage &image)
+{
+    DrawingAnswer answer;
+    const auto header = qint64(sizeof answer);
+    while (m_process->peek(reinterpret_cast<char *>(&answer), header) == header) {
+        const QSize size(answer.width, answer.height);
+        const auto isSide = [](int pixels) { return pixels >= 0 && pixels <= kMostDrawnPixels; };
+        if (!isSide(answer.width) || !isSide(answer.height)) {
+            stop();
+            return false;
+        }
+        const qint64 bytes = qint64(size.width()) * size.height() * 4;
+        if (m_process->bytesAvailable() < header + bytes)
+            return false;
+        m_process->skip(header);
+        --m_owed;
+        if (answer.number != number) {
+            m_process->skip(bytes);
+            continue;
+        }
+        image = QImage(size, QImage::Format_RGB32);
+        if (!image.isNull())
+            m_process->read(reinterpret_cast<char *>(image.bits()), bytes);
+        return true;
+    }
+    return false;
+}
+
+PageProblem PageDrawing::problemOfEnd() const
+{
+    // Of the library that counts its own memory, 1; else the kernel's way to say so.
+    const bool exited = m_process->exitStatus() == QProcess::NormalExit;
+    const int status = m_process->exitCode();
+    const bool isTooLarge =
+        exited ? status == kOutOfMemoryStatus || status == 1 : status == SIGKILL;
+    return isTooLarge ? PageProblem::TooLarge : PageProblem::NotDrawable;
+}
+
+DrawnPage PageDrawing::draw(int page, const QSize &pixels, const std::function<bool()> &isAbandoned)
+{
+    if (const auto known = m_problems.constFind(page); known != m_problems.cend())
+        return {{}, *known};
+    const auto failed = [&](PageProblem problem) {
+        stop();
+        m_problems.insert(page, problem);
+        return DrawnPage{{}, problem};
+    };
+
+    if (!start())
+        return {{}, PageProblem::NotDrawable};
+    const DrawingRequest request{++m_number, page, pixels.width(), pixels.height()};
+    send(*m_process, request);
+    ++m_owed;
+    QElapsedTimer timer;
+    timer.start();
+    QImage image;
+    while (!readAnswer(request.number, image)) {
+        if (!m_process)
+            return failed(PageProblem::NotDrawable);
+        const bool hasEnded = m_process->state() == QProcess::NotRunning;
+        if (isAbandoned()) {
+            send(*m_process, DrawingRequest{});
+            return {};
+        }
+        // At an older page it has crashed, or does not listen: a new one starts afresh.
+        if (m_owed > 1 && (hasEnded || timer.hasExpired(leaveMs))) {
+            stop();
+            return draw(page, pixels, isAbandoned);
+        }
+        if (hasEnded)
+            return failed(problemOfEnd());
+        if (timer.hasExpired(limits::drawingSeconds * 1000))
+            return failed(PageProblem::TooSlow);
+        m_process->waitForReadyRead(pollMs);
+    }
+    return {image, image.isNull() ? PageProblem::NotDrawable : PageProblem::None};
+}
+
+} // namespace kelvo

@@ -1,0 +1,34 @@
+#include "pdf_pages.h"
+
+#include "document_helper.h"
+#include "output_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace kelvo {
+
+Result<PdfPages> tidyPdf(const QString &source, const QString &target,
+                         const std::atomic_bool &cancelled)
+{
+    const HelperJob job{source, QFileInfo(target).path(), &cancelled};
+    Result<PdfPages> pages = ask<PdfPages>(Task::TidyPdf, job, source, target);
+    if (pages && pages.value().isSound
+        && std::rename(QFile::encodeName(source).constData(), QFile::encodeName(target).constData())
+            != 0) {
+        return notWritable(target, errno);
+    }
+    return pages;
+}
+
+Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
+                            const QString &target)
+{
+    return ask<void>(Task::SelectPdfPages, {source, QFileInfo(target).path()}, source, runs,
+                     target);
+}
+
+} // namespace kelvo
