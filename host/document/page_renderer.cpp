@@ -68,8 +68,12 @@ PageRenderer::PageRenderer(QObject *parent)
 PageRenderer::~PageRenderer()
 {
     setDocument({}); // stops the page being drawn
-    // A process belongs to the thread that started it.
-    QMetaObject::invokeMethod(&d->worker, [this] { d->drawing.reset(); });
+    // A process belongs to the thread that started it. It listens at once: nobody wants
+    // the page that it may be at.
+    if (d->thread.isRunning()) {
+        QMetaObject::invokeMethod(
+            &d->worker, [this] { d->drawing.reset(); }, Qt::BlockingQueuedConnection);
+    }
     d->thread.quit();
     d->thread.wait();
 }
@@ -92,7 +96,7 @@ void PageRenderer::render(int page, const QSize &pixels)
             this,
             [this, number = ++d->shared.wanted, page] {
                 if (d->shared.wanted == number)
-                    emit rendered(page, {});
+                    emit rendered(page, {}, PageProblem::NotDrawable);
             },
             Qt::QueuedConnection);
         return;
