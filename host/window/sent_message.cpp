@@ -24,13 +24,15 @@ SentMessage::SentMessage(QObject *parent)
 void SentMessage::tell(const QString &text, const QString &title)
 {
     m_moment.start();
-    m_notification.start([text, title] { return showDesktopNotification(text, title); },
-                         [this](bool isShown) {
-                             if (!isShown || !m_moment.isActive())
-                                 return; // the window's line stays
-                             m_moment.stop();
-                             emit told();
-                         });
+    // Without a thread to be had, and wherever nobody shows it, the window's line stays.
+    static_cast<void>(
+        m_notification.start([text, title] { return showDesktopNotification(text, title); },
+                             [this](bool isShown) {
+                                 if (!isShown || !m_moment.isActive())
+                                     return;
+                                 m_moment.stop();
+                                 emit told();
+                             }));
 }
 
 } // namespace kelvo
