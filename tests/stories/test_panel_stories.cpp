@@ -275,7 +275,7 @@ void TestPanelStories::saysWhatWillBeMissing()
     const Desk desk;
     write(desk.path("cover.kps"),
           "panel SpecialPages\nclick @addCovers\nchoose @coverOptions 2\n"
-          "item @frontStockButton 'Sclr' key Blue\nclick @okButton\n"
+          "item @frontStockButton 'Sclr' key Blue\nclick @okButton\nanswer 2\n"
           "panel PaperOutput\ntab 2\ntab 1\nexpect @conflictBar visible true\nsummary\nprint\n");
     const Run run = desk.run({"--demo", "--no-window", "--script", "cover.kps", "--to", "out", "-o",
                               "PageSize=A5", "-P", "1,3-4"});

@@ -999,7 +999,7 @@ void TestStories::leavesEachQueueItsOwnDefaults()
     QCOMPARE(messages,
              missing.isEmpty() ? QStringList()
                                : QStringList{"kelvo-print: " + missing
-                                             + ": not sent, the printer does not have it"});
+                                             + ": not sent, this printer does not have it"});
 }
 
 void TestStories::mendsAConflict()
