@@ -182,7 +182,7 @@ void TestSecrets::wordsStayOnTheirLines()
     const QString text =
         describeJob(file, settings, nullptr, {}, {}, missingOnDevice(file, nullptr)).asText();
     for (const char *line :
-         {"  Pages: 2\\n3\n", "  Paper: A4\\n\n", "  Glit\\nter: O\\x9bn – this printer",
+         {"  Pages: 2\\n3\n", "  Paper: A4\\n – ", "  Glit\\nter: O\\x9bn – the print server",
           "  A\\nB = {C\\nD = \"E\\nF\\x1b\"} (written by test)\n"})
         QVERIFY2(text.contains(QString::fromUtf8(line)), qPrintable(text));
 }
