@@ -1,6 +1,7 @@
 #include "print_dialog.h"
 
 #include "caution_bar.h"
+#include "control.h"
 #include "document_preview.h"
 #include "focus_regions.h"
 #include "help_window.h"
@@ -10,7 +11,6 @@
 #include "page_ranges.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
-#include "popup_button.h"
 #include "ppd_words.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
