@@ -1,5 +1,7 @@
 #include "child_process.h"
 
+#include "address_sanitizer.h"
+
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
@@ -28,19 +30,10 @@ void limit(__rlimit_resource_t resource, qint64 value)
     ::setrlimit(resource, &both);
 }
 
-// The address sanitizer reserves terabytes that it never touches.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool memoryIsLimited = false;
-#elif defined(__has_feature)
-constexpr bool memoryIsLimited = !__has_feature(address_sanitizer);
-#else
-constexpr bool memoryIsLimited = true;
-#endif
-
 // Between fork and exec: only what is safe there.
 void enterLimits(qint64 memory, int seconds)
 {
-    if (memoryIsLimited)
+    if (!kHasAddressSanitizer)
         limit(RLIMIT_AS, memory);
     if (seconds > 0)
         limit(RLIMIT_CPU, seconds);
