@@ -232,7 +232,7 @@ void DialogSession::takePpd(const QString &path)
     auto opened = PpdFile::open(path);
     if (!opened) {
         // The copy's path means nothing to the user.
-        takePpdProblem(tr("The description of them that the print server has is damaged (%1).")
+        takePpdProblem(tr("The print server’s description of them is damaged (%1).")
                            .arg(opened.error().detail));
         return;
     }
