@@ -29,6 +29,8 @@ QString rangeWords(const QVariant &range, const EntryWords &words)
     if (!first || !last)
         return QStringLiteral("?");
     const QString begin = QString::number(*first);
+    if (*last < *first)
+        return begin + QStringLiteral(" (no page)");
     return first == last ? begin : begin + u'–' + QString::number(*last);
 }
 

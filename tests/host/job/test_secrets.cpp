@@ -202,6 +202,10 @@ void TestSecrets::wordsStayInBounds()
              (QStringList{"Pages: 99999" + notRead,
                           "First: 0, 1, 2, 3, 4, 5, 6, 7 and 99991 more" + notRead,
                           "2 entries that the device panels add (see Ticket)" + notRead}));
+    const JobWords none = describeJob(
+        ticketOf({{"None", Array{Dictionary{{"first", 5}, {"last", 0}}}}}), {}, nullptr, {},
+        {{.path = "None", .label = "None:", .firstPage = "first", .lastPage = "last"}}, {});
+    QVERIFY(none.notSent.contains("None: 5 (no page)" + notRead));
     QCOMPARE(words.ticket.size(), 2);
     for (const QString &line : words.ticket) {
         QVERIFY(line.size() < 600);
