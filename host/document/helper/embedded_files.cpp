@@ -17,8 +17,8 @@ namespace {
 using Code = Error::Code;
 using Handle = QPDFObjectHandle;
 
-// Where a file specification has its name: for all readers, and for those of some
-// systems.
+// Where the entry of an embedded file has its name: for all readers, and for those of
+// some systems.
 constexpr std::array<const char *, 5> nameKeys = {"/F", "/UF", "/DOS", "/Mac", "/Unix"};
 
 // ---- finding

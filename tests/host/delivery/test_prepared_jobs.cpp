@@ -172,7 +172,7 @@ void TestPreparedJobs::replaceOlderTickets()
 }
 
 // Objects 1 to 3 are the catalog, the page tree and the page; each form adds what it
-// needs, with OLD for the ticket's specification and STREAM for what is in it.
+// needs, with OLD for the ticket's entry and STREAM for what is in it.
 void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
 {
     QTest::addColumn<QByteArray>("catalog"); // entries
