@@ -145,7 +145,9 @@ QWidget *frontWindow()
 
 void activateAgain(QWidget *window)
 {
-    if (window && window->isVisible() && !QApplication::activeWindow())
+    // The closed dialog may be called the active one until the event loop runs again.
+    const QWidget *active = QApplication::activeWindow();
+    if (window && window->isVisible() && (!active || !active->isVisible()))
         window->activateWindow();
 }
 

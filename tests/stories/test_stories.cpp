@@ -890,6 +890,8 @@ void TestStories::hearsShortcutsAfterASetUp()
           "type @passcode \"4815\"\n"
           "type @confirmPasscode \"4815\"\n"
           "click @okButton\n"
+          "click @whatWillBeSent\n"
+          "click @close\n"
           "key Ctrl+P\n");
     QENDED(desk.run({"--demo", "--no-window", "--to", "out", "--script", "keys.kps"}), 0);
     QVERIFY(QFile::exists(desk.path("out/document.pdf")));
