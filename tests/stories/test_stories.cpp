@@ -868,6 +868,7 @@ void TestStories::endsWhereThereAreNoThreads()
 {
     for (const int most : {1, 4}) { // processes of this user, of which there are some already
         Desk desk;
+        desk.leaveLeaksAlone();
         desk.atStart([most] {
             rlimit limit = {};
             ::getrlimit(RLIMIT_NPROC, &limit);
