@@ -254,7 +254,9 @@ void TestSecretStories::printsUnderAnyName()
     const QByteArray error = process.readAllStandardError();
     QVERIFY2(process.exitCode() == 0, error.constData());
     QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()), "out " + printed + '\n');
-    const auto name = ticketIn(desk.path("out")).printSettings.entries.find(kPMJobNameKey);
+    const TicketFile ticket = ticketIn(desk.path("out"));
+    const auto name = ticket.printSettings.entries.find(kPMJobNameKey);
+    QVERIFY(name != ticket.printSettings.entries.end());
     QCOMPARE(name->second.value.toString(), printed);
 }
 
