@@ -1,6 +1,6 @@
 #include "child_process.h"
 
-#include "address_sanitizer.h"
+#include "sanitizers.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -33,7 +33,7 @@ void limit(__rlimit_resource_t resource, qint64 value)
 // Between fork and exec: only what is safe there.
 void enterLimits(qint64 memory, int seconds)
 {
-    if (!kHasAddressSanitizer)
+    if (!kHasSanitizer)
         limit(RLIMIT_AS, memory);
     if (seconds > 0)
         limit(RLIMIT_CPU, seconds);

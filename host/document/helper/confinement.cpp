@@ -1,6 +1,6 @@
 #include "confinement.h"
 
-#include "address_sanitizer.h"
+#include "sanitizers.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -102,7 +102,7 @@ private:
 void confineToOpenFiles()
 {
     Ruleset().restrict();
-    if (kHasAddressSanitizer)
+    if (kHasSanitizer)
         return;
     // The lowest free number is the first that may not be given out; open files keep
     // theirs, also above it.

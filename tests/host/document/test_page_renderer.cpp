@@ -1,6 +1,6 @@
-#include "address_sanitizer.h"
 #include "page_renderer.h"
 #include "sample_documents.h"
+#include "sanitizers.h"
 #include "size_limits.h"
 
 #include <QElapsedTimer>
@@ -141,7 +141,7 @@ void TestPageRenderer::saysWhatIsTooMuch_data()
     QTest::addColumn<QByteArray>("contents");
     QTest::addColumn<PageProblem>("problem");
     // A few kilobytes when they are compressed; each "q" keeps 4 kB of state.
-    if (!kHasAddressSanitizer)
+    if (!kHasSanitizer)
         QTest::newRow("memory") << QByteArray("q ").repeated(2'000'000) << PageProblem::TooLarge;
     QTest::newRow("time")
         << QByteArray("0 0 2000 2000 re 5 5 m 900 20 70 800 30 40 c f*\n").repeated(3'000'000)
