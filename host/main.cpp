@@ -437,10 +437,21 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     return runDialog(std::move(options));
 }
 
+// A caller may have closed them. What is opened first would get their numbers: a pipe of
+// our own was read as the document, for ever.
+void provideStandardStreams()
+{
+    for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(fd, F_GETFD) < 0)
+            static_cast<void>(::open("/dev/null", O_RDWR)); // takes the lowest free number
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    provideStandardStreams();
     qInstallMessageHandler(passMessage);
     // A file that may not grow is an error of its write, which says so.
     std::signal(SIGXFSZ, SIG_IGN);

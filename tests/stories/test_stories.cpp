@@ -122,6 +122,7 @@ private slots:
     void printsWhatIsNamedOnTheSampleDevice();
     void tellsOfAnOutputThatIsFull();
     void endsWhereThereAreNoThreads();
+    void endsWhereStandardInputIsClosed();
     void hearsShortcutsAfterASetUp();
     void keepsPresets();
     void keepsNoDefaultsInPresets();
@@ -881,6 +882,15 @@ void TestStories::endsWhereThereAreNoThreads()
                  qPrintable(print.err));
         QVERIFY(!QFile::exists(desk.path("out")));
     }
+}
+
+void TestStories::endsWhereStandardInputIsClosed()
+{
+    Desk desk;
+    desk.atStart([] { ::close(STDIN_FILENO); });
+    const Run print = desk.run({"--demo", "--no-window", "--to", "out", "-"});
+    QENDED(print, 1);
+    QVERIFY2(print.err.contains("(stdin): "), qPrintable(print.err));
 }
 
 void TestStories::hearsShortcutsAfterASetUp()
