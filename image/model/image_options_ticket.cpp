@@ -3,6 +3,8 @@
 #include "lighten_darken.h"
 #include "ppd_choices.h"
 #include "setting_map.h"
+#include "ticket.h"
+#include "ticket_values.h"
 
 #include <span>
 
@@ -16,6 +18,7 @@ struct Setting
     std::int32_t ImageOptionsContext::*value;
 };
 const QString lightnessOption = QStringLiteral("KVImageQuality");
+const QString client = QStringLiteral("com.kelvo.print");
 constexpr Setting tonerSaver[] = {{"KVEconomode", &ImageOptionsContext::tonerSaver}};
 constexpr Setting qualityAndColor[] = {
     {"KVOutputMode", &ImageOptionsContext::imageQuality},
@@ -26,6 +29,21 @@ constexpr Setting qualityAndColor[] = {
 bool isWritten(const ImageOptionsContext &context, const QString &option)
 {
     return !context.ppd || context.ppd->findOption(option);
+}
+
+// A ticket that says nothing of the lightness begins with the PPD's default. That none
+// is asked for must be said, or a preset of such a job would ask for one.
+QString printerDefaultKey()
+{
+    return ticketKey("PrinterDefaultLightness");
+}
+
+void writePrinterDefault(const ImageOptionsContext &context, PMTicketRef ticket)
+{
+    if (context.lightenDarken == kUnset && !PPDCopyCurrentChoice(ticket, lightnessOption))
+        PMTicketSetCFBoolean(ticket, client, printerDefaultKey(), true);
+    else
+        PMTicketReleaseItem(ticket, printerDefaultKey());
 }
 
 // What of the ticket's lightness is not the panel's own.
@@ -68,6 +86,8 @@ OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket)
         return kPMInvalidParameter;
     context->keptLightness = keptLightness(*context, ticket);
     auto choice = PPDCopyCurrentChoice(ticket, lightnessOption);
+    if (!choice && PMTicketGetCFBoolean(ticket, printerDefaultKey()).value_or(false))
+        context->lightenDarken = kUnset;
     if (!choice && context->lightenDarken == kUnset)
         return noErr; // a ticket without a choice is what was chosen
     if (!choice)
@@ -81,8 +101,10 @@ OSStatus SyncLightenDarkenToTicket(ImageOptionsContext *context, PMTicketRef tic
 {
     if (!context || !ticket)
         return kPMInvalidParameter;
-    if (!context->opened || !isWritten(*context, lightnessOption))
+    if (!context->opened || !isWritten(*context, lightnessOption)) {
+        writePrinterDefault(*context, ticket);
         return noErr;
+    }
     if (context->lightenDarken == kUnset) {
         if (PPDCopyCurrentChoice(ticket, lightnessOption) == context->writtenLightness)
             PPDRemoveCurrentChoice(ticket, lightnessOption);
@@ -92,6 +114,7 @@ OSStatus SyncLightenDarkenToTicket(ImageOptionsContext *context, PMTicketRef tic
             PPDChoiceForTicketValue(lightnessOption, context->lightenDarken);
         PPDSetCurrentChoice(ticket, lightnessOption, context->writtenLightness);
     }
+    writePrinterDefault(*context, ticket);
     context->keptLightness = keptLightness(*context, ticket);
     return noErr;
 }

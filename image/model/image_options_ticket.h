@@ -7,7 +7,7 @@
 // Between the Image Options panel and the print settings ticket. All but the
 // inverted image travels as choices of PPD options:
 //
-//   KVImageQuality      lightenDarken
+//   KVImageQuality      lightenDarken; none for the printer's default
 //   KVEconomode         tonerSaver
 //   KVOutputMode        imageQuality
 //   KVCMYKColorSpace    cmykSourceColor
@@ -18,13 +18,18 @@
 // was, and so does an option that the PPD does not have: what the ticket says of it
 // is for another device.
 //
+// Beside them stands, for tickets and presets that are read later,
+//
+//   com.kelvo.print.PrinterDefaultLightness   boolean, true or missing: no choice of
+//       KVImageQuality is what was chosen, not what nobody has thought of yet
+//
 // All give noErr, or kPMInvalidParameter for a null context or no ticket.
 namespace kelvo {
 
 // A choice that no step stands for is read as the printer's default, and so is no
-// choice where that was chosen.
+// choice where that was chosen, here or in the ticket.
 OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket);
-// Nothing is written before the panel was opened. The printer's default takes the
+// No choice is written before the panel was opened. The printer's default takes the
 // choice back that the panel itself wrote; any other stays.
 OSStatus SyncLightenDarkenToTicket(ImageOptionsContext *context, PMTicketRef ticket);
 

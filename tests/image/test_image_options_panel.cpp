@@ -92,6 +92,7 @@ private slots:
     void answersAsEveryPanel();
     void sliderAndFieldFollowEachOther();
     void leavesLightnessToThePrinter();
+    void readsInATicketThatThePrinterDecides();
     void takesWhatIsTypedWhenAnotherControlIsUsed();
     void showsWhatEachChoiceDoes();
     void writesBackWhatItRead();
@@ -201,6 +202,34 @@ void TestImageOptionsPanel::leavesLightnessToThePrinter()
     QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Pale")));
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QCOMPARE(ticket.value(option), QStringLiteral("Pale"));
+}
+
+// A preset of such a job, or a ticket, in a dialog that begins with it.
+void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
+{
+    Ticket written;
+    {
+        Panel panel(QStringLiteral("full"));
+        panel.begin();
+        QCOMPARE(panel.sync(kSyncWrite), noErr);
+        panel.find<QCheckBox>(1109)->click();
+        QCOMPARE(panel.sync(kSyncWrite), noErr);
+        written = panel.session.session.printSettings();
+    }
+    Panel panel(QStringLiteral("full"));
+    Ticket &ticket = panel.session.session.printSettings();
+    ticket = written;
+    panel.begin();
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    auto *printerDefault = panel.find<QCheckBox>(1109);
+    QVERIFY(printerDefault->isChecked());
+    QVERIFY(ticket == written);
+    // A choice that is laid over it is the job's.
+    ticket.ppdChoices.insert(QStringLiteral("KVImageQuality"), QStringLiteral("Darken2"));
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QVERIFY(!printerDefault->isChecked());
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QVERIFY(ticket.entries.size() == written.entries.size() - 1);
 }
 
 void TestImageOptionsPanel::takesWhatIsTypedWhenAnotherControlIsUsed()
