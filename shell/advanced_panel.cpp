@@ -12,6 +12,7 @@
 #include "ppd_choices.h"
 #include "setting_maps.h"
 #include "ticket.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 #include "values.h"
 
@@ -49,6 +50,11 @@ const std::array kPpdRows = {
     PpdRow{"KVFeedEdge", &AdvancedContext::feedEdge, &AdvancedControls::feedEdge, 702, 7021,
            "Bypass Feed Edge Hint"},
 };
+
+QString bookletOrderKey()
+{
+    return ticketKey("AdvancedBookletLayoutOrderStr");
+}
 
 AdvancedContext *advancedOf(PMPDEContext context)
 {
@@ -118,6 +124,7 @@ void fillPopups(AdvancedContext &advanced)
     controls.bookletOrder = findControl<PopupButton>(advanced.content, kBookletOrderPopup);
     PopulatePopupButtonFromMap(advanced.bundle, controls.bookletOrder, BookletLayoutOrderMap,
                                kJobContextJob, kNoCommand);
+    setTicketPlaces(controls.bookletOrder, {{kPMPrintSettingsTicket, bookletOrderKey()}});
     for (const PpdRow &row : kPpdRows) {
         PopupButton *popup =
             findControl<PopupButton>(advanced.content, {kPanelSignature, row.popupNumber});
@@ -215,8 +222,7 @@ OSStatus Terminate(PMPDEContext context, OSStatus)
 void readAdvancedSettings(AdvancedContext &advanced, PMTicketRef ticket)
 {
     constexpr std::int32_t orderWhenAbsent = 2;
-    const std::optional<std::int64_t> order =
-        PMTicketGetCFNumber(ticket, ticketKey("AdvancedBookletLayoutOrderStr"));
+    const std::optional<std::int64_t> order = PMTicketGetCFNumber(ticket, bookletOrderKey());
     advanced.bookletOrder = integer32(QVariant::fromValue<qint64>(order.value_or(orderWhenAbsent)))
                                 .value_or(orderWhenAbsent);
     for (const PpdRow &row : kPpdRows) {
@@ -229,8 +235,7 @@ void readAdvancedSettings(AdvancedContext &advanced, PMTicketRef ticket)
 
 void writeAdvancedSettings(const AdvancedContext &advanced, PMTicketRef ticket)
 {
-    PMTicketSetCFNumber(ticket, kBookletOrderClient, ticketKey("AdvancedBookletLayoutOrderStr"),
-                        advanced.bookletOrder);
+    PMTicketSetCFNumber(ticket, kBookletOrderClient, bookletOrderKey(), advanced.bookletOrder);
     for (const PpdRow &row : kPpdRows) {
         const QString option = QString::fromLatin1(row.option);
         PPDSetCurrentChoice(ticket, option, PPDChoiceForTicketValue(option, advanced.*row.value));

@@ -2,6 +2,9 @@
 
 #include "ppd_words.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace kelvo {
 
 namespace {
@@ -40,6 +43,7 @@ void AskedSettings::clear()
     m_changes = {};
     m_changes.isPart = true;
     m_chosen.clear();
+    m_hits.clear();
     m_words.clear();
     m_wasChanged = false;
 }
@@ -77,13 +81,18 @@ void AskedSettings::settle(const TicketFile &ticket)
 bool AskedSettings::isFirstWrite(const TicketPlace &place, const TicketFile &ticket,
                                  const PpdFile *ppd) const
 {
-    if (place.first() != kPPDChoices || m_chosen.contains(place))
+    if (place.first() != kPPDChoices || m_chosen.contains(place) || m_hits.contains(place))
         return false;
     const QString &option = place[1];
     const PpdOption *known = ppd ? ppd->findOption(option) : nullptr;
     return known && ticket.printSettings.ppdChoices.value(option) == known->defaultChoice
         && !m_seen.printSettings.ppdChoices.contains(option)
         && !m_beginning.printSettings.ppdChoices.contains(option);
+}
+
+void AskedSettings::choose(const TicketPlaces &places)
+{
+    m_hits.merge(completed(places, m_repeated));
 }
 
 void AskedSettings::take(const TicketFile &ticket, const PpdFile *ppd)
@@ -97,6 +106,9 @@ void AskedSettings::take(const TicketFile &ticket, const PpdFile *ppd)
                                                   ticket.printSettings.ppdChoices.value(place[1]));
         return true;
     });
+    std::copy_if(m_hits.cbegin(), m_hits.cend(), std::inserter(places, places.end()),
+                 [&](const TicketPlace &place) { return isSet(place, ticket); });
+    m_hits.clear();
     m_seen = ticket;
     m_changes = laid(part(ticket, places), std::move(m_changes), {}, m_repeated);
     m_chosen.merge(places);

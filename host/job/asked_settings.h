@@ -41,6 +41,9 @@ public:
 
     // The ticket as the device has it, before the user touches anything.
     void settle(const TicketFile &ticket);
+    // The user has chosen what is set at `places`: the next take() finds it there,
+    // whether or not it is different.
+    void choose(const TicketPlaces &places);
     // What is different now, the user has set. A choice of the PPD's default that
     // was not there before is none: a panel writes it when it is first opened.
     void take(const TicketFile &ticket, const PpdFile *ppd);
@@ -70,6 +73,7 @@ private:
     TicketFile m_changes;             // a part: the user's, on top of them
     TicketPlaces m_chosen;
     QMap<QString, QString> m_words; // see TicketFile::choiceWords
+    TicketPlaces m_hits;            // chosen since
     TicketFile m_seen;              // by take()
     TicketFile m_unchanged;
     bool m_wasChanged = false;

@@ -178,6 +178,13 @@ TicketPlaces placesOf(const TicketFile &file)
     return places;
 }
 
+bool isSet(const TicketPlace &place, const TicketFile &file)
+{
+    const Ticket *ticket = ticketOf(file, place);
+    return ticket ? valueAt(valueIn(*ticket, place[1]), place.mid(2)).isValid()
+                  : file.printSettings.ppdChoices.contains(place[1]);
+}
+
 const TicketPlaces &paperPlaces()
 {
     static const TicketPlaces places{{kPPDChoices, pageSizeOption},

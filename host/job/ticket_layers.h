@@ -14,6 +14,9 @@ TicketPlaces differences(const TicketFile &from, const TicketFile &to);
 // Every place that `file` sets or removes.
 TicketPlaces placesOf(const TicketFile &file);
 
+// Whether `file` says anything there.
+bool isSet(const TicketPlace &place, const TicketFile &file);
+
 // The paper stands in several places, which belong together: the choice and the page
 // format's name and sizes.
 const TicketPlaces &paperPlaces();

@@ -115,6 +115,7 @@ struct ScriptRunner::Private
     void run(const ScriptLine &line);
     LineDone perform(const ScriptLine &line);
     LineDone withControl(const ScriptLine &line);
+    LineDone noted(const QPointer<QWidget> &control, const inspector::Done &done);
     LineDone expect(const ScriptLine &line, QWidget *control);
     LineDone expectTicket(const ScriptLine &line);
     LineDone screenshot(const QString &file);
@@ -384,6 +385,13 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     }
 }
 
+LineDone ScriptRunner::Private::noted(const QPointer<QWidget> &control, const inspector::Done &done)
+{
+    if (!done && control)
+        target.noteSet(control);
+    return lineProblem(done);
+}
+
 LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
 {
     QWidget *window = front();
@@ -432,7 +440,7 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     case ScriptCommand::Click:
         return lineProblem(inspector::click(control));
     case ScriptCommand::Check:
-        return lineProblem(inspector::check(control, word(0) == QLatin1String("on")));
+        return noted(control, inspector::check(control, word(0) == QLatin1String("on")));
     case ScriptCommand::Type: {
         if (line.arguments.size() < 2)
             return lineProblem(inspector::type(control, word(0)));
@@ -443,7 +451,7 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
         return lineProblem(inspector::typeSecret(control, *secret));
     }
     case ScriptCommand::Set:
-        return lineProblem(inspector::set(control, word(0).toInt()));
+        return noted(control, inspector::set(control, word(0).toInt()));
     case ScriptCommand::Time: {
         const QTime withSeconds = QTime::fromString(word(0), QStringLiteral("H:mm:ss"));
         return lineProblem(inspector::setTime(

@@ -56,6 +56,8 @@ public:
     virtual QString jobInWords() = 0; // "What will be sent", secrets masked
     virtual std::optional<QString> secret(const QString &name) const = 0; // from --secret
     virtual QStringList secretValues() = 0; // what texts must not repeat
+    // A line has set `control`, maybe to what it showed, of which no event tells.
+    virtual void noteSet(QWidget *) { }
 };
 
 } // namespace kelvo

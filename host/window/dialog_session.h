@@ -123,6 +123,8 @@ public:
     bool isChanged() const;
     // The settings as they stand are what the preset says, or are not any more.
     void takeAsUnchanged();
+    // By hand or by a script; taken up when the panels write next.
+    void choose(const TicketPlaces &places) { m_asked.choose(places); }
     void takeAsChanged() { m_asked.takeAsChanged(); }
 
     ConflictReport conflicts(); // as the ticket stands

@@ -17,6 +17,7 @@
 #include "sheet_sequence.h"
 #include "spin_field.h"
 #include "terminal.h"
+#include "ticket_places.h"
 #include "tool_tip.h"
 #include "waiting_pane.h"
 #include "window_columns.h"
@@ -37,6 +38,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace kelvo {
 
@@ -141,9 +143,11 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_watch.setInterval(watchMs);
     connect(&m_watch, &QTimer::timeout, m_session.get(), &DialogSession::lookAtPrinter);
     connect(&m_sent, &SentMessage::told, this, [this] { end(ExitStatus::Printed); });
-    watchEvents([this](const Event &) {
-        if (m_session->stage() == DialogSession::Stage::Ready)
-            m_look.start();
+    watchEvents([this](const Event &event) {
+        if (m_session->stage() != DialogSession::Stage::Ready)
+            return;
+        noteChoice(event);
+        m_look.start();
     });
 
     connect(m_session.get(), &DialogSession::printersChanged, this, [this] {
@@ -466,6 +470,30 @@ void PrintDialog::changeSettings()
     if (m_session->stage() != DialogSession::Stage::Ready)
         return;
     m_session->change(m_printer->settings());
+    m_look.start();
+}
+
+// What is set in a dialog above this one counts once that is closed with OK.
+void PrintDialog::noteChoice(const Event &event)
+{
+    if (event.kind == EventKind::FocusChanged)
+        return;
+    const TicketPlaces places = ticketPlacesOf(event.source, event.command);
+    QWidget *window = event.source->window();
+    if (window == this) {
+        m_chosenInDialogs.clear();
+        m_session->choose(places);
+        return;
+    }
+    m_chosenInDialogs.insert(places.begin(), places.end());
+    const auto *dialog = qobject_cast<QDialog *>(window);
+    if (dialog && !dialog->isVisible() && dialog->result() == QDialog::Accepted)
+        m_session->choose(std::exchange(m_chosenInDialogs, {}));
+}
+
+void PrintDialog::noteSet(QWidget *control)
+{
+    noteChoice({.kind = EventKind::ControlHit, .source = control});
     m_look.start();
 }
 

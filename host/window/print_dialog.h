@@ -71,6 +71,7 @@ public:
     TicketFile withSecretsMasked(TicketFile file) const override;
     std::optional<QString> secret(const QString &name) const override;
     QStringList secretValues() override;
+    void noteSet(QWidget *control) override;
 
 signals:
     void begun(); // once: the first frame, which nothing may delay, is painted
@@ -97,6 +98,7 @@ private:
     // The user tells.
     void showPanelAt(int index);
     void changeSettings();
+    void noteChoice(const Event &event);
     void lookAtSettings();  // writes, checks, and shows what follows
     void showWhatFollows(); // all but conflicts
     void fixConflicts();
@@ -152,6 +154,7 @@ private:
     bool m_isDriven = false;
     bool m_isInterrupted = false;   // what is under way is the last
     QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
+    TicketPlaces m_chosenInDialogs; // until they close
     QElapsedTimer m_sinceShown;
     QElapsedTimer m_sinceReady; // for the printer, or known not to be
     QMap<QString, QString> m_secrets;

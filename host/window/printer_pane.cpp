@@ -4,6 +4,8 @@
 #include "popup_button.h"
 #include "preset_menu.h"
 #include "spin_field.h"
+#include "ticket_layers.h"
+#include "ticket_places.h"
 #include "tool_tip.h"
 
 #include <QCheckBox>
@@ -140,6 +142,12 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
                                       .reference = static_cast<std::int32_t>(row.value)});
     m_orientation->setMenu(orientations);
     addRow(tr("Or&ientation:"), m_orientation, m_orientation);
+
+    // The pages belong to one job: nobody asks whether they were chosen.
+    setTicketPlaces(m_copies, {{kPMPrintSettingsTicket, kPMCopiesKey}});
+    setTicketPlaces(m_collate, {{kPMPrintSettingsTicket, kPMCollateKey}});
+    setTicketPlaces(m_paper, paperPlaces());
+    setTicketPlaces(m_orientation, {{kPMPageFormatTicket, kPMOrientationKey}});
 
     // The presets were made before this, and come second all the same.
     QWidget *last = m_printer;

@@ -80,6 +80,11 @@ OSStatus writeSettings(const ImageOptionsContext *context, PMTicketRef ticket,
 
 } // namespace
 
+TicketPlaces lightnessPlaces()
+{
+    return {{kPPDChoices, lightnessOption}, {kPMPrintSettingsTicket, printerDefaultKey()}};
+}
+
 OSStatus SyncLightenDarkenToUI(ImageOptionsContext *context, PMTicketRef ticket)
 {
     if (!context || !ticket)

@@ -3,6 +3,7 @@
 #include "image_options_context.h"
 #include "plugin_abi.h"
 #include "status.h"
+#include "ticket_file.h"
 
 // Between the Image Options panel and the print settings ticket. All but the
 // inverted image travels as choices of PPD options:
@@ -25,6 +26,9 @@
 //
 // All give noErr, or kPMInvalidParameter for a null context or no ticket.
 namespace kelvo {
+
+// Where the ticket says how light pages are.
+TicketPlaces lightnessPlaces();
 
 // A choice that no step stands for is read as the printer's default, and so is no
 // choice where that was chosen, here or in the ticket.

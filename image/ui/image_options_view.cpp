@@ -4,9 +4,11 @@
 #include "hint_text.h"
 #include "image_options_pictures.h"
 #include "image_options_summary.h"
+#include "image_options_ticket.h"
 #include "lighten_darken.h"
 #include "popups.h"
 #include "ppd_file.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 
 #include <array>
@@ -91,6 +93,17 @@ void setUpLightenDarken(const ImageOptionsPanelContext &panel)
     }
 }
 
+void tellTicketPlaces(const ImageOptionsControls &controls)
+{
+    for (QWidget *control : std::initializer_list<QWidget *>{
+             controls.lightenDarkenSlider, controls.lightenDarken, controls.printerDefault})
+        setTicketPlaces(control, lightnessPlaces());
+    setTicketPlaces(controls.tonerSaver, {{kPPDChoices, QStringLiteral("KVEconomode")}});
+    setTicketPlaces(
+        controls.mirror,
+        {{kPMPrintSettingsTicket, ticketKey("InvertImageOptions"), QStringLiteral("MirrorImage")}});
+}
+
 void showLightenDarken(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
@@ -160,6 +173,7 @@ void fillImageOptionsControls(ImageOptionsPanelContext &panel)
 {
     findControls(panel);
     setUpLightenDarken(panel);
+    tellTicketPlaces(panel.controls);
     for (const PpdRow &row : ppdRows) {
         PopupButton *popup = panel.controls.*row.popup;
         if (hasOption(panel, row.option))

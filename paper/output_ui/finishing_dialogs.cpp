@@ -11,6 +11,7 @@
 #include "picture_view.h"
 #include "popups.h"
 #include "ppd_choices.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 
 #include <QLabel>
@@ -106,6 +107,24 @@ OSStatus choiceEventHandler(ChoiceDialog &dialog, const Event &event)
     return noErr;
 }
 
+TicketPlace placeOf(FinishingDialogKind kind)
+{
+    switch (kind) {
+    case FinishingDialogKind::SingleStaple:
+    case FinishingDialogKind::DualStaple:
+        return {kPPDChoices, QStringLiteral("StapleLocation")};
+    case FinishingDialogKind::HolePunch:
+        return {kPPDChoices, QStringLiteral("KVPunch")};
+    case FinishingDialogKind::Fold:
+    case FinishingDialogKind::AdvancedFold:
+    case FinishingDialogKind::ZFold:
+        return {kPPDChoices, QStringLiteral("KVFold")};
+    case FinishingDialogKind::Bind:
+        return {kPMPrintSettingsTicket, ticketKey("FinishingBindValue")};
+    }
+    Q_UNREACHABLE();
+}
+
 void fillChoices(const ChoiceDialog &dialog)
 {
     Menu menu;
@@ -117,6 +136,7 @@ void fillChoices(const ChoiceDialog &dialog)
         menu.items.push_back(std::move(item));
     }
     dialog.choice->setMenu(std::move(menu));
+    setTicketPlaces(dialog.choice, {placeOf(dialog.kind)});
 }
 
 // The sentence changes with the choice, the window's size must not.

@@ -10,6 +10,7 @@
 #include "popups.h"
 #include "setting_map.h"
 #include "spin_field.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 
 #include <QCheckBox>
@@ -89,6 +90,17 @@ void fillOffsets(const OffsetDialog &dialog)
     dialog.offset->setMenu(std::move(menu));
 }
 
+void tellTicketPlaces(const OffsetDialog &dialog)
+{
+    const auto entry = [](const char *name) {
+        return TicketPlace{kPMPrintSettingsTicket, ticketKey(name)};
+    };
+    const TicketPlace subsets = entry("FinishingOffsetEnableSubset");
+    setTicketPlaces(dialog.offset, {entry("FinishingOffset")});
+    setTicketPlaces(dialog.subsets, {subsets});
+    setTicketPlaces(dialog.pagesPerSubset, {subsets, entry("FinishingOffsetPagesPerSubset")});
+}
+
 } // namespace
 
 OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
@@ -113,6 +125,7 @@ OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
     makeHintText(findControl<QLabel>(window, kHint));
     dialog.pagesPerSubset->setMaximum(kMostPagesPerSubset);
     fillOffsets(dialog);
+    tellTicketPlaces(dialog);
     showSettings(dialog);
     const EventHandlerRef handler = installEventHandler(
         window, [&dialog](const Event &event) { return offsetEventHandler(dialog, event); });

@@ -13,6 +13,7 @@
 #include "ppd_choices.h"
 #include "separators.h"
 #include "setting_maps.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 
 #include <QLabel>
@@ -73,8 +74,10 @@ void fillTwoSided(const PaperOutputPanelContext &panel)
     if (!popup || !hasOption(panel, "Duplex"))
         return;
     Menu menu = popup->menu();
-    removeWhatIsNotOffered(menu, panel.ppd, QStringLiteral("Duplex"));
+    const QString option = QStringLiteral("Duplex");
+    removeWhatIsNotOffered(menu, panel.ppd, option);
     popup->setMenu(std::move(menu));
+    setTicketPlaces(popup, {{kPPDChoices, option}});
 }
 
 } // namespace
@@ -116,6 +119,8 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
     const PaperOutputControls &controls = panel.controls;
     PopulatePopupButtonFromMap(panel.bundle, controls.jobType, JobTypeMap, kJobContextJob,
                                kNoCommand);
+    setTicketPlaces(controls.jobType,
+                    {{kPMPrintSettingsTicket, ticketKey("JobType"), QStringLiteral("JobType")}});
     fillTwoSided(panel);
     fillFromPpd(controls.stapling, panel, "StapleLocation", stapleChoicesWithoutValue());
     fillFromPpd(controls.holePunch, panel, "KVPunch", punchChoicesWithoutValue());
@@ -125,6 +130,7 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
         PopulateOutputDestination(destinations, panel.ppd);
         setEnabledWithLabel(controls.outputDestination, !destinations.items.empty());
         controls.outputDestination->setMenu(std::move(destinations));
+        setTicketPlaces(controls.outputDestination, {{kPPDChoices, QStringLiteral("OutputBin")}});
     }
     Menu finishing;
     PopulateFinishingMenu(finishing, panel.bundle);

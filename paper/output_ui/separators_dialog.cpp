@@ -10,6 +10,7 @@
 #include "ppd_choices.h"
 #include "separator_picture.h"
 #include "setting_maps.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 
 #include <QLabel>
@@ -92,12 +93,14 @@ OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &eve
 void fillOptions(const SeparatorsDialog &dialog, PpdFile *ppd)
 {
     Menu menu;
-    PopulateMenuWithOfferedChoices(menu, ppd, QStringLiteral("KVSlipSheetPrint"), kCommandOption);
+    const QString option = QStringLiteral("KVSlipSheetPrint");
+    PopulateMenuWithOfferedChoices(menu, ppd, option, kCommandOption);
     for (MenuItem &item : menu.items) {
         if (const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, item.reference))
             item.text = localizedText(dialog.bundle, QString::fromUtf8(key));
     }
     dialog.option->setMenu(std::move(menu));
+    setTicketPlaces(dialog.option, {{kPPDChoices, option}});
 }
 
 void showMissingSeparators(const SeparatorsDialog &dialog)
@@ -126,6 +129,7 @@ void fillPopups(const SeparatorsDialog &dialog, PpdFile *ppd)
         fillWithOfferedChoices(dialog.source, ppd, sources);
     if (hasOption(colors))
         fillWithOfferedChoices(dialog.color, ppd, colors);
+    setTicketPlaces(dialog.color, {}); // the picture's alone
     SetPopupButtonToTicketValue(dialog.color, kStockColorWhite);
 }
 

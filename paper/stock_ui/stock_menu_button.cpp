@@ -8,6 +8,7 @@
 #include "stock_menus.h"
 #include "stock_pictures.h"
 #include "stock_summary.h"
+#include "ticket_places.h"
 
 namespace kelvo {
 
@@ -46,6 +47,16 @@ void showStock(const _StockMenuCommandEventHandlerData &data)
     StockIconEventHandler(data);
 }
 
+// A special page's paper stands in a list, with the rest of that page.
+void tellTicketPlaces(MenuButton *button)
+{
+    const TicketPlace color{kPPDChoices, QStringLiteral("MediaColor")};
+    const TicketPlace type{kPPDChoices, QStringLiteral("MediaType")};
+    setTicketPlaces(button, {color}, kCommandStockColor);
+    setTicketPlaces(button, {type}, kCommandStockType);
+    setTicketPlaces(button, {color, type}, kCommandStockDefault);
+}
+
 OSStatus initializeButton(MenuButton *button, _StockMenuCommandEventHandlerData *data,
                           Menu (*menuFor)(CFBundleRef, JobContext))
 {
@@ -54,6 +65,8 @@ OSStatus initializeButton(MenuButton *button, _StockMenuCommandEventHandlerData 
     FinalizeStockMenuButton(data);
     data->button = button;
     button->setMenu(menuFor(data->bundle, data->jobContext));
+    if (data->jobContext == kJobContextJob)
+        tellTicketPlaces(button);
     button->setMenuUpdate([data](Menu &menu) { checkChosen(menu.items, *data->stock); });
     data->handlers.push_back(installEventHandler(
         button, [data](const Event &event) { return StockMenuCommandEventHandler(event, data); }));

@@ -6,6 +6,7 @@
 #include "preferences.h"
 #include "summary_view.h"
 #include "tab_control.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 
 #include <QLabel>
@@ -96,6 +97,7 @@ void fillWithOfferedChoices(PopupButton *popup, PpdFile *ppd, const QString &opt
     const int count = PopulateMenuWithOfferedChoices(menu, ppd, option, kNoCommand, readByName);
     popup->setMenu(std::move(menu));
     setEnabledWithLabel(popup, count > 0);
+    setTicketPlaces(popup, {{kPPDChoices, option}});
 }
 
 void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint,

@@ -2,6 +2,7 @@
 #include "private_cups.h"
 #include "property_list.h"
 #include "ticket_file.h"
+#include "ticket_layers.h"
 #include "unreliable_server.h"
 
 #include <QCryptographicHash>
@@ -128,6 +129,8 @@ private slots:
     void keepsNoDefaultsInPresets();
     void leavesEachQueueItsOwnDefaults_data();
     void leavesEachQueueItsOwnDefaults();
+    void keepsWhatIsChosenAsItIsShown_data();
+    void keepsWhatIsChosenAsItIsShown();
     void mendsAConflict();
     void refusesToPrintAConflict();
     void laterSettingsBeatEarlierOnes();
@@ -1013,6 +1016,54 @@ void TestStories::leavesEachQueueItsOwnDefaults()
              missing.isEmpty() ? QStringList()
                                : QStringList{"kelvo-print: " + missing
                                              + ": not sent, this printer does not have it"});
+}
+
+void TestStories::keepsWhatIsChosenAsItIsShown_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    QTest::addColumn<QStringList>("expected");
+    const QString settings = "PMPrintSettingsTicket/", pages = "PMPageFormatTicket/";
+    QTest::newRow("the dialog's own")
+        << QByteArray("set @copies 1\nchoose @orientation key portrait\n")
+        << QStringList{pages + kPMOrientationKey, settings + kPMCopiesKey};
+    QTest::newRow("pop-ups and menus")
+        << QByteArray("tab 1\nchoose @jobType key Normal\nchoose @twoSided row 1\n"
+                      "item @stockButton 'Sclr' key White\ntab 4\nchoose @bookletOrder row 2\n")
+        << QStringList{settings + "com.kelvo.print.AdvancedBookletLayoutOrderStr",
+                       settings + "com.kelvo.print.JobType/JobType", "PPDChoices/Duplex",
+                       "PPDChoices/MediaColor"};
+    QTest::newRow("boxes and numbers")
+        << QByteArray("tab 2\ncheck @mirrorImage off\ncheck @tonerSaver off\n"
+                      "set @lightenDarken 0\n")
+        << QStringList{settings + "com.kelvo.print.InvertImageOptions/MirrorImage",
+                       "PPDChoices/KVEconomode", "PPDChoices/KVImageQuality"};
+    const QByteArray offset = "tab 1\nitem @moreFinishing 'Foff'\nchoose @offset row 1\n";
+    QTest::newRow("in a dialog, with OK") << offset
+            + "click @okButton\n" << QStringList{settings + "com.kelvo.print.FinishingOffset"};
+    QTest::newRow("in a dialog, with Cancel") << offset + "click @cancelButton\n" << QStringList();
+    QTest::newRow("of a picture alone")
+        << QByteArray("tab 1\nclick @separatorsButton\nchoose @separatorOption 2\n"
+                      "choose @separatorColor key White\nclick @okButton\n")
+        << QStringList{"PPDChoices/KVSlipSheetPrint"};
+    QTest::newRow("seen and not chosen") << QByteArray("tab 1\ntab 2\ntab 4\n") << QStringList();
+}
+
+// In the next job the device's default may be another.
+void TestStories::keepsWhatIsChosenAsItIsShown()
+{
+    QFETCH(QByteArray, lines);
+    const Desk desk;
+    write(desk.path("choose.kps"), lines);
+    QENDED(desk.run(
+               {"--demo", "--no-window", "--preset-out", "preset.plist", "--script", "choose.kps"}),
+           0);
+    const auto preset = readTicketFile(desk.path("preset.plist"));
+    QVERIFY2(preset, preset ? "" : qPrintable(preset.error().text()));
+    QStringList places;
+    for (const TicketPlace &place : placesOf(preset.value()))
+        places << place.join(u'/');
+    places.sort();
+    QTEST(places, "expected");
 }
 
 void TestStories::mendsAConflict()
