@@ -22,6 +22,7 @@ const QString clientsKey = QStringLiteral("Clients");
 const QString isPartKey = QStringLiteral("IsPart");
 const QString removedKey = QStringLiteral("Removed");
 const QString choiceWordsKey = QStringLiteral("ChoiceWords");
+const QString askedKey = QStringLiteral("Asked");
 
 // Takes the entries of a ticket file out of its root dictionary and remembers
 // the first thing that was wrong.
@@ -113,6 +114,7 @@ public:
         return places;
     }
 
+    bool has(const QString &key) const { return m_root.contains(key); }
     // Valid once everything of ours has been taken out.
     const Dictionary &rest() const { return m_root; }
     const std::optional<Error> &error() const { return m_error; }
@@ -154,6 +156,14 @@ Dictionary dictionaryOf(const QMap<QString, QString> &words)
     return dictionary;
 }
 
+Array arrayOf(const TicketPlaces &places)
+{
+    Array array;
+    for (const TicketPlace &place : places)
+        array << QVariant(Array(place.cbegin(), place.cend()));
+    return array;
+}
+
 Ticket withoutLocks(Ticket ticket)
 {
     for (auto &[key, entry] : ticket.entries)
@@ -179,6 +189,8 @@ Result<TicketFile> ticketFileFromPropertyList(const QVariant &list, const QStrin
     file.isPart = reader.flag(isPartKey);
     file.removed = reader.places(removedKey);
     file.choiceWords = reader.words(choiceWordsKey);
+    if (reader.has(askedKey))
+        file.asked = reader.places(askedKey);
     if (reader.error())
         return *reader.error();
 
@@ -204,15 +216,13 @@ Dictionary propertyListFrom(const TicketFile &file)
     root.insert(kPMPageFormatTicket, valuesOf(file.pageFormat));
     root.insert(kPPDChoices, dictionaryOf(file.printSettings.ppdChoices));
     root.insert(clientsKey, clients);
-    // Most files are whole tickets and have none of these.
+    // The tickets that go with jobs have none of these.
     if (file.isPart)
         root.insert(isPartKey, true);
-    if (!file.removed.empty()) {
-        Array removed;
-        for (const TicketPlace &place : file.removed)
-            removed << QVariant(Array(place.cbegin(), place.cend()));
-        root.insert(removedKey, removed);
-    }
+    if (!file.removed.empty())
+        root.insert(removedKey, arrayOf(file.removed));
+    if (file.asked)
+        root.insert(askedKey, arrayOf(*file.asked));
     if (!file.choiceWords.isEmpty())
         root.insert(choiceWordsKey, dictionaryOf(file.choiceWords));
     return root;

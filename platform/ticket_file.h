@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QStringList>
 
+#include <optional>
 #include <set>
 
 // A job's settings as a file, and a preset, which is one with a name. An XML
@@ -28,6 +29,11 @@
 //   Removed                 array of places (arrays of strings): what is taken away
 //   ChoiceWords             dictionary: "OPTION=CHOICE" → how the device that the choice
 //                           was made on calls it, "Stapling: Top Left"
+//
+// A whole ticket has words too, and, where that is known,
+//
+//   Asked                   array of places: what somebody asked for, and what came of it.
+//                           The rest is what the device it was made on has by itself.
 namespace kelvo {
 
 // Where a value stands in a ticket file: one of the three names of its parts, the
@@ -44,6 +50,7 @@ struct TicketFile
     bool isPart = false;
     TicketPlaces removed;
     QMap<QString, QString> choiceWords;
+    std::optional<TicketPlaces> asked;
 
     friend bool operator==(const TicketFile &, const TicketFile &) = default;
 };

@@ -33,8 +33,17 @@ void AskedSettings::lay(const TicketFile &file, Kind kind)
 {
     m_layers.push_back(file);
     m_words.insert(file.choiceWords);
+    TicketPlaces places = completed(placesOf(file), m_repeated);
+    for (const TicketPlace &place : places) {
+        if (file.asked && !file.asked->contains(place))
+            m_ofDevice.insert(place);
+        else
+            m_ofDevice.erase(place);
+    }
     if (kind == Kind::Chosen)
-        m_chosen.merge(completed(placesOf(file), m_repeated));
+        m_chosen.merge(places);
+    else if (file.asked)
+        m_chosen.insert(file.asked->begin(), file.asked->end());
 }
 
 void AskedSettings::clear()
@@ -43,6 +52,7 @@ void AskedSettings::clear()
     m_changes = {};
     m_changes.isPart = true;
     m_chosen.clear();
+    m_ofDevice.clear();
     m_hits.clear();
     m_words.clear();
     m_wasChanged = false;
@@ -67,7 +77,7 @@ TicketFile AskedSettings::wanted() const
 
 TicketFile AskedSettings::asked() const
 {
-    TicketFile asked = laidOver({});
+    TicketFile asked = without(laidOver({}), m_ofDevice);
     asked.choiceWords = m_words;
     return asked;
 }
@@ -110,6 +120,8 @@ void AskedSettings::take(const TicketFile &ticket, const PpdFile *ppd)
                  [&](const TicketPlace &place) { return isSet(place, ticket); });
     m_hits.clear();
     m_seen = ticket;
+    for (const TicketPlace &place : places)
+        m_ofDevice.erase(place);
     m_changes = laid(part(ticket, places), std::move(m_changes), {}, m_repeated);
     m_chosen.merge(places);
 }
@@ -139,6 +151,7 @@ void AskedSettings::learnWords(const PpdFile &ppd)
 TicketFile AskedSettings::preset(const TicketFile &ticket, const PpdFile *ppd) const
 {
     TicketPlaces places = completed(differences(m_beginning, ticket), m_repeated);
+    std::erase_if(places, [this](const TicketPlace &place) { return m_ofDevice.contains(place); });
     places.insert(m_chosen.begin(), m_chosen.end());
     const TicketFile chosen = part(wanted(), m_chosen);
     TicketFile preset = part(laid(chosen, ticket, {}, m_repeated), withoutOneJob(places));

@@ -26,7 +26,9 @@ public:
     void setBeginning(TicketFile beginning) { m_beginning = std::move(beginning); }
 
     enum class Kind {
-        Given,  // asks, and only what differs from the beginning goes into a preset
+        // Asks, and of what it does not call asked for (TicketFile::asked) only what
+        // differs from the beginning goes into a preset.
+        Given,
         Chosen, // goes into a preset all the same: a preset, or an option that was set
     };
     // Asks for all that `file` says, on top of what was asked for before.
@@ -36,7 +38,7 @@ public:
 
     // The defaults with everything on top that is asked for.
     TicketFile wanted() const;
-    // Only what is asked for.
+    // Only what somebody asked for.
     TicketFile asked() const;
 
     // The ticket as the device has it, before the user touches anything.
@@ -72,6 +74,7 @@ private:
     std::vector<TicketFile> m_layers; // later beats earlier
     TicketFile m_changes;             // a part: the user's, on top of them
     TicketPlaces m_chosen;
+    TicketPlaces m_ofDevice;        // what layers have from the devices they were made on
     QMap<QString, QString> m_words; // see TicketFile::choiceWords
     TicketPlaces m_hits;            // chosen since
     TicketFile m_seen;              // by take()

@@ -233,6 +233,13 @@ TicketFile part(const TicketFile &file, const TicketPlaces &places)
     return result;
 }
 
+TicketFile without(TicketFile file, const TicketPlaces &places)
+{
+    for (const TicketPlace &place : places)
+        removeAt(place, file);
+    return file;
+}
+
 TicketFile laid(const TicketFile &over, TicketFile under, const TicketFile &beginning,
                 const RepeatedChoices &repeated)
 {

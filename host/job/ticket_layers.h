@@ -27,6 +27,8 @@ TicketPlaces completed(TicketPlaces places, const RepeatedChoices &repeated);
 // The part of `file` at `places`: what stands there, and that nothing does.
 TicketFile part(const TicketFile &file, const TicketPlaces &places);
 
+TicketFile without(TicketFile file, const TicketPlaces &places);
+
 // `over` on top of `under`. A whole ticket is laid entry by entry, a part also key by
 // key: a dictionary that `under` lacks is begun with that of `beginning`, which is what
 // the panels make of a ticket that says nothing. A choice takes away the entries that

@@ -436,6 +436,15 @@ TicketFile DialogSession::ticket() const
     return file;
 }
 
+TicketFile DialogSession::ticketToKeep() const
+{
+    const TicketFile asked = preset();
+    TicketFile file = ticket();
+    file.asked = placesOf(asked);
+    file.choiceWords = asked.choiceWords;
+    return file;
+}
+
 TicketFile DialogSession::preset() const
 {
     TicketFile file = m_asked.preset(ticketFileFrom(*m_session), m_ppd.get());

@@ -113,8 +113,9 @@ public:
     // hold less of a panel's setting than the user chose there, and more copies must
     // not take it away. A panel looks at the page format when it writes.
     void change(const JobSettings &settings);
-    TicketFile ticket() const; // as it stands
-    TicketFile preset() const; // the part of it that a preset keeps; secrets are in it
+    TicketFile ticket() const;       // as it stands
+    TicketFile ticketToKeep() const; // the same, for another day and device
+    TicketFile preset() const;       // the part of it that a preset keeps; secrets are in it
 
     // Begins again on `preset`, or on the defaults for null. The job's own pages
     // and name stay.

@@ -786,8 +786,8 @@ Result<void> PrintDialog::writeSettingsOut()
     if (m_session->stage() != DialogSession::Stage::Ready || !(line.ticketOut || line.presetOut))
         return {};
     m_session->writeAll();
-    auto written =
-        line.ticketOut ? writeTicketFile(*line.ticketOut, m_session->ticket()) : Result<void>();
+    auto written = line.ticketOut ? writeTicketFile(*line.ticketOut, m_session->ticketToKeep())
+                                  : Result<void>();
     if (!written || !line.presetOut)
         return written;
     return writeTicketFile(*line.presetOut,

@@ -157,6 +157,7 @@ void TestTickets::refusesOtherLists_data()
     row("client as number", "Clients", number, Code::WrongType, "Clients/Duplex");
     row("part as text", "IsPart", "true", Code::WrongType, "IsPart");
     row("words as number", "ChoiceWords", number, Code::WrongType, "ChoiceWords/Duplex");
+    row("asked as text", "Asked", "Duplex", Code::WrongType, "Asked");
     row("removed as text", "Removed", "Duplex", Code::WrongType, "Removed");
     const Array wrongPlaces[] = {{u"PPDChoices"_s}, {u"Clients"_s, u"a"_s}, {u"PPDChoices"_s, 1}};
     for (const Array &place : wrongPlaces)

@@ -131,6 +131,7 @@ private slots:
     void leavesEachQueueItsOwnDefaults();
     void keepsWhatIsChosenAsItIsShown_data();
     void keepsWhatIsChosenAsItIsShown();
+    void missesOfAnotherDevicesTicketWhatWasAsked();
     void mendsAConflict();
     void refusesToPrintAConflict();
     void laterSettingsBeatEarlierOnes();
@@ -1064,6 +1065,31 @@ void TestStories::keepsWhatIsChosenAsItIsShown()
         places << place.join(u'/');
     places.sort();
     QTEST(places, "expected");
+}
+
+// What that device has by itself is nobody's loss here.
+void TestStories::missesOfAnotherDevicesTicketWhatWasAsked()
+{
+    const Desk desk;
+    QENDED(desk.run({"--demo", "--no-window", "-o", "KVOutputMode=Enhanced", "-o", "Duplex=None",
+                     "--ticket-out", "full.plist", "--to", "full"}),
+           0);
+    const Run bare = desk.run({"--ppd", KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-bare.ppd",
+                               "--no-window", "--ticket-in", "full.plist", "--ticket-out",
+                               "bare.plist", "--to", "bare", documentPath});
+    QENDED(bare, 0);
+    QStringList messages = bare.messages();
+    messages.removeIf([](const QString &line) { return line.startsWith("Expected PPD option"); });
+    QCOMPARE(messages,
+             QStringList("kelvo-print: Image Quality: Enhanced: not sent, this printer "
+                         "does not have it"));
+    // And back: the second device adds nothing of its own.
+    const auto full = readTicketFile(desk.path("full.plist"));
+    const auto again = readTicketFile(desk.path("bare.plist"));
+    QVERIFY(full && again);
+    QVERIFY(full.value().asked && !full.value().asked->empty());
+    QCOMPARE(again.value().asked, full.value().asked);
+    QCOMPARE(again.value().choiceWords, full.value().choiceWords);
 }
 
 void TestStories::mendsAConflict()

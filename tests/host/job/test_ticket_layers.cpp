@@ -234,6 +234,17 @@ void TestTicketLayers::presetsKeepWhatWasAskedFor_data()
     QTest::newRow("no default of a ticket that was given")
         << with(begun, {}, {{"Staple", "One"}}) << TicketFile()
         << QList{with(begun, {}, {{"Staple", "One"}})} << partOf({}, {{"Staple", "One"}});
+    // Of its own the other device had the staple's place and the long edge.
+    TicketFile ofAnother = with(begun, {{"gold", 1}}, {{"Staple", "Gold"}, {"Bin", "Top"}});
+    ofAnother.asked = TicketPlaces{{kPPDChoices, "Bin"}, {kPMPrintSettingsTicket, "gold"}};
+    QTest::newRow("what was asked for on another device")
+        << ofAnother << TicketFile() << QList{with(begun, {}, {{"Staple", "Gold"}, {"Bin", "Top"}})}
+        << partOf({{"gold", 1}}, {{"Bin", "Top"}});
+    QTest::newRow("and what is set after it")
+        << ofAnother << TicketFile()
+        << QList{with(begun, {}, {{"Staple", "Gold"}, {"Bin", "Top"}}),
+                 with(begun, {}, {{"Staple", "One"}, {"Bin", "Top"}})}
+        << partOf({{"gold", 1}}, {{"Bin", "Top"}, {"Staple", "One"}});
     QTest::newRow("what this device lacks")
         << TicketFile() << ticket({{"gold", 1}}, {{"Staple", "Gold"}})
         << QList{with(begun, {}, {{"Staple", "None"}})}
