@@ -39,6 +39,7 @@ constexpr std::int32_t tonerSaverHint = 1304;
 // What goes with the value of lighten/darken: label, slider, picture, spin field
 // and the numbers below the slider.
 constexpr std::array lightenDarkenParts = {1101, 1102, 1103, 1104, 1106, 1107, 1108};
+constexpr std::array hints = {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105};
 
 ControlID panelID(std::int32_t number)
 {
@@ -48,29 +49,6 @@ ControlID panelID(std::int32_t number)
 bool hasOption(const ImageOptionsPanelContext &panel, const char *option)
 {
     return panel.ppd && panel.ppd->findOption(QString::fromLatin1(option));
-}
-
-void findControls(ImageOptionsPanelContext &panel)
-{
-    const QWidget *content = panel.content;
-    panel.controls = {
-        .lightenDarkenSlider = findControl<QSlider>(content, panelID(kLightenDarkenSlider)),
-        .lightenDarkenPicture = findControl<PictureView>(content, panelID(1103)),
-        .lightenDarken = findControl<SpinField>(content, panelID(kLightenDarkenField)),
-        .lightenDarkenWords = findControl<QLabel>(content, panelID(1105)),
-        .printerDefault = findControl<QCheckBox>(content, panelID(1109)),
-        .imageQuality = findControl<PopupButton>(content, panelID(1202)),
-        .imageQualityPicture = findControl<PictureView>(content, panelID(1203)),
-        .tonerSaver = findControl<QCheckBox>(content, panelID(1302)),
-        .tonerSaverPicture = findControl<PictureView>(content, panelID(1303)),
-        .cmykSourceColor = findControl<PopupButton>(content, panelID(1902)),
-        .cmykSourceColorPicture = findControl<PictureView>(content, panelID(1903)),
-        .outputColorCorrection = findControl<PopupButton>(content, panelID(2002)),
-        .outputColorCorrectionPicture = findControl<PictureView>(content, panelID(2003)),
-        .mirror = findControl<QCheckBox>(content, panelID(2103)),
-        .invertPicture = findControl<PictureView>(content, panelID(2104)),
-        .invertHint = findControl<QLabel>(content, panelID(2105)),
-    };
 }
 
 void setUpLightenDarken(const ImageOptionsPanelContext &panel)
@@ -169,9 +147,34 @@ void showPictures(const ImageOptionsPanelContext &panel)
 
 } // namespace
 
+ImageOptionsControls findImageOptionsControls(NeededControls &needed)
+{
+    for (const std::int32_t number : lightenDarkenParts)
+        needed.find(panelID(number));
+    for (const std::int32_t number : hints)
+        needed.find<QLabel>(panelID(number));
+    return {
+        .lightenDarkenSlider = needed.find<QSlider>(panelID(kLightenDarkenSlider)),
+        .lightenDarkenPicture = needed.find<PictureView>(panelID(1103)),
+        .lightenDarken = needed.find<SpinField>(panelID(kLightenDarkenField)),
+        .lightenDarkenWords = needed.find<QLabel>(panelID(1105)),
+        .printerDefault = needed.find<QCheckBox>(panelID(1109)),
+        .imageQuality = needed.find<PopupButton>(panelID(1202)),
+        .imageQualityPicture = needed.find<PictureView>(panelID(1203)),
+        .tonerSaver = needed.find<QCheckBox>(panelID(1302)),
+        .tonerSaverPicture = needed.find<PictureView>(panelID(1303)),
+        .cmykSourceColor = needed.find<PopupButton>(panelID(1902)),
+        .cmykSourceColorPicture = needed.find<PictureView>(panelID(1903)),
+        .outputColorCorrection = needed.find<PopupButton>(panelID(2002)),
+        .outputColorCorrectionPicture = needed.find<PictureView>(panelID(2003)),
+        .mirror = needed.find<QCheckBox>(panelID(2103)),
+        .invertPicture = needed.find<PictureView>(panelID(2104)),
+        .invertHint = needed.find<QLabel>(panelID(2105)),
+    };
+}
+
 void fillImageOptionsControls(ImageOptionsPanelContext &panel)
 {
-    findControls(panel);
     setUpLightenDarken(panel);
     tellTicketPlaces(panel.controls);
     for (const PpdRow &row : ppdRows) {
@@ -186,8 +189,7 @@ void fillImageOptionsControls(ImageOptionsPanelContext &panel)
         if (auto *hint = findControl<QLabel>(panel.content, panelID(tonerSaverHint)))
             hint->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
     }
-    for (const std::int32_t number :
-         {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105})
+    for (const std::int32_t number : hints)
         makeHintText(findControl<QLabel>(panel.content, panelID(number)));
 }
 
