@@ -54,21 +54,16 @@ bool hasOption(const ImageOptionsPanelContext &panel, const char *option)
 void setUpLightenDarken(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
-    if (controls.lightenDarkenSlider)
-        controls.lightenDarkenSlider->setRange(kLightest, kDarkest);
-    if (controls.lightenDarken) {
-        controls.lightenDarken->setMinimum(kLightest);
-        controls.lightenDarken->setMaximum(kDarkest);
-    }
+    controls.lightenDarkenSlider->setRange(kLightest, kDarkest);
+    controls.lightenDarken->setMinimum(kLightest);
+    controls.lightenDarken->setMaximum(kDarkest);
     const std::pair<std::int32_t, QString> numbers[] = {
         {1106, QString::asprintf("%+d", kLightest)},
         {1107, QStringLiteral("0")},
         {1108, QString::asprintf("%+d", kDarkest)},
     };
-    for (const auto &[number, text] : numbers) {
-        if (auto *label = findControl<QLabel>(panel.content, panelID(number)))
-            label->setText(text);
-    }
+    for (const auto &[number, text] : numbers)
+        findControl<QLabel>(panel.content, panelID(number))->setText(text);
 }
 
 void tellTicketPlaces(const ImageOptionsControls &controls)
@@ -86,21 +81,16 @@ void showLightenDarken(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
     const bool isSet = panel.lightenDarken != kUnset;
-    if (isSet && controls.lightenDarken)
+    if (isSet) {
         controls.lightenDarken->setValue(panel.lightenDarken);
-    if (isSet && controls.lightenDarkenSlider)
         controls.lightenDarkenSlider->setValue(panel.lightenDarken);
+    }
     const bool isOnDevice = hasOption(panel, "KVImageQuality");
-    for (const std::int32_t number : lightenDarkenParts) {
-        if (QWidget *part = findControl(panel.content, panelID(number)))
-            part->setEnabled(isSet && isOnDevice);
-    }
-    if (controls.printerDefault) {
-        controls.printerDefault->setChecked(!isSet);
-        controls.printerDefault->setEnabled(isOnDevice);
-    }
-    if (controls.lightenDarkenWords)
-        controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
+    for (const std::int32_t number : lightenDarkenParts)
+        findControl(panel.content, panelID(number))->setEnabled(isSet && isOnDevice);
+    controls.printerDefault->setChecked(!isSet);
+    controls.printerDefault->setEnabled(isOnDevice);
+    controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
 }
 
 void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
@@ -112,12 +102,10 @@ void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
 
 void showTonerSaver(const ImageOptionsPanelContext &panel)
 {
-    if (!panel.controls.tonerSaver)
-        return;
     panel.controls.tonerSaver->setChecked(panel.tonerSaver == kTonerSaverOn);
-    auto *hint = findControl<QLabel>(panel.content, panelID(tonerSaverHint));
-    if (hint && hasOption(panel, "KVEconomode"))
-        hint->setText(localizedText(panel.bundle,
+    if (hasOption(panel, "KVEconomode"))
+        findControl<QLabel>(panel.content, panelID(tonerSaverHint))
+            ->setText(localizedText(panel.bundle,
                                     isTonerSaverOffered(panel)
                                         ? QStringLiteral("Toner Saver Hint")
                                         : QStringLiteral("Choice Not Offered")));
@@ -129,7 +117,7 @@ void showPictures(const ImageOptionsPanelContext &panel)
     const auto show = [&](PictureView *view, bool isOnDevice, const QString &name) {
         showBundlePicture(view, panel.bundle, isOnDevice ? name : QString());
     };
-    const auto isShown = [](const PopupButton *popup) { return popup && popup->value() > 0; };
+    const auto isShown = [](const PopupButton *popup) { return popup->value() > 0; };
     show(controls.lightenDarkenPicture, hasOption(panel, "KVImageQuality"),
          lightenDarkenPicture(panel.lightenDarken == kUnset && panel.keptLightness
                                   ? lightenDarkenStep(*panel.keptLightness)
@@ -181,13 +169,13 @@ void fillImageOptionsControls(ImageOptionsPanelContext &panel)
         PopupButton *popup = panel.controls.*row.popup;
         if (hasOption(panel, row.option))
             fillWithOfferedChoices(popup, panel.ppd, QString::fromLatin1(row.option));
-        else if (popup)
+        else
             setEnabledWithLabel(popup, false);
     }
-    if (!hasOption(panel, "KVEconomode") && panel.controls.tonerSaver) {
+    if (!hasOption(panel, "KVEconomode")) {
         setEnabledWithLabel(panel.controls.tonerSaver, false);
-        if (auto *hint = findControl<QLabel>(panel.content, panelID(tonerSaverHint)))
-            hint->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
+        findControl<QLabel>(panel.content, panelID(tonerSaverHint))
+            ->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
     }
     for (const std::int32_t number : hints)
         makeHintText(findControl<QLabel>(panel.content, panelID(number)));
@@ -198,21 +186,19 @@ void SaveUIValuesToData(ImageOptionsPanelContext &panel)
     if (!panel.content)
         return;
     const ImageOptionsControls &controls = panel.controls;
-    if (controls.printerDefault && controls.lightenDarken)
-        panel.lightenDarken =
-            controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
+    panel.lightenDarken =
+        controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
     // What a control cannot show is not the user's choice, and stays.
     for (const PpdRow &row : ppdRows) {
         const PopupButton *popup = controls.*row.popup;
-        if (popup && popup->value() > 0)
+        if (popup->value() > 0)
             panel.*row.value = GetPopupButtonTicketValue(popup);
     }
-    if (controls.tonerSaver && controls.tonerSaver->isChecked())
+    if (controls.tonerSaver->isChecked())
         panel.tonerSaver = kTonerSaverOn;
     else if (panel.tonerSaver == kTonerSaverOn)
         panel.tonerSaver = kTonerSaverOff;
-    if (controls.mirror)
-        panel.invert.mirror = controls.mirror->isChecked();
+    panel.invert.mirror = controls.mirror->isChecked();
 }
 
 void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
@@ -224,13 +210,11 @@ void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
     for (const PpdRow &row : ppdRows)
         showPpdRow(panel, row);
     showTonerSaver(panel);
-    if (controls.mirror)
-        controls.mirror->setChecked(panel.invert.mirror);
-    if (controls.invertHint)
-        controls.invertHint->setText(localizedText(panel.bundle,
-                                                   panel.invert.negative
-                                                       ? QStringLiteral("Negative Image Hint")
-                                                       : QStringLiteral("Mirror Image Hint")));
+    controls.mirror->setChecked(panel.invert.mirror);
+    controls.invertHint->setText(localizedText(panel.bundle,
+                                               panel.invert.negative
+                                                   ? QStringLiteral("Negative Image Hint")
+                                                   : QStringLiteral("Mirror Image Hint")));
     showPictures(panel);
 }
 
@@ -243,9 +227,9 @@ OSStatus ImageOptionsEventHandler(ImageOptionsPanelContext &panel, const Event &
         return eventNotHandledErr;
     }
     const ImageOptionsControls &controls = panel.controls;
-    if (event.control.number == kLightenDarkenSlider && controls.lightenDarken)
+    if (event.control.number == kLightenDarkenSlider)
         controls.lightenDarken->setValue(controls.lightenDarkenSlider->value());
-    else if (controls.lightenDarken)
+    else
         controls.lightenDarken->takeTypedText(); // else showing would undo it
     SaveUIValuesToData(panel);
     RestoreUIValuesFromData(panel);
