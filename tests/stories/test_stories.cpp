@@ -108,6 +108,7 @@ private slots:
     void countsSheetsAsThePrinterDoes();
     void saysThatItsPanelsAreDamaged();
     void saysWhatItsPanelsLack();
+    void saysThatTheDocumentIsDamaged();
     void leavesOutAChoiceThatNoTableKnows();
     void showsWhatTheJobAsksForWhateverThePpdsDefaults();
     void refusesBrokenInputs_data();
@@ -562,6 +563,15 @@ void TestStories::saysWhatItsPanelsLack()
             + *control;
         QVERIFY2(run.messages().contains(message), qPrintable(message));
     }
+}
+
+void TestStories::saysThatTheDocumentIsDamaged()
+{
+    const Desk desk;
+    write(desk.path("damaged.pdf"), contents(documentPath).replace("startxref", "startxxxx"));
+    const Run run = desk.run({"--ppd", fullPpd, "--no-window", "--to", "out", "damaged.pdf"});
+    QENDED(run, 0);
+    QVERIFY2(run.err.contains("caution: The document is damaged"), qPrintable(run.err));
 }
 
 void TestStories::leavesOutAChoiceThatNoTableKnows()
