@@ -118,25 +118,34 @@ void arrangeRows(const AdvancedControls &controls, const QWidget *content)
         makeHintText(findControl<QLabel>(content, {kPanelSignature, hint}));
 }
 
-void fillPopups(AdvancedContext &advanced)
+AdvancedControls findControls(NeededControls &needed)
 {
-    AdvancedControls &controls = advanced.controls;
-    controls.bookletOrder = findControl<PopupButton>(advanced.content, kBookletOrderPopup);
-    PopulatePopupButtonFromMap(advanced.bundle, controls.bookletOrder, BookletLayoutOrderMap,
-                               kJobContextJob, kNoCommand);
-    setTicketPlaces(controls.bookletOrder, {{kPMPrintSettingsTicket, bookletOrderKey()}});
-    for (const PpdRow &row : kPpdRows) {
-        PopupButton *popup =
-            findControl<PopupButton>(advanced.content, {kPanelSignature, row.popupNumber});
-        controls.*row.popup = popup;
-        fillWithOfferedChoices(popup, advanced.ppd, QString::fromLatin1(row.option));
-    }
+    AdvancedControls controls;
+    controls.bookletOrder = needed.find<PopupButton>(kBookletOrderPopup);
+    for (const PpdRow &row : kPpdRows)
+        controls.*row.popup = needed.find<PopupButton>({kPanelSignature, row.popupNumber});
+    for (const int hint : kHints)
+        needed.find<QLabel>({kPanelSignature, hint});
+    needed.find(kAboutButton);
+    return controls;
+}
+
+void fillPopups(const AdvancedContext &advanced)
+{
+    PopulatePopupButtonFromMap(advanced.bundle, advanced.controls.bookletOrder,
+                               BookletLayoutOrderMap, kJobContextJob, kNoCommand);
+    setTicketPlaces(advanced.controls.bookletOrder, {{kPMPrintSettingsTicket, bookletOrderKey()}});
+    for (const PpdRow &row : kPpdRows)
+        fillWithOfferedChoices(advanced.controls.*row.popup, advanced.ppd,
+                               QString::fromLatin1(row.option));
 }
 
 void buildContent(AdvancedContext &advanced)
 {
-    QWidget *content = createPanelContent(advanced.bundle, QStringLiteral("AdvancedPanel"),
-                                          QStringLiteral("Advanced"), advanced.parentUserPane);
+    QWidget *content = createPanelContent(
+        advanced.bundle, QStringLiteral("AdvancedPanel"), QStringLiteral("Advanced"),
+        advanced.parentUserPane,
+        [&advanced](NeededControls &needed) { advanced.controls = findControls(needed); });
     if (!content)
         return;
     advanced.content = content;

@@ -3,11 +3,13 @@
 #include "client_information.h"
 #include "control.h"
 #include "device_profile.h"
+#include "dialog_window.h"
 #include "embed_control.h"
 #include "flat_selector.h"
 #include "help_window.h"
 #include "installed_features.h"
 #include "job_types.h"
+#include "needed_controls.h"
 #include "notice.h"
 #include "pde_hooks.h"
 #include "picture_view.h"
@@ -334,18 +336,18 @@ bool buildShellWindow(PDEShellContext &shell)
     if (!window)
         return false;
     ShellControls &controls = shell.controls;
-    controls.group = findControl(window, kGroupControl);
-    controls.tabSelector = findControl<PopupButton>(window, kTabSelector);
-    controls.contentFrame = findControl(window, kContentFrame);
-    controls.panelArea = findControl(window, kPanelArea);
-    const bool complete =
-        controls.group && controls.tabSelector && controls.contentFrame && controls.panelArea;
+    NeededControls needed(window);
+    controls.group = needed.find(kGroupControl);
+    controls.tabSelector = needed.find<PopupButton>(kTabSelector);
+    controls.contentFrame = needed.find(kContentFrame);
+    controls.panelArea = needed.find(kPanelArea);
+    const bool complete = needed.missing().isEmpty();
     if (complete) {
         EmbedAndShowControl(controls.group, shell.parentUserPane);
         shell.parentUserPane->layout()->setAlignment(controls.group, Qt::AlignHCenter);
     } else {
-        printLine(stderr,
-                  QStringLiteral("Open(): PDE_Shell/Window.ui lacks one of Kshl 10, 15, 16, 17."));
+        showPanelNotMade(shell.bundle, shell.parentUserPane, QStringLiteral("PDE_Shell/Window"),
+                         lacksControlsText(shell.bundle, needed.missing()));
     }
     if (window != controls.group || !complete)
         delete window;

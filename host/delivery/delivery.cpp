@@ -55,19 +55,10 @@ Result<Document> pagesToPrint(const Document &document, const QString &pageRange
 }
 
 // The PDF that goes out: with the ticket where the device reads it, and without
-// any older one, which could tell an older passcode.
+// any older one, which could tell an older passcode. It is written anew also where the
+// document names none: one may stand in what later revisions replaced.
 Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job)
 {
-    if (!withTicket) {
-        const auto holdsOne = holdsTicket(document.pdfPath());
-        if (!holdsOne)
-            return holdsOne.error();
-        if (!holdsOne.value()) {
-            job.pdfPath = document.pdfPath();
-            job.pdfOwner = std::make_shared<Document>(document);
-            return {};
-        }
-    }
     auto folder = std::make_shared<TemporaryFolder>();
     if (!folder->isValid())
         return folderNotMade(folder->errorString());

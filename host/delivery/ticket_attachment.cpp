@@ -28,11 +28,6 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
     return CFPropertyListCreateXMLData(propertyListFrom(sent));
 }
 
-Result<bool> holdsTicket(const QString &path)
-{
-    return holdsEmbeddedFile(path, kTicketAttachmentName);
-}
-
 Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target)
 {
     return replaceEmbeddedFile(source, kTicketAttachmentName, "application/x-plist", ticket,

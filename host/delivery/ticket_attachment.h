@@ -19,14 +19,10 @@ inline const QString kTicketNonceKey = QStringLiteral("com.kelvo.print.TicketNon
 // and without page ranges, which have been cut already.
 Result<QByteArray> ticketForJob(const TicketFile &ticket);
 
-// Whether the PDF at `path` has an embedded file of that name, wherever it hangs
-// (embedded_files.h).
-Result<bool> holdsTicket(const QString &path);
-
 // A new PDF, 0600, at `target`: the one at `source` with `ticket` as its only
-// embedded file of that name; with a null `ticket` it has none. Damaged for what
-// libqpdf cannot read, NotWritable for a full disk, Refused for an older ticket that
-// cannot be taken out.
+// embedded file of that name; with a null `ticket` it has none (embedded_files.h).
+// Damaged for what libqpdf cannot read, NotWritable for a full disk, Refused for an
+// older ticket that cannot be taken out.
 Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target);
 
 } // namespace kelvo

@@ -7,11 +7,6 @@
 
 namespace kelvo {
 
-Result<bool> holdsEmbeddedFile(const QString &pdfPath, const QString &name)
-{
-    return ask<bool>(Task::FindEmbeddedFile, {pdfPath, QFileInfo(pdfPath).path()}, pdfPath, name);
-}
-
 Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
                                  const QByteArray &mimeType, const QByteArray &bytes,
                                  const QString &target)

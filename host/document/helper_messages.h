@@ -19,7 +19,6 @@ namespace kelvo {
 enum class Task : quint8 {
     TidyPdf,             // source, target → PdfPages, whether `source` is good as it is
     SelectPdfPages,      // source, runs, target
-    FindEmbeddedFile,    // pdf, name → whether it is there
     ReplaceEmbeddedFile, // source, name, type, bytes, target
     CheckEmbeddedFile,   // pdf, name, bytes
     ConvertText,         // files, paper

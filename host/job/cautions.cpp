@@ -63,6 +63,15 @@ std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &p
                    QStringLiteral("Choose larger paper; jobs are not scaled.")};
 }
 
+Caution repairedCaution()
+{
+    return {Weight::Told,
+            QStringLiteral("The document is damaged; what could be read of it was put together, "
+                           "and parts may be missing."),
+            QStringLiteral("Compare the preview with the original, or save the document again "
+                           "from the program that made it.")};
+}
+
 std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd)
 {
     if (settings.isEmpty())

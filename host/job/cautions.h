@@ -38,6 +38,9 @@ std::optional<Caution> printerCaution(const QString &printer, const PrinterCondi
 // `pages` of the document, ascending, do not fit on `paper`, which is called so.
 std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &paper);
 
+// The document was damaged (Document::isRepaired): what could not be read is not there.
+Caution repairedCaution();
+
 // The device lacks these settings, or nobody knows what it has: a queue without a PPD.
 std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd);
 

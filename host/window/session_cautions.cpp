@@ -37,6 +37,8 @@ void SessionCautions::look(const QString &place)
     };
     add(printer());
     add(cutPages());
+    if (m_session.document().isRepaired())
+        add(repairedCaution());
     if (const QString remark = m_session.document().remark(); !remark.isEmpty())
         add(Caution{.text = remark});
     if (m_session.panels()) {

@@ -22,8 +22,10 @@ ImageOptionsPanelContext *panelOf(PMPDEContext context)
 
 void buildContent(ImageOptionsPanelContext &panel)
 {
-    panel.content = createPanelContent(panel.bundle, QStringLiteral("ImageOptionsPanel"),
-                                       QStringLiteral("ImageOptions"), panel.parentUserPane);
+    panel.content = createPanelContent(
+        panel.bundle, QStringLiteral("ImageOptionsPanel"), QStringLiteral("ImageOptions"),
+        panel.parentUserPane,
+        [&panel](NeededControls &needed) { panel.controls = findImageOptionsControls(needed); });
     if (!panel.content)
         return;
     fillImageOptionsControls(panel);

@@ -39,6 +39,7 @@ constexpr std::int32_t tonerSaverHint = 1304;
 // What goes with the value of lighten/darken: label, slider, picture, spin field
 // and the numbers below the slider.
 constexpr std::array lightenDarkenParts = {1101, 1102, 1103, 1104, 1106, 1107, 1108};
+constexpr std::array hints = {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105};
 
 ControlID panelID(std::int32_t number)
 {
@@ -50,47 +51,19 @@ bool hasOption(const ImageOptionsPanelContext &panel, const char *option)
     return panel.ppd && panel.ppd->findOption(QString::fromLatin1(option));
 }
 
-void findControls(ImageOptionsPanelContext &panel)
-{
-    const QWidget *content = panel.content;
-    panel.controls = {
-        .lightenDarkenSlider = findControl<QSlider>(content, panelID(kLightenDarkenSlider)),
-        .lightenDarkenPicture = findControl<PictureView>(content, panelID(1103)),
-        .lightenDarken = findControl<SpinField>(content, panelID(kLightenDarkenField)),
-        .lightenDarkenWords = findControl<QLabel>(content, panelID(1105)),
-        .printerDefault = findControl<QCheckBox>(content, panelID(1109)),
-        .imageQuality = findControl<PopupButton>(content, panelID(1202)),
-        .imageQualityPicture = findControl<PictureView>(content, panelID(1203)),
-        .tonerSaver = findControl<QCheckBox>(content, panelID(1302)),
-        .tonerSaverPicture = findControl<PictureView>(content, panelID(1303)),
-        .cmykSourceColor = findControl<PopupButton>(content, panelID(1902)),
-        .cmykSourceColorPicture = findControl<PictureView>(content, panelID(1903)),
-        .outputColorCorrection = findControl<PopupButton>(content, panelID(2002)),
-        .outputColorCorrectionPicture = findControl<PictureView>(content, panelID(2003)),
-        .mirror = findControl<QCheckBox>(content, panelID(2103)),
-        .invertPicture = findControl<PictureView>(content, panelID(2104)),
-        .invertHint = findControl<QLabel>(content, panelID(2105)),
-    };
-}
-
 void setUpLightenDarken(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
-    if (controls.lightenDarkenSlider)
-        controls.lightenDarkenSlider->setRange(kLightest, kDarkest);
-    if (controls.lightenDarken) {
-        controls.lightenDarken->setMinimum(kLightest);
-        controls.lightenDarken->setMaximum(kDarkest);
-    }
+    controls.lightenDarkenSlider->setRange(kLightest, kDarkest);
+    controls.lightenDarken->setMinimum(kLightest);
+    controls.lightenDarken->setMaximum(kDarkest);
     const std::pair<std::int32_t, QString> numbers[] = {
         {1106, QString::asprintf("%+d", kLightest)},
         {1107, QStringLiteral("0")},
         {1108, QString::asprintf("%+d", kDarkest)},
     };
-    for (const auto &[number, text] : numbers) {
-        if (auto *label = findControl<QLabel>(panel.content, panelID(number)))
-            label->setText(text);
-    }
+    for (const auto &[number, text] : numbers)
+        findControl<QLabel>(panel.content, panelID(number))->setText(text);
 }
 
 void tellTicketPlaces(const ImageOptionsControls &controls)
@@ -108,21 +81,16 @@ void showLightenDarken(const ImageOptionsPanelContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
     const bool isSet = panel.lightenDarken != kUnset;
-    if (isSet && controls.lightenDarken)
+    if (isSet) {
         controls.lightenDarken->setValue(panel.lightenDarken);
-    if (isSet && controls.lightenDarkenSlider)
         controls.lightenDarkenSlider->setValue(panel.lightenDarken);
+    }
     const bool isOnDevice = hasOption(panel, "KVImageQuality");
-    for (const std::int32_t number : lightenDarkenParts) {
-        if (QWidget *part = findControl(panel.content, panelID(number)))
-            part->setEnabled(isSet && isOnDevice);
-    }
-    if (controls.printerDefault) {
-        controls.printerDefault->setChecked(!isSet);
-        controls.printerDefault->setEnabled(isOnDevice);
-    }
-    if (controls.lightenDarkenWords)
-        controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
+    for (const std::int32_t number : lightenDarkenParts)
+        findControl(panel.content, panelID(number))->setEnabled(isSet && isOnDevice);
+    controls.printerDefault->setChecked(!isSet);
+    controls.printerDefault->setEnabled(isOnDevice);
+    controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
 }
 
 void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
@@ -134,12 +102,10 @@ void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
 
 void showTonerSaver(const ImageOptionsPanelContext &panel)
 {
-    if (!panel.controls.tonerSaver)
-        return;
     panel.controls.tonerSaver->setChecked(panel.tonerSaver == kTonerSaverOn);
-    auto *hint = findControl<QLabel>(panel.content, panelID(tonerSaverHint));
-    if (hint && hasOption(panel, "KVEconomode"))
-        hint->setText(localizedText(panel.bundle,
+    if (hasOption(panel, "KVEconomode"))
+        findControl<QLabel>(panel.content, panelID(tonerSaverHint))
+            ->setText(localizedText(panel.bundle,
                                     isTonerSaverOffered(panel)
                                         ? QStringLiteral("Toner Saver Hint")
                                         : QStringLiteral("Choice Not Offered")));
@@ -151,7 +117,7 @@ void showPictures(const ImageOptionsPanelContext &panel)
     const auto show = [&](PictureView *view, bool isOnDevice, const QString &name) {
         showBundlePicture(view, panel.bundle, isOnDevice ? name : QString());
     };
-    const auto isShown = [](const PopupButton *popup) { return popup && popup->value() > 0; };
+    const auto isShown = [](const PopupButton *popup) { return popup->value() > 0; };
     show(controls.lightenDarkenPicture, hasOption(panel, "KVImageQuality"),
          lightenDarkenPicture(panel.lightenDarken == kUnset && panel.keptLightness
                                   ? lightenDarkenStep(*panel.keptLightness)
@@ -169,25 +135,49 @@ void showPictures(const ImageOptionsPanelContext &panel)
 
 } // namespace
 
+ImageOptionsControls findImageOptionsControls(NeededControls &needed)
+{
+    for (const std::int32_t number : lightenDarkenParts)
+        needed.find(panelID(number));
+    for (const std::int32_t number : hints)
+        needed.find<QLabel>(panelID(number));
+    return {
+        .lightenDarkenSlider = needed.find<QSlider>(panelID(kLightenDarkenSlider)),
+        .lightenDarkenPicture = needed.find<PictureView>(panelID(1103)),
+        .lightenDarken = needed.find<SpinField>(panelID(kLightenDarkenField)),
+        .lightenDarkenWords = needed.find<QLabel>(panelID(1105)),
+        .printerDefault = needed.find<QCheckBox>(panelID(1109)),
+        .imageQuality = needed.find<PopupButton>(panelID(1202)),
+        .imageQualityPicture = needed.find<PictureView>(panelID(1203)),
+        .tonerSaver = needed.find<QCheckBox>(panelID(1302)),
+        .tonerSaverPicture = needed.find<PictureView>(panelID(1303)),
+        .cmykSourceColor = needed.find<PopupButton>(panelID(1902)),
+        .cmykSourceColorPicture = needed.find<PictureView>(panelID(1903)),
+        .outputColorCorrection = needed.find<PopupButton>(panelID(2002)),
+        .outputColorCorrectionPicture = needed.find<PictureView>(panelID(2003)),
+        .mirror = needed.find<QCheckBox>(panelID(2103)),
+        .invertPicture = needed.find<PictureView>(panelID(2104)),
+        .invertHint = needed.find<QLabel>(panelID(2105)),
+    };
+}
+
 void fillImageOptionsControls(ImageOptionsPanelContext &panel)
 {
-    findControls(panel);
     setUpLightenDarken(panel);
     tellTicketPlaces(panel.controls);
     for (const PpdRow &row : ppdRows) {
         PopupButton *popup = panel.controls.*row.popup;
         if (hasOption(panel, row.option))
             fillWithOfferedChoices(popup, panel.ppd, QString::fromLatin1(row.option));
-        else if (popup)
+        else
             setEnabledWithLabel(popup, false);
     }
-    if (!hasOption(panel, "KVEconomode") && panel.controls.tonerSaver) {
+    if (!hasOption(panel, "KVEconomode")) {
         setEnabledWithLabel(panel.controls.tonerSaver, false);
-        if (auto *hint = findControl<QLabel>(panel.content, panelID(tonerSaverHint)))
-            hint->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
+        findControl<QLabel>(panel.content, panelID(tonerSaverHint))
+            ->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
     }
-    for (const std::int32_t number :
-         {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105})
+    for (const std::int32_t number : hints)
         makeHintText(findControl<QLabel>(panel.content, panelID(number)));
 }
 
@@ -196,21 +186,19 @@ void SaveUIValuesToData(ImageOptionsPanelContext &panel)
     if (!panel.content)
         return;
     const ImageOptionsControls &controls = panel.controls;
-    if (controls.printerDefault && controls.lightenDarken)
-        panel.lightenDarken =
-            controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
+    panel.lightenDarken =
+        controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
     // What a control cannot show is not the user's choice, and stays.
     for (const PpdRow &row : ppdRows) {
         const PopupButton *popup = controls.*row.popup;
-        if (popup && popup->value() > 0)
+        if (popup->value() > 0)
             panel.*row.value = GetPopupButtonTicketValue(popup);
     }
-    if (controls.tonerSaver && controls.tonerSaver->isChecked())
+    if (controls.tonerSaver->isChecked())
         panel.tonerSaver = kTonerSaverOn;
     else if (panel.tonerSaver == kTonerSaverOn)
         panel.tonerSaver = kTonerSaverOff;
-    if (controls.mirror)
-        panel.invert.mirror = controls.mirror->isChecked();
+    panel.invert.mirror = controls.mirror->isChecked();
 }
 
 void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
@@ -222,13 +210,11 @@ void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
     for (const PpdRow &row : ppdRows)
         showPpdRow(panel, row);
     showTonerSaver(panel);
-    if (controls.mirror)
-        controls.mirror->setChecked(panel.invert.mirror);
-    if (controls.invertHint)
-        controls.invertHint->setText(localizedText(panel.bundle,
-                                                   panel.invert.negative
-                                                       ? QStringLiteral("Negative Image Hint")
-                                                       : QStringLiteral("Mirror Image Hint")));
+    controls.mirror->setChecked(panel.invert.mirror);
+    controls.invertHint->setText(localizedText(panel.bundle,
+                                               panel.invert.negative
+                                                   ? QStringLiteral("Negative Image Hint")
+                                                   : QStringLiteral("Mirror Image Hint")));
     showPictures(panel);
 }
 
@@ -241,9 +227,9 @@ OSStatus ImageOptionsEventHandler(ImageOptionsPanelContext &panel, const Event &
         return eventNotHandledErr;
     }
     const ImageOptionsControls &controls = panel.controls;
-    if (event.control.number == kLightenDarkenSlider && controls.lightenDarken)
+    if (event.control.number == kLightenDarkenSlider)
         controls.lightenDarken->setValue(controls.lightenDarkenSlider->value());
-    else if (controls.lightenDarken)
+    else
         controls.lightenDarken->takeTypedText(); // else showing would undo it
     SaveUIValuesToData(panel);
     RestoreUIValuesFromData(panel);

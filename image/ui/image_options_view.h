@@ -4,6 +4,7 @@
 #include "image_options_context.h"
 #include "invert_image_controls.h"
 #include "late_content.h"
+#include "needed_controls.h"
 #include "picture_view.h"
 #include "popup_button.h"
 #include "spin_field.h"
@@ -53,8 +54,10 @@ struct ImageOptionsPanelContext : ImageOptionsContext
     EventHandlerRef handler;
 };
 
-// Finds the controls in the panel's content, gives them ranges, and fills the
-// pop-ups from the PPD. What the device does not have is disabled, and says so.
+ImageOptionsControls findImageOptionsControls(NeededControls &needed);
+
+// Gives the controls ranges, and fills the pop-ups from the PPD. What the device does
+// not have is disabled, and says so.
 void fillImageOptionsControls(ImageOptionsPanelContext &panel);
 
 // From the controls to the context; nothing happens before they are built.

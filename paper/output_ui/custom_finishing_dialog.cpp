@@ -26,11 +26,12 @@ OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
 {
     if (!bundle || !context || !result)
         return paramErr;
-    const auto dialog = createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
-                                          QStringLiteral("CustomFinishing"), parent);
-    auto *text = dialog ? findControl<QLineEdit>(dialog.get(), kText) : nullptr;
-    if (!text)
-        return windowNotMade(bundle, dialog.get());
+    QLineEdit *text = nullptr;
+    const auto dialog = createModalDialog(
+        bundle, QStringLiteral("FinishingDialogs"), QStringLiteral("CustomFinishing"), parent,
+        [&text](NeededControls &needed) { text = needed.find<QLineEdit>(kText); });
+    if (!dialog)
+        return kWindowNotMade;
     makeHintText(findControl<QLabel>(dialog.get(), kHint));
     text->setText(context->finishing.custom);
     setInputLimits(text, {.maximumLength = kLongestText});

@@ -53,13 +53,13 @@ void syncToUI(const _DelayedPrintContext &context)
 OSStatus initializeDelayedPrint(_DelayedPrintContext &context, LongDateTime time, QWidget *parent)
 {
     context.window = createModalDialog(context.bundle, QStringLiteral("JobTypes"),
-                                       QStringLiteral("DelayedPrint"), parent);
+                                       QStringLiteral("DelayedPrint"), parent,
+                                       [&context](NeededControls &needed) {
+                                           context.time = needed.find<TimeField>(kTimeField);
+                                           context.day = needed.find<QLabel>(kDayText);
+                                       });
     if (!context.window)
-        return windowNotMade(context.bundle, context.window.get());
-    context.time = findControl<TimeField>(context.window.get(), kTimeField);
-    context.day = findControl<QLabel>(context.window.get(), kDayText);
-    if (!context.time || !context.day)
-        return windowNotMade(context.bundle, context.window.get());
+        return kWindowNotMade;
     showJobTypePicture(context.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_DelayPrint.gif"), QStringLiteral("DelayedPrint"));
     // Half a typed time changes nothing here but the sentence beside it.

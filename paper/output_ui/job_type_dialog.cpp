@@ -52,22 +52,22 @@ void showJobTypePicture(CFBundleRef bundle, const QWidget *window, int number,
                       localizedText(bundle, nameKey));
 }
 
-std::optional<PasscodeFields> findPasscodeFields(CFBundleRef bundle, const QWidget *window,
-                                                 int shortest)
+PasscodeFields findPasscodeFields(NeededControls &needed)
 {
     PasscodeFields fields;
-    fields.passcode = findControl<QLineEdit>(window, kPasscodeField);
-    fields.confirmation = findControl<QLineEdit>(window, kConfirmationField);
-    fields.digits = findControl<QLabel>(window, kPasscodeDigits);
-    fields.confirmationDigits = findControl<QLabel>(window, kConfirmationDigits);
-    fields.show = findControl<QCheckBox>(window, kShowPasscode);
+    fields.passcode = needed.find<QLineEdit>(kPasscodeField);
+    fields.confirmation = needed.find<QLineEdit>(kConfirmationField);
+    fields.digits = needed.find<QLabel>(kPasscodeDigits);
+    fields.confirmationDigits = needed.find<QLabel>(kConfirmationDigits);
+    fields.show = needed.find<QCheckBox>(kShowPasscode);
+    return fields;
+}
+
+void limitPasscodeFields(CFBundleRef bundle, PasscodeFields &fields, int shortest)
+{
     fields.shortest = shortest;
-    if (!fields.passcode || !fields.confirmation || !fields.digits || !fields.confirmationDigits
-        || !fields.show)
-        return std::nullopt;
     limitToDigits(bundle, fields.passcode, fields.digits, shortest);
     limitToDigits(bundle, fields.confirmation, fields.confirmationDigits, shortest);
-    return fields;
 }
 
 void setPasscode(const PasscodeFields &fields, const QString &passcode)

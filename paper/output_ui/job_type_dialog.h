@@ -1,8 +1,7 @@
 #pragma once
 
 #include "bundle.h"
-
-#include <optional>
+#include "needed_controls.h"
 
 class QCheckBox;
 class QLabel;
@@ -28,9 +27,9 @@ struct PasscodeFields
     int shortest = 1; // from so many digits on there is something to confirm
 };
 
-// The fields of `window`, with their limits; none when the window lacks one.
-std::optional<PasscodeFields> findPasscodeFields(CFBundleRef bundle, const QWidget *window,
-                                                 int shortest);
+PasscodeFields findPasscodeFields(NeededControls &needed);
+// Gives fields that were all found their limits.
+void limitPasscodeFields(CFBundleRef bundle, PasscodeFields &fields, int shortest);
 // Into both fields; the confirmation stays empty where it is too short to confirm.
 void setPasscode(const PasscodeFields &fields, const QString &passcode);
 // Enables, masks and empties the fields as what they hold says. A confirmation

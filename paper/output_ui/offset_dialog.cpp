@@ -111,17 +111,17 @@ OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
     OffsetDialog dialog;
     dialog.bundle = bundle;
     dialog.settings = offsetOf(context->finishing);
-    dialog.window = createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
-                                      QStringLiteral("OffsetDialog"), parent);
+    dialog.window = createModalDialog(
+        bundle, QStringLiteral("FinishingDialogs"), QStringLiteral("OffsetDialog"), parent,
+        [&dialog](NeededControls &needed) {
+            dialog.offset = needed.find<PopupButton>(kOffset);
+            dialog.picture = needed.find<PictureView>(kPicture);
+            dialog.subsets = needed.find<QCheckBox>(kSubsets);
+            dialog.pagesPerSubset = needed.find<SpinField>(kPagesPerSubset);
+        });
+    if (!dialog.window)
+        return kWindowNotMade;
     QWidget *window = dialog.window.get();
-    if (!window)
-        return windowNotMade(bundle, dialog.window.get());
-    dialog.offset = findControl<PopupButton>(window, kOffset);
-    dialog.picture = findControl<PictureView>(window, kPicture);
-    dialog.subsets = findControl<QCheckBox>(window, kSubsets);
-    dialog.pagesPerSubset = findControl<SpinField>(window, kPagesPerSubset);
-    if (!dialog.offset || !dialog.subsets || !dialog.pagesPerSubset)
-        return windowNotMade(bundle, dialog.window.get());
     makeHintText(findControl<QLabel>(window, kHint));
     dialog.pagesPerSubset->setMaximum(kMostPagesPerSubset);
     fillOffsets(dialog);

@@ -48,11 +48,12 @@ void runFaxSetupFor(PMPDEContext context)
 
 void buildContent(PaperOutputPanelContext &panel)
 {
-    panel.content = createPanelContent(panel.bundle, QStringLiteral("PaperOutputPanel"),
-                                       QStringLiteral("PaperOutput"), panel.parentUserPane);
+    panel.content = createPanelContent(
+        panel.bundle, QStringLiteral("PaperOutputPanel"), QStringLiteral("PaperOutput"),
+        panel.parentUserPane,
+        [&panel](NeededControls &needed) { panel.controls = findPaperOutputControls(needed); });
     if (!panel.content)
         return;
-    panel.controls = findPaperOutputControls(panel.content);
     fillPaperOutputControls(panel);
     EmbedAndShowControl(panel.content, panel.parentUserPane);
     panel.handler = installEventHandler(panel.content, [&panel](const Event &event) {

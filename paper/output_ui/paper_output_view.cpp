@@ -82,35 +82,35 @@ void fillTwoSided(const PaperOutputPanelContext &panel)
 
 } // namespace
 
-PaperOutputControls findPaperOutputControls(const QWidget *content)
+PaperOutputControls findPaperOutputControls(NeededControls &needed)
 {
     const auto id = [](std::int32_t number) { return ControlID{kPanelSignature, number}; };
     return {
-        .jobType = findControl<PopupButton>(content, id(kJobTypePopup)),
-        .jobTypeSetup = findControl<QPushButton>(content, id(kJobTypeSetupButton)),
-        .jobTypeIcon = findControl<PictureView>(content, id(104)),
-        .jobTypeHint = findControl<QLabel>(content, id(1021)),
-        .stockButton = findControl<MenuButton>(content, id(106)),
-        .stockSummary = findControl<SummaryView>(content, id(107)),
-        .stockIcon = findControl<PictureView>(content, id(108)),
-        .coversButton = findControl<QPushButton>(content, id(129)),
-        .coversSummary = findControl<QLabel>(content, id(1291)),
-        .separatorsButton = findControl<QPushButton>(content, id(130)),
-        .separatorsSummary = findControl<QLabel>(content, id(1301)),
-        .twoSided = findControl<PopupButton>(content, id(kTwoSidedPopup)),
-        .twoSidedIcon = findControl<PictureView>(content, id(111)),
-        .stapling = findControl<PopupButton>(content, id(kStaplingPopup)),
-        .staplingIcon = findControl<PictureView>(content, id(114)),
-        .holePunch = findControl<PopupButton>(content, id(kHolePunchPopup)),
-        .holePunchIcon = findControl<PictureView>(content, id(117)),
-        .outputColor = findControl<PopupButton>(content, id(kOutputColorPopup)),
-        .outputColorIcon = findControl<PictureView>(content, id(120)),
-        .finishingButton = findControl<MenuButton>(content, id(123)),
-        .finishingIcon = findControl<PictureView>(content, id(124)),
-        .finishingSummary = findControl<SummaryView>(content, id(127)),
-        .moreFinishing = findControl<MenuButton>(content, id(128)),
-        .moreFinishingSummary = findControl<QLabel>(content, id(1281)),
-        .outputDestination = findControl<PopupButton>(content, id(kOutputDestinationPopup)),
+        .jobType = needed.find<PopupButton>(id(kJobTypePopup)),
+        .jobTypeSetup = needed.find<QPushButton>(id(kJobTypeSetupButton)),
+        .jobTypeIcon = needed.find<PictureView>(id(104)),
+        .jobTypeHint = needed.find<QLabel>(id(1021)),
+        .stockButton = needed.find<MenuButton>(id(106)),
+        .stockSummary = needed.find<SummaryView>(id(107)),
+        .stockIcon = needed.find<PictureView>(id(108)),
+        .coversButton = needed.find<QPushButton>(id(129)),
+        .coversSummary = needed.find<QLabel>(id(1291)),
+        .separatorsButton = needed.find<QPushButton>(id(130)),
+        .separatorsSummary = needed.find<QLabel>(id(1301)),
+        .twoSided = needed.find<PopupButton>(id(kTwoSidedPopup)),
+        .twoSidedIcon = needed.find<PictureView>(id(111)),
+        .stapling = needed.find<PopupButton>(id(kStaplingPopup)),
+        .staplingIcon = needed.find<PictureView>(id(114)),
+        .holePunch = needed.find<PopupButton>(id(kHolePunchPopup)),
+        .holePunchIcon = needed.find<PictureView>(id(117)),
+        .outputColor = needed.find<PopupButton>(id(kOutputColorPopup)),
+        .outputColorIcon = needed.find<PictureView>(id(120)),
+        .finishingButton = needed.find<MenuButton>(id(123)),
+        .finishingIcon = needed.find<PictureView>(id(124)),
+        .finishingSummary = needed.find<SummaryView>(id(127)),
+        .moreFinishing = needed.find<MenuButton>(id(128)),
+        .moreFinishingSummary = needed.find<QLabel>(id(1281)),
+        .outputDestination = needed.find<PopupButton>(id(kOutputDestinationPopup)),
     };
 }
 

@@ -3,6 +3,7 @@
 #include "event.h"
 #include "late_content.h"
 #include "menu_button.h"
+#include "needed_controls.h"
 #include "paper_output_context.h"
 #include "picture_view.h"
 #include "plugin_abi.h"
@@ -71,7 +72,7 @@ struct PaperOutputPanelContext : _PaperOutputContext
     EventHandlerRef handler;
 };
 
-PaperOutputControls findPaperOutputControls(const QWidget *content);
+PaperOutputControls findPaperOutputControls(NeededControls &needed);
 
 // Fills menus and pop-ups from their maps and the PPD. What the device does not
 // have is disabled.

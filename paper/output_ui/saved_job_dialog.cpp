@@ -60,22 +60,17 @@ struct SavedJobContext
     EventHandlerRef handler;
 };
 
-bool findControls(SavedJobContext &context)
+void findControls(SavedJobContext &context, NeededControls &needed)
 {
-    const QWidget *window = context.window.get();
-    context.name = findControl<HistoryField>(window, kNameField);
-    context.useJobName = findControl<QCheckBox>(window, kUseJobName);
-    context.mailbox = findControl<HistoryField>(window, kMailboxField);
-    context.mailboxHint = findControl<QLabel>(window, kMailboxHint);
-    context.disposition = findControl<RadioGroup>(window, kDisposition);
-    context.format = findControl<PopupButton>(window, kFormatPopup);
-    context.secure = findControl<QCheckBox>(window, kSecure);
-    context.passcodeHint = findControl<QLabel>(window, kPasscodeHint);
-    const auto fields = findPasscodeFields(context.bundle, window, kShortestSavedJobPasscode);
-    if (fields)
-        context.fields = *fields;
-    return fields && context.name && context.useJobName && context.mailbox && context.mailboxHint
-        && context.disposition && context.format && context.secure && context.passcodeHint;
+    context.name = needed.find<HistoryField>(kNameField);
+    context.useJobName = needed.find<QCheckBox>(kUseJobName);
+    context.mailbox = needed.find<HistoryField>(kMailboxField);
+    context.mailboxHint = needed.find<QLabel>(kMailboxHint);
+    context.disposition = needed.find<RadioGroup>(kDisposition);
+    context.format = needed.find<PopupButton>(kFormatPopup);
+    context.secure = needed.find<QCheckBox>(kSecure);
+    context.passcodeHint = needed.find<QLabel>(kPasscodeHint);
+    context.fields = findPasscodeFields(needed);
 }
 
 // A number that is too large must stand until OK says so, so the mailbox is a text
@@ -221,10 +216,12 @@ OSStatus handleEvent(SavedJobContext &context, const Event &event)
 
 OSStatus initializeSavedJob(SavedJobContext &context, QWidget *parent)
 {
-    context.window = createModalDialog(context.bundle, QStringLiteral("JobTypes"),
-                                       QStringLiteral("SavedJob"), parent);
-    if (!context.window || !findControls(context) || !windowDefaultButton(context.name))
-        return windowNotMade(context.bundle, context.window.get());
+    context.window = createModalDialog(
+        context.bundle, QStringLiteral("JobTypes"), QStringLiteral("SavedJob"), parent,
+        [&context](NeededControls &needed) { findControls(context, needed); });
+    if (!context.window)
+        return kWindowNotMade;
+    limitPasscodeFields(context.bundle, context.fields, kShortestSavedJobPasscode);
     showJobTypePicture(context.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_SavedJob.gif"),
                        QStringLiteral("Save to Mailbox Command"));

@@ -34,14 +34,12 @@ void syncToUI(const _SecurePrintContext &context)
 OSStatus initializeSecurePrint(_SecurePrintContext &context, const QString &passcode,
                                QWidget *parent)
 {
-    context.window = createModalDialog(context.bundle, QStringLiteral("JobTypes"),
-                                       QStringLiteral("SecurePrint"), parent);
-    const std::optional<PasscodeFields> fields = context.window
-        ? findPasscodeFields(context.bundle, context.window.get(), kShortestPasscode)
-        : std::nullopt;
-    if (!fields)
-        return windowNotMade(context.bundle, context.window.get());
-    context.fields = *fields;
+    context.window = createModalDialog(
+        context.bundle, QStringLiteral("JobTypes"), QStringLiteral("SecurePrint"), parent,
+        [&context](NeededControls &needed) { context.fields = findPasscodeFields(needed); });
+    if (!context.window)
+        return kWindowNotMade;
+    limitPasscodeFields(context.bundle, context.fields, kShortestPasscode);
     showJobTypePicture(context.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_SecurePrint.gif"), QStringLiteral("SecurePrint"));
     makeHintText(findControl<QLabel>(context.window.get(), kHint));

@@ -142,17 +142,17 @@ OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
         return paramErr;
     SeparatorsDialog dialog;
     dialog.bundle = bundle;
-    dialog.window = createModalDialog(bundle, QStringLiteral("Separators"),
-                                      QStringLiteral("Separators"), parent);
+    dialog.window =
+        createModalDialog(bundle, QStringLiteral("Separators"), QStringLiteral("Separators"),
+                          parent, [&dialog](NeededControls &needed) {
+                              dialog.option = needed.find<PopupButton>(kOption);
+                              dialog.source = needed.find<PopupButton>(kSource);
+                              dialog.color = needed.find<PopupButton>(kColor);
+                              dialog.picture = needed.find<PictureView>(kPicture);
+                          });
+    if (!dialog.window)
+        return kWindowNotMade;
     QWidget *window = dialog.window.get();
-    if (!window)
-        return windowNotMade(bundle, dialog.window.get());
-    dialog.option = findControl<PopupButton>(window, kOption);
-    dialog.source = findControl<PopupButton>(window, kSource);
-    dialog.color = findControl<PopupButton>(window, kColor);
-    dialog.picture = findControl<PictureView>(window, kPicture);
-    if (!dialog.option || !dialog.source || !dialog.color)
-        return windowNotMade(bundle, dialog.window.get());
     makeHintText(findControl<QLabel>(window, kOptionHint));
     makeHintText(findControl<QLabel>(window, kColorHint));
     fillPopups(dialog, PPDGetCurrent());

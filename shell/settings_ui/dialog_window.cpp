@@ -1,19 +1,17 @@
 #include "dialog_window.h"
 
+#include "needed_controls.h"
 #include "notice.h"
+#include "string_table.h"
 #include "terminal.h"
 #include "ticket_values.h"
 #include "window_loader.h"
 
 #include <QLabel>
 
-#include <algorithm>
-
 namespace kelvo {
 
 namespace {
-
-constexpr char kNameProperty[] = "description"; // of a dialog: "JobTypes/SavedJob"
 
 // What the user reads; to standard error goes the last line. That stands outside the
 // localized text, since the string tables may be missing as well.
@@ -33,9 +31,9 @@ void tell(CFBundleRef bundle, const QString &window, const QString &reason, QWid
 
 } // namespace
 
-std::unique_ptr<ModalDialog> createModalDialog(CFBundleRef bundle, const QString &description,
-                                               const QString &window, QWidget *parent,
-                                               std::initializer_list<ControlID> needed)
+std::unique_ptr<ModalDialog>
+createModalDialog(CFBundleRef bundle, const QString &description, const QString &window,
+                  QWidget *parent, const std::function<void(NeededControls &)> &findControls)
 {
     const QString name = description + u'/' + window;
     const Result<QWidget *> content = createWindowFromDescription(bundle, description, window);
@@ -44,24 +42,32 @@ std::unique_ptr<ModalDialog> createModalDialog(CFBundleRef bundle, const QString
         return nullptr;
     }
     auto dialog = std::make_unique<ModalDialog>(content.value(), parent);
-    dialog->setProperty(kNameProperty, name);
-    const bool canBeClosed = windowDefaultButton(dialog.get()) || windowCancelButton(dialog.get());
-    const bool isComplete = std::ranges::all_of(
-        needed, [&dialog](ControlID id) { return findControl(dialog.get(), id); });
-    if (!canBeClosed || !isComplete) {
-        windowNotMade(bundle, dialog.get());
-        return nullptr;
-    }
-    return dialog;
+    NeededControls needed(dialog.get());
+    if (findControls)
+        findControls(needed);
+    QStringList missing = needed.missing();
+    if (!windowDefaultButton(dialog.get()))
+        missing.append(QStringLiteral("'ok  '"));
+    if (missing.isEmpty())
+        return dialog;
+    tell(bundle, name, lacksControlsText(bundle, missing), parent);
+    return nullptr;
 }
 
-OSStatus windowNotMade(CFBundleRef bundle, const ModalDialog *dialog)
+std::unique_ptr<ModalDialog> createModalDialog(CFBundleRef bundle, const QString &description,
+                                               const QString &window, QWidget *parent,
+                                               std::initializer_list<ControlID> needed)
 {
-    if (dialog)
-        tell(bundle, dialog->property(kNameProperty).toString(),
-             localizedText(bundle, QStringLiteral("Window Lacks Controls")),
-             dialog->parentWidget());
-    return kWindowNotMade;
+    return createModalDialog(bundle, description, window, parent, [&](NeededControls &controls) {
+        for (const ControlID id : needed)
+            controls.find(id);
+    });
+}
+
+QString lacksControlsText(CFBundleRef bundle, const QStringList &missing)
+{
+    return formatted(localizedText(bundle, QStringLiteral("Window Lacks Controls")),
+                     {missing.join(QStringLiteral(", "))});
 }
 
 void showPanelNotMade(CFBundleRef bundle, QWidget *pane, const QString &window,

@@ -227,25 +227,35 @@ void fillOptions(CFBundleRef bundle, PopupButton *options)
     options->setMenu(std::move(menu));
 }
 
-bool initializeSide(CoversContext &context, CoverSide &side, Cover &cover, std::int32_t controls,
-                    const char *sourceOption, OSType sidesCommand)
+void findSide(CoverSide &side, NeededControls &needed, std::int32_t controls)
 {
-    const QWidget *window = context.window.get();
     const auto idOf = [controls](CoverControl control) {
         return ControlID{kPanelSignature, controls + control};
     };
+    side.group = needed.find<QGroupBox>(idOf(kGroup));
+    side.source = needed.find<PopupButton>(idOf(kSource));
+    side.sourceHint = needed.find<QLabel>(idOf(kSourceHint));
+    side.sides = needed.find<PopupButton>(idOf(kSides));
+    findStockControls(side.stock, needed, controls + kStock);
+}
+
+void findControls(CoversContext &context, NeededControls &needed)
+{
+    context.picture = needed.find<PictureView>(kPicture);
+    context.options = needed.find<PopupButton>(kOptions);
+    findSide(context.front, needed, kFrontControls);
+    findSide(context.back, needed, kBackControls);
+}
+
+void initializeSide(CoversContext &context, CoverSide &side, Cover &cover, const char *sourceOption,
+                    OSType sidesCommand)
+{
     side.cover = &cover;
-    side.group = findControl<QGroupBox>(window, idOf(kGroup));
-    side.source = findControl<PopupButton>(window, idOf(kSource));
-    side.sourceHint = findControl<QLabel>(window, idOf(kSourceHint));
-    side.sides = findControl<PopupButton>(window, idOf(kSides));
     side.stock.bundle = context.bundle;
     side.stock.stock = &cover.stock();
     side.stock.jobContext = kJobContextCovers;
     side.stock.changed = [&context] { settle(context); };
-    if (!side.group || !side.source || !side.sourceHint || !side.sides
-        || !initializeStockControls(side.stock, window, controls + kStock))
-        return false;
+    InitializeStockMenuButton(side.stock.button, &side.stock);
 
     // "None" is no source, but no cover.
     fillWithOfferedChoices(side.source, PPDGetCurrent(), QString::fromLatin1(sourceOption),
@@ -256,24 +266,20 @@ bool initializeSide(CoversContext &context, CoverSide &side, Cover &cover, std::
     side.sourceHint->setMinimumHeight(kHintLines * side.sourceHint->fontMetrics().lineSpacing());
     PopulatePopupButtonFromMap(context.bundle, side.sides, CoverSidesImagedMap, kJobContextCovers,
                                sidesCommand);
-    return true;
 }
 
 OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget *parent)
 {
-    context.window = createModalDialog(context.bundle, QStringLiteral("SpecialPages"),
-                                       QStringLiteral("Basic Covers"), parent);
+    context.window = createModalDialog(
+        context.bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Covers"), parent,
+        [&context](NeededControls &needed) { findControls(context, needed); });
     if (!context.window)
-        return windowNotMade(context.bundle, context.window.get());
+        return kWindowNotMade;
     const QWidget *window = context.window.get();
-    context.picture = findControl<PictureView>(window, kPicture);
-    context.options = findControl<PopupButton>(window, kOptions);
-    if (!context.picture || !context.options
-        || !initializeSide(context, context.front, context.covers.front, kFrontControls,
-                           "KVFrontCoverSheet", kCommandFrontSides)
-        || !initializeSide(context, context.back, context.covers.back, kBackControls,
-                           "KVBackCoverSheet", kCommandBackSides))
-        return windowNotMade(context.bundle, context.window.get());
+    initializeSide(context, context.front, context.covers.front, "KVFrontCoverSheet",
+                   kCommandFrontSides);
+    initializeSide(context, context.back, context.covers.back, "KVBackCoverSheet",
+                   kCommandBackSides);
     fillOptions(context.bundle, context.options);
     showJobPaper(context.bundle, findControl<QLabel>(window, kJobPaper), jobStock);
     context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {

@@ -58,6 +58,7 @@ struct ExceptionsContext
     const ExceptionPage *edited = nullptr;   // of the list; null to add
     ExceptionEdit edit;
     QPointer<QLineEdit> pages;
+    QPointer<QLabel> pagesHint;
     QPointer<TabControl> tabs;
     std::array<QWidget *, kPanes.size()> panes{};
     QPointer<QLabel> tabShift;
@@ -245,46 +246,42 @@ void initializePanes(const ExceptionsContext &context)
     showPane(context);
 }
 
-bool findControls(ExceptionsContext &context)
+void findControls(ExceptionsContext &context, NeededControls &needed)
 {
-    const QWidget *window = context.window.get();
-    context.pages = findControl<QLineEdit>(window, kPages);
-    context.tabs = findControl<TabControl>(window, kTabs);
+    context.pages = needed.find<QLineEdit>(kPages);
+    context.pagesHint = needed.find<QLabel>(kPagesHint);
+    context.tabs = needed.find<TabControl>(kTabs);
     for (std::size_t i = 0; i < kPanes.size(); ++i)
-        context.panes[i] = findControl(window, kPanes[i]);
-    context.tabShift = findControl<QLabel>(window, kTabShift);
-    context.tabShiftButton = findControl<QPushButton>(window, kTabShiftButton);
-    context.sides = findControl<PopupButton>(window, kSides);
-    context.sidesHint = findControl<QLabel>(window, kSidesHint);
-    context.lightness = findControl<PopupButton>(window, kLightness);
-    context.lightnessHint = findControl<QLabel>(window, kLightnessHint);
-    return context.pages && context.tabs && context.panes[0] && context.panes[1] && context.tabShift
-        && context.tabShiftButton && context.sides && context.sidesHint && context.lightness
-        && context.lightnessHint;
+        context.panes[i] = needed.find(kPanes[i]);
+    context.tabShift = needed.find<QLabel>(kTabShift);
+    context.tabShiftButton = needed.find<QPushButton>(kTabShiftButton);
+    context.sides = needed.find<PopupButton>(kSides);
+    context.sidesHint = needed.find<QLabel>(kSidesHint);
+    context.lightness = needed.find<PopupButton>(kLightness);
+    context.lightnessHint = needed.find<QLabel>(kLightnessHint);
+    findStockControls(context.stock, needed, kStockControls);
 }
 
 OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock, QWidget *parent)
 {
     const CFBundleRef bundle = context.bundle;
-    context.window = createModalDialog(bundle, QStringLiteral("SpecialPages"),
-                                       QStringLiteral("Basic Exceptions"), parent);
+    context.window = createModalDialog(
+        bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Exceptions"), parent,
+        [&context](NeededControls &needed) { findControls(context, needed); });
     if (!context.window)
-        return windowNotMade(context.bundle, context.window.get());
+        return kWindowNotMade;
     const QWidget *window = context.window.get();
-    auto *pagesHint = findControl<QLabel>(window, kPagesHint);
     context.stock.bundle = bundle;
     context.stock.stock = &context.edit.page.stock();
     context.stock.jobContext = kJobContextExceptions;
-    if (!pagesHint || !findControls(context)
-        || !initializeStockControls(context.stock, window, kStockControls))
-        return windowNotMade(context.bundle, context.window.get());
+    InitializeStockMenuButton(context.stock.button, &context.stock);
     // Asked before the button's own, which knows nothing of the image shift.
     context.stockHandler =
         installEventHandler(context.stock.button, [&context](const Event &event) {
             return handleStockEvent(context, event);
         });
 
-    initializePagesField(context.pages, pagesHint);
+    initializePagesField(context.pages, context.pagesHint);
     context.pages->setText(context.edit.pages);
     initializePanes(context);
     showJobPaper(bundle, findControl<QLabel>(window, kJobPaper), jobStock);

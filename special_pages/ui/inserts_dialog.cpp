@@ -105,23 +105,27 @@ bool takeInserts(InsertsContext &context)
     return status == noErr;
 }
 
+void findControls(InsertsContext &context, NeededControls &needed)
+{
+    context.position = needed.find<PopupButton>(kPosition);
+    context.pages = needed.find<QLineEdit>(kPages);
+    context.pagesHint = needed.find<QLabel>(kPagesHint);
+    context.quantity = needed.find<SpinField>(kQuantity);
+    findStockControls(context.stock, needed, kStockControls);
+}
+
 OSStatus initializeInserts(InsertsContext &context, const Stock *jobStock, QWidget *parent)
 {
-    context.window = createModalDialog(context.bundle, QStringLiteral("SpecialPages"),
-                                       QStringLiteral("Basic Inserts"), parent);
+    context.window = createModalDialog(
+        context.bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Inserts"), parent,
+        [&context](NeededControls &needed) { findControls(context, needed); });
     if (!context.window)
-        return windowNotMade(context.bundle, context.window.get());
+        return kWindowNotMade;
     const QWidget *window = context.window.get();
-    context.position = findControl<PopupButton>(window, kPosition);
-    context.pages = findControl<QLineEdit>(window, kPages);
-    context.pagesHint = findControl<QLabel>(window, kPagesHint);
-    context.quantity = findControl<SpinField>(window, kQuantity);
     context.stock.bundle = context.bundle;
     context.stock.stock = &context.edit.page.stock();
     context.stock.jobContext = kJobContextInserts;
-    if (!context.position || !context.pages || !context.pagesHint || !context.quantity
-        || !initializeStockControls(context.stock, window, kStockControls))
-        return windowNotMade(context.bundle, context.window.get());
+    InitializeStockMenuButton(context.stock.button, &context.stock);
 
     PopulatePopupButtonFromMap(context.bundle, context.position, InsertOptionMap,
                                kJobContextInserts, kCommandInsertOption);

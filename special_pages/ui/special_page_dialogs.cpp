@@ -14,15 +14,12 @@
 
 namespace kelvo {
 
-bool initializeStockControls(_StockMenuCommandEventHandlerData &data, const QWidget *window,
-                             std::int32_t first)
+void findStockControls(_StockMenuCommandEventHandlerData &data, NeededControls &needed,
+                       std::int32_t first)
 {
-    data.icon = findControl<PictureView>(window, {kPanelSignature, first});
-    data.summary = findControl<SummaryView>(window, {kPanelSignature, first + 2});
-    return data.icon && data.summary
-        && InitializeStockMenuButton(findControl<MenuButton>(window, {kPanelSignature, first + 1}),
-                                     &data)
-        == noErr;
+    data.icon = needed.find<PictureView>({kPanelSignature, first});
+    data.button = needed.find<MenuButton>({kPanelSignature, first + 1});
+    data.summary = needed.find<SummaryView>({kPanelSignature, first + 2});
 }
 
 void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock)

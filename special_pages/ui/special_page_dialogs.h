@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bundle.h"
+#include "needed_controls.h"
 #include "special_page_list.h"
 #include "stock_menu_button.h"
 
@@ -13,9 +14,9 @@ class QLineEdit;
 namespace kelvo {
 
 // The icon, button and summary of `data.stock`, which stand at KPDE `first` and the
-// two numbers after it. False when the window does not have them.
-bool initializeStockControls(_StockMenuCommandEventHandlerData &data, const QWidget *window,
-                             std::int32_t first);
+// two numbers after it.
+void findStockControls(_StockMenuCommandEventHandlerData &data, NeededControls &needed,
+                       std::int32_t first);
 
 // What "use job setting" means for paper; hidden where the job has none.
 void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock);

@@ -24,8 +24,6 @@ _SpecialPagesContext *panelOf(PMPDEContext context)
     return reinterpret_cast<_SpecialPagesContext *>(context);
 }
 
-constexpr ControlID kUserPane{kPanelSignature, 1};
-
 // Whoever starts the dialog from a terminal sees why the pane stays empty.
 OSStatus openFailed(const char *what)
 {
@@ -47,10 +45,11 @@ OSStatus buildPane(_SpecialPagesContext &panel)
                                                           : openFailed("create window from nib");
     }
     const std::unique_ptr<QWidget> window(made.value());
-    panel.pane = findControl(window.get(), kUserPane);
-    if (!panel.pane) {
-        sayNotMade(localizedText(panel.bundle, QStringLiteral("Window Lacks Controls")));
-        return openFailed("get user pane control reference");
+    NeededControls needed(window.get());
+    findSpecialPagesControls(panel, needed);
+    if (!needed.missing().isEmpty()) {
+        sayNotMade(lacksControlsText(panel.bundle, needed.missing()));
+        return openFailed(panel.pane ? "get control reference" : "get user pane control reference");
     }
     InitializeSpecialPages(panel);
     // On the parent, which the dialog's help command is sent to.

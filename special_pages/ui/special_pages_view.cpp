@@ -18,6 +18,7 @@ namespace {
 
 constexpr int addIconSize = 28, commandIconSize = 20; // logical pixels
 
+constexpr std::int32_t paneNumber = 1;
 constexpr std::int32_t listNumber = 1000;
 constexpr std::int32_t hintNumber = 1001;
 
@@ -59,10 +60,7 @@ ControlID panelID(std::int32_t number)
 
 void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
 {
-    QPointer<QAbstractButton> &button = panel.*row.button;
-    button = findControl<QAbstractButton>(panel.pane, panelID(row.number));
-    if (!button)
-        return;
+    QAbstractButton *button = panel.*row.button;
     const bool hasLabel = row.labelNumber != 0;
     const QString text = localizedText(panel.bundle, QString::fromLatin1(row.textKey));
     button->setIcon(pictureIcon(panel.bundle->resourcesPath(), QString::fromLatin1(row.picture)));
@@ -130,7 +128,7 @@ void ConfigureSpecialPagesListAndInstallCallbacks(_SpecialPagesContext &panel)
 void disableCoversWithoutOption(_SpecialPagesContext &panel)
 {
     const PpdFile *ppd = PPDGetCurrent();
-    if (!panel.addCoversButton || (ppd && ppd->findOption(QStringLiteral("KVFrontCoverSheet"))))
+    if (ppd && ppd->findOption(QStringLiteral("KVFrontCoverSheet")))
         return;
     setEnabledWithLabel(panel.addCoversButton, false);
     panel.addCoversButton->setToolTip(
@@ -139,15 +137,25 @@ void disableCoversWithoutOption(_SpecialPagesContext &panel)
 
 } // namespace
 
+void findSpecialPagesControls(_SpecialPagesContext &panel, NeededControls &needed)
+{
+    panel.pane = needed.find(panelID(paneNumber));
+    panel.list = needed.find<ListView>(panelID(listNumber));
+    for (const CommandButton &row : commandButtons) {
+        panel.*row.button = needed.find<QAbstractButton>(panelID(row.number));
+        if (row.labelNumber != 0)
+            needed.find<QLabel>(panelID(row.labelNumber));
+    }
+    needed.find<QLabel>(panelID(hintNumber));
+}
+
 void InitializeSpecialPages(_SpecialPagesContext &panel)
 {
     for (const CommandButton &row : commandButtons)
         initializeButton(panel, row);
     disableCoversWithoutOption(panel);
     makeHintText(findControl<QLabel>(panel.pane, panelID(hintNumber)));
-    panel.list = findControl<ListView>(panel.pane, panelID(listNumber));
-    if (panel.list)
-        ConfigureSpecialPagesListAndInstallCallbacks(panel);
+    ConfigureSpecialPagesListAndInstallCallbacks(panel);
     UpdateSpecialPagesSummary(&panel);
 }
 

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "needed_controls.h"
 #include "special_pages_context.h"
 
 // What the Special Pages panel shows.
 namespace kelvo {
 
-// Finds the controls in the panel's pane, gives them texts and pictures, and fills
-// the list.
+// The pane and the controls in it.
+void findSpecialPagesControls(_SpecialPagesContext &panel, NeededControls &needed);
+
+// Gives them texts and pictures, and fills the list.
 void InitializeSpecialPages(_SpecialPagesContext &panel);
 
 // The list's columns.

@@ -10,6 +10,7 @@
 #include "inserts_dialog.h"
 #include "panel_content.h"
 #include "paper_output_context.h"
+#include "popup_button.h"
 #include "save_stock_dialog.h"
 #include "saved_job_dialog.h"
 #include "secure_print_dialog.h"
@@ -164,6 +165,7 @@ class TestMissingWindows : public QObject
 private slots:
     void aDialogThatCannotBeMadeSaysSo_data();
     void aDialogThatCannotBeMadeSaysSo();
+    void aPanelThatCannotBeMadeSaysSo_data();
     void aPanelThatCannotBeMadeSaysSo();
 };
 
@@ -178,7 +180,8 @@ void TestMissingWindows::aDialogThatCannotBeMadeSaysSo_data()
         QTest::addRow("%s, missing", window)
             << i << QByteArray() << QByteArray("no such window description");
         QTest::addRow("%s, cut off", window) << i << QByteArray("<ui") << QByteArray(".ui");
-        QTest::addRow("%s, another's", window) << i << kButtonAlone << QByteArray("lacks controls");
+        QTest::addRow("%s, another's", window)
+            << i << kButtonAlone << QByteArray("lacks controls that the window needs: KPDE ");
     }
 }
 
@@ -201,16 +204,39 @@ void TestMissingWindows::aDialogThatCannotBeMadeSaysSo()
     QCOMPARE(settings.result, DialogResult::Cancel);
 }
 
+void TestMissingWindows::aPanelThatCannotBeMadeSaysSo_data()
+{
+    QTest::addColumn<QByteArray>("description");
+    QTest::addColumn<QString>("reason");
+    const auto with = [](const QByteArray &widgetClass) {
+        return "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"><widget class=\""
+            + widgetClass
+            + "\" name=\"quality\"><property name=\"controlID\" stdset=\"0\"><string "
+              "notr=\"true\">KPDE 1202</string></property></widget></widget></ui>";
+    };
+    QTest::newRow("cut off") << QByteArray("<ui") << "ImageOptions.ui";
+    QTest::newRow("without its controls")
+        << kButtonAlone << "lacks controls that the window needs: KPDE 1202, KPDE 1103";
+    QTest::newRow("a control of another class") << with("QLabel") << "needs: KPDE 1202, KPDE 1103";
+    QTest::newRow("one that is there") << with("PopupButton") << "needs: KPDE 1103";
+}
+
 void TestMissingWindows::aPanelThatCannotBeMadeSaysSo()
 {
-    const DamagedBundle damaged("ImageOptionsPanel/ImageOptions", "<ui");
+    QFETCH(QByteArray, description);
+    QFETCH(QString, reason);
+    const DamagedBundle damaged("ImageOptionsPanel/ImageOptions", description);
     QWidget pane;
-    QVERIFY(!createPanelContent(damaged.bundle, "ImageOptionsPanel", "ImageOptions", &pane));
+    QVERIFY(!createPanelContent(damaged.bundle, "ImageOptionsPanel", "ImageOptions", &pane,
+                                [](NeededControls &needed) {
+                                    needed.find<PopupButton>({kPanelSignature, 1202});
+                                    needed.find({kPanelSignature, 1103});
+                                }));
     const auto *label = pane.findChild<QLabel *>();
     QVERIFY(label && label->isVisibleTo(&pane));
-    QVERIFY2(label->text().contains("ImageOptionsPanel/ImageOptions")
-                 && label->text().contains("Install the software again"),
-             qPrintable(label->text()));
+    for (const QString &words : {QStringLiteral("ImageOptionsPanel/ImageOptions"),
+                                 QStringLiteral("Install the software again"), reason})
+        QVERIFY2(label->text().contains(words), qPrintable(label->text()));
 }
 
 QTEST_MAIN(TestMissingWindows)

@@ -188,6 +188,11 @@ void TestSpecialPagesPanel::saysOnStandardOutputWhyItIsEmpty_data()
     QTest::newRow("one without the pane")
         << QByteArray("<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"/></ui>")
         << QByteArray("!! Failed to get user pane control reference.\n");
+    QTest::newRow("one with an empty pane")
+        << QByteArray("<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"><property "
+                      "name=\"controlID\" stdset=\"0\"><string notr=\"true\">KPDE "
+                      "1</string></property></widget></ui>")
+        << QByteArray("!! Failed to get control reference.\n");
 }
 
 void TestSpecialPagesPanel::saysOnStandardOutputWhyItIsEmpty()

@@ -107,6 +107,8 @@ private slots:
     void keepsPagesAcrossPresetsAndPrinters();
     void countsSheetsAsThePrinterDoes();
     void saysThatItsPanelsAreDamaged();
+    void saysWhatItsPanelsLack();
+    void saysThatTheDocumentIsDamaged();
     void leavesOutAChoiceThatNoTableKnows();
     void showsWhatTheJobAsksForWhateverThePpdsDefaults();
     void refusesBrokenInputs_data();
@@ -535,6 +537,41 @@ void TestStories::saysThatItsPanelsAreDamaged()
     QENDED(run, 0);
     QVERIFY2(run.out.contains("could not start") && !run.out.contains("not made for"),
              qPrintable(run.out));
+}
+
+void TestStories::saysWhatItsPanelsLack()
+{
+    Desk desk;
+    const QString bundle = desk.path("KelvoPDE.pde");
+    QCOMPARE(QProcess::execute("cp", {"-r", KELVO_BUILD_DIR "/lib/KelvoPDE.pde", bundle}), 0);
+    desk.set("KELVO_BUNDLE", bundle);
+    const QMap<QString, QByteArray> lost{{"PaperOutputPanel/PaperOutput", "KPDE 128"},
+                                         {"ImageOptionsPanel/ImageOptions", "KPDE 1202"},
+                                         {"AdvancedPanel/Advanced", "KPDE 602"},
+                                         {"SpecialPages/SpecialPages", "KPDE 1000"}};
+    for (auto control = lost.cbegin(); control != lost.cend(); ++control) {
+        const QString path = bundle + "/Resources/dialogs/" + control.key() + ".ui";
+        write(path, contents(path).replace('>' + *control + '<', ">KPDE 9999<"));
+    }
+    write(desk.path("show.kps"), "panel ImageOptions\npanel Advanced\npanel SpecialPages\nprint\n");
+    const Run run = desk.run(
+        {"--ppd", fullPpd, "--no-window", "--script", "show.kps", "--to", "out", documentPath});
+    QENDED(run, 0);
+    for (auto control = lost.cbegin(); control != lost.cend(); ++control) {
+        const QString message = control.key()
+            + ": the window cannot be made: The description lacks controls that the window needs: "
+            + *control;
+        QVERIFY2(run.messages().contains(message), qPrintable(message));
+    }
+}
+
+void TestStories::saysThatTheDocumentIsDamaged()
+{
+    const Desk desk;
+    write(desk.path("damaged.pdf"), contents(documentPath).replace("startxref", "startxxxx"));
+    const Run run = desk.run({"--ppd", fullPpd, "--no-window", "--to", "out", "damaged.pdf"});
+    QENDED(run, 0);
+    QVERIFY2(run.err.contains("caution: The document is damaged"), qPrintable(run.err));
 }
 
 void TestStories::leavesOutAChoiceThatNoTableKnows()

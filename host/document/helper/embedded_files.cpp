@@ -139,8 +139,6 @@ public:
             doomWhere([=, this](Handle object) { return isDoomedNote(object, subtype); });
     }
 
-    bool isEmpty() const { return !m_isFound; }
-
     void takeOut()
     {
         for (Handle &object : m_objects)
@@ -164,7 +162,6 @@ private:
 
     void doom(Handle file)
     {
-        m_isFound = true;
         if (file.isIndirect())
             m_doomed.insert(file.getObjGen());
         for (Handle &stream : streamsOf(file))
@@ -243,7 +240,6 @@ private:
     std::vector<Handle> m_objects;
     std::set<QPDFObjGen> m_doomed;  // files and notes
     std::set<QPDFObjGen> m_streams; // what is in the files
-    bool m_isFound = false;
 };
 
 // ---- the document's list of files
@@ -349,18 +345,6 @@ Error leftBehind(const QString &path, const QString &name)
 }
 
 } // namespace
-
-Result<bool> findEmbeddedFile(const QString &pdfPath, const QString &name)
-{
-    return guarded(pdfPath, [&]() -> Result<bool> {
-        const auto files = openPdfFiles(pdfPath);
-        if (!files)
-            return files.error();
-        QPDF pdf;
-        load(pdf, files.value().source);
-        return !FilesOfName(pdf, name).isEmpty();
-    });
-}
 
 Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
                                  const QByteArray &mimeType, const QByteArray &bytes,

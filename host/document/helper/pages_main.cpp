@@ -19,11 +19,6 @@ static void answer(Task task, QDataStream &in, QDataStream &out)
         out << documents::selectPdfPages(source, runs, take<QString>(in));
         break;
     }
-    case Task::FindEmbeddedFile: {
-        const auto path = take<QString>(in);
-        out << findEmbeddedFile(path, take<QString>(in));
-        break;
-    }
     case Task::ReplaceEmbeddedFile: {
         const auto source = take<QString>(in);
         const auto name = take<QString>(in);

@@ -16,7 +16,6 @@ namespace kelvo::documents {
 Result<PdfPages> tidyPdf(const QString &source, const QString &target);
 Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
                             const QString &target);
-Result<bool> findEmbeddedFile(const QString &pdfPath, const QString &name);
 Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
                                  const QByteArray &mimeType, const QByteArray &bytes,
                                  const QString &target);

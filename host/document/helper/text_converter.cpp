@@ -107,20 +107,35 @@ struct MissingCharacter
     int line = 0; // of the text, from 1
 };
 
-// Whether paper shows a character at all, and so a font can be missed: what nobody has
-// assigned, or everybody assigns for himself, is a box everywhere.
-bool isPrinted(gunichar character)
+struct CharacterRange
 {
-    switch (g_unichar_type(character)) {
-    case G_UNICODE_CONTROL:
-    case G_UNICODE_FORMAT:
-    case G_UNICODE_UNASSIGNED:
-    case G_UNICODE_PRIVATE_USE:
-    case G_UNICODE_SURROGATE:
-        return false;
-    default:
-        return true;
-    }
+    gunichar first, last;
+};
+
+// Unicode's Default_Ignorable_Code_Point: what nothing stands for on paper, such as
+// joiners, variation selectors and fillers. Pango draws boxes for some of them.
+constexpr CharacterRange ignorableCharacters[] = {
+    {0x00ad, 0x00ad},   {0x034f, 0x034f},   {0x061c, 0x061c}, {0x115f, 0x1160}, {0x17b4, 0x17b5},
+    {0x180b, 0x180f},   {0x200b, 0x200f},   {0x202a, 0x202e}, {0x2060, 0x206f}, {0x3164, 0x3164},
+    {0xfe00, 0xfe0f},   {0xfeff, 0xfeff},   {0xffa0, 0xffa0}, {0xfff0, 0xfff8}, {0x1bca0, 0x1bca3},
+    {0x1d173, 0x1d17a}, {0xe0000, 0xe0fff},
+};
+
+// Whether paper shows nothing for it, so that no font need have it.
+bool needsNoGlyph(gunichar character)
+{
+    return g_unichar_type(character) == G_UNICODE_CONTROL
+        || std::ranges::any_of(ignorableCharacters, [character](const CharacterRange &range) {
+               return character >= range.first && character <= range.last;
+           });
+}
+
+// Whether Unicode says what it looks like: not what everybody assigns for himself, nor
+// what nobody has assigned.
+bool isStandard(gunichar character)
+{
+    const GUnicodeType type = g_unichar_type(character);
+    return type != G_UNICODE_PRIVATE_USE && type != G_UNICODE_UNASSIGNED;
 }
 
 struct ScriptFonts
@@ -166,6 +181,13 @@ Error noFont(const QString &where, const MissingCharacter &missing)
 {
     const QString code =
         QStringLiteral("%1").arg(uint(missing.character), 4, 16, QLatin1Char('0')).toUpper();
+    if (!isStandard(missing.character)) {
+        return Error{Error::Code::Unsupported, where,
+                     QStringLiteral("no font here has the character U+%1 in line %2, which Unicode "
+                                    "does not define; install the font that the text was written "
+                                    "with, or take the character out")
+                         .arg(code, QString::number(missing.line))};
+    }
     const auto row = std::ranges::find(scriptFonts, g_unichar_get_script(missing.character),
                                        &ScriptFonts::script);
     const bool isKnown = row != std::end(scriptFonts);
@@ -251,26 +273,31 @@ private:
         const int count = pango_layout_get_line_count(m_layout.get());
         const Owned<PangoLayoutIter> iterator(pango_layout_get_iter(m_layout.get()));
         for (int index = 0; index < count; ++index) {
-            PangoLayoutLine *line = pango_layout_iter_get_line_readonly(iterator.get());
+            PangoLayoutLine *line = pango_layout_iter_get_line(iterator.get());
             if (!isLast && index > 0 && index == count - 1)
                 return line->start_index;
-            findMissing(line);
+            replaceBoxes(line);
             addLine(iterator.get(), line);
             pango_layout_iter_next_line(iterator.get());
         }
         return piece.size();
     }
 
-    void findMissing(PangoLayoutLine *line)
+    // What no font has is a box by now: nothing, where it needs no glyph, else missing.
+    void replaceBoxes(PangoLayoutLine *line)
     {
         if (pango_layout_get_unknown_glyphs_count(m_layout.get()) == 0)
             return;
         for (GSList *run = line->runs; run && !m_missing; run = run->next) {
-            const PangoGlyphString *glyphs = static_cast<PangoLayoutRun *>(run->data)->glyphs;
+            PangoGlyphString *glyphs = static_cast<PangoLayoutRun *>(run->data)->glyphs;
             for (int index = 0; index < glyphs->num_glyphs && !m_missing; ++index) {
-                const PangoGlyph glyph = glyphs->glyphs[index].glyph;
-                const gunichar character = glyph & ~PANGO_GLYPH_UNKNOWN_FLAG;
-                if ((glyph & PANGO_GLYPH_UNKNOWN_FLAG) && isPrinted(character))
+                PangoGlyphInfo &info = glyphs->glyphs[index];
+                if (!(info.glyph & PANGO_GLYPH_UNKNOWN_FLAG))
+                    continue;
+                const gunichar character = info.glyph & ~PANGO_GLYPH_UNKNOWN_FLAG;
+                if (needsNoGlyph(character))
+                    info = {PANGO_GLYPH_EMPTY, {}, info.attr};
+                else
                     m_missing = MissingCharacter{character, m_line};
             }
         }
@@ -315,11 +342,13 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
         return canvas.error();
     confineTo(fontFolders());
 
-    const std::optional<QByteArray> text = textFrom(file.readAll());
+    std::optional<QByteArray> text = textFrom(file.readAll());
     if (!text) {
         return Error{Error::Code::Unsupported, files.where,
                      QStringLiteral("this begins like a text but holds bytes that no text has")};
     }
+
+    text->replace("\xc2\x85", "\n"); // the line end of mainframes, U+0085
 
     Typesetter typesetter(canvas.value(), paper);
     QByteArrayView rest(*text);

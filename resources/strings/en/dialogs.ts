@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Window Lacks Controls</source>
-        <translation>The description lacks controls that the window needs.</translation>
+        <translation>The description lacks controls that the window needs: %1</translation>
     </message>
     <!-- Buttons of every dialog -->
     <message>

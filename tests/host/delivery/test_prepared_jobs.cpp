@@ -16,6 +16,7 @@
 
 using namespace kelvo;
 using kelvo::test::pdfOf;
+using kelvo::test::updatedPdf;
 using Code = Error::Code;
 
 // What goes out of the house, before it does.
@@ -31,6 +32,8 @@ private slots:
     void replaceOlderTickets();
     void takeOlderTicketsOutWhereverTheyHang_data();
     void takeOlderTicketsOutWhereverTheyHang();
+    void leaveNothingOfEarlierRevisions_data();
+    void leaveNothingOfEarlierRevisions();
     void keepOtherFiles();
     void refuseTicketsThatCannotBeTakenOut();
     void refuseSecretsWhereTicketsAreNotRead_data();
@@ -336,6 +339,52 @@ void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang()
     QVERIFY(!streamsInside(plain.value().pdfPath).contains("secret"));
 }
 
+using Objects = QMap<int, QByteArray>; // by number
+
+// Objects 4 to 6 of the first revision are the list of files, the ticket's entry and what
+// is in it.
+void TestPreparedJobs::leaveNothingOfEarlierRevisions_data()
+{
+    QTest::addColumn<Objects>("update");
+    QTest::newRow("all overwritten") << Objects{{4, "<< >>"}, {5, "null"}, {6, "null"}};
+    QTest::newRow("only the list overwritten") << Objects{{4, "<< >>"}};
+    QTest::newRow("without a name") << Objects{{4, "<< >>"}, {5, "null"}};
+    QTest::newRow("given another name")
+        << Objects{{5, "<< /Type /Filespec /F (notes.txt) /EF << /F 7 0 R >> >>"}};
+}
+
+void TestPreparedJobs::leaveNothingOfEarlierRevisions()
+{
+    QFETCH(Objects, update);
+    const auto embedded = [](const char *sixBytes) {
+        return QByteArray("<< /Type /EmbeddedFile /Length 6 >>\nstream\n") + sixBytes
+            + "\nendstream";
+    };
+    const QByteArray first = pdfOf(
+        {"<< /Type /Catalog /Pages 2 0 R /Names << /EmbeddedFiles 4 0 R >> >>",
+         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 101 200] >>", "<< /Names [(k) 5 0 R] >>",
+         "<< /Type /Filespec /F (kelvo-ticket.plist) /EF << /F 6 0 R >> >>", embedded("secret"),
+         embedded("notice")});
+    JobRequest wanted = request(readsNot);
+    wanted.document = documentFrom(updatedPdf(first, update));
+    QVERIFY(!wanted.document.isNull() && !wanted.document.isRepaired());
+    wanted.ticket.printSettings.entries.clear();
+
+    for (const QString &ppd : {readsNot, reads}) {
+        m_ppd = PpdFile::open(ppd).value();
+        wanted.ppd = m_ppd.get();
+        const auto job = prepareJob(wanted);
+        QVERIFY2(job, qPrintable(job.reason()));
+        QCOMPARE(namesInside(job.value().pdfPath).contains("kelvo-ticket.plist"), ppd == reads);
+        QVERIFY(!streamsInside(job.value().pdfPath).contains("secret"));
+        QVERIFY(!bytesOf(job.value().pdfPath).contains("secret"));
+        QCOMPARE(streamsInside(job.value().pdfPath).contains("notice"),
+                 update.value(5).contains("notes"));
+        QCOMPARE(pagesOf(job.value().pdfPath), QList<int>{1});
+    }
+}
+
 void TestPreparedJobs::keepOtherFiles()
 {
     // Out of order, two of one name, and one that is only called like a ticket's reader.
@@ -419,7 +468,7 @@ void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
     } else if (ppd != reads) {
         QVERIFY(optionOf(job.value(), "kelvo-ticket").isEmpty());
         QVERIFY(attachmentsOf(job.value().pdfPath).isEmpty());
-        QCOMPARE(bytesOf(job.value().pdfPath), bytesOf(wanted.document.pdfPath()));
+        QCOMPARE(pagesOf(job.value().pdfPath), pagesOf(wanted.document.pdfPath()));
     }
 }
 

@@ -19,6 +19,24 @@ QByteArray pdfOf(const QList<QByteArray> &objects)
         + " /Root 1 0 R >>\nstartxref\n" + start + "\n%%EOF\n";
 }
 
+QByteArray updatedPdf(const QByteArray &pdf, const QMap<int, QByteArray> &objects)
+{
+    QByteArray updated = pdf;
+    QByteArray table;
+    for (auto object = objects.cbegin(); object != objects.cend(); ++object) {
+        const QByteArray number = QByteArray::number(object.key());
+        table += number + " 1\n" + QByteArray::number(updated.size()).rightJustified(10, '0')
+            + " 00000 n \n";
+        updated += number + " 0 obj\n" + *object + "\nendobj\n";
+    }
+    const QByteArray trailer = pdf.sliced(pdf.lastIndexOf("/Size "));
+    const QByteArray size = trailer.first(trailer.indexOf("/Root"));
+    const QByteArray earlier = trailer.sliced(trailer.indexOf("startxref\n") + 10).split('\n')[0];
+    const QByteArray start = QByteArray::number(updated.size());
+    return updated + "xref\n" + table + "trailer\n<< " + size + "/Root 1 0 R /Prev " + earlier
+        + " >>\nstartxref\n" + start + "\n%%EOF\n";
+}
+
 QByteArray stream(const QByteArray &contents)
 {
     return "<< /Length " + QByteArray::number(contents.size()) + " >>\nstream\n" + contents

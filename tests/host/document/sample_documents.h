@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QString>
 
 // Documents for the tests, made of bytes that one can read.
@@ -9,6 +10,10 @@ namespace kelvo::test {
 
 // A sound PDF file of `objects`; the first is number 1, the catalog.
 QByteArray pdfOf(const QList<QByteArray> &objects);
+
+// `pdf`, one of pdfOf(), as saved again by a program that only appends: with other
+// objects of these numbers. The old ones' bytes stay.
+QByteArray updatedPdf(const QByteArray &pdf, const QMap<int, QByteArray> &objects);
 
 // "<< … /Length n >> stream …" of page contents.
 QByteArray stream(const QByteArray &contents);
