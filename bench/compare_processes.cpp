@@ -54,7 +54,7 @@ struct Ratio
     double budget; // 0: for orientation
 };
 
-enum CaseIndex : std::size_t { Ours, QtDialog, Empty, OursWithoutServer };
+enum CaseIndex : std::size_t { Ours, QtDialog, Empty, OursWithoutServer, Earlier };
 
 double median(const std::vector<Sample> &samples, double Sample::*figure)
 {
@@ -172,11 +172,10 @@ int main(int argc, char **argv)
     std::setlocale(LC_NUMERIC, "C");
     const QStringList arguments = QCoreApplication::arguments();
     const int rounds = arguments.size() > 2 ? arguments[2].toInt() : defaultRounds;
-    if (arguments.size() < 2 || arguments.size() > 3 || rounds < 1 || rounds > 1000) {
-        std::fputs("usage: compare_processes KELVO-PRINT [ROUNDS]\n", stderr);
+    if (arguments.size() < 2 || arguments.size() > 4 || rounds < 1 || rounds > 1000) {
+        std::fputs("usage: compare_processes KELVO-PRINT [ROUNDS [EARLIER-KELVO-PRINT]]\n", stderr);
         return 2;
     }
-    const QString program = QFileInfo(arguments[1]).absoluteFilePath();
 
     PrivateCups cups;
     QString problem = cups.start();
@@ -194,25 +193,35 @@ int main(int argc, char **argv)
     // The device's panels stand in the window once their values are there.
     const QByteArray panel("panePDEShell");
     std::vector<Case> cases(4);
-    cases[Ours] = {
-        "kelvo-print on a queue",
-        {program, u"-d"_s, kQueue, QStringLiteral(KELVO_SOURCE_DIR "/resources/demo/document.pdf")},
-        panel,
-        {}};
+    const auto onQueue = [&](const char *name, const QString &program) {
+        return Case{name,
+                    {QFileInfo(program).absoluteFilePath(), u"-d"_s, kQueue,
+                     QStringLiteral(KELVO_SOURCE_DIR "/resources/demo/document.pdf")},
+                    panel,
+                    {}};
+    };
+    cases[Ours] = onQueue("kelvo-print on a queue", arguments[1]);
     cases[QtDialog] = {"Qt's print dialog", {own + u"/qt_print_dialog"_s}, "qtPrintDialog", {}};
     cases[Empty] = {"an empty Qt dialog", {own + u"/empty_dialog"_s}, "emptyDialog", {}};
-    cases[OursWithoutServer] = {"kelvo-print --demo", {program, u"--demo"_s}, panel, {}};
+    cases[OursWithoutServer] = {
+        "kelvo-print --demo", {cases[Ours].command[0], u"--demo"_s}, panel, {}};
+    const bool hasEarlier = arguments.size() > 3;
+    if (hasEarlier)
+        cases.push_back(onQueue("an earlier kelvo-print", arguments[3]));
     if (!measure(cases, rounds,
                  QFile::encodeName(QStringLiteral(KELVO_BUILD_DIR "/bench/first_frame.so"))))
         return 2;
-    return compare(cases,
-                   {{"time", Ours, QtDialog, &Sample::wall, 0.75},
-                    {"cpu time", Ours, QtDialog, &Sample::cpu, 0},
-                    {"peak memory", Ours, QtDialog, &Sample::memory, 1.5},
-                    {"time", OursWithoutServer, QtDialog, &Sample::wall, 0},
-                    {"cpu time", OursWithoutServer, QtDialog, &Sample::cpu, 0},
-                    {"peak memory", OursWithoutServer, QtDialog, &Sample::memory, 0},
-                    {"time", Empty, QtDialog, &Sample::wall, 0},
-                    {"cpu time", Empty, QtDialog, &Sample::cpu, 0},
-                    {"peak memory", Empty, QtDialog, &Sample::memory, 0}});
+    std::vector<Ratio> ratios{{"time", Ours, QtDialog, &Sample::wall, 0.75},
+                              {"cpu time", Ours, QtDialog, &Sample::cpu, 0},
+                              {"peak memory", Ours, QtDialog, &Sample::memory, 1.5}};
+    const auto orient = [&ratios](CaseIndex of, CaseIndex against) {
+        ratios.push_back({"time", of, against, &Sample::wall, 0});
+        ratios.push_back({"cpu time", of, against, &Sample::cpu, 0});
+        ratios.push_back({"peak memory", of, against, &Sample::memory, 0});
+    };
+    orient(OursWithoutServer, QtDialog);
+    orient(Empty, QtDialog);
+    if (hasEarlier)
+        orient(Ours, Earlier);
+    return compare(cases, ratios);
 }

@@ -1,10 +1,11 @@
 #include "page_renderer.h"
 
-#include <QMutex>
-#include <QThread>
-
 #include <atomic>
+#include <condition_variable>
+#include <mutex>
 #include <optional>
+#include <system_error>
+#include <thread>
 
 namespace kelvo {
 
@@ -18,42 +19,58 @@ struct Request
     QSize pixels;
 };
 
-// What the window's thread and the worker share.
-struct Shared
-{
-    QMutex mutex;
-    std::optional<Request> next; // under the mutex
-    // The newest request; a page that is no longer wanted stops being drawn.
-    std::atomic<quint64> wanted = 0;
-};
-
 } // namespace
 
+// The standard's thread and locks, not Qt's: those the thread sanitizer sees.
 struct PageRenderer::Private
 {
-    Shared shared;
     Document document; // the window's side
-    QThread thread;
-    QObject worker; // lives on the thread
+    std::thread thread;
 
-    // On the thread only.
-    QString loadedPath;
-    Document loaded; // keeps the file while it is read
-    std::unique_ptr<PageDrawing> drawing;
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::optional<Request> next; // under the mutex
+    bool isEnding = false;       // under the mutex
+    // The newest request; a page that is no longer wanted stops being drawn.
+    std::atomic<quint64> wanted = 0;
 
-    std::optional<Request> takeRequest()
+    // False when the system has no thread to give.
+    bool provideThread(PageRenderer *renderer)
     {
-        const QMutexLocker lock(&shared.mutex);
-        return std::exchange(shared.next, std::nullopt);
+        if (thread.joinable())
+            return true;
+        try {
+            thread = std::thread([this, renderer] { work(renderer); });
+            return true;
+        } catch (const std::system_error &) {
+            return false;
+        }
     }
 
-    void load(const Document &wanted)
+    // Empty: there is nothing more to do.
+    std::optional<Request> waitForRequest()
     {
-        if (loadedPath == wanted.pdfPath())
-            return;
-        drawing = wanted.isNull() ? nullptr : std::make_unique<PageDrawing>(wanted.pdfPath());
-        loaded = wanted;
-        loadedPath = wanted.pdfPath();
+        std::unique_lock lock(mutex);
+        changed.wait(lock, [this] { return next || isEnding; });
+        return isEnding ? std::nullopt : std::exchange(next, std::nullopt);
+    }
+
+    void work(PageRenderer *renderer)
+    {
+        Document loaded; // keeps the file while it is read
+        std::unique_ptr<PageDrawing> drawing;
+        while (const auto request = waitForRequest()) {
+            if (loaded.pdfPath() != request->document.pdfPath()) {
+                loaded = request->document;
+                drawing =
+                    loaded.isNull() ? nullptr : std::make_unique<PageDrawing>(loaded.pdfPath());
+            }
+            const auto isAbandoned = [this, &request] { return wanted != request->number; };
+            const DrawnPage drawn = drawing
+                ? drawing->draw(request->page, request->pixels, isAbandoned)
+                : DrawnPage{{}, PageProblem::NotDrawable};
+            renderer->tell(request->number, request->page, drawn);
+        }
     }
 };
 
@@ -61,68 +78,55 @@ PageRenderer::PageRenderer(QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Private>())
 {
-    d->worker.moveToThread(&d->thread);
-    d->thread.setObjectName(QStringLiteral("page renderer"));
 }
 
 PageRenderer::~PageRenderer()
 {
     setDocument({}); // stops the page being drawn
-    // A process belongs to the thread that started it. It listens at once: nobody wants
-    // the page that it may be at.
-    if (d->thread.isRunning()) {
-        QMetaObject::invokeMethod(
-            &d->worker, [this] { d->drawing.reset(); }, Qt::BlockingQueuedConnection);
+    if (!d->thread.joinable())
+        return;
+    {
+        const std::lock_guard lock(d->mutex);
+        d->isEnding = true;
     }
-    d->thread.quit();
-    d->thread.wait();
+    d->changed.notify_one();
+    d->thread.join();
 }
 
 void PageRenderer::setDocument(const Document &document)
 {
     d->document = document;
-    ++d->shared.wanted;
-    const QMutexLocker lock(&d->shared.mutex);
-    d->shared.next.reset();
+    ++d->wanted;
+    const std::lock_guard lock(d->mutex);
+    d->next.reset();
 }
 
 void PageRenderer::render(int page, const QSize &pixels)
 {
-    if (!d->thread.isRunning())
-        d->thread.start();
-    if (!d->thread.isRunning()) {
-        // The system has no thread to give; the next page may be luckier.
-        QMetaObject::invokeMethod(
-            this,
-            [this, number = ++d->shared.wanted, page] {
-                if (d->shared.wanted == number)
-                    emit rendered(page, {}, PageProblem::NotDrawable);
-            },
-            Qt::QueuedConnection);
+    const quint64 number = ++d->wanted;
+    if (!d->provideThread(this)) {
+        // The next page may be luckier.
+        tell(number, page, {{}, PageProblem::NotDrawable});
         return;
     }
     {
-        const QMutexLocker lock(&d->shared.mutex);
-        d->shared.next = Request{++d->shared.wanted, d->document, page, pixels};
+        const std::lock_guard lock(d->mutex);
+        d->next = Request{number, d->document, page, pixels};
     }
-    QMetaObject::invokeMethod(&d->worker, [this] {
-        const std::optional<Request> request = d->takeRequest();
-        if (!request)
-            return;
-        d->load(request->document);
-        const auto isAbandoned = [this, number = request->number] {
-            return d->shared.wanted != number;
-        };
-        const DrawnPage drawn = d->drawing
-            ? d->drawing->draw(request->page, request->pixels, isAbandoned)
-            : DrawnPage{{}, PageProblem::NotDrawable};
-        // Told on our own thread, where a newer request can no longer slip in.
-        QMetaObject::invokeMethod(this,
-                                  [this, number = request->number, page = request->page, drawn] {
-                                      if (d->shared.wanted == number)
-                                          emit rendered(page, drawn.image, drawn.problem);
-                                  });
-    });
+    d->changed.notify_one();
+}
+
+// From any thread. Said on our own, where a newer request can no longer slip in, and
+// never from within render().
+void PageRenderer::tell(quint64 number, int page, const DrawnPage &drawn)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, number, page, drawn] {
+            if (d->wanted == number)
+                emit rendered(page, drawn.image, drawn.problem);
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace kelvo

@@ -28,6 +28,8 @@ signals:
     void rendered(int page, const QImage &image, kelvo::PageProblem problem);
 
 private:
+    void tell(quint64 number, int page, const DrawnPage &drawn);
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -6,6 +6,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include <utility>
+
 namespace kelvo {
 
 namespace {
@@ -113,21 +115,37 @@ std::optional<ClosedSvg> closed(const QByteArray &svg, int depth)
     // Names stay as they are written, with their prefixes.
     reader.setNamespaceProcessing(false);
     QXmlStreamWriter writer(&result.bytes);
-    bool isInStyle = false;
+    // A text comes in pieces, and what stands between them is not copied: only the whole
+    // says what it refers to. A style sheet is text alone.
+    QString text;
+    int inStyle = 0; // elements around the text, from the style sheet's own
+    const auto writeText = [&] {
+        if (!text.isEmpty())
+            writer.writeCharacters(std::exchange(text, {}));
+    };
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
-            isInStyle = isNamed(reader.qualifiedName(), QLatin1String("style"));
+            if (inStyle > 0) {
+                ++inStyle;
+                break;
+            }
+            writeText();
+            inStyle = isNamed(reader.qualifiedName(), QLatin1String("style"));
             copyElement(reader, writer, depth, result.leftOut);
             break;
         case QXmlStreamReader::EndElement:
-            isInStyle = false;
+            if (inStyle > 1) {
+                --inStyle;
+                break;
+            }
+            if (std::exchange(inStyle, 0) > 0)
+                text = withoutAddresses(std::move(text), result.leftOut);
+            writeText();
             writer.writeEndElement();
             break;
         case QXmlStreamReader::Characters:
-            writer.writeCharacters(isInStyle
-                                       ? withoutAddresses(reader.text().toString(), result.leftOut)
-                                       : reader.text().toString());
+            text += reader.text();
             break;
         case QXmlStreamReader::ProcessingInstruction:
             result.leftOut +=

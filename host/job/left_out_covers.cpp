@@ -11,11 +11,10 @@ void LeftOutCovers::look(const SpecialSheetKeys &keys, const PPDDictionary &choi
         Side &side = m_sides[i];
         const PpdOption *option = ppd ? ppd->findOption(cover.option) : nullptr;
         // Without a choice the device does what it does by default, and that may be a cover.
-        if (!option || option->defaultChoice != cover.none)
-            side = {};
-        else if (!choices.contains(cover.option))
+        const bool needsChoice = option && option->defaultChoice == cover.none;
+        if (needsChoice && !choices.contains(cover.option))
             side = {Cover::LeftOut, place};
-        else if (choices.value(cover.option) != cover.none)
+        else if (!needsChoice || choices.value(cover.option) != cover.none)
             side = {};
         else if (side.cover == Cover::LeftOut)
             // In the same place the user has taken the cover away.

@@ -111,12 +111,13 @@ PanelPlaces::Place PanelPlaces::current(const Extension &panels) const
 
 void PanelPlaces::goTo(const Place &place, Extension &panels)
 {
-    PopupButton *tabs = selector();
-    const auto rows = tabs ? tabs->menu().items : std::vector<MenuItem>();
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const int row = int(i) + 1;
-        if (rows[i].reference == place.tab && row != tabs->value())
-            tabs->choose(row);
+    if (PopupButton *tabs = selector()) {
+        const auto rows = tabs->menu().items;
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const int row = int(i) + 1;
+            if (rows[i].reference == place.tab && row != tabs->value())
+                tabs->choose(row);
+        }
     }
     for (std::size_t i = 0; i < panels.panels().size(); ++i) {
         if (panels.panels()[i].name == place.panel)

@@ -395,15 +395,15 @@ void TestPreparedJobs::keepOtherFiles()
     const auto stream = [](const char *bytes) {
         return QByteArray("<< /Type /EmbeddedFile /Length 1 >>\nstream\n") + bytes + "\nendstream";
     };
+    const QByteArray link = "<< /Subtype /Link /Rect [0 0 9 9] /Contents (kelvo-ticket.plist) >>";
     JobRequest wanted = request(reads);
-    wanted.document = documentFrom(pdfOf(
-        {"<< /Type /Catalog /Pages 2 0 R /Names << /EmbeddedFiles << /Names [(z) " + file("z", 4)
-             + " (a) " + file("a", 5) + " (a) " + file("b", 6) + " (my-kelvo-ticket.plist) "
-             + file("my-kelvo-ticket.plist", 7) + "] >> >> >>",
-         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
-         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 101 200] /Annots [<< /Subtype /Link /Rect [0 "
-         "0 9 9] /Contents (kelvo-ticket.plist) >>] >>",
-         stream("1"), stream("2"), stream("3"), stream("4")}));
+    wanted.document = documentFrom(
+        pdfOf({"<< /Type /Catalog /Pages 2 0 R /Names << /EmbeddedFiles << /Names [(z) "
+                   + file("z", 4) + " (a) " + file("a", 5) + " (a) " + file("b", 6)
+                   + " (my-kelvo-ticket.plist) " + file("my-kelvo-ticket.plist", 7) + "] >> >> >>",
+               "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+               "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 101 200] /Annots [" + link + "] >>",
+               stream("1"), stream("2"), stream("3"), stream("4")}));
 
     const auto job = prepareJob(wanted);
 

@@ -373,6 +373,10 @@ void TestDocuments::keepsOutOtherFiles_data()
         << true;
     QTest::newRow("style's address")
         << QByteArray("<style>rect{fill:url(FILE)}</style>" + rect) << false << true;
+    QTest::newRow("style's address, in pieces")
+        << QByteArray("<style>rect{fill:url<?x?>(FILE)}</style>" + rect) << false << true;
+    QTest::newRow("style's address, behind an element")
+        << QByteArray("<style><b/>rect{fill:url(FILE)}</style>" + rect) << false << true;
     QTest::newRow("part of another file")
         << QByteArray("<use xlink:href='FILE#a'/>") << false << true;
 

@@ -210,7 +210,8 @@ void TestTicketLayers::presetsKeepWhatWasAskedFor_data()
     QTest::addColumn<TicketFile>("expected");
 
     const TicketFile begun = ticket(byPanels, panelChoices);
-    const auto with = [](TicketFile file, const Values &values, const PPDDictionary &choices = {}) {
+    const auto with = [](const TicketFile &file, const Values &values,
+                         const PPDDictionary &choices = {}) {
         return laid(partOf(values, choices), file, {}, {});
     };
     const QList<TicketFile> untouched{begun};

@@ -118,7 +118,15 @@ struct Shown
     }
     bool waitUntilEnded()
     {
-        return QTest::qWaitFor([this] { return dialog.finished().has_value(); }, 15000);
+        // A print that is refused ends nothing.
+        const auto isOver = [this] {
+            return dialog.finished() || !dialog.lastPrintProblem().isEmpty();
+        };
+        const bool isInTime = QTest::qWaitFor(isOver, 15000);
+        if (!dialog.finished())
+            qWarning("not ended: %s",
+                     isInTime ? qPrintable(dialog.lastPrintProblem()) : "too slow");
+        return dialog.finished().has_value();
     }
     template <typename T>
     T *find(const char *name)
