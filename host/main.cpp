@@ -347,7 +347,7 @@ int runDialog(DialogOptions options)
 
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
-        QString name = line.script.value_or(QStringLiteral("kelvo-print"));
+        QString name = line.script.value_or(QString());
         if (name == QLatin1String("-"))
             name = standardInputName;
         const bool printsAtEnd = line.print || !line.script;
