@@ -95,8 +95,11 @@ Error notFound(const std::vector<Preset> &presets, const QString &name)
     QStringList names;
     for (const Preset &preset : presets)
         names << preset.name;
-    return {Code::NotFound, name,
-            QStringLiteral("there is no preset of this name%1").arg(didYouMean(name, names))};
+    const QString nearest = didYouMean(name, names);
+    const QString there = names.isEmpty() ? QStringLiteral(", nor any other")
+        : nearest.isEmpty()               ? QStringLiteral("; there are ") + shortList(names)
+                                          : nearest;
+    return {Code::NotFound, name, QStringLiteral("there is no preset of this name") + there};
 }
 
 // The preset `name` where it is the user's own.

@@ -584,9 +584,8 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
         return {};
     return LineProblem{
         ExitStatus::Failed,
-        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights "
-                       "(%2)")
-            .arg(file, written.error().detail)};
+        QStringLiteral("the picture \"%1\" cannot be written (%2); %3")
+            .arg(file, written.error().detail, writingAdvice(written.error().number))};
 }
 
 } // namespace kelvo
