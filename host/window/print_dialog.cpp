@@ -599,9 +599,8 @@ QString PrintDialog::findPagesProblem() const
     const auto runs = pageRunsFrom(m_session->settings().pageRanges, count);
     if (runs)
         return {};
-    return runs.error().code == Error::Code::OutOfRange
-        ? tr("The document has pages 1 to %1.").arg(count)
-        : tr("Pages are written like this: 1-3, 7, 9-");
+    const QString detail = runs.error().detail;
+    return detail.left(1).toUpper() + detail.mid(1) + u'.';
 }
 
 void PrintDialog::pressPrint()

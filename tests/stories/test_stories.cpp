@@ -1238,6 +1238,8 @@ void TestStories::refusesWhatCannotBeDone_data()
     row("control disabled", "check @collate off\n", 3, "s.kps:1: @collate");
     row("pages out of range", "choose @pagesChoice key range\ntype @pages \"9\"\nprint\n", 2,
         "s.kps:3: Pages: The document has pages 1 to 6.");
+    row("pages backwards", "choose @pagesChoice key range\ntype @pages \"4-2\"\nprint\n", 2,
+        "s.kps:3: Pages: The last page comes before the first; write 2-4.");
     row("dialog left open", "tab 4\nclick @aboutButton\n", 2, "s.kps:2: the script ends while");
     row("notice not met", "item @presetMenu 'PsSA'\ntype @presetName \"\"\nclick @ok\n", 1,
         "A preset cannot have this name");
