@@ -422,7 +422,7 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
         return wrong(QStringLiteral("%1 is not in %2%3")
                          .arg(line.control->text(), where,
                               nearest.isEmpty()
-                                  ? QString()
+                                  ? QStringLiteral("; \"controls\" lists what is")
                                   : QStringLiteral(", did you mean %1?").arg(nearest)));
     }
     QWidget *control = found.control;
