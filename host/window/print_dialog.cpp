@@ -759,11 +759,16 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
         end(outcome.status);
         return;
     }
-    // What was left alone meanwhile: a fix before the print, say.
+    // What was left alone meanwhile: a fix before the print, say. The printer may have
+    // become another one, too.
     m_look.stop();
     lookAtSettings();
+    if (!m_isDriven)
+        m_session->lookAtPrinter();
     refusePrint(outcome.status, tr("“%1” was not printed").arg(m_session->title()),
                 outcome.problem);
+    if (!m_finished)
+        m_look.start(); // what came while it was told
 }
 
 void PrintDialog::tellSent(const QString &place)
