@@ -439,13 +439,14 @@ int runApplication(int argc, char **argv, const CommandLine &line)
         if (line.destination)
             options.directory->fetchPpd(*line.destination, line.timeoutSeconds * 1000);
     }
-    if (auto bundle = openPanelBundle())
+    if (auto bundle = openPanelBundle()) {
         options.bundle = bundle.value();
-    else
+        // The host's own pages lie there too; the panels register theirs on their devices only.
+        addHelpFolder(options.bundle->resourcesPath() + QStringLiteral("/help"));
+    } else {
         options.bundleProblem =
             QStringLiteral("The device panels are missing (%1).").arg(bundle.error().text());
-    if (const QString help = findSharedFile(QStringLiteral("help")); !help.isEmpty())
-        addHelpFolder(help);
+    }
 
     if (!areThreadsToBeHad->get_future().get())
         return fail(ExitStatus::Failed, noThreadReason());

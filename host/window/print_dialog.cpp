@@ -570,7 +570,7 @@ void PrintDialog::showHelp()
     if (const Extension *panels = m_session->panels(); panels && panels->shownPanel() >= 0)
         event.source = panels->panels()[static_cast<std::size_t>(panels->shownPanel())].pane;
     if (sendEvent(event) == eventNotHandledErr)
-        DisplayHelp({}, this);
+        kelvo::showHelp({}, this);
 }
 
 // ---- print

@@ -101,6 +101,7 @@ private slots:
     void cutsPagesOnlyOnce();
     void refusesASecretThatWouldLieOpen_data();
     void refusesASecretThatWouldLieOpen();
+    void saysThatThereIsNoHelp();
     void printsOtherMakersDevicesWithoutPanels_data();
     void printsOtherMakersDevicesWithoutPanels();
     void readsScriptsFromAPipeToTheirEnd();
@@ -429,6 +430,15 @@ void TestStories::refusesASecretThatWouldLieOpen()
                  QString());
     else
         QVERIFY(!job.options.contains(ticketOption));
+}
+
+void TestStories::saysThatThereIsNoHelp()
+{
+    Desk desk;
+    desk.set("KELVO_BUNDLE", "gone"); // the pages lie in it
+    write(desk.path("help.kps"),
+          "click @help\nexpect-notice \"The folder with the help pages is missing.\"\nanswer 1\n");
+    QENDED(desk.run({"--demo", "--no-window", "--script", "help.kps"}), 0);
 }
 
 void TestStories::printsOtherMakersDevicesWithoutPanels_data()
