@@ -33,6 +33,12 @@ std::optional<int> wholeNumber(const QString &text, int minimum, int maximum)
     return number;
 }
 
+// How many pages there are is known later; the form is known now.
+Result<std::vector<PageRun>> runsOf(const QString &pages)
+{
+    return pageRunsFrom(pages, std::numeric_limits<int>::max());
+}
+
 QString notANumber(const QString &value, int minimum, int maximum)
 {
     return QStringLiteral("\"%1\" is not a whole number from %2 to %3")
@@ -94,6 +100,14 @@ Result<void> takeCopies(CommandLine &line, const QString &value, const QString &
     return {};
 }
 
+// Names of options are found in any case.
+constexpr char copiesOption[] = "copies", pageRangesOption[] = "page-ranges";
+
+bool isNamed(const QPair<QString, QString> &option, const char *name)
+{
+    return option.first.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+}
+
 // What lp knows without a value.
 std::optional<QPair<QString, QString>> orientationWord(const QString &word)
 {
@@ -118,6 +132,10 @@ Result<void> takeOption(CommandLine &line, const QString &value, const QString &
                                           "choose a paper that holds them, -o media=NAME"));
         if (!named || named->second.isEmpty())
             return refused(where, QStringLiteral("\"%1\" is not NAME=VALUE").arg(word));
+        if (isNamed(*named, pageRangesOption)) {
+            if (const auto runs = runsOf(named->second); !runs)
+                return refused(where, runs.error().text());
+        }
         line.options.append(*named);
     }
     return {};
@@ -125,11 +143,11 @@ Result<void> takeOption(CommandLine &line, const QString &value, const QString &
 
 Result<void> takePages(CommandLine &line, const QString &value, const QString &where)
 {
-    // How many pages there are is known later; the form is known now.
-    const auto runs = pageRunsFrom(value, std::numeric_limits<int>::max());
-    if (value.trimmed().isEmpty() || !runs)
+    if (value.trimmed().isEmpty())
         return refused(where,
                        QStringLiteral("\"%1\" is not a list of pages such as 1-3,7,9-").arg(value));
+    if (const auto runs = runsOf(value); !runs)
+        return refused(where, runs.error().text());
     line.pages = value;
     return {};
 }
@@ -234,6 +252,39 @@ Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
     return {};
 }
 
+// The last -o of this name, which beats the earlier ones.
+std::optional<QString> lastOption(const CommandLine &line, const char *name)
+{
+    std::optional<QString> value;
+    for (const auto &option : line.options) {
+        if (isNamed(option, name))
+            value = option.second;
+    }
+    return value;
+}
+
+// -n and -P beat the same said with -o, wherever they stand. Whoever says two things
+// would lose one of them.
+std::optional<Error> findTwoValues(const CommandLine &line)
+{
+    const auto twice = [](const char *option, const QString &value, const char *name,
+                          const QString &other) {
+        return refused(QStringLiteral("%1 %2").arg(QLatin1String(option), value),
+                       QStringLiteral("-o %1=%2 says something else; leave out one of them")
+                           .arg(QLatin1String(name), other));
+    };
+    const auto copies = lastOption(line, copiesOption);
+    if (line.copies && copies && wholeNumber(*copies, 1, maximumCopies) != line.copies)
+        return twice("-n", QString::number(*line.copies), copiesOption, *copies);
+    const auto pages = lastOption(line, pageRangesOption);
+    if (!line.pages || !pages)
+        return std::nullopt;
+    const auto runs = runsOf(*line.pages), others = runsOf(*pages); // well written, both
+    if (runs.value() != others.value())
+        return twice("-P", *line.pages, pageRangesOption, *pages);
+    return std::nullopt;
+}
+
 // What is wrong with options that are right by themselves.
 std::optional<Error> findClash(const CommandLine &line)
 {
@@ -256,7 +307,7 @@ std::optional<Error> findClash(const CommandLine &line)
         return refused(QStringLiteral("--script -"),
                        QStringLiteral("standard input is the document already; name one of them "
                                       "as a file"));
-    return std::nullopt;
+    return findTwoValues(line);
 }
 
 } // namespace

@@ -116,11 +116,24 @@ int endAfterBackgroundWork(int status)
     return status;
 }
 
+// What is wrong with a file that `option` names and that could not be read at all.
+QString inputProblem(const QString &option, const Error &error, const char *advice)
+{
+    if (error.code == Error::Code::NotFound)
+        return QStringLiteral("%1: there is no file %2; %3")
+            .arg(option, error.where, QLatin1String(advice));
+    if (error.code == Error::Code::NotReadable)
+        return QStringLiteral("%1: %2 cannot be read (%3); name a file that you may read")
+            .arg(option, error.where, error.detail);
+    return QStringLiteral("%1: %2").arg(option, error.text());
+}
+
 // What is wrong with a ticket, after its name: "(line 1: …)".
 QString ticketProblem(const QString &path, const Error &error)
 {
     if (error.code != Error::Code::Damaged && error.code != Error::Code::WrongType)
-        return error.text();
+        return inputProblem(QStringLiteral("--ticket-in"), error,
+                            "check its name, or write one with --ticket-out");
     QString reason = error.text();
     if (reason.startsWith(path))
         reason.remove(0, path.size());
@@ -240,16 +253,21 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
     for (auto secret = line.secretFiles.cbegin(); secret != line.secretFiles.cend(); ++secret) {
         const auto text = readSecret(secret.value());
         if (!text)
-            return Failure{ExitStatus::WrongUsage, text.error().text()};
+            return Failure{ExitStatus::WrongUsage,
+                           inputProblem(QStringLiteral("--secret"), text.error(),
+                                        "check its name, or write the secret into it")};
         protectSecrets();
         secrets.insert(secret.key(), text.value());
     }
     if (line.script) {
         auto lines = readScript(*line.script);
+        if (!lines && lines.error().code == Error::Code::Damaged)
+            return Failure{ExitStatus::WrongUsage, lines.error().text(), true};
         if (!lines)
             return Failure{lines.error().code == Error::Code::Cancelled ? ExitStatus::Cancelled
                                                                         : ExitStatus::WrongUsage,
-                           lines.error().text(), true};
+                           inputProblem(QStringLiteral("--script"), lines.error(),
+                                        "check its name, or give - for standard input")};
         script = std::move(lines).value();
     }
     if (line.ticketIn) {
@@ -276,7 +294,10 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
     if (!devicePath.isEmpty()) {
         auto device = PpdFile::open(devicePath);
         if (!device)
-            return Failure{ExitStatus::NoDestination, device.error().text()};
+            return Failure{
+                ExitStatus::NoDestination,
+                inputProblem(line.demo ? QStringLiteral("--demo") : QStringLiteral("--ppd"),
+                             device.error(), "check its name, or name a queue with -d")};
         options.device = std::move(device).value();
     }
     DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
@@ -292,7 +313,9 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
                                           "`kelvo-print --help` says more.")};
     } else if (!fileStatus(line.file)) {
         return Failure{ExitStatus::Failed,
-                       QStringLiteral("%1: there is no such document").arg(line.file)};
+                       QStringLiteral("%1: there is no such document; check its name, or the "
+                                      "folder that it is looked for in (%2)")
+                           .arg(line.file, QDir::currentPath())};
     }
     options.document = source;
     return std::nullopt;
@@ -347,7 +370,7 @@ int runDialog(DialogOptions options)
 
     if (line.script || line.noWindow) {
         dialog.setDriven(true);
-        QString name = line.script.value_or(QStringLiteral("kelvo-print"));
+        QString name = line.script.value_or(QString());
         if (name == QLatin1String("-"))
             name = standardInputName;
         const bool printsAtEnd = line.print || !line.script;
@@ -416,13 +439,14 @@ int runApplication(int argc, char **argv, const CommandLine &line)
         if (line.destination)
             options.directory->fetchPpd(*line.destination, line.timeoutSeconds * 1000);
     }
-    if (auto bundle = openPanelBundle())
+    if (auto bundle = openPanelBundle()) {
         options.bundle = bundle.value();
-    else
+        // The host's own pages lie there too; the panels register theirs on their devices only.
+        addHelpFolder(options.bundle->resourcesPath() + QStringLiteral("/help"));
+    } else {
         options.bundleProblem =
             QStringLiteral("The device panels are missing (%1).").arg(bundle.error().text());
-    if (const QString help = findSharedFile(QStringLiteral("help")); !help.isEmpty())
-        addHelpFolder(help);
+    }
 
     if (!areThreadsToBeHad->get_future().get())
         return fail(ExitStatus::Failed, noThreadReason());

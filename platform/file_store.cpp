@@ -233,6 +233,21 @@ Result<StoreContent> readStore(const QString &path)
 
 } // namespace
 
+QString writingAdvice(int number)
+{
+    switch (number) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return QStringLiteral("make room there, or name another place");
+    case EACCES:
+    case EPERM:
+        return QStringLiteral("change the rights there, or name a place that you may write to");
+    default:
+        return QStringLiteral("name another place");
+    }
+}
+
 Result<QByteArray> readFile(const QString &path, qint64 limit)
 {
     struct stat status;

@@ -13,6 +13,10 @@
 // nothing; a crash, a kill or a full disk leaves the old file or the new one.
 namespace kelvo {
 
+// What the user can do about a file or folder that could not be written, by the system's
+// errno: the end of a sentence, "make room there".
+QString writingAdvice(int number);
+
 // A whole file, at most `limit` bytes, a regular file. Readers take no lock:
 // writers only rename complete files.
 Result<QByteArray> readFile(const QString &path, qint64 limit);

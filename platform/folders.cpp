@@ -8,13 +8,16 @@ namespace kelvo {
 
 namespace {
 
-// The folder named by an environment variable, without a trailing slash; empty
-// when the variable is missing, empty or not an absolute path (a relative one
-// would depend on where the program was started).
+// A folder of the environment, without a trailing slash; empty where it is no absolute
+// path (a relative one would depend on where the program was started).
+QString absoluteFolder(const QString &path)
+{
+    return QDir::isAbsolutePath(path) ? QDir::cleanPath(path) : QString();
+}
+
 QString folderFrom(const char *variable)
 {
-    const QString path = qEnvironmentVariable(variable);
-    return QDir::isAbsolutePath(path) ? QDir::cleanPath(path) : QString();
+    return absoluteFolder(qEnvironmentVariable(variable));
 }
 
 QString folderBelow(const QString &folder, const QString &name)
@@ -47,10 +50,17 @@ QString localApplicationSupportFolder()
     return folderBelow(folderFrom("HOME"), QStringLiteral(".local/share"));
 }
 
-QString siteFolder()
+QStringList siteFolders()
 {
-    const QString chosen = folderFrom("KELVO_SITE_DIR");
-    return chosen.isEmpty() ? QStringLiteral("/etc/xdg/kelvo") : chosen;
+    if (const QString chosen = folderFrom("KELVO_SITE_DIR"); !chosen.isEmpty())
+        return {chosen};
+    QStringList folders;
+    const QStringList configs = qEnvironmentVariable("XDG_CONFIG_DIRS").split(u':');
+    for (const QString &config : configs) {
+        if (const QString folder = absoluteFolder(config); !folder.isEmpty())
+            folders << folderBelow(folder, QStringLiteral("kelvo"));
+    }
+    return folders.isEmpty() ? QStringList{QStringLiteral("/etc/xdg/kelvo")} : folders;
 }
 
 } // namespace kelvo

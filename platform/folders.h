@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // Where files live. Every path ends without a slash; nothing is created here.
 namespace kelvo {
@@ -13,7 +14,8 @@ QString userPreferencesFolder();
 // maker folder "Kelvo" lies inside.
 QString localApplicationSupportFolder();
 
-// $KELVO_SITE_DIR, else /etc/xdg/kelvo: what administrators deploy, read-only.
-QString siteFolder();
+// $KELVO_SITE_DIR alone, else "kelvo" in each of $XDG_CONFIG_DIRS, else /etc/xdg/kelvo: what
+// administrators deploy, read-only. An earlier folder's file beats a later one's.
+QStringList siteFolders();
 
 } // namespace kelvo

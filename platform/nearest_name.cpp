@@ -52,9 +52,8 @@ QString didYouMean(const QString &name, const QStringList &candidates)
 
 QString shortList(const QStringList &names)
 {
-    constexpr qsizetype most = 12;
-    QString list = names.mid(0, most).join(QStringLiteral(", "));
-    if (names.size() > most)
+    QString list = names.mid(0, kShortListLength).join(QStringLiteral(", "));
+    if (names.size() > kShortListLength)
         list += QStringLiteral(", …");
     return list;
 }

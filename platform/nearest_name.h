@@ -13,7 +13,8 @@ QString nearestName(const QString &name, const QStringList &candidates);
 // ", did you mean NAME?" or nothing: the end of a sentence.
 QString didYouMean(const QString &name, const QStringList &candidates);
 
-// The first twelve names, and "…" where there are more.
+// The first of the names, and "…" where there are more.
+inline constexpr qsizetype kShortListLength = 12; // names
 QString shortList(const QStringList &names);
 
 } // namespace kelvo

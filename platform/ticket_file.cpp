@@ -6,6 +6,12 @@
 
 #include <QFileInfo>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
 #include <array>
 
 namespace kelvo {
@@ -242,12 +248,23 @@ Result<void> checkTicketTarget(const QString &path)
     const auto inFolder = fileStatus(folder);
     if (!inFolder || !S_ISDIR(inFolder->st_mode))
         return Error{Code::NotWritable, path,
-                     QStringLiteral("the folder %1 does not exist").arg(folder)};
+                     QStringLiteral("the folder %1 does not exist; make it first, or name another "
+                                    "file")
+                         .arg(folder)};
+    if (::access(fileNameBytes(folder).constData(), W_OK | X_OK) != 0) {
+        const int reason = errno;
+        return Error{
+            Code::NotWritable, path,
+            QStringLiteral("nothing can be written into the folder %1 (%2); %3")
+                .arg(folder, QString::fromUtf8(std::strerror(reason)), writingAdvice(reason)),
+            reason};
+    }
     const auto target = fileStatus(path);
     if (!target)
         return {};
     if (!S_ISREG(target->st_mode))
-        return Error{Code::Refused, path, QStringLiteral("this is not a regular file")};
+        return Error{Code::Refused, path,
+                     QStringLiteral("this is not a regular file; name another one")};
     if (target->st_size == 0 || readTicketFile(path))
         return {};
     return Error{Code::Refused, path,

@@ -83,6 +83,8 @@ public:
         colourLinks();
     }
 
+    void sayMissing(const QString &page) { say(words("The help has no page \"%1\".").arg(page)); }
+
     // Dark themes often leave links the dark blue of white pages.
     void colourLinks()
     {
@@ -108,7 +110,7 @@ protected:
         if (!url.isLocalFile())
             say(words("This address is outside the help: %1").arg(url.toDisplayString()));
         else if (!isHelpFile(url.toLocalFile()))
-            say(words("The help has no page \"%1\".").arg(url.fileName()));
+            sayMissing(url.fileName());
         else {
             say({});
             QTextBrowser::doSetSource(url, type);
@@ -174,6 +176,8 @@ public:
     {
         if (page.isValid())
             m_browser->setSource(page);
+        else
+            m_browser->sayMissing(QString::fromLatin1(contentsPage));
     }
 
     // A window is usable while a modal dialog is open only when that dialog owns
@@ -269,11 +273,16 @@ OSStatus showHelp(const QString &page, QWidget *parent)
     const OSStatus status = DisplayHelp(page, parent);
     if (status == noErr)
         return status;
+    const QStringList folders = helpFolders().all();
+    const QString missing = folders.isEmpty()
+        ? words("The folder with the help pages is missing.")
+        : words("The page “%1” is missing in %2.")
+              .arg(page.isEmpty() ? QString::fromLatin1(contentsPage) : page,
+                   folders.join(QStringLiteral(", ")));
     CFUserNotificationDisplayNotice(
         NoticeLevel::Caution, words("There is no help for this"),
-        words("The page “%1” is missing. Install the software again, or tell your administrator.")
-            .arg(page),
-        {}, parent);
+        missing + u' ' + words("Install the software again, or tell your administrator."), {},
+        parent);
     return status;
 }
 

@@ -19,7 +19,8 @@ OSStatus AHRegisterHelpBook(CFBundleRef bundle);
 // while a modal dialog is open, and stays when that closes.
 OSStatus DisplayHelp(const QString &page = {}, QWidget *parent = nullptr);
 
-// The same for a button or a key: where there is no such page a notice says so first.
+// The same for a button or a key: where there is no such page a notice says so, and in
+// which folders it was looked for.
 OSStatus showHelp(const QString &page, QWidget *parent);
 
 // An additional folder of help pages, asked after the books: the host's own.

@@ -268,6 +268,29 @@ InputProblem findProblem(const QString &text, const InputLimits &limits)
     return InputProblem::None;
 }
 
+QString inWords(const InputLimits &limits)
+{
+    QString characters = QStringLiteral("characters");
+    if (limits.allowed == InputLimits::decimalDigits()) {
+        characters = QStringLiteral("digits");
+    } else if (limits.allowed) {
+        constexpr qsizetype mostListed = 40;
+        QList<char32_t> sorted = limits.allowed->values();
+        std::ranges::sort(sorted);
+        characters = sorted.size() <= mostListed
+            ? QStringLiteral("characters of \"%1\"")
+                  .arg(QString::fromUcs4(sorted.constData(), sorted.size()))
+            : limits.ascii() ? QStringLiteral("ASCII characters")
+                             : QStringLiteral("characters of a certain set");
+    }
+    const QString most = QString::number(limits.maximumLength);
+    if (limits.maximumLength < 0)
+        return limits.allowed ? QStringLiteral("only ") + characters : QString();
+    return limits.minimumLength > 0
+        ? QStringLiteral("%1 to %2 %3").arg(QString::number(limits.minimumLength), most, characters)
+        : QStringLiteral("at most %1 %2").arg(most, characters);
+}
+
 QString withinLimits(const QString &typed, const InputLimits &limits)
 {
     QString kept;

@@ -31,6 +31,9 @@ enum class InputProblem { None, TooShort, TooLong, BadCharacter };
 // The first thing wrong with `text`, characters before lengths.
 [[nodiscard]] InputProblem findProblem(const QString &text, const InputLimits &limits);
 
+// What such a field takes, for a script's author: "1 to 12 digits". Empty without limits.
+QString inWords(const InputLimits &limits);
+
 // What of `typed` may stand: characters that are not allowed are left out or have
 // a substitute, the rest is cut at the maximum. Used for typing and pasting.
 QString withinLimits(const QString &typed, const InputLimits &limits);

@@ -32,7 +32,9 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
+#include <map>
 
 // What Qt's own test library presses keys with: it asks the shortcuts first. Qt
 // exports it, but only the test library's header declares it.
@@ -67,14 +69,59 @@ Done notOffered(const QWidget *control, const QString &why)
     return Problem{Failure::NotOffered, QStringLiteral("%1 %2").arg(nameOf(control), why)};
 }
 
+template <typename Kind>
+bool is(const QWidget *control)
+{
+    return qobject_cast<const Kind *>(control) != nullptr;
+}
+
+bool isCheckable(const QWidget *control)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(control);
+    return button && button->isCheckable();
+}
+
+// What a script can do with a kind of control. The first row that fits counts.
+struct KindRow
+{
+    bool (*fits)(const QWidget *control);
+    const char *commands;
+};
+constexpr KindRow kindRows[] = {
+    {is<PopupButton>, "choose, item"},
+    {is<MenuButton>, "item, choose"},
+    {is<HistoryField>, "choose, type"},
+    {is<QComboBox>, "choose"},
+    {is<SpinField>, "set, type"},
+    {is<TimeField>, "time"},
+    {is<QAbstractSlider>, "set"},
+    {is<RadioGroup>, "set"},
+    {is<TabControl>, "set"},
+    {is<ListView>, "select, double-click"},
+    {is<QLineEdit>, "type"},
+    {is<QPlainTextEdit>, "type"},
+    {isCheckable, "check, click"},
+    {is<QAbstractButton>, "click"},
+};
+
+// "; it takes set, type": the end of a sentence about what cannot be done with it.
+QString whatItTakes(const QWidget *control)
+{
+    const auto row = std::ranges::find_if(
+        kindRows, [control](const KindRow &each) { return each.fits(control); });
+    return row == std::end(kindRows)
+        ? QString()
+        : QStringLiteral("; it takes %1").arg(QLatin1String(row->commands));
+}
+
 Done wrongKind(const QWidget *control, const QString &what)
 {
     return Problem{Failure::WrongKind,
-                   QStringLiteral("%1 is a %2 and %3")
+                   QStringLiteral("%1 is a %2 and %3%4")
                        .arg(nameOf(control),
                             QString::fromLatin1(control->metaObject()->className())
                                 .section(QStringLiteral("::"), -1),
-                            what)};
+                            what, whatItTakes(control))};
 }
 
 // Why the user could not use the control now; none when it can be used.
@@ -120,17 +167,81 @@ bool isNamed(const MenuItem &item, const ItemName &name)
     return false;
 }
 
+QString charactersOf(OSType code)
+{
+    QString characters;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        characters += QChar(static_cast<char16_t>(code >> shift & 0xff));
+    return characters;
+}
+
+QString quoted(const QString &text)
+{
+    return QStringLiteral("\"%1\"").arg(text);
+}
+
+QStringList textsOf(const std::vector<const MenuItem *> &items)
+{
+    QStringList texts;
+    for (const MenuItem *item : items) {
+        if (!item->divider)
+            texts << item->text;
+    }
+    return texts;
+}
+
+// As a script names them; numbers and codes with the text that tells what they are.
 QStringList namesOf(const std::vector<const MenuItem *> &items, ItemName::By by)
 {
     QStringList names;
     for (const MenuItem *item : items) {
-        if (item->divider)
+        if (item->divider || (by == ItemName::By::Key && item->key.isEmpty()))
             continue;
-        names << (by == ItemName::By::Reference ? QString::number(item->reference)
+        names << (by == ItemName::By::Reference ? ItemName{by, item->reference, {}, 0}.description()
+                          + u' ' + quoted(item->text)
                       : by == ItemName::By::Key ? item->key
-                                                : item->text);
+                                                : quoted(item->text));
     }
     return names;
+}
+
+// Each command once, with the first item that carries it.
+QStringList commandsOf(const std::vector<const MenuItem *> &items)
+{
+    QStringList commands;
+    std::map<OSType, qsizetype> places;
+    for (const MenuItem *item : items) {
+        if (item->divider || item->command == kNoCommand)
+            continue;
+        const auto [place, isNew] = places.insert({item->command, commands.size()});
+        if (isNew)
+            commands << QStringLiteral("'%1' %2").arg(charactersOf(item->command),
+                                                      quoted(item->text));
+        else if (!commands[place->second].endsWith(u'…'))
+            commands[place->second] += QStringLiteral(" …");
+    }
+    return commands;
+}
+
+// "; it has A, B, …", and where a script sees the rest.
+QString whatItHas(const QWidget *control, const QStringList &names)
+{
+    if (names.isEmpty())
+        return {};
+    return QStringLiteral("; it has ") + shortList(names)
+        + (names.size() > kShortListLength
+               ? QStringLiteral(" (\"show %1\" lists them all)").arg(nameOf(control))
+               : QString());
+}
+
+// `items` are all that carry the same.
+Done severalItems(const QWidget *control, const QString &what,
+                  const std::vector<const MenuItem *> &items)
+{
+    return Problem{
+        Failure::BadValue,
+        QStringLiteral("several items of %1 carry %2; name one of them by key, text or row: %3")
+            .arg(nameOf(control), what, shortList(namesOf(items, ItemName::By::Text)))};
 }
 
 // The one item that `name` means among `items`; the problem says what there is.
@@ -150,36 +261,35 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
                            QStringLiteral("has %1 rows, not %2").arg(items.size()).arg(name.row))};
         return {items[name.row - 1], {}};
     }
-    const MenuItem *found = nullptr;
-    for (const MenuItem *item : items) {
-        if (!isNamed(*item, name))
-            continue;
-        if (found)
-            return {
-                nullptr,
-                Problem{Failure::BadValue,
-                        QStringLiteral("several rows of %1 carry %2; name one by key, text or row")
-                            .arg(nameOf(control), name.description())}};
-        found = item;
-    }
-    if (found)
-        return {found, {}};
-    const QStringList names = namesOf(items, name.by);
-    const QString wanted =
-        name.by == ItemName::By::Reference ? QString::number(name.reference) : name.text;
-    QString why = QStringLiteral("has no item %1").arg(name.description());
-    const QString nearest = nearestName(wanted, names);
-    if (!nearest.isEmpty())
-        why += QStringLiteral(", the nearest is %1").arg(nearest);
-    else if (!names.isEmpty())
-        why += QStringLiteral("; it has %1").arg(shortList(names));
-    return {nullptr, notOffered(control, why)};
+    std::vector<const MenuItem *> found;
+    std::ranges::copy_if(items, std::back_inserter(found),
+                         [&name](const MenuItem *item) { return isNamed(*item, name); });
+    if (found.size() > 1)
+        return {nullptr, severalItems(control, name.description(), found)};
+    if (!found.empty())
+        return {found.front(), {}};
+    // A number that looks like another one is none the nearer.
+    QString nearest;
+    if (name.by == ItemName::By::Key)
+        nearest = nearestName(name.text, namesOf(items, name.by));
+    else if (name.by == ItemName::By::Text)
+        nearest = nearestName(name.text, textsOf(items));
+    return {
+        nullptr,
+        notOffered(control,
+                   QStringLiteral("has no item %1").arg(name.description())
+                       + (nearest.isEmpty() ? whatItHas(control, namesOf(items, name.by))
+                                            : QStringLiteral(", the nearest is %1").arg(nearest)))};
 }
 
 Done chooseMenuItem(QWidget *control, const MenuItem &item)
 {
-    if (item.divider || !item.submenu.empty())
-        return notOffered(control, QStringLiteral("cannot choose \"%1\"").arg(item.text));
+    if (item.divider)
+        return notOffered(control, QStringLiteral("has a divider there, which cannot be chosen"));
+    if (!item.submenu.empty())
+        return notOffered(
+            control,
+            QStringLiteral("opens a submenu with \"%1\"; choose an item in it").arg(item.text));
     if (!item.enabled)
         return notOffered(control, QStringLiteral("offers \"%1\" only disabled").arg(item.text));
     bool chosen = false;
@@ -203,7 +313,9 @@ Done chooseText(QComboBox *box, const ItemName &name)
     for (int i = 0; i < box->count(); ++i)
         rows.push_back({.text = box->itemText(i), .reference = i + 1});
     if (name.by == ItemName::By::Key || name.by == ItemName::By::Reference)
-        return wrongKind(box, QStringLiteral("its items have no values; name one by text or row"));
+        return Problem{Failure::WrongKind,
+                       QStringLiteral("the items of %1 have no values; name one by text or row")
+                           .arg(nameOf(box))};
     std::vector<const MenuItem *> items;
     collect(rows, items);
     const FoundItem found = findItem(box, items, name);
@@ -324,10 +436,7 @@ QJsonArray describeItems(const std::vector<MenuItem> &items)
             if (!item.key.isEmpty())
                 object[QStringLiteral("key")] = item.key;
             if (item.command != kNoCommand) {
-                QString code;
-                for (int shift = 24; shift >= 0; shift -= 8)
-                    code += QChar(static_cast<char16_t>(item.command >> shift & 0xff));
-                object[QStringLiteral("command")] = code;
+                object[QStringLiteral("command")] = charactersOf(item.command);
             }
             if (!item.enabled)
                 object[QStringLiteral("enabled")] = false;
@@ -439,15 +548,20 @@ FoundItem findCommand(QWidget *control, OSType command, const std::optional<Item
     collect(menu->items, all);
     std::copy_if(all.begin(), all.end(), std::back_inserter(items),
                  [command](const MenuItem *item) { return item->command == command; });
+    const QString code = QStringLiteral("'%1'").arg(charactersOf(command));
+    if (items.empty()) {
+        const QStringList commands = commandsOf(all);
+        return {nullptr,
+                notOffered(control,
+                           QStringLiteral("has no item with the command %1").arg(code)
+                               + (commands.isEmpty()
+                                      ? QStringLiteral("; its items have none, choose picks them")
+                                      : whatItHas(control, commands)))};
+    }
     if (name)
         return findItem(control, items, *name);
-    if (items.empty())
-        return {nullptr, notOffered(control, QStringLiteral("has no item with that command"))};
     if (items.size() > 1)
-        return {nullptr,
-                Problem{Failure::BadValue,
-                        QStringLiteral("several items of %1 carry that command; say which")
-                            .arg(nameOf(control))}};
+        return {nullptr, severalItems(control, code, items)};
     return {items.front(), {}};
 }
 
@@ -479,17 +593,46 @@ Done check(QWidget *control, bool on)
     if (Done problem = unusable(control))
         return problem;
     auto *button = qobject_cast<QAbstractButton *>(control);
-    if (!button || !button->isCheckable())
+    if (!isCheckable(control))
         return wrongKind(control, QStringLiteral("cannot be checked"));
     if (button->isChecked() != on)
         button->click();
     return {};
 }
 
+namespace {
+
+bool isReadOnly(const QWidget *control)
+{
+    const QVariant readOnly = control->property("readOnly");
+    return readOnly.isValid() && readOnly.toBool();
+}
+
+// What can be typed into a field, in words; empty when that is anything.
+QString typedInto(const QWidget *control)
+{
+    if (const auto *spin = qobject_cast<const SpinField *>(control)) {
+        const auto number = [spin](int value) {
+            return QString::number(value / std::pow(10.0, spin->decimals()), 'f', spin->decimals());
+        };
+        return QStringLiteral("numbers from %1 to %2")
+            .arg(number(spin->minimum()), number(spin->maximum()));
+    }
+    InputLimits limits = inputLimits(control).value_or(InputLimits());
+    const auto *line = qobject_cast<const QLineEdit *>(control);
+    if (line && limits.maximumLength < 0)
+        limits.maximumLength = line->maxLength();
+    return inWords(limits);
+}
+
+} // namespace
+
 Done type(QWidget *control, const QString &text)
 {
     if (Done problem = unusable(control))
         return problem;
+    if (isReadOnly(control))
+        return notOffered(control, QStringLiteral("is read-only"));
     bool taken = false;
     if (auto *spin = qobject_cast<SpinField *>(control))
         taken = spin->typeText(text);
@@ -502,9 +645,10 @@ Done type(QWidget *control, const QString &text)
     if (taken)
         return {};
     // A refused text may be a secret: it is not repeated.
-    return Problem{Failure::NotOffered,
-                   QStringLiteral("%1 does not take the whole text; its limits allow less")
-                       .arg(nameOf(control))};
+    const QString takes = typedInto(control);
+    return notOffered(control,
+                      QStringLiteral("does not take the whole text")
+                          + (takes.isEmpty() ? QString() : QStringLiteral("; it takes ") + takes));
 }
 
 Done typeSecret(QWidget *control, const QString &text)
@@ -521,6 +665,13 @@ Done set(QWidget *control, int value)
         return notOffered(
             control, QStringLiteral("goes from %1 to %2, not to %3").arg(from).arg(to).arg(value));
     };
+    const auto notOfferedOf = [control, value](const QString &part, int count) {
+        return notOffered(
+            control,
+            value < 1 || value > count
+                ? QStringLiteral("has %1s 1 to %2, not %3").arg(part).arg(count).arg(value)
+                : QStringLiteral("offers %1 %2 only disabled").arg(part).arg(value));
+    };
     if (auto *spin = qobject_cast<SpinField *>(control)) {
         if (value < spin->minimum() || value > spin->maximum())
             return outside(spin->minimum(), spin->maximum());
@@ -532,14 +683,10 @@ Done set(QWidget *control, int value)
         slider->setSliderPosition(value); // as dragging does: an action, then the value
     } else if (auto *radios = qobject_cast<RadioGroup *>(control)) {
         if (!radios->choose(value))
-            return notOffered(
-                control,
-                QStringLiteral("does not offer button %1 of %2").arg(value).arg(radios->count()));
+            return notOfferedOf(QStringLiteral("button"), radios->count());
     } else if (auto *tabs = qobject_cast<TabControl *>(control)) {
         if (!tabs->choose(value))
-            return notOffered(
-                control,
-                QStringLiteral("does not offer tab %1 of %2").arg(value).arg(tabs->count()));
+            return notOfferedOf(QStringLiteral("tab"), tabs->count());
     } else {
         return wrongKind(control, QStringLiteral("has no number to set"));
     }
@@ -553,8 +700,7 @@ Done setTime(QWidget *control, const QTime &time)
     auto *field = qobject_cast<TimeField *>(control);
     if (!field)
         return wrongKind(control, QStringLiteral("is no time field"));
-    return field->choose(time) ? Done()
-                               : notOffered(control, QStringLiteral("does not take that time"));
+    return field->choose(time) ? Done() : notOffered(control, QStringLiteral("is read-only"));
 }
 
 Done select(QWidget *control, const std::vector<int> &rows)
@@ -664,7 +810,9 @@ QStringList propertyNames()
             QStringLiteral("selection"), QStringLiteral("cell")};
 }
 
-Result<QString> property(QWidget *control, const QString &name)
+namespace {
+
+Result<QString> propertyOf(QWidget *control, const QString &name)
 {
     const auto number = [control, &name](std::optional<int> value) -> Result<QString> {
         if (value)
@@ -689,9 +837,8 @@ Result<QString> property(QWidget *control, const QString &name)
     if (name == QLatin1String("focus"))
         return words(control->window()->focusWidget() == control);
     if (name == QLatin1String("checked")) {
-        const auto *button = qobject_cast<const QAbstractButton *>(control);
-        if (button && button->isCheckable())
-            return words(button->isChecked());
+        if (isCheckable(control))
+            return words(qobject_cast<const QAbstractButton *>(control)->isChecked());
         return Error{Error::Code::Unsupported, nameOf(control),
                      QStringLiteral("it cannot be checked")};
     }
@@ -717,6 +864,24 @@ Result<QString> property(QWidget *control, const QString &name)
     }
     return Error{Error::Code::Unsupported, nameOf(control),
                  QStringLiteral("it has no %1").arg(name)};
+}
+
+} // namespace
+
+Result<QString> property(QWidget *control, const QString &name)
+{
+    auto found = propertyOf(control, name);
+    if (found || found.error().code != Error::Code::Unsupported)
+        return found;
+    QStringList has;
+    const QStringList names = propertyNames();
+    for (const QString &each : names) {
+        if (each == QLatin1String("cell") ? is<ListView>(control) : bool(propertyOf(control, each)))
+            has << each;
+    }
+    Error error = found.error();
+    error.detail += QStringLiteral("; it has ") + has.join(QStringLiteral(", "));
+    return error;
 }
 
 Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> &name,

@@ -108,14 +108,17 @@ Result<void> provideFolder(const QString &folder)
     if (reason == EEXIST && there && S_ISDIR(there->st_mode))
         return {};
     if (reason == EEXIST)
-        return Error{Code::NotWritable, folder, QStringLiteral("this is not a folder")};
+        return Error{Code::NotWritable, folder,
+                     QStringLiteral("this is not a folder; name another one")};
     const QString parent = QFileInfo(QDir::cleanPath(folder)).path();
     if (reason == ENOENT && !fileStatus(parent))
         return Error{Code::NotWritable, folder,
-                     QStringLiteral("the folder %1 does not exist").arg(parent)};
+                     QStringLiteral("the folder %1 does not exist; make it first, or name another "
+                                    "one")
+                         .arg(parent)};
     return Error{Code::NotWritable, folder,
-                 QStringLiteral("the folder cannot be made: %1")
-                     .arg(QString::fromUtf8(std::strerror(reason)))};
+                 QStringLiteral("the folder cannot be made (%1); %2")
+                     .arg(QString::fromUtf8(std::strerror(reason)), writingAdvice(reason))};
 }
 
 // Every file before the first one is replaced: a job is never half a new one.
@@ -127,9 +130,19 @@ Result<void> checkReplaceable(const QStringList &paths)
             return Error{Code::NotWritable, path,
                          QStringLiteral("this is not a regular file; move it away")};
         if (there && ::access(fileNameBytes(path).constData(), W_OK) != 0)
-            return Error{Code::NotWritable, path, QStringLiteral("the file is write-protected")};
+            return Error{
+                Code::NotWritable, path,
+                QStringLiteral("the file is write-protected; move it away, or name another "
+                               "folder")};
     }
     return {};
+}
+
+Error notWritten(Error error)
+{
+    if (error.code == Code::NotWritable && error.number != 0)
+        error.detail += QStringLiteral("; ") + writingAdvice(error.number);
+    return error;
 }
 
 } // namespace
@@ -149,16 +162,16 @@ Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
     // holds half a job.
     auto pdf = StagedFile::withCopy(in("document.pdf"), job.pdfPath);
     if (!pdf)
-        return pdf.error();
+        return notWritten(pdf.error());
     auto ticket = StagedFile::withBytes(in("ticket.plist"), job.ticket);
     if (!ticket)
-        return ticket.error();
+        return notWritten(ticket.error());
     auto list = StagedFile::withBytes(in("options"), options);
     if (!list)
-        return list.error();
+        return notWritten(list.error());
     for (StagedFile *file : {&pdf.value(), &ticket.value(), &list.value()}) {
         if (auto placed = file->place(); !placed)
-            return placed;
+            return notWritten(placed.error());
     }
     return {};
 }

@@ -142,6 +142,20 @@ Result<PrinterCondition> readCondition(const QString &printer, Patience &patienc
     return condition;
 }
 
+// `work` aside, for a caller that has nothing else to do.
+template <typename T>
+Result<T> askAndWait(std::function<Result<T>(Patience &)> work,
+                     const std::function<QString()> &where, int timeoutMs)
+{
+    const auto patience = std::make_shared<Patience>(timeoutMs);
+    auto answer = runAside<T>([patience, work = std::move(work)] { return work(*patience); }, where,
+                              [patience] { return patience->isTimedOut(500); });
+    if (answer)
+        return *answer;
+    patience->stop();
+    return timedOut(*patience, where());
+}
+
 } // namespace
 
 // Shared with the threads that talk to the server; the directory may go first.
@@ -265,14 +279,14 @@ void PrinterDirectory::fetchCondition(const QString &printer, int timeoutMs)
 
 Result<QList<Printer>> listPrinters(int timeoutMs)
 {
-    const auto patience = std::make_shared<Patience>(timeoutMs);
-    auto printers =
-        runAside<QList<Printer>>([patience] { return readPrinters(*patience); }, serverName,
-                                 [patience] { return patience->isTimedOut(500); });
-    if (printers)
-        return *printers;
-    patience->stop();
-    return timedOut(*patience, serverName());
+    return askAndWait<QList<Printer>>(readPrinters, serverName, timeoutMs);
+}
+
+Result<PrinterCondition> printerCondition(const QString &printer, int timeoutMs)
+{
+    return askAndWait<PrinterCondition>(
+        [printer](Patience &patience) { return readCondition(printer, patience); },
+        [printer] { return printer; }, timeoutMs);
 }
 
 } // namespace kelvo

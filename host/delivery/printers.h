@@ -55,8 +55,9 @@ private:
     std::shared_ptr<Private> d;
 };
 
-// Blocking, at most `timeoutMs`; for the command line. The default one first. A
-// server without printers gives an empty list.
+// Both block, at most `timeoutMs`; for the command line and for worker threads. The
+// default one first. A server without printers gives an empty list.
 Result<QList<Printer>> listPrinters(int timeoutMs);
+Result<PrinterCondition> printerCondition(const QString &printer, int timeoutMs);
 
 } // namespace kelvo

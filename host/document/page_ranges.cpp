@@ -46,7 +46,7 @@ Result<PageRun> pageRunFrom(QStringView part, int pageCount)
     if ((!firstNumber && !firstIsOpen) || (!lastNumber && !lastIsOpen)
         || (firstIsOpen && lastIsOpen)) {
         return rangeError(Error::Code::Damaged, part,
-                          QStringLiteral("write pages as in 1-3, 7, 9-"));
+                          QStringLiteral("pages are written like this: 1-3, 7, 9-"));
     }
 
     const int first = firstNumber.value_or(1);
@@ -55,11 +55,13 @@ Result<PageRun> pageRunFrom(QStringView part, int pageCount)
         return rangeError(Error::Code::OutOfRange, part, QStringLiteral("pages begin at 1"));
     if (first > pageCount) {
         return rangeError(Error::Code::OutOfRange, part,
-                          QStringLiteral("the document ends with page %1").arg(pageCount));
+                          QStringLiteral("the document has pages 1 to %1").arg(pageCount));
     }
     if (last < first) {
         return rangeError(Error::Code::OutOfRange, part,
-                          QStringLiteral("the last page comes before the first"));
+                          QStringLiteral("the last page comes before the first; write %1-%2")
+                              .arg(last)
+                              .arg(first));
     }
     return PageRun{first, std::min(last, pageCount)};
 }

@@ -19,7 +19,8 @@ struct PageRun
 // "1-3,7,9-" as runs in the order written; blanks are fine, "9-" goes to
 // `pageCount`, "-3" begins at 1. Empty text: every page. OutOfRange with the
 // part that was wrong for page 0, a last page before its first, or a range that
-// begins after `pageCount`; Damaged for anything that is no range.
+// begins after `pageCount`; Damaged for anything that is no range; TooLarge for more
+// pages than a document may have. The detail says what is wrong and how it is written.
 Result<std::vector<PageRun>> pageRunsFrom(const QString &text, int pageCount);
 
 int pageCount(const std::vector<PageRun> &runs);

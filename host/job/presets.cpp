@@ -90,13 +90,29 @@ std::optional<Preset> findPreset(const std::vector<Preset> &presets, const QStri
     return found == presets.end() ? std::nullopt : std::optional(*found);
 }
 
+std::vector<Preset> sitePresets()
+{
+    std::vector<Preset> all;
+    const QStringList folders = siteFolders();
+    for (const QString &folder : folders) {
+        for (const Preset &preset : presetsIn(presetsFolder(folder), true)) {
+            if (!findPreset(all, preset.name))
+                all.push_back(preset);
+        }
+    }
+    return all;
+}
+
 Error notFound(const std::vector<Preset> &presets, const QString &name)
 {
     QStringList names;
     for (const Preset &preset : presets)
         names << preset.name;
-    return {Code::NotFound, name,
-            QStringLiteral("there is no preset of this name%1").arg(didYouMean(name, names))};
+    const QString nearest = didYouMean(name, names);
+    const QString there = names.isEmpty() ? QStringLiteral(", nor any other")
+        : nearest.isEmpty()               ? QStringLiteral("; there are ") + shortList(names)
+                                          : nearest;
+    return {Code::NotFound, name, QStringLiteral("there is no preset of this name") + there};
 }
 
 // The preset `name` where it is the user's own.
@@ -177,7 +193,7 @@ QString PresetStore::ownFolder()
 std::vector<Preset> PresetStore::presets() const
 {
     std::vector<Preset> all = presetsIn(ownFolder(), false);
-    for (const Preset &site : presetsIn(presetsFolder(siteFolder()), true)) {
+    for (const Preset &site : sitePresets()) {
         if (!findPreset(all, site.name))
             all.push_back(site);
     }
@@ -248,8 +264,7 @@ Result<void> PresetStore::rename(const QString &from, const QString &to)
 
 std::optional<TicketFile> PresetStore::siteDefaults() const
 {
-    const auto preset =
-        findPreset(presetsIn(presetsFolder(siteFolder()), true), QStringLiteral("default"));
+    const auto preset = findPreset(sitePresets(), QStringLiteral("default"));
     if (!preset)
         return std::nullopt;
     auto ticket = readTicketFile(preset->path);

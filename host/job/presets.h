@@ -11,7 +11,7 @@
 #include <vector>
 
 // Named ticket files: the user's own in the preferences folder's "presets",
-// and an administrator's, read-only, in the site folder's. A preset's name stands
+// and an administrator's, read-only, in the site folders'. A preset's name stands
 // in its root as "PresetName"; without that (or where the file is damaged) it is
 // the file's name without ".plist".
 namespace kelvo {

@@ -404,6 +404,12 @@ Result<std::vector<ScriptLine>> parseScript(const QByteArray &text, const QStrin
                      QStringLiteral("this is not UTF-8 text; a script is a text file")};
     }
 
+    // A program that wrote nothing, or a file that was lost; comments are somebody's intent.
+    if (decoded.trimmed().isEmpty())
+        return Error{Error::Code::Damaged, at(1),
+                     QStringLiteral("the script is empty; write a command a line (kelvo-print "
+                                    "--help-scripts lists them)")};
+
     std::vector<ScriptLine> lines;
     int number = 0;
     for (QStringView one : QStringView(decoded).split(u'\n')) {

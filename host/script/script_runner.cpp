@@ -122,6 +122,8 @@ struct ScriptRunner::Private
     bool checkNotice();
     bool checkPrint();
     void finish();
+    bool hasScript() const { return !options.file.isEmpty(); }
+    LineProblem unasked(const QString &question) const;
     void fail(int line, const LineProblem &problem);
     void end(ExitStatus status);
     QWidget *openDialog() const; // the modal dialog or notice in front; null for none
@@ -228,10 +230,22 @@ bool ScriptRunner::Private::checkNotice()
         return true;
     }
     fail(at,
-         {ExitStatus::Failed,
-          QStringLiteral("a notice came up: %1 (answers: %2)")
-              .arg(masked(wordsOf(notice)), answersOf(notice))});
+         hasScript() ? LineProblem{ExitStatus::Failed,
+                                   QStringLiteral("a notice came up: %1 (answers: %2)")
+                                       .arg(masked(wordsOf(notice)), answersOf(notice))}
+                     : unasked(masked(wordsOf(notice))));
     return false;
+}
+
+// Nobody is there to answer. What a panel asks at Print, the settings lack, and those of a
+// run without a script come from a ticket or a preset.
+LineProblem ScriptRunner::Private::unasked(const QString &question) const
+{
+    return {printAsked ? ExitStatus::InvalidTicket : ExitStatus::Failed,
+            QStringLiteral("nothing was sent. %1 Set it in the window (leave out --no-window), or "
+                           "with --script FILE, which takes what is secret from --secret "
+                           "NAME=FILE.")
+                .arg(question)};
 }
 
 // What became of the print that a line asked for: `print`, but also a click on
@@ -255,8 +269,11 @@ void ScriptRunner::Private::finish()
 {
     if (const QWidget *modal = openDialog(); modal && !target.finished()) {
         fail(lines.empty() ? 0 : lines.back().number,
-             wrong(QStringLiteral("the script ends while the dialog \"%1\" is open")
-                       .arg(modal->windowTitle())));
+             hasScript()
+                 ? wrong(QStringLiteral("the script ends while the dialog \"%1\" is open")
+                             .arg(modal->windowTitle()))
+                 : unasked(
+                     QStringLiteral("The dialog \"%1\" asks for more.").arg(modal->windowTitle())));
         return;
     }
     if (target.finished()) {
@@ -281,9 +298,10 @@ void ScriptRunner::Private::finish()
 
 void ScriptRunner::Private::fail(int line, const LineProblem &problem)
 {
-    // Without lines it is the program itself that prints.
-    const QString place =
-        lines.empty() ? options.file : QStringLiteral("%1:%2").arg(options.file).arg(line);
+    // Without a script it is the program itself that prints.
+    const QString place = !hasScript() ? QStringLiteral("kelvo-print")
+        : lines.empty()                ? options.file
+                                       : QStringLiteral("%1:%2").arg(options.file).arg(line);
     printLine(stderr, QStringLiteral("%1: %2").arg(place, problem.text));
     end(problem.status);
 }
@@ -404,7 +422,7 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
         return wrong(QStringLiteral("%1 is not in %2%3")
                          .arg(line.control->text(), where,
                               nearest.isEmpty()
-                                  ? QString()
+                                  ? QStringLiteral("; \"controls\" lists what is")
                                   : QStringLiteral(", did you mean %1?").arg(nearest)));
     }
     QWidget *control = found.control;
@@ -566,9 +584,8 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
         return {};
     return LineProblem{
         ExitStatus::Failed,
-        QStringLiteral("the picture \"%1\" cannot be written; look at the folder and its rights "
-                       "(%2)")
-            .arg(file, written.error().detail)};
+        QStringLiteral("the picture \"%1\" cannot be written (%2); %3")
+            .arg(file, written.error().detail, writingAdvice(written.error().number))};
 }
 
 } // namespace kelvo

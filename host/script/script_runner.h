@@ -12,7 +12,8 @@ namespace kelvo {
 // Runs a script on the dialog, one line at a time from the event loop when the
 // target is idle, also while modal dialogs are open. Results (show, controls,
 // summary) go to standard output, errors as "FILE:LINE: what was wrong" to
-// standard error, secrets masked in both.
+// standard error, secrets masked in both. Without a script it only prints, and what
+// the dialog would ask then is told in words for who has written none.
 class ScriptRunner : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ class ScriptRunner : public QObject
 public:
     struct Options
     {
-        QString file;            // begins every message; with no lines it stands alone
+        QString file;            // begins every message; empty: there is no script
         bool printAtEnd = false; // --print
     };
     ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,

@@ -570,7 +570,7 @@ void PrintDialog::showHelp()
     if (const Extension *panels = m_session->panels(); panels && panels->shownPanel() >= 0)
         event.source = panels->panels()[static_cast<std::size_t>(panels->shownPanel())].pane;
     if (sendEvent(event) == eventNotHandledErr)
-        DisplayHelp({}, this);
+        kelvo::showHelp({}, this);
 }
 
 // ---- print
@@ -599,9 +599,8 @@ QString PrintDialog::findPagesProblem() const
     const auto runs = pageRunsFrom(m_session->settings().pageRanges, count);
     if (runs)
         return {};
-    return runs.error().code == Error::Code::OutOfRange
-        ? tr("The document has pages 1 to %1.").arg(count)
-        : tr("Pages are written like this: 1-3, 7, 9-");
+    const QString detail = runs.error().detail;
+    return detail.left(1).toUpper() + detail.mid(1) + u'.';
 }
 
 void PrintDialog::pressPrint()
@@ -760,11 +759,16 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
         end(outcome.status);
         return;
     }
-    // What was left alone meanwhile: a fix before the print, say.
+    // What was left alone meanwhile: a fix before the print, say. The printer may have
+    // become another one, too.
     m_look.stop();
     lookAtSettings();
+    if (!m_isDriven)
+        m_session->lookAtPrinter();
     refusePrint(outcome.status, tr("“%1” was not printed").arg(m_session->title()),
                 outcome.problem);
+    if (!m_finished)
+        m_look.start(); // what came while it was told
 }
 
 void PrintDialog::tellSent(const QString &place)

@@ -1,5 +1,10 @@
 #include "print_run.h"
 
+#include "cautions.h"
+#include "printers.h"
+
+#include <algorithm>
+
 namespace kelvo {
 
 namespace {
@@ -40,6 +45,20 @@ ExitStatus statusOfDelivery(Code code)
     }
 }
 
+// A queue may have begun to reject jobs since the window looked at it. That is told as the
+// window tells it, with what the server said behind.
+QString whyNotDelivered(const Error &error, const PrintRun::Order &order)
+{
+    constexpr int patienceMs = 5000; // it has just answered
+    if (error.code != Code::Refused)
+        return error.text();
+    const auto now = printerCondition(order.queue, std::min(order.timeoutMs, patienceMs));
+    const auto caution = now ? printerCaution(order.queue, now.value()) : std::nullopt;
+    return caution && caution->weight == Caution::Weight::Refused
+        ? QStringLiteral("%1 (%2)").arg(caution->sentences(), error.text())
+        : error.text();
+}
+
 PrintOutcome carryOut(PrintRun::Order &order, const std::atomic_bool &cancelled)
 {
     order.request.ppd = order.ppd.get();
@@ -57,7 +76,9 @@ PrintOutcome carryOut(PrintRun::Order &order, const std::atomic_bool &cancelled)
     const auto delivered =
         deliverToQueue(job, order.queue, order.request.title, order.timeoutMs, cancelled);
     if (!delivered)
-        return {statusOfDelivery(delivered.error().code), {}, delivered.error().text()};
+        return {statusOfDelivery(delivered.error().code),
+                {},
+                whyNotDelivered(delivered.error(), order)};
     return {ExitStatus::Printed, delivered.value().name, {}};
 }
 

@@ -28,8 +28,7 @@ constexpr ControlID kShowPasscode{kPanelSignature, 8505};
 
 void limitToDigits(CFBundleRef bundle, QLineEdit *field, QLabel *hint, int shortest)
 {
-    setInputLimits(field,
-                   {.maximumLength = kLongestPasscode, .allowed = InputLimits::decimalDigits()});
+    setInputLimits(field, {shortest, kLongestPasscode, InputLimits::decimalDigits()});
     field->setInputMethodHints(Qt::ImhDigitsOnly | Qt::ImhSensitiveData | Qt::ImhHiddenText
                                | Qt::ImhNoPredictiveText);
     SetLocalizedStaticText(bundle, QStringLiteral("Min-Max Digits"), hint,

@@ -1,6 +1,7 @@
 #include "stock_notices.h"
 
 #include "notice.h"
+#include "preferences.h"
 #include "ticket_values.h"
 
 #include <QLocale>
@@ -52,8 +53,11 @@ void showLibraryProblem(CFBundleRef bundle, LibraryProblem problem, const QStrin
                     parent);
     case LibraryProblem::NotFound:
         return show(bundle, QStringLiteral("Library Not Found"), name, parent);
-    case LibraryProblem::NotWritten:
-        return show(bundle, QStringLiteral("Library Not Written"), {}, parent);
+    case LibraryProblem::NotWritten: {
+        const Result<QString> path = userPreferencePath(kStockLibraryFile);
+        return show(bundle, QStringLiteral("Library Not Written"),
+                    path ? path.value() : kStockLibraryFile, parent);
+    }
     }
 }
 

@@ -29,14 +29,6 @@ bool reportWriting(const Result<void> &written)
     return bool(written);
 }
 
-Result<QString> userPreferencePath(const QString &name)
-{
-    const QString folder = userPreferencesFolder();
-    if (folder.isEmpty())
-        return Error{Error::Code::NotFound, name, QStringLiteral("there is no preferences folder")};
-    return folder + QLatin1Char('/') + safeFileName(name);
-}
-
 // With what is missing above it, for the user alone. False when something else
 // than a folder is in the way.
 bool makeFolder(const QString &path)
@@ -51,6 +43,14 @@ bool makeFolder(const QString &path)
 }
 
 } // namespace
+
+Result<QString> userPreferencePath(const QString &name)
+{
+    const QString folder = userPreferencesFolder();
+    if (folder.isEmpty())
+        return Error{Error::Code::NotFound, name, QStringLiteral("there is no preferences folder")};
+    return folder + QLatin1Char('/') + safeFileName(name);
+}
 
 std::optional<QString> CopyPreferenceFileURL(const QString &name)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "result.h"
 #include "values.h"
 
 #include <QString>
@@ -17,6 +18,9 @@ std::optional<QString> CopyPreferenceFileURL(const QString &name);
 // standard error.
 std::optional<QVariant> CopyXMLData(const QString &name);
 
+// Where the file `name` of the user's preferences folder lies; NotFound where there is no
+// such folder.
+Result<QString> userPreferencePath(const QString &name);
 // The dictionary in the user's preferences folder; empty when the file is
 // missing or does not parse; none only when there is no such folder.
 std::optional<Dictionary> CopyUserPreferences(const QString &name);

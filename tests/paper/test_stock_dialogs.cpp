@@ -136,6 +136,7 @@ private slots:
     void libraryStocksAreCalledByTheirNameUntilChanged_data();
     void libraryStocksAreCalledByTheirNameUntilChanged();
     void libraryIsKeptInTheWindow();
+    void libraryThatCannotBeKeptNamesItsFile();
     void advancedSelectionNeedsAColorName();
     void revertLeavesNothingBehind();
     void menuCommandsChangeTheStock_data();
@@ -589,6 +590,30 @@ void TestStockDialogs::libraryIsKeptInTheWindow()
                                    &stock, &m_result);
     QCOMPARE(replace, QStringLiteral("Replace “card”?"));
     QCOMPARE(remove, QStringLiteral("Remove “card”?"));
+}
+
+void TestStockDialogs::libraryThatCannotBeKeptNamesItsFile()
+{
+    const QByteArray folder = qgetenv("XDG_CONFIG_HOME");
+    Stock stock;
+    stock.setDescription("card");
+    stock.setColor(kBlue);
+    QString said;
+    inNextDialog([&](const Front &front) {
+        inNextDialog([&said](const Front &save) {
+            QTimer::singleShot(0, [&said] {
+                said = frontNotice().message;
+                QVERIFY(answerNotice(1));
+            });
+            qputenv("XDG_CONFIG_HOME", "/dev/null");
+            QVERIFY(save.click("@okButton"));
+        });
+        QVERIFY(front.click("@saveInLibrary"));
+    });
+    RunModalAdvancedStockSelection(m_bundle, kDialogModeEdit, kJobContextJob, kNamedPaperLibrary,
+                                   &stock, &m_result);
+    qputenv("XDG_CONFIG_HOME", folder);
+    QVERIFY2(said.contains("/dev/null/kelvo/com.kelvo.print.stocks.plist"), qPrintable(said));
 }
 
 void TestStockDialogs::advancedSelectionNeedsAColorName()

@@ -36,8 +36,8 @@ void TestSurroundings::choosesFoldersFromTheEnvironment_data()
     QTest::addColumn<Variables>("variables");
     QTest::addColumn<QString>("preferences");
     QTest::addColumn<QString>("support");
-    QTest::addColumn<QString>("site");
-    const QString site = u"/etc/xdg/kelvo"_s;
+    QTest::addColumn<QStringList>("site");
+    const QStringList site{u"/etc/xdg/kelvo"_s};
 
     QTest::newRow("home alone") << Variables{{"HOME", "/h/u/"}} << "/h/u/.config/kelvo"
                                 << "/h/u/.local/share" << site;
@@ -49,10 +49,18 @@ void TestSurroundings::choosesFoldersFromTheEnvironment_data()
         << Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_DATA_HOME", "d"}}
         << "/h/.config/kelvo"
         << "/h/.local/share" << site;
-    QTest::newRow("our own") << Variables{{"KELVO_SUPPORT_DIR", "/s"}, {"KELVO_SITE_DIR", "/t"}}
+    QTest::newRow("our own") << Variables{{"KELVO_SUPPORT_DIR", "/s"},
+                                          {"KELVO_SITE_DIR", "/t"},
+                                          {"XDG_CONFIG_DIRS", "/x"}}
                              << ""
-                             << "/s"
-                             << "/t";
+                             << "/s" << QStringList("/t");
+    QTest::newRow("the system's folders")
+        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", "/etc/site/:etc::/etc/xdg"}}
+        << "/h/.config/kelvo"
+        << "/h/.local/share" << QStringList{"/etc/site/kelvo", "/etc/xdg/kelvo"};
+    QTest::newRow("none of the system's folders")
+        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", ":etc"}} << "/h/.config/kelvo"
+        << "/h/.local/share" << site;
     QTest::newRow("nothing") << Variables() << ""
                              << "" << site;
     QTest::newRow("root folder") << Variables{{"HOME", "/"}} << "/.config/kelvo"
@@ -63,8 +71,9 @@ void TestSurroundings::choosesFoldersFromTheEnvironment()
 {
     using Variables = QMap<QByteArray, QByteArray>;
     QFETCH(Variables, variables);
-    const char *const names[] = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "KELVO_SUPPORT_DIR",
-                                 "KELVO_SITE_DIR"};
+    const char *const names[] = {"HOME",           "XDG_CONFIG_HOME",
+                                 "XDG_DATA_HOME",  "KELVO_SUPPORT_DIR",
+                                 "KELVO_SITE_DIR", "XDG_CONFIG_DIRS"};
     Variables before;
     for (const char *name : names) {
         before.insert(name, qgetenv(name));
@@ -72,7 +81,7 @@ void TestSurroundings::choosesFoldersFromTheEnvironment()
     }
     QTEST(userPreferencesFolder(), "preferences");
     QTEST(localApplicationSupportFolder(), "support");
-    QTEST(siteFolder(), "site");
+    QTEST(siteFolders(), "site");
     for (const char *name : names)
         qputenv(name, before.value(name));
 }

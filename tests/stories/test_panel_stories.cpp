@@ -83,9 +83,22 @@ void TestPanelStories::holdsBackASecurePrintWithoutCode()
 {
     const Desk desk;
     const QString folder = desk.path("out");
-    const Run run = desk.run(
-        {"--demo", "--no-window", "--script", script("secure-print-missing.kps"), "--to", folder});
+    const Run run =
+        desk.run({"--demo", "--no-window", "--script", script("secure-print-missing.kps"), "--to",
+                  folder, "--ticket-out", "locked.plist"});
     QENDED(run, 0);
+    QVERIFY(!QFile::exists(folder));
+
+    // Who has no script is not told a script's words.
+    const Run alone =
+        desk.run({"--demo", "--no-window", "--ticket-in", "locked.plist", "--to", folder});
+    QENDED(alone, 6);
+    QCOMPARE(alone.messages(),
+             QStringList("kelvo-print: nothing was sent. Check the passcode: The job needs a "
+                         "passcode of 1 to 12 digits, the same in both fields. It is printed when "
+                         "the passcode is entered at the device. Set it in the window (leave out "
+                         "--no-window), or with --script FILE, which takes what is secret from "
+                         "--secret NAME=FILE."));
     QVERIFY(!QFile::exists(folder));
 }
 

@@ -275,9 +275,9 @@ void TestSecretStories::showsControlCharactersAsEscapes_data()
     row("value of an option", demo + QStringList{"-o", QString::fromUtf8("P\xc2\x9bQ=1")}, 3,
         "P\\x9bQ");
     row("document", {"--ppd", "none\n.ppd", "--to", "out", "--no-window", documentPath}, 4,
-        "kelvo-print: none\\n.ppd: ");
+        "kelvo-print: --ppd: there is no file none\\n.ppd; ");
     row("script", {"--demo", "--no-window", "--script", QString::fromUtf8("a\u202e.kps")}, 2,
-        "a\\u202e.kps: ");
+        "kelvo-print: --script: there is no file a\\u202e.kps; ");
     row("ticket and summary",
         {"--demo", "--no-window", "--ticket-in", "keys.plist", "--script", "s.kps"}, 0,
         "\n  com.other\\n\\x7fKey = \"one\\ntwo\"\n");

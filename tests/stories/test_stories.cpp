@@ -101,6 +101,7 @@ private slots:
     void cutsPagesOnlyOnce();
     void refusesASecretThatWouldLieOpen_data();
     void refusesASecretThatWouldLieOpen();
+    void saysThatThereIsNoHelp();
     void printsOtherMakersDevicesWithoutPanels_data();
     void printsOtherMakersDevicesWithoutPanels();
     void readsScriptsFromAPipeToTheirEnd();
@@ -429,6 +430,15 @@ void TestStories::refusesASecretThatWouldLieOpen()
                  QString());
     else
         QVERIFY(!job.options.contains(ticketOption));
+}
+
+void TestStories::saysThatThereIsNoHelp()
+{
+    Desk desk;
+    desk.set("KELVO_BUNDLE", "gone"); // the pages lie in it
+    write(desk.path("help.kps"),
+          "click @help\nexpect-notice \"The folder with the help pages is missing.\"\nanswer 1\n");
+    QENDED(desk.run({"--demo", "--no-window", "--script", "help.kps"}), 0);
 }
 
 void TestStories::printsOtherMakersDevicesWithoutPanels_data()
@@ -834,7 +844,22 @@ void TestStories::keepsWhatTheUserNamed_data()
     row({"--ticket-out", "run.kps", "--script", "run.kps", "document.pdf"}, 2, "the script itself");
     row({"--to", ".", "document.pdf"}, 2, "./document.pdf is the document itself");
     row({"--to", "busy", "keep.txt"}, 1, "busy/options: this is not a regular file");
-    row({"--to", "a/b/c", "keep.txt"}, 1, "the folder a/b does not exist");
+    row({"--to", "a/b/c", "keep.txt"}, 1, "the folder a/b does not exist; make it first");
+    row({"--to", "keep.txt", "keep.txt"}, 1, "keep.txt: this is not a folder; name another one");
+    row({"--to", "shut", "keep.txt"}, 1,
+        "shut/document.pdf: Permission denied; change the rights there");
+    row({"--to", "shut/in", "keep.txt"}, 1,
+        "shut/in: the folder cannot be made (Permission denied); change the rights there");
+    row({"--ticket-out", "shut/t.plist", "keep.txt"}, 2,
+        "into the folder shut (Permission denied); change the rights there");
+    row({"--ticket-in", "no.plist", "keep.txt"}, 6,
+        "kelvo-print: --ticket-in: there is no file no.plist; check its name");
+    row({"--script", "no.kps", "keep.txt"}, 2,
+        "kelvo-print: --script: there is no file no.kps; check its name");
+    row({"--secret", "A=no.txt", "keep.txt"}, 2,
+        "kelvo-print: --secret: there is no file no.txt; check its name");
+    row({"--preset", "Nightly", "keep.txt"}, 2, "there is no preset of this name, nor any other");
+    row({"no.pdf"}, 1, "no.pdf: there is no such document; check its name");
 }
 
 void TestStories::keepsWhatTheUserNamed()
@@ -849,6 +874,8 @@ void TestStories::keepsWhatTheUserNamed()
     write(desk.path("run.kps"), "print\n");
     QVERIFY(QDir().mkpath(desk.path("busy/options")));
     write(desk.path("busy/ticket.plist"), "an older one\n");
+    QVERIFY(QDir().mkpath(desk.path("shut")));
+    QVERIFY(QFile::setPermissions(desk.path("shut"), QFile::ReadOwner | QFile::ExeOwner));
     const auto before = filesIn(desk.path("."));
     const auto busyBefore = filesIn(desk.path("busy"));
 
@@ -1221,6 +1248,8 @@ void TestStories::refusesWhatCannotBeDone_data()
     row("control disabled", "check @collate off\n", 3, "s.kps:1: @collate");
     row("pages out of range", "choose @pagesChoice key range\ntype @pages \"9\"\nprint\n", 2,
         "s.kps:3: Pages: The document has pages 1 to 6.");
+    row("pages backwards", "choose @pagesChoice key range\ntype @pages \"4-2\"\nprint\n", 2,
+        "s.kps:3: Pages: The last page comes before the first; write 2-4.");
     row("dialog left open", "tab 4\nclick @aboutButton\n", 2, "s.kps:2: the script ends while");
     row("notice not met", "item @presetMenu 'PsSA'\ntype @presetName \"\"\nclick @ok\n", 1,
         "A preset cannot have this name");

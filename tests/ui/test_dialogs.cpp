@@ -251,7 +251,14 @@ void TestDialogs::aNoticeShowsTextsAsTheyAre()
 void TestDialogs::theHelpWindowShowsTheBooksFilesOnly()
 {
     QTemporaryDir folder;
-    QCOMPARE(DisplayHelp(), fnfErr);
+    QString said; // by a button whose page is missing
+    const auto read = [&said] {
+        said = frontNotice().message;
+        answerNotice(1);
+    };
+    QTimer::singleShot(0, read);
+    QCOMPARE(showHelp({}, nullptr), fnfErr);
+    QVERIFY2(said.startsWith("The folder with the help pages is missing."), qPrintable(said));
     QCOMPARE(AHRegisterHelpBook(nullptr), paramErr);
     writeFile(folder.filePath("help/index.html"), "<title>Contents</title>start");
     writeFile(folder.filePath("help/shell/advanced.html"), "<title>Advanced</title>advanced");
@@ -263,14 +270,10 @@ void TestDialogs::theHelpWindowShowsTheBooksFilesOnly()
     QCOMPARE(DisplayHelp("../outside.html"), fnfErr);
     QCOMPARE(DisplayHelp("link.html"), fnfErr);
     QCOMPARE(DisplayHelp("shell"), fnfErr);
-    // A button says what is missing.
-    QString said;
-    QTimer::singleShot(0, [&said] {
-        said = frontNotice().message;
-        answerNotice(1);
-    });
+    QTimer::singleShot(0, read);
     QCOMPARE(showHelp("none.html", nullptr), fnfErr);
-    QVERIFY2(said.contains("none.html"), qPrintable(said));
+    QVERIFY2(said.contains("“none.html” is missing in " + folder.filePath("help") + '.'),
+             qPrintable(said));
     QCOMPARE(DisplayHelp("shell/advanced.html#end"), noErr);
     QPointer<QWidget> window;
     for (QWidget *top : QApplication::topLevelWidgets()) {

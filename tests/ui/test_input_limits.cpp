@@ -29,6 +29,7 @@ private slots:
     void handlersNeverSeeWhatWasRefused();
     void whatCannotBeKeptIsRefused();
     void limitsCanBeChanged();
+    void limitsAreToldInWords();
 };
 
 namespace {
@@ -277,6 +278,14 @@ void TestInputLimits::limitsCanBeChanged()
     QVERIFY(pin().ascii());
     names.allowed = InputLimits::setOf(QString::fromUtf8("a\xC3\xA9"));
     QVERIFY(!names.ascii());
+}
+
+void TestInputLimits::limitsAreToldInWords()
+{
+    QCOMPARE(inWords(pin()), "1 to 4 digits");
+    QCOMPARE(inWords({.maximumLength = 31}), "at most 31 characters");
+    QCOMPARE(inWords({.allowed = InputLimits::setOf("1-0,")}), "only characters of \",-01\"");
+    QCOMPARE(inWords({}), "");
 }
 
 QTEST_MAIN(TestInputLimits)

@@ -227,11 +227,14 @@ Result<QString> convertSvg(QFile &source, const ConverterFiles &files)
     file.close();
     if (Result<void> closed = output.value().close(); !closed)
         return closed.error();
-    return svg->leftOut == 0
-        ? QString()
-        : QStringLiteral("The drawing shows or uses %1 other file(s), which are left out: only "
-                         "what a drawing holds itself is printed. Embed them in it.")
-              .arg(svg->leftOut);
+    if (svg->leftOut == 0)
+        return QString();
+    const bool isOne = svg->leftOut == 1;
+    return QStringLiteral("The drawing shows or uses %1 left out: only what a drawing holds itself "
+                          "is printed. Embed %2 in it.")
+        .arg(isOne ? QStringLiteral("another file, which is")
+                   : QStringLiteral("%1 other files, which are").arg(svg->leftOut),
+             isOne ? QStringLiteral("that file") : QStringLiteral("them"));
 }
 
 Result<QString> convert(const ConverterFiles &files)

@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>Library Not Written Message</source>
-        <translation>Check that there is space left and that your settings folder can be written to, then try again.</translation>
+        <translation>The file %1 cannot be written. Make sure that there is space left on its disk and that you may write into its folder, then try again.</translation>
     </message>
     <message>
         <source>Library Replace Header</source>

@@ -67,6 +67,9 @@ void TestCommandLine::takesEveryForm_data()
     QTest::newRow("value with a sign") << QStringList{"-o", "A=b=c"} << "o=A:b=c";
     QTest::newRow("open range") << QStringList{"-P", "1-3, 7,9-"} << "P=1-3, 7,9-";
     QTest::newRow("later beats earlier") << QStringList{"-n2", "-n3"} << "n=3";
+    QTest::newRow("the same said twice")
+        << QStringList{"-n2", "-o", "copies=3 copies=02", "-P", "1 - 3", "-o", "page-ranges=1-3"}
+        << "n=2 o=copies:3 o=copies:02 o=page-ranges:1-3 P=1 - 3";
     QTest::newRow("long, beside") << QStringList{"--ppd", "x.ppd"} << "ppd=x.ppd";
     QTest::newRow("long, joined") << QStringList{"--to=a=b"} << "to=a=b";
     QTest::newRow("a value that looks like an option") << QStringList{"-t", "--demo"} << "t=--demo";
@@ -132,7 +135,21 @@ void TestCommandLine::refusesWrongLines_data()
     QTest::newRow("option without name")
         << QStringList{"-o", "=x"} << "-o: \"=x\" is not NAME=VALUE";
     QTest::newRow("pages backwards")
-        << QStringList{"-P", "5-2"} << "-P: \"5-2\" is not a list of pages such as 1-3,7,9-";
+        << QStringList{"-P", "5-2"}
+        << "-P: page range \"5-2\": the last page comes before the first; write 2-5";
+    QTest::newRow("page 0") << QStringList{"-P", "1,0"} << "-P: page range \"0\": pages begin at 1";
+    QTest::newRow("pages in words")
+        << QStringList{"-P", "odd"}
+        << "-P: page range \"odd\": pages are written like this: 1-3, 7, 9-";
+    QTest::newRow("pages backwards, as an option")
+        << QStringList{"-o", "Page-Ranges=5-2"}
+        << "-o: page range \"5-2\": the last page comes before the first; write 2-5";
+    QTest::newRow("copies said twice")
+        << QStringList{"-o", "copies=2", "-n3"}
+        << "-n 3: -o copies=2 says something else; leave out one of them";
+    QTest::newRow("pages said twice")
+        << QStringList{"-P", "1", "-o", "page-ranges=1", "-o", "PAGE-RANGES=2-3"}
+        << "-P 1: -o page-ranges=2-3 says something else; leave out one of them";
     QTest::newRow("no pages") << QStringList{"-P", " "}
                               << "-P: \" \" is not a list of pages such as 1-3,7,9-";
     QTest::newRow("a secret on the line")

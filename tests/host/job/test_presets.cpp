@@ -24,6 +24,7 @@ private slots:
     void refuseNames();
     void leaveOutWhatIsOfOneJob();
     void hideTheSitesPresetOfTheirName();
+    void ofAnEarlierSiteFolderBeatLaterOnes();
     void nameTheNearestOne();
     void areRenamedAndRemoved();
     void ofTheSiteAreReadOnly();
@@ -42,7 +43,7 @@ static QString ownFolder()
 
 static QString sitePresets()
 {
-    return siteFolder() + QStringLiteral("/presets");
+    return siteFolders().first() + QStringLiteral("/presets");
 }
 
 static TicketFile ticketWith(const QString &staple)
@@ -157,6 +158,25 @@ void TestPresets::hideTheSitesPresetOfTheirName()
     QCOMPARE(m_store.read("Draft").value(), ticketWith("None"));
     QVERIFY(m_store.remove("Draft"));
     QCOMPARE(m_store.read("Draft").value(), ticketWith("SinglePortrait"));
+}
+
+void TestPresets::ofAnEarlierSiteFolderBeatLaterOnes()
+{
+    const QByteArray ours = qgetenv("KELVO_SITE_DIR");
+    const QString first = QDir::homePath() + "/first", second = QDir::homePath() + "/second";
+    for (const auto &[folder, staple] : {std::pair(first, "None"), {second, "DualPortrait"}}) {
+        QVERIFY(QDir().mkpath(folder + "/kelvo/presets"));
+        QVERIFY(writeTicketFile(folder + "/kelvo/presets/default.plist", ticketWith(staple)));
+    }
+    QVERIFY(writeTicketFile(second + "/kelvo/presets/Report.plist", ticketWith("None")));
+    qunsetenv("KELVO_SITE_DIR");
+    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(first + u':' + second));
+    const auto listed = names(m_store.presets());
+    const auto defaults = m_store.siteDefaults();
+    qputenv("KELVO_SITE_DIR", ours);
+    qunsetenv("XDG_CONFIG_DIRS");
+    QCOMPARE(listed, (QStringList{"default (site)", "Report (site)"}));
+    QCOMPARE(defaults, std::optional(ticketWith("None")));
 }
 
 void TestPresets::nameTheNearestOne()

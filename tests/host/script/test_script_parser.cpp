@@ -164,6 +164,15 @@ void TestScriptParser::keepsLineNumbersOverCommentsAndBlankLines()
     QCOMPARE(lines.value().size(), 2U);
     QCOMPARE(lines.value()[0].number, 3);
     QCOMPARE(lines.value()[1].number, 5);
+
+    // Somebody has written a comment; an empty file is what is left of a script.
+    QVERIFY(parseScript("# later\n", QStringLiteral("s")));
+    for (const char *empty : {"", " \r\n\n"}) {
+        const auto read = parseScript(empty, QStringLiteral("s"));
+        QVERIFY(!read);
+        QVERIFY2(read.error().text().startsWith(u"s:1: the script is empty; write "),
+                 qPrintable(read.error().text()));
+    }
 }
 
 void TestScriptParser::everyCommandHasHelp()

@@ -1,6 +1,7 @@
 #include "script_runner.h"
 
 #include "event.h"
+#include "input_limits.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "popup_button.h"
@@ -32,10 +33,14 @@ public:
         Menu menu;
         menu.items.push_back(
             {.text = QStringLiteral("No banner"), .key = QStringLiteral("False"), .reference = 0});
-        menu.items.push_back(
-            {.text = QStringLiteral("Banner"), .key = QStringLiteral("True"), .reference = 1});
-        menu.items.push_back(
-            {.text = QStringLiteral("Twin"), .key = QStringLiteral("Twin"), .reference = 1});
+        menu.items.push_back({.text = QStringLiteral("Banner"),
+                              .key = QStringLiteral("True"),
+                              .command = fourCharCode("Bnr1"),
+                              .reference = 1});
+        menu.items.push_back({.text = QStringLiteral("Twin"),
+                              .key = QStringLiteral("Twin"),
+                              .command = fourCharCode("Bnr1"),
+                              .reference = 1});
         menu.items.push_back({.text = QStringLiteral("Gone"),
                               .key = QStringLiteral("Gone"),
                               .reference = 9,
@@ -45,6 +50,7 @@ public:
         field = new QLineEdit;
         field->setObjectName(QStringLiteral("passcode"));
         field->setEchoMode(QLineEdit::Password);
+        setInputLimits(field, {1, 12, InputLimits::decimalDigits()});
         layout->addWidget(field);
         box = new QCheckBox(QStringLiteral("Collate"));
         box->setObjectName(QStringLiteral("collate"));
@@ -177,6 +183,8 @@ private slots:
     void typesASecretThatNothingRepeats();
     void masksByPlace_data();
     void masksByPlace();
+    void saysWhatWouldHaveWorked_data();
+    void saysWhatWouldHaveWorked();
     void printsAtTheEndWhenAsked();
     void endsWithADialogThatOthersClose_data();
     void endsWithADialogThatOthersClose();
@@ -326,6 +334,47 @@ void TestScriptRunner::masksByPlace()
     QCOMPARE(QString::fromUtf8(written.text()), said);
 }
 
+void TestScriptRunner::saysWhatWouldHaveWorked_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QString>("said");
+    const auto row = [](const char *line, const char *said) {
+        QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(said);
+    };
+    row("item @bannerSheet 'Stp1'",
+        "@bannerSheet has no item with the command 'Stp1'; it has 'Bnr1' \"Banner\" …");
+    row("item @bannerSheet 'Bnr1'",
+        "several items of @bannerSheet carry 'Bnr1'; name one of them by key, text or row: "
+        "\"Banner\", \"Twin\"");
+    row("item @bannerSheet 'Bnr1' 7",
+        "@bannerSheet has no item 7; it has 1 \"Banner\", 1 \"Twin\"");
+    row("choose @bannerSheet 1",
+        "several items of @bannerSheet carry 1; name one of them by key, text or row: \"Banner\", "
+        "\"Twin\"");
+    row("choose @bannerSheet 7",
+        "@bannerSheet has no item 7; it has 0 \"No banner\", 1 \"Banner\", 1 \"Twin\", 9 \"Gone\"");
+    row("choose @bannerSheet text \"Bannr\"",
+        "@bannerSheet has no item \"Bannr\", the nearest is Banner");
+    row("click @bannerSheet",
+        "@bannerSheet is a PopupButton and cannot be clicked; it takes choose, item");
+    row("type @passcode \"47x\"",
+        "@passcode does not take the whole text; it takes 1 to 12 digits");
+    row("expect @passcode value 4711",
+        "@passcode: it has no value; it has text, enabled, visible, focus");
+    row("click @qqqqqqqqqqqqqqqqqqqq",
+        "@qqqqqqqqqqqqqqqqqqqq is not in the window; \"controls\" lists what is");
+}
+
+void TestScriptRunner::saysWhatWouldHaveWorked()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QString, said);
+    FakeDialog dialog;
+    const StandardError written;
+    run(dialog, line);
+    QCOMPARE(QString::fromUtf8(written.text()), QStringLiteral("t.kps:1: %1\n").arg(said));
+}
+
 void TestScriptRunner::printsAtTheEndWhenAsked()
 {
     FakeDialog dialog;
@@ -362,7 +411,8 @@ void TestScriptRunner::endsWithADialogThatOthersClose()
     dialog.idle = idle;
     QTimer::singleShot(0, dialog.window(), [&] { dialog.close(static_cast<ExitStatus>(status)); });
 
-    QCOMPARE(static_cast<int>(run(dialog, printAtEnd ? "" : "tab 4\ntab 4", printAtEnd)), status);
+    QCOMPARE(static_cast<int>(run(dialog, printAtEnd ? "# prints" : "tab 4\ntab 4", printAtEnd)),
+             status);
     QCOMPARE(dialog.printPresses, 0);
 }
 

@@ -960,6 +960,17 @@ void TestPrintDialog::aPrinterThatTakesNoJobsIsWaitedFor()
     QCOMPARE(cups.administer({"Hall-3"}, "cupsaccept"), QString());
     QTRY_VERIFY_WITH_TIMEOUT(shown.find<QPushButton>("print")->isEnabled(), 15000);
     QVERIFY(!shown.isShown("conflictBar"));
+
+    // Between two looks: the server's word comes first, but not to the user.
+    QCOMPARE(cups.administer({"-r", "Closed again", "Hall-3"}, "cupsreject"), QString());
+    NoticeAnswer ok(1);
+    shown.dialog.pressPrint();
+    QTRY_VERIFY_WITH_TIMEOUT(!ok.text.isEmpty(), 15000);
+    QVERIFY2(ok.text.contains("“Hall-3” takes no jobs: Closed again. Choose another printer, or "
+                              "wait until it takes jobs again. (Hall-3: the print server at "),
+             qPrintable(ok.text));
+    QTRY_VERIFY_WITH_TIMEOUT(shown.isShown("conflictBar"), 1000);
+    QVERIFY(!shown.find<QPushButton>("print")->isEnabled());
 }
 
 void TestPrintDialog::theDesktopTellsThatAJobIsOut()
