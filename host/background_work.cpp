@@ -1,7 +1,10 @@
 #include "background_work.h"
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <iterator>
+#include <list>
 #include <mutex>
 #include <semaphore>
 #include <system_error>
@@ -12,11 +15,17 @@ namespace kelvo {
 
 namespace {
 
+struct Work
+{
+    std::thread thread;
+    bool hasEnded = false;
+};
+
 struct Running
 {
     std::mutex mutex;
     std::condition_variable ended;
-    int count = 0;
+    std::list<Work> works;
 };
 
 // Never destroyed: a thread may outlive every static object.
@@ -26,10 +35,31 @@ Running &running()
     return state;
 }
 
-void count(int change)
+// All of them have ended. What the libraries keep for a thread is gone only once it is
+// joined: a program that ends before tears it away, and leaks it at best.
+void join(std::list<Work> works)
+{
+    for (Work &work : works)
+        work.thread.join();
+}
+
+// With the lock.
+std::list<Work> takeEnded(std::list<Work> &works)
+{
+    std::list<Work> ended;
+    for (auto work = works.begin(); work != works.end();) {
+        const auto next = std::next(work);
+        if (work->hasEnded)
+            ended.splice(ended.end(), works, work);
+        work = next;
+    }
+    return ended;
+}
+
+void noteEnd(Work &work)
 {
     const std::lock_guard lock(running().mutex);
-    running().count += change;
+    work.hasEnded = true;
     running().ended.notify_all();
 }
 
@@ -37,18 +67,22 @@ void count(int change)
 
 bool startBackgroundWork(std::function<void()> work)
 {
-    count(1);
+    const std::lock_guard lock(running().mutex);
+    std::list<Work> &works = running().works;
+    join(takeEnded(works));
+    works.emplace_back();
+    const auto self = std::prev(works.end());
     try {
-        std::thread([work = std::move(work)]() mutable {
+        self->thread = std::thread([work = std::move(work), self]() mutable {
             work();
             work = nullptr; // lets go of what it owns before it counts as ended
-            count(-1);
-        }).detach();
-        return true;
+            noteEnd(*self);
+        });
     } catch (const std::system_error &) {
-        count(-1);
+        works.erase(self);
         return false;
     }
+    return true;
 }
 
 bool canStartThreads(int count)
@@ -76,8 +110,14 @@ QString noThreadReason()
 bool waitForBackgroundWork(int milliseconds)
 {
     std::unique_lock lock(running().mutex);
-    return running().ended.wait_for(lock, std::chrono::milliseconds(milliseconds),
-                                    [] { return running().count == 0; });
+    std::list<Work> &works = running().works;
+    const bool areAllEnded =
+        running().ended.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                                 [&works] { return std::ranges::all_of(works, &Work::hasEnded); });
+    std::list<Work> ended = takeEnded(works);
+    lock.unlock();
+    join(std::move(ended));
+    return areAllEnded;
 }
 
 } // namespace kelvo
