@@ -57,6 +57,32 @@ void showMoreFinishing(const PaperOutputPanelContext &panel)
     panel.controls.moreFinishingSummary->setText(names.join(QStringLiteral(", ")));
 }
 
+void tellTicketPlaces(MenuButton *finishing)
+{
+    constexpr struct
+    {
+        OSType command;
+        const char *option;
+    } rows[] = {
+        {kCommandNoStaple, "StapleLocation"},
+        {kCommandSingleStaple, "StapleLocation"},
+        {kCommandDualStaple, "StapleLocation"},
+        {kCommandMultipleStaples, "StapleLocation"},
+        {kCommandGenericPunch, "KVPunch"},
+        {kCommandNoPunch, "KVPunch"},
+        {kCommandTwoHoles, "KVPunch"},
+        {kCommandThreeHoles, "KVPunch"},
+        {kCommandFourHoles, "KVPunch"},
+        {kCommandNoFold, "KVFold"},
+        {kCommandBiFold, "KVFold"},
+        {kCommandCFold, "KVFold"},
+        {kCommandZFold, "KVFold"},
+        {kCommandZFoldHalfSheet, "KVFold"},
+    };
+    for (const auto &row : rows)
+        setTicketPlaces(finishing, {{kPPDChoices, QString::fromLatin1(row.option)}}, row.command);
+}
+
 void fillFromPpd(PopupButton *popup, const PaperOutputPanelContext &panel, const char *option,
                  const QStringList &readByName = {})
 {
@@ -66,16 +92,21 @@ void fillFromPpd(PopupButton *popup, const PaperOutputPanelContext &panel, const
         setEnabledWithLabel(popup, false);
 }
 
-// The map's words; where the device has none of them, they stay and cannot be chosen.
+// The map's words. A device without the option prints on one side, which cannot be
+// chosen there.
 void fillTwoSided(const PaperOutputPanelContext &panel)
 {
     PopupButton *popup = panel.controls.twoSided;
     PopulatePopupButtonFromMap(panel.bundle, popup, PlexMap, kJobContextJob, kNoCommand);
-    if (!popup || !hasOption(panel, "Duplex"))
+    if (!popup)
         return;
     Menu menu = popup->menu();
     const QString option = QStringLiteral("Duplex");
-    removeWhatIsNotOffered(menu, panel.ppd, option);
+    if (hasOption(panel, "Duplex"))
+        removeWhatIsNotOffered(menu, panel.ppd, option);
+    else
+        std::erase_if(menu.items,
+                      [](const MenuItem &item) { return item.reference != kPlexSimplex; });
     popup->setMenu(std::move(menu));
     setTicketPlaces(popup, {{kPPDChoices, option}});
 }
@@ -135,6 +166,7 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
     Menu finishing;
     PopulateFinishingMenu(finishing, panel.bundle);
     controls.finishingButton->setMenu(std::move(finishing));
+    tellTicketPlaces(controls.finishingButton);
     Menu more;
     PopulateMoreFinishingMenu(more, panel.bundle);
     controls.moreFinishing->setMenu(std::move(more));

@@ -11,6 +11,7 @@
 #include "setting_maps.h"
 #include "special_page_dialogs.h"
 #include "stock_summary.h"
+#include "ticket_places.h"
 #include "ticket_values.h"
 
 #include <QGroupBox>
@@ -225,6 +226,9 @@ void fillOptions(CFBundleRef bundle, PopupButton *options)
     menu.items.insert(std::ranges::find(menu.items, kFrontAndBackCovers, &MenuItem::reference),
                       same);
     options->setMenu(std::move(menu));
+    setTicketPlaces(options,
+                    {{kPPDChoices, QStringLiteral("KVFrontCoverSheet")},
+                     {kPPDChoices, QStringLiteral("KVBackCoverSheet")}});
 }
 
 void findSide(CoverSide &side, NeededControls &needed, std::int32_t controls)
