@@ -28,7 +28,8 @@
 //   IsPart                  true: dictionaries hold some of their keys
 //   Removed                 array of places (arrays of strings): what is taken away
 //   ChoiceWords             dictionary: "OPTION=CHOICE" → how the device that the choice
-//                           was made on calls it, "Stapling: Top Left"
+//                           was made on calls it, "Stapling: Top Left"; empty where it is
+//                           that device's default, and no loss on another one
 //
 // A whole ticket has words too, and, where that is known,
 //

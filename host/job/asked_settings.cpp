@@ -21,6 +21,14 @@ QString wordsKey(const QString &option, const QString &choice)
     return option + u'=' + choice;
 }
 
+// What a device that lacks a choice calls it. Of one that `ppd` has by default there is
+// nothing to be said: none is what others have.
+QString wordsElsewhere(const QString &option, const QString &choice, const PpdFile &ppd)
+{
+    const PpdOption *known = ppd.findOption(option);
+    return known && known->defaultChoice == choice ? QString() : settingWords(option, choice, &ppd);
+}
+
 } // namespace
 
 void AskedSettings::beginOn(TicketFile defaults)
@@ -31,6 +39,8 @@ void AskedSettings::beginOn(TicketFile defaults)
 
 void AskedSettings::lay(const TicketFile &file, Kind kind)
 {
+    if (!file.isPart && file.asked)
+        clear(); // a whole job's record
     m_layers.push_back(file);
     m_words.insert(file.choiceWords);
     TicketPlaces places = completed(placesOf(file), m_repeated);
@@ -144,7 +154,7 @@ void AskedSettings::learnWords(const PpdFile &ppd)
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
         if (offers(ppd, choice.key(), *choice))
             m_words.insert(wordsKey(choice.key(), *choice),
-                           settingWords(choice.key(), *choice, &ppd));
+                           wordsElsewhere(choice.key(), *choice, ppd));
     }
 }
 
@@ -158,11 +168,10 @@ TicketFile AskedSettings::preset(const TicketFile &ticket, const PpdFile *ppd) c
     const PPDDictionary &choices = preset.printSettings.ppdChoices;
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
         const QString key = wordsKey(choice.key(), *choice);
-        const QString words = ppd && offers(*ppd, choice.key(), *choice)
-            ? settingWords(choice.key(), *choice, ppd)
-            : m_words.value(key);
-        if (!words.isEmpty())
-            preset.choiceWords.insert(key, words);
+        if (ppd && offers(*ppd, choice.key(), *choice))
+            preset.choiceWords.insert(key, wordsElsewhere(choice.key(), *choice, *ppd));
+        else if (const auto known = m_words.constFind(key); known != m_words.cend())
+            preset.choiceWords.insert(key, *known);
     }
     return preset;
 }

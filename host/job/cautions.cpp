@@ -84,4 +84,14 @@ std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd)
                    settings};
 }
 
+std::optional<Caution> untoldCaution(const QStringList &settings)
+{
+    if (settings.isEmpty())
+        return std::nullopt;
+    return Caution{Weight::Noted,
+                   QStringLiteral("Not sent, for this printer reads no job tickets: %1.")
+                       .arg(settings.join(QStringLiteral(", "))),
+                   QStringLiteral("They are kept; choose a printer that reads them."), settings};
+}
+
 } // namespace kelvo

@@ -43,5 +43,7 @@ Caution repairedCaution();
 
 // The device lacks these settings, or nobody knows what it has: a queue without a PPD.
 std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd);
+// Settings that only a ticket can tell, of a job for a device that reads none.
+std::optional<Caution> untoldCaution(const QStringList &settings);
 
 } // namespace kelvo

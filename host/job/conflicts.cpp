@@ -203,8 +203,11 @@ QStringList missingOnDevice(const TicketFile &asked, const PpdFile *ppd)
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
         if (!lacks(ppd, choice.key(), *choice))
             continue;
-        const QString words = asked.choiceWords.value(choice.key() + u'=' + *choice).simplified();
-        missing << (words.isEmpty() ? settingWords(choice.key(), *choice, ppd) : words);
+        const auto words = asked.choiceWords.constFind(choice.key() + u'=' + *choice);
+        if (words == asked.choiceWords.cend())
+            missing << settingWords(choice.key(), *choice, ppd);
+        else if (!words->isEmpty())
+            missing << words->simplified();
     }
     return missing;
 }

@@ -497,6 +497,12 @@ QStringList DialogSession::missing() const
     return missingOnDevice(m_asked.asked(), m_ppd.get());
 }
 
+QStringList DialogSession::untold() const
+{
+    return readsTickets(m_ppd.get()) ? QStringList()
+                                     : entriesInWords(m_asked.asked().printSettings, m_entryWords);
+}
+
 ConflictReport DialogSession::conflicts()
 {
     if (!m_ppd)

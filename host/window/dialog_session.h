@@ -98,6 +98,7 @@ public:
     const SpecialSheets &specialSheets();
     const SpecialSheetKeys &specialSheetKeys();
     QStringList missing() const; // what is asked for and this printer lacks, in words
+    QStringList untold() const;  // and what only a ticket says, where it reads none
 
     bool isDocumentPending() const { return m_document.isNull() && m_documentProblem.isEmpty(); }
     const Document &document() const { return m_document; }              // null: not (yet) there

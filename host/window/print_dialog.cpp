@@ -748,6 +748,11 @@ void PrintDialog::takeOutcome(const PrintOutcome &outcome)
             printLine(stderr,
                       QStringLiteral("kelvo-print: %1: not sent, %2")
                           .arg(setting, whyNotSent(m_session->ppd().get())));
+        for (const QString &setting : m_session->untold())
+            printLine(stderr,
+                      QStringLiteral("kelvo-print: %1: not sent, this printer reads no "
+                                     "tickets")
+                          .arg(setting));
         printLine(stdout, outcome.place + u' ' + m_session->title());
         if (m_isDriven || m_isInterrupted)
             end(ExitStatus::Printed);

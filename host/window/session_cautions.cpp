@@ -56,6 +56,7 @@ void SessionCautions::look(const QString &place)
         addCover(m_covers.back(), keys.backCover.leftOut);
     }
     add(missingCaution(m_session.missing(), m_session.ppd() != nullptr));
+    add(untoldCaution(m_session.untold()));
 }
 
 void SessionCautions::forget()

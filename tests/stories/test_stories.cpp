@@ -1097,6 +1097,11 @@ void TestStories::keepsWhatIsChosenAsItIsShown_data()
         << QStringList{settings + "com.kelvo.print.AdvancedBookletLayoutOrderStr",
                        settings + "com.kelvo.print.JobType/JobType", "PPDChoices/Duplex",
                        "PPDChoices/MediaColor"};
+    QTest::newRow("menus that name what is set")
+        << QByteArray("tab 1\nitem @finishingButton 'Stp0'\nitem @finishingButton 'Fld0'\n"
+                      "click @coversButton\nchoose @coverOptions 1\nclick @okButton\n")
+        << QStringList{"PPDChoices/KVBackCoverSheet", "PPDChoices/KVFold",
+                       "PPDChoices/KVFrontCoverSheet", "PPDChoices/StapleLocation"};
     QTest::newRow("boxes and numbers")
         << QByteArray("tab 2\ncheck @mirrorImage off\ncheck @tonerSaver off\n"
                       "set @lightenDarken 0\n")
@@ -1131,12 +1136,14 @@ void TestStories::keepsWhatIsChosenAsItIsShown()
     QTEST(places, "expected");
 }
 
-// What that device has by itself is nobody's loss here.
+// What that device has by itself is nobody's loss here, also where it was chosen.
 void TestStories::missesOfAnotherDevicesTicketWhatWasAsked()
 {
     const Desk desk;
+    write(desk.path("ask.kps"),
+          "tab 1\nchoose @outputDestination key Auto\ntab 2\ncheck @mirrorImage on\nprint\n");
     QENDED(desk.run({"--demo", "--no-window", "-o", "KVOutputMode=Enhanced", "-o", "Duplex=None",
-                     "--ticket-out", "full.plist", "--to", "full"}),
+                     "--script", "ask.kps", "--ticket-out", "full.plist", "--to", "full"}),
            0);
     const Run bare = desk.run({"--ppd", KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-bare.ppd",
                                "--no-window", "--ticket-in", "full.plist", "--ticket-out",
@@ -1154,6 +1161,23 @@ void TestStories::missesOfAnotherDevicesTicketWhatWasAsked()
     QVERIFY(full.value().asked && !full.value().asked->empty());
     QCOMPARE(again.value().asked, full.value().asked);
     QCOMPARE(again.value().choiceWords, full.value().choiceWords);
+
+    const Run untold = desk.run({"--ppd", testPpds + "no-ticket.ppd", "--no-window", "--ticket-in",
+                                 "full.plist", "--to", "untold", documentPath});
+    QENDED(untold, 0);
+    QVERIFY2(untold.err.contains("Mirror image: not sent, this printer reads no tickets\n"),
+             qPrintable(untold.err));
+
+    // The whole record of a job leaves nothing to the site's preset.
+    write(desk.sitePresetFolder() + "/default.plist",
+          CFPropertyListCreateXMLData(
+              propertyListFrom(ticketWith({{"KVPunch", "3HolePunch"}, {"KVOutputMode", "Std"}})))
+              .value());
+    QENDED(desk.run({"--demo", "--no-window", "--ticket-in", "full.plist", "--to", "same"}), 0);
+    auto same = optionsIn(desk.path("same/options")), first = optionsIn(desk.path("full/options"));
+    for (auto *options : {&same, &first})
+        options->remove(ticketOption); // of one job
+    QCOMPARE(same, first);
 }
 
 void TestStories::mendsAConflict()
