@@ -580,7 +580,8 @@ Done click(QWidget *control)
     if (Done problem = unusable(control))
         return problem;
     auto *button = qobject_cast<QAbstractButton *>(control);
-    if (!button)
+    // A click on a menu's button would stay in the menu until somebody picks an item.
+    if (!button || is<MenuButton>(control))
         return wrongKind(control, QStringLiteral("cannot be clicked"));
     if (button->focusPolicy() & Qt::ClickFocus)
         button->setFocus();

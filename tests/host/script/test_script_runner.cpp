@@ -2,6 +2,7 @@
 
 #include "event.h"
 #include "input_limits.h"
+#include "menu_button.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "popup_button.h"
@@ -47,6 +48,11 @@ public:
                               .enabled = false});
         popup->setMenu(menu);
         layout->addWidget(popup);
+        auto *menuButton = new MenuButton;
+        menuButton->setObjectName(QStringLiteral("presetMenu"));
+        menuButton->setMenu(menu);
+        layout->addWidget(menuButton);
+        menuButton->setFocus();
         field = new QLineEdit;
         field->setObjectName(QStringLiteral("passcode"));
         field->setEchoMode(QLineEdit::Password);
@@ -357,6 +363,11 @@ void TestScriptRunner::saysWhatWouldHaveWorked_data()
         "@bannerSheet has no item \"Bannr\", the nearest is Banner");
     row("click @bannerSheet",
         "@bannerSheet is a PopupButton and cannot be clicked; it takes choose, item");
+    row("click @presetMenu",
+        "@presetMenu is a MenuButton and cannot be clicked; it takes item, choose");
+    row("key \"Space\"",
+        "a menu has opened, which lines cannot pick from; \"item\" and \"choose\" pick its items "
+        "while it is closed");
     row("type @passcode \"47x\"",
         "@passcode does not take the whole text; it takes 1 to 12 digits");
     row("expect @passcode value 4711",
