@@ -635,20 +635,25 @@ Done type(QWidget *control, const QString &text)
     if (isReadOnly(control))
         return notOffered(control, QStringLiteral("is read-only"));
     bool taken = false;
-    if (auto *spin = qobject_cast<SpinField *>(control))
-        taken = spin->typeText(text);
-    else if (qobject_cast<QLineEdit *>(control) || qobject_cast<QPlainTextEdit *>(control)
-             || (qobject_cast<QComboBox *>(control)
-                 && qobject_cast<QComboBox *>(control)->isEditable()))
+    if (auto *spin = qobject_cast<SpinField *>(control)) {
+        // Nobody would see another number than the typed one appear when it is left.
+        taken = spin->typeText(text) && spin->willTakeTypedText();
+        if (!taken)
+            spin->setValue(spin->value());
+    } else if (qobject_cast<QLineEdit *>(control) || qobject_cast<QPlainTextEdit *>(control)
+               || (qobject_cast<QComboBox *>(control)
+                   && qobject_cast<QComboBox *>(control)->isEditable())) {
         taken = typeText(control, text);
-    else
+    } else {
         return wrongKind(control, QStringLiteral("takes no text"));
+    }
     if (taken)
         return {};
     // A refused text may be a secret: it is not repeated.
     const QString takes = typedInto(control);
     return notOffered(control,
-                      QStringLiteral("does not take the whole text")
+                      (is<SpinField>(control) ? QStringLiteral("does not take what was typed")
+                                              : QStringLiteral("does not take the whole text"))
                           + (takes.isEmpty() ? QString() : QStringLiteral("; it takes ") + takes));
 }
 

@@ -7,6 +7,7 @@
 #include "notice.h"
 #include "popup_button.h"
 #include "secrets.h"
+#include "spin_field.h"
 #include "standard_error.h"
 
 #include <QCheckBox>
@@ -58,6 +59,11 @@ public:
         field->setEchoMode(QLineEdit::Password);
         setInputLimits(field, {1, 12, InputLimits::decimalDigits()});
         layout->addWidget(field);
+        copies = new SpinField;
+        copies->setObjectName(QStringLiteral("copies"));
+        copies->setMinimum(1);
+        copies->setMaximum(9999);
+        layout->addWidget(copies);
         box = new QCheckBox(QStringLiteral("Collate"));
         box->setObjectName(QStringLiteral("collate"));
         box->setEnabled(false);
@@ -131,6 +137,7 @@ public:
     PrintSession session;
     PopupButton *popup;
     QLineEdit *field;
+    SpinField *copies;
     QCheckBox *box;
     // What a signal does, or a dialog that cannot be begun.
     void close(ExitStatus status) { m_finished = status; }
@@ -370,6 +377,9 @@ void TestScriptRunner::saysWhatWouldHaveWorked_data()
         "while it is closed");
     row("type @passcode \"47x\"",
         "@passcode does not take the whole text; it takes 1 to 12 digits");
+    for (const char *typed : {"0", "10000", "", "-", "1.5"})
+        row(qPrintable(QStringLiteral("type @copies \"%1\"").arg(typed)),
+            "@copies does not take what was typed; it takes numbers from 1 to 9999");
     row("expect @passcode value 4711",
         "@passcode: it has no value; it has text, enabled, visible, focus");
     row("click @qqqqqqqqqqqqqqqqqqqq",
@@ -384,6 +394,7 @@ void TestScriptRunner::saysWhatWouldHaveWorked()
     const StandardError written;
     run(dialog, line);
     QCOMPARE(QString::fromUtf8(written.text()), QStringLiteral("t.kps:1: %1\n").arg(said));
+    QCOMPARE(dialog.copies->text(), QStringLiteral("1")); // nothing refused stays in it
 }
 
 void TestScriptRunner::printsAtTheEndWhenAsked()
