@@ -1,5 +1,6 @@
 #include "inspector.h"
 
+#include "event.h"
 #include "history_field.h"
 #include "input_limits.h"
 #include "list_view.h"
@@ -765,6 +766,20 @@ Done drag(QWidget *control, double dx, double dy)
     return {};
 }
 
+Done command(QWidget *window, OSType code)
+{
+    // Taking it may close the window.
+    const QString title = window->windowTitle();
+    if (sendCommand(window, code) != eventNotHandledErr)
+        return {};
+    return Problem{
+        Failure::NotOffered,
+        QStringLiteral("nothing in the window \"%1\" takes the command '%2'; \"controls\" "
+                       "lists the commands of its buttons, and those of menus, which "
+                       "\"item\" picks")
+            .arg(title, charactersOf(code))};
+}
+
 Done pressKey(QWidget *window, const QString &keys)
 {
     const QKeySequence sequence(keys, QKeySequence::PortableText);
@@ -931,6 +946,8 @@ QJsonObject describe(QWidget *control)
     if (!control->accessibleName().isEmpty())
         object[QStringLiteral("label")] = control->accessibleName();
     object[QStringLiteral("text")] = textOfControl(control);
+    if (const auto sent = commandOf(control))
+        object[QStringLiteral("command")] = charactersOf(*sent);
     object[QStringLiteral("enabled")] = control->isEnabled();
     object[QStringLiteral("visible")] = control->isVisible();
     if (const auto value = valueOfControl(control))

@@ -361,9 +361,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     case ScriptCommand::File:
         return lineProblem(inspector::answerFileChooser(front(), word(0)));
     case ScriptCommand::Command:
-        // Nobody need take it: the platform itself may be the one that is meant.
-        sendCommand(front(), *line.code);
-        return {};
+        return lineProblem(inspector::command(front(), *line.code));
     case ScriptCommand::Answer: {
         const ShownNotice notice = frontNotice();
         if (!notice.isShown())

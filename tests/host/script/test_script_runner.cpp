@@ -232,6 +232,8 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
     row("value of two rows", "choose @bannerSheet 1", ExitStatus::WrongUsage);
     row("disabled control", "check @collate on", ExitStatus::NotOffered);
     row("control of another kind", "check @bannerSheet on", ExitStatus::WrongUsage);
+    row("command that nobody takes", "command 'zzzz'", ExitStatus::NotOffered);
+    row("command that closes its dialog", "click @setup\ncommand 'not!'", ExitStatus::Printed);
     row("expectation not met", "expect @bannerSheet value 7", ExitStatus::WrongUsage);
     row("expectation of a disabled control", "expect @collate enabled false", ExitStatus::Printed);
     row("ticket without the key",
@@ -375,6 +377,9 @@ void TestScriptRunner::saysWhatWouldHaveWorked_data()
     row("key \"Space\"",
         "a menu has opened, which lines cannot pick from; \"item\" and \"choose\" pick its items "
         "while it is closed");
+    row("command 'zzzz'",
+        "nothing in the window \"Print\" takes the command 'zzzz'; \"controls\" lists the commands "
+        "of its buttons, and those of menus, which \"item\" picks");
     row("type @passcode \"47x\"",
         "@passcode does not take the whole text; it takes 1 to 12 digits");
     for (const char *typed : {"0", "10000", "", "-", "1.5"})
