@@ -11,6 +11,7 @@
 #include "standard_error.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -29,6 +30,9 @@ public:
         auto *layout = new QVBoxLayout(&m_window);
         m_window.setObjectName(QStringLiteral("printDialog"));
         m_window.setWindowTitle(QStringLiteral("Print"));
+        auto *icon = new QLabel;
+        icon->setObjectName(QStringLiteral("bannerSheetIcon"));
+        layout->addWidget(icon);
         popup = new PopupButton;
         popup->setObjectName(QStringLiteral("bannerSheet"));
         setControlID(popup, {kPanelSignature, 614});
@@ -387,6 +391,10 @@ void TestScriptRunner::saysWhatWouldHaveWorked_data()
             "@copies does not take what was typed; it takes numbers from 1 to 9999");
     row("expect @passcode value 4711",
         "@passcode: it has no value; it has text, enabled, visible, focus");
+    for (const char *name : {"@bannerShee", "@bannersheet", "@banerSheet"})
+        row(qPrintable(QStringLiteral("choose %1 1").arg(QLatin1String(name))),
+            qPrintable(QStringLiteral("%1 is not in the window, did you mean @bannerSheet?")
+                           .arg(QLatin1String(name))));
     row("click @qqqqqqqqqqqqqqqqqqqq",
         "@qqqqqqqqqqqqqqqqqqqq is not in the window; \"controls\" lists what is");
 }
