@@ -223,7 +223,7 @@ Result<QString> readSecret(const QString &path)
 // files that a run writes.
 void removeLeftoversOfKilledRuns(const CommandLine &line)
 {
-    removeLeftovers(QDir::tempPath(), kTemporaryFolderPrefix, LeftoverKind::Folder);
+    removeLeftovers(temporaryPath(), kTemporaryFolderPrefix, LeftoverKind::Folder);
     QStringList folders = {userPreferencesFolder(), PresetStore::ownFolder(),
                            localApplicationSupportFolder() + QStringLiteral("/Kelvo")};
     if (line.toFolder)

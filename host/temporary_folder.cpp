@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSet>
 
 #include <mutex>
@@ -25,9 +26,16 @@ Folders &folders()
 
 } // namespace
 
+QString temporaryPath()
+{
+    // Qt has no name for a folder that is missing; "/" would follow from none.
+    const QString path = QDir::tempPath();
+    return path.isEmpty() ? QFileInfo(qEnvironmentVariable("TMPDIR")).absoluteFilePath() : path;
+}
+
 TemporaryFolder::TemporaryFolder()
 {
-    auto held = HeldPath::make(QDir::tempPath(), kTemporaryFolderPrefix, LeftoverKind::Folder);
+    auto held = HeldPath::make(temporaryPath(), kTemporaryFolderPrefix, LeftoverKind::Folder);
     if (!held) {
         m_problem = held.error().detail;
         return;

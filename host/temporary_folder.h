@@ -6,6 +6,10 @@
 
 namespace kelvo {
 
+// The folder that temporary files go to, absolute; also where it is missing. TMPDIR says
+// which, else the system.
+QString temporaryPath();
+
 // A folder of rights 0700 that goes with its owner; also where the owner is a
 // thread that the program leaves behind (see removeTemporaryFolders), and at the
 // next start where the program was killed (see removeLeftovers).

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace kelvo {
@@ -30,12 +31,14 @@ QString nearestName(const QString &name, const QStringList &candidates)
 {
     const QString wanted = name.left(200).toLower();
     QString nearest;
-    int best = static_cast<int>(wanted.size()) / 2 + 1;
+    std::pair best(static_cast<int>(wanted.size()) / 2 + 1, 0);
     for (const QString &candidate : candidates) {
         const QString have = candidate.left(200).toLower();
-        // A name that only continues what was typed is near, however long it is.
-        const int distance =
-            !wanted.isEmpty() && have.startsWith(wanted) ? 1 : editDistance(wanted, have);
+        // A name that only continues what was typed is near, however long it is; among
+        // several of these the one with the least to add is.
+        const int letters = editDistance(wanted, have);
+        const bool continues = !wanted.isEmpty() && have.startsWith(wanted);
+        const std::pair distance(continues ? std::min(letters, 1) : letters, letters);
         if (distance < best) {
             best = distance;
             nearest = candidate;

@@ -1,5 +1,6 @@
 #include "inspector.h"
 
+#include "event.h"
 #include "history_field.h"
 #include "input_limits.h"
 #include "list_view.h"
@@ -580,7 +581,8 @@ Done click(QWidget *control)
     if (Done problem = unusable(control))
         return problem;
     auto *button = qobject_cast<QAbstractButton *>(control);
-    if (!button)
+    // A click on a menu's button would stay in the menu until somebody picks an item.
+    if (!button || is<MenuButton>(control))
         return wrongKind(control, QStringLiteral("cannot be clicked"));
     if (button->focusPolicy() & Qt::ClickFocus)
         button->setFocus();
@@ -634,20 +636,25 @@ Done type(QWidget *control, const QString &text)
     if (isReadOnly(control))
         return notOffered(control, QStringLiteral("is read-only"));
     bool taken = false;
-    if (auto *spin = qobject_cast<SpinField *>(control))
-        taken = spin->typeText(text);
-    else if (qobject_cast<QLineEdit *>(control) || qobject_cast<QPlainTextEdit *>(control)
-             || (qobject_cast<QComboBox *>(control)
-                 && qobject_cast<QComboBox *>(control)->isEditable()))
+    if (auto *spin = qobject_cast<SpinField *>(control)) {
+        // Nobody would see another number than the typed one appear when it is left.
+        taken = spin->typeText(text) && spin->willTakeTypedText();
+        if (!taken)
+            spin->setValue(spin->value());
+    } else if (qobject_cast<QLineEdit *>(control) || qobject_cast<QPlainTextEdit *>(control)
+               || (qobject_cast<QComboBox *>(control)
+                   && qobject_cast<QComboBox *>(control)->isEditable())) {
         taken = typeText(control, text);
-    else
+    } else {
         return wrongKind(control, QStringLiteral("takes no text"));
+    }
     if (taken)
         return {};
     // A refused text may be a secret: it is not repeated.
     const QString takes = typedInto(control);
     return notOffered(control,
-                      QStringLiteral("does not take the whole text")
+                      (is<SpinField>(control) ? QStringLiteral("does not take what was typed")
+                                              : QStringLiteral("does not take the whole text"))
                           + (takes.isEmpty() ? QString() : QStringLiteral("; it takes ") + takes));
 }
 
@@ -757,6 +764,20 @@ Done drag(QWidget *control, double dx, double dy)
         send(QEvent::MouseMove, from + (to - from) * step / 4, Qt::NoButton, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     return {};
+}
+
+Done command(QWidget *window, OSType code)
+{
+    // Taking it may close the window.
+    const QString title = window->windowTitle();
+    if (sendCommand(window, code) != eventNotHandledErr)
+        return {};
+    return Problem{
+        Failure::NotOffered,
+        QStringLiteral("nothing in the window \"%1\" takes the command '%2'; \"controls\" "
+                       "lists the commands of its buttons, and those of menus, which "
+                       "\"item\" picks")
+            .arg(title, charactersOf(code))};
 }
 
 Done pressKey(QWidget *window, const QString &keys)
@@ -925,6 +946,8 @@ QJsonObject describe(QWidget *control)
     if (!control->accessibleName().isEmpty())
         object[QStringLiteral("label")] = control->accessibleName();
     object[QStringLiteral("text")] = textOfControl(control);
+    if (const auto sent = commandOf(control))
+        object[QStringLiteral("command")] = charactersOf(*sent);
     object[QStringLiteral("enabled")] = control->isEnabled();
     object[QStringLiteral("visible")] = control->isVisible();
     if (const auto value = valueOfControl(control))

@@ -81,7 +81,9 @@ Done setTime(QWidget *control, const QTime &time);
 Done select(QWidget *control, const std::vector<int> &rows); // from 1; {0}: the empty area
 Done doubleClick(QWidget *control, int row);                 // from 1; 0: the empty area
 Done drag(QWidget *control, double dx, double dy);           // from its middle, logical pixels
-Done pressKey(QWidget *window, const QString &keys);         // "Ctrl+P", to the focus
+// NotOffered when nobody takes it.
+Done command(QWidget *window, OSType code);
+Done pressKey(QWidget *window, const QString &keys); // "Ctrl+P", to the focus
 Done answerFileChooser(QWidget *window, const QString &path);
 
 // Whether what the control holds is a secret: its window's description says so

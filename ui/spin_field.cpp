@@ -152,6 +152,12 @@ bool SpinField::typeText(const QString &text)
     return edit->text() == text;
 }
 
+bool SpinField::willTakeTypedText() const
+{
+    int typed = 0;
+    return valueFrom(lineEdit()->text(), &typed) && allowed(typed) == typed;
+}
+
 void SpinField::takeTypedText()
 {
     if (lineEdit()->text() == textFor(m_value))

@@ -50,6 +50,9 @@ public:
     bool choose(int value);             // as the user, clamped; false when disabled
     bool typeText(const QString &text); // replaces the text as a user types it; false when refused
 
+    // Whether leaving the field would make what stands in it the value: not so for what
+    // is no number, or one that would become another.
+    bool willTakeTypedText() const;
     // Makes the typed text the value, as leaving the field does.
     void takeTypedText();
 

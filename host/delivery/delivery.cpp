@@ -61,7 +61,7 @@ Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job
 {
     auto folder = std::make_shared<TemporaryFolder>();
     if (!folder->isValid())
-        return folderNotMade(folder->errorString());
+        return folderNotMade(temporaryPath(), folder->errorString());
     job.pdfPath = folder->filePath(QStringLiteral("document.pdf"));
     job.pdfOwner = folder;
     return replaceTicket(document.pdfPath(), withTicket ? job.ticket : QByteArray(), job.pdfPath);

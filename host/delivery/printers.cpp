@@ -2,6 +2,7 @@
 
 #include "cups_connection.h"
 #include "file_store.h"
+#include "output_file.h"
 #include "queue_ppds.h"
 #include "temporary_folder.h"
 
@@ -250,6 +251,8 @@ void PrinterDirectory::fetchPpd(const QString &printer, int timeoutMs)
             const auto bytes = readPpd(printer, patience);
             if (!bytes)
                 return bytes.error();
+            if (!shared->folder.isValid())
+                return folderNotMade(temporaryPath(), shared->folder.errorString());
             const QString path = shared->newPpdPath();
             if (auto written = replaceFile(path, bytes.value()); !written)
                 return written.error();

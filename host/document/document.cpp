@@ -132,7 +132,7 @@ Result<std::unique_ptr<TemporaryFolder>> DocumentReader::makeFolder()
 {
     auto folder = std::make_unique<TemporaryFolder>();
     if (!folder->isValid())
-        return folderNotMade(folder->errorString());
+        return folderNotMade(temporaryPath(), folder->errorString());
     return folder;
 }
 

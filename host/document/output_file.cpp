@@ -2,7 +2,6 @@
 
 #include "size_limits.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -42,11 +41,14 @@ Error notWritable(const QString &path, int errorNumber)
     return Error{Error::Code::NotWritable, path, qt_error_string(errorNumber)};
 }
 
-Error folderNotMade(const QString &reason)
+Error folderNotMade(const QString &folder, const QString &reason)
 {
-    return isFull(QDir::tempPath())
-        ? notWritable(QDir::temp().filePath(QStringLiteral("x")), ENOSPC)
-        : Error{Error::Code::NotWritable, QDir::tempPath(), reason};
+    if (isFull(folder))
+        return notWritable(folder + QLatin1String("/x"), ENOSPC);
+    return Error{Error::Code::NotWritable, folder,
+                 QStringLiteral("the folder for temporary files is missing or cannot be written "
+                                "(%1); set TMPDIR to another one")
+                     .arg(reason)};
 }
 
 Result<OutputFile> OutputFile::create(const QString &path)

@@ -44,7 +44,8 @@ bool isFull(const QString &folder);
 // full, and what to do. 0: the reason was lost on the way.
 Error notWritable(const QString &path, int errorNumber);
 
-// The error where no temporary folder could be made, for the `reason` that Qt gives.
-Error folderNotMade(const QString &reason);
+// The error where no folder could be made in `folder`, the one for temporary files, for
+// the `reason` that the system gives: it is full, missing, or closed to the user.
+Error folderNotMade(const QString &folder, const QString &reason);
 
 } // namespace kelvo

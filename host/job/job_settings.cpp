@@ -166,6 +166,36 @@ std::optional<QString> findPageSizeName(const QString &name, const PpdFile &ppd)
     return std::nullopt;
 }
 
+// The page sizes that the user can name.
+QStringList paperNames(const PpdFile &ppd)
+{
+    QStringList names;
+    for (const PpdPageSize &size : ppd.pageSizes())
+        names << size.name;
+    if (ppd.customPageLimits())
+        names << QStringLiteral("Custom.WIDTHxHEIGHT");
+    return names;
+}
+
+// What is wrong with a custom size that the device does not have, and how one is written;
+// empty where `name` means none.
+QString customSizeProblem(const QString &name, const PpdFile &ppd)
+{
+    if (name.section(u'.', 0, 0).compare(QLatin1String("Custom"), Qt::CaseInsensitive) != 0)
+        return {};
+    const auto limits = ppd.customPageLimits();
+    if (!limits)
+        return QStringLiteral("this printer takes no custom sizes");
+    const auto millimetres = [](double points) {
+        return QString::number(std::round(points / 72 * 254) / 10);
+    };
+    return QStringLiteral("a custom size is written Custom.WIDTHxHEIGHT with in, mm, cm or pt "
+                          "behind it; this printer takes widths from %1 to %2 mm and heights "
+                          "from %3 to %4 mm")
+        .arg(millimetres(limits->minWidth), millimetres(limits->maxWidth),
+             millimetres(limits->minHeight), millimetres(limits->maxHeight));
+}
+
 const PpdOption *findOptionInAnyCase(const QString &name, const PpdFile *ppd)
 {
     return ppd ? ppd->findOption(name) : nullptr; // libcups compares without case
@@ -244,6 +274,11 @@ Result<TicketPlaces> applyPpdChoice(const Request &request, const PpdOption &opt
         || option.keyword == QLatin1String("PageRegion"); // the same paper, fed by hand
     const auto choice = isPaper ? findPageSizeName(request.value, *request.ppd)
                                 : findChoiceName(request.value, option);
+    if (!choice && isPaper) {
+        const QString problem = customSizeProblem(request.value, *request.ppd);
+        return problem.isEmpty() ? request.unknownValue(paperNames(*request.ppd))
+                                 : request.error(Code::NotFound, problem);
+    }
     if (!choice)
         return request.unknownValue(choiceNames(option));
     if (isPaper)
@@ -263,9 +298,7 @@ Result<TicketPlaces> applyMedia(const Request &request)
                               [&](JobSettings &settings) { settings.paperName = request.value; });
     QString paper;
     PPDDictionary choices;
-    QStringList known;
-    for (const PpdPageSize &size : request.ppd->pageSizes())
-        known << size.name;
+    QStringList known = paperNames(*request.ppd);
     const PpdOption *others[] = {request.ppd->findOption(QStringLiteral("InputSlot")),
                                  request.ppd->findOption(QStringLiteral("MediaType"))};
     for (const PpdOption *option : others) {
@@ -287,10 +320,13 @@ Result<TicketPlaces> applyMedia(const Request &request)
             found = true;
             break;
         }
-        if (!found)
+        if (!found) {
+            const QString problem = customSizeProblem(part, *request.ppd);
             return request.error(Code::NotFound,
                                  QStringLiteral("this printer has no paper %1").arg(part)
-                                     + nearestOrAll(part, known));
+                                     + (problem.isEmpty() ? nearestOrAll(part, known)
+                                                          : QStringLiteral("; ") + problem));
+        }
     }
     TicketPlaces places;
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)

@@ -17,6 +17,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMenu>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
@@ -119,6 +120,7 @@ struct ScriptRunner::Private
     LineDone expect(const ScriptLine &line, QWidget *control);
     LineDone expectTicket(const ScriptLine &line);
     LineDone screenshot(const QString &file);
+    bool checkMenu();
     bool checkNotice();
     bool checkPrint();
     void finish();
@@ -172,6 +174,8 @@ void ScriptRunner::Private::step()
         end(*closed); // by a signal, by the user, or because nothing could be begun
         return;
     }
+    if (!checkMenu())
+        return;
     // A closed dialog may have been in the middle of something, and stay so.
     if (!closed && (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown()))) {
         tick.start(busyWaitMs);
@@ -211,6 +215,23 @@ void ScriptRunner::Private::run(const ScriptLine &line)
         closedByLine = true;
     if (problem && !hasEnded)
         fail(line.number, *problem);
+}
+
+// Keys can open a menu, and its button stays down, and the dialog busy, until somebody
+// picks an item.
+bool ScriptRunner::Private::checkMenu()
+{
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    if (!menu)
+        return true;
+    while (menu) {
+        menu->close();
+        menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    }
+    fail(next == 0 ? 0 : lines[next - 1].number,
+         wrong(QStringLiteral("a menu has opened, which lines cannot pick from; \"item\" and "
+                              "\"choose\" pick its items while it is closed")));
+    return false;
 }
 
 // A notice must be met by the line after the one that brought it up.
@@ -340,9 +361,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     case ScriptCommand::File:
         return lineProblem(inspector::answerFileChooser(front(), word(0)));
     case ScriptCommand::Command:
-        // Nobody need take it: the platform itself may be the one that is meant.
-        sendCommand(front(), *line.code);
-        return {};
+        return lineProblem(inspector::command(front(), *line.code));
     case ScriptCommand::Answer: {
         const ShownNotice notice = frontNotice();
         if (!notice.isShown())

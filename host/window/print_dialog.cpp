@@ -177,6 +177,12 @@ PrintDialog::PrintDialog(DialogOptions options)
         m_session->choosePrinter(name);
         m_printer->setPrinters(m_session->printers(), m_session->printerName());
     });
+    // Installed first, so asked last: the shell shows the tab and passes the command on.
+    m_handler = installEventHandler(this, [this](const Event &event) -> OSStatus {
+        const bool isTab = event.kind == EventKind::Command
+            && (event.command == kNextTab || event.command == kPreviousTab);
+        return isTab && m_session->panels() ? noErr : eventNotHandledErr;
+    });
     connect(m_printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
     connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);

@@ -167,6 +167,7 @@ private:
     ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
     QString m_printProblem;
     std::optional<ExitStatus> m_finished;
+    EventHandlerRef m_handler;
 };
 
 } // namespace kelvo

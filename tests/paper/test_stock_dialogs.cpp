@@ -9,6 +9,7 @@
 #include "stock_properties.h"
 #include "tab_stock_dialogs.h"
 
+#include "input_limits.h"
 #include "inspector.h"
 #include "installed_features.h"
 #include "modal_dialog.h"
@@ -362,7 +363,7 @@ void TestStockDialogs::tabsOfASetAreCounted()
     Stock stock;
     inNextDialog([](const Front &front) {
         QCOMPARE(front.value("KPDE 20100"), QStringLiteral("3"));
-        QVERIFY(front.type("KPDE 20100", "300"));
+        typeText(front.control("KPDE 20100"), "300"); // leaving the field makes it the most
         QVERIFY(front.click("@okButton"));
     });
     QCOMPARE(
@@ -452,7 +453,7 @@ void TestStockDialogs::descriptionSetsAndUnsets()
         QVERIFY(!front.isEnabled("@stockWeight"));
         QCOMPARE(front.text("@stockWeightUnset"), QStringLiteral("Use job setting"));
         QVERIFY(front.check("@stockWeightUnset", false));
-        QVERIFY(front.type("@stockWeight", "400"));
+        typeText(front.control("@stockWeight"), "400");
         QVERIFY(!front.isEnabled("@stockCoatingType"));
         QVERIFY(front.choose("@stockSidesCoated", 3));
         QVERIFY(front.choose("@stockCoatingType", 2));

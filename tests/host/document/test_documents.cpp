@@ -177,6 +177,7 @@ private slots:
     void saysThatTheDiskIsFull_data();
     void saysThatTheDiskIsFull();
     void saysThatTheDiskIsFullWhenCutting();
+    void saysThatNoTemporaryFileCanBeMade();
     void doesNotWaitForASilentPipe();
     void stopsWhenCancelled();
     void namesTheMissingPackage();
@@ -743,6 +744,24 @@ void TestDocuments::saysThatTheDiskIsFullWhenCutting()
 
     QVERIFY(!cut);
     QCOMPARE(cut.error().code, Error::Code::NotWritable);
+}
+
+void TestDocuments::saysThatNoTemporaryFileCanBeMade()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    const QString path = file("document", "text");
+    QVERIFY(QDir().mkdir("closed") && QFile::setPermissions("closed", QFile::ReadOwner));
+    const QString closed = QFileInfo("closed").canonicalFilePath();
+    for (const QString &folder : {QStringLiteral("/no/such folder"), closed}) {
+        qputenv("TMPDIR", folder.toUtf8());
+        const Result<Document> document = open(path);
+        qputenv("TMPDIR", before);
+        QVERIFY(!document);
+        QCOMPARE(document.error().code, Error::Code::NotWritable);
+        QCOMPARE(document.error().where, folder);
+        QVERIFY2(document.error().detail.contains("set TMPDIR to another"),
+                 qPrintable(document.error().text()));
+    }
 }
 
 void TestDocuments::doesNotWaitForASilentPipe()

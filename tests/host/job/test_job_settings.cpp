@@ -212,6 +212,13 @@ void TestJobSettings::refuseOptions_data()
     row("unknown paper", "media", "Leagl", Code::NotFound, "did you mean Legal?");
     row("unknown part of media", "media", "A4,Tray9", Code::NotFound, "Tray9");
     row("custom paper too long", "media", "Custom.300x1400", Code::NotFound, "Custom.300x1400");
+    const char *custom = "Custom.WIDTHxHEIGHT with in, mm, cm or pt behind it; this printer takes "
+                         "widths from 88.9 to 330.2 mm and heights from 127 to 482.6 mm";
+    row("custom paper without a size", "PageSize", "Custom", Code::NotFound, custom);
+    row("custom page outside the limits", "PageSize", "Custom.10x20in", Code::NotFound, custom);
+    row("custom media outside the limits", "media", "Custom.50x50mm", Code::NotFound, custom);
+    row("custom media of an unknown unit", "media", "Tray2,custom.8x10px", Code::NotFound, custom);
+    row("a page size of one letter", "PageSize", "x", Code::NotFound, "there are Letter, ");
     row("described paper that it lacks", "media", "iso_a0_841x1189mm", Code::NotFound, "iso_a0");
     row("orientation 2", "orientation-requested", "2", Code::OutOfRange, "3 is portrait");
     row("orientation 7", "orientation-requested", "7", Code::OutOfRange, "3 is portrait");

@@ -2,13 +2,16 @@
 
 #include "event.h"
 #include "input_limits.h"
+#include "menu_button.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "popup_button.h"
 #include "secrets.h"
+#include "spin_field.h"
 #include "standard_error.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -27,6 +30,9 @@ public:
         auto *layout = new QVBoxLayout(&m_window);
         m_window.setObjectName(QStringLiteral("printDialog"));
         m_window.setWindowTitle(QStringLiteral("Print"));
+        auto *icon = new QLabel;
+        icon->setObjectName(QStringLiteral("bannerSheetIcon"));
+        layout->addWidget(icon);
         popup = new PopupButton;
         popup->setObjectName(QStringLiteral("bannerSheet"));
         setControlID(popup, {kPanelSignature, 614});
@@ -47,11 +53,21 @@ public:
                               .enabled = false});
         popup->setMenu(menu);
         layout->addWidget(popup);
+        auto *menuButton = new MenuButton;
+        menuButton->setObjectName(QStringLiteral("presetMenu"));
+        menuButton->setMenu(menu);
+        layout->addWidget(menuButton);
+        menuButton->setFocus();
         field = new QLineEdit;
         field->setObjectName(QStringLiteral("passcode"));
         field->setEchoMode(QLineEdit::Password);
         setInputLimits(field, {1, 12, InputLimits::decimalDigits()});
         layout->addWidget(field);
+        copies = new SpinField;
+        copies->setObjectName(QStringLiteral("copies"));
+        copies->setMinimum(1);
+        copies->setMaximum(9999);
+        layout->addWidget(copies);
         box = new QCheckBox(QStringLiteral("Collate"));
         box->setObjectName(QStringLiteral("collate"));
         box->setEnabled(false);
@@ -125,6 +141,7 @@ public:
     PrintSession session;
     PopupButton *popup;
     QLineEdit *field;
+    SpinField *copies;
     QCheckBox *box;
     // What a signal does, or a dialog that cannot be begun.
     void close(ExitStatus status) { m_finished = status; }
@@ -219,6 +236,8 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
     row("value of two rows", "choose @bannerSheet 1", ExitStatus::WrongUsage);
     row("disabled control", "check @collate on", ExitStatus::NotOffered);
     row("control of another kind", "check @bannerSheet on", ExitStatus::WrongUsage);
+    row("command that nobody takes", "command 'zzzz'", ExitStatus::NotOffered);
+    row("command that closes its dialog", "click @setup\ncommand 'not!'", ExitStatus::Printed);
     row("expectation not met", "expect @bannerSheet value 7", ExitStatus::WrongUsage);
     row("expectation of a disabled control", "expect @collate enabled false", ExitStatus::Printed);
     row("ticket without the key",
@@ -357,10 +376,25 @@ void TestScriptRunner::saysWhatWouldHaveWorked_data()
         "@bannerSheet has no item \"Bannr\", the nearest is Banner");
     row("click @bannerSheet",
         "@bannerSheet is a PopupButton and cannot be clicked; it takes choose, item");
+    row("click @presetMenu",
+        "@presetMenu is a MenuButton and cannot be clicked; it takes item, choose");
+    row("key \"Space\"",
+        "a menu has opened, which lines cannot pick from; \"item\" and \"choose\" pick its items "
+        "while it is closed");
+    row("command 'zzzz'",
+        "nothing in the window \"Print\" takes the command 'zzzz'; \"controls\" lists the commands "
+        "of its buttons, and those of menus, which \"item\" picks");
     row("type @passcode \"47x\"",
         "@passcode does not take the whole text; it takes 1 to 12 digits");
+    for (const char *typed : {"0", "10000", "", "-", "1.5"})
+        row(qPrintable(QStringLiteral("type @copies \"%1\"").arg(typed)),
+            "@copies does not take what was typed; it takes numbers from 1 to 9999");
     row("expect @passcode value 4711",
         "@passcode: it has no value; it has text, enabled, visible, focus");
+    for (const char *name : {"@bannerShee", "@bannersheet", "@banerSheet"})
+        row(qPrintable(QStringLiteral("choose %1 1").arg(QLatin1String(name))),
+            qPrintable(QStringLiteral("%1 is not in the window, did you mean @bannerSheet?")
+                           .arg(QLatin1String(name))));
     row("click @qqqqqqqqqqqqqqqqqqqq",
         "@qqqqqqqqqqqqqqqqqqqq is not in the window; \"controls\" lists what is");
 }
@@ -373,6 +407,7 @@ void TestScriptRunner::saysWhatWouldHaveWorked()
     const StandardError written;
     run(dialog, line);
     QCOMPARE(QString::fromUtf8(written.text()), QStringLiteral("t.kps:1: %1\n").arg(said));
+    QCOMPARE(dialog.copies->text(), QStringLiteral("1")); // nothing refused stays in it
 }
 
 void TestScriptRunner::printsAtTheEndWhenAsked()

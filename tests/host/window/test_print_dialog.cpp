@@ -1081,6 +1081,7 @@ void TestPrintDialog::keysReachPanelsAndRegions()
     QCOMPARE(heard, fourCharCode("KFup")); // the next tab
     QTest::keyClick(&shown.dialog, Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(heard, fourCharCode("KFdn"));
+    QVERIFY(!inspector::command(&shown.dialog, fourCharCode("KFup"))); // whoever passes it on
 
     shown.find<QWidget>("printer")->setFocus();
     QStringList stops;
