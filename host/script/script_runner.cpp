@@ -218,17 +218,17 @@ void ScriptRunner::Private::run(const ScriptLine &line)
 }
 
 // Keys can open a menu, and its button stays down, and the dialog busy, until somebody
-// picks an item.
+// picks an item. A menu after another line is that of a user, who closes it.
 bool ScriptRunner::Private::checkMenu()
 {
     auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    if (!menu)
+    if (!menu || next == 0 || lines[next - 1].command != ScriptCommand::Key)
         return true;
     while (menu) {
         menu->close();
         menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     }
-    fail(next == 0 ? 0 : lines[next - 1].number,
+    fail(lines[next - 1].number,
          wrong(QStringLiteral("a menu has opened, which lines cannot pick from; \"item\" and "
                               "\"choose\" pick its items while it is closed")));
     return false;
