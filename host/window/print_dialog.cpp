@@ -554,6 +554,8 @@ JobWords PrintDialog::words()
     if (Extension *panels = m_session->panels())
         words.settings += panels->summary();
     findCautions();
+    if (m_options.document && !m_session->documentProblem().isEmpty())
+        words.cautions << m_session->documentProblem();
     const ConflictReport conflicts = m_session->conflicts();
     for (const Conflict &conflict : conflicts.conflicts)
         words.cautions << conflict.sentence;

@@ -582,6 +582,14 @@ void TestStories::saysThatTheDocumentIsDamaged()
     const Run run = desk.run({"--ppd", fullPpd, "--no-window", "--to", "out", "damaged.pdf"});
     QENDED(run, 0);
     QVERIFY2(run.err.contains("caution: The document is damaged"), qPrintable(run.err));
+
+    // Also where nothing is printed.
+    write(desk.path("no.pdf"), "%PDF-1.7\n");
+    write(desk.path("look.kps"), "summary\n");
+    const Run looked =
+        desk.run({"--ppd", fullPpd, "--no-window", "--script", "look.kps", "no.pdf"});
+    QENDED(looked, 0);
+    QVERIFY2(looked.out.contains("The document cannot be opened: no.pdf"), qPrintable(looked.out));
 }
 
 void TestStories::leavesOutAChoiceThatNoTableKnows()
