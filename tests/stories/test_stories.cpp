@@ -311,9 +311,12 @@ void TestStories::saysWhatARawQueueIsTold()
           "printer: Duplex: DuplexTumble. They are kept, and come back with a printer that has "
           "them.\"\nsummary\nprint\n");
 
+    const int before = static_cast<int>(m_cups.jobs(0).size());
     const Run run = desk.run({"-d", "Raw", "--no-window", "--script", "raw.kps", "--ticket-in",
                               "t.plist", "-o", "media=A4", documentPath});
     QENDED(run, 0);
+    QVERIFY(static_cast<int>(m_cups.jobs(before + 1).size())
+            > before); // or the next would count it
     QVERIFY(run.out.contains("Paper: A4 – passed on"));
     const QString unknown = "the print server has no description of this printer";
     QVERIFY(run.out.contains("Not sent:\n  Duplex: DuplexTumble – " + unknown));
