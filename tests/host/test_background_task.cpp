@@ -1,4 +1,5 @@
 #include "background_task.h"
+#include "background_work.h"
 
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -19,6 +20,7 @@ class TestBackgroundTask : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanupTestCase() { QVERIFY(waitForBackgroundWork(10000)); } // joins its threads
     void anAnswerComesOnceWhileAnEventLoopRuns();
     void anAnswerMayEndItsTaskOrStartTheNext();
     void noAnswerComesAfterTheTask();

@@ -1156,9 +1156,9 @@ void TestStories::missesOfAnotherDevicesTicketWhatWasAsked()
     QENDED(desk.run({"--demo", "--no-window", "-o", "KVOutputMode=Enhanced", "-o", "Duplex=None",
                      "--script", "ask.kps", "--ticket-out", "full.plist", "--to", "full"}),
            0);
-    const Run bare = desk.run({"--ppd", KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-bare.ppd",
-                               "--no-window", "--ticket-in", "full.plist", "--ticket-out",
-                               "bare.plist", "--to", "bare", documentPath});
+    const QString ppd = KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-bare.ppd";
+    const Run bare = desk.run({"--ppd", ppd, "--no-window", "--ticket-in", "full.plist",
+                               "--ticket-out", "bare.plist", "--to", "bare", documentPath});
     QENDED(bare, 0);
     QStringList messages = bare.messages();
     messages.removeIf([](const QString &line) { return line.startsWith("Expected PPD option"); });

@@ -1,3 +1,4 @@
+#include "background_work.h"
 #include "delivery.h"
 #include "pdf_samples.h"
 #include "printers.h"
@@ -23,6 +24,7 @@ class TestDeadServers : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanupTestCase() { QVERIFY(waitForBackgroundWork(10000)); } // joins its threads
     void initTestCase();
     void failWhereThereIsNone();
     void timeOutWhereNothingIsAnswered();
