@@ -31,7 +31,8 @@ public:
         Given,
         Chosen, // goes into a preset all the same: a preset, or an option that was set
     };
-    // Asks for all that `file` says, on top of what was asked for before.
+    // Asks for all that `file` says, on top of what was asked for before; in its stead
+    // where `file` is a job's whole record, a whole ticket that says what was asked for.
     void lay(const TicketFile &file, Kind kind);
     void clear(); // nothing is asked for
     bool isEmpty() const;

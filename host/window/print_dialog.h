@@ -167,7 +167,7 @@ private:
     ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
     QString m_printProblem;
     std::optional<ExitStatus> m_finished;
-    EventHandlerRef m_handler;
+    EventHandlerRef m_handler; // takes what the shell does and passes on
 };
 
 } // namespace kelvo
