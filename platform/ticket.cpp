@@ -10,27 +10,47 @@ OSStatus set(PMTicketRef handle, const QString &client, const QString &key, QVar
              bool lock)
 {
     Ticket *ticket = findTicket(handle);
-    if (!ticket)
-        return kPMInvalidTicket;
-    if (key.isEmpty())
-        return paramErr;
-    const auto found = ticket->entries.find(key);
-    if (found != ticket->entries.end() && found->second.locked)
-        return kPMTicketLocked;
-    ticket->entries.insert_or_assign(key, TicketEntry{std::move(value), client, lock});
-    return noErr;
+    return ticket ? setValue(*ticket, client, key, std::move(value), lock) : kPMInvalidTicket;
 }
 
-const QVariant *findValue(PMTicketRef handle, const QString &key)
+const QVariant &valueBehind(PMTicketRef handle, const QString &key)
 {
+    static const Ticket none;
     const Ticket *ticket = findTicket(handle);
-    if (!ticket)
-        return nullptr;
-    const auto found = ticket->entries.find(key);
-    return found == ticket->entries.end() ? nullptr : &found->second.value;
+    return valueIn(ticket ? *ticket : none, key);
 }
 
 } // namespace
+
+const QVariant &valueIn(const Ticket &ticket, const QString &key)
+{
+    static const QVariant none;
+    const auto found = ticket.entries.find(key);
+    return found == ticket.entries.end() ? none : found->second.value;
+}
+
+OSStatus setValue(Ticket &ticket, const QString &client, const QString &key, QVariant value,
+                  bool lock)
+{
+    if (key.isEmpty())
+        return paramErr;
+    const auto found = ticket.entries.find(key);
+    if (found != ticket.entries.end() && found->second.locked)
+        return kPMTicketLocked;
+    ticket.entries.insert_or_assign(key, TicketEntry{std::move(value), client, lock});
+    return noErr;
+}
+
+OSStatus removeValue(Ticket &ticket, const QString &key)
+{
+    const auto found = ticket.entries.find(key);
+    if (found == ticket.entries.end())
+        return noErr;
+    if (found->second.locked)
+        return kPMTicketLocked;
+    ticket.entries.erase(found);
+    return noErr;
+}
 
 OSStatus PMTicketSetCFDictionary(PMTicketRef ticket, const QString &client, const QString &key,
                                  const Dictionary &value, bool lock)
@@ -70,52 +90,38 @@ OSStatus PMTicketSetCFBoolean(PMTicketRef ticket, const QString &client, const Q
 
 std::optional<Dictionary> PMTicketGetCFDictionary(PMTicketRef ticket, const QString &key)
 {
-    const QVariant *value = findValue(ticket, key);
-    return value ? dictionary(*value) : std::nullopt;
+    return dictionary(valueBehind(ticket, key));
 }
 
 std::optional<Array> PMTicketGetCFArray(PMTicketRef ticket, const QString &key)
 {
-    const QVariant *value = findValue(ticket, key);
-    return value ? array(*value) : std::nullopt;
+    return array(valueBehind(ticket, key));
 }
 
 std::optional<QString> PMTicketGetCFString(PMTicketRef ticket, const QString &key)
 {
-    const QVariant *value = findValue(ticket, key);
-    return value ? string(*value) : std::nullopt;
+    return string(valueBehind(ticket, key));
 }
 
 std::optional<std::int64_t> PMTicketGetCFNumber(PMTicketRef ticket, const QString &key)
 {
-    const QVariant *value = findValue(ticket, key);
-    return value ? integer64(*value) : std::nullopt;
+    return integer64(valueBehind(ticket, key));
 }
 
 std::optional<double> PMTicketGetCFReal(PMTicketRef ticket, const QString &key)
 {
-    const QVariant *value = findValue(ticket, key);
-    return value ? real(*value) : std::nullopt;
+    return real(valueBehind(ticket, key));
 }
 
 std::optional<bool> PMTicketGetCFBoolean(PMTicketRef ticket, const QString &key)
 {
-    const QVariant *value = findValue(ticket, key);
-    return value ? boolean(*value) : std::nullopt;
+    return boolean(valueBehind(ticket, key));
 }
 
 OSStatus PMTicketReleaseItem(PMTicketRef handle, const QString &key)
 {
     Ticket *ticket = findTicket(handle);
-    if (!ticket)
-        return kPMInvalidTicket;
-    const auto found = ticket->entries.find(key);
-    if (found == ticket->entries.end())
-        return noErr;
-    if (found->second.locked)
-        return kPMTicketLocked;
-    ticket->entries.erase(found);
-    return noErr;
+    return ticket ? removeValue(*ticket, key) : kPMInvalidTicket;
 }
 
 PPDDictionary *PMTicketGetPPDDict(PMTicketRef handle)

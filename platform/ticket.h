@@ -51,6 +51,17 @@ struct Ticket
     friend bool operator==(const Ticket &, const Ticket &) = default;
 };
 
+// A ticket itself, wherever it is kept: no session is asked, so any thread may have its own.
+// The value under `key`, invalid where there is none; values.h reads it. Valid until the
+// ticket changes.
+const QVariant &valueIn(const Ticket &ticket, const QString &key);
+// `value` under `key`, a number as qint64, with the client's name: what setting by handle does.
+OSStatus setValue(Ticket &ticket, const QString &client, const QString &key, QVariant value,
+                  bool lock = false);
+OSStatus removeValue(Ticket &ticket, const QString &key);
+
+// The same by handle, as panels are given tickets.
+//
 // Writing: `value` under `key`, with the client's name. paramErr for an empty
 // key, kPMInvalidTicket for a handle that names no ticket, kPMTicketLocked for
 // a locked entry (nothing changes then).

@@ -10,12 +10,6 @@ namespace {
 
 const QString pageSizeOption = QStringLiteral("PageSize");
 
-QVariant valueIn(const Ticket &ticket, const QString &key)
-{
-    const auto entry = ticket.entries.find(key);
-    return entry == ticket.entries.end() ? QVariant() : entry->second.value;
-}
-
 // The ticket that a place's first name means; null for the choices.
 template <typename File>
 auto ticketOf(File &file, const TicketPlace &place) -> decltype(&file.printSettings)

@@ -2,8 +2,6 @@
 
 #include "ticket_values.h"
 
-#include <QMap>
-
 #include <cstring>
 #include <iterator>
 
@@ -51,50 +49,64 @@ namespace {
 struct LoadedOptions
 {
     bool isLoaded = false;
-    const InstalledFeature *featureMap = nullptr;
-    QMap<QString, QString> choices; // option keyword → marked choice
+    InstalledOptions options;
 };
 LoadedOptions loaded;
 
-bool matches(const InstalledFeature &row)
+// The PPD's default as the PPD spells the choice: it is found in any case.
+std::optional<QString> defaultChoiceOf(const PpdOption &option)
 {
-    if (!row.ppdKeyword)
-        return true;
-    const auto choice = loaded.choices.constFind(QString::fromUtf8(row.ppdKeyword));
-    return choice != loaded.choices.constEnd() && row.choice
-        && *choice == QString::fromUtf8(row.choice);
+    for (const PpdChoice &choice : option.choices) {
+        if (choice.keyword.compare(option.defaultChoice, Qt::CaseInsensitive) == 0)
+            return choice.keyword;
+    }
+    return std::nullopt;
 }
 
-// The first matching row of `feature`; null when the device does not have it.
-const InstalledFeature *findMatchingRow(const char *feature)
+} // namespace
+
+InstalledOptions::InstalledOptions(const PpdFile &ppd, const InstalledFeature *featureMap)
+    : m_featureMap(featureMap)
 {
-    if (!feature || !loaded.featureMap)
+    for (const PpdGroup &group : ppd.groups()) {
+        if (group.name != QLatin1String("InstallableOptions"))
+            continue;
+        for (const PpdOption &option : group.options) {
+            if (const auto choice = defaultChoiceOf(option))
+                m_choices.insert(option.keyword, *choice);
+        }
+        break;
+    }
+}
+
+std::optional<QString> InstalledOptions::choice(const QString &keyword) const
+{
+    const auto found = m_choices.constFind(keyword);
+    return found == m_choices.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+const InstalledFeature *InstalledOptions::find(const char *feature) const
+{
+    if (!feature || !m_featureMap)
         return nullptr;
-    for (const InstalledFeature *row = loaded.featureMap; row->feature; ++row) {
+    const auto matches = [this](const InstalledFeature &row) {
+        return !row.ppdKeyword
+            || (row.choice
+                && choice(QString::fromUtf8(row.ppdKeyword)) == QString::fromUtf8(row.choice));
+    };
+    for (const InstalledFeature *row = m_featureMap; row->feature; ++row) {
         if (std::strcmp(row->feature, feature) == 0 && matches(*row))
             return row;
     }
     return nullptr;
 }
 
-} // namespace
-
 bool LoadInstallableOptions(PpdFile *ppd, const InstalledFeature *featureMap)
 {
     if (!ppd || loaded.isLoaded)
         return false;
-    loaded = {true, featureMap, {}};
-    ppd->markDefaults();
-    for (const PpdGroup &group : ppd->groups()) {
-        if (group.name != QLatin1String("InstallableOptions"))
-            continue;
-        for (const PpdOption &option : group.options) {
-            if (const auto choice = ppd->markedChoice(option.keyword))
-                loaded.choices.insert(option.keyword, *choice);
-        }
-        break;
-    }
-    return !loaded.choices.isEmpty();
+    loaded = {true, InstalledOptions(*ppd, featureMap)};
+    return !loaded.options.isEmpty();
 }
 
 void UnloadInstallableOptions()
@@ -102,22 +114,24 @@ void UnloadInstallableOptions()
     loaded = {};
 }
 
+const InstalledOptions &installedOptions()
+{
+    return loaded.options;
+}
+
 std::optional<QString> getInstallableOptionValue(const QString &keyword)
 {
-    const auto choice = loaded.choices.constFind(keyword);
-    if (choice == loaded.choices.constEnd())
-        return std::nullopt;
-    return *choice;
+    return loaded.options.choice(keyword);
 }
 
 bool getInstalledFeature(const char *feature)
 {
-    return findMatchingRow(feature) != nullptr;
+    return loaded.options.has(feature);
 }
 
 std::optional<std::int32_t> getInstallableOptionTicketValue(const QString &feature)
 {
-    const InstalledFeature *row = findMatchingRow(feature.toUtf8().constData());
+    const InstalledFeature *row = loaded.options.find(feature.toUtf8().constData());
     if (!row)
         return std::nullopt;
     return row->ticketValue;
@@ -126,7 +140,7 @@ std::optional<std::int32_t> getInstallableOptionTicketValue(const QString &featu
 std::optional<QString> CopyLocalizedStringForInstalledFeatureFromPlugin(const QString &feature,
                                                                         CFBundleRef bundle)
 {
-    const InstalledFeature *row = findMatchingRow(feature.toUtf8().constData());
+    const InstalledFeature *row = loaded.options.find(feature.toUtf8().constData());
     if (!row || !row->localizedKey)
         return std::nullopt;
     return localizedText(bundle, QString::fromUtf8(row->localizedKey));

@@ -3,6 +3,7 @@
 #include "bundle.h"
 #include "ppd_file.h"
 
+#include <QMap>
 #include <QString>
 
 #include <cstdint>
@@ -22,10 +23,30 @@ struct InstalledFeature
 };
 extern const InstalledFeature InstalledFeatures[];
 
-// Records the marked choice of every installable option. True when there was
-// one. The first load wins until UnloadInstallableOptions.
+// What is fitted to one printer: the choices of its installable options, and what they mean.
+class InstalledOptions
+{
+public:
+    InstalledOptions() = default; // nothing is fitted
+    // As the PPD has it by default; `featureMap` is borrowed.
+    InstalledOptions(const PpdFile &ppd, const InstalledFeature *featureMap);
+
+    bool isEmpty() const { return m_choices.isEmpty(); }
+    std::optional<QString> choice(const QString &keyword) const;
+    bool has(const char *feature) const { return find(feature) != nullptr; }
+    // The first matching row; null when the device does not have it, and for null.
+    const InstalledFeature *find(const char *feature) const;
+
+private:
+    const InstalledFeature *m_featureMap = nullptr;
+    QMap<QString, QString> m_choices; // option keyword → choice
+};
+
+// Those of the current printer. True when there was an installable option. The first
+// load wins until UnloadInstallableOptions.
 bool LoadInstallableOptions(PpdFile *ppd, const InstalledFeature *featureMap);
 void UnloadInstallableOptions();
+const InstalledOptions &installedOptions(); // nothing is fitted before loading
 
 std::optional<QString> getInstallableOptionValue(const QString &keyword);
 bool getInstalledFeature(const char *feature); // false for null and before loading

@@ -15,10 +15,10 @@ bool isOffered(const PpdFile *ppd, const QString &option, std::int32_t ticketVal
     return choice && isOffered(ppd, option, *choice);
 }
 
-int PopulateMenuWithOfferedChoices(Menu &menu, PpdFile *ppd, const QString &option, OSType command,
-                                   const QStringList &readByName)
+int PopulateMenuWithOfferedChoices(Menu &menu, const PpdFile *ppd, const QString &option,
+                                   OSType command, const QStringList &readByName)
 {
-    PPDPopulateMenuWithChoices(menu, ppd, option, command, false, readByName);
+    PPDPopulateMenuWithAllChoices(menu, ppd, option, command, readByName);
     std::erase_if(menu.items,
                   [&](const MenuItem &item) { return !isOffered(ppd, option, item.key); });
     return static_cast<int>(menu.items.size());

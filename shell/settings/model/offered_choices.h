@@ -20,8 +20,8 @@ bool isOffered(const PpdFile *ppd, const QString &option, const QString &choice)
 bool isOffered(const PpdFile *ppd, const QString &option, std::int32_t ticketValue);
 
 // PPDPopulateMenuWithChoices with what is offered, whatever the other settings are.
-int PopulateMenuWithOfferedChoices(Menu &menu, PpdFile *ppd, const QString &option, OSType command,
-                                   const QStringList &readByName = {});
+int PopulateMenuWithOfferedChoices(Menu &menu, const PpdFile *ppd, const QString &option,
+                                   OSType command, const QStringList &readByName = {});
 
 // Takes out of a menu that was filled from a map what is not offered of `option`.
 void removeWhatIsNotOffered(Menu &menu, const PpdFile *ppd, const QString &option);

@@ -56,6 +56,43 @@ const PpdChoiceValue *findChoice(const QString &keyword, const QString &choice)
     return nullptr;
 }
 
+const Ticket &ticketOrNone(PMTicketRef handle)
+{
+    static const Ticket none;
+    const Ticket *ticket = findTicket(handle);
+    return ticket ? *ticket : none;
+}
+
+// One item for each choice that the map has and `isIn` lets in; the others that the map
+// lacks are named on standard error.
+template <typename Predicate>
+int populate(Menu &menu, const PpdFile *ppd, const QString &keyword, OSType command,
+             const QStringList &readByName, const Predicate &isIn)
+{
+    menu.items.clear();
+    const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
+    if (!option) {
+        reportOnStandardError("Expected PPD option not found: ", keyword);
+        return 0;
+    }
+    for (const PpdChoice &choice : option->choices) {
+        if (readByName.contains(choice.keyword) || !isIn(choice.keyword))
+            continue;
+        const PpdChoiceValue *row = findChoice(keyword, choice.keyword);
+        if (!row)
+            reportOnStandardError("Skipped unrecognized choice in PPD: ", choice.keyword);
+        if (!row || row->value == -1) // -1: known, but no menu has it
+            continue;
+        MenuItem item;
+        item.text = choice.text;
+        item.key = choice.keyword;
+        item.command = command;
+        item.reference = row->value;
+        menu.items.push_back(std::move(item));
+    }
+    return static_cast<int>(menu.items.size());
+}
+
 } // namespace
 
 PpdFile *PPDGetCurrent()
@@ -114,33 +151,53 @@ std::optional<QString> PPDCopyDefaultChoice(const PpdFile *ppd, const QString &k
     return option->defaultChoice;
 }
 
-std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword)
+std::optional<QString> PPDCopyCurrentChoice(const Ticket &ticket, const QString &keyword)
 {
-    const PPDDictionary *choices = PMTicketGetPPDDict(ticket);
-    if (!choices || !choices->contains(keyword))
-        return std::nullopt;
-    return choices->value(keyword);
+    const auto choice = ticket.ppdChoices.constFind(keyword);
+    return choice == ticket.ppdChoices.constEnd() ? std::nullopt : std::optional(*choice);
 }
 
-std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
+std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, const Ticket &ticket,
                                               const QString &keyword)
 {
     std::optional<QString> choice = PPDCopyCurrentChoice(ticket, keyword);
     return choice ? choice : PPDCopyDefaultChoice(ppd, keyword);
 }
 
-void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
+void PPDSetCurrentChoice(Ticket &ticket, const QString &keyword,
                          const std::optional<QString> &choice)
 {
-    PPDDictionary *choices = PMTicketGetPPDDict(ticket);
-    if (choices && !keyword.isEmpty() && choice)
-        choices->insert(keyword, *choice);
+    if (!keyword.isEmpty() && choice)
+        ticket.ppdChoices.insert(keyword, *choice);
 }
 
-void PPDRemoveCurrentChoice(PMTicketRef ticket, const QString &keyword)
+void PPDRemoveCurrentChoice(Ticket &ticket, const QString &keyword)
 {
-    if (PPDDictionary *choices = PMTicketGetPPDDict(ticket))
-        choices->remove(keyword);
+    ticket.ppdChoices.remove(keyword);
+}
+
+std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword)
+{
+    return PPDCopyCurrentChoice(ticketOrNone(ticket), keyword);
+}
+
+std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
+                                              const QString &keyword)
+{
+    return PPDCopyChoiceOrDefault(ppd, ticketOrNone(ticket), keyword);
+}
+
+void PPDSetCurrentChoice(PMTicketRef handle, const QString &keyword,
+                         const std::optional<QString> &choice)
+{
+    if (Ticket *ticket = findTicket(handle))
+        PPDSetCurrentChoice(*ticket, keyword, choice);
+}
+
+void PPDRemoveCurrentChoice(PMTicketRef handle, const QString &keyword)
+{
+    if (Ticket *ticket = findTicket(handle))
+        PPDRemoveCurrentChoice(*ticket, keyword);
 }
 
 std::int32_t PPDTicketValueForChoice(const QString &keyword, const QString &choice)
@@ -168,6 +225,12 @@ std::optional<QString> PPDCopyTextForTicketValue(const PpdFile *ppd, const QStri
 void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
                                          const QString &keyword, std::int32_t *out)
 {
+    PPDGetTicketValueForChoiceOrDefault(ppd, ticketOrNone(ticket), keyword, out);
+}
+
+void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, const Ticket &ticket,
+                                         const QString &keyword, std::int32_t *out)
+{
     const std::optional<QString> choice = PPDCopyChoiceOrDefault(ppd, ticket, keyword);
     if (choice && out)
         *out = PPDTicketValueForChoice(keyword, *choice);
@@ -176,33 +239,19 @@ void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
 int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword, OSType command,
                                bool honourConstraints, const QStringList &readByName)
 {
-    if (ppd && honourConstraints)
+    if (!honourConstraints)
+        return PPDPopulateMenuWithAllChoices(menu, ppd, keyword, command, readByName);
+    if (ppd)
         ppd->markDefaults();
-    menu.items.clear();
-    const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
-    if (!option) {
-        reportOnStandardError("Expected PPD option not found: ", keyword);
-        return 0;
-    }
-    for (const PpdChoice &choice : option->choices) {
-        if (readByName.contains(choice.keyword))
-            continue;
-        // The mark stays on purpose: the next choice is judged after this one.
-        if (honourConstraints && ppd->mark(keyword, choice.keyword))
-            continue;
-        const PpdChoiceValue *row = findChoice(keyword, choice.keyword);
-        if (!row)
-            reportOnStandardError("Skipped unrecognized choice in PPD: ", choice.keyword);
-        if (!row || row->value == -1) // -1: known, but no menu has it
-            continue;
-        MenuItem item;
-        item.text = choice.text;
-        item.key = choice.keyword;
-        item.command = command;
-        item.reference = row->value;
-        menu.items.push_back(std::move(item));
-    }
-    return static_cast<int>(menu.items.size());
+    // The mark stays on purpose: the next choice is judged after this one.
+    return populate(menu, ppd, keyword, command, readByName,
+                    [&](const QString &choice) { return !ppd->mark(keyword, choice); });
+}
+
+int PPDPopulateMenuWithAllChoices(Menu &menu, const PpdFile *ppd, const QString &keyword,
+                                  OSType command, const QStringList &readByName)
+{
+    return populate(menu, ppd, keyword, command, readByName, [](const QString &) { return true; });
 }
 
 } // namespace kelvo

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "menu.h"
-#include "plugin_abi.h"
 #include "ppd_file.h"
+#include "ticket.h"
 
 #include <QString>
 #include <QStringList>
@@ -39,13 +39,20 @@ std::optional<QString> PPDCopyChoiceText(const PpdFile *ppd, const QString &keyw
                                          const QString &choice);
 std::optional<QString> PPDCopyDefaultChoice(const PpdFile *ppd, const QString &keyword);
 // The choice in the ticket's PPD dictionary.
-std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword);
+std::optional<QString> PPDCopyCurrentChoice(const Ticket &ticket, const QString &keyword);
 // That, or the PPD's default when the ticket has none.
+std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, const Ticket &ticket,
+                                              const QString &keyword);
+void PPDSetCurrentChoice(Ticket &ticket, const QString &keyword,
+                         const std::optional<QString> &choice);
+// The ticket then leaves the option to the PPD's default.
+void PPDRemoveCurrentChoice(Ticket &ticket, const QString &keyword);
+// The same by handle; nothing happens where it names no ticket.
+std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword);
 std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
                                               const QString &keyword);
 void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
                          const std::optional<QString> &choice);
-// The ticket then leaves the option to the PPD's default.
 void PPDRemoveCurrentChoice(PMTicketRef ticket, const QString &keyword);
 
 // The value of a choice that MainKeywordMap does not have.
@@ -60,6 +67,8 @@ std::optional<QString> PPDCopyTextForTicketValue(const PpdFile *ppd, const QStri
 // The value of the ticket's choice, or of the PPD's default when the ticket has
 // none; -1 for a choice that the map does not have. `out` is left alone when
 // neither has a choice.
+void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, const Ticket &ticket,
+                                         const QString &keyword, std::int32_t *out);
 void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
                                          const QString &keyword, std::int32_t *out);
 
@@ -71,5 +80,8 @@ void PPDGetTicketValueForChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
 // fills the menu: they are left out and not named. Returns the number of items.
 int PPDPopulateMenuWithChoices(Menu &menu, PpdFile *ppd, const QString &keyword, OSType command,
                                bool honourConstraints, const QStringList &readByName = {});
+// The same without regard to constraints, which needs no marks.
+int PPDPopulateMenuWithAllChoices(Menu &menu, const PpdFile *ppd, const QString &keyword,
+                                  OSType command, const QStringList &readByName = {});
 
 } // namespace kelvo
