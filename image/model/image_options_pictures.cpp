@@ -1,6 +1,6 @@
 #include "image_options_pictures.h"
 
-#include "image_options_context.h"
+#include "image_options_settings.h"
 #include "lighten_darken.h"
 
 namespace kelvo {

@@ -1,22 +1,23 @@
 #pragma once
 
-#include "image_options_context.h"
+#include "image_options_settings.h"
 #include "panel_summary.h"
 
 namespace kelvo {
 
 // "Lighten 3", "Printer default"; in the words of the user's language.
-QString lightenDarkenText(CFBundleRef bundle, std::int32_t lightenDarken);
+QString lightenDarkenText(const Device &device, std::int32_t lightenDarken);
 
 // What the panel says of the lightness: the step, or what the job does where none is
 // chosen or the device does not offer it.
-QString lightenDarkenWords(const ImageOptionsContext &context);
+QString lightenDarkenWords(const ImageOptionsSettings &settings, const Device &device);
 
 // The device has the toner saver, and the choice that the job has for it.
-bool isTonerSaverOffered(const ImageOptionsContext &context);
+bool isTonerSaverOffered(const ImageOptionsSettings &settings, const Device &device);
 
 // What the panel has chosen, in words. A line whose setting the device does not
 // have, or that has no words, is left out.
-std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsContext &context);
+std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsSettings &settings,
+                                             const Device &device);
 
 } // namespace kelvo

@@ -8,6 +8,7 @@ namespace {
 
 const QString negativeKey = QStringLiteral("NegativeImage");
 const QString mirrorKey = QStringLiteral("MirrorImage");
+const QString client = QStringLiteral("K");
 
 } // namespace
 
@@ -28,6 +29,23 @@ Dictionary InvertImageCreateTicketFromOptions(const II_Options *options)
         WriteTicketValue(dictionary, mirrorKey, options->mirror ? 1 : 0);
     }
     return dictionary;
+}
+
+QString invertImageKey()
+{
+    return ticketKey("InvertImageOptions");
+}
+
+void readInvertImage(II_Options &options, const Ticket &printSettings)
+{
+    InvertImageSetOptionsFromTicket(
+        &options, dictionary(valueIn(printSettings, invertImageKey())).value_or(Dictionary()));
+}
+
+OSStatus writeInvertImage(const II_Options &options, Ticket &printSettings)
+{
+    return setValue(printSettings, client, invertImageKey(),
+                    InvertImageCreateTicketFromOptions(&options));
 }
 
 } // namespace kelvo

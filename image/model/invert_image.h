@@ -1,8 +1,11 @@
 #pragma once
 
+#include "status.h"
+#include "ticket.h"
 #include "values.h"
 
-// Printing a page as its negative or its mirror image.
+// Printing a page as its negative or its mirror image:
+// com.kelvo.print.InvertImageOptions, a dictionary.
 namespace kelvo {
 
 // Dictionary form:
@@ -21,5 +24,10 @@ struct II_Options
 void InvertImageSetOptionsFromTicket(II_Options *options, const Dictionary &dictionary);
 // Empty for null options.
 Dictionary InvertImageCreateTicketFromOptions(const II_Options *options);
+
+// The entry, and the flags in it. Where there is none, nothing is inverted.
+QString invertImageKey();
+void readInvertImage(II_Options &options, const Ticket &printSettings);
+OSStatus writeInvertImage(const II_Options &options, Ticket &printSettings); // setValue's
 
 } // namespace kelvo

@@ -2,25 +2,23 @@
 
 #include "embed_control.h"
 #include "image_options_summary.h"
-#include "image_options_ticket.h"
 #include "image_options_view.h"
 #include "panel_content.h"
 #include "panel_interface.h"
 #include "panel_prologue.h"
 #include "pde_session.h"
-#include "ppd_choices.h"
-#include "ticket.h"
+#include "print_session.h"
 
 namespace kelvo {
 
 namespace {
 
-ImageOptionsPanelContext *panelOf(PMPDEContext context)
+ImageOptionsContext *panelOf(PMPDEContext context)
 {
-    return reinterpret_cast<ImageOptionsPanelContext *>(context);
+    return reinterpret_cast<ImageOptionsContext *>(context);
 }
 
-void buildContent(ImageOptionsPanelContext &panel)
+void buildContent(ImageOptionsContext &panel)
 {
     panel.content = createPanelContent(
         panel.bundle, QStringLiteral("ImageOptionsPanel"), QStringLiteral("ImageOptions"),
@@ -30,7 +28,7 @@ void buildContent(ImageOptionsPanelContext &panel)
         return;
     fillImageOptionsControls(panel);
     InvertImageOpen(panel.bundle, panel.content, panel.content, &panel.invertControls,
-                    &panel.invert);
+                    &panel.settings.invert);
     EmbedAndShowControl(panel.content, panel.parentUserPane);
     panel.handler = installEventHandler(panel.content, [&panel](const Event &event) {
         return ImageOptionsEventHandler(panel, event);
@@ -41,63 +39,60 @@ void buildContent(ImageOptionsPanelContext &panel)
 OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
-    return announcePanel<ImageOptionsPanelContext>(QStringLiteral("ImageOptions"), kShellSignature,
-                                                   context, creator, userOptionKind, title, maxH,
-                                                   maxV);
+    return announcePanel<ImageOptionsContext>(QStringLiteral("ImageOptions"), kShellSignature,
+                                              context, creator, userOptionKind, title, maxH, maxV);
 }
 
 OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
 {
-    ImageOptionsPanelContext *panel = panelOf(context);
+    ImageOptionsContext *panel = panelOf(context);
     if (!panel || !session)
         return kPMInvalidParameter;
     PMTicketRef ticket = 0;
     const OSStatus status = GetTicketFromSession(session, kPMPrintSettingsTicket, &ticket);
     if (status != noErr)
         return status;
+    Ticket *printSettings = findTicket(ticket);
+    if (!printSettings)
+        return kPMInvalidTicket;
+    ImageOptionsSettings &settings = panel->settings;
     if (direction == kSyncWrite) {
         SaveUIValuesToData(*panel);
-        SyncLightenDarkenToTicket(panel, ticket);
-        SyncTonerSaverToTicket(panel, ticket);
-        SyncResolutionToTicket(panel, ticket);
+        takeInvertImage(panel->invertControls, settings.invert);
+        writeImageOptions(settings, *printSettings, panel->device, panel->opened);
     } else {
-        SyncLightenDarkenToUI(panel, ticket);
-        SyncTonerSaverToUI(panel, ticket);
-        SyncResolutionToUI(panel, ticket);
-        SyncQualityAndColorToUI(panel, ticket);
-    }
-    InvertImageSync(&panel->invertControls, &panel->invert, direction, ticket);
-    // After a read too: the ticket then says what the device would do by default.
-    SyncQualityAndColorToTicket(panel, ticket);
-    if (direction != kSyncWrite)
+        readImageOptions(settings, *printSettings, panel->device);
+        writeQualityAndColor(settings, *printSettings, panel->device);
+        showInvertImage(panel->invertControls, settings.invert);
         RestoreUIValuesFromData(*panel);
+    }
     return noErr;
 }
 
 OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane parentUserPane,
                     PMPrintSession session)
 {
-    ImageOptionsPanelContext *panel = panelOf(context);
+    ImageOptionsContext *panel = panelOf(context);
     if (!panel || !session)
         return kPMInvalidPDEContext;
     panel->parentUserPane = parentUserPane;
-    InvertImageInitialize(&panel->invertControls, &panel->invert);
-    panel->ppd = PPDGetCurrent();
+    InvertImageInitialize(&panel->invertControls, &panel->settings.invert);
+    panel->device = currentDevice();
     return Sync(context, session, kSyncRead);
 }
 
 OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray *texts)
 {
-    const ImageOptionsPanelContext *panel = panelOf(context);
+    const ImageOptionsContext *panel = panelOf(context);
     if (!panel || !titles || !texts)
         return kPMInvalidPDEContext;
-    appendSummary(imageOptionsSummary(*panel), titles, texts);
+    appendSummary(imageOptionsSummary(panel->settings, panel->device), titles, texts);
     return noErr;
 }
 
 OSStatus Open(PMPDEContext context)
 {
-    ImageOptionsPanelContext *panel = panelOf(context);
+    ImageOptionsContext *panel = panelOf(context);
     if (!panel || !panel->parentUserPane)
         return kPMInvalidPDEContext;
     if (panel->opened)
@@ -114,7 +109,7 @@ OSStatus Close(PMPDEContext context)
 
 OSStatus Terminate(PMPDEContext context, OSStatus)
 {
-    ImageOptionsPanelContext *panel = panelOf(context);
+    ImageOptionsContext *panel = panelOf(context);
     if (!panel)
         return kPMInvalidPDEContext;
     InvertImageTerminate(&panel->invertControls);

@@ -4,10 +4,8 @@
 #include "hint_text.h"
 #include "image_options_pictures.h"
 #include "image_options_summary.h"
-#include "image_options_ticket.h"
 #include "lighten_darken.h"
 #include "popups.h"
-#include "ppd_file.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
 
@@ -23,16 +21,16 @@ struct PpdRow
     const char *option;
     std::int32_t hintNumber; // KPDE, the text below the pop-up
     const char *hintKey;
-    std::int32_t ImageOptionsContext::*value;
+    std::int32_t ImageOptionsSettings::*value;
     QPointer<PopupButton> ImageOptionsControls::*popup;
 };
 constexpr PpdRow ppdRows[] = {
-    {"KVOutputMode", 1204, "Image Quality Hint", &ImageOptionsContext::imageQuality,
+    {"KVOutputMode", 1204, "Image Quality Hint", &ImageOptionsSettings::imageQuality,
      &ImageOptionsControls::imageQuality},
-    {"KVCMYKColorSpace", 1904, "CMYK Source Color Hint", &ImageOptionsContext::cmykSourceColor,
+    {"KVCMYKColorSpace", 1904, "CMYK Source Color Hint", &ImageOptionsSettings::cmykSourceColor,
      &ImageOptionsControls::cmykSourceColor},
     {"KVColorCorrection", 2004, "Output Color Correction Hint",
-     &ImageOptionsContext::outputColorCorrection, &ImageOptionsControls::outputColorCorrection},
+     &ImageOptionsSettings::outputColorCorrection, &ImageOptionsControls::outputColorCorrection},
 };
 constexpr std::int32_t tonerSaverHint = 1304;
 
@@ -46,12 +44,12 @@ ControlID panelID(std::int32_t number)
     return {kPanelSignature, number};
 }
 
-bool hasOption(const ImageOptionsPanelContext &panel, const char *option)
+bool hasOption(const ImageOptionsContext &panel, const char *option)
 {
-    return panel.ppd && panel.ppd->findOption(QString::fromLatin1(option));
+    return panel.device.hasOption(QString::fromLatin1(option));
 }
 
-void setUpLightenDarken(const ImageOptionsPanelContext &panel)
+void setUpLightenDarken(const ImageOptionsContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
     controls.lightenDarkenSlider->setRange(kLightest, kDarkest);
@@ -71,47 +69,45 @@ void tellTicketPlaces(const ImageOptionsControls &controls)
     for (QWidget *control : std::initializer_list<QWidget *>{
              controls.lightenDarkenSlider, controls.lightenDarken, controls.printerDefault})
         setTicketPlaces(control, lightnessPlaces());
-    setTicketPlaces(controls.tonerSaver, {{kPPDChoices, QStringLiteral("KVEconomode")}});
-    setTicketPlaces(
-        controls.mirror,
-        {{kPMPrintSettingsTicket, ticketKey("InvertImageOptions"), QStringLiteral("MirrorImage")}});
+    setTicketPlaces(controls.tonerSaver, tonerSaverPlaces());
+    setTicketPlaces(controls.mirror, mirrorPlaces());
 }
 
-void showLightenDarken(const ImageOptionsPanelContext &panel)
+void showLightenDarken(const ImageOptionsContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
-    const bool isSet = panel.lightenDarken != kUnset;
+    const bool isSet = panel.settings.lightenDarken != kUnset;
     if (isSet) {
-        controls.lightenDarken->setValue(panel.lightenDarken);
-        controls.lightenDarkenSlider->setValue(panel.lightenDarken);
+        controls.lightenDarken->setValue(panel.settings.lightenDarken);
+        controls.lightenDarkenSlider->setValue(panel.settings.lightenDarken);
     }
     const bool isOnDevice = hasOption(panel, "KVImageQuality");
     for (const std::int32_t number : lightenDarkenParts)
         findControl(panel.content, panelID(number))->setEnabled(isSet && isOnDevice);
     controls.printerDefault->setChecked(!isSet);
     controls.printerDefault->setEnabled(isOnDevice);
-    controls.lightenDarkenWords->setText(lightenDarkenWords(panel));
+    controls.lightenDarkenWords->setText(lightenDarkenWords(panel.settings, panel.device));
 }
 
-void showPpdRow(const ImageOptionsPanelContext &panel, const PpdRow &row)
+void showPpdRow(const ImageOptionsContext &panel, const PpdRow &row)
 {
-    showChoice(panel.bundle, panel.controls.*row.popup, panel.*row.value,
+    showChoice(panel.bundle, panel.controls.*row.popup, panel.settings.*row.value,
                findControl<QLabel>(panel.content, panelID(row.hintNumber)),
                localizedText(panel.bundle, QString::fromLatin1(row.hintKey)));
 }
 
-void showTonerSaver(const ImageOptionsPanelContext &panel)
+void showTonerSaver(const ImageOptionsContext &panel)
 {
-    panel.controls.tonerSaver->setChecked(panel.tonerSaver == kTonerSaverOn);
+    panel.controls.tonerSaver->setChecked(panel.settings.tonerSaver == kTonerSaverOn);
     if (hasOption(panel, "KVEconomode"))
         findControl<QLabel>(panel.content, panelID(tonerSaverHint))
             ->setText(localizedText(panel.bundle,
-                                    isTonerSaverOffered(panel)
+                                    isTonerSaverOffered(panel.settings, panel.device)
                                         ? QStringLiteral("Toner Saver Hint")
                                         : QStringLiteral("Choice Not Offered")));
 }
 
-void showPictures(const ImageOptionsPanelContext &panel)
+void showPictures(const ImageOptionsContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
     const auto show = [&](PictureView *view, bool isOnDevice, const QString &name) {
@@ -119,18 +115,18 @@ void showPictures(const ImageOptionsPanelContext &panel)
     };
     const auto isShown = [](const PopupButton *popup) { return popup->value() > 0; };
     show(controls.lightenDarkenPicture, hasOption(panel, "KVImageQuality"),
-         lightenDarkenPicture(panel.lightenDarken == kUnset && panel.keptLightness
-                                  ? lightenDarkenStep(*panel.keptLightness)
-                                  : panel.lightenDarken));
+         lightenDarkenPicture(panel.settings.lightenDarken == kUnset && panel.settings.keptLightness
+                                  ? lightenDarkenStep(*panel.settings.keptLightness)
+                                  : panel.settings.lightenDarken));
     show(controls.imageQualityPicture, isShown(controls.imageQuality),
-         imageQualityPicture(panel.imageQuality));
-    show(controls.tonerSaverPicture, isTonerSaverOffered(panel),
-         tonerSaverPicture(panel.tonerSaver));
+         imageQualityPicture(panel.settings.imageQuality));
+    show(controls.tonerSaverPicture, isTonerSaverOffered(panel.settings, panel.device),
+         tonerSaverPicture(panel.settings.tonerSaver));
     show(controls.cmykSourceColorPicture, isShown(controls.cmykSourceColor),
-         cmykSourceColorPicture(panel.cmykSourceColor));
+         cmykSourceColorPicture(panel.settings.cmykSourceColor));
     show(controls.outputColorCorrectionPicture, isShown(controls.outputColorCorrection),
-         outputColorCorrectionPicture(panel.outputColorCorrection));
-    show(controls.invertPicture, true, invertImagePicture(panel.invert));
+         outputColorCorrectionPicture(panel.settings.outputColorCorrection));
+    show(controls.invertPicture, true, invertImagePicture(panel.settings.invert));
 }
 
 } // namespace
@@ -161,14 +157,14 @@ ImageOptionsControls findImageOptionsControls(NeededControls &needed)
     };
 }
 
-void fillImageOptionsControls(ImageOptionsPanelContext &panel)
+void fillImageOptionsControls(ImageOptionsContext &panel)
 {
     setUpLightenDarken(panel);
     tellTicketPlaces(panel.controls);
     for (const PpdRow &row : ppdRows) {
         PopupButton *popup = panel.controls.*row.popup;
         if (hasOption(panel, row.option))
-            fillWithOfferedChoices(popup, panel.ppd, QString::fromLatin1(row.option));
+            fillWithOfferedChoices(popup, panel.device.ppd, QString::fromLatin1(row.option));
         else
             setEnabledWithLabel(popup, false);
     }
@@ -181,27 +177,27 @@ void fillImageOptionsControls(ImageOptionsPanelContext &panel)
         makeHintText(findControl<QLabel>(panel.content, panelID(number)));
 }
 
-void SaveUIValuesToData(ImageOptionsPanelContext &panel)
+void SaveUIValuesToData(ImageOptionsContext &panel)
 {
     if (!panel.content)
         return;
     const ImageOptionsControls &controls = panel.controls;
-    panel.lightenDarken =
+    panel.settings.lightenDarken =
         controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
     // What a control cannot show is not the user's choice, and stays.
     for (const PpdRow &row : ppdRows) {
         const PopupButton *popup = controls.*row.popup;
         if (popup->value() > 0)
-            panel.*row.value = GetPopupButtonTicketValue(popup);
+            panel.settings.*row.value = GetPopupButtonTicketValue(popup);
     }
     if (controls.tonerSaver->isChecked())
-        panel.tonerSaver = kTonerSaverOn;
-    else if (panel.tonerSaver == kTonerSaverOn)
-        panel.tonerSaver = kTonerSaverOff;
-    panel.invert.mirror = controls.mirror->isChecked();
+        panel.settings.tonerSaver = kTonerSaverOn;
+    else if (panel.settings.tonerSaver == kTonerSaverOn)
+        panel.settings.tonerSaver = kTonerSaverOff;
+    panel.settings.invert.mirror = controls.mirror->isChecked();
 }
 
-void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
+void RestoreUIValuesFromData(ImageOptionsContext &panel)
 {
     if (!panel.content)
         return;
@@ -210,15 +206,15 @@ void RestoreUIValuesFromData(ImageOptionsPanelContext &panel)
     for (const PpdRow &row : ppdRows)
         showPpdRow(panel, row);
     showTonerSaver(panel);
-    controls.mirror->setChecked(panel.invert.mirror);
+    controls.mirror->setChecked(panel.settings.invert.mirror);
     controls.invertHint->setText(localizedText(panel.bundle,
-                                               panel.invert.negative
+                                               panel.settings.invert.negative
                                                    ? QStringLiteral("Negative Image Hint")
                                                    : QStringLiteral("Mirror Image Hint")));
     showPictures(panel);
 }
 
-OSStatus ImageOptionsEventHandler(ImageOptionsPanelContext &panel, const Event &event)
+OSStatus ImageOptionsEventHandler(ImageOptionsContext &panel, const Event &event)
 {
     if (event.kind != EventKind::ControlHit || event.control.signature != kPanelSignature)
         return eventNotHandledErr;

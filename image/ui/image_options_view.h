@@ -1,7 +1,8 @@
 #pragma once
 
+#include "device.h"
 #include "event.h"
-#include "image_options_context.h"
+#include "image_options_settings.h"
 #include "invert_image_controls.h"
 #include "late_content.h"
 #include "needed_controls.h"
@@ -44,8 +45,14 @@ struct ImageOptionsControls
     QPointer<QLabel> invertHint;                        // KPDE 2105
 };
 
-struct ImageOptionsPanelContext : ImageOptionsContext
+struct ImageOptionsContext
 {
+    CFBundleRef bundle = nullptr;
+    QString title;
+    Device device;       // from Initialize on
+    bool opened = false; // Open was called
+    ImageOptionsSettings settings;
+
     QPointer<QWidget> parentUserPane;
     LateContent lateContent;   // from Open on
     QPointer<QWidget> content; // the panel's own views, once they are built
@@ -58,15 +65,15 @@ ImageOptionsControls findImageOptionsControls(NeededControls &needed);
 
 // Gives the controls ranges, and fills the pop-ups from the PPD. What the device does
 // not have is disabled, and says so.
-void fillImageOptionsControls(ImageOptionsPanelContext &panel);
+void fillImageOptionsControls(ImageOptionsContext &panel);
 
 // From the controls to the context; nothing happens before they are built.
-void SaveUIValuesToData(ImageOptionsPanelContext &panel);
+void SaveUIValuesToData(ImageOptionsContext &panel);
 // From the context to the controls and the pictures; likewise.
-void RestoreUIValuesFromData(ImageOptionsPanelContext &panel);
+void RestoreUIValuesFromData(ImageOptionsContext &panel);
 
 // Slider and spin field follow each other, and every change by the user is taken
 // and shown at once. eventNotHandledErr for what is not the panel's.
-OSStatus ImageOptionsEventHandler(ImageOptionsPanelContext &panel, const Event &event);
+OSStatus ImageOptionsEventHandler(ImageOptionsContext &panel, const Event &event);
 
 } // namespace kelvo

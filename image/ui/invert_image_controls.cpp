@@ -1,8 +1,7 @@
 #include "invert_image_controls.h"
 
 #include "control.h"
-#include "ticket.h"
-#include "ticket_values.h"
+#include "print_session.h"
 
 namespace kelvo {
 
@@ -11,16 +10,6 @@ namespace {
 constexpr ControlID kGroup{kShellSignature, 910};
 constexpr ControlID kNegative{kShellSignature, 911};
 constexpr ControlID kMirror{kShellSignature, 912};
-
-const QString kClient = QStringLiteral("K");
-
-void showFlags(const InvertImageContext &context, const II_Options &options)
-{
-    if (context.negative)
-        context.negative->setChecked(options.negative);
-    if (context.mirror)
-        context.mirror->setChecked(options.mirror);
-}
 
 } // namespace
 
@@ -48,28 +37,40 @@ OSStatus InvertImageOpen(CFBundleRef bundle, QWidget *window, QWidget *pane,
                 || !context->group->isAncestorOf(control)))
             embedControl(control, pane);
     }
-    showFlags(*context, *options);
+    showInvertImage(*context, *options);
     return noErr;
 }
 
+void takeInvertImage(const InvertImageContext &context, II_Options &options)
+{
+    options.negative = options.negative || context.negative;
+    options.mirror = options.mirror || context.mirror;
+}
+
+void showInvertImage(const InvertImageContext &context, const II_Options &options)
+{
+    if (context.negative)
+        context.negative->setChecked(options.negative);
+    if (context.mirror)
+        context.mirror->setChecked(options.mirror);
+}
+
 OSStatus InvertImageSync(const InvertImageContext *context, II_Options *options,
-                         std::int32_t direction, PMTicketRef ticket)
+                         std::int32_t direction, PMTicketRef handle)
 {
     if (!options)
         return kPMInvalidParameter;
-    const QString key = ticketKey("InvertImageOptions");
+    Ticket *ticket = findTicket(handle);
+    if (!ticket)
+        return kPMInvalidTicket;
     if (direction == kSyncWrite) {
-        if (context && context->negative)
-            options->negative = true;
-        if (context && context->mirror)
-            options->mirror = true;
-        return PMTicketSetCFDictionary(ticket, kClient, key,
-                                       InvertImageCreateTicketFromOptions(options));
+        if (context)
+            takeInvertImage(*context, *options);
+        return writeInvertImage(*options, *ticket);
     }
-    InvertImageSetOptionsFromTicket(options,
-                                    PMTicketGetCFDictionary(ticket, key).value_or(Dictionary()));
+    readInvertImage(*options, *ticket);
     if (context)
-        showFlags(*context, *options);
+        showInvertImage(*context, *options);
     return noErr;
 }
 

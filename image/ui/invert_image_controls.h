@@ -30,13 +30,14 @@ void InvertImageInitialize(InvertImageContext *context, II_Options *options);
 OSStatus InvertImageOpen(CFBundleRef bundle, QWidget *window, QWidget *pane,
                          InvertImageContext *context, II_Options *options);
 
-// com.kelvo.print.InvertImageOptions, in the form of invert_image.h.
-//
-// Writing sets a flag whose control is there, whatever the control shows: a window
-// with these controls prints inverted. Without controls the flags go out as they
-// are. Reading takes the flags from the ticket, false where it says nothing, and
-// shows them. `context` may be null; kPMInvalidParameter for null options, else
-// the ticket's status.
+// Before writing: sets a flag whose control is there, whatever the control shows: a
+// window with these controls prints inverted. After reading: shows the flags.
+void takeInvertImage(const InvertImageContext &context, II_Options &options);
+void showInvertImage(const InvertImageContext &context, const II_Options &options);
+
+// The one and writing, or reading and the other (invert_image.h). Without controls the
+// flags go out as they are. `context` may be null; kPMInvalidParameter for null options,
+// kPMInvalidTicket for a handle that names none, else the ticket's status.
 OSStatus InvertImageSync(const InvertImageContext *context, II_Options *options,
                          std::int32_t direction, PMTicketRef ticket);
 

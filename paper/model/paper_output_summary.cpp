@@ -36,9 +36,10 @@ QString stapleText(const _PaperOutputContext &context, const PpdFile *ppd)
 std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, const PpdFile *ppd)
 {
     const CFBundleRef bundle = context.bundle;
+    const Device device{bundle, ppd, {}};
     std::vector<SummaryLine> lines;
     const auto add = [&](const char *labelKey, const QString &text) {
-        addSummaryLine(lines, bundle, labelKey, text);
+        addSummaryLine(lines, device, labelKey, text);
     };
     add("Job Type:", mapText(bundle, JobTypeMap, context.jobType));
     add("Paper Summary:", stockSummaryText(bundle, kJobContextJob, &context.jobStock));

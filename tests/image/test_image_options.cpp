@@ -1,10 +1,9 @@
 #include "device_session.h"
 #include "image_options_pictures.h"
+#include "image_options_settings.h"
 #include "image_options_summary.h"
-#include "image_options_ticket.h"
 #include "image_shift.h"
 #include "picture_view.h"
-#include "ticket.h"
 
 #include <QTest>
 
@@ -55,7 +54,6 @@ private slots:
     void readsChoicesAndDefaults_data();
     void readsChoicesAndDefaults();
     void writesOnlyWhatTheDeviceHas();
-    void needsContextAndTicket();
     void hasAPictureOfEveryChoice();
     void summarizesForTheDialog();
 };
@@ -198,62 +196,39 @@ void TestImageOptions::readsChoicesAndDefaults()
     QFETCH(PPDDictionary, choices);
     QFETCH(QList<std::int32_t>, values);
     const DeviceSession session(device);
-    *PMTicketGetPPDDict(session.settings()) = choices;
-    ImageOptionsContext context;
-    context.ppd = PPDGetCurrent();
-    context.opened = true;
-    context.outputColorCorrection = 77;
-    QCOMPARE(SyncLightenDarkenToUI(&context, session.settings()), noErr);
-    QCOMPARE(SyncTonerSaverToUI(&context, session.settings()), noErr);
-    QCOMPARE(SyncQualityAndColorToUI(&context, session.settings()), noErr);
-    QCOMPARE((QList{context.lightenDarken, context.tonerSaver, context.imageQuality,
-                    context.cmykSourceColor, context.outputColorCorrection}),
+    Ticket ticket{{}, choices};
+    ImageOptionsSettings settings;
+    settings.outputColorCorrection = 77;
+    readImageOptions(settings, ticket, currentDevice());
+    QCOMPARE((QList{settings.lightenDarken, settings.tonerSaver, settings.imageQuality,
+                    settings.cmykSourceColor, settings.outputColorCorrection}),
              values);
 
     // What cannot be said in choices leaves the ticket's alone.
-    SyncLightenDarkenToTicket(&context, session.settings());
-    SyncTonerSaverToTicket(&context, session.settings());
-    SyncQualityAndColorToTicket(&context, session.settings());
+    writeImageOptions(settings, ticket, currentDevice(), true);
     for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
-        QCOMPARE(session.choice(choice.key()), *choice);
+        QCOMPARE(ticket.ppdChoices.value(choice.key()), *choice);
 }
 
 void TestImageOptions::writesOnlyWhatTheDeviceHas()
 {
     const DeviceSession bare(QStringLiteral("bare"));
-    ImageOptionsContext context;
-    context.ppd = PPDGetCurrent();
-    context.lightenDarken = -3;
-    context.tonerSaver = kTonerSaverOn;
-    context.cmykSourceColor = 2; // of an earlier ticket
-    const auto write = [&] {
-        SyncLightenDarkenToTicket(&context, bare.settings());
-        SyncTonerSaverToTicket(&context, bare.settings());
-        SyncQualityAndColorToTicket(&context, bare.settings());
-        return *PMTicketGetPPDDict(bare.settings());
+    ImageOptionsSettings settings;
+    settings.lightenDarken = -3;
+    settings.tonerSaver = kTonerSaverOn;
+    settings.cmykSourceColor = 2; // of an earlier ticket
+    Ticket ticket;
+    const auto write = [&](const Device &device, bool opened) {
+        writeImageOptions(settings, ticket, device, opened);
+        return ticket.ppdChoices;
     };
-    QCOMPARE(write(), (PPDDictionary{{"KVEconomode", "Draft"}}));
-    context.opened = true;
-    QCOMPARE(write(), (PPDDictionary{{"KVEconomode", "Draft"}, {"KVImageQuality", "Lighten3"}}));
-    context.lightenDarken = kUnset;
-    QCOMPARE(write(), (PPDDictionary{{"KVEconomode", "Draft"}}));
-    context.ppd = nullptr; // nothing is known of the device
-    QCOMPARE(write().value("KVCMYKColorSpace"), QStringLiteral("SWOP"));
-}
-
-void TestImageOptions::needsContextAndTicket()
-{
-    const DeviceSession session(QStringLiteral("full"));
-    ImageOptionsContext context;
-    for (const auto sync : {SyncLightenDarkenToUI, SyncTonerSaverToUI, SyncQualityAndColorToUI,
-                            SyncLightenDarkenToTicket}) {
-        QCOMPARE(sync(nullptr, session.settings()), kPMInvalidParameter);
-        QCOMPARE(sync(&context, 0), kPMInvalidParameter);
-    }
-    for (const auto sync : {SyncTonerSaverToTicket, SyncQualityAndColorToTicket}) {
-        QCOMPARE(sync(nullptr, session.settings()), kPMInvalidParameter);
-        QCOMPARE(sync(&context, 0), kPMInvalidParameter);
-    }
+    QCOMPARE(write(currentDevice(), false), (PPDDictionary{{"KVEconomode", "Draft"}}));
+    QCOMPARE(write(currentDevice(), true),
+             (PPDDictionary{{"KVEconomode", "Draft"}, {"KVImageQuality", "Lighten3"}}));
+    settings.lightenDarken = kUnset;
+    QCOMPARE(write(currentDevice(), true), (PPDDictionary{{"KVEconomode", "Draft"}}));
+    // Of no PPD nothing is known that a device lacks.
+    QCOMPARE(write(Device(), true).value("KVCMYKColorSpace"), QStringLiteral("SWOP"));
 }
 
 void TestImageOptions::hasAPictureOfEveryChoice()
@@ -284,29 +259,27 @@ void TestImageOptions::hasAPictureOfEveryChoice()
 
 void TestImageOptions::summarizesForTheDialog()
 {
-    const auto summary = [](const QString &device, ImageOptionsContext context) {
+    const auto summary = [](const QString &device, const ImageOptionsSettings &settings) {
         const DeviceSession session(device);
-        context.bundle = session.bundle;
-        context.ppd = PPDGetCurrent();
         QStringList lines;
-        for (const SummaryLine &line : imageOptionsSummary(context))
+        for (const SummaryLine &line : imageOptionsSummary(settings, currentDevice()))
             lines << line.title + u' ' + line.text;
         return lines.join(u'|');
     };
-    ImageOptionsContext context;
-    context.lightenDarken = -3;
-    context.imageQuality = 5;
-    context.tonerSaver = kTonerSaverOn;
-    context.cmykSourceColor = 2;
-    context.outputColorCorrection = 4;
-    context.invert.mirror = true;
-    QCOMPARE(summary(QStringLiteral("full"), context),
+    ImageOptionsSettings settings;
+    settings.lightenDarken = -3;
+    settings.imageQuality = 5;
+    settings.tonerSaver = kTonerSaverOn;
+    settings.cmykSourceColor = 2;
+    settings.outputColorCorrection = 4;
+    settings.invert.mirror = true;
+    QCOMPARE(summary(QStringLiteral("full"), settings),
              QStringLiteral("Lighten/darken: Lighten 3|Image quality: High Quality|"
                             "Toner saver: Conserve Dry Ink|CMYK source color: SWOP|"
                             "Output color correction: Press Match|Invert image: Mirror image"));
-    context.lightenDarken = kUnset;
-    context.invert.mirror = false;
-    QCOMPARE(summary(QStringLiteral("bare"), context),
+    settings.lightenDarken = kUnset;
+    settings.invert.mirror = false;
+    QCOMPARE(summary(QStringLiteral("bare"), settings),
              QStringLiteral("Lighten/darken: Printer default|Image quality: High Quality|"
                             "Toner saver: Conserve Dry Ink"));
 }

@@ -9,12 +9,10 @@
 #include "panel_prologue.h"
 #include "pde_session.h"
 #include "popups.h"
-#include "ppd_choices.h"
+#include "print_session.h"
 #include "setting_maps.h"
-#include "ticket.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
-#include "values.h"
 
 #include <QLabel>
 
@@ -25,8 +23,6 @@ namespace kelvo {
 
 namespace {
 
-const QString kBookletOrderClient = QStringLiteral("com.kelvo.printingmanager");
-
 constexpr ControlID kBookletOrderPopup{kPanelSignature, 602};
 constexpr ControlID kAboutButton{kPanelSignature, 670};
 constexpr std::array kHints = {6021, 6141, 6161, 7021}; // KPDE
@@ -34,8 +30,7 @@ constexpr std::array kHints = {6021, 6141, 6161, 7021}; // KPDE
 // A pop-up that shows a PPD option's choices.
 struct PpdRow
 {
-    const char *option;
-    std::int32_t AdvancedContext::*value;
+    AdvancedChoice choice;
     QPointer<PopupButton> AdvancedControls::*popup;
     std::int32_t popupNumber; // KPDE
     std::int32_t hintNumber;  // KPDE, the text below the pop-up
@@ -43,18 +38,10 @@ struct PpdRow
 };
 
 const std::array kPpdRows = {
-    PpdRow{"JCLBanner", &AdvancedContext::banner, &AdvancedControls::banner, 614, 6141,
-           "Banner Sheet Hint"},
-    PpdRow{"Jog", &AdvancedContext::offset, &AdvancedControls::offset, 616, 6161,
-           "Request Offset Hint"},
-    PpdRow{"KVFeedEdge", &AdvancedContext::feedEdge, &AdvancedControls::feedEdge, 702, 7021,
-           "Bypass Feed Edge Hint"},
+    PpdRow{kBannerChoice, &AdvancedControls::banner, 614, 6141, "Banner Sheet Hint"},
+    PpdRow{kOffsetChoice, &AdvancedControls::offset, 616, 6161, "Request Offset Hint"},
+    PpdRow{kFeedEdgeChoice, &AdvancedControls::feedEdge, 702, 7021, "Bypass Feed Edge Hint"},
 };
-
-QString bookletOrderKey()
-{
-    return ticketKey("AdvancedBookletLayoutOrderStr");
-}
 
 AdvancedContext *advancedOf(PMPDEContext context)
 {
@@ -72,7 +59,7 @@ void showBookletOrder(PopupButton *popup, std::int32_t order)
 
 void showRow(const AdvancedContext &advanced, const PpdRow &row)
 {
-    showChoice(advanced.bundle, advanced.controls.*row.popup, advanced.*row.value,
+    showChoice(advanced.bundle, advanced.controls.*row.popup, advanced.settings.*row.choice.value,
                findControl<QLabel>(advanced.content, {kPanelSignature, row.hintNumber}),
                localizedText(advanced.bundle, QString::fromLatin1(row.hintKey)));
 }
@@ -80,7 +67,7 @@ void showRow(const AdvancedContext &advanced, const PpdRow &row)
 // From the context to the controls.
 void showSettings(const AdvancedContext &advanced)
 {
-    showBookletOrder(advanced.controls.bookletOrder, advanced.bookletOrder);
+    showBookletOrder(advanced.controls.bookletOrder, advanced.settings.bookletOrder);
     for (const PpdRow &row : kPpdRows)
         showRow(advanced, row);
 }
@@ -90,13 +77,14 @@ OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
     if (event.kind != EventKind::ControlHit || event.control.signature != kPanelSignature)
         return eventNotHandledErr;
     if (event.control == kAboutButton)
-        RunModalAboutDialog(advanced.bundle, advanced.ppd, advanced.parentUserPane);
+        RunModalAboutDialog(advanced.bundle, advanced.device.ppd, advanced.parentUserPane);
     else if (event.control == kBookletOrderPopup)
-        advanced.bookletOrder = GetPopupButtonTicketValue(advanced.controls.bookletOrder);
+        advanced.settings.bookletOrder = GetPopupButtonTicketValue(advanced.controls.bookletOrder);
     for (const PpdRow &row : kPpdRows) {
         if (event.control.number != row.popupNumber)
             continue;
-        advanced.*row.value = GetPopupButtonTicketValue(advanced.controls.*row.popup);
+        advanced.settings.*row.choice.value =
+            GetPopupButtonTicketValue(advanced.controls.*row.popup);
         showRow(advanced, row);
     }
     return eventNotHandledErr;
@@ -134,10 +122,10 @@ void fillPopups(const AdvancedContext &advanced)
 {
     PopulatePopupButtonFromMap(advanced.bundle, advanced.controls.bookletOrder,
                                BookletLayoutOrderMap, kJobContextJob, kNoCommand);
-    setTicketPlaces(advanced.controls.bookletOrder, {{kPMPrintSettingsTicket, bookletOrderKey()}});
+    setTicketPlaces(advanced.controls.bookletOrder, bookletOrderPlaces());
     for (const PpdRow &row : kPpdRows)
-        fillWithOfferedChoices(advanced.controls.*row.popup, advanced.ppd,
-                               QString::fromLatin1(row.option));
+        fillWithOfferedChoices(advanced.controls.*row.popup, advanced.device.ppd,
+                               QString::fromLatin1(row.choice.option));
 }
 
 void buildContent(AdvancedContext &advanced)
@@ -173,10 +161,13 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
     const OSStatus found = GetTicketFromSession(session, kPMPrintSettingsTicket, &ticket);
     if (found != noErr)
         return found;
+    Ticket *printSettings = findTicket(ticket);
+    if (!printSettings)
+        return kPMInvalidTicket;
     if (direction == kSyncWrite) {
-        writeAdvancedSettings(*advanced, ticket);
+        writeAdvanced(advanced->settings, *printSettings);
     } else {
-        readAdvancedSettings(*advanced, ticket);
+        readAdvanced(advanced->settings, *printSettings, advanced->device);
         showSettings(*advanced);
     }
     return noErr;
@@ -189,7 +180,7 @@ OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane 
     if (!advanced || !session)
         return kPMInvalidPDEContext;
     advanced->parentUserPane = parentUserPane;
-    advanced->ppd = PPDGetCurrent();
+    advanced->device = currentDevice();
     return Sync(context, session, kSyncRead);
 }
 
@@ -227,29 +218,6 @@ OSStatus Terminate(PMPDEContext context, OSStatus)
 }
 
 } // namespace
-
-void readAdvancedSettings(AdvancedContext &advanced, PMTicketRef ticket)
-{
-    constexpr std::int32_t orderWhenAbsent = 2;
-    const std::optional<std::int64_t> order = PMTicketGetCFNumber(ticket, bookletOrderKey());
-    advanced.bookletOrder = integer32(QVariant::fromValue<qint64>(order.value_or(orderWhenAbsent)))
-                                .value_or(orderWhenAbsent);
-    for (const PpdRow &row : kPpdRows) {
-        // What an earlier ticket said must not go into this one.
-        advanced.*row.value = kNoPpdChoice;
-        PPDGetTicketValueForChoiceOrDefault(advanced.ppd, ticket, QString::fromLatin1(row.option),
-                                            &(advanced.*row.value));
-    }
-}
-
-void writeAdvancedSettings(const AdvancedContext &advanced, PMTicketRef ticket)
-{
-    PMTicketSetCFNumber(ticket, kBookletOrderClient, bookletOrderKey(), advanced.bookletOrder);
-    for (const PpdRow &row : kPpdRows) {
-        const QString option = QString::fromLatin1(row.option);
-        PPDSetCurrentChoice(ticket, option, PPDChoiceForTicketValue(option, advanced.*row.value));
-    }
-}
 
 OSStatus GetAdvancedPanelInterface(PanelInterface **interface)
 {

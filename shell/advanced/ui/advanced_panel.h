@@ -1,17 +1,15 @@
 #pragma once
 
-#include "bundle.h"
+#include "advanced_settings.h"
+#include "device.h"
 #include "event.h"
 #include "late_content.h"
 #include "plugin_abi.h"
 #include "popup_button.h"
-#include "ppd_choices.h"
 
 #include <QPointer>
 #include <QString>
 #include <QWidget>
-
-#include <cstdint>
 
 // The Advanced panel: booklet image order, banner sheet, offset and the feed
 // edge of the bypass tray.
@@ -28,30 +26,18 @@ struct AdvancedControls
     QPointer<PopupButton> feedEdge;     // KPDE 702, label 701
 };
 
-// Values are ticket values: of BookletLayoutOrderMap for the first, of the PPD
-// options "JCLBanner", "Jog" and "KVFeedEdge" for the others.
 struct AdvancedContext
 {
     CFBundleRef bundle = nullptr;
-    QPointer<QWidget> parentUserPane;
     QString title;
+    Device device; // from Initialize on
+    AdvancedSettings settings;
+
+    QPointer<QWidget> parentUserPane;
     QPointer<QWidget> content; // the panel's own views, once they are built
     AdvancedControls controls;
-    std::int32_t bookletOrder = 2; // where the ticket says nothing
-    std::int32_t banner = kNoPpdChoice;
-    std::int32_t offset = kNoPpdChoice;
-    std::int32_t feedEdge = kNoPpdChoice;
-    PpdFile *ppd = nullptr;  // the current one, from Initialize on
     LateContent lateContent; // from Open on
     EventHandlerRef handler;
 };
-
-// The ticket's entries, read and written:
-//   com.kelvo.print.AdvancedBookletLayoutOrderStr   integer, client
-//                                                   "com.kelvo.printingmanager"
-//   PPD choices JCLBanner, Jog, KVFeedEdge          a choice that the keyword map
-//                                                   does not have stays in the ticket
-void readAdvancedSettings(AdvancedContext &advanced, PMTicketRef ticket);
-void writeAdvancedSettings(const AdvancedContext &advanced, PMTicketRef ticket);
 
 } // namespace kelvo

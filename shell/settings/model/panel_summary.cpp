@@ -1,16 +1,13 @@
 #include "panel_summary.h"
 
-#include "ticket_values.h"
-
 namespace kelvo {
 
-void addSummaryLine(std::vector<SummaryLine> &lines, CFBundleRef bundle, const char *labelKey,
+void addSummaryLine(std::vector<SummaryLine> &lines, const Device &device, const char *labelKey,
                     const QString &text)
 {
     if (text.isEmpty())
         return;
-    QString title = localizedText(bundle, QString::fromLatin1(labelKey));
-    lines.push_back({title.remove(u'&'), text});
+    lines.push_back({device.text(labelKey).remove(u'&'), text});
 }
 
 void appendSummary(const std::vector<SummaryLine> &lines, SummaryArray *titles, SummaryArray *texts)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "plugin_abi.h"
 
 #include <QString>
@@ -18,7 +18,7 @@ struct SummaryLine
 
 // Adds a line under the text of a control's label, without its mnemonic. A setting
 // without words is left out.
-void addSummaryLine(std::vector<SummaryLine> &lines, CFBundleRef bundle, const char *labelKey,
+void addSummaryLine(std::vector<SummaryLine> &lines, const Device &device, const char *labelKey,
                     const QString &text);
 
 // Behind what other panels have said; arrays that are missing are made. Neither

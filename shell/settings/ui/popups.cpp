@@ -88,7 +88,7 @@ int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString 
     return count;
 }
 
-void fillWithOfferedChoices(PopupButton *popup, PpdFile *ppd, const QString &option,
+void fillWithOfferedChoices(PopupButton *popup, const PpdFile *ppd, const QString &option,
                             const QStringList &readByName)
 {
     if (!popup)

@@ -39,7 +39,7 @@ int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString 
 // Fills the pop-up with what the device offers (offered_choices.h); the count becomes
 // its maximum. Where that is nothing it is disabled with its label, and stays in its
 // place, so that users of several devices find it there. It says that it sets the option.
-void fillWithOfferedChoices(PopupButton *popup, PpdFile *ppd, const QString &option,
+void fillWithOfferedChoices(PopupButton *popup, const PpdFile *ppd, const QString &option,
                             const QStringList &readByName = {});
 // Shows the item with that value, and `hintText` in `hint`. A value that no item has
 // is the job's, and not offered here: the pop-up says so in place of an item, and the
