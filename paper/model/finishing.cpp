@@ -1,8 +1,6 @@
 #include "finishing.h"
 
-#include "installed_features.h"
-#include "paper_output_context.h"
-#include "ticket_values.h"
+#include "paper_output_settings.h"
 
 #include <algorithm>
 #include <array>
@@ -49,26 +47,23 @@ constexpr MenuLine kMenuLines[] = {
 };
 // clang-format on
 
-bool isPresent(const MenuLine &line, const FinishingDevices &devices)
+bool isPresent(const MenuLine &line, const Device &device, const FinishingDevices &devices)
 {
     if (line.feature)
-        return getInstalledFeature(line.feature);
+        return device.has(line.feature);
     return !line.unit || devices.*line.unit;
 }
 
-QString textOf(const MenuLine &line, CFBundleRef bundle)
+QString textOf(const MenuLine &line, const Device &device)
 {
-    if (line.textKey)
-        return localizedText(bundle, QString::fromLatin1(line.textKey));
-    return CopyLocalizedStringForInstalledFeatureFromPlugin(QString::fromLatin1(line.feature),
-                                                            bundle)
-        .value_or(QString());
+    return line.textKey ? device.text(line.textKey)
+                        : device.featureText(line.feature).value_or(QString());
 }
 
-bool isChecked(const MenuItem &item, const _PaperOutputContext &context)
+bool isChecked(const MenuItem &item, const PaperOutputSettings &settings)
 {
-    const Finishing &finishing = context.finishing;
-    const bool isBookletMode = finishing.options == kFinishingBooklet || context.isBooklet();
+    const Finishing &finishing = settings.finishing;
+    const bool isBookletMode = finishing.options == kFinishingBooklet || settings.isBooklet();
     if (isBookletMode)
         return item.command == kCommandBookletCreation;
     switch (item.command) {
@@ -99,15 +94,15 @@ bool isChecked(const MenuItem &item, const _PaperOutputContext &context)
 }
 
 // A staple or a hole goes through all sheets, which a booklet's fold does not allow.
-void leaveBooklet(_PaperOutputContext &context)
+void leaveBooklet(PaperOutputSettings &settings)
 {
-    if (context.isBooklet()) {
-        context.booklet = kBookletOff;
-        context.duplex = kPlexDuplex;
+    if (settings.isBooklet()) {
+        settings.booklet = kBookletOff;
+        settings.duplex = kPlexDuplex;
     }
-    if (context.finishing.options == kFinishingBooklet) {
-        context.finishing.options = kFinishingNone;
-        context.finishing.fold = kFoldNone;
+    if (settings.finishing.options == kFinishingBooklet) {
+        settings.finishing.options = kFinishingNone;
+        settings.finishing.fold = kFoldNone;
     }
 }
 
@@ -166,21 +161,21 @@ const char *foldKey(std::int32_t fold)
 
 } // namespace
 
-FinishingDevices installedFinishingDevices()
+FinishingDevices finishingDevices(const Device &device)
 {
-    return {std::ranges::any_of(kStaplerFeatures, getInstalledFeature),
-            std::ranges::any_of(kPunchFeatures, getInstalledFeature),
-            std::ranges::any_of(kFolderFeatures, getInstalledFeature)};
+    const auto has = [&device](const char *feature) { return device.has(feature); };
+    return {std::ranges::any_of(kStaplerFeatures, has), std::ranges::any_of(kPunchFeatures, has),
+            std::ranges::any_of(kFolderFeatures, has)};
 }
 
-void PopulateFinishingMenu(Menu &menu, CFBundleRef bundle)
+void PopulateFinishingMenu(Menu &menu, const Device &device)
 {
-    const FinishingDevices devices = installedFinishingDevices();
+    const FinishingDevices devices = finishingDevices(device);
     for (const MenuLine &line : kMenuLines) {
-        if (!isPresent(line, devices))
+        if (!isPresent(line, device, devices))
             continue;
         MenuItem item;
-        item.text = textOf(line, bundle);
+        item.text = textOf(line, device);
         item.command = line.command;
         item.reference = line.value;
         item.divider = line.command == kNoCommand;
@@ -189,34 +184,34 @@ void PopulateFinishingMenu(Menu &menu, CFBundleRef bundle)
     }
 }
 
-void MarkFinishingMenu(Menu &menu, const _PaperOutputContext &context)
+void MarkFinishingMenu(Menu &menu, const PaperOutputSettings &settings)
 {
     for (MenuItem &item : menu.items)
-        item.checked = isChecked(item, context);
+        item.checked = isChecked(item, settings);
 }
 
-bool applyFinishingCommand(_PaperOutputContext &context, OSType command, std::int32_t value)
+bool applyFinishingCommand(PaperOutputSettings &settings, OSType command, std::int32_t value)
 {
-    Finishing &finishing = context.finishing;
+    Finishing &finishing = settings.finishing;
     switch (command) {
     case kCommandNoStaple:
-        leaveBooklet(context);
+        leaveBooklet(settings);
         setStaple(finishing, kStapleNone);
         return true;
     case kCommandSingleStaple:
-        leaveBooklet(context);
+        leaveBooklet(settings);
         finishing.options = kFinishingSingleStaple;
         setStaple(finishing, value);
         finishing.fold = kFoldNone;
         return true;
     case kCommandDualStaple:
-        leaveBooklet(context);
+        leaveBooklet(settings);
         finishing.options = kFinishingDualStaple;
         setStaple(finishing, value);
         finishing.fold = kFoldNone;
         return true;
     case kCommandMultipleStaples:
-        leaveBooklet(context);
+        leaveBooklet(settings);
         finishing.options = kFinishingMultipleStaples;
         setStaple(finishing, kStapleMultiple);
         finishing.fold = kFoldNone;
@@ -227,7 +222,7 @@ bool applyFinishingCommand(_PaperOutputContext &context, OSType command, std::in
     case kCommandTwoHoles:
     case kCommandThreeHoles:
     case kCommandFourHoles:
-        leaveBooklet(context);
+        leaveBooklet(settings);
         finishing.options = kFinishingPunch;
         finishing.punchKind = kPunchKindPunched;
         finishing.fold = kFoldNone;
@@ -235,7 +230,7 @@ bool applyFinishingCommand(_PaperOutputContext &context, OSType command, std::in
         finishing.punch = value;
         return true;
     case kCommandNoPunch:
-        leaveBooklet(context);
+        leaveBooklet(settings);
         finishing.punchKind = kPunchKindNone;
         finishing.punch = value;
         return true;
@@ -272,33 +267,33 @@ std::int32_t chosenStaple(const Finishing &finishing)
     return finishing.dualStaple != kStapleNone ? finishing.dualStaple : finishing.otherStaple;
 }
 
-void UnselectBooklet(_PaperOutputContext &context)
+void UnselectBooklet(PaperOutputSettings &settings)
 {
-    context.booklet = kBookletOff;
-    context.duplex = kPlexDuplex;
-    if (context.finishing.options == kFinishingBooklet)
-        context.finishing.options = kFinishingNone;
+    settings.booklet = kBookletOff;
+    settings.duplex = kPlexDuplex;
+    if (settings.finishing.options == kFinishingBooklet)
+        settings.finishing.options = kFinishingNone;
 }
 
-QString CreateFinishingString(const _PaperOutputContext &context)
+QString CreateFinishingString(const PaperOutputSettings &settings, const Device &device)
 {
     QString summary = QStringLiteral("");
     const auto addLine = [&](const char *key) {
-        summary += QStringLiteral("- ") + localizedText(context.bundle, QString::fromLatin1(key))
-            + QStringLiteral("\n");
+        summary += QStringLiteral("- ") + device.text(key) + QStringLiteral("\n");
     };
-    const Finishing &finishing = context.finishing;
-    if (finishing.options == kFinishingBooklet || context.isBooklet()) {
+    const Finishing &finishing = settings.finishing;
+    if (finishing.options == kFinishingBooklet || settings.isBooklet()) {
         addLine(bookletFoldKey(finishing.fold));
-        if (context.isBooklet())
+        if (settings.isBooklet())
             addLine("Booklet Layout");
         return summary;
     }
-    if (context.devices.stapler)
+    const FinishingDevices devices = finishingDevices(device);
+    if (devices.stapler)
         addLine(stapleKey(finishing));
-    if (context.devices.holePunch)
+    if (devices.holePunch)
         addLine(punchKey(finishing.punch));
-    if (context.devices.folder)
+    if (devices.folder)
         addLine(foldKey(finishing.fold));
     return summary;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "menu.h"
 
 #include <QString>
@@ -11,7 +11,7 @@
 // commands do.
 namespace kelvo {
 
-struct _PaperOutputContext;
+struct PaperOutputSettings;
 
 // com.kelvo.print.FinishingOptions
 inline constexpr std::int32_t kFinishingNone = 0;
@@ -84,7 +84,7 @@ struct FinishingDevices
 
     friend bool operator==(const FinishingDevices &, const FinishingDevices &) = default;
 };
-FinishingDevices installedFinishingDevices();
+FinishingDevices finishingDevices(const Device &device);
 
 // Commands of the finishing menu; those with a value carry it as reference.
 inline constexpr OSType kCommandNoStaple = fourCharCode("Stp0");
@@ -107,14 +107,14 @@ inline constexpr OSType kCommandSeparators = fourCharCode("Ksep");
 
 // The finishing menu: an item is left out when its device is not installed, the
 // dividers and "Booklet Creation..." never are.
-void PopulateFinishingMenu(Menu &menu, CFBundleRef bundle);
+void PopulateFinishingMenu(Menu &menu, const Device &device);
 
 // Puts the check marks.
-void MarkFinishingMenu(Menu &menu, const _PaperOutputContext &context);
+void MarkFinishingMenu(Menu &menu, const PaperOutputSettings &settings);
 
-// What a command of the menu, but for 'Bkcr', does to the context. False for any
+// What a command of the menu, but for 'Bkcr', does to the settings. False for any
 // other command. Staples and punches end booklet mode first.
-bool applyFinishingCommand(_PaperOutputContext &context, OSType command, std::int32_t value);
+bool applyFinishingCommand(PaperOutputSettings &settings, OSType command, std::int32_t value);
 
 // Stores a value of "StapleLocation" in the field of its range; the other two
 // become none. What the stapling pop-up does.
@@ -124,10 +124,10 @@ std::int32_t chosenStaple(const Finishing &finishing);
 
 // Ends booklet layout: duplex 2, and finishing options 24 become 0. The panel
 // shows it.
-void UnselectBooklet(_PaperOutputContext &context);
+void UnselectBooklet(PaperOutputSettings &settings);
 
 // One line for each part: "- " text and a line feed. Empty where the device has
 // no finishing device and there is no booklet.
-QString CreateFinishingString(const _PaperOutputContext &context);
+QString CreateFinishingString(const PaperOutputSettings &settings, const Device &device);
 
 } // namespace kelvo

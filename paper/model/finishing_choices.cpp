@@ -1,9 +1,8 @@
 #include "finishing_choices.h"
 
-#include "installed_features.h"
 #include "offered_choices.h"
-#include "paper_output_context.h"
 #include "paper_output_pictures.h"
+#include "paper_output_settings.h"
 
 #include <algorithm>
 
@@ -110,10 +109,10 @@ bool isInPpd(Setting setting, std::int32_t value, const PpdFile *ppd)
     return true;
 }
 
-bool isOffered(const ChoiceRow &row, const PpdFile *ppd)
+bool isOffered(const ChoiceRow &row, const Device &device)
 {
     return !row.feature
-        || (getInstalledFeature(row.feature) && isInPpd(row.setting, row.choice.value, ppd));
+        || (device.has(row.feature) && isInPpd(row.setting, row.choice.value, device.ppd));
 }
 
 QString bindPicture(std::int32_t bind)
@@ -132,11 +131,11 @@ QString bindPicture(std::int32_t bind)
 
 } // namespace
 
-std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const PpdFile *ppd)
+std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const Device &device)
 {
     std::vector<FinishingChoice> choices;
     for (const ChoiceRow &row : kRows) {
-        if ((row.dialogs & in(kind)) && isOffered(row, ppd))
+        if ((row.dialogs & in(kind)) && isOffered(row, device))
             choices.push_back(row.choice);
     }
     return choices;
@@ -175,21 +174,21 @@ const char *replacedFinishing(FinishingDialogKind kind, const std::vector<Finish
     return nullptr;
 }
 
-bool endsBooklet(FinishingDialogKind kind, const _PaperOutputContext &context)
+bool endsBooklet(FinishingDialogKind kind, const PaperOutputSettings &settings)
 {
     const Setting setting = settingOf(kind);
     return (setting == Setting::Staple || setting == Setting::Punch)
-        && (context.isBooklet() || context.finishing.options == kFinishingBooklet);
+        && (settings.isBooklet() || settings.finishing.options == kFinishingBooklet);
 }
 
-void applyFinishingChoice(_PaperOutputContext &context, const FinishingChoice &choice)
+void applyFinishingChoice(PaperOutputSettings &settings, const FinishingChoice &choice)
 {
-    Finishing &finishing = context.finishing;
+    Finishing &finishing = settings.finishing;
     if (choice.command == kNoCommand) {
         finishing.bind = choice.value;
         return;
     }
-    applyFinishingCommand(context, choice.command, choice.value);
+    applyFinishingCommand(settings, choice.command, choice.value);
     // Folded and stapled is a booklet's finishing. Folded alone may be one, or not.
     if (finishing.fold == kFoldBiAndStaple)
         finishing.options = kFinishingBooklet;
@@ -197,15 +196,15 @@ void applyFinishingChoice(_PaperOutputContext &context, const FinishingChoice &c
         finishing.options = kFinishingNone;
 }
 
-QString finishingChoicePicture(FinishingDialogKind kind, const _PaperOutputContext &context,
+QString finishingChoicePicture(FinishingDialogKind kind, const PaperOutputSettings &settings,
                                const FinishingChoice &choice)
 {
     const Setting setting = settingOf(kind);
     if (setting == Setting::Bind)
         return bindPicture(choice.value);
-    _PaperOutputContext after;
-    after.booklet = context.booklet;
-    after.finishing = context.finishing;
+    PaperOutputSettings after;
+    after.booklet = settings.booklet;
+    after.finishing = settings.finishing;
     applyFinishingChoice(after, choice);
     // The picture of all finishing shows three holes for two, and here the holes
     // are what is chosen.

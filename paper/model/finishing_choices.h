@@ -12,8 +12,6 @@
 // their OK does.
 namespace kelvo {
 
-class PpdFile;
-
 enum class FinishingDialogKind {
     SingleStaple,
     DualStaple,
@@ -36,7 +34,7 @@ struct FinishingChoice
 // In the order of the pop-up, "none" first. Whatever the device has not
 // installed, or its PPD has no choice for, is left out, so that "none" alone says
 // that there is nothing to choose. Binding has no choices in a PPD.
-std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const PpdFile *ppd);
+std::vector<FinishingChoice> finishingChoices(FinishingDialogKind kind, const Device &device);
 
 // The line of what is set; none where this dialog does not offer it.
 std::optional<std::size_t> findSetChoice(FinishingDialogKind kind,
@@ -55,15 +53,15 @@ const char *replacedFinishing(FinishingDialogKind kind, const std::vector<Finish
                               const Finishing &finishing);
 
 // OK will end booklet mode: staples and holes do, folding and binding do not.
-bool endsBooklet(FinishingDialogKind kind, const _PaperOutputContext &context);
+bool endsBooklet(FinishingDialogKind kind, const PaperOutputSettings &settings);
 
 // What OK does: the choice's command of the finishing menu with the choice's
 // value. A booklet that is folded and stapled has no command of its own: it is the
 // bi-fold's with another value, and finishing options 24 for as long as it is set.
-void applyFinishingChoice(_PaperOutputContext &context, const FinishingChoice &choice);
+void applyFinishingChoice(PaperOutputSettings &settings, const FinishingChoice &choice);
 
 // What would come out, as the bundle names the picture; empty where it has none.
-QString finishingChoicePicture(FinishingDialogKind kind, const _PaperOutputContext &context,
+QString finishingChoicePicture(FinishingDialogKind kind, const PaperOutputSettings &settings,
                                const FinishingChoice &choice);
 
 } // namespace kelvo

@@ -1,6 +1,6 @@
 #include "job_type_setup.h"
 
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 
 namespace kelvo {
 
@@ -19,16 +19,17 @@ bool hasJobTypeSetup(std::int32_t jobType)
     }
 }
 
-void changeJobType(_PaperOutputContext &context, std::int32_t jobType)
+void changeJobType(PaperOutputSettings &settings, std::int32_t jobType)
 {
-    if (jobType != context.jobType)
-        context.passcode.reset();
-    context.jobType = jobType;
+    if (jobType != settings.jobType)
+        settings.passcode.reset();
+    settings.jobType = jobType;
 }
 
-bool lacksPasscode(const _PaperOutputContext &context)
+bool lacksPasscode(const PaperOutputSettings &settings)
 {
-    return context.jobType == kJobTypeSecurePrint && context.passcode.value_or(QString()).isEmpty();
+    return settings.jobType == kJobTypeSecurePrint
+        && settings.passcode.value_or(QString()).isEmpty();
 }
 
 } // namespace kelvo

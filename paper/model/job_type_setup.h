@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-struct _PaperOutputContext;
+struct PaperOutputSettings;
 
 // The set-up button is enabled for these job types; two of them open nothing.
 bool hasJobTypeSetup(std::int32_t jobType);
@@ -12,9 +12,9 @@ bool hasJobTypeSetup(std::int32_t jobType);
 // The user chose `jobType`. A passcode belongs to the job type that it was entered
 // for: another one would lock its job with a code that nobody entered for it, or keep
 // it from queues that hold no secrets.
-void changeJobType(_PaperOutputContext &context, std::int32_t jobType);
+void changeJobType(PaperOutputSettings &settings, std::int32_t jobType);
 
 // A secure print that cannot be printed yet, as it has no passcode.
-bool lacksPasscode(const _PaperOutputContext &context);
+bool lacksPasscode(const PaperOutputSettings &settings);
 
 } // namespace kelvo

@@ -1,8 +1,6 @@
 #include "output_destinations.h"
 
-#include "installed_features.h"
 #include "offered_choices.h"
-#include "ppd_file.h"
 #include "setting_map.h"
 
 #include <algorithm>
@@ -27,22 +25,23 @@ constexpr UnitBin kUnitBins[] = {
     {7, "BookletFoldKey"},     // where the booklet maker delivers
 };
 
-bool isInstalled(const MenuItem &item)
+bool isInstalled(const MenuItem &item, const Device &device)
 {
     const auto *unit = std::ranges::find(kUnitBins, item.reference, &UnitBin::bin);
-    return unit == std::end(kUnitBins) || getInstalledFeature(unit->feature);
+    return unit == std::end(kUnitBins) || device.has(unit->feature);
 }
 
 } // namespace
 
-void PopulateOutputDestination(Menu &menu, PpdFile *ppd)
+void PopulateOutputDestination(Menu &menu, const Device &device)
 {
     menu.items.clear();
     const QString option = QStringLiteral("OutputBin");
-    if (!ppd || !ppd->findOption(option))
+    if (!device.hasOption(option))
         return;
-    PopulateMenuWithOfferedChoices(menu, ppd, option, kNoCommand);
-    std::erase_if(menu.items, [](const MenuItem &item) { return !isInstalled(item); });
+    PopulateMenuWithOfferedChoices(menu, device.ppd, option, kNoCommand);
+    std::erase_if(menu.items,
+                  [&device](const MenuItem &item) { return !isInstalled(item, device); });
 }
 
 } // namespace kelvo

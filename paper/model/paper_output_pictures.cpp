@@ -9,13 +9,13 @@ QString picture(const char *name)
     return QString::fromLatin1(name);
 }
 
-QString bookletFoldPicture(const _PaperOutputContext &context)
+QString bookletFoldPicture(const PaperOutputSettings &settings)
 {
-    if (context.finishing.fold == kFoldBi)
-        return picture(context.isBooklet() ? "OfficeFinishing_Bklt_Fold_Layout.gif"
-                                           : "OfficeFinishing_Bklt_Fold.gif");
-    return picture(context.isBooklet() ? "OfficeFinishing_Bklt_Fold&Stpl_Layout.gif"
-                                       : "OfficeFinishing_BKlt_Fold&Stple.gif");
+    if (settings.finishing.fold == kFoldBi)
+        return picture(settings.isBooklet() ? "OfficeFinishing_Bklt_Fold_Layout.gif"
+                                            : "OfficeFinishing_Bklt_Fold.gif");
+    return picture(settings.isBooklet() ? "OfficeFinishing_Bklt_Fold&Stpl_Layout.gif"
+                                        : "OfficeFinishing_BKlt_Fold&Stple.gif");
 }
 
 // "1St", "2St" or "4St"; empty without a staple that has a picture.
@@ -69,11 +69,11 @@ QString jobTypePicture(std::int32_t jobType)
     }
 }
 
-QString duplexPicture(const _PaperOutputContext &context)
+QString duplexPicture(const PaperOutputSettings &settings)
 {
-    if (context.isBooklet())
+    if (settings.isBooklet())
         return picture("2SidedPrinting_2Sided.gif");
-    switch (context.duplex) {
+    switch (settings.duplex) {
     case kPlexSimplex:
         return picture("2SidedPrinting_1Sided.gif");
     case kPlexDuplex:
@@ -122,9 +122,9 @@ QString colorModePicture(std::int32_t colorMode)
     }
 }
 
-QString finishingPicture(const _PaperOutputContext &context)
+QString finishingPicture(const PaperOutputSettings &settings)
 {
-    const Finishing &finishing = context.finishing;
+    const Finishing &finishing = settings.finishing;
     switch (finishing.fold) {
     case kFoldNone:
         break;
@@ -136,7 +136,7 @@ QString finishingPicture(const _PaperOutputContext &context)
         return picture("ProductionFinishing_ZFold_Half_Left.gif");
     case kFoldBi:
     case kFoldBiAndStaple:
-        return bookletFoldPicture(context);
+        return bookletFoldPicture(settings);
     default:
         return {}; // a fold without a picture decides alone as well
     }
@@ -146,8 +146,8 @@ QString finishingPicture(const _PaperOutputContext &context)
             .arg(staple, holesBesideStaples(finishing.punch));
     switch (finishing.punch) {
     case kPunchNone:
-        return picture(context.isBooklet() ? "OfficeFinishing_Bklt_Layout.gif"
-                                           : "OfficeFinishing_None.gif");
+        return picture(settings.isBooklet() ? "OfficeFinishing_Bklt_Layout.gif"
+                                            : "OfficeFinishing_None.gif");
     case kPunchGeneric:
     case kPunchTwoHoles:
     case kPunchThreeHoles:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 
 #include <QString>
 
@@ -9,12 +9,12 @@
 namespace kelvo {
 
 QString jobTypePicture(std::int32_t jobType);
-QString duplexPicture(const _PaperOutputContext &context);
+QString duplexPicture(const PaperOutputSettings &settings);
 QString staplePicture(const Finishing &finishing);
 QString punchPicture(std::int32_t punch);
 QString colorModePicture(std::int32_t colorMode);
 // All finishing in one: a fold decides alone, then staples with holes, then holes.
 // Two holes show three here; the icon beside the hole punch menu shows two.
-QString finishingPicture(const _PaperOutputContext &context);
+QString finishingPicture(const PaperOutputSettings &settings);
 
 } // namespace kelvo

@@ -4,7 +4,6 @@
 #include "ppd_choices.h"
 #include "setting_maps.h"
 #include "stock_summary.h"
-#include "ticket_values.h"
 
 #include <optional>
 
@@ -12,46 +11,48 @@ namespace kelvo {
 
 namespace {
 
-QString mapText(CFBundleRef bundle, const SettingMap *map, std::int32_t value)
+QString mapText(const Device &device, const SettingMap *map, std::int32_t value)
 {
     const char *key = LocalizedKeyForTicketValue(map, value);
-    return key ? localizedText(bundle, QString::fromLatin1(key)) : QString();
+    return key ? device.text(key) : QString();
 }
 
-QString valueText(const PpdFile *ppd, const char *option, std::int32_t value)
+QString valueText(const Device &device, const char *option, std::int32_t value)
 {
-    return PPDCopyTextForTicketValue(ppd, QString::fromLatin1(option), value).value_or(QString());
+    return PPDCopyTextForTicketValue(device.ppd, QString::fromLatin1(option), value)
+        .value_or(QString());
 }
 
 // As the ticket says it, which depends on how the pages lie.
-QString stapleText(const _PaperOutputContext &context, const PpdFile *ppd)
+QString stapleText(const PaperOutputSettings &settings, const Device &device)
 {
-    const auto choice = stapleChoice(chosenStaple(context.finishing), context.orientation);
-    return PPDCopyChoiceText(ppd, QStringLiteral("StapleLocation"), choice.value_or(QString()))
+    const auto choice = stapleChoice(chosenStaple(settings.finishing), settings.orientation);
+    return PPDCopyChoiceText(device.ppd, QStringLiteral("StapleLocation"),
+                             choice.value_or(QString()))
         .value_or(QString());
 }
 
 } // namespace
 
-std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, const PpdFile *ppd)
+std::vector<SummaryLine> paperOutputSummary(const PaperOutputSettings &settings,
+                                            const Device &device)
 {
-    const CFBundleRef bundle = context.bundle;
-    const Device device{bundle, ppd, {}};
     std::vector<SummaryLine> lines;
     const auto add = [&](const char *labelKey, const QString &text) {
         addSummaryLine(lines, device, labelKey, text);
     };
-    add("Job Type:", mapText(bundle, JobTypeMap, context.jobType));
-    add("Paper Summary:", stockSummaryText(bundle, kJobContextJob, &context.jobStock));
-    if (ppd && ppd->findOption(QStringLiteral("Duplex")))
+    const FinishingDevices devices = finishingDevices(device);
+    add("Job Type:", mapText(device, JobTypeMap, settings.jobType));
+    add("Paper Summary:", stockSummaryText(device.bundle, kJobContextJob, &settings.jobStock));
+    if (device.hasOption(QStringLiteral("Duplex")))
         add("Two Sided Printing:",
-            mapText(bundle, PlexMap, context.isBooklet() ? kPlexDuplex : context.duplex));
-    add("Output Color:", valueText(ppd, "KVColorMode", context.colorMode));
-    if (context.devices.stapler)
-        add("Stapling:", stapleText(context, ppd));
-    if (context.devices.holePunch)
-        add("Hole Punch:", valueText(ppd, "KVPunch", context.finishing.punch));
-    add("Output Destination:", valueText(ppd, "OutputBin", context.outputBin));
+            mapText(device, PlexMap, settings.isBooklet() ? kPlexDuplex : settings.duplex));
+    add("Output Color:", valueText(device, "KVColorMode", settings.colorMode));
+    if (devices.stapler)
+        add("Stapling:", stapleText(settings, device));
+    if (devices.holePunch)
+        add("Hole Punch:", valueText(device, "KVPunch", settings.finishing.punch));
+    add("Output Destination:", valueText(device, "OutputBin", settings.outputBin));
     return lines;
 }
 

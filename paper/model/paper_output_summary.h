@@ -1,17 +1,16 @@
 #pragma once
 
 #include "panel_summary.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 
 #include <vector>
 
 namespace kelvo {
 
-class PpdFile;
-
 // What the panel has chosen, in words: job type, paper, sides, colour, stapling,
 // hole punch and output destination. A line whose setting the device does not
 // have, or that has no words, is left out.
-std::vector<SummaryLine> paperOutputSummary(const _PaperOutputContext &context, const PpdFile *ppd);
+std::vector<SummaryLine> paperOutputSummary(const PaperOutputSettings &settings,
+                                            const Device &device);
 
 } // namespace kelvo

@@ -1,7 +1,7 @@
 #include "separators.h"
 
 #include "ppd_choices.h"
-#include "ticket_values.h"
+#include "print_session.h"
 
 namespace kelvo {
 
@@ -12,44 +12,56 @@ const QString sourceOption = QStringLiteral("KVSlipSheetSource");
 
 } // namespace
 
+void readSeparators(std::int32_t &separators, Stock &separatorStock, const Ticket &printSettings,
+                    const Device &device)
+{
+    separators = kSeparatorsNone;
+    PPDGetTicketValueForChoiceOrDefault(device.ppd, printSettings, printOption, &separators);
+    separatorStock = Stock();
+    if (separators != kSeparatorsNone) {
+        std::int32_t source = kNoPpdChoice;
+        PPDGetTicketValueForChoiceOrDefault(device.ppd, printSettings, sourceOption, &source);
+        separatorStock.setSource(source);
+    }
+}
+
+void writeSeparators(std::int32_t separators, const Stock &separatorStock, Ticket &printSettings)
+{
+    PPDSetCurrentChoice(printSettings, printOption,
+                        PPDChoiceForTicketValue(printOption, separators));
+    if (separators != kSeparatorsNone)
+        PPDSetCurrentChoice(printSettings, sourceOption,
+                            PPDChoiceForTicketValue(sourceOption, separatorStock.source()));
+}
+
 OSStatus SyncSeparatorsFromTicket(PMTicketRef ticket, std::int32_t *separators,
                                   Stock *separatorStock)
 {
-    if (!ticket || !separators || !separatorStock)
+    const Ticket *printSettings = findTicket(ticket);
+    if (!printSettings || !separators || !separatorStock)
         return paramErr;
-    PpdFile *ppd = PPDGetCurrent();
-    *separators = kSeparatorsNone;
-    PPDGetTicketValueForChoiceOrDefault(ppd, ticket, printOption, separators);
-    *separatorStock = Stock();
-    if (*separators != kSeparatorsNone) {
-        std::int32_t source = -1;
-        PPDGetTicketValueForChoiceOrDefault(ppd, ticket, sourceOption, &source);
-        separatorStock->setSource(source);
-    }
+    readSeparators(*separators, *separatorStock, *printSettings, currentDevice());
     return noErr;
 }
 
 OSStatus SyncSeparatorsToTicket(PMTicketRef ticket, std::int32_t separators,
                                 const Stock *separatorStock)
 {
-    if (!ticket || !separatorStock)
+    Ticket *printSettings = findTicket(ticket);
+    if (!printSettings || !separatorStock)
         return paramErr;
-    PPDSetCurrentChoice(ticket, printOption, PPDChoiceForTicketValue(printOption, separators));
-    if (separators != kSeparatorsNone)
-        PPDSetCurrentChoice(ticket, sourceOption,
-                            PPDChoiceForTicketValue(sourceOption, separatorStock->source()));
+    writeSeparators(separators, *separatorStock, *printSettings);
     return noErr;
 }
 
-QString separatorSummary(CFBundleRef bundle, std::int32_t separators, const Stock &separatorStock)
+QString separatorSummary(const Device &device, std::int32_t separators, const Stock &separatorStock)
 {
     if (separators != kSeparatorsBlank && separators != kSeparatorsPrinted)
         return QStringLiteral("");
     const QString source =
-        PPDCopyTextForTicketValue(PPDGetCurrent(), sourceOption, separatorStock.source())
+        PPDCopyTextForTicketValue(device.ppd, sourceOption, separatorStock.source())
             .value_or(QString());
-    return QStringLiteral("- ") + localizedText(bundle, QStringLiteral("Separators"))
-        + localizedText(bundle, QStringLiteral(":")) + source;
+    return QStringLiteral("- ") + device.text("Separators") + device.text(":") + source;
 }
 
 } // namespace kelvo

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "plugin_abi.h"
 #include "stock.h"
+#include "ticket.h"
 
 #include <QString>
 
@@ -11,20 +12,24 @@
 // Sheets between transparencies.
 namespace kelvo {
 
-class PpdFile;
-
 inline constexpr std::int32_t kSeparatorsNone = 1; // "KVSlipSheetPrint"
 inline constexpr std::int32_t kSeparatorsBlank = 2;
 inline constexpr std::int32_t kSeparatorsPrinted = 3;
 
 // `separators` is a value of "KVSlipSheetPrint", the stock's source one of
-// "KVSlipSheetSource" (-1 where there is none). paramErr for a null argument.
+// "KVSlipSheetSource" (-1 where there is none).
+void readSeparators(std::int32_t &separators, Stock &separatorStock, const Ticket &printSettings,
+                    const Device &device);
+void writeSeparators(std::int32_t separators, const Stock &separatorStock, Ticket &printSettings);
+// The same by handle, for the current device. paramErr for a null argument, and for a
+// handle that names no ticket.
 OSStatus SyncSeparatorsFromTicket(PMTicketRef ticket, std::int32_t *separators,
                                   Stock *separatorStock);
 OSStatus SyncSeparatorsToTicket(PMTicketRef ticket, std::int32_t separators,
                                 const Stock *separatorStock);
 
 // "- Separators:Tray 1" for blank and printed separators, else empty.
-QString separatorSummary(CFBundleRef bundle, std::int32_t separators, const Stock &separatorStock);
+QString separatorSummary(const Device &device, std::int32_t separators,
+                         const Stock &separatorStock);
 
 } // namespace kelvo

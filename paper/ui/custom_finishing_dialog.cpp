@@ -4,7 +4,7 @@
 #include "dialog_window.h"
 #include "hint_text.h"
 #include "input_limits.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -21,10 +21,10 @@ constexpr int kLongestText = 255; // characters
 
 } // namespace
 
-OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                        DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !context || !result)
+    if (!bundle || !settings || !result)
         return paramErr;
     QLineEdit *text = nullptr;
     const auto dialog = createModalDialog(
@@ -33,7 +33,7 @@ OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
     if (!dialog)
         return kWindowNotMade;
     makeHintText(findControl<QLabel>(dialog.get(), kHint));
-    text->setText(context->finishing.custom);
+    text->setText(settings->finishing.custom);
     setInputLimits(text, {.maximumLength = kLongestText});
 
     const auto enableOK = [&dialog, text] {
@@ -54,11 +54,11 @@ OSStatus RunModalCustomFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
         });
     enableOK();
     if (QWidget *remove = findControl(dialog.get(), kRemove))
-        remove->setEnabled(!context->finishing.custom.isEmpty());
+        remove->setEnabled(!settings->finishing.custom.isEmpty());
 
     *result = dialog->runModal();
     if (*result == DialogResult::OK)
-        context->finishing.custom = isRemoved ? QStringLiteral("") : text->text();
+        settings->finishing.custom = isRemoved ? QStringLiteral("") : text->text();
     return noErr;
 }
 

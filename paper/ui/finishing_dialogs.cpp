@@ -7,10 +7,9 @@
 #include "help_window.h"
 #include "hint_text.h"
 #include "localized_controls.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 #include "picture_view.h"
 #include "popups.h"
-#include "ppd_choices.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
 
@@ -76,7 +75,7 @@ struct ChoiceDialog
 {
     CFBundleRef bundle = nullptr;
     FinishingDialogKind kind = FinishingDialogKind::SingleStaple;
-    const _PaperOutputContext *context = nullptr; // as it was before OK
+    const PaperOutputSettings *settings = nullptr; // as it was before OK
     std::vector<FinishingChoice> choices;
     std::size_t chosen = 0;
     std::unique_ptr<ModalDialog> window; // null when it could not be made
@@ -92,7 +91,7 @@ void showChoice(const ChoiceDialog &dialog)
     dialog.choice->setValue(static_cast<int>(dialog.chosen) + 1);
     dialog.hint->setText(textOf(dialog.bundle, chosen.hintKey));
     showBundlePicture(dialog.picture, dialog.bundle,
-                      finishingChoicePicture(dialog.kind, *dialog.context, chosen),
+                      finishingChoicePicture(dialog.kind, *dialog.settings, chosen),
                       textOf(dialog.bundle, chosen.key));
 }
 
@@ -154,11 +153,11 @@ void reserveHeight(const ChoiceDialog &dialog)
 QString noteFor(const ChoiceDialog &dialog)
 {
     QStringList sentences;
-    const Finishing &finishing = dialog.context->finishing;
+    const Finishing &finishing = dialog.settings->finishing;
     if (const char *replaced = replacedFinishing(dialog.kind, dialog.choices, finishing))
         sentences +=
             textOf(dialog.bundle, "Finishing Replaced").arg(textOf(dialog.bundle, replaced));
-    if (endsBooklet(dialog.kind, *dialog.context))
+    if (endsBooklet(dialog.kind, *dialog.settings))
         sentences += textOf(dialog.bundle, "Finishing Ends Booklet");
     return sentences.join(u' ');
 }
@@ -185,14 +184,14 @@ void showTexts(const ChoiceDialog &dialog)
 
 // The window of any choice of finishing, as `kind` fills it.
 ChoiceDialog CreateFinishingDialog(CFBundleRef bundle, FinishingDialogKind kind,
-                                   const _PaperOutputContext &context, QWidget *parent)
+                                   const PaperOutputSettings &settings, QWidget *parent)
 {
     ChoiceDialog dialog;
     dialog.bundle = bundle;
     dialog.kind = kind;
-    dialog.context = &context;
-    dialog.choices = finishingChoices(kind, PPDGetCurrent());
-    dialog.chosen = initialChoice(kind, dialog.choices, context.finishing);
+    dialog.settings = &settings;
+    dialog.choices = finishingChoices(kind, currentDevice());
+    dialog.chosen = initialChoice(kind, dialog.choices, settings.finishing);
     auto window =
         createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
                           QStringLiteral("ChoiceDialog"), parent, {kChoice, kPicture, kChoiceHint});
@@ -210,12 +209,12 @@ ChoiceDialog CreateFinishingDialog(CFBundleRef bundle, FinishingDialogKind kind,
     return dialog;
 }
 
-OSStatus runChoiceDialog(CFBundleRef bundle, FinishingDialogKind kind, _PaperOutputContext *context,
-                         DialogResult *result, QWidget *parent)
+OSStatus runChoiceDialog(CFBundleRef bundle, FinishingDialogKind kind,
+                         PaperOutputSettings *settings, DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !context || !result)
+    if (!bundle || !settings || !result)
         return paramErr;
-    ChoiceDialog dialog = CreateFinishingDialog(bundle, kind, *context, parent);
+    ChoiceDialog dialog = CreateFinishingDialog(bundle, kind, *settings, parent);
     if (!dialog.window)
         return kWindowNotMade;
     const EventHandlerRef handler =
@@ -224,14 +223,14 @@ OSStatus runChoiceDialog(CFBundleRef bundle, FinishingDialogKind kind, _PaperOut
         });
     *result = dialog.window->runModal();
     if (*result == DialogResult::OK)
-        applyFinishingChoice(*context, dialog.choices[dialog.chosen]);
+        applyFinishingChoice(*settings, dialog.choices[dialog.chosen]);
     return noErr;
 }
 
-void appendItem(Menu &menu, CFBundleRef bundle, const char *key, OSType command)
+void appendItem(Menu &menu, const Device &device, const char *key, OSType command)
 {
     MenuItem item;
-    item.text = textOf(bundle, key);
+    item.text = device.text(key);
     item.key = QString::fromLatin1(key);
     item.command = command;
     menu.items.push_back(std::move(item));
@@ -239,23 +238,23 @@ void appendItem(Menu &menu, CFBundleRef bundle, const char *key, OSType command)
 
 } // namespace
 
-void PopulateMoreFinishingMenu(Menu &menu, CFBundleRef bundle)
+void PopulateMoreFinishingMenu(Menu &menu, const Device &device)
 {
     for (const DialogRow &row : kDialogRows) {
-        if (finishingChoices(row.kind, PPDGetCurrent()).size() > 1)
-            appendItem(menu, bundle, row.menuText, row.menuCommand);
+        if (finishingChoices(row.kind, device).size() > 1)
+            appendItem(menu, device, row.menuText, row.menuCommand);
     }
-    appendItem(menu, bundle, "Offset...", kCommandOffsetDialog);
-    appendItem(menu, bundle, "Custom Finishing...", kCommandCustomFinishingDialog);
+    appendItem(menu, device, "Offset...", kCommandOffsetDialog);
+    appendItem(menu, device, "Custom Finishing...", kCommandCustomFinishingDialog);
 }
 
-void MarkMoreFinishingMenu(Menu &menu, const _PaperOutputContext &context)
+void MarkMoreFinishingMenu(Menu &menu, const PaperOutputSettings &settings, const Device &device)
 {
-    const Finishing &finishing = context.finishing;
+    const Finishing &finishing = settings.finishing;
     for (MenuItem &item : menu.items) {
         const auto row = std::ranges::find(kDialogRows, item.command, &DialogRow::menuCommand);
         if (row != std::end(kDialogRows)) {
-            const auto choices = finishingChoices(row->kind, PPDGetCurrent());
+            const auto choices = finishingChoices(row->kind, device);
             item.checked = findSetChoice(row->kind, choices, finishing).value_or(0) != 0;
         } else if (item.command == kCommandOffsetDialog) {
             item.checked = finishing.offset >= kOffsetSets;
@@ -265,46 +264,46 @@ void MarkMoreFinishingMenu(Menu &menu, const _PaperOutputContext &context)
     }
 }
 
-OSStatus RunModal1StapleFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModal1StapleFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                         DialogResult *result, QWidget *parent)
 {
-    return runChoiceDialog(bundle, FinishingDialogKind::SingleStaple, context, result, parent);
+    return runChoiceDialog(bundle, FinishingDialogKind::SingleStaple, settings, result, parent);
 }
 
-OSStatus RunModal2StaplesFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModal2StaplesFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                          DialogResult *result, QWidget *parent)
 {
-    return runChoiceDialog(bundle, FinishingDialogKind::DualStaple, context, result, parent);
+    return runChoiceDialog(bundle, FinishingDialogKind::DualStaple, settings, result, parent);
 }
 
-OSStatus RunModalHolePunchFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModalHolePunchFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                           DialogResult *result, QWidget *parent)
 {
-    return runChoiceDialog(bundle, FinishingDialogKind::HolePunch, context, result, parent);
+    return runChoiceDialog(bundle, FinishingDialogKind::HolePunch, settings, result, parent);
 }
 
-OSStatus RunModalFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModalFoldFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                      DialogResult *result, QWidget *parent)
 {
-    return runChoiceDialog(bundle, FinishingDialogKind::Fold, context, result, parent);
+    return runChoiceDialog(bundle, FinishingDialogKind::Fold, settings, result, parent);
 }
 
-OSStatus RunModalAdvancedFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModalAdvancedFoldFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                              DialogResult *result, QWidget *parent)
 {
-    return runChoiceDialog(bundle, FinishingDialogKind::AdvancedFold, context, result, parent);
+    return runChoiceDialog(bundle, FinishingDialogKind::AdvancedFold, settings, result, parent);
 }
 
-OSStatus RunModalZFoldFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModalZFoldFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                       DialogResult *result, QWidget *parent)
 {
-    return runChoiceDialog(bundle, FinishingDialogKind::ZFold, context, result, parent);
+    return runChoiceDialog(bundle, FinishingDialogKind::ZFold, settings, result, parent);
 }
 
-OSStatus RunModalBindFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModalBindFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                      DialogResult *result, QWidget *parent)
 {
-    return runChoiceDialog(bundle, FinishingDialogKind::Bind, context, result, parent);
+    return runChoiceDialog(bundle, FinishingDialogKind::Bind, settings, result, parent);
 }
 
 } // namespace kelvo

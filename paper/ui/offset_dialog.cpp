@@ -5,7 +5,7 @@
 #include "dialog_window.h"
 #include "finishing_offset.h"
 #include "hint_text.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 #include "picture_view.h"
 #include "popups.h"
 #include "setting_map.h"
@@ -103,14 +103,14 @@ void tellTicketPlaces(const OffsetDialog &dialog)
 
 } // namespace
 
-OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *context,
+OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
                                        DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !context || !result)
+    if (!bundle || !settings || !result)
         return paramErr;
     OffsetDialog dialog;
     dialog.bundle = bundle;
-    dialog.settings = offsetOf(context->finishing);
+    dialog.settings = offsetOf(settings->finishing);
     dialog.window = createModalDialog(
         bundle, QStringLiteral("FinishingDialogs"), QStringLiteral("OffsetDialog"), parent,
         [&dialog](NeededControls &needed) {
@@ -132,7 +132,7 @@ OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, _PaperOutputContext *
 
     *result = dialog.window->runModal();
     if (*result == DialogResult::OK)
-        storeOffset(context->finishing, dialog.settings);
+        storeOffset(settings->finishing, dialog.settings);
     return noErr;
 }
 

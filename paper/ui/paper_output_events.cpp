@@ -17,14 +17,14 @@ namespace kelvo {
 
 namespace {
 
-void runJobTypeSetup(PaperOutputPanelContext &panel)
+void runJobTypeSetup(_PaperOutputContext &panel)
 {
-    switch (panel.jobType) {
+    switch (panel.settings.jobType) {
     case kJobTypeSaved: {
-        SavedJobData data{panel.savedJob, panel.passcode, panel.documentName};
+        SavedJobData data{panel.settings.savedJob, panel.settings.passcode, panel.documentName};
         if (RunModalSavedJobDialog(panel.bundle, &data, panel.content) == noErr) {
-            panel.savedJob = data.job;
-            panel.passcode = data.passcode;
+            panel.settings.savedJob = data.job;
+            panel.settings.passcode = data.passcode;
         }
         break;
     }
@@ -32,10 +32,10 @@ void runJobTypeSetup(PaperOutputPanelContext &panel)
         runFaxSetup(panel);
         break;
     case kJobTypeSecurePrint:
-        RunModalSecurePrintSetup(panel.bundle, &panel.passcode, panel.content);
+        RunModalSecurePrintSetup(panel.bundle, &panel.settings.passcode, panel.content);
         break;
     case kJobTypeDelayedPrint:
-        RunModalDelayedPrintSetup(panel.bundle, &panel.delayedPrintTime, panel.content);
+        RunModalDelayedPrintSetup(panel.bundle, &panel.settings.delayedPrintTime, panel.content);
         break;
     default: // the button of some job types is enabled and opens nothing
         break;
@@ -43,52 +43,56 @@ void runJobTypeSetup(PaperOutputPanelContext &panel)
     showJobType(panel);
 }
 
-void chooseJobType(PaperOutputPanelContext &panel)
+void chooseJobType(_PaperOutputContext &panel)
 {
-    changeJobType(panel, GetPopupButtonTicketValue(panel.controls.jobType));
+    changeJobType(panel.settings, GetPopupButtonTicketValue(panel.controls.jobType));
     showJobType(panel);
     // A job type that needs a set-up asks for it at once.
     if (panel.controls.jobTypeSetup && panel.controls.jobTypeSetup->isEnabled())
         panel.controls.jobTypeSetup->click();
 }
 
-void createBooklet(PaperOutputPanelContext &panel)
+void createBooklet(_PaperOutputContext &panel)
 {
-    BookletLayout &layout = panel.bookletLayout;
-    _BookletCreationParams params{panel.bundle,       panel.finishing.fold, panel.booklet,
-                                  layout.pageBorders, layout.newSize,       layout.gutter,
+    BookletLayout &layout = panel.settings.bookletLayout;
+    _BookletCreationParams params{panel.bundle,
+                                  panel.settings.finishing.fold,
+                                  panel.settings.booklet,
+                                  layout.pageBorders,
+                                  layout.newSize,
+                                  layout.gutter,
                                   layout.creep};
     if (RunModalBookletCreationDialog(&params, panel.content) != noErr)
         return;
-    const bool wasBooklet = panel.isBooklet();
-    panel.finishing.fold = params.fold;
-    panel.booklet = params.booklet;
+    const bool wasBooklet = panel.settings.isBooklet();
+    panel.settings.finishing.fold = params.fold;
+    panel.settings.booklet = params.booklet;
     layout = {params.pageBorders, params.gutter, params.creep, params.newSize};
-    if (panel.isBooklet())
-        panel.duplex = kPlexDuplexShort;
+    if (panel.settings.isBooklet())
+        panel.settings.duplex = kPlexDuplexShort;
     else if (wasBooklet)
-        UnselectBooklet(panel);
+        UnselectBooklet(panel.settings);
 }
 
-void editCovers(PaperOutputPanelContext &panel)
+void editCovers(_PaperOutputContext &panel)
 {
     DialogResult outcome = DialogResult::Cancel;
-    const bool hasCovers = panel.frontCover || panel.backCover;
+    const bool hasCovers = panel.settings.frontCover || panel.settings.backCover;
     RunModalCoversDialog(panel.bundle, hasCovers ? kDialogModeEdit : kDialogModeAdd,
-                         &panel.jobStock, &panel.frontCover, &panel.backCover, &outcome,
-                         panel.content);
+                         &panel.settings.jobStock, &panel.settings.frontCover,
+                         &panel.settings.backCover, &outcome, panel.content);
     showCovers(panel);
 }
 
-void editSeparators(PaperOutputPanelContext &panel)
+void editSeparators(_PaperOutputContext &panel)
 {
     DialogResult result = DialogResult::Cancel;
-    RunModalSeparatorsDialog(panel.bundle, &panel.separators, &panel.separatorStock, &result,
-                             panel.content);
+    RunModalSeparatorsDialog(panel.bundle, &panel.settings.separators,
+                             &panel.settings.separatorStock, &result, panel.content);
     showStockAndSeparators(panel);
 }
 
-using FinishingDialog = OSStatus (*)(CFBundleRef, _PaperOutputContext *, DialogResult *, QWidget *);
+using FinishingDialog = OSStatus (*)(CFBundleRef, PaperOutputSettings *, DialogResult *, QWidget *);
 FinishingDialog findFinishingDialog(OSType command)
 {
     switch (command) {
@@ -115,7 +119,7 @@ FinishingDialog findFinishingDialog(OSType command)
     }
 }
 
-OSStatus takeCommand(PaperOutputPanelContext &panel, OSType command, std::int32_t value)
+OSStatus takeCommand(_PaperOutputContext &panel, OSType command, std::int32_t value)
 {
     DialogResult result = DialogResult::Cancel;
     if (command == kCommandCovers) {
@@ -125,8 +129,8 @@ OSStatus takeCommand(PaperOutputPanelContext &panel, OSType command, std::int32_
     } else if (command == kCommandBookletCreation) {
         createBooklet(panel);
     } else if (const FinishingDialog runModal = findFinishingDialog(command)) {
-        runModal(panel.bundle, &panel, &result, panel.content);
-    } else if (!applyFinishingCommand(panel, command, value)) {
+        runModal(panel.bundle, &panel.settings, &result, panel.content);
+    } else if (!applyFinishingCommand(panel.settings, command, value)) {
         return eventNotHandledErr;
     }
     showTwoSided(panel);
@@ -134,7 +138,7 @@ OSStatus takeCommand(PaperOutputPanelContext &panel, OSType command, std::int32_
     return noErr;
 }
 
-OSStatus takeHit(PaperOutputPanelContext &panel, std::int32_t control)
+OSStatus takeHit(_PaperOutputContext &panel, std::int32_t control)
 {
     const PaperOutputControls &controls = panel.controls;
     switch (control) {
@@ -145,23 +149,23 @@ OSStatus takeHit(PaperOutputPanelContext &panel, std::int32_t control)
         runJobTypeSetup(panel);
         return noErr;
     case kTwoSidedPopup:
-        panel.duplex = GetPopupButtonTicketValue(controls.twoSided);
+        panel.settings.duplex = GetPopupButtonTicketValue(controls.twoSided);
         showTwoSided(panel);
         return noErr;
     case kStaplingPopup:
-        setStaple(panel.finishing, GetPopupButtonTicketValue(controls.stapling));
+        setStaple(panel.settings.finishing, GetPopupButtonTicketValue(controls.stapling));
         showFinishing(panel);
         return noErr;
     case kHolePunchPopup:
-        panel.finishing.punch = GetPopupButtonTicketValue(controls.holePunch);
+        panel.settings.finishing.punch = GetPopupButtonTicketValue(controls.holePunch);
         showFinishing(panel);
         return noErr;
     case kOutputColorPopup:
-        panel.colorMode = GetPopupButtonTicketValue(controls.outputColor);
+        panel.settings.colorMode = GetPopupButtonTicketValue(controls.outputColor);
         showOutputColor(panel);
         return noErr;
     case kOutputDestinationPopup:
-        panel.outputBin = GetPopupButtonTicketValue(controls.outputDestination);
+        panel.settings.outputBin = GetPopupButtonTicketValue(controls.outputDestination);
         showOutputDestination(panel);
         return noErr;
     default:
@@ -171,7 +175,7 @@ OSStatus takeHit(PaperOutputPanelContext &panel, std::int32_t control)
 
 } // namespace
 
-OSStatus PaperOutputEventHandler(PaperOutputPanelContext &panel, const Event &event)
+OSStatus PaperOutputEventHandler(_PaperOutputContext &panel, const Event &event)
 {
     if (event.kind == EventKind::Command)
         return takeCommand(panel, event.command, event.reference);
@@ -180,13 +184,14 @@ OSStatus PaperOutputEventHandler(PaperOutputPanelContext &panel, const Event &ev
     return eventNotHandledErr;
 }
 
-void runFaxSetup(PaperOutputPanelContext &panel)
+void runFaxSetup(_PaperOutputContext &panel)
 {
-    if (!panel.faxOptions)
-        panel.faxOptions = Dictionary();
-    if (!panel.faxRecipients)
-        panel.faxRecipients = Array();
-    RunModalLANFaxSetup(panel.bundle, &*panel.faxOptions, &*panel.faxRecipients, panel.content);
+    if (!panel.settings.faxOptions)
+        panel.settings.faxOptions = Dictionary();
+    if (!panel.settings.faxRecipients)
+        panel.settings.faxRecipients = Array();
+    RunModalLANFaxSetup(panel.bundle, &*panel.settings.faxOptions, &*panel.settings.faxRecipients,
+                        panel.content);
 }
 
 } // namespace kelvo

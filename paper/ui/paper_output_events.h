@@ -7,9 +7,9 @@ namespace kelvo {
 
 // Takes the hits and commands of the panel's controls; eventNotHandledErr for any
 // other event.
-OSStatus PaperOutputEventHandler(PaperOutputPanelContext &panel, const Event &event);
+OSStatus PaperOutputEventHandler(_PaperOutputContext &panel, const Event &event);
 
 // The LAN fax set-up, on fax settings that are made where there are none.
-void runFaxSetup(PaperOutputPanelContext &panel);
+void runFaxSetup(_PaperOutputContext &panel);
 
 } // namespace kelvo

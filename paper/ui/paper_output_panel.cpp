@@ -7,9 +7,8 @@
 #include "panel_prologue.h"
 #include "paper_output_events.h"
 #include "paper_output_summary.h"
-#include "paper_output_ticket.h"
 #include "pde_session.h"
-#include "ppd_choices.h"
+#include "print_session.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
@@ -17,36 +16,39 @@ namespace kelvo {
 
 namespace {
 
-PaperOutputPanelContext *panelOf(PMPDEContext context)
+_PaperOutputContext *panelOf(PMPDEContext context)
 {
-    return reinterpret_cast<PaperOutputPanelContext *>(context);
+    return reinterpret_cast<_PaperOutputContext *>(context);
 }
 
 JobTypeState jobTypeState(PMPDEContext context)
 {
-    const PaperOutputPanelContext *panel = panelOf(context);
+    const _PaperOutputContext *panel = panelOf(context);
     if (!panel)
         return {};
-    return {panel->jobType, panel->passcode && !panel->passcode->isEmpty(),
-            panel->faxRecipients && !panel->faxRecipients->isEmpty()};
+    return {panel->settings.jobType,
+            panel->settings.passcode && !panel->settings.passcode->isEmpty(),
+            panel->settings.faxRecipients && !panel->settings.faxRecipients->isEmpty()};
 }
 
 // A ticket or preset may be older than its time: the job waits for the next one.
 void prepareToPrint(PMPDEContext context)
 {
-    PaperOutputPanelContext *panel = panelOf(context);
+    _PaperOutputContext *panel = panelOf(context);
     const LongDateTime now = currentLongDate();
-    if (panel && panel->jobType == kJobTypeDelayedPrint && panel->delayedPrintTime < now)
-        panel->delayedPrintTime = delayedPrintTime(timeOf(panel->delayedPrintTime), now);
+    if (panel && panel->settings.jobType == kJobTypeDelayedPrint
+        && panel->settings.delayedPrintTime < now)
+        panel->settings.delayedPrintTime =
+            delayedPrintTime(timeOf(panel->settings.delayedPrintTime), now);
 }
 
 void runFaxSetupFor(PMPDEContext context)
 {
-    if (PaperOutputPanelContext *panel = panelOf(context))
+    if (_PaperOutputContext *panel = panelOf(context))
         runFaxSetup(*panel);
 }
 
-void buildContent(PaperOutputPanelContext &panel)
+void buildContent(_PaperOutputContext &panel)
 {
     panel.content = createPanelContent(
         panel.bundle, QStringLiteral("PaperOutputPanel"), QStringLiteral("PaperOutput"),
@@ -60,7 +62,7 @@ void buildContent(PaperOutputPanelContext &panel)
         return PaperOutputEventHandler(panel, event);
     });
     panel.stockButtonData.bundle = panel.bundle;
-    panel.stockButtonData.stock = &panel.jobStock;
+    panel.stockButtonData.stock = &panel.settings.jobStock;
     panel.stockButtonData.jobContext = kJobContextJob;
     panel.stockButtonData.summary = panel.controls.stockSummary;
     panel.stockButtonData.icon = panel.controls.stockIcon;
@@ -73,11 +75,11 @@ OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptio
                   CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
 {
     const OSStatus status =
-        announcePanel<PaperOutputPanelContext>(QStringLiteral("PaperOutput"), kPanelSignature,
-                                               context, creator, userOptionKind, title, maxH, maxV);
+        announcePanel<_PaperOutputContext>(QStringLiteral("PaperOutput"), kPanelSignature, context,
+                                           creator, userOptionKind, title, maxH, maxV);
     if (status != noErr)
         return status;
-    initializePaperOutput(*panelOf(*context), currentLongDate());
+    initializePaperOutput(panelOf(*context)->settings, currentLongDate());
     setJobTypeProvider(jobTypeState);
     setFaxSetupRunner(runFaxSetupFor);
     setPrintPreparation(prepareToPrint);
@@ -86,7 +88,7 @@ OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptio
 
 OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
 {
-    PaperOutputPanelContext *panel = panelOf(context);
+    _PaperOutputContext *panel = panelOf(context);
     if (!panel || !session)
         return kPMInvalidParameter;
     PMTicketRef settings = 0;
@@ -96,11 +98,15 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
         status = GetTicketFromSession(session, kPMPageFormatTicket, &pageFormat);
     if (status != noErr)
         return status;
+    Ticket *printSettings = findTicket(settings);
+    const Ticket *pageFormatTicket = findTicket(pageFormat);
+    if (!printSettings || !pageFormatTicket)
+        return kPMInvalidTicket;
     if (direction == kSyncWrite) {
-        readOrientation(*panel, pageFormat);
-        writePaperOutput(*panel, settings);
+        readOrientation(panel->settings, *pageFormatTicket);
+        writePaperOutput(panel->settings, *printSettings, panel->opened);
     } else if (direction == kSyncRead) {
-        readPaperOutput(*panel, settings, pageFormat, panel->ppd);
+        readPaperOutput(panel->settings, *printSettings, *pageFormatTicket, panel->device);
         showPaperOutput(*panel);
     }
     return noErr;
@@ -109,44 +115,43 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
 OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane parentUserPane,
                     PMPrintSession session)
 {
-    PaperOutputPanelContext *panel = panelOf(context);
+    _PaperOutputContext *panel = panelOf(context);
     if (!panel || !session)
         return kPMInvalidPDEContext;
     panel->parentUserPane = parentUserPane;
-    panel->ppd = PPDGetCurrent();
+    panel->device = currentDevice();
     PMTicketRef settings = 0;
     GetTicketFromSession(session, kPMPrintSettingsTicket, &settings);
     panel->documentName = PMTicketGetCFString(settings, kPMJobNameKey)
                               .value_or(localizedText(panel->bundle, QStringLiteral("Unknown")));
-    panel->savedJob.name = panel->documentName;
+    panel->settings.savedJob.name = panel->documentName;
     return Sync(context, session, kSyncRead);
 }
 
 OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray *texts)
 {
-    const PaperOutputPanelContext *panel = panelOf(context);
+    const _PaperOutputContext *panel = panelOf(context);
     if (!panel || !titles || !texts)
         return kPMInvalidPDEContext;
-    appendSummary(paperOutputSummary(*panel, panel->ppd), titles, texts);
+    appendSummary(paperOutputSummary(panel->settings, panel->device), titles, texts);
     return noErr;
 }
 
 OSStatus Open(PMPDEContext context)
 {
-    PaperOutputPanelContext *panel = panelOf(context);
+    _PaperOutputContext *panel = panelOf(context);
     if (!panel || !panel->parentUserPane)
         return kPMInvalidPDEContext;
     if (panel->opened)
         return noErr;
     panel->opened = true;
-    panel->devices = installedFinishingDevices();
     panel->lateContent = buildBeforeSeen(panel->parentUserPane, [panel] { buildContent(*panel); });
     return noErr;
 }
 
 OSStatus Close(PMPDEContext context)
 {
-    PaperOutputPanelContext *panel = panelOf(context);
+    _PaperOutputContext *panel = panelOf(context);
     if (!panel)
         return kPMInvalidPDEContext;
     panel->lateContent.reset();

@@ -4,7 +4,6 @@
 #include "finishing_dialogs.h"
 #include "finishing_ticket.h"
 #include "hint_text.h"
-#include "installed_features.h"
 #include "job_type_setup.h"
 #include "offered_choices.h"
 #include "output_destinations.h"
@@ -23,19 +22,19 @@ namespace kelvo {
 
 namespace {
 
-bool hasOption(const PaperOutputPanelContext &panel, const char *option)
+bool hasOption(const _PaperOutputContext &panel, const char *option)
 {
-    return panel.ppd && panel.ppd->findOption(QString::fromLatin1(option));
+    return panel.device.hasOption(QString::fromLatin1(option));
 }
 
 // Covers travel as their paper source. No cover at all is in order.
-bool reachesDevice(const Cover *cover)
+bool reachesDevice(const std::optional<Cover> &cover)
 {
     return !cover
         || PPDChoiceForTicketValue(QStringLiteral("KVFrontCoverSheet"), cover->stock().source());
 }
 
-const char *coversKey(const Cover *front, const Cover *back)
+const char *coversKey(const std::optional<Cover> &front, const std::optional<Cover> &back)
 {
     if (!reachesDevice(front) || !reachesDevice(back))
         return "Cover Without Source";
@@ -45,7 +44,7 @@ const char *coversKey(const Cover *front, const Cover *back)
 }
 
 // What the summary has no line for.
-void showMoreFinishing(const PaperOutputPanelContext &panel)
+void showMoreFinishing(const _PaperOutputContext &panel)
 {
     QStringList names;
     for (const MenuItem &item : panel.controls.moreFinishing->menu().items) {
@@ -83,18 +82,18 @@ void tellTicketPlaces(MenuButton *finishing)
         setTicketPlaces(finishing, {{kPPDChoices, QString::fromLatin1(row.option)}}, row.command);
 }
 
-void fillFromPpd(PopupButton *popup, const PaperOutputPanelContext &panel, const char *option,
+void fillFromPpd(PopupButton *popup, const _PaperOutputContext &panel, const char *option,
                  const QStringList &readByName = {})
 {
     if (hasOption(panel, option))
-        fillWithOfferedChoices(popup, panel.ppd, QString::fromLatin1(option), readByName);
+        fillWithOfferedChoices(popup, panel.device.ppd, QString::fromLatin1(option), readByName);
     else if (popup)
         setEnabledWithLabel(popup, false);
 }
 
 // The map's words. A device without the option prints on one side, which cannot be
 // chosen there.
-void fillTwoSided(const PaperOutputPanelContext &panel)
+void fillTwoSided(const _PaperOutputContext &panel)
 {
     PopupButton *popup = panel.controls.twoSided;
     PopulatePopupButtonFromMap(panel.bundle, popup, PlexMap, kJobContextJob, kNoCommand);
@@ -103,7 +102,7 @@ void fillTwoSided(const PaperOutputPanelContext &panel)
     Menu menu = popup->menu();
     const QString option = QStringLiteral("Duplex");
     if (hasOption(panel, "Duplex"))
-        removeWhatIsNotOffered(menu, panel.ppd, option);
+        removeWhatIsNotOffered(menu, panel.device.ppd, option);
     else
         std::erase_if(menu.items,
                       [](const MenuItem &item) { return item.reference != kPlexSimplex; });
@@ -145,7 +144,7 @@ PaperOutputControls findPaperOutputControls(NeededControls &needed)
     };
 }
 
-void fillPaperOutputControls(PaperOutputPanelContext &panel)
+void fillPaperOutputControls(_PaperOutputContext &panel)
 {
     const PaperOutputControls &controls = panel.controls;
     PopulatePopupButtonFromMap(panel.bundle, controls.jobType, JobTypeMap, kJobContextJob,
@@ -158,17 +157,17 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
     fillFromPpd(controls.outputColor, panel, "KVColorMode");
     if (controls.outputDestination) {
         Menu destinations;
-        PopulateOutputDestination(destinations, panel.ppd);
+        PopulateOutputDestination(destinations, panel.device);
         setEnabledWithLabel(controls.outputDestination, !destinations.items.empty());
         controls.outputDestination->setMenu(std::move(destinations));
         setTicketPlaces(controls.outputDestination, {{kPPDChoices, QStringLiteral("OutputBin")}});
     }
     Menu finishing;
-    PopulateFinishingMenu(finishing, panel.bundle);
+    PopulateFinishingMenu(finishing, panel.device);
     controls.finishingButton->setMenu(std::move(finishing));
     tellTicketPlaces(controls.finishingButton);
     Menu more;
-    PopulateMoreFinishingMenu(more, panel.bundle);
+    PopulateMoreFinishingMenu(more, panel.device);
     controls.moreFinishing->setMenu(std::move(more));
     controls.coversButton->setEnabled(hasOption(panel, "KVFrontCoverSheet"));
     controls.separatorsButton->setEnabled(hasOption(panel, "KVSlipSheetPrint"));
@@ -177,85 +176,90 @@ void fillPaperOutputControls(PaperOutputPanelContext &panel)
     makeHintText(controls.moreFinishingSummary);
 }
 
-void showJobType(const PaperOutputPanelContext &panel)
+void showJobType(const _PaperOutputContext &panel)
 {
-    showChoice(panel.bundle, panel.controls.jobType, panel.jobType);
+    showChoice(panel.bundle, panel.controls.jobType, panel.settings.jobType);
     EnableDisableJobTypeSetupButton(panel);
-    showBundlePicture(panel.controls.jobTypeIcon, panel.bundle, jobTypePicture(panel.jobType));
+    showBundlePicture(panel.controls.jobTypeIcon, panel.bundle,
+                      jobTypePicture(panel.settings.jobType));
     if (QLabel *hint = panel.controls.jobTypeHint) {
-        const bool isShown = lacksPasscode(panel);
+        const bool isShown = lacksPasscode(panel.settings);
         hint->setVisible(isShown);
         panel.controls.jobType->setAccessibleDescription(isShown ? hint->text() : QString());
     }
 }
 
-void showStockAndSeparators(const PaperOutputPanelContext &panel)
+void showStockAndSeparators(const _PaperOutputContext &panel)
 {
     const PaperOutputControls &controls = panel.controls;
     if (!controls.stockSummary)
         return;
-    ShowStockSummary(panel.bundle, controls.stockSummary, &panel.jobStock, kJobContextJob);
-    const QString line = separatorSummary(panel.bundle, panel.separators, panel.separatorStock);
-    if (panel.jobStock.type() == kStockTypeTransparency && !line.isEmpty())
+    ShowStockSummary(panel.bundle, controls.stockSummary, &panel.settings.jobStock, kJobContextJob);
+    const QString line =
+        separatorSummary(panel.device, panel.settings.separators, panel.settings.separatorStock);
+    if (panel.settings.jobStock.type() == kStockTypeTransparency && !line.isEmpty())
         UpdateSummaryTextView(
             controls.stockSummary,
             QStringLiteral("%1\n%2").arg(controls.stockSummary->toPlainText(), line));
-    const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, panel.separators);
+    const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, panel.settings.separators);
     controls.separatorsSummary->setText(key ? localizedText(panel.bundle, QString::fromLatin1(key))
                                             : QString());
 }
 
-void showCovers(const PaperOutputPanelContext &panel)
+void showCovers(const _PaperOutputContext &panel)
 {
     if (!panel.controls.coversSummary)
         return;
-    const char *key = coversKey(panel.frontCover.get(), panel.backCover.get());
+    const char *key = coversKey(panel.settings.frontCover, panel.settings.backCover);
     panel.controls.coversSummary->setText(localizedText(panel.bundle, QString::fromLatin1(key)));
 }
 
-void showTwoSided(const PaperOutputPanelContext &panel)
+void showTwoSided(const _PaperOutputContext &panel)
 {
     PopupButton *popup = panel.controls.twoSided;
-    showChoice(panel.bundle, popup, panel.isBooklet() ? kPlexDuplex : panel.duplex);
+    showChoice(panel.bundle, popup,
+               panel.settings.isBooklet() ? kPlexDuplex : panel.settings.duplex);
     if (popup)
-        setEnabledWithLabel(popup, !panel.isBooklet() && hasOption(panel, "Duplex"));
-    showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel));
+        setEnabledWithLabel(popup, !panel.settings.isBooklet() && hasOption(panel, "Duplex"));
+    showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel.settings));
 }
 
-void showFinishing(const PaperOutputPanelContext &panel)
+void showFinishing(const _PaperOutputContext &panel)
 {
     const PaperOutputControls &controls = panel.controls;
     if (!controls.finishingSummary)
         return;
-    MarkFinishingMenu(controls.finishingButton->menu(), panel);
-    MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel);
+    MarkFinishingMenu(controls.finishingButton->menu(), panel.settings);
+    MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel.settings, panel.device);
     showMoreFinishing(panel);
-    QString summary = CreateFinishingString(panel).trimmed();
-    if (summary.isEmpty() && !getInstalledFeature("BookletFoldKey")
-        && !getInstalledFeature("TapeBindKey"))
+    QString summary = CreateFinishingString(panel.settings, panel.device).trimmed();
+    if (summary.isEmpty() && !panel.device.has("BookletFoldKey")
+        && !panel.device.has("TapeBindKey"))
         summary = localizedText(panel.bundle, QStringLiteral("No Finishing Devices"));
     UpdateSummaryTextView(controls.finishingSummary, summary);
     showChoice(panel.bundle, controls.stapling,
-               panel.finishing.hasUnknownStaple ? kNoPpdChoice : chosenStaple(panel.finishing));
-    showChoice(panel.bundle, controls.holePunch, panel.finishing.punch);
-    showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel));
-    showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.finishing));
-    showBundlePicture(controls.holePunchIcon, panel.bundle, punchPicture(panel.finishing.punch));
+               panel.settings.finishing.hasUnknownStaple ? kNoPpdChoice
+                                                         : chosenStaple(panel.settings.finishing));
+    showChoice(panel.bundle, controls.holePunch, panel.settings.finishing.punch);
+    showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel.settings));
+    showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.settings.finishing));
+    showBundlePicture(controls.holePunchIcon, panel.bundle,
+                      punchPicture(panel.settings.finishing.punch));
 }
 
-void showOutputColor(const PaperOutputPanelContext &panel)
+void showOutputColor(const _PaperOutputContext &panel)
 {
-    showChoice(panel.bundle, panel.controls.outputColor, panel.colorMode);
+    showChoice(panel.bundle, panel.controls.outputColor, panel.settings.colorMode);
     showBundlePicture(panel.controls.outputColorIcon, panel.bundle,
-                      colorModePicture(panel.colorMode));
+                      colorModePicture(panel.settings.colorMode));
 }
 
-void showOutputDestination(const PaperOutputPanelContext &panel)
+void showOutputDestination(const _PaperOutputContext &panel)
 {
-    showChoice(panel.bundle, panel.controls.outputDestination, panel.outputBin);
+    showChoice(panel.bundle, panel.controls.outputDestination, panel.settings.outputBin);
 }
 
-void showPaperOutput(const PaperOutputPanelContext &panel)
+void showPaperOutput(const _PaperOutputContext &panel)
 {
     if (!panel.content)
         return;
@@ -269,10 +273,10 @@ void showPaperOutput(const PaperOutputPanelContext &panel)
     showCovers(panel);
 }
 
-void EnableDisableJobTypeSetupButton(const PaperOutputPanelContext &panel)
+void EnableDisableJobTypeSetupButton(const _PaperOutputContext &panel)
 {
     if (panel.controls.jobTypeSetup)
-        panel.controls.jobTypeSetup->setEnabled(hasJobTypeSetup(panel.jobType));
+        panel.controls.jobTypeSetup->setEnabled(hasJobTypeSetup(panel.settings.jobType));
 }
 
 } // namespace kelvo

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "device.h"
 #include "event.h"
 #include "late_content.h"
 #include "menu_button.h"
 #include "needed_controls.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 #include "picture_view.h"
 #include "plugin_abi.h"
 #include "popup_button.h"
-#include "ppd_file.h"
 #include "stock_menu_button.h"
 #include "summary_view.h"
 
@@ -61,10 +61,16 @@ struct PaperOutputControls
     QPointer<PopupButton> outputDestination; // KPDE 126
 };
 
-struct PaperOutputPanelContext : _PaperOutputContext
+struct _PaperOutputContext // NOLINT(bugprone-reserved-identifier): the panel's own name
 {
+    CFBundleRef bundle = nullptr;
+    QString title;
+    Device device;       // from Initialize on
+    bool opened = false; // from Open to Close
+    PaperOutputSettings settings;
+    QString documentName; // what a saved job is called that takes the job's name
+
     QPointer<QWidget> parentUserPane;
-    PpdFile *ppd = nullptr;    // the current one, from Initialize on
     LateContent lateContent;   // from Open to Close
     QPointer<QWidget> content; // the panel's own views, once they are built
     PaperOutputControls controls;
@@ -76,20 +82,20 @@ PaperOutputControls findPaperOutputControls(NeededControls &needed);
 
 // Fills menus and pop-ups from their maps and the PPD. What the device does not
 // have is disabled.
-void fillPaperOutputControls(PaperOutputPanelContext &panel);
+void fillPaperOutputControls(_PaperOutputContext &panel);
 
 // From the context to the controls; nothing happens where there are none.
-void showPaperOutput(const PaperOutputPanelContext &panel);
+void showPaperOutput(const _PaperOutputContext &panel);
 // Parts of it.
-void showJobType(const PaperOutputPanelContext &panel);
-void showStockAndSeparators(const PaperOutputPanelContext &panel);
-void showCovers(const PaperOutputPanelContext &panel);
-void showTwoSided(const PaperOutputPanelContext &panel);
-void showFinishing(const PaperOutputPanelContext &panel);
-void showOutputColor(const PaperOutputPanelContext &panel);
-void showOutputDestination(const PaperOutputPanelContext &panel);
+void showJobType(const _PaperOutputContext &panel);
+void showStockAndSeparators(const _PaperOutputContext &panel);
+void showCovers(const _PaperOutputContext &panel);
+void showTwoSided(const _PaperOutputContext &panel);
+void showFinishing(const _PaperOutputContext &panel);
+void showOutputColor(const _PaperOutputContext &panel);
+void showOutputDestination(const _PaperOutputContext &panel);
 
 // The set-up button is enabled for the job types that have a set-up.
-void EnableDisableJobTypeSetupButton(const PaperOutputPanelContext &panel);
+void EnableDisableJobTypeSetupButton(const _PaperOutputContext &panel);
 
 } // namespace kelvo

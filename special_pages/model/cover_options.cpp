@@ -6,20 +6,6 @@
 
 namespace kelvo {
 
-namespace {
-
-void handOver(bool isThere, const Cover &working, std::unique_ptr<Cover> &cover)
-{
-    if (!isThere)
-        cover.reset();
-    else if (cover)
-        *cover = working;
-    else
-        cover = std::make_unique<Cover>(working);
-}
-
-} // namespace
-
 Cover newCover()
 {
     Cover cover;
@@ -29,7 +15,7 @@ Cover newCover()
     return cover;
 }
 
-WorkingCovers workingCovers(const Cover *front, const Cover *back)
+WorkingCovers workingCovers(const std::optional<Cover> &front, const std::optional<Cover> &back)
 {
     WorkingCovers covers;
     if (front && back)
@@ -104,11 +90,16 @@ Menu sourceMenu(const Menu &sources, const Cover &cover, const QString &notSet)
     return menu;
 }
 
-void handOver(const WorkingCovers &covers, std::unique_ptr<Cover> &front,
-              std::unique_ptr<Cover> &back)
+void handOver(const WorkingCovers &covers, std::optional<Cover> &front, std::optional<Cover> &back)
 {
-    handOver(hasFrontCover(covers.option), covers.front, front);
-    handOver(hasBackCover(covers.option), covers.back, back);
+    const auto give = [](bool isThere, const Cover &working, std::optional<Cover> &cover) {
+        if (isThere)
+            cover = working;
+        else
+            cover.reset();
+    };
+    give(hasFrontCover(covers.option), covers.front, front);
+    give(hasBackCover(covers.option), covers.back, back);
 }
 
 QString coverOptionPicture(std::int32_t option)

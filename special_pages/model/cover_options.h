@@ -6,7 +6,7 @@
 #include <QString>
 
 #include <cstdint>
-#include <memory>
+#include <optional>
 
 // The rules of the covers dialog.
 namespace kelvo {
@@ -40,8 +40,8 @@ struct WorkingCovers
     Cover back = newCover();
 };
 
-// Copies of the covers given, null where there is none. Two equal ones are the same.
-WorkingCovers workingCovers(const Cover *front, const Cover *back);
+// Copies of the covers that there are. Two equal ones are the same.
+WorkingCovers workingCovers(const std::optional<Cover> &front, const std::optional<Cover> &back);
 
 // The user chose `option`. A cover that stays keeps what was set; one that goes
 // and comes again is as new.
@@ -67,9 +67,8 @@ Menu sourceMenu(const Menu &sources, const Cover &cover, const QString &notSet);
 bool hasSource(const Menu &sources, const Cover &cover);
 
 // What OK leaves with the caller: a cover that is there before and after stays the
-// same object and takes the new values.
-void handOver(const WorkingCovers &covers, std::unique_ptr<Cover> &front,
-              std::unique_ptr<Cover> &back);
+// same page and takes the new values.
+void handOver(const WorkingCovers &covers, std::optional<Cover> &front, std::optional<Cover> &back);
 
 // The picture of an option, as the bundle names it.
 QString coverOptionPicture(std::int32_t option);

@@ -1,7 +1,7 @@
 #include "cover_sync.h"
 
 #include "ppd_choices.h"
-#include "ticket.h"
+#include "print_session.h"
 #include "ticket_values.h"
 
 namespace kelvo {
@@ -12,56 +12,69 @@ const QString frontOption = QStringLiteral("KVFrontCoverSheet");
 const QString backOption = QStringLiteral("KVBackCoverSheet");
 const QString noCover = QStringLiteral("None"); // has no ticket value
 
-// A cover without a source does not reach the device: an earlier source goes, or
-// it would be fed from there all the same.
-void writeSource(PMTicketRef ticket, const QString &option, const Cover *cover)
+std::optional<bool> bookletLayout(const Ticket &ticket)
 {
-    const auto choice = cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : noCover;
-    PPDDictionary *choices = PMTicketGetPPDDict(ticket);
-    if (choice)
-        PPDSetCurrentChoice(ticket, option, choice);
-    else if (choices)
-        choices->remove(option);
+    return boolean(valueIn(ticket, ticketKey("BookletLayout")));
 }
 
-std::unique_ptr<Cover> readSource(PMTicketRef ticket, const QString &option)
+// A cover without a source does not reach the device: an earlier source goes, or
+// it would be fed from there all the same.
+void writeSource(Ticket &ticket, const QString &option, const std::optional<Cover> &cover)
 {
-    constexpr std::int32_t none = -1;
-    std::int32_t source = none;
-    PPDGetTicketValueForChoiceOrDefault(PPDGetCurrent(), ticket, option, &source);
-    if (source == none)
-        return nullptr;
-    auto cover = std::make_unique<Cover>();
-    cover->stock().setSource(source);
-    return cover;
+    const auto choice = cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : noCover;
+    if (choice)
+        PPDSetCurrentChoice(ticket, option, choice);
+    else
+        PPDRemoveCurrentChoice(ticket, option);
+}
+
+void readSource(std::optional<Cover> &cover, const Ticket &ticket, const QString &option,
+                const Device &device)
+{
+    std::int32_t source = kNoPpdChoice;
+    PPDGetTicketValueForChoiceOrDefault(device.ppd, ticket, option, &source);
+    if (source != kNoPpdChoice)
+        cover.emplace().stock().setSource(source);
 }
 
 } // namespace
 
-OSStatus SyncCovers(PMTicketRef ticket, std::int32_t direction, std::unique_ptr<Cover> *front,
-                    std::unique_ptr<Cover> *back)
+void readCovers(std::optional<Cover> &front, std::optional<Cover> &back,
+                const Ticket &printSettings, const Device &device)
+{
+    front.reset();
+    back.reset();
+    readSource(front, printSettings, frontOption, device);
+    if (bookletLayout(printSettings).value_or(false))
+        back = front;
+    else
+        readSource(back, printSettings, backOption, device);
+}
+
+void writeCovers(const std::optional<Cover> &front, const std::optional<Cover> &back,
+                 Ticket &printSettings)
+{
+    const bool followsFront =
+        bookletLayout(printSettings).value_or(false) && front && (!back || *back == *front);
+    writeSource(printSettings, frontOption, front);
+    writeSource(printSettings, backOption, followsFront ? std::nullopt : back);
+}
+
+OSStatus SyncCovers(PMTicketRef handle, std::int32_t direction, std::optional<Cover> *front,
+                    std::optional<Cover> *back)
 {
     if (!front || !back)
         return paramErr;
     if (direction != kSyncWrite && direction != kSyncRead)
         return noErr;
-
-    const std::optional<bool> booklet = PMTicketGetCFBoolean(ticket, ticketKey("BookletLayout"));
-    const bool isBooklet = booklet.value_or(false);
-    if (direction == kSyncWrite) {
-        const Cover *frontCover = front->get();
-        const Cover *backCover = back->get();
-        writeSource(ticket, frontOption, frontCover);
-        const bool followsFront = frontCover && (!backCover || *backCover == *frontCover);
-        writeSource(ticket, backOption, isBooklet && followsFront ? nullptr : backCover);
-    } else {
-        *front = readSource(ticket, frontOption);
-        if (isBooklet)
-            *back = *front ? std::make_unique<Cover>(**front) : nullptr;
-        else
-            *back = readSource(ticket, backOption);
-    }
-    return booklet ? noErr : kPMKeyNotFound;
+    Ticket *ticket = findTicket(handle);
+    if (!ticket)
+        return kPMInvalidTicket;
+    if (direction == kSyncWrite)
+        writeCovers(*front, *back, *ticket);
+    else
+        readCovers(*front, *back, *ticket, currentDevice());
+    return bookletLayout(*ticket) ? noErr : kPMKeyNotFound;
 }
 
 } // namespace kelvo

@@ -303,14 +303,14 @@ void finalizeCovers(CoversContext &context)
 } // namespace
 
 OSStatus RunModalCoversDialog(CFBundleRef bundle, DialogMode mode, Stock *jobStock,
-                              std::unique_ptr<Cover> *front, std::unique_ptr<Cover> *back,
+                              std::optional<Cover> *front, std::optional<Cover> *back,
                               DialogResult *outcome, QWidget *parent)
 {
     if (!bundle || !front || !back || !outcome || (mode == kDialogModeEdit && !*front && !*back))
         return paramErr;
     CoversContext context;
     context.bundle = bundle;
-    context.covers = workingCovers(front->get(), back->get());
+    context.covers = workingCovers(*front, *back);
     const OSStatus status = initializeCovers(context, jobStock, parent);
     if (status != noErr)
         return status;

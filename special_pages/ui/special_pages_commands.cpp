@@ -148,9 +148,9 @@ void DeleteSelectedSpecialPages(_SpecialPagesContext &panel)
     const std::vector<const SpecialPage *> selected = selectedPages(panel);
     std::vector<const SpecialPage *> inserts, exceptions;
     for (const SpecialPage *page : selected) {
-        if (page == panel.frontCover.get())
+        if (panel.frontCover && page == &*panel.frontCover)
             panel.frontCover.reset();
-        else if (page == panel.backCover.get())
+        else if (panel.backCover && page == &*panel.backCover)
             panel.backCover.reset();
         else if (dynamic_cast<const Insert *>(page))
             inserts.push_back(page);

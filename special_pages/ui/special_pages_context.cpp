@@ -1,29 +1,23 @@
 #include "special_pages_context.h"
 
+#include <utility>
+
 namespace kelvo {
-
-namespace {
-
-std::unique_ptr<Cover> copyOf(const std::unique_ptr<Cover> &cover)
-{
-    return cover ? std::make_unique<Cover>(*cover) : nullptr;
-}
-
-} // namespace
 
 _SpecialPagesContext *_specialPagesContext = nullptr;
 
 SpecialPages _SpecialPagesContext::pages() const
 {
-    return {frontCover.get(), inserts.get(), exceptions.get(), backCover.get()};
+    return {frontCover ? &*frontCover : nullptr, inserts.get(), exceptions.get(),
+            backCover ? &*backCover : nullptr};
 }
 
 void SaveUndoState(_SpecialPagesContext *context)
 {
     if (!context)
         return;
-    context->savedFrontCover = copyOf(context->frontCover);
-    context->savedBackCover = copyOf(context->backCover);
+    context->savedFrontCover = context->frontCover;
+    context->savedBackCover = context->backCover;
     context->savedInserts = std::make_unique<InsertList>(*context->inserts);
     context->savedExceptions = std::make_unique<ExceptionPageList>(*context->exceptions);
 }
@@ -32,8 +26,8 @@ void PerformUndo(_SpecialPagesContext *context)
 {
     if (!context || !hasUndoState(*context))
         return;
-    context->frontCover = std::move(context->savedFrontCover);
-    context->backCover = std::move(context->savedBackCover);
+    context->frontCover = std::exchange(context->savedFrontCover, std::nullopt);
+    context->backCover = std::exchange(context->savedBackCover, std::nullopt);
     context->inserts = std::move(context->savedInserts);
     context->exceptions = std::move(context->savedExceptions);
 }

@@ -12,6 +12,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kelvo {
@@ -25,12 +26,12 @@ struct _SpecialPagesContext // NOLINT(bugprone-reserved-identifier)
 
     std::unique_ptr<ExceptionPageList> exceptions;
     std::unique_ptr<InsertList> inserts;
-    std::unique_ptr<Cover> frontCover, backCover;
+    std::optional<Cover> frontCover, backCover;
 
     // One level of undo.
     std::unique_ptr<ExceptionPageList> savedExceptions;
     std::unique_ptr<InsertList> savedInserts;
-    std::unique_ptr<Cover> savedFrontCover, savedBackCover;
+    std::optional<Cover> savedFrontCover, savedBackCover;
 
     std::unique_ptr<Stock> jobStock; // null when the ticket has none
     PMTicketRef ticket = 0;          // the print settings of the last Sync

@@ -2,8 +2,8 @@
 #include "finishing.h"
 #include "finishing_ticket.h"
 #include "output_destinations.h"
-#include "paper_output_context.h"
 #include "paper_output_pictures.h"
+#include "paper_output_settings.h"
 #include "picture_view.h"
 
 #include <QTest>
@@ -21,7 +21,7 @@ QString codeText(OSType code)
 }
 
 // What commands leave behind, in one line.
-QString stateOf(const _PaperOutputContext &context)
+QString stateOf(const PaperOutputSettings &context)
 {
     const Finishing &finishing = context.finishing;
     return QStringLiteral("booklet %1 duplex %2 options %3 fold %4 punch %5/%6 staples %7,%8,%9")
@@ -77,7 +77,7 @@ void TestFinishing::offersWhatIsInstalled()
     const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
 
     Menu menu;
-    PopulateFinishingMenu(menu, device.bundle);
+    PopulateFinishingMenu(menu, currentDevice());
 
     QStringList offered;
     for (const MenuItem &item : menu.items) {
@@ -123,7 +123,7 @@ void TestFinishing::followsTheMenu()
     QFETCH(QString, plain);
     QFETCH(QString, booklet);
 
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.finishing = {.options = kFinishingDualStaple,
                          .fold = kFoldC,
                          .punch = kPunchFourHoles,
@@ -166,12 +166,12 @@ void TestFinishing::checksWhatIsChosen()
     QFETCH(Finishing, finishing);
     QFETCH(QString, checked);
     const DeviceSession device(QStringLiteral("full"));
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.booklet = booklet;
     context.finishing = finishing;
 
     Menu menu;
-    PopulateFinishingMenu(menu, device.bundle);
+    PopulateFinishingMenu(menu, currentDevice());
     menu.items.front().checked = true; // an earlier mark goes
     MarkFinishingMenu(menu, context);
 
@@ -219,13 +219,11 @@ void TestFinishing::summarizes()
     QFETCH(Finishing, finishing);
     QFETCH(QString, summary);
     const DeviceSession session(device);
-    _PaperOutputContext context;
-    context.bundle = session.bundle;
+    PaperOutputSettings context;
     context.booklet = booklet;
     context.finishing = finishing;
-    context.devices = installedFinishingDevices();
 
-    QCOMPARE(CreateFinishingString(context).replace(u'\n', u'|'), summary);
+    QCOMPARE(CreateFinishingString(context, currentDevice()).replace(u'\n', u'|'), summary);
 }
 
 void TestFinishing::placesStaplesAndHolesByOrientation_data()
@@ -311,7 +309,7 @@ void TestFinishing::showsWhatComesOut()
     QFETCH(std::int32_t, booklet);
     QFETCH(Finishing, finishing);
     QFETCH(QString, picture);
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.booklet = booklet;
     context.finishing = finishing;
 
@@ -326,7 +324,7 @@ void TestFinishing::hasItsPictures()
     for (const std::int32_t value : {1, 2, 3, 4, 5, 6, 7, 8, 9}) {
         pictures << jobTypePicture(value) << punchPicture(value) << colorModePicture(value);
         for (const std::int32_t booklet : {kBookletOn, kBookletOff}) {
-            _PaperOutputContext context;
+            PaperOutputSettings context;
             context.booklet = booklet;
             context.duplex = value;
             pictures << duplexPicture(context);
@@ -363,7 +361,7 @@ void TestFinishing::deliversToWhatIsInstalled()
     const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
 
     Menu menu;
-    PopulateOutputDestination(menu, PPDGetCurrent());
+    PopulateOutputDestination(menu, currentDevice());
 
     QStringList found;
     for (const MenuItem &item : menu.items)

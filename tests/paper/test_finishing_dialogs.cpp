@@ -4,14 +4,14 @@
 #include "control.h"
 #include "finishing_dialogs.h"
 #include "help_window.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 #include "popup_button.h"
 #include "separators_dialog.h"
 
 #include <QTest>
 
 using namespace kelvo;
-using RunDialog = OSStatus (*)(CFBundleRef, _PaperOutputContext *, DialogResult *, QWidget *);
+using RunDialog = OSStatus (*)(CFBundleRef, PaperOutputSettings *, DialogResult *, QWidget *);
 
 Q_DECLARE_METATYPE(RunDialog)
 
@@ -77,7 +77,7 @@ void TestFinishingDialogs::menuOffersWhatIsInstalled()
     QFETCH(QString, commands);
     const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
     Menu menu;
-    PopulateMoreFinishingMenu(menu, device.bundle);
+    PopulateMoreFinishingMenu(menu, currentDevice());
     QStringList found;
     for (const MenuItem &item : menu.items) {
         found << textOf({item.command, 0}).left(4); // "Fst1 0"
@@ -111,7 +111,7 @@ void TestFinishingDialogs::everyChoiceHasItsWindow()
     QFETCH(RunDialog, run);
     QFETCH(QString, lines);
     const DeviceSession device("full");
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     DialogResult result = DialogResult::OK;
     const DialogDriver driver({
         [&] {
@@ -137,7 +137,7 @@ void TestFinishingDialogs::everyChoiceHasItsWindow()
 void TestFinishingDialogs::okSetsTheChosenHoles()
 {
     const DeviceSession device("full");
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.finishing.fold = kFoldC;
     DialogResult result = DialogResult::Cancel;
     const DialogDriver driver({
@@ -155,7 +155,7 @@ void TestFinishingDialogs::okSetsTheChosenHoles()
 void TestFinishingDialogs::whatOkReplacesIsSaidFirst()
 {
     const DeviceSession device("full");
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     const auto note = [&] {
         QString text;
         DialogResult result = DialogResult::OK;
@@ -177,7 +177,7 @@ void TestFinishingDialogs::whatOkReplacesIsSaidFirst()
 void TestFinishingDialogs::offsetDialogStoresWithOkOnly()
 {
     const DeviceSession device({});
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.finishing.offset = kOffsetSets;
     const Finishing before = context.finishing;
     for (const char *button : {"cancelButton", "okButton"}) {
@@ -217,7 +217,7 @@ void TestFinishingDialogs::offsetDialogStoresWithOkOnly()
 void TestFinishingDialogs::anOffsetThatIsNotOfferedIsKept()
 {
     const DeviceSession device({});
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.finishing.offset = 1;
     DialogResult result = DialogResult::Cancel;
     const DialogDriver driver({expect("offset", "text", "Printer default"), press("okButton")});
@@ -229,7 +229,7 @@ void TestFinishingDialogs::anOffsetThatIsNotOfferedIsKept()
 void TestFinishingDialogs::customFinishingNeedsAText()
 {
     const DeviceSession device({});
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     DialogResult result = DialogResult::Cancel;
     const QString longest(255, u'x');
     const DialogDriver driver({
@@ -329,7 +329,7 @@ void TestFinishingDialogs::aDeviceWithoutSeparatorsSaysSo()
 void TestFinishingDialogs::badArgumentsAreRefused()
 {
     const DeviceSession device({});
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     Stock stock;
     std::int32_t separators = kSeparatorsNone;
     DialogResult result = DialogResult::OK;

@@ -2,7 +2,7 @@
 
 #include "finishing_choices.h"
 #include "finishing_offset.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 #include "separator_picture.h"
 #include "separators.h"
 
@@ -146,18 +146,21 @@ void TestFinishingRules::choicesAreInstalledAndInThePpd()
     QVERIFY(bare);
     {
         const DeviceSession mid("mid"); // a punch unit for two holes alone
-        QCOMPARE(valuesOf(finishingChoices(Kind::HolePunch, PPDGetCurrent())), QList<int>({1, 3}));
+        QCOMPARE(valuesOf(finishingChoices(Kind::HolePunch, currentDevice())), QList<int>({1, 3}));
     }
     const DeviceSession full("full"); // every unit is there
-    QCOMPARE(valuesOf(finishingChoices(Kind::Fold, bare.value().get())), QList<int>{1});
-    QCOMPARE(valuesOf(finishingChoices(Kind::Fold, nullptr)), QList<int>{1});
-    QCOMPARE(valuesOf(finishingChoices(Kind::Bind, nullptr)), QList<int>({1, 2, 3, 4}));
+    Device device = currentDevice();
+    for (const PpdFile *ppd : {bare.value().get(), static_cast<PpdFile *>(nullptr)}) {
+        device.ppd = ppd;
+        QCOMPARE(valuesOf(finishingChoices(Kind::Fold, device)), QList<int>{1});
+        QCOMPARE(valuesOf(finishingChoices(Kind::Bind, device)), QList<int>({1, 2, 3, 4}));
+    }
 }
 
 void TestFinishingRules::whatADialogDoesNotOfferIsNamed()
 {
     const DeviceSession device("full");
-    const auto staples = finishingChoices(Kind::SingleStaple, PPDGetCurrent());
+    const auto staples = finishingChoices(Kind::SingleStaple, currentDevice());
     const Finishing dual = stapledAndPunched(kStapleDual, kPunchNone);
     QCOMPARE(initialChoice(Kind::SingleStaple, staples, dual), 1U);
     QVERIFY(!findSetChoice(Kind::SingleStaple, staples, dual));
@@ -166,16 +169,16 @@ void TestFinishingRules::whatADialogDoesNotOfferIsNamed()
     QCOMPARE(initialChoice(Kind::SingleStaple, staples, single), 1U);
     QVERIFY(!replacedFinishing(Kind::SingleStaple, staples, single));
     // Called for a staple, it begins with one; nothing is set for that.
-    QCOMPARE(initialChoice(Kind::DualStaple, finishingChoices(Kind::DualStaple, PPDGetCurrent()),
+    QCOMPARE(initialChoice(Kind::DualStaple, finishingChoices(Kind::DualStaple, currentDevice()),
                            Finishing()),
              1U);
-    QCOMPARE(initialChoice(Kind::SingleStaple, finishingChoices(Kind::SingleStaple, nullptr),
+    QCOMPARE(initialChoice(Kind::SingleStaple, finishingChoices(Kind::SingleStaple, Device()),
                            Finishing()),
              0U); // none to choose
     QCOMPARE(findSetChoice(Kind::SingleStaple, staples, Finishing()),
              std::optional<std::size_t>(0));
 
-    const auto folds = finishingChoices(Kind::Fold, PPDGetCurrent());
+    const auto folds = finishingChoices(Kind::Fold, currentDevice());
     const Finishing half = stapledAndPunched(kStapleNone, kPunchNone, kFoldZHalfSheet);
     QCOMPARE(replacedFinishing(Kind::Fold, folds, half), "Z Fold Half Sheet");
     const Finishing unknown = stapledAndPunched(kStapleNone, kPunchNone, -1);
@@ -187,11 +190,11 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
     const DeviceSession device("full");
     for (const Kind kind :
          {Kind::SingleStaple, Kind::DualStaple, Kind::HolePunch, Kind::AdvancedFold, Kind::ZFold}) {
-        for (const FinishingChoice &choice : finishingChoices(kind, PPDGetCurrent())) {
-            _PaperOutputContext byMenu;
+        for (const FinishingChoice &choice : finishingChoices(kind, currentDevice())) {
+            PaperOutputSettings byMenu;
             byMenu.booklet = kBookletOn;
             byMenu.finishing = stapledAndPunched(kStapleDual, kPunchTwoHoles, kFoldC);
-            _PaperOutputContext byDialog;
+            PaperOutputSettings byDialog;
             byDialog.booklet = byMenu.booklet;
             byDialog.finishing = byMenu.finishing;
             const bool saysBookletEnds = endsBooklet(kind, byDialog);
@@ -204,15 +207,15 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
             QCOMPARE(saysBookletEnds, !byDialog.isBooklet());
         }
     }
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.booklet = kBookletOn;
-    const auto folds = finishingChoices(Kind::AdvancedFold, PPDGetCurrent());
+    const auto folds = finishingChoices(Kind::AdvancedFold, currentDevice());
     applyFinishingChoice(context, folds[2]);
     QCOMPARE(context.finishing.fold, kFoldBiAndStaple);
     QCOMPARE(context.finishing.options, kFinishingBooklet);
     applyFinishingChoice(context, folds[0]);
     QCOMPARE(context.finishing.options, kFinishingNone);
-    applyFinishingChoice(context, finishingChoices(Kind::Bind, PPDGetCurrent())[2]);
+    applyFinishingChoice(context, finishingChoices(Kind::Bind, currentDevice())[2]);
     QCOMPARE(context.finishing.bind, kBindRight);
     QVERIFY(context.isBooklet());
 }
@@ -245,11 +248,11 @@ void TestFinishingRules::picturesShowWhatComesOut()
     QFETCH(int, punch);
     QFETCH(QString, picture);
     const DeviceSession device("full");
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     context.finishing = stapledAndPunched(staple, punch);
     const Finishing before = context.finishing;
 
-    const auto choices = finishingChoices(kind, PPDGetCurrent());
+    const auto choices = finishingChoices(kind, currentDevice());
     QCOMPARE(finishingChoicePicture(kind, context, choices.at(choice)), picture);
     QVERIFY(context.finishing == before);
 }

@@ -9,7 +9,7 @@
 #include "finishing_dialogs.h"
 #include "inserts_dialog.h"
 #include "panel_content.h"
-#include "paper_output_context.h"
+#include "paper_output_settings.h"
 #include "popup_button.h"
 #include "save_stock_dialog.h"
 #include "saved_job_dialog.h"
@@ -29,14 +29,14 @@ namespace {
 // What a dialog works on, and must leave alone.
 struct Settings
 {
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     Stock stock;
     std::int32_t number = kUnset, other = kUnset;
     LongDateTime time = 0;
     std::optional<QString> passcode;
     SavedJobData savedJob;
     _IS_Options shift;
-    std::unique_ptr<Cover> front, back;
+    std::optional<Cover> front, back;
     InsertList inserts;
     ExceptionPageList exceptions;
     DialogResult result = DialogResult::Cancel;

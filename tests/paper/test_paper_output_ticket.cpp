@@ -1,6 +1,6 @@
 #include "delayed_print.h"
 #include "device_session.h"
-#include "paper_output_ticket.h"
+#include "paper_output_settings.h"
 #include "separators.h"
 #include "ticket.h"
 #include "ticket_values.h"
@@ -20,9 +20,15 @@ Dictionary jobTypeIn(const DeviceSession &device)
     return PMTicketGetCFDictionary(device.settings(), ticketKey("JobType")).value_or(Dictionary());
 }
 
-void read(_PaperOutputContext &context, const DeviceSession &device)
+void read(PaperOutputSettings &context, const DeviceSession &device)
 {
-    readPaperOutput(context, device.settings(), device.pageFormat(), PPDGetCurrent());
+    readPaperOutput(context, device.session.printSettings(), device.session.pageFormat(),
+                    currentDevice());
+}
+
+void write(const PaperOutputSettings &context, const DeviceSession &device, bool opened = false)
+{
+    writePaperOutput(context, *findTicket(device.settings()), opened);
 }
 
 // Reads, writes, and gives the ticket's value of `name`.
@@ -59,7 +65,7 @@ private slots:
 
 void TestPaperOutputTicket::readsAnEmptyTicketAsTheDevicesDefaults()
 {
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     initializePaperOutput(context, 1000);
     {
         const DeviceSession device(QStringLiteral("full"));
@@ -98,7 +104,7 @@ void TestPaperOutputTicket::letsTheTicketsChoicesRuleTheStock()
     stored.setWeight(160);
     PMTicketSetCFDictionary(device.settings(), client, ticketKey("JobLevelStock"),
                             stored.asTicket());
-    _PaperOutputContext context;
+    PaperOutputSettings context;
 
     read(context, device);
 
@@ -144,17 +150,17 @@ void TestPaperOutputTicket::keepsWhatOnlyAStockCanSay()
     stock.setModulus(5);
     PMTicketSetCFDictionary(device.settings(), client, ticketKey("JobLevelStock"),
                             stock.asTicket());
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
     QTEST(context.jobStock.color(), "readColor");
     QTEST(context.jobStock.type(), "readType");
 
     // What is written says the same when it is read again: ticket in, ticket out.
-    writePaperOutput(context, device.settings());
+    write(context, device);
     const auto written = PMTicketGetCFDictionary(device.settings(), ticketKey("JobLevelStock"));
     QCOMPARE(written->value("CustomColor"), QVariant("Lime"));
     QCOMPARE(written->value("CustomType"), QVariant("Felt"));
-    _PaperOutputContext again;
+    PaperOutputSettings again;
     read(again, device);
     QVERIFY(again.jobStock == context.jobStock);
 }
@@ -188,7 +194,7 @@ void TestPaperOutputTicket::findsTwoSidedInThreePlaces()
         ticket.entries[QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")] = {duplexing,
                                                                                        client};
     ticket.ppdChoices[QStringLiteral("Duplex")] = choice;
-    _PaperOutputContext context;
+    PaperOutputSettings context;
 
     read(context, device);
 
@@ -198,9 +204,9 @@ void TestPaperOutputTicket::findsTwoSidedInThreePlaces()
 void TestPaperOutputTicket::writesWhatBelongsToTheJobType()
 {
     const DeviceSession device(QStringLiteral("full"));
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
-    writePaperOutput(context, device.settings());
+    write(context, device);
     QCOMPARE(jobTypeIn(device).keys(),
              (QStringList{"DelayedPrintTime", "JobType", "MediaType", "UseJobName"}));
 
@@ -208,14 +214,14 @@ void TestPaperOutputTicket::writesWhatBelongsToTheJobType()
     context.savedJob = {false, QStringLiteral("Minutes"), locationOfMailbox(QStringLiteral("17")),
                         kSaveAndPrint, kSavedAsTiff};
     context.passcode = QStringLiteral("4815");
-    writePaperOutput(context, device.settings());
+    write(context, device);
     const Dictionary saved = jobTypeIn(device);
     QCOMPARE(saved.value("SavedJobName"), QVariant("Minutes"));
     QCOMPARE(saved.value("SavedJobLocation"), QVariant("file:///job-repository/17"));
     QCOMPARE(saved.value("SaveDisposition"), QVariant(qint64(2)));
     QCOMPARE(saved.value("SavedJobFormat"), QVariant(qint64(1)));
     QCOMPARE(saved.value("SecurePrintPassword"), QVariant("4815"));
-    _PaperOutputContext again;
+    PaperOutputSettings again;
     read(again, device);
     QCOMPARE(again.savedJob, context.savedJob);
     QCOMPARE(again.passcode, context.passcode);
@@ -224,7 +230,7 @@ void TestPaperOutputTicket::writesWhatBelongsToTheJobType()
     again.savedJob.usesJobName = true;
     again.savedJob.location.reset();
     again.passcode.reset();
-    writePaperOutput(again, device.settings());
+    write(again, device);
     QCOMPARE(jobTypeIn(device).keys(),
              (QStringList{"DelayedPrintTime", "JobType", "MediaType", "UseJobName"}));
 }
@@ -234,9 +240,9 @@ void TestPaperOutputTicket::keepsForeignEntriesOfTheJobType()
     const DeviceSession device(QStringLiteral("full"));
     PMTicketSetCFDictionary(device.settings(), client, ticketKey("JobType"),
                             {{"Shelf", "B"}, {"MediaType", 7}});
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
-    writePaperOutput(context, device.settings());
+    write(context, device);
 
     QCOMPARE(jobTypeIn(device).value("Shelf"), QVariant("B"));
     QCOMPARE(jobTypeIn(device).value("MediaType"), QVariant(qint64(7)));
@@ -244,12 +250,11 @@ void TestPaperOutputTicket::keepsForeignEntriesOfTheJobType()
 
 void TestPaperOutputTicket::forgetsWhatAnEarlierTicketSaid()
 {
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     {
         DeviceSession device(QStringLiteral("full"));
-        _PaperOutputContext full;
+        PaperOutputSettings full;
         read(full, device);
-        full.opened = true;
         full.duplex = kPlexDuplex;
         full.passcode = QStringLiteral("1");
         full.finishing = {.options = 30,
@@ -259,10 +264,10 @@ void TestPaperOutputTicket::forgetsWhatAnEarlierTicketSaid()
                           .pagesPerSubset = 9,
                           .custom = "tape"};
         full.separators = kSeparatorsBlank;
-        full.frontCover = std::make_unique<Cover>();
+        full.frontCover.emplace();
         full.frontCover->stock().setSource(2);
         full.faxOptions = Dictionary{{"Resolution", 2}};
-        writePaperOutput(full, device.settings());
+        write(full, device, true);
         read(context, device);
         QCOMPARE(context.finishing.pagesPerSubset, 9);
         QCOMPARE(context.frontCover->stock().source(), 2);
@@ -280,23 +285,22 @@ void TestPaperOutputTicket::forgetsWhatAnEarlierTicketSaid()
 void TestPaperOutputTicket::writesBookletEntriesWithALayoutOnly()
 {
     const DeviceSession device(QStringLiteral("full"));
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
-    context.opened = true;
     context.duplex = kPlexDuplexShort;
     context.bookletLayout = {2, 36, 5, 5};
-    writePaperOutput(context, device.settings());
+    write(context, device, true);
     QCOMPARE(PMTicketGetCFBoolean(device.settings(), ticketKey("BookletLayout")), false);
     QVERIFY(!numberIn(device, "Gutter"));
 
     context.booklet = kBookletOn;
-    writePaperOutput(context, device.settings());
+    write(context, device, true);
     QCOMPARE(numberIn(device, "FinishingDuplex"), kPlexDuplex);
     QCOMPARE(device.choice(QStringLiteral("Duplex")), QStringLiteral("DuplexNoTumble"));
     QCOMPARE(numberIn(device, "Gutter"), 36);
     const auto stock = PMTicketGetCFDictionary(device.settings(), ticketKey("JobLevelStock"));
     QCOMPARE(stock->value("Size"), QVariant(qint64(5)));
-    _PaperOutputContext again;
+    PaperOutputSettings again;
     read(again, device);
     QVERIFY(again.isBooklet());
     QCOMPARE(again.bookletLayout.pageBorders, 2);
@@ -304,7 +308,7 @@ void TestPaperOutputTicket::writesBookletEntriesWithALayoutOnly()
     QCOMPARE(again.bookletLayout.newSize, 5);
 
     again.bookletLayout.newSize = kUnset;
-    writePaperOutput(again, device.settings());
+    write(again, device);
     QVERIFY(
         !PMTicketGetCFDictionary(device.settings(), ticketKey("JobLevelStock"))->contains("Size"));
 }
@@ -312,15 +316,14 @@ void TestPaperOutputTicket::writesBookletEntriesWithALayoutOnly()
 void TestPaperOutputTicket::writesTwoSidedWhileOpenOnly()
 {
     const DeviceSession device(QStringLiteral("full"));
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
     context.duplex = kPlexDuplex;
-    writePaperOutput(context, device.settings());
+    write(context, device);
     QVERIFY(!numberIn(device, "FinishingDuplex"));
     QCOMPARE(device.choice(QStringLiteral("Duplex")), QString());
 
-    context.opened = true;
-    writePaperOutput(context, device.settings());
+    write(context, device, true);
     QCOMPARE(numberIn(device, "FinishingDuplex"), kPlexDuplex);
     QCOMPARE(PMTicketGetCFNumber(device.settings(),
                                  QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")),
@@ -349,11 +352,11 @@ void TestPaperOutputTicket::takesBackHolesThatAreNotChosen()
     DeviceSession device(QStringLiteral("full"));
     if (!before.isEmpty())
         device.session.printSettings().ppdChoices[QStringLiteral("KVPunch")] = before;
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
     context.finishing.punch = punch;
 
-    writePaperOutput(context, device.settings());
+    write(context, device);
 
     QCOMPARE(device.choice(QStringLiteral("KVPunch")), after);
 }
@@ -364,16 +367,16 @@ void TestPaperOutputTicket::takesBackPaperThatIsNotChosen()
     PPDDictionary &choices = device.session.printSettings().ppdChoices;
     const PPDDictionary unknown{{"MediaType", "Sparkling"}, {"StapleLocation", "Gold"}};
     choices = unknown;
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
-    writePaperOutput(context, device.settings());
+    write(context, device);
     for (auto choice = unknown.cbegin(); choice != unknown.cend(); ++choice)
         QCOMPARE(choices.value(choice.key()), choice.value()); // not ours to judge
 
     for (const std::int32_t color : {kUnset, kStockColorCustom}) {
         choices["MediaColor"] = QStringLiteral("Blue");
         context.jobStock.setColor(color);
-        writePaperOutput(context, device.settings());
+        write(context, device);
         QVERIFY(!choices.contains("MediaColor"));
     }
 }
@@ -396,9 +399,9 @@ void TestPaperOutputTicket::writesSeparatorsSourceWithSeparatorsOnly()
     QCOMPARE(separators, kSeparatorsPrinted);
     QCOMPARE(read.source(), 2);
     QCOMPARE(read.weight(), kUnset);
-    QCOMPARE(separatorSummary(device.bundle, separators, read),
+    QCOMPARE(separatorSummary(currentDevice(), separators, read),
              QStringLiteral("- Separators: Tray 2"));
-    QCOMPARE(separatorSummary(device.bundle, kSeparatorsNone, read), QString());
+    QCOMPARE(separatorSummary(currentDevice(), kSeparatorsNone, read), QString());
     QCOMPARE(SyncSeparatorsFromTicket(0, &separators, &read), paramErr);
     QCOMPARE(SyncSeparatorsFromTicket(device.settings(), nullptr, &read), paramErr);
 }
@@ -406,7 +409,7 @@ void TestPaperOutputTicket::writesSeparatorsSourceWithSeparatorsOnly()
 // Everything that does not come back as it was, one by one.
 void TestPaperOutputTicket::readsBackWhatItWroteBut_data()
 {
-    using Change = std::function<void(_PaperOutputContext &)>;
+    using Change = std::function<void(PaperOutputSettings &)>;
     QTest::addColumn<std::int32_t>("orientation");
     QTest::addColumn<Change>("change");
     QTest::addColumn<Change>("whatComesBack"); // done to what was written
@@ -415,7 +418,7 @@ void TestPaperOutputTicket::readsBackWhatItWroteBut_data()
                         std::int32_t orientation = 1) {
         QTest::newRow(name) << orientation << change << back;
     };
-    using Context = _PaperOutputContext;
+    using Context = PaperOutputSettings;
     row("nothing", [](Context &) {});
     row("a colour of the PPD", [](Context &c) { c.jobStock.setColor(9); });
     row("a colour of the user's", [](Context &c) { c.jobStock.setColor(kStockColorCustom); });
@@ -431,13 +434,13 @@ void TestPaperOutputTicket::readsBackWhatItWroteBut_data()
         [](Context &c) { c.finishing.punch = kPunchNone; });
     row("a fold", [](Context &c) { c.finishing.fold = kFoldZHalfSheet; });
     row("covers from trays", [](Context &c) {
-        c.frontCover = std::make_unique<Cover>();
+        c.frontCover.emplace();
         c.frontCover->stock().setSource(2);
     });
     row(
         "what a cover is printed on",
         [](Context &c) {
-            c.backCover = std::make_unique<Cover>();
+            c.backCover.emplace();
             c.backCover->setSidesImaged(kCoverPrinted);
             c.backCover->stock().setColor(9);
             c.backCover->stock().setSource(2);
@@ -461,21 +464,19 @@ void TestPaperOutputTicket::readsBackWhatItWroteBut_data()
 
 void TestPaperOutputTicket::readsBackWhatItWroteBut()
 {
-    using Change = std::function<void(_PaperOutputContext &)>;
+    using Change = std::function<void(PaperOutputSettings &)>;
     QFETCH(std::int32_t, orientation);
     QFETCH(Change, change);
     QFETCH(Change, whatComesBack);
     const DeviceSession device(QStringLiteral("full"));
     PMTicketSetCFNumber(device.pageFormat(), client, kPMOrientationKey, orientation);
-    _PaperOutputContext context;
+    PaperOutputSettings context;
     read(context, device);
-    context.opened = true;
     change(context);
-    writePaperOutput(context, device.settings());
+    write(context, device, true);
 
-    _PaperOutputContext again;
+    PaperOutputSettings again;
     read(again, device);
-    again.opened = true;
 
     if (whatComesBack)
         whatComesBack(context);
@@ -489,7 +490,7 @@ void TestPaperOutputTicket::readsBackWhatItWroteBut()
     // Once read, it stays as it is.
     if (orientation <= 2) {
         const Ticket written = device.session.printSettings();
-        writePaperOutput(again, device.settings());
+        write(again, device, true);
         if (!whatComesBack)
             QCOMPARE(device.session.printSettings(), written);
     }

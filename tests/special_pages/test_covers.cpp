@@ -24,9 +24,9 @@ Cover coverFrom(std::int32_t source, std::int32_t sidesImaged = kCoverBlank)
     return cover;
 }
 
-std::unique_ptr<Cover> given(std::optional<std::int32_t> source)
+std::optional<Cover> given(std::optional<std::int32_t> source)
 {
-    return source ? std::make_unique<Cover>(coverFrom(*source)) : nullptr;
+    return source ? std::optional(coverFrom(*source)) : std::nullopt;
 }
 
 } // namespace
@@ -74,7 +74,7 @@ void TestCovers::optionSaysWhichCoversAreGiven()
 {
     QFETCH(std::optional<std::int32_t>, front);
     QFETCH(std::optional<std::int32_t>, back);
-    const WorkingCovers covers = workingCovers(given(front).get(), given(back).get());
+    const WorkingCovers covers = workingCovers(given(front), given(back));
     QTEST(int(covers.option), "option");
     QCOMPARE(covers.front.stock().source(), front.value_or(kCoverSourceAutomatic));
     QCOMPARE(covers.back.stock().source(), back.value_or(kCoverSourceAutomatic));
@@ -84,7 +84,7 @@ void TestCovers::coversThatStayKeepTheirSettings()
 {
     const Cover front = coverFrom(kTray1);
     const Cover back = coverFrom(kTray2);
-    WorkingCovers covers = workingCovers(&front, &back);
+    WorkingCovers covers = workingCovers(front, back);
     setCoverOption(covers, kFrontCoverOnly);
     QVERIFY(covers.front == front);
     setCoverOption(covers, kFrontAndBackCovers);
@@ -95,8 +95,8 @@ void TestCovers::coversThatStayKeepTheirSettings()
     setCoverOption(covers, kBackCoverOnly);
     QVERIFY(covers.front == newCover());
     setCoverOption(covers, kNoCovers);
-    std::unique_ptr<Cover> left = given(kTray1);
-    std::unique_ptr<Cover> none;
+    std::optional<Cover> left = given(kTray1);
+    std::optional<Cover> none;
     handOver(covers, left, none);
     QVERIFY(!left && !none);
 }
@@ -106,7 +106,7 @@ void TestCovers::sameCoversFollowTheFront()
     Cover front = coverFrom(kTray1);
     front.setStartPage(3);
     const Cover back = coverFrom(kTray2);
-    WorkingCovers covers = workingCovers(&front, &back);
+    WorkingCovers covers = workingCovers(front, back);
     setCoverOption(covers, kSameCovers);
     QVERIFY(covers.back == front);
     QCOMPARE(covers.back.startPage(), 3);
@@ -186,15 +186,15 @@ void TestCovers::aSourceThatIsNotOfferedIsNotSet()
 
 void TestCovers::theCallersCoverStaysTheSameObject()
 {
-    std::unique_ptr<Cover> front = given(kTray1);
-    std::unique_ptr<Cover> back;
-    const Cover *const before = front.get();
-    WorkingCovers covers = workingCovers(front.get(), nullptr);
+    std::optional<Cover> front = given(kTray1);
+    std::optional<Cover> back;
+    const auto before = front->identity();
+    WorkingCovers covers = workingCovers(front, std::nullopt);
     setCoverOption(covers, kFrontAndBackCovers);
     covers.front.setSidesImaged(kCoverPrinted);
     covers.back.stock().setSource(kTray2);
     handOver(covers, front, back);
-    QCOMPARE(front.get(), before);
+    QCOMPARE(front->identity(), before);
     QCOMPARE(front->sidesImaged(), kCoverPrinted);
     QVERIFY(back);
     QCOMPARE(back->stock().source(), kTray2);
@@ -266,8 +266,8 @@ void TestCovers::writesSources()
     PMTicketSetCFBoolean(ticket, "test", ticketKey("BookletLayout"), booklet);
     for (const char *option : {"KVFrontCoverSheet", "KVBackCoverSheet"})
         PPDSetCurrentChoice(ticket, option, "Tray6"); // of an earlier cover
-    std::unique_ptr<Cover> frontCover = given(front);
-    std::unique_ptr<Cover> backCover = given(back);
+    std::optional<Cover> frontCover = given(front);
+    std::optional<Cover> backCover = given(back);
 
     QCOMPARE(SyncCovers(ticket, kSyncWrite, &frontCover, &backCover), noErr);
 
@@ -312,13 +312,13 @@ void TestCovers::readsSources()
         PMTicketSetCFBoolean(ticket, "test", ticketKey("BookletLayout"), true);
     PPDSetCurrentChoice(ticket, "KVFrontCoverSheet", front);
     PPDSetCurrentChoice(ticket, "KVBackCoverSheet", back);
-    std::unique_ptr<Cover> frontCover = given(kTray1);
-    std::unique_ptr<Cover> backCover = given(kTray1);
+    std::optional<Cover> frontCover = given(kTray1);
+    std::optional<Cover> backCover = given(kTray1);
 
     QCOMPARE(SyncCovers(ticket, kSyncRead, &frontCover, &backCover),
              booklet ? noErr : kPMKeyNotFound);
 
-    const auto source = [](const std::unique_ptr<Cover> &cover) {
+    const auto source = [](const std::optional<Cover> &cover) {
         return cover ? QString::number(cover->stock().source()) : QStringLiteral("-");
     };
     QTEST(source(frontCover) + u' ' + source(backCover), "sources");

@@ -15,10 +15,10 @@ namespace {
 constexpr std::int32_t kTray1 = 1, kTray2 = 2, kBypass = 100;
 constexpr std::int32_t kBlue = 2;
 
-std::unique_ptr<Cover> coverFrom(std::int32_t source)
+Cover coverFrom(std::int32_t source)
 {
-    auto cover = std::make_unique<Cover>(newCover());
-    cover->stock().setSource(source);
+    Cover cover = newCover();
+    cover.stock().setSource(source);
     return cover;
 }
 
@@ -67,7 +67,7 @@ private:
     }
 
     Stock jobStock;
-    std::unique_ptr<Cover> front, back;
+    std::optional<Cover> front, back;
     DialogResult outcome = DialogResult::Cancel;
 };
 
@@ -95,7 +95,7 @@ void TestCoversDialog::theSameCoversFollowTheFront()
     const DeviceSession device("full");
     front = coverFrom(kTray1);
     back = coverFrom(kTray2);
-    const Cover *const backBefore = back.get();
+    const auto backBefore = back->identity();
     const DialogDriver driver(
         {expect("coverOptions", "value", "5"), choose("coverOptions", kSameCovers),
          expect("backSource", "value", "1"), expect("backStockButton", "enabled", "false"),
@@ -105,7 +105,7 @@ void TestCoversDialog::theSameCoversFollowTheFront()
          choose("frontSource", kTray2), expect("backSource", "value", "2"), press("okButton")});
     QCOMPARE(run(kDialogModeEdit, device), noErr);
     QVERIFY(*front == *back);
-    QCOMPARE(back.get(), backBefore);
+    QCOMPARE(back->identity(), backBefore);
     QCOMPARE(back->sidesImaged(), kCoverPrinted);
     QCOMPARE(back->stock().color(), kBlue);
 }

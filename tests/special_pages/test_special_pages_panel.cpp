@@ -247,8 +247,8 @@ void TestSpecialPagesPanel::listsPagesInTheirOrder()
     QCOMPARE(panel.rows(), QString());
     addTo(*panel.data().inserts, insertAfter(5), insertAfter(3), insertAfter(0));
     addTo(*panel.data().exceptions, exceptionOf(3, 5), exceptionOf(1, 1));
-    panel.data().frontCover = std::make_unique<Cover>();
-    panel.data().backCover = std::make_unique<Cover>();
+    panel.data().frontCover.emplace();
+    panel.data().backCover.emplace();
     panel.refill();
     QCOMPARE(panel.rows(),
              QStringLiteral("Front Cover · Before page 1 Insert · 1 Exception · 3-5 Exception"
@@ -330,7 +330,7 @@ void TestSpecialPagesPanel::describesPages()
     Panel panel;
     panel.begin();
     if (dynamic_cast<const Cover *>(page.get()))
-        panel.data().frontCover = std::make_unique<Cover>(static_cast<const Cover &>(*page));
+        panel.data().frontCover.emplace(static_cast<const Cover &>(*page));
     else if (dynamic_cast<const Insert *>(page.get()))
         addTo(*panel.data().inserts, *page);
     else
@@ -363,7 +363,7 @@ void TestSpecialPagesPanel::asksBeforeItDeletes()
     panel.begin();
     addTo(*panel.data().inserts, insertAfter(3), insertAfter(4));
     addTo(*panel.data().exceptions, exceptionOf(5, 6));
-    panel.data().frontCover = std::make_unique<Cover>();
+    panel.data().frontCover.emplace();
     panel.refill();
     const QString all = panel.rows();
 
@@ -428,7 +428,7 @@ void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
     const PMTicketRef ticket = panel.session.settings();
     addTo(*panel.data().inserts, insertAfter(3, 2));
     addTo(*panel.data().exceptions, exceptionOf(5, 6));
-    panel.data().frontCover = std::make_unique<Cover>();
+    panel.data().frontCover.emplace();
     panel.data().frontCover->stock().setSource(2);
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QCOMPARE(panel.session.choice("KVFrontCoverSheet"), QStringLiteral("Tray2"));
@@ -487,8 +487,7 @@ void TestSpecialPagesPanel::selectsNoPageThatCameInAnothersPlace()
     Panel panel;
     panel.begin();
     for (auto *cover : {&panel.data().frontCover, &panel.data().backCover}) {
-        *cover = std::make_unique<Cover>();
-        (*cover)->stock().setSource(1);
+        cover->emplace().stock().setSource(1);
     }
     panel.sync(kSyncWrite);
     panel.refill();

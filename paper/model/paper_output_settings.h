@@ -1,0 +1,104 @@
+#pragma once
+
+#include "cover.h"
+#include "device.h"
+#include "finishing.h"
+#include "job_types.h"
+#include "long_date.h"
+#include "saved_job.h"
+#include "stock.h"
+#include "ticket.h"
+#include "values.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+// What the Paper/Output panel sets, and how tickets say it.
+// Keys are com.kelvo.print. and:
+//
+//   JobLevelStock                 dictionary, stock.h
+//   JobType                       dictionary:
+//     MediaType                     integer  an echo, as read
+//     JobType                       integer  JobTypeMap
+//     UseJobName                    boolean
+//     SavedJobName                  string   only without the job's name
+//     SavedJobLocation              string   only when chosen
+//     SecurePrintPassword           string   only when there is one
+//     DelayedPrintTime              integer  long-date seconds
+//     SaveDisposition               integer  only for saved jobs
+//     SavedJobFormat                integer  only for saved jobs
+//   FaxOptions, FaxRecipientList  dictionary, array; only when there are any
+//   BookletLayout                 boolean
+//   BookletDrawOutlines, BookletForceNewSize, Gutter, Creep   with booklet layout
+//   FinishingDuplex               integer  also under PMDuplexing
+//   FinishingOptions, FinishingOffset, FinishingOffsetEnableSubset,
+//   FinishingSlipSheet, FinishingBindValue   integer
+//   FinishingOffsetPagesPerSubset integer  only with subsets
+//   FinishingCustom               string
+//
+// and the PPD choices MediaColor, MediaType, OutputBin, KVColorMode, KVSlipSheetPrint,
+// KVSlipSheetSource, Duplex, KVFold, KVPunch, StapleLocation, KVFrontCoverSheet and
+// KVBackCoverSheet. A choice that the keyword map does not have stays in the ticket.
+namespace kelvo {
+
+inline constexpr std::int32_t kBookletOn = 1, kBookletOff = 2; // EnabledDisabledMap
+inline constexpr std::int32_t kPlexSimplex = 1, kPlexDuplex = 2, kPlexDuplexShort = 3; // PlexMap
+
+// What the booklet dialog is handed and gives back.
+struct BookletLayout
+{
+    std::int32_t pageBorders = 1;  // PageBordersMap: 1 none, 2 drawn
+    std::int32_t gutter = 24;      // points, 0 to 216
+    std::int32_t creep = 0;        // tenths, 0 to 10
+    std::int32_t newSize = kUnset; // PageSizeMap; kUnset: the document's own
+
+    friend bool operator==(const BookletLayout &, const BookletLayout &) = default;
+};
+
+// Numbers are ticket values.
+struct PaperOutputSettings
+{
+    std::int32_t jobType = 0;     // JobTypeMap; 0 until the first read
+    std::int32_t colorMode = 0;   // "KVColorMode"
+    std::int32_t orientation = 1; // 1 portrait, 2 landscape, 3 and 4 the same reversed
+    std::int32_t outputBin = 1;   // "OutputBin"
+    std::int32_t duplex = 1;      // PlexMap
+
+    Stock jobStock;
+    std::int32_t separators = 1; // "KVSlipSheetPrint": 1 none, 2 blank, 3 printed
+    Stock separatorStock;        // its source is of "KVSlipSheetSource"
+
+    Dictionary jobTypeOptions; // com.kelvo.print.JobType, with keys that are not ours
+    std::int32_t mediaTypeEcho = 1;
+    SavedJob savedJob;
+    std::optional<QString> passcode; // none: there is none
+    LongDateTime delayedPrintTime = 0;
+    std::optional<Dictionary> faxOptions;
+    std::optional<Array> faxRecipients; // one dictionary each, as in the ticket
+
+    std::int32_t booklet = kBookletOff;
+    BookletLayout bookletLayout;
+    Finishing finishing;
+
+    std::optional<Cover> frontCover, backCover;
+
+    bool isBooklet() const { return booklet == kBookletOn; }
+
+    friend bool operator==(const PaperOutputSettings &, const PaperOutputSettings &) = default;
+};
+
+// What a job begins with, before a ticket is read.
+void initializePaperOutput(PaperOutputSettings &settings, LongDateTime now);
+
+// What the tickets say, and else what the device does by default. A time to print stays
+// where they say none.
+void readPaperOutput(PaperOutputSettings &settings, const Ticket &printSettings,
+                     const Ticket &pageFormat, const Device &device);
+// The page format alone: its user may turn the pages between reading and writing.
+void readOrientation(PaperOutputSettings &settings, const Ticket &pageFormat);
+// Two-sided printing is written by a panel that is `opened`.
+void writePaperOutput(const PaperOutputSettings &settings, Ticket &printSettings, bool opened);
+
+} // namespace kelvo
