@@ -25,9 +25,7 @@
 //   KelvoDeviceMaker           string: the manufacturer of its devices, as PPDs name it
 //   KelvoFaxTicketKeys         array of keys whose presence makes a job a fax
 //   KelvoFurtherPanelGetters   array of strings: panels beside the shell, in order
-//   KelvoRepeatedChoices       dictionary: PPD option → array of ticket keys that say the same
 //   KelvoSecretTicketKeys      array of key paths: "com.kelvo.print.JobType/Password"
-//   KelvoSpecialPages          dictionary: where a ticket has covers, inserts and exceptions
 namespace kelvo {
 
 class Bundle

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "four_char_code.h"
+#include "control_id.h"
 #include "status.h"
 
-#include <QHashFunctions>
 #include <QString>
 #include <QVariant>
 #include <QWidget>
@@ -17,22 +16,6 @@ class QLabel;
 // window, written `KPDE 102`; in a window description it is the dynamic
 // property "controlID" (notr). Any widget can have one.
 namespace kelvo {
-
-struct ControlID
-{
-    OSType signature = 0;
-    std::int32_t number = 0;
-
-    friend bool operator==(const ControlID &, const ControlID &) = default;
-    friend std::size_t qHash(const ControlID &id, std::size_t seed = 0)
-    {
-        return qHashMulti(seed, id.signature, id.number);
-    }
-};
-
-inline constexpr OSType kPanelSignature = fourCharCode("KPDE");
-inline constexpr OSType kShellSignature = fourCharCode("Kshl");
-inline constexpr OSType kUserPaneSignature = fourCharCode("KSgb"); // number = tab index
 
 // "KPDE 102" and back: four printable ASCII characters, one blank, a decimal
 // 32-bit number without plus sign or leading zeros. None when it is malformed.

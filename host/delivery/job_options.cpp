@@ -1,5 +1,6 @@
 #include "job_options.h"
 
+#include "device_offers.h"
 #include "ppd_words.h"
 #include "size_limits.h"
 

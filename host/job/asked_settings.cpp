@@ -1,5 +1,6 @@
 #include "asked_settings.h"
 
+#include "device_offers.h"
 #include "ppd_words.h"
 
 #include <algorithm>
@@ -31,9 +32,12 @@ QString wordsElsewhere(const QString &option, const QString &choice, const PpdFi
 
 } // namespace
 
-void AskedSettings::beginOn(TicketFile defaults)
+void AskedSettings::beginOn(TicketFile defaults, RepeatedChoices repeated)
 {
     m_defaults = std::move(defaults);
+    // Another maker's device has none, and what was asked for may go back to one of ours.
+    if (!repeated.isEmpty())
+        m_repeated = std::move(repeated);
     m_beginning = {};
 }
 

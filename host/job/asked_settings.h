@@ -13,15 +13,11 @@ namespace kelvo {
 class AskedSettings
 {
 public:
-    explicit AskedSettings(RepeatedChoices repeated)
-        : m_repeated(std::move(repeated))
-    {
-        m_changes.isPart = true;
-    }
+    AskedSettings() { m_changes.isPart = true; }
 
-    // A device: `defaults` is what its queue lays on an empty ticket. What was asked for
-    // before stays asked for.
-    void beginOn(TicketFile defaults);
+    // A device: `defaults` is what its queue lays on an empty ticket, `repeated` what its
+    // panels keep twice. What was asked for before stays asked for.
+    void beginOn(TicketFile defaults, RepeatedChoices repeated);
     // What the panels first make of the defaults.
     void setBeginning(TicketFile beginning) { m_beginning = std::move(beginning); }
 

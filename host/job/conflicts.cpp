@@ -1,5 +1,6 @@
 #include "conflicts.h"
 
+#include "device_offers.h"
 #include "ppd_words.h"
 #include "values.h"
 

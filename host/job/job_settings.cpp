@@ -1,5 +1,6 @@
 #include "job_settings.h"
 
+#include "device_offers.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
 #include "ticket_layers.h"

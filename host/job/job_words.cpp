@@ -1,5 +1,7 @@
 #include "job_words.h"
 
+#include "device_offers.h"
+#include "job_describer.h"
 #include "ppd_words.h"
 #include "terminal.h"
 #include "values.h"
@@ -7,6 +9,8 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 namespace kelvo {
 
@@ -136,12 +140,46 @@ void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &
         add(false, "Paper", visibleText(settings.paperName) + passedOn);
 }
 
-void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, JobWords &words)
+QString lineOf(const DescribedSetting &setting)
+{
+    return QStringLiteral("%1: %2").arg(setting.label, setting.words);
+}
+
+bool isEntry(const TicketPlace &place)
+{
+    return place.first() != kPPDChoices;
+}
+
+// What the panels set, as their bundle says it.
+void addDescribed(const JobDescription &description, bool readsTickets, JobWords &words)
+{
+    for (const DescribedSetting &setting : description.settings) {
+        if (readsTickets || !isEntry(setting.place))
+            (setting.isDefault ? words.defaults : words.settings) << lineOf(setting);
+    }
+}
+
+// Where the description says all that is to be said.
+TicketPlaces spokenFor(const JobDescription &description)
+{
+    TicketPlaces places = description.unspoken;
+    for (const DescribedSetting &setting : description.settings) {
+        places.insert(setting.place);
+        for (const QString &repeat : setting.repeats)
+            places.insert({kPMPrintSettingsTicket, repeat});
+    }
+    return places;
+}
+
+void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, const TicketPlaces &spokenFor,
+                    JobWords &words)
 {
     for (const PpdGroup &group : ppd.groups()) {
         if (isInstallable(group))
             continue;
         for (const PpdOption &option : group.options) {
+            if (spokenFor.contains({kPPDChoices, option.keyword}))
+                continue;
             // The same paper again, as it is fed by hand.
             if (option.keyword == QLatin1String("PageRegion") && !choices.contains(option.keyword))
                 continue;
@@ -153,40 +191,54 @@ void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, JobWords &
     }
 }
 
-// Entries of the print settings that are not the host's own.
-int panelEntries(const TicketFile &ticket)
+// Entries of the print settings that are not the host's own, and that nobody has words for.
+int wordlessEntries(const Ticket &printSettings, const TicketPlaces &spokenFor)
 {
-    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMPageRangesKey, kPMJobNameKey};
-    return static_cast<int>(
-        std::count_if(ticket.printSettings.entries.begin(), ticket.printSettings.entries.end(),
-                      [](const auto &entry) { return !own.contains(entry.first); }));
+    std::set<QString> keys;
+    for (const TicketPlace &place : spokenFor) {
+        if (place.first() == kPMPrintSettingsTicket)
+            keys.insert(place[1]);
+    }
+    return static_cast<int>(std::count_if(
+        printSettings.entries.begin(), printSettings.entries.end(), [&keys](const auto &entry) {
+            return !isHostEntry(entry.first) && !keys.contains(entry.first);
+        }));
 }
 
 } // namespace
 
+QStringList entriesInWords(const JobDescription &description)
+{
+    QStringList lines;
+    for (const DescribedSetting &setting : description.settings) {
+        if (isEntry(setting.place) && !setting.isDefault)
+            lines << lineOf(setting);
+    }
+    return lines;
+}
+
 JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, const PpdFile *ppd,
-                     const SecretKeys &keys, const std::vector<EntryWords> &entryWords,
+                     const SecretKeys &keys, const JobDescription &description,
                      const QStringList &missing)
 {
+    const bool isRead = readsTickets(ppd);
+    const TicketPlaces spoken = spokenFor(description);
     JobWords words;
     addHostSettings(settings, ppd, words);
-
+    addDescribed(description, isRead, words);
     if (ppd)
-        addPpdSettings(ticket.printSettings.ppdChoices, *ppd, words);
+        addPpdSettings(ticket.printSettings.ppdChoices, *ppd, spoken, words);
     for (const QString &setting : missing)
         words.notSent << setting + QStringLiteral(" – ") + whyNotSent(ppd);
+    QStringList unread = isRead ? QStringList() : entriesInWords(description);
+    // That there are others is said, too: only the ticket says what.
+    if (const int count = wordlessEntries(ticket.printSettings, spoken); count > 0)
+        (isRead ? words.settings : unread)
+            << QStringLiteral("%1 that the device panels add (see Ticket)")
+                   .arg(counted(count, "entry", "entries"));
+    for (const QString &entry : std::as_const(unread))
+        words.notSent << entry + QStringLiteral(" – this printer reads no tickets");
     const TicketFile shown = masked(ticket, keys);
-    QStringList entries = entriesInWords(shown.printSettings, entryWords);
-    // Of the others only the panels know what they say; that they are there is said.
-    if (const int count = panelEntries(ticket); count > 0)
-        entries << QStringLiteral("%1 that the device panels add (see Ticket)")
-                       .arg(counted(count, "entry", "entries"));
-    if (readsTickets(ppd)) {
-        words.settings += entries;
-    } else {
-        for (const QString &entry : entries)
-            words.notSent << entry + QStringLiteral(" – this printer reads no tickets");
-    }
     words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);
     return words;
 }

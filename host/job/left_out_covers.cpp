@@ -2,19 +2,14 @@
 
 namespace kelvo {
 
-void LeftOutCovers::look(const SpecialSheetKeys &keys, const PPDDictionary &choices,
-                         const PpdFile *ppd, const QString &place)
+void LeftOutCovers::look(const SpecialSheets &sheets, const QString &place)
 {
-    const std::array<const SpecialSheetKeys::Cover *, 2> covers{&keys.frontCover, &keys.backCover};
+    const std::array covers{sheets.frontCover, sheets.backCover};
     for (std::size_t i = 0; i < covers.size(); ++i) {
-        const SpecialSheetKeys::Cover &cover = *covers[i];
         Side &side = m_sides[i];
-        const PpdOption *option = ppd ? ppd->findOption(cover.option) : nullptr;
-        // Without a choice the device does what it does by default, and that may be a cover.
-        const bool needsChoice = option && option->defaultChoice == cover.none;
-        if (needsChoice && !choices.contains(cover.option))
+        if (covers[i] == SpecialSheets::Cover::Unsaid)
             side = {Cover::LeftOut, place};
-        else if (!needsChoice || choices.value(cover.option) != cover.none)
+        else if (covers[i] == SpecialSheets::Cover::Sheet)
             side = {};
         else if (side.cover == Cover::LeftOut)
             // In the same place the user has taken the cover away.

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "special_sheets.h"
+#include "job_description.h"
+
+#include <QString>
 
 #include <array>
 
@@ -14,8 +16,7 @@ class LeftOutCovers
 public:
     // Looks at what all panels have written. `place` is where the user is among the
     // panels, in any form that differs from place to place.
-    void look(const SpecialSheetKeys &keys, const PPDDictionary &choices, const PpdFile *ppd,
-              const QString &place);
+    void look(const SpecialSheets &sheets, const QString &place);
     void forget(); // the settings are others
 
     enum class Cover { None, LeftOut, Gone };

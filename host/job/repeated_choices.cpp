@@ -4,18 +4,12 @@
 
 namespace kelvo {
 
-RepeatedChoices repeatedChoicesOf(const Bundle *bundle)
+RepeatedChoices repeatedChoicesIn(const JobDescription &description)
 {
     RepeatedChoices repeated;
-    if (!bundle)
-        return repeated;
-    const Dictionary options =
-        dictionary(bundle->info(), QStringLiteral("KelvoRepeatedChoices")).value_or(Dictionary());
-    for (auto option = options.cbegin(); option != options.cend(); ++option) {
-        for (const QVariant &key : array(option.value()).value_or(Array())) {
-            if (const auto text = string(key))
-                repeated[option.key()] << *text;
-        }
+    for (const DescribedSetting &setting : description.settings) {
+        if (setting.place.first() == kPPDChoices && !setting.repeats.isEmpty())
+            repeated.insert(setting.place[1], setting.repeats);
     }
     return repeated;
 }

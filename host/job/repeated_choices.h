@@ -1,19 +1,17 @@
 #pragma once
 
-#include "bundle.h"
-#include "ticket.h"
+#include "job_description.h"
 
 #include <QMap>
 #include <QStringList>
 
-// A PPD choice that the panels also keep in entries of their own, as the bundle's
-// Info.plist names them. Panels read the entry first, so whoever sets such a
-// choice from outside (an option of the command line, the way out of a conflict)
-// takes the entries away, or the choice would not last.
+// A PPD choice that the panels also keep in entries of their own. Panels read the
+// entry first, so whoever sets such a choice from outside (an option of the command
+// line, the way out of a conflict) takes the entries away, or the choice would not last.
 namespace kelvo {
 
-using RepeatedChoices = QMap<QString, QStringList>;      // option → keys of the print settings
-RepeatedChoices repeatedChoicesOf(const Bundle *bundle); // empty for null
+using RepeatedChoices = QMap<QString, QStringList>; // option → keys of the print settings
+RepeatedChoices repeatedChoicesIn(const JobDescription &description);
 
 // Removes the entries that repeat one of `choices`, whatever they say.
 void dropRepeats(Ticket &printSettings, const PPDDictionary &choices,

@@ -15,7 +15,7 @@ SheetSequence::SheetSequence(int pages, bool twoSided, const SpecialSheets &spec
             add({.kind = Insert, .sheets = insert->sheets, .page = page}, 1, insert->sheets);
     };
 
-    if (special.hasFrontCover)
+    if (special.frontCover == SpecialSheets::Cover::Sheet)
         add({.kind = FrontCover}, 1, 1);
     addInserts(0);
     auto exception = special.exceptions.cbegin();
@@ -39,7 +39,7 @@ SheetSequence::SheetSequence(int pages, bool twoSided, const SpecialSheets &spec
         addInserts(last);
         page = last + 1;
     }
-    if (special.hasBackCover)
+    if (special.backCover == SpecialSheets::Cover::Sheet)
         add({.kind = BackCover, .page = pages}, 1, 1);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "special_sheets.h"
+#include "job_description.h"
 
 #include <QList>
 

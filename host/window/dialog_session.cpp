@@ -1,6 +1,7 @@
 #include "dialog_session.h"
 
 #include "cautions.h"
+#include "job_words.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
 #include "secrets.h"
@@ -25,10 +26,8 @@ DialogSession::DialogSession(DialogOptions options, QWidget *panesParent, QObjec
     , m_options(std::move(options))
     , m_panesParent(panesParent)
     , m_secretKeys(secretKeysOf(m_options.bundle))
-    , m_repeatedChoices(repeatedChoicesOf(m_options.bundle))
-    , m_entryWords(entryWordsOf(m_options.bundle))
+    , m_describer(m_options.bundle)
     , m_session(std::make_unique<PrintSession>())
-    , m_asked(m_repeatedChoices)
 {
     if (!m_options.document)
         m_documentProblem = tr("There is no document to print.");
@@ -292,7 +291,8 @@ void DialogSession::begin()
     m_session->setPrinter({m_printerName, m_ppd ? m_ppd->path() : QString()});
     nameJob();
     const TicketFile defaults = queueDefaults();
-    m_asked.beginOn(defaults);
+    m_repeatedChoices = m_describer.repeatedChoices(m_ppd.get());
+    m_asked.beginOn(defaults, m_repeatedChoices);
     if (const auto asked = m_hasBegun ? Result<void>() : askFirst(); !asked) {
         emit refused(ExitStatus::NotOffered, asked.error().text());
         return;
@@ -475,21 +475,11 @@ void DialogSession::takeAsUnchanged()
     m_asked.takeAsUnchanged(ticketFileFrom(*m_session));
 }
 
-SpecialSheetsReader &DialogSession::specialSheetsReader()
+const JobDescription &DialogSession::description()
 {
-    if (!m_specialSheets)
-        m_specialSheets.emplace(specialSheetKeysOf(m_options.bundle));
-    return *m_specialSheets;
-}
-
-const SpecialSheets &DialogSession::specialSheets()
-{
-    return specialSheetsReader().read(m_session->printSettings(), m_ppd.get());
-}
-
-const SpecialSheetKeys &DialogSession::specialSheetKeys()
-{
-    return specialSheetsReader().keys();
+    m_describer.describe(m_session->printSettings(), m_session->pageFormat(), m_ppd.get(),
+                         m_description);
+    return m_description;
 }
 
 QStringList DialogSession::missing() const
@@ -497,10 +487,14 @@ QStringList DialogSession::missing() const
     return missingOnDevice(m_asked.asked(), m_ppd.get());
 }
 
-QStringList DialogSession::untold() const
+QStringList DialogSession::untold()
 {
-    return readsTickets(m_ppd.get()) ? QStringList()
-                                     : entriesInWords(m_asked.asked().printSettings, m_entryWords);
+    if (readsTickets(m_ppd.get()))
+        return {};
+    const TicketFile asked = m_asked.asked();
+    JobDescription description;
+    m_describer.describe(asked.printSettings, asked.pageFormat, m_ppd.get(), description);
+    return entriesInWords(description);
 }
 
 ConflictReport DialogSession::conflicts()

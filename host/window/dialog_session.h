@@ -5,16 +5,14 @@
 #include "command_line.h"
 #include "conflicts.h"
 #include "document.h"
-#include "entry_words.h"
 #include "exit_status.h"
 #include "extension.h"
+#include "job_describer.h"
 #include "job_settings.h"
 #include "ppd_file.h"
 #include "presets.h"
 #include "printers.h"
-#include "repeated_choices.h"
 #include "secret_keys.h"
-#include "special_sheets.h"
 #include "ticket_file.h"
 
 #include <QObject>
@@ -92,13 +90,11 @@ public:
     const std::shared_ptr<PpdFile> &ppd() const { return m_ppd; } // null: none
     Extension *panels();                                          // null: none
     const SecretKeys &secretKeys() const { return m_secretKeys; }
-    const std::vector<EntryWords> &entryWords() const { return m_entryWords; }
-    // Covers, inserts and exception pages as the ticket stands. Not asked for before the
-    // first frame, which needs none of it.
-    const SpecialSheets &specialSheets();
-    const SpecialSheetKeys &specialSheetKeys();
+    // What the job means as its tickets stand, in words and sheets. Not asked for before
+    // the first frame, which needs none of it. Stage::Ready; until the next call.
+    const JobDescription &description();
     QStringList missing() const; // what is asked for and this printer lacks, in words
-    QStringList untold() const;  // and what only a ticket says, where it reads none
+    QStringList untold();        // and what only a ticket says, where it reads none
 
     bool isDocumentPending() const { return m_document.isNull() && m_documentProblem.isEmpty(); }
     const Document &document() const { return m_document; }              // null: not (yet) there
@@ -164,7 +160,6 @@ private:
     TicketFile firstWrites();
     void settle();
     void sync(SyncDirection direction);
-    SpecialSheetsReader &specialSheetsReader();
     void beginPanels();
     QString whyPanelsDidNotBegin(const Error &error) const;
     void endPanels();
@@ -190,9 +185,9 @@ private:
 
     PresetStore m_presets;
     SecretKeys m_secretKeys;
-    RepeatedChoices m_repeatedChoices;
-    std::vector<EntryWords> m_entryWords;
-    std::optional<SpecialSheetsReader> m_specialSheets; // made when it is first asked
+    JobDescriber m_describer;
+    RepeatedChoices m_repeatedChoices; // of this printer
+    JobDescription m_description;      // as it was last asked for
     std::unique_ptr<PrintSession> m_session;
     std::unique_ptr<Extension> m_extension; // made once, begun for each printer
     QString m_extensionProblem;             // why it cannot be loaded

@@ -31,7 +31,7 @@ public:
         Orientation orientation = Orientation::Portrait;
         bool twoSided = false;
         SpecialSheets special;
-        SpecialSheetKeys words; // what they are called
+        SpecialSheetWords words; // what they are called
     };
     void setDocument(const Document &document);
     void setLayout(const Layout &layout);

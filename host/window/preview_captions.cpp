@@ -14,19 +14,19 @@ QString tr(const char *text)
 
 } // namespace
 
-QString sideCaption(const SheetSide &side, int page, int count, const SpecialSheetKeys &words)
+QString sideCaption(const SheetSide &side, int page, int count, const SpecialSheetWords &words)
 {
     const QString sheet = QString::number(side.sheet);
     switch (side.kind) {
     case SheetSide::Kind::FrontCover:
-        return tr("Sheet %1 · %2").arg(sheet, words.frontCover.label);
+        return tr("Sheet %1 · %2").arg(sheet, words.frontCover);
     case SheetSide::Kind::BackCover:
-        return tr("Sheet %1 · %2").arg(sheet, words.backCover.label);
+        return tr("Sheet %1 · %2").arg(sheet, words.backCover);
     case SheetSide::Kind::Insert:
         if (side.sheets == 1)
-            return tr("Sheet %1 · %2").arg(sheet, words.inserts.label);
+            return tr("Sheet %1 · %2").arg(sheet, words.insert);
         return tr("Sheets %1–%2 · %3")
-            .arg(sheet, QString::number(side.sheet + side.sheets - 1), words.inserts.label);
+            .arg(sheet, QString::number(side.sheet + side.sheets - 1), words.insert);
     case SheetSide::Kind::BlankBack:
         return tr("Sheet %1, back · blank").arg(sheet);
     case SheetSide::Kind::Page:
@@ -38,7 +38,7 @@ QString sideCaption(const SheetSide &side, int page, int count, const SpecialShe
     return text.arg(sheet).arg(page).arg(count);
 }
 
-QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetKeys &words)
+QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetWords &words)
 {
     if (side.kind != SheetSide::Kind::Page)
         return {};
@@ -47,23 +47,23 @@ QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetKeys 
         const QString pages = side.exceptionFirst == side.exceptionLast
             ? QString::number(side.exceptionFirst)
             : tr("%1–%2").arg(side.exceptionFirst).arg(side.exceptionLast);
-        remarks << QString(words.exceptions.label).replace(QStringLiteral("%1"), pages);
+        remarks << QString(words.exception).replace(QStringLiteral("%1"), pages);
     }
     if (isCut)
         remarks << tr("larger than the paper");
     return remarks.join(QStringLiteral(" · "));
 }
 
-QString sheetWords(const SheetSide &side, const SpecialSheetKeys &words)
+QString sheetWords(const SheetSide &side, const SpecialSheetWords &words)
 {
     switch (side.kind) {
     case SheetSide::Kind::FrontCover:
-        return words.frontCover.label;
+        return words.frontCover;
     case SheetSide::Kind::BackCover:
-        return words.backCover.label;
+        return words.backCover;
     case SheetSide::Kind::Insert:
-        return side.sheets == 1 ? words.inserts.label
-                                : tr("%1, %2 sheets").arg(words.inserts.label).arg(side.sheets);
+        return side.sheets == 1 ? words.insert
+                                : tr("%1, %2 sheets").arg(words.insert).arg(side.sheets);
     case SheetSide::Kind::BlankBack:
         return tr("Blank");
     case SheetSide::Kind::Page:

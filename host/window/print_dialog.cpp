@@ -2,6 +2,7 @@
 
 #include "caution_bar.h"
 #include "control.h"
+#include "device_offers.h"
 #include "document_preview.h"
 #include "focus_regions.h"
 #include "help_window.h"
@@ -425,8 +426,9 @@ void PrintDialog::updatePreview()
     if (const auto &ppd = m_session->ppd())
         layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());
     layout.twoSided = isTwoSided();
-    layout.special = m_session->specialSheets();
-    layout.words = m_session->specialSheetKeys();
+    const JobDescription &job = m_session->description();
+    layout.special = job.sheets;
+    layout.words = job.sheetWords;
     m_preview->setLayout(layout);
 }
 
@@ -447,7 +449,7 @@ void PrintDialog::updateFoot()
         m_printer->setPagesProblem(m_printer->arePagesMissing() ? QString() : problem);
         if (runs && problem.isEmpty()) {
             const int pages = pageCount(runs.value());
-            const SheetSequence sequence(pages, isTwoSided(), m_session->specialSheets());
+            const SheetSequence sequence(pages, isTwoSided(), m_session->description().sheets);
             text = shortSummary(m_session->ticket(), settings, pages, sequence.sheets(),
                                 m_session->secretKeys());
         } else {
@@ -550,9 +552,7 @@ JobWords PrintDialog::words()
     m_session->writeAll();
     JobWords words =
         describeJob(m_session->ticket(), m_session->settings(), m_session->ppd().get(),
-                    m_session->secretKeys(), m_session->entryWords(), m_session->missing());
-    if (Extension *panels = m_session->panels())
-        words.settings += panels->summary();
+                    m_session->secretKeys(), m_session->description(), m_session->missing());
     findCautions();
     if (m_options.document && !m_session->documentProblem().isEmpty())
         words.cautions << m_session->documentProblem();

@@ -42,9 +42,8 @@ void SessionCautions::look(const QString &place)
     if (const QString remark = m_session.document().remark(); !remark.isEmpty())
         add(Caution{.text = remark});
     if (m_session.panels()) {
-        const SpecialSheetKeys &keys = m_session.specialSheetKeys();
-        m_covers.look(keys, m_session.tickets().printSettings().ppdChoices, m_session.ppd().get(),
-                      place);
+        const JobDescription &job = m_session.description();
+        m_covers.look(job.sheets, place);
         const auto addCover = [&](LeftOutCovers::Cover cover, const QString &text) {
             using enum LeftOutCovers::Cover;
             if (cover == LeftOut)
@@ -52,8 +51,8 @@ void SessionCautions::look(const QString &place)
             else if (cover == Gone)
                 add(Caution{.text = text, .items = {text}, .hasHappened = true});
         };
-        addCover(m_covers.front(), keys.frontCover.leftOut);
-        addCover(m_covers.back(), keys.backCover.leftOut);
+        addCover(m_covers.front(), job.sheetWords.frontCoverLeftOut);
+        addCover(m_covers.back(), job.sheetWords.backCoverLeftOut);
     }
     add(missingCaution(m_session.missing(), m_session.ppd() != nullptr));
     add(untoldCaution(m_session.untold()));

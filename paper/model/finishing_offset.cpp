@@ -5,6 +5,15 @@
 
 namespace kelvo {
 
+constexpr SettingMap OffsetMap[] = {
+    {"No Offset", kOffsetNone},
+    {"Offset Sets", kOffsetSets},
+    {"Offset Subsets", kOffsetSubsets},
+    {"Offset Sets and Subsets", kOffsetBoth},
+    kEndOfMap,
+};
+static_assert(isWellFormed(OffsetMap) && valuesAreDistinct(OffsetMap));
+
 namespace {
 
 bool dividesSets(std::int32_t offset)

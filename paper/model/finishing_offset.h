@@ -1,6 +1,7 @@
 #pragma once
 
 #include "finishing.h"
+#include "setting_map.h"
 
 #include <QString>
 
@@ -10,6 +11,8 @@
 // The rules of the offset dialog: which sets, and which parts of them, the
 // device moves aside.
 namespace kelvo {
+
+extern const SettingMap OffsetMap[]; // of kOffset…, in menu order
 
 inline constexpr int kMostPagesPerSubset = 99'999;
 

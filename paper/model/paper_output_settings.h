@@ -6,6 +6,7 @@
 #include "job_types.h"
 #include "long_date.h"
 #include "saved_job.h"
+#include "setting_maps.h"
 #include "stock.h"
 #include "ticket.h"
 #include "values.h"
@@ -44,7 +45,6 @@
 namespace kelvo {
 
 inline constexpr std::int32_t kBookletOn = 1, kBookletOff = 2; // EnabledDisabledMap
-inline constexpr std::int32_t kPlexSimplex = 1, kPlexDuplex = 2, kPlexDuplexShort = 3; // PlexMap
 
 // What the booklet dialog is handed and gives back.
 struct BookletLayout

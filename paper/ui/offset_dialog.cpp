@@ -26,15 +26,6 @@ constexpr ControlID kSubsets{kPanelSignature, 8103};
 constexpr ControlID kPagesPerSubset{kPanelSignature, 8104};
 constexpr ControlID kHint{kPanelSignature, 8105};
 
-constexpr SettingMap OffsetMap[] = {
-    {"No Offset", kOffsetNone},
-    {"Offset Sets", kOffsetSets},
-    {"Offset Subsets", kOffsetSubsets},
-    {"Offset Sets and Subsets", kOffsetBoth},
-    kEndOfMap,
-};
-static_assert(isWellFormed(OffsetMap) && valuesAreDistinct(OffsetMap));
-
 struct OffsetDialog
 {
     CFBundleRef bundle = nullptr;

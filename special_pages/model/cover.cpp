@@ -4,22 +4,16 @@
 
 namespace kelvo {
 
-namespace {
-
-const QString sidesImagedKey = QStringLiteral("SidesImaged");
-
-} // namespace
-
 Cover::Cover(const Dictionary &dictionary)
     : SpecialPage(dictionary)
-    , m_sidesImaged(integer32(dictionary, sidesImagedKey).value_or(kCoverBlank))
+    , m_sidesImaged(integer32(dictionary, kSidesImagedKey).value_or(kCoverBlank))
 {
 }
 
 Dictionary Cover::asTicket() const
 {
     Dictionary dictionary = SpecialPage::asTicket();
-    WriteTicketValue(dictionary, sidesImagedKey, m_sidesImaged);
+    WriteTicketValue(dictionary, kSidesImagedKey, m_sidesImaged);
     return dictionary;
 }
 

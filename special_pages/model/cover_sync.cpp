@@ -10,7 +10,6 @@ namespace {
 
 const QString frontOption = QStringLiteral("KVFrontCoverSheet");
 const QString backOption = QStringLiteral("KVBackCoverSheet");
-const QString noCover = QStringLiteral("None"); // has no ticket value
 
 std::optional<bool> bookletLayout(const Ticket &ticket)
 {
@@ -21,7 +20,8 @@ std::optional<bool> bookletLayout(const Ticket &ticket)
 // it would be fed from there all the same.
 void writeSource(Ticket &ticket, const QString &option, const std::optional<Cover> &cover)
 {
-    const auto choice = cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : noCover;
+    const auto choice =
+        cover ? PPDChoiceForTicketValue(option, cover->stock().source()) : kNoCoverChoice;
     if (choice)
         PPDSetCurrentChoice(ticket, option, choice);
     else

@@ -15,6 +15,9 @@
 // missing back cover is written as none, and read as a copy of the front.
 namespace kelvo {
 
+// The choice of KVFrontCoverSheet and KVBackCoverSheet for no cover; it has no ticket value.
+inline const QString kNoCoverChoice = QStringLiteral("None");
+
 void readCovers(std::optional<Cover> &front, std::optional<Cover> &back,
                 const Ticket &printSettings, const Device &device);
 void writeCovers(const std::optional<Cover> &front, const std::optional<Cover> &back,

@@ -6,8 +6,6 @@ namespace kelvo {
 
 namespace {
 
-const QString endPageKey = QStringLiteral("EndPage");
-const QString plexKey = QStringLiteral("SidesImaged");
 const QString halftoneScreenKey = QStringLiteral("HalftoneScreen");
 const QString lightenDarkenKey = QStringLiteral("LightenDarken");
 const QString imageShiftKey = QStringLiteral("com.kelvo.print.ImageShiftOptionsPage");
@@ -22,8 +20,8 @@ void writeIfSet(Dictionary &dictionary, const QString &key, std::int32_t number)
 
 ExceptionPage::ExceptionPage(const Dictionary &dictionary)
     : SpecialPage(dictionary)
-    , m_endPage(integer32(dictionary, endPageKey).value_or(0))
-    , m_plex(integer32(dictionary, plexKey).value_or(kUnset))
+    , m_endPage(integer32(dictionary, kEndPageKey).value_or(0))
+    , m_plex(integer32(dictionary, kSidesImagedKey).value_or(kUnset))
     , m_lightenDarken(integer32(dictionary, lightenDarkenKey).value_or(kUnset))
 {
     ImageShiftInitialize(nullptr, nullptr, &m_imageShift);
@@ -34,8 +32,8 @@ ExceptionPage::ExceptionPage(const Dictionary &dictionary)
 Dictionary ExceptionPage::asTicket() const
 {
     Dictionary dictionary = SpecialPage::asTicket();
-    WriteTicketValue(dictionary, endPageKey, m_endPage);
-    writeIfSet(dictionary, plexKey, m_plex);
+    WriteTicketValue(dictionary, kEndPageKey, m_endPage);
+    writeIfSet(dictionary, kSidesImagedKey, m_plex);
     writeIfSet(dictionary, halftoneScreenKey, m_halftoneScreen);
     writeIfSet(dictionary, lightenDarkenKey, m_lightenDarken);
     if (const auto imageShift =

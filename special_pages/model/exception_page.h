@@ -5,6 +5,8 @@
 
 namespace kelvo {
 
+inline const QString kEndPageKey = QStringLiteral("EndPage"); // of the dictionary form
+
 // Pages startPage() to endPage(), both included, that are printed in another way
 // than the job. What is not set is as the job says. Its dictionary form adds
 //   EndPage         integer     missing or no number: 0

@@ -4,22 +4,16 @@
 
 namespace kelvo {
 
-namespace {
-
-const QString quantityKey = QStringLiteral("Quantity");
-
-} // namespace
-
 Insert::Insert(const Dictionary &dictionary)
     : SpecialPage(dictionary)
-    , m_quantity(integer32(dictionary, quantityKey).value_or(1))
+    , m_quantity(integer32(dictionary, kQuantityKey).value_or(1))
 {
 }
 
 Dictionary Insert::asTicket() const
 {
     Dictionary dictionary = SpecialPage::asTicket();
-    WriteTicketValue(dictionary, quantityKey, m_quantity);
+    WriteTicketValue(dictionary, kQuantityKey, m_quantity);
     return dictionary;
 }
 

@@ -4,6 +4,8 @@
 
 namespace kelvo {
 
+inline const QString kQuantityKey = QStringLiteral("Quantity"); // of the dictionary form
+
 // Sheets put in between: `quantity` of them after page startPage(); 0 is before
 // page 1. Its dictionary form adds
 //   Quantity   integer  sheets; missing or no number: 1

@@ -2,11 +2,12 @@
 
 #include "ticket_values.h"
 
+#include <atomic>
+
 namespace kelvo {
 
 namespace {
 
-const QString startPageKey = QStringLiteral("StartPage");
 const QString stockKey = QStringLiteral("Stock");
 
 Stock stockFrom(const std::optional<Dictionary> &dictionary)
@@ -17,7 +18,7 @@ Stock stockFrom(const std::optional<Dictionary> &dictionary)
 } // namespace
 
 SpecialPage::SpecialPage(const Dictionary &dictionary)
-    : m_startPage(integer32(dictionary, startPageKey).value_or(0))
+    : m_startPage(integer32(dictionary, kStartPageKey).value_or(0))
     , m_stock(stockFrom(kelvo::dictionary(dictionary, stockKey)))
 {
 }
@@ -37,14 +38,14 @@ SpecialPage &SpecialPage::operator=(const SpecialPage &other)
 
 std::uint64_t SpecialPage::newIdentity()
 {
-    static std::uint64_t last = 0;
+    static std::atomic<std::uint64_t> last = 0;
     return ++last;
 }
 
 Dictionary SpecialPage::asTicket() const
 {
     Dictionary dictionary;
-    WriteTicketValue(dictionary, startPageKey, m_startPage);
+    WriteTicketValue(dictionary, kStartPageKey, m_startPage);
     dictionary.insert(stockKey, m_stock.asTicket());
     return dictionary;
 }

@@ -8,8 +8,12 @@
 
 namespace kelvo {
 
+// Keys of dictionary forms; the sides are those of covers and of exception pages.
+inline const QString kStartPageKey = QStringLiteral("StartPage");
+inline const QString kSidesImagedKey = QStringLiteral("SidesImaged");
+
 // A sheet of the job that is not like the others: its place and its paper. Pages are
-// told apart by identity, on the GUI thread alone: a copy is another page.
+// told apart by identity: a copy is another page.
 //
 // Dictionary form:
 //   StartPage   integer     missing or no number: 0

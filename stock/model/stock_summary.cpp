@@ -13,10 +13,9 @@ namespace {
 const QString bullet = QStringLiteral("- ");
 
 // The PPD's text of the choice with that value; empty when it has none.
-QString choiceText(const char *option, std::int32_t value)
+QString choiceText(const PpdFile *ppd, const char *option, std::int32_t value)
 {
-    return PPDCopyTextForTicketValue(PPDGetCurrent(), QString::fromLatin1(option), value)
-        .value_or(QString());
+    return PPDCopyTextForTicketValue(ppd, QString::fromLatin1(option), value).value_or(QString());
 }
 
 QString labelled(CFBundleRef bundle, const char *labelKey, const QString &text)
@@ -34,34 +33,39 @@ QString withModulus(const QString &name, std::int32_t modulus)
 
 QString stockSizeText(const Stock &stock)
 {
-    return choiceText("PageSize", stock.size());
+    return choiceText(PPDGetCurrent(), "PageSize", stock.size());
 }
 
 QString stockColorText(const Stock &stock)
 {
-    return stock.color() == kStockColorCustom ? stock.customColor()
-                                              : choiceText("MediaColor", stock.color());
+    return stock.color() == kStockColorCustom
+        ? stock.customColor()
+        : choiceText(PPDGetCurrent(), "MediaColor", stock.color());
 }
 
 QString stockTypeText(CFBundleRef bundle, const Stock &stock)
+{
+    return stockTypeText(Device{.bundle = bundle, .ppd = PPDGetCurrent()}, stock);
+}
+
+QString stockTypeText(const Device &device, const Stock &stock)
 {
     switch (stock.type()) {
     case kStockTypeOrdered:
         return withModulus(stock.customType(), stock.modulus());
     case kStockTypePrecutTab:
-        return withModulus(localizedText(bundle, QStringLiteral("StockTypePrecutTab")),
-                           stock.modulus());
+        return withModulus(device.text("StockTypePrecutTab"), stock.modulus());
     case kStockTypeTab:
     case kStockTypeHeavyTab:
         if (stock.modulus() > 0)
-            return withModulus(choiceText("MediaType", stock.type()), stock.modulus());
+            return withModulus(choiceText(device.ppd, "MediaType", stock.type()), stock.modulus());
         break;
     case kStockTypeCustom:
         return stock.customType();
     default:
         break;
     }
-    return choiceText("MediaType", stock.type());
+    return choiceText(device.ppd, "MediaType", stock.type());
 }
 
 QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const Stock &stock,

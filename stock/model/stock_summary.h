@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bundle.h"
+#include "device.h"
 #include "stock.h"
 
 #include <QString>
@@ -23,7 +24,8 @@ QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const St
 // does not have.
 QString stockSizeText(const Stock &stock);
 QString stockColorText(const Stock &stock);
-QString stockTypeText(CFBundleRef bundle, const Stock &stock); // "Precut tab (5)"
+QString stockTypeText(const Device &device, const Stock &stock); // "Precut tab (5)"
+QString stockTypeText(CFBundleRef bundle, const Stock &stock);   // of the current device
 
 // What a summary view shows for it: the lines, or where there are none "printer
 // default" (the job) or "use job setting". Empty for null.

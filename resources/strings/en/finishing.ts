@@ -345,5 +345,23 @@
         <source>Separator Color Hint</source>
         <translation>Changes the picture only. The color of the separators is that of the paper in the source.</translation>
     </message>
+
+    <!-- What print dialogs say of a job -->
+    <message>
+        <source>Offset with Subsets in Words</source>
+        <translation>%1, %2 pages per subset</translation>
+    </message>
+    <message>
+        <source>Slip Sheets in Words</source>
+        <translation>Slip sheets:</translation>
+    </message>
+    <message>
+        <source>Booklet in Words</source>
+        <translation>gutter %1 pt, creep %2</translation>
+    </message>
+    <message>
+        <source>Booklet with Borders in Words</source>
+        <translation>gutter %1 pt, creep %2, page borders</translation>
+    </message>
 </context>
 </TS>

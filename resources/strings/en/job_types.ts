@@ -135,5 +135,27 @@
         <source>Saved Job Passcode Hint</source>
         <translation>OK needs %1 to %2 digits, or none: then a passcode is made for you.</translation>
     </message>
+
+    <!-- What print dialogs say of a job -->
+    <message>
+        <source>Passcode in Words</source>
+        <translation>Passcode:</translation>
+    </message>
+    <message>
+        <source>Passcode Is Set</source>
+        <translation>is set</translation>
+    </message>
+    <message>
+        <source>Mailbox in Words</source>
+        <translation>Mailbox:</translation>
+    </message>
+    <message>
+        <source>Fax Recipients in Words</source>
+        <translation>Fax recipients:</translation>
+    </message>
+    <message>
+        <source>Credit Card in Words</source>
+        <translation>Credit card:</translation>
+    </message>
 </context>
 </TS>

@@ -91,5 +91,15 @@
         <source>Fax Setup Not Available Message</source>
         <translation>This version of the Corvane panels cannot edit fax recipients. Recipients that a ticket or preset brings are kept, and the job is sent to them.</translation>
     </message>
+
+    <!-- What print dialogs say of a job -->
+    <message>
+        <source>Paper Name in Words</source>
+        <translation>Paper name:</translation>
+    </message>
+    <message>
+        <source>Paper Properties in Words</source>
+        <translation>Paper properties:</translation>
+    </message>
 </context>
 </TS>

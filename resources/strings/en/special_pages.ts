@@ -308,7 +308,7 @@
         <translation>Yes</translation>
     </message>
 
-    <!-- What print dialogs say of special pages (Info.plist) -->
+    <!-- What print dialogs say of special pages -->
     <message>
         <source>Inserts in Words</source>
         <translation>Inserts:</translation>
@@ -316,6 +316,14 @@
     <message>
         <source>Exception Pages in Words</source>
         <translation>Exception pages:</translation>
+    </message>
+    <message>
+        <source>No Page in Words</source>
+        <translation>%1 (no page)</translation>
+    </message>
+    <message>
+        <source>More Pages in Words</source>
+        <translation>%1 and %2 more</translation>
     </message>
     <message>
         <source>Insert in Preview</source>

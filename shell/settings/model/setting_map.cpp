@@ -64,6 +64,15 @@ const char *LocalizedKeyForTicketValue(const SettingMap *map, std::int32_t value
     return row ? row->localizedKey : nullptr;
 }
 
+const char *keyOfValue(const SettingMap *map, std::int32_t value)
+{
+    for (const SettingMap *row = map; row && row->localizedKey; ++row) {
+        if (row->ticketValue == value)
+            return row->localizedKey;
+    }
+    return nullptr;
+}
+
 std::int16_t PopulateMenuFromMap(CFBundleRef bundle, Menu &menu, const SettingMap *map,
                                  JobContext jobContext, OSType commandOverride)
 {

@@ -75,6 +75,8 @@ std::int32_t UIToTicket(const SettingMap *map, int index);
 int TicketToUI(const SettingMap *map, std::int32_t value);
 // The row's key, not localized, found as above; null when there is none.
 const char *LocalizedKeyForTicketValue(const SettingMap *map, std::int32_t value);
+// The key of `value` on whatever device, for tickets of any; null when the map lacks it.
+const char *keyOfValue(const SettingMap *map, std::int32_t value);
 
 // Appends the rows that the installed features allow. `commandOverride`, when
 // not 0, replaces every row's command. The map becomes the menu's own

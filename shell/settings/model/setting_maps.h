@@ -41,6 +41,7 @@ extern const SettingMap SeparatorOptionMap[];
 extern const SettingMap JobTypeMap[];
 extern const SettingMap ResolutionMap[];
 extern const SettingMap PlexMap[];
+inline constexpr std::int32_t kPlexSimplex = 1, kPlexDuplex = 2, kPlexDuplexShort = 3;
 extern const SettingMap CoverSidesImagedMap[];
 
 } // namespace kelvo

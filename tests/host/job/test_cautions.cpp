@@ -113,21 +113,17 @@ void TestCautions::remembersCoversThatAreLeftOut()
 {
     QFETCH(QStringList, looks);
     QFETCH(int, last);
-    const auto ppd =
-        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
-    QVERIFY(ppd);
-    SpecialSheetKeys keys;
-    keys.backCover.option = "KVBackCoverSheet";
-    keys.backCover.none = "None";
     LeftOutCovers covers;
     for (const QString &look : looks) {
-        PPDDictionary choices;
-        if (const QString choice = look.section(u' ', 0, 0); choice != "-")
-            choices.insert(keys.backCover.option, choice);
-        covers.look(keys, choices, ppd.value().get(), look.section(u' ', 1));
+        const QString choice = look.section(u' ', 0, 0);
+        SpecialSheets sheets;
+        sheets.backCover = choice == "-" ? SpecialSheets::Cover::Unsaid
+            : choice == "None"           ? SpecialSheets::Cover::None
+                                         : SpecialSheets::Cover::Sheet;
+        covers.look(sheets, look.section(u' ', 1));
     }
     QCOMPARE(int(covers.back()), last);
-    QCOMPARE(covers.front(), Cover::None); // the device has no such option
+    QCOMPARE(covers.front(), Cover::None);
 }
 
 QTEST_GUILESS_MAIN(TestCautions)

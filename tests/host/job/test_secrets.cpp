@@ -124,19 +124,22 @@ void TestSecrets::neverStandInWords()
     QVERIFY(ppd);
     TicketFile file = ticketOf(sample);
     file.printSettings.ppdChoices = {{"StapleLocation", "DualPortrait"}, {"Glitter", "On"}};
-    const JobWords words = describeJob(file, {3, false, "2-5", "A4", Orientation::Landscape},
-                                       ppd.value().get(), {{"Job/Password", "People/*/Code"}, {}},
-                                       {{"Job/Pin", "Pin:", {{77, "the lucky one"}}},
-                                        {"Job/Name", "Name:", {{0, "none"}}},
-                                        {"Job/Pin/Deep", "Deep:", {{77, "no"}}},
-                                        {"Gone", "Gone:", {{0, "no"}}}},
-                                       {"Glitter: On"});
+    JobDescription description;
+    description.settings = {
+        {.place = {kPMPrintSettingsTicket, "Job", "Pin"}, .label = "Pin", .words = "lucky"},
+        {.place = {kPPDChoices, "Duplex"}, .label = "Sides", .words = "one", .isDefault = true}};
+    description.unspoken = {{kPPDChoices, "PageSize"}, {kPMPrintSettingsTicket, "Plain"}};
+    const JobWords words =
+        describeJob(file, {3, false, "2-5", "A4", Orientation::Landscape}, ppd.value().get(),
+                    {{"Job/Password", "People/*/Code"}, {}}, description, {"Glitter: On"});
+    // Each thing once: as it is described, else in the PPD's words, else as one of so many.
     QCOMPARE(words.settings,
              (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: Landscape",
-                          "Stapling: 2 Staples, Portrait", "Pin: the lucky one",
-                          "3 entries that the device panels add (see Ticket)"}));
+                          "Pin: lucky", "Stapling: 2 Staples, Portrait",
+                          "1 entry that the device panels add (see Ticket)"}));
+    QCOMPARE(words.defaults.filter("Sides"), QStringList{"Sides: one"});
+    QVERIFY(words.defaults.filter("Two-Sided").isEmpty() && words.defaults.filter("A4").isEmpty());
     QCOMPARE(words.notSent, QStringList{"Glitter: On – this printer does not have it"});
-    QVERIFY(words.defaults.contains("Page Size: A4 (210 × 297 mm)"));
     QVERIFY(words.ticket.contains("Plain = \"open\" (written by test)"));
     const QString text = words.asText();
     QVERIFY(text.contains("Password = \"••••\""));
@@ -192,20 +195,16 @@ void TestSecrets::wordsStayInBounds()
     Array pages;
     for (int page = 0; page < 99999; ++page)
         pages << Dictionary{{"first", page}, {"name", "two\nlines\u0007"}};
-    const JobWords words = describeJob(
-        ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}), {}, nullptr, {},
-        {{.path = "Pages", .label = "Pages:"},
-         {.path = "Pages", .label = "First:", .firstPage = "first", .lastPage = "first"}},
-        {});
-    const QString notRead = " – this printer reads no tickets";
-    QCOMPARE(words.notSent,
-             (QStringList{"Pages: 99999" + notRead,
-                          "First: 0, 1, 2, 3, 4, 5, 6, 7 and 99991 more" + notRead,
-                          "2 entries that the device panels add (see Ticket)" + notRead}));
-    const JobWords none = describeJob(
-        ticketOf({{"None", Array{Dictionary{{"first", 5}, {"last", 0}}}}}), {}, nullptr, {},
-        {{.path = "None", .label = "None:", .firstPage = "first", .lastPage = "last"}}, {});
-    QVERIFY(none.notSent.contains("None: 5 (no page)" + notRead));
+    JobDescription description;
+    description.settings = {
+        {.place = {kPMPrintSettingsTicket, "Pages"}, .label = "Pages", .words = "many"},
+        {.place = {kPMPrintSettingsTicket, "Text"},
+         .label = "Text",
+         .words = "as ever",
+         .isDefault = true}};
+    const JobWords words = describeJob(ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}),
+                                       {}, nullptr, {}, description, {});
+    QCOMPARE(words.notSent, QStringList{"Pages: many – this printer reads no tickets"});
     QCOMPARE(words.ticket.size(), 2);
     for (const QString &line : words.ticket) {
         QVERIFY(line.size() < 600);

@@ -265,8 +265,8 @@ void TestTicketLayers::presetsKeepWhatWasAskedFor()
     QFETCH(TicketFile, chosen);
     QFETCH(QList<TicketFile>, tickets);
     QFETCH(TicketFile, expected);
-    AskedSettings asked(repeated);
-    asked.beginOn(queueDefault);
+    AskedSettings asked;
+    asked.beginOn(queueDefault, repeated);
     asked.setBeginning(ticket(byPanels, panelChoices));
     asked.lay(given, Kind::Given);
     asked.lay(chosen, Kind::Chosen);
@@ -279,15 +279,15 @@ void TestTicketLayers::presetsKeepWhatWasAskedFor()
 void TestTicketLayers::settingsLiveThroughAnotherDevice()
 {
     const TicketFile plain = ticket(byPanels, panelChoices);
-    AskedSettings asked(repeated);
-    asked.beginOn(queueDefault);
+    AskedSettings asked;
+    asked.beginOn(queueDefault, repeated);
     asked.setBeginning(plain);
     asked.lay(ticket({{"x", 1}}, {{"Staple", "One"}}), Kind::Given);
     asked.settle(plain); // which drops both
     asked.take(laid(partOf({{"y", 1}}, {}, {"Choices/Bin"}), plain, {}, {}), nullptr);
 
     // The next queue has other defaults, and keeps them.
-    asked.beginOn(ticket({}, {{"Duplex", "Short"}, {"Bin", "Top"}}));
+    asked.beginOn(ticket({}, {{"Duplex", "Short"}, {"Bin", "Top"}}), {});
     QCOMPARE(asked.wanted(),
              ticket({{"x", 1}, {"y", 1}}, {{"Staple", "One"}, {"Duplex", "Short"}}));
     asked.clear();
@@ -319,8 +319,8 @@ void TestTicketLayers::onlyWhatIsSetIsAChange()
     const auto ppd =
         PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
     QVERIFY(ppd);
-    AskedSettings asked(repeated);
-    asked.beginOn({});
+    AskedSettings asked;
+    asked.beginOn({}, repeated);
     asked.setBeginning(ticket({{"a", 1}}));
     asked.settle(ticket({{"a", 1}}));
     asked.take(other, ppd.value().get());

@@ -197,12 +197,10 @@ void TestDocumentPreview::showsSpecialSheets()
     preview.resize(300, 400);
     preview.setDocument(documentOf({"", "", "", ""}));
     preview.show();
-    SpecialSheetKeys words;
-    words.frontCover.label = "Cover";
-    words.inserts.label = "Insert";
-    words.exceptions.label = "exception %1";
+    const SpecialSheetWords words{
+        .frontCover = "Cover", .insert = "Insert", .exception = "exception %1"};
     DocumentPreview::Layout layout{.paper = a4, .twoSided = true, .words = words};
-    layout.special = {true, false, {{1, 3}}, {{2, 3, false}, {4, 9, false}}};
+    layout.special = {SpecialSheets::Cover::Sheet, {}, {{1, 3}}, {{2, 3, false}, {4, 9, false}}};
     preview.setLayout(layout);
     QCOMPARE(caption(preview), "Sheet 2, front · page 1 of 4"); // as before
 
@@ -222,7 +220,7 @@ void TestDocumentPreview::showsSpecialSheets()
     for (int back = 0; back < 3; ++back)
         button(preview, "previewPrevious")->click();
     QCOMPARE(caption(preview), "Sheets 3–5 · Insert");
-    layout.special.hasFrontCover = false;
+    layout.special.frontCover = SpecialSheets::Cover::None;
     preview.setLayout(layout);
     QCOMPARE(caption(preview), "Sheets 2–4 · Insert");
     layout.special = {};

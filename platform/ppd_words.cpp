@@ -1,6 +1,6 @@
 #include "ppd_words.h"
 
-#include "job_settings.h"
+#include <algorithm>
 
 namespace kelvo {
 
@@ -34,32 +34,6 @@ QString settingWords(const QString &keyword, const QString &choice, const PpdFil
 {
     const PpdOption *option = ppd ? ppd->findOption(keyword) : nullptr;
     return option ? settingWords(*option, choice) : QStringLiteral("%1: %2").arg(keyword, choice);
-}
-
-bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice)
-{
-    const PpdOption *option = ppd.findOption(keyword);
-    if (!option)
-        return false;
-    if (isEquipment(*option, ppd))
-        return option->defaultChoice == choice;
-    if (option->findChoice(choice))
-        return true;
-    return option->keyword == QLatin1String("PageSize") && paperSize(choice, ppd);
-}
-
-bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice)
-{
-    if (ppd ? offers(*ppd, keyword, choice) : keyword == QLatin1String("PageSize"))
-        return false;
-    const bool asksForNothing = choice == QLatin1String("None") || choice == QLatin1String("False");
-    return !asksForNothing || (ppd && ppd->findOption(keyword));
-}
-
-QString whyNotSent(const PpdFile *ppd)
-{
-    return ppd ? QStringLiteral("this printer does not have it")
-               : QStringLiteral("the print server has no description of this printer");
 }
 
 bool readsTickets(const PpdFile *ppd)

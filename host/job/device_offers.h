@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ppd_file.h"
+
+#include <QString>
+
+// Whether a device has what a job asks for.
+namespace kelvo {
+
+// The option has the choice, or it is a custom page size within the PPD's limits.
+// Of equipment a job can only ask for what the printer has.
+bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice);
+// The choice asks for something that this device cannot do. "None" and "False" of
+// an option that it does not have at all ask for nothing. Without a PPD a queue is
+// told the paper, and no other choice.
+bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice);
+
+// Why a choice of the ticket is not sent: what this device lacks, or all of it where the
+// queue has no PPD.
+QString whyNotSent(const PpdFile *ppd);
+
+} // namespace kelvo

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "job_description.h"
+#include "repeated_choices.h"
+
+namespace kelvo {
+
+// Asks a bundle what a job means. The module is loaded when that is first needed: for one of
+// its devices, or for a ticket that holds more than the host's own settings. GUI thread; the
+// function that it asks may be called on any other.
+class JobDescriber
+{
+public:
+    // Borrowed; null: nothing is known, and descriptions are empty. `userFolder` is where
+    // the user's own files for the bundle are kept.
+    explicit JobDescriber(Bundle *bundle, QString userFolder = {});
+
+    // Brings `description` up to date.
+    void describe(const Ticket &printSettings, const Ticket &pageFormat, const PpdFile *ppd,
+                  JobDescription &description);
+
+    // Which choices of that device the panels also keep elsewhere.
+    RepeatedChoices repeatedChoices(const PpdFile *ppd);
+
+private:
+    bool isConcerned(const Ticket &printSettings, const PpdFile *ppd) const;
+    void findFunction();
+
+    Bundle *m_bundle;
+    QString m_userFolder;
+    DescribeJobFunction m_function = nullptr;
+    bool m_hasLooked = false;
+};
+
+// An entry of the print settings that the host itself writes.
+bool isHostEntry(const QString &key);
+
+} // namespace kelvo

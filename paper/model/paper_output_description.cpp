@@ -1,0 +1,224 @@
+#include "paper_output_description.h"
+
+#include "finishing_offset.h"
+#include "paper_output_settings.h"
+#include "ppd_choices.h"
+#include "setting_maps.h"
+#include "stock_properties.h"
+#include "stock_summary.h"
+#include "string_table.h"
+#include "ticket_values.h"
+
+#include <QLocale>
+
+namespace kelvo {
+
+namespace {
+
+// KPDE numbers of the panel's controls.
+constexpr std::int32_t jobTypePopup = 102, jobTypeSetupButton = 103;
+constexpr std::int32_t stockButton = 106;
+constexpr std::int32_t twoSidedPopup = 110;
+constexpr std::int32_t staplingPopup = 113, holePunchPopup = 116;
+constexpr std::int32_t outputColorPopup = 119;
+constexpr std::int32_t finishingButton = 123, moreFinishingButton = 128;
+constexpr std::int32_t outputDestinationPopup = 126;
+constexpr std::int32_t coversButton = 129, separatorsButton = 130;
+
+QString mapText(const Device &device, const SettingMap *map, std::int32_t value)
+{
+    const char *key = keyOfValue(map, value);
+    return key ? labelText(device, key) : QString();
+}
+
+QString jobTypeWords(const Device &device, std::int32_t jobType)
+{
+    const QString words = mapText(device, JobTypeMap, jobType);
+    return words.isEmpty() ? QString::number(jobType) : words;
+}
+
+// Said where the ticket has one, whatever the job's type: another type would find it there.
+void describePasscode(const PaperOutputSettings &settings, PanelDescription &panel)
+{
+    const bool isSet = settings.passcode && !settings.passcode->isEmpty();
+    DescribedSetting *line = panel.add(
+        "JobType/SecurePrintPassword", "Passcode in Words",
+        isSet ? panel.job().device.text("Passcode Is Set") : QString(), jobTypeSetupButton);
+    if (line)
+        line->isSecret = true;
+}
+
+void describeSavedJob(const PaperOutputSettings &settings, PanelDescription &panel)
+{
+    const Device &device = panel.job().device;
+    const SavedJob &saved = settings.savedJob;
+    const bool isSaved = settings.jobType == kJobTypeSaved;
+    const auto add = [&](const char *name, const char *labelKey, const QString &words) {
+        panel.add(name, labelKey, isSaved ? words : QString(), jobTypeSetupButton);
+    };
+    add("JobType/SavedJobName", "Job Name:", saved.usesJobName ? QString() : saved.name);
+    add("JobType/SavedJobLocation", "Mailbox in Words", mailboxText(saved));
+    add("JobType/SaveDisposition", "Save Option:",
+        device.text(saved.saveDisposition == kSaveAndPrint ? "SavePrint" : "Save").remove(u'&'));
+    add("JobType/SavedJobFormat",
+        "File Format:", mapText(device, SavedJobFormatMap, saved.fileFormat));
+}
+
+void describeFax(const PaperOutputSettings &settings, PanelDescription &panel)
+{
+    const Device &device = panel.job().device;
+    const qsizetype recipients = settings.faxRecipients ? settings.faxRecipients->size() : 0;
+    panel.add("FaxRecipientList", "Fax Recipients in Words",
+              recipients > 0 ? QString::number(recipients) : QString(), jobTypeSetupButton);
+    panel.leaveUnspoken("FaxOptions");
+    const Dictionary options = settings.faxOptions.value_or(Dictionary());
+    const bool hasCard =
+        !string(options, QStringLiteral("CreditCard")).value_or(QString()).isEmpty();
+    if (DescribedSetting *line =
+            panel.add("FaxOptions/CreditCard", "Credit Card in Words",
+                      hasCard ? device.text("Passcode Is Set") : QString(), jobTypeSetupButton))
+        line->isSecret = true;
+}
+
+void describeJobType(const PaperOutputSettings &settings, PanelDescription &panel)
+{
+    const Device &device = panel.job().device;
+    panel.add("JobType/JobType", "Job Type:", jobTypeWords(device, settings.jobType), jobTypePopup,
+              settings.jobType == kJobTypeNormal);
+    panel.add("JobType/DelayedPrintTime", "TimeToPrint:",
+              settings.jobType == kJobTypeDelayedPrint
+                  ? QLocale().toString(timeOf(settings.delayedPrintTime), QLocale::ShortFormat)
+                  : QString(),
+              jobTypeSetupButton);
+    describePasscode(settings, panel);
+    describeSavedJob(settings, panel);
+    describeFax(settings, panel);
+}
+
+// A color or type of the stock's own has no choice in any PPD, and the device's default
+// would be told in its stead.
+void describePaper(const PaperOutputSettings &settings, PanelDescription &panel)
+{
+    const DescribedJob &job = panel.job();
+    const Stock &stock = settings.jobStock;
+    panel.add("JobLevelStock/CustomName", "Paper Name in Words", stock.customName(), stockButton);
+    if (stock.color() == kStockColorCustom)
+        panel.addOwnChoice("MediaColor", stock.customColor(), stockButton);
+    else
+        panel.addChoice("MediaColor", stockButton);
+    const bool saysMore =
+        hasTypeName(stock.type()) || (hasTabs(stock.type()) && stock.modulus() > 0);
+    const QString type = saysMore ? stockTypeText(job.device, stock) : QString();
+    if (type.isEmpty())
+        panel.addChoice("MediaType", stockButton);
+    else
+        panel.addOwnChoice("MediaType", type, stockButton);
+    QStringList properties = stockPropertyLines(job.device.bundle, stock);
+    properties.replaceInStrings(QStringLiteral("- "), QString());
+    panel.add("JobLevelStock", "Paper Properties in Words", properties.join(QStringLiteral(", ")),
+              stockButton);
+}
+
+// As panels read it: their own entries rule.
+void describeSides(const PaperOutputSettings &settings, PanelDescription &panel)
+{
+    const auto choice = PPDChoiceForTicketValue(QStringLiteral("Duplex"), settings.duplex);
+    if (DescribedSetting *line = panel.addChoice("Duplex", twoSidedPopup, choice))
+        line->repeats = {ticketKey("FinishingDuplex"),
+                         QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")};
+}
+
+// The panel's own offset. It is another one than the Advanced panel's, which says
+// nothing of a job beside it.
+void describeOffset(const Finishing &finishing, PanelDescription &panel)
+{
+    const Device &device = panel.job().device;
+    const OffsetSettings offset = offsetOf(finishing);
+    const QString name = mapText(device, OffsetMap, offset.offset);
+    const bool isSet = offset.offset != kOffsetNone && !name.isEmpty();
+    const QString words = offset.hasSubsets
+        ? formatted(device.text("Offset with Subsets in Words"),
+                    {name, QLocale().toString(offset.pagesPerSubset)})
+        : name;
+    panel.add("FinishingOffset", "Offset:", isSet ? words : QString(), moreFinishingButton);
+    panel.leaveUnspoken("FinishingOffsetEnableSubset");
+    panel.leaveUnspoken("FinishingOffsetPagesPerSubset");
+    const QString ofDevice = QStringLiteral("Jog");
+    const auto choice = panel.job().printSettings.ppdChoices.value(ofDevice);
+    const PpdOption *option = device.ppd ? device.ppd->findOption(ofDevice) : nullptr;
+    if (isSet && option && (choice.isEmpty() || choice == option->defaultChoice))
+        panel.leaveChoiceUnspoken("Jog");
+}
+
+const char *bindKey(std::int32_t bind)
+{
+    switch (bind) {
+    case kBindLeft:
+        return "Bind Left Edge";
+    case kBindRight:
+        return "Bind Right Edge";
+    case kBindTop:
+        return "Bind Top Edge";
+    default:
+        return nullptr;
+    }
+}
+
+void describeFinishing(const Finishing &finishing, PanelDescription &panel)
+{
+    const Device &device = panel.job().device;
+    panel.addChoice("StapleLocation", staplingPopup);
+    panel.addChoice("KVPunch", holePunchPopup);
+    panel.addChoice("KVFold", finishingButton);
+    panel.leaveUnspoken("FinishingOptions"); // the same, as the menu counts it
+    describeOffset(finishing, panel);
+    const char *bind = bindKey(finishing.bind);
+    panel.add("FinishingBindValue", "Bind:", bind ? labelText(device, bind) : QString(),
+              moreFinishingButton);
+    panel.add("FinishingSlipSheet", "Slip Sheets in Words",
+              finishing.slipSheet == 0 ? QString() : QString::number(finishing.slipSheet),
+              moreFinishingButton);
+    panel.add("FinishingCustom", "Custom Finishing", finishing.custom, moreFinishingButton);
+}
+
+void describeBooklet(const PaperOutputSettings &settings, PanelDescription &panel,
+                     JobDescription &description)
+{
+    const Device &device = panel.job().device;
+    const BookletLayout &layout = settings.bookletLayout;
+    const bool drawsBorders = layout.pageBorders != 1;
+    const QString words =
+        formatted(device.text(drawsBorders ? "Booklet with Borders in Words" : "Booklet in Words"),
+                  {QLocale().toString(layout.gutter), QLocale().toString(layout.creep / 10.0)});
+    panel.add("BookletLayout", "Booklet Layout", settings.isBooklet() ? words : QString(),
+              finishingButton);
+    for (const char *name : {"BookletDrawOutlines", "BookletForceNewSize", "Gutter", "Creep"})
+        panel.leaveUnspoken(name);
+    if (settings.isBooklet())
+        description.imposition = {.gutter = double(layout.gutter),
+                                  .creep = layout.creep / 10.0,
+                                  .drawsBorders = drawsBorders};
+}
+
+} // namespace
+
+void describePaperOutput(const DescribedJob &job, JobDescription &description)
+{
+    PaperOutputSettings settings;
+    readPaperOutput(settings, job.printSettings, job.pageFormat, job.device);
+
+    PanelDescription panel(job, "PaperOutput", description);
+    describeJobType(settings, panel);
+    describePaper(settings, panel);
+    describeSides(settings, panel);
+    panel.addChoice("KVColorMode", outputColorPopup);
+    describeFinishing(settings.finishing, panel);
+    describeBooklet(settings, panel, description);
+    panel.addChoice("OutputBin", outputDestinationPopup);
+    panel.addChoice("KVFrontCoverSheet", coversButton);
+    panel.addChoice("KVBackCoverSheet", coversButton);
+    panel.addChoice("KVSlipSheetPrint", separatorsButton);
+    panel.addChoice("KVSlipSheetSource", separatorsButton);
+}
+
+} // namespace kelvo

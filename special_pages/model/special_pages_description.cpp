@@ -1,0 +1,163 @@
+#include "special_pages_description.h"
+
+#include "cover_sync.h"
+#include "exception_page.h"
+#include "insert.h"
+#include "ppd_words.h"
+#include "setting_maps.h"
+#include "string_table.h"
+#include "ticket_values.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace kelvo {
+
+namespace {
+
+constexpr std::int32_t specialPagesList = 1000; // KPDE, of the panel
+
+SpecialSheets::Cover coverOf(const DescribedJob &job, const QString &option)
+{
+    using enum SpecialSheets::Cover;
+    const PpdOption *known = job.device.ppd ? job.device.ppd->findOption(option) : nullptr;
+    if (!known)
+        return None;
+    // Without a choice the device does what it does by default, and that may be a cover.
+    const auto choice = job.printSettings.ppdChoices.constFind(option);
+    if (choice == job.printSettings.ppdChoices.constEnd())
+        return known->defaultChoice == kNoCoverChoice ? Unsaid : Sheet;
+    return *choice != kNoCoverChoice && known->findChoice(*choice) ? Sheet : None;
+}
+
+// A number of a ticket, brought within what pages can be counted with. Below zero
+// stays so.
+std::optional<int> numberIn(const Dictionary &dictionary, const QString &key)
+{
+    const auto number = integer64(dictionary, key);
+    if (!number)
+        return std::nullopt;
+    constexpr std::int64_t most = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp<std::int64_t>(*number, -1, most));
+}
+
+QList<SpecialSheets::Insert> insertsFrom(const Array &list)
+{
+    QList<SpecialSheets::Insert> inserts;
+    inserts.reserve(list.size());
+    for (const QVariant &each : list) {
+        const auto entries = dictionary(each);
+        if (!entries)
+            continue;
+        const int afterPage = numberIn(*entries, kStartPageKey).value_or(-1);
+        const int sheets = numberIn(*entries, kQuantityKey).value_or(1);
+        if (afterPage >= 0 && sheets >= 1)
+            inserts.append({afterPage, std::min(sheets, SpecialSheets::mostInsertSheets)});
+    }
+    std::stable_sort(inserts.begin(), inserts.end(),
+                     [](const auto &a, const auto &b) { return a.afterPage < b.afterPage; });
+    return inserts;
+}
+
+QList<SpecialSheets::Exception> exceptionsFrom(const Array &list)
+{
+    QList<SpecialSheets::Exception> exceptions;
+    exceptions.reserve(list.size());
+    for (const QVariant &each : list) {
+        const auto entries = dictionary(each);
+        if (!entries)
+            continue;
+        SpecialSheets::Exception exception;
+        exception.firstPage = numberIn(*entries, kStartPageKey).value_or(0);
+        exception.lastPage = numberIn(*entries, kEndPageKey).value_or(0);
+        if (exception.firstPage < 1 || exception.lastPage < exception.firstPage)
+            continue;
+        const auto sides = integer64(*entries, kSidesImagedKey);
+        if (sides == kPlexSimplex)
+            exception.twoSided = false;
+        else if (sides == kPlexDuplex || sides == kPlexDuplexShort)
+            exception.twoSided = true;
+        exceptions.append(exception);
+    }
+    std::stable_sort(exceptions.begin(), exceptions.end(),
+                     [](const auto &a, const auto &b) { return a.firstPage < b.firstPage; });
+    int last = 0;
+    exceptions.removeIf([&last](const SpecialSheets::Exception &exception) {
+        if (exception.firstPage <= last)
+            return true;
+        last = exception.lastPage;
+        return false;
+    });
+    return exceptions;
+}
+
+QString rangeWords(const Device &device, const QVariant &range)
+{
+    const Dictionary in = dictionary(range).value_or(Dictionary());
+    const auto first = integer64(in, kStartPageKey);
+    const auto last = integer64(in, kEndPageKey);
+    if (!first || !last)
+        return QStringLiteral("?");
+    const QString begin = QString::number(*first);
+    if (*last < *first)
+        return formatted(device.text("No Page in Words"), {begin});
+    return first == last ? begin : begin + u'–' + QString::number(*last);
+}
+
+// Of many ranges the first few.
+QString rangesWords(const Device &device, const Array &list)
+{
+    constexpr qsizetype mostListed = 8;
+    QStringList ranges;
+    for (const QVariant &range : list.first(std::min(list.size(), mostListed)))
+        ranges << rangeWords(device, range);
+    const QString listed = ranges.join(QStringLiteral(", "));
+    const qsizetype left = list.size() - ranges.size();
+    return left == 0
+        ? listed
+        : formatted(device.text("More Pages in Words"), {listed, QString::number(left)});
+}
+
+Array listIn(const DescribedJob &job, const char *name)
+{
+    return array(valueIn(job.printSettings, ticketKey(name))).value_or(Array());
+}
+
+} // namespace
+
+void describeSpecialPages(const DescribedJob &job, JobDescription &description)
+{
+    constexpr const char *insertsName = "SpecialPages.InsertList";
+    constexpr const char *exceptionsName = "SpecialPages.ExceptionList";
+    const Device &device = job.device;
+    const Array inserts = listIn(job, insertsName);
+    const Array exceptions = listIn(job, exceptionsName);
+
+    PanelDescription panel(job, "SpecialPages", description);
+    panel.add(insertsName, "Inserts in Words",
+              inserts.isEmpty() ? QString() : QString::number(inserts.size()), specialPagesList);
+    panel.add(exceptionsName, "Exception Pages in Words", rangesWords(device, exceptions),
+              specialPagesList);
+
+    SpecialSheets &sheets = description.sheets;
+    sheets.frontCover = coverOf(job, QStringLiteral("KVFrontCoverSheet"));
+    sheets.backCover = coverOf(job, QStringLiteral("KVBackCoverSheet"));
+    const bool isRead = readsTickets(device.ppd);
+    const auto renew = [isRead](Array &known, const Array &list) {
+        const Array now = isRead ? list : Array();
+        if (now.isSharedWith(known))
+            return false;
+        known = now;
+        return true;
+    };
+    if (renew(description.insertList, inserts))
+        sheets.inserts = insertsFrom(description.insertList);
+    if (renew(description.exceptionList, exceptions))
+        sheets.exceptions = exceptionsFrom(description.exceptionList);
+    description.sheetWords = {
+        labelText(device, "Front Cover"),          labelText(device, "Back Cover"),
+        labelText(device, "Insert in Preview"),    labelText(device, "Exception in Preview"),
+        labelText(device, "Front Cover Left Out"), labelText(device, "Back Cover Left Out")};
+}
+
+} // namespace kelvo

@@ -1,0 +1,128 @@
+#include "sheet_sequence.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace kelvo;
+
+using Cover = SpecialSheets::Cover;
+
+Q_DECLARE_METATYPE(kelvo::SpecialSheets)
+
+class TestSheetSequence : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void comeInOrder_data();
+    void comeInOrder();
+    void areCheapInGreatNumbers();
+};
+
+namespace {
+
+// "F" front cover, "2x3" two sheets of an insert after page 3, "4" a page, "4f" and "4b"
+// on a front or back, "-" a blank back, "B" back cover; "!" in an exception. Before each
+// the number of the sheet.
+QString outlineOf(const SheetSequence &sequence)
+{
+    QStringList parts;
+    for (int index = 0; index < sequence.sides(); ++index) {
+        const SheetSide side = sequence.side(index);
+        QString text;
+        switch (side.kind) {
+        case SheetSide::Kind::FrontCover:
+            text = "F";
+            break;
+        case SheetSide::Kind::BackCover:
+            text = "B";
+            break;
+        case SheetSide::Kind::Insert:
+            text = QString("%1x%2").arg(side.sheets).arg(side.page);
+            break;
+        case SheetSide::Kind::BlankBack:
+            text = side.isBack ? "-" : "a blank front";
+            break;
+        case SheetSide::Kind::Page:
+            text = QString::number(side.page);
+            if (side.isTwoSided)
+                text += side.isBack ? "b" : "f";
+            if (side.exceptionFirst > 0)
+                text += "!";
+            if (sequence.indexOfPage(side.page) != index)
+                text += " is not found";
+            break;
+        }
+        parts << QString("%1:%2").arg(side.sheet).arg(text);
+    }
+    return parts.join(' ');
+}
+
+} // namespace
+
+void TestSheetSequence::comeInOrder_data()
+{
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<bool>("twoSided");
+    QTest::addColumn<SpecialSheets>("special");
+    QTest::addColumn<QString>("outline");
+    QTest::addColumn<qint64>("sheets");
+    const SpecialSheets covers{Cover::Sheet, Cover::Sheet};
+
+    QTest::newRow("no pages") << 0 << true << covers << "" << qint64(0);
+    QTest::newRow("one-sided") << 3 << false << SpecialSheets() << "1:1 2:2 3:3" << qint64(3);
+    QTest::newRow("two-sided") << 3 << true << SpecialSheets() << "1:1f 1:2b 2:3f" << qint64(2);
+    QTest::newRow("covers, one-sided") << 2 << false << covers << "1:F 2:1 3:2 4:B" << qint64(4);
+    QTest::newRow("covers, two-sided")
+        << 3 << true << covers << "1:F 2:1f 2:2b 3:3f 3:- 4:B" << qint64(4);
+    QTest::newRow("inserts") << 4 << true
+                             << SpecialSheets{Cover::None,
+                                              Cover::Sheet,
+                                              {{0, 2}, {3, 1}, {3, 5}, {4, 1}, {5, 1}}}
+                             << "1:2x0 3:1f 3:2b 4:3f 4:- 5:1x3 6:5x3 11:4f 11:- 12:1x4 13:B"
+                             << qint64(13);
+    QTest::newRow("an exception with the job's sides")
+        << 5 << true << SpecialSheets{.exceptions = {{2, 4, {}}}}
+        << "1:1f 1:- 2:2f! 2:3b! 3:4f! 3:- 4:5f" << qint64(4);
+    QTest::newRow("one-sided pages among two-sided ones")
+        << 6 << true << SpecialSheets{.exceptions = {{3, 4, false}, {5, 9, false}}}
+        << "1:1f 1:2b 2:3! 3:4! 4:5! 5:6!" << qint64(5);
+    QTest::newRow("two-sided pages among one-sided ones")
+        << 5 << false << SpecialSheets{Cover::Sheet, Cover::None, {{2, 1}}, {{1, 3, true}}}
+        << "1:F 2:1f! 2:2b! 3:1x2 4:3f! 4:- 5:4 6:5" << qint64(6);
+    QTest::newRow("beyond the last page")
+        << 2 << false << SpecialSheets{.inserts = {{3, 1}}, .exceptions = {{3, 3, true}}}
+        << "1:1 2:2" << qint64(2);
+}
+
+void TestSheetSequence::comeInOrder()
+{
+    QFETCH(int, pages);
+    QFETCH(bool, twoSided);
+    QFETCH(SpecialSheets, special);
+    QFETCH(QString, outline);
+    QFETCH(qint64, sheets);
+
+    const SheetSequence sequence(pages, twoSided, special);
+
+    QCOMPARE(outlineOf(sequence), outline);
+    QCOMPARE(sequence.sheets(), sheets);
+    QCOMPARE(sequence.indexOfPage(pages + 1), -1);
+    QCOMPARE(sequence.indexOfPage(0), -1);
+}
+
+// Sums beyond 32 bits, and no hang.
+void TestSheetSequence::areCheapInGreatNumbers()
+{
+    SpecialSheets special;
+    for (int page = 0; page < 999'999; ++page)
+        special.inserts.append({page, SpecialSheets::mostInsertSheets});
+    const SheetSequence sequence(1'999'999, true, special);
+    QCOMPARE(sequence.sheets(), 999'999LL * 9999 + 999'998 + 500'001);
+    QCOMPARE(sequence.side(sequence.sides() - 1).page, 1'999'999);
+    QCOMPARE(sequence.indexOfPage(1'999'999), sequence.sides() - 1);
+}
+
+QTEST_GUILESS_MAIN(TestSheetSequence)
+#include "test_sheet_sequence.moc"

@@ -1,0 +1,396 @@
+#include "describe_job.h"
+
+#include "long_date.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+#include <future>
+#include <limits>
+
+using namespace kelvo;
+
+using Inserts = QList<SpecialSheets::Insert>;
+using Exceptions = QList<SpecialSheets::Exception>;
+using Cover = SpecialSheets::Cover;
+
+Q_DECLARE_METATYPE(kelvo::SpecialSheets)
+
+class TestDescribeJob : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void saysWhatIsSet_data();
+    void saysWhatIsSet();
+    void saysWhatTheDeviceDoes();
+    void namesWhereItIsSet();
+    void namesWhatHoldsTheSame();
+    void keepsSecrets();
+    void findsSpecialSheets_data();
+    void findsSpecialSheets();
+    void readsListsAgainWhenTheyChange();
+    void findsNothingOnOtherDevices();
+    void describesOnTwoThreads();
+    void refusesNothing();
+
+private:
+    Bundle *m_bundle = nullptr;
+    std::shared_ptr<PpdFile> m_ppd;
+    JobDescription describe(const Ticket &ticket, const PpdFile *ppd) const;
+};
+
+namespace {
+
+const QString fullPpd = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
+
+QString keyOf(const char *name)
+{
+    return QStringLiteral("com.kelvo.print.") + QLatin1String(name);
+}
+
+Ticket ticketOf(const Dictionary &entries, const PPDDictionary &choices = {})
+{
+    Ticket ticket;
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
+        ticket.entries[keyOf(entry.key().toLatin1().constData())] = {entry.value(), "test"};
+    ticket.ppdChoices = choices;
+    return ticket;
+}
+
+Ticket jobTypeOf(const Dictionary &options)
+{
+    return ticketOf({{"JobType", options}});
+}
+
+QVariant insert(const QVariant &after, const QVariant &quantity)
+{
+    return Dictionary{{"StartPage", after}, {"Quantity", quantity}, {"Stock", Dictionary()}};
+}
+
+QVariant exception(const QVariant &first, const QVariant &last, const QVariant &sides = {})
+{
+    Dictionary made{{"StartPage", first}, {"EndPage", last}};
+    if (sides.isValid())
+        made.insert("SidesImaged", sides);
+    return made;
+}
+
+Ticket pagesOf(const QVariant &inserts, const QVariant &exceptions,
+               const PPDDictionary &choices = {})
+{
+    return ticketOf(
+        {{"SpecialPages.InsertList", inserts}, {"SpecialPages.ExceptionList", exceptions}},
+        choices);
+}
+
+QStringList linesOf(const JobDescription &description, bool defaults)
+{
+    QStringList lines;
+    for (const DescribedSetting &setting : description.settings) {
+        if (setting.isDefault == defaults)
+            lines << setting.label + QStringLiteral(": ") + setting.words;
+    }
+    return lines;
+}
+
+const DescribedSetting *lineAt(const JobDescription &description, const TicketPlace &place)
+{
+    const auto found = std::ranges::find(description.settings, place, &DescribedSetting::place);
+    return found == description.settings.cend() ? nullptr : &*found;
+}
+
+} // namespace
+
+void TestDescribeJob::initTestCase()
+{
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    auto ppd = PpdFile::open(fullPpd);
+    QVERIFY(ppd);
+    m_ppd = std::move(ppd).value();
+    const auto bundle = Bundle::open(QStringLiteral(KELVO_BUILD_DIR "/lib/KelvoPDE.pde"));
+    QVERIFY(bundle);
+    m_bundle = bundle.value();
+}
+
+JobDescription TestDescribeJob::describe(const Ticket &ticket, const PpdFile *ppd) const
+{
+    const Ticket pageFormat;
+    const JobToDescribe job{&ticket, &pageFormat, ppd, m_bundle, {}};
+    JobDescription description;
+    if (KelvoDescribeJob(&job, &description) != noErr)
+        qFatal("nothing was described");
+    return description;
+}
+
+void TestDescribeJob::saysWhatIsSet_data()
+{
+    QTest::addColumn<Ticket>("ticket");
+    QTest::addColumn<QStringList>("lines"); // what differs from the device's defaults
+    const qint64 halfPastFive = longDateFrom(QDate(2026, 11, 22), QTime(17, 30));
+
+    QTest::newRow("nothing") << Ticket() << QStringList();
+    QTest::newRow("what panels write by themselves")
+        << ticketOf({{"FinishingOffset", 1},
+                     {"FinishingOptions", 0},
+                     {"FinishingBindValue", 1},
+                     {"FinishingCustom", ""},
+                     {"JobLevelStock", Dictionary{{"Color", 1}, {"Type", 1}, {"Size", 1}}},
+                     {"JobType", Dictionary{{"JobType", 1}, {"DelayedPrintTime", halfPastFive}}},
+                     {"InvertImageOptions", Dictionary{{"MirrorImage", 0}}}})
+        << QStringList();
+    QTest::newRow("a delayed job")
+        << jobTypeOf({{"JobType", 7}, {"DelayedPrintTime", halfPastFive}})
+        << QStringList{"Job type: Delayed print", "Time to print: 17:30"};
+    QTest::newRow("a saved job") << jobTypeOf({{"JobType", 3},
+                                               {"UseJobName", false},
+                                               {"SavedJobName", "Plan"},
+                                               {"SavedJobLocation", "file:///job-repository/17"},
+                                               {"SavedJobFormat", 1},
+                                               {"SaveDisposition", 2}})
+                                 << QStringList{"Job type: Saved job", "Job name: Plan",
+                                                "Mailbox: 17", "Save option: Save and print",
+                                                "File format: TIFF, one file per page"};
+    QTest::newRow("a fax, whatever is fitted")
+        << ticketOf({{"JobType", Dictionary{{"JobType", 5}}},
+                     {"FaxRecipientList", Array{Dictionary(), Dictionary()}}})
+        << QStringList{"Job type: Fax", "Fax recipients: 2"};
+    QTest::newRow("a job type of later days")
+        << jobTypeOf({{"JobType", 42}}) << QStringList{"Job type: 42"};
+
+    QTest::newRow("paper by choices")
+        << ticketOf({}, {{"MediaColor", "Blue"}, {"MediaType", "Transparency"}})
+        << QStringList{"Paper Color: Blue", "Paper Type: Transparency"};
+    QTest::newRow("paper of the user's own")
+        << ticketOf({{"JobLevelStock",
+                      Dictionary{{"Color", 10},
+                                 {"CustomColor", "Salmon"},
+                                 {"Type", 7},
+                                 {"CustomType", "Parchment"},
+                                 {"CustomName", "Deeds"},
+                                 {"Weight", 120}}}})
+        << QStringList{"Paper name: Deeds", "Paper Color: Salmon", "Paper Type: Parchment",
+                       "Paper properties: 120 g/m²"};
+    QTest::newRow("a stock that choices overrule")
+        << ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}}}},
+                    {{"MediaColor", "Blue"}})
+        << QStringList{"Paper Color: Blue"};
+
+    QTest::newRow("sides, as panels read them")
+        << ticketOf({{"FinishingDuplex", 2}}, {{"Duplex", "None"}})
+        << QStringList{"Two-Sided Printing: 2-Sided Print"};
+    QTest::newRow("offset subsets") << ticketOf({{"FinishingOffset", 4},
+                                                 {"FinishingOffsetEnableSubset", 1},
+                                                 {"FinishingOffsetPagesPerSubset", 12}})
+                                    << QStringList{"Offset: Between subsets, 12 pages per subset"};
+    QTest::newRow("offset by both panels")
+        << ticketOf({{"FinishingOffset", 3}}, {{"Jog", "EndOfSet"}})
+        << QStringList{"Offset: Between sets", "Request Offset: Offset Each Set"};
+    QTest::newRow("binding and an instruction")
+        << ticketOf({{"FinishingBindValue", 3}, {"FinishingCustom", "Trim\n2 mm"}})
+        << QStringList{"Bind: Right edge", "Finishing instruction: Trim 2 mm"};
+    QTest::newRow("a booklet") << ticketOf({{"BookletLayout", true}, {"Gutter", 36}, {"Creep", 5}})
+                               << QStringList{"Booklet layout: gutter 36 pt, creep 0.5"};
+
+    QTest::newRow("the printer's own lightness") << ticketOf({{"PrinterDefaultLightness", true}})
+                                                 << QStringList{"Lighten/Darken: Printer default"};
+    QTest::newRow("inverted") << ticketOf(
+        {{"InvertImageOptions", Dictionary{{"MirrorImage", 1}, {"NegativeImage", 1}}}})
+                              << QStringList{"Invert image: Mirror image",
+                                             "Invert image: Negative image"};
+    QTest::newRow("special pages")
+        << pagesOf(Array{insert(1, 1), insert(9, 2)},
+                   Array{exception(5, 8), exception(12, 12), exception(5, 0), "?"},
+                   {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}})
+        << QStringList{"Front Cover Source: Tray 1", "Inserts: 2",
+                       "Exception pages: 5–8, 12, 5 (no page), ?"};
+}
+
+void TestDescribeJob::saysWhatIsSet()
+{
+    QFETCH(Ticket, ticket);
+    QFETCH(QStringList, lines);
+
+    const JobDescription description = describe(ticket, m_ppd.get());
+
+    QCOMPARE(linesOf(description, false), lines);
+    // Every entry is spoken for.
+    for (const auto &[key, entry] : ticket.entries) {
+        const auto isAt = [&key = key](const TicketPlace &place) { return place[1] == key; };
+        const bool isSaid = std::ranges::any_of(description.unspoken, isAt)
+            || std::ranges::any_of(description.settings, isAt, &DescribedSetting::place)
+            || std::ranges::any_of(description.settings, [&key = key](const auto &setting) {
+                                return setting.repeats.contains(key);
+                            });
+        QVERIFY2(isSaid, qPrintable(key));
+    }
+}
+
+void TestDescribeJob::saysWhatTheDeviceDoes()
+{
+    const QStringList lines = linesOf(describe({}, m_ppd.get()), true);
+    for (const char *line : {"Job type: Normal", "Paper Color: White", "Stapling: No Staple",
+                             "Lighten/Darken: Normal", "Request Offset: No Offset"})
+        QVERIFY2(lines.contains(QLatin1String(line)), qPrintable(lines.join('\n')));
+    // Nothing that another line has already said otherwise.
+    const Ticket job =
+        ticketOf({{"FinishingOffset", 4},
+                  {"FinishingOffsetEnableSubset", 1},
+                  {"JobLevelStock", Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}}},
+                  {"PrinterDefaultLightness", true}});
+    const QStringList left = linesOf(describe(job, m_ppd.get()), true);
+    for (const char *label : {"Request Offset", "Paper Color", "Lighten/Darken"})
+        QVERIFY2(left.filter(QLatin1String(label)).isEmpty(), label);
+}
+
+void TestDescribeJob::namesWhereItIsSet()
+{
+    QFile list(QStringLiteral(KELVO_SOURCE_DIR "/docs/controls.md"));
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    const QString controls = QString::fromUtf8(list.readAll());
+    const auto everything = pagesOf(Array{insert(1, 1)}, {});
+    for (const DescribedSetting &setting : describe(everything, m_ppd.get()).settings) {
+        // Panels have a window of their name.
+        const QString window =
+            controls.section(u'/' + setting.panel + u'\n', 1).section("\n## ", 0, 0);
+        const QString row = QStringLiteral("| KPDE %1 |").arg(setting.control.number);
+        QVERIFY2(window.contains(row), qPrintable(setting.panel + row + setting.label));
+    }
+}
+
+void TestDescribeJob::namesWhatHoldsTheSame()
+{
+    const JobDescription description = describe({}, m_ppd.get());
+    const DescribedSetting *sides = lineAt(description, {kPPDChoices, "Duplex"});
+    QVERIFY(sides);
+    QCOMPARE(sides->repeats,
+             (QStringList{keyOf("FinishingDuplex"), "com.apple.print.PrintSettings.PMDuplexing"}));
+}
+
+void TestDescribeJob::keepsSecrets()
+{
+    const Ticket ticket =
+        ticketOf({{"JobType", Dictionary{{"JobType", 6}, {"SecurePrintPassword", "271828"}}},
+                  {"FaxOptions", Dictionary{{"CreditCard", "314159"}}}});
+    int secrets = 0;
+    for (const DescribedSetting &setting : describe(ticket, m_ppd.get()).settings) {
+        secrets += setting.isSecret ? 1 : 0;
+        QVERIFY(!setting.words.contains("271828") && !setting.words.contains("314159"));
+    }
+    QCOMPARE(secrets, 2);
+}
+
+void TestDescribeJob::findsSpecialSheets_data()
+{
+    QTest::addColumn<Ticket>("ticket");
+    QTest::addColumn<SpecialSheets>("sheets");
+    constexpr int most = std::numeric_limits<int>::max();
+    const PPDDictionary none{{"KVFrontCoverSheet", "None"}, {"KVBackCoverSheet", "None"}};
+
+    QTest::newRow("nothing is chosen") << Ticket() << SpecialSheets{Cover::Unsaid, Cover::Unsaid};
+    QTest::newRow("a front cover")
+        << pagesOf({}, {}, {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}})
+        << SpecialSheets{Cover::Sheet, Cover::None};
+    QTest::newRow("a cover from a tray that is not there")
+        << pagesOf({}, {}, {{"KVFrontCoverSheet", "None"}, {"KVBackCoverSheet", "Tray99"}})
+        << SpecialSheets();
+    QTest::newRow("lists") << pagesOf(Array{insert(3, 2), insert(0, 1), insert(3, 1)},
+                                      Array{exception(5, 8, 1), exception(9, 9, 3),
+                                            exception(12, 99999), exception(100000, 100001, 7)},
+                                      none)
+                           << SpecialSheets{.inserts = {{0, 1}, {3, 2}, {3, 1}},
+                                            .exceptions = {{5, 8, false},
+                                                           {9, 9, true},
+                                                           {12, 99999, {}},
+                                                           {100000, 100001, {}}}};
+    QTest::newRow("inserts that are none")
+        << pagesOf(Array{insert(-1, 1), insert("2", 1), insert(2, 0), insert(2, -5), insert(2.5, 1),
+                         "2", QVariant(), Dictionary()},
+                   "none", none)
+        << SpecialSheets();
+    QTest::newRow("inserts brought within bounds")
+        << pagesOf(Array{insert(1, 10000), insert(qint64(1) << 40, qint64(1) << 40),
+                         Dictionary{{"StartPage", 2}}},
+                   {}, none)
+        << SpecialSheets{.inserts = {{1, 9999}, {2, 1}, {most, 9999}}};
+    QTest::newRow("exceptions that are none") << pagesOf(
+        {}, Array{exception(0, 3), exception(5, 4), exception(3, "4"), exception({}, 4)}, none)
+                                              << SpecialSheets();
+    QTest::newRow("exceptions that overlap")
+        << pagesOf({}, Array{exception(4, qint64(1) << 40), exception(1, 4), exception(9, 9)}, none)
+        << SpecialSheets{.exceptions = {{1, 4, {}}, {9, 9, {}}}};
+}
+
+void TestDescribeJob::findsSpecialSheets()
+{
+    QFETCH(Ticket, ticket);
+    QFETCH(SpecialSheets, sheets);
+
+    QCOMPARE(describe(ticket, m_ppd.get()).sheets, sheets);
+}
+
+void TestDescribeJob::readsListsAgainWhenTheyChange()
+{
+    JobDescription description;
+    const auto inserts = [&](const QVariant &list) {
+        const Ticket ticket = pagesOf(list, {}), pageFormat;
+        const JobToDescribe job{&ticket, &pageFormat, m_ppd.get(), m_bundle, {}};
+        KelvoDescribeJob(&job, &description);
+        return description.sheets.inserts;
+    };
+    Array list{insert(1, 1)};
+    QCOMPARE(inserts(list), (Inserts{{1, 1}}));
+    list[0] = insert(2, 1);
+    QCOMPARE(inserts(list), (Inserts{{2, 1}}));
+    QCOMPARE(inserts({}), Inserts());
+}
+
+void TestDescribeJob::findsNothingOnOtherDevices()
+{
+    const auto other = PpdFile::open(QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd"));
+    QVERIFY(other);
+    const Ticket ticket = pagesOf(Array{insert(1, 1)}, Array{exception(1, 1)},
+                                  {{"KVFrontCoverSheet", "Tray1"}, {"Duplex", "DuplexTumble"}});
+    for (const PpdFile *ppd : {static_cast<const PpdFile *>(other.value().get()),
+                               static_cast<const PpdFile *>(nullptr)}) {
+        const JobDescription description = describe(ticket, ppd);
+        QCOMPARE(description.sheets, SpecialSheets());
+        // What is lost there is said all the same.
+        QVERIFY(linesOf(description, false).contains("Inserts: 1"));
+        QVERIFY(!lineAt(description, {kPPDChoices, "KVFrontCoverSheet"}));
+    }
+}
+
+void TestDescribeJob::describesOnTwoThreads()
+{
+    const Ticket ticket = pagesOf(Array{insert(1, 1)}, Array{exception(1, 4)},
+                                  {{"KVFrontCoverSheet", "Tray1"}, {"MediaColor", "Blue"}});
+    const auto work = [this, &ticket] {
+        const auto ppd = PpdFile::open(fullPpd); // of its own
+        QStringList lines;
+        for (int i = 0; i < 20; ++i)
+            lines = linesOf(describe(ticket, ppd.value().get()), false);
+        return lines;
+    };
+    auto one = std::async(std::launch::async, work);
+    auto other = std::async(std::launch::async, work);
+    const QStringList lines = one.get();
+    QCOMPARE(lines, other.get());
+    QCOMPARE(lines, linesOf(describe(ticket, m_ppd.get()), false));
+}
+
+void TestDescribeJob::refusesNothing()
+{
+    const Ticket ticket;
+    JobDescription description;
+    const JobToDescribe without{nullptr, &ticket, m_ppd.get(), m_bundle, {}};
+    const JobToDescribe complete{&ticket, &ticket, m_ppd.get(), m_bundle, {}};
+    QCOMPARE(KelvoDescribeJob(nullptr, &description), paramErr);
+    QCOMPARE(KelvoDescribeJob(&without, &description), paramErr);
+    QCOMPARE(KelvoDescribeJob(&complete, nullptr), paramErr);
+}
+
+QTEST_GUILESS_MAIN(TestDescribeJob)
+#include "test_describe_job.moc"
