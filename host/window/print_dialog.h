@@ -2,9 +2,9 @@
 
 #include "dialog_session.h"
 #include "event.h"
-#include "job_words.h"
+#include "extension.h"
 #include "panel_places.h"
-#include "print_run.h"
+#include "print_flow.h"
 #include "script_target.h"
 #include "sent_message.h"
 #include "session_cautions.h"
@@ -14,14 +14,12 @@
 #include <QTimer>
 #include <QWidget>
 
-class QLabel;
-class QProgressBar;
-class QPushButton;
 class QStackedWidget;
 
 namespace kelvo {
 
 class CautionBar;
+class DialogFoot;
 class DocumentPreview;
 class PaneScroll;
 class PanelSwitch;
@@ -30,9 +28,17 @@ class PrinterPane;
 class WaitingPane;
 class WindowColumns;
 
-// The print dialog. It shows what the session has and prints when it is told to;
-// it ends once, with the status that the program ends with.
-class PrintDialog : public QWidget, public ScriptTarget
+// What a print dialog begins with.
+struct DialogOptions
+{
+    SessionBeginning session;
+    PrintPlan plan;
+    QString preset; // the name of the one in session.job; empty: the defaults
+};
+
+// The print dialog's window. It shows what the session has, and answers what is asked on
+// the way to a job; it ends once, with the status that the program ends with.
+class PrintDialog : public QWidget, public ScriptTarget, private PrintQuestions
 {
     Q_OBJECT
 
@@ -47,8 +53,8 @@ public:
     void setDriven(bool driven);
     // Texts of --secret, by name.
     void setSecrets(QMap<QString, QString> secrets) { m_secrets = std::move(secrets); }
-    // Writes --ticket-out and --preset-out as the settings stand; nothing without them.
-    Result<void> writeSettingsOut();
+    // The files of the plan, as the settings stand; nothing without them.
+    Result<void> writeSettingsOut() { return m_flow.writeSettingsOut(); }
     // Ends as Cancel does. A job that is on its way is cancelled and waited for, for
     // a few seconds: the status says what became of it.
     void interrupt();
@@ -62,10 +68,10 @@ public:
     void sync(SyncDirection direction) override;
     void pressPrint() override;
     void pressCancel() override;
-    bool isPrinting() const override { return m_run != nullptr; }
+    bool isPrinting() const override { return m_flow.isPrinting(); }
     std::optional<ExitStatus> finished() const override { return m_finished; }
-    QString lastPrintProblem() const override { return m_printProblem; }
-    ExitStatus lastPrintStatus() const override { return m_printStatus; }
+    QString lastPrintProblem() const override;
+    ExitStatus lastPrintStatus() const override;
     const PrintSession &sessionForReading() override;
     QString jobInWords() override;
     TicketFile withSecretsMasked(TicketFile file) const override;
@@ -109,42 +115,41 @@ private:
 
     // Print.
     void print();
-    bool endsInConflict();
-    bool isHeldBack();
-    void findCautions(); // after all panels have written
-    void takeOutcome(const PrintOutcome &outcome);
-    void tellSent(const QString &place);
-    void refusePrint(ExitStatus status, const QString &header, const QString &problem);
-    QString findReasonNotToPrint() const;
-    QString findPagesProblem() const;
+    bool fixesConflicts(const QString &header, const ConflictReport &report) override;
+    bool printsAnyway(const Caution &caution) override;
+    void showPrinting(bool printing);
+    void takePrinted(const QString &place);
+    void takeRefusal(const PrintRefusal &refusal);
+    QString unfinishedPages() const;
     void end(ExitStatus status);
 
+    bool isReady() const { return m_session->stage() == DialogSession::Stage::Ready; }
+    Extension *panels() const; // null: there are none to show
+    QString place() const;     // where the user is among them
+    Result<void> findPanels() const;
     bool arePanelsBuilt() const;
     void arrangeTabOrder();
-    bool isTwoSided() const;
     void updatePrintButton();
     void updatePreview();
     void updateFoot();
     void updateTitle();
-    JobWords words();
 
-    DialogOptions m_options;
     WindowColumns *m_columns;
     PanelSwitch *m_switch;
     PanelPlaces m_places;
     PaneScroll *m_scroll;
     QStackedWidget *m_stack; // the waiting pane, or the panels
     WaitingPane *m_waiting;
-    QWidget *m_panes; // parent of the device's panels
+    QWidget *m_panes;                       // parent of the device's panels
+    std::unique_ptr<Extension> m_extension; // null: there is no bundle
     std::unique_ptr<DialogSession> m_session;
     SessionCautions m_cautions;
+    PrintFlow m_flow;
     PresetMenu *m_presets;
     PrinterPane *m_printer;
     DocumentPreview *m_preview;
     CautionBar *m_cautionBar;
-    QLabel *m_foot;
-    QProgressBar *m_progress;
-    QPushButton *m_details, *m_help, *m_cancel, *m_print;
+    DialogFoot *m_foot;
 
     QList<QWidget *> m_panelStops; // the tab order is made for these; compared, never followed
     QTimer m_look;                 // lookAtSettings() soon
@@ -162,10 +167,7 @@ private:
     PanelPlaces::Place m_place; // among the panels that were shown last
     QTimer m_watch;             // asks what the printer is doing
 
-    std::unique_ptr<PrintRun> m_run;
     SentMessage m_sent;
-    ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
-    QString m_printProblem;
     std::optional<ExitStatus> m_finished;
     EventHandlerRef m_handler; // takes what the shell does and passes on
 };

@@ -200,12 +200,12 @@ void TestPrintDialog::init()
 DialogOptions TestPrintDialog::options(const QString &device)
 {
     DialogOptions options;
-    options.device =
+    options.session.printer.device =
         PpdFile::open(device.startsWith(u'/') ? device : shared(QStringLiteral("ppds/")) + device)
             .value();
-    options.bundle = m_testBundle;
-    options.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
-    options.line.toFolder = m_folder->filePath(QStringLiteral("job"));
+    options.session.bundle = m_testBundle;
+    options.session.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
+    options.plan.elsewhere = folderDestination(m_folder->filePath(QStringLiteral("job")));
     return options;
 }
 
@@ -228,8 +228,8 @@ void TestPrintDialog::opensOnEveryDevice()
 {
     QFETCH(QString, device);
     auto begin = options(device);
-    begin.bundle = m_bundle;
-    const auto ppd = begin.device;
+    begin.session.bundle = m_bundle;
+    const auto ppd = begin.session.printer.device;
     Shown shown(begin);
 
     QVERIFY(shown.waitUntilIdle());
@@ -271,13 +271,13 @@ void TestPrintDialog::printsWithoutPanels()
     QFETCH(bool, hasBundle);
     QFETCH(QString, says);
     auto begin = options(device);
-    begin.bundle = hasBundle ? m_bundle : nullptr;
-    begin.bundleProblem = QStringLiteral("It is not installed.");
-    begin.line.copies = 2;
+    begin.session.bundle = hasBundle ? m_bundle : nullptr;
+    begin.session.bundleProblem = QStringLiteral("It is not installed.");
+    begin.session.job.copies = 2;
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(shown.isShown("waitingHeader"));
-    QVERIFY(shown.text("waitingHeader").contains(begin.device->modelName()));
+    QVERIFY(shown.text("waitingHeader").contains(begin.session.printer.device->modelName()));
     QVERIFY2(shown.text("waitingText").contains(says), qPrintable(shown.text("waitingText")));
     QVERIFY(!shown.isShown("retry"));
 
@@ -341,11 +341,11 @@ void TestPrintDialog::laterSettingsBeatEarlierOnes()
         return file;
     };
     auto begin = options();
-    begin.preset = ticket("preset", "DuplexTumble", "2HolePunch");
-    begin.ticketIn = ticket("ticket", "DuplexNoTumble", {});
-    begin.ticketIn->unknown = {{"Other", "kept"}};
-    begin.line.options = {{"Duplex", "None"}, {"media", "A5"}};
-    begin.line.ticketOut = m_folder->filePath("out.plist");
+    begin.session.job.preset = ticket("preset", "DuplexTumble", "2HolePunch");
+    begin.session.job.ticketIn = ticket("ticket", "DuplexNoTumble", {});
+    begin.session.job.ticketIn->unknown = {{"Other", "kept"}};
+    begin.session.job.options = {{"Duplex", "None"}, {"media", "A5"}};
+    begin.plan.ticketOut = m_folder->filePath("out.plist");
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
 
@@ -367,7 +367,7 @@ void TestPrintDialog::laterSettingsBeatEarlierOnes()
 void TestPrintDialog::aDeviceThatCannotDoItIsTold()
 {
     auto begin = options("kelvo-corvane-bare.ppd");
-    begin.line.options = {{"KVPunch", "2HolePunch"}};
+    begin.session.job.options = {{"KVPunch", "2HolePunch"}};
     Shown shown(begin);
     QCOMPARE(shown.dialog.finished(), ExitStatus::NotOffered);
 }
@@ -415,7 +415,8 @@ void TestPrintDialog::wrongPagesAreNotPrinted()
 void TestPrintDialog::conflictsAreShownAndFixed()
 {
     auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
+    begin.session.job.options = {{"StapleLocation", "SinglePortrait"},
+                                 {"MediaType", "Transparency"}};
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(shown.isShown("conflictBar"));
@@ -439,7 +440,8 @@ void TestPrintDialog::conflictsAreShownAndFixed()
 void TestPrintDialog::conflictsAreNotPrinted()
 {
     auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
+    begin.session.job.options = {{"StapleLocation", "SinglePortrait"},
+                                 {"MediaType", "Transparency"}};
     {
         Shown driven(begin);
         QVERIFY(driven.waitUntilIdle());
@@ -464,9 +466,9 @@ void TestPrintDialog::conflictsAreNotPrinted()
 void TestPrintDialog::severalCautionsStandInARow()
 {
     auto begin = options("kelvo-corvane-bare.ppd");
-    begin.line.options = {{"media", "A5"}};
-    begin.ticketIn = TicketFile();
-    begin.ticketIn->printSettings.ppdChoices = {{"KVPunch", "2HolePunch"}};
+    begin.session.job.options = {{"media", "A5"}};
+    begin.session.job.ticketIn = TicketFile();
+    begin.session.job.ticketIn->printSettings.ppdChoices = {{"KVPunch", "2HolePunch"}};
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     QVERIFY2(shown.text("conflictText").startsWith("Pages 1–6 are larger"),
@@ -490,7 +492,7 @@ void TestPrintDialog::theTicketIsWrittenBeforeTheJob()
     auto begin = options();
     QFile inTheWay(m_folder->filePath("no"));
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-    begin.line.ticketOut = m_folder->filePath("no/out.plist");
+    begin.plan.ticketOut = m_folder->filePath("no/out.plist");
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     shown.dialog.pressPrint();
@@ -521,7 +523,7 @@ void TestPrintDialog::givingUpIsCancelOrTheFailure()
         QCOMPARE(shown.dialog.finished(), ExitStatus::Cancelled);
     }
     auto nowhere = options();
-    nowhere.line.toFolder.reset();
+    nowhere.plan.elsewhere.reset();
     Shown shown(nowhere, false);
     QVERIFY(shown.waitUntilIdle());
     NoticeAnswer notice(1);
@@ -580,8 +582,8 @@ void TestPrintDialog::unknownEntriesStayWithTheirPreset()
         QVERIFY(store.save(QString::fromLatin1(name), file, {}, false));
     }
     auto begin = options();
-    begin.preset = store.read("One").value();
-    begin.line.preset = "One";
+    begin.session.job.preset = store.read("One").value();
+    begin.preset = "One";
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     const auto save = [&shown] {
@@ -652,8 +654,8 @@ void TestPrintDialog::theWindowDoesNotWaitForAServer()
     const UnreliableServer silent(UnreliableServer::Trouble::NeverAnswers);
     qputenv("CUPS_SERVER", silent.address().toUtf8());
     auto begin = options();
-    begin.device.reset();
-    begin.line.timeoutSeconds = 1;
+    begin.session.printer.device.reset();
+    begin.session.printer.timeoutMs = 1000;
     QElapsedTimer clock;
     clock.start();
     {
@@ -684,8 +686,8 @@ void TestPrintDialog::aServerThatComesBackIsFound()
     UnreliableServer silent(UnreliableServer::Trouble::NeverAnswers, cups.port());
     qputenv("CUPS_SERVER", silent.address().toUtf8());
     auto begin = options();
-    begin.device.reset();
-    begin.line.timeoutSeconds = 1;
+    begin.session.printer.device.reset();
+    begin.session.printer.timeoutMs = 1000;
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     silent.recover();
@@ -703,8 +705,8 @@ void TestPrintDialog::anUnknownPrinterIsToldWithTheNearest()
     QCOMPARE(cups.start(), QString());
     QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
     auto begin = options();
-    begin.device.reset();
-    begin.line.destination = "Hal-3";
+    begin.session.printer.device.reset();
+    begin.session.printer.name = "Hal-3";
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(shown.text("waitingHeader").contains("Hal-3"));
@@ -730,8 +732,8 @@ void TestPrintDialog::settingsThatCannotBeReadAreNotNone()
     QCOMPARE(cups.addQueue("Hall-3", ppd), QString());
     const QByteArray whole = readFile(ppd, 1'000'000).value();
     auto begin = options();
-    begin.device.reset();
-    begin.line.destination = "Hall-3";
+    begin.session.printer.device.reset();
+    begin.session.printer.name = "Hall-3";
     for (const QByteArray &damaged : {QByteArray(), whole.left(20'000), QByteArray("*PPD")}) {
         QVERIFY(cups.damagePpd("Hall-3", damaged));
         Shown shown(begin);
@@ -761,11 +763,11 @@ void TestPrintDialog::aRefusalHasOneStatusWhereverItIsFound()
     QCOMPARE(cups.addQueue("Hall-3", reads), QString());
     QCOMPARE(cups.addQueue("Office", testPpd("no-ticket.ppd")), QString());
     auto begin = options();
-    begin.device.reset();
-    begin.bundle = m_bundle;
-    begin.line.toFolder.reset();
-    begin.ticketIn = TicketFile();
-    begin.ticketIn->printSettings.entries["com.kelvo.print.JobType"] = {
+    begin.session.printer.device.reset();
+    begin.session.bundle = m_bundle;
+    begin.plan.elsewhere.reset();
+    begin.session.job.ticketIn = TicketFile();
+    begin.session.job.ticketIn->printSettings.entries["com.kelvo.print.JobType"] = {
         Dictionary{{"JobType", 6}, {"SecurePrintPassword", "4815"}}, "com.kelvo.printingmanager"};
     struct Row
     {
@@ -778,7 +780,7 @@ void TestPrintDialog::aRefusalHasOneStatusWhereverItIsFound()
                            Row{"Hall-3", readsNot, ExitStatus::NotOffered, "*KelvoTicket"},
                            Row{"Hall-3", "*PPD", ExitStatus::NoDestination, "damaged"}}) {
         QVERIFY(cups.damagePpd("Hall-3", readFile(reads, 1'000'000).value()));
-        begin.line.destination = row.queue;
+        begin.session.printer.name = row.queue;
         Shown shown(begin);
         QVERIFY(shown.waitUntilIdle());
         if (!row.later.isEmpty())
@@ -803,10 +805,10 @@ void TestPrintDialog::settingsComeBackWithTheirPrinter()
     QCOMPARE(cups.addQueue("Other", testPpd("other-maker.ppd")), QString());
     QCOMPARE(cups.addQueue("Raw", {}), QString());
     auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Full";
-    begin.line.options = {{"KVPunch", "2HolePunch"}};
+    begin.session.printer.device.reset();
+    begin.plan.elsewhere.reset();
+    begin.session.printer.name = "Full";
+    begin.session.job.options = {{"KVPunch", "2HolePunch"}};
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     QCOMPARE(shown.choice("KVPunch"), "2HolePunch");
@@ -847,8 +849,8 @@ void TestPrintDialog::aPrinterChosenAgainBeginsOnce()
     QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
     QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
     auto begin = options();
-    begin.device.reset();
-    begin.line.destination = "Full";
+    begin.session.printer.device.reset();
+    begin.session.printer.name = "Full";
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     m_panels->calls.clear();
@@ -872,9 +874,9 @@ void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
     QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
     QCOMPARE(cups.addQueue("Raw", {}), QString());
     auto begin = options();
-    begin.bundle = m_bundle;
-    begin.device.reset();
-    begin.line.destination = "Full";
+    begin.session.bundle = m_bundle;
+    begin.session.printer.device.reset();
+    begin.session.printer.name = "Full";
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     const auto place = [&shown] {
@@ -905,9 +907,9 @@ void TestPrintDialog::aStoppedPrinterIsAskedAbout()
     QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
     QCOMPARE(cups.administer({"-r", "Toner & drum on order", "Hall-3"}, "cupsdisable"), QString());
     auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Hall-3";
+    begin.session.printer.device.reset();
+    begin.plan.elsewhere.reset();
+    begin.session.printer.name = "Hall-3";
     Shown shown(begin, false);
     QTRY_VERIFY_WITH_TIMEOUT(shown.isShown("conflictBar")
                                  && shown.text("conflictText").contains("Toner & drum on order"),
@@ -935,9 +937,9 @@ void TestPrintDialog::aPrinterThatTakesNoJobsIsWaitedFor()
     QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
     QCOMPARE(cups.administer({"-r", "Closed for inventory", "Hall-3"}, "cupsreject"), QString());
     auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Hall-3";
+    begin.session.printer.device.reset();
+    begin.plan.elsewhere.reset();
+    begin.session.printer.name = "Hall-3";
     {
         Shown driven(begin);
         QVERIFY(driven.waitUntilIdle());
@@ -948,7 +950,7 @@ void TestPrintDialog::aPrinterThatTakesNoJobsIsWaitedFor()
     {
         // A job that goes elsewhere needs no printer.
         auto elsewhere = begin;
-        elsewhere.line.toFolder = m_folder->filePath("job");
+        elsewhere.plan.elsewhere = folderDestination(m_folder->filePath("job"));
         Shown driven(elsewhere);
         QVERIFY(driven.waitUntilIdle());
         QVERIFY(!driven.isShown("conflictBar"));
@@ -981,10 +983,10 @@ void TestPrintDialog::theDesktopTellsThatAJobIsOut()
     NotificationService desktop;
     QCOMPARE(desktop.start(), QString());
     auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Hall-3";
-    begin.document->title = "Profit & loss";
+    begin.session.printer.device.reset();
+    begin.plan.elsewhere.reset();
+    begin.session.printer.name = "Hall-3";
+    begin.session.document->title = "Profit & loss";
     {
         Shown shown(begin, false);
         QVERIFY(shown.waitUntilIdle());
@@ -1097,9 +1099,10 @@ void TestPrintDialog::keysReachPanelsAndRegions()
 void TestPrintDialog::everyStopIsReachedOnceAndHasAName()
 {
     auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
-    begin.line.pages = "1-2";
-    begin.line.copies = 2;
+    begin.session.job.options = {{"StapleLocation", "SinglePortrait"},
+                                 {"MediaType", "Transparency"}};
+    begin.session.job.pages = "1-2";
+    begin.session.job.copies = 2;
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     shown.dialog.activateWindow();
@@ -1184,7 +1187,7 @@ void TestPrintDialog::everythingFits()
     });
     auto begin = options();
     // A conflict and a caution.
-    begin.line.options = {
+    begin.session.job.options = {
         {"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}, {"media", "A5"}};
     Shown shown(begin);
     shown.dialog.resize(size);
