@@ -7,12 +7,21 @@
 #include "session_words.h"
 #include "terminal.h"
 
+#include <QTimer>
+
 #include <utility>
 
 namespace kelvo {
 
 using Step = PrintRefusal::Step;
 using Stage = DialogSession::Stage;
+
+namespace {
+
+// So long an interrupted job may still tell what became of it.
+constexpr int interruptMs = 5000;
+
+} // namespace
 
 PrintFlow::PrintFlow(DialogSession &session, SessionCautions &cautions, PrintPlan plan)
     : m_session(session)
@@ -183,6 +192,20 @@ void PrintFlow::cancel()
 {
     if (m_run)
         m_run->cancel();
+}
+
+void PrintFlow::interrupt()
+{
+    cancel();
+    QTimer::singleShot(interruptMs, this, [this] {
+        if (!m_run)
+            return;
+        const QString problem =
+            QStringLiteral("interrupted while the job was being sent; it may have been accepted: "
+                           "look at the printer's queue before you print again");
+        printLine(stderr, QStringLiteral("kelvo-print: ") + problem);
+        refuse(Step::Job, ExitStatus::Failed, notPrinted(), problem);
+    });
 }
 
 void PrintFlow::takeOutcome(const PrintOutcome &outcome)

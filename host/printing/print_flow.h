@@ -71,6 +71,9 @@ public:
     // A press that finds no button to press; refused() does not tell of it.
     void refuseUnready();
     void cancel(); // the outcome says whether it was in time
+    // The same for whoever cannot wait long: where no outcome comes, the job is refused
+    // after a few seconds, and standard error says that it may be out.
+    void interrupt();
 
     bool isPrinting() const { return m_run != nullptr; }
     // Of the job that is on its way, or the last one; null before.

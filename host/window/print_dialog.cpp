@@ -1,10 +1,8 @@
 #include "print_dialog.h"
 
 #include "caution_bar.h"
-#include "control.h"
 #include "dialog_foot.h"
 #include "document_preview.h"
-#include "focus_regions.h"
 #include "help_window.h"
 #include "job_details_dialog.h"
 #include "modal_dialog.h"
@@ -16,7 +14,6 @@
 #include "session_words.h"
 #include "spin_field.h"
 #include "terminal.h"
-#include "ticket_places.h"
 #include "waiting_pane.h"
 #include "window_columns.h"
 
@@ -24,12 +21,9 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QToolButton>
-#include <QVBoxLayout>
-#include <QWindow>
 
 #include <algorithm>
 #include <cstdio>
@@ -39,14 +33,6 @@ namespace kelvo {
 
 namespace {
 
-// Logical pixels at the usual font; they grow with a larger one.
-constexpr QSize paneSize(540, 491);
-constexpr QSize windowSize(900, 660);
-constexpr int lowestWindow = 420;
-
-constexpr int margin = 10;
-constexpr int gap = 6; // between rows
-
 // So long after the user's last change, settings are written and checked.
 constexpr int lookDelayMs = 150;
 
@@ -54,63 +40,35 @@ constexpr int lookDelayMs = 150;
 // gone before it can be read, and one frame less.
 constexpr int graceMs = 40;
 
-// So long scripts wait for panels of hidden tabs; one may fail to be built.
-constexpr int panelsWaitMs = 1000;
 // So long the document waits for the first frame with the printer's settings.
 constexpr int firstFrameMs = 300;
-// So long an interrupted job may still tell what became of it.
-constexpr int interruptMs = 5000;
-constexpr int activationWaitMs = 1000; // a window manager takes less
 // So often a window looks whether its printer goes on.
 constexpr int watchMs = 5000;
 
 constexpr OSType kNextTab = fourCharCode("KFup");
 constexpr OSType kPreviousTab = fourCharCode("KFdn");
 
-// What a window may take of its screen. Without a screen that anybody sees the
-// window is as large as it likes: scripts meet the same window everywhere.
-QSize availableSize(const QWidget *window)
-{
-    if (QGuiApplication::platformName() == QLatin1String("offscreen") || !window->screen())
-        return {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
-    // A window's frame is known only once it is shown.
-    constexpr int usualFrame = 40;
-    QMargins frame;
-    if (const QWindow *shown = window->windowHandle())
-        frame = shown->frameMargins();
-    const int bars = std::max(frame.top() + frame.bottom(), usualFrame);
-    return window->screen()->availableSize() - QSize(frame.left() + frame.right(), bars);
-}
-
 } // namespace
 
 PrintDialog::PrintDialog(DialogOptions options)
-    : m_columns(new WindowColumns(this))
-    , m_switch(new PanelSwitch(m_columns->right()))
-    , m_places(this, m_switch)
-    , m_scroll(new PaneScroll(m_columns->right()))
-    , m_stack(new QStackedWidget)
-    , m_waiting(new WaitingPane(m_stack))
-    , m_panes(new QWidget(m_stack))
+    : m_parts(this)
+    , m_places(this, m_parts.panelSwitch)
     , m_extension(options.session.bundle
-                      ? std::make_unique<Extension>(options.session.bundle, m_panes)
+                      ? std::make_unique<Extension>(options.session.bundle, m_parts.panes)
                       : nullptr)
     , m_session(std::make_unique<DialogSession>(std::move(options.session), m_extension.get()))
     , m_cautions(*m_session, m_session->search().hasQueue() && !options.plan.elsewhere,
                  [this] { return place(); })
     , m_flow(*m_session, m_cautions, std::move(options.plan))
+    , m_choices(this, m_session->job())
     , m_presets(new PresetMenu(m_session->job(), options.preset))
-    , m_printer(new PrinterPane(m_presets, m_columns->left()))
-    , m_preview(new DocumentPreview(m_columns->left()))
-    , m_cautionBar(new CautionBar(this))
-    , m_foot(new DialogFoot(m_columns->toggle(), this))
 {
     setObjectName(QStringLiteral("printDialog"));
     setPrintWindow(this);
-    setWindowButtons(this, m_foot->print(), m_foot->cancel());
-    buildWindow();
+    setWindowButtons(this, m_parts.foot->print(), m_parts.foot->cancel());
+    m_parts.place(new PrinterPane(m_presets, m_parts.columns->left()));
     addShortcuts();
-    fitToFont();
+    m_parts.fitToFont();
     m_flow.setQuestions(this);
 
     m_look.setSingleShot(true);
@@ -131,27 +89,23 @@ PrintDialog::PrintDialog(DialogOptions options)
     watchEvents([this](const Event &event) {
         if (!isReady())
             return;
-        noteChoice(event);
+        m_choices.note(event);
         m_look.start();
     });
     connect(&m_flow, &PrintFlow::started, this, [this] {
         m_look.stop();
         showPrinting(true);
-        m_foot->cancel()->setFocus();
+        m_parts.foot->cancel()->setFocus();
     });
     connect(&m_flow, &PrintFlow::printed, this, &PrintDialog::takePrinted);
     connect(&m_flow, &PrintFlow::refused, this, &PrintDialog::takeRefusal);
 
     connect(m_session.get(), &DialogSession::printersChanged, this, [this] {
-        const PrinterSearch &search = m_session->search();
-        if (search.hasQueue())
-            m_printer->setPrinters(search.printers(), search.name());
-        else
-            m_printer->setDevice(search.name());
-        giveFirstFocus();
+        showPrinters();
+        m_parts.giveFirstFocus();
     });
     connect(m_session.get(), &DialogSession::conditionChanged, this, [this] {
-        m_printer->setPrinters(m_session->search().printers(), m_session->search().name());
+        showPrinters();
         m_look.start();
     });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
@@ -162,12 +116,12 @@ PrintDialog::PrintDialog(DialogOptions options)
         end(ExitStatus::NotOffered);
     });
 
-    connect(m_printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
+    connect(m_parts.printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
         commitTypedValues(this);
         if (const Extension *shown = panels())
             m_place = m_places.current(*shown);
         m_session->choosePrinter(name);
-        m_printer->setPrinters(m_session->search().printers(), m_session->search().name());
+        showPrinters();
     });
     // Installed first, so asked last: the shell shows the tab and passes the command on.
     m_handler = installEventHandler(this, [this](const Event &event) -> OSStatus {
@@ -175,23 +129,23 @@ PrintDialog::PrintDialog(DialogOptions options)
             && (event.command == kNextTab || event.command == kPreviousTab);
         return isTab && panels() ? noErr : eventNotHandledErr;
     });
-    connect(m_printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
-    connect(m_switch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
-    connect(m_waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
-    connect(m_cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
-    connect(m_foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
-    connect(m_foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
-    connect(m_foot->cancel(), &QPushButton::clicked, this, [this] {
-        if (sendEvent({.kind = EventKind::ControlHit, .source = m_foot->cancel()})
+    connect(m_parts.printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
+    connect(m_parts.panelSwitch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
+    connect(m_parts.waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
+    connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
+    connect(m_parts.foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
+    connect(m_parts.foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(m_parts.foot->cancel(), &QPushButton::clicked, this, [this] {
+        if (sendEvent({.kind = EventKind::ControlHit, .source = m_parts.foot->cancel()})
             == eventNotHandledErr)
             pressCancel();
     });
-    connect(m_foot->print(), &QPushButton::clicked, this, [this] {
+    connect(m_parts.foot->print(), &QPushButton::clicked, this, [this] {
         // What was typed last counts. Only when nobody takes the press does the
         // host print.
         m_flow.forgetRefusal();
         commitTypedValues(this);
-        if (sendEvent({.kind = EventKind::ControlHit, .source = m_foot->print()})
+        if (sendEvent({.kind = EventKind::ControlHit, .source = m_parts.foot->print()})
             == eventNotHandledErr)
             print();
     });
@@ -206,28 +160,6 @@ PrintDialog::~PrintDialog()
     m_session->stop(); // before the panes that its panels stand in
 }
 
-void PrintDialog::buildWindow()
-{
-    m_preview->setObjectName(QStringLiteral("preview"));
-    m_scroll->setObjectName(QStringLiteral("panels"));
-    m_switch->setObjectName(QStringLiteral("panelSwitch"));
-    m_switch->setAccessibleName(tr("Panels"));
-    m_switch->hide();
-    auto *panesLayout = new QVBoxLayout(m_panes);
-    panesLayout->setContentsMargins(0, 0, 0, 0);
-    m_stack->addWidget(m_waiting);
-    m_stack->addWidget(m_panes);
-    m_scroll->setWidget(m_stack);
-    m_columns->setParts(m_printer, m_preview, m_switch, m_scroll);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(gap);
-    layout->addWidget(m_columns, 1);
-    layout->addWidget(m_cautionBar);
-    layout->addWidget(m_foot);
-}
-
 void PrintDialog::addShortcuts()
 {
     const auto add = [this](const QKeySequence &keys, auto &&action) {
@@ -235,39 +167,23 @@ void PrintDialog::addShortcuts()
     };
     for (int i = 0; i < 9; ++i)
         add(QKeySequence(int(Qt::ALT) | (int(Qt::Key_1) + i)), [this, i] {
-            if (m_switch->isVisibleTo(this) && i < m_switch->count())
-                m_switch->setCurrentIndex(i);
+            if (m_parts.panelSwitch->isVisibleTo(this) && i < m_parts.panelSwitch->count())
+                m_parts.panelSwitch->setCurrentIndex(i);
         });
     add(Qt::CTRL | Qt::Key_PageUp, [this] { sendCommand(this, kPreviousTab); });
     add(Qt::CTRL | Qt::Key_PageDown, [this] { sendCommand(this, kNextTab); });
     add(Qt::CTRL | Qt::Key_P, [this] { pressPrint(); });
     add(Qt::Key_F1, [this] { showHelp(); });
-    add(Qt::Key_F6, [this] { goToRegion(true); });
-    add(Qt::SHIFT | Qt::Key_F6, [this] { goToRegion(false); });
-    add(Qt::Key_F9, [this] { m_columns->toggle()->click(); });
-}
-
-// Sizes that a layout cannot know: they follow the font.
-void PrintDialog::fitToFont()
-{
-    const double scale = fontScale(this);
-    m_stack->setMinimumSize(paneSize * scale);
-    m_foot->fitToFont();
-    fitToPanels();
-    resize((windowSize * scale).boundedTo(availableSize(this)));
-}
-
-void PrintDialog::fitToPanels()
-{
-    const QSize smallest(m_columns->smallestWidth() + 2 * margin, lowestWindow);
-    setMinimumSize(smallest.boundedTo(availableSize(this)));
+    add(Qt::Key_F6, [this] { m_parts.goToRegion(true); });
+    add(Qt::SHIFT | Qt::Key_F6, [this] { m_parts.goToRegion(false); });
+    add(Qt::Key_F9, [this] { m_parts.columns->toggle()->click(); });
 }
 
 void PrintDialog::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange && m_session)
-        fitToFont();
+        m_parts.fitToFont();
 }
 
 void PrintDialog::start()
@@ -275,7 +191,7 @@ void PrintDialog::start()
     m_firstFrame.start();
     m_session->start();
     updatePrintButton();
-    giveFirstFocus();
+    m_parts.giveFirstFocus();
     if (m_session->stage() == DialogSession::Stage::Searching)
         m_grace.start();
     else if (!m_finished)
@@ -304,34 +220,33 @@ QString PrintDialog::place() const
     return shown ? m_places.current(*shown).text() : QString();
 }
 
+void PrintDialog::showPrinters()
+{
+    const PrinterSearch &search = m_session->search();
+    if (search.hasQueue())
+        m_parts.printer->setPrinters(search.printers(), search.name());
+    else
+        m_parts.printer->setDevice(search.name());
+}
+
 void PrintDialog::takeStage()
 {
     Extension *shown = panels();
-    m_sinceReady.start();
-    m_waiting->setMessage(m_session->message());
-    m_stack->setCurrentWidget(shown ? m_panes : m_waiting);
+    m_parts.noteReady();
+    m_parts.waiting->setMessage(m_session->message());
+    m_parts.stack->setCurrentWidget(shown ? m_parts.panes : m_parts.waiting);
     if (shown)
         m_places.goTo(m_place, *shown);
-    {
-        const QSignalBlocker silence(m_switch);
-        QStringList titles;
-        if (shown) {
-            for (const Extension::Panel &panel : shown->panels())
-                titles.append(QString(panel.title).replace(u'&', QStringLiteral("&&")));
-        }
-        m_switch->setTitles(titles);
-        m_switch->setValue(shown ? shown->shownPanel() + 1 : 0);
-        m_switch->setVisible(titles.size() > 1);
-    }
-    m_printer->setSettingsEnabled(isReady());
+    m_places.showSwitch(shown);
+    m_parts.printer->setSettingsEnabled(isReady());
     if (!isReady())
-        m_cautionBar->setContents({}, {});
-    fitToPanels();
-    m_columns->arrange();
-    arrangeTabOrder();
+        m_parts.cautionBar->setContents({}, {});
+    m_parts.fitToPanels();
+    m_parts.columns->arrange();
+    m_parts.arrangeTabOrder();
     updatePrintButton();
     updateFoot();
-    giveFirstFocus();
+    m_parts.giveFirstFocus();
     if (m_grace.isActive() && m_session->stage() != DialogSession::Stage::Searching)
         m_grace.start(0); // when all that this stage brings is in place
 }
@@ -341,11 +256,11 @@ void PrintDialog::takeDocument()
     updateTitle();
     const DocumentOpening &document = m_session->document();
     if (!document.document().isNull()) {
-        m_preview->setMessage({});
-        m_preview->setDocument(document.document());
+        m_parts.preview->setMessage({});
+        m_parts.preview->setDocument(document.document());
     } else {
-        m_preview->setMessage(document.isPending() ? tr("Opening %1…").arg(document.title())
-                                                   : document.problem());
+        m_parts.preview->setMessage(document.isPending() ? tr("Opening %1…").arg(document.title())
+                                                         : document.problem());
     }
     // Its pages may be too large; the first look may still be to come.
     if (m_hasLooked)
@@ -358,8 +273,8 @@ void PrintDialog::takeDocument()
 void PrintDialog::takeSettings()
 {
     m_cautions.forget();
-    m_printer->dropTypedText();
-    m_printer->setSettings(m_session->job().settings(), m_session->job().ppd());
+    m_parts.printer->dropTypedText();
+    m_parts.printer->setSettings(m_session->job().settings(), m_session->job().ppd());
     if (!m_hasLooked) {
         // Conflicts take a reading of the whole description: the frame comes first.
         m_hasLooked = true;
@@ -379,8 +294,8 @@ void PrintDialog::updateTitle()
 void PrintDialog::updatePrintButton()
 {
     const bool isBusy = m_flow.isPrinting() || m_sent.isTelling();
-    m_foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
-    m_foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
+    m_parts.foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
+    m_parts.foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
 }
 
 void PrintDialog::updatePreview()
@@ -398,13 +313,13 @@ void PrintDialog::updatePreview()
     layout.twoSided = job.isTwoSided();
     layout.special = job.specialSheets();
     layout.words = job.specialSheetKeys();
-    m_preview->setLayout(layout);
+    m_parts.preview->setLayout(layout);
 }
 
 void PrintDialog::updateFoot()
 {
     if (m_flow.isPrinting()) {
-        m_foot->setText(m_flow.destination()->onTheWay());
+        m_parts.foot->setText(m_flow.destination()->onTheWay());
         return;
     }
     QString text;
@@ -412,11 +327,11 @@ void PrintDialog::updateFoot()
         // Pages that are still to be typed are no mistake yet.
         const QString unfinished = unfinishedPages();
         const QString problem = unfinished.isEmpty() ? pagesProblem(*m_session) : unfinished;
-        m_printer->setPagesProblem(unfinished.isEmpty() ? problem : QString());
+        m_parts.printer->setPagesProblem(unfinished.isEmpty() ? problem : QString());
         text = problem.isEmpty() ? jobInShort(*m_session)
                                  : tr("Not to be printed like this. Pages: %1").arg(problem);
     }
-    m_foot->setText(text);
+    m_parts.foot->setText(text);
 }
 
 // ---- panels and settings
@@ -428,7 +343,7 @@ void PrintDialog::showPanelAt(int index)
         return;
     commitTypedValues(this);
     shown->show(index);
-    arrangeTabOrder();
+    m_parts.arrangeTabOrder();
     m_look.start();
 }
 
@@ -436,31 +351,13 @@ void PrintDialog::changeSettings()
 {
     if (!isReady())
         return;
-    m_session->job().change(m_printer->settings());
+    m_session->job().change(m_parts.printer->settings());
     m_look.start();
-}
-
-// What is set in a dialog above this one counts once that is closed with OK.
-void PrintDialog::noteChoice(const Event &event)
-{
-    if (event.kind == EventKind::FocusChanged)
-        return;
-    const TicketPlaces places = ticketPlacesOf(event.source, event.command);
-    QWidget *window = event.source->window();
-    if (window == this) {
-        m_chosenInDialogs.clear();
-        m_session->job().choose(places);
-        return;
-    }
-    m_chosenInDialogs.insert(places.begin(), places.end());
-    const auto *dialog = qobject_cast<QDialog *>(window);
-    if (dialog && !dialog->isVisible() && dialog->result() == QDialog::Accepted)
-        m_session->job().choose(std::exchange(m_chosenInDialogs, {}));
 }
 
 void PrintDialog::noteSet(QWidget *control)
 {
-    noteChoice({.kind = EventKind::ControlHit, .source = control});
+    m_choices.note({.kind = EventKind::ControlHit, .source = control});
     m_look.start();
 }
 
@@ -475,16 +372,16 @@ void PrintDialog::lookAtSettings()
     m_cautions.look();
     if (m_isDriven)
         m_cautions.sayWhatHappened();
-    m_cautionBar->setContents(m_session->job().conflicts(), m_cautions.all());
+    m_parts.cautionBar->setContents(m_session->job().conflicts(), m_cautions.all());
     showWhatFollows();
 }
 
 void PrintDialog::showWhatFollows()
 {
-    m_printer->setSettings(m_session->job().settings(), m_session->job().ppd());
+    m_parts.printer->setSettings(m_session->job().settings(), m_session->job().ppd());
     m_presets->updateStar();
-    arrangeTabOrder();
-    m_scroll->updateScrollBar();
+    m_parts.arrangeTabOrder();
+    m_parts.scroll->updateScrollBar();
     updatePreview();
     updateFoot();
     updatePrintButton();
@@ -523,14 +420,14 @@ void PrintDialog::showHelp()
 
 QString PrintDialog::unfinishedPages() const
 {
-    return m_printer->arePagesMissing() ? tr("Type the pages to print.") : QString();
+    return m_parts.printer->arePagesMissing() ? tr("Type the pages to print.") : QString();
 }
 
 void PrintDialog::pressPrint()
 {
     m_flow.forgetRefusal();
-    if (m_foot->print()->isEnabled())
-        m_foot->print()->click();
+    if (m_parts.foot->print()->isEnabled())
+        m_parts.foot->print()->click();
     else if (!m_flow.isPrinting() && !m_finished && m_isDriven)
         m_flow.refuseUnready();
 }
@@ -561,9 +458,8 @@ bool PrintDialog::printsAnyway(const Caution &caution)
 
 void PrintDialog::showPrinting(bool printing)
 {
-    m_columns->setEnabled(!printing);
-    m_cautionBar->setEnabled(!printing);
-    m_foot->setBusy(printing);
+    m_parts.setEnabled(!printing);
+    m_parts.foot->setBusy(printing);
     updatePrintButton();
     updateFoot();
 }
@@ -572,12 +468,12 @@ void PrintDialog::showPrinting(bool printing)
 void PrintDialog::takeRefusal(const PrintRefusal &refusal)
 {
     if (refusal.step == PrintRefusal::Step::Pages)
-        m_printer->focusPages();
+        m_parts.printer->focusPages();
     if (refusal.step == PrintRefusal::Step::Conflicts)
         m_look.start();
     if (refusal.step == PrintRefusal::Step::Job) {
         showPrinting(false);
-        m_foot->print()->setFocus();
+        m_parts.foot->print()->setFocus();
         if (m_isInterrupted) {
             end(refusal.status);
             return;
@@ -605,12 +501,11 @@ void PrintDialog::takePrinted(const QString &place)
     }
     const QString text = m_flow.destination()->arrived(place);
     m_sent.tell(text, m_session->document().title());
-    m_columns->setEnabled(false);
-    m_cautionBar->setEnabled(false);
+    m_parts.setEnabled(false);
     updatePrintButton();
-    m_foot->setText(text);
-    m_foot->cancel()->setText(tr("Close"));
-    m_foot->cancel()->setFocus();
+    m_parts.foot->setText(text);
+    m_parts.foot->cancel()->setText(tr("Close"));
+    m_parts.foot->cancel()->setFocus();
 }
 
 void PrintDialog::pressCancel()
@@ -618,7 +513,7 @@ void PrintDialog::pressCancel()
     if (m_flow.isPrinting()) {
         // The outcome says whether it was in time.
         m_flow.cancel();
-        m_foot->setText(tr("Cancelling…"));
+        m_parts.foot->setText(tr("Cancelling…"));
         return;
     }
     if (m_sent.isTelling()) {
@@ -635,18 +530,8 @@ void PrintDialog::interrupt()
         end(m_sent.isTelling() ? ExitStatus::Printed : ExitStatus::Cancelled);
         return;
     }
-    m_flow.cancel();
     m_isInterrupted = true;
-    QTimer::singleShot(interruptMs, this, [this] {
-        if (m_finished)
-            return;
-        printLine(
-            stderr,
-            QStringLiteral("kelvo-print: interrupted while the job was being sent; it may have "
-                           "been accepted: look at the printer's queue before you print "
-                           "again"));
-        end(ExitStatus::Failed);
-    });
+    m_flow.interrupt();
 }
 
 void PrintDialog::end(ExitStatus status)
@@ -669,13 +554,13 @@ void PrintDialog::end(ExitStatus status)
 void PrintDialog::closeEvent(QCloseEvent *event)
 {
     event->ignore(); // end() closes it
-    m_foot->cancel()->click();
+    m_parts.foot->cancel()->click();
 }
 
 void PrintDialog::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
-        m_foot->cancel()->click();
+        m_parts.foot->cancel()->click();
         return;
     }
     QWidget::keyPressEvent(event);
@@ -694,61 +579,16 @@ void PrintDialog::paintEvent(QPaintEvent *event)
 void PrintDialog::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    m_sinceShown.start();
+    m_parts.noteShown();
     if (!m_isDriven && m_session->search().hasQueue())
         m_watch.start();
-}
-
-// Panels make their controls when they are first shown: later than the buttons
-// below them, which come after them all the same.
-void PrintDialog::arrangeTabOrder()
-{
-    const QList<QWidget *> panelStops = focusStopsIn(m_scroll);
-    if (panelStops == m_panelStops)
-        return;
-    m_panelStops = panelStops;
-    chainFocusStops(focusStopsIn(m_printer) + focusStopsIn(m_preview) + QList<QWidget *>{m_switch}
-                    + panelStops + focusStopsIn(m_cautionBar)
-                    + QList<QWidget *>{m_columns->toggle(), m_foot->details(), m_foot->help(),
-                                       m_foot->cancel(), m_foot->print()});
-}
-
-// The keyboard begins at the printers; while there are none to choose from, at
-// what can be pressed.
-void PrintDialog::giveFirstFocus()
-{
-    QWidget *holder = focusWidget();
-    if (holder && holder->isEnabled() && holder != m_firstFocus)
-        return; // where the user, or a pane, wants it
-    QWidget *first = m_printer->firstControl();
-    m_firstFocus = first->isEnabled() ? first : m_foot->cancel();
-    if (holder != m_firstFocus)
-        m_firstFocus->setFocus(Qt::OtherFocusReason);
-}
-
-void PrintDialog::goToRegion(bool forward)
-{
-    focusNextRegion({m_printer, m_preview, m_switch, m_scroll, m_cautionBar, m_columns->toggle(),
-                     m_foot->print()},
-                    forward);
 }
 
 // ---- what scripts ask
 
 bool PrintDialog::isIdle() const
 {
-    // Shortcuts reach only an active window, and a window becomes active some
-    // time after it was shown; without a window manager it may never.
-    if (isVisible() && !QApplication::activeWindow() && m_sinceShown.elapsed() < activationWaitMs)
-        return false;
-    // A button that its mnemonic pressed comes up again a moment later, and only
-    // then does what it is for.
-    const auto buttons = findChildren<QAbstractButton *>();
-    if (std::any_of(buttons.cbegin(), buttons.cend(),
-                    [](const QAbstractButton *each) { return each->isDown(); }))
-        return false;
-    // The panels of hidden tabs follow the first frame.
-    if (m_sinceReady.isValid() && m_sinceReady.elapsed() < panelsWaitMs && !arePanelsBuilt())
+    if (!m_parts.isAtRest())
         return false;
     return m_finished
         || (m_session->stage() != DialogSession::Stage::Searching
@@ -757,19 +597,9 @@ bool PrintDialog::isIdle() const
             && !m_firstFrame.isActive());
 }
 
-// A pane has a layout from when its panel's content is put into it.
-bool PrintDialog::arePanelsBuilt() const
-{
-    const auto panes = m_scroll->findChildren<QWidget *>();
-    return std::all_of(panes.cbegin(), panes.cend(), [](const QWidget *pane) {
-        const auto id = controlIDOf(pane);
-        return !id || id->signature != kUserPaneSignature || pane->layout();
-    });
-}
-
 bool PrintDialog::isDrawing() const
 {
-    return m_preview->isVisible() && m_preview->isDrawing();
+    return m_parts.preview->isVisible() && m_parts.preview->isDrawing();
 }
 
 // An error is the printer's: there are none to be had.
@@ -788,7 +618,7 @@ Result<void> PrintDialog::showPanel(const QString &name)
     Extension *shown = panels();
     if (!shown)
         return Error{Error::Code::NotFound, name, tr("there are no panels")};
-    m_columns->showRight();
+    m_parts.columns->showRight();
     return m_places.showPanel(*shown, name);
 }
 
@@ -796,13 +626,13 @@ Result<void> PrintDialog::showTab(int tab)
 {
     if (auto found = findPanels(); !found)
         return found;
-    m_columns->showRight();
+    m_parts.columns->showRight();
     return m_places.showTab(tab);
 }
 
 QString PrintDialog::placeOf(const QWidget *control) const
 {
-    if (m_columns->left()->isAncestorOf(control))
+    if (m_parts.columns->left()->isAncestorOf(control))
         return tr("the left column");
     const Extension *shown = panels();
     return shown ? PanelPlaces::placeOf(control, *shown) : QString();

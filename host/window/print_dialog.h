@@ -1,5 +1,7 @@
 #pragma once
 
+#include "choice_notes.h"
+#include "dialog_parts.h"
 #include "dialog_session.h"
 #include "event.h"
 #include "extension.h"
@@ -9,24 +11,12 @@
 #include "sent_message.h"
 #include "session_cautions.h"
 
-#include <QElapsedTimer>
-#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
-class QStackedWidget;
-
 namespace kelvo {
 
-class CautionBar;
-class DialogFoot;
-class DocumentPreview;
-class PaneScroll;
-class PanelSwitch;
 class PresetMenu;
-class PrinterPane;
-class WaitingPane;
-class WindowColumns;
 
 // What a print dialog begins with.
 struct DialogOptions
@@ -91,12 +81,10 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void buildWindow();
     void addShortcuts();
-    void fitToFont();
-    void fitToPanels();
 
     // The session tells.
+    void showPrinters();
     void takeStage();
     void takeDocument();
     void takeSettings();
@@ -104,14 +92,11 @@ private:
     // The user tells.
     void showPanelAt(int index);
     void changeSettings();
-    void noteChoice(const Event &event);
     void lookAtSettings();  // writes, checks, and shows what follows
     void showWhatFollows(); // all but conflicts
     void fixConflicts();
     void showDetails();
     void showHelp();
-    void goToRegion(bool forward);
-    void giveFirstFocus();
 
     // Print.
     void print();
@@ -127,41 +112,26 @@ private:
     Extension *panels() const; // null: there are none to show
     QString place() const;     // where the user is among them
     Result<void> findPanels() const;
-    bool arePanelsBuilt() const;
-    void arrangeTabOrder();
     void updatePrintButton();
     void updatePreview();
     void updateFoot();
     void updateTitle();
 
-    WindowColumns *m_columns;
-    PanelSwitch *m_switch;
+    DialogParts m_parts;
     PanelPlaces m_places;
-    PaneScroll *m_scroll;
-    QStackedWidget *m_stack; // the waiting pane, or the panels
-    WaitingPane *m_waiting;
-    QWidget *m_panes;                       // parent of the device's panels
     std::unique_ptr<Extension> m_extension; // null: there is no bundle
     std::unique_ptr<DialogSession> m_session;
     SessionCautions m_cautions;
     PrintFlow m_flow;
+    ChoiceNotes m_choices;
     PresetMenu *m_presets;
-    PrinterPane *m_printer;
-    DocumentPreview *m_preview;
-    CautionBar *m_cautionBar;
-    DialogFoot *m_foot;
 
-    QList<QWidget *> m_panelStops; // the tab order is made for these; compared, never followed
-    QTimer m_look;                 // lookAtSettings() soon
-    QTimer m_grace;                // until then the window is not shown
-    QTimer m_firstFrame;           // until then the document is not opened
-    bool m_hasLooked = false;      // at the settings of any printer
+    QTimer m_look;            // lookAtSettings() soon
+    QTimer m_grace;           // until then the window is not shown
+    QTimer m_firstFrame;      // until then the document is not opened
+    bool m_hasLooked = false; // at the settings of any printer
     bool m_isDriven = false;
-    bool m_isInterrupted = false;   // what is under way is the last
-    QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
-    TicketPlaces m_chosenInDialogs; // until they close
-    QElapsedTimer m_sinceShown;
-    QElapsedTimer m_sinceReady; // for the printer, or known not to be
+    bool m_isInterrupted = false; // what is under way is the last
     QMap<QString, QString> m_secrets;
 
     PanelPlaces::Place m_place; // among the panels that were shown last
