@@ -67,6 +67,7 @@ void PrintFlow::refuseUnready()
 
 void PrintFlow::press(const QString &unfinished)
 {
+    Q_ASSERT(!m_run);
     m_refusal.reset();
     if (!hasDestination())
         return;

@@ -66,7 +66,8 @@ public:
 
     // Why there is nothing to press; empty when there is.
     QString whyNotReady() const;
-    // `unfinished` is what the user has still to type of the pages, a sentence; mostly empty.
+    // Not while a job is on its way. `unfinished` is what the user has still to type of the
+    // pages, a sentence; mostly empty.
     void press(const QString &unfinished = {});
     // A press that finds no button to press; refused() does not tell of it.
     void refuseUnready();
