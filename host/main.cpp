@@ -244,10 +244,9 @@ struct Failure
 };
 
 // Reads everything that can be read before there is a window.
-std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString> &secrets,
-                                  std::vector<ScriptLine> &script)
+std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &options,
+                                  QMap<QString, QString> &secrets, std::vector<ScriptLine> &script)
 {
-    const CommandLine &line = options.line;
     if (const auto checked = checkOutputTargets(line); !checked)
         return Failure{ExitStatus::WrongUsage, checked.error().text()};
     for (auto secret = line.secretFiles.cbegin(); secret != line.secretFiles.cend(); ++secret) {
@@ -275,7 +274,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
         if (!ticket)
             return Failure{ExitStatus::InvalidTicket,
                            ticketProblem(*line.ticketIn, ticket.error())};
-        options.ticketIn = std::move(ticket).value();
+        options.session.job.ticketIn = std::move(ticket).value();
     }
     if (line.preset) {
         auto preset = PresetStore().read(*line.preset);
@@ -283,7 +282,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
             return Failure{preset.error().code == Error::Code::NotFound ? ExitStatus::WrongUsage
                                                                         : ExitStatus::InvalidTicket,
                            preset.error().text()};
-        options.preset = std::move(preset).value();
+        options.session.job.preset = std::move(preset).value();
     }
     const QString devicePath = line.demo
         ? findSharedFile(QStringLiteral("ppds/kelvo-corvane-full.ppd"))
@@ -298,7 +297,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
                 ExitStatus::NoDestination,
                 inputProblem(line.demo ? QStringLiteral("--demo") : QStringLiteral("--ppd"),
                              device.error(), "check its name, or name a queue with -d")};
-        options.device = std::move(device).value();
+        options.session.printer.device = std::move(device).value();
     }
     DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
     if (line.file.isEmpty() && line.demo && !line.readsStandardInput) {
@@ -317,7 +316,7 @@ std::optional<Failure> readInputs(DialogOptions &options, QMap<QString, QString>
                                       "folder that it is looked for in (%2)")
                            .arg(line.file, QDir::currentPath())};
     }
-    options.document = source;
+    options.session.document = source;
     return std::nullopt;
 }
 
@@ -339,12 +338,35 @@ int listQueues(int timeoutMs)
     return 0;
 }
 
-int runDialog(DialogOptions options)
+// What of the command line a dialog begins with; readInputs() adds what is in files.
+DialogOptions dialogOptions(const CommandLine &line)
+{
+    DialogOptions options;
+    PrinterSearch::Wanted &printer = options.session.printer;
+    printer.name = line.destination.value_or(QString());
+    printer.timeoutMs = line.timeoutSeconds * 1000;
+    if (!line.listControls && !line.demo && !line.ppd) {
+        printer.directory = std::make_shared<PrinterDirectory>();
+        printer.directory->refresh(printer.timeoutMs);
+        if (line.destination)
+            printer.directory->fetchPpd(printer.name, printer.timeoutMs);
+    }
+    options.session.job.options = line.options;
+    options.session.job.copies = line.copies;
+    options.session.job.pages = line.pages;
+    options.preset = line.preset.value_or(QString());
+    if (line.toFolder)
+        options.plan.elsewhere = folderDestination(*line.toFolder);
+    options.plan.ticketOut = line.ticketOut;
+    options.plan.presetOut = line.presetOut;
+    return options;
+}
+
+int runDialog(const CommandLine &line, DialogOptions options)
 {
     QMap<QString, QString> secrets;
     std::vector<ScriptLine> script;
-    const CommandLine line = options.line;
-    if (const auto failure = readInputs(options, secrets, script)) {
+    if (const auto failure = readInputs(line, options, secrets, script)) {
         if (failure->status == ExitStatus::Cancelled)
             return toInt(failure->status);
         if (!failure->isOfScript)
@@ -431,20 +453,14 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
 
-    DialogOptions options;
-    options.line = line;
-    if (!line.listControls && !line.demo && !line.ppd) {
-        options.directory = std::make_shared<PrinterDirectory>();
-        options.directory->refresh(line.timeoutSeconds * 1000);
-        if (line.destination)
-            options.directory->fetchPpd(*line.destination, line.timeoutSeconds * 1000);
-    }
+    DialogOptions options = dialogOptions(line);
+    SessionBeginning &session = options.session;
     if (auto bundle = openPanelBundle()) {
-        options.bundle = bundle.value();
+        session.bundle = bundle.value();
         // The host's own pages lie there too; the panels register theirs on their devices only.
-        addHelpFolder(options.bundle->resourcesPath() + QStringLiteral("/help"));
+        addHelpFolder(session.bundle->resourcesPath() + QStringLiteral("/help"));
     } else {
-        options.bundleProblem =
+        session.bundleProblem =
             QStringLiteral("The device panels are missing (%1).").arg(bundle.error().text());
     }
 
@@ -452,13 +468,13 @@ int runApplication(int argc, char **argv, const CommandLine &line)
         return fail(ExitStatus::Failed, noThreadReason());
     if (line.listControls) {
         PrintDialog dialog(options);
-        const auto list = controlList(&dialog, options.bundle);
+        const auto list = controlList(&dialog, session.bundle);
         if (!list)
             return fail(ExitStatus::Failed, list.error().text());
         printLines(stdout, list.value());
         return 0;
     }
-    return runDialog(std::move(options));
+    return runDialog(line, std::move(options));
 }
 
 // A caller may have closed them. What is opened first would get their numbers: a pipe of

@@ -32,7 +32,6 @@ struct JobRequest
     JobSettings settings;         // copies, pages, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one
     SecretKeys secretKeys;        // from the bundle
-    QString title;                // for deliverToQueue; nothing of it enters the document
     QMap<QString, QString>
         queueDefaults; // of the queue (Printer::defaults), to be contradicted where needed
 };

@@ -155,6 +155,14 @@ std::optional<PpdSelection> findFix(PpdFile &ppd, const PpdSelection &selection,
 
 } // namespace
 
+QStringList ConflictReport::sentences() const
+{
+    QStringList sentences;
+    for (const Conflict &conflict : conflicts)
+        sentences.append(conflict.sentence);
+    return sentences;
+}
+
 ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QStringList &lastSet)
 {
     const PpdSelection selection = offeredChoices(session.printSettings().ppdChoices, ppd);

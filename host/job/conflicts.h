@@ -24,6 +24,7 @@ struct ConflictReport
     PpdSelection fix;     // option → choice that would end all; empty when there is none
     QStringList fixWords; // "Set Stapling to None"
     bool isEmpty() const { return conflicts.empty(); }
+    QStringList sentences() const; // of the conflicts
 };
 
 // What is wrong with the session's choices on this PPD; choices that the PPD

@@ -224,17 +224,9 @@ void CautionBar::putAway()
     showLines();
 }
 
-QString conflictSentences(const ConflictReport &report, QChar separator)
-{
-    QStringList sentences;
-    for (const Conflict &conflict : report.conflicts)
-        sentences.append(conflict.sentence);
-    return sentences.join(separator);
-}
-
 QString conflictText(const ConflictReport &report)
 {
-    QStringList paragraphs = {conflictSentences(report, u'\n')};
+    QStringList paragraphs = {report.sentences().join(u'\n')};
     if (report.fix.isEmpty())
         paragraphs.append(CautionBar::tr("Change one of them."));
     else

@@ -66,9 +66,7 @@ private:
     bool m_isColouring = false;
 };
 
-// What is wrong, a sentence each.
-QString conflictSentences(const ConflictReport &report, QChar separator);
-// The same and what would mend it, a paragraph each, for a notice.
+// What is wrong, and what would mend it, a paragraph each, for a notice.
 QString conflictText(const ConflictReport &report);
 
 } // namespace kelvo

@@ -34,6 +34,7 @@ struct Extension::Private
     };
 
     Bundle *bundle = nullptr;
+    QWidget *panesParent = nullptr;
     PlugInInstance *instance = nullptr;
     PanelInterface *shell = nullptr; // held until the end
     PrintSession *session = nullptr;
@@ -42,7 +43,7 @@ struct Extension::Private
     int shown = -1;
 
     // Prologue and Initialize of one panel, which joins the lists when both went well.
-    Result<void> add(const PanelOperations &operations, const QString &name, QWidget *parent);
+    Result<void> add(const PanelOperations &operations, const QString &name);
     bool open(Record &record);
     void close(Record &record);
     void sync(Record &record, SyncDirection direction)
@@ -51,10 +52,11 @@ struct Extension::Private
     }
 };
 
-Extension::Extension(Bundle *bundle)
+Extension::Extension(Bundle *bundle, QWidget *panesParent)
     : d(std::make_unique<Private>())
 {
     d->bundle = bundle;
+    d->panesParent = panesParent;
 }
 
 Extension::~Extension()
@@ -104,8 +106,7 @@ Result<void> Extension::load()
     return {};
 }
 
-Result<void> Extension::Private::add(const PanelOperations &operations, const QString &name,
-                                     QWidget *parent)
+Result<void> Extension::Private::add(const PanelOperations &operations, const QString &name)
 {
     PMPDEContext context = nullptr;
     OSType creator = 0;
@@ -116,13 +117,13 @@ Result<void> Extension::Private::add(const PanelOperations &operations, const QS
     if (status != noErr)
         return Error{Code::Refused, name, QStringLiteral("Prologue failed with %1").arg(status)};
 
-    auto *pane = new QWidget(parent);
+    auto *pane = new QWidget(panesParent);
     pane->setObjectName(QStringLiteral("pane") + name);
     auto *layout = new QVBoxLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);
     pane->hide();
-    if (parent->layout())
-        parent->layout()->addWidget(pane);
+    if (panesParent->layout())
+        panesParent->layout()->addWidget(pane);
     const QString shownTitle = title && !title->isEmpty() ? *title : name;
 
     std::uint32_t flags = 0;
@@ -137,11 +138,11 @@ Result<void> Extension::Private::add(const PanelOperations &operations, const QS
     return {};
 }
 
-Result<void> Extension::begin(PrintSession &session, QWidget *parent)
+Result<void> Extension::begin(PrintSession &session)
 {
     Q_ASSERT(d->shell && d->records.empty());
     d->session = &session;
-    if (auto added = d->add(*d->shell->table, shellName, parent); !added) {
+    if (auto added = d->add(*d->shell->table, shellName); !added) {
         d->session = nullptr;
         return added;
     }
@@ -149,12 +150,13 @@ Result<void> Extension::begin(PrintSession &session, QWidget *parent)
     for (const QVariant &entry : getters) {
         const QString getter = string(entry).value_or(QString());
         const auto operations = findPanelOperations(*d->bundle, getter);
-        const auto added = operations ? d->add(operations.value(), panelNameOf(getter), parent)
+        const auto added = operations ? d->add(operations.value(), panelNameOf(getter))
                                       : Result<void>(operations.error());
         if (!added)
             warn(QStringLiteral("%1: panel left out: %2")
                      .arg(d->bundle->path(), added.error().text()));
     }
+    show(0);
     return {};
 }
 
@@ -233,20 +235,6 @@ void Extension::sync(SyncDirection direction)
     }
     if (d->shown >= 0)
         d->sync(d->records[static_cast<std::size_t>(d->shown)], direction);
-}
-
-QStringList Extension::summary()
-{
-    QStringList lines;
-    for (const Private::Record &record : d->records) {
-        SummaryArray titles, texts;
-        record.operations.GetSummaryText(record.context, &titles, &texts);
-        const QStringList names = titles.value_or(QStringList());
-        const QStringList words = texts.value_or(QStringList());
-        for (qsizetype i = 0; i < words.size(); ++i)
-            lines.append(i < names.size() ? names[i] + QStringLiteral(": ") + words[i] : words[i]);
-    }
-    return lines;
 }
 
 } // namespace kelvo

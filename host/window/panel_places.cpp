@@ -83,6 +83,19 @@ Result<void> PanelPlaces::showTab(int number)
         tr("there is no such tab here; there are: %1").arg(names.join(QStringLiteral(", ")))};
 }
 
+void PanelPlaces::showSwitch(const Extension *panels)
+{
+    const QSignalBlocker silence(m_switch);
+    QStringList titles;
+    if (panels) {
+        for (const Extension::Panel &panel : panels->panels())
+            titles.append(QString(panel.title).replace(u'&', QStringLiteral("&&")));
+    }
+    m_switch->setTitles(titles);
+    m_switch->setValue(panels ? panels->shownPanel() + 1 : 0);
+    m_switch->setVisible(titles.size() > 1);
+}
+
 QString PanelPlaces::placeOf(const QWidget *control, const Extension &panels)
 {
     for (const Extension::Panel &panel : panels.panels()) {

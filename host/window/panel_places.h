@@ -26,6 +26,9 @@ public:
     // "tab 4, Advanced"; empty for a control of no panel.
     static QString placeOf(const QWidget *control, const Extension &panels);
 
+    // The switch has a place for each; null: none, and it is not seen.
+    void showSwitch(const Extension *panels);
+
     struct Place
     {
         QString panel;

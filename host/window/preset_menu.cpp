@@ -1,12 +1,11 @@
 #include "preset_menu.h"
 
-#include "dialog_session.h"
 #include "input_limits.h"
 #include "menu_button.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "popup_button.h"
-#include "ticket_attachment.h"
+#include "session_job.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -15,8 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-
-#include <algorithm>
 
 namespace kelvo {
 
@@ -32,21 +29,6 @@ constexpr int maximumNameLength = 60; // characters; what a menu shows
 QString defaultsName()
 {
     return PresetMenu::tr("Default Settings");
-}
-
-// Why no preset can have this name; empty when one can.
-QString problemWithName(const QString &name)
-{
-    if (name.isEmpty())
-        return PresetMenu::tr("Type a name for the preset.");
-    // The star stands behind the name of one that was changed.
-    QString bare = name;
-    if (bare.endsWith(u'*'))
-        bare.chop(1);
-    if (bare.simplified().compare(defaultsName(), Qt::CaseInsensitive) == 0)
-        return PresetMenu::tr("“%1” is how the printer comes. Choose another name.")
-            .arg(defaultsName());
-    return {};
 }
 
 // A preset may have 100 MB, which takes seconds to read and to write.
@@ -65,6 +47,20 @@ struct NameAnswer
 };
 
 } // namespace
+
+QString presetNameProblem(const QString &name)
+{
+    QString bare = name.simplified();
+    if (bare.isEmpty())
+        return PresetMenu::tr("Type a name for the preset.");
+    // The star stands behind the name of one that was changed.
+    if (bare.endsWith(u'*'))
+        bare.chop(1);
+    if (bare.simplified().compare(defaultsName(), Qt::CaseInsensitive) == 0)
+        return PresetMenu::tr("“%1” is how the printer comes. Choose another name.")
+            .arg(defaultsName());
+    return {};
+}
 
 QWidget *makePresetNamePane(const QString &title, const QString &ok, const QString &name,
                             bool asksForSecrets)
@@ -124,7 +120,7 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
     ModalDialog dialog(content, parent);
     dialog.setAcceptRule([&] {
         const QString wanted = field->text().simplified();
-        if (const QString problem = problemWithName(wanted); !problem.isEmpty()) {
+        if (const QString problem = presetNameProblem(wanted); !problem.isEmpty()) {
             CFUserNotificationDisplayNotice(NoticeLevel::Caution,
                                             PresetMenu::tr("A preset cannot have this name"),
                                             problem, {}, &dialog);
@@ -151,10 +147,10 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
 
 } // namespace
 
-PresetMenu::PresetMenu(DialogSession &session, const QString &chosen, QWidget *parent)
+PresetMenu::PresetMenu(SessionJob &job, const QString &chosen, QWidget *parent)
     : QWidget(parent)
-    , m_session(session)
-    , m_chosen(chosen)
+    , m_job(job)
+    , m_presets(job, chosen)
     , m_popup(new PopupButton(this))
     , m_button(new MenuButton(this))
 {
@@ -182,13 +178,13 @@ PresetMenu::PresetMenu(DialogSession &session, const QString &chosen, QWidget *p
                      {.text = tr("Delete"), .command = kDelete}};
     m_button->setMenu(std::move(actions));
     m_button->setMenuUpdate([this](Menu &menu) {
-        const Preset *preset = chosenPreset();
+        const Preset *preset = m_presets.chosen();
         const bool isOwn = preset && !preset->isSite;
-        findItem(menu, kSave)->enabled = isOwn && m_session.isChanged();
+        findItem(menu, kSave)->enabled = isOwn && m_job.isChanged();
         findItem(menu, kRename)->enabled = isOwn;
         findItem(menu, kDelete)->enabled = isOwn;
     });
-    reload();
+    fillMenu(false);
     m_handler = installEventHandler(this, [this](const Event &event) { return handle(event); });
 }
 
@@ -197,48 +193,27 @@ QWidget *PresetMenu::popup() const
     return m_popup;
 }
 
-const Preset *PresetMenu::chosenPreset() const
+void PresetMenu::fillMenu(bool hasStar)
 {
-    const auto preset = std::find_if(m_presets.cbegin(), m_presets.cend(),
-                                     [this](const Preset &p) { return p.name == m_chosen; });
-    return preset == m_presets.cend() ? nullptr : &*preset;
-}
-
-const Preset *PresetMenu::findOwn(const QString &name) const
-{
-    const auto preset =
-        std::find_if(m_presets.cbegin(), m_presets.cend(),
-                     [&name](const Preset &p) { return !p.isSite && p.name == name; });
-    return preset == m_presets.cend() ? nullptr : &*preset;
-}
-
-void PresetMenu::reload()
-{
-    m_presets = m_store.presets();
-    if (!chosenPreset())
-        m_chosen.clear();
-    fillMenu();
-}
-
-void PresetMenu::fillMenu()
-{
-    const auto starred = [this](const QString &name, bool isChosen) {
-        return isChosen && m_hasStar ? tr("%1*", "a preset that was changed").arg(name) : name;
+    m_hasStar = hasStar;
+    const Preset *chosen = m_presets.chosen();
+    const auto starred = [hasStar](const QString &name, bool isChosen) {
+        return isChosen && hasStar ? tr("%1*", "a preset that was changed").arg(name) : name;
     };
+    const std::vector<Preset> &presets = m_presets.all();
     Menu menu;
-    menu.items.push_back(
-        {.text = starred(defaultsName(), m_chosen.isEmpty()), .reference = Defaults});
-    if (!m_presets.empty())
+    menu.items.push_back({.text = starred(defaultsName(), !chosen), .reference = Defaults});
+    if (!presets.empty())
         menu.items.push_back({.reference = Defaults, .divider = true});
     std::int32_t shown = Defaults;
-    for (std::size_t i = 0; i < m_presets.size(); ++i) {
-        const Preset &preset = m_presets[i];
+    for (std::size_t i = 0; i < presets.size(); ++i) {
         const auto reference = static_cast<std::int32_t>(i);
-        const bool isChosen = preset.name == m_chosen;
+        const bool isChosen = &presets[i] == chosen;
         if (isChosen)
             shown = reference;
-        menu.items.push_back(
-            {.text = starred(preset.name, isChosen), .key = preset.name, .reference = reference});
+        menu.items.push_back({.text = starred(presets[i].name, isChosen),
+                              .key = presets[i].name,
+                              .reference = reference});
     }
     m_popup->setMenu(std::move(menu));
     m_popup->setValueByReference(shown);
@@ -246,11 +221,8 @@ void PresetMenu::fillMenu()
 
 void PresetMenu::updateStar()
 {
-    const bool isChanged = m_session.isChanged();
-    if (isChanged == m_hasStar)
-        return;
-    m_hasStar = isChanged;
-    fillMenu();
+    if (const bool isChanged = m_job.isChanged(); isChanged != m_hasStar)
+        fillMenu(isChanged);
 }
 
 OSStatus PresetMenu::handle(const Event &event)
@@ -281,116 +253,92 @@ OSStatus PresetMenu::handle(const Event &event)
 void PresetMenu::choose(int reference)
 {
     if (reference == Defaults) {
-        m_chosen.clear();
-        m_session.usePreset(nullptr);
-    } else {
-        const Preset &preset = m_presets[static_cast<std::size_t>(reference)];
-        const auto file = [this, &preset] {
-            const WaitCursor waiting;
-            return m_store.read(preset.name);
-        }();
-        if (!file) {
-            CFUserNotificationDisplayNotice(
-                NoticeLevel::Caution, tr("The preset “%1” cannot be read").arg(preset.name),
-                tr("%1\nThe settings stay as they are.").arg(file.error().text()), {}, this);
-            fillMenu();
-            return;
-        }
-        m_chosen = preset.name;
-        m_session.usePreset(&file.value());
+        m_presets.chooseDefaults();
+        fillMenu(false);
+        return;
     }
-    m_hasStar = false;
-    fillMenu();
+    const QString name = m_presets.all()[static_cast<std::size_t>(reference)].name;
+    const auto chosen = [this, &name] {
+        const WaitCursor waiting;
+        return m_presets.choose(name);
+    }();
+    if (chosen) {
+        fillMenu(false);
+        return;
+    }
+    CFUserNotificationDisplayNotice(
+        NoticeLevel::Caution, tr("The preset “%1” cannot be read").arg(name),
+        tr("%1\nThe settings stay as they are.").arg(chosen.reason()), {}, this);
+    fillMenu(m_hasStar);
 }
 
-Result<void> PresetMenu::write(const QString &name, std::optional<bool> keepSecrets)
+void PresetMenu::store(const QString &name, std::optional<bool> keepsSecrets)
 {
-    const WaitCursor waiting;
-    TicketFile ticket = m_session.preset();
-    if (findOwn(name)) {
-        if (const auto stored = m_store.read(name)) {
-            // A preset that is replaced keeps what we do not know of it, and passcodes
-            // once kept are kept on.
-            Dictionary unknown = stored.value().unknown;
-            unknown.insert(ticket.unknown);
-            ticket.unknown = unknown;
-            if (!keepSecrets)
-                keepSecrets = holdsSecret(stored.value(), m_session.secretKeys());
-        }
-        ticket.unknown.remove(kTicketNonceKey);
-    }
-    return m_store.save(name, ticket, m_session.secretKeys(), keepSecrets.value_or(false));
-}
-
-bool PresetMenu::store(const QString &name, std::optional<bool> keepSecrets)
-{
-    m_session.writeAll();
-    if (const auto saved = write(name, keepSecrets); !saved) {
+    const auto saved = [&] {
+        const WaitCursor waiting;
+        return m_presets.save(name, keepsSecrets);
+    }();
+    if (saved)
+        fillMenu(false);
+    else
         CFUserNotificationDisplayNotice(NoticeLevel::Stop,
                                         tr("The preset “%1” was not saved").arg(name),
-                                        saved.error().text(), {}, this);
-        return false;
-    }
-    m_chosen = name;
-    m_session.takeAsUnchanged();
-    m_hasStar = false;
-    reload();
-    return true;
+                                        saved.reason(), {}, this);
 }
 
 void PresetMenu::save()
 {
-    const Preset *preset = chosenPreset();
+    const Preset *preset = m_presets.chosen();
     if (preset && !preset->isSite)
         store(QString(preset->name), std::nullopt);
 }
 
 void PresetMenu::saveAs()
 {
+    const Preset *preset = m_presets.chosen();
     const auto answer =
-        askForName(this, tr("Save Preset"), tr("&Save"), m_chosen, true, true,
-                   [this](const QString &name) { return findOwn(name) != nullptr; });
+        askForName(this, tr("Save Preset"), tr("&Save"), preset ? preset->name : QString(), true,
+                   true, [this](const QString &name) { return m_presets.findOwn(name); });
     if (answer)
         store(answer->name, answer->keepsSecrets);
 }
 
 void PresetMenu::rename()
 {
-    const QString from = m_chosen;
+    const Preset *preset = m_presets.chosen();
+    if (!preset)
+        return;
+    const QString from = preset->name;
     const auto answer =
         askForName(this, tr("Rename Preset"), tr("&Rename"), from, false, false,
-                   [this, &from](const QString &name) { return name != from && findOwn(name); });
+                   [&](const QString &name) { return name != from && m_presets.findOwn(name); });
     if (!answer || answer->name == from)
         return;
-    if (const auto renamed = m_store.rename(from, answer->name); !renamed) {
+    if (const auto renamed = m_presets.rename(answer->name); renamed)
+        fillMenu(m_hasStar);
+    else
         CFUserNotificationDisplayNotice(NoticeLevel::Stop,
                                         tr("The preset “%1” was not renamed").arg(from),
-                                        renamed.error().text(), {}, this);
-        return;
-    }
-    m_chosen = answer->name;
-    reload();
+                                        renamed.reason(), {}, this);
 }
 
 void PresetMenu::remove()
 {
-    const QString name = m_chosen;
+    const Preset *preset = m_presets.chosen();
+    if (!preset)
+        return;
+    const QString name = preset->name;
     if (CFUserNotificationDisplayAlert(
             NoticeLevel::Caution, tr("Delete the preset “%1”?").arg(name),
             tr("The settings in this window stay as they are."), {tr("Delete"), tr("Cancel")}, this)
         != 1)
         return;
-    if (const auto removed = m_store.remove(name); !removed) {
+    if (const auto removed = m_presets.remove(); removed)
+        fillMenu(true); // the settings stay, and are not the defaults
+    else
         CFUserNotificationDisplayNotice(NoticeLevel::Stop,
                                         tr("The preset “%1” was not deleted").arg(name),
-                                        removed.error().text(), {}, this);
-        return;
-    }
-    // The settings stay, and are not the defaults.
-    m_chosen.clear();
-    m_session.takeAsChanged();
-    m_hasStar = true;
-    reload();
+                                        removed.reason(), {}, this);
 }
 
 } // namespace kelvo

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "event.h"
-#include "presets.h"
+#include "session_presets.h"
 
 #include <QWidget>
 
 namespace kelvo {
 
-class DialogSession;
 class MenuButton;
 class PopupButton;
 
@@ -15,40 +14,36 @@ class PopupButton;
 QWidget *makePresetNamePane(const QString &title, const QString &ok, const QString &name,
                             bool asksForSecrets);
 
-// Chooses a preset for the session, and saves, renames and deletes the user's
+// Why no preset can have this name, a sentence; empty when one can.
+QString presetNameProblem(const QString &name);
+
+// Chooses a preset for the job, and saves, renames and deletes the user's
 // own. A star behind the name says that settings were changed since.
 class PresetMenu : public QWidget
 {
     Q_OBJECT
 
 public:
-    // `chosen` is what the session began with; empty: the defaults.
-    PresetMenu(DialogSession &session, const QString &chosen, QWidget *parent = nullptr);
+    // `job` is borrowed, and began with the preset `chosen`; empty: the defaults.
+    PresetMenu(SessionJob &job, const QString &chosen, QWidget *parent = nullptr);
 
     void updateStar();
     QWidget *popup() const; // what a label in front of this is for
 
 private:
-    enum Reference { Defaults = -1 }; // else the row in m_presets
+    enum Reference { Defaults = -1 }; // else the row in m_presets.all()
 
-    void reload();
-    void fillMenu();
+    void fillMenu(bool hasStar);
     OSStatus handle(const Event &event);
     void choose(int reference);
     void save();
     void saveAs();
     void rename();
     void remove();
-    // Without `keepSecrets`, as the preset that is replaced has it.
-    bool store(const QString &name, std::optional<bool> keepSecrets);
-    Result<void> write(const QString &name, std::optional<bool> keepSecrets);
-    const Preset *chosenPreset() const;
-    const Preset *findOwn(const QString &name) const;
+    void store(const QString &name, std::optional<bool> keepsSecrets);
 
-    DialogSession &m_session;
-    PresetStore m_store;
-    std::vector<Preset> m_presets;
-    QString m_chosen;
+    SessionJob &m_job;
+    SessionPresets m_presets;
     bool m_hasStar = false;
     PopupButton *m_popup;
     MenuButton *m_button;

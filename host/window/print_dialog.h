@@ -1,38 +1,34 @@
 #pragma once
 
+#include "choice_notes.h"
+#include "dialog_parts.h"
 #include "dialog_session.h"
 #include "event.h"
-#include "job_words.h"
+#include "extension.h"
 #include "panel_places.h"
-#include "print_run.h"
+#include "print_flow.h"
 #include "script_target.h"
 #include "sent_message.h"
 #include "session_cautions.h"
 
-#include <QElapsedTimer>
-#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
-class QLabel;
-class QProgressBar;
-class QPushButton;
-class QStackedWidget;
-
 namespace kelvo {
 
-class CautionBar;
-class DocumentPreview;
-class PaneScroll;
-class PanelSwitch;
 class PresetMenu;
-class PrinterPane;
-class WaitingPane;
-class WindowColumns;
 
-// The print dialog. It shows what the session has and prints when it is told to;
-// it ends once, with the status that the program ends with.
-class PrintDialog : public QWidget, public ScriptTarget
+// What a print dialog begins with.
+struct DialogOptions
+{
+    SessionBeginning session;
+    PrintPlan plan;
+    QString preset; // the name of the one in session.job; empty: the defaults
+};
+
+// The print dialog's window. It shows what the session has, and answers what is asked on
+// the way to a job; it ends once, with the status that the program ends with.
+class PrintDialog : public QWidget, public ScriptTarget, private PrintQuestions
 {
     Q_OBJECT
 
@@ -47,8 +43,8 @@ public:
     void setDriven(bool driven);
     // Texts of --secret, by name.
     void setSecrets(QMap<QString, QString> secrets) { m_secrets = std::move(secrets); }
-    // Writes --ticket-out and --preset-out as the settings stand; nothing without them.
-    Result<void> writeSettingsOut();
+    // The files of the plan, as the settings stand; nothing without them.
+    Result<void> writeSettingsOut() { return m_flow.writeSettingsOut(); }
     // Ends as Cancel does. A job that is on its way is cancelled and waited for, for
     // a few seconds: the status says what became of it.
     void interrupt();
@@ -62,10 +58,10 @@ public:
     void sync(SyncDirection direction) override;
     void pressPrint() override;
     void pressCancel() override;
-    bool isPrinting() const override { return m_run != nullptr; }
+    bool isPrinting() const override { return m_flow.isPrinting(); }
     std::optional<ExitStatus> finished() const override { return m_finished; }
-    QString lastPrintProblem() const override { return m_printProblem; }
-    ExitStatus lastPrintStatus() const override { return m_printStatus; }
+    QString lastPrintProblem() const override;
+    ExitStatus lastPrintStatus() const override;
     const PrintSession &sessionForReading() override;
     QString jobInWords() override;
     TicketFile withSecretsMasked(TicketFile file) const override;
@@ -85,12 +81,10 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void buildWindow();
     void addShortcuts();
-    void fitToFont();
-    void fitToPanels();
 
     // The session tells.
+    void showPrinters();
     void takeStage();
     void takeDocument();
     void takeSettings();
@@ -98,74 +92,52 @@ private:
     // The user tells.
     void showPanelAt(int index);
     void changeSettings();
-    void noteChoice(const Event &event);
     void lookAtSettings();  // writes, checks, and shows what follows
     void showWhatFollows(); // all but conflicts
     void fixConflicts();
     void showDetails();
     void showHelp();
-    void goToRegion(bool forward);
-    void giveFirstFocus();
 
     // Print.
     void print();
-    bool endsInConflict();
-    bool isHeldBack();
-    void findCautions(); // after all panels have written
-    void takeOutcome(const PrintOutcome &outcome);
-    void tellSent(const QString &place);
-    void refusePrint(ExitStatus status, const QString &header, const QString &problem);
-    QString findReasonNotToPrint() const;
-    QString findPagesProblem() const;
+    bool fixesConflicts(const QString &header, const ConflictReport &report) override;
+    bool printsAnyway(const Caution &caution) override;
+    void showPrinting(bool printing);
+    void takePrinted(const QString &place);
+    void takeRefusal(const PrintRefusal &refusal);
+    QString unfinishedPages() const;
     void end(ExitStatus status);
 
-    bool arePanelsBuilt() const;
-    void arrangeTabOrder();
-    bool isTwoSided() const;
+    bool isReady() const { return m_session->stage() == DialogSession::Stage::Ready; }
+    Extension *panels() const; // null: there are none to show
+    QString place() const;     // where the user is among them
+    Result<void> findPanels() const;
     void updatePrintButton();
     void updatePreview();
     void updateFoot();
     void updateTitle();
-    JobWords words();
 
-    DialogOptions m_options;
-    WindowColumns *m_columns;
-    PanelSwitch *m_switch;
+    DialogParts m_parts;
     PanelPlaces m_places;
-    PaneScroll *m_scroll;
-    QStackedWidget *m_stack; // the waiting pane, or the panels
-    WaitingPane *m_waiting;
-    QWidget *m_panes; // parent of the device's panels
+    std::unique_ptr<Extension> m_extension; // null: there is no bundle
     std::unique_ptr<DialogSession> m_session;
     SessionCautions m_cautions;
+    PrintFlow m_flow;
+    ChoiceNotes m_choices;
     PresetMenu *m_presets;
-    PrinterPane *m_printer;
-    DocumentPreview *m_preview;
-    CautionBar *m_cautionBar;
-    QLabel *m_foot;
-    QProgressBar *m_progress;
-    QPushButton *m_details, *m_help, *m_cancel, *m_print;
 
-    QList<QWidget *> m_panelStops; // the tab order is made for these; compared, never followed
-    QTimer m_look;                 // lookAtSettings() soon
-    QTimer m_grace;                // until then the window is not shown
-    QTimer m_firstFrame;           // until then the document is not opened
-    bool m_hasLooked = false;      // at the settings of any printer
+    QTimer m_look;            // lookAtSettings() soon
+    QTimer m_grace;           // until then the window is not shown
+    QTimer m_firstFrame;      // until then the document is not opened
+    bool m_hasLooked = false; // at the settings of any printer
     bool m_isDriven = false;
-    bool m_isInterrupted = false;   // what is under way is the last
-    QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
-    TicketPlaces m_chosenInDialogs; // until they close
-    QElapsedTimer m_sinceShown;
-    QElapsedTimer m_sinceReady; // for the printer, or known not to be
+    bool m_isInterrupted = false; // what is under way is the last
     QMap<QString, QString> m_secrets;
 
     PanelPlaces::Place m_place; // among the panels that were shown last
     QTimer m_watch;             // asks what the printer is doing
 
-    std::unique_ptr<PrintRun> m_run;
     SentMessage m_sent;
-    ExitStatus m_printStatus = ExitStatus::Cancelled; // of the last try; what Cancel ends with
-    QString m_printProblem;
     std::optional<ExitStatus> m_finished;
     EventHandlerRef m_handler; // takes what the shell does and passes on
 };

@@ -71,7 +71,7 @@ void WaitingPane::fitToFont()
     }
 }
 
-void WaitingPane::setMessage(const DialogSession::Message &message)
+void WaitingPane::setMessage(const SessionMessage &message)
 {
     m_header->setText(message.header);
     m_header->setVisible(!message.header.isEmpty());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog_session.h"
+#include "session_message.h"
 
 #include <QWidget>
 
@@ -18,7 +18,7 @@ class WaitingPane : public QWidget
 public:
     explicit WaitingPane(QWidget *parent = nullptr);
 
-    void setMessage(const DialogSession::Message &message);
+    void setMessage(const SessionMessage &message);
 
 signals:
     void retryRequested();

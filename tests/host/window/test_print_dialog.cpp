@@ -7,7 +7,7 @@
 #include "notice.h"
 #include "notification_service.h"
 #include "popup_button.h"
-#include "presets.h"
+#include "preset_menu.h"
 #include "print_dialog.h"
 #include "private_cups.h"
 #include "spin_field.h"
@@ -38,36 +38,19 @@ private slots:
     void initTestCase();
     void init();
 
-    void opensOnEveryDevice_data();
-    void opensOnEveryDevice();
-    void printsWithoutPanels_data();
-    void printsWithoutPanels();
+    void opensOnTheDevicesPanels();
     void thePrintButtonIsAskedFirst();
     void whatWasTypedLastIsPrinted();
-    void laterSettingsBeatEarlierOnes();
-    void aDeviceThatCannotDoItIsTold();
-    void wrongPagesAreNotPrinted_data();
     void wrongPagesAreNotPrinted();
     void conflictsAreShownAndFixed();
-    void conflictsAreNotPrinted();
     void severalCautionsStandInARow();
-    void theTicketIsWrittenBeforeTheJob();
     void givingUpIsCancelOrTheFailure();
     void aChangedPresetHasAStar();
-    void unknownEntriesStayWithTheirPreset();
-    void namesThatNoPresetCanHave_data();
     void namesThatNoPresetCanHave();
 
     void theWindowDoesNotWaitForAServer();
-    void aServerThatComesBackIsFound();
-    void anUnknownPrinterIsToldWithTheNearest();
-    void settingsThatCannotBeReadAreNotNone();
-    void aRefusalHasOneStatusWhereverItIsFound();
-    void settingsComeBackWithTheirPrinter();
-    void aPrinterChosenAgainBeginsOnce();
     void thePanelStaysWhenThePrinterChanges();
-    void aStoppedPrinterIsAskedAbout();
-    void aPrinterThatTakesNoJobsIsWaitedFor();
+    void aPrinterInTroubleIsToldAndWaitedFor();
     void theDesktopTellsThatAJobIsOut();
     void aDeadDesktopKeepsNobody();
 
@@ -80,7 +63,8 @@ private slots:
     void everythingFits();
 
 private:
-    DialogOptions options(const QString &device = QStringLiteral("kelvo-corvane-full.ppd"));
+    DialogOptions options(const QString &device = QStringLiteral("full"));
+    DialogOptions queueOptions();
     QByteArray written(const QString &name) const;
 
     Bundle *m_bundle = nullptr; // the program's own panels
@@ -94,11 +78,6 @@ namespace {
 QString shared(const QString &name)
 {
     return QStringLiteral(KELVO_BUILD_DIR "/share/kelvo-print/") + name;
-}
-
-QString testPpd(const QString &name)
-{
-    return QStringLiteral(KELVO_TEST_DATA "/ppds/") + name;
 }
 
 // A dialog that is up and idle.
@@ -200,13 +179,21 @@ void TestPrintDialog::init()
 DialogOptions TestPrintDialog::options(const QString &device)
 {
     DialogOptions options;
-    options.device =
-        PpdFile::open(device.startsWith(u'/') ? device : shared(QStringLiteral("ppds/")) + device)
-            .value();
-    options.bundle = m_testBundle;
-    options.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
-    options.line.toFolder = m_folder->filePath(QStringLiteral("job"));
+    options.session.printer.device =
+        PpdFile::open(shared(QStringLiteral("ppds/kelvo-corvane-%1.ppd").arg(device))).value();
+    options.session.bundle = m_testBundle;
+    options.session.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
+    options.plan.elsewhere = folderDestination(m_folder->filePath(QStringLiteral("job")));
     return options;
+}
+
+// The queue "Hall-3", or whichever is named; to be printed to.
+DialogOptions TestPrintDialog::queueOptions()
+{
+    DialogOptions queue = options();
+    queue.session.printer = {.name = QStringLiteral("Hall-3")};
+    queue.plan.elsewhere.reset();
+    return queue;
 }
 
 QByteArray TestPrintDialog::written(const QString &name) const
@@ -217,19 +204,11 @@ QByteArray TestPrintDialog::written(const QString &name) const
 
 // ---- life
 
-void TestPrintDialog::opensOnEveryDevice_data()
+void TestPrintDialog::opensOnTheDevicesPanels()
 {
-    QTest::addColumn<QString>("device");
-    for (const char *device : {"full", "mid", "bare"})
-        QTest::newRow(device) << QStringLiteral("kelvo-corvane-%1.ppd").arg(device);
-}
-
-void TestPrintDialog::opensOnEveryDevice()
-{
-    QFETCH(QString, device);
-    auto begin = options(device);
-    begin.bundle = m_bundle;
-    const auto ppd = begin.device;
+    auto begin = options();
+    begin.session.bundle = m_bundle;
+    const auto ppd = begin.session.printer.device;
     Shown shown(begin);
 
     QVERIFY(shown.waitUntilIdle());
@@ -251,42 +230,6 @@ void TestPrintDialog::opensOnEveryDevice()
     const QWidgetList windows = QApplication::topLevelWidgets();
     QVERIFY(std::ranges::find(windows, "The Special Pages panel", &QWidget::windowTitle)
             != windows.end());
-}
-
-void TestPrintDialog::printsWithoutPanels_data()
-{
-    QTest::addColumn<QString>("device");
-    QTest::addColumn<bool>("hasBundle");
-    QTest::addColumn<QString>("says");
-
-    QTest::newRow("another maker") << testPpd("other-maker.ppd") << true << "not made for this";
-    QTest::newRow("a maker that begins alike")
-        << testPpd("kelvo-lookalike.ppd") << true << "not made for this";
-    QTest::newRow("no bundle") << "kelvo-corvane-full.ppd" << false << "It is not installed.";
-}
-
-void TestPrintDialog::printsWithoutPanels()
-{
-    QFETCH(QString, device);
-    QFETCH(bool, hasBundle);
-    QFETCH(QString, says);
-    auto begin = options(device);
-    begin.bundle = hasBundle ? m_bundle : nullptr;
-    begin.bundleProblem = QStringLiteral("It is not installed.");
-    begin.line.copies = 2;
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-    QVERIFY(shown.isShown("waitingHeader"));
-    QVERIFY(shown.text("waitingHeader").contains(begin.device->modelName()));
-    QVERIFY2(shown.text("waitingText").contains(says), qPrintable(shown.text("waitingText")));
-    QVERIFY(!shown.isShown("retry"));
-
-    shown.dialog.pressPrint();
-
-    QVERIFY(shown.waitUntilEnded());
-    QCOMPARE(*shown.dialog.finished(), ExitStatus::Printed);
-    QVERIFY(written("document.pdf").startsWith("%PDF"));
-    QVERIFY(written("options").contains("copies=2\n"));
 }
 
 void TestPrintDialog::thePrintButtonIsAskedFirst()
@@ -329,83 +272,28 @@ void TestPrintDialog::whatWasTypedLastIsPrinted()
     QVERIFY2(written("options").contains("copies=7\n"), written("options").constData());
 }
 
-void TestPrintDialog::laterSettingsBeatEarlierOnes()
-{
-    const auto ticket = [](const QString &note, const QString &duplex, const QString &punch) {
-        TicketFile file;
-        file.printSettings.entries["com.kelvo.test.Note"] = {note, "test"};
-        for (const auto &[option, choice] : {std::pair{"Duplex", duplex}, {"KVPunch", punch}}) {
-            if (!choice.isEmpty())
-                file.printSettings.ppdChoices[option] = choice;
-        }
-        return file;
-    };
-    auto begin = options();
-    begin.preset = ticket("preset", "DuplexTumble", "2HolePunch");
-    begin.ticketIn = ticket("ticket", "DuplexNoTumble", {});
-    begin.ticketIn->unknown = {{"Other", "kept"}};
-    begin.line.options = {{"Duplex", "None"}, {"media", "A5"}};
-    begin.line.ticketOut = m_folder->filePath("out.plist");
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-
-    QCOMPARE(shown.choice("Duplex"), "None");
-    QCOMPARE(shown.choice("KVPunch"), "2HolePunch");
-    QCOMPARE(shown.choice("PageSize"), "A5");
-    // The panels read the ticket, and wrote it as it was.
-    QCOMPARE(shown.find<QLineEdit>("PDEShellField")->text(), "ticket");
-    // A script comes last, and what it did is in the ticket that goes out.
-    QVERIFY(shown.choose("paper", "A4"));
-    QVERIFY(shown.dialog.writeSettingsOut());
-    const auto out = readTicketFile(m_folder->filePath("out.plist"));
-    QVERIFY(out);
-    QCOMPARE(out.value().printSettings.ppdChoices["PageSize"], "A4");
-    QCOMPARE(out.value().printSettings.entries.at(kPMJobNameKey).value, "document.pdf");
-    QCOMPARE(out.value().unknown["Other"], "kept");
-}
-
-void TestPrintDialog::aDeviceThatCannotDoItIsTold()
-{
-    auto begin = options("kelvo-corvane-bare.ppd");
-    begin.line.options = {{"KVPunch", "2HolePunch"}};
-    Shown shown(begin);
-    QCOMPARE(shown.dialog.finished(), ExitStatus::NotOffered);
-}
-
-void TestPrintDialog::wrongPagesAreNotPrinted_data()
-{
-    QTest::addColumn<QString>("pages");
-    QTest::addColumn<QString>("says");
-
-    QTest::newRow("after the last") << "7-"
-                                    << "pages 1 to 6";
-    QTest::newRow("no range") << "two"
-                              << "written like this";
-    QTest::newRow("nothing typed") << ""
-                                   << "Type the pages";
-}
-
 void TestPrintDialog::wrongPagesAreNotPrinted()
 {
-    QFETCH(QString, pages);
-    QFETCH(QString, says);
     Shown shown(options());
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(shown.choose("pagesChoice", "range"));
-    QVERIFY(!inspector::type(shown.find<QWidget>("pages"), pages));
-    QVERIFY(shown.waitUntilIdle());
-    QCOMPARE(shown.isShown("pagesProblem"), !pages.isEmpty()); // what is missing is no mistake yet
-    QVERIFY2(shown.text("summary").contains(says), qPrintable(shown.text("summary")));
+    // What is missing is no mistake yet, and no pages to print either.
+    for (const auto &[pages, says] : {std::pair{"", "Type the pages"}, {"7-", "Pages 1 to 6"}}) {
+        QVERIFY(!inspector::type(shown.find<QWidget>("pages"), pages));
+        QVERIFY(shown.waitUntilIdle());
+        QCOMPARE(shown.isShown("pagesProblem"), *pages != 0);
+        QVERIFY2(shown.text("summary").contains(says, Qt::CaseInsensitive),
+                 qPrintable(shown.text("summary")));
+        shown.find<QWidget>("copies")->setFocus();
 
-    shown.dialog.pressPrint();
+        shown.dialog.pressPrint();
 
-    QVERIFY(!shown.dialog.isPrinting());
-    QVERIFY(shown.dialog.lastPrintProblem().startsWith("Pages:"));
-    QVERIFY2(shown.dialog.lastPrintProblem().contains(says),
-             qPrintable(shown.dialog.lastPrintProblem()));
-    QCOMPARE(shown.dialog.lastPrintStatus(), ExitStatus::WrongUsage);
-    QCOMPARE(shown.find<QLineEdit>("pages")->text(), pages);
-
+        QVERIFY(!shown.dialog.isPrinting());
+        QVERIFY(shown.dialog.lastPrintProblem().startsWith("Pages:"));
+        QCOMPARE(shown.dialog.lastPrintStatus(), ExitStatus::WrongUsage);
+        QCOMPARE(shown.find<QLineEdit>("pages")->text(), pages);
+        QCOMPARE(shown.dialog.focusWidget(), shown.find<QWidget>("pages"));
+    }
     QVERIFY(!inspector::type(shown.find<QWidget>("pages"), "2-3"));
     QVERIFY(shown.waitUntilIdle());
     QVERIFY(!shown.isShown("pagesProblem"));
@@ -415,58 +303,42 @@ void TestPrintDialog::wrongPagesAreNotPrinted()
 void TestPrintDialog::conflictsAreShownAndFixed()
 {
     auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-    QVERIFY(shown.isShown("conflictBar"));
-    QVERIFY(shown.find<QLabel>("conflictText")->accessibleName().contains("Transparency"));
-    NoticeAnswer details(1);
-    shown.find<QPushButton>("conflictDetails")->click();
-    QVERIFY2(details.text.contains("Set Stapling to No Staple"), qPrintable(details.text));
-    m_panels->calls.clear();
-
-    shown.find<QPushButton>("fix")->click();
-
-    QVERIFY(!shown.isShown("conflictBar"));
-    QCOMPARE(shown.choice("StapleLocation"), "None");
-    QCOMPARE(shown.choice("MediaType"), "Transparency");
-    // All panels write before it is looked at, and read what was mended.
-    QCOMPARE(m_panels->calls.mid(0, 6),
-             (QStringList{"Second write", "Third write", "PDEShell write", "Second read",
-                          "Third read", "PDEShell read"}));
-}
-
-void TestPrintDialog::conflictsAreNotPrinted()
-{
-    auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
+    begin.session.job.options = {{"StapleLocation", "SinglePortrait"},
+                                 {"MediaType", "Transparency"}};
     {
-        Shown driven(begin);
-        QVERIFY(driven.waitUntilIdle());
-        driven.dialog.pressPrint();
-        QVERIFY(!driven.dialog.isPrinting());
-        QCOMPARE(driven.dialog.lastPrintStatus(), ExitStatus::NotOffered);
-        QVERIFY(driven.dialog.lastPrintProblem().contains("cannot be used together"));
+        Shown shown(begin);
+        QVERIFY(shown.waitUntilIdle());
+        QVERIFY(shown.find<QLabel>("conflictText")->accessibleName().contains("Transparency"));
+        NoticeAnswer details(1);
+        shown.find<QPushButton>("conflictDetails")->click();
+        QVERIFY2(details.text.contains("Set Stapling to No Staple"), qPrintable(details.text));
+        m_panels->calls.clear();
+
+        shown.find<QPushButton>("fix")->click();
+
+        QVERIFY(!shown.isShown("conflictBar"));
+        QCOMPARE(shown.choice("StapleLocation"), "None");
+        // All panels write before it is looked at, and read what was mended.
+        QCOMPARE(m_panels->calls.mid(0, 6),
+                 (QStringList{"Second write", "Third write", "PDEShell write", "Second read",
+                              "Third read", "PDEShell read"}));
     }
     Shown shown(begin, false);
     QVERIFY(shown.waitUntilIdle());
     NoticeAnswer cancel(2);
     shown.dialog.pressPrint();
-    QVERIFY(cancel.text.contains("Transparency"));
-    QVERIFY(!shown.dialog.isPrinting());
+    QVERIFY(cancel.text.contains("Transparency") && !shown.dialog.isPrinting());
     NoticeAnswer fix(1);
     shown.dialog.pressPrint();
     QVERIFY(shown.waitUntilEnded());
-    QCOMPARE(*shown.dialog.finished(), ExitStatus::Printed);
-    QVERIFY(!written("options").contains("SinglePortrait"));
 }
 
 void TestPrintDialog::severalCautionsStandInARow()
 {
-    auto begin = options("kelvo-corvane-bare.ppd");
-    begin.line.options = {{"media", "A5"}};
-    begin.ticketIn = TicketFile();
-    begin.ticketIn->printSettings.ppdChoices = {{"KVPunch", "2HolePunch"}};
+    auto begin = options("bare");
+    begin.session.job.options = {{"media", "A5"}};
+    begin.session.job.ticketIn = TicketFile();
+    begin.session.job.ticketIn->printSettings.ppdChoices = {{"KVPunch", "2HolePunch"}};
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     QVERIFY2(shown.text("conflictText").startsWith("Pages 1–6 are larger"),
@@ -485,164 +357,65 @@ void TestPrintDialog::severalCautionsStandInARow()
     QVERIFY(details.text.contains("Pages 2 and 4–6") && details.text.contains("2HolePunch"));
 }
 
-void TestPrintDialog::theTicketIsWrittenBeforeTheJob()
-{
-    auto begin = options();
-    QFile inTheWay(m_folder->filePath("no"));
-    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-    begin.line.ticketOut = m_folder->filePath("no/out.plist");
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-    shown.dialog.pressPrint();
-    QVERIFY(!shown.dialog.isPrinting());
-    QVERIFY2(shown.dialog.lastPrintProblem().contains("out.plist"),
-             qPrintable(shown.dialog.lastPrintProblem()));
-
-    QVERIFY(inTheWay.remove());
-    QVERIFY(QDir().mkdir(m_folder->filePath("no")));
-    shown.dialog.pressPrint();
-    QVERIFY(shown.waitUntilEnded());
-    const auto out = readTicketFile(m_folder->filePath("no/out.plist"));
-    QVERIFY(out);
-    QCOMPARE(out.value().printSettings.entries.at("com.kelvo.test.Note").value, "default");
-}
-
 void TestPrintDialog::givingUpIsCancelOrTheFailure()
 {
-    {
-        Shown shown(options());
-        QVERIFY(shown.waitUntilIdle());
-        QTest::keyClick(&shown.dialog, Qt::Key_Escape);
-        QCOMPARE(shown.dialog.finished(), ExitStatus::Cancelled);
-    }
     {
         Shown shown(options());
         shown.dialog.close(); // while the document is still being opened
         QCOMPARE(shown.dialog.finished(), ExitStatus::Cancelled);
     }
     auto nowhere = options();
-    nowhere.line.toFolder.reset();
+    nowhere.plan.elsewhere.reset();
     Shown shown(nowhere, false);
     QVERIFY(shown.waitUntilIdle());
     NoticeAnswer notice(1);
     shown.dialog.pressPrint();
     QVERIFY(notice.text.contains("--to"));
     QVERIFY(shown.dialog.isVisible());
-    shown.dialog.pressCancel();
+    QTest::keyClick(&shown.dialog, Qt::Key_Escape);
     QCOMPARE(shown.dialog.finished(), ExitStatus::NoDestination);
     QCOMPARE(shown.ended.size(), 1);
 }
 
 void TestPrintDialog::aChangedPresetHasAStar()
 {
-    {
-        Shown first(options());
-        QVERIFY(first.waitUntilIdle());
-        auto *preset = first.find<PopupButton>("preset");
-        QCOMPARE(preset->currentText(), "Default Settings");
-        QVERIFY(!inspector::set(first.find<QWidget>("copies"), 4));
-        QVERIFY(first.waitUntilIdle());
-        QCOMPARE(preset->currentText(), "Default Settings*");
-
-        // Save as: a dialog with a name.
-        QTimer::singleShot(50, [] {
-            QWidget *front = frontWindow();
-            auto *name = front->findChild<QLineEdit *>("presetName");
-            auto *keeps = front->findChild<QAbstractButton *>("keepPasscodes");
-            if (!name || !keeps || keeps->isChecked())
-                return;
-            inspector::type(name, QStringLiteral("Four & more"));
-            inspector::click(front->findChild<QWidget *>("ok"));
-        });
-        inspector::chooseCommand(first.find<QWidget>("presetMenu"), fourCharCode("PsSA"), {});
-        QCOMPARE(preset->currentText(), "Four & more");
-    }
-    Shown second(options());
-    QVERIFY(second.waitUntilIdle());
-    QVERIFY(second.choose("preset", "Four & more"));
-    QCOMPARE(second.find<SpinField>("copies")->value(), 4);
-    NoticeAnswer remove(1);
-    inspector::chooseCommand(second.find<QWidget>("presetMenu"), fourCharCode("PsDl"), {});
-    QVERIFY(PresetStore().presets().empty());
-    QCOMPARE(second.find<PopupButton>("preset")->currentText(), "Default Settings*");
-    QCOMPARE(second.find<SpinField>("copies")->value(), 4); // nothing was lost here
-}
-
-void TestPrintDialog::unknownEntriesStayWithTheirPreset()
-{
-    PresetStore store;
-    const auto unknownOf = [&store](const char *name) {
-        return store.read(QString::fromLatin1(name)).value().unknown;
-    };
-    for (const char *name : {"One", "Two"}) {
-        TicketFile file;
-        file.unknown = {{name, "kept"}, {"com.kelvo.print.TicketNonce", QByteArray("0123")}};
-        QVERIFY(store.save(QString::fromLatin1(name), file, {}, false));
-    }
-    auto begin = options();
-    begin.preset = store.read("One").value();
-    begin.line.preset = "One";
-    Shown shown(begin);
+    Shown shown(options());
     QVERIFY(shown.waitUntilIdle());
-    const auto save = [&shown] {
-        QVERIFY(!inspector::set(shown.find<QWidget>("copies"), 3));
-        QVERIFY(shown.waitUntilIdle());
-        QVERIFY(
-            !inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSv"), {}));
-    };
+    auto *preset = shown.find<PopupButton>("preset");
+    QCOMPARE(preset->currentText(), "Default Settings");
+    QVERIFY(!inspector::set(shown.find<QWidget>("copies"), 4));
+    QVERIFY(shown.waitUntilIdle());
+    QCOMPARE(preset->currentText(), "Default Settings*");
 
-    save();
-    QCOMPARE(unknownOf("One"), (Dictionary{{"One", "kept"}}));
-    QVERIFY(shown.choose("preset", "Two"));
-    save();
-    QCOMPARE(unknownOf("Two"), (Dictionary{{"Two", "kept"}}));
-
-    // A new preset begins without what belongs to another.
-    QVERIFY(shown.find<PopupButton>("preset")->choose(1));
+    // Save as: a dialog with a name.
     QTimer::singleShot(50, [] {
-        inspector::type(frontWindow()->findChild<QWidget *>("presetName"), QStringLiteral("New"));
-        inspector::click(frontWindow()->findChild<QWidget *>("ok"));
+        QWidget *front = frontWindow();
+        auto *name = front->findChild<QLineEdit *>("presetName");
+        auto *keeps = front->findChild<QAbstractButton *>("keepPasscodes");
+        if (!name || !keeps || keeps->isChecked())
+            return;
+        inspector::type(name, QStringLiteral("Four & more"));
+        inspector::click(front->findChild<QWidget *>("ok"));
     });
     inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSA"), {});
-    QCOMPARE(unknownOf("New"), Dictionary());
-    for (const char *name : {"One", "Two", "New"})
-        QVERIFY(store.remove(QString::fromLatin1(name)));
-}
-
-void TestPrintDialog::namesThatNoPresetCanHave_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("says");
-
-    QTest::newRow("the first row") << "Default Settings"
-                                   << "how the printer comes";
-    QTest::newRow("nearly") << " default  settings"
-                            << "how the printer comes";
-    QTest::newRow("with its star") << "Default Settings*"
-                                   << "how the printer comes";
-    QTest::newRow("none") << " "
-                          << "Type a name";
+    QCOMPARE(preset->currentText(), "Four & more");
+    QVERIFY(preset->choose(1));
+    QCOMPARE(shown.find<SpinField>("copies")->value(), 1);
+    QVERIFY(shown.choose("preset", "Four & more"));
+    QCOMPARE(shown.find<SpinField>("copies")->value(), 4);
+    NoticeAnswer remove(1);
+    inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsDl"), {});
+    QVERIFY(PresetStore().presets().empty());
+    QCOMPARE(preset->currentText(), "Default Settings*");
+    QCOMPARE(shown.find<SpinField>("copies")->value(), 4); // nothing was lost here
 }
 
 void TestPrintDialog::namesThatNoPresetCanHave()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, says);
-    Shown shown(options());
-    QVERIFY(shown.waitUntilIdle());
-    NoticeAnswer notice(1);
-    QTimer::singleShot(20, [name] {
-        QWidget *front = frontWindow();
-        auto *field = front->findChild<QLineEdit *>("presetName");
-        inspector::type(field, name);
-        sendCommand(front, kCommandOK);
-        // The notice has been answered by now, and the dialog is still open.
-        sendCommand(front, kCommandCancel);
-    });
-    inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsSA"), {});
-
-    QVERIFY2(notice.text.contains(says), qPrintable(notice.text));
-    QVERIFY(PresetStore().presets().empty());
+    for (const char *name : {"Default Settings", " default  settings", "Default Settings*"})
+        QVERIFY2(presetNameProblem(name).contains("how the printer comes"), name);
+    QVERIFY(presetNameProblem(" ").contains("Type a name"));
+    QCOMPARE(presetNameProblem("Default Settings 2"), QString());
 }
 
 // ---- print servers
@@ -651,9 +424,8 @@ void TestPrintDialog::theWindowDoesNotWaitForAServer()
 {
     const UnreliableServer silent(UnreliableServer::Trouble::NeverAnswers);
     qputenv("CUPS_SERVER", silent.address().toUtf8());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.timeoutSeconds = 1;
+    auto begin = queueOptions();
+    begin.session.printer.timeoutMs = 1000;
     QElapsedTimer clock;
     clock.start();
     {
@@ -674,194 +446,13 @@ void TestPrintDialog::theWindowDoesNotWaitForAServer()
     shown.dialog.pressPrint();
     QCOMPARE(shown.dialog.lastPrintStatus(), ExitStatus::NoDestination);
     QVERIFY(!shown.dialog.lastPrintProblem().isEmpty());
-}
-
-void TestPrintDialog::aServerThatComesBackIsFound()
-{
-    PrivateCups cups;
-    QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
-    UnreliableServer silent(UnreliableServer::Trouble::NeverAnswers, cups.port());
-    qputenv("CUPS_SERVER", silent.address().toUtf8());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.timeoutSeconds = 1;
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-    silent.recover();
+    for (const auto &refused : {shown.dialog.showPanel("SpecialPages"), shown.dialog.showTab(1)})
+        QVERIFY(!refused && refused.error().code == Error::Code::Unreachable);
 
     shown.find<QPushButton>("retry")->click();
-
+    QVERIFY(!shown.isShown("retry"));
     QVERIFY(shown.waitUntilIdle());
-    QVERIFY2(shown.find<QPushButton>("print")->isEnabled(), qPrintable(shown.text("waitingText")));
-    QVERIFY(shown.find<QLineEdit>("PDEShellField"));
-}
-
-void TestPrintDialog::anUnknownPrinterIsToldWithTheNearest()
-{
-    PrivateCups cups;
-    QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.destination = "Hal-3";
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-    QVERIFY(shown.text("waitingHeader").contains("Hal-3"));
-    QVERIFY(shown.text("waitingText").contains("Hall-3"));
-    QVERIFY(!shown.find<QPushButton>("print")->isEnabled());
-    for (const auto &refused : {shown.dialog.showPanel("SpecialPages"), shown.dialog.showTab(1)}) {
-        QVERIFY(!refused && refused.error().code == Error::Code::Unreachable);
-        QVERIFY(refused.error().text().contains("Hal-3"));
-    }
-
-    QVERIFY(shown.choose("printer", "Hall-3"));
-
-    QVERIFY(shown.waitUntilIdle());
-    QVERIFY(shown.find<QPushButton>("print")->isEnabled());
-}
-
-// A queue whose PPD is damaged would print without a single setting, and not a word.
-void TestPrintDialog::settingsThatCannotBeReadAreNotNone()
-{
-    PrivateCups cups;
-    const QString ppd = shared("ppds/kelvo-corvane-full.ppd");
-    QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", ppd), QString());
-    const QByteArray whole = readFile(ppd, 1'000'000).value();
-    auto begin = options();
-    begin.device.reset();
-    begin.line.destination = "Hall-3";
-    for (const QByteArray &damaged : {QByteArray(), whole.left(20'000), QByteArray("*PPD")}) {
-        QVERIFY(cups.damagePpd("Hall-3", damaged));
-        Shown shown(begin);
-        QVERIFY(shown.waitUntilIdle());
-        QVERIFY2(shown.text("waitingHeader").contains("cannot be read"),
-                 qPrintable(shown.text("waitingHeader")));
-        QVERIFY(!shown.find<QPushButton>("print")->isEnabled());
-        shown.dialog.pressPrint();
-        QCOMPARE(shown.dialog.lastPrintStatus(), ExitStatus::NoDestination);
-        QVERIFY(shown.isShown("retry"));
-
-        QVERIFY(cups.damagePpd("Hall-3", whole));
-        shown.find<QPushButton>("retry")->click();
-        QVERIFY(shown.waitUntilIdle());
-        QVERIFY(shown.find<QPushButton>("print")->isEnabled());
-        QVERIFY(shown.find<QLineEdit>("PDEShellField"));
-    }
-}
-
-// The PPD that the job was made for, and the one that the server has when it is sent.
-void TestPrintDialog::aRefusalHasOneStatusWhereverItIsFound()
-{
-    PrivateCups cups;
-    const QString reads = shared("ppds/kelvo-corvane-full.ppd");
-    const QByteArray readsNot = readFile(testPpd("no-ticket.ppd"), 1'000'000).value();
-    QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", reads), QString());
-    QCOMPARE(cups.addQueue("Office", testPpd("no-ticket.ppd")), QString());
-    auto begin = options();
-    begin.device.reset();
-    begin.bundle = m_bundle;
-    begin.line.toFolder.reset();
-    begin.ticketIn = TicketFile();
-    begin.ticketIn->printSettings.entries["com.kelvo.print.JobType"] = {
-        Dictionary{{"JobType", 6}, {"SecurePrintPassword", "4815"}}, "com.kelvo.printingmanager"};
-    struct Row
-    {
-        QString queue;
-        QByteArray later; // the PPD on the server at Print; empty: as before
-        ExitStatus status;
-        QString says;
-    };
-    for (const Row &row : {Row{"Office", {}, ExitStatus::NotOffered, "*KelvoTicket"},
-                           Row{"Hall-3", readsNot, ExitStatus::NotOffered, "*KelvoTicket"},
-                           Row{"Hall-3", "*PPD", ExitStatus::NoDestination, "damaged"}}) {
-        QVERIFY(cups.damagePpd("Hall-3", readFile(reads, 1'000'000).value()));
-        begin.line.destination = row.queue;
-        Shown shown(begin);
-        QVERIFY(shown.waitUntilIdle());
-        if (!row.later.isEmpty())
-            QVERIFY(cups.damagePpd(row.queue, row.later));
-        shown.dialog.pressPrint();
-        QVERIFY(QTest::qWaitFor([&] { return !shown.dialog.isPrinting(); }, 15000));
-        const QString problem = shown.dialog.lastPrintProblem();
-        QVERIFY2(problem.contains(row.says), qPrintable(problem));
-        QCOMPARE(shown.dialog.lastPrintStatus(), row.status);
-    }
-    QCOMPARE(cups.jobs(0).size(), 0U);
-}
-
-void TestPrintDialog::settingsComeBackWithTheirPrinter()
-{
-    PrivateCups cups;
-    QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
-    QCOMPARE(
-        cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd"), {"-o", "Duplex-default=None"}),
-        QString());
-    QCOMPARE(cups.addQueue("Other", testPpd("other-maker.ppd")), QString());
-    QCOMPARE(cups.addQueue("Raw", {}), QString());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Full";
-    begin.line.options = {{"KVPunch", "2HolePunch"}};
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-    QCOMPARE(shown.choice("KVPunch"), "2HolePunch");
-    shown.find<QLineEdit>("PDEShellField")->setText("mine");
-    m_panels->calls.clear();
-
-    QVERIFY(shown.choose("printer", "Bare"));
-    QVERIFY(shown.waitUntilIdle());
-    // Everything is terminated, the shell last, before it begins again.
-    const qsizetype ended = m_panels->calls.indexOf("PDEShell terminate");
-    QVERIFY(ended > 0 && m_panels->calls.indexOf("PDEShell prologue") > ended);
-    QVERIFY(m_panels->calls.indexOf("Third terminate") < ended);
-    QCOMPARE(shown.find<QLineEdit>("PDEShellField")->text(), "mine");
-    QVERIFY(shown.isShown("conflictBar"));
-    QVERIFY2(shown.find<QLabel>("conflictText")->accessibleName().contains("2"),
-             qPrintable(shown.find<QLabel>("conflictText")->accessibleName()));
-    shown.find<QPushButton>("hideMissing")->click();
-    QVERIFY(!shown.isShown("conflictBar"));
-
-    for (const char *printer : {"Other", "Raw", "Full"}) {
-        QVERIFY(shown.choose("printer", printer));
-        QVERIFY(shown.waitUntilIdle());
-        QVERIFY(shown.find<QPushButton>("print")->isEnabled());
-    }
-    QCOMPARE(shown.choice("KVPunch"), "2HolePunch");
-    QCOMPARE(shown.find<QLineEdit>("PDEShellField")->text(), "mine");
-
-    shown.dialog.pressPrint();
-    QVERIFY(shown.waitUntilEnded());
-    QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
-    QCOMPARE(cups.jobs(1).size(), 1U);
-}
-
-void TestPrintDialog::aPrinterChosenAgainBeginsOnce()
-{
-    PrivateCups cups;
-    QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
-    QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.destination = "Full";
-    Shown shown(begin);
-    QVERIFY(shown.waitUntilIdle());
-    m_panels->calls.clear();
-
-    // Faster than the server answers.
-    for (const char *printer : {"Bare", "Full", "Full", "Bare", "Full"})
-        QVERIFY(shown.choose("printer", printer));
-    QVERIFY(shown.waitUntilIdle());
-    QTest::qWait(500); // for an answer too many
-
-    QVERIFY(shown.find<QPushButton>("print")->isEnabled());
-    QCOMPARE(m_panels->calls.count("PDEShell prologue"), 1);
-    QCOMPARE(m_panels->calls.count("PDEShell terminate"), 1);
+    QVERIFY(shown.isShown("retry"));
 }
 
 void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
@@ -871,10 +462,9 @@ void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
     QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
     QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
     QCOMPARE(cups.addQueue("Raw", {}), QString());
-    auto begin = options();
-    begin.bundle = m_bundle;
-    begin.device.reset();
-    begin.line.destination = "Full";
+    auto begin = queueOptions();
+    begin.session.bundle = m_bundle;
+    begin.session.printer.name = "Full";
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     const auto place = [&shown] {
@@ -898,79 +488,42 @@ void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
     QVERIFY(shown.find<QWidget>("specialPagesList")->isVisible());
 }
 
-void TestPrintDialog::aStoppedPrinterIsAskedAbout()
-{
-    PrivateCups cups;
-    QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
-    QCOMPARE(cups.administer({"-r", "Toner & drum on order", "Hall-3"}, "cupsdisable"), QString());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Hall-3";
-    Shown shown(begin, false);
-    QTRY_VERIFY_WITH_TIMEOUT(shown.isShown("conflictBar")
-                                 && shown.text("conflictText").contains("Toner & drum on order"),
-                             15000);
-    // The tool tip too shows what was written, and no markup.
-    QTextDocument toolTip;
-    toolTip.setHtml(shown.find<QWidget>("printer")->toolTip());
-    QVERIFY(toolTip.toPlainText().contains("Toner & drum on order"));
-
-    NoticeAnswer cancel(2);
-    shown.dialog.pressPrint();
-    QVERIFY2(cancel.text.contains("Toner & drum on order"), qPrintable(cancel.text));
-    QVERIFY(!shown.dialog.isPrinting());
-    QVERIFY(shown.dialog.isVisible());
-    NoticeAnswer anyway(1);
-    shown.dialog.pressPrint();
-    QVERIFY(shown.waitUntilEnded());
-    QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
-}
-
-void TestPrintDialog::aPrinterThatTakesNoJobsIsWaitedFor()
+void TestPrintDialog::aPrinterInTroubleIsToldAndWaitedFor()
 {
     PrivateCups cups;
     QCOMPARE(cups.start(), QString());
     QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
     QCOMPARE(cups.administer({"-r", "Closed for inventory", "Hall-3"}, "cupsreject"), QString());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Hall-3";
-    {
-        Shown driven(begin);
-        QVERIFY(driven.waitUntilIdle());
-        driven.dialog.pressPrint();
-        QCOMPARE(driven.dialog.lastPrintStatus(), ExitStatus::Failed);
-        QVERIFY(driven.dialog.lastPrintProblem().contains("Closed for inventory"));
-    }
-    {
-        // A job that goes elsewhere needs no printer.
-        auto elsewhere = begin;
-        elsewhere.line.toFolder = m_folder->filePath("job");
-        Shown driven(elsewhere);
-        QVERIFY(driven.waitUntilIdle());
-        QVERIFY(!driven.isShown("conflictBar"));
-        QVERIFY(driven.find<QPushButton>("print")->isEnabled());
-    }
-    Shown shown(begin, false);
-    QTRY_VERIFY_WITH_TIMEOUT(
-        shown.isShown("conflictBar") && !shown.find<QPushButton>("print")->isEnabled(), 15000);
+    Shown shown(queueOptions(), false);
+    const auto isTold = [&shown](const QString &what) {
+        return shown.isShown("conflictBar") && shown.text("conflictText").contains(what);
+    };
+    const auto *print = shown.find<QPushButton>("print");
+    QTRY_VERIFY_WITH_TIMEOUT(isTold("inventory") && !print->isEnabled(), 15000);
     QCOMPARE(cups.administer({"Hall-3"}, "cupsaccept"), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(shown.find<QPushButton>("print")->isEnabled(), 15000);
-    QVERIFY(!shown.isShown("conflictBar"));
+    QTRY_VERIFY_WITH_TIMEOUT(print->isEnabled() && !shown.isShown("conflictBar"), 15000);
 
-    // Between two looks: the server's word comes first, but not to the user.
+    // Between two looks.
     QCOMPARE(cups.administer({"-r", "Closed again", "Hall-3"}, "cupsreject"), QString());
     NoticeAnswer ok(1);
     shown.dialog.pressPrint();
-    QTRY_VERIFY_WITH_TIMEOUT(!ok.text.isEmpty(), 15000);
-    QVERIFY2(ok.text.contains("“Hall-3” takes no jobs: Closed again. Choose another printer, or "
-                              "wait until it takes jobs again. (Hall-3: the print server at "),
-             qPrintable(ok.text));
-    QTRY_VERIFY_WITH_TIMEOUT(shown.isShown("conflictBar"), 1000);
-    QVERIFY(!shown.find<QPushButton>("print")->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(ok.text.contains("Closed again"), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(isTold("Closed again") && !print->isEnabled(), 1000);
+
+    QCOMPARE(cups.administer({"Hall-3"}, "cupsaccept"), QString());
+    QCOMPARE(cups.administer({"-r", "Toner & drum on order", "Hall-3"}, "cupsdisable"), QString());
+    QTRY_VERIFY_WITH_TIMEOUT(isTold("Toner & drum on order") && print->isEnabled(), 15000);
+    // The tool tip too shows what was written, and no markup.
+    QTextDocument toolTip;
+    toolTip.setHtml(shown.find<QWidget>("printer")->toolTip());
+    QVERIFY(toolTip.toPlainText().contains("Toner & drum on order"));
+    NoticeAnswer cancel(2);
+    shown.dialog.pressPrint();
+    QVERIFY2(cancel.text.contains("Toner & drum on order"), qPrintable(cancel.text));
+    QVERIFY(!shown.dialog.isPrinting());
+    NoticeAnswer anyway(1);
+    shown.dialog.pressPrint();
+    QVERIFY(shown.waitUntilEnded());
 }
 
 void TestPrintDialog::theDesktopTellsThatAJobIsOut()
@@ -980,11 +533,8 @@ void TestPrintDialog::theDesktopTellsThatAJobIsOut()
     QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
     NotificationService desktop;
     QCOMPARE(desktop.start(), QString());
-    auto begin = options();
-    begin.device.reset();
-    begin.line.toFolder.reset();
-    begin.line.destination = "Hall-3";
-    begin.document->title = "Profit & loss";
+    auto begin = queueOptions();
+    begin.session.document->title = "Profit & loss";
     {
         Shown shown(begin, false);
         QVERIFY(shown.waitUntilIdle());
@@ -1097,9 +647,10 @@ void TestPrintDialog::keysReachPanelsAndRegions()
 void TestPrintDialog::everyStopIsReachedOnceAndHasAName()
 {
     auto begin = options();
-    begin.line.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
-    begin.line.pages = "1-2";
-    begin.line.copies = 2;
+    begin.session.job.options = {{"StapleLocation", "SinglePortrait"},
+                                 {"MediaType", "Transparency"}};
+    begin.session.job.pages = "1-2";
+    begin.session.job.copies = 2;
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     shown.dialog.activateWindow();
@@ -1148,19 +699,17 @@ void TestPrintDialog::everythingFits_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<double>("font");
     QTest::addColumn<bool>("dark");
-    QTest::addColumn<bool>("showsColumn");
-    QTest::addColumn<bool>("scrolls");
 
-    QTest::newRow("usual") << QSize(900, 660) << 1.0 << false << true << false;
-    QTest::newRow("dark") << QSize(900, 660) << 1.0 << true << true << false;
-    QTest::newRow("laptop") << QSize(1366, 768) << 1.0 << false << true << false;
-    QTest::newRow("860 wide") << QSize(880, 640) << 1.0 << false << true << false;
-    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false << true << false;
-    QTest::newRow("small") << QSize(800, 600) << 1.0 << false << true << false;
-    QTest::newRow("netbook") << QSize(1024, 600) << 1.0 << false << true << false;
-    QTest::newRow("low") << QSize(900, 480) << 1.0 << false << true << false;
-    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false << true << false;
-    QTest::newRow("large font") << QSize(1900, 1400) << 2.0 << false << true << false;
+    QTest::newRow("usual") << QSize(900, 660) << 1.0 << false;
+    QTest::newRow("dark") << QSize(900, 660) << 1.0 << true;
+    QTest::newRow("laptop") << QSize(1366, 768) << 1.0 << false;
+    QTest::newRow("860 wide") << QSize(880, 640) << 1.0 << false;
+    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false;
+    QTest::newRow("small") << QSize(800, 600) << 1.0 << false;
+    QTest::newRow("netbook") << QSize(1024, 600) << 1.0 << false;
+    QTest::newRow("low") << QSize(900, 480) << 1.0 << false;
+    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false;
+    QTest::newRow("large font") << QSize(1900, 1400) << 2.0 << false;
 }
 
 // Set KELVO_PICTURES to a folder to see the windows.
@@ -1169,8 +718,6 @@ void TestPrintDialog::everythingFits()
     QFETCH(QSize, size);
     QFETCH(double, font);
     QFETCH(bool, dark);
-    QFETCH(bool, showsColumn);
-    QFETCH(bool, scrolls);
     const QFont usualFont = QApplication::font();
     const QPalette usualPalette = QApplication::palette();
     QFont large = usualFont;
@@ -1184,7 +731,7 @@ void TestPrintDialog::everythingFits()
     });
     auto begin = options();
     // A conflict and a caution.
-    begin.line.options = {
+    begin.session.job.options = {
         {"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}, {"media", "A5"}};
     Shown shown(begin);
     shown.dialog.resize(size);
@@ -1194,10 +741,9 @@ void TestPrintDialog::everythingFits()
         shown.dialog.grab().save(folder + u'/' + QString::fromLatin1(QTest::currentDataTag())
                                  + ".png");
 
-    QCOMPARE(shown.isShown("printer"), showsColumn);
-    QVERIFY(shown.isShown("fix") && shown.isShown("cautionText2"));
+    QVERIFY(shown.isShown("printer") && shown.isShown("fix") && shown.isShown("cautionText2"));
     auto *scroll = shown.find<QScrollArea>("panels");
-    QCOMPARE(scroll->verticalScrollBar()->isVisible(), scrolls);
+    QVERIFY(!scroll->verticalScrollBar()->isVisible());
     QVERIFY(!scroll->horizontalScrollBar()->isVisible());
     const QRect inside = shown.dialog.rect();
     for (QWidget *widget : shown.dialog.findChildren<QWidget *>()) {
@@ -1219,7 +765,7 @@ void TestPrintDialog::everythingFits()
     QVERIFY(pages->width() >= pages->fontMetrics().horizontalAdvance("1-3, 7") + 8);
     shown.find<QWidget>("columnToggle")->setFocus();
     QTest::keyClick(&shown.dialog, Qt::Key_F9);
-    QCOMPARE(shown.isShown("printer"), !showsColumn);
+    QVERIFY(!shown.isShown("printer"));
 }
 
 QTEST_MAIN(TestPrintDialog)

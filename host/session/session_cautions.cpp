@@ -2,7 +2,6 @@
 
 #include "dialog_session.h"
 #include "page_placement.h"
-#include "page_ranges.h"
 #include "ppd_words.h"
 #include "terminal.h"
 
@@ -22,40 +21,48 @@ QString paperWords(const QString &name, const PpdFile &ppd)
 
 } // namespace
 
-SessionCautions::SessionCautions(DialogSession &session, bool goesToQueue)
+SessionCautions::SessionCautions(DialogSession &session, bool goesToPrinter,
+                                 std::function<QString()> place)
     : m_session(session)
-    , m_goesToQueue(goesToQueue)
+    , m_goesToPrinter(goesToPrinter)
+    , m_place(std::move(place))
 {
 }
 
-void SessionCautions::look(const QString &place)
+void SessionCautions::look()
 {
     m_cautions.clear();
     const auto add = [this](std::optional<Caution> caution) {
         if (caution)
             m_cautions.push_back(std::move(*caution));
     };
+    const Document &document = m_session.document().document();
+    SessionJob &job = m_session.job();
     add(printer());
     add(cutPages());
-    if (m_session.document().isRepaired())
+    if (document.isRepaired())
         add(repairedCaution());
-    if (const QString remark = m_session.document().remark(); !remark.isEmpty())
+    if (const QString remark = document.remark(); !remark.isEmpty())
         add(Caution{.text = remark});
-    if (m_session.panels()) {
-        const JobDescription &job = m_session.description();
-        m_covers.look(job.sheets, place);
-        const auto addCover = [&](LeftOutCovers::Cover cover, const QString &text) {
-            using enum LeftOutCovers::Cover;
-            if (cover == LeftOut)
-                add(Caution{.text = text});
-            else if (cover == Gone)
-                add(Caution{.text = text, .items = {text}, .hasHappened = true});
-        };
-        addCover(m_covers.front(), job.sheetWords.frontCoverLeftOut);
-        addCover(m_covers.back(), job.sheetWords.backCoverLeftOut);
+    if (m_session.hasPanels())
+        lookAtCovers();
+    add(missingCaution(job.missing(), job.ppd() != nullptr));
+    add(untoldCaution(job.untold()));
+}
+
+void SessionCautions::lookAtCovers()
+{
+    using enum LeftOutCovers::Cover;
+    const JobDescription &description = m_session.job().description();
+    m_covers.look(description.sheets, m_place ? m_place() : QString());
+    const SpecialSheetWords &words = description.sheetWords;
+    for (const auto &[cover, text] : {std::pair{m_covers.front(), words.frontCoverLeftOut},
+                                      std::pair{m_covers.back(), words.backCoverLeftOut}}) {
+        if (cover == LeftOut)
+            m_cautions.push_back({.text = text});
+        else if (cover == Gone)
+            m_cautions.push_back({.text = text, .items = {text}, .hasHappened = true});
     }
-    add(missingCaution(m_session.missing(), m_session.ppd() != nullptr));
-    add(untoldCaution(m_session.untold()));
 }
 
 void SessionCautions::forget()
@@ -91,19 +98,19 @@ void SessionCautions::say(bool happenedOnly)
 
 std::optional<Caution> SessionCautions::printer() const
 {
-    const Printer *printer = m_goesToQueue ? m_session.printer() : nullptr;
+    const Printer *printer = m_goesToPrinter ? m_session.search().printer() : nullptr;
     return printer ? printerCaution(printer->name, *printer) : std::nullopt;
 }
 
 std::optional<Caution> SessionCautions::cutPages() const
 {
-    const PpdFile *ppd = m_session.ppd().get();
-    const Document &document = m_session.document();
+    const PpdFile *ppd = m_session.job().ppd();
+    const Document &document = m_session.document().document();
     if (!ppd || document.isNull())
         return std::nullopt;
-    const JobSettings settings = m_session.settings();
+    const JobSettings settings = m_session.job().settings();
     const auto paper = paperSize(settings.paperName, *ppd);
-    const auto runs = pageRunsFrom(settings.pageRanges, document.pageCount());
+    const auto runs = m_session.pages();
     if (!paper || !runs)
         return std::nullopt;
     std::set<int> pages; // a page may be printed twice

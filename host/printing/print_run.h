@@ -1,8 +1,7 @@
 #pragma once
 
 #include "background_task.h"
-#include "delivery.h"
-#include "exit_status.h"
+#include "destination.h"
 
 #include <QObject>
 
@@ -10,14 +9,6 @@
 #include <memory>
 
 namespace kelvo {
-
-// What becomes of one press of Print.
-struct PrintOutcome
-{
-    ExitStatus status = ExitStatus::Failed;
-    QString place;   // printed: "Hall-123", or the folder
-    QString problem; // not printed: what, where and what to do
-};
 
 // Prepares and delivers one job on a thread of its own. It runs once.
 class PrintRun : public QObject
@@ -29,9 +20,7 @@ public:
     {
         JobRequest request;           // its PPD pointer is set from `ppd`
         std::shared_ptr<PpdFile> ppd; // kept until the job is out
-        QString queue;                // or
-        QString folder;               // instead of a queue
-        int timeoutMs = 30000;
+        std::shared_ptr<const Destination> destination;
     };
     explicit PrintRun(QObject *parent = nullptr);
     ~PrintRun() override; // cancels

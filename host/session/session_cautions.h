@@ -3,6 +3,12 @@
 #include "cautions.h"
 #include "left_out_covers.h"
 
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
 namespace kelvo {
 
 class DialogSession;
@@ -12,17 +18,18 @@ class DialogSession;
 class SessionCautions
 {
 public:
-    // Borrowed. `goesToQueue`: else no printer can be stopped.
-    SessionCautions(DialogSession &session, bool goesToQueue);
+    // Borrowed. `goesToPrinter`: else no printer can be stopped. `place` says where the user
+    // is among the panels, for LeftOutCovers; null: nowhere.
+    SessionCautions(DialogSession &session, bool goesToPrinter,
+                    std::function<QString()> place = {});
 
-    // As things stand; all panels have written. `place` is where the user is among them,
-    // for LeftOutCovers. Stage::Ready.
-    void look(const QString &place);
+    // As things stand; all panels have written. Stage::Ready.
+    void look();
     void forget(); // the job, not the printer, is another one
 
     const std::vector<Caution> &all() const { return m_cautions; }
     const Caution *find(Caution::Weight weight) const; // the first; null for none
-    QStringList inWords() const;
+    QStringList inWords() const;                       // a line for each
 
     // On standard error, each once: of a driven run when it prints, and as it goes on.
     void sayAll() { say(false); }
@@ -30,11 +37,13 @@ public:
 
 private:
     void say(bool happenedOnly);
+    void lookAtCovers();
     std::optional<Caution> printer() const;
     std::optional<Caution> cutPages() const;
 
     DialogSession &m_session;
-    const bool m_goesToQueue;
+    const bool m_goesToPrinter;
+    const std::function<QString()> m_place;
     LeftOutCovers m_covers;
     std::vector<Caution> m_cautions;
     QStringList m_said;

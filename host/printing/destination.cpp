@@ -1,0 +1,116 @@
+#include "destination.h"
+
+#include "cautions.h"
+#include "printers.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace kelvo {
+
+namespace {
+
+using Code = Error::Code;
+
+// What is wrong is on the way, but for what the queue turns out not to do.
+ExitStatus statusOfDelivery(Code code)
+{
+    switch (code) {
+    case Code::NotFound:
+    case Code::Unreachable:
+    case Code::TimedOut:
+    case Code::Damaged: // the PPD that the server has for it
+        return ExitStatus::NoDestination;
+    case Code::Unsupported:
+        return ExitStatus::NotOffered;
+    case Code::Cancelled:
+        return ExitStatus::Cancelled;
+    default:
+        return ExitStatus::Failed;
+    }
+}
+
+class Queue : public Destination
+{
+    Q_DECLARE_TR_FUNCTIONS(Queue)
+
+public:
+    Queue(const QString &queue, const QString &title, int timeoutMs)
+        : m_queue(queue)
+        , m_title(title)
+        , m_timeoutMs(timeoutMs)
+    {
+    }
+
+    PrintOutcome deliver(const PreparedJob &job, const std::atomic_bool &cancelled) const override
+    {
+        const auto delivered = deliverToQueue(job, m_queue, m_title, m_timeoutMs, cancelled);
+        if (!delivered)
+            return {statusOfDelivery(delivered.error().code), {}, whyNot(delivered.error())};
+        return {ExitStatus::Printed, delivered.value().name, {}};
+    }
+
+    QString onTheWay() const override { return tr("Sending to %1…").arg(m_queue); }
+    QString arrived(const QString &place) const override
+    {
+        return tr("%1 sent", "a job").arg(place);
+    }
+
+private:
+    // A queue may have begun to reject jobs since the dialog looked at it. That is told as
+    // the dialog tells it, with what the server said behind.
+    QString whyNot(const Error &error) const
+    {
+        constexpr int patienceMs = 5000; // it has just answered
+        if (error.code != Code::Refused)
+            return error.text();
+        const auto now = printerCondition(m_queue, std::min(m_timeoutMs, patienceMs));
+        const auto caution = now ? printerCaution(m_queue, now.value()) : std::nullopt;
+        return caution && caution->weight == Caution::Weight::Refused
+            ? QStringLiteral("%1 (%2)").arg(caution->sentences(), error.text())
+            : error.text();
+    }
+
+    const QString m_queue, m_title;
+    const int m_timeoutMs;
+};
+
+class Folder : public Destination
+{
+    Q_DECLARE_TR_FUNCTIONS(Folder)
+
+public:
+    explicit Folder(const QString &folder)
+        : m_folder(folder)
+    {
+    }
+
+    PrintOutcome deliver(const PreparedJob &job, const std::atomic_bool &) const override
+    {
+        if (const auto delivered = deliverToFolder(job, m_folder); !delivered)
+            return {ExitStatus::Failed, {}, delivered.error().text()};
+        return {ExitStatus::Printed, m_folder, {}};
+    }
+
+    QString onTheWay() const override { return tr("Writing to %1…").arg(m_folder); }
+    QString arrived(const QString &place) const override { return tr("Written to %1").arg(place); }
+
+private:
+    const QString m_folder;
+};
+
+} // namespace
+
+std::shared_ptr<const Destination> queueDestination(const QString &queue, const QString &title,
+                                                    int timeoutMs)
+{
+    return std::make_shared<Queue>(queue, title, timeoutMs);
+}
+
+std::shared_ptr<const Destination> folderDestination(const QString &folder)
+{
+    return std::make_shared<Folder>(folder);
+}
+
+} // namespace kelvo

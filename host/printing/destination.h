@@ -1,0 +1,41 @@
+#pragma once
+
+#include "delivery.h"
+#include "exit_status.h"
+
+#include <QString>
+
+#include <atomic>
+#include <memory>
+
+namespace kelvo {
+
+// What becomes of one press of Print.
+struct PrintOutcome
+{
+    ExitStatus status = ExitStatus::Failed;
+    QString place;   // printed: "Hall-123", or the folder
+    QString problem; // not printed: what, where and what to do
+};
+
+// Where a prepared job goes: a printer, a folder, or whoever asked for it. It knows all
+// that it needs and changes nothing of itself: words are asked for on the GUI thread
+// while a worker thread delivers.
+class Destination
+{
+public:
+    virtual ~Destination() = default;
+
+    // Blocks. `cancelled` stops it where that is still possible.
+    virtual PrintOutcome deliver(const PreparedJob &job,
+                                 const std::atomic_bool &cancelled) const = 0;
+
+    virtual QString onTheWay() const = 0;                    // "Sending to Hall-3…"
+    virtual QString arrived(const QString &place) const = 0; // "Hall-3-17 sent"
+};
+
+std::shared_ptr<const Destination> queueDestination(const QString &queue, const QString &title,
+                                                    int timeoutMs);
+std::shared_ptr<const Destination> folderDestination(const QString &folder);
+
+} // namespace kelvo

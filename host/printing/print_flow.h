@@ -1,0 +1,116 @@
+#pragma once
+
+#include "cautions.h"
+#include "conflicts.h"
+#include "destination.h"
+#include "print_run.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+namespace kelvo {
+
+class DialogSession;
+class SessionCautions;
+
+// Where jobs go, and what is written beside them.
+struct PrintPlan
+{
+    std::shared_ptr<const Destination> elsewhere; // null: to the session's printer
+    std::optional<QString> ticketOut, presetOut;  // files of the settings as they stand
+};
+
+// Why a press of Print did not send the job, and what the program would end with.
+struct PrintRefusal
+{
+    enum class Step { Destination, Pages, Conflicts, Cautions, SettingsOut, Job };
+    Step step = Step::Job; // which one found it
+    ExitStatus status = ExitStatus::Failed;
+    QString header;  // of a notice; empty before anything was tried
+    QString problem; // what, where and what to do
+};
+
+// What must be decided on the way to a job. The calls come on the GUI thread, from within
+// press(); each may run an event loop, and whoever answers must outlive it.
+class PrintQuestions
+{
+public:
+    virtual ~PrintQuestions() = default;
+
+    // Settings are in conflict, and the report has a way out: take it and print, or do not
+    // print. Nothing is told of a print that is called off so.
+    virtual bool fixesConflicts(const QString &header, const ConflictReport &report) = 0;
+    virtual bool printsAnyway(const Caution &caution) = 0; // one that is Asked
+};
+
+// From a press of Print to the job at its destination, in this order: is there somewhere
+// to go, can these pages be printed, do the settings go together, is there something to
+// know before, can the settings' files be written; then the job is made and delivered on
+// a thread of its own. What comes of it is a signal.
+//
+// On standard error stands what of a printed job was not sent; on standard output, where
+// it is.
+class PrintFlow : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Borrowed.
+    PrintFlow(DialogSession &session, SessionCautions &cautions, PrintPlan plan);
+
+    // Null: nobody can be asked. What would be is refused, or said on standard error, and a
+    // printer that nobody named is none.
+    void setQuestions(PrintQuestions *questions) { m_questions = questions; }
+
+    // Why there is nothing to press; empty when there is.
+    QString whyNotReady() const;
+    // Not while a job is on its way. `unfinished` is what the user has still to type of the
+    // pages, a sentence; mostly empty.
+    void press(const QString &unfinished = {});
+    // A press that finds no button to press; refused() does not tell of it.
+    void refuseUnready();
+    void cancel(); // the outcome says whether it was in time
+    // The same for whoever cannot wait long: where no outcome comes, the job is refused
+    // after a few seconds, and standard error says that it may be out.
+    void interrupt();
+
+    bool isPrinting() const { return m_run != nullptr; }
+    // Of the job that is on its way, or the last one; null before.
+    const Destination *destination() const { return m_destination.get(); }
+    // Of the last press; none when it went out or was called off.
+    const std::optional<PrintRefusal> &refusal() const { return m_refusal; }
+    void forgetRefusal() { m_refusal.reset(); } // the next press begins
+
+    // Writes the files of the plan; nothing where there are none.
+    Result<void> writeSettingsOut();
+
+signals:
+    void started(); // the job is on its way
+    void printed(const QString &place);
+    void refused(const kelvo::PrintRefusal &refusal);
+
+private:
+    bool hasDestination();
+    bool hasPages(const QString &unfinished);
+    bool goTogether();
+    bool isLetGo();
+    bool areSettingsWritten();
+    void start();
+    void takeOutcome(const PrintOutcome &outcome);
+    void sayWhatWasNotSent();
+    void refuse(PrintRefusal::Step step, ExitStatus status, const QString &header,
+                const QString &problem);
+    QString notPrinted() const;
+
+    DialogSession &m_session;
+    SessionCautions &m_cautions;
+    const PrintPlan m_plan;
+    PrintQuestions *m_questions = nullptr;
+    std::unique_ptr<PrintRun> m_run;
+    std::shared_ptr<const Destination> m_destination;
+    std::optional<PrintRefusal> m_refusal;
+};
+
+} // namespace kelvo

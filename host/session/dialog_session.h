@@ -1,0 +1,92 @@
+#pragma once
+
+#include "document_opening.h"
+#include "printer_search.h"
+#include "session_job.h"
+
+#include <QObject>
+
+#include <optional>
+#include <vector>
+
+namespace kelvo {
+
+// What a session begins with: plain values, read and checked by whoever starts it.
+struct SessionBeginning
+{
+    PrinterSearch::Wanted printer;
+    std::optional<DocumentSource> document; // none: there is nothing to print
+    SessionJob::Wishes job;
+    Bundle *bundle = nullptr; // null: no device panels
+    QString bundleProblem;    // why there is no bundle, a sentence
+};
+
+// A print dialog's life without its looks: the printer with its PPD is searched, then
+// the tickets are made, then the device's panels begin; the document beside that.
+class DialogSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `panels` are the bundle's and borrowed; null: none.
+    DialogSession(SessionBeginning beginning, DevicePanels *panels, QObject *parent = nullptr);
+    ~DialogSession() override;
+
+    void start(); // the search; the document is no part of it
+    // A second call does nothing. The first frame would wait for the memory and the
+    // processor that this takes.
+    void openTheDocument() { m_document.start(); }
+    void retry() { m_search.retry(); } // after Stage::Stuck
+    void stop();                       // ends the panels; what is under way is left to itself
+
+    enum class Stage {
+        Searching, // printers or the PPD are on their way
+        Stuck,     // no printer to print to: see message()
+        Ready,     // tickets are there, and panels when the device has some
+    };
+    Stage stage() const;
+    const SessionMessage &message() const; // while there are no panels to show
+
+    const PrinterSearch &search() const { return m_search; }
+    void lookAtPrinter() { m_search.look(); }
+    // Goes to another printer and takes the settings along. What the new device
+    // does not have comes back with one that has it.
+    void choosePrinter(const QString &name);
+
+    const DocumentOpening &document() const { return m_document; }
+    // Those of the document that are printed; the error says which there are.
+    Result<std::vector<PageRun>> pages() const; // Stage::Ready, and the document is there
+
+    SessionJob &job() { return m_job; } // Stage::Ready
+    const SessionJob &job() const { return m_job; }
+    bool hasPanels() const { return m_panels && m_panels->isBegun(); }
+
+signals:
+    void printersChanged();
+    void conditionChanged(); // of a printer in the list
+    void stageChanged();
+    void documentChanged();
+    void reloaded(); // every setting may have changed
+    // An option that was asked for is one that this device cannot do: a sentence. The
+    // session goes no further.
+    void refused(const QString &message);
+
+private:
+    void takeSearch();
+    void begin();
+    void beginPanels();
+    QString whyNoPanels();
+    QString whyPanelsDidNotBegin(const Error &error) const;
+    void endPanels();
+
+    Bundle *m_bundle;
+    QString m_bundleProblem;
+    DevicePanels *m_panels;
+    std::optional<Result<void>> m_panelsLoaded; // once, when they are first needed
+    SessionMessage m_message;                   // of Stage::Ready
+    PrinterSearch m_search;
+    DocumentOpening m_document;
+    SessionJob m_job;
+};
+
+} // namespace kelvo

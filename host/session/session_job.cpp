@@ -1,0 +1,322 @@
+#include "session_job.h"
+
+#include "job_words.h"
+#include "ppd_words.h"
+#include "secrets.h"
+#include "ticket_attachment.h"
+#include "ticket_layers.h"
+
+namespace kelvo {
+
+namespace {
+
+const QString hostClient = QStringLiteral("com.kelvo.printingmanager");
+
+} // namespace
+
+SessionJob::SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObject *parent)
+    : QObject(parent)
+    , m_wishes(std::move(wishes))
+    , m_panels(panels)
+    , m_secretKeys(secretKeysOf(bundle))
+    , m_describer(bundle)
+    , m_session(std::make_unique<PrintSession>())
+{
+    for (const auto *given : {&m_wishes.preset, &m_wishes.ticketIn}) {
+        if (*given && holdsSecret(**given, m_secretKeys))
+            protectSecrets();
+    }
+}
+
+// ---- a device's life
+
+Result<void> SessionJob::beginOn(Device device)
+{
+    m_device = std::move(device);
+    m_session = std::make_unique<PrintSession>();
+    m_session->setPrinter({m_device.name, ppd() ? ppd()->path() : QString()});
+    nameJob();
+    const TicketFile defaults = queueDefaults();
+    m_repeatedChoices = m_describer.repeatedChoices(ppd());
+    m_edits.asked.beginOn(defaults, m_repeatedChoices);
+    if (!m_areWishesAsked) {
+        if (auto asked = askFirst(); !asked)
+            return asked;
+        m_areWishesAsked = true;
+    }
+    load(defaults, *m_session);
+    return {};
+}
+
+void SessionJob::settle()
+{
+    m_edits.asked.setBeginning(firstWrites());
+    layAsked();
+    m_isSettled = true;
+}
+
+void SessionJob::leave()
+{
+    writeAll();
+    if (isChanged())
+        takeAsChanged();
+    if (ppd())
+        m_edits.asked.learnWords(*ppd());
+    m_isSettled = false;
+}
+
+void SessionJob::nameJob()
+{
+    PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, m_title);
+}
+
+// The device's own defaults stand in its PPD; a queue's are laid over them. What they
+// say of the PPD's options beats the print server's own names for the same.
+TicketFile SessionJob::queueDefaults()
+{
+    const QMap<QString, QString> &defaults = m_device.defaults;
+    for (const bool ofPpd : {false, true}) {
+        for (auto option = defaults.cbegin(); option != defaults.cend(); ++option) {
+            if ((ppd() && ppd()->findOption(option.key())) != ofPpd)
+                continue;
+            // Most of what the server lists is no setting of a job: passed over.
+            static_cast<void>(bool(applyOption(option.key(), option.value(), ppd(), *m_session)));
+        }
+    }
+    return ticketFileFrom(*m_session);
+}
+
+// What the panels make of these defaults.
+TicketFile SessionJob::firstWrites()
+{
+    writeJobSettings(settings(), ppd(), *m_session);
+    readAll();
+    sync(kSyncWrite);
+    return ticketFileFrom(*m_session);
+}
+
+// The ticket as this device has it, before the user touches anything.
+void SessionJob::layAsked()
+{
+    if (!m_edits.asked.isEmpty()) {
+        load(m_edits.asked.wanted(), *m_session);
+        nameJob();
+        writeJobSettings(settings(), ppd(), *m_session);
+        readAll();
+        sync(kSyncWrite);
+    }
+    m_edits.asked.settle(ticketFileFrom(*m_session));
+    m_edits.lookedAt = m_session->printSettings().ppdChoices;
+    m_edits.lastSet.clear();
+}
+
+// ---- what is asked for
+
+void SessionJob::askForSiteDefaults()
+{
+    if (const auto site = m_presets.siteDefaults())
+        m_edits.asked.lay(*site, AskedSettings::Kind::Given);
+}
+
+void SessionJob::ask(const TicketFile &file, AskedSettings::Kind kind)
+{
+    if (holdsSecret(file, m_secretKeys))
+        protectSecrets();
+    m_edits.asked.lay(file, kind);
+    m_edits.unknown.insert(file.unknown);
+    m_edits.unknown.remove(kTicketNonceKey); // of one sent job, and of no other
+}
+
+// An option may mean several settings, and change one by another: it is tried on what
+// is wanted so far.
+Result<void> SessionJob::askForOption(const QString &name, const QString &value)
+{
+    load(m_edits.asked.wanted(), *m_session);
+    const auto places = applyOption(name, value, ppd(), *m_session);
+    if (!places)
+        return places.error();
+    m_edits.asked.lay(part(ticketFileFrom(*m_session), places.value()),
+                      AskedSettings::Kind::Chosen);
+    return {};
+}
+
+void SessionJob::askForCopies(int copies)
+{
+    TicketFile asked;
+    asked.printSettings.entries[kPMCopiesKey] = {qint64(copies), hostClient};
+    m_edits.asked.lay(asked, AskedSettings::Kind::Chosen);
+}
+
+void SessionJob::askForPages(const QString &pages)
+{
+    TicketFile asked;
+    asked.isPart = true;
+    if (pages.isEmpty())
+        asked.removed.insert({kPMPrintSettingsTicket, kPMPageRangesKey});
+    else
+        asked.printSettings.entries[kPMPageRangesKey] = {pages, hostClient};
+    m_edits.asked.lay(asked, AskedSettings::Kind::Given);
+}
+
+Result<void> SessionJob::askFirst()
+{
+    using Kind = AskedSettings::Kind;
+    askForSiteDefaults();
+    if (m_wishes.preset)
+        ask(*m_wishes.preset, Kind::Chosen);
+    if (const auto &ticket = m_wishes.ticketIn) // of a whole one nobody chose all
+        ask(*ticket, ticket->isPart ? Kind::Chosen : Kind::Given);
+    for (const auto &[name, value] : m_wishes.options) {
+        if (auto asked = askForOption(name, value); !asked)
+            return asked;
+    }
+    if (m_wishes.copies)
+        askForCopies(*m_wishes.copies);
+    if (m_wishes.pages)
+        askForPages(*m_wishes.pages);
+    return {};
+}
+
+void SessionJob::usePreset(const TicketFile *preset)
+{
+    const QString pages = settings().pageRanges;
+    m_edits.asked.clear();
+    m_edits.unknown.clear();
+    askForSiteDefaults();
+    if (preset)
+        ask(*preset, AskedSettings::Kind::Chosen);
+    askForPages(pages); // the user's: no other printer takes them away
+    layAsked();
+    emit reloaded();
+}
+
+// ---- as it stands
+
+void SessionJob::sync(SyncDirection direction)
+{
+    if (m_panels)
+        m_panels->sync(direction);
+}
+
+void SessionJob::writeAll()
+{
+    sync(kSyncWrite);
+    if (m_isSettled)
+        m_edits.asked.take(ticketFileFrom(*m_session), ppd());
+}
+
+void SessionJob::readAll()
+{
+    sync(kSyncRead);
+}
+
+JobSettings SessionJob::settings() const
+{
+    return jobSettingsFrom(*m_session, ppd());
+}
+
+bool SessionJob::isTwoSided() const
+{
+    return kelvo::isTwoSided(m_session->printSettings().ppdChoices, ppd());
+}
+
+void SessionJob::change(const JobSettings &settings)
+{
+    writeAll();
+    writeJobSettings(settings, ppd(), *m_session);
+}
+
+TicketFile SessionJob::ticket() const
+{
+    TicketFile file = ticketFileFrom(*m_session);
+    file.unknown = m_edits.unknown;
+    return file;
+}
+
+TicketFile SessionJob::ticketToKeep() const
+{
+    const TicketFile asked = preset();
+    TicketFile file = ticket();
+    file.asked = placesOf(asked);
+    file.choiceWords = asked.choiceWords;
+    return file;
+}
+
+TicketFile SessionJob::preset() const
+{
+    TicketFile file = m_edits.asked.preset(ticketFileFrom(*m_session), ppd());
+    file.unknown = m_edits.unknown;
+    return file;
+}
+
+bool SessionJob::isChanged() const
+{
+    return m_edits.asked.isChanged(ticketFileFrom(*m_session));
+}
+
+void SessionJob::takeAsUnchanged()
+{
+    m_edits.asked.takeAsUnchanged(ticketFileFrom(*m_session));
+}
+
+QStringList SessionJob::missing() const
+{
+    return missingOnDevice(m_edits.asked.asked(), ppd());
+}
+
+QStringList SessionJob::untold()
+{
+    if (readsTickets(ppd()))
+        return {};
+    const TicketFile asked = m_edits.asked.asked();
+    JobDescription description;
+    m_describer.describe(asked.printSettings, asked.pageFormat, ppd(), description);
+    return entriesInWords(description);
+}
+
+ConflictReport SessionJob::conflicts()
+{
+    if (!m_device.ppd)
+        return {};
+    // Whoever has just set something wants to keep that.
+    const PPDDictionary &choices = m_session->printSettings().ppdChoices;
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice) {
+        if (m_edits.lookedAt.value(choice.key()) == *choice)
+            continue;
+        m_edits.lastSet.removeAll(choice.key());
+        m_edits.lastSet.prepend(choice.key());
+    }
+    m_edits.lookedAt = choices;
+    return findConflicts(*m_session, *m_device.ppd, m_edits.lastSet);
+}
+
+void SessionJob::fix(const ConflictReport &report)
+{
+    dropRepeats(m_session->printSettings(), report.fix, m_repeatedChoices);
+    applyFix(report, *m_session);
+    writeJobSettings(settings(), ppd(), *m_session); // the size of another paper
+    readAll();
+}
+
+SessionJob::Snapshot SessionJob::snapshot() const
+{
+    return {m_session->printSettings(), m_session->pageFormat(), m_edits};
+}
+
+void SessionJob::restore(const Snapshot &snapshot)
+{
+    m_session->printSettings() = snapshot.printSettings;
+    m_session->pageFormat() = snapshot.pageFormat;
+    m_edits = snapshot.edits;
+    readAll();
+    emit reloaded();
+}
+
+const JobDescription &SessionJob::description()
+{
+    m_describer.describe(m_session->printSettings(), m_session->pageFormat(), ppd(),
+                         m_description);
+    return m_description;
+}
+
+} // namespace kelvo

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace kelvo {
+
+// What is going on or wrong while there are no panels to show, and what to do.
+struct SessionMessage
+{
+    QString header, text;
+    bool canRetry = false;
+    QString advice = {}; // for those who sit before the window
+};
+
+} // namespace kelvo

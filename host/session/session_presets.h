@@ -1,0 +1,47 @@
+#pragma once
+
+#include "presets.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace kelvo {
+
+class SessionJob;
+
+// The presets that a job can begin on, and which of them it did. Saving, renaming and
+// deleting go to the user's own; errors are the store's, and nothing has changed then.
+class SessionPresets
+{
+public:
+    // `job` is borrowed. `chosen` is what it began with; empty, or one that does not
+    // exist: the defaults.
+    SessionPresets(SessionJob &job, const QString &chosen);
+
+    const std::vector<Preset> &all() const { return m_presets; }
+    const Preset *chosen() const { return find(m_chosen); } // null: the defaults
+    const Preset *findOwn(const QString &name) const;       // null: none, or the site's
+
+    void chooseDefaults();
+    Result<void> choose(const QString &name);
+    // The settings as they stand, over an own preset of that name; it is the chosen one
+    // then. Without `keepsSecrets`, as the preset that is replaced has it. What is not
+    // ours in one that is replaced is kept.
+    Result<void> save(const QString &name, std::optional<bool> keepsSecrets);
+    // Both of the chosen one. The settings stay; without a preset they are changed ones.
+    Result<void> rename(const QString &to);
+    Result<void> remove();
+
+private:
+    void reload();
+    const Preset *find(const QString &name) const;
+
+    SessionJob &m_job;
+    PresetStore m_store;
+    std::vector<Preset> m_presets;
+    QString m_chosen;
+};
+
+} // namespace kelvo

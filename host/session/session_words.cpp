@@ -1,0 +1,40 @@
+#include "session_words.h"
+
+#include "dialog_session.h"
+#include "session_cautions.h"
+#include "sheet_sequence.h"
+
+namespace kelvo {
+
+JobWords jobInWords(DialogSession &session, SessionCautions &cautions)
+{
+    SessionJob &job = session.job();
+    job.writeAll();
+    JobWords words = describeJob(job.ticket(), job.settings(), job.ppd(), job.secretKeys(),
+                                 job.description(), job.missing());
+    if (session.document().hasSource() && !session.document().problem().isEmpty())
+        words.cautions << session.document().problem();
+    words.cautions += job.conflicts().sentences();
+    cautions.look();
+    words.cautions += cautions.inWords();
+    return words;
+}
+
+QString pagesProblem(const DialogSession &session)
+{
+    const auto pages = session.pages();
+    if (pages)
+        return {};
+    const QString detail = pages.error().detail;
+    return detail.left(1).toUpper() + detail.mid(1) + u'.';
+}
+
+QString jobInShort(DialogSession &session)
+{
+    SessionJob &job = session.job();
+    const int pages = pageCount(session.pages().value());
+    const SheetSequence sequence(pages, job.isTwoSided(), job.description().sheets);
+    return shortSummary(job.ticket(), job.settings(), pages, sequence.sheets(), job.secretKeys());
+}
+
+} // namespace kelvo

@@ -1,0 +1,86 @@
+#include "dialog_foot.h"
+
+#include "tool_tip.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kelvo {
+
+namespace {
+
+constexpr int gap = 6; // between rows
+
+} // namespace
+
+DialogFoot::DialogFoot(QWidget *toggle, QWidget *parent)
+    : QWidget(parent)
+    , m_text(new QLabel(this))
+    , m_progress(new QProgressBar(this))
+    , m_details(button("whatWillBeSent", tr("&What Will Be Sent…")))
+    , m_help(button("help", tr("&Help")))
+    , m_cancel(button("cancel", tr("Cancel")))
+    , m_print(button("print", tr("&Print")))
+{
+    m_text->setObjectName(QStringLiteral("summary"));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progress->setObjectName(QStringLiteral("progress"));
+    m_progress->setRange(0, 0);
+    m_progress->setTextVisible(false);
+    m_progress->setMaximumWidth(140);
+    m_progress->setMaximumHeight(8);
+    m_progress->setAccessibleName(tr("Printing"));
+    m_progress->hide();
+    m_print->setAutoDefault(true);
+    m_cancel->setAccessibleName(tr("Cancel printing"));
+
+    auto *textRow = new QHBoxLayout;
+    textRow->setSpacing(gap);
+    textRow->addWidget(toggle);
+    textRow->addWidget(m_text, 1);
+    textRow->addWidget(m_progress);
+    textRow->addWidget(m_details);
+    auto *buttonRow = new QHBoxLayout;
+    buttonRow->setSpacing(8);
+    buttonRow->addWidget(m_help);
+    buttonRow->addStretch(1);
+    buttonRow->addWidget(m_cancel);
+    buttonRow->addWidget(m_print);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(gap);
+    layout->addLayout(textRow);
+    layout->addLayout(buttonRow);
+}
+
+QPushButton *DialogFoot::button(const char *name, const QString &text)
+{
+    auto *made = new QPushButton(text, this);
+    made->setObjectName(QString::fromLatin1(name));
+    // Return presses no button but Print.
+    made->setAutoDefault(false);
+    return made;
+}
+
+void DialogFoot::setText(const QString &text)
+{
+    m_text->setText(text);
+    m_text->setToolTip(plainToolTip(text));
+}
+
+void DialogFoot::setBusy(bool busy)
+{
+    m_progress->setVisible(busy);
+}
+
+// Its words end too near to the frame in some styles.
+void DialogFoot::fitToFont()
+{
+    m_details->setMinimumWidth(m_details->sizeHint().width() + fontMetrics().height());
+}
+
+} // namespace kelvo

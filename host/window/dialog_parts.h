@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QList>
+#include <QPointer>
+
+class QStackedWidget;
+class QWidget;
+
+namespace kelvo {
+
+class CautionBar;
+class DialogFoot;
+class DocumentPreview;
+class PaneScroll;
+class PanelSwitch;
+class PrinterPane;
+class WaitingPane;
+class WindowColumns;
+
+// The parts of the print dialog, and where they stand: their places and sizes, the tab
+// order, and where the keyboard begins. What they show is the dialog's.
+class DialogParts
+{
+    Q_DECLARE_TR_FUNCTIONS(DialogParts)
+
+public:
+    // All but what stands in the left column, as children of `window`.
+    explicit DialogParts(QWidget *window);
+    // The left column, which completes the window: this and the preview below it.
+    void place(PrinterPane *printerPane);
+
+    WindowColumns *const columns;
+    PanelSwitch *const panelSwitch;
+    PaneScroll *const scroll;
+    QStackedWidget *const stack; // the waiting pane, or the panels
+    WaitingPane *const waiting;
+    QWidget *const panes; // parent of the device's panels
+    CautionBar *const cautionBar;
+    DialogFoot *const foot;
+    PrinterPane *printer = nullptr;
+    DocumentPreview *preview = nullptr;
+
+    void setEnabled(bool enabled); // all but the foot
+
+    // Sizes that a layout cannot know.
+    void fitToFont();
+    void fitToPanels();
+
+    // Panels make their controls when they are first shown: later than the buttons
+    // below them, which come after them all the same.
+    void arrangeTabOrder();
+    // The keyboard begins at the printers; while there are none to choose from, at
+    // what can be pressed.
+    void giveFirstFocus();
+    void goToRegion(bool forward);
+
+    void noteShown(); // the window
+    void noteReady(); // the printer, or that there is none
+    // Whether keys and clicks do by now what they are for: scripts wait for that, but
+    // not for ever.
+    bool isAtRest() const;
+
+private:
+    bool arePanelsBuilt() const; // those of hidden tabs, too
+
+    QWidget *m_window;
+    QList<QWidget *> m_panelStops;  // the tab order is made for these; compared, never followed
+    QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
+    QElapsedTimer m_sinceShown, m_sinceReady;
+};
+
+} // namespace kelvo
