@@ -28,20 +28,25 @@ enum Command : std::int32_t {
     kMoveDown = 1700,
 };
 
+Stock *jobStockOf(_SpecialPagesContext &panel)
+{
+    return panel.settings.jobStock ? &*panel.settings.jobStock : nullptr;
+}
+
 // The dialogs. True when the list may have changed: not when the dialog was
 // cancelled or could not be shown.
 bool editCovers(_SpecialPagesContext &panel, DialogMode mode)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalCoversDialog(panel.bundle, mode, panel.jobStock.get(), &panel.frontCover,
-                         &panel.backCover, &outcome, panel.pane);
+    RunModalCoversDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.frontCover,
+                         &panel.settings.backCover, &outcome, panel.pane);
     return outcome != DialogResult::Cancel;
 }
 
 bool editInserts(_SpecialPagesContext &panel, DialogMode mode, const Insert *edited)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalInsertsDialog(panel.bundle, mode, panel.jobStock.get(), panel.inserts.get(), edited,
+    RunModalInsertsDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.inserts, edited,
                           &outcome, panel.pane);
     return outcome != DialogResult::Cancel;
 }
@@ -49,8 +54,8 @@ bool editInserts(_SpecialPagesContext &panel, DialogMode mode, const Insert *edi
 bool editExceptions(_SpecialPagesContext &panel, DialogMode mode, const ExceptionPage *edited)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalExceptionsDialog(panel.bundle, mode, panel.jobStock.get(), panel.ticket,
-                             panel.exceptions.get(), edited, &outcome, panel.pane);
+    RunModalExceptionsDialog(panel.bundle, mode, jobStockOf(panel), panel.ticket,
+                             &panel.settings.exceptions, edited, &outcome, panel.pane);
     return outcome != DialogResult::Cancel;
 }
 
@@ -72,9 +77,9 @@ void moveSelected(_SpecialPagesContext &panel, bool isUp)
 {
     SaveUndoState(&panel);
     if (isUp)
-        panel.inserts->promote(selectedPages(panel));
+        panel.settings.inserts.promote(selectedPages(panel));
     else
-        panel.inserts->demote(selectedPages(panel));
+        panel.settings.inserts.demote(selectedPages(panel));
 }
 
 // Does the command of that number; false when the list need not be filled anew.
@@ -148,17 +153,17 @@ void DeleteSelectedSpecialPages(_SpecialPagesContext &panel)
     const std::vector<const SpecialPage *> selected = selectedPages(panel);
     std::vector<const SpecialPage *> inserts, exceptions;
     for (const SpecialPage *page : selected) {
-        if (panel.frontCover && page == &*panel.frontCover)
-            panel.frontCover.reset();
-        else if (panel.backCover && page == &*panel.backCover)
-            panel.backCover.reset();
+        if (panel.settings.frontCover && page == &*panel.settings.frontCover)
+            panel.settings.frontCover.reset();
+        else if (panel.settings.backCover && page == &*panel.settings.backCover)
+            panel.settings.backCover.reset();
         else if (dynamic_cast<const Insert *>(page))
             inserts.push_back(page);
         else
             exceptions.push_back(page);
     }
-    panel.inserts->remove(inserts);
-    panel.exceptions->remove(exceptions);
+    panel.settings.inserts.remove(inserts);
+    panel.settings.exceptions.remove(exceptions);
 }
 
 void DeleteAllSpecialPages(_SpecialPagesContext &panel)
@@ -166,10 +171,10 @@ void DeleteAllSpecialPages(_SpecialPagesContext &panel)
     if (!mayDeleteSpecialPages(panel.bundle, QStringLiteral("Delete All Special Pages"),
                                panel.pane))
         return;
-    panel.frontCover.reset();
-    panel.inserts->clear();
-    panel.exceptions->clear();
-    panel.backCover.reset();
+    panel.settings.frontCover.reset();
+    panel.settings.inserts.clear();
+    panel.settings.exceptions.clear();
+    panel.settings.backCover.reset();
 }
 
 } // namespace kelvo

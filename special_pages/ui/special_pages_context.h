@@ -1,17 +1,13 @@
 #pragma once
 
-#include "cover.h"
 #include "event.h"
-#include "exception_page_list.h"
-#include "insert_list.h"
 #include "list_view.h"
 #include "plugin_abi.h"
-#include "special_pages_summary.h"
+#include "special_pages_settings.h"
 
 #include <QAbstractButton>
 #include <QPointer>
 
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -24,17 +20,10 @@ struct _SpecialPagesContext // NOLINT(bugprone-reserved-identifier)
     QString title;
     bool opened = false;
 
-    std::unique_ptr<ExceptionPageList> exceptions;
-    std::unique_ptr<InsertList> inserts;
-    std::optional<Cover> frontCover, backCover;
-
-    // One level of undo.
-    std::unique_ptr<ExceptionPageList> savedExceptions;
-    std::unique_ptr<InsertList> savedInserts;
-    std::optional<Cover> savedFrontCover, savedBackCover;
-
-    std::unique_ptr<Stock> jobStock; // null when the ticket has none
-    PMTicketRef ticket = 0;          // the print settings of the last Sync
+    Device device; // from Initialize on
+    SpecialPagesSettings settings;
+    std::optional<SpecialPagesSettings> undo; // one level, the job's stock apart
+    PMTicketRef ticket = 0;                   // the print settings of the last Sync
 
     QPointer<QWidget> parentPane;
     QPointer<QWidget> pane; // KPDE 1, the panel's own views, from Open on
@@ -55,19 +44,14 @@ struct _SpecialPagesContext // NOLINT(bugprone-reserved-identifier)
         std::uint64_t identity;
     };
     std::vector<Row> rows;
-
-    SpecialPages pages() const;
 };
 
 // The panel that is up, for the dialogs that it opens; null when there is none.
 extern _SpecialPagesContext *_specialPagesContext;
 
-// Copies of all special pages, in place of those saved before. Nothing happens for
-// null.
+// A copy of all special pages, in place of that saved before. Nothing happens for null.
 void SaveUndoState(_SpecialPagesContext *context);
-// Brings the copies back, and none are left.
+// Brings the copy back, and none is left.
 void PerformUndo(_SpecialPagesContext *context);
-void DropUndoState(_SpecialPagesContext *context);
-bool hasUndoState(const _SpecialPagesContext &context);
 
 } // namespace kelvo

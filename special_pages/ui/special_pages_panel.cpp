@@ -1,17 +1,15 @@
 #include "special_pages_panel.h"
 
-#include "cover_sync.h"
 #include "dialog_window.h"
 #include "embed_control.h"
 #include "panel_interface.h"
 #include "panel_prologue.h"
 #include "pde_session.h"
+#include "print_session.h"
 #include "special_pages_commands.h"
 #include "special_pages_context.h"
-#include "special_pages_ticket.h"
 #include "special_pages_view.h"
 #include "terminal.h"
-#include "ticket.h"
 #include "ticket_values.h"
 #include "window_loader.h"
 
@@ -78,18 +76,20 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
     OSStatus status = GetTicketFromSession(session, kPMPrintSettingsTicket, &panel->ticket);
     if (status != noErr)
         return status;
+    Ticket *printSettings = findTicket(panel->ticket);
+    if (!printSettings)
+        return kPMInvalidTicket;
+    SpecialPagesSettings &settings = panel->settings;
     if (direction == kSyncWrite) {
-        status = writeSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions);
+        status = writeSpecialPages(settings, *printSettings);
     } else if (direction == kSyncRead) {
         // Of another ticket, a preset's say, nothing can be undone.
-        if (!holdsSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions))
-            DropUndoState(panel);
-        status =
-            readSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions, panel->jobStock);
-    }
-    SyncCovers(panel->ticket, direction, &panel->frontCover, &panel->backCover);
-    if (direction == kSyncRead)
+        if (!holdsSpecialPages(*printSettings, settings))
+            panel->undo.reset();
+        readSpecialPages(settings, *printSettings, panel->device);
         UpdateSpecialPagesSummary(panel);
+        status = settings.jobStock ? noErr : kPMKeyNotFound; // none is in order
+    }
     return status;
 }
 
@@ -100,8 +100,7 @@ OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane 
     if (!panel || !parentPane || !session)
         return kPMInvalidPDEContext;
     panel->parentPane = parentPane;
-    panel->exceptions = std::make_unique<ExceptionPageList>();
-    panel->inserts = std::make_unique<InsertList>();
+    panel->device = currentDevice(panel->bundle);
     Sync(context, session, kSyncRead); // what a ticket does not have is in order
     return noErr;
 }
