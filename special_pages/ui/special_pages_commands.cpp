@@ -39,7 +39,7 @@ bool editCovers(_SpecialPagesContext &panel, DialogMode mode)
 {
     DialogResult outcome = DialogResult::Cancel;
     RunModalCoversDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.frontCover,
-                         &panel.settings.backCover, &outcome, panel.pane);
+                         &panel.settings.backCover, &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
 
@@ -47,15 +47,15 @@ bool editInserts(_SpecialPagesContext &panel, DialogMode mode, const Insert *edi
 {
     DialogResult outcome = DialogResult::Cancel;
     RunModalInsertsDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.inserts, edited,
-                          &outcome, panel.pane);
+                          &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
 
 bool editExceptions(_SpecialPagesContext &panel, DialogMode mode, const ExceptionPage *edited)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalExceptionsDialog(panel.bundle, mode, jobStockOf(panel), panel.ticket,
-                             &panel.settings.exceptions, edited, &outcome, panel.pane);
+    RunModalExceptionsDialog(panel.bundle, mode, jobStockOf(panel), panel.printSettingsRef,
+                             &panel.settings.exceptions, edited, &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
 
@@ -133,7 +133,7 @@ OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &even
         return noErr;
     }
     if (event.kind == EventKind::Command && event.command == kCommandPanelHelp)
-        return showHelp(QStringLiteral("special_pages/special_pages.htm"), panel.pane);
+        return showHelp(QStringLiteral("special_pages/special_pages.htm"), panel.content);
     if (event.kind == EventKind::ListActivated && event.source == panel.list && event.row >= 0)
         command = kEdit;
     else if (event.kind == EventKind::ControlHit && isCommand(event.control.number))
@@ -148,7 +148,7 @@ OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &even
 void DeleteSelectedSpecialPages(_SpecialPagesContext &panel)
 {
     if (!mayDeleteSpecialPages(panel.bundle, QStringLiteral("Delete Selected Special Pages"),
-                               panel.pane))
+                               panel.content))
         return;
     const std::vector<const SpecialPage *> selected = selectedPages(panel);
     std::vector<const SpecialPage *> inserts, exceptions;
@@ -169,7 +169,7 @@ void DeleteSelectedSpecialPages(_SpecialPagesContext &panel)
 void DeleteAllSpecialPages(_SpecialPagesContext &panel)
 {
     if (!mayDeleteSpecialPages(panel.bundle, QStringLiteral("Delete All Special Pages"),
-                               panel.pane))
+                               panel.content))
         return;
     panel.settings.frontCover.reset();
     panel.settings.inserts.clear();

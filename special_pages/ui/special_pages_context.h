@@ -1,8 +1,8 @@
 #pragma once
 
-#include "event.h"
+#include "control.h"
 #include "list_view.h"
-#include "plugin_abi.h"
+#include "panel_context.h"
 #include "special_pages_settings.h"
 
 #include <QAbstractButton>
@@ -14,27 +14,32 @@
 namespace kelvo {
 
 // What the Special Pages panel has while its dialog is up.
-struct _SpecialPagesContext // NOLINT(bugprone-reserved-identifier)
+struct _SpecialPagesContext final // NOLINT(bugprone-reserved-identifier)
+    : PanelContext
 {
-    CFBundleRef bundle = nullptr;
-    QString title;
-    bool opened = false;
+    // Its entries all answer alike without a context.
+    static constexpr PanelTraits traits{.titleKey = "SpecialPagesTitle",
+                                        .signature = kPanelSignature,
+                                        .syncWithoutContext = kPMInvalidPDEContext,
+                                        .isBuiltAtOnce = true};
+    // Makes it the one that is up (_specialPagesContext), until it goes.
+    _SpecialPagesContext();
+    ~_SpecialPagesContext() override;
 
-    Device device; // from Initialize on
+    OSStatus read(Ticket &printSettings, const Ticket &pageFormat) override;
+    OSStatus write(Ticket &printSettings, const Ticket &pageFormat) override;
+    OSStatus build() override; // `content` is KPDE 1
+
     SpecialPagesSettings settings;
     std::optional<SpecialPagesSettings> undo; // one level, the job's stock apart
-    PMTicketRef ticket = 0;                   // the print settings of the last Sync
 
-    QPointer<QWidget> parentPane;
-    QPointer<QWidget> pane; // KPDE 1, the panel's own views, from Open on
-    // Null until then.
+    // Null until it is built.
     QPointer<ListView> list;                                     // KPDE 1000
     QPointer<QAbstractButton> addCoversButton, addInsertsButton; // KPDE 100, 200
     QPointer<QAbstractButton> addExceptionsButton;               // KPDE 300
     QPointer<QAbstractButton> editButton, deleteButton;          // KPDE 1200, 1300
     QPointer<QAbstractButton> deleteAllButton, undoButton;       // KPDE 1400, 1500
     QPointer<QAbstractButton> moveUpButton, moveDownButton;      // KPDE 1600, 1700
-    EventHandlerRef handler;
 
     // What the list shows, row by row. Pages go and others come in their memory, so
     // what was selected is known by identity.

@@ -67,7 +67,7 @@ void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
     const int side = hasLabel ? addIconSize : commandIconSize;
     button->setIconSize({side, side});
     if (hasLabel) {
-        auto *label = findControl<QLabel>(panel.pane, panelID(row.labelNumber));
+        auto *label = findControl<QLabel>(panel.content, panelID(row.labelNumber));
         SetLocalizedStaticText(panel.bundle, QString::fromLatin1(row.textKey), label);
         return;
     }
@@ -77,7 +77,7 @@ void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
                                       : QStringLiteral("%1 (%2)").arg(
                                           text, keys.toString(QKeySequence::NativeText)));
     if (!keys.isEmpty()) {
-        auto *shortcut = new QShortcut(keys, panel.pane);
+        auto *shortcut = new QShortcut(keys, panel.content);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         QObject::connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
     }
@@ -138,7 +138,7 @@ void disableCoversWithoutOption(_SpecialPagesContext &panel)
 
 void findSpecialPagesControls(_SpecialPagesContext &panel, NeededControls &needed)
 {
-    panel.pane = needed.find(panelID(paneNumber));
+    panel.content = needed.find(panelID(paneNumber));
     panel.list = needed.find<ListView>(panelID(listNumber));
     for (const CommandButton &row : commandButtons) {
         panel.*row.button = needed.find<QAbstractButton>(panelID(row.number));
@@ -153,7 +153,7 @@ void InitializeSpecialPages(_SpecialPagesContext &panel)
     for (const CommandButton &row : commandButtons)
         initializeButton(panel, row);
     disableCoversWithoutOption(panel);
-    makeHintText(findControl<QLabel>(panel.pane, panelID(hintNumber)));
+    makeHintText(findControl<QLabel>(panel.content, panelID(hintNumber)));
     ConfigureSpecialPagesListAndInstallCallbacks(panel);
     UpdateSpecialPagesSummary(&panel);
 }
