@@ -1,11 +1,8 @@
 #pragma once
 
-#include "device.h"
-#include "event.h"
 #include "image_options_settings.h"
 #include "invert_image_controls.h"
-#include "late_content.h"
-#include "needed_controls.h"
+#include "panel_context.h"
 #include "picture_view.h"
 #include "popup_button.h"
 #include "spin_field.h"
@@ -45,20 +42,23 @@ struct ImageOptionsControls
     QPointer<QLabel> invertHint;                        // KPDE 2105
 };
 
-struct ImageOptionsContext
+struct ImageOptionsContext final : PanelContext
 {
-    CFBundleRef bundle = nullptr;
-    QString title;
-    Device device;       // from Initialize on
-    bool opened = false; // Open was called
-    ImageOptionsSettings settings;
+    static constexpr PanelTraits traits{.titleKey = "ImageOptions", .signature = kShellSignature};
+    ImageOptionsContext()
+        : PanelContext(traits)
+    {
+    }
 
-    QPointer<QWidget> parentUserPane;
-    LateContent lateContent;   // from Open on
-    QPointer<QWidget> content; // the panel's own views, once they are built
+    void begin(const Ticket &printSettings) override;
+    OSStatus read(Ticket &printSettings, const Ticket &pageFormat) override;
+    OSStatus write(Ticket &printSettings, const Ticket &pageFormat) override;
+    std::optional<std::vector<SummaryLine>> words() const override;
+    OSStatus build() override;
+
+    ImageOptionsSettings settings;
     ImageOptionsControls controls;
     InvertImageContext invertControls;
-    EventHandlerRef handler;
 };
 
 ImageOptionsControls findImageOptionsControls(NeededControls &needed);

@@ -43,7 +43,7 @@ std::vector<SummaryLine> paperOutputSummary(const PaperOutputSettings &settings,
     };
     const FinishingDevices devices = finishingDevices(device);
     add("Job Type:", mapText(device, JobTypeMap, settings.jobType));
-    add("Paper Summary:", stockSummaryText(device.bundle, kJobContextJob, &settings.jobStock));
+    add("Paper Summary:", stockSummaryText(device, kJobContextJob, &settings.jobStock));
     if (device.hasOption(QStringLiteral("Duplex")))
         add("Two Sided Printing:",
             mapText(device, PlexMap, settings.isBooklet() ? kPlexDuplex : settings.duplex));

@@ -1,13 +1,9 @@
 #pragma once
 
-#include "device.h"
-#include "event.h"
-#include "late_content.h"
 #include "menu_button.h"
-#include "needed_controls.h"
+#include "panel_context.h"
 #include "paper_output_settings.h"
 #include "picture_view.h"
-#include "plugin_abi.h"
 #include "popup_button.h"
 #include "stock_menu_button.h"
 #include "summary_view.h"
@@ -61,21 +57,25 @@ struct PaperOutputControls
     QPointer<PopupButton> outputDestination; // KPDE 126
 };
 
-struct _PaperOutputContext // NOLINT(bugprone-reserved-identifier): the panel's own name
+struct _PaperOutputContext final // NOLINT(bugprone-reserved-identifier): the panel's own name
+    : PanelContext
 {
-    CFBundleRef bundle = nullptr;
-    QString title;
-    Device device;       // from Initialize on
-    bool opened = false; // from Open to Close
+    static constexpr PanelTraits traits{.titleKey = "PaperOutput", .signature = kPanelSignature};
+    // Tells those who ask for it (pde_session.h), until it goes.
+    _PaperOutputContext();
+    ~_PaperOutputContext() override;
+
+    void begin(const Ticket &printSettings) override;
+    OSStatus read(Ticket &printSettings, const Ticket &pageFormat) override;
+    OSStatus write(Ticket &printSettings, const Ticket &pageFormat) override;
+    std::optional<std::vector<SummaryLine>> words() const override;
+    OSStatus build() override;
+    void close() override;
+
     PaperOutputSettings settings;
     QString documentName; // what a saved job is called that takes the job's name
-
-    QPointer<QWidget> parentUserPane;
-    LateContent lateContent;   // from Open to Close
-    QPointer<QWidget> content; // the panel's own views, once they are built
     PaperOutputControls controls;
     _StockMenuCommandEventHandlerData stockButtonData;
-    EventHandlerRef handler;
 };
 
 PaperOutputControls findPaperOutputControls(NeededControls &needed);

@@ -14,6 +14,12 @@ class ExceptionPageList : public SpecialPageList
 public:
     ExceptionPageList() = default;
     ExceptionPageList(const ExceptionPageList &other); // of clones
+    ExceptionPageList &operator=(const ExceptionPageList &other)
+    {
+        return *this = ExceptionPageList(other);
+    }
+    ExceptionPageList(ExceptionPageList &&) = default;
+    ExceptionPageList &operator=(ExceptionPageList &&) = default;
 
     const ExceptionPage *pageAtIndex(std::int32_t index) const override;
     // noErr. A page of another kind is left out.

@@ -12,6 +12,9 @@ class InsertList : public SpecialPageList
 public:
     InsertList() = default;
     InsertList(const InsertList &other); // of clones
+    InsertList &operator=(const InsertList &other) { return *this = InsertList(other); }
+    InsertList(InsertList &&) = default;
+    InsertList &operator=(InsertList &&) = default;
 
     const Insert *pageAtIndex(std::int32_t index) const override; // null also for another kind
     OSStatus add(Pages pages) override;                           // noErr

@@ -70,6 +70,13 @@ bool SpecialPageList::isWrittenAs(const Array &form) const
     return m_pages.empty() ? form.isEmpty() : m_form && m_form->isSharedWith(form);
 }
 
+SpecialPageList &SpecialPageList::operator=(SpecialPageList &&other) noexcept
+{
+    m_pages = std::exchange(other.m_pages, {});
+    m_form = std::exchange(other.m_form, std::nullopt);
+    return *this;
+}
+
 std::vector<const SpecialPage *> SpecialPageList::pages() const
 {
     std::vector<const SpecialPage *> pages;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace kelvo {
@@ -53,10 +54,19 @@ public:
 
     virtual std::unique_ptr<SpecialPageList> clone() const = 0;
 
+    // The same pages in the same order, as a ticket would say them.
+    friend bool operator==(const SpecialPageList &one, const SpecialPageList &other)
+    {
+        return one.asTicket() == other.asTicket();
+    }
+
 protected:
     SpecialPageList() = default;
-    SpecialPageList(const SpecialPageList &) = delete; // the lists add() their source's pages
+    // Lists are copied by adding their source's pages, and moved with theirs.
+    SpecialPageList(const SpecialPageList &) = delete;
     SpecialPageList &operator=(const SpecialPageList &) = delete;
+    SpecialPageList(SpecialPageList &&other) noexcept { *this = std::move(other); }
+    SpecialPageList &operator=(SpecialPageList &&other) noexcept;
 
     std::vector<const SpecialPage *> pages() const; // for add()
 

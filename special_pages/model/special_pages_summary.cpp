@@ -1,11 +1,9 @@
 #include "special_pages_summary.h"
 
-#include "installed_features.h"
 #include "lighten_darken.h"
 #include "ppd_choices.h"
 #include "setting_maps.h"
 #include "stock_summary.h"
-#include "ticket_values.h"
 
 #include <QStringList>
 
@@ -17,16 +15,11 @@ const QString separator = QStringLiteral("; ");
 const QString coverOption = QStringLiteral("KVFrontCoverSheet"); // as of the back cover
 const QString wideSeparator = QStringLiteral(";  ");
 
-QString text(CFBundleRef bundle, const char *key)
-{
-    return localizedText(bundle, QString::fromLatin1(key));
-}
-
 // Empty for a value that the map does not have.
-QString mapText(CFBundleRef bundle, const SettingMap *map, std::int32_t value)
+QString mapText(const Device &device, const SettingMap *map, std::int32_t value)
 {
     const char *key = LocalizedKeyForTicketValue(map, value);
-    return key ? text(bundle, key) : QString();
+    return key ? device.text(key) : QString();
 }
 
 QString joined(QStringList parts, const QString &with)
@@ -36,71 +29,75 @@ QString joined(QStringList parts, const QString &with)
 }
 
 // What this kind of page says beside its stock.
-QString kindText(CFBundleRef bundle, const SpecialPage &page)
+QString kindText(const Device &device, const SpecialPage &page)
 {
     if (const auto *cover = dynamic_cast<const Cover *>(&page))
-        return mapText(bundle, CoverSidesImagedMap, cover->sidesImaged());
+        return mapText(device, CoverSidesImagedMap, cover->sidesImaged());
     if (const auto *insert = dynamic_cast<const Insert *>(&page)) {
-        return QStringLiteral("%1 [%2]").arg(text(bundle, "InsertSummaryQuantity"),
+        return QStringLiteral("%1 [%2]").arg(device.text("InsertSummaryQuantity"),
                                              QString::number(insert->quantity()));
     }
     if (const auto *exception = dynamic_cast<const ExceptionPage *>(&page))
-        return mapText(bundle, PlexMap, exception->plex());
+        return mapText(device, PlexMap, exception->plex());
     return {};
 }
 
-QStringList stockTexts(CFBundleRef bundle, const Stock &stock)
+QStringList stockTexts(const Device &device, const Stock &stock)
 {
     if (stock.source() == kStockSourceInserter) {
-        return {CopyLocalizedStringForInstalledFeatureFromPlugin(
-                    QStringLiteral("PostPrintInserterKey"), bundle)
-                    .value_or(QString())};
+        return {device.featureText("PostPrintInserterKey").value_or(QString())};
     }
     // A tray says what it holds by itself.
     if (stock.source() != kUnset)
         return {};
     QStringList texts;
     if (stock.size() != kUnset)
-        texts << stockSizeText(stock);
+        texts << stockSizeText(device, stock);
     if (stock.color() != kUnset)
-        texts << stockColorText(stock);
+        texts << stockColorText(device, stock);
     if (stock.type() != kUnset)
-        texts << stockTypeText(bundle, stock);
+        texts << stockTypeText(device, stock);
     return texts;
+}
+
+bool isThis(const std::optional<Cover> &cover, const SpecialPage &page)
+{
+    return cover && &*cover == &page;
 }
 
 } // namespace
 
-std::vector<const SpecialPage *> rowsOf(const SpecialPages &pages)
+std::vector<const SpecialPage *> rowsOf(const SpecialPagesSettings &settings)
 {
-    const std::int32_t inserts = pages.inserts->count();
-    const std::int32_t exceptions = pages.exceptions->count();
+    const std::int32_t inserts = settings.inserts.count();
+    const std::int32_t exceptions = settings.exceptions.count();
     std::vector<const SpecialPage *> rows;
     rows.reserve(static_cast<std::size_t>(inserts) + static_cast<std::size_t>(exceptions) + 2);
-    if (pages.front)
-        rows.push_back(pages.front);
+    if (settings.frontCover)
+        rows.push_back(&*settings.frontCover);
     std::int32_t insert = 0, exception = 0;
     while (insert < inserts || exception < exceptions) {
-        const SpecialPage *nextInsert = pages.inserts->SpecialPageList::pageAtIndex(insert);
+        const SpecialPage *nextInsert = settings.inserts.SpecialPageList::pageAtIndex(insert);
         const SpecialPage *nextException =
-            pages.exceptions->SpecialPageList::pageAtIndex(exception);
+            settings.exceptions.SpecialPageList::pageAtIndex(exception);
         // What is inserted after a page comes after that page.
         const bool takeException =
             nextException && (!nextInsert || nextException->startPage() <= nextInsert->startPage());
         rows.push_back(takeException ? nextException : nextInsert);
         ++(takeException ? exception : insert);
     }
-    if (pages.back)
-        rows.push_back(pages.back);
+    if (settings.backCover)
+        rows.push_back(&*settings.backCover);
     return rows;
 }
 
-QString pagesText(CFBundleRef bundle, const SpecialPages &pages, const SpecialPage &page)
+QString pagesText(const Device &device, const SpecialPagesSettings &settings,
+                  const SpecialPage &page)
 {
-    if (&page == pages.front)
-        return text(bundle, "SpecialPageSummaryFront");
-    if (&page == pages.back)
-        return text(bundle, "SpecialPageSummaryBack");
+    if (isThis(settings.frontCover, page))
+        return device.text("SpecialPageSummaryFront");
+    if (isThis(settings.backCover, page))
+        return device.text("SpecialPageSummaryBack");
     if (dynamic_cast<const Cover *>(&page))
         return {};
     const QString first = QString::number(page.startPage());
@@ -109,65 +106,66 @@ QString pagesText(CFBundleRef bundle, const SpecialPages &pages, const SpecialPa
             ? first
             : first + u'-' + QString::number(exception->endPage());
     }
-    return page.startPage() < 1 ? text(bundle, "SpecialPageSummaryBefore1") : first;
+    return page.startPage() < 1 ? device.text("SpecialPageSummaryBefore1") : first;
 }
 
-QString typeText(CFBundleRef bundle, const SpecialPage &page)
+QString typeText(const Device &device, const SpecialPage &page)
 {
     if (dynamic_cast<const Cover *>(&page))
-        return text(bundle, "SpecialPageSummaryCover");
-    return dynamic_cast<const Insert *>(&page) ? text(bundle, "SpecialPageSummaryInsert")
-                                               : text(bundle, "SpecialPageSummaryException");
+        return device.text("SpecialPageSummaryCover");
+    return dynamic_cast<const Insert *>(&page) ? device.text("SpecialPageSummaryInsert")
+                                               : device.text("SpecialPageSummaryException");
 }
 
-QString CopySpecialPageSummary(const SpecialPage &page, CFBundleRef bundle)
+QString CopySpecialPageSummary(const SpecialPage &page, const Device &device)
 {
     const Stock &stock = page.stock();
     QStringList parts;
     if (!stock.customName().isEmpty())
-        parts << text(bundle, "Paper Name Label") + u' ' + stock.customName();
-    parts << kindText(bundle, page);
-    parts << stockTexts(bundle, stock);
+        parts << device.text("Paper Name Label") + u' ' + stock.customName();
+    parts << kindText(device, page);
+    parts << stockTexts(device, stock);
     return joined(parts, separator);
 }
 
-QString attributesText(const SpecialPage &page, CFBundleRef bundle)
+QString attributesText(const SpecialPage &page, const Device &device)
 {
-    QStringList parts{CopySpecialPageSummary(page, bundle)};
+    QStringList parts{CopySpecialPageSummary(page, device)};
     if (dynamic_cast<const Cover *>(&page)) {
-        const PpdFile *ppd = PPDGetCurrent();
-        if (!ppd || !ppd->findOption(coverOption))
-            parts << text(bundle, "Not on This Device");
+        if (!device.hasOption(coverOption))
+            parts << device.text("Not on This Device");
         else if (!PPDChoiceForTicketValue(coverOption, page.stock().source()))
-            parts << text(bundle, "Cover Without Source");
+            parts << device.text("Cover Without Source");
     }
     if (const auto *exception = dynamic_cast<const ExceptionPage *>(&page)) {
         // Nor is there a page before page 1.
         if (!exception->coversPages() || exception->endPage() < 1)
-            parts << text(bundle, "Exception Without Pages");
+            parts << device.text("Exception Without Pages");
         if (const char *step = lightenDarkenKey(exception->lightenDarken()))
-            parts << text(bundle, step);
+            parts << device.text(step);
         if (exception->imageShift()->option != kUnset)
-            parts << text(bundle, "Exception Image Shift");
+            parts << device.text("Exception Image Shift");
     }
     const QString all = joined(parts, separator);
-    return all.isEmpty() ? text(bundle, "UseJobSetting") : all;
+    return all.isEmpty() ? device.text("UseJobSetting") : all;
 }
 
 QString CreateInsertAttributesDescription(CFBundleRef bundle, const Insert &insert)
 {
+    const Device device = currentDevice(bundle);
     const QString quantity =
-        text(bundle, "InsertSummaryQuantity") + u' ' + QString::number(insert.quantity());
+        device.text("InsertSummaryQuantity") + u' ' + QString::number(insert.quantity());
     return joined(
         {quantity,
-         GenerateStockSummary(bundle, kJobContextInserts, insert.stock(), QStringLiteral(", "))},
+         GenerateStockSummary(device, kJobContextInserts, insert.stock(), QStringLiteral(", "))},
         wideSeparator);
 }
 
 QString CreateExceptionAttributesDescription(CFBundleRef bundle, const ExceptionPage &exception)
 {
-    return joined({mapText(bundle, PlexMap, exception.plex()),
-                   GenerateStockSummary(bundle, kJobContextExceptions, exception.stock(),
+    const Device device = currentDevice(bundle);
+    return joined({mapText(device, PlexMap, exception.plex()),
+                   GenerateStockSummary(device, kJobContextExceptions, exception.stock(),
                                         QStringLiteral(", "))},
                   wideSeparator);
 }

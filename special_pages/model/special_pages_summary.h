@@ -1,40 +1,30 @@
 #pragma once
 
 #include "bundle.h"
-#include "cover.h"
-#include "exception_page_list.h"
-#include "insert_list.h"
+#include "special_pages_settings.h"
 
 #include <QString>
 
 #include <vector>
 
-// What the list of special pages shows. Texts are the bundle's and the current PPD's.
+// What the list of special pages shows.
 namespace kelvo {
-
-// The job's special pages, borrowed; covers may be null.
-struct SpecialPages
-{
-    const Cover *front = nullptr;
-    const InsertList *inserts = nullptr;
-    const ExceptionPageList *exceptions = nullptr;
-    const Cover *back = nullptr;
-};
 
 // In the order in which they come: front cover, inserts and exception pages by
 // page (an exception page before an insert after its first page), back cover.
-std::vector<const SpecialPage *> rowsOf(const SpecialPages &pages);
+std::vector<const SpecialPage *> rowsOf(const SpecialPagesSettings &settings);
 
-QString pagesText(CFBundleRef bundle, const SpecialPages &pages, const SpecialPage &page);
-QString typeText(CFBundleRef bundle, const SpecialPage &page);
+QString pagesText(const Device &device, const SpecialPagesSettings &settings,
+                  const SpecialPage &page);
+QString typeText(const Device &device, const SpecialPage &page);
 // What is special about it, joined by "; ".
-QString CopySpecialPageSummary(const SpecialPage &page, CFBundleRef bundle);
+QString CopySpecialPageSummary(const SpecialPage &page, const Device &device);
 // The same, and what else is worth knowing: that a cover will be left out, that an
 // exception page covers no page and how its image differs, or that nothing does. All
 // that the list says.
-QString attributesText(const SpecialPage &page, CFBundleRef bundle);
+QString attributesText(const SpecialPage &page, const Device &device);
 
-// The same in a line for the dialogs.
+// The same in a line for the dialogs, on the current device.
 QString CreateInsertAttributesDescription(CFBundleRef bundle, const Insert &insert);
 QString CreateExceptionAttributesDescription(CFBundleRef bundle, const ExceptionPage &exception);
 

@@ -86,7 +86,8 @@ QString sourceHintKey(const CoverSide &side)
 void showStock(CFBundleRef bundle, const CoverSide &side, bool isThere)
 {
     const Stock &stock = side.cover->stock();
-    QString text = stockSummaryText(bundle, kJobContextCovers, isThere ? &stock : nullptr);
+    QString text =
+        stockSummaryText(currentDevice(bundle), kJobContextCovers, isThere ? &stock : nullptr);
     const bool isFromSource = isThere && hasSource(side.sources, *side.cover);
     if (isFromSource && stock.source() != kCoverSourceAutomatic)
         text = QStringLiteral("- ") + side.source->currentText();

@@ -28,29 +28,34 @@ enum Command : std::int32_t {
     kMoveDown = 1700,
 };
 
+Stock *jobStockOf(_SpecialPagesContext &panel)
+{
+    return panel.settings.jobStock ? &*panel.settings.jobStock : nullptr;
+}
+
 // The dialogs. True when the list may have changed: not when the dialog was
 // cancelled or could not be shown.
 bool editCovers(_SpecialPagesContext &panel, DialogMode mode)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalCoversDialog(panel.bundle, mode, panel.jobStock.get(), &panel.frontCover,
-                         &panel.backCover, &outcome, panel.pane);
+    RunModalCoversDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.frontCover,
+                         &panel.settings.backCover, &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
 
 bool editInserts(_SpecialPagesContext &panel, DialogMode mode, const Insert *edited)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalInsertsDialog(panel.bundle, mode, panel.jobStock.get(), panel.inserts.get(), edited,
-                          &outcome, panel.pane);
+    RunModalInsertsDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.inserts, edited,
+                          &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
 
 bool editExceptions(_SpecialPagesContext &panel, DialogMode mode, const ExceptionPage *edited)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalExceptionsDialog(panel.bundle, mode, panel.jobStock.get(), panel.ticket,
-                             panel.exceptions.get(), edited, &outcome, panel.pane);
+    RunModalExceptionsDialog(panel.bundle, mode, jobStockOf(panel), panel.printSettingsRef,
+                             &panel.settings.exceptions, edited, &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
 
@@ -72,9 +77,9 @@ void moveSelected(_SpecialPagesContext &panel, bool isUp)
 {
     SaveUndoState(&panel);
     if (isUp)
-        panel.inserts->promote(selectedPages(panel));
+        panel.settings.inserts.promote(selectedPages(panel));
     else
-        panel.inserts->demote(selectedPages(panel));
+        panel.settings.inserts.demote(selectedPages(panel));
 }
 
 // Does the command of that number; false when the list need not be filled anew.
@@ -128,7 +133,7 @@ OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &even
         return noErr;
     }
     if (event.kind == EventKind::Command && event.command == kCommandPanelHelp)
-        return showHelp(QStringLiteral("special_pages/special_pages.htm"), panel.pane);
+        return showHelp(QStringLiteral("special_pages/special_pages.htm"), panel.content);
     if (event.kind == EventKind::ListActivated && event.source == panel.list && event.row >= 0)
         command = kEdit;
     else if (event.kind == EventKind::ControlHit && isCommand(event.control.number))
@@ -143,33 +148,33 @@ OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &even
 void DeleteSelectedSpecialPages(_SpecialPagesContext &panel)
 {
     if (!mayDeleteSpecialPages(panel.bundle, QStringLiteral("Delete Selected Special Pages"),
-                               panel.pane))
+                               panel.content))
         return;
     const std::vector<const SpecialPage *> selected = selectedPages(panel);
     std::vector<const SpecialPage *> inserts, exceptions;
     for (const SpecialPage *page : selected) {
-        if (panel.frontCover && page == &*panel.frontCover)
-            panel.frontCover.reset();
-        else if (panel.backCover && page == &*panel.backCover)
-            panel.backCover.reset();
+        if (panel.settings.frontCover && page == &*panel.settings.frontCover)
+            panel.settings.frontCover.reset();
+        else if (panel.settings.backCover && page == &*panel.settings.backCover)
+            panel.settings.backCover.reset();
         else if (dynamic_cast<const Insert *>(page))
             inserts.push_back(page);
         else
             exceptions.push_back(page);
     }
-    panel.inserts->remove(inserts);
-    panel.exceptions->remove(exceptions);
+    panel.settings.inserts.remove(inserts);
+    panel.settings.exceptions.remove(exceptions);
 }
 
 void DeleteAllSpecialPages(_SpecialPagesContext &panel)
 {
     if (!mayDeleteSpecialPages(panel.bundle, QStringLiteral("Delete All Special Pages"),
-                               panel.pane))
+                               panel.content))
         return;
-    panel.frontCover.reset();
-    panel.inserts->clear();
-    panel.exceptions->clear();
-    panel.backCover.reset();
+    panel.settings.frontCover.reset();
+    panel.settings.inserts.clear();
+    panel.settings.exceptions.clear();
+    panel.settings.backCover.reset();
 }
 
 } // namespace kelvo

@@ -1,28 +1,16 @@
 #include "special_pages_panel.h"
 
-#include "cover_sync.h"
 #include "dialog_window.h"
 #include "embed_control.h"
-#include "panel_interface.h"
-#include "panel_prologue.h"
-#include "pde_session.h"
 #include "special_pages_commands.h"
 #include "special_pages_context.h"
-#include "special_pages_ticket.h"
 #include "special_pages_view.h"
 #include "terminal.h"
-#include "ticket.h"
-#include "ticket_values.h"
 #include "window_loader.h"
 
 namespace kelvo {
 
 namespace {
-
-_SpecialPagesContext *panelOf(PMPDEContext context)
-{
-    return reinterpret_cast<_SpecialPagesContext *>(context);
-}
 
 // Whoever starts the dialog from a terminal sees why the pane stays empty.
 OSStatus openFailed(const char *what)
@@ -31,13 +19,41 @@ OSStatus openFailed(const char *what)
     return fnfErr;
 }
 
-// Builds the panel's pane and puts it into its place.
-OSStatus buildPane(_SpecialPagesContext &panel)
+} // namespace
+
+_SpecialPagesContext::_SpecialPagesContext()
+    : PanelContext(traits)
+{
+    _specialPagesContext = this;
+}
+
+_SpecialPagesContext::~_SpecialPagesContext()
+{
+    if (_specialPagesContext == this)
+        _specialPagesContext = nullptr;
+}
+
+OSStatus _SpecialPagesContext::read(Ticket &printSettings, const Ticket &)
+{
+    // Of another ticket, a preset's say, nothing can be undone.
+    if (!holdsSpecialPages(printSettings, settings))
+        undo.reset();
+    readSpecialPages(settings, printSettings, device);
+    UpdateSpecialPagesSummary(this);
+    return settings.jobStock ? noErr : kPMKeyNotFound;
+}
+
+OSStatus _SpecialPagesContext::write(Ticket &printSettings, const Ticket &)
+{
+    return writeSpecialPages(settings, printSettings);
+}
+
+OSStatus _SpecialPagesContext::build()
 {
     const QString name = QStringLiteral("SpecialPages");
-    const Result<QWidget *> made = createWindowFromDescription(panel.bundle, name, name);
-    const auto sayNotMade = [&panel, &name](const QString &reason) {
-        showPanelNotMade(panel.bundle, panel.parentPane, name + u'/' + name, reason);
+    const Result<QWidget *> made = createWindowFromDescription(bundle, name, name);
+    const auto sayNotMade = [this, &name](const QString &reason) {
+        showPanelNotMade(bundle, parentUserPane, name + u'/' + name, reason);
     };
     if (!made) {
         sayNotMade(made.error().text());
@@ -46,114 +62,22 @@ OSStatus buildPane(_SpecialPagesContext &panel)
     }
     const std::unique_ptr<QWidget> window(made.value());
     NeededControls needed(window.get());
-    findSpecialPagesControls(panel, needed);
+    findSpecialPagesControls(*this, needed);
     if (!needed.missing().isEmpty()) {
-        sayNotMade(lacksControlsText(panel.bundle, needed.missing()));
-        return openFailed(panel.pane ? "get control reference" : "get user pane control reference");
+        sayNotMade(lacksControlsText(bundle, needed.missing()));
+        return openFailed(content ? "get control reference" : "get user pane control reference");
     }
-    InitializeSpecialPages(panel);
+    InitializeSpecialPages(*this);
     // On the parent, which the dialog's help command is sent to.
-    panel.handler = installEventHandler(panel.parentPane, [&panel](const Event &event) {
-        return SpecialPagesEventHandler(panel, event);
+    handler = installEventHandler(parentUserPane, [this](const Event &event) {
+        return SpecialPagesEventHandler(*this, event);
     });
-    return EmbedAndShowControl(panel.pane, panel.parentPane);
+    return EmbedAndShowControl(content, parentUserPane);
 }
-
-OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
-                  CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
-{
-    const OSStatus status =
-        announcePanel<_SpecialPagesContext>(QStringLiteral("SpecialPagesTitle"), kPanelSignature,
-                                            context, creator, userOptionKind, title, maxH, maxV);
-    if (status == noErr)
-        _specialPagesContext = panelOf(*context);
-    return status;
-}
-
-OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
-{
-    _SpecialPagesContext *panel = panelOf(context);
-    if (!panel)
-        return kPMInvalidPDEContext;
-    OSStatus status = GetTicketFromSession(session, kPMPrintSettingsTicket, &panel->ticket);
-    if (status != noErr)
-        return status;
-    if (direction == kSyncWrite) {
-        status = writeSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions);
-    } else if (direction == kSyncRead) {
-        // Of another ticket, a preset's say, nothing can be undone.
-        if (!holdsSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions))
-            DropUndoState(panel);
-        status =
-            readSpecialPages(panel->ticket, *panel->inserts, *panel->exceptions, panel->jobStock);
-    }
-    SyncCovers(panel->ticket, direction, &panel->frontCover, &panel->backCover);
-    if (direction == kSyncRead)
-        UpdateSpecialPagesSummary(panel);
-    return status;
-}
-
-OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane parentPane,
-                    PMPrintSession session)
-{
-    _SpecialPagesContext *panel = panelOf(context);
-    if (!panel || !parentPane || !session)
-        return kPMInvalidPDEContext;
-    panel->parentPane = parentPane;
-    panel->exceptions = std::make_unique<ExceptionPageList>();
-    panel->inserts = std::make_unique<InsertList>();
-    Sync(context, session, kSyncRead); // what a ticket does not have is in order
-    return noErr;
-}
-
-// Nothing: special pages are not a line of the summary.
-OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray *texts)
-{
-    if (!context || !titles || !texts)
-        return kPMInvalidPDEContext;
-    titles->reset();
-    texts->reset();
-    return noErr;
-}
-
-OSStatus Open(PMPDEContext context)
-{
-    _SpecialPagesContext *panel = panelOf(context);
-    if (!panel || panel->opened || !panel->parentPane)
-        return kPMInvalidPDEContext;
-    panel->opened = true;
-    return buildPane(*panel);
-}
-
-OSStatus Close(PMPDEContext context)
-{
-    return context ? noErr : kPMInvalidPDEContext;
-}
-
-OSStatus Terminate(PMPDEContext context, OSStatus)
-{
-    _SpecialPagesContext *panel = panelOf(context);
-    if (!panel)
-        return kPMInvalidPDEContext;
-    if (_specialPagesContext == panel)
-        _specialPagesContext = nullptr;
-    delete panel->pane; // before what it shows
-    delete panel;
-    return noErr;
-}
-
-} // namespace
 
 OSStatus GetSpecialPagesPanelInterface(PanelInterface **interface)
 {
-    return givePanelInterface({.Prologue = Prologue,
-                               .Initialize = Initialize,
-                               .Sync = Sync,
-                               .GetSummaryText = GetSummaryText,
-                               .Open = Open,
-                               .Close = Close,
-                               .Terminate = Terminate},
-                              interface);
+    return givePanel<_SpecialPagesContext>(interface);
 }
 
 } // namespace kelvo

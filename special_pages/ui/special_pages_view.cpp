@@ -3,7 +3,7 @@
 #include "hint_text.h"
 #include "localized_controls.h"
 #include "picture_view.h"
-#include "ppd_choices.h"
+#include "special_pages_summary.h"
 #include "ticket_values.h"
 
 #include <QLabel>
@@ -67,7 +67,7 @@ void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
     const int side = hasLabel ? addIconSize : commandIconSize;
     button->setIconSize({side, side});
     if (hasLabel) {
-        auto *label = findControl<QLabel>(panel.pane, panelID(row.labelNumber));
+        auto *label = findControl<QLabel>(panel.content, panelID(row.labelNumber));
         SetLocalizedStaticText(panel.bundle, QString::fromLatin1(row.textKey), label);
         return;
     }
@@ -77,7 +77,7 @@ void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
                                       : QStringLiteral("%1 (%2)").arg(
                                           text, keys.toString(QKeySequence::NativeText)));
     if (!keys.isEmpty()) {
-        auto *shortcut = new QShortcut(keys, panel.pane);
+        auto *shortcut = new QShortcut(keys, panel.content);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         QObject::connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
     }
@@ -127,8 +127,7 @@ void ConfigureSpecialPagesListAndInstallCallbacks(_SpecialPagesContext &panel)
 // Left in their place, so that users of several devices find them there.
 void disableCoversWithoutOption(_SpecialPagesContext &panel)
 {
-    const PpdFile *ppd = PPDGetCurrent();
-    if (ppd && ppd->findOption(QStringLiteral("KVFrontCoverSheet")))
+    if (panel.device.hasOption(QStringLiteral("KVFrontCoverSheet")))
         return;
     setEnabledWithLabel(panel.addCoversButton, false);
     panel.addCoversButton->setToolTip(
@@ -139,7 +138,7 @@ void disableCoversWithoutOption(_SpecialPagesContext &panel)
 
 void findSpecialPagesControls(_SpecialPagesContext &panel, NeededControls &needed)
 {
-    panel.pane = needed.find(panelID(paneNumber));
+    panel.content = needed.find(panelID(paneNumber));
     panel.list = needed.find<ListView>(panelID(listNumber));
     for (const CommandButton &row : commandButtons) {
         panel.*row.button = needed.find<QAbstractButton>(panelID(row.number));
@@ -154,7 +153,7 @@ void InitializeSpecialPages(_SpecialPagesContext &panel)
     for (const CommandButton &row : commandButtons)
         initializeButton(panel, row);
     disableCoversWithoutOption(panel);
-    makeHintText(findControl<QLabel>(panel.pane, panelID(hintNumber)));
+    makeHintText(findControl<QLabel>(panel.content, panelID(hintNumber)));
     ConfigureSpecialPagesListAndInstallCallbacks(panel);
     UpdateSpecialPagesSummary(&panel);
 }
@@ -164,13 +163,13 @@ OSStatus SpecialPagesListItemDataCallback(const _SpecialPagesContext &panel,
 {
     switch (property) {
     case kPropertyPages:
-        *text = pagesText(panel.bundle, panel.pages(), page);
+        *text = pagesText(panel.device, panel.settings, page);
         return noErr;
     case kPropertyType:
-        *text = typeText(panel.bundle, page);
+        *text = typeText(panel.device, page);
         return noErr;
     case kPropertyAttributes:
-        *text = attributesText(page, panel.bundle);
+        *text = attributesText(page, panel.device);
         return noErr;
     default:
         return kUnknownListProperty;
@@ -187,7 +186,7 @@ void UpdateSpecialPagesSummary(_SpecialPagesContext *panel)
     std::ranges::sort(selected);
     panel->rows.clear();
     std::vector<int> selectedRows;
-    for (const SpecialPage *page : rowsOf(panel->pages())) {
+    for (const SpecialPage *page : rowsOf(panel->settings)) {
         if (std::ranges::binary_search(selected, page->identity()))
             selectedRows.push_back(static_cast<int>(panel->rows.size()));
         panel->rows.push_back({page, page->identity()});
@@ -201,8 +200,9 @@ void UpdateSpecialPagesCommandButtons(_SpecialPagesContext *panel)
 {
     if (!panel || !panel->list)
         return;
-    const SpecialPagesCommands commands = commandsFor(
-        *panel->inserts, selectedPages(*panel), panel->list->rowCount(), hasUndoState(*panel));
+    const SpecialPagesCommands commands =
+        commandsFor(panel->settings.inserts, selectedPages(*panel), panel->list->rowCount(),
+                    panel->undo.has_value());
     const auto enable = [](QAbstractButton *button, bool isEnabled) {
         if (button)
             button->setEnabled(isEnabled);

@@ -1,9 +1,6 @@
 #include "stock_menus.h"
 
-#include "installed_features.h"
 #include "offered_choices.h"
-#include "ppd_choices.h"
-#include "ticket_values.h"
 
 #include <algorithm>
 
@@ -29,19 +26,18 @@ MenuItem commandItem(const QString &text, OSType command, std::int32_t reference
     return item;
 }
 
-std::vector<MenuItem> choices(const char *option, OSType command)
+std::vector<MenuItem> choices(const Device &device, const char *option, OSType command)
 {
     const QString keyword = QString::fromLatin1(option);
-    PpdFile *ppd = PPDGetCurrent();
     Menu menu;
-    if (ppd && ppd->findOption(keyword))
-        PopulateMenuWithOfferedChoices(menu, ppd, keyword, command);
+    if (device.hasOption(keyword))
+        PopulateMenuWithOfferedChoices(menu, device.ppd, keyword, command);
     return std::move(menu.items);
 }
 
-MenuItem useJobSetting(CFBundleRef bundle, OSType command)
+MenuItem useJobSetting(const Device &device, OSType command)
 {
-    return commandItem(localizedText(bundle, QStringLiteral("UseJobSetting")), command, kUnset);
+    return commandItem(device.text("UseJobSetting"), command, kUnset);
 }
 
 void append(Menu &menu, std::vector<MenuItem> items)
@@ -51,12 +47,12 @@ void append(Menu &menu, std::vector<MenuItem> items)
 }
 
 // An item that opens one of the menus below.
-void appendSubmenu(Menu &menu, CFBundleRef bundle, const char *titleKey, OSType command,
-                   void (*populate)(Menu &, CFBundleRef, JobContext), JobContext jobContext)
+void appendSubmenu(Menu &menu, const Device &device, const char *titleKey, OSType command,
+                   void (*populate)(Menu &, const Device &, JobContext), JobContext jobContext)
 {
     Menu submenu;
-    populate(submenu, bundle, jobContext);
-    MenuItem item = commandItem(localizedText(bundle, QString::fromLatin1(titleKey)), command);
+    populate(submenu, device, jobContext);
+    MenuItem item = commandItem(device.text(titleKey), command);
     item.enabled = !submenu.items.empty();
     item.submenu = std::move(submenu.items);
     menu.items.push_back(std::move(item));
@@ -64,73 +60,90 @@ void appendSubmenu(Menu &menu, CFBundleRef bundle, const char *titleKey, OSType 
 
 } // namespace
 
-void PopulateStockSizeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+void PopulateStockSizeMenu(Menu &menu, const Device &device, JobContext jobContext)
 {
-    std::vector<MenuItem> items = choices("PageSize", kCommandStockSize);
+    std::vector<MenuItem> items = choices(device, "PageSize", kCommandStockSize);
     if (jobContext == kJobContextCovers) {
         const auto custom = std::ranges::find(items, kStockSizeCustom, &MenuItem::reference);
         if (custom != items.end())
             custom->enabled = false;
     }
     if (jobContext != kJobContextJob)
-        items.insert(items.begin(), useJobSetting(bundle, kCommandStockSize));
+        items.insert(items.begin(), useJobSetting(device, kCommandStockSize));
     append(menu, std::move(items));
 }
 
-void PopulateStockColorMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+void PopulateStockColorMenu(Menu &menu, const Device &device, JobContext jobContext)
 {
-    std::vector<MenuItem> items = choices("MediaColor", kCommandStockColor);
+    std::vector<MenuItem> items = choices(device, "MediaColor", kCommandStockColor);
     if (jobContext != kJobContextJob) {
         const auto unspecified =
             std::ranges::find(items, kStockColorUnspecified, &MenuItem::reference);
         if (unspecified != items.end())
             items.erase(unspecified);
-        items.insert(items.begin(), useJobSetting(bundle, kCommandStockColor));
+        items.insert(items.begin(), useJobSetting(device, kCommandStockColor));
     }
     append(menu, std::move(items));
 }
 
-void PopulateStockTypeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+void PopulateStockTypeMenu(Menu &menu, const Device &device, JobContext jobContext)
 {
-    std::vector<MenuItem> items = choices("MediaType", kCommandStockType);
+    std::vector<MenuItem> items = choices(device, "MediaType", kCommandStockType);
     if (jobContext != kJobContextJob) {
         std::erase_if(items, [](const MenuItem &item) {
             return item.reference == kStockTypeSystemDefault
                 || item.reference == kStockTypeUnspecified;
         });
-        items.insert(items.begin(), useJobSetting(bundle, kCommandStockType));
+        items.insert(items.begin(), useJobSetting(device, kCommandStockType));
     }
     append(menu, std::move(items));
 }
 
-void PopulateStockMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+void PopulateStockMenu(Menu &menu, const Device &device, JobContext jobContext)
 {
     if (jobContext != kJobContextJob)
-        appendSubmenu(menu, bundle, "OtherSize", kCommandStockSize, PopulateStockSizeMenu,
+        appendSubmenu(menu, device, "OtherSize", kCommandStockSize, PopulateStockSizeMenu,
                       jobContext);
-    appendSubmenu(menu, bundle, "OtherColor", kNoCommand, PopulateStockColorMenu, jobContext);
-    appendSubmenu(menu, bundle, "OtherType", kNoCommand, PopulateStockTypeMenu, jobContext);
+    appendSubmenu(menu, device, "OtherColor", kNoCommand, PopulateStockColorMenu, jobContext);
+    appendSubmenu(menu, device, "OtherType", kNoCommand, PopulateStockTypeMenu, jobContext);
     menu.items.push_back(divider());
     menu.items.push_back(divider());
     if (jobContext == kJobContextCovers || jobContext == kJobContextInserts) {
-        const std::optional<QString> name = CopyLocalizedStringForInstalledFeatureFromPlugin(
-            QStringLiteral("PostPrintInserterKey"), bundle);
+        const std::optional<QString> name = device.featureText("PostPrintInserterKey");
         if (name)
             menu.items.push_back(commandItem(*name, kCommandStockSource, kStockSourceInserter));
     }
 }
 
-Menu stockButtonMenu(CFBundleRef bundle, JobContext jobContext)
+void PopulateStockSizeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    PopulateStockSizeMenu(menu, currentDevice(bundle), jobContext);
+}
+
+void PopulateStockColorMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    PopulateStockColorMenu(menu, currentDevice(bundle), jobContext);
+}
+
+void PopulateStockTypeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    PopulateStockTypeMenu(menu, currentDevice(bundle), jobContext);
+}
+
+void PopulateStockMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext)
+{
+    PopulateStockMenu(menu, currentDevice(bundle), jobContext);
+}
+
+Menu stockButtonMenu(const Device &device, JobContext jobContext)
 {
     Menu menu;
-    menu.items.push_back(
-        commandItem(localizedText(bundle, QStringLiteral("Default Stock")), kCommandStockDefault));
+    menu.items.push_back(commandItem(device.text("Default Stock"), kCommandStockDefault));
     menu.items.push_back(divider());
-    PopulateStockMenu(menu, bundle, jobContext);
+    PopulateStockMenu(menu, device, jobContext);
     menu.items.push_back(divider());
     menu.items.push_back(
-        commandItem(localizedText(bundle, QStringLiteral("Advanced Stock Selection...")),
-                    kCommandStockAdvanced));
+        commandItem(device.text("Advanced Stock Selection..."), kCommandStockAdvanced));
     return menu;
 }
 

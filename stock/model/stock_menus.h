@@ -1,11 +1,10 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "menu.h"
 #include "stock.h"
 
 // The menus of a stock button, as data, and what their commands do to a stock.
-// Texts and choices are the current PPD's.
 namespace kelvo {
 
 inline constexpr OSType kCommandStockSize = fourCharCode("Ssiz");
@@ -19,18 +18,24 @@ inline constexpr OSType kCommandStockAdvanced = fourCharCode("Sadv");
 // special pages the first item is "use job setting" with kUnset, colours and
 // types are without "unspecified", and types without the printer's default. A
 // cover cannot have a custom size.
-void PopulateStockSizeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
-void PopulateStockTypeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
-void PopulateStockColorMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
+void PopulateStockSizeMenu(Menu &menu, const Device &device, JobContext jobContext);
+void PopulateStockTypeMenu(Menu &menu, const Device &device, JobContext jobContext);
+void PopulateStockColorMenu(Menu &menu, const Device &device, JobContext jobContext);
 
 // Size (special pages alone), colour and type as submenus, two dividers, and for
 // covers and inserts the post-print inserter where it is fitted. Whoever shows
 // the menu adds items for 'Sdef' and 'Sadv'.
+void PopulateStockMenu(Menu &menu, const Device &device, JobContext jobContext);
+
+// The same on the current device.
+void PopulateStockSizeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
+void PopulateStockTypeMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
+void PopulateStockColorMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
 void PopulateStockMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
 
 // The whole menu of a stock button: default stock, PopulateStockMenu's, advanced
 // selection.
-Menu stockButtonMenu(CFBundleRef bundle, JobContext jobContext);
+Menu stockButtonMenu(const Device &device, JobContext jobContext);
 
 // What 'Ssiz' (but the custom size), 'Sclr', 'Styp', 'Ssrc' and 'Sdef' do to
 // `stock`. False, and nothing changed, for any other command. Transparency

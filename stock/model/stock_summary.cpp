@@ -1,8 +1,6 @@
 #include "stock_summary.h"
 
-#include "installed_features.h"
 #include "ppd_choices.h"
-#include "ticket_values.h"
 
 #include <QStringList>
 
@@ -13,15 +11,15 @@ namespace {
 const QString bullet = QStringLiteral("- ");
 
 // The PPD's text of the choice with that value; empty when it has none.
-QString choiceText(const PpdFile *ppd, const char *option, std::int32_t value)
+QString choiceText(const Device &device, const char *option, std::int32_t value)
 {
-    return PPDCopyTextForTicketValue(ppd, QString::fromLatin1(option), value).value_or(QString());
+    return PPDCopyTextForTicketValue(device.ppd, QString::fromLatin1(option), value)
+        .value_or(QString());
 }
 
-QString labelled(CFBundleRef bundle, const char *labelKey, const QString &text)
+QString labelled(const Device &device, const char *labelKey, const QString &text)
 {
-    return localizedText(bundle, QString::fromLatin1(labelKey))
-        + localizedText(bundle, QStringLiteral(":")) + text;
+    return device.text(labelKey) + device.text(":") + text;
 }
 
 QString withModulus(const QString &name, std::int32_t modulus)
@@ -31,21 +29,15 @@ QString withModulus(const QString &name, std::int32_t modulus)
 
 } // namespace
 
-QString stockSizeText(const Stock &stock)
+QString stockSizeText(const Device &device, const Stock &stock)
 {
-    return choiceText(PPDGetCurrent(), "PageSize", stock.size());
+    return choiceText(device, "PageSize", stock.size());
 }
 
-QString stockColorText(const Stock &stock)
+QString stockColorText(const Device &device, const Stock &stock)
 {
-    return stock.color() == kStockColorCustom
-        ? stock.customColor()
-        : choiceText(PPDGetCurrent(), "MediaColor", stock.color());
-}
-
-QString stockTypeText(CFBundleRef bundle, const Stock &stock)
-{
-    return stockTypeText(Device{.bundle = bundle, .ppd = PPDGetCurrent()}, stock);
+    return stock.color() == kStockColorCustom ? stock.customColor()
+                                              : choiceText(device, "MediaColor", stock.color());
 }
 
 QString stockTypeText(const Device &device, const Stock &stock)
@@ -58,24 +50,21 @@ QString stockTypeText(const Device &device, const Stock &stock)
     case kStockTypeTab:
     case kStockTypeHeavyTab:
         if (stock.modulus() > 0)
-            return withModulus(choiceText(device.ppd, "MediaType", stock.type()), stock.modulus());
+            return withModulus(choiceText(device, "MediaType", stock.type()), stock.modulus());
         break;
     case kStockTypeCustom:
         return stock.customType();
     default:
         break;
     }
-    return choiceText(device.ppd, "MediaType", stock.type());
+    return choiceText(device, "MediaType", stock.type());
 }
 
-QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const Stock &stock,
+QString GenerateStockSummary(const Device &device, JobContext jobContext, const Stock &stock,
                              const QString &separator)
 {
     if (stock.source() == kStockSourceInserter) {
-        return bullet
-            + CopyLocalizedStringForInstalledFeatureFromPlugin(
-                  QStringLiteral("PostPrintInserterKey"), bundle)
-                  .value_or(QString());
+        return bullet + device.featureText("PostPrintInserterKey").value_or(QString());
     }
     if (stock.source() != kUnset)
         return QStringLiteral("");
@@ -83,30 +72,34 @@ QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const St
     const bool isJob = jobContext == kJobContextJob;
     QStringList lines;
     if (!stock.customName().isEmpty())
-        lines << labelled(bundle, "StockName", stock.customName());
+        lines << labelled(device, "StockName", stock.customName());
     if (!stock.customNameOnly()) {
         if (stock.size() != kUnset && !isJob)
-            lines << bullet + stockSizeText(stock);
+            lines << bullet + stockSizeText(device, stock);
         if (stock.color() == kStockColorCustom)
-            lines << labelled(bundle, "StockColor", stockColorText(stock));
+            lines << labelled(device, "StockColor", stockColorText(device, stock));
         else if (stock.color() != kUnset || isJob)
-            lines << bullet + stockColorText(stock);
+            lines << bullet + stockColorText(device, stock);
         if (stock.type() != kUnset || isJob)
-            lines << bullet + stockTypeText(bundle, stock);
+            lines << bullet + stockTypeText(device, stock);
     }
     return lines.isEmpty() ? QStringLiteral("") : lines.join(separator);
 }
 
-QString stockSummaryText(CFBundleRef bundle, JobContext jobContext, const Stock *stock)
+QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const Stock &stock,
+                             const QString &separator)
+{
+    return GenerateStockSummary(currentDevice(bundle), jobContext, stock, separator);
+}
+
+QString stockSummaryText(const Device &device, JobContext jobContext, const Stock *stock)
 {
     if (!stock)
         return QStringLiteral("");
-    const QString summary = GenerateStockSummary(bundle, jobContext, *stock, QStringLiteral("\n"));
+    const QString summary = GenerateStockSummary(device, jobContext, *stock, QStringLiteral("\n"));
     if (!summary.isEmpty())
         return summary;
-    return localizedText(bundle,
-                         jobContext == kJobContextJob ? QStringLiteral("PrinterDefault")
-                                                      : QStringLiteral("UseJobSetting"));
+    return device.text(jobContext == kJobContextJob ? "PrinterDefault" : "UseJobSetting");
 }
 
 } // namespace kelvo

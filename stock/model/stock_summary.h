@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bundle.h"
 #include "device.h"
+#include "setting_map.h"
 #include "stock.h"
 
 #include <QString>
@@ -16,19 +16,21 @@ namespace kelvo {
 //   another source nothing.
 //
 // What is not set has no line; for the job an unset colour or type is a line
-// without text. Texts are the current PPD's.
+// without text.
+QString GenerateStockSummary(const Device &device, JobContext jobContext, const Stock &stock,
+                             const QString &separator);
+// The same on the current device.
 QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const Stock &stock,
                              const QString &separator);
 
 // What the stock says of one of them; empty where it says nothing, or what the device
 // does not have.
-QString stockSizeText(const Stock &stock);
-QString stockColorText(const Stock &stock);
+QString stockSizeText(const Device &device, const Stock &stock);
+QString stockColorText(const Device &device, const Stock &stock);
 QString stockTypeText(const Device &device, const Stock &stock); // "Precut tab (5)"
-QString stockTypeText(CFBundleRef bundle, const Stock &stock);   // of the current device
 
 // What a summary view shows for it: the lines, or where there are none "printer
 // default" (the job) or "use job setting". Empty for null.
-QString stockSummaryText(CFBundleRef bundle, JobContext jobContext, const Stock *stock);
+QString stockSummaryText(const Device &device, JobContext jobContext, const Stock *stock);
 
 } // namespace kelvo

@@ -6,7 +6,6 @@
 #include "hint_text.h"
 #include "input_limits.h"
 #include "popups.h"
-#include "ppd_choices.h"
 #include "save_stock_dialog.h"
 #include "stock_library.h"
 #include "stock_menu_button.h"
@@ -62,8 +61,8 @@ QString sizeText(CFBundleRef bundle, JobContext jobContext, const Stock &stock)
         return notSetText(bundle, jobContext);
     if (stock.size() == kStockSizeCustom && stock.width() != kUnset && stock.length() != kUnset)
         return customSizeText(bundle, stock);
-    return PPDCopyTextForTicketValue(PPDGetCurrent(), QStringLiteral("PageSize"), stock.size())
-        .value_or(localizedText(bundle, QStringLiteral("StockSizeUnknown")));
+    const QString size = stockSizeText(currentDevice(bundle), stock);
+    return size.isEmpty() ? localizedText(bundle, QStringLiteral("StockSizeUnknown")) : size;
 }
 
 // A stock as its context begins with it, all of it: the default by itself leaves
@@ -295,7 +294,7 @@ private:
         setEnabledWithLabel(m_colorName, m_stock.color() == kStockColorCustom);
         m_size->setText(
             sizeText(m_bundle, m_jobContext, m_stock).replace(u'&', QLatin1String("&&")));
-        QStringList lines(stockSummaryText(m_bundle, m_jobContext, &m_stock));
+        QStringList lines(stockSummaryText(currentDevice(m_bundle), m_jobContext, &m_stock));
         lines += stockPropertyLines(m_bundle, m_stock);
         m_summary->setSummary(lines.join(u'\n'));
         StockIconEventHandler(m_sizeData);

@@ -58,13 +58,13 @@ void tellTicketPlaces(MenuButton *button)
 }
 
 OSStatus initializeButton(MenuButton *button, _StockMenuCommandEventHandlerData *data,
-                          Menu (*menuFor)(CFBundleRef, JobContext))
+                          Menu (*menuFor)(const Device &, JobContext))
 {
     if (!button || !data || !data->bundle || !data->stock)
         return paramErr;
     FinalizeStockMenuButton(data);
     data->button = button;
-    button->setMenu(menuFor(data->bundle, data->jobContext));
+    button->setMenu(menuFor(currentDevice(data->bundle), data->jobContext));
     if (data->jobContext == kJobContextJob)
         tellTicketPlaces(button);
     button->setMenuUpdate([data](Menu &menu) { checkChosen(menu.items, *data->stock); });
@@ -102,9 +102,9 @@ OSStatus InitializeStockMenuButton(MenuButton *button, _StockMenuCommandEventHan
 
 OSStatus InitializeStockSizeMenuButton(MenuButton *button, _StockMenuCommandEventHandlerData *data)
 {
-    return initializeButton(button, data, [](CFBundleRef bundle, JobContext jobContext) {
+    return initializeButton(button, data, [](const Device &device, JobContext jobContext) {
         Menu menu;
-        PopulateStockSizeMenu(menu, bundle, jobContext);
+        PopulateStockSizeMenu(menu, device, jobContext);
         return menu;
     });
 }
@@ -156,7 +156,7 @@ void StockIconEventHandler(const _StockMenuCommandEventHandlerData &data)
 {
     if (data.icon && data.bundle && data.stock)
         showStockIcon(data.bundle, data.icon, *data.stock,
-                      stockSummaryText(data.bundle, data.jobContext, data.stock));
+                      stockSummaryText(currentDevice(data.bundle), data.jobContext, data.stock));
 }
 
 void showStockIcon(CFBundleRef bundle, PictureView *icon, const Stock &stock,
@@ -178,7 +178,7 @@ OSStatus ShowStockSummary(CFBundleRef bundle, SummaryView *view, const Stock *st
 {
     if (!bundle || !view)
         return paramErr;
-    return UpdateSummaryTextView(view, stockSummaryText(bundle, jobContext, stock));
+    return UpdateSummaryTextView(view, stockSummaryText(currentDevice(bundle), jobContext, stock));
 }
 
 } // namespace kelvo

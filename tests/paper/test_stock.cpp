@@ -247,7 +247,8 @@ void TestStock::summarizes()
     QFETCH(QString, summary);
     const DeviceSession device(QStringLiteral("full"));
 
-    QCOMPARE(stockSummaryText(device.bundle, context, &stock).replace(u'\n', u'|'), summary);
+    QCOMPARE(stockSummaryText(currentDevice(device.bundle), context, &stock).replace(u'\n', u'|'),
+             summary);
 }
 
 void TestStock::offersInEachContextWhatFits()

@@ -79,8 +79,6 @@ private slots:
     void init()
     {
         panel.emplace();
-        panel->inserts = std::make_unique<InsertList>();
-        panel->exceptions = std::make_unique<ExceptionPageList>();
         _specialPagesContext = &*panel;
         outcome = DialogResult::Cancel;
     }
@@ -101,19 +99,19 @@ private slots:
 private:
     OSStatus runInserts(DialogMode mode, const DeviceSession &device)
     {
-        return RunModalInsertsDialog(device.bundle, mode, &jobStock, panel->inserts.get(),
-                                     panel->inserts->pageAtIndex(0), &outcome);
+        return RunModalInsertsDialog(device.bundle, mode, &jobStock, &panel->settings.inserts,
+                                     panel->settings.inserts.pageAtIndex(0), &outcome);
     }
     OSStatus runExceptions(DialogMode mode, const DeviceSession &device, std::int32_t edited = 0)
     {
         return RunModalExceptionsDialog(device.bundle, mode, &jobStock, device.settings(),
-                                        panel->exceptions.get(),
-                                        panel->exceptions->pageAtIndex(edited), &outcome);
+                                        &panel->settings.exceptions,
+                                        panel->settings.exceptions.pageAtIndex(edited), &outcome);
     }
     void addException(const ExceptionPage &page)
     {
         const SpecialPage *const pages[] = {&page};
-        panel->exceptions->add(pages);
+        panel->settings.exceptions.add(pages);
     }
 
     Stock jobStock;
@@ -129,12 +127,12 @@ void TestSpecialPageDialogs::insertsAreAdded()
                                press("okButton")});
     QCOMPARE(runInserts(kDialogModeAdd, device), noErr);
     QCOMPARE(outcome, DialogResult::OK);
-    QCOMPARE(panel->inserts->count(), 2);
-    QCOMPARE(panel->inserts->pageAtIndex(1)->startPage(), 5);
-    QCOMPARE(panel->inserts->pageAtIndex(1)->quantity(), 3);
-    QCOMPARE(panel->inserts->pageAtIndex(1)->stock().color(), kBlue);
+    QCOMPARE(panel->settings.inserts.count(), 2);
+    QCOMPARE(panel->settings.inserts.pageAtIndex(1)->startPage(), 5);
+    QCOMPARE(panel->settings.inserts.pageAtIndex(1)->quantity(), 3);
+    QCOMPARE(panel->settings.inserts.pageAtIndex(1)->stock().color(), kBlue);
     PerformUndo(&*panel);
-    QCOMPARE(panel->inserts->count(), 0);
+    QCOMPARE(panel->settings.inserts.count(), 0);
 }
 
 void TestSpecialPageDialogs::pagesComeBackWithTheirPosition()
@@ -146,8 +144,8 @@ void TestSpecialPageDialogs::pagesComeBackWithTheirPosition()
          choose("insertPosition", kInsertAfterPages), expect("insertPages", "text", "2,5"),
          choose("insertPosition", kInsertBeforePage1), press("okButton")});
     QCOMPARE(runInserts(kDialogModeAdd, device), noErr);
-    QCOMPARE(panel->inserts->count(), 1);
-    QCOMPARE(panel->inserts->pageAtIndex(0)->startPage(), 0);
+    QCOMPARE(panel->settings.inserts.count(), 1);
+    QCOMPARE(panel->settings.inserts.pageAtIndex(0)->startPage(), 0);
 }
 
 void TestSpecialPageDialogs::exceptionsAreMerged()
@@ -162,9 +160,9 @@ void TestSpecialPageDialogs::exceptionsAreMerged()
                                choose("exceptionLightness", kLightest), press("okButton")});
     QCOMPARE(runExceptions(kDialogModeEdit, device, 1), noErr);
     QCOMPARE(outcome, DialogResult::OK);
-    QCOMPARE(ranges(*panel->exceptions), QString("1-1 2-4"));
-    QCOMPARE(panel->exceptions->pageAtIndex(1)->plex(), kTwoSided);
-    QCOMPARE(panel->exceptions->pageAtIndex(1)->lightenDarken(), kLightest);
+    QCOMPARE(ranges(panel->settings.exceptions), QString("1-1 2-4"));
+    QCOMPARE(panel->settings.exceptions.pageAtIndex(1)->plex(), kTwoSided);
+    QCOMPARE(panel->settings.exceptions.pageAtIndex(1)->lightenDarken(), kLightest);
 }
 
 void TestSpecialPageDialogs::refusalsKeepWhatIsTyped_data()
@@ -206,8 +204,8 @@ void TestSpecialPageDialogs::refusalsKeepWhatIsTyped()
                                press("cancelButton")});
     QCOMPARE(isInsert ? runInserts(kDialogModeAdd, device) : runExceptions(kDialogModeAdd, device),
              noErr);
-    QCOMPARE(panel->inserts->count() + panel->exceptions->count(), 0);
-    QVERIFY(!hasUndoState(*panel));
+    QCOMPARE(panel->settings.inserts.count() + panel->settings.exceptions.count(), 0);
+    QVERIFY(!panel->undo);
 }
 
 void TestSpecialPageDialogs::tabStockIsSetUpWhenItIsChosen()
@@ -225,7 +223,7 @@ void TestSpecialPageDialogs::tabStockIsSetUpWhenItIsChosen()
          press("cancelButton"), expect("tabShift", "text", "None"), press("tabShiftButton"),
          choose("tabTemplate", kTabShiftMillimetres), press("okButton"), press("okButton")});
     QCOMPARE(runExceptions(kDialogModeAdd, device), noErr);
-    const ExceptionPage *page = panel->exceptions->pageAtIndex(0);
+    const ExceptionPage *page = panel->settings.exceptions.pageAtIndex(0);
     QVERIFY(page);
     QCOMPARE(page->stock().type(), kStockTypeTab);
     QCOMPARE(page->imageShift()->x1, kTabTemplateShift);
@@ -239,8 +237,8 @@ void TestSpecialPageDialogs::cancelChangesNothing()
         {type("exceptionPages", "9"), choose("exceptionSides", kTwoSided), press("cancelButton")});
     QCOMPARE(runExceptions(kDialogModeEdit, device), noErr);
     QCOMPARE(outcome, DialogResult::Cancel);
-    QCOMPARE(ranges(*panel->exceptions), QString("1-3"));
-    QVERIFY(!hasUndoState(*panel));
+    QCOMPARE(ranges(panel->settings.exceptions), QString("1-3"));
+    QVERIFY(!panel->undo);
 }
 
 void TestSpecialPageDialogs::revertBringsTheDefaultsBack()
@@ -256,11 +254,11 @@ void TestSpecialPageDialogs::revertBringsTheDefaultsBack()
                                expect("exceptionStockSummary", "text", "Use job setting"),
                                type("exceptionPages", "4"), press("okButton")});
     QCOMPARE(runExceptions(kDialogModeEdit, device), noErr);
-    QCOMPARE(ranges(*panel->exceptions), QString("4-4"));
+    QCOMPARE(ranges(panel->settings.exceptions), QString("4-4"));
     ExceptionPage usual = exceptionEdit(nullptr).page;
     usual.setStartPage(4);
     usual.setEndPage(4);
-    QCOMPARE(panel->exceptions->pageAtIndex(0)->asTicket(), usual.asTicket());
+    QCOMPARE(panel->settings.exceptions.pageAtIndex(0)->asTicket(), usual.asTicket());
 }
 
 void TestSpecialPageDialogs::aDeviceWithoutChoicesSaysSo()

@@ -245,10 +245,10 @@ void TestSpecialPagesPanel::listsPagesInTheirOrder()
     Panel panel;
     panel.begin();
     QCOMPARE(panel.rows(), QString());
-    addTo(*panel.data().inserts, insertAfter(5), insertAfter(3), insertAfter(0));
-    addTo(*panel.data().exceptions, exceptionOf(3, 5), exceptionOf(1, 1));
-    panel.data().frontCover.emplace();
-    panel.data().backCover.emplace();
+    addTo(panel.data().settings.inserts, insertAfter(5), insertAfter(3), insertAfter(0));
+    addTo(panel.data().settings.exceptions, exceptionOf(3, 5), exceptionOf(1, 1));
+    panel.data().settings.frontCover.emplace();
+    panel.data().settings.backCover.emplace();
     panel.refill();
     QCOMPARE(panel.rows(),
              QStringLiteral("Front Cover · Before page 1 Insert · 1 Exception · 3-5 Exception"
@@ -256,7 +256,7 @@ void TestSpecialPagesPanel::listsPagesInTheirOrder()
 
     // What is selected stays so, wherever it moves to.
     panel.select({3, 6});
-    addTo(*panel.data().inserts, insertAfter(1));
+    addTo(panel.data().settings.inserts, insertAfter(1));
     panel.refill();
     QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{3 - 1, 6}));
 }
@@ -330,11 +330,11 @@ void TestSpecialPagesPanel::describesPages()
     Panel panel;
     panel.begin();
     if (dynamic_cast<const Cover *>(page.get()))
-        panel.data().frontCover.emplace(static_cast<const Cover &>(*page));
+        panel.data().settings.frontCover.emplace(static_cast<const Cover &>(*page));
     else if (dynamic_cast<const Insert *>(page.get()))
-        addTo(*panel.data().inserts, *page);
+        addTo(panel.data().settings.inserts, *page);
     else
-        addTo(*panel.data().exceptions, *page);
+        addTo(panel.data().settings.exceptions, *page);
     panel.refill();
     QTEST(panel.data().list->cellText(0, 2), "text");
 }
@@ -344,8 +344,8 @@ void TestSpecialPagesPanel::lastOneSelectedSaysWhetherItMoves()
     Panel panel;
     panel.begin();
     QCOMPARE(panel.enabled(), QStringLiteral("000000"));
-    addTo(*panel.data().inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(4));
-    addTo(*panel.data().exceptions, exceptionOf(3, 3));
+    addTo(panel.data().settings.inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(4));
+    addTo(panel.data().settings.exceptions, exceptionOf(3, 3));
     panel.refill(); // exception 3, three inserts
     QCOMPARE(panel.enabled(), QStringLiteral("001000"));
     const std::pair<std::vector<int>, const char *> selections[] = {
@@ -361,9 +361,9 @@ void TestSpecialPagesPanel::asksBeforeItDeletes()
 {
     Panel panel;
     panel.begin();
-    addTo(*panel.data().inserts, insertAfter(3), insertAfter(4));
-    addTo(*panel.data().exceptions, exceptionOf(5, 6));
-    panel.data().frontCover.emplace();
+    addTo(panel.data().settings.inserts, insertAfter(3), insertAfter(4));
+    addTo(panel.data().settings.exceptions, exceptionOf(5, 6));
+    panel.data().settings.frontCover.emplace();
     panel.refill();
     const QString all = panel.rows();
 
@@ -394,12 +394,12 @@ void TestSpecialPagesPanel::movesOneAfterTheOtherAndUndoesOnce()
 {
     Panel panel;
     panel.begin();
-    addTo(*panel.data().inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(3, 3));
+    addTo(panel.data().settings.inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(3, 3));
     panel.refill();
     const auto quantities = [&panel] {
         QString texts;
-        for (int i = 0; i < panel.data().inserts->count(); ++i)
-            texts += QString::number(panel.data().inserts->pageAtIndex(i)->quantity());
+        for (int i = 0; i < panel.data().settings.inserts.count(); ++i)
+            texts += QString::number(panel.data().settings.inserts.pageAtIndex(i)->quantity());
         return texts;
     };
     panel.select({1, 2}); // the first cannot, and the second passes it
@@ -426,10 +426,10 @@ void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
     Panel panel;
     panel.begin();
     const PMTicketRef ticket = panel.session.settings();
-    addTo(*panel.data().inserts, insertAfter(3, 2));
-    addTo(*panel.data().exceptions, exceptionOf(5, 6));
-    panel.data().frontCover.emplace();
-    panel.data().frontCover->stock().setSource(2);
+    addTo(panel.data().settings.inserts, insertAfter(3, 2));
+    addTo(panel.data().settings.exceptions, exceptionOf(5, 6));
+    panel.data().settings.frontCover.emplace();
+    panel.data().settings.frontCover->stock().setSource(2);
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QCOMPARE(panel.session.choice("KVFrontCoverSheet"), QStringLiteral("Tray2"));
     QCOMPARE(panel.session.choice("KVBackCoverSheet"), QStringLiteral("None"));
@@ -445,29 +445,29 @@ void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
     PMTicketReleaseItem(ticket, exceptionsKey);
     PMTicketSetCFDictionary(ticket, "test", ticketKey("JobLevelStock"), {{"Color", kBlue}});
     // Another direction moves nothing, covers neither.
-    panel.data().frontCover->stock().setSource(1);
+    panel.data().settings.frontCover->stock().setSource(1);
     QCOMPARE(panel.sync(7), noErr);
     QCOMPARE(panel.rows(), QString());
-    QCOMPARE(panel.data().frontCover->stock().source(), 1);
+    QCOMPARE(panel.data().settings.frontCover->stock().source(), 1);
     QCOMPARE(panel.session.choice("KVFrontCoverSheet"), QStringLiteral("Tray2"));
     QCOMPARE(panel.sync(kSyncRead), noErr);
     QCOMPARE(panel.rows(), QStringLiteral("Front Cover · 1 Insert · 9 Insert"));
-    QCOMPARE(panel.data().jobStock->color(), kBlue);
+    QCOMPARE(panel.data().settings.jobStock->color(), kBlue);
 
-    panel.data().inserts->clear();
-    panel.data().frontCover.reset();
+    panel.data().settings.inserts.clear();
+    panel.data().settings.frontCover.reset();
     panel.sync(kSyncWrite);
     QVERIFY(!PMTicketGetCFArray(ticket, insertsKey) && !PMTicketGetCFArray(ticket, exceptionsKey));
     PMTicketReleaseItem(ticket, ticketKey("JobLevelStock"));
     panel.sync(kSyncRead);
-    QVERIFY(!panel.data().jobStock);
+    QVERIFY(!panel.data().settings.jobStock);
 }
 
 void TestSpecialPagesPanel::keepsPagesAndUndoThatTheTicketHas()
 {
     Panel panel;
     panel.begin();
-    addTo(*panel.data().inserts, insertAfter(3), insertAfter(4));
+    addTo(panel.data().settings.inserts, insertAfter(3), insertAfter(4));
     panel.refill();
     panel.select({2});
     panel.press(1300, 1); // declined: there is something to undo
@@ -486,7 +486,7 @@ void TestSpecialPagesPanel::selectsNoPageThatCameInAnothersPlace()
 {
     Panel panel;
     panel.begin();
-    for (auto *cover : {&panel.data().frontCover, &panel.data().backCover}) {
+    for (auto *cover : {&panel.data().settings.frontCover, &panel.data().settings.backCover}) {
         cover->emplace().stock().setSource(1);
     }
     panel.sync(kSyncWrite);

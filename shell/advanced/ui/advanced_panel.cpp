@@ -1,15 +1,8 @@
 #include "advanced_panel.h"
 
 #include "about_dialog.h"
-#include "control.h"
-#include "embed_control.h"
 #include "hint_text.h"
-#include "panel_content.h"
-#include "panel_interface.h"
-#include "panel_prologue.h"
-#include "pde_session.h"
 #include "popups.h"
-#include "print_session.h"
 #include "setting_maps.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
@@ -42,11 +35,6 @@ const std::array kPpdRows = {
     PpdRow{kOffsetChoice, &AdvancedControls::offset, 616, 6161, "Request Offset Hint"},
     PpdRow{kFeedEdgeChoice, &AdvancedControls::feedEdge, 702, 7021, "Bypass Feed Edge Hint"},
 };
-
-AdvancedContext *advancedOf(PMPDEContext context)
-{
-    return reinterpret_cast<AdvancedContext *>(context);
-}
 
 // The orders of the map have one value: which of them was chosen cannot be read from
 // the ticket, and is still shown while the ticket has that value.
@@ -128,107 +116,39 @@ void fillPopups(const AdvancedContext &advanced)
                                QString::fromLatin1(row.choice.option));
 }
 
-void buildContent(AdvancedContext &advanced)
-{
-    QWidget *content = createPanelContent(
-        advanced.bundle, QStringLiteral("AdvancedPanel"), QStringLiteral("Advanced"),
-        advanced.parentUserPane,
-        [&advanced](NeededControls &needed) { advanced.controls = findControls(needed); });
-    if (!content)
-        return;
-    advanced.content = content;
-    fillPopups(advanced);
-    arrangeRows(advanced.controls, content);
-    EmbedAndShowControl(content, advanced.parentUserPane);
-    advanced.handler = installEventHandler(
-        content, [&advanced](const Event &event) { return advancedEventHandler(advanced, event); });
-    showSettings(advanced);
-}
-
-OSStatus Prologue(PMPDEContext *context, OSType *creator, CFStringRef *userOptionKind,
-                  CFStringRef *title, std::uint32_t *maxH, std::uint32_t *maxV)
-{
-    return announcePanel<AdvancedContext>(QStringLiteral("Advanced"), kPanelSignature, context,
-                                          creator, userOptionKind, title, maxH, maxV);
-}
-
-OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t direction)
-{
-    AdvancedContext *advanced = advancedOf(context);
-    if (!advanced || !session)
-        return kPMInvalidParameter;
-    PMTicketRef ticket = 0;
-    const OSStatus found = GetTicketFromSession(session, kPMPrintSettingsTicket, &ticket);
-    if (found != noErr)
-        return found;
-    Ticket *printSettings = findTicket(ticket);
-    if (!printSettings)
-        return kPMInvalidTicket;
-    if (direction == kSyncWrite) {
-        writeAdvanced(advanced->settings, *printSettings);
-    } else {
-        readAdvanced(advanced->settings, *printSettings, advanced->device);
-        showSettings(*advanced);
-    }
-    return noErr;
-}
-
-OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane parentUserPane,
-                    PMPrintSession session)
-{
-    AdvancedContext *advanced = advancedOf(context);
-    if (!advanced || !session)
-        return kPMInvalidPDEContext;
-    advanced->parentUserPane = parentUserPane;
-    advanced->device = currentDevice();
-    return Sync(context, session, kSyncRead);
-}
-
-OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray *texts)
-{
-    if (!context || !titles || !texts)
-        return kPMInvalidPDEContext;
-    titles->reset();
-    texts->reset();
-    return noErr;
-}
-
-OSStatus Open(PMPDEContext context)
-{
-    AdvancedContext *advanced = advancedOf(context);
-    if (!advanced || !advanced->parentUserPane)
-        return kPMInvalidPDEContext;
-    if (!advanced->lateContent)
-        advanced->lateContent =
-            buildBeforeSeen(advanced->parentUserPane, [advanced] { buildContent(*advanced); });
-    return noErr;
-}
-
-OSStatus Close(PMPDEContext context)
-{
-    return context ? noErr : kPMInvalidPDEContext;
-}
-
-OSStatus Terminate(PMPDEContext context, OSStatus)
-{
-    if (!context)
-        return kPMInvalidPDEContext;
-    delete advancedOf(context);
-    return noErr;
-}
-
 } // namespace
+
+OSStatus AdvancedContext::read(Ticket &printSettings, const Ticket &)
+{
+    readAdvanced(settings, printSettings, device);
+    showSettings(*this);
+    return noErr;
+}
+
+OSStatus AdvancedContext::write(Ticket &printSettings, const Ticket &)
+{
+    writeAdvanced(settings, printSettings);
+    return noErr;
+}
+
+OSStatus AdvancedContext::build()
+{
+    const OSStatus status = buildContent(
+        "AdvancedPanel", "Advanced",
+        [this](NeededControls &needed) { controls = findControls(needed); },
+        [this] {
+            fillPopups(*this);
+            arrangeRows(controls, content);
+        },
+        [this](const Event &event) { return advancedEventHandler(*this, event); });
+    if (status == noErr)
+        showSettings(*this);
+    return status;
+}
 
 OSStatus GetAdvancedPanelInterface(PanelInterface **interface)
 {
-    return givePanelInterface({.Prologue = Prologue,
-                               .Initialize = Initialize,
-                               .Sync = Sync,
-                               .GetSummaryText = GetSummaryText,
-                               .Open = Open,
-                               .Close = Close,
-                               .Terminate = Terminate},
-                              interface);
+    return givePanel<AdvancedContext>(interface);
 }
 
 } // namespace kelvo

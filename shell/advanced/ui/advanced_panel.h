@@ -1,15 +1,11 @@
 #pragma once
 
 #include "advanced_settings.h"
-#include "device.h"
-#include "event.h"
-#include "late_content.h"
-#include "plugin_abi.h"
+#include "control.h"
+#include "panel_context.h"
 #include "popup_button.h"
 
 #include <QPointer>
-#include <QString>
-#include <QWidget>
 
 // The Advanced panel: booklet image order, banner sheet, offset and the feed
 // edge of the bypass tray.
@@ -26,18 +22,20 @@ struct AdvancedControls
     QPointer<PopupButton> feedEdge;     // KPDE 702, label 701
 };
 
-struct AdvancedContext
+struct AdvancedContext final : PanelContext
 {
-    CFBundleRef bundle = nullptr;
-    QString title;
-    Device device; // from Initialize on
-    AdvancedSettings settings;
+    static constexpr PanelTraits traits{.titleKey = "Advanced", .signature = kPanelSignature};
+    AdvancedContext()
+        : PanelContext(traits)
+    {
+    }
 
-    QPointer<QWidget> parentUserPane;
-    QPointer<QWidget> content; // the panel's own views, once they are built
+    OSStatus read(Ticket &printSettings, const Ticket &pageFormat) override;
+    OSStatus write(Ticket &printSettings, const Ticket &pageFormat) override;
+    OSStatus build() override;
+
+    AdvancedSettings settings;
     AdvancedControls controls;
-    LateContent lateContent; // from Open on
-    EventHandlerRef handler;
 };
 
 } // namespace kelvo

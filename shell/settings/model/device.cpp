@@ -24,9 +24,14 @@ Device deviceWith(CFBundleRef bundle, const PpdFile *ppd)
     return {bundle, ppd, ppd ? InstalledOptions(*ppd, InstalledFeatures) : InstalledOptions()};
 }
 
+Device currentDevice(CFBundleRef bundle)
+{
+    return {bundle, PPDGetCurrent(), installedOptions()};
+}
+
 Device currentDevice()
 {
-    return {GetPDEBundle(), PPDGetCurrent(), installedOptions()};
+    return currentDevice(GetPDEBundle());
 }
 
 } // namespace kelvo

@@ -31,7 +31,9 @@ struct Device
 // A device with that PPD and its own installable options.
 Device deviceWith(CFBundleRef bundle, const PpdFile *ppd);
 
-// The printer of the current dialog: its PPD and what LoadInstallableOptions found.
+// The printer of the current dialog: its PPD and what LoadInstallableOptions found, with
+// the texts of that bundle or of the extension's.
+Device currentDevice(CFBundleRef bundle);
 Device currentDevice();
 
 } // namespace kelvo
