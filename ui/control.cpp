@@ -98,10 +98,15 @@ std::optional<ControlID> controlIDFromText(const QString &text)
 
 QString textOf(ControlID id)
 {
-    QString text;
+    return charactersOf(id.signature) + u' ' + QString::number(id.number);
+}
+
+QString charactersOf(OSType code)
+{
+    QString characters;
     for (int shift = 24; shift >= 0; shift -= 8)
-        text += QChar(static_cast<char16_t>(id.signature >> shift & 0xFF));
-    return text + u' ' + QString::number(id.number);
+        characters += QChar(static_cast<char16_t>(code >> shift & 0xFF));
+    return characters;
 }
 
 void setControlID(QWidget *control, ControlID id)

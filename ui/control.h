@@ -21,6 +21,7 @@ namespace kelvo {
 // 32-bit number without plus sign or leading zeros. None when it is malformed.
 std::optional<ControlID> controlIDFromText(const QString &text);
 QString textOf(ControlID id);
+QString charactersOf(OSType code); // "KPDE"
 
 void setControlID(QWidget *control, ControlID id);
 std::optional<ControlID> controlIDOf(const QWidget *control);
