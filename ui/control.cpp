@@ -1,10 +1,5 @@
 #include "control.h"
 
-#include "menu_button.h"
-#include "popup_button.h"
-#include "spin_field.h"
-
-#include <QAbstractSlider>
 #include <QHash>
 #include <QLabel>
 #include <QPointer>
@@ -142,19 +137,6 @@ QWidget *findControl(const QWidget *anyWidget, ControlID id)
         }
     }
     return nearest;
-}
-
-std::optional<int> controlMaximum(const QWidget *control)
-{
-    if (auto *popup = qobject_cast<const PopupButton *>(control))
-        return popup->maximum();
-    if (auto *button = qobject_cast<const MenuButton *>(control))
-        return button->maximum();
-    if (auto *spin = qobject_cast<const SpinField *>(control))
-        return spin->maximum();
-    if (auto *slider = qobject_cast<const QAbstractSlider *>(control))
-        return slider->maximum();
-    return std::nullopt;
 }
 
 void setControlProperty(QWidget *control, OSType creator, OSType tag, const QVariant &value)

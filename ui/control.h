@@ -42,10 +42,6 @@ T *findControl(const QWidget *anyWidget, ControlID id)
     return qobject_cast<T *>(findControl(anyWidget, id));
 }
 
-// The maximum of a control that has one (pop-ups, menu buttons, spin fields,
-// sliders): for pop-ups it may differ from the item count.
-std::optional<int> controlMaximum(const QWidget *control);
-
 // Values that code hangs onto a control under a creator and a tag.
 void setControlProperty(QWidget *control, OSType creator, OSType tag, const QVariant &value);
 std::optional<QVariant> controlProperty(const QWidget *control, OSType creator, OSType tag);
