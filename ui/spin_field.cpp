@@ -338,8 +338,9 @@ public:
     {
         if (value < widget()->minimum() || value > widget()->maximum())
             return outsideRange(value, widget()->minimum(), widget()->maximum());
-        widget()->choose(value);
-        return {};
+        if (widget()->choose(value))
+            return {};
+        return refused(QStringLiteral("is read-only"));
     }
 
     Result<void> type(const QString &text) override

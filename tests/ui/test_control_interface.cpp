@@ -177,6 +177,9 @@ void TestControlInterface::everyClassAnswersForItself_data()
                        field.setDecimals(1);
                        field.setValue(50);
                    });
+    add<SpinField>("set, type", "value 0, text 0, maximum 99",
+                   {{"set 1", "is read-only"}, {"type 1", "is read-only"}},
+                   [](SpinField &field) { field.setReadOnly(true); });
     add<TimeField>("time", "text 08:00", {{"time 9", "ControlHit: text 09:00"}},
                    [](TimeField &field) {
                        field.setLocale(QLocale("de_DE"));
