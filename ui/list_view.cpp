@@ -289,10 +289,8 @@ public:
 
     Result<void> select(const std::vector<int> &rows) override
     {
-        std::vector<int> fromZero;
+        std::vector<int> fromZero; // the empty area is no row, and left out
         for (const int row : rows) {
-            if (row == 0)
-                continue;
             if (row > widget()->rowCount())
                 return noSuchRow(row);
             fromZero.push_back(row - 1);
