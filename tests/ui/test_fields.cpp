@@ -257,6 +257,11 @@ void TestFields::aHistoryFieldKeepsWhatWasTyped()
     QCOMPARE(log.take(), QStringList{"FocusChanged"});
     QCOMPARE(field.text(), "first");
     QCOMPARE(field.items().size(), 2);
+
+    sendControlEvents(&field); // it sends by itself
+    QTest::keyClick(&field, Qt::Key_Down);
+    QCOMPARE(field.text(), "First");
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
 }
 
 QTEST_MAIN(TestFields)
