@@ -1,10 +1,5 @@
 #include "control.h"
 
-#include "menu_button.h"
-#include "popup_button.h"
-#include "spin_field.h"
-
-#include <QAbstractSlider>
 #include <QHash>
 #include <QLabel>
 #include <QPointer>
@@ -98,10 +93,15 @@ std::optional<ControlID> controlIDFromText(const QString &text)
 
 QString textOf(ControlID id)
 {
-    QString text;
+    return charactersOf(id.signature) + u' ' + QString::number(id.number);
+}
+
+QString charactersOf(OSType code)
+{
+    QString characters;
     for (int shift = 24; shift >= 0; shift -= 8)
-        text += QChar(static_cast<char16_t>(id.signature >> shift & 0xFF));
-    return text + u' ' + QString::number(id.number);
+        characters += QChar(static_cast<char16_t>(code >> shift & 0xFF));
+    return characters;
 }
 
 void setControlID(QWidget *control, ControlID id)
@@ -137,19 +137,6 @@ QWidget *findControl(const QWidget *anyWidget, ControlID id)
         }
     }
     return nearest;
-}
-
-std::optional<int> controlMaximum(const QWidget *control)
-{
-    if (auto *popup = qobject_cast<const PopupButton *>(control))
-        return popup->maximum();
-    if (auto *button = qobject_cast<const MenuButton *>(control))
-        return button->maximum();
-    if (auto *spin = qobject_cast<const SpinField *>(control))
-        return spin->maximum();
-    if (auto *slider = qobject_cast<const QAbstractSlider *>(control))
-        return slider->maximum();
-    return std::nullopt;
 }
 
 void setControlProperty(QWidget *control, OSType creator, OSType tag, const QVariant &value)

@@ -21,6 +21,7 @@ namespace kelvo {
 // 32-bit number without plus sign or leading zeros. None when it is malformed.
 std::optional<ControlID> controlIDFromText(const QString &text);
 QString textOf(ControlID id);
+QString charactersOf(OSType code); // "KPDE"
 
 void setControlID(QWidget *control, ControlID id);
 std::optional<ControlID> controlIDOf(const QWidget *control);
@@ -40,10 +41,6 @@ T *findControl(const QWidget *anyWidget, ControlID id)
 {
     return qobject_cast<T *>(findControl(anyWidget, id));
 }
-
-// The maximum of a control that has one (pop-ups, menu buttons, spin fields,
-// sliders): for pop-ups it may differ from the item count.
-std::optional<int> controlMaximum(const QWidget *control);
 
 // Values that code hangs onto a control under a creator and a tag.
 void setControlProperty(QWidget *control, OSType creator, OSType tag, const QVariant &value);

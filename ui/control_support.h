@@ -4,11 +4,14 @@
 
 #include <QString>
 
+class QLineEdit;
 class QPlainTextEdit;
 class QWidget;
 
 // What the controls of this library share; not for its users.
 namespace kelvo {
+
+struct InputLimits;
 
 // Sends an event that begins at `source`.
 OSStatus sendFrom(QWidget *source, EventKind kind, OSType command = kNoCommand,
@@ -23,6 +26,10 @@ void guardWheel(QWidget *control);
 
 // `text` on one line, as menus show it.
 QString oneLine(const QString &text);
+
+// Keeps what is typed within `limits` for good: into `line`, which is `field` or inside it.
+void keepTypedWithin(const InputLimits &limits, QLineEdit *line, QWidget *field);
+void keepTypedWithin(const InputLimits &limits, QPlainTextEdit *edit);
 
 // Takes what `edit`'s limits refuse out of what was just inserted; true when it
 // changed the text.

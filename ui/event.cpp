@@ -1,20 +1,11 @@
 #include "event.h"
 
+#include "control_interface.h"
 #include "control_support.h"
-#include "radio_group.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
 #include <QEvent>
-#include <QFocusEvent>
-#include <QGroupBox>
 #include <QHash>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPointer>
-#include <QRadioButton>
-#include <QSlider>
-#include <QTextDocument>
 
 #include <algorithm>
 #include <vector>
@@ -74,34 +65,6 @@ std::function<void(const Event &)> &eventWatcher()
 constexpr char sendsProperty[] = "_kelvo_sends";
 constexpr char commandProperty[] = "command";
 
-// Tells when a field is left.
-class LeaveWatcher : public QObject
-{
-public:
-    explicit LeaveWatcher(QWidget *field)
-        : QObject(field)
-        , m_field(field)
-    {
-        field->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        // Its own context menu does not take the user out of a field.
-        if (watched == m_field && event->type() == QEvent::FocusOut
-            && static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason) {
-            const QPointer<QWidget> alive = m_field;
-            sendFrom(m_field, EventKind::FocusChanged);
-            if (!alive)
-                return true; // and this object with it
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    QWidget *m_field;
-};
-
 class WheelGuard : public QObject
 {
 public:
@@ -116,35 +79,6 @@ public:
         return QObject::eventFilter(watched, event);
     }
 };
-
-void wireSlider(QSlider *slider)
-{
-    guardWheel(slider);
-    // valueChanged comes for code's changes too; an action is the user's, and
-    // comes just before its change.
-    auto isUsers = std::make_shared<bool>(false);
-    QObject::connect(slider, &QSlider::actionTriggered, slider,
-                     [slider, isUsers] { *isUsers = slider->sliderPosition() != slider->value(); });
-    QObject::connect(slider, &QSlider::valueChanged, slider, [slider, isUsers] {
-        if (std::exchange(*isUsers, false))
-            sendFrom(slider, EventKind::ControlHit);
-    });
-}
-
-void wirePlainText(QPlainTextEdit *edit)
-{
-    QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [edit] {
-        // There is no textEdited here, but setPlainText() clears the undo
-        // history and an edit adds to it.
-        const QTextDocument *document = edit->document();
-        if (!document->isUndoAvailable() && !document->isRedoAvailable())
-            return;
-        if (keepWithinLimits(edit))
-            return; // the correction was a change, and has been sent
-        sendFrom(edit, EventKind::TextChanged);
-    });
-    new LeaveWatcher(edit);
-}
 
 } // namespace
 
@@ -265,31 +199,7 @@ void sendControlEvents(QWidget *control)
     if (control->property(sendsProperty).toBool())
         return;
     control->setProperty(sendsProperty, true);
-    // The controls of this library come from Qt's classes: asked first.
-    if (qstrncmp(control->metaObject()->className(), "kelvo::", 7) == 0)
-        return;
-    if (qobject_cast<QRadioButton *>(control)
-        && qobject_cast<RadioGroup *>(control->parentWidget()))
-        return;
-
-    if (auto *button = qobject_cast<QAbstractButton *>(control)) {
-        QObject::connect(button, &QAbstractButton::clicked, button, [button] { sendHit(button); });
-    } else if (auto *group = qobject_cast<QGroupBox *>(control)) {
-        QObject::connect(group, &QGroupBox::clicked, group,
-                         [group] { sendFrom(group, EventKind::ControlHit); });
-    } else if (auto *slider = qobject_cast<QSlider *>(control)) {
-        wireSlider(slider);
-    } else if (auto *combo = qobject_cast<QComboBox *>(control)) {
-        guardWheel(combo);
-        QObject::connect(combo, &QComboBox::activated, combo,
-                         [combo] { sendFrom(combo, EventKind::ControlHit); });
-    } else if (auto *line = qobject_cast<QLineEdit *>(control)) {
-        QObject::connect(line, &QLineEdit::textEdited, line,
-                         [line] { sendFrom(line, EventKind::TextChanged); });
-        new LeaveWatcher(line);
-    } else if (auto *text = qobject_cast<QPlainTextEdit *>(control)) {
-        wirePlainText(text);
-    }
+    controlInterface(control)->sendEvents();
 }
 
 } // namespace kelvo

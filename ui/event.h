@@ -78,7 +78,7 @@ std::optional<OSType> commandOf(const QWidget *control);
 //   buttons, check boxes   ControlHit, then, unless that was taken, Command when
 //                          they have one (the dynamic property "command", four
 //                          characters); tab controls do the same
-//   QGroupBox with a check box, QSlider, QComboBox   ControlHit
+//   QGroupBox with a check box, sliders, QComboBox   ControlHit
 //   QLineEdit, QPlainTextEdit   TextChanged, and FocusChanged when it is left
 // The controls of this library send by themselves, and a radio button inside a
 // RadioGroup leaves it to the group. A second call changes nothing. What a window

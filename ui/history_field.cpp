@@ -1,6 +1,7 @@
 #include "history_field.h"
 
 #include "control_support.h"
+#include "qt_controls.h"
 
 #include <QFocusEvent>
 #include <QLineEdit>
@@ -75,6 +76,25 @@ void HistoryField::focusOutEvent(QFocusEvent *event)
     QComboBox::focusOutEvent(event);
     if (alive && isLeft)
         sendFrom(this, EventKind::FocusChanged);
+}
+
+namespace {
+
+class HistoryFieldInterface : public InterfaceOf<HistoryField, ComboBoxInterface>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    QString commands() const override { return QStringLiteral("choose, type"); }
+    bool choose(const MenuItem &item) override { return widget()->chooseItem(chosenRow(item) - 1); }
+    void sendEvents() override { }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(HistoryField *field)
+{
+    return std::make_unique<HistoryFieldInterface>(field);
 }
 
 } // namespace kelvo

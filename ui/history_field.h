@@ -2,7 +2,11 @@
 
 #include <QComboBox>
 
+#include <memory>
+
 namespace kelvo {
+
+class ControlInterface;
 
 // The widget of a combo box with history: an editable list of fixed items and
 // typed texts. Rules live with its owner. Sends TextChanged while typing,
@@ -24,5 +28,7 @@ public:
 protected:
     void focusOutEvent(QFocusEvent *event) override;
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(HistoryField *field);
 
 } // namespace kelvo

@@ -1,14 +1,12 @@
 #include "input_limits.h"
 
 #include "characters.h"
+#include "control_interface.h"
 #include "control_support.h"
-#include "spin_field.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -190,45 +188,6 @@ LimitKeeper *keeperOf(const QWidget *field)
     return nullptr;
 }
 
-QLineEdit *lineEditOf(QWidget *field)
-{
-    if (auto *combo = qobject_cast<QComboBox *>(field))
-        return combo->lineEdit();
-    return qobject_cast<QLineEdit *>(field);
-}
-
-bool typeInto(QLineEdit *line, const QString &text)
-{
-    if (line->isReadOnly())
-        return false;
-    const QPointer<QLineEdit> alive = line;
-    line->selectAll();
-    line->del();
-    // One by one, as the keyboard gives them: each is refused on its own.
-    for (const char32_t c : text.toUcs4()) {
-        if (!alive)
-            return false;
-        if (QChar::category(c) != QChar::Other_Control)
-            line->insert(QString::fromUcs4(&c, 1));
-    }
-    return alive && line->text() == text;
-}
-
-bool typeInto(QPlainTextEdit *edit, const QString &text)
-{
-    if (edit->isReadOnly())
-        return false;
-    const QPointer<QPlainTextEdit> alive = edit;
-    edit->selectAll();
-    edit->textCursor().removeSelectedText();
-    for (const char32_t c : text.toUcs4()) {
-        if (!alive)
-            return false;
-        edit->insertPlainText(QString::fromUcs4(&c, 1));
-    }
-    return alive && edit->toPlainText() == text;
-}
-
 } // namespace
 
 bool InputLimits::ascii() const
@@ -307,23 +266,26 @@ QString withinLimits(const QString &typed, const InputLimits &limits)
 
 void setInputLimits(QWidget *field, const InputLimits &limits)
 {
-    if (LimitKeeper *keeper = keeperOf(field)) {
+    if (LimitKeeper *keeper = keeperOf(field))
         keeper->setLimits(limits);
-        return;
-    }
-    auto *keeper = new LimitKeeper(field, limits);
-    if (QLineEdit *line = lineEditOf(field))
-        keeper->keep(line);
-    else if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
-        keeper->keep(edit);
     else
-        Q_ASSERT_X(false, "setInputLimits", "not a field that text is typed into");
+        controlInterface(field)->keepWithin(limits);
 }
 
 std::optional<InputLimits> inputLimits(const QWidget *field)
 {
     const LimitKeeper *keeper = keeperOf(field);
     return keeper ? std::optional(keeper->limits()) : std::nullopt;
+}
+
+void keepTypedWithin(const InputLimits &limits, QLineEdit *line, QWidget *field)
+{
+    (new LimitKeeper(field, limits))->keep(line);
+}
+
+void keepTypedWithin(const InputLimits &limits, QPlainTextEdit *edit)
+{
+    (new LimitKeeper(edit, limits))->keep(edit);
 }
 
 bool keepWithinLimits(QPlainTextEdit *edit)
@@ -336,15 +298,8 @@ bool typeText(QWidget *field, const QString &text)
 {
     if (!field->isEnabled())
         return false;
-    if (auto *spin = qobject_cast<SpinField *>(field))
-        return spin->typeText(text);
     const std::optional<InputLimits> limits = inputLimits(field);
-    const QString taken = limits ? withSubstitutes(text, *limits) : text;
-    if (QLineEdit *line = lineEditOf(field))
-        return typeInto(line, taken);
-    if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
-        return typeInto(edit, taken);
-    return false;
+    return controlInterface(field)->enter(limits ? withSubstitutes(text, *limits) : text);
 }
 
 } // namespace kelvo

@@ -1,39 +1,19 @@
 #include "inspector.h"
 
+#include "control_interface.h"
 #include "event.h"
-#include "history_field.h"
-#include "input_limits.h"
-#include "list_view.h"
-#include "menu_button.h"
 #include "nearest_name.h"
-#include "picture_view.h"
-#include "popup_button.h"
-#include "radio_group.h"
 #include "secrets.h"
-#include "spin_field.h"
-#include "summary_view.h"
-#include "tab_control.h"
-#include "time_field.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
 #include <QPointer>
-#include <QRadioButton>
-#include <QSlider>
-#include <QTextEdit>
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <map>
 
@@ -70,59 +50,21 @@ Done notOffered(const QWidget *control, const QString &why)
     return Problem{Failure::NotOffered, QStringLiteral("%1 %2").arg(nameOf(control), why)};
 }
 
-template <typename Kind>
-bool is(const QWidget *control)
+// A control's class, as messages and lists have it.
+QString kindOf(const QWidget *control)
 {
-    return qobject_cast<const Kind *>(control) != nullptr;
+    return QString::fromLatin1(control->metaObject()->className())
+        .section(QStringLiteral("::"), -1);
 }
 
-bool isCheckable(const QWidget *control)
+// What cannot be done with a control, and what can.
+Done wrongKind(QWidget *control, const QString &what)
 {
-    const auto *button = qobject_cast<const QAbstractButton *>(control);
-    return button && button->isCheckable();
-}
-
-// What a script can do with a kind of control. The first row that fits counts.
-struct KindRow
-{
-    bool (*fits)(const QWidget *control);
-    const char *commands;
-};
-constexpr KindRow kindRows[] = {
-    {is<PopupButton>, "choose, item"},
-    {is<MenuButton>, "item, choose"},
-    {is<HistoryField>, "choose, type"},
-    {is<QComboBox>, "choose"},
-    {is<SpinField>, "set, type"},
-    {is<TimeField>, "time"},
-    {is<QAbstractSlider>, "set"},
-    {is<RadioGroup>, "set"},
-    {is<TabControl>, "set"},
-    {is<ListView>, "select, double-click"},
-    {is<QLineEdit>, "type"},
-    {is<QPlainTextEdit>, "type"},
-    {isCheckable, "check, click"},
-    {is<QAbstractButton>, "click"},
-};
-
-// "; it takes set, type": the end of a sentence about what cannot be done with it.
-QString whatItTakes(const QWidget *control)
-{
-    const auto row = std::ranges::find_if(
-        kindRows, [control](const KindRow &each) { return each.fits(control); });
-    return row == std::end(kindRows)
-        ? QString()
-        : QStringLiteral("; it takes %1").arg(QLatin1String(row->commands));
-}
-
-Done wrongKind(const QWidget *control, const QString &what)
-{
-    return Problem{Failure::WrongKind,
-                   QStringLiteral("%1 is a %2 and %3%4")
-                       .arg(nameOf(control),
-                            QString::fromLatin1(control->metaObject()->className())
-                                .section(QStringLiteral("::"), -1),
-                            what, whatItTakes(control))};
+    const QString commands = controlInterface(control)->commands();
+    return Problem{
+        Failure::WrongKind,
+        QStringLiteral("%1 is a %2 and %3").arg(nameOf(control), kindOf(control), what)
+            + (commands.isEmpty() ? QString() : QStringLiteral("; it takes %1").arg(commands))};
 }
 
 // Why the user could not use the control now; none when it can be used.
@@ -135,14 +77,17 @@ Done unusable(const QWidget *control)
     return {};
 }
 
-// The menu behind a control of ours; null for others.
-const Menu *menuOf(QWidget *control)
+// What the user's `action` on `control` came to.
+Done act(QWidget *control, const std::function<Result<void>(ControlInterface &)> &action)
 {
-    if (auto *popup = qobject_cast<PopupButton *>(control))
-        return &popup->menu();
-    if (auto *button = qobject_cast<MenuButton *>(control))
-        return &button->updatedMenu();
-    return nullptr;
+    if (Done problem = unusable(control))
+        return problem;
+    const Result<void> done = action(*controlInterface(control));
+    if (done)
+        return {};
+    const Error &error = done.error();
+    return error.code == Error::Code::Unsupported ? wrongKind(control, error.detail)
+                                                  : notOffered(control, error.detail);
 }
 
 void collect(const std::vector<MenuItem> &items, std::vector<const MenuItem *> &out)
@@ -166,14 +111,6 @@ bool isNamed(const MenuItem &item, const ItemName &name)
         return false; // rows are counted by the caller
     }
     return false;
-}
-
-QString charactersOf(OSType code)
-{
-    QString characters;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        characters += QChar(static_cast<char16_t>(code >> shift & 0xff));
-    return characters;
 }
 
 QString quoted(const QString &text)
@@ -283,7 +220,8 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
                                             : QStringLiteral(", the nearest is %1").arg(nearest)))};
 }
 
-Done chooseMenuItem(QWidget *control, const MenuItem &item)
+// `item` is one of the menu of `shown`.
+Done chooseItem(QWidget *control, ControlInterface &shown, const MenuItem &item)
 {
     if (item.divider)
         return notOffered(control, QStringLiteral("has a divider there, which cannot be chosen"));
@@ -293,174 +231,34 @@ Done chooseMenuItem(QWidget *control, const MenuItem &item)
             QStringLiteral("opens a submenu with \"%1\"; choose an item in it").arg(item.text));
     if (!item.enabled)
         return notOffered(control, QStringLiteral("offers \"%1\" only disabled").arg(item.text));
-    bool chosen = false;
-    if (auto *popup = qobject_cast<PopupButton *>(control)) {
-        const auto &items = popup->menu().items;
-        const auto at = std::find_if(items.begin(), items.end(),
-                                     [&item](const MenuItem &one) { return &one == &item; });
-        chosen = at != items.end() && popup->choose(static_cast<int>(at - items.begin()) + 1);
-    } else if (auto *button = qobject_cast<MenuButton *>(control)) {
-        chosen = button->choose(item);
-    }
-    return chosen ? Done()
-                  : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));
+    return shown.choose(item)
+        ? Done()
+        : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));
 }
 
-// An ordinary combo box: only texts and rows name its items.
-Done chooseText(QComboBox *box, const ItemName &name)
+QString textOfControl(QWidget *control)
 {
-    std::vector<MenuItem> rows;
-    rows.reserve(static_cast<std::size_t>(box->count()));
-    for (int i = 0; i < box->count(); ++i)
-        rows.push_back({.text = box->itemText(i), .reference = i + 1});
-    if (name.by == ItemName::By::Key || name.by == ItemName::By::Reference)
-        return Problem{Failure::WrongKind,
-                       QStringLiteral("the items of %1 have no values; name one by text or row")
-                           .arg(nameOf(box))};
-    std::vector<const MenuItem *> items;
-    collect(rows, items);
-    const FoundItem found = findItem(box, items, name);
-    if (!found.item)
-        return found.problem;
-    const int row = found.item->reference - 1;
-    if (auto *history = qobject_cast<HistoryField *>(box))
-        return history->chooseItem(row)
-            ? Done()
-            : notOffered(box, QStringLiteral("does not take that item"));
-    box->setFocus();
-    box->setCurrentIndex(row);
-    emit box->activated(row);
-    emit box->textActivated(box->itemText(row));
-    return {};
-}
-
-QString openTextOfControl(const QWidget *control)
-{
-    if (const auto *popup = qobject_cast<const PopupButton *>(control))
-        return popup->shownText();
-    if (const auto *box = qobject_cast<const QComboBox *>(control))
-        return box->currentText();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(control))
-        return QString(button->text()).remove(u'&');
-    if (const auto *label = qobject_cast<const QLabel *>(control))
-        return QString(label->text()).remove(label->buddy() ? QStringLiteral("&") : QString());
-    if (const auto *field = qobject_cast<const QLineEdit *>(control))
-        return field->text();
-    if (const auto *view = qobject_cast<const QPlainTextEdit *>(control))
-        return view->toPlainText();
-    if (const auto *view = qobject_cast<const QTextEdit *>(control))
-        return view->toPlainText();
-    if (const auto *spin = qobject_cast<const QAbstractSpinBox *>(control))
-        return spin->text();
-    if (const auto *radios = qobject_cast<const RadioGroup *>(control)) {
-        const auto *button = radios->button(radios->value());
-        return button ? QString(button->text()).remove(u'&') : QString();
-    }
-    if (const auto *picture = qobject_cast<const PictureView *>(control)) {
-        QStringList names;
-        for (const QString &file : picture->pictures())
-            names << QFileInfo(file).completeBaseName();
-        return names.join(u',');
-    }
-    return control->accessibleName();
-}
-
-QString textOfControl(const QWidget *control)
-{
-    const QString text = openTextOfControl(control);
+    const QString text = controlInterface(control)->text();
     return isSecret(control) && !text.isEmpty() ? kMask : text;
 }
 
-std::optional<int> valueOfControl(const QWidget *control)
+std::optional<int> valueOfControl(QWidget *control)
 {
-    if (isSecret(control))
-        return {};
-    if (const auto *popup = qobject_cast<const PopupButton *>(control))
-        return popup->chosenReference();
-    if (const auto *spin = qobject_cast<const SpinField *>(control))
-        return spin->value();
-    if (const auto *slider = qobject_cast<const QAbstractSlider *>(control))
-        return slider->value();
-    if (const auto *radios = qobject_cast<const RadioGroup *>(control))
-        return radios->value();
-    if (const auto *tabs = qobject_cast<const TabControl *>(control))
-        return tabs->value();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(control);
-        button && button->isCheckable())
-        return button->isChecked() ? 1 : 0;
-    return {};
+    return isSecret(control) ? std::nullopt : controlInterface(control)->value();
 }
 
-std::optional<int> indexOfControl(const QWidget *control)
+std::optional<QString> words(std::optional<bool> value)
 {
-    if (const auto *popup = qobject_cast<const PopupButton *>(control))
-        return popup->value();
-    if (const auto *box = qobject_cast<const QComboBox *>(control))
-        return box->currentIndex() + 1;
-    if (const auto *radios = qobject_cast<const RadioGroup *>(control))
-        return radios->value();
-    if (const auto *tabs = qobject_cast<const TabControl *>(control))
-        return tabs->value();
-    return {};
+    if (!value)
+        return std::nullopt;
+    return *value ? QStringLiteral("true") : QStringLiteral("false");
 }
-
-std::optional<int> itemsOfControl(QWidget *control)
-{
-    if (const Menu *menu = menuOf(control))
-        return static_cast<int>(menu->items.size());
-    if (const auto *box = qobject_cast<const QComboBox *>(control))
-        return box->count();
-    if (const auto *list = qobject_cast<const ListView *>(control))
-        return list->rowCount();
-    if (const auto *radios = qobject_cast<const RadioGroup *>(control))
-        return radios->count();
-    if (const auto *tabs = qobject_cast<const TabControl *>(control))
-        return tabs->count();
-    return {};
-}
-
-QString words(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
-}
-
-QJsonArray describeItems(const std::vector<MenuItem> &items)
-{
-    QJsonArray array;
-    for (const MenuItem &item : items) {
-        QJsonObject object;
-        if (item.divider) {
-            object[QStringLiteral("divider")] = true;
-        } else {
-            object[QStringLiteral("text")] = item.text;
-            object[QStringLiteral("value")] = item.reference;
-            if (!item.key.isEmpty())
-                object[QStringLiteral("key")] = item.key;
-            if (item.command != kNoCommand) {
-                object[QStringLiteral("command")] = charactersOf(item.command);
-            }
-            if (!item.enabled)
-                object[QStringLiteral("enabled")] = false;
-            if (item.checked)
-                object[QStringLiteral("checked")] = true;
-            if (!item.submenu.empty())
-                object[QStringLiteral("items")] = describeItems(item.submenu);
-        }
-        array.append(object);
-    }
-    return array;
-}
-
-// The rows of a list that JSON shows; more would only be a wall of text.
-constexpr int describedRows = 100;
 
 } // namespace
 
-bool isSecret(const QWidget *control)
+bool isSecret(QWidget *control)
 {
-    const auto *field = qobject_cast<const QLineEdit *>(control);
-    return control->property(kSecretProperty).toBool()
-        || (field && field->echoMode() != QLineEdit::Normal);
+    return control->property(kSecretProperty).toBool() || controlInterface(control)->hidesText();
 }
 
 QString ControlName::text() const
@@ -526,24 +324,29 @@ Done choose(QWidget *control, const ItemName &name)
 {
     if (Done problem = unusable(control))
         return problem;
-    if (const Menu *menu = menuOf(control)) {
-        std::vector<const MenuItem *> items;
-        collect(menu->items, items);
-        const FoundItem found = findItem(control, items, name);
-        return found.item ? chooseMenuItem(control, *found.item) : found.problem;
-    }
-    if (auto *box = qobject_cast<QComboBox *>(control))
-        return chooseText(box, name);
-    return wrongKind(control, QStringLiteral("has no items to choose"));
+    const auto shown = controlInterface(control);
+    const Menu *menu = shown->menu();
+    if (!menu)
+        return wrongKind(control, QStringLiteral("has no items to choose"));
+    if (shown->hasPlainItems()
+        && (name.by == ItemName::By::Key || name.by == ItemName::By::Reference))
+        return Problem{Failure::WrongKind,
+                       QStringLiteral("the items of %1 have no values; name one by text or row")
+                           .arg(nameOf(control))};
+    std::vector<const MenuItem *> items;
+    collect(menu->items, items);
+    const FoundItem found = findItem(control, items, name);
+    return found.item ? chooseItem(control, *shown, *found.item) : found.problem;
 }
 
 namespace {
 
-// The items of `control` that carry `command`, those that `name` means where given.
-FoundItem findCommand(QWidget *control, OSType command, const std::optional<ItemName> &name)
+// The item of `shown`'s menu that carries `command`, the one that `name` means where given.
+FoundItem findCommand(QWidget *control, ControlInterface &shown, OSType command,
+                      const std::optional<ItemName> &name)
 {
-    const Menu *menu = menuOf(control);
-    if (!menu)
+    const Menu *menu = shown.menu();
+    if (!menu || shown.hasPlainItems())
         return {nullptr, wrongKind(control, QStringLiteral("has no menu"))};
     std::vector<const MenuItem *> all, items;
     collect(menu->items, all);
@@ -572,90 +375,28 @@ Done chooseCommand(QWidget *control, OSType command, const std::optional<ItemNam
 {
     if (Done problem = unusable(control))
         return problem;
-    const FoundItem found = findCommand(control, command, name);
-    return found.item ? chooseMenuItem(control, *found.item) : found.problem;
+    const auto shown = controlInterface(control);
+    const FoundItem found = findCommand(control, *shown, command, name);
+    return found.item ? chooseItem(control, *shown, *found.item) : found.problem;
 }
 
 Done click(QWidget *control)
 {
-    if (Done problem = unusable(control))
-        return problem;
-    auto *button = qobject_cast<QAbstractButton *>(control);
-    // A click on a menu's button would stay in the menu until somebody picks an item.
-    if (!button || is<MenuButton>(control))
-        return wrongKind(control, QStringLiteral("cannot be clicked"));
-    if (button->focusPolicy() & Qt::ClickFocus)
-        button->setFocus();
-    button->click();
-    return {};
+    return act(control, [](ControlInterface &button) { return button.click(); });
 }
 
 Done check(QWidget *control, bool on)
 {
-    if (Done problem = unusable(control))
-        return problem;
-    auto *button = qobject_cast<QAbstractButton *>(control);
-    if (!isCheckable(control))
-        return wrongKind(control, QStringLiteral("cannot be checked"));
-    if (button->isChecked() != on)
-        button->click();
-    return {};
+    return act(control, [on](ControlInterface &button) { return button.check(on); });
 }
-
-namespace {
-
-bool isReadOnly(const QWidget *control)
-{
-    const QVariant readOnly = control->property("readOnly");
-    return readOnly.isValid() && readOnly.toBool();
-}
-
-// What can be typed into a field, in words; empty when that is anything.
-QString typedInto(const QWidget *control)
-{
-    if (const auto *spin = qobject_cast<const SpinField *>(control)) {
-        const auto number = [spin](int value) {
-            return QString::number(value / std::pow(10.0, spin->decimals()), 'f', spin->decimals());
-        };
-        return QStringLiteral("numbers from %1 to %2")
-            .arg(number(spin->minimum()), number(spin->maximum()));
-    }
-    InputLimits limits = inputLimits(control).value_or(InputLimits());
-    const auto *line = qobject_cast<const QLineEdit *>(control);
-    if (line && limits.maximumLength < 0)
-        limits.maximumLength = line->maxLength();
-    return inWords(limits);
-}
-
-} // namespace
 
 Done type(QWidget *control, const QString &text)
 {
-    if (Done problem = unusable(control))
-        return problem;
-    if (isReadOnly(control))
-        return notOffered(control, QStringLiteral("is read-only"));
-    bool taken = false;
-    if (auto *spin = qobject_cast<SpinField *>(control)) {
-        // Nobody would see another number than the typed one appear when it is left.
-        taken = spin->typeText(text) && spin->willTakeTypedText();
-        if (!taken)
-            spin->setValue(spin->value());
-    } else if (qobject_cast<QLineEdit *>(control) || qobject_cast<QPlainTextEdit *>(control)
-               || (qobject_cast<QComboBox *>(control)
-                   && qobject_cast<QComboBox *>(control)->isEditable())) {
-        taken = typeText(control, text);
-    } else {
-        return wrongKind(control, QStringLiteral("takes no text"));
-    }
-    if (taken)
-        return {};
-    // A refused text may be a secret: it is not repeated.
-    const QString takes = typedInto(control);
-    return notOffered(control,
-                      (is<SpinField>(control) ? QStringLiteral("does not take what was typed")
-                                              : QStringLiteral("does not take the whole text"))
-                          + (takes.isEmpty() ? QString() : QStringLiteral("; it takes ") + takes));
+    return act(control, [control, &text](ControlInterface &field) -> Result<void> {
+        if (control->property("readOnly").toBool())
+            return refused(QStringLiteral("is read-only"));
+        return field.type(text);
+    });
 }
 
 Done typeSecret(QWidget *control, const QString &text)
@@ -666,82 +407,22 @@ Done typeSecret(QWidget *control, const QString &text)
 
 Done set(QWidget *control, int value)
 {
-    if (Done problem = unusable(control))
-        return problem;
-    const auto outside = [control, value](int from, int to) {
-        return notOffered(
-            control, QStringLiteral("goes from %1 to %2, not to %3").arg(from).arg(to).arg(value));
-    };
-    const auto notOfferedOf = [control, value](const QString &part, int count) {
-        return notOffered(
-            control,
-            value < 1 || value > count
-                ? QStringLiteral("has %1s 1 to %2, not %3").arg(part).arg(count).arg(value)
-                : QStringLiteral("offers %1 %2 only disabled").arg(part).arg(value));
-    };
-    if (auto *spin = qobject_cast<SpinField *>(control)) {
-        if (value < spin->minimum() || value > spin->maximum())
-            return outside(spin->minimum(), spin->maximum());
-        spin->choose(value);
-    } else if (auto *slider = qobject_cast<QAbstractSlider *>(control)) {
-        if (value < slider->minimum() || value > slider->maximum())
-            return outside(slider->minimum(), slider->maximum());
-        slider->setFocus();
-        slider->setSliderPosition(value); // as dragging does: an action, then the value
-    } else if (auto *radios = qobject_cast<RadioGroup *>(control)) {
-        if (!radios->choose(value))
-            return notOfferedOf(QStringLiteral("button"), radios->count());
-    } else if (auto *tabs = qobject_cast<TabControl *>(control)) {
-        if (!tabs->choose(value))
-            return notOfferedOf(QStringLiteral("tab"), tabs->count());
-    } else {
-        return wrongKind(control, QStringLiteral("has no number to set"));
-    }
-    return {};
+    return act(control, [value](ControlInterface &shown) { return shown.set(value); });
 }
 
 Done setTime(QWidget *control, const QTime &time)
 {
-    if (Done problem = unusable(control))
-        return problem;
-    auto *field = qobject_cast<TimeField *>(control);
-    if (!field)
-        return wrongKind(control, QStringLiteral("is no time field"));
-    return field->choose(time) ? Done() : notOffered(control, QStringLiteral("is read-only"));
+    return act(control, [&time](ControlInterface &field) { return field.setTime(time); });
 }
 
 Done select(QWidget *control, const std::vector<int> &rows)
 {
-    if (Done problem = unusable(control))
-        return problem;
-    auto *list = qobject_cast<ListView *>(control);
-    if (!list)
-        return wrongKind(control, QStringLiteral("is no list"));
-    std::vector<int> fromZero;
-    for (const int row : rows) {
-        if (row == 0)
-            continue;
-        if (row > list->rowCount())
-            return notOffered(control,
-                              QStringLiteral("has %1 rows, not %2").arg(list->rowCount()).arg(row));
-        fromZero.push_back(row - 1);
-    }
-    list->selectRows(fromZero, true);
-    return {};
+    return act(control, [&rows](ControlInterface &list) { return list.select(rows); });
 }
 
 Done doubleClick(QWidget *control, int row)
 {
-    if (Done problem = unusable(control))
-        return problem;
-    auto *list = qobject_cast<ListView *>(control);
-    if (!list)
-        return wrongKind(control, QStringLiteral("is no list"));
-    if (row < 0 || row > list->rowCount())
-        return notOffered(control,
-                          QStringLiteral("has %1 rows, not %2").arg(list->rowCount()).arg(row));
-    list->activateRow(row - 1);
-    return {};
+    return act(control, [row](ControlInterface &list) { return list.activate(row); });
 }
 
 Done drag(QWidget *control, double dx, double dy)
@@ -823,71 +504,81 @@ Done answerFileChooser(QWidget *window, const QString &path)
     return {};
 }
 
-QStringList propertyNames()
+namespace {
+
+std::optional<QString> numeral(std::optional<int> number)
 {
-    return {QStringLiteral("value"),     QStringLiteral("index"),   QStringLiteral("text"),
-            QStringLiteral("enabled"),   QStringLiteral("visible"), QStringLiteral("checked"),
-            QStringLiteral("focus"),     QStringLiteral("items"),   QStringLiteral("maximum"),
-            QStringLiteral("selection"), QStringLiteral("cell")};
+    return number ? std::optional(QString::number(*number)) : std::nullopt;
 }
 
-namespace {
+std::optional<QString> selectionOf(const ControlInterface &list)
+{
+    const auto selected = list.selection();
+    if (!selected)
+        return std::nullopt;
+    QStringList rows;
+    for (const int row : *selected)
+        rows << QString::number(row);
+    return rows.join(u',');
+}
+
+// What expect asks for, but for cells; none where the control has nothing of the kind.
+struct PropertyRow
+{
+    const char *name;
+    std::optional<QString> (*read)(QWidget *control, ControlInterface &shown);
+    const char *lacking = nullptr; // instead of "it has no NAME"
+};
+using Shown = ControlInterface;
+constexpr PropertyRow propertyRows[] = {
+    {"value", [](QWidget *control, Shown &) { return numeral(valueOfControl(control)); }},
+    {"index", [](QWidget *, Shown &shown) { return numeral(shown.index()); }},
+    {"text", [](QWidget *control, Shown &) { return std::optional(textOfControl(control)); }},
+    {"enabled", [](QWidget *control, Shown &) { return words(control->isEnabled()); }},
+    {"visible", [](QWidget *control, Shown &) { return words(control->isVisible()); }},
+    {"checked", [](QWidget *, Shown &shown) { return words(shown.isChecked()); },
+     "it cannot be checked"},
+    {"focus",
+     [](QWidget *control, Shown &) { return words(control->window()->focusWidget() == control); }},
+    {"items", [](QWidget *, Shown &shown) { return numeral(shown.items()); }},
+    {"maximum", [](QWidget *, Shown &shown) { return numeral(shown.maximum()); }},
+    {"selection", [](QWidget *, Shown &shown) { return selectionOf(shown); }},
+};
 
 Result<QString> propertyOf(QWidget *control, const QString &name)
 {
-    const auto number = [control, &name](std::optional<int> value) -> Result<QString> {
-        if (value)
-            return QString::number(*value);
-        return Error{Error::Code::Unsupported, nameOf(control),
-                     QStringLiteral("it has no %1").arg(name)};
+    const auto shown = controlInterface(control);
+    const auto lacks = [control](const QString &what) {
+        return Error{Error::Code::Unsupported, nameOf(control), what};
     };
-    if (name == QLatin1String("value"))
-        return number(valueOfControl(control));
-    if (name == QLatin1String("index"))
-        return number(indexOfControl(control));
-    if (name == QLatin1String("items"))
-        return number(itemsOfControl(control));
-    if (name == QLatin1String("maximum"))
-        return number(controlMaximum(control));
-    if (name == QLatin1String("text"))
-        return textOfControl(control);
-    if (name == QLatin1String("enabled"))
-        return words(control->isEnabled());
-    if (name == QLatin1String("visible"))
-        return words(control->isVisible());
-    if (name == QLatin1String("focus"))
-        return words(control->window()->focusWidget() == control);
-    if (name == QLatin1String("checked")) {
-        if (isCheckable(control))
-            return words(qobject_cast<const QAbstractButton *>(control)->isChecked());
-        return Error{Error::Code::Unsupported, nameOf(control),
-                     QStringLiteral("it cannot be checked")};
-    }
-    const auto *list = qobject_cast<const ListView *>(control);
-    if (name == QLatin1String("selection") && list) {
-        QStringList rows;
-        for (const int row : list->selectedRows())
-            rows << QString::number(row + 1);
-        return rows.join(u',');
-    }
-    if (name.startsWith(QLatin1String("cell ")) && list) {
+    if (name.startsWith(QLatin1String("cell "))) {
         const QStringList parts = name.split(u' ');
-        const int row = parts.value(1).toInt(), column = parts.value(2).toInt();
-        if (row < 1 || row > list->rowCount() || column < 1
-            || column > list->model()->columnCount())
-            return Error{Error::Code::OutOfRange, nameOf(control),
-                         QStringLiteral("there is no cell %1 %2; it has %3 rows and %4 columns")
-                             .arg(row)
-                             .arg(column)
-                             .arg(list->rowCount())
-                             .arg(list->model()->columnCount())};
-        return list->cellText(row - 1, column - 1);
+        const auto cell = shown->cell(parts.value(1).toInt(), parts.value(2).toInt());
+        if (cell)
+            return cell;
+        if (cell.error().code == Error::Code::Unsupported)
+            return lacks(QStringLiteral("it has no %1").arg(name));
+        return Error{cell.error().code, nameOf(control), cell.error().detail};
     }
-    return Error{Error::Code::Unsupported, nameOf(control),
-                 QStringLiteral("it has no %1").arg(name)};
+    const auto row = std::ranges::find(
+        propertyRows, name, [](const PropertyRow &each) { return QLatin1String(each.name); });
+    if (row == std::end(propertyRows))
+        return lacks(QStringLiteral("it has no %1").arg(name));
+    if (const auto value = row->read(control, *shown))
+        return *value;
+    return lacks(row->lacking ? QString::fromLatin1(row->lacking)
+                              : QStringLiteral("it has no %1").arg(name));
 }
 
 } // namespace
+
+QStringList propertyNames()
+{
+    QStringList names;
+    for (const PropertyRow &row : propertyRows)
+        names << QString::fromLatin1(row.name);
+    return names << QStringLiteral("cell");
+}
 
 Result<QString> property(QWidget *control, const QString &name)
 {
@@ -895,11 +586,13 @@ Result<QString> property(QWidget *control, const QString &name)
     if (found || found.error().code != Error::Code::Unsupported)
         return found;
     QStringList has;
-    const QStringList names = propertyNames();
-    for (const QString &each : names) {
-        if (each == QLatin1String("cell") ? is<ListView>(control) : bool(propertyOf(control, each)))
-            has << each;
+    const auto shown = controlInterface(control);
+    for (const PropertyRow &row : propertyRows) {
+        if (row.read(control, *shown))
+            has << QString::fromLatin1(row.name);
     }
+    if (const auto cell = shown->cell(1, 1); cell || cell.error().code != Error::Code::Unsupported)
+        has << QStringLiteral("cell");
     Error error = found.error();
     error.detail += QStringLiteral("; it has ") + has.join(QStringLiteral(", "));
     return error;
@@ -908,7 +601,8 @@ Result<QString> property(QWidget *control, const QString &name)
 Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> &name,
                 const QString &state)
 {
-    const FoundItem found = findCommand(control, command, name);
+    const auto shown = controlInterface(control);
+    const FoundItem found = findCommand(control, *shown, command, name);
     const bool isAbsent =
         !found.item && found.problem && found.problem->failure == Failure::NotOffered;
     const QString problem = found.problem ? found.problem->text : QString();
@@ -936,13 +630,13 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
 
 QJsonObject describe(QWidget *control)
 {
+    const auto shown = controlInterface(control);
     QJsonObject object;
     if (const auto id = controlIDOf(control))
         object[QStringLiteral("id")] = textOf(*id);
     if (hasSpeakingName(control))
         object[QStringLiteral("name")] = control->objectName();
-    object[QStringLiteral("kind")] =
-        QString::fromLatin1(control->metaObject()->className()).section(QStringLiteral("::"), -1);
+    object[QStringLiteral("kind")] = kindOf(control);
     if (!control->accessibleName().isEmpty())
         object[QStringLiteral("label")] = control->accessibleName();
     object[QStringLiteral("text")] = textOfControl(control);
@@ -952,28 +646,10 @@ QJsonObject describe(QWidget *control)
     object[QStringLiteral("visible")] = control->isVisible();
     if (const auto value = valueOfControl(control))
         object[QStringLiteral("value")] = *value;
-    if (const auto maximum = controlMaximum(control))
+    if (const auto maximum = shown->maximum())
         object[QStringLiteral("maximum")] = *maximum;
-    if (isSecret(control))
-        return object; // also of those that were typed before
-    if (const Menu *menu = menuOf(control)) {
-        object[QStringLiteral("items")] = describeItems(menu->items);
-    } else if (const auto *box = qobject_cast<const QComboBox *>(control)) {
-        QJsonArray items;
-        for (int i = 0; i < box->count(); ++i)
-            items.append(box->itemText(i));
-        object[QStringLiteral("items")] = items;
-    } else if (const auto *list = qobject_cast<const ListView *>(control)) {
-        QJsonArray rows;
-        for (int row = 0; row < std::min(list->rowCount(), describedRows); ++row) {
-            QJsonArray cells;
-            for (int column = 0; column < list->model()->columnCount(); ++column)
-                cells.append(list->cellText(row, column));
-            rows.append(cells);
-        }
-        object[QStringLiteral("rows")] = rows;
-        object[QStringLiteral("rowCount")] = list->rowCount();
-    }
+    if (!isSecret(control)) // also of those that were typed before
+        shown->describe(object);
     return object;
 }
 

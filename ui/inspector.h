@@ -88,7 +88,7 @@ Done answerFileChooser(QWidget *window, const QString &path);
 
 // Whether what the control holds is a secret: its window's description says so
 // (kSecretProperty), it shows bullets, or a secret was typed into it.
-bool isSecret(const QWidget *control);
+bool isSecret(QWidget *control);
 
 // A property as a script writes it: value, index, text, enabled, visible,
 // checked, focus, items, maximum, selection, "cell ROW COLUMN". For the text of a

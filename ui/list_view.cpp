@@ -1,10 +1,13 @@
 #include "list_view.h"
 
+#include "control_interface.h"
 #include "control_support.h"
 #include "tool_tip.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -234,6 +237,89 @@ void ListView::keyPressEvent(QKeyEvent *event)
         return;
     }
     QTreeView::keyPressEvent(event);
+}
+
+namespace {
+
+// The rows that describe() tells; more would only be a wall of text.
+constexpr int describedRows = 100;
+
+class ListViewInterface : public InterfaceOf<ListView>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    std::optional<int> items() override { return widget()->rowCount(); }
+    QString commands() const override { return QStringLiteral("select, double-click"); }
+
+    std::optional<std::vector<int>> selection() const override
+    {
+        std::vector<int> rows = widget()->selectedRows();
+        for (int &row : rows)
+            ++row;
+        return rows;
+    }
+
+    Result<QString> cell(int row, int column) const override
+    {
+        if (row < 1 || row > widget()->rowCount() || column < 1 || column > columns())
+            return Error{Error::Code::OutOfRange,
+                         {},
+                         QStringLiteral("there is no cell %1 %2; it has %3 rows and %4 columns")
+                             .arg(row)
+                             .arg(column)
+                             .arg(widget()->rowCount())
+                             .arg(columns())};
+        return widget()->cellText(row - 1, column - 1);
+    }
+
+    // "rows", of which there may be many, and "rowCount".
+    void describe(QJsonObject &object) override
+    {
+        QJsonArray rows;
+        for (int row = 0; row < std::min(widget()->rowCount(), describedRows); ++row) {
+            QJsonArray cells;
+            for (int column = 0; column < columns(); ++column)
+                cells.append(widget()->cellText(row, column));
+            rows.append(cells);
+        }
+        object[QStringLiteral("rows")] = rows;
+        object[QStringLiteral("rowCount")] = widget()->rowCount();
+    }
+
+    Result<void> select(const std::vector<int> &rows) override
+    {
+        std::vector<int> fromZero; // the empty area is no row, and left out
+        for (const int row : rows) {
+            if (row > widget()->rowCount())
+                return noSuchRow(row);
+            fromZero.push_back(row - 1);
+        }
+        widget()->selectRows(fromZero, true);
+        return {};
+    }
+
+    Result<void> activate(int row) override
+    {
+        if (row < 0 || row > widget()->rowCount())
+            return noSuchRow(row);
+        widget()->activateRow(row - 1);
+        return {};
+    }
+
+private:
+    int columns() const { return widget()->model()->columnCount(); }
+    Error noSuchRow(int row) const
+    {
+        return refused(QStringLiteral("has %1 rows, not %2").arg(widget()->rowCount()).arg(row));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(ListView *list)
+{
+    return std::make_unique<ListViewInterface>(list);
 }
 
 } // namespace kelvo

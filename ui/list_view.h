@@ -4,9 +4,12 @@
 #include <QTreeView>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace kelvo {
+
+class ControlInterface;
 
 class RowModel;
 
@@ -56,5 +59,7 @@ private:
     bool m_silent = false;
     bool m_isSelectionPending = false; // the user changed it, and it was not sent yet
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(ListView *list);
 
 } // namespace kelvo

@@ -1,6 +1,7 @@
 #include "menu_button.h"
 
 #include "control_support.h"
+#include "qt_controls.h"
 
 #include <QMenu>
 #include <QPointer>
@@ -94,6 +95,29 @@ void MenuButton::fillShownMenu()
     // Submenus are children of their menu, and clear() takes the actions alone.
     qDeleteAll(m_shown->findChildren<QMenu *>(Qt::FindDirectChildrenOnly));
     fill(m_shown, updatedMenu().items, this);
+}
+
+namespace {
+
+class MenuButtonInterface : public InterfaceOf<MenuButton, ButtonInterface>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    std::optional<int> maximum() const override { return widget()->maximum(); }
+    const Menu *menu() override { return &widget()->updatedMenu(); }
+    QString commands() const override { return QStringLiteral("item, choose"); }
+    bool choose(const MenuItem &item) override { return widget()->choose(item); }
+    // A click would stay in the menu until somebody picks an item.
+    Result<void> click() override { return ControlInterface::click(); }
+    void sendEvents() override { }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(MenuButton *button)
+{
+    return std::make_unique<MenuButtonInterface>(button);
 }
 
 } // namespace kelvo

@@ -5,10 +5,13 @@
 #include <QPushButton>
 
 #include <functional>
+#include <memory>
 
 class QMenu;
 
 namespace kelvo {
+
+class ControlInterface;
 
 // A button that opens a menu with submenus. It sends Menu and then Command for
 // the item that the user chooses; the button itself keeps no value.
@@ -46,5 +49,7 @@ private:
     std::function<void(Menu &)> m_update;
     int m_maximum = 0;
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(MenuButton *button);
 
 } // namespace kelvo

@@ -1,5 +1,7 @@
 #include "picture_view.h"
 
+#include "control_interface.h"
+
 #include <QFileInfo>
 #include <QHash>
 #include <QPainter>
@@ -100,6 +102,29 @@ void PictureView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setOpacity(isEnabled() ? 1.0 : disabledOpacity);
     painter.drawPixmap(0, 0, picture);
+}
+
+namespace {
+
+class PictureViewInterface : public InterfaceOf<PictureView>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    QString text() const override // the pictures' names
+    {
+        QStringList names;
+        for (const QString &file : widget()->pictures())
+            names << QFileInfo(file).completeBaseName();
+        return names.join(u',');
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(PictureView *view)
+{
+    return std::make_unique<PictureViewInterface>(view);
 }
 
 } // namespace kelvo

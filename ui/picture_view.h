@@ -4,9 +4,12 @@
 #include <QString>
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 
 namespace kelvo {
+
+class ControlInterface;
 
 // Where a bundle's pictures lie. A name keeps the ending that the system gives
 // it ("Paper_Plain-Blue.gif"); the file is the SVG master of the same base
@@ -41,5 +44,7 @@ protected:
 private:
     QStringList m_files;
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(PictureView *view);
 
 } // namespace kelvo

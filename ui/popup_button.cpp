@@ -1,5 +1,6 @@
 #include "popup_button.h"
 
+#include "control_interface.h"
 #include "control_support.h"
 #include "tool_tip.h"
 
@@ -226,6 +227,32 @@ void PopupButton::paintEvent(QPaintEvent *)
     option.currentText = elidedText(option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+namespace {
+
+class PopupButtonInterface : public InterfaceOf<PopupButton>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    QString text() const override { return widget()->shownText(); }
+    std::optional<int> value() const override { return widget()->chosenReference(); }
+    std::optional<int> index() const override { return widget()->value(); }
+    std::optional<int> maximum() const override { return widget()->maximum(); }
+    const Menu *menu() override { return &widget()->menu(); }
+    QString commands() const override { return QStringLiteral("choose, item"); }
+    bool choose(const MenuItem &item) override
+    {
+        return widget()->choose(rowOf(widget()->menu(), item));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(PopupButton *button)
+{
+    return std::make_unique<PopupButtonInterface>(button);
 }
 
 } // namespace kelvo

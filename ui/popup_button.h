@@ -4,9 +4,13 @@
 
 #include <QComboBox>
 
+#include <memory>
+
 class QStyleOptionComboBox;
 
 namespace kelvo {
+
+class ControlInterface;
 
 // A pop-up button: shows one item of its menu. It sends Menu, then Command when
 // the item has one, then ControlHit, and only when the user chooses. Values are
@@ -66,5 +70,7 @@ private:
     bool m_isChosenFromList = false;
     mutable int m_widest = -1; // text of the menu in pixels, -1: not measured yet
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(PopupButton *button);
 
 } // namespace kelvo

@@ -1,6 +1,7 @@
 #include "radio_group.h"
 
 #include "control_support.h"
+#include "qt_controls.h"
 
 #include <QButtonGroup>
 #include <QChildEvent>
@@ -125,6 +126,55 @@ void RadioGroup::childEvent(QChildEvent *event)
     m_group->addButton(button);
     if (!focusProxy())
         setFocusProxy(button);
+}
+
+namespace {
+
+class RadioGroupInterface : public InterfaceOf<RadioGroup>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    QString text() const override
+    {
+        QRadioButton *chosen = widget()->button(widget()->value());
+        return chosen ? controlInterface(chosen)->text() : QString();
+    }
+    std::optional<int> value() const override { return widget()->value(); }
+    std::optional<int> index() const override { return widget()->value(); }
+    std::optional<int> items() override { return widget()->count(); }
+    QString commands() const override { return QStringLiteral("set"); }
+    Result<void> set(int value) override
+    {
+        if (widget()->choose(value))
+            return {};
+        return partNotOffered("button", value, widget()->count());
+    }
+};
+
+// One in a group leaves its events to the group.
+class RadioButtonInterface : public InterfaceOf<QRadioButton, ButtonInterface>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    void sendEvents() override
+    {
+        if (!qobject_cast<RadioGroup *>(widget()->parentWidget()))
+            InterfaceOf::sendEvents();
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(RadioGroup *group)
+{
+    return std::make_unique<RadioGroupInterface>(group);
+}
+
+std::unique_ptr<ControlInterface> interfaceOf(QRadioButton *button)
+{
+    return std::make_unique<RadioButtonInterface>(button);
 }
 
 } // namespace kelvo

@@ -3,10 +3,14 @@
 #include <QList>
 #include <QWidget>
 
+#include <memory>
+
 class QButtonGroup;
 class QRadioButton;
 
 namespace kelvo {
+
+class ControlInterface;
 
 // Radio buttons of which one is on; the value is the 1-based position, 0 for
 // none. Its buttons are its child radio buttons in layout order. Sends
@@ -34,5 +38,8 @@ private:
 
     QButtonGroup *m_group;
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(RadioGroup *group);
+std::unique_ptr<ControlInterface> interfaceOf(QRadioButton *button);
 
 } // namespace kelvo

@@ -1,7 +1,7 @@
 #include "spin_field.h"
 
 #include "control_support.h"
-#include "time_field.h"
+#include "qt_controls.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -12,6 +12,7 @@
 #include <QStyleOptionSpinBox>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace kelvo {
@@ -317,11 +318,65 @@ void commitTypedValues(QWidget *window)
     for (QAbstractSpinBox *child : children)
         fields.append(child);
     for (const QPointer<QAbstractSpinBox> &field : fields) {
-        if (auto *spin = qobject_cast<SpinField *>(field.data()))
-            spin->takeTypedText();
-        else if (field)
-            field->interpretText();
+        if (field)
+            controlInterface(field)->takeTypedText();
     }
+}
+
+namespace {
+
+class SpinFieldInterface : public InterfaceOf<SpinField, SpinBoxInterface>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    std::optional<int> value() const override { return widget()->value(); }
+    std::optional<int> maximum() const override { return widget()->maximum(); }
+    QString commands() const override { return QStringLiteral("set, type"); }
+
+    Result<void> set(int value) override
+    {
+        if (value < widget()->minimum() || value > widget()->maximum())
+            return outsideRange(value, widget()->minimum(), widget()->maximum());
+        if (widget()->choose(value))
+            return {};
+        return refused(QStringLiteral("is read-only"));
+    }
+
+    Result<void> type(const QString &text) override
+    {
+        // Nobody would see another number than the typed one appear when it is left.
+        if (enter(text) && widget()->willTakeTypedText())
+            return {};
+        widget()->setValue(widget()->value());
+        return notTyped(QStringLiteral("does not take what was typed"),
+                        QStringLiteral("numbers from %1 to %2")
+                            .arg(inWords(widget()->minimum()), inWords(widget()->maximum())));
+    }
+
+    bool enter(const QString &text) override { return widget()->typeText(text); }
+    void takeTypedText() override { widget()->takeTypedText(); }
+
+    void localize(const Localizer &localized) override
+    {
+        InterfaceOf::localize(localized);
+        widget()->setSuffix(localized(widget()->suffix()));
+    }
+
+private:
+    // With a point in any locale, as scripts are written.
+    QString inWords(int value) const
+    {
+        const int decimals = widget()->decimals();
+        return QString::number(value / std::pow(10.0, decimals), 'f', decimals);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(SpinField *field)
+{
+    return std::make_unique<SpinFieldInterface>(field);
 }
 
 } // namespace kelvo

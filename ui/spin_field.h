@@ -4,8 +4,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 namespace kelvo {
+
+class ControlInterface;
 
 // A number with two arrows. The value is an integer of `decimals` decimal
 // places: 1234 with 2 decimals shows 12.34 in the user's locale. Typed text
@@ -83,5 +86,7 @@ private:
 // Makes what was typed into the spin and time fields of `window` their values,
 // as if each field were left: what OK and Print do first.
 void commitTypedValues(QWidget *window);
+
+std::unique_ptr<ControlInterface> interfaceOf(SpinField *field);
 
 } // namespace kelvo

@@ -1,5 +1,7 @@
 #include "summary_view.h"
 
+#include "qt_controls.h"
+
 #include <QScrollBar>
 
 namespace kelvo {
@@ -38,6 +40,24 @@ QSize SummaryView::minimumSizeHint() const
 {
     const QSize hint = sizeHint();
     return {hint.width() / 3, hint.height() / 2};
+}
+
+namespace {
+
+// Nobody edits it.
+class SummaryViewInterface : public InterfaceOf<SummaryView, PlainTextInterface>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    void sendEvents() override { }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(SummaryView *view)
+{
+    return std::make_unique<SummaryViewInterface>(view);
 }
 
 } // namespace kelvo

@@ -2,7 +2,11 @@
 
 #include <QPlainTextEdit>
 
+#include <memory>
+
 namespace kelvo {
+
+class ControlInterface;
 
 // Read-only lines of plain text ("- Letter"), selectable, with a scroll bar
 // only when needed.
@@ -18,5 +22,7 @@ public:
     QSize sizeHint() const override; // five lines
     QSize minimumSizeHint() const override;
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(SummaryView *view);
 
 } // namespace kelvo

@@ -1,5 +1,6 @@
 #include "tab_control.h"
 
+#include "control_interface.h"
 #include "control_support.h"
 
 #include <QEvent>
@@ -77,6 +78,42 @@ bool TabControl::event(QEvent *event)
     if (alive && value() != before)
         sendHit(this);
     return done;
+}
+
+namespace {
+
+class TabControlInterface : public InterfaceOf<TabControl>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    std::optional<int> value() const override { return widget()->value(); }
+    std::optional<int> index() const override { return widget()->value(); }
+    std::optional<int> items() override { return widget()->count(); }
+    QString commands() const override { return QStringLiteral("set"); }
+    Result<void> set(int value) override
+    {
+        const int count = widget()->count();
+        if (widget()->choose(value))
+            return {};
+        return partNotOffered("tab", value, count);
+    }
+
+    void localize(const Localizer &localized) override
+    {
+        InterfaceOf::localize(localized);
+        QStringList titles;
+        for (const QString &title : widget()->titles())
+            titles.append(localized(title));
+        widget()->setTitles(titles);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(TabControl *tabs)
+{
+    return std::make_unique<TabControlInterface>(tabs);
 }
 
 } // namespace kelvo

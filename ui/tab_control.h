@@ -3,7 +3,11 @@
 #include <QStringList>
 #include <QTabBar>
 
+#include <memory>
+
 namespace kelvo {
+
+class ControlInterface;
 
 // The tabs alone; the panes are shown by whoever hears the hit. The value is
 // the 1-based tab. Sends ControlHit when the user changes it.
@@ -25,5 +29,7 @@ public:
 protected:
     bool event(QEvent *event) override;
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(TabControl *tabs);
 
 } // namespace kelvo

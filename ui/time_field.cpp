@@ -1,6 +1,7 @@
 #include "time_field.h"
 
 #include "control_support.h"
+#include "qt_controls.h"
 
 #include <QEvent>
 #include <QLocale>
@@ -43,6 +44,29 @@ void TimeField::changeEvent(QEvent *event)
     QTimeEdit::changeEvent(event);
     if (event->type() == QEvent::LocaleChange)
         setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
+}
+
+namespace {
+
+class TimeFieldInterface : public InterfaceOf<TimeField, SpinBoxInterface>
+{
+public:
+    using InterfaceOf::InterfaceOf;
+
+    QString commands() const override { return QStringLiteral("time"); }
+    Result<void> setTime(const QTime &time) override
+    {
+        if (widget()->choose(time))
+            return {};
+        return refused(QStringLiteral("is read-only"));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlInterface> interfaceOf(TimeField *field)
+{
+    return std::make_unique<TimeFieldInterface>(field);
 }
 
 } // namespace kelvo

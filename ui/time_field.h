@@ -2,7 +2,11 @@
 
 #include <QTimeEdit>
 
+#include <memory>
+
 namespace kelvo {
+
+class ControlInterface;
 
 // A time of day in the user's notation, to the second when the locale shows
 // seconds. Sends ControlHit when the user changes it.
@@ -20,5 +24,7 @@ public:
 protected:
     void changeEvent(QEvent *event) override;
 };
+
+std::unique_ptr<ControlInterface> interfaceOf(TimeField *field);
 
 } // namespace kelvo

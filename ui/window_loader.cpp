@@ -1,29 +1,17 @@
 #include "window_loader.h"
 
 #include "control.h"
+#include "control_classes.h"
+#include "control_interface.h"
 #include "event.h"
-#include "history_field.h"
 #include "input_limits.h"
-#include "list_view.h"
-#include "menu_button.h"
-#include "picture_view.h"
-#include "popup_button.h"
-#include "radio_group.h"
 #include "secrets.h"
-#include "spin_field.h"
-#include "summary_view.h"
-#include "tab_control.h"
-#include "time_field.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QGroupBox>
 #include <QHash>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QUiLoader>
 
 #include <algorithm>
@@ -33,26 +21,6 @@
 namespace kelvo {
 
 namespace {
-
-template <typename T>
-QWidget *make(QWidget *parent)
-{
-    return new T(parent);
-}
-
-struct ControlClass
-{
-    const char *name;
-    QWidget *(*make)(QWidget *parent);
-};
-
-constexpr ControlClass ownClasses[] = {
-    {"PopupButton", make<PopupButton>},   {"MenuButton", make<MenuButton>},
-    {"RadioGroup", make<RadioGroup>},     {"TabControl", make<TabControl>},
-    {"SpinField", make<SpinField>},       {"TimeField", make<TimeField>},
-    {"HistoryField", make<HistoryField>}, {"ListView", make<ListView>},
-    {"PictureView", make<PictureView>},   {"SummaryView", make<SummaryView>},
-};
 
 // What a window may hold of Qt's own. Qt's combo box, spin boxes and item views
 // are not among them: their changes cannot be told from the user's.
@@ -64,9 +32,7 @@ constexpr const char *qtClasses[] = {
 
 QStringList knownClasses()
 {
-    QStringList names;
-    for (const ControlClass &known : ownClasses)
-        names.append(QString::fromLatin1(known.name));
+    QStringList names = controlClassNames();
     for (const char *name : qtClasses)
         names.append(QString::fromLatin1(name));
     return names;
@@ -98,10 +64,8 @@ public:
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
-        QWidget *widget = nullptr;
-        const auto own = std::ranges::find(ownClasses, className.toLatin1(), &ControlClass::name);
-        if (own != std::end(ownClasses)) {
-            widget = own->make(parent);
+        QWidget *widget = makeControl(className, parent);
+        if (widget) {
             widget->setObjectName(name);
         } else if (std::ranges::find(qtClasses, className.toLatin1()) != std::end(qtClasses)) {
             widget = QUiLoader::createWidget(className, parent, name);
@@ -172,43 +136,6 @@ void checkCommands(const QWidgetList &widgets, QStringList &problems)
     }
 }
 
-// Every text that the user reads or hears. What stands in a field is the user's.
-void localize(QWidget *widget, CFBundleRef bundle)
-{
-    const auto localized = [bundle](const QString &text) {
-        return text.isEmpty()
-            ? text
-            : bundle->findString(text, QStringLiteral("Localizable")).value_or(text);
-    };
-    if (!widget->windowTitle().isEmpty())
-        widget->setWindowTitle(localized(widget->windowTitle()));
-    widget->setToolTip(localized(widget->toolTip()));
-    widget->setAccessibleName(localized(widget->accessibleName()));
-    widget->setAccessibleDescription(localized(widget->accessibleDescription()));
-
-    if (auto *label = qobject_cast<QLabel *>(widget)) {
-        // A text of the tables that looks like markup is still a text.
-        if (label->textFormat() == Qt::AutoText)
-            label->setTextFormat(Qt::PlainText);
-        label->setText(localized(label->text()));
-    } else if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
-        button->setText(localized(button->text()));
-    } else if (auto *group = qobject_cast<QGroupBox *>(widget)) {
-        group->setTitle(localized(group->title()));
-    } else if (auto *line = qobject_cast<QLineEdit *>(widget)) {
-        line->setPlaceholderText(localized(line->placeholderText()));
-    } else if (auto *text = qobject_cast<QPlainTextEdit *>(widget)) {
-        text->setPlaceholderText(localized(text->placeholderText()));
-    } else if (auto *spin = qobject_cast<SpinField *>(widget)) {
-        spin->setSuffix(localized(spin->suffix()));
-    } else if (auto *tabs = qobject_cast<TabControl *>(widget)) {
-        QStringList titles;
-        for (const QString &title : tabs->titles())
-            titles.append(localized(title));
-        tabs->setTitles(titles);
-    }
-}
-
 void nameByLabels(const QWidgetList &widgets)
 {
     for (QWidget *widget : widgets) {
@@ -216,16 +143,6 @@ void nameByLabels(const QWidgetList &widgets)
         if (label && label->buddy() && label->buddy()->accessibleName().isEmpty())
             label->buddy()->setAccessibleName(spokenText(label));
     }
-}
-
-// What is pasted into a field goes into a ticket or a file of ours sooner or later.
-// Those that say what they take replace these limits.
-void keepToWhatCanBeKept(QWidget *widget)
-{
-    const auto *box = qobject_cast<QComboBox *>(widget);
-    if (qobject_cast<QLineEdit *>(widget) || qobject_cast<QPlainTextEdit *>(widget)
-        || (box && box->isEditable()))
-        setInputLimits(widget, {});
 }
 
 } // namespace
@@ -261,12 +178,20 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
     if (!loader.problems().isEmpty())
         return Error{Error::Code::Damaged, path, loader.problems().join(QStringLiteral("; "))};
 
+    const auto localized = [bundle](const QString &key) {
+        return key.isEmpty() ? key
+                             : bundle->findString(key, QStringLiteral("Localizable")).value_or(key);
+    };
     for (QWidget *widget : loader.created()) {
-        localize(widget, bundle);
+        const auto interface = controlInterface(widget);
+        interface->localize(localized);
         sendControlEvents(widget);
         if (widget->property(kSecretProperty).toBool())
             protectSecrets(); // it is about to be typed, or put in
-        keepToWhatCanBeKept(widget);
+        // What is pasted into a field goes into a ticket or a file of ours sooner or
+        // later. Those that say what they take replace these limits.
+        if (interface->takesText())
+            setInputLimits(widget, {});
     }
     nameByLabels(loader.created());
     return loaded.release();

@@ -31,12 +31,8 @@ private:
         if (event.kind == kelvo::EventKind::ListSelection
             || event.kind == kelvo::EventKind::ListActivated)
             line += QStringLiteral(" row %1").arg(event.row);
-        if (event.command != kelvo::kNoCommand) {
-            line += QStringLiteral(" '");
-            for (int shift = 24; shift >= 0; shift -= 8)
-                line += QChar(static_cast<char16_t>(event.command >> shift & 0xFF));
-            line += u'\'';
-        }
+        if (event.command != kelvo::kNoCommand)
+            line += QStringLiteral(" '%1'").arg(kelvo::charactersOf(event.command));
         if (event.reference != 0)
             line += QStringLiteral(" %1").arg(event.reference);
         return line;

@@ -27,7 +27,6 @@ private slots:
     void eventsOfADialogStayInTheDialog();
     void onlyTheUsersChangesAreSent();
     void aTakenHitSendsNoCommand();
-    void aControlWiredTwiceSendsOnce();
     void leavingAFieldIsToldButNotItsContextMenu();
 };
 
@@ -218,16 +217,6 @@ void TestEvents::aTakenHitSendsNoCommand()
     });
     button->click();
     QCOMPARE(log.take(), QStringList());
-}
-
-void TestEvents::aControlWiredTwiceSendsOnce()
-{
-    QPushButton button;
-    EventLog log(&button);
-    sendControlEvents(&button);
-    sendControlEvents(&button);
-    button.click();
-    QCOMPARE(log.take(), QStringList{"ControlHit"});
 }
 
 void TestEvents::leavingAFieldIsToldButNotItsContextMenu()

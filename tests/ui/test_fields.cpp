@@ -19,18 +19,14 @@ private slots:
     void typedTextBecomesAValue();
     void aWrongCharacterIsNotTakenIn_data();
     void aWrongCharacterIsNotTakenIn();
-    void aValueIsShownInTheUsersNotation_data();
-    void aValueIsShownInTheUsersNotation();
+    void theGreatestNumberIsShownExactly();
     void stepsStayInsideTheRange();
     void withoutClampingWhatWasTypedStays();
     void aStepStartsFromWhatWasTyped();
-    void aSpinFieldTellsTheUsersChangesOnly();
     void returnTakesTheTypedText();
     void aTimeKeepsTheSecondsItDoesNotShow();
-    void aTimeFieldTellsTheUsersChangesOnly();
     void okTakesWhatWasTypedLast();
     void aHistoryFieldKeepsWhatWasTyped();
-    void aHistoryFieldTellsTheUsersChangesOnly();
 };
 
 namespace {
@@ -102,24 +98,18 @@ void TestFields::aWrongCharacterIsNotTakenIn_data()
     QTest::addColumn<int>("decimals");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("left");
-    QTest::newRow("letter") << 0 << "1x2"
-                            << "12";
-    QTest::newRow("comma in a whole number") << 0 << "1,5"
-                                             << "15";
-    QTest::newRow("thousands separator") << 2 << "1.5"
-                                         << "15";
-    QTest::newRow("second comma") << 2 << "1,5,5"
-                                  << "1,55";
-    QTest::newRow("third decimal") << 2 << "1,555"
-                                   << "1,55";
-    QTest::newRow("plus where none is negative") << 0 << "+5"
-                                                 << "5";
-    QTest::newRow("minus where none is negative") << 0 << "-5"
-                                                  << "5";
-    QTest::newRow("eleventh digit") << 0 << "12345678901"
-                                    << "1234567890";
-    QTest::newRow("exponent") << 2 << "1e5"
-                              << "15";
+    const auto row = [](const char *name, int decimals, const char *typed, const char *left) {
+        QTest::newRow(name) << decimals << QString(typed) << QString(left);
+    };
+    row("letter", 0, "1x2", "12");
+    row("comma in a whole number", 0, "1,5", "15");
+    row("thousands separator", 2, "1.5", "15");
+    row("second comma", 2, "1,5,5", "1,55");
+    row("third decimal", 2, "1,555", "1,55");
+    row("plus where none is negative", 0, "+5", "5");
+    row("minus where none is negative", 0, "-5", "5");
+    row("eleventh digit", 0, "12345678901", "1234567890");
+    row("exponent", 2, "1e5", "15");
 }
 
 void TestFields::aWrongCharacterIsNotTakenIn()
@@ -135,34 +125,16 @@ void TestFields::aWrongCharacterIsNotTakenIn()
     QCOMPARE(field.text(), left);
 }
 
-void TestFields::aValueIsShownInTheUsersNotation_data()
+void TestFields::theGreatestNumberIsShownExactly()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("shown");
-    const int greatest = std::numeric_limits<int>::max();
-    QTest::newRow("no separator in thousands") << "de_DE" << 0 << 1234567 << "1234567";
-    QTest::newRow("two decimals") << "de_DE" << 2 << 1234 << "12,34";
-    QTest::newRow("six decimals, greatest") << "en_US" << 6 << greatest << "2147.483647";
-    QTest::newRow("small negative") << "en_US" << 2 << -5 << "-0.05";
-}
-
-void TestFields::aValueIsShownInTheUsersNotation()
-{
-    QFETCH(QString, locale);
-    QFETCH(int, decimals);
-    QFETCH(int, value);
-    QFETCH(QString, shown);
     SpinField field;
-    field.setMinimum(std::numeric_limits<int>::min());
     field.setMaximum(std::numeric_limits<int>::max());
-    field.setDecimals(decimals);
-    field.setValue(value);
-    field.setLocale(QLocale(locale));
-    QCOMPARE(field.text(), shown);
+    field.setDecimals(6);
+    field.setValue(std::numeric_limits<int>::max());
+    field.setLocale(QLocale(QStringLiteral("de_DE")));
+    QCOMPARE(field.text(), QStringLiteral("2147,483647"));
     field.takeTypedText(); // what it shows is what it means
-    QCOMPARE(field.value(), value);
+    QCOMPARE(field.value(), std::numeric_limits<int>::max());
 }
 
 void TestFields::stepsStayInsideTheRange()
@@ -178,6 +150,8 @@ void TestFields::stepsStayInsideTheRange()
     QTest::keyClick(&field, Qt::Key_PageUp);
     QCOMPARE(field.value(), 25);
     QCOMPARE(log.take().size(), 3);
+    field.setMaximum(20); // takes the value along, silently
+    QCOMPARE(field.value(), 20);
     QTest::keyClick(&field, Qt::Key_Up);
     QCOMPARE(log.take(), QStringList());
     field.setMinimum(std::numeric_limits<int>::min());
@@ -216,27 +190,6 @@ void TestFields::aStepStartsFromWhatWasTyped()
     QCOMPARE(log.take(), QStringList{"ControlHit"});
 }
 
-void TestFields::aSpinFieldTellsTheUsersChangesOnly()
-{
-    SpinField field;
-    EventLog log(&field);
-    field.setValue(50);
-    field.setMaximum(20);
-    QCOMPARE(field.value(), 20);
-    field.setMinimum(30); // takes the maximum along
-    QCOMPARE(field.maximum(), 30);
-    field.setMinimum(0);
-    QCOMPARE(log.take(), QStringList());
-    QVERIFY(field.choose(99));
-    QCOMPARE(field.value(), 30);
-    QVERIFY(field.choose(5));
-    QCOMPARE(log.take(), QStringList{"ControlHit"}); // 99 was 30, which it was
-    field.setEnabled(false);
-    QVERIFY(!field.choose(6));
-    QVERIFY(!field.typeText(QStringLiteral("6")));
-    QCOMPARE(field.text(), "5");
-}
-
 void TestFields::returnTakesTheTypedText()
 {
     SpinField field;
@@ -261,22 +214,10 @@ void TestFields::aTimeKeepsTheSecondsItDoesNotShow()
     field.setLocale(QLocale(QStringLiteral("en_US")));
     QVERIFY2(field.text().contains("11:04"), qPrintable(field.text()));
     QCOMPARE(field.value(), QTime(23, 4, 56));
-}
-
-void TestFields::aTimeFieldTellsTheUsersChangesOnly()
-{
-    TimeField field;
-    field.setLocale(QLocale(QStringLiteral("de_DE")));
-    EventLog log(&field);
-    field.setValue(QTime(8, 0));
-    QCOMPARE(log.take(), QStringList());
-    QVERIFY(field.choose(QTime(9, 30)));
-    QCOMPARE(log.take(), QStringList{"ControlHit"});
     QVERIFY(!field.choose(QTime()));
-    field.stepBy(1);
+    EventLog log(&field);
+    field.stepBy(-1);
     QCOMPARE(log.take(), QStringList{"ControlHit"});
-    field.setEnabled(false);
-    QVERIFY(!field.choose(QTime(1, 0)));
 }
 
 void TestFields::okTakesWhatWasTypedLast()
@@ -311,26 +252,16 @@ void TestFields::aHistoryFieldKeepsWhatWasTyped()
     field.lineEdit()->clear();
     QTest::keyClicks(&field, "first");
     QTest::keyClick(&field, Qt::Key_Return);
-    leave(&field);
-    QCOMPARE(field.text(), "first");
-    QCOMPARE(field.items().size(), 2);
-}
-
-void TestFields::aHistoryFieldTellsTheUsersChangesOnly()
-{
-    HistoryField field;
     EventLog log(&field);
-    field.appendItem(QStringLiteral("First"));
-    field.setText(QStringLiteral("x"));
-    QCOMPARE(log.take(), QStringList());
-    QTest::keyClicks(&field, "y");
-    QCOMPARE(log.take(), QStringList{"TextChanged"});
-    QVERIFY(field.chooseItem(0));
-    QCOMPARE(field.text(), "First");
-    QCOMPARE(log.take(), QStringList{"ControlHit"});
-    QVERIFY(!field.chooseItem(1));
     leave(&field);
     QCOMPARE(log.take(), QStringList{"FocusChanged"});
+    QCOMPARE(field.text(), "first");
+    QCOMPARE(field.items().size(), 2);
+
+    sendControlEvents(&field); // it sends by itself
+    QTest::keyClick(&field, Qt::Key_Down);
+    QCOMPARE(field.text(), "First");
+    QCOMPARE(log.take(), QStringList{"ControlHit"});
 }
 
 QTEST_MAIN(TestFields)

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -93,10 +94,14 @@ void TestWindowLoader::aWindowIsBuiltWiredAndLocalized()
           window(widget("QLabel", "paperLabel", text("text", "PaperLabel") + buddy)
                  + widget("PopupButton", "paperMenu",
                           dynamic("controlID", "KPDE 102") + text("toolTip", "PaperHelp"))
-                 + widget("QLineEdit", "name", text("text", "PaperHelp"))
+                 + widget("QLineEdit", "name",
+                          text("text", "PaperHelp") + text("placeholderText", "PaperHelp"))
+                 + widget("QPlainTextEdit", "notes", text("placeholderText", "PaperHelp"))
+                 + widget("QGroupBox", "box", text("title", "First"))
                  + widget("SpinField", "copies",
-                          "<property name=\"maximum\"><number>500</number></property>"
-                          "<property name=\"value\"><number>300</number></property>")
+                          text("suffix", "First")
+                              + "<property name=\"maximum\"><number>500</number></property>"
+                                "<property name=\"value\"><number>300</number></property>")
                  + widget("TabControl", "tabs",
                           "<property name=\"titles\"><stringlist><string>First</string>"
                           "<string>Second</string></stringlist></property>")
@@ -123,8 +128,13 @@ void TestWindowLoader::aWindowIsBuiltWiredAndLocalized()
     QCOMPARE(labelOf(popup), label);
     // What stands in a field is not a key.
     QCOMPARE(shown->findChild<QLineEdit *>("name")->text(), "PaperHelp");
-    // What no file of ours could hold is refused from the start.
-    QVERIFY(inputLimits(shown->findChild<QLineEdit *>("name")));
+    for (const char *field : {"name", "notes"}) {
+        auto *widget = shown->findChild<QWidget *>(field);
+        QCOMPARE(widget->property("placeholderText").toString(), "What the tray holds");
+        QVERIFY(inputLimits(widget)); // what no file of ours could hold is refused from the start
+    }
+    QCOMPARE(shown->findChild<QGroupBox *>("box")->title(), "One");
+    QCOMPARE(shown->findChild<SpinField *>("copies")->suffix(), "One");
     QCOMPARE(shown->findChild<SpinField *>("copies")->value(), 300);
     QCOMPARE(shown->findChild<TabControl *>("tabs")->titles(), (QStringList{"One", "Second"}));
 

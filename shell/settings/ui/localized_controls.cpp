@@ -1,10 +1,9 @@
 #include "localized_controls.h"
 
+#include "control_interface.h"
 #include "string_table.h"
 #include "ticket_values.h"
 
-#include <QAbstractButton>
-#include <QGroupBox>
 #include <QLabel>
 
 namespace kelvo {
@@ -28,12 +27,7 @@ QString textFor(CFBundleRef bundle, const QString &key, const QStringList &argum
 void SetLocalizedStaticText(CFBundleRef bundle, const QString &key, QLabel *control,
                             const QStringList &arguments)
 {
-    if (!bundle || key.isEmpty() || !control)
-        return;
-    control->setTextFormat(Qt::PlainText);
-    // A label shows mnemonics only while it stands for another control.
-    control->setText(
-        textFor(bundle, key, control->buddy() ? withoutMnemonics(arguments) : arguments));
+    SetLocalizedControlTitle(bundle, key, control, arguments);
 }
 
 void SetLocalizedControlTitle(CFBundleRef bundle, const QString &key, QWidget *control,
@@ -41,14 +35,9 @@ void SetLocalizedControlTitle(CFBundleRef bundle, const QString &key, QWidget *c
 {
     if (!bundle || key.isEmpty() || !control)
         return;
-    if (auto *label = qobject_cast<QLabel *>(control))
-        SetLocalizedStaticText(bundle, key, label, arguments);
-    else if (auto *button = qobject_cast<QAbstractButton *>(control))
-        button->setText(textFor(bundle, key, withoutMnemonics(arguments)));
-    else if (auto *group = qobject_cast<QGroupBox *>(control))
-        group->setTitle(textFor(bundle, key, withoutMnemonics(arguments)));
-    else // a control without a text of its own is still named for screen readers
-        control->setAccessibleName(textFor(bundle, key, arguments));
+    const auto interface = controlInterface(control);
+    interface->setTitle(textFor(
+        bundle, key, interface->showsMnemonics() ? withoutMnemonics(arguments) : arguments));
 }
 
 void SetLocalizedWindowTitle(CFBundleRef bundle, const QString &key, QWidget *window,

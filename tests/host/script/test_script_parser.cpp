@@ -47,47 +47,40 @@ void TestScriptParser::readsEveryForm_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("shape");
 
-    QTest::newRow("ID of two words") << QByteArray("click KPDE 670") << "control=KPDE 670";
-    QTest::newRow("speaking name") << QByteArray("click @aboutButton") << "control=@aboutButton";
-    QTest::newRow("negative ID") << QByteArray("click KPDE -3") << "control=KPDE -3";
-    QTest::newRow("number") << QByteArray("choose KPDE 102 6") << "control=KPDE 102|item=6";
-    QTest::newRow("negative number")
-        << QByteArray("choose @lighten -5") << "control=@lighten|item=-5";
-    QTest::newRow("code") << QByteArray("choose @a 'Kujn'") << "control=@a|item=1265986158";
-    QTest::newRow("unset") << QByteArray("choose @a unset") << "control=@a|item=unset";
-    QTest::newRow("key") << QByteArray("choose @a key SecurePrint")
-                         << "control=@a|item=key SecurePrint";
-    QTest::newRow("key with blanks") << QByteArray("choose @a key \"Save to Mailbox Command\"")
-                                     << "control=@a|item=key Save to Mailbox Command";
-    QTest::newRow("text") << QByteArray("choose @a text \"Letter (8.5 x 11 in)\"")
-                          << "control=@a|item=\"Letter (8.5 x 11 in)\"";
-    QTest::newRow("row") << QByteArray("choose @a row 3") << "control=@a|item=row 3";
-    QTest::newRow("menu item") << QByteArray("item @m 'Stp1'") << "control=@m|code=53747031";
-    QTest::newRow("menu item told apart")
-        << QByteArray("item @m 'Ssiz' 4") << "control=@m|code=5373697a|item=4";
-    QTest::newRow("state after an item") << QByteArray("expect-item @m 'Ssiz' 4 checked")
-                                         << "control=@m|code=5373697a|item=4|checked";
-    QTest::newRow("state alone") << QByteArray("expect-item @m 'Stp1' absent")
-                                 << "control=@m|code=53747031|absent";
-    QTest::newRow("escapes") << QByteArray(R"(type @t "a \"b\" \\ \n")")
-                             << "control=@t|\"a \"b\" \\ \n\"";
-    QTest::newRow("secret") << QByteArray("type @t secret pin") << "control=@t|secret|pin";
-    QTest::newRow("text called secret")
-        << QByteArray("type @t \"secret\"") << "control=@t|\"secret\"";
-    QTest::newRow("absent, and a text that says so")
-        << QByteArray("expect-ticket com.kelvo.print.X \"absent\"")
-        << "com.kelvo.print.X|\"absent\"";
-    QTest::newRow("cell") << QByteArray("expect @l cell 2 1 \"Page 3\"")
-                          << "control=@l|cell|2|1|\"Page 3\"";
-    QTest::newRow("code as a value")
-        << QByteArray("expect @a value 'Kujn'") << "control=@a|value|1265986158";
-    QTest::newRow("comment behind") << QByteArray("tab 4 # Advanced") << "4";
-    QTest::newRow("hash inside a text") << QByteArray("type @t \"#1\"") << "control=@t|\"#1\"";
-    QTest::newRow("carriage return") << QByteArray("print\r\n") << "";
-    QTest::newRow("beyond ASCII") << QByteArray("type @t \"Müller 東京\"")
-                                  << QStringLiteral("control=@t|\"Müller 東京\"");
-    QTest::newRow("time with seconds") << QByteArray("time @t 23:59:59") << "control=@t|23:59:59";
-    QTest::newRow("drag") << QByteArray("drag @p -1.5 20") << "control=@p|-1.5|20";
+    const auto row = [](const char *name, const QByteArray &text, const char *shape) {
+        QTest::newRow(name) << text << QString::fromUtf8(shape);
+    };
+    row("ID of two words", "click KPDE 670", "control=KPDE 670");
+    row("speaking name", "click @aboutButton", "control=@aboutButton");
+    row("negative ID", "click KPDE -3", "control=KPDE -3");
+    row("number", "choose KPDE 102 6", "control=KPDE 102|item=6");
+    row("negative number", "choose @lighten -5", "control=@lighten|item=-5");
+    row("code", "choose @a 'Kujn'", "control=@a|item=1265986158");
+    row("unset", "choose @a unset", "control=@a|item=unset");
+    row("key", "choose @a key SecurePrint", "control=@a|item=key SecurePrint");
+    row("key with blanks", "choose @a key \"Save to Mailbox Command\"",
+        "control=@a|item=key Save to Mailbox Command");
+    row("text", "choose @a text \"Letter (8.5 x 11 in)\"",
+        "control=@a|item=\"Letter (8.5 x 11 in)\"");
+    row("row", "choose @a row 3", "control=@a|item=row 3");
+    row("menu item", "item @m 'Stp1'", "control=@m|code=53747031");
+    row("menu item told apart", "item @m 'Ssiz' 4", "control=@m|code=5373697a|item=4");
+    row("state after an item", "expect-item @m 'Ssiz' 4 checked",
+        "control=@m|code=5373697a|item=4|checked");
+    row("state alone", "expect-item @m 'Stp1' absent", "control=@m|code=53747031|absent");
+    row("escapes", R"(type @t "a \"b\" \\ \n")", "control=@t|\"a \"b\" \\ \n\"");
+    row("secret", "type @t secret pin", "control=@t|secret|pin");
+    row("text called secret", "type @t \"secret\"", "control=@t|\"secret\"");
+    row("absent, and a text that says so", "expect-ticket com.kelvo.print.X \"absent\"",
+        "com.kelvo.print.X|\"absent\"");
+    row("cell", "expect @l cell 2 1 \"Page 3\"", "control=@l|cell|2|1|\"Page 3\"");
+    row("code as a value", "expect @a value 'Kujn'", "control=@a|value|1265986158");
+    row("comment behind", "tab 4 # Advanced", "4");
+    row("hash inside a text", "type @t \"#1\"", "control=@t|\"#1\"");
+    row("carriage return", "print\r\n", "");
+    row("beyond ASCII", "type @t \"Müller 東京\"", "control=@t|\"Müller 東京\"");
+    row("time with seconds", "time @t 23:59:59", "control=@t|23:59:59");
+    row("drag", "drag @p -1.5 20", "control=@p|-1.5|20");
 }
 
 void TestScriptParser::readsEveryForm()
@@ -107,41 +100,40 @@ void TestScriptParser::refusesWithTheLineAndTheReason_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("unknown command, near one")
-        << QByteArray("chose @a 1") << "did you mean choose?";
-    QTest::newRow("unknown command, far from all")
-        << QByteArray("xyzzy") << "there is no command \"xyzzy\"";
-    QTest::newRow("quoted command") << QByteArray("\"print\"") << "there is no command";
-    QTest::newRow("too few words") << QByteArray("choose @a") << "choose CONTROL WHAT";
-    QTest::newRow("too many words") << QByteArray("print now") << "there is too much";
-    QTest::newRow("blanks without quotes")
-        << QByteArray("expect @a text One Two") << "double quotes";
-    QTest::newRow("typed blanks without quotes")
-        << QByteArray("type @a One Two") << "double quotes";
-    QTest::newRow("open quote") << QByteArray("type @a \"One") << "not closed";
-    QTest::newRow("text glued to another") << QByteArray("type @a \"One\"Two") << "comes a blank";
-    QTest::newRow("unknown escape") << QByteArray("type @a \"\\t\"") << "no escape";
-    QTest::newRow("code of three") << QByteArray("command 'abc'") << "four characters";
-    QTest::newRow("code of five") << QByteArray("command 'abcde'") << "four characters";
-    QTest::newRow("word for a code") << QByteArray("command help") << "single quotes";
-    QTest::newRow("ID without number") << QByteArray("click KPDE") << "is no control";
-    QTest::newRow("signature of three") << QByteArray("click KPD 1") << "is no control";
-    QTest::newRow("row 0") << QByteArray("choose @a row 0") << "rows count from 1";
-    QTest::newRow("fraction for a number") << QByteArray("set @a 1.5") << "no whole number";
-    QTest::newRow("number above 32 bits") << QByteArray("set @a 2147483648") << "no whole number";
-    QTest::newRow("unknown state") << QByteArray("expect-item @m 'abcd' big") << "none of present";
-    QTest::newRow("unknown property") << QByteArray("expect @a txt 1") << "did you mean text?";
-    QTest::newRow("cell without column") << QByteArray("expect @a cell 1 x") << "a row, a column";
-    QTest::newRow("check neither on nor off") << QByteArray("check @a yes") << "none of on, off";
-    QTest::newRow("24 o'clock") << QByteArray("time @a 24:00") << "no time";
-    QTest::newRow("negative row in a selection")
-        << QByteArray("select @a 1,-2") << "no list of rows";
-    QTest::newRow("secret without name") << QByteArray("type @a secret") << "its name";
-    QTest::newRow("not UTF-8") << QByteArray("type @a \"\xff\"") << "UTF-8";
-    QTest::newRow("binary") << QByteArray("\x7f"
-                                          "ELF\0\1\2",
-                                          7)
-                            << "UTF-8";
+    const auto row = [](const char *name, const QByteArray &text, const char *reason) {
+        QTest::newRow(name) << text << QString::fromUtf8(reason);
+    };
+    row("unknown command, near one", "chose @a 1", "did you mean choose?");
+    row("unknown command, far from all", "xyzzy", "there is no command \"xyzzy\"");
+    row("quoted command", "\"print\"", "there is no command");
+    row("too few words", "choose @a", "choose CONTROL WHAT");
+    row("too many words", "print now", "there is too much");
+    row("blanks without quotes", "expect @a text One Two", "double quotes");
+    row("typed blanks without quotes", "type @a One Two", "double quotes");
+    row("open quote", "type @a \"One", "not closed");
+    row("text glued to another", "type @a \"One\"Two", "comes a blank");
+    row("unknown escape", "type @a \"\\t\"", "no escape");
+    row("code of three", "command 'abc'", "four characters");
+    row("code of five", "command 'abcde'", "four characters");
+    row("word for a code", "command help", "single quotes");
+    row("ID without number", "click KPDE", "is no control");
+    row("signature of three", "click KPD 1", "is no control");
+    row("row 0", "choose @a row 0", "rows count from 1");
+    row("fraction for a number", "set @a 1.5", "no whole number");
+    row("number above 32 bits", "set @a 2147483648", "no whole number");
+    row("unknown state", "expect-item @m 'abcd' big", "none of present");
+    row("unknown property", "expect @a txt 1", "did you mean text?");
+    row("cell without column", "expect @a cell 1 x", "a row, a column");
+    row("check neither on nor off", "check @a yes", "none of on, off");
+    row("24 o'clock", "time @a 24:00", "no time");
+    row("negative row in a selection", "select @a 1,-2", "no list of rows");
+    row("secret without name", "type @a secret", "its name");
+    row("not UTF-8", "type @a \"\xff\"", "UTF-8");
+    row("binary",
+        QByteArray("\x7f"
+                   "ELF\0\1\2",
+                   7),
+        "UTF-8");
 }
 
 void TestScriptParser::refusesWithTheLineAndTheReason()
