@@ -1,3 +1,4 @@
+#include "damaged_bundle.h"
 #include "device_session.h"
 #include "dialog_driver.h"
 #include "special_pages_context.h"
@@ -103,15 +104,6 @@ public:
             texts << data().list->cellText(row, 0) + u' ' + data().list->cellText(row, 1);
         return texts.join(QStringLiteral(" · "));
     }
-    // Edit, delete, delete all, undo, move up, move down.
-    QString enabled()
-    {
-        QString states;
-        for (const std::int32_t number : {1200, 1300, 1400, 1500, 1600, 1700})
-            states += find(number)->isEnabled() ? u'1' : u'0';
-        return states;
-    }
-
     DeviceSession session;
     QWidget pane;
     PanelOperations operations{};
@@ -129,17 +121,9 @@ private slots:
     void answersAsItsProtocolSays();
     void saysOnStandardOutputWhyItIsEmpty_data();
     void saysOnStandardOutputWhyItIsEmpty();
-    void listsPagesInTheirOrder();
-    void describesPages_data();
-    void describesPages();
-    void lastOneSelectedSaysWhetherItMoves();
-    void asksBeforeItDeletes();
-    void movesOneAfterTheOtherAndUndoesOnce();
     void carriesPagesThroughTheTicket();
     void keepsPagesAndUndoThatTheTicketHas();
     void selectsNoPageThatCameInAnothersPlace();
-    void everyAlertHasItsTexts_data();
-    void everyAlertHasItsTexts();
 };
 
 void TestSpecialPagesPanel::answersAsItsProtocolSays()
@@ -200,29 +184,15 @@ void TestSpecialPagesPanel::saysOnStandardOutputWhyItIsEmpty()
     QFETCH(QByteArray, description);
     QFETCH(QByteArray, message);
     Panel panel;
-    // A bundle of its own, with nothing but that description.
-    const QTemporaryDir folder;
-    const QString resources = folder.filePath("Test.pde/Resources/dialogs/SpecialPages");
-    QVERIFY(QDir().mkpath(resources));
-    const auto write = [](const QString &path, const QByteArray &bytes) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    };
-    write(folder.filePath("Test.pde/Info.plist"),
-          "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key><string>"
-              + folder.path().toUtf8() + "</string></dict></plist>");
-    if (!description.isNull())
-        write(resources + "/SpecialPages.ui", description);
-    const auto opened = Bundle::open(folder.filePath("Test.pde"));
-    QVERIFY(opened);
-    panel.data().bundle = opened.value();
+    const DamagedBundle damaged("SpecialPages/SpecialPages", description);
+    panel.data().bundle = damaged.bundle;
     QCOMPARE(panel.operations.Initialize(panel.context, nullptr, nullptr, &panel.pane,
                                          &panel.session.session),
              noErr);
 
     std::fflush(stdout);
     const int terminal = ::dup(STDOUT_FILENO);
-    QFile out(folder.filePath("out"));
+    QFile out(damaged.folder.filePath("out"));
     QVERIFY(out.open(QIODevice::ReadWrite));
     ::dup2(out.handle(), STDOUT_FILENO);
     const OSStatus status = panel.operations.Open(panel.context);
@@ -238,185 +208,6 @@ void TestSpecialPagesPanel::saysOnStandardOutputWhyItIsEmpty()
     QVERIFY(label && label->text().contains("SpecialPages/SpecialPages"));
     // It goes on without its pane.
     QCOMPARE(panel.sync(kSyncWrite), noErr);
-}
-
-void TestSpecialPagesPanel::listsPagesInTheirOrder()
-{
-    Panel panel;
-    panel.begin();
-    QCOMPARE(panel.rows(), QString());
-    addTo(*panel.data().inserts, insertAfter(5), insertAfter(3), insertAfter(0));
-    addTo(*panel.data().exceptions, exceptionOf(3, 5), exceptionOf(1, 1));
-    panel.data().frontCover.emplace();
-    panel.data().backCover.emplace();
-    panel.refill();
-    QCOMPARE(panel.rows(),
-             QStringLiteral("Front Cover · Before page 1 Insert · 1 Exception · 3-5 Exception"
-                            " · 3 Insert · 5 Insert · Back Cover"));
-
-    // What is selected stays so, wherever it moves to.
-    panel.select({3, 6});
-    addTo(*panel.data().inserts, insertAfter(1));
-    panel.refill();
-    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{3 - 1, 6}));
-}
-
-void TestSpecialPagesPanel::describesPages_data()
-{
-    QTest::addColumn<std::shared_ptr<SpecialPage>>("page");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, auto page, const char *text) {
-        using Page = decltype(page);
-        QTest::newRow(name) << std::shared_ptr<SpecialPage>(std::make_shared<Page>(page))
-                            << QString::fromUtf8(text);
-    };
-    const auto insertOn = [](const auto &change) {
-        Insert insert = insertAfter(2, 3);
-        change(insert.stock());
-        return insert;
-    };
-
-    Cover cover;
-    cover.stock().setSource(1);
-    row("a cover from a tray", cover, "Blank or preprinted");
-    cover.setSidesImaged(kCoverPrinted);
-    cover.stock().setSource(kUnset);
-    cover.stock().setCustomName("Card");
-    row("a printed cover of named stock", cover,
-        "Name: Card; Printed; White; No paper source: left out");
-    row("an insert", insertAfter(2, 3), "Sheets [3]");
-    row("from the inserter", insertOn([](Stock &stock) {
-            stock.setSource(kStockSourceInserter);
-            stock.setColor(kBlue);
-        }),
-        "Sheets [3]; Post-print inserter");
-    row("size, colour and type", insertOn([](Stock &stock) {
-            stock.setSize(4);
-            stock.setColor(kBlue);
-            stock.setType(kStockTypeStandard);
-        }),
-        "Sheets [3]; A4 (210 × 297 mm); Blue; Plain");
-    row("ordered, in a colour of its own", insertOn([](Stock &stock) {
-            stock.setColor(kStockColorCustom);
-            stock.setCustomColor("Teal");
-            stock.setType(kStockTypeOrdered);
-            stock.setCustomType("Maps");
-            stock.setModulus(4);
-        }),
-        "Sheets [3]; Teal; Maps (4)");
-    row("tabs", insertOn([](Stock &stock) {
-            stock.setType(kStockTypeTab);
-            stock.setModulus(5);
-        }),
-        "Sheets [3]; Tab Stock (5)");
-    row("a colour that the device does not have",
-        insertOn([](Stock &stock) { stock.setColor(4711); }), "Sheets [3]");
-
-    ExceptionPage exception = exceptionOf(1, 2);
-    row("an exception that differs in nothing", exception, "Use job setting");
-    exception.setPlex(3);
-    exception.setLightenDarken(-2);
-    row("an exception's sides and image", exception,
-        "2-sided print, flip on short edge; Lighten 2");
-    row("an exception without a last page", ExceptionPage(Dictionary{{"StartPage", 5}}),
-        "Covers no page");
-    row("an exception before page 1", ExceptionPage(Dictionary{{"SidesImaged", 1}}),
-        "1-sided print; Covers no page");
-}
-
-void TestSpecialPagesPanel::describesPages()
-{
-    QFETCH(std::shared_ptr<SpecialPage>, page);
-    Panel panel;
-    panel.begin();
-    if (dynamic_cast<const Cover *>(page.get()))
-        panel.data().frontCover.emplace(static_cast<const Cover &>(*page));
-    else if (dynamic_cast<const Insert *>(page.get()))
-        addTo(*panel.data().inserts, *page);
-    else
-        addTo(*panel.data().exceptions, *page);
-    panel.refill();
-    QTEST(panel.data().list->cellText(0, 2), "text");
-}
-
-void TestSpecialPagesPanel::lastOneSelectedSaysWhetherItMoves()
-{
-    Panel panel;
-    panel.begin();
-    QCOMPARE(panel.enabled(), QStringLiteral("000000"));
-    addTo(*panel.data().inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(4));
-    addTo(*panel.data().exceptions, exceptionOf(3, 3));
-    panel.refill(); // exception 3, three inserts
-    QCOMPARE(panel.enabled(), QStringLiteral("001000"));
-    const std::pair<std::vector<int>, const char *> selections[] = {
-        {{1}, "111000"},    {{2}, "111001"},    {{3}, "111010"},   {{4}, "111000"},
-        {{3, 4}, "011000"}, {{2, 3}, "011010"}, {{1, 2}, "011001"}};
-    for (const auto &[rows, enabled] : selections) {
-        panel.select(rows);
-        QCOMPARE(panel.enabled(), QLatin1String(enabled));
-    }
-}
-
-void TestSpecialPagesPanel::asksBeforeItDeletes()
-{
-    Panel panel;
-    panel.begin();
-    addTo(*panel.data().inserts, insertAfter(3), insertAfter(4));
-    addTo(*panel.data().exceptions, exceptionOf(5, 6));
-    panel.data().frontCover.emplace();
-    panel.refill();
-    const QString all = panel.rows();
-
-    panel.select({1, 3});
-    panel.press(1300, 1);
-    const auto text = [&panel](const char *key) {
-        return localizedText(panel.session.bundle, QLatin1String(key));
-    };
-    QCOMPARE(
-        panel.question,
-        QStringList({text("Delete Special Pages Title"), text("Delete Selected Special Pages")}));
-    QCOMPARE(panel.rows(), all);
-    QVERIFY(panel.find(1500)->isEnabled()); // saved before the question
-    panel.press(1500);
-    QCOMPARE(panel.rows(), all);
-
-    panel.select({1, 3});
-    panel.press(1300, 2);
-    QCOMPARE(panel.rows(), QStringLiteral("3 Insert · 5-6 Exception"));
-    panel.press(1400, 2);
-    QCOMPARE(panel.question.value(1), text("Delete All Special Pages"));
-    QCOMPARE(panel.rows(), QString());
-    panel.press(1500);
-    QCOMPARE(panel.rows(), QStringLiteral("3 Insert · 5-6 Exception"));
-}
-
-void TestSpecialPagesPanel::movesOneAfterTheOtherAndUndoesOnce()
-{
-    Panel panel;
-    panel.begin();
-    addTo(*panel.data().inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(3, 3));
-    panel.refill();
-    const auto quantities = [&panel] {
-        QString texts;
-        for (int i = 0; i < panel.data().inserts->count(); ++i)
-            texts += QString::number(panel.data().inserts->pageAtIndex(i)->quantity());
-        return texts;
-    };
-    panel.select({1, 2}); // the first cannot, and the second passes it
-    panel.press(1600);
-    QCOMPARE(quantities(), QStringLiteral("213"));
-    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{0, 1}));
-    panel.press(1500);
-    QCOMPARE(quantities(), QStringLiteral("123"));
-    QVERIFY(!panel.find(1500)->isEnabled());
-    panel.select({1, 2}); // each passes the other; that can be undone as well
-    panel.press(1700);
-    QCOMPARE(quantities(), QStringLiteral("123"));
-    QVERIFY(panel.find(1500)->isEnabled());
-    panel.select({2});
-    panel.press(1700);
-    QCOMPARE(quantities(), QStringLiteral("132"));
-    QCOMPARE(panel.data().list->selectedRows(), (std::vector<int>{2}));
 }
 
 void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
@@ -495,43 +286,6 @@ void TestSpecialPagesPanel::selectsNoPageThatCameInAnothersPlace()
     panel.sync(kSyncRead); // both are made anew, the back one where the front one was
     QCOMPARE(panel.rows(), QStringLiteral("Front Cover · Back Cover"));
     QVERIFY(panel.data().list->selectedRows().empty());
-}
-
-void TestSpecialPagesPanel::everyAlertHasItsTexts_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("title"); // keys; none: nothing is shown
-    QTest::addColumn<QString>("message");
-
-    const auto row = [](int code, const char *title, const char *message) {
-        QTest::addRow("%d", code) << code << title << message;
-    };
-    row(1000, "Page Number Limit Title", "Page Number Limit");
-    row(1001, "Invalid Pages Title", "Invalid Page Ranges");
-    row(1002, "Invalid Ranges Title", "Invalid Range Order");
-    row(1003, "Invalid Page Numbers Title", "Invalid Page Numbers Message");
-    row(1234, "PageRangeConflictTitle", "PageRangeConflictMessage");
-    row(1004, "", "");
-}
-
-void TestSpecialPagesPanel::everyAlertHasItsTexts()
-{
-    QFETCH(int, code);
-    QFETCH(QString, title);
-    QFETCH(QString, message);
-    const Panel panel;
-    ShownNotice shown;
-    QTimer::singleShot(0, [&shown] {
-        shown = frontNotice();
-        answerNotice(1);
-    });
-    SpecialPagesUserNotification(code, panel.session.bundle);
-    QCoreApplication::processEvents(); // the timer of what shows nothing
-    const auto text = [&panel](const QString &key) {
-        return key.isEmpty() ? QString() : localizedText(panel.session.bundle, key);
-    };
-    QCOMPARE(shown.header, text(title));
-    QCOMPARE(shown.message, text(message).replace("%1", "5")); // digits of 99999
 }
 
 QTEST_MAIN(TestSpecialPagesPanel)

@@ -1,3 +1,4 @@
+#include "damaged_bundle.h"
 #include "device_session.h"
 #include "dialog_driver.h"
 
@@ -17,10 +18,11 @@
 #include "separators_dialog.h"
 #include "stock_dialogs.h"
 #include "tab_stock_dialogs.h"
+#include "window_loader.h"
 
-#include <QDir>
+#include <QAbstractButton>
+#include <QDirIterator>
 #include <QLabel>
-#include <QTemporaryDir>
 
 using namespace kelvo;
 
@@ -122,34 +124,6 @@ const DialogRow kDialogs[] = {
      }},
 };
 
-void write(const QString &path, const QByteArray &bytes)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-// The real bundle's texts, and of its windows the one whose description is given.
-struct DamagedBundle
-{
-    // `description` null: there is none.
-    DamagedBundle(const QString &window, const QByteArray &description)
-    {
-        const QString resources = folder.filePath("Test.pde/Resources");
-        write(folder.filePath("Test.pde/Info.plist"),
-              "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key><string>"
-                  + folder.path().toUtf8() + "</string></dict></plist>");
-        QDir().mkpath(resources);
-        QFile::link(KELVO_BUILD_DIR "/lib/KelvoPDE.pde/Resources/strings", resources + "/strings");
-        if (!description.isNull())
-            write(resources + "/dialogs/" + window + ".ui", description);
-        const auto opened = Bundle::open(folder.filePath("Test.pde"));
-        bundle = opened ? opened.value() : nullptr;
-    }
-    QTemporaryDir folder;
-    CFBundleRef bundle = nullptr;
-};
-
 const QByteArray kButtonAlone =
     "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">"
     "<widget class=\"QPushButton\" name=\"okButton\"><property name=\"command\" stdset=\"0\">"
@@ -157,19 +131,65 @@ const QByteArray kButtonAlone =
 
 } // namespace
 
-// A file of the installation is missing or damaged: no button does nothing.
-class TestMissingWindows : public QObject
+// The windows of the panels, and what is said where one is missing or damaged: no button
+// does nothing.
+class TestWindows : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void windowsCanBeUsedWithoutAMouse_data();
+    void windowsCanBeUsedWithoutAMouse();
     void aDialogThatCannotBeMadeSaysSo_data();
     void aDialogThatCannotBeMadeSaysSo();
     void aPanelThatCannotBeMadeSaysSo_data();
     void aPanelThatCannotBeMadeSaysSo();
 };
 
-void TestMissingWindows::aDialogThatCannotBeMadeSaysSo_data()
+// Every window of the bundle.
+void TestWindows::windowsCanBeUsedWithoutAMouse_data()
+{
+    QTest::addColumn<QString>("description");
+    QTest::addColumn<QString>("window");
+
+    QDirIterator files(KELVO_SOURCE_DIR "/resources/dialogs", {"*.ui"}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QFileInfo file(files.next());
+        QTest::addRow("%s", qPrintable(file.completeBaseName()))
+            << file.dir().dirName() << file.completeBaseName();
+    }
+}
+
+void TestWindows::windowsCanBeUsedWithoutAMouse()
+{
+    QFETCH(QString, description);
+    QFETCH(QString, window);
+    const DeviceSession device("full");
+    const auto loaded = createWindowFromDescription(device.bundle, description, window);
+    QVERIFY2(loaded, qPrintable(loaded.reason()));
+    const std::unique_ptr<QWidget> content(loaded.value());
+
+    const QString page = content->property("helpPage").toString();
+    if (!page.isEmpty())
+        QVERIFY2(QFile::exists(device.bundle->resourcesPath() + "/help/" + page), qPrintable(page));
+    QSet<QChar> mnemonics;
+    for (QWidget *control : content->findChildren<QWidget *>()) {
+        if (control->focusPolicy() != Qt::NoFocus && controlIDOf(control)
+            && !qobject_cast<QAbstractButton *>(control))
+            QVERIFY2(!control->accessibleName().isEmpty(), qPrintable(control->objectName()));
+        const QString text = control->property("text").toString();
+        QVERIFY2(!text.contains(QLatin1String("Command")), qPrintable(text)); // a key
+        const qsizetype at = text.indexOf(u'&');
+        if (at < 0)
+            continue;
+        const QChar letter = text[at + 1].toLower();
+        QVERIFY2(!mnemonics.contains(letter), qPrintable(text));
+        mnemonics.insert(letter);
+    }
+}
+
+void TestWindows::aDialogThatCannotBeMadeSaysSo_data()
 {
     QTest::addColumn<int>("dialog");
     QTest::addColumn<QByteArray>("description");
@@ -185,7 +205,7 @@ void TestMissingWindows::aDialogThatCannotBeMadeSaysSo_data()
     }
 }
 
-void TestMissingWindows::aDialogThatCannotBeMadeSaysSo()
+void TestWindows::aDialogThatCannotBeMadeSaysSo()
 {
     QFETCH(int, dialog);
     QFETCH(QByteArray, description);
@@ -204,7 +224,7 @@ void TestMissingWindows::aDialogThatCannotBeMadeSaysSo()
     QCOMPARE(settings.result, DialogResult::Cancel);
 }
 
-void TestMissingWindows::aPanelThatCannotBeMadeSaysSo_data()
+void TestWindows::aPanelThatCannotBeMadeSaysSo_data()
 {
     QTest::addColumn<QByteArray>("description");
     QTest::addColumn<QString>("reason");
@@ -221,7 +241,7 @@ void TestMissingWindows::aPanelThatCannotBeMadeSaysSo_data()
     QTest::newRow("one that is there") << with("PopupButton") << "needs: KPDE 1103";
 }
 
-void TestMissingWindows::aPanelThatCannotBeMadeSaysSo()
+void TestWindows::aPanelThatCannotBeMadeSaysSo()
 {
     QFETCH(QByteArray, description);
     QFETCH(QString, reason);
@@ -239,5 +259,5 @@ void TestMissingWindows::aPanelThatCannotBeMadeSaysSo()
         QVERIFY2(label->text().contains(words), qPrintable(label->text()));
 }
 
-QTEST_MAIN(TestMissingWindows)
-#include "test_missing_windows.moc"
+QTEST_MAIN(TestWindows)
+#include "test_windows.moc"
