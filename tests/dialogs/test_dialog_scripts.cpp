@@ -15,6 +15,8 @@ private slots:
     void goesAsWritten_data();
     void goesAsWritten();
     void aLibraryThatCannotBeKeptNamesItsFile();
+    void aDialogThatCannotBeMadeSaysSo_data();
+    void aDialogThatCannotBeMadeSaysSo();
 };
 
 void TestDialogScripts::goesAsWritten_data()
@@ -59,6 +61,63 @@ void TestDialogScripts::aLibraryThatCannotBeKeptNamesItsFile()
           "expect-notice \"/dev/null/kelvo/com.kelvo.print.stocks.plist\"\nanswer 1\n"
           "cancel\ncancel\n");
     QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
+}
+
+// Every window that a button of the panels opens.
+void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
+{
+    QTest::addColumn<QByteArray>("lines"); // that open it
+    QTest::addColumn<int>("open");         // dialogs behind it
+    const QByteArray advanced = "item @stockButton 'Sadv'\n";
+    const QByteArray insert = "panel SpecialPages\nclick @addInserts\n";
+    const QByteArray exception = "panel SpecialPages\nclick @addExceptions\n";
+    const auto row = [](const char *window, const QByteArray &lines, int open = 0) {
+        QTest::newRow(window) << lines << open;
+    };
+    row("JobTypes/SecurePrint", "choose @jobType key SecurePrint");
+    row("JobTypes/DelayedPrint", "choose @jobType key DelayedPrint");
+    row("JobTypes/SavedJob", "choose @jobType key \"Save to Mailbox Command\"");
+    row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
+    row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
+    row("FinishingDialogs/CustomFinishing", "item @moreFinishing 'Fcus'");
+    row("Separators/Separators", "click @separatorsButton");
+    row("SpecialPages/Basic Covers", "click @coversButton");
+    row("SpecialPages/Basic Inserts", insert);
+    row("SpecialPages/Basic Exceptions", exception);
+    row("StockTypeSetupDialogs/TabStockSetup",
+        exception + "item @exceptionStockButton 'Styp' key TabStock", 1);
+    row("CustomStockSize/CustomStockSize", insert + "item @insertStockButton 'Ssiz' key Custom", 1);
+    row("AdvancedStockSelection/AdvancedStockSelection", advanced);
+    row("AdvancedStockSelection/SaveInLibrary", advanced + "click @saveInLibrary", 1);
+    row("StockDescription/StockDescription", advanced + "click @advancedStockDescription", 1);
+    row("StockType/StockType", advanced + "click @advancedStockType", 1);
+    row("PreCutTabStockSetup/PreCutTabStockSetup",
+        advanced + "click @advancedStockType\nchoose @stockType 6\nclick @stockTabs", 2);
+}
+
+void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
+{
+    QFETCH(QByteArray, lines);
+    QFETCH(int, open);
+    Desk desk;
+    const QString bundle = desk.path("KelvoPDE.pde");
+    QCOMPARE(QProcess::execute("cp", {"-rs", KELVO_BUILD_DIR "/lib/KelvoPDE.pde", bundle}), 0);
+    desk.set("KELVO_BUNDLE", bundle);
+    const QByteArray window = QTest::currentDataTag();
+    const QString description = bundle + "/Resources/dialogs/" + window + ".ui";
+    QVERIFY(QFile::remove(description)); // the link
+    for (const auto &[damage, reason] :
+         {std::pair("", "no such window description"),
+          {"<ui", ".ui"},
+          {"<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"/></ui>",
+           "lacks controls that the window needs: KPDE "}}) {
+        if (*damage)
+            write(description, damage);
+        write(desk.path("s.kps"),
+              lines + "\nexpect-notice \"" + window + "\"\nexpect-notice \"" + reason
+                  + "\"\nanswer 1\n" + QByteArray("cancel\n").repeated(open));
+        QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestDialogScripts)

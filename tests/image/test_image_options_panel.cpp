@@ -90,15 +90,10 @@ class TestImageOptionsPanel : public QObject
 
 private slots:
     void answersAsEveryPanel();
-    void sliderAndFieldFollowEachOther();
     void leavesLightnessToThePrinter();
     void readsInATicketThatThePrinterDecides();
-    void takesWhatIsTypedWhenAnotherControlIsUsed();
-    void showsWhatEachChoiceDoes();
     void writesBackWhatItRead();
     void keepsANegativeOfTheTicket();
-    void disablesWhatTheDeviceLacks_data();
-    void disablesWhatTheDeviceLacks();
     void invertsWhereAWindowHasTheControls_data();
     void invertsWhereAWindowHasTheControls();
 };
@@ -132,25 +127,6 @@ void TestImageOptionsPanel::answersAsEveryPanel()
     QCOMPARE(panel.find<SpinField>(1104), field);
     QCOMPARE(panel.find<QLabel>(1106)->text(), QStringLiteral("-5"));
     QCOMPARE(panel.find<QLabel>(1108)->text(), QStringLiteral("+5"));
-}
-
-void TestImageOptionsPanel::sliderAndFieldFollowEachOther()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    auto *slider = panel.find<QSlider>(1102);
-    auto *field = panel.find<SpinField>(1104);
-    expectDone(inspector::set(slider, -3));
-    QCOMPARE(field->value(), -3);
-    QCOMPARE(panel.picture(1103), QStringList("ImageOptions_LightenDarken_Lighten3"));
-    QCOMPARE(panel.find<QLabel>(1105)->text(), QStringLiteral("Lighten 3"));
-    QTest::keyClick(slider, Qt::Key_Home);
-    QCOMPARE(field->value(), -5);
-    QVERIFY(field->choose(5));
-    QCOMPARE(slider->value(), 5);
-    QVERIFY(!inspector::set(slider, 6)->text.isEmpty());
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QStringLiteral("Darken5"));
 }
 
 void TestImageOptionsPanel::leavesLightnessToThePrinter()
@@ -232,50 +208,6 @@ void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
     QVERIFY(ticket.entries.size() == written.entries.size() - 1);
 }
 
-void TestImageOptionsPanel::takesWhatIsTypedWhenAnotherControlIsUsed()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    auto *field = panel.find<SpinField>(1104);
-    QVERIFY(field->typeText(QStringLiteral("4")));
-    panel.find<QCheckBox>(2103)->click();
-    QCOMPARE(field->value(), 4);
-    QVERIFY(panel.find<QCheckBox>(2103)->isChecked());
-    QVERIFY(field->typeText(QStringLiteral("2")));
-    expectDone(inspector::set(panel.find<QSlider>(1102), -1));
-    QCOMPARE(field->value(), -1);
-}
-
-void TestImageOptionsPanel::showsWhatEachChoiceDoes()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    const auto choose = [&](std::int32_t popup, std::int32_t value) {
-        auto *control = panel.find<PopupButton>(popup);
-        for (int row = 1; row <= control->maximum(); ++row) {
-            if (control->menu().items[static_cast<std::size_t>(row) - 1].reference == value)
-                return control->choose(row);
-        }
-        return false;
-    };
-    QVERIFY(choose(1202, 6));
-    QCOMPARE(panel.picture(1203), QStringList("ImageOptions_ImgQual_Enhanced"));
-    QVERIFY(choose(2002, 6)); // "Standard" corrects nothing
-    QCOMPARE(panel.picture(2003), QStringList());
-    QVERIFY(choose(2002, 4));
-    QCOMPARE(panel.picture(2003), QStringList("ImageOptions_ColorCorrection_OutputColor"));
-    panel.find<QCheckBox>(1302)->click();
-    QCOMPARE(panel.picture(1303), QStringList("ImageOptions_TonerSaver_On"));
-    panel.find<QCheckBox>(2103)->click();
-    QCOMPARE(panel.picture(2104), QStringList("ImageOptions_InvertImage_Mirror"));
-
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    for (const auto &[option, choice] : {std::pair("KVOutputMode", "HighResolution"),
-                                         {"KVColorCorrection", "PressMatch"},
-                                         {"KVEconomode", "Draft"}})
-        QCOMPARE(panel.session.choice(option), choice);
-}
-
 void TestImageOptionsPanel::writesBackWhatItRead()
 {
     Panel panel(QStringLiteral("full"));
@@ -326,24 +258,6 @@ void TestImageOptionsPanel::keepsANegativeOfTheTicket()
     QCOMPARE(panel.sync(kSyncRead), noErr);
     QVERIFY(!mirror->isChecked());
     QVERIFY(!panel.find<QLabel>(2105)->text().contains(QStringLiteral("negative")));
-}
-
-void TestImageOptionsPanel::disablesWhatTheDeviceLacks_data()
-{
-    QTest::addColumn<QString>("enabled");
-    QTest::newRow("full") << "111111111";
-    QTest::newRow("bare") << "111100001";
-    QTest::newRow("") << "000000001"; // no PPD
-}
-
-void TestImageOptionsPanel::disablesWhatTheDeviceLacks()
-{
-    QFETCH(QString, enabled);
-    Panel panel(QString::fromLatin1(QTest::currentDataTag()));
-    panel.begin();
-    QCOMPARE(panel.enabled({1102, 1109, 1202, 1302, 1901, 1902, 2001, 2002, 2103}), enabled);
-    QCOMPARE(panel.find<QLabel>(1904)->text() == QLatin1String("This device does not offer it."),
-             !enabled.startsWith(QLatin1String("11111")));
 }
 
 void TestImageOptionsPanel::invertsWhereAWindowHasTheControls_data()

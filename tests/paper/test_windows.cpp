@@ -1,128 +1,19 @@
 #include "damaged_bundle.h"
 #include "device_session.h"
-#include "dialog_driver.h"
 
-#include "covers_dialog.h"
-#include "custom_stock_size_dialog.h"
-#include "delayed_print_dialog.h"
-#include "dialog_window.h"
-#include "exceptions_dialog.h"
-#include "finishing_dialogs.h"
-#include "inserts_dialog.h"
+#include "control.h"
 #include "panel_content.h"
-#include "paper_output_settings.h"
 #include "popup_button.h"
-#include "save_stock_dialog.h"
-#include "saved_job_dialog.h"
-#include "secure_print_dialog.h"
-#include "separators_dialog.h"
-#include "stock_dialogs.h"
-#include "tab_stock_dialogs.h"
 #include "window_loader.h"
 
 #include <QAbstractButton>
 #include <QDirIterator>
 #include <QLabel>
+#include <QTest>
 
 using namespace kelvo;
 
 namespace {
-
-// What a dialog works on, and must leave alone.
-struct Settings
-{
-    PaperOutputSettings context;
-    Stock stock;
-    std::int32_t number = kUnset, other = kUnset;
-    LongDateTime time = 0;
-    std::optional<QString> passcode;
-    SavedJobData savedJob;
-    _IS_Options shift;
-    std::optional<Cover> front, back;
-    InsertList inserts;
-    ExceptionPageList exceptions;
-    DialogResult result = DialogResult::Cancel;
-};
-
-using Run = OSStatus (*)(CFBundleRef, Settings &);
-struct DialogRow
-{
-    const char *window; // description/window
-    Run run;
-};
-
-// Every window of the panels that a button opens.
-const DialogRow kDialogs[] = {
-    {"JobTypes/SecurePrint",
-     [](CFBundleRef bundle, Settings &s) { return RunModalSecurePrintSetup(bundle, &s.passcode); }},
-    {"JobTypes/DelayedPrint",
-     [](CFBundleRef bundle, Settings &s) { return RunModalDelayedPrintSetup(bundle, &s.time); }},
-    {"JobTypes/SavedJob",
-     [](CFBundleRef bundle, Settings &s) { return RunModalSavedJobDialog(bundle, &s.savedJob); }},
-    {"FinishingDialogs/ChoiceDialog",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModal1StapleFinishingDialog(bundle, &s.context, &s.result);
-     }},
-    {"FinishingDialogs/OffsetDialog",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalOffsetFinishingDialog(bundle, &s.context, &s.result);
-     }},
-    {"FinishingDialogs/CustomFinishing",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalCustomFinishingDialog(bundle, &s.context, &s.result);
-     }},
-    {"Separators/Separators",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalSeparatorsDialog(bundle, &s.number, &s.stock, &s.result);
-     }},
-    {"CustomStockSize/CustomStockSize",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalCustomStockSizeDialog(bundle, &s.result, &s.number, &s.other);
-     }},
-    {"StockDescription/StockDescription",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalStockDescriptionSetup(bundle, kDialogModeEdit, kJobContextJob, &s.stock,
-                                              &s.result);
-     }},
-    {"StockType/StockType",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalStockTypeSetup(bundle, kDialogModeEdit, kJobContextJob, &s.stock,
-                                       &s.result);
-     }},
-    {"AdvancedStockSelection/AdvancedStockSelection",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalAdvancedStockSelection(bundle, kDialogModeEdit, kJobContextJob,
-                                               kNamedPaperLibrary, &s.stock, &s.result);
-     }},
-    {"AdvancedStockSelection/SaveInLibrary",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalSaveStock(bundle, s.stock, {}, nullptr) ? noErr : kWindowNotMade;
-     }},
-    {"StockTypeSetupDialogs/TabStockSetup",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalTabStockSetupDialog(bundle, &s.stock, &s.shift, &s.result);
-     }},
-    {"PreCutTabStockSetup/PreCutTabStockSetup",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalPreCutTabStockSetup(bundle, kDialogModeEdit, kJobContextJob, &s.stock,
-                                            &s.result);
-     }},
-    {"SpecialPages/Basic Covers",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalCoversDialog(bundle, kDialogModeAdd, &s.stock, &s.front, &s.back,
-                                     &s.result);
-     }},
-    {"SpecialPages/Basic Inserts",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalInsertsDialog(bundle, kDialogModeAdd, &s.stock, &s.inserts, nullptr,
-                                      &s.result);
-     }},
-    {"SpecialPages/Basic Exceptions",
-     [](CFBundleRef bundle, Settings &s) {
-         return RunModalExceptionsDialog(bundle, kDialogModeAdd, &s.stock, 0, &s.exceptions,
-                                         nullptr, &s.result);
-     }},
-};
 
 const QByteArray kButtonAlone =
     "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">"
@@ -140,8 +31,6 @@ class TestWindows : public QObject
 private slots:
     void windowsCanBeUsedWithoutAMouse_data();
     void windowsCanBeUsedWithoutAMouse();
-    void aDialogThatCannotBeMadeSaysSo_data();
-    void aDialogThatCannotBeMadeSaysSo();
     void aPanelThatCannotBeMadeSaysSo_data();
     void aPanelThatCannotBeMadeSaysSo();
 };
@@ -187,41 +76,6 @@ void TestWindows::windowsCanBeUsedWithoutAMouse()
         QVERIFY2(!mnemonics.contains(letter), qPrintable(text));
         mnemonics.insert(letter);
     }
-}
-
-void TestWindows::aDialogThatCannotBeMadeSaysSo_data()
-{
-    QTest::addColumn<int>("dialog");
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<QByteArray>("reason");
-
-    for (int i = 0; i < int(std::size(kDialogs)); ++i) {
-        const char *window = kDialogs[i].window;
-        QTest::addRow("%s, missing", window)
-            << i << QByteArray() << QByteArray("no such window description");
-        QTest::addRow("%s, cut off", window) << i << QByteArray("<ui") << QByteArray(".ui");
-        QTest::addRow("%s, another's", window)
-            << i << kButtonAlone << QByteArray("lacks controls that the window needs: KPDE ");
-    }
-}
-
-void TestWindows::aDialogThatCannotBeMadeSaysSo()
-{
-    QFETCH(int, dialog);
-    QFETCH(QByteArray, description);
-    QFETCH(QByteArray, reason);
-    const DialogRow &row = kDialogs[dialog];
-    const DeviceSession device("full");
-    const DamagedBundle damaged(QString::fromLatin1(row.window), description);
-    QVERIFY(damaged.bundle);
-    Settings settings;
-    const DialogDriver driver({[&row] {
-                                   QVERIFY2(frontNotice().message.contains(row.window),
-                                            qPrintable(frontNotice().message));
-                               },
-                               answerNoticeWith(reason.constData())});
-    QCOMPARE(row.run(damaged.bundle, settings), kWindowNotMade);
-    QCOMPARE(settings.result, DialogResult::Cancel);
 }
 
 void TestWindows::aPanelThatCannotBeMadeSaysSo_data()

@@ -57,8 +57,6 @@ private slots:
     void keepsTheNewestTexts();
     void keepsWhatIsNoText();
     void savesWhatIsNewOnly();
-    void setsADamagedHistoryAside();
-    void losesNothingOfSeveralDialogs();
     void offersValidItemsOnly_data();
     void offersValidItemsOnly();
     void keepsNumbersInTheirRange();
@@ -187,39 +185,6 @@ void TestPreferences::savesWhatIsNewOnly()
     QVERIFY(saveHistory(key, "old", 5));
     QCOMPARE(bytesOf(preferencePath(kInputHistoryFile)), before);
     QCOMPARE(readHistory(key), QStringList({"newer", "old"}));
-}
-
-void TestPreferences::setsADamagedHistoryAside()
-{
-    putFile(preferencePath(kInputHistoryFile), "damaged");
-    QCOMPARE(readHistory(key), QStringList());
-    const StandardError captured;
-    QVERIFY(saveHistory(key, "new", 5));
-    QCOMPARE(readHistory(key), QStringList{"new"});
-    QCOMPARE(bytesOf(preferencePath(kInputHistoryFile) + ".damaged-1"), QByteArray("damaged"));
-
-    // Entries that are no texts are not offered.
-    WriteUserPreferences(kInputHistoryFile, {{key, QVariantList{"a", 3, QVariantList(), "b"}}});
-    QCOMPARE(readHistory(key), QStringList({"a", "b"}));
-    WriteUserPreferences(kInputHistoryFile, {{key, "a"}});
-    QCOMPARE(readHistory(key), QStringList());
-}
-
-void TestPreferences::losesNothingOfSeveralDialogs()
-{
-    constexpr int dialogs = 3;
-    constexpr int texts = 15; // of each
-    QProcess processes[dialogs];
-    for (int i = 0; i < dialogs; ++i)
-        processes[i].start(QCoreApplication::applicationFilePath(),
-                           {"--save", QString::number(i), QString::number(texts)});
-    for (QProcess &process : processes) {
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitCode(), 0);
-    }
-    const QStringList saved = readHistory(key);
-    QCOMPARE(saved.size(), dialogs * texts);
-    QCOMPARE(QSet<QString>(saved.begin(), saved.end()).size(), dialogs * texts);
 }
 
 void TestPreferences::offersValidItemsOnly_data()

@@ -28,8 +28,6 @@ private slots:
     void init();
     void carryTheTicketWhoseHashTheyName();
     void neverRepeatATicket();
-    void replaceOlderTickets_data();
-    void replaceOlderTickets();
     void takeOlderTicketsOutWhereverTheyHang_data();
     void takeOlderTicketsOutWhereverTheyHang();
     void leaveNothingOfEarlierRevisions_data();
@@ -144,34 +142,6 @@ void TestPreparedJobs::neverRepeatATicket()
     const auto other = prepareJob(wanted);
     QVERIFY(one && other);
     QVERIFY(one.value().ticketSha256 != other.value().ticketSha256);
-}
-
-void TestPreparedJobs::replaceOlderTickets_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("same name") << "kelvo-ticket.plist";
-    QTest::newRow("under another key") << "zzz (kelvo-ticket.plist)";
-    QTest::newRow("of another file name") << "kelvo-ticket.plist (zzz)";
-    QTest::newRow("in another case") << "Kelvo-Ticket.PLIST";
-}
-
-void TestPreparedJobs::replaceOlderTickets()
-{
-    QFETCH(QString, name);
-    const QMap<QString, QByteArray> older{{name, "older"}, {"notes.txt", "mine"}};
-    const auto job = prepareJob(request(reads, 3, older));
-    QVERIFY2(job, qPrintable(job.reason()));
-    QCOMPARE(attachmentsOf(job.value().pdfPath),
-             (QMap<QString, QByteArray>{{"kelvo-ticket.plist", job.value().ticket},
-                                        {"notes.txt", "mine"}}));
-    QVERIFY(!bytesOf(job.value().pdfPath).contains("older"));
-
-    // A queue that reads none gets none, also not the older one.
-    JobRequest open = request(readsNot, 3, older);
-    open.ticket.printSettings.entries.clear();
-    const auto plain = prepareJob(open);
-    QVERIFY2(plain, qPrintable(plain.reason()));
-    QCOMPARE(attachmentsOf(plain.value().pdfPath).keys(), QStringList{"notes.txt"});
 }
 
 // Objects 1 to 3 are the catalog, the page tree and the page; each form adds what it
