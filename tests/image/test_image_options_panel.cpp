@@ -60,20 +60,6 @@ public:
     {
         return findControl<T>(&pane, {kPanelSignature, number});
     }
-    QStringList picture(std::int32_t number)
-    {
-        QStringList names;
-        for (const QString &file : find<PictureView>(number)->pictures())
-            names << QFileInfo(file).completeBaseName();
-        return names;
-    }
-    QString enabled(const QList<std::int32_t> &numbers)
-    {
-        QString states;
-        for (const std::int32_t number : numbers)
-            states += find<QWidget>(number)->isEnabled() ? u'1' : u'0';
-        return states;
-    }
 
     DeviceSession session;
     QWidget pane;
@@ -90,10 +76,7 @@ class TestImageOptionsPanel : public QObject
 
 private slots:
     void answersAsEveryPanel();
-    void leavesLightnessToThePrinter();
     void readsInATicketThatThePrinterDecides();
-    void writesBackWhatItRead();
-    void keepsANegativeOfTheTicket();
     void invertsWhereAWindowHasTheControls_data();
     void invertsWhereAWindowHasTheControls();
 };
@@ -129,57 +112,6 @@ void TestImageOptionsPanel::answersAsEveryPanel()
     QCOMPARE(panel.find<QLabel>(1108)->text(), QStringLiteral("+5"));
 }
 
-void TestImageOptionsPanel::leavesLightnessToThePrinter()
-{
-    const QList<std::int32_t> parts = {1101, 1102, 1103, 1104, 1106, 1107, 1108};
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    auto *printerDefault = panel.find<QCheckBox>(1109);
-    PPDDictionary &ticket = *PMTicketGetPPDDict(panel.session.settings());
-    const QString option = QStringLiteral("KVImageQuality");
-    const QString usual = QStringLiteral("The printer’s default is “Normal”.");
-    QCOMPARE(panel.sync(kSyncWrite), noErr); // as the dialog does when it begins
-    QCOMPARE(ticket.value(option), QStringLiteral("Normal"));
-    printerDefault->click();
-    QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
-    QCOMPARE(panel.find<QLabel>(1105)->text(), usual);
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QVERIFY(!ticket.contains(option));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(printerDefault->isChecked());
-    QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
-
-    // What was set in the panel goes as well.
-    printerDefault->click();
-    QCOMPARE(panel.enabled(parts), QStringLiteral("1111111"));
-    panel.find<SpinField>(1104)->choose(2);
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(ticket.value(option), QStringLiteral("Darken2"));
-    printerDefault->click();
-    QCOMPARE(panel.find<QLabel>(1105)->text(), usual);
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QVERIFY(!ticket.contains(option));
-
-    // What came from elsewhere stays, and the panel does not hide it.
-    ticket.insert(option, QStringLiteral("Darken2"));
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(ticket.value(option), QStringLiteral("Darken2"));
-    printerDefault->click(); // a lightness
-    printerDefault->click(); // and none again
-    QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Darken 2")));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(!printerDefault->isChecked());
-    QCOMPARE(panel.find<QSlider>(1102)->value(), 2);
-
-    // Also what no step stands for.
-    ticket.insert(option, QStringLiteral("Pale"));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(printerDefault->isChecked());
-    QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Pale")));
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(ticket.value(option), QStringLiteral("Pale"));
-}
-
 // A preset of such a job, or a ticket, in a dialog that begins with it.
 void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
 {
@@ -206,58 +138,6 @@ void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
     QVERIFY(!printerDefault->isChecked());
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QVERIFY(ticket.entries.size() == written.entries.size() - 1);
-}
-
-void TestImageOptionsPanel::writesBackWhatItRead()
-{
-    Panel panel(QStringLiteral("full"));
-    PMTicketGetPPDDict(panel.session.settings())->insert("KVOutputMode", "Enhanced");
-    panel.begin();
-    QCOMPARE(*PMTicketGetPPDDict(panel.session.settings()),
-             (PPDDictionary{{"KVOutputMode", "Enhanced"},
-                            {"KVCMYKColorSpace", "EuroScale"},
-                            {"KVColorCorrection", "Auto"}}));
-    // A choice that this panel cannot show stays as it is.
-    PMTicketGetPPDDict(panel.session.settings())->insert("KVOutputMode", "Best");
-    PMTicketGetPPDDict(panel.session.settings())->insert("KVEconomode", "Deep");
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QCOMPARE(panel.find<PopupButton>(1202)->value(), 0);
-    QCOMPARE(panel.picture(1203), QStringList());
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVOutputMode")), QStringLiteral("Best"));
-    QCOMPARE(panel.session.choice(QStringLiteral("KVEconomode")), QStringLiteral("Deep"));
-    auto *tonerSaver = panel.find<QCheckBox>(1302);
-    tonerSaver->click();
-    tonerSaver->click();
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVEconomode")), QStringLiteral("None"));
-}
-
-void TestImageOptionsPanel::keepsANegativeOfTheTicket()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    const PMTicketRef ticket = panel.session.settings();
-    QVERIFY(!PMTicketGetCFDictionary(ticket, kInvertKey)); // reading writes none
-    PMTicketSetCFDictionary(ticket, QStringLiteral("test"), kInvertKey,
-                            {{"NegativeImage", 1}, {"MirrorImage", 1}});
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    auto *mirror = panel.find<QCheckBox>(2103);
-    QVERIFY(mirror->isChecked());
-    QCOMPARE(panel.picture(2104), QStringList("ImageOptions_InvertImage_Off"));
-    QVERIFY(panel.find<QLabel>(2105)->text().contains(QStringLiteral("negative")));
-    mirror->click();
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(PMTicketGetCFDictionary(ticket, kInvertKey),
-             (Dictionary{{"NegativeImage", qint64(1)}, {"MirrorImage", qint64(0)}}));
-    QCOMPARE(panel.session.session.printSettings().entries.at(kInvertKey).client,
-             QStringLiteral("K"));
-
-    PMTicketReleaseItem(ticket, kInvertKey);
-    mirror->click();
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(!mirror->isChecked());
-    QVERIFY(!panel.find<QLabel>(2105)->text().contains(QStringLiteral("negative")));
 }
 
 void TestImageOptionsPanel::invertsWhereAWindowHasTheControls_data()

@@ -26,15 +26,6 @@ Insert insertAfter(std::int32_t page, std::int32_t quantity = 1)
     return insert;
 }
 
-ExceptionPage exceptionOf(std::int32_t first, std::int32_t last)
-{
-    ExceptionPage page;
-    page.stock().setColor(kUnset);
-    page.setStartPage(first);
-    page.setEndPage(last);
-    return page;
-}
-
 template <typename... Page>
 void addTo(SpecialPageList &list, const Page &...page)
 {
@@ -121,7 +112,6 @@ private slots:
     void answersAsItsProtocolSays();
     void saysOnStandardOutputWhyItIsEmpty_data();
     void saysOnStandardOutputWhyItIsEmpty();
-    void carriesPagesThroughTheTicket();
     void keepsPagesAndUndoThatTheTicketHas();
     void selectsNoPageThatCameInAnothersPlace();
 };
@@ -208,50 +198,6 @@ void TestSpecialPagesPanel::saysOnStandardOutputWhyItIsEmpty()
     QVERIFY(label && label->text().contains("SpecialPages/SpecialPages"));
     // It goes on without its pane.
     QCOMPARE(panel.sync(kSyncWrite), noErr);
-}
-
-void TestSpecialPagesPanel::carriesPagesThroughTheTicket()
-{
-    const QString insertsKey = ticketKey("SpecialPages.InsertList");
-    const QString exceptionsKey = ticketKey("SpecialPages.ExceptionList");
-    Panel panel;
-    panel.begin();
-    const PMTicketRef ticket = panel.session.settings();
-    addTo(*panel.data().inserts, insertAfter(3, 2));
-    addTo(*panel.data().exceptions, exceptionOf(5, 6));
-    panel.data().frontCover.emplace();
-    panel.data().frontCover->stock().setSource(2);
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice("KVFrontCoverSheet"), QStringLiteral("Tray2"));
-    QCOMPARE(panel.session.choice("KVBackCoverSheet"), QStringLiteral("None"));
-    const auto inserts = PMTicketGetCFArray(ticket, insertsKey);
-    QVERIFY(inserts && PMTicketGetCFArray(ticket, exceptionsKey));
-    QCOMPARE(inserts->first().toMap().value("Quantity"), QVariant(qint64(2)));
-
-    // Another ticket, with what nobody checked in it.
-    Array others{*inserts, 7, Dictionary{{"StartPage", 1}}, *inserts};
-    others.pop_front();
-    others.push_back(insertAfter(9).asTicket());
-    PMTicketSetCFArray(ticket, "test", insertsKey, others);
-    PMTicketReleaseItem(ticket, exceptionsKey);
-    PMTicketSetCFDictionary(ticket, "test", ticketKey("JobLevelStock"), {{"Color", kBlue}});
-    // Another direction moves nothing, covers neither.
-    panel.data().frontCover->stock().setSource(1);
-    QCOMPARE(panel.sync(7), noErr);
-    QCOMPARE(panel.rows(), QString());
-    QCOMPARE(panel.data().frontCover->stock().source(), 1);
-    QCOMPARE(panel.session.choice("KVFrontCoverSheet"), QStringLiteral("Tray2"));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QCOMPARE(panel.rows(), QStringLiteral("Front Cover · 1 Insert · 9 Insert"));
-    QCOMPARE(panel.data().jobStock->color(), kBlue);
-
-    panel.data().inserts->clear();
-    panel.data().frontCover.reset();
-    panel.sync(kSyncWrite);
-    QVERIFY(!PMTicketGetCFArray(ticket, insertsKey) && !PMTicketGetCFArray(ticket, exceptionsKey));
-    PMTicketReleaseItem(ticket, ticketKey("JobLevelStock"));
-    panel.sync(kSyncRead);
-    QVERIFY(!panel.data().jobStock);
 }
 
 void TestSpecialPagesPanel::keepsPagesAndUndoThatTheTicketHas()
