@@ -17,7 +17,26 @@ private slots:
     void aLibraryThatCannotBeKeptNamesItsFile();
     void aDialogThatCannotBeMadeSaysSo_data();
     void aDialogThatCannotBeMadeSaysSo();
+    void aPanelThatCannotBeMadeSaysSo_data();
+    void aPanelThatCannotBeMadeSaysSo();
 };
+
+namespace {
+
+// The program at this desk has a bundle of its own, without that description of a
+// window; its path.
+QString withoutDescription(Desk &desk, const QString &window)
+{
+    const QString bundle = desk.path("KelvoPDE.pde");
+    const QString description = bundle + "/Resources/dialogs/" + window + ".ui";
+    if (QProcess::execute("cp", {"-rs", KELVO_BUILD_DIR "/lib/KelvoPDE.pde", bundle}) != 0
+        || !QFile::remove(description)) // the link
+        qFatal("no bundle without %s", qPrintable(window));
+    desk.set("KELVO_BUNDLE", bundle);
+    return description;
+}
+
+} // namespace
 
 void TestDialogScripts::goesAsWritten_data()
 {
@@ -100,12 +119,8 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
     QFETCH(QByteArray, lines);
     QFETCH(int, open);
     Desk desk;
-    const QString bundle = desk.path("KelvoPDE.pde");
-    QCOMPARE(QProcess::execute("cp", {"-rs", KELVO_BUILD_DIR "/lib/KelvoPDE.pde", bundle}), 0);
-    desk.set("KELVO_BUNDLE", bundle);
     const QByteArray window = QTest::currentDataTag();
-    const QString description = bundle + "/Resources/dialogs/" + window + ".ui";
-    QVERIFY(QFile::remove(description)); // the link
+    const QString description = withoutDescription(desk, window);
     for (const auto &[damage, reason] :
          {std::pair("", "no such window description"),
           {"<ui", ".ui"},
@@ -118,6 +133,39 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
                   + "\"\nanswer 1\n" + QByteArray("cancel\n").repeated(open));
         QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
     }
+}
+
+// On standard output, as dialogs have always read it.
+void TestDialogScripts::aPanelThatCannotBeMadeSaysSo_data()
+{
+    QTest::addColumn<QByteArray>("description"); // null: none
+    QTest::addColumn<QString>("message");
+    const QByteArray empty = "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">";
+    const QByteArray pane = "<property name=\"controlID\" stdset=\"0\"><string "
+                            "notr=\"true\">KPDE 1</string></property>";
+    const QByteArray end = "</widget></ui>";
+    QTest::newRow("no description") << QByteArray() << "!! Failed to load nib from bundle.\n";
+    QTest::newRow("a damaged one") << QByteArray("<ui") << "!! Failed to create window from nib.\n";
+    QTest::newRow("one without the pane")
+        << empty + end << "!! Failed to get user pane control reference.\n";
+    QTest::newRow("one with an empty pane")
+        << empty + pane + end << "!! Failed to get control reference.\n";
+}
+
+void TestDialogScripts::aPanelThatCannotBeMadeSaysSo()
+{
+    QFETCH(QByteArray, description);
+    QFETCH(QString, message);
+    Desk desk;
+    const QString path = withoutDescription(desk, "SpecialPages/SpecialPages");
+    if (!description.isNull())
+        write(path, description);
+    // It goes on without that panel.
+    write(desk.path("s.kps"), "panel SpecialPages\nshow @panelNotMade\nprint\n");
+    const Run run = desk.run({"--demo", "--no-window", "--script", "s.kps", "--to", "out"});
+    QENDED(run, 0);
+    QVERIFY2(run.out.contains(message), qPrintable(run.out));
+    QVERIFY2(run.out.contains("SpecialPages/SpecialPages"), qPrintable(run.out));
 }
 
 QTEST_GUILESS_MAIN(TestDialogScripts)

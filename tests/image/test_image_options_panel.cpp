@@ -1,14 +1,13 @@
-#include "device_session.h"
-#include "dialog_driver.h"
+#include "driven_panel.h"
 #include "embed_control.h"
 #include "image_options_panel.h"
 #include "image_options_view.h"
 #include "invert_image_controls.h"
-#include "panel_interface.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
-#include <QSlider>
+#include <QCheckBox>
+#include <QLabel>
 #include <QTest>
 
 using namespace kelvo;
@@ -17,55 +16,13 @@ namespace {
 
 const QString kInvertKey = QStringLiteral("com.kelvo.print.InvertImageOptions");
 
-// The panel of one sample device, in front of its user.
-class Panel
+// The panel of the full sample device, in front of its user.
+struct Panel : DrivenPanel
 {
-public:
-    explicit Panel(const QString &device)
-        : session(device)
+    Panel()
+        : DrivenPanel(GetImageOptionsPanelInterface, QStringLiteral("full"))
     {
-        PanelInterface *interface = nullptr;
-        GetImageOptionsPanelInterface(&interface);
-        operations = *interface->table;
-        delete interface->table;
-        delete interface;
-        OSType creator = 0;
-        CFStringRef kind = nullptr, title = nullptr;
-        std::uint32_t width = 0, height = 0;
-        operations.Prologue(&context, &creator, &kind, &title, &width, &height);
-        isAsAnnounced = creator == kShellSignature && *kind == kPDEPanelKind
-            && *title == QLatin1String("Image Options");
     }
-    ~Panel() { operations.Terminate(context, noErr); }
-    Panel(const Panel &) = delete;
-    Panel &operator=(const Panel &) = delete;
-
-    OSStatus initialize()
-    {
-        return operations.Initialize(context, nullptr, nullptr, &pane, &session.session);
-    }
-    void begin()
-    {
-        QCOMPARE(initialize(), noErr);
-        QCOMPARE(operations.Open(context), noErr);
-        pane.show();
-    }
-    OSStatus sync(SyncDirection direction)
-    {
-        return operations.Sync(context, &session.session, direction);
-    }
-
-    template <typename T>
-    T *find(std::int32_t number)
-    {
-        return findControl<T>(&pane, {kPanelSignature, number});
-    }
-
-    DeviceSession session;
-    QWidget pane;
-    PanelOperations operations{};
-    PMPDEContext context = nullptr;
-    bool isAsAnnounced = false;
 };
 
 } // namespace
@@ -83,8 +40,10 @@ private slots:
 
 void TestImageOptionsPanel::answersAsEveryPanel()
 {
-    Panel panel(QStringLiteral("full"));
-    QVERIFY(panel.isAsAnnounced);
+    Panel panel;
+    QCOMPARE(panel.creator, kShellSignature);
+    QCOMPARE(panel.kind, kPDEPanelKind);
+    QCOMPARE(panel.title, QStringLiteral("Image Options"));
     const PanelOperations &call = panel.operations;
     PrintSession *session = &panel.session.session;
     QCOMPARE(GetImageOptionsPanelInterface(nullptr), paramErr);
@@ -117,14 +76,14 @@ void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
 {
     Ticket written;
     {
-        Panel panel(QStringLiteral("full"));
+        Panel panel;
         panel.begin();
         QCOMPARE(panel.sync(kSyncWrite), noErr);
         panel.find<QCheckBox>(1109)->click();
         QCOMPARE(panel.sync(kSyncWrite), noErr);
         written = panel.session.session.printSettings();
     }
-    Panel panel(QStringLiteral("full"));
+    Panel panel;
     Ticket &ticket = panel.session.session.printSettings();
     ticket = written;
     panel.begin();

@@ -1,29 +1,15 @@
-#include "damaged_bundle.h"
 #include "device_session.h"
 
 #include "control.h"
-#include "panel_content.h"
-#include "popup_button.h"
 #include "window_loader.h"
 
 #include <QAbstractButton>
 #include <QDirIterator>
-#include <QLabel>
 #include <QTest>
 
 using namespace kelvo;
 
-namespace {
-
-const QByteArray kButtonAlone =
-    "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">"
-    "<widget class=\"QPushButton\" name=\"okButton\"><property name=\"command\" stdset=\"0\">"
-    "<string notr=\"true\">ok  </string></property></widget></widget></ui>";
-
-} // namespace
-
-// The windows of the panels, and what is said where one is missing or damaged: no button
-// does nothing.
+// The windows of the panels, each by itself.
 class TestWindows : public QObject
 {
     Q_OBJECT
@@ -31,8 +17,6 @@ class TestWindows : public QObject
 private slots:
     void windowsCanBeUsedWithoutAMouse_data();
     void windowsCanBeUsedWithoutAMouse();
-    void aPanelThatCannotBeMadeSaysSo_data();
-    void aPanelThatCannotBeMadeSaysSo();
 };
 
 // Every window of the bundle.
@@ -76,41 +60,6 @@ void TestWindows::windowsCanBeUsedWithoutAMouse()
         QVERIFY2(!mnemonics.contains(letter), qPrintable(text));
         mnemonics.insert(letter);
     }
-}
-
-void TestWindows::aPanelThatCannotBeMadeSaysSo_data()
-{
-    QTest::addColumn<QByteArray>("description");
-    QTest::addColumn<QString>("reason");
-    const auto with = [](const QByteArray &widgetClass) {
-        return "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"><widget class=\""
-            + widgetClass
-            + "\" name=\"quality\"><property name=\"controlID\" stdset=\"0\"><string "
-              "notr=\"true\">KPDE 1202</string></property></widget></widget></ui>";
-    };
-    QTest::newRow("cut off") << QByteArray("<ui") << "ImageOptions.ui";
-    QTest::newRow("without its controls")
-        << kButtonAlone << "lacks controls that the window needs: KPDE 1202, KPDE 1103";
-    QTest::newRow("a control of another class") << with("QLabel") << "needs: KPDE 1202, KPDE 1103";
-    QTest::newRow("one that is there") << with("PopupButton") << "needs: KPDE 1103";
-}
-
-void TestWindows::aPanelThatCannotBeMadeSaysSo()
-{
-    QFETCH(QByteArray, description);
-    QFETCH(QString, reason);
-    const DamagedBundle damaged("ImageOptionsPanel/ImageOptions", description);
-    QWidget pane;
-    QVERIFY(!createPanelContent(damaged.bundle, "ImageOptionsPanel", "ImageOptions", &pane,
-                                [](NeededControls &needed) {
-                                    needed.find<PopupButton>({kPanelSignature, 1202});
-                                    needed.find({kPanelSignature, 1103});
-                                }));
-    const auto *label = pane.findChild<QLabel *>();
-    QVERIFY(label && label->isVisibleTo(&pane));
-    for (const QString &words : {QStringLiteral("ImageOptionsPanel/ImageOptions"),
-                                 QStringLiteral("Install the software again"), reason})
-        QVERIFY2(label->text().contains(words), qPrintable(label->text()));
 }
 
 QTEST_MAIN(TestWindows)

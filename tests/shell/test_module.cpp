@@ -48,8 +48,6 @@ private slots:
     void factoryCountsItsReferences();
     void interfaceCountsItsReferences();
     void getterLeavesTheFirstSlotsFree();
-    void onlyOurDevicesAreTaken_data();
-    void onlyOurDevicesAreTaken();
     void profileAgreesWithDeviceAndPanels();
     void twoDialogsInOneProcess();
 
@@ -134,34 +132,6 @@ void TestModule::getterLeavesTheFirstSlotsFree()
     QVERIFY(interface->table->Prologue && interface->table->Terminate);
     delete interface->table;
     delete interface;
-}
-
-void TestModule::onlyOurDevicesAreTaken_data()
-{
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<bool>("taken");
-
-    const QString tests = QStringLiteral(KELVO_TEST_DATA "/ppds/");
-    QTest::newRow("ours") << kFullDevice << true;
-    QTest::newRow("a longer name") << tests + QStringLiteral("kelvo-lookalike.ppd") << false;
-    QTest::newRow("another maker") << tests + QStringLiteral("other-maker.ppd") << false;
-    QTest::newRow("no PPD") << QString() << false;
-    QTest::newRow("no such file") << kPpds + QStringLiteral("none.ppd") << false;
-}
-
-void TestModule::onlyOurDevicesAreTaken()
-{
-    QFETCH(QString, ppd);
-    QFETCH(bool, taken);
-    CapturedErrors errors;
-    DrivenDialog dialog(m_factory, ppd);
-    QCOMPARE(dialog.prologue(), noErr);
-
-    QCOMPARE(dialog.initialize(), taken ? noErr : kPMInvalidPDEContext);
-
-    QCOMPARE(
-        errors.text().contains(QLatin1String("Initialize()::GetTicketFromSession() failed.\n")),
-        !taken);
 }
 
 void TestModule::profileAgreesWithDeviceAndPanels()

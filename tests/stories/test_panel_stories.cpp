@@ -15,7 +15,6 @@ class TestPanelStories : public QObject
 
 private slots:
     void keepsASecurePrintsCodeInTheTicketAlone();
-    void makesACodeWhereNoneIsGiven();
     void holdsBackASecurePrintWithoutCode();
     void waitsForTheNextTimeOfADelayedJob();
     void carriesEverythingThroughATicket_data();
@@ -60,18 +59,6 @@ void TestPanelStories::keepsASecurePrintsCodeInTheTicketAlone()
     QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("4815"));
     QVERIFY(!contents(folder + "/options").contains("4815"));
     QVERIFY(!run.out.contains("4815") && !run.err.contains("4815"));
-}
-
-void TestPanelStories::makesACodeWhereNoneIsGiven()
-{
-    const Desk desk;
-    const QString folder = desk.path("out");
-    QENDED(desk.run({"--demo", "--no-window", "--script", script("secure-print-made.kps"), "--to",
-                     folder}),
-           0);
-    const QString made = jobTypeIn(ticketIn(folder)).value("SecurePrintPassword").toString();
-    static const QRegularExpression fourDigits(QStringLiteral("^[1-9][0-9]{3}$"));
-    QVERIFY2(fourDigits.match(made).hasMatch(), qPrintable(made));
 }
 
 void TestPanelStories::holdsBackASecurePrintWithoutCode()
@@ -123,12 +110,8 @@ void TestPanelStories::carriesEverythingThroughATicket_data()
                                  << "paper-output";
     QTest::newRow("paper, mid") << "mid"
                                 << "paper-output-mid";
-    QTest::newRow("paper, bare") << "bare"
-                                 << "paper-output-bare";
     QTest::newRow("image, full") << "full"
                                  << "image-options";
-    QTest::newRow("image, bare") << "bare"
-                                 << "image-options-bare";
     QTest::newRow("special pages") << "full"
                                    << "special-pages";
 }

@@ -127,7 +127,6 @@ private slots:
     void keepsWhatIsChosenAsItIsShown_data();
     void keepsWhatIsChosenAsItIsShown();
     void missesOfAnotherDevicesTicketWhatWasAsked();
-    void mendsAConflict();
     void refusesToPrintAConflict();
     void laterSettingsBeatEarlierOnes();
     void refusesWhatCannotBeDone_data();
@@ -1028,16 +1027,6 @@ void TestStories::missesOfAnotherDevicesTicketWhatWasAsked()
     for (auto *options : {&same, &first})
         options->remove(ticketOption); // of one job
     QCOMPARE(same, first);
-}
-
-void TestStories::mendsAConflict()
-{
-    const Desk desk;
-    QENDED(desk.run({"--demo", "--no-window", "--script", script("conflict.kps"), "--to", "out"}),
-           0);
-    const auto options = optionsIn(desk.path("out/options"));
-    QVERIFY(options.value("Jog") != "EndOfSet" || options.value("PageSize") != "Env10");
-    QVERIFY(!QImage(desk.path("conflict.png")).isNull());
 }
 
 void TestStories::refusesToPrintAConflict()
