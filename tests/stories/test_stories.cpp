@@ -710,6 +710,7 @@ void TestStories::keepsWhatTheUserNamed_data()
     row({"--ticket-out", "document.pdf", "document.pdf"}, 2, "document.pdf is the document itself");
     row({"--ticket-out", "link.pdf", "document.pdf"}, 2, "link.pdf is the document itself");
     row({"--ticket-out", "keep.txt", "document.pdf"}, 2, "not a ticket");
+    row({"--ticket-out", "list.plist", "document.pdf"}, 2, "not a ticket");
     row({"--ticket-out", "no/t.plist", "document.pdf"}, 2, "the folder no does not exist");
     row({"--preset-out", "keep.txt", "document.pdf"}, 2, "not a ticket");
     row({"--preset-out", "./p.plist", "--ticket-out", "p.plist", "document.pdf"}, 2,
@@ -744,6 +745,7 @@ void TestStories::keepsWhatTheUserNamed()
     write(desk.path("document.pdf"), contents(documentPath));
     QVERIFY(QFile::link(desk.path("document.pdf"), desk.path("link.pdf")));
     write(desk.path("keep.txt"), "years of work\n");
+    write(desk.path("list.plist"), "<plist version=\"1.0\"><array/></plist>");
     write(desk.path("run.kps"), "print\n");
     QVERIFY(QDir().mkpath(desk.path("busy/options")));
     write(desk.path("busy/ticket.plist"), "an older one\n");
