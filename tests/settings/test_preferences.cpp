@@ -1,11 +1,10 @@
-#include "file_store.h"
+#include "files.h"
 #include "folders.h"
 #include "input_history.h"
 #include "preferences.h"
 #include "standard_error.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QLocale>
 #include <QProcess>
 #include <QTest>
@@ -19,19 +18,6 @@ const QString key = QStringLiteral("jobNotesJobName");
 QString preferencePath(const QString &name)
 {
     return userPreferencesFolder() + QLatin1Char('/') + name;
-}
-
-void putFile(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    return readFile(path, 1 << 20).value();
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "driven_dialog.h"
+#include "standard_error.h"
 
 #include "bundle.h"
 #include "control.h"
@@ -178,7 +179,7 @@ void TestModule::profileAgreesWithDeviceAndPanels()
 void TestModule::twoDialogsInOneProcess()
 {
     for (const QString &device : {kFullDevice, kBareDevice}) {
-        CapturedErrors errors;
+        const StandardError errors;
         DrivenDialog dialog(m_factory, device);
         QVERIFY(dialog.begin() && showAdvanced(dialog));
         QCOMPARE(dialog.find<PopupButton>(kPanelSignature, kFeedEdge)->isEnabled(),
