@@ -56,9 +56,9 @@ void TestPanelStories::keepsASecurePrintsCodeInTheTicketAlone()
 
     const Dictionary jobType = jobTypeIn(ticketIn(folder));
     QCOMPARE(jobType.value("JobType"), QVariant(qint64(6)));
-    QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("4815"));
-    QVERIFY(!contents(folder + "/options").contains("4815"));
-    QVERIFY(!run.out.contains("4815") && !run.err.contains("4815"));
+    QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("48151623"));
+    QVERIFY(!contents(folder + "/options").contains("48151623"));
+    QVERIFY(!run.out.contains("48151623") && !run.err.contains("48151623"));
 }
 
 void TestPanelStories::holdsBackASecurePrintWithoutCode()
