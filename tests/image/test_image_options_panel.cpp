@@ -1,14 +1,13 @@
-#include "device_session.h"
-#include "dialog_driver.h"
+#include "driven_panel.h"
 #include "embed_control.h"
 #include "image_options_panel.h"
 #include "image_options_view.h"
 #include "invert_image_controls.h"
-#include "panel_interface.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
-#include <QSlider>
+#include <QCheckBox>
+#include <QLabel>
 #include <QTest>
 
 using namespace kelvo;
@@ -17,69 +16,13 @@ namespace {
 
 const QString kInvertKey = QStringLiteral("com.kelvo.print.InvertImageOptions");
 
-// The panel of one sample device, in front of its user.
-class Panel
+// The panel of the full sample device, in front of its user.
+struct Panel : DrivenPanel
 {
-public:
-    explicit Panel(const QString &device)
-        : session(device)
+    Panel()
+        : DrivenPanel(GetImageOptionsPanelInterface, QStringLiteral("full"))
     {
-        PanelInterface *interface = nullptr;
-        GetImageOptionsPanelInterface(&interface);
-        operations = *interface->table;
-        delete interface->table;
-        delete interface;
-        OSType creator = 0;
-        CFStringRef kind = nullptr, title = nullptr;
-        std::uint32_t width = 0, height = 0;
-        operations.Prologue(&context, &creator, &kind, &title, &width, &height);
-        isAsAnnounced = creator == kShellSignature && *kind == kPDEPanelKind
-            && *title == QLatin1String("Image Options");
     }
-    ~Panel() { operations.Terminate(context, noErr); }
-    Panel(const Panel &) = delete;
-    Panel &operator=(const Panel &) = delete;
-
-    OSStatus initialize()
-    {
-        return operations.Initialize(context, nullptr, nullptr, &pane, &session.session);
-    }
-    void begin()
-    {
-        QCOMPARE(initialize(), noErr);
-        QCOMPARE(operations.Open(context), noErr);
-        pane.show();
-    }
-    OSStatus sync(SyncDirection direction)
-    {
-        return operations.Sync(context, &session.session, direction);
-    }
-
-    template <typename T>
-    T *find(std::int32_t number)
-    {
-        return findControl<T>(&pane, {kPanelSignature, number});
-    }
-    QStringList picture(std::int32_t number)
-    {
-        QStringList names;
-        for (const QString &file : find<PictureView>(number)->pictures())
-            names << QFileInfo(file).completeBaseName();
-        return names;
-    }
-    QString enabled(const QList<std::int32_t> &numbers)
-    {
-        QString states;
-        for (const std::int32_t number : numbers)
-            states += find<QWidget>(number)->isEnabled() ? u'1' : u'0';
-        return states;
-    }
-
-    DeviceSession session;
-    QWidget pane;
-    PanelOperations operations{};
-    PMPDEContext context = nullptr;
-    bool isAsAnnounced = false;
 };
 
 } // namespace
@@ -90,23 +33,17 @@ class TestImageOptionsPanel : public QObject
 
 private slots:
     void answersAsEveryPanel();
-    void sliderAndFieldFollowEachOther();
-    void leavesLightnessToThePrinter();
     void readsInATicketThatThePrinterDecides();
-    void takesWhatIsTypedWhenAnotherControlIsUsed();
-    void showsWhatEachChoiceDoes();
-    void writesBackWhatItRead();
-    void keepsANegativeOfTheTicket();
-    void disablesWhatTheDeviceLacks_data();
-    void disablesWhatTheDeviceLacks();
     void invertsWhereAWindowHasTheControls_data();
     void invertsWhereAWindowHasTheControls();
 };
 
 void TestImageOptionsPanel::answersAsEveryPanel()
 {
-    Panel panel(QStringLiteral("full"));
-    QVERIFY(panel.isAsAnnounced);
+    Panel panel;
+    QCOMPARE(panel.creator, kShellSignature);
+    QCOMPARE(panel.kind, kPDEPanelKind);
+    QCOMPARE(panel.title, QStringLiteral("Image Options"));
     const PanelOperations &call = panel.operations;
     PrintSession *session = &panel.session.session;
     QCOMPARE(GetImageOptionsPanelInterface(nullptr), paramErr);
@@ -134,89 +71,19 @@ void TestImageOptionsPanel::answersAsEveryPanel()
     QCOMPARE(panel.find<QLabel>(1108)->text(), QStringLiteral("+5"));
 }
 
-void TestImageOptionsPanel::sliderAndFieldFollowEachOther()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    auto *slider = panel.find<QSlider>(1102);
-    auto *field = panel.find<SpinField>(1104);
-    expectDone(inspector::set(slider, -3));
-    QCOMPARE(field->value(), -3);
-    QCOMPARE(panel.picture(1103), QStringList("ImageOptions_LightenDarken_Lighten3"));
-    QCOMPARE(panel.find<QLabel>(1105)->text(), QStringLiteral("Lighten 3"));
-    QTest::keyClick(slider, Qt::Key_Home);
-    QCOMPARE(field->value(), -5);
-    QVERIFY(field->choose(5));
-    QCOMPARE(slider->value(), 5);
-    QVERIFY(!inspector::set(slider, 6)->text.isEmpty());
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVImageQuality")), QStringLiteral("Darken5"));
-}
-
-void TestImageOptionsPanel::leavesLightnessToThePrinter()
-{
-    const QList<std::int32_t> parts = {1101, 1102, 1103, 1104, 1106, 1107, 1108};
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    auto *printerDefault = panel.find<QCheckBox>(1109);
-    PPDDictionary &ticket = *PMTicketGetPPDDict(panel.session.settings());
-    const QString option = QStringLiteral("KVImageQuality");
-    const QString usual = QStringLiteral("The printer’s default is “Normal”.");
-    QCOMPARE(panel.sync(kSyncWrite), noErr); // as the dialog does when it begins
-    QCOMPARE(ticket.value(option), QStringLiteral("Normal"));
-    printerDefault->click();
-    QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
-    QCOMPARE(panel.find<QLabel>(1105)->text(), usual);
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QVERIFY(!ticket.contains(option));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(printerDefault->isChecked());
-    QCOMPARE(panel.enabled(parts), QStringLiteral("0000000"));
-
-    // What was set in the panel goes as well.
-    printerDefault->click();
-    QCOMPARE(panel.enabled(parts), QStringLiteral("1111111"));
-    panel.find<SpinField>(1104)->choose(2);
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(ticket.value(option), QStringLiteral("Darken2"));
-    printerDefault->click();
-    QCOMPARE(panel.find<QLabel>(1105)->text(), usual);
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QVERIFY(!ticket.contains(option));
-
-    // What came from elsewhere stays, and the panel does not hide it.
-    ticket.insert(option, QStringLiteral("Darken2"));
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(ticket.value(option), QStringLiteral("Darken2"));
-    printerDefault->click(); // a lightness
-    printerDefault->click(); // and none again
-    QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Darken 2")));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(!printerDefault->isChecked());
-    QCOMPARE(panel.find<QSlider>(1102)->value(), 2);
-
-    // Also what no step stands for.
-    ticket.insert(option, QStringLiteral("Pale"));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(printerDefault->isChecked());
-    QVERIFY(panel.find<QLabel>(1105)->text().contains(QStringLiteral("Pale")));
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(ticket.value(option), QStringLiteral("Pale"));
-}
-
 // A preset of such a job, or a ticket, in a dialog that begins with it.
 void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
 {
     Ticket written;
     {
-        Panel panel(QStringLiteral("full"));
+        Panel panel;
         panel.begin();
         QCOMPARE(panel.sync(kSyncWrite), noErr);
         panel.find<QCheckBox>(1109)->click();
         QCOMPARE(panel.sync(kSyncWrite), noErr);
         written = panel.session.session.printSettings();
     }
-    Panel panel(QStringLiteral("full"));
+    Panel panel;
     Ticket &ticket = panel.session.session.printSettings();
     ticket = written;
     panel.begin();
@@ -230,120 +97,6 @@ void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
     QVERIFY(!printerDefault->isChecked());
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QVERIFY(ticket.entries.size() == written.entries.size() - 1);
-}
-
-void TestImageOptionsPanel::takesWhatIsTypedWhenAnotherControlIsUsed()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    auto *field = panel.find<SpinField>(1104);
-    QVERIFY(field->typeText(QStringLiteral("4")));
-    panel.find<QCheckBox>(2103)->click();
-    QCOMPARE(field->value(), 4);
-    QVERIFY(panel.find<QCheckBox>(2103)->isChecked());
-    QVERIFY(field->typeText(QStringLiteral("2")));
-    expectDone(inspector::set(panel.find<QSlider>(1102), -1));
-    QCOMPARE(field->value(), -1);
-}
-
-void TestImageOptionsPanel::showsWhatEachChoiceDoes()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    const auto choose = [&](std::int32_t popup, std::int32_t value) {
-        auto *control = panel.find<PopupButton>(popup);
-        for (int row = 1; row <= control->maximum(); ++row) {
-            if (control->menu().items[static_cast<std::size_t>(row) - 1].reference == value)
-                return control->choose(row);
-        }
-        return false;
-    };
-    QVERIFY(choose(1202, 6));
-    QCOMPARE(panel.picture(1203), QStringList("ImageOptions_ImgQual_Enhanced"));
-    QVERIFY(choose(2002, 6)); // "Standard" corrects nothing
-    QCOMPARE(panel.picture(2003), QStringList());
-    QVERIFY(choose(2002, 4));
-    QCOMPARE(panel.picture(2003), QStringList("ImageOptions_ColorCorrection_OutputColor"));
-    panel.find<QCheckBox>(1302)->click();
-    QCOMPARE(panel.picture(1303), QStringList("ImageOptions_TonerSaver_On"));
-    panel.find<QCheckBox>(2103)->click();
-    QCOMPARE(panel.picture(2104), QStringList("ImageOptions_InvertImage_Mirror"));
-
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    for (const auto &[option, choice] : {std::pair("KVOutputMode", "HighResolution"),
-                                         {"KVColorCorrection", "PressMatch"},
-                                         {"KVEconomode", "Draft"}})
-        QCOMPARE(panel.session.choice(option), choice);
-}
-
-void TestImageOptionsPanel::writesBackWhatItRead()
-{
-    Panel panel(QStringLiteral("full"));
-    PMTicketGetPPDDict(panel.session.settings())->insert("KVOutputMode", "Enhanced");
-    panel.begin();
-    QCOMPARE(*PMTicketGetPPDDict(panel.session.settings()),
-             (PPDDictionary{{"KVOutputMode", "Enhanced"},
-                            {"KVCMYKColorSpace", "EuroScale"},
-                            {"KVColorCorrection", "Auto"}}));
-    // A choice that this panel cannot show stays as it is.
-    PMTicketGetPPDDict(panel.session.settings())->insert("KVOutputMode", "Best");
-    PMTicketGetPPDDict(panel.session.settings())->insert("KVEconomode", "Deep");
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QCOMPARE(panel.find<PopupButton>(1202)->value(), 0);
-    QCOMPARE(panel.picture(1203), QStringList());
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVOutputMode")), QStringLiteral("Best"));
-    QCOMPARE(panel.session.choice(QStringLiteral("KVEconomode")), QStringLiteral("Deep"));
-    auto *tonerSaver = panel.find<QCheckBox>(1302);
-    tonerSaver->click();
-    tonerSaver->click();
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(panel.session.choice(QStringLiteral("KVEconomode")), QStringLiteral("None"));
-}
-
-void TestImageOptionsPanel::keepsANegativeOfTheTicket()
-{
-    Panel panel(QStringLiteral("full"));
-    panel.begin();
-    const PMTicketRef ticket = panel.session.settings();
-    QVERIFY(!PMTicketGetCFDictionary(ticket, kInvertKey)); // reading writes none
-    PMTicketSetCFDictionary(ticket, QStringLiteral("test"), kInvertKey,
-                            {{"NegativeImage", 1}, {"MirrorImage", 1}});
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    auto *mirror = panel.find<QCheckBox>(2103);
-    QVERIFY(mirror->isChecked());
-    QCOMPARE(panel.picture(2104), QStringList("ImageOptions_InvertImage_Off"));
-    QVERIFY(panel.find<QLabel>(2105)->text().contains(QStringLiteral("negative")));
-    mirror->click();
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(PMTicketGetCFDictionary(ticket, kInvertKey),
-             (Dictionary{{"NegativeImage", qint64(1)}, {"MirrorImage", qint64(0)}}));
-    QCOMPARE(panel.session.session.printSettings().entries.at(kInvertKey).client,
-             QStringLiteral("K"));
-
-    PMTicketReleaseItem(ticket, kInvertKey);
-    mirror->click();
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(!mirror->isChecked());
-    QVERIFY(!panel.find<QLabel>(2105)->text().contains(QStringLiteral("negative")));
-}
-
-void TestImageOptionsPanel::disablesWhatTheDeviceLacks_data()
-{
-    QTest::addColumn<QString>("enabled");
-    QTest::newRow("full") << "111111111";
-    QTest::newRow("bare") << "111100001";
-    QTest::newRow("") << "000000001"; // no PPD
-}
-
-void TestImageOptionsPanel::disablesWhatTheDeviceLacks()
-{
-    QFETCH(QString, enabled);
-    Panel panel(QString::fromLatin1(QTest::currentDataTag()));
-    panel.begin();
-    QCOMPARE(panel.enabled({1102, 1109, 1202, 1302, 1901, 1902, 2001, 2002, 2103}), enabled);
-    QCOMPARE(panel.find<QLabel>(1904)->text() == QLatin1String("This device does not offer it."),
-             !enabled.startsWith(QLatin1String("11111")));
 }
 
 void TestImageOptionsPanel::invertsWhereAWindowHasTheControls_data()

@@ -47,6 +47,7 @@ private slots:
     void offersWhatIsInstalled();
     void followsTheMenu_data();
     void followsTheMenu();
+    void staplesAreOfThreeKinds();
     void checksWhatIsChosen_data();
     void checksWhatIsChosen();
     void summarizes_data();
@@ -141,6 +142,27 @@ void TestFinishing::followsTheMenu()
     QCOMPARE(stateOf(context), booklet);
 
     QVERIFY(!applyFinishingCommand(context, kCommandBookletCreation, 0));
+}
+
+void TestFinishing::staplesAreOfThreeKinds()
+{
+    const auto kindOf = [](std::int32_t staple) {
+        Finishing finishing;
+        setStaple(finishing, staple);
+        return finishing.singleStaple == staple ? 1
+            : finishing.dualStaple == staple    ? 2
+            : finishing.otherStaple == staple   ? 3
+                                                : 0;
+    };
+    QList<int> kinds;
+    for (const std::int32_t staple : {4, 5, 8, 9, 10, 13, 14, 53, 54, 57, 58})
+        kinds << kindOf(staple);
+    QCOMPARE(kinds, (QList{0, 1, 1, 0, 2, 2, 0, 0, 3, 3, 0}));
+    // Multiple staples leave no room for holes.
+    PaperOutputSettings settings;
+    setStaple(settings.finishing, kStapleMultiple);
+    applyFinishingCommand(settings, kCommandTwoHoles, kPunchTwoHoles);
+    QCOMPARE(settings.finishing.otherStaple, kStapleNone);
 }
 
 void TestFinishing::checksWhatIsChosen_data()

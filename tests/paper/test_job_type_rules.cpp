@@ -1,4 +1,5 @@
 #include "delayed_print.h"
+#include "job_type_setup.h"
 #include "passcode.h"
 #include "saved_job.h"
 
@@ -13,6 +14,7 @@ class TestJobTypeRules : public QObject
 private slots:
     void initTestCase() { qputenv("TZ", "Europe/Berlin"); }
 
+    void someJobTypesAreSetUp();
     void madePasscodesHaveFourDigits();
     void passcodesAreConfirmed_data();
     void passcodesAreConfirmed();
@@ -27,6 +29,17 @@ private slots:
     void aJobWithoutNameTakesTheDocuments();
     void shortPasscodesHoldBackASecureJobOnly();
 };
+
+// 4 and 9 have a button that opens nothing.
+void TestJobTypeRules::someJobTypesAreSetUp()
+{
+    QList<int> withSetup;
+    for (int jobType = 0; jobType <= 10; ++jobType) {
+        if (hasJobTypeSetup(jobType))
+            withSetup << jobType;
+    }
+    QCOMPARE(withSetup, (QList{3, 4, 5, 6, 7, 9}));
+}
 
 void TestJobTypeRules::madePasscodesHaveFourDigits()
 {

@@ -28,11 +28,6 @@ constexpr std::int32_t kJobType = 102, kJobTypeSetup = 103, kTwoSided = 110, kSt
 const QList<std::int32_t> kPopups = {kJobType,   kTwoSided,    kStapling,
                                      kHolePunch, kOutputColor, kOutputDestination};
 
-QString key(const char *name)
-{
-    return QStringLiteral("com.kelvo.print.") + QLatin1String(name);
-}
-
 // While it lives, whatever window opens is cancelled at once.
 class WindowCloser
 {
@@ -40,15 +35,11 @@ public:
     WindowCloser()
     {
         QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-                closed = dialog->objectName();
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
                 dialog->reject();
-            }
         });
         m_timer.start();
     }
-
-    QString closed; // the name of the last one
 
 private:
     QTimer m_timer;
@@ -107,13 +98,9 @@ private slots:
     void showsAgainWhatItWrote();
     void menusAreShownAgainToo();
     void opensAgainAfterItWasClosed();
-    void asksForTheSetUpOfAJobType_data();
-    void asksForTheSetUpOfAJobType();
-    void aStapleEndsABooklet();
     void offersWhatTheDeviceCanDo_data();
     void offersWhatTheDeviceCanDo();
     void saysWhatTheDeviceDoesNotOffer();
-    void keepsWhatTheDeviceDoesNotOffer();
     void summarizesForTheDialog();
     void doesNotGrow();
 
@@ -244,58 +231,6 @@ void TestPaperOutputPanel::opensAgainAfterItWasClosed()
     QCOMPARE(panel.choice(QStringLiteral("KVColorMode")), QStringLiteral("Grayscale"));
 }
 
-void TestPaperOutputPanel::asksForTheSetUpOfAJobType_data()
-{
-    QTest::addColumn<std::int32_t>("jobType");
-    QTest::addColumn<bool>("isEnabled");
-    QTest::addColumn<QString>("window"); // that the button opens; empty: none
-
-    QTest::newRow("normal") << 1 << false << "";
-    QTest::newRow("saved") << 3 << true << "savedJobWindow";
-    QTest::newRow("4 opens nothing") << 4 << true << "";
-    QTest::newRow("secure") << 6 << true << "securePrintWindow";
-    QTest::newRow("delayed") << 7 << true << "delayedPrintWindow";
-    QTest::newRow("sample set") << 8 << false << "";
-    QTest::newRow("9 opens nothing") << 9 << true << "";
-    QTest::newRow("10") << 10 << false << "";
-}
-
-void TestPaperOutputPanel::asksForTheSetUpOfAJobType()
-{
-    QFETCH(std::int32_t, jobType);
-    QFETCH(bool, isEnabled);
-    QFETCH(QString, window);
-    Panel panel(m_factory, QStringLiteral("full"));
-    PMTicketSetCFDictionary(panel.session.printSettingsTicket(), QStringLiteral("test"),
-                            key("JobType"), {{"JobType", jobType}});
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-
-    auto *button = panel.find<QPushButton>(kPanelSignature, kJobTypeSetup);
-    QCOMPARE(button->isEnabled(), isEnabled);
-    const WindowCloser closer;
-    button->click();
-    QCOMPARE(closer.closed, window);
-}
-
-void TestPaperOutputPanel::aStapleEndsABooklet()
-{
-    Panel panel(m_factory, QStringLiteral("full"));
-    const PMTicketRef settings = panel.session.printSettingsTicket();
-    PMTicketSetCFBoolean(settings, QStringLiteral("test"), key("BookletLayout"), true);
-    PMTicketSetCFNumber(settings, QStringLiteral("test"), key("FinishingOptions"), 24);
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(!panel.popup(kTwoSided)->isEnabled());
-    QCOMPARE(panel.popup(kTwoSided)->chosenReference(), 2);
-
-    QVERIFY(!inspector::chooseCommand(panel.find<MenuButton>(kPanelSignature, 123),
-                                      fourCharCode("Stp1"), std::nullopt));
-    QVERIFY(panel.popup(kTwoSided)->isEnabled());
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(PMTicketGetCFBoolean(settings, key("BookletLayout")), false);
-    QCOMPARE(PMTicketGetCFNumber(settings, key("FinishingDuplex")), 2);
-    QCOMPARE(panel.choice(QStringLiteral("StapleLocation")), QStringLiteral("SinglePortrait"));
-}
-
 void TestPaperOutputPanel::offersWhatTheDeviceCanDo_data()
 {
     QTest::addColumn<QString>("option"); // and another default for it, in the full device's PPD
@@ -381,27 +316,6 @@ void TestPaperOutputPanel::saysWhatTheDeviceDoesNotOffer()
     QCOMPARE(panel.popup(kStapling)->shownText(), QStringLiteral("No Staple"));
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QCOMPARE(ticket.value("StapleLocation"), QStringLiteral("None"));
-}
-
-void TestPaperOutputPanel::keepsWhatTheDeviceDoesNotOffer()
-{
-    Panel panel(m_factory, QStringLiteral("bare"));
-    panel.session.printSettings() = {};
-    PPDDictionary &choices = panel.session.printSettings().ppdChoices;
-    choices = {{"KVFold", "C"}, {"Duplex", "DuplexTumble"}, {"OutputBin", "Gold"}};
-    PMTicketSetCFDictionary(panel.session.printSettingsTicket(), QStringLiteral("test"),
-                            key("JobType"), {{"JobType", 5}});
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QCOMPARE(panel.popup(kOutputDestination)->value(), 0);
-    QCOMPARE(panel.popup(kJobType)->value(), 0);
-    QVERIFY(!panel.popup(kTwoSided)->isEnabled());
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QCOMPARE(choices.value("KVFold"), QStringLiteral("C"));
-    QCOMPARE(choices.value("Duplex"), QStringLiteral("DuplexTumble"));
-    QCOMPARE(choices.value("OutputBin"), QStringLiteral("Gold"));
-    QCOMPARE(PMTicketGetCFDictionary(panel.session.printSettingsTicket(), key("JobType"))
-                 ->value("JobType"),
-             QVariant(qint64(5)));
 }
 
 // The shell's own answer is empty: its last panel takes the lines away. The

@@ -263,7 +263,8 @@ void TestPpdFile::knowsWhatTheEquipmentRulesOut()
     const auto ruledOut = [&bytes](const QByteArray &rules) {
         const auto ppd = PpdFile::fromBytes(bytes + rules, u"equipment.ppd"_s);
         QStringList found;
-        for (const QString &option : {u"StapleLocation"_s, u"KVFinisher"_s, u"KVFax"_s}) {
+        for (const QString &option :
+             {u"StapleLocation"_s, u"JCLBanner"_s, u"KVFinisher"_s, u"KVFax"_s}) {
             for (const PpdChoice &choice : ppd.value()->findOption(option)->choices) {
                 if (ppd.value()->isRuledOutByEquipment(option, choice.keyword))
                     found << choice.keyword;
@@ -276,6 +277,7 @@ void TestPpdFile::knowsWhatTheEquipmentRulesOut()
     QCOMPARE(ruledOut("*UIConstraints: *StapleLocation DualLandscape *KVFinisher None\n"),
              u"DualLandscape"_s);
     QCOMPARE(ruledOut(rule + "*StapleLocation\"\n"), u"SinglePortrait DualLandscape"_s);
+    QCOMPARE(ruledOut(rule + "*JCLBanner\"\n"), u"True"_s);
     QCOMPARE(ruledOut(rule + "*StapleLocation None *KVFax False\"\n"), u"None"_s);
     QCOMPARE(ruledOut(rule + "*StapleLocation None *KVFax True\"\n"), QString());
     QCOMPARE(ruledOut(rule + "*StapleLocation None *Duplex None\"\n"), QString());

@@ -106,8 +106,6 @@ private slots:
     }
 
     void opensTheSessionsPpdOnceAndTriesAgainAfterAFailure();
-    void knowsEncodingsByName_data();
-    void knowsEncodingsByName();
     void readsTextsAndDefaults();
     void takesTheTicketsChoiceBeforeTheDefault_data();
     void takesTheTicketsChoiceBeforeTheDefault();
@@ -145,29 +143,6 @@ void TestDevice::opensTheSessionsPpdOnceAndTriesAgainAfterAFailure()
     QCOMPARE(PPDGetCurrent(), ppd); // until it is closed
     PPDCloseCurrent();
     QCOMPARE(PPDGetCurrent()->modelName(), QStringLiteral("Kelvo Corvane C90"));
-}
-
-void TestDevice::knowsEncodingsByName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<quint32>("encoding");
-
-    QTest::newRow("Latin 1") << "ISOLatin1" << 0x0201u;
-    QTest::newRow("Latin 2") << "ISOLatin2" << 0x0202u;
-    QTest::newRow("Latin 5") << "ISOLatin5" << 0x0209u;
-    QTest::newRow("Japanese") << "JIS83-RKSJ" << 0x0A01u;
-    QTest::newRow("UTF-8") << "UTF-8" << 0x08000100u;
-    QTest::newRow("UTF8") << "UTF8" << 0x08000100u;
-    QTest::newRow("another") << "WindowsANSI" << 0u;
-    QTest::newRow("none") << QString() << 0u;
-}
-
-void TestDevice::knowsEncodingsByName()
-{
-    QFETCH(QString, name);
-    QFETCH(quint32, encoding);
-    QCOMPARE(quint32(PPDEncodingNamed(name)), encoding);
-    QCOMPARE(PPDGetEncoding(nullptr), kCFStringEncodingMacRoman);
 }
 
 void TestDevice::readsTextsAndDefaults()

@@ -1,11 +1,10 @@
-#include "file_store.h"
+#include "files.h"
 #include "folders.h"
 #include "input_history.h"
 #include "preferences.h"
 #include "standard_error.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QLocale>
 #include <QProcess>
 #include <QTest>
@@ -19,19 +18,6 @@ const QString key = QStringLiteral("jobNotesJobName");
 QString preferencePath(const QString &name)
 {
     return userPreferencesFolder() + QLatin1Char('/') + name;
-}
-
-void putFile(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    return readFile(path, 1 << 20).value();
 }
 
 } // namespace
@@ -57,8 +43,6 @@ private slots:
     void keepsTheNewestTexts();
     void keepsWhatIsNoText();
     void savesWhatIsNewOnly();
-    void setsADamagedHistoryAside();
-    void losesNothingOfSeveralDialogs();
     void offersValidItemsOnly_data();
     void offersValidItemsOnly();
     void keepsNumbersInTheirRange();
@@ -187,39 +171,6 @@ void TestPreferences::savesWhatIsNewOnly()
     QVERIFY(saveHistory(key, "old", 5));
     QCOMPARE(bytesOf(preferencePath(kInputHistoryFile)), before);
     QCOMPARE(readHistory(key), QStringList({"newer", "old"}));
-}
-
-void TestPreferences::setsADamagedHistoryAside()
-{
-    putFile(preferencePath(kInputHistoryFile), "damaged");
-    QCOMPARE(readHistory(key), QStringList());
-    const StandardError captured;
-    QVERIFY(saveHistory(key, "new", 5));
-    QCOMPARE(readHistory(key), QStringList{"new"});
-    QCOMPARE(bytesOf(preferencePath(kInputHistoryFile) + ".damaged-1"), QByteArray("damaged"));
-
-    // Entries that are no texts are not offered.
-    WriteUserPreferences(kInputHistoryFile, {{key, QVariantList{"a", 3, QVariantList(), "b"}}});
-    QCOMPARE(readHistory(key), QStringList({"a", "b"}));
-    WriteUserPreferences(kInputHistoryFile, {{key, "a"}});
-    QCOMPARE(readHistory(key), QStringList());
-}
-
-void TestPreferences::losesNothingOfSeveralDialogs()
-{
-    constexpr int dialogs = 3;
-    constexpr int texts = 15; // of each
-    QProcess processes[dialogs];
-    for (int i = 0; i < dialogs; ++i)
-        processes[i].start(QCoreApplication::applicationFilePath(),
-                           {"--save", QString::number(i), QString::number(texts)});
-    for (QProcess &process : processes) {
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitCode(), 0);
-    }
-    const QStringList saved = readHistory(key);
-    QCOMPARE(saved.size(), dialogs * texts);
-    QCOMPARE(QSet<QString>(saved.begin(), saved.end()).size(), dialogs * texts);
 }
 
 void TestPreferences::offersValidItemsOnly_data()

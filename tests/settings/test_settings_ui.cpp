@@ -57,7 +57,6 @@ private slots:
     }
 
     void popupsKeepTheMapsLengthAsMaximum();
-    void popupsTakeAPpdsChoices();
     void historyStandsInsideAPopup_data();
     void historyStandsInsideAPopup();
     void popupsShowTheFirstItemOfAValue();
@@ -110,30 +109,6 @@ void TestSettingsUi::popupsKeepTheMapsLengthAsMaximum()
     QCOMPARE(popup.maximum(), 6);
     QCOMPARE(popup.menu().reference, static_cast<const void *>(JobTypeMap));
     QCOMPARE(PopulatePopupButtonFromMap(m_bundle, nullptr, PlexMap, kJobContextJob, kNoCommand), 0);
-}
-
-// With constraints against the PPD's defaults: there is no finisher.
-void TestSettingsUi::popupsTakeAPpdsChoices()
-{
-    const auto ppd = PpdFile::fromBytes("*PPD-Adobe: \"4.3\"\n"
-                                        "*OpenUI *KVFinisher: PickOne\n"
-                                        "*DefaultKVFinisher: None\n"
-                                        "*KVFinisher None: \"\"\n"
-                                        "*CloseUI: *KVFinisher\n"
-                                        "*OpenUI *Duplex: PickOne\n"
-                                        "*DefaultDuplex: None\n"
-                                        "*Duplex None: \"\"\n"
-                                        "*Duplex DuplexTumble: \"\"\n"
-                                        "*CloseUI: *Duplex\n"
-                                        "*UIConstraints: *Duplex DuplexTumble *KVFinisher None\n",
-                                        {});
-    QVERIFY2(ppd, qPrintable(ppd.reason()));
-    PopupButton popup;
-    QCOMPARE(PPDPopulatePopupWithChoices(&popup, ppd.value().get(), "Duplex", true), 1);
-    QCOMPARE(popup.maximum(), 1);
-    QCOMPARE(PPDPopulatePopupWithChoices(&popup, ppd.value().get(), "Duplex", false), 2);
-    QCOMPARE(popup.menu().items[1].reference, 3);
-    QCOMPARE(PPDPopulatePopupWithChoices(nullptr, ppd.value().get(), "Duplex", false), 0);
 }
 
 void TestSettingsUi::historyStandsInsideAPopup_data()

@@ -1,4 +1,5 @@
 #include "driven_dialog.h"
+#include "standard_error.h"
 
 #include "bundle.h"
 #include "control.h"
@@ -21,9 +22,8 @@ namespace {
 const QString kPpds = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/");
 const QString kFullDevice = kPpds + QStringLiteral("kelvo-corvane-full.ppd");
 const QString kBareDevice = kPpds + QStringLiteral("kelvo-corvane-bare.ppd");
-const QString kBookletOrderKey = QStringLiteral("com.kelvo.print.AdvancedBookletLayoutOrderStr");
 
-constexpr std::int32_t kBookletOrder = 602, kBanner = 614, kOffset = 616, kFeedEdge = 702;
+constexpr std::int32_t kFeedEdge = 702;
 
 QUuid uuid(const char *text)
 {
@@ -35,18 +35,6 @@ bool showAdvanced(DrivenDialog &dialog)
 {
     auto *selector = dialog.find<PopupButton>(kShellSignature, 16);
     return selector->choose(static_cast<int>(selector->menu().items.size()));
-}
-
-// What the ticket says of the panel's own options.
-PPDDictionary advancedChoices(const Ticket &ticket)
-{
-    PPDDictionary choices;
-    for (const char *option : {"JCLBanner", "Jog", "KVFeedEdge"}) {
-        const auto choice = ticket.ppdChoices.constFind(QLatin1String(option));
-        if (choice != ticket.ppdChoices.cend())
-            choices.insert(choice.key(), *choice);
-    }
-    return choices;
 }
 
 } // namespace
@@ -61,16 +49,7 @@ private slots:
     void factoryCountsItsReferences();
     void interfaceCountsItsReferences();
     void getterLeavesTheFirstSlotsFree();
-    void onlyOurDevicesAreTaken_data();
-    void onlyOurDevicesAreTaken();
-    void advancedShowsTheTicket();
-    void advancedWritesWhatTheUserChose();
-    void advancedShowsTheOrderThatWasChosen();
-    void advancedKeepsChoicesThatItDoesNotKnow();
-    void advancedDisablesWhatTheDeviceLacks();
     void profileAgreesWithDeviceAndPanels();
-    void aboutNamesTheDevice();
-    void helpCommandShowsTheBundlesHelp();
     void twoDialogsInOneProcess();
 
 private:
@@ -156,149 +135,6 @@ void TestModule::getterLeavesTheFirstSlotsFree()
     delete interface;
 }
 
-void TestModule::onlyOurDevicesAreTaken_data()
-{
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<bool>("taken");
-
-    const QString tests = QStringLiteral(KELVO_TEST_DATA "/ppds/");
-    QTest::newRow("ours") << kFullDevice << true;
-    QTest::newRow("a longer name") << tests + QStringLiteral("kelvo-lookalike.ppd") << false;
-    QTest::newRow("another maker") << tests + QStringLiteral("other-maker.ppd") << false;
-    QTest::newRow("no PPD") << QString() << false;
-    QTest::newRow("no such file") << kPpds + QStringLiteral("none.ppd") << false;
-}
-
-void TestModule::onlyOurDevicesAreTaken()
-{
-    QFETCH(QString, ppd);
-    QFETCH(bool, taken);
-    CapturedErrors errors;
-    DrivenDialog dialog(m_factory, ppd);
-    QCOMPARE(dialog.prologue(), noErr);
-
-    QCOMPARE(dialog.initialize(), taken ? noErr : kPMInvalidPDEContext);
-
-    QCOMPARE(
-        errors.text().contains(QLatin1String("Initialize()::GetTicketFromSession() failed.\n")),
-        !taken);
-}
-
-void TestModule::advancedShowsTheTicket()
-{
-    DrivenDialog dialog(m_factory, kFullDevice);
-    Ticket &ticket = dialog.session.printSettings();
-    ticket.ppdChoices[QStringLiteral("JCLBanner")] = QStringLiteral("True");
-    QVERIFY(dialog.begin());
-
-    QCOMPARE(dialog.title ? *dialog.title : QString(), QStringLiteral("Device"));
-    const auto value = [&dialog](std::int32_t number) {
-        return dialog.find<PopupButton>(kPanelSignature, number)->chosenReference();
-    };
-    QCOMPARE(value(kBanner), 1);
-    QCOMPARE(value(kOffset), 0);   // the PPD's default
-    QCOMPARE(value(kFeedEdge), 1); // the same
-    QCOMPARE(dialog.find<PopupButton>(kPanelSignature, kBookletOrder)->value(), 1);
-
-    // Another ticket, such as a preset: nothing of the one before stays.
-    ticket.ppdChoices = {{QStringLiteral("KVFeedEdge"), QStringLiteral("ShortEdge")}};
-    QCOMPARE(dialog.sync(kSyncRead), noErr);
-    QCOMPARE(value(kBanner), 0);
-    QCOMPARE(value(kFeedEdge), 2);
-}
-
-void TestModule::advancedWritesWhatTheUserChose()
-{
-    DrivenDialog dialog(m_factory, kFullDevice);
-    QVERIFY(dialog.begin() && showAdvanced(dialog));
-    const auto choose = [&dialog](std::int32_t number, int item) {
-        return dialog.find<PopupButton>(kPanelSignature, number)->choose(item);
-    };
-    const Ticket &ticket = dialog.session.printSettings();
-    QCOMPARE(dialog.sync(kSyncWrite), noErr);
-    QCOMPARE(ticket.entries.at(kBookletOrderKey),
-             (TicketEntry{QVariant::fromValue<qint64>(2),
-                          QStringLiteral("com.kelvo.printingmanager"), false}));
-    const PPDDictionary defaults{{QStringLiteral("JCLBanner"), QStringLiteral("False")},
-                                 {QStringLiteral("Jog"), QStringLiteral("None")},
-                                 {QStringLiteral("KVFeedEdge"), QStringLiteral("LongEdge")}};
-    QCOMPARE(advancedChoices(ticket), defaults);
-
-    QVERIFY(choose(kBookletOrder, 2));
-    QVERIFY(choose(kBanner, 2));
-    QVERIFY(choose(kOffset, 2));
-    QVERIFY(choose(kFeedEdge, 2));
-    QCOMPARE(advancedChoices(ticket), defaults); // not before the dialog asks
-    QCOMPARE(dialog.sync(kSyncWrite), noErr);
-
-    QCOMPARE(advancedChoices(ticket),
-             (PPDDictionary{{QStringLiteral("JCLBanner"), QStringLiteral("True")},
-                            {QStringLiteral("Jog"), QStringLiteral("EndOfSet")},
-                            {QStringLiteral("KVFeedEdge"), QStringLiteral("ShortEdge")}}));
-    QCOMPARE(PMTicketGetCFNumber(dialog.session.printSettingsTicket(), kBookletOrderKey),
-             std::optional<std::int64_t>(fourCharCode("Kujn")));
-}
-
-// The orders have one value in the ticket.
-void TestModule::advancedShowsTheOrderThatWasChosen()
-{
-    DrivenDialog dialog(m_factory, kFullDevice);
-    QVERIFY(dialog.begin() && showAdvanced(dialog));
-    auto *order = dialog.find<PopupButton>(kPanelSignature, kBookletOrder);
-    QVERIFY(order->choose(2));
-    QCOMPARE(dialog.sync(kSyncWrite), noErr);
-    QCOMPARE(dialog.sync(kSyncRead), noErr);
-    QCOMPARE(order->value(), 2);
-
-    dialog.session.printSettings().entries.erase(kBookletOrderKey); // another ticket
-    QCOMPARE(dialog.sync(kSyncRead), noErr);
-    QCOMPARE(order->value(), 1);
-}
-
-void TestModule::advancedKeepsChoicesThatItDoesNotKnow()
-{
-    DrivenDialog dialog(m_factory, kFullDevice);
-    PPDDictionary &choices = dialog.session.printSettings().ppdChoices;
-    choices[QStringLiteral("Jog")] = QStringLiteral("EveryPage");
-    QVERIFY(dialog.begin() && showAdvanced(dialog));
-
-    QCOMPARE(dialog.sync(kSyncWrite), noErr);
-
-    QCOMPARE(choices.value(QStringLiteral("Jog")), QStringLiteral("EveryPage"));
-    QCOMPARE(choices.value(QStringLiteral("JCLBanner")), QStringLiteral("False"));
-
-    // The panel says so until the user chooses another.
-    const auto *hint = dialog.find<QLabel>(kPanelSignature, 6161);
-    QVERIFY(hint->text().contains(QLatin1String("keeps it")));
-    QVERIFY(dialog.find<PopupButton>(kPanelSignature, kOffset)->choose(1));
-    QVERIFY(hint->text().contains(QLatin1String("Shifts each")));
-}
-
-void TestModule::advancedDisablesWhatTheDeviceLacks()
-{
-    CapturedErrors errors;
-    DrivenDialog dialog(m_factory, kBareDevice);
-    QVERIFY(dialog.begin() && showAdvanced(dialog));
-
-    const auto *feedEdge = dialog.find<PopupButton>(kPanelSignature, kFeedEdge);
-    QCOMPARE(feedEdge->menu().items.size(), 0U);
-    QVERIFY(!feedEdge->isEnabled());
-    QVERIFY(!dialog.find<QLabel>(kPanelSignature, 701)->isEnabled());
-    QVERIFY(errors.text().contains(QLatin1String("Expected PPD option not found: KVFeedEdge")));
-    QVERIFY(dialog.find<PopupButton>(kPanelSignature, kBookletOrder)->isEnabled());
-    QCOMPARE(dialog.sync(kSyncWrite), noErr);
-    PPDDictionary &choices = dialog.session.printSettings().ppdChoices;
-    QVERIFY(!choices.contains(QStringLiteral("KVFeedEdge")));
-
-    // Nor does a choice get from one ticket into the next.
-    choices[QStringLiteral("KVFeedEdge")] = QStringLiteral("ShortEdge");
-    QCOMPARE(dialog.sync(kSyncRead), noErr);
-    choices.clear();
-    QCOMPARE(dialog.sync(kSyncRead), noErr);
-    QCOMPARE(dialog.sync(kSyncWrite), noErr);
-    QVERIFY(!choices.contains(QStringLiteral("KVFeedEdge")));
-}
-
 void TestModule::profileAgreesWithDeviceAndPanels()
 {
     const auto ppd = PpdFile::open(kFullDevice);
@@ -340,41 +176,10 @@ void TestModule::profileAgreesWithDeviceAndPanels()
     QVERIFY(features.size() > 10);
 }
 
-void TestModule::aboutNamesTheDevice()
-{
-    DrivenDialog dialog(m_factory, kFullDevice);
-    QVERIFY(dialog.begin() && showAdvanced(dialog));
-    QStringList texts;
-    QTimer::singleShot(0, this, [&texts] {
-        QWidget *box = frontWindow();
-        const QList<QLabel *> labels = box->findChildren<QLabel *>();
-        for (const QLabel *label : labels)
-            texts << label->text();
-        QTest::keyClick(box, Qt::Key_Escape);
-    });
-
-    dialog.find<QPushButton>(kPanelSignature, 670)->click();
-
-    QVERIFY2(texts.contains(QStringLiteral("Current device: Kelvo Corvane C90")),
-             qPrintable(texts.join(QLatin1Char('|'))));
-    QVERIFY(texts.contains(QStringLiteral("Version 1.0.0")));
-}
-
-void TestModule::helpCommandShowsTheBundlesHelp()
-{
-    DrivenDialog dialog(m_factory, kFullDevice);
-    QVERIFY(dialog.begin());
-
-    QCOMPARE(sendCommand(&dialog.window, fourCharCode("help")), noErr);
-
-    const auto *help = dialog.window.findChild<QWidget *>(QStringLiteral("helpWindow"));
-    QVERIFY(help && help->isVisible());
-}
-
 void TestModule::twoDialogsInOneProcess()
 {
     for (const QString &device : {kFullDevice, kBareDevice}) {
-        CapturedErrors errors;
+        const StandardError errors;
         DrivenDialog dialog(m_factory, device);
         QVERIFY(dialog.begin() && showAdvanced(dialog));
         QCOMPARE(dialog.find<PopupButton>(kPanelSignature, kFeedEdge)->isEnabled(),

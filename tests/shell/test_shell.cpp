@@ -1,5 +1,6 @@
 #include "driven_dialog.h"
 #include "fake_panels.h"
+#include "standard_error.h"
 
 #include "bundle.h"
 #include "notice.h"
@@ -91,7 +92,7 @@ void TestShell::loaderSkipsWhatDoesNotLoad()
                                    "GetIncompletePanelInterface", "GetRefusingPanelInterface",
                                    "GetAdvancedPanelInterface",   nullptr};
     std::vector<PanelRecord> loaded;
-    CapturedErrors errors;
+    const StandardError errors;
 
     LoadBuiltInPanels(bundle, loaded, getters);
 
@@ -100,7 +101,8 @@ void TestShell::loaderSkipsWhatDoesNotLoad()
     QCOMPARE(loaded[0].tabIndex, 2);
     QCOMPARE(loaded[1].title, QStringLiteral("Advanced"));
     QCOMPARE(loaded[1].tabIndex, 7);
-    const QStringList lines = errors.text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines =
+        QString::fromUtf8(errors.text()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 5);
     const char *const named[] = {
         "GetNoSuchPanelInterface: the module has no such function",
@@ -166,7 +168,7 @@ void TestShell::dialogGoesThroughItsLife()
 void TestShell::tabKeepsItsNumberWhereOthersAreMissing()
 {
     panels->failing = QStringLiteral("PaperOutput");
-    CapturedErrors errors;
+    const StandardError errors;
     DrivenDialog dialog(KelvoPDEPluginFactory, kDevice);
     QVERIFY(dialog.begin());
 
@@ -285,7 +287,7 @@ void TestShell::summaryIsEmptyThoughPanelsWriteOne()
 void TestShell::summaryBeginsEmpty()
 {
     panels->failing = QStringLiteral("Advanced"); // the one that empties it
-    CapturedErrors errors;
+    const StandardError errors;
     DrivenDialog dialog(KelvoPDEPluginFactory, kDevice);
     QVERIFY(dialog.begin());
     SummaryArray titles(QStringList{QStringLiteral("left over")});

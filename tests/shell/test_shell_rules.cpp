@@ -21,8 +21,6 @@ class TestShellRules : public QObject
 private slots:
     void tabsFollowOneAnother_data();
     void tabsFollowOneAnother();
-    void printWaitsForWhatTheJobTypeNeeds_data();
-    void printWaitsForWhatTheJobTypeNeeds();
     void clientInformationIsWrittenOrRemoved_data();
     void clientInformationIsWrittenOrRemoved();
     void shellEntriesCarryTheirClient();
@@ -56,28 +54,6 @@ void TestShellRules::tabsFollowOneAnother()
     QTEST(static_cast<int>(nextTab(present, from)), "next");
     QTEST(static_cast<int>(previousTab(present, from)), "previous");
     QTEST(static_cast<int>(tabToShow(present, from)), "shown");
-}
-
-void TestShellRules::printWaitsForWhatTheJobTypeNeeds_data()
-{
-    QTest::addColumn<JobTypeState>("state");
-    QTest::addColumn<PrintCheck>("check");
-
-    QTest::newRow("normal") << JobTypeState{1, false, false} << PrintCheck::Proceed;
-    QTest::newRow("secure, no passcode")
-        << JobTypeState{6, false, true} << PrintCheck::MissingPasscode;
-    QTest::newRow("secure, passcode") << JobTypeState{6, true, false} << PrintCheck::Proceed;
-    QTest::newRow("fax, no recipient")
-        << JobTypeState{5, true, false} << PrintCheck::MissingFaxRecipients;
-    QTest::newRow("fax, recipients") << JobTypeState{5, false, true} << PrintCheck::Proceed;
-    QTest::newRow("delayed") << JobTypeState{7, false, false} << PrintCheck::Proceed;
-}
-
-void TestShellRules::printWaitsForWhatTheJobTypeNeeds()
-{
-    QFETCH(JobTypeState, state);
-
-    QTEST(checkBeforePrint(state), "check");
 }
 
 void TestShellRules::clientInformationIsWrittenOrRemoved_data()

@@ -15,22 +15,16 @@ class TestPanelStories : public QObject
 
 private slots:
     void keepsASecurePrintsCodeInTheTicketAlone();
-    void makesACodeWhereNoneIsGiven();
     void holdsBackASecurePrintWithoutCode();
-    void forgetsTheCodeOfAnotherJobType_data();
-    void forgetsTheCodeOfAnotherJobType();
     void waitsForTheNextTimeOfADelayedJob();
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
-    void leavesNothingOfDeletedPages();
     void endsWhileAPanelAsks_data();
     void endsWhileAPanelAsks();
-    void putsSeparatorsBetweenTransparencies();
     void saysWhatPanelsEntered();
     void saysWhatWillBeMissing();
     void keepsWhatWasSetLast_data();
     void keepsWhatWasSetLast();
-    void keepsItsSettingsWhileOthersChange();
     void letsOptionsBeatATicket_data();
     void letsOptionsBeatATicket();
 };
@@ -62,21 +56,9 @@ void TestPanelStories::keepsASecurePrintsCodeInTheTicketAlone()
 
     const Dictionary jobType = jobTypeIn(ticketIn(folder));
     QCOMPARE(jobType.value("JobType"), QVariant(qint64(6)));
-    QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("4815"));
-    QVERIFY(!contents(folder + "/options").contains("4815"));
-    QVERIFY(!run.out.contains("4815") && !run.err.contains("4815"));
-}
-
-void TestPanelStories::makesACodeWhereNoneIsGiven()
-{
-    const Desk desk;
-    const QString folder = desk.path("out");
-    QENDED(desk.run({"--demo", "--no-window", "--script", script("secure-print-made.kps"), "--to",
-                     folder}),
-           0);
-    const QString made = jobTypeIn(ticketIn(folder)).value("SecurePrintPassword").toString();
-    static const QRegularExpression fourDigits(QStringLiteral("^[1-9][0-9]{3}$"));
-    QVERIFY2(fourDigits.match(made).hasMatch(), qPrintable(made));
+    QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("48151623"));
+    QVERIFY(!contents(folder + "/options").contains("48151623"));
+    QVERIFY(!run.out.contains("48151623") && !run.err.contains("48151623"));
 }
 
 void TestPanelStories::holdsBackASecurePrintWithoutCode()
@@ -100,45 +82,6 @@ void TestPanelStories::holdsBackASecurePrintWithoutCode()
                          "--no-window), or with --script FILE, which takes what is secret from "
                          "--secret NAME=FILE."));
     QVERIFY(!QFile::exists(folder));
-}
-
-void TestPanelStories::forgetsTheCodeOfAnotherJobType_data()
-{
-    QTest::addColumn<QByteArray>("script"); // after a secure print got its code
-    QTest::addColumn<int>("jobType");
-
-    QTest::newRow("normal") << QByteArray("choose @jobType key Normal\n") << 1;
-    QTest::newRow("saved, given up")
-        << QByteArray("choose @jobType key \"Save to Mailbox Command\"\n"
-                      "expect @secureSavedJob checked false\nexpect @passcode text \"\"\n"
-                      "expect @okButton enabled true\nclick @cancelButton\n")
-        << 3;
-    QTest::newRow("saved with a code, and secure again")
-        << QByteArray("choose @jobType key \"Save to Mailbox Command\"\n"
-                      "check @secureSavedJob on\n"
-                      "type @passcode \"1623\"\ntype @confirmPasscode \"1623\"\n"
-                      "click @okButton\nchoose @jobType key SecurePrint\n"
-                      "expect @passcode text \"\"\nclick @cancelButton\n"
-                      "expect @jobTypeHint visible true\n"
-                      "choose @jobType key Normal\nexpect @jobTypeHint visible false\n")
-        << 1;
-}
-
-void TestPanelStories::forgetsTheCodeOfAnotherJobType()
-{
-    QFETCH(QByteArray, script);
-    QFETCH(int, jobType);
-    const Desk desk;
-    // Three digits: a saved job could not even be kept with it.
-    write(desk.path("s.kps"),
-          "tab 1\nchoose @jobType key SecurePrint\n"
-          "type @passcode \"481\"\ntype @confirmPasscode \"481\"\n"
-          "click @okButton\n"
-              + script + "print\n");
-    QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps", "--to", "out"}), 0);
-    const Dictionary entry = jobTypeIn(ticketIn(desk.path("out")));
-    QCOMPARE(entry.value("JobType"), QVariant(qint64(jobType)));
-    QVERIFY(!entry.contains("SecurePrintPassword"));
 }
 
 void TestPanelStories::waitsForTheNextTimeOfADelayedJob()
@@ -167,12 +110,8 @@ void TestPanelStories::carriesEverythingThroughATicket_data()
                                  << "paper-output";
     QTest::newRow("paper, mid") << "mid"
                                 << "paper-output-mid";
-    QTest::newRow("paper, bare") << "bare"
-                                 << "paper-output-bare";
     QTest::newRow("image, full") << "full"
                                  << "image-options";
-    QTest::newRow("image, bare") << "bare"
-                                 << "image-options-bare";
     QTest::newRow("special pages") << "full"
                                    << "special-pages";
 }
@@ -214,26 +153,6 @@ void TestPanelStories::carriesEverythingThroughATicket()
     QCOMPARE(fromPreset, one);
 }
 
-void TestPanelStories::leavesNothingOfDeletedPages()
-{
-    const Desk desk;
-    const QStringList keys{QStringLiteral("com.kelvo.print.SpecialPages.InsertList"),
-                           QStringLiteral("com.kelvo.print.SpecialPages.ExceptionList")};
-    TicketFile old;
-    for (const QString &key : keys)
-        old.printSettings.entries[key] = {Array{Dictionary{{"StartPage", 1}, {"EndPage", 2}}},
-                                          QStringLiteral("test")};
-    old.printSettings.ppdChoices = {{"KVFrontCoverSheet", "Tray1"}};
-    QVERIFY(writeTicketFile(desk.path("old.plist"), old));
-    QENDED(desk.run({"--demo", "--no-window", "--ticket-in", "old.plist", "--script",
-                     script("special-pages-empty.kps"), "--to", "out"}),
-           0);
-    const TicketFile sent = ticketIn(desk.path("out"));
-    for (const QString &key : keys)
-        QVERIFY(!sent.printSettings.entries.contains(key));
-    QCOMPARE(sent.printSettings.ppdChoices.value("KVFrontCoverSheet"), QStringLiteral("None"));
-}
-
 void TestPanelStories::endsWhileAPanelAsks_data()
 {
     QTest::addColumn<QByteArray>("lines");
@@ -251,22 +170,6 @@ void TestPanelStories::endsWhileAPanelAsks()
     const Desk desk;
     write(desk.path("ends.kps"), lines);
     QENDED(desk.run({"--demo", "--no-window", "--script", "ends.kps", "--to", "out"}), 2);
-}
-
-void TestPanelStories::putsSeparatorsBetweenTransparencies()
-{
-    const Desk desk;
-    const QString folder = desk.path("out");
-    QENDED(
-        desk.run({"--demo", "--no-window", "--script", script("separators.kps"), "--to", folder}),
-        0);
-    const auto options = optionsIn(folder + "/options");
-    for (const auto &[option, choice] : {std::pair("MediaType", "Transparency"),
-                                         {"MediaColor", "Clear"},
-                                         {"KVSlipSheetPrint", "Blank"},
-                                         {"KVSlipSheetSource", "Tray3"},
-                                         {"Duplex", "None"}})
-        QCOMPARE(options.values(option), QStringList(choice));
 }
 
 void TestPanelStories::saysWhatPanelsEntered()
@@ -335,16 +238,6 @@ void TestPanelStories::keepsWhatWasSetLast()
           ("tab 2\n" + first + last + "click @fix\nexpect @fix visible false\nprint\n").toUtf8());
     QENDED(desk.run({"--demo", "--no-window", "--script", "fix.kps", "--to", "out"}), 0);
     QCOMPARE(optionsIn(desk.path("out/options")).values(kept), QStringList(choice));
-}
-
-void TestPanelStories::keepsItsSettingsWhileOthersChange()
-{
-    const Desk desk;
-    const QString folder = desk.path("out");
-    QENDED(desk.run({"--demo", "--no-window", "--script", script("kept.kps"), "--to", folder}), 0);
-    const auto options = optionsIn(folder + "/options");
-    QVERIFY(!options.contains("MediaColor"));
-    QCOMPARE(options.values("StapleLocation"), QStringList("None"));
 }
 
 void TestPanelStories::letsOptionsBeatATicket_data()

@@ -92,9 +92,7 @@ private slots:
     void initTestCase();
 
     void printsTheBundledDeviceIntoAFolder();
-    void givesTheSameTicketEachTime();
     void takesDocumentsFromStandardInput();
-    void printsToAQueue();
     void saysWhyAPrinterDoesNotPrint();
     void saysWhatARawQueueIsTold();
     void sendsDividersToAQueue();
@@ -110,20 +108,14 @@ private slots:
     void saysThatItsPanelsAreDamaged();
     void saysWhatItsPanelsLack();
     void saysThatTheDocumentIsDamaged();
-    void leavesOutAChoiceThatNoTableKnows();
-    void showsWhatTheJobAsksForWhateverThePpdsDefaults();
     void refusesBrokenInputs_data();
     void refusesBrokenInputs();
     void waitsForADeadServerOnlySoLong_data();
     void waitsForADeadServerOnlySoLong();
     void printsPlainlyOnlyWhereThereIsNoPpd();
     void endsOnAnInterrupt();
-    void keepsWhatStandsInTheFolder_data();
-    void keepsWhatStandsInTheFolder();
     void keepsWhatTheUserNamed_data();
     void keepsWhatTheUserNamed();
-    void refusesAPpdThatWasCutOff();
-    void printsWhatIsNamedOnTheSampleDevice();
     void tellsOfAnOutputThatIsFull();
     void endsWhereThereAreNoThreads();
     void endsWhereStandardInputIsClosed();
@@ -135,7 +127,6 @@ private slots:
     void keepsWhatIsChosenAsItIsShown_data();
     void keepsWhatIsChosenAsItIsShown();
     void missesOfAnotherDevicesTicketWhatWasAsked();
-    void mendsAConflict();
     void refusesToPrintAConflict();
     void laterSettingsBeatEarlierOnes();
     void refusesWhatCannotBeDone_data();
@@ -201,35 +192,6 @@ void TestStories::printsTheBundledDeviceIntoAFolder()
     QENDED(again, 0);
 }
 
-void TestStories::givesTheSameTicketEachTime()
-{
-    const Desk desk;
-    QList<QMap<QString, QByteArray>> results;
-    QSet<QByteArray> nonces;
-    for (const char *name : {"one", "two", "three"}) {
-        const QString folder = desk.path(name);
-        QENDED(
-            desk.run({"--demo", "--no-window", "--script", script("advanced.kps"), "--to", folder}),
-            0);
-        TicketFile ticket = ticketIn(folder);
-        nonces.insert(ticket.unknown.take(nonceKey).toByteArray());
-        // A day after now, until somebody chooses a time.
-        QVariant &jobType =
-            ticket.printSettings.entries[QStringLiteral("com.kelvo.print.JobType")].value;
-        QVariantMap entries = jobType.toMap();
-        QVERIFY(entries.remove(QStringLiteral("DelayedPrintTime")));
-        jobType = entries;
-        QByteArray options = contents(folder + "/options");
-        options.truncate(options.indexOf("kelvo-ticket="));
-        results.append({{"options", options},
-                        {"ticket", CFPropertyListCreateXMLData(propertyListFrom(ticket)).value()}});
-    }
-    QCOMPARE(nonces.size(), 3);
-    QVERIFY(!results[0].value("options").isEmpty());
-    QCOMPARE(results[1], results[0]);
-    QCOMPARE(results[2], results[0]);
-}
-
 void TestStories::takesDocumentsFromStandardInput()
 {
     const Desk desk;
@@ -246,32 +208,6 @@ void TestStories::takesDocumentsFromStandardInput()
     QENDED(text, 0);
     QCOMPARE(text.out, folder + " (stdin)\n");
     QCOMPARE(Poppler::Document::load(folder + "/document.pdf")->numPages(), 1);
-}
-
-void TestStories::printsToAQueue()
-{
-    const Desk desk;
-    const std::size_t before = m_cups.jobs(0).size();
-    const Run run =
-        desk.run({"-d", "Hall-3", "--no-window", "--script", script("advanced.kps"), documentPath});
-    QENDED(run, 0);
-    QVERIFY2(QRegularExpression("^Hall-3-[1-9][0-9]* document.pdf\n$").match(run.out).hasMatch(),
-             qPrintable(run.out));
-    QCOMPARE(run.messages(), QStringList());
-
-    const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
-    QCOMPARE(jobs.size(), before + 1);
-    const PrivateCups::Job &job = jobs.back();
-    QCOMPARE(run.out, "Hall-3-" + job.id + " document.pdf\n");
-    QCOMPARE(job.title, "document.pdf");
-    for (const auto &[option, choice] : {std::pair("JCLBanner", "True"),
-                                         {"Jog", "EndOfSet"},
-                                         {"KVFeedEdge", "ShortEdge"},
-                                         {"PageSize", "A4"}})
-        QVERIFY2(job.options.value(option) == QStringList(choice), option);
-    QCOMPARE(job.options.value(ticketOption).size(), 1);
-    QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).first(), "none"),
-             QString());
 }
 
 void TestStories::saysWhyAPrinterDoesNotPrint()
@@ -331,14 +267,20 @@ void TestStories::sendsDividersToAQueue()
     const QString example = QStringLiteral(KELVO_SOURCE_DIR "/docs/examples/dividers.kps");
     const Run run = desk.run({"-d", "Hall-3", "--no-window", "--script", example, documentPath});
     QENDED(run, 0);
+    QCOMPARE(run.messages(), QStringList());
     for (const char *words : {"Front Cover Source: Tray 1", "Inserts: 2", "Exception pages: 5"})
         QVERIFY2(run.out.contains(words), qPrintable(run.out));
 
     const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
     QCOMPARE(jobs.size(), before + 1);
     const PrivateCups::Job &job = jobs.back();
+    QVERIFY2(run.out.endsWith("Hall-3-" + job.id + " document.pdf\n"), qPrintable(run.out));
+    QCOMPARE(job.title, "document.pdf");
     for (const char *option : {"KVFrontCoverSheet", "KVBackCoverSheet"})
         QCOMPARE(job.options.value(option), QStringList("Tray1"));
+    QCOMPARE(job.options.value(ticketOption).size(), 1);
+    QCOMPARE(ticketProblem(job.document, job.options.value(ticketOption).first(), "none"),
+             QString());
     write(desk.path("arrived.plist"), attachmentIn(job.document, "kelvo-ticket.plist"));
     const auto ticket = readTicketFile(desk.path("arrived.plist"));
     QVERIFY(ticket);
@@ -595,37 +537,6 @@ void TestStories::saysThatTheDocumentIsDamaged()
     QVERIFY2(looked.out.contains("The document cannot be opened: no.pdf"), qPrintable(looked.out));
 }
 
-void TestStories::leavesOutAChoiceThatNoTableKnows()
-{
-    const Desk desk;
-    const QStringList device{
-        "--ppd", testPpds + "unknown-choice.ppd", "--no-window", "--script", "s.kps", documentPath};
-    write(desk.path("s.kps"),
-          "panel Advanced\nexpect @requestOffset items 2\n"
-          "choose @requestOffset key EndOfSet\n");
-    const Run run = desk.run(device);
-    QENDED(run, 0);
-    QCOMPARE(run.messages().count("Skipped unrecognized choice in PPD: Spiral"), 1);
-    write(desk.path("s.kps"), "panel Advanced\nchoose @requestOffset key Spiral\n");
-    QENDED(desk.run(device), 3);
-}
-
-// A PPD that begins with envelopes, which are not offset, and with a staple where no
-// finisher is fitted: neither says anything about this job.
-void TestStories::showsWhatTheJobAsksForWhateverThePpdsDefaults()
-{
-    const Desk desk;
-    QByteArray ppd = contents(fullPpd);
-    ppd.replace("*DefaultPageSize: A4", "*DefaultPageSize: EnvDL");
-    ppd.replace("*DefaultKVFinisher: BClass", "*DefaultKVFinisher: None");
-    ppd.replace("*DefaultStapleLocation: None", "*DefaultStapleLocation: SinglePortrait");
-    write(desk.path("other.ppd"), ppd);
-    write(desk.path("s.kps"), "panel Advanced\nexpect @requestOffset text \"Offset Each Set\"\n");
-    QENDED(desk.run({"--ppd", "other.ppd", "-o", "PageSize=A4", "-o", "Jog=EndOfSet", "-o",
-                     "StapleLocation=None", "--no-window", "--script", "s.kps", documentPath}),
-           0);
-}
-
 void TestStories::refusesBrokenInputs_data()
 {
     QTest::addColumn<QString>("kind");
@@ -786,55 +697,6 @@ void TestStories::endsOnAnInterrupt()
     QCOMPARE(ready.messages(), QStringList());
 }
 
-void TestStories::keepsWhatStandsInTheFolder_data()
-{
-    QTest::addColumn<QString>("trouble");
-
-    QTest::newRow("no room for the document") << "8192";
-    QTest::newRow("no room in a folder that cannot be written") << "unwritable";
-    QTest::newRow("a file where the folder should be") << "a file";
-    QTest::newRow("a folder where a file should be") << "a folder";
-    QTest::newRow("no place for the ticket") << "a ticket";
-}
-
-void TestStories::keepsWhatStandsInTheFolder()
-{
-    QFETCH(QString, trouble);
-    Desk desk;
-    const QString folder = desk.path("out");
-    const QStringList arguments{"--ppd", testPpds + "no-ticket.ppd", "--no-window", documentPath};
-    QENDED(desk.run(arguments + QStringList{"--to", folder}), 0);
-    const auto stood = filesIn(folder);
-    QCOMPARE(stood.size(), 3);
-
-    QString target = folder;
-    if (trouble == "unwritable") {
-        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
-    } else if (trouble == "a file") {
-        target = desk.path("file");
-        write(target, "mine");
-    } else if (trouble == "a folder") {
-        target = desk.path("other");
-        QVERIFY(QDir().mkpath(target + "/document.pdf"));
-    } else if (trouble != "a ticket") {
-        desk.atStart([bytes = trouble.toULong()] {
-            const rlimit limit{bytes, bytes};
-            ::setrlimit(RLIMIT_FSIZE, &limit);
-        });
-    }
-    QStringList more{"--to", target, "-n", "7"};
-    if (trouble == "a ticket")
-        more << "--ticket-out" << documentPath + "/job.plist";
-    const Run run = desk.run(arguments + more);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QENDED(run, trouble == "a ticket" ? 2 : 1);
-    QVERIFY2(run.messages().size() == 1, qPrintable(run.err));
-    QCOMPARE(run.out, QString());
-    QCOMPARE(filesIn(folder), stood);
-    if (trouble == "a file")
-        QCOMPARE(contents(target), "mine");
-}
-
 // Nothing that the user named is lost to what the program writes.
 void TestStories::keepsWhatTheUserNamed_data()
 {
@@ -848,6 +710,7 @@ void TestStories::keepsWhatTheUserNamed_data()
     row({"--ticket-out", "document.pdf", "document.pdf"}, 2, "document.pdf is the document itself");
     row({"--ticket-out", "link.pdf", "document.pdf"}, 2, "link.pdf is the document itself");
     row({"--ticket-out", "keep.txt", "document.pdf"}, 2, "not a ticket");
+    row({"--ticket-out", "list.plist", "document.pdf"}, 2, "not a ticket");
     row({"--ticket-out", "no/t.plist", "document.pdf"}, 2, "the folder no does not exist");
     row({"--preset-out", "keep.txt", "document.pdf"}, 2, "not a ticket");
     row({"--preset-out", "./p.plist", "--ticket-out", "p.plist", "document.pdf"}, 2,
@@ -882,6 +745,7 @@ void TestStories::keepsWhatTheUserNamed()
     write(desk.path("document.pdf"), contents(documentPath));
     QVERIFY(QFile::link(desk.path("document.pdf"), desk.path("link.pdf")));
     write(desk.path("keep.txt"), "years of work\n");
+    write(desk.path("list.plist"), "<plist version=\"1.0\"><array/></plist>");
     write(desk.path("run.kps"), "print\n");
     QVERIFY(QDir().mkpath(desk.path("busy/options")));
     write(desk.path("busy/ticket.plist"), "an older one\n");
@@ -901,30 +765,6 @@ void TestStories::keepsWhatTheUserNamed()
     QCOMPARE(filesIn(desk.path(".")), before);
     QCOMPARE(filesIn(desk.path("busy")), busyBefore);
     QVERIFY(!QFile::exists(desk.path("no")) && !QFile::exists(desk.path("a")));
-}
-
-void TestStories::refusesAPpdThatWasCutOff()
-{
-    const Desk desk;
-    write(desk.path("cut.ppd"), contents(fullPpd).left(20'000));
-    const Run run = desk.run({"--no-window", "--ppd", "cut.ppd", "--to", "out", documentPath});
-    QENDED(run, 4);
-    QVERIFY2(run.err.contains("the file ends in the middle of the option"), qPrintable(run.err));
-}
-
-void TestStories::printsWhatIsNamedOnTheSampleDevice()
-{
-    const Desk desk;
-    write(desk.path("own.txt"), "Of my own\n");
-    for (const auto &[arguments, input] :
-         {std::pair(QStringList{"own.txt"}, ""), {QStringList{"-"}, "Of my own\n"}}) {
-        const Run run =
-            desk.run(QStringList{"--demo", "--no-window", "--to", "out"} + arguments, input);
-        QENDED(run, 0);
-        const auto pdf = Poppler::Document::load(desk.path("out/document.pdf"));
-        QVERIFY(pdf);
-        QVERIFY(pdf->page(0)->text({}).contains("Of my own"));
-    }
 }
 
 // Who reads the result must not take silence for one.
@@ -1191,16 +1031,6 @@ void TestStories::missesOfAnotherDevicesTicketWhatWasAsked()
     QCOMPARE(same, first);
 }
 
-void TestStories::mendsAConflict()
-{
-    const Desk desk;
-    QENDED(desk.run({"--demo", "--no-window", "--script", script("conflict.kps"), "--to", "out"}),
-           0);
-    const auto options = optionsIn(desk.path("out/options"));
-    QVERIFY(options.value("Jog") != "EndOfSet" || options.value("PageSize") != "Env10");
-    QVERIFY(!QImage(desk.path("conflict.png")).isNull());
-}
-
 void TestStories::refusesToPrintAConflict()
 {
     const Desk desk;
@@ -1272,9 +1102,6 @@ void TestStories::refusesWhatCannotBeDone_data()
     };
     const QStringList hall{"-d", "Hall-3", documentPath};
     row("unknown command", "tab 4\nchose @x row 1\n", 2, "s.kps:2: there is no command \"chose\"");
-    row("text not closed", "type @pages \"1-\n", 2, "s.kps:1: ");
-    row("too few words", "\n\nexpect @copies\n", 2, "s.kps:3: ");
-    row("not UTF-8", "tab 4\ntype @pages \"\xff\"\n", 2, "s.kps:2: this is not UTF-8");
     row("unknown control", "tab 4\nclick @prnt\n", 2, "s.kps:2: @prnt is not in the window");
     row("unknown tab", "tab 7\n", 2, "s.kps:1: 7: there is no such tab");
     row("unknown panel", "panel Advancd\n", 2, "s.kps:1: Advancd: there is no such panel");

@@ -83,6 +83,10 @@ void TestJobOptions::sayEachSettingOnce_data()
         {"copies=3", "multiple-document-handling=separate-documents-uncollated-copies",
          "Collate=False"});
 
+    row("one copy where the queue says otherwise", full, {}, plain,
+        {{"multiple-document-handling", "separate-documents-uncollated-copies"}},
+        {"copies=1", "multiple-document-handling=separate-documents-collated-copies"});
+
     const PPDDictionary duplex{
         {"Duplex", "DuplexTumble"}, {"OutputBin", "EnvFolder"}, {"PageSize", "A4"}};
     row("no twins without defaults", full, duplex, plain, {},

@@ -1,17 +1,14 @@
 #include "delivery.h"
+#include "files.h"
 #include "pdf_samples.h"
 #include "property_list.h"
 #include "sample_documents.h"
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace kelvo;
@@ -28,8 +25,6 @@ private slots:
     void init();
     void carryTheTicketWhoseHashTheyName();
     void neverRepeatATicket();
-    void replaceOlderTickets_data();
-    void replaceOlderTickets();
     void takeOlderTicketsOutWhereverTheyHang_data();
     void takeOlderTicketsOutWhereverTheyHang();
     void leaveNothingOfEarlierRevisions_data();
@@ -98,12 +93,6 @@ static QString optionOf(const PreparedJob &job, const QString &name)
     return {};
 }
 
-static QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 static mode_t modeOf(const QString &path)
 {
     struct stat status = {};
@@ -144,34 +133,6 @@ void TestPreparedJobs::neverRepeatATicket()
     const auto other = prepareJob(wanted);
     QVERIFY(one && other);
     QVERIFY(one.value().ticketSha256 != other.value().ticketSha256);
-}
-
-void TestPreparedJobs::replaceOlderTickets_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("same name") << "kelvo-ticket.plist";
-    QTest::newRow("under another key") << "zzz (kelvo-ticket.plist)";
-    QTest::newRow("of another file name") << "kelvo-ticket.plist (zzz)";
-    QTest::newRow("in another case") << "Kelvo-Ticket.PLIST";
-}
-
-void TestPreparedJobs::replaceOlderTickets()
-{
-    QFETCH(QString, name);
-    const QMap<QString, QByteArray> older{{name, "older"}, {"notes.txt", "mine"}};
-    const auto job = prepareJob(request(reads, 3, older));
-    QVERIFY2(job, qPrintable(job.reason()));
-    QCOMPARE(attachmentsOf(job.value().pdfPath),
-             (QMap<QString, QByteArray>{{"kelvo-ticket.plist", job.value().ticket},
-                                        {"notes.txt", "mine"}}));
-    QVERIFY(!bytesOf(job.value().pdfPath).contains("older"));
-
-    // A queue that reads none gets none, also not the older one.
-    JobRequest open = request(readsNot, 3, older);
-    open.ticket.printSettings.entries.clear();
-    const auto plain = prepareJob(open);
-    QVERIFY2(plain, qPrintable(plain.reason()));
-    QCOMPARE(attachmentsOf(plain.value().pdfPath).keys(), QStringList{"notes.txt"});
 }
 
 // Objects 1 to 3 are the catalog, the page tree and the page; each form adds what it
@@ -536,17 +497,6 @@ void TestPreparedJobs::goIntoAPrivateFolder()
              Code::NotWritable);
 }
 
-// A limit on file sizes fails like a full disk.
-static bool limitFileSize(rlim_t bytes)
-{
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit = {};
-    if (::getrlimit(RLIMIT_FSIZE, &limit) != 0)
-        return false;
-    limit.rlim_cur = bytes;
-    return ::setrlimit(RLIMIT_FSIZE, &limit) == 0;
-}
-
 void TestPreparedJobs::keepWhatStandsThereOnAFullDisk()
 {
     const auto job = prepareJob(request(reads));
@@ -555,10 +505,12 @@ void TestPreparedJobs::keepWhatStandsThereOnAFullDisk()
     QVERIFY(deliverToFolder(job.value(), folder));
     const auto other = prepareJob(request(reads, 200));
     QVERIFY(other);
+    const auto onFullDisk = [&folder](rlim_t room, const PreparedJob &sent) {
+        const FullDisk full(room);
+        return deliverToFolder(sent, folder);
+    };
     for (const rlim_t room : {0U, 500U, 4096U}) {
-        QVERIFY(limitFileSize(room));
-        const auto delivered = deliverToFolder(other.value(), folder);
-        QVERIFY(limitFileSize(RLIM_INFINITY));
+        const auto delivered = onFullDisk(room, other.value());
         QVERIFY(!delivered);
         QCOMPARE(delivered.error().code, Code::NotWritable);
         QVERIFY(delivered.error().where.startsWith(folder));
@@ -571,9 +523,7 @@ void TestPreparedJobs::keepWhatStandsThereOnAFullDisk()
     PreparedJob unbalanced = other.value();
     const auto room = rlim_t(QFileInfo(unbalanced.pdfPath).size()) + 1;
     unbalanced.ticket = QByteArray(qsizetype(room) * 2, 'x');
-    QVERIFY(limitFileSize(room));
-    const auto delivered = deliverToFolder(unbalanced, folder);
-    QVERIFY(limitFileSize(RLIM_INFINITY));
+    const auto delivered = onFullDisk(room, unbalanced);
     QVERIFY(!delivered);
     QCOMPARE(bytesOf(folder + "/document.pdf"), bytesOf(job.value().pdfPath));
     QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 3);
@@ -582,11 +532,12 @@ void TestPreparedJobs::keepWhatStandsThereOnAFullDisk()
 void TestPreparedJobs::sayWhenTheDiskIsFullBefore()
 {
     const JobRequest wanted = request(reads, 200);
-    QVERIFY(limitFileSize(500));
-    const auto job = prepareJob(wanted);
-    QVERIFY(limitFileSize(RLIM_INFINITY));
-    QVERIFY(!job);
-    QCOMPARE(job.error().code, Code::NotWritable);
+    {
+        const FullDisk full(500);
+        const auto job = prepareJob(wanted);
+        QVERIFY(!job);
+        QCOMPARE(job.error().code, Code::NotWritable);
+    }
     QVERIFY(prepareJob(wanted));
 }
 

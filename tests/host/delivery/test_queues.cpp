@@ -1,4 +1,5 @@
 #include "delivery.h"
+#include "files.h"
 #include "pdf_samples.h"
 #include "printers.h"
 #include "private_cups.h"
@@ -63,12 +64,6 @@ private:
 static const QString reads =
     QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
 static const QString readsNot = QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd");
-
-static QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 void TestQueues::initTestCase()
 {

@@ -1,12 +1,11 @@
 #include "document.h"
 #include "document_files.h"
+#include "files.h"
 #include "sample_documents.h"
 #include "size_limits.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
 #include <QTest>
@@ -15,10 +14,8 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
-#include <csignal>
 #include <cstring>
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -88,12 +85,6 @@ QByteArray tiff(int pages)
     return bytes;
 }
 
-QByteArray readAll(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QByteArray encrypted(const QByteArray &pdf, const char *password, bool mayPrint)
 {
     QPDF document;
@@ -123,23 +114,6 @@ QString textOf(const Document &document)
         pages << pdf->page(page)->text(QRectF()).trimmed();
     return pages.join(u'|');
 }
-
-// Files may have this many bytes while this lives: a disk that fills up.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before = {};
-};
 
 const QByteArray postScriptPage =
     "/Helvetica findfont 20 scalefont setfont 72 700 moveto (hello) show showpage\n";
@@ -608,7 +582,7 @@ void TestDocuments::unlocksWhatNeedsNoPassword()
 
     QVERIFY(document);
     QVERIFY(!document.value().isRepaired());
-    QVERIFY(readAll(document.value().pdfPath()).indexOf("/Encrypt") < 0);
+    QVERIFY(bytesOf(document.value().pdfPath()).indexOf("/Encrypt") < 0);
 }
 
 void TestDocuments::cutsPagesInOrder()
@@ -702,7 +676,7 @@ void TestDocuments::keepsFilesPrivateAndCleansUp()
         QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("document.pdf"));
     }
     QVERIFY(!QFileInfo::exists(folder));
-    QCOMPARE(readAll(source), "text");
+    QCOMPARE(bytesOf(source), "text");
 }
 
 void TestDocuments::saysThatTheDiskIsFull_data()

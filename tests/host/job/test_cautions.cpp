@@ -1,5 +1,6 @@
 #include "cautions.h"
 #include "left_out_covers.h"
+#include "page_placement.h"
 
 #include <QTest>
 
@@ -19,6 +20,7 @@ private slots:
     void saysWhyAPrinterDoesNotPrint();
     void numbersThePagesThatAreCut_data();
     void numbersThePagesThatAreCut();
+    void pagesAreCutBothWays();
     void remembersCoversThatAreLeftOut_data();
     void remembersCoversThatAreLeftOut();
 };
@@ -88,6 +90,17 @@ void TestCautions::numbersThePagesThatAreCut()
     QCOMPARE(caution.has_value(), !begin.isEmpty());
     if (caution)
         QVERIFY2(caution->text.startsWith(begin), qPrintable(caution->text));
+}
+
+void TestCautions::pagesAreCutBothWays()
+{
+    const QSizeF paper(595, 842);
+    for (const auto &[page, isCut] : {std::pair(QSizeF(595, 842), false),
+                                      {QSizeF(596, 843), false},
+                                      {QSizeF(597, 842), true},
+                                      {QSizeF(595, 844), true},
+                                      {QSizeF(842, 595), false}})
+        QCOMPARE(placePage(page, paper, Orientation::Portrait).isCut(), isCut);
 }
 
 void TestCautions::remembersCoversThatAreLeftOut_data()

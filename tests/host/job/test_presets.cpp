@@ -1,4 +1,5 @@
 #include "file_store.h"
+#include "files.h"
 #include "folders.h"
 #include "presets.h"
 #include "property_list.h"
@@ -55,20 +56,6 @@ static TicketFile ticketWith(const QString &staple)
 }
 
 static const SecretKeys keys{{"Job/Password"}, {}};
-
-static void write(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-static QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 static QStringList names(const std::vector<Preset> &presets)
 {
@@ -226,7 +213,7 @@ void TestPresets::ofTheSiteAreReadOnly()
 void TestPresets::thatAreDamagedAreListedAndKept()
 {
     const QString path = ownFolder() + "/Draft.plist";
-    write(path, "<plist><dict><key>");
+    putFile(path, "<plist><dict><key>");
     QCOMPARE(names(m_store.presets()), QStringList{"Draft"});
     const auto read = m_store.read("Draft");
     QVERIFY(!read);
@@ -259,7 +246,7 @@ void TestPresets::startJobsFromTheSitesDefaults()
     QVERIFY(QDir().mkpath(sitePresets()));
     QVERIFY(writeTicketFile(sitePresets() + "/default.plist", ticketWith("DualPortrait")));
     QCOMPARE(m_store.siteDefaults(), std::optional(ticketWith("DualPortrait")));
-    write(sitePresets() + "/default.plist", "<plist>");
+    putFile(sitePresets() + "/default.plist", "<plist>");
     QVERIFY(!m_store.siteDefaults());
 }
 

@@ -8,14 +8,12 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QPushButton>
-#include <QTemporaryFile>
 #include <QUuid>
 #include <QVBoxLayout>
 #include <QWidget>
 
 #include <algorithm>
 #include <memory>
-#include <unistd.h>
 
 // A window that drives a shell as a print dialog does, by the plug-in's factory.
 class DrivenDialog
@@ -110,36 +108,4 @@ public:
     kelvo::PMPDEContext context = nullptr;
     kelvo::CFStringRef title = nullptr;
     std::uint32_t maxH = 0, maxV = 0;
-};
-
-// What goes to standard error while it lives.
-class CapturedErrors
-{
-public:
-    CapturedErrors()
-    {
-        m_file.open();
-        fflush(stderr);
-        m_saved = dup(STDERR_FILENO);
-        dup2(m_file.handle(), STDERR_FILENO);
-    }
-    ~CapturedErrors()
-    {
-        fflush(stderr);
-        dup2(m_saved, STDERR_FILENO);
-        ::close(m_saved);
-    }
-    CapturedErrors(const CapturedErrors &) = delete;
-    CapturedErrors &operator=(const CapturedErrors &) = delete;
-
-    QString text()
-    {
-        fflush(stderr);
-        m_file.seek(0);
-        return QString::fromUtf8(m_file.readAll());
-    }
-
-private:
-    QTemporaryFile m_file;
-    int m_saved = -1;
 };

@@ -1,0 +1,177 @@
+#include "device_session.h"
+
+#include "special_pages_summary.h"
+
+#include <QTest>
+
+#include <memory>
+
+using namespace kelvo;
+
+namespace {
+
+constexpr std::int32_t kBlue = 2;
+
+Insert insertAfter(std::int32_t page, std::int32_t quantity = 1)
+{
+    Insert insert;
+    insert.stock().setColor(kUnset);
+    insert.setStartPage(page);
+    insert.setQuantity(quantity);
+    return insert;
+}
+
+ExceptionPage exceptionOf(std::int32_t first, std::int32_t last)
+{
+    ExceptionPage page;
+    page.stock().setColor(kUnset);
+    page.setStartPage(first);
+    page.setEndPage(last);
+    return page;
+}
+
+template <typename... Page>
+void addTo(SpecialPageList &list, const Page &...page)
+{
+    const std::vector<const SpecialPage *> pages{&page...};
+    list.add(pages);
+}
+
+} // namespace
+
+class TestSpecialPagesSummary : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void listsPagesInTheirOrder();
+    void describesPages_data();
+    void describesPages();
+    void lastOneSelectedSaysWhetherItMoves_data();
+    void lastOneSelectedSaysWhetherItMoves();
+};
+
+void TestSpecialPagesSummary::listsPagesInTheirOrder()
+{
+    const DeviceSession device("full");
+    const Cover front, back, other;
+    InsertList inserts;
+    ExceptionPageList exceptions;
+    addTo(inserts, insertAfter(5), insertAfter(3), insertAfter(0));
+    addTo(exceptions, exceptionOf(3, 5), exceptionOf(1, 1));
+    const SpecialPages pages{&front, &inserts, &exceptions, &back};
+    QStringList rows;
+    for (const SpecialPage *page : rowsOf(pages))
+        rows << pagesText(device.bundle, pages, *page) + u' ' + typeText(device.bundle, *page);
+    QCOMPARE(rows.join(QStringLiteral(" · ")),
+             QStringLiteral("Front Cover · Before page 1 Insert · 1 Exception · 3-5 Exception"
+                            " · 3 Insert · 5 Insert · Back Cover"));
+    QCOMPARE(pagesText(device.bundle, pages, other), QString());
+}
+
+void TestSpecialPagesSummary::describesPages_data()
+{
+    QTest::addColumn<std::shared_ptr<SpecialPage>>("page");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, const SpecialPage &page, const char *text) {
+        QTest::newRow(name) << std::shared_ptr<SpecialPage>(page.clone())
+                            << QString::fromUtf8(text);
+    };
+    const auto insertOn = [](const auto &change) {
+        Insert insert = insertAfter(2, 3);
+        change(insert.stock());
+        return insert;
+    };
+
+    Cover cover;
+    cover.stock().setSource(1);
+    row("a cover from a tray", cover, "Blank or preprinted");
+    cover.setSidesImaged(kCoverPrinted);
+    cover.stock().setSource(kUnset);
+    cover.stock().setCustomName("Card");
+    row("a printed cover of named stock", cover,
+        "Name: Card; Printed; White; No paper source: left out");
+    row("an insert", insertAfter(2, 3), "Sheets [3]");
+    row("from the inserter", insertOn([](Stock &stock) {
+            stock.setSource(kStockSourceInserter);
+            stock.setColor(kBlue);
+        }),
+        "Sheets [3]; Post-print inserter");
+    row("size, colour and type", insertOn([](Stock &stock) {
+            stock.setSize(4);
+            stock.setColor(kBlue);
+            stock.setType(kStockTypeStandard);
+        }),
+        "Sheets [3]; A4 (210 × 297 mm); Blue; Plain");
+    row("ordered, in a colour of its own", insertOn([](Stock &stock) {
+            stock.setColor(kStockColorCustom);
+            stock.setCustomColor("Teal");
+            stock.setType(kStockTypeOrdered);
+            stock.setCustomType("Maps");
+            stock.setModulus(4);
+        }),
+        "Sheets [3]; Teal; Maps (4)");
+    row("tabs", insertOn([](Stock &stock) {
+            stock.setType(kStockTypeTab);
+            stock.setModulus(5);
+        }),
+        "Sheets [3]; Tab Stock (5)");
+    row("a colour that the device does not have",
+        insertOn([](Stock &stock) { stock.setColor(4711); }), "Sheets [3]");
+
+    ExceptionPage exception = exceptionOf(1, 2);
+    row("an exception that differs in nothing", exception, "Use job setting");
+    exception.setPlex(3);
+    exception.setLightenDarken(-2);
+    row("an exception's sides and image", exception,
+        "2-sided print, flip on short edge; Lighten 2");
+    row("an exception without a last page", ExceptionPage(Dictionary{{"StartPage", 5}}),
+        "Covers no page");
+    row("an exception before page 1", ExceptionPage(Dictionary{{"SidesImaged", 1}}),
+        "1-sided print; Covers no page");
+}
+
+void TestSpecialPagesSummary::describesPages()
+{
+    QFETCH(std::shared_ptr<SpecialPage>, page);
+    const DeviceSession device("full");
+    QTEST(attributesText(*page, device.bundle), "text");
+}
+
+void TestSpecialPagesSummary::lastOneSelectedSaysWhetherItMoves_data()
+{
+    QTest::addColumn<QList<int>>("rows"); // an exception, then two inserts after one page, and one
+    QTest::addColumn<QString>("enabled"); // edit, remove, move up, move down
+
+    QTest::newRow("none") << QList<int>() << "0000";
+    QTest::newRow("an exception") << QList{0} << "1100";
+    QTest::newRow("the first insert") << QList{1} << "1101";
+    QTest::newRow("the second") << QList{2} << "1110";
+    QTest::newRow("one alone after its page") << QList{3} << "1100";
+    QTest::newRow("the last one cannot move") << QList{2, 3} << "0100";
+    QTest::newRow("the last one can move up") << QList{1, 2} << "0110";
+    QTest::newRow("the last one can move down") << QList{0, 1} << "0101";
+}
+
+void TestSpecialPagesSummary::lastOneSelectedSaysWhetherItMoves()
+{
+    QFETCH(QList<int>, rows);
+    InsertList inserts;
+    ExceptionPageList exceptions;
+    addTo(inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(4));
+    addTo(exceptions, exceptionOf(3, 3));
+    const auto all = rowsOf({nullptr, &inserts, &exceptions, nullptr});
+    std::vector<const SpecialPage *> selected;
+    for (const int row : rows)
+        selected.push_back(all[static_cast<std::size_t>(row)]);
+    const SpecialPagesCommands commands = commandsFor(inserts, selected, 4, false);
+    QString enabled;
+    for (const bool each : {commands.edit, commands.remove, commands.moveUp, commands.moveDown})
+        enabled += each ? u'1' : u'0';
+    QTEST(enabled, "enabled");
+    QVERIFY(commands.removeAll && !commands.undo);
+    QCOMPARE(commandsFor(inserts, {}, 0, true), (SpecialPagesCommands{.undo = true}));
+}
+
+QTEST_MAIN(TestSpecialPagesSummary)
+#include "test_special_pages_summary.moc"
