@@ -1,7 +1,7 @@
 #include "print_flow.h"
 
-#include "dialog_session.h"
 #include "device_offers.h"
+#include "dialog_session.h"
 #include "presets.h"
 #include "session_cautions.h"
 #include "session_words.h"
@@ -223,7 +223,7 @@ void PrintFlow::takeOutcome(const PrintOutcome &outcome)
 
 void PrintFlow::sayWhatWasNotSent()
 {
-    const SessionJob &job = m_session.job();
+    SessionJob &job = m_session.job();
     for (const QString &setting : job.missing())
         printLine(
             stderr,

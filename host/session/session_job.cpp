@@ -314,8 +314,7 @@ void SessionJob::restore(const Snapshot &snapshot)
 
 const JobDescription &SessionJob::description()
 {
-    m_describer.describe(m_session->printSettings(), m_session->pageFormat(), ppd(),
-                         m_description);
+    m_describer.describe(m_session->printSettings(), m_session->pageFormat(), ppd(), m_description);
     return m_description;
 }
 

@@ -40,8 +40,7 @@ public:
     };
     // Borrowed: the bundle says what of tickets is secret and what it means, `panels`
     // read and write them. Null for both: none.
-    SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels,
-               QObject *parent = nullptr);
+    SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObject *parent = nullptr);
 
     struct Device
     {

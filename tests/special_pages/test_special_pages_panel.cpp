@@ -90,7 +90,7 @@ void TestSpecialPagesPanel::forgetsTheUndoOfAnotherTicket()
             PMTicketSetCFArray(panel.session.settings(), "test",
                                ticketKey("SpecialPages.InsertList"), {other.asTicket()});
         panel.sync(kSyncRead);
-        QCOMPARE(hasUndoState(panel.data()), !isAnother);
+        QCOMPARE(panel.data().undo.has_value(), !isAnother);
         QCOMPARE(panel.data().settings.inserts.pageAtIndex(0)->startPage(), isAnother ? 9 : 3);
     }
     // Another direction moves nothing.

@@ -53,20 +53,19 @@ private slots:
 
 void TestSpecialPagesSummary::listsPagesInTheirOrder()
 {
-    const DeviceSession device("full");
-    const Cover front, back, other;
-    InsertList inserts;
-    ExceptionPageList exceptions;
-    addTo(inserts, insertAfter(5), insertAfter(3), insertAfter(0));
-    addTo(exceptions, exceptionOf(3, 5), exceptionOf(1, 1));
-    const SpecialPages pages{&front, &inserts, &exceptions, &back};
+    const DeviceSession session("full");
+    const Device device = currentDevice();
+    const Cover other;
+    SpecialPagesSettings pages{.frontCover = Cover(), .backCover = Cover()};
+    addTo(pages.inserts, insertAfter(5), insertAfter(3), insertAfter(0));
+    addTo(pages.exceptions, exceptionOf(3, 5), exceptionOf(1, 1));
     QStringList rows;
     for (const SpecialPage *page : rowsOf(pages))
-        rows << pagesText(device.bundle, pages, *page) + u' ' + typeText(device.bundle, *page);
+        rows << pagesText(device, pages, *page) + u' ' + typeText(device, *page);
     QCOMPARE(rows.join(QStringLiteral(" · ")),
              QStringLiteral("Front Cover · Before page 1 Insert · 1 Exception · 3-5 Exception"
                             " · 3 Insert · 5 Insert · Back Cover"));
-    QCOMPARE(pagesText(device.bundle, pages, other), QString());
+    QCOMPARE(pagesText(device, pages, other), QString());
 }
 
 void TestSpecialPagesSummary::describesPages_data()
@@ -134,8 +133,8 @@ void TestSpecialPagesSummary::describesPages_data()
 void TestSpecialPagesSummary::describesPages()
 {
     QFETCH(std::shared_ptr<SpecialPage>, page);
-    const DeviceSession device("full");
-    QTEST(attributesText(*page, device.bundle), "text");
+    const DeviceSession session("full");
+    QTEST(attributesText(*page, currentDevice()), "text");
 }
 
 void TestSpecialPagesSummary::lastOneSelectedSaysWhetherItMoves_data()
@@ -156,11 +155,11 @@ void TestSpecialPagesSummary::lastOneSelectedSaysWhetherItMoves_data()
 void TestSpecialPagesSummary::lastOneSelectedSaysWhetherItMoves()
 {
     QFETCH(QList<int>, rows);
-    InsertList inserts;
-    ExceptionPageList exceptions;
-    addTo(inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(4));
-    addTo(exceptions, exceptionOf(3, 3));
-    const auto all = rowsOf({nullptr, &inserts, &exceptions, nullptr});
+    SpecialPagesSettings pages;
+    const InsertList &inserts = pages.inserts;
+    addTo(pages.inserts, insertAfter(3, 1), insertAfter(3, 2), insertAfter(4));
+    addTo(pages.exceptions, exceptionOf(3, 3));
+    const auto all = rowsOf(pages);
     std::vector<const SpecialPage *> selected;
     for (const int row : rows)
         selected.push_back(all[static_cast<std::size_t>(row)]);
