@@ -92,7 +92,10 @@ struct Printing : Running, PrintQuestions
 void TestPrintFlow::aFixThatDoesNotHelpIsTakenBack()
 {
     auto begin = sampleBeginning();
-    begin.job.options = {{"StapleLocation", "SinglePortrait"}, {"MediaType", "Transparency"}};
+    begin.job.options = {{"StapleLocation", "SinglePortrait"},
+                         {"MediaType", "Transparency"},
+                         {"Jog", "EndOfSet"},
+                         {"OutputBin", "Side"}};
     Printing print(begin);
     print.panels.insistsOn = {{"StapleLocation", "SinglePortrait"}};
     QVERIFY(print.waitUntilIdle());
