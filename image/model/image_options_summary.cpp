@@ -11,6 +11,7 @@ namespace kelvo {
 namespace {
 
 const QString lightnessOption = QStringLiteral("KVImageQuality");
+const QString tonerSaverOption = QStringLiteral("KVEconomode");
 
 // A choice of the PPD's own is called as the PPD does.
 QString choiceText(const Device &device, const QString &choice)
@@ -45,12 +46,20 @@ QString lightenDarkenWords(const ImageOptionsSettings &settings, const Device &d
                  : QString();
 }
 
+QString tonerSaverWords(const ImageOptionsSettings &settings, const Device &device)
+{
+    if (!device.hasOption(tonerSaverOption))
+        return device.text("Not on This Device");
+    return device.text(isTonerSaverOffered(settings, device) ? "Toner Saver Hint"
+                                                             : "Choice Not Offered");
+}
+
 bool isTonerSaverOffered(const ImageOptionsSettings &settings, const Device &device)
 {
-    const QString option = QStringLiteral("KVEconomode");
     // 0: neither the ticket nor the PPD has a choice.
-    return device.hasOption(option)
-        && (settings.tonerSaver == 0 || isOffered(device.ppd, option, settings.tonerSaver));
+    return device.hasOption(tonerSaverOption)
+        && (settings.tonerSaver == 0
+            || isOffered(device.ppd, tonerSaverOption, settings.tonerSaver));
 }
 
 std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsSettings &settings,

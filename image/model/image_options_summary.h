@@ -12,6 +12,9 @@ QString lightenDarkenText(const Device &device, std::int32_t lightenDarken);
 // chosen or the device does not offer it.
 QString lightenDarkenWords(const ImageOptionsSettings &settings, const Device &device);
 
+// What it says of the toner saver: what it is for, or why it cannot be used.
+QString tonerSaverWords(const ImageOptionsSettings &settings, const Device &device);
+
 // The device has the toner saver, and the choice that the job has for it.
 bool isTonerSaverOffered(const ImageOptionsSettings &settings, const Device &device);
 

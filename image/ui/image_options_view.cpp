@@ -99,12 +99,8 @@ void showPpdRow(const ImageOptionsContext &panel, const PpdRow &row)
 void showTonerSaver(const ImageOptionsContext &panel)
 {
     panel.controls.tonerSaver->setChecked(panel.settings.tonerSaver == kTonerSaverOn);
-    if (hasOption(panel, "KVEconomode"))
-        findControl<QLabel>(panel.content, panelID(tonerSaverHint))
-            ->setText(localizedText(panel.bundle,
-                                    isTonerSaverOffered(panel.settings, panel.device)
-                                        ? QStringLiteral("Toner Saver Hint")
-                                        : QStringLiteral("Choice Not Offered")));
+    findControl<QLabel>(panel.content, panelID(tonerSaverHint))
+        ->setText(tonerSaverWords(panel.settings, panel.device));
 }
 
 void showPictures(const ImageOptionsContext &panel)
@@ -161,18 +157,9 @@ void fillImageOptionsControls(ImageOptionsContext &panel)
 {
     setUpLightenDarken(panel);
     tellTicketPlaces(panel.controls);
-    for (const PpdRow &row : ppdRows) {
-        PopupButton *popup = panel.controls.*row.popup;
-        if (hasOption(panel, row.option))
-            fillWithOfferedChoices(popup, panel.device.ppd, QString::fromLatin1(row.option));
-        else
-            setEnabledWithLabel(popup, false);
-    }
-    if (!hasOption(panel, "KVEconomode")) {
-        setEnabledWithLabel(panel.controls.tonerSaver, false);
-        findControl<QLabel>(panel.content, panelID(tonerSaverHint))
-            ->setText(localizedText(panel.bundle, QStringLiteral("Not on This Device")));
-    }
+    for (const PpdRow &row : ppdRows)
+        fillFromPpd(panel.controls.*row.popup, panel.device, QString::fromLatin1(row.option));
+    setEnabledWithLabel(panel.controls.tonerSaver, hasOption(panel, "KVEconomode"));
     for (const std::int32_t number : hints)
         makeHintText(findControl<QLabel>(panel.content, panelID(number)));
 }

@@ -95,4 +95,29 @@ QStringList stapleChoicesWithoutValue()
     return {singleLandscape, dualPortrait};
 }
 
+TicketPlaces finishingPlaces(OSType command)
+{
+    switch (command) {
+    case kCommandNoStaple:
+    case kCommandSingleStaple:
+    case kCommandDualStaple:
+    case kCommandMultipleStaples:
+        return {{kPPDChoices, QStringLiteral("StapleLocation")}};
+    case kCommandGenericPunch:
+    case kCommandNoPunch:
+    case kCommandTwoHoles:
+    case kCommandThreeHoles:
+    case kCommandFourHoles:
+        return {{kPPDChoices, QStringLiteral("KVPunch")}};
+    case kCommandNoFold:
+    case kCommandBiFold:
+    case kCommandCFold:
+    case kCommandZFold:
+    case kCommandZFoldHalfSheet:
+        return {{kPPDChoices, QStringLiteral("KVFold")}};
+    default:
+        return {};
+    }
+}
+
 } // namespace kelvo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "finishing.h"
+#include "ticket_file.h"
 
 #include <QString>
 #include <QStringList>
@@ -29,5 +30,8 @@ std::optional<std::int32_t> stapleOfChoice(const QString &choice);
 // Those choices: a menu shows each staple and punch once.
 QStringList punchChoicesWithoutValue();
 QStringList stapleChoicesWithoutValue();
+
+// Where the ticket says what that command of the finishing menu sets; nowhere for others.
+TicketPlaces finishingPlaces(OSType command);
 
 } // namespace kelvo

@@ -1,9 +1,12 @@
 #include "paper_output_summary.h"
 
+#include "cover_sync.h"
 #include "finishing_ticket.h"
 #include "ppd_choices.h"
+#include "separators.h"
 #include "setting_maps.h"
 #include "stock_summary.h"
+#include "two_sided.h"
 
 #include <optional>
 
@@ -45,8 +48,7 @@ std::vector<SummaryLine> paperOutputSummary(const PaperOutputSettings &settings,
     add("Job Type:", mapText(device, JobTypeMap, settings.jobType));
     add("Paper Summary:", stockSummaryText(device, kJobContextJob, &settings.jobStock));
     if (device.hasOption(QStringLiteral("Duplex")))
-        add("Two Sided Printing:",
-            mapText(device, PlexMap, settings.isBooklet() ? kPlexDuplex : settings.duplex));
+        add("Two Sided Printing:", mapText(device, PlexMap, shownTwoSided(settings)));
     add("Output Color:", valueText(device, "KVColorMode", settings.colorMode));
     if (devices.stapler)
         add("Stapling:", stapleText(settings, device));
@@ -54,6 +56,38 @@ std::vector<SummaryLine> paperOutputSummary(const PaperOutputSettings &settings,
         add("Hole Punch:", valueText(device, "KVPunch", settings.finishing.punch));
     add("Output Destination:", valueText(device, "OutputBin", settings.outputBin));
     return lines;
+}
+
+QString coversText(const PaperOutputSettings &settings, const Device &device)
+{
+    const std::optional<Cover> &front = settings.frontCover, &back = settings.backCover;
+    // No cover at all is in order.
+    if ((front && !reachesDevice(*front)) || (back && !reachesDevice(*back)))
+        return device.text("Cover Without Source");
+    if (front)
+        return device.text(back ? "Front and Back Covers" : "Front Cover Only");
+    return device.text(back ? "Back Cover Only" : "No Covers");
+}
+
+QString finishingText(const PaperOutputSettings &settings, const Device &device)
+{
+    const QString summary = CreateFinishingString(settings, device).trimmed();
+    const bool hasOther = device.has("BookletFoldKey") || device.has("TapeBindKey");
+    return summary.isEmpty() && !hasOther ? device.text("No Finishing Devices") : summary;
+}
+
+QString paperText(const PaperOutputSettings &settings, const Device &device)
+{
+    const QString paper = stockSummaryText(device, kJobContextJob, &settings.jobStock);
+    const QString line = separatorSummary(device, settings.separators, settings.separatorStock);
+    return settings.jobStock.type() == kStockTypeTransparency && !line.isEmpty()
+        ? QStringLiteral("%1\n%2").arg(paper, line)
+        : paper;
+}
+
+QString separatorsText(const PaperOutputSettings &settings, const Device &device)
+{
+    return mapText(device, SeparatorOptionMap, settings.separators);
 }
 
 } // namespace kelvo

@@ -13,4 +13,12 @@ namespace kelvo {
 std::vector<SummaryLine> paperOutputSummary(const PaperOutputSettings &settings,
                                             const Device &device);
 
+// What the panel says beside its buttons.
+QString coversText(const PaperOutputSettings &settings, const Device &device);
+// CreateFinishingString, or that the device has nothing to finish with.
+QString finishingText(const PaperOutputSettings &settings, const Device &device);
+// The job's paper, and what is put between transparencies.
+QString paperText(const PaperOutputSettings &settings, const Device &device);
+QString separatorsText(const PaperOutputSettings &settings, const Device &device);
+
 } // namespace kelvo

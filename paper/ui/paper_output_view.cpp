@@ -5,15 +5,14 @@
 #include "finishing_ticket.h"
 #include "hint_text.h"
 #include "job_type_setup.h"
-#include "offered_choices.h"
 #include "output_destinations.h"
 #include "paper_output_pictures.h"
+#include "paper_output_summary.h"
 #include "popups.h"
-#include "ppd_choices.h"
-#include "separators.h"
 #include "setting_maps.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
+#include "two_sided.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -21,27 +20,6 @@
 namespace kelvo {
 
 namespace {
-
-bool hasOption(const _PaperOutputContext &panel, const char *option)
-{
-    return panel.device.hasOption(QString::fromLatin1(option));
-}
-
-// Covers travel as their paper source. No cover at all is in order.
-bool reachesDevice(const std::optional<Cover> &cover)
-{
-    return !cover
-        || PPDChoiceForTicketValue(QStringLiteral("KVFrontCoverSheet"), cover->stock().source());
-}
-
-const char *coversKey(const std::optional<Cover> &front, const std::optional<Cover> &back)
-{
-    if (!reachesDevice(front) || !reachesDevice(back))
-        return "Cover Without Source";
-    if (front)
-        return back ? "Front and Back Covers" : "Front Cover Only";
-    return back ? "Back Cover Only" : "No Covers";
-}
 
 // What the summary has no line for.
 void showMoreFinishing(const _PaperOutputContext &panel)
@@ -54,60 +32,6 @@ void showMoreFinishing(const _PaperOutputContext &panel)
             names << QString(item.text).remove(QStringLiteral("…"));
     }
     panel.controls.moreFinishingSummary->setText(names.join(QStringLiteral(", ")));
-}
-
-void tellTicketPlaces(MenuButton *finishing)
-{
-    constexpr struct
-    {
-        OSType command;
-        const char *option;
-    } rows[] = {
-        {kCommandNoStaple, "StapleLocation"},
-        {kCommandSingleStaple, "StapleLocation"},
-        {kCommandDualStaple, "StapleLocation"},
-        {kCommandMultipleStaples, "StapleLocation"},
-        {kCommandGenericPunch, "KVPunch"},
-        {kCommandNoPunch, "KVPunch"},
-        {kCommandTwoHoles, "KVPunch"},
-        {kCommandThreeHoles, "KVPunch"},
-        {kCommandFourHoles, "KVPunch"},
-        {kCommandNoFold, "KVFold"},
-        {kCommandBiFold, "KVFold"},
-        {kCommandCFold, "KVFold"},
-        {kCommandZFold, "KVFold"},
-        {kCommandZFoldHalfSheet, "KVFold"},
-    };
-    for (const auto &row : rows)
-        setTicketPlaces(finishing, {{kPPDChoices, QString::fromLatin1(row.option)}}, row.command);
-}
-
-void fillFromPpd(PopupButton *popup, const _PaperOutputContext &panel, const char *option,
-                 const QStringList &readByName = {})
-{
-    if (hasOption(panel, option))
-        fillWithOfferedChoices(popup, panel.device.ppd, QString::fromLatin1(option), readByName);
-    else if (popup)
-        setEnabledWithLabel(popup, false);
-}
-
-// The map's words. A device without the option prints on one side, which cannot be
-// chosen there.
-void fillTwoSided(const _PaperOutputContext &panel)
-{
-    PopupButton *popup = panel.controls.twoSided;
-    PopulatePopupButtonFromMap(panel.bundle, popup, PlexMap, kJobContextJob, kNoCommand);
-    if (!popup)
-        return;
-    Menu menu = popup->menu();
-    const QString option = QStringLiteral("Duplex");
-    if (hasOption(panel, "Duplex"))
-        removeWhatIsNotOffered(menu, panel.device.ppd, option);
-    else
-        std::erase_if(menu.items,
-                      [](const MenuItem &item) { return item.reference != kPlexSimplex; });
-    popup->setMenu(std::move(menu));
-    setTicketPlaces(popup, {{kPPDChoices, option}});
 }
 
 } // namespace
@@ -151,26 +75,28 @@ void fillPaperOutputControls(_PaperOutputContext &panel)
                                kNoCommand);
     setTicketPlaces(controls.jobType,
                     {{kPMPrintSettingsTicket, ticketKey("JobType"), QStringLiteral("JobType")}});
-    fillTwoSided(panel);
-    fillFromPpd(controls.stapling, panel, "StapleLocation", stapleChoicesWithoutValue());
-    fillFromPpd(controls.holePunch, panel, "KVPunch", punchChoicesWithoutValue());
-    fillFromPpd(controls.outputColor, panel, "KVColorMode");
-    if (controls.outputDestination) {
-        Menu destinations;
-        PopulateOutputDestination(destinations, panel.device);
-        setEnabledWithLabel(controls.outputDestination, !destinations.items.empty());
-        controls.outputDestination->setMenu(std::move(destinations));
-        setTicketPlaces(controls.outputDestination, {{kPPDChoices, QStringLiteral("OutputBin")}});
-    }
+    const Device &device = panel.device;
+    fillWithMenu(controls.twoSided, twoSidedMenu(device), QStringLiteral("Duplex"));
+    fillFromPpd(controls.stapling, device, QStringLiteral("StapleLocation"),
+                {.readByName = stapleChoicesWithoutValue()});
+    fillFromPpd(controls.holePunch, device, QStringLiteral("KVPunch"),
+                {.readByName = punchChoicesWithoutValue()});
+    fillFromPpd(controls.outputColor, device, QStringLiteral("KVColorMode"));
+    Menu destinations;
+    PopulateOutputDestination(destinations, device);
+    fillWithMenu(controls.outputDestination, std::move(destinations), QStringLiteral("OutputBin"));
     Menu finishing;
-    PopulateFinishingMenu(finishing, panel.device);
+    PopulateFinishingMenu(finishing, device);
+    for (const MenuItem &item : finishing.items)
+        setTicketPlaces(controls.finishingButton, finishingPlaces(item.command), item.command);
     controls.finishingButton->setMenu(std::move(finishing));
-    tellTicketPlaces(controls.finishingButton);
     Menu more;
-    PopulateMoreFinishingMenu(more, panel.device);
+    PopulateMoreFinishingMenu(more, device);
     controls.moreFinishing->setMenu(std::move(more));
-    controls.coversButton->setEnabled(hasOption(panel, "KVFrontCoverSheet"));
-    controls.separatorsButton->setEnabled(hasOption(panel, "KVSlipSheetPrint"));
+    setOnDevice(device, controls.coversButton,
+                device.hasOption(QStringLiteral("KVFrontCoverSheet")));
+    setOnDevice(device, controls.separatorsButton,
+                device.hasOption(QStringLiteral("KVSlipSheetPrint")));
     makeHintText(controls.coversSummary);
     makeHintText(controls.separatorsSummary);
     makeHintText(controls.moreFinishingSummary);
@@ -194,33 +120,22 @@ void showStockAndSeparators(const _PaperOutputContext &panel)
     const PaperOutputControls &controls = panel.controls;
     if (!controls.stockSummary)
         return;
-    ShowStockSummary(panel.bundle, controls.stockSummary, &panel.settings.jobStock, kJobContextJob);
-    const QString line =
-        separatorSummary(panel.device, panel.settings.separators, panel.settings.separatorStock);
-    if (panel.settings.jobStock.type() == kStockTypeTransparency && !line.isEmpty())
-        UpdateSummaryTextView(
-            controls.stockSummary,
-            QStringLiteral("%1\n%2").arg(controls.stockSummary->toPlainText(), line));
-    const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, panel.settings.separators);
-    controls.separatorsSummary->setText(key ? localizedText(panel.bundle, QString::fromLatin1(key))
-                                            : QString());
+    UpdateSummaryTextView(controls.stockSummary, paperText(panel.settings, panel.device));
+    controls.separatorsSummary->setText(separatorsText(panel.settings, panel.device));
 }
 
 void showCovers(const _PaperOutputContext &panel)
 {
-    if (!panel.controls.coversSummary)
-        return;
-    const char *key = coversKey(panel.settings.frontCover, panel.settings.backCover);
-    panel.controls.coversSummary->setText(localizedText(panel.bundle, QString::fromLatin1(key)));
+    if (panel.controls.coversSummary)
+        panel.controls.coversSummary->setText(coversText(panel.settings, panel.device));
 }
 
 void showTwoSided(const _PaperOutputContext &panel)
 {
     PopupButton *popup = panel.controls.twoSided;
-    showChoice(panel.bundle, popup,
-               panel.settings.isBooklet() ? kPlexDuplex : panel.settings.duplex);
+    showChoice(panel.bundle, popup, shownTwoSided(panel.settings));
     if (popup)
-        setEnabledWithLabel(popup, !panel.settings.isBooklet() && hasOption(panel, "Duplex"));
+        setEnabledWithLabel(popup, canChooseTwoSided(panel.settings, panel.device));
     showBundlePicture(panel.controls.twoSidedIcon, panel.bundle, duplexPicture(panel.settings));
 }
 
@@ -232,11 +147,7 @@ void showFinishing(const _PaperOutputContext &panel)
     MarkFinishingMenu(controls.finishingButton->menu(), panel.settings);
     MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel.settings, panel.device);
     showMoreFinishing(panel);
-    QString summary = CreateFinishingString(panel.settings, panel.device).trimmed();
-    if (summary.isEmpty() && !panel.device.has("BookletFoldKey")
-        && !panel.device.has("TapeBindKey"))
-        summary = localizedText(panel.bundle, QStringLiteral("No Finishing Devices"));
-    UpdateSummaryTextView(controls.finishingSummary, summary);
+    UpdateSummaryTextView(controls.finishingSummary, finishingText(panel.settings, panel.device));
     showChoice(panel.bundle, controls.stapling,
                panel.settings.finishing.hasUnknownStaple ? kNoPpdChoice
                                                          : chosenStaple(panel.settings.finishing));

@@ -4,10 +4,8 @@
 #include "control.h"
 #include "dialog_window.h"
 #include "hint_text.h"
-#include "offered_choices.h"
 #include "picture_view.h"
 #include "popups.h"
-#include "ppd_choices.h"
 #include "separator_picture.h"
 #include "setting_maps.h"
 #include "ticket_places.h"
@@ -29,6 +27,8 @@ constexpr ControlID kColorHint{kPanelSignature, 8306};
 constexpr ControlID kRevert{kPanelSignature, 8307};
 
 constexpr OSType kCommandOption = fourCharCode("SepO");
+
+const QString printOption = QStringLiteral("KVSlipSheetPrint");
 
 struct SeparatorsDialog
 {
@@ -90,45 +90,36 @@ OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &eve
 }
 
 // The PPD's separators under the names that every other window uses.
-void fillOptions(const SeparatorsDialog &dialog, PpdFile *ppd)
+void fillOptions(const SeparatorsDialog &dialog, const Device &device)
 {
-    Menu menu;
-    const QString option = QStringLiteral("KVSlipSheetPrint");
-    PopulateMenuWithOfferedChoices(menu, ppd, option, kCommandOption);
+    fillFromPpd(dialog.option, device, printOption, {.command = kCommandOption});
+    Menu menu = dialog.option->menu();
     for (MenuItem &item : menu.items) {
         if (const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, item.reference))
-            item.text = localizedText(dialog.bundle, QString::fromUtf8(key));
+            item.text = device.text(key);
     }
     dialog.option->setMenu(std::move(menu));
-    setTicketPlaces(dialog.option, {{kPPDChoices, option}});
 }
 
-void showMissingSeparators(const SeparatorsDialog &dialog)
+void showMissingSeparators(const SeparatorsDialog &dialog, const Device &device)
 {
     QWidget *window = dialog.window.get();
     setEnabledWithLabel(dialog.option, false);
     if (auto *hint = findControl<QLabel>(window, kOptionHint))
-        hint->setText(localizedText(dialog.bundle, QStringLiteral("No Separators on This Device")));
+        hint->setText(device.text("No Separators on This Device"));
     if (auto *revert = findControl<QPushButton>(window, kRevert))
         revert->setEnabled(false);
 }
 
-void fillPopups(const SeparatorsDialog &dialog, PpdFile *ppd)
+void fillPopups(const SeparatorsDialog &dialog, const Device &device)
 {
-    const auto hasOption = [ppd](const QString &keyword) {
-        return ppd && ppd->findOption(keyword);
-    };
-    const QString sources = QStringLiteral("KVSlipSheetSource");
-    const QString colors = QStringLiteral("MediaColor");
-    if (!hasOption(QStringLiteral("KVSlipSheetPrint"))) {
-        showMissingSeparators(dialog);
+    if (!device.hasOption(printOption)) {
+        showMissingSeparators(dialog, device);
         return;
     }
-    fillOptions(dialog, ppd);
-    if (hasOption(sources))
-        fillWithOfferedChoices(dialog.source, ppd, sources);
-    if (hasOption(colors))
-        fillWithOfferedChoices(dialog.color, ppd, colors);
+    fillOptions(dialog, device);
+    fillFromPpd(dialog.source, device, QStringLiteral("KVSlipSheetSource"));
+    fillFromPpd(dialog.color, device, QStringLiteral("MediaColor"));
     setTicketPlaces(dialog.color, {}); // the picture's alone
     SetPopupButtonToTicketValue(dialog.color, kStockColorWhite);
 }
@@ -155,7 +146,7 @@ OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
     QWidget *window = dialog.window.get();
     makeHintText(findControl<QLabel>(window, kOptionHint));
     makeHintText(findControl<QLabel>(window, kColorHint));
-    fillPopups(dialog, PPDGetCurrent());
+    fillPopups(dialog, currentDevice(bundle));
     dialog.before = *separators;
     showChoice(bundle, dialog.option, *separators);
     if (separatorStock->source() != kUnset) // else the first is ready to be taken

@@ -39,6 +39,11 @@ void readSource(std::optional<Cover> &cover, const Ticket &ticket, const QString
 
 } // namespace
 
+bool reachesDevice(const Cover &cover)
+{
+    return PPDChoiceForTicketValue(frontOption, cover.stock().source()).has_value();
+}
+
 void readCovers(std::optional<Cover> &front, std::optional<Cover> &back,
                 const Ticket &printSettings, const Device &device)
 {

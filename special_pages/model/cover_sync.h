@@ -18,6 +18,9 @@ namespace kelvo {
 // The choice of KVFrontCoverSheet and KVBackCoverSheet for no cover; it has no ticket value.
 inline const QString kNoCoverChoice = QStringLiteral("None");
 
+// Whether a cover's source can be said, and the device prints it.
+bool reachesDevice(const Cover &cover);
+
 void readCovers(std::optional<Cover> &front, std::optional<Cover> &back,
                 const Ticket &printSettings, const Device &device);
 void writeCovers(const std::optional<Cover> &front, const std::optional<Cover> &back,

@@ -1,7 +1,7 @@
 #include "special_pages_summary.h"
 
+#include "cover_sync.h"
 #include "lighten_darken.h"
-#include "ppd_choices.h"
 #include "setting_maps.h"
 #include "stock_summary.h"
 
@@ -131,10 +131,10 @@ QString CopySpecialPageSummary(const SpecialPage &page, const Device &device)
 QString attributesText(const SpecialPage &page, const Device &device)
 {
     QStringList parts{CopySpecialPageSummary(page, device)};
-    if (dynamic_cast<const Cover *>(&page)) {
+    if (const auto *cover = dynamic_cast<const Cover *>(&page)) {
         if (!device.hasOption(coverOption))
             parts << device.text("Not on This Device");
-        else if (!PPDChoiceForTicketValue(coverOption, page.stock().source()))
+        else if (!reachesDevice(*cover))
             parts << device.text("Cover Without Source");
     }
     if (const auto *exception = dynamic_cast<const ExceptionPage *>(&page)) {

@@ -7,7 +7,6 @@
 #include "notice.h"
 #include "picture_view.h"
 #include "popups.h"
-#include "ppd_choices.h"
 #include "setting_maps.h"
 #include "special_page_dialogs.h"
 #include "stock_summary.h"
@@ -263,8 +262,8 @@ void initializeSide(CoversContext &context, CoverSide &side, Cover &cover, const
     InitializeStockMenuButton(side.stock.button, &side.stock);
 
     // "None" is no source, but no cover.
-    fillWithOfferedChoices(side.source, PPDGetCurrent(), QString::fromLatin1(sourceOption),
-                           {QStringLiteral("None")});
+    fillFromPpd(side.source, currentDevice(context.bundle), QString::fromLatin1(sourceOption),
+                {.readByName = {QStringLiteral("None")}, .isExpected = true});
     side.sources = side.source->menu();
     makeHintText(side.sourceHint);
     // The window keeps its size while the hints change.

@@ -87,26 +87,24 @@ QString tabShiftWords(CFBundleRef bundle, const ExceptionPage &page)
 }
 
 // What the job has of a setting, in the device's words; empty where that is unknown.
-QString jobChoiceText(PMTicketRef ticket, const QString &option)
+QString jobChoiceText(const Device &device, PMTicketRef ticket, const QString &option)
 {
-    const PpdFile *ppd = PPDGetCurrent();
-    const std::optional<QString> choice = PPDCopyChoiceOrDefault(ppd, ticket, option);
-    return choice ? PPDCopyChoiceText(ppd, option, *choice).value_or(QString()) : QString();
+    const std::optional<QString> choice = PPDCopyChoiceOrDefault(device.ppd, ticket, option);
+    return choice ? PPDCopyChoiceText(device.ppd, option, *choice).value_or(QString()) : QString();
 }
 
 // The hint says what the job does where the pop-up leaves it to the job.
 void showSetting(const ExceptionsContext &context, PopupButton *popup, QLabel *hint,
                  const QString &option, std::int32_t value)
 {
-    const bool isOnDevice = popup->count() > 1;
-    setEnabledWithLabel(popup, isOnDevice);
-    const QString job = jobChoiceText(context.ticket, option);
-    showChoice(
-        context.bundle, popup, value, hint,
-        !isOnDevice ? localizedText(context.bundle, QStringLiteral("Not on This Device"))
-            : job.isEmpty()
-            ? QString()
-            : formatted(localizedText(context.bundle, QStringLiteral("Job Setting Hint")), {job}));
+    const Device device = currentDevice(context.bundle);
+    const bool isOnDevice = popup->count() > 1; // more than the job's setting
+    setOnDevice(device, popup, isOnDevice, hint);
+    const QString job = jobChoiceText(device, context.ticket, option);
+    showChoice(context.bundle, popup, value, hint,
+               !isOnDevice         ? hint->text()
+                   : job.isEmpty() ? QString()
+                                   : formatted(device.text("Job Setting Hint"), {job}));
 }
 
 // From the context to the controls, but for the pages, which stay as typed.
@@ -216,7 +214,7 @@ bool takeExceptions(ExceptionsContext &context)
 void fillSetting(CFBundleRef bundle, PopupButton *popup, Menu menu, const QString &option,
                  OSType command)
 {
-    removeWhatIsNotOffered(menu, PPDGetCurrent(), option);
+    removeWhatIsNotOffered(menu, currentDevice(bundle).ppd, option);
     MenuItem job;
     job.key = QStringLiteral("UseJobSetting");
     job.text = localizedText(bundle, job.key);

@@ -3,6 +3,7 @@
 #include "hint_text.h"
 #include "localized_controls.h"
 #include "picture_view.h"
+#include "popups.h"
 #include "special_pages_summary.h"
 #include "ticket_values.h"
 
@@ -124,16 +125,6 @@ void ConfigureSpecialPagesListAndInstallCallbacks(_SpecialPagesContext &panel)
     });
 }
 
-// Left in their place, so that users of several devices find them there.
-void disableCoversWithoutOption(_SpecialPagesContext &panel)
-{
-    if (panel.device.hasOption(QStringLiteral("KVFrontCoverSheet")))
-        return;
-    setEnabledWithLabel(panel.addCoversButton, false);
-    panel.addCoversButton->setToolTip(
-        localizedText(panel.bundle, QStringLiteral("Not on This Device")));
-}
-
 } // namespace
 
 void findSpecialPagesControls(_SpecialPagesContext &panel, NeededControls &needed)
@@ -152,7 +143,8 @@ void InitializeSpecialPages(_SpecialPagesContext &panel)
 {
     for (const CommandButton &row : commandButtons)
         initializeButton(panel, row);
-    disableCoversWithoutOption(panel);
+    setOnDevice(panel.device, panel.addCoversButton,
+                panel.device.hasOption(QStringLiteral("KVFrontCoverSheet")));
     makeHintText(findControl<QLabel>(panel.content, panelID(hintNumber)));
     ConfigureSpecialPagesListAndInstallCallbacks(panel);
     UpdateSpecialPagesSummary(&panel);

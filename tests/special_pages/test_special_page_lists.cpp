@@ -1,7 +1,5 @@
-#include "exception_page_list.h"
-#include "insert_list.h"
 #include "print_session.h"
-#include "ticket.h"
+#include "special_pages_settings.h"
 
 #include <QTest>
 
@@ -175,7 +173,7 @@ private slots:
     void laterExceptionsWin_data();
     void laterExceptionsWin();
     void exceptionsAreWhatThePagesSay();
-    void copiesAreOfClones();
+    void settingsAreCopiedAsAWhole();
 };
 
 void TestSpecialPageLists::readsAndWritesPages_data()
@@ -446,15 +444,32 @@ void TestSpecialPageLists::exceptionsAreWhatThePagesSay()
     }
 }
 
-void TestSpecialPageLists::copiesAreOfClones()
+void TestSpecialPageLists::settingsAreCopiedAsAWhole()
 {
-    ExceptionPageList list;
-    add(list, exceptionsFrom("1-3,5-7", 1));
-    const std::unique_ptr<SpecialPageList> copy = list.clone();
-    const std::int32_t index = copy->indexOfPage(list.pageAtIndex(0));
-    list.clear();
-    QCOMPARE(index, -1);
-    QCOMPARE(textOf(dynamic_cast<ExceptionPageList &>(*copy)), "1-3:1 5-7:2");
+    SpecialPagesSettings settings;
+    add(settings.exceptions, exceptionsFrom("1-3,5-7", 1));
+    add(settings.inserts, std::vector{insertAfter(2, 3)});
+    settings.frontCover.emplace().setSidesImaged(kCoverPrinted);
+    SpecialPagesSettings copy;
+    copy = settings;
+    QVERIFY(copy == settings);
+    QCOMPARE(copy.exceptions.indexOfPage(settings.exceptions.pageAtIndex(0)), -1);
+    settings.exceptions.clear();
+    QVERIFY(copy != settings);
+    QCOMPARE(textOf(copy.exceptions), "1-3:1 5-7:2");
+
+    // What a ticket has as it was written keeps its pages, also where they have moved.
+    Ticket ticket;
+    QCOMPARE(writeSpecialPages(copy, ticket), noErr);
+    const auto identity = copy.inserts.pageAtIndex(0)->identity();
+    SpecialPagesSettings moved;
+    moved = std::move(copy);
+    QVERIFY(holdsSpecialPages(ticket, moved));
+    readSpecialPages(moved, ticket, Device());
+    QCOMPARE(moved.inserts.pageAtIndex(0)->identity(), identity);
+    readSpecialPages(settings, ticket, Device());
+    QVERIFY(settings.inserts.pageAtIndex(0)->identity() != identity);
+    QVERIFY(settings == moved);
 }
 
 QTEST_APPLESS_MAIN(TestSpecialPageLists)

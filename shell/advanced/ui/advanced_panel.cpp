@@ -112,8 +112,8 @@ void fillPopups(const AdvancedContext &advanced)
                                BookletLayoutOrderMap, kJobContextJob, kNoCommand);
     setTicketPlaces(advanced.controls.bookletOrder, bookletOrderPlaces());
     for (const PpdRow &row : kPpdRows)
-        fillWithOfferedChoices(advanced.controls.*row.popup, advanced.device.ppd,
-                               QString::fromLatin1(row.choice.option));
+        fillFromPpd(advanced.controls.*row.popup, advanced.device,
+                    QString::fromLatin1(row.choice.option), {.isExpected = true});
 }
 
 } // namespace

@@ -88,16 +88,38 @@ int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString 
     return count;
 }
 
-void fillWithOfferedChoices(PopupButton *popup, const PpdFile *ppd, const QString &option,
-                            const QStringList &readByName)
+void fillFromPpd(PopupButton *popup, const Device &device, const QString &option,
+                 const PpdFilling &filling)
+{
+    Menu menu;
+    if (filling.isExpected || device.hasOption(option))
+        PopulateMenuWithOfferedChoices(menu, device.ppd, option, filling.command,
+                                       filling.readByName);
+    fillWithMenu(popup, std::move(menu), option);
+}
+
+void fillWithMenu(PopupButton *popup, Menu menu, const QString &option)
 {
     if (!popup)
         return;
-    Menu menu = popup->menu();
-    const int count = PopulateMenuWithOfferedChoices(menu, ppd, option, kNoCommand, readByName);
+    setEnabledWithLabel(popup, !menu.items.empty());
     popup->setMenu(std::move(menu));
-    setEnabledWithLabel(popup, count > 0);
     setTicketPlaces(popup, {{kPPDChoices, option}});
+}
+
+void setOnDevice(const Device &device, QWidget *control, bool isOnDevice, QLabel *hint)
+{
+    if (!control)
+        return;
+    setEnabledWithLabel(control, isOnDevice);
+    if (isOnDevice)
+        return;
+    const QString why = device.text("Not on This Device");
+    if (hint)
+        hint->setText(why);
+    else
+        control->setToolTip(why);
+    control->setAccessibleDescription(why);
 }
 
 void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device.h"
 #include "popup_button.h"
 #include "ppd_choices.h"
 #include "setting_map.h"
@@ -39,8 +40,19 @@ int PPDPopulatePopupWithChoices(PopupButton *popup, PpdFile *ppd, const QString 
 // Fills the pop-up with what the device offers (offered_choices.h); the count becomes
 // its maximum. Where that is nothing it is disabled with its label, and stays in its
 // place, so that users of several devices find it there. It says that it sets the option.
-void fillWithOfferedChoices(PopupButton *popup, const PpdFile *ppd, const QString &option,
-                            const QStringList &readByName = {});
+struct PpdFilling
+{
+    QStringList readByName = {}; // as PPDPopulateMenuWithChoices has it
+    OSType command = kNoCommand; // of the items
+    bool isExpected = false;     // a PPD without the option is named on standard error
+};
+void fillFromPpd(PopupButton *popup, const Device &device, const QString &option,
+                 const PpdFilling &filling = {});
+// The same with a menu that is made of what the device offers.
+void fillWithMenu(PopupButton *popup, Menu menu, const QString &option);
+// Enables a control with its label; or disables them, and says why in `hint`, the tool tip
+// where there is none.
+void setOnDevice(const Device &device, QWidget *control, bool isOnDevice, QLabel *hint = nullptr);
 // Shows the item with that value, and `hintText` in `hint`. A value that no item has
 // is the job's, and not offered here: the pop-up says so in place of an item, and the
 // hint (the tool tip where there is none) that the job keeps it.
