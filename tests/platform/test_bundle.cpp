@@ -25,7 +25,6 @@ private slots:
     void saysWhyItCannotBeOpened();
     void saysWhyItsModuleCannotBeLoaded_data();
     void saysWhyItsModuleCannotBeLoaded();
-    void countsLivingInstances();
 };
 
 static Bundle *testBundle()
@@ -152,18 +151,6 @@ void TestBundle::saysWhyItsModuleCannotBeLoaded()
     QVERIFY(bundle);
     QCOMPARE(bundle.value()->findFunction("countCalls"), nullptr);
     QVERIFY(bundle.value()->loadError().contains(QFileInfo(folder.path()).canonicalFilePath()));
-}
-
-void TestBundle::countsLivingInstances()
-{
-    const QUuid one = QUuid::createUuid();
-    CFPlugInAddInstanceForFactory(one);
-    CFPlugInAddInstanceForFactory(one);
-    CFPlugInRemoveInstanceForFactory(one);
-    QCOMPARE(plugInInstanceCount(one), 1);
-    CFPlugInRemoveInstanceForFactory(one);
-    CFPlugInRemoveInstanceForFactory(one); // one too many
-    QCOMPARE(plugInInstanceCount(one), 0);
 }
 
 QTEST_GUILESS_MAIN(TestBundle)

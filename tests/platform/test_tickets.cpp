@@ -1,4 +1,5 @@
 #include "file_store.h"
+#include "files.h"
 #include "property_list.h"
 #include "ticket_file.h"
 
@@ -20,6 +21,7 @@ private slots:
     void readsAnEntryAsItsOwnTypeOnly();
     void keepsLockedEntries();
     void survivesItsFile();
+    void replacesTicketsOnly();
     void keepsWhatItDoesNotKnow();
     void refusesOtherLists_data();
     void refusesOtherLists();
@@ -122,6 +124,23 @@ void TestTickets::survivesItsFile()
     QVERIFY(next.printSettings() == session.printSettings());
     QVERIFY(next.pageFormat() == session.pageFormat());
     QCOMPARE(next.printSettings().entries[u"whole"_s].value.typeId(), int(QMetaType::Double));
+}
+
+// A list of somebody's stays, also where it is a sound one.
+void TestTickets::replacesTicketsOnly()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"list.plist"_s);
+    for (const QByteArray &bytes :
+         {QByteArray("<plist version=\"1.0\"><array/></plist>"), QByteArray("years of work\n")}) {
+        putFile(path, bytes);
+        const auto written = writeTicketFile(path, {});
+        QVERIFY(!written);
+        QCOMPARE(written.error().code, Error::Code::Refused);
+        QCOMPARE(bytesOf(path), bytes);
+    }
+    putFile(path, {});
+    QVERIFY(writeTicketFile(path, {}));
 }
 
 void TestTickets::keepsWhatItDoesNotKnow()

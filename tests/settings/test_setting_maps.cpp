@@ -92,7 +92,6 @@ private slots:
     void countsSkippedRowsToo();
     void saysUnsetInTheWordsOfItsContext();
     void marksDividersAndKeepsTheMap();
-    void missingTextsSaySo();
     void translatesPpdChoicesBothWays_data();
     void translatesPpdChoicesBothWays();
     void knowsTheChoicesOfTheFullDevice();
@@ -234,15 +233,6 @@ void TestSettingMaps::marksDividersAndKeepsTheMap()
     Menu empty;
     QCOMPARE(PopulateMenuFromMap(m_bundle, empty, emptyMap, kJobContextJob, kNoCommand), 0);
     QCOMPARE(empty.reference, static_cast<const void *>(emptyMap));
-}
-
-void TestSettingMaps::missingTextsSaySo()
-{
-    constexpr SettingMap map[] = {{"No text for this one", 3}, kEndOfMap};
-    Menu menu;
-    PopulateMenuFromMap(m_bundle, menu, map, kJobContextJob, kNoCommand);
-    QCOMPARE(described(menu), QStringList{QStringLiteral("STRING NOT FOUND|3|0")});
-    QCOMPARE(localizedText(nullptr, QStringLiteral("On")), QStringLiteral("STRING NOT FOUND"));
 }
 
 void TestSettingMaps::translatesPpdChoicesBothWays_data()
