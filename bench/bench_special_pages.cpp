@@ -1,9 +1,12 @@
 // Lists of 99,999 special pages beside one stable sort of as many. See README.md.
 
+#include "describe_job.h"
 #include "exception_page_list.h"
 #include "insert_list.h"
 #include "page_range_text.h"
 #include "ratios.h"
+#include "special_pages_settings.h"
+#include "ticket_values.h"
 
 #include <benchmark/benchmark.h>
 
@@ -162,6 +165,51 @@ void readList(benchmark::State &state)
     }
 }
 
+// ---- a whole job, described and read
+
+const QString kDevice = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
+
+// A ticket with 99,999 inserts, and the device that it is for.
+struct Job
+{
+    Ticket printSettings, pageFormat;
+    std::shared_ptr<PpdFile> ppd;
+};
+
+const Job &sampleJob()
+{
+    static const Job job = [] {
+        Job made;
+        InsertList list;
+        list.add(inserts[InOrder].pointers);
+        setValue(made.printSettings, {}, ticketKey("SpecialPages.InsertList"),
+                 list.asTicket().value_or(Array()));
+        made.ppd = PpdFile::open(kDevice).value();
+        return made;
+    }();
+    return job;
+}
+
+void readJob(benchmark::State &state)
+{
+    const Job &job = sampleJob();
+    const Device device = deviceWith(nullptr, job.ppd.get());
+    SpecialPagesSettings settings;
+    for ([[maybe_unused]] auto _ : state)
+        readSpecialPages(settings, job.printSettings, device);
+}
+
+void describeJob(benchmark::State &state)
+{
+    const Job &job = sampleJob();
+    const JobToDescribe toDescribe{&job.printSettings, &job.pageFormat, job.ppd.get(), nullptr, {}};
+    JobDescription description;
+    for ([[maybe_unused]] auto _ : state)
+        KelvoDescribeJob(&toDescribe, &description);
+    if (description.sheets.inserts.size() != kHighestPage)
+        state.SkipWithError("not all inserts are described");
+}
+
 // ---- registration
 
 const char *run(std::string name, std::function<void(benchmark::State &)> function)
@@ -213,5 +261,7 @@ int main(int argc, char **argv)
     run("writeList", writeList);
     run("removeHalf", removeHalf);
     run("readList", readList);
+    constexpr double describeBudget = 2;
+    ratios.push_back({run("describeJob", describeJob), run("readJob", readJob), describeBudget});
     return bench::runAndCompare(argc, argv, ratios);
 }

@@ -22,41 +22,44 @@ JobDescriber::JobDescriber(Bundle *bundle, QString userFolder)
 {
 }
 
-bool JobDescriber::isConcerned(const Ticket &printSettings, const PpdFile *ppd) const
+bool JobDescriber::isMakerOf(const PpdFile *ppd) const
 {
-    if (!m_bundle)
-        return false;
-    if (ppd && ppd->manufacturer() == string(m_bundle->info(), deviceMakerKey))
-        return true;
-    return std::any_of(printSettings.entries.begin(), printSettings.entries.end(),
-                       [](const auto &entry) { return !isHostEntry(entry.first); });
+    return m_bundle && ppd && ppd->manufacturer() == string(m_bundle->info(), deviceMakerKey);
 }
 
-void JobDescriber::findFunction()
+bool JobDescriber::findFunction()
 {
-    if (std::exchange(m_hasLooked, true))
-        return;
-    m_function = reinterpret_cast<DescribeJobFunction>(m_bundle->findFunction(kDescribeJobName));
+    if (m_bundle && !std::exchange(m_hasLooked, true))
+        m_function =
+            reinterpret_cast<DescribeJobFunction>(m_bundle->findFunction(kDescribeJobName));
+    return m_function;
+}
+
+void JobDescriber::ask(const Ticket &printSettings, const Ticket &pageFormat, const PpdFile *ppd,
+                       JobDescription &description)
+{
+    const JobToDescribe job{&printSettings, &pageFormat, ppd, m_bundle, m_userFolder};
+    if (!findFunction() || m_function(&job, &description) != noErr)
+        description = {};
 }
 
 void JobDescriber::describe(const Ticket &printSettings, const Ticket &pageFormat,
                             const PpdFile *ppd, JobDescription &description)
 {
-    if (isConcerned(printSettings, ppd))
-        findFunction();
-    if (!m_function) {
-        description = {};
-        return;
-    }
-    const JobToDescribe job{&printSettings, &pageFormat, ppd, m_bundle, m_userFolder};
-    if (m_function(&job, &description) != noErr)
+    const bool isConcerned = isMakerOf(ppd)
+        || std::any_of(printSettings.entries.begin(), printSettings.entries.end(),
+                       [](const auto &entry) { return !isHostEntry(entry.first); });
+    if (isConcerned)
+        ask(printSettings, pageFormat, ppd, description);
+    else
         description = {};
 }
 
-RepeatedChoices JobDescriber::repeatedChoices(const PpdFile *ppd)
+RepeatedChoices JobDescriber::repeatedChoices(const PpdFile *ppd, bool bringsTicket)
 {
     JobDescription description;
-    describe({}, {}, ppd, description);
+    if (bringsTicket || isMakerOf(ppd))
+        ask({}, {}, nullptr, description); // they are the panels', whatever the device
     return repeatedChoicesIn(description);
 }
 

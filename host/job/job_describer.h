@@ -19,12 +19,15 @@ public:
     void describe(const Ticket &printSettings, const Ticket &pageFormat, const PpdFile *ppd,
                   JobDescription &description);
 
-    // Which choices of that device the panels also keep elsewhere.
-    RepeatedChoices repeatedChoices(const PpdFile *ppd);
+    // Which choices the panels also keep elsewhere. Where `ppd` is of another maker and nobody
+    // brings a ticket, no panel has kept anything yet, and the answer is empty.
+    RepeatedChoices repeatedChoices(const PpdFile *ppd, bool bringsTicket);
 
 private:
-    bool isConcerned(const Ticket &printSettings, const PpdFile *ppd) const;
-    void findFunction();
+    bool isMakerOf(const PpdFile *ppd) const;
+    bool findFunction();
+    void ask(const Ticket &printSettings, const Ticket &pageFormat, const PpdFile *ppd,
+             JobDescription &description);
 
     Bundle *m_bundle;
     QString m_userFolder;

@@ -16,6 +16,7 @@ namespace kelvo {
 
 namespace {
 
+const QString paperOption = QStringLiteral("PageSize"); // the host's own control
 constexpr int longestValue = 500; // characters of a ticket value that are shown
 
 // Control characters and line ends would let a value pass for a line of its own.
@@ -171,22 +172,29 @@ TicketPlaces spokenFor(const JobDescription &description)
     return places;
 }
 
-void addPpdSettings(const PPDDictionary &choices, const PpdFile &ppd, const TicketPlaces &spokenFor,
-                    JobWords &words)
+void addOption(const PpdOption &option, const PPDDictionary &choices, const PpdFile &ppd,
+               JobWords &words)
+{
+    const QString choice = choices.value(option.keyword, option.defaultChoice);
+    if (!choice.isEmpty() && offers(ppd, option.keyword, choice))
+        (choice == option.defaultChoice ? words.defaults : words.settings)
+            << settingWords(option, choice);
+}
+
+// What neither the host nor a panel has a control for.
+void addOtherOptions(const PPDDictionary &choices, const PpdFile &ppd,
+                     const TicketPlaces &spokenFor, JobWords &words)
 {
     for (const PpdGroup &group : ppd.groups()) {
         if (isInstallable(group))
             continue;
         for (const PpdOption &option : group.options) {
-            if (spokenFor.contains({kPPDChoices, option.keyword}))
-                continue;
             // The same paper again, as it is fed by hand.
-            if (option.keyword == QLatin1String("PageRegion") && !choices.contains(option.keyword))
-                continue;
-            const QString choice = choices.value(option.keyword, option.defaultChoice);
-            if (!choice.isEmpty() && offers(ppd, option.keyword, choice))
-                (choice == option.defaultChoice ? words.defaults : words.settings)
-                    << settingWords(option, choice);
+            const bool isPaper = option.keyword == paperOption
+                || (option.keyword == QLatin1String("PageRegion")
+                    && !choices.contains(option.keyword));
+            if (!isPaper && !spokenFor.contains({kPPDChoices, option.keyword}))
+                addOption(option, choices, ppd, words);
         }
     }
 }
@@ -225,9 +233,12 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
     const TicketPlaces spoken = spokenFor(description);
     JobWords words;
     addHostSettings(settings, ppd, words);
+    const PPDDictionary &choices = ticket.printSettings.ppdChoices;
+    if (const PpdOption *papers = ppd ? ppd->findOption(paperOption) : nullptr)
+        addOption(*papers, choices, *ppd, words);
     addDescribed(description, isRead, words);
     if (ppd)
-        addPpdSettings(ticket.printSettings.ppdChoices, *ppd, spoken, words);
+        addOtherOptions(choices, *ppd, spoken, words);
     for (const QString &setting : missing)
         words.notSent << setting + QStringLiteral(" – ") + whyNotSent(ppd);
     QStringList unread = isRead ? QStringList() : entriesInWords(description);

@@ -37,7 +37,7 @@ Result<void> SessionJob::beginOn(Device device)
     m_session->setPrinter({m_device.name, ppd() ? ppd()->path() : QString()});
     nameJob();
     const TicketFile defaults = queueDefaults();
-    m_repeatedChoices = m_describer.repeatedChoices(ppd());
+    m_repeatedChoices = m_describer.repeatedChoices(ppd(), m_wishes.preset || m_wishes.ticketIn);
     m_edits.asked.beginOn(defaults, m_repeatedChoices);
     if (!m_areWishesAsked) {
         if (auto asked = askFirst(); !asked)

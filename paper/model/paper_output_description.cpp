@@ -119,13 +119,20 @@ void describePaper(const PaperOutputSettings &settings, PanelDescription &panel)
               stockButton);
 }
 
-// As panels read it: their own entries rule.
+// As panels read it: their own entries rule. A device without the option prints on one
+// side, and panels keep their entries all the same.
 void describeSides(const PaperOutputSettings &settings, PanelDescription &panel)
 {
+    const Device &device = panel.job().device;
     const auto choice = PPDChoiceForTicketValue(QStringLiteral("Duplex"), settings.duplex);
-    if (DescribedSetting *line = panel.addChoice("Duplex", twoSidedPopup, choice))
-        line->repeats = {ticketKey("FinishingDuplex"),
-                         QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")};
+    DescribedSetting *line = panel.addChoice("Duplex", twoSidedPopup, choice);
+    if (!line) {
+        line = panel.addOwnChoice("Duplex", mapText(device, PlexMap, kPlexSimplex), twoSidedPopup);
+        line->label = labelText(device, "Two Sided Printing:");
+        line->isDefault = true;
+    }
+    line->repeats = {ticketKey("FinishingDuplex"),
+                     QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")};
 }
 
 // The panel's own offset. It is another one than the Advanced panel's, which says

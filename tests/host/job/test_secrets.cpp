@@ -128,7 +128,7 @@ void TestSecrets::neverStandInWords()
     description.settings = {
         {.place = {kPMPrintSettingsTicket, "Job", "Pin"}, .label = "Pin", .words = "lucky"},
         {.place = {kPPDChoices, "Duplex"}, .label = "Sides", .words = "one", .isDefault = true}};
-    description.unspoken = {{kPPDChoices, "PageSize"}, {kPMPrintSettingsTicket, "Plain"}};
+    description.unspoken = {{kPPDChoices, "InputSlot"}, {kPMPrintSettingsTicket, "Plain"}};
     const JobWords words =
         describeJob(file, {3, false, "2-5", "A4", Orientation::Landscape}, ppd.value().get(),
                     {{"Job/Password", "People/*/Code"}, {}}, description, {"Glitter: On"});
@@ -138,7 +138,9 @@ void TestSecrets::neverStandInWords()
                           "Pin: lucky", "Stapling: 2 Staples, Portrait",
                           "1 entry that the device panels add (see Ticket)"}));
     QCOMPARE(words.defaults.filter("Sides"), QStringList{"Sides: one"});
-    QVERIFY(words.defaults.filter("Two-Sided").isEmpty() && words.defaults.filter("A4").isEmpty());
+    QCOMPARE(words.defaults.filter("Page Size").size(), 1);
+    QVERIFY(words.defaults.filter("Two-Sided").isEmpty()
+            && words.defaults.filter("Paper Source").isEmpty());
     QCOMPARE(words.notSent, QStringList{"Glitter: On – this printer does not have it"});
     QVERIFY(words.ticket.contains("Plain = \"open\" (written by test)"));
     const QString text = words.asText();
