@@ -11,6 +11,9 @@
 
 // The only code that changes files that users own. Two dialogs at once lose
 // nothing; a crash, a kill or a full disk leaves the old file or the new one.
+//
+// Not QSaveFile: on a full disk it replaced a good file by a truncated one and reported
+// success. Not QLockFile: it leaves chains of lock files after a kill.
 namespace kelvo {
 
 // What the user can do about a file or folder that could not be written, by the system's

@@ -6,7 +6,8 @@
 #include <QVariant>
 
 // XML property lists: read with expat into the types of values.h, written in a
-// fixed form that does not depend on the locale.
+// fixed form that does not depend on the locale. (libplist reads reals through the C
+// locale, overflows the stack on deep nesting and clips dates.)
 namespace kelvo {
 
 // Reads one property list. `name` stands in the error ("ticket.plist, line 7").

@@ -8,7 +8,8 @@
 namespace kelvo {
 
 // How a page of the document lies on the sheet as one looks at it. Points, from
-// the sheet's top left.
+// the sheet's top left. In its own size, because jobs are not scaled: a device may fit
+// pages all the same, but showing them fitted would hide what others cut off.
 struct PagePlacement
 {
     QSizeF sheet;       // turned for landscape

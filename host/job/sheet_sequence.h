@@ -12,6 +12,7 @@
 // - Inserts, covers and exception ranges begin a new sheet, and so does what comes
 //   after them: on paper that is printed on both sides a back may stay blank.
 // - An exception range may have sides of its own.
+// - Covers and inserts are blank: a ticket tells where their paper comes from, no more.
 namespace kelvo {
 
 // What one looks at: a printed side, or a whole sheet without print.

@@ -12,7 +12,8 @@
 
 // Scripts as text: one command a line, UTF-8, # comments, texts in double quotes
 // (\" \\ \n), four-character codes in single quotes. What comes out of here is
-// complete and of the right form; whether it can be done is seen when it runs.
+// complete and of the right form; whether it can be done is seen when it runs. A script
+// is read whole before its first line runs: a typo in the last one leaves no job half done.
 namespace kelvo {
 
 enum class ScriptCommand {

@@ -18,7 +18,9 @@ struct LightenDarkenStep
 
 extern const LightenDarkenStep LightenDarkenMap[];
 
-// The step that a choice of "KVImageQuality" stands for; kUnset for what is none.
+// The step that a choice of "KVImageQuality" stands for; kUnset for what is none: the
+// keyword map gives such choices the number of "Lighten 1", and they would be written
+// back as that.
 std::int32_t lightenDarkenStep(const QString &choice);
 
 // The key of a step; null for what is none.

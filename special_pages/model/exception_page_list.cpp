@@ -24,7 +24,8 @@ Range rangeOf(const ExceptionPage &page, std::size_t rank)
     return {page.startPage(), std::int64_t(page.endPage()) + 1, rank, &page};
 }
 
-// What is seen of the ranges, from page to page. They are in the order of their
+// What is seen of the ranges, from page to page, in one sweep: cutting old ranges one by
+// one would move the list for each of 99,999. They are in the order of their
 // first pages, and none is empty.
 std::vector<Range> seenOf(const std::vector<Range> &ranges)
 {
