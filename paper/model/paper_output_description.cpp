@@ -85,9 +85,10 @@ void describeJobType(const PaperOutputSettings &settings, PanelDescription &pane
     const Device &device = panel.job().device;
     panel.add("JobType/JobType", "Job Type:", jobTypeWords(device, settings.jobType), jobTypePopup,
               settings.jobType == kJobTypeNormal);
+    const bool hasTime =
+        settings.jobType == kJobTypeDelayedPrint && settings.delayedPrintTime != 0;
     panel.add("JobType/DelayedPrintTime", "TimeToPrint:",
-              settings.jobType == kJobTypeDelayedPrint
-                  ? QLocale().toString(timeOf(settings.delayedPrintTime), QLocale::ShortFormat)
+              hasTime ? QLocale().toString(timeOf(settings.delayedPrintTime), QLocale::ShortFormat)
                   : QString(),
               jobTypeSetupButton);
     describePasscode(settings, panel);
