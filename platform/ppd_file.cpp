@@ -499,11 +499,6 @@ QString PpdFile::languageEncoding() const
     return textFrom(d->ppd->lang_encoding);
 }
 
-bool PpdFile::isColorDevice() const
-{
-    return d->ppd->color_device != 0;
-}
-
 std::optional<QString> PpdFile::attribute(const char *keyword) const
 {
     const ppd_attr_t *attribute = ppdFindAttr(d->ppd.get(), keyword, nullptr);

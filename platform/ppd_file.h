@@ -78,7 +78,6 @@ public:
     QString manufacturer() const;     // empty when missing
     QString modelName() const;        // the nickname where there is one
     QString languageEncoding() const; // lang_encoding as libcups gives it; empty when missing
-    bool isColorDevice() const;
     // The value of a main keyword such as "KelvoTicket" (without the quotes); none when missing.
     std::optional<QString> attribute(const char *keyword) const;
     QStringList attributes(const char *keyword) const; // every value, e.g. of cupsFilter

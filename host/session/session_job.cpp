@@ -1,5 +1,6 @@
 #include "session_job.h"
 
+#include "folders.h"
 #include "job_words.h"
 #include "ppd_words.h"
 #include "secrets.h"
@@ -19,7 +20,7 @@ SessionJob::SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObj
     , m_wishes(std::move(wishes))
     , m_panels(panels)
     , m_secretKeys(secretKeysOf(bundle))
-    , m_describer(bundle)
+    , m_describer(bundle, userPreferencesFolder())
     , m_session(std::make_unique<PrintSession>())
 {
     for (const auto *given : {&m_wishes.preset, &m_wishes.ticketIn}) {

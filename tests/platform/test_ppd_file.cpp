@@ -57,7 +57,6 @@ void TestPpdFile::tellsWhatTheDeviceIs()
     QCOMPARE(m_ppd->path(), testPpd());
     QCOMPARE(m_ppd->manufacturer(), u"Kelvo"_s);
     QCOMPARE(m_ppd->modelName(), u"Kelvo Test Device"_s);
-    QVERIFY(m_ppd->isColorDevice());
     QCOMPARE(m_ppd->attribute("KelvoTicket"), std::optional(u"1"_s));
     QVERIFY(!m_ppd->attribute("KelvoNothing"));
     QCOMPARE(m_ppd->attributes("cupsFilter"),
@@ -69,7 +68,6 @@ void TestPpdFile::tellsWhatTheDeviceIs()
     QCOMPARE(bare.value()->languageEncoding(), QString());
     QVERIFY(!bare.value()->customPageLimits());
     QVERIFY(bare.value()->groups().empty() && bare.value()->pageSizes().empty());
-    QVERIFY(!bare.value()->isColorDevice());
 }
 
 void TestPpdFile::listsOptionsInTheirGroups()
