@@ -85,11 +85,10 @@ void describeJobType(const PaperOutputSettings &settings, PanelDescription &pane
     const Device &device = panel.job().device;
     panel.add("JobType/JobType", "Job Type:", jobTypeWords(device, settings.jobType), jobTypePopup,
               settings.jobType == kJobTypeNormal);
-    const bool hasTime =
-        settings.jobType == kJobTypeDelayedPrint && settings.delayedPrintTime != 0;
+    const bool hasTime = settings.jobType == kJobTypeDelayedPrint && settings.delayedPrintTime != 0;
     panel.add("JobType/DelayedPrintTime", "TimeToPrint:",
               hasTime ? QLocale().toString(timeOf(settings.delayedPrintTime), QLocale::ShortFormat)
-                  : QString(),
+                      : QString(),
               jobTypeSetupButton);
     describePasscode(settings, panel);
     describeSavedJob(settings, panel);

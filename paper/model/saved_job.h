@@ -12,7 +12,7 @@ namespace kelvo {
 
 inline constexpr int kFirstMailbox = 1;
 inline constexpr int kLastMailbox = 200;
-inline constexpr int kLongestSavedJobName = 24;      // characters
+inline constexpr int kLongestSavedJobName = 24; // characters
 // The device asks for one passcode, and the ticket has one place for it: a saved job's is
 // the secure print's.
 inline constexpr int kShortestSavedJobPasscode = 4;  // digits
