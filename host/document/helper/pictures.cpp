@@ -1,6 +1,6 @@
 #include "confinement.h"
 #include "font_folders.h"
-#include "pdf_canvas.h"
+#include "pdf_output.h"
 #include "size_limits.h"
 #include "svg_references.h"
 #include "tasks.h"
@@ -108,7 +108,7 @@ bool drawPicture(PdfCanvas &canvas, const QImage &image, const QSizeF &paper, bo
     return canvas.endPage();
 }
 
-Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfCanvas &canvas,
+Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfOutput &output,
                           const QSizeF &paper)
 {
     // Only of a TIFF are all pictures pages; a GIF's are a film.
@@ -134,11 +134,11 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfCanvas &ca
                           .arg(reader.errorString())
                     : QStringLiteral("the picture cannot be read: %1").arg(reader.errorString()));
         }
-        if (!drawPicture(canvas, image, paper, kind == DocumentKind::Jpeg))
+        if (!drawPicture(output.canvas(), image, paper, kind == DocumentKind::Jpeg))
             break; // close() tells why
         ++page;
     } while (page <= pages && reader.jumpToNextImage());
-    return canvas.close();
+    return output.close();
 }
 
 // Qt loads the reader of a format when it is first needed; that is too late here.
@@ -168,16 +168,16 @@ Result<void> convertPixels(QFile &file, DocumentKind kind, const QString &pdfPat
                                 .arg(QString::fromLatin1(format).toUpper()));
     }
     const QSizeF paper = localePaper();
-    Result<PdfCanvas> canvas = PdfCanvas::create(pdfPath);
-    if (!canvas)
-        return canvas.error();
+    Result<PdfOutput> output = PdfOutput::create(pdfPath);
+    if (!output)
+        return output.error();
     confineToOpenFiles();
 
     QImageReader::setAllocationLimit(static_cast<int>(limits::picturePixels * 4 / limits::MiB) + 1);
     QImageReader reader(&file, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    return drawPictures(reader, kind, canvas.value(), paper);
+    return drawPictures(reader, kind, output.value(), paper);
 }
 
 // As lines and curves, which stay sharp at any size.
