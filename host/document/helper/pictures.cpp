@@ -12,7 +12,9 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSemaphore>
 #include <QSvgRenderer>
+#include <QThreadPool>
 
 #include <clocale>
 #include <cmath>
@@ -153,6 +155,19 @@ bool loadReader(const QByteArray &format)
     return true;
 }
 
+// Qt converts large pictures on threads of its pool, and a thread needs files of its own to
+// start with: it would end the process when no more can be had. So the pool has one, which
+// starts here and stays.
+void startPoolThread()
+{
+    QThreadPool *pool = QThreadPool::globalInstance();
+    pool->setMaxThreadCount(1);
+    pool->setExpiryTimeout(-1);
+    QSemaphore started;
+    pool->start([&started] { started.release(); });
+    started.acquire();
+}
+
 QByteArray formatOf(DocumentKind kind)
 {
     return QByteArray(pictureFormat(kind).data(), pictureFormat(kind).size());
@@ -171,6 +186,9 @@ Result<void> convertPixels(QFile &file, DocumentKind kind, const QString &pdfPat
     Result<PdfOutput> output = PdfOutput::create(pdfPath);
     if (!output)
         return output.error();
+    // Landlock holds for the thread that asks for it and those that it starts.
+    confineTo({});
+    startPoolThread();
     confineToOpenFiles();
 
     QImageReader::setAllocationLimit(static_cast<int>(limits::picturePixels * 4 / limits::MiB) + 1);
