@@ -1,7 +1,10 @@
 #include "folders.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
+#include <dlfcn.h>
 #include <unistd.h>
 
 namespace kelvo {
@@ -61,6 +64,16 @@ QStringList siteFolders()
             folders << folderBelow(folder, QStringLiteral("kelvo"));
     }
     return folders.isEmpty() ? QStringList{QStringLiteral("/etc/xdg/kelvo")} : folders;
+}
+
+QString libraryFolder()
+{
+    // Not by the program: the extension may be in another one than ours.
+    static const char here = 0;
+    Dl_info library = {};
+    if (::dladdr(&here, &library) == 0 || !library.dli_fname)
+        return {};
+    return QFileInfo(QFile::decodeName(library.dli_fname)).canonicalPath();
 }
 
 } // namespace kelvo

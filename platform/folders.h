@@ -18,4 +18,8 @@ QString localApplicationSupportFolder();
 // administrators deploy, read-only. An earlier folder's file beats a later one's.
 QStringList siteFolders();
 
+// Where this library lies, and beside it what is not linked but opened or started: all
+// that is installed in lib/kelvo.
+QString libraryFolder();
+
 } // namespace kelvo

@@ -1,6 +1,7 @@
 #include "document_helper.h"
 
-#include <QCoreApplication>
+#include "folders.h"
+
 #include <QFileInfo>
 #include <QMutex>
 
@@ -11,7 +12,7 @@ namespace {
 struct HelperFolder
 {
     QMutex mutex;
-    QString path; // empty: beside the program
+    QString path; // empty: libraryFolder()
 };
 
 // Never destroyed: a thread may outlive every static object.
@@ -19,15 +20,6 @@ HelperFolder &helperFolder()
 {
     static auto &state = *new HelperFolder;
     return state;
-}
-
-QStringList foldersToSearch()
-{
-    const QMutexLocker lock(&helperFolder().mutex);
-    if (!helperFolder().path.isEmpty())
-        return {helperFolder().path};
-    const QString folder = QCoreApplication::applicationDirPath();
-    return {folder + QLatin1String("/../lib"), folder + QLatin1String("/../lib/kelvo")};
 }
 
 QLatin1String nameOf(DocumentHelper helper)
@@ -59,12 +51,17 @@ void setDocumentHelperFolder(const QString &path)
 
 Result<ChildProgram> documentHelper(DocumentHelper helper)
 {
-    const QString name = nameOf(helper);
-    for (const QString &folder : foldersToSearch()) {
-        const QString path = folder + QLatin1Char('/') + name;
-        if (QFileInfo::exists(path))
-            return ChildProgram{.program = path, .arguments = {QStringLiteral(KELVO_VERSION)}};
+    QString folder;
+    {
+        const QMutexLocker lock(&helperFolder().mutex);
+        folder = helperFolder().path;
     }
+    if (folder.isEmpty())
+        folder = libraryFolder();
+    const QString name = nameOf(helper);
+    const QString path = folder + QLatin1Char('/') + name;
+    if (QFileInfo::exists(path))
+        return ChildProgram{.program = path, .arguments = {QStringLiteral(KELVO_VERSION)}};
     return Error{Error::Code::NotFound, name,
                  QStringLiteral("this part that reads documents is not installed beside the "
                                 "program; install kelvo-print anew")};

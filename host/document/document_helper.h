@@ -23,10 +23,10 @@ enum class DocumentHelper {
 };
 
 // How `helper` is started, with the arguments that every helper has. NotFound when it
-// is not in ../lib or ../lib/kelvo beside the program. Needs the application object.
+// does not lie beside the program's libraries (libraryFolder()).
 Result<ChildProgram> documentHelper(DocumentHelper helper);
 
-// In place of those two folders; empty: those.
+// In place of that folder; empty: that one.
 void setDocumentHelperFolder(const QString &path);
 
 // Which document a request is about, and how long it is wanted.

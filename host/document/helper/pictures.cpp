@@ -1,6 +1,6 @@
 #include "confinement.h"
 #include "font_folders.h"
-#include "pdf_canvas.h"
+#include "pdf_output.h"
 #include "size_limits.h"
 #include "svg_references.h"
 #include "tasks.h"
@@ -12,7 +12,9 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSemaphore>
 #include <QSvgRenderer>
+#include <QThreadPool>
 
 #include <clocale>
 #include <cmath>
@@ -108,7 +110,7 @@ bool drawPicture(PdfCanvas &canvas, const QImage &image, const QSizeF &paper, bo
     return canvas.endPage();
 }
 
-Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfCanvas &canvas,
+Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfOutput &output,
                           const QSizeF &paper)
 {
     // Only of a TIFF are all pictures pages; a GIF's are a film.
@@ -134,11 +136,11 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfCanvas &ca
                           .arg(reader.errorString())
                     : QStringLiteral("the picture cannot be read: %1").arg(reader.errorString()));
         }
-        if (!drawPicture(canvas, image, paper, kind == DocumentKind::Jpeg))
+        if (!drawPicture(output.canvas(), image, paper, kind == DocumentKind::Jpeg))
             break; // close() tells why
         ++page;
     } while (page <= pages && reader.jumpToNextImage());
-    return canvas.close();
+    return output.close();
 }
 
 // Qt loads the reader of a format when it is first needed; that is too late here.
@@ -151,6 +153,19 @@ bool loadReader(const QByteArray &format)
     nothing.open(QIODevice::ReadOnly);
     (void)QImageReader(&nothing, format).canRead();
     return true;
+}
+
+// Qt converts large pictures on threads of its pool, and a thread needs files of its own to
+// start with: it would end the process when no more can be had. So the pool has one, which
+// starts here and stays.
+void startPoolThread()
+{
+    QThreadPool *pool = QThreadPool::globalInstance();
+    pool->setMaxThreadCount(1);
+    pool->setExpiryTimeout(-1);
+    QSemaphore started;
+    pool->start([&started] { started.release(); });
+    started.acquire();
 }
 
 QByteArray formatOf(DocumentKind kind)
@@ -168,16 +183,19 @@ Result<void> convertPixels(QFile &file, DocumentKind kind, const QString &pdfPat
                                 .arg(QString::fromLatin1(format).toUpper()));
     }
     const QSizeF paper = localePaper();
-    Result<PdfCanvas> canvas = PdfCanvas::create(pdfPath);
-    if (!canvas)
-        return canvas.error();
+    Result<PdfOutput> output = PdfOutput::create(pdfPath);
+    if (!output)
+        return output.error();
+    // Landlock holds for the thread that asks for it and those that it starts.
+    confineTo({});
+    startPoolThread();
     confineToOpenFiles();
 
     QImageReader::setAllocationLimit(static_cast<int>(limits::picturePixels * 4 / limits::MiB) + 1);
     QImageReader reader(&file, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    return drawPictures(reader, kind, canvas.value(), paper);
+    return drawPictures(reader, kind, output.value(), paper);
 }
 
 // As lines and curves, which stay sharp at any size.

@@ -1,12 +1,11 @@
-// GLib's headers come first and use names that Qt would make macros of.
 #ifndef QT_NO_KEYWORDS
 #define QT_NO_KEYWORDS
 #endif
-#include <pango/pangocairo.h>
+#include "pango_owner.h"
 
 #include "confinement.h"
 #include "font_folders.h"
-#include "pdf_canvas.h"
+#include "pdf_output.h"
 #include "size_limits.h"
 #include "tasks.h"
 
@@ -204,16 +203,6 @@ Error noFont(const QString &where, const MissingCharacter &missing)
                                                   : mostScripts))};
 }
 
-struct Unreference
-{
-    void operator()(void *object) const { g_object_unref(object); }
-    void operator()(PangoFontDescription *font) const { pango_font_description_free(font); }
-    void operator()(PangoTabArray *tabs) const { pango_tab_array_free(tabs); }
-    void operator()(PangoLayoutIter *iterator) const { pango_layout_iter_free(iterator); }
-};
-template <typename Type>
-using Owned = std::unique_ptr<Type, Unreference>;
-
 // Puts lines on pages, one after the other.
 class Typesetter
 {
@@ -226,7 +215,7 @@ public:
         m_layout.reset(pango_cairo_create_layout(m_page));
         // A point on the page is a point of the font; Pango's own are a screen's.
         pango_cairo_context_set_resolution(pango_layout_get_context(m_layout.get()), 72);
-        const Owned<PangoFontDescription> font(pango_font_description_from_string(fontName));
+        const PangoOwner<PangoFontDescription> font(pango_font_description_from_string(fontName));
         pango_layout_set_font_description(m_layout.get(), font.get());
         pango_layout_set_width(m_layout.get(),
                                static_cast<int>((paper.width() - 2 * margin) * PANGO_SCALE));
@@ -235,7 +224,7 @@ public:
         pango_layout_set_text(m_layout.get(), " ", 1);
         int width = 0;
         pango_layout_get_size(m_layout.get(), &width, nullptr);
-        const Owned<PangoTabArray> tabs(pango_tab_array_new(1, false));
+        const PangoOwner<PangoTabArray> tabs(pango_tab_array_new(1, false));
         pango_tab_array_set_tab(tabs.get(), 0, PANGO_TAB_LEFT, width * tabColumns);
         pango_layout_set_tabs(m_layout.get(), tabs.get());
     }
@@ -271,7 +260,7 @@ private:
     {
         pango_layout_set_text(m_layout.get(), piece.data(), static_cast<int>(piece.size()));
         const int count = pango_layout_get_line_count(m_layout.get());
-        const Owned<PangoLayoutIter> iterator(pango_layout_get_iter(m_layout.get()));
+        const PangoOwner<PangoLayoutIter> iterator(pango_layout_get_iter(m_layout.get()));
         for (int index = 0; index < count; ++index) {
             PangoLayoutLine *line = pango_layout_iter_get_line(iterator.get());
             if (!isLast && index > 0 && index == count - 1)
@@ -322,7 +311,7 @@ private:
     PdfCanvas &m_canvas;
     QSizeF m_paper;
     cairo_t *m_page = nullptr; // the canvas's, the same for all pages
-    Owned<PangoLayout> m_layout;
+    PangoOwner<PangoLayout> m_layout;
     double m_y = 0; // below the top margin
     int m_pages = 0;
     int m_line = 0; // of the text
@@ -337,9 +326,9 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
     QFile file(files.source);
     if (!file.open(QIODevice::ReadOnly))
         return Error{Error::Code::NotReadable, files.where, file.errorString()};
-    Result<PdfCanvas> canvas = PdfCanvas::create(files.pdf);
-    if (!canvas)
-        return canvas.error();
+    Result<PdfOutput> output = PdfOutput::create(files.pdf);
+    if (!output)
+        return output.error();
     confineTo(fontFolders());
 
     std::optional<QByteArray> text = textFrom(file.readAll());
@@ -350,7 +339,7 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
 
     text->replace("\xc2\x85", "\n"); // the line end of mainframes, U+0085
 
-    Typesetter typesetter(canvas.value(), paper);
+    Typesetter typesetter(output.value().canvas(), paper);
     QByteArrayView rest(*text);
     while (!rest.isEmpty() && !typesetter.isFailed()) {
         if (typesetter.pages() >= limits::documentPages) {
@@ -378,7 +367,7 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
     if (typesetter.missing())
         return noFont(files.where, *typesetter.missing());
     typesetter.endPage();
-    return canvas.value().close();
+    return output.value().close();
 }
 
 } // namespace kelvo::documents

@@ -34,9 +34,10 @@ Result<Document> open(const QString &path)
 }
 
 // Several pictures are more bytes than one would write down.
-QByteArray picture(const char *format, const QSize &size)
+QByteArray picture(const char *format, const QSize &size,
+                   QImage::Format pixels = QImage::Format_RGB32)
 {
-    QImage image(size, QImage::Format_RGB32);
+    QImage image(size, pixels);
     image.fill(Qt::red);
     image.setDotsPerMeterX(2835); // 72 dpi: a pixel is a point
     image.setDotsPerMeterY(2835);
@@ -185,6 +186,12 @@ void TestDocuments::makesPdfOfEachKind_data()
     QTest::newRow("PNG, wide") << picture("png", {300, 200}) << 1 << landscape;
     QTest::newRow("JPEG, tall") << picture("jpeg", {200, 300}) << 1 << portrait;
     QTest::newRow("JPEG, larger than paper") << picture("jpeg", {6000, 2000}) << 1 << landscape;
+    // Qt converts these on threads.
+    QTest::newRow("JPEG, gray") << picture("jpeg", {600, 800}, QImage::Format_Grayscale8) << 1
+                                << portrait;
+    QTest::newRow("JPEG, sharper than paper") << picture("jpeg", {8000, 300}) << 1 << landscape;
+    QTest::newRow("PNG, transparent")
+        << picture("png", {600, 800}, QImage::Format_ARGB32) << 1 << portrait;
     QTest::newRow("BMP") << picture("bmp", {20, 30}) << 1 << portrait;
     QTest::newRow("WebP") << picture("webp", {20, 30}) << 1 << portrait;
     QTest::newRow("GIF") << QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0"

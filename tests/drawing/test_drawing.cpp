@@ -1,0 +1,209 @@
+#include "drawing.h"
+#include "files.h"
+#include "library_entry.h"
+
+#include <QImage>
+#include <QLibrary>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <poppler-qt6.h>
+#include <thread>
+
+using namespace kelvo;
+using namespace kelvo::drawing;
+using namespace Qt::StringLiterals;
+
+class TestDrawing : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isOpenedWithTheFirstCall();
+    void saysWhyItCannotBeOpened();
+    void findsFontsByName();
+    void measuresInPointsFromTheBaseline();
+    void measuresWhatIsDrawn_data();
+    void measuresWhatIsDrawn();
+    void drawsTextThatCanBeRead();
+    void drawsOnAnyThread();
+};
+
+namespace {
+
+bool hasDrawingLibraries()
+{
+    const QByteArray maps = bytesOf(u"/proc/self/maps"_s);
+    return maps.isEmpty() || maps.contains("/libcairo") || maps.contains("/libpango");
+}
+
+const Library &here()
+{
+    const Result<const Library *> opened = library();
+    if (!opened)
+        qFatal("%s", qPrintable(opened.reason()));
+    return *opened.value();
+}
+
+std::unique_ptr<Poppler::Document> pageWith(const QString &text, const TextStyle &style,
+                                            const QSizeF &size, const QPointF &origin)
+{
+    Result<std::unique_ptr<Page>> page = here().beginPage(size);
+    if (!page)
+        qFatal("%s", qPrintable(page.reason()));
+    page.value()->drawText(text, style, origin);
+    const Result<QByteArray> pdf = page.value()->finish();
+    if (!pdf)
+        qFatal("%s", qPrintable(pdf.reason()));
+    return Poppler::Document::loadFromData(pdf.value());
+}
+
+} // namespace
+
+// The window and the extension do without: their first frame would wait for it.
+void TestDrawing::isOpenedWithTheFirstCall()
+{
+    QLibrary module(u"" KELVO_BUILD_DIR "/lib/KelvoPDE.pde/KelvoPDE.so"_s);
+    QVERIFY2(module.load(), qPrintable(module.errorString()));
+    QVERIFY(!hasDrawingLibraries());
+
+    const Result<const Library *> first = library();
+
+    QVERIFY2(first, qPrintable(first.reason()));
+    QVERIFY(hasDrawingLibraries());
+    QCOMPARE(library().value(), first.value());
+    QLibrary opened(libraryFolder() + u"/libkelvo_drawing.so"_s);
+    auto *entry = reinterpret_cast<Entry *>(opened.resolve(entryName));
+    QVERIFY(entry && !entry("0.9")); // another version's
+}
+
+void TestDrawing::saysWhyItCannotBeOpened()
+{
+    const std::pair<QByteArray, Error::Code> rows[] = {
+        {{}, Error::Code::NotFound}, // no file
+        {"no library", Error::Code::NotReadable},
+        {bytesOf(u"" KELVO_BUILD_DIR "/lib/libkelvo_platform.so"_s), Error::Code::Damaged},
+    };
+    for (const auto &[bytes, code] : rows) {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"libkelvo_drawing.so"_s);
+        if (!bytes.isEmpty())
+            putFile(path, bytes);
+        const Result<const Library *> opened = library(folder.path());
+        QVERIFY(!opened);
+        QCOMPARE(opened.error().code, code);
+        QCOMPARE(opened.error().where, path);
+        QVERIFY2(opened.error().detail.contains(u"install kelvo-print anew"_s),
+                 qPrintable(opened.reason()));
+    }
+}
+
+void TestDrawing::findsFontsByName()
+{
+    const std::pair<QString, QString> rows[] = {
+        {u"DejaVuSans-Bold"_s, u"DejaVuSans-Bold"_s}, // exactly
+        {u"ArialMT"_s, u"LiberationSans"_s},          // as wide
+        {u"CourierNewPS-BoldMT"_s, u"LiberationMono-Bold"_s},
+        {u"dejavusans-bold"_s, {}},
+        {u"DejaVu Sans"_s, {}}, // a family
+        {u"NoSuchFont"_s, {}},
+        {{}, {}},
+    };
+    for (const auto &[name, found] : rows) {
+        const std::optional<Font> font = here().findFont(name);
+        QCOMPARE(font ? font->postScriptName : QString(), found);
+        const QByteArray trueType("\0\1\0\0", 4);
+        QVERIFY(!font || bytesOf(font->path).startsWith(trueType));
+    }
+}
+
+void TestDrawing::measuresInPointsFromTheBaseline()
+{
+    // Of 2048 units of that font: an H begins at 168, ends at 1312 and is 1409 high.
+    const TextStyle upright{u"LiberationSans"_s, 2048};
+    const TextStyle toTheLeft{u"LiberationSans"_s, 2048, {}, 90};
+    const auto rounded = [](const TextStyle &style) {
+        return here().inkBounds(u"H"_s, style).toRect();
+    };
+    QCOMPARE(rounded(upright), QRect(168, -1409, 1144, 1409));
+    QCOMPARE(rounded(toTheLeft), QRect(-1409, -1312, 1409, 1144));
+}
+
+void TestDrawing::measuresWhatIsDrawn_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("angle");
+    QTest::addColumn<QString>("font"); // its file's PostScript name
+    QTest::newRow("on the baseline") << u"H"_s << 0.0 << u"LiberationSans"_s;
+    QTest::newRow("below it") << u"jg"_s << 0.0 << u"LiberationSans-BoldItalic"_s;
+    QTest::newRow("two lines") << u"H\nH"_s << 0.0 << u"DejaVuSans"_s;
+    QTest::newRow("a quarter to the left") << u"Hg"_s << 90.0 << u"DejaVuSans-Bold"_s;
+    QTest::newRow("a quarter to the right") << u"Hg"_s << -90.0 << u"DejaVuSansMono"_s;
+    QTest::newRow("an eighth") << u"HgHg"_s << 45.0 << u"LiberationSans"_s;
+}
+
+void TestDrawing::measuresWhatIsDrawn()
+{
+    QFETCH(QString, text);
+    QFETCH(double, angle);
+    QFETCH(QString, font);
+    constexpr int scale = 4; // pixels of a point
+    const QPointF origin(130, 140);
+    const TextStyle style{font, 50, {1, 0, 0, 1}, angle};
+
+    const QRectF ink = here().inkBounds(text, style);
+    const auto pdf = pageWith(text, style, {300, 290}, origin);
+    QVERIFY(pdf && pdf->fonts().size() == 1);
+    QVERIFY2(pdf->fonts().first().name().endsWith(u'+' + font),
+             qPrintable(pdf->fonts().first().name()));
+    const QImage image = pdf->page(0)->renderToImage(72 * scale, 72 * scale);
+    QRect inked;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qGreen(image.pixel(x, y)) < 128) {
+                QVERIFY(qRed(image.pixel(x, y)) > 250);
+                inked |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+
+    const QRectF drawn(QPointF(inked.topLeft()) / scale, QSizeF(inked.size()) / scale);
+    const QRectF measured = ink.translated(origin.x(), 290 - origin.y());
+    // The corners of a turned rectangle are white.
+    const double white = angle == 45 ? 18 : 0.5;
+    QVERIFY(measured.adjusted(-0.5, -0.5, 0.5, 0.5).contains(drawn));
+    QVERIFY(drawn.adjusted(-white, -white, white, white).contains(measured));
+}
+
+void TestDrawing::drawsTextThatCanBeRead()
+{
+    const auto pdf = pageWith(u"Grüße, Ελλάς"_s, {}, {612, 792}, {72, 72});
+
+    QVERIFY(pdf);
+    QCOMPARE(pdf->numPages(), 1);
+    QCOMPARE(pdf->page(0)->pageSizeF(), QSizeF(612, 792));
+    QCOMPARE(pdf->page(0)->text({}).trimmed(), u"Grüße, Ελλάς"_s);
+    QVERIFY(here().inkBounds(u" "_s, {}).isNull());
+    for (const QSizeF size : {QSizeF(0, 792), QSizeF(612, qQNaN()), QSizeF(612, 14401)})
+        QCOMPARE(here().beginPage(size).error().code, Error::Code::OutOfRange);
+}
+
+void TestDrawing::drawsOnAnyThread()
+{
+    const TextStyle style{u"ArialMT"_s, 72, {}, 30};
+    const QRectF expected = here().inkBounds(u"Draft"_s, style);
+    std::atomic_int same = 0;
+    {
+        std::vector<std::jthread> threads;
+        for (int count = 0; count < 4; ++count) {
+            threads.emplace_back([&] {
+                const auto pdf = pageWith(u"Draft"_s, style, {612, 792}, {100, 100});
+                same += pdf && here().inkBounds(u"Draft"_s, style) == expected;
+            });
+        }
+    }
+    QCOMPARE(same, 4);
+}
+
+QTEST_GUILESS_MAIN(TestDrawing)
+#include "test_drawing.moc"
