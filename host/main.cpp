@@ -17,10 +17,12 @@
 #include "size_limits.h"
 #include "temporary_folder.h"
 #include "terminal.h"
+#include "texts.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSocketNotifier>
 #include <QStringDecoder>
 #include <QTimer>
@@ -100,7 +102,7 @@ int endWith(int status)
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return status;
     fail(ExitStatus::Failed,
-         QStringLiteral("standard output cannot be written; what was done before stays done"));
+         translate("Main", "standard output cannot be written; what was done before stays done"));
     return status == 0 ? toInt(ExitStatus::Failed) : status;
 }
 
@@ -117,13 +119,12 @@ int endAfterBackgroundWork(int status)
 }
 
 // What is wrong with a file that `option` names and that could not be read at all.
-QString inputProblem(const QString &option, const Error &error, const char *advice)
+QString inputProblem(const QString &option, const Error &error, const QString &advice)
 {
     if (error.code == Error::Code::NotFound)
-        return QStringLiteral("%1: there is no file %2; %3")
-            .arg(option, error.where, QLatin1String(advice));
+        return translate("Main", "%1: there is no file %2; %3").arg(option, error.where, advice);
     if (error.code == Error::Code::NotReadable)
-        return QStringLiteral("%1: %2 cannot be read (%3); name a file that you may read")
+        return translate("Main", "%1: %2 cannot be read (%3); name a file that you may read")
             .arg(option, error.where, error.detail);
     return QStringLiteral("%1: %2").arg(option, error.text());
 }
@@ -133,14 +134,14 @@ QString ticketProblem(const QString &path, const Error &error)
 {
     if (error.code != Error::Code::Damaged && error.code != Error::Code::WrongType)
         return inputProblem(QStringLiteral("--ticket-in"), error,
-                            "check its name, or write one with --ticket-out");
+                            translate("Main", "check its name, or write one with --ticket-out"));
     QString reason = error.text();
     if (reason.startsWith(path))
         reason.remove(0, path.size());
     while (reason.startsWith(u',') || reason.startsWith(u':') || reason.startsWith(u' '))
         reason.remove(0, 1);
     reason.remove(QStringLiteral(": this is not a ticket file"));
-    return QStringLiteral("%1 is not a ticket file (%2)").arg(path, reason);
+    return translate("Main", "%1 is not a ticket file (%2)").arg(path, reason);
 }
 
 // ---- signals
@@ -201,7 +202,7 @@ Result<QString> readSecret(const QString &path)
         return Error{Error::Code::NotFound, path, QString::fromLocal8Bit(std::strerror(errno))};
     if ((status->st_mode & (S_IRWXG | S_IRWXO)) != 0)
         return Error{Error::Code::Refused, path,
-                     QStringLiteral("others may read this secret; set its mode to 0600")};
+                     translate("Main", "others may read this secret; set its mode to 0600")};
     const auto bytes = readFile(path, limits::secretBytes);
     if (!bytes)
         return bytes.error();
@@ -209,13 +210,13 @@ Result<QString> readSecret(const QString &path)
     QString text = decoder(bytes.value());
     if (decoder.hasError())
         return Error{Error::Code::Damaged, path,
-                     QStringLiteral("this is not UTF-8; write the secret as UTF-8 text")};
+                     translate("Main", "this is not UTF-8; write the secret as UTF-8 text")};
     if (text.endsWith(u'\n'))
         text.chop(1);
     if (text.endsWith(u'\r'))
         text.chop(1);
     if (text.isEmpty())
-        return Error{Error::Code::Damaged, path, QStringLiteral("the secret is empty")};
+        return Error{Error::Code::Damaged, path, translate("Main", "the secret is empty")};
     return text;
 }
 
@@ -252,9 +253,10 @@ std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &option
     for (auto secret = line.secretFiles.cbegin(); secret != line.secretFiles.cend(); ++secret) {
         const auto text = readSecret(secret.value());
         if (!text)
-            return Failure{ExitStatus::WrongUsage,
-                           inputProblem(QStringLiteral("--secret"), text.error(),
-                                        "check its name, or write the secret into it")};
+            return Failure{
+                ExitStatus::WrongUsage,
+                inputProblem(QStringLiteral("--secret"), text.error(),
+                             translate("Main", "check its name, or write the secret into it"))};
         protectSecrets();
         secrets.insert(secret.key(), text.value());
     }
@@ -263,10 +265,11 @@ std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &option
         if (!lines && lines.error().code == Error::Code::Damaged)
             return Failure{ExitStatus::WrongUsage, lines.error().text(), true};
         if (!lines)
-            return Failure{lines.error().code == Error::Code::Cancelled ? ExitStatus::Cancelled
-                                                                        : ExitStatus::WrongUsage,
-                           inputProblem(QStringLiteral("--script"), lines.error(),
-                                        "check its name, or give - for standard input")};
+            return Failure{
+                lines.error().code == Error::Code::Cancelled ? ExitStatus::Cancelled
+                                                             : ExitStatus::WrongUsage,
+                inputProblem(QStringLiteral("--script"), lines.error(),
+                             translate("Main", "check its name, or give - for standard input"))};
         script = std::move(lines).value();
     }
     if (line.ticketIn) {
@@ -289,14 +292,15 @@ std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &option
         : line.ppd.value_or(QString());
     if (line.demo && devicePath.isEmpty())
         return Failure{ExitStatus::Failed,
-                       QStringLiteral("--demo: the sample device is not installed")};
+                       translate("Main", "--demo: the sample device is not installed")};
     if (!devicePath.isEmpty()) {
         auto device = PpdFile::open(devicePath);
         if (!device)
             return Failure{
                 ExitStatus::NoDestination,
                 inputProblem(line.demo ? QStringLiteral("--demo") : QStringLiteral("--ppd"),
-                             device.error(), "check its name, or name a queue with -d")};
+                             device.error(),
+                             translate("Main", "check its name, or name a queue with -d"))};
         options.session.printer.device = std::move(device).value();
     }
     DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
@@ -304,16 +308,18 @@ std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &option
         source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
         if (source.path.isEmpty())
             return Failure{ExitStatus::Failed,
-                           QStringLiteral("--demo: the sample document is not installed")};
+                           translate("Main", "--demo: the sample document is not installed")};
     } else if (line.file.isEmpty()) {
         if (::isatty(STDIN_FILENO))
             return Failure{ExitStatus::WrongUsage,
-                           QStringLiteral("there is no document: name a file, or pipe one in. "
-                                          "`kelvo-print --help` says more.")};
+                           translate("Main",
+                                     "there is no document: name a file, or pipe one in. "
+                                     "`kelvo-print --help` says more.")};
     } else if (!fileStatus(line.file)) {
         return Failure{ExitStatus::Failed,
-                       QStringLiteral("%1: there is no such document; check its name, or the "
-                                      "folder that it is looked for in (%2)")
+                       translate("Main",
+                                 "%1: there is no such document; check its name, or the "
+                                 "folder that it is looked for in (%2)")
                            .arg(line.file, QDir::currentPath())};
     }
     options.session.document = source;
@@ -432,8 +438,9 @@ int runApplication(int argc, char **argv, const CommandLine &line)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {
         return fail(ExitStatus::WrongUsage,
-                    QStringLiteral("there is no display to show the dialog on; --no-window prints "
-                                   "without one"));
+                    translate("Main",
+                              "there is no display to show the dialog on; --no-window prints "
+                              "without one"));
     }
     // Fonts take as long to be found as the application object takes to be made.
     // Whoever asks for them meanwhile would look for them a second time.
@@ -445,6 +452,7 @@ int runApplication(int argc, char **argv, const CommandLine &line)
         }))
         return fail(ExitStatus::Failed, noThreadReason());
     QApplication application(argc, argv);
+    installTexts();
     // The application object took over the locale; what we write must not follow it.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("kelvo-print"));
@@ -461,7 +469,7 @@ int runApplication(int argc, char **argv, const CommandLine &line)
         addHelpFolder(session.bundle->resourcesPath() + QStringLiteral("/help"));
     } else {
         session.bundleProblem =
-            QStringLiteral("The device panels are missing (%1).").arg(bundle.error().text());
+            translate("Main", "The device panels are missing (%1).").arg(bundle.error().text());
     }
 
     if (!areThreadsToBeHad->get_future().get())
@@ -496,13 +504,14 @@ int main(int argc, char **argv)
     // A file that may not grow is an error of its write, which says so.
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
+    loadTexts(findSharedFile(QStringLiteral("strings")), QLocale().uiLanguages());
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(fileNameFrom(argv[i]));
     const auto parsed = parseCommandLine(arguments);
     if (!parsed) {
         fail(ExitStatus::WrongUsage, parsed.error().text());
-        printLine(stderr, QStringLiteral("Try: kelvo-print --help"));
+        printLine(stderr, translate("Main", "Try: kelvo-print --help"));
         return toInt(ExitStatus::WrongUsage);
     }
     const CommandLine &line = parsed.value();

@@ -2,6 +2,7 @@
 
 #include "property_list.h"
 #include "string_table.h"
+#include "texts.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -65,7 +66,7 @@ Result<Bundle *> Bundle::open(const QString &path)
 {
     const QString canonical = QFileInfo(path).canonicalFilePath();
     if (canonical.isEmpty())
-        return Error{Code::NotFound, path, QStringLiteral("there is no such bundle")};
+        return Error{Code::NotFound, path, translate("Panels", "there is no such bundle")};
     for (const auto &bundle : openBundles()) {
         if (bundle->path() == canonical)
             return bundle.get();
@@ -77,14 +78,15 @@ Result<Bundle *> Bundle::open(const QString &path)
         return list.error();
     const auto info = dictionary(list.value());
     if (!info)
-        return Error{Code::WrongType, infoPath, QStringLiteral("holds no dictionary")};
+        return Error{Code::WrongType, infoPath, translate("Panels", "holds no dictionary")};
     const QString identifier = string(*info, identifierKey).value_or(QString());
     if (identifier.isEmpty())
         return Error{Code::Damaged, infoPath + QStringLiteral(": ") + identifierKey,
-                     QStringLiteral("missing or not a string")};
+                     translate("Panels", "missing or not a string")};
     if (const Bundle *other = CFBundleGetBundleWithIdentifier(identifier))
-        return Error{Code::Refused, infoPath + QStringLiteral(": ") + identifierKey,
-                     QStringLiteral("%1 is already the bundle %2").arg(identifier, other->path())};
+        return Error{
+            Code::Refused, infoPath + QStringLiteral(": ") + identifierKey,
+            translate("Panels", "%1 is already the bundle %2").arg(identifier, other->path())};
 
     std::unique_ptr<Bundle> bundle(new Bundle(canonical));
     bundle->d->identifier = identifier;

@@ -4,6 +4,7 @@
 #include "property_list.h"
 #include "size_limits.h"
 #include "terminal.h"
+#include "texts.h"
 #include "values.h"
 
 #include <QCryptographicHash>
@@ -60,7 +61,7 @@ Error systemError(Code code, const QString &path, int number = errno)
 std::optional<Error> problemOf(const QString &path)
 {
     if (path.isEmpty() || path.contains(QChar(0)))
-        return Error{Code::NotFound, path, QStringLiteral("not a path")};
+        return Error{Code::NotFound, path, translate("Files", "not a path")};
     return std::nullopt;
 }
 
@@ -114,13 +115,14 @@ Result<std::shared_ptr<Descriptor>> lockFor(const QString &path, StoreLock scope
         ::open(fileNameBytes(lockPath).constData(),
                O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600));
     if (!*fd)
-        return errno == ELOOP ? Error{Code::Refused, lockPath,
-                                      QStringLiteral("the lock file is a symbolic link; remove it")}
-                              : systemError(Code::NotWritable, lockPath);
+        return errno == ELOOP
+            ? Error{Code::Refused, lockPath,
+                    translate("Files", "the lock file is a symbolic link; remove it")}
+            : systemError(Code::NotWritable, lockPath);
     struct stat status;
     if (::fstat(fd->get(), &status) != 0 || !S_ISREG(status.st_mode))
         return Error{Code::Refused, lockPath,
-                     QStringLiteral("the lock file is not a regular file; remove it")};
+                     translate("Files", "the lock file is not a regular file; remove it")};
 
     using Clock = std::chrono::steady_clock;
     const auto deadline = Clock::now() + std::chrono::milliseconds(limits::fileLockWaitMs);
@@ -129,7 +131,7 @@ Result<std::shared_ptr<Descriptor>> lockFor(const QString &path, StoreLock scope
             return systemError(Code::NotWritable, lockPath);
         if (Clock::now() >= deadline)
             return Error{Code::TimedOut, path,
-                         QStringLiteral("another program is writing it; try again")};
+                         translate("Files", "another program is writing it; try again")};
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
     return fd;
@@ -179,7 +181,7 @@ Result<std::shared_ptr<Descriptor>> openForReading(const QString &path, struct s
     if (::fstat(fd->get(), &status) != 0)
         return systemError(Code::NotReadable, path);
     if (!S_ISREG(status.st_mode))
-        return Error{Code::NotReadable, path, QStringLiteral("not a regular file")};
+        return Error{Code::NotReadable, path, translate("Files", "not a regular file")};
     return fd;
 }
 
@@ -201,8 +203,9 @@ Result<void> setAside(const QString &path, const Error &reason)
             QStringLiteral("%1: damaged, kept as %2 (%3)").arg(path, nameOf(aside), reason.text()));
         return {};
     }
-    return Error{Code::NotWritable, path,
-                 QStringLiteral("damaged, and too many damaged copies lie beside it; remove them")};
+    return Error{
+        Code::NotWritable, path,
+        translate("Files", "damaged, and too many damaged copies lie beside it; remove them")};
 }
 
 // What a store holds, or why it counts as damaged; any other failure to read it
@@ -219,7 +222,8 @@ Result<StoreContent> readStore(const QString &path)
     if (list) {
         if (const auto root = dictionary(list.value()))
             return StoreContent{*root, std::nullopt};
-        return StoreContent{{}, Error{Code::WrongType, path, QStringLiteral("not a dictionary")}};
+        return StoreContent{{},
+                            Error{Code::WrongType, path, translate("Files", "not a dictionary")}};
     }
     switch (list.error().code) {
     case Code::NotFound:
@@ -239,12 +243,12 @@ QString writingAdvice(int number)
     case ENOSPC:
     case EDQUOT:
     case EFBIG:
-        return QStringLiteral("make room there, or name another place");
+        return translate("Files", "make room there, or name another place");
     case EACCES:
     case EPERM:
-        return QStringLiteral("change the rights there, or name a place that you may write to");
+        return translate("Files", "change the rights there, or name a place that you may write to");
     default:
-        return QStringLiteral("name another place");
+        return translate("Files", "name another place");
     }
 }
 
@@ -255,7 +259,7 @@ Result<QByteArray> readFile(const QString &path, qint64 limit)
     if (!opened)
         return opened.error();
     const Descriptor &fd = *opened.value();
-    const Error tooLarge{Code::TooLarge, path, QStringLiteral("more than %1 bytes").arg(limit)};
+    const Error tooLarge{Code::TooLarge, path, translate("Files", "more than %1 bytes").arg(limit)};
     if (status.st_size > limit)
         return tooLarge;
 
@@ -288,7 +292,7 @@ Result<StagedFile> StagedFile::write(const QString &path, const Writer &writer)
         return Error{Code::NotWritable, problem->where, problem->detail};
     struct stat status;
     if (::stat(fileNameBytes(path).constData(), &status) == 0 && !S_ISREG(status.st_mode))
-        return Error{Code::NotWritable, path, QStringLiteral("not a regular file")};
+        return Error{Code::NotWritable, path, translate("Files", "not a regular file")};
 
     StagedFile staged;
     auto temporary = HeldPath::make(folderOf(path), kStagedFilePrefix, LeftoverKind::File);

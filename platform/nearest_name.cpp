@@ -1,5 +1,7 @@
 #include "nearest_name.h"
 
+#include "texts.h"
+
 #include <algorithm>
 #include <numeric>
 #include <utility>
@@ -47,18 +49,26 @@ QString nearestName(const QString &name, const QStringList &candidates)
     return nearest;
 }
 
-QString didYouMean(const QString &name, const QStringList &candidates)
-{
-    const QString nearest = nearestName(name, candidates);
-    return nearest.isEmpty() ? QString() : QStringLiteral(", did you mean %1?").arg(nearest);
-}
-
 QString shortList(const QStringList &names)
 {
     QString list = names.mid(0, kShortListLength).join(QStringLiteral(", "));
     if (names.size() > kShortListLength)
         list += QStringLiteral(", …");
     return list;
+}
+
+QString didYouMean(const QString &problem, const QString &name, const QStringList &candidates)
+{
+    const QString nearest = nearestName(name, candidates);
+    return nearest.isEmpty() ? problem
+                             : translate("Words", "%1, did you mean %2?").arg(problem, nearest);
+}
+
+QString nearestOrAll(const QString &problem, const QString &name, const QStringList &candidates)
+{
+    return candidates.isEmpty() || !nearestName(name, candidates).isEmpty()
+        ? didYouMean(problem, name, candidates)
+        : translate("Words", "%1; there are %2").arg(problem, shortList(candidates));
 }
 
 } // namespace kelvo

@@ -10,11 +10,14 @@ namespace kelvo {
 // name would have to change).
 QString nearestName(const QString &name, const QStringList &candidates);
 
-// ", did you mean NAME?" or nothing: the end of a sentence.
-QString didYouMean(const QString &name, const QStringList &candidates);
-
 // The first of the names, and "…" where there are more.
 inline constexpr qsizetype kShortListLength = 12; // names
 QString shortList(const QStringList &names);
+
+// What is wrong with `name`, and the name that is near: "PROBLEM, did you mean NAME?"; the
+// problem alone when none is. No full stop is at its end.
+QString didYouMean(const QString &problem, const QString &name, const QStringList &candidates);
+// The same, but where none is near all that there are: "PROBLEM; there are NAMES".
+QString nearestOrAll(const QString &problem, const QString &name, const QStringList &candidates);
 
 } // namespace kelvo

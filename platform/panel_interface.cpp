@@ -1,5 +1,7 @@
 #include "panel_interface.h"
 
+#include "texts.h"
+
 namespace kelvo {
 
 namespace {
@@ -51,20 +53,22 @@ Result<PanelOperations> findPanelOperations(Bundle &bundle, const QString &gette
     if (!get) {
         const QString reason = bundle.loadError();
         return Error{Error::Code::NotFound, getter,
-                     reason.isEmpty() ? QStringLiteral("the module has no such function") : reason};
+                     reason.isEmpty() ? translate("Panels", "the module has no such function")
+                                      : reason};
     }
     PanelInterface *interface = nullptr;
     const OSStatus status = get(&interface);
     if (!interface)
         return Error{Error::Code::Refused, getter,
-                     QStringLiteral("it gave no interface (%1)").arg(status)};
+                     translate("Panels", "it gave no interface (%1)").arg(status)};
     const PanelOperations operations = interface->table ? *interface->table : PanelOperations{};
     release(interface);
     if (status != noErr)
-        return Error{Error::Code::Refused, getter, QStringLiteral("it failed (%1)").arg(status)};
+        return Error{Error::Code::Refused, getter,
+                     translate("Panels", "it failed (%1)").arg(status)};
     if (!isComplete(operations))
         return Error{Error::Code::Damaged, getter,
-                     QStringLiteral("its interface lacks an operation")};
+                     translate("Panels", "its interface lacks an operation")};
     return withoutFirstThree(operations);
 }
 

@@ -2,6 +2,7 @@
 
 #include "file_store.h"
 #include "size_limits.h"
+#include "texts.h"
 
 #include <QHash>
 #include <QSet>
@@ -82,9 +83,10 @@ Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &file, const QStr
         const ppd_status_t status = ppdLastError(&line);
         if (status == PPD_MISSING_PPDADOBE4 || status == PPD_NULL_FILE)
             return Error{Code::Damaged, path,
-                         QStringLiteral("this is not a PPD file; one begins with *PPD-Adobe")};
-        return Error{Code::Damaged, path,
-                     QStringLiteral("line %1: %2").arg(line).arg(textFrom(ppdErrorString(status)))};
+                         translate("Device", "this is not a PPD file; one begins with *PPD-Adobe")};
+        return Error{
+            Code::Damaged, path,
+            translate("Device", "line %1: %2").arg(line).arg(textFrom(ppdErrorString(status)))};
     }
     return std::shared_ptr<ppd_file_t>(ppd, &ppdClose);
 }
@@ -96,21 +98,25 @@ std::optional<Error> findExcess(const QByteArray &bytes, const QString &path)
     {
         QByteArrayView word;
         int most;
-        QLatin1String what;
+        const char *problem; // with %1 for the most
     };
+    static constexpr const char *options = QT_TRANSLATE_NOOP("Device", "more than %1 options");
+    static constexpr const char *groups = QT_TRANSLATE_NOOP("Device", "more than %1 groups");
+    static constexpr const char *sizes = QT_TRANSLATE_NOOP("Device", "more than %1 page sizes");
+    static constexpr const char *constraints =
+        QT_TRANSLATE_NOOP("Device", "more than %1 constraints");
     static constexpr Row rows[] = {
-        {"OpenUI", limits::ppdOptions, QLatin1String("options")},
-        {"OpenGroup", limits::ppdOptions, QLatin1String("groups")},
-        {"OpenSubGroup", limits::ppdOptions, QLatin1String("groups")},
-        {"*PageSize ", limits::ppdPageSizes, QLatin1String("page sizes")},
-        {"*PaperDimension", limits::ppdPageSizes, QLatin1String("page sizes")},
-        {"*ImageableArea", limits::ppdPageSizes, QLatin1String("page sizes")},
-        {"UIConstraints", limits::ppdConstraints, QLatin1String("constraints")},
+        {"OpenUI", limits::ppdOptions, options},
+        {"OpenGroup", limits::ppdOptions, groups},
+        {"OpenSubGroup", limits::ppdOptions, groups},
+        {"*PageSize ", limits::ppdPageSizes, sizes},
+        {"*PaperDimension", limits::ppdPageSizes, sizes},
+        {"*ImageableArea", limits::ppdPageSizes, sizes},
+        {"UIConstraints", limits::ppdConstraints, constraints},
     };
     for (const Row &row : rows) {
         if (bytes.count(row.word) > row.most)
-            return Error{Code::TooLarge, path,
-                         QStringLiteral("more than %1 %2").arg(row.most).arg(row.what)};
+            return Error{Code::TooLarge, path, translate("Device", row.problem).arg(row.most)};
     }
     return std::nullopt;
 }
@@ -122,14 +128,18 @@ std::optional<Error> findCut(const QByteArray &bytes, const QString &path)
     struct Open
     {
         QByteArrayView begin, end; // keywords
-        QLatin1String what;
-        QByteArray name; // empty: none is open
+        const char *cut;           // what is wrong with a file that ends before `end`
+        QByteArray name;           // empty: none is open
         int line = 0;
     };
+    static constexpr const char *inOption = QT_TRANSLATE_NOOP(
+        "Device", "line %1: the file ends in the middle of the option %2; get it again");
+    static constexpr const char *inGroup = QT_TRANSLATE_NOOP(
+        "Device", "line %1: the file ends in the middle of the group %2; get it again");
     Open opens[] = {
-        {"*OpenUI", "*CloseUI", QLatin1String("the option"), {}, 0},
-        {"*JCLOpenUI", "*JCLCloseUI", QLatin1String("the option"), {}, 0},
-        {"*OpenGroup", "*CloseGroup", QLatin1String("the group"), {}, 0},
+        {"*OpenUI", "*CloseUI", inOption, {}, 0},
+        {"*JCLOpenUI", "*JCLCloseUI", inOption, {}, 0},
+        {"*OpenGroup", "*CloseGroup", inGroup, {}, 0},
     };
     int number = 0;
     int quoteLine = 0; // where a value in quotes began that goes over several lines
@@ -171,15 +181,14 @@ std::optional<Error> findCut(const QByteArray &bytes, const QString &path)
     for (const Open &open : opens) {
         if (!open.name.isEmpty())
             return Error{Code::Damaged, path,
-                         QStringLiteral("line %1: the file ends in the middle of %2 %3; get it "
-                                        "again")
-                             .arg(open.line)
-                             .arg(open.what, QString::fromLatin1(open.name))};
+                         translate("Device", open.cut)
+                             .arg(QString::number(open.line), QString::fromLatin1(open.name))};
     }
     if (quoteLine != 0)
         return Error{Code::Damaged, path,
-                     QStringLiteral("line %1: the file ends in the middle of a text in quotes; "
-                                    "get it again")
+                     translate("Device",
+                               "line %1: the file ends in the middle of a text in quotes; "
+                               "get it again")
                          .arg(quoteLine)};
     return std::nullopt;
 }
@@ -442,11 +451,11 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
 {
     if (bytes.size() > limits::ppdBytes)
         return Error{Code::TooLarge, path,
-                     QStringLiteral("more than %1 bytes").arg(limits::ppdBytes)};
+                     translate("Device", "more than %1 bytes").arg(limits::ppdBytes)};
     // libcups would unpack it, to any size.
     if (bytes.startsWith("\x1f\x8b"))
         return Error{Code::Unsupported, path,
-                     QStringLiteral("compressed; unpack it with gunzip first")};
+                     translate("Device", "compressed; unpack it with gunzip first")};
     if (auto excess = findExcess(bytes, path))
         return *excess;
     auto opened = openBytes(bytes, path);

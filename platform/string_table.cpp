@@ -1,5 +1,6 @@
 #include "string_table.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QTranslator>
 
@@ -11,8 +12,12 @@ StringTables::~StringTables() = default;
 void StringTables::load(const QString &folder, const QStringList &uiLanguages)
 {
     QStringList names;
-    for (QString language : uiLanguages)
+    for (QString language : uiLanguages) {
         names << language.replace(u'-', u'_');
+        // en.qm has what en_GB.qm has not; whoever prefers it has no use for the rest.
+        if (language.section(u'_', 0, 0) == QLatin1String("en"))
+            break;
+    }
     names << QStringLiteral("en");
     names.removeDuplicates();
     for (const QString &name : std::as_const(names)) {
@@ -28,14 +33,25 @@ void StringTables::load(const QString &folder, const QStringList &uiLanguages)
 
 std::optional<QString> StringTables::find(const QString &table, const QString &key) const
 {
-    const QByteArray context = table.toUtf8();
-    const QByteArray source = key.toUtf8();
+    return find(table.toUtf8().constData(), key.toUtf8().constData());
+}
+
+std::optional<QString> StringTables::find(const char *table, const char *key, const char *comment,
+                                          int count) const
+{
     for (const auto &translator : m_translators) {
-        QString text = translator->translate(context.constData(), source.constData());
+        QString text = translator->translate(table, key, comment, count);
         if (!text.isNull())
             return text;
     }
     return std::nullopt;
+}
+
+void StringTables::install() const
+{
+    // The one that is installed last is asked first.
+    for (auto each = m_translators.rbegin(); each != m_translators.rend(); ++each)
+        QCoreApplication::installTranslator(each->get());
 }
 
 QString formatted(const QString &format, const QStringList &arguments)

@@ -7,7 +7,6 @@
 #include <optional>
 #include <vector>
 
-class QLocale;
 class QTranslator;
 
 // Localized texts: Qt Linguist tables, English too, one context a table, the
@@ -22,12 +21,19 @@ public:
     StringTables(const StringTables &) = delete;
     StringTables &operator=(const StringTables &) = delete;
 
-    // Loads `folder`/<language>.qm for each of the user's languages in turn and
-    // en.qm last; a language that is not there is skipped.
+    // Loads `folder`/<language>.qm for each of the user's languages in turn, up to the first
+    // kind of English, and en.qm last; a language that is not there is skipped.
     void load(const QString &folder, const QStringList &uiLanguages);
 
     // The text of `key` in `table`; none when no loaded language has it.
     std::optional<QString> find(const QString &table, const QString &key) const;
+    // The same for what stands in the code, with the comment that tells it from others, if
+    // any. With a `count`, the form that the language has for it; %n is still in there.
+    std::optional<QString> find(const char *table, const char *key, const char *comment = nullptr,
+                                int count = -1) const;
+
+    // The application object's tr() looks here, too, until these tables go.
+    void install() const;
 
 private:
     std::vector<std::unique_ptr<QTranslator>> m_translators; // best language first

@@ -3,6 +3,7 @@
 #include "file_names.h"
 #include "file_store.h"
 #include "property_list.h"
+#include "texts.h"
 
 #include <QFileInfo>
 
@@ -248,14 +249,15 @@ Result<void> checkTicketTarget(const QString &path)
     const auto inFolder = fileStatus(folder);
     if (!inFolder || !S_ISDIR(inFolder->st_mode))
         return Error{Code::NotWritable, path,
-                     QStringLiteral("the folder %1 does not exist; make it first, or name another "
-                                    "file")
+                     translate("Files",
+                               "the folder %1 does not exist; make it first, or name another "
+                               "file")
                          .arg(folder)};
     if (::access(fileNameBytes(folder).constData(), W_OK | X_OK) != 0) {
         const int reason = errno;
         return Error{
             Code::NotWritable, path,
-            QStringLiteral("nothing can be written into the folder %1 (%2); %3")
+            translate("Files", "nothing can be written into the folder %1 (%2); %3")
                 .arg(folder, QString::fromUtf8(std::strerror(reason)), writingAdvice(reason)),
             reason};
     }
@@ -264,12 +266,13 @@ Result<void> checkTicketTarget(const QString &path)
         return {};
     if (!S_ISREG(target->st_mode))
         return Error{Code::Refused, path,
-                     QStringLiteral("this is not a regular file; name another one")};
+                     translate("Files", "this is not a regular file; name another one")};
     if (target->st_size == 0 || readTicketFile(path))
         return {};
     return Error{Code::Refused, path,
-                 QStringLiteral("a file that is not a ticket stands there and is not replaced; "
-                                "move it away or name another file")};
+                 translate("Files",
+                           "a file that is not a ticket stands there and is not replaced; "
+                           "move it away or name another file")};
 }
 
 Result<void> writeTicketFile(const QString &path, const TicketFile &file)

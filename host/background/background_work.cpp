@@ -1,5 +1,7 @@
 #include "background_work.h"
 
+#include "texts.h"
+
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
@@ -102,9 +104,10 @@ bool canStartThreads(int count)
 
 QString noThreadReason()
 {
-    return QStringLiteral("the system gives this program no thread, because too many processes run "
-                          "for this user or in this container; end some, or have the limit raised "
-                          "(ulimit -u), and try again");
+    return translate("Background",
+                     "the system gives this program no thread, because too many processes run "
+                     "for this user or in this container; end some, or have the limit raised "
+                     "(ulimit -u), and try again");
 }
 
 bool waitForBackgroundWork(int milliseconds)

@@ -1,5 +1,7 @@
 #include "application_files.h"
 
+#include "texts.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -17,13 +19,14 @@ Result<Bundle *> openPanelBundle()
             return Bundle::open(path);
     }
     return Error{Error::Code::NotFound, QStringLiteral("KelvoPDE.pde"),
-                 QStringLiteral("it is not installed beside the program")};
+                 translate("CommandLine", "it is not installed beside the program")};
 }
 
 QString findSharedFile(const QString &name)
 {
-    const QString path =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/../share/kelvo-print/") + name;
+    // Texts are asked for before there is an application object that knows its folder.
+    const QString path = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath()
+        + QStringLiteral("/../share/kelvo-print/") + name;
     return QFileInfo::exists(path) ? QFileInfo(path).canonicalFilePath() : QString();
 }
 

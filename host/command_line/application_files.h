@@ -14,7 +14,8 @@ namespace kelvo {
 // user when there is none.
 Result<Bundle *> openPanelBundle();
 
-// A file of ../share/kelvo-print; empty when it is not there.
+// A file or folder of ../share/kelvo-print; empty when it is not there. Needs no
+// application object.
 QString findSharedFile(const QString &name);
 
 } // namespace kelvo

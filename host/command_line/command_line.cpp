@@ -2,6 +2,7 @@
 
 #include "nearest_name.h"
 #include "page_ranges.h"
+#include "texts.h"
 
 #include <algorithm>
 #include <limits>
@@ -41,10 +42,8 @@ Result<std::vector<PageRun>> runsOf(const QString &pages)
 
 QString notANumber(const QString &value, int minimum, int maximum)
 {
-    return QStringLiteral("\"%1\" is not a whole number from %2 to %3")
-        .arg(value)
-        .arg(minimum)
-        .arg(maximum);
+    return translate("CommandLine", "\"%1\" is not a whole number from %2 to %3")
+        .arg(value, QString::number(minimum), QString::number(maximum));
 }
 
 // NAME=VALUE; none when there is no name before the sign.
@@ -80,7 +79,7 @@ template <std::optional<QString> CommandLine::*Member>
 Result<void> takeText(CommandLine &line, const QString &value, const QString &where)
 {
     if (value.isEmpty())
-        return refused(where, QStringLiteral("its value is empty"));
+        return refused(where, translate("CommandLine", "its value is empty"));
     line.*Member = value;
     return {};
 }
@@ -128,10 +127,11 @@ Result<void> takeOption(CommandLine &line, const QString &value, const QString &
         const auto named = option ? option : nameAndValue(word);
         if (word == QLatin1String("fit-to-page"))
             return refused(where,
-                           QStringLiteral("fit-to-page: pages are printed at their own size; "
-                                          "choose a paper that holds them, -o media=NAME"));
+                           translate("CommandLine",
+                                     "fit-to-page: pages are printed at their own size; "
+                                     "choose a paper that holds them, -o media=NAME"));
         if (!named || named->second.isEmpty())
-            return refused(where, QStringLiteral("\"%1\" is not NAME=VALUE").arg(word));
+            return refused(where, translate("CommandLine", "\"%1\" is not NAME=VALUE").arg(word));
         if (isNamed(*named, pageRangesOption)) {
             if (const auto runs = runsOf(named->second); !runs)
                 return refused(where, runs.error().text());
@@ -144,8 +144,9 @@ Result<void> takeOption(CommandLine &line, const QString &value, const QString &
 Result<void> takePages(CommandLine &line, const QString &value, const QString &where)
 {
     if (value.trimmed().isEmpty())
-        return refused(where,
-                       QStringLiteral("\"%1\" is not a list of pages such as 1-3,7,9-").arg(value));
+        return refused(
+            where,
+            translate("CommandLine", "\"%1\" is not a list of pages such as 1-3,7,9-").arg(value));
     if (const auto runs = runsOf(value); !runs)
         return refused(where, runs.error().text());
     line.pages = value;
@@ -157,12 +158,15 @@ Result<void> takeSecret(CommandLine &line, const QString &value, const QString &
     const auto secret = nameAndValue(value);
     if (!secret || secret->second.isEmpty())
         return refused(where,
-                       QStringLiteral("it takes NAME=FILE; the secret itself stands in the "
-                                      "file"));
+                       translate("CommandLine",
+                                 "it takes NAME=FILE; the secret itself stands in the "
+                                 "file"));
     if (!isSecretName(secret->first))
-        return refused(where, QStringLiteral("a secret's name has only letters, digits, - and _"));
+        return refused(
+            where, translate("CommandLine", "a secret's name has only letters, digits, - and _"));
     if (line.secretFiles.contains(secret->first))
-        return refused(where, QStringLiteral("the secret %1 is given twice").arg(secret->first));
+        return refused(where,
+                       translate("CommandLine", "the secret %1 is given twice").arg(secret->first));
     line.secretFiles.insert(secret->first, secret->second);
     return {};
 }
@@ -179,28 +183,28 @@ Result<void> takeTimeout(CommandLine &line, const QString &value, const QString 
 // In the order of the usage.
 // clang-format off
 constexpr OptionRow optionRows[] = {
-    {"-d", nullptr, "DESTINATION", "print to this queue", takeText<&CommandLine::destination>},
-    {"-n", nullptr, "COPIES", "print this many copies, 1 to 9999", takeCopies},
-    {"-o", nullptr, "NAME=VALUE", "set an option of the device, media=NAME or\norientation-requested=3|4|5|6", takeOption},
-    {"-P", nullptr, "PAGES", "print only these pages: 1-3,7,9-", takePages},
-    {"-t", nullptr, "TITLE", "call the job so", takeText<&CommandLine::title>},
-    {nullptr, "--ppd", "FILE", "show a device without a queue", takeText<&CommandLine::ppd>},
-    {nullptr, "--demo", nullptr, "show the sample device and document", takeFlag<&CommandLine::demo>},
-    {nullptr, "--preset", "NAME", "begin with this preset", takeText<&CommandLine::preset>},
-    {nullptr, "--preset-out", "FILE", "write what was set as a preset when printing or when\nthe script ends", takeText<&CommandLine::presetOut>},
-    {nullptr, "--ticket-in", "FILE", "begin with the settings in this ticket", takeText<&CommandLine::ticketIn>},
-    {nullptr, "--ticket-out", "FILE", "write all settings when printing or when the\nscript ends", takeText<&CommandLine::ticketOut>},
-    {nullptr, "--script", "FILE", "drive the dialog; - is standard input", takeText<&CommandLine::script>},
-    {nullptr, "--print", nullptr, "print when the script has ended", takeFlag<&CommandLine::print>},
-    {nullptr, "--secret", "NAME=FILE", "a secret for the script, in a file of mode 0600", takeSecret},
-    {nullptr, "--no-window", nullptr, "show nothing; without a script, print at once", takeFlag<&CommandLine::noWindow>},
-    {nullptr, "--to", "DIR", "write document.pdf, options and ticket.plist there\ninstead of sending", takeText<&CommandLine::toFolder>},
-    {nullptr, "--timeout", "SECONDS", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)", takeTimeout},
-    {nullptr, "--list-printers", nullptr, "list the queues and end", takeFlag<&CommandLine::listPrinters>},
-    {nullptr, "--list-controls", nullptr, "list what scripts can reach, and end", takeFlag<&CommandLine::listControls>},
-    {nullptr, "--version", nullptr, "print the version and end", takeFlag<&CommandLine::version>},
-    {nullptr, "--help-scripts", nullptr, "list the commands of scripts and end", takeFlag<&CommandLine::helpScripts>},
-    {"-h", "--help", nullptr, "print this and end", takeFlag<&CommandLine::help>},
+    {"-d", nullptr, "DESTINATION", QT_TRANSLATE_NOOP("CommandLine", "print to this queue"), takeText<&CommandLine::destination>},
+    {"-n", nullptr, "COPIES", QT_TRANSLATE_NOOP("CommandLine", "print this many copies, 1 to 9999"), takeCopies},
+    {"-o", nullptr, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "set an option of the device, media=NAME or\norientation-requested=3|4|5|6"), takeOption},
+    {"-P", nullptr, "PAGES", QT_TRANSLATE_NOOP("CommandLine", "print only these pages: 1-3,7,9-"), takePages},
+    {"-t", nullptr, "TITLE", QT_TRANSLATE_NOOP("CommandLine", "call the job so"), takeText<&CommandLine::title>},
+    {nullptr, "--ppd", "FILE", QT_TRANSLATE_NOOP("CommandLine", "show a device without a queue"), takeText<&CommandLine::ppd>},
+    {nullptr, "--demo", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show the sample device and document"), takeFlag<&CommandLine::demo>},
+    {nullptr, "--preset", "NAME", QT_TRANSLATE_NOOP("CommandLine", "begin with this preset"), takeText<&CommandLine::preset>},
+    {nullptr, "--preset-out", "FILE", QT_TRANSLATE_NOOP("CommandLine", "write what was set as a preset when printing or when\nthe script ends"), takeText<&CommandLine::presetOut>},
+    {nullptr, "--ticket-in", "FILE", QT_TRANSLATE_NOOP("CommandLine", "begin with the settings in this ticket"), takeText<&CommandLine::ticketIn>},
+    {nullptr, "--ticket-out", "FILE", QT_TRANSLATE_NOOP("CommandLine", "write all settings when printing or when the\nscript ends"), takeText<&CommandLine::ticketOut>},
+    {nullptr, "--script", "FILE", QT_TRANSLATE_NOOP("CommandLine", "drive the dialog; - is standard input"), takeText<&CommandLine::script>},
+    {nullptr, "--print", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print when the script has ended"), takeFlag<&CommandLine::print>},
+    {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600"), takeSecret},
+    {nullptr, "--no-window", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show nothing; without a script, print at once"), takeFlag<&CommandLine::noWindow>},
+    {nullptr, "--to", "DIR", QT_TRANSLATE_NOOP("CommandLine", "write document.pdf, options and ticket.plist there\ninstead of sending"), takeText<&CommandLine::toFolder>},
+    {nullptr, "--timeout", "SECONDS", QT_TRANSLATE_NOOP("CommandLine", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)"), takeTimeout},
+    {nullptr, "--list-printers", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list the queues and end"), takeFlag<&CommandLine::listPrinters>},
+    {nullptr, "--list-controls", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list what scripts can reach, and end"), takeFlag<&CommandLine::listControls>},
+    {nullptr, "--version", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print the version and end"), takeFlag<&CommandLine::version>},
+    {nullptr, "--help-scripts", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list the commands of scripts and end"), takeFlag<&CommandLine::helpScripts>},
+    {"-h", "--help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print this and end"), takeFlag<&CommandLine::help>},
 };
 // clang-format on
 
@@ -237,15 +241,15 @@ QStringList allNames()
 
 Error noSuchOption(const QString &name)
 {
+    const QString problem = translate("CommandLine", "there is no such option");
     // Every single letter is near every other one.
-    const QString near = name.size() > 2 ? didYouMean(name, allNames()) : QString();
-    return refused(name, QStringLiteral("there is no such option") + near);
+    return refused(name, name.size() > 2 ? didYouMean(problem, name, allNames()) : problem);
 }
 
 Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
 {
     if (*hasFile)
-        return refused(file, QStringLiteral("only one document is printed at a time"));
+        return refused(file, translate("CommandLine", "only one document is printed at a time"));
     *hasFile = true;
     line.readsStandardInput = file == QLatin1String("-");
     line.file = line.readsStandardInput ? QString() : file;
@@ -269,9 +273,10 @@ std::optional<Error> findTwoValues(const CommandLine &line)
 {
     const auto twice = [](const char *option, const QString &value, const char *name,
                           const QString &other) {
-        return refused(QStringLiteral("%1 %2").arg(QLatin1String(option), value),
-                       QStringLiteral("-o %1=%2 says something else; leave out one of them")
-                           .arg(QLatin1String(name), other));
+        return refused(
+            QStringLiteral("%1 %2").arg(QLatin1String(option), value),
+            translate("CommandLine", "-o %1=%2 says something else; leave out one of them")
+                .arg(QLatin1String(name), other));
     };
     const auto copies = lastOption(line, copiesOption);
     if (line.copies && copies && wholeNumber(*copies, 1, maximumCopies) != line.copies)
@@ -290,23 +295,27 @@ std::optional<Error> findClash(const CommandLine &line)
 {
     if (line.ppd && line.demo)
         return refused(QStringLiteral("--demo"),
-                       QStringLiteral("it brings a device of its own; leave out --ppd"));
+                       translate("CommandLine", "it brings a device of its own; leave out --ppd"));
     if (line.destination && (line.ppd || line.demo))
-        return refused(QStringLiteral("-d"),
-                       QStringLiteral("%1 shows a device without a queue; leave out one of them")
-                           .arg(line.ppd ? QStringLiteral("--ppd") : QStringLiteral("--demo")));
+        return refused(
+            QStringLiteral("-d"),
+            translate("CommandLine", "%1 shows a device without a queue; leave out one of them")
+                .arg(line.ppd ? QStringLiteral("--ppd") : QStringLiteral("--demo")));
     if (line.print && !line.script)
         return refused(QStringLiteral("--print"),
-                       QStringLiteral("it prints after a script: add --script FILE, or use "
-                                      "--no-window to print at once"));
+                       translate("CommandLine",
+                                 "it prints after a script: add --script FILE, or use "
+                                 "--no-window to print at once"));
     if (line.noWindow && !line.script && (line.ppd || line.demo) && !line.toFolder)
-        return refused(QStringLiteral("--no-window"),
-                       QStringLiteral("a device without a queue cannot print; add --to DIR"));
+        return refused(
+            QStringLiteral("--no-window"),
+            translate("CommandLine", "a device without a queue cannot print; add --to DIR"));
     if (line.script == QStringLiteral("-") && line.file.isEmpty()
         && (!line.demo || line.readsStandardInput))
         return refused(QStringLiteral("--script -"),
-                       QStringLiteral("standard input is the document already; name one of them "
-                                      "as a file"));
+                       translate("CommandLine",
+                                 "standard input is the document already; name one of them "
+                                 "as a file"));
     return findTwoValues(line);
 }
 
@@ -321,7 +330,8 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
         const QString &argument = arguments[i];
         if (optionsEnded || !argument.startsWith(u'-') || argument == QLatin1String("-")) {
             if (argument.isEmpty())
-                return refused(QStringLiteral("\"\""), QStringLiteral("a document has a name"));
+                return refused(QStringLiteral("\"\""),
+                               translate("CommandLine", "a document has a name"));
             if (const auto taken = takeFile(line, argument, &hasFile); !taken)
                 return taken.error();
             continue;
@@ -344,12 +354,14 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
         else if (!isLong && argument.size() > 2)
             value = argument.mid(2);
         if (!row->value && value)
-            return refused(name,
-                           QStringLiteral("it takes no value; \"%1\" is too much").arg(*value));
+            return refused(
+                name,
+                translate("CommandLine", "it takes no value; \"%1\" is too much").arg(*value));
         if (row->value && !value) {
             if (i + 1 == arguments.size())
-                return refused(
-                    name, QStringLiteral("its value %1 is missing").arg(QLatin1String(row->value)));
+                return refused(name,
+                               translate("CommandLine", "its value %1 is missing")
+                                   .arg(QLatin1String(row->value)));
             value = arguments[++i];
         }
         if (const auto taken = row->take(line, value.value_or(QString()), name); !taken)
@@ -366,12 +378,13 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
 QString usageText()
 {
     constexpr int helpColumn = 28;
-    QString text = QStringLiteral(
-        "Usage: kelvo-print [OPTION]... [FILE]\n"
-        "\n"
-        "Shows the print dialog for FILE, or for standard input: PDF, PostScript, text\n"
-        "or a picture.\n"
-        "\n");
+    QString text =
+        translate("CommandLine",
+                  "Usage: kelvo-print [OPTION]... [FILE]\n"
+                  "\n"
+                  "Shows the print dialog for FILE, or for standard input: PDF, PostScript, text\n"
+                  "or a picture.\n"
+                  "\n");
     for (const OptionRow &row : optionRows) {
         QStringList names;
         for (const char *name : {row.shortName, row.longName}) {
@@ -381,12 +394,13 @@ QString usageText()
         QString left = QStringLiteral("  ") + names.join(QStringLiteral(", "));
         if (row.value)
             left += u' ' + QLatin1String(row.value);
-        const QStringList help = QString::fromLatin1(row.help).split(u'\n');
+        const QStringList help = translate("CommandLine", row.help).split(u'\n');
         text += left.leftJustified(helpColumn) + help.first() + u'\n';
         for (qsizetype i = 1; i < help.size(); ++i)
             text += QString(helpColumn, u' ') + help[i] + u'\n';
     }
-    text += QStringLiteral(
+    text += translate(
+        "CommandLine",
         "\n"
         "Later beats earlier: the device's defaults, the queue's, the site's preset,\n"
         "--preset, --ticket-in, -o, --script.\n"

@@ -1,6 +1,7 @@
 #include "output_targets.h"
 
 #include "file_names.h"
+#include "texts.h"
 #include "ticket_file.h"
 
 #include <QDir>
@@ -41,20 +42,24 @@ QString absolutePath(const QString &path)
 
 struct Input
 {
-    QString name; // as messages call it
+    QString problem; // of writing over it, with %1 for its path
     std::optional<struct stat> status;
 };
 
 // What is read and belongs to the user. A ticket may be read and written again.
 QList<Input> inputsOf(const CommandLine &line)
 {
-    QList<Input> inputs{{QStringLiteral("the document"), documentStatus(line)}};
+    QList<Input> inputs{{translate("CommandLine", "%1 is the document itself; it would be lost"),
+                         documentStatus(line)}};
     if (line.script && *line.script != QLatin1String("-"))
-        inputs.append({QStringLiteral("the script"), fileStatus(*line.script)});
+        inputs.append({translate("CommandLine", "%1 is the script itself; it would be lost"),
+                       fileStatus(*line.script)});
     if (line.ppd)
-        inputs.append({QStringLiteral("the device's PPD"), fileStatus(*line.ppd)});
+        inputs.append({translate("CommandLine", "%1 is the device's PPD itself; it would be lost"),
+                       fileStatus(*line.ppd)});
     for (const QString &file : line.secretFiles)
-        inputs.append({QStringLiteral("a secret"), fileStatus(file)});
+        inputs.append({translate("CommandLine", "%1 is a secret itself; it would be lost"),
+                       fileStatus(file)});
     return inputs;
 }
 
@@ -65,9 +70,7 @@ Result<void> checkTarget(const QString &option, const QString &target, const QLi
         return {};
     for (const Input &input : inputs) {
         if (input.status && isSameFile(*input.status, *status))
-            return Error{
-                Code::Refused, option,
-                QStringLiteral("%1 is %2 itself; it would be lost").arg(target, input.name)};
+            return Error{Code::Refused, option, input.problem.arg(target)};
     }
     return {};
 }
@@ -80,12 +83,17 @@ Result<void> checkOutputTargets(const CommandLine &line)
     // A preset is less than a whole ticket.
     QList<Input> whole = inputs;
     if (line.ticketIn)
-        whole.append({QStringLiteral("the ticket that is read"), fileStatus(*line.ticketIn)});
+        whole.append(
+            {translate("CommandLine", "%1 is the ticket that is read itself; it would be lost"),
+             fileStatus(*line.ticketIn)});
     if (line.ticketOut) {
-        whole.append({QStringLiteral("what --ticket-out writes"), fileStatus(*line.ticketOut)});
+        whole.append(
+            {translate("CommandLine", "%1 is what --ticket-out writes itself; it would be lost"),
+             fileStatus(*line.ticketOut)});
         if (line.presetOut && absolutePath(*line.presetOut) == absolutePath(*line.ticketOut))
-            return Error{Code::Refused, QStringLiteral("--preset-out"),
-                         QStringLiteral("%1 is what --ticket-out writes").arg(*line.presetOut)};
+            return Error{
+                Code::Refused, QStringLiteral("--preset-out"),
+                translate("CommandLine", "%1 is what --ticket-out writes").arg(*line.presetOut)};
     }
     const struct
     {

@@ -1,5 +1,7 @@
 #include "cups_connection.h"
 
+#include "texts.h"
+
 #include <chrono>
 
 namespace kelvo {
@@ -29,7 +31,8 @@ const char *noPassword(const char *, http_t *, const char *, const char *, void 
 
 QString howToFindTheServer()
 {
-    return QStringLiteral("check that it runs (lpstat -r), or name another one with CUPS_SERVER");
+    return translate("Delivery",
+                     "check that it runs (lpstat -r), or name another one with CUPS_SERVER");
 }
 
 } // namespace
@@ -68,10 +71,10 @@ Result<Connection> connectToServer(Patience &patience)
             return serverError(patience, serverName());
         // libcups says "Host is down" of any that takes no connection.
         const QString reason = cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE
-            ? QStringLiteral("nothing takes connections there")
+            ? translate("Delivery", "nothing takes connections there")
             : QString::fromUtf8(cupsLastErrorString()).simplified();
         return Error{Code::Unreachable, serverName(),
-                     QStringLiteral("no print server can be reached at %1: %2; %3")
+                     translate("Delivery", "no print server can be reached at %1: %2; %3")
                          .arg(serverName(), reason, howToFindTheServer())};
     }
     httpSetTimeout(http.get(), wakeUp, goOn, &patience);
@@ -104,7 +107,7 @@ Error noThread(const QString &where)
 Error timedOut(const Patience &patience, const QString &where)
 {
     return {Code::TimedOut, where,
-            QStringLiteral("the print server at %1 did not answer for %2 s; %3")
+            translate("Delivery", "the print server at %1 did not answer for %2 s; %3")
                 .arg(serverName())
                 .arg(patience.timeoutMs() / 1000.0)
                 .arg(howToFindTheServer())};
@@ -113,36 +116,40 @@ Error timedOut(const Patience &patience, const QString &where)
 Error serverError(const Patience &patience, const QString &where)
 {
     if (patience.isStopped())
-        return {Code::Cancelled, where, QStringLiteral("cancelled")};
+        return {Code::Cancelled, where, translate("Delivery", "cancelled")};
     if (patience.isTimedOut())
         return timedOut(patience, where);
     const QString reason = QString::fromUtf8(cupsLastErrorString()).simplified();
     switch (cupsLastError()) {
     case IPP_STATUS_ERROR_NOT_FOUND:
         return {Code::NotFound, where,
-                QStringLiteral("the print server at %1 has no such printer; lpstat -e lists those "
-                               "it has")
+                translate("Delivery",
+                          "the print server at %1 has no such printer; lpstat -e lists those "
+                          "it has")
                     .arg(serverName())};
     case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
     case IPP_STATUS_ERROR_INTERNAL:
         return {Code::Unreachable, where,
-                QStringLiteral("the print server at %1 does not answer (%2); %3")
+                translate("Delivery", "the print server at %1 does not answer (%2); %3")
                     .arg(serverName(), reason, howToFindTheServer())};
     case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
     case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
         return {Code::Refused, where,
-                QStringLiteral("the print server at %1 asks for a password, which this program "
-                               "cannot give; ask its administrator to let you print")
+                translate("Delivery",
+                          "the print server at %1 asks for a password, which this program "
+                          "cannot give; ask its administrator to let you print")
                     .arg(serverName())};
     case IPP_STATUS_ERROR_FORBIDDEN:
     case IPP_STATUS_ERROR_NOT_AUTHORIZED:
         return {Code::Refused, where,
-                QStringLiteral("the print server at %1 does not let you use this printer; ask its "
-                               "administrator")
+                translate("Delivery",
+                          "the print server at %1 does not let you use this printer; ask its "
+                          "administrator")
                     .arg(serverName())};
     default:
-        return {Code::Refused, where,
-                QStringLiteral("the print server at %1 said no: %2").arg(serverName(), reason)};
+        return {
+            Code::Refused, where,
+            translate("Delivery", "the print server at %1 said no: %2").arg(serverName(), reason)};
     }
 }
 
@@ -152,10 +159,11 @@ Result<QString> queueName(const QString &printer)
     for (const QChar character : name) {
         if (character.unicode() <= 0x20 || character.unicode() == 0x7f || character == u'#'
             || character == u'?')
-            return Error{Code::NotFound, printer, QStringLiteral("no printer has such a name")};
+            return Error{Code::NotFound, printer,
+                         translate("Delivery", "no printer has such a name")};
     }
     if (name.isEmpty() || name.toUtf8().size() > 127)
-        return Error{Code::NotFound, printer, QStringLiteral("no printer has such a name")};
+        return Error{Code::NotFound, printer, translate("Delivery", "no printer has such a name")};
     return name;
 }
 

@@ -9,6 +9,7 @@
 #include "ppd_words.h"
 #include "queue_ppds.h"
 #include "temporary_folder.h"
+#include "texts.h"
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
@@ -33,19 +34,23 @@ using Code = Error::Code;
 Error notRead(const PreparedJob &job, const QString &where)
 {
     return {Code::Unsupported, where,
-            QStringLiteral("the printer's PPD does not say that it reads tickets "
-                           "(*KelvoTicket: \"1\"): %1; print without it, or have the queue set "
-                           "up with the device's own PPD")
-                .arg(job.hasPasscode
-                         ? QStringLiteral("a job with a passcode would lie open in the tray")
-                         : QStringLiteral("a fax would be printed instead of sent"))};
+            job.hasPasscode
+                ? translate("Delivery",
+                            "the printer's PPD does not say that it reads tickets "
+                            "(*KelvoTicket: \"1\"): a job with a passcode would lie open in the "
+                            "tray; print without it, or have the queue set up with the device's "
+                            "own PPD")
+                : translate("Delivery",
+                            "the printer's PPD does not say that it reads tickets "
+                            "(*KelvoTicket: \"1\"): a fax would be printed instead of sent; print "
+                            "without it, or have the queue set up with the device's own PPD")};
 }
 
 Result<Document> pagesToPrint(const Document &document, const QString &pageRanges)
 {
     if (document.isNull())
         return Error{Code::NotFound, QStringLiteral("document"),
-                     QStringLiteral("there is nothing to print")};
+                     translate("Delivery", "there is nothing to print")};
     if (pageRanges.trimmed().isEmpty())
         return document;
     const auto runs = pageRunsFrom(pageRanges, document.pageCount());
@@ -109,15 +114,16 @@ Result<void> provideFolder(const QString &folder)
         return {};
     if (reason == EEXIST)
         return Error{Code::NotWritable, folder,
-                     QStringLiteral("this is not a folder; name another one")};
+                     translate("Delivery", "this is not a folder; name another one")};
     const QString parent = QFileInfo(QDir::cleanPath(folder)).path();
     if (reason == ENOENT && !fileStatus(parent))
         return Error{Code::NotWritable, folder,
-                     QStringLiteral("the folder %1 does not exist; make it first, or name another "
-                                    "one")
+                     translate("Delivery",
+                               "the folder %1 does not exist; make it first, or name another "
+                               "one")
                          .arg(parent)};
     return Error{Code::NotWritable, folder,
-                 QStringLiteral("the folder cannot be made (%1); %2")
+                 translate("Delivery", "the folder cannot be made (%1); %2")
                      .arg(QString::fromUtf8(std::strerror(reason)), writingAdvice(reason))};
 }
 
@@ -128,12 +134,12 @@ Result<void> checkReplaceable(const QStringList &paths)
         const auto there = fileStatus(path);
         if (there && !S_ISREG(there->st_mode))
             return Error{Code::NotWritable, path,
-                         QStringLiteral("this is not a regular file; move it away")};
+                         translate("Delivery", "this is not a regular file; move it away")};
         if (there && ::access(fileNameBytes(path).constData(), W_OK) != 0)
-            return Error{
-                Code::NotWritable, path,
-                QStringLiteral("the file is write-protected; move it away, or name another "
-                               "folder")};
+            return Error{Code::NotWritable, path,
+                         translate("Delivery",
+                                   "the file is write-protected; move it away, or name another "
+                                   "folder")};
     }
     return {};
 }
@@ -141,7 +147,8 @@ Result<void> checkReplaceable(const QStringList &paths)
 Error notWritten(Error error)
 {
     if (error.code == Code::NotWritable && error.number != 0)
-        error.detail += QStringLiteral("; ") + writingAdvice(error.number);
+        error.detail = translate("Delivery", "%1; %2", "a problem and advice")
+                           .arg(error.detail, writingAdvice(error.number));
     return error;
 }
 
@@ -214,20 +221,26 @@ QString jobName(const Sending &sending)
 Error perhapsAccepted(const Sending &sending, Code code, const QString &reason)
 {
     return {code, sending.queue,
-            QStringLiteral("the whole document was sent as %1, but %2. The job may have been "
-                           "accepted: look with \"lpstat -W all -o %3\" before you print it again")
+            translate("Delivery",
+                      "the whole document was sent as %1, but %2. The job may have been "
+                      "accepted: look with \"lpstat -W all -o %3\" before you print it again")
                 .arg(jobName(sending), reason, sending.queue)};
+}
+
+QString nothingPrinted(const QString &problem)
+{
+    return translate("Delivery", "%1; nothing was printed").arg(problem);
 }
 
 Error noAnswer(const Sending &sending)
 {
-    const QString reason = QStringLiteral("the print server at %1 did not answer for %2 s")
+    const QString reason = translate("Delivery", "the print server at %1 did not answer for %2 s")
                                .arg(serverName())
                                .arg(sending.patience.timeoutMs() / 1000.0);
     if (sending.phase == Sending::Phase::Complete)
         return perhapsAccepted(sending, Code::TimedOut, reason);
     Error error = timedOut(sending.patience, sending.queue);
-    error.detail += QStringLiteral("; nothing was printed");
+    error.detail = nothingPrinted(error.detail);
     return error;
 }
 
@@ -271,9 +284,10 @@ Result<void> secureFor(const Sending &sending, http_t *http)
     if (sending.patience.isOver())
         return serverError(sending.patience, sending.queue);
     return Error{Code::Refused, sending.queue,
-                 QStringLiteral("the job holds a passcode, and the print server at %1 does not "
-                                "offer an encrypted connection (TLS); nothing was sent. Have it "
-                                "switched on, or print without the passcode")
+                 translate("Delivery",
+                           "the job holds a passcode, and the print server at %1 does not "
+                           "offer an encrypted connection (TLS); nothing was sent. Have it "
+                           "switched on, or print without the passcode")
                      .arg(serverName())};
 }
 
@@ -292,8 +306,9 @@ Result<void> checkReader(Sending &sending, http_t *http)
         const auto ppd = PpdFile::fromBytes(bytes, sending.queue);
         if (!ppd)
             return Error{Code::Damaged, sending.queue,
-                         QStringLiteral("the PPD that the print server at %1 has for it is damaged "
-                                        "(%2); have the queue set up again with the device's PPD")
+                         translate("Delivery",
+                                   "the PPD that the print server at %1 has for it is damaged "
+                                   "(%2); have the queue set up again with the device's PPD")
                              .arg(serverName(), ppd.error().detail)};
         if (!readsTickets(ppd.value().get()))
             return notRead(sending.job, sending.queue);
@@ -368,11 +383,12 @@ Result<void> sendDocument(Sending &sending, http_t *http)
         return noAnswer(sending);
     return perhapsAccepted(
         sending, Code::Unreachable,
-        QStringLiteral("the print server at %1 broke off before it answered").arg(serverName()));
+        translate("Delivery", "the print server at %1 broke off before it answered")
+            .arg(serverName()));
 }
 
-// Takes a half-sent job off the server. The words say what is left to do.
-QString cancelJob(const Sending &sending)
+// Takes a half-sent job off the server. The words are `problem` and what is left to do.
+QString cancelJob(const Sending &sending, const QString &problem)
 {
     constexpr int enough = 5000; // milliseconds; it is only courtesy
     Patience patience(enough);
@@ -380,10 +396,11 @@ QString cancelJob(const Sending &sending)
         const QByteArray queue = sending.queue.toUtf8();
         if (cupsCancelJob2(http.value().get(), queue.constData(), sending.jobId, 0)
             < IPP_STATUS_REDIRECTION_OTHER_SITE)
-            return QStringLiteral("; nothing was printed");
+            return nothingPrinted(problem);
     }
-    return QStringLiteral("; the job could not be taken back: cancel it with \"cancel %1\"")
-        .arg(jobName(sending));
+    return translate("Delivery",
+                     "%1; the job could not be taken back: cancel it with \"cancel %2\"")
+        .arg(problem, jobName(sending));
 }
 
 // All that talks to the server, on a thread of its own.
@@ -401,7 +418,7 @@ Result<DeliveredJob> send(Sending &sending)
     if (auto sent = sendDocument(sending, http.value().get()); !sent) {
         Error error = sent.error();
         if (sending.phase != Sending::Phase::Complete)
-            error.detail += cancelJob(sending);
+            error.detail = cancelJob(sending, error.detail);
         return error;
     }
     return DeliveredJob{jobName(sending)};

@@ -3,6 +3,7 @@
 #include "device_offers.h"
 #include "ppd_words.h"
 #include "size_limits.h"
+#include "texts.h"
 
 #include <algorithm>
 
@@ -24,13 +25,15 @@ QString problemOf(const JobOption &option)
     if (!std::all_of(option.name.begin(), option.name.end(), isPlain) || option.name.contains(u'=')
         || option.name.isEmpty() || !std::all_of(option.value.begin(), option.value.end(), isPlain)
         || option.value.isEmpty())
-        return QStringLiteral("blanks, commas, quotes and special characters cannot be sent");
+        return translate("Delivery",
+                         "blanks, commas, quotes and special characters cannot be sent");
     if (option.value.size() > limits::optionValueBytes)
-        return QStringLiteral("it is longer than %1 characters").arg(limits::optionValueBytes);
+        return translate("Delivery", "it is longer than %1 characters")
+            .arg(limits::optionValueBytes);
     if (option.name.startsWith(QLatin1String("job-"), Qt::CaseInsensitive))
-        return QStringLiteral("the print server drops options of that name");
+        return translate("Delivery", "the print server drops options of that name");
     if (option.name.compare(QLatin1String("booklet"), Qt::CaseInsensitive) == 0)
-        return QStringLiteral("the print server would make a booklet of its own");
+        return translate("Delivery", "the print server would make a booklet of its own");
     return {};
 }
 
@@ -226,8 +229,9 @@ Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSet
     for (const JobOption &option : options.options()) {
         if (const QString problem = problemOf(option); !problem.isEmpty())
             return Error{Code::Refused, option.name + u'=' + option.value,
-                         QStringLiteral("this setting cannot be sent to a print server: %1; choose "
-                                        "another")
+                         translate("Delivery",
+                                   "this setting cannot be sent to a print server: %1; choose "
+                                   "another")
                              .arg(problem)};
     }
     return options.take();

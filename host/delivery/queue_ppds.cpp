@@ -1,6 +1,7 @@
 #include "queue_ppds.h"
 
 #include "size_limits.h"
+#include "texts.h"
 
 #include <QStringList>
 
@@ -27,9 +28,10 @@ Result<QStringList> membersOf(http_t *http, const QString &queue, Patience &pati
 
 Error brokenOff(const QString &where)
 {
-    return {Code::Unreachable, where,
-            QStringLiteral("the print server at %1 broke off while it sent the PPD; try again")
-                .arg(serverName())};
+    return {
+        Code::Unreachable, where,
+        translate("Delivery", "the print server at %1 broke off while it sent the PPD; try again")
+            .arg(serverName())};
 }
 
 // The file at `resource` of the server, whole; NotFound when there is none.
@@ -51,12 +53,13 @@ Result<QByteArray> readResource(http_t *http, const QString &resource, const QSt
     if (status == HTTP_STATUS_NOT_FOUND) {
         httpFlush(http);
         return Error{Code::NotFound, where,
-                     QStringLiteral("the print server has no PPD for it: it prints with common "
-                                    "settings only")};
+                     translate("Delivery",
+                               "the print server has no PPD for it: it prints with common "
+                               "settings only")};
     }
     if (status != HTTP_STATUS_OK)
         return Error{status == HTTP_STATUS_ERROR ? Code::Unreachable : Code::Refused, where,
-                     QStringLiteral("the print server at %1 does not give its PPD: %2")
+                     translate("Delivery", "the print server at %1 does not give its PPD: %2")
                          .arg(serverName(), QString::fromUtf8(httpStatus(status)))};
     QByteArray bytes;
     char block[32768];
@@ -65,8 +68,9 @@ Result<QByteArray> readResource(http_t *http, const QString &resource, const QSt
         patience.progress();
         bytes.append(block, count);
         if (bytes.size() > limits::ppdBytes)
-            return Error{Code::TooLarge, where,
-                         QStringLiteral("its PPD has more than %1 bytes").arg(limits::ppdBytes)};
+            return Error{
+                Code::TooLarge, where,
+                translate("Delivery", "its PPD has more than %1 bytes").arg(limits::ppdBytes)};
     }
     if (patience.isOver())
         return serverError(patience, where);
@@ -74,11 +78,11 @@ Result<QByteArray> readResource(http_t *http, const QString &resource, const QSt
     if (count < 0 || httpGetState(http) == HTTP_STATE_GET_SEND)
         return brokenOff(where);
     if (bytes.isEmpty())
-        return Error{
-            Code::Damaged, where,
-            QStringLiteral("the print server at %1 has an empty PPD for it; have the queue "
-                           "set up again with the device's PPD")
-                .arg(serverName())};
+        return Error{Code::Damaged, where,
+                     translate("Delivery",
+                               "the print server at %1 has an empty PPD for it; have the queue "
+                               "set up again with the device's PPD")
+                         .arg(serverName())};
     return bytes;
 }
 

@@ -1,6 +1,7 @@
 #include "child_process.h"
 
 #include "sanitizers.h"
+#include "texts.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -61,8 +62,9 @@ Error timedOut(const QString &where)
 {
     return Error{
         Error::Code::TimedOut, where,
-        QStringLiteral("reading it and making a PDF of it took longer than %1 seconds; it may be "
-                       "damaged")
+        translate("Document",
+                  "reading it and making a PDF of it took longer than %1 seconds; it may be "
+                  "damaged")
             .arg(limits::converterSeconds)};
 }
 
@@ -72,12 +74,13 @@ Error crashed(const QString &where, int signal)
         return timedOut(where);
     if (signal == SIGXFSZ) {
         return Error{Error::Code::TooLarge, where,
-                     QStringLiteral("as PDF it would be larger than %1 MB")
+                     translate("Document", "as PDF it would be larger than %1 MB")
                          .arg(limits::documentBytes / limits::MiB)};
     }
     return Error{Error::Code::Damaged, where,
-                 QStringLiteral("the program that reads it crashed; the file is damaged, or needs "
-                                "more memory than it may have")};
+                 translate("Document",
+                           "the program that reads it crashed; the file is damaged, or needs "
+                           "more memory than it may have")};
 }
 
 void end(QProcess &process)
@@ -117,7 +120,7 @@ Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
     process.start();
     if (!process.waitForStarted(-1)) {
         return Error{Error::Code::NotReadable, where,
-                     QStringLiteral("%1 does not start: %2")
+                     translate("Document", "%1 does not start: %2")
                          .arg(QFileInfo(child.program).fileName(), process.errorString())};
     }
     if (child.input) {

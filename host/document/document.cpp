@@ -6,6 +6,7 @@
 #include "output_file.h"
 #include "pdf_pages.h"
 #include "temporary_folder.h"
+#include "texts.h"
 
 #include <QDir>
 #include <QFile>
@@ -84,7 +85,7 @@ Result<FileDescriptor> openSource(const QString &path)
     struct stat status = {};
     if (::fstat(fd, &status) == 0 && S_ISDIR(status.st_mode)) {
         return Error{Error::Code::NotReadable, path,
-                     QStringLiteral("this is a folder; choose a file in it")};
+                     translate("Document", "this is a folder; choose a file in it")};
     }
     return file;
 }
@@ -164,7 +165,7 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     QString unchecked = source;
     if (kind.value() != DocumentKind::Pdf) {
         if (onlyPdf)
-            return Error{Error::Code::Damaged, where, QStringLiteral("this is no PDF")};
+            return Error{Error::Code::Damaged, where, translate("Document", "this is no PDF")};
         unchecked = path + QLatin1String("/converted.pdf");
         Result<QString> made = convert(kind.value(), {path, source, unchecked, where}, cancelled);
         if (!made)
@@ -179,7 +180,7 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     // A converter that writes damage has met a full disk or a broken document.
     if (unchecked != source && pages.value().isRepaired) {
         return converterError(Error::Code::Damaged, {path, source, unchecked, where},
-                              QStringLiteral("it could not be turned into a sound PDF"));
+                              translate("Document", "it could not be turned into a sound PDF"));
     }
     QFile::remove(source);
     QFile::remove(unchecked);
@@ -253,9 +254,10 @@ Result<Document> Document::withPages(const std::vector<PageRun> &runs) const
         return run.first >= 1 && run.first <= run.last && run.last <= pageCount();
     });
     if (runs.empty() || !isInside) {
-        return Error{Error::Code::OutOfRange, title(),
-                     QStringLiteral("the document has %1 pages, and not all that are asked for")
-                         .arg(pageCount())};
+        return Error{
+            Error::Code::OutOfRange, title(),
+            translate("Document", "the document has %1 pages, and not all that are asked for")
+                .arg(pageCount())};
     }
     if (runs == std::vector<PageRun>{{1, pageCount()}})
         return *this;

@@ -2,6 +2,7 @@
 
 #include "output_file.h"
 #include "size_limits.h"
+#include "texts.h"
 
 #include <QByteArray>
 #include <QElapsedTimer>
@@ -22,26 +23,21 @@ namespace {
 
 constexpr int pollMs = 100;
 
-Error tooLarge(const QString &where, const QString &what, qint64 most)
-{
-    return Error{
-        Error::Code::TooLarge, where,
-        QStringLiteral("%1 of more than %2 MB is not printed").arg(what).arg(most / limits::MiB)};
-}
-
-struct SizeLimit
-{
-    QString what;
-    qint64 most;
-};
-
-SizeLimit sizeLimit(DocumentKind kind)
+qint64 sizeLimit(DocumentKind kind)
 {
     if (kind == DocumentKind::Text)
-        return {QStringLiteral("a text"), limits::textBytes};
-    if (!pictureFormat(kind).isEmpty())
-        return {QStringLiteral("a picture"), limits::pictureBytes};
-    return {QStringLiteral("a document"), limits::documentBytes};
+        return limits::textBytes;
+    return pictureFormat(kind).isEmpty() ? limits::documentBytes : limits::pictureBytes;
+}
+
+Error tooLarge(const QString &where, DocumentKind kind)
+{
+    const QString text = kind == DocumentKind::Text
+        ? translate("Document", "a text of more than %1 MB is not printed")
+        : pictureFormat(kind).isEmpty()
+        ? translate("Document", "a document of more than %1 MB is not printed")
+        : translate("Document", "a picture of more than %1 MB is not printed");
+    return Error{Error::Code::TooLarge, where, text.arg(sizeLimit(kind) / limits::MiB)};
 }
 
 // Up to `size` bytes; fewer only at the end of the input. Waits for a slow
@@ -59,8 +55,9 @@ Result<qsizetype> readBlock(const OpenSource &source, char *bytes, qsizetype siz
         if (::poll(&ready, 1, pollMs) == 0) {
             if (source.patienceMs > 0 && silence.hasExpired(source.patienceMs)) {
                 return Error{Error::Code::TimedOut, source.where,
-                             QStringLiteral("this is a pipe, and nothing came through it for %1 "
-                                            "seconds; start what writes into it, or name a file")
+                             translate("Document",
+                                       "this is a pipe, and nothing came through it for %1 "
+                                       "seconds; start what writes into it, or name a file")
                                  .arg(source.patienceMs / 1000.0)};
             }
             continue;
@@ -105,18 +102,19 @@ Result<DocumentKind> copySource(const OpenSource &source, const QString &target,
     const QByteArrayView head(block.data(), count.value());
     const DocumentKind kind = documentKind(head);
     if (kind == DocumentKind::Empty)
-        return Error{Error::Code::Damaged, where, QStringLiteral("the file is empty")};
+        return Error{Error::Code::Damaged, where, translate("Document", "the file is empty")};
     if (kind == DocumentKind::Unsupported) {
         return Error{Error::Code::Unsupported, where,
-                     QStringLiteral("this is %1; PDF, PostScript, pictures and plain text can be "
-                                    "printed")
+                     translate("Document",
+                               "this is %1; PDF, PostScript, pictures and plain text can be "
+                               "printed")
                          .arg(unsupportedKindText(head))};
     }
 
-    const auto [what, most] = sizeLimit(kind);
+    const qint64 most = sizeLimit(kind);
     struct stat status = {};
     if (::fstat(source.fd, &status) == 0 && status.st_size > most)
-        return tooLarge(where, what, most);
+        return tooLarge(where, kind);
 
     Result<OutputFile> file = OutputFile::create(target);
     if (!file)
@@ -125,7 +123,7 @@ Result<DocumentKind> copySource(const OpenSource &source, const QString &target,
     while (count.value() > 0) {
         total += count.value();
         if (total > most)
-            return tooLarge(where, what, most);
+            return tooLarge(where, kind);
         if (!file.value().write(block.data(), static_cast<std::size_t>(count.value())))
             return file.value().error();
         count = readBlock(source, block.data(), static_cast<qsizetype>(block.size()), cancelled);

@@ -1,6 +1,7 @@
 #include "document_helper.h"
 
 #include "folders.h"
+#include "texts.h"
 
 #include <QFileInfo>
 #include <QMutex>
@@ -63,15 +64,17 @@ Result<ChildProgram> documentHelper(DocumentHelper helper)
     if (QFileInfo::exists(path))
         return ChildProgram{.program = path, .arguments = {QStringLiteral(KELVO_VERSION)}};
     return Error{Error::Code::NotFound, name,
-                 QStringLiteral("this part that reads documents is not installed beside the "
-                                "program; install kelvo-print anew")};
+                 translate("Document",
+                           "this part that reads documents is not installed beside the "
+                           "program; install kelvo-print anew")};
 }
 
 Error senselessAnswer(const QString &where)
 {
     return Error{Error::Code::Damaged, where,
-                 QStringLiteral("the program that reads it gave no answer that makes sense; the "
-                                "file may be damaged")};
+                 translate("Document",
+                           "the program that reads it gave no answer that makes sense; the "
+                           "file may be damaged")};
 }
 
 Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJob &job)
@@ -94,16 +97,17 @@ Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJ
         return std::move(end.value().output);
     case kOtherVersionStatus:
         return Error{Error::Code::Damaged, child.value().program,
-                     QStringLiteral("this is not the part that reads documents of kelvo-print %1; "
-                                    "install kelvo-print anew")
+                     translate("Document",
+                               "this is not the part that reads documents of kelvo-print %1; "
+                               "install kelvo-print anew")
                          .arg(QStringLiteral(KELVO_VERSION))};
     case kOutOfMemoryStatus:
         return Error{Error::Code::TooLarge, job.where,
-                     QStringLiteral("reading it needs more than %1 MB of memory")
+                     translate("Document", "reading it needs more than %1 MB of memory")
                          .arg(limits::converterMemory / limits::MiB)};
     default:
         return Error{Error::Code::Damaged, job.where,
-                     QStringLiteral("the program that reads it ended with status %1: %2")
+                     translate("Document", "the program that reads it ended with status %1: %2")
                          .arg(end.value().status)
                          .arg(end.value().message.section(u'\n', -1))};
     }

@@ -1,11 +1,11 @@
 #include "document_kind.h"
 
-#include <QString>
+#include "texts.h"
+
+#include <QtGlobal>
 
 #include <algorithm>
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace kelvo {
 
@@ -53,16 +53,16 @@ struct Stranger
 
 // Files that people do try to print. The first row that fits names it.
 constexpr Stranger strangers[] = {
-    {"PK\x03\x04", "a ZIP archive or an office document"},
-    {"\xd0\xcf\x11\xe0", "an office document of an old kind"},
-    {"\x1f\x8b", "a gzip-compressed file"},
+    {"PK\x03\x04", QT_TRANSLATE_NOOP("Document", "a ZIP archive or an office document")},
+    {"\xd0\xcf\x11\xe0", QT_TRANSLATE_NOOP("Document", "an office document of an old kind")},
+    {"\x1f\x8b", QT_TRANSLATE_NOOP("Document", "a gzip-compressed file")},
     {"\x7f"
      "ELF",
-     "a program"},
-    {"\x1b%-12345X", "ready-made printer data"},
+     QT_TRANSLATE_NOOP("Document", "a program")},
+    {"\x1b%-12345X", QT_TRANSLATE_NOOP("Document", "ready-made printer data")},
     {"\x1b"
      "E",
-     "ready-made printer data (PCL)"},
+     QT_TRANSLATE_NOOP("Document", "ready-made printer data (PCL)")},
 };
 
 constexpr QByteArrayView universalExit = "\x1b%-12345X";
@@ -185,8 +185,9 @@ QString unsupportedKindText(QByteArrayView head)
 {
     const auto row = std::ranges::find_if(
         strangers, [head](const Stranger &stranger) { return head.startsWith(stranger.bytes); });
-    return row == std::end(strangers) ? u"a file of a kind that is not known here"_s
-                                      : QString::fromLatin1(row->text);
+    return row == std::end(strangers)
+        ? translate("Document", "a file of a kind that is not known here")
+        : translate("Document", row->text);
 }
 
 } // namespace kelvo

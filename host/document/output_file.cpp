@@ -1,6 +1,7 @@
 #include "output_file.h"
 
 #include "size_limits.h"
+#include "texts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -33,9 +34,10 @@ Error notWritable(const QString &path, int errorNumber)
         errorNumber = isFull(folder) ? ENOSPC : EIO;
     if (errorNumber == ENOSPC || errorNumber == EDQUOT) {
         return Error{Error::Code::NotWritable, folder,
-                     QStringLiteral("the folder for temporary files is full (%1); remove what is "
-                                    "no longer needed there, or set TMPDIR to a folder on another "
-                                    "disk")
+                     translate("Document",
+                               "the folder for temporary files is full (%1); remove what is "
+                               "no longer needed there, or set TMPDIR to a folder on another "
+                               "disk")
                          .arg(qt_error_string(errorNumber))};
     }
     return Error{Error::Code::NotWritable, path, qt_error_string(errorNumber)};
@@ -46,8 +48,9 @@ Error folderNotMade(const QString &folder, const QString &reason)
     if (isFull(folder))
         return notWritable(folder + QLatin1String("/x"), ENOSPC);
     return Error{Error::Code::NotWritable, folder,
-                 QStringLiteral("the folder for temporary files is missing or cannot be written "
-                                "(%1); set TMPDIR to another one")
+                 translate("Document",
+                           "the folder for temporary files is missing or cannot be written "
+                           "(%1); set TMPDIR to another one")
                      .arg(reason)};
 }
 

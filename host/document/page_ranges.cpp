@@ -1,6 +1,7 @@
 #include "page_ranges.h"
 
 #include "size_limits.h"
+#include "texts.h"
 
 #include <QList>
 
@@ -13,7 +14,7 @@ namespace {
 
 Error rangeError(Error::Code code, QStringView part, const QString &detail)
 {
-    return Error{code, QStringLiteral("page range \"%1\"").arg(part.trimmed()), detail};
+    return Error{code, translate("Document", "page range \"%1\"").arg(part.trimmed()), detail};
 }
 
 // A page number, or nothing where there is no number. One too long for an int
@@ -46,20 +47,20 @@ Result<PageRun> pageRunFrom(QStringView part, int pageCount)
     if ((!firstNumber && !firstIsOpen) || (!lastNumber && !lastIsOpen)
         || (firstIsOpen && lastIsOpen)) {
         return rangeError(Error::Code::Damaged, part,
-                          QStringLiteral("pages are written like this: 1-3, 7, 9-"));
+                          translate("Document", "pages are written like this: 1-3, 7, 9-"));
     }
 
     const int first = firstNumber.value_or(1);
     const int last = lastNumber.value_or(pageCount);
     if (first < 1 || (lastNumber && last < 1))
-        return rangeError(Error::Code::OutOfRange, part, QStringLiteral("pages begin at 1"));
+        return rangeError(Error::Code::OutOfRange, part, translate("Document", "pages begin at 1"));
     if (first > pageCount) {
         return rangeError(Error::Code::OutOfRange, part,
-                          QStringLiteral("the document has pages 1 to %1").arg(pageCount));
+                          translate("Document", "the document has pages 1 to %1").arg(pageCount));
     }
     if (last < first) {
         return rangeError(Error::Code::OutOfRange, part,
-                          QStringLiteral("the last page comes before the first; write %1-%2")
+                          translate("Document", "the last page comes before the first; write %1-%2")
                               .arg(last)
                               .arg(first));
     }
@@ -84,7 +85,7 @@ Result<std::vector<PageRun>> pageRunsFrom(const QString &text, int pageCount)
         // "1-,1-,1-" multiplies a document: a line of text must not fill a disk.
         if (pages > std::max(limits::documentPages, pageCount)) {
             return rangeError(Error::Code::TooLarge, part,
-                              QStringLiteral("all ranges together may name %1 pages at most")
+                              translate("Document", "all ranges together may name %1 pages at most")
                                   .arg(std::max(limits::documentPages, pageCount)));
         }
         runs.push_back(run.value());

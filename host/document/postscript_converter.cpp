@@ -1,5 +1,6 @@
 #include "child_process.h"
 #include "document_files.h"
+#include "texts.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -28,8 +29,9 @@ Result<void> convertPostScript(const ConverterFiles &files, const QSizeF &paper,
     const QString ghostscript = QStandardPaths::findExecutable(QStringLiteral("gs"));
     if (ghostscript.isEmpty()) {
         return Error{Error::Code::Unsupported, files.where,
-                     QStringLiteral("printing PostScript needs Ghostscript; install the package "
-                                    "\"ghostscript\"")};
+                     translate("Document",
+                               "printing PostScript needs Ghostscript; install the package "
+                               "\"ghostscript\"")};
     }
 
     const ChildProgram child{
@@ -57,8 +59,8 @@ Result<void> convertPostScript(const ConverterFiles &files, const QSizeF &paper,
         return end.error();
     if (end.value().status != 0) {
         return converterError(Error::Code::Damaged, files,
-                              QStringLiteral("Ghostscript cannot read the PostScript: ")
-                                  + problemIn(end.value().message));
+                              translate("Document", "Ghostscript cannot read the PostScript: %1")
+                                  .arg(problemIn(end.value().message)));
     }
     return {};
 }

@@ -1,5 +1,7 @@
 #include "cautions.h"
 
+#include "texts.h"
+
 namespace kelvo {
 
 namespace {
@@ -19,10 +21,10 @@ QString pagesInWords(const QList<int> &pages)
         const QString begin = QString::number(pages[first]);
         runs << (told == first + 1 ? begin : begin + u'–' + QString::number(pages[told - 1]));
     }
-    if (told < pages.size())
-        runs << QStringLiteral("%1 more").arg(pages.size() - told);
-    const QString last = runs.takeLast();
-    return runs.isEmpty() ? last : runs.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
+    const qsizetype untold = pages.size() - told;
+    return untold > 0
+        ? translate("Job", "%1 and %n more", nullptr, untold).arg(runs.join(QStringLiteral(", ")))
+        : listed(runs);
 }
 
 } // namespace
@@ -34,19 +36,19 @@ QString Caution::sentences() const
 
 std::optional<Caution> printerCaution(const QString &printer, const PrinterCondition &condition)
 {
-    const auto withReason = [&](const char *what) {
-        const QString reason = condition.stateMessage.isEmpty()
-            ? QString()
-            : QStringLiteral(": ") + condition.stateMessage;
-        return QStringLiteral("“%1” %2%3.").arg(printer, QLatin1String(what), reason);
-    };
+    const QString &reason = condition.stateMessage;
     if (!condition.acceptsJobs)
         return Caution{
-            Weight::Refused, withReason("takes no jobs"),
-            QStringLiteral("Choose another printer, or wait until it takes jobs again.")};
+            Weight::Refused,
+            reason.isEmpty() ? translate("Job", "“%1” takes no jobs.").arg(printer)
+                             : translate("Job", "“%1” takes no jobs: %2.").arg(printer, reason),
+            translate("Job", "Choose another printer, or wait until it takes jobs again.")};
     if (condition.state == PrinterCondition::State::Stopped)
-        return Caution{Weight::Asked, withReason("is stopped"),
-                       QStringLiteral("A job waits there until the printer is started again.")};
+        return Caution{Weight::Asked,
+                       reason.isEmpty()
+                           ? translate("Job", "“%1” is stopped.").arg(printer)
+                           : translate("Job", "“%1” is stopped: %2.").arg(printer, reason),
+                       translate("Job", "A job waits there until the printer is started again.")};
     return std::nullopt;
 }
 
@@ -55,33 +57,37 @@ std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &p
     if (pages.isEmpty())
         return std::nullopt;
     return Caution{Weight::Told,
-                   QStringLiteral("%1 %2 larger than the paper, %3: what does not fit is cut off.")
-                       .arg((pages.size() == 1 ? QStringLiteral("Page ") : QStringLiteral("Pages "))
-                                + pagesInWords(pages),
-                            pages.size() == 1 ? QStringLiteral("is") : QStringLiteral("are"),
-                            paper),
-                   QStringLiteral("Choose larger paper; jobs are not scaled.")};
+                   translate("Job",
+                             "Page(s) %1 larger than the paper, %2: what does not fit is cut off.",
+                             nullptr, pages.size())
+                       .arg(pagesInWords(pages), paper),
+                   translate("Job", "Choose larger paper; jobs are not scaled.")};
 }
 
 Caution repairedCaution()
 {
     return {Weight::Told,
-            QStringLiteral("The document is damaged; what could be read of it was put together, "
-                           "and parts may be missing."),
-            QStringLiteral("Compare the preview with the original, or save the document again "
-                           "from the program that made it.")};
+            translate("Job",
+                      "The document is damaged; what could be read of it was put together, "
+                      "and parts may be missing."),
+            translate("Job",
+                      "Compare the preview with the original, or save the document again "
+                      "from the program that made it.")};
 }
 
 std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd)
 {
     if (settings.isEmpty())
         return std::nullopt;
-    const QString text = hasPpd
-        ? QStringLiteral("This printer does not have: %1.")
-        : QStringLiteral("Not sent, for the print server has no description of this printer: %1.");
-    return Caution{Weight::Noted, text.arg(settings.join(QStringLiteral(", "))),
-                   QStringLiteral("They are kept, and come back with a printer that has them."),
-                   settings};
+    const QString list = settings.join(QStringLiteral(", "));
+    return Caution{
+        Weight::Noted,
+        hasPpd ? translate("Job", "This printer does not have: %1.").arg(list)
+               : translate("Job",
+                           "Not sent, for the print server has no description of this printer: "
+                           "%1.")
+                     .arg(list),
+        translate("Job", "They are kept, and come back with a printer that has them."), settings};
 }
 
 std::optional<Caution> untoldCaution(const QStringList &settings)
@@ -89,9 +95,9 @@ std::optional<Caution> untoldCaution(const QStringList &settings)
     if (settings.isEmpty())
         return std::nullopt;
     return Caution{Weight::Noted,
-                   QStringLiteral("Not sent, for this printer reads no job tickets: %1.")
+                   translate("Job", "Not sent, for this printer reads no job tickets: %1.")
                        .arg(settings.join(QStringLiteral(", "))),
-                   QStringLiteral("They are kept; choose a printer that reads them."), settings};
+                   translate("Job", "They are kept; choose a printer that reads them."), settings};
 }
 
 } // namespace kelvo

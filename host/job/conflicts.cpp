@@ -2,6 +2,7 @@
 
 #include "device_offers.h"
 #include "ppd_words.h"
+#include "texts.h"
 #include "values.h"
 
 #include <algorithm>
@@ -39,15 +40,6 @@ QString choiceOf(const PpdOption &option, const PpdSelection &selection)
     return selection.value(option.keyword, option.defaultChoice);
 }
 
-// "a", "a and b", "a, b and c"
-QString listed(const QStringList &parts)
-{
-    if (parts.size() < 2)
-        return parts.join(QString());
-    return QStringList(parts.mid(0, parts.size() - 1)).join(QStringLiteral(", "))
-        + QStringLiteral(" and ") + parts.last();
-}
-
 QString sentenceFor(const PpdConflict &conflict, const PpdSelection &selection, const PpdFile &ppd,
                     const std::set<QString> &equipment)
 {
@@ -60,11 +52,11 @@ QString sentenceFor(const PpdConflict &conflict, const PpdSelection &selection, 
         if (equipment.contains(keyword))
             fitted << words;
         else
-            settings << u'“' + words + u'”';
+            settings << translate("Job", "“%1”").arg(words);
     }
     if (fitted.isEmpty())
-        return listed(settings) + QStringLiteral(" cannot be used together.");
-    return QStringLiteral("%1 cannot be used on this printer (%2).")
+        return translate("Job", "%1 cannot be used together.").arg(listed(settings));
+    return translate("Job", "%1 cannot be used on this printer (%2).")
         .arg(listed(settings), fitted.join(QStringLiteral(", ")));
 }
 
@@ -186,7 +178,7 @@ ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QS
         for (const PpdOption &option : group.options) {
             const auto change = report.fix.constFind(option.keyword);
             if (change != report.fix.constEnd())
-                report.fixWords << QStringLiteral("Set %1 to %2")
+                report.fixWords << translate("Job", "Set %1 to %2")
                                        .arg(optionWords(option), choiceWords(option, *change));
         }
     }

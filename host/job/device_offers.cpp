@@ -2,6 +2,7 @@
 
 #include "job_settings.h"
 #include "ppd_words.h"
+#include "texts.h"
 
 namespace kelvo {
 
@@ -27,8 +28,8 @@ bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice)
 
 QString whyNotSent(const PpdFile *ppd)
 {
-    return ppd ? QStringLiteral("this printer does not have it")
-               : QStringLiteral("the print server has no description of this printer");
+    return ppd ? translate("Job", "this printer does not have it")
+               : translate("Job", "the print server has no description of this printer");
 }
 
 } // namespace kelvo

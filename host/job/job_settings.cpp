@@ -3,6 +3,7 @@
 #include "device_offers.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "texts.h"
 #include "ticket_layers.h"
 #include "values.h"
 
@@ -186,13 +187,14 @@ QString customSizeProblem(const QString &name, const PpdFile &ppd)
         return {};
     const auto limits = ppd.customPageLimits();
     if (!limits)
-        return QStringLiteral("this printer takes no custom sizes");
+        return translate("Job", "this printer takes no custom sizes");
     const auto millimetres = [](double points) {
         return QString::number(std::round(points / 72 * 254) / 10);
     };
-    return QStringLiteral("a custom size is written Custom.WIDTHxHEIGHT with in, mm, cm or pt "
-                          "behind it; this printer takes widths from %1 to %2 mm and heights "
-                          "from %3 to %4 mm")
+    return translate("Job",
+                     "a custom size is written Custom.WIDTHxHEIGHT with in, mm, cm or pt "
+                     "behind it; this printer takes widths from %1 to %2 mm and heights "
+                     "from %3 to %4 mm")
         .arg(millimetres(limits->minWidth), millimetres(limits->maxWidth),
              millimetres(limits->minHeight), millimetres(limits->maxHeight));
 }
@@ -221,20 +223,12 @@ QStringList choiceNames(const PpdOption &option)
     return names;
 }
 
-// What follows a value that is not among `known`.
-QString nearestOrAll(const QString &value, const QStringList &known)
-{
-    const QString nearest = didYouMean(value, known);
-    return !nearest.isEmpty() || known.isEmpty()
-        ? nearest
-        : QStringLiteral("; there are ") + shortList(known);
-}
-
 // Nobody knows whether such a printer can do it.
 QString noDescription()
 {
-    return QStringLiteral("the print server has no description (PPD) of this printer, so that it "
-                          "cannot be asked for this");
+    return translate("Job",
+                     "the print server has no description (PPD) of this printer, so that it "
+                     "cannot be asked for this");
 }
 
 // One -o: what it says, and what it changes.
@@ -251,7 +245,7 @@ struct Request
     Error unknownValue(const QStringList &known) const
     {
         return error(Code::NotFound,
-                     QStringLiteral("there is no such value") + nearestOrAll(value, known));
+                     nearestOrAll(translate("Job", "there is no such value"), value, known));
     }
     // `places` is what `edit` is about: the others are only written again.
     TicketPlaces change(const TicketPlaces &places,
@@ -287,8 +281,9 @@ Result<TicketPlaces> applyPpdChoice(const Request &request, const PpdOption &opt
                               [&](JobSettings &settings) { settings.paperName = *choice; });
     if (!offers(*request.ppd, option.keyword, *choice))
         return request.error(Code::Refused,
-                             QStringLiteral("this is equipment of the printer, which its "
-                                            "administrator enters (lpadmin -p PRINTER -o …)"));
+                             translate("Job",
+                                       "this is equipment of the printer, which its "
+                                       "administrator enters (lpadmin -p PRINTER -o …)"));
     return request.choose(option.keyword, *choice);
 }
 
@@ -322,11 +317,12 @@ Result<TicketPlaces> applyMedia(const Request &request)
             break;
         }
         if (!found) {
+            const QString missing = translate("Job", "this printer has no paper %1").arg(part);
             const QString problem = customSizeProblem(part, *request.ppd);
             return request.error(Code::NotFound,
-                                 QStringLiteral("this printer has no paper %1").arg(part)
-                                     + (problem.isEmpty() ? nearestOrAll(part, known)
-                                                          : QStringLiteral("; ") + problem));
+                                 problem.isEmpty()
+                                     ? nearestOrAll(missing, part, known)
+                                     : translate("Job", "%1; %2").arg(missing, problem));
         }
     }
     TicketPlaces places;
@@ -343,8 +339,9 @@ Result<TicketPlaces> applyOrientation(const Request &request)
     const auto *row = findRow(orientationRows, request.value, &OrientationRow::requested);
     if (!row)
         return request.error(Code::OutOfRange,
-                             QStringLiteral("3 is portrait, 4 landscape, 5 reverse landscape, "
-                                            "6 reverse portrait"));
+                             translate("Job",
+                                       "3 is portrait, 4 landscape, 5 reverse landscape, "
+                                       "6 reverse portrait"));
     return request.change({{kPMPageFormatTicket, kPMOrientationKey}},
                           [&](JobSettings &settings) { settings.orientation = row->orientation; });
 }
@@ -361,7 +358,7 @@ Result<TicketPlaces> applySides(const Request &request)
             return TicketPlaces(); // what such a printer does anyway
         return request.error(Code::NotFound,
                              request.ppd
-                                 ? QStringLiteral("this printer does not print on both sides")
+                                 ? translate("Job", "this printer does not print on both sides")
                                  : noDescription());
     }
     return request.choose(duplex->keyword, choice);
@@ -372,9 +369,9 @@ Result<TicketPlaces> applyCopies(const Request &request)
     bool isNumber = false;
     const int copies = request.value.toInt(&isNumber);
     if (!isNumber || copies < 1 || copies > kMaximumCopies)
-        return request.error(
-            Code::OutOfRange,
-            QStringLiteral("copies are a number from 1 to %1").arg(kMaximumCopies));
+        return request.error(Code::OutOfRange,
+                             translate("Job", "copies are a number from 1 to %1")
+                                 .arg(QString::number(kMaximumCopies)));
     return request.change({{kPMPrintSettingsTicket, kPMCopiesKey}},
                           [&](JobSettings &settings) { settings.copies = copies; });
 }
@@ -394,7 +391,7 @@ Result<TicketPlaces> applyPageRanges(const Request &request)
     // Whether the document has them shows when it is there.
     static const QRegularExpression form(QStringLiteral("^[0-9,\\- ]+$"));
     if (!form.match(request.value).hasMatch())
-        return request.error(Code::OutOfRange, QStringLiteral("pages are written like 1-3,7,9-"));
+        return request.error(Code::OutOfRange, translate("Job", "pages are written like 1-3,7,9-"));
     return request.change({{kPMPrintSettingsTicket, kPMPageRangesKey}},
                           [&](JobSettings &settings) { settings.pageRanges = request.value; });
 }
@@ -518,9 +515,9 @@ Result<TicketPlaces> applyOption(const QString &name, const QString &value, cons
     }
     return request.error(
         Code::NotFound,
-        ppd ? QStringLiteral("neither this printer nor kelvo-print has such an option%1")
-                  .arg(didYouMean(name, known))
-            : noDescription() + didYouMean(name, known));
+        didYouMean(ppd ? translate("Job", "neither this printer nor kelvo-print has such an option")
+                       : noDescription(),
+                   name, known));
 }
 
 bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd)

@@ -4,6 +4,7 @@
 #include "job_describer.h"
 #include "ppd_words.h"
 #include "terminal.h"
+#include "texts.h"
 #include "values.h"
 
 #include <QDateTime>
@@ -82,6 +83,7 @@ QString valueWords(const QVariant &value)
     return words;
 }
 
+// The ticket as it is, in no language.
 QStringList ticketLines(const Ticket &ticket)
 {
     QStringList lines;
@@ -98,52 +100,50 @@ QString orientationWords(Orientation orientation)
 {
     switch (orientation) {
     case Orientation::Portrait:
-        return QStringLiteral("Portrait");
+        return translate("Job", "Portrait");
     case Orientation::Landscape:
-        return QStringLiteral("Landscape");
+        return translate("Job", "Landscape");
     case Orientation::ReversePortrait:
-        return QStringLiteral("Portrait, upside down");
+        return translate("Job", "Portrait, upside down");
     case Orientation::ReverseLandscape:
-        return QStringLiteral("Landscape, upside down");
+        return translate("Job", "Landscape, upside down");
     }
     return {};
-}
-
-// "1 page", "2 pages"
-QString counted(qint64 count, const char *one, const char *many)
-{
-    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
 }
 
 // The host's own settings, each with what counts as the default.
 void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &words)
 {
-    const auto add = [&words](bool isDefault, const char *name, const QString &value) {
-        (isDefault ? words.defaults : words.settings)
-            << QStringLiteral("%1: %2").arg(QLatin1String(name), value);
+    const auto add = [&words](bool isDefault, const QString &line) {
+        (isDefault ? words.defaults : words.settings) << line;
     };
-    const QString order = settings.copies == 1 ? QString()
-        : settings.collate                     ? QStringLiteral(", collated")
-                                               : QStringLiteral(", not collated");
     // Without a PPD nobody on the way sees to it.
-    const QString passedOn =
-        ppd ? QString() : QStringLiteral(" – passed on, the printer may not heed it");
-    add(settings.copies == 1, "Copies",
-        QString::number(settings.copies) + order
-            + (settings.copies == 1 || settings.collate ? QString() : passedOn));
-    add(settings.pageRanges.isEmpty(), "Pages",
-        settings.pageRanges.isEmpty() ? QStringLiteral("All") : visibleText(settings.pageRanges));
-    add(settings.orientation == Orientation::Portrait, "Orientation",
-        orientationWords(settings.orientation)
-            + (settings.orientation == Orientation::Portrait ? QString() : passedOn));
+    const auto passedOn = [ppd](const QString &line) {
+        return ppd ? line
+                   : translate("Job", "%1 – passed on, the printer may not heed it").arg(line);
+    };
+    const QString copies = QString::number(settings.copies);
+    add(settings.copies == 1,
+        settings.copies == 1 ? translate("Job", "Copies: %1").arg(copies)
+            : settings.collate
+            ? translate("Job", "Copies: %1, collated").arg(copies)
+            : passedOn(translate("Job", "Copies: %1, not collated").arg(copies)));
+    add(settings.pageRanges.isEmpty(),
+        settings.pageRanges.isEmpty()
+            ? translate("Job", "Pages: All")
+            : translate("Job", "Pages: %1").arg(visibleText(settings.pageRanges)));
+    const bool isPortrait = settings.orientation == Orientation::Portrait;
+    const QString orientation =
+        translate("Job", "Orientation: %1").arg(orientationWords(settings.orientation));
+    add(isPortrait, isPortrait ? orientation : passedOn(orientation));
     // Where there is a PPD, the paper stands among its options.
     if (!ppd && !settings.paperName.isEmpty())
-        add(false, "Paper", visibleText(settings.paperName) + passedOn);
+        add(false, passedOn(translate("Job", "Paper: %1").arg(visibleText(settings.paperName))));
 }
 
 QString lineOf(const DescribedSetting &setting)
 {
-    return QStringLiteral("%1: %2").arg(setting.label, setting.words);
+    return translate("Job", "%1: %2").arg(setting.label, setting.words);
 }
 
 bool isEntry(const TicketPlace &place)
@@ -240,15 +240,14 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
     if (ppd)
         addOtherOptions(choices, *ppd, spoken, words);
     for (const QString &setting : missing)
-        words.notSent << setting + QStringLiteral(" – ") + whyNotSent(ppd);
+        words.notSent << translate("Job", "%1 – %2").arg(setting, whyNotSent(ppd));
     QStringList unread = isRead ? QStringList() : entriesInWords(description);
     // That there are others is said, too: only the ticket says what.
     if (const int count = wordlessEntries(ticket.printSettings, spoken); count > 0)
-        (isRead ? words.settings : unread)
-            << QStringLiteral("%1 that the device panels add (see Ticket)")
-                   .arg(counted(count, "entry", "entries"));
+        (isRead ? words.settings : unread) << translate(
+            "Job", "%n entry(s) that the device panels add (see Ticket)", nullptr, count);
     for (const QString &entry : std::as_const(unread))
-        words.notSent << entry + QStringLiteral(" – this printer reads no tickets");
+        words.notSent << translate("Job", "%1 – this printer reads no tickets").arg(entry);
     const TicketFile shown = masked(ticket, keys);
     words.ticket = ticketLines(shown.printSettings) + ticketLines(shown.pageFormat);
     return words;
@@ -258,23 +257,22 @@ QString JobWords::asText() const
 {
     const struct
     {
-        const char *heading;
+        QString heading;
         const QStringList &lines;
     } parts[] = {
         // clang-format off
-        {"Cautions", cautions},
-        {"Settings", settings},
-        {"Not sent", notSent},
-        {"As the printer has it", defaults},
-        {"Ticket", ticket},
+        {translate("Job", "Cautions:"), cautions},
+        {translate("Job", "Settings:"), settings},
+        {translate("Job", "Not sent:"), notSent},
+        {translate("Job", "As the printer has it:"), defaults},
+        {translate("Job", "Ticket:"), ticket},
         // clang-format on
     };
     QString text;
     for (const auto &part : parts) {
         if (part.lines.isEmpty())
             continue;
-        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + QLatin1String(part.heading)
-            + QStringLiteral(":\n");
+        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + part.heading + u'\n';
         for (const QString &line : part.lines)
             text += QStringLiteral("  ") + visibleText(line) + u'\n';
     }
@@ -284,21 +282,22 @@ QString JobWords::asText() const
 QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
                      qint64 sheets, const SecretKeys &keys)
 {
+    const QString copies = translate("Job", "%n copy(s)", nullptr, settings.copies);
     QStringList parts;
     if (pages > 0) {
-        QString paper = counted(sheets, "sheet", "sheets");
-        if (settings.copies > 1)
-            paper += QStringLiteral(" × %1 = %2 sheets")
-                         .arg(counted(settings.copies, "copy", "copies"))
-                         .arg(sheets * settings.copies);
-        parts << counted(pages, "page", "pages") << paper;
+        const QString paper = translate("Job", "%n sheet(s)", nullptr, sheets);
+        parts << translate("Job", "%n page(s)", nullptr, pages)
+              << (settings.copies > 1
+                      ? translate("Job", "%1 × %2 = %n sheet(s)", nullptr, sheets * settings.copies)
+                            .arg(paper, copies)
+                      : paper);
     } else if (settings.copies > 1) {
-        parts << counted(settings.copies, "copy", "copies");
+        parts << copies;
     }
     if (holdsSecret(ticket, keys))
-        parts << QStringLiteral("locked");
+        parts << translate("Job", "locked");
     if (isFax(ticket, keys))
-        parts << QStringLiteral("fax");
+        parts << translate("Job", "fax");
     return parts.join(QStringLiteral(", "));
 }
 

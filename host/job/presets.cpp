@@ -6,6 +6,7 @@
 #include "property_list.h"
 #include "size_limits.h"
 #include "terminal.h"
+#include "texts.h"
 
 #include <QDir>
 #include <QFile>
@@ -108,11 +109,11 @@ Error notFound(const std::vector<Preset> &presets, const QString &name)
     QStringList names;
     for (const Preset &preset : presets)
         names << preset.name;
-    const QString nearest = didYouMean(name, names);
-    const QString there = names.isEmpty() ? QStringLiteral(", nor any other")
-        : nearest.isEmpty()               ? QStringLiteral("; there are ") + shortList(names)
-                                          : nearest;
-    return {Code::NotFound, name, QStringLiteral("there is no preset of this name") + there};
+    if (names.isEmpty())
+        return {Code::NotFound, name,
+                translate("Job", "there is no preset of this name, nor any other")};
+    return {Code::NotFound, name,
+            nearestOrAll(translate("Job", "there is no preset of this name"), name, names)};
 }
 
 // The preset `name` where it is the user's own.
@@ -122,10 +123,10 @@ Result<Preset> findOwn(const std::vector<Preset> &presets, const QString &name)
     if (!preset)
         return notFound(presets, name);
     if (preset->isSite)
-        return Error{
-            Code::Refused, name,
-            QStringLiteral("this preset is the administrator's and cannot be changed here; "
-                           "save one of your own under the same name instead")};
+        return Error{Code::Refused, name,
+                     translate("Job",
+                               "this preset is the administrator's and cannot be changed here; "
+                               "save one of your own under the same name instead")};
     return *preset;
 }
 
@@ -136,7 +137,7 @@ std::optional<Error> problemOf(const QString &name)
     });
     if (name.trimmed().isEmpty() || hasControl)
         return Error{Code::Refused, name,
-                     QStringLiteral("a preset needs a name of one line that is not empty")};
+                     translate("Job", "a preset needs a name of one line that is not empty")};
     return std::nullopt;
 }
 
@@ -151,12 +152,12 @@ Result<void> write(const QString &path, const QString &name, TicketFile ticket, 
         [&](QVariantMap &stored) {
             if (!stored.isEmpty() && !mayReplace)
                 refused =
-                    Error{Code::Refused, path, QStringLiteral("there is such a preset already")};
+                    Error{Code::Refused, path, translate("Job", "there is such a preset already")};
             else if (!stored.isEmpty() && !ticketFileFromPropertyList(stored, path))
-                refused =
-                    Error{Code::Refused, path,
-                          QStringLiteral("the file that stands there is no preset of this program "
-                                         "version; move it away or take another name")};
+                refused = Error{Code::Refused, path,
+                                translate("Job",
+                                          "the file that stands there is no preset of this program "
+                                          "version; move it away or take another name")};
             else
                 stored = root;
             return !refused;
@@ -170,7 +171,7 @@ Result<QString> newPath(const QString &name)
     const QString folder = PresetStore::ownFolder();
     if (folder.isEmpty())
         return Error{Code::NotWritable, name,
-                     QStringLiteral("there is no home folder to keep presets in; set HOME")};
+                     translate("Job", "there is no home folder to keep presets in; set HOME")};
     return folder + u'/' + safeFileName(name) + suffix;
 }
 
@@ -248,7 +249,7 @@ Result<void> PresetStore::rename(const QString &from, const QString &to)
     if (renamed == from)
         return {};
     if (findPreset(all, renamed))
-        return Error{Code::Refused, renamed, QStringLiteral("there is such a preset already")};
+        return Error{Code::Refused, renamed, translate("Job", "there is such a preset already")};
     auto ticket = readTicketFile(preset.value().path);
     if (!ticket)
         return ticket.error();
@@ -269,8 +270,9 @@ std::optional<TicketFile> PresetStore::siteDefaults() const
         return std::nullopt;
     auto ticket = readTicketFile(preset->path);
     if (!ticket) {
-        printLine(stderr,
-                  ticket.error().text() + QStringLiteral("; the site's defaults are not used"));
+        printLine(
+            stderr,
+            translate("Job", "%1; the site's defaults are not used").arg(ticket.error().text()));
         return std::nullopt;
     }
     ticket.value().unknown.remove(nameKey);

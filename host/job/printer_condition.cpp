@@ -1,5 +1,9 @@
 #include "printer_condition.h"
 
+#include "texts.h"
+
+#include <QtGlobal>
+
 #include <algorithm>
 
 namespace kelvo {
@@ -18,33 +22,33 @@ constexpr ReasonRow reasonRows[] = {
     {"paused", ""},
     {"moving-to-paused", ""},
     {"stopping", ""},
-    {"connecting-to-device", "the printer is not reached"},
-    {"cover-open", "a cover is open"},
-    {"developer-empty", "the developer is used up"},
-    {"developer-low", "the developer runs out"},
-    {"door-open", "a door is open"},
-    {"fuser-over-temp", "the fuser is too hot"},
-    {"fuser-under-temp", "the fuser is not hot yet"},
-    {"input-tray-missing", "a paper tray is missing"},
-    {"interlock-open", "a door is open"},
-    {"marker-supply-empty", "toner or ink is used up"},
-    {"marker-supply-low", "toner or ink runs out"},
-    {"marker-waste-almost-full", "the waste container is almost full"},
-    {"marker-waste-full", "the waste container is full"},
-    {"media-empty", "there is no paper"},
-    {"media-jam", "paper is jammed"},
-    {"media-low", "paper runs out"},
-    {"media-needed", "it waits for paper"},
-    {"offline", "the printer is not reached"},
-    {"output-area-almost-full", "an output tray is almost full"},
-    {"output-area-full", "an output tray is full"},
-    {"output-tray-missing", "an output tray is missing"},
-    {"shutdown", "the printer is switched off"},
-    {"spool-area-full", "its memory is full"},
-    {"stopped-partly", "some of its printers are stopped"},
-    {"timed-out", "the printer does not answer"},
-    {"toner-empty", "toner is used up"},
-    {"toner-low", "toner runs out"},
+    {"connecting-to-device", QT_TRANSLATE_NOOP("Job", "the printer is not reached")},
+    {"cover-open", QT_TRANSLATE_NOOP("Job", "a cover is open")},
+    {"developer-empty", QT_TRANSLATE_NOOP("Job", "the developer is used up")},
+    {"developer-low", QT_TRANSLATE_NOOP("Job", "the developer runs out")},
+    {"door-open", QT_TRANSLATE_NOOP("Job", "a door is open")},
+    {"fuser-over-temp", QT_TRANSLATE_NOOP("Job", "the fuser is too hot")},
+    {"fuser-under-temp", QT_TRANSLATE_NOOP("Job", "the fuser is not hot yet")},
+    {"input-tray-missing", QT_TRANSLATE_NOOP("Job", "a paper tray is missing")},
+    {"interlock-open", QT_TRANSLATE_NOOP("Job", "a door is open")},
+    {"marker-supply-empty", QT_TRANSLATE_NOOP("Job", "toner or ink is used up")},
+    {"marker-supply-low", QT_TRANSLATE_NOOP("Job", "toner or ink runs out")},
+    {"marker-waste-almost-full", QT_TRANSLATE_NOOP("Job", "the waste container is almost full")},
+    {"marker-waste-full", QT_TRANSLATE_NOOP("Job", "the waste container is full")},
+    {"media-empty", QT_TRANSLATE_NOOP("Job", "there is no paper")},
+    {"media-jam", QT_TRANSLATE_NOOP("Job", "paper is jammed")},
+    {"media-low", QT_TRANSLATE_NOOP("Job", "paper runs out")},
+    {"media-needed", QT_TRANSLATE_NOOP("Job", "it waits for paper")},
+    {"offline", QT_TRANSLATE_NOOP("Job", "the printer is not reached")},
+    {"output-area-almost-full", QT_TRANSLATE_NOOP("Job", "an output tray is almost full")},
+    {"output-area-full", QT_TRANSLATE_NOOP("Job", "an output tray is full")},
+    {"output-tray-missing", QT_TRANSLATE_NOOP("Job", "an output tray is missing")},
+    {"shutdown", QT_TRANSLATE_NOOP("Job", "the printer is switched off")},
+    {"spool-area-full", QT_TRANSLATE_NOOP("Job", "its memory is full")},
+    {"stopped-partly", QT_TRANSLATE_NOOP("Job", "some of its printers are stopped")},
+    {"timed-out", QT_TRANSLATE_NOOP("Job", "the printer does not answer")},
+    {"toner-empty", QT_TRANSLATE_NOOP("Job", "toner is used up")},
+    {"toner-low", QT_TRANSLATE_NOOP("Job", "toner runs out")},
 };
 
 // What the print server writes where nobody has given a reason.
@@ -60,8 +64,9 @@ QString reasonWords(QString keyword)
     const auto row = std::ranges::find_if(reasonRows, [&keyword](const ReasonRow &each) {
         return keyword == QLatin1String(each.keyword);
     });
-    return row != std::end(reasonRows) ? QString::fromLatin1(row->words)
-                                       : keyword.replace(u'-', u' ');
+    if (row == std::end(reasonRows))
+        return keyword.replace(u'-', u' ');
+    return *row->words ? translate("Job", row->words) : QString();
 }
 
 } // namespace

@@ -33,7 +33,7 @@ ExitStatus statusOfDelivery(Code code)
 
 class Queue : public Destination
 {
-    Q_DECLARE_TR_FUNCTIONS(Queue)
+    Q_DECLARE_TR_FUNCTIONS(kelvo::Queue)
 
 public:
     Queue(const QString &queue, const QString &title, int timeoutMs)
@@ -68,7 +68,8 @@ private:
         const auto now = printerCondition(m_queue, std::min(m_timeoutMs, patienceMs));
         const auto caution = now ? printerCaution(m_queue, now.value()) : std::nullopt;
         return caution && caution->weight == Caution::Weight::Refused
-            ? QStringLiteral("%1 (%2)").arg(caution->sentences(), error.text())
+            ? tr("%1 (%2)", "what is wrong, and what the server said")
+                  .arg(caution->sentences(), error.text())
             : error.text();
     }
 
@@ -78,7 +79,7 @@ private:
 
 class Folder : public Destination
 {
-    Q_DECLARE_TR_FUNCTIONS(Folder)
+    Q_DECLARE_TR_FUNCTIONS(kelvo::Folder)
 
 public:
     explicit Folder(const QString &folder)

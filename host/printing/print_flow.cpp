@@ -40,7 +40,8 @@ QString PrintFlow::whyNotReady() const
     if (m_session.stage() == Stage::Searching)
         return tr("The printer's settings have not come yet.");
     if (m_session.stage() == Stage::Stuck)
-        return m_session.message().header + QStringLiteral(". ") + m_session.message().text;
+        return tr("%1. %2", "a headline and what follows it")
+            .arg(m_session.message().header, m_session.message().text);
     const DocumentOpening &document = m_session.document();
     if (document.isPending())
         return tr("The document is not open yet.");
@@ -202,8 +203,8 @@ void PrintFlow::interrupt()
         if (!m_run)
             return;
         const QString problem =
-            QStringLiteral("interrupted while the job was being sent; it may have been accepted: "
-                           "look at the printer's queue before you print again");
+            tr("interrupted while the job was being sent; it may have been accepted: "
+               "look at the printer's queue before you print again");
         printLine(stderr, QStringLiteral("kelvo-print: ") + problem);
         refuse(Step::Job, ExitStatus::Failed, notPrinted(), problem);
     });
@@ -225,13 +226,13 @@ void PrintFlow::sayWhatWasNotSent()
 {
     SessionJob &job = m_session.job();
     for (const QString &setting : job.missing())
-        printLine(
-            stderr,
-            QStringLiteral("kelvo-print: %1: not sent, %2").arg(setting, whyNotSent(job.ppd())));
+        printLine(stderr,
+                  QStringLiteral("kelvo-print: ")
+                      + tr("%1: not sent, %2").arg(setting, whyNotSent(job.ppd())));
     for (const QString &setting : job.untold())
         printLine(stderr,
-                  QStringLiteral("kelvo-print: %1: not sent, this printer reads no tickets")
-                      .arg(setting));
+                  QStringLiteral("kelvo-print: ")
+                      + tr("%1: not sent, this printer reads no tickets").arg(setting));
 }
 
 } // namespace kelvo

@@ -3,6 +3,7 @@
 #include "file_store.h"
 #include "nearest_name.h"
 #include "size_limits.h"
+#include "texts.h"
 
 #include <QStringDecoder>
 
@@ -29,35 +30,35 @@ struct CommandRow
 
 // clang-format off
 constexpr CommandRow commandRows[] = {
-    {ScriptCommand::Panel, "panel", "W", {"panel NAME", "shows a panel of the window, or a tab of the device by name: PaperOutput, ImageOptions, Advanced, SpecialPages"}},
-    {ScriptCommand::Tab, "tab", "N", {"tab N", "shows the device's tab N, from 1"}},
-    {ScriptCommand::Choose, "choose", "CI", {"choose CONTROL WHAT", "picks an item of a pop-up; WHAT: 12, 'code', unset, key NAME, text \"…\", row 3"}},
-    {ScriptCommand::Item, "item", "CKi", {"item CONTROL 'code' [WHAT]", "picks the menu item with that command, submenus included"}},
-    {ScriptCommand::Click, "click", "C", {"click CONTROL", "presses a button or a radio button"}},
-    {ScriptCommand::Check, "check", "CW", {"check CONTROL on|off", "sets a check box"}},
-    {ScriptCommand::Type, "type", "CWw", {"type CONTROL \"text\"", "replaces the text as a user types it; `secret NAME` types a secret from --secret"}},
-    {ScriptCommand::Set, "set", "CN", {"set CONTROL N", "sets a spin field, slider, radio group or tab control"}},
-    {ScriptCommand::Time, "time", "CW", {"time CONTROL HH:MM[:SS]", "sets a time field"}},
-    {ScriptCommand::Select, "select", "CW", {"select CONTROL ROW[,ROW…]", "selects rows of a list, from 1; 0 is the empty area"}},
-    {ScriptCommand::DoubleClick, "double-click", "CN", {"double-click CONTROL ROW", "double-clicks a row of a list; 0 is the empty area"}},
-    {ScriptCommand::Key, "key", "W", {"key \"Ctrl+P\"", "presses keys in the front window"}},
-    {ScriptCommand::Drag, "drag", "CDD", {"drag CONTROL DX DY", "drags from the control's middle, in points"}},
-    {ScriptCommand::File, "file", "W", {"file \"PATH\"", "answers a file chooser"}},
-    {ScriptCommand::Command, "command", "K", {"command 'code'", "sends a command to the front window"}},
-    {ScriptCommand::Answer, "answer", "N", {"answer N", "presses button N of the notice in front; 1 is its default"}},
-    {ScriptCommand::Print, "print", "", {"print", "presses Print"}},
-    {ScriptCommand::Cancel, "cancel", "", {"cancel", "cancels the front dialog"}},
-    {ScriptCommand::Sync, "sync", "W", {"sync read|write", "all panels read the ticket or write it"}},
-    {ScriptCommand::Expect, "expect", "CWWww", {"expect CONTROL PROPERTY VALUE", "value, index, text, enabled, visible, checked, focus, items, maximum, selection, cell ROW COLUMN"}},
-    {ScriptCommand::ExpectItem, "expect-item", "CKiW", {"expect-item CONTROL 'code' [WHAT] STATE", "present, absent, enabled, disabled, checked, unchecked"}},
-    {ScriptCommand::ExpectTicket, "expect-ticket", "WW", {"expect-ticket PATH VALUE|absent", "the ticket as it stands; PATH steps into it with /"}},
-    {ScriptCommand::ExpectChoice, "expect-choice", "WW", {"expect-choice OPTION CHOICE|absent", "a PPD choice in the ticket"}},
-    {ScriptCommand::ExpectNotice, "expect-notice", "W", {"expect-notice \"text\"", "the front notice contains the text"}},
-    {ScriptCommand::ExpectWindow, "expect-window", "W", {"expect-window \"title\"|@name", "the front window is that one"}},
-    {ScriptCommand::Show, "show", "C", {"show CONTROL", "prints one control as JSON"}},
-    {ScriptCommand::Controls, "controls", "", {"controls", "prints the front window's controls as JSON"}},
-    {ScriptCommand::Summary, "summary", "", {"summary", "prints what will be sent, in words"}},
-    {ScriptCommand::Screenshot, "screenshot", "W", {"screenshot FILE", "writes the front window as PNG, for its owner alone"}},
+    {ScriptCommand::Panel, "panel", "W", {"panel NAME", QT_TRANSLATE_NOOP("Script", "shows a panel of the window, or a tab of the device by name: PaperOutput, ImageOptions, Advanced, SpecialPages")}},
+    {ScriptCommand::Tab, "tab", "N", {"tab N", QT_TRANSLATE_NOOP("Script", "shows the device's tab N, from 1")}},
+    {ScriptCommand::Choose, "choose", "CI", {"choose CONTROL WHAT", QT_TRANSLATE_NOOP("Script", "picks an item of a pop-up; WHAT: 12, 'code', unset, key NAME, text \"…\", row 3")}},
+    {ScriptCommand::Item, "item", "CKi", {"item CONTROL 'code' [WHAT]", QT_TRANSLATE_NOOP("Script", "picks the menu item with that command, submenus included")}},
+    {ScriptCommand::Click, "click", "C", {"click CONTROL", QT_TRANSLATE_NOOP("Script", "presses a button or a radio button")}},
+    {ScriptCommand::Check, "check", "CW", {"check CONTROL on|off", QT_TRANSLATE_NOOP("Script", "sets a check box")}},
+    {ScriptCommand::Type, "type", "CWw", {"type CONTROL \"text\"", QT_TRANSLATE_NOOP("Script", "replaces the text as a user types it; `secret NAME` types a secret from --secret")}},
+    {ScriptCommand::Set, "set", "CN", {"set CONTROL N", QT_TRANSLATE_NOOP("Script", "sets a spin field, slider, radio group or tab control")}},
+    {ScriptCommand::Time, "time", "CW", {"time CONTROL HH:MM[:SS]", QT_TRANSLATE_NOOP("Script", "sets a time field")}},
+    {ScriptCommand::Select, "select", "CW", {"select CONTROL ROW[,ROW…]", QT_TRANSLATE_NOOP("Script", "selects rows of a list, from 1; 0 is the empty area")}},
+    {ScriptCommand::DoubleClick, "double-click", "CN", {"double-click CONTROL ROW", QT_TRANSLATE_NOOP("Script", "double-clicks a row of a list; 0 is the empty area")}},
+    {ScriptCommand::Key, "key", "W", {"key \"Ctrl+P\"", QT_TRANSLATE_NOOP("Script", "presses keys in the front window")}},
+    {ScriptCommand::Drag, "drag", "CDD", {"drag CONTROL DX DY", QT_TRANSLATE_NOOP("Script", "drags from the control's middle, in points")}},
+    {ScriptCommand::File, "file", "W", {"file \"PATH\"", QT_TRANSLATE_NOOP("Script", "answers a file chooser")}},
+    {ScriptCommand::Command, "command", "K", {"command 'code'", QT_TRANSLATE_NOOP("Script", "sends a command to the front window")}},
+    {ScriptCommand::Answer, "answer", "N", {"answer N", QT_TRANSLATE_NOOP("Script", "presses button N of the notice in front; 1 is its default")}},
+    {ScriptCommand::Print, "print", "", {"print", QT_TRANSLATE_NOOP("Script", "presses Print")}},
+    {ScriptCommand::Cancel, "cancel", "", {"cancel", QT_TRANSLATE_NOOP("Script", "cancels the front dialog")}},
+    {ScriptCommand::Sync, "sync", "W", {"sync read|write", QT_TRANSLATE_NOOP("Script", "all panels read the ticket or write it")}},
+    {ScriptCommand::Expect, "expect", "CWWww", {"expect CONTROL PROPERTY VALUE", QT_TRANSLATE_NOOP("Script", "value, index, text, enabled, visible, checked, focus, items, maximum, selection, cell ROW COLUMN")}},
+    {ScriptCommand::ExpectItem, "expect-item", "CKiW", {"expect-item CONTROL 'code' [WHAT] STATE", QT_TRANSLATE_NOOP("Script", "present, absent, enabled, disabled, checked, unchecked")}},
+    {ScriptCommand::ExpectTicket, "expect-ticket", "WW", {"expect-ticket PATH VALUE|absent", QT_TRANSLATE_NOOP("Script", "the ticket as it stands; PATH steps into it with /")}},
+    {ScriptCommand::ExpectChoice, "expect-choice", "WW", {"expect-choice OPTION CHOICE|absent", QT_TRANSLATE_NOOP("Script", "a PPD choice in the ticket")}},
+    {ScriptCommand::ExpectNotice, "expect-notice", "W", {"expect-notice \"text\"", QT_TRANSLATE_NOOP("Script", "the front notice contains the text")}},
+    {ScriptCommand::ExpectWindow, "expect-window", "W", {"expect-window \"title\"|@name", QT_TRANSLATE_NOOP("Script", "the front window is that one")}},
+    {ScriptCommand::Show, "show", "C", {"show CONTROL", QT_TRANSLATE_NOOP("Script", "prints one control as JSON")}},
+    {ScriptCommand::Controls, "controls", "", {"controls", QT_TRANSLATE_NOOP("Script", "prints the front window's controls as JSON")}},
+    {ScriptCommand::Summary, "summary", "", {"summary", QT_TRANSLATE_NOOP("Script", "prints what will be sent, in words")}},
+    {ScriptCommand::Screenshot, "screenshot", "W", {"screenshot FILE", QT_TRANSLATE_NOOP("Script", "writes the front window as PNG, for its owner alone")}},
 };
 // clang-format on
 
@@ -119,17 +120,18 @@ Words split(const QString &line)
                     else if (escaped == u'"' || escaped == u'\\')
                         word.text += escaped;
                     else
-                        return {{},
-                                QStringLiteral("\\%1 is no escape; there are \\\" \\\\ and \\n")
-                                    .arg(escaped)};
+                        return {
+                            {},
+                            translate("Script", "\\%1 is no escape; there are \\\" \\\\ and \\n")
+                                .arg(escaped)};
                 } else {
                     word.text += line[at];
                 }
             }
             if (!closed)
-                return {{}, QStringLiteral("the text is not closed with a double quote")};
+                return {{}, translate("Script", "the text is not closed with a double quote")};
             if (at < line.size() && !line[at].isSpace())
-                return {{}, QStringLiteral("after a closing quote comes a blank")};
+                return {{}, translate("Script", "after a closing quote comes a blank")};
         } else if (c == u'\'') {
             word.kind = Word::Kind::Code;
             const qsizetype end = line.indexOf(u'\'', at + 1);
@@ -138,14 +140,15 @@ Words split(const QString &line)
             for (const QChar one : code)
                 printable = printable && one.unicode() >= 0x20 && one.unicode() < 0x7f;
             if (!printable)
-                return {{},
-                        QStringLiteral("a code is four characters in single quotes, like 'KFup'")};
+                return {
+                    {},
+                    translate("Script", "a code is four characters in single quotes, like 'KFup'")};
             for (const QChar one : code)
                 word.code = word.code << 8 | one.unicode();
             word.text = QString::number(static_cast<std::int32_t>(word.code));
             at = end + 1;
             if (at < line.size() && !line[at].isSpace())
-                return {{}, QStringLiteral("after a closing quote comes a blank")};
+                return {{}, translate("Script", "after a closing quote comes a blank")};
         } else {
             while (at < line.size() && !line[at].isSpace())
                 word.text += line[at++];
@@ -209,11 +212,12 @@ private:
         if (!control) {
             // Where the control was forgotten or misspelled, what is typed may be
             // a secret: of `type` the line is not repeated.
-            const QString what = m_line.command == ScriptCommand::Type
-                ? QStringLiteral("what follows type")
-                : QStringLiteral("\"%1\"").arg(name);
             return refuse(
-                QStringLiteral("%1 is no control; write KPDE 102 or @objectName").arg(what));
+                m_line.command == ScriptCommand::Type
+                    ? translate("Script",
+                                "what follows type is no control; write KPDE 102 or @objectName")
+                    : translate("Script", "\"%1\" is no control; write KPDE 102 or @objectName")
+                          .arg(name));
         }
         m_line.control = control.value();
         return true;
@@ -224,7 +228,7 @@ private:
         const Word &word = next();
         if (word.kind != Word::Kind::Code)
             return refuse(
-                QStringLiteral("\"%1\" is no code; write four characters in single quotes")
+                translate("Script", "\"%1\" is no code; write four characters in single quotes")
                     .arg(word.text));
         m_line.code = word.code;
         return true;
@@ -243,7 +247,7 @@ private:
                    && (word.text == QLatin1String("key") || word.text == QLatin1String("text")
                        || word.text == QLatin1String("row"))) {
             if (atEnd())
-                return refuse(QStringLiteral("after %1 comes what it is").arg(word.text));
+                return refuse(translate("Script", "after %1 comes what it is").arg(word.text));
             const Word &name = next();
             item.by = word.text == QLatin1String("key") ? By::Key
                 : word.text == QLatin1String("text")    ? By::Text
@@ -254,14 +258,15 @@ private:
                 item.row = name.text.toInt(&isNumber);
                 if (!isNumber || item.row < 1 || name.kind != Word::Kind::Bare)
                     return refuse(
-                        QStringLiteral("\"%1\" is no row; rows count from 1").arg(name.text));
+                        translate("Script", "\"%1\" is no row; rows count from 1").arg(name.text));
             }
         } else {
             bool isNumber = false;
             item.reference = word.text.toInt(&isNumber);
             if (!isNumber || word.kind != Word::Kind::Bare)
-                return refuse(QStringLiteral("\"%1\" names no item; write a number, 'code', unset, "
-                                             "key NAME, text \"…\" or row N")
+                return refuse(translate("Script",
+                                        "\"%1\" names no item; write a number, 'code', unset, "
+                                        "key NAME, text \"…\" or row N")
                                   .arg(word.text));
         }
         m_line.item = item;
@@ -277,10 +282,9 @@ private:
         else
             word.text.toDouble(&isNumber);
         if (!isNumber || word.kind != Word::Kind::Bare)
-            return refuse(
-                QStringLiteral("\"%1\" is no %2")
-                    .arg(word.text,
-                         whole ? QStringLiteral("whole number") : QStringLiteral("number")));
+            return refuse((whole ? translate("Script", "\"%1\" is no whole number")
+                                 : translate("Script", "\"%1\" is no number"))
+                              .arg(word.text));
         m_line.arguments.push_back({word.text, false});
         return true;
     }
@@ -304,36 +308,38 @@ QString problemOf(const ScriptLine &line)
     const auto &arguments = line.arguments;
     for (const ClosedWords &row : closedWords()) {
         if (row.command == line.command && !row.words.contains(arguments.back().text))
-            return QStringLiteral("\"%1\" is none of %2")
+            return translate("Script", "\"%1\" is none of %2")
                 .arg(arguments.back().text, row.words.join(QStringLiteral(", ")));
     }
     if (line.command == ScriptCommand::Type && arguments.size() == 2
         && (arguments[0].quoted || arguments[0].text != QLatin1String("secret")))
-        return QStringLiteral("put a text with blanks into double quotes");
+        return translate("Script", "put a text with blanks into double quotes");
     if (line.command == ScriptCommand::Type && arguments.size() == 1 && !arguments[0].quoted
         && arguments[0].text == QLatin1String("secret"))
-        return QStringLiteral("after secret comes its name");
+        return translate("Script", "after secret comes its name");
     if (line.command == ScriptCommand::Time
         && !QTime::fromString(arguments[0].text, QStringLiteral("H:mm")).isValid()
         && !QTime::fromString(arguments[0].text, QStringLiteral("H:mm:ss")).isValid())
-        return QStringLiteral("\"%1\" is no time; write HH:MM or HH:MM:SS").arg(arguments[0].text);
+        return translate("Script", "\"%1\" is no time; write HH:MM or HH:MM:SS")
+            .arg(arguments[0].text);
     if (line.command == ScriptCommand::Select) {
         for (const QString &row : arguments[0].text.split(u',')) {
             bool isNumber = false;
             if (row.toInt(&isNumber) < 0 || !isNumber)
-                return QStringLiteral("\"%1\" is no list of rows; write 1,2,5")
+                return translate("Script", "\"%1\" is no list of rows; write 1,2,5")
                     .arg(arguments[0].text);
         }
     }
     if (line.command == ScriptCommand::Expect) {
         const bool isCell = arguments[0].text == QLatin1String("cell");
         if (!inspector::propertyNames().contains(arguments[0].text) && !isCell)
-            return QStringLiteral("\"%1\" is no property%2; there are %3")
-                .arg(arguments[0].text, didYouMean(arguments[0].text, inspector::propertyNames()),
+            return translate("Script", "%1; there are %2")
+                .arg(didYouMean(translate("Script", "\"%1\" is no property").arg(arguments[0].text),
+                                arguments[0].text, inspector::propertyNames()),
                      inspector::propertyNames().join(QStringLiteral(", ")));
         if (arguments.size() != (isCell ? 4U : 2U))
-            return isCell ? QStringLiteral("cell takes a row, a column and the text")
-                          : QStringLiteral("put a value with blanks into double quotes");
+            return isCell ? translate("Script", "cell takes a row, a column and the text")
+                          : translate("Script", "put a value with blanks into double quotes");
     }
     return {};
 }
@@ -355,9 +361,9 @@ QString readLine(const QString &text, ScriptLine &line)
             row = &one;
     }
     if (!row)
-        return QStringLiteral(
-                   "there is no command \"%1\"%2 (kelvo-print --help-scripts lists them)")
-            .arg(name, didYouMean(name, names));
+        return translate("Script", "%1 (kelvo-print --help-scripts lists them)")
+            .arg(didYouMean(translate("Script", "there is no command \"%1\"").arg(name), name,
+                            names));
 
     line.command = row->command;
     const std::vector<Word> rest(words.words.begin() + 1, words.words.end());
@@ -374,12 +380,12 @@ QString readLine(const QString &text, ScriptLine &line)
             continue;
         const char upper = optional ? static_cast<char>(form - 'a' + 'A') : form;
         if (!taker.take(upper))
-            return taker.problem().isEmpty()
-                ? QStringLiteral("something is missing: %1").arg(QString::fromUtf8(row->help.usage))
-                : taker.problem();
+            return taker.problem().isEmpty() ? translate("Script", "something is missing: %1")
+                                                   .arg(QString::fromUtf8(row->help.usage))
+                                             : taker.problem();
     }
     if (!taker.atEnd())
-        return QStringLiteral("there is too much: %1").arg(QString::fromUtf8(row->help.usage));
+        return translate("Script", "there is too much: %1").arg(QString::fromUtf8(row->help.usage));
     return problemOf(line);
 }
 
@@ -401,14 +407,15 @@ Result<std::vector<ScriptLine>> parseScript(const QByteArray &text, const QStrin
             ++number;
         }
         return Error{Error::Code::Damaged, at(number),
-                     QStringLiteral("this is not UTF-8 text; a script is a text file")};
+                     translate("Script", "this is not UTF-8 text; a script is a text file")};
     }
 
     // A program that wrote nothing, or a file that was lost; comments are somebody's intent.
     if (decoded.trimmed().isEmpty())
         return Error{Error::Code::Damaged, at(1),
-                     QStringLiteral("the script is empty; write a command a line (kelvo-print "
-                                    "--help-scripts lists them)")};
+                     translate("Script",
+                               "the script is empty; write a command a line (kelvo-print "
+                               "--help-scripts lists them)")};
 
     std::vector<ScriptLine> lines;
     int number = 0;
@@ -435,7 +442,7 @@ namespace {
 // can be interrupted.
 Result<QByteArray> readStandardInput()
 {
-    const QString name = QStringLiteral("standard input");
+    const QString name = translate("Script", "standard input");
     QByteArray text;
     char block[65536];
     for (;;) {
@@ -450,7 +457,7 @@ Result<QByteArray> readStandardInput()
         text.append(block, count);
         if (text.size() > limits::scriptBytes)
             return Error{Error::Code::TooLarge, name,
-                         QStringLiteral("a script has at most 16 MiB")};
+                         translate("Script", "a script has at most 16 MiB")};
     }
 }
 
@@ -478,12 +485,13 @@ std::vector<ScriptCommandHelp> scriptCommandHelp()
 
 QString scriptCommandsText()
 {
-    QString text = QStringLiteral("A script has one command a line; # begins a comment. CONTROL "
-                                  "is KPDE 614 or\n@bannerSheet: kelvo-print --list-controls "
-                                  "lists them.\n\n");
+    QString text = translate("Script",
+                             "A script has one command a line; # begins a comment. CONTROL "
+                             "is KPDE 614 or\n@bannerSheet: kelvo-print --list-controls "
+                             "lists them.\n\n");
     for (const ScriptCommandHelp &help : scriptCommandHelp())
         text += QStringLiteral("  %1\n      %2\n")
-                    .arg(QString::fromUtf8(help.usage), QString::fromUtf8(help.meaning));
+                    .arg(QString::fromUtf8(help.usage), translate("Script", help.meaning));
     return text;
 }
 

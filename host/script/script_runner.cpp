@@ -8,6 +8,7 @@
 #include "secret_mask.h"
 #include "secrets.h"
 #include "terminal.h"
+#include "texts.h"
 #include "ticket_path.h"
 #include "values.h"
 
@@ -82,8 +83,11 @@ QString answersOf(const ShownNotice &notice)
 
 QString wordsOf(const ShownNotice &notice)
 {
-    const QString colon = notice.message.isEmpty() ? QString() : QStringLiteral(": ");
-    return (notice.header + colon + notice.message).simplified();
+    const QString words = notice.message.isEmpty()
+        ? notice.header
+        : translate("Script", "%1: %2", "a notice's header and message")
+              .arg(notice.header, notice.message);
+    return words.simplified();
 }
 
 } // namespace
@@ -189,7 +193,7 @@ void ScriptRunner::Private::step()
     }
     if (target.finished()) {
         fail(lines[next].number,
-             wrong(QStringLiteral("the dialog is closed; nothing can be done after that")));
+             wrong(translate("Script", "the dialog is closed; nothing can be done after that")));
         return;
     }
     if (lines[next].command == ScriptCommand::Screenshot && target.isDrawing()) {
@@ -229,8 +233,9 @@ bool ScriptRunner::Private::checkMenu()
         menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     }
     fail(lines[next - 1].number,
-         wrong(QStringLiteral("a menu has opened, which lines cannot pick from; \"item\" and "
-                              "\"choose\" pick its items while it is closed")));
+         wrong(translate("Script",
+                         "a menu has opened, which lines cannot pick from; \"item\" and "
+                         "\"choose\" pick its items while it is closed")));
     return false;
 }
 
@@ -252,7 +257,7 @@ bool ScriptRunner::Private::checkNotice()
     }
     fail(at,
          hasScript() ? LineProblem{ExitStatus::Failed,
-                                   QStringLiteral("a notice came up: %1 (answers: %2)")
+                                   translate("Script", "a notice came up: %1 (answers: %2)")
                                        .arg(masked(wordsOf(notice)), answersOf(notice))}
                      : unasked(masked(wordsOf(notice))));
     return false;
@@ -263,9 +268,10 @@ bool ScriptRunner::Private::checkNotice()
 LineProblem ScriptRunner::Private::unasked(const QString &question) const
 {
     return {printAsked ? ExitStatus::InvalidTicket : ExitStatus::Failed,
-            QStringLiteral("nothing was sent. %1 Set it in the window (leave out --no-window), or "
-                           "with --script FILE, which takes what is secret from --secret "
-                           "NAME=FILE.")
+            translate("Script",
+                      "nothing was sent. %1 Set it in the window (leave out --no-window), or "
+                      "with --script FILE, which takes what is secret from --secret "
+                      "NAME=FILE.")
                 .arg(question)};
 }
 
@@ -291,10 +297,10 @@ void ScriptRunner::Private::finish()
     if (const QWidget *modal = openDialog(); modal && !target.finished()) {
         fail(lines.empty() ? 0 : lines.back().number,
              hasScript()
-                 ? wrong(QStringLiteral("the script ends while the dialog \"%1\" is open")
+                 ? wrong(translate("Script", "the script ends while the dialog \"%1\" is open")
                              .arg(modal->windowTitle()))
-                 : unasked(
-                     QStringLiteral("The dialog \"%1\" asks for more.").arg(modal->windowTitle())));
+                 : unasked(translate("Script", "The dialog \"%1\" asks for more.")
+                               .arg(modal->windowTitle())));
         return;
     }
     if (target.finished()) {
@@ -311,8 +317,9 @@ void ScriptRunner::Private::finish()
         return;
     }
     printLine(stderr,
-              QStringLiteral("%1: the script has ended without printing; nothing was sent. "
-                             "Add `print`, or --print to the command line, to print.")
+              translate("Script",
+                        "%1: the script has ended without printing; nothing was sent. "
+                        "Add `print`, or --print to the command line, to print.")
                   .arg(options.file));
     end(ExitStatus::Printed);
 }
@@ -349,7 +356,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         return LineProblem{status, error.text()};
     };
     if (isBehindDialogs(line.command) && openDialog())
-        return wrong(QStringLiteral("the dialog \"%1\" is open and must be closed first")
+        return wrong(translate("Script", "the dialog \"%1\" is open and must be closed first")
                          .arg(front()->windowTitle()));
     switch (line.command) {
     case ScriptCommand::Panel:
@@ -365,9 +372,9 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     case ScriptCommand::Answer: {
         const ShownNotice notice = frontNotice();
         if (!notice.isShown())
-            return wrong(QStringLiteral("no notice is shown"));
+            return wrong(translate("Script", "no notice is shown"));
         if (!answerNotice(word(0).toInt()))
-            return wrong(QStringLiteral("the notice has no button %1; it has %2")
+            return wrong(translate("Script", "the notice has no button %1; it has %2")
                              .arg(word(0), answersOf(notice)));
         return {};
     }
@@ -392,9 +399,9 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     case ScriptCommand::ExpectNotice: {
         const ShownNotice notice = frontNotice();
         if (!notice.isShown())
-            return wrong(QStringLiteral("no notice is shown"));
+            return wrong(translate("Script", "no notice is shown"));
         if (!(notice.header + u'\n' + notice.message).contains(word(0)))
-            return wrong(QStringLiteral("the notice says: %1").arg(masked(wordsOf(notice))));
+            return wrong(translate("Script", "the notice says: %1").arg(masked(wordsOf(notice))));
         return {};
     }
     case ScriptCommand::ExpectWindow: {
@@ -402,7 +409,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         const bool byName = !line.arguments[0].quoted && word(0).startsWith(u'@');
         const QString have = byName ? u'@' + window->objectName() : window->windowTitle();
         if (have != word(0))
-            return wrong(QStringLiteral("the front window is \"%1\" (@%2)")
+            return wrong(translate("Script", "the front window is \"%1\" (@%2)")
                              .arg(window->windowTitle(), window->objectName()));
         return {};
     }
@@ -436,13 +443,13 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     if (!found.control) {
         const QString nearest = inspector::nearestControl(window, *line.control);
         const QString where = window == target.window()
-            ? QStringLiteral("the window")
-            : QStringLiteral("the dialog \"%1\"").arg(window->windowTitle());
-        return wrong(QStringLiteral("%1 is not in %2%3")
-                         .arg(line.control->text(), where,
-                              nearest.isEmpty()
-                                  ? QStringLiteral("; \"controls\" lists what is")
-                                  : QStringLiteral(", did you mean %1?").arg(nearest)));
+            ? translate("Script", "the window")
+            : translate("Script", "the dialog \"%1\"").arg(window->windowTitle());
+        return wrong(nearest.isEmpty()
+                         ? translate("Script", "%1 is not in %2; \"controls\" lists what is")
+                               .arg(line.control->text(), where)
+                         : translate("Script", "%1 is not in %2, did you mean %3?")
+                               .arg(line.control->text(), where, nearest));
     }
     QWidget *control = found.control;
     const auto word = [&line](std::size_t at) { return line.arguments[at].text; };
@@ -463,11 +470,11 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
 
     if (!found.shown) {
         const QString place = target.placeOf(control);
-        return LineProblem{
-            ExitStatus::NotOffered,
-            QStringLiteral("%1 is not shown%2")
-                .arg(line.control->text(),
-                     place.isEmpty() ? QString() : QStringLiteral("; it is in %1").arg(place))};
+        return LineProblem{ExitStatus::NotOffered,
+                           place.isEmpty()
+                               ? translate("Script", "%1 is not shown").arg(line.control->text())
+                               : translate("Script", "%1 is not shown; it is in %2")
+                                     .arg(line.control->text(), place)};
     }
     switch (line.command) {
     case ScriptCommand::Choose:
@@ -483,8 +490,8 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
             return lineProblem(inspector::type(control, word(0)));
         const auto secret = target.secret(word(1));
         if (!secret)
-            return wrong(
-                QStringLiteral("there is no secret \"%1\"; give --secret %1=FILE").arg(word(1)));
+            return wrong(translate("Script", "there is no secret \"%1\"; give --secret %1=FILE")
+                             .arg(word(1)));
         return lineProblem(inspector::typeSecret(control, *secret));
     }
     case ScriptCommand::Set:
@@ -507,7 +514,7 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     case ScriptCommand::Drag:
         return lineProblem(inspector::drag(control, word(0).toDouble(), word(1).toDouble()));
     default:
-        return wrong(QStringLiteral("this command takes no control"));
+        return wrong(translate("Script", "this command takes no control"));
     }
 }
 
@@ -526,13 +533,14 @@ LineDone ScriptRunner::Private::expect(const ScriptLine &line, QWidget *control)
     if (have.value() == wanted)
         return {};
     if (name == QLatin1String("items"))
-        return wrong(QStringLiteral("%1 has %2 items, not %3")
+        return wrong(translate("Script", "%1 has %2 items, not %3")
                          .arg(line.control->text(), have.value(), wanted));
     const bool isText = name == QLatin1String("text") || name.startsWith(QLatin1String("cell "));
     if (isText && inspector::isSecret(control) && !wanted.isEmpty())
-        return wrong(QStringLiteral("%1 of %2 is \"%3\"; of a secret only \"%4\" or \"\" is told")
-                         .arg(name, line.control->text(), have.value(), kMask));
-    return wrong(QStringLiteral("%1 of %2 is \"%3\", not \"%4\"")
+        return wrong(
+            translate("Script", "%1 of %2 is \"%3\"; of a secret only \"%4\" or \"\" is told")
+                .arg(name, line.control->text(), have.value(), kMask));
+    return wrong(translate("Script", "%1 of %2 is \"%3\", not \"%4\"")
                      .arg(name, line.control->text(), isText ? masked(have.value()) : have.value(),
                           isText ? masked(wanted) : wanted));
 }
@@ -563,7 +571,7 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
     if (!have) {
         return wantsAbsent
             ? LineDone()
-            : wrong(QStringLiteral("the ticket has no %1%2").arg(name, didYouMean(name, names)));
+            : wrong(didYouMean(translate("Script", "the ticket has no %1").arg(name), name, names));
     }
     if (!wantsAbsent && *have == wanted.text)
         return {};
@@ -582,10 +590,10 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
     }
     constexpr qsizetype mostShown = 500; // characters; a list may have 100 MB
     if (shown.size() > mostShown)
-        shown = shown.left(mostShown) + QStringLiteral("… (cut)");
+        shown = translate("Script", "%1… (cut)").arg(shown.left(mostShown));
     return wantsAbsent
-        ? wrong(QStringLiteral("%1 is there: \"%2\"").arg(name, shown))
-        : wrong(QStringLiteral("%1 is \"%2\", not \"%3\"").arg(name, shown, shownWanted));
+        ? wrong(translate("Script", "%1 is there: \"%2\"").arg(name, shown))
+        : wrong(translate("Script", "%1 is \"%2\", not \"%3\"").arg(name, shown, shownWanted));
 }
 
 LineDone ScriptRunner::Private::screenshot(const QString &file)
@@ -603,7 +611,7 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
         return {};
     return LineProblem{
         ExitStatus::Failed,
-        QStringLiteral("the picture \"%1\" cannot be written (%2); %3")
+        translate("Script", "the picture \"%1\" cannot be written (%2); %3")
             .arg(file, written.error().detail, writingAdvice(written.error().number))};
 }
 

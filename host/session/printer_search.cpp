@@ -140,11 +140,11 @@ void PrinterSearch::takePrinters(const QList<Printer> &printers)
         QStringList names;
         for (const Printer &printer : m_printers)
             names.append(printer.name);
-        const QString nearest = didYouMean(m_name, names);
         setState(State::Stuck,
                  {tr("There is no printer “%1”").arg(m_name),
-                  tr("The print server does not know it%1")
-                      .arg(nearest.isEmpty() ? QStringLiteral(".") : nearest),
+                  nearestName(m_name, names).isEmpty()
+                      ? tr("The print server does not know it.")
+                      : didYouMean(tr("The print server does not know it"), m_name, names),
                   true, tr("Choose another printer, or try again.")});
         return;
     }

@@ -4,6 +4,7 @@
 #include "page_placement.h"
 #include "ppd_words.h"
 #include "terminal.h"
+#include "texts.h"
 
 #include <algorithm>
 #include <set>
@@ -92,7 +93,9 @@ void SessionCautions::say(bool happenedOnly)
             || m_said.contains(caution.text))
             continue;
         m_said << caution.text;
-        printLine(stderr, QStringLiteral("kelvo-print: caution: ") + caution.sentences());
+        printLine(stderr,
+                  QStringLiteral("kelvo-print: ")
+                      + translate("Session", "caution: %1").arg(caution.sentences()));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "caution_colours.h"
 #include "notice_sign.h"
+#include "texts.h"
 #include "tool_tip.h"
 
 #include <QEvent>
@@ -34,7 +35,7 @@ NoticeLevel levelOf(Caution::Weight weight)
 
 QString andMore(const QString &text, int more)
 {
-    return more > 0 ? text + u' ' + CautionBar::tr("(and %n more)", nullptr, more) : text;
+    return more > 0 ? translate("Window", "%1 (and %n more)", nullptr, more).arg(text) : text;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "panel_interface.h"
 #include "terminal.h"
+#include "texts.h"
 
 #include <QUuid>
 #include <QVBoxLayout>
@@ -75,21 +76,22 @@ Result<void> Extension::load()
     const QUuid type = QUuid::fromString(QLatin1String(kPDEPlugInTypeUUID));
     const auto factory = d->bundle->findFactory(type);
     if (!factory)
-        return Error{Code::Unsupported, d->bundle->path(),
-                     QStringLiteral("its Info.plist names no factory for print dialog panels")};
+        return Error{
+            Code::Unsupported, d->bundle->path(),
+            translate("Window", "its Info.plist names no factory for print dialog panels")};
     const auto make = reinterpret_cast<PlugInFactoryFunction>(
         d->bundle->findFunction(factory->functionName.toLatin1().constData()));
     if (!make) {
         const QString why = d->bundle->loadError();
         return Error{Code::NotReadable, d->bundle->path(),
                      why.isEmpty()
-                         ? QStringLiteral("it has no function %1").arg(factory->functionName)
+                         ? translate("Window", "it has no function %1").arg(factory->functionName)
                          : why};
     }
     PlugInInstance *instance = make(nullptr, type);
     if (!instance)
         return Error{Code::Refused, d->bundle->path(),
-                     QStringLiteral("%1 makes no panels").arg(factory->functionName)};
+                     translate("Window", "%1 makes no panels").arg(factory->functionName)};
     void *interface = nullptr;
     const OSStatus status = instance->table->QueryInterface(
         instance, QUuid::fromString(QLatin1String(kPDEInterfaceUUID)), &interface);
@@ -99,7 +101,8 @@ Result<void> Extension::load()
     if (!isUsable) {
         instance->table->Release(instance);
         return Error{Code::Unsupported, d->bundle->path(),
-                     QStringLiteral("it has no panel interface, status %1").arg(status)};
+                     translate("Window", "it has no panel interface, status %1")
+                         .arg(QString::number(status))};
     }
     d->instance = instance;
     d->shell = shell;
@@ -115,7 +118,8 @@ Result<void> Extension::Private::add(const PanelOperations &operations, const QS
     std::uint32_t maxWidth = 0, maxHeight = 0;
     OSStatus status = operations.Prologue(&context, &creator, &kind, &title, &maxWidth, &maxHeight);
     if (status != noErr)
-        return Error{Code::Refused, name, QStringLiteral("Prologue failed with %1").arg(status)};
+        return Error{Code::Refused, name,
+                     translate("Window", "Prologue failed with %1").arg(QString::number(status))};
 
     auto *pane = new QWidget(panesParent);
     pane->setObjectName(QStringLiteral("pane") + name);
@@ -131,7 +135,8 @@ Result<void> Extension::Private::add(const PanelOperations &operations, const QS
     if (status != noErr) {
         operations.Terminate(context, status);
         delete pane;
-        return Error{Code::Refused, name, QStringLiteral("Initialize failed with %1").arg(status)};
+        return Error{Code::Refused, name,
+                     translate("Window", "Initialize failed with %1").arg(QString::number(status))};
     }
     records.push_back({operations, context});
     panels.push_back({name, shownTitle, pane});
@@ -153,7 +158,7 @@ Result<void> Extension::begin(PrintSession &session)
         const auto added = operations ? d->add(operations.value(), panelNameOf(getter))
                                       : Result<void>(operations.error());
         if (!added)
-            warn(QStringLiteral("%1: panel left out: %2")
+            warn(translate("Window", "%1: panel left out: %2")
                      .arg(d->bundle->path(), added.error().text()));
     }
     show(0);
@@ -222,7 +227,7 @@ void Extension::show(int index)
     }
     d->shown = index;
     if (!d->open(d->records[static_cast<std::size_t>(index)]))
-        warn(QStringLiteral("%1: the panel %2 could not be opened")
+        warn(translate("Window", "%1: the panel %2 could not be opened")
                  .arg(d->bundle->path(), d->panels[static_cast<std::size_t>(index)].name));
     d->panels[static_cast<std::size_t>(index)].pane->show();
 }

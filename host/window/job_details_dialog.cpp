@@ -3,9 +3,9 @@
 #include "modal_dialog.h"
 #include "summary_view.h"
 #include "tab_control.h"
+#include "texts.h"
 
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -19,11 +19,6 @@ namespace {
 
 const QString copyName = QStringLiteral("copyJob");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kelvo::JobDetailsDialog", text);
-}
-
 QString section(const QString &header, const QStringList &lines)
 {
     if (lines.isEmpty())
@@ -34,10 +29,13 @@ QString section(const QString &header, const QStringList &lines)
 
 QString wordsText(const JobWords &words)
 {
-    QString text = section(tr("Before you print"), words.cautions)
-        + section(tr("Set for this job"), words.settings) + section(tr("Not sent"), words.notSent)
-        + section(tr("As the device has it"), words.defaults);
-    return text.isEmpty() ? tr("Nothing is set: the device decides everything.") : text.trimmed();
+    QString text = section(translate("JobDetails", "Before you print"), words.cautions)
+        + section(translate("JobDetails", "Set for this job"), words.settings)
+        + section(translate("JobDetails", "Not sent"), words.notSent)
+        + section(translate("JobDetails", "As the device has it"), words.defaults);
+    return text.isEmpty()
+        ? translate("JobDetails", "Nothing is set: the device decides everything.")
+        : text.trimmed();
 }
 
 SummaryView *textView(const QString &name, const QString &label, const QString &text,
@@ -56,18 +54,18 @@ QWidget *makeJobDetailsPane(const JobWords &words)
 {
     auto *content = new QWidget;
     content->setObjectName(QStringLiteral("jobDetailsDialog"));
-    content->setWindowTitle(tr("What Will Be Sent"));
+    content->setWindowTitle(translate("JobDetails", "What Will Be Sent"));
 
     auto *tabs = new TabControl(content);
     tabs->setObjectName(QStringLiteral("jobDetailsTabs"));
-    tabs->setAccessibleName(tr("View"));
+    tabs->setAccessibleName(translate("JobDetails", "View"));
     tabs->setExpanding(false);
-    tabs->setTitles({tr("In Words"), tr("Ticket")});
+    tabs->setTitles({translate("JobDetails", "In Words"), translate("JobDetails", "Ticket")});
     auto *pages = new QStackedWidget(content);
-    auto *inWords =
-        textView(QStringLiteral("jobWords"), tr("Settings in words"), wordsText(words), pages);
-    auto *ticket =
-        textView(QStringLiteral("jobTicket"), tr("Ticket"), words.ticket.join(u'\n'), pages);
+    auto *inWords = textView(QStringLiteral("jobWords"),
+                             translate("JobDetails", "Settings in words"), wordsText(words), pages);
+    auto *ticket = textView(QStringLiteral("jobTicket"), translate("JobDetails", "Ticket"),
+                            words.ticket.join(u'\n'), pages);
     ticket->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     ticket->setLineWrapMode(QPlainTextEdit::NoWrap);
     ticket->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -77,10 +75,10 @@ QWidget *makeJobDetailsPane(const JobWords &words)
                              view->fontMetrics().lineSpacing() * 22);
         pages->addWidget(view);
     }
-    auto *copy = new QPushButton(tr("&Copy"), content);
+    auto *copy = new QPushButton(translate("JobDetails", "&Copy"), content);
     copy->setObjectName(copyName);
-    copy->setToolTip(tr("Copies the text that is shown"));
-    auto *close = new QPushButton(tr("Close"), content);
+    copy->setToolTip(translate("JobDetails", "Copies the text that is shown"));
+    auto *close = new QPushButton(translate("JobDetails", "Close"), content);
     close->setObjectName(QStringLiteral("close"));
     close->setProperty("command", QStringLiteral("ok  "));
     sendControlEvents(copy);

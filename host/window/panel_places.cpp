@@ -4,8 +4,8 @@
 #include "extension.h"
 #include "panel_switch.h"
 #include "popup_button.h"
+#include "texts.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 namespace kelvo {
@@ -15,11 +15,6 @@ namespace {
 using Code = Error::Code;
 
 constexpr ControlID shellSelector = {kShellSignature, 16};
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("kelvo::PanelPlaces", text);
-}
 
 } // namespace
 
@@ -54,9 +49,9 @@ Result<void> PanelPlaces::showPanel(Extension &panels, const QString &name)
             return showTab(id->number);
         names.append(pane->objectName());
     }
-    return Error{
-        Code::NotFound, name,
-        tr("there is no such panel here; there are: %1").arg(names.join(QStringLiteral(", ")))};
+    return Error{Code::NotFound, name,
+                 translate("Window", "there is no such panel here; there are: %1")
+                     .arg(names.join(QStringLiteral(", ")))};
 }
 
 Result<void> PanelPlaces::showTab(int number)
@@ -64,7 +59,8 @@ Result<void> PanelPlaces::showTab(int number)
     m_switch->setCurrentIndex(0);
     PopupButton *tabs = selector();
     if (!tabs)
-        return Error{Code::NotFound, QString::number(number), tr("there are no tabs")};
+        return Error{Code::NotFound, QString::number(number),
+                     translate("Window", "there are no tabs")};
     // A tab keeps its number where others are not there.
     const auto &items = tabs->menu().items;
     QStringList names;
@@ -75,12 +71,13 @@ Result<void> PanelPlaces::showTab(int number)
         }
         const int row = int(i) + 1;
         if (tabs->value() != row && !tabs->choose(row))
-            return Error{Code::Refused, QString::number(number), tr("the tab cannot be chosen")};
+            return Error{Code::Refused, QString::number(number),
+                         translate("Window", "the tab cannot be chosen")};
         return {};
     }
-    return Error{
-        Code::OutOfRange, QString::number(number),
-        tr("there is no such tab here; there are: %1").arg(names.join(QStringLiteral(", ")))};
+    return Error{Code::OutOfRange, QString::number(number),
+                 translate("Window", "there is no such tab here; there are: %1")
+                     .arg(names.join(QStringLiteral(", ")))};
 }
 
 void PanelPlaces::showSwitch(const Extension *panels)
@@ -105,9 +102,10 @@ QString PanelPlaces::placeOf(const QWidget *control, const Extension &panels)
              widget = widget->parentWidget()) {
             const auto id = controlIDOf(widget);
             if (id && id->signature == kUserPaneSignature)
-                return tr("tab %1, %2").arg(id->number).arg(widget->objectName());
+                return translate("Window", "tab %1, %2")
+                    .arg(QString::number(id->number), widget->objectName());
         }
-        return tr("panel %1").arg(panel.name);
+        return translate("Window", "panel %1").arg(panel.name);
     }
     return {};
 }

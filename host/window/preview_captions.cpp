@@ -1,41 +1,36 @@
 #include "preview_captions.h"
 
-#include <QCoreApplication>
+#include "texts.h"
+
 #include <QStringList>
 
 namespace kelvo {
-
-namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DocumentPreview", text);
-}
-
-} // namespace
 
 QString sideCaption(const SheetSide &side, int page, int count, const SpecialSheetWords &words)
 {
     const QString sheet = QString::number(side.sheet);
     switch (side.kind) {
     case SheetSide::Kind::FrontCover:
-        return tr("Sheet %1 · %2").arg(sheet, words.frontCover);
+        return translate("Preview", "Sheet %1 · %2").arg(sheet, words.frontCover);
     case SheetSide::Kind::BackCover:
-        return tr("Sheet %1 · %2").arg(sheet, words.backCover);
+        return translate("Preview", "Sheet %1 · %2").arg(sheet, words.backCover);
     case SheetSide::Kind::Insert:
         if (side.sheets == 1)
-            return tr("Sheet %1 · %2").arg(sheet, words.insert);
-        return tr("Sheets %1–%2 · %3")
+            return translate("Preview", "Sheet %1 · %2").arg(sheet, words.insert);
+        return translate("Preview", "Sheets %1–%2 · %3")
             .arg(sheet, QString::number(side.sheet + side.sheets - 1), words.insert);
     case SheetSide::Kind::BlankBack:
-        return tr("Sheet %1, back · blank").arg(sheet);
+        return translate("Preview", "Sheet %1, back · blank").arg(sheet);
     case SheetSide::Kind::Page:
         break;
     }
-    const QString text = !side.isTwoSided ? tr("Sheet %1 · page %2 of %3")
-        : side.isBack                     ? tr("Sheet %1, back · page %2 of %3")
-                                          : tr("Sheet %1, front · page %2 of %3");
-    return text.arg(sheet).arg(page).arg(count);
+    if (!side.isTwoSided)
+        return translate("Preview", "Sheet %1 · page %2 of %3")
+            .arg(sheet, QString::number(page), QString::number(count));
+    return side.isBack ? translate("Preview", "Sheet %1, back · page %2 of %3")
+                             .arg(sheet, QString::number(page), QString::number(count))
+                       : translate("Preview", "Sheet %1, front · page %2 of %3")
+                             .arg(sheet, QString::number(page), QString::number(count));
 }
 
 QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetWords &words)
@@ -46,11 +41,11 @@ QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetWords
     if (side.exceptionFirst > 0) {
         const QString pages = side.exceptionFirst == side.exceptionLast
             ? QString::number(side.exceptionFirst)
-            : tr("%1–%2").arg(side.exceptionFirst).arg(side.exceptionLast);
+            : QStringLiteral("%1–%2").arg(side.exceptionFirst).arg(side.exceptionLast);
         remarks << QString(words.exception).replace(QStringLiteral("%1"), pages);
     }
     if (isCut)
-        remarks << tr("larger than the paper");
+        remarks << translate("Preview", "larger than the paper");
     return remarks.join(QStringLiteral(" · "));
 }
 
@@ -62,10 +57,11 @@ QString sheetWords(const SheetSide &side, const SpecialSheetWords &words)
     case SheetSide::Kind::BackCover:
         return words.backCover;
     case SheetSide::Kind::Insert:
-        return side.sheets == 1 ? words.insert
-                                : tr("%1, %2 sheets").arg(words.insert).arg(side.sheets);
+        return side.sheets == 1
+            ? words.insert
+            : translate("Preview", "%1, %n sheet(s)", nullptr, side.sheets).arg(words.insert);
     case SheetSide::Kind::BlankBack:
-        return tr("Blank");
+        return translate("Preview", "Blank");
     case SheetSide::Kind::Page:
         break;
     }

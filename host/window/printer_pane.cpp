@@ -56,7 +56,8 @@ QString stateText(const Printer &printer)
 
 QString toolTipFor(const Printer &printer)
 {
-    QStringList lines = {printer.name + QStringLiteral(": ") + stateText(printer)};
+    QStringList lines = {
+        PrinterPane::tr("%1: %2", "printer and its state").arg(printer.name, stateText(printer))};
     for (const QString &text :
          {printer.stateMessage, printer.info, printer.location, printer.makeAndModel}) {
         if (!text.isEmpty())

@@ -1,7 +1,10 @@
 #include "cautions.h"
+#include "job_words.h"
 #include "left_out_covers.h"
 #include "page_placement.h"
+#include "texts.h"
 
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace kelvo;
@@ -23,6 +26,8 @@ private slots:
     void pagesAreCutBothWays();
     void remembersCoversThatAreLeftOut_data();
     void remembersCoversThatAreLeftOut();
+    void speaksAnotherLanguage_data();
+    void speaksAnotherLanguage();
 };
 
 void TestCautions::saysWhyAPrinterDoesNotPrint_data()
@@ -137,6 +142,46 @@ void TestCautions::remembersCoversThatAreLeftOut()
     }
     QCOMPARE(int(covers.back()), last);
     QCOMPARE(covers.front(), Cover::None);
+}
+
+void TestCautions::speaksAnotherLanguage_data()
+{
+    QTest::addColumn<QStringList>("languages");
+    QTest::addColumn<QStringList>("pages"); // of 1, 22 and 112 of them
+    QTest::addColumn<QString>("refused");
+    QTest::addColumn<QString>("cut");
+    const QStringList english = {QStringLiteral("1 page, 1 sheet"),
+                                 QStringLiteral("22 pages, 22 sheets"),
+                                 QStringLiteral("112 pages, 112 sheets")};
+    const QString refused = QStringLiteral("“%2 %n” takes no jobs: paper is jammed.");
+    const QString cut = QStringLiteral("Pages 1, 3 and 5 are larger than the paper, %n: what does "
+                                       "not fit is cut off.");
+
+    // What is not in its table is said in English.
+    QTest::newRow("three forms") << QStringList{"yy-YY", "xx"}
+                                 << QStringList{"1 pago, 1 sheet", "22 pagi, 22 sheets",
+                                                "112 pagov, 112 sheets"}
+                                 << QStringLiteral("papo hema! «%2 %n» nu.")
+                                 << QStringLiteral("%n mina: pagi 1, 3 do 5.");
+    QTest::newRow("none that is there") << QStringList{"yy-YY"} << english << refused << cut;
+    QTest::newRow("rather English") << QStringList{"en-GB", "xx"} << english << refused << cut;
+}
+
+void TestCautions::speaksAnotherLanguage()
+{
+    QFETCH(QStringList, languages);
+    loadTexts(QStringLiteral(TEXTS), languages);
+    const auto backToEnglish = qScopeGuard([] { loadTexts({}, {}); });
+    QStringList pages;
+    for (const int count : {1, 22, 112})
+        pages << shortSummary({}, {}, count, count, {});
+    QTEST(pages, "pages");
+    // What users typed is no place holder.
+    const auto refused = printerCaution(QStringLiteral("%2 %n"),
+                                        {PrinterCondition::State::Stopped, false,
+                                         stateWords({}, {QStringLiteral("media-jam-error")})});
+    QTEST(refused->text, "refused");
+    QTEST(cutPagesCaution({1, 3, 5}, QStringLiteral("%n"))->text, "cut");
 }
 
 QTEST_GUILESS_MAIN(TestCautions)

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// The words of the program and its libraries in the user's language. The English text
+// stands where it is said and is the key to the tables of the other languages; what is
+// said of a number has its forms in a table for English, too.
+//
+// QObjects may as well call tr(): it finds the same tables, once they are installed.
+namespace kelvo {
+
+// Takes `folder`/LANGUAGE.qm of each of `languages`, as StringTables::load() does; no
+// folder: none. English is built in. Call it before other threads run and before
+// installTexts(); until then all is English.
+void loadTexts(const QString &folder, const QStringList &languages);
+
+// Gives the tables to the application object's tr(). They stay this library's.
+void installTexts();
+
+// As QCoreApplication::translate(), so that lupdate finds the texts, but without an
+// application object. `context` is an area of the program ("Job"): the same English may
+// need other words elsewhere. With a `count`, the form of "%n page(s)" for it, and the
+// count for %n. Place holders are for one QString::arg(), which replaces all at once.
+QString translate(const char *context, const char *english, const char *comment = nullptr,
+                  qint64 count = -1);
+
+// "a", "a and b", "a, b and c"
+QString listed(const QStringList &parts);
+
+} // namespace kelvo

@@ -1,0 +1,81 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Job</name>
+    <!-- What will come out -->
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n sheet</numerusform>
+            <numerusform>%n sheets</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copy(s)</source>
+        <translation>
+            <numerusform>%n copy</numerusform>
+            <numerusform>%n copies</numerusform>
+        </translation>
+    </message>
+    <!-- %1 is "3 sheets", %2 "2 copies" -->
+    <message numerus="yes">
+        <source>%1 × %2 = %n sheet(s)</source>
+        <translation>
+            <numerusform>%1 × %2 = %n sheets</numerusform>
+            <numerusform>%1 × %2 = %n sheets</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entry(s) that the device panels add (see Ticket)</source>
+        <translation>
+            <numerusform>%n entry that the device panels add (see Ticket)</numerusform>
+            <numerusform>%n entries that the device panels add (see Ticket)</numerusform>
+        </translation>
+    </message>
+    <!-- Pages that do not fit: %1 is their numbers, %2 the paper, %n how many pages -->
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the paper, %2: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Page %1 is larger than the paper, %2: what does not fit is cut off.</numerusform>
+            <numerusform>Pages %1 are larger than the paper, %2: what does not fit is cut off.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Preview</name>
+    <!-- %1 is "Insert" -->
+    <message numerus="yes">
+        <source>%1, %n sheet(s)</source>
+        <translation>
+            <numerusform>%1, %n sheets</numerusform>
+            <numerusform>%1, %n sheets</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Window</name>
+    <!-- %1 is the first of several sentences -->
+    <message numerus="yes">
+        <source>%1 (and %n more)</source>
+        <translation>
+            <numerusform>%1 (and %n more)</numerusform>
+            <numerusform>%1 (and %n more)</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
