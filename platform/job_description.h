@@ -20,13 +20,14 @@ namespace kelvo {
 // One thing that the job says. Texts are plain, in the user's language, on one line.
 struct DescribedSetting
 {
-    TicketPlace place;      // where the ticket has it, or would have it
-    QString label;          // "Paper Color", without a colon
-    QString words;          // "Salmon"
-    QString panel;          // the panel that sets it, as scripts name it: "PaperOutput"
-    ControlID control;      // and the control there
-    bool isDefault = false; // the device does it by itself
-    bool isSecret = false;  // there is something; `words` do not say what
+    TicketPlace place;           // where the ticket has it, or would have it
+    QString label;               // "Paper Color", without a colon
+    QString words;               // "Salmon"
+    QString panel;               // the panel that sets it, as scripts name it: "PaperOutput"
+    ControlID control;           // and the control there
+    bool isDefault = false;      // the device does it by itself
+    bool isOnlyInTicket = false; // though `place` is a choice: no PPD has one for it
+    bool isSecret = false;       // there is something; `words` do not say what
     // Entries of the print settings that hold the same choice, and are read before it: who
     // sets it from outside takes them away, or it would not last.
     QStringList repeats = {};

@@ -146,16 +146,17 @@ QString lineOf(const DescribedSetting &setting)
     return translate("Job", "%1: %2").arg(setting.label, setting.words);
 }
 
-bool isEntry(const TicketPlace &place)
+// Nothing but the ticket tells the device.
+bool isOnlyInTicket(const DescribedSetting &setting)
 {
-    return place.first() != kPPDChoices;
+    return setting.isOnlyInTicket || setting.place.first() != kPPDChoices;
 }
 
 // What the panels set, as their bundle says it.
 void addDescribed(const JobDescription &description, bool readsTickets, JobWords &words)
 {
     for (const DescribedSetting &setting : description.settings) {
-        if (readsTickets || !isEntry(setting.place))
+        if (readsTickets || !isOnlyInTicket(setting))
             (setting.isDefault ? words.defaults : words.settings) << lineOf(setting);
     }
 }
@@ -219,7 +220,7 @@ QStringList entriesInWords(const JobDescription &description)
 {
     QStringList lines;
     for (const DescribedSetting &setting : description.settings) {
-        if (isEntry(setting.place) && !setting.isDefault)
+        if (isOnlyInTicket(setting) && !setting.isDefault)
             lines << lineOf(setting);
     }
     return lines;

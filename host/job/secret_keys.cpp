@@ -58,6 +58,8 @@ QVariant changedAt(const QVariant &value, const QStringList &steps, const Change
         for (int at = 0; at < elements->size(); ++at) {
             if (all || (isIndex && at == index))
                 (*elements)[at] = changedAt(elements->at(at), rest, change);
+            else if (!isIndex) // a list in a dictionary's place hides nothing
+                (*elements)[at] = changedAt(elements->at(at), steps, change);
         }
         elements->removeIf([](const QVariant &element) { return !element.isValid(); });
         return *elements;

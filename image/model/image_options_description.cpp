@@ -28,7 +28,8 @@ void describeLightness(const DescribedJob &job, PanelDescription &panel)
                .value_or(false);
     panel.leaveUnspoken("PrinterDefaultLightness");
     if (asksPrinter && job.device.hasOption(keyword))
-        panel.addOwnChoice(option, lightenDarkenText(job.device, kUnset), printerDefaultBox);
+        panel.addOwnChoice(option, "Lighten/Darken:", lightenDarkenText(job.device, kUnset),
+                           printerDefaultBox);
     else
         panel.addChoice(option, lightenDarkenField);
 }

@@ -11,6 +11,8 @@
 
 #include <QLocale>
 
+#include <algorithm>
+
 namespace kelvo {
 
 namespace {
@@ -24,6 +26,9 @@ constexpr std::int32_t outputColorPopup = 119;
 constexpr std::int32_t finishingButton = 123, moreFinishingButton = 128;
 constexpr std::int32_t outputDestinationPopup = 126;
 constexpr std::int32_t coversButton = 129, separatorsButton = 130;
+
+constexpr std::int32_t mostGutter = 216; // points, of the booklet's dialog
+constexpr std::int32_t mostCreep = 10;   // tenths, likewise
 
 QString mapText(const Device &device, const SettingMap *map, std::int32_t value)
 {
@@ -95,25 +100,39 @@ void describeJobType(const PaperOutputSettings &settings, PanelDescription &pane
     describeFax(settings, panel);
 }
 
+// What the stock alone can say of its type, also where its user has given it no name;
+// empty for a type that has a choice.
+QString ownTypeWords(const Device &device, const Stock &stock)
+{
+    const bool hasOwnType = hasTypeName(stock.type()) || stock.type() == kStockTypePrecutTab;
+    const bool hasTabNumber = hasTabs(stock.type()) && stock.modulus() > 0;
+    if (hasTypeName(stock.type()) && stock.customType().trimmed().isEmpty())
+        return labelText(
+            device, stock.type() == kStockTypeOrdered ? "StockTypeOrdered" : "StockTypeCustom");
+    return hasOwnType || hasTabNumber ? stockTypeText(device, stock) : QString();
+}
+
 // A color or type of the stock's own has no choice in any PPD, and the device's default
 // would be told in its stead.
 void describePaper(const PaperOutputSettings &settings, PanelDescription &panel)
 {
-    const DescribedJob &job = panel.job();
+    const Device &device = panel.job().device;
     const Stock &stock = settings.jobStock;
+    const auto addOwn = [&panel](const char *option, const char *labelKey, const QString &words) {
+        panel.addOwnChoice(option, labelKey, words, stockButton)->isOnlyInTicket = true;
+    };
     panel.add("JobLevelStock/CustomName", "Paper Name in Words", stock.customName(), stockButton);
     if (stock.color() == kStockColorCustom)
-        panel.addOwnChoice("MediaColor", stock.customColor(), stockButton);
+        addOwn("MediaColor", "Paper Color in Words",
+               stock.customColor().trimmed().isEmpty() ? labelText(device, "StockColorCustom")
+                                                       : stock.customColor());
     else
         panel.addChoice("MediaColor", stockButton);
-    const bool saysMore =
-        hasTypeName(stock.type()) || (hasTabs(stock.type()) && stock.modulus() > 0);
-    const QString type = saysMore ? stockTypeText(job.device, stock) : QString();
-    if (type.isEmpty())
-        panel.addChoice("MediaType", stockButton);
+    if (const QString type = ownTypeWords(device, stock); !type.isEmpty())
+        addOwn("MediaType", "Paper Type in Words", type);
     else
-        panel.addOwnChoice("MediaType", type, stockButton);
-    QStringList properties = stockPropertyLines(job.device.bundle, stock);
+        panel.addChoice("MediaType", stockButton);
+    QStringList properties = stockPropertyLines(device.bundle, stock);
     properties.replaceInStrings(QStringLiteral("- "), QString());
     panel.add("JobLevelStock", "Paper Properties in Words", properties.join(QStringLiteral(", ")),
               stockButton);
@@ -127,8 +146,8 @@ void describeSides(const PaperOutputSettings &settings, PanelDescription &panel)
     const auto choice = PPDChoiceForTicketValue(QStringLiteral("Duplex"), settings.duplex);
     DescribedSetting *line = panel.addChoice("Duplex", twoSidedPopup, choice);
     if (!line) {
-        line = panel.addOwnChoice("Duplex", mapText(device, PlexMap, kPlexSimplex), twoSidedPopup);
-        line->label = labelText(device, "Two Sided Printing:");
+        line = panel.addOwnChoice(
+            "Duplex", "Two Sided Printing:", mapText(device, PlexMap, kPlexSimplex), twoSidedPopup);
         line->isDefault = true;
     }
     line->repeats = {ticketKey("FinishingDuplex"),
@@ -141,8 +160,10 @@ void describeOffset(const Finishing &finishing, PanelDescription &panel)
 {
     const Device &device = panel.job().device;
     const OffsetSettings offset = offsetOf(finishing);
-    const QString name = mapText(device, OffsetMap, offset.offset);
-    const bool isSet = offset.offset != kOffsetNone && !name.isEmpty();
+    constexpr std::int32_t kOffsetUnset = 1; // what a panel writes by itself
+    const bool isSet = offset.offset != kOffsetNone && offset.offset != kOffsetUnset;
+    const QString known = mapText(device, OffsetMap, offset.offset);
+    const QString name = known.isEmpty() ? QString::number(offset.offset) : known;
     const QString words = offset.hasSubsets
         ? formatted(device.text("Offset with Subsets in Words"),
                     {name, QLocale().toString(offset.pagesPerSubset)})
@@ -157,17 +178,19 @@ void describeOffset(const Finishing &finishing, PanelDescription &panel)
         panel.leaveChoiceUnspoken("Jog");
 }
 
-const char *bindKey(std::int32_t bind)
+QString bindWords(const Device &device, std::int32_t bind)
 {
     switch (bind) {
+    case kBindNone:
+        return {};
     case kBindLeft:
-        return "Bind Left Edge";
+        return labelText(device, "Bind Left Edge");
     case kBindRight:
-        return "Bind Right Edge";
+        return labelText(device, "Bind Right Edge");
     case kBindTop:
-        return "Bind Top Edge";
-    default:
-        return nullptr;
+        return labelText(device, "Bind Top Edge");
+    default: // of a later day
+        return QString::number(bind);
     }
 }
 
@@ -179,8 +202,7 @@ void describeFinishing(const Finishing &finishing, PanelDescription &panel)
     panel.addChoice("KVFold", finishingButton);
     panel.leaveUnspoken("FinishingOptions"); // the same, as the menu counts it
     describeOffset(finishing, panel);
-    const char *bind = bindKey(finishing.bind);
-    panel.add("FinishingBindValue", "Bind:", bind ? labelText(device, bind) : QString(),
+    panel.add("FinishingBindValue", "Bind:", bindWords(device, finishing.bind),
               moreFinishingButton);
     panel.add("FinishingSlipSheet", "Slip Sheets in Words",
               finishing.slipSheet == 0 ? QString() : QString::number(finishing.slipSheet),
@@ -192,7 +214,10 @@ void describeBooklet(const PaperOutputSettings &settings, PanelDescription &pane
                      JobDescription &description)
 {
     const Device &device = panel.job().device;
-    const BookletLayout &layout = settings.bookletLayout;
+    // A ticket may say more than the booklet's dialog does.
+    BookletLayout layout = settings.bookletLayout;
+    layout.gutter = std::clamp(layout.gutter, 0, mostGutter);
+    layout.creep = std::clamp(layout.creep, 0, mostCreep);
     const bool drawsBorders = layout.pageBorders != 1;
     const QString words =
         formatted(device.text(drawsBorders ? "Booklet with Borders in Words" : "Booklet in Words"),

@@ -5,6 +5,7 @@
 #include "insert.h"
 #include "ppd_words.h"
 #include "setting_maps.h"
+#include "special_pages_summary.h"
 #include "string_table.h"
 #include "ticket_values.h"
 
@@ -91,28 +92,37 @@ QList<SpecialSheets::Exception> exceptionsFrom(const Array &list)
     return exceptions;
 }
 
-QString rangeWords(const Device &device, const QVariant &range)
+QString insertWords(const Device &device, const Dictionary &form)
 {
-    const Dictionary in = dictionary(range).value_or(Dictionary());
-    const auto first = integer64(in, kStartPageKey);
-    const auto last = integer64(in, kEndPageKey);
-    if (!first || !last)
-        return QStringLiteral("?");
-    const QString begin = QString::number(*first);
-    if (*last < *first)
-        return formatted(device.text("No Page in Words"), {begin});
-    return first == last ? begin : begin + u'–' + QString::number(*last);
+    const Insert insert(form);
+    const QString what = attributesText(insert, device);
+    return insert.startPage() < 1
+        ? formatted(device.text("Insert before Page 1 in Words"), {what})
+        : formatted(device.text("Insert in Words"), {QString::number(insert.startPage()), what});
 }
 
-// Of many ranges the first few.
-QString rangesWords(const Device &device, const Array &list)
+QString exceptionWords(const Device &device, const Dictionary &form)
+{
+    const ExceptionPage exception(form);
+    const QString first = QString::number(exception.startPage());
+    const QString pages = exception.endPage() == exception.startPage() || !exception.coversPages()
+        ? first
+        : first + u'–' + QString::number(exception.endPage());
+    return QStringLiteral("%1 (%2)").arg(pages, attributesText(exception, device));
+}
+
+// Each page in words; of many the first few.
+QString listWords(const Device &device, const Array &list,
+                  QString (*pageWords)(const Device &, const Dictionary &))
 {
     constexpr qsizetype mostListed = 8;
-    QStringList ranges;
-    for (const QVariant &range : list.first(std::min(list.size(), mostListed)))
-        ranges << rangeWords(device, range);
-    const QString listed = ranges.join(QStringLiteral(", "));
-    const qsizetype left = list.size() - ranges.size();
+    QStringList pages;
+    for (const QVariant &each : list.first(std::min(list.size(), mostListed))) {
+        const auto form = dictionary(each);
+        pages << (form ? pageWords(device, *form) : QStringLiteral("?"));
+    }
+    const QString listed = pages.join(QStringLiteral(", "));
+    const qsizetype left = list.size() - pages.size();
     return left == 0
         ? listed
         : formatted(device.text("More Pages in Words"), {listed, QString::number(left)});
@@ -134,10 +144,10 @@ void describeSpecialPages(const DescribedJob &job, JobDescription &description)
     const Array exceptions = listIn(job, exceptionsName);
 
     PanelDescription panel(job, "SpecialPages", description);
-    panel.add(insertsName, "Inserts in Words",
-              inserts.isEmpty() ? QString() : QString::number(inserts.size()), specialPagesList);
-    panel.add(exceptionsName, "Exception Pages in Words", rangesWords(device, exceptions),
+    panel.add(insertsName, "Inserts in Words", listWords(device, inserts, insertWords),
               specialPagesList);
+    panel.add(exceptionsName, "Exception Pages in Words",
+              listWords(device, exceptions, exceptionWords), specialPagesList);
 
     SpecialSheets &sheets = description.sheets;
     sheets.frontCover = coverOf(job, QStringLiteral("KVFrontCoverSheet"));

@@ -173,6 +173,9 @@ void TestDescribeJob::saysWhatIsSet_data()
                                  {"Weight", 120}}}})
         << QStringList{"Paper name: Deeds", "Paper Color: Salmon", "Paper Type: Parchment",
                        "Paper properties: 120 g/m²"};
+    QTest::newRow("paper without the names of its own")
+        << ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"Type", 7}}}})
+        << QStringList{"Paper Color: Custom color", "Paper Type: Custom type"};
     QTest::newRow("a stock that choices overrule")
         << ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}}}},
                     {{"MediaColor", "Blue"}})
@@ -194,6 +197,12 @@ void TestDescribeJob::saysWhatIsSet_data()
     QTest::newRow("a booklet") << ticketOf({{"BookletLayout", true}, {"Gutter", 36}, {"Creep", 5}})
                                << QStringList{"Booklet layout: gutter 36 pt, creep 0.5"};
 
+    QTest::newRow("a booklet beyond its dialog")
+        << ticketOf({{"BookletLayout", true}, {"Gutter", -9}, {"Creep", 2'000'000'000}})
+        << QStringList{"Booklet layout: gutter 0 pt, creep 1"};
+    QTest::newRow("values of later days")
+        << ticketOf({{"FinishingOffset", 77}, {"FinishingBindValue", 99}})
+        << QStringList{"Offset: 77", "Bind: 99"};
     QTest::newRow("the printer's own lightness") << ticketOf({{"PrinterDefaultLightness", true}})
                                                  << QStringList{"Lighten/Darken: Printer default"};
     QTest::newRow("inverted") << ticketOf(
@@ -201,11 +210,13 @@ void TestDescribeJob::saysWhatIsSet_data()
                               << QStringList{"Invert image: Mirror image",
                                              "Invert image: Negative image"};
     QTest::newRow("special pages")
-        << pagesOf(Array{insert(1, 1), insert(9, 2)},
-                   Array{exception(5, 8), exception(12, 12), exception(5, 0), "?"},
+        << pagesOf(Array{insert(1, 1), insert(0, 30)},
+                   Array{exception(5, 8, 2), exception(12, 12), exception(5, 0), "?"},
                    {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}})
-        << QStringList{"Front Cover Source: Tray 1", "Inserts: 2",
-                       "Exception pages: 5–8, 12, 5 (no page), ?"};
+        << QStringList{"Front Cover Source: Tray 1",
+                       "Inserts: after page 1 (Sheets [1]), before page 1 (Sheets [30])",
+                       "Exception pages: 5–8 (2-sided print), 12 (Use job setting),"
+                       " 5 (Covers no page), ?"};
 }
 
 void TestDescribeJob::saysWhatIsSet()
@@ -351,14 +362,19 @@ void TestDescribeJob::findsNothingOnOtherDevices()
 {
     const auto other = PpdFile::open(QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd"));
     QVERIFY(other);
-    const Ticket ticket = pagesOf(Array{insert(1, 1)}, Array{exception(1, 1)},
-                                  {{"KVFrontCoverSheet", "Tray1"}, {"Duplex", "DuplexTumble"}});
+    Ticket ticket = pagesOf(Array{insert(1, 1)}, Array{exception(1, 1)},
+                            {{"KVFrontCoverSheet", "Tray1"}, {"Duplex", "DuplexTumble"}});
+    ticket.entries[keyOf("JobLevelStock")] = {Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}},
+                                              "test"};
     for (const PpdFile *ppd : {static_cast<const PpdFile *>(other.value().get()),
                                static_cast<const PpdFile *>(nullptr)}) {
         const JobDescription description = describe(ticket, ppd);
         QCOMPARE(description.sheets, SpecialSheets());
         // What is lost there is said all the same.
-        QVERIFY(linesOf(description, false).contains("Inserts: 1"));
+        QVERIFY(!linesOf(description, false).filter("Inserts: after page 1").isEmpty());
+        const DescribedSetting *color = lineAt(description, {kPPDChoices, "MediaColor"});
+        QVERIFY(color && color->isOnlyInTicket
+                && color->label.compare("paper color", Qt::CaseInsensitive) == 0);
         QVERIFY(!lineAt(description, {kPPDChoices, "KVFrontCoverSheet"}));
     }
 }

@@ -268,7 +268,9 @@ void TestStories::sendsDividersToAQueue()
     const Run run = desk.run({"-d", "Hall-3", "--no-window", "--script", example, documentPath});
     QENDED(run, 0);
     QCOMPARE(run.messages(), QStringList());
-    for (const char *words : {"Front Cover Source: Tray 1", "Inserts: 2", "Exception pages: 5"})
+    for (const char *words :
+         {"Front Cover Source: Tray 1", "Inserts: after page 2 (Sheets [1]; Blue), ",
+          "Exception pages: 5 (Yellow)\n"})
         QVERIFY2(run.out.contains(words), qPrintable(run.out));
 
     const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
@@ -478,7 +480,9 @@ void TestStories::countsSheetsAsThePrinterDoes()
     const Run run = desk.run({"--ppd", "two-sided.ppd", "--no-window", "--ticket-in",
                               "special.plist", "--script", "s.kps", documentPath});
     QENDED(run, 0);
-    QVERIFY2(run.out.contains("Inserts: 1\n  Exception pages: 5–6\n"), qPrintable(run.out));
+    QVERIFY2(run.out.contains("Inserts: after page 1 (Sheets [2])\n"
+                              "  Exception pages: 5–6 (1-sided print)\n"),
+             qPrintable(run.out));
 }
 
 void TestStories::saysThatItsPanelsAreDamaged()

@@ -101,5 +101,13 @@
         <source>Paper Properties in Words</source>
         <translation>Paper properties:</translation>
     </message>
+    <message>
+        <source>Paper Color in Words</source>
+        <translation>Paper color:</translation>
+    </message>
+    <message>
+        <source>Paper Type in Words</source>
+        <translation>Paper type:</translation>
+    </message>
 </context>
 </TS>

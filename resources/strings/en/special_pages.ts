@@ -318,10 +318,6 @@
         <translation>Exception pages:</translation>
     </message>
     <message>
-        <source>No Page in Words</source>
-        <translation>%1 (no page)</translation>
-    </message>
-    <message>
         <source>More Pages in Words</source>
         <translation>%1 and %2 more</translation>
     </message>
@@ -332,6 +328,14 @@
     <message>
         <source>Exception in Preview</source>
         <translation>exception %1</translation>
+    </message>
+    <message>
+        <source>Insert in Words</source>
+        <translation>after page %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Insert before Page 1 in Words</source>
+        <translation>before page 1 (%1)</translation>
     </message>
 </context>
 </TS>

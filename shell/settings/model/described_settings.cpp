@@ -79,14 +79,14 @@ DescribedSetting *PanelDescription::addChoice(const char *option, std::int32_t c
                  .isDefault = choice == known->defaultChoice});
 }
 
-DescribedSetting *PanelDescription::addOwnChoice(const char *option, const QString &words,
-                                                 std::int32_t control)
+DescribedSetting *PanelDescription::addOwnChoice(const char *option, const char *labelKey,
+                                                 const QString &words, std::int32_t control)
 {
     const TicketPlace place = placeOfChoice(option);
     const PpdOption *known =
         m_job.device.ppd ? m_job.device.ppd->findOption(place.last()) : nullptr;
     return push({.place = place,
-                 .label = known ? optionWords(*known) : place.last(),
+                 .label = known ? optionWords(*known) : labelText(m_job.device, labelKey),
                  .words = words.simplified(),
                  .control = {0, control}});
 }

@@ -36,8 +36,10 @@ public:
     // it is unspoken.
     DescribedSetting *addChoice(const char *option, std::int32_t control,
                                 const std::optional<QString> &choice = {});
-    // The same with a text of the job's own in place of the choice's.
-    DescribedSetting *addOwnChoice(const char *option, const QString &words, std::int32_t control);
+    // The same with a text of the job's own in place of the choice's. `labelKey` is for a
+    // device that lacks the option.
+    DescribedSetting *addOwnChoice(const char *option, const char *labelKey, const QString &words,
+                                   std::int32_t control);
 
     // Nothing is to be said of it.
     void leaveUnspoken(const char *name);

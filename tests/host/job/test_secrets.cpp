@@ -58,6 +58,8 @@ void TestSecrets::areFoundByTheirPaths_data()
     QTest::newRow("all below") << "People" << QStringList{"c0de", "030", "42"};
     QTest::newRow("a whole entry") << "Plain" << QStringList{"open"};
     QTest::newRow("below a text") << "Plain/Password" << QStringList();
+    QTest::newRow("in lists where a dictionary was meant")
+        << "People/Code" << QStringList{"c0de", "42"};
     QTest::newRow("unknown") << "Nothing/Password" << QStringList();
     QTest::newRow("empty path") << "" << QStringList();
 }
@@ -203,10 +205,16 @@ void TestSecrets::wordsStayInBounds()
         {.place = {kPMPrintSettingsTicket, "Text"},
          .label = "Text",
          .words = "as ever",
-         .isDefault = true}};
+         .isDefault = true},
+        {.place = {kPPDChoices, "MediaColor"},
+         .label = "Paper",
+         .words = "Salmon",
+         .isOnlyInTicket = true}};
     const JobWords words = describeJob(ticketOf({{"Pages", pages}, {"Text", QString(600, u'x')}}),
                                        {}, nullptr, {}, description, {});
-    QCOMPARE(words.notSent, QStringList{"Pages: many – this printer reads no tickets"});
+    QCOMPARE(words.notSent,
+             (QStringList{"Pages: many – this printer reads no tickets",
+                          "Paper: Salmon – this printer reads no tickets"}));
     QCOMPARE(words.ticket.size(), 2);
     for (const QString &line : words.ticket) {
         QVERIFY(line.size() < 600);
