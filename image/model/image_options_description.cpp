@@ -1,5 +1,6 @@
 #include "image_options_description.h"
 
+#include "image_options_controls.h"
 #include "image_options_summary.h"
 #include "invert_image.h"
 #include "ppd_choices.h"
@@ -8,15 +9,6 @@
 namespace kelvo {
 
 namespace {
-
-// KPDE numbers of the panel's controls.
-constexpr std::int32_t printerDefaultBox = 1109;
-constexpr std::int32_t lightenDarkenField = 1104;
-constexpr std::int32_t imageQualityPopup = 1202;
-constexpr std::int32_t tonerSaverBox = 1302;
-constexpr std::int32_t cmykSourceColorPopup = 1902;
-constexpr std::int32_t outputColorCorrectionPopup = 2002;
-constexpr std::int32_t mirrorBox = 2103;
 
 // No choice of the lightness means the PPD's default, unless the printer's own was asked for.
 void describeLightness(const DescribedJob &job, PanelDescription &panel)
@@ -29,9 +21,9 @@ void describeLightness(const DescribedJob &job, PanelDescription &panel)
     panel.leaveUnspoken("PrinterDefaultLightness");
     if (asksPrinter && job.device.hasOption(keyword))
         panel.addOwnChoice(option, "Lighten/Darken:", lightenDarkenText(job.device, kUnset),
-                           printerDefaultBox);
+                           kPrinterDefaultBox);
     else
-        panel.addChoice(option, lightenDarkenField);
+        panel.addChoice(option, kLightenDarkenField);
 }
 
 void describeInvertedImage(const DescribedJob &job, PanelDescription &panel)
@@ -45,9 +37,9 @@ void describeInvertedImage(const DescribedJob &job, PanelDescription &panel)
         return isOn ? labelText(job.device, key) : QString();
     };
     panel.add("InvertImageOptions/MirrorImage", "Invert Image Label",
-              words(invert.mirror, "Mirror Image Title"), mirrorBox);
+              words(invert.mirror, "Mirror Image Title"), kMirrorBox);
     panel.add("InvertImageOptions/NegativeImage", "Invert Image Label",
-              words(invert.negative, "Negative Image Title"), mirrorBox);
+              words(invert.negative, "Negative Image Title"), kMirrorBox);
 }
 
 } // namespace
@@ -56,10 +48,10 @@ void describeImageOptions(const DescribedJob &job, JobDescription &description)
 {
     PanelDescription panel(job, "ImageOptions", description);
     describeLightness(job, panel);
-    panel.addChoice("KVOutputMode", imageQualityPopup);
-    panel.addChoice("KVEconomode", tonerSaverBox);
-    panel.addChoice("KVCMYKColorSpace", cmykSourceColorPopup);
-    panel.addChoice("KVColorCorrection", outputColorCorrectionPopup);
+    panel.addChoice("KVOutputMode", kImageQualityPopup);
+    panel.addChoice("KVEconomode", kTonerSaverBox);
+    panel.addChoice("KVCMYKColorSpace", kCmykSourceColorPopup);
+    panel.addChoice("KVColorCorrection", kOutputColorCorrectionPopup);
     describeInvertedImage(job, panel);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image_options_controls.h"
 #include "image_options_settings.h"
 #include "invert_image_controls.h"
 #include "panel_context.h"
@@ -16,10 +17,7 @@
 // between them and the context.
 namespace kelvo {
 
-// KPDE numbers that events are told apart by.
-inline constexpr std::int32_t kLightenDarkenSlider = 1102;
-inline constexpr std::int32_t kLightenDarkenField = 1104;
-inline constexpr std::int32_t kShowAgain = 1004; // another control; the panel shows itself again
+inline constexpr std::int32_t kShowAgain = 1004; // KPDE, no setting; the panel shows itself again
 
 // Null until they are built.
 struct ImageOptionsControls

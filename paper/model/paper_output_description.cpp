@@ -1,6 +1,7 @@
 #include "paper_output_description.h"
 
 #include "finishing_offset.h"
+#include "paper_output_controls.h"
 #include "paper_output_settings.h"
 #include "ppd_choices.h"
 #include "setting_maps.h"
@@ -16,16 +17,6 @@
 namespace kelvo {
 
 namespace {
-
-// KPDE numbers of the panel's controls.
-constexpr std::int32_t jobTypePopup = 102, jobTypeSetupButton = 103;
-constexpr std::int32_t stockButton = 106;
-constexpr std::int32_t twoSidedPopup = 110;
-constexpr std::int32_t staplingPopup = 113, holePunchPopup = 116;
-constexpr std::int32_t outputColorPopup = 119;
-constexpr std::int32_t finishingButton = 123, moreFinishingButton = 128;
-constexpr std::int32_t outputDestinationPopup = 126;
-constexpr std::int32_t coversButton = 129, separatorsButton = 130;
 
 constexpr std::int32_t mostGutter = 216; // points, of the booklet's dialog
 constexpr std::int32_t mostCreep = 10;   // tenths, likewise
@@ -48,7 +39,7 @@ void describePasscode(const PaperOutputSettings &settings, PanelDescription &pan
     const bool isSet = settings.passcode && !settings.passcode->isEmpty();
     DescribedSetting *line = panel.add(
         "JobType/SecurePrintPassword", "Passcode in Words",
-        isSet ? panel.job().device.text("Passcode Is Set") : QString(), jobTypeSetupButton);
+        isSet ? panel.job().device.text("Passcode Is Set") : QString(), kJobTypeSetupButton);
     if (line)
         line->isSecret = true;
 }
@@ -59,7 +50,7 @@ void describeSavedJob(const PaperOutputSettings &settings, PanelDescription &pan
     const SavedJob &saved = settings.savedJob;
     const bool isSaved = settings.jobType == kJobTypeSaved;
     const auto add = [&](const char *name, const char *labelKey, const QString &words) {
-        panel.add(name, labelKey, isSaved ? words : QString(), jobTypeSetupButton);
+        panel.add(name, labelKey, isSaved ? words : QString(), kJobTypeSetupButton);
     };
     add("JobType/SavedJobName", "Job Name:", saved.usesJobName ? QString() : saved.name);
     add("JobType/SavedJobLocation", "Mailbox in Words", mailboxText(saved));
@@ -74,27 +65,27 @@ void describeFax(const PaperOutputSettings &settings, PanelDescription &panel)
     const Device &device = panel.job().device;
     const qsizetype recipients = settings.faxRecipients ? settings.faxRecipients->size() : 0;
     panel.add("FaxRecipientList", "Fax Recipients in Words",
-              recipients > 0 ? QString::number(recipients) : QString(), jobTypeSetupButton);
+              recipients > 0 ? QString::number(recipients) : QString(), kJobTypeSetupButton);
     panel.leaveUnspoken("FaxOptions");
     const Dictionary options = settings.faxOptions.value_or(Dictionary());
     const bool hasCard =
         !string(options, QStringLiteral("CreditCard")).value_or(QString()).isEmpty();
     if (DescribedSetting *line =
             panel.add("FaxOptions/CreditCard", "Credit Card in Words",
-                      hasCard ? device.text("Passcode Is Set") : QString(), jobTypeSetupButton))
+                      hasCard ? device.text("Passcode Is Set") : QString(), kJobTypeSetupButton))
         line->isSecret = true;
 }
 
 void describeJobType(const PaperOutputSettings &settings, PanelDescription &panel)
 {
     const Device &device = panel.job().device;
-    panel.add("JobType/JobType", "Job Type:", jobTypeWords(device, settings.jobType), jobTypePopup,
+    panel.add("JobType/JobType", "Job Type:", jobTypeWords(device, settings.jobType), kJobTypePopup,
               settings.jobType == kJobTypeNormal);
     const bool hasTime = settings.jobType == kJobTypeDelayedPrint && settings.delayedPrintTime != 0;
     panel.add("JobType/DelayedPrintTime", "TimeToPrint:",
               hasTime ? QLocale().toString(timeOf(settings.delayedPrintTime), QLocale::ShortFormat)
                       : QString(),
-              jobTypeSetupButton);
+              kJobTypeSetupButton);
     describePasscode(settings, panel);
     describeSavedJob(settings, panel);
     describeFax(settings, panel);
@@ -119,23 +110,23 @@ void describePaper(const PaperOutputSettings &settings, PanelDescription &panel)
     const Device &device = panel.job().device;
     const Stock &stock = settings.jobStock;
     const auto addOwn = [&panel](const char *option, const char *labelKey, const QString &words) {
-        panel.addOwnChoice(option, labelKey, words, stockButton)->isOnlyInTicket = true;
+        panel.addOwnChoice(option, labelKey, words, kStockButton)->isOnlyInTicket = true;
     };
-    panel.add("JobLevelStock/CustomName", "Paper Name in Words", stock.customName(), stockButton);
+    panel.add("JobLevelStock/CustomName", "Paper Name in Words", stock.customName(), kStockButton);
     if (stock.color() == kStockColorCustom)
         addOwn("MediaColor", "Paper Color in Words",
                stock.customColor().trimmed().isEmpty() ? labelText(device, "StockColorCustom")
                                                        : stock.customColor());
     else
-        panel.addChoice("MediaColor", stockButton);
+        panel.addChoice("MediaColor", kStockButton);
     if (const QString type = ownTypeWords(device, stock); !type.isEmpty())
         addOwn("MediaType", "Paper Type in Words", type);
     else
-        panel.addChoice("MediaType", stockButton);
+        panel.addChoice("MediaType", kStockButton);
     QStringList properties = stockPropertyLines(device.bundle, stock);
     properties.replaceInStrings(QStringLiteral("- "), QString());
     panel.add("JobLevelStock", "Paper Properties in Words", properties.join(QStringLiteral(", ")),
-              stockButton);
+              kStockButton);
 }
 
 // As panels read it: their own entries rule. A device without the option prints on one
@@ -144,10 +135,11 @@ void describeSides(const PaperOutputSettings &settings, PanelDescription &panel)
 {
     const Device &device = panel.job().device;
     const auto choice = PPDChoiceForTicketValue(QStringLiteral("Duplex"), settings.duplex);
-    DescribedSetting *line = panel.addChoice("Duplex", twoSidedPopup, choice);
+    DescribedSetting *line = panel.addChoice("Duplex", kTwoSidedPopup, choice);
     if (!line) {
-        line = panel.addOwnChoice(
-            "Duplex", "Two Sided Printing:", mapText(device, PlexMap, kPlexSimplex), twoSidedPopup);
+        line = panel.addOwnChoice("Duplex",
+                                  "Two Sided Printing:", mapText(device, PlexMap, kPlexSimplex),
+                                  kTwoSidedPopup);
         line->isDefault = true;
     }
     line->repeats = {ticketKey("FinishingDuplex"),
@@ -168,7 +160,7 @@ void describeOffset(const Finishing &finishing, PanelDescription &panel)
         ? formatted(device.text("Offset with Subsets in Words"),
                     {name, QLocale().toString(offset.pagesPerSubset)})
         : name;
-    panel.add("FinishingOffset", "Offset:", isSet ? words : QString(), moreFinishingButton);
+    panel.add("FinishingOffset", "Offset:", isSet ? words : QString(), kMoreFinishingButton);
     panel.leaveUnspoken("FinishingOffsetEnableSubset");
     panel.leaveUnspoken("FinishingOffsetPagesPerSubset");
     const QString ofDevice = QStringLiteral("Jog");
@@ -197,17 +189,17 @@ QString bindWords(const Device &device, std::int32_t bind)
 void describeFinishing(const Finishing &finishing, PanelDescription &panel)
 {
     const Device &device = panel.job().device;
-    panel.addChoice("StapleLocation", staplingPopup);
-    panel.addChoice("KVPunch", holePunchPopup);
-    panel.addChoice("KVFold", finishingButton);
+    panel.addChoice("StapleLocation", kStaplingPopup);
+    panel.addChoice("KVPunch", kHolePunchPopup);
+    panel.addChoice("KVFold", kFinishingButton);
     panel.leaveUnspoken("FinishingOptions"); // the same, as the menu counts it
     describeOffset(finishing, panel);
     panel.add("FinishingBindValue", "Bind:", bindWords(device, finishing.bind),
-              moreFinishingButton);
+              kMoreFinishingButton);
     panel.add("FinishingSlipSheet", "Slip Sheets in Words",
               finishing.slipSheet == 0 ? QString() : QString::number(finishing.slipSheet),
-              moreFinishingButton);
-    panel.add("FinishingCustom", "Custom Finishing", finishing.custom, moreFinishingButton);
+              kMoreFinishingButton);
+    panel.add("FinishingCustom", "Custom Finishing", finishing.custom, kMoreFinishingButton);
 }
 
 void describeBooklet(const PaperOutputSettings &settings, PanelDescription &panel,
@@ -223,7 +215,7 @@ void describeBooklet(const PaperOutputSettings &settings, PanelDescription &pane
         formatted(device.text(drawsBorders ? "Booklet with Borders in Words" : "Booklet in Words"),
                   {QLocale().toString(layout.gutter), QLocale().toString(layout.creep / 10.0)});
     panel.add("BookletLayout", "Booklet Layout", settings.isBooklet() ? words : QString(),
-              finishingButton);
+              kFinishingButton);
     for (const char *name : {"BookletDrawOutlines", "BookletForceNewSize", "Gutter", "Creep"})
         panel.leaveUnspoken(name);
     if (settings.isBooklet())
@@ -243,14 +235,14 @@ void describePaperOutput(const DescribedJob &job, JobDescription &description)
     describeJobType(settings, panel);
     describePaper(settings, panel);
     describeSides(settings, panel);
-    panel.addChoice("KVColorMode", outputColorPopup);
+    panel.addChoice("KVColorMode", kOutputColorPopup);
     describeFinishing(settings.finishing, panel);
     describeBooklet(settings, panel, description);
-    panel.addChoice("OutputBin", outputDestinationPopup);
-    panel.addChoice("KVFrontCoverSheet", coversButton);
-    panel.addChoice("KVBackCoverSheet", coversButton);
-    panel.addChoice("KVSlipSheetPrint", separatorsButton);
-    panel.addChoice("KVSlipSheetSource", separatorsButton);
+    panel.addChoice("OutputBin", kOutputDestinationPopup);
+    panel.addChoice("KVFrontCoverSheet", kCoversButton);
+    panel.addChoice("KVBackCoverSheet", kCoversButton);
+    panel.addChoice("KVSlipSheetPrint", kSeparatorsButton);
+    panel.addChoice("KVSlipSheetSource", kSeparatorsButton);
 }
 
 } // namespace kelvo

@@ -2,6 +2,7 @@
 
 #include "menu_button.h"
 #include "panel_context.h"
+#include "paper_output_controls.h"
 #include "paper_output_settings.h"
 #include "picture_view.h"
 #include "popup_button.h"
@@ -17,15 +18,6 @@ class QPushButton;
 // What the Paper/Output panel shows: its controls, what fills them and what they
 // say of the context. Nothing here decides anything.
 namespace kelvo {
-
-// KPDE numbers of the controls that the user changes.
-inline constexpr std::int32_t kJobTypePopup = 102;
-inline constexpr std::int32_t kJobTypeSetupButton = 103;
-inline constexpr std::int32_t kTwoSidedPopup = 110;
-inline constexpr std::int32_t kStaplingPopup = 113;
-inline constexpr std::int32_t kHolePunchPopup = 116;
-inline constexpr std::int32_t kOutputColorPopup = 119;
-inline constexpr std::int32_t kOutputDestinationPopup = 126;
 
 // Null until they are built, and while the panel is closed.
 struct PaperOutputControls

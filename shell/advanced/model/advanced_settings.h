@@ -30,10 +30,11 @@ struct AdvancedChoice
 {
     const char *option; // of the PPD
     std::int32_t AdvancedSettings::*value;
+    std::int32_t control; // KPDE, its pop-up
 };
-inline constexpr AdvancedChoice kBannerChoice{"JCLBanner", &AdvancedSettings::banner};
-inline constexpr AdvancedChoice kOffsetChoice{"Jog", &AdvancedSettings::offset};
-inline constexpr AdvancedChoice kFeedEdgeChoice{"KVFeedEdge", &AdvancedSettings::feedEdge};
+inline constexpr AdvancedChoice kBannerChoice{"JCLBanner", &AdvancedSettings::banner, 614};
+inline constexpr AdvancedChoice kOffsetChoice{"Jog", &AdvancedSettings::offset, 616};
+inline constexpr AdvancedChoice kFeedEdgeChoice{"KVFeedEdge", &AdvancedSettings::feedEdge, 702};
 
 // The settings become what the ticket says, else the PPD's defaults: nothing of an
 // earlier ticket stays.

@@ -25,15 +25,14 @@ struct PpdRow
 {
     AdvancedChoice choice;
     QPointer<PopupButton> AdvancedControls::*popup;
-    std::int32_t popupNumber; // KPDE
-    std::int32_t hintNumber;  // KPDE, the text below the pop-up
+    std::int32_t hintNumber; // KPDE, the text below the pop-up
     const char *hintKey;
 };
 
 const std::array kPpdRows = {
-    PpdRow{kBannerChoice, &AdvancedControls::banner, 614, 6141, "Banner Sheet Hint"},
-    PpdRow{kOffsetChoice, &AdvancedControls::offset, 616, 6161, "Request Offset Hint"},
-    PpdRow{kFeedEdgeChoice, &AdvancedControls::feedEdge, 702, 7021, "Bypass Feed Edge Hint"},
+    PpdRow{kBannerChoice, &AdvancedControls::banner, 6141, "Banner Sheet Hint"},
+    PpdRow{kOffsetChoice, &AdvancedControls::offset, 6161, "Request Offset Hint"},
+    PpdRow{kFeedEdgeChoice, &AdvancedControls::feedEdge, 7021, "Bypass Feed Edge Hint"},
 };
 
 // The orders of the map have one value: which of them was chosen cannot be read from
@@ -69,7 +68,7 @@ OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
     else if (event.control == kBookletOrderPopup)
         advanced.settings.bookletOrder = GetPopupButtonTicketValue(advanced.controls.bookletOrder);
     for (const PpdRow &row : kPpdRows) {
-        if (event.control.number != row.popupNumber)
+        if (event.control.number != row.choice.control)
             continue;
         advanced.settings.*row.choice.value =
             GetPopupButtonTicketValue(advanced.controls.*row.popup);
@@ -99,7 +98,7 @@ AdvancedControls findControls(NeededControls &needed)
     AdvancedControls controls;
     controls.bookletOrder = needed.find<PopupButton>(kBookletOrderPopup);
     for (const PpdRow &row : kPpdRows)
-        controls.*row.popup = needed.find<PopupButton>({kPanelSignature, row.popupNumber});
+        controls.*row.popup = needed.find<PopupButton>({kPanelSignature, row.choice.control});
     for (const int hint : kHints)
         needed.find<QLabel>({kPanelSignature, hint});
     needed.find(kAboutButton);
