@@ -18,10 +18,20 @@ void writeIfSet(Dictionary &dictionary, const QString &key, std::int32_t number)
 
 } // namespace
 
+std::int32_t endPageIn(const Dictionary &form)
+{
+    return integer32(form, kEndPageKey).value_or(0);
+}
+
+std::int32_t plexIn(const Dictionary &form)
+{
+    return integer32(form, kSidesImagedKey).value_or(kUnset);
+}
+
 ExceptionPage::ExceptionPage(const Dictionary &dictionary)
     : SpecialPage(dictionary)
-    , m_endPage(integer32(dictionary, kEndPageKey).value_or(0))
-    , m_plex(integer32(dictionary, kSidesImagedKey).value_or(kUnset))
+    , m_endPage(endPageIn(dictionary))
+    , m_plex(plexIn(dictionary))
     , m_lightenDarken(integer32(dictionary, lightenDarkenKey).value_or(kUnset))
 {
     ImageShiftInitialize(nullptr, nullptr, &m_imageShift);

@@ -5,7 +5,10 @@
 
 namespace kelvo {
 
-inline const QString kEndPageKey = QStringLiteral("EndPage"); // of the dictionary form
+// Of the dictionary form.
+inline const QString kEndPageKey = QStringLiteral("EndPage");
+std::int32_t endPageIn(const Dictionary &form);
+std::int32_t plexIn(const Dictionary &form); // kUnset: as the job
 
 // Pages startPage() to endPage(), both included, that are printed in another way
 // than the job. What is not set is as the job says. Its dictionary form adds

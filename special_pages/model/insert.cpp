@@ -4,9 +4,14 @@
 
 namespace kelvo {
 
+std::int32_t quantityIn(const Dictionary &form)
+{
+    return integer32(form, kQuantityKey).value_or(1);
+}
+
 Insert::Insert(const Dictionary &dictionary)
     : SpecialPage(dictionary)
-    , m_quantity(integer32(dictionary, kQuantityKey).value_or(1))
+    , m_quantity(quantityIn(dictionary))
 {
 }
 

@@ -4,7 +4,9 @@
 
 namespace kelvo {
 
-inline const QString kQuantityKey = QStringLiteral("Quantity"); // of the dictionary form
+// Of the dictionary form.
+inline const QString kQuantityKey = QStringLiteral("Quantity");
+std::int32_t quantityIn(const Dictionary &form);
 
 // Sheets put in between: `quantity` of them after page startPage(); 0 is before
 // page 1. Its dictionary form adds

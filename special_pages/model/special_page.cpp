@@ -17,8 +17,13 @@ Stock stockFrom(const std::optional<Dictionary> &dictionary)
 
 } // namespace
 
+std::int32_t startPageIn(const Dictionary &form)
+{
+    return integer32(form, kStartPageKey).value_or(0);
+}
+
 SpecialPage::SpecialPage(const Dictionary &dictionary)
-    : m_startPage(integer32(dictionary, kStartPageKey).value_or(0))
+    : m_startPage(startPageIn(dictionary))
     , m_stock(stockFrom(kelvo::dictionary(dictionary, stockKey)))
 {
 }

@@ -11,6 +11,7 @@ namespace kelvo {
 // Keys of dictionary forms; the sides are those of covers and of exception pages.
 inline const QString kStartPageKey = QStringLiteral("StartPage");
 inline const QString kSidesImagedKey = QStringLiteral("SidesImaged");
+std::int32_t startPageIn(const Dictionary &form);
 
 // A sheet of the job that is not like the others: its place and its paper. Pages are
 // told apart by identity: a copy is another page.

@@ -10,7 +10,6 @@
 #include "ticket_values.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace kelvo {
 
@@ -31,17 +30,6 @@ SpecialSheets::Cover coverOf(const DescribedJob &job, const QString &option)
     return *choice != kNoCoverChoice && known->findChoice(*choice) ? Sheet : None;
 }
 
-// A number of a ticket, brought within what pages can be counted with. Below zero
-// stays so.
-std::optional<int> numberIn(const Dictionary &dictionary, const QString &key)
-{
-    const auto number = integer64(dictionary, key);
-    if (!number)
-        return std::nullopt;
-    constexpr std::int64_t most = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp<std::int64_t>(*number, -1, most));
-}
-
 QList<SpecialSheets::Insert> insertsFrom(const Array &list)
 {
     QList<SpecialSheets::Insert> inserts;
@@ -50,10 +38,10 @@ QList<SpecialSheets::Insert> insertsFrom(const Array &list)
         const auto entries = dictionary(each);
         if (!entries)
             continue;
-        const int afterPage = numberIn(*entries, kStartPageKey).value_or(-1);
-        const int sheets = numberIn(*entries, kQuantityKey).value_or(1);
-        if (afterPage >= 0 && sheets >= 1)
-            inserts.append({afterPage, std::min(sheets, SpecialSheets::mostInsertSheets)});
+        const int sheets = quantityIn(*entries);
+        if (sheets >= 1)
+            inserts.append({std::max(startPageIn(*entries), 0),
+                            std::min(sheets, SpecialSheets::mostInsertSheets)});
     }
     std::stable_sort(inserts.begin(), inserts.end(),
                      [](const auto &a, const auto &b) { return a.afterPage < b.afterPage; });
@@ -69,14 +57,14 @@ QList<SpecialSheets::Exception> exceptionsFrom(const Array &list)
         if (!entries)
             continue;
         SpecialSheets::Exception exception;
-        exception.firstPage = numberIn(*entries, kStartPageKey).value_or(0);
-        exception.lastPage = numberIn(*entries, kEndPageKey).value_or(0);
-        if (exception.firstPage < 1 || exception.lastPage < exception.firstPage)
+        exception.firstPage = std::max(startPageIn(*entries), 1);
+        exception.lastPage = endPageIn(*entries);
+        if (exception.lastPage < exception.firstPage)
             continue;
-        const auto sides = integer64(*entries, kSidesImagedKey);
-        if (sides == kPlexSimplex)
+        const std::int32_t plex = plexIn(*entries);
+        if (plex == kPlexSimplex)
             exception.twoSided = false;
-        else if (sides == kPlexDuplex || sides == kPlexDuplexShort)
+        else if (plex == kPlexDuplex || plex == kPlexDuplexShort)
             exception.twoSided = true;
         exceptions.append(exception);
     }

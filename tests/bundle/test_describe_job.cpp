@@ -317,20 +317,23 @@ void TestDescribeJob::findsSpecialSheets_data()
                                                            {12, 99999, {}},
                                                            {100000, 100001, {}}}};
     QTest::newRow("inserts that are none")
-        << pagesOf(Array{insert(-1, 1), insert("2", 1), insert(2, 0), insert(2, -5), insert(2.5, 1),
-                         "2", QVariant(), Dictionary()},
-                   "none", none)
+        << pagesOf(Array{insert(2, 0), insert(2, -5), "2", QVariant()}, "none", none)
         << SpecialSheets();
+    QTest::newRow("inserts whose page is before page 1, as the panel reads them")
+        << pagesOf(Array{insert(-5, 1), insert("2", 2), insert(qint64(1) << 40, 3)}, {}, none)
+        << SpecialSheets{.inserts = {{0, 1}, {0, 2}, {0, 3}}};
     QTest::newRow("inserts brought within bounds")
-        << pagesOf(Array{insert(1, 10000), insert(qint64(1) << 40, qint64(1) << 40),
-                         Dictionary{{"StartPage", 2}}},
-                   {}, none)
+        << pagesOf(Array{insert(1, 10000), insert(most, most), Dictionary{{"StartPage", 2}}}, {},
+                   none)
         << SpecialSheets{.inserts = {{1, 9999}, {2, 1}, {most, 9999}}};
     QTest::newRow("exceptions that are none") << pagesOf(
-        {}, Array{exception(0, 3), exception(5, 4), exception(3, "4"), exception({}, 4)}, none)
+        {}, Array{exception(-5, 0), exception(5, 4), exception(3, "4"), Dictionary()}, none)
                                               << SpecialSheets();
+    QTest::newRow("exceptions that begin before page 1")
+        << pagesOf({}, Array{exception(0, 3), exception({}, 5), exception(5, 6)}, none)
+        << SpecialSheets{.exceptions = {{1, 3, {}}, {5, 6, {}}}};
     QTest::newRow("exceptions that overlap")
-        << pagesOf({}, Array{exception(4, qint64(1) << 40), exception(1, 4), exception(9, 9)}, none)
+        << pagesOf({}, Array{exception(4, most), exception(1, 4), exception(9, 9)}, none)
         << SpecialSheets{.exceptions = {{1, 4, {}}, {9, 9, {}}}};
 }
 
