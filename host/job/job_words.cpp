@@ -10,7 +10,6 @@
 #include <QDateTime>
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace kelvo {
@@ -200,18 +199,31 @@ void addOtherOptions(const PPDDictionary &choices, const PpdFile &ppd,
     }
 }
 
+// How much of what stands at `place` nobody has words for: a dictionary of which a part has
+// words is counted key by key.
+int wordlessIn(const QVariant &value, const TicketPlace &place, const TicketPlaces &spokenFor)
+{
+    const auto known = spokenFor.lower_bound(place);
+    if (known == spokenFor.end() || known->first(std::min(known->size(), place.size())) != place)
+        return 1;
+    const auto parts = dictionary(value);
+    if (*known == place || !parts)
+        return 0;
+    return static_cast<int>(
+        std::count_if(parts->keyBegin(), parts->keyEnd(), [&](const QString &key) {
+            return !spokenFor.contains(place + TicketPlace{key});
+        }));
+}
+
 // Entries of the print settings that are not the host's own, and that nobody has words for.
 int wordlessEntries(const Ticket &printSettings, const TicketPlaces &spokenFor)
 {
-    std::set<QString> keys;
-    for (const TicketPlace &place : spokenFor) {
-        if (place.first() == kPMPrintSettingsTicket)
-            keys.insert(place[1]);
+    int count = 0;
+    for (const auto &[key, entry] : printSettings.entries) {
+        if (!isHostEntry(key))
+            count += wordlessIn(entry.value, {kPMPrintSettingsTicket, key}, spokenFor);
     }
-    return static_cast<int>(std::count_if(
-        printSettings.entries.begin(), printSettings.entries.end(), [&keys](const auto &entry) {
-            return !isHostEntry(entry.first) && !keys.contains(entry.first);
-        }));
+    return count;
 }
 
 } // namespace

@@ -86,6 +86,8 @@ void describeJobType(const PaperOutputSettings &settings, PanelDescription &pane
               hasTime ? QLocale().toString(timeOf(settings.delayedPrintTime), QLocale::ShortFormat)
                       : QString(),
               kJobTypeSetupButton);
+    panel.leaveUnspoken("JobType/MediaType");  // kept as it came
+    panel.leaveUnspoken("JobType/UseJobName"); // the job's name says it
     describePasscode(settings, panel);
     describeSavedJob(settings, panel);
     describeFax(settings, panel);

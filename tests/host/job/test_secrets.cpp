@@ -138,7 +138,7 @@ void TestSecrets::neverStandInWords()
     QCOMPARE(words.settings,
              (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: Landscape",
                           "Pin: lucky", "Stapling: 2 Staples, Portrait",
-                          "1 entry that the device panels add (see Ticket)"}));
+                          "4 entries that the device panels add (see Ticket)"}));
     QCOMPARE(words.defaults.filter("Sides"), QStringList{"Sides: one"});
     QCOMPARE(words.defaults.filter("Page Size").size(), 1);
     QVERIFY(words.defaults.filter("Two-Sided").isEmpty()
