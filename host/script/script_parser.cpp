@@ -30,7 +30,7 @@ struct CommandRow
 
 // clang-format off
 constexpr CommandRow commandRows[] = {
-    {ScriptCommand::Panel, "panel", "W", {"panel NAME", QT_TRANSLATE_NOOP("Script", "shows a panel of the window, or a tab of the device by name: PaperOutput, ImageOptions, Advanced, SpecialPages")}},
+    {ScriptCommand::Panel, "panel", "W", {"panel NAME", QT_TRANSLATE_NOOP("Script", "shows a panel of the window, or a tab of the device, by name; a name that there is not lists them")}},
     {ScriptCommand::Tab, "tab", "N", {"tab N", QT_TRANSLATE_NOOP("Script", "shows the device's tab N, from 1")}},
     {ScriptCommand::Choose, "choose", "CI", {"choose CONTROL WHAT", QT_TRANSLATE_NOOP("Script", "picks an item of a pop-up; WHAT: 12, 'code', unset, key NAME, text \"…\", row 3")}},
     {ScriptCommand::Item, "item", "CKi", {"item CONTROL 'code' [WHAT]", QT_TRANSLATE_NOOP("Script", "picks the menu item with that command, submenus included")}},

@@ -441,10 +441,14 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     QWidget *window = front();
     const inspector::Found found = inspector::find(window, *line.control);
     if (!found.control) {
-        const QString nearest = inspector::nearestControl(window, *line.control);
         const QString where = window == target.window()
             ? translate("Script", "the window")
             : translate("Script", "the dialog \"%1\"").arg(window->windowTitle());
+        if (const QString place = target.placeOfUnshown(*line.control); !place.isEmpty())
+            return LineProblem{ExitStatus::NotOffered,
+                               translate("Script", "%1 is not in %2; it is in %3")
+                                   .arg(line.control->text(), where, place)};
+        const QString nearest = inspector::nearestControl(window, *line.control);
         return wrong(nearest.isEmpty()
                          ? translate("Script", "%1 is not in %2; \"controls\" lists what is")
                                .arg(line.control->text(), where)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exit_status.h"
+#include "inspector.h"
 #include "print_session.h"
 #include "result.h"
 #include "ticket_file.h"
@@ -36,6 +37,9 @@ public:
     // Which panel holds the control, in words ("tab 4, Advanced"), for errors about
     // a control that is not in the visible panel; empty when unknown.
     virtual QString placeOf(const QWidget *control) const = 0;
+    // Likewise for a control that is not in the front window: a panel or a dialog that has not
+    // been shown yet may have it.
+    virtual QString placeOfUnshown(const inspector::ControlName &) const { return {}; }
 
     virtual void sync(SyncDirection direction) = 0; // all panels
     virtual void pressPrint() = 0;                  // as the button; may open notices

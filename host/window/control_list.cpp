@@ -1,6 +1,5 @@
 #include "control_list.h"
 
-#include "inspector.h"
 #include "job_details_dialog.h"
 #include "preset_menu.h"
 #include "window_loader.h"
@@ -9,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 namespace kelvo {
 
@@ -47,6 +47,25 @@ QString table(const QString &title, QWidget *window)
     return text + u'\n';
 }
 
+// Loads each description and calls visit(description, window's name, window) with it.
+template <typename Visit>
+Result<void> visitDescriptions(Bundle *bundle, Visit visit)
+{
+    const QDir descriptions(bundle->resourcesPath() + QStringLiteral("/dialogs"));
+    for (const QString &description : descriptions.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QDir folder(descriptions.filePath(description));
+        for (const QString &file : folder.entryList({QStringLiteral("*.ui")}, QDir::Files)) {
+            const QString name = file.chopped(3);
+            const auto loaded = createWindowFromDescription(bundle, description, name);
+            if (!loaded)
+                return loaded.error();
+            const std::unique_ptr<QWidget> window(loaded.value());
+            visit(description, name, window.get());
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 Result<QString> controlList(QWidget *dialog, Bundle *bundle)
@@ -61,19 +80,25 @@ Result<QString> controlList(QWidget *dialog, Bundle *bundle)
     text += table(QStringLiteral("What will be sent"), details.get());
     if (!bundle)
         return text;
-    const QDir descriptions(bundle->resourcesPath() + QStringLiteral("/dialogs"));
-    for (const QString &description : descriptions.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        const QDir folder(descriptions.filePath(description));
-        for (const QString &file : folder.entryList({QStringLiteral("*.ui")}, QDir::Files)) {
-            const QString name = file.chopped(3);
-            const auto loaded = createWindowFromDescription(bundle, description, name);
-            if (!loaded)
-                return loaded.error();
-            const std::unique_ptr<QWidget> window(loaded.value());
-            text += table(description + u'/' + name, window.get());
-        }
-    }
+    const Result<void> done = visitDescriptions(
+        bundle, [&text](const QString &description, const QString &name, QWidget *window) {
+            text += table(description + u'/' + name, window);
+        });
+    if (!done)
+        return done.error();
     return text.trimmed() + u'\n';
+}
+
+std::optional<DescribedWindow> describedWindowWith(const inspector::ControlName &control,
+                                                   Bundle *bundle)
+{
+    std::vector<DescribedWindow> found;
+    // What cannot be loaded is told when it is to be shown.
+    (void)visitDescriptions(bundle, [&](const QString &, const QString &name, QWidget *window) {
+        if (inspector::find(window, control).control)
+            found.push_back({name, window->windowTitle()});
+    });
+    return found.size() == 1 ? std::optional(found.front()) : std::nullopt;
 }
 
 } // namespace kelvo

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "bundle.h"
+#include "inspector.h"
 #include "result.h"
 
 #include <QString>
+
+#include <optional>
 
 class QWidget;
 
@@ -13,5 +16,15 @@ namespace kelvo {
 // the print dialog and each window description of the bundle (null: none).
 // Fails on a description that cannot be loaded.
 Result<QString> controlList(QWidget *dialog, Bundle *bundle);
+
+// A window of the bundle's descriptions: a panel's has the panel's name.
+struct DescribedWindow
+{
+    QString name, title;
+};
+// The one that has the control, built or not; none where several have it, as "@ok". Slow:
+// all descriptions are loaded.
+std::optional<DescribedWindow> describedWindowWith(const inspector::ControlName &control,
+                                                   Bundle *bundle);
 
 } // namespace kelvo

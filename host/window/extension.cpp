@@ -200,6 +200,11 @@ void Extension::end(OSStatus status)
     d->session = nullptr;
 }
 
+Bundle *Extension::bundle() const
+{
+    return d->bundle;
+}
+
 const std::vector<Extension::Panel> &Extension::panels() const
 {
     return d->panels;

@@ -32,6 +32,8 @@ public:
     bool isBegun() const override;
     void end(OSStatus status) override; // further panels first, the shell last
 
+    Bundle *bundle() const;
+
     struct Panel
     {
         QString name; // the middle of its getter's name; "PDEShell" for the shell

@@ -1,6 +1,7 @@
 #include "panel_places.h"
 
 #include "control.h"
+#include "control_list.h"
 #include "extension.h"
 #include "panel_switch.h"
 #include "popup_button.h"
@@ -15,6 +16,27 @@ namespace {
 using Code = Error::Code;
 
 constexpr ControlID shellSelector = {kShellSignature, 16};
+
+// The shell names its own panes as panels are named.
+QList<QWidget *> shellPanes(const Extension &panels)
+{
+    QList<QWidget *> panes = panels.panels().front().pane->findChildren<QWidget *>();
+    panes.removeIf([](const QWidget *pane) {
+        const auto id = controlIDOf(pane);
+        return !id || id->signature != kUserPaneSignature;
+    });
+    return panes;
+}
+
+QStringList namesOf(const Extension &panels)
+{
+    QStringList names;
+    for (const Extension::Panel &panel : panels.panels())
+        names.append(panel.name);
+    for (const QWidget *pane : shellPanes(panels))
+        names.append(pane->objectName());
+    return names;
+}
 
 } // namespace
 
@@ -31,27 +53,19 @@ PopupButton *PanelPlaces::selector() const
 
 Result<void> PanelPlaces::showPanel(Extension &panels, const QString &name)
 {
-    QStringList names;
     for (std::size_t i = 0; i < panels.panels().size(); ++i) {
         if (panels.panels()[i].name == name) {
             m_switch->setCurrentIndex(int(i));
             return {};
         }
-        names.append(panels.panels()[i].name);
     }
-    // The shell names its own panes in the same way.
-    const auto panes = panels.panels().front().pane->findChildren<QWidget *>();
-    for (const QWidget *pane : panes) {
-        const auto id = controlIDOf(pane);
-        if (!id || id->signature != kUserPaneSignature)
-            continue;
+    for (const QWidget *pane : shellPanes(panels)) {
         if (pane->objectName() == name)
-            return showTab(id->number);
-        names.append(pane->objectName());
+            return showTab(controlIDOf(pane)->number);
     }
     return Error{Code::NotFound, name,
                  translate("Window", "there is no such panel here; there are: %1")
-                     .arg(names.join(QStringLiteral(", ")))};
+                     .arg(namesOf(panels).join(QStringLiteral(", ")))};
 }
 
 Result<void> PanelPlaces::showTab(int number)
@@ -108,6 +122,17 @@ QString PanelPlaces::placeOf(const QWidget *control, const Extension &panels)
         return translate("Window", "panel %1").arg(panel.name);
     }
     return {};
+}
+
+QString PanelPlaces::placeOf(const inspector::ControlName &control, const Extension &panels)
+{
+    const auto window = describedWindowWith(control, panels.bundle());
+    if (!window)
+        return {};
+    return namesOf(panels).contains(window->name)
+        ? translate("Window", "panel %1").arg(window->name)
+        : translate("Window", "the dialog \"%1\"")
+              .arg(window->title.isEmpty() ? window->name : window->title);
 }
 
 PanelPlaces::Place PanelPlaces::current(const Extension &panels) const

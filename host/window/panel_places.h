@@ -1,5 +1,6 @@
 #pragma once
 
+#include "inspector.h"
 #include "result.h"
 
 #include <QString>
@@ -25,6 +26,9 @@ public:
     Result<void> showTab(int number);
     // "tab 4, Advanced"; empty for a control of no panel.
     static QString placeOf(const QWidget *control, const Extension &panels);
+    // The same of a control that is not built yet, as the bundle describes it: "panel
+    // SpecialPages", "the dialog "Covers"". Empty: there is none.
+    static QString placeOf(const inspector::ControlName &control, const Extension &panels);
 
     // The switch has a place for each; null: none, and it is not seen.
     void showSwitch(const Extension *panels);

@@ -639,6 +639,12 @@ QString PrintDialog::placeOf(const QWidget *control) const
     return shown ? PanelPlaces::placeOf(control, *shown) : QString();
 }
 
+QString PrintDialog::placeOfUnshown(const inspector::ControlName &control) const
+{
+    const Extension *shown = panels();
+    return shown ? PanelPlaces::placeOf(control, *shown) : QString();
+}
+
 void PrintDialog::sync(SyncDirection direction)
 {
     if (direction == kSyncWrite)

@@ -55,6 +55,7 @@ public:
     Result<void> showPanel(const QString &name) override;
     Result<void> showTab(int tab) override;
     QString placeOf(const QWidget *control) const override;
+    QString placeOfUnshown(const inspector::ControlName &control) const override;
     void sync(SyncDirection direction) override;
     void pressPrint() override;
     void pressCancel() override;

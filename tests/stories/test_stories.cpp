@@ -1106,6 +1106,10 @@ void TestStories::refusesWhatCannotBeDone_data()
     const QStringList hall{"-d", "Hall-3", documentPath};
     row("unknown command", "tab 4\nchose @x row 1\n", 2, "s.kps:2: there is no command \"chose\"");
     row("unknown control", "tab 4\nclick @prnt\n", 2, "s.kps:2: @prnt is not in the window");
+    row("panel not shown yet", "click KPDE 1000\n", 3,
+        "KPDE 1000 is not in the window; it is in panel SpecialPages");
+    row("dialog not open", "click KPDE 8542\n", 3,
+        "KPDE 8542 is not in the window; it is in the dialog \"");
     row("unknown tab", "tab 7\n", 2, "s.kps:1: 7: there is no such tab");
     row("unknown panel", "panel Advancd\n", 2, "s.kps:1: Advancd: there is no such panel");
     row("expectation", "expect @copies value 2\n", 2, "s.kps:1: value of @copies is \"1\"");
