@@ -66,6 +66,12 @@ QString visibleText(QStringView text)
     return withEscapes(text, escaped);
 }
 
+QString shortened(const QString &text)
+{
+    constexpr qsizetype most = 80; // characters, of one line of a terminal
+    return text.size() <= most ? text : text.left(most - 1) + u'…';
+}
+
 void printLine(std::FILE *stream, const QString &text)
 {
     write(stream, visibleText(text) + u'\n');

@@ -20,6 +20,9 @@ namespace kelvo {
 // for reading back.
 QString visibleText(QStringView text);
 
+// What a message repeats of what it was given: the beginning, where it is long.
+QString shortened(const QString &text);
+
 // One line: the visible text and a line end, as UTF-8, flushed.
 void printLine(std::FILE *stream, const QString &text);
 // One line with a tab between its columns.

@@ -2,6 +2,7 @@
 
 #include "nearest_name.h"
 #include "page_ranges.h"
+#include "terminal.h"
 #include "texts.h"
 
 #include <algorithm>
@@ -243,7 +244,8 @@ Error noSuchOption(const QString &name)
 {
     const QString problem = translate("CommandLine", "there is no such option");
     // Every single letter is near every other one.
-    return refused(name, name.size() > 2 ? didYouMean(problem, name, allNames()) : problem);
+    return refused(shortened(name),
+                   name.size() > 2 ? didYouMean(problem, name, allNames()) : problem);
 }
 
 Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)

@@ -3,6 +3,7 @@
 #include "file_store.h"
 #include "nearest_name.h"
 #include "size_limits.h"
+#include "terminal.h"
 #include "texts.h"
 
 #include <QStringDecoder>
@@ -362,8 +363,8 @@ QString readLine(const QString &text, ScriptLine &line)
     }
     if (!row)
         return translate("Script", "%1 (kelvo-print --help-scripts lists them)")
-            .arg(didYouMean(translate("Script", "there is no command \"%1\"").arg(name), name,
-                            names));
+            .arg(didYouMean(translate("Script", "there is no command \"%1\"").arg(shortened(name)),
+                            name, names));
 
     line.command = row->command;
     const std::vector<Word> rest(words.words.begin() + 1, words.words.end());

@@ -580,6 +580,7 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
     if (!wantsAbsent && *have == wanted.text)
         return {};
     QString shown = *have, shownWanted = wanted.text;
+    bool holdsSecret = false;
     if (!isChoice) {
         const TicketFile hidden = target.withSecretsMasked(ticketFileFrom(session));
         const QVariant value =
@@ -587,17 +588,20 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
         // Numbers, and what is JSON, stay what they are.
         const auto text = string(value);
         shown = text ? masked(*text) : scriptText(value);
-        if (shown != *have)
-            shownWanted = kMask;
-        else if (text)
+        holdsSecret = shown != *have;
+        if (text)
             shownWanted = masked(wanted.text);
     }
     constexpr qsizetype mostShown = 500; // characters; a list may have 100 MB
     if (shown.size() > mostShown)
         shown = translate("Script", "%1… (cut)").arg(shown.left(mostShown));
-    return wantsAbsent
-        ? wrong(translate("Script", "%1 is there: \"%2\"").arg(name, shown))
-        : wrong(translate("Script", "%1 is \"%2\", not \"%3\"").arg(name, shown, shownWanted));
+    if (wantsAbsent)
+        return wrong(translate("Script", "%1 is there: \"%2\"").arg(name, shown));
+    return wrong(
+        holdsSecret
+            ? translate("Script", "%1 is \"%2\", not what this line says; a secret is not told")
+                  .arg(name, shown)
+            : translate("Script", "%1 is \"%2\", not \"%3\"").arg(name, shown, shownWanted));
 }
 
 LineDone ScriptRunner::Private::screenshot(const QString &file)

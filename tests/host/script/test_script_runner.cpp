@@ -310,7 +310,8 @@ void TestScriptRunner::masksByPlace_data()
                                     << "t.kps:1: text of @passcode is \"\"; of a secret only "
                                        "\"••••\" or \"\" is told\n";
     QTest::newRow("an entry, and what was expected of it")
-        << QByteArray("expect-ticket Code \"12\"") << "t.kps:1: Code is \"••••\", not \"••••\"\n";
+        << QByteArray("expect-ticket Code \"12\"")
+        << "t.kps:1: Code is \"••••\", not what this line says; a secret is not told\n";
     QTest::newRow("another entry")
         << QByteArray("expect-ticket Size 12") << "t.kps:1: Size is \"4711\", not \"12\"\n";
     QTest::newRow("a value and its line")
