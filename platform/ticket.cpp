@@ -108,11 +108,6 @@ std::optional<std::int64_t> PMTicketGetCFNumber(PMTicketRef ticket, const QStrin
     return integer64(valueBehind(ticket, key));
 }
 
-std::optional<double> PMTicketGetCFReal(PMTicketRef ticket, const QString &key)
-{
-    return real(valueBehind(ticket, key));
-}
-
 std::optional<bool> PMTicketGetCFBoolean(PMTicketRef ticket, const QString &key)
 {
     return boolean(valueBehind(ticket, key));

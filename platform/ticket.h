@@ -84,7 +84,6 @@ std::optional<Dictionary> PMTicketGetCFDictionary(PMTicketRef ticket, const QStr
 std::optional<Array> PMTicketGetCFArray(PMTicketRef ticket, const QString &key);
 std::optional<QString> PMTicketGetCFString(PMTicketRef ticket, const QString &key);
 std::optional<std::int64_t> PMTicketGetCFNumber(PMTicketRef ticket, const QString &key);
-std::optional<double> PMTicketGetCFReal(PMTicketRef ticket, const QString &key);
 std::optional<bool> PMTicketGetCFBoolean(PMTicketRef ticket, const QString &key);
 
 // noErr also when there was no such entry; kPMTicketLocked for a locked one.
