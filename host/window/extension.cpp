@@ -1,5 +1,6 @@
 #include "extension.h"
 
+#include "focus_regions.h"
 #include "panel_interface.h"
 #include "terminal.h"
 #include "texts.h"
@@ -221,7 +222,11 @@ void Extension::show(int index)
     if (index == d->shown)
         return;
     const int left = d->shown;
+    bool hadFocus = false;
     if (left >= 0) {
+        const QWidget *pane = d->panels[static_cast<std::size_t>(left)].pane;
+        const QWidget *holder = pane->window()->focusWidget();
+        hadFocus = holder && pane->isAncestorOf(holder);
         d->sync(d->records[static_cast<std::size_t>(left)], kSyncWrite);
         for (std::size_t i = 0; i < d->records.size(); ++i) {
             if (static_cast<int>(i) != left)
@@ -234,7 +239,11 @@ void Extension::show(int index)
     if (!d->open(d->records[static_cast<std::size_t>(index)]))
         warn(translate("Window", "%1: the panel %2 could not be opened")
                  .arg(d->bundle->path(), d->panels[static_cast<std::size_t>(index)].name));
-    d->panels[static_cast<std::size_t>(index)].pane->show();
+    QWidget *pane = d->panels[static_cast<std::size_t>(index)].pane;
+    pane->show();
+    // Else it goes to what follows the hidden pane, which may be any button.
+    if (hadFocus)
+        focusFirstStopIn(pane);
 }
 
 void Extension::sync(SyncDirection direction)

@@ -35,6 +35,12 @@ void chainFocusStops(const QList<QWidget *> &stops)
         QWidget::setTabOrder(stops[i - 1], stops[i]);
 }
 
+void focusFirstStopIn(QWidget *region)
+{
+    if (QWidget *stop = firstStopIn(region))
+        stop->setFocus(Qt::OtherFocusReason);
+}
+
 void focusNextRegion(const QList<QWidget *> &regions, bool forward)
 {
     QWidget *window = regions.first()->window();

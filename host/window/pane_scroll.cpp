@@ -19,12 +19,15 @@ PaneScroll::PaneScroll(QWidget *parent)
     verticalScrollBar()->installEventFilter(this);
 }
 
-QSize PaneScroll::sizeHint() const
+QSize PaneScroll::contentHint() const
 {
-    if (!widget())
-        return QScrollArea::sizeHint();
     const int frame = 2 * frameWidth();
     return widget()->sizeHint().expandedTo(widget()->minimumSize()) + QSize(frame, frame);
+}
+
+QSize PaneScroll::sizeHint() const
+{
+    return widget() ? contentHint().expandedTo({m_widest, 0}) : QScrollArea::sizeHint();
 }
 
 QSize PaneScroll::minimumSizeHint() const
@@ -84,8 +87,11 @@ bool PaneScroll::eventFilter(QObject *watched, QEvent *event)
     // Of the scroll bar, and of panels that ask for more than before: a scroll
     // area passes neither on.
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide
-        || (watched == widget() && event->type() == QEvent::LayoutRequest))
+        || (watched == widget() && event->type() == QEvent::LayoutRequest)) {
+        if (widget())
+            m_widest = std::max(m_widest, contentHint().width());
         updateGeometry();
+    }
     return QScrollArea::eventFilter(watched, event);
 }
 

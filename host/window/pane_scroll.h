@@ -4,8 +4,8 @@
 
 namespace kelvo {
 
-// Holds the panels. It is as wide as they need, and scrolls them up and down
-// when the window is too low for what they show; never sideways.
+// Holds the panels. It is as wide as the widest that was shown, so that what is beside it
+// stays where it is; where the window is too low for them it scrolls, never sideways.
 class PaneScroll : public QScrollArea
 {
     Q_OBJECT
@@ -25,6 +25,11 @@ protected:
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QSize contentHint() const;
+
+    int m_widest = 0; // of the hints so far
 };
 
 } // namespace kelvo

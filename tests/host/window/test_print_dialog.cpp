@@ -615,9 +615,12 @@ void TestPrintDialog::keysReachPanelsAndRegions()
     QVERIFY(shown.waitUntilIdle());
     shown.dialog.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&shown.dialog));
+    shown.find<QWidget>("PDEShellField")->setFocus();
     QTest::keyClick(&shown.dialog, Qt::Key_2, Qt::AltModifier);
     QVERIFY(shown.isShown("SecondField"));
     QVERIFY(!shown.isShown("PDEShellField"));
+    // Not with whatever follows the panel that is gone.
+    QCOMPARE(shown.dialog.focusWidget(), shown.find<QWidget>("SecondField"));
     QCOMPARE(shown.dialog.placeOf(shown.find<QWidget>("PDEShellField")), "panel PDEShell");
     QVERIFY(shown.dialog.showPanel("PDEShell"));
     QVERIFY(shown.isShown("PDEShellField"));
