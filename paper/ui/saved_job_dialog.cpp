@@ -179,8 +179,7 @@ void SaveUIValuesToData(SavedJobContext &context)
     // What the controls cannot show stays as it was.
     if (const int position = context.disposition->value())
         job.saveDisposition = position;
-    if (context.format->value() > 0)
-        job.fileFormat = GetPopupButtonTicketValue(context.format);
+    takeChoice(context.format, job.fileFormat);
     context.data.passcode =
         context.secure->isChecked() ? std::optional(context.fields.passcode->text()) : std::nullopt;
 }

@@ -142,6 +142,12 @@ void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLab
     popup->setAccessibleDescription(text);
 }
 
+void takeChoice(const PopupButton *popup, std::int32_t &value)
+{
+    if (popup && popup->value() > 0)
+        value = popup->chosenReference();
+}
+
 void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[])
 {
     if (!tabControl || !panes)

@@ -58,6 +58,9 @@ void setOnDevice(const Device &device, QWidget *control, bool isOnDevice, QLabel
 // hint (the tool tip where there is none) that the job keeps it.
 void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint = nullptr,
                 const QString &hintText = {});
+// Takes the value of the item that is shown. Where none is, `value` is what the pop-up
+// cannot show: not the user's choice, and it stays.
+void takeChoice(const PopupButton *popup, std::int32_t &value);
 
 // Shows and enables the pane at the tab's position, hides and disables the others.
 void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[]);
