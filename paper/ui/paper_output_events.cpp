@@ -22,7 +22,7 @@ void runJobTypeSetup(_PaperOutputContext &panel)
     switch (panel.settings.jobType) {
     case kJobTypeSaved: {
         SavedJobData data{panel.settings.savedJob, panel.settings.passcode, panel.documentName};
-        if (RunModalSavedJobDialog(panel.bundle, &data, panel.content) == noErr) {
+        if (RunModalSavedJobDialog(panel.device, &data, panel.content) == noErr) {
             panel.settings.savedJob = data.job;
             panel.settings.passcode = data.passcode;
         }
@@ -78,7 +78,7 @@ void editCovers(_PaperOutputContext &panel)
 {
     DialogResult outcome = DialogResult::Cancel;
     const bool hasCovers = panel.settings.frontCover || panel.settings.backCover;
-    RunModalCoversDialog(panel.bundle, hasCovers ? kDialogModeEdit : kDialogModeAdd,
+    RunModalCoversDialog(panel.device, hasCovers ? kDialogModeEdit : kDialogModeAdd,
                          &panel.settings.jobStock, &panel.settings.frontCover,
                          &panel.settings.backCover, &outcome, panel.content);
     showCovers(panel);
@@ -87,7 +87,7 @@ void editCovers(_PaperOutputContext &panel)
 void editSeparators(_PaperOutputContext &panel)
 {
     DialogResult result = DialogResult::Cancel;
-    RunModalSeparatorsDialog(panel.bundle, &panel.settings.separators,
+    RunModalSeparatorsDialog(panel.device, &panel.settings.separators,
                              &panel.settings.separatorStock, &result, panel.content);
     showStockAndSeparators(panel);
 }

@@ -88,7 +88,7 @@ OSStatus _PaperOutputContext::build()
         [this](const Event &event) { return PaperOutputEventHandler(*this, event); });
     if (status != noErr)
         return status;
-    stockButtonData.bundle = bundle;
+    stockButtonData.device = device;
     stockButtonData.stock = &settings.jobStock;
     stockButtonData.jobContext = kJobContextJob;
     stockButtonData.summary = controls.stockSummary;

@@ -71,7 +71,7 @@ PaperOutputControls findPaperOutputControls(NeededControls &needed)
 void fillPaperOutputControls(_PaperOutputContext &panel)
 {
     const PaperOutputControls &controls = panel.controls;
-    PopulatePopupButtonFromMap(panel.bundle, controls.jobType, JobTypeMap, kJobContextJob,
+    PopulatePopupButtonFromMap(panel.device, controls.jobType, JobTypeMap, kJobContextJob,
                                kNoCommand);
     setTicketPlaces(controls.jobType,
                     {{kPMPrintSettingsTicket, ticketKey("JobType"), QStringLiteral("JobType")}});

@@ -18,6 +18,10 @@ class TabControl;
 
 // Replaces the items; the maximum becomes the returned count, which is the
 // map's length, skipped rows included.
+std::int16_t PopulatePopupButtonFromMap(const Device &device, PopupButton *popup,
+                                        const SettingMap *map, JobContext jobContext,
+                                        OSType commandOverride);
+// For the current device.
 std::int16_t PopulatePopupButtonFromMap(CFBundleRef bundle, PopupButton *popup,
                                         const SettingMap *map, JobContext jobContext,
                                         OSType commandOverride);
