@@ -6,6 +6,7 @@
 #include "finishing_dialogs.h"
 #include "job_type_setup.h"
 #include "lan_fax_setup.h"
+#include "more_finishing.h"
 #include "popups.h"
 #include "saved_job_dialog.h"
 #include "secure_print_dialog.h"
@@ -54,7 +55,7 @@ void chooseJobType(_PaperOutputContext &panel)
 
 void createBooklet(_PaperOutputContext &panel)
 {
-    BookletLayout &layout = panel.settings.bookletLayout;
+    const BookletLayout &layout = panel.settings.bookletLayout;
     _BookletCreationParams params{panel.bundle,
                                   panel.settings.finishing.fold,
                                   panel.settings.booklet,
@@ -64,14 +65,8 @@ void createBooklet(_PaperOutputContext &panel)
                                   layout.creep};
     if (RunModalBookletCreationDialog(&params, panel.content) != noErr)
         return;
-    const bool wasBooklet = panel.settings.isBooklet();
-    panel.settings.finishing.fold = params.fold;
-    panel.settings.booklet = params.booklet;
-    layout = {params.pageBorders, params.gutter, params.creep, params.newSize};
-    if (panel.settings.isBooklet())
-        panel.settings.duplex = kPlexDuplexShort;
-    else if (wasBooklet)
-        UnselectBooklet(panel.settings);
+    takeBooklet(panel.settings, params.fold, params.booklet,
+                {params.pageBorders, params.gutter, params.creep, params.newSize});
 }
 
 void editCovers(_PaperOutputContext &panel)
@@ -92,33 +87,6 @@ void editSeparators(_PaperOutputContext &panel)
     showStockAndSeparators(panel);
 }
 
-using FinishingDialog = OSStatus (*)(CFBundleRef, PaperOutputSettings *, DialogResult *, QWidget *);
-FinishingDialog findFinishingDialog(OSType command)
-{
-    switch (command) {
-    case kCommandSingleStapleDialog:
-        return RunModal1StapleFinishingDialog;
-    case kCommandDualStapleDialog:
-        return RunModal2StaplesFinishingDialog;
-    case kCommandHolePunchDialog:
-        return RunModalHolePunchFinishingDialog;
-    case kCommandFoldDialog:
-        return RunModalFoldFinishingDialog;
-    case kCommandAdvancedFoldDialog:
-        return RunModalAdvancedFoldFinishingDialog;
-    case kCommandZFoldDialog:
-        return RunModalZFoldFinishingDialog;
-    case kCommandBindDialog:
-        return RunModalBindFinishingDialog;
-    case kCommandOffsetDialog:
-        return RunModalOffsetFinishingDialog;
-    case kCommandCustomFinishingDialog:
-        return RunModalCustomFinishingDialog;
-    default:
-        return nullptr;
-    }
-}
-
 OSStatus takeCommand(_PaperOutputContext &panel, OSType command, std::int32_t value)
 {
     DialogResult result = DialogResult::Cancel;
@@ -128,8 +96,12 @@ OSStatus takeCommand(_PaperOutputContext &panel, OSType command, std::int32_t va
         editSeparators(panel);
     } else if (command == kCommandBookletCreation) {
         createBooklet(panel);
-    } else if (const FinishingDialog runModal = findFinishingDialog(command)) {
-        runModal(panel.bundle, &panel.settings, &result, panel.content);
+    } else if (const auto kind = findFinishingDialog(command)) {
+        RunModalFinishingDialog(panel.device, *kind, &panel.settings, &result, panel.content);
+    } else if (command == kCommandOffsetDialog) {
+        RunModalOffsetFinishingDialog(panel.device, &panel.settings, &result, panel.content);
+    } else if (command == kCommandCustomFinishingDialog) {
+        RunModalCustomFinishingDialog(panel.bundle, &panel.settings, &result, panel.content);
     } else if (!applyFinishingCommand(panel.settings, command, value)) {
         return eventNotHandledErr;
     }
