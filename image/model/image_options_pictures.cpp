@@ -1,7 +1,8 @@
 #include "image_options_pictures.h"
 
-#include "image_options_settings.h"
+#include "image_options_summary.h"
 #include "lighten_darken.h"
+#include "offered_choices.h"
 
 namespace kelvo {
 
@@ -53,6 +54,29 @@ QString invertImagePicture(const II_Options &invert)
 {
     return invert.mirror && !invert.negative ? QStringLiteral("ImageOptions_InvertImage_Mirror.gif")
                                              : QStringLiteral("ImageOptions_InvertImage_Off.gif");
+}
+
+ImageOptionsPictures imageOptionsPictures(const ImageOptionsSettings &settings,
+                                          const Device &device)
+{
+    const auto ofChoice = [&device](const char *option, std::int32_t value,
+                                    QString (*picture)(std::int32_t)) {
+        return isOffered(device.ppd, QString::fromLatin1(option), value) ? picture(value)
+                                                                         : QString();
+    };
+    return {
+        .lightenDarken = device.hasOption(QStringLiteral("KVImageQuality"))
+            ? lightenDarkenPicture(lightnessStep(settings))
+            : QString(),
+        .imageQuality = ofChoice("KVOutputMode", settings.imageQuality, imageQualityPicture),
+        .tonerSaver = isTonerSaverOffered(settings, device) ? tonerSaverPicture(settings.tonerSaver)
+                                                            : QString(),
+        .cmykSourceColor =
+            ofChoice("KVCMYKColorSpace", settings.cmykSourceColor, cmykSourceColorPicture),
+        .outputColorCorrection = ofChoice("KVColorCorrection", settings.outputColorCorrection,
+                                          outputColorCorrectionPicture),
+        .invert = invertImagePicture(settings.invert),
+    };
 }
 
 } // namespace kelvo

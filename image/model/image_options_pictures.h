@@ -1,6 +1,6 @@
 #pragma once
 
-#include "invert_image.h"
+#include "image_options_settings.h"
 
 #include <QString>
 
@@ -17,5 +17,13 @@ QString cmykSourceColorPicture(std::int32_t cmykSourceColor);
 QString outputColorCorrectionPicture(std::int32_t outputColorCorrection);
 // A negative is not drawn: it shows the page as it is.
 QString invertImagePicture(const II_Options &invert);
+
+// All of them as the panel shows them: empty for what the device does not offer.
+struct ImageOptionsPictures
+{
+    QString lightenDarken, imageQuality, tonerSaver, cmykSourceColor, outputColorCorrection, invert;
+};
+ImageOptionsPictures imageOptionsPictures(const ImageOptionsSettings &settings,
+                                          const Device &device);
 
 } // namespace kelvo

@@ -73,6 +73,26 @@ void writeChoices(const ImageOptionsSettings &settings, Ticket &ticket, const De
 
 } // namespace
 
+std::int32_t lightnessStep(const ImageOptionsSettings &settings)
+{
+    return settings.lightenDarken == kUnset && settings.keptLightness
+        ? lightenDarkenStep(*settings.keptLightness)
+        : settings.lightenDarken;
+}
+
+bool leavesLightnessToPrinter(const ImageOptionsSettings &settings)
+{
+    return settings.lightenDarken == kUnset && !settings.keptLightness;
+}
+
+void setTonerSaver(ImageOptionsSettings &settings, bool isOn)
+{
+    if (isOn)
+        settings.tonerSaver = kTonerSaverOn;
+    else if (settings.tonerSaver == kTonerSaverOn)
+        settings.tonerSaver = kTonerSaverOff;
+}
+
 void readImageOptions(ImageOptionsSettings &settings, const Ticket &printSettings,
                       const Device &device)
 {

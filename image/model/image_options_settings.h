@@ -53,6 +53,14 @@ struct ImageOptionsSettings
     friend bool operator==(const ImageOptionsSettings &, const ImageOptionsSettings &) = default;
 };
 
+// The step that pages are printed in: the one chosen, else that of the choice that the
+// job keeps; kUnset where neither is a step.
+std::int32_t lightnessStep(const ImageOptionsSettings &settings);
+// Nothing but the printer's default was chosen, and the job keeps no choice of its own.
+bool leavesLightnessToPrinter(const ImageOptionsSettings &settings);
+// The user switched it. A choice that is neither on nor off stays until it is switched on.
+void setTonerSaver(ImageOptionsSettings &settings, bool isOn);
+
 // What the ticket says, and of the rest what was there before.
 void readImageOptions(ImageOptionsSettings &settings, const Ticket &printSettings,
                       const Device &device);

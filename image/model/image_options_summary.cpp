@@ -46,6 +46,11 @@ QString lightenDarkenWords(const ImageOptionsSettings &settings, const Device &d
                  : QString();
 }
 
+bool choosesLightness(const ImageOptionsSettings &settings, const Device &device)
+{
+    return settings.lightenDarken != kUnset && device.hasOption(lightnessOption);
+}
+
 QString tonerSaverWords(const ImageOptionsSettings &settings, const Device &device)
 {
     if (!device.hasOption(tonerSaverOption))
@@ -60,6 +65,11 @@ bool isTonerSaverOffered(const ImageOptionsSettings &settings, const Device &dev
     return device.hasOption(tonerSaverOption)
         && (settings.tonerSaver == 0
             || isOffered(device.ppd, tonerSaverOption, settings.tonerSaver));
+}
+
+QString invertImageWords(const ImageOptionsSettings &settings, const Device &device)
+{
+    return device.text(settings.invert.negative ? "Negative Image Hint" : "Mirror Image Hint");
 }
 
 std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsSettings &settings,

@@ -81,11 +81,11 @@ void showLightenDarken(const ImageOptionsContext &panel)
         controls.lightenDarken->setValue(panel.settings.lightenDarken);
         controls.lightenDarkenSlider->setValue(panel.settings.lightenDarken);
     }
-    const bool isOnDevice = hasOption(panel, "KVImageQuality");
+    const bool isEnabled = choosesLightness(panel.settings, panel.device);
     for (const std::int32_t number : lightenDarkenParts)
-        findControl(panel.content, panelID(number))->setEnabled(isSet && isOnDevice);
+        findControl(panel.content, panelID(number))->setEnabled(isEnabled);
     controls.printerDefault->setChecked(!isSet);
-    controls.printerDefault->setEnabled(isOnDevice);
+    controls.printerDefault->setEnabled(hasOption(panel, "KVImageQuality"));
     controls.lightenDarkenWords->setText(lightenDarkenWords(panel.settings, panel.device));
 }
 
@@ -106,23 +106,17 @@ void showTonerSaver(const ImageOptionsContext &panel)
 void showPictures(const ImageOptionsContext &panel)
 {
     const ImageOptionsControls &controls = panel.controls;
-    const auto show = [&](PictureView *view, bool isOnDevice, const QString &name) {
-        showBundlePicture(view, panel.bundle, isOnDevice ? name : QString());
+    const ImageOptionsPictures pictures = imageOptionsPictures(panel.settings, panel.device);
+    const std::pair<PictureView *, QString> shown[] = {
+        {controls.lightenDarkenPicture, pictures.lightenDarken},
+        {controls.imageQualityPicture, pictures.imageQuality},
+        {controls.tonerSaverPicture, pictures.tonerSaver},
+        {controls.cmykSourceColorPicture, pictures.cmykSourceColor},
+        {controls.outputColorCorrectionPicture, pictures.outputColorCorrection},
+        {controls.invertPicture, pictures.invert},
     };
-    const auto isShown = [](const PopupButton *popup) { return popup->value() > 0; };
-    show(controls.lightenDarkenPicture, hasOption(panel, "KVImageQuality"),
-         lightenDarkenPicture(panel.settings.lightenDarken == kUnset && panel.settings.keptLightness
-                                  ? lightenDarkenStep(*panel.settings.keptLightness)
-                                  : panel.settings.lightenDarken));
-    show(controls.imageQualityPicture, isShown(controls.imageQuality),
-         imageQualityPicture(panel.settings.imageQuality));
-    show(controls.tonerSaverPicture, isTonerSaverOffered(panel.settings, panel.device),
-         tonerSaverPicture(panel.settings.tonerSaver));
-    show(controls.cmykSourceColorPicture, isShown(controls.cmykSourceColor),
-         cmykSourceColorPicture(panel.settings.cmykSourceColor));
-    show(controls.outputColorCorrectionPicture, isShown(controls.outputColorCorrection),
-         outputColorCorrectionPicture(panel.settings.outputColorCorrection));
-    show(controls.invertPicture, true, invertImagePicture(panel.settings.invert));
+    for (const auto &[view, picture] : shown)
+        showBundlePicture(view, panel.bundle, picture);
 }
 
 } // namespace
@@ -171,16 +165,9 @@ void SaveUIValuesToData(ImageOptionsContext &panel)
     const ImageOptionsControls &controls = panel.controls;
     panel.settings.lightenDarken =
         controls.printerDefault->isChecked() ? kUnset : controls.lightenDarken->value();
-    // What a control cannot show is not the user's choice, and stays.
-    for (const PpdRow &row : ppdRows) {
-        const PopupButton *popup = controls.*row.popup;
-        if (popup->value() > 0)
-            panel.settings.*row.value = GetPopupButtonTicketValue(popup);
-    }
-    if (controls.tonerSaver->isChecked())
-        panel.settings.tonerSaver = kTonerSaverOn;
-    else if (panel.settings.tonerSaver == kTonerSaverOn)
-        panel.settings.tonerSaver = kTonerSaverOff;
+    for (const PpdRow &row : ppdRows)
+        takeChoice(controls.*row.popup, panel.settings.*row.value);
+    setTonerSaver(panel.settings, controls.tonerSaver->isChecked());
     panel.settings.invert.mirror = controls.mirror->isChecked();
 }
 
@@ -194,10 +181,7 @@ void RestoreUIValuesFromData(ImageOptionsContext &panel)
         showPpdRow(panel, row);
     showTonerSaver(panel);
     controls.mirror->setChecked(panel.settings.invert.mirror);
-    controls.invertHint->setText(localizedText(panel.bundle,
-                                               panel.settings.invert.negative
-                                                   ? QStringLiteral("Negative Image Hint")
-                                                   : QStringLiteral("Mirror Image Hint")));
+    controls.invertHint->setText(invertImageWords(panel.settings, panel.device));
     showPictures(panel);
 }
 
@@ -210,6 +194,7 @@ OSStatus ImageOptionsEventHandler(ImageOptionsContext &panel, const Event &event
         return eventNotHandledErr;
     }
     const ImageOptionsControls &controls = panel.controls;
+    // The field says the lightness, whichever of the two the user moved.
     if (event.control.number == kLightenDarkenSlider)
         controls.lightenDarken->setValue(controls.lightenDarkenSlider->value());
     else

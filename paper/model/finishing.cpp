@@ -1,6 +1,7 @@
 #include "finishing.h"
 
 #include "paper_output_settings.h"
+#include "ppd_choices.h"
 
 #include <algorithm>
 #include <array>
@@ -199,14 +200,10 @@ bool applyFinishingCommand(PaperOutputSettings &settings, OSType command, std::i
         setStaple(finishing, kStapleNone);
         return true;
     case kCommandSingleStaple:
-        leaveBooklet(settings);
-        finishing.options = kFinishingSingleStaple;
-        setStaple(finishing, value);
-        finishing.fold = kFoldNone;
-        return true;
     case kCommandDualStaple:
         leaveBooklet(settings);
-        finishing.options = kFinishingDualStaple;
+        finishing.options =
+            command == kCommandSingleStaple ? kFinishingSingleStaple : kFinishingDualStaple;
         setStaple(finishing, value);
         finishing.fold = kFoldNone;
         return true;
@@ -265,6 +262,24 @@ std::int32_t chosenStaple(const Finishing &finishing)
     if (finishing.singleStaple != kStapleNone)
         return finishing.singleStaple;
     return finishing.dualStaple != kStapleNone ? finishing.dualStaple : finishing.otherStaple;
+}
+
+std::int32_t shownStaple(const Finishing &finishing)
+{
+    return finishing.hasUnknownStaple ? kNoPpdChoice : chosenStaple(finishing);
+}
+
+void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, std::int32_t booklet,
+                 const BookletLayout &layout)
+{
+    const bool wasBooklet = settings.isBooklet();
+    settings.finishing.fold = fold;
+    settings.booklet = booklet;
+    settings.bookletLayout = layout;
+    if (settings.isBooklet())
+        settings.duplex = kPlexDuplexShort;
+    else if (wasBooklet)
+        UnselectBooklet(settings);
 }
 
 void UnselectBooklet(PaperOutputSettings &settings)

@@ -11,6 +11,7 @@
 // commands do.
 namespace kelvo {
 
+struct BookletLayout;
 struct PaperOutputSettings;
 
 // com.kelvo.print.FinishingOptions
@@ -121,7 +122,12 @@ bool applyFinishingCommand(PaperOutputSettings &settings, OSType command, std::i
 void setStaple(Finishing &finishing, std::int32_t value);
 // The one staple that is set, else kStapleNone.
 std::int32_t chosenStaple(const Finishing &finishing);
+// What the stapling pop-up shows: that, or kNoPpdChoice for a choice without a value.
+std::int32_t shownStaple(const Finishing &finishing);
 
+// What the booklet dialog's OK does.
+void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, std::int32_t booklet,
+                 const BookletLayout &layout);
 // Ends booklet layout: duplex 2, and finishing options 24 become 0. The panel
 // shows it.
 void UnselectBooklet(PaperOutputSettings &settings);

@@ -3,6 +3,9 @@
 #include "offered_choices.h"
 #include "paper_output_pictures.h"
 #include "paper_output_settings.h"
+#include "ticket_values.h"
+
+#include <QStringList>
 
 #include <algorithm>
 
@@ -90,23 +93,26 @@ std::int32_t currentValue(Setting setting, const Finishing &finishing)
     return finishing.bind;
 }
 
-// Binding is not among a PPD's options.
-bool isInPpd(Setting setting, std::int32_t value, const PpdFile *ppd)
+// Null for binding, which is not among a PPD's options.
+const char *optionOf(Setting setting)
 {
-    const auto hasChoice = [value, ppd](const QString &option) {
-        return isOffered(ppd, option, value);
-    };
     switch (setting) {
     case Setting::Staple:
-        return hasChoice(QStringLiteral("StapleLocation"));
+        return "StapleLocation";
     case Setting::Punch:
-        return hasChoice(QStringLiteral("KVPunch"));
+        return "KVPunch";
     case Setting::Fold:
-        return hasChoice(QStringLiteral("KVFold"));
+        return "KVFold";
     case Setting::Bind:
         break;
     }
-    return true;
+    return nullptr;
+}
+
+bool isInPpd(Setting setting, std::int32_t value, const PpdFile *ppd)
+{
+    const char *option = optionOf(setting);
+    return !option || isOffered(ppd, QString::fromLatin1(option), value);
 }
 
 bool isOffered(const ChoiceRow &row, const Device &device)
@@ -179,6 +185,24 @@ bool endsBooklet(FinishingDialogKind kind, const PaperOutputSettings &settings)
     const Setting setting = settingOf(kind);
     return (setting == Setting::Staple || setting == Setting::Punch)
         && (settings.isBooklet() || settings.finishing.options == kFinishingBooklet);
+}
+
+QString finishingNote(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
+                      const PaperOutputSettings &settings, const Device &device)
+{
+    QStringList sentences;
+    if (const char *replaced = replacedFinishing(kind, choices, settings.finishing))
+        sentences += device.text("Finishing Replaced").arg(device.text(replaced));
+    if (endsBooklet(kind, settings))
+        sentences += device.text("Finishing Ends Booklet");
+    return sentences.join(u' ');
+}
+
+TicketPlace finishingPlace(FinishingDialogKind kind)
+{
+    const char *option = optionOf(settingOf(kind));
+    return option ? TicketPlace{kPPDChoices, QString::fromLatin1(option)}
+                  : TicketPlace{kPMPrintSettingsTicket, ticketKey("FinishingBindValue")};
 }
 
 void applyFinishingChoice(PaperOutputSettings &settings, const FinishingChoice &choice)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "finishing.h"
+#include "ticket_file.h"
 
 #include <QString>
 
@@ -54,6 +55,12 @@ const char *replacedFinishing(FinishingDialogKind kind, const std::vector<Finish
 
 // OK will end booklet mode: staples and holes do, folding and binding do not.
 bool endsBooklet(FinishingDialogKind kind, const PaperOutputSettings &settings);
+
+// What OK does beyond the choice, in sentences; empty where that is nothing.
+QString finishingNote(FinishingDialogKind kind, const std::vector<FinishingChoice> &choices,
+                      const PaperOutputSettings &settings, const Device &device);
+// Where the ticket has it.
+TicketPlace finishingPlace(FinishingDialogKind kind);
 
 // What OK does: the choice's command of the finishing menu with the choice's
 // value. A booklet that is folded and stapled has no command of its own: it is the

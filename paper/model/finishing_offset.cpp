@@ -39,6 +39,19 @@ OffsetSettings offsetOf(const Finishing &finishing)
     return withOffset(settings, settings.offset);
 }
 
+Menu offsetMenu(const Device &device, std::int32_t offset)
+{
+    Menu menu;
+    if (!keyOfValue(OffsetMap, offset)) {
+        MenuItem item;
+        item.text = device.text("PrinterDefault");
+        item.reference = offset;
+        menu.items.push_back(std::move(item));
+    }
+    PopulateMenuFromMap(device, menu, OffsetMap, kJobContextJob, kNoCommand);
+    return menu;
+}
+
 void storeOffset(Finishing &finishing, const OffsetSettings &settings)
 {
     finishing.offset = settings.offset;

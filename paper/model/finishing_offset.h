@@ -1,6 +1,7 @@
 #pragma once
 
 #include "finishing.h"
+#include "menu.h"
 #include "setting_map.h"
 
 #include <QString>
@@ -30,6 +31,9 @@ struct OffsetSettings
 
 // What the dialog begins with; without subsets their pages are shown as 0.
 OffsetSettings offsetOf(const Finishing &finishing);
+// The offsets to choose from. One that cannot be chosen here stands in front until another
+// is chosen: the pop-up says what is set, and OK keeps it.
+Menu offsetMenu(const Device &device, std::int32_t offset);
 // What OK stores. Pages per subset only with subsets.
 void storeOffset(Finishing &finishing, const OffsetSettings &settings);
 

@@ -1,5 +1,6 @@
 #include "job_type_setup.h"
 
+#include "delayed_print.h"
 #include "paper_output_settings.h"
 
 namespace kelvo {
@@ -30,6 +31,18 @@ bool lacksPasscode(const PaperOutputSettings &settings)
 {
     return settings.jobType == kJobTypeSecurePrint
         && settings.passcode.value_or(QString()).isEmpty();
+}
+
+JobTypeState jobTypeState(const PaperOutputSettings &settings)
+{
+    return {settings.jobType, !settings.passcode.value_or(QString()).isEmpty(),
+            settings.faxRecipients && !settings.faxRecipients->isEmpty()};
+}
+
+void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now)
+{
+    if (settings.jobType == kJobTypeDelayedPrint && settings.delayedPrintTime < now)
+        settings.delayedPrintTime = delayedPrintTime(timeOf(settings.delayedPrintTime), now);
 }
 
 } // namespace kelvo

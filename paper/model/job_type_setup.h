@@ -1,5 +1,8 @@
 #pragma once
 
+#include "long_date.h"
+#include "pde_session.h"
+
 #include <cstdint>
 
 namespace kelvo {
@@ -16,5 +19,10 @@ void changeJobType(PaperOutputSettings &settings, std::int32_t jobType);
 
 // A secure print that cannot be printed yet, as it has no passcode.
 bool lacksPasscode(const PaperOutputSettings &settings);
+
+// What the Print button looks at.
+JobTypeState jobTypeState(const PaperOutputSettings &settings);
+// At Print: a ticket or preset may be older than its time, and the job waits for the next one.
+void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now);
 
 } // namespace kelvo

@@ -125,7 +125,7 @@ void describePaper(const PaperOutputSettings &settings, PanelDescription &panel)
         addOwn("MediaType", "Paper Type in Words", type);
     else
         panel.addChoice("MediaType", kStockButton);
-    QStringList properties = stockPropertyLines(device.bundle, stock);
+    QStringList properties = stockPropertyLines(device, stock);
     properties.replaceInStrings(QStringLiteral("- "), QString());
     panel.add("JobLevelStock", "Paper Properties in Words", properties.join(QStringLiteral(", ")),
               kStockButton);

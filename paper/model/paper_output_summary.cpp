@@ -14,12 +14,6 @@ namespace kelvo {
 
 namespace {
 
-QString mapText(const Device &device, const SettingMap *map, std::int32_t value)
-{
-    const char *key = LocalizedKeyForTicketValue(map, value);
-    return key ? device.text(key) : QString();
-}
-
 QString valueText(const Device &device, const char *option, std::int32_t value)
 {
     return PPDCopyTextForTicketValue(device.ppd, QString::fromLatin1(option), value)
@@ -45,10 +39,10 @@ std::vector<SummaryLine> paperOutputSummary(const PaperOutputSettings &settings,
         addSummaryLine(lines, device, labelKey, text);
     };
     const FinishingDevices devices = finishingDevices(device);
-    add("Job Type:", mapText(device, JobTypeMap, settings.jobType));
+    add("Job Type:", textOfValue(device, JobTypeMap, settings.jobType));
     add("Paper Summary:", stockSummaryText(device, kJobContextJob, &settings.jobStock));
     if (device.hasOption(QStringLiteral("Duplex")))
-        add("Two Sided Printing:", mapText(device, PlexMap, shownTwoSided(settings)));
+        add("Two Sided Printing:", textOfValue(device, PlexMap, shownTwoSided(settings)));
     add("Output Color:", valueText(device, "KVColorMode", settings.colorMode));
     if (devices.stapler)
         add("Stapling:", stapleText(settings, device));
@@ -87,7 +81,7 @@ QString paperText(const PaperOutputSettings &settings, const Device &device)
 
 QString separatorsText(const PaperOutputSettings &settings, const Device &device)
 {
-    return mapText(device, SeparatorOptionMap, settings.separators);
+    return textOfValue(device, SeparatorOptionMap, settings.separators);
 }
 
 } // namespace kelvo

@@ -1,13 +1,14 @@
 #include "separators.h"
 
+#include "offered_choices.h"
 #include "ppd_choices.h"
 #include "print_session.h"
+#include "setting_maps.h"
 
 namespace kelvo {
 
 namespace {
 
-const QString printOption = QStringLiteral("KVSlipSheetPrint");
 const QString sourceOption = QStringLiteral("KVSlipSheetSource");
 
 } // namespace
@@ -16,7 +17,7 @@ void readSeparators(std::int32_t &separators, Stock &separatorStock, const Ticke
                     const Device &device)
 {
     separators = kSeparatorsNone;
-    PPDGetTicketValueForChoiceOrDefault(device.ppd, printSettings, printOption, &separators);
+    PPDGetTicketValueForChoiceOrDefault(device.ppd, printSettings, kSeparatorsOption, &separators);
     separatorStock = Stock();
     if (separators != kSeparatorsNone) {
         std::int32_t source = kNoPpdChoice;
@@ -27,8 +28,8 @@ void readSeparators(std::int32_t &separators, Stock &separatorStock, const Ticke
 
 void writeSeparators(std::int32_t separators, const Stock &separatorStock, Ticket &printSettings)
 {
-    PPDSetCurrentChoice(printSettings, printOption,
-                        PPDChoiceForTicketValue(printOption, separators));
+    PPDSetCurrentChoice(printSettings, kSeparatorsOption,
+                        PPDChoiceForTicketValue(kSeparatorsOption, separators));
     if (separators != kSeparatorsNone)
         PPDSetCurrentChoice(printSettings, sourceOption,
                             PPDChoiceForTicketValue(sourceOption, separatorStock.source()));
@@ -52,6 +53,19 @@ OSStatus SyncSeparatorsToTicket(PMTicketRef ticket, std::int32_t separators,
         return paramErr;
     writeSeparators(separators, *separatorStock, *printSettings);
     return noErr;
+}
+
+Menu separatorsMenu(const Device &device, OSType command)
+{
+    Menu menu;
+    if (device.hasOption(kSeparatorsOption))
+        PopulateMenuWithOfferedChoices(menu, device.ppd, kSeparatorsOption, command);
+    for (MenuItem &item : menu.items) {
+        const QString name = textOfValue(device, SeparatorOptionMap, item.reference);
+        if (!name.isEmpty())
+            item.text = name;
+    }
+    return menu;
 }
 
 QString separatorSummary(const Device &device, std::int32_t separators, const Stock &separatorStock)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device.h"
+#include "menu.h"
 #include "plugin_abi.h"
 #include "stock.h"
 #include "ticket.h"
@@ -12,7 +13,7 @@
 // Sheets between transparencies.
 namespace kelvo {
 
-inline constexpr std::int32_t kSeparatorsNone = 1; // "KVSlipSheetPrint"
+inline constexpr std::int32_t kSeparatorsNone = 1; // of kSeparatorsOption
 inline constexpr std::int32_t kSeparatorsBlank = 2;
 inline constexpr std::int32_t kSeparatorsPrinted = 3;
 
@@ -27,6 +28,12 @@ OSStatus SyncSeparatorsFromTicket(PMTicketRef ticket, std::int32_t *separators,
                                   Stock *separatorStock);
 OSStatus SyncSeparatorsToTicket(PMTicketRef ticket, std::int32_t separators,
                                 const Stock *separatorStock);
+
+inline const QString kSeparatorsOption = QStringLiteral("KVSlipSheetPrint");
+
+// The PPD's separators under the names that every other window uses; empty where the device
+// has none.
+Menu separatorsMenu(const Device &device, OSType command);
 
 // "- Separators:Tray 1" for blank and printed separators, else empty.
 QString separatorSummary(const Device &device, std::int32_t separators,

@@ -14,7 +14,7 @@ const QString option = QStringLiteral("Duplex");
 Menu twoSidedMenu(const Device &device)
 {
     Menu menu;
-    PopulateMenuFromMap(device.bundle, menu, PlexMap, kJobContextJob, kNoCommand);
+    PopulateMenuFromMap(device, menu, PlexMap, kJobContextJob, kNoCommand);
     if (device.hasOption(option))
         removeWhatIsNotOffered(menu, device.ppd, option);
     else

@@ -11,12 +11,10 @@
 #include "picture_view.h"
 #include "popups.h"
 #include "ticket_places.h"
-#include "ticket_values.h"
 
 #include <QLabel>
 
 #include <algorithm>
-#include <iterator>
 
 namespace kelvo {
 
@@ -33,30 +31,27 @@ constexpr ControlID kNote{kPanelSignature, 8005};
 struct DialogRow
 {
     FinishingDialogKind kind;
-    OSType menuCommand;
-    const char *menuText;
     const char *title;
     const char *label;
     const char *limits;
     const char *helpPage;
 };
 
-// In the order of the menu.
 // clang-format off
 constexpr DialogRow kDialogRows[] = {
-    {FinishingDialogKind::SingleStaple, kCommandSingleStapleDialog, "1 Staple...", "1 Staple Title", "Staples:", "Staple Limits",
+    {FinishingDialogKind::SingleStaple, "1 Staple Title", "Staples:", "Staple Limits",
      "paper_output/finishing/db_1_staple_d.htm"},
-    {FinishingDialogKind::DualStaple, kCommandDualStapleDialog, "2 Staples...", "2 Staples Title", "Staples:", "Staple Limits",
+    {FinishingDialogKind::DualStaple, "2 Staples Title", "Staples:", "Staple Limits",
      "paper_output/finishing/db_2_staples_d.htm"},
-    {FinishingDialogKind::HolePunch, kCommandHolePunchDialog, "Hole Punch...", "Hole Punch Title", "Holes:", "Hole Punch Limits",
+    {FinishingDialogKind::HolePunch, "Hole Punch Title", "Holes:", "Hole Punch Limits",
      "paper_output/finishing/db_2_3_or_4_hole_punch_d.htm"},
-    {FinishingDialogKind::Fold, kCommandFoldDialog, "Fold...", "Fold Title", "Fold:", "Fold Limits",
+    {FinishingDialogKind::Fold, "Fold Title", "Fold:", "Fold Limits",
      "paper_output/finishing/db_folding.htm"},
-    {FinishingDialogKind::AdvancedFold, kCommandAdvancedFoldDialog, "Advanced Fold...", "Advanced Fold Title", "Fold:", "Fold Limits",
+    {FinishingDialogKind::AdvancedFold, "Advanced Fold Title", "Fold:", "Fold Limits",
      "paper_output/finishing/db_folding_db.htm"},
-    {FinishingDialogKind::ZFold, kCommandZFoldDialog, "Z Fold...", "Z Fold Title", "Fold:", "Fold Limits",
+    {FinishingDialogKind::ZFold, "Z Fold Title", "Fold:", "Fold Limits",
      "paper_output/finishing/db_folding_db.htm"},
-    {FinishingDialogKind::Bind, kCommandBindDialog, "Bind...", "Bind Title", "Bind:", "Bind Limits",
+    {FinishingDialogKind::Bind, "Bind Title", "Bind:", "Bind Limits",
      "paper_output/finishing/db_bind_d.htm"},
 };
 // clang-format on
@@ -66,14 +61,9 @@ const DialogRow &rowOf(FinishingDialogKind kind)
     return *std::ranges::find(kDialogRows, kind, &DialogRow::kind);
 }
 
-QString textOf(CFBundleRef bundle, const char *key)
-{
-    return localizedText(bundle, QString::fromLatin1(key));
-}
-
 struct ChoiceDialog
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     FinishingDialogKind kind = FinishingDialogKind::SingleStaple;
     const PaperOutputSettings *settings = nullptr; // as it was before OK
     std::vector<FinishingChoice> choices;
@@ -89,10 +79,10 @@ void showChoice(const ChoiceDialog &dialog)
 {
     const FinishingChoice &chosen = dialog.choices[dialog.chosen];
     dialog.choice->setValue(static_cast<int>(dialog.chosen) + 1);
-    dialog.hint->setText(textOf(dialog.bundle, chosen.hintKey));
-    showBundlePicture(dialog.picture, dialog.bundle,
+    dialog.hint->setText(dialog.device.text(chosen.hintKey));
+    showBundlePicture(dialog.picture, dialog.device.bundle,
                       finishingChoicePicture(dialog.kind, *dialog.settings, chosen),
-                      textOf(dialog.bundle, chosen.key));
+                      dialog.device.text(chosen.key));
 }
 
 OSStatus choiceEventHandler(ChoiceDialog &dialog, const Event &event)
@@ -106,36 +96,18 @@ OSStatus choiceEventHandler(ChoiceDialog &dialog, const Event &event)
     return noErr;
 }
 
-TicketPlace placeOf(FinishingDialogKind kind)
-{
-    switch (kind) {
-    case FinishingDialogKind::SingleStaple:
-    case FinishingDialogKind::DualStaple:
-        return {kPPDChoices, QStringLiteral("StapleLocation")};
-    case FinishingDialogKind::HolePunch:
-        return {kPPDChoices, QStringLiteral("KVPunch")};
-    case FinishingDialogKind::Fold:
-    case FinishingDialogKind::AdvancedFold:
-    case FinishingDialogKind::ZFold:
-        return {kPPDChoices, QStringLiteral("KVFold")};
-    case FinishingDialogKind::Bind:
-        return {kPMPrintSettingsTicket, ticketKey("FinishingBindValue")};
-    }
-    Q_UNREACHABLE();
-}
-
 void fillChoices(const ChoiceDialog &dialog)
 {
     Menu menu;
     for (const FinishingChoice &choice : dialog.choices) {
         MenuItem item;
-        item.text = textOf(dialog.bundle, choice.key);
+        item.text = dialog.device.text(choice.key);
         item.key = QString::fromLatin1(choice.key);
         item.reference = choice.value;
         menu.items.push_back(std::move(item));
     }
     dialog.choice->setMenu(std::move(menu));
-    setTicketPlaces(dialog.choice, {placeOf(dialog.kind)});
+    setTicketPlaces(dialog.choice, {finishingPlace(dialog.kind)});
 }
 
 // The sentence changes with the choice, the window's size must not.
@@ -143,23 +115,10 @@ void reserveHeight(const ChoiceDialog &dialog)
 {
     int height = 0;
     for (const FinishingChoice &choice : dialog.choices) {
-        dialog.hint->setText(textOf(dialog.bundle, choice.hintKey));
+        dialog.hint->setText(dialog.device.text(choice.hintKey));
         height = std::max(height, dialog.hint->heightForWidth(dialog.hint->minimumWidth()));
     }
     dialog.hint->setMinimumHeight(height);
-}
-
-// What OK does beyond the choice.
-QString noteFor(const ChoiceDialog &dialog)
-{
-    QStringList sentences;
-    const Finishing &finishing = dialog.settings->finishing;
-    if (const char *replaced = replacedFinishing(dialog.kind, dialog.choices, finishing))
-        sentences +=
-            textOf(dialog.bundle, "Finishing Replaced").arg(textOf(dialog.bundle, replaced));
-    if (endsBooklet(dialog.kind, *dialog.settings))
-        sentences += textOf(dialog.bundle, "Finishing Ends Booklet");
-    return sentences.join(u' ');
 }
 
 void showTexts(const ChoiceDialog &dialog)
@@ -167,33 +126,33 @@ void showTexts(const ChoiceDialog &dialog)
     const DialogRow &row = rowOf(dialog.kind);
     QWidget *window = dialog.window.get();
     const QString label = QString::fromLatin1(row.label);
-    SetLocalizedWindowTitle(dialog.bundle, QString::fromLatin1(row.title), window);
-    SetLocalizedStaticText(dialog.bundle, label, findControl<QLabel>(window, kChoiceLabel));
-    dialog.choice->setAccessibleName(textOf(dialog.bundle, row.title));
+    SetLocalizedWindowTitle(dialog.device.bundle, QString::fromLatin1(row.title), window);
+    SetLocalizedStaticText(dialog.device.bundle, label, findControl<QLabel>(window, kChoiceLabel));
+    dialog.choice->setAccessibleName(dialog.device.text(row.title));
     if (auto *limits = findControl<QLabel>(window, kLimits)) {
         // Not every device can do what its menu names.
         const bool hasChoice = dialog.choices.size() > 1;
-        limits->setText(textOf(dialog.bundle, hasChoice ? row.limits : "Not on This Device"));
+        limits->setText(dialog.device.text(hasChoice ? row.limits : "Not on This Device"));
         makeHintText(limits);
     }
     if (auto *note = findControl<QLabel>(window, kNote)) {
-        note->setText(noteFor(dialog));
+        note->setText(finishingNote(dialog.kind, dialog.choices, *dialog.settings, dialog.device));
         note->setVisible(!note->text().isEmpty());
     }
 }
 
 // The window of any choice of finishing, as `kind` fills it.
-ChoiceDialog CreateFinishingDialog(CFBundleRef bundle, FinishingDialogKind kind,
+ChoiceDialog CreateFinishingDialog(const Device &device, FinishingDialogKind kind,
                                    const PaperOutputSettings &settings, QWidget *parent)
 {
     ChoiceDialog dialog;
-    dialog.bundle = bundle;
+    dialog.device = device;
     dialog.kind = kind;
     dialog.settings = &settings;
-    dialog.choices = finishingChoices(kind, currentDevice());
+    dialog.choices = finishingChoices(kind, device);
     dialog.chosen = initialChoice(kind, dialog.choices, settings.finishing);
     auto window =
-        createModalDialog(bundle, QStringLiteral("FinishingDialogs"),
+        createModalDialog(device.bundle, QStringLiteral("FinishingDialogs"),
                           QStringLiteral("ChoiceDialog"), parent, {kChoice, kPicture, kChoiceHint});
     if (!window)
         return dialog;
@@ -209,12 +168,15 @@ ChoiceDialog CreateFinishingDialog(CFBundleRef bundle, FinishingDialogKind kind,
     return dialog;
 }
 
-OSStatus runChoiceDialog(CFBundleRef bundle, FinishingDialogKind kind,
-                         PaperOutputSettings *settings, DialogResult *result, QWidget *parent)
+} // namespace
+
+OSStatus RunModalFinishingDialog(const Device &device, FinishingDialogKind kind,
+                                 PaperOutputSettings *settings, DialogResult *result,
+                                 QWidget *parent)
 {
-    if (!bundle || !settings || !result)
+    if (!device.bundle || !settings || !result)
         return paramErr;
-    ChoiceDialog dialog = CreateFinishingDialog(bundle, kind, *settings, parent);
+    ChoiceDialog dialog = CreateFinishingDialog(device, kind, *settings, parent);
     if (!dialog.window)
         return kWindowNotMade;
     const EventHandlerRef handler =
@@ -225,85 +187,6 @@ OSStatus runChoiceDialog(CFBundleRef bundle, FinishingDialogKind kind,
     if (*result == DialogResult::OK)
         applyFinishingChoice(*settings, dialog.choices[dialog.chosen]);
     return noErr;
-}
-
-void appendItem(Menu &menu, const Device &device, const char *key, OSType command)
-{
-    MenuItem item;
-    item.text = device.text(key);
-    item.key = QString::fromLatin1(key);
-    item.command = command;
-    menu.items.push_back(std::move(item));
-}
-
-} // namespace
-
-void PopulateMoreFinishingMenu(Menu &menu, const Device &device)
-{
-    for (const DialogRow &row : kDialogRows) {
-        if (finishingChoices(row.kind, device).size() > 1)
-            appendItem(menu, device, row.menuText, row.menuCommand);
-    }
-    appendItem(menu, device, "Offset...", kCommandOffsetDialog);
-    appendItem(menu, device, "Custom Finishing...", kCommandCustomFinishingDialog);
-}
-
-void MarkMoreFinishingMenu(Menu &menu, const PaperOutputSettings &settings, const Device &device)
-{
-    const Finishing &finishing = settings.finishing;
-    for (MenuItem &item : menu.items) {
-        const auto row = std::ranges::find(kDialogRows, item.command, &DialogRow::menuCommand);
-        if (row != std::end(kDialogRows)) {
-            const auto choices = finishingChoices(row->kind, device);
-            item.checked = findSetChoice(row->kind, choices, finishing).value_or(0) != 0;
-        } else if (item.command == kCommandOffsetDialog) {
-            item.checked = finishing.offset >= kOffsetSets;
-        } else if (item.command == kCommandCustomFinishingDialog) {
-            item.checked = !finishing.custom.isEmpty();
-        }
-    }
-}
-
-OSStatus RunModal1StapleFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
-                                        DialogResult *result, QWidget *parent)
-{
-    return runChoiceDialog(bundle, FinishingDialogKind::SingleStaple, settings, result, parent);
-}
-
-OSStatus RunModal2StaplesFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
-                                         DialogResult *result, QWidget *parent)
-{
-    return runChoiceDialog(bundle, FinishingDialogKind::DualStaple, settings, result, parent);
-}
-
-OSStatus RunModalHolePunchFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
-                                          DialogResult *result, QWidget *parent)
-{
-    return runChoiceDialog(bundle, FinishingDialogKind::HolePunch, settings, result, parent);
-}
-
-OSStatus RunModalFoldFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
-                                     DialogResult *result, QWidget *parent)
-{
-    return runChoiceDialog(bundle, FinishingDialogKind::Fold, settings, result, parent);
-}
-
-OSStatus RunModalAdvancedFoldFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
-                                             DialogResult *result, QWidget *parent)
-{
-    return runChoiceDialog(bundle, FinishingDialogKind::AdvancedFold, settings, result, parent);
-}
-
-OSStatus RunModalZFoldFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
-                                      DialogResult *result, QWidget *parent)
-{
-    return runChoiceDialog(bundle, FinishingDialogKind::ZFold, settings, result, parent);
-}
-
-OSStatus RunModalBindFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
-                                     DialogResult *result, QWidget *parent)
-{
-    return runChoiceDialog(bundle, FinishingDialogKind::Bind, settings, result, parent);
 }
 
 } // namespace kelvo

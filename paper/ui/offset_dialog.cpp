@@ -8,7 +8,6 @@
 #include "paper_output_settings.h"
 #include "picture_view.h"
 #include "popups.h"
-#include "setting_map.h"
 #include "spin_field.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
@@ -28,7 +27,7 @@ constexpr ControlID kHint{kPanelSignature, 8105};
 
 struct OffsetDialog
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     OffsetSettings settings;
     std::unique_ptr<ModalDialog> window;
     PopupButton *offset = nullptr;
@@ -46,7 +45,7 @@ void showSettings(const OffsetDialog &dialog)
     dialog.subsets->setEnabled(isSubsetSwitchEnabled(settings));
     dialog.pagesPerSubset->setValue(settings.pagesPerSubset);
     setEnabledWithLabel(dialog.pagesPerSubset, settings.hasSubsets);
-    showBundlePicture(dialog.picture, dialog.bundle, offsetPicture(settings.offset),
+    showBundlePicture(dialog.picture, dialog.device.bundle, offsetPicture(settings.offset),
                       dialog.offset->currentText());
 }
 
@@ -66,21 +65,6 @@ OSStatus offsetEventHandler(OffsetDialog &dialog, const Event &event)
     return noErr;
 }
 
-// An offset that cannot be chosen here stands in front until another is chosen:
-// the pop-up says what is set, and OK keeps it.
-void fillOffsets(const OffsetDialog &dialog)
-{
-    Menu menu;
-    if (TicketToUI(OffsetMap, dialog.settings.offset) < 0) {
-        MenuItem item;
-        item.text = localizedText(dialog.bundle, QStringLiteral("PrinterDefault"));
-        item.reference = dialog.settings.offset;
-        menu.items.push_back(std::move(item));
-    }
-    PopulateMenuFromMap(dialog.bundle, menu, OffsetMap, kJobContextJob, kNoCommand);
-    dialog.offset->setMenu(std::move(menu));
-}
-
 void tellTicketPlaces(const OffsetDialog &dialog)
 {
     const auto entry = [](const char *name) {
@@ -94,16 +78,16 @@ void tellTicketPlaces(const OffsetDialog &dialog)
 
 } // namespace
 
-OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, PaperOutputSettings *settings,
+OSStatus RunModalOffsetFinishingDialog(const Device &device, PaperOutputSettings *settings,
                                        DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !settings || !result)
+    if (!device.bundle || !settings || !result)
         return paramErr;
     OffsetDialog dialog;
-    dialog.bundle = bundle;
+    dialog.device = device;
     dialog.settings = offsetOf(settings->finishing);
     dialog.window = createModalDialog(
-        bundle, QStringLiteral("FinishingDialogs"), QStringLiteral("OffsetDialog"), parent,
+        device.bundle, QStringLiteral("FinishingDialogs"), QStringLiteral("OffsetDialog"), parent,
         [&dialog](NeededControls &needed) {
             dialog.offset = needed.find<PopupButton>(kOffset);
             dialog.picture = needed.find<PictureView>(kPicture);
@@ -115,7 +99,7 @@ OSStatus RunModalOffsetFinishingDialog(CFBundleRef bundle, PaperOutputSettings *
     QWidget *window = dialog.window.get();
     makeHintText(findControl<QLabel>(window, kHint));
     dialog.pagesPerSubset->setMaximum(kMostPagesPerSubset);
-    fillOffsets(dialog);
+    dialog.offset->setMenu(offsetMenu(device, dialog.settings.offset));
     tellTicketPlaces(dialog);
     showSettings(dialog);
     const EventHandlerRef handler = installEventHandler(

@@ -6,6 +6,7 @@
 #include "finishing_dialogs.h"
 #include "job_type_setup.h"
 #include "lan_fax_setup.h"
+#include "more_finishing.h"
 #include "popups.h"
 #include "saved_job_dialog.h"
 #include "secure_print_dialog.h"
@@ -22,7 +23,7 @@ void runJobTypeSetup(_PaperOutputContext &panel)
     switch (panel.settings.jobType) {
     case kJobTypeSaved: {
         SavedJobData data{panel.settings.savedJob, panel.settings.passcode, panel.documentName};
-        if (RunModalSavedJobDialog(panel.bundle, &data, panel.content) == noErr) {
+        if (RunModalSavedJobDialog(panel.device, &data, panel.content) == noErr) {
             panel.settings.savedJob = data.job;
             panel.settings.passcode = data.passcode;
         }
@@ -54,7 +55,7 @@ void chooseJobType(_PaperOutputContext &panel)
 
 void createBooklet(_PaperOutputContext &panel)
 {
-    BookletLayout &layout = panel.settings.bookletLayout;
+    const BookletLayout &layout = panel.settings.bookletLayout;
     _BookletCreationParams params{panel.bundle,
                                   panel.settings.finishing.fold,
                                   panel.settings.booklet,
@@ -64,21 +65,15 @@ void createBooklet(_PaperOutputContext &panel)
                                   layout.creep};
     if (RunModalBookletCreationDialog(&params, panel.content) != noErr)
         return;
-    const bool wasBooklet = panel.settings.isBooklet();
-    panel.settings.finishing.fold = params.fold;
-    panel.settings.booklet = params.booklet;
-    layout = {params.pageBorders, params.gutter, params.creep, params.newSize};
-    if (panel.settings.isBooklet())
-        panel.settings.duplex = kPlexDuplexShort;
-    else if (wasBooklet)
-        UnselectBooklet(panel.settings);
+    takeBooklet(panel.settings, params.fold, params.booklet,
+                {params.pageBorders, params.gutter, params.creep, params.newSize});
 }
 
 void editCovers(_PaperOutputContext &panel)
 {
     DialogResult outcome = DialogResult::Cancel;
     const bool hasCovers = panel.settings.frontCover || panel.settings.backCover;
-    RunModalCoversDialog(panel.bundle, hasCovers ? kDialogModeEdit : kDialogModeAdd,
+    RunModalCoversDialog(panel.device, hasCovers ? kDialogModeEdit : kDialogModeAdd,
                          &panel.settings.jobStock, &panel.settings.frontCover,
                          &panel.settings.backCover, &outcome, panel.content);
     showCovers(panel);
@@ -87,36 +82,9 @@ void editCovers(_PaperOutputContext &panel)
 void editSeparators(_PaperOutputContext &panel)
 {
     DialogResult result = DialogResult::Cancel;
-    RunModalSeparatorsDialog(panel.bundle, &panel.settings.separators,
+    RunModalSeparatorsDialog(panel.device, &panel.settings.separators,
                              &panel.settings.separatorStock, &result, panel.content);
     showStockAndSeparators(panel);
-}
-
-using FinishingDialog = OSStatus (*)(CFBundleRef, PaperOutputSettings *, DialogResult *, QWidget *);
-FinishingDialog findFinishingDialog(OSType command)
-{
-    switch (command) {
-    case kCommandSingleStapleDialog:
-        return RunModal1StapleFinishingDialog;
-    case kCommandDualStapleDialog:
-        return RunModal2StaplesFinishingDialog;
-    case kCommandHolePunchDialog:
-        return RunModalHolePunchFinishingDialog;
-    case kCommandFoldDialog:
-        return RunModalFoldFinishingDialog;
-    case kCommandAdvancedFoldDialog:
-        return RunModalAdvancedFoldFinishingDialog;
-    case kCommandZFoldDialog:
-        return RunModalZFoldFinishingDialog;
-    case kCommandBindDialog:
-        return RunModalBindFinishingDialog;
-    case kCommandOffsetDialog:
-        return RunModalOffsetFinishingDialog;
-    case kCommandCustomFinishingDialog:
-        return RunModalCustomFinishingDialog;
-    default:
-        return nullptr;
-    }
 }
 
 OSStatus takeCommand(_PaperOutputContext &panel, OSType command, std::int32_t value)
@@ -128,8 +96,12 @@ OSStatus takeCommand(_PaperOutputContext &panel, OSType command, std::int32_t va
         editSeparators(panel);
     } else if (command == kCommandBookletCreation) {
         createBooklet(panel);
-    } else if (const FinishingDialog runModal = findFinishingDialog(command)) {
-        runModal(panel.bundle, &panel.settings, &result, panel.content);
+    } else if (const auto kind = findFinishingDialog(command)) {
+        RunModalFinishingDialog(panel.device, *kind, &panel.settings, &result, panel.content);
+    } else if (command == kCommandOffsetDialog) {
+        RunModalOffsetFinishingDialog(panel.device, &panel.settings, &result, panel.content);
+    } else if (command == kCommandCustomFinishingDialog) {
+        RunModalCustomFinishingDialog(panel.bundle, &panel.settings, &result, panel.content);
     } else if (!applyFinishingCommand(panel.settings, command, value)) {
         return eventNotHandledErr;
     }

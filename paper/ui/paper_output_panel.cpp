@@ -1,6 +1,7 @@
 #include "paper_output_panel.h"
 
 #include "delayed_print.h"
+#include "job_type_setup.h"
 #include "paper_output_events.h"
 #include "paper_output_summary.h"
 #include "pde_session.h"
@@ -9,25 +10,16 @@ namespace kelvo {
 
 namespace {
 
-JobTypeState jobTypeState(PMPDEContext context)
+JobTypeState jobTypeStateOf(PMPDEContext context)
 {
     const auto *panel = panelOf<_PaperOutputContext>(context);
-    if (!panel)
-        return {};
-    return {panel->settings.jobType,
-            panel->settings.passcode && !panel->settings.passcode->isEmpty(),
-            panel->settings.faxRecipients && !panel->settings.faxRecipients->isEmpty()};
+    return panel ? jobTypeState(panel->settings) : JobTypeState();
 }
 
-// A ticket or preset may be older than its time: the job waits for the next one.
 void prepareToPrint(PMPDEContext context)
 {
-    auto *panel = panelOf<_PaperOutputContext>(context);
-    const LongDateTime now = currentLongDate();
-    if (panel && panel->settings.jobType == kJobTypeDelayedPrint
-        && panel->settings.delayedPrintTime < now)
-        panel->settings.delayedPrintTime =
-            delayedPrintTime(timeOf(panel->settings.delayedPrintTime), now);
+    if (auto *panel = panelOf<_PaperOutputContext>(context))
+        settleDelayedPrint(panel->settings, currentLongDate());
 }
 
 void runFaxSetupFor(PMPDEContext context)
@@ -42,7 +34,7 @@ _PaperOutputContext::_PaperOutputContext()
     : PanelContext(traits)
 {
     initializePaperOutput(settings, currentLongDate());
-    setJobTypeProvider(jobTypeState);
+    setJobTypeProvider(jobTypeStateOf);
     setFaxSetupRunner(runFaxSetupFor);
     setPrintPreparation(prepareToPrint);
 }
@@ -88,7 +80,7 @@ OSStatus _PaperOutputContext::build()
         [this](const Event &event) { return PaperOutputEventHandler(*this, event); });
     if (status != noErr)
         return status;
-    stockButtonData.bundle = bundle;
+    stockButtonData.device = device;
     stockButtonData.stock = &settings.jobStock;
     stockButtonData.jobContext = kJobContextJob;
     stockButtonData.summary = controls.stockSummary;

@@ -1,10 +1,10 @@
 #include "paper_output_view.h"
 
 #include "bundle_picture.h"
-#include "finishing_dialogs.h"
 #include "finishing_ticket.h"
 #include "hint_text.h"
 #include "job_type_setup.h"
+#include "more_finishing.h"
 #include "output_destinations.h"
 #include "paper_output_pictures.h"
 #include "paper_output_summary.h"
@@ -18,23 +18,6 @@
 #include <QPushButton>
 
 namespace kelvo {
-
-namespace {
-
-// What the summary has no line for.
-void showMoreFinishing(const _PaperOutputContext &panel)
-{
-    QStringList names;
-    for (const MenuItem &item : panel.controls.moreFinishing->menu().items) {
-        if (item.checked
-            && (item.command == kCommandBindDialog || item.command == kCommandOffsetDialog
-                || item.command == kCommandCustomFinishingDialog))
-            names << QString(item.text).remove(QStringLiteral("…"));
-    }
-    panel.controls.moreFinishingSummary->setText(names.join(QStringLiteral(", ")));
-}
-
-} // namespace
 
 PaperOutputControls findPaperOutputControls(NeededControls &needed)
 {
@@ -71,7 +54,7 @@ PaperOutputControls findPaperOutputControls(NeededControls &needed)
 void fillPaperOutputControls(_PaperOutputContext &panel)
 {
     const PaperOutputControls &controls = panel.controls;
-    PopulatePopupButtonFromMap(panel.bundle, controls.jobType, JobTypeMap, kJobContextJob,
+    PopulatePopupButtonFromMap(panel.device, controls.jobType, JobTypeMap, kJobContextJob,
                                kNoCommand);
     setTicketPlaces(controls.jobType,
                     {{kPMPrintSettingsTicket, ticketKey("JobType"), QStringLiteral("JobType")}});
@@ -146,11 +129,9 @@ void showFinishing(const _PaperOutputContext &panel)
         return;
     MarkFinishingMenu(controls.finishingButton->menu(), panel.settings);
     MarkMoreFinishingMenu(controls.moreFinishing->menu(), panel.settings, panel.device);
-    showMoreFinishing(panel);
+    controls.moreFinishingSummary->setText(moreFinishingText(panel.settings, panel.device));
     UpdateSummaryTextView(controls.finishingSummary, finishingText(panel.settings, panel.device));
-    showChoice(panel.bundle, controls.stapling,
-               panel.settings.finishing.hasUnknownStaple ? kNoPpdChoice
-                                                         : chosenStaple(panel.settings.finishing));
+    showChoice(panel.bundle, controls.stapling, shownStaple(panel.settings.finishing));
     showChoice(panel.bundle, controls.holePunch, panel.settings.finishing.punch);
     showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel.settings));
     showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.settings.finishing));

@@ -43,7 +43,7 @@ constexpr int kLongestMailboxNumber = 3; // digits
 
 struct SavedJobContext
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     std::unique_ptr<ModalDialog> window;
     DialogResult result = DialogResult::Cancel;
     SavedJobData data;
@@ -78,7 +78,7 @@ void findControls(SavedJobContext &context, NeededControls &needed)
 void fillControls(const SavedJobContext &context)
 {
     KComboBoxOptions names;
-    names.bundle = context.bundle;
+    names.bundle = context.device.bundle;
     names.historyKey = QStringLiteral("savedJobNames");
     names.historyLimit = kHistoryLength;
     names.maximumLength = kLongestSavedJobName;
@@ -87,25 +87,25 @@ void fillControls(const SavedJobContext &context)
     if (const std::optional<QString> elsewhere = locationElsewhere(context.data.job))
         context.mailbox->appendItem(nameOfLocation(*elsewhere));
     KComboBoxOptions mailboxes;
-    mailboxes.bundle = context.bundle;
+    mailboxes.bundle = context.device.bundle;
     mailboxes.historyKey = QStringLiteral("mailboxNumbers");
     mailboxes.historyLimit = kHistoryLength;
     mailboxes.maximumLength = kLongestMailboxNumber;
     mailboxes.allowed = InputLimits::decimalDigits();
     KComboBoxInitializeWithMapAndHistory(context.mailbox, mailboxes);
     const QStringList range = {QString::number(kFirstMailbox), QString::number(kLastMailbox)};
-    SetLocalizedStaticText(context.bundle, QStringLiteral("Mailbox Number Label"),
+    SetLocalizedStaticText(context.device.bundle, QStringLiteral("Mailbox Number Label"),
                            findControl<QLabel>(context.window.get(), kMailboxLabel), range);
-    context.mailbox->setAccessibleName(
-        formatted(localizedText(context.bundle, QStringLiteral("Mailbox Number Spoken")), range));
+    context.mailbox->setAccessibleName(formatted(
+        localizedText(context.device.bundle, QStringLiteral("Mailbox Number Spoken")), range));
     makeHintText(context.mailboxHint);
 
     SetLocalizedStaticText(
-        context.bundle, QStringLiteral("Saved Job Passcode Hint"), context.passcodeHint,
+        context.device.bundle, QStringLiteral("Saved Job Passcode Hint"), context.passcodeHint,
         {QString::number(kShortestSavedJobPasscode), QString::number(kLongestPasscode)});
     keepPlaceWhenHidden(context.passcodeHint);
 
-    PopulatePopupButtonFromMap(context.bundle, context.format, SavedJobFormatMap, kJobContextJob,
+    PopulatePopupButtonFromMap(context.device, context.format, SavedJobFormatMap, kJobContextJob,
                                kNoCommand);
 }
 
@@ -118,7 +118,7 @@ void showMailboxHint(const SavedJobContext &context)
     if (!elsewhere.isEmpty())
         key = context.mailbox->text() == elsewhere ? QStringLiteral("Mailbox Elsewhere Hint")
                                                    : QStringLiteral("Mailbox Not Elsewhere Hint");
-    SetLocalizedStaticText(context.bundle, key, context.mailboxHint, {elsewhere});
+    SetLocalizedStaticText(context.device.bundle, key, context.mailboxHint, {elsewhere});
     context.mailbox->setAccessibleDescription(context.mailboxHint->text());
 }
 
@@ -137,7 +137,7 @@ void syncToUI(const SavedJobContext &context)
     okButton->setAccessibleDescription(mayAccept ? QString() : context.passcodeHint->text());
     context.passcodeHint->setVisible(!mayAccept);
     // The pop-up beside it says which format it is.
-    showJobTypePicture(context.bundle, context.window.get(), kFormatPictureView,
+    showJobTypePicture(context.device.bundle, context.window.get(), kFormatPictureView,
                        fileFormatPicture(GetPopupButtonTicketValue(context.format)),
                        QStringLiteral("File Format Picture"));
 }
@@ -158,7 +158,7 @@ void RestoreUIValuesFromData(SavedJobContext &context)
     KComboBoxSetValue(context.mailbox, mailboxText(job));
     context.mailbox->lineEdit()->setCursorPosition(0);
     context.disposition->setValue(job.saveDisposition);
-    showChoice(context.bundle, context.format, job.fileFormat);
+    showChoice(context.device.bundle, context.format, job.fileFormat);
     const QString passcode = context.data.passcode.value_or(QString());
     context.secure->setChecked(!passcode.isEmpty());
     setPasscode(context.fields, passcode);
@@ -179,8 +179,7 @@ void SaveUIValuesToData(SavedJobContext &context)
     // What the controls cannot show stays as it was.
     if (const int position = context.disposition->value())
         job.saveDisposition = position;
-    if (context.format->value() > 0)
-        job.fileFormat = GetPopupButtonTicketValue(context.format);
+    takeChoice(context.format, job.fileFormat);
     context.data.passcode =
         context.secure->isChecked() ? std::optional(context.fields.passcode->text()) : std::nullopt;
 }
@@ -190,8 +189,9 @@ bool mayClose(const SavedJobContext &context)
     if (!isMailboxAllowed(context.mailbox->text(), context.data.job)) {
         CFUserNotificationDisplayNotice(
             NoticeLevel::Stop,
-            localizedText(context.bundle, QStringLiteral("Invalid Mailbox Headline")),
-            formatted(localizedText(context.bundle, QStringLiteral("Invalid Mailbox Number Error")),
+            localizedText(context.device.bundle, QStringLiteral("Invalid Mailbox Headline")),
+            formatted(localizedText(context.device.bundle,
+                                    QStringLiteral("Invalid Mailbox Number Error")),
                       {QString::number(kFirstMailbox), QString::number(kLastMailbox)}),
             {}, context.window.get());
         context.mailbox->setFocus();
@@ -199,7 +199,7 @@ bool mayClose(const SavedJobContext &context)
         return false;
     }
     return !context.secure->isChecked()
-        || takePasscode(context.bundle, context.fields, kLongestAnnouncedPasscode);
+        || takePasscode(context.device.bundle, context.fields, kLongestAnnouncedPasscode);
 }
 
 OSStatus handleEvent(SavedJobContext &context, const Event &event)
@@ -217,12 +217,12 @@ OSStatus handleEvent(SavedJobContext &context, const Event &event)
 OSStatus initializeSavedJob(SavedJobContext &context, QWidget *parent)
 {
     context.window = createModalDialog(
-        context.bundle, QStringLiteral("JobTypes"), QStringLiteral("SavedJob"), parent,
+        context.device.bundle, QStringLiteral("JobTypes"), QStringLiteral("SavedJob"), parent,
         [&context](NeededControls &needed) { findControls(context, needed); });
     if (!context.window)
         return kWindowNotMade;
-    limitPasscodeFields(context.bundle, context.fields, kShortestSavedJobPasscode);
-    showJobTypePicture(context.bundle, context.window.get(), kPictureView,
+    limitPasscodeFields(context.device.bundle, context.fields, kShortestSavedJobPasscode);
+    showJobTypePicture(context.device.bundle, context.window.get(), kPictureView,
                        QStringLiteral("JobType_SavedJob.gif"),
                        QStringLiteral("Save to Mailbox Command"));
     fillControls(context);
@@ -244,12 +244,12 @@ void finalizeSavedJob(const SavedJobContext &context)
 
 } // namespace
 
-OSStatus RunModalSavedJobDialog(CFBundleRef bundle, SavedJobData *data, QWidget *parent)
+OSStatus RunModalSavedJobDialog(const Device &device, SavedJobData *data, QWidget *parent)
 {
-    if (!bundle || !data)
+    if (!device.bundle || !data)
         return paramErr;
     SavedJobContext context;
-    context.bundle = bundle;
+    context.device = device;
     context.data = *data;
     const OSStatus status = initializeSavedJob(context, parent);
     if (status != noErr)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "saved_job.h"
 #include "status.h"
 
@@ -21,6 +21,7 @@ struct SavedJobData
 
 // Asks for name, mailbox and passcode of a saved job. paramErr when a pointer is
 // missing, kWindowNotMade when the window is; Cancel changes nothing.
-OSStatus RunModalSavedJobDialog(CFBundleRef bundle, SavedJobData *data, QWidget *parent = nullptr);
+OSStatus RunModalSavedJobDialog(const Device &device, SavedJobData *data,
+                                QWidget *parent = nullptr);
 
 } // namespace kelvo

@@ -7,9 +7,7 @@
 #include "picture_view.h"
 #include "popups.h"
 #include "separator_picture.h"
-#include "setting_maps.h"
 #include "ticket_places.h"
-#include "ticket_values.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -28,11 +26,9 @@ constexpr ControlID kRevert{kPanelSignature, 8307};
 
 constexpr OSType kCommandOption = fourCharCode("SepO");
 
-const QString printOption = QStringLiteral("KVSlipSheetPrint");
-
 struct SeparatorsDialog
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     std::unique_ptr<ModalDialog> window;
     PopupButton *option = nullptr;
     PopupButton *source = nullptr;
@@ -43,9 +39,9 @@ struct SeparatorsDialog
     // What the pop-up cannot show stays; "none" where the printer has no separators.
     std::int32_t separators() const
     {
-        if (option->count() == 0)
-            return kSeparatorsNone;
-        return option->value() > 0 ? option->chosenReference() : before;
+        std::int32_t separators = option->count() == 0 ? kSeparatorsNone : before;
+        takeChoice(option, separators);
+        return separators;
     }
 };
 
@@ -56,13 +52,13 @@ void showOption(const SeparatorsDialog &dialog)
     const bool hasSeparators = separators != kSeparatorsNone;
     for (PopupButton *popup : {dialog.option, dialog.source}) {
         if (popup->value() > 0) // what the job had, and is not offered here, is said no more
-            showChoice(dialog.bundle, popup, popup->chosenReference());
+            showChoice(dialog.device.bundle, popup, popup->chosenReference());
     }
     setEnabledWithLabel(dialog.source, hasSeparators && dialog.source->count() > 0);
     setEnabledWithLabel(dialog.color, hasSeparators && dialog.color->count() > 0);
     if (auto *hint = findControl<QLabel>(dialog.window.get(), kColorHint))
         hint->setEnabled(hasSeparators);
-    showBundlePicture(dialog.picture, dialog.bundle,
+    showBundlePicture(dialog.picture, dialog.device.bundle,
                       separatorPicture(separators, dialog.color->chosenReference()),
                       dialog.option->currentText());
 }
@@ -89,35 +85,24 @@ OSStatus separatorsEventHandler(const SeparatorsDialog &dialog, const Event &eve
     }
 }
 
-// The PPD's separators under the names that every other window uses.
-void fillOptions(const SeparatorsDialog &dialog, const Device &device)
-{
-    fillFromPpd(dialog.option, device, printOption, {.command = kCommandOption});
-    Menu menu = dialog.option->menu();
-    for (MenuItem &item : menu.items) {
-        if (const char *key = LocalizedKeyForTicketValue(SeparatorOptionMap, item.reference))
-            item.text = device.text(key);
-    }
-    dialog.option->setMenu(std::move(menu));
-}
-
-void showMissingSeparators(const SeparatorsDialog &dialog, const Device &device)
+void showMissingSeparators(const SeparatorsDialog &dialog)
 {
     QWidget *window = dialog.window.get();
     setEnabledWithLabel(dialog.option, false);
     if (auto *hint = findControl<QLabel>(window, kOptionHint))
-        hint->setText(device.text("No Separators on This Device"));
+        hint->setText(dialog.device.text("No Separators on This Device"));
     if (auto *revert = findControl<QPushButton>(window, kRevert))
         revert->setEnabled(false);
 }
 
-void fillPopups(const SeparatorsDialog &dialog, const Device &device)
+void fillPopups(const SeparatorsDialog &dialog)
 {
-    if (!device.hasOption(printOption)) {
-        showMissingSeparators(dialog, device);
+    const Device &device = dialog.device;
+    if (!device.hasOption(kSeparatorsOption)) {
+        showMissingSeparators(dialog);
         return;
     }
-    fillOptions(dialog, device);
+    fillWithMenu(dialog.option, separatorsMenu(device, kCommandOption), kSeparatorsOption);
     fillFromPpd(dialog.source, device, QStringLiteral("KVSlipSheetSource"));
     fillFromPpd(dialog.color, device, QStringLiteral("MediaColor"));
     setTicketPlaces(dialog.color, {}); // the picture's alone
@@ -126,15 +111,15 @@ void fillPopups(const SeparatorsDialog &dialog, const Device &device)
 
 } // namespace
 
-OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
+OSStatus RunModalSeparatorsDialog(const Device &device, std::int32_t *separators,
                                   Stock *separatorStock, DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !separators || !separatorStock || !result)
+    if (!device.bundle || !separators || !separatorStock || !result)
         return paramErr;
     SeparatorsDialog dialog;
-    dialog.bundle = bundle;
+    dialog.device = device;
     dialog.window =
-        createModalDialog(bundle, QStringLiteral("Separators"), QStringLiteral("Separators"),
+        createModalDialog(device.bundle, QStringLiteral("Separators"), QStringLiteral("Separators"),
                           parent, [&dialog](NeededControls &needed) {
                               dialog.option = needed.find<PopupButton>(kOption);
                               dialog.source = needed.find<PopupButton>(kSource);
@@ -146,11 +131,11 @@ OSStatus RunModalSeparatorsDialog(CFBundleRef bundle, std::int32_t *separators,
     QWidget *window = dialog.window.get();
     makeHintText(findControl<QLabel>(window, kOptionHint));
     makeHintText(findControl<QLabel>(window, kColorHint));
-    fillPopups(dialog, currentDevice(bundle));
+    fillPopups(dialog);
     dialog.before = *separators;
-    showChoice(bundle, dialog.option, *separators);
+    showChoice(device.bundle, dialog.option, *separators);
     if (separatorStock->source() != kUnset) // else the first is ready to be taken
-        showChoice(bundle, dialog.source, separatorStock->source());
+        showChoice(device.bundle, dialog.source, separatorStock->source());
     showOption(dialog);
     const EventHandlerRef handler = installEventHandler(
         window, [&dialog](const Event &event) { return separatorsEventHandler(dialog, event); });

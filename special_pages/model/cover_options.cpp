@@ -1,10 +1,26 @@
 #include "cover_options.h"
 
+#include "setting_maps.h"
 #include "stock_menus.h"
+#include "stock_summary.h"
 
 #include <algorithm>
 
 namespace kelvo {
+
+namespace {
+
+const char *sourceHintKey(const Menu &sources, const Cover &cover)
+{
+    const std::int32_t source = cover.stock().source();
+    if (sources.items.empty())
+        return "Not on This Device";
+    if (!hasSource(sources, cover))
+        return source == kStockSourceInserter ? "Cover Source Inserter" : "Cover Source Missing";
+    return source == kCoverSourceAutomatic ? "Cover Source Automatic" : "Cover Source Chosen";
+}
+
+} // namespace
 
 Cover newCover()
 {
@@ -88,6 +104,56 @@ Menu sourceMenu(const Menu &sources, const Cover &cover, const QString &notSet)
         menu.items.insert(menu.items.begin(), item);
     }
     return menu;
+}
+
+Menu coverOptionsMenu(const Device &device, OSType command)
+{
+    Menu menu;
+    PopulateMenuFromMap(device, menu, CoverOptionMap, kJobContextCovers, command);
+    MenuItem same;
+    same.key = QStringLiteral("Front and Back the Same");
+    same.text = device.text("Front and Back the Same");
+    same.command = command;
+    same.reference = kSameCovers;
+    menu.items.insert(std::ranges::find(menu.items, kFrontAndBackCovers, &MenuItem::reference),
+                      same);
+    return menu;
+}
+
+CoverView coverView(const Device &device, const WorkingCovers &covers, CoverPlace place,
+                    const Menu &sources)
+{
+    const bool isFront = place == CoverPlace::Front;
+    const Cover &cover = isFront ? covers.front : covers.back;
+    const Stock &stock = cover.stock();
+    const bool isThere = isFront ? hasFrontCover(covers.option) : hasBackCover(covers.option);
+    const bool isFromSource = isThere && hasSource(sources, cover);
+
+    CoverView view;
+    view.isThere = isThere;
+    view.isEditable = isThere && (isFront || covers.option != kSameCovers);
+    view.isLeftOut = isThere && !isFromSource;
+    if (!sources.items.empty() && stock.source() != kStockSourceInserter)
+        view.source = stock.source();
+    if (isThere)
+        view.sourceHintKey = sourceHintKey(sources, cover);
+    // The paper of a tray is what lies in it: whatever was chosen before is not shown as if
+    // it came from there.
+    if (isFromSource && stock.source() != kCoverSourceAutomatic) {
+        const auto tray = std::ranges::find(sources.items, stock.source(), &MenuItem::reference);
+        view.paper = QStringLiteral("- ") + tray->text;
+    } else {
+        view.paper = stockSummaryText(device, kJobContextCovers, isThere ? &stock : nullptr);
+    }
+    view.picture = isFromSource ? newCover().stock() : stock;
+    return view;
+}
+
+const char *leftOutHeaderKey(bool frontIsLeftOut, bool backIsLeftOut)
+{
+    if (frontIsLeftOut)
+        return backIsLeftOut ? "Covers Left Out Header" : "Front Cover Left Out Header";
+    return backIsLeftOut ? "Back Cover Left Out Header" : nullptr;
 }
 
 void handOver(const WorkingCovers &covers, std::optional<Cover> &front, std::optional<Cover> &back)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cover.h"
+#include "device.h"
 #include "menu.h"
 
 #include <QString>
@@ -65,6 +66,28 @@ void enableStockItems(Menu &menu, const Cover &cover);
 // with `notSet` and kUnset where the cover's own is none of them.
 Menu sourceMenu(const Menu &sources, const Cover &cover, const QString &notSet);
 bool hasSource(const Menu &sources, const Cover &cover);
+
+// CoverOptionMap's items, and the covers that are the same before those that differ.
+Menu coverOptionsMenu(const Device &device, OSType command);
+
+// What the dialog shows of one cover. `sources` is what the device offers for it.
+enum class CoverPlace { Front, Back };
+struct CoverView
+{
+    bool isThere = false;
+    bool isEditable = false;             // there, and not the same as the other
+    bool isLeftOut = false;              // there, and without a source: it is not printed
+    std::int32_t source = kUnset;        // which item of sourceMenu() is shown
+    const char *sourceHintKey = nullptr; // what comes of the source; null without a cover
+    QString paper;                       // the summary
+    Stock picture;                       // what the icon shows
+};
+CoverView coverView(const Device &device, const WorkingCovers &covers, CoverPlace place,
+                    const Menu &sources);
+
+// A cover that the printer leaves out is nothing that anybody chose: the key of what OK
+// asks about it first; null where neither is.
+const char *leftOutHeaderKey(bool frontIsLeftOut, bool backIsLeftOut);
 
 // What OK leaves with the caller: a cover that is there before and after stays the
 // same page and takes the new values.

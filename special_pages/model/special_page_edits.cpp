@@ -36,6 +36,11 @@ InsertEdit insertEdit(const Insert *edited)
     return edit;
 }
 
+SheetLimits sheetLimits(const Insert &edited)
+{
+    return {std::min(1, edited.quantity()), std::max(kMostInsertedSheets, edited.quantity())};
+}
+
 OSStatus insertsFrom(const InsertEdit &edit, std::int32_t others, std::vector<Insert> *inserts)
 {
     inserts->clear();

@@ -28,6 +28,13 @@ struct InsertEdit
 // What is edited; for null what the dialog begins with: one sheet of the job's paper.
 InsertEdit insertEdit(const Insert *edited);
 
+// How many sheets the dialog takes: what a ticket asks for is kept, however much it is.
+struct SheetLimits
+{
+    std::int32_t least = 1, most = kMostInsertedSheets;
+};
+SheetLimits sheetLimits(const Insert &edited);
+
 // As many inserts as a list takes: one after each page. A page range of three
 // characters makes that many.
 inline constexpr std::int32_t kMostInserts = kHighestPage;

@@ -15,13 +15,6 @@ const QString separator = QStringLiteral("; ");
 const QString coverOption = QStringLiteral("KVFrontCoverSheet"); // as of the back cover
 const QString wideSeparator = QStringLiteral(";  ");
 
-// Empty for a value that the map does not have.
-QString mapText(const Device &device, const SettingMap *map, std::int32_t value)
-{
-    const char *key = LocalizedKeyForTicketValue(map, value);
-    return key ? device.text(key) : QString();
-}
-
 QString joined(QStringList parts, const QString &with)
 {
     parts.removeAll(QString()); // what the device does not have has no words
@@ -32,13 +25,13 @@ QString joined(QStringList parts, const QString &with)
 QString kindText(const Device &device, const SpecialPage &page)
 {
     if (const auto *cover = dynamic_cast<const Cover *>(&page))
-        return mapText(device, CoverSidesImagedMap, cover->sidesImaged());
+        return textOfValue(device, CoverSidesImagedMap, cover->sidesImaged());
     if (const auto *insert = dynamic_cast<const Insert *>(&page)) {
         return QStringLiteral("%1 [%2]").arg(device.text("InsertSummaryQuantity"),
                                              QString::number(insert->quantity()));
     }
     if (const auto *exception = dynamic_cast<const ExceptionPage *>(&page))
-        return mapText(device, PlexMap, exception->plex());
+        return textOfValue(device, PlexMap, exception->plex());
     return {};
 }
 
@@ -150,9 +143,8 @@ QString attributesText(const SpecialPage &page, const Device &device)
     return all.isEmpty() ? device.text("UseJobSetting") : all;
 }
 
-QString CreateInsertAttributesDescription(CFBundleRef bundle, const Insert &insert)
+QString CreateInsertAttributesDescription(const Device &device, const Insert &insert)
 {
-    const Device device = currentDevice(bundle);
     const QString quantity =
         device.text("InsertSummaryQuantity") + u' ' + QString::number(insert.quantity());
     return joined(
@@ -161,10 +153,9 @@ QString CreateInsertAttributesDescription(CFBundleRef bundle, const Insert &inse
         wideSeparator);
 }
 
-QString CreateExceptionAttributesDescription(CFBundleRef bundle, const ExceptionPage &exception)
+QString CreateExceptionAttributesDescription(const Device &device, const ExceptionPage &exception)
 {
-    const Device device = currentDevice(bundle);
-    return joined({mapText(device, PlexMap, exception.plex()),
+    return joined({textOfValue(device, PlexMap, exception.plex()),
                    GenerateStockSummary(device, kJobContextExceptions, exception.stock(),
                                         QStringLiteral(", "))},
                   wideSeparator);

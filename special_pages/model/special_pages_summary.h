@@ -1,6 +1,5 @@
 #pragma once
 
-#include "bundle.h"
 #include "special_pages_settings.h"
 
 #include <QString>
@@ -24,9 +23,9 @@ QString CopySpecialPageSummary(const SpecialPage &page, const Device &device);
 // that the list says.
 QString attributesText(const SpecialPage &page, const Device &device);
 
-// The same in a line for the dialogs, on the current device.
-QString CreateInsertAttributesDescription(CFBundleRef bundle, const Insert &insert);
-QString CreateExceptionAttributesDescription(CFBundleRef bundle, const ExceptionPage &exception);
+// The same in a line for the dialogs.
+QString CreateInsertAttributesDescription(const Device &device, const Insert &insert);
+QString CreateExceptionAttributesDescription(const Device &device, const ExceptionPage &exception);
 
 // Which commands are offered while `selected` are selected, in the list's order. Of
 // several, the last one says whether they move.

@@ -9,15 +9,10 @@
 #include "popups.h"
 #include "setting_maps.h"
 #include "special_page_dialogs.h"
-#include "stock_summary.h"
 #include "ticket_places.h"
-#include "ticket_values.h"
 
 #include <QGroupBox>
 #include <QLabel>
-
-#include <algorithm>
-#include <array>
 
 namespace kelvo {
 
@@ -47,6 +42,7 @@ constexpr int kHintLines = 2;
 // The controls of one cover.
 struct CoverSide
 {
+    CoverPlace place = CoverPlace::Front;
     Cover *cover = nullptr; // of the working covers
     Menu sources;           // what the device offers
     QPointer<QGroupBox> group;
@@ -58,66 +54,51 @@ struct CoverSide
 
 struct CoversContext
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     std::unique_ptr<ModalDialog> window;
     DialogResult result = DialogResult::Cancel;
     WorkingCovers covers;
     QPointer<PictureView> picture;
     QPointer<PopupButton> options;
-    CoverSide front, back;
+    CoverSide front{.place = CoverPlace::Front}, back{.place = CoverPlace::Back};
     EventHandlerRef handler;
 };
 
-QString sourceHintKey(const CoverSide &side)
+CoverView viewOf(const CoversContext &context, const CoverSide &side)
 {
-    if (side.sources.items.empty())
-        return QStringLiteral("Not on This Device");
-    const std::int32_t source = side.cover->stock().source();
-    if (!hasSource(side.sources, *side.cover))
-        return source == kStockSourceInserter ? QStringLiteral("Cover Source Inserter")
-                                              : QStringLiteral("Cover Source Missing");
-    return source == kCoverSourceAutomatic ? QStringLiteral("Cover Source Automatic")
-                                           : QStringLiteral("Cover Source Chosen");
+    return coverView(context.device, context.covers, side.place, side.sources);
 }
 
-// The paper of a tray is what lies in it: whatever was chosen before is not shown as if
-// it came from there.
-void showStock(CFBundleRef bundle, const CoverSide &side, bool isThere)
+QString hintOf(const CoversContext &context, const CoverView &view)
 {
-    const Stock &stock = side.cover->stock();
-    QString text =
-        stockSummaryText(currentDevice(bundle), kJobContextCovers, isThere ? &stock : nullptr);
-    const bool isFromSource = isThere && hasSource(side.sources, *side.cover);
-    if (isFromSource && stock.source() != kCoverSourceAutomatic)
-        text = QStringLiteral("- ") + side.source->currentText();
-    UpdateSummaryTextView(side.stock.summary, text);
-    showStockIcon(bundle, side.stock.icon, isFromSource ? newCover().stock() : stock, text);
+    return view.sourceHintKey ? context.device.text(view.sourceHintKey) : QString();
 }
 
 // From a cover to its controls. One that is not there leaves them empty.
-void showCover(CFBundleRef bundle, CoverSide &side, bool isThere, bool isEnabled)
+void showCover(const CoversContext &context, CoverSide &side)
 {
     const Cover &cover = *side.cover;
-    side.group->setEnabled(isEnabled);
+    const CFBundleRef bundle = context.device.bundle;
+    const CoverView view = viewOf(context, side);
+    side.group->setEnabled(view.isEditable);
     enableStockItems(side.stock.button->menu(), cover);
     side.stock.offersSize = offersSize(cover);
 
-    side.source->setMenu(sourceMenu(side.sources, cover,
-                                    localizedText(bundle, QStringLiteral("Cover Source Not Set"))));
-    const std::int32_t source = cover.stock().source();
-    const bool hasNone = side.sources.items.empty() || source == kStockSourceInserter;
-    showChoice(bundle, side.source, hasNone ? kUnset : source);
+    side.source->setMenu(
+        sourceMenu(side.sources, cover, context.device.text("Cover Source Not Set")));
+    showChoice(bundle, side.source, view.source);
     setEnabledWithLabel(side.source, !side.sources.items.empty());
-    showStock(bundle, side, isThere);
-    const QString hint = isThere ? localizedText(bundle, sourceHintKey(side)) : QString();
+    UpdateSummaryTextView(side.stock.summary, view.paper);
+    showStockIcon(bundle, side.stock.icon, view.picture, view.paper);
+    const QString hint = hintOf(context, view);
     QFont font = side.group->font();
-    font.setBold(isEnabled && !hasSource(side.sources, cover)); // the cover is not printed
+    font.setBold(view.isEditable && view.isLeftOut);
     side.sourceHint->setFont(font);
     side.sourceHint->setText(hint);
     side.source->setAccessibleDescription(hint);
 
-    if (!isThere || !SetPopupButtonToTicketValue(side.sides, cover.sidesImaged()))
-        side.sides->setValue(isThere ? 0 : 1);
+    if (!view.isThere || !SetPopupButtonToTicketValue(side.sides, cover.sidesImaged()))
+        side.sides->setValue(view.isThere ? 0 : 1);
 }
 
 // From the context to the controls.
@@ -125,12 +106,12 @@ void syncToUI(CoversContext &context)
 {
     const std::int32_t option = context.covers.option;
     SetPopupButtonToTicketValue(context.options, option);
-    const QString file = pictureFile(context.bundle->resourcesPath(), coverOptionPicture(option));
+    const QString file =
+        pictureFile(context.device.bundle->resourcesPath(), coverOptionPicture(option));
     context.picture->setPictures(file.isEmpty() ? QStringList() : QStringList{file},
                                  context.options->currentText());
-    showCover(context.bundle, context.front, hasFrontCover(option), hasFrontCover(option));
-    showCover(context.bundle, context.back, hasBackCover(option),
-              hasBackCover(option) && option != kSameCovers);
+    showCover(context, context.front);
+    showCover(context, context.back);
 }
 
 void settle(CoversContext &context)
@@ -183,52 +164,25 @@ OSStatus handleEvent(CoversContext &context, const Event &event)
     return eventNotHandledErr;
 }
 
-// OK: a cover that the printer leaves out is nothing that anybody chose. True when there
-// is none, or the user wants it so.
+// OK: true when no cover is left out, or the user wants it so.
 bool mayClose(const CoversContext &context)
 {
-    const std::int32_t option = context.covers.option;
-    const auto isLeftOut = [](const CoverSide &side, bool isThere) {
-        return isThere && !hasSource(side.sources, *side.cover);
-    };
-    const bool noFront = isLeftOut(context.front, hasFrontCover(option));
-    const bool noBack = isLeftOut(context.back, hasBackCover(option));
-    if (!noFront && !noBack)
+    const CoverView front = viewOf(context, context.front), back = viewOf(context, context.back);
+    const char *header = leftOutHeaderKey(front.isLeftOut, back.isLeftOut);
+    if (!header)
         return true;
-    const CoverSide &side = noFront ? context.front : context.back;
-    const char *header = noFront && noBack ? "Covers Left Out Header"
-        : noFront                          ? "Front Cover Left Out Header"
-                                           : "Back Cover Left Out Header";
-    const auto text = [&context](const QString &key) { return localizedText(context.bundle, key); };
+    const Device &device = context.device;
     constexpr int goBack = 1, leaveOut = 2;
     const int answer = CFUserNotificationDisplayAlert(
-        NoticeLevel::Caution, text(QString::fromLatin1(header)), text(sourceHintKey(side)),
-        {text(QStringLiteral("Cover Go Back")), text(QStringLiteral("Cover Leave Out"))},
-        context.window.get(), goBack);
+        NoticeLevel::Caution, device.text(header), hintOf(context, front.isLeftOut ? front : back),
+        {device.text("Cover Go Back"), device.text("Cover Leave Out")}, context.window.get(),
+        goBack);
     if (answer == leaveOut)
         return true;
+    const CoverSide &side = front.isLeftOut ? context.front : context.back;
     if (side.source->isEnabled())
         side.source->setFocus();
     return false;
-}
-
-// CoverOptionMap's items, and the covers that are the same before those that differ.
-void fillOptions(CFBundleRef bundle, PopupButton *options)
-{
-    PopulatePopupButtonFromMap(bundle, options, CoverOptionMap, kJobContextCovers,
-                               kCommandCoverOptions);
-    Menu menu = options->menu();
-    MenuItem same;
-    same.key = QStringLiteral("Front and Back the Same");
-    same.text = localizedText(bundle, same.key);
-    same.command = kCommandCoverOptions;
-    same.reference = kSameCovers;
-    menu.items.insert(std::ranges::find(menu.items, kFrontAndBackCovers, &MenuItem::reference),
-                      same);
-    options->setMenu(std::move(menu));
-    setTicketPlaces(options,
-                    {{kPPDChoices, QStringLiteral("KVFrontCoverSheet")},
-                     {kPPDChoices, QStringLiteral("KVBackCoverSheet")}});
 }
 
 void findSide(CoverSide &side, NeededControls &needed, std::int32_t controls)
@@ -255,28 +209,28 @@ void initializeSide(CoversContext &context, CoverSide &side, Cover &cover, const
                     OSType sidesCommand)
 {
     side.cover = &cover;
-    side.stock.bundle = context.bundle;
+    side.stock.device = context.device;
     side.stock.stock = &cover.stock();
     side.stock.jobContext = kJobContextCovers;
     side.stock.changed = [&context] { settle(context); };
     InitializeStockMenuButton(side.stock.button, &side.stock);
 
     // "None" is no source, but no cover.
-    fillFromPpd(side.source, currentDevice(context.bundle), QString::fromLatin1(sourceOption),
+    fillFromPpd(side.source, context.device, QString::fromLatin1(sourceOption),
                 {.readByName = {QStringLiteral("None")}, .isExpected = true});
     side.sources = side.source->menu();
     makeHintText(side.sourceHint);
     // The window keeps its size while the hints change.
     side.sourceHint->setMinimumHeight(kHintLines * side.sourceHint->fontMetrics().lineSpacing());
-    PopulatePopupButtonFromMap(context.bundle, side.sides, CoverSidesImagedMap, kJobContextCovers,
+    PopulatePopupButtonFromMap(context.device, side.sides, CoverSidesImagedMap, kJobContextCovers,
                                sidesCommand);
 }
 
 OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget *parent)
 {
     context.window = createModalDialog(
-        context.bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Covers"), parent,
-        [&context](NeededControls &needed) { findControls(context, needed); });
+        context.device.bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Covers"),
+        parent, [&context](NeededControls &needed) { findControls(context, needed); });
     if (!context.window)
         return kWindowNotMade;
     const QWidget *window = context.window.get();
@@ -284,8 +238,11 @@ OSStatus initializeCovers(CoversContext &context, const Stock *jobStock, QWidget
                    kCommandFrontSides);
     initializeSide(context, context.back, context.covers.back, "KVBackCoverSheet",
                    kCommandBackSides);
-    fillOptions(context.bundle, context.options);
-    showJobPaper(context.bundle, findControl<QLabel>(window, kJobPaper), jobStock);
+    context.options->setMenu(coverOptionsMenu(context.device, kCommandCoverOptions));
+    setTicketPlaces(context.options,
+                    {{kPPDChoices, QStringLiteral("KVFrontCoverSheet")},
+                     {kPPDChoices, QStringLiteral("KVBackCoverSheet")}});
+    showJobPaper(context.device, findControl<QLabel>(window, kJobPaper), jobStock);
     context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {
         return handleEvent(context, event);
     });
@@ -302,14 +259,15 @@ void finalizeCovers(CoversContext &context)
 
 } // namespace
 
-OSStatus RunModalCoversDialog(CFBundleRef bundle, DialogMode mode, Stock *jobStock,
+OSStatus RunModalCoversDialog(const Device &device, DialogMode mode, Stock *jobStock,
                               std::optional<Cover> *front, std::optional<Cover> *back,
                               DialogResult *outcome, QWidget *parent)
 {
-    if (!bundle || !front || !back || !outcome || (mode == kDialogModeEdit && !*front && !*back))
+    if (!device.bundle || !front || !back || !outcome
+        || (mode == kDialogModeEdit && !*front && !*back))
         return paramErr;
     CoversContext context;
-    context.bundle = bundle;
+    context.device = device;
     context.covers = workingCovers(*front, *back);
     const OSStatus status = initializeCovers(context, jobStock, parent);
     if (status != noErr)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bundle.h"
 #include "cover.h"
+#include "device.h"
 #include "setting_map.h"
 #include "status.h"
 
@@ -16,8 +16,15 @@ namespace kelvo {
 // one that was removed goes. paramErr without bundle, outcome or covers, and to
 // edit (kDialogModeEdit) where neither cover is there; kWindowNotMade when the
 // window cannot be made. The job's stock is shown where a cover follows it.
-OSStatus RunModalCoversDialog(CFBundleRef bundle, DialogMode mode, Stock *jobStock,
+OSStatus RunModalCoversDialog(const Device &device, DialogMode mode, Stock *jobStock,
                               std::optional<Cover> *front, std::optional<Cover> *back,
                               DialogResult *outcome, QWidget *parent = nullptr);
+// On the current device.
+inline OSStatus RunModalCoversDialog(CFBundleRef bundle, DialogMode mode, Stock *jobStock,
+                                     std::optional<Cover> *front, std::optional<Cover> *back,
+                                     DialogResult *outcome)
+{
+    return RunModalCoversDialog(currentDevice(bundle), mode, jobStock, front, back, outcome);
+}
 
 } // namespace kelvo

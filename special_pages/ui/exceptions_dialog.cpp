@@ -3,22 +3,17 @@
 #include "control.h"
 #include "dialog_window.h"
 #include "embed_control.h"
+#include "exception_options.h"
 #include "hint_text.h"
-#include "lighten_darken.h"
-#include "offered_choices.h"
 #include "popups.h"
-#include "ppd_choices.h"
-#include "setting_maps.h"
+#include "print_session.h"
 #include "special_page_dialogs.h"
 #include "special_page_edits.h"
 #include "special_pages_summary.h"
 #include "stock_menus.h"
-#include "string_table.h"
 #include "system_information.h"
 #include "tab_control.h"
-#include "tab_shift.h"
 #include "tab_stock_dialogs.h"
-#include "ticket_values.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -46,14 +41,11 @@ constexpr ControlID kSidesHint{kPanelSignature, 8771};
 constexpr ControlID kLightness{kPanelSignature, 8780};
 constexpr ControlID kLightnessHint{kPanelSignature, 8781};
 
-const QString sidesOption = QStringLiteral("Duplex");
-const QString lightnessOption = QStringLiteral("KVImageQuality");
-
 struct ExceptionsContext
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     std::unique_ptr<ModalDialog> window;
-    PMTicketRef ticket = 0;                  // the job's
+    Ticket job;                              // its print settings
     ExceptionPageList *exceptions = nullptr; // the caller's
     const ExceptionPage *edited = nullptr;   // of the list; null to add
     ExceptionEdit edit;
@@ -69,58 +61,31 @@ struct ExceptionsContext
     EventHandlerRef stockHandler, handler;
 };
 
-// "12.7 mm (A4 template)", "0.4 in": as the tab stock set-up shows it.
-QString tabShiftWords(CFBundleRef bundle, const ExceptionPage &page)
-{
-    const TabShift shift = tabShiftOf(*page.imageShift(), measurementSystem(), kTabUnitMillimetres);
-    if (shift.choice == kTabShiftNone && !isTabStock(page.stock()))
-        return localizedText(bundle, QStringLiteral("Tab Shift Not Needed"));
-    if (shift.choice != kTabShiftCustom)
-        return localizedText(
-            bundle, QString::fromUtf8(LocalizedKeyForTicketValue(TabStockSetupMap, shift.choice)));
-    return formatted(localizedText(bundle,
-                                   shift.unit == kTabUnitInches
-                                       ? QStringLiteral("Tab Shift Words Inches")
-                                       : QStringLiteral("Tab Shift Words Millimeters")),
-                     {CreateLocalizedCFStringFromNumberWithDecimals(shift.value, shift.decimals)
-                          .value_or(QString())});
-}
-
-// What the job has of a setting, in the device's words; empty where that is unknown.
-QString jobChoiceText(const Device &device, PMTicketRef ticket, const QString &option)
-{
-    const std::optional<QString> choice = PPDCopyChoiceOrDefault(device.ppd, ticket, option);
-    return choice ? PPDCopyChoiceText(device.ppd, option, *choice).value_or(QString()) : QString();
-}
-
 // The hint says what the job does where the pop-up leaves it to the job.
 void showSetting(const ExceptionsContext &context, PopupButton *popup, QLabel *hint,
                  const QString &option, std::int32_t value)
 {
-    const Device device = currentDevice(context.bundle);
+    const Device &device = context.device;
     const bool isOnDevice = popup->count() > 1; // more than the job's setting
     setOnDevice(device, popup, isOnDevice, hint);
-    const QString job = jobChoiceText(device, context.ticket, option);
-    showChoice(context.bundle, popup, value, hint,
-               !isOnDevice         ? hint->text()
-                   : job.isEmpty() ? QString()
-                                   : formatted(device.text("Job Setting Hint"), {job}));
+    showChoice(device.bundle, popup, value, hint,
+               isOnDevice ? jobSettingHint(device, context.job, option) : hint->text());
 }
 
 // From the context to the controls, but for the pages, which stay as typed.
 void syncToUI(const ExceptionsContext &context)
 {
     const ExceptionPage &page = context.edit.page;
-    ShowStockSummary(context.bundle, context.stock.summary, &page.stock(), kJobContextExceptions);
+    ShowStockSummary(context.device, context.stock.summary, &page.stock(), kJobContextExceptions);
     StockIconEventHandler(context.stock);
     context.window->setAccessibleDescription(
-        CreateExceptionAttributesDescription(context.bundle, page));
-    const QString tabShift = tabShiftWords(context.bundle, page);
+        CreateExceptionAttributesDescription(context.device, page));
+    const QString tabShift = tabShiftWords(context.device, page, measurementSystem());
     context.tabShift->setText(tabShift);
     context.tabShiftButton->setAccessibleDescription(tabShift);
     setEnabledWithLabel(context.tabShiftButton, isTabStock(page.stock()));
-    showSetting(context, context.sides, context.sidesHint, sidesOption, page.plex());
-    showSetting(context, context.lightness, context.lightnessHint, lightnessOption,
+    showSetting(context, context.sides, context.sidesHint, kExceptionSidesOption, page.plex());
+    showSetting(context, context.lightness, context.lightnessHint, kExceptionLightnessOption,
                 page.lightenDarken());
 }
 
@@ -135,7 +100,7 @@ void setUpTabShift(ExceptionsContext &context)
 {
     ExceptionPage &page = context.edit.page;
     DialogResult result = DialogResult::Cancel;
-    RunModalTabStockSetupDialog(context.bundle, &page.stock(), page.imageShift(), &result,
+    RunModalTabStockSetupDialog(context.device, &page.stock(), page.imageShift(), &result,
                                 context.window.get());
     syncToUI(context);
 }
@@ -206,35 +171,8 @@ bool takeExceptions(ExceptionsContext &context)
     if (status == noErr)
         status = putIntoList(*context.exceptions, context.edited, exceptions);
     if (status != noErr)
-        refusePages(status, context.bundle, context.pages);
+        refusePages(status, context.device.bundle, context.pages);
     return status == noErr;
-}
-
-// What the device offers of `menu`, and before it what leaves the setting to the job.
-void fillSetting(CFBundleRef bundle, PopupButton *popup, Menu menu, const QString &option,
-                 OSType command)
-{
-    removeWhatIsNotOffered(menu, currentDevice(bundle).ppd, option);
-    MenuItem job;
-    job.key = QStringLiteral("UseJobSetting");
-    job.text = localizedText(bundle, job.key);
-    job.command = command;
-    job.reference = kUnset;
-    menu.items.insert(menu.items.begin(), std::move(job));
-    popup->setMenu(std::move(menu));
-}
-
-Menu lightnessMenu(CFBundleRef bundle)
-{
-    Menu menu;
-    for (const LightenDarkenStep *step = LightenDarkenMap; step->localizedKey; ++step) {
-        MenuItem item;
-        item.key = QString::fromLatin1(step->localizedKey);
-        item.text = localizedText(bundle, item.key);
-        item.reference = step->value;
-        menu.items.push_back(std::move(item));
-    }
-    return menu;
 }
 
 void initializePanes(const ExceptionsContext &context)
@@ -262,14 +200,14 @@ void findControls(ExceptionsContext &context, NeededControls &needed)
 
 OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock, QWidget *parent)
 {
-    const CFBundleRef bundle = context.bundle;
+    const Device &device = context.device;
     context.window = createModalDialog(
-        bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Exceptions"), parent,
+        device.bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Exceptions"), parent,
         [&context](NeededControls &needed) { findControls(context, needed); });
     if (!context.window)
         return kWindowNotMade;
     const QWidget *window = context.window.get();
-    context.stock.bundle = bundle;
+    context.stock.device = device;
     context.stock.stock = &context.edit.page.stock();
     context.stock.jobContext = kJobContextExceptions;
     InitializeStockMenuButton(context.stock.button, &context.stock);
@@ -282,11 +220,9 @@ OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock,
     initializePagesField(context.pages, context.pagesHint);
     context.pages->setText(context.edit.pages);
     initializePanes(context);
-    showJobPaper(bundle, findControl<QLabel>(window, kJobPaper), jobStock);
-    Menu sides;
-    PopulateMenuFromMap(bundle, sides, PlexMap, kJobContextExceptions, kCommandSides);
-    fillSetting(bundle, context.sides, std::move(sides), sidesOption, kCommandSides);
-    fillSetting(bundle, context.lightness, lightnessMenu(bundle), lightnessOption, kNoCommand);
+    showJobPaper(device, findControl<QLabel>(window, kJobPaper), jobStock);
+    context.sides->setMenu(exceptionSidesMenu(device, kCommandSides));
+    context.lightness->setMenu(exceptionLightnessMenu(device));
     for (QLabel *hint : {context.sidesHint.data(), context.lightnessHint.data()})
         makeHintText(hint);
     context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {
@@ -299,17 +235,18 @@ OSStatus initializeExceptions(ExceptionsContext &context, const Stock *jobStock,
 
 } // namespace
 
-OSStatus RunModalExceptionsDialog(CFBundleRef bundle, DialogMode mode, const Stock *jobStock,
+OSStatus RunModalExceptionsDialog(const Device &device, DialogMode mode, const Stock *jobStock,
                                   PMTicketRef ticket, ExceptionPageList *exceptions,
                                   const ExceptionPage *edited, DialogResult *outcome,
                                   QWidget *parent)
 {
     const bool isEdit = mode == kDialogModeEdit;
-    if (!bundle || !exceptions || !outcome || (isEdit && !edited))
+    if (!device.bundle || !exceptions || !outcome || (isEdit && !edited))
         return paramErr;
     ExceptionsContext context;
-    context.bundle = bundle;
-    context.ticket = ticket;
+    context.device = device;
+    if (const Ticket *job = findTicket(ticket))
+        context.job = *job;
     context.exceptions = exceptions;
     context.edited = isEdit ? edited : nullptr;
     context.edit = exceptionEdit(context.edited);

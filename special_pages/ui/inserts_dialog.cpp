@@ -12,8 +12,6 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include <algorithm>
-
 namespace kelvo {
 
 namespace {
@@ -29,7 +27,7 @@ constexpr ControlID kJobPaper{kPanelSignature, 8713};
 
 struct InsertsContext
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     std::unique_ptr<ModalDialog> window;
     InsertList *inserts = nullptr;  // the caller's
     const Insert *edited = nullptr; // of the list; null to add
@@ -52,9 +50,9 @@ void syncToUI(const InsertsContext &context)
     setEnabledWithLabel(context.pages, isAfterPages);
     context.pagesHint->setEnabled(isAfterPages);
     context.quantity->setValue(edit.page.quantity());
-    ShowStockSummary(context.bundle, context.stock.summary, &edit.page.stock(), kJobContextInserts);
+    ShowStockSummary(context.device, context.stock.summary, &edit.page.stock(), kJobContextInserts);
     context.window->setAccessibleDescription(
-        CreateInsertAttributesDescription(context.bundle, edit.page));
+        CreateInsertAttributesDescription(context.device, edit.page));
     StockIconEventHandler(context.stock);
 }
 
@@ -101,7 +99,7 @@ bool takeInserts(InsertsContext &context)
     if (status == noErr)
         status = putIntoList(*context.inserts, context.edited, inserts);
     if (status != noErr)
-        refusePages(status, context.bundle, context.pages);
+        refusePages(status, context.device.bundle, context.pages);
     return status == noErr;
 }
 
@@ -117,23 +115,23 @@ void findControls(InsertsContext &context, NeededControls &needed)
 OSStatus initializeInserts(InsertsContext &context, const Stock *jobStock, QWidget *parent)
 {
     context.window = createModalDialog(
-        context.bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Inserts"), parent,
-        [&context](NeededControls &needed) { findControls(context, needed); });
+        context.device.bundle, QStringLiteral("SpecialPages"), QStringLiteral("Basic Inserts"),
+        parent, [&context](NeededControls &needed) { findControls(context, needed); });
     if (!context.window)
         return kWindowNotMade;
     const QWidget *window = context.window.get();
-    context.stock.bundle = context.bundle;
+    context.stock.device = context.device;
     context.stock.stock = &context.edit.page.stock();
     context.stock.jobContext = kJobContextInserts;
     InitializeStockMenuButton(context.stock.button, &context.stock);
 
-    PopulatePopupButtonFromMap(context.bundle, context.position, InsertOptionMap,
+    PopulatePopupButtonFromMap(context.device, context.position, InsertOptionMap,
                                kJobContextInserts, kCommandInsertOption);
     initializePagesField(context.pages, context.pagesHint);
-    // What a ticket asks for is kept, however much it is.
-    context.quantity->setMinimum(std::min(1, context.edit.page.quantity()));
-    context.quantity->setMaximum(std::max(kMostInsertedSheets, context.edit.page.quantity()));
-    showJobPaper(context.bundle, findControl<QLabel>(window, kJobPaper), jobStock);
+    const SheetLimits limits = sheetLimits(context.edit.page);
+    context.quantity->setMinimum(limits.least);
+    context.quantity->setMaximum(limits.most);
+    showJobPaper(context.device, findControl<QLabel>(window, kJobPaper), jobStock);
     context.handler = installEventHandler(context.window.get(), [&context](const Event &event) {
         return handleEvent(context, event);
     });
@@ -144,15 +142,15 @@ OSStatus initializeInserts(InsertsContext &context, const Stock *jobStock, QWidg
 
 } // namespace
 
-OSStatus RunModalInsertsDialog(CFBundleRef bundle, DialogMode mode, const Stock *jobStock,
+OSStatus RunModalInsertsDialog(const Device &device, DialogMode mode, const Stock *jobStock,
                                InsertList *inserts, const Insert *edited, DialogResult *outcome,
                                QWidget *parent)
 {
     const bool isEdit = mode == kDialogModeEdit;
-    if (!bundle || !inserts || !outcome || (isEdit && !edited))
+    if (!device.bundle || !inserts || !outcome || (isEdit && !edited))
         return paramErr;
     InsertsContext context;
-    context.bundle = bundle;
+    context.device = device;
     context.inserts = inserts;
     context.edited = isEdit ? edited : nullptr;
     context.edit = insertEdit(context.edited);

@@ -22,24 +22,14 @@ void findStockControls(_StockMenuCommandEventHandlerData &data, NeededControls &
     data.summary = needed.find<SummaryView>({kPanelSignature, first + 2});
 }
 
-void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock)
+void showJobPaper(const Device &device, QLabel *label, const Stock *jobStock)
 {
     if (!label)
         return;
-    const QString bullet = QStringLiteral("- ");
-    QStringList parts;
-    if (jobStock)
-        parts = GenerateStockSummary(bundle, kJobContextJob, *jobStock, QStringLiteral("\n"))
-                    .split(u'\n');
-    for (QString &part : parts) {
-        if (part.startsWith(bullet))
-            part.remove(0, bullet.size());
-    }
-    parts.removeAll(QString());
-    SetLocalizedStaticText(bundle, QStringLiteral("Job Paper"), label,
-                           {parts.join(QStringLiteral(", "))});
+    const QString paper = jobPaperText(device, jobStock);
+    SetLocalizedStaticText(device.bundle, QStringLiteral("Job Paper"), label, {paper});
     makeHintText(label);
-    label->setVisible(!parts.isEmpty());
+    label->setVisible(!paper.isEmpty());
 }
 
 void initializePagesField(QLineEdit *field, QLabel *hint)

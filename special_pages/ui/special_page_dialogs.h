@@ -19,7 +19,7 @@ void findStockControls(_StockMenuCommandEventHandlerData &data, NeededControls &
                        std::int32_t first);
 
 // What "use job setting" means for paper; hidden where the job has none.
-void showJobPaper(CFBundleRef bundle, QLabel *label, const Stock *jobStock);
+void showJobPaper(const Device &device, QLabel *label, const Stock *jobStock);
 
 // Nothing but page numbers and ranges can be typed into the field. `hint` stands
 // below it.

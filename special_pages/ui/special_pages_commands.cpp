@@ -38,7 +38,7 @@ Stock *jobStockOf(_SpecialPagesContext &panel)
 bool editCovers(_SpecialPagesContext &panel, DialogMode mode)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalCoversDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.frontCover,
+    RunModalCoversDialog(panel.device, mode, jobStockOf(panel), &panel.settings.frontCover,
                          &panel.settings.backCover, &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
@@ -46,7 +46,7 @@ bool editCovers(_SpecialPagesContext &panel, DialogMode mode)
 bool editInserts(_SpecialPagesContext &panel, DialogMode mode, const Insert *edited)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalInsertsDialog(panel.bundle, mode, jobStockOf(panel), &panel.settings.inserts, edited,
+    RunModalInsertsDialog(panel.device, mode, jobStockOf(panel), &panel.settings.inserts, edited,
                           &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }
@@ -54,7 +54,7 @@ bool editInserts(_SpecialPagesContext &panel, DialogMode mode, const Insert *edi
 bool editExceptions(_SpecialPagesContext &panel, DialogMode mode, const ExceptionPage *edited)
 {
     DialogResult outcome = DialogResult::Cancel;
-    RunModalExceptionsDialog(panel.bundle, mode, jobStockOf(panel), panel.printSettingsRef,
+    RunModalExceptionsDialog(panel.device, mode, jobStockOf(panel), panel.printSettingsRef,
                              &panel.settings.exceptions, edited, &outcome, panel.content);
     return outcome != DialogResult::Cancel;
 }

@@ -1,5 +1,6 @@
 #include "custom_size.h"
 
+#include "ppd_choices.h"
 #include "system_information.h"
 
 #include <algorithm>
@@ -17,6 +18,7 @@ constexpr double millimetreFieldPerInch = 254; // tenths of a millimetre
 constexpr double millimetreFieldPerInchField = 2.54;
 constexpr double lengthPerInchField = 25.4;     // 1/100 mm
 constexpr double lengthPerMillimetreField = 10; // 1/100 mm
+constexpr double lengthPerPoint = 2540.0 / pointsPerInch;
 
 std::optional<SizeUnit> &unitInUse()
 {
@@ -56,6 +58,18 @@ SizeFieldLimits sizeFieldLimits(const CustomPageLimits &points, SizeUnit unit)
         (unit == SizeUnit::Inches ? inchFieldPerInch : millimetreFieldPerInch) / pointsPerInch;
     return {rounded(points.minWidth * perPoint), rounded(points.maxWidth * perPoint),
             rounded(points.minHeight * perPoint), rounded(points.maxHeight * perPoint)};
+}
+
+CustomSize usualSize(const PpdFile *ppd)
+{
+    constexpr double letterWidth = 612, letterLength = 792; // points
+    const std::optional<QString> name = PPDCopyDefaultChoice(ppd, QStringLiteral("PageSize"));
+    const PpdPageSize *size = ppd && name ? ppd->findPageSize(*name) : nullptr;
+    const auto lengthOf = [](double points) {
+        return rounded(std::clamp(points, 0.0, 1e6) * lengthPerPoint);
+    };
+    return {lengthOf(size ? size->width : letterWidth),
+            lengthOf(size ? size->height : letterLength)};
 }
 
 std::int32_t convertedField(std::int32_t value, SizeUnit to)

@@ -21,8 +21,17 @@ struct SizeFieldLimits
 
     friend bool operator==(const SizeFieldLimits &, const SizeFieldLimits &) = default;
 };
-// The device's limits, rounded to the unit. `points` as GetMediaLimits gives them.
+// The device's limits, rounded to the unit. `points` are Device::mediaLimits().
 SizeFieldLimits sizeFieldLimits(const CustomPageLimits &points, SizeUnit unit);
+
+// The size that a printer is set to, 1/100 mm; Letter where that is unknown.
+struct CustomSize
+{
+    std::int32_t width = 0, length = 0;
+
+    friend bool operator==(const CustomSize &, const CustomSize &) = default;
+};
+CustomSize usualSize(const PpdFile *ppd);
 
 // A field's value in the other unit; rounds each time.
 std::int32_t convertedField(std::int32_t value, SizeUnit to);

@@ -161,6 +161,17 @@ std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, cons
     return static_cast<std::size_t>(found - library.begin());
 }
 
+std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, const Stock &stock,
+                                         OwnSize ownSize, const QString &preferred)
+{
+    for (std::size_t row = 0; row < library.size(); ++row) {
+        if (sameStockName(library[row].customName(), preferred)
+            && findInLibrary({library[row]}, stock, ownSize))
+            return row;
+    }
+    return findInLibrary(library, stock, ownSize);
+}
+
 void leaveLibrary(Stock &stock, const Stock &before, const std::vector<Stock> &library,
                   OwnSize ownSize)
 {

@@ -56,6 +56,10 @@ Stock takenFromLibrary(const Stock &named, const Stock &current, OwnSize ownSize
 std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, const Stock &stock,
                                          OwnSize ownSize);
 
+// The same; of two that are the same the one called `preferred`.
+std::optional<std::size_t> findInLibrary(const std::vector<Stock> &library, const Stock &stock,
+                                         OwnSize ownSize, const QString &preferred);
+
 // To be called when `stock` may have been changed and was `before`: a library's paper that
 // has been changed is no longer described by the library's name.
 void leaveLibrary(Stock &stock, const Stock &before, const std::vector<Stock> &library,

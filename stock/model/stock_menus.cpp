@@ -58,6 +58,43 @@ void appendSubmenu(Menu &menu, const Device &device, const char *titleKey, OSTyp
     menu.items.push_back(std::move(item));
 }
 
+bool offers(const Menu &menu, std::int32_t reference)
+{
+    return std::ranges::find(menu.items, reference, &MenuItem::reference) != menu.items.end();
+}
+
+// `sameAsUnset` is a choice that says what "not set" says, so that it is not
+// offered twice.
+Menu dialogMenu(const Device &device, JobContext jobContext, Menu menu, std::int32_t sameAsUnset,
+                std::vector<MenuItem> further)
+{
+    for (MenuItem &item : menu.items)
+        item.command = kNoCommand;
+    if (!offers(menu, kUnset) && !offers(menu, sameAsUnset))
+        menu.items.insert(menu.items.begin(),
+                          commandItem(device.text(notSetKey(jobContext)), kNoCommand, kUnset));
+    append(menu, std::move(further));
+    return menu;
+}
+
+bool isChosen(const MenuItem &item, const Stock &stock)
+{
+    if (item.command == kCommandStockSource)
+        return stock.source() == item.reference;
+    if (stock.source() != kUnset)
+        return false;
+    switch (item.command) {
+    case kCommandStockSize:
+        return stock.size() == item.reference;
+    case kCommandStockColor:
+        return stock.color() == item.reference;
+    case kCommandStockType:
+        return stock.type() == item.reference;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 void PopulateStockSizeMenu(Menu &menu, const Device &device, JobContext jobContext)
@@ -145,6 +182,41 @@ Menu stockButtonMenu(const Device &device, JobContext jobContext)
     menu.items.push_back(
         commandItem(device.text("Advanced Stock Selection..."), kCommandStockAdvanced));
     return menu;
+}
+
+Menu stockTypeMenu(const Device &device, JobContext jobContext)
+{
+    const auto item = [&device](const char *key, std::int32_t type) {
+        return commandItem(device.text(key), kNoCommand, type);
+    };
+    Menu types;
+    PopulateStockTypeMenu(types, device, jobContext);
+    return dialogMenu(device, jobContext, std::move(types), kStockTypeSystemDefault,
+                      {item("StockTypePrecutTab", kStockTypePrecutTab),
+                       item("StockTypeOrdered", kStockTypeOrdered),
+                       item("StockTypeCustom", kStockTypeCustom)});
+}
+
+Menu stockColorMenu(const Device &device, JobContext jobContext)
+{
+    Menu colors;
+    PopulateStockColorMenu(colors, device, jobContext);
+    return dialogMenu(
+        device, jobContext, std::move(colors), kUnset,
+        {commandItem(device.text("StockColorCustom"), kNoCommand, kStockColorCustom)});
+}
+
+std::int32_t shownStockType(const Menu &types, std::int32_t type)
+{
+    return type == kUnset && !offers(types, kUnset) ? kStockTypeSystemDefault : type;
+}
+
+void markStockMenu(std::vector<MenuItem> &items, const Stock &stock)
+{
+    for (MenuItem &item : items) {
+        markStockMenu(item.submenu, stock);
+        item.checked = item.submenu.empty() && isChosen(item, stock);
+    }
 }
 
 bool applyStockCommand(Stock &stock, OSType command, std::int32_t value, JobContext jobContext)

@@ -37,6 +37,17 @@ void PopulateStockMenu(Menu &menu, CFBundleRef bundle, JobContext jobContext);
 // selection.
 Menu stockButtonMenu(const Device &device, JobContext jobContext);
 
+// The pop-ups of a stock's type and colour, as the stock dialogs show them: the choices of
+// the PPD with "not set" among them, and those types and that colour that only a stock has.
+// They send no commands: what was chosen counts with OK.
+Menu stockTypeMenu(const Device &device, JobContext jobContext);
+Menu stockColorMenu(const Device &device, JobContext jobContext);
+// The item that stands for `type` there: one that is not set is the printer's default.
+std::int32_t shownStockType(const Menu &types, std::int32_t type);
+
+// Checks the choices, in submenus too, that `stock` has.
+void markStockMenu(std::vector<MenuItem> &items, const Stock &stock);
+
 // What 'Ssiz' (but the custom size), 'Sclr', 'Styp', 'Ssrc' and 'Sdef' do to
 // `stock`. False, and nothing changed, for any other command. Transparency
 // brings the clear colour with it.

@@ -2,7 +2,6 @@
 
 #include "keyword_map.h"
 #include "ppd_choices.h"
-#include "ticket_values.h"
 
 #include <QLocale>
 
@@ -159,7 +158,7 @@ StockProblem findProblem(const Stock &stock)
     return StockProblem::None;
 }
 
-QStringList stockPropertyLines(CFBundleRef bundle, const Stock &stock)
+QStringList stockPropertyLines(const Device &device, const Stock &stock)
 {
     QStringList lines;
     const auto add = [&lines](const QString &text) {
@@ -167,19 +166,17 @@ QStringList stockPropertyLines(CFBundleRef bundle, const Stock &stock)
             lines << QStringLiteral("- ") + text;
     };
     // Empty for what is not set and for a value that the map does not have.
-    const auto textOf = [bundle](const SettingMap *map, std::int32_t value) {
-        const char *key = value == kUnset ? nullptr : LocalizedKeyForTicketValue(map, value);
-        return key ? localizedText(bundle, QString::fromLatin1(key)) : QString();
+    const auto textOf = [&device](const SettingMap *map, std::int32_t value) {
+        return value == kUnset ? QString() : textOfValue(device, map, value);
     };
     if (stock.description() != stock.customName())
         add(stock.description());
     if (stock.weight() != kUnset)
-        add(localizedText(bundle, QStringLiteral("StockWeightText"))
-                .arg(QLocale().toString(stock.weight())));
+        add(device.text("StockWeightText").arg(QLocale().toString(stock.weight())));
     const QString sides = textOf(SidesCoatedMap, stock.sidesCoated());
     const QString kind = textOf(CoatingTypeMap, stock.coatingType());
     if (isCoated(stock) && stock.coatingType() != kUsualCoating && !kind.isEmpty())
-        add(localizedText(bundle, QStringLiteral("StockCoatingText")).arg(sides, kind));
+        add(device.text("StockCoatingText").arg(sides, kind));
     else
         add(sides);
     add(textOf(SurfaceFinishMap, stock.finish()));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ppd_file.h"
+#include "device.h"
 #include "setting_map.h"
 #include "stock.h"
 
@@ -73,6 +73,6 @@ enum class StockProblem { None, TypeNameMissing, ColorNameMissing };
 
 // One line for each of them that is set, as the summary has them ("- 120 g/m²"). A
 // description that is the stock's name has none: the summary begins with the name.
-QStringList stockPropertyLines(CFBundleRef bundle, const Stock &stock);
+QStringList stockPropertyLines(const Device &device, const Stock &stock);
 
 } // namespace kelvo

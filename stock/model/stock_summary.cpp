@@ -1,6 +1,7 @@
 #include "stock_summary.h"
 
 #include "ppd_choices.h"
+#include "ticket_values.h"
 
 #include <QStringList>
 
@@ -92,6 +93,39 @@ QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const St
     return GenerateStockSummary(currentDevice(bundle), jobContext, stock, separator);
 }
 
+QString stockSizeWords(const Device &device, JobContext jobContext, const Stock &stock,
+                       SizeUnit unit)
+{
+    if (stock.size() == kUnset)
+        return device.text(notSetKey(jobContext));
+    if (stock.size() == kStockSizeCustom && stock.width() != kUnset && stock.length() != kUnset) {
+        const auto text = [unit](std::int32_t length) {
+            return CreateLocalizedCFStringFromNumberWithDecimals(fieldOfLength(length, unit),
+                                                                 decimalsOf(unit))
+                .value_or(QString());
+        };
+        return device
+            .text(unit == SizeUnit::Inches ? "StockCustomSizeInches" : "StockCustomSizeMillimeters")
+            .arg(text(stock.width()), text(stock.length()));
+    }
+    const QString size = stockSizeText(device, stock);
+    return size.isEmpty() ? device.text("StockSizeUnknown") : size;
+}
+
+QString jobPaperText(const Device &device, const Stock *jobStock)
+{
+    if (!jobStock)
+        return {};
+    QStringList parts =
+        GenerateStockSummary(device, kJobContextJob, *jobStock, QStringLiteral("\n")).split(u'\n');
+    for (QString &part : parts) {
+        if (part.startsWith(bullet))
+            part.remove(0, bullet.size());
+    }
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
 QString stockSummaryText(const Device &device, JobContext jobContext, const Stock *stock)
 {
     if (!stock)
@@ -99,7 +133,7 @@ QString stockSummaryText(const Device &device, JobContext jobContext, const Stoc
     const QString summary = GenerateStockSummary(device, jobContext, *stock, QStringLiteral("\n"));
     if (!summary.isEmpty())
         return summary;
-    return device.text(jobContext == kJobContextJob ? "PrinterDefault" : "UseJobSetting");
+    return device.text(notSetKey(jobContext));
 }
 
 } // namespace kelvo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "custom_size.h"
 #include "device.h"
 #include "setting_map.h"
 #include "stock.h"
@@ -28,6 +29,15 @@ QString GenerateStockSummary(CFBundleRef bundle, JobContext jobContext, const St
 QString stockSizeText(const Device &device, const Stock &stock);
 QString stockColorText(const Device &device, const Stock &stock);
 QString stockTypeText(const Device &device, const Stock &stock); // "Precut tab (5)"
+
+// The size as the stock dialogs show it: width and length of a custom one, in `unit`, and in
+// words also that there is none or none that the device knows.
+QString stockSizeWords(const Device &device, JobContext jobContext, const Stock &stock,
+                       SizeUnit unit);
+
+// "White, Plain": the job's paper in a line, for those who can leave it to the job; empty
+// where that says nothing, and for null.
+QString jobPaperText(const Device &device, const Stock *jobStock);
 
 // What a summary view shows for it: the lines, or where there are none "printer
 // default" (the job) or "use job setting". Empty for null.

@@ -73,6 +73,13 @@ TabShift withUnit(TabShift shift, int unit)
     return shift;
 }
 
+TabShift withinReach(TabShift shift)
+{
+    if (shift.maximum > 0)
+        shift.value = std::clamp(shift.value, -shift.maximum, shift.maximum);
+    return shift;
+}
+
 bool isTabShiftEditable(const TabShift &shift)
 {
     return shift.choice == kTabShiftCustom;

@@ -36,6 +36,9 @@ struct TabShift
 TabShift tabShiftOf(const _IS_Options &options, QLocale::MeasurementSystem system, int unit);
 // The same shift in the other unit. One inch is 25 mm here, in both directions.
 TabShift withUnit(TabShift shift, int unit);
+// As far back from the tab as towards it. Where the locale has neither unit nothing can be
+// shown until the user chooses one, and what is stored stays as it is.
+TabShift withinReach(TabShift shift);
 bool isTabShiftEditable(const TabShift &shift); // value and unit
 // What OK stores: none unsets the option, else x1 in millimetres.
 void storeTabShift(_IS_Options &options, const TabShift &shift);

@@ -11,10 +11,8 @@
 #include "stock_menu_button.h"
 #include "stock_menus.h"
 #include "stock_notices.h"
-#include "stock_popups.h"
 #include "stock_properties.h"
 #include "stock_summary.h"
-#include "ticket_values.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -40,31 +38,6 @@ constexpr ControlID kLibraryHint{kPanelSignature, 7071};
 
 constexpr std::int32_t kNoLibraryStock = -1; // the first line of the pop-up
 
-// The width and length of a custom size, in the unit that the user works with.
-QString customSizeText(CFBundleRef bundle, const Stock &stock)
-{
-    const SizeUnit unit = currentSizeUnit();
-    const auto text = [unit](std::int32_t length) {
-        return CreateLocalizedCFStringFromNumberWithDecimals(fieldOfLength(length, unit),
-                                                             decimalsOf(unit))
-            .value_or(QString());
-    };
-    return localizedText(bundle,
-                         unit == SizeUnit::Inches ? QStringLiteral("StockCustomSizeInches")
-                                                  : QStringLiteral("StockCustomSizeMillimeters"))
-        .arg(text(stock.width()), text(stock.length()));
-}
-
-QString sizeText(CFBundleRef bundle, JobContext jobContext, const Stock &stock)
-{
-    if (stock.size() == kUnset)
-        return notSetText(bundle, jobContext);
-    if (stock.size() == kStockSizeCustom && stock.width() != kUnset && stock.length() != kUnset)
-        return customSizeText(bundle, stock);
-    const QString size = stockSizeText(currentDevice(bundle), stock);
-    return size.isEmpty() ? localizedText(bundle, QStringLiteral("StockSizeUnknown")) : size;
-}
-
 // A stock as its context begins with it, all of it: the default by itself leaves
 // some of the finer properties as they were.
 Stock freshStock(JobContext jobContext)
@@ -77,9 +50,9 @@ Stock freshStock(JobContext jobContext)
 class AdvancedStockWindow
 {
 public:
-    AdvancedStockWindow(CFBundleRef bundle, QWidget *window, JobContext jobContext, OwnSize ownSize,
-                        bool offersLibrary, const Stock &stock)
-        : m_bundle(bundle)
+    AdvancedStockWindow(const Device &device, QWidget *window, JobContext jobContext,
+                        OwnSize ownSize, bool offersLibrary, const Stock &stock)
+        : m_device(device)
         , m_window(window)
         , m_jobContext(jobContext)
         , m_ownSize(ownSize)
@@ -91,11 +64,11 @@ public:
         , m_colorName(findControl<QLineEdit>(window, kColorNameField))
         , m_stock(stock)
     {
-        fillStockColorPopup(bundle, m_color, jobContext);
+        m_color->setMenu(stockColorMenu(device, jobContext));
         setInputLimits(m_colorName, {.maximumLength = kLongestStockText});
 
         const bool hasSize = ownSize != OwnSize::None;
-        m_sizeData.bundle = bundle;
+        m_sizeData.device = device;
         m_sizeData.stock = &m_stock;
         m_sizeData.jobContext = jobContext;
         m_sizeData.offersSize = hasSize;
@@ -141,7 +114,7 @@ public:
     bool mayAccept() const
     {
         const StockProblem problem = findProblem(tidied(m_stock));
-        showStockProblem(m_bundle, problem, m_window);
+        showStockProblem(m_device.bundle, problem, m_window);
         if (problem == StockProblem::ColorNameMissing)
             m_colorName->setFocus();
         return problem == StockProblem::None;
@@ -191,14 +164,14 @@ private:
     void runType()
     {
         DialogResult result = DialogResult::Cancel;
-        RunModalStockTypeSetup(m_bundle, kDialogModeEdit, m_jobContext, &m_stock, &result,
+        RunModalStockTypeSetup(m_device, kDialogModeEdit, m_jobContext, &m_stock, &result,
                                m_window);
     }
 
     void runDescription()
     {
         DialogResult result = DialogResult::Cancel;
-        RunModalStockDescriptionSetup(m_bundle, kDialogModeEdit, m_jobContext, &m_stock, &result,
+        RunModalStockDescriptionSetup(m_device, kDialogModeEdit, m_jobContext, &m_stock, &result,
                                       m_window);
     }
 
@@ -218,7 +191,7 @@ private:
         if (row && m_named[*row].description().isEmpty())
             own.setDescription(QStringLiteral(""));
         const std::optional<QString> name = RunModalSaveStock(
-            m_bundle, own, m_libraryName.isEmpty() ? m_stock.description() : m_libraryName,
+            m_device.bundle, own, m_libraryName.isEmpty() ? m_stock.description() : m_libraryName,
             m_window);
         if (name) {
             own.setCustomName(*name);
@@ -231,9 +204,10 @@ private:
     void remove()
     {
         const QString name = chosenName();
-        if (name.isEmpty() || !mayChangeLibrary(m_bundle, QStringLiteral("Remove"), name, m_window))
+        if (name.isEmpty()
+            || !mayChangeLibrary(m_device.bundle, QStringLiteral("Remove"), name, m_window))
             return;
-        showLibraryProblem(m_bundle, removeFromStockLibrary(name), name, m_window);
+        showLibraryProblem(m_device.bundle, removeFromStockLibrary(name), name, m_window);
         m_libraryName.clear();
         fillLibrary();
     }
@@ -253,9 +227,7 @@ private:
         m_named = readStockLibrary();
         Menu menu;
         MenuItem none;
-        none.text = localizedText(m_bundle,
-                                  m_named.empty() ? QStringLiteral("Stock Library Empty")
-                                                  : QStringLiteral("Stock Library Choose"));
+        none.text = m_device.text(m_named.empty() ? "Stock Library Empty" : "Stock Library Choose");
         none.reference = kNoLibraryStock;
         menu.items.push_back(std::move(none));
         for (std::size_t row = 0; row < m_named.size(); ++row) {
@@ -267,18 +239,6 @@ private:
         m_library->setMenu(std::move(menu));
     }
 
-    // The library's paper that the stock is: of two that are the same, the one chosen last.
-    std::int32_t libraryRow() const
-    {
-        for (std::size_t row = 0; row < m_named.size(); ++row) {
-            if (sameStockName(m_named[row].customName(), m_libraryName)
-                && findInLibrary({m_named[row]}, m_stock, m_ownSize))
-                return static_cast<std::int32_t>(row);
-        }
-        const auto found = findInLibrary(m_named, m_stock, m_ownSize);
-        return found ? static_cast<std::int32_t>(*found) : kNoLibraryStock;
-    }
-
     void replaceStock(const Stock &stock)
     {
         m_stock = stock;
@@ -287,20 +247,21 @@ private:
 
     void show()
     {
-        m_library->setValueByReference(libraryRow());
+        const auto row = findInLibrary(m_named, m_stock, m_ownSize, m_libraryName);
+        m_library->setValueByReference(row ? static_cast<std::int32_t>(*row) : kNoLibraryStock);
         setEnabledWithLabel(m_library, !m_named.empty());
         m_remove->setEnabled(!chosenName().isEmpty());
-        showChoice(m_bundle, m_color, m_stock.color());
+        showChoice(m_device.bundle, m_color, m_stock.color());
         setEnabledWithLabel(m_colorName, m_stock.color() == kStockColorCustom);
-        m_size->setText(
-            sizeText(m_bundle, m_jobContext, m_stock).replace(u'&', QLatin1String("&&")));
-        QStringList lines(stockSummaryText(currentDevice(m_bundle), m_jobContext, &m_stock));
-        lines += stockPropertyLines(m_bundle, m_stock);
+        m_size->setText(stockSizeWords(m_device, m_jobContext, m_stock, currentSizeUnit())
+                            .replace(u'&', QLatin1String("&&")));
+        QStringList lines(stockSummaryText(m_device, m_jobContext, &m_stock));
+        lines += stockPropertyLines(m_device, m_stock);
         m_summary->setSummary(lines.join(u'\n'));
         StockIconEventHandler(m_sizeData);
     }
 
-    CFBundleRef m_bundle;
+    const Device &m_device;
     QWidget *m_window;
     JobContext m_jobContext;
     OwnSize m_ownSize;
@@ -318,20 +279,20 @@ private:
 
 } // namespace
 
-OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode, JobContext jobContext,
+OSStatus RunModalAdvancedStockSelection(const Device &device, DialogMode, JobContext jobContext,
                                         NamedPaperContext namedPapers, Stock *stock,
                                         DialogResult *result, QWidget *parent, bool offersSize)
 {
-    if (!bundle || !stock || !result)
+    if (!device.bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("AdvancedStockSelection");
-    const auto dialog = createModalDialog(bundle, name, name, parent,
+    const auto dialog = createModalDialog(device.bundle, name, name, parent,
                                           {kSummary, kLibraryPopup, kSaveButton, kRemoveButton,
                                            kSizeButton, kColorPopup, kColorNameField, kTypeButton,
                                            kDescriptionButton, kLibraryHint});
     if (!dialog)
         return kWindowNotMade;
-    AdvancedStockWindow window(bundle, dialog.get(), jobContext, ownSizeFor(jobContext, offersSize),
+    AdvancedStockWindow window(device, dialog.get(), jobContext, ownSizeFor(jobContext, offersSize),
                                namedPapers == kNamedPaperLibrary, *stock);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });

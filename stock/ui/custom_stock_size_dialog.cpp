@@ -7,7 +7,6 @@
 #include "localized_controls.h"
 #include "notice.h"
 #include "picture_view.h"
-#include "ppd_choices.h"
 #include "radio_group.h"
 #include "spin_field.h"
 #include "string_table.h"
@@ -16,7 +15,6 @@
 #include <QLabel>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kelvo {
 
@@ -44,41 +42,19 @@ struct LengthControls
     }
 };
 
-CustomPageLimits mediaLimits()
-{
-    CustomPageLimits limits{};
-    GetMediaLimits(&limits.minWidth, &limits.minHeight, &limits.maxWidth, &limits.maxHeight);
-    return limits;
-}
-
-// The size that a printer is set to, 1/100 mm; Letter where that is unknown.
-std::pair<std::int32_t, std::int32_t> defaultSize()
-{
-    constexpr double lengthPerPoint = 2540.0 / 72;
-    const PpdFile *ppd = PPDGetCurrent();
-    const std::optional<QString> name = PPDCopyDefaultChoice(ppd, QStringLiteral("PageSize"));
-    const PpdPageSize *size = ppd && name ? ppd->findPageSize(*name) : nullptr;
-    const auto lengthOf = [](double points) {
-        return static_cast<std::int32_t>(
-            std::lround(std::clamp(points, 0.0, 1e6) * lengthPerPoint));
-    };
-    return size ? std::pair(lengthOf(size->width), lengthOf(size->height))
-                : std::pair(lengthOf(612), lengthOf(792));
-}
-
 class CustomSizeWindow
 {
 public:
-    CustomSizeWindow(CFBundleRef bundle, const QWidget *window, std::int32_t width,
+    CustomSizeWindow(const Device &device, const QWidget *window, std::int32_t width,
                      std::int32_t length)
-        : m_bundle(bundle)
+        : m_device(device)
         , m_width(window, kWidthField)
         , m_length(window, kLengthField)
         , m_unitRadio(findControl<RadioGroup>(window, kUnitRadio))
     {
-        showBundlePicture(findControl<PictureView>(window, kPictureView), bundle,
+        showBundlePicture(findControl<PictureView>(window, kPictureView), device.bundle,
                           QStringLiteral("Paper_CustomSize.gif"),
-                          localizedText(bundle, QStringLiteral("Custom Size Picture")));
+                          device.text("Custom Size Picture"));
         m_unitRadio->setValue(static_cast<int>(m_unit));
         showUnit(fieldOfLength(width, m_unit), fieldOfLength(length, m_unit));
     }
@@ -102,23 +78,22 @@ public:
     // False after a notice that the device does not take one of the two.
     bool mayAccept() const
     {
-        return isTaken(m_width, QStringLiteral("Custom Width Refused Header"))
-            && isTaken(m_length, QStringLiteral("Custom Length Refused Header"));
+        return isTaken(m_width, "Custom Width Refused Header")
+            && isTaken(m_length, "Custom Length Refused Header");
     }
 
     std::int32_t width() const { return lengthOfField(m_width.field->value(), m_unit); }
     std::int32_t length() const { return lengthOfField(m_length.field->value(), m_unit); }
 
 private:
-    bool isTaken(const LengthControls &controls, const QString &refusalKey) const
+    bool isTaken(const LengthControls &controls, const char *refusalKey) const
     {
         if (controls.field->isInRange())
             return true;
         CFUserNotificationDisplayNotice(
-            NoticeLevel::Stop, localizedText(m_bundle, refusalKey),
-            formatted(localizedText(m_bundle, QStringLiteral("Custom Size Refused Message")),
-                      {controls.limits->text()}),
-            {}, controls.field);
+            NoticeLevel::Stop, m_device.text(refusalKey),
+            formatted(m_device.text("Custom Size Refused Message"), {controls.limits->text()}), {},
+            controls.field);
         controls.field->setFocus();
         controls.field->selectAll();
         return false;
@@ -126,7 +101,7 @@ private:
 
     void showUnit(std::int32_t width, std::int32_t length)
     {
-        const SizeFieldLimits limits = sizeFieldLimits(mediaLimits(), m_unit);
+        const SizeFieldLimits limits = sizeFieldLimits(m_device.mediaLimits(), m_unit);
         show(m_width, width, limits.minWidth, limits.maxWidth);
         show(m_length, length, limits.minLength, limits.maxLength);
     }
@@ -143,21 +118,21 @@ private:
         field.setMinimum(least);
         field.setMaximum(std::max(least, most));
         field.setValue(value);
-        SetLocalizedStaticText(m_bundle,
+        SetLocalizedStaticText(m_device.bundle,
                                inInches ? QStringLiteral("Inches") : QStringLiteral("Millimeters"),
                                controls.unit);
         const auto text = [decimals](int limit) {
             return CreateLocalizedCFStringFromNumberWithDecimals(limit, decimals)
                 .value_or(QString());
         };
-        SetLocalizedStaticText(m_bundle,
+        SetLocalizedStaticText(m_device.bundle,
                                inInches ? QStringLiteral("Custom Size Limits Inches")
                                         : QStringLiteral("Custom Size Limits Millimeters"),
                                controls.limits, {text(field.minimum()), text(field.maximum())});
         field.setAccessibleDescription(controls.limits->text());
     }
 
-    CFBundleRef m_bundle;
+    const Device &m_device;
     LengthControls m_width;
     LengthControls m_length;
     RadioGroup *m_unitRadio;
@@ -166,19 +141,19 @@ private:
 
 } // namespace
 
-OSStatus RunModalCustomStockSizeDialog(CFBundleRef bundle, DialogResult *result,
+OSStatus RunModalCustomStockSizeDialog(const Device &device, DialogResult *result,
                                        std::int32_t *width, std::int32_t *length, QWidget *parent)
 {
-    if (!bundle || !result || !width || !length)
+    if (!device.bundle || !result || !width || !length)
         return paramErr;
     const QString name = QStringLiteral("CustomStockSize");
-    const auto dialog =
-        createModalDialog(bundle, name, name, parent, {kWidthField, kLengthField, kUnitRadio});
+    const auto dialog = createModalDialog(device.bundle, name, name, parent,
+                                          {kWidthField, kLengthField, kUnitRadio});
     if (!dialog)
         return kWindowNotMade;
-    const auto [usualWidth, usualLength] = defaultSize();
-    CustomSizeWindow window(bundle, dialog.get(), *width == kUnset ? usualWidth : *width,
-                            *length == kUnset ? usualLength : *length);
+    const CustomSize usual = usualSize(device.ppd);
+    CustomSizeWindow window(device, dialog.get(), *width == kUnset ? usual.width : *width,
+                            *length == kUnset ? usual.length : *length);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
     dialog->setAcceptRule([&window] { return window.mayAccept(); });

@@ -6,12 +6,9 @@
 #include "input_limits.h"
 #include "localized_controls.h"
 #include "popups.h"
-#include "ppd_choices.h"
 #include "spin_field.h"
 #include "stock_menus.h"
-#include "stock_popups.h"
 #include "stock_properties.h"
-#include "ticket_values.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -68,10 +65,10 @@ const std::array kRows = {
 class StockDescriptionWindow
 {
 public:
-    StockDescriptionWindow(CFBundleRef bundle, const QWidget *window, JobContext jobContext,
+    StockDescriptionWindow(const Device &device, const QWidget *window, JobContext jobContext,
                            const Stock &stock)
         : m_window(window)
-        , m_properties(stockPropertiesOf(PPDGetCurrent()))
+        , m_properties(stockPropertiesOf(device.ppd))
         , m_description(findControl<QLineEdit>(window, kDescriptionField))
         , m_weight(findControl<SpinField>(window, kWeightField))
         , m_weightUnset(findControl<QCheckBox>(window, kWeightUnsetBox))
@@ -83,19 +80,19 @@ public:
         m_description->setText(m_stock.description());
         m_comment->setPlainText(m_stock.comment());
         m_comment->setFixedHeight(heightOfLines(m_comment, kCommentLines));
-        fillPopups(bundle, jobContext);
+        fillPopups(device, jobContext);
 
         const WeightRange &range = m_properties.weight;
         m_weight->setMinimum(range.least);
         m_weight->setMaximum(range.greatest);
-        m_weight->setSuffix(localizedText(bundle, QStringLiteral("Stock Weight Suffix")));
+        m_weight->setSuffix(device.text("Stock Weight Suffix"));
         m_weight->setValue(m_stock.weight() == kUnset ? kUsualWeight : m_stock.weight());
-        m_weightUnset->setText(notSetText(bundle, jobContext));
+        m_weightUnset->setText(device.text(notSetKey(jobContext)));
         m_weightUnset->setAccessibleName(
             QStringLiteral("%1: %2").arg(m_weight->accessibleName(), m_weightUnset->text()));
         auto *rangeLabel = findControl<QLabel>(window, kWeightRange);
         SetLocalizedStaticText(
-            bundle, QStringLiteral("Stock Weight Range"), rangeLabel,
+            device.bundle, QStringLiteral("Stock Weight Range"), rangeLabel,
             {QLocale().toString(range.least), QLocale().toString(range.greatest)});
         m_weight->setAccessibleDescription(rangeLabel->text());
         makeHintText(rangeLabel);
@@ -142,10 +139,10 @@ private:
         return findControl<PopupButton>(m_window, row.popup);
     }
 
-    void fillPopups(CFBundleRef bundle, JobContext jobContext) const
+    void fillPopups(const Device &device, JobContext jobContext) const
     {
         for (const PropertyRow &row : kRows)
-            PopulatePopupButtonFromMap(bundle, popupOf(row), row.map, jobContext, kNoCommand);
+            PopulatePopupButtonFromMap(device, popupOf(row), row.map, jobContext, kNoCommand);
         if (m_properties.prePunched)
             return;
         PopupButton *punched = findControl<PopupButton>(m_window, kPunchedPopup);
@@ -179,19 +176,19 @@ private:
 
 } // namespace
 
-OSStatus RunModalStockDescriptionSetup(CFBundleRef bundle, DialogMode, JobContext jobContext,
+OSStatus RunModalStockDescriptionSetup(const Device &device, DialogMode, JobContext jobContext,
                                        Stock *stock, DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !stock || !result)
+    if (!device.bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("StockDescription");
     const auto dialog = createModalDialog(
-        bundle, name, name, parent,
+        device.bundle, name, name, parent,
         {kDescriptionField, kWeightField, kWeightUnsetBox, kWeightRange, kSidesCoatedPopup,
          kCoatingTypePopup, kCoatingHint, kFinishPopup, kGrainPopup, kPunchedPopup, kCommentField});
     if (!dialog)
         return kWindowNotMade;
-    StockDescriptionWindow window(bundle, dialog.get(), jobContext, *stock);
+    StockDescriptionWindow window(device, dialog.get(), jobContext, *stock);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
     *result = dialog->runModal();

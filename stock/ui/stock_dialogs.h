@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "status.h"
 #include "stock.h"
 
@@ -15,19 +15,27 @@ namespace kelvo {
 enum NamedPaperContext : std::int32_t { kNamedPaperLibrary = 1 };
 
 // Description, weight, coating, finish, grain, punched and comment.
-OSStatus RunModalStockDescriptionSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
+OSStatus RunModalStockDescriptionSetup(const Device &device, DialogMode mode, JobContext jobContext,
                                        Stock *stock, DialogResult *result,
                                        QWidget *parent = nullptr);
 
 // Type, with the name and the number of tabs of those types that have them.
-OSStatus RunModalStockTypeSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
+OSStatus RunModalStockTypeSetup(const Device &device, DialogMode mode, JobContext jobContext,
                                 Stock *stock, DialogResult *result, QWidget *parent = nullptr);
 
 // All of the stock, with the library of named stocks. No size is offered for the job,
 // and none where `offersSize` is false.
-OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode mode, JobContext jobContext,
-                                        NamedPaperContext namedPapers, Stock *stock,
-                                        DialogResult *result, QWidget *parent = nullptr,
-                                        bool offersSize = true);
+OSStatus RunModalAdvancedStockSelection(const Device &device, DialogMode mode,
+                                        JobContext jobContext, NamedPaperContext namedPapers,
+                                        Stock *stock, DialogResult *result,
+                                        QWidget *parent = nullptr, bool offersSize = true);
+// On the current device.
+inline OSStatus RunModalAdvancedStockSelection(CFBundleRef bundle, DialogMode mode,
+                                               JobContext jobContext, NamedPaperContext namedPapers,
+                                               Stock *stock, DialogResult *result)
+{
+    return RunModalAdvancedStockSelection(currentDevice(bundle), mode, jobContext, namedPapers,
+                                          stock, result);
+}
 
 } // namespace kelvo

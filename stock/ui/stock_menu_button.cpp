@@ -14,36 +14,10 @@ namespace kelvo {
 
 namespace {
 
-bool isChosen(const MenuItem &item, const Stock &stock)
-{
-    if (item.command == kCommandStockSource)
-        return stock.source() == item.reference;
-    if (stock.source() != kUnset)
-        return false;
-    switch (item.command) {
-    case kCommandStockSize:
-        return stock.size() == item.reference;
-    case kCommandStockColor:
-        return stock.color() == item.reference;
-    case kCommandStockType:
-        return stock.type() == item.reference;
-    default:
-        return false;
-    }
-}
-
-void checkChosen(std::vector<MenuItem> &items, const Stock &stock)
-{
-    for (MenuItem &item : items) {
-        checkChosen(item.submenu, stock);
-        item.checked = item.submenu.empty() && isChosen(item, stock);
-    }
-}
-
 void showStock(const _StockMenuCommandEventHandlerData &data)
 {
     if (data.summary)
-        ShowStockSummary(data.bundle, data.summary, data.stock, data.jobContext);
+        ShowStockSummary(data.device, data.summary, data.stock, data.jobContext);
     StockIconEventHandler(data);
 }
 
@@ -60,14 +34,14 @@ void tellTicketPlaces(MenuButton *button)
 OSStatus initializeButton(MenuButton *button, _StockMenuCommandEventHandlerData *data,
                           Menu (*menuFor)(const Device &, JobContext))
 {
-    if (!button || !data || !data->bundle || !data->stock)
+    if (!button || !data || !data->device.bundle || !data->stock)
         return paramErr;
     FinalizeStockMenuButton(data);
     data->button = button;
-    button->setMenu(menuFor(currentDevice(data->bundle), data->jobContext));
+    button->setMenu(menuFor(data->device, data->jobContext));
     if (data->jobContext == kJobContextJob)
         tellTicketPlaces(button);
-    button->setMenuUpdate([data](Menu &menu) { checkChosen(menu.items, *data->stock); });
+    button->setMenuUpdate([data](Menu &menu) { markStockMenu(menu.items, *data->stock); });
     data->handlers.push_back(installEventHandler(
         button, [data](const Event &event) { return StockMenuCommandEventHandler(event, data); }));
     showStock(*data);
@@ -83,7 +57,7 @@ OSStatus takeCustomSize(_StockMenuCommandEventHandlerData &data)
     std::int32_t length = stock.length();
     DialogResult result = DialogResult::Cancel;
     const OSStatus status =
-        RunModalCustomStockSizeDialog(data.bundle, &result, &width, &length, data.button);
+        RunModalCustomStockSizeDialog(data.device, &result, &width, &length, data.button);
     if (status == noErr && result == DialogResult::OK) {
         stock.setSize(kStockSizeCustom);
         stock.setWidth(width);
@@ -132,7 +106,7 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
     const Stock before = *data->stock;
     if (event.command == kCommandStockAdvanced) {
         DialogResult result = DialogResult::Cancel;
-        status = RunModalAdvancedStockSelection(data->bundle, kDialogModeEdit, data->jobContext,
+        status = RunModalAdvancedStockSelection(data->device, kDialogModeEdit, data->jobContext,
                                                 kNamedPaperLibrary, data->stock, &result,
                                                 data->button, data->offersSize);
         if (status != noErr || result != DialogResult::OK)
@@ -154,9 +128,9 @@ OSStatus StockMenuCommandEventHandler(const Event &event, _StockMenuCommandEvent
 
 void StockIconEventHandler(const _StockMenuCommandEventHandlerData &data)
 {
-    if (data.icon && data.bundle && data.stock)
-        showStockIcon(data.bundle, data.icon, *data.stock,
-                      stockSummaryText(currentDevice(data.bundle), data.jobContext, data.stock));
+    if (data.icon && data.stock)
+        showStockIcon(data.device.bundle, data.icon, *data.stock,
+                      stockSummaryText(data.device, data.jobContext, data.stock));
 }
 
 void showStockIcon(CFBundleRef bundle, PictureView *icon, const Stock &stock,
@@ -173,12 +147,18 @@ void showStockIcon(CFBundleRef bundle, PictureView *icon, const Stock &stock,
     icon->setPictures(files, QString(description).replace(u'\n', QLatin1String(", ")));
 }
 
+OSStatus ShowStockSummary(const Device &device, SummaryView *view, const Stock *stock,
+                          JobContext jobContext)
+{
+    if (!device.bundle || !view)
+        return paramErr;
+    return UpdateSummaryTextView(view, stockSummaryText(device, jobContext, stock));
+}
+
 OSStatus ShowStockSummary(CFBundleRef bundle, SummaryView *view, const Stock *stock,
                           JobContext jobContext)
 {
-    if (!bundle || !view)
-        return paramErr;
-    return UpdateSummaryTextView(view, stockSummaryText(currentDevice(bundle), jobContext, stock));
+    return ShowStockSummary(currentDevice(bundle), view, stock, jobContext);
 }
 
 } // namespace kelvo

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "event.h"
 #include "menu_button.h"
 #include "picture_view.h"
@@ -19,7 +19,7 @@ namespace kelvo {
 // dialog that shows them, and must stay where it is while they are initialized.
 struct _StockMenuCommandEventHandlerData // NOLINT(bugprone-reserved-identifier)
 {
-    CFBundleRef bundle = nullptr;
+    Device device;
     Stock *stock = nullptr; // the owner's
     JobContext jobContext = kJobContextJob;
     bool offersSize = true; // in the advanced selection of a special page's stock
@@ -33,7 +33,7 @@ struct _StockMenuCommandEventHandlerData // NOLINT(bugprone-reserved-identifier)
 };
 
 // Fills the button's menu (stockButtonMenu, or the sizes alone), takes its
-// commands, and shows the stock. paramErr when button, bundle or stock is missing.
+// commands, and shows the stock. paramErr when button, stock or the device's bundle is missing.
 OSStatus InitializeStockMenuButton(MenuButton *button, _StockMenuCommandEventHandlerData *data);
 OSStatus InitializeStockSizeMenuButton(MenuButton *button, _StockMenuCommandEventHandlerData *data);
 void FinalizeStockMenuButton(_StockMenuCommandEventHandlerData *data);
@@ -51,6 +51,9 @@ void showStockIcon(CFBundleRef bundle, PictureView *icon, const Stock &stock,
 
 // Puts the stock's summary into the view; an empty one for a null stock. paramErr
 // when bundle or view is missing.
+OSStatus ShowStockSummary(const Device &device, SummaryView *view, const Stock *stock,
+                          JobContext jobContext);
+// On the current device.
 OSStatus ShowStockSummary(CFBundleRef bundle, SummaryView *view, const Stock *stock,
                           JobContext jobContext);
 

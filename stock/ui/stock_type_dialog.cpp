@@ -5,9 +5,9 @@
 #include "hint_text.h"
 #include "input_limits.h"
 #include "localized_controls.h"
+#include "popups.h"
 #include "stock_menus.h"
 #include "stock_notices.h"
-#include "stock_popups.h"
 #include "stock_properties.h"
 #include "tab_stock_dialogs.h"
 #include "ticket_values.h"
@@ -30,8 +30,9 @@ constexpr ControlID kTabsButton{kPanelSignature, 7034};
 class StockTypeWindow
 {
 public:
-    StockTypeWindow(CFBundleRef bundle, QWidget *window, JobContext jobContext, const Stock &stock)
-        : m_bundle(bundle)
+    StockTypeWindow(const Device &device, QWidget *window, JobContext jobContext,
+                    const Stock &stock)
+        : m_device(device)
         , m_window(window)
         , m_jobContext(jobContext)
         , m_type(findControl<PopupButton>(window, kTypePopup))
@@ -40,7 +41,7 @@ public:
         , m_tabsButton(findControl<QPushButton>(window, kTabsButton))
         , m_stock(stock)
     {
-        fillStockTypePopup(bundle, m_type, jobContext);
+        m_type->setMenu(stockTypeMenu(device, jobContext));
         setInputLimits(m_name, {.maximumLength = kLongestStockText});
         m_name->setText(m_stock.customType());
         makeHintText(findControl<QLabel>(window, kNameHint));
@@ -63,8 +64,8 @@ public:
             m_stock = withTabs(m_stock);
         } else if (event.control == kTabsButton) {
             DialogResult result = DialogResult::Cancel;
-            RunModalPreCutTabStockSetup(m_bundle, kDialogModeEdit, m_jobContext, &m_stock, &result,
-                                        m_window);
+            RunModalPreCutTabStockSetup(m_device.bundle, kDialogModeEdit, m_jobContext, &m_stock,
+                                        &result, m_window);
         } else {
             return eventNotHandledErr;
         }
@@ -77,7 +78,7 @@ public:
         const StockProblem problem = findProblem(m_stock);
         if (problem != StockProblem::TypeNameMissing)
             return true;
-        showStockProblem(m_bundle, problem, m_window);
+        showStockProblem(m_device.bundle, problem, m_window);
         m_name->setFocus();
         return false;
     }
@@ -88,19 +89,19 @@ private:
     void show()
     {
         const std::int32_t type = m_stock.type();
-        showStockType(m_bundle, m_type, type);
+        showChoice(m_device.bundle, m_type, shownStockType(m_type->menu(), type));
         setEnabledWithLabel(m_name, hasTypeName(type));
         m_tabsButton->setEnabled(hasTabs(type));
         const bool isCounted = m_stock.modulus() != kUnset;
         const QString key = !hasTabs(type) ? QStringLiteral("Tabs Not Needed")
             : isCounted                    ? QStringLiteral("Tabs Set")
                                            : QStringLiteral("Tabs Not Set");
-        SetLocalizedStaticText(m_bundle, key, m_tabs,
+        SetLocalizedStaticText(m_device.bundle, key, m_tabs,
                                isCounted ? QStringList(QLocale().toString(m_stock.modulus()))
                                          : QStringList());
     }
 
-    CFBundleRef m_bundle;
+    const Device &m_device;
     QWidget *m_window;
     JobContext m_jobContext;
     PopupButton *m_type;
@@ -113,17 +114,17 @@ private:
 
 } // namespace
 
-OSStatus RunModalStockTypeSetup(CFBundleRef bundle, DialogMode, JobContext jobContext, Stock *stock,
-                                DialogResult *result, QWidget *parent)
+OSStatus RunModalStockTypeSetup(const Device &device, DialogMode, JobContext jobContext,
+                                Stock *stock, DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !stock || !result)
+    if (!device.bundle || !stock || !result)
         return paramErr;
     const QString name = QStringLiteral("StockType");
-    const auto dialog = createModalDialog(bundle, name, name, parent,
+    const auto dialog = createModalDialog(device.bundle, name, name, parent,
                                           {kTypePopup, kNameField, kTabsLabel, kTabsButton});
     if (!dialog)
         return kWindowNotMade;
-    StockTypeWindow window(bundle, dialog.get(), jobContext, *stock);
+    StockTypeWindow window(device, dialog.get(), jobContext, *stock);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
     dialog->setAcceptRule([&window] { return window.mayAccept(); });

@@ -16,8 +16,6 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include <algorithm>
-
 namespace kelvo {
 
 namespace {
@@ -37,22 +35,18 @@ constexpr ControlID kTabsHint{kPanelSignature, 7020};
 class TabShiftWindow
 {
 public:
-    TabShiftWindow(CFBundleRef bundle, const QWidget *window, const _IS_Options &options)
+    TabShiftWindow(const Device &device, const QWidget *window, const _IS_Options &options)
         : m_template(findControl<PopupButton>(window, kTemplatePopup))
         , m_field(findControl<SpinField>(window, kShiftField))
         , m_unit(findControl<RadioGroup>(window, kUnitRadio))
     {
-        PopulatePopupButtonFromMap(bundle, m_template, TabStockSetupMap, kJobContextJob,
+        PopulatePopupButtonFromMap(device, m_template, TabStockSetupMap, kJobContextJob,
                                    kNoCommand);
         makeHintText(findControl<QLabel>(window, kShiftHint));
-        showBundlePicture(findControl<PictureView>(window, kShiftPicture), bundle,
+        showBundlePicture(findControl<PictureView>(window, kShiftPicture), device.bundle,
                           QStringLiteral("Paper_Pre-CutTabs_TabMarginShift.gif"),
-                          localizedText(bundle, QStringLiteral("Tab Shift Picture")));
-        m_shift = tabShiftOf(options, measurementSystem(), m_unit->value());
-        // Where the locale has neither unit, nothing can be shown until the user
-        // chooses one: what is stored stays as it is until then.
-        if (m_shift.maximum > 0)
-            keepWithinReach();
+                          device.text("Tab Shift Picture"));
+        m_shift = withinReach(tabShiftOf(options, measurementSystem(), m_unit->value()));
         show();
     }
 
@@ -67,8 +61,7 @@ public:
         } else if (event.control == kUnitRadio) {
             const int unit = m_unit->value();
             m_field->takeTypedText();
-            m_shift = withUnit(m_shift, unit);
-            keepWithinReach();
+            m_shift = withinReach(withUnit(m_shift, unit));
         } else {
             return eventNotHandledErr;
         }
@@ -79,12 +72,6 @@ public:
     const TabShift &shift() const { return m_shift; }
 
 private:
-    // As far back from the tab as towards it.
-    void keepWithinReach()
-    {
-        m_shift.value = std::clamp(m_shift.value, -m_shift.maximum, m_shift.maximum);
-    }
-
     void show()
     {
         const bool isEditable = isTabShiftEditable(m_shift);
@@ -106,17 +93,17 @@ private:
 
 } // namespace
 
-OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock, _IS_Options *options,
+OSStatus RunModalTabStockSetupDialog(const Device &device, const Stock *stock, _IS_Options *options,
                                      DialogResult *result, QWidget *parent)
 {
-    if (!bundle || !stock || !options || !result)
+    if (!device.bundle || !stock || !options || !result)
         return paramErr;
-    const auto dialog = createModalDialog(bundle, QStringLiteral("StockTypeSetupDialogs"),
+    const auto dialog = createModalDialog(device.bundle, QStringLiteral("StockTypeSetupDialogs"),
                                           QStringLiteral("TabStockSetup"), parent,
                                           {kTemplatePopup, kShiftField, kUnitRadio});
     if (!dialog)
         return kWindowNotMade;
-    TabShiftWindow window(bundle, dialog.get(), *options);
+    TabShiftWindow window(device, dialog.get(), *options);
     const EventHandlerRef handler = installEventHandler(
         dialog.get(), [&window](const Event &event) { return window.handle(event); });
     *result = dialog->runModal();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
 #include "image_shift.h"
 #include "status.h"
 #include "stock.h"
@@ -12,8 +12,14 @@ class QWidget;
 namespace kelvo {
 
 // How far the image moves towards the tab; the stock itself is not changed.
-OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock, _IS_Options *options,
+OSStatus RunModalTabStockSetupDialog(const Device &device, const Stock *stock, _IS_Options *options,
                                      DialogResult *result, QWidget *parent = nullptr);
+// On the current device.
+inline OSStatus RunModalTabStockSetupDialog(CFBundleRef bundle, const Stock *stock,
+                                            _IS_Options *options, DialogResult *result)
+{
+    return RunModalTabStockSetupDialog(currentDevice(bundle), stock, options, result);
+}
 
 // How many tabs a set of pre-cut tab stock has: the stock's modulus.
 OSStatus RunModalPreCutTabStockSetup(CFBundleRef bundle, DialogMode mode, JobContext jobContext,

@@ -54,6 +54,10 @@ private slots:
     void readsChoicesAndDefaults_data();
     void readsChoicesAndDefaults();
     void writesOnlyWhatTheDeviceHas();
+    void readsInATicketThatThePrinterDecides();
+    void showsWhatTheJobWillHave_data();
+    void showsWhatTheJobWillHave();
+    void keepsATonerSaverOfItsOwn();
     void hasAPictureOfEveryChoice();
     void summarizesForTheDialog();
 };
@@ -229,6 +233,94 @@ void TestImageOptions::writesOnlyWhatTheDeviceHas()
     QCOMPARE(write(currentDevice(), true), (PPDDictionary{{"KVEconomode", "Draft"}}));
     // Of no PPD nothing is known that a device lacks.
     QCOMPARE(write(Device(), true).value("KVCMYKColorSpace"), QStringLiteral("SWOP"));
+}
+
+// A preset of such a job, or a ticket, in a dialog that begins with it.
+void TestImageOptions::readsInATicketThatThePrinterDecides()
+{
+    const DeviceSession session(QStringLiteral("full"));
+    const Device device = currentDevice();
+    Ticket ticket;
+    ImageOptionsSettings chosen;
+    readImageOptions(chosen, ticket, device);
+    chosen.lightenDarken = kUnset;
+    writeImageOptions(chosen, ticket, device, true);
+    const Ticket written = ticket;
+
+    ImageOptionsSettings read;
+    readImageOptions(read, ticket, device);
+    QVERIFY(leavesLightnessToPrinter(read));
+    writeImageOptions(read, ticket, device, true);
+    QVERIFY(ticket == written);
+    // A choice that is laid over it is the job's.
+    ticket.ppdChoices.insert(QStringLiteral("KVImageQuality"), QStringLiteral("Darken2"));
+    readImageOptions(read, ticket, device);
+    QCOMPARE(read.lightenDarken, 2);
+    writeImageOptions(read, ticket, device, true);
+    QCOMPARE(ticket.entries.size(), written.entries.size() - 1);
+}
+
+void TestImageOptions::showsWhatTheJobWillHave_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<std::int32_t>("lightness");
+    QTest::addColumn<QString>("kept"); // a choice of the ticket
+    QTest::addColumn<std::int32_t>("color");
+    QTest::addColumn<bool>("isEnabled");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("pictures"); // of the lightness and of the CMYK colour
+
+    QTest::newRow("a step") << "full" << 2 << "" << 2 << true << "Darken 2"
+                            << "LightenDarken_Darken2 ColorCorrection_CMYKSourceColor";
+    QTest::newRow("the printer's default")
+        << "full" << kUnset << "" << 9 << false << "The printer’s default is “Normal”."
+        << "LightenDarken_Normal ";
+    QTest::newRow("a step that the job keeps")
+        << "full" << kUnset << "Lighten4" << 2 << false
+        << "The job already says “Lighten 4”, and keeps it."
+        << "LightenDarken_Lighten4 ColorCorrection_CMYKSourceColor";
+    QTest::newRow("a choice that the job keeps and is no step")
+        << "full" << kUnset << "Pale" << 2 << false << "The job already says “Pale”, and keeps it."
+        << "LightenDarken_Normal ColorCorrection_CMYKSourceColor";
+    QTest::newRow("a device without colors") << "bare" << -1 << "" << 2 << true << "Lighten 1"
+                                             << "LightenDarken_Lighten1 ";
+    QTest::newRow("nothing known of the device")
+        << "" << -1 << "" << 2 << false << "This device does not offer it."
+        << " ";
+}
+
+void TestImageOptions::showsWhatTheJobWillHave()
+{
+    QFETCH(QString, device);
+    QFETCH(std::int32_t, lightness);
+    QFETCH(QString, kept);
+    QFETCH(std::int32_t, color);
+    const DeviceSession session(device);
+    ImageOptionsSettings settings;
+    settings.lightenDarken = lightness;
+    settings.cmykSourceColor = color;
+    if (!kept.isEmpty())
+        settings.keptLightness = kept;
+    const Device current = currentDevice(session.bundle);
+    QTEST(choosesLightness(settings, current), "isEnabled");
+    QTEST(lightenDarkenWords(settings, current), "words");
+    const ImageOptionsPictures pictures = imageOptionsPictures(settings, current);
+    const auto nameOf = [](const QString &picture) {
+        return picture.section(u'_', 1).section(u'.', 0, 0);
+    };
+    QTEST(nameOf(pictures.lightenDarken) + u' ' + nameOf(pictures.cmykSourceColor), "pictures");
+}
+
+void TestImageOptions::keepsATonerSaverOfItsOwn()
+{
+    ImageOptionsSettings settings;
+    settings.tonerSaver = -1;
+    QList<std::int32_t> values;
+    for (const bool isOn : {false, true, false}) {
+        setTonerSaver(settings, isOn);
+        values << settings.tonerSaver;
+    }
+    QCOMPARE(values, (QList<std::int32_t>{-1, kTonerSaverOn, kTonerSaverOff}));
 }
 
 void TestImageOptions::hasAPictureOfEveryChoice()

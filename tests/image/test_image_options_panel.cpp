@@ -33,7 +33,6 @@ class TestImageOptionsPanel : public QObject
 
 private slots:
     void answersAsEveryPanel();
-    void readsInATicketThatThePrinterDecides();
     void invertsWhereAWindowHasTheControls_data();
     void invertsWhereAWindowHasTheControls();
 };
@@ -69,34 +68,6 @@ void TestImageOptionsPanel::answersAsEveryPanel()
     QCOMPARE(panel.find<SpinField>(1104), field);
     QCOMPARE(panel.find<QLabel>(1106)->text(), QStringLiteral("-5"));
     QCOMPARE(panel.find<QLabel>(1108)->text(), QStringLiteral("+5"));
-}
-
-// A preset of such a job, or a ticket, in a dialog that begins with it.
-void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
-{
-    Ticket written;
-    {
-        Panel panel;
-        panel.begin();
-        QCOMPARE(panel.sync(kSyncWrite), noErr);
-        panel.find<QCheckBox>(1109)->click();
-        QCOMPARE(panel.sync(kSyncWrite), noErr);
-        written = panel.session.session.printSettings();
-    }
-    Panel panel;
-    Ticket &ticket = panel.session.session.printSettings();
-    ticket = written;
-    panel.begin();
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    auto *printerDefault = panel.find<QCheckBox>(1109);
-    QVERIFY(printerDefault->isChecked());
-    QVERIFY(ticket == written);
-    // A choice that is laid over it is the job's.
-    ticket.ppdChoices.insert(QStringLiteral("KVImageQuality"), QStringLiteral("Darken2"));
-    QCOMPARE(panel.sync(kSyncRead), noErr);
-    QVERIFY(!printerDefault->isChecked());
-    QCOMPARE(panel.sync(kSyncWrite), noErr);
-    QVERIFY(ticket.entries.size() == written.entries.size() - 1);
 }
 
 void TestImageOptionsPanel::invertsWhereAWindowHasTheControls_data()

@@ -1,3 +1,4 @@
+#include "device.h"
 #include "installed_features.h"
 #include "keyword_map.h"
 #include "ppd_choices.h"
@@ -189,9 +190,16 @@ void TestSettingMaps::findsAGatedRowOnlyWhenItsFeatureIsInItsState()
 {
     QCOMPARE(TicketToUI(JobTypeMap, 5), -1);
     QCOMPARE(TicketToUI(withoutFaxMap, 1), 1);
+    const Device device = currentDevice(m_bundle);
     installFax();
     QCOMPARE(TicketToUI(JobTypeMap, 5), 6);
     QCOMPARE(TicketToUI(withoutFaxMap, 1), -1);
+    // What is asked of a device is not answered for the current one.
+    QCOMPARE(textOfValue(device, JobTypeMap, 5), QString());
+    QCOMPARE(textOfValue(device, PlexMap, 1), localizedText(m_bundle, QStringLiteral("Simplex")));
+    Menu menu;
+    PopulateMenuFromMap(device, menu, JobTypeMap, kJobContextJob, kNoCommand);
+    QCOMPARE(menu.items.size(), std::size_t(5));
 }
 
 void TestSettingMaps::countsSkippedRowsToo()

@@ -24,6 +24,19 @@ Cover coverFrom(std::int32_t source, std::int32_t sidesImaged = kCoverBlank)
     return cover;
 }
 
+// What a device offers: automatic, and tray 1.
+Menu twoSources()
+{
+    Menu sources;
+    for (const std::int32_t offered : {kCoverSourceAutomatic, kTray1}) {
+        MenuItem item;
+        item.text = QStringLiteral("Source %1").arg(offered);
+        item.reference = offered;
+        sources.items.push_back(item);
+    }
+    return sources;
+}
+
 std::optional<Cover> given(std::optional<std::int32_t> source)
 {
     return source ? std::optional(coverFrom(*source)) : std::nullopt;
@@ -45,6 +58,8 @@ private slots:
     void printedCoversHaveNoSizeOfTheirOwn();
     void aSourceThatIsNotOfferedIsNotSet_data();
     void aSourceThatIsNotOfferedIsNotSet();
+    void eachCoverSaysWhatBecomesOfIt_data();
+    void eachCoverSaysWhatBecomesOfIt();
     void theCallersCoverStaysTheSameObject();
     void readsDictionaries_data();
     void readsDictionaries();
@@ -172,16 +187,64 @@ void TestCovers::aSourceThatIsNotOfferedIsNotSet_data()
 void TestCovers::aSourceThatIsNotOfferedIsNotSet()
 {
     QFETCH(int, source);
-    Menu sources;
-    for (const std::int32_t offered : {kCoverSourceAutomatic, kTray1}) {
-        MenuItem item;
-        item.reference = offered;
-        sources.items.push_back(item);
-    }
     QStringList found;
-    for (const MenuItem &item : sourceMenu(sources, coverFrom(source), "Not set").items)
+    for (const MenuItem &item : sourceMenu(twoSources(), coverFrom(source), "Not set").items)
         found << (item.reference == kUnset ? "unset" : QString::number(item.reference));
     QTEST(found.join(u' '), "menu");
+}
+
+void TestCovers::eachCoverSaysWhatBecomesOfIt_data()
+{
+    QTest::addColumn<int>("option");
+    QTest::addColumn<int>("front"); // sources
+    QTest::addColumn<int>("back");
+    QTest::addColumn<QString>("views");  // of both
+    QTest::addColumn<QString>("header"); // of what OK asks
+
+    QTest::newRow("none") << int(kNoCovers) << 0 << 0 << "none, none"
+                          << "";
+    QTest::newRow("from a tray, and missing")
+        << int(kFrontAndBackCovers) << int(kTray1) << int(kTray2)
+        << "edited 1 Chosen - Source 1, edited 2 out Missing"
+        << "Back Cover Left Out Header";
+    QTest::newRow("the inserter's") << int(kFrontCoverOnly) << int(kStockSourceInserter) << 0
+                                    << "edited unset out Inserter, none"
+                                    << "Front Cover Left Out Header";
+    QTest::newRow("the same, not set") << int(kSameCovers) << int(kUnset) << int(kUnset)
+                                       << "edited unset out Missing, follows unset out Missing"
+                                       << "Covers Left Out Header";
+    QTest::newRow("a back cover alone")
+        << int(kBackCoverOnly) << int(kTray2) << 0 << "none, edited 0 Automatic"
+        << "";
+}
+
+void TestCovers::eachCoverSaysWhatBecomesOfIt()
+{
+    QFETCH(int, option);
+    QFETCH(int, front);
+    QFETCH(int, back);
+    WorkingCovers covers{.option = option, .front = coverFrom(front), .back = coverFrom(back)};
+    covers.front.stock().setCustomNameOnly(true); // no more paper than a tray's
+    covers.back.stock().setCustomNameOnly(true);
+    const auto described = [](const CoverView &view) {
+        if (!view.isThere)
+            return QStringLiteral("none");
+        const QString paper =
+            view.paper.startsWith(QLatin1String("- Source")) ? u' ' + view.paper : QString();
+        return QStringLiteral("%1 %2%3 %4%5")
+            .arg(view.isEditable ? "edited" : "follows",
+                 view.source == kUnset ? QStringLiteral("unset") : QString::number(view.source),
+                 view.isLeftOut ? " out" : "",
+                 QString::fromLatin1(view.sourceHintKey).section(u' ', -1), paper);
+    };
+    const CoverView views[] = {
+        coverView(Device(), covers, CoverPlace::Front, twoSources()),
+        coverView(Device(), covers, CoverPlace::Back, twoSources()),
+    };
+    QTEST(described(views[0]) + QStringLiteral(", ") + described(views[1]), "views");
+    QTEST(QString::fromLatin1(leftOutHeaderKey(views[0].isLeftOut, views[1].isLeftOut)), "header");
+    // A device without covers has no source to show.
+    QCOMPARE(coverView(Device(), covers, CoverPlace::Front, Menu()).source, kUnset);
 }
 
 void TestCovers::theCallersCoverStaysTheSameObject()

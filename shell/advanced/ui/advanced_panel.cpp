@@ -107,7 +107,7 @@ AdvancedControls findControls(NeededControls &needed)
 
 void fillPopups(const AdvancedContext &advanced)
 {
-    PopulatePopupButtonFromMap(advanced.bundle, advanced.controls.bookletOrder,
+    PopulatePopupButtonFromMap(advanced.device, advanced.controls.bookletOrder,
                                BookletLayoutOrderMap, kJobContextJob, kNoCommand);
     setTicketPlaces(advanced.controls.bookletOrder, bookletOrderPlaces());
     for (const PpdRow &row : kPpdRows)

@@ -11,6 +11,12 @@ QString Device::text(const char *key) const
     return localizedText(bundle, QString::fromLatin1(key));
 }
 
+CustomPageLimits Device::mediaLimits() const
+{
+    constexpr CustomPageLimits usual{432, 432, 864, 864}; // 6 to 12 inches
+    return ppd ? ppd->customPageLimits().value_or(usual) : usual;
+}
+
 std::optional<QString> Device::featureText(const char *feature) const
 {
     const InstalledFeature *row = installed.find(feature);

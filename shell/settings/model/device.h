@@ -24,6 +24,8 @@ struct Device
     bool hasOption(const QString &option) const { return ppd && ppd->findOption(option); }
     // The text of `key` in "Localizable", else "STRING NOT FOUND".
     QString text(const char *key) const;
+    // Of custom page sizes; 432, 432, 864 and 864 points where the device does not say.
+    CustomPageLimits mediaLimits() const;
     // How the bundle calls a feature; none when the device does not have it.
     std::optional<QString> featureText(const char *feature) const;
 };

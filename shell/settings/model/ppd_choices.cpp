@@ -181,12 +181,6 @@ std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &k
     return PPDCopyCurrentChoice(ticketOrNone(ticket), keyword);
 }
 
-std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
-                                              const QString &keyword)
-{
-    return PPDCopyChoiceOrDefault(ppd, ticketOrNone(ticket), keyword);
-}
-
 void PPDSetCurrentChoice(PMTicketRef handle, const QString &keyword,
                          const std::optional<QString> &choice)
 {

@@ -49,8 +49,6 @@ void PPDSetCurrentChoice(Ticket &ticket, const QString &keyword,
 void PPDRemoveCurrentChoice(Ticket &ticket, const QString &keyword);
 // The same by handle; nothing happens where it names no ticket.
 std::optional<QString> PPDCopyCurrentChoice(PMTicketRef ticket, const QString &keyword);
-std::optional<QString> PPDCopyChoiceOrDefault(const PpdFile *ppd, PMTicketRef ticket,
-                                              const QString &keyword);
 void PPDSetCurrentChoice(PMTicketRef ticket, const QString &keyword,
                          const std::optional<QString> &choice);
 void PPDRemoveCurrentChoice(PMTicketRef ticket, const QString &keyword);

@@ -1,7 +1,6 @@
 #include "setting_map.h"
 
-#include "installed_features.h"
-#include "ticket_values.h"
+#include "device.h"
 
 #include <algorithm>
 
@@ -9,32 +8,29 @@ namespace kelvo {
 
 namespace {
 
-bool isOffered(const SettingMap &row)
+bool isOffered(const SettingMap &row, const InstalledOptions &installed)
 {
-    return !row.requiredFeature || getInstalledFeature(row.requiredFeature) == row.requiredState;
+    return !row.requiredFeature || installed.has(row.requiredFeature) == row.requiredState;
 }
 
 // The row that answers for `value`; null when that is the terminator.
-const SettingMap *findRow(const SettingMap *map, std::int32_t value)
+const SettingMap *findRow(const InstalledOptions &installed, const SettingMap *map,
+                          std::int32_t value)
 {
     if (!map)
         return nullptr;
     const SettingMap *row = map;
     while (row->ticketValue != 0) {
-        if (row->ticketValue == value && isOffered(*row))
+        if (row->ticketValue == value && isOffered(*row, installed))
             return row;
         ++row;
     }
     return row->localizedKey ? row : nullptr;
 }
 
-QString labelOf(const SettingMap &row, CFBundleRef bundle, JobContext jobContext)
+QString labelOf(const SettingMap &row, const Device &device, JobContext jobContext)
 {
-    if (row.ticketValue != kUnset)
-        return localizedText(bundle, QString::fromUtf8(row.localizedKey));
-    return localizedText(bundle,
-                         jobContext == kJobContextJob ? QStringLiteral("PrinterDefault")
-                                                      : QStringLiteral("UseJobSetting"));
+    return device.text(row.ticketValue == kUnset ? notSetKey(jobContext) : row.localizedKey);
 }
 
 } // namespace
@@ -54,14 +50,20 @@ std::int32_t UIToTicket(const SettingMap *map, int index)
 
 int TicketToUI(const SettingMap *map, std::int32_t value)
 {
-    const SettingMap *row = findRow(map, value);
+    const SettingMap *row = findRow(installedOptions(), map, value);
     return row ? static_cast<int>(row - map) + 1 : -1;
 }
 
 const char *LocalizedKeyForTicketValue(const SettingMap *map, std::int32_t value)
 {
-    const SettingMap *row = findRow(map, value);
+    const SettingMap *row = findRow(installedOptions(), map, value);
     return row ? row->localizedKey : nullptr;
+}
+
+QString textOfValue(const Device &device, const SettingMap *map, std::int32_t value)
+{
+    const SettingMap *row = findRow(device.installed, map, value);
+    return row ? device.text(row->localizedKey) : QString();
 }
 
 const char *keyOfValue(const SettingMap *map, std::int32_t value)
@@ -73,16 +75,16 @@ const char *keyOfValue(const SettingMap *map, std::int32_t value)
     return nullptr;
 }
 
-std::int16_t PopulateMenuFromMap(CFBundleRef bundle, Menu &menu, const SettingMap *map,
+std::int16_t PopulateMenuFromMap(const Device &device, Menu &menu, const SettingMap *map,
                                  JobContext jobContext, OSType commandOverride)
 {
     const int count = CountMaps(map);
     for (int i = 0; i < count; ++i) {
         const SettingMap &row = map[i];
-        if (!isOffered(row))
+        if (!isOffered(row, device.installed))
             continue;
         MenuItem item;
-        item.text = labelOf(row, bundle, jobContext);
+        item.text = labelOf(row, device, jobContext);
         item.key = QString::fromUtf8(row.localizedKey);
         item.command = commandOverride != kNoCommand ? commandOverride : row.commandID;
         item.reference = row.ticketValue;
@@ -92,6 +94,12 @@ std::int16_t PopulateMenuFromMap(CFBundleRef bundle, Menu &menu, const SettingMa
     menu.reference = map;
     return static_cast<std::int16_t>(
         std::min<int>(count, std::numeric_limits<std::int16_t>::max()));
+}
+
+std::int16_t PopulateMenuFromMap(CFBundleRef bundle, Menu &menu, const SettingMap *map,
+                                 JobContext jobContext, OSType commandOverride)
+{
+    return PopulateMenuFromMap(currentDevice(bundle), menu, map, jobContext, commandOverride);
 }
 
 } // namespace kelvo

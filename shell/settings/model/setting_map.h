@@ -4,12 +4,16 @@
 #include "four_char_code.h"
 #include "menu.h"
 
+#include <QString>
+
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 
 // What ties a menu's localized choices to the numbers that the ticket holds.
 namespace kelvo {
+
+struct Device;
 
 // A numeric setting that is not set: "PrinterDefault" for the job,
 // "UseJobSetting" elsewhere.
@@ -22,6 +26,12 @@ enum JobContext : std::int32_t {
     kJobContextInserts = 3,    // an insert
     kJobContextExceptions = 4, // an exception page range
 };
+
+// The key of what an unset number says there.
+constexpr const char *notSetKey(JobContext jobContext)
+{
+    return jobContext == kJobContextJob ? "PrinterDefault" : "UseJobSetting";
+}
 
 enum DialogMode : std::int32_t {
     kDialogModeAdd = 0,  // create a new item
@@ -75,12 +85,18 @@ std::int32_t UIToTicket(const SettingMap *map, int index);
 int TicketToUI(const SettingMap *map, std::int32_t value);
 // The row's key, not localized, found as above; null when there is none.
 const char *LocalizedKeyForTicketValue(const SettingMap *map, std::int32_t value);
+// Both find a gated row where the current device has its feature. The text of the row that
+// `device` has is found in the same way; empty when there is none.
+QString textOfValue(const Device &device, const SettingMap *map, std::int32_t value);
 // The key of `value` on whatever device, for tickets of any; null when the map lacks it.
 const char *keyOfValue(const SettingMap *map, std::int32_t value);
 
-// Appends the rows that the installed features allow. `commandOverride`, when
+// Appends the rows that the device's features allow. `commandOverride`, when
 // not 0, replaces every row's command. The map becomes the menu's own
 // reference. Returns the rows walked, skipped ones included.
+std::int16_t PopulateMenuFromMap(const Device &device, Menu &menu, const SettingMap *map,
+                                 JobContext jobContext, OSType commandOverride);
+// The same for the current device.
 std::int16_t PopulateMenuFromMap(CFBundleRef bundle, Menu &menu, const SettingMap *map,
                                  JobContext jobContext, OSType commandOverride);
 

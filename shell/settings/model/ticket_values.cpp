@@ -1,6 +1,6 @@
 #include "ticket_values.h"
 
-#include "ppd_choices.h"
+#include "device.h"
 
 #include <QLocale>
 
@@ -75,9 +75,7 @@ int CountDigits(std::int64_t n)
 
 void GetMediaLimits(double *minWidth, double *minHeight, double *maxWidth, double *maxHeight)
 {
-    CustomPageLimits found{432, 432, 864, 864}; // a device that does not say: 6 to 12 inches
-    if (const PpdFile *ppd = PPDGetCurrent())
-        found = ppd->customPageLimits().value_or(found);
+    const CustomPageLimits found = currentDevice().mediaLimits();
     *minWidth = found.minWidth;
     *minHeight = found.minHeight;
     *maxWidth = found.maxWidth;

@@ -33,8 +33,7 @@ std::optional<QString> CreateLocalizedCFStringFromNumberWithDecimals(std::int32_
 // Decimal digits of |n|; 1 for 0.
 int CountDigits(std::int64_t n);
 
-// The current PPD's custom page size limits in points; 432, 432, 864 and 864
-// without a PPD or without custom sizes.
+// The current device's mediaLimits().
 void GetMediaLimits(double *minWidth, double *minHeight, double *maxWidth, double *maxHeight);
 
 } // namespace kelvo

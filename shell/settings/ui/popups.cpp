@@ -42,12 +42,25 @@ int insertHistory(Menu &menu, const QString &historyKey, int insertAfter, OSType
 
 } // namespace
 
+std::int16_t PopulatePopupButtonFromMap(const Device &device, PopupButton *popup,
+                                        const SettingMap *map, JobContext jobContext,
+                                        OSType commandOverride)
+{
+    if (!popup)
+        return 0;
+    Menu menu;
+    const std::int16_t count = PopulateMenuFromMap(device, menu, map, jobContext, commandOverride);
+    popup->setMenu(std::move(menu));
+    popup->setMaximum(count);
+    return count;
+}
+
 std::int16_t PopulatePopupButtonFromMap(CFBundleRef bundle, PopupButton *popup,
                                         const SettingMap *map, JobContext jobContext,
                                         OSType commandOverride)
 {
-    return PopulatePopupButtonFromMapAndHistory(bundle, popup, map, jobContext, {}, 0, kNoCommand,
-                                                commandOverride);
+    return PopulatePopupButtonFromMap(currentDevice(bundle), popup, map, jobContext,
+                                      commandOverride);
 }
 
 std::int16_t PopulatePopupButtonFromMapAndHistory(CFBundleRef bundle, PopupButton *popup,
@@ -55,12 +68,11 @@ std::int16_t PopulatePopupButtonFromMapAndHistory(CFBundleRef bundle, PopupButto
                                                   const QString &historyKey, int insertAfter,
                                                   OSType historyCommand, OSType commandOverride)
 {
-    if (!popup)
-        return 0;
-    Menu menu;
-    int count = PopulateMenuFromMap(bundle, menu, map, jobContext, commandOverride);
-    if (!historyKey.isEmpty())
-        count += insertHistory(menu, historyKey, insertAfter, historyCommand);
+    int count = PopulatePopupButtonFromMap(bundle, popup, map, jobContext, commandOverride);
+    if (!popup || historyKey.isEmpty())
+        return static_cast<std::int16_t>(count);
+    Menu menu = popup->menu();
+    count += insertHistory(menu, historyKey, insertAfter, historyCommand);
     count = std::min<int>(count, std::numeric_limits<std::int16_t>::max());
     popup->setMenu(std::move(menu));
     popup->setMaximum(count);
@@ -140,6 +152,12 @@ void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLab
     else
         popup->setToolTip(text);
     popup->setAccessibleDescription(text);
+}
+
+void takeChoice(const PopupButton *popup, std::int32_t &value)
+{
+    if (popup && popup->value() > 0)
+        value = popup->chosenReference();
 }
 
 void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[])

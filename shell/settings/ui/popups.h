@@ -18,6 +18,10 @@ class TabControl;
 
 // Replaces the items; the maximum becomes the returned count, which is the
 // map's length, skipped rows included.
+std::int16_t PopulatePopupButtonFromMap(const Device &device, PopupButton *popup,
+                                        const SettingMap *map, JobContext jobContext,
+                                        OSType commandOverride);
+// For the current device.
 std::int16_t PopulatePopupButtonFromMap(CFBundleRef bundle, PopupButton *popup,
                                         const SettingMap *map, JobContext jobContext,
                                         OSType commandOverride);
@@ -58,6 +62,9 @@ void setOnDevice(const Device &device, QWidget *control, bool isOnDevice, QLabel
 // hint (the tool tip where there is none) that the job keeps it.
 void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint = nullptr,
                 const QString &hintText = {});
+// Takes the value of the item that is shown. Where none is, `value` is what the pop-up
+// cannot show: not the user's choice, and it stays.
+void takeChoice(const PopupButton *popup, std::int32_t &value);
 
 // Shows and enables the pane at the tab's position, hides and disables the others.
 void UpdateTabControl(TabControl *tabControl, int paneCount, QWidget *const panes[]);
