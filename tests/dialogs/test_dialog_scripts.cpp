@@ -1,4 +1,5 @@
 #include "kelvo_print.h"
+#include "table.h"
 
 #include <QDir>
 #include <QTest>
@@ -40,10 +41,10 @@ QString withoutDescription(Desk &desk, const QString &window)
 
 void TestDialogScripts::goesAsWritten_data()
 {
-    QTest::addColumn<QString>("path");
+    const Table<QString> row{"path"};
     const QDir folder(QStringLiteral(KELVO_SOURCE_DIR "/tests/dialogs"));
     for (const QFileInfo &script : folder.entryInfoList({"*.kps"}))
-        QTest::newRow(qPrintable(script.completeBaseName())) << script.filePath();
+        row(qPrintable(script.completeBaseName()), script.filePath());
 }
 
 void TestDialogScripts::goesAsWritten()
@@ -85,13 +86,14 @@ void TestDialogScripts::aLibraryThatCannotBeKeptNamesItsFile()
 // Every window that a button of the panels opens.
 void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
 {
-    QTest::addColumn<QByteArray>("lines"); // that open it
-    QTest::addColumn<int>("open");         // dialogs behind it
+    // lines: that open it
+    // open: dialogs behind it
+    const Table<QByteArray, int> table{"lines", "open"};
     const QByteArray advanced = "item @stockButton 'Sadv'\n";
     const QByteArray insert = "panel SpecialPages\nclick @addInserts\n";
     const QByteArray exception = "panel SpecialPages\nclick @addExceptions\n";
-    const auto row = [](const char *window, const QByteArray &lines, int open = 0) {
-        QTest::newRow(window) << lines << open;
+    const auto row = [&](const char *window, const QByteArray &lines, int open = 0) {
+        table(window, lines, open);
     };
     row("JobTypes/SecurePrint", "choose @jobType key SecurePrint");
     row("JobTypes/DelayedPrint", "choose @jobType key DelayedPrint");
@@ -138,18 +140,16 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
 // On standard output, as dialogs have always read it.
 void TestDialogScripts::aPanelThatCannotBeMadeSaysSo_data()
 {
-    QTest::addColumn<QByteArray>("description"); // null: none
-    QTest::addColumn<QString>("message");
+    // description: null: none
+    const Table<QByteArray, QString> row{"description", "message"};
     const QByteArray empty = "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">";
     const QByteArray pane = "<property name=\"controlID\" stdset=\"0\"><string "
                             "notr=\"true\">KPDE 1</string></property>";
     const QByteArray end = "</widget></ui>";
-    QTest::newRow("no description") << QByteArray() << "!! Failed to load nib from bundle.\n";
-    QTest::newRow("a damaged one") << QByteArray("<ui") << "!! Failed to create window from nib.\n";
-    QTest::newRow("one without the pane")
-        << empty + end << "!! Failed to get user pane control reference.\n";
-    QTest::newRow("one with an empty pane")
-        << empty + pane + end << "!! Failed to get control reference.\n";
+    row("no description", {}, "!! Failed to load nib from bundle.\n");
+    row("a damaged one", "<ui", "!! Failed to create window from nib.\n");
+    row("one without the pane", empty + end, "!! Failed to get user pane control reference.\n");
+    row("one with an empty pane", empty + pane + end, "!! Failed to get control reference.\n");
 }
 
 void TestDialogScripts::aPanelThatCannotBeMadeSaysSo()

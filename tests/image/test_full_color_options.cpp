@@ -1,4 +1,5 @@
 #include "full_color_options.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -239,21 +240,19 @@ void TestFullColorOptions::comesBackFromItsDictionary()
 
 void TestFullColorOptions::writesWhatIsSet_data()
 {
-    QTest::addColumn<Dictionary>("read");
-    QTest::addColumn<Dictionary>("written");
+    const Table<Dictionary, Dictionary> row{"read", "written"};
 
     const Dictionary directions{{"FCTrappingFastDirection", qint64(2)},
                                 {"FCTrappingSlowDirection", qint64(3)}};
-    QTest::newRow("two of three casts")
-        << Dictionary{{"FCColorCast", Dictionary{{"FCCyanRed", 1}, {"FCYellowBlue", 2}}}}
-        << Dictionary();
-    QTest::newRow("trapping without adjustments")
-        << with(directions, {{"FCTrapping", 0}}) << Dictionary{{"FCTrapping", qint64(0)}};
-    QTest::newRow("directions without trapping") << directions << Dictionary();
-    QTest::newRow("trapping with adjustments")
-        << with(directions, {{"FCTrapping", 1}}) << with(directions, {{"FCTrapping", qint64(1)}});
-    QTest::newRow("a named kind without a name")
-        << Dictionary{{"CMYKImagesProfile", 3}} << Dictionary{{"CMYKImagesProfile", qint64(3)}};
+    row("two of three casts", {{"FCColorCast", Dictionary{{"FCCyanRed", 1}, {"FCYellowBlue", 2}}}},
+        {});
+    row("trapping without adjustments", with(directions, {{"FCTrapping", 0}}),
+        {{"FCTrapping", qint64(0)}});
+    row("directions without trapping", directions, {});
+    row("trapping with adjustments", with(directions, {{"FCTrapping", 1}}),
+        with(directions, {{"FCTrapping", qint64(1)}}));
+    row("a named kind without a name", {{"CMYKImagesProfile", 3}},
+        {{"CMYKImagesProfile", qint64(3)}});
 }
 
 void TestFullColorOptions::writesWhatIsSet()
@@ -265,15 +264,14 @@ void TestFullColorOptions::writesWhatIsSet()
 
 void TestFullColorOptions::readsOverWhatIsThere_data()
 {
-    QTest::addColumn<Dictionary>("read");
-    QTest::addColumn<Dictionary>("changes"); // in the dictionary form of everything
+    // changes: in the dictionary form of everything
+    const Table<Dictionary, Dictionary> table{"read", "changes"};
 
     // Without the key trapping goes, and its directions with it.
     const Dictionary noTrapping{
         {"FCTrapping", {}}, {"FCTrappingFastDirection", {}}, {"FCTrappingSlowDirection", {}}};
-    const auto row = [&noTrapping](const char *name, const Dictionary &read,
-                                   const Dictionary &changes) {
-        QTest::newRow(name) << read << with(noTrapping, changes);
+    const auto row = [&](const char *name, const Dictionary &read, const Dictionary &changes) {
+        table(name, read, with(noTrapping, changes));
     };
     row("nothing", {}, {});
     row("beyond every range",

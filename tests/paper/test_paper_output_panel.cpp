@@ -6,6 +6,7 @@
 #include "panel_interface.h"
 #include "popup_button.h"
 #include "summary_view.h"
+#include "table.h"
 #include "ticket.h"
 
 #include <QApplication>
@@ -137,9 +138,9 @@ void TestPaperOutputPanel::initTestCase()
 
 void TestPaperOutputPanel::showsAgainWhatItWrote_data()
 {
-    QTest::addColumn<QString>("device");
+    const Table<QString> row{"device"};
     for (const char *device : {"full", "mid", "bare"})
-        QTest::newRow(device) << QString::fromLatin1(device);
+        row(device, QString::fromLatin1(device));
 }
 
 // Every item of every pop-up.
@@ -233,30 +234,22 @@ void TestPaperOutputPanel::opensAgainAfterItWasClosed()
 
 void TestPaperOutputPanel::offersWhatTheDeviceCanDo_data()
 {
-    QTest::addColumn<QString>("option"); // and another default for it, in the full device's PPD
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<std::int32_t>("popup");
-    QTest::addColumn<QString>("offered"); // choices of the PPD
+    // option: and another default for it, in the full device's PPD
+    // offered: choices of the PPD
+    const Table<QString, QString, std::int32_t, QString> row{"option", "choice", "popup",
+                                                             "offered"};
 
     // A job may have another paper or tray than the one that the PPD begins with.
     const QString staples = "None SinglePortrait DualLandscape MultipleStaples";
     const QString holes = "None 2HolePunch 3HolePunch 4HolePunch";
-    QTest::newRow("envelopes: offset") << "PageSize"
-                                       << "EnvDL" << kOffset << "None EndOfSet";
-    QTest::newRow("labels: staples") << "MediaType"
-                                     << "Labels" << kStapling << staples;
-    QTest::newRow("labels: holes") << "MediaType"
-                                   << "Labels" << kHolePunch << holes;
-    QTest::newRow("bypass: banner") << "InputSlot"
-                                    << "Bypass" << kBanner << "False True";
+    row("envelopes: offset", "PageSize", "EnvDL", kOffset, "None EndOfSet");
+    row("labels: staples", "MediaType", "Labels", kStapling, staples);
+    row("labels: holes", "MediaType", "Labels", kHolePunch, holes);
+    row("bypass: banner", "InputSlot", "Bypass", kBanner, "False True");
     // What is not fitted cannot be asked for, whatever else the job says.
-    QTest::newRow("no finisher") << "KVFinisher"
-                                 << "None" << kStapling << "None";
-    QTest::newRow("single stapler")
-        << "KVFinisher"
-        << "AClass" << kStapling << "None SinglePortrait MultipleStaples";
-    QTest::newRow("two holes") << "KVPunchUnit"
-                               << "TwoHole" << kHolePunch << "None 2HolePunch";
+    row("no finisher", "KVFinisher", "None", kStapling, "None");
+    row("single stapler", "KVFinisher", "AClass", kStapling, "None SinglePortrait MultipleStaples");
+    row("two holes", "KVPunchUnit", "TwoHole", kHolePunch, "None 2HolePunch");
 }
 
 void TestPaperOutputPanel::offersWhatTheDeviceCanDo()

@@ -2,6 +2,7 @@
 
 #include "preferences.h"
 #include "stock_properties.h"
+#include "table.h"
 
 #include <QLocale>
 #include <QTest>
@@ -73,13 +74,12 @@ void TestStockLibrary::keepsOneStockOfAName()
 
 void TestStockLibrary::refusesNames_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<LibraryProblem>("problem");
+    const Table<QString, LibraryProblem> row{"name", "problem"};
 
     const QString longest = QString(kLongestStockName - 1, u'x') + QStringLiteral("\U0001F4C4");
-    QTest::newRow("blanks") << "  " << LibraryProblem::NameMissing;
-    QTest::newRow("the longest") << longest << LibraryProblem::None;
-    QTest::newRow("one character more") << longest + 'x' << LibraryProblem::NameTooLong;
+    row("blanks", "  ", LibraryProblem::NameMissing);
+    row("the longest", longest, LibraryProblem::None);
+    row("one character more", longest + 'x', LibraryProblem::NameTooLong);
 }
 
 void TestStockLibrary::refusesNames()
@@ -137,20 +137,19 @@ void TestStockLibrary::saysWhenItCannotBeKept()
 
 void TestStockLibrary::weightsAreChecked_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<std::optional<WeightRange>>("range");
+    const Table<QString, std::optional<WeightRange>> row{"text", "range"};
 
     const std::optional<WeightRange> none;
-    QTest::newRow("two numbers") << " 60  300 " << std::optional(WeightRange{60, 300});
-    QTest::newRow("at the limits") << "1 1000" << std::optional(WeightRange{1, 1000});
-    QTest::newRow("one weight") << "80 80" << std::optional(WeightRange{80, 80});
-    QTest::newRow("nothing at all") << "0 300" << none;
-    QTest::newRow("too heavy") << "60 1001" << none;
-    QTest::newRow("the wrong way round") << "300 60" << none;
-    QTest::newRow("one number") << "300" << none;
-    QTest::newRow("three numbers") << "60 300 400" << none;
-    QTest::newRow("no numbers") << "light heavy" << none;
-    QTest::newRow("fractions") << "60.5 300" << none;
+    row("two numbers", " 60  300 ", std::optional(WeightRange{60, 300}));
+    row("at the limits", "1 1000", std::optional(WeightRange{1, 1000}));
+    row("one weight", "80 80", std::optional(WeightRange{80, 80}));
+    row("nothing at all", "0 300", none);
+    row("too heavy", "60 1001", none);
+    row("the wrong way round", "300 60", none);
+    row("one number", "300", none);
+    row("three numbers", "60 300 400", none);
+    row("no numbers", "light heavy", none);
+    row("fractions", "60.5 300", none);
 }
 
 void TestStockLibrary::weightsAreChecked()
@@ -162,14 +161,13 @@ void TestStockLibrary::weightsAreChecked()
 
 void TestStockLibrary::devicesOfferWhatTheirPpdHas_data()
 {
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<StockProperties>("properties");
+    const Table<QString, StockProperties> row{"ppd", "properties"};
 
     const QString samples = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-");
-    QTest::newRow("all") << samples + "full.ppd" << StockProperties{{60, 350}, true, true};
-    QTest::newRow("little") << samples + "bare.ppd" << StockProperties{{60, 163}, false, false};
-    QTest::newRow("no weights") << KELVO_TEST_DATA "/platform/test.ppd"
-                                << StockProperties{{60, 300}, false, false};
+    row("all", samples + "full.ppd", StockProperties{{60, 350}, true, true});
+    row("little", samples + "bare.ppd", StockProperties{{60, 163}, false, false});
+    row("no weights", KELVO_TEST_DATA "/platform/test.ppd",
+        StockProperties{{60, 300}, false, false});
 }
 
 void TestStockLibrary::devicesOfferWhatTheirPpdHas()

@@ -4,6 +4,7 @@
 #include "ppd_choices.h"
 #include "print_session.h"
 #include "standard_error.h"
+#include "table.h"
 #include "ticket_values.h"
 
 #include <QTest>
@@ -164,21 +165,17 @@ void TestDevice::readsTextsAndDefaults()
 
 void TestDevice::takesTheTicketsChoiceBeforeTheDefault_data()
 {
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QString>("ticketChoice"); // empty: none
-    QTest::addColumn<int>("value");            // 99: left alone
+    // ticketChoice: empty: none
+    // value: 99: left alone
+    const Table<QString, QString, int> row{"keyword", "ticketChoice", "value"};
 
-    QTest::newRow("in the ticket") << "Duplex"
-                                   << "DuplexTumble" << 3;
-    QTest::newRow("the default") << "Duplex" << QString() << 2;
-    QTest::newRow("in the ticket, not in the PPD") << "KVFold"
-                                                   << "Z" << 20;
-    QTest::newRow("nowhere") << "KVFold" << QString() << 99;
-    QTest::newRow("unknown to the map") << "Duplex"
-                                        << "Sideways" << -1;
-    QTest::newRow("default unknown to the map") << "KVPunch" << QString() << -1;
-    QTest::newRow("keyword unknown to the map") << "KVFinisher"
-                                                << "BClass" << -1;
+    row("in the ticket", "Duplex", "DuplexTumble", 3);
+    row("the default", "Duplex", {}, 2);
+    row("in the ticket, not in the PPD", "KVFold", "Z", 20);
+    row("nowhere", "KVFold", {}, 99);
+    row("unknown to the map", "Duplex", "Sideways", -1);
+    row("default unknown to the map", "KVPunch", {}, -1);
+    row("keyword unknown to the map", "KVFinisher", "BClass", -1);
 }
 
 void TestDevice::takesTheTicketsChoiceBeforeTheDefault()
@@ -260,18 +257,17 @@ void TestDevice::reportsWhatItCannotShow()
 
 void TestDevice::findsTheFeaturesOfTheSampleDevices_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("features");
+    const Table<QString, QString> row{"path", "features"};
 
-    QTest::newRow("full") << fullPpd
-                          << "FaxKey SingleStapleKey DualStapleKey MultipleStapleKey DualPunchKey "
-                             "TriplePunchKey QuadruplePunchKey CFoldKey ZFoldKey ZFoldHalfSheetKey "
-                             "BookletFoldKey TapeBindKey PostPrintInserterKey AutoSwitchTrayKey "
-                             "StackerTray1Key StackerTray2Key SimpleCatchTrayKey";
-    QTest::newRow("mid") << midPpd
-                         << "SingleStapleKey DualPunchKey AutoSwitchTrayKey StackerTray1Key "
-                            "SimpleCatchTrayKey";
-    QTest::newRow("bare") << barePpd << "";
+    row("full", fullPpd,
+        "FaxKey SingleStapleKey DualStapleKey MultipleStapleKey DualPunchKey "
+        "TriplePunchKey QuadruplePunchKey CFoldKey ZFoldKey ZFoldHalfSheetKey "
+        "BookletFoldKey TapeBindKey PostPrintInserterKey AutoSwitchTrayKey "
+        "StackerTray1Key StackerTray2Key SimpleCatchTrayKey");
+    row("mid", midPpd,
+        "SingleStapleKey DualPunchKey AutoSwitchTrayKey StackerTray1Key "
+        "SimpleCatchTrayKey");
+    row("bare", barePpd, "");
 }
 
 void TestDevice::findsTheFeaturesOfTheSampleDevices()
@@ -288,26 +284,17 @@ void TestDevice::findsTheFeaturesOfTheSampleDevices()
 
 void TestDevice::findsFeaturesByChoice_data()
 {
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QString>("features");
+    const Table<QString, QString> row{"keyword", "features"};
 
-    QTest::newRow("AClass") << "KVFinisher"
-                            << "SingleStapleKey";
-    QTest::newRow("BClass") << "KVFinisher"
-                            << "SingleStapleKey DualStapleKey";
-    QTest::newRow("bclass") << "KVFinisher"
-                            << "";
-    QTest::newRow("Generic") << "KVPunchUnit"
-                             << "GenericPunchKey";
-    QTest::newRow("TwoThreeHole") << "KVPunchUnit"
-                                  << "DualPunchKey TriplePunchKey";
-    QTest::newRow("FourHole") << "KVPunchUnit"
-                              << "QuadruplePunchKey";
-    QTest::newRow("CZFold") << "KVFolder"
-                            << "CFoldKey ZFoldKey";
+    row("AClass", "KVFinisher", "SingleStapleKey");
+    row("BClass", "KVFinisher", "SingleStapleKey DualStapleKey");
+    row("bclass", "KVFinisher", "");
+    row("Generic", "KVPunchUnit", "GenericPunchKey");
+    row("TwoThreeHole", "KVPunchUnit", "DualPunchKey TriplePunchKey");
+    row("FourHole", "KVPunchUnit", "QuadruplePunchKey");
+    row("CZFold", "KVFolder", "CFoldKey ZFoldKey");
     // It folds booklets and nothing else: no folder counts as installed by it.
-    QTest::newRow("True") << "KVBookletMaker"
-                          << "BookletFoldKey";
+    row("True", "KVBookletMaker", "BookletFoldKey");
 }
 
 // The row's name is the option's choice.

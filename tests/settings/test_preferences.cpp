@@ -3,6 +3,7 @@
 #include "input_history.h"
 #include "preferences.h"
 #include "standard_error.h"
+#include "table.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -128,15 +129,13 @@ void TestPreferences::readsSharedFilesAndReportsDamage()
 
 void TestPreferences::keepsTheNewestTexts_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("limit");
-    QTest::addColumn<QString>("after");
+    const Table<QString, int, QString> row{"before", "limit", "after"};
 
-    QTest::newRow("first") << "" << 5 << "new";
-    QTest::newRow("at the limit") << "a b c d e" << 5 << "new a b c d";
-    QTest::newRow("one below") << "a b c d" << 5 << "new a b c d";
-    QTest::newRow("far above a limit that went down") << "a b c d e" << 2 << "new a";
-    QTest::newRow("without a limit") << "a b c d e" << 0 << "new a b c d e";
+    row("first", "", 5, "new");
+    row("at the limit", "a b c d e", 5, "new a b c d");
+    row("one below", "a b c d", 5, "new a b c d");
+    row("far above a limit that went down", "a b c d e", 2, "new a");
+    row("without a limit", "a b c d e", 0, "new a b c d e");
 }
 
 void TestPreferences::keepsTheNewestTexts()
@@ -175,25 +174,22 @@ void TestPreferences::savesWhatIsNewOnly()
 
 void TestPreferences::offersValidItemsOnly_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<bool>("offered");
+    const Table<int, QString, bool> row{"kind", "item", "offered"};
 
-    QTest::newRow("smallest number") << 1 << "10" << true;
-    QTest::newRow("one below") << 1 << "9" << false;
-    QTest::newRow("greatest number") << 1 << "5000" << true;
-    QTest::newRow("one above") << 1 << "5001" << false;
-    QTest::newRow("grouped number") << 1 << "4.999" << true;
-    QTest::newRow("no number") << 1 << "abc" << false;
-    QTest::newRow("shortest text") << 2 << "ab" << true;
-    QTest::newRow("one shorter") << 2 << "a" << false;
-    QTest::newRow("longest text") << 2 << "abcab" << true;
-    QTest::newRow("one longer") << 2 << "abcabc" << false;
-    QTest::newRow("one character of two units") << 2 << QStringLiteral("\U0001F5A8") << false;
-    QTest::newRow("five characters of two units")
-        << 2 << QStringLiteral("\U0001F5A8").repeated(5) << true;
-    QTest::newRow("character that is not allowed") << 2 << "abx" << false;
-    QTest::newRow("another kind takes all") << 3 << "" << true;
+    row("smallest number", 1, "10", true);
+    row("one below", 1, "9", false);
+    row("greatest number", 1, "5000", true);
+    row("one above", 1, "5001", false);
+    row("grouped number", 1, "4.999", true);
+    row("no number", 1, "abc", false);
+    row("shortest text", 2, "ab", true);
+    row("one shorter", 2, "a", false);
+    row("longest text", 2, "abcab", true);
+    row("one longer", 2, "abcabc", false);
+    row("one character of two units", 2, "\U0001F5A8", false);
+    row("five characters of two units", 2, QStringLiteral("\U0001F5A8").repeated(5), true);
+    row("character that is not allowed", 2, "abx", false);
+    row("another kind takes all", 3, "", true);
 }
 
 void TestPreferences::offersValidItemsOnly()

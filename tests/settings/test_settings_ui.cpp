@@ -7,6 +7,7 @@
 #include "setting_maps.h"
 #include "summary_view.h"
 #include "tab_control.h"
+#include "table.h"
 
 #include <QLabel>
 #include <QLocale>
@@ -113,13 +114,13 @@ void TestSettingsUi::popupsKeepTheMapsLengthAsMaximum()
 
 void TestSettingsUi::historyStandsInsideAPopup_data()
 {
-    QTest::addColumn<int>("insertAfter");
-    QTest::addColumn<QString>("order"); // map items as numbers
+    // order: map items as numbers
+    const Table<int, QString> row{"insertAfter", "order"};
 
-    QTest::newRow("in front") << 0 << "a b 1 2 3";
-    QTest::newRow("after the first") << 1 << "1 a b 2 3";
-    QTest::newRow("at the end") << 3 << "1 2 3 a b";
-    QTest::newRow("beyond the end") << 9 << "1 2 3 a b";
+    row("in front", 0, "a b 1 2 3");
+    row("after the first", 1, "1 a b 2 3");
+    row("at the end", 3, "1 2 3 a b");
+    row("beyond the end", 9, "1 2 3 a b");
 }
 
 void TestSettingsUi::historyStandsInsideAPopup()
@@ -252,17 +253,14 @@ void TestSettingsUi::comboBoxesListMapAndValidHistory()
 
 void TestSettingsUi::typedNumbersAreKeptInTheirRange_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<qint64>("value");
-    QTest::addColumn<QString>("shown");
+    const Table<QString, int, qint64, QString> row{"typed", "status", "value", "shown"};
 
-    QTest::newRow("in range") << "1234" << int(noErr) << qint64(1234) << "1234";
-    QTest::newRow("below") << "0" << int(noErr) << qint64(10) << "10";
-    QTest::newRow("above") << "9999" << int(noErr) << qint64(5000) << "5.000";
-    QTest::newRow("a fifth digit") << "12345" << int(noErr) << qint64(1234) << "1234";
-    QTest::newRow("letters and signs") << "-1a,2.3" << int(noErr) << qint64(123) << "123";
-    QTest::newRow("nothing") << "" << int(kComboBoxNoValue) << qint64(77) << "";
+    row("in range", "1234", int(noErr), 1234, "1234");
+    row("below", "0", int(noErr), 10, "10");
+    row("above", "9999", int(noErr), 5000, "5.000");
+    row("a fifth digit", "12345", int(noErr), 1234, "1234");
+    row("letters and signs", "-1a,2.3", int(noErr), 123, "123");
+    row("nothing", "", int(kComboBoxNoValue), 77, "");
 }
 
 void TestSettingsUi::typedNumbersAreKeptInTheirRange()
@@ -311,14 +309,12 @@ void TestSettingsUi::leavingAFieldKeepsItsNumberInRange()
 
 void TestSettingsUi::comboBoxesShowValues_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("shown");
+    const Table<QVariant, int, QString> row{"value", "status", "shown"};
 
-    QTest::newRow("text") << QVariant("1.234") << int(noErr) << "1.234";
-    QTest::newRow("number of the map") << QVariant(2) << int(noErr) << "2-sided print";
-    QTest::newRow("another number") << QVariant(qint64(1234)) << int(noErr) << "1.234";
-    QTest::newRow("neither") << QVariant(true) << int(paramErr) << "before";
+    row("text", QVariant("1.234"), int(noErr), "1.234");
+    row("number of the map", QVariant(2), int(noErr), "2-sided print");
+    row("another number", QVariant(qint64(1234)), int(noErr), "1.234");
+    row("neither", QVariant(true), int(paramErr), "before");
 }
 
 void TestSettingsUi::comboBoxesShowValues()
@@ -352,16 +348,14 @@ void TestSettingsUi::comboBoxesAnswerMapValuesAndTexts()
 
 void TestSettingsUi::savesNewTextsOnly_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("save");
-    QTest::addColumn<QString>("history");
+    const Table<QString, bool, QString> row{"text", "save", "history"};
 
-    QTest::newRow("new, above the limit") << "new" << true << "new|aa|x";
-    QTest::newRow("not asked to") << "new" << false << "aa|x|bb";
-    QTest::newRow("empty") << "" << true << "aa|x|bb";
-    QTest::newRow("in the history") << "bb" << true << "aa|x|bb";
-    QTest::newRow("in the map") << "Use document name" << true << "aa|x|bb";
-    QTest::newRow("in another letter case") << "BB" << true << "BB|aa|x";
+    row("new, above the limit", "new", true, "new|aa|x");
+    row("not asked to", "new", false, "aa|x|bb");
+    row("empty", "", true, "aa|x|bb");
+    row("in the history", "bb", true, "aa|x|bb");
+    row("in the map", "Use document name", true, "aa|x|bb");
+    row("in another letter case", "BB", true, "BB|aa|x");
 }
 
 void TestSettingsUi::savesNewTextsOnly()

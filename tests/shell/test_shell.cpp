@@ -9,6 +9,7 @@
 #include "plugin_factory.h"
 #include "popup_button.h"
 #include "shell_panel.h"
+#include "table.h"
 
 #include <QLineEdit>
 #include <QTest>
@@ -314,16 +315,14 @@ void TestShell::dialogMayEndBeforeItOpens()
 
 void TestShell::printIsHeldBack_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("passcode");
-    QTest::addColumn<bool>("recipients");
-    QTest::addColumn<QString>("notice"); // a part of its message; empty: the job goes out
+    // notice: a part of its message; empty: the job goes out
+    const Table<int, bool, bool, QString> row{"type", "passcode", "recipients", "notice"};
 
-    QTest::newRow("normal") << 1 << false << false << "";
-    QTest::newRow("secure without passcode") << 6 << false << false << "1 to 12 digits";
-    QTest::newRow("secure with passcode") << 6 << true << false << "";
-    QTest::newRow("fax without recipient") << 5 << false << false << "at least one recipient";
-    QTest::newRow("fax with recipient") << 5 << false << true << "";
+    row("normal", 1, false, false, "");
+    row("secure without passcode", 6, false, false, "1 to 12 digits");
+    row("secure with passcode", 6, true, false, "");
+    row("fax without recipient", 5, false, false, "at least one recipient");
+    row("fax with recipient", 5, false, true, "");
 }
 
 void TestShell::printIsHeldBack()

@@ -1,5 +1,6 @@
 #include "kelvo_print.h"
 #include "long_date.h"
+#include "table.h"
 #include "values.h"
 
 #include <QDir>
@@ -103,17 +104,13 @@ void TestPanelStories::waitsForTheNextTimeOfADelayedJob()
 
 void TestPanelStories::carriesEverythingThroughATicket_data()
 {
-    QTest::addColumn<QString>("device");
-    QTest::addColumn<QString>("name"); // of the scripts
+    // name: of the scripts
+    const Table<QString, QString> row{"device", "name"};
 
-    QTest::newRow("paper, full") << "full"
-                                 << "paper-output";
-    QTest::newRow("paper, mid") << "mid"
-                                << "paper-output-mid";
-    QTest::newRow("image, full") << "full"
-                                 << "image-options";
-    QTest::newRow("special pages") << "full"
-                                   << "special-pages";
+    row("paper, full", "full", "paper-output");
+    row("paper, mid", "mid", "paper-output-mid");
+    row("image, full", "full", "image-options");
+    row("special pages", "full", "special-pages");
 }
 
 void TestPanelStories::carriesEverythingThroughATicket()
@@ -155,13 +152,13 @@ void TestPanelStories::carriesEverythingThroughATicket()
 
 void TestPanelStories::endsWhileAPanelAsks_data()
 {
-    QTest::addColumn<QByteArray>("lines");
+    const Table<QByteArray> row{"lines"};
     const QByteArray dialog = "panel SpecialPages\nclick @addInserts\n";
     const QByteArray question =
         dialog + "type @insertPages \"2\"\nclick @okButton\nclick @deleteAll\n";
-    QTest::newRow("in a dialog") << dialog + "expect @insertPages text \"7\"\n";
-    QTest::newRow("in a notice") << dialog + "click @okButton\nexpect-notice \"thumb\"\n";
-    QTest::newRow("in a question") << question + "expect-notice \"thumb\"\n";
+    row("in a dialog", dialog + "expect @insertPages text \"7\"\n");
+    row("in a notice", dialog + "click @okButton\nexpect-notice \"thumb\"\n");
+    row("in a question", question + "expect-notice \"thumb\"\n");
 }
 
 void TestPanelStories::endsWhileAPanelAsks()
@@ -206,25 +203,17 @@ void TestPanelStories::saysWhatWillBeMissing()
 
 void TestPanelStories::keepsWhatWasSetLast_data()
 {
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("last");
-    QTest::addColumn<QString>("kept"); // of the device's options
-    QTest::addColumn<QString>("choice");
+    // kept: of the device's options
+    const Table<QString, QString, QString, QString> row{"first", "last", "kept", "choice"};
 
     const QString quality = QStringLiteral("choose @imageQuality key HighQuality\n");
     const QString toner = QStringLiteral("check @tonerSaver on\n");
-    QTest::newRow("toner saver") << quality << toner << "KVEconomode"
-                                 << "Draft";
-    QTest::newRow("quality") << toner << quality << "KVOutputMode"
-                             << "HighQuality";
-    QTest::newRow("what has no part in it set later")
-        << quality << toner + "choose @outputColorCorrection key sRGB\n"
-        << "KVEconomode"
-        << "Draft";
-    QTest::newRow("but not at the paper's cost")
-        << QStringLiteral("choose @paper key SRA3\ntab 1\n")
-        << QStringLiteral("item @finishingButton 'Stp2'\n") << "PageSize"
-        << "SRA3";
+    row("toner saver", quality, toner, "KVEconomode", "Draft");
+    row("quality", toner, quality, "KVOutputMode", "HighQuality");
+    row("what has no part in it set later", quality,
+        toner + "choose @outputColorCorrection key sRGB\n", "KVEconomode", "Draft");
+    row("but not at the paper's cost", "choose @paper key SRA3\ntab 1\n",
+        "item @finishingButton 'Stp2'\n", "PageSize", "SRA3");
 }
 
 void TestPanelStories::keepsWhatWasSetLast()
@@ -242,14 +231,12 @@ void TestPanelStories::keepsWhatWasSetLast()
 
 void TestPanelStories::letsOptionsBeatATicket_data()
 {
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("duplex");
+    const Table<QStringList, QString> row{"options", "duplex"};
 
-    QTest::newRow("the ticket alone") << QStringList() << "DuplexNoTumble";
-    QTest::newRow("the PPD's option") << QStringList{"-o", "Duplex=None"} << "None";
-    QTest::newRow("the server's option")
-        << QStringList{"-o", "sides=two-sided-short-edge"} << "DuplexTumble";
-    QTest::newRow("another option") << QStringList{"-o", "Jog=EndOfSet"} << "DuplexNoTumble";
+    row("the ticket alone", {}, "DuplexNoTumble");
+    row("the PPD's option", {"-o", "Duplex=None"}, "None");
+    row("the server's option", {"-o", "sides=two-sided-short-edge"}, "DuplexTumble");
+    row("another option", {"-o", "Jog=EndOfSet"}, "DuplexNoTumble");
 }
 
 void TestPanelStories::letsOptionsBeatATicket()

@@ -1,6 +1,7 @@
 #include "file_names.h"
 #include "file_store.h"
 #include "kelvo_print.h"
+#include "table.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -34,11 +35,11 @@ private slots:
 // One digit is a part of nearly everything that a script asks for.
 void TestSecretStories::masksAPasscodeAndNothingElse_data()
 {
-    QTest::addColumn<QByteArray>("passcode");
-    QTest::newRow("one digit") << QByteArray("1");
-    QTest::newRow("three digits") << QByteArray("102");
-    QTest::newRow("a control's number") << QByteArray("8501");
-    QTest::newRow("twelve digits") << QByteArray("123456789012");
+    const Table<QByteArray> row{"passcode"};
+    row("one digit", "1");
+    row("three digits", "102");
+    row("a control's number", "8501");
+    row("twelve digits", "123456789012");
 }
 
 void TestSecretStories::masksAPasscodeAndNothingElse()
@@ -101,10 +102,10 @@ const QStringList secureJob{"--demo", "--no-window", "--script", script("secure-
 // Between any two steps somebody may pull the plug.
 void TestSecretStories::leavesNothingOfAKilledRun_data()
 {
-    QTest::addColumn<QString>("step");
+    const Table<QString> row{"step"};
     for (const char *step : {"flock:when=1", "fsync:when=1", "fsync:when=3", "rename:when=1",
                              "rename:when=3", "unlink:when=2"})
-        QTest::newRow(step) << QString::fromLatin1(step);
+        row(step, QString::fromLatin1(step));
 }
 
 void TestSecretStories::leavesNothingOfAKilledRun()
@@ -161,11 +162,10 @@ void TestSecretStories::endsOnASignalBeforeThereIsADialog()
 
 void TestSecretStories::closesItsMemoryOnceItHoldsASecret_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("isClosed");
-    QTest::newRow("of a script") << QStringList{"--secret", "CODE=code.txt"} << true;
-    QTest::newRow("of a ticket") << QStringList{"--ticket-in", "ticket.plist"} << true;
-    QTest::newRow("none") << QStringList() << false;
+    const Table<QStringList, bool> row{"arguments", "isClosed"};
+    row("of a script", {"--secret", "CODE=code.txt"}, true);
+    row("of a ticket", {"--ticket-in", "ticket.plist"}, true);
+    row("none", {}, false);
 }
 
 void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
@@ -204,13 +204,8 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
 // A name that no ticket could hold is no reason not to print.
 void TestSecretStories::printsUnderAnyName_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QByteArray>("title"); // empty: none is given
-    QTest::addColumn<QString>("printed");
-    const auto row = [](const char *name, const QByteArray &file, const QByteArray &title,
-                        const char *printed) {
-        QTest::newRow(name) << file << title << QString::fromUtf8(printed);
-    };
+    // title: empty: none is given
+    const Table<QByteArray, QByteArray, QString> row{"file", "title", "printed"};
     row("bytes that are no UTF-8", "Gr\xfc\xdf\x65.pdf", {},
         "Gr\xef\xbf\xbd\xef\xbf\xbd"
         "e.pdf");

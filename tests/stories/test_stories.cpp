@@ -1,6 +1,7 @@
 #include "kelvo_print.h"
 #include "private_cups.h"
 #include "property_list.h"
+#include "table.h"
 #include "ticket_file.h"
 #include "ticket_layers.h"
 #include "unreliable_server.h"
@@ -328,16 +329,14 @@ void TestStories::cutsPagesOnlyOnce()
 
 void TestStories::refusesASecretThatWouldLieOpen_data()
 {
-    QTest::addColumn<QStringList>("device");
-    QTest::addColumn<bool>("withSecret");
-    QTest::addColumn<int>("status");
+    const Table<QStringList, bool, int> row{"device", "withSecret", "status"};
 
     const QStringList openQueue{"-d", "No-Ticket"}, queue{"-d", "Hall-3"};
     const QStringList openDevice{"--ppd", testPpds + "no-ticket.ppd", "--to", "out"};
-    QTest::newRow("a queue that reads no tickets") << openQueue << true << 3;
-    QTest::newRow("the same without a secret") << openQueue << false << 0;
-    QTest::newRow("a folder for such a device") << openDevice << true << 3;
-    QTest::newRow("a queue that reads tickets") << queue << true << 0;
+    row("a queue that reads no tickets", openQueue, true, 3);
+    row("the same without a secret", openQueue, false, 0);
+    row("a folder for such a device", openDevice, true, 3);
+    row("a queue that reads tickets", queue, true, 0);
 }
 
 void TestStories::refusesASecretThatWouldLieOpen()
@@ -390,11 +389,10 @@ void TestStories::saysThatThereIsNoHelp()
 
 void TestStories::printsOtherMakersDevicesWithoutPanels_data()
 {
-    QTest::addColumn<QByteArray>("maker");
-    QTest::addColumn<bool>("readsTickets");
+    const Table<QByteArray, bool> row{"maker", "readsTickets"};
 
-    QTest::newRow("another maker") << QByteArray("Ostrava Print") << false;
-    QTest::newRow("a maker that begins like ours") << QByteArray("Kelvodyne") << true;
+    row("another maker", "Ostrava Print", false);
+    row("a maker that begins like ours", "Kelvodyne", true);
 }
 
 void TestStories::printsOtherMakersDevicesWithoutPanels()
@@ -544,9 +542,7 @@ void TestStories::saysThatTheDocumentIsDamaged()
 
 void TestStories::refusesBrokenInputs_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("damage");
-    QTest::addColumn<int>("status");
+    const Table<QString, QString, int> row{"kind", "damage", "status"};
 
     const QList<std::pair<const char *, int>> kinds = {
         {"ppd", 4}, {"document", 1}, {"ticket", 6}, {"preset", 6}, {"script", 2}};
@@ -558,7 +554,7 @@ void TestStories::refusesBrokenInputs_data()
                 continue;
             // A folder is no preset.
             const bool isUnknown = name == "preset: missing" || name == "preset: a folder";
-            QTest::newRow(name.constData()) << kind << damage << (isUnknown ? 2 : status);
+            row(name.constData(), kind, damage, (isUnknown ? 2 : status));
         }
     }
 }
@@ -623,14 +619,12 @@ void TestStories::refusesBrokenInputs()
 
 void TestStories::waitsForADeadServerOnlySoLong_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
+    const Table<QStringList, int> row{"arguments", "status"};
 
-    QTest::newRow("list") << QStringList{"--list-printers"} << 4;
-    QTest::newRow("print") << QStringList{"-d", "Hall-3", "--no-window", documentPath} << 4;
-    QTest::newRow("no destination") << QStringList{"--no-window", documentPath} << 4;
-    QTest::newRow("cancel in a script")
-        << QStringList{"--no-window", "--script", "cancel.kps", documentPath} << 0;
+    row("list", {"--list-printers"}, 4);
+    row("print", {"-d", "Hall-3", "--no-window", documentPath}, 4);
+    row("no destination", {"--no-window", documentPath}, 4);
+    row("cancel in a script", {"--no-window", "--script", "cancel.kps", documentPath}, 0);
 }
 
 void TestStories::waitsForADeadServerOnlySoLong()
@@ -705,12 +699,9 @@ void TestStories::endsOnAnInterrupt()
 // Nothing that the user named is lost to what the program writes.
 void TestStories::keepsWhatTheUserNamed_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("message");
-    const auto row = [](const QStringList &arguments, int status, const char *message) {
-        QTest::newRow(qPrintable(arguments.join(u' ')))
-            << arguments << status << QString::fromLatin1(message);
+    const Table<QStringList, int, QString> table{"arguments", "status", "message"};
+    const auto row = [&](const QStringList &arguments, int status, const char *message) {
+        table(qPrintable(arguments.join(u' ')), arguments, status, message);
     };
     row({"--ticket-out", "document.pdf", "document.pdf"}, 2, "document.pdf is the document itself");
     row({"--ticket-out", "link.pdf", "document.pdf"}, 2, "link.pdf is the document itself");
@@ -878,25 +869,19 @@ void TestStories::keepsNoDefaultsInPresets()
 
 void TestStories::leavesEachQueueItsOwnDefaults_data()
 {
-    QTest::addColumn<QStringList>("made"); // how the site's preset is made
-    QTest::addColumn<QString>("queue");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("duplex");
-    QTest::addColumn<QString>("staple");
-    QTest::addColumn<QString>("missing");
+    // made: how the site's preset is made
+    const Table<QStringList, QString, QStringList, QString, QString, QString> row{
+        "made", "queue", "arguments", "duplex", "staple", "missing"};
 
     const QStringList staple{"--script", "staple.kps"};
     const QStringList oneSided = staple + QStringList{"-o", "Duplex=None"};
     const QStringList toMid{"--script", "to-mid.kps"};
     const QString lacks = "Stapling: 1 Staple";
     const QString single = "SinglePortrait", both = "DuplexNoTumble";
-    QTest::newRow("a device that staples")
-        << staple << "Mid" << QStringList() << both << single << "";
-    QTest::newRow("one that does not") << staple << "Bare" << QStringList() << ""
-                                       << "" << lacks;
-    QTest::newRow("a default that was chosen")
-        << oneSided << "Mid" << QStringList() << "None" << single << "";
-    QTest::newRow("from one to the other") << staple << "Bare" << toMid << both << single << "";
+    row("a device that staples", staple, "Mid", {}, both, single, "");
+    row("one that does not", staple, "Bare", {}, "", "", lacks);
+    row("a default that was chosen", oneSided, "Mid", {}, "None", single, "");
+    row("from one to the other", staple, "Bare", toMid, both, single, "");
 }
 
 // A site's preset says what was set in it, and nothing else.
@@ -939,37 +924,35 @@ void TestStories::leavesEachQueueItsOwnDefaults()
 
 void TestStories::keepsWhatIsChosenAsItIsShown_data()
 {
-    QTest::addColumn<QByteArray>("lines");
-    QTest::addColumn<QStringList>("expected");
+    const Table<QByteArray, QStringList> row{"lines", "expected"};
     const QString settings = "PMPrintSettingsTicket/", pages = "PMPageFormatTicket/";
-    QTest::newRow("the dialog's own")
-        << QByteArray("set @copies 1\nchoose @orientation key portrait\n")
-        << QStringList{pages + kPMOrientationKey, settings + kPMCopiesKey};
-    QTest::newRow("pop-ups and menus")
-        << QByteArray("tab 1\nchoose @jobType key Normal\nchoose @twoSided row 1\n"
-                      "item @stockButton 'Sclr' key White\ntab 4\nchoose @bookletOrder row 2\n")
-        << QStringList{settings + "com.kelvo.print.AdvancedBookletLayoutOrderStr",
-                       settings + "com.kelvo.print.JobType/JobType", "PPDChoices/Duplex",
-                       "PPDChoices/MediaColor"};
-    QTest::newRow("menus that name what is set")
-        << QByteArray("tab 1\nitem @finishingButton 'Stp0'\nitem @finishingButton 'Fld0'\n"
-                      "click @coversButton\nchoose @coverOptions 1\nclick @okButton\n")
-        << QStringList{"PPDChoices/KVBackCoverSheet", "PPDChoices/KVFold",
-                       "PPDChoices/KVFrontCoverSheet", "PPDChoices/StapleLocation"};
-    QTest::newRow("boxes and numbers")
-        << QByteArray("tab 2\ncheck @mirrorImage off\ncheck @tonerSaver off\n"
-                      "set @lightenDarken 0\n")
-        << QStringList{settings + "com.kelvo.print.InvertImageOptions/MirrorImage",
-                       "PPDChoices/KVEconomode", "PPDChoices/KVImageQuality"};
+    row("the dialog's own", "set @copies 1\nchoose @orientation key portrait\n",
+        {pages + kPMOrientationKey, settings + kPMCopiesKey});
+    row("pop-ups and menus",
+        "tab 1\nchoose @jobType key Normal\nchoose @twoSided row 1\n"
+        "item @stockButton 'Sclr' key White\ntab 4\nchoose @bookletOrder row 2\n",
+        {settings + "com.kelvo.print.AdvancedBookletLayoutOrderStr",
+         settings + "com.kelvo.print.JobType/JobType", "PPDChoices/Duplex",
+         "PPDChoices/MediaColor"});
+    row("menus that name what is set",
+        "tab 1\nitem @finishingButton 'Stp0'\nitem @finishingButton 'Fld0'\n"
+        "click @coversButton\nchoose @coverOptions 1\nclick @okButton\n",
+        {"PPDChoices/KVBackCoverSheet", "PPDChoices/KVFold", "PPDChoices/KVFrontCoverSheet",
+         "PPDChoices/StapleLocation"});
+    row("boxes and numbers",
+        "tab 2\ncheck @mirrorImage off\ncheck @tonerSaver off\n"
+        "set @lightenDarken 0\n",
+        {settings + "com.kelvo.print.InvertImageOptions/MirrorImage", "PPDChoices/KVEconomode",
+         "PPDChoices/KVImageQuality"});
     const QByteArray offset = "tab 1\nitem @moreFinishing 'Foff'\nchoose @offset row 1\n";
-    QTest::newRow("in a dialog, with OK") << offset
-            + "click @okButton\n" << QStringList{settings + "com.kelvo.print.FinishingOffset"};
-    QTest::newRow("in a dialog, with Cancel") << offset + "click @cancelButton\n" << QStringList();
-    QTest::newRow("of a picture alone")
-        << QByteArray("tab 1\nclick @separatorsButton\nchoose @separatorOption 2\n"
-                      "choose @separatorColor key White\nclick @okButton\n")
-        << QStringList{"PPDChoices/KVSlipSheetPrint"};
-    QTest::newRow("seen and not chosen") << QByteArray("tab 1\ntab 2\ntab 4\n") << QStringList();
+    row("in a dialog, with OK", offset + "click @okButton\n",
+        {settings + "com.kelvo.print.FinishingOffset"});
+    row("in a dialog, with Cancel", offset + "click @cancelButton\n", {});
+    row("of a picture alone",
+        "tab 1\nclick @separatorsButton\nchoose @separatorOption 2\n"
+        "choose @separatorColor key White\nclick @okButton\n",
+        {"PPDChoices/KVSlipSheetPrint"});
+    row("seen and not chosen", "tab 1\ntab 2\ntab 4\n", {});
 }
 
 // In the next job the device's default may be another.
@@ -1094,14 +1077,14 @@ void TestStories::laterSettingsBeatEarlierOnes()
 
 void TestStories::refusesWhatCannotBeDone_data()
 {
-    QTest::addColumn<QByteArray>("lines"); // of a script; empty: there is none
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("message"); // a part of it
+    // lines: of a script; empty: there is none
+    // message: a part of it
+    const Table<QByteArray, QStringList, int, QString> table{"lines", "arguments", "status",
+                                                             "message"};
 
-    const auto row = [](const char *name, const char *lines, int status, const char *message,
-                        const QStringList &arguments = {"--demo", "--to", "out"}) {
-        QTest::newRow(name) << QByteArray(lines) << arguments << status << message;
+    const auto row = [&](const char *name, const char *lines, int status, const char *message,
+                         const QStringList &arguments = {"--demo", "--to", "out"}) {
+        table(name, lines, arguments, status, message);
     };
     const QStringList hall{"-d", "Hall-3", documentPath};
     row("unknown command", "tab 4\nchose @x row 1\n", 2, "s.kps:2: there is no command \"chose\"");
@@ -1165,9 +1148,9 @@ void TestStories::refusesWhatCannotBeDone()
 
 void TestStories::makesPictures_data()
 {
-    QTest::addColumn<int>("scale");
-    QTest::newRow("1x") << 1;
-    QTest::newRow("2x") << 2;
+    const Table<int> row{"scale"};
+    row("1x", 1);
+    row("2x", 2);
 }
 
 void TestStories::makesPictures()

@@ -5,6 +5,7 @@
 #include "picture_view.h"
 #include "spin_field.h"
 #include "summary_view.h"
+#include "table.h"
 
 #include <QApplication>
 #include <QDir>
@@ -175,17 +176,16 @@ void TestDialogs::nestedDialogsAreTheFrontWindowInTurn()
 
 void TestDialogs::anAlertAnswersWithItsButton_data()
 {
-    QTest::addColumn<QStringList>("buttons");
-    QTest::addColumn<int>("pressed"); // 0: Escape, -1: Return
-    QTest::addColumn<int>("answer");
+    // pressed: 0: Escape, -1: Return
+    const Table<QStringList, int, int> row{"buttons", "pressed", "answer"};
     const QStringList two{"Delete", "Cancel"};
     const QStringList three{"Save", "Cancel", "Do Not Save"};
-    QTest::newRow("first of two") << two << 1 << 1;
-    QTest::newRow("second of two") << two << 2 << 2;
-    QTest::newRow("third") << three << 3 << 3;
-    QTest::newRow("Escape is the second of two") << two << 0 << 2;
-    QTest::newRow("Escape is the second of three") << three << 0 << 2;
-    QTest::newRow("Return is the first") << three << -1 << 1;
+    row("first of two", two, 1, 1);
+    row("second of two", two, 2, 2);
+    row("third", three, 3, 3);
+    row("Escape is the second of two", two, 0, 2);
+    row("Escape is the second of three", three, 0, 2);
+    row("Return is the first", three, -1, 1);
 }
 
 void TestDialogs::anAlertAnswersWithItsButton()

@@ -1,6 +1,7 @@
 #include "control_support.h"
 #include "event.h"
 #include "event_log.h"
+#include "table.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -63,14 +64,13 @@ struct Tree
 
 void TestEvents::anEventClimbsUntilItIsTaken_data()
 {
-    QTest::addColumn<int>("paneAnswer");
-    QTest::addColumn<QStringList>("asked");
+    const Table<int, QStringList> row{"paneAnswer", "asked"};
 
     const QStringList all{"button", "pane", "window"};
     const QStringList two{"button", "pane"};
-    QTest::newRow("nobody takes it") << int(eventNotHandledErr) << all;
-    QTest::newRow("taken on the way") << int(noErr) << two;
-    QTest::newRow("an error takes it too") << int(paramErr) << two;
+    row("nobody takes it", int(eventNotHandledErr), all);
+    row("taken on the way", int(noErr), two);
+    row("an error takes it too", int(paramErr), two);
 }
 
 void TestEvents::anEventClimbsUntilItIsTaken()
@@ -113,9 +113,9 @@ void TestEvents::aHandlerMayRemoveHandlersWhileItRuns()
 
 void TestEvents::anEventEndsWhenItsWidgetsDie_data()
 {
-    QTest::addColumn<bool>("wholePane");
-    QTest::newRow("the button alone") << false;
-    QTest::newRow("the pane that is asked") << true;
+    const Table<bool> row{"wholePane"};
+    row("the button alone", false);
+    row("the pane that is asked", true);
 }
 
 void TestEvents::anEventEndsWhenItsWidgetsDie()

@@ -3,6 +3,7 @@
 #include "pdf_samples.h"
 #include "printers.h"
 #include "private_cups.h"
+#include "table.h"
 #include "unreliable_server.h"
 
 #include <QElapsedTimer>
@@ -180,9 +181,9 @@ void TestDeadServers::giveOnlyWholePpds()
 
 void TestDeadServers::giveUpAHalfSentJob_data()
 {
-    QTest::addColumn<bool>("isCancelled");
-    QTest::newRow("timed out") << false;
-    QTest::newRow("cancelled") << true;
+    const Table<bool> row{"isCancelled"};
+    row("timed out", false);
+    row("cancelled", true);
 }
 
 void TestDeadServers::giveUpAHalfSentJob()

@@ -1,4 +1,5 @@
 #include "job_options.h"
+#include "table.h"
 
 #include <QFile>
 #include <QTest>
@@ -45,16 +46,8 @@ static QStringList lines(const std::vector<JobOption> &options)
 
 void TestJobOptions::sayEachSettingOnce_data()
 {
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<PPDDictionary>("choices");
-    QTest::addColumn<JobSettings>("settings");
-    QTest::addColumn<Defaults>("defaults");
-    QTest::addColumn<QStringList>("expected");
-    const auto row = [](const char *title, const char *ppd, const PPDDictionary &choices,
-                        const JobSettings &settings, const Defaults &defaults,
-                        const QStringList &expected) {
-        QTest::newRow(title) << ppd << choices << settings << defaults << expected;
-    };
+    const Table<QString, PPDDictionary, JobSettings, Defaults, QStringList> row{
+        "ppd", "choices", "settings", "defaults", "expected"};
     const char *full = "kelvo-corvane-full";
     const JobSettings plain;
     const JobSettings landscape{1, true, {}, {}, Orientation::Landscape};
@@ -154,15 +147,14 @@ void TestJobOptions::standInTheOrderOfThePpd()
 
 void TestJobOptions::refuseWhatCannotBeSaid_data()
 {
-    QTest::addColumn<QByteArray>("option");
-    QTest::addColumn<QByteArray>("choice");
-    QTest::newRow("comma") << QByteArray("Glitter") << QByteArray("a,b");
-    QTest::newRow("quote") << QByteArray("Glitter") << QByteArray("a'b");
-    QTest::newRow("double quote") << QByteArray("Glitter") << QByteArray("a\"b");
-    QTest::newRow("backslash") << QByteArray("Glitter") << QByteArray("a\\b");
-    QTest::newRow("collection") << QByteArray("Glitter") << QByteArray("{a=b}");
-    QTest::newRow("dropped by the server") << QByteArray("job-hold-until") << QByteArray("Night");
-    QTest::newRow("acted on by a filter") << QByteArray("Booklet") << QByteArray("On");
+    const Table<QByteArray, QByteArray> row{"option", "choice"};
+    row("comma", "Glitter", "a,b");
+    row("quote", "Glitter", "a'b");
+    row("double quote", "Glitter", "a\"b");
+    row("backslash", "Glitter", "a\\b");
+    row("collection", "Glitter", "{a=b}");
+    row("dropped by the server", "job-hold-until", "Night");
+    row("acted on by a filter", "Booklet", "On");
 }
 
 void TestJobOptions::refuseWhatCannotBeSaid()
@@ -202,13 +194,11 @@ void TestJobOptions::refusePapersThatCannotBeSaid()
 
 void TestJobOptions::nameTheTicket_data()
 {
-    QTest::addColumn<bool>("hasPasscode");
-    QTest::addColumn<bool>("isFax");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("plain") << false << false << "1:00ff:none";
-    QTest::newRow("passcode") << true << false << "1:00ff:passcode";
-    QTest::newRow("fax") << false << true << "1:00ff:fax";
-    QTest::newRow("both") << true << true << "1:00ff:passcode+fax";
+    const Table<bool, bool, QString> row{"hasPasscode", "isFax", "value"};
+    row("plain", false, false, "1:00ff:none");
+    row("passcode", true, false, "1:00ff:passcode");
+    row("fax", false, true, "1:00ff:fax");
+    row("both", true, true, "1:00ff:passcode+fax");
 }
 
 void TestJobOptions::nameTheTicket()

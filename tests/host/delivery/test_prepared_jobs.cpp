@@ -3,6 +3,7 @@
 #include "pdf_samples.h"
 #include "property_list.h"
 #include "sample_documents.h"
+#include "table.h"
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
@@ -139,9 +140,9 @@ void TestPreparedJobs::neverRepeatATicket()
 // needs, with OLD for the ticket's entry and STREAM for what is in it.
 void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
 {
-    QTest::addColumn<QByteArray>("catalog"); // entries
-    QTest::addColumn<QByteArray>("page");
-    QTest::addColumn<QList<QByteArray>>("objects"); // from number 4
+    // catalog: entries
+    // objects: from number 4
+    const Table<QByteArray, QByteArray, QList<QByteArray>> row{"catalog", "page", "objects"};
 
     const QByteArray stream = "<< /Type /EmbeddedFile /Length 6 >>\nstream\nsecret\nendstream";
     struct Name
@@ -258,7 +259,7 @@ void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
         QList<QByteArray> objects = {file, stream, "(kelvo-ticket.plist)"};
         for (const QByteArray &object : place.objects)
             objects << filled(object);
-        QTest::newRow(what.constData()) << filled(place.catalog) << filled(place.page) << objects;
+        row(what.constData(), filled(place.catalog), filled(place.page), objects);
     };
     const QByteArray type = "/Type /Filespec ";
     for (const Name &name : names)
@@ -306,12 +307,11 @@ using Objects = QMap<int, QByteArray>; // by number
 // is in it.
 void TestPreparedJobs::leaveNothingOfEarlierRevisions_data()
 {
-    QTest::addColumn<Objects>("update");
-    QTest::newRow("all overwritten") << Objects{{4, "<< >>"}, {5, "null"}, {6, "null"}};
-    QTest::newRow("only the list overwritten") << Objects{{4, "<< >>"}};
-    QTest::newRow("without a name") << Objects{{4, "<< >>"}, {5, "null"}};
-    QTest::newRow("given another name")
-        << Objects{{5, "<< /Type /Filespec /F (notes.txt) /EF << /F 7 0 R >> >>"}};
+    const Table<Objects> row{"update"};
+    row("all overwritten", {{4, "<< >>"}, {5, "null"}, {6, "null"}});
+    row("only the list overwritten", {{4, "<< >>"}});
+    row("without a name", {{4, "<< >>"}, {5, "null"}});
+    row("given another name", {{5, "<< /Type /Filespec /F (notes.txt) /EF << /F 7 0 R >> >>"}});
 }
 
 void TestPreparedJobs::leaveNothingOfEarlierRevisions()
@@ -397,18 +397,15 @@ void TestPreparedJobs::refuseTicketsThatCannotBeTakenOut()
 
 void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead_data()
 {
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<QString>("secret");
-    QTest::addColumn<bool>("isFax");
-    QTest::addColumn<bool>("isRefused");
-    QTest::newRow("passcode, read") << reads << "1" << false << false;
-    QTest::newRow("fax, read") << reads << "" << true << false;
-    QTest::newRow("nothing, not read") << readsNot << "" << false << false;
-    QTest::newRow("passcode, not read") << readsNot << "1" << false << true;
-    QTest::newRow("fax, not read") << readsNot << "" << true << true;
-    QTest::newRow("nothing, no PPD") << QString() << "" << false << false;
-    QTest::newRow("passcode, no PPD") << QString() << "1" << false << true;
-    QTest::newRow("fax, no PPD") << QString() << "" << true << true;
+    const Table<QString, QString, bool, bool> row{"ppd", "secret", "isFax", "isRefused"};
+    row("passcode, read", reads, "1", false, false);
+    row("fax, read", reads, "", true, false);
+    row("nothing, not read", readsNot, "", false, false);
+    row("passcode, not read", readsNot, "1", false, true);
+    row("fax, not read", readsNot, "", true, true);
+    row("nothing, no PPD", {}, "", false, false);
+    row("passcode, no PPD", {}, "1", false, true);
+    row("fax, no PPD", {}, "", true, true);
 }
 
 void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
@@ -435,14 +432,14 @@ void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
 
 void TestPreparedJobs::cutPages_data()
 {
-    QTest::addColumn<QString>("ranges");
-    QTest::addColumn<QList<int>>("pages"); // empty: refused
-    QTest::newRow("all") << "" << QList<int>{1, 2, 3, 4, 5};
-    QTest::newRow("blanks") << "  " << QList<int>{1, 2, 3, 4, 5};
-    QTest::newRow("some") << "2-3,5" << QList<int>{2, 3, 5};
-    QTest::newRow("one too many") << "5-6" << QList<int>{5};
-    QTest::newRow("not there") << "6" << QList<int>();
-    QTest::newRow("page 0") << "0" << QList<int>();
+    // pages: empty: refused
+    const Table<QString, QList<int>> row{"ranges", "pages"};
+    row("all", "", QList<int>{1, 2, 3, 4, 5});
+    row("blanks", "  ", QList<int>{1, 2, 3, 4, 5});
+    row("some", "2-3,5", QList<int>{2, 3, 5});
+    row("one too many", "5-6", QList<int>{5});
+    row("not there", "6", QList<int>());
+    row("page 0", "0", QList<int>());
 }
 
 void TestPreparedJobs::cutPages()

@@ -3,6 +3,7 @@
 #include "document_helper.h"
 #include "page_drawing.h"
 #include "sample_documents.h"
+#include "table.h"
 #include "ticket_attachment.h"
 
 #include <QDir>
@@ -87,13 +88,10 @@ Result<Document> open(const QString &path)
 
 void TestDocumentHelpers::areMissedWithAMessage_data()
 {
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<Error::Code>("code");
-    QTest::addColumn<QString>("words");
-    QTest::newRow("not there") << QStringLiteral("/nowhere") << Error::Code::NotFound
-                               << "install kelvo-print anew";
-    QTest::newRow("no program") << scriptedHelpers("this is no program") << Error::Code::NotReadable
-                                << "does not start";
+    const Table<QString, Error::Code, QString> row{"folder", "code", "words"};
+    row("not there", "/nowhere", Error::Code::NotFound, "install kelvo-print anew");
+    row("no program", scriptedHelpers("this is no program"), Error::Code::NotReadable,
+        "does not start");
 }
 
 void TestDocumentHelpers::areMissedWithAMessage()
@@ -141,9 +139,10 @@ void TestDocumentHelpers::areAskedForEverything()
 
 void TestDocumentHelpers::openNothingElse_data()
 {
-    QTest::addColumn<bool>("mayRead"); // what is in a folder that is allowed
-    QTest::newRow("but open files") << false;
-    QTest::newRow("but what is allowed") << true;
+    // mayRead: what is in a folder that is allowed
+    const Table<bool> row{"mayRead"};
+    row("but open files", false);
+    row("but what is allowed", true);
 }
 
 void TestDocumentHelpers::openNothingElse()
@@ -188,17 +187,14 @@ void TestDocumentHelpers::openNothingElse()
 
 void TestDocumentHelpers::saySoWhenTheyFail_data()
 {
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<Error::Code>("code");
-    QTest::addColumn<PageProblem>("problem");
+    const Table<QByteArray, Error::Code, PageProblem> row{"script", "code", "problem"};
     using Code = Error::Code;
     using enum PageProblem;
 
-    QTest::newRow("crash") << QByteArray("kill -SEGV $$") << Code::Damaged << NotDrawable;
-    QTest::newRow("out of memory") << QByteArray("exit 21") << Code::TooLarge << TooLarge;
-    QTest::newRow("silence") << QByteArray("exit 0") << Code::Damaged << NotDrawable;
-    QTest::newRow("nonsense") << QByteArray("yes nonsense | head; cat >&2") << Code::Damaged
-                              << NotDrawable;
+    row("crash", "kill -SEGV $$", Code::Damaged, NotDrawable);
+    row("out of memory", "exit 21", Code::TooLarge, TooLarge);
+    row("silence", "exit 0", Code::Damaged, NotDrawable);
+    row("nonsense", "yes nonsense | head; cat >&2", Code::Damaged, NotDrawable);
 }
 
 void TestDocumentHelpers::saySoWhenTheyFail()

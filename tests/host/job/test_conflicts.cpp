@@ -1,4 +1,5 @@
 #include "conflicts.h"
+#include "table.h"
 
 #include <QFile>
 #include <QTest>
@@ -42,15 +43,8 @@ unfolded(const QByteArray &rule = "*cupsUIConstraints: \"*KVFolder None *KVFold 
 
 void TestConflicts::areNamedAndMended_data()
 {
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<PpdSelection>("choices");
-    QTest::addColumn<QString>("keep");
-    QTest::addColumn<QStringList>("sentences");
-    QTest::addColumn<QStringList>("fixWords");
-    const auto row = [](const char *title, const char *model, const PpdSelection &choices,
-                        const char *keep, const QStringList &sentences, const QStringList &fix) {
-        QTest::newRow(title) << model << choices << keep << sentences << fix;
-    };
+    const Table<QString, PpdSelection, QString, QStringList, QStringList> row{
+        "model", "choices", "keep", "sentences", "fixWords"};
 
     row("nothing chosen", "full", {}, "", {}, {});
     row("equipment that a job asks for", "unfolded", {{"KVFolder", "Full"}, {"KVFold", "C"}},
@@ -153,26 +147,20 @@ void TestConflicts::neverChangeTheEquipment()
 
 void TestConflicts::listWhatTheDeviceLacks_data()
 {
-    QTest::addColumn<PPDDictionary>("choices");
-    QTest::addColumn<QString>("paper"); // of the page format
-    QTest::addColumn<bool>("hasPpd");
-    QTest::addColumn<QStringList>("expected");
+    // paper: of the page format
+    const Table<PPDDictionary, QString, bool, QStringList> row{"choices", "paper", "hasPpd",
+                                                               "expected"};
 
     const PPDDictionary staple{{"StapleLocation", "Dual"}};
-    QTest::newRow("options and choices")
-        << PPDDictionary{{"Glitter", "On"}, {"MediaType", "Standard"}, {"Jog", "Sideways"}} << "A4"
-        << true << QStringList{"Glitter: On", "Request Offset: Sideways"};
-    QTest::newRow("nothing is asked of what it lacks")
-        << PPDDictionary{{"KVFold", "None"}, {"Glitter", "False"}} << QString() << true
-        << QStringList();
-    QTest::newRow("in the words of the device that has it")
-        << staple << QString() << true << QStringList{"Stapling: 2 Staples"};
-    QTest::newRow("a choice of paper") << PPDDictionary{{"PageSize", "Custom.1x1"}} << "A4" << true
-                                       << QStringList{"Page Size: Custom.1x1"};
-    QTest::newRow("a paper of the page format")
-        << PPDDictionary() << "Custom.1x1" << true << QStringList{"Page Size: Custom.1x1"};
-    QTest::newRow("without a PPD") << PPDDictionary{{"StapleLocation", "Dual"}, {"PageSize", "A4"}}
-                                   << "A4" << false << QStringList{"Stapling: 2 Staples"};
+    row("options and choices", {{"Glitter", "On"}, {"MediaType", "Standard"}, {"Jog", "Sideways"}},
+        "A4", true, {"Glitter: On", "Request Offset: Sideways"});
+    row("nothing is asked of what it lacks", {{"KVFold", "None"}, {"Glitter", "False"}}, {}, true,
+        {});
+    row("in the words of the device that has it", staple, {}, true, {"Stapling: 2 Staples"});
+    row("a choice of paper", {{"PageSize", "Custom.1x1"}}, "A4", true, {"Page Size: Custom.1x1"});
+    row("a paper of the page format", {}, "Custom.1x1", true, {"Page Size: Custom.1x1"});
+    row("without a PPD", {{"StapleLocation", "Dual"}, {"PageSize", "A4"}}, "A4", false,
+        {"Stapling: 2 Staples"});
 }
 
 void TestConflicts::listWhatTheDeviceLacks()

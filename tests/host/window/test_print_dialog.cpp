@@ -11,6 +11,7 @@
 #include "print_dialog.h"
 #include "private_cups.h"
 #include "spin_field.h"
+#include "table.h"
 #include "unreliable_server.h"
 
 #include <QApplication>
@@ -699,20 +700,18 @@ void TestPrintDialog::mnemonicsAreUnique()
 
 void TestPrintDialog::everythingFits_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<double>("font");
-    QTest::addColumn<bool>("dark");
+    const Table<QSize, double, bool> row{"size", "font", "dark"};
 
-    QTest::newRow("usual") << QSize(900, 660) << 1.0 << false;
-    QTest::newRow("dark") << QSize(900, 660) << 1.0 << true;
-    QTest::newRow("laptop") << QSize(1366, 768) << 1.0 << false;
-    QTest::newRow("860 wide") << QSize(880, 640) << 1.0 << false;
-    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false;
-    QTest::newRow("small") << QSize(800, 600) << 1.0 << false;
-    QTest::newRow("netbook") << QSize(1024, 600) << 1.0 << false;
-    QTest::newRow("low") << QSize(900, 480) << 1.0 << false;
-    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false;
-    QTest::newRow("large font") << QSize(1900, 1400) << 2.0 << false;
+    row("usual", QSize(900, 660), 1.0, false);
+    row("dark", QSize(900, 660), 1.0, true);
+    row("laptop", QSize(1366, 768), 1.0, false);
+    row("860 wide", QSize(880, 640), 1.0, false);
+    row("narrow", QSize(840, 660), 1.0, false);
+    row("small", QSize(800, 600), 1.0, false);
+    row("netbook", QSize(1024, 600), 1.0, false);
+    row("low", QSize(900, 480), 1.0, false);
+    row("smallest", QSize(1, 1), 1.0, false);
+    row("large font", QSize(1900, 1400), 2.0, false);
 }
 
 // Set KELVO_PICTURES to a folder to see the windows.
