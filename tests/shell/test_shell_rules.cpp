@@ -81,7 +81,6 @@ void TestShellRules::clientInformationIsWrittenOrRemoved()
     QFETCH(Text, user);
     QFETCH(Text, computer);
     QFETCH(Text, address);
-    QFETCH(Text, computerWritten);
     const QString prefix = QStringLiteral("com.kelvo.print.ClientInformation.");
     PrintSession session;
     const PMTicketRef ticket = session.printSettingsTicket();
@@ -93,7 +92,7 @@ void TestShellRules::clientInformationIsWrittenOrRemoved()
     writeClientInformation(ticket, {user, computer, address});
 
     QCOMPARE(PMTicketGetCFString(ticket, prefix + QStringLiteral("UserName")), user);
-    QCOMPARE(PMTicketGetCFString(ticket, prefix + QStringLiteral("ComputerName")), computerWritten);
+    QTEST(PMTicketGetCFString(ticket, prefix + QStringLiteral("ComputerName")), "computerWritten");
     QCOMPARE(PMTicketGetCFString(ticket, prefix + QStringLiteral("IPAddress")), address);
 }
 

@@ -1,4 +1,5 @@
 #include "print_flow.h"
+#include "sample_ppds.h"
 #include "session_fixture.h"
 #include "table.h"
 
@@ -151,8 +152,8 @@ void TestPrintFlow::theServersWordComesFirst_data()
     // ppd: on the server by then; empty: as before
     const Table<QByteArray, ExitStatus, QString> row{"ppd", "status", "says"};
 
-    row("reads no tickets", readFile(testPpd("no-ticket.ppd"), 1'000'000).value(),
-        ExitStatus::NotOffered, "*KelvoTicket");
+    row("reads no tickets", readFile(ppdWithoutTicket(), 1'000'000).value(), ExitStatus::NotOffered,
+        "*KelvoTicket");
     row("damaged", "*PPD", ExitStatus::NoDestination, "damaged");
     // Told as the user knows it, with what the server says behind.
     row("takes no jobs", {}, ExitStatus::Failed,

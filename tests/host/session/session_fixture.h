@@ -3,6 +3,7 @@
 #include "bundle.h"
 #include "dialog_session.h"
 #include "file_store.h"
+#include "sample_ppds.h"
 
 #include <QTest>
 
@@ -14,16 +15,6 @@ namespace kelvo {
 inline QString shared(const QString &name)
 {
     return QStringLiteral(KELVO_BUILD_DIR "/share/kelvo-print/") + name;
-}
-
-inline QString samplePpd(const char *model)
-{
-    return shared(QStringLiteral("ppds/kelvo-corvane-%1.ppd").arg(QLatin1String(model)));
-}
-
-inline QString testPpd(const char *name)
-{
-    return QStringLiteral(KELVO_TEST_DATA "/ppds/") + QLatin1String(name);
 }
 
 // Panels without a window. They log what is asked of them, and keep one entry of the

@@ -2,6 +2,7 @@
 
 #include "control.h"
 #include "extension.h"
+#include "files.h"
 #include "property_list.h"
 #include "table.h"
 
@@ -198,10 +199,7 @@ void TestExtension::unusableBundlesAreRefused()
     auto info = readPropertyList(QStringLiteral(TEST_BUNDLE "/Info.plist")).value().toMap();
     info[QStringLiteral("CFBundleIdentifier")] = folder.path();
     info[key] = value;
-    QFile file(folder.filePath(QStringLiteral("Info.plist")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(CFPropertyListCreateXMLData(info).value());
-    file.close();
+    putFile(folder.filePath("Info.plist"), CFPropertyListCreateXMLData(info).value());
     QVERIFY(QFile::link(QStringLiteral(TEST_BUNDLE "/TestPanels.so"),
                         folder.filePath(QStringLiteral("TestPanels.so"))));
     const auto bundle = Bundle::open(folder.path());

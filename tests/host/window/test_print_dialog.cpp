@@ -2,6 +2,7 @@
 
 #include "bundle.h"
 #include "file_store.h"
+#include "files.h"
 #include "inspector.h"
 #include "modal_dialog.h"
 #include "notice.h"
@@ -10,6 +11,7 @@
 #include "preset_menu.h"
 #include "print_dialog.h"
 #include "private_cups.h"
+#include "sample_ppds.h"
 #include "spin_field.h"
 #include "table.h"
 #include "unreliable_server.h"
@@ -180,8 +182,7 @@ void TestPrintDialog::init()
 DialogOptions TestPrintDialog::options(const QString &device)
 {
     DialogOptions options;
-    options.session.printer.device =
-        PpdFile::open(shared(QStringLiteral("ppds/kelvo-corvane-%1.ppd").arg(device))).value();
+    options.session.printer.device = PpdFile::open(samplePpd(device)).value();
     options.session.bundle = m_testBundle;
     options.session.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
     options.plan.elsewhere = folderDestination(m_folder->filePath(QStringLiteral("job")));
@@ -199,8 +200,7 @@ DialogOptions TestPrintDialog::queueOptions()
 
 QByteArray TestPrintDialog::written(const QString &name) const
 {
-    QFile file(m_folder->filePath(QStringLiteral("job/") + name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return bytesOf(m_folder->filePath(QStringLiteral("job/") + name));
 }
 
 // ---- life
@@ -460,8 +460,8 @@ void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
 {
     PrivateCups cups;
     QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
-    QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
+    QCOMPARE(cups.addQueue("Full", samplePpd("full")), QString());
+    QCOMPARE(cups.addQueue("Bare", samplePpd("bare")), QString());
     QCOMPARE(cups.addQueue("Raw", {}), QString());
     auto begin = queueOptions();
     begin.session.bundle = m_bundle;
@@ -493,7 +493,7 @@ void TestPrintDialog::aPrinterInTroubleIsToldAndWaitedFor()
 {
     PrivateCups cups;
     QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Hall-3", samplePpd("full")), QString());
     QCOMPARE(cups.administer({"-r", "Closed for inventory", "Hall-3"}, "cupsreject"), QString());
     Shown shown(queueOptions(), false);
     const auto isTold = [&shown](const QString &what) {
@@ -531,7 +531,7 @@ void TestPrintDialog::theDesktopTellsThatAJobIsOut()
 {
     PrivateCups cups;
     QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Hall-3", samplePpd("full")), QString());
     NotificationService desktop;
     QCOMPARE(desktop.start(), QString());
     auto begin = queueOptions();
