@@ -80,12 +80,11 @@ void TestCommandLine::takesEveryForm_data()
 void TestCommandLine::takesEveryForm()
 {
     QFETCH(QStringList, arguments);
-    QFETCH(QString, expected);
 
     const auto line = parseCommandLine(arguments);
 
     QVERIFY2(line, qPrintable(line ? QString() : line.error().text()));
-    QCOMPARE(told(line.value()), expected);
+    QTEST(told(line.value()), "expected");
 }
 
 void TestCommandLine::aFullLineIsUnderstood()
@@ -122,13 +121,8 @@ void TestCommandLine::refusesWrongLines_data()
     row("scaling", {"-o", "A=1 fit-to-page"},
         "-o: fit-to-page: pages are printed at their own size; choose a paper that holds them, "
         "-o media=NAME");
-    row("unknown letter", {"-x"}, "-x: there is no such option");
-    row("option without name", {"-o", "=x"}, "-o: \"=x\" is not NAME=VALUE");
     row("pages backwards", {"-P", "5-2"},
         "-P: page range \"5-2\": the last page comes before the first; write 2-5");
-    row("page 0", {"-P", "1,0"}, "-P: page range \"0\": pages begin at 1");
-    row("pages in words", {"-P", "odd"},
-        "-P: page range \"odd\": pages are written like this: 1-3, 7, 9-");
     row("pages backwards, as an option", {"-o", "Page-Ranges=5-2"},
         "-o: page range \"5-2\": the last page comes before the first; write 2-5");
     row("copies said twice", {"-o", "copies=2", "-n3"},
@@ -158,12 +152,11 @@ void TestCommandLine::refusesWrongLines_data()
 void TestCommandLine::refusesWrongLines()
 {
     QFETCH(QStringList, arguments);
-    QFETCH(QString, message);
 
     const auto line = parseCommandLine(arguments);
 
     QVERIFY(!line);
-    QCOMPARE(line.error().text(), message);
+    QTEST(line.error().text(), "message");
 }
 
 void TestCommandLine::usageFitsTheTerminal()

@@ -3,6 +3,7 @@
 #include "pdf_samples.h"
 #include "printers.h"
 #include "private_cups.h"
+#include "sample_ppds.h"
 #include "table.h"
 
 #include <QCryptographicHash>
@@ -62,9 +63,8 @@ private:
     std::shared_ptr<PpdFile> m_ppd;
 };
 
-static const QString reads =
-    QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
-static const QString readsNot = QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd");
+static const QString reads = samplePpd("full");
+static const QString readsNot = ppdWithoutTicket();
 
 void TestQueues::initTestCase()
 {

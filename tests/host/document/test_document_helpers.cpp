@@ -30,7 +30,6 @@ class TestDocumentHelpers : public QObject
 
 private slots:
     void cleanup() { setDocumentHelperFolder({}); }
-    void areMissedWithAMessage_data();
     void areMissedWithAMessage();
     void areForTheirOwnVersionOnly();
     void areAskedForEverything();
@@ -86,30 +85,23 @@ Result<Document> open(const QString &path)
 
 } // namespace
 
-void TestDocumentHelpers::areMissedWithAMessage_data()
-{
-    const Table<QString, Error::Code, QString> row{"folder", "code", "words"};
-    row("not there", "/nowhere", Error::Code::NotFound, "install kelvo-print anew");
-    row("no program", scriptedHelpers("this is no program"), Error::Code::NotReadable,
-        "does not start");
-}
-
 void TestDocumentHelpers::areMissedWithAMessage()
 {
-    QFETCH(QString, folder);
-    QFETCH(Error::Code, code);
-    QFETCH(QString, words);
-    setDocumentHelperFolder(folder);
-
-    for (const QString &path : {sample(), file("txt", "a text")}) {
-        const Result<Document> document = open(path);
-        QVERIFY(!document);
-        QCOMPARE(document.error().code, code);
-        QVERIFY2(document.error().detail.contains(words), qPrintable(document.error().text()));
+    for (const auto &[folder, code, words] :
+         {std::tuple(QStringLiteral("/nowhere"), Error::Code::NotFound, "install kelvo-print anew"),
+          {scriptedHelpers("this is no program"), Error::Code::NotReadable, "does not start"}}) {
+        setDocumentHelperFolder(folder);
+        for (const QString &path : {sample(), file("txt", "a text")}) {
+            const Result<Document> document = open(path);
+            QVERIFY(!document);
+            QCOMPARE(document.error().code, code);
+            QVERIFY2(document.error().detail.contains(words), qPrintable(document.error().text()));
+        }
+        QVERIFY(!replaceTicket(sample(), {}, QFileInfo("out").absoluteFilePath()));
+        PageDrawing drawing(sample());
+        QCOMPARE(drawing.draw(1, {100, 100}, [] { return false; }).problem,
+                 PageProblem::NotDrawable);
     }
-    QVERIFY(!replaceTicket(sample(), {}, QFileInfo("out").absoluteFilePath()));
-    PageDrawing drawing(sample());
-    QCOMPARE(drawing.draw(1, {100, 100}, [] { return false; }).problem, PageProblem::NotDrawable);
 }
 
 void TestDocumentHelpers::areForTheirOwnVersionOnly()

@@ -66,9 +66,8 @@ void TestDocumentKind::tellsKindsApart_data()
 void TestDocumentKind::tellsKindsApart()
 {
     QFETCH(QByteArray, bytes);
-    QFETCH(DocumentKind, kind);
 
-    QCOMPARE(documentKind(bytes), kind);
+    QTEST(documentKind(bytes), "kind");
     QVERIFY(!unsupportedKindText(bytes).isEmpty());
 }
 

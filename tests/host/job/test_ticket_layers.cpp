@@ -1,4 +1,5 @@
 #include "asked_settings.h"
+#include "sample_ppds.h"
 #include "table.h"
 #include "ticket_layers.h"
 
@@ -163,9 +164,8 @@ void TestTicketLayers::areLaidOverOneAnother()
 {
     QFETCH(TicketFile, under);
     QFETCH(TicketFile, over);
-    QFETCH(TicketFile, expected);
     const TicketFile beginning = ticket({{"begun", Dictionary{{"b", 9}, {"c", 9}}}});
-    QCOMPARE(laid(over, under, beginning, repeated), expected);
+    QTEST(laid(over, under, beginning, repeated), "expected");
 }
 
 void TestTicketLayers::areCompleted_data()
@@ -182,8 +182,7 @@ void TestTicketLayers::areCompleted_data()
 void TestTicketLayers::areCompleted()
 {
     QFETCH(TicketFile, file);
-    QFETCH(QStringList, expected);
-    QCOMPARE(listed(completed(placesOf(file), repeated)), expected);
+    QTEST(listed(completed(placesOf(file), repeated)), "expected");
 }
 
 // The device's own: two-sided by its queue's default, and what panels write of it.
@@ -243,7 +242,6 @@ void TestTicketLayers::presetsKeepWhatWasAskedFor()
     QFETCH(TicketFile, given);
     QFETCH(TicketFile, chosen);
     QFETCH(QList<TicketFile>, tickets);
-    QFETCH(TicketFile, expected);
     AskedSettings asked;
     asked.beginOn(queueDefault, repeated);
     asked.setBeginning(ticket(byPanels, panelChoices));
@@ -252,7 +250,7 @@ void TestTicketLayers::presetsKeepWhatWasAskedFor()
     asked.settle(tickets.first());
     for (const TicketFile &each : tickets)
         asked.take(each, nullptr);
-    QCOMPARE(asked.preset(tickets.last(), nullptr), expected);
+    QTEST(asked.preset(tickets.last(), nullptr), "expected");
 }
 
 void TestTicketLayers::settingsLiveThroughAnotherDevice()
@@ -293,16 +291,14 @@ void TestTicketLayers::onlyWhatIsSetIsAChange_data()
 void TestTicketLayers::onlyWhatIsSetIsAChange()
 {
     QFETCH(TicketFile, other);
-    QFETCH(bool, isChange);
-    const auto ppd =
-        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    const auto ppd = PpdFile::open(samplePpd("full"));
     QVERIFY(ppd);
     AskedSettings asked;
     asked.beginOn({}, repeated);
     asked.setBeginning(ticket({{"a", 1}}));
     asked.settle(ticket({{"a", 1}}));
     asked.take(other, ppd.value().get());
-    QCOMPARE(asked.isChanged(other), isChange);
+    QTEST(asked.isChanged(other), "isChange");
     asked.takeAsUnchanged(other);
     QVERIFY(!asked.isChanged(other));
 }

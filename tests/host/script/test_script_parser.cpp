@@ -229,8 +229,7 @@ void TestScriptParser::masksWholeWords()
 {
     QFETCH(QStringList, secrets);
     QFETCH(QString, text);
-    QFETCH(QString, masked);
-    QCOMPARE(maskedText(text, secrets), masked);
+    QTEST(maskedText(text, secrets), "masked");
 }
 
 void TestScriptParser::masksControlsButNotWhatTheyAreCalled()
