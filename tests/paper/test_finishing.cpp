@@ -59,35 +59,33 @@ private slots:
     void showsWhatComesOut_data();
     void showsWhatComesOut();
     void hasItsPictures();
-    void deliversToWhatIsInstalled_data();
-    void deliversToWhatIsInstalled();
 };
 
 void TestFinishing::offersWhatIsInstalled_data()
 {
-    const Table<QString> row{"commands"};
-
-    row("full",
-        "Stp0 Stp1 Stp2 Stp4 - Hpn2 Hpn3 Hpn4 Hpn0 - Fld0 Bfld Cfld Zfld Zfol "
-        "- Bkcr");
-    row("mid", "Stp0 Stp1 - Hpn2 Hpn0 - - Bkcr");
-    row("bare", "- - - Bkcr");
+    const Table<QString, QString> row{"commands", "bins"};
+    row("full", "Stp0 Stp1 Stp2 Stp4 - Hpn2 Hpn3 Hpn4 Hpn0 - Fld0 Bfld Cfld Zfld Zfol - Bkcr",
+        "Auto PrinterDefault Top Side Middle Middle2 Upper Lower Stacker Booklet EnvFolder SBM");
+    row("mid", "Stp0 Stp1 - Hpn2 Hpn0 - - Bkcr", "Auto Top Side Upper");
+    row("bare", "- - - Bkcr", "Top"); // its catch tray is not installed
 }
 
 void TestFinishing::offersWhatIsInstalled()
 {
-    QFETCH(QString, commands);
     const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
+    Menu finishings, destinations;
+    PopulateFinishingMenu(finishings, currentDevice());
+    PopulateOutputDestination(destinations, currentDevice());
 
-    Menu menu;
-    PopulateFinishingMenu(menu, currentDevice());
-
-    QStringList offered;
-    for (const MenuItem &item : menu.items) {
-        offered << codeText(item.command);
-        QVERIFY2(item.divider || !item.text.isEmpty(), qPrintable(offered.last()));
+    QStringList commands, bins;
+    for (const MenuItem &item : finishings.items) {
+        commands << codeText(item.command);
+        QVERIFY2(item.divider || !item.text.isEmpty(), qPrintable(commands.last()));
     }
-    QCOMPARE(offered.join(u' '), commands);
+    for (const MenuItem &item : destinations.items)
+        bins << item.key;
+    QTEST(commands.join(u' '), "commands");
+    QTEST(bins.join(u' '), "bins");
 }
 
 void TestFinishing::followsTheMenu_data()
@@ -122,7 +120,6 @@ void TestFinishing::followsTheMenu()
 {
     QFETCH(OSType, command);
     QFETCH(std::int32_t, value);
-    QFETCH(QString, plain);
     QFETCH(QString, booklet);
 
     PaperOutputSettings context;
@@ -132,7 +129,7 @@ void TestFinishing::followsTheMenu()
                          .punchKind = kPunchKindPunched,
                          .dualStaple = kStapleDual};
     QVERIFY(applyFinishingCommand(context, command, value));
-    QCOMPARE(stateOf(context), plain);
+    QTEST(stateOf(context), "plain");
 
     context = {};
     context.booklet = kBookletOn;
@@ -231,13 +228,12 @@ void TestFinishing::summarizes()
     QFETCH(QString, device);
     QFETCH(std::int32_t, booklet);
     QFETCH(Finishing, finishing);
-    QFETCH(QString, summary);
     const DeviceSession session(device);
     PaperOutputSettings context;
     context.booklet = booklet;
     context.finishing = finishing;
 
-    QCOMPARE(CreateFinishingString(context, currentDevice()).replace(u'\n', u'|'), summary);
+    QTEST(CreateFinishingString(context, currentDevice()).replace(u'\n', u'|'), "summary");
 }
 
 void TestFinishing::placesStaplesAndHolesByOrientation_data()
@@ -261,7 +257,6 @@ void TestFinishing::placesStaplesAndHolesByOrientation()
 {
     QFETCH(std::int32_t, value);
     QFETCH(bool, isStaple);
-    QFETCH(QString, choices);
 
     QStringList found;
     for (const std::int32_t orientation : {1, 2, 3, 4}) {
@@ -269,7 +264,7 @@ void TestFinishing::placesStaplesAndHolesByOrientation()
             isStaple ? stapleChoice(value, orientation) : punchChoice(value, orientation);
         found << choice.value_or(QStringLiteral("-"));
     }
-    QCOMPARE(found.join(u' '), choices);
+    QTEST(found.join(u' '), "choices");
     QVERIFY(!punchChoice(kPunchTwoHoles, 5));
 }
 
@@ -314,12 +309,11 @@ void TestFinishing::showsWhatComesOut()
 {
     QFETCH(std::int32_t, booklet);
     QFETCH(Finishing, finishing);
-    QFETCH(QString, picture);
     PaperOutputSettings context;
     context.booklet = booklet;
     context.finishing = finishing;
 
-    QCOMPARE(finishingPicture(context), picture);
+    QTEST(finishingPicture(context), "picture");
 }
 
 // Every name that the rules can come to is a file of the bundle.
@@ -349,31 +343,6 @@ void TestFinishing::hasItsPictures()
     for (const QString &picture : std::as_const(pictures))
         QVERIFY2(!pictureFile(device.bundle->resourcesPath(), picture).isEmpty(),
                  qPrintable(picture));
-}
-
-void TestFinishing::deliversToWhatIsInstalled_data()
-{
-    const Table<QString> row{"bins"};
-
-    row("full",
-        "Auto PrinterDefault Top Side Middle Middle2 Upper Lower Stacker "
-        "Booklet EnvFolder SBM");
-    row("mid", "Auto Top Side Upper");
-    row("bare", "Top"); // its catch tray is not installed
-}
-
-void TestFinishing::deliversToWhatIsInstalled()
-{
-    QFETCH(QString, bins);
-    const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
-
-    Menu menu;
-    PopulateOutputDestination(menu, currentDevice());
-
-    QStringList found;
-    for (const MenuItem &item : menu.items)
-        found << item.key;
-    QCOMPARE(found.join(u' '), bins);
 }
 
 QTEST_GUILESS_MAIN(TestFinishing)

@@ -1,17 +1,18 @@
 #include "driven_dialog.h"
 
 #include "bundle.h"
+#include "files.h"
 #include "inspector.h"
 #include "menu_button.h"
 #include "panel_interface.h"
 #include "popup_button.h"
+#include "sample_ppds.h"
 #include "summary_view.h"
 #include "table.h"
 #include "ticket.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,11 +46,6 @@ public:
 private:
     QTimer m_timer;
 };
-
-QString samplePpd(const QString &device)
-{
-    return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device);
-}
 
 // The panel of one sample device, or of a PPD file, in front of its user.
 class Panel : public DrivenDialog
@@ -97,7 +93,6 @@ private slots:
 
     void showsAgainWhatItWrote_data();
     void showsAgainWhatItWrote();
-    void menusAreShownAgainToo();
     void opensAgainAfterItWasClosed();
     void offersWhatTheDeviceCanDo_data();
     void offersWhatTheDeviceCanDo();
@@ -109,13 +104,10 @@ private:
     // A sample device's PPD in which `line`, a pattern, is another one.
     QString changedPpd(const QString &device, const QString &line, const QString &other)
     {
-        QFile sample(samplePpd(device));
-        QFile changed(m_folder.filePath(QStringLiteral("changed.ppd")));
-        if (!sample.open(QFile::ReadOnly) || !changed.open(QFile::WriteOnly))
-            return {};
-        changed.write(
-            QString::fromUtf8(sample.readAll()).replace(QRegularExpression(line), other).toUtf8());
-        return changed.fileName();
+        const QString path = m_folder.filePath(QStringLiteral("changed.ppd"));
+        QString text = QString::fromUtf8(bytesOf(samplePpd(device)));
+        putFile(path, text.replace(QRegularExpression(line), other).toUtf8());
+        return path;
     }
 
     PlugInFactoryFunction m_factory = nullptr;
@@ -173,45 +165,6 @@ void TestPaperOutputPanel::showsAgainWhatItWrote()
         }
     }
     QVERIFY(shown > 5);
-}
-
-void TestPaperOutputPanel::menusAreShownAgainToo()
-{
-    const auto commandsOf = [](const MenuButton *button) {
-        QList<std::pair<OSType, std::int32_t>> commands;
-        std::vector<const std::vector<MenuItem> *> menus{&button->menu().items};
-        while (!menus.empty()) {
-            const std::vector<MenuItem> *items = menus.back();
-            menus.pop_back();
-            for (const MenuItem &item : *items) {
-                if (!item.submenu.empty())
-                    menus.push_back(&item.submenu);
-                else if (!item.divider)
-                    commands.append({item.command, item.reference});
-            }
-        }
-        return commands;
-    };
-    for (const std::int32_t number : {106, 123}) {
-        Panel first(m_factory, QStringLiteral("full"));
-        const auto commands = commandsOf(first.find<MenuButton>(kPanelSignature, number));
-        QVERIFY(commands.size() > 10);
-        for (const auto &[command, reference] : commands) {
-            if (command == fourCharCode("Bkcr") || command == fourCharCode("Sadv"))
-                continue; // these open windows
-            Panel panel(m_factory, QStringLiteral("full"));
-            inspector::ItemName item;
-            item.reference = reference;
-            const auto problem = inspector::chooseCommand(
-                panel.find<MenuButton>(kPanelSignature, number), command, item);
-            QVERIFY2(!problem, qPrintable(problem ? problem->text : QString()));
-            QCOMPARE(panel.sync(kSyncWrite), noErr);
-            Panel again(m_factory, QStringLiteral("full"), &panel);
-            QCOMPARE(again.shown(), panel.shown());
-            QCOMPARE(again.sync(kSyncWrite), noErr);
-            QCOMPARE(again.session.printSettings(), panel.session.printSettings());
-        }
-    }
 }
 
 void TestPaperOutputPanel::opensAgainAfterItWasClosed()
@@ -315,8 +268,7 @@ void TestPaperOutputPanel::saysWhatTheDeviceDoesNotOffer()
 // panel's stands for dialogs that ask it alone.
 void TestPaperOutputPanel::summarizesForTheDialog()
 {
-    DrivenDialog dialog(m_factory,
-                        QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-mid.ppd"));
+    DrivenDialog dialog(m_factory, samplePpd("mid"));
     const auto operations =
         findPanelOperations(*m_bundle, QStringLiteral("GetPaperOutputPanelInterface"));
     QVERIFY2(operations, qPrintable(operations.reason()));

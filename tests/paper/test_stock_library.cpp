@@ -1,6 +1,7 @@
 #include "stock_library.h"
 
 #include "preferences.h"
+#include "sample_ppds.h"
 #include "stock_properties.h"
 #include "table.h"
 
@@ -41,7 +42,6 @@ private slots:
     }
 
     void keepsOneStockOfAName();
-    void refusesNames_data();
     void refusesNames();
     void isFullAtItsLimit();
     void damagedEntriesAreSkippedAndStay();
@@ -49,7 +49,6 @@ private slots:
 
     void weightsAreChecked_data();
     void weightsAreChecked();
-    void devicesOfferWhatTheirPpdHas_data();
     void devicesOfferWhatTheirPpdHas();
     void whatIsNotOfferedIsNotSet();
     void nothingStaysWithoutItsTypeOrColor();
@@ -72,22 +71,14 @@ void TestStockLibrary::keepsOneStockOfAName()
     QCOMPARE(removeFromStockLibrary("gamma 9"), LibraryProblem::NotFound);
 }
 
-void TestStockLibrary::refusesNames_data()
-{
-    const Table<QString, LibraryProblem> row{"name", "problem"};
-
-    const QString longest = QString(kLongestStockName - 1, u'x') + QStringLiteral("\U0001F4C4");
-    row("blanks", "  ", LibraryProblem::NameMissing);
-    row("the longest", longest, LibraryProblem::None);
-    row("one character more", longest + 'x', LibraryProblem::NameTooLong);
-}
-
 void TestStockLibrary::refusesNames()
 {
-    QFETCH(QString, name);
-    QFETCH(LibraryProblem, problem);
-    QCOMPARE(saveInStockLibrary(name, card()), problem);
-    QCOMPARE(names().size(), problem == LibraryProblem::None ? 1 : 0);
+    const QString longest = QString(kLongestStockName - 1, u'x') + QStringLiteral("\U0001F4C4");
+    QCOMPARE(saveInStockLibrary("  ", card()), LibraryProblem::NameMissing);
+    QCOMPARE(saveInStockLibrary(longest + 'x', card()), LibraryProblem::NameTooLong);
+    QCOMPARE(names(), QStringList());
+    QCOMPARE(saveInStockLibrary(longest, card()), LibraryProblem::None);
+    QCOMPARE(names(), QStringList(longest));
 }
 
 void TestStockLibrary::isFullAtItsLimit()
@@ -155,29 +146,22 @@ void TestStockLibrary::weightsAreChecked_data()
 void TestStockLibrary::weightsAreChecked()
 {
     QFETCH(QString, text);
-    QFETCH(std::optional<WeightRange>, range);
-    QCOMPARE(weightRangeFrom(text), range);
-}
-
-void TestStockLibrary::devicesOfferWhatTheirPpdHas_data()
-{
-    const Table<QString, StockProperties> row{"ppd", "properties"};
-
-    const QString samples = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-");
-    row("all", samples + "full.ppd", StockProperties{{60, 350}, true, true});
-    row("little", samples + "bare.ppd", StockProperties{{60, 163}, false, false});
-    row("no weights", KELVO_TEST_DATA "/platform/test.ppd",
-        StockProperties{{60, 300}, false, false});
+    QTEST(weightRangeFrom(text), "range");
 }
 
 void TestStockLibrary::devicesOfferWhatTheirPpdHas()
 {
-    QFETCH(QString, ppd);
-    QFETCH(StockProperties, properties);
-    const auto opened = PpdFile::open(ppd);
-    QVERIFY(opened);
-    QCOMPARE(stockPropertiesOf(opened.value().get()), properties);
-    QCOMPARE(stockPropertiesOf(nullptr), (StockProperties{{60, 300}, false, false}));
+    const QString withoutWeights = QStringLiteral(KELVO_TEST_DATA "/platform/test.ppd");
+    const StockProperties usual{{60, 300}, false, false};
+    for (const auto &[path, properties] :
+         {std::pair(samplePpd("full"), StockProperties{{60, 350}, true, true}),
+          {samplePpd("bare"), StockProperties{{60, 163}, false, false}},
+          {withoutWeights, usual}}) {
+        const auto ppd = PpdFile::open(path);
+        QVERIFY(ppd);
+        QCOMPARE(stockPropertiesOf(ppd.value().get()), properties);
+    }
+    QCOMPARE(stockPropertiesOf(nullptr), usual);
 }
 
 void TestStockLibrary::whatIsNotOfferedIsNotSet()

@@ -27,7 +27,6 @@ private slots:
     void findsTheDefaultRoute_data();
     void findsTheDefaultRoute();
     void knowsUserAndComputer();
-    void measuresPaperAsTheLocaleDoes_data();
     void measuresPaperAsTheLocaleDoes();
 };
 
@@ -164,19 +163,14 @@ void TestSurroundings::knowsUserAndComputer()
                  qPrintable(*address));
 }
 
-void TestSurroundings::measuresPaperAsTheLocaleDoes_data()
-{
-    const Table<QLocale::MeasurementSystem> row{"system"};
-    row("en_US", QLocale::ImperialUSSystem);
-    row("en_GB", QLocale::MetricSystem);
-    row("de_DE", QLocale::MetricSystem);
-}
-
-// The row's name is the locale.
 void TestSurroundings::measuresPaperAsTheLocaleDoes()
 {
-    QLocale::setDefault(QLocale(QString::fromLatin1(QTest::currentDataTag())));
-    QTEST(measurementSystem(), "system");
+    for (const auto &[locale, system] : {std::pair("en_US", QLocale::ImperialUSSystem),
+                                         {"en_GB", QLocale::MetricSystem},
+                                         {"de_DE", QLocale::MetricSystem}}) {
+        QLocale::setDefault(QLocale(QLatin1String(locale)));
+        QCOMPARE(measurementSystem(), system);
+    }
     QLocale::setDefault(QLocale::c());
 }
 

@@ -82,10 +82,9 @@ void TestTicketValues::formatsNumbersForTheLocale()
     QFETCH(QString, locale);
     QFETCH(int, value);
     QFETCH(int, decimals);
-    QFETCH(QString, text);
     QLocale::setDefault(QLocale(locale));
-    QCOMPARE(CreateLocalizedCFStringFromNumberWithDecimals(value, decimals).value_or(QString()),
-             text);
+    QTEST(CreateLocalizedCFStringFromNumberWithDecimals(value, decimals).value_or(QString()),
+          "text");
 }
 
 void TestTicketValues::countsDigits()
@@ -130,10 +129,9 @@ void TestTicketValues::unescapesEntities_data()
 void TestTicketValues::unescapesEntities()
 {
     QFETCH(QString, escaped);
-    QFETCH(QString, text);
     const QMap<QString, QString> extra = {
         {"nbsp", " "}, {"hall", "Hall 3"}, {"#hall", "Hall 4"}, {"lt", "no"}, {"deep", "&amp;"}};
-    QCOMPARE(XMLCreateStringByUnescapingEntities(escaped, extra), text);
+    QTEST(XMLCreateStringByUnescapingEntities(escaped, extra), "text");
 }
 
 void TestTicketValues::unescapesLongTextsInLinearTime()

@@ -75,7 +75,6 @@ void TestFields::typedTextBecomesAValue()
     QFETCH(int, decimals);
     QFETCH(QString, typed);
     QFETCH(int, value);
-    QFETCH(QString, shown);
     SpinField field;
     field.setLocale(QLocale(locale));
     field.setDecimals(decimals);
@@ -88,7 +87,7 @@ void TestFields::typedTextBecomesAValue()
     QCOMPARE(field.value(), 500); // not before it is left
     leave(&field);
     QCOMPARE(field.value(), value);
-    QCOMPARE(field.text(), shown);
+    QTEST(field.text(), "shown");
 }
 
 void TestFields::aWrongCharacterIsNotTakenIn_data()
@@ -109,13 +108,12 @@ void TestFields::aWrongCharacterIsNotTakenIn()
 {
     QFETCH(int, decimals);
     QFETCH(QString, typed);
-    QFETCH(QString, left);
     SpinField field;
     field.setLocale(QLocale(QStringLiteral("de_DE")));
     field.setDecimals(decimals);
     field.setMaximum(2000);
     QVERIFY(!field.typeText(typed));
-    QCOMPARE(field.text(), left);
+    QTEST(field.text(), "left");
 }
 
 void TestFields::theGreatestNumberIsShownExactly()

@@ -1,5 +1,6 @@
 #include "control.h"
 #include "event_log.h"
+#include "files.h"
 #include "input_limits.h"
 #include "popup_button.h"
 #include "radio_group.h"
@@ -8,8 +9,6 @@
 #include "table.h"
 #include "window_loader.h"
 
-#include <QDir>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -33,7 +32,10 @@ private slots:
     void noPluginOfTheDesignerIsLoaded();
 
 private:
-    void write(const QString &path, const QByteArray &bytes);
+    void write(const QString &path, const QByteArray &bytes)
+    {
+        putFile(m_folder.filePath(path), bytes);
+    }
 
     QTemporaryDir m_folder;
     CFBundleRef m_bundle = nullptr;
@@ -67,15 +69,6 @@ QByteArray dynamic(const QByteArray &name, const QByteArray &value)
 }
 
 } // namespace
-
-void TestWindowLoader::write(const QString &path, const QByteArray &bytes)
-{
-    const QString full = m_folder.filePath(path);
-    QVERIFY(QDir().mkpath(QFileInfo(full).path()));
-    QFile file(full);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
 
 void TestWindowLoader::initTestCase()
 {
@@ -212,9 +205,7 @@ void TestWindowLoader::noPluginOfTheDesignerIsLoaded()
     QVERIFY(loaded);
     const std::unique_ptr<QWidget> shown(loaded.value());
 
-    QFile maps("/proc/self/maps");
-    QVERIFY(maps.open(QIODevice::ReadOnly));
-    const QByteArray files = maps.readAll();
+    const QByteArray files = bytesOf("/proc/self/maps");
     QVERIFY(files.contains("libQt6UiTools"));
     QVERIFY(!files.contains("/designer/"));
     // The platform's other plug-ins are found as before.
