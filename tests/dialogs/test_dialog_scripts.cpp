@@ -1,4 +1,5 @@
 #include "kelvo_print.h"
+#include "sample_ppds.h"
 #include "table.h"
 
 #include <QDir>
@@ -50,18 +51,11 @@ void TestDialogScripts::goesAsWritten_data()
 void TestDialogScripts::goesAsWritten()
 {
     QFETCH(QString, path);
-    const QString first = QString::fromUtf8(contents(path).split('\n').first());
+    const QString first = QString::fromUtf8(bytesOf(path).split('\n').first());
     const QStringList words = first.section(u':', 0, 0).split(u' ');
     QVERIFY2(words.size() >= 3 && words.first() == "#", qPrintable(first));
-    QStringList arguments{
-        "--no-window",
-        "--script",
-        path,
-        "--to",
-        "out",
-        documentPath,
-        "--ppd",
-        QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(words[1])};
+    QStringList arguments{"--no-window", "--script",   path,    "--to",
+                          "out",         documentPath, "--ppd", samplePpd(words[1])};
     if (words.size() > 3)
         arguments << "--ticket-in" << QFileInfo(path).dir().filePath(words[3]);
     Desk desk;
@@ -75,11 +69,12 @@ void TestDialogScripts::aLibraryThatCannotBeKeptNamesItsFile()
 {
     Desk desk;
     desk.set(QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("/dev/null"));
-    write(desk.path("s.kps"),
-          "tab 1\nitem @stockButton 'Sadv'\nclick @saveInLibrary\ntype @libraryStockName \"Card\"\n"
-          "click @okButton\n"
-          "expect-notice \"/dev/null/kelvo/com.kelvo.print.stocks.plist\"\nanswer 1\n"
-          "cancel\ncancel\n");
+    putFile(
+        desk.path("s.kps"),
+        "tab 1\nitem @stockButton 'Sadv'\nclick @saveInLibrary\ntype @libraryStockName \"Card\"\n"
+        "click @okButton\n"
+        "expect-notice \"/dev/null/kelvo/com.kelvo.print.stocks.plist\"\nanswer 1\n"
+        "cancel\ncancel\n");
     QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
 }
 
@@ -129,10 +124,10 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
           {"<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"/></ui>",
            "lacks controls that the window needs: KPDE "}}) {
         if (*damage)
-            write(description, damage);
-        write(desk.path("s.kps"),
-              lines + "\nexpect-notice \"" + window + "\"\nexpect-notice \"" + reason
-                  + "\"\nanswer 1\n" + QByteArray("cancel\n").repeated(open));
+            putFile(description, damage);
+        putFile(desk.path("s.kps"),
+                lines + "\nexpect-notice \"" + window + "\"\nexpect-notice \"" + reason
+                    + "\"\nanswer 1\n" + QByteArray("cancel\n").repeated(open));
         QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
     }
 }
@@ -159,9 +154,9 @@ void TestDialogScripts::aPanelThatCannotBeMadeSaysSo()
     Desk desk;
     const QString path = withoutDescription(desk, "SpecialPages/SpecialPages");
     if (!description.isNull())
-        write(path, description);
+        putFile(path, description);
     // It goes on without that panel.
-    write(desk.path("s.kps"), "panel SpecialPages\nshow @panelNotMade\nprint\n");
+    putFile(desk.path("s.kps"), "panel SpecialPages\nshow @panelNotMade\nprint\n");
     const Run run = desk.run({"--demo", "--no-window", "--script", "s.kps", "--to", "out"});
     QENDED(run, 0);
     QVERIFY2(run.out.contains(message), qPrintable(run.out));

@@ -1,5 +1,6 @@
 #include "kelvo_print.h"
 #include "long_date.h"
+#include "sample_ppds.h"
 #include "table.h"
 #include "values.h"
 
@@ -15,19 +16,14 @@ class TestPanelStories : public QObject
     Q_OBJECT
 
 private slots:
-    void keepsASecurePrintsCodeInTheTicketAlone();
     void holdsBackASecurePrintWithoutCode();
     void waitsForTheNextTimeOfADelayedJob();
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
-    void endsWhileAPanelAsks_data();
     void endsWhileAPanelAsks();
-    void saysWhatPanelsEntered();
     void saysWhatWillBeMissing();
     void keepsWhatWasSetLast_data();
     void keepsWhatWasSetLast();
-    void letsOptionsBeatATicket_data();
-    void letsOptionsBeatATicket();
 };
 
 namespace {
@@ -40,27 +36,7 @@ Dictionary jobTypeIn(const TicketFile &ticket)
         : dictionary(entry->second.value).value_or(Dictionary());
 }
 
-QString ppd(const QString &device)
-{
-    return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device);
-}
-
 } // namespace
-
-void TestPanelStories::keepsASecurePrintsCodeInTheTicketAlone()
-{
-    const Desk desk;
-    const QString folder = desk.path("out");
-    const Run run =
-        desk.run({"--demo", "--no-window", "--script", script("secure-print.kps"), "--to", folder});
-    QENDED(run, 0);
-
-    const Dictionary jobType = jobTypeIn(ticketIn(folder));
-    QCOMPARE(jobType.value("JobType"), QVariant(qint64(6)));
-    QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("48151623"));
-    QVERIFY(!contents(folder + "/options").contains("48151623"));
-    QVERIFY(!run.out.contains("48151623") && !run.err.contains("48151623"));
-}
 
 void TestPanelStories::holdsBackASecurePrintWithoutCode()
 {
@@ -104,33 +80,31 @@ void TestPanelStories::waitsForTheNextTimeOfADelayedJob()
 
 void TestPanelStories::carriesEverythingThroughATicket_data()
 {
-    // name: of the scripts
-    const Table<QString, QString> row{"device", "name"};
+    const Table<QString, QString> row{"device", "script"};
 
-    row("paper, full", "full", "paper-output");
-    row("paper, mid", "mid", "paper-output-mid");
-    row("image, full", "full", "image-options");
-    row("special pages", "full", "special-pages");
+    row("paper, full", "full", "paper-output.kps");
+    row("paper, mid", "mid", "paper-output-mid.kps");
+    row("image, full", "full", "image-options.kps");
+    row("advanced", "full", "advanced.kps");
+    row("special pages", "full", "special-pages.kps");
 }
 
 void TestPanelStories::carriesEverythingThroughATicket()
 {
     QFETCH(QString, device);
-    QFETCH(QString, name);
+    QFETCH(QString, script);
     const Desk desk;
     const QString first = desk.path("first"), second = desk.path("second");
     const QString third = desk.path("third"), preset = desk.path("preset.plist");
-    const QStringList arguments{"--ppd", ppd(device), "--no-window", documentPath};
+    const QStringList arguments{"--ppd", samplePpd(device), "--no-window", documentPath};
     QENDED(desk.run(arguments
-                    + QStringList{"--script", script(qPrintable(name + ".kps")), "--to", first,
+                    + QStringList{"--script", ::script(qPrintable(script)), "--to", first,
                                   "--preset-out", preset}),
            0);
     const Desk fresh;
-    QENDED(fresh.run(arguments
-                     + QStringList{"--script", script(qPrintable(name + "-again.kps")),
-                                   "--ticket-in", first + "/ticket.plist", "--to", second}),
-           0);
-    QENDED(fresh.run(arguments + QStringList{"--ticket-in", preset, "--to", third}), 0);
+    for (const auto &[ticket, folder] :
+         {std::pair(first + "/ticket.plist", second), {preset, third}})
+        QENDED(fresh.run(arguments + QStringList{"--ticket-in", ticket, "--to", folder}), 0);
 
     TicketFile one = ticketIn(first), other = ticketIn(second), fromPreset = ticketIn(third);
     QVERIFY(!one.printSettings.entries.empty());
@@ -150,35 +124,18 @@ void TestPanelStories::carriesEverythingThroughATicket()
     QCOMPARE(fromPreset, one);
 }
 
-void TestPanelStories::endsWhileAPanelAsks_data()
+void TestPanelStories::endsWhileAPanelAsks()
 {
-    const Table<QByteArray> row{"lines"};
     const QByteArray dialog = "panel SpecialPages\nclick @addInserts\n";
     const QByteArray question =
         dialog + "type @insertPages \"2\"\nclick @okButton\nclick @deleteAll\n";
-    row("in a dialog", dialog + "expect @insertPages text \"7\"\n");
-    row("in a notice", dialog + "click @okButton\nexpect-notice \"thumb\"\n");
-    row("in a question", question + "expect-notice \"thumb\"\n");
-}
-
-void TestPanelStories::endsWhileAPanelAsks()
-{
-    QFETCH(QByteArray, lines);
     const Desk desk;
-    write(desk.path("ends.kps"), lines);
-    QENDED(desk.run({"--demo", "--no-window", "--script", "ends.kps", "--to", "out"}), 2);
-}
-
-void TestPanelStories::saysWhatPanelsEntered()
-{
-    const Desk desk;
-    write(desk.path("look.kps"),
-          "tab 1\nchoose @jobType key SampleSet\ntab 2\ncheck @mirrorImage on\nsummary\nprint\n");
-    const Run run = desk.run({"--demo", "--no-window", "--script", "look.kps", "--to", "out"});
-    QENDED(run, 0);
-    for (const char *words : {"Job type: Sample set", "Invert image: Mirror image"})
-        QVERIFY2(run.out.contains(words), qPrintable(run.out));
-    QVERIFY(!run.out.contains("Negative image"));
+    for (const QByteArray &lines : {dialog + "expect @insertPages text \"7\"\n",
+                                    dialog + "click @okButton\nexpect-notice \"thumb\"\n",
+                                    question + "expect-notice \"thumb\"\n"}) {
+        putFile(desk.path("ends.kps"), lines);
+        QENDED(desk.run({"--demo", "--no-window", "--script", "ends.kps", "--to", "out"}), 2);
+    }
 }
 
 // A cover without a source is forgotten when another panel is shown, and pages are cut:
@@ -186,10 +143,10 @@ void TestPanelStories::saysWhatPanelsEntered()
 void TestPanelStories::saysWhatWillBeMissing()
 {
     const Desk desk;
-    write(desk.path("cover.kps"),
-          "panel SpecialPages\nclick @addCovers\nchoose @coverOptions 2\n"
-          "item @frontStockButton 'Sclr' key Blue\nclick @okButton\nanswer 2\n"
-          "panel PaperOutput\ntab 2\ntab 1\nexpect @conflictBar visible true\nsummary\nprint\n");
+    putFile(desk.path("cover.kps"),
+            "panel SpecialPages\nclick @addCovers\nchoose @coverOptions 2\n"
+            "item @frontStockButton 'Sclr' key Blue\nclick @okButton\nanswer 2\n"
+            "panel PaperOutput\ntab 2\ntab 1\nexpect @conflictBar visible true\nsummary\nprint\n");
     const Run run = desk.run({"--demo", "--no-window", "--script", "cover.kps", "--to", "out", "-o",
                               "PageSize=A5", "-P", "1,3-4"});
     QENDED(run, 0);
@@ -223,36 +180,10 @@ void TestPanelStories::keepsWhatWasSetLast()
     QFETCH(QString, kept);
     QFETCH(QString, choice);
     const Desk desk;
-    write(desk.path("fix.kps"),
-          ("tab 2\n" + first + last + "click @fix\nexpect @fix visible false\nprint\n").toUtf8());
+    putFile(desk.path("fix.kps"),
+            ("tab 2\n" + first + last + "click @fix\nexpect @fix visible false\nprint\n").toUtf8());
     QENDED(desk.run({"--demo", "--no-window", "--script", "fix.kps", "--to", "out"}), 0);
     QCOMPARE(optionsIn(desk.path("out/options")).values(kept), QStringList(choice));
-}
-
-void TestPanelStories::letsOptionsBeatATicket_data()
-{
-    const Table<QStringList, QString> row{"options", "duplex"};
-
-    row("the ticket alone", {}, "DuplexNoTumble");
-    row("the PPD's option", {"-o", "Duplex=None"}, "None");
-    row("the server's option", {"-o", "sides=two-sided-short-edge"}, "DuplexTumble");
-    row("another option", {"-o", "Jog=EndOfSet"}, "DuplexNoTumble");
-}
-
-void TestPanelStories::letsOptionsBeatATicket()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QString, duplex);
-    const Desk desk;
-    write(desk.path("two.kps"), "tab 1\nchoose @twoSided key Duplex\nprint\n");
-    const QStringList arguments{"--demo", "--no-window"};
-    QENDED(desk.run(arguments + QStringList{"--script", "two.kps", "--to", desk.path("first")}), 0);
-
-    const QString folder = desk.path("second");
-    QENDED(desk.run(arguments + options
-                    + QStringList{"--ticket-in", desk.path("first/ticket.plist"), "--to", folder}),
-           0);
-    QCOMPARE(optionsIn(folder + "/options").values("Duplex"), QStringList(duplex));
 }
 
 QTEST_GUILESS_MAIN(TestPanelStories)

@@ -1,6 +1,7 @@
 #include "file_names.h"
 #include "file_store.h"
 #include "kelvo_print.h"
+#include "sample_ppds.h"
 #include "table.h"
 
 #include <QDir>
@@ -46,12 +47,12 @@ void TestSecretStories::masksAPasscodeAndNothingElse()
 {
     QFETCH(QByteArray, passcode);
     const Desk desk;
-    write(desk.path("s.kps"),
-          "tab 1\nchoose @jobType key SecurePrint\n"
-          "type @passcode \"CODE\"\ntype @confirmPasscode \"CODE\"\nclick @showPasscode\n"
-          "controls\nclick @okButton\nsummary\nexpect-ticket com.kelvo.print.JobType absent\n");
-    QByteArray script = contents(desk.path("s.kps"));
-    write(desk.path("s.kps"), script.replace("CODE", passcode));
+    putFile(desk.path("s.kps"),
+            "tab 1\nchoose @jobType key SecurePrint\n"
+            "type @passcode \"CODE\"\ntype @confirmPasscode \"CODE\"\nclick @showPasscode\n"
+            "controls\nclick @okButton\nsummary\nexpect-ticket com.kelvo.print.JobType absent\n");
+    QByteArray script = bytesOf(desk.path("s.kps"));
+    putFile(desk.path("s.kps"), script.replace("CODE", passcode));
     const Run run = desk.run({"--demo", "--no-window", "--script", "s.kps"});
     QENDED(run, 2);
 
@@ -138,7 +139,7 @@ void TestSecretStories::leavesARunThatLivesAlone()
 
     QENDED(desk.run(secureJob), 0);
     QCOMPARE(leftoversOf(desk), held);
-    waiting.write(contents(documentPath).mid(4));
+    waiting.write(bytesOf(documentPath).mid(4));
     waiting.closeWriteChannel();
     QVERIFY(waiting.waitForFinished());
     QCOMPARE(waiting.exitCode(), 0);
@@ -174,7 +175,7 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
     QFETCH(bool, isClosed);
     Desk desk;
     giveTemporaryFolder(desk);
-    write(desk.path("code.txt"), "4815");
+    putFile(desk.path("code.txt"), "4815");
     QVERIFY(QFile::setPermissions(desk.path("code.txt"), QFile::ReadOwner | QFile::WriteOwner));
     TicketFile ticket;
     ticket.printSettings.entries[QStringLiteral("com.kelvo.print.JobType")] = {
@@ -196,7 +197,7 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
     QCOMPARE(QFile(process + "environ").open(QIODevice::ReadOnly), !isClosed);
     static const QRegularExpression noCores(QStringLiteral("Max core file size +0 +0 "));
     if (isClosed)
-        QVERIFY(noCores.match(QString::fromLatin1(contents(process + "limits"))).hasMatch());
+        QVERIFY(noCores.match(QString::fromLatin1(bytesOf(process + "limits"))).hasMatch());
     waiting.kill();
     waiting.waitForFinished();
 }
@@ -224,9 +225,8 @@ void TestSecretStories::printsUnderAnyName()
     QFETCH(QString, printed);
     const Desk desk;
     const QString path = desk.path(fileNameFrom(file));
-    QVERIFY(replaceFile(path, contents(documentPath)));
-    QVERIFY(QFile::copy(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"),
-                        desk.path("device.ppd")));
+    QVERIFY(replaceFile(path, bytesOf(documentPath)));
+    QVERIFY(QFile::copy(samplePpd("full"), desk.path("device.ppd")));
 
     // QProcess passes on text only: the shell makes bytes of the escapes.
     const auto quoted = [](const QByteArray &bytes) {
