@@ -81,8 +81,7 @@ void TestDialogScripts::aLibraryThatCannotBeKeptNamesItsFile()
 // Every window that a button of the panels opens.
 void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
 {
-    // lines: that open it
-    // open: dialogs behind it
+    // lines: that open it; open: dialogs behind it
     const Table<QByteArray, int> table{"lines", "open"};
     const QByteArray advanced = "item @stockButton 'Sadv'\n";
     const QByteArray insert = "panel SpecialPages\nclick @addInserts\n";
@@ -135,7 +134,7 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
 // On standard output, as dialogs have always read it.
 void TestDialogScripts::aPanelThatCannotBeMadeSaysSo_data()
 {
-    // description: null: none
+    // description null: none
     const Table<QByteArray, QString> row{"description", "message"};
     const QByteArray empty = "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">";
     const QByteArray pane = "<property name=\"controlID\" stdset=\"0\"><string "

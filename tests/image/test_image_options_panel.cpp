@@ -102,8 +102,7 @@ void TestImageOptionsPanel::readsInATicketThatThePrinterDecides()
 
 void TestImageOptionsPanel::invertsWhereAWindowHasTheControls_data()
 {
-    // controls: Kshl
-    // negative: what is written
+    // controls: Kshl; negative: what is written
     const Table<QList<std::int32_t>, bool, bool> row{"controls", "negative", "mirror"};
 
     row("none", QList<std::int32_t>(), false, false);

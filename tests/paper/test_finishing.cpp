@@ -90,8 +90,7 @@ void TestFinishing::offersWhatIsInstalled()
 
 void TestFinishing::followsTheMenu_data()
 {
-    // plain: from two staples, four holes and a C-fold
-    // booklet: from a stapled booklet
+    // plain: from two staples, four holes and a C-fold; booklet: from a stapled booklet
     const Table<OSType, std::int32_t, QString, QString> table{"command", "value", "plain",
                                                               "booklet"};
 

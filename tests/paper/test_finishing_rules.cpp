@@ -58,7 +58,7 @@ private slots:
 
 void TestFinishingRules::offsetsAndSubsetsKeepTogether_data()
 {
-    // offset: -1: the switch instead
+    // offset -1: the switch instead
     const Table<OffsetSettings, int, bool, OffsetSettings, bool> row{"before", "offset", "switchOn",
                                                                      "after", "switchEnabled"};
 
@@ -216,8 +216,7 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
 
 void TestFinishingRules::picturesShowWhatComesOut_data()
 {
-    // choice: place in the pop-up
-    // staple: before
+    // choice: place in the pop-up; staple: before
     const Table<Kind, int, int, int, QString> row{"kind", "choice", "staple", "punch", "picture"};
 
     row("two holes alone", Kind::HolePunch, 1, 1, 1, "OfficeFinishing_2Hp.gif");

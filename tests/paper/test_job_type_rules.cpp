@@ -116,8 +116,7 @@ void TestJobTypeRules::delayedJobsPrintWithinADay()
 
 void TestJobTypeRules::locationsAreMailboxes_data()
 {
-    // location: null: none
-    // mailbox: 0: none
+    // location null: none; mailbox 0: none
     const Table<QString, int> row{"location", "mailbox"};
 
     row("first", "file:///job-repository/1", 1);
@@ -146,7 +145,7 @@ void TestJobTypeRules::locationsAreMailboxes()
 
 void TestJobTypeRules::typedNumbersAreMailboxes_data()
 {
-    // mailbox: 0: none
+    // mailbox 0: none
     const Table<QString, bool, int> row{"number", "isAllowed", "mailbox"};
 
     row("first", "1", true, 1);
@@ -168,7 +167,7 @@ void TestJobTypeRules::typedNumbersAreMailboxes()
 
 void TestJobTypeRules::aLocationElsewhereCanBeChosen_data()
 {
-    // location: null: none
+    // location null: none
     const Table<QString, QString, QString, QString, QString> row{"location", "elsewhere", "shown",
                                                                  "typed", "after"};
 

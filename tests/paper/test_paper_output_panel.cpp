@@ -187,8 +187,7 @@ void TestPaperOutputPanel::opensAgainAfterItWasClosed()
 
 void TestPaperOutputPanel::offersWhatTheDeviceCanDo_data()
 {
-    // option: and another default for it, in the full device's PPD
-    // offered: choices of the PPD
+    // option: and another default for it, in the full device's PPD; offered: choices of the PPD
     const Table<QString, QString, std::int32_t, QString> row{"option", "choice", "popup",
                                                              "offered"};
 

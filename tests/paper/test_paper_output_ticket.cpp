@@ -116,8 +116,7 @@ void TestPaperOutputTicket::letsTheTicketsChoicesRuleTheStock()
 
 void TestPaperOutputTicket::keepsWhatOnlyAStockCanSay_data()
 {
-    // color: of the stock
-    // choices: of the ticket
+    // color: of the stock; choices: of the ticket
     const Table<std::int32_t, std::int32_t, PPDDictionary, std::int32_t, std::int32_t> row{
         "color", "type", "choices", "readColor", "readType"};
 

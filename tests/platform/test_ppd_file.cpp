@@ -183,8 +183,7 @@ void TestPpdFile::namesConflicts()
 
 void TestPpdFile::readsTextsInTheirEncoding_data()
 {
-    // encoding: as the PPD's line says it
-    // text: of the bytes D0 DD DE F0 FD FE E7
+    // encoding: as the PPD's line says it; text: of the bytes D0 DD DE F0 FD FE E7
     const Table<QByteArray, QString> row{"encoding", "text"};
     row("Latin 1", "ISOLatin1", u"ÐÝÞðýþç"_s);
     row("Latin 2", "ISOLatin2", u"ĐÝŢđýţç"_s);

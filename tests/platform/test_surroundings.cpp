@@ -129,8 +129,7 @@ void TestSurroundings::fillsPlaceHoldersAtOnce()
 
 void TestSurroundings::findsTheDefaultRoute_data()
 {
-    // routes: interface, destination, gateway, flags, …
-    // interface: empty: none
+    // routes: interface, destination, gateway, flags, …; interface empty: none
     const Table<QByteArray, QByteArray> row{"routes", "interface"};
     const QByteArray header =
         "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n";

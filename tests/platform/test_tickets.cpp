@@ -155,7 +155,7 @@ void TestTickets::keepsWhatItDoesNotKnow()
 
 void TestTickets::refusesOtherLists_data()
 {
-    // value: invalid: the key is taken out
+    // value invalid: the key is taken out
     const Table<QString, QVariant, Code, QString> table{"name", "value", "code", "where"};
     const auto row = [&](const char *title, const char *name, const QVariant &value, Code code,
                          const char *where) {

@@ -165,8 +165,7 @@ void TestDevice::readsTextsAndDefaults()
 
 void TestDevice::takesTheTicketsChoiceBeforeTheDefault_data()
 {
-    // ticketChoice: empty: none
-    // value: 99: left alone
+    // ticketChoice empty: none; value 99: left alone
     const Table<QString, QString, int> row{"keyword", "ticketChoice", "value"};
 
     row("in the ticket", "Duplex", "DuplexTumble", 3);

@@ -156,7 +156,7 @@ void TestSettingMaps::everyKeyHasAText()
 
 void TestSettingMaps::findsRowsByValue_data()
 {
-    // key: empty: none
+    // key empty: none
     const Table<MapRef, int, int, QString> row{"map", "value", "row", "key"};
 
     row("first row of 0 answers for all", MapRef(OutputOptionsMap), 1, 1, "Face Down");

@@ -271,8 +271,7 @@ void TestCovers::writesSources()
 
 void TestCovers::readsSources_data()
 {
-    // front: choices
-    // sources: front and back
+    // front: choices; sources: front and back
     const Table<bool, QString, QString, QString> row{"booklet", "front", "back", "sources"};
 
     row("none", false, "None", "None", "- -");

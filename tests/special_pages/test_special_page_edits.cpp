@@ -127,7 +127,7 @@ void TestSpecialPageEdits::exceptionsComeOfWhatIsTyped()
 
 void TestSpecialPageEdits::editingShowsWhereThePageIs_data()
 {
-    // insert: empty: before page 1
+    // insert empty: before page 1
     const Table<std::int32_t, std::int32_t, QString, QString> row{"first", "last", "insert",
                                                                   "exception"};
 

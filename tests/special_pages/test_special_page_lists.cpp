@@ -366,8 +366,7 @@ void TestSpecialPageLists::aPageStaysWhereItsReplacementsFail()
 
 void TestSpecialPageLists::laterExceptionsWin_data()
 {
-    // old: plex 1 and so on, in one batch
-    // added: plex 11 and so on
+    // old: plex 1 and so on, in one batch; added: plex 11 and so on
     const Table<QString, QString, QString> row{"old", "added", "result"};
 
     row("inside", "1-10", "5-8", "1-4:1 5-8:11 9-10:1");

@@ -205,7 +205,7 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
 // A name that no ticket could hold is no reason not to print.
 void TestSecretStories::printsUnderAnyName_data()
 {
-    // title: empty: none is given
+    // title empty: none is given
     const Table<QByteArray, QByteArray, QString> row{"file", "title", "printed"};
     row("bytes that are no UTF-8", "Gr\xfc\xdf\x65.pdf", {},
         "Gr\xef\xbf\xbd\xef\xbf\xbd"

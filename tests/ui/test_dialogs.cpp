@@ -167,7 +167,7 @@ void TestDialogs::nestedDialogsAreTheFrontWindowInTurn()
 
 void TestDialogs::anAlertAnswersWithItsButton_data()
 {
-    // pressed: 0: Escape, -1: Return
+    // pressed 0: Escape, -1: Return
     const Table<QStringList, int, int> row{"buttons", "pressed", "answer"};
     const QStringList two{"Delete", "Cancel"};
     const QStringList three{"Save", "Cancel", "Do Not Save"};

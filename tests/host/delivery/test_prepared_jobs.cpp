@@ -132,8 +132,7 @@ void TestPreparedJobs::carryTheTicketWhoseHashTheyName()
 // needs, with OLD for the ticket's entry and STREAM for what is in it.
 void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
 {
-    // catalog: entries
-    // objects: from number 4
+    // catalog: entries; objects: from number 4
     const Table<QByteArray, QByteArray, QList<QByteArray>> row{"catalog", "page", "objects"};
 
     const QByteArray stream = "<< /Type /EmbeddedFile /Length 6 >>\nstream\nsecret\nendstream";

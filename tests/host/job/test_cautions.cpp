@@ -34,7 +34,7 @@ private slots:
 void TestCautions::saysWhyAPrinterDoesNotPrint_data()
 {
     using enum PrinterCondition::State;
-    // weight: -1: nothing is to be said
+    // weight -1: nothing is to be said
     const Table<PrinterCondition, int, QString> row{"condition", "weight", "text"};
     const auto condition = [](PrinterCondition::State state, bool accepts, const char *message,
                               const QStringList &reasons) {
@@ -72,7 +72,7 @@ void TestCautions::saysWhyAPrinterDoesNotPrint()
 
 void TestCautions::numbersThePagesThatAreCut_data()
 {
-    // begin: empty: nothing is to be said
+    // begin empty: nothing is to be said
     const Table<QList<int>, QString> row{"pages", "begin"};
     QList<int> many;
     for (int page = 1; page < 40; page += 2)

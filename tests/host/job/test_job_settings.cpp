@@ -113,7 +113,7 @@ void TestJobSettings::leaveLockedEntriesAlone()
 
 void TestJobSettings::knowPaperSizes_data()
 {
-    // points: invalid: no such paper
+    // points invalid: no such paper
     const Table<QString, QSizeF> row{"name", "points"};
     row("of the PPD", "Legal", QSizeF(612, 1008));
     row("points", "Custom.252x360", QSizeF(252, 360));
