@@ -24,6 +24,7 @@ private slots:
     void saysWhatWillBeMissing();
     void keepsWhatWasSetLast_data();
     void keepsWhatWasSetLast();
+    void letsAnOptionBeatATicket();
 };
 
 namespace {
@@ -184,6 +185,20 @@ void TestPanelStories::keepsWhatWasSetLast()
             ("tab 2\n" + first + last + "click @fix\nexpect @fix visible false\nprint\n").toUtf8());
     QENDED(desk.run({"--demo", "--no-window", "--script", "fix.kps", "--to", "out"}), 0);
     QCOMPARE(optionsIn(desk.path("out/options")).values(kept), QStringList(choice));
+}
+
+// Also what the panels' own entries of the ticket repeat of it.
+void TestPanelStories::letsAnOptionBeatATicket()
+{
+    const Desk desk;
+    putFile(desk.path("two.kps"), "tab 1\nchoose @twoSided key Duplex\nprint\n");
+    const QStringList arguments{"--demo", "--no-window"};
+    QENDED(desk.run(arguments + QStringList{"--script", "two.kps", "--to", "first"}), 0);
+    QENDED(desk.run(arguments
+                    + QStringList{"--ticket-in", "first/ticket.plist", "-o", "Duplex=None", "--to",
+                                  "second"}),
+           0);
+    QCOMPARE(optionsIn(desk.path("second/options")).values("Duplex"), QStringList("None"));
 }
 
 QTEST_GUILESS_MAIN(TestPanelStories)

@@ -27,6 +27,7 @@ public:
     QStringList calls;
     QString note;
     QString loadProblem;     // why they cannot be loaded
+    QString beginProblem;    // why they cannot begin
     PPDDictionary insistsOn; // choices that they write whatever is read
 
     Result<void> load() override
@@ -39,6 +40,8 @@ public:
     Result<void> begin(PrintSession &tickets) override
     {
         calls << QStringLiteral("begin");
+        if (!beginProblem.isEmpty())
+            return Error{Error::Code::Refused, beginProblem, {}};
         m_tickets = &tickets;
         return {};
     }
