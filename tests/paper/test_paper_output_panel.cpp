@@ -2,8 +2,6 @@
 
 #include "bundle.h"
 #include "files.h"
-#include "inspector.h"
-#include "menu_button.h"
 #include "panel_interface.h"
 #include "popup_button.h"
 #include "sample_ppds.h"

@@ -47,6 +47,11 @@ void TestSpecialPagesPanel::answersAsItsProtocolSays()
     const PanelOperations &call = panel.operations;
     QVERIFY(_specialPagesContext);
     QCOMPARE(_specialPagesContext->title, QStringLiteral("Special Pages"));
+    PrintSession *session = &panel.session.session;
+    QCOMPARE(call.Sync(nullptr, session, kSyncRead), kPMInvalidPDEContext);
+    QCOMPARE(call.Initialize(panel.context, nullptr, nullptr, nullptr, session),
+             kPMInvalidPDEContext);
+
     SummaryArray titles = QStringList("kept"), texts = titles;
     panel.begin();
     QCOMPARE(call.Close(panel.context), noErr);

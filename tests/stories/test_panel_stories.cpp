@@ -4,8 +4,6 @@
 #include "table.h"
 #include "values.h"
 
-#include <QDir>
-#include <QRegularExpression>
 #include <QTest>
 
 using namespace kelvo;

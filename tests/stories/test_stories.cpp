@@ -10,7 +10,6 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QImage>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <poppler-qt6.h>
