@@ -1,8 +1,10 @@
 #include "describe_job.h"
 
+#include "files.h"
 #include "long_date.h"
+#include "sample_ppds.h"
+#include "table.h"
 
-#include <QFile>
 #include <QTest>
 
 #include <algorithm>
@@ -44,7 +46,7 @@ private:
 
 namespace {
 
-const QString fullPpd = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
+const QString fullPpd = samplePpd("full");
 
 QString keyOf(const char *name)
 {
@@ -127,106 +129,99 @@ JobDescription TestDescribeJob::describe(const Ticket &ticket, const PpdFile *pp
 
 void TestDescribeJob::saysWhatIsSet_data()
 {
-    QTest::addColumn<Ticket>("ticket");
-    QTest::addColumn<QStringList>("lines"); // what differs from the device's defaults
+    // lines: what differs from the device's defaults
+    const Table<Ticket, QStringList> row{"ticket", "lines"};
     const qint64 halfPastFive = longDateFrom(QDate(2026, 11, 22), QTime(17, 30));
 
-    QTest::newRow("nothing") << Ticket() << QStringList();
-    QTest::newRow("what panels write by themselves")
-        << ticketOf({{"FinishingOffset", 1},
-                     {"FinishingOptions", 0},
-                     {"FinishingBindValue", 1},
-                     {"FinishingCustom", ""},
-                     {"JobLevelStock", Dictionary{{"Color", 1}, {"Type", 1}, {"Size", 1}}},
-                     {"JobType", Dictionary{{"JobType", 1}, {"DelayedPrintTime", halfPastFive}}},
-                     {"InvertImageOptions", Dictionary{{"MirrorImage", 0}}}})
-        << QStringList();
-    QTest::newRow("a delayed job")
-        << jobTypeOf({{"JobType", 7}, {"DelayedPrintTime", halfPastFive}})
-        << QStringList{"Job type: Delayed print", "Time to print: 17:30"};
-    QTest::newRow("a saved job") << jobTypeOf({{"JobType", 3},
-                                               {"UseJobName", false},
-                                               {"SavedJobName", "Plan"},
-                                               {"SavedJobLocation", "file:///job-repository/17"},
-                                               {"SavedJobFormat", 1},
-                                               {"SaveDisposition", 2}})
-                                 << QStringList{"Job type: Saved job", "Job name: Plan",
-                                                "Mailbox: 17", "Save option: Save and print",
-                                                "File format: TIFF, one file per page"};
-    QTest::newRow("a fax, whatever is fitted")
-        << ticketOf({{"JobType", Dictionary{{"JobType", 5}}},
-                     {"FaxRecipientList", Array{Dictionary(), Dictionary()}}})
-        << QStringList{"Job type: Fax", "Fax recipients: 2"};
-    QTest::newRow("a job type of later days")
-        << jobTypeOf({{"JobType", 42}}) << QStringList{"Job type: 42"};
+    row("nothing", Ticket(), {});
+    row("what panels write by themselves",
+        ticketOf({{"FinishingOffset", 1},
+                  {"FinishingOptions", 0},
+                  {"FinishingBindValue", 1},
+                  {"FinishingCustom", ""},
+                  {"JobLevelStock", Dictionary{{"Color", 1}, {"Type", 1}, {"Size", 1}}},
+                  {"JobType", Dictionary{{"JobType", 1}, {"DelayedPrintTime", halfPastFive}}},
+                  {"InvertImageOptions", Dictionary{{"MirrorImage", 0}}}}),
+        {});
+    row("a delayed job", jobTypeOf({{"JobType", 7}, {"DelayedPrintTime", halfPastFive}}),
+        {"Job type: Delayed print", "Time to print: 17:30"});
+    row("a saved job",
+        jobTypeOf({{"JobType", 3},
+                   {"UseJobName", false},
+                   {"SavedJobName", "Plan"},
+                   {"SavedJobLocation", "file:///job-repository/17"},
+                   {"SavedJobFormat", 1},
+                   {"SaveDisposition", 2}}),
+        {"Job type: Saved job", "Job name: Plan", "Mailbox: 17", "Save option: Save and print",
+         "File format: TIFF, one file per page"});
+    row("a fax, whatever is fitted",
+        ticketOf({{"JobType", Dictionary{{"JobType", 5}}},
+                  {"FaxRecipientList", Array{Dictionary(), Dictionary()}}}),
+        {"Job type: Fax", "Fax recipients: 2"});
+    row("a job type of later days", jobTypeOf({{"JobType", 42}}), {"Job type: 42"});
 
-    QTest::newRow("paper by choices")
-        << ticketOf({}, {{"MediaColor", "Blue"}, {"MediaType", "Transparency"}})
-        << QStringList{"Paper Color: Blue", "Paper Type: Transparency"};
-    QTest::newRow("paper of the user's own")
-        << ticketOf({{"JobLevelStock",
-                      Dictionary{{"Color", 10},
-                                 {"CustomColor", "Salmon"},
-                                 {"Type", 7},
-                                 {"CustomType", "Parchment"},
-                                 {"CustomName", "Deeds"},
-                                 {"Weight", 120}}}})
-        << QStringList{"Paper name: Deeds", "Paper Color: Salmon", "Paper Type: Parchment",
-                       "Paper properties: 120 g/m²"};
-    QTest::newRow("paper without the names of its own")
-        << ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"Type", 7}}}})
-        << QStringList{"Paper Color: Custom color", "Paper Type: Custom type"};
-    QTest::newRow("a stock that choices overrule")
-        << ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}}}},
-                    {{"MediaColor", "Blue"}})
-        << QStringList{"Paper Color: Blue"};
+    row("paper by choices", ticketOf({}, {{"MediaColor", "Blue"}, {"MediaType", "Transparency"}}),
+        {"Paper Color: Blue", "Paper Type: Transparency"});
+    row("paper of the user's own",
+        ticketOf({{"JobLevelStock",
+                   Dictionary{{"Color", 10},
+                              {"CustomColor", "Salmon"},
+                              {"Type", 7},
+                              {"CustomType", "Parchment"},
+                              {"CustomName", "Deeds"},
+                              {"Weight", 120}}}}),
+        {"Paper name: Deeds", "Paper Color: Salmon", "Paper Type: Parchment",
+         "Paper properties: 120 g/m²"});
+    row("paper without the names of its own",
+        ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"Type", 7}}}}),
+        {"Paper Color: Custom color", "Paper Type: Custom type"});
+    row("a stock that choices overrule",
+        ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}}}},
+                 {{"MediaColor", "Blue"}}),
+        {"Paper Color: Blue"});
 
-    QTest::newRow("sides, as panels read them")
-        << ticketOf({{"FinishingDuplex", 2}}, {{"Duplex", "None"}})
-        << QStringList{"Two-Sided Printing: 2-Sided Print"};
-    QTest::newRow("offset subsets") << ticketOf({{"FinishingOffset", 4},
-                                                 {"FinishingOffsetEnableSubset", 1},
-                                                 {"FinishingOffsetPagesPerSubset", 12}})
-                                    << QStringList{"Offset: Between subsets, 12 pages per subset"};
-    QTest::newRow("offset by both panels")
-        << ticketOf({{"FinishingOffset", 3}}, {{"Jog", "EndOfSet"}})
-        << QStringList{"Offset: Between sets", "Request Offset: Offset Each Set"};
-    QTest::newRow("binding and an instruction")
-        << ticketOf({{"FinishingBindValue", 3}, {"FinishingCustom", "Trim\n2 mm"}})
-        << QStringList{"Bind: Right edge", "Finishing instruction: Trim 2 mm"};
-    QTest::newRow("a booklet") << ticketOf({{"BookletLayout", true}, {"Gutter", 36}, {"Creep", 5}})
-                               << QStringList{"Booklet layout: gutter 36 pt, creep 0.5"};
+    row("sides, as panels read them", ticketOf({{"FinishingDuplex", 2}}, {{"Duplex", "None"}}),
+        {"Two-Sided Printing: 2-Sided Print"});
+    row("offset subsets",
+        ticketOf({{"FinishingOffset", 4},
+                  {"FinishingOffsetEnableSubset", 1},
+                  {"FinishingOffsetPagesPerSubset", 12}}),
+        {"Offset: Between subsets, 12 pages per subset"});
+    row("offset by both panels", ticketOf({{"FinishingOffset", 3}}, {{"Jog", "EndOfSet"}}),
+        {"Offset: Between sets", "Request Offset: Offset Each Set"});
+    row("binding and an instruction",
+        ticketOf({{"FinishingBindValue", 3}, {"FinishingCustom", "Trim\n2 mm"}}),
+        {"Bind: Right edge", "Finishing instruction: Trim 2 mm"});
+    row("a booklet", ticketOf({{"BookletLayout", true}, {"Gutter", 36}, {"Creep", 5}}),
+        {"Booklet layout: gutter 36 pt, creep 0.5"});
 
-    QTest::newRow("a booklet beyond its dialog")
-        << ticketOf({{"BookletLayout", true}, {"Gutter", -9}, {"Creep", 2'000'000'000}})
-        << QStringList{"Booklet layout: gutter 0 pt, creep 1"};
-    QTest::newRow("values of later days")
-        << ticketOf({{"FinishingOffset", 77}, {"FinishingBindValue", 99}})
-        << QStringList{"Offset: 77", "Bind: 99"};
-    QTest::newRow("the printer's own lightness") << ticketOf({{"PrinterDefaultLightness", true}})
-                                                 << QStringList{"Lighten/Darken: Printer default"};
-    QTest::newRow("inverted") << ticketOf(
-        {{"InvertImageOptions", Dictionary{{"MirrorImage", 1}, {"NegativeImage", 1}}}})
-                              << QStringList{"Invert image: Mirror image",
-                                             "Invert image: Negative image"};
-    QTest::newRow("special pages")
-        << pagesOf(Array{insert(1, 1), insert(0, 30)},
-                   Array{exception(5, 8, 2), exception(12, 12), exception(5, 0), "?"},
-                   {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}})
-        << QStringList{"Front Cover Source: Tray 1",
-                       "Inserts: after page 1 (Sheets [1]), before page 1 (Sheets [30])",
-                       "Exception pages: 5–8 (2-sided print), 12 (Use job setting),"
-                       " 5 (Covers no page), ?"};
+    row("a booklet beyond its dialog",
+        ticketOf({{"BookletLayout", true}, {"Gutter", -9}, {"Creep", 2'000'000'000}}),
+        {"Booklet layout: gutter 0 pt, creep 1"});
+    row("values of later days", ticketOf({{"FinishingOffset", 77}, {"FinishingBindValue", 99}}),
+        {"Offset: 77", "Bind: 99"});
+    row("the printer's own lightness", ticketOf({{"PrinterDefaultLightness", true}}),
+        {"Lighten/Darken: Printer default"});
+    row("inverted",
+        ticketOf({{"InvertImageOptions", Dictionary{{"MirrorImage", 1}, {"NegativeImage", 1}}}}),
+        {"Invert image: Mirror image", "Invert image: Negative image"});
+    row("special pages",
+        pagesOf(Array{insert(1, 1), insert(0, 30)},
+                Array{exception(5, 8, 2), exception(12, 12), exception(5, 0), "?"},
+                {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}}),
+        {"Front Cover Source: Tray 1",
+         "Inserts: after page 1 (Sheets [1]), before page 1 (Sheets [30])",
+         "Exception pages: 5–8 (2-sided print), 12 (Use job setting),"
+         " 5 (Covers no page), ?"});
 }
 
 void TestDescribeJob::saysWhatIsSet()
 {
     QFETCH(Ticket, ticket);
-    QFETCH(QStringList, lines);
 
     const JobDescription description = describe(ticket, m_ppd.get());
 
-    QCOMPARE(linesOf(description, false), lines);
+    QTEST(linesOf(description, false), "lines");
     // Every entry is spoken for.
     for (const auto &[key, entry] : ticket.entries) {
         const auto isAt = [&key = key](const TicketPlace &place) { return place[1] == key; };
@@ -258,9 +253,9 @@ void TestDescribeJob::saysWhatTheDeviceDoes()
 
 void TestDescribeJob::namesWhereItIsSet()
 {
-    QFile list(QStringLiteral(KELVO_SOURCE_DIR "/docs/controls.md"));
-    QVERIFY(list.open(QIODevice::ReadOnly));
-    const QString controls = QString::fromUtf8(list.readAll());
+    const QString controls =
+        QString::fromUtf8(bytesOf(QStringLiteral(KELVO_SOURCE_DIR "/docs/controls.md")));
+    QVERIFY(!controls.isEmpty());
     const auto everything = pagesOf(Array{insert(1, 1)}, {});
     for (const DescribedSetting &setting : describe(everything, m_ppd.get()).settings) {
         // Panels have a window of their name.
@@ -295,46 +290,45 @@ void TestDescribeJob::keepsSecrets()
 
 void TestDescribeJob::findsSpecialSheets_data()
 {
-    QTest::addColumn<Ticket>("ticket");
-    QTest::addColumn<SpecialSheets>("sheets");
+    const Table<Ticket, SpecialSheets> row{"ticket", "sheets"};
     constexpr int most = std::numeric_limits<int>::max();
     const PPDDictionary none{{"KVFrontCoverSheet", "None"}, {"KVBackCoverSheet", "None"}};
 
-    QTest::newRow("nothing is chosen") << Ticket() << SpecialSheets{Cover::Unsaid, Cover::Unsaid};
-    QTest::newRow("a front cover")
-        << pagesOf({}, {}, {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}})
-        << SpecialSheets{Cover::Sheet, Cover::None};
-    QTest::newRow("a cover from a tray that is not there")
-        << pagesOf({}, {}, {{"KVFrontCoverSheet", "None"}, {"KVBackCoverSheet", "Tray99"}})
-        << SpecialSheets();
-    QTest::newRow("lists") << pagesOf(Array{insert(3, 2), insert(0, 1), insert(3, 1)},
-                                      Array{exception(5, 8, 1), exception(9, 9, 3),
-                                            exception(12, 99999), exception(100000, 100001, 7)},
-                                      none)
-                           << SpecialSheets{.inserts = {{0, 1}, {3, 2}, {3, 1}},
-                                            .exceptions = {{5, 8, false},
-                                                           {9, 9, true},
-                                                           {12, 99999, {}},
-                                                           {100000, 100001, {}}}};
-    QTest::newRow("inserts that are none")
-        << pagesOf(Array{insert(2, 0), insert(2, -5), "2", QVariant()}, "none", none)
-        << SpecialSheets();
-    QTest::newRow("inserts whose page is before page 1, as the panel reads them")
-        << pagesOf(Array{insert(-5, 1), insert("2", 2), insert(qint64(1) << 40, 3)}, {}, none)
-        << SpecialSheets{.inserts = {{0, 1}, {0, 2}, {0, 3}}};
-    QTest::newRow("inserts brought within bounds")
-        << pagesOf(Array{insert(1, 10000), insert(most, most), Dictionary{{"StartPage", 2}}}, {},
-                   none)
-        << SpecialSheets{.inserts = {{1, 9999}, {2, 1}, {most, 9999}}};
-    QTest::newRow("exceptions that are none") << pagesOf(
-        {}, Array{exception(-5, 0), exception(5, 4), exception(3, "4"), Dictionary()}, none)
-                                              << SpecialSheets();
-    QTest::newRow("exceptions that begin before page 1")
-        << pagesOf({}, Array{exception(0, 3), exception({}, 5), exception(5, 6)}, none)
-        << SpecialSheets{.exceptions = {{1, 3, {}}, {5, 6, {}}}};
-    QTest::newRow("exceptions that overlap")
-        << pagesOf({}, Array{exception(4, most), exception(1, 4), exception(9, 9)}, none)
-        << SpecialSheets{.exceptions = {{1, 4, {}}, {9, 9, {}}}};
+    row("nothing is chosen", Ticket(), SpecialSheets{Cover::Unsaid, Cover::Unsaid});
+    row("a front cover",
+        pagesOf({}, {}, {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}}),
+        SpecialSheets{Cover::Sheet, Cover::None});
+    row("a cover from a tray that is not there",
+        pagesOf({}, {}, {{"KVFrontCoverSheet", "None"}, {"KVBackCoverSheet", "Tray99"}}),
+        SpecialSheets());
+    row("lists",
+        pagesOf(Array{insert(3, 2), insert(0, 1), insert(3, 1)},
+                Array{exception(5, 8, 1), exception(9, 9, 3), exception(12, 99999),
+                      exception(100000, 100001, 7)},
+                none),
+        SpecialSheets{
+            .inserts = {{0, 1}, {3, 2}, {3, 1}},
+            .exceptions = {{5, 8, false}, {9, 9, true}, {12, 99999, {}}, {100000, 100001, {}}}});
+    row("inserts that are none",
+        pagesOf(Array{insert(2, 0), insert(2, -5), "2", QVariant()}, "none", none),
+        SpecialSheets());
+    row("inserts whose page is before page 1, as the panel reads them",
+        pagesOf(Array{insert(-5, 1), insert("2", 2), insert(qint64(1) << 40, 3)}, {}, none),
+        SpecialSheets{.inserts = {{0, 1}, {0, 2}, {0, 3}}});
+    row("inserts brought within bounds",
+        pagesOf(Array{insert(1, 10000), insert(most, most), Dictionary{{"StartPage", 2}}}, {},
+                none),
+        SpecialSheets{.inserts = {{1, 9999}, {2, 1}, {most, 9999}}});
+    row("exceptions that are none",
+        pagesOf({}, Array{exception(-5, 0), exception(5, 4), exception(3, "4"), Dictionary()},
+                none),
+        SpecialSheets());
+    row("exceptions that begin before page 1",
+        pagesOf({}, Array{exception(0, 3), exception({}, 5), exception(5, 6)}, none),
+        SpecialSheets{.exceptions = {{1, 3, {}}, {5, 6, {}}}});
+    row("exceptions that overlap",
+        pagesOf({}, Array{exception(4, most), exception(1, 4), exception(9, 9)}, none),
+        SpecialSheets{.exceptions = {{1, 4, {}}, {9, 9, {}}}});
 }
 
 void TestDescribeJob::findsSpecialSheets()
@@ -363,7 +357,7 @@ void TestDescribeJob::readsListsAgainWhenTheyChange()
 
 void TestDescribeJob::findsNothingOnOtherDevices()
 {
-    const auto other = PpdFile::open(QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd"));
+    const auto other = PpdFile::open(ppdWithoutTicket());
     QVERIFY(other);
     Ticket ticket = pagesOf(Array{insert(1, 1)}, Array{exception(1, 1)},
                             {{"KVFrontCoverSheet", "Tray1"}, {"Duplex", "DuplexTumble"}});

@@ -1,4 +1,6 @@
 #include "kelvo_print.h"
+#include "sample_ppds.h"
+#include "table.h"
 
 #include <QDir>
 #include <QTest>
@@ -40,27 +42,20 @@ QString withoutDescription(Desk &desk, const QString &window)
 
 void TestDialogScripts::goesAsWritten_data()
 {
-    QTest::addColumn<QString>("path");
+    const Table<QString> row{"path"};
     const QDir folder(QStringLiteral(KELVO_SOURCE_DIR "/tests/dialogs"));
     for (const QFileInfo &script : folder.entryInfoList({"*.kps"}))
-        QTest::newRow(qPrintable(script.completeBaseName())) << script.filePath();
+        row(qPrintable(script.completeBaseName()), script.filePath());
 }
 
 void TestDialogScripts::goesAsWritten()
 {
     QFETCH(QString, path);
-    const QString first = QString::fromUtf8(contents(path).split('\n').first());
+    const QString first = QString::fromUtf8(bytesOf(path).split('\n').first());
     const QStringList words = first.section(u':', 0, 0).split(u' ');
     QVERIFY2(words.size() >= 3 && words.first() == "#", qPrintable(first));
-    QStringList arguments{
-        "--no-window",
-        "--script",
-        path,
-        "--to",
-        "out",
-        documentPath,
-        "--ppd",
-        QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(words[1])};
+    QStringList arguments{"--no-window", "--script",   path,    "--to",
+                          "out",         documentPath, "--ppd", samplePpd(words[1])};
     if (words.size() > 3)
         arguments << "--ticket-in" << QFileInfo(path).dir().filePath(words[3]);
     Desk desk;
@@ -74,24 +69,25 @@ void TestDialogScripts::aLibraryThatCannotBeKeptNamesItsFile()
 {
     Desk desk;
     desk.set(QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("/dev/null"));
-    write(desk.path("s.kps"),
-          "tab 1\nitem @stockButton 'Sadv'\nclick @saveInLibrary\ntype @libraryStockName \"Card\"\n"
-          "click @okButton\n"
-          "expect-notice \"/dev/null/kelvo/com.kelvo.print.stocks.plist\"\nanswer 1\n"
-          "cancel\ncancel\n");
+    putFile(
+        desk.path("s.kps"),
+        "tab 1\nitem @stockButton 'Sadv'\nclick @saveInLibrary\ntype @libraryStockName \"Card\"\n"
+        "click @okButton\n"
+        "expect-notice \"/dev/null/kelvo/com.kelvo.print.stocks.plist\"\nanswer 1\n"
+        "cancel\ncancel\n");
     QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
 }
 
 // Every window that a button of the panels opens.
 void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
 {
-    QTest::addColumn<QByteArray>("lines"); // that open it
-    QTest::addColumn<int>("open");         // dialogs behind it
+    // lines: that open it; open: dialogs behind it
+    const Table<QByteArray, int> table{"lines", "open"};
     const QByteArray advanced = "item @stockButton 'Sadv'\n";
     const QByteArray insert = "panel SpecialPages\nclick @addInserts\n";
     const QByteArray exception = "panel SpecialPages\nclick @addExceptions\n";
-    const auto row = [](const char *window, const QByteArray &lines, int open = 0) {
-        QTest::newRow(window) << lines << open;
+    const auto row = [&](const char *window, const QByteArray &lines, int open = 0) {
+        table(window, lines, open);
     };
     row("JobTypes/SecurePrint", "choose @jobType key SecurePrint");
     row("JobTypes/DelayedPrint", "choose @jobType key DelayedPrint");
@@ -127,10 +123,10 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
           {"<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"/></ui>",
            "lacks controls that the window needs: KPDE "}}) {
         if (*damage)
-            write(description, damage);
-        write(desk.path("s.kps"),
-              lines + "\nexpect-notice \"" + window + "\"\nexpect-notice \"" + reason
-                  + "\"\nanswer 1\n" + QByteArray("cancel\n").repeated(open));
+            putFile(description, damage);
+        putFile(desk.path("s.kps"),
+                lines + "\nexpect-notice \"" + window + "\"\nexpect-notice \"" + reason
+                    + "\"\nanswer 1\n" + QByteArray("cancel\n").repeated(open));
         QENDED(desk.run({"--demo", "--no-window", "--script", "s.kps"}), 0);
     }
 }
@@ -138,18 +134,16 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
 // On standard output, as dialogs have always read it.
 void TestDialogScripts::aPanelThatCannotBeMadeSaysSo_data()
 {
-    QTest::addColumn<QByteArray>("description"); // null: none
-    QTest::addColumn<QString>("message");
+    // description null: none
+    const Table<QByteArray, QString> row{"description", "message"};
     const QByteArray empty = "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\">";
     const QByteArray pane = "<property name=\"controlID\" stdset=\"0\"><string "
                             "notr=\"true\">KPDE 1</string></property>";
     const QByteArray end = "</widget></ui>";
-    QTest::newRow("no description") << QByteArray() << "!! Failed to load nib from bundle.\n";
-    QTest::newRow("a damaged one") << QByteArray("<ui") << "!! Failed to create window from nib.\n";
-    QTest::newRow("one without the pane")
-        << empty + end << "!! Failed to get user pane control reference.\n";
-    QTest::newRow("one with an empty pane")
-        << empty + pane + end << "!! Failed to get control reference.\n";
+    row("no description", {}, "!! Failed to load nib from bundle.\n");
+    row("a damaged one", "<ui", "!! Failed to create window from nib.\n");
+    row("one without the pane", empty + end, "!! Failed to get user pane control reference.\n");
+    row("one with an empty pane", empty + pane + end, "!! Failed to get control reference.\n");
 }
 
 void TestDialogScripts::aPanelThatCannotBeMadeSaysSo()
@@ -159,9 +153,9 @@ void TestDialogScripts::aPanelThatCannotBeMadeSaysSo()
     Desk desk;
     const QString path = withoutDescription(desk, "SpecialPages/SpecialPages");
     if (!description.isNull())
-        write(path, description);
+        putFile(path, description);
     // It goes on without that panel.
-    write(desk.path("s.kps"), "panel SpecialPages\nshow @panelNotMade\nprint\n");
+    putFile(desk.path("s.kps"), "panel SpecialPages\nshow @panelNotMade\nprint\n");
     const Run run = desk.run({"--demo", "--no-window", "--script", "s.kps", "--to", "out"});
     QENDED(run, 0);
     QVERIFY2(run.out.contains(message), qPrintable(run.out));

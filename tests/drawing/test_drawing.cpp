@@ -1,6 +1,7 @@
 #include "drawing.h"
 #include "files.h"
 #include "library_entry.h"
+#include "table.h"
 
 #include <QImage>
 #include <QLibrary>
@@ -131,15 +132,14 @@ void TestDrawing::measuresInPointsFromTheBaseline()
 
 void TestDrawing::measuresWhatIsDrawn_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("angle");
-    QTest::addColumn<QString>("font"); // its file's PostScript name
-    QTest::newRow("on the baseline") << u"H"_s << 0.0 << u"LiberationSans"_s;
-    QTest::newRow("below it") << u"jg"_s << 0.0 << u"LiberationSans-BoldItalic"_s;
-    QTest::newRow("two lines") << u"H\nH"_s << 0.0 << u"DejaVuSans"_s;
-    QTest::newRow("a quarter to the left") << u"Hg"_s << 90.0 << u"DejaVuSans-Bold"_s;
-    QTest::newRow("a quarter to the right") << u"Hg"_s << -90.0 << u"DejaVuSansMono"_s;
-    QTest::newRow("an eighth") << u"HgHg"_s << 45.0 << u"LiberationSans"_s;
+    // font: its file's PostScript name
+    const Table<QString, double, QString> row{"text", "angle", "font"};
+    row("on the baseline", u"H"_s, 0.0, u"LiberationSans"_s);
+    row("below it", u"jg"_s, 0.0, u"LiberationSans-BoldItalic"_s);
+    row("two lines", u"H\nH"_s, 0.0, u"DejaVuSans"_s);
+    row("a quarter to the left", u"Hg"_s, 90.0, u"DejaVuSans-Bold"_s);
+    row("a quarter to the right", u"Hg"_s, -90.0, u"DejaVuSansMono"_s);
+    row("an eighth", u"HgHg"_s, 45.0, u"LiberationSans"_s);
 }
 
 void TestDrawing::measuresWhatIsDrawn()

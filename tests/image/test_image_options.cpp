@@ -4,6 +4,7 @@
 #include "image_options_summary.h"
 #include "image_shift.h"
 #include "picture_view.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -64,25 +65,19 @@ private slots:
 
 void TestImageOptions::writesAShiftAndReadsItAgain_data()
 {
-    QTest::addColumn<_IS_Options>("options");
-    QTest::addColumn<Dictionary>("written");
-    QTest::addColumn<_IS_Options>("read");
+    const Table<_IS_Options, Dictionary, _IS_Options> row{"options", "written", "read"};
 
-    QTest::newRow("inches") << shift(true, 100, 0, -100, 72)
-                            << shiftDictionary(1, 2540, 0, -2540, 1829)
-                            << shift(true, 100, 0, -100, 72);
+    row("inches", shift(true, 100, 0, -100, 72), shiftDictionary(1, 2540, 0, -2540, 1829),
+        shift(true, 100, 0, -100, 72));
     // 25.4 rounds to 25, and 25 is less than an inch.
-    QTest::newRow("inches that lose their fraction")
-        << shift(true, 1, -1, 3, 2) << shiftDictionary(1, 25, -25, 76, 51)
-        << shift(true, 0, 0, 2, 2);
-    QTest::newRow("millimetres") << shift(false, 7, -3, 0, 1000)
-                                 << shiftDictionary(0, 70, -30, 0, 10000)
-                                 << shift(false, 7, -3, 0, 1000);
+    row("inches that lose their fraction", shift(true, 1, -1, 3, 2),
+        shiftDictionary(1, 25, -25, 76, 51), shift(true, 0, 0, 2, 2));
+    row("millimetres", shift(false, 7, -3, 0, 1000), shiftDictionary(0, 70, -30, 0, 10000),
+        shift(false, 7, -3, 0, 1000));
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    QTest::newRow("beyond 32 bits when written")
-        << shift(false, most, -most, 0, 0)
-        << shiftDictionary(0, 10 * qint64(most), -10 * qint64(most), 0, 0)
-        << shift(false, most, -most, 0, 0);
+    row("beyond 32 bits when written", shift(false, most, -most, 0, 0),
+        shiftDictionary(0, 10 * qint64(most), -10 * qint64(most), 0, 0),
+        shift(false, most, -most, 0, 0));
 }
 
 void TestImageOptions::writesAShiftAndReadsItAgain()
@@ -101,28 +96,20 @@ void TestImageOptions::writesAShiftAndReadsItAgain()
 
 void TestImageOptions::readsAShiftAsItFindsIt_data()
 {
-    QTest::addColumn<Dictionary>("dictionary");
-    QTest::addColumn<_IS_Options>("read");
+    const Table<Dictionary, _IS_Options> row{"dictionary", "read"};
 
     _IS_Options none = shift(true, 0, 0, 0, 0);
     none.option = kUnset;
     const _IS_Options asItStands = shift(true, 2540, 0, 0, -3);
-    QTest::newRow("missing keys") << Dictionary() << none;
-    QTest::newRow("without full precision")
-        << Dictionary{{"Option", 1}, {"X1", 2540}, {"Y2", -3}} << asItStands;
-    QTest::newRow("full precision that is false")
-        << Dictionary{{"Option", 1}, {"FullPrecision", false}, {"X1", 2540}, {"Y2", -3}}
-        << asItStands;
-    QTest::newRow("negative tenths of a millimetre") << Dictionary{{"Option", 1},
-                                                                   {"Inches", 0},
-                                                                   {"FullPrecision", true},
-                                                                   {"X1", -19},
-                                                                   {"Y1", 19}}
-                                                     << shift(false, -1, 0, 1, 0);
-    QTest::newRow("other types") << Dictionary{{"Option", "1"}, {"Inches", "0"}, {"X1", 2.5}}
-                                 << none;
-    QTest::newRow("too large") << Dictionary{{"Option", 1}, {"X1", qint64(1) << 40}}
-                               << shift(true, 0, 0, 0, 0);
+    row("missing keys", {}, none);
+    row("without full precision", {{"Option", 1}, {"X1", 2540}, {"Y2", -3}}, asItStands);
+    row("full precision that is false",
+        {{"Option", 1}, {"FullPrecision", false}, {"X1", 2540}, {"Y2", -3}}, asItStands);
+    row("negative tenths of a millimetre",
+        {{"Option", 1}, {"Inches", 0}, {"FullPrecision", true}, {"X1", -19}, {"Y1", 19}},
+        shift(false, -1, 0, 1, 0));
+    row("other types", {{"Option", "1"}, {"Inches", "0"}, {"X1", 2.5}}, none);
+    row("too large", {{"Option", 1}, {"X1", qint64(1) << 40}}, shift(true, 0, 0, 0, 0));
 }
 
 void TestImageOptions::readsAShiftAsItFindsIt()
@@ -148,15 +135,12 @@ void TestImageOptions::writesNoShiftThatIsNotSet()
 
 void TestImageOptions::readsAnInvertedImage_data()
 {
-    QTest::addColumn<Dictionary>("dictionary");
-    QTest::addColumn<bool>("negative");
-    QTest::addColumn<bool>("mirror");
+    const Table<Dictionary, bool, bool> row{"dictionary", "negative", "mirror"};
 
-    QTest::newRow("nothing") << Dictionary() << false << false;
-    QTest::newRow("one") << Dictionary{{"NegativeImage", 1}} << true << false;
-    QTest::newRow("both") << Dictionary{{"NegativeImage", 0}, {"MirrorImage", 2}} << false << true;
-    QTest::newRow("no numbers") << Dictionary{{"NegativeImage", true}, {"MirrorImage", "1"}}
-                                << false << false;
+    row("nothing", {}, false, false);
+    row("one", {{"NegativeImage", 1}}, true, false);
+    row("both", {{"NegativeImage", 0}, {"MirrorImage", 2}}, false, true);
+    row("no numbers", {{"NegativeImage", true}, {"MirrorImage", "1"}}, false, false);
 }
 
 void TestImageOptions::readsAnInvertedImage()
@@ -173,25 +157,21 @@ void TestImageOptions::readsAnInvertedImage()
 
 void TestImageOptions::readsChoicesAndDefaults_data()
 {
-    QTest::addColumn<QString>("device");
-    QTest::addColumn<PPDDictionary>("choices");
     // lighten/darken, toner saver, image quality, CMYK source, output correction
-    QTest::addColumn<QList<std::int32_t>>("values");
+    const Table<QString, PPDDictionary, QList<std::int32_t>> row{"device", "choices", "values"};
 
     using Values = QList<std::int32_t>;
-    QTest::newRow("defaults") << "full" << PPDDictionary() << Values{0, 2, 2, 3, 1};
-    QTest::newRow("choices") << "full"
-                             << PPDDictionary{{"KVImageQuality", "Lighten1"},
-                                              {"KVEconomode", "Draft"},
-                                              {"KVOutputMode", "HighResolution"},
-                                              {"KVCMYKColorSpace", "JapanColor"},
-                                              {"KVColorCorrection", "None"}}
-                             << Values{-1, 1, 6, 5, 5};
-    QTest::newRow("unknown choices")
-        << "full" << PPDDictionary{{"KVImageQuality", "Pale"}, {"KVOutputMode", "Best"}}
-        << Values{kUnset, 2, -1, 3, 1};
-    QTest::newRow("what the device lacks")
-        << "bare" << PPDDictionary{{"KVCMYKColorSpace", "SWOP"}} << Values{0, 2, 2, 2, 77};
+    row("defaults", "full", {}, Values{0, 2, 2, 3, 1});
+    row("choices", "full",
+        {{"KVImageQuality", "Lighten1"},
+         {"KVEconomode", "Draft"},
+         {"KVOutputMode", "HighResolution"},
+         {"KVCMYKColorSpace", "JapanColor"},
+         {"KVColorCorrection", "None"}},
+        Values{-1, 1, 6, 5, 5});
+    row("unknown choices", "full", {{"KVImageQuality", "Pale"}, {"KVOutputMode", "Best"}},
+        Values{kUnset, 2, -1, 3, 1});
+    row("what the device lacks", "bare", {{"KVCMYKColorSpace", "SWOP"}}, Values{0, 2, 2, 2, 77});
 }
 
 void TestImageOptions::readsChoicesAndDefaults()

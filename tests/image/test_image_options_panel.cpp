@@ -3,6 +3,7 @@
 #include "image_options_panel.h"
 #include "image_options_view.h"
 #include "invert_image_controls.h"
+#include "table.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
@@ -72,14 +73,13 @@ void TestImageOptionsPanel::answersAsEveryPanel()
 
 void TestImageOptionsPanel::invertsWhereAWindowHasTheControls_data()
 {
-    QTest::addColumn<QList<std::int32_t>>("controls"); // Kshl
-    QTest::addColumn<bool>("negative");                // what is written
-    QTest::addColumn<bool>("mirror");
+    // controls: Kshl; negative: what is written
+    const Table<QList<std::int32_t>, bool, bool> row{"controls", "negative", "mirror"};
 
-    QTest::newRow("none") << QList<std::int32_t>() << false << false;
-    QTest::newRow("mirror") << QList{910, 912} << false << true;
-    QTest::newRow("both") << QList{910, 911, 912} << true << true;
-    QTest::newRow("without group") << QList{911} << true << false;
+    row("none", QList<std::int32_t>(), false, false);
+    row("mirror", QList{910, 912}, false, true);
+    row("both", QList{910, 911, 912}, true, true);
+    row("without group", QList{911}, true, false);
 }
 
 void TestImageOptionsPanel::invertsWhereAWindowHasTheControls()

@@ -5,6 +5,7 @@
 #include "paper_output_pictures.h"
 #include "paper_output_settings.h"
 #include "picture_view.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -58,48 +59,45 @@ private slots:
     void showsWhatComesOut_data();
     void showsWhatComesOut();
     void hasItsPictures();
-    void deliversToWhatIsInstalled_data();
-    void deliversToWhatIsInstalled();
 };
 
 void TestFinishing::offersWhatIsInstalled_data()
 {
-    QTest::addColumn<QString>("commands");
-
-    QTest::newRow("full") << "Stp0 Stp1 Stp2 Stp4 - Hpn2 Hpn3 Hpn4 Hpn0 - Fld0 Bfld Cfld Zfld Zfol "
-                             "- Bkcr";
-    QTest::newRow("mid") << "Stp0 Stp1 - Hpn2 Hpn0 - - Bkcr";
-    QTest::newRow("bare") << "- - - Bkcr";
+    const Table<QString, QString> row{"commands", "bins"};
+    row("full", "Stp0 Stp1 Stp2 Stp4 - Hpn2 Hpn3 Hpn4 Hpn0 - Fld0 Bfld Cfld Zfld Zfol - Bkcr",
+        "Auto PrinterDefault Top Side Middle Middle2 Upper Lower Stacker Booklet EnvFolder SBM");
+    row("mid", "Stp0 Stp1 - Hpn2 Hpn0 - - Bkcr", "Auto Top Side Upper");
+    row("bare", "- - - Bkcr", "Top"); // its catch tray is not installed
 }
 
 void TestFinishing::offersWhatIsInstalled()
 {
-    QFETCH(QString, commands);
     const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
+    Menu finishings, destinations;
+    PopulateFinishingMenu(finishings, currentDevice());
+    PopulateOutputDestination(destinations, currentDevice());
 
-    Menu menu;
-    PopulateFinishingMenu(menu, currentDevice());
-
-    QStringList offered;
-    for (const MenuItem &item : menu.items) {
-        offered << codeText(item.command);
-        QVERIFY2(item.divider || !item.text.isEmpty(), qPrintable(offered.last()));
+    QStringList commands, bins;
+    for (const MenuItem &item : finishings.items) {
+        commands << codeText(item.command);
+        QVERIFY2(item.divider || !item.text.isEmpty(), qPrintable(commands.last()));
     }
-    QCOMPARE(offered.join(u' '), commands);
+    for (const MenuItem &item : destinations.items)
+        bins << item.key;
+    QTEST(commands.join(u' '), "commands");
+    QTEST(bins.join(u' '), "bins");
 }
 
 void TestFinishing::followsTheMenu_data()
 {
-    QTest::addColumn<OSType>("command");
-    QTest::addColumn<std::int32_t>("value");
-    QTest::addColumn<QString>("plain");   // from two staples, four holes and a C-fold
-    QTest::addColumn<QString>("booklet"); // from a stapled booklet
+    // plain: from two staples, four holes and a C-fold; booklet: from a stapled booklet
+    const Table<OSType, std::int32_t, QString, QString> table{"command", "value", "plain",
+                                                              "booklet"};
 
-    const auto row = [](const char *command, std::int32_t value, const char *plain,
-                        const char *booklet) {
+    const auto row = [&](const char *command, std::int32_t value, const char *plain,
+                         const char *booklet) {
         const char code[5] = {command[0], command[1], command[2], command[3], 0};
-        QTest::newRow(command) << fourCharCode(code) << value << QString::fromLatin1(plain)
-                               << QString::fromLatin1(booklet);
+        table(command, fourCharCode(code), value, plain, booklet);
     };
     row("Stp0", 1, "booklet 2 duplex 1 options 9 fold 19 punch 5/32 staples 1,1,1",
         "booklet 2 duplex 2 options 0 fold 1 punch 1/1 staples 1,1,1");
@@ -121,7 +119,6 @@ void TestFinishing::followsTheMenu()
 {
     QFETCH(OSType, command);
     QFETCH(std::int32_t, value);
-    QFETCH(QString, plain);
     QFETCH(QString, booklet);
 
     PaperOutputSettings context;
@@ -131,7 +128,7 @@ void TestFinishing::followsTheMenu()
                          .punchKind = kPunchKindPunched,
                          .dualStaple = kStapleDual};
     QVERIFY(applyFinishingCommand(context, command, value));
-    QCOMPARE(stateOf(context), plain);
+    QTEST(stateOf(context), "plain");
 
     context = {};
     context.booklet = kBookletOn;
@@ -167,19 +164,15 @@ void TestFinishing::staplesAreOfThreeKinds()
 
 void TestFinishing::checksWhatIsChosen_data()
 {
-    QTest::addColumn<std::int32_t>("booklet");
-    QTest::addColumn<Finishing>("finishing");
-    QTest::addColumn<QString>("checked");
+    const Table<std::int32_t, Finishing, QString> row{"booklet", "finishing", "checked"};
 
-    QTest::newRow("nothing") << kBookletOff << Finishing() << "Stp0 Hpn0 Fld0";
-    QTest::newRow("two staples, three holes")
-        << kBookletOff << Finishing{.punch = kPunchThreeHoles, .dualStaple = kStapleDual}
-        << "Stp2 Hpn3 Fld0";
-    QTest::newRow("a staple of another place")
-        << kBookletOff << Finishing{.singleStaple = 6} << "Hpn0 Fld0";
-    QTest::newRow("booklet layout") << kBookletOn << Finishing{.fold = kFoldC} << "Bkcr";
-    QTest::newRow("booklet finishing")
-        << kBookletOff << Finishing{.options = kFinishingBooklet, .fold = kFoldBi} << "Bkcr";
+    row("nothing", kBookletOff, Finishing(), "Stp0 Hpn0 Fld0");
+    row("two staples, three holes", kBookletOff,
+        Finishing{.punch = kPunchThreeHoles, .dualStaple = kStapleDual}, "Stp2 Hpn3 Fld0");
+    row("a staple of another place", kBookletOff, Finishing{.singleStaple = 6}, "Hpn0 Fld0");
+    row("booklet layout", kBookletOn, Finishing{.fold = kFoldC}, "Bkcr");
+    row("booklet finishing", kBookletOff, Finishing{.options = kFinishingBooklet, .fold = kFoldBi},
+        "Bkcr");
 }
 
 void TestFinishing::checksWhatIsChosen()
@@ -207,31 +200,26 @@ void TestFinishing::checksWhatIsChosen()
 
 void TestFinishing::summarizes_data()
 {
-    QTest::addColumn<QString>("device");
-    QTest::addColumn<std::int32_t>("booklet");
-    QTest::addColumn<Finishing>("finishing");
-    QTest::addColumn<QString>("summary");
+    const Table<QString, std::int32_t, Finishing, QString> row{"device", "booklet", "finishing",
+                                                               "summary"};
 
     const QString full = QStringLiteral("full");
-    QTest::newRow("nothing chosen")
-        << full << kBookletOff << Finishing() << "- No staple|- No hole punch|- No fold|";
-    QTest::newRow("multiple staples")
-        << full << kBookletOff << Finishing{.otherStaple = kStapleMultiple}
-        << "- Multiple staples|- No hole punch|- No fold|";
-    QTest::newRow("single before multiple")
-        << full << kBookletOff << Finishing{.singleStaple = 5, .otherStaple = kStapleMultiple}
-        << "- 1 staple|- No hole punch|- No fold|";
-    QTest::newRow("holes and half-sheet fold")
-        << full << kBookletOff << Finishing{.fold = kFoldZHalfSheet, .punch = kPunchTwoHoles}
-        << "- No staple|- 2-hole punch|- Z-fold half sheet|";
-    QTest::newRow("booklet finishing without layout")
-        << full << kBookletOff << Finishing{.options = kFinishingBooklet, .fold = kFoldBiAndStaple}
-        << "- Booklet fold and staple|";
-    QTest::newRow("booklet layout")
-        << full << kBookletOn << Finishing{.fold = kFoldBi} << "- Booklet fold|- Booklet layout|";
-    QTest::newRow("one stapler, no folder")
-        << QStringLiteral("mid") << kBookletOff << Finishing() << "- No staple|- No hole punch|";
-    QTest::newRow("no finisher") << QStringLiteral("bare") << kBookletOff << Finishing() << "";
+    row("nothing chosen", full, kBookletOff, Finishing(), "- No staple|- No hole punch|- No fold|");
+    row("multiple staples", full, kBookletOff, Finishing{.otherStaple = kStapleMultiple},
+        "- Multiple staples|- No hole punch|- No fold|");
+    row("single before multiple", full, kBookletOff,
+        Finishing{.singleStaple = 5, .otherStaple = kStapleMultiple},
+        "- 1 staple|- No hole punch|- No fold|");
+    row("holes and half-sheet fold", full, kBookletOff,
+        Finishing{.fold = kFoldZHalfSheet, .punch = kPunchTwoHoles},
+        "- No staple|- 2-hole punch|- Z-fold half sheet|");
+    row("booklet finishing without layout", full, kBookletOff,
+        Finishing{.options = kFinishingBooklet, .fold = kFoldBiAndStaple},
+        "- Booklet fold and staple|");
+    row("booklet layout", full, kBookletOn, Finishing{.fold = kFoldBi},
+        "- Booklet fold|- Booklet layout|");
+    row("one stapler, no folder", "mid", kBookletOff, Finishing(), "- No staple|- No hole punch|");
+    row("no finisher", "bare", kBookletOff, Finishing(), "");
 }
 
 void TestFinishing::summarizes()
@@ -239,43 +227,35 @@ void TestFinishing::summarizes()
     QFETCH(QString, device);
     QFETCH(std::int32_t, booklet);
     QFETCH(Finishing, finishing);
-    QFETCH(QString, summary);
     const DeviceSession session(device);
     PaperOutputSettings context;
     context.booklet = booklet;
     context.finishing = finishing;
 
-    QCOMPARE(CreateFinishingString(context, currentDevice()).replace(u'\n', u'|'), summary);
+    QTEST(CreateFinishingString(context, currentDevice()).replace(u'\n', u'|'), "summary");
 }
 
 void TestFinishing::placesStaplesAndHolesByOrientation_data()
 {
-    QTest::addColumn<std::int32_t>("value");
-    QTest::addColumn<bool>("isStaple");
-    QTest::addColumn<QString>("choices"); // by orientation; "-": none
+    // choices: by orientation; "-": none
+    const Table<std::int32_t, bool, QString> row{"value", "isStaple", "choices"};
 
-    QTest::newRow("no staple") << 1 << true << "None None DualPortrait SingleLandscape";
-    QTest::newRow("one staple") << 5 << true
-                                << "SinglePortrait SingleLandscape DualPortrait SingleLandscape";
-    QTest::newRow("two staples") << 10 << true
-                                 << "DualPortrait DualLandscape DualPortrait SingleLandscape";
-    QTest::newRow("multiple staples")
-        << 54 << true << "MultipleStaples MultipleStaples DualPortrait SingleLandscape";
-    QTest::newRow("no hole") << 1 << false << "- - - -";
-    QTest::newRow("one pattern") << 2 << false << "- - - -";
-    QTest::newRow("two holes") << 3 << false
-                               << "2HolePunch 2HolePunchLandscape 2HolePunch 2HolePunchLandscape";
-    QTest::newRow("three holes") << 4 << false
-                                 << "3HolePunch 3HolePunchLandscape 3HolePunch 3HolePunchLandscape";
-    QTest::newRow("four holes") << 5 << false
-                                << "4HolePunch 4HolePunchLandscape 4HolePunch 4HolePunchLandscape";
+    row("no staple", 1, true, "None None DualPortrait SingleLandscape");
+    row("one staple", 5, true, "SinglePortrait SingleLandscape DualPortrait SingleLandscape");
+    row("two staples", 10, true, "DualPortrait DualLandscape DualPortrait SingleLandscape");
+    row("multiple staples", 54, true,
+        "MultipleStaples MultipleStaples DualPortrait SingleLandscape");
+    row("no hole", 1, false, "- - - -");
+    row("one pattern", 2, false, "- - - -");
+    row("two holes", 3, false, "2HolePunch 2HolePunchLandscape 2HolePunch 2HolePunchLandscape");
+    row("three holes", 4, false, "3HolePunch 3HolePunchLandscape 3HolePunch 3HolePunchLandscape");
+    row("four holes", 5, false, "4HolePunch 4HolePunchLandscape 4HolePunch 4HolePunchLandscape");
 }
 
 void TestFinishing::placesStaplesAndHolesByOrientation()
 {
     QFETCH(std::int32_t, value);
     QFETCH(bool, isStaple);
-    QFETCH(QString, choices);
 
     QStringList found;
     for (const std::int32_t orientation : {1, 2, 3, 4}) {
@@ -283,7 +263,7 @@ void TestFinishing::placesStaplesAndHolesByOrientation()
             isStaple ? stapleChoice(value, orientation) : punchChoice(value, orientation);
         found << choice.value_or(QStringLiteral("-"));
     }
-    QCOMPARE(found.join(u' '), choices);
+    QTEST(found.join(u' '), "choices");
     QVERIFY(!punchChoice(kPunchTwoHoles, 5));
 }
 
@@ -298,13 +278,11 @@ void TestFinishing::readsChoicesWithoutValue()
 
 void TestFinishing::showsWhatComesOut_data()
 {
-    QTest::addColumn<std::int32_t>("booklet");
-    QTest::addColumn<Finishing>("finishing");
-    QTest::addColumn<QString>("picture");
+    const Table<std::int32_t, Finishing, QString> table{"booklet", "finishing", "picture"};
 
-    const auto row = [](const char *name, const Finishing &finishing, const char *picture,
-                        std::int32_t booklet = kBookletOff) {
-        QTest::newRow(name) << booklet << finishing << QString::fromLatin1(picture);
+    const auto row = [&](const char *name, const Finishing &finishing, const char *picture,
+                         std::int32_t booklet = kBookletOff) {
+        table(name, booklet, finishing, picture);
     };
     row("nothing", {}, "OfficeFinishing_None.gif");
     row("a fold decides alone", {.fold = kFoldC, .singleStaple = 5}, "OfficeFinishing_CFold.gif");
@@ -330,12 +308,11 @@ void TestFinishing::showsWhatComesOut()
 {
     QFETCH(std::int32_t, booklet);
     QFETCH(Finishing, finishing);
-    QFETCH(QString, picture);
     PaperOutputSettings context;
     context.booklet = booklet;
     context.finishing = finishing;
 
-    QCOMPARE(finishingPicture(context), picture);
+    QTEST(finishingPicture(context), "picture");
 }
 
 // Every name that the rules can come to is a file of the bundle.
@@ -365,30 +342,6 @@ void TestFinishing::hasItsPictures()
     for (const QString &picture : std::as_const(pictures))
         QVERIFY2(!pictureFile(device.bundle->resourcesPath(), picture).isEmpty(),
                  qPrintable(picture));
-}
-
-void TestFinishing::deliversToWhatIsInstalled_data()
-{
-    QTest::addColumn<QString>("bins");
-
-    QTest::newRow("full") << "Auto PrinterDefault Top Side Middle Middle2 Upper Lower Stacker "
-                             "Booklet EnvFolder SBM";
-    QTest::newRow("mid") << "Auto Top Side Upper";
-    QTest::newRow("bare") << "Top"; // its catch tray is not installed
-}
-
-void TestFinishing::deliversToWhatIsInstalled()
-{
-    QFETCH(QString, bins);
-    const DeviceSession device(QString::fromLatin1(QTest::currentDataTag()));
-
-    Menu menu;
-    PopulateOutputDestination(menu, currentDevice());
-
-    QStringList found;
-    for (const MenuItem &item : menu.items)
-        found << item.key;
-    QCOMPARE(found.join(u' '), bins);
 }
 
 QTEST_GUILESS_MAIN(TestFinishing)

@@ -3,8 +3,10 @@
 #include "finishing_choices.h"
 #include "finishing_offset.h"
 #include "paper_output_settings.h"
+#include "sample_ppds.h"
 #include "separator_picture.h"
 #include "separators.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -56,32 +58,30 @@ private slots:
 
 void TestFinishingRules::offsetsAndSubsetsKeepTogether_data()
 {
-    QTest::addColumn<OffsetSettings>("before");
-    QTest::addColumn<int>("offset"); // -1: the switch instead
-    QTest::addColumn<bool>("switchOn");
-    QTest::addColumn<OffsetSettings>("after");
-    QTest::addColumn<bool>("switchEnabled");
+    // offset -1: the switch instead
+    const Table<OffsetSettings, int, bool, OffsetSettings, bool> row{"before", "offset", "switchOn",
+                                                                     "after", "switchEnabled"};
 
-    QTest::newRow("sets clear the subsets")
-        << OffsetSettings{5, true, 12} << 3 << false << OffsetSettings{3, false, 0} << false;
-    QTest::newRow("no offset leaves them")
-        << OffsetSettings{4, true, 12} << 2 << false << OffsetSettings{2, true, 12} << true;
-    QTest::newRow("subsets turn the switch on")
-        << OffsetSettings{3, false, 0} << 4 << false << OffsetSettings{4, true, 0} << true;
-    QTest::newRow("both keep the pages")
-        << OffsetSettings{4, true, 12} << 5 << false << OffsetSettings{5, true, 12} << true;
-    QTest::newRow("off: subsets become sets")
-        << OffsetSettings{4, true, 12} << -1 << false << OffsetSettings{3, false, 0, 4} << true;
-    QTest::newRow("off: both become sets")
-        << OffsetSettings{5, true, 12} << -1 << false << OffsetSettings{3, false, 0, 5} << true;
-    QTest::newRow("on again: both come back")
-        << OffsetSettings{3, false, 0, 5} << -1 << true << OffsetSettings{5, true, 0} << true;
-    QTest::newRow("sets, chosen after the switch")
-        << OffsetSettings{3, false, 0, 5} << 3 << false << OffsetSettings{3, false, 0} << false;
-    QTest::newRow("off: another offset stays")
-        << OffsetSettings{1, true, 12} << -1 << false << OffsetSettings{1, false, 0} << true;
-    QTest::newRow("on: another offset stays")
-        << OffsetSettings{1, false, 0} << -1 << true << OffsetSettings{1, true, 0} << true;
+    row("sets clear the subsets", OffsetSettings{5, true, 12}, 3, false,
+        OffsetSettings{3, false, 0}, false);
+    row("no offset leaves them", OffsetSettings{4, true, 12}, 2, false, OffsetSettings{2, true, 12},
+        true);
+    row("subsets turn the switch on", OffsetSettings{3, false, 0}, 4, false,
+        OffsetSettings{4, true, 0}, true);
+    row("both keep the pages", OffsetSettings{4, true, 12}, 5, false, OffsetSettings{5, true, 12},
+        true);
+    row("off: subsets become sets", OffsetSettings{4, true, 12}, -1, false,
+        OffsetSettings{3, false, 0, 4}, true);
+    row("off: both become sets", OffsetSettings{5, true, 12}, -1, false,
+        OffsetSettings{3, false, 0, 5}, true);
+    row("on again: both come back", OffsetSettings{3, false, 0, 5}, -1, true,
+        OffsetSettings{5, true, 0}, true);
+    row("sets, chosen after the switch", OffsetSettings{3, false, 0, 5}, 3, false,
+        OffsetSettings{3, false, 0}, false);
+    row("off: another offset stays", OffsetSettings{1, true, 12}, -1, false,
+        OffsetSettings{1, false, 0}, true);
+    row("on: another offset stays", OffsetSettings{1, false, 0}, -1, true,
+        OffsetSettings{1, true, 0}, true);
 }
 
 void TestFinishingRules::offsetsAndSubsetsKeepTogether()
@@ -89,29 +89,24 @@ void TestFinishingRules::offsetsAndSubsetsKeepTogether()
     QFETCH(OffsetSettings, before);
     QFETCH(int, offset);
     QFETCH(bool, switchOn);
-    QFETCH(OffsetSettings, after);
-    QFETCH(bool, switchEnabled);
 
     const OffsetSettings found =
         offset >= 0 ? withOffset(before, offset) : withSubsets(before, switchOn);
 
-    QCOMPARE(found, after);
-    QCOMPARE(isSubsetSwitchEnabled(found), switchEnabled);
+    QTEST(found, "after");
+    QTEST(isSubsetSwitchEnabled(found), "switchEnabled");
 }
 
 void TestFinishingRules::offsetBeginsAsTheTicketAllows_data()
 {
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<int>("subsets");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<OffsetSettings>("shown");
+    const Table<int, int, int, OffsetSettings> row{"offset", "subsets", "pages", "shown"};
 
-    QTest::newRow("pages without subsets") << 1 << 0 << 7 << OffsetSettings{1, false, 0};
-    QTest::newRow("subsets") << 4 << 1 << 7 << OffsetSettings{4, true, 7};
-    QTest::newRow("sets, and subsets as well") << 3 << 1 << 7 << OffsetSettings{3, false, 0};
-    QTest::newRow("subsets without the switch") << 5 << 0 << 7 << OffsetSettings{5, true, 0};
-    QTest::newRow("too many pages") << 4 << 1 << 100'000 << OffsetSettings{4, true, 99'999};
-    QTest::newRow("fewer than none") << 4 << 1 << -1 << OffsetSettings{4, true, 0};
+    row("pages without subsets", 1, 0, 7, OffsetSettings{1, false, 0});
+    row("subsets", 4, 1, 7, OffsetSettings{4, true, 7});
+    row("sets, and subsets as well", 3, 1, 7, OffsetSettings{3, false, 0});
+    row("subsets without the switch", 5, 0, 7, OffsetSettings{5, true, 0});
+    row("too many pages", 4, 1, 100'000, OffsetSettings{4, true, 99'999});
+    row("fewer than none", 4, 1, -1, OffsetSettings{4, true, 0});
 }
 
 void TestFinishingRules::offsetBeginsAsTheTicketAllows()
@@ -119,12 +114,11 @@ void TestFinishingRules::offsetBeginsAsTheTicketAllows()
     QFETCH(int, offset);
     QFETCH(int, subsets);
     QFETCH(int, pages);
-    QFETCH(OffsetSettings, shown);
     Finishing finishing;
     finishing.offset = offset;
     finishing.offsetSubsetEnabled = subsets;
     finishing.pagesPerSubset = pages;
-    QCOMPARE(offsetOf(finishing), shown);
+    QTEST(offsetOf(finishing), "shown");
 }
 
 void TestFinishingRules::pagesPerSubsetAreStoredWithSubsetsOnly()
@@ -142,7 +136,7 @@ void TestFinishingRules::pagesPerSubsetAreStoredWithSubsetsOnly()
 
 void TestFinishingRules::choicesAreInstalledAndInThePpd()
 {
-    const auto bare = PpdFile::open(DeviceSession::ppdPath("bare"));
+    const auto bare = PpdFile::open(samplePpd("bare"));
     QVERIFY(bare);
     {
         const DeviceSession mid("mid"); // a punch unit for two holes alone
@@ -222,22 +216,15 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
 
 void TestFinishingRules::picturesShowWhatComesOut_data()
 {
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<int>("choice"); // place in the pop-up
-    QTest::addColumn<int>("staple"); // before
-    QTest::addColumn<int>("punch");
-    QTest::addColumn<QString>("picture");
+    // choice: place in the pop-up; staple: before
+    const Table<Kind, int, int, int, QString> row{"kind", "choice", "staple", "punch", "picture"};
 
-    QTest::newRow("two holes alone") << Kind::HolePunch << 1 << 1 << 1 << "OfficeFinishing_2Hp.gif";
-    QTest::newRow("two holes beside a staple")
-        << Kind::HolePunch << 1 << 5 << 1 << "OfficeFinishing_1St&2Hp.gif";
-    QTest::newRow("a staple beside holes")
-        << Kind::SingleStaple << 1 << 1 << 5 << "OfficeFinishing_1St&4Hp.gif";
-    QTest::newRow("nothing left") << Kind::SingleStaple << 0 << 10 << 1
-                                  << "OfficeFinishing_None.gif";
-    QTest::newRow("a stapled fold")
-        << Kind::AdvancedFold << 2 << 1 << 1 << "OfficeFinishing_BKlt_Fold&Stple.gif";
-    QTest::newRow("bound on the right") << Kind::Bind << 2 << 5 << 1 << "Finishing_Bind_Right.gif";
+    row("two holes alone", Kind::HolePunch, 1, 1, 1, "OfficeFinishing_2Hp.gif");
+    row("two holes beside a staple", Kind::HolePunch, 1, 5, 1, "OfficeFinishing_1St&2Hp.gif");
+    row("a staple beside holes", Kind::SingleStaple, 1, 1, 5, "OfficeFinishing_1St&4Hp.gif");
+    row("nothing left", Kind::SingleStaple, 0, 10, 1, "OfficeFinishing_None.gif");
+    row("a stapled fold", Kind::AdvancedFold, 2, 1, 1, "OfficeFinishing_BKlt_Fold&Stple.gif");
+    row("bound on the right", Kind::Bind, 2, 5, 1, "Finishing_Bind_Right.gif");
 }
 
 void TestFinishingRules::picturesShowWhatComesOut()
@@ -246,35 +233,31 @@ void TestFinishingRules::picturesShowWhatComesOut()
     QFETCH(int, choice);
     QFETCH(int, staple);
     QFETCH(int, punch);
-    QFETCH(QString, picture);
     const DeviceSession device("full");
     PaperOutputSettings context;
     context.finishing = stapledAndPunched(staple, punch);
     const Finishing before = context.finishing;
 
     const auto choices = finishingChoices(kind, currentDevice());
-    QCOMPARE(finishingChoicePicture(kind, context, choices.at(choice)), picture);
+    QTEST(finishingChoicePicture(kind, context, choices.at(choice)), "picture");
     QVERIFY(context.finishing == before);
 }
 
 void TestFinishingRules::separatorPicturesFollowTheColor_data()
 {
-    QTest::addColumn<int>("separators");
-    QTest::addColumn<int>("color");
-    QTest::addColumn<QString>("picture");
+    const Table<int, int, QString> row{"separators", "color", "picture"};
 
-    QTest::newRow("none") << 1 << 2 << "";
-    QTest::newRow("blank") << 2 << 8 << "Paper_TransparencySeparators_BlnkSeps-Goldenrod.gif";
-    QTest::newRow("printed") << 3 << 13 << "Paper_TransparencySeparators_PrntSeps-Orange.gif";
-    QTest::newRow("clear paper") << 2 << 6 << "Paper_TransparencySeparators_BlnkSeps-White.gif";
+    row("none", 1, 2, "");
+    row("blank", 2, 8, "Paper_TransparencySeparators_BlnkSeps-Goldenrod.gif");
+    row("printed", 3, 13, "Paper_TransparencySeparators_PrntSeps-Orange.gif");
+    row("clear paper", 2, 6, "Paper_TransparencySeparators_BlnkSeps-White.gif");
 }
 
 void TestFinishingRules::separatorPicturesFollowTheColor()
 {
     QFETCH(int, separators);
     QFETCH(int, color);
-    QFETCH(QString, picture);
-    QCOMPARE(separatorPicture(separators, color), picture);
+    QTEST(separatorPicture(separators, color), "picture");
 }
 
 QTEST_GUILESS_MAIN(TestFinishingRules)

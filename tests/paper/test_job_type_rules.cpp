@@ -2,6 +2,7 @@
 #include "job_type_setup.h"
 #include "passcode.h"
 #include "saved_job.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -56,24 +57,15 @@ void TestJobTypeRules::madePasscodesHaveFourDigits()
 
 void TestJobTypeRules::passcodesAreConfirmed_data()
 {
-    QTest::addColumn<QString>("passcode");
-    QTest::addColumn<QString>("confirmation");
-    QTest::addColumn<PasscodeProblem>("problem");
+    const Table<QString, QString, PasscodeProblem> row{"passcode", "confirmation", "problem"};
 
-    QTest::newRow("the same") << "123"
-                              << "123" << PasscodeProblem::None;
-    QTest::newRow("another") << "123"
-                             << "124" << PasscodeProblem::Unconfirmed;
-    QTest::newRow("not confirmed") << "123"
-                                   << "" << PasscodeProblem::Unconfirmed;
-    QTest::newRow("only confirmed") << ""
-                                    << "123" << PasscodeProblem::Unconfirmed;
-    QTest::newRow("leading zero") << "0123"
-                                  << "123" << PasscodeProblem::Unconfirmed;
-    QTest::newRow("letter case, from an old ticket") << "aB"
-                                                     << "Ab" << PasscodeProblem::None;
-    QTest::newRow("neither") << ""
-                             << "" << PasscodeProblem::Missing;
+    row("the same", "123", "123", PasscodeProblem::None);
+    row("another", "123", "124", PasscodeProblem::Unconfirmed);
+    row("not confirmed", "123", "", PasscodeProblem::Unconfirmed);
+    row("only confirmed", "", "123", PasscodeProblem::Unconfirmed);
+    row("leading zero", "0123", "123", PasscodeProblem::Unconfirmed);
+    row("letter case, from an old ticket", "aB", "Ab", PasscodeProblem::None);
+    row("neither", "", "", PasscodeProblem::Missing);
 }
 
 void TestJobTypeRules::passcodesAreConfirmed()
@@ -85,31 +77,27 @@ void TestJobTypeRules::passcodesAreConfirmed()
 
 void TestJobTypeRules::delayedJobsPrintWithinADay_data()
 {
-    QTest::addColumn<QDateTime>("now");
-    QTest::addColumn<QTime>("time");
-    QTest::addColumn<QDate>("day");
+    const Table<QDateTime, QTime, QDate> row{"now", "time", "day"};
 
     const QDate day(2026, 6, 15);
     const QTime noon(12, 0);
-    QTest::newRow("equal to now") << QDateTime(day, noon) << noon << day;
-    QTest::newRow("a second before") << QDateTime(day, noon) << QTime(11, 59, 59) << day.addDays(1);
-    QTest::newRow("a minute before") << QDateTime(day, noon) << QTime(11, 59) << day.addDays(1);
-    QTest::newRow("later") << QDateTime(day, noon) << QTime(23, 59, 59) << day;
-    QTest::newRow("after midnight")
-        << QDateTime(day, QTime(23, 59)) << QTime(0, 5) << day.addDays(1);
-    QTest::newRow("into the next year")
-        << QDateTime(QDate(2026, 12, 31), noon) << QTime(8, 0) << QDate(2027, 1, 1);
+    row("equal to now", QDateTime(day, noon), noon, day);
+    row("a second before", QDateTime(day, noon), QTime(11, 59, 59), day.addDays(1));
+    row("a minute before", QDateTime(day, noon), QTime(11, 59), day.addDays(1));
+    row("later", QDateTime(day, noon), QTime(23, 59, 59), day);
+    row("after midnight", QDateTime(day, QTime(23, 59)), QTime(0, 5), day.addDays(1));
+    row("into the next year", QDateTime(QDate(2026, 12, 31), noon), QTime(8, 0), QDate(2027, 1, 1));
     // 29 March 2026 has 23 hours and 25 October 25: the clock that is set counts.
-    QTest::newRow("into the short day")
-        << QDateTime(QDate(2026, 3, 28), noon) << QTime(11, 0) << QDate(2026, 3, 29);
-    QTest::newRow("over the hour that is left out")
-        << QDateTime(QDate(2026, 3, 29), QTime(1, 30)) << QTime(3, 30) << QDate(2026, 3, 29);
-    QTest::newRow("into the hour that is left out")
-        << QDateTime(QDate(2026, 3, 28), noon) << QTime(2, 30) << QDate(2026, 3, 29);
-    QTest::newRow("into the long day")
-        << QDateTime(QDate(2026, 10, 24), noon) << QTime(11, 0) << QDate(2026, 10, 25);
-    QTest::newRow("out of the long day")
-        << QDateTime(QDate(2026, 10, 25), QTime(23, 30)) << QTime(23, 0) << QDate(2026, 10, 26);
+    row("into the short day", QDateTime(QDate(2026, 3, 28), noon), QTime(11, 0),
+        QDate(2026, 3, 29));
+    row("over the hour that is left out", QDateTime(QDate(2026, 3, 29), QTime(1, 30)), QTime(3, 30),
+        QDate(2026, 3, 29));
+    row("into the hour that is left out", QDateTime(QDate(2026, 3, 28), noon), QTime(2, 30),
+        QDate(2026, 3, 29));
+    row("into the long day", QDateTime(QDate(2026, 10, 24), noon), QTime(11, 0),
+        QDate(2026, 10, 25));
+    row("out of the long day", QDateTime(QDate(2026, 10, 25), QTime(23, 30)), QTime(23, 0),
+        QDate(2026, 10, 26));
 }
 
 void TestJobTypeRules::delayedJobsPrintWithinADay()
@@ -128,21 +116,21 @@ void TestJobTypeRules::delayedJobsPrintWithinADay()
 
 void TestJobTypeRules::locationsAreMailboxes_data()
 {
-    QTest::addColumn<QString>("location"); // null: none
-    QTest::addColumn<int>("mailbox");      // 0: none
+    // location null: none; mailbox 0: none
+    const Table<QString, int> row{"location", "mailbox"};
 
-    QTest::newRow("first") << "file:///job-repository/1" << 1;
-    QTest::newRow("last") << "file:///job-repository/200" << 200;
-    QTest::newRow("beyond") << "file:///job-repository/201" << 0;
-    QTest::newRow("before") << "file:///job-repository/0" << 0;
-    QTest::newRow("another name of 17") << "file:///job-repository/017" << 0;
-    QTest::newRow("too large for a number") << "file:///job-repository/99999999999999999999" << 0;
-    QTest::newRow("below a mailbox") << "file:///job-repository/17/3" << 0;
-    QTest::newRow("signed") << "file:///job-repository/+17" << 0;
-    QTest::newRow("digits of another script") << u"file:///job-repository/\u0661"_qs << 0;
-    QTest::newRow("the folder itself") << "file:///job-repository/" << 0;
-    QTest::newRow("another server") << "smb://archive/17" << 0;
-    QTest::newRow("none") << QString() << 0;
+    row("first", "file:///job-repository/1", 1);
+    row("last", "file:///job-repository/200", 200);
+    row("beyond", "file:///job-repository/201", 0);
+    row("before", "file:///job-repository/0", 0);
+    row("another name of 17", "file:///job-repository/017", 0);
+    row("too large for a number", "file:///job-repository/99999999999999999999", 0);
+    row("below a mailbox", "file:///job-repository/17/3", 0);
+    row("signed", "file:///job-repository/+17", 0);
+    row("digits of another script", u"file:///job-repository/\u0661"_qs, 0);
+    row("the folder itself", "file:///job-repository/", 0);
+    row("another server", "smb://archive/17", 0);
+    row("none", {}, 0);
 }
 
 void TestJobTypeRules::locationsAreMailboxes()
@@ -157,18 +145,17 @@ void TestJobTypeRules::locationsAreMailboxes()
 
 void TestJobTypeRules::typedNumbersAreMailboxes_data()
 {
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<bool>("isAllowed");
-    QTest::addColumn<int>("mailbox"); // 0: none
+    // mailbox 0: none
+    const Table<QString, bool, int> row{"number", "isAllowed", "mailbox"};
 
-    QTest::newRow("first") << "1" << true << 1;
-    QTest::newRow("last") << "200" << true << 200;
-    QTest::newRow("beyond") << "201" << false << 0;
-    QTest::newRow("none that there is") << "0" << false << 0;
-    QTest::newRow("zeros") << "000" << false << 0;
-    QTest::newRow("leading zeros") << "007" << true << 7;
-    QTest::newRow("zero at the end") << "020" << true << 20;
-    QTest::newRow("nothing") << "" << true << 0;
+    row("first", "1", true, 1);
+    row("last", "200", true, 200);
+    row("beyond", "201", false, 0);
+    row("none that there is", "0", false, 0);
+    row("zeros", "000", false, 0);
+    row("leading zeros", "007", true, 7);
+    row("zero at the end", "020", true, 20);
+    row("nothing", "", true, 0);
 }
 
 void TestJobTypeRules::typedNumbersAreMailboxes()
@@ -180,26 +167,19 @@ void TestJobTypeRules::typedNumbersAreMailboxes()
 
 void TestJobTypeRules::aLocationElsewhereCanBeChosen_data()
 {
-    QTest::addColumn<QString>("location"); // null: none
-    QTest::addColumn<QString>("elsewhere");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("after");
+    // location null: none
+    const Table<QString, QString, QString, QString, QString> row{"location", "elsewhere", "shown",
+                                                                 "typed", "after"};
 
     const QString seven = "file:///job-repository/7", archive = "smb://archive/17", none;
-    QTest::newRow("elsewhere, untouched") << archive << none << archive << archive << archive;
-    QTest::newRow("elsewhere, replaced") << archive << none << archive << "7" << seven;
-    QTest::newRow("elsewhere, emptied") << archive << none << archive << "" << none;
-    QTest::newRow("elsewhere, taken back") << seven << archive << "7" << archive << archive;
-    QTest::newRow("mailbox, untouched") << seven << archive << "7"
-                                        << "7" << seven;
-    QTest::newRow("mailbox, emptied") << seven << none << "7"
-                                      << "" << none;
-    QTest::newRow("none, untouched") << none << none << ""
-                                     << "" << none;
-    QTest::newRow("several lines") << "a:\n b" << none << "a: b"
-                                   << "a: b"
-                                   << "a:\n b";
+    row("elsewhere, untouched", archive, none, archive, archive, archive);
+    row("elsewhere, replaced", archive, none, archive, "7", seven);
+    row("elsewhere, emptied", archive, none, archive, "", none);
+    row("elsewhere, taken back", seven, archive, "7", archive, archive);
+    row("mailbox, untouched", seven, archive, "7", "7", seven);
+    row("mailbox, emptied", seven, none, "7", "", none);
+    row("none, untouched", none, none, "", "", none);
+    row("several lines", "a:\n b", none, "a: b", "a: b", "a:\n b");
 }
 
 void TestJobTypeRules::aLocationElsewhereCanBeChosen()

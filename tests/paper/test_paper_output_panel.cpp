@@ -1,16 +1,16 @@
 #include "driven_dialog.h"
 
 #include "bundle.h"
-#include "inspector.h"
-#include "menu_button.h"
+#include "files.h"
 #include "panel_interface.h"
 #include "popup_button.h"
+#include "sample_ppds.h"
 #include "summary_view.h"
+#include "table.h"
 #include "ticket.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,11 +44,6 @@ public:
 private:
     QTimer m_timer;
 };
-
-QString samplePpd(const QString &device)
-{
-    return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device);
-}
 
 // The panel of one sample device, or of a PPD file, in front of its user.
 class Panel : public DrivenDialog
@@ -96,7 +91,6 @@ private slots:
 
     void showsAgainWhatItWrote_data();
     void showsAgainWhatItWrote();
-    void menusAreShownAgainToo();
     void opensAgainAfterItWasClosed();
     void offersWhatTheDeviceCanDo_data();
     void offersWhatTheDeviceCanDo();
@@ -108,13 +102,10 @@ private:
     // A sample device's PPD in which `line`, a pattern, is another one.
     QString changedPpd(const QString &device, const QString &line, const QString &other)
     {
-        QFile sample(samplePpd(device));
-        QFile changed(m_folder.filePath(QStringLiteral("changed.ppd")));
-        if (!sample.open(QFile::ReadOnly) || !changed.open(QFile::WriteOnly))
-            return {};
-        changed.write(
-            QString::fromUtf8(sample.readAll()).replace(QRegularExpression(line), other).toUtf8());
-        return changed.fileName();
+        const QString path = m_folder.filePath(QStringLiteral("changed.ppd"));
+        QString text = QString::fromUtf8(bytesOf(samplePpd(device)));
+        putFile(path, text.replace(QRegularExpression(line), other).toUtf8());
+        return path;
     }
 
     PlugInFactoryFunction m_factory = nullptr;
@@ -137,9 +128,9 @@ void TestPaperOutputPanel::initTestCase()
 
 void TestPaperOutputPanel::showsAgainWhatItWrote_data()
 {
-    QTest::addColumn<QString>("device");
+    const Table<QString> row{"device"};
     for (const char *device : {"full", "mid", "bare"})
-        QTest::newRow(device) << QString::fromLatin1(device);
+        row(device, QString::fromLatin1(device));
 }
 
 // Every item of every pop-up.
@@ -174,45 +165,6 @@ void TestPaperOutputPanel::showsAgainWhatItWrote()
     QVERIFY(shown > 5);
 }
 
-void TestPaperOutputPanel::menusAreShownAgainToo()
-{
-    const auto commandsOf = [](const MenuButton *button) {
-        QList<std::pair<OSType, std::int32_t>> commands;
-        std::vector<const std::vector<MenuItem> *> menus{&button->menu().items};
-        while (!menus.empty()) {
-            const std::vector<MenuItem> *items = menus.back();
-            menus.pop_back();
-            for (const MenuItem &item : *items) {
-                if (!item.submenu.empty())
-                    menus.push_back(&item.submenu);
-                else if (!item.divider)
-                    commands.append({item.command, item.reference});
-            }
-        }
-        return commands;
-    };
-    for (const std::int32_t number : {106, 123}) {
-        Panel first(m_factory, QStringLiteral("full"));
-        const auto commands = commandsOf(first.find<MenuButton>(kPanelSignature, number));
-        QVERIFY(commands.size() > 10);
-        for (const auto &[command, reference] : commands) {
-            if (command == fourCharCode("Bkcr") || command == fourCharCode("Sadv"))
-                continue; // these open windows
-            Panel panel(m_factory, QStringLiteral("full"));
-            inspector::ItemName item;
-            item.reference = reference;
-            const auto problem = inspector::chooseCommand(
-                panel.find<MenuButton>(kPanelSignature, number), command, item);
-            QVERIFY2(!problem, qPrintable(problem ? problem->text : QString()));
-            QCOMPARE(panel.sync(kSyncWrite), noErr);
-            Panel again(m_factory, QStringLiteral("full"), &panel);
-            QCOMPARE(again.shown(), panel.shown());
-            QCOMPARE(again.sync(kSyncWrite), noErr);
-            QCOMPARE(again.session.printSettings(), panel.session.printSettings());
-        }
-    }
-}
-
 void TestPaperOutputPanel::opensAgainAfterItWasClosed()
 {
     Panel panel(m_factory, QStringLiteral("full"));
@@ -233,30 +185,21 @@ void TestPaperOutputPanel::opensAgainAfterItWasClosed()
 
 void TestPaperOutputPanel::offersWhatTheDeviceCanDo_data()
 {
-    QTest::addColumn<QString>("option"); // and another default for it, in the full device's PPD
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<std::int32_t>("popup");
-    QTest::addColumn<QString>("offered"); // choices of the PPD
+    // option: and another default for it, in the full device's PPD; offered: choices of the PPD
+    const Table<QString, QString, std::int32_t, QString> row{"option", "choice", "popup",
+                                                             "offered"};
 
     // A job may have another paper or tray than the one that the PPD begins with.
     const QString staples = "None SinglePortrait DualLandscape MultipleStaples";
     const QString holes = "None 2HolePunch 3HolePunch 4HolePunch";
-    QTest::newRow("envelopes: offset") << "PageSize"
-                                       << "EnvDL" << kOffset << "None EndOfSet";
-    QTest::newRow("labels: staples") << "MediaType"
-                                     << "Labels" << kStapling << staples;
-    QTest::newRow("labels: holes") << "MediaType"
-                                   << "Labels" << kHolePunch << holes;
-    QTest::newRow("bypass: banner") << "InputSlot"
-                                    << "Bypass" << kBanner << "False True";
+    row("envelopes: offset", "PageSize", "EnvDL", kOffset, "None EndOfSet");
+    row("labels: staples", "MediaType", "Labels", kStapling, staples);
+    row("labels: holes", "MediaType", "Labels", kHolePunch, holes);
+    row("bypass: banner", "InputSlot", "Bypass", kBanner, "False True");
     // What is not fitted cannot be asked for, whatever else the job says.
-    QTest::newRow("no finisher") << "KVFinisher"
-                                 << "None" << kStapling << "None";
-    QTest::newRow("single stapler")
-        << "KVFinisher"
-        << "AClass" << kStapling << "None SinglePortrait MultipleStaples";
-    QTest::newRow("two holes") << "KVPunchUnit"
-                               << "TwoHole" << kHolePunch << "None 2HolePunch";
+    row("no finisher", "KVFinisher", "None", kStapling, "None");
+    row("single stapler", "KVFinisher", "AClass", kStapling, "None SinglePortrait MultipleStaples");
+    row("two holes", "KVPunchUnit", "TwoHole", kHolePunch, "None 2HolePunch");
 }
 
 void TestPaperOutputPanel::offersWhatTheDeviceCanDo()
@@ -322,8 +265,7 @@ void TestPaperOutputPanel::saysWhatTheDeviceDoesNotOffer()
 // panel's stands for dialogs that ask it alone.
 void TestPaperOutputPanel::summarizesForTheDialog()
 {
-    DrivenDialog dialog(m_factory,
-                        QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-mid.ppd"));
+    DrivenDialog dialog(m_factory, samplePpd("mid"));
     const auto operations =
         findPanelOperations(*m_bundle, QStringLiteral("GetPaperOutputPanelInterface"));
     QVERIFY2(operations, qPrintable(operations.reason()));

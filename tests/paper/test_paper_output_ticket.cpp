@@ -2,6 +2,7 @@
 #include "device_session.h"
 #include "paper_output_settings.h"
 #include "separators.h"
+#include "table.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
@@ -115,24 +116,18 @@ void TestPaperOutputTicket::letsTheTicketsChoicesRuleTheStock()
 
 void TestPaperOutputTicket::keepsWhatOnlyAStockCanSay_data()
 {
-    QTest::addColumn<std::int32_t>("color"); // of the stock
-    QTest::addColumn<std::int32_t>("type");
-    QTest::addColumn<PPDDictionary>("choices"); // of the ticket
-    QTest::addColumn<std::int32_t>("readColor");
-    QTest::addColumn<std::int32_t>("readType");
+    // color: of the stock; choices: of the ticket
+    const Table<std::int32_t, std::int32_t, PPDDictionary, std::int32_t, std::int32_t> row{
+        "color", "type", "choices", "readColor", "readType"};
 
     const std::int32_t custom = kStockColorCustom, white = kStockColorWhite, plain = 1, blue = 2;
     const PPDDictionary none;
-    QTest::newRow("no choice") << custom << kStockTypeCustom << none << custom << kStockTypeCustom;
-    QTest::newRow("others have a choice") << blue << 12 << none << white << plain;
-    QTest::newRow("color in the ticket")
-        << custom << kStockTypeCustom << PPDDictionary{{"MediaColor", "Blue"}} << blue
-        << kStockTypeCustom;
-    QTest::newRow("type in the ticket")
-        << custom << kStockTypeCustom << PPDDictionary{{"MediaType", "Standard"}} << custom
-        << plain;
-    QTest::newRow("unknown choice")
-        << custom << plain << PPDDictionary{{"MediaColor", "Puce"}} << kNoPpdChoice << plain;
+    row("no choice", custom, kStockTypeCustom, none, custom, kStockTypeCustom);
+    row("others have a choice", blue, 12, none, white, plain);
+    row("color in the ticket", custom, kStockTypeCustom, {{"MediaColor", "Blue"}}, blue,
+        kStockTypeCustom);
+    row("type in the ticket", custom, kStockTypeCustom, {{"MediaType", "Standard"}}, custom, plain);
+    row("unknown choice", custom, plain, {{"MediaColor", "Puce"}}, kNoPpdChoice, plain);
 }
 
 void TestPaperOutputTicket::keepsWhatOnlyAStockCanSay()
@@ -167,17 +162,13 @@ void TestPaperOutputTicket::keepsWhatOnlyAStockCanSay()
 
 void TestPaperOutputTicket::findsTwoSidedInThreePlaces_data()
 {
-    QTest::addColumn<QVariant>("finishingDuplex");
-    QTest::addColumn<QVariant>("duplexing");
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<std::int32_t>("duplex");
+    const Table<QVariant, QVariant, QString, std::int32_t> row{"finishingDuplex", "duplexing",
+                                                               "choice", "duplex"};
 
-    QTest::newRow("own entry first") << QVariant(3) << QVariant(2) << "None" << kPlexDuplexShort;
-    QTest::newRow("then the platform's") << QVariant() << QVariant(2) << "None" << kPlexDuplex;
-    QTest::newRow("then the choice")
-        << QVariant() << QVariant() << "DuplexTumble" << kPlexDuplexShort;
-    QTest::newRow("an entry that is no number")
-        << QVariant("3") << QVariant() << "DuplexNoTumble" << kPlexDuplex;
+    row("own entry first", QVariant(3), QVariant(2), "None", kPlexDuplexShort);
+    row("then the platform's", {}, QVariant(2), "None", kPlexDuplex);
+    row("then the choice", {}, {}, "DuplexTumble", kPlexDuplexShort);
+    row("an entry that is no number", QVariant("3"), {}, "DuplexNoTumble", kPlexDuplex);
 }
 
 void TestPaperOutputTicket::findsTwoSidedInThreePlaces()
@@ -332,23 +323,20 @@ void TestPaperOutputTicket::writesTwoSidedWhileOpenOnly()
 
 void TestPaperOutputTicket::takesBackHolesThatAreNotChosen_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<std::int32_t>("punch");
-    QTest::addColumn<QString>("after");
+    const Table<QString, std::int32_t, QString> row{"before", "punch", "after"};
 
-    QTest::newRow("none after three") << "3HolePunch" << kPunchNone << "";
-    QTest::newRow("none after two across") << "2HolePunchLandscape" << kPunchNone << "";
-    QTest::newRow("one pattern after three") << "3HolePunch" << kPunchGeneric << "";
-    QTest::newRow("one pattern stays") << "HolePunch" << kPunchGeneric << "HolePunch";
-    QTest::newRow("never written") << "" << kPunchGeneric << "";
-    QTest::newRow("four after three") << "3HolePunch" << kPunchFourHoles << "4HolePunch";
+    row("none after three", "3HolePunch", kPunchNone, "");
+    row("none after two across", "2HolePunchLandscape", kPunchNone, "");
+    row("one pattern after three", "3HolePunch", kPunchGeneric, "");
+    row("one pattern stays", "HolePunch", kPunchGeneric, "HolePunch");
+    row("never written", "", kPunchGeneric, "");
+    row("four after three", "3HolePunch", kPunchFourHoles, "4HolePunch");
 }
 
 void TestPaperOutputTicket::takesBackHolesThatAreNotChosen()
 {
     QFETCH(QString, before);
     QFETCH(std::int32_t, punch);
-    QFETCH(QString, after);
     DeviceSession device(QStringLiteral("full"));
     if (!before.isEmpty())
         device.session.printSettings().ppdChoices[QStringLiteral("KVPunch")] = before;
@@ -358,7 +346,7 @@ void TestPaperOutputTicket::takesBackHolesThatAreNotChosen()
 
     write(context, device);
 
-    QCOMPARE(device.choice(QStringLiteral("KVPunch")), after);
+    QTEST(device.choice(QStringLiteral("KVPunch")), "after");
 }
 
 void TestPaperOutputTicket::takesBackPaperThatIsNotChosen()
@@ -410,14 +398,11 @@ void TestPaperOutputTicket::writesSeparatorsSourceWithSeparatorsOnly()
 void TestPaperOutputTicket::readsBackWhatItWroteBut_data()
 {
     using Change = std::function<void(PaperOutputSettings &)>;
-    QTest::addColumn<std::int32_t>("orientation");
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<Change>("whatComesBack"); // done to what was written
+    // whatComesBack: done to what was written
+    const Table<std::int32_t, Change, Change> table{"orientation", "change", "whatComesBack"};
 
-    const auto row = [](const char *name, const Change &change, const Change &back = {},
-                        std::int32_t orientation = 1) {
-        QTest::newRow(name) << orientation << change << back;
-    };
+    const auto row = [&](const char *name, const Change &change, const Change &back = {},
+                         std::int32_t orientation = 1) { table(name, orientation, change, back); };
     using Context = PaperOutputSettings;
     row("nothing", [](Context &) {});
     row("a colour of the PPD", [](Context &c) { c.jobStock.setColor(9); });

@@ -3,6 +3,7 @@
 #include "stock_menus.h"
 #include "stock_pictures.h"
 #include "stock_summary.h"
+#include "table.h"
 #include "ticket_values.h"
 
 #include <QTest>
@@ -80,25 +81,23 @@ private slots:
 
 void TestStock::writesWhatIsSet_data()
 {
-    QTest::addColumn<Stock>("stock");
-    QTest::addColumn<QStringList>("keys");
+    const Table<Stock, QStringList> row{"stock", "keys"};
 
     Stock stock;
-    QTest::newRow("nothing but the colour") << stock << QStringList{"Color"};
+    row("nothing but the colour", stock, {"Color"});
     stock.setColor(kUnset);
     stock.setCoatingType(3);
-    QTest::newRow("coating type alone") << stock << QStringList{};
+    row("coating type alone", stock, {});
     stock.setSidesCoated(2);
-    QTest::newRow("coated") << stock << QStringList{"SidesCoated", "kCoatingType"};
+    row("coated", stock, {"SidesCoated", "kCoatingType"});
     Stock custom;
     custom.setWidth(21590);
-    QTest::newRow("custom size") << custom << QStringList{"Color", "Length", "Size", "Width"};
+    row("custom size", custom, {"Color", "Length", "Size", "Width"});
     Stock tab = stockOf(kUnset, kUnset, kStockTypeTab);
     tab.setModulus(5);
     tab.setCustomNameOnly(true);
     tab.setGrain(1);
-    QTest::newRow("modulus of any type")
-        << tab << QStringList{"CustomNameOnly", "Modulus", "Type", "kGrain"};
+    row("modulus of any type", tab, {"CustomNameOnly", "Modulus", "Type", "kGrain"});
 }
 
 void TestStock::writesWhatIsSet()
@@ -135,20 +134,16 @@ void TestStock::readsWhatItWrites()
 
 void TestStock::readsOnlyWhatBelongsTogether_data()
 {
-    QTest::addColumn<Dictionary>("dictionary");
-    QTest::addColumn<QStringList>("keys"); // of what is written again
+    // keys: of what is written again
+    const Table<Dictionary, QStringList> row{"dictionary", "keys"};
 
-    QTest::newRow("empty") << Dictionary() << QStringList{};
-    QTest::newRow("width without custom size")
-        << Dictionary{{"Size", 4}, {"Width", 100}} << QStringList{"Size"};
-    QTest::newRow("modulus of a tab type")
-        << Dictionary{{"Type", 24}, {"Modulus", 5}} << QStringList{"Type"};
-    QTest::newRow("modulus of pre-cut tabs")
-        << Dictionary{{"Type", 4}, {"Modulus", 5}} << QStringList{"Modulus", "Type"};
-    QTest::newRow("coating type alone") << Dictionary{{"kCoatingType", 2}} << QStringList{};
-    QTest::newRow("numbers as texts")
-        << Dictionary{{"Size", "4"}, {"Weight", 80.5}, {"CustomName", 7}} << QStringList{};
-    QTest::newRow("beyond 32 bits") << Dictionary{{"Weight", qint64(1) << 40}} << QStringList{};
+    row("empty", {}, {});
+    row("width without custom size", {{"Size", 4}, {"Width", 100}}, {"Size"});
+    row("modulus of a tab type", {{"Type", 24}, {"Modulus", 5}}, {"Type"});
+    row("modulus of pre-cut tabs", {{"Type", 4}, {"Modulus", 5}}, {"Modulus", "Type"});
+    row("coating type alone", {{"kCoatingType", 2}}, {});
+    row("numbers as texts", {{"Size", "4"}, {"Weight", 80.5}, {"CustomName", 7}}, {});
+    row("beyond 32 bits", {{"Weight", qint64(1) << 40}}, {});
 }
 
 void TestStock::readsOnlyWhatBelongsTogether()
@@ -206,49 +201,44 @@ void TestStock::beginsAsItsContextSays()
 
 void TestStock::summarizes_data()
 {
-    QTest::addColumn<JobContext>("context");
-    QTest::addColumn<Stock>("stock");
-    QTest::addColumn<QString>("summary");
+    const Table<JobContext, Stock, QString> row{"context", "stock", "summary"};
 
     const Stock usual = stockOf(4, 2, kStockTypeStandard);
-    QTest::newRow("job without its size") << kJobContextJob << usual << "- Blue|- Plain";
-    QTest::newRow("cover") << kJobContextCovers << usual << "- A4 (210 × 297 mm)|- Blue|- Plain";
-    QTest::newRow("nothing set") << kJobContextInserts << stockOf(kUnset, kUnset, kUnset)
-                                 << "Use job setting";
-    QTest::newRow("a job's unset lines stay")
-        << kJobContextJob << stockOf(1, kUnset, 1) << "- |- Plain";
+    row("job without its size", kJobContextJob, usual, "- Blue|- Plain");
+    row("cover", kJobContextCovers, usual, "- A4 (210 × 297 mm)|- Blue|- Plain");
+    row("nothing set", kJobContextInserts, stockOf(kUnset, kUnset, kUnset), "Use job setting");
+    row("a job's unset lines stay", kJobContextJob, stockOf(1, kUnset, 1), "- |- Plain");
     Stock named = usual;
     named.setCustomName(QStringLiteral("House %2"));
-    QTest::newRow("named") << kJobContextJob << named << "Name: House %2|- Blue|- Plain";
+    row("named", kJobContextJob, named, "Name: House %2|- Blue|- Plain");
     named.setCustomNameOnly(true);
-    QTest::newRow("by its name alone") << kJobContextCovers << named << "Name: House %2";
+    row("by its name alone", kJobContextCovers, named, "Name: House %2");
     Stock colored = stockOf(1, kStockColorCustom, kStockTypeCustom);
     colored.setCustomColor(QStringLiteral("Teal"));
     colored.setCustomType(QStringLiteral("Felt"));
-    QTest::newRow("custom colour and type") << kJobContextJob << colored << "Color: Teal|- Felt";
+    row("custom colour and type", kJobContextJob, colored, "Color: Teal|- Felt");
     Stock tab = stockOf(1, 1, kStockTypePrecutTab);
     tab.setModulus(5);
-    QTest::newRow("pre-cut tabs") << kJobContextJob << tab << "- White|- Precut tabs (5)";
+    row("pre-cut tabs", kJobContextJob, tab, "- White|- Precut tabs (5)");
     tab.setType(kStockTypeTab);
-    QTest::newRow("tab stock of five") << kJobContextJob << tab << "- White|- Tab Stock (5)";
+    row("tab stock of five", kJobContextJob, tab, "- White|- Tab Stock (5)");
     tab.setModulus(kUnset);
-    QTest::newRow("tab stock") << kJobContextJob << tab << "- White|- Tab Stock";
+    row("tab stock", kJobContextJob, tab, "- White|- Tab Stock");
     Stock inserted = usual;
     inserted.setSource(kStockSourceInserter);
-    QTest::newRow("inserter") << kJobContextCovers << inserted << "- Post-print inserter";
+    row("inserter", kJobContextCovers, inserted, "- Post-print inserter");
     inserted.setSource(2);
-    QTest::newRow("another source") << kJobContextCovers << inserted << "Use job setting";
+    row("another source", kJobContextCovers, inserted, "Use job setting");
 }
 
 void TestStock::summarizes()
 {
     QFETCH(JobContext, context);
     QFETCH(Stock, stock);
-    QFETCH(QString, summary);
     const DeviceSession device(QStringLiteral("full"));
 
-    QCOMPARE(stockSummaryText(currentDevice(device.bundle), context, &stock).replace(u'\n', u'|'),
-             summary);
+    QTEST(stockSummaryText(currentDevice(device.bundle), context, &stock).replace(u'\n', u'|'),
+          "summary");
 }
 
 void TestStock::offersInEachContextWhatFits()
@@ -279,40 +269,36 @@ void TestStock::offersInEachContextWhatFits()
 
 void TestStock::followsTheMenu_data()
 {
-    QTest::addColumn<OSType>("command");
-    QTest::addColumn<std::int32_t>("value");
-    QTest::addColumn<bool>("isTaken");
-    QTest::addColumn<QString>("after"); // size, colour, type, source, name
+    // after: size, colour, type, source, name
+    const Table<OSType, std::int32_t, bool, QString> row{"command", "value", "isTaken", "after"};
 
-    QTest::newRow("size") << kCommandStockSize << 5 << true << "5 2 1 unset ''";
-    QTest::newRow("custom size") << kCommandStockSize << 75 << false << "4 2 1 3 'Card'";
-    QTest::newRow("colour") << kCommandStockColor << 9 << true << "4 9 1 unset ''";
-    QTest::newRow("type") << kCommandStockType << 14 << true << "4 2 14 unset ''";
-    QTest::newRow("transparency") << kCommandStockType << 2 << true << "4 6 2 unset ''";
-    QTest::newRow("source") << kCommandStockSource << 10 << true << "4 2 1 10 'Card'";
-    QTest::newRow("default") << kCommandStockDefault << 0 << true << "unset unset unset 3 ''";
-    QTest::newRow("advanced") << kCommandStockAdvanced << 0 << false << "4 2 1 3 'Card'";
+    row("size", kCommandStockSize, 5, true, "5 2 1 unset ''");
+    row("custom size", kCommandStockSize, 75, false, "4 2 1 3 'Card'");
+    row("colour", kCommandStockColor, 9, true, "4 9 1 unset ''");
+    row("type", kCommandStockType, 14, true, "4 2 14 unset ''");
+    row("transparency", kCommandStockType, 2, true, "4 6 2 unset ''");
+    row("source", kCommandStockSource, 10, true, "4 2 1 10 'Card'");
+    row("default", kCommandStockDefault, 0, true, "unset unset unset 3 ''");
+    row("advanced", kCommandStockAdvanced, 0, false, "4 2 1 3 'Card'");
 }
 
 void TestStock::followsTheMenu()
 {
     QFETCH(OSType, command);
     QFETCH(std::int32_t, value);
-    QFETCH(bool, isTaken);
-    QFETCH(QString, after);
     Stock stock = stockOf(4, 2, 1);
     stock.setSource(3);
     stock.setCustomName(QStringLiteral("Card"));
 
-    QCOMPARE(applyStockCommand(stock, command, value, kJobContextInserts), isTaken);
+    QTEST(applyStockCommand(stock, command, value, kJobContextInserts), "isTaken");
 
     const auto text = [](std::int32_t number) {
         return number == kUnset ? QStringLiteral("unset") : QString::number(number);
     };
-    QCOMPARE(QStringLiteral("%1 %2 %3 %4 '%5'")
-                 .arg(text(stock.size()), text(stock.color()), text(stock.type()),
-                      text(stock.source()), stock.customName()),
-             after);
+    QTEST(QStringLiteral("%1 %2 %3 %4 '%5'")
+              .arg(text(stock.size()), text(stock.color()), text(stock.type()),
+                   text(stock.source()), stock.customName()),
+          "after");
 }
 
 void TestStock::hasAPictureForWhateverADeviceOffers()
@@ -335,14 +321,14 @@ void TestStock::hasAPictureForWhateverADeviceOffers()
 
 void TestStock::layersPictures_data()
 {
-    QTest::addColumn<Stock>("stock");
-    QTest::addColumn<QString>("pictures"); // without "Paper_" and ".gif"
+    // pictures: without "Paper_" and ".gif"
+    const Table<Stock, QString> table{"stock", "pictures"};
 
-    const auto row = [](const char *name, std::int32_t color, std::int32_t type, const char *shown,
-                        std::int32_t punched = kUnset) {
+    const auto row = [&](const char *name, std::int32_t color, std::int32_t type, const char *shown,
+                         std::int32_t punched = kUnset) {
         Stock stock = stockOf(1, color, type);
         stock.setPunched(punched);
-        QTest::newRow(name) << stock << QString::fromLatin1(shown);
+        table(name, stock, shown);
     };
     row("plain", 2, 1, "Plain-Blue");
     row("colour without picture", 15, 1, "Plain-White");
@@ -362,11 +348,10 @@ void TestStock::layersPictures_data()
 void TestStock::layersPictures()
 {
     QFETCH(Stock, stock);
-    QFETCH(QString, pictures);
 
     QString shown = stockPictures(stock).join(u' ');
     shown.remove(QStringLiteral("Paper_")).remove(QStringLiteral(".gif"));
-    QCOMPARE(shown, pictures);
+    QTEST(shown, "pictures");
 }
 
 QTEST_GUILESS_MAIN(TestStock)

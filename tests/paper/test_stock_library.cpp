@@ -1,7 +1,9 @@
 #include "stock_library.h"
 
 #include "preferences.h"
+#include "sample_ppds.h"
 #include "stock_properties.h"
+#include "table.h"
 
 #include <QLocale>
 #include <QTest>
@@ -40,7 +42,6 @@ private slots:
     }
 
     void keepsOneStockOfAName();
-    void refusesNames_data();
     void refusesNames();
     void isFullAtItsLimit();
     void damagedEntriesAreSkippedAndStay();
@@ -48,7 +49,6 @@ private slots:
 
     void weightsAreChecked_data();
     void weightsAreChecked();
-    void devicesOfferWhatTheirPpdHas_data();
     void devicesOfferWhatTheirPpdHas();
     void whatIsNotOfferedIsNotSet();
     void nothingStaysWithoutItsTypeOrColor();
@@ -71,23 +71,14 @@ void TestStockLibrary::keepsOneStockOfAName()
     QCOMPARE(removeFromStockLibrary("gamma 9"), LibraryProblem::NotFound);
 }
 
-void TestStockLibrary::refusesNames_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<LibraryProblem>("problem");
-
-    const QString longest = QString(kLongestStockName - 1, u'x') + QStringLiteral("\U0001F4C4");
-    QTest::newRow("blanks") << "  " << LibraryProblem::NameMissing;
-    QTest::newRow("the longest") << longest << LibraryProblem::None;
-    QTest::newRow("one character more") << longest + 'x' << LibraryProblem::NameTooLong;
-}
-
 void TestStockLibrary::refusesNames()
 {
-    QFETCH(QString, name);
-    QFETCH(LibraryProblem, problem);
-    QCOMPARE(saveInStockLibrary(name, card()), problem);
-    QCOMPARE(names().size(), problem == LibraryProblem::None ? 1 : 0);
+    const QString longest = QString(kLongestStockName - 1, u'x') + QStringLiteral("\U0001F4C4");
+    QCOMPARE(saveInStockLibrary("  ", card()), LibraryProblem::NameMissing);
+    QCOMPARE(saveInStockLibrary(longest + 'x', card()), LibraryProblem::NameTooLong);
+    QCOMPARE(names(), QStringList());
+    QCOMPARE(saveInStockLibrary(longest, card()), LibraryProblem::None);
+    QCOMPARE(names(), QStringList(longest));
 }
 
 void TestStockLibrary::isFullAtItsLimit()
@@ -137,49 +128,40 @@ void TestStockLibrary::saysWhenItCannotBeKept()
 
 void TestStockLibrary::weightsAreChecked_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<std::optional<WeightRange>>("range");
+    const Table<QString, std::optional<WeightRange>> row{"text", "range"};
 
     const std::optional<WeightRange> none;
-    QTest::newRow("two numbers") << " 60  300 " << std::optional(WeightRange{60, 300});
-    QTest::newRow("at the limits") << "1 1000" << std::optional(WeightRange{1, 1000});
-    QTest::newRow("one weight") << "80 80" << std::optional(WeightRange{80, 80});
-    QTest::newRow("nothing at all") << "0 300" << none;
-    QTest::newRow("too heavy") << "60 1001" << none;
-    QTest::newRow("the wrong way round") << "300 60" << none;
-    QTest::newRow("one number") << "300" << none;
-    QTest::newRow("three numbers") << "60 300 400" << none;
-    QTest::newRow("no numbers") << "light heavy" << none;
-    QTest::newRow("fractions") << "60.5 300" << none;
+    row("two numbers", " 60  300 ", std::optional(WeightRange{60, 300}));
+    row("at the limits", "1 1000", std::optional(WeightRange{1, 1000}));
+    row("one weight", "80 80", std::optional(WeightRange{80, 80}));
+    row("nothing at all", "0 300", none);
+    row("too heavy", "60 1001", none);
+    row("the wrong way round", "300 60", none);
+    row("one number", "300", none);
+    row("three numbers", "60 300 400", none);
+    row("no numbers", "light heavy", none);
+    row("fractions", "60.5 300", none);
 }
 
 void TestStockLibrary::weightsAreChecked()
 {
     QFETCH(QString, text);
-    QFETCH(std::optional<WeightRange>, range);
-    QCOMPARE(weightRangeFrom(text), range);
-}
-
-void TestStockLibrary::devicesOfferWhatTheirPpdHas_data()
-{
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<StockProperties>("properties");
-
-    const QString samples = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-");
-    QTest::newRow("all") << samples + "full.ppd" << StockProperties{{60, 350}, true, true};
-    QTest::newRow("little") << samples + "bare.ppd" << StockProperties{{60, 163}, false, false};
-    QTest::newRow("no weights") << KELVO_TEST_DATA "/platform/test.ppd"
-                                << StockProperties{{60, 300}, false, false};
+    QTEST(weightRangeFrom(text), "range");
 }
 
 void TestStockLibrary::devicesOfferWhatTheirPpdHas()
 {
-    QFETCH(QString, ppd);
-    QFETCH(StockProperties, properties);
-    const auto opened = PpdFile::open(ppd);
-    QVERIFY(opened);
-    QCOMPARE(stockPropertiesOf(opened.value().get()), properties);
-    QCOMPARE(stockPropertiesOf(nullptr), (StockProperties{{60, 300}, false, false}));
+    const QString withoutWeights = QStringLiteral(KELVO_TEST_DATA "/platform/test.ppd");
+    const StockProperties usual{{60, 300}, false, false};
+    for (const auto &[path, properties] :
+         {std::pair(samplePpd("full"), StockProperties{{60, 350}, true, true}),
+          {samplePpd("bare"), StockProperties{{60, 163}, false, false}},
+          {withoutWeights, usual}}) {
+        const auto ppd = PpdFile::open(path);
+        QVERIFY(ppd);
+        QCOMPARE(stockPropertiesOf(ppd.value().get()), properties);
+    }
+    QCOMPARE(stockPropertiesOf(nullptr), usual);
 }
 
 void TestStockLibrary::whatIsNotOfferedIsNotSet()

@@ -1,6 +1,7 @@
 #include "device_session.h"
 
 #include "control.h"
+#include "table.h"
 #include "window_loader.h"
 
 #include <QAbstractButton>
@@ -22,15 +23,13 @@ private slots:
 // Every window of the bundle.
 void TestWindows::windowsCanBeUsedWithoutAMouse_data()
 {
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<QString>("window");
+    const Table<QString, QString> row{"description", "window"};
 
     QDirIterator files(KELVO_SOURCE_DIR "/resources/dialogs", {"*.ui"}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QFileInfo file(files.next());
-        QTest::addRow("%s", qPrintable(file.completeBaseName()))
-            << file.dir().dirName() << file.completeBaseName();
+        row(qPrintable(file.completeBaseName()), file.dir().dirName(), file.completeBaseName());
     }
 }
 

@@ -2,6 +2,7 @@
 #include "file_store.h"
 #include "plugin_abi.h"
 #include "property_list.h"
+#include "table.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -106,12 +107,12 @@ void TestBundle::findsResourcesInsideOnly()
 
 void TestBundle::saysWhyItCannotBeOpened_data()
 {
-    QTest::addColumn<QVariant>("identifier"); // of its Info.plist; invalid: no such file
-    QTest::addColumn<Code>("code");
-    QTest::newRow("no Info.plist") << QVariant() << Code::NotFound;
-    QTest::newRow("empty identifier") << QVariant(QString()) << Code::Damaged;
-    QTest::newRow("number as identifier") << QVariant(7) << Code::Damaged;
-    QTest::newRow("taken identifier") << QVariant(u"com.kelvo.test"_s) << Code::Refused;
+    // identifier: of its Info.plist; invalid: no such file
+    const Table<QVariant, Code> row{"identifier", "code"};
+    row("no Info.plist", {}, Code::NotFound);
+    row("empty identifier", QVariant(QString()), Code::Damaged);
+    row("number as identifier", QVariant(7), Code::Damaged);
+    row("taken identifier", QVariant(u"com.kelvo.test"_s), Code::Refused);
 }
 
 void TestBundle::saysWhyItCannotBeOpened()
@@ -132,11 +133,11 @@ void TestBundle::saysWhyItCannotBeOpened()
 
 void TestBundle::saysWhyItsModuleCannotBeLoaded_data()
 {
-    QTest::addColumn<QVariant>("executable");
-    QTest::newRow("no such file") << QVariant(u"Missing.so"_s);
-    QTest::newRow("no module") << QVariant(u"Info.plist"_s);
-    QTest::newRow("elsewhere") << QVariant(u"../Test.pde/Test.so"_s);
-    QTest::newRow("not a name") << QVariant(1);
+    const Table<QVariant> row{"executable"};
+    row("no such file", QVariant(u"Missing.so"_s));
+    row("no module", QVariant(u"Info.plist"_s));
+    row("elsewhere", QVariant(u"../Test.pde/Test.so"_s));
+    row("not a name", QVariant(1));
 }
 
 void TestBundle::saysWhyItsModuleCannotBeLoaded()

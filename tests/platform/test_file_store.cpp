@@ -2,6 +2,7 @@
 #include "file_store.h"
 #include "property_list.h"
 #include "size_limits.h"
+#include "table.h"
 #include "values.h"
 
 #include <QDir>
@@ -270,9 +271,9 @@ void TestFileStore::waitsForALockOnlyForAWhile()
 
 void TestFileStore::refusesLocksThatAreNoFiles_data()
 {
-    QTest::addColumn<bool>("isLink");
-    QTest::newRow("symbolic link") << true;
-    QTest::newRow("FIFO") << false;
+    const Table<bool> row{"isLink"};
+    row("symbolic link", true);
+    row("FIFO", false);
 }
 
 void TestFileStore::refusesLocksThatAreNoFiles()
@@ -291,28 +292,21 @@ void TestFileStore::refusesLocksThatAreNoFiles()
 
 void TestFileStore::treatsDamagedStoresAsAsked_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<DamagedStore>("damaged");
-    QTest::addColumn<std::optional<Code>>("code");
+    const Table<QByteArray, int, DamagedStore, std::optional<Code>> row{"bytes", "mode", "damaged",
+                                                                        "code"};
     using Answer = std::optional<Code>;
     const QByteArray list = "<plist><array/></plist>";
-    QTest::newRow("damaged, creating")
-        << QByteArray("x") << 0600 << DamagedStore::SetAside << Answer();
-    QTest::newRow("no dictionary, creating") << list << 0600 << DamagedStore::SetAside << Answer();
-    QTest::newRow("damaged, changing")
-        << QByteArray("x") << 0600 << DamagedStore::Keep << Answer(Code::Damaged);
-    QTest::newRow("no dictionary, changing")
-        << list << 0600 << DamagedStore::Keep << Answer(Code::WrongType);
-    QTest::newRow("unreadable, creating")
-        << list << 0 << DamagedStore::SetAside << Answer(Code::NotReadable);
+    row("damaged, creating", "x", 0600, DamagedStore::SetAside, Answer());
+    row("no dictionary, creating", list, 0600, DamagedStore::SetAside, Answer());
+    row("damaged, changing", "x", 0600, DamagedStore::Keep, Answer(Code::Damaged));
+    row("no dictionary, changing", list, 0600, DamagedStore::Keep, Answer(Code::WrongType));
+    row("unreadable, creating", list, 0, DamagedStore::SetAside, Answer(Code::NotReadable));
     const QByteArray deep = "<plist>" + QByteArray("<array>").repeated(limits::plistDepth + 1)
         + QByteArray("</array>").repeated(limits::plistDepth + 1) + "</plist>";
-    QTest::newRow("too deep, creating") << deep << 0600 << DamagedStore::SetAside << Answer();
-    QTest::newRow("too deep, changing")
-        << deep << 0600 << DamagedStore::Keep << Answer(Code::TooLarge);
-    QTest::newRow("too large, creating")
-        << QByteArray(limits::plistBytes + 1, ' ') << 0600 << DamagedStore::SetAside << Answer();
+    row("too deep, creating", deep, 0600, DamagedStore::SetAside, Answer());
+    row("too deep, changing", deep, 0600, DamagedStore::Keep, Answer(Code::TooLarge));
+    row("too large, creating", QByteArray(limits::plistBytes + 1, ' '), 0600,
+        DamagedStore::SetAside, Answer());
 }
 
 void TestFileStore::treatsDamagedStoresAsAsked()
@@ -380,20 +374,16 @@ void TestFileStore::removesFiles()
 
 void TestFileStore::clearsUpOnlyAfterTheDead_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("rights");
-    QTest::addColumn<bool>("isFolder");
-    QTest::addColumn<bool>("isTaken");
+    const Table<QString, int, bool, bool> row{"name", "rights", "isFolder", "isTaken"};
     const QString dead = u"left-0123456789abcdef"_s;
-    QTest::newRow("a folder that somebody has left") << dead << 0700 << true << true;
-    QTest::newRow("a file that somebody has left") << dead << 0600 << false << true;
-    QTest::newRow("a folder that others may enter") << dead << 0755 << true << false;
-    QTest::newRow("a file that others may read") << dead << 0644 << false << false;
-    QTest::newRow("a word of so many letters")
-        << u"left-0123456789abcdeg"_s << 0700 << true << false;
-    QTest::newRow("a name that goes on") << dead + u"0"_s << 0700 << true << false;
-    QTest::newRow("a name that is shorter") << dead.chopped(1) << 0600 << false << false;
-    QTest::newRow("another beginning") << u"Left-0123456789abcdef"_s << 0600 << false << false;
+    row("a folder that somebody has left", dead, 0700, true, true);
+    row("a file that somebody has left", dead, 0600, false, true);
+    row("a folder that others may enter", dead, 0755, true, false);
+    row("a file that others may read", dead, 0644, false, false);
+    row("a word of so many letters", u"left-0123456789abcdeg"_s, 0700, true, false);
+    row("a name that goes on", dead + u"0"_s, 0700, true, false);
+    row("a name that is shorter", dead.chopped(1), 0600, false, false);
+    row("another beginning", u"Left-0123456789abcdef"_s, 0600, false, false);
 }
 
 void TestFileStore::clearsUpOnlyAfterTheDead()
@@ -467,19 +457,19 @@ void TestFileStore::neverClearsUpWhatIsBeingMade()
 
 void TestFileStore::keepsTheBytesOfNames_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("UTF-8") << "Grüße 😀"_ba << u"Grüße 😀"_s;
-    QTest::newRow("Latin-1") << "Gr\xfc\xdf"_ba << u"Gr"_s + QChar(0xDCFC) + QChar(0xDCDF);
-    QTest::newRow("both") << "\xffä\x80"_ba << QString(QChar(0xDCFF)) + u'ä' + QChar(0xDC80);
-    QTest::newRow("cut character")
-        << "a\xf0\x9f\x98"_ba << u"a"_s + QChar(0xDCF0) + QChar(0xDC9F) + QChar(0xDC98);
-    QTest::newRow("surrogate as UTF-8")
-        << "\xed\xb3\xbc"_ba << QString(QChar(0xDCED)) + QChar(0xDCB3) + QChar(0xDCBC);
-    QTest::newRow("overlong") << "\xc0\xaf"_ba << QString(QChar(0xDCC0)) + QChar(0xDCAF);
-    QTest::newRow("byte order mark") << "\xef\xbb\xbf"
-                                        "a"_ba
-                                     << u"\ufeffa"_s;
+    const Table<QByteArray, QString> row{"bytes", "name"};
+    row("UTF-8", "Grüße 😀"_ba, u"Grüße 😀"_s);
+    row("Latin-1", "Gr\xfc\xdf"_ba, u"Gr"_s + QChar(0xDCFC) + QChar(0xDCDF));
+    row("both", "\xffä\x80"_ba, QString(QChar(0xDCFF)) + u'ä' + QChar(0xDC80));
+    row("cut character", "a\xf0\x9f\x98"_ba,
+        u"a"_s + QChar(0xDCF0) + QChar(0xDC9F) + QChar(0xDC98));
+    row("surrogate as UTF-8", "\xed\xb3\xbc"_ba,
+        QString(QChar(0xDCED)) + QChar(0xDCB3) + QChar(0xDCBC));
+    row("overlong", "\xc0\xaf"_ba, QString(QChar(0xDCC0)) + QChar(0xDCAF));
+    row("byte order mark",
+        "\xef\xbb\xbf"
+        "a"_ba,
+        u"\ufeffa"_s);
 }
 
 void TestFileStore::keepsTheBytesOfNames()
@@ -497,24 +487,17 @@ void TestFileStore::keepsTheBytesOfNames()
 
 void TestFileStore::makesNamesSafe_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("safe");
-    QTest::newRow("plain") << "Hall 3, Größe"
-                           << "Hall 3, Größe";
-    QTest::newRow("slash") << "a/b"
-                           << "a%2Fb";
-    QTest::newRow("parent folder") << ".."
-                                   << "%2E.";
-    QTest::newRow("hidden") << ".a.b"
-                            << "%2Ea.b";
-    QTest::newRow("percent") << "a%2Fb"
-                             << "a%252Fb";
-    QTest::newRow("empty") << ""
-                           << "%-";
-    QTest::newRow("control characters") << u"a\n\x7F\u0085"_s << "a%0A%7F%C2%85";
-    QTest::newRow("right to left") << u"a\u202Eb"_s << "a%E2%80%AEb";
-    QTest::newRow("half a pair") << QString(QChar(0xD800)) << "%uD800";
-    QTest::newRow("200 bytes") << QString(100, u'ä') << QString(100, u'ä');
+    const Table<QString, QString> row{"name", "safe"};
+    row("plain", "Hall 3, Größe", "Hall 3, Größe");
+    row("slash", "a/b", "a%2Fb");
+    row("parent folder", "..", "%2E.");
+    row("hidden", ".a.b", "%2Ea.b");
+    row("percent", "a%2Fb", "a%252Fb");
+    row("empty", "", "%-");
+    row("control characters", u"a\n\x7F\u0085"_s, "a%0A%7F%C2%85");
+    row("right to left", u"a\u202Eb"_s, "a%E2%80%AEb");
+    row("half a pair", QString(QChar(0xD800)), "%uD800");
+    row("200 bytes", QString(100, u'ä'), QString(100, u'ä'));
 }
 
 void TestFileStore::makesNamesSafe()

@@ -1,6 +1,7 @@
 #include "file_store.h"
 #include "ppd_file.h"
 #include "size_limits.h"
+#include "table.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -117,24 +118,15 @@ void TestPpdFile::listsPageSizes()
 
 void TestPpdFile::marksWhatIsOffered_data()
 {
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<bool>("conflict");
-    QTest::addColumn<QString>("marked"); // afterwards; empty: none
-    QTest::newRow("no conflict") << "Duplex"
-                                 << "DuplexTumble" << false << "DuplexTumble";
-    QTest::newRow("no finisher") << "StapleLocation"
-                                 << "DualLandscape" << true << "DualLandscape";
-    QTest::newRow("unknown option") << "Colour"
-                                    << "Red" << false << "";
-    QTest::newRow("unknown choice") << "Duplex"
-                                    << "Sideways" << false << "None";
-    QTest::newRow("empty choice") << "Duplex"
-                                  << "" << false << "None";
-    QTest::newRow("custom size") << "PageSize"
-                                 << "Custom.400x500" << false << "Custom";
-    QTest::newRow("custom size of nothing") << "Duplex"
-                                            << "Custom.400x500" << false << "None";
+    // marked: afterwards; empty: none
+    const Table<QString, QString, bool, QString> row{"option", "choice", "conflict", "marked"};
+    row("no conflict", "Duplex", "DuplexTumble", false, "DuplexTumble");
+    row("no finisher", "StapleLocation", "DualLandscape", true, "DualLandscape");
+    row("unknown option", "Colour", "Red", false, "");
+    row("unknown choice", "Duplex", "Sideways", false, "None");
+    row("empty choice", "Duplex", "", false, "None");
+    row("custom size", "PageSize", "Custom.400x500", false, "Custom");
+    row("custom size of nothing", "Duplex", "Custom.400x500", false, "None");
 }
 
 void TestPpdFile::marksWhatIsOffered()
@@ -159,54 +151,44 @@ using Groups = QList<QStringList>;
 
 void TestPpdFile::namesConflicts_data()
 {
-    QTest::addColumn<PpdSelection>("selection");
-    QTest::addColumn<Groups>("groups");
-    QTest::newRow("defaults") << PpdSelection() << Groups();
-    QTest::newRow("two options") << PpdSelection{{"StapleLocation", "DualLandscape"}}
-                                 << Groups{{"StapleLocation", "KVFinisher"}};
-    QTest::newRow("one option in two conflicts")
-        << PpdSelection{{"StapleLocation", "DualLandscape"}, {"MediaType", "Transparency"}}
-        << Groups{{"MediaType", "StapleLocation"}, {"StapleLocation", "KVFinisher"}};
-    QTest::newRow("two conflicts apart")
-        << PpdSelection{{"PageSize", "A3"},
-                        {"InputSlot", "Bypass"},
-                        {"KVMarks", "Fold"},
-                        {"JCLBanner", "True"}}
-        << Groups{{"PageSize", "InputSlot"}, {"KVMarks", "JCLBanner"}};
-    QTest::newRow("custom size") << PpdSelection{{"PageSize", "Custom.400x500"},
-                                                 {"Duplex", "DuplexTumble"}}
-                                 << Groups{{"PageSize", "Duplex"}};
-    QTest::newRow("two of three") << PpdSelection{{"MediaType", "CardStock"},
-                                                  {"InputSlot", "Bypass"}}
-                                  << Groups();
-    QTest::newRow("three together") << PpdSelection{{"MediaType", "CardStock"},
-                                                    {"InputSlot", "Bypass"},
-                                                    {"Duplex", "DuplexTumble"}}
-                                    << Groups{{"MediaType", "Duplex", "InputSlot"}};
-    QTest::newRow("second of many") << PpdSelection{{"KVMarks", "Fold"}, {"JCLBanner", "True"}}
-                                    << Groups{{"KVMarks", "JCLBanner"}};
-    QTest::newRow("unknown names")
-        << PpdSelection{{"Colour", "Red"}, {"Duplex", "Sideways"}} << Groups();
+    const Table<PpdSelection, Groups> row{"selection", "groups"};
+    row("defaults", {}, Groups());
+    row("two options", {{"StapleLocation", "DualLandscape"}},
+        Groups{{"StapleLocation", "KVFinisher"}});
+    row("one option in two conflicts",
+        {{"StapleLocation", "DualLandscape"}, {"MediaType", "Transparency"}},
+        Groups{{"MediaType", "StapleLocation"}, {"StapleLocation", "KVFinisher"}});
+    row("two conflicts apart",
+        {{"PageSize", "A3"}, {"InputSlot", "Bypass"}, {"KVMarks", "Fold"}, {"JCLBanner", "True"}},
+        Groups{{"PageSize", "InputSlot"}, {"KVMarks", "JCLBanner"}});
+    row("custom size", {{"PageSize", "Custom.400x500"}, {"Duplex", "DuplexTumble"}},
+        Groups{{"PageSize", "Duplex"}});
+    row("two of three", {{"MediaType", "CardStock"}, {"InputSlot", "Bypass"}}, Groups());
+    row("three together",
+        {{"MediaType", "CardStock"}, {"InputSlot", "Bypass"}, {"Duplex", "DuplexTumble"}},
+        Groups{{"MediaType", "Duplex", "InputSlot"}});
+    row("second of many", {{"KVMarks", "Fold"}, {"JCLBanner", "True"}},
+        Groups{{"KVMarks", "JCLBanner"}});
+    row("unknown names", {{"Colour", "Red"}, {"Duplex", "Sideways"}}, Groups());
 }
 
 void TestPpdFile::namesConflicts()
 {
     QFETCH(PpdSelection, selection);
-    QFETCH(Groups, groups);
     Groups found;
     for (const PpdConflict &conflict : m_ppd->conflicts(selection))
         found << conflict.options;
-    QCOMPARE(found, groups);
+    QTEST(found, "groups");
 }
 
 void TestPpdFile::readsTextsInTheirEncoding_data()
 {
-    QTest::addColumn<QByteArray>("encoding"); // as the PPD's line says it
-    QTest::addColumn<QString>("text");        // of the bytes D0 DD DE F0 FD FE E7
-    QTest::newRow("Latin 1") << QByteArray("ISOLatin1") << u"ÐÝÞðýþç"_s;
-    QTest::newRow("Latin 2") << QByteArray("ISOLatin2") << u"ĐÝŢđýţç"_s;
-    QTest::newRow("Latin 5") << QByteArray("ISOLatin5") << u"ĞİŞğışç"_s;
-    QTest::newRow("Latin 5 with a carriage return") << QByteArray("ISOLatin5\r") << u"ĞİŞğışç"_s;
+    // encoding: as the PPD's line says it; text: of the bytes D0 DD DE F0 FD FE E7
+    const Table<QByteArray, QString> row{"encoding", "text"};
+    row("Latin 1", "ISOLatin1", u"ÐÝÞðýþç"_s);
+    row("Latin 2", "ISOLatin2", u"ĐÝŢđýţç"_s);
+    row("Latin 5", "ISOLatin5", u"ĞİŞğışç"_s);
+    row("Latin 5 with a carriage return", "ISOLatin5\r", u"ĞİŞğışç"_s);
 }
 
 void TestPpdFile::readsTextsInTheirEncoding()
@@ -286,27 +268,22 @@ void TestPpdFile::knowsWhatTheEquipmentRulesOut()
 void TestPpdFile::resolvesConflicts_data()
 {
     using Changes = std::optional<PpdSelection>;
-    QTest::addColumn<PpdSelection>("selection");
-    QTest::addColumn<QString>("keep");
-    QTest::addColumn<Changes>("changes");
+    const Table<PpdSelection, QString, Changes> row{"selection", "keep", "changes"};
     const PpdSelection transparency{{"StapleLocation", "DualLandscape"},
                                     {"MediaType", "Transparency"},
                                     {"KVFinisher", "BClass"}};
-    QTest::newRow("no conflict") << PpdSelection{{"Duplex", "DuplexTumble"}} << ""
-                                 << Changes(PpdSelection());
-    QTest::newRow("media is kept")
-        << transparency << "MediaType" << Changes(PpdSelection{{"StapleLocation", "None"}});
-    QTest::newRow("staples are kept")
-        << transparency << "StapleLocation" << Changes(PpdSelection{{"MediaType", "Standard"}});
-    QTest::newRow("the PPD's own way") << PpdSelection{{"MediaType", "CardStock"},
-                                                       {"InputSlot", "Bypass"},
-                                                       {"Duplex", "DuplexTumble"}}
-                                       << "" << Changes(PpdSelection{{"Duplex", "None"}});
-    QTest::newRow("only the kept option can give way")
-        << PpdSelection{{"StapleLocation", "DualLandscape"}} << "StapleLocation"
-        << Changes(PpdSelection{{"StapleLocation", "None"}});
-    QTest::newRow("page sizes stay") << PpdSelection{{"PageSize", "A3"}, {"InputSlot", "Bypass"}}
-                                     << "PageSize" << Changes(PpdSelection{{"InputSlot", "Auto"}});
+    row("no conflict", {{"Duplex", "DuplexTumble"}}, "", Changes(PpdSelection()));
+    row("media is kept", transparency, "MediaType",
+        Changes(PpdSelection{{"StapleLocation", "None"}}));
+    row("staples are kept", transparency, "StapleLocation",
+        Changes(PpdSelection{{"MediaType", "Standard"}}));
+    row("the PPD's own way",
+        {{"MediaType", "CardStock"}, {"InputSlot", "Bypass"}, {"Duplex", "DuplexTumble"}}, "",
+        Changes(PpdSelection{{"Duplex", "None"}}));
+    row("only the kept option can give way", {{"StapleLocation", "DualLandscape"}},
+        "StapleLocation", Changes(PpdSelection{{"StapleLocation", "None"}}));
+    row("page sizes stay", {{"PageSize", "A3"}, {"InputSlot", "Bypass"}}, "PageSize",
+        Changes(PpdSelection{{"InputSlot", "Auto"}}));
 }
 
 void TestPpdFile::resolvesConflicts()
@@ -336,8 +313,7 @@ void TestPpdFile::leavesTheMarksAloneWhenItLooksForConflicts()
 
 void TestPpdFile::refusesOtherFiles_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<std::optional<Code>>("code");
+    const Table<QByteArray, std::optional<Code>> row{"bytes", "code"};
     using Answer = std::optional<Code>;
     const QByteArray bare = "*PPD-Adobe: \"4.3\"\n";
     const auto padded = [&](qint64 size) { // comments of 100 bytes
@@ -345,34 +321,30 @@ void TestPpdFile::refusesOtherFiles_data()
         lines = bare + lines.repeated((size - bare.size()) / lines.size());
         return lines + QByteArray(size - lines.size(), '\n');
     };
-    QTest::newRow("empty") << QByteArray() << Answer(Code::Damaged);
-    QTest::newRow("another kind") << QByteArray("%PDF-1.4\n") << Answer(Code::Damaged);
-    QTest::newRow("bad rule") << bare + "*UIConstraints: a\n" << Answer(Code::Damaged);
-    QTest::newRow("compressed") << QByteArray("\x1f\x8b\x08") << Answer(Code::Unsupported);
+    row("empty", {}, Answer(Code::Damaged));
+    row("another kind", "%PDF-1.4\n", Answer(Code::Damaged));
+    row("bad rule", bare + "*UIConstraints: a\n", Answer(Code::Damaged));
+    row("compressed", "\x1f\x8b\x08", Answer(Code::Unsupported));
     for (const char *cut :
          {"*OpenUI *A/Text: PickOne\n*A B/C: \"x\"\n", "*JCLOpenUI *JCLA/Text: PickOne\n",
           "*OpenGroup: G/Text\n", "*OpenGroup: G\r\n*OpenUI *A: PickOne\r\n*CloseUI: *A\r\n"})
-        QTest::newRow(qPrintable(QStringLiteral("cut off after %1").arg(QLatin1String(cut))))
-            << bare + cut << Answer(Code::Damaged);
-    QTest::newRow("a word of the kind in a text")
-        << bare + "*A: \"\n*OpenUI *B: PickOne\n\"\n*End\n"
-        << Answer();
-    QTest::newRow("most options") << bare
-            + QByteArray("*OpenUI *A: PickOne\n*CloseUI: *A\n").repeated(limits::ppdOptions)
-                                  << Answer();
-    QTest::newRow("too many options")
-        << bare + QByteArray("*OpenUI *A: PickOne\n*CloseUI: *A\n").repeated(limits::ppdOptions + 1)
-        << Answer(Code::TooLarge);
+        row(qPrintable(QStringLiteral("cut off after %1").arg(QLatin1String(cut))), bare + cut,
+            Answer(Code::Damaged));
+    row("a word of the kind in a text", bare + "*A: \"\n*OpenUI *B: PickOne\n\"\n*End\n", Answer());
+    row("most options",
+        bare + QByteArray("*OpenUI *A: PickOne\n*CloseUI: *A\n").repeated(limits::ppdOptions),
+        Answer());
+    row("too many options",
+        bare + QByteArray("*OpenUI *A: PickOne\n*CloseUI: *A\n").repeated(limits::ppdOptions + 1),
+        Answer(Code::TooLarge));
     const QByteArray size = "*PaperDimension A: \"1 1\"\n";
-    QTest::newRow("most sizes") << bare + size.repeated(limits::ppdPageSizes) << Answer();
-    QTest::newRow("too many sizes")
-        << bare + size.repeated(limits::ppdPageSizes + 1) << Answer(Code::TooLarge);
+    row("most sizes", bare + size.repeated(limits::ppdPageSizes), Answer());
+    row("too many sizes", bare + size.repeated(limits::ppdPageSizes + 1), Answer(Code::TooLarge));
     const QByteArray rule = "*UIConstraints: *A *B\n";
-    QTest::newRow("most rules") << bare + rule.repeated(limits::ppdConstraints) << Answer();
-    QTest::newRow("too many rules")
-        << bare + rule.repeated(limits::ppdConstraints + 1) << Answer(Code::TooLarge);
-    QTest::newRow("largest") << padded(limits::ppdBytes) << Answer();
-    QTest::newRow("too large") << padded(limits::ppdBytes + 1) << Answer(Code::TooLarge);
+    row("most rules", bare + rule.repeated(limits::ppdConstraints), Answer());
+    row("too many rules", bare + rule.repeated(limits::ppdConstraints + 1), Answer(Code::TooLarge));
+    row("largest", padded(limits::ppdBytes), Answer());
+    row("too large", padded(limits::ppdBytes + 1), Answer(Code::TooLarge));
 }
 
 void TestPpdFile::refusesOtherFiles()

@@ -1,6 +1,7 @@
 #include "file_store.h"
 #include "property_list.h"
 #include "size_limits.h"
+#include "table.h"
 #include "values.h"
 
 #include <QDateTime>
@@ -63,16 +64,15 @@ static Dictionary everything()
 
 void TestPropertyList::readsWhatItWrote_data()
 {
-    QTest::addColumn<QVariant>("written");
-    QTest::addColumn<QVariant>("read");
-    QTest::newRow("everything") << QVariant(everything()) << QVariant(everything());
-    QTest::newRow("narrow integer") << QVariant(7) << QVariant(qint64(7));
-    QTest::newRow("unsigned") << QVariant(quint64(7)) << QVariant(qint64(7));
-    QTest::newRow("whole real") << QVariant(7.0) << QVariant(7.0);
-    QTest::newRow("float") << QVariant(0.1F) << QVariant(double(0.1F));
-    QTest::newRow("local date with milliseconds")
-        << QVariant(leapDay.addMSecs(999).toOffsetFromUtc(3600)) << QVariant(leapDay);
-    QTest::newRow("null text") << QVariant(QString()) << QVariant(QLatin1String(""));
+    const Table<QVariant, QVariant> row{"written", "read"};
+    row("everything", QVariant(everything()), QVariant(everything()));
+    row("narrow integer", QVariant(7), QVariant(qint64(7)));
+    row("unsigned", QVariant(quint64(7)), QVariant(qint64(7)));
+    row("whole real", QVariant(7.0), QVariant(7.0));
+    row("float", QVariant(0.1F), QVariant(double(0.1F)));
+    row("local date with milliseconds", QVariant(leapDay.addMSecs(999).toOffsetFromUtc(3600)),
+        QVariant(leapDay));
+    row("null text", QVariant(QString()), QVariant(QLatin1String("")));
 }
 
 void TestPropertyList::readsWhatItWrote()
@@ -111,11 +111,7 @@ void TestPropertyList::writesTheSameBytesForTheSameList()
 
 void TestPropertyList::readsValues_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QVariant>("value");
-    const auto row = [](const char *name, const char *content, const QVariant &value) {
-        QTest::newRow(name) << QByteArray(content) << value;
-    };
+    const Table<QByteArray, QVariant> row{"content", "value"};
     row("hexadecimal", "<integer>0x1F</integer>", qint64(31));
     row("least hexadecimal", "<integer>-0x8000000000000000</integer>",
         std::numeric_limits<qint64>::min());
@@ -145,11 +141,7 @@ void TestPropertyList::readsValues()
 
 void TestPropertyList::refusesOtherFiles_data()
 {
-    QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<Code>("code");
-    const auto file = [](const char *name, const QByteArray &xml, Code code) {
-        QTest::newRow(name) << xml << code;
-    };
+    const Table<QByteArray, Code> file{"xml", "code"};
     const auto content = [&](const char *name, const QByteArray &xml, Code code) {
         file(name, document(xml), code); // an error stands in line 3
     };
@@ -229,22 +221,21 @@ void TestPropertyList::saysInWhichLineAFileIsWrong()
 
 void TestPropertyList::refusesWhatNoListCanHold_data()
 {
-    QTest::addColumn<QVariant>("value"); // stands at outer/1 of the list
-    QTest::addColumn<Code>("code");
-    QTest::newRow("nothing") << QVariant() << Code::WrongType;
-    QTest::newRow("another type") << QVariant(QSize(1, 2)) << Code::WrongType;
-    QTest::newRow("null character") << QVariant(QString(QChar(0))) << Code::Unsupported;
-    QTest::newRow("control character") << QVariant(u"\x1B"_s) << Code::Unsupported;
-    QTest::newRow("half a pair") << QVariant(QString(QChar(0xD83D))) << Code::Unsupported;
-    QTest::newRow("halves swapped")
-        << QVariant(QString(QChar(0xDC00)) + QChar(0xD83D)) << Code::Unsupported;
-    QTest::newRow("U+FFFF") << QVariant(QString(QChar(0xFFFF))) << Code::Unsupported;
-    QTest::newRow("2^63") << QVariant(quint64(1) << 63) << Code::OutOfRange;
-    QTest::newRow("not a number") << QVariant(std::nan("")) << Code::OutOfRange;
-    QTest::newRow("infinite float") << QVariant(HUGE_VALF) << Code::OutOfRange;
-    QTest::newRow("no date") << QVariant(QDateTime()) << Code::OutOfRange;
-    QTest::newRow("year 10000") << QVariant(QDateTime(QDate(10000, 1, 1), QTime(0, 0), Qt::UTC))
-                                << Code::OutOfRange;
+    // value: stands at outer/1 of the list
+    const Table<QVariant, Code> row{"value", "code"};
+    row("nothing", {}, Code::WrongType);
+    row("another type", QVariant(QSize(1, 2)), Code::WrongType);
+    row("null character", QVariant(QString(QChar(0))), Code::Unsupported);
+    row("control character", QVariant(u"\x1B"_s), Code::Unsupported);
+    row("half a pair", QVariant(QString(QChar(0xD83D))), Code::Unsupported);
+    row("halves swapped", QVariant(QString(QChar(0xDC00)) + QChar(0xD83D)), Code::Unsupported);
+    row("U+FFFF", QVariant(QString(QChar(0xFFFF))), Code::Unsupported);
+    row("2^63", QVariant(quint64(1) << 63), Code::OutOfRange);
+    row("not a number", QVariant(std::nan("")), Code::OutOfRange);
+    row("infinite float", QVariant(HUGE_VALF), Code::OutOfRange);
+    row("no date", QVariant(QDateTime()), Code::OutOfRange);
+    row("year 10000", QVariant(QDateTime(QDate(10000, 1, 1), QTime(0, 0), Qt::UTC)),
+        Code::OutOfRange);
 }
 
 void TestPropertyList::refusesWhatNoListCanHold()
@@ -259,25 +250,24 @@ void TestPropertyList::refusesWhatNoListCanHold()
 
 void TestPropertyList::holdsItsLimits_data()
 {
-    QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<bool>("fits");
+    const Table<QByteArray, bool> row{"xml", "fits"};
     const auto nested = [](int depth) {
         return document(QByteArray("<array>").repeated(depth)
                         + QByteArray("</array>").repeated(depth));
     };
-    QTest::newRow("deepest") << nested(limits::plistDepth) << true;
-    QTest::newRow("too deep") << nested(limits::plistDepth + 1) << false;
+    row("deepest", nested(limits::plistDepth), true);
+    row("too deep", nested(limits::plistDepth + 1), false);
     const auto many = [](qint64 values) { // the array is one of them
         return document("<array>" + QByteArray("<true/>").repeated(values - 1) + "</array>");
     };
-    QTest::newRow("most values") << many(limits::plistNodes) << true;
-    QTest::newRow("too many values") << many(limits::plistNodes + 1) << false;
+    row("most values", many(limits::plistNodes), true);
+    row("too many values", many(limits::plistNodes + 1), false);
     const auto padded = [](qint64 size) {
         const QByteArray list = document("<true/>");
         return list + QByteArray(size - list.size(), ' ');
     };
-    QTest::newRow("most bytes") << padded(limits::plistBytes) << true;
-    QTest::newRow("too many bytes") << padded(limits::plistBytes + 1) << false;
+    row("most bytes", padded(limits::plistBytes), true);
+    row("too many bytes", padded(limits::plistBytes + 1), false);
 }
 
 void TestPropertyList::holdsItsLimits()

@@ -3,6 +3,7 @@
 #include "menu.h"
 #include "string_table.h"
 #include "system_information.h"
+#include "table.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -26,45 +27,34 @@ private slots:
     void findsTheDefaultRoute_data();
     void findsTheDefaultRoute();
     void knowsUserAndComputer();
-    void measuresPaperAsTheLocaleDoes_data();
     void measuresPaperAsTheLocaleDoes();
 };
 
 void TestSurroundings::choosesFoldersFromTheEnvironment_data()
 {
     using Variables = QMap<QByteArray, QByteArray>;
-    QTest::addColumn<Variables>("variables");
-    QTest::addColumn<QString>("preferences");
-    QTest::addColumn<QString>("support");
-    QTest::addColumn<QStringList>("site");
+    const Table<Variables, QString, QString, QStringList> row{"variables", "preferences", "support",
+                                                              "site"};
     const QStringList site{u"/etc/xdg/kelvo"_s};
 
-    QTest::newRow("home alone") << Variables{{"HOME", "/h/u/"}} << "/h/u/.config/kelvo"
-                                << "/h/u/.local/share" << site;
-    QTest::newRow("desktop's folders")
-        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "/c/"}, {"XDG_DATA_HOME", "/d"}}
-        << "/c/kelvo"
-        << "/d" << site;
-    QTest::newRow("relative folders are ignored")
-        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_DATA_HOME", "d"}}
-        << "/h/.config/kelvo"
-        << "/h/.local/share" << site;
-    QTest::newRow("our own") << Variables{{"KELVO_SUPPORT_DIR", "/s"},
-                                          {"KELVO_SITE_DIR", "/t"},
-                                          {"XDG_CONFIG_DIRS", "/x"}}
-                             << ""
-                             << "/s" << QStringList("/t");
-    QTest::newRow("the system's folders")
-        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", "/etc/site/:etc::/etc/xdg"}}
-        << "/h/.config/kelvo"
-        << "/h/.local/share" << QStringList{"/etc/site/kelvo", "/etc/xdg/kelvo"};
-    QTest::newRow("none of the system's folders")
-        << Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", ":etc"}} << "/h/.config/kelvo"
-        << "/h/.local/share" << site;
-    QTest::newRow("nothing") << Variables() << ""
-                             << "" << site;
-    QTest::newRow("root folder") << Variables{{"HOME", "/"}} << "/.config/kelvo"
-                                 << "/.local/share" << site;
+    row("home alone", Variables{{"HOME", "/h/u/"}}, "/h/u/.config/kelvo", "/h/u/.local/share",
+        site);
+    row("desktop's folders",
+        Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "/c/"}, {"XDG_DATA_HOME", "/d"}}, "/c/kelvo",
+        "/d", site);
+    row("relative folders are ignored",
+        Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_DATA_HOME", "d"}},
+        "/h/.config/kelvo", "/h/.local/share", site);
+    row("our own",
+        Variables{{"KELVO_SUPPORT_DIR", "/s"}, {"KELVO_SITE_DIR", "/t"}, {"XDG_CONFIG_DIRS", "/x"}},
+        "", "/s", QStringList("/t"));
+    row("the system's folders",
+        Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", "/etc/site/:etc::/etc/xdg"}},
+        "/h/.config/kelvo", "/h/.local/share", {"/etc/site/kelvo", "/etc/xdg/kelvo"});
+    row("none of the system's folders", Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", ":etc"}},
+        "/h/.config/kelvo", "/h/.local/share", site);
+    row("nothing", Variables(), "", "", site);
+    row("root folder", Variables{{"HOME", "/"}}, "/.config/kelvo", "/.local/share", site);
 }
 
 void TestSurroundings::choosesFoldersFromTheEnvironment()
@@ -88,14 +78,11 @@ void TestSurroundings::choosesFoldersFromTheEnvironment()
 
 void TestSurroundings::countsSecondsSince1904_data()
 {
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QTime>("time");
-    QTest::addColumn<qint64>("seconds");
-    QTest::newRow("epoch") << QDate(1904, 1, 1) << QTime(0, 0) << Q_INT64_C(0);
-    QTest::newRow("a second before") << QDate(1903, 12, 31) << QTime(23, 59, 59) << Q_INT64_C(-1);
-    QTest::newRow("Unix epoch") << QDate(1970, 1, 1) << QTime(0, 0) << Q_INT64_C(2082844800);
-    QTest::newRow("above 32 bits")
-        << QDate(2040, 2, 6) << QTime(6, 28, 16) << Q_INT64_C(4294967296);
+    const Table<QDate, QTime, qint64> row{"date", "time", "seconds"};
+    row("epoch", QDate(1904, 1, 1), QTime(0, 0), 0);
+    row("a second before", QDate(1903, 12, 31), QTime(23, 59, 59), -1);
+    row("Unix epoch", QDate(1970, 1, 1), QTime(0, 0), 2082844800);
+    row("above 32 bits", QDate(2040, 2, 6), QTime(6, 28, 16), 4294967296);
 }
 
 void TestSurroundings::countsSecondsSince1904()
@@ -125,14 +112,12 @@ void TestSurroundings::findsMenuItemsInSubmenus()
 
 void TestSurroundings::fillsPlaceHoldersAtOnce_data()
 {
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("order and repeat") << "%2 of %1, %2" << QStringList{"a", "b"} << "b of a, b";
-    QTest::newRow("typed place holder") << "%1 and %2" << QStringList{"%2", "b"} << "%2 and b";
-    QTest::newRow("missing argument") << "%1 %2" << QStringList{"a"} << "a %2";
-    QTest::newRow("not a place holder") << "100% %0 %x %" << QStringList{"a"} << "100% %0 %x %";
-    QTest::newRow("one digit only") << "%10" << QStringList{"a"} << "a0";
+    const Table<QString, QStringList, QString> row{"format", "arguments", "text"};
+    row("order and repeat", "%2 of %1, %2", {"a", "b"}, "b of a, b");
+    row("typed place holder", "%1 and %2", {"%2", "b"}, "%2 and b");
+    row("missing argument", "%1 %2", {"a"}, "a %2");
+    row("not a place holder", "100% %0 %x %", {"a"}, "100% %0 %x %");
+    row("one digit only", "%10", {"a"}, "a0");
 }
 
 void TestSurroundings::fillsPlaceHoldersAtOnce()
@@ -144,23 +129,22 @@ void TestSurroundings::fillsPlaceHoldersAtOnce()
 
 void TestSurroundings::findsTheDefaultRoute_data()
 {
-    QTest::addColumn<QByteArray>("routes");    // interface, destination, gateway, flags, …
-    QTest::addColumn<QByteArray>("interface"); // empty: none
+    // routes: interface, destination, gateway, flags, …; interface empty: none
+    const Table<QByteArray, QByteArray> row{"routes", "interface"};
     const QByteArray header =
         "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n";
     const QByteArray wired = "eth0\t00000000\t0100A8C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n";
     const QByteArray wireless = "wlan0\t00000000\t0100A8C0\t0003\t0\t0\t60\t00000000\t0\t0\t0\n";
-    QTest::newRow("lowest metric") << header + wired + wireless << QByteArray("wlan0");
-    QTest::newRow("first of equal metric")
-        << header + wired + QByteArray(wired).replace("eth0", "eth1") << QByteArray("eth0");
-    QTest::newRow("no gateway") << header + QByteArray(wired).replace("0003", "0001")
-                                << QByteArray("eth0");
-    QTest::newRow("not up") << header + QByteArray(wired).replace("0003", "0002") << QByteArray();
-    QTest::newRow("rejects") << header + QByteArray(wired).replace("0003", "0201") << QByteArray();
-    QTest::newRow("not every destination")
-        << header + QByteArray(wired).replace("\t00000000\t0\t", "\t00FFFFFF\t0\t") << QByteArray();
-    QTest::newRow("cut off") << header + wired.left(30) << QByteArray();
-    QTest::newRow("empty") << QByteArray() << QByteArray();
+    row("lowest metric", header + wired + wireless, "wlan0");
+    row("first of equal metric", header + wired + QByteArray(wired).replace("eth0", "eth1"),
+        "eth0");
+    row("no gateway", header + QByteArray(wired).replace("0003", "0001"), "eth0");
+    row("not up", header + QByteArray(wired).replace("0003", "0002"), {});
+    row("rejects", header + QByteArray(wired).replace("0003", "0201"), {});
+    row("not every destination",
+        header + QByteArray(wired).replace("\t00000000\t0\t", "\t00FFFFFF\t0\t"), {});
+    row("cut off", header + wired.left(30), {});
+    row("empty", {}, {});
 }
 
 void TestSurroundings::findsTheDefaultRoute()
@@ -178,19 +162,14 @@ void TestSurroundings::knowsUserAndComputer()
                  qPrintable(*address));
 }
 
-void TestSurroundings::measuresPaperAsTheLocaleDoes_data()
-{
-    QTest::addColumn<QLocale::MeasurementSystem>("system");
-    QTest::newRow("en_US") << QLocale::ImperialUSSystem;
-    QTest::newRow("en_GB") << QLocale::MetricSystem;
-    QTest::newRow("de_DE") << QLocale::MetricSystem;
-}
-
-// The row's name is the locale.
 void TestSurroundings::measuresPaperAsTheLocaleDoes()
 {
-    QLocale::setDefault(QLocale(QString::fromLatin1(QTest::currentDataTag())));
-    QTEST(measurementSystem(), "system");
+    for (const auto &[locale, system] : {std::pair("en_US", QLocale::ImperialUSSystem),
+                                         {"en_GB", QLocale::MetricSystem},
+                                         {"de_DE", QLocale::MetricSystem}}) {
+        QLocale::setDefault(QLocale(QLatin1String(locale)));
+        QCOMPARE(measurementSystem(), system);
+    }
     QLocale::setDefault(QLocale::c());
 }
 

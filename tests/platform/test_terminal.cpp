@@ -1,5 +1,6 @@
 #include "file_names.h"
 #include "standard_error.h"
+#include "table.h"
 #include "terminal.h"
 
 #include <QJsonArray>
@@ -23,11 +24,7 @@ private slots:
 
 void TestTerminal::writesOutWhatIsNotSeen_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("visible");
-    const auto row = [](const char *name, const QString &text, const QString &visible) {
-        QTest::newRow(name) << text << visible;
-    };
+    const Table<QString, QString> row{"text", "visible"};
     row("words", u"Grüße, 印刷 😀 100% \\n"_s, u"Grüße, 印刷 😀 100% \\n"_s);
     row("line ends and tab", u"a\nb\r\nc\td"_s, u"a\\nb\\r\\nc\\td"_s);
     row("null", QString(QChar(0)) + u'x', u"\\x00x"_s);

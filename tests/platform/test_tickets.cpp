@@ -1,6 +1,7 @@
 #include "file_store.h"
 #include "files.h"
 #include "property_list.h"
+#include "table.h"
 #include "ticket_file.h"
 
 #include <QTemporaryDir>
@@ -154,14 +155,11 @@ void TestTickets::keepsWhatItDoesNotKnow()
 
 void TestTickets::refusesOtherLists_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QVariant>("value"); // invalid: the key is taken out
-    QTest::addColumn<Code>("code");
-    QTest::addColumn<QString>("where");
-    const auto row = [](const char *title, const char *name, const QVariant &value, Code code,
-                        const char *where) {
-        QTest::newRow(title) << QString::fromUtf8(name) << value << code
-                             << u"a.plist: "_s + QString::fromUtf8(where);
+    // value invalid: the key is taken out
+    const Table<QString, QVariant, Code, QString> table{"name", "value", "code", "where"};
+    const auto row = [&](const char *title, const char *name, const QVariant &value, Code code,
+                         const char *where) {
+        table(title, name, value, code, u"a.plist: "_s + where);
     };
     const Dictionary nameless{{QString(), 1}};
     const Dictionary number{{u"Duplex"_s, 1}};

@@ -1,3 +1,4 @@
+#include "table.h"
 #include "values.h"
 
 #include <QTest>
@@ -31,12 +32,7 @@ void TestValues::readsNumbersWithoutChangingThem_data()
     constexpr qint64 most = std::numeric_limits<qint64>::max();
     constexpr qint64 least = std::numeric_limits<qint64>::min();
     constexpr qint64 exact = Q_INT64_C(1) << 53;
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<Wide>("wide");
-    QTest::addColumn<Narrow>("narrow");
-    QTest::addColumn<Real>("number");
-    const auto row = [](const char *name, const QVariant &value, Wide wide, Narrow narrow,
-                        Real number) { QTest::newRow(name) << value << wide << narrow << number; };
+    const Table<QVariant, Wide, Narrow, Real> row{"value", "wide", "narrow", "number"};
     const auto none = std::nullopt;
 
     row("int", 7, 7, 7, 7.0);

@@ -3,7 +3,9 @@
 #include "pde_session.h"
 #include "ppd_choices.h"
 #include "print_session.h"
+#include "sample_ppds.h"
 #include "standard_error.h"
+#include "table.h"
 #include "ticket_values.h"
 
 #include <QTest>
@@ -12,9 +14,9 @@ using namespace kelvo;
 
 namespace {
 
-const QString fullPpd = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
-const QString midPpd = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-mid.ppd");
-const QString barePpd = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-bare.ppd");
+const QString fullPpd = samplePpd("full");
+const QString midPpd = samplePpd("mid");
+const QString barePpd = samplePpd("bare");
 
 // `options` between a head and a tail that libcups takes.
 std::shared_ptr<PpdFile> ppdWith(const QByteArray &options)
@@ -112,7 +114,6 @@ private slots:
     void fillsMenusInThePpdsOrder();
     void leavesOutWhatConflictsAndKeepsTheMarks();
     void reportsWhatItCannotShow();
-    void findsTheFeaturesOfTheSampleDevices_data();
     void findsTheFeaturesOfTheSampleDevices();
     void findsFeaturesByChoice_data();
     void findsFeaturesByChoice();
@@ -164,28 +165,22 @@ void TestDevice::readsTextsAndDefaults()
 
 void TestDevice::takesTheTicketsChoiceBeforeTheDefault_data()
 {
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QString>("ticketChoice"); // empty: none
-    QTest::addColumn<int>("value");            // 99: left alone
+    // ticketChoice empty: none; value 99: left alone
+    const Table<QString, QString, int> row{"keyword", "ticketChoice", "value"};
 
-    QTest::newRow("in the ticket") << "Duplex"
-                                   << "DuplexTumble" << 3;
-    QTest::newRow("the default") << "Duplex" << QString() << 2;
-    QTest::newRow("in the ticket, not in the PPD") << "KVFold"
-                                                   << "Z" << 20;
-    QTest::newRow("nowhere") << "KVFold" << QString() << 99;
-    QTest::newRow("unknown to the map") << "Duplex"
-                                        << "Sideways" << -1;
-    QTest::newRow("default unknown to the map") << "KVPunch" << QString() << -1;
-    QTest::newRow("keyword unknown to the map") << "KVFinisher"
-                                                << "BClass" << -1;
+    row("in the ticket", "Duplex", "DuplexTumble", 3);
+    row("the default", "Duplex", {}, 2);
+    row("in the ticket, not in the PPD", "KVFold", "Z", 20);
+    row("nowhere", "KVFold", {}, 99);
+    row("unknown to the map", "Duplex", "Sideways", -1);
+    row("default unknown to the map", "KVPunch", {}, -1);
+    row("keyword unknown to the map", "KVFinisher", "BClass", -1);
 }
 
 void TestDevice::takesTheTicketsChoiceBeforeTheDefault()
 {
     QFETCH(QString, keyword);
     QFETCH(QString, ticketChoice);
-    QFETCH(int, value);
     const auto ppd = ppdWith(option("Duplex", "DuplexNoTumble", {"None", "DuplexNoTumble"})
                              + option("KVPunch", "Star", {"Star"}));
     PrintSession session;
@@ -197,7 +192,7 @@ void TestDevice::takesTheTicketsChoiceBeforeTheDefault()
 
     std::int32_t out = 99;
     PPDGetTicketValueForChoiceOrDefault(ppd.get(), ticket, keyword, &out);
-    QCOMPARE(out, value);
+    QTEST(out, "value");
 }
 
 void TestDevice::fillsMenusInThePpdsOrder()
@@ -258,69 +253,51 @@ void TestDevice::reportsWhatItCannotShow()
                         "Expected PPD option not found: Duplex\n"));
 }
 
-void TestDevice::findsTheFeaturesOfTheSampleDevices_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("features");
-
-    QTest::newRow("full") << fullPpd
-                          << "FaxKey SingleStapleKey DualStapleKey MultipleStapleKey DualPunchKey "
-                             "TriplePunchKey QuadruplePunchKey CFoldKey ZFoldKey ZFoldHalfSheetKey "
-                             "BookletFoldKey TapeBindKey PostPrintInserterKey AutoSwitchTrayKey "
-                             "StackerTray1Key StackerTray2Key SimpleCatchTrayKey";
-    QTest::newRow("mid") << midPpd
-                         << "SingleStapleKey DualPunchKey AutoSwitchTrayKey StackerTray1Key "
-                            "SimpleCatchTrayKey";
-    QTest::newRow("bare") << barePpd << "";
-}
-
 void TestDevice::findsTheFeaturesOfTheSampleDevices()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, features);
+    const QString full = "FaxKey SingleStapleKey DualStapleKey MultipleStapleKey DualPunchKey "
+                         "TriplePunchKey QuadruplePunchKey CFoldKey ZFoldKey ZFoldHalfSheetKey "
+                         "BookletFoldKey TapeBindKey PostPrintInserterKey AutoSwitchTrayKey "
+                         "StackerTray1Key StackerTray2Key SimpleCatchTrayKey";
+    const QString mid = "SingleStapleKey DualPunchKey AutoSwitchTrayKey StackerTray1Key "
+                        "SimpleCatchTrayKey";
     QVERIFY(!getInstalledFeature("FaxKey")); // before loading
-    const auto ppd = PpdFile::open(path);
-    QVERIFY(ppd);
-    ppd.value()->mark("KVFinisher", "None"); // what was marked before does not count
-    QVERIFY(LoadInstallableOptions(ppd.value().get(), InstalledFeatures));
-    QCOMPARE(installedFeatures(), features);
+    for (const auto &[path, features] :
+         {std::pair(fullPpd, full), {midPpd, mid}, {barePpd, QString()}}) {
+        const auto ppd = PpdFile::open(path);
+        QVERIFY(ppd);
+        ppd.value()->mark("KVFinisher", "None"); // what was marked before does not count
+        QVERIFY(LoadInstallableOptions(ppd.value().get(), InstalledFeatures));
+        QCOMPARE(installedFeatures(), features);
+        UnloadInstallableOptions();
+    }
 }
 
 void TestDevice::findsFeaturesByChoice_data()
 {
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QString>("features");
+    const Table<QString, QString> row{"keyword", "features"};
 
-    QTest::newRow("AClass") << "KVFinisher"
-                            << "SingleStapleKey";
-    QTest::newRow("BClass") << "KVFinisher"
-                            << "SingleStapleKey DualStapleKey";
-    QTest::newRow("bclass") << "KVFinisher"
-                            << "";
-    QTest::newRow("Generic") << "KVPunchUnit"
-                             << "GenericPunchKey";
-    QTest::newRow("TwoThreeHole") << "KVPunchUnit"
-                                  << "DualPunchKey TriplePunchKey";
-    QTest::newRow("FourHole") << "KVPunchUnit"
-                              << "QuadruplePunchKey";
-    QTest::newRow("CZFold") << "KVFolder"
-                            << "CFoldKey ZFoldKey";
+    row("AClass", "KVFinisher", "SingleStapleKey");
+    row("BClass", "KVFinisher", "SingleStapleKey DualStapleKey");
+    row("bclass", "KVFinisher", "");
+    row("Generic", "KVPunchUnit", "GenericPunchKey");
+    row("TwoThreeHole", "KVPunchUnit", "DualPunchKey TriplePunchKey");
+    row("FourHole", "KVPunchUnit", "QuadruplePunchKey");
+    row("CZFold", "KVFolder", "CFoldKey ZFoldKey");
     // It folds booklets and nothing else: no folder counts as installed by it.
-    QTest::newRow("True") << "KVBookletMaker"
-                          << "BookletFoldKey";
+    row("True", "KVBookletMaker", "BookletFoldKey");
 }
 
 // The row's name is the option's choice.
 void TestDevice::findsFeaturesByChoice()
 {
     QFETCH(QString, keyword);
-    QFETCH(QString, features);
     const QByteArray choice = QTest::currentDataTag();
     const auto ppd =
         ppdWith(installable("InstallableOptions", option(keyword.toUtf8(), choice, {choice})));
     QVERIFY(LoadInstallableOptions(ppd.get(), InstalledFeatures));
     QCOMPARE(getInstallableOptionValue(keyword), std::optional(QString::fromUtf8(choice)));
-    QCOMPARE(installedFeatures(), features);
+    QTEST(installedFeatures(), "features");
 }
 
 void TestDevice::firstLoadWinsUntilItIsUnloaded()

@@ -3,10 +3,9 @@
 #include "input_history.h"
 #include "preferences.h"
 #include "standard_error.h"
+#include "table.h"
 
-#include <QCoreApplication>
 #include <QLocale>
-#include <QProcess>
 #include <QTest>
 
 using namespace kelvo;
@@ -45,7 +44,6 @@ private slots:
     void savesWhatIsNewOnly();
     void offersValidItemsOnly_data();
     void offersValidItemsOnly();
-    void keepsNumbersInTheirRange();
 };
 
 void TestPreferences::readsMissingAndDamagedFilesAsEmpty()
@@ -128,27 +126,24 @@ void TestPreferences::readsSharedFilesAndReportsDamage()
 
 void TestPreferences::keepsTheNewestTexts_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("limit");
-    QTest::addColumn<QString>("after");
+    const Table<QString, int, QString> row{"before", "limit", "after"};
 
-    QTest::newRow("first") << "" << 5 << "new";
-    QTest::newRow("at the limit") << "a b c d e" << 5 << "new a b c d";
-    QTest::newRow("one below") << "a b c d" << 5 << "new a b c d";
-    QTest::newRow("far above a limit that went down") << "a b c d e" << 2 << "new a";
-    QTest::newRow("without a limit") << "a b c d e" << 0 << "new a b c d e";
+    row("first", "", 5, "new");
+    row("at the limit", "a b c d e", 5, "new a b c d");
+    row("one below", "a b c d", 5, "new a b c d");
+    row("far above a limit that went down", "a b c d e", 2, "new a");
+    row("without a limit", "a b c d e", 0, "new a b c d e");
 }
 
 void TestPreferences::keepsTheNewestTexts()
 {
     QFETCH(QString, before);
     QFETCH(int, limit);
-    QFETCH(QString, after);
     const QStringList stored = before.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     QVERIFY(
         WriteUserPreferences(kInputHistoryFile, {{key, stored}, {"other", QStringList{"kept"}}}));
     QVERIFY(saveHistory(key, "new", limit));
-    QCOMPARE(readHistory(key).join(QLatin1Char(' ')), after);
+    QTEST(readHistory(key).join(QLatin1Char(' ')), "after");
     QCOMPARE(readHistory("other"), QStringList{"kept"});
 }
 
@@ -175,25 +170,22 @@ void TestPreferences::savesWhatIsNewOnly()
 
 void TestPreferences::offersValidItemsOnly_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<bool>("offered");
+    const Table<int, QString, bool> row{"kind", "item", "offered"};
 
-    QTest::newRow("smallest number") << 1 << "10" << true;
-    QTest::newRow("one below") << 1 << "9" << false;
-    QTest::newRow("greatest number") << 1 << "5000" << true;
-    QTest::newRow("one above") << 1 << "5001" << false;
-    QTest::newRow("grouped number") << 1 << "4.999" << true;
-    QTest::newRow("no number") << 1 << "abc" << false;
-    QTest::newRow("shortest text") << 2 << "ab" << true;
-    QTest::newRow("one shorter") << 2 << "a" << false;
-    QTest::newRow("longest text") << 2 << "abcab" << true;
-    QTest::newRow("one longer") << 2 << "abcabc" << false;
-    QTest::newRow("one character of two units") << 2 << QStringLiteral("\U0001F5A8") << false;
-    QTest::newRow("five characters of two units")
-        << 2 << QStringLiteral("\U0001F5A8").repeated(5) << true;
-    QTest::newRow("character that is not allowed") << 2 << "abx" << false;
-    QTest::newRow("another kind takes all") << 3 << "" << true;
+    row("smallest number", 1, "10", true);
+    row("one below", 1, "9", false);
+    row("greatest number", 1, "5000", true);
+    row("one above", 1, "5001", false);
+    row("grouped number", 1, "4.999", true);
+    row("no number", 1, "abc", false);
+    row("shortest text", 2, "ab", true);
+    row("one shorter", 2, "a", false);
+    row("longest text", 2, "abcab", true);
+    row("one longer", 2, "abcabc", false);
+    row("one character of two units", 2, "\U0001F5A8", false);
+    row("five characters of two units", 2, QStringLiteral("\U0001F5A8").repeated(5), true);
+    row("character that is not allowed", 2, "abx", false);
+    row("another kind takes all", 3, "", true);
 }
 
 void TestPreferences::offersValidItemsOnly()
@@ -218,35 +210,5 @@ void TestPreferences::offersValidItemsOnly()
     }
 }
 
-void TestPreferences::keepsNumbersInTheirRange()
-{
-    QLocale::setDefault(QLocale("de_DE"));
-    KComboBoxOptions options;
-    options.minimumValue = 1;
-    options.maximumValue = 9999;
-    const QList<std::pair<QString, QString>> rows = {
-        {"0", "1"},         {"10000", "9.999"},           {"9999", "9999"},
-        {"9.999", "9.999"}, {QString(25, u'9'), "9.999"}, {"", ""},
-        {"abc", "abc"}};
-    for (const auto &[typed, shown] : rows)
-        QCOMPARE(withinRange(typed, options), shown);
-    QCOMPARE(maximumLengthForNumbers(9999), 4);
-    QCOMPARE(maximumLengthForNumbers(0), 9);
-}
-
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    const QStringList arguments = application.arguments();
-    if (arguments.value(1) == QLatin1String("--save")) {
-        for (int i = 0; i < arguments.value(3).toInt(); ++i) {
-            if (!saveHistory(key, QStringLiteral("%1-%2").arg(arguments[2]).arg(i), 0))
-                return 1;
-        }
-        return 0;
-    }
-    TestPreferences test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TestPreferences)
 #include "test_preferences.moc"

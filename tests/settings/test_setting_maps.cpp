@@ -2,7 +2,9 @@
 #include "installed_features.h"
 #include "keyword_map.h"
 #include "ppd_choices.h"
+#include "sample_ppds.h"
 #include "setting_maps.h"
+#include "table.h"
 #include "ticket_values.h"
 
 #include <QTest>
@@ -55,8 +57,7 @@ constexpr InstalledFeature faxAlways[] = {
 
 void installFax()
 {
-    const auto ppd =
-        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-bare.ppd"));
+    const auto ppd = PpdFile::open(samplePpd("bare"));
     LoadInstallableOptions(ppd.value().get(), faxAlways);
 }
 
@@ -104,36 +105,35 @@ private:
 // Maps whose order or values a hand could easily get wrong.
 void TestSettingMaps::rowsSayWhatTicketsSay_data()
 {
-    QTest::addColumn<MapRef>("map");
-    QTest::addColumn<QString>("rows"); // value and command of each
+    // rows: value and command of each
+    const Table<MapRef, QString> row{"map", "rows"};
 
     const auto command = [](const char(&code)[5]) { return QString::number(fourCharCode(code)); };
-    QTest::newRow("covers skip 4") << MapRef(CoverOptionMap) << "1/0 2/0 3/0 5/0";
-    QTest::newRow("fax resolutions") << MapRef(FaxResolutionMap) << "1/0 2/0 4/0 3/0";
-    QTest::newRow("fax speeds") << MapRef(FaxSendSpeedMap) << "4/0 2/0 5/0";
-    QTest::newRow("printed covers first") << MapRef(CoverSidesImagedMap) << "4/0 1/0";
-    QTest::newRow("job types") << MapRef(JobTypeMap) << "1/0 6/0 8/0 7/0 3/0 5/0";
-    QTest::newRow("one value for all")
-        << MapRef(OPIPrescanMap) << QStringLiteral("%1/0 %1/0 %1/0 %1/0").arg(kujn);
-    QTest::newRow("radio rows have no values") << MapRef(SavedJobSaveOptionRadioMap) << "0/0 0/0";
-    QTest::newRow("cover sheet images") << MapRef(CoverSheetImageMap)
-                                        << "1/" + command("KWmX") + " -5/0 -6/" + command("KWmO")
-            + " -7/" + command("LFin") + " -8/" + command("LFie") + " -9/" + command("LFid");
-    QTest::newRow("watermark options") << MapRef(WatermarkOptionsMap)
-                                       << "1/" + command("KWmB") + " 2/" + command("KWmL") + " 3/"
-            + command("KWmF") + " -5/0 4/" + command("KWmA") + " 5/" + command("KWm1");
-    QTest::newRow("background forms") << MapRef(BookletWatermarkBackgroundFormsMap)
-                                      << "1/" + command("BfCn") + " 2/0 3/" + command("BfCs");
+    row("covers skip 4", MapRef(CoverOptionMap), "1/0 2/0 3/0 5/0");
+    row("fax resolutions", MapRef(FaxResolutionMap), "1/0 2/0 4/0 3/0");
+    row("fax speeds", MapRef(FaxSendSpeedMap), "4/0 2/0 5/0");
+    row("printed covers first", MapRef(CoverSidesImagedMap), "4/0 1/0");
+    row("job types", MapRef(JobTypeMap), "1/0 6/0 8/0 7/0 3/0 5/0");
+    row("one value for all", MapRef(OPIPrescanMap),
+        QStringLiteral("%1/0 %1/0 %1/0 %1/0").arg(kujn));
+    row("radio rows have no values", MapRef(SavedJobSaveOptionRadioMap), "0/0 0/0");
+    row("cover sheet images", MapRef(CoverSheetImageMap),
+        "1/" + command("KWmX") + " -5/0 -6/" + command("KWmO") + " -7/" + command("LFin") + " -8/"
+            + command("LFie") + " -9/" + command("LFid"));
+    row("watermark options", MapRef(WatermarkOptionsMap),
+        "1/" + command("KWmB") + " 2/" + command("KWmL") + " 3/" + command("KWmF") + " -5/0 4/"
+            + command("KWmA") + " 5/" + command("KWm1"));
+    row("background forms", MapRef(BookletWatermarkBackgroundFormsMap),
+        "1/" + command("BfCn") + " 2/0 3/" + command("BfCs"));
 }
 
 void TestSettingMaps::rowsSayWhatTicketsSay()
 {
     QFETCH(MapRef, map);
-    QFETCH(QString, rows);
     QStringList found;
     for (int i = 1; i <= CountMaps(map); ++i)
         found << QStringLiteral("%1/%2").arg(UIToTicket(map, i)).arg(map[i - 1].commandID);
-    QCOMPARE(found.join(QLatin1Char(' ')), rows);
+    QTEST(found.join(QLatin1Char(' ')), "rows");
 }
 
 void TestSettingMaps::everyKeyHasAText()
@@ -157,33 +157,27 @@ void TestSettingMaps::everyKeyHasAText()
 
 void TestSettingMaps::findsRowsByValue_data()
 {
-    QTest::addColumn<MapRef>("map");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("key"); // empty: none
+    // key empty: none
+    const Table<MapRef, int, int, QString> row{"map", "value", "row", "key"};
 
-    QTest::newRow("first row of 0 answers for all")
-        << MapRef(OutputOptionsMap) << 1 << 1 << "Face Down";
-    QTest::newRow("before the row of 0") << MapRef(untilZeroMap) << 1 << 1 << "On";
-    QTest::newRow("behind the row of 0") << MapRef(untilZeroMap) << 2 << 2 << "None";
-    QTest::newRow("nowhere, with a row of 0") << MapRef(untilZeroMap) << 7 << 2 << "None";
-    QTest::newRow("nowhere") << MapRef(PlexMap) << 4 << -1 << QString();
-    QTest::newRow("0 in a map without it") << MapRef(PlexMap) << 0 << -1 << QString();
-    QTest::newRow("first of equal values")
-        << MapRef(RotateImageMap) << kujn << 1 << "PrinterDefault";
-    QTest::newRow("negative") << MapRef(WatermarkMap) << -8 << 5 << "Edit...";
-    QTest::newRow("unset") << MapRef(contextMap) << kUnset << 2 << "Duplex";
-    QTest::newRow("in an empty map") << MapRef(emptyMap) << 1 << -1 << QString();
+    row("first row of 0 answers for all", MapRef(OutputOptionsMap), 1, 1, "Face Down");
+    row("before the row of 0", MapRef(untilZeroMap), 1, 1, "On");
+    row("behind the row of 0", MapRef(untilZeroMap), 2, 2, "None");
+    row("nowhere, with a row of 0", MapRef(untilZeroMap), 7, 2, "None");
+    row("nowhere", MapRef(PlexMap), 4, -1, {});
+    row("0 in a map without it", MapRef(PlexMap), 0, -1, {});
+    row("first of equal values", MapRef(RotateImageMap), kujn, 1, "PrinterDefault");
+    row("negative", MapRef(WatermarkMap), -8, 5, "Edit...");
+    row("unset", MapRef(contextMap), kUnset, 2, "Duplex");
+    row("in an empty map", MapRef(emptyMap), 1, -1, {});
 }
 
 void TestSettingMaps::findsRowsByValue()
 {
     QFETCH(MapRef, map);
     QFETCH(int, value);
-    QFETCH(int, row);
-    QFETCH(QString, key);
-    QCOMPARE(TicketToUI(map, value), row);
-    QCOMPARE(QString::fromUtf8(LocalizedKeyForTicketValue(map, value)), key);
+    QTEST(TicketToUI(map, value), "row");
+    QTEST(QString::fromUtf8(LocalizedKeyForTicketValue(map, value)), "key");
 }
 
 void TestSettingMaps::findsAGatedRowOnlyWhenItsFeatureIsInItsState()
@@ -245,37 +239,22 @@ void TestSettingMaps::marksDividersAndKeepsTheMap()
 
 void TestSettingMaps::translatesPpdChoicesBothWays_data()
 {
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("back"); // what the value turns into
+    // back: what the value turns into
+    const Table<QString, QString, int, QString> row{"keyword", "choice", "value", "back"};
 
-    QTest::newRow("plain") << "Duplex"
-                           << "DuplexTumble" << 3 << "DuplexTumble";
-    QTest::newRow("twin name") << "MediaType"
-                               << "CardStock" << 12 << "CardStock";
-    QTest::newRow("twin name of slip sheets") << "KVSlipSheetType"
-                                              << "CardStock" << 12 << "CardStock";
-    QTest::newRow("twin value, upper bin") << "OutputBin"
-                                           << "Bottom" << 5 << "Upper";
-    QTest::newRow("twin value, top bin") << "OutputBin"
-                                         << "TopTray" << 2 << "Top";
-    QTest::newRow("unset") << "OutputBin"
-                           << "PrinterDefault" << int(kUnset) << "PrinterDefault";
-    QTest::newRow("negative") << "KVImageQuality"
-                              << "Lighten5" << -5 << "Lighten5";
-    QTest::newRow("0") << "KVFrontCoverSheet"
-                       << "Auto" << 0 << "Auto";
-    QTest::newRow("another map's value") << "KVEconomode"
-                                         << "None" << 2 << "None";
-    QTest::newRow("custom size") << "PageSize"
-                                 << "Custom" << 75 << "Custom";
-    QTest::newRow("another letter case") << "Duplex"
-                                         << "duplexTumble" << -1 << QString();
-    QTest::newRow("unknown choice") << "KVPunch"
-                                    << "2HolePunchLandscape" << -1 << QString();
-    QTest::newRow("unknown keyword") << "duplex"
-                                     << "None" << -1 << QString();
+    row("plain", "Duplex", "DuplexTumble", 3, "DuplexTumble");
+    row("twin name", "MediaType", "CardStock", 12, "CardStock");
+    row("twin name of slip sheets", "KVSlipSheetType", "CardStock", 12, "CardStock");
+    row("twin value, upper bin", "OutputBin", "Bottom", 5, "Upper");
+    row("twin value, top bin", "OutputBin", "TopTray", 2, "Top");
+    row("unset", "OutputBin", "PrinterDefault", int(kUnset), "PrinterDefault");
+    row("negative", "KVImageQuality", "Lighten5", -5, "Lighten5");
+    row("0", "KVFrontCoverSheet", "Auto", 0, "Auto");
+    row("another map's value", "KVEconomode", "None", 2, "None");
+    row("custom size", "PageSize", "Custom", 75, "Custom");
+    row("another letter case", "Duplex", "duplexTumble", -1, {});
+    row("unknown choice", "KVPunch", "2HolePunchLandscape", -1, {});
+    row("unknown keyword", "duplex", "None", -1, {});
 }
 
 void TestSettingMaps::translatesPpdChoicesBothWays()
@@ -283,9 +262,8 @@ void TestSettingMaps::translatesPpdChoicesBothWays()
     QFETCH(QString, keyword);
     QFETCH(QString, choice);
     QFETCH(int, value);
-    QFETCH(QString, back);
     QCOMPARE(PPDTicketValueForChoice(keyword, choice), value);
-    QCOMPARE(PPDChoiceForTicketValue(keyword, value).value_or(QString()), back);
+    QTEST(PPDChoiceForTicketValue(keyword, value).value_or(QString()), "back");
     QCOMPARE(PPDChoiceForTicketValue(QStringLiteral("MediaType"), 43),
              std::optional(QStringLiteral("CardStock")));
 }
@@ -293,8 +271,7 @@ void TestSettingMaps::translatesPpdChoicesBothWays()
 // The sample device with everything and the table must not drift apart.
 void TestSettingMaps::knowsTheChoicesOfTheFullDevice()
 {
-    const auto ppd =
-        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    const auto ppd = PpdFile::open(samplePpd("full"));
     QVERIFY(ppd);
     // Other names of bins that the PPD has under "Top" and "Upper".
     const QSet<QString> twins = {"OutputBin TopTray", "OutputBin Center", "OutputBin Bottom"};

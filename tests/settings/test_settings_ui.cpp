@@ -7,6 +7,7 @@
 #include "setting_maps.h"
 #include "summary_view.h"
 #include "tab_control.h"
+#include "table.h"
 
 #include <QLabel>
 #include <QLocale>
@@ -113,19 +114,18 @@ void TestSettingsUi::popupsKeepTheMapsLengthAsMaximum()
 
 void TestSettingsUi::historyStandsInsideAPopup_data()
 {
-    QTest::addColumn<int>("insertAfter");
-    QTest::addColumn<QString>("order"); // map items as numbers
+    // order: map items as numbers
+    const Table<int, QString> row{"insertAfter", "order"};
 
-    QTest::newRow("in front") << 0 << "a b 1 2 3";
-    QTest::newRow("after the first") << 1 << "1 a b 2 3";
-    QTest::newRow("at the end") << 3 << "1 2 3 a b";
-    QTest::newRow("beyond the end") << 9 << "1 2 3 a b";
+    row("in front", 0, "a b 1 2 3");
+    row("after the first", 1, "1 a b 2 3");
+    row("at the end", 3, "1 2 3 a b");
+    row("beyond the end", 9, "1 2 3 a b");
 }
 
 void TestSettingsUi::historyStandsInsideAPopup()
 {
     QFETCH(int, insertAfter);
-    QFETCH(QString, order);
     WriteUserPreferences(kInputHistoryFile, {{key, QVariantList{"a", "b"}}});
     PopupButton popup;
     const int count =
@@ -138,7 +138,7 @@ void TestSettingsUi::historyStandsInsideAPopup()
         const bool isHistory = item.command == fourCharCode("Hist");
         found << (isHistory ? item.text : QString::number(item.reference));
     }
-    QCOMPARE(found.join(QLatin1Char(' ')), order);
+    QTEST(found.join(QLatin1Char(' ')), "order");
 }
 
 void TestSettingsUi::popupsShowTheFirstItemOfAValue()
@@ -252,25 +252,20 @@ void TestSettingsUi::comboBoxesListMapAndValidHistory()
 
 void TestSettingsUi::typedNumbersAreKeptInTheirRange_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<qint64>("value");
-    QTest::addColumn<QString>("shown");
+    const Table<QString, int, qint64, QString> row{"typed", "status", "value", "shown"};
 
-    QTest::newRow("in range") << "1234" << int(noErr) << qint64(1234) << "1234";
-    QTest::newRow("below") << "0" << int(noErr) << qint64(10) << "10";
-    QTest::newRow("above") << "9999" << int(noErr) << qint64(5000) << "5.000";
-    QTest::newRow("a fifth digit") << "12345" << int(noErr) << qint64(1234) << "1234";
-    QTest::newRow("letters and signs") << "-1a,2.3" << int(noErr) << qint64(123) << "123";
-    QTest::newRow("nothing") << "" << int(kComboBoxNoValue) << qint64(77) << "";
+    row("in range", "1234", int(noErr), 1234, "1234");
+    row("below", "0", int(noErr), 10, "10");
+    row("above", "9999", int(noErr), 5000, "5.000");
+    row("a fifth digit", "12345", int(noErr), 1234, "1234");
+    row("letters and signs", "-1a,2.3", int(noErr), 123, "123");
+    row("nothing", "", int(kComboBoxNoValue), 77, "");
 }
 
 void TestSettingsUi::typedNumbersAreKeptInTheirRange()
 {
     QFETCH(QString, typed);
-    QFETCH(int, status);
     QFETCH(qint64, value);
-    QFETCH(QString, shown);
     QLocale::setDefault(QLocale("de_DE"));
     HistoryField field;
     KComboBoxOptions options = numbers();
@@ -279,9 +274,9 @@ void TestSettingsUi::typedNumbersAreKeptInTheirRange()
     KComboBoxInitializeWithMapAndHistory(&field, options);
     typeText(&field, typed);
     QVariant out = qint64(77);
-    QCOMPARE(KComboBoxCopyValue(&field, &out), status);
+    QTEST(KComboBoxCopyValue(&field, &out), "status");
     QCOMPARE(out, QVariant(value));
-    QCOMPARE(field.text(), shown);
+    QTEST(field.text(), "shown");
 }
 
 void TestSettingsUi::leavingAFieldKeepsItsNumberInRange()
@@ -311,29 +306,25 @@ void TestSettingsUi::leavingAFieldKeepsItsNumberInRange()
 
 void TestSettingsUi::comboBoxesShowValues_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("shown");
+    const Table<QVariant, int, QString> row{"value", "status", "shown"};
 
-    QTest::newRow("text") << QVariant("1.234") << int(noErr) << "1.234";
-    QTest::newRow("number of the map") << QVariant(2) << int(noErr) << "2-sided print";
-    QTest::newRow("another number") << QVariant(qint64(1234)) << int(noErr) << "1.234";
-    QTest::newRow("neither") << QVariant(true) << int(paramErr) << "before";
+    row("text", QVariant("1.234"), int(noErr), "1.234");
+    row("number of the map", QVariant(2), int(noErr), "2-sided print");
+    row("another number", QVariant(qint64(1234)), int(noErr), "1.234");
+    row("neither", QVariant(true), int(paramErr), "before");
 }
 
 void TestSettingsUi::comboBoxesShowValues()
 {
     QFETCH(QVariant, value);
-    QFETCH(int, status);
-    QFETCH(QString, shown);
     QLocale::setDefault(QLocale("de_DE"));
     HistoryField field;
     KComboBoxOptions options = numbers();
     options.map = PlexMap;
     KComboBoxInitializeWithMapAndHistory(&field, options);
     field.setText("before");
-    QCOMPARE(KComboBoxSetValue(&field, value), status);
-    QCOMPARE(field.text(), shown);
+    QTEST(KComboBoxSetValue(&field, value), "status");
+    QTEST(field.text(), "shown");
 }
 
 void TestSettingsUi::comboBoxesAnswerMapValuesAndTexts()
@@ -352,30 +343,27 @@ void TestSettingsUi::comboBoxesAnswerMapValuesAndTexts()
 
 void TestSettingsUi::savesNewTextsOnly_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("save");
-    QTest::addColumn<QString>("history");
+    const Table<QString, bool, QString> row{"text", "save", "history"};
 
-    QTest::newRow("new, above the limit") << "new" << true << "new|aa|x";
-    QTest::newRow("not asked to") << "new" << false << "aa|x|bb";
-    QTest::newRow("empty") << "" << true << "aa|x|bb";
-    QTest::newRow("in the history") << "bb" << true << "aa|x|bb";
-    QTest::newRow("in the map") << "Use document name" << true << "aa|x|bb";
-    QTest::newRow("in another letter case") << "BB" << true << "BB|aa|x";
+    row("new, above the limit", "new", true, "new|aa|x");
+    row("not asked to", "new", false, "aa|x|bb");
+    row("empty", "", true, "aa|x|bb");
+    row("in the history", "bb", true, "aa|x|bb");
+    row("in the map", "Use document name", true, "aa|x|bb");
+    row("in another letter case", "BB", true, "BB|aa|x");
 }
 
 void TestSettingsUi::savesNewTextsOnly()
 {
     QFETCH(QString, text);
     QFETCH(bool, save);
-    QFETCH(QString, history);
     // "x" is too short to be offered, and stays.
     WriteUserPreferences(kInputHistoryFile, {{key, QVariantList{"aa", "x", "bb"}}});
     HistoryField field;
     KComboBoxInitializeWithMapAndHistory(&field, names());
     field.setText(text);
     QCOMPARE(KComboBoxFinalize(&field, save), noErr);
-    QCOMPARE(readHistory(key).join(QLatin1Char('|')), history);
+    QTEST(readHistory(key).join(QLatin1Char('|')), "history");
 }
 
 QTEST_MAIN(TestSettingsUi)

@@ -7,6 +7,7 @@
 #include "popup_button.h"
 #include "ppd_file.h"
 #include "property_list.h"
+#include "sample_ppds.h"
 #include "ticket.h"
 
 #include <QLabel>
@@ -19,9 +20,8 @@ using namespace kelvo;
 
 namespace {
 
-const QString kPpds = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/");
-const QString kFullDevice = kPpds + QStringLiteral("kelvo-corvane-full.ppd");
-const QString kBareDevice = kPpds + QStringLiteral("kelvo-corvane-bare.ppd");
+const QString kFullDevice = samplePpd("full");
+const QString kBareDevice = samplePpd("bare");
 
 constexpr std::int32_t kFeedEdge = 702;
 

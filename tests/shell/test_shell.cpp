@@ -1,6 +1,6 @@
 #include "driven_dialog.h"
-#include "fake_panels.h"
 #include "standard_error.h"
+#include "test_panels.h"
 
 #include "bundle.h"
 #include "notice.h"
@@ -8,7 +8,9 @@
 #include "pde_session.h"
 #include "plugin_factory.h"
 #include "popup_button.h"
+#include "sample_ppds.h"
 #include "shell_panel.h"
+#include "table.h"
 
 #include <QLineEdit>
 #include <QTest>
@@ -19,10 +21,10 @@ using namespace kelvo;
 
 namespace {
 
-const QString kDevice = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
+const QString kDevice = samplePpd("full");
 
 Bundle *bundle = nullptr;
-FakePanels *panels = nullptr;
+TestPanels *panels = nullptr;
 JobTypeState jobType;
 int faxSetUps = 0;
 
@@ -50,7 +52,6 @@ private slots:
     void shownPanelHasTheLastWord();
     void focusFollowsTheTab();
     void summaryIsEmptyThoughPanelsWriteOne();
-    void summaryBeginsEmpty();
     void dialogMayEndBeforeItOpens();
     void printIsHeldBack_data();
     void printIsHeldBack();
@@ -61,10 +62,10 @@ private slots:
 
 void TestShell::initTestCase()
 {
-    Result<Bundle *> opened = Bundle::open(QStringLiteral(FAKE_BUNDLE));
-    QVERIFY2(opened, "the fake bundle");
+    Result<Bundle *> opened = Bundle::open(QStringLiteral(TEST_BUNDLE));
+    QVERIFY2(opened, "the test bundle");
     bundle = opened.value();
-    const auto function = reinterpret_cast<FakePanelsFunction>(bundle->findFunction("fakePanels"));
+    const auto function = reinterpret_cast<TestPanelsFunction>(bundle->findFunction("testPanels"));
     QVERIFY2(function, qPrintable(bundle->loadError()));
     panels = function();
 }
@@ -97,9 +98,9 @@ void TestShell::loaderSkipsWhatDoesNotLoad()
     LoadBuiltInPanels(bundle, loaded, getters);
 
     QCOMPARE(loaded.size(), 2U);
-    QCOMPARE(loaded[0].title, QStringLiteral("PaperOutput"));
+    QCOMPARE(loaded[0].title, QStringLiteral("The PaperOutput"));
     QCOMPARE(loaded[0].tabIndex, 2);
-    QCOMPARE(loaded[1].title, QStringLiteral("Advanced"));
+    QCOMPARE(loaded[1].title, QStringLiteral("The Advanced"));
     QCOMPARE(loaded[1].tabIndex, 7);
     const QStringList lines =
         QString::fromUtf8(errors.text()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -123,15 +124,19 @@ void TestShell::dialogGoesThroughItsLife()
 
     QCOMPARE(dialog.maxH, 540U);
     QCOMPARE(dialog.maxV, 491U);
-    QCOMPARE(takeCalls(),
-             QStringList({"PaperOutput initialize", "ImageOptions initialize",
-                          "BookletWatermark initialize", "Advanced initialize", // then Sync
-                          "PaperOutput read", "ImageOptions read", "BookletWatermark read",
-                          "Advanced read", // then Open
-                          "PaperOutput open", "ImageOptions open", "BookletWatermark open",
-                          "Advanced open", // and the first tab is selected
-                          "PaperOutput read", "ImageOptions read", "BookletWatermark read",
-                          "Advanced read"}));
+    QCOMPARE(
+        takeCalls(),
+        QStringList(
+            {"PaperOutput prologue",   "ImageOptions prologue",   "BookletWatermark prologue",
+             "Advanced prologue", // all of them first
+             "PaperOutput initialize", "ImageOptions initialize", "BookletWatermark initialize",
+             "Advanced initialize", // then Sync
+             "PaperOutput read",       "ImageOptions read",       "BookletWatermark read",
+             "Advanced read", // then Open
+             "PaperOutput open",       "ImageOptions open",       "BookletWatermark open",
+             "Advanced open", // and the first tab is selected
+             "PaperOutput read",       "ImageOptions read",       "BookletWatermark read",
+             "Advanced read"}));
     for (int tab = 1; tab <= 4; ++tab) {
         auto *pane = dialog.find<QWidget>(kUserPaneSignature, tab);
         QVERIFY(pane);
@@ -273,31 +278,19 @@ void TestShell::focusFollowsTheTab()
 
 void TestShell::summaryIsEmptyThoughPanelsWriteOne()
 {
-    DrivenDialog dialog(KelvoPDEPluginFactory, kDevice);
-    QVERIFY(dialog.begin());
-    SummaryArray titles(QStringList{QStringLiteral("left over")});
-    SummaryArray texts;
-
-    QCOMPARE(dialog.interface->table->GetSummaryText(dialog.context, &titles, &texts), noErr);
-
-    QVERIFY(!titles);
-    QVERIFY(!texts);
-}
-
-void TestShell::summaryBeginsEmpty()
-{
-    panels->failing = QStringLiteral("Advanced"); // the one that empties it
-    const StandardError errors;
-    DrivenDialog dialog(KelvoPDEPluginFactory, kDevice);
-    QVERIFY(dialog.begin());
-    SummaryArray titles(QStringList{QStringLiteral("left over")});
-    SummaryArray texts(titles);
-
-    dialog.interface->table->GetSummaryText(dialog.context, &titles, &texts);
-
-    QCOMPARE(titles,
-             SummaryArray(QStringList({"PaperOutput", "ImageOptions", "BookletWatermark"})));
-    QCOMPARE(texts, SummaryArray(QStringList({"- text", "- text", "- text"})));
+    const SummaryArray leftOver(QStringList{QStringLiteral("left over")});
+    for (const char *failing : {"", "Advanced"}) { // the one that empties it
+        panels->failing = QLatin1String(failing);
+        const StandardError errors;
+        DrivenDialog dialog(KelvoPDEPluginFactory, kDevice);
+        QVERIFY(dialog.begin());
+        SummaryArray titles = leftOver, texts = leftOver;
+        QCOMPARE(dialog.interface->table->GetSummaryText(dialog.context, &titles, &texts), noErr);
+        const bool isEmptied = !*failing;
+        const QStringList left{"PaperOutput", "ImageOptions", "BookletWatermark"};
+        QCOMPARE(titles, isEmptied ? SummaryArray() : SummaryArray(left));
+        QCOMPARE(texts, isEmptied ? SummaryArray() : SummaryArray(QStringList(3, "- text")));
+    }
 }
 
 void TestShell::dialogMayEndBeforeItOpens()
@@ -314,16 +307,14 @@ void TestShell::dialogMayEndBeforeItOpens()
 
 void TestShell::printIsHeldBack_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("passcode");
-    QTest::addColumn<bool>("recipients");
-    QTest::addColumn<QString>("notice"); // a part of its message; empty: the job goes out
+    // notice: a part of its message; empty: the job goes out
+    const Table<int, bool, bool, QString> row{"type", "passcode", "recipients", "notice"};
 
-    QTest::newRow("normal") << 1 << false << false << "";
-    QTest::newRow("secure without passcode") << 6 << false << false << "1 to 12 digits";
-    QTest::newRow("secure with passcode") << 6 << true << false << "";
-    QTest::newRow("fax without recipient") << 5 << false << false << "at least one recipient";
-    QTest::newRow("fax with recipient") << 5 << false << true << "";
+    row("normal", 1, false, false, "");
+    row("secure without passcode", 6, false, false, "1 to 12 digits");
+    row("secure with passcode", 6, true, false, "");
+    row("fax without recipient", 5, false, false, "at least one recipient");
+    row("fax with recipient", 5, false, true, "");
 }
 
 void TestShell::printIsHeldBack()
@@ -379,7 +370,7 @@ void TestShell::secondDialogBeginsWithTheFirstTab()
     QCOMPARE(gCurrentPanel, 1);
     QCOMPARE(lastTabIndex, 1);
     // The tab of the dialog before counts as the one left.
-    QCOMPARE(takeCalls().mid(12),
+    QCOMPARE(takeCalls().mid(16),
              QStringList({"Advanced write", "PaperOutput read", "ImageOptions read",
                           "BookletWatermark read"}));
 }

@@ -4,6 +4,7 @@
 #include "ppd_choices.h"
 #include "print_session.h"
 #include "stock_menus.h"
+#include "table.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
@@ -71,18 +72,17 @@ private slots:
 
 void TestCovers::optionSaysWhichCoversAreGiven_data()
 {
-    QTest::addColumn<std::optional<std::int32_t>>("front");
-    QTest::addColumn<std::optional<std::int32_t>>("back");
-    QTest::addColumn<int>("option");
+    const Table<std::optional<std::int32_t>, std::optional<std::int32_t>, int> row{"front", "back",
+                                                                                   "option"};
     const std::optional<std::int32_t> none;
     const std::optional<std::int32_t> one = kTray1;
     const std::optional<std::int32_t> two = kTray2;
 
-    QTest::newRow("none") << none << none << 1;
-    QTest::newRow("front") << one << none << 2;
-    QTest::newRow("back") << none << one << 3;
-    QTest::newRow("the same") << one << one << 4;
-    QTest::newRow("both") << one << two << 5;
+    row("none", none, none, 1);
+    row("front", one, none, 2);
+    row("back", none, one, 3);
+    row("the same", one, one, 4);
+    row("both", one, two, 5);
 }
 
 void TestCovers::optionSaysWhichCoversAreGiven()
@@ -174,14 +174,14 @@ void TestCovers::printedCoversHaveNoSizeOfTheirOwn()
 
 void TestCovers::aSourceThatIsNotOfferedIsNotSet_data()
 {
-    QTest::addColumn<int>("source");
-    QTest::addColumn<QString>("menu"); // references
+    // menu: references
+    const Table<int, QString> row{"source", "menu"};
 
-    QTest::newRow("automatic") << 0 << "0 1";
-    QTest::newRow("a tray") << int(kTray1) << "0 1";
-    QTest::newRow("a tray that is not there") << int(kTray2) << "unset 0 1";
-    QTest::newRow("not set") << int(kUnset) << "unset 0 1";
-    QTest::newRow("the inserter") << int(kStockSourceInserter) << "unset 0 1";
+    row("automatic", 0, "0 1");
+    row("a tray", int(kTray1), "0 1");
+    row("a tray that is not there", int(kTray2), "unset 0 1");
+    row("not set", int(kUnset), "unset 0 1");
+    row("the inserter", int(kStockSourceInserter), "unset 0 1");
 }
 
 void TestCovers::aSourceThatIsNotOfferedIsNotSet()
@@ -265,22 +265,15 @@ void TestCovers::theCallersCoverStaysTheSameObject()
 
 void TestCovers::readsDictionaries_data()
 {
-    QTest::addColumn<Dictionary>("dictionary");
-    QTest::addColumn<int>("startPage");
-    QTest::addColumn<int>("sides");
-    QTest::addColumn<int>("color");
+    const Table<Dictionary, int, int, int> row{"dictionary", "startPage", "sides", "color"};
 
     const Dictionary stock{{"Color", qint64(kBlue)}};
-    QTest::newRow("all") << Dictionary{{"StartPage", qint64(7)},
-                                       {"SidesImaged", qint64(4)},
-                                       {"Stock", stock}}
-                         << 7 << 4 << int(kBlue);
-    QTest::newRow("empty") << Dictionary() << 0 << 1 << int(kUnset);
-    QTest::newRow("numbers as texts")
-        << Dictionary{{"StartPage", "7"}, {"SidesImaged", "4"}, {"Stock", "Blue"}} << 0 << 1
-        << int(kUnset);
-    QTest::newRow("beyond 32 bits")
-        << Dictionary{{"SidesImaged", qint64(1) << 32}} << 0 << 1 << int(kUnset);
+    row("all", {{"StartPage", qint64(7)}, {"SidesImaged", qint64(4)}, {"Stock", stock}}, 7, 4,
+        int(kBlue));
+    row("empty", {}, 0, 1, int(kUnset));
+    row("numbers as texts", {{"StartPage", "7"}, {"SidesImaged", "4"}, {"Stock", "Blue"}}, 0, 1,
+        int(kUnset));
+    row("beyond 32 bits", {{"SidesImaged", qint64(1) << 32}}, 0, 1, int(kUnset));
 }
 
 void TestCovers::readsDictionaries()
@@ -298,25 +291,24 @@ void TestCovers::readsDictionaries()
 
 void TestCovers::writesSources_data()
 {
-    QTest::addColumn<bool>("booklet");
-    QTest::addColumn<std::optional<std::int32_t>>("front");
-    QTest::addColumn<std::optional<std::int32_t>>("back");
-    QTest::addColumn<QString>("choices"); // front and back
+    // choices: front and back
+    const Table<bool, std::optional<std::int32_t>, std::optional<std::int32_t>, QString> row{
+        "booklet", "front", "back", "choices"};
     const std::optional<std::int32_t> none;
     const std::optional<std::int32_t> one = kTray1;
     const std::optional<std::int32_t> two = kTray2;
 
-    QTest::newRow("none") << false << none << none << "None None";
-    QTest::newRow("front") << false << one << none << "Tray1 None";
-    QTest::newRow("equal") << false << one << one << "Tray1 Tray1";
-    QTest::newRow("bypass and automatic") << false << std::optional<std::int32_t>(100)
-                                          << std::optional<std::int32_t>(0) << "Bypass Auto";
+    row("none", false, none, none, "None None");
+    row("front", false, one, none, "Tray1 None");
+    row("equal", false, one, one, "Tray1 Tray1");
+    row("bypass and automatic", false, std::optional<std::int32_t>(100),
+        std::optional<std::int32_t>(0), "Bypass Auto");
     // The stock's size, colour and type do not reach the printer.
-    QTest::newRow("no source") << false << std::optional<std::int32_t>(kUnset) << none << "- None";
-    QTest::newRow("booklet, equal") << true << one << one << "Tray1 None";
-    QTest::newRow("booklet, front") << true << one << none << "Tray1 None";
-    QTest::newRow("booklet, different") << true << one << two << "Tray1 Tray2";
-    QTest::newRow("booklet, back") << true << none << two << "None Tray2";
+    row("no source", false, std::optional<std::int32_t>(kUnset), none, "- None");
+    row("booklet, equal", true, one, one, "Tray1 None");
+    row("booklet, front", true, one, none, "Tray1 None");
+    row("booklet, different", true, one, two, "Tray1 Tray2");
+    row("booklet, back", true, none, two, "None Tray2");
 }
 
 void TestCovers::writesSources()
@@ -342,26 +334,14 @@ void TestCovers::writesSources()
 
 void TestCovers::readsSources_data()
 {
-    QTest::addColumn<bool>("booklet");
-    QTest::addColumn<QString>("front"); // choices
-    QTest::addColumn<QString>("back");
-    QTest::addColumn<QString>("sources"); // front and back
+    // front: choices; sources: front and back
+    const Table<bool, QString, QString, QString> row{"booklet", "front", "back", "sources"};
 
-    QTest::newRow("none") << false << "None"
-                          << "None"
-                          << "- -";
-    QTest::newRow("both") << false << "Tray1"
-                          << "Bypass"
-                          << "1 100";
-    QTest::newRow("unknown") << false << "Tray9"
-                             << "Auto"
-                             << "- 0";
-    QTest::newRow("booklet") << true << "Tray2"
-                             << "None"
-                             << "2 2";
-    QTest::newRow("booklet without front") << true << "None"
-                                           << "Tray1"
-                                           << "- -";
+    row("none", false, "None", "None", "- -");
+    row("both", false, "Tray1", "Bypass", "1 100");
+    row("unknown", false, "Tray9", "Auto", "- 0");
+    row("booklet", true, "Tray2", "None", "2 2");
+    row("booklet without front", true, "None", "Tray1", "- -");
 }
 
 void TestCovers::readsSources()

@@ -1,4 +1,5 @@
 #include "page_range_text.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -22,12 +23,8 @@ private slots:
 
 void TestPageRangeText::readsRanges_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<Ranges>("ranges");
+    const Table<QString, Ranges> row{"text", "ranges"};
 
-    const auto row = [](const char *name, const QString &text, const Ranges &ranges) {
-        QTest::newRow(name) << text << ranges;
-    };
     row("pages and ranges", "1,3,5-7", {{1, 1}, {3, 1}, {5, 3}});
     row("neither sorted nor merged", "5-6,5,1", {{5, 2}, {5, 1}, {1, 1}});
     row("one page long", "7-7", {{7, 1}});
@@ -68,11 +65,10 @@ void TestPageRangeText::readsRanges()
 
 void TestPageRangeText::refusesRanges_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("status");
+    const Table<QString, int> table{"text", "status"};
 
-    const auto row = [](const QString &text, PageRangeProblem problem) {
-        QTest::addRow("'%s'", qPrintable(text.left(20))) << text << int(problem);
+    const auto row = [&](const QString &text, PageRangeProblem problem) {
+        table(qPrintable(QStringLiteral("'%1'").arg(text.left(20))), text, int(problem));
     };
     for (const char *text : {"", ",,", "odd pages", "-", "-,1", "--1", "3--", "1,-", "-3-", "1-3-"})
         row(text, kPageRangesMalformed);

@@ -1,4 +1,5 @@
 #include "special_page_edits.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -58,18 +59,15 @@ private slots:
 
 void TestSpecialPageEdits::insertsComeOfWhatIsTyped_data()
 {
-    QTest::addColumn<std::int32_t>("position");
-    QTest::addColumn<QString>("pages");
-    QTest::addColumn<OSStatus>("status");
-    QTest::addColumn<QString>("made");
+    const Table<std::int32_t, QString, OSStatus, QString> row{"position", "pages", "status",
+                                                              "made"};
 
-    QTest::newRow("pages") << kInsertAfterPages << "2,5" << noErr << "3x2 3x5";
-    QTest::newRow("range, as typed") << kInsertAfterPages << "4-6,1" << noErr << "3x4 3x5 3x6 3x1";
-    QTest::newRow("0 is before page 1") << kInsertAfterPages << "0,1" << noErr << "3x0 3x1";
-    QTest::newRow("before page 1") << kInsertBeforePage1 << "7-3" << noErr << "3x0";
-    QTest::newRow("nothing") << kInsertAfterPages << "" << OSStatus(kPageRangesMalformed) << "";
-    QTest::newRow("too high") << kInsertAfterPages << "100000" << OSStatus(kPageNumberTooHigh)
-                              << "";
+    row("pages", kInsertAfterPages, "2,5", noErr, "3x2 3x5");
+    row("range, as typed", kInsertAfterPages, "4-6,1", noErr, "3x4 3x5 3x6 3x1");
+    row("0 is before page 1", kInsertAfterPages, "0,1", noErr, "3x0 3x1");
+    row("before page 1", kInsertBeforePage1, "7-3", noErr, "3x0");
+    row("nothing", kInsertAfterPages, "", OSStatus(kPageRangesMalformed), "");
+    row("too high", kInsertAfterPages, "100000", OSStatus(kPageNumberTooHigh), "");
 }
 
 void TestSpecialPageEdits::insertsComeOfWhatIsTyped()
@@ -84,17 +82,15 @@ void TestSpecialPageEdits::insertsComeOfWhatIsTyped()
 
 void TestSpecialPageEdits::moreInsertsThanAListTakesAreRefused_data()
 {
-    QTest::addColumn<std::int32_t>("position");
-    QTest::addColumn<QString>("pages");
-    QTest::addColumn<std::int32_t>("others");
-    QTest::addColumn<OSStatus>("status");
+    const Table<std::int32_t, QString, std::int32_t, OSStatus> row{"position", "pages", "others",
+                                                                   "status"};
 
     const OSStatus tooMany = kTooManyInserts;
-    QTest::newRow("one after each page") << kInsertAfterPages << "1-" << 0 << noErr;
-    QTest::newRow("and before page 1") << kInsertAfterPages << "0-" << 0 << tooMany;
-    QTest::newRow("beside another") << kInsertAfterPages << "1-" << 1 << tooMany;
-    QTest::newRow("into a full list") << kInsertBeforePage1 << "" << kMostInserts << tooMany;
-    QTest::newRow("the last place") << kInsertAfterPages << "1" << kMostInserts - 1 << noErr;
+    row("one after each page", kInsertAfterPages, "1-", 0, noErr);
+    row("and before page 1", kInsertAfterPages, "0-", 0, tooMany);
+    row("beside another", kInsertAfterPages, "1-", 1, tooMany);
+    row("into a full list", kInsertBeforePage1, "", kMostInserts, tooMany);
+    row("the last place", kInsertAfterPages, "1", kMostInserts - 1, noErr);
 }
 
 void TestSpecialPageEdits::moreInsertsThanAListTakesAreRefused()
@@ -109,13 +105,11 @@ void TestSpecialPageEdits::moreInsertsThanAListTakesAreRefused()
 
 void TestSpecialPageEdits::exceptionsComeOfWhatIsTyped_data()
 {
-    QTest::addColumn<QString>("pages");
-    QTest::addColumn<OSStatus>("status");
-    QTest::addColumn<QString>("made");
+    const Table<QString, OSStatus, QString> row{"pages", "status", "made"};
 
-    QTest::newRow("ranges") << "4-6,2,12-" << noErr << "4-6 2-2 12-99999";
-    QTest::newRow("0") << "5,0-3" << OSStatus(kPageNumberTooLow) << "";
-    QTest::newRow("backwards") << "7-3" << OSStatus(kPageRangeBackwards) << "";
+    row("ranges", "4-6,2,12-", noErr, "4-6 2-2 12-99999");
+    row("0", "5,0-3", OSStatus(kPageNumberTooLow), "");
+    row("backwards", "7-3", OSStatus(kPageRangeBackwards), "");
 }
 
 void TestSpecialPageEdits::exceptionsComeOfWhatIsTyped()
@@ -133,25 +127,17 @@ void TestSpecialPageEdits::exceptionsComeOfWhatIsTyped()
 
 void TestSpecialPageEdits::editingShowsWhereThePageIs_data()
 {
-    QTest::addColumn<std::int32_t>("first");
-    QTest::addColumn<std::int32_t>("last");
-    QTest::addColumn<QString>("insert"); // empty: before page 1
-    QTest::addColumn<QString>("exception");
+    // insert empty: before page 1
+    const Table<std::int32_t, std::int32_t, QString, QString> row{"first", "last", "insert",
+                                                                  "exception"};
 
-    QTest::newRow("a page") << 7 << 7 << "7"
-                            << "7";
-    QTest::newRow("a range") << 4 << 6 << "4"
-                             << "4-6";
-    QTest::newRow("to the end") << 12 << kHighestPage << "12"
-                                << "12-";
-    QTest::newRow("the last page") << kHighestPage << kHighestPage << "99999"
-                                   << "99999";
-    QTest::newRow("no pages, from a ticket") << -3 << -2 << ""
-                                             << "";
-    QTest::newRow("ends before it begins, from a ticket") << 7 << 5 << "7"
-                                                          << "";
-    QTest::newRow("beyond the last page, from a ticket") << 7 << 100'005 << "7"
-                                                         << "7-";
+    row("a page", 7, 7, "7", "7");
+    row("a range", 4, 6, "4", "4-6");
+    row("to the end", 12, kHighestPage, "12", "12-");
+    row("the last page", kHighestPage, kHighestPage, "99999", "99999");
+    row("no pages, from a ticket", -3, -2, "", "");
+    row("ends before it begins, from a ticket", 7, 5, "7", "");
+    row("beyond the last page, from a ticket", 7, 100'005, "7", "7-");
 }
 
 void TestSpecialPageEdits::editingShowsWhereThePageIs()

@@ -1,5 +1,6 @@
 #include "print_session.h"
 #include "special_pages_settings.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -178,14 +179,8 @@ private slots:
 
 void TestSpecialPageLists::readsAndWritesPages_data()
 {
-    QTest::addColumn<bool>("isInsert");
-    QTest::addColumn<Dictionary>("read");
-    QTest::addColumn<Dictionary>("written");
+    const Table<bool, Dictionary, Dictionary> row{"isInsert", "read", "written"};
 
-    const auto row = [](const char *name, bool isInsert, const Dictionary &read,
-                        const Dictionary &written) {
-        QTest::newRow(name) << isInsert << read << written;
-    };
     constexpr bool insert = true, exception = false;
     const qint64 beyond = qint64(1) << 32;
     const Dictionary noStock;
@@ -371,13 +366,9 @@ void TestSpecialPageLists::aPageStaysWhereItsReplacementsFail()
 
 void TestSpecialPageLists::laterExceptionsWin_data()
 {
-    QTest::addColumn<QString>("old");   // plex 1 and so on, in one batch
-    QTest::addColumn<QString>("added"); // plex 11 and so on
-    QTest::addColumn<QString>("result");
+    // old: plex 1 and so on, in one batch; added: plex 11 and so on
+    const Table<QString, QString, QString> row{"old", "added", "result"};
 
-    const auto row = [](const char *name, const char *old, const char *added, const char *result) {
-        QTest::newRow(name) << old << added << result;
-    };
     row("inside", "1-10", "5-8", "1-4:1 5-8:11 9-10:1");
     row("over several", "3-4,6-7", "1-10", "1-10:11");
     row("the end", "1-7", "5-10", "1-4:1 5-10:11");

@@ -1,4 +1,5 @@
 #include "device_session.h"
+#include "table.h"
 
 #include "special_pages_summary.h"
 
@@ -70,11 +71,9 @@ void TestSpecialPagesSummary::listsPagesInTheirOrder()
 
 void TestSpecialPagesSummary::describesPages_data()
 {
-    QTest::addColumn<std::shared_ptr<SpecialPage>>("page");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, const SpecialPage &page, const char *text) {
-        QTest::newRow(name) << std::shared_ptr<SpecialPage>(page.clone())
-                            << QString::fromUtf8(text);
+    const Table<std::shared_ptr<SpecialPage>, QString> table{"page", "text"};
+    const auto row = [&](const char *name, const SpecialPage &page, const char *text) {
+        table(name, std::shared_ptr<SpecialPage>(page.clone()), text);
     };
     const auto insertOn = [](const auto &change) {
         Insert insert = insertAfter(2, 3);
@@ -139,17 +138,18 @@ void TestSpecialPagesSummary::describesPages()
 
 void TestSpecialPagesSummary::lastOneSelectedSaysWhetherItMoves_data()
 {
-    QTest::addColumn<QList<int>>("rows"); // an exception, then two inserts after one page, and one
-    QTest::addColumn<QString>("enabled"); // edit, remove, move up, move down
+    // rows: an exception, then two inserts after one page, and one
+    // enabled: edit, remove, move up, move down
+    const Table<QList<int>, QString> row{"rows", "enabled"};
 
-    QTest::newRow("none") << QList<int>() << "0000";
-    QTest::newRow("an exception") << QList{0} << "1100";
-    QTest::newRow("the first insert") << QList{1} << "1101";
-    QTest::newRow("the second") << QList{2} << "1110";
-    QTest::newRow("one alone after its page") << QList{3} << "1100";
-    QTest::newRow("the last one cannot move") << QList{2, 3} << "0100";
-    QTest::newRow("the last one can move up") << QList{1, 2} << "0110";
-    QTest::newRow("the last one can move down") << QList{0, 1} << "0101";
+    row("none", QList<int>(), "0000");
+    row("an exception", QList{0}, "1100");
+    row("the first insert", QList{1}, "1101");
+    row("the second", QList{2}, "1110");
+    row("one alone after its page", QList{3}, "1100");
+    row("the last one cannot move", QList{2, 3}, "0100");
+    row("the last one can move up", QList{1, 2}, "0110");
+    row("the last one can move down", QList{0, 1}, "0101");
 }
 
 void TestSpecialPagesSummary::lastOneSelectedSaysWhetherItMoves()

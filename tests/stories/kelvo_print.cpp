@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QMap>
 
 #include <csignal>
@@ -98,32 +97,19 @@ Run Desk::run(const QStringList &arguments, const QByteArray &input, int interru
     return run;
 }
 
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
-}
-
 QMap<QString, QByteArray> filesIn(const QString &folder)
 {
     QMap<QString, QByteArray> files;
     const auto entries = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden);
     for (const QFileInfo &entry : entries)
-        files.insert(entry.fileName(), contents(entry.filePath()));
+        files.insert(entry.fileName(), bytesOf(entry.filePath()));
     return files;
 }
 
 QMultiMap<QString, QString> optionsIn(const QString &path)
 {
     QMultiMap<QString, QString> options;
-    const QStringList lines = QString::fromUtf8(contents(path)).split(u'\n', Qt::SkipEmptyParts);
+    const QStringList lines = QString::fromUtf8(bytesOf(path)).split(u'\n', Qt::SkipEmptyParts);
     for (const QString &line : lines)
         options.insert(line.section(u'=', 0, 0), line.section(u'=', 1));
     return options;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files.h"
 #include "ticket_file.h"
 
 #include <QProcess>
@@ -66,10 +67,6 @@ private:
     std::function<void()> m_atStart;
 };
 
-// Files of a few lines, for scripts and settings. They fail the test that they
-// are needed in by coming back empty or not being there.
-QByteArray contents(const QString &path);
-void write(const QString &path, const QByteArray &bytes);
 // The file's name and contents of everything in a folder.
 QMap<QString, QByteArray> filesIn(const QString &folder);
 // `lines` of "name=value"; a name that stands twice has two values.

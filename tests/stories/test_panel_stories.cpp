@@ -1,9 +1,9 @@
 #include "kelvo_print.h"
 #include "long_date.h"
+#include "sample_ppds.h"
+#include "table.h"
 #include "values.h"
 
-#include <QDir>
-#include <QRegularExpression>
 #include <QTest>
 
 using namespace kelvo;
@@ -14,19 +14,15 @@ class TestPanelStories : public QObject
     Q_OBJECT
 
 private slots:
-    void keepsASecurePrintsCodeInTheTicketAlone();
     void holdsBackASecurePrintWithoutCode();
     void waitsForTheNextTimeOfADelayedJob();
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
-    void endsWhileAPanelAsks_data();
     void endsWhileAPanelAsks();
-    void saysWhatPanelsEntered();
     void saysWhatWillBeMissing();
     void keepsWhatWasSetLast_data();
     void keepsWhatWasSetLast();
-    void letsOptionsBeatATicket_data();
-    void letsOptionsBeatATicket();
+    void letsAnOptionBeatATicket();
 };
 
 namespace {
@@ -39,27 +35,7 @@ Dictionary jobTypeIn(const TicketFile &ticket)
         : dictionary(entry->second.value).value_or(Dictionary());
 }
 
-QString ppd(const QString &device)
-{
-    return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device);
-}
-
 } // namespace
-
-void TestPanelStories::keepsASecurePrintsCodeInTheTicketAlone()
-{
-    const Desk desk;
-    const QString folder = desk.path("out");
-    const Run run =
-        desk.run({"--demo", "--no-window", "--script", script("secure-print.kps"), "--to", folder});
-    QENDED(run, 0);
-
-    const Dictionary jobType = jobTypeIn(ticketIn(folder));
-    QCOMPARE(jobType.value("JobType"), QVariant(qint64(6)));
-    QCOMPARE(jobType.value("SecurePrintPassword"), QVariant("48151623"));
-    QVERIFY(!contents(folder + "/options").contains("48151623"));
-    QVERIFY(!run.out.contains("48151623") && !run.err.contains("48151623"));
-}
 
 void TestPanelStories::holdsBackASecurePrintWithoutCode()
 {
@@ -103,37 +79,31 @@ void TestPanelStories::waitsForTheNextTimeOfADelayedJob()
 
 void TestPanelStories::carriesEverythingThroughATicket_data()
 {
-    QTest::addColumn<QString>("device");
-    QTest::addColumn<QString>("name"); // of the scripts
+    const Table<QString, QString> row{"device", "script"};
 
-    QTest::newRow("paper, full") << "full"
-                                 << "paper-output";
-    QTest::newRow("paper, mid") << "mid"
-                                << "paper-output-mid";
-    QTest::newRow("image, full") << "full"
-                                 << "image-options";
-    QTest::newRow("special pages") << "full"
-                                   << "special-pages";
+    row("paper, full", "full", "paper-output.kps");
+    row("paper, mid", "mid", "paper-output-mid.kps");
+    row("image, full", "full", "image-options.kps");
+    row("advanced", "full", "advanced.kps");
+    row("special pages", "full", "special-pages.kps");
 }
 
 void TestPanelStories::carriesEverythingThroughATicket()
 {
     QFETCH(QString, device);
-    QFETCH(QString, name);
+    QFETCH(QString, script);
     const Desk desk;
     const QString first = desk.path("first"), second = desk.path("second");
     const QString third = desk.path("third"), preset = desk.path("preset.plist");
-    const QStringList arguments{"--ppd", ppd(device), "--no-window", documentPath};
+    const QStringList arguments{"--ppd", samplePpd(device), "--no-window", documentPath};
     QENDED(desk.run(arguments
-                    + QStringList{"--script", script(qPrintable(name + ".kps")), "--to", first,
+                    + QStringList{"--script", ::script(qPrintable(script)), "--to", first,
                                   "--preset-out", preset}),
            0);
     const Desk fresh;
-    QENDED(fresh.run(arguments
-                     + QStringList{"--script", script(qPrintable(name + "-again.kps")),
-                                   "--ticket-in", first + "/ticket.plist", "--to", second}),
-           0);
-    QENDED(fresh.run(arguments + QStringList{"--ticket-in", preset, "--to", third}), 0);
+    for (const auto &[ticket, folder] :
+         {std::pair(first + "/ticket.plist", second), {preset, third}})
+        QENDED(fresh.run(arguments + QStringList{"--ticket-in", ticket, "--to", folder}), 0);
 
     TicketFile one = ticketIn(first), other = ticketIn(second), fromPreset = ticketIn(third);
     QVERIFY(!one.printSettings.entries.empty());
@@ -153,35 +123,18 @@ void TestPanelStories::carriesEverythingThroughATicket()
     QCOMPARE(fromPreset, one);
 }
 
-void TestPanelStories::endsWhileAPanelAsks_data()
+void TestPanelStories::endsWhileAPanelAsks()
 {
-    QTest::addColumn<QByteArray>("lines");
     const QByteArray dialog = "panel SpecialPages\nclick @addInserts\n";
     const QByteArray question =
         dialog + "type @insertPages \"2\"\nclick @okButton\nclick @deleteAll\n";
-    QTest::newRow("in a dialog") << dialog + "expect @insertPages text \"7\"\n";
-    QTest::newRow("in a notice") << dialog + "click @okButton\nexpect-notice \"thumb\"\n";
-    QTest::newRow("in a question") << question + "expect-notice \"thumb\"\n";
-}
-
-void TestPanelStories::endsWhileAPanelAsks()
-{
-    QFETCH(QByteArray, lines);
     const Desk desk;
-    write(desk.path("ends.kps"), lines);
-    QENDED(desk.run({"--demo", "--no-window", "--script", "ends.kps", "--to", "out"}), 2);
-}
-
-void TestPanelStories::saysWhatPanelsEntered()
-{
-    const Desk desk;
-    write(desk.path("look.kps"),
-          "tab 1\nchoose @jobType key SampleSet\ntab 2\ncheck @mirrorImage on\nsummary\nprint\n");
-    const Run run = desk.run({"--demo", "--no-window", "--script", "look.kps", "--to", "out"});
-    QENDED(run, 0);
-    for (const char *words : {"Job type: Sample set", "Invert image: Mirror image"})
-        QVERIFY2(run.out.contains(words), qPrintable(run.out));
-    QVERIFY(!run.out.contains("Negative image"));
+    for (const QByteArray &lines : {dialog + "expect @insertPages text \"7\"\n",
+                                    dialog + "click @okButton\nexpect-notice \"thumb\"\n",
+                                    question + "expect-notice \"thumb\"\n"}) {
+        putFile(desk.path("ends.kps"), lines);
+        QENDED(desk.run({"--demo", "--no-window", "--script", "ends.kps", "--to", "out"}), 2);
+    }
 }
 
 // A cover without a source is forgotten when another panel is shown, and pages are cut:
@@ -189,10 +142,10 @@ void TestPanelStories::saysWhatPanelsEntered()
 void TestPanelStories::saysWhatWillBeMissing()
 {
     const Desk desk;
-    write(desk.path("cover.kps"),
-          "panel SpecialPages\nclick @addCovers\nchoose @coverOptions 2\n"
-          "item @frontStockButton 'Sclr' key Blue\nclick @okButton\nanswer 2\n"
-          "panel PaperOutput\ntab 2\ntab 1\nexpect @conflictBar visible true\nsummary\nprint\n");
+    putFile(desk.path("cover.kps"),
+            "panel SpecialPages\nclick @addCovers\nchoose @coverOptions 2\n"
+            "item @frontStockButton 'Sclr' key Blue\nclick @okButton\nanswer 2\n"
+            "panel PaperOutput\ntab 2\ntab 1\nexpect @conflictBar visible true\nsummary\nprint\n");
     const Run run = desk.run({"--demo", "--no-window", "--script", "cover.kps", "--to", "out", "-o",
                               "PageSize=A5", "-P", "1,3-4"});
     QENDED(run, 0);
@@ -206,25 +159,17 @@ void TestPanelStories::saysWhatWillBeMissing()
 
 void TestPanelStories::keepsWhatWasSetLast_data()
 {
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("last");
-    QTest::addColumn<QString>("kept"); // of the device's options
-    QTest::addColumn<QString>("choice");
+    // kept: of the device's options
+    const Table<QString, QString, QString, QString> row{"first", "last", "kept", "choice"};
 
     const QString quality = QStringLiteral("choose @imageQuality key HighQuality\n");
     const QString toner = QStringLiteral("check @tonerSaver on\n");
-    QTest::newRow("toner saver") << quality << toner << "KVEconomode"
-                                 << "Draft";
-    QTest::newRow("quality") << toner << quality << "KVOutputMode"
-                             << "HighQuality";
-    QTest::newRow("what has no part in it set later")
-        << quality << toner + "choose @outputColorCorrection key sRGB\n"
-        << "KVEconomode"
-        << "Draft";
-    QTest::newRow("but not at the paper's cost")
-        << QStringLiteral("choose @paper key SRA3\ntab 1\n")
-        << QStringLiteral("item @finishingButton 'Stp2'\n") << "PageSize"
-        << "SRA3";
+    row("toner saver", quality, toner, "KVEconomode", "Draft");
+    row("quality", toner, quality, "KVOutputMode", "HighQuality");
+    row("what has no part in it set later", quality,
+        toner + "choose @outputColorCorrection key sRGB\n", "KVEconomode", "Draft");
+    row("but not at the paper's cost", "choose @paper key SRA3\ntab 1\n",
+        "item @finishingButton 'Stp2'\n", "PageSize", "SRA3");
 }
 
 void TestPanelStories::keepsWhatWasSetLast()
@@ -234,38 +179,24 @@ void TestPanelStories::keepsWhatWasSetLast()
     QFETCH(QString, kept);
     QFETCH(QString, choice);
     const Desk desk;
-    write(desk.path("fix.kps"),
-          ("tab 2\n" + first + last + "click @fix\nexpect @fix visible false\nprint\n").toUtf8());
+    putFile(desk.path("fix.kps"),
+            ("tab 2\n" + first + last + "click @fix\nexpect @fix visible false\nprint\n").toUtf8());
     QENDED(desk.run({"--demo", "--no-window", "--script", "fix.kps", "--to", "out"}), 0);
     QCOMPARE(optionsIn(desk.path("out/options")).values(kept), QStringList(choice));
 }
 
-void TestPanelStories::letsOptionsBeatATicket_data()
+// Also what the panels' own entries of the ticket repeat of it.
+void TestPanelStories::letsAnOptionBeatATicket()
 {
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("duplex");
-
-    QTest::newRow("the ticket alone") << QStringList() << "DuplexNoTumble";
-    QTest::newRow("the PPD's option") << QStringList{"-o", "Duplex=None"} << "None";
-    QTest::newRow("the server's option")
-        << QStringList{"-o", "sides=two-sided-short-edge"} << "DuplexTumble";
-    QTest::newRow("another option") << QStringList{"-o", "Jog=EndOfSet"} << "DuplexNoTumble";
-}
-
-void TestPanelStories::letsOptionsBeatATicket()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QString, duplex);
     const Desk desk;
-    write(desk.path("two.kps"), "tab 1\nchoose @twoSided key Duplex\nprint\n");
+    putFile(desk.path("two.kps"), "tab 1\nchoose @twoSided key Duplex\nprint\n");
     const QStringList arguments{"--demo", "--no-window"};
-    QENDED(desk.run(arguments + QStringList{"--script", "two.kps", "--to", desk.path("first")}), 0);
-
-    const QString folder = desk.path("second");
-    QENDED(desk.run(arguments + options
-                    + QStringList{"--ticket-in", desk.path("first/ticket.plist"), "--to", folder}),
+    QENDED(desk.run(arguments + QStringList{"--script", "two.kps", "--to", "first"}), 0);
+    QENDED(desk.run(arguments
+                    + QStringList{"--ticket-in", "first/ticket.plist", "-o", "Duplex=None", "--to",
+                                  "second"}),
            0);
-    QCOMPARE(optionsIn(folder + "/options").values("Duplex"), QStringList(duplex));
+    QCOMPARE(optionsIn(desk.path("second/options")).values("Duplex"), QStringList("None"));
 }
 
 QTEST_GUILESS_MAIN(TestPanelStories)

@@ -1,6 +1,8 @@
 #include "file_names.h"
 #include "file_store.h"
 #include "kelvo_print.h"
+#include "sample_ppds.h"
+#include "table.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -34,23 +36,23 @@ private slots:
 // One digit is a part of nearly everything that a script asks for.
 void TestSecretStories::masksAPasscodeAndNothingElse_data()
 {
-    QTest::addColumn<QByteArray>("passcode");
-    QTest::newRow("one digit") << QByteArray("1");
-    QTest::newRow("three digits") << QByteArray("102");
-    QTest::newRow("a control's number") << QByteArray("8501");
-    QTest::newRow("twelve digits") << QByteArray("123456789012");
+    const Table<QByteArray> row{"passcode"};
+    row("one digit", "1");
+    row("three digits", "102");
+    row("a control's number", "8501");
+    row("twelve digits", "123456789012");
 }
 
 void TestSecretStories::masksAPasscodeAndNothingElse()
 {
     QFETCH(QByteArray, passcode);
     const Desk desk;
-    write(desk.path("s.kps"),
-          "tab 1\nchoose @jobType key SecurePrint\n"
-          "type @passcode \"CODE\"\ntype @confirmPasscode \"CODE\"\nclick @showPasscode\n"
-          "controls\nclick @okButton\nsummary\nexpect-ticket com.kelvo.print.JobType absent\n");
-    QByteArray script = contents(desk.path("s.kps"));
-    write(desk.path("s.kps"), script.replace("CODE", passcode));
+    putFile(desk.path("s.kps"),
+            "tab 1\nchoose @jobType key SecurePrint\n"
+            "type @passcode \"CODE\"\ntype @confirmPasscode \"CODE\"\nclick @showPasscode\n"
+            "controls\nclick @okButton\nsummary\nexpect-ticket com.kelvo.print.JobType absent\n");
+    QByteArray script = bytesOf(desk.path("s.kps"));
+    putFile(desk.path("s.kps"), script.replace("CODE", passcode));
     const Run run = desk.run({"--demo", "--no-window", "--script", "s.kps"});
     QENDED(run, 2);
 
@@ -101,10 +103,10 @@ const QStringList secureJob{"--demo", "--no-window", "--script", script("secure-
 // Between any two steps somebody may pull the plug.
 void TestSecretStories::leavesNothingOfAKilledRun_data()
 {
-    QTest::addColumn<QString>("step");
+    const Table<QString> row{"step"};
     for (const char *step : {"flock:when=1", "fsync:when=1", "fsync:when=3", "rename:when=1",
                              "rename:when=3", "unlink:when=2"})
-        QTest::newRow(step) << QString::fromLatin1(step);
+        row(step, QString::fromLatin1(step));
 }
 
 void TestSecretStories::leavesNothingOfAKilledRun()
@@ -137,7 +139,7 @@ void TestSecretStories::leavesARunThatLivesAlone()
 
     QENDED(desk.run(secureJob), 0);
     QCOMPARE(leftoversOf(desk), held);
-    waiting.write(contents(documentPath).mid(4));
+    waiting.write(bytesOf(documentPath).mid(4));
     waiting.closeWriteChannel();
     QVERIFY(waiting.waitForFinished());
     QCOMPARE(waiting.exitCode(), 0);
@@ -161,11 +163,10 @@ void TestSecretStories::endsOnASignalBeforeThereIsADialog()
 
 void TestSecretStories::closesItsMemoryOnceItHoldsASecret_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("isClosed");
-    QTest::newRow("of a script") << QStringList{"--secret", "CODE=code.txt"} << true;
-    QTest::newRow("of a ticket") << QStringList{"--ticket-in", "ticket.plist"} << true;
-    QTest::newRow("none") << QStringList() << false;
+    const Table<QStringList, bool> row{"arguments", "isClosed"};
+    row("of a script", {"--secret", "CODE=code.txt"}, true);
+    row("of a ticket", {"--ticket-in", "ticket.plist"}, true);
+    row("none", {}, false);
 }
 
 void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
@@ -174,7 +175,7 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
     QFETCH(bool, isClosed);
     Desk desk;
     giveTemporaryFolder(desk);
-    write(desk.path("code.txt"), "4815");
+    putFile(desk.path("code.txt"), "4815");
     QVERIFY(QFile::setPermissions(desk.path("code.txt"), QFile::ReadOwner | QFile::WriteOwner));
     TicketFile ticket;
     ticket.printSettings.entries[QStringLiteral("com.kelvo.print.JobType")] = {
@@ -196,7 +197,7 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
     QCOMPARE(QFile(process + "environ").open(QIODevice::ReadOnly), !isClosed);
     static const QRegularExpression noCores(QStringLiteral("Max core file size +0 +0 "));
     if (isClosed)
-        QVERIFY(noCores.match(QString::fromLatin1(contents(process + "limits"))).hasMatch());
+        QVERIFY(noCores.match(QString::fromLatin1(bytesOf(process + "limits"))).hasMatch());
     waiting.kill();
     waiting.waitForFinished();
 }
@@ -204,13 +205,8 @@ void TestSecretStories::closesItsMemoryOnceItHoldsASecret()
 // A name that no ticket could hold is no reason not to print.
 void TestSecretStories::printsUnderAnyName_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QByteArray>("title"); // empty: none is given
-    QTest::addColumn<QString>("printed");
-    const auto row = [](const char *name, const QByteArray &file, const QByteArray &title,
-                        const char *printed) {
-        QTest::newRow(name) << file << title << QString::fromUtf8(printed);
-    };
+    // title empty: none is given
+    const Table<QByteArray, QByteArray, QString> row{"file", "title", "printed"};
     row("bytes that are no UTF-8", "Gr\xfc\xdf\x65.pdf", {},
         "Gr\xef\xbf\xbd\xef\xbf\xbd"
         "e.pdf");
@@ -229,9 +225,8 @@ void TestSecretStories::printsUnderAnyName()
     QFETCH(QString, printed);
     const Desk desk;
     const QString path = desk.path(fileNameFrom(file));
-    QVERIFY(replaceFile(path, contents(documentPath)));
-    QVERIFY(QFile::copy(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"),
-                        desk.path("device.ppd")));
+    QVERIFY(replaceFile(path, bytesOf(documentPath)));
+    QVERIFY(QFile::copy(samplePpd("full"), desk.path("device.ppd")));
 
     // QProcess passes on text only: the shell makes bytes of the escapes.
     const auto quoted = [](const QByteArray &bytes) {

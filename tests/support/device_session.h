@@ -5,6 +5,7 @@
 #include "pde_session.h"
 #include "ppd_choices.h"
 #include "print_session.h"
+#include "sample_ppds.h"
 
 #include <QString>
 
@@ -19,7 +20,7 @@ public:
             kelvo::Bundle::open(QStringLiteral(KELVO_BUILD_DIR "/lib/KelvoPDE.pde"));
         bundle = opened ? opened.value() : nullptr;
         if (!device.isEmpty())
-            session.setPrinter({device, ppdPath(device)});
+            session.setPrinter({device, samplePpd(device)});
         kelvo::setCurrentPrintSession(&session);
         kelvo::LoadInstallableOptions(kelvo::PPDGetCurrent(), kelvo::InstalledFeatures);
     }
@@ -31,11 +32,6 @@ public:
     }
     DeviceSession(const DeviceSession &) = delete;
     DeviceSession &operator=(const DeviceSession &) = delete;
-
-    static QString ppdPath(const QString &device)
-    {
-        return QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-%1.ppd").arg(device);
-    }
 
     kelvo::PMTicketRef settings() const { return session.printSettingsTicket(); }
     kelvo::PMTicketRef pageFormat() const { return session.pageFormatTicket(); }

@@ -258,7 +258,6 @@ void TestControlInterface::everyClassAnswersForItself()
     QFETCH(Make, make);
     QFETCH(Prepare, prepare);
     QFETCH(QString, takes);
-    QFETCH(QString, holds);
     QFETCH(Steps, steps);
 
     for (const auto &[name, perform] : commands) {
@@ -281,7 +280,7 @@ void TestControlInterface::everyClassAnswersForItself()
     control->show();
     QCoreApplication::processEvents();
     QCOMPARE(log.take(), QStringList()); // what code does is silent
-    QCOMPARE(stateOf(control.get()).join(", "), holds);
+    QTEST(stateOf(control.get()).join(", "), "holds");
     for (const auto &[line, outcome] : steps) {
         const QStringList before = stateOf(control.get());
         const QString name = line.section(' ', 0, 0);

@@ -1,14 +1,14 @@
 #include "event_log.h"
+#include "files.h"
 #include "help_window.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "picture_view.h"
 #include "spin_field.h"
 #include "summary_view.h"
+#include "table.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QPointer>
@@ -89,14 +89,6 @@ void press(Qt::Key key)
     QTest::keyClick(focus ? focus : window, key);
 }
 
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
 } // namespace
 
 void TestDialogs::okAsksTheRuleAndCancelDoesNot()
@@ -175,24 +167,22 @@ void TestDialogs::nestedDialogsAreTheFrontWindowInTurn()
 
 void TestDialogs::anAlertAnswersWithItsButton_data()
 {
-    QTest::addColumn<QStringList>("buttons");
-    QTest::addColumn<int>("pressed"); // 0: Escape, -1: Return
-    QTest::addColumn<int>("answer");
+    // pressed 0: Escape, -1: Return
+    const Table<QStringList, int, int> row{"buttons", "pressed", "answer"};
     const QStringList two{"Delete", "Cancel"};
     const QStringList three{"Save", "Cancel", "Do Not Save"};
-    QTest::newRow("first of two") << two << 1 << 1;
-    QTest::newRow("second of two") << two << 2 << 2;
-    QTest::newRow("third") << three << 3 << 3;
-    QTest::newRow("Escape is the second of two") << two << 0 << 2;
-    QTest::newRow("Escape is the second of three") << three << 0 << 2;
-    QTest::newRow("Return is the first") << three << -1 << 1;
+    row("first of two", two, 1, 1);
+    row("second of two", two, 2, 2);
+    row("third", three, 3, 3);
+    row("Escape is the second of two", two, 0, 2);
+    row("Escape is the second of three", three, 0, 2);
+    row("Return is the first", three, -1, 1);
 }
 
 void TestDialogs::anAlertAnswersWithItsButton()
 {
     QFETCH(QStringList, buttons);
     QFETCH(int, pressed);
-    QFETCH(int, answer);
     QVERIFY(!answerNotice(1));
     ShownNotice shown;
     QTimer::singleShot(20, qApp, [&] {
@@ -204,8 +194,8 @@ void TestDialogs::anAlertAnswersWithItsButton()
         else
             press(pressed == 0 ? Qt::Key_Escape : Qt::Key_Return);
     });
-    QCOMPARE(CFUserNotificationDisplayAlert(NoticeLevel::Caution, "Header", "Message", buttons),
-             answer);
+    QTEST(CFUserNotificationDisplayAlert(NoticeLevel::Caution, "Header", "Message", buttons),
+          "answer");
     QCOMPARE(shown.header, "Header");
     QCOMPARE(shown.message, "Message");
     QCOMPARE(shown.buttons, buttons);
@@ -259,9 +249,9 @@ void TestDialogs::theHelpWindowShowsTheBooksFilesOnly()
     QCOMPARE(showHelp({}, nullptr), fnfErr);
     QVERIFY2(said.startsWith("The folder with the help pages is missing."), qPrintable(said));
     QCOMPARE(AHRegisterHelpBook(nullptr), paramErr);
-    writeFile(folder.filePath("help/index.html"), "<title>Contents</title>start");
-    writeFile(folder.filePath("help/shell/advanced.html"), "<title>Advanced</title>advanced");
-    writeFile(folder.filePath("outside.html"), "outside");
+    putFile(folder.filePath("help/index.html"), "<title>Contents</title>start");
+    putFile(folder.filePath("help/shell/advanced.html"), "<title>Advanced</title>advanced");
+    putFile(folder.filePath("outside.html"), "outside");
     QVERIFY(QFile::link(folder.filePath("outside.html"), folder.filePath("help/link.html")));
     addHelpFolder(folder.filePath("help"));
 
@@ -310,9 +300,9 @@ void TestDialogs::thePictureFillsWhatFits()
 {
     QTemporaryDir folder;
     const QString file = folder.filePath("pictures/Paper_Plain-Blue.svg");
-    writeFile(file, R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="10">
+    putFile(file, R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="10">
 <rect width="20" height="10" fill="#0000ff"/></svg>)");
-    writeFile(folder.filePath("pictures/broken.svg"), "<svg");
+    putFile(folder.filePath("pictures/broken.svg"), "<svg");
     QCOMPARE(pictureFile(folder.path(), "Paper_Plain-Blue.gif"), file);
     QCOMPARE(pictureFile(folder.path(), "None.gif"), "");
     QCOMPARE(pictureFile(folder.path(), "../pictures/Paper_Plain-Blue.gif"), ""); // never a path

@@ -17,11 +17,9 @@ class TestEvents : public QObject
     Q_OBJECT
 
 private slots:
-    void anEventClimbsUntilItIsTaken_data();
     void anEventClimbsUntilItIsTaken();
     void theHandlerInstalledLastIsAskedFirst();
     void aHandlerMayRemoveHandlersWhileItRuns();
-    void anEventEndsWhenItsWidgetsDie_data();
     void anEventEndsWhenItsWidgetsDie();
     void handlersGoWithTheirWidgetAndTheirRef();
     void eventsOfADialogStayInTheDialog();
@@ -61,26 +59,16 @@ struct Tree
 
 } // namespace
 
-void TestEvents::anEventClimbsUntilItIsTaken_data()
-{
-    QTest::addColumn<int>("paneAnswer");
-    QTest::addColumn<QStringList>("asked");
-
-    const QStringList all{"button", "pane", "window"};
-    const QStringList two{"button", "pane"};
-    QTest::newRow("nobody takes it") << int(eventNotHandledErr) << all;
-    QTest::newRow("taken on the way") << int(noErr) << two;
-    QTest::newRow("an error takes it too") << int(paramErr) << two;
-}
-
 void TestEvents::anEventClimbsUntilItIsTaken()
 {
-    QFETCH(int, paneAnswer);
-    QFETCH(QStringList, asked);
-    Tree tree(paneAnswer);
-
-    QCOMPARE(sendFrom(tree.button, EventKind::ControlHit), paneAnswer);
-    QCOMPARE(tree.asked, asked);
+    const QStringList all{"button", "pane", "window"}, two{"button", "pane"};
+    // An error takes it too.
+    for (const auto &[paneAnswer, asked] :
+         {std::pair(OSStatus(eventNotHandledErr), all), {noErr, two}, {paramErr, two}}) {
+        Tree tree(paneAnswer);
+        QCOMPARE(sendFrom(tree.button, EventKind::ControlHit), paneAnswer);
+        QCOMPARE(tree.asked, asked);
+    }
 }
 
 void TestEvents::theHandlerInstalledLastIsAskedFirst()
@@ -111,26 +99,19 @@ void TestEvents::aHandlerMayRemoveHandlersWhileItRuns()
     QVERIFY(!self.isInstalled());
 }
 
-void TestEvents::anEventEndsWhenItsWidgetsDie_data()
-{
-    QTest::addColumn<bool>("wholePane");
-    QTest::newRow("the button alone") << false;
-    QTest::newRow("the pane that is asked") << true;
-}
-
 void TestEvents::anEventEndsWhenItsWidgetsDie()
 {
-    QFETCH(bool, wholePane);
-    Tree tree;
-    const QPointer<QWidget> button = tree.button;
-    const auto handler = installEventHandler(tree.pane, [&](const Event &) {
-        delete (wholePane ? tree.pane : static_cast<QWidget *>(tree.button));
-        return eventNotHandledErr;
-    });
-
-    QCOMPARE(sendFrom(tree.button, EventKind::ControlHit), noErr);
-    QVERIFY(!button);
-    QCOMPARE(tree.asked, QStringList{"button"});
+    for (const bool wholePane : {false, true}) { // or the button alone
+        Tree tree;
+        const QPointer<QWidget> button = tree.button;
+        const auto handler = installEventHandler(tree.pane, [&](const Event &) {
+            delete (wholePane ? tree.pane : static_cast<QWidget *>(tree.button));
+            return eventNotHandledErr;
+        });
+        QCOMPARE(sendFrom(tree.button, EventKind::ControlHit), noErr);
+        QVERIFY(!button);
+        QCOMPARE(tree.asked, QStringList{"button"});
+    }
 }
 
 void TestEvents::handlersGoWithTheirWidgetAndTheirRef()

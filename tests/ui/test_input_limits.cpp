@@ -1,5 +1,6 @@
 #include "event_log.h"
 #include "input_limits.h"
+#include "table.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -21,7 +22,6 @@ private slots:
     void theFirstProblemIsFound();
     void pastedTextIsCutToFit_data();
     void pastedTextIsCutToFit();
-    void aRefusedCharacterLeavesTheSelection_data();
     void aRefusedCharacterLeavesTheSelection();
     void textsSetByCodeAreNotTouchedAndCanBeShortened();
     void handlersNeverSeeWhatWasRefused();
@@ -79,39 +79,33 @@ const QStringList kinds{"line", "password", "combo box", "plain text"};
 void TestInputLimits::theFirstProblemIsFound_data()
 {
     using enum InputProblem;
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<InputProblem>("problem");
-    QTest::newRow("one below the minimum") << "" << TooShort;
-    QTest::newRow("at the minimum") << "1" << None;
-    QTest::newRow("at the maximum") << "1234" << None;
-    QTest::newRow("one above") << "12345" << TooLong;
-    QTest::newRow("a letter") << "12a" << BadCharacter;
-    QTest::newRow("a letter, and too long") << "12345a" << BadCharacter;
-    QTest::newRow("a digit of another script") << QString(QChar(0x0661)) << BadCharacter;
+    const Table<QString, InputProblem> row{"text", "problem"};
+    row("one below the minimum", "", TooShort);
+    row("at the minimum", "1", None);
+    row("at the maximum", "1234", None);
+    row("one above", "12345", TooLong);
+    row("a letter", "12a", BadCharacter);
+    row("a letter, and too long", "12345a", BadCharacter);
+    row("a digit of another script", QString(QChar(0x0661)), BadCharacter);
 }
 
 void TestInputLimits::theFirstProblemIsFound()
 {
     QFETCH(QString, text);
-    QFETCH(InputProblem, problem);
-    QCOMPARE(findProblem(text, pin()), problem);
+    QTEST(findProblem(text, pin()), "problem");
 }
 
 void TestInputLimits::pastedTextIsCutToFit_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("pasted");
-    QTest::addColumn<QString>("text"); // pasted between 1 and 9
+    // text: pasted between 1 and 9
+    const Table<QString, QString, QString> row{"kind", "pasted", "text"};
     for (const QString &kind : kinds) {
-        const auto row = [&kind](const char *name, const char *pasted, const char *text) {
-            QTest::addRow("%s: %s", qPrintable(kind), name)
-                << kind << QString(pasted) << QString(text);
-        };
-        row("fits", "23", "1239");
-        row("one too many", "234", "1239");
-        row("dashes left out", "2-3-4", "1239");
-        row("one with a substitute", "2l", "1219");
-        row("nothing of it allowed", "ab", "19");
+        for (const auto &[name, pasted, text] : {std::tuple("fits", "23", "1239"),
+                                                 {"one too many", "234", "1239"},
+                                                 {"dashes left out", "2-3-4", "1239"},
+                                                 {"one with a substitute", "2l", "1219"},
+                                                 {"nothing of it allowed", "ab", "19"}})
+            row(qPrintable(kind + ": " + name), kind, pasted, text);
     }
 }
 
@@ -134,28 +128,22 @@ void TestInputLimits::pastedTextIsCutToFit()
     QCOMPARE(textIn(field.get()), text.chopped(1));
 }
 
-void TestInputLimits::aRefusedCharacterLeavesTheSelection_data()
-{
-    QTest::addColumn<QString>("kind");
-    for (const QString &kind : kinds)
-        QTest::addRow("%s", qPrintable(kind)) << kind;
-}
-
 void TestInputLimits::aRefusedCharacterLeavesTheSelection()
 {
-    QFETCH(QString, kind);
-    const auto field = makeField(kind);
-    setInputLimits(field.get(), pin());
-    setTextOf(field.get(), QStringLiteral("1234"));
-    QTest::keyClick(field.get(), Qt::Key_End);
-    QTest::keyClicks(field.get(), "5");
-    QCOMPARE(textIn(field.get()), "1234");
-    QTest::keyClick(field.get(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(field.get(), "x");
-    QCOMPARE(textIn(field.get()), "1234");
-    QTest::keyClick(field.get(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(field.get(), "7");
-    QCOMPARE(textIn(field.get()), "7");
+    for (const QString &kind : kinds) {
+        const auto field = makeField(kind);
+        setInputLimits(field.get(), pin());
+        setTextOf(field.get(), QStringLiteral("1234"));
+        QTest::keyClick(field.get(), Qt::Key_End);
+        QTest::keyClicks(field.get(), "5");
+        QCOMPARE(textIn(field.get()), "1234");
+        QTest::keyClick(field.get(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(field.get(), "x");
+        QCOMPARE(textIn(field.get()), "1234");
+        QTest::keyClick(field.get(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(field.get(), "7");
+        QCOMPARE(textIn(field.get()), "7");
+    }
 }
 
 void TestInputLimits::textsSetByCodeAreNotTouchedAndCanBeShortened()

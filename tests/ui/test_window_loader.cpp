@@ -1,14 +1,14 @@
 #include "control.h"
 #include "event_log.h"
+#include "files.h"
 #include "input_limits.h"
 #include "popup_button.h"
 #include "radio_group.h"
 #include "spin_field.h"
 #include "tab_control.h"
+#include "table.h"
 #include "window_loader.h"
 
-#include <QDir>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,7 +32,10 @@ private slots:
     void noPluginOfTheDesignerIsLoaded();
 
 private:
-    void write(const QString &path, const QByteArray &bytes);
+    void write(const QString &path, const QByteArray &bytes)
+    {
+        putFile(m_folder.filePath(path), bytes);
+    }
 
     QTemporaryDir m_folder;
     CFBundleRef m_bundle = nullptr;
@@ -66,15 +69,6 @@ QByteArray dynamic(const QByteArray &name, const QByteArray &value)
 }
 
 } // namespace
-
-void TestWindowLoader::write(const QString &path, const QByteArray &bytes)
-{
-    const QString full = m_folder.filePath(path);
-    QVERIFY(QDir().mkpath(QFileInfo(full).path()));
-    QFile file(full);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
 
 void TestWindowLoader::initTestCase()
 {
@@ -151,34 +145,31 @@ void TestWindowLoader::aWindowIsBuiltWiredAndLocalized()
 
 void TestWindowLoader::aFaultyDescriptionFails_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QStringList>("named");
+    const Table<QByteArray, QStringList> row{"bytes", "named"};
 
-    QTest::newRow("unknown class")
-        << window(widget("FancyDial", "dial")) << QStringList{"dial", "FancyDial", "PopupButton"};
-    QTest::newRow("a class of Qt's that is not offered")
-        << window(widget("QComboBox", "menu")) << QStringList{"menu", "QComboBox"};
-    QTest::newRow("unknown class outermost")
-        << QByteArray(window("")).replace("\"QWidget\"", "\"Fancy\"") << QStringList{"Fancy"};
-    QTest::newRow("an ID twice") << window(
-        widget("QLineEdit", "one", dynamic("controlID", "KPDE 7"))
-        + widget("QLineEdit", "two", dynamic("controlID", "KPDE 7")))
-                                 << QStringList{"one", "two", "KPDE 7"};
-    QTest::newRow("malformed ID") << window(
-        widget("QLineEdit", "one", dynamic("controlID", "KPDE x7")))
-                                  << QStringList{"one", "KPDE x7"};
-    QTest::newRow("an ID that is a number")
-        << window(widget("QLineEdit", "one",
-                         "<property name=\"controlID\" stdset=\"0\"><number>7</number></property>"))
-        << QStringList{"one"};
-    QTest::newRow("malformed command")
-        << window(widget("QPushButton", "one", dynamic("command", "ok")))
-        << QStringList{"one", "\"ok\""};
-    QTest::newRow("two faults, both named") << window(
-        widget("QPushButton", "one", dynamic("command", "ok")) + widget("FancyDial", "dial"))
-                                            << QStringList{"one", "dial"};
-    QTest::newRow("not well formed") << QByteArray("<ui version=\"4.0\"><widget") << QStringList{};
-    QTest::newRow("empty") << QByteArray() << QStringList{};
+    row("unknown class", window(widget("FancyDial", "dial")), {"dial", "FancyDial", "PopupButton"});
+    row("a class of Qt's that is not offered", window(widget("QComboBox", "menu")),
+        {"menu", "QComboBox"});
+    row("unknown class outermost", QByteArray(window("")).replace("\"QWidget\"", "\"Fancy\""),
+        {"Fancy"});
+    row("an ID twice",
+        window(widget("QLineEdit", "one", dynamic("controlID", "KPDE 7"))
+               + widget("QLineEdit", "two", dynamic("controlID", "KPDE 7"))),
+        {"one", "two", "KPDE 7"});
+    row("malformed ID", window(widget("QLineEdit", "one", dynamic("controlID", "KPDE x7"))),
+        {"one", "KPDE x7"});
+    row("an ID that is a number",
+        window(widget("QLineEdit", "one",
+                      "<property name=\"controlID\" stdset=\"0\"><number>7</number></property>")),
+        {"one"});
+    row("malformed command", window(widget("QPushButton", "one", dynamic("command", "ok"))),
+        {"one", "\"ok\""});
+    row("two faults, both named",
+        window(widget("QPushButton", "one", dynamic("command", "ok"))
+               + widget("FancyDial", "dial")),
+        {"one", "dial"});
+    row("not well formed", "<ui version=\"4.0\"><widget", {});
+    row("empty", {}, {});
 }
 
 void TestWindowLoader::aFaultyDescriptionFails()
@@ -214,9 +205,7 @@ void TestWindowLoader::noPluginOfTheDesignerIsLoaded()
     QVERIFY(loaded);
     const std::unique_ptr<QWidget> shown(loaded.value());
 
-    QFile maps("/proc/self/maps");
-    QVERIFY(maps.open(QIODevice::ReadOnly));
-    const QByteArray files = maps.readAll();
+    const QByteArray files = bytesOf("/proc/self/maps");
     QVERIFY(files.contains("libQt6UiTools"));
     QVERIFY(!files.contains("/designer/"));
     // The platform's other plug-ins are found as before.

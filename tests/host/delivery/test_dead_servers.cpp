@@ -3,6 +3,8 @@
 #include "pdf_samples.h"
 #include "printers.h"
 #include "private_cups.h"
+#include "sample_ppds.h"
+#include "table.h"
 #include "unreliable_server.h"
 
 #include <QElapsedTimer>
@@ -50,7 +52,7 @@ constexpr int promptly = timeout + 4000; // on a busy machine; a hang would be l
 void TestDeadServers::initTestCase()
 {
     QString problem = m_cups.start();
-    const QString ppdPath = QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd");
+    const QString ppdPath = ppdWithoutTicket();
     if (problem.isEmpty())
         problem = m_cups.addQueue("Office", ppdPath);
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
@@ -163,7 +165,7 @@ void TestDeadServers::giveOnlyWholePpds()
             QTest::qWait(1);
         return failed.isEmpty() ? std::optional<Error>() : failed.first().at(1).value<Error>();
     };
-    const qint64 whole = QFileInfo(QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd")).size();
+    const qint64 whole = QFileInfo(ppdWithoutTicket()).size();
     QList<qint64> places{0, 1, whole - 1, whole};
     for (qint64 place = 8; place < 700; place += 13) // the head of the answer, and beyond
         places << place;
@@ -180,9 +182,9 @@ void TestDeadServers::giveOnlyWholePpds()
 
 void TestDeadServers::giveUpAHalfSentJob_data()
 {
-    QTest::addColumn<bool>("isCancelled");
-    QTest::newRow("timed out") << false;
-    QTest::newRow("cancelled") << true;
+    const Table<bool> row{"isCancelled"};
+    row("timed out", false);
+    row("cancelled", true);
 }
 
 void TestDeadServers::giveUpAHalfSentJob()

@@ -3,6 +3,8 @@
 #include "pdf_samples.h"
 #include "property_list.h"
 #include "sample_documents.h"
+#include "sample_ppds.h"
+#include "table.h"
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
@@ -24,7 +26,6 @@ class TestPreparedJobs : public QObject
 private slots:
     void init();
     void carryTheTicketWhoseHashTheyName();
-    void neverRepeatATicket();
     void takeOlderTicketsOutWhereverTheyHang_data();
     void takeOlderTicketsOutWhereverTheyHang();
     void leaveNothingOfEarlierRevisions_data();
@@ -33,9 +34,7 @@ private slots:
     void refuseTicketsThatCannotBeTakenOut();
     void refuseSecretsWhereTicketsAreNotRead_data();
     void refuseSecretsWhereTicketsAreNotRead();
-    void cutPages_data();
     void cutPages();
-    void takeTheirFilesWithThem();
     void goIntoAPrivateFolder();
     void keepWhatStandsThereOnAFullDisk();
     void sayWhenTheDiskIsFullBefore();
@@ -80,9 +79,8 @@ Document TestPreparedJobs::documentFrom(const QByteArray &pdf)
     return document ? document.value() : Document();
 }
 
-static const QString reads =
-    QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
-static const QString readsNot = QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd");
+static const QString reads = samplePpd("full");
+static const QString readsNot = ppdWithoutTicket();
 
 static QString optionOf(const PreparedJob &job, const QString &name)
 {
@@ -124,24 +122,18 @@ void TestPreparedJobs::carryTheTicketWhoseHashTheyName()
     QVERIFY2(ticket, qPrintable(ticket.reason()));
     QCOMPARE(ticket.value().unknown.take(kTicketNonceKey).toByteArray().size(), 16);
     QCOMPARE(ticket.value(), wanted.ticket);
-}
 
-void TestPreparedJobs::neverRepeatATicket()
-{
-    const JobRequest wanted = request(reads);
-    const auto one = prepareJob(wanted);
-    const auto other = prepareJob(wanted);
-    QVERIFY(one && other);
-    QVERIFY(one.value().ticketSha256 != other.value().ticketSha256);
+    // The same job is another ticket the next time.
+    const auto next = prepareJob(wanted);
+    QVERIFY(next && next.value().ticketSha256 != hash);
 }
 
 // Objects 1 to 3 are the catalog, the page tree and the page; each form adds what it
 // needs, with OLD for the ticket's entry and STREAM for what is in it.
 void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
 {
-    QTest::addColumn<QByteArray>("catalog"); // entries
-    QTest::addColumn<QByteArray>("page");
-    QTest::addColumn<QList<QByteArray>>("objects"); // from number 4
+    // catalog: entries; objects: from number 4
+    const Table<QByteArray, QByteArray, QList<QByteArray>> row{"catalog", "page", "objects"};
 
     const QByteArray stream = "<< /Type /EmbeddedFile /Length 6 >>\nstream\nsecret\nendstream";
     struct Name
@@ -169,32 +161,26 @@ void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
     struct Place
     {
         const char *what;
-        QByteArray catalog, page;
-        QList<QByteArray> objects;
+        QByteArray catalog, page = {};
+        QList<QByteArray> objects = {};
     };
     const Place places[] = {
-        {"list", "/Names << /EmbeddedFiles << /Names [(k) OLD] >> >>", "", {}},
+        {"list", "/Names << /EmbeddedFiles << /Names [(k) OLD] >> >>"},
         {"unsorted list",
          "/Names << /EmbeddedFiles << /Names [(z) << /Type /Filespec /F (z) >> (k) OLD (a) << "
-         "/Type /Filespec /F (a) >>] >> >>",
-         "",
-         {}},
-        {"list of an odd length", "/Names << /EmbeddedFiles << /Names [(k) OLD (z)] >> >>", "", {}},
+         "/Type /Filespec /F (a) >>] >> >>"},
+        {"list of an odd length", "/Names << /EmbeddedFiles << /Names [(k) OLD (z)] >> >>"},
         {"tree without limits",
-         "/Names << /EmbeddedFiles << /Kids [<< /Kids [<< /Names [(k) OLD] >>] >>] >> >>",
-         "",
-         {}},
+         "/Names << /EmbeddedFiles << /Kids [<< /Kids [<< /Names [(k) OLD] >>] >>] >> >>"},
         {"tree with wrong limits",
-         "/Names << /EmbeddedFiles << /Kids [<< /Limits [(x) (y)] /Names [(k) OLD] >>] >> >>",
-         "",
-         {}},
+         "/Names << /EmbeddedFiles << /Kids [<< /Limits [(x) (y)] /Names [(k) OLD] >>] >> >>"},
         {"tree in a circle",
          "/Names << /EmbeddedFiles 7 0 R >>",
          "",
          {"<< /Kids [7 0 R 8 0 R] >>", "<< /Names [(k) OLD] /Kids [7 0 R] >>"}},
-        {"twice", "/Names << /EmbeddedFiles << /Names [(k) OLD (k) OLD] >> >>", "", {}},
-        {"document's files", "/AF [OLD]", "", {}},
-        {"document's file", "/AF OLD", "", {}},
+        {"twice", "/Names << /EmbeddedFiles << /Names [(k) OLD (k) OLD] >> >>"},
+        {"document's files", "/AF [OLD]"},
+        {"document's file", "/AF OLD"},
         {"page's files", "", "/AF [OLD]", {}},
         {"structure's files",
          "/StructTreeRoot 7 0 R",
@@ -206,48 +192,33 @@ void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
          {"<< /Type /XObject /Subtype /Form /BBox [0 0 9 9] /AF [OLD] /Length 0 "
           ">>\nstream\n\nendstream"}},
         {"marked content", "", "/Resources << /Properties << /M OLD >> >>", {}},
-        {"note",
-         "",
-         "/Annots [<< /Type /Annot /Subtype /FileAttachment /Rect [0 0 9 9] /FS OLD >>]",
-         {}},
+        {"note", "",
+         "/Annots [<< /Type /Annot /Subtype /FileAttachment /Rect [0 0 9 9] /FS OLD >>]"},
         {"note elsewhere",
          "",
          "/Annots 7 0 R",
          {"[8 0 R 9 0 R]",
           "<< /Type /Annot /Subtype /FileAttachment /Rect [0 0 9 9] /FS OLD /Popup 9 0 R >>",
           "<< /Type /Annot /Subtype /Popup /Rect [0 0 9 9] /Parent 8 0 R >>"}},
-        {"files of a link",
-         "",
+        {"files of a link", "",
          "/Annots [<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /AF [OLD] /A << /S /Launch /F "
-         "OLD >> >>]",
-         {}},
-        {"film",
-         "",
+         "OLD >> >>]"},
+        {"film", "",
          "/Annots [<< /Type /Annot /Subtype /RichMedia /Rect [0 0 9 9] /RichMediaContent << "
-         "/Assets << /Names [(k) OLD] >> >> >>]",
-         {}},
+         "/Assets << /Names [(k) OLD] >> >> >>]"},
         {"collection",
-         "/Collection << /View /D >> /Names << /EmbeddedFiles << /Names [(k) OLD] >> >>",
-         "",
-         {}},
+         "/Collection << /View /D >> /Names << /EmbeddedFiles << /Names [(k) OLD] >> >>"},
         {"related file",
          "/Names << /EmbeddedFiles << /Names [(a) << /Type /Filespec /F (a) /EF << /F STREAM >> "
-         "/RF << /F [(kelvo-ticket.plist) STREAM] >> >>] >> >>",
-         "",
-         {}},
+         "/RF << /F [(kelvo-ticket.plist) STREAM] >> >>] >> >>"},
         {"key of a list",
          "/Names << /EmbeddedFiles << /Names [(z) << /Type /Filespec /F (z) >> "
-         "(kelvo-ticket.plist) << /Type /Filespec /F (x) /EF << /F STREAM >> >>] >> >>",
-         "",
-         {}},
+         "(kelvo-ticket.plist) << /Type /Filespec /F (x) /EF << /F STREAM >> >>] >> >>"},
         {"key of a list, and a file of the page",
          "/Names << /EmbeddedFiles << /Names [(kelvo-ticket.plist) 7 0 R] >> >>",
          "/AF [7 0 R]",
          {"<< /Type /Filespec /F (x) /EF << /F STREAM >> >>"}},
-        {"shared with another file",
-         "/AF [<< /Type /Filespec /F (b) /EF << /F STREAM >> >> OLD]",
-         "",
-         {}},
+        {"shared with another file", "/AF [<< /Type /Filespec /F (b) /EF << /F STREAM >> >> OLD]"},
     };
     const auto add = [&](const QByteArray &what, const QByteArray &name, const Place &place,
                          bool isDirect, const QByteArray &type) {
@@ -258,7 +229,7 @@ void TestPreparedJobs::takeOlderTicketsOutWhereverTheyHang_data()
         QList<QByteArray> objects = {file, stream, "(kelvo-ticket.plist)"};
         for (const QByteArray &object : place.objects)
             objects << filled(object);
-        QTest::newRow(what.constData()) << filled(place.catalog) << filled(place.page) << objects;
+        row(what.constData(), filled(place.catalog), filled(place.page), objects);
     };
     const QByteArray type = "/Type /Filespec ";
     for (const Name &name : names)
@@ -306,12 +277,11 @@ using Objects = QMap<int, QByteArray>; // by number
 // is in it.
 void TestPreparedJobs::leaveNothingOfEarlierRevisions_data()
 {
-    QTest::addColumn<Objects>("update");
-    QTest::newRow("all overwritten") << Objects{{4, "<< >>"}, {5, "null"}, {6, "null"}};
-    QTest::newRow("only the list overwritten") << Objects{{4, "<< >>"}};
-    QTest::newRow("without a name") << Objects{{4, "<< >>"}, {5, "null"}};
-    QTest::newRow("given another name")
-        << Objects{{5, "<< /Type /Filespec /F (notes.txt) /EF << /F 7 0 R >> >>"}};
+    const Table<Objects> row{"update"};
+    row("all overwritten", {{4, "<< >>"}, {5, "null"}, {6, "null"}});
+    row("only the list overwritten", {{4, "<< >>"}});
+    row("without a name", {{4, "<< >>"}, {5, "null"}});
+    row("given another name", {{5, "<< /Type /Filespec /F (notes.txt) /EF << /F 7 0 R >> >>"}});
 }
 
 void TestPreparedJobs::leaveNothingOfEarlierRevisions()
@@ -397,18 +367,15 @@ void TestPreparedJobs::refuseTicketsThatCannotBeTakenOut()
 
 void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead_data()
 {
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<QString>("secret");
-    QTest::addColumn<bool>("isFax");
-    QTest::addColumn<bool>("isRefused");
-    QTest::newRow("passcode, read") << reads << "1" << false << false;
-    QTest::newRow("fax, read") << reads << "" << true << false;
-    QTest::newRow("nothing, not read") << readsNot << "" << false << false;
-    QTest::newRow("passcode, not read") << readsNot << "1" << false << true;
-    QTest::newRow("fax, not read") << readsNot << "" << true << true;
-    QTest::newRow("nothing, no PPD") << QString() << "" << false << false;
-    QTest::newRow("passcode, no PPD") << QString() << "1" << false << true;
-    QTest::newRow("fax, no PPD") << QString() << "" << true << true;
+    const Table<QString, QString, bool, bool> row{"ppd", "secret", "isFax", "isRefused"};
+    row("passcode, read", reads, "1", false, false);
+    row("fax, read", reads, "", true, false);
+    row("nothing, not read", readsNot, "", false, false);
+    row("passcode, not read", readsNot, "1", false, true);
+    row("fax, not read", readsNot, "", true, true);
+    row("nothing, no PPD", {}, "", false, false);
+    row("passcode, no PPD", {}, "1", false, true);
+    row("fax, no PPD", {}, "", true, true);
 }
 
 void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
@@ -416,13 +383,12 @@ void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
     QFETCH(QString, ppd);
     QFETCH(QString, secret);
     QFETCH(bool, isFax);
-    QFETCH(bool, isRefused);
     JobRequest wanted = request(ppd);
     wanted.ticket.printSettings.entries["Job"].value = Dictionary{{"Password", secret}};
     if (isFax)
         wanted.ticket.printSettings.entries["Recipients"] = {Array{"030"}, "test"};
     const auto job = prepareJob(wanted);
-    QCOMPARE(!job, isRefused);
+    QTEST(!job, "isRefused");
     if (!job) {
         QCOMPARE(job.error().code, Code::Unsupported);
         QVERIFY(job.error().detail.contains("KelvoTicket"));
@@ -433,46 +399,20 @@ void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
     }
 }
 
-void TestPreparedJobs::cutPages_data()
-{
-    QTest::addColumn<QString>("ranges");
-    QTest::addColumn<QList<int>>("pages"); // empty: refused
-    QTest::newRow("all") << "" << QList<int>{1, 2, 3, 4, 5};
-    QTest::newRow("blanks") << "  " << QList<int>{1, 2, 3, 4, 5};
-    QTest::newRow("some") << "2-3,5" << QList<int>{2, 3, 5};
-    QTest::newRow("one too many") << "5-6" << QList<int>{5};
-    QTest::newRow("not there") << "6" << QList<int>();
-    QTest::newRow("page 0") << "0" << QList<int>();
-}
-
 void TestPreparedJobs::cutPages()
 {
-    QFETCH(QString, ranges);
-    QFETCH(QList<int>, pages);
     JobRequest wanted = request(reads, 5);
-    wanted.settings.pageRanges = ranges;
-    wanted.ticket.printSettings.entries[kPMPageRangesKey] = {ranges, "test"};
-    const auto job = prepareJob(wanted);
-    QCOMPARE(!job, pages.isEmpty());
-    if (!job) {
-        QCOMPARE(job.error().code, Code::OutOfRange);
-        return;
-    }
-    QCOMPARE(pagesOf(job.value().pdfPath), pages);
+    const auto withRanges = [&wanted](const QString &ranges) {
+        wanted.settings.pageRanges = ranges;
+        wanted.ticket.printSettings.entries[kPMPageRangesKey] = {ranges, "test"};
+        return prepareJob(wanted);
+    };
+    QCOMPARE(withRanges("6").error().code, Code::OutOfRange);
+    const auto job = withRanges("2-3,5-6");
+    QVERIFY2(job, qPrintable(job.reason()));
+    QCOMPARE(pagesOf(job.value().pdfPath), (QList<int>{2, 3, 5}));
     // The device must not cut them again.
     QVERIFY(!job.value().ticket.contains(kPMPageRangesKey.toUtf8()));
-}
-
-void TestPreparedJobs::takeTheirFilesWithThem()
-{
-    QString path;
-    {
-        const auto job = prepareJob(request(reads));
-        QVERIFY(job);
-        path = job.value().pdfPath;
-        QVERIFY(QFile::exists(path));
-    }
-    QVERIFY(!QFile::exists(path));
 }
 
 void TestPreparedJobs::goIntoAPrivateFolder()

@@ -3,6 +3,8 @@
 #include "pdf_samples.h"
 #include "printers.h"
 #include "private_cups.h"
+#include "sample_ppds.h"
+#include "table.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -61,9 +63,8 @@ private:
     std::shared_ptr<PpdFile> m_ppd;
 };
 
-static const QString reads =
-    QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
-static const QString readsNot = QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd");
+static const QString reads = samplePpd("full");
+static const QString readsNot = ppdWithoutTicket();
 
 void TestQueues::initTestCase()
 {
@@ -283,12 +284,11 @@ void TestQueues::titlesArriveInOneLine()
 
 void TestQueues::jobsAreRefused_data()
 {
-    QTest::addColumn<QString>("queue");
-    QTest::addColumn<Code>("code");
-    QTest::newRow("unknown queue") << "Nowhere" << Code::NotFound;
-    QTest::newRow("no name") << "" << Code::NotFound;
-    QTest::newRow("odd name") << "a b" << Code::NotFound;
-    QTest::newRow("queue that takes no jobs") << "Closed" << Code::Refused;
+    const Table<QString, Code> row{"queue", "code"};
+    row("unknown queue", "Nowhere", Code::NotFound);
+    row("no name", "", Code::NotFound);
+    row("odd name", "a b", Code::NotFound);
+    row("queue that takes no jobs", "Closed", Code::Refused);
 }
 
 void TestQueues::jobsAreRefused()
@@ -344,11 +344,11 @@ void TestQueues::secretsGoThroughTls()
 
 void TestQueues::secretsStayWhereTheQueueIsAnother_data()
 {
-    QTest::addColumn<QString>("queue");
-    QTest::newRow("reads no tickets") << "Office";
-    QTest::newRow("a class that reads none") << "Offices";
-    QTest::newRow("a class of which one reads none") << "Mixed";
-    QTest::newRow("no PPD") << "Raw";
+    const Table<QString> row{"queue"};
+    row("reads no tickets", "Office");
+    row("a class that reads none", "Offices");
+    row("a class of which one reads none", "Mixed");
+    row("no PPD", "Raw");
 }
 
 void TestQueues::secretsStayWhereTheQueueIsAnother()

@@ -3,6 +3,7 @@
 #include "document_helper.h"
 #include "page_drawing.h"
 #include "sample_documents.h"
+#include "table.h"
 #include "ticket_attachment.h"
 
 #include <QDir>
@@ -29,7 +30,6 @@ class TestDocumentHelpers : public QObject
 
 private slots:
     void cleanup() { setDocumentHelperFolder({}); }
-    void areMissedWithAMessage_data();
     void areMissedWithAMessage();
     void areForTheirOwnVersionOnly();
     void areAskedForEverything();
@@ -85,33 +85,23 @@ Result<Document> open(const QString &path)
 
 } // namespace
 
-void TestDocumentHelpers::areMissedWithAMessage_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<Error::Code>("code");
-    QTest::addColumn<QString>("words");
-    QTest::newRow("not there") << QStringLiteral("/nowhere") << Error::Code::NotFound
-                               << "install kelvo-print anew";
-    QTest::newRow("no program") << scriptedHelpers("this is no program") << Error::Code::NotReadable
-                                << "does not start";
-}
-
 void TestDocumentHelpers::areMissedWithAMessage()
 {
-    QFETCH(QString, folder);
-    QFETCH(Error::Code, code);
-    QFETCH(QString, words);
-    setDocumentHelperFolder(folder);
-
-    for (const QString &path : {sample(), file("txt", "a text")}) {
-        const Result<Document> document = open(path);
-        QVERIFY(!document);
-        QCOMPARE(document.error().code, code);
-        QVERIFY2(document.error().detail.contains(words), qPrintable(document.error().text()));
+    for (const auto &[folder, code, words] :
+         {std::tuple(QStringLiteral("/nowhere"), Error::Code::NotFound, "install kelvo-print anew"),
+          {scriptedHelpers("this is no program"), Error::Code::NotReadable, "does not start"}}) {
+        setDocumentHelperFolder(folder);
+        for (const QString &path : {sample(), file("txt", "a text")}) {
+            const Result<Document> document = open(path);
+            QVERIFY(!document);
+            QCOMPARE(document.error().code, code);
+            QVERIFY2(document.error().detail.contains(words), qPrintable(document.error().text()));
+        }
+        QVERIFY(!replaceTicket(sample(), {}, QFileInfo("out").absoluteFilePath()));
+        PageDrawing drawing(sample());
+        QCOMPARE(drawing.draw(1, {100, 100}, [] { return false; }).problem,
+                 PageProblem::NotDrawable);
     }
-    QVERIFY(!replaceTicket(sample(), {}, QFileInfo("out").absoluteFilePath()));
-    PageDrawing drawing(sample());
-    QCOMPARE(drawing.draw(1, {100, 100}, [] { return false; }).problem, PageProblem::NotDrawable);
 }
 
 void TestDocumentHelpers::areForTheirOwnVersionOnly()
@@ -141,9 +131,10 @@ void TestDocumentHelpers::areAskedForEverything()
 
 void TestDocumentHelpers::openNothingElse_data()
 {
-    QTest::addColumn<bool>("mayRead"); // what is in a folder that is allowed
-    QTest::newRow("but open files") << false;
-    QTest::newRow("but what is allowed") << true;
+    // mayRead: what is in a folder that is allowed
+    const Table<bool> row{"mayRead"};
+    row("but open files", false);
+    row("but what is allowed", true);
 }
 
 void TestDocumentHelpers::openNothingElse()
@@ -188,17 +179,14 @@ void TestDocumentHelpers::openNothingElse()
 
 void TestDocumentHelpers::saySoWhenTheyFail_data()
 {
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<Error::Code>("code");
-    QTest::addColumn<PageProblem>("problem");
+    const Table<QByteArray, Error::Code, PageProblem> row{"script", "code", "problem"};
     using Code = Error::Code;
     using enum PageProblem;
 
-    QTest::newRow("crash") << QByteArray("kill -SEGV $$") << Code::Damaged << NotDrawable;
-    QTest::newRow("out of memory") << QByteArray("exit 21") << Code::TooLarge << TooLarge;
-    QTest::newRow("silence") << QByteArray("exit 0") << Code::Damaged << NotDrawable;
-    QTest::newRow("nonsense") << QByteArray("yes nonsense | head; cat >&2") << Code::Damaged
-                              << NotDrawable;
+    row("crash", "kill -SEGV $$", Code::Damaged, NotDrawable);
+    row("out of memory", "exit 21", Code::TooLarge, TooLarge);
+    row("silence", "exit 0", Code::Damaged, NotDrawable);
+    row("nonsense", "yes nonsense | head; cat >&2", Code::Damaged, NotDrawable);
 }
 
 void TestDocumentHelpers::saySoWhenTheyFail()

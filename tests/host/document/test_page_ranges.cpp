@@ -1,4 +1,5 @@
 #include "page_ranges.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -22,19 +23,19 @@ private slots:
 
 void TestPageRanges::readsRanges_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<Runs>("runs"); // of a document of 12 pages
+    // runs: of a document of 12 pages
+    const Table<QString, Runs> row{"text", "runs"};
 
-    QTest::newRow("nothing is everything") << "  " << Runs{{1, 12}};
-    QTest::newRow("one page") << "7" << Runs{{7, 7}};
-    QTest::newRow("the order written") << "9-10,1-3" << Runs{{9, 10}, {1, 3}};
-    QTest::newRow("overlapping") << "1-3,2" << Runs{{1, 3}, {2, 2}};
-    QTest::newRow("blanks") << " 1 - 3 , 7 " << Runs{{1, 3}, {7, 7}};
-    QTest::newRow("open end") << "9-" << Runs{{9, 12}};
-    QTest::newRow("open begin") << "-3" << Runs{{1, 3}};
-    QTest::newRow("last page") << "12-12" << Runs{{12, 12}};
-    QTest::newRow("ends after the document") << "11-13" << Runs{{11, 12}};
-    QTest::newRow("ends after all numbers") << "11-99999999999999999999" << Runs{{11, 12}};
+    row("nothing is everything", "  ", {{1, 12}});
+    row("one page", "7", {{7, 7}});
+    row("the order written", "9-10,1-3", {{9, 10}, {1, 3}});
+    row("overlapping", "1-3,2", {{1, 3}, {2, 2}});
+    row("blanks", " 1 - 3 , 7 ", {{1, 3}, {7, 7}});
+    row("open end", "9-", {{9, 12}});
+    row("open begin", "-3", {{1, 3}});
+    row("last page", "12-12", {{12, 12}});
+    row("ends after the document", "11-13", {{11, 12}});
+    row("ends after all numbers", "11-99999999999999999999", {{11, 12}});
 }
 
 void TestPageRanges::readsRanges()
@@ -51,25 +52,24 @@ void TestPageRanges::readsRanges()
 void TestPageRanges::refusesRanges_data()
 {
     using Code = Error::Code;
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<Error::Code>("code");
-    QTest::addColumn<QString>("part"); // named in the message
+    // part: named in the message
+    const Table<QString, Error::Code, QString> row{"text", "code", "part"};
 
-    QTest::newRow("page 0") << "1,0" << Code::OutOfRange << "\"0\"";
-    QTest::newRow("from page 0") << "0-3" << Code::OutOfRange << "\"0-3\"";
-    QTest::newRow("up to page 0") << "-0" << Code::OutOfRange << "\"-0\"";
-    QTest::newRow("backwards") << "1,3-2" << Code::OutOfRange << "\"3-2\"";
-    QTest::newRow("one after the last") << "13" << Code::OutOfRange << "\"13\"";
-    QTest::newRow("begins after the last") << "13-" << Code::OutOfRange << "\"13-\"";
-    QTest::newRow("after all numbers") << "4294967297" << Code::OutOfRange << "\"4294967297\"";
-    QTest::newRow("only a dash") << "-" << Code::Damaged << "\"-\"";
-    QTest::newRow("a comma too many") << "1,,3" << Code::Damaged << "\"\"";
-    QTest::newRow("a comma at the end") << "1," << Code::Damaged << "\"\"";
-    QTest::newRow("two dashes") << "1--3" << Code::Damaged << "\"1--3\"";
-    QTest::newRow("a blank inside") << "1 2" << Code::Damaged << "\"1 2\"";
-    QTest::newRow("a word") << "1,odd" << Code::Damaged << "\"odd\"";
-    QTest::newRow("a fraction") << "1.5" << Code::Damaged << "\"1.5\"";
-    QTest::newRow("other digits") << QStringLiteral("\u0661") << Code::Damaged << "";
+    row("page 0", "1,0", Code::OutOfRange, "\"0\"");
+    row("from page 0", "0-3", Code::OutOfRange, "\"0-3\"");
+    row("up to page 0", "-0", Code::OutOfRange, "\"-0\"");
+    row("backwards", "1,3-2", Code::OutOfRange, "\"3-2\"");
+    row("one after the last", "13", Code::OutOfRange, "\"13\"");
+    row("begins after the last", "13-", Code::OutOfRange, "\"13-\"");
+    row("after all numbers", "4294967297", Code::OutOfRange, "\"4294967297\"");
+    row("only a dash", "-", Code::Damaged, "\"-\"");
+    row("a comma too many", "1,,3", Code::Damaged, "\"\"");
+    row("a comma at the end", "1,", Code::Damaged, "\"\"");
+    row("two dashes", "1--3", Code::Damaged, "\"1--3\"");
+    row("a blank inside", "1 2", Code::Damaged, "\"1 2\"");
+    row("a word", "1,odd", Code::Damaged, "\"odd\"");
+    row("a fraction", "1.5", Code::Damaged, "\"1.5\"");
+    row("other digits", "\u0661", Code::Damaged, "");
 }
 
 void TestPageRanges::refusesRanges()

@@ -2,6 +2,7 @@
 #include "sample_documents.h"
 #include "sanitizers.h"
 #include "size_limits.h"
+#include "table.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -138,14 +139,12 @@ void TestPageRenderer::doesNotWaitForASlowPage()
 
 void TestPageRenderer::saysWhatIsTooMuch_data()
 {
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<PageProblem>("problem");
+    const Table<QByteArray, PageProblem> row{"contents", "problem"};
     // A few kilobytes when they are compressed; each "q" keeps 4 kB of state.
     if (!kHasSanitizer)
-        QTest::newRow("memory") << QByteArray("q ").repeated(2'000'000) << PageProblem::TooLarge;
-    QTest::newRow("time")
-        << QByteArray("0 0 2000 2000 re 5 5 m 900 20 70 800 30 40 c f*\n").repeated(3'000'000)
-        << PageProblem::TooSlow;
+        row("memory", QByteArray("q ").repeated(2'000'000), PageProblem::TooLarge);
+    row("time", QByteArray("0 0 2000 2000 re 5 5 m 900 20 70 800 30 40 c f*\n").repeated(3'000'000),
+        PageProblem::TooSlow);
 }
 
 void TestPageRenderer::saysWhatIsTooMuch()

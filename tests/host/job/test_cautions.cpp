@@ -2,6 +2,7 @@
 #include "job_words.h"
 #include "left_out_covers.h"
 #include "page_placement.h"
+#include "table.h"
 #include "texts.h"
 
 #include <QScopeGuard>
@@ -33,9 +34,8 @@ private slots:
 void TestCautions::saysWhyAPrinterDoesNotPrint_data()
 {
     using enum PrinterCondition::State;
-    QTest::addColumn<PrinterCondition>("condition");
-    QTest::addColumn<int>("weight"); // -1: nothing is to be said
-    QTest::addColumn<QString>("text");
+    // weight -1: nothing is to be said
+    const Table<PrinterCondition, int, QString> row{"condition", "weight", "text"};
     const auto condition = [](PrinterCondition::State state, bool accepts, const char *message,
                               const QStringList &reasons) {
         return PrinterCondition{state, accepts, stateWords(QString::fromUtf8(message), reasons)};
@@ -43,23 +43,21 @@ void TestCautions::saysWhyAPrinterDoesNotPrint_data()
     const int asked = int(Weight::Asked);
     const int refused = int(Weight::Refused);
 
-    QTest::newRow("idle") << condition(Idle, true, "Ready.", {"none"}) << -1 << "";
-    QTest::newRow("busy, and paper low")
-        << condition(Busy, true, "", {"media-low-warning"}) << -1 << "";
-    QTest::newRow("stopped by somebody who says why")
-        << condition(Stopped, true, " Toner is\non order. ", {"paused"}) << asked
-        << "“Q” is stopped: Toner is on order.";
-    QTest::newRow("stopped without a word")
-        << condition(Stopped, true, "Paused", {"paused"}) << asked << "“Q” is stopped.";
-    QTest::newRow("reasons of the device")
-        << condition(Stopped, true, "",
-                     {"media-empty-error", "door-open-report", "com.example-glued", "other"})
-        << asked << "“Q” is stopped: there is no paper, a door is open, com.example glued.";
-    QTest::newRow("takes no jobs")
-        << condition(Idle, false, "Rejecting Jobs", {"none"}) << refused << "“Q” takes no jobs.";
-    QTest::newRow("takes no jobs, and is stopped")
-        << condition(Stopped, false, "Closed", {"paused"}) << refused
-        << "“Q” takes no jobs: Closed.";
+    row("idle", condition(Idle, true, "Ready.", {"none"}), -1, "");
+    row("busy, and paper low", condition(Busy, true, "", {"media-low-warning"}), -1, "");
+    row("stopped by somebody who says why",
+        condition(Stopped, true, " Toner is\non order. ", {"paused"}), asked,
+        "“Q” is stopped: Toner is on order.");
+    row("stopped without a word", condition(Stopped, true, "Paused", {"paused"}), asked,
+        "“Q” is stopped.");
+    row("reasons of the device",
+        condition(Stopped, true, "",
+                  {"media-empty-error", "door-open-report", "com.example-glued", "other"}),
+        asked, "“Q” is stopped: there is no paper, a door is open, com.example glued.");
+    row("takes no jobs", condition(Idle, false, "Rejecting Jobs", {"none"}), refused,
+        "“Q” takes no jobs.");
+    row("takes no jobs, and is stopped", condition(Stopped, false, "Closed", {"paused"}), refused,
+        "“Q” takes no jobs: Closed.");
 }
 
 void TestCautions::saysWhyAPrinterDoesNotPrint()
@@ -74,17 +72,17 @@ void TestCautions::saysWhyAPrinterDoesNotPrint()
 
 void TestCautions::numbersThePagesThatAreCut_data()
 {
-    QTest::addColumn<QList<int>>("pages");
-    QTest::addColumn<QString>("begin"); // empty: nothing is to be said
+    // begin empty: nothing is to be said
+    const Table<QList<int>, QString> row{"pages", "begin"};
     QList<int> many;
     for (int page = 1; page < 40; page += 2)
         many << page;
 
-    QTest::newRow("none") << QList<int>() << "";
-    QTest::newRow("one") << QList<int>{7} << "Page 7 is larger than the paper, A4: ";
-    QTest::newRow("neighbours") << QList<int>{1, 2} << "Pages 1–2 are larger ";
-    QTest::newRow("both") << QList<int>{2, 4, 5, 6, 9} << "Pages 2, 4–6 and 9 are larger ";
-    QTest::newRow("many") << many << "Pages 1, 3, 5, 7, 9, 11, 13, 15 and 12 more are larger ";
+    row("none", QList<int>(), "");
+    row("one", QList<int>{7}, "Page 7 is larger than the paper, A4: ");
+    row("neighbours", QList<int>{1, 2}, "Pages 1–2 are larger ");
+    row("both", QList<int>{2, 4, 5, 6, 9}, "Pages 2, 4–6 and 9 are larger ");
+    row("many", many, "Pages 1, 3, 5, 7, 9, 11, 13, 15 and 12 more are larger ");
 }
 
 void TestCautions::numbersThePagesThatAreCut()
@@ -111,26 +109,22 @@ void TestCautions::pagesAreCutBothWays()
 void TestCautions::remembersCoversThatAreLeftOut_data()
 {
     // What the ticket says each time, "-" for no choice, and where the user is then.
-    QTest::addColumn<QStringList>("looks");
-    QTest::addColumn<int>("last");
+    const Table<QStringList, int> row{"looks", "last"};
 
-    QTest::newRow("no cover") << QStringList{"None 1", "None 2"} << int(Cover::None);
-    QTest::newRow("with a source") << QStringList{"Tray2 1"} << int(Cover::None);
-    QTest::newRow("without one") << QStringList{"None 1", "- 1"} << int(Cover::LeftOut);
-    QTest::newRow("still held elsewhere") << QStringList{"- 1", "- 2"} << int(Cover::LeftOut);
-    QTest::newRow("given a source") << QStringList{"- 1", "Tray2 1"} << int(Cover::None);
-    QTest::newRow("taken away") << QStringList{"- 1", "None 1"} << int(Cover::None);
-    QTest::newRow("forgotten by the next panel")
-        << QStringList{"- 1", "None 2"} << int(Cover::Gone);
-    QTest::newRow("forgotten for good")
-        << QStringList{"- 1", "None 2", "None 2", "None 1"} << int(Cover::Gone);
-    QTest::newRow("chosen anew") << QStringList{"- 1", "None 2", "Auto 2"} << int(Cover::None);
+    row("no cover", {"None 1", "None 2"}, int(Cover::None));
+    row("with a source", {"Tray2 1"}, int(Cover::None));
+    row("without one", {"None 1", "- 1"}, int(Cover::LeftOut));
+    row("still held elsewhere", {"- 1", "- 2"}, int(Cover::LeftOut));
+    row("given a source", {"- 1", "Tray2 1"}, int(Cover::None));
+    row("taken away", {"- 1", "None 1"}, int(Cover::None));
+    row("forgotten by the next panel", {"- 1", "None 2"}, int(Cover::Gone));
+    row("forgotten for good", {"- 1", "None 2", "None 2", "None 1"}, int(Cover::Gone));
+    row("chosen anew", {"- 1", "None 2", "Auto 2"}, int(Cover::None));
 }
 
 void TestCautions::remembersCoversThatAreLeftOut()
 {
     QFETCH(QStringList, looks);
-    QFETCH(int, last);
     LeftOutCovers covers;
     for (const QString &look : looks) {
         const QString choice = look.section(u' ', 0, 0);
@@ -140,16 +134,15 @@ void TestCautions::remembersCoversThatAreLeftOut()
                                          : SpecialSheets::Cover::Sheet;
         covers.look(sheets, look.section(u' ', 1));
     }
-    QCOMPARE(int(covers.back()), last);
+    QTEST(int(covers.back()), "last");
     QCOMPARE(covers.front(), Cover::None);
 }
 
 void TestCautions::speaksAnotherLanguage_data()
 {
-    QTest::addColumn<QStringList>("languages");
-    QTest::addColumn<QStringList>("pages"); // of 1, 22 and 112 of them
-    QTest::addColumn<QString>("refused");
-    QTest::addColumn<QString>("cut");
+    // pages: of 1, 22 and 112 of them
+    const Table<QStringList, QStringList, QString, QString> row{"languages", "pages", "refused",
+                                                                "cut"};
     const QStringList english = {QStringLiteral("1 page, 1 sheet"),
                                  QStringLiteral("22 pages, 22 sheets"),
                                  QStringLiteral("112 pages, 112 sheets")};
@@ -158,13 +151,11 @@ void TestCautions::speaksAnotherLanguage_data()
                                        "not fit is cut off.");
 
     // What is not in its table is said in English.
-    QTest::newRow("three forms") << QStringList{"yy-YY", "xx"}
-                                 << QStringList{"1 pago, 1 sheet", "22 pagi, 22 sheets",
-                                                "112 pagov, 112 sheets"}
-                                 << QStringLiteral("papo hema! «%2 %n» nu.")
-                                 << QStringLiteral("%n mina: pagi 1, 3 do 5.");
-    QTest::newRow("none that is there") << QStringList{"yy-YY"} << english << refused << cut;
-    QTest::newRow("rather English") << QStringList{"en-GB", "xx"} << english << refused << cut;
+    row("three forms", {"yy-YY", "xx"},
+        {"1 pago, 1 sheet", "22 pagi, 22 sheets", "112 pagov, 112 sheets"},
+        "papo hema! «%2 %n» nu.", "%n mina: pagi 1, 3 do 5.");
+    row("none that is there", {"yy-YY"}, english, refused, cut);
+    row("rather English", {"en-GB", "xx"}, english, refused, cut);
 }
 
 void TestCautions::speaksAnotherLanguage()

@@ -1,4 +1,6 @@
 #include "job_settings.h"
+#include "sample_ppds.h"
+#include "table.h"
 #include "ticket_file.h"
 
 #include <QTest>
@@ -33,22 +35,20 @@ private:
 
 void TestJobSettings::initTestCase()
 {
-    auto ppd =
-        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    auto ppd = PpdFile::open(samplePpd("full"));
     QVERIFY2(ppd, qPrintable(ppd.reason()));
     m_ppd = ppd.value();
 }
 
 void TestJobSettings::comeBackFromTheTickets_data()
 {
-    QTest::addColumn<JobSettings>("settings");
-    QTest::newRow("one portrait copy") << JobSettings{1, true, {}, "A4", Orientation::Portrait};
-    QTest::newRow("everything set")
-        << JobSettings{9999, false, "1-3,7", "Legal", Orientation::ReverseLandscape};
-    QTest::newRow("own size") << JobSettings{
-        2, true, {}, "Custom.100x200mm", Orientation::Landscape};
-    QTest::newRow("paper of another device")
-        << JobSettings{1, true, {}, "Papyrus", Orientation::ReversePortrait};
+    const Table<JobSettings> row{"settings"};
+    row("one portrait copy", JobSettings{1, true, {}, "A4", Orientation::Portrait});
+    row("everything set",
+        JobSettings{9999, false, "1-3,7", "Legal", Orientation::ReverseLandscape});
+    row("own size", JobSettings{2, true, {}, "Custom.100x200mm", Orientation::Landscape});
+    row("paper of another device",
+        JobSettings{1, true, {}, "Papyrus", Orientation::ReversePortrait});
 }
 
 void TestJobSettings::comeBackFromTheTickets()
@@ -113,19 +113,19 @@ void TestJobSettings::leaveLockedEntriesAlone()
 
 void TestJobSettings::knowPaperSizes_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QSizeF>("points"); // invalid: no such paper
-    QTest::newRow("of the PPD") << "Legal" << QSizeF(612, 1008);
-    QTest::newRow("points") << "Custom.252x360" << QSizeF(252, 360);
-    QTest::newRow("inches") << "Custom.4x6.5in" << QSizeF(288, 468);
-    QTest::newRow("centimetres") << "Custom.25.4x30.48cm" << QSizeF(720, 864);
-    QTest::newRow("one point too narrow") << "Custom.251x360" << QSizeF();
-    QTest::newRow("one point too long") << "Custom.300x1369" << QSizeF();
-    QTest::newRow("unknown unit") << "Custom.300x400px" << QSizeF();
-    QTest::newRow("no length") << "Custom.300" << QSizeF();
-    QTest::newRow("not a number") << "Custom.infxnan" << QSizeF();
-    QTest::newRow("endless") << "Custom.300x" + QString(400, u'9') << QSizeF();
-    QTest::newRow("unknown") << "Papyrus" << QSizeF();
+    // points invalid: no such paper
+    const Table<QString, QSizeF> row{"name", "points"};
+    row("of the PPD", "Legal", QSizeF(612, 1008));
+    row("points", "Custom.252x360", QSizeF(252, 360));
+    row("inches", "Custom.4x6.5in", QSizeF(288, 468));
+    row("centimetres", "Custom.25.4x30.48cm", QSizeF(720, 864));
+    row("one point too narrow", "Custom.251x360", QSizeF());
+    row("one point too long", "Custom.300x1369", QSizeF());
+    row("unknown unit", "Custom.300x400px", QSizeF());
+    row("no length", "Custom.300", QSizeF());
+    row("not a number", "Custom.infxnan", QSizeF());
+    row("endless", "Custom.300x" + QString(400, u'9'), QSizeF());
+    row("unknown", "Papyrus", QSizeF());
 }
 
 void TestJobSettings::knowPaperSizes()
@@ -147,13 +147,11 @@ void TestJobSettings::takeOptions_data()
         return settings;
     };
     const JobSettings plain = orientation(1);
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<JobSettings>("settings");
-    QTest::addColumn<PpdSelection>("choices");
-    const auto row = [](const char *title, const char *name, const char *value,
-                        const JobSettings &settings, const PpdSelection &choices = {}) {
-        QTest::newRow(title) << name << value << settings << choices;
+    const Table<QString, QString, JobSettings, PpdSelection> table{"name", "value", "settings",
+                                                                   "choices"};
+    const auto row = [&](const char *title, const char *name, const char *value,
+                         const JobSettings &settings, const PpdSelection &choices = {}) {
+        table(title, name, value, settings, choices);
     };
     row("PPD option", "StapleLocation", "DualPortrait", plain,
         {{"StapleLocation", "DualPortrait"}});
@@ -185,25 +183,16 @@ void TestJobSettings::takeOptions()
 {
     QFETCH(QString, name);
     QFETCH(QString, value);
-    QFETCH(JobSettings, settings);
-    QFETCH(PpdSelection, choices);
     PrintSession session;
     const auto applied = applyOption(name, value, m_ppd.get(), session);
     QVERIFY2(applied, qPrintable(applied.reason()));
-    QCOMPARE(session.printSettings().ppdChoices, choices);
-    QCOMPARE(jobSettingsFrom(session, m_ppd.get()), settings);
+    QTEST(session.printSettings().ppdChoices, "choices");
+    QTEST(jobSettingsFrom(session, m_ppd.get()), "settings");
 }
 
 void TestJobSettings::refuseOptions_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<Code>("code");
-    QTest::addColumn<QString>("says");
-    const auto row = [](const char *title, const char *name, const char *value, Code code,
-                        const char *says) {
-        QTest::newRow(title) << name << value << code << says;
-    };
+    const Table<QString, QString, Code, QString> row{"name", "value", "code", "says"};
     row("unknown option", "StapleLocaton", "None", Code::NotFound, "did you mean StapleLocation?");
     row("unknown host option", "orientation", "4", Code::NotFound, "orientation-requested");
     row("unknown choice", "StapleLocation", "DualPortait", Code::NotFound,

@@ -3,6 +3,7 @@
 #include "folders.h"
 #include "presets.h"
 #include "property_list.h"
+#include "table.h"
 
 #include <QDir>
 #include <QFile>
@@ -73,11 +74,11 @@ void TestPresets::cleanup()
 
 void TestPresets::comeBackUnderTheirNames_data()
 {
-    QTest::addColumn<QString>("name");
+    const Table<QString> row{"name"};
     for (const char *name :
          {"Draft", "Über 2 Seiten", "a/b", "../escape", ".hidden", "50%", "<b>&amp;"})
-        QTest::newRow(name) << QString::fromUtf8(name);
-    QTest::newRow("long") << QString(300, u'n');
+        row(name, QString::fromUtf8(name));
+    row("long", QString(300, u'n'));
 }
 
 void TestPresets::comeBackUnderTheirNames()
@@ -105,11 +106,11 @@ void TestPresets::comeBackUnderTheirNames()
 
 void TestPresets::refuseNames_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::newRow("empty") << "";
-    QTest::newRow("blanks") << "  ";
-    QTest::newRow("two lines") << "a\nb";
-    QTest::newRow("null character") << QString(QChar(0));
+    const Table<QString> row{"name"};
+    row("empty", "");
+    row("blanks", "  ");
+    row("two lines", "a\nb");
+    row("null character", QString(QChar(0)));
 }
 
 void TestPresets::refuseNames()

@@ -1,6 +1,8 @@
 #include "conflicts.h"
 #include "job_words.h"
+#include "sample_ppds.h"
 #include "secret_keys.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -46,22 +48,20 @@ static QVariant valueOf(const TicketFile &file, const QString &key)
 
 void TestSecrets::areFoundByTheirPaths_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QStringList>("secrets");
-    QTest::newRow("in a dictionary") << "Job/Password" << QStringList{"1234"};
-    QTest::newRow("a number") << "Job/Pin" << QStringList{"77"};
-    QTest::newRow("an empty one is none") << "Job/Empty" << QStringList();
-    QTest::newRow("of every element") << "People/*/Code" << QStringList{"c0de", "42"};
-    QTest::newRow("of one element") << "People/1/Code" << QStringList{"42"};
-    QTest::newRow("of an element that is not there") << "People/2/Code" << QStringList();
-    QTest::newRow("every entry") << "Job/*" << QStringList{"Ann", "1234", "77"};
-    QTest::newRow("all below") << "People" << QStringList{"c0de", "030", "42"};
-    QTest::newRow("a whole entry") << "Plain" << QStringList{"open"};
-    QTest::newRow("below a text") << "Plain/Password" << QStringList();
-    QTest::newRow("in lists where a dictionary was meant")
-        << "People/Code" << QStringList{"c0de", "42"};
-    QTest::newRow("unknown") << "Nothing/Password" << QStringList();
-    QTest::newRow("empty path") << "" << QStringList();
+    const Table<QString, QStringList> row{"path", "secrets"};
+    row("in a dictionary", "Job/Password", {"1234"});
+    row("a number", "Job/Pin", {"77"});
+    row("an empty one is none", "Job/Empty", {});
+    row("of every element", "People/*/Code", {"c0de", "42"});
+    row("of one element", "People/1/Code", {"42"});
+    row("of an element that is not there", "People/2/Code", {});
+    row("every entry", "Job/*", {"Ann", "1234", "77"});
+    row("all below", "People", {"c0de", "030", "42"});
+    row("a whole entry", "Plain", {"open"});
+    row("below a text", "Plain/Password", {});
+    row("in lists where a dictionary was meant", "People/Code", {"c0de", "42"});
+    row("unknown", "Nothing/Password", {});
+    row("empty path", "", {});
 }
 
 void TestSecrets::areFoundByTheirPaths()
@@ -101,12 +101,11 @@ void TestSecrets::areTakenOutWithTheirKeys()
 
 void TestSecrets::makeAFax_data()
 {
-    QTest::addColumn<QVariant>("recipients");
-    QTest::addColumn<bool>("isFax");
-    QTest::newRow("no entry") << QVariant() << false;
-    QTest::newRow("nobody") << QVariant(Array{}) << false;
-    QTest::newRow("somebody") << QVariant(Array{Dictionary{{"Fax", "030"}}}) << true;
-    QTest::newRow("somebody of another form") << QVariant("030") << true;
+    const Table<QVariant, bool> row{"recipients", "isFax"};
+    row("no entry", {}, false);
+    row("nobody", QVariant(Array{}), false);
+    row("somebody", QVariant(Array{Dictionary{{"Fax", "030"}}}), true);
+    row("somebody of another form", QVariant("030"), true);
 }
 
 void TestSecrets::makeAFax()
@@ -121,8 +120,7 @@ void TestSecrets::makeAFax()
 
 void TestSecrets::neverStandInWords()
 {
-    const auto ppd =
-        PpdFile::open(QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd"));
+    const auto ppd = PpdFile::open(samplePpd("full"));
     QVERIFY(ppd);
     TicketFile file = ticketOf(sample);
     file.printSettings.ppdChoices = {{"StapleLocation", "DualPortrait"}, {"Glitter", "On"}};
@@ -153,17 +151,13 @@ void TestSecrets::neverStandInWords()
 
 void TestSecrets::areSaidInTheSummary_data()
 {
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<qint64>("sheets");
-    QTest::addColumn<bool>("locked");
-    QTest::addColumn<QString>("summary");
-    QTest::newRow("one page") << 1 << 1 << qint64(1) << false << "1 page, 1 sheet";
-    QTest::newRow("copies") << 12 << 2 << qint64(6) << true
-                            << "12 pages, 6 sheets × 2 copies = 12 sheets, locked";
-    QTest::newRow("many") << 13 << 9999 << qint64(999'900'001) << false
-                          << "13 pages, 999900001 sheets × 9999 copies = 9998000109999 sheets";
-    QTest::newRow("pages not known") << 0 << 2 << qint64(0) << true << "2 copies, locked";
+    const Table<int, int, qint64, bool, QString> row{"pages", "copies", "sheets", "locked",
+                                                     "summary"};
+    row("one page", 1, 1, 1, false, "1 page, 1 sheet");
+    row("copies", 12, 2, 6, true, "12 pages, 6 sheets × 2 copies = 12 sheets, locked");
+    row("many", 13, 9999, 999'900'001, false,
+        "13 pages, 999900001 sheets × 9999 copies = 9998000109999 sheets");
+    row("pages not known", 0, 2, 0, true, "2 copies, locked");
 }
 
 void TestSecrets::areSaidInTheSummary()
@@ -172,12 +166,11 @@ void TestSecrets::areSaidInTheSummary()
     QFETCH(int, copies);
     QFETCH(qint64, sheets);
     QFETCH(bool, locked);
-    QFETCH(QString, summary);
     const TicketFile file =
         locked ? ticketOf({{"Job", Dictionary{{"Password", "1"}}}}) : TicketFile();
     JobSettings settings;
     settings.copies = copies;
-    QCOMPARE(shortSummary(file, settings, pages, sheets, {{"Job/Password"}, {}}), summary);
+    QTEST(shortSummary(file, settings, pages, sheets, {{"Job/Password"}, {}}), "summary");
 }
 
 // A stranger's line break, in a key or in a choice, begins no line of its own.

@@ -1,4 +1,5 @@
 #include "sheet_sequence.h"
+#include "table.h"
 
 #include <QTest>
 
@@ -63,37 +64,28 @@ QString outlineOf(const SheetSequence &sequence)
 
 void TestSheetSequence::comeInOrder_data()
 {
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<bool>("twoSided");
-    QTest::addColumn<SpecialSheets>("special");
-    QTest::addColumn<QString>("outline");
-    QTest::addColumn<qint64>("sheets");
+    const Table<int, bool, SpecialSheets, QString, qint64> row{"pages", "twoSided", "special",
+                                                               "outline", "sheets"};
     const SpecialSheets covers{Cover::Sheet, Cover::Sheet};
 
-    QTest::newRow("no pages") << 0 << true << covers << "" << qint64(0);
-    QTest::newRow("one-sided") << 3 << false << SpecialSheets() << "1:1 2:2 3:3" << qint64(3);
-    QTest::newRow("two-sided") << 3 << true << SpecialSheets() << "1:1f 1:2b 2:3f" << qint64(2);
-    QTest::newRow("covers, one-sided") << 2 << false << covers << "1:F 2:1 3:2 4:B" << qint64(4);
-    QTest::newRow("covers, two-sided")
-        << 3 << true << covers << "1:F 2:1f 2:2b 3:3f 3:- 4:B" << qint64(4);
-    QTest::newRow("inserts") << 4 << true
-                             << SpecialSheets{Cover::None,
-                                              Cover::Sheet,
-                                              {{0, 2}, {3, 1}, {3, 5}, {4, 1}, {5, 1}}}
-                             << "1:2x0 3:1f 3:2b 4:3f 4:- 5:1x3 6:5x3 11:4f 11:- 12:1x4 13:B"
-                             << qint64(13);
-    QTest::newRow("an exception with the job's sides")
-        << 5 << true << SpecialSheets{.exceptions = {{2, 4, {}}}}
-        << "1:1f 1:- 2:2f! 2:3b! 3:4f! 3:- 4:5f" << qint64(4);
-    QTest::newRow("one-sided pages among two-sided ones")
-        << 6 << true << SpecialSheets{.exceptions = {{3, 4, false}, {5, 9, false}}}
-        << "1:1f 1:2b 2:3! 3:4! 4:5! 5:6!" << qint64(5);
-    QTest::newRow("two-sided pages among one-sided ones")
-        << 5 << false << SpecialSheets{Cover::Sheet, Cover::None, {{2, 1}}, {{1, 3, true}}}
-        << "1:F 2:1f! 2:2b! 3:1x2 4:3f! 4:- 5:4 6:5" << qint64(6);
-    QTest::newRow("beyond the last page")
-        << 2 << false << SpecialSheets{.inserts = {{3, 1}}, .exceptions = {{3, 3, true}}}
-        << "1:1 2:2" << qint64(2);
+    row("no pages", 0, true, covers, "", 0);
+    row("one-sided", 3, false, SpecialSheets(), "1:1 2:2 3:3", 3);
+    row("two-sided", 3, true, SpecialSheets(), "1:1f 1:2b 2:3f", 2);
+    row("covers, one-sided", 2, false, covers, "1:F 2:1 3:2 4:B", 4);
+    row("covers, two-sided", 3, true, covers, "1:F 2:1f 2:2b 3:3f 3:- 4:B", 4);
+    row("inserts", 4, true,
+        SpecialSheets{Cover::None, Cover::Sheet, {{0, 2}, {3, 1}, {3, 5}, {4, 1}, {5, 1}}},
+        "1:2x0 3:1f 3:2b 4:3f 4:- 5:1x3 6:5x3 11:4f 11:- 12:1x4 13:B", 13);
+    row("an exception with the job's sides", 5, true, SpecialSheets{.exceptions = {{2, 4, {}}}},
+        "1:1f 1:- 2:2f! 2:3b! 3:4f! 3:- 4:5f", 4);
+    row("one-sided pages among two-sided ones", 6, true,
+        SpecialSheets{.exceptions = {{3, 4, false}, {5, 9, false}}},
+        "1:1f 1:2b 2:3! 3:4! 4:5! 5:6!", 5);
+    row("two-sided pages among one-sided ones", 5, false,
+        SpecialSheets{Cover::Sheet, Cover::None, {{2, 1}}, {{1, 3, true}}},
+        "1:F 2:1f! 2:2b! 3:1x2 4:3f! 4:- 5:4 6:5", 6);
+    row("beyond the last page", 2, false,
+        SpecialSheets{.inserts = {{3, 1}}, .exceptions = {{3, 3, true}}}, "1:1 2:2", 2);
 }
 
 void TestSheetSequence::comeInOrder()
@@ -101,12 +93,11 @@ void TestSheetSequence::comeInOrder()
     QFETCH(int, pages);
     QFETCH(bool, twoSided);
     QFETCH(SpecialSheets, special);
-    QFETCH(QString, outline);
     QFETCH(qint64, sheets);
 
     const SheetSequence sequence(pages, twoSided, special);
 
-    QCOMPARE(outlineOf(sequence), outline);
+    QTEST(outlineOf(sequence), "outline");
     QCOMPARE(sequence.sheets(), sheets);
     QCOMPARE(sequence.indexOfPage(pages + 1), -1);
     QCOMPARE(sequence.indexOfPage(0), -1);

@@ -1,5 +1,7 @@
 #include "print_flow.h"
+#include "sample_ppds.h"
 #include "session_fixture.h"
+#include "table.h"
 
 #include "private_cups.h"
 #include "session_cautions.h"
@@ -147,18 +149,16 @@ void TestPrintFlow::whatIsOnTheWayCanBeCancelled()
 // What a queue turns out to be between the look at it and the press.
 void TestPrintFlow::theServersWordComesFirst_data()
 {
-    QTest::addColumn<QByteArray>("ppd"); // on the server by then; empty: as before
-    QTest::addColumn<ExitStatus>("status");
-    QTest::addColumn<QString>("says");
+    // ppd: on the server by then; empty: as before
+    const Table<QByteArray, ExitStatus, QString> row{"ppd", "status", "says"};
 
-    QTest::newRow("reads no tickets") << readFile(testPpd("no-ticket.ppd"), 1'000'000).value()
-                                      << ExitStatus::NotOffered << "*KelvoTicket";
-    QTest::newRow("damaged") << QByteArray("*PPD") << ExitStatus::NoDestination << "damaged";
+    row("reads no tickets", readFile(ppdWithoutTicket(), 1'000'000).value(), ExitStatus::NotOffered,
+        "*KelvoTicket");
+    row("damaged", "*PPD", ExitStatus::NoDestination, "damaged");
     // Told as the user knows it, with what the server says behind.
-    QTest::newRow("takes no jobs")
-        << QByteArray() << ExitStatus::Failed
-        << "“Hall-3” takes no jobs: Closed again. Choose another printer, or wait until it takes "
-           "jobs again. (Hall-3: the print server at ";
+    row("takes no jobs", {}, ExitStatus::Failed,
+        "“Hall-3” takes no jobs: Closed again. Choose another printer, or wait until it takes "
+        "jobs again. (Hall-3: the print server at ");
 }
 
 void TestPrintFlow::theServersWordComesFirst()

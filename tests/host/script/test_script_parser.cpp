@@ -1,6 +1,7 @@
 #include "script_parser.h"
 
 #include "secret_mask.h"
+#include "table.h"
 #include "ticket_path.h"
 
 #include <QJsonArray>
@@ -44,12 +45,8 @@ static QString shape(const ScriptLine &line)
 
 void TestScriptParser::readsEveryForm_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("shape");
+    const Table<QByteArray, QString> row{"text", "shape"};
 
-    const auto row = [](const char *name, const QByteArray &text, const char *shape) {
-        QTest::newRow(name) << text << QString::fromUtf8(shape);
-    };
     row("ID of two words", "click KPDE 670", "control=KPDE 670");
     row("speaking name", "click @aboutButton", "control=@aboutButton");
     row("negative ID", "click KPDE -3", "control=KPDE -3");
@@ -97,12 +94,8 @@ void TestScriptParser::readsEveryForm()
 
 void TestScriptParser::refusesWithTheLineAndTheReason_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("reason");
+    const Table<QByteArray, QString> row{"text", "reason"};
 
-    const auto row = [](const char *name, const QByteArray &text, const char *reason) {
-        QTest::newRow(name) << text << QString::fromUtf8(reason);
-    };
     row("unknown command, near one", "chose @a 1", "did you mean choose?");
     row("unknown command, far from all", "xyzzy", "there is no command \"xyzzy\"");
     row("quoted command", "\"print\"", "there is no command");
@@ -220,13 +213,7 @@ void TestScriptParser::neverRepeatsWhatIsTyped()
 
 void TestScriptParser::masksWholeWords_data()
 {
-    QTest::addColumn<QStringList>("secrets");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("masked");
-    const auto row = [](const char *name, const QStringList &secrets, const char *text,
-                        const char *masked) {
-        QTest::newRow(name) << secrets << QString::fromUtf8(text) << QString::fromUtf8(masked);
-    };
+    const Table<QStringList, QString, QString> row{"secrets", "text", "masked"};
     row("alone", {"4711"}, "4711", "••••");
     row("in a sentence", {"4711"}, "code 4711. 4711-4711", "code ••••. ••••-••••");
     row("the longer one first", {"4711", "4711 a"}, "4711 a, 4711", "••••, ••••");
@@ -242,8 +229,7 @@ void TestScriptParser::masksWholeWords()
 {
     QFETCH(QStringList, secrets);
     QFETCH(QString, text);
-    QFETCH(QString, masked);
-    QCOMPARE(maskedText(text, secrets), masked);
+    QTEST(maskedText(text, secrets), "masked");
 }
 
 void TestScriptParser::masksControlsButNotWhatTheyAreCalled()

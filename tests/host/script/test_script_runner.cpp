@@ -8,6 +8,7 @@
 #include "popup_button.h"
 #include "secrets.h"
 #include "standard_error.h"
+#include "table.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -193,15 +194,12 @@ private slots:
 
 void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
 {
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<bool>("noticeAtPrint");
-    QTest::addColumn<QString>("printProblem");
+    const Table<QByteArray, int, bool, QString> table{"script", "status", "noticeAtPrint",
+                                                      "printProblem"};
 
-    const auto row = [](const char *name, const char *script, ExitStatus status,
-                        bool notice = false, const char *problem = "") {
-        QTest::newRow(name) << QByteArray(script) << static_cast<int>(status) << notice
-                            << QString::fromLatin1(problem);
+    const auto row = [&](const char *name, const char *script, ExitStatus status,
+                         bool notice = false, const char *problem = "") {
+        table(name, script, static_cast<int>(status), notice, problem);
     };
     row("nothing printed is fine", "tab 4\nchoose @bannerSheet key True\nexpect KPDE 614 value 1",
         ExitStatus::Printed);
@@ -250,14 +248,13 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
 void TestScriptRunner::endsWithTheStatusThatTheLineDeserves()
 {
     QFETCH(QByteArray, script);
-    QFETCH(int, status);
     QFETCH(bool, noticeAtPrint);
     QFETCH(QString, printProblem);
     FakeDialog dialog;
     dialog.noticeAtPrint = noticeAtPrint;
     dialog.printProblem = printProblem;
 
-    QCOMPARE(static_cast<int>(run(dialog, script)), status);
+    QTEST(static_cast<int>(run(dialog, script)), "status");
 }
 
 void TestScriptRunner::worksInsideAModalDialogWhileItsOpenerWaits()
@@ -301,30 +298,23 @@ void TestScriptRunner::typesASecretThatNothingRepeats()
 // A passcode of one digit is also a line, a value and a part of every number.
 void TestScriptRunner::masksByPlace_data()
 {
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<QString>("said");
-    QTest::newRow("a field, in the message about it")
-        << QByteArray("type @passcode \"1\"\nexpect @passcode text \"1\"")
-        << "t.kps:2: text of @passcode is \"••••\"; of a secret only \"••••\" or \"\" is told\n";
-    QTest::newRow("an empty field") << QByteArray("expect @passcode text \"••••\"")
-                                    << "t.kps:1: text of @passcode is \"\"; of a secret only "
-                                       "\"••••\" or \"\" is told\n";
-    QTest::newRow("an entry, and what was expected of it")
-        << QByteArray("expect-ticket Code \"12\"")
-        << "t.kps:1: Code is \"••••\", not what this line says; a secret is not told\n";
-    QTest::newRow("another entry")
-        << QByteArray("expect-ticket Size 12") << "t.kps:1: Size is \"4711\", not \"12\"\n";
-    QTest::newRow("a value and its line")
-        << QByteArray(4710, '\n') + QByteArray("expect KPDE 614 value 4711")
-        << "t.kps:4711: value of KPDE 614 is \"0\", not \"4711\"\n";
-    QTest::newRow("the words of a problem")
-        << QByteArray("print") << "t.kps:1: ••••: 1 of 4711x was not taken\n";
+    const Table<QByteArray, QString> row{"script", "said"};
+    row("a field, in the message about it", "type @passcode \"1\"\nexpect @passcode text \"1\"",
+        "t.kps:2: text of @passcode is \"••••\"; of a secret only \"••••\" or \"\" is told\n");
+    row("an empty field", "expect @passcode text \"••••\"",
+        "t.kps:1: text of @passcode is \"\"; of a secret only "
+        "\"••••\" or \"\" is told\n");
+    row("an entry, and what was expected of it", "expect-ticket Code \"12\"",
+        "t.kps:1: Code is \"••••\", not what this line says; a secret is not told\n");
+    row("another entry", "expect-ticket Size 12", "t.kps:1: Size is \"4711\", not \"12\"\n");
+    row("a value and its line", QByteArray(4710, '\n') + QByteArray("expect KPDE 614 value 4711"),
+        "t.kps:4711: value of KPDE 614 is \"0\", not \"4711\"\n");
+    row("the words of a problem", "print", "t.kps:1: ••••: 1 of 4711x was not taken\n");
 }
 
 void TestScriptRunner::masksByPlace()
 {
     QFETCH(QByteArray, script);
-    QFETCH(QString, said);
     FakeDialog dialog;
     dialog.printProblem = QStringLiteral("4711: 1 of 4711x was not taken");
     auto &entries = dialog.session.printSettings().entries;
@@ -333,16 +323,13 @@ void TestScriptRunner::masksByPlace()
 
     const StandardError written;
     run(dialog, script);
-    QCOMPARE(QString::fromUtf8(written.text()), said);
+    QTEST(QString::fromUtf8(written.text()), "said");
 }
 
 void TestScriptRunner::saysWhatWouldHaveWorked_data()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("said");
-    const auto row = [](const char *line, const char *said) {
-        QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(said);
-    };
+    const Table<QByteArray, QString> table{"line", "said"};
+    const auto row = [&](const char *line, const char *said) { table(line, line, said); };
     row("item @bannerSheet 'Stp1'",
         "@bannerSheet has no item with the command 'Stp1'; it has 'Bnr1' \"Banner\" …");
     row("item @bannerSheet 'Bnr1'",
@@ -399,12 +386,10 @@ void TestScriptRunner::printsAtTheEndWhenAsked()
 
 void TestScriptRunner::endsWithADialogThatOthersClose_data()
 {
-    QTest::addColumn<int>("status");
-    QTest::addColumn<bool>("idle");
-    QTest::addColumn<bool>("printAtEnd");
+    const Table<int, bool, bool> table{"status", "idle", "printAtEnd"};
 
-    const auto row = [](const char *name, ExitStatus status, bool idle, bool printAtEnd) {
-        QTest::newRow(name) << static_cast<int>(status) << idle << printAtEnd;
+    const auto row = [&](const char *name, ExitStatus status, bool idle, bool printAtEnd) {
+        table(name, static_cast<int>(status), idle, printAtEnd);
     };
     row("interrupted between lines", ExitStatus::Cancelled, true, false);
     row("interrupted while it waits", ExitStatus::Cancelled, false, false);

@@ -3,6 +3,7 @@
 #include "bundle.h"
 #include "dialog_session.h"
 #include "file_store.h"
+#include "sample_ppds.h"
 
 #include <QTest>
 
@@ -16,16 +17,6 @@ inline QString shared(const QString &name)
     return QStringLiteral(KELVO_BUILD_DIR "/share/kelvo-print/") + name;
 }
 
-inline QString samplePpd(const char *model)
-{
-    return shared(QStringLiteral("ppds/kelvo-corvane-%1.ppd").arg(QLatin1String(model)));
-}
-
-inline QString testPpd(const char *name)
-{
-    return QStringLiteral(KELVO_TEST_DATA "/ppds/") + QLatin1String(name);
-}
-
 // Panels without a window. They log what is asked of them, and keep one entry of the
 // ticket: `note`, which the user types.
 class NotedPanels : public DevicePanels
@@ -36,6 +27,7 @@ public:
     QStringList calls;
     QString note;
     QString loadProblem;     // why they cannot be loaded
+    QString beginProblem;    // why they cannot begin
     PPDDictionary insistsOn; // choices that they write whatever is read
 
     Result<void> load() override
@@ -48,6 +40,8 @@ public:
     Result<void> begin(PrintSession &tickets) override
     {
         calls << QStringLiteral("begin");
+        if (!beginProblem.isEmpty())
+            return Error{Error::Code::Refused, beginProblem, {}};
         m_tickets = &tickets;
         return {};
     }

@@ -28,17 +28,20 @@ void TestSession::whyThereAreNoPanels()
 {
     auto begin = sampleBeginning();
     begin.bundleProblem = QStringLiteral("Not installed.");
-    NotedPanels panels;
-    panels.loadProblem = QStringLiteral("Gone.so");
+    NotedPanels gone, broken;
+    gone.loadProblem = QStringLiteral("Gone.so");
+    broken.beginProblem = QStringLiteral("No pane");
     const StandardError standardError;
-    for (NotedPanels *given : {&panels, static_cast<NotedPanels *>(nullptr)}) {
-        DialogSession session(begin, given);
+    for (const auto &[panels, says] :
+         {std::pair(&gone, "loaded: Gone.so"),
+          {&broken, "The panels could not start (No pane). Installing them again may help."},
+          {static_cast<NotedPanels *>(nullptr), "Not installed."}}) {
+        DialogSession session(begin, panels);
         session.start();
         QVERIFY(session.stage() == Stage::Ready && !session.hasPanels());
         const SessionMessage &message = session.message();
         QVERIFY(message.header.contains(begin.printer.device->modelName()) && !message.canRetry);
-        QVERIFY2(message.text.contains(given ? "loaded: Gone.so" : "Not installed."),
-                 qPrintable(message.text));
+        QVERIFY2(message.text.contains(says), qPrintable(message.text));
         QVERIFY(message.text.endsWith("orientation work as usual."));
     }
     QCOMPARE(standardError.text().count("Gone.so"), 1); // for the administrator's log, too

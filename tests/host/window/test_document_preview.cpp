@@ -2,6 +2,7 @@
 #include "page_placement.h"
 #include "preview_captions.h"
 #include "sample_documents.h"
+#include "table.h"
 
 #include <QLabel>
 #include <QSignalSpy>
@@ -64,32 +65,25 @@ private slots:
 
 void TestDocumentPreview::placesPages_data()
 {
-    QTest::addColumn<QSizeF>("page");
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<Orientation>("orientation");
-    QTest::addColumn<PagePlacement>("placement");
+    const Table<QSizeF, QSizeF, Orientation, PagePlacement> row{"page", "paper", "orientation",
+                                                                "placement"};
     using enum Orientation;
     const QSizeF wide = a4.transposed();
 
-    QTest::newRow("fits") << a4 << a4 << Portrait << PagePlacement{a4, {{0, 0}, a4}, 0};
-    QTest::newRow("no paper known")
-        << wide << QSizeF() << Portrait << PagePlacement{wide, {{0, 0}, wide}, 0};
-    QTest::newRow("smaller, centred")
-        << QSizeF(195, 442) << a4 << Portrait << PagePlacement{a4, {200, 200, 195, 442}, 0};
-    QTest::newRow("larger, cut") << QSizeF(795, 1042) << a4 << Portrait
-                                 << PagePlacement{a4, {-100, -100, 795, 1042}, 0};
-    QTest::newRow("wide page on tall paper")
-        << wide << a4 << Portrait << PagePlacement{a4, {{0, 0}, a4}, 270};
-    QTest::newRow("wide page, landscape")
-        << wide << a4 << Landscape << PagePlacement{wide, {{0, 0}, wide}, 0};
-    QTest::newRow("tall page, landscape")
-        << a4 << a4 << Landscape << PagePlacement{wide, {{0, 0}, wide}, 270};
-    QTest::newRow("upside down") << a4 << a4 << ReversePortrait
-                                 << PagePlacement{a4, {{0, 0}, a4}, 180};
-    QTest::newRow("tall page, reverse landscape")
-        << a4 << a4 << ReverseLandscape << PagePlacement{wide, {{0, 0}, wide}, 90};
-    QTest::newRow("a square is never turned") << QSizeF(100, 100) << QSizeF(200, 300) << Portrait
-                                              << PagePlacement{{200, 300}, {50, 100, 100, 100}, 0};
+    row("fits", a4, a4, Portrait, PagePlacement{a4, {{0, 0}, a4}, 0});
+    row("no paper known", wide, QSizeF(), Portrait, PagePlacement{wide, {{0, 0}, wide}, 0});
+    row("smaller, centred", QSizeF(195, 442), a4, Portrait,
+        PagePlacement{a4, {200, 200, 195, 442}, 0});
+    row("larger, cut", QSizeF(795, 1042), a4, Portrait,
+        PagePlacement{a4, {-100, -100, 795, 1042}, 0});
+    row("wide page on tall paper", wide, a4, Portrait, PagePlacement{a4, {{0, 0}, a4}, 270});
+    row("wide page, landscape", wide, a4, Landscape, PagePlacement{wide, {{0, 0}, wide}, 0});
+    row("tall page, landscape", a4, a4, Landscape, PagePlacement{wide, {{0, 0}, wide}, 270});
+    row("upside down", a4, a4, ReversePortrait, PagePlacement{a4, {{0, 0}, a4}, 180});
+    row("tall page, reverse landscape", a4, a4, ReverseLandscape,
+        PagePlacement{wide, {{0, 0}, wide}, 90});
+    row("a square is never turned", QSizeF(100, 100), QSizeF(200, 300), Portrait,
+        PagePlacement{{200, 300}, {50, 100, 100, 100}, 0});
 }
 
 void TestDocumentPreview::placesPages()
@@ -105,22 +99,18 @@ void TestDocumentPreview::placesPages()
 
 void TestDocumentPreview::namesSheets_data()
 {
-    QTest::addColumn<std::vector<PageRun>>("pages"); // of a document of 5
-    QTest::addColumn<bool>("twoSided");
-    QTest::addColumn<QStringList>("captions");
+    // pages: of a document of 5
+    const Table<std::vector<PageRun>, bool, QStringList> row{"pages", "twoSided", "captions"};
     using Runs = std::vector<PageRun>;
 
-    QTest::newRow("one-sided") << Runs{{1, 2}} << false
-                               << QStringList{"Sheet 1 · page 1 of 5", "Sheet 2 · page 2 of 5"};
-    QTest::newRow("two-sided") << Runs() << true
-                               << QStringList{
-                                      "Sheet 1, front · page 1 of 5", "Sheet 1, back · page 2 of 5",
-                                      "Sheet 2, front · page 3 of 5", "Sheet 2, back · page 4 of 5",
-                                      "Sheet 3, front · page 5 of 5"};
-    QTest::newRow("cut") << Runs{{4, 5}, {2, 2}} << true
-                         << QStringList{"Sheet 1, front · page 4 of 5",
-                                        "Sheet 1, back · page 5 of 5",
-                                        "Sheet 2, front · page 2 of 5"};
+    row("one-sided", Runs{{1, 2}}, false, {"Sheet 1 · page 1 of 5", "Sheet 2 · page 2 of 5"});
+    row("two-sided", Runs(), true,
+        {"Sheet 1, front · page 1 of 5", "Sheet 1, back · page 2 of 5",
+         "Sheet 2, front · page 3 of 5", "Sheet 2, back · page 4 of 5",
+         "Sheet 3, front · page 5 of 5"});
+    row("cut", Runs{{4, 5}, {2, 2}}, true,
+        {"Sheet 1, front · page 4 of 5", "Sheet 1, back · page 5 of 5",
+         "Sheet 2, front · page 2 of 5"});
 }
 
 void TestDocumentPreview::namesSheets()

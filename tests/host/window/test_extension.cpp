@@ -2,7 +2,9 @@
 
 #include "control.h"
 #include "extension.h"
+#include "files.h"
 #include "property_list.h"
+#include "table.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -177,20 +179,15 @@ void TestExtension::aRefusedPrinterLeavesNothingBehind()
 
 void TestExtension::unusableBundlesAreRefused_data()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("says");
+    const Table<QString, QVariant, QString> row{"key", "value", "says"};
 
     const QString uuid = QStringLiteral("7F3C6A52-3A3B-4D0B-9A39-5A2B0C6B7E01");
-    QTest::newRow("no factory for panels")
-        << "CFPlugInTypes" << QVariant(Dictionary{}) << "names no factory";
-    QTest::newRow("factory of another name")
-        << "CFPlugInFactories" << QVariant(Dictionary{{uuid, "NoSuchFactory"}})
-        << "no function NoSuchFactory";
-    QTest::newRow("factory that makes nothing")
-        << "CFPlugInFactories" << QVariant(Dictionary{{uuid, "RefusingFactory"}})
-        << "makes no panels";
-    QTest::newRow("no module") << "CFBundleExecutable" << QVariant("Gone.so") << "Gone.so";
+    row("no factory for panels", "CFPlugInTypes", QVariant(Dictionary{}), "names no factory");
+    row("factory of another name", "CFPlugInFactories",
+        QVariant(Dictionary{{uuid, "NoSuchFactory"}}), "no function NoSuchFactory");
+    row("factory that makes nothing", "CFPlugInFactories",
+        QVariant(Dictionary{{uuid, "RefusingFactory"}}), "makes no panels");
+    row("no module", "CFBundleExecutable", QVariant("Gone.so"), "Gone.so");
 }
 
 void TestExtension::unusableBundlesAreRefused()
@@ -202,10 +199,7 @@ void TestExtension::unusableBundlesAreRefused()
     auto info = readPropertyList(QStringLiteral(TEST_BUNDLE "/Info.plist")).value().toMap();
     info[QStringLiteral("CFBundleIdentifier")] = folder.path();
     info[key] = value;
-    QFile file(folder.filePath(QStringLiteral("Info.plist")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(CFPropertyListCreateXMLData(info).value());
-    file.close();
+    putFile(folder.filePath("Info.plist"), CFPropertyListCreateXMLData(info).value());
     QVERIFY(QFile::link(QStringLiteral(TEST_BUNDLE "/TestPanels.so"),
                         folder.filePath(QStringLiteral("TestPanels.so"))));
     const auto bundle = Bundle::open(folder.path());

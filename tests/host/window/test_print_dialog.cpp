@@ -2,6 +2,7 @@
 
 #include "bundle.h"
 #include "file_store.h"
+#include "files.h"
 #include "inspector.h"
 #include "modal_dialog.h"
 #include "notice.h"
@@ -10,7 +11,9 @@
 #include "preset_menu.h"
 #include "print_dialog.h"
 #include "private_cups.h"
+#include "sample_ppds.h"
 #include "spin_field.h"
+#include "table.h"
 #include "unreliable_server.h"
 
 #include <QApplication>
@@ -179,8 +182,7 @@ void TestPrintDialog::init()
 DialogOptions TestPrintDialog::options(const QString &device)
 {
     DialogOptions options;
-    options.session.printer.device =
-        PpdFile::open(shared(QStringLiteral("ppds/kelvo-corvane-%1.ppd").arg(device))).value();
+    options.session.printer.device = PpdFile::open(samplePpd(device)).value();
     options.session.bundle = m_testBundle;
     options.session.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
     options.plan.elsewhere = folderDestination(m_folder->filePath(QStringLiteral("job")));
@@ -198,8 +200,7 @@ DialogOptions TestPrintDialog::queueOptions()
 
 QByteArray TestPrintDialog::written(const QString &name) const
 {
-    QFile file(m_folder->filePath(QStringLiteral("job/") + name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return bytesOf(m_folder->filePath(QStringLiteral("job/") + name));
 }
 
 // ---- life
@@ -459,8 +460,8 @@ void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
 {
     PrivateCups cups;
     QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Full", shared("ppds/kelvo-corvane-full.ppd")), QString());
-    QCOMPARE(cups.addQueue("Bare", shared("ppds/kelvo-corvane-bare.ppd")), QString());
+    QCOMPARE(cups.addQueue("Full", samplePpd("full")), QString());
+    QCOMPARE(cups.addQueue("Bare", samplePpd("bare")), QString());
     QCOMPARE(cups.addQueue("Raw", {}), QString());
     auto begin = queueOptions();
     begin.session.bundle = m_bundle;
@@ -492,7 +493,7 @@ void TestPrintDialog::aPrinterInTroubleIsToldAndWaitedFor()
 {
     PrivateCups cups;
     QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Hall-3", samplePpd("full")), QString());
     QCOMPARE(cups.administer({"-r", "Closed for inventory", "Hall-3"}, "cupsreject"), QString());
     Shown shown(queueOptions(), false);
     const auto isTold = [&shown](const QString &what) {
@@ -530,7 +531,7 @@ void TestPrintDialog::theDesktopTellsThatAJobIsOut()
 {
     PrivateCups cups;
     QCOMPARE(cups.start(), QString());
-    QCOMPARE(cups.addQueue("Hall-3", shared("ppds/kelvo-corvane-full.ppd")), QString());
+    QCOMPARE(cups.addQueue("Hall-3", samplePpd("full")), QString());
     NotificationService desktop;
     QCOMPARE(desktop.start(), QString());
     auto begin = queueOptions();
@@ -699,20 +700,18 @@ void TestPrintDialog::mnemonicsAreUnique()
 
 void TestPrintDialog::everythingFits_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<double>("font");
-    QTest::addColumn<bool>("dark");
+    const Table<QSize, double, bool> row{"size", "font", "dark"};
 
-    QTest::newRow("usual") << QSize(900, 660) << 1.0 << false;
-    QTest::newRow("dark") << QSize(900, 660) << 1.0 << true;
-    QTest::newRow("laptop") << QSize(1366, 768) << 1.0 << false;
-    QTest::newRow("860 wide") << QSize(880, 640) << 1.0 << false;
-    QTest::newRow("narrow") << QSize(840, 660) << 1.0 << false;
-    QTest::newRow("small") << QSize(800, 600) << 1.0 << false;
-    QTest::newRow("netbook") << QSize(1024, 600) << 1.0 << false;
-    QTest::newRow("low") << QSize(900, 480) << 1.0 << false;
-    QTest::newRow("smallest") << QSize(1, 1) << 1.0 << false;
-    QTest::newRow("large font") << QSize(1900, 1400) << 2.0 << false;
+    row("usual", QSize(900, 660), 1.0, false);
+    row("dark", QSize(900, 660), 1.0, true);
+    row("laptop", QSize(1366, 768), 1.0, false);
+    row("860 wide", QSize(880, 640), 1.0, false);
+    row("narrow", QSize(840, 660), 1.0, false);
+    row("small", QSize(800, 600), 1.0, false);
+    row("netbook", QSize(1024, 600), 1.0, false);
+    row("low", QSize(900, 480), 1.0, false);
+    row("smallest", QSize(1, 1), 1.0, false);
+    row("large font", QSize(1900, 1400), 2.0, false);
 }
 
 // Set KELVO_PICTURES to a folder to see the windows.

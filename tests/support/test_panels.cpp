@@ -10,10 +10,10 @@
 
 using namespace kelvo;
 
-// A bundle that logs what is asked of it. The shell has a field whose text is
-// the ticket entry com.kelvo.test.Note; Second has the same, as a panel that
-// shares a setting, and Third too, which can be opened once only; Failing refuses
-// to be initialized.
+// A bundle that logs what is asked of it: panels of the device's tabs, for a shell, and a
+// shell with panels beside it, for a dialog. The shell has a field whose text is the ticket
+// entry com.kelvo.test.Note; Second has the same, as a panel that shares a setting, and
+// Third too, which can be opened once only; Failing refuses to be initialized.
 namespace {
 
 TestPanels state;
@@ -24,7 +24,7 @@ struct Context
 {
     QString name;
     QString title;
-    QString note; // what the panel knows of the ticket
+    QWidget *pane = nullptr;
     QLineEdit *field = nullptr;
     EventHandlerRef printHandler;
     bool wasOpened = false;
@@ -41,11 +41,25 @@ OSStatus note(PMPDEContext context, const char *what)
     return noErr;
 }
 
-OSStatus prologue(const QString &name, PMPDEContext *context, CFStringRef *title)
+void makeField(Context &panel)
 {
+    if (!panel.pane->layout())
+        new QVBoxLayout(panel.pane);
+    panel.field = new QLineEdit;
+    panel.field->setObjectName(panel.name + QStringLiteral("Field"));
+    panel.field->setAccessibleName(panel.title);
+    sendControlEvents(panel.field);
+    panel.pane->layout()->addWidget(panel.field);
+}
+
+OSStatus prologue(const QString &name, PMPDEContext *context, CFStringRef *kind, CFStringRef *title)
+{
+    if (state.failing == name)
+        return kPMInvalidPDEContext;
     auto *made = new Context{name, QStringLiteral("The %1").arg(name)};
     ++state.livingContexts;
     *context = reinterpret_cast<PMPDEContext>(made);
+    *kind = &made->name;
     *title = &made->title;
     return note(*context, "prologue");
 }
@@ -62,11 +76,9 @@ OSStatus Initialize(PMPDEContext context, std::uint32_t *, PMPDERef, PMUserPane 
         panel.printHandler = installEventHandler(windowDefaultButton(pane), [](const Event &) {
             return state.takesPrint ? noErr : eventNotHandledErr;
         });
-    panel.field = new QLineEdit(pane);
-    panel.field->setObjectName(panel.name + QStringLiteral("Field"));
-    panel.field->setAccessibleName(panel.title);
-    sendControlEvents(panel.field);
-    pane->layout()->addWidget(panel.field);
+    panel.pane = pane;
+    if (pane->layout()) // a shell's panes have none before they are opened
+        makeField(panel);
     return noErr;
 }
 
@@ -74,6 +86,8 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
 {
     Context &panel = *contextOf(context);
     note(context, direction == kSyncWrite ? "write" : "read");
+    if (!panel.field)
+        return noErr;
     if (direction == kSyncWrite) {
         PMTicketSetCFString(session->printSettingsTicket(), QStringLiteral("test"), noteKey,
                             panel.field->text());
@@ -84,19 +98,27 @@ OSStatus Sync(PMPDEContext context, PMPrintSession session, std::int32_t directi
     return noErr;
 }
 
+// All but the last add a line; the last empties both, as Advanced does.
 OSStatus GetSummaryText(PMPDEContext context, SummaryArray *titles, SummaryArray *texts)
 {
-    titles->emplace({contextOf(context)->title});
-    texts->emplace({contextOf(context)->field->text()});
+    if (contextOf(context)->name == QLatin1String("Advanced")) {
+        titles->reset();
+        texts->reset();
+    } else {
+        titles->emplace(titles->value_or(QStringList()) << contextOf(context)->name);
+        texts->emplace(texts->value_or(QStringList()) << QStringLiteral("- text"));
+    }
     return noErr;
 }
 
 OSStatus Open(PMPDEContext context)
 {
+    Context &panel = *contextOf(context);
     note(context, "open");
-    const bool again = std::exchange(contextOf(context)->wasOpened, true);
-    return again && contextOf(context)->name == QLatin1String("Third") ? kPMInvalidPDEContext
-                                                                       : noErr;
+    if (!panel.field)
+        makeField(panel);
+    const bool again = std::exchange(panel.wasOpened, true);
+    return again && panel.name == QLatin1String("Third") ? kPMInvalidPDEContext : noErr;
 }
 
 OSStatus Close(PMPDEContext context)
@@ -124,17 +146,37 @@ PanelInterface *makeInterface(Prologue prologueFunction)
 } // namespace
 
 #define TEST_PROLOGUE(NAME)                                                                        \
-    [](PMPDEContext *context, OSType *, CFStringRef *, CFStringRef *title, std::uint32_t *,        \
-       std::uint32_t *) { return prologue(QStringLiteral(#NAME), context, title); }
+    [](PMPDEContext *context, OSType *, CFStringRef *kind, CFStringRef *title, std::uint32_t *,    \
+       std::uint32_t *) { return prologue(QStringLiteral(#NAME), context, kind, title); }
 #define TEST_PANEL(NAME)                                                                           \
     KELVO_PLUGIN_EXPORT OSStatus Get##NAME##PanelInterface(PanelInterface **interface)             \
     {                                                                                              \
         *interface = makeInterface(TEST_PROLOGUE(NAME));                                           \
         return noErr;                                                                              \
     }
+TEST_PANEL(PaperOutput)
+TEST_PANEL(ImageOptions)
+TEST_PANEL(BookletWatermark)
+TEST_PANEL(Advanced)
 TEST_PANEL(Second)
 TEST_PANEL(Failing)
 TEST_PANEL(Third)
+
+KELVO_PLUGIN_EXPORT OSStatus GetNothingPanelInterface(PanelInterface **)
+{
+    return noErr;
+}
+
+KELVO_PLUGIN_EXPORT OSStatus GetRefusingPanelInterface(PanelInterface **)
+{
+    return paramErr;
+}
+
+KELVO_PLUGIN_EXPORT OSStatus GetIncompletePanelInterface(PanelInterface **interface)
+{
+    *interface = new PanelInterface{new PanelOperations{}, 1};
+    return noErr;
+}
 
 namespace {
 
