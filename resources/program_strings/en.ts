@@ -57,6 +57,16 @@
     </message>
 </context>
 <context>
+    <name>Document</name>
+    <message numerus="yes">
+        <source>The drawing shows or uses %n other file(s), which are left out: only what a drawing holds itself is printed. Embed them in it.</source>
+        <translation>
+            <numerusform>The drawing shows or uses another file, which is left out: only what a drawing holds itself is printed. Embed that file in it.</numerusform>
+            <numerusform>The drawing shows or uses %n other files, which are left out: only what a drawing holds itself is printed. Embed them in it.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Preview</name>
     <!-- %1 is "Insert" -->
     <message numerus="yes">

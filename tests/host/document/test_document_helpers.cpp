@@ -3,6 +3,7 @@
 #include "document_helper.h"
 #include "page_drawing.h"
 #include "sample_documents.h"
+#include "texts.h"
 #include "ticket_attachment.h"
 
 #include <QDir>
@@ -32,6 +33,7 @@ private slots:
     void areMissedWithAMessage_data();
     void areMissedWithAMessage();
     void areForTheirOwnVersionOnly();
+    void speakTheProgramsLanguage();
     void areAskedForEverything();
     void openNothingElse_data();
     void openNothingElse();
@@ -127,6 +129,15 @@ void TestDocumentHelpers::areForTheirOwnVersionOnly()
 }
 
 // The process with the user's window and secrets reads no document itself.
+void TestDocumentHelpers::speakTheProgramsLanguage()
+{
+    loadTexts(QStringLiteral(TEXTS), {"xx"});
+    const auto backToEnglish = qScopeGuard([] { loadTexts({}, {}); });
+    const auto document = open(file("pdf", pdfWithPages({})));
+    QVERIFY(!document);
+    QCOMPARE(document.error().detail, "nu pago");
+}
+
 void TestDocumentHelpers::areAskedForEverything()
 {
     const Result<Document> document = open(sample());
