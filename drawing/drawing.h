@@ -77,10 +77,13 @@ public:
 
     // A page without anything on it; OutOfRange where a side is not above 0, or above
     // longestSide.
-    virtual Result<std::unique_ptr<Page>> beginPage(const QSizeF &size) const = 0;
+    Result<std::unique_ptr<Page>> beginPage(const QSizeF &size) const;
 
 protected:
     ~Library() = default; // lives in its library
+
+private:
+    virtual std::unique_ptr<Page> makePage(const QSizeF &size) const = 0;
 };
 
 // The library in `folder`, opened when it is not yet and never closed; for any thread.

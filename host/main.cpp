@@ -122,25 +122,24 @@ int endAfterBackgroundWork(int status)
 QString inputProblem(const QString &option, const Error &error, const QString &advice)
 {
     if (error.code == Error::Code::NotFound)
-        return translate("Main", "%1: there is no file %2; %3").arg(option, error.where, advice);
+        return joined(
+            {translate("Main", "%1: there is no file %2").arg(option, error.where), advice});
     if (error.code == Error::Code::NotReadable)
         return translate("Main", "%1: %2 cannot be read (%3); name a file that you may read")
             .arg(option, error.where, error.detail);
-    return QStringLiteral("%1: %2").arg(option, error.text());
+    return Error{error.code, option, error.text()}.text();
 }
 
 // What is wrong with a ticket, after its name: "(line 1: …)".
 QString ticketProblem(const QString &path, const Error &error)
 {
-    if (error.code != Error::Code::Damaged && error.code != Error::Code::WrongType)
+    using Code = Error::Code;
+    if (error.code != Code::OtherKind && error.code != Code::Damaged
+        && error.code != Code::WrongType)
         return inputProblem(QStringLiteral("--ticket-in"), error,
                             translate("Main", "check its name, or write one with --ticket-out"));
-    QString reason = error.text();
-    if (reason.startsWith(path))
-        reason.remove(0, path.size());
-    while (reason.startsWith(u',') || reason.startsWith(u':') || reason.startsWith(u' '))
-        reason.remove(0, 1);
-    reason.remove(QStringLiteral(": this is not a ticket file"));
+    const QString reason =
+        error.place.isEmpty() ? error.detail : Error{error.code, error.place, error.detail}.text();
     return translate("Main", "%1 is not a ticket file (%2)").arg(path, reason);
 }
 

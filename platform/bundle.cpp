@@ -138,8 +138,10 @@ void *Bundle::findFunction(const char *name)
     if (!d->module.isLoaded()) {
         const QString file = string(d->info, executableKey).value_or(QString());
         if (file.isEmpty() || file.contains(u'/')) {
-            d->loadError = d->path + QStringLiteral("/Info.plist: ") + executableKey
-                + QStringLiteral(": not the name of a file");
+            d->loadError =
+                Error{Code::Damaged, d->path + QStringLiteral("/Info.plist: ") + executableKey,
+                      translate("Panels", "not the name of a file")}
+                    .text();
             return nullptr;
         }
         d->module.setFileName(d->path + u'/' + file);

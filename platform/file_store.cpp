@@ -198,9 +198,9 @@ Result<void> setAside(const QString &path, const Error &reason)
         }
         if (::unlink(fileNameBytes(path).constData()) != 0)
             return systemError(Code::NotWritable, path);
-        printLine(
-            stderr,
-            QStringLiteral("%1: damaged, kept as %2 (%3)").arg(path, nameOf(aside), reason.text()));
+        printLine(stderr,
+                  translate("Files", "%1: damaged, kept as %2 (%3)")
+                      .arg(path, nameOf(aside), reason.text()));
         return {};
     }
     return Error{

@@ -2,6 +2,7 @@
 
 #include "file_store.h"
 #include "size_limits.h"
+#include "texts.h"
 #include "values.h"
 
 #include <QDateTime>
@@ -276,13 +277,14 @@ void Parser::begin(std::string_view name)
         return;
     const auto element = findElement(name);
     if (!element)
-        return fail(Code::Damaged,
-                    QStringLiteral("<%1> is no element of a property list").arg(textFrom(name)));
+        return fail(
+            Code::Damaged,
+            translate("Files", "<%1> is no element of a property list").arg(textFrom(name)));
     if (m_leaf)
         return fail(Code::Damaged,
-                    QStringLiteral("<%1> stands inside a value").arg(textFrom(name)));
+                    translate("Files", "<%1> stands inside a value").arg(textFrom(name)));
     if ((*element == Element::Root) != m_frames.empty())
-        return fail(Code::Damaged, QStringLiteral("<plist> must be the outermost element"));
+        return fail(Code::Damaged, translate("Files", "<plist> must be the outermost element"));
     if (*element == Element::Root) {
         m_frames.push_back({*element, {}, {}, {}});
         return;
@@ -291,15 +293,15 @@ void Parser::begin(std::string_view name)
     Frame &frame = m_frames.back();
     if (*element == Element::Key) {
         if (frame.element != Element::Dictionary || frame.hasKey)
-            return fail(Code::Damaged, QStringLiteral("<key> stands where a value is due"));
+            return fail(Code::Damaged, translate("Files", "<key> stands where a value is due"));
     } else {
         if (frame.element == Element::Dictionary && !frame.hasKey)
-            return fail(Code::Damaged, QStringLiteral("a value stands where <key> is due"));
+            return fail(Code::Damaged, translate("Files", "a value stands where <key> is due"));
         if (frame.element == Element::Root && m_list)
-            return fail(Code::Damaged, QStringLiteral("holds more than one value"));
+            return fail(Code::Damaged, translate("Files", "holds more than one value"));
         if (++m_nodes > limits::plistNodes)
             return fail(Code::TooLarge,
-                        QStringLiteral("more than %1 values").arg(limits::plistNodes));
+                        translate("Files", "more than %1 values").arg(limits::plistNodes));
     }
     if (!isContainer(*element)) {
         m_leaf = *element;
@@ -308,7 +310,7 @@ void Parser::begin(std::string_view name)
     }
     if (m_frames.size() > static_cast<std::size_t>(limits::plistDepth)) // one is <plist>
         return fail(Code::TooLarge,
-                    QStringLiteral("nested more than %1 deep").arg(limits::plistDepth));
+                    translate("Files", "nested more than %1 deep").arg(limits::plistDepth));
     m_frames.push_back({*element, {}, {}, {}});
 }
 
@@ -327,13 +329,13 @@ void Parser::end()
     case Element::Dictionary:
         if (frame.hasKey)
             return fail(Code::Damaged,
-                        QStringLiteral("the key \"%1\" has no value").arg(frame.key));
+                        translate("Files", "the key \"%1\" has no value").arg(frame.key));
         return add(frame.dictionary);
     case Element::Array:
         return add(frame.array);
     default:
         if (!m_list)
-            fail(Code::Damaged, QStringLiteral("holds no value"));
+            fail(Code::Damaged, translate("Files", "holds no value"));
     }
 }
 
@@ -346,16 +348,14 @@ void Parser::text(std::string_view part)
         return;
     }
     if (!trimmed(part).empty())
-        fail(Code::Damaged, QStringLiteral("text stands outside a value"));
+        fail(Code::Damaged, translate("Files", "text stands outside a value"));
 }
 
 void Parser::finishText(Element element)
 {
     const std::string_view whole(m_text.constData(), static_cast<std::size_t>(m_text.size()));
-    const auto refuse = [this](Code code, const QString &what) {
-        fail(code,
-             QStringLiteral("\"%1\" is no %2")
-                 .arg(QString::fromUtf8(m_text.left(60)).trimmed(), what));
+    const auto refuse = [this](Code code, const QString &why) {
+        fail(code, why.arg(QString::fromUtf8(m_text.left(60)).trimmed()));
     };
     switch (element) {
     case Element::Key:
@@ -367,23 +367,25 @@ void Parser::finishText(Element element)
     case Element::Integer:
         if (const auto number = integerFrom(trimmed(whole)))
             return add(*number);
-        return refuse(Code::OutOfRange, QStringLiteral("signed 64-bit integer"));
+        return refuse(Code::OutOfRange, translate("Files", "\"%1\" is no signed 64-bit integer"));
     case Element::Real:
         if (const auto number = realFrom(trimmed(whole)))
             return add(*number);
-        return refuse(Code::OutOfRange, QStringLiteral("finite number"));
+        return refuse(Code::OutOfRange, translate("Files", "\"%1\" is no finite number"));
     case Element::Date:
         if (const auto date = dateFrom(trimmed(whole)))
             return add(*date);
-        return refuse(Code::Damaged, QStringLiteral("date of the form 2024-01-31T12:00:00Z"));
+        return refuse(Code::Damaged,
+                      translate("Files", "\"%1\" is no date of the form 2024-01-31T12:00:00Z"));
     case Element::Data:
         if (auto data = dataFrom(whole))
             return add(*std::move(data));
-        return refuse(Code::Damaged, QStringLiteral("base64"));
+        return refuse(Code::Damaged, translate("Files", "\"%1\" is no base64"));
     case Element::True:
     case Element::False:
         if (!trimmed(whole).empty())
-            return refuse(Code::Damaged, QStringLiteral("content of <true/> or <false/>"));
+            return refuse(Code::Damaged,
+                          translate("Files", "\"%1\" is no content of <true/> or <false/>"));
         return add(element == Element::True);
     case Element::Root:
     case Element::Dictionary:
@@ -403,7 +405,7 @@ void Parser::add(QVariant value)
         frame.dictionary.insert(frame.dictionary.cend(), frame.key, value);
         frame.hasKey = false;
         if (frame.dictionary.size() == before)
-            fail(Code::Damaged, QStringLiteral("the key \"%1\" stands twice").arg(frame.key));
+            fail(Code::Damaged, translate("Files", "the key \"%1\" stands twice").arg(frame.key));
         return;
     }
     case Element::Array:
@@ -418,7 +420,7 @@ Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
 {
     XML_Parser expat = m_expat.get();
     if (!expat)
-        return Error{Code::NotReadable, name, QStringLiteral("out of memory")};
+        return Error{Code::NotReadable, name, translate("Files", "out of memory")};
     XML_SetUserData(expat, this);
     XML_SetElementHandler(
         expat,
@@ -429,16 +431,16 @@ Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
     });
     // Entities of a file's own could grow without bounds or name other files,
     // and those that are not declared would be dropped silently.
-    XML_SetEntityDeclHandler(expat,
-                             [](void *user, const XML_Char *, int, const XML_Char *, int,
-                                const XML_Char *, const XML_Char *, const XML_Char *,
-                                const XML_Char *) {
-                                 of(user).fail(Code::Damaged, QStringLiteral("declares an entity"));
-                             });
+    XML_SetEntityDeclHandler(
+        expat,
+        [](void *user, const XML_Char *, int, const XML_Char *, int, const XML_Char *,
+           const XML_Char *, const XML_Char *, const XML_Char *) {
+            of(user).fail(Code::Damaged, translate("Files", "declares an entity"));
+        });
     XML_SetSkippedEntityHandler(expat, [](void *user, const XML_Char *entity, int) {
         of(user).fail(
             Code::Damaged,
-            QStringLiteral("uses the unknown entity \"%1\"").arg(QString::fromUtf8(entity)));
+            translate("Files", "uses the unknown entity \"%1\"").arg(QString::fromUtf8(entity)));
     });
 
     const XML_Status status = XML_Parse(expat, xml.constData(), static_cast<int>(xml.size()), 1);
@@ -446,9 +448,11 @@ Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
         return *std::move(m_list);
     if (!m_error) {
         const char *reason = XML_ErrorString(XML_GetErrorCode(expat));
-        fail(Code::Damaged, QString::fromUtf8(reason ? reason : "not XML"));
+        fail(Code::Damaged, reason ? QString::fromUtf8(reason) : translate("Files", "not XML"));
     }
-    m_error->where = QStringLiteral("%1, line %2").arg(name).arg(m_errorLine);
+    const QString line = QString::number(m_errorLine);
+    m_error->where = translate("Files", "%1, line %2").arg(name, line);
+    m_error->place = translate("Files", "line %1").arg(line);
     return *std::move(m_error);
 }
 
@@ -458,10 +462,10 @@ Result<QVariant> CFPropertyListCreateFromXMLData(const QByteArray &xml, const QS
 {
     if (xml.size() > limits::plistBytes)
         return Error{Code::TooLarge, name,
-                     QStringLiteral("more than %1 bytes").arg(limits::plistBytes)};
+                     translate("Files", "more than %1 bytes").arg(limits::plistBytes)};
     if (xml.startsWith("bplist"))
         return Error{Code::Unsupported, name,
-                     QStringLiteral("a binary property list; only the XML form is read")};
+                     translate("Files", "a binary property list; only the XML form is read")};
     return Parser().parse(xml, name);
 }
 

@@ -10,7 +10,8 @@
 // locale, overflows the stack on deep nesting and clips dates.)
 namespace kelvo {
 
-// Reads one property list. `name` stands in the error ("ticket.plist, line 7").
+// Reads one property list. `name` stands in the error ("ticket.plist, line 7"),
+// whose place is the line.
 // Refused: anything that is not a property list, custom entities, text outside
 // its element, a dictionary key that stands twice, and whatever is above the
 // plist limits of size_limits.h. Depth counts the dictionaries and arrays inside

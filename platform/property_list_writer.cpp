@@ -2,6 +2,7 @@
 
 #include "characters.h"
 #include "size_limits.h"
+#include "texts.h"
 #include "values.h"
 
 #include <QDateTime>
@@ -57,7 +58,7 @@ bool Writer::fail(Code code, const QString &detail, const Step *path)
         const QString name = step->key ? *step->key : QString::number(step->index);
         where = where.isEmpty() ? name : name + u'/' + where;
     }
-    m_error = Error{code, where.isEmpty() ? QStringLiteral("property list") : where, detail};
+    m_error = Error{code, where.isEmpty() ? translate("Files", "property list") : where, detail};
     return false;
 }
 
@@ -65,8 +66,8 @@ bool Writer::fail(Code code, const QString &detail, const Step *path)
 bool Writer::mayNest(int depth, const Step *path)
 {
     return depth < limits::plistDepth
-        || fail(Code::TooLarge, QStringLiteral("nested more than %1 deep").arg(limits::plistDepth),
-                path);
+        || fail(Code::TooLarge,
+                translate("Files", "nested more than %1 deep").arg(limits::plistDepth), path);
 }
 
 // Appends `string` as UTF-8; false when it holds what XML cannot.
@@ -139,8 +140,9 @@ bool Writer::text(const char *element, const QString &string, const Step *path)
     m_out.append('<').append(element).append('>');
     if (!escaped(string))
         return fail(Code::Unsupported,
-                    QStringLiteral("the %1 holds a character that XML cannot hold")
-                        .arg(QLatin1String(element)),
+                    element == QLatin1String("key")
+                        ? translate("Files", "the key holds a character that XML cannot hold")
+                        : translate("Files", "the string holds a character that XML cannot hold"),
                     path);
     m_out.append("</").append(element).append(">\n");
     return true;
@@ -150,7 +152,8 @@ bool Writer::date(const QDateTime &moment, const Step *path)
 {
     const QDateTime utc = moment.toUTC();
     if (!utc.isValid() || utc.date().year() < 1 || utc.date().year() > 9999)
-        return fail(Code::OutOfRange, QStringLiteral("a date outside the years 1 to 9999"), path);
+        return fail(Code::OutOfRange, translate("Files", "a date outside the years 1 to 9999"),
+                    path);
     m_out.append("<date>")
         .append(utc.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ssZ")).toLatin1())
         .append("</date>\n");
@@ -167,7 +170,7 @@ void Writer::integer(auto number)
 bool Writer::real(double number, const Step *path)
 {
     if (!std::isfinite(number))
-        return fail(Code::OutOfRange, QStringLiteral("a number that is not finite"), path);
+        return fail(Code::OutOfRange, translate("Files", "a number that is not finite"), path);
     std::array<char, 32> digits; // the shortest form has at most 24 characters
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
     m_out.append("<real>").append(digits.data(), end - digits.data()).append("</real>\n");
@@ -221,11 +224,11 @@ bool Writer::array(const List &list, int depth, const Step *path)
 bool Writer::value(const QVariant &variant, int depth, const Step *path)
 {
     if (++m_nodes > limits::plistNodes)
-        return fail(Code::TooLarge, QStringLiteral("more than %1 values").arg(limits::plistNodes),
-                    path);
+        return fail(Code::TooLarge,
+                    translate("Files", "more than %1 values").arg(limits::plistNodes), path);
     if (m_out.size() > limits::plistBytes)
-        return fail(Code::TooLarge, QStringLiteral("more than %1 bytes").arg(limits::plistBytes),
-                    path);
+        return fail(Code::TooLarge,
+                    translate("Files", "more than %1 bytes").arg(limits::plistBytes), path);
     const void *stored = variant.constData();
     switch (variant.typeId()) {
     case QMetaType::Bool:
@@ -269,12 +272,12 @@ bool Writer::value(const QVariant &variant, int depth, const Step *path)
             integer(*number);
             return true;
         }
-        return fail(Code::OutOfRange, QStringLiteral("an integer beyond signed 64 bits"), path);
+        return fail(Code::OutOfRange, translate("Files", "an integer beyond signed 64 bits"), path);
     default:
         return fail(Code::WrongType,
-                    variant.isValid() ? QStringLiteral("a property list holds no %1")
+                    variant.isValid() ? translate("Files", "a property list holds no %1")
                                             .arg(QLatin1String(variant.typeName()))
-                                      : QStringLiteral("there is no value"),
+                                      : translate("Files", "there is no value"),
                     path);
     }
 }
@@ -289,8 +292,8 @@ Result<QByteArray> Writer::write(const QVariant &list)
         return *std::move(m_error);
     m_out.append("</plist>\n");
     if (m_out.size() > limits::plistBytes)
-        return Error{Code::TooLarge, QStringLiteral("property list"),
-                     QStringLiteral("more than %1 bytes").arg(limits::plistBytes)};
+        return Error{Code::TooLarge, translate("Files", "property list"),
+                     translate("Files", "more than %1 bytes").arg(limits::plistBytes)};
     return std::move(m_out);
 }
 

@@ -18,6 +18,7 @@ struct Error
         NotWritable, // cannot be created, written, synced or renamed
         TooLarge,    // above a limit of size_limits.h
         Damaged,     // its bytes are not what they claim to be
+        OtherKind,   // sound, but a file of another kind than its place asks for
         WrongType,   // a value of another type than its place asks for
         OutOfRange,  // a number outside its limits
         Unsupported, // well formed, but not a kind that we handle
@@ -28,15 +29,13 @@ struct Error
     };
 
     Code code;
-    QString where;  // a path, "FILE:LINE", a key path or a printer name
-    QString detail; // the value found or the system's message; may be empty
-    int number = 0; // the system's errno; 0: the system did not fail
+    QString where;      // a path, "FILE:LINE", a key path or a printer name
+    QString detail;     // the value found or the system's message; may be empty
+    int number = 0;     // the system's errno; 0: the system did not fail
+    QString place = {}; // the end of `where` that lies in the file: "line 7", a key path
 
     // "where: detail", for one line of a log.
-    QString text() const
-    {
-        return detail.isEmpty() ? where : where + QStringLiteral(": ") + detail;
-    }
+    QString text() const;
 };
 
 // A value or the reason why there is none. Forgetting to look is a warning,

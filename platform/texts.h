@@ -15,6 +15,14 @@ namespace kelvo {
 // installTexts(); until then all is English.
 void loadTexts(const QString &folder, const QStringList &languages);
 
+// What loadTexts() took, for another process that is to speak the same language.
+struct TextSource
+{
+    QString folder;
+    QStringList languages;
+};
+const TextSource &textSource();
+
 // Gives the tables to the application object's tr(). They stay this library's.
 void installTexts();
 
@@ -24,6 +32,10 @@ void installTexts();
 // count for %n. Place holders are for one QString::arg(), which replaces all at once.
 QString translate(const char *context, const char *english, const char *comment = nullptr,
                   qint64 count = -1);
+
+// "A; B; C": what is said of one thing, each a clause that stands for itself, such as a
+// problem and what helps. Empty ones are left out.
+QString joined(const QStringList &clauses);
 
 // "a", "a and b", "a, b and c"
 QString listed(const QStringList &parts);

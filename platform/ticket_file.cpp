@@ -46,14 +46,13 @@ public:
     {
         const QVariant value = m_root.take(formatVersionKey);
         if (!value.isValid())
-            return fail(Code::Damaged, formatVersionKey,
-                        QStringLiteral("missing: this is not a ticket file"));
+            return fail(Code::OtherKind, formatVersionKey, translate("Files", "missing"));
         const auto version = integer64(value);
         if (!version)
-            return fail(Code::WrongType, formatVersionKey, QStringLiteral("not an integer"));
+            return fail(Code::WrongType, formatVersionKey, translate("Files", "not an integer"));
         if (*version != formatVersion)
             fail(Code::Unsupported, formatVersionKey,
-                 QStringLiteral("%1; this program reads version %2")
+                 translate("Files", "%1; this program reads version %2")
                      .arg(*version)
                      .arg(formatVersion));
     }
@@ -64,16 +63,16 @@ public:
         const QVariant value = m_root.take(key);
         if (!value.isValid()) {
             if (required)
-                fail(Code::Damaged, key, QStringLiteral("missing: this is not a ticket file"));
+                fail(Code::OtherKind, key, translate("Files", "missing"));
             return {};
         }
         const auto entries = dictionary(value);
         if (!entries) {
-            fail(Code::WrongType, key, QStringLiteral("not a dictionary"));
+            fail(Code::WrongType, key, translate("Files", "not a dictionary"));
             return {};
         }
         if (entries->contains(QString()))
-            fail(Code::Damaged, key, QStringLiteral("holds an entry without a key"));
+            fail(Code::Damaged, key, translate("Files", "holds an entry without a key"));
         return *entries;
     }
 
@@ -85,7 +84,7 @@ public:
         for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
             const auto word = string(entry.value());
             if (!word)
-                fail(Code::WrongType, key + u'/' + entry.key(), QStringLiteral("not a string"));
+                fail(Code::WrongType, key + u'/' + entry.key(), translate("Files", "not a string"));
             else
                 words.insert(entry.key(), *word);
         }
@@ -97,7 +96,7 @@ public:
         const QVariant value = m_root.take(key);
         const auto flag = boolean(value);
         if (value.isValid() && !flag)
-            fail(Code::WrongType, key, QStringLiteral("not true or false"));
+            fail(Code::WrongType, key, translate("Files", "not true or false"));
         return flag.value_or(false);
     }
 
@@ -106,7 +105,7 @@ public:
         const QVariant value = m_root.take(key);
         TicketPlaces places;
         if (value.isValid() && !array(value))
-            fail(Code::WrongType, key, QStringLiteral("not an array"));
+            fail(Code::WrongType, key, translate("Files", "not an array"));
         for (const QVariant &element : array(value).value_or(Array())) {
             TicketPlace place;
             for (const QVariant &step : array(element).value_or(Array()))
@@ -114,7 +113,8 @@ public:
             static const QStringList parts{kPMPrintSettingsTicket, kPMPageFormatTicket,
                                            kPPDChoices};
             if (place.size() < 2 || place.contains(QString()) || !parts.contains(place.first()))
-                fail(Code::WrongType, key, QStringLiteral("holds what is no place of a ticket"));
+                fail(Code::WrongType, key,
+                     translate("Files", "holds what is no place of a ticket"));
             else
                 places.insert(place);
         }
@@ -130,7 +130,7 @@ private:
     void fail(Code code, const QString &keyPath, const QString &detail)
     {
         if (!m_error)
-            m_error = Error{code, m_where + QStringLiteral(": ") + keyPath, detail};
+            m_error = Error{code, m_where + QStringLiteral(": ") + keyPath, detail, 0, keyPath};
     }
 
     Dictionary m_root;
@@ -184,8 +184,7 @@ Result<TicketFile> ticketFileFromPropertyList(const QVariant &list, const QStrin
 {
     const auto root = dictionary(list);
     if (!root)
-        return Error{Code::WrongType, where,
-                     QStringLiteral("holds no dictionary: this is not a ticket file")};
+        return Error{Code::OtherKind, where, translate("Files", "holds no dictionary")};
     Reader reader(*root, where);
     reader.requireVersion();
     const Dictionary printSettings = reader.section(kPMPrintSettingsTicket, true);
@@ -255,11 +254,11 @@ Result<void> checkTicketTarget(const QString &path)
                          .arg(folder)};
     if (::access(fileNameBytes(folder).constData(), W_OK | X_OK) != 0) {
         const int reason = errno;
-        return Error{
-            Code::NotWritable, path,
-            translate("Files", "nothing can be written into the folder %1 (%2); %3")
-                .arg(folder, QString::fromUtf8(std::strerror(reason)), writingAdvice(reason)),
-            reason};
+        return Error{Code::NotWritable, path,
+                     joined({translate("Files", "nothing can be written into the folder %1 (%2)")
+                                 .arg(folder, QString::fromUtf8(std::strerror(reason))),
+                             writingAdvice(reason)}),
+                     reason};
     }
     const auto target = fileStatus(path);
     if (!target)

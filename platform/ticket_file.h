@@ -56,8 +56,9 @@ struct TicketFile
     friend bool operator==(const TicketFile &, const TicketFile &) = default;
 };
 
-// `where` names the file in errors. Damaged or WrongType with the key path for
-// what is not a ticket file, Unsupported for another format version.
+// `where` names the file in errors, whose place is the key path. OtherKind for what is not a
+// ticket file at all: the detail says only why, so that the caller says what it is not;
+// Damaged or WrongType for one with wrong entries, Unsupported for another format version.
 Result<TicketFile> ticketFileFromPropertyList(const QVariant &list, const QString &where);
 Dictionary propertyListFrom(const TicketFile &file);
 

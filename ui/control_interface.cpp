@@ -2,6 +2,7 @@
 
 #include "control.h"
 #include "input_limits.h"
+#include "texts.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -62,10 +63,37 @@ void ControlInterface::describe(QJsonObject &object)
 Result<void> ControlInterface::type(const QString &text)
 {
     if (!takesText())
-        return unsupported("takes no text");
+        return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and takes no text"));
     if (typeText(m_control, text))
         return {};
-    return notTyped(QStringLiteral("does not take the whole text"), inWords(limits()));
+    // A refused text may be a secret: it is not repeated.
+    return refused(joined(
+        {translate("Controls", "%1 does not take the whole text").arg(name()), inWords(limits())}));
+}
+
+Error ControlInterface::unsupported(const char *sentence) const
+{
+    QStringList clauses{translate("Controls", sentence).arg(name(), kindOf(m_control))};
+    if (const QString taken = commands(); !taken.isEmpty())
+        clauses << translate("Controls", "it takes %1", "script commands").arg(taken);
+    return {Error::Code::Unsupported, {}, joined(clauses)};
+}
+
+Error ControlInterface::readOnlyError() const
+{
+    return refused(translate("Controls", "%1 is read-only").arg(name()));
+}
+
+Error ControlInterface::outsideRange(int value, int minimum, int maximum) const
+{
+    return refused(translate("Controls", "%1 goes from %2 to %3, not to %4")
+                       .arg(name(), QString::number(minimum), QString::number(maximum),
+                            QString::number(value)));
+}
+
+Error ControlInterface::notAList() const
+{
+    return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and is no list"));
 }
 
 void ControlInterface::localize(const Localizer &localized)
@@ -87,34 +115,34 @@ InputLimits ControlInterface::limits() const
     return inputLimits(m_control).value_or(InputLimits());
 }
 
-Error unsupported(const char *what)
+bool hasSpeakingName(const QWidget *widget)
 {
-    return {Error::Code::Unsupported, {}, QString::fromLatin1(what)};
+    return !widget->objectName().isEmpty()
+        && !widget->objectName().startsWith(QLatin1String("qt_"));
 }
 
-Error refused(const QString &why)
+QString scriptName(const QWidget *control)
 {
-    return {Error::Code::Refused, {}, why};
+    const auto id = controlIDOf(control);
+    return hasSpeakingName(control) || !id ? QStringLiteral("@%1").arg(control->objectName())
+                                           : textOf(*id);
 }
 
-Error outsideRange(int value, int minimum, int maximum)
+QString kindOf(const QWidget *control)
 {
-    return refused(
-        QStringLiteral("goes from %1 to %2, not to %3").arg(minimum).arg(maximum).arg(value));
+    return QString::fromLatin1(control->metaObject()->className())
+        .section(QStringLiteral("::"), -1);
 }
 
-Error partNotOffered(const char *part, int value, int count)
+Error refused(const QString &sentence)
 {
-    const QLatin1String name(part);
-    return refused(value < 1 || value > count
-                       ? QStringLiteral("has %1s 1 to %2, not %3").arg(name).arg(count).arg(value)
-                       : QStringLiteral("offers %1 %2 only disabled").arg(name).arg(value));
+    return {Error::Code::Refused, {}, sentence};
 }
 
-Error notTyped(const QString &what, const QString &itTakes)
+QString noSuchRow(const QWidget *control, int row, qsizetype count)
 {
-    // A refused text may be a secret: it is not repeated.
-    return refused(itTakes.isEmpty() ? what : what + QStringLiteral("; it takes ") + itTakes);
+    return translate("Controls", "%1 has %n row(s), not %2", nullptr, count)
+        .arg(scriptName(control), QString::number(row));
 }
 
 int rowOf(const Menu &menu, const MenuItem &item)

@@ -4,6 +4,7 @@
 #include "result.h"
 
 #include <QString>
+#include <QtGlobal>
 #include <QWidget>
 
 #include <functional>
@@ -18,20 +19,27 @@ namespace kelvo {
 
 struct InputLimits;
 
-// Why an action was not done: the detail is the end of a sentence that begins with the
-// control's name. The codes are Unsupported, where the control takes no such action at
-// all, and Refused.
-Error unsupported(const char *what);                          // "cannot be clicked"
-Error refused(const QString &why);                            // "is read-only"
-Error outsideRange(int value, int minimum, int maximum);      // "goes from 1 to 9, not to 10"
-Error partNotOffered(const char *part, int value, int count); // "has tabs 1 to 4, not 5"
-Error notTyped(const QString &what, const QString &itTakes);  // "...; it takes 1 to 12 digits"
+// A control's name, as messages have it and scripts write it: the one that speaks, else the ID.
+QString scriptName(const QWidget *control);
+// Qt gives names of its own to the insides of its widgets; they are not ours.
+bool hasSpeakingName(const QWidget *widget);
+// A control's class, as messages and lists have it.
+QString kindOf(const QWidget *control);
+
+// Why an action was not done: one that the control takes, but not so, or not now. The detail
+// is a sentence with the control's name in it.
+Error refused(const QString &sentence);
+// A menu or list of `count` rows has not that many.
+QString noSuchRow(const QWidget *control, int row, qsizetype count);
 
 // What a control answers for itself: what it shows, what a user can do with it, and
 // how a window prepares it. Each class of controls has an interface in its own file,
 // Qt's own in qt_controls; controlInterface() finds that of a widget. The defaults
 // are those of a widget that shows nothing and takes nothing, so that a class says
 // only what it has.
+//
+// An action that fails says so in a sentence: Refused, or Unsupported where the control takes
+// no such action at all.
 //
 // An interface is made for one question or action and thrown away. The handlers of an
 // action may destroy the control, so nothing is asked afterwards.
@@ -68,7 +76,7 @@ public:
     // Both from 1. Unsupported when it has no cells, OutOfRange when not that one.
     virtual Result<QString> cell(int /*row*/, int /*column*/) const
     {
-        return unsupported("has no cells");
+        return Error{Error::Code::Unsupported, {}, {}};
     }
     // Adds to `object` what else it holds: by default "items", those of menu().
     virtual void describe(QJsonObject &object);
@@ -78,18 +86,31 @@ public:
     virtual QString commands() const { return {}; }
     // `item` is an element of menu() itself, at any level; false: it is not taken.
     virtual bool choose(const MenuItem & /*item*/) { return false; }
-    virtual Result<void> click() { return unsupported("cannot be clicked"); }
-    virtual Result<void> check(bool /*on*/) { return unsupported("cannot be checked"); }
+    virtual Result<void> click()
+    {
+        return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and cannot be clicked"));
+    }
+    virtual Result<void> check(bool /*on*/)
+    {
+        return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and cannot be checked"));
+    }
     // Replaces what stands there, as a user types it.
     virtual Result<void> type(const QString &text);
-    virtual Result<void> set(int /*value*/) { return unsupported("has no number to set"); }
-    virtual Result<void> setTime(const QTime & /*time*/) { return unsupported("is no time field"); }
-    // Rows from 1; 0: the empty area.
-    virtual Result<void> select(const std::vector<int> & /*rows*/)
+    virtual Result<void> set(int /*value*/)
     {
-        return unsupported("is no list");
+        return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and has no number to set"));
     }
-    virtual Result<void> activate(int /*row*/) { return unsupported("is no list"); }
+    virtual Result<void> setTime(const QTime & /*time*/)
+    {
+        return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and is no time field"));
+    }
+    // Rows from 1; 0: the empty area.
+    virtual Result<void> select(const std::vector<int> & /*rows*/) { return notAList(); }
+    virtual Result<void> activate(int /*row*/) { return notAList(); }
+    // Unsupported, and what the control takes instead. `sentence` is one of the table
+    // "Controls", with %1 for the control's name and %2 for its kind.
+    Error unsupported(const char *sentence) const;
+    Error readOnlyError() const;
 
     // ---- How a window prepares it.
     using Localizer = std::function<QString(const QString &key)>;
@@ -115,10 +136,15 @@ public:
 
 protected:
     QWidget *control() const { return m_control; }
+    QString name() const { return scriptName(m_control); }
     // Of what is typed; told where something is refused.
     virtual InputLimits limits() const;
 
+    Error outsideRange(int value, int minimum, int maximum) const;
+
 private:
+    Error notAList() const;
+
     QWidget *m_control;
 };
 

@@ -2,9 +2,9 @@
 
 #include "control_support.h"
 #include "notice.h"
+#include "texts.h"
 
 #include <QApplication>
-#include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
@@ -35,11 +35,6 @@ HelpFolders &helpFolders()
 {
     static HelpFolders folders;
     return folders;
-}
-
-QString words(const char *text)
-{
-    return QCoreApplication::translate("kelvo::HelpWindow", text);
 }
 
 // Whether `file` is a file of the help folders, links followed.
@@ -79,11 +74,14 @@ public:
         , m_message(message)
     {
         setOpenExternalLinks(false);
-        setAccessibleName(words("Help page"));
+        setAccessibleName(translate("Help", "Help page"));
         colourLinks();
     }
 
-    void sayMissing(const QString &page) { say(words("The help has no page \"%1\".").arg(page)); }
+    void sayMissing(const QString &page)
+    {
+        say(translate("Help", "The help has no page \"%1\".").arg(page));
+    }
 
     // Dark themes often leave links the dark blue of white pages.
     void colourLinks()
@@ -108,7 +106,8 @@ protected:
     {
         const QUrl url = source().resolved(name);
         if (!url.isLocalFile())
-            say(words("This address is outside the help: %1").arg(url.toDisplayString()));
+            say(translate("Help", "This address is outside the help: %1")
+                    .arg(url.toDisplayString()));
         else if (!isHelpFile(url.toLocalFile()))
             sayMissing(url.fileName());
         else {
@@ -143,10 +142,11 @@ public:
         m_message->setFrameShape(QFrame::StyledPanel);
         m_message->setVisible(false);
 
-        QToolButton *back = addTool(words("Back"), QStyle::SP_ArrowBack, QKeySequence::Back);
+        QToolButton *back =
+            addTool(translate("Help", "Back"), QStyle::SP_ArrowBack, QKeySequence::Back);
         QToolButton *forward =
-            addTool(words("Forward"), QStyle::SP_ArrowForward, QKeySequence::Forward);
-        QToolButton *contents = addTool(words("Contents"), QStyle::SP_DirHomeIcon,
+            addTool(translate("Help", "Forward"), QStyle::SP_ArrowForward, QKeySequence::Forward);
+        QToolButton *contents = addTool(translate("Help", "Contents"), QStyle::SP_DirHomeIcon,
                                         QKeySequence(Qt::ALT | Qt::Key_Home));
         back->setEnabled(false);
         forward->setEnabled(false);
@@ -165,7 +165,7 @@ public:
         connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
         connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
             const QString title = m_browser->documentTitle();
-            setWindowTitle(title.isEmpty() ? words("Help") : title);
+            setWindowTitle(title.isEmpty() ? translate("Help", "Help") : title);
         });
 
         const QFontMetrics metrics = fontMetrics();
@@ -275,14 +275,16 @@ OSStatus showHelp(const QString &page, QWidget *parent)
         return status;
     const QStringList folders = helpFolders().all();
     const QString missing = folders.isEmpty()
-        ? words("The folder with the help pages is missing.")
-        : words("The page “%1” is missing in %2.")
+        ? translate("Help",
+                    "The folder with the help pages is missing. Install the software again, or "
+                    "tell your administrator.")
+        : translate("Help",
+                    "The page “%1” is missing in %2. Install the software again, or tell your "
+                    "administrator.")
               .arg(page.isEmpty() ? QString::fromLatin1(contentsPage) : page,
                    folders.join(QStringLiteral(", ")));
     CFUserNotificationDisplayNotice(
-        NoticeLevel::Caution, words("There is no help for this"),
-        missing + u' ' + words("Install the software again, or tell your administrator."), {},
-        parent);
+        NoticeLevel::Caution, translate("Help", "There is no help for this"), missing, {}, parent);
     return status;
 }
 

@@ -3,8 +3,9 @@
 #include "characters.h"
 #include "control_interface.h"
 #include "control_support.h"
+#include "string_table.h"
+#include "texts.h"
 
-#include <QCoreApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextBlock>
@@ -166,10 +167,9 @@ private:
         anyLength.maximumLength = -1;
         const bool isCharacter = findProblem(refused, anyLength) == InputProblem::BadCharacter;
         const QString text = isCharacter
-            ? QCoreApplication::translate("kelvo::InputLimits",
-                                          "This character cannot be used here.")
-            : QCoreApplication::translate("kelvo::InputLimits", "At most %n characters fit here.",
-                                          nullptr, m_limits.maximumLength);
+            ? translate("Controls", "This character cannot be used here.")
+            : translate("Controls", "At most %n characters fit here.", nullptr,
+                        m_limits.maximumLength);
         QToolTip::showText(m_field->mapToGlobal(QPoint(0, m_field->height())), text, m_field);
     }
 
@@ -229,25 +229,60 @@ InputProblem findProblem(const QString &text, const InputLimits &limits)
 
 QString inWords(const InputLimits &limits)
 {
-    QString characters = QStringLiteral("characters");
+    // Of each kind of characters: any number, at most %2, from %1 to %2. %3 is a list of them.
+    struct Sentences
+    {
+        const char *any, *most, *range;
+    };
+    static constexpr Sentences characters{
+        "",
+        QT_TRANSLATE_NOOP("Controls", "it takes at most %2 characters"),
+        QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 characters"),
+    };
+    static constexpr Sentences digits{
+        QT_TRANSLATE_NOOP("Controls", "it takes only digits"),
+        QT_TRANSLATE_NOOP("Controls", "it takes at most %2 digits"),
+        QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 digits"),
+    };
+    static constexpr Sentences listed{
+        QT_TRANSLATE_NOOP("Controls", "it takes only characters of \"%3\""),
+        QT_TRANSLATE_NOOP("Controls", "it takes at most %2 characters of \"%3\""),
+        QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 characters of \"%3\""),
+    };
+    static constexpr Sentences ascii{
+        QT_TRANSLATE_NOOP("Controls", "it takes only ASCII characters"),
+        QT_TRANSLATE_NOOP("Controls", "it takes at most %2 ASCII characters"),
+        QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 ASCII characters"),
+    };
+    static constexpr Sentences certain{
+        QT_TRANSLATE_NOOP("Controls", "it takes only characters of a certain set"),
+        QT_TRANSLATE_NOOP("Controls", "it takes at most %2 characters of a certain set"),
+        QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 characters of a certain set"),
+    };
+
+    const Sentences *sentences = &characters;
+    QString list;
     if (limits.allowed == InputLimits::decimalDigits()) {
-        characters = QStringLiteral("digits");
+        sentences = &digits;
     } else if (limits.allowed) {
         constexpr qsizetype mostListed = 40;
         QList<char32_t> sorted = limits.allowed->values();
         std::ranges::sort(sorted);
-        characters = sorted.size() <= mostListed
-            ? QStringLiteral("characters of \"%1\"")
-                  .arg(QString::fromUcs4(sorted.constData(), sorted.size()))
-            : limits.ascii() ? QStringLiteral("ASCII characters")
-                             : QStringLiteral("characters of a certain set");
+        if (sorted.size() <= mostListed) {
+            sentences = &listed;
+            list = QString::fromUcs4(sorted.constData(), sorted.size());
+        } else {
+            sentences = limits.ascii() ? &ascii : &certain;
+        }
     }
-    const QString most = QString::number(limits.maximumLength);
-    if (limits.maximumLength < 0)
-        return limits.allowed ? QStringLiteral("only ") + characters : QString();
-    return limits.minimumLength > 0
-        ? QStringLiteral("%1 to %2 %3").arg(QString::number(limits.minimumLength), most, characters)
-        : QStringLiteral("at most %1 %2").arg(most, characters);
+    const bool hasMost = limits.maximumLength >= 0;
+    const char *sentence = !hasMost ? sentences->any
+        : limits.minimumLength > 0  ? sentences->range
+                                    : sentences->most;
+    return *sentence == '\0' ? QString()
+                             : formatted(translate("Controls", sentence),
+                                         {QString::number(limits.minimumLength),
+                                          QString::number(limits.maximumLength), list});
 }
 
 QString withinLimits(const QString &typed, const InputLimits &limits)

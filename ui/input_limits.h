@@ -31,7 +31,8 @@ enum class InputProblem { None, TooShort, TooLong, BadCharacter };
 // The first thing wrong with `text`, characters before lengths.
 [[nodiscard]] InputProblem findProblem(const QString &text, const InputLimits &limits);
 
-// What such a field takes, for a script's author: "1 to 12 digits". Empty without limits.
+// What such a field takes, for a script's author: "it takes 1 to 12 digits". Empty without
+// limits.
 QString inWords(const InputLimits &limits);
 
 // What of `typed` may stand: characters that are not allowed are left out or have

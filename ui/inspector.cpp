@@ -4,6 +4,7 @@
 #include "event.h"
 #include "nearest_name.h"
 #include "secrets.h"
+#include "texts.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -30,50 +31,23 @@ namespace kelvo::inspector {
 
 namespace {
 
-// Qt gives names of its own to the insides of its widgets; they are not ours.
-bool hasSpeakingName(const QWidget *widget)
+Done notOffered(const QString &sentence)
 {
-    return !widget->objectName().isEmpty()
-        && !widget->objectName().startsWith(QLatin1String("qt_"));
+    return Problem{Failure::NotOffered, sentence};
 }
 
-// A control's name as its user writes it: the one that speaks, else the ID.
-QString nameOf(const QWidget *control)
+Done wrongKind(const ControlInterface &shown, const char *sentence)
 {
-    const auto id = controlIDOf(control);
-    return hasSpeakingName(control) || !id ? QStringLiteral("@%1").arg(control->objectName())
-                                           : textOf(*id);
-}
-
-Done notOffered(const QWidget *control, const QString &why)
-{
-    return Problem{Failure::NotOffered, QStringLiteral("%1 %2").arg(nameOf(control), why)};
-}
-
-// A control's class, as messages and lists have it.
-QString kindOf(const QWidget *control)
-{
-    return QString::fromLatin1(control->metaObject()->className())
-        .section(QStringLiteral("::"), -1);
-}
-
-// What cannot be done with a control, and what can.
-Done wrongKind(QWidget *control, const QString &what)
-{
-    const QString commands = controlInterface(control)->commands();
-    return Problem{
-        Failure::WrongKind,
-        QStringLiteral("%1 is a %2 and %3").arg(nameOf(control), kindOf(control), what)
-            + (commands.isEmpty() ? QString() : QStringLiteral("; it takes %1").arg(commands))};
+    return Problem{Failure::WrongKind, shown.unsupported(sentence).detail};
 }
 
 // Why the user could not use the control now; none when it can be used.
 Done unusable(const QWidget *control)
 {
     if (!control->isVisible())
-        return notOffered(control, QStringLiteral("is not shown"));
+        return notOffered(translate("Controls", "%1 is not shown").arg(scriptName(control)));
     if (!control->isEnabled())
-        return notOffered(control, QStringLiteral("is disabled"));
+        return notOffered(translate("Controls", "%1 is disabled").arg(scriptName(control)));
     return {};
 }
 
@@ -86,8 +60,9 @@ Done act(QWidget *control, const std::function<Result<void>(ControlInterface &)>
     if (done)
         return {};
     const Error &error = done.error();
-    return error.code == Error::Code::Unsupported ? wrongKind(control, error.detail)
-                                                  : notOffered(control, error.detail);
+    return Problem{error.code == Error::Code::Unsupported ? Failure::WrongKind
+                                                          : Failure::NotOffered,
+                   error.detail};
 }
 
 void collect(const std::vector<MenuItem> &items, std::vector<const MenuItem *> &out)
@@ -161,15 +136,15 @@ QStringList commandsOf(const std::vector<const MenuItem *> &items)
     return commands;
 }
 
-// "; it has A, B, …", and where a script sees the rest.
+// "it has A, B, …", and where a script sees the rest.
 QString whatItHas(const QWidget *control, const QStringList &names)
 {
     if (names.isEmpty())
         return {};
-    return QStringLiteral("; it has ") + shortList(names)
-        + (names.size() > kShortListLength
-               ? QStringLiteral(" (\"show %1\" lists them all)").arg(nameOf(control))
-               : QString());
+    return names.size() > kShortListLength
+        ? translate("Controls", "it has %1 (\"show %2\" lists them all)")
+              .arg(shortList(names), scriptName(control))
+        : translate("Controls", "it has %1").arg(shortList(names));
 }
 
 // `items` are all that carry the same.
@@ -178,8 +153,9 @@ Done severalItems(const QWidget *control, const QString &what,
 {
     return Problem{
         Failure::BadValue,
-        QStringLiteral("several items of %1 carry %2; name one of them by key, text or row: %3")
-            .arg(nameOf(control), what, shortList(namesOf(items, ItemName::By::Text)))};
+        translate("Controls",
+                  "several items of %1 carry %2; name one of them by key, text or row: %3")
+            .arg(scriptName(control), what, shortList(namesOf(items, ItemName::By::Text)))};
 }
 
 // The one item that `name` means among `items`; the problem says what there is.
@@ -193,10 +169,7 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
 {
     if (name.by == ItemName::By::Row) {
         if (name.row > static_cast<int>(items.size()))
-            return {
-                nullptr,
-                notOffered(control,
-                           QStringLiteral("has %1 rows, not %2").arg(items.size()).arg(name.row))};
+            return {nullptr, notOffered(noSuchRow(control, name.row, std::ssize(items)))};
         return {items[name.row - 1], {}};
     }
     std::vector<const MenuItem *> found;
@@ -212,28 +185,34 @@ FoundItem findItem(const QWidget *control, const std::vector<const MenuItem *> &
         nearest = nearestName(name.text, namesOf(items, name.by));
     else if (name.by == ItemName::By::Text)
         nearest = nearestName(name.text, textsOf(items));
-    return {
-        nullptr,
-        notOffered(control,
-                   QStringLiteral("has no item %1").arg(name.description())
-                       + (nearest.isEmpty() ? whatItHas(control, namesOf(items, name.by))
-                                            : QStringLiteral(", the nearest is %1").arg(nearest)))};
+    const QString problem = nearest.isEmpty()
+        ? translate("Controls", "%1 has no item %2").arg(scriptName(control), name.description())
+        : translate("Controls", "%1 has no item %2, the nearest is %3")
+              .arg(scriptName(control), name.description(), nearest);
+    return {nullptr,
+            notOffered(nearest.isEmpty()
+                           ? joined({problem, whatItHas(control, namesOf(items, name.by))})
+                           : problem)};
 }
 
 // `item` is one of the menu of `shown`.
 Done chooseItem(QWidget *control, ControlInterface &shown, const MenuItem &item)
 {
+    // Taken before it is chosen, which may end both.
+    const QString name = scriptName(control);
+    const QString text = item.text;
     if (item.divider)
-        return notOffered(control, QStringLiteral("has a divider there, which cannot be chosen"));
+        return notOffered(
+            translate("Controls", "%1 has a divider there, which cannot be chosen").arg(name));
     if (!item.submenu.empty())
         return notOffered(
-            control,
-            QStringLiteral("opens a submenu with \"%1\"; choose an item in it").arg(item.text));
+            translate("Controls", "%1 opens a submenu with \"%2\"; choose an item in it")
+                .arg(name, text));
     if (!item.enabled)
-        return notOffered(control, QStringLiteral("offers \"%1\" only disabled").arg(item.text));
+        return notOffered(translate("Controls", "%1 offers \"%2\" only disabled").arg(name, text));
     return shown.choose(item)
         ? Done()
-        : notOffered(control, QStringLiteral("does not take \"%1\"").arg(item.text));
+        : notOffered(translate("Controls", "%1 does not take \"%2\"").arg(name, text));
 }
 
 QString textOfControl(QWidget *control)
@@ -272,7 +251,8 @@ Result<ControlName> controlNameFrom(const QString &text)
         return ControlName{{}, text.mid(1)};
     if (const auto id = controlIDFromText(text))
         return ControlName{id, {}};
-    return Error{Error::Code::Damaged, text, QStringLiteral("write KPDE 102 or @objectName")};
+    return Error{Error::Code::Damaged, text,
+                 translate("Controls", "write KPDE 102 or @objectName")};
 }
 
 QString ItemName::description() const
@@ -327,12 +307,14 @@ Done choose(QWidget *control, const ItemName &name)
     const auto shown = controlInterface(control);
     const Menu *menu = shown->menu();
     if (!menu)
-        return wrongKind(control, QStringLiteral("has no items to choose"));
+        return wrongKind(*shown,
+                         QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and has no items to choose"));
     if (shown->hasPlainItems()
         && (name.by == ItemName::By::Key || name.by == ItemName::By::Reference))
-        return Problem{Failure::WrongKind,
-                       QStringLiteral("the items of %1 have no values; name one by text or row")
-                           .arg(nameOf(control))};
+        return Problem{
+            Failure::WrongKind,
+            translate("Controls", "the items of %1 have no values; name one by text or row")
+                .arg(scriptName(control))};
     std::vector<const MenuItem *> items;
     collect(menu->items, items);
     const FoundItem found = findItem(control, items, name);
@@ -347,7 +329,8 @@ FoundItem findCommand(QWidget *control, ControlInterface &shown, OSType command,
 {
     const Menu *menu = shown.menu();
     if (!menu || shown.hasPlainItems())
-        return {nullptr, wrongKind(control, QStringLiteral("has no menu"))};
+        return {nullptr,
+                wrongKind(shown, QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and has no menu"))};
     std::vector<const MenuItem *> all, items;
     collect(menu->items, all);
     std::copy_if(all.begin(), all.end(), std::back_inserter(items),
@@ -355,12 +338,13 @@ FoundItem findCommand(QWidget *control, ControlInterface &shown, OSType command,
     const QString code = QStringLiteral("'%1'").arg(charactersOf(command));
     if (items.empty()) {
         const QStringList commands = commandsOf(all);
+        const QString others = commands.isEmpty()
+            ? translate("Controls", "its items have none, choose picks them")
+            : whatItHas(control, commands);
         return {nullptr,
-                notOffered(control,
-                           QStringLiteral("has no item with the command %1").arg(code)
-                               + (commands.isEmpty()
-                                      ? QStringLiteral("; its items have none, choose picks them")
-                                      : whatItHas(control, commands)))};
+                notOffered(joined({translate("Controls", "%1 has no item with the command %2")
+                                       .arg(scriptName(control), code),
+                                   others}))};
     }
     if (name)
         return findItem(control, items, *name);
@@ -394,7 +378,7 @@ Done type(QWidget *control, const QString &text)
 {
     return act(control, [control, &text](ControlInterface &field) -> Result<void> {
         if (control->property("readOnly").toBool())
-            return refused(QStringLiteral("is read-only"));
+            return field.readOnlyError();
         return field.type(text);
     });
 }
@@ -453,12 +437,12 @@ Done command(QWidget *window, OSType code)
     const QString title = window->windowTitle();
     if (sendCommand(window, code) != eventNotHandledErr)
         return {};
-    return Problem{
-        Failure::NotOffered,
-        QStringLiteral("nothing in the window \"%1\" takes the command '%2'; \"controls\" "
-                       "lists the commands of its buttons, and those of menus, which "
-                       "\"item\" picks")
-            .arg(title, charactersOf(code))};
+    return Problem{Failure::NotOffered,
+                   translate("Controls",
+                             "nothing in the window \"%1\" takes the command '%2'; \"controls\" "
+                             "lists the commands of its buttons, and those of menus, which "
+                             "\"item\" picks")
+                       .arg(title, charactersOf(code))};
 }
 
 Done pressKey(QWidget *window, const QString &keys)
@@ -467,7 +451,7 @@ Done pressKey(QWidget *window, const QString &keys)
     if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown)
         return Problem{
             Failure::BadValue,
-            QStringLiteral("\"%1\" is no key; write Ctrl+P, Return, F6, Alt+1").arg(keys)};
+            translate("Controls", "\"%1\" is no key; write Ctrl+P, Return, F6, Alt+1").arg(keys)};
     QWidget *focus = window->focusWidget() ? window->focusWidget() : window;
     const QPointer<QWidget> alive = focus;
     for (int i = 0; i < sequence.count() && alive; ++i) {
@@ -494,9 +478,10 @@ Done answerFileChooser(QWidget *window, const QString &path)
 {
     auto *chooser = qobject_cast<QFileDialog *>(window);
     if (!chooser)
-        return Problem{Failure::NotOffered, QStringLiteral("no file chooser is open")};
+        return Problem{Failure::NotOffered, translate("Controls", "no file chooser is open")};
     if (chooser->acceptMode() == QFileDialog::AcceptOpen && !QFileInfo::exists(path))
-        return Problem{Failure::BadValue, QStringLiteral("there is no file \"%1\"").arg(path)};
+        return Problem{Failure::BadValue,
+                       translate("Controls", "there is no file \"%1\"").arg(path)};
     const QFileInfo file(path);
     chooser->setDirectory(file.absolutePath());
     chooser->selectFile(file.absoluteFilePath());
@@ -537,7 +522,7 @@ constexpr PropertyRow propertyRows[] = {
     {"enabled", [](QWidget *control, Shown &) { return words(control->isEnabled()); }},
     {"visible", [](QWidget *control, Shown &) { return words(control->isVisible()); }},
     {"checked", [](QWidget *, Shown &shown) { return words(shown.isChecked()); },
-     "it cannot be checked"},
+     QT_TRANSLATE_NOOP("Controls", "it cannot be checked")},
     {"focus",
      [](QWidget *control, Shown &) { return words(control->window()->focusWidget() == control); }},
     {"items", [](QWidget *, Shown &shown) { return numeral(shown.items()); }},
@@ -549,7 +534,7 @@ Result<QString> propertyOf(QWidget *control, const QString &name)
 {
     const auto shown = controlInterface(control);
     const auto lacks = [control](const QString &what) {
-        return Error{Error::Code::Unsupported, nameOf(control), what};
+        return Error{Error::Code::Unsupported, scriptName(control), what};
     };
     if (name.startsWith(QLatin1String("cell "))) {
         const QStringList parts = name.split(u' ');
@@ -557,17 +542,17 @@ Result<QString> propertyOf(QWidget *control, const QString &name)
         if (cell)
             return cell;
         if (cell.error().code == Error::Code::Unsupported)
-            return lacks(QStringLiteral("it has no %1").arg(name));
-        return Error{cell.error().code, nameOf(control), cell.error().detail};
+            return lacks(translate("Controls", "it has no %1").arg(name));
+        return Error{cell.error().code, scriptName(control), cell.error().detail};
     }
     const auto row = std::ranges::find(
         propertyRows, name, [](const PropertyRow &each) { return QLatin1String(each.name); });
     if (row == std::end(propertyRows))
-        return lacks(QStringLiteral("it has no %1").arg(name));
+        return lacks(translate("Controls", "it has no %1").arg(name));
     if (const auto value = row->read(control, *shown))
         return *value;
-    return lacks(row->lacking ? QString::fromLatin1(row->lacking)
-                              : QStringLiteral("it has no %1").arg(name));
+    return lacks(row->lacking ? translate("Controls", row->lacking)
+                              : translate("Controls", "it has no %1").arg(name));
 }
 
 } // namespace
@@ -594,7 +579,8 @@ Result<QString> property(QWidget *control, const QString &name)
     if (const auto cell = shown->cell(1, 1); cell || cell.error().code != Error::Code::Unsupported)
         has << QStringLiteral("cell");
     Error error = found.error();
-    error.detail += QStringLiteral("; it has ") + has.join(QStringLiteral(", "));
+    error.detail = joined(
+        {error.detail, translate("Controls", "it has %1").arg(has.join(QStringLiteral(", ")))});
     return error;
 }
 
@@ -609,11 +595,10 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
     if (!found.item && !isAbsent)
         return found.problem;
     if (state == QLatin1String("absent"))
-        return isAbsent
-            ? Done()
-            : Problem{
-                Failure::BadValue,
-                QStringLiteral("%1 has that item: \"%2\"").arg(nameOf(control), found.item->text)};
+        return isAbsent ? Done()
+                        : Problem{Failure::BadValue,
+                                  translate("Controls", "%1 has that item: \"%2\"")
+                                      .arg(scriptName(control), found.item->text)};
     if (isAbsent)
         return Problem{Failure::BadValue, problem};
     const bool holds = state == QLatin1String("present")
@@ -623,9 +608,9 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
         || (state == QLatin1String("unchecked") && !found.item->checked);
     if (holds)
         return {};
-    return Problem{
-        Failure::BadValue,
-        QStringLiteral("\"%1\" of %2 is not %3").arg(found.item->text, nameOf(control), state)};
+    return Problem{Failure::BadValue,
+                   translate("Controls", "\"%1\" of %2 is not %3")
+                       .arg(found.item->text, scriptName(control), state)};
 }
 
 QJsonObject describe(QWidget *control)

@@ -2,6 +2,7 @@
 
 #include "control_interface.h"
 #include "control_support.h"
+#include "texts.h"
 #include "tool_tip.h"
 
 #include <QAbstractTableModel>
@@ -263,13 +264,14 @@ public:
     Result<QString> cell(int row, int column) const override
     {
         if (row < 1 || row > widget()->rowCount() || column < 1 || column > columns())
-            return Error{Error::Code::OutOfRange,
-                         {},
-                         QStringLiteral("there is no cell %1 %2; it has %3 rows and %4 columns")
-                             .arg(row)
-                             .arg(column)
-                             .arg(widget()->rowCount())
-                             .arg(columns())};
+            return Error{
+                Error::Code::OutOfRange,
+                {},
+                translate("Controls", "there is no cell %1 %2; it has %3 rows and %4 columns")
+                    .arg(row)
+                    .arg(column)
+                    .arg(widget()->rowCount())
+                    .arg(columns())};
         return widget()->cellText(row - 1, column - 1);
     }
 
@@ -292,7 +294,7 @@ public:
         std::vector<int> fromZero; // the empty area is no row, and left out
         for (const int row : rows) {
             if (row > widget()->rowCount())
-                return noSuchRow(row);
+                return refused(noSuchRow(control(), row, widget()->rowCount()));
             fromZero.push_back(row - 1);
         }
         widget()->selectRows(fromZero, true);
@@ -302,17 +304,13 @@ public:
     Result<void> activate(int row) override
     {
         if (row < 0 || row > widget()->rowCount())
-            return noSuchRow(row);
+            return refused(noSuchRow(control(), row, widget()->rowCount()));
         widget()->activateRow(row - 1);
         return {};
     }
 
 private:
     int columns() const { return widget()->model()->columnCount(); }
-    Error noSuchRow(int row) const
-    {
-        return refused(QStringLiteral("has %1 rows, not %2").arg(widget()->rowCount()).arg(row));
-    }
 };
 
 } // namespace

@@ -2,10 +2,10 @@
 
 #include "modal_dialog.h"
 #include "notice_sign.h"
+#include "texts.h"
 
 #include <QAccessible>
 #include <QAccessibleEvent>
-#include <QCoreApplication>
 #include <QDialog>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -206,8 +206,7 @@ QPixmap noticeSign(NoticeLevel level, int side, double ratio)
 void CFUserNotificationDisplayNotice(NoticeLevel level, const QString &header,
                                      const QString &message, const QString &button, QWidget *parent)
 {
-    const QString text =
-        button.isEmpty() ? QCoreApplication::translate("kelvo::Notice", "OK") : button;
+    const QString text = button.isEmpty() ? translate("Window", "OK") : button;
     run(level, {header, message, {text}}, 1, parent);
 }
 

@@ -2,6 +2,7 @@
 
 #include "control_support.h"
 #include "qt_controls.h"
+#include "texts.h"
 
 #include <QButtonGroup>
 #include <QChildEvent>
@@ -148,7 +149,13 @@ public:
     {
         if (widget()->choose(value))
             return {};
-        return partNotOffered("button", value, widget()->count());
+        const QString number = QString::number(value);
+        const int count = widget()->count();
+        return refused(
+            value < 1 || value > count
+                ? translate("Controls", "%1 has buttons 1 to %2, not %3")
+                      .arg(name(), QString::number(count), number)
+                : translate("Controls", "%1 offers button %2 only disabled").arg(name(), number));
     }
 };
 

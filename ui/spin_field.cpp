@@ -2,6 +2,7 @@
 
 #include "control_support.h"
 #include "qt_controls.h"
+#include "texts.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -340,7 +341,7 @@ public:
             return outsideRange(value, widget()->minimum(), widget()->maximum());
         if (widget()->choose(value))
             return {};
-        return refused(QStringLiteral("is read-only"));
+        return readOnlyError();
     }
 
     Result<void> type(const QString &text) override
@@ -349,9 +350,10 @@ public:
         if (enter(text) && widget()->willTakeTypedText())
             return {};
         widget()->setValue(widget()->value());
-        return notTyped(QStringLiteral("does not take what was typed"),
-                        QStringLiteral("numbers from %1 to %2")
-                            .arg(inWords(widget()->minimum()), inWords(widget()->maximum())));
+        return refused(
+            joined({translate("Controls", "%1 does not take what was typed").arg(name()),
+                    translate("Controls", "it takes numbers from %1 to %2")
+                        .arg(inWords(widget()->minimum()), inWords(widget()->maximum()))}));
     }
 
     bool enter(const QString &text) override { return widget()->typeText(text); }

@@ -2,6 +2,7 @@
 
 #include "control_interface.h"
 #include "control_support.h"
+#include "texts.h"
 
 #include <QEvent>
 #include <QPointer>
@@ -96,7 +97,12 @@ public:
         const int count = widget()->count();
         if (widget()->choose(value))
             return {};
-        return partNotOffered("tab", value, count);
+        const QString number = QString::number(value);
+        return refused(
+            value < 1 || value > count
+                ? translate("Controls", "%1 has tabs 1 to %2, not %3")
+                      .arg(name(), QString::number(count), number)
+                : translate("Controls", "%1 offers tab %2 only disabled").arg(name(), number));
     }
 
     void localize(const Localizer &localized) override

@@ -58,7 +58,7 @@ public:
     {
         if (widget()->choose(time))
             return {};
-        return refused(QStringLiteral("is read-only"));
+        return readOnlyError();
     }
 };
 

@@ -6,6 +6,7 @@
 #include "event.h"
 #include "input_limits.h"
 #include "secrets.h"
+#include "texts.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -73,7 +74,7 @@ public:
         if (widget)
             m_created.append(widget);
         else
-            m_problems.append(QStringLiteral("\"%1\" is of the class \"%2\"; use one of %3")
+            m_problems.append(translate("Window", "\"%1\" is of the class \"%2\"; use one of %3")
                                   .arg(name, className, knownClasses().join(QStringLiteral(", "))));
         return widget;
     }
@@ -111,12 +112,14 @@ void giveControlIDs(const QWidgetList &widgets, QStringList &problems)
         const QString text = property.toString();
         const std::optional<ControlID> id = controlIDFromText(text);
         if (!id) {
-            problems.append(QStringLiteral("\"%1\" has the control ID \"%2\"; write four "
-                                           "characters, a blank and a number, such as \"KPDE 102\"")
+            problems.append(translate("Window",
+                                      "\"%1\" has the control ID \"%2\"; write four "
+                                      "characters, a blank and a number, such as \"KPDE 102\"")
                                 .arg(widget->objectName(), text));
         } else if (nameOf.contains(text)) {
-            problems.append(QStringLiteral("\"%1\" and \"%2\" both have the control ID \"%3\"; "
-                                           "give one of them another")
+            problems.append(translate("Window",
+                                      "\"%1\" and \"%2\" both have the control ID \"%3\"; "
+                                      "give one of them another")
                                 .arg(nameOf.value(text), widget->objectName(), text));
         } else {
             nameOf.insert(text, widget->objectName());
@@ -130,8 +133,9 @@ void checkCommands(const QWidgetList &widgets, QStringList &problems)
     for (const QWidget *widget : widgets) {
         const QVariant property = widget->property("command");
         if (property.isValid() && !commandOf(widget))
-            problems.append(QStringLiteral("\"%1\" has the command \"%2\"; write four characters, "
-                                           "such as \"ok  \"")
+            problems.append(translate("Window",
+                                      "\"%1\" has the command \"%2\"; write four characters, "
+                                      "such as \"ok  \"")
                                 .arg(widget->objectName(), property.toString()));
     }
 }
@@ -152,13 +156,13 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
 {
     if (!bundle)
         return Error{Error::Code::NotFound, description + u'/' + window,
-                     QStringLiteral("there is no bundle to load the window from")};
+                     translate("Window", "there is no bundle to load the window from")};
     const QString path =
         QStringLiteral("%1/dialogs/%2/%3.ui").arg(bundle->resourcesPath(), description, window);
     QFile file(path);
     if (!file.exists())
         return Error{Error::Code::NotFound, path,
-                     QStringLiteral("the bundle has no such window description")};
+                     translate("Window", "the bundle has no such window description")};
     if (!file.open(QIODevice::ReadOnly))
         return Error{Error::Code::NotReadable, path, file.errorString()};
 
@@ -176,7 +180,7 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
     giveControlIDs(loader.created(), loader.problems());
     checkCommands(loader.created(), loader.problems());
     if (!loader.problems().isEmpty())
-        return Error{Error::Code::Damaged, path, loader.problems().join(QStringLiteral("; "))};
+        return Error{Error::Code::Damaged, path, joined(loader.problems())};
 
     const auto localized = [bundle](const QString &key) {
         return key.isEmpty() ? key

@@ -68,18 +68,10 @@ public:
         return TextLayout(text, style).inkBounds();
     }
 
-    Result<std::unique_ptr<Page>> beginPage(const QSizeF &size) const override
+private:
+    std::unique_ptr<Page> makePage(const QSizeF &size) const override
     {
-        for (const double side : {size.width(), size.height()}) {
-            if (!(side > 0 && side <= longestSide)) {
-                return Error{Error::Code::OutOfRange, QStringLiteral("page"),
-                             QStringLiteral("a side of %1 points; draw one of more than 0 and at "
-                                            "most %2")
-                                 .arg(side)
-                                 .arg(longestSide)};
-            }
-        }
-        return std::unique_ptr<Page>(std::make_unique<PdfPage>(size));
+        return std::make_unique<PdfPage>(size);
     }
 };
 

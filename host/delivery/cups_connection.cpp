@@ -74,8 +74,9 @@ Result<Connection> connectToServer(Patience &patience)
             ? translate("Delivery", "nothing takes connections there")
             : QString::fromUtf8(cupsLastErrorString()).simplified();
         return Error{Code::Unreachable, serverName(),
-                     translate("Delivery", "no print server can be reached at %1: %2; %3")
-                         .arg(serverName(), reason, howToFindTheServer())};
+                     joined({translate("Delivery", "no print server can be reached at %1: %2")
+                                 .arg(serverName(), reason),
+                             howToFindTheServer()})};
     }
     httpSetTimeout(http.get(), wakeUp, goOn, &patience);
     patience.progress();
@@ -107,10 +108,9 @@ Error noThread(const QString &where)
 Error timedOut(const Patience &patience, const QString &where)
 {
     return {Code::TimedOut, where,
-            translate("Delivery", "the print server at %1 did not answer for %2 s; %3")
-                .arg(serverName())
-                .arg(patience.timeoutMs() / 1000.0)
-                .arg(howToFindTheServer())};
+            joined({translate("Delivery", "the print server at %1 did not answer for %2 s")
+                        .arg(serverName(), QString::number(patience.timeoutMs() / 1000.0)),
+                    howToFindTheServer()})};
 }
 
 Error serverError(const Patience &patience, const QString &where)
@@ -130,8 +130,9 @@ Error serverError(const Patience &patience, const QString &where)
     case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
     case IPP_STATUS_ERROR_INTERNAL:
         return {Code::Unreachable, where,
-                translate("Delivery", "the print server at %1 does not answer (%2); %3")
-                    .arg(serverName(), reason, howToFindTheServer())};
+                joined({translate("Delivery", "the print server at %1 does not answer (%2)")
+                            .arg(serverName(), reason),
+                        howToFindTheServer()})};
     case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
     case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
         return {Code::Refused, where,

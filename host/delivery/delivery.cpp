@@ -49,7 +49,7 @@ Error notRead(const PreparedJob &job, const QString &where)
 Result<Document> pagesToPrint(const Document &document, const QString &pageRanges)
 {
     if (document.isNull())
-        return Error{Code::NotFound, QStringLiteral("document"),
+        return Error{Code::NotFound, translate("Delivery", "document"),
                      translate("Delivery", "there is nothing to print")};
     if (pageRanges.trimmed().isEmpty())
         return document;
@@ -123,8 +123,9 @@ Result<void> provideFolder(const QString &folder)
                                "one")
                          .arg(parent)};
     return Error{Code::NotWritable, folder,
-                 translate("Delivery", "the folder cannot be made (%1); %2")
-                     .arg(QString::fromUtf8(std::strerror(reason)), writingAdvice(reason))};
+                 joined({translate("Delivery", "the folder cannot be made (%1)")
+                             .arg(QString::fromUtf8(std::strerror(reason))),
+                         writingAdvice(reason)})};
 }
 
 // Every file before the first one is replaced: a job is never half a new one.
@@ -147,8 +148,7 @@ Result<void> checkReplaceable(const QStringList &paths)
 Error notWritten(Error error)
 {
     if (error.code == Code::NotWritable && error.number != 0)
-        error.detail = translate("Delivery", "%1; %2", "a problem and advice")
-                           .arg(error.detail, writingAdvice(error.number));
+        error.detail = joined({error.detail, writingAdvice(error.number)});
     return error;
 }
 
@@ -217,16 +217,6 @@ QString jobName(const Sending &sending)
     return QStringLiteral("%1-%2").arg(sending.queue).arg(sending.jobId.load());
 }
 
-// What must be said where the whole document went and no answer came.
-Error perhapsAccepted(const Sending &sending, Code code, const QString &reason)
-{
-    return {code, sending.queue,
-            translate("Delivery",
-                      "the whole document was sent as %1, but %2. The job may have been "
-                      "accepted: look with \"lpstat -W all -o %3\" before you print it again")
-                .arg(jobName(sending), reason, sending.queue)};
-}
-
 QString nothingPrinted(const QString &problem)
 {
     return translate("Delivery", "%1; nothing was printed").arg(problem);
@@ -234,11 +224,15 @@ QString nothingPrinted(const QString &problem)
 
 Error noAnswer(const Sending &sending)
 {
-    const QString reason = translate("Delivery", "the print server at %1 did not answer for %2 s")
-                               .arg(serverName())
-                               .arg(sending.patience.timeoutMs() / 1000.0);
+    // The whole document may have arrived.
     if (sending.phase == Sending::Phase::Complete)
-        return perhapsAccepted(sending, Code::TimedOut, reason);
+        return {Code::TimedOut, sending.queue,
+                translate("Delivery",
+                          "the whole document was sent as %1, but the print server at %2 did not "
+                          "answer for %3 s. The job may have been accepted: look with \"lpstat -W "
+                          "all -o %4\" before you print it again")
+                    .arg(jobName(sending), serverName(),
+                         QString::number(sending.patience.timeoutMs() / 1000.0), sending.queue)};
     Error error = timedOut(sending.patience, sending.queue);
     error.detail = nothingPrinted(error.detail);
     return error;
@@ -381,10 +375,12 @@ Result<void> sendDocument(Sending &sending, http_t *http)
     }
     if (sending.patience.isTimedOut())
         return noAnswer(sending);
-    return perhapsAccepted(
-        sending, Code::Unreachable,
-        translate("Delivery", "the print server at %1 broke off before it answered")
-            .arg(serverName()));
+    return Error{Code::Unreachable, sending.queue,
+                 translate("Delivery",
+                           "the whole document was sent as %1, but the print server at %2 broke "
+                           "off before it answered. The job may have been accepted: look with "
+                           "\"lpstat -W all -o %3\" before you print it again")
+                     .arg(jobName(sending), serverName(), sending.queue)};
 }
 
 // Takes a half-sent job off the server. The words are `problem` and what is left to do.

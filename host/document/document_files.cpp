@@ -105,10 +105,10 @@ Result<DocumentKind> copySource(const OpenSource &source, const QString &target,
         return Error{Error::Code::Damaged, where, translate("Document", "the file is empty")};
     if (kind == DocumentKind::Unsupported) {
         return Error{Error::Code::Unsupported, where,
-                     translate("Document",
-                               "this is %1; PDF, PostScript, pictures and plain text can be "
-                               "printed")
-                         .arg(unsupportedKindText(head))};
+                     joined({unsupportedKindText(head),
+                             translate("Document",
+                                       "PDF, PostScript, pictures and plain text can be "
+                                       "printed")})};
     }
 
     const qint64 most = sizeLimit(kind);

@@ -2,6 +2,7 @@
 
 #include "child_process.h"
 #include "helper_messages.h"
+#include "texts.h"
 
 #include <QByteArray>
 #include <QDataStream>
@@ -50,7 +51,7 @@ Result<Value> ask(Task task, const HelperJob &job, const Arguments &...arguments
 {
     QByteArray request;
     QDataStream out(&request, QIODevice::WriteOnly);
-    out << task;
+    out << textSource().folder << textSource().languages << task;
     (out << ... << arguments);
     const Result<QByteArray> answer = askHelper(task, request, job);
     if (!answer)

@@ -53,16 +53,17 @@ struct Stranger
 
 // Files that people do try to print. The first row that fits names it.
 constexpr Stranger strangers[] = {
-    {"PK\x03\x04", QT_TRANSLATE_NOOP("Document", "a ZIP archive or an office document")},
-    {"\xd0\xcf\x11\xe0", QT_TRANSLATE_NOOP("Document", "an office document of an old kind")},
-    {"\x1f\x8b", QT_TRANSLATE_NOOP("Document", "a gzip-compressed file")},
+    {"PK\x03\x04", QT_TRANSLATE_NOOP("Document", "this is a ZIP archive or an office document")},
+    {"\xd0\xcf\x11\xe0",
+     QT_TRANSLATE_NOOP("Document", "this is an office document of an old kind")},
+    {"\x1f\x8b", QT_TRANSLATE_NOOP("Document", "this is a gzip-compressed file")},
     {"\x7f"
      "ELF",
-     QT_TRANSLATE_NOOP("Document", "a program")},
-    {"\x1b%-12345X", QT_TRANSLATE_NOOP("Document", "ready-made printer data")},
+     QT_TRANSLATE_NOOP("Document", "this is a program")},
+    {"\x1b%-12345X", QT_TRANSLATE_NOOP("Document", "this is ready-made printer data")},
     {"\x1b"
      "E",
-     QT_TRANSLATE_NOOP("Document", "ready-made printer data (PCL)")},
+     QT_TRANSLATE_NOOP("Document", "this is ready-made printer data (PCL)")},
 };
 
 constexpr QByteArrayView universalExit = "\x1b%-12345X";
@@ -186,7 +187,7 @@ QString unsupportedKindText(QByteArrayView head)
     const auto row = std::ranges::find_if(
         strangers, [head](const Stranger &stranger) { return head.startsWith(stranger.bytes); });
     return row == std::end(strangers)
-        ? translate("Document", "a file of a kind that is not known here")
+        ? translate("Document", "this is a file of a kind that is not known here")
         : translate("Document", row->text);
 }
 

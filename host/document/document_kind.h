@@ -33,8 +33,8 @@ DocumentKind documentKind(QByteArrayView head);
 // others.
 QLatin1String pictureFormat(DocumentKind kind);
 
-// A few words on bytes that are Unsupported, for a message: "a ZIP archive or
-// an office document". Never empty.
+// A clause on bytes that are Unsupported, for a message: "this is a ZIP archive or an office
+// document". Never empty.
 QString unsupportedKindText(QByteArrayView head);
 
 // Whether `bytes` hold only what a text file holds: no control characters but

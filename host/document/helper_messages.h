@@ -15,14 +15,15 @@
 // (see document_helper.h), so the format is nobody else's business.
 namespace kelvo {
 
-// The first value of a request; then come the arguments of the function.
+// A request begins with the tables that the program speaks by (textSource()) and the task;
+// then come the arguments of the function.
 enum class Task : quint8 {
     TidyPdf,             // source, target → PdfPages, whether `source` is good as it is
     SelectPdfPages,      // source, runs, target
     ReplaceEmbeddedFile, // source, name, type, bytes, target
     CheckEmbeddedFile,   // pdf, name, bytes
     ConvertText,         // files, paper
-    ConvertPicture,      // files → what was left out
+    ConvertPicture,      // files → how many other files were left out
 };
 
 inline QDataStream &operator<<(QDataStream &stream, const PageRun &run)

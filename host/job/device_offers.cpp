@@ -2,7 +2,6 @@
 
 #include "job_settings.h"
 #include "ppd_words.h"
-#include "texts.h"
 
 namespace kelvo {
 
@@ -24,12 +23,6 @@ bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice)
         return false;
     const bool asksForNothing = choice == QLatin1String("None") || choice == QLatin1String("False");
     return !asksForNothing || (ppd && ppd->findOption(keyword));
-}
-
-QString whyNotSent(const PpdFile *ppd)
-{
-    return ppd ? translate("Job", "this printer does not have it")
-               : translate("Job", "the print server has no description of this printer");
 }
 
 } // namespace kelvo

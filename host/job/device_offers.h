@@ -16,8 +16,4 @@ bool offers(const PpdFile &ppd, const QString &keyword, const QString &choice);
 // told the paper, and no other choice.
 bool lacks(const PpdFile *ppd, const QString &keyword, const QString &choice);
 
-// Why a choice of the ticket is not sent: what this device lacks, or all of it where the
-// queue has no PPD.
-QString whyNotSent(const PpdFile *ppd);
-
 } // namespace kelvo

@@ -320,9 +320,8 @@ Result<TicketPlaces> applyMedia(const Request &request)
             const QString missing = translate("Job", "this printer has no paper %1").arg(part);
             const QString problem = customSizeProblem(part, *request.ppd);
             return request.error(Code::NotFound,
-                                 problem.isEmpty()
-                                     ? nearestOrAll(missing, part, known)
-                                     : translate("Job", "%1; %2").arg(missing, problem));
+                                 problem.isEmpty() ? nearestOrAll(missing, part, known)
+                                                   : joined({missing, problem}));
         }
     }
     TicketPlaces places;

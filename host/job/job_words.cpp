@@ -253,7 +253,11 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
     if (ppd)
         addOtherOptions(choices, *ppd, spoken, words);
     for (const QString &setting : missing)
-        words.notSent << translate("Job", "%1 – %2").arg(setting, whyNotSent(ppd));
+        words.notSent << (ppd ? translate("Job", "%1 – this printer does not have it")
+                              : translate("Job",
+                                          "%1 – the print server has no description of this "
+                                          "printer"))
+                             .arg(setting);
     QStringList unread = isRead ? QStringList() : entriesInWords(description);
     // That there are others is said, too: only the ticket says what.
     if (const int count = wordlessEntries(ticket.printSettings, spoken); count > 0)

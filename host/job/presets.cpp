@@ -116,6 +116,20 @@ Error notFound(const std::vector<Preset> &presets, const QString &name)
             nearestOrAll(translate("Job", "there is no preset of this name"), name, names)};
 }
 
+// The ticket in the preset file at `path`, without what makes it a preset.
+Result<TicketFile> readPreset(const QString &path)
+{
+    auto ticket = readTicketFile(path);
+    if (ticket) {
+        ticket.value().unknown.remove(nameKey);
+        return ticket;
+    }
+    Error error = ticket.error();
+    if (error.code == Code::OtherKind)
+        error.detail = translate("Job", "%1: this is not a ticket file").arg(error.detail);
+    return error;
+}
+
 // The preset `name` where it is the user's own.
 Result<Preset> findOwn(const std::vector<Preset> &presets, const QString &name)
 {
@@ -209,12 +223,7 @@ Result<TicketFile> PresetStore::read(const QString &name) const
 {
     const auto all = presets();
     const auto preset = findPreset(all, name);
-    if (!preset)
-        return notFound(all, name);
-    auto ticket = readTicketFile(preset->path);
-    if (ticket)
-        ticket.value().unknown.remove(nameKey);
-    return ticket;
+    return preset ? readPreset(preset->path) : notFound(all, name);
 }
 
 Result<void> PresetStore::save(const QString &name, const TicketFile &ticket,
@@ -250,7 +259,7 @@ Result<void> PresetStore::rename(const QString &from, const QString &to)
         return {};
     if (findPreset(all, renamed))
         return Error{Code::Refused, renamed, translate("Job", "there is such a preset already")};
-    auto ticket = readTicketFile(preset.value().path);
+    auto ticket = readPreset(preset.value().path);
     if (!ticket)
         return ticket.error();
     const auto path = newPath(renamed);
@@ -268,14 +277,13 @@ std::optional<TicketFile> PresetStore::siteDefaults() const
     const auto preset = findPreset(sitePresets(), QStringLiteral("default"));
     if (!preset)
         return std::nullopt;
-    auto ticket = readTicketFile(preset->path);
+    auto ticket = readPreset(preset->path);
     if (!ticket) {
         printLine(
             stderr,
             translate("Job", "%1; the site's defaults are not used").arg(ticket.error().text()));
         return std::nullopt;
     }
-    ticket.value().unknown.remove(nameKey);
     return std::move(ticket).value();
 }
 

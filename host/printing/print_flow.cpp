@@ -228,7 +228,10 @@ void PrintFlow::sayWhatWasNotSent()
     for (const QString &setting : job.missing())
         printLine(stderr,
                   QStringLiteral("kelvo-print: ")
-                      + tr("%1: not sent, %2").arg(setting, whyNotSent(job.ppd())));
+                      + (job.ppd() ? tr("%1: not sent, this printer does not have it")
+                                   : tr("%1: not sent, the print server has no description of "
+                                        "this printer"))
+                            .arg(setting));
     for (const QString &setting : job.untold())
         printLine(stderr,
                   QStringLiteral("kelvo-print: ")

@@ -449,7 +449,7 @@ Result<QByteArray> readStandardInput()
     for (;;) {
         const ssize_t count = ::read(STDIN_FILENO, block, sizeof block);
         if (count < 0 && errno == EINTR)
-            return Error{Error::Code::Cancelled, name, QStringLiteral("interrupted")};
+            return Error{Error::Code::Cancelled, name, translate("Script", "interrupted")};
         if (count < 0)
             return Error{Error::Code::NotReadable, name,
                          QString::fromLocal8Bit(std::strerror(errno)), errno};

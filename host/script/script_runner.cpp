@@ -441,19 +441,17 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     QWidget *window = front();
     const inspector::Found found = inspector::find(window, *line.control);
     if (!found.control) {
-        const QString where = window == target.window()
-            ? translate("Script", "the window")
-            : translate("Script", "the dialog \"%1\"").arg(window->windowTitle());
+        const QString name = line.control->text();
+        const QString problem = window == target.window()
+            ? translate("Script", "%1 is not in the window").arg(name)
+            : translate("Script", "%1 is not in the dialog \"%2\"")
+                  .arg(name, window->windowTitle());
         if (const QString place = target.placeOfUnshown(*line.control); !place.isEmpty())
-            return LineProblem{ExitStatus::NotOffered,
-                               translate("Script", "%1 is not in %2; it is in %3")
-                                   .arg(line.control->text(), where, place)};
+            return LineProblem{ExitStatus::NotOffered, joined({problem, place})};
         const QString nearest = inspector::nearestControl(window, *line.control);
         return wrong(nearest.isEmpty()
-                         ? translate("Script", "%1 is not in %2; \"controls\" lists what is")
-                               .arg(line.control->text(), where)
-                         : translate("Script", "%1 is not in %2, did you mean %3?")
-                               .arg(line.control->text(), where, nearest));
+                         ? translate("Script", "%1; \"controls\" lists what is").arg(problem)
+                         : didYouMean(problem, name, {nearest}));
     }
     QWidget *control = found.control;
     const auto word = [&line](std::size_t at) { return line.arguments[at].text; };
@@ -473,12 +471,9 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
     }
 
     if (!found.shown) {
-        const QString place = target.placeOf(control);
         return LineProblem{ExitStatus::NotOffered,
-                           place.isEmpty()
-                               ? translate("Script", "%1 is not shown").arg(line.control->text())
-                               : translate("Script", "%1 is not shown; it is in %2")
-                                     .arg(line.control->text(), place)};
+                           joined({translate("Script", "%1 is not shown").arg(line.control->text()),
+                                   target.placeOf(control)})};
     }
     switch (line.command) {
     case ScriptCommand::Choose:
@@ -617,10 +612,10 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
         isMade ? replaceFile(file, png) : Error{Error::Code::NotWritable, file, {}};
     if (written)
         return {};
-    return LineProblem{
-        ExitStatus::Failed,
-        translate("Script", "the picture \"%1\" cannot be written (%2); %3")
-            .arg(file, written.error().detail, writingAdvice(written.error().number))};
+    return LineProblem{ExitStatus::Failed,
+                       joined({translate("Script", "the picture \"%1\" cannot be written (%2)")
+                                   .arg(file, written.error().detail),
+                               writingAdvice(written.error().number)})};
 }
 
 } // namespace kelvo

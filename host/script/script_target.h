@@ -34,7 +34,7 @@ public:
     // "PDEShell") or one of the shell's tabs ("Advanced").
     virtual Result<void> showPanel(const QString &name) = 0;
     virtual Result<void> showTab(int tab) = 0; // of the shell, from 1
-    // Which panel holds the control, in words ("tab 4, Advanced"), for errors about
+    // Which panel holds the control, as a clause ("it is in tab 4, Advanced"), for errors about
     // a control that is not in the visible panel; empty when unknown.
     virtual QString placeOf(const QWidget *control) const = 0;
     // Likewise for a control that is not in the front window: a panel or a dialog that has not

@@ -116,10 +116,10 @@ QString PanelPlaces::placeOf(const QWidget *control, const Extension &panels)
              widget = widget->parentWidget()) {
             const auto id = controlIDOf(widget);
             if (id && id->signature == kUserPaneSignature)
-                return translate("Window", "tab %1, %2")
+                return translate("Window", "it is in tab %1, %2")
                     .arg(QString::number(id->number), widget->objectName());
         }
-        return translate("Window", "panel %1").arg(panel.name);
+        return translate("Window", "it is in panel %1").arg(panel.name);
     }
     return {};
 }
@@ -130,8 +130,8 @@ QString PanelPlaces::placeOf(const inspector::ControlName &control, const Extens
     if (!window)
         return {};
     return namesOf(panels).contains(window->name)
-        ? translate("Window", "panel %1").arg(window->name)
-        : translate("Window", "the dialog \"%1\"")
+        ? translate("Window", "it is in panel %1").arg(window->name)
+        : translate("Window", "it is in the dialog \"%1\"")
               .arg(window->title.isEmpty() ? window->name : window->title);
 }
 

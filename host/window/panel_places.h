@@ -24,10 +24,10 @@ public:
     // Errors name what there is.
     Result<void> showPanel(Extension &panels, const QString &name); // or one of the shell's tabs
     Result<void> showTab(int number);
-    // "tab 4, Advanced"; empty for a control of no panel.
+    // "it is in tab 4, Advanced"; empty for a control of no panel.
     static QString placeOf(const QWidget *control, const Extension &panels);
-    // The same of a control that is not built yet, as the bundle describes it: "panel
-    // SpecialPages", "the dialog "Covers"". Empty: there is none.
+    // The same of a control that is not built yet, as the bundle describes it: "it is in panel
+    // SpecialPages", "it is in the dialog "Covers"". Empty: there is none.
     static QString placeOf(const inspector::ControlName &control, const Extension &panels);
 
     // The switch has a place for each; null: none, and it is not seen.

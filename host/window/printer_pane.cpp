@@ -4,6 +4,7 @@
 #include "popup_button.h"
 #include "preset_menu.h"
 #include "spin_field.h"
+#include "texts.h"
 #include "ticket_layers.h"
 #include "ticket_places.h"
 #include "tool_tip.h"
@@ -138,7 +139,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_orientation->setObjectName(QStringLiteral("orientation"));
     Menu orientations;
     for (const OrientationRow &row : orientationRows)
-        orientations.items.push_back({.text = tr(row.text),
+        orientations.items.push_back({.text = translate("kelvo::PrinterPane", row.text),
                                       .key = QString::fromLatin1(row.key),
                                       .reference = static_cast<std::int32_t>(row.value)});
     m_orientation->setMenu(orientations);

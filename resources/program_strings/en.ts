@@ -57,6 +57,34 @@
     </message>
 </context>
 <context>
+    <name>Document</name>
+    <message numerus="yes">
+        <source>The drawing shows or uses %n other file(s), which are left out: only what a drawing holds itself is printed. Embed them in it.</source>
+        <translation>
+            <numerusform>The drawing shows or uses another file, which is left out: only what a drawing holds itself is printed. Embed that file in it.</numerusform>
+            <numerusform>The drawing shows or uses %n other files, which are left out: only what a drawing holds itself is printed. Embed them in it.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Controls</name>
+    <message numerus="yes">
+        <source>At most %n characters fit here.</source>
+        <translation>
+            <numerusform>At most %n characters fit here.</numerusform>
+            <numerusform>At most %n characters fit here.</numerusform>
+        </translation>
+    </message>
+    <!-- %1 is the name of a control, %2 the row that was asked for -->
+    <message numerus="yes">
+        <source>%1 has %n row(s), not %2</source>
+        <translation>
+            <numerusform>%1 has %n rows, not %2</numerusform>
+            <numerusform>%1 has %n rows, not %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Preview</name>
     <!-- %1 is "Insert" -->
     <message numerus="yes">

@@ -10,6 +10,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <poppler-qt6.h>
@@ -587,6 +588,10 @@ void TestStories::keepsWhatTheUserNamed_data()
         "into the folder shut (Permission denied); change the rights there");
     row({"--ticket-in", "no.plist", "keep.txt"}, 6,
         "kelvo-print: --ticket-in: there is no file no.plist; check its name");
+    row({"--ticket-in", "keep.txt", "keep.txt"}, 6,
+        "kelvo-print: keep.txt is not a ticket file (line 1: syntax error)");
+    row({"--ticket-in", "other.plist", "keep.txt"}, 6,
+        "kelvo-print: other.plist is not a ticket file (FormatVersion: missing)");
     row({"--script", "no.kps", "keep.txt"}, 2,
         "kelvo-print: --script: there is no file no.kps; check its name");
     row({"--secret", "A=no.txt", "keep.txt"}, 2,
@@ -605,6 +610,7 @@ void TestStories::keepsWhatTheUserNamed()
     QVERIFY(QFile::link(desk.path("document.pdf"), desk.path("link.pdf")));
     putFile(desk.path("keep.txt"), "years of work\n");
     putFile(desk.path("run.kps"), "print\n");
+    putFile(desk.path("other.plist"), "<plist><dict/></plist>");
     QVERIFY(QDir().mkpath(desk.path("busy/options")));
     putFile(desk.path("busy/ticket.plist"), "an older one\n");
     QVERIFY(QDir().mkpath(desk.path("shut")));

@@ -7,10 +7,12 @@
 #include "menu_button.h"
 #include "picture_view.h"
 #include "popup_button.h"
+#include "property_list.h"
 #include "radio_group.h"
 #include "spin_field.h"
 #include "summary_view.h"
 #include "tab_control.h"
+#include "texts.h"
 #include "time_field.h"
 
 #include <QCheckBox>
@@ -19,6 +21,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QSlider>
 #include <QTest>
 #include <QTextEdit>
@@ -93,6 +96,7 @@ class TestControlInterface : public QObject
 private slots:
     void everyClassAnswersForItself_data();
     void everyClassAnswersForItself();
+    void refusesInAnotherLanguage();
 
 private:
     template <typename Widget>
@@ -293,6 +297,23 @@ void TestControlInterface::everyClassAnswersForItself()
     }
     control->setEnabled(false);
     QCOMPARE(inspector::set(control.get(), 1)->text, "@it is disabled");
+}
+
+void TestControlInterface::refusesInAnotherLanguage()
+{
+    loadTexts(QStringLiteral(TEXTS), {"xx"});
+    const auto backToEnglish = qScopeGuard([] { loadTexts({}, {}); });
+    ListView list;
+    list.setObjectName("it");
+    list.show();
+    list.reload(2);
+    QCOMPARE(inspector::type(&list, "1")->text, "ListView @it nu texto. si select, double-click");
+    QCOMPARE(inspector::select(&list, {7})->text, "@it: 2 rangi, nu 7");
+
+    // What users wrote is no place holder.
+    const auto file =
+        CFPropertyListCreateFromXMLData("<plist><dict>\n<key>%2</key></dict></plist>", "%2.plist");
+    QCOMPARE(file.reason(), "nu %2 («2@%2.plist»)");
 }
 
 QTEST_MAIN(TestControlInterface)

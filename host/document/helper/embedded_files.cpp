@@ -1,5 +1,6 @@
 #include "pdf_file.h"
 #include "tasks.h"
+#include "texts.h"
 
 #include <qpdf/QPDFEFStreamObjectHelper.hh>
 #include <qpdf/QPDFFileSpecObjectHelper.hh>
@@ -339,8 +340,9 @@ bool callsItself(Handle dictionary, const std::string &name)
 Error leftBehind(const QString &path, const QString &name)
 {
     return Error{Code::Refused, path,
-                 QStringLiteral("the document holds an older file %1 that could not be taken out; "
-                                "save it as a new PDF without attached files, and print that")
+                 translate("Document",
+                           "the document holds an older file %1 that could not be taken out; "
+                           "save it as a new PDF without attached files, and print that")
                      .arg(name)};
 }
 

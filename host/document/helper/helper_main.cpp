@@ -1,6 +1,6 @@
 #include "helper_main.h"
 
-#include <QFile>
+#include <QByteArrayView>
 
 #include <cstdlib>
 #include <cstring>
@@ -24,27 +24,6 @@ bool isOwnCaller(int argc, char **argv)
 void endWithoutMemory()
 {
     std::set_new_handler([] { ::_exit(kOutOfMemoryStatus); });
-}
-
-void answerRequest(void (*answer)(Task task, QDataStream &in, QDataStream &out))
-{
-    QFile input;
-    QByteArray request;
-    if (input.open(STDIN_FILENO, QIODevice::ReadOnly))
-        request = input.readAll();
-
-    const int answers = ::dup(STDOUT_FILENO);
-    ::dup2(STDERR_FILENO, STDOUT_FILENO);
-    QDataStream in(request);
-    QByteArray written;
-    QDataStream out(&written, QIODevice::WriteOnly);
-    const Task task = take<Task>(in);
-    answer(task, in, out);
-    QFile output;
-    if (output.open(answers, QIODevice::WriteOnly, QFile::AutoCloseHandle))
-        output.write(written);
-    output.close();
-    std::_Exit(0); // nothing is left to be torn down
 }
 
 } // namespace kelvo::documents

@@ -12,9 +12,9 @@ bool isOwnCaller(int argc, char **argv);
 // From now on a process that is out of memory ends with kOutOfMemoryStatus.
 void endWithoutMemory();
 
-// Answers the one request on standard input and ends the process; `answer` reads the
-// arguments of the task and writes the result. What libraries print goes to standard
-// error.
+// Answers the one request on standard input, in the language of whoever asks, and ends the
+// process; `answer` reads the arguments of the task and writes the result. What libraries
+// print goes to standard error.
 [[noreturn]] void answerRequest(void (*answer)(Task task, QDataStream &in, QDataStream &out));
 
 // The next argument of a request.

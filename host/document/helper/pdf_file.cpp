@@ -1,6 +1,7 @@
 #include "pdf_file.h"
 
 #include "confinement.h"
+#include "texts.h"
 
 #include <qpdf/QPDFWriter.hh>
 
@@ -15,18 +16,20 @@ Error damaged(const QString &path, const QPDFExc &problem)
 {
     if (problem.getErrorCode() == qpdf_e_password) {
         return Error{Error::Code::Refused, path,
-                     QStringLiteral("the document is locked with a password; save a copy without "
-                                    "one and print that")};
+                     translate("Document",
+                               "the document is locked with a password; save a copy without "
+                               "one and print that")};
     }
     return Error{Error::Code::Damaged, path,
-                 QStringLiteral("the PDF is damaged and cannot be repaired: ")
-                     + QString::fromStdString(problem.getMessageDetail())};
+                 translate("Document", "the PDF is damaged and cannot be repaired: %1")
+                     .arg(QString::fromStdString(problem.getMessageDetail()))};
 }
 
 Error damaged(const QString &path, const std::exception &problem)
 {
-    return Error{Error::Code::Damaged, path,
-                 QStringLiteral("the PDF cannot be read: ") + QString::fromUtf8(problem.what())};
+    return Error{
+        Error::Code::Damaged, path,
+        translate("Document", "the PDF cannot be read: %1").arg(QString::fromUtf8(problem.what()))};
 }
 
 Result<PdfFiles> openPdfFiles(const QString &source, const QString &target)

@@ -1,5 +1,6 @@
 #include "pdf_file.h"
 #include "tasks.h"
+#include "texts.h"
 
 #include <QRectF>
 
@@ -67,15 +68,17 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target)
         QPDF pdf;
         load(pdf, files.value().source);
         if (!pdf.allowPrintLowRes() && !pdf.allowPrintHighRes()) {
-            return Error{Error::Code::Refused, source,
-                         QStringLiteral("the author of the document does not allow printing it")};
+            return Error{
+                Error::Code::Refused, source,
+                translate("Document", "the author of the document does not allow printing it")};
         }
 
         PdfPages pages;
         for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(pdf).getAllPages())
             pages.sizes.push_back(shownSize(page));
         if (pages.sizes.empty())
-            return Error{Error::Code::Damaged, source, QStringLiteral("the document has no pages")};
+            return Error{Error::Code::Damaged, source,
+                         translate("Document", "the document has no pages")};
 
         pages.isRepaired = pdf.anyWarnings();
         pages.isSound = !pages.isRepaired && !pdf.isEncrypted() && hasHeader;

@@ -4,6 +4,7 @@
 #include "size_limits.h"
 #include "svg_references.h"
 #include "tasks.h"
+#include "texts.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -120,8 +121,9 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfOutput &ou
         const QSize size = reader.size();
         if (size.isValid() && qint64(size.width()) * size.height() > limits::picturePixels) {
             return pictureError(Error::Code::TooLarge,
-                                QStringLiteral("a picture of %1 by %2 pixels is not printed; the "
-                                               "limit is %3 million")
+                                translate("Document",
+                                          "a picture of %1 by %2 pixels is not printed; the "
+                                          "limit is %3 million")
                                     .arg(size.width())
                                     .arg(size.height())
                                     .arg(limits::picturePixels / 1'000'000));
@@ -130,11 +132,10 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfOutput &ou
         if (image.isNull()) {
             return pictureError(
                 Error::Code::Damaged,
-                pages > 1
-                    ? QStringLiteral("page %1 of the picture cannot be read: %2")
-                          .arg(page)
-                          .arg(reader.errorString())
-                    : QStringLiteral("the picture cannot be read: %1").arg(reader.errorString()));
+                pages > 1 ? translate("Document", "page %1 of the picture cannot be read: %2")
+                                .arg(QString::number(page), reader.errorString())
+                          : translate("Document", "the picture cannot be read: %1")
+                                .arg(reader.errorString()));
         }
         if (!drawPicture(output.canvas(), image, paper, kind == DocumentKind::Jpeg))
             break; // close() tells why
@@ -178,8 +179,9 @@ Result<void> convertPixels(QFile &file, DocumentKind kind, const QString &pdfPat
     const QByteArray format = formatOf(kind);
     if (!loadReader(format)) {
         return pictureError(Error::Code::Unsupported,
-                            QStringLiteral("%1 pictures cannot be read here; install the package "
-                                           "\"qt6-image-formats-plugins\"")
+                            translate("Document",
+                                      "%1 pictures cannot be read here; install the package "
+                                      "\"qt6-image-formats-plugins\"")
                                 .arg(QString::fromLatin1(format).toUpper()));
     }
     const QSizeF paper = localePaper();
@@ -198,8 +200,8 @@ Result<void> convertPixels(QFile &file, DocumentKind kind, const QString &pdfPat
     return drawPictures(reader, kind, output.value(), paper);
 }
 
-// As lines and curves, which stay sharp at any size.
-Result<QString> convertSvg(QFile &source, const ConverterFiles &files)
+// As lines and curves, which stay sharp at any size. The value is as of convertPicture().
+Result<int> convertSvg(QFile &source, const ConverterFiles &files)
 {
     // Texts in drawings need fonts, and those an application; no window is ever shown,
     // so no display is asked for.
@@ -225,7 +227,8 @@ Result<QString> convertSvg(QFile &source, const ConverterFiles &files)
     const bool isLoaded = svg && renderer.load(svg->bytes);
     const QSizeF size = QSizeF(renderer.defaultSize()) * 72 / 96; // CSS pixels
     if (!isLoaded || size.isEmpty())
-        return pictureError(Error::Code::Damaged, QStringLiteral("the drawing cannot be read"));
+        return pictureError(Error::Code::Damaged,
+                            translate("Document", "the drawing cannot be read"));
     const auto [page, placed] = placePicture(size, paper);
 
     QFile file;
@@ -245,17 +248,10 @@ Result<QString> convertSvg(QFile &source, const ConverterFiles &files)
     file.close();
     if (Result<void> closed = output.value().close(); !closed)
         return closed.error();
-    if (svg->leftOut == 0)
-        return QString();
-    const bool isOne = svg->leftOut == 1;
-    return QStringLiteral("The drawing shows or uses %1 left out: only what a drawing holds itself "
-                          "is printed. Embed %2 in it.")
-        .arg(isOne ? QStringLiteral("another file, which is")
-                   : QStringLiteral("%1 other files, which are").arg(svg->leftOut),
-             isOne ? QStringLiteral("that file") : QStringLiteral("them"));
+    return svg->leftOut;
 }
 
-Result<QString> convert(const ConverterFiles &files)
+Result<int> convert(const ConverterFiles &files)
 {
     QFile file(files.source);
     if (!file.open(QIODevice::ReadOnly))
@@ -266,14 +262,14 @@ Result<QString> convert(const ConverterFiles &files)
         return convertSvg(file, files);
     if (Result<void> made = convertPixels(file, kind, files.pdf); !made)
         return made.error();
-    return QString();
+    return 0;
 }
 
 } // namespace
 
-Result<QString> convertPicture(const ConverterFiles &files)
+Result<int> convertPicture(const ConverterFiles &files)
 {
-    Result<QString> made = convert(files);
+    Result<int> made = convert(files);
     if (made || made.error().code == Error::Code::NotWritable)
         return made;
     return Error{made.error().code, files.where, made.error().detail};

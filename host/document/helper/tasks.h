@@ -24,6 +24,7 @@ Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
 Result<void> checkEmbeddedFile(const QString &pdfPath, const QString &name,
                                const QByteArray &bytes);
 Result<void> convertText(const ConverterFiles &files, const QSizeF &paper);
-Result<QString> convertPicture(const ConverterFiles &files);
+// The value is how many files that the picture names were left out of it.
+Result<int> convertPicture(const ConverterFiles &files);
 
 } // namespace kelvo::documents

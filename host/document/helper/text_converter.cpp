@@ -8,6 +8,7 @@
 #include "pdf_output.h"
 #include "size_limits.h"
 #include "tasks.h"
+#include "texts.h"
 
 #include <QFile>
 #include <QStringDecoder>
@@ -148,32 +149,32 @@ struct ScriptFonts
 constexpr const char *mostScripts = "fonts-noto-core";
 constexpr const char *farEast = "fonts-noto-cjk";
 constexpr ScriptFonts scriptFonts[] = {
-    {G_UNICODE_SCRIPT_HAN, "Chinese or Japanese", farEast},
-    {G_UNICODE_SCRIPT_BOPOMOFO, "Chinese", farEast},
-    {G_UNICODE_SCRIPT_HIRAGANA, "Japanese", farEast},
-    {G_UNICODE_SCRIPT_KATAKANA, "Japanese", farEast},
-    {G_UNICODE_SCRIPT_HANGUL, "Korean", farEast},
-    {G_UNICODE_SCRIPT_ARABIC, "Arabic", mostScripts},
-    {G_UNICODE_SCRIPT_ARMENIAN, "Armenian", mostScripts},
-    {G_UNICODE_SCRIPT_BENGALI, "Bengali", mostScripts},
-    {G_UNICODE_SCRIPT_CYRILLIC, "Cyrillic", mostScripts},
-    {G_UNICODE_SCRIPT_DEVANAGARI, "Devanagari", mostScripts},
-    {G_UNICODE_SCRIPT_ETHIOPIC, "Ethiopic", mostScripts},
-    {G_UNICODE_SCRIPT_GEORGIAN, "Georgian", mostScripts},
-    {G_UNICODE_SCRIPT_GREEK, "Greek", mostScripts},
-    {G_UNICODE_SCRIPT_GUJARATI, "Gujarati", mostScripts},
-    {G_UNICODE_SCRIPT_GURMUKHI, "Gurmukhi", mostScripts},
-    {G_UNICODE_SCRIPT_HEBREW, "Hebrew", mostScripts},
-    {G_UNICODE_SCRIPT_KANNADA, "Kannada", mostScripts},
-    {G_UNICODE_SCRIPT_KHMER, "Khmer", mostScripts},
-    {G_UNICODE_SCRIPT_LAO, "Lao", mostScripts},
-    {G_UNICODE_SCRIPT_MALAYALAM, "Malayalam", mostScripts},
-    {G_UNICODE_SCRIPT_MYANMAR, "Burmese", mostScripts},
-    {G_UNICODE_SCRIPT_SINHALA, "Sinhala", mostScripts},
-    {G_UNICODE_SCRIPT_TAMIL, "Tamil", mostScripts},
-    {G_UNICODE_SCRIPT_TELUGU, "Telugu", mostScripts},
-    {G_UNICODE_SCRIPT_THAI, "Thai", mostScripts},
-    {G_UNICODE_SCRIPT_TIBETAN, "Tibetan", mostScripts},
+    {G_UNICODE_SCRIPT_HAN, QT_TRANSLATE_NOOP("Scripts", "Chinese or Japanese"), farEast},
+    {G_UNICODE_SCRIPT_BOPOMOFO, QT_TRANSLATE_NOOP("Scripts", "Chinese"), farEast},
+    {G_UNICODE_SCRIPT_HIRAGANA, QT_TRANSLATE_NOOP("Scripts", "Japanese"), farEast},
+    {G_UNICODE_SCRIPT_KATAKANA, QT_TRANSLATE_NOOP("Scripts", "Japanese"), farEast},
+    {G_UNICODE_SCRIPT_HANGUL, QT_TRANSLATE_NOOP("Scripts", "Korean"), farEast},
+    {G_UNICODE_SCRIPT_ARABIC, QT_TRANSLATE_NOOP("Scripts", "Arabic"), mostScripts},
+    {G_UNICODE_SCRIPT_ARMENIAN, QT_TRANSLATE_NOOP("Scripts", "Armenian"), mostScripts},
+    {G_UNICODE_SCRIPT_BENGALI, QT_TRANSLATE_NOOP("Scripts", "Bengali"), mostScripts},
+    {G_UNICODE_SCRIPT_CYRILLIC, QT_TRANSLATE_NOOP("Scripts", "Cyrillic"), mostScripts},
+    {G_UNICODE_SCRIPT_DEVANAGARI, QT_TRANSLATE_NOOP("Scripts", "Devanagari"), mostScripts},
+    {G_UNICODE_SCRIPT_ETHIOPIC, QT_TRANSLATE_NOOP("Scripts", "Ethiopic"), mostScripts},
+    {G_UNICODE_SCRIPT_GEORGIAN, QT_TRANSLATE_NOOP("Scripts", "Georgian"), mostScripts},
+    {G_UNICODE_SCRIPT_GREEK, QT_TRANSLATE_NOOP("Scripts", "Greek"), mostScripts},
+    {G_UNICODE_SCRIPT_GUJARATI, QT_TRANSLATE_NOOP("Scripts", "Gujarati"), mostScripts},
+    {G_UNICODE_SCRIPT_GURMUKHI, QT_TRANSLATE_NOOP("Scripts", "Gurmukhi"), mostScripts},
+    {G_UNICODE_SCRIPT_HEBREW, QT_TRANSLATE_NOOP("Scripts", "Hebrew"), mostScripts},
+    {G_UNICODE_SCRIPT_KANNADA, QT_TRANSLATE_NOOP("Scripts", "Kannada"), mostScripts},
+    {G_UNICODE_SCRIPT_KHMER, QT_TRANSLATE_NOOP("Scripts", "Khmer"), mostScripts},
+    {G_UNICODE_SCRIPT_LAO, QT_TRANSLATE_NOOP("Scripts", "Lao"), mostScripts},
+    {G_UNICODE_SCRIPT_MALAYALAM, QT_TRANSLATE_NOOP("Scripts", "Malayalam"), mostScripts},
+    {G_UNICODE_SCRIPT_MYANMAR, QT_TRANSLATE_NOOP("Scripts", "Burmese"), mostScripts},
+    {G_UNICODE_SCRIPT_SINHALA, QT_TRANSLATE_NOOP("Scripts", "Sinhala"), mostScripts},
+    {G_UNICODE_SCRIPT_TAMIL, QT_TRANSLATE_NOOP("Scripts", "Tamil"), mostScripts},
+    {G_UNICODE_SCRIPT_TELUGU, QT_TRANSLATE_NOOP("Scripts", "Telugu"), mostScripts},
+    {G_UNICODE_SCRIPT_THAI, QT_TRANSLATE_NOOP("Scripts", "Thai"), mostScripts},
+    {G_UNICODE_SCRIPT_TIBETAN, QT_TRANSLATE_NOOP("Scripts", "Tibetan"), mostScripts},
 };
 
 Error noFont(const QString &where, const MissingCharacter &missing)
@@ -182,25 +183,32 @@ Error noFont(const QString &where, const MissingCharacter &missing)
         QStringLiteral("%1").arg(uint(missing.character), 4, 16, QLatin1Char('0')).toUpper();
     if (!isStandard(missing.character)) {
         return Error{Error::Code::Unsupported, where,
-                     QStringLiteral("no font here has the character U+%1 in line %2, which Unicode "
-                                    "does not define; install the font that the text was written "
-                                    "with, or take the character out")
+                     translate("Document",
+                               "no font here has the character U+%1 in line %2, which Unicode "
+                               "does not define; install the font that the text was written "
+                               "with, or take the character out")
                          .arg(code, QString::number(missing.line))};
     }
     const auto row = std::ranges::find(scriptFonts, g_unichar_get_script(missing.character),
                                        &ScriptFonts::script);
     const bool isKnown = row != std::end(scriptFonts);
     const bool isPictograph = missing.character >= 0x1f000;
-    return Error{
-        Error::Code::Unsupported, where,
-        QStringLiteral("no font here has the %1character \"%2\" (U+%3) in line %4; install "
-                       "one, for example with the package \"%5\"")
-            .arg(isKnown ? QLatin1String(row->name) + QLatin1Char(' ') : QString(),
-                 QString::fromUcs4(reinterpret_cast<const char32_t *>(&missing.character), 1), code,
-                 QString::number(missing.line),
-                 QLatin1String(isKnown            ? row->package
-                                   : isPictograph ? "fonts-noto-color-emoji"
-                                                  : mostScripts))};
+    const QString character =
+        QString::fromUcs4(reinterpret_cast<const char32_t *>(&missing.character), 1);
+    const QString line = QString::number(missing.line);
+    const QString package = QLatin1String(isKnown            ? row->package
+                                              : isPictograph ? "fonts-noto-color-emoji"
+                                                             : mostScripts);
+    return Error{Error::Code::Unsupported, where,
+                 isKnown ? translate("Document",
+                                     "no font here has the %1 character \"%2\" (U+%3) in line %4; "
+                                     "install one, for example with the package \"%5\"",
+                                     "%1: Arabic")
+                               .arg(translate("Scripts", row->name), character, code, line, package)
+                         : translate("Document",
+                                     "no font here has the character \"%1\" (U+%2) in line %3; "
+                                     "install one, for example with the package \"%4\"")
+                               .arg(character, code, line, package)};
 }
 
 // Puts lines on pages, one after the other.
@@ -333,8 +341,9 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
 
     std::optional<QByteArray> text = textFrom(file.readAll());
     if (!text) {
-        return Error{Error::Code::Unsupported, files.where,
-                     QStringLiteral("this begins like a text but holds bytes that no text has")};
+        return Error{
+            Error::Code::Unsupported, files.where,
+            translate("Document", "this begins like a text but holds bytes that no text has")};
     }
 
     text->replace("\xc2\x85", "\n"); // the line end of mainframes, U+0085
@@ -344,7 +353,7 @@ Result<void> convertText(const ConverterFiles &files, const QSizeF &paper)
     while (!rest.isEmpty() && !typesetter.isFailed()) {
         if (typesetter.pages() >= limits::documentPages) {
             return Error{Error::Code::TooLarge, files.where,
-                         QStringLiteral("a text of more than %1 pages is not printed")
+                         translate("Document", "a text of more than %1 pages is not printed")
                              .arg(limits::documentPages)};
         }
         // A line ends with a line feed (after a return or not), a return alone,

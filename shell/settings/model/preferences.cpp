@@ -5,6 +5,7 @@
 #include "property_list.h"
 #include "size_limits.h"
 #include "terminal.h"
+#include "texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -48,7 +49,8 @@ Result<QString> userPreferencePath(const QString &name)
 {
     const QString folder = userPreferencesFolder();
     if (folder.isEmpty())
-        return Error{Error::Code::NotFound, name, QStringLiteral("there is no preferences folder")};
+        return Error{Error::Code::NotFound, name,
+                     translate("Files", "there is no preferences folder")};
     return folder + QLatin1Char('/') + safeFileName(name);
 }
 

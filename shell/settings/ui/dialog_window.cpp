@@ -4,6 +4,7 @@
 #include "notice.h"
 #include "string_table.h"
 #include "terminal.h"
+#include "texts.h"
 #include "ticket_values.h"
 #include "window_loader.h"
 
@@ -17,7 +18,7 @@ namespace {
 // localized text, since the string tables may be missing as well.
 QString notMadeText(CFBundleRef bundle, const QString &window, const QString &reason)
 {
-    printLine(stderr, QStringLiteral("%1: the window cannot be made: %2").arg(window, reason));
+    printLine(stderr, translate("Window", "%1: the window cannot be made: %2").arg(window, reason));
     return QStringLiteral("%1\n%2: %3")
         .arg(localizedText(bundle, QStringLiteral("Not Made Message")), window, reason);
 }

@@ -35,6 +35,54 @@
         <source>%1 and %2</source>
         <translation>%1 do %2</translation>
     </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>clauses of one sentence</comment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>where, and what is wrong there</comment>
+        <translation>%2 («%1»)</translation>
+    </message>
+</context>
+<context>
+    <name>Controls</name>
+    <message>
+        <source>%1 is a %2 and takes no text</source>
+        <translation>%2 %1 nu texto</translation>
+    </message>
+    <message>
+        <source>it takes %1</source>
+        <comment>script commands</comment>
+        <translation>si %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 has %n row(s), not %2</source>
+        <translation>
+            <numerusform>%1: %n rango, nu %2</numerusform>
+            <numerusform>%1: %n rangi, nu %2</numerusform>
+            <numerusform>%1: %n rangov, nu %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>the document has no pages</source>
+        <translation>nu pago</translation>
+    </message>
+</context>
+<context>
+    <name>Files</name>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%2@%1</translation>
+    </message>
+    <message>
+        <source>the key &quot;%1&quot; has no value</source>
+        <translation>nu %1</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrinterSearch</name>

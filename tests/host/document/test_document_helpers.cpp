@@ -4,6 +4,7 @@
 #include "page_drawing.h"
 #include "sample_documents.h"
 #include "table.h"
+#include "texts.h"
 #include "ticket_attachment.h"
 
 #include <QDir>
@@ -32,6 +33,7 @@ private slots:
     void cleanup() { setDocumentHelperFolder({}); }
     void areMissedWithAMessage();
     void areForTheirOwnVersionOnly();
+    void speakTheProgramsLanguage();
     void areAskedForEverything();
     void openNothingElse_data();
     void openNothingElse();
@@ -114,6 +116,15 @@ void TestDocumentHelpers::areForTheirOwnVersionOnly()
     QVERIFY(!document);
     QVERIFY2(document.error().detail.contains("install kelvo-print anew"),
              qPrintable(document.error().text()));
+}
+
+void TestDocumentHelpers::speakTheProgramsLanguage()
+{
+    loadTexts(QStringLiteral(TEXTS), {"xx"});
+    const auto backToEnglish = qScopeGuard([] { loadTexts({}, {}); });
+    const auto document = open(file("pdf", pdfWithPages({})));
+    QVERIFY(!document);
+    QCOMPARE(document.error().detail, "nu pago");
 }
 
 // The process with the user's window and secrets reads no document itself.

@@ -86,7 +86,7 @@ public:
         return Error{Error::Code::NotFound, QStringLiteral("tab %1").arg(tab),
                      QStringLiteral("the tabs are 4")};
     }
-    QString placeOf(const QWidget *) const override { return QStringLiteral("tab 4, Advanced"); }
+    QString placeOf(const QWidget *) const override { return "it is in tab 4, Advanced"; }
     void sync(SyncDirection) override { }
     void pressPrint() override
     {

@@ -622,7 +622,7 @@ void TestPrintDialog::keysReachPanelsAndRegions()
     QVERIFY(!shown.isShown("PDEShellField"));
     // Not with whatever follows the panel that is gone.
     QCOMPARE(shown.dialog.focusWidget(), shown.find<QWidget>("SecondField"));
-    QCOMPARE(shown.dialog.placeOf(shown.find<QWidget>("PDEShellField")), "panel PDEShell");
+    QCOMPARE(shown.dialog.placeOf(shown.find<QWidget>("PDEShellField")), "it is in panel PDEShell");
     QVERIFY(shown.dialog.showPanel("PDEShell"));
     QVERIFY(shown.isShown("PDEShellField"));
 
