@@ -87,7 +87,9 @@ std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd)
                            "Not sent, for the print server has no description of this printer: "
                            "%1.")
                      .arg(list),
-        translate("Job", "They are kept, and come back with a printer that has them."), settings};
+        translate("Job", "%n setting(s) kept, to come back with a printer that has them.", nullptr,
+                  settings.size()),
+        settings};
 }
 
 std::optional<Caution> untoldCaution(const QStringList &settings)
@@ -97,7 +99,9 @@ std::optional<Caution> untoldCaution(const QStringList &settings)
     return Caution{Weight::Noted,
                    translate("Job", "Not sent, for this printer reads no job tickets: %1.")
                        .arg(settings.join(QStringLiteral(", "))),
-                   translate("Job", "They are kept; choose a printer that reads them."), settings};
+                   translate("Job", "%n setting(s) kept; choose a printer that reads them.",
+                             nullptr, settings.size()),
+                   settings};
 }
 
 } // namespace kelvo

@@ -55,6 +55,21 @@
             <numerusform>%1 and %n more</numerusform>
         </translation>
     </message>
+    <!-- What this printer does not have, or does not read -->
+    <message numerus="yes">
+        <source>%n setting(s) kept, to come back with a printer that has them.</source>
+        <translation>
+            <numerusform>It is kept, and comes back with a printer that has it.</numerusform>
+            <numerusform>They are kept, and come back with a printer that has them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) kept; choose a printer that reads them.</source>
+        <translation>
+            <numerusform>It is kept; choose a printer that reads it.</numerusform>
+            <numerusform>They are kept; choose a printer that reads them.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Document</name>

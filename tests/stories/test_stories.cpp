@@ -212,8 +212,8 @@ void TestStories::saysWhatARawQueueIsTold()
             "expect @paper text \"A4\"\nexpect @paper enabled false\n"
             "expect @summary text \"6 pages, 6 sheets\"\n"
             "expect @conflictText text \"Not sent, for the print server has no description of this "
-            "printer: Duplex: DuplexTumble. They are kept, and come back with a printer that has "
-            "them.\"\nsummary\nprint\n");
+            "printer: Duplex: DuplexTumble. It is kept, and comes back with a printer that has "
+            "it.\"\nsummary\nprint\n");
 
     const Run run = desk.run({"-d", "Raw", "--no-window", "--script", "raw.kps", "--ticket-in",
                               "t.plist", "-o", "media=A4", documentPath});
