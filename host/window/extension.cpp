@@ -63,7 +63,7 @@ Extension::Extension(Bundle *bundle, QWidget *panesParent)
 
 Extension::~Extension()
 {
-    end(noErr);
+    Extension::end(noErr);
     if (d->shell)
         d->shell->table->Release(&d->shell);
     if (d->instance)
