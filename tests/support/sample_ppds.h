@@ -11,5 +11,5 @@ inline QString samplePpd(const QString &device)
 // One of our make that reads no tickets.
 inline QString ppdWithoutTicket()
 {
-    return QStringLiteral(KELVO_TEST_DATA "/ppds/no-ticket.ppd");
+    return QStringLiteral(KELVO_SOURCE_DIR "/tests/data/ppds/no-ticket.ppd");
 }
