@@ -127,7 +127,8 @@ void describePaper(const PaperOutputSettings &settings, PanelDescription &panel)
         panel.addChoice("MediaType", kStockButton);
     QStringList properties = stockPropertyLines(device, stock);
     properties.replaceInStrings(QStringLiteral("- "), QString());
-    panel.add("JobLevelStock", "Paper Properties in Words", properties.join(QStringLiteral(", ")),
+    // A description may have commas.
+    panel.add("JobLevelStock", "Paper Properties in Words", properties.join(QStringLiteral("; ")),
               kStockButton);
 }
 
@@ -155,8 +156,10 @@ void describeOffset(const Finishing &finishing, PanelDescription &panel)
     const Device &device = panel.job().device;
     const OffsetSettings offset = offsetOf(finishing);
     constexpr std::int32_t kOffsetUnset = 1; // what a panel writes by itself
-    const bool isSet = offset.offset != kOffsetNone && offset.offset != kOffsetUnset;
-    const QString known = mapText(device, OffsetMap, offset.offset);
+    const bool isUnset = offset.offset == kOffsetUnset;
+    const bool isSet = offset.hasSubsets || (offset.offset != kOffsetNone && !isUnset);
+    const QString known =
+        isUnset ? labelText(device, "PrinterDefault") : mapText(device, OffsetMap, offset.offset);
     const QString name = known.isEmpty() ? QString::number(offset.offset) : known;
     const QString words = offset.hasSubsets
         ? formatted(device.text("Offset with Subsets in Words"),

@@ -187,6 +187,11 @@ void TestDescribeJob::saysWhatIsSet_data()
                   {"FinishingOffsetEnableSubset", 1},
                   {"FinishingOffsetPagesPerSubset", 12}}),
         {"Offset: Between subsets, 12 pages per subset"});
+    row("subsets without an offset",
+        ticketOf({{"FinishingOffset", 2},
+                  {"FinishingOffsetEnableSubset", 1},
+                  {"FinishingOffsetPagesPerSubset", 12}}),
+        {"Offset: No offset, 12 pages per subset"});
     row("offset by both panels", ticketOf({{"FinishingOffset", 3}}, {{"Jog", "EndOfSet"}}),
         {"Offset: Between sets", "Request Offset: Offset Each Set"});
     row("binding and an instruction",
