@@ -140,7 +140,10 @@ QString ticketProblem(const QString &path, const Error &error)
                             translate("Main", "check its name, or write one with --ticket-out"));
     const QString reason =
         error.place.isEmpty() ? error.detail : Error{error.code, error.place, error.detail}.text();
-    return translate("Main", "%1 is not a ticket file (%2)").arg(path, reason);
+    return translate("Main",
+                     "--ticket-in: %1 is not a ticket file (%2); name one that --ticket-out or "
+                     "--preset-out wrote")
+        .arg(path, reason);
 }
 
 // ---- signals

@@ -257,7 +257,9 @@ bool ScriptRunner::Private::checkNotice()
     }
     fail(at,
          hasScript() ? LineProblem{ExitStatus::Failed,
-                                   translate("Script", "a notice came up: %1 (answers: %2)")
+                                   translate("Script",
+                                             "a notice came up: %1 (answers: %2); expect or "
+                                             "answer it in the next line")
                                        .arg(masked(wordsOf(notice)), answersOf(notice))}
                      : unasked(masked(wordsOf(notice))));
     return false;

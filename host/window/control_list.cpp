@@ -8,7 +8,6 @@
 #include <QWidget>
 
 #include <memory>
-#include <vector>
 
 namespace kelvo {
 
@@ -89,8 +88,8 @@ Result<QString> controlList(QWidget *dialog, Bundle *bundle)
     return text.trimmed() + u'\n';
 }
 
-std::optional<DescribedWindow> describedWindowWith(const inspector::ControlName &control,
-                                                   Bundle *bundle)
+std::vector<DescribedWindow> describedWindowsWith(const inspector::ControlName &control,
+                                                  Bundle *bundle)
 {
     std::vector<DescribedWindow> found;
     // What cannot be loaded is told when it is to be shown.
@@ -98,7 +97,7 @@ std::optional<DescribedWindow> describedWindowWith(const inspector::ControlName 
         if (inspector::find(window, control).control)
             found.push_back({name, window->windowTitle()});
     });
-    return found.size() == 1 ? std::optional(found.front()) : std::nullopt;
+    return found;
 }
 
 } // namespace kelvo

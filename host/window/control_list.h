@@ -6,7 +6,7 @@
 
 #include <QString>
 
-#include <optional>
+#include <vector>
 
 class QWidget;
 
@@ -22,9 +22,9 @@ struct DescribedWindow
 {
     QString name, title;
 };
-// The one that has the control, built or not; none where several have it, as "@ok". Slow:
-// all descriptions are loaded.
-std::optional<DescribedWindow> describedWindowWith(const inspector::ControlName &control,
-                                                   Bundle *bundle);
+// Those that have the control, built or not: many have an "@okButton". Slow: all
+// descriptions are loaded.
+std::vector<DescribedWindow> describedWindowsWith(const inspector::ControlName &control,
+                                                  Bundle *bundle);
 
 } // namespace kelvo

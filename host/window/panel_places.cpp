@@ -126,13 +126,16 @@ QString PanelPlaces::placeOf(const QWidget *control, const Extension &panels)
 
 QString PanelPlaces::placeOf(const inspector::ControlName &control, const Extension &panels)
 {
-    const auto window = describedWindowWith(control, panels.bundle());
-    if (!window)
+    const std::vector<DescribedWindow> windows = describedWindowsWith(control, panels.bundle());
+    if (windows.empty())
         return {};
-    return namesOf(panels).contains(window->name)
-        ? translate("Window", "it is in panel %1").arg(window->name)
+    if (windows.size() > 1)
+        return translate("Window", "it is in dialogs that are not open");
+    const DescribedWindow &window = windows.front();
+    return namesOf(panels).contains(window.name)
+        ? translate("Window", "it is in panel %1").arg(window.name)
         : translate("Window", "it is in the dialog \"%1\"")
-              .arg(window->title.isEmpty() ? window->name : window->title);
+              .arg(window.title.isEmpty() ? window.name : window.title);
 }
 
 PanelPlaces::Place PanelPlaces::current(const Extension &panels) const

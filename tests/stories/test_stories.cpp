@@ -589,9 +589,11 @@ void TestStories::keepsWhatTheUserNamed_data()
     row({"--ticket-in", "no.plist", "keep.txt"}, 6,
         "kelvo-print: --ticket-in: there is no file no.plist; check its name");
     row({"--ticket-in", "keep.txt", "keep.txt"}, 6,
-        "kelvo-print: keep.txt is not a ticket file (line 1: syntax error)");
+        "kelvo-print: --ticket-in: keep.txt is not a ticket file (line 1: syntax error); name one "
+        "that --ticket-out or --preset-out wrote");
     row({"--ticket-in", "other.plist", "keep.txt"}, 6,
-        "kelvo-print: other.plist is not a ticket file (FormatVersion: missing)");
+        "kelvo-print: --ticket-in: other.plist is not a ticket file (FormatVersion: missing); name "
+        "one that --ticket-out or --preset-out wrote");
     row({"--script", "no.kps", "keep.txt"}, 2,
         "kelvo-print: --script: there is no file no.kps; check its name");
     row({"--secret", "A=no.txt", "keep.txt"}, 2,
@@ -896,6 +898,8 @@ void TestStories::refusesWhatCannotBeDone_data()
         "KPDE 1000 is not in the window; it is in panel SpecialPages");
     row("dialog not open", "click KPDE 8542\n", 3,
         "KPDE 8542 is not in the window; it is in the dialog \"");
+    row("one of several dialogs", "click @okButton\n", 3,
+        "@okButton is not in the window; it is in dialogs that are not open");
     row("unknown panel", "panel Advancd\n", 2, "s.kps:1: Advancd: there is no such panel");
     row("expectation", "expect @copies value 2\n", 2, "s.kps:1: value of @copies is \"1\"");
     row("pages out of range", "choose @pagesChoice key range\ntype @pages \"9\"\nprint\n", 2,
