@@ -79,6 +79,11 @@ Error ControlInterface::unsupported(const char *sentence) const
     return {Error::Code::Unsupported, {}, joined(clauses)};
 }
 
+Error ControlInterface::notClickable() const
+{
+    return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and cannot be clicked"));
+}
+
 Error ControlInterface::readOnlyError() const
 {
     return refused(translate("Controls", "%1 is read-only").arg(name()));

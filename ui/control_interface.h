@@ -86,10 +86,7 @@ public:
     virtual QString commands() const { return {}; }
     // `item` is an element of menu() itself, at any level; false: it is not taken.
     virtual bool choose(const MenuItem & /*item*/) { return false; }
-    virtual Result<void> click()
-    {
-        return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and cannot be clicked"));
-    }
+    virtual Result<void> click() { return notClickable(); }
     virtual Result<void> check(bool /*on*/)
     {
         return unsupported(QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and cannot be checked"));
@@ -141,6 +138,7 @@ protected:
     virtual InputLimits limits() const;
 
     Error outsideRange(int value, int minimum, int maximum) const;
+    Error notClickable() const;
 
 private:
     Error notAList() const;

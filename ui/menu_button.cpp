@@ -109,7 +109,7 @@ public:
     QString commands() const override { return QStringLiteral("item, choose"); }
     bool choose(const MenuItem &item) override { return widget()->choose(item); }
     // A click would stay in the menu until somebody picks an item.
-    Result<void> click() override { return ControlInterface::click(); }
+    Result<void> click() override { return notClickable(); }
     void sendEvents() override { }
 };
 

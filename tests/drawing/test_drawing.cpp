@@ -195,6 +195,7 @@ void TestDrawing::drawsOnAnyThread()
     std::atomic_int same = 0;
     {
         std::vector<std::jthread> threads;
+        threads.reserve(4);
         for (int count = 0; count < 4; ++count) {
             threads.emplace_back([&] {
                 const auto pdf = pageWith(u"Draft"_s, style, {612, 792}, {100, 100});
