@@ -46,6 +46,7 @@ inline constexpr std::int32_t kStapleDual = 10;
 inline constexpr std::int32_t kStapleMultiple = 54;
 
 // com.kelvo.print.FinishingOffset
+inline constexpr std::int32_t kOffsetUnset = 1; // what a panel writes by itself
 inline constexpr std::int32_t kOffsetNone = 2;
 inline constexpr std::int32_t kOffsetSets = 3;
 inline constexpr std::int32_t kOffsetSubsets = 4;

@@ -39,6 +39,12 @@ OffsetSettings offsetOf(const Finishing &finishing)
     return withOffset(settings, settings.offset);
 }
 
+bool isSet(const OffsetSettings &settings)
+{
+    return settings.hasSubsets
+        || (settings.offset != kOffsetNone && settings.offset != kOffsetUnset);
+}
+
 Menu offsetMenu(const Device &device, std::int32_t offset)
 {
     Menu menu;

@@ -29,6 +29,9 @@ struct OffsetSettings
     friend bool operator==(const OffsetSettings &, const OffsetSettings &) = default;
 };
 
+// The user has one, of sets or of parts of them; else it is the device's affair.
+bool isSet(const OffsetSettings &settings);
+
 // What the dialog begins with; without subsets their pages are shown as 0.
 OffsetSettings offsetOf(const Finishing &finishing);
 // The offsets to choose from. One that cannot be chosen here stands in front until another

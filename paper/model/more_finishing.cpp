@@ -1,5 +1,6 @@
 #include "more_finishing.h"
 
+#include "finishing_offset.h"
 #include "paper_output_settings.h"
 
 #include <QStringList>
@@ -44,7 +45,7 @@ bool isSet(const Line &line, const Finishing &finishing, const Device &device)
         return findSetChoice(*line.kind, finishingChoices(*line.kind, device), finishing)
                    .value_or(0)
             != 0;
-    return line.command == kCommandOffsetDialog ? finishing.offset >= kOffsetSets
+    return line.command == kCommandOffsetDialog ? kelvo::isSet(offsetOf(finishing))
                                                 : !finishing.custom.isEmpty();
 }
 

@@ -155,23 +155,21 @@ void describeOffset(const Finishing &finishing, PanelDescription &panel)
 {
     const Device &device = panel.job().device;
     const OffsetSettings offset = offsetOf(finishing);
-    constexpr std::int32_t kOffsetUnset = 1; // what a panel writes by itself
-    const bool isUnset = offset.offset == kOffsetUnset;
-    const bool isSet = offset.hasSubsets || (offset.offset != kOffsetNone && !isUnset);
-    const QString known =
-        isUnset ? labelText(device, "PrinterDefault") : mapText(device, OffsetMap, offset.offset);
+    const QString known = offset.offset == kOffsetUnset ? labelText(device, "PrinterDefault")
+                                                        : mapText(device, OffsetMap, offset.offset);
     const QString name = known.isEmpty() ? QString::number(offset.offset) : known;
     const QString words = offset.hasSubsets
         ? formatted(device.text("Offset with Subsets in Words"),
                     {name, QLocale().toString(offset.pagesPerSubset)})
         : name;
-    panel.add("FinishingOffset", "Offset:", isSet ? words : QString(), kMoreFinishingButton);
+    panel.add("FinishingOffset", "Offset:", isSet(offset) ? words : QString(),
+              kMoreFinishingButton);
     panel.leaveUnspoken("FinishingOffsetEnableSubset");
     panel.leaveUnspoken("FinishingOffsetPagesPerSubset");
     const QString ofDevice = QStringLiteral("Jog");
     const auto choice = panel.job().printSettings.ppdChoices.value(ofDevice);
     const PpdOption *option = device.ppd ? device.ppd->findOption(ofDevice) : nullptr;
-    if (isSet && option && (choice.isEmpty() || choice == option->defaultChoice))
+    if (isSet(offset) && option && (choice.isEmpty() || choice == option->defaultChoice))
         panel.leaveChoiceUnspoken("Jog");
 }
 

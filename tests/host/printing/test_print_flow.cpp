@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <thread>
+#include <utility>
 
 using namespace kelvo;
 
@@ -58,7 +59,7 @@ struct Printing : Running, PrintQuestions
                       std::optional<QString> ticketOut = {})
         : Running(std::move(begin))
         , cautions(session, to == To::Printer)
-        , flow(session, cautions, {to == To::Keeper ? keeper : nullptr, ticketOut, {}})
+        , flow(session, cautions, {to == To::Keeper ? keeper : nullptr, std::move(ticketOut), {}})
     {
         flow.setQuestions(this);
     }
