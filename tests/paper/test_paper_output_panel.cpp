@@ -22,9 +22,9 @@ using namespace kelvo;
 
 namespace {
 
-constexpr std::int32_t kJobType = 102, kJobTypeSetup = 103, kTwoSided = 110, kStapling = 113,
-                       kHolePunch = 116, kOutputColor = 119, kOutputDestination = 126,
-                       kBanner = 614, kOffset = 616; // the last two of the Advanced panel
+constexpr std::int32_t kJobType = 102, kTwoSided = 110, kStapling = 113, kHolePunch = 116,
+                       kOutputColor = 119, kOutputDestination = 126, kBanner = 614,
+                       kOffset = 616; // the last two of the Advanced panel
 const QList<std::int32_t> kPopups = {kJobType,   kTwoSided,    kStapling,
                                      kHolePunch, kOutputColor, kOutputDestination};
 
@@ -34,7 +34,7 @@ class WindowCloser
 public:
     WindowCloser()
     {
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+        QObject::connect(&m_timer, &QTimer::timeout, [] {
             if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
                 dialog->reject();
         });
