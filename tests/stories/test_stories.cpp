@@ -852,12 +852,12 @@ void TestStories::laterSettingsBeatEarlierOnes()
     const QStringList words{"Tray2", "Ivory", "Top", "300x300dpi", "Bond"};
     const auto layer = [&](int first) {
         PPDDictionary choices;
-        const QStringList others[] = {{},
-                                      {"Buff", "Middle", "1200x600dpi", "Light"},
-                                      {"Middle2", "1200x1200dpi", "Recycled"},
-                                      {"200x200dpi", "Letterhead"}};
+        const QStringList lower[] = {{},
+                                     {"Buff", "Middle", "1200x600dpi", "Light"},
+                                     {"Middle2", "1200x1200dpi", "Recycled"},
+                                     {"200x200dpi", "Letterhead"}};
         for (int i = first; i < names.size(); ++i)
-            choices.insert(names[i], i == first ? words[i] : others[first].value(i - 1));
+            choices.insert(names[i], i == first ? words[i] : lower[first].value(i - 1));
         return choices;
     };
     const Desk desk;
