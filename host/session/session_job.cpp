@@ -315,7 +315,11 @@ void SessionJob::restore(const Snapshot &snapshot)
 
 const JobDescription &SessionJob::description()
 {
-    m_describer.describe(m_session->printSettings(), m_session->pageFormat(), ppd(), m_description);
+    const Described now{m_session->printSettings(), m_session->pageFormat(), m_device.ppd};
+    if (m_described != now) {
+        m_describer.describe(now.printSettings, now.pageFormat, now.ppd.get(), m_description);
+        m_described = now;
+    }
     return m_description;
 }
 

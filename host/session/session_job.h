@@ -138,7 +138,15 @@ private:
     SecretKeys m_secretKeys;
     JobDescriber m_describer;
     RepeatedChoices m_repeatedChoices; // of this device
-    JobDescription m_description;      // as it was last asked for
+    // As it was last asked for, and of what: a window's parts ask one after the other.
+    struct Described
+    {
+        Ticket printSettings, pageFormat;
+        std::shared_ptr<PpdFile> ppd;
+        friend bool operator==(const Described &, const Described &) = default;
+    };
+    std::optional<Described> m_described;
+    JobDescription m_description;
 
     QString m_title;
     Device m_device;
