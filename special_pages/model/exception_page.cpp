@@ -6,6 +6,7 @@ namespace kelvo {
 
 namespace {
 
+const QString endPageKey = QStringLiteral("EndPage");
 const QString halftoneScreenKey = QStringLiteral("HalftoneScreen");
 const QString lightenDarkenKey = QStringLiteral("LightenDarken");
 const QString imageShiftKey = QStringLiteral("com.kelvo.print.ImageShiftOptionsPage");
@@ -20,7 +21,7 @@ void writeIfSet(Dictionary &dictionary, const QString &key, std::int32_t number)
 
 std::int32_t endPageIn(const Dictionary &form)
 {
-    return integer32(form, kEndPageKey).value_or(0);
+    return integer32(form, endPageKey).value_or(0);
 }
 
 std::int32_t plexIn(const Dictionary &form)
@@ -42,7 +43,7 @@ ExceptionPage::ExceptionPage(const Dictionary &dictionary)
 Dictionary ExceptionPage::asTicket() const
 {
     Dictionary dictionary = SpecialPage::asTicket();
-    WriteTicketValue(dictionary, kEndPageKey, m_endPage);
+    WriteTicketValue(dictionary, endPageKey, m_endPage);
     writeIfSet(dictionary, kSidesImagedKey, m_plex);
     writeIfSet(dictionary, halftoneScreenKey, m_halftoneScreen);
     writeIfSet(dictionary, lightenDarkenKey, m_lightenDarken);

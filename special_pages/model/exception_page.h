@@ -5,8 +5,7 @@
 
 namespace kelvo {
 
-// Of the dictionary form.
-inline const QString kEndPageKey = QStringLiteral("EndPage");
+// What a dictionary form says, as the page made of it.
 std::int32_t endPageIn(const Dictionary &form);
 std::int32_t plexIn(const Dictionary &form); // kUnset: as the job
 

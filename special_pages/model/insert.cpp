@@ -4,9 +4,15 @@
 
 namespace kelvo {
 
+namespace {
+
+const QString quantityKey = QStringLiteral("Quantity");
+
+} // namespace
+
 std::int32_t quantityIn(const Dictionary &form)
 {
-    return integer32(form, kQuantityKey).value_or(1);
+    return integer32(form, quantityKey).value_or(1);
 }
 
 Insert::Insert(const Dictionary &dictionary)
@@ -18,7 +24,7 @@ Insert::Insert(const Dictionary &dictionary)
 Dictionary Insert::asTicket() const
 {
     Dictionary dictionary = SpecialPage::asTicket();
-    WriteTicketValue(dictionary, kQuantityKey, m_quantity);
+    WriteTicketValue(dictionary, quantityKey, m_quantity);
     return dictionary;
 }
 

@@ -4,8 +4,7 @@
 
 namespace kelvo {
 
-// Of the dictionary form.
-inline const QString kQuantityKey = QStringLiteral("Quantity");
+// What a dictionary form says, as the insert made of it.
 std::int32_t quantityIn(const Dictionary &form);
 
 // Sheets put in between: `quantity` of them after page startPage(); 0 is before

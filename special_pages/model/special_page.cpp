@@ -8,6 +8,7 @@ namespace kelvo {
 
 namespace {
 
+const QString startPageKey = QStringLiteral("StartPage");
 const QString stockKey = QStringLiteral("Stock");
 
 Stock stockFrom(const std::optional<Dictionary> &dictionary)
@@ -19,7 +20,7 @@ Stock stockFrom(const std::optional<Dictionary> &dictionary)
 
 std::int32_t startPageIn(const Dictionary &form)
 {
-    return integer32(form, kStartPageKey).value_or(0);
+    return integer32(form, startPageKey).value_or(0);
 }
 
 SpecialPage::SpecialPage(const Dictionary &dictionary)
@@ -50,7 +51,7 @@ std::uint64_t SpecialPage::newIdentity()
 Dictionary SpecialPage::asTicket() const
 {
     Dictionary dictionary;
-    WriteTicketValue(dictionary, kStartPageKey, m_startPage);
+    WriteTicketValue(dictionary, startPageKey, m_startPage);
     dictionary.insert(stockKey, m_stock.asTicket());
     return dictionary;
 }

@@ -8,9 +8,9 @@
 
 namespace kelvo {
 
-// Keys of dictionary forms; the sides are those of covers and of exception pages.
-inline const QString kStartPageKey = QStringLiteral("StartPage");
+// A key of dictionary forms, of covers and of exception pages.
 inline const QString kSidesImagedKey = QStringLiteral("SidesImaged");
+// What a dictionary form says, as the page made of it.
 std::int32_t startPageIn(const Dictionary &form);
 
 // A sheet of the job that is not like the others: its place and its paper. Pages are
