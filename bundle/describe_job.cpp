@@ -41,6 +41,7 @@ OSStatus KelvoDescribeJob(const JobToDescribe *job, JobDescription *description)
     description->unspoken.clear();
     description->imposition.reset();
     description->overlays.clear();
+    description->files.clear();
     describe({*job->printSettings, *job->pageFormat, deviceWith(job->bundle, job->ppd)},
              *description);
     return noErr;

@@ -40,7 +40,7 @@ Result<const Library *> library(const QString &folder)
     return library;
 }
 
-Result<std::unique_ptr<Page>> Library::beginPage(const QSizeF &size) const
+Result<std::unique_ptr<Page>> Library::beginPage(const QSizeF &size, Writer writer) const
 {
     for (const double side : {size.width(), size.height()}) {
         if (!(side > 0 && side <= longestSide)) {
@@ -51,7 +51,7 @@ Result<std::unique_ptr<Page>> Library::beginPage(const QSizeF &size) const
                     .arg(longestSide)};
         }
     }
-    return makePage(size);
+    return makePage(size, std::move(writer));
 }
 
 } // namespace kelvo::drawing

@@ -8,6 +8,7 @@
 #include "values.h"
 
 #include <QCryptographicHash>
+#include <QFile>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -250,6 +251,18 @@ QString writingAdvice(int number)
     default:
         return translate("Files", "name another place");
     }
+}
+
+FileStamp stampOf(const QString &path)
+{
+    struct stat status;
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {};
+    const auto nanoseconds = [](const timespec &time) {
+        return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    };
+    return {status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim),
+            nanoseconds(status.st_ctim)};
 }
 
 Result<QByteArray> readFile(const QString &path, qint64 limit)

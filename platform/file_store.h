@@ -24,6 +24,24 @@ QString writingAdvice(int number);
 // writers only rename complete files.
 Result<QByteArray> readFile(const QString &path, qint64 limit);
 
+// What tells whether a file is still the same one: whoever replaces or changes it leaves
+// another stamp. All 0 for a file that is not there.
+struct FileStamp
+{
+    quint64 device = 0, inode = 0;
+    qint64 size = 0;
+    qint64 modified = 0, changed = 0; // nanoseconds
+    friend bool operator==(const FileStamp &, const FileStamp &) = default;
+};
+FileStamp stampOf(const QString &path);
+
+struct StampedFile
+{
+    QString path;
+    FileStamp stamp;
+    friend bool operator==(const StampedFile &, const StampedFile &) = default;
+};
+
 // Replaces the file at `path`: a temporary file in the same folder (0600; locked, so
 // that what a killed program leaves is known by its free lock), every write and the
 // size checked, synced, renamed, folder synced. After an error the old file is as it

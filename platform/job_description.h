@@ -2,13 +2,17 @@
 
 #include "bundle.h"
 #include "control_id.h"
+#include "file_store.h"
 #include "ppd_file.h"
 #include "status.h"
 #include "ticket_file.h"
 
+#include <QByteArray>
 #include <QList>
+#include <QSizeF>
 #include <QString>
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -76,21 +80,30 @@ struct SpecialSheetWords
 // The pages are put together on sheets in another way than one after the other.
 struct Imposition
 {
+    // Sheets are folded once in the middle: two pages lie on each side, made smaller to fit.
     enum class Kind { Booklet };
     Kind kind = Kind::Booklet;
     double gutter = 0; // points, between the two pages of a side
-    double creep = 0;  // 0 to 1, by how much inner sheets move inwards
-    bool drawsBorders = false;
+    double creep = 0;  // points by which the pages of a sheet move inwards beyond those of the
+                       // sheet around it
+    bool drawsBorders = false; // a line around each page
+    QSizeF sheet;              // points, upright; empty: the job's paper
     friend bool operator==(const Imposition &, const Imposition &) = default;
 };
 
-// Something that is drawn over pages: what it is called in the user's store, not how it
-// looks. Whoever shows it asks for the drawing.
+// Something that is drawn on pages: what it is called in the user's store, not how it
+// looks. Whoever shows it asks for the drawing (DrawOverlayFunction).
 struct Overlay
 {
+    enum class Place {
+        Behind,  // below what the page has: seen where the page leaves its paper free
+        Blended, // above it, and what is darker below is still seen
+        Above,   // above it
+    };
     QString name;
-    bool isBehind = false; // below what the page has, else above it
+    Place place = Place::Blended;
     bool firstPageOnly = false;
+    quint64 version = 0; // another number, another drawing
     friend bool operator==(const Overlay &, const Overlay &) = default;
 };
 
@@ -104,6 +117,8 @@ struct JobDescription
     SpecialSheetWords sheetWords;
     std::optional<Imposition> imposition;
     std::vector<Overlay> overlays;
+    // What was read beside the tickets. With another stamp, all is to be said anew.
+    std::vector<StampedFile> files;
 
     // The lists that `sheets` was made from. A description that is brought up to date reads
     // those anew that are other ones now: there may be 99,999 pages.
@@ -117,7 +132,6 @@ struct JobToDescribe
     const PpdFile *ppd = nullptr;          // null: nothing is known of the device. Nobody else
                                            // uses it meanwhile: libcups keeps state in it
     CFBundleRef bundle = nullptr;          // of the texts
-    QString userFolder;                    // where the user's own overlays are kept
 };
 
 // Exported under this name. Brings `description`, which may be new, up to date. Any thread,
@@ -125,5 +139,20 @@ struct JobToDescribe
 // a missing argument, and nothing is described.
 inline constexpr char kDescribeJobName[] = "KelvoDescribeJob";
 using DescribeJobFunction = OSStatus (*)(const JobToDescribe *job, JobDescription *description);
+
+// A drawing for one page, as it lies on the sheet that one looks at.
+struct OverlayToDraw
+{
+    QString name;                                // as the description has it
+    QSizeF page;                                 // points
+    const std::atomic_bool *cancelled = nullptr; // null: never
+};
+
+// Exported under this name: a PDF of one page that has nothing but the overlay, with its
+// opacity, and no paper. Blocks where a picture is read; any thread but the window's, as many
+// at once as one likes. paramErr for a missing argument or name; fnfErr, and no PDF, where the
+// store does not have it or it cannot be drawn.
+inline constexpr char kDrawOverlayName[] = "KelvoDrawOverlay";
+using DrawOverlayFunction = OSStatus (*)(const OverlayToDraw *overlay, QByteArray *pdf);
 
 } // namespace kelvo

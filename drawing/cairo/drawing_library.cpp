@@ -3,44 +3,76 @@
 #include "pdf_canvas.h"
 #include "text_layout.h"
 
-#include <QFile>
-
+#include <algorithm>
 #include <cstring>
 
 namespace kelvo::drawing {
 
 namespace {
 
+struct SurfaceRelease
+{
+    void operator()(cairo_surface_t *surface) const { cairo_surface_destroy(surface); }
+};
+
 class PdfPage final : public Page
 {
 public:
-    explicit PdfPage(const QSizeF &size)
-        : m_canvas([this](const char *bytes, std::size_t count) {
-            m_pdf.append(bytes, static_cast<qsizetype>(count));
-            return true;
-        })
-        , m_height(size.height())
+    PdfPage(const QSizeF &size, Writer writer)
+        : m_canvas(std::move(writer))
+        , m_size(size)
         , m_context(m_canvas.beginPage(size))
     {
     }
 
-    void drawText(const QString &text, const TextStyle &style, const QPointF &origin) override
+    void setOpacity(double opacity) override { m_opacity = std::clamp(opacity, 0.0, 1.0); }
+
+    void fill(const Color &color) override
     {
-        TextLayout(text, style).draw(m_context, origin.x(), m_height - origin.y());
+        cairo_set_source_rgba(m_context, color.red, color.green, color.blue,
+                              color.alpha * m_opacity);
+        cairo_rectangle(m_context, 0, 0, m_size.width(), m_size.height());
+        cairo_fill(m_context);
     }
 
-    Result<QByteArray> finish() override
+    void drawText(const QString &text, const TextStyle &style, const QPointF &origin) override
+    {
+        TextStyle seenThrough = style;
+        seenThrough.color.alpha *= m_opacity;
+        TextLayout(text, seenThrough).draw(m_context, origin.x(), m_size.height() - origin.y());
+    }
+
+    void drawPicture(const Picture &picture, const QRectF &rectangle) override
+    {
+        if (picture.isNull() || rectangle.isEmpty())
+            return;
+        // Only read, though cairo's interface cannot say so.
+        auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(picture.bytes.data()));
+        const std::unique_ptr<cairo_surface_t, SurfaceRelease> surface(
+            cairo_image_surface_create_for_data(bytes, CAIRO_FORMAT_ARGB32, picture.size.width(),
+                                                picture.size.height(), 4 * picture.size.width()));
+        cairo_save(m_context);
+        cairo_translate(m_context, rectangle.x(),
+                        m_size.height() - rectangle.y() - rectangle.height());
+        cairo_scale(m_context, rectangle.width() / picture.size.width(),
+                    rectangle.height() / picture.size.height());
+        cairo_set_source_surface(m_context, surface.get(), 0, 0);
+        cairo_paint_with_alpha(m_context, m_opacity);
+        cairo_restore(m_context);
+        // The page keeps the surface until it is finished; the pixels are not ours.
+        cairo_surface_finish(surface.get());
+    }
+
+    Result<void> finish() override
     {
         m_canvas.endPage(); // close() tells whether it went well
-        if (Result<void> closed = m_canvas.close(); !closed)
-            return closed.error();
-        return m_pdf;
+        return m_canvas.close();
     }
 
 private:
-    QByteArray m_pdf; // before the canvas, which writes into it as long as it lives
     PdfCanvas m_canvas;
-    double m_height;
+    QSizeF m_size;
+    double m_opacity = 1;
     cairo_t *m_context; // the canvas's
 };
 
@@ -50,18 +82,10 @@ public:
     std::optional<Font> findFont(const QString &postScriptName) const override
     {
         const FontPattern pattern = findFontPattern(postScriptName);
-        FcChar8 *name = nullptr;
-        FcChar8 *path = nullptr;
-        int index = 0;
-        if (!pattern
-            || FcPatternGetString(pattern.get(), FC_POSTSCRIPT_NAME, 0, &name) != FcResultMatch
-            || FcPatternGetString(pattern.get(), FC_FILE, 0, &path) != FcResultMatch
-            || FcPatternGetInteger(pattern.get(), FC_INDEX, 0, &index) != FcResultMatch) {
-            return std::nullopt;
-        }
-        return Font{QString::fromUtf8(reinterpret_cast<const char *>(name)),
-                    QFile::decodeName(reinterpret_cast<const char *>(path)), index};
+        return pattern ? fontOf(pattern.get()) : std::nullopt;
     }
+
+    std::vector<Font> fonts() const override { return installedFonts(); }
 
     QRectF inkBounds(const QString &text, const TextStyle &style) const override
     {
@@ -69,9 +93,9 @@ public:
     }
 
 private:
-    std::unique_ptr<Page> makePage(const QSizeF &size) const override
+    std::unique_ptr<Page> makePage(const QSizeF &size, Writer writer) const override
     {
-        return std::make_unique<PdfPage>(size);
+        return std::make_unique<PdfPage>(size, std::move(writer));
     }
 };
 

@@ -16,9 +16,8 @@ bool isHostEntry(const QString &key)
     return own.contains(key);
 }
 
-JobDescriber::JobDescriber(Bundle *bundle, QString userFolder)
+JobDescriber::JobDescriber(Bundle *bundle)
     : m_bundle(bundle)
-    , m_userFolder(std::move(userFolder))
 {
 }
 
@@ -38,7 +37,7 @@ bool JobDescriber::findFunction()
 void JobDescriber::ask(const Ticket &printSettings, const Ticket &pageFormat, const PpdFile *ppd,
                        JobDescription &description)
 {
-    const JobToDescribe job{&printSettings, &pageFormat, ppd, m_bundle, m_userFolder};
+    const JobToDescribe job{&printSettings, &pageFormat, ppd, m_bundle};
     if (!findFunction() || m_function(&job, &description) != noErr)
         description = {};
 }

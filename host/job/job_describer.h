@@ -11,9 +11,8 @@ namespace kelvo {
 class JobDescriber
 {
 public:
-    // Borrowed; null: nothing is known, and descriptions are empty. `userFolder` is where
-    // the user's own files for the bundle are kept.
-    explicit JobDescriber(Bundle *bundle, QString userFolder = {});
+    // Borrowed; null: nothing is known, and descriptions are empty.
+    explicit JobDescriber(Bundle *bundle);
 
     // Brings `description` up to date.
     void describe(const Ticket &printSettings, const Ticket &pageFormat, const PpdFile *ppd,
@@ -30,7 +29,6 @@ private:
              JobDescription &description);
 
     Bundle *m_bundle;
-    QString m_userFolder;
     DescribeJobFunction m_function = nullptr;
     bool m_hasLooked = false;
 };

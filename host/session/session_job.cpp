@@ -1,11 +1,12 @@
 #include "session_job.h"
 
-#include "folders.h"
 #include "job_words.h"
 #include "ppd_words.h"
 #include "secrets.h"
 #include "ticket_attachment.h"
 #include "ticket_layers.h"
+
+#include <algorithm>
 
 namespace kelvo {
 
@@ -20,7 +21,7 @@ SessionJob::SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObj
     , m_wishes(std::move(wishes))
     , m_panels(panels)
     , m_secretKeys(secretKeysOf(bundle))
-    , m_describer(bundle, userPreferencesFolder())
+    , m_describer(bundle)
     , m_session(std::make_unique<PrintSession>())
 {
     for (const auto *given : {&m_wishes.preset, &m_wishes.ticketIn}) {
@@ -316,7 +317,8 @@ void SessionJob::restore(const Snapshot &snapshot)
 const JobDescription &SessionJob::description()
 {
     const Described now{m_session->printSettings(), m_session->pageFormat(), m_device.ppd};
-    if (m_described != now) {
+    const auto isOther = [](const StampedFile &file) { return stampOf(file.path) != file.stamp; };
+    if (m_described != now || std::ranges::any_of(m_description.files, isOther)) {
         m_describer.describe(now.printSettings, now.pageFormat, now.ppd.get(), m_description);
         m_described = now;
     }

@@ -49,14 +49,18 @@ const Library &here()
 std::unique_ptr<Poppler::Document> pageWith(const QString &text, const TextStyle &style,
                                             const QSizeF &size, const QPointF &origin)
 {
-    Result<std::unique_ptr<Page>> page = here().beginPage(size);
+    QByteArray pdf;
+    const auto write = [&pdf](const char *bytes, std::size_t count) {
+        pdf.append(bytes, qsizetype(count));
+        return true;
+    };
+    Result<std::unique_ptr<Page>> page = here().beginPage(size, write);
     if (!page)
         qFatal("%s", qPrintable(page.reason()));
     page.value()->drawText(text, style, origin);
-    const Result<QByteArray> pdf = page.value()->finish();
-    if (!pdf)
-        qFatal("%s", qPrintable(pdf.reason()));
-    return Poppler::Document::loadFromData(pdf.value());
+    if (const Result<void> finished = page.value()->finish(); !finished)
+        qFatal("%s", qPrintable(finished.reason()));
+    return Poppler::Document::loadFromData(pdf);
 }
 
 } // namespace
@@ -185,7 +189,7 @@ void TestDrawing::drawsTextThatCanBeRead()
     QCOMPARE(pdf->page(0)->text({}).trimmed(), u"Grüße, Ελλάς"_s);
     QVERIFY(here().inkBounds(u" "_s, {}).isNull());
     for (const QSizeF size : {QSizeF(0, 792), QSizeF(612, qQNaN()), QSizeF(612, 14401)})
-        QCOMPARE(here().beginPage(size).error().code, Error::Code::OutOfRange);
+        QCOMPARE(here().beginPage(size, {}).error().code, Error::Code::OutOfRange);
 }
 
 void TestDrawing::drawsOnAnyThread()
