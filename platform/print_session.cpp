@@ -98,6 +98,16 @@ OSStatus PMSessionGetCurrentPrinter(PMPrintSession session, PMPrinter *out)
     return noErr;
 }
 
+OSStatus PMSessionGetFirstPage(PMPrintSession session, DocumentPage *out)
+{
+    if (!session || !out)
+        return paramErr;
+    if (session->firstPage().pdfPath.isEmpty())
+        return kPMKeyNotFound;
+    *out = session->firstPage();
+    return noErr;
+}
+
 OSStatus PMPrinterGetDescriptionURL(PMPrinter printer, const QString &type, QString *url)
 {
     if (!printer || !url)

@@ -20,6 +20,15 @@ struct SessionPrinter
     QString ppdPath; // a local file; empty when there is no PPD
 };
 
+// A page of the job's document, for what is shown over it. The file is the host's and stays
+// for as long as the session; whoever draws it does so in a program of its own
+// (page_drawing.h).
+struct DocumentPage
+{
+    QString pdfPath; // empty: the document is not there yet
+    int page = 0;    // from 1
+};
+
 class PrintSession
 {
 public:
@@ -33,6 +42,10 @@ public:
     const SessionPrinter &printer() const { return m_printer; }
     void setPrinter(SessionPrinter printer) { m_printer = std::move(printer); }
 
+    // The first one that is printed.
+    const DocumentPage &firstPage() const { return m_firstPage; }
+    void setFirstPage(DocumentPage page) { m_firstPage = std::move(page); }
+
     PMTicketRef printSettingsTicket() const;
     PMTicketRef pageFormatTicket() const;
 
@@ -45,6 +58,7 @@ private:
     friend Ticket *findTicket(PMTicketRef handle);
     std::uint16_t m_number;
     SessionPrinter m_printer;
+    DocumentPage m_firstPage;
     Ticket m_tickets[2];
 };
 
@@ -58,6 +72,9 @@ OSStatus PMSessionGetDataFromSession(PMPrintSession session, const QString &key,
 
 using PMPrinter = const SessionPrinter *; // borrowed from the session
 OSStatus PMSessionGetCurrentPrinter(PMPrintSession session, PMPrinter *out);
+
+// The first page that is printed; kPMKeyNotFound while there is no document.
+OSStatus PMSessionGetFirstPage(PMPrintSession session, DocumentPage *out);
 
 inline const QString kPMPPDDescriptionType = QStringLiteral("PMPPDDescriptionType");
 // The printer's PPD as a file URL; kPMKeyNotFound for another type or a printer without PPD.
