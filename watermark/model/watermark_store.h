@@ -1,6 +1,8 @@
 #pragma once
 
+#include "bundle.h"
 #include "file_store.h"
+#include "status.h"
 #include "watermark_data.h"
 
 #include <QStringList>
@@ -15,59 +17,62 @@
 //   a watermark's name        dictionary: the record
 //   a font's PostScript name  data: the font as a Type 42 program
 //
-// What is read is kept until the file is another one. GUI thread or any other; a store is
-// read once at a time.
+// What was read is kept until the file is another one, without the fonts. Any thread.
+//
+// What cannot be written is said on standard error, with what to do.
 namespace kelvo {
 
 inline const QString kWatermarksFile = QStringLiteral("com.kelvo.printing.watermarks.plist");
 inline const QString kFaxImagesFile = QStringLiteral("com.kelvo.printing.faximage.plist");
 inline const QString kWatermarkListKey = QStringLiteral("WatermarkListEntries");
 
-// The record under its name. With a damaged file, which is set aside, or none, the store
-// begins anew with it. Whether it is written; a failure is a line on standard error.
-bool saveWatermarkData(const QString &fileName, const _WatermarkData &watermark);
+// The record under its name. Where there is no store it is begun with it; a damaged one is
+// set aside first. Nothing is written that has no name, or that of the list.
+void saveWatermarkData(const QString &fileName, const _WatermarkData &watermark);
 // Copies what is stored under `name` into the record; false, and a record of zeros, where
 // there is nothing. isText and the paper are left to the caller.
 bool loadWatermarkData(const QString &fileName, const QString &name, _WatermarkData *watermark);
 void removeWatermarkData(const QString &fileName, const QString &name);
-// Replaces the list; a null name or list does nothing.
+
+// Replaces the list; null arguments do nothing.
 void saveWatermarkList(const QString &fileName, const QStringList *names);
-// Whether there is a list. Without a file `names` stays as it is; without the list it is
-// emptied. `addItem`, if any, is told each name.
+// Whether there is a list. Without a file `names` stays as it is, without a list it becomes
+// empty; null arguments answer false. `addItem`, if any, is told each name.
 bool loadWatermarkList(const QString &fileName, QStringList *names,
                        const std::function<void(const QString &)> &addItem = {});
-// Only into a store that is there.
+
+// Only into a store that is there, and never in place of a watermark.
 void storeFontData(const QString &fileName, const QString &fontName, const QByteArray &data);
 // Appends the font's program, if there is one.
 void loadFontData(const QString &fileName, const QString &fontName, QByteArray *data);
+// Its size in bytes; none where the store does not have it.
+std::optional<qint64> storedFontSize(const QString &fileName, const QString &fontName);
 
-// The watermarks that a new user is given; 0.
+// The watermarks that a new user is given, where there is no list yet; 0.
 OSStatus CreateDefaultWatermarks(CFBundleRef bundle);
 
-// ---- what the panels do with it
-
-// What one of several dialogs adds, renames and removes, without losing what the others did:
-// record and list in one change under the lock. `names` is the list as it is stored then.
-// False when nothing could be written, with a line on standard error and `names` unchanged.
-bool addWatermark(const QString &fileName, const _WatermarkData &watermark, QStringList &names);
-bool replaceWatermark(const QString &fileName, const QString &oldName,
-                      const _WatermarkData &watermark, QStringList &names);
-bool deleteWatermark(const QString &fileName, const QString &name, QStringList &names);
-
 // The stored names; the defaults are made where there is no list. A first one whose record
-// has neither text nor file is dropped here, and stays in the file.
-QStringList watermarkNames(CFBundleRef bundle);
+// has neither text nor file is left out.
+QStringList loadOrCreateWatermarks(CFBundleRef bundle);
 
-// Why there can be no watermark of this name, for the user; empty where there can. `names` are
-// those that the store has, without the one that is edited.
-enum class NameProblem { None, Empty, Reserved, IsFont };
+// Record and list in one change, so that several dialogs lose nothing of one another's. The
+// answer is the list as it is stored then; the error has been said.
+Result<QStringList> addWatermark(const QString &fileName, const _WatermarkData &watermark);
+// Also where the old one has gone meanwhile: it is added then.
+Result<QStringList> replaceWatermark(const QString &fileName, const QString &oldName,
+                                     const _WatermarkData &watermark);
+Result<QStringList> deleteWatermark(const QString &fileName, const QString &name);
+
+// Why the store can have no watermark of that name.
+enum class NameProblem {
+    None,
+    Empty,
+    Reserved, // the list's own
+    IsFont,   // a font's program stands under it
+};
 NameProblem problemOfName(const QString &fileName, const QString &name);
 
-// Of the file; the same stamp, the same content.
+// The file; with the same stamp it holds the same.
 StampedFile watermarkStore(const QString &fileName);
-
-// What tells a stored font from another one; none where it is not stored. Nothing is read
-// that is known.
-std::optional<QByteArray> storedFontDigest(const QString &fileName, const QString &fontName);
 
 } // namespace kelvo

@@ -1,0 +1,180 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <!-- What a new user is given -->
+    <message>
+        <source>DraftWatermark</source>
+        <translation>Draft</translation>
+    </message>
+    <message>
+        <source>ConfidentialWatermark</source>
+        <translation>Confidential</translation>
+    </message>
+    <message>
+        <source>CopyWatermark</source>
+        <translation>Copy</translation>
+    </message>
+
+    <!-- The panel -->
+    <message>
+        <source>BookletWatermarkPanelTitle</source>
+        <translation>Booklet/Watermark</translation>
+    </message>
+    <message>
+        <source>Booklet Layout:</source>
+        <translation>&amp;Booklet layout:</translation>
+    </message>
+    <message>
+        <source>Booklet Layout Hint</source>
+        <translation>Two pages on each side of a sheet, in the order in which the folded sheets make a booklet.</translation>
+    </message>
+    <message>
+        <source>Booklet Layout Missing</source>
+        <translation>This device prints on one side of a sheet only, so it cannot lay out booklets.</translation>
+    </message>
+    <message>
+        <source>Page Borders:</source>
+        <translation>&amp;Page borders:</translation>
+    </message>
+    <message>
+        <source>Booklet Options... Title</source>
+        <translation>Booklet &amp;options…</translation>
+    </message>
+    <message>
+        <source>Watermark Title</source>
+        <translation>&amp;Watermark:</translation>
+    </message>
+    <message>
+        <source>Watermark Preview</source>
+        <translation>How the watermark looks on the paper</translation>
+    </message>
+    <message>
+        <source>Watermark Not Here</source>
+        <translation>This job names the watermark “%1”, which is not among yours. Nothing is printed in its place.</translation>
+    </message>
+    <message>
+        <source>Watermark Behind Hint</source>
+        <translation>Behind what the pages hold, on all pages.</translation>
+    </message>
+    <message>
+        <source>Watermark Blend Hint</source>
+        <translation>Blended with what the pages hold, on all pages.</translation>
+    </message>
+    <message>
+        <source>Watermark Front Hint</source>
+        <translation>In front of what the pages hold, on all pages.</translation>
+    </message>
+    <message>
+        <source>Watermark Behind First Hint</source>
+        <translation>Behind what page 1 holds, on that page only.</translation>
+    </message>
+    <message>
+        <source>Watermark Blend First Hint</source>
+        <translation>Blended with what page 1 holds, on that page only.</translation>
+    </message>
+    <message>
+        <source>Watermark Front First Hint</source>
+        <translation>In front of what page 1 holds, on that page only.</translation>
+    </message>
+    <message>
+        <source>Watermark Editor</source>
+        <translation>Watermark</translation>
+    </message>
+    <message>
+        <source>Watermark Commands</source>
+        <translation>&amp;Edit…</translation>
+    </message>
+    <message>
+        <source>Delete Watermark Header</source>
+        <translation>Delete this watermark?</translation>
+    </message>
+    <message>
+        <source>Delete Watermark Message</source>
+        <translation>“%1” is removed from your list of watermarks. This cannot be undone.</translation>
+    </message>
+    <message>
+        <source>Watermark Not Saved Header</source>
+        <translation>The watermark was not saved</translation>
+    </message>
+    <message>
+        <source>Watermark Not Saved Message</source>
+        <translation>Your list of watermarks is as it was. %1</translation>
+    </message>
+
+    <!-- The booklet dialog -->
+    <message>
+        <source>Booklet Options Title</source>
+        <translation>Booklet Options</translation>
+    </message>
+    <message>
+        <source>Booklet Creation</source>
+        <translation>Booklet Creation</translation>
+    </message>
+    <message>
+        <source>Booklet Finishing:</source>
+        <translation>Booklet finishing:</translation>
+    </message>
+    <message>
+        <source>Booklet Finishing None</source>
+        <translation>N&amp;one</translation>
+    </message>
+    <message>
+        <source>Booklet Fold Button</source>
+        <translation>&amp;Fold</translation>
+    </message>
+    <message>
+        <source>Booklet Fold and Staple</source>
+        <translation>Fold and &amp;staple</translation>
+    </message>
+    <message>
+        <source>Booklet Layout Group</source>
+        <translation>Booklet layout:</translation>
+    </message>
+    <message>
+        <source>Booklet Layout None</source>
+        <translation>&amp;None</translation>
+    </message>
+    <message>
+        <source>Booklet Layout Button</source>
+        <translation>&amp;Booklet layout</translation>
+    </message>
+    <message>
+        <source>Draw Outlines</source>
+        <translation>&amp;Draw outlines</translation>
+    </message>
+    <message>
+        <source>Fit to New Size Label</source>
+        <translation>Fit to ne&amp;w size:</translation>
+    </message>
+    <message>
+        <source>Gutter Label</source>
+        <translation>&amp;Gutter:</translation>
+    </message>
+    <message>
+        <source>Creep Label</source>
+        <translation>&amp;Creep:</translation>
+    </message>
+    <message>
+        <source>Gutter Range Label</source>
+        <translation>%1 to %2 points</translation>
+    </message>
+    <message>
+        <source>Creep Range Label</source>
+        <translation>%1 to %2 points per sheet</translation>
+    </message>
+    <message>
+        <source>Gutter Hint</source>
+        <translation>Free space at the fold, between the two pages of a side.</translation>
+    </message>
+    <message>
+        <source>Creep Hint</source>
+        <translation>How far the pages of each sheet move towards the fold, so that they stay in the middle where inner sheets stick out.</translation>
+    </message>
+    <message>
+        <source>Booklet Picture</source>
+        <translation>What becomes of the sheets</translation>
+    </message>
+</context>
+</TS>
