@@ -116,7 +116,6 @@ QDataStream &operator<<(QDataStream &stream, const Result<Value> &result)
 
 // What it is asked for: the picture of a page, or with number 0 to stop drawing.
 // The PDF is an argument of the program.
-inline constexpr int kMostDrawnPixels = 8192; // along either side; 4 times a large screen
 struct DrawingRequest
 {
     quint32 number = 0;

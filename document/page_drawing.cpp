@@ -72,7 +72,7 @@ bool PageDrawing::readAnswer(quint32 number, QImage &image)
     const auto header = qint64(sizeof answer);
     while (m_process->peek(reinterpret_cast<char *>(&answer), header) == header) {
         const QSize size(answer.width, answer.height);
-        const auto isSide = [](int pixels) { return pixels >= 0 && pixels <= kMostDrawnPixels; };
+        const auto isSide = [](int pixels) { return pixels >= 0 && pixels <= limits::drawnSide; };
         if (!isSide(answer.width) || !isSide(answer.height)) {
             stop();
             return false;

@@ -75,7 +75,8 @@ public:
 
     virtual void fill(const Color &color) = 0; // all of the page
 
-    // The picture, stretched to `rectangle`. A null one draws nothing.
+    // The picture, stretched to `rectangle`, which may reach beyond the page. A null one draws
+    // nothing.
     virtual void drawPicture(const Picture &picture, const QRectF &rectangle) = 0;
 
     // The text's origin, where its first baseline begins, comes to lie on `origin`. A
@@ -120,10 +121,11 @@ private:
 // say the file and what to do; the next call looks again.
 Result<const Library *> library(const QString &folder = libraryFolder());
 
-// The first page of a PDF that a Page wrote, fitted into `pixels`, which are at most 8192
-// along either side, on white paper or on nothing. Damaged where it cannot be drawn; else
-// errors as of library(), which this opens another one beside. Any thread. Not for documents
-// of others: those are read by a program of its own (page_drawing.h).
+// The first page of a PDF that a Page wrote, fitted into `pixels`, of which at most
+// limits::drawnSide along either side are taken, on white paper or on nothing; a null one where
+// there are none. Damaged where it cannot be drawn; else errors as of library(), which this
+// opens another one beside. Any thread. Not for documents of others: those are read by a
+// program of its own (page_drawing.h).
 Result<Picture> showPdf(const QByteArray &pdf, const QSize &pixels, bool isOnWhite,
                         const QString &folder = libraryFolder());
 

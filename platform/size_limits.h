@@ -38,6 +38,7 @@ inline constexpr int converterSeconds = 120;
 // takes 256 MB twice; what the libraries map is another 300 MB of addresses.
 inline constexpr qint64 drawingMemory = 1536 * MiB;
 inline constexpr int drawingSeconds = 15; // for one page
+inline constexpr int drawnSide = 8192;    // pixels of a page's picture; 4 times a large screen
 
 inline constexpr int fileLockWaitMs = 2000;   // how long a store's lock is waited for
 inline constexpr int optionValueBytes = 4000; // longest option value that always reached a filter

@@ -1,13 +1,11 @@
 #include "confinement.h"
 #include "font_folders.h"
 #include "helper_main.h"
-
-#include <poppler-qt6.h>
+#include "page_picture.h"
 
 #include <QFile>
 #include <QImage>
 
-#include <algorithm>
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
@@ -56,20 +54,7 @@ static QImage draw(const Poppler::Document &pdf, const DrawingRequest &request)
     const std::unique_ptr<Poppler::Page> page = pdf.page(request.page - 1);
     if (!page)
         return {};
-    const QSizeF size = page->pageSizeF(); // points
-    const QSize room =
-        QSize(request.width, request.height).boundedTo({kMostDrawnPixels, kMostDrawnPixels});
-    if (size.isEmpty() || room.isEmpty())
-        return {};
-    const double scale = std::min(room.width() / size.width(), room.height() / size.height());
-    const QSize fitted = (size * scale).toSize().expandedTo(QSize(1, 1));
-    const auto none = [](const QImage &, const QVariant &) {};
-    const auto never = [](const QVariant &) { return false; };
-    QImage image =
-        page->renderToImage(72 * scale, 72 * scale, 0, 0, fitted.width(), fitted.height(),
-                            Poppler::Page::Rotate0, none, never, isAskedAgain, QVariant());
-    if (isAskedAgain({}))
-        return {};
+    QImage image = pictureOfPage(*page, {request.width, request.height}, isAskedAgain);
     image.convertTo(QImage::Format_RGB32);
     return image;
 }

@@ -28,6 +28,8 @@ private slots:
     void measuresWhatIsDrawn();
     void drawsTextThatCanBeRead();
     void drawsOnAnyThread();
+    void showsPages();
+    void showsTheSameOnNothing();
 };
 
 namespace {
@@ -46,8 +48,7 @@ const Library &here()
     return *opened.value();
 }
 
-std::unique_ptr<Poppler::Document> pageWith(const QString &text, const TextStyle &style,
-                                            const QSizeF &size, const QPointF &origin)
+QByteArray pdfOf(const QSizeF &size, const std::function<void(Page &)> &draw)
 {
     QByteArray pdf;
     const auto write = [&pdf](const char *bytes, std::size_t count) {
@@ -57,10 +58,30 @@ std::unique_ptr<Poppler::Document> pageWith(const QString &text, const TextStyle
     Result<std::unique_ptr<Page>> page = here().beginPage(size, write);
     if (!page)
         qFatal("%s", qPrintable(page.reason()));
-    page.value()->drawText(text, style, origin);
+    draw(*page.value());
     if (const Result<void> finished = page.value()->finish(); !finished)
         qFatal("%s", qPrintable(finished.reason()));
-    return Poppler::Document::loadFromData(pdf);
+    return pdf;
+}
+
+std::unique_ptr<Poppler::Document> pageWith(const QString &text, const TextStyle &style,
+                                            const QSizeF &size, const QPointF &origin)
+{
+    return Poppler::Document::loadFromData(
+        pdfOf(size, [&](Page &page) { page.drawText(text, style, origin); }));
+}
+
+QImage shown(const QByteArray &pdf, const QSize &pixels, bool isOnWhite)
+{
+    const Result<Picture> picture = showPdf(pdf, pixels, isOnWhite);
+    if (!picture)
+        qFatal("%s", qPrintable(picture.reason()));
+    const auto &[size, bytes] = picture.value();
+    if (bytes.size() != qsizetype(4) * size.width() * size.height())
+        qFatal("%d bytes", int(bytes.size()));
+    return QImage(reinterpret_cast<const uchar *>(bytes.constData()), size.width(), size.height(),
+                  QImage::Format_ARGB32_Premultiplied)
+        .copy();
 }
 
 } // namespace
@@ -78,7 +99,7 @@ void TestDrawing::isOpenedWithTheFirstCall()
     QVERIFY(hasDrawingLibraries());
     QCOMPARE(library().value(), first.value());
     QLibrary opened(libraryFolder() + u"/libkelvo_drawing.so"_s);
-    auto *entry = reinterpret_cast<Entry *>(opened.resolve(entryName));
+    auto *entry = reinterpret_cast<Entry<Library> *>(opened.resolve(drawingEntry));
     QVERIFY(entry && !entry("0.9")); // another version's
 }
 
@@ -91,15 +112,20 @@ void TestDrawing::saysWhyItCannotBeOpened()
     };
     for (const auto &[bytes, code] : rows) {
         const QTemporaryDir folder;
-        const QString path = folder.filePath(u"libkelvo_drawing.so"_s);
-        if (!bytes.isEmpty())
-            putFile(path, bytes);
+        for (const char *name : {"libkelvo_drawing.so", "libkelvo_pdf_view.so"}) {
+            if (!bytes.isEmpty())
+                putFile(folder.filePath(QLatin1String(name)), bytes);
+        }
         const Result<const Library *> opened = library(folder.path());
-        QVERIFY(!opened);
-        QCOMPARE(opened.error().code, code);
-        QCOMPARE(opened.error().where, path);
-        QVERIFY2(opened.error().detail.contains(u"install kelvo-print anew"_s),
-                 qPrintable(opened.reason()));
+        const Result<Picture> picture = showPdf("%PDF-", {9, 9}, true, folder.path());
+        QVERIFY(!opened && !picture);
+        QCOMPARE(opened.error().where, folder.filePath(u"libkelvo_drawing.so"_s));
+        QCOMPARE(picture.error().where, folder.filePath(u"libkelvo_pdf_view.so"_s));
+        for (const Error &error : {opened.error(), picture.error()}) {
+            QCOMPARE(error.code, code);
+            QVERIFY2(error.detail.contains(u"install kelvo-print anew"_s),
+                     qPrintable(error.text()));
+        }
     }
 }
 
@@ -208,6 +234,67 @@ void TestDrawing::drawsOnAnyThread()
         }
     }
     QCOMPARE(same, 4);
+}
+
+void TestDrawing::showsPages()
+{
+    // Left half red, upper half of what is right of it blue at a half.
+    const Picture dot{{1, 1}, QByteArray("\0\0\xff\xff", 4)};
+    const Picture blue{{1, 1}, QByteArray("\xff\0\0\xff", 4)};
+    const QByteArray pdf = pdfOf({200, 100}, [&](Page &page) {
+        page.drawPicture(dot, {0, 0, 100, 100});
+        page.setOpacity(0.5);
+        page.drawPicture(blue, {100, 50, 100, 50});
+    });
+
+    const QImage onWhite = shown(pdf, {400, 400}, true); // fits by its width
+    QCOMPARE(onWhite.size(), QSize(400, 200));
+    QCOMPARE(onWhite.pixel(100, 100), qRgba(255, 0, 0, 255));
+    QVERIFY(qAbs(qRed(onWhite.pixel(300, 50)) - 128) < 3);
+    QCOMPARE(onWhite.pixel(300, 150), qRgba(255, 255, 255, 255));
+    const QImage onNothing = shown(pdf, {400, 400}, false);
+    QCOMPARE(onNothing.pixel(300, 150), 0U);
+    const QRgb half = onNothing.pixel(300, 50); // multiplied by its alpha
+    QVERIFY(qAbs(qAlpha(half) - 128) < 3 && qAbs(qBlue(half) - 128) < 3 && qRed(half) < 3);
+
+    // Of a row of four, one reaches beyond the page at either side, the upper half of all too.
+    const Picture row{{4, 1}, QByteArray("\0\0\xff\xff\xff\0\0\xff\0\xff\0\xff\0\0\xff\xff", 16)};
+    const QByteArray beyond = pdfOf({200, 100}, [&](Page &page) {
+        page.drawPicture(row, {-100, 50, 400, 100});
+    });
+    const QImage middle = shown(beyond, {200, 100}, true);
+    QVERIFY(qBlue(middle.pixel(2, 25)) > 200 && qGreen(middle.pixel(2, 25)) < 50);
+    QVERIFY(qGreen(middle.pixel(197, 2)) > 200 && qBlue(middle.pixel(197, 2)) < 50);
+    QCOMPARE(middle.pixel(100, 75), qRgba(255, 255, 255, 255));
+
+    QCOMPARE(shown(pdf, {9000, 2}, true).size(), QSize(4, 2));
+    QCOMPARE(shown(pdf, {9000, 9000}, true).width(), 8192);
+    QVERIFY(showPdf(pdf, {0, 9}, true).value().isNull());
+    for (const QByteArray &damaged : {QByteArray(), QByteArray("no PDF"), pdf.first(60)})
+        QCOMPARE(showPdf(damaged, {9, 9}, true).error().code, Error::Code::Damaged);
+}
+
+// Nothing of the paper clings to edges: laid on white, it is as if it had been drawn there.
+void TestDrawing::showsTheSameOnNothing()
+{
+    const QByteArray pdf = pdfOf({200, 100}, [](Page &page) {
+        page.setOpacity(0.6);
+        page.drawText(u"Draft"_s, {u"LiberationSans"_s, 60, {0, 0, 1, 1}, 15}, {20, 20});
+    });
+    const QImage expected = shown(pdf, {300, 150}, true);
+    const QImage drawn = shown(pdf, {300, 150}, false);
+    int edges = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) {
+            const QRgb pixel = drawn.pixel(x, y);
+            const int white = 255 - qAlpha(pixel);
+            QVERIFY(qRed(pixel) <= qAlpha(pixel) && qBlue(pixel) <= qAlpha(pixel));
+            QVERIFY(qAbs(qRed(pixel) + white - qRed(expected.pixel(x, y))) < 4);
+            QVERIFY(qAbs(qBlue(pixel) + white - qBlue(expected.pixel(x, y))) < 4);
+            edges += qAlpha(pixel) > 20 && qAlpha(pixel) < 130;
+        }
+    }
+    QVERIFY(edges > 100);
 }
 
 QTEST_GUILESS_MAIN(TestDrawing)

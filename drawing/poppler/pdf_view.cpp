@@ -1,0 +1,65 @@
+#include "library_entry.h"
+#include "page_picture.h"
+#include "texts.h"
+
+#include <QMutex>
+
+#include <cstring>
+
+namespace kelvo::drawing {
+
+namespace {
+
+Error undrawable()
+{
+    return Error{Error::Code::Damaged, translate("Drawing", "page"),
+                 translate("Drawing", "it cannot be shown: what was drawn is no PDF of a page")};
+}
+
+class PopplerView final : public PdfView
+{
+public:
+    PopplerView()
+    {
+        // It tells every oddity on standard error.
+        Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
+    }
+
+    Result<Picture> show(const QByteArray &pdf, const QSize &pixels, bool isOnWhite) const override
+    {
+        // poppler has settings and fonts that all documents of a process share.
+        const QMutexLocker lock(&m_mutex);
+        const std::unique_ptr<Poppler::Document> document = Poppler::Document::loadFromData(pdf);
+        if (!document || document->isLocked())
+            return undrawable();
+        document->setRenderHint(Poppler::Document::Antialiasing);
+        document->setRenderHint(Poppler::Document::TextAntialiasing);
+        document->setRenderHint(Poppler::Document::IgnorePaperColor, !isOnWhite);
+        document->setPaperColor(Qt::white);
+        const std::unique_ptr<Poppler::Page> page = document->page(0);
+        QImage image = page ? pictureOfPage(*page, pixels) : QImage();
+        if (image.isNull())
+            return undrawable();
+        image.convertTo(QImage::Format_ARGB32_Premultiplied);
+        // Rows of four-byte pixels have no gaps.
+        return Picture{
+            image.size(),
+            QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes())};
+    }
+
+private:
+    mutable QMutex m_mutex;
+};
+
+} // namespace
+
+} // namespace kelvo::drawing
+
+extern "C" Q_DECL_EXPORT const kelvo::drawing::PdfView *kelvoPdfView(const char *version)
+{
+    if (std::strcmp(version, KELVO_VERSION) != 0)
+        return nullptr;
+    // Never destroyed: a thread may outlive every static object.
+    static const auto &view = *new kelvo::drawing::PopplerView;
+    return &view;
+}
