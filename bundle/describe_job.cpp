@@ -1,6 +1,7 @@
 #include "describe_job.h"
 
 #include "advanced_description.h"
+#include "booklet_watermark_description.h"
 #include "image_options_description.h"
 #include "paper_output_description.h"
 #include "special_pages_description.h"
@@ -24,6 +25,7 @@ void describe(const DescribedJob &job, JobDescription &description)
     describePaperOutput(job, description);
     describeSpecialPages(job, description);
     describeImageOptions(job, description);
+    describeBookletWatermark(job, description);
     describeAdvanced(job, description);
     PanelDescription shell(job, "PDEShell", description);
     for (const char *name : housekeeping)

@@ -19,6 +19,7 @@ struct ImportedPicture
     QSizeF naturalSize; // points: one for each pixel of the file, or of a drawing's own size
     QSize size;         // pixels of `bytes`: fewer than the file has where it has very many
     QByteArray bytes;
+    bool isNull() const { return size.isEmpty(); }
     friend bool operator==(const ImportedPicture &, const ImportedPicture &) = default;
 };
 

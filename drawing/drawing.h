@@ -75,7 +75,8 @@ public:
 
     virtual void fill(const Color &color) = 0; // all of the page
 
-    // The picture, stretched to `rectangle`. A null one draws nothing.
+    // The picture, stretched to `rectangle`, which may reach beyond the page. A null one draws
+    // nothing.
     virtual void drawPicture(const Picture &picture, const QRectF &rectangle) = 0;
 
     // The text's origin, where its first baseline begins, comes to lie on `origin`. A

@@ -25,6 +25,7 @@ inline constexpr qint64 secretBytes = 4 * KiB; // a file given by --secret
 inline constexpr qint64 documentBytes = 2048 * MiB;
 inline constexpr qint64 pictureBytes = 256 * MiB; // a picture file before decoding
 inline constexpr qint64 picturePixels = 200'000'000;
+inline constexpr qint64 fontBytes = 64 * MiB; // the largest in the field have 40
 inline constexpr qint64 textBytes = 64 * MiB; // plain text; some 15,000 pages
 inline constexpr int documentPages = 100'000; // made of a text, or named by page ranges
 

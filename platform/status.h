@@ -11,6 +11,7 @@ using OSStatus = std::int32_t;
 inline constexpr OSStatus noErr = 0;
 inline constexpr OSStatus paramErr = -50;               // an argument is missing
 inline constexpr OSStatus fnfErr = -43;                 // no such file
+inline constexpr OSStatus memFullErr = -108;            // there is no such memory
 inline constexpr OSStatus kComboBoxNoValue = 1000;      // a history field without text
 inline constexpr OSStatus kNoSuchProperty = -30582;     // a control has no such property
 inline constexpr OSStatus kPMInvalidPDEContext = -9530; // bad panel context or parameter

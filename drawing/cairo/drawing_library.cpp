@@ -4,6 +4,7 @@
 #include "text_layout.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace kelvo::drawing {
@@ -14,6 +15,39 @@ struct SurfaceRelease
 {
     void operator()(cairo_surface_t *surface) const { cairo_surface_destroy(surface); }
 };
+
+// A part of a picture, and where it lies on the page; y counts down.
+struct Part
+{
+    QRect pixels;
+    QRectF place;
+};
+
+// What the page shows of a picture of `size` in `place`: whoever shows a PDF stretches its
+// pictures as they are, and looks later what is beside the page.
+Part visiblePart(const QSize &size, QRectF place, const QSizeF &page)
+{
+    // Of pixels that are larger than the page one or the corner of four is seen, however large.
+    const double largest = std::max(page.width(), page.height());
+    const QPointF middle = place.center();
+    place.setSize(place.size().boundedTo(QSizeF(size) * largest));
+    place.moveCenter(middle);
+
+    const QRectF seen = place & QRectF(QPointF(), page);
+    if (!(seen.width() > 0 && seen.height() > 0)) // nor where a number is none
+        return {};
+    const QSizeF pixel(place.width() / size.width(), place.height() / size.height());
+    const QPointF from = seen.topLeft() - place.topLeft();
+    const QPointF to = seen.bottomRight() - place.topLeft();
+    const QRect pixels = QRect(QPoint(static_cast<int>(std::floor(from.x() / pixel.width())),
+                                      static_cast<int>(std::floor(from.y() / pixel.height()))),
+                               QPoint(static_cast<int>(std::ceil(to.x() / pixel.width())) - 1,
+                                      static_cast<int>(std::ceil(to.y() / pixel.height())) - 1))
+        & QRect(QPoint(), size);
+    return {pixels,
+            {place.x() + pixels.x() * pixel.width(), place.y() + pixels.y() * pixel.height(),
+             pixels.width() * pixel.width(), pixels.height() * pixel.height()}};
+}
 
 class PdfPage final : public Page
 {
@@ -46,16 +80,22 @@ public:
     {
         if (picture.isNull() || rectangle.isEmpty())
             return;
+        const QRectF upright(rectangle.x(), m_size.height() - rectangle.y() - rectangle.height(),
+                             rectangle.width(), rectangle.height());
+        const auto [pixels, place] = visiblePart(picture.size, upright, m_size);
+        if (pixels.isEmpty())
+            return;
+        const int stride = 4 * picture.size.width();
+        const char *first =
+            picture.bytes.constData() + qsizetype(stride) * pixels.y() + 4 * pixels.x();
         // Only read, though cairo's interface cannot say so.
-        auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(picture.bytes.data()));
+        auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(first));
         const std::unique_ptr<cairo_surface_t, SurfaceRelease> surface(
-            cairo_image_surface_create_for_data(bytes, CAIRO_FORMAT_ARGB32, picture.size.width(),
-                                                picture.size.height(), 4 * picture.size.width()));
+            cairo_image_surface_create_for_data(bytes, CAIRO_FORMAT_ARGB32, pixels.width(),
+                                                pixels.height(), stride));
         cairo_save(m_context);
-        cairo_translate(m_context, rectangle.x(),
-                        m_size.height() - rectangle.y() - rectangle.height());
-        cairo_scale(m_context, rectangle.width() / picture.size.width(),
-                    rectangle.height() / picture.size.height());
+        cairo_translate(m_context, place.x(), place.y());
+        cairo_scale(m_context, place.width() / pixels.width(), place.height() / pixels.height());
         cairo_set_source_surface(m_context, surface.get(), 0, 0);
         cairo_paint_with_alpha(m_context, m_opacity);
         cairo_restore(m_context);

@@ -98,7 +98,7 @@ bool isChecked(const MenuItem &item, const PaperOutputSettings &settings)
 void leaveBooklet(PaperOutputSettings &settings)
 {
     if (settings.isBooklet()) {
-        settings.booklet = kBookletOff;
+        settings.booklet.layout = kBookletOff;
         settings.duplex = kPlexDuplex;
     }
     if (settings.finishing.options == kFinishingBooklet) {
@@ -269,13 +269,11 @@ std::int32_t shownStaple(const Finishing &finishing)
     return finishing.hasUnknownStaple ? kNoPpdChoice : chosenStaple(finishing);
 }
 
-void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, std::int32_t booklet,
-                 const BookletLayout &layout)
+void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, const BookletSettings &booklet)
 {
     const bool wasBooklet = settings.isBooklet();
     settings.finishing.fold = fold;
     settings.booklet = booklet;
-    settings.bookletLayout = layout;
     if (settings.isBooklet())
         settings.duplex = kPlexDuplexShort;
     else if (wasBooklet)
@@ -284,7 +282,7 @@ void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, std::int32_t 
 
 void UnselectBooklet(PaperOutputSettings &settings)
 {
-    settings.booklet = kBookletOff;
+    settings.booklet.layout = kBookletOff;
     settings.duplex = kPlexDuplex;
     if (settings.finishing.options == kFinishingBooklet)
         settings.finishing.options = kFinishingNone;

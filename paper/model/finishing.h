@@ -1,5 +1,6 @@
 #pragma once
 
+#include "booklet_settings.h"
 #include "device.h"
 #include "menu.h"
 
@@ -11,24 +12,18 @@
 // commands do.
 namespace kelvo {
 
-struct BookletLayout;
 struct PaperOutputSettings;
 
-// com.kelvo.print.FinishingOptions
-inline constexpr std::int32_t kFinishingNone = 0;
+// com.kelvo.print.FinishingOptions, beside a booklet's
 inline constexpr std::int32_t kFinishingSingleStaple = 4;
 inline constexpr std::int32_t kFinishingDualStaple = 9;
-inline constexpr std::int32_t kFinishingBooklet = 24;
 inline constexpr std::int32_t kFinishingPunch = 30;
 inline constexpr std::int32_t kFinishingMultipleStaples = 53;
 
-// "KVFold"
-inline constexpr std::int32_t kFoldNone = 1;
+// "KVFold", beside a booklet's
 inline constexpr std::int32_t kFoldC = 19;
 inline constexpr std::int32_t kFoldZ = 20;
 inline constexpr std::int32_t kFoldZHalfSheet = 36;
-inline constexpr std::int32_t kFoldBi = 43;          // without staple
-inline constexpr std::int32_t kFoldBiAndStaple = 53; // a booklet
 
 // "KVPunch"
 inline constexpr std::int32_t kPunchNone = 1;
@@ -127,8 +122,7 @@ std::int32_t chosenStaple(const Finishing &finishing);
 std::int32_t shownStaple(const Finishing &finishing);
 
 // What the booklet dialog's OK does.
-void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, std::int32_t booklet,
-                 const BookletLayout &layout);
+void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, const BookletSettings &booklet);
 // Ends booklet layout: duplex 2, and finishing options 24 become 0. The panel
 // shows it.
 void UnselectBooklet(PaperOutputSettings &settings);

@@ -18,9 +18,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr std::int32_t mostGutter = 216; // points, of the booklet's dialog
-constexpr std::int32_t mostCreep = 10;   // tenths, likewise
-
 QString mapText(const Device &device, const SettingMap *map, std::int32_t value)
 {
     const char *key = keyOfValue(map, value);
@@ -205,28 +202,6 @@ void describeFinishing(const Finishing &finishing, PanelDescription &panel)
     panel.add("FinishingCustom", "Custom Finishing", finishing.custom, kMoreFinishingButton);
 }
 
-void describeBooklet(const PaperOutputSettings &settings, PanelDescription &panel,
-                     JobDescription &description)
-{
-    const Device &device = panel.job().device;
-    // A ticket may say more than the booklet's dialog does.
-    BookletLayout layout = settings.bookletLayout;
-    layout.gutter = std::clamp(layout.gutter, 0, mostGutter);
-    layout.creep = std::clamp(layout.creep, 0, mostCreep);
-    const bool drawsBorders = layout.pageBorders != 1;
-    const QString words =
-        formatted(device.text(drawsBorders ? "Booklet with Borders in Words" : "Booklet in Words"),
-                  {QLocale().toString(layout.gutter), QLocale().toString(layout.creep / 10.0)});
-    panel.add("BookletLayout", "Booklet Layout", settings.isBooklet() ? words : QString(),
-              kFinishingButton);
-    for (const char *name : {"BookletDrawOutlines", "BookletForceNewSize", "Gutter", "Creep"})
-        panel.leaveUnspoken(name);
-    if (settings.isBooklet())
-        description.imposition = {.gutter = double(layout.gutter),
-                                  .creep = layout.creep / 10.0,
-                                  .drawsBorders = drawsBorders};
-}
-
 } // namespace
 
 void describePaperOutput(const DescribedJob &job, JobDescription &description)
@@ -240,7 +215,6 @@ void describePaperOutput(const DescribedJob &job, JobDescription &description)
     describeSides(settings, panel);
     panel.addChoice("KVColorMode", kOutputColorPopup);
     describeFinishing(settings.finishing, panel);
-    describeBooklet(settings, panel, description);
     panel.addChoice("OutputBin", kOutputDestinationPopup);
     panel.addChoice("KVFrontCoverSheet", kCoversButton);
     panel.addChoice("KVBackCoverSheet", kCoversButton);

@@ -12,7 +12,6 @@ namespace kelvo {
 namespace {
 
 const QString kClient = QStringLiteral("com.kelvo.print");
-const QString kShellClient = QStringLiteral("K"); // of gutter, creep and new size
 const QString kDuplexingKey = QStringLiteral("com.apple.print.PrintSettings.PMDuplexing");
 
 const QString mediaTypeKey = QStringLiteral("MediaType");
@@ -35,14 +34,14 @@ std::int32_t number(const Ticket &ticket, const char *name, std::int32_t whenAbs
     return integer32(entry(ticket, name)).value_or(whenAbsent);
 }
 
-void setEntry(Ticket &ticket, const char *name, QVariant value, const QString &client = kClient)
+void setEntry(Ticket &ticket, const char *name, QVariant value)
 {
-    setValue(ticket, client, ticketKey(name), std::move(value));
+    setValue(ticket, kClient, ticketKey(name), std::move(value));
 }
 
-void setNumber(Ticket &ticket, const char *name, qint64 value, const QString &client = kClient)
+void setNumber(Ticket &ticket, const char *name, qint64 value)
 {
-    setEntry(ticket, name, value, client);
+    setEntry(ticket, name, value);
 }
 
 // The value of the current choice, or of the PPD's default; `whenAbsent` where
@@ -152,43 +151,6 @@ void writeJobType(const PaperOutputSettings &settings, Ticket &ticket)
     setOrRemove(options, saveDispositionKey, isSaved, qint64(job.saveDisposition));
     setOrRemove(options, savedJobFormatKey, isSaved, qint64(job.fileFormat));
     setEntry(ticket, "JobType", options);
-}
-
-void readBooklet(PaperOutputSettings &settings, const Ticket &ticket)
-{
-    settings.bookletLayout = {};
-    if (!boolean(entry(ticket, "BookletLayout")).value_or(false)) {
-        settings.booklet = kBookletOff;
-        return;
-    }
-    settings.booklet = kBookletOn;
-    BookletLayout &layout = settings.bookletLayout;
-    layout.pageBorders = number(ticket, "BookletDrawOutlines", layout.pageBorders);
-    layout.gutter = number(ticket, "Gutter", layout.gutter);
-    layout.creep = number(ticket, "Creep", layout.creep);
-    if (boolean(entry(ticket, "BookletForceNewSize")).value_or(false))
-        layout.newSize = settings.jobStock.size();
-}
-
-// A booklet's sheets may have another size than the document's pages.
-Stock stockForTicket(const PaperOutputSettings &settings)
-{
-    Stock stock = settings.jobStock;
-    if (settings.isBooklet())
-        stock.setSize(settings.bookletLayout.newSize);
-    return stock;
-}
-
-void writeBooklet(const PaperOutputSettings &settings, Ticket &ticket)
-{
-    setEntry(ticket, "BookletLayout", settings.isBooklet());
-    if (!settings.isBooklet())
-        return;
-    const BookletLayout &layout = settings.bookletLayout;
-    setNumber(ticket, "BookletDrawOutlines", layout.pageBorders);
-    setEntry(ticket, "BookletForceNewSize", layout.newSize != kUnset, kShellClient);
-    setNumber(ticket, "Gutter", layout.gutter, kShellClient);
-    setNumber(ticket, "Creep", layout.creep, kShellClient);
 }
 
 void readDuplex(PaperOutputSettings &settings, const Ticket &ticket, const PpdFile *ppd)
@@ -304,7 +266,8 @@ void readPaperOutput(PaperOutputSettings &settings, const Ticket &printSettings,
     readJobType(settings, printSettings);
     settings.faxOptions = dictionary(entry(printSettings, "FaxOptions"));
     settings.faxRecipients = array(entry(printSettings, "FaxRecipientList"));
-    readBooklet(settings, printSettings);
+    settings.booklet = {};
+    readBooklet(settings.booklet, printSettings);
     readDuplex(settings, printSettings, ppd);
     readFinishing(settings.finishing, printSettings, ppd);
     readCovers(settings.frontCover, settings.backCover, printSettings, device);
@@ -312,7 +275,7 @@ void readPaperOutput(PaperOutputSettings &settings, const Ticket &printSettings,
 
 void writePaperOutput(const PaperOutputSettings &settings, Ticket &printSettings, bool opened)
 {
-    setEntry(printSettings, "JobLevelStock", stockForTicket(settings).asTicket());
+    setEntry(printSettings, "JobLevelStock", settings.jobStock.asTicket());
     setChoiceValue(printSettings, "MediaColor", settings.jobStock.color());
     setChoiceValue(printSettings, "MediaType", settings.jobStock.type());
     setChoiceValue(printSettings, "OutputBin", settings.outputBin);
@@ -323,7 +286,7 @@ void writePaperOutput(const PaperOutputSettings &settings, Ticket &printSettings
         setEntry(printSettings, "FaxOptions", *settings.faxOptions);
     if (settings.faxRecipients)
         setEntry(printSettings, "FaxRecipientList", *settings.faxRecipients);
-    writeBooklet(settings, printSettings);
+    writeBooklet(settings.booklet, printSettings);
     if (opened)
         writeDuplex(settings, printSettings);
     writeFinishing(settings, printSettings);

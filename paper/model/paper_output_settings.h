@@ -31,8 +31,7 @@
 //     SaveDisposition               integer  only for saved jobs
 //     SavedJobFormat                integer  only for saved jobs
 //   FaxOptions, FaxRecipientList  dictionary, array; only when there are any
-//   BookletLayout                 boolean
-//   BookletDrawOutlines, BookletForceNewSize, Gutter, Creep   with booklet layout
+//   what booklet_settings.h says
 //   FinishingDuplex               integer  also under PMDuplexing
 //   FinishingOptions, FinishingOffset, FinishingOffsetEnableSubset,
 //   FinishingSlipSheet, FinishingBindValue   integer
@@ -43,19 +42,6 @@
 // KVSlipSheetSource, Duplex, KVFold, KVPunch, StapleLocation, KVFrontCoverSheet and
 // KVBackCoverSheet. A choice that the keyword map does not have stays in the ticket.
 namespace kelvo {
-
-inline constexpr std::int32_t kBookletOn = 1, kBookletOff = 2; // EnabledDisabledMap
-
-// What the booklet dialog is handed and gives back.
-struct BookletLayout
-{
-    std::int32_t pageBorders = 1;  // PageBordersMap: 1 none, 2 drawn
-    std::int32_t gutter = 24;      // points, 0 to 216
-    std::int32_t creep = 0;        // tenths, 0 to 10
-    std::int32_t newSize = kUnset; // PageSizeMap; kUnset: the document's own
-
-    friend bool operator==(const BookletLayout &, const BookletLayout &) = default;
-};
 
 // Numbers are ticket values.
 struct PaperOutputSettings
@@ -78,13 +64,12 @@ struct PaperOutputSettings
     std::optional<Dictionary> faxOptions;
     std::optional<Array> faxRecipients; // one dictionary each, as in the ticket
 
-    std::int32_t booklet = kBookletOff;
-    BookletLayout bookletLayout;
+    BookletSettings booklet;
     Finishing finishing;
 
     std::optional<Cover> frontCover, backCover;
 
-    bool isBooklet() const { return booklet == kBookletOn; }
+    bool isBooklet() const { return booklet.isOn(); }
 
     friend bool operator==(const PaperOutputSettings &, const PaperOutputSettings &) = default;
 };

@@ -55,18 +55,9 @@ void chooseJobType(_PaperOutputContext &panel)
 
 void createBooklet(_PaperOutputContext &panel)
 {
-    const BookletLayout &layout = panel.settings.bookletLayout;
-    _BookletCreationParams params{panel.bundle,
-                                  panel.settings.finishing.fold,
-                                  panel.settings.booklet,
-                                  layout.pageBorders,
-                                  layout.newSize,
-                                  layout.gutter,
-                                  layout.creep};
-    if (RunModalBookletCreationDialog(&params, panel.content) != noErr)
-        return;
-    takeBooklet(panel.settings, params.fold, params.booklet,
-                {params.pageBorders, params.gutter, params.creep, params.newSize});
+    _BookletCreationParams params = paramsOf(panel.settings.booklet, panel.settings.finishing.fold);
+    if (RunModalBookletCreationDialog(panel.device, &params, panel.content) == noErr)
+        takeBooklet(panel.settings, params.fold, bookletOf(params));
 }
 
 void editCovers(_PaperOutputContext &panel)

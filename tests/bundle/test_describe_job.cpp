@@ -120,7 +120,7 @@ void TestDescribeJob::initTestCase()
 JobDescription TestDescribeJob::describe(const Ticket &ticket, const PpdFile *ppd) const
 {
     const Ticket pageFormat;
-    const JobToDescribe job{&ticket, &pageFormat, ppd, m_bundle, {}};
+    const JobToDescribe job{&ticket, &pageFormat, ppd, m_bundle};
     JobDescription description;
     if (KelvoDescribeJob(&job, &description) != noErr)
         qFatal("nothing was described");
@@ -203,6 +203,14 @@ void TestDescribeJob::saysWhatIsSet_data()
     row("a booklet beyond its dialog",
         ticketOf({{"BookletLayout", true}, {"Gutter", -9}, {"Creep", 2'000'000'000}}),
         {"Booklet layout: gutter 0 pt, creep 1"});
+    row("a booklet of another size",
+        ticketOf({{"BookletLayout", true},
+                  {"BookletDrawOutlines", 2},
+                  {"BookletForceNewSize", true},
+                  {"JobLevelStock", Dictionary{{"Size", 5}}}}),
+        {"Booklet layout: gutter 24 pt, creep 0, page borders, fit to A3 (297 × 420 mm)"});
+    row("a watermark of somebody else", ticketOf({{"watermark.Watermark", "Hall-3 only"}}),
+        {"Watermark: Hall-3 only is not among your watermarks; none is printed"});
     row("values of later days", ticketOf({{"FinishingOffset", 77}, {"FinishingBindValue", 99}}),
         {"Offset: 77", "Bind: 99"});
     row("the printer's own lightness", ticketOf({{"PrinterDefaultLightness", true}}),
@@ -349,7 +357,7 @@ void TestDescribeJob::readsListsAgainWhenTheyChange()
     JobDescription description;
     const auto inserts = [&](const QVariant &list) {
         const Ticket ticket = pagesOf(list, {}), pageFormat;
-        const JobToDescribe job{&ticket, &pageFormat, m_ppd.get(), m_bundle, {}};
+        const JobToDescribe job{&ticket, &pageFormat, m_ppd.get(), m_bundle};
         KelvoDescribeJob(&job, &description);
         return description.sheets.inserts;
     };
@@ -403,8 +411,8 @@ void TestDescribeJob::refusesNothing()
 {
     const Ticket ticket;
     JobDescription description;
-    const JobToDescribe without{nullptr, &ticket, m_ppd.get(), m_bundle, {}};
-    const JobToDescribe complete{&ticket, &ticket, m_ppd.get(), m_bundle, {}};
+    const JobToDescribe without{nullptr, &ticket, m_ppd.get(), m_bundle};
+    const JobToDescribe complete{&ticket, &ticket, m_ppd.get(), m_bundle};
     QCOMPARE(KelvoDescribeJob(nullptr, &description), paramErr);
     QCOMPARE(KelvoDescribeJob(&without, &description), paramErr);
     QCOMPARE(KelvoDescribeJob(&complete, nullptr), paramErr);

@@ -257,6 +257,16 @@ void TestDrawing::showsPages()
     const QRgb half = onNothing.pixel(300, 50); // multiplied by its alpha
     QVERIFY(qAbs(qAlpha(half) - 128) < 3 && qAbs(qBlue(half) - 128) < 3 && qRed(half) < 3);
 
+    // Of a row of four, one reaches beyond the page at either side, the upper half of all too.
+    const Picture row{{4, 1}, QByteArray("\0\0\xff\xff\xff\0\0\xff\0\xff\0\xff\0\0\xff\xff", 16)};
+    const QByteArray beyond = pdfOf({200, 100}, [&](Page &page) {
+        page.drawPicture(row, {-100, 50, 400, 100});
+    });
+    const QImage middle = shown(beyond, {200, 100}, true);
+    QVERIFY(qBlue(middle.pixel(2, 25)) > 200 && qGreen(middle.pixel(2, 25)) < 50);
+    QVERIFY(qGreen(middle.pixel(197, 2)) > 200 && qBlue(middle.pixel(197, 2)) < 50);
+    QCOMPARE(middle.pixel(100, 75), qRgba(255, 255, 255, 255));
+
     QCOMPARE(shown(pdf, {9000, 2}, true).size(), QSize(4, 2));
     QCOMPARE(shown(pdf, {9000, 9000}, true).width(), 8192);
     QVERIFY(showPdf(pdf, {0, 9}, true).value().isNull());

@@ -26,7 +26,7 @@ QString stateOf(const PaperOutputSettings &context)
 {
     const Finishing &finishing = context.finishing;
     return QStringLiteral("booklet %1 duplex %2 options %3 fold %4 punch %5/%6 staples %7,%8,%9")
-        .arg(context.booklet)
+        .arg(context.booklet.layout)
         .arg(context.duplex)
         .arg(finishing.options)
         .arg(finishing.fold)
@@ -131,7 +131,7 @@ void TestFinishing::followsTheMenu()
     QTEST(stateOf(context), "plain");
 
     context = {};
-    context.booklet = kBookletOn;
+    context.booklet.layout = kBookletOn;
     context.duplex = kPlexDuplexShort;
     context.finishing.options = kFinishingBooklet;
     context.finishing.fold = kFoldBiAndStaple;
@@ -182,7 +182,7 @@ void TestFinishing::checksWhatIsChosen()
     QFETCH(QString, checked);
     const DeviceSession device(QStringLiteral("full"));
     PaperOutputSettings context;
-    context.booklet = booklet;
+    context.booklet.layout = booklet;
     context.finishing = finishing;
 
     Menu menu;
@@ -229,7 +229,7 @@ void TestFinishing::summarizes()
     QFETCH(Finishing, finishing);
     const DeviceSession session(device);
     PaperOutputSettings context;
-    context.booklet = booklet;
+    context.booklet.layout = booklet;
     context.finishing = finishing;
 
     QTEST(CreateFinishingString(context, currentDevice()).replace(u'\n', u'|'), "summary");
@@ -309,7 +309,7 @@ void TestFinishing::showsWhatComesOut()
     QFETCH(std::int32_t, booklet);
     QFETCH(Finishing, finishing);
     PaperOutputSettings context;
-    context.booklet = booklet;
+    context.booklet.layout = booklet;
     context.finishing = finishing;
 
     QTEST(finishingPicture(context), "picture");
@@ -324,7 +324,7 @@ void TestFinishing::hasItsPictures()
         pictures << jobTypePicture(value) << punchPicture(value) << colorModePicture(value);
         for (const std::int32_t booklet : {kBookletOn, kBookletOff}) {
             PaperOutputSettings context;
-            context.booklet = booklet;
+            context.booklet.layout = booklet;
             context.duplex = value;
             pictures << duplexPicture(context);
             for (const std::int32_t fold : {1, 19, 20, 36, 43, 53}) {

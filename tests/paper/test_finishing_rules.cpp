@@ -186,7 +186,7 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
          {Kind::SingleStaple, Kind::DualStaple, Kind::HolePunch, Kind::AdvancedFold, Kind::ZFold}) {
         for (const FinishingChoice &choice : finishingChoices(kind, currentDevice())) {
             PaperOutputSettings byMenu;
-            byMenu.booklet = kBookletOn;
+            byMenu.booklet.layout = kBookletOn;
             byMenu.finishing = stapledAndPunched(kStapleDual, kPunchTwoHoles, kFoldC);
             PaperOutputSettings byDialog;
             byDialog.booklet = byMenu.booklet;
@@ -202,7 +202,7 @@ void TestFinishingRules::okDoesWhatTheMenuDoes()
         }
     }
     PaperOutputSettings context;
-    context.booklet = kBookletOn;
+    context.booklet.layout = kBookletOn;
     const auto folds = finishingChoices(Kind::AdvancedFold, currentDevice());
     applyFinishingChoice(context, folds[2]);
     QCOMPARE(context.finishing.fold, kFoldBiAndStaple);

@@ -279,12 +279,12 @@ void TestPaperOutputTicket::writesBookletEntriesWithALayoutOnly()
     PaperOutputSettings context;
     read(context, device);
     context.duplex = kPlexDuplexShort;
-    context.bookletLayout = {2, 36, 5, 5};
+    context.booklet = {kBookletOff, 2, 36, 5, 5};
     write(context, device, true);
     QCOMPARE(PMTicketGetCFBoolean(device.settings(), ticketKey("BookletLayout")), false);
     QVERIFY(!numberIn(device, "Gutter"));
 
-    context.booklet = kBookletOn;
+    context.booklet.layout = kBookletOn;
     write(context, device, true);
     QCOMPARE(numberIn(device, "FinishingDuplex"), kPlexDuplex);
     QCOMPARE(device.choice(QStringLiteral("Duplex")), QStringLiteral("DuplexNoTumble"));
@@ -294,11 +294,11 @@ void TestPaperOutputTicket::writesBookletEntriesWithALayoutOnly()
     PaperOutputSettings again;
     read(again, device);
     QVERIFY(again.isBooklet());
-    QCOMPARE(again.bookletLayout.pageBorders, 2);
-    QCOMPARE(again.bookletLayout.creep, 5);
-    QCOMPARE(again.bookletLayout.newSize, 5);
+    QCOMPARE(again.booklet.pageBorders, 2);
+    QCOMPARE(again.booklet.creep, 5);
+    QCOMPARE(again.booklet.newSize, 5);
 
-    again.bookletLayout.newSize = kUnset;
+    again.booklet.newSize = kUnset;
     write(again, device);
     QVERIFY(
         !PMTicketGetCFDictionary(device.settings(), ticketKey("JobLevelStock"))->contains("Size"));

@@ -1,30 +1,22 @@
 #pragma once
 
-#include "bundle.h"
+#include "booklet_creation.h"
 #include "status.h"
-
-#include <cstdint>
 
 class QWidget;
 
 namespace kelvo {
 
-// What the booklet dialog edits; ticket values.
-struct _BookletCreationParams // NOLINT(bugprone-reserved-identifier): the dialog's own name
-{
-    CFBundleRef bundle = nullptr;
-    std::int32_t fold = 0;        // "KVFold"
-    std::int32_t booklet = 0;     // EnabledDisabledMap
-    std::int32_t pageBorders = 0; // PageBordersMap
-    std::int32_t newSize = 0;     // "PageSize", or kUnset
-    std::int32_t gutter = 0;      // points
-    std::int32_t creep = 0;       // tenths
-};
-
 inline constexpr OSStatus kBookletCancelled = -1;
 
-// noErr after OK, with the parameters updated; kBookletCancelled otherwise. There
-// is no booklet window yet: a notice says so, and the answer is kBookletCancelled.
-OSStatus RunModalBookletCreationDialog(_BookletCreationParams *params, QWidget *parent = nullptr);
+// The booklet dialog, which asks for the fold where the device folds booklets. noErr after OK,
+// with the parameters updated; kBookletCancelled, with nothing changed; paramErr for null
+// parameters or a device without bundle; kWindowNotMade. A fold that is no booklet's stays
+// unless another one is picked.
+OSStatus RunModalBookletOptionsDialog(const Device &device, _BookletCreationParams *params,
+                                      QWidget *parent = nullptr);
+// The same, as it is opened from the finishing menu.
+OSStatus RunModalBookletCreationDialog(const Device &device, _BookletCreationParams *params,
+                                       QWidget *parent = nullptr);
 
 } // namespace kelvo

@@ -355,13 +355,5 @@
         <source>Slip Sheets in Words</source>
         <translation>Slip sheets:</translation>
     </message>
-    <message>
-        <source>Booklet in Words</source>
-        <translation>gutter %1 pt, creep %2</translation>
-    </message>
-    <message>
-        <source>Booklet with Borders in Words</source>
-        <translation>gutter %1 pt, creep %2, page borders</translation>
-    </message>
 </context>
 </TS>

@@ -176,5 +176,51 @@
         <source>Booklet Picture</source>
         <translation>What becomes of the sheets</translation>
     </message>
+
+    <!-- What print dialogs say of a job -->
+    <message>
+        <source>Booklet in Words</source>
+        <translation>gutter %1 pt, creep %2</translation>
+    </message>
+    <message>
+        <source>Page Borders in Words</source>
+        <translation>page borders</translation>
+    </message>
+    <message>
+        <source>New Size in Words</source>
+        <translation>fit to %1</translation>
+    </message>
+    <message>
+        <source>Watermark in Words</source>
+        <translation>Watermark</translation>
+    </message>
+    <message>
+        <source>Watermark Behind in Words</source>
+        <translation>%1, behind the pages</translation>
+    </message>
+    <message>
+        <source>Watermark Blend in Words</source>
+        <translation>%1, blended with the pages</translation>
+    </message>
+    <message>
+        <source>Watermark Front in Words</source>
+        <translation>%1, in front of the pages</translation>
+    </message>
+    <message>
+        <source>Watermark Behind First in Words</source>
+        <translation>%1, behind page 1</translation>
+    </message>
+    <message>
+        <source>Watermark Blend First in Words</source>
+        <translation>%1, blended with page 1</translation>
+    </message>
+    <message>
+        <source>Watermark Front First in Words</source>
+        <translation>%1, in front of page 1</translation>
+    </message>
+    <message>
+        <source>Watermark Absent in Words</source>
+        <translation>%1 is not among your watermarks; none is printed</translation>
+    </message>
 </context>
 </TS>
