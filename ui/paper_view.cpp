@@ -57,6 +57,8 @@ void PaperView::setNote(const QString &note)
 
 void PaperView::setMovable(bool isMovable)
 {
+    if (isMovable == m_isMovable)
+        return; // a drag goes on
     m_isMovable = isMovable;
     m_pressedAt.reset();
     setFocusPolicy(isMovable ? Qt::StrongFocus : Qt::NoFocus);
