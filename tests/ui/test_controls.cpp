@@ -1,4 +1,5 @@
 #include "control.h"
+#include "control_interface.h"
 #include "event_log.h"
 #include "menu_button.h"
 #include "popup_button.h"
@@ -63,6 +64,7 @@ private slots:
     void aLongTextDoesNotWidenThePopup();
 
     void aMenuButtonOffersWhatItsUpdateLeaves();
+    void aMenuButtonShowsWhatWasChosen();
 
     void aRadioGroupCountsInLayoutOrder();
     void aTabControlTellsTheUsersChangesOnly();
@@ -264,6 +266,25 @@ void TestControls::aLongTextDoesNotWidenThePopup()
     QCoreApplication::sendEvent(&popup, &help);
     QCOMPARE(QToolTip::text(),
              QStringLiteral("<qt>%1</qt>").arg(popup.currentText().toHtmlEscaped()));
+}
+
+void TestControls::aMenuButtonShowsWhatWasChosen()
+{
+    MenuButton button;
+    button.setShownChoice(QStringLiteral("Terms && <b>conditions</b>  & more & more & more" more
+                                         & more & more & more " more  & more & more & more" more
+                                         & more & more & more " more  & more & more & more" more
+                                         & more & more & more " more"));
+    const QSize hint = button.sizeHint();
+    button.resize(hint);
+    QCOMPARE(interfaceOf(&button)->text(), button.shownChoice());
+    QVERIFY(button.text().startsWith(QStringLiteral("Terms &&&& <b>"))); // no mnemonics
+    QVERIFY(button.text().endsWith(QChar(0x2026)));
+    QVERIFY(button.toolTip().contains(QStringLiteral("&lt;b&gt;conditions")));
+    button.setShownChoice(QStringLiteral("R&D"));
+    QCOMPARE(button.text(), QStringLiteral("R&&D"));
+    QCOMPARE(button.toolTip(), QString());
+    QCOMPARE(button.sizeHint(), hint); // a name moves nothing
 }
 
 void TestControls::aMenuButtonOffersWhatItsUpdateLeaves()
