@@ -52,9 +52,9 @@ public:
 
     std::function<void(int)> step; // one side back (-1) or forward (1), ends included
     std::function<void()> changed; // size, pixels or visibility
-    PagePlacement placement;       // what the sheet is, or shall be
+    SidePlacement placement;       // what the sheet is, or shall be
     QImage image;                  // the page as last drawn
-    PagePlacement imagePlacement;  // what `image` was drawn for
+    SidePlacement imagePlacement;  // what `image` was drawn for
     QString note;                  // on the sheet, in place of a page that cannot be drawn
     QString words;                 // what the sheet is, where no page is printed on it
     bool isMarked = false;         // the page is an exception
@@ -71,7 +71,7 @@ public:
     }
 
     // There is room for the sheet, and for all of a page that the sheet cuts.
-    double scaleFor(const PagePlacement &shown) const
+    double scaleFor(const SidePlacement &shown) const
     {
         const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
         const QSizeF all = shown.all().size();
@@ -94,7 +94,7 @@ protected:
         }
         // Until the new page is drawn, the old one stays, on its own sheet.
         const bool hasPage = words.isEmpty() && !image.isNull();
-        const PagePlacement &shown = hasPage ? imagePlacement : placement;
+        const SidePlacement &shown = hasPage ? imagePlacement : placement;
         const QRectF sheet = sheetRect(shown.sheet, scaleFor(shown));
         paintShadow(painter, sheet);
         painter.fillRect(sheet, Qt::white);
@@ -196,7 +196,7 @@ private:
     }
 
     // All of it: the sheet as it comes out, and veiled around that what is lost.
-    void paintCutPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
+    void paintCutPage(QPainter &painter, const QRectF &sheet, const SidePlacement &shown) const
     {
         const QRectF page = pageRect(sheet, shown);
         painter.fillRect(page, Qt::white);
@@ -215,21 +215,21 @@ private:
         painter.drawRect(sheet.adjusted(-1, -1, 1, 1));
     }
 
-    QRectF pageRect(const QRectF &sheet, const PagePlacement &shown) const
+    QRectF pageRect(const QRectF &sheet, const SidePlacement &shown) const
     {
         // The sheet has come to whole pixels; where it is small, that would be much of
         // a page around it.
         const double scale = shown.isCut() ? scaleFor(shown) : sheet.width() / shown.sheet.width();
-        QRectF page(QPointF(), shown.page.size() * scale);
+        QRectF page(QPointF(), shown.pages.first().rect.size() * scale);
         page.moveCenter(sheet.center());
         return shown.isCut() ? QRectF(page.toAlignedRect()) : page;
     }
 
-    void paintPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
+    void paintPage(QPainter &painter, const QRectF &sheet, const SidePlacement &shown) const
     {
         QRectF page = pageRect(sheet, shown);
         // Quarter turns move pixels and blur none.
-        const QImage turned = image.transformed(QTransform().rotate(shown.rotation));
+        const QImage turned = image.transformed(QTransform().rotate(shown.pages.first().rotation));
         // Drawn for this very size, up to rounding: pixel upon pixel, or small
         // print would blur.
         const double ratio = devicePixelRatioF();
@@ -270,7 +270,7 @@ struct DocumentPreview::Private
 
     int askedPage = 0; // what the renderer was asked for last
     QSize askedPixels;
-    PagePlacement askedPlacement;
+    SidePlacement askedPlacement;
 
     explicit Private(DocumentPreview *owner)
         : preview(owner)
@@ -355,10 +355,10 @@ struct DocumentPreview::Private
     {
         if (!sheet->isVisible() || sheet->isEmpty || !message.isEmpty() || !sheet->words.isEmpty())
             return;
-        const PagePlacement &placement = sheet->placement;
+        const SidePlacement &placement = sheet->placement;
         const double scale = sheet->scaleFor(placement) * sheet->devicePixelRatioF();
-        QSizeF pixels = placement.page.size() * scale;
-        if (placement.rotation % 180 != 0)
+        QSizeF pixels = placement.pages.first().rect.size() * scale;
+        if (placement.pages.first().rotation % 180 != 0)
             pixels.transpose();
         const QSize whole = pixels.toSize();
         if (whole.isEmpty()

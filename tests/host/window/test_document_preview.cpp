@@ -1,5 +1,4 @@
 #include "document_preview.h"
-#include "page_placement.h"
 #include "preview_captions.h"
 #include "sample_documents.h"
 #include "table.h"
@@ -12,9 +11,6 @@
 
 using namespace kelvo;
 using namespace kelvo::test;
-
-Q_DECLARE_METATYPE(kelvo::Orientation)
-Q_DECLARE_METATYPE(kelvo::PagePlacement)
 
 namespace {
 
@@ -51,8 +47,6 @@ class TestDocumentPreview : public QObject
     Q_OBJECT
 
 private slots:
-    void placesPages_data();
-    void placesPages();
     void namesSheets_data();
     void namesSheets();
     void turnsPages();
@@ -62,40 +56,6 @@ private slots:
     void drawsWhatIsPrinted();
     void showsWhatIsCutOff();
 };
-
-void TestDocumentPreview::placesPages_data()
-{
-    const Table<QSizeF, QSizeF, Orientation, PagePlacement> row{"page", "paper", "orientation",
-                                                                "placement"};
-    using enum Orientation;
-    const QSizeF wide = a4.transposed();
-
-    row("fits", a4, a4, Portrait, PagePlacement{a4, {{0, 0}, a4}, 0});
-    row("no paper known", wide, QSizeF(), Portrait, PagePlacement{wide, {{0, 0}, wide}, 0});
-    row("smaller, centred", QSizeF(195, 442), a4, Portrait,
-        PagePlacement{a4, {200, 200, 195, 442}, 0});
-    row("larger, cut", QSizeF(795, 1042), a4, Portrait,
-        PagePlacement{a4, {-100, -100, 795, 1042}, 0});
-    row("wide page on tall paper", wide, a4, Portrait, PagePlacement{a4, {{0, 0}, a4}, 270});
-    row("wide page, landscape", wide, a4, Landscape, PagePlacement{wide, {{0, 0}, wide}, 0});
-    row("tall page, landscape", a4, a4, Landscape, PagePlacement{wide, {{0, 0}, wide}, 270});
-    row("upside down", a4, a4, ReversePortrait, PagePlacement{a4, {{0, 0}, a4}, 180});
-    row("tall page, reverse landscape", a4, a4, ReverseLandscape,
-        PagePlacement{wide, {{0, 0}, wide}, 90});
-    row("a square is never turned", QSizeF(100, 100), QSizeF(200, 300), Portrait,
-        PagePlacement{{200, 300}, {50, 100, 100, 100}, 0});
-}
-
-void TestDocumentPreview::placesPages()
-{
-    QFETCH(QSizeF, page);
-    QFETCH(QSizeF, paper);
-    QFETCH(Orientation, orientation);
-    QFETCH(PagePlacement, placement);
-
-    QCOMPARE(placePage(page, paper, orientation), placement);
-    QCOMPARE(placement.isCut(), QByteArray(QTest::currentDataTag()) == "larger, cut");
-}
 
 void TestDocumentPreview::namesSheets_data()
 {
