@@ -57,6 +57,22 @@ SidePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation ori
     return side;
 }
 
+QRectF placeOfPage(const SidePlacement &side, int index)
+{
+    QRectF place(QPointF(), side.sheet);
+    if (side.fold.isNull())
+        return place;
+    const bool isFirst = (index == 0) != side.isUpsideDown;
+    const bool isStacked = side.fold.dx() > 0;
+    if (isStacked)
+        place.setHeight(side.sheet.height() / 2);
+    else
+        place.setWidth(side.sheet.width() / 2);
+    if (!isFirst)
+        place.translate(isStacked ? 0 : place.width(), isStacked ? place.height() : 0);
+    return place;
+}
+
 OverlayPlacement placeOverlay(const SidePlacement &side, int index)
 {
     if (side.fold.isNull())

@@ -39,6 +39,9 @@ struct SidePlacement
 // upside down.
 SidePlacement placePage(const QSizeF &page, const QSizeF &paper, Orientation orientation);
 
+// The part of the sheet that page `index` has for itself: all of it, or its side of the fold.
+QRectF placeOfPage(const SidePlacement &side, int index);
+
 bool isReverse(Orientation orientation);
 // Neither is a square, and one is wide where the other is tall.
 bool liesAcross(const QSizeF &page, const QSizeF &place);
