@@ -121,10 +121,12 @@ struct DrawingRequest
     quint32 number = 0;
     qint32 page = 0;              // from 1
     qint32 width = 0, height = 0; // pixels to fit it into
+    qint32 isOnPaper = 1;         // 0: what the page leaves free is transparent
 };
 
-// Its answer: so many pixels of QImage::Format_RGB32 follow, rows without gaps; none
-// of a page that it cannot draw or was told to leave.
+// Its answer: so many pixels follow, rows without gaps, QImage::Format_RGB32, or
+// Format_ARGB32_Premultiplied without paper; none of a page that it cannot draw or was
+// told to leave.
 struct DrawingAnswer
 {
     quint32 number = 0;
