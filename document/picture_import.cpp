@@ -112,6 +112,8 @@ bool isSound(const ImportedPicture &picture)
 
 Result<ImportedPicture> importPicture(const QString &path, const std::atomic_bool *cancelled)
 {
+    if (cancelled && *cancelled)
+        return Error{Error::Code::Cancelled, path, {}};
     const OpenFile file(path);
     if (file.number() < 0) {
         return refused(errno == ENOENT ? Error::Code::NotFound : Error::Code::NotReadable, path,
