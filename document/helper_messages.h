@@ -3,6 +3,7 @@
 #include "document_files.h"
 #include "page_ranges.h"
 #include "pdf_pages.h"
+#include "picture_import.h"
 #include "result.h"
 
 #include <QDataStream>
@@ -24,6 +25,7 @@ enum class Task : quint8 {
     CheckEmbeddedFile,   // pdf, name, bytes
     ConvertText,         // files, paper
     ConvertPicture,      // files → how many other files were left out
+    ImportPicture,       // number of the file, which it has open → ImportedPicture
 };
 
 inline QDataStream &operator<<(QDataStream &stream, const PageRun &run)
@@ -74,6 +76,16 @@ inline QDataStream &operator>>(QDataStream &stream, PdfPages &pages)
     return stream >> pages.sizes >> pages.isRepaired >> pages.isSound;
 }
 
+inline QDataStream &operator<<(QDataStream &stream, const ImportedPicture &picture)
+{
+    return stream << picture.naturalSize << picture.size << picture.bytes << picture.leftOut;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, ImportedPicture &picture)
+{
+    return stream >> picture.naturalSize >> picture.size >> picture.bytes >> picture.leftOut;
+}
+
 inline QDataStream &operator<<(QDataStream &stream, const ConverterFiles &files)
 {
     return stream << files.folder << files.source << files.pdf << files.where;
@@ -121,10 +133,12 @@ struct DrawingRequest
     quint32 number = 0;
     qint32 page = 0;              // from 1
     qint32 width = 0, height = 0; // pixels to fit it into
+    qint32 isOnPaper = 1;         // 0: what the page leaves free is transparent
 };
 
-// Its answer: so many pixels of QImage::Format_RGB32 follow, rows without gaps; none
-// of a page that it cannot draw or was told to leave.
+// Its answer: so many pixels follow, rows without gaps, QImage::Format_RGB32, or
+// Format_ARGB32_Premultiplied without paper; none of a page that it cannot draw or was
+// told to leave.
 struct DrawingAnswer
 {
     quint32 number = 0;

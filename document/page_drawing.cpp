@@ -66,7 +66,7 @@ void PageDrawing::stop()
 }
 
 // Takes the answers that are there as a whole; true with the one for `number`.
-bool PageDrawing::readAnswer(quint32 number, QImage &image)
+bool PageDrawing::readAnswer(quint32 number, PagePaper paper, QImage &image)
 {
     DrawingAnswer answer;
     const auto header = qint64(sizeof answer);
@@ -86,7 +86,9 @@ bool PageDrawing::readAnswer(quint32 number, QImage &image)
             m_process->skip(bytes);
             continue;
         }
-        image = QImage(size, QImage::Format_RGB32);
+        image = QImage(size,
+                       paper == PagePaper::White ? QImage::Format_RGB32
+                                                 : QImage::Format_ARGB32_Premultiplied);
         if (!image.isNull())
             m_process->read(reinterpret_cast<char *>(image.bits()), bytes);
         return true;
@@ -104,7 +106,8 @@ PageProblem PageDrawing::problemOfEnd() const
     return isTooLarge ? PageProblem::TooLarge : PageProblem::NotDrawable;
 }
 
-DrawnPage PageDrawing::draw(int page, const QSize &pixels, const std::function<bool()> &isAbandoned)
+DrawnPage PageDrawing::draw(int page, const QSize &pixels, const std::function<bool()> &isAbandoned,
+                            PagePaper paper)
 {
     if (const auto known = m_problems.constFind(page); known != m_problems.cend())
         return {{}, *known};
@@ -116,13 +119,14 @@ DrawnPage PageDrawing::draw(int page, const QSize &pixels, const std::function<b
 
     if (!start())
         return {{}, PageProblem::NotDrawable};
-    const DrawingRequest request{++m_number, page, pixels.width(), pixels.height()};
+    const DrawingRequest request{++m_number, page, pixels.width(), pixels.height(),
+                                 paper == PagePaper::White};
     send(*m_process, request);
     ++m_owed;
     QElapsedTimer timer;
     timer.start();
     QImage image;
-    while (!readAnswer(request.number, image)) {
+    while (!readAnswer(request.number, paper, image)) {
         if (!m_process)
             return failed(PageProblem::NotDrawable);
         const bool hasEnded = m_process->state() == QProcess::NotRunning;
@@ -133,7 +137,7 @@ DrawnPage PageDrawing::draw(int page, const QSize &pixels, const std::function<b
         // At an older page it has crashed, or does not listen: a new one starts afresh.
         if (m_owed > 1 && (hasEnded || timer.hasExpired(leaveMs))) {
             stop();
-            return draw(page, pixels, isAbandoned);
+            return draw(page, pixels, isAbandoned, paper);
         }
         if (hasEnded)
             return failed(problemOfEnd());

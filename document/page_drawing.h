@@ -20,9 +20,15 @@ enum class PageProblem {
     TooLarge,    // more than limits::drawingMemory
 };
 
+enum class PagePaper {
+    White,
+    None, // what the page leaves free is transparent
+};
+
 struct DrawnPage
 {
-    QImage image; // null: `problem` says why
+    QImage image; // QImage::Format_RGB32, or Format_ARGB32_Premultiplied without paper; null:
+                  // `problem` says why
     PageProblem problem = PageProblem::None;
 };
 
@@ -37,12 +43,13 @@ public:
 
     // `page` from 1, fitted into `pixels`. Waits until it is drawn, or `isAbandoned`
     // says that nobody wants it: it is asked a hundred times a second.
-    DrawnPage draw(int page, const QSize &pixels, const std::function<bool()> &isAbandoned);
+    DrawnPage draw(int page, const QSize &pixels, const std::function<bool()> &isAbandoned,
+                   PagePaper paper = PagePaper::White);
 
 private:
     bool start();
     void stop();
-    bool readAnswer(quint32 number, QImage &image);
+    bool readAnswer(quint32 number, PagePaper paper, QImage &image);
     PageProblem problemOfEnd() const;
 
     QString m_pdfPath;

@@ -8,7 +8,8 @@ run_packages="g++ cmake ninja-build ccache pkg-config
     qt6-image-formats-plugins fonts-dejavu-core fonts-liberation2 ghostscript"
 
 # Real partners of the tests, and the formatter.
-check_packages="cups-daemon cups-client dbus-daemon libplist-utils poppler-utils qpdf clang-format python3-minimal strace"
+check_packages="cups-daemon cups-client dbus-daemon libplist-utils poppler-utils qpdf clang-format python3-minimal strace
+    libfreetype-dev fonts-noto-core"
 
 # The linter and the fuzz targets.
 lint_packages="clang clang-tidy libclang-rt-14-dev"

@@ -2,13 +2,19 @@
 
 #include "control_support.h"
 #include "qt_controls.h"
+#include "tool_tip.h"
 
+#include <QEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QStyle>
+#include <QStyleOptionButton>
 
 namespace kelvo {
 
 namespace {
+
+constexpr int choiceCharacters = 16;
 
 // Whether `wanted` is one of `items`, and it and every menu around it is enabled.
 bool isOffered(const std::vector<MenuItem> &items, const MenuItem *wanted)
@@ -89,6 +95,50 @@ bool MenuButton::choose(const MenuItem &item)
     return true;
 }
 
+void MenuButton::setShownChoice(const QString &text)
+{
+    m_choice = text;
+    elideChoice();
+    updateGeometry();
+}
+
+// As wide as a pop-up button (popup_button.h) would ask for: a long name does not make its
+// panel wider.
+QSize MenuButton::sizeHint() const
+{
+    QSize hint = QPushButton::sizeHint();
+    if (!m_choice.isNull())
+        hint.setWidth(choiceCharacters * fontMetrics().horizontalAdvance(u'X'));
+    return hint;
+}
+
+void MenuButton::resizeEvent(QResizeEvent *event)
+{
+    QPushButton::resizeEvent(event);
+    elideChoice();
+}
+
+void MenuButton::changeEvent(QEvent *event)
+{
+    QPushButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        elideChoice();
+}
+
+void MenuButton::elideChoice()
+{
+    if (m_choice.isNull())
+        return;
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int arrow = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
+    const int room = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
+    const QString line = oneLine(m_choice);
+    const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, room - arrow);
+    setText(asMenuText(shown));
+    setToolTip(shown == line ? QString() : plainToolTip(m_choice));
+}
+
 void MenuButton::fillShownMenu()
 {
     m_shown->clear();
@@ -104,6 +154,11 @@ class MenuButtonInterface : public InterfaceOf<MenuButton, ButtonInterface>
 public:
     using InterfaceOf::InterfaceOf;
 
+    QString text() const override
+    {
+        const QString &choice = widget()->shownChoice();
+        return choice.isNull() ? ButtonInterface::text() : choice;
+    }
     std::optional<int> maximum() const override { return widget()->maximum(); }
     const Menu *menu() override { return &widget()->updatedMenu(); }
     QString commands() const override { return QStringLiteral("item, choose"); }

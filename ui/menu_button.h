@@ -14,7 +14,7 @@ namespace kelvo {
 class ControlInterface;
 
 // A button that opens a menu with submenus. It sends Menu and then Command for
-// the item that the user chooses; the button itself keeps no value.
+// the item that the user chooses; the button itself keeps no value, but it can show one.
 class MenuButton : public QPushButton
 {
     Q_OBJECT
@@ -30,6 +30,14 @@ public:
     // Called just before the menu opens, to enable and check its items.
     void setMenuUpdate(std::function<void(Menu &)> update) { m_update = std::move(update); }
 
+    // What was chosen in the menu, whoever wrote it, in place of the button's own text: on
+    // one line, elided where it is long, and whole in its tool tip.
+    void setShownChoice(const QString &text);
+    const QString &shownChoice() const { return m_choice; } // null: there is none
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
     int maximum() const { return m_maximum; }
     void setMaximum(int maximum) { m_maximum = maximum; }
 
@@ -41,11 +49,17 @@ public:
     // divider or a submenu.
     bool choose(const MenuItem &item);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
 private:
     void fillShownMenu();
+    void elideChoice();
 
     QMenu *m_shown; // what the user sees of m_menu, filled when it opens
     Menu m_menu;
+    QString m_choice;
     std::function<void(Menu &)> m_update;
     int m_maximum = 0;
 };

@@ -49,13 +49,14 @@ static bool isAskedAgain(const QVariant &)
     return ::poll(&input, 1, 0) > 0;
 }
 
-static QImage draw(const Poppler::Document &pdf, const DrawingRequest &request)
+static QImage draw(Poppler::Document &pdf, const DrawingRequest &request)
 {
     const std::unique_ptr<Poppler::Page> page = pdf.page(request.page - 1);
     if (!page)
         return {};
+    pdf.setRenderHint(Poppler::Document::IgnorePaperColor, !request.isOnPaper);
     QImage image = pictureOfPage(*page, {request.width, request.height}, isAskedAgain);
-    image.convertTo(QImage::Format_RGB32);
+    image.convertTo(request.isOnPaper ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     return image;
 }
 

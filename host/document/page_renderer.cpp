@@ -1,6 +1,6 @@
 #include "page_renderer.h"
 
-#include <atomic>
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -13,11 +13,158 @@ namespace {
 
 struct Request
 {
-    quint64 number = 0;
     Document document;
-    int page = 0;
-    QSize pixels;
+    OverlayPainter overlayPainter;
+    SideToDraw side;
+    std::shared_ptr<std::atomic_bool> isAbandoned;
 };
+
+DrawnSide undrawn(const SideToDraw &side)
+{
+    return {{}, QList<PageProblem>(side.pages.size(), PageProblem::NotDrawable), {}};
+}
+
+// The size in which a page is drawn that is turned only then.
+QSize beforeTurn(const QRect &rect, int rotation)
+{
+    return rotation % 180 == 0 ? rect.size() : rect.size().transposed();
+}
+
+// Pictures of what the last side has: the next one often has the same.
+template <typename Key>
+class KeptImages
+{
+public:
+    // Null: there is none.
+    QImage find(const Key &key)
+    {
+        const auto kept = std::ranges::find(m_images, key, &Kept::key);
+        if (kept == m_images.end())
+            return {};
+        kept->isUsed = true;
+        return kept->image;
+    }
+    void keep(const Key &key, const QImage &image) { m_images.push_back({key, image, true}); }
+    void forgetUnused()
+    {
+        std::erase_if(m_images, [](Kept &kept) { return !std::exchange(kept.isUsed, false); });
+    }
+    void clear() { m_images.clear(); }
+
+private:
+    struct Kept
+    {
+        Key key;
+        QImage image;
+        bool isUsed;
+    };
+    std::vector<Kept> m_images;
+};
+
+struct PageKey
+{
+    int page;
+    QSize pixels;
+    PagePaper paper;
+    friend bool operator==(const PageKey &, const PageKey &) = default;
+};
+
+struct OverlayKey
+{
+    QString name;
+    quint64 version;
+    QSizeF page;
+    QSize pixels;
+    friend bool operator==(const OverlayKey &, const OverlayKey &) = default;
+};
+
+// Draws one side after the other, on the renderer's thread.
+class SideDrawer
+{
+public:
+    DrawnSide draw(const Request &request);
+
+private:
+    void load(const Document &document);
+    DrawnPage drawPage(const Request &request, const SideToDraw::Page &page, PagePaper paper);
+    QImage drawOverlay(const Request &request, const SideToDraw::OverlayOnPage &on);
+
+    Document m_document; // keeps the file while it is read
+    std::unique_ptr<PageDrawing> m_drawing;
+    KeptImages<PageKey> m_pages;
+    KeptImages<OverlayKey> m_overlays;
+};
+
+void SideDrawer::load(const Document &document)
+{
+    if (m_document.pdfPath() == document.pdfPath())
+        return;
+    m_document = document;
+    m_pages.clear();
+    m_drawing = document.isNull() ? nullptr : std::make_unique<PageDrawing>(document.pdfPath());
+}
+
+DrawnPage SideDrawer::drawPage(const Request &request, const SideToDraw::Page &page,
+                               PagePaper paper)
+{
+    const PageKey key{page.page, beforeTurn(page.rect, page.rotation), paper};
+    if (const QImage kept = m_pages.find(key); !kept.isNull())
+        return {kept};
+    const auto isAbandoned = [&request] { return request.isAbandoned->load(); };
+    DrawnPage drawn = m_drawing->draw(page.page, key.pixels, isAbandoned, paper);
+    if (!drawn.image.isNull())
+        m_pages.keep(key, drawn.image);
+    return drawn;
+}
+
+QImage SideDrawer::drawOverlay(const Request &request, const SideToDraw::OverlayOnPage &on)
+{
+    const OverlayKey key{on.overlay.name, on.overlay.version, on.page,
+                         beforeTurn(on.rect, on.rotation)};
+    if (const QImage kept = m_overlays.find(key); !kept.isNull())
+        return kept;
+    if (!request.overlayPainter || *request.isAbandoned)
+        return {};
+    const QImage image =
+        request.overlayPainter(on.overlay, on.page, key.pixels, *request.isAbandoned);
+    if (!image.isNull())
+        m_overlays.keep(key, image);
+    return image;
+}
+
+DrawnSide SideDrawer::draw(const Request &request)
+{
+    load(request.document);
+    if (!m_drawing)
+        return undrawn(request.side);
+    const bool isAnyBehind =
+        std::ranges::any_of(request.side.overlays, [](const SideToDraw::OverlayOnPage &on) {
+            return on.overlay.place == Overlay::Place::Behind;
+        });
+
+    DrawnSide drawn;
+    QList<PictureLayer> pages;
+    for (const SideToDraw::Page &page : request.side.pages) {
+        const DrawnPage one =
+            drawPage(request, page, isAnyBehind ? PagePaper::None : PagePaper::White);
+        drawn.problems << one.problem;
+        if (!one.image.isNull())
+            pages << PictureLayer{one.image, page.rect, page.rotation};
+    }
+    QList<OverlayLayer> overlays;
+    for (const SideToDraw::OverlayOnPage &on : request.side.overlays) {
+        const QImage image = drawOverlay(request, on);
+        if (!image.isNull())
+            overlays << OverlayLayer{{image, on.rect, on.rotation}, on.overlay.place};
+        else if (!drawn.lackingOverlays.contains(on.overlay.name))
+            drawn.lackingOverlays << on.overlay.name;
+    }
+    if (!pages.isEmpty())
+        drawn.picture = composedSide(request.side.pixels, pages, overlays);
+    m_pages.forgetUnused();
+    m_overlays.forgetUnused();
+    return drawn;
+}
 
 } // namespace
 
@@ -25,14 +172,21 @@ struct Request
 struct PageRenderer::Private
 {
     Document document; // the window's side
+    OverlayPainter overlayPainter;
+    // Of the newest request. What is no longer wanted stops being drawn.
+    std::shared_ptr<std::atomic_bool> isAbandoned;
     std::thread thread;
 
     std::mutex mutex;
     std::condition_variable changed;
     std::optional<Request> next; // under the mutex
     bool isEnding = false;       // under the mutex
-    // The newest request; a page that is no longer wanted stops being drawn.
-    std::atomic<quint64> wanted = 0;
+
+    void abandon()
+    {
+        if (isAbandoned)
+            *isAbandoned = true;
+    }
 
     // False when the system has no thread to give.
     bool provideThread(PageRenderer *renderer)
@@ -57,20 +211,9 @@ struct PageRenderer::Private
 
     void work(PageRenderer *renderer)
     {
-        Document loaded; // keeps the file while it is read
-        std::unique_ptr<PageDrawing> drawing;
-        while (const auto request = waitForRequest()) {
-            if (loaded.pdfPath() != request->document.pdfPath()) {
-                loaded = request->document;
-                drawing =
-                    loaded.isNull() ? nullptr : std::make_unique<PageDrawing>(loaded.pdfPath());
-            }
-            const auto isAbandoned = [this, &request] { return wanted != request->number; };
-            const DrawnPage drawn = drawing
-                ? drawing->draw(request->page, request->pixels, isAbandoned)
-                : DrawnPage{{}, PageProblem::NotDrawable};
-            renderer->tell(request->number, request->page, drawn);
-        }
+        SideDrawer drawer;
+        while (const auto request = waitForRequest())
+            renderer->tell(request->isAbandoned, drawer.draw(*request));
     }
 };
 
@@ -96,35 +239,41 @@ PageRenderer::~PageRenderer()
 void PageRenderer::setDocument(const Document &document)
 {
     d->document = document;
-    ++d->wanted;
+    d->abandon();
     const std::lock_guard lock(d->mutex);
     d->next.reset();
 }
 
-void PageRenderer::render(int page, const QSize &pixels)
+void PageRenderer::setOverlayPainter(OverlayPainter painter)
 {
-    const quint64 number = ++d->wanted;
+    d->overlayPainter = std::move(painter);
+}
+
+void PageRenderer::render(const SideToDraw &side)
+{
+    d->abandon();
+    d->isAbandoned = std::make_shared<std::atomic_bool>(false);
     if (!d->provideThread(this)) {
-        // The next page may be luckier.
-        tell(number, page, {{}, PageProblem::NotDrawable});
+        // The next side may be luckier.
+        tell(d->isAbandoned, undrawn(side));
         return;
     }
     {
         const std::lock_guard lock(d->mutex);
-        d->next = Request{number, d->document, page, pixels};
+        d->next = Request{d->document, d->overlayPainter, side, d->isAbandoned};
     }
     d->changed.notify_one();
 }
 
 // From any thread. Said on our own, where a newer request can no longer slip in, and
 // never from within render().
-void PageRenderer::tell(quint64 number, int page, const DrawnPage &drawn)
+void PageRenderer::tell(const std::shared_ptr<std::atomic_bool> &isAbandoned, const DrawnSide &side)
 {
     QMetaObject::invokeMethod(
         this,
-        [this, number, page, drawn] {
-            if (d->wanted == number)
-                emit rendered(page, drawn.image, drawn.problem);
+        [this, isAbandoned, side] {
+            if (!*isAbandoned)
+                emit rendered(side);
         },
         Qt::QueuedConnection);
 }

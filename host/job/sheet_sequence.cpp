@@ -4,33 +4,56 @@
 
 namespace kelvo {
 
-SheetSequence::SheetSequence(int pages, bool twoSided, const SpecialSheets &special)
+namespace {
+
+SpecialSheets::Exception within(SpecialSheets::Exception exception, int pages)
+{
+    exception.lastPage = std::min(exception.lastPage, pages);
+    return exception;
+}
+
+} // namespace
+
+SheetSequence::SheetSequence(int pages, bool twoSided, const SpecialSheets &special,
+                             const std::optional<Imposition> &imposition)
+    : m_pages(pages)
+    , m_isBooklet(imposition && imposition->kind == Imposition::Kind::Booklet)
 {
     using enum SheetSide::Kind;
     if (pages < 1)
         return;
+    if (special.frontCover == SpecialSheets::Cover::Sheet)
+        add({.kind = FrontCover}, 1, 1);
+    if (m_isBooklet)
+        addBooklet(special);
+    else
+        addPages(twoSided, special);
+    if (special.backCover == SpecialSheets::Cover::Sheet)
+        add({.kind = BackCover, .page = pages}, 1, 1);
+}
+
+void SheetSequence::addPages(bool twoSided, const SpecialSheets &special)
+{
     auto insert = special.inserts.cbegin();
     const auto addInserts = [&](int page) {
         for (; insert != special.inserts.cend() && insert->afterPage <= page; ++insert)
-            add({.kind = Insert, .sheets = insert->sheets, .page = page}, 1, insert->sheets);
+            add({.kind = SheetSide::Kind::Insert, .sheets = insert->sheets, .page = page}, 1,
+                insert->sheets);
     };
 
-    if (special.frontCover == SpecialSheets::Cover::Sheet)
-        add({.kind = FrontCover}, 1, 1);
     addInserts(0);
     auto exception = special.exceptions.cbegin();
-    for (int page = 1; page <= pages;) {
+    for (int page = 1; page <= m_pages;) {
         while (exception != special.exceptions.cend() && exception->lastPage < page)
             ++exception;
-        int last = pages;
+        int last = m_pages;
         if (insert != special.inserts.cend())
             last = std::min(last, insert->afterPage);
         SheetSide first{.page = page, .isTwoSided = twoSided};
         if (exception != special.exceptions.cend() && exception->firstPage <= page) {
             last = std::min(last, exception->lastPage);
             first.isTwoSided = exception->twoSided.value_or(twoSided);
-            first.exceptionFirst = exception->firstPage;
-            first.exceptionLast = std::min(exception->lastPage, pages);
+            first.exceptions = {within(*exception, m_pages)};
         } else if (exception != special.exceptions.cend()) {
             last = std::min(last, exception->firstPage - 1);
         }
@@ -39,8 +62,21 @@ SheetSequence::SheetSequence(int pages, bool twoSided, const SpecialSheets &spec
         addInserts(last);
         page = last + 1;
     }
-    if (special.backCover == SpecialSheets::Cover::Sheet)
-        add({.kind = BackCover, .page = pages}, 1, 1);
+}
+
+void SheetSequence::addBooklet(const SpecialSheets &special)
+{
+    m_exceptions = special.exceptions;
+    const int sheets = bookletSheets(m_pages);
+    add({.kind = SheetSide::Kind::Booklet, .page = 1, .isTwoSided = true}, 2 * sheets, sheets);
+    for (const SpecialSheets::Insert &insert : special.inserts) {
+        if (insert.afterPage <= m_pages)
+            add({.kind = SheetSide::Kind::Insert,
+                 .sheets = insert.sheets,
+                 .page = m_pages,
+                 .isAnywhere = true},
+                1, insert.sheets);
+    }
 }
 
 void SheetSequence::add(const SheetSide &first, int count, qint64 sheets)
@@ -61,6 +97,8 @@ SheetSide SheetSequence::side(int index) const
                          [](int wanted, const Run &run) { return wanted < run.index; });
     const Run &run = *std::prev(after);
     const int at = index - run.index;
+    if (run.first.kind == SheetSide::Kind::Booklet)
+        return bookletSide(run, at);
     SheetSide side = run.first;
     if (side.kind != SheetSide::Kind::Page)
         return side;
@@ -72,8 +110,37 @@ SheetSide SheetSequence::side(int index) const
     return side;
 }
 
+SheetSide SheetSequence::bookletSide(const Run &run, int at) const
+{
+    SheetSide side = run.first;
+    side.bookletPages = bookletPages(m_pages, at, ReadingOrder::LeftToRight);
+    side.bookletSheet = at / 2;
+    side.sheet += side.bookletSheet;
+    side.isBack = at % 2 != 0;
+    side.page = std::min(at + 1, m_pages); // both places of one page's back are blank
+    BookletPages inOrder = side.bookletPages;
+    std::ranges::sort(inOrder);
+    for (int page : inOrder) {
+        const auto exception =
+            std::ranges::lower_bound(m_exceptions, page, {}, &SpecialSheets::Exception::lastPage);
+        if (page == 0 || exception == m_exceptions.cend() || exception->firstPage > page)
+            continue;
+        if (const auto range = within(*exception, m_pages); !side.exceptions.contains(range))
+            side.exceptions << range;
+    }
+    return side;
+}
+
 int SheetSequence::indexOfPage(int page) const
 {
+    if (page < 1 || page > m_pages)
+        return -1;
+    if (m_isBooklet) {
+        const auto isBooklet = [](const Run &run) {
+            return run.first.kind == SheetSide::Kind::Booklet;
+        };
+        return std::ranges::find_if(m_runs, isBooklet)->index + bookletSideOf(page, m_pages);
+    }
     // Inserts bear the number of the page before them, so the run wanted is the last
     // one that begins below `page`, unless one begins with it.
     auto run =
@@ -83,11 +150,8 @@ int SheetSequence::indexOfPage(int page) const
         return each.first.kind == SheetSide::Kind::Page && page >= each.first.page
             && page - each.first.page < each.count;
     };
-    if (run == m_runs.cend() || !holds(*run)) {
-        if (run == m_runs.cbegin() || !holds(*std::prev(run)))
-            return -1;
+    if (run == m_runs.cend() || !holds(*run))
         --run;
-    }
     return run->index + page - run->first.page;
 }
 

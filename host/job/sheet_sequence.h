@@ -1,5 +1,6 @@
 #pragma once
 
+#include "booklet_imposition.h"
 #include "job_description.h"
 
 #include <QList>
@@ -13,21 +14,28 @@
 //   after them: on paper that is printed on both sides a back may stay blank.
 // - An exception range may have sides of its own.
 // - Covers and inserts are blank: a ticket tells where their paper comes from, no more.
+// - The pages of a booklet lie on sheets that are printed on both sides, four on each. A
+//   cover goes around them as a sheet of its own. Where inserts go is the device's to know:
+//   they are counted after the booklet. Exception ranges begin no sheets of their own in it.
 namespace kelvo {
 
 // What one looks at: a printed side, or a whole sheet without print.
 struct SheetSide
 {
-    enum class Kind { FrontCover, Insert, Page, BlankBack, BackCover };
+    enum class Kind { FrontCover, Insert, Page, Booklet, BlankBack, BackCover };
     Kind kind = Kind::Page;
     qint64 sheet = 1; // its number, from 1; the first one of an insert
     int sheets = 1;   // of an insert
-    // The page that is printed here, from 1; on other sides the last one before
-    // them, 0 for none.
+    // The page that is printed here, from 1, or the first of those in a booklet; on other
+    // sides the last one before them, 0 for none.
     int page = 0;
     bool isTwoSided = false; // front and back are told apart
     bool isBack = false;
-    int exceptionFirst = 0, exceptionLast = 0; // the range that a page lies in; 0: none
+    bool isAnywhere = false; // an insert of a booklet: it does not come where it is counted
+    // The ranges that its pages lie in, within the pages that are printed.
+    QList<SpecialSheets::Exception> exceptions;
+    BookletPages bookletPages{}; // of a side of a booklet
+    int bookletSheet = 0;        // and its sheet, from 0 for the outer one
     friend bool operator==(const SheetSide &, const SheetSide &) = default;
 };
 
@@ -38,7 +46,8 @@ class SheetSequence
 public:
     SheetSequence() = default; // without sheets
     // For `pages` pages; none have no covers either.
-    SheetSequence(int pages, bool twoSided, const SpecialSheets &special);
+    SheetSequence(int pages, bool twoSided, const SpecialSheets &special,
+                  const std::optional<Imposition> &imposition = {});
 
     // Sides to look at, one for all sheets of an insert. A back that stays blank is
     // one where something comes after it.
@@ -48,15 +57,21 @@ public:
     int indexOfPage(int page) const; // from 1; -1 for one that is not printed
 
 private:
-    // Sides that lie one after the other: pages, or one cover or insert.
+    // Sides that lie one after the other: pages, those of a booklet, or one cover or insert.
     struct Run
     {
         SheetSide first;
         int index = 0; // of the first side
-        int count = 1; // pages, or 1
+        int count = 1; // pages, sides of a booklet, or 1
     };
     void add(const SheetSide &first, int count, qint64 sheets);
+    void addPages(bool twoSided, const SpecialSheets &special);
+    void addBooklet(const SpecialSheets &special);
+    SheetSide bookletSide(const Run &run, int at) const;
 
+    int m_pages = 0;
+    bool m_isBooklet = false;
+    QList<SpecialSheets::Exception> m_exceptions; // of a booklet
     QList<Run> m_runs;
     int m_sides = 0;
     qint64 m_sheets = 0;

@@ -26,6 +26,9 @@ DialogSession::DialogSession(SessionBeginning beginning, DevicePanels *panels, Q
     connect(&m_search, &PrinterSearch::stateChanged, this, &DialogSession::takeSearch);
     connect(&m_document, &DocumentOpening::ended, this, [this] {
         m_job.setTitle(m_document.title());
+        const Document &document = m_document.document();
+        if (!document.isNull())
+            m_job.setDocument(document.pdfPath(), document.pageCount());
         emit documentChanged();
     });
     connect(&m_job, &SessionJob::reloaded, this, &DialogSession::reloaded);

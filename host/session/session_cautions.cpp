@@ -109,7 +109,8 @@ std::optional<Caution> SessionCautions::cutPages() const
 {
     const PpdFile *ppd = m_session.job().ppd();
     const Document &document = m_session.document().document();
-    if (!ppd || document.isNull())
+    // Pages of a booklet are made to fit.
+    if (!ppd || document.isNull() || m_session.job().description().imposition)
         return std::nullopt;
     const JobSettings settings = m_session.job().settings();
     const auto paper = paperSize(settings.paperName, *ppd);

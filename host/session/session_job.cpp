@@ -1,6 +1,7 @@
 #include "session_job.h"
 
 #include "job_words.h"
+#include "page_ranges.h"
 #include "ppd_words.h"
 #include "secrets.h"
 #include "ticket_attachment.h"
@@ -72,6 +73,21 @@ void SessionJob::nameJob()
     PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, m_title);
 }
 
+// Also where the ranges name no page: something has to be seen until they do.
+void SessionJob::tellFirstPage()
+{
+    const auto runs = pageRunsFrom(settings().pageRanges, m_pageCount);
+    const int first = runs && !runs.value().empty() ? runs.value().front().first : 1;
+    m_session->setFirstPage({m_pdfPath, first});
+}
+
+void SessionJob::setDocument(const QString &pdfPath, int pageCount)
+{
+    m_pdfPath = pdfPath;
+    m_pageCount = pageCount;
+    tellFirstPage();
+}
+
 // The device's own defaults stand in its PPD; a queue's are laid over them. What they
 // say of the PPD's options beats the print server's own names for the same.
 TicketFile SessionJob::queueDefaults()
@@ -107,6 +123,7 @@ void SessionJob::layAsked()
         readAll();
         sync(kSyncWrite);
     }
+    tellFirstPage();
     m_edits.asked.settle(ticketFileFrom(*m_session));
     m_edits.lookedAt = m_session->printSettings().ppdChoices;
     m_edits.lastSet.clear();
@@ -226,6 +243,7 @@ void SessionJob::change(const JobSettings &settings)
 {
     writeAll();
     writeJobSettings(settings, ppd(), *m_session);
+    tellFirstPage();
 }
 
 TicketFile SessionJob::ticket() const
@@ -310,6 +328,7 @@ void SessionJob::restore(const Snapshot &snapshot)
     m_session->printSettings() = snapshot.printSettings;
     m_session->pageFormat() = snapshot.pageFormat;
     m_edits = snapshot.edits;
+    tellFirstPage();
     readAll();
     emit reloaded();
 }

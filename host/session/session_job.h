@@ -59,6 +59,9 @@ public:
     void leave();
     // What the job is called where its tickets are laid next.
     void setTitle(const QString &title) { m_title = title; }
+    // The document, of which the panels are told the first page that is printed. Its file
+    // stays for as long as this.
+    void setDocument(const QString &pdfPath, int pageCount);
 
     PrintSession &tickets() { return *m_session; } // another one on each device
     const PpdFile *ppd() const { return m_device.ppd.get(); }
@@ -130,6 +133,7 @@ private:
     void askForPages(const QString &pages);
     void layAsked();
     void nameJob();
+    void tellFirstPage();
     void sync(SyncDirection direction);
 
     const Wishes m_wishes;
@@ -149,6 +153,8 @@ private:
     JobDescription m_description;
 
     QString m_title;
+    QString m_pdfPath; // empty: the document is not there yet
+    int m_pageCount = 0;
     Device m_device;
     std::unique_ptr<PrintSession> m_session;
     Edits m_edits;

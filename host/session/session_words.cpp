@@ -33,7 +33,9 @@ QString jobInShort(DialogSession &session)
 {
     SessionJob &job = session.job();
     const int pages = pageCount(session.pages().value());
-    const SheetSequence sequence(pages, job.isTwoSided(), job.description().sheets);
+    const JobDescription &description = job.description();
+    const SheetSequence sequence(pages, job.isTwoSided(), description.sheets,
+                                 description.imposition);
     return shortSummary(job.ticket(), job.settings(), pages, sequence.sheets(), job.secretKeys());
 }
 

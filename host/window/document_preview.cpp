@@ -1,8 +1,8 @@
 #include "document_preview.h"
 
+#include "booklet_imposition.h"
 #include "caution_colours.h"
 #include "page_placement.h"
-#include "page_renderer.h"
 #include "preview_captions.h"
 
 #include <QHBoxLayout>
@@ -44,6 +44,15 @@ QString noteOn(PageProblem problem)
     return {};
 }
 
+// One side as it is shown: before it is drawn, and then.
+struct Look
+{
+    SidePlacement placement;
+    bool drawsBorders = false; // around its pages
+    QImage picture;            // all of the side; null: not drawn
+    QStringList notes;         // one for each place; empty where a page is seen
+};
+
 // The sheet and what lies on it.
 class SheetView : public QWidget
 {
@@ -52,32 +61,36 @@ public:
 
     std::function<void(int)> step; // one side back (-1) or forward (1), ends included
     std::function<void()> changed; // size, pixels or visibility
-    PagePlacement placement;       // what the sheet is, or shall be
-    QImage image;                  // the page as last drawn
-    PagePlacement imagePlacement;  // what `image` was drawn for
-    QString note;                  // on the sheet, in place of a page that cannot be drawn
+    Look wanted;                   // what the side is, or shall be
+    std::optional<Look> drawn;     // and what was drawn last
     QString words;                 // what the sheet is, where no page is printed on it
-    bool isMarked = false;         // the page is an exception
+    bool isMarked = false;         // a page is an exception
     QString message;               // in place of a sheet
     bool isEmpty = true;
 
-    // The sheet is drawn at `scale` in the middle, where pages lie on it centred.
-    QRectF sheetRect(const QSizeF &sheet, double scale) const
+    // Where the side lies, with all of a page that the sheet cuts: in the middle, in whole
+    // pixels, because a hair of grey along an edge looks like a printed line.
+    QRectF allRect(const SidePlacement &side) const
     {
-        QRectF rect(QPointF(), sheet * scale);
+        const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
+        const QSizeF all = side.all().size();
+        if (all.isEmpty() || room.isEmpty())
+            return {};
+        QRectF rect(QPointF(), all.scaled(room, Qt::KeepAspectRatio));
         rect.moveCenter(QRectF(this->rect()).center());
-        // Whole pixels: a hair of grey along an edge looks like a printed line.
         return QRectF(rect.toAlignedRect());
     }
 
-    // There is room for the sheet, and for all of a page that the sheet cuts.
-    double scaleFor(const PagePlacement &shown) const
+    // Logical pixels of what is placed in points.
+    QRectF onScreen(const SidePlacement &side, const QRectF &points) const
     {
-        const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
-        const QSizeF all = shown.all().size();
-        if (all.isEmpty())
-            return 0;
-        return std::max(0.0, std::min(room.width() / all.width(), room.height() / all.height()));
+        const QRectF all = side.all();
+        const QRectF rect = allRect(side);
+        const double across = rect.width() / all.width();
+        const double down = rect.height() / all.height();
+        return {rect.x() + (points.x() - all.x()) * across,
+                rect.y() + (points.y() - all.y()) * down, points.width() * across,
+                points.height() * down};
     }
 
 protected:
@@ -92,18 +105,22 @@ protected:
                 paintFocus(painter, QRectF(rect()).adjusted(2, 2, -2, -2));
             return;
         }
-        // Until the new page is drawn, the old one stays, on its own sheet.
-        const bool hasPage = words.isEmpty() && !image.isNull();
-        const PagePlacement &shown = hasPage ? imagePlacement : placement;
-        const QRectF sheet = sheetRect(shown.sheet, scaleFor(shown));
+        // Until the new side is drawn, the old one stays, on its own sheet.
+        const Look &shown = words.isEmpty() && drawn ? *drawn : wanted;
+        const SidePlacement &side = shown.placement;
+        const QRectF sheet = side.isCut() ? inWholePixels(sheetRect(side)) : allRect(side);
         paintShadow(painter, sheet);
         painter.fillRect(sheet, Qt::white);
-        if (hasPage && shown.isCut())
-            paintCutPage(painter, sheet, shown);
-        else if (hasPage)
-            paintPage(painter, sheet, shown);
+        if (words.isEmpty() && !shown.picture.isNull())
+            paintPicture(painter, shown);
+        if (side.isCut() && !shown.picture.isNull())
+            paintLoss(painter, side, sheet);
+        if (!side.fold.isNull())
+            paintFold(painter, side);
+        if (!words.isEmpty())
+            paintText(painter, sheet, words);
         else
-            paintText(painter, sheet, words.isEmpty() ? note : words);
+            paintPlaces(painter, shown);
         if (isMarked)
             paintMark(painter, sheet);
         painter.setPen(QColor(0, 0, 0, 45));
@@ -195,12 +212,34 @@ private:
         painter.restore();
     }
 
-    // All of it: the sheet as it comes out, and veiled around that what is lost.
-    void paintCutPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
+    static QRectF inWholePixels(const QRectF &rect) { return QRectF(rect.toAlignedRect()); }
+
+    QRectF sheetRect(const SidePlacement &side) const
     {
-        const QRectF page = pageRect(sheet, shown);
-        painter.fillRect(page, Qt::white);
-        paintPage(painter, sheet, shown);
+        return onScreen(side, {QPointF(), side.sheet});
+    }
+
+    void paintPicture(QPainter &painter, const Look &shown) const
+    {
+        QRectF rect = allRect(shown.placement);
+        // Drawn for this very size, up to rounding: pixel upon pixel, or small
+        // print would blur.
+        const double ratio = devicePixelRatioF();
+        const QSizeF size = QSizeF(shown.picture.size()) / ratio;
+        const QSizeF difference = rect.size() - size;
+        if (std::abs(difference.width()) * ratio <= 1 && std::abs(difference.height()) * ratio <= 1)
+            rect.setSize(size);
+        painter.save();
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(rect, shown.picture);
+        painter.restore();
+    }
+
+    // All is seen of a page that is cut: the sheet as it comes out, and veiled around that
+    // what is lost.
+    void paintLoss(QPainter &painter, const SidePlacement &side, const QRectF &sheet) const
+    {
+        const QRectF page = inWholePixels(onScreen(side, side.pages.first().rect));
         QPainterPath lost;
         lost.addRect(page);
         QPainterPath kept;
@@ -215,36 +254,27 @@ private:
         painter.drawRect(sheet.adjusted(-1, -1, 1, 1));
     }
 
-    QRectF pageRect(const QRectF &sheet, const PagePlacement &shown) const
+    // Thin and in a color that nobody takes for print.
+    void paintFold(QPainter &painter, const SidePlacement &side) const
     {
-        // The sheet has come to whole pixels; where it is small, that would be much of
-        // a page around it.
-        const double scale = shown.isCut() ? scaleFor(shown) : sheet.width() / shown.sheet.width();
-        QRectF page(QPointF(), shown.page.size() * scale);
-        page.moveCenter(sheet.center());
-        return shown.isCut() ? QRectF(page.toAlignedRect()) : page;
+        const QRectF line = onScreen(side, {side.fold.p1(), side.fold.p2()});
+        painter.setPen(QPen(QColor(110, 150, 200), 1, Qt::DashLine));
+        painter.drawLine(line.topLeft().toPoint(), line.bottomRight().toPoint());
     }
 
-    void paintPage(QPainter &painter, const QRectF &sheet, const PagePlacement &shown) const
+    // What stands in place of pages, and the lines that are printed around pages.
+    void paintPlaces(QPainter &painter, const Look &shown) const
     {
-        QRectF page = pageRect(sheet, shown);
-        // Quarter turns move pixels and blur none.
-        const QImage turned = image.transformed(QTransform().rotate(shown.rotation));
-        // Drawn for this very size, up to rounding: pixel upon pixel, or small
-        // print would blur.
-        const double ratio = devicePixelRatioF();
-        const QSizeF size = QSizeF(turned.size()) / ratio;
-        const QSizeF difference = page.size() - size;
-        if (std::abs(difference.width()) * ratio <= 2
-            && std::abs(difference.height()) * ratio <= 2) {
-            page = QRectF(
-                QPointF(std::round(page.x() * ratio), std::round(page.y() * ratio)) / ratio, size);
+        const SidePlacement &side = shown.placement;
+        for (int place = 0; place < side.pages.size(); ++place) {
+            const QRect rect = onScreen(side, side.pages[place].rect).toRect();
+            if (shown.drawsBorders && !rect.isEmpty()) {
+                painter.setPen(Qt::black);
+                painter.drawRect(rect.adjusted(0, 0, -1, -1));
+            }
+            if (!shown.notes.value(place).isEmpty())
+                paintText(painter, onScreen(side, placeOfPage(side, place)), shown.notes[place]);
         }
-        painter.save();
-        painter.setClipRect(shown.isCut() ? page : sheet);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(page, turned);
-        painter.restore();
     }
 
     int m_wheel = 0; // turned, but less than a notch
@@ -254,12 +284,12 @@ private:
 
 struct DocumentPreview::Private
 {
-    DocumentPreview *preview;
     Document document;
     Layout layout;
     std::vector<PageRun> runs; // of `layout`, or the whole document
     SheetSequence sequence;    // of their pages
     int index = 0;             // of the shown side
+    int followed = 0;          // the page that is followed where a side has two, as printed
     QString message;
 
     PageRenderer renderer;
@@ -268,26 +298,32 @@ struct DocumentPreview::Private
     QToolButton *next;
     QLabel *caption;
 
-    int askedPage = 0; // what the renderer was asked for last
-    QSize askedPixels;
-    PagePlacement askedPlacement;
-
-    explicit Private(DocumentPreview *owner)
-        : preview(owner)
-    {
-    }
+    SideToDraw asked; // what the renderer was asked for last
+    Look askedLook;
+    std::optional<DrawnSide> answer; // none: it is still being drawn
 
     int count() const { return sequence.sides(); }
     SheetSide side() const { return index < count() ? sequence.side(index) : SheetSide{}; }
-    // The document's page on the shown side, or the last one before it; 0 for none.
-    int page() const { return documentPage(runs, side().page - 1); }
+    // The page on the shown side, or the last one before it, as printed; 0 for none.
+    int printedPageInSight() const
+    {
+        const SheetSide shown = side();
+        const bool isThere = followed > 0 && std::ranges::count(shown.bookletPages, followed) > 0;
+        return isThere ? followed : shown.page;
+    }
+    // The same as the document's.
+    int page() const { return documentPage(runs, printedPageInSight() - 1); }
+    int sidesBehindPage() const
+    {
+        return index - std::max(0, sequence.indexOfPage(printedPageInSight()));
+    }
 
     void setUpSequence()
     {
         // The same page stays in sight where it is still printed, and what comes
         // after it stays as far behind it.
         const int pageBefore = page();
-        const int behind = index - std::max(0, sequence.indexOfPage(side().page));
+        const int behind = sidesBehindPage();
         const int last = document.pageCount();
         runs = layout.pages;
         if (runs.empty() && last > 0)
@@ -296,14 +332,17 @@ struct DocumentPreview::Private
         std::erase_if(runs, [last](const PageRun &run) { return run.first > last; });
         for (PageRun &run : runs)
             run.last = std::min(run.last, last);
-        sequence = SheetSequence(pageCount(runs), layout.twoSided, layout.special);
+        sequence =
+            SheetSequence(pageCount(runs), layout.twoSided, layout.special, layout.imposition);
         // A page may be printed twice.
-        const bool isThere = page() == pageBefore
-            && index - std::max(0, sequence.indexOfPage(side().page)) == behind;
-        const int printed = isThere ? 0 : printedPage(runs, pageBefore);
-        if (printed > 0)
+        const bool isThere = page() == pageBefore && sidesBehindPage() == behind;
+        const int printed = isThere ? 0 : kelvo::printedPage(runs, pageBefore);
+        if (printed > 0) {
+            followed = printed;
             index = sequence.indexOfPage(printed) + behind;
+        }
         index = std::clamp(index, 0, std::max(0, count() - 1));
+        followed = printedPageInSight();
     }
 
     void step(int by)
@@ -313,7 +352,34 @@ struct DocumentPreview::Private
         if (wanted == index || !message.isEmpty())
             return;
         index = wanted;
+        followed = side().page;
         sync();
+    }
+
+    // The pages that are printed on a side, place by place; 0 for a blank one.
+    static QList<int> printedPages(const SheetSide &shown)
+    {
+        if (shown.kind == SheetSide::Kind::Booklet)
+            return {shown.bookletPages[0], shown.bookletPages[1]};
+        return {shown.kind == SheetSide::Kind::Page ? shown.page : 0};
+    }
+
+    SidePlacement placementOf(const SheetSide &shown) const
+    {
+        if (layout.imposition) {
+            // Covers and inserts are folded with the sheets that they lie around or in.
+            BookletSide side;
+            side.shape = document.pageSize(runs.front().first);
+            side.sheet = shown.bookletSheet;
+            for (std::size_t place = 0; place < side.pages.size(); ++place) {
+                if (const int printed = shown.bookletPages[place]; printed > 0)
+                    side.pages[place] = document.pageSize(documentPage(runs, printed - 1));
+            }
+            return placeBooklet(side, *layout.imposition, layout.paper, layout.orientation);
+        }
+        // Before the first page, sheets are like the one that it is on.
+        return placePage(document.pageSize(page() > 0 ? page() : runs.front().first), layout.paper,
+                         layout.orientation);
     }
 
     // From what is printed to what is shown.
@@ -324,75 +390,123 @@ struct DocumentPreview::Private
         next->setEnabled(hasSide && index + 1 < count());
         sheet->message = message;
         sheet->isEmpty = count() == 0;
-        QString text;
-        if (count() > 0) {
-            const SheetSide shown = side();
-            // Before the first page, sheets are like the one that it is on.
-            sheet->placement =
-                placePage(document.pageSize(page() > 0 ? page() : runs.front().first), layout.paper,
-                          layout.orientation);
-            const bool hadWords = !sheet->words.isEmpty();
-            sheet->words = sheetWords(shown, layout.words);
-            sheet->isMarked = shown.kind == SheetSide::Kind::Page && shown.exceptionFirst > 0;
-            // The page before an insert is no stand-in for the one after it.
-            if (hadWords && sheet->words.isEmpty() && page() != askedPage)
-                sheet->image = {};
-            text = sideCaption(shown, page(), document.pageCount(), layout.words);
-            if (const QString remark = remarkCaption(shown, sheet->placement.isCut(), layout.words);
-                !remark.isEmpty())
-                text += u'\n' + remark;
-        }
-        // Room for a remark, so that sheets do not change their size as one turns them.
-        caption->setMinimumHeight(
-            layout.special.exceptions.isEmpty() ? 0 : 2 * caption->fontMetrics().lineSpacing());
-        caption->setText(hasSide ? text : QString());
-        sheet->setAccessibleDescription(hasSide ? text : message);
+        if (count() > 0)
+            showSide(side());
+        showCaption();
         sheet->update();
         request();
+    }
+
+    void showSide(const SheetSide &shown)
+    {
+        sheet->wanted = {
+            placementOf(shown), layout.imposition && layout.imposition->drawsBorders, {}, {}};
+        for (int page : printedPages(shown))
+            sheet->wanted.notes << (page > 0 ? QString() : blankWords());
+        const bool hadWords = !sheet->words.isEmpty();
+        sheet->words = sheetWords(shown, layout.words);
+        sheet->isMarked = !shown.exceptions.isEmpty();
+        // The page before an insert is no stand-in for the one after it.
+        if (hadWords && sheet->words.isEmpty() && page() != askedPage())
+            sheet->drawn.reset();
+    }
+
+    void showCaption()
+    {
+        // Room for a remark, so that sheets do not change their size as one turns them.
+        const bool hasRemarks = layout.imposition || !layout.special.exceptions.isEmpty();
+        caption->setMinimumHeight(hasRemarks ? 2 * caption->fontMetrics().lineSpacing() : 0);
+        QString text;
+        if (message.isEmpty() && count() > 0) {
+            const SheetSide shown = side();
+            text = sideCaption(shown, runs, document.pageCount(), layout.words);
+            const QStringList lacking = answer ? answer->lackingOverlays : QStringList();
+            const QString remark =
+                remarkCaption(shown, sheet->wanted.placement, lacking, layout.words);
+            if (!remark.isEmpty())
+                text += u'\n' + remark;
+        }
+        caption->setText(text);
+        sheet->setAccessibleDescription(message.isEmpty() ? text : message);
+    }
+
+    int askedPage() const { return asked.pages.isEmpty() ? 0 : asked.pages.first().page; }
+
+    // What is drawn on the shown side, in pixels of its picture.
+    SideToDraw sideToDraw() const
+    {
+        const SidePlacement &placement = sheet->wanted.placement;
+        const QRectF all = sheet->allRect(placement);
+        const double ratio = sheet->devicePixelRatioF();
+        const auto pixels = [&](const QRectF &points) {
+            const QRectF rect = sheet->onScreen(placement, points).translated(-all.topLeft());
+            return QRect((rect.topLeft() * ratio).toPoint(), (rect.size() * ratio).toSize());
+        };
+        SideToDraw drawing;
+        drawing.pixels = (all.size() * ratio).toSize();
+        const QList<int> printed = printedPages(side());
+        for (int place = 0; place < printed.size(); ++place) {
+            if (printed[place] == 0)
+                continue;
+            const PagePlacement &page = placement.pages[place];
+            drawing.pages << SideToDraw::Page{documentPage(runs, printed[place] - 1),
+                                              pixels(page.rect), page.rotation};
+            const OverlayPlacement over = placeOverlay(placement, place);
+            for (const Overlay &overlay : layout.overlays) {
+                if (!overlay.firstPageOnly || printed[place] == 1)
+                    drawing.overlays << SideToDraw::OverlayOnPage{
+                        overlay, over.page, pixels(over.rect), placement.isUpsideDown ? 180 : 0};
+            }
+        }
+        return drawing;
     }
 
     void request()
     {
         if (!sheet->isVisible() || sheet->isEmpty || !message.isEmpty() || !sheet->words.isEmpty())
             return;
-        const PagePlacement &placement = sheet->placement;
-        const double scale = sheet->scaleFor(placement) * sheet->devicePixelRatioF();
-        QSizeF pixels = placement.page.size() * scale;
-        if (placement.rotation % 180 != 0)
-            pixels.transpose();
-        const QSize whole = pixels.toSize();
-        if (whole.isEmpty()
-            || (page() == askedPage && whole == askedPixels && placement == askedPlacement)) {
+        const SideToDraw drawing = sideToDraw();
+        if (drawing.pixels.isEmpty())
+            return;
+        if (drawing.pages.isEmpty()) { // both sides of a fold are blank
+            forgetAsked();
             return;
         }
-        // The same page in the same pixels need not be drawn again to lie elsewhere.
-        const bool isDrawn = page() == askedPage && whole == askedPixels && hasAnswer;
-        askedPage = page();
-        askedPixels = whole;
-        askedPlacement = placement;
-        if (isDrawn) {
-            sheet->imagePlacement = placement;
-            return;
+        askedLook = sheet->wanted;
+        if (drawing != asked) {
+            asked = drawing;
+            answer.reset();
+            renderer.render(drawing);
+        } else if (answer) {
+            showAnswer(); // the same picture; its lines may be others
         }
-        hasAnswer = false;
-        renderer.render(page(), whole);
     }
 
-    void show(const QImage &image, PageProblem problem)
+    void forgetAsked()
     {
-        hasAnswer = true;
-        sheet->image = image;
-        sheet->imagePlacement = askedPlacement;
-        sheet->note = noteOn(problem);
+        asked = {};
+        answer.reset();
+        sheet->drawn.reset();
+    }
+
+    void showAnswer()
+    {
+        Look look = askedLook;
+        look.picture = answer->picture;
+        auto problem = answer->problems.cbegin();
+        for (QString &note : look.notes) {
+            if (note.isEmpty() && problem != answer->problems.cend())
+                note = noteOn(*problem++);
+        }
+        sheet->drawn = look;
+        showCaption();
         sheet->update();
     }
-
-    bool hasAnswer = false; // what was asked for is in sight
 };
 
 DocumentPreview::DocumentPreview(QWidget *parent)
     : QWidget(parent)
-    , d(std::make_unique<Private>(this))
+    , d(std::make_unique<Private>())
 {
     d->sheet = new SheetView(this);
     d->sheet->setObjectName(QStringLiteral("previewSheet"));
@@ -434,8 +548,10 @@ DocumentPreview::DocumentPreview(QWidget *parent)
     column->addWidget(d->sheet, 1);
     column->addLayout(row);
 
-    connect(&d->renderer, &PageRenderer::rendered, this,
-            [this](int, const QImage &image, PageProblem problem) { d->show(image, problem); });
+    connect(&d->renderer, &PageRenderer::rendered, this, [this](const DrawnSide &side) {
+        d->answer = side;
+        d->showAnswer();
+    });
     d->sync();
 }
 
@@ -447,11 +563,8 @@ void DocumentPreview::setDocument(const Document &document)
     d->index = 0;
     d->runs.clear();
     d->setUpSequence();
-    d->askedPage = 0;
-    d->hasAnswer = false;
     // Another document's page must not stand in for this one's.
-    d->sheet->image = {};
-    d->sheet->note.clear();
+    d->forgetAsked();
     d->renderer.setDocument(document);
     d->sync();
 }
@@ -463,6 +576,11 @@ void DocumentPreview::setLayout(const Layout &layout)
     d->sync();
 }
 
+void DocumentPreview::setOverlayPainter(OverlayPainter painter)
+{
+    d->renderer.setOverlayPainter(std::move(painter));
+}
+
 void DocumentPreview::setMessage(const QString &message)
 {
     d->message = message;
@@ -471,7 +589,7 @@ void DocumentPreview::setMessage(const QString &message)
 
 bool DocumentPreview::isDrawing() const
 {
-    return d->askedPage > 0 && !d->hasAnswer;
+    return !d->asked.pages.isEmpty() && !d->answer;
 }
 
 QSize DocumentPreview::sizeHint() const

@@ -3,19 +3,22 @@
 #include "document.h"
 #include "job_settings.h"
 #include "page_ranges.h"
+#include "page_renderer.h"
 #include "sheet_sequence.h"
 
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kelvo {
 
 // Shows the sheets that will be printed, one side at a time: white paper in
 // any theme, page forward and back, "Sheet 2, front". Covers and inserts are sheets
-// with their name on them; pages of an exception range have a corner marked. The
-// caller says what is printed; nothing here decides it.
+// with their name on them; pages of an exception range have a corner marked. Sheets of a
+// booklet have two pages on a side and a line where they are folded. The caller says what is
+// printed; nothing here decides it.
 class DocumentPreview : public QWidget
 {
     Q_OBJECT
@@ -32,12 +35,15 @@ public:
         bool twoSided = false;
         SpecialSheets special;
         SpecialSheetWords words; // what they are called
+        std::optional<Imposition> imposition;
+        std::vector<Overlay> overlays;
     };
     void setDocument(const Document &document);
     void setLayout(const Layout &layout);
-    void setMessage(const QString &message); // instead of a page; empty shows pages again
+    void setOverlayPainter(OverlayPainter painter); // of sides drawn from now on
+    void setMessage(const QString &message);        // instead of a page; empty shows pages again
 
-    bool isDrawing() const; // a page that was asked for is not in sight yet
+    bool isDrawing() const; // a side that was asked for is not in sight yet
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -1,18 +1,27 @@
 #pragma once
 
+#include "page_placement.h"
+#include "page_ranges.h"
 #include "sheet_sequence.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <vector>
 
 // What the preview says of a side, as rules without a window.
 namespace kelvo {
 
-// "Sheet 2, front · page 3 of 12" for a side of what is printed, where that is page
-// `page` of the document's `count`. One-sided sheets have no front.
-QString sideCaption(const SheetSide &side, int page, int count, const SpecialSheetWords &words);
-// What else is to be said of it: the exception that it lies in, and that it is cut.
-QString remarkCaption(const SheetSide &side, bool isCut, const SpecialSheetWords &words);
+// "Sheet 2, front · page 3 of 12" for a side of what is printed, where `runs` are the pages
+// of the document that are printed, and `count` is all it has. One-sided sheets have no front.
+QString sideCaption(const SheetSide &side, const std::vector<PageRun> &runs, int count,
+                    const SpecialSheetWords &words);
+// What else is to be said of it: the exceptions that its pages lie in, that one is cut, what
+// the printer alone decides, and which of the drawings over its pages are not shown.
+QString remarkCaption(const SheetSide &side, const SidePlacement &placement,
+                      const QStringList &lackingOverlays, const SpecialSheetWords &words);
 // What stands on a sheet or a back without print, "Insert, 3 sheets"; empty for pages.
 QString sheetWords(const SheetSide &side, const SpecialSheetWords &words);
+QString blankWords(); // on a place without a page
 
 } // namespace kelvo

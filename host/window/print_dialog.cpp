@@ -7,6 +7,7 @@
 #include "job_details_dialog.h"
 #include "modal_dialog.h"
 #include "notice.h"
+#include "overlay_painter.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "preset_menu.h"
@@ -53,9 +54,8 @@ constexpr OSType kPreviousTab = fourCharCode("KFdn");
 PrintDialog::PrintDialog(DialogOptions options)
     : m_parts(this)
     , m_places(this, m_parts.panelSwitch)
-    , m_extension(options.session.bundle
-                      ? std::make_unique<Extension>(options.session.bundle, m_parts.panes)
-                      : nullptr)
+    , m_bundle(options.session.bundle)
+    , m_extension(m_bundle ? std::make_unique<Extension>(m_bundle, m_parts.panes) : nullptr)
     , m_session(std::make_unique<DialogSession>(std::move(options.session), m_extension.get()))
     , m_cautions(*m_session, m_session->search().hasQueue() && !options.plan.elsewhere,
                  [this] { return place(); })
@@ -314,6 +314,10 @@ void PrintDialog::updatePreview()
     const JobDescription &description = job.description();
     layout.special = description.sheets;
     layout.words = description.sheetWords;
+    layout.imposition = description.imposition;
+    layout.overlays = description.overlays;
+    if (!layout.overlays.empty())
+        m_parts.preview->setOverlayPainter(overlayPainter(OverlayDrawer(m_bundle)));
     m_parts.preview->setLayout(layout);
 }
 

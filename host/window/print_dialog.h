@@ -120,6 +120,7 @@ private:
 
     DialogParts m_parts;
     PanelPlaces m_places;
+    Bundle *const m_bundle;                 // null: there is none
     std::unique_ptr<Extension> m_extension; // null: there is no bundle
     std::unique_ptr<DialogSession> m_session;
     SessionCautions m_cautions;

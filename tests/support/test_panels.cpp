@@ -1,9 +1,11 @@
 #include "test_panels.h"
 
 #include "event.h"
+#include "job_description.h"
 #include "plugin_abi.h"
 #include "print_session.h"
 
+#include <QFile>
 #include <QLineEdit>
 #include <QUuid>
 #include <QVBoxLayout>
@@ -218,6 +220,27 @@ KELVO_PLUGIN_EXPORT PlugInInstance *TestPanelsFactory(void *, const QUuid &typeU
 KELVO_PLUGIN_EXPORT PlugInInstance *RefusingFactory(void *, const QUuid &)
 {
     return nullptr;
+}
+
+KELVO_PLUGIN_EXPORT OSStatus KelvoDescribeJob(const JobToDescribe *, JobDescription *description)
+{
+    *description = {};
+    if (state.overlayStore.isEmpty())
+        return noErr;
+    description->files = {{state.overlayStore, stampOf(state.overlayStore)}};
+    QFile store(state.overlayStore);
+    if (store.open(QFile::ReadOnly))
+        description->overlays = {{QString::fromUtf8(store.readAll()), Overlay::Place::Above}};
+    return noErr;
+}
+
+// Of every name but "Lost".
+KELVO_PLUGIN_EXPORT OSStatus KelvoDrawOverlay(const OverlayToDraw *overlay, QByteArray *pdf)
+{
+    if (overlay->name == QLatin1String("Lost"))
+        return fnfErr;
+    *pdf = state.overlayPdf;
+    return noErr;
 }
 
 KELVO_PLUGIN_EXPORT TestPanels *testPanels()

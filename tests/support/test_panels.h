@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -11,6 +12,10 @@ struct TestPanels
     QString failing;   // the panel whose Prologue fails
     bool refusesPrinter = false;
     bool takesPrint = false; // the shell consumes the press of Print
+    // A file whose text names what is drawn over the pages, and how that looks. None where
+    // either is empty.
+    QString overlayStore;
+    QByteArray overlayPdf;
     int livingContexts = 0;
     int livingInterfaces = 0;
 };

@@ -1,5 +1,6 @@
 #include "angle_dial.h"
 #include "control.h"
+#include "control_interface.h"
 #include "event_log.h"
 #include "inspector.h"
 #include "menu_button.h"
@@ -66,6 +67,7 @@ private slots:
     void aLongTextDoesNotWidenThePopup();
 
     void aMenuButtonOffersWhatItsUpdateLeaves();
+    void aMenuButtonShowsWhatWasChosen();
 
     void aRadioGroupCountsInLayoutOrder();
     void aTabControlTellsTheUsersChangesOnly();
@@ -324,6 +326,23 @@ void TestControls::aLongTextDoesNotWidenThePopup()
     QCoreApplication::sendEvent(&popup, &help);
     QCOMPARE(QToolTip::text(),
              QStringLiteral("<qt>%1</qt>").arg(popup.currentText().toHtmlEscaped()));
+}
+
+void TestControls::aMenuButtonShowsWhatWasChosen()
+{
+    MenuButton button;
+    button.setShownChoice(QStringLiteral("Terms & <b>conditions</b>") + QString(40, u'm'));
+    const QSize hint = button.sizeHint();
+    button.resize(hint);
+    button.show();
+    QCOMPARE(interfaceOf(&button)->text(), button.shownChoice());
+    QVERIFY(button.text().startsWith(QStringLiteral("Terms && <b>"))); // no mnemonics
+    QVERIFY(button.text().endsWith(QChar(0x2026)));
+    QVERIFY(button.toolTip().contains(QStringLiteral("&lt;b&gt;conditions")));
+    button.setShownChoice(QStringLiteral("R&D"));
+    QCOMPARE(button.text(), QStringLiteral("R&&D"));
+    QCOMPARE(button.toolTip(), QString());
+    QCOMPARE(button.sizeHint(), hint); // a name moves nothing
 }
 
 void TestControls::aMenuButtonOffersWhatItsUpdateLeaves()

@@ -18,14 +18,16 @@ class TestSheetSequence : public QObject
 private slots:
     void comeInOrder_data();
     void comeInOrder();
+    void bookletsComeInOrder_data();
+    void bookletsComeInOrder();
     void areCheapInGreatNumbers();
 };
 
 namespace {
 
 // "F" front cover, "2x3" two sheets of an insert after page 3, "4" a page, "4f" and "4b"
-// on a front or back, "-" a blank back, "B" back cover; "!" in an exception. Before each
-// the number of the sheet.
+// on a front or back, "8+1f" a front of a booklet, "-" a blank back, "B" back cover; "!" for
+// each exception, "?" for an insert anywhere. Before each the number of the sheet.
 QString outlineOf(const SheetSequence &sequence)
 {
     QStringList parts;
@@ -41,6 +43,17 @@ QString outlineOf(const SheetSequence &sequence)
             break;
         case SheetSide::Kind::Insert:
             text = QString("%1x%2").arg(side.sheets).arg(side.page);
+            if (side.isAnywhere)
+                text += "?";
+            break;
+        case SheetSide::Kind::Booklet:
+            text = QString("%1+%2").arg(side.bookletPages[0]).arg(side.bookletPages[1]);
+            text += side.isBack ? "b" : "f";
+            text += QString("!").repeated(side.exceptions.size());
+            for (int page : side.bookletPages) {
+                if (page > 0 && sequence.indexOfPage(page) != index)
+                    text += QString(" %1 is not found").arg(page);
+            }
             break;
         case SheetSide::Kind::BlankBack:
             text = side.isBack ? "-" : "a blank front";
@@ -49,8 +62,7 @@ QString outlineOf(const SheetSequence &sequence)
             text = QString::number(side.page);
             if (side.isTwoSided)
                 text += side.isBack ? "b" : "f";
-            if (side.exceptionFirst > 0)
-                text += "!";
+            text += QString("!").repeated(side.exceptions.size());
             if (sequence.indexOfPage(side.page) != index)
                 text += " is not found";
             break;
@@ -86,6 +98,37 @@ void TestSheetSequence::comeInOrder_data()
         "1:F 2:1f! 2:2b! 3:1x2 4:3f! 4:- 5:4 6:5", 6);
     row("beyond the last page", 2, false,
         SpecialSheets{.inserts = {{3, 1}}, .exceptions = {{3, 3, true}}}, "1:1 2:2", 2);
+}
+
+void TestSheetSequence::bookletsComeInOrder_data()
+{
+    const Table<int, SpecialSheets, QString, qint64> row{"pages", "special", "outline", "sheets"};
+
+    row("no pages", 0, SpecialSheets{Cover::Sheet}, "", 0);
+    row("1 page", 1, SpecialSheets(), "1:0+1f 1:0+0b", 1);
+    row("6 pages", 6, SpecialSheets(), "1:0+1f 1:2+0b 2:6+3f 2:4+5b", 2);
+    row("covers go around", 4, SpecialSheets{Cover::Sheet, Cover::Sheet}, "1:F 2:4+1f 2:2+3b 3:B",
+        3);
+    row("inserts are counted", 4,
+        SpecialSheets{Cover::None, Cover::Sheet, {{0, 2}, {3, 1}, {5, 1}}},
+        "1:4+1f 1:2+3b 2:2x4? 4:1x4? 5:B", 5);
+    row("exceptions begin no sheet", 8, SpecialSheets{.exceptions = {{1, 1, {}}, {4, 9, false}}},
+        "1:8+1f!! 1:2+7b! 2:6+3f! 2:4+5b!", 2);
+}
+
+void TestSheetSequence::bookletsComeInOrder()
+{
+    QFETCH(int, pages);
+    QFETCH(SpecialSheets, special);
+    QFETCH(qint64, sheets);
+
+    for (bool twoSided : {false, true}) { // a booklet is
+        const SheetSequence sequence(pages, twoSided, special, Imposition());
+        QTEST(outlineOf(sequence), "outline");
+        QCOMPARE(sequence.sheets(), sheets);
+        QCOMPARE(sequence.indexOfPage(pages + 1), -1);
+        QCOMPARE(sequence.indexOfPage(0), -1);
+    }
 }
 
 void TestSheetSequence::comeInOrder()

@@ -20,6 +20,7 @@ private slots:
     void whyThereAreNoPanels();
     void whatWasSetComesBack();
     void aPresetIsWhatWasSaved();
+    void panelsKnowTheFirstPrintedPage();
     void aSearchCanBeTriedAgain();
     void settingsComeBackWithTheirPrinter();
 };
@@ -109,6 +110,35 @@ void TestSession::aPresetIsWhatWasSaved()
     QVERIFY(presets.all().empty() && !presets.chosen());
     QCOMPARE(run.panels.note, "mine");
     QVERIFY(run.job().isChanged());
+}
+
+void TestSession::panelsKnowTheFirstPrintedPage()
+{
+    auto begin = sampleBeginning();
+    begin.job.pages = "3-";
+    Running run(begin);
+    DocumentPage page;
+    PMPrintSession session = &run.job().tickets();
+    QCOMPARE(PMSessionGetFirstPage(session, &page), kPMKeyNotFound); // it is still read
+    QVERIFY(run.waitUntilIdle());
+    const auto firstPage = [&] {
+        return PMSessionGetFirstPage(session, &page) == noErr
+                && page.pdfPath == run.session.document().document().pdfPath()
+            ? page.page
+            : 0;
+    };
+    QCOMPARE(firstPage(), 3);
+
+    const auto before = run.job().snapshot();
+    JobSettings settings = run.job().settings();
+    settings.pageRanges = "5,2";
+    run.job().change(settings);
+    QCOMPARE(firstPage(), 5);
+    settings.pageRanges = "99"; // typed, and not yet told to be wrong
+    run.job().change(settings);
+    QCOMPARE(firstPage(), 1);
+    run.job().restore(before);
+    QCOMPARE(firstPage(), 3);
 }
 
 // ---- printers

@@ -1,5 +1,4 @@
 #include "document_preview.h"
-#include "page_placement.h"
 #include "preview_captions.h"
 #include "sample_documents.h"
 #include "table.h"
@@ -12,9 +11,6 @@
 
 using namespace kelvo;
 using namespace kelvo::test;
-
-Q_DECLARE_METATYPE(kelvo::Orientation)
-Q_DECLARE_METATYPE(kelvo::PagePlacement)
 
 namespace {
 
@@ -36,6 +32,19 @@ QToolButton *button(const DocumentPreview &preview, const char *name)
     return preview.findChild<QToolButton *>(QLatin1String(name));
 }
 
+// Of all sides, from the first one on; the last one is shown then.
+QStringList captionsOf(const DocumentPreview &preview)
+{
+    while (button(preview, "previewPrevious")->isEnabled())
+        button(preview, "previewPrevious")->click();
+    QStringList captions;
+    do {
+        captions << caption(preview);
+        button(preview, "previewNext")->click();
+    } while (caption(preview) != captions.last());
+    return captions;
+}
+
 // The colour in the middle of the sheet.
 QColor middle(DocumentPreview &preview)
 {
@@ -51,51 +60,19 @@ class TestDocumentPreview : public QObject
     Q_OBJECT
 
 private slots:
-    void placesPages_data();
-    void placesPages();
     void namesSheets_data();
     void namesSheets();
     void turnsPages();
     void staysOnThePageWhereItIsStillPrinted();
     void showsSpecialSheets();
+    void namesSidesOfBooklets();
+    void staysOnThePageInBooklets();
+    void drawsSidesOfBooklets();
+    void drawsWhatLiesOverPages();
     void showsPaperAndMessages();
     void drawsWhatIsPrinted();
     void showsWhatIsCutOff();
 };
-
-void TestDocumentPreview::placesPages_data()
-{
-    const Table<QSizeF, QSizeF, Orientation, PagePlacement> row{"page", "paper", "orientation",
-                                                                "placement"};
-    using enum Orientation;
-    const QSizeF wide = a4.transposed();
-
-    row("fits", a4, a4, Portrait, PagePlacement{a4, {{0, 0}, a4}, 0});
-    row("no paper known", wide, QSizeF(), Portrait, PagePlacement{wide, {{0, 0}, wide}, 0});
-    row("smaller, centred", QSizeF(195, 442), a4, Portrait,
-        PagePlacement{a4, {200, 200, 195, 442}, 0});
-    row("larger, cut", QSizeF(795, 1042), a4, Portrait,
-        PagePlacement{a4, {-100, -100, 795, 1042}, 0});
-    row("wide page on tall paper", wide, a4, Portrait, PagePlacement{a4, {{0, 0}, a4}, 270});
-    row("wide page, landscape", wide, a4, Landscape, PagePlacement{wide, {{0, 0}, wide}, 0});
-    row("tall page, landscape", a4, a4, Landscape, PagePlacement{wide, {{0, 0}, wide}, 270});
-    row("upside down", a4, a4, ReversePortrait, PagePlacement{a4, {{0, 0}, a4}, 180});
-    row("tall page, reverse landscape", a4, a4, ReverseLandscape,
-        PagePlacement{wide, {{0, 0}, wide}, 90});
-    row("a square is never turned", QSizeF(100, 100), QSizeF(200, 300), Portrait,
-        PagePlacement{{200, 300}, {50, 100, 100, 100}, 0});
-}
-
-void TestDocumentPreview::placesPages()
-{
-    QFETCH(QSizeF, page);
-    QFETCH(QSizeF, paper);
-    QFETCH(Orientation, orientation);
-    QFETCH(PagePlacement, placement);
-
-    QCOMPARE(placePage(page, paper, orientation), placement);
-    QCOMPARE(placement.isCut(), QByteArray(QTest::currentDataTag()) == "larger, cut");
-}
 
 void TestDocumentPreview::namesSheets_data()
 {
@@ -194,13 +171,7 @@ void TestDocumentPreview::showsSpecialSheets()
     preview.setLayout(layout);
     QCOMPARE(caption(preview), "Sheet 2, front · page 1 of 4"); // as before
 
-    button(preview, "previewPrevious")->click();
-    QStringList captions;
-    do {
-        captions << caption(preview);
-        button(preview, "previewNext")->click();
-    } while (caption(preview) != captions.last());
-    QCOMPARE(captions,
+    QCOMPARE(captionsOf(preview),
              (QStringList{
                  "Sheet 1 · Cover", "Sheet 2, front · page 1 of 4", "Sheet 2, back · blank",
                  "Sheets 3–5 · Insert", "Sheet 6 · page 2 of 4\nexception 2–3",
@@ -216,6 +187,115 @@ void TestDocumentPreview::showsSpecialSheets()
     layout.special = {};
     preview.setLayout(layout);
     QCOMPARE(caption(preview), "Sheet 2, front · page 3 of 4");
+}
+
+void TestDocumentPreview::namesSidesOfBooklets()
+{
+    DocumentPreview preview;
+    preview.setDocument(documentOf({"", "", "", "", "", "", "", ""}));
+    const SpecialSheetWords words{
+        .frontCover = "Cover", .insert = "Insert", .exception = "exception %1"};
+    DocumentPreview::Layout layout{.paper = a4, .words = words, .imposition = Imposition()};
+    layout.pages = {{3, 8}};
+    layout.special = {SpecialSheets::Cover::Sheet, {}, {{2, 1}}, {{2, 2, {}}, {6, 6, {}}}};
+    preview.setLayout(layout);
+
+    const QString order = "shown left to right; the printer decides";
+    const QStringList captions = captionsOf(preview);
+    QCOMPARE(captions,
+             (QStringList{"Sheet 1 · Cover", "Sheet 2, front · page 3 of 8, one blank\n" + order,
+                          "Sheet 2, back · page 4 of 8, one blank\nexception 2 · " + order,
+                          "Sheet 3, front · pages 8 and 5 of 8\nexception 6 · " + order,
+                          "Sheet 3, back · pages 6 and 7 of 8\n" + order,
+                          "Sheet 4 · Insert\nthe printer decides where it goes"}));
+
+    layout = {.pages = {{1, 1}}, .paper = a4.transposed(), .imposition = Imposition()};
+    preview.setLayout(layout);
+    QCOMPARE(captionsOf(preview),
+             (QStringList{"Sheet 1, front · page 1 of 8, one blank\n" + order,
+                          "Sheet 1, back · blank\n" + order}));
+}
+
+void TestDocumentPreview::staysOnThePageInBooklets()
+{
+    DocumentPreview preview;
+    preview.setDocument(documentOf({"", "", "", "", "", "", "", ""}));
+    const DocumentPreview::Layout single{.paper = a4};
+    const DocumentPreview::Layout booklet{.paper = a4, .imposition = Imposition()};
+    preview.setLayout(single);
+    for (int page = 1; page < 7; ++page)
+        button(preview, "previewNext")->click();
+    QCOMPARE(caption(preview), "Sheet 7 · page 7 of 8");
+
+    preview.setLayout(booklet);
+    QVERIFY(caption(preview).startsWith("Sheet 1, back · pages 2 and 7 of 8"));
+    preview.setLayout(single);
+    QCOMPARE(caption(preview), "Sheet 7 · page 7 of 8");
+    preview.setLayout(booklet);
+    button(preview, "previewNext")->click(); // whoever turns sheets follows their first page
+    preview.setLayout(single);
+    QCOMPARE(caption(preview), "Sheet 3 · page 3 of 8");
+}
+
+void TestDocumentPreview::drawsSidesOfBooklets()
+{
+    DocumentPreview preview;
+    preview.resize(400, 400);
+    preview.setDocument(documentOf({filled("1 0 0"), filled("0 1 0"), filled("0 0 1")}));
+    preview.setLayout({.paper = {300, 400}, .imposition = Imposition{.gutter = 20}});
+    preview.show();
+
+    const auto colourAt = [&preview](double x) { // of the wide sheet
+        const QImage image = preview.findChild<QWidget *>("previewSheet")->grab().toImage();
+        const int rim = 10;
+        return image.pixelColor(rim + static_cast<int>((image.width() - 2 * rim) * x),
+                                image.height() / 2 + 20);
+    };
+    QTRY_COMPARE(colourAt(0.75), QColor(Qt::red));
+    QCOMPARE(colourAt(0.25), QColor(Qt::white)); // a blank one
+    button(preview, "previewNext")->click();
+    QTRY_COMPARE(colourAt(0.25), QColor(Qt::green));
+    QCOMPARE(colourAt(0.45), QColor(Qt::green));
+    QCOMPARE(colourAt(0.485), QColor(Qt::white)); // the gutter, 20 of 400 points
+    QCOMPARE(colourAt(0.515), QColor(Qt::white));
+    QCOMPARE(colourAt(0.75), QColor(Qt::blue));
+
+    preview.setLayout({.paper = {300, 400}, .imposition = Imposition{.drawsBorders = true}});
+    QTRY_COMPARE(colourAt(0.485), QColor(Qt::green));
+}
+
+void TestDocumentPreview::drawsWhatLiesOverPages()
+{
+    DocumentPreview preview;
+    preview.resize(300, 400);
+    QColor colour = Qt::blue;
+    QList<QSizeF> sizes;
+    preview.setOverlayPainter([&](const Overlay &overlay, const QSizeF &page, const QSize &pixels,
+                                  const std::atomic_bool &) {
+        sizes << page;
+        QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+        image.fill(colour);
+        return overlay.name == "Gone" ? QImage() : image;
+    });
+    preview.setDocument(documentOf({"", "", ""}));
+    DocumentPreview::Layout layout{.paper = {210, 300},
+                                   .overlays = {{"Mark", Overlay::Place::Behind, true}}};
+    preview.setLayout(layout);
+    preview.show();
+    QTRY_COMPARE(middle(preview), QColor(Qt::blue));
+    QCOMPARE(sizes, QList<QSizeF>{QSizeF(210, 300)}); // the paper's
+
+    colour = Qt::red;
+    layout.overlays[0].version = 1;
+    preview.setLayout(layout);
+    QTRY_COMPARE(middle(preview), QColor(Qt::red));
+    button(preview, "previewNext")->click();
+    QTRY_COMPARE(middle(preview), QColor(Qt::white)); // on the first page only
+
+    layout.overlays = {{"Gone", Overlay::Place::Above}, {"Mark", Overlay::Place::Above}};
+    preview.setLayout(layout);
+    QTRY_COMPARE(middle(preview), QColor(Qt::red));
+    QCOMPARE(caption(preview), "Sheet 2 · page 2 of 3\n“Gone” cannot be shown");
 }
 
 void TestDocumentPreview::showsPaperAndMessages()

@@ -11,6 +11,7 @@
 #include "preset_menu.h"
 #include "print_dialog.h"
 #include "private_cups.h"
+#include "sample_documents.h"
 #include "sample_ppds.h"
 #include "spin_field.h"
 #include "table.h"
@@ -47,6 +48,7 @@ private slots:
     void wrongPagesAreNotPrinted();
     void conflictsAreShownAndFixed();
     void severalCautionsStandInARow();
+    void whatTheBundleDrawsIsSeenOverPages();
     void givingUpIsCancelOrTheFailure();
     void aChangedPresetHasAStar();
     void namesThatNoPresetCanHave();
@@ -356,6 +358,33 @@ void TestPrintDialog::severalCautionsStandInARow()
     NoticeAnswer details(1);
     shown.find<QPushButton>("conflictDetails")->click();
     QVERIFY(details.text.contains("Pages 2 and 4–6") && details.text.contains("2HolePunch"));
+}
+
+// As after a panel's dialog that changed what it keeps for the user, and no ticket.
+void TestPrintDialog::whatTheBundleDrawsIsSeenOverPages()
+{
+    m_panels->overlayStore = m_folder->filePath("store");
+    m_panels->overlayPdf = test::pdfWithPages({test::filled("0 0 1")});
+    Shown shown(options());
+    QVERIFY(shown.waitUntilIdle());
+    const auto colour = [&shown] {
+        const QImage image = shown.find<QWidget>("previewSheet")->grab().toImage();
+        return image.pixelColor(image.rect().center());
+    };
+    QTRY_VERIFY(!shown.dialog.isDrawing());
+    QVERIFY(colour() != QColor(Qt::blue));
+
+    const auto changeStore = [&](const QByteArray &name) {
+        return replaceFile(m_panels->overlayStore, name)
+            && sendEvent(
+                   {.kind = EventKind::ControlHit, .source = shown.find<QLineEdit>("SecondField")})
+            == eventNotHandledErr;
+    };
+    QVERIFY(changeStore("Found"));
+    QTRY_COMPARE(colour(), QColor(Qt::blue));
+    QVERIFY(changeStore("Lost"));
+    QTRY_VERIFY(shown.text("previewPage").endsWith("“Lost” cannot be shown"));
+    QVERIFY(colour() != QColor(Qt::blue));
 }
 
 void TestPrintDialog::givingUpIsCancelOrTheFailure()
