@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
@@ -32,8 +33,10 @@ void limit(__rlimit_resource_t resource, qint64 value)
 }
 
 // Between fork and exec: only what is safe there.
-void enterLimits(qint64 memory, int seconds)
+void enterLimits(qint64 memory, int seconds, int file)
 {
+    if (file >= 0)
+        ::fcntl(file, F_SETFD, 0); // here alone: not in what other threads start meanwhile
     if (!kHasSanitizer)
         limit(RLIMIT_AS, memory);
     if (seconds > 0)
@@ -58,20 +61,17 @@ QProcessEnvironment childEnvironment(const QString &folder)
     return environment;
 }
 
-Error timedOut(const QString &where)
+Error timedOut(const ChildProgram &child, const QString &where)
 {
-    return Error{
-        Error::Code::TimedOut, where,
-        translate("Document",
-                  "reading it and making a PDF of it took longer than %1 seconds; it may be "
-                  "damaged")
-            .arg(limits::converterSeconds)};
+    return Error{Error::Code::TimedOut, where,
+                 translate("Document", "reading it took longer than %1 seconds; it may be damaged")
+                     .arg(child.seconds > 0 ? child.seconds : limits::converterSeconds)};
 }
 
-Error crashed(const QString &where, int signal)
+Error crashed(const ChildProgram &child, const QString &where, int signal)
 {
     if (signal == SIGXCPU || signal == SIGKILL) // the kernel's two ways to end the CPU time
-        return timedOut(where);
+        return timedOut(child, where);
     if (signal == SIGXFSZ) {
         return Error{Error::Code::TooLarge, where,
                      translate("Document", "as PDF it would be larger than %1 MB")
@@ -104,8 +104,8 @@ void prepareChild(QProcess &process, const ChildProgram &child)
     process.setArguments(child.arguments);
     process.setWorkingDirectory(child.folder);
     process.setProcessEnvironment(childEnvironment(child.folder));
-    process.setChildProcessModifier(
-        [memory = child.memory, seconds = child.seconds] { enterLimits(memory, seconds); });
+    process.setChildProcessModifier([memory = child.memory, seconds = child.seconds,
+                                     file = child.file] { enterLimits(memory, seconds, file); });
 }
 
 Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
@@ -144,14 +144,14 @@ Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
         }
         if (child.seconds > 0 && timer.hasExpired(child.seconds * 1000)) {
             end(process);
-            return timedOut(where);
+            return timedOut(child, where);
         }
     }
     read();
 
     // After a crash, Qt's exit code on Unix is the signal.
     if (process.exitStatus() == QProcess::CrashExit)
-        return crashed(where, process.exitCode());
+        return crashed(child, where, process.exitCode());
     return ChildEnd{process.exitCode(), output, QString::fromUtf8(message).trimmed()};
 }
 

@@ -25,6 +25,8 @@ struct ChildProgram
     // Its standard input. With none it has an empty one, and what it writes to
     // standard output is dropped.
     std::optional<QByteArray> input;
+    // An open file that it has too, under the same number; -1: none.
+    int file = -1;
     qint64 memory = limits::converterMemory; // bytes of address space
     int seconds = limits::converterSeconds;  // 0: as long as it is not cancelled
 };

@@ -38,8 +38,26 @@ QLatin1String nameOf(DocumentHelper helper)
 
 DocumentHelper helperFor(Task task)
 {
-    const bool converts = task == Task::ConvertText || task == Task::ConvertPicture;
-    return converts ? DocumentHelper::Converter : DocumentHelper::Pages;
+    switch (task) {
+    case Task::ConvertText:
+    case Task::ConvertPicture:
+    case Task::ImportPicture:
+        return DocumentHelper::Converter;
+    case Task::TidyPdf:
+    case Task::SelectPdfPages:
+    case Task::ReplaceEmbeddedFile:
+    case Task::CheckEmbeddedFile:
+        break;
+    }
+    return DocumentHelper::Pages;
+}
+
+int secondsFor(Task task)
+{
+    // A long text is no sign of anything wrong; it has a limit of its own.
+    if (task == Task::ConvertText)
+        return 0;
+    return task == Task::ImportPicture ? limits::importSeconds : limits::converterSeconds;
 }
 
 } // namespace
@@ -84,9 +102,8 @@ Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJ
         return child.error();
     child.value().folder = job.folder;
     child.value().input = request;
-    // A long text is no sign of anything wrong; it has a limit of its own.
-    if (task == Task::ConvertText)
-        child.value().seconds = 0;
+    child.value().file = job.file;
+    child.value().seconds = secondsFor(task);
     static const std::atomic_bool never = false;
     Result<ChildEnd> end =
         runChild(child.value(), job.where, job.cancelled ? *job.cancelled : never);

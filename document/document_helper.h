@@ -36,6 +36,7 @@ struct HelperJob
     QString where;                               // how messages name the document
     QString folder;                              // the helper's current and temporary folder
     const std::atomic_bool *cancelled = nullptr; // null: never
+    int file = -1;                               // as ChildProgram::file
 };
 
 // Runs the helper for `task` with an encoded request; the encoded answer. Errors are

@@ -3,6 +3,7 @@
 #include "document_files.h"
 #include "page_ranges.h"
 #include "pdf_pages.h"
+#include "picture_import.h"
 #include "result.h"
 
 #include <QDataStream>
@@ -24,6 +25,7 @@ enum class Task : quint8 {
     CheckEmbeddedFile,   // pdf, name, bytes
     ConvertText,         // files, paper
     ConvertPicture,      // files → how many other files were left out
+    ImportPicture,       // number of the file, which it has open → ImportedPicture
 };
 
 inline QDataStream &operator<<(QDataStream &stream, const PageRun &run)
@@ -72,6 +74,16 @@ inline QDataStream &operator<<(QDataStream &stream, const PdfPages &pages)
 inline QDataStream &operator>>(QDataStream &stream, PdfPages &pages)
 {
     return stream >> pages.sizes >> pages.isRepaired >> pages.isSound;
+}
+
+inline QDataStream &operator<<(QDataStream &stream, const ImportedPicture &picture)
+{
+    return stream << picture.naturalSize << picture.size << picture.bytes << picture.leftOut;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, ImportedPicture &picture)
+{
+    return stream >> picture.naturalSize >> picture.size >> picture.bytes >> picture.leftOut;
 }
 
 inline QDataStream &operator<<(QDataStream &stream, const ConverterFiles &files)

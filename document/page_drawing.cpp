@@ -86,8 +86,9 @@ bool PageDrawing::readAnswer(quint32 number, PagePaper paper, QImage &image)
             m_process->skip(bytes);
             continue;
         }
-        image = QImage(size, paper == PagePaper::White ? QImage::Format_RGB32
-                                                       : QImage::Format_ARGB32_Premultiplied);
+        image = QImage(size,
+                       paper == PagePaper::White ? QImage::Format_RGB32
+                                                 : QImage::Format_ARGB32_Premultiplied);
         if (!image.isNull())
             m_process->read(reinterpret_cast<char *>(image.bits()), bytes);
         return true;
@@ -105,8 +106,8 @@ PageProblem PageDrawing::problemOfEnd() const
     return isTooLarge ? PageProblem::TooLarge : PageProblem::NotDrawable;
 }
 
-DrawnPage PageDrawing::draw(int page, const QSize &pixels,
-                            const std::function<bool()> &isAbandoned, PagePaper paper)
+DrawnPage PageDrawing::draw(int page, const QSize &pixels, const std::function<bool()> &isAbandoned,
+                            PagePaper paper)
 {
     if (const auto known = m_problems.constFind(page); known != m_problems.cend())
         return {{}, *known};

@@ -34,6 +34,11 @@ inline constexpr int documentPages = 100'000; // made of a text, or named by pag
 inline constexpr qint64 converterMemory = 3072 * MiB;
 inline constexpr int converterSeconds = 120;
 
+// Pictures for watermarks and cover sheets: what comes back of one crosses a pipe and stays
+// in memory. A page of A4 at 300 dots per inch has 8.7 million.
+inline constexpr qint64 importedPixels = 8'000'000;
+inline constexpr int importSeconds = 20; // somebody waits for it before a window
+
 // The child process that draws pages for the preview. The largest picture of a page
 // takes 256 MB twice; what the libraries map is another 300 MB of addresses.
 inline constexpr qint64 drawingMemory = 1536 * MiB;

@@ -10,6 +10,10 @@ using namespace kelvo::documents;
 
 static void answer(Task task, QDataStream &in, QDataStream &out)
 {
+    if (task == Task::ImportPicture) {
+        out << documents::importPicture(take<qint32>(in));
+        return;
+    }
     const auto files = take<ConverterFiles>(in);
     if (task == Task::ConvertText)
         out << documents::convertText(files, take<QSizeF>(in));

@@ -56,8 +56,7 @@ static QImage draw(Poppler::Document &pdf, const DrawingRequest &request)
         return {};
     pdf.setRenderHint(Poppler::Document::IgnorePaperColor, !request.isOnPaper);
     QImage image = pictureOfPage(*page, {request.width, request.height}, isAskedAgain);
-    image.convertTo(request.isOnPaper ? QImage::Format_RGB32
-                                      : QImage::Format_ARGB32_Premultiplied);
+    image.convertTo(request.isOnPaper ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     return image;
 }
 

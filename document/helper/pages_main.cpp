@@ -35,6 +35,7 @@ static void answer(Task task, QDataStream &in, QDataStream &out)
     }
     case Task::ConvertText:
     case Task::ConvertPicture:
+    case Task::ImportPicture:
         break; // another helper's
     }
 }

@@ -1,23 +1,15 @@
 #include "confinement.h"
 #include "font_folders.h"
 #include "pdf_output.h"
-#include "size_limits.h"
-#include "svg_references.h"
+#include "picture_readers.h"
 #include "tasks.h"
-#include "texts.h"
 
 #include <QBuffer>
 #include <QFile>
-#include <QGuiApplication>
-#include <QImageReader>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSemaphore>
-#include <QSvgRenderer>
-#include <QThreadPool>
 
-#include <clocale>
 #include <cmath>
 #include <ctime>
 
@@ -27,11 +19,6 @@ namespace {
 
 constexpr double sharpest = 600; // dots per inch; more is lost on paper and costs time
 constexpr int jpegQuality = 95;
-
-Error pictureError(Error::Code code, const QString &detail)
-{
-    return Error{code, {}, detail};
-}
 
 // What the file says of its resolution, in dots per inch, where that makes
 // sense; else what screens and browsers take.
@@ -118,103 +105,34 @@ Result<void> drawPictures(QImageReader &reader, DocumentKind kind, PdfOutput &ou
     const int pages = kind == DocumentKind::Tiff ? reader.imageCount() : 1;
     int page = 1;
     do {
-        const QSize size = reader.size();
-        if (size.isValid() && qint64(size.width()) * size.height() > limits::picturePixels) {
-            return pictureError(Error::Code::TooLarge,
-                                translate("Document",
-                                          "a picture of %1 by %2 pixels is not printed; the "
-                                          "limit is %3 million")
-                                    .arg(size.width())
-                                    .arg(size.height())
-                                    .arg(limits::picturePixels / 1'000'000));
-        }
-        const QImage image = reader.read();
-        if (image.isNull()) {
-            return pictureError(
-                Error::Code::Damaged,
-                pages > 1 ? translate("Document", "page %1 of the picture cannot be read: %2")
-                                .arg(QString::number(page), reader.errorString())
-                          : translate("Document", "the picture cannot be read: %1")
-                                .arg(reader.errorString()));
-        }
-        if (!drawPicture(output.canvas(), image, paper, kind == DocumentKind::Jpeg))
+        const Result<QImage> image = readPicture(reader, pages > 1 ? page : 0);
+        if (!image)
+            return image.error();
+        if (!drawPicture(output.canvas(), image.value(), paper, kind == DocumentKind::Jpeg))
             break; // close() tells why
         ++page;
     } while (page <= pages && reader.jumpToNextImage());
     return output.close();
 }
 
-// Qt loads the reader of a format when it is first needed; that is too late here.
-// Whether there is one.
-bool loadReader(const QByteArray &format)
-{
-    if (!QImageReader::supportedImageFormats().contains(format))
-        return false;
-    QBuffer nothing;
-    nothing.open(QIODevice::ReadOnly);
-    (void)QImageReader(&nothing, format).canRead();
-    return true;
-}
-
-// Qt converts large pictures on threads of its pool, and a thread needs files of its own to
-// start with: it would end the process when no more can be had. So the pool has one, which
-// starts here and stays.
-void startPoolThread()
-{
-    QThreadPool *pool = QThreadPool::globalInstance();
-    pool->setMaxThreadCount(1);
-    pool->setExpiryTimeout(-1);
-    QSemaphore started;
-    pool->start([&started] { started.release(); });
-    started.acquire();
-}
-
-QByteArray formatOf(DocumentKind kind)
-{
-    return QByteArray(pictureFormat(kind).data(), pictureFormat(kind).size());
-}
-
 Result<void> convertPixels(QFile &file, DocumentKind kind, const QString &pdfPath)
 {
-    const QByteArray format = formatOf(kind);
-    if (!loadReader(format)) {
-        return pictureError(Error::Code::Unsupported,
-                            translate("Document",
-                                      "%1 pictures cannot be read here; install the package "
-                                      "\"qt6-image-formats-plugins\"")
-                                .arg(QString::fromLatin1(format).toUpper()));
-    }
+    if (Result<void> loaded = loadPictureReader(kind); !loaded)
+        return loaded;
     const QSizeF paper = localePaper();
     Result<PdfOutput> output = PdfOutput::create(pdfPath);
     if (!output)
         return output.error();
-    // Landlock holds for the thread that asks for it and those that it starts.
-    confineTo({});
-    startPoolThread();
-    confineToOpenFiles();
-
-    QImageReader::setAllocationLimit(static_cast<int>(limits::picturePixels * 4 / limits::MiB) + 1);
-    QImageReader reader(&file, format);
-    reader.setAutoDetectImageFormat(false);
-    reader.setAutoTransform(true);
+    confinePictureReader();
+    QImageReader reader;
+    beginReading(reader, file, kind);
     return drawPictures(reader, kind, output.value(), paper);
 }
 
 // As lines and curves, which stay sharp at any size. The value is as of convertPicture().
 Result<int> convertSvg(QFile &source, const ConverterFiles &files)
 {
-    // Texts in drawings need fonts, and those an application; no window is ever shown,
-    // so no display is asked for.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    int argc = 1;
-    char name[] = "kelvo-converter";
-    char *argv[] = {name, nullptr};
-    const QGuiApplication application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C"); // the application object took over the locale
-
-    for (int kind = 0; kind <= int(DocumentKind::Svg); ++kind)
-        loadReader(formatOf(DocumentKind(kind))); // of pictures that the drawing holds
+    SvgDrawing drawing;
     const QSizeF paper = localePaper();
     Result<OutputFile> output = OutputFile::create(files.pdf);
     if (!output)
@@ -222,13 +140,9 @@ Result<int> convertSvg(QFile &source, const ConverterFiles &files)
     ::tzset(); // the PDF says when it was made
     confineTo(fontFolders(), files.folder);
 
-    const std::optional<ClosedSvg> svg = withoutReferences(source.readAll());
-    QSvgRenderer renderer;
-    const bool isLoaded = svg && renderer.load(svg->bytes);
-    const QSizeF size = QSizeF(renderer.defaultSize()) * 72 / 96; // CSS pixels
-    if (!isLoaded || size.isEmpty())
-        return pictureError(Error::Code::Damaged,
-                            translate("Document", "the drawing cannot be read"));
+    if (Result<void> read = drawing.read(source.readAll()); !read)
+        return read.error();
+    const QSizeF size = drawing.size() * 72 / 96;
     const auto [page, placed] = placePicture(size, paper);
 
     QFile file;
@@ -241,21 +155,21 @@ Result<int> convertSvg(QFile &source, const ConverterFiles &files)
         writer.setPageSize(QPageSize(page, QPageSize::Point, QString(), QPageSize::ExactMatch));
         QPainter painter(&writer);
         const double unit = writer.resolution() / 72.0;
-        renderer.render(&painter, QRectF(placed.topLeft() * unit, placed.size() * unit));
+        drawing.draw(painter, QRectF(placed.topLeft() * unit, placed.size() * unit));
     }
     if (!file.flush())
         return output.value().error();
     file.close();
     if (Result<void> closed = output.value().close(); !closed)
         return closed.error();
-    return svg->leftOut;
+    return drawing.leftOut();
 }
 
 Result<int> convert(const ConverterFiles &files)
 {
     QFile file(files.source);
     if (!file.open(QIODevice::ReadOnly))
-        return pictureError(Error::Code::Damaged, file.errorString());
+        return Error{Error::Code::Damaged, {}, file.errorString()};
     const DocumentKind kind = documentKind(file.read(kKindBytes));
     file.seek(0);
     if (kind == DocumentKind::Svg)

@@ -2,6 +2,7 @@
 
 #include "document_files.h"
 #include "pdf_pages.h"
+#include "picture_import.h"
 #include "result.h"
 
 #include <QByteArray>
@@ -26,5 +27,7 @@ Result<void> checkEmbeddedFile(const QString &pdfPath, const QString &name,
 Result<void> convertText(const ConverterFiles &files, const QSizeF &paper);
 // The value is how many files that the picture names were left out of it.
 Result<int> convertPicture(const ConverterFiles &files);
+// Of the open file; errors are of nothing in particular.
+Result<ImportedPicture> importPicture(int descriptor);
 
 } // namespace kelvo::documents

@@ -267,8 +267,7 @@ void PageRenderer::render(const SideToDraw &side)
 
 // From any thread. Said on our own, where a newer request can no longer slip in, and
 // never from within render().
-void PageRenderer::tell(const std::shared_ptr<std::atomic_bool> &isAbandoned,
-                        const DrawnSide &side)
+void PageRenderer::tell(const std::shared_ptr<std::atomic_bool> &isAbandoned, const DrawnSide &side)
 {
     QMetaObject::invokeMethod(
         this,

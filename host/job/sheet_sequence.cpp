@@ -121,8 +121,8 @@ SheetSide SheetSequence::bookletSide(const Run &run, int at) const
     BookletPages inOrder = side.bookletPages;
     std::ranges::sort(inOrder);
     for (int page : inOrder) {
-        const auto exception = std::ranges::lower_bound(m_exceptions, page, {},
-                                                        &SpecialSheets::Exception::lastPage);
+        const auto exception =
+            std::ranges::lower_bound(m_exceptions, page, {}, &SpecialSheets::Exception::lastPage);
         if (page == 0 || exception == m_exceptions.cend() || exception->firstPage > page)
             continue;
         if (const auto range = within(*exception, m_pages); !side.exceptions.contains(range))

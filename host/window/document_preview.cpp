@@ -88,8 +88,9 @@ public:
         const QRectF rect = allRect(side);
         const double across = rect.width() / all.width();
         const double down = rect.height() / all.height();
-        return {rect.x() + (points.x() - all.x()) * across, rect.y() + (points.y() - all.y()) * down,
-                points.width() * across, points.height() * down};
+        return {rect.x() + (points.x() - all.x()) * across,
+                rect.y() + (points.y() - all.y()) * down, points.width() * across,
+                points.height() * down};
     }
 
 protected:
@@ -398,8 +399,8 @@ struct DocumentPreview::Private
 
     void showSide(const SheetSide &shown)
     {
-        sheet->wanted = {placementOf(shown), layout.imposition && layout.imposition->drawsBorders,
-                         {}, {}};
+        sheet->wanted = {
+            placementOf(shown), layout.imposition && layout.imposition->drawsBorders, {}, {}};
         for (int page : printedPages(shown))
             sheet->wanted.notes << (page > 0 ? QString() : blankWords());
         const bool hadWords = !sheet->words.isEmpty();
@@ -547,11 +548,10 @@ DocumentPreview::DocumentPreview(QWidget *parent)
     column->addWidget(d->sheet, 1);
     column->addLayout(row);
 
-    connect(&d->renderer, &PageRenderer::rendered, this,
-            [this](const DrawnSide &side) {
-                d->answer = side;
-                d->showAnswer();
-            });
+    connect(&d->renderer, &PageRenderer::rendered, this, [this](const DrawnSide &side) {
+        d->answer = side;
+        d->showAnswer();
+    });
     d->sync();
 }
 

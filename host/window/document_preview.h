@@ -41,7 +41,7 @@ public:
     void setDocument(const Document &document);
     void setLayout(const Layout &layout);
     void setOverlayPainter(OverlayPainter painter); // of sides drawn from now on
-    void setMessage(const QString &message); // instead of a page; empty shows pages again
+    void setMessage(const QString &message);        // instead of a page; empty shows pages again
 
     bool isDrawing() const; // a side that was asked for is not in sight yet
     QSize sizeHint() const override;

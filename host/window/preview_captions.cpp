@@ -27,9 +27,8 @@ QString bookletCaption(const SheetSide &side, const QString &sheet,
     if (pages.isEmpty())
         return translate("Preview", "Sheet %1, back · blank").arg(sheet);
     if (pages.size() == 1)
-        return (side.isBack
-                    ? translate("Preview", "Sheet %1, back · page %2 of %3, one blank")
-                    : translate("Preview", "Sheet %1, front · page %2 of %3, one blank"))
+        return (side.isBack ? translate("Preview", "Sheet %1, back · page %2 of %3, one blank")
+                            : translate("Preview", "Sheet %1, front · page %2 of %3, one blank"))
             .arg(sheet, pages[0], count);
     return (side.isBack ? translate("Preview", "Sheet %1, back · pages %2 and %3 of %4")
                         : translate("Preview", "Sheet %1, front · pages %2 and %3 of %4"))

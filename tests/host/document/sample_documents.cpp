@@ -1,5 +1,6 @@
 #include "sample_documents.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 
@@ -67,11 +68,66 @@ QByteArray filled(const QByteArray &rgb)
     return rgb + " rg 0 0 2000 2000 re f";
 }
 
+QByteArray picture(const char *format, const QSize &size, QImage::Format pixels)
+{
+    QImage image(size, pixels);
+    image.fill(Qt::red);
+    image.setDotsPerMeterX(2835); // 72 dpi: a pixel is a point
+    image.setDotsPerMeterY(2835);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, format) ? bytes : QByteArray();
+}
+
+QByteArray bigEndian(quint32 number)
+{
+    QByteArray bytes;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        bytes += static_cast<char>(number >> shift);
+    return bytes;
+}
+
+QByteArray emptyPng(quint32 width, quint32 height)
+{
+    const QByteArray header =
+        "IHDR" + bigEndian(width) + bigEndian(height) + QByteArray("\x08\x02\0\0\0", 5);
+    quint32 crc = 0xffffffff;
+    for (const char byte : header) {
+        crc ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ (crc & 1 ? 0xedb88320 : 0);
+    }
+    return "\x89PNG\r\n\x1a\n" + bigEndian(13) + header + bigEndian(~crc) + bigEndian(1000)
+        + "IDAT\x78\x9c";
+}
+
+QByteArray tiff(int pages)
+{
+    QByteArray bytes = QByteArray("MM\0*", 4) + bigEndian(8);
+    const auto entry = [](int tag, int type, quint32 value) {
+        return bigEndian(quint32(tag) << 16 | quint32(type)) + bigEndian(1)
+            + (type == 3 ? bigEndian(value << 16) : bigEndian(value));
+    };
+    for (int page = 0; page < pages; ++page) {
+        const auto next = static_cast<quint32>(bytes.size() + 2 + 8 * 12 + 4);
+        bytes += QByteArray("\0\x08", 2) + entry(256, 3, 1) + entry(257, 3, 1) + entry(258, 3, 8)
+            + entry(259, 3, 1) + entry(262, 3, 1) + entry(273, 4, 8) + entry(278, 3, 1)
+            + entry(279, 4, 1) + bigEndian(page + 1 < pages ? next : 0);
+    }
+    return bytes;
+}
+
 QString file(const QString &name, const QByteArray &bytes)
 {
     QFile made(name);
     const bool isWritten = made.open(QIODevice::WriteOnly) && made.write(bytes) == bytes.size();
     return isWritten ? QDir::current().absoluteFilePath(name) : QString();
+}
+
+QString sparseFile(const QByteArray &head, qint64 size)
+{
+    const QString path = file("sparse", head);
+    return QFile::resize(path, size) ? path : QString();
 }
 
 } // namespace kelvo::test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -25,7 +26,22 @@ QByteArray pdfWithPages(const QList<QByteArray> &contents, const QByteArray &pag
 // Page contents: the whole page in a colour ("1 0 0" is red).
 QByteArray filled(const QByteArray &rgb);
 
+// A red picture; a pixel is a point.
+QByteArray picture(const char *format, const QSize &size,
+                   QImage::Format pixels = QImage::Format_RGB32);
+
+// A PNG that says it is this large, and is not.
+QByteArray emptyPng(quint32 width, quint32 height);
+
+// A grey TIFF of one pixel a page.
+QByteArray tiff(int pages);
+
+QByteArray bigEndian(quint32 number);
+
 // Writes `bytes` to `name` in the current folder, the test's own; its full path.
 QString file(const QString &name, const QByteArray &bytes);
+
+// A file of `size` bytes that begins with `head`; the rest are zeros that take no room.
+QString sparseFile(const QByteArray &head, qint64 size);
 
 } // namespace kelvo::test

@@ -5,7 +5,6 @@
 #include "size_limits.h"
 #include "table.h"
 
-#include <QBuffer>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QRegularExpression>
@@ -34,59 +33,6 @@ Result<Document> open(const QString &path)
     return openDocument({path, {}}, cancelled);
 }
 
-// Several pictures are more bytes than one would write down.
-QByteArray picture(const char *format, const QSize &size,
-                   QImage::Format pixels = QImage::Format_RGB32)
-{
-    QImage image(size, pixels);
-    image.fill(Qt::red);
-    image.setDotsPerMeterX(2835); // 72 dpi: a pixel is a point
-    image.setDotsPerMeterY(2835);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, format) ? bytes : QByteArray();
-}
-
-QByteArray bigEndian(quint32 number)
-{
-    QByteArray bytes;
-    for (int shift = 24; shift >= 0; shift -= 8)
-        bytes += static_cast<char>(number >> shift);
-    return bytes;
-}
-
-// A PNG that says it is this large, and is not.
-QByteArray emptyPng(quint32 width, quint32 height)
-{
-    const QByteArray header =
-        "IHDR" + bigEndian(width) + bigEndian(height) + QByteArray("\x08\x02\0\0\0", 5);
-    quint32 crc = 0xffffffff;
-    for (const char byte : header) {
-        crc ^= static_cast<unsigned char>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc >> 1) ^ (crc & 1 ? 0xedb88320 : 0);
-    }
-    return "\x89PNG\r\n\x1a\n" + bigEndian(13) + header + bigEndian(~crc) + bigEndian(1000)
-        + "IDAT\x78\x9c";
-}
-
-// A grey TIFF of one pixel a page.
-QByteArray tiff(int pages)
-{
-    QByteArray bytes = QByteArray("MM\0*", 4) + bigEndian(8);
-    const auto entry = [](int tag, int type, quint32 value) {
-        return bigEndian(quint32(tag) << 16 | quint32(type)) + bigEndian(1)
-            + (type == 3 ? bigEndian(value << 16) : bigEndian(value));
-    };
-    for (int page = 0; page < pages; ++page) {
-        const auto next = static_cast<quint32>(bytes.size() + 2 + 8 * 12 + 4);
-        bytes += QByteArray("\0\x08", 2) + entry(256, 3, 1) + entry(257, 3, 1) + entry(258, 3, 8)
-            + entry(259, 3, 1) + entry(262, 3, 1) + entry(273, 4, 8) + entry(278, 3, 1)
-            + entry(279, 4, 1) + bigEndian(page + 1 < pages ? next : 0);
-    }
-    return bytes;
-}
-
 QByteArray encrypted(const QByteArray &pdf, const char *password, bool mayPrint)
 {
     QPDF document;
@@ -99,13 +45,6 @@ QByteArray encrypted(const QByteArray &pdf, const char *password, bool mayPrint)
     const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
     return QByteArray(reinterpret_cast<const char *>(buffer->getBuffer()),
                       static_cast<qsizetype>(buffer->getSize()));
-}
-
-// A file of `size` bytes that begins with `head`; the rest are zeros that take no room.
-QString sparseFile(const QByteArray &head, qint64 size)
-{
-    const QString path = file("sparse", head);
-    return QFile::resize(path, size) ? path : QString();
 }
 
 QString textOf(const Document &document)

@@ -107,9 +107,10 @@ void TestSheetSequence::bookletsComeInOrder_data()
     row("no pages", 0, SpecialSheets{Cover::Sheet}, "", 0);
     row("1 page", 1, SpecialSheets(), "1:0+1f 1:0+0b", 1);
     row("6 pages", 6, SpecialSheets(), "1:0+1f 1:2+0b 2:6+3f 2:4+5b", 2);
-    row("covers go around", 4, SpecialSheets{Cover::Sheet, Cover::Sheet},
-        "1:F 2:4+1f 2:2+3b 3:B", 3);
-    row("inserts are counted", 4, SpecialSheets{Cover::None, Cover::Sheet, {{0, 2}, {3, 1}, {5, 1}}},
+    row("covers go around", 4, SpecialSheets{Cover::Sheet, Cover::Sheet}, "1:F 2:4+1f 2:2+3b 3:B",
+        3);
+    row("inserts are counted", 4,
+        SpecialSheets{Cover::None, Cover::Sheet, {{0, 2}, {3, 1}, {5, 1}}},
         "1:4+1f 1:2+3b 2:2x4? 4:1x4? 5:B", 5);
     row("exceptions begin no sheet", 8, SpecialSheets{.exceptions = {{1, 1, {}}, {4, 9, false}}},
         "1:8+1f!! 1:2+7b! 2:6+3f! 2:4+5b!", 2);
