@@ -1,9 +1,11 @@
 #include "control_classes.h"
 
+#include "angle_dial.h"
 #include "control_interface.h"
 #include "history_field.h"
 #include "list_view.h"
 #include "menu_button.h"
+#include "paper_view.h"
 #include "picture_view.h"
 #include "popup_button.h"
 #include "qt_controls.h"
@@ -45,11 +47,12 @@ constexpr ControlClass ours = {&Widget::staticMetaObject, qts<Widget>.makeInterf
 
 // In any order: the nearest class that a widget comes from counts.
 constexpr ControlClass classes[] = {
-    ours<PopupButton>,     ours<MenuButton>,     ours<RadioGroup>,     ours<TabControl>,
-    ours<SpinField>,       ours<TimeField>,      ours<HistoryField>,   ours<ListView>,
-    ours<PictureView>,     ours<SummaryView>,    qts<QAbstractButton>, qts<QRadioButton>,
-    qts<QComboBox>,        qts<QLineEdit>,       qts<QPlainTextEdit>,  qts<QTextEdit>,
-    qts<QAbstractSpinBox>, qts<QAbstractSlider>, qts<QLabel>,          qts<QGroupBox>,
+    ours<PopupButton>,    ours<MenuButton>,  ours<RadioGroup>,      ours<TabControl>,
+    ours<SpinField>,      ours<TimeField>,   ours<HistoryField>,    ours<ListView>,
+    ours<PictureView>,    ours<PaperView>,   ours<AngleDial>,       ours<SummaryView>,
+    qts<QAbstractButton>, qts<QRadioButton>, qts<QComboBox>,        qts<QLineEdit>,
+    qts<QPlainTextEdit>,  qts<QTextEdit>,    qts<QAbstractSpinBox>, qts<QAbstractSlider>,
+    qts<QLabel>,          qts<QGroupBox>,
 };
 
 // Without the namespace.

@@ -78,6 +78,10 @@ public:
     {
         return Error{Error::Code::Unsupported, {}, {}};
     }
+    // Something of what it shows is on its way still; pictures of the window wait for it.
+    virtual bool isUnfinished() const { return false; }
+    // Logical pixels of a point of what it shows, for distances; 1 where that has no size.
+    virtual double pixelsPerPoint() const { return 1; }
     // Adds to `object` what else it holds: by default "items", those of menu().
     virtual void describe(QJsonObject &object);
 

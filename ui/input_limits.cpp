@@ -39,6 +39,17 @@ int lengthOf(QStringView text)
     return static_cast<int>(text.toUcs4().size());
 }
 
+int bytesOf(QStringView text)
+{
+    return static_cast<int>(text.toUtf8().size());
+}
+
+// What is left of `maximum` beside what stays of `before`; -1: no limit.
+int roomBeside(QStringView before, QStringView removed, int maximum, int (*size)(QStringView))
+{
+    return maximum < 0 ? -1 : std::max(0, maximum - (size(before) - size(removed)));
+}
+
 // What a user's edit inserted: `before` and `after` are alike but for a piece.
 struct Edit
 {
@@ -70,10 +81,9 @@ QString allowedPiece(QStringView before, QStringView after, const Edit &edit,
                      const InputLimits &limits)
 {
     InputLimits room = limits;
-    if (limits.maximumLength >= 0) {
-        const int kept = lengthOf(before) - lengthOf(before.mid(edit.start, edit.removed));
-        room.maximumLength = std::max(0, limits.maximumLength - kept);
-    }
+    const QStringView removed = before.mid(edit.start, edit.removed);
+    room.maximumLength = roomBeside(before, removed, limits.maximumLength, lengthOf);
+    room.maximumBytes = roomBeside(before, removed, limits.maximumBytes, bytesOf);
     return withinLimits(after.mid(edit.start, edit.inserted).toString(), room);
 }
 
@@ -164,12 +174,13 @@ private:
             return;
         InputLimits anyLength = m_limits;
         anyLength.minimumLength = 0;
-        anyLength.maximumLength = -1;
+        anyLength.maximumLength = anyLength.maximumBytes = -1;
         const bool isCharacter = findProblem(refused, anyLength) == InputProblem::BadCharacter;
         const QString text = isCharacter
             ? translate("Controls", "This character cannot be used here.")
-            : translate("Controls", "At most %n characters fit here.", nullptr,
-                        m_limits.maximumLength);
+            : m_limits.maximumBytes >= 0 ? translate("Controls", "There is no room for more here.")
+                                         : translate("Controls", "At most %n characters fit here.",
+                                                     nullptr, m_limits.maximumLength);
         QToolTip::showText(m_field->mapToGlobal(QPoint(0, m_field->height())), text, m_field);
     }
 
@@ -222,7 +233,8 @@ InputProblem findProblem(const QString &text, const InputLimits &limits)
         return InputProblem::BadCharacter;
     if (length < limits.minimumLength)
         return InputProblem::TooShort;
-    if (limits.maximumLength >= 0 && length > limits.maximumLength)
+    if ((limits.maximumLength >= 0 && length > limits.maximumLength)
+        || (limits.maximumBytes >= 0 && bytesOf(text) > limits.maximumBytes))
         return InputProblem::TooLong;
     return InputProblem::None;
 }
@@ -275,6 +287,8 @@ QString inWords(const InputLimits &limits)
             sentences = limits.ascii() ? &ascii : &certain;
         }
     }
+    if (limits.maximumBytes >= 0 && !limits.allowed && limits.maximumLength < 0)
+        return translate("Controls", "it takes at most %1 bytes of UTF-8").arg(limits.maximumBytes);
     const bool hasMost = limits.maximumLength >= 0;
     const char *sentence = !hasMost ? sentences->any
         : limits.minimumLength > 0  ? sentences->range
@@ -289,12 +303,18 @@ QString withinLimits(const QString &typed, const InputLimits &limits)
 {
     QString kept;
     int length = 0;
+    int bytes = 0;
+    bool isFull = false; // a later, smaller character does not take the place of one that is out
     eachCharacter(withSubstitutes(typed, limits), [&](char32_t c) {
-        const bool isFull = limits.maximumLength >= 0 && length == limits.maximumLength;
         if (isFull || !isAllowed(c, limits))
             return;
-        kept += QString::fromUcs4(&c, 1);
+        const QString text = QString::fromUcs4(&c, 1);
         ++length;
+        bytes += bytesOf(text);
+        isFull = (limits.maximumLength >= 0 && length > limits.maximumLength)
+            || (limits.maximumBytes >= 0 && bytes > limits.maximumBytes);
+        if (!isFull)
+            kept += text;
     });
     return kept;
 }

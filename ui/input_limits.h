@@ -20,6 +20,7 @@ struct InputLimits
     // None: any character. What no property list can hold (isKept()) never is.
     std::optional<QSet<char32_t>> allowed;
     QHash<char32_t, char32_t> substitutes; // of others, allowed ones that are taken instead
+    int maximumBytes = -1;                 // of the text in UTF-8; -1: no limit
     bool ascii() const;                    // only printable ASCII is allowed
 
     static QSet<char32_t> setOf(const QString &characters);

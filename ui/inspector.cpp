@@ -414,7 +414,7 @@ Done drag(QWidget *control, double dx, double dy)
     if (Done problem = unusable(control))
         return problem;
     const QPointF from = QRectF(control->rect()).center();
-    const QPointF to = from + QPointF(dx, dy);
+    const QPointF to = from + QPointF(dx, dy) * controlInterface(control)->pixelsPerPoint();
     const QPointer<QWidget> alive = control;
     const auto send = [&alive](QEvent::Type kind, const QPointF &at, Qt::MouseButton button,
                                Qt::MouseButtons held) {
@@ -429,6 +429,14 @@ Done drag(QWidget *control, double dx, double dy)
         send(QEvent::MouseMove, from + (to - from) * step / 4, Qt::NoButton, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     return {};
+}
+
+bool isUnfinished(const QWidget *window)
+{
+    const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    return std::ranges::any_of(widgets, [](QWidget *each) {
+        return each->isVisible() && controlInterface(each)->isUnfinished();
+    });
 }
 
 Done command(QWidget *window, OSType code)

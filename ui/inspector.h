@@ -80,7 +80,8 @@ Done set(QWidget *control, int value);
 Done setTime(QWidget *control, const QTime &time);
 Done select(QWidget *control, const std::vector<int> &rows); // from 1; {0}: the empty area
 Done doubleClick(QWidget *control, int row);                 // from 1; 0: the empty area
-Done drag(QWidget *control, double dx, double dy);           // from its middle, logical pixels
+// From its middle, in points of what it shows (pixelsPerPoint()).
+Done drag(QWidget *control, double dx, double dy);
 // NotOffered when nobody takes it.
 Done command(QWidget *window, OSType code);
 Done pressKey(QWidget *window, const QString &keys); // "Ctrl+P", to the focus
@@ -89,6 +90,9 @@ Done answerFileChooser(QWidget *window, const QString &path);
 // Whether what the control holds is a secret: its window's description says so
 // (kSecretProperty), it shows bullets, or a secret was typed into it.
 bool isSecret(QWidget *control);
+
+// Whether something that `window` shows is on its way still.
+bool isUnfinished(const QWidget *window);
 
 // A property as a script writes it: value, index, text, enabled, visible,
 // checked, focus, items, maximum, selection, "cell ROW COLUMN". For the text of a

@@ -23,11 +23,11 @@ namespace kelvo {
 //
 // The widget classes are this library's (PopupButton, MenuButton, RadioGroup,
 // TabControl with its property "titles", SpinField, TimeField, HistoryField,
-// ListView, PictureView, SummaryView) and of Qt's QWidget, QFrame, Line, QLabel,
-// QPushButton, QToolButton, QCheckBox, QRadioButton, QLineEdit, QPlainTextEdit,
-// QSlider, QGroupBox, QScrollArea, QStackedWidget, QProgressBar and QSplitter.
-// Any other class, an ID that stands twice and a malformed ID or command fail,
-// all of them named in the error. `parent` may be null: the caller owns the window.
+// ListView, PictureView, PaperView, AngleDial, SummaryView) and of Qt's QWidget, QFrame, Line,
+// QLabel, QPushButton, QToolButton, QCheckBox, QRadioButton, QLineEdit, QPlainTextEdit, QSlider,
+// QGroupBox, QScrollArea, QStackedWidget, QProgressBar and QSplitter. Any other class, an ID that
+// stands twice and a malformed ID or command fail, all of them named in the error. `parent` may be
+// null: the caller owns the window.
 Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString &description,
                                               const QString &window, QWidget *parent = nullptr);
 

@@ -43,7 +43,7 @@ constexpr CommandRow commandRows[] = {
     {ScriptCommand::Select, "select", "CW", {"select CONTROL ROW[,ROW…]", QT_TRANSLATE_NOOP("Script", "selects rows of a list, from 1; 0 is the empty area")}},
     {ScriptCommand::DoubleClick, "double-click", "CN", {"double-click CONTROL ROW", QT_TRANSLATE_NOOP("Script", "double-clicks a row of a list; 0 is the empty area")}},
     {ScriptCommand::Key, "key", "W", {"key \"Ctrl+P\"", QT_TRANSLATE_NOOP("Script", "presses keys in the front window")}},
-    {ScriptCommand::Drag, "drag", "CDD", {"drag CONTROL DX DY", QT_TRANSLATE_NOOP("Script", "drags from the control's middle, in points")}},
+    {ScriptCommand::Drag, "drag", "CDD", {"drag CONTROL DX DY", QT_TRANSLATE_NOOP("Script", "drags from the control's middle, in points; of a page, in points of the paper")}},
     {ScriptCommand::File, "file", "W", {"file \"PATH\"", QT_TRANSLATE_NOOP("Script", "answers a file chooser")}},
     {ScriptCommand::Command, "command", "K", {"command 'code'", QT_TRANSLATE_NOOP("Script", "sends a command to the front window")}},
     {ScriptCommand::Answer, "answer", "N", {"answer N", QT_TRANSLATE_NOOP("Script", "presses button N of the notice in front; 1 is its default")}},

@@ -196,7 +196,8 @@ void ScriptRunner::Private::step()
              wrong(translate("Script", "the dialog is closed; nothing can be done after that")));
         return;
     }
-    if (lines[next].command == ScriptCommand::Screenshot && target.isDrawing()) {
+    if (lines[next].command == ScriptCommand::Screenshot
+        && (target.isDrawing() || inspector::isUnfinished(front()))) {
         if (!pictureWait.isValid())
             pictureWait.start();
         if (pictureWait.elapsed() < pictureWaitMs) {

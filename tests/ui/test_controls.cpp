@@ -1,7 +1,10 @@
+#include "angle_dial.h"
 #include "control.h"
 #include "control_interface.h"
 #include "event_log.h"
+#include "inspector.h"
 #include "menu_button.h"
+#include "paper_view.h"
 #include "popup_button.h"
 #include "radio_group.h"
 #include "tab_control.h"
@@ -68,6 +71,9 @@ private slots:
 
     void aRadioGroupCountsInLayoutOrder();
     void aTabControlTellsTheUsersChangesOnly();
+
+    void aDialPointsWhereThePointerIsAndGoesRound();
+    void onlyWhatCanBeMovedOnPaperIsMoved();
 };
 
 void TestControls::aControlIDHasOneSpelling_data()
@@ -215,6 +221,60 @@ void TestControls::keysAndWheelSkipWhatCannotBeChosen()
     popup.hidePopup();
     QCOMPARE(popup.value(), 5);
     QCOMPARE(log.take(), QStringList());
+}
+
+void TestControls::aDialPointsWhereThePointerIsAndGoesRound()
+{
+    AngleDial dial;
+    sendControlEvents(&dial);
+    EventLog log(&dial);
+    dial.resize(100, 100);
+    const auto press = [&](int x, int y, Qt::KeyboardModifiers keys = {}) {
+        QTest::mouseClick(&dial, Qt::LeftButton, keys, {50 + x, 50 + y});
+        return dial.value();
+    };
+    QCOMPARE(press(0, -40), 90);
+    QCOMPARE(press(-40, 0), 180);
+    QCOMPARE(press(30, 30), -45);
+    QCOMPARE(press(40, -3, Qt::ShiftModifier), 0);
+    QCOMPARE(log.take(), QStringList(4, "ControlHit"));
+    dial.setValue(179);
+    QTest::keyClick(&dial, Qt::Key_Up);
+    QCOMPARE(dial.value(), 180);
+    QTest::keyClick(&dial, Qt::Key_Right);
+    QCOMPARE(dial.value(), -179);
+    QTest::keyClick(&dial, Qt::Key_PageDown);
+    QCOMPARE(dial.value(), 166);
+    QCOMPARE(log.take(), QStringList(3, "ControlHit")); // not for setValue()
+    for (const auto &[degrees, within] :
+         {std::pair(180, 180), {-180, 180}, {540, 180}, {-181, 179}, {-90, -90}, {720, 0}})
+        QCOMPARE(wrappedAngle(degrees), within);
+}
+
+void TestControls::onlyWhatCanBeMovedOnPaperIsMoved()
+{
+    PaperView view;
+    view.resize(300, 300); // a paper of 792 points is shown smaller
+    QVERIFY(view.pixelsPerPoint() < 0.4);
+    QList<QPointF> moves;
+    connect(&view, &PaperView::dragged, [&](const QPointF &by) {
+        moves.append(by);
+        view.setMovable(true); // as who shows it anew says once more
+    });
+    connect(&view, &PaperView::nudged, [&](int right, int up) {
+        moves.append({right * 1.0, up * 1.0});
+    });
+    view.show();
+    const auto moveAll = [&] {
+        (void)inspector::drag(&view, 72, 36);
+        QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
+    };
+    moveAll();
+    QCOMPARE(moves, QList<QPointF>());
+    view.setMovable(true);
+    moveAll();
+    QCOMPARE(moves.takeLast(), QPointF(0, -10));
+    QCOMPARE(moves.last(), QPointF(72, -36)); // points of the paper, upwards
 }
 
 void TestControls::theWheelNeedsTheFocus()

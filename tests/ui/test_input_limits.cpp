@@ -26,6 +26,7 @@ private slots:
     void textsSetByCodeAreNotTouchedAndCanBeShortened();
     void handlersNeverSeeWhatWasRefused();
     void whatCannotBeKeptIsRefused();
+    void aTextIsCutAtItsBytesButNotWithinACharacter();
     void limitsCanBeChanged();
     void limitsAreToldInWords();
 };
@@ -185,6 +186,23 @@ void TestInputLimits::handlersNeverSeeWhatWasRefused()
         QCOMPARE(seen,
                  QStringList{QString::fromUtf8("a\xF0\x9F\x98\x80"
                                                "b")});
+    }
+}
+
+void TestInputLimits::aTextIsCutAtItsBytesButNotWithinACharacter()
+{
+    const InputLimits limits{.maximumBytes = 5};
+    QCOMPARE(findProblem(QStringLiteral("abcü"), limits), InputProblem::None);
+    QCOMPARE(findProblem(QStringLiteral("abcdü"), limits), InputProblem::TooLong);
+    QCOMPARE(withinLimits(QStringLiteral("abcdüe"), limits), "abcd");
+    for (const QString &kind : kinds) {
+        const auto field = makeField(kind);
+        setInputLimits(field.get(), limits);
+        setTextOf(field.get(), QStringLiteral("üü"));
+        QTest::keyClick(field.get(), Qt::Key_End);
+        QTest::keyClick(field.get(), Qt::Key_Backspace);
+        QVERIFY(!typeText(field.get(), QStringLiteral("üxüx")));
+        QCOMPARE(textIn(field.get()), "üxü");
     }
 }
 
