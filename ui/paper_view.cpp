@@ -116,7 +116,9 @@ void PaperView::paintEvent(QPaintEvent *)
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     }
     if (!m_note.isEmpty()) {
-        painter.setPen(QColor(70, 70, 70)); // on paper, which is white in any theme
+        // On paper, which is white in any theme, and over a page that is not to be read now.
+        painter.fillRect(paper, QColor(255, 255, 255, 210));
+        painter.setPen(QColor(40, 40, 40));
         painter.drawText(paper.adjusted(margin, margin, -margin, -margin),
                          Qt::AlignCenter | Qt::TextWordWrap, m_note);
     }

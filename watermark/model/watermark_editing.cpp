@@ -80,6 +80,12 @@ float offsetOf(std::int32_t shown, std::int32_t units)
     return static_cast<float>(shown / unitsPerInch(units));
 }
 
+std::int32_t shownLength(double points, std::int32_t scale, std::int32_t units)
+{
+    return static_cast<std::int32_t>(
+        std::lround(points * scale / 100 / pointsPerInch * unitsPerInch(units)));
+}
+
 float movedOffset(float offset, double points, std::int32_t units)
 {
     const double moved = double(offset) + points / pointsPerInch;

@@ -40,6 +40,8 @@ WatermarkFields fieldsFor(const _WatermarkData &watermark, bool isCoverImage);
 std::int32_t mostOffset(std::int32_t units);                // 20 inches either way
 std::int32_t shownOffset(float inches, std::int32_t units); // the nearest within the limits
 float offsetOf(std::int32_t shown, std::int32_t units);     // inches
+// A length in points as the editor shows it, at a scale in percent.
+std::int32_t shownLength(double points, std::int32_t scale, std::int32_t units);
 // `offset` moved by points, to the nearest that can be shown.
 float movedOffset(float offset, double points, std::int32_t units);
 // Moved by tenths of an inch or millimetres.

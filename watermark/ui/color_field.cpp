@@ -48,12 +48,6 @@ void ColorField::show(const QColor &color)
     paintWell();
 }
 
-void ColorField::setEnabled(bool isEnabled)
-{
-    m_well->setEnabled(isEnabled);
-    m_field->setEnabled(isEnabled);
-}
-
 void ColorField::choose()
 {
     QColorDialog dialog(m_color, m_well->window());

@@ -18,7 +18,6 @@ public:
     ColorField(QPushButton *well, QLineEdit *field, std::function<void(const QColor &)> chosen);
 
     void show(const QColor &color);
-    void setEnabled(bool isEnabled);
     // Opens the color dialog, with the well's accessible name as title.
     void choose();
     // Takes what stands in the field; what is no color stays there until it is left.

@@ -5,14 +5,13 @@
 #include "dialog_window.h"
 #include "font_menu.h"
 #include "notice.h"
-#include "string_table.h"
 #include "ticket_values.h"
+#include "tool_tip.h"
 #include "watermark_editor_controls.h"
 #include "watermark_preview.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLocale>
 #include <QStandardPaths>
 
 namespace kelvo {
@@ -107,7 +106,7 @@ bool WatermarkEditor::makeWindow(QWidget *parent)
     if (!m_window)
         return false;
     m_window->setWindowTitle(localizedText(m_device.bundle, m_editing.titleKey));
-    fillWatermarkEditorControls(m_controls, m_device, m_window.get());
+    fillWatermarkEditorControls(m_controls, m_device);
     m_color = std::make_unique<ColorField>(
         m_controls.colorWell, m_controls.color,
         [this](const QColor &color) { changeTo(withWellColor(m_watermark, color), true); });
@@ -172,9 +171,7 @@ void WatermarkEditor::sync()
 {
     showWatermark(m_controls, m_device, m_watermark, m_editing.isCoverImage);
     m_color->show(wellColor(m_watermark));
-    m_color->setEnabled(m_watermark.isText);
     m_fontColor->show(fontColor(m_watermark));
-    m_fontColor->setEnabled(m_watermark.isText);
     showPicture();
 }
 
@@ -188,14 +185,9 @@ void WatermarkEditor::showPicture()
     case PictureState::Reading:
         hint = text("Watermark Picture Reading");
         break;
-    case PictureState::Read: {
-        const QLocale locale;
-        const QSizeF size = m_preview->picture().naturalSize;
-        hint = formatted(
-            text("Watermark Picture Size"),
-            {locale.toString(qRound(size.width())), locale.toString(qRound(size.height()))});
+    case PictureState::Read:
+        hint = pictureSizeText(m_device, m_preview->picture().naturalSize, m_watermark);
         break;
-    }
     case PictureState::Unreadable:
         hint = m_preview->pictureProblem().detail;
         break;
@@ -204,6 +196,7 @@ void WatermarkEditor::showPicture()
         name = text("Watermark Picture None");
     m_controls.pictureName->setText(name);
     m_controls.pictureHint->setText(hint);
+    m_controls.pictureHint->setToolTip(plainToolTip(hint)); // a long reason is cut
     m_controls.preview->setAccessibleDescription(watermarkName(m_watermark));
 }
 

@@ -9,8 +9,6 @@
 
 #include <QLocale>
 
-#include <algorithm>
-
 namespace kelvo {
 
 namespace {
@@ -20,15 +18,17 @@ constexpr int unitDecimals(std::int32_t units)
     return units == kWatermarkInches ? 1 : 0; // tenths of an inch, or whole millimetres
 }
 
-// "1 to 1,000 points"; the numbers in the user's notation, with `decimals` of their digits.
-QString limitsText(const Device &device, const char *key, int least, int most, int decimals = 0)
+// In the user's notation; one decimal or none.
+QString numberText(int value, int decimals)
 {
     const QLocale locale;
-    const auto number = [&](int value) {
-        return decimals == 0 ? locale.toString(value)
-                             : locale.toString(value / 10.0, 'f', decimals);
-    };
-    return formatted(device.text(key), {number(least), number(most)});
+    return decimals == 0 ? locale.toString(value) : locale.toString(value / 10.0, 'f', decimals);
+}
+
+// "1 to 1,000 points"
+QString limitsText(const Device &device, const char *key, int least, int most, int decimals = 0)
+{
+    return formatted(device.text(key), {numberText(least, decimals), numberText(most, decimals)});
 }
 
 void limit(SpinField *field, QLabel *label, const Device &device, const char *key, int least,
@@ -36,8 +36,7 @@ void limit(SpinField *field, QLabel *label, const Device &device, const char *ke
 {
     field->setMinimum(least);
     field->setMaximum(most);
-    if (label)
-        label->setText(limitsText(device, key, least, most));
+    label->setText(limitsText(device, key, least, most));
 }
 
 Menu sizeMenu()
@@ -59,14 +58,6 @@ Menu unitMenu(const Device &device)
             nullptr};
 }
 
-// One that is off stays in its place, and says why to those who ask it.
-void setOn(QWidget *control, bool isOn, const QString &why)
-{
-    setEnabledWithLabel(control, isOn);
-    control->setToolTip(isOn ? QString() : why);
-    control->setAccessibleDescription(isOn ? QString() : why);
-}
-
 // What is drawn in place of a font that is not installed.
 QString fontHint(const Device &device, const PopupButton *popup, const QString &fontName)
 {
@@ -80,6 +71,28 @@ QString fontHint(const Device &device, const PopupButton *popup, const QString &
                  : device.text("Watermark Font Missing Hint");
 }
 
+void showOffset(SpinField *field, QLabel *limits, const Device &device, float offset,
+                std::int32_t units)
+{
+    const std::int32_t most = mostOffset(units);
+    const int decimals = unitDecimals(units);
+    field->setMaximum(most);
+    field->setMinimum(-most);
+    field->setDecimals(decimals);
+    field->setValue(shownOffset(offset, units));
+    limits->setText(limitsText(device, "Watermark Offset Limits", -most, most, decimals));
+}
+
+// Those that are off stay in their places, and say why to those who ask them.
+void setOn(std::initializer_list<QWidget *> controls, bool isOn, const QString &why)
+{
+    for (QWidget *control : controls) {
+        setEnabledWithLabel(control, isOn);
+        control->setToolTip(isOn ? QString() : why);
+        control->setAccessibleDescription(isOn ? QString() : why);
+    }
+}
+
 } // namespace
 
 WatermarkEditorControls findWatermarkEditorControls(NeededControls &needed)
@@ -91,7 +104,6 @@ WatermarkEditorControls findWatermarkEditorControls(NeededControls &needed)
         .kind = needed.find<RadioGroup>(kEditorKind),
         .text = needed.find<QLineEdit>(kEditorText),
         .font = needed.find<PopupButton>(kEditorFont),
-        .fontHint = label(6104),
         .fontSize = needed.find<SpinField>(kEditorFontSize),
         .fontSizes = needed.find<MenuButton>(kEditorFontSizes),
         .colorWell = needed.find<QPushButton>(kEditorColorWell),
@@ -106,35 +118,60 @@ WatermarkEditorControls findWatermarkEditorControls(NeededControls &needed)
         .units = needed.find<PopupButton>(kEditorUnits),
         .center = needed.find<QPushButton>(kEditorCenter),
         .picture = needed.find<QPushButton>(kEditorPicture),
-        .pictureName = label(6125),
-        .pictureHint = label(6126),
         .scale = needed.find<SpinField>(kEditorScale),
-        .preview = needed.find<PaperView>({kPanelSignature, 6129}),
+        .preview = needed.find<PaperView>(kEditorPreview),
         .overPage = needed.find<QCheckBox>(kEditorOverPage),
-        .kindHint = label(6132),
+        .fontHint = label(6104),
+        .fontSizeLimits = label(6107),
+        .colorHint = label(6110),
+        .fontColorHint = label(6113),
+        .angleLimits = label(6116),
+        .densityLimits = label(6118),
         .xLimits = label(6121),
         .yLimits = label(6133),
+        .pictureName = label(6125),
+        .pictureHint = label(6126),
+        .scaleLimits = label(6128),
+        .placeHint = label(6131),
+        .kindHint = label(6132),
     };
 }
 
-void fillWatermarkEditorControls(const WatermarkEditorControls &controls, const Device &device,
-                                 const QWidget *window)
+void fillWatermarkEditorControls(const WatermarkEditorControls &controls, const Device &device)
 {
-    const auto hint = [window](std::int32_t number) {
-        auto *label = findControl<QLabel>(window, {kPanelSignature, number});
-        makeHintText(label);
-        return label;
-    };
-    for (const std::int32_t number : {6104, 6110, 6113, 6121, 6125, 6126, 6131, 6132, 6133})
-        hint(number);
+    for (QLabel *hint :
+         {controls.fontHint, controls.fontSizeLimits, controls.colorHint, controls.fontColorHint,
+          controls.angleLimits, controls.densityLimits, controls.xLimits, controls.yLimits,
+          controls.pictureName, controls.pictureHint, controls.scaleLimits, controls.placeHint,
+          controls.kindHint})
+        makeHintText(hint);
+    // Room for the longer ones, so that the window stays as it is.
+    for (QLabel *hint : {controls.pictureHint, controls.kindHint})
+        hint->setMinimumHeight(2 * hint->fontMetrics().lineSpacing());
     setInputLimits(controls.text, {.maximumBytes = int(sizeof(_WatermarkData::textString)) - 1});
     fillFontPopup(controls.font);
     controls.fontSizes->setMenu(sizeMenu());
     controls.units->setMenu(unitMenu(device));
-    limit(controls.fontSize, hint(6107), device, "Watermark Size Limits", 1, kMostFontSize);
-    limit(controls.angle, hint(6116), device, "Watermark Angle Limits", -kMostAngle, kMostAngle);
-    limit(controls.density, hint(6118), device, "Watermark Density Limits", 0, kMostDensity);
-    limit(controls.scale, hint(6128), device, "Watermark Scale Limits", 1, kMostScale);
+    limit(controls.fontSize, controls.fontSizeLimits, device, "Watermark Size Limits", 1,
+          kMostFontSize);
+    limit(controls.angle, controls.angleLimits, device, "Watermark Angle Limits", -kMostAngle,
+          kMostAngle);
+    limit(controls.density, controls.densityLimits, device, "Watermark Density Limits", 0,
+          kMostDensity);
+    limit(controls.scale, controls.scaleLimits, device, "Watermark Scale Limits", 1, kMostScale);
+}
+
+QString pictureSizeText(const Device &device, const QSizeF &pixels, const _WatermarkData &watermark)
+{
+    const int decimals = unitDecimals(watermark.units);
+    const auto length = [&](double side) {
+        return numberText(shownLength(side, watermark.scale, watermark.units), decimals);
+    };
+    return formatted(device.text(watermark.units == kWatermarkInches
+                                     ? "Watermark Picture Inches"
+                                     : "Watermark Picture Millimetres"),
+                     {numberText(qRound(pixels.width()), 0), numberText(qRound(pixels.height()), 0),
+                      length(pixels.width()), length(pixels.height())});
 }
 
 void showWatermark(const WatermarkEditorControls &controls, const Device &device,
@@ -145,9 +182,9 @@ void showWatermark(const WatermarkEditorControls &controls, const Device &device
                                         : fields.text ? "Watermark Text Hint"
                                                       : "Watermark Picture Hint");
     controls.kindHint->setText(why);
-
     controls.kind->setValue(fields.text ? kKindText : kKindPicture);
-    setOn(controls.kind, fields.kind, why);
+    setOn({controls.kind}, fields.kind, why);
+
     const QString text = textOf(watermark.textString);
     if (controls.text->text() != text) // the cursor stays
         controls.text->setText(text);
@@ -155,36 +192,34 @@ void showWatermark(const WatermarkEditorControls &controls, const Device &device
     showFont(controls.font, fontName, device.text("Watermark Font Missing"));
     controls.fontHint->setText(fields.text ? fontHint(device, controls.font, fontName) : QString());
     controls.fontSize->setValue(watermark.fontSize);
-    for (QWidget *control : std::initializer_list<QWidget *>{controls.text, controls.font,
-                                                             controls.fontSize, controls.fontSizes})
-        setOn(control, fields.text, why);
+    setOn({controls.text, controls.font, controls.fontSize, controls.fontSizes, controls.colorWell,
+           controls.color, controls.fontColorWell, controls.fontColor},
+          fields.text, why);
 
     controls.angle->setValue(watermark.angle);
     controls.angleDial->setValue(wrappedAngle(watermark.angle));
-    const int decimals = unitDecimals(watermark.units);
-    const std::int32_t most = mostOffset(watermark.units);
-    for (const auto &[field, label, offset] :
-         {std::tuple(controls.x, controls.xLimits, watermark.xOffset),
-          {controls.y, controls.yLimits, watermark.yOffset}}) {
-        field->setMaximum(most);
-        field->setMinimum(-most);
-        field->setDecimals(decimals);
-        field->setValue(shownOffset(offset, watermark.units));
-        label->setText(limitsText(device, "Watermark Offset Limits", -most, most, decimals));
-    }
+    showOffset(controls.x, controls.xLimits, device, watermark.xOffset, watermark.units);
+    showOffset(controls.y, controls.yLimits, device, watermark.yOffset, watermark.units);
     controls.units->setValueByReference(watermark.units);
-    for (QWidget *control :
-         std::initializer_list<QWidget *>{controls.angle, controls.angleDial, controls.x,
-                                          controls.y, controls.units, controls.center})
-        setOn(control, fields.place, why);
+    setOn({controls.angle, controls.angleDial, controls.x, controls.y, controls.center},
+          fields.place, why);
     controls.preview->setMovable(fields.place);
 
     controls.density->setValue(watermark.density);
-    setOn(controls.density, fields.density, why);
+    setOn({controls.density}, fields.density, why);
 
     controls.scale->setValue(watermark.scale);
-    for (QWidget *control : std::initializer_list<QWidget *>{controls.picture, controls.scale})
-        setOn(control, fields.picture, why);
+    setOn({controls.picture, controls.scale}, fields.picture, why);
+
+    const auto enable = [](std::initializer_list<QLabel *> hints, bool isOn) {
+        for (QLabel *hint : hints)
+            hint->setEnabled(isOn);
+    };
+    enable({controls.fontSizeLimits, controls.colorHint, controls.fontColorHint}, fields.text);
+    enable({controls.angleLimits, controls.xLimits, controls.yLimits, controls.placeHint},
+           fields.place);
+    enable({controls.densityLimits}, fields.density);
+    enable({controls.pictureName, controls.pictureHint, controls.scaleLimits}, fields.picture);
 }
 
 } // namespace kelvo

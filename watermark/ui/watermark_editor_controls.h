@@ -37,6 +37,7 @@ inline constexpr ControlID kEditorY{kPanelSignature, 6122};
 inline constexpr ControlID kEditorCenter{kPanelSignature, 6123};
 inline constexpr ControlID kEditorPicture{kPanelSignature, 6124};
 inline constexpr ControlID kEditorScale{kPanelSignature, 6127};
+inline constexpr ControlID kEditorPreview{kPanelSignature, 6129};
 inline constexpr ControlID kEditorOverPage{kPanelSignature, 6130};
 
 inline constexpr int kKindText = 1, kKindPicture = 2; // buttons of the kind
@@ -47,7 +48,6 @@ struct WatermarkEditorControls
     RadioGroup *kind = nullptr;
     QLineEdit *text = nullptr;
     PopupButton *font = nullptr;
-    QLabel *fontHint = nullptr;
     SpinField *fontSize = nullptr;
     MenuButton *fontSizes = nullptr;
     QPushButton *colorWell = nullptr, *fontColorWell = nullptr;
@@ -59,18 +59,25 @@ struct WatermarkEditorControls
     PopupButton *units = nullptr;
     QPushButton *center = nullptr;
     QPushButton *picture = nullptr;
-    QLabel *pictureName = nullptr, *pictureHint = nullptr;
     SpinField *scale = nullptr;
     PaperView *preview = nullptr;
     QCheckBox *overPage = nullptr;
-    QLabel *kindHint = nullptr, *xLimits = nullptr, *yLimits = nullptr;
+    // Beside and below those.
+    QLabel *fontHint = nullptr, *fontSizeLimits = nullptr;
+    QLabel *colorHint = nullptr, *fontColorHint = nullptr;
+    QLabel *angleLimits = nullptr, *densityLimits = nullptr, *xLimits = nullptr, *yLimits = nullptr;
+    QLabel *pictureName = nullptr, *pictureHint = nullptr, *scaleLimits = nullptr;
+    QLabel *placeHint = nullptr, *kindHint = nullptr;
 };
 
 WatermarkEditorControls findWatermarkEditorControls(NeededControls &needed);
 
 // Menus and limits, which the record does not change.
-void fillWatermarkEditorControls(const WatermarkEditorControls &controls, const Device &device,
-                                 const QWidget *window);
+void fillWatermarkEditorControls(const WatermarkEditorControls &controls, const Device &device);
+
+// "200 by 100 pixels, printed 2.8 by 1.4 inches large", in the record's units at its scale.
+QString pictureSizeText(const Device &device, const QSizeF &pixels,
+                        const _WatermarkData &watermark);
 
 // From the record to the controls, but for colors and picture.
 void showWatermark(const WatermarkEditorControls &controls, const Device &device,

@@ -135,7 +135,7 @@
     </message>
     <message>
         <source>Watermark Angle Limits</source>
-        <translation>%1 to %2 degrees; more than 0 climbs</translation>
+        <translation>%1 to %2 degrees</translation>
     </message>
     <message>
         <source>Watermark Density:</source>
@@ -228,8 +228,12 @@
         <translation>Reading the picture…</translation>
     </message>
     <message>
-        <source>Watermark Picture Size</source>
-        <translation>%1 by %2 pixels</translation>
+        <source>Watermark Picture Inches</source>
+        <translation>%1 by %2 pixels, printed %3 by %4 inches large</translation>
+    </message>
+    <message>
+        <source>Watermark Picture Millimetres</source>
+        <translation>%1 by %2 pixels, printed %3 by %4 millimeters large</translation>
     </message>
     <message>
         <source>Watermark Scale:</source>
@@ -241,7 +245,7 @@
     </message>
     <message>
         <source>Watermark Scale Limits</source>
-        <translation>%1 to %2 percent; at 100, 72 pixels are an inch</translation>
+        <translation>%1 to %2 percent</translation>
     </message>
     <!-- Preview -->
     <message>
