@@ -4,11 +4,13 @@
 #include "qt_controls.h"
 #include "tool_tip.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QPointer>
 #include <QStyle>
-#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QToolTip>
 
 namespace kelvo {
 
@@ -98,45 +100,56 @@ bool MenuButton::choose(const MenuItem &item)
 void MenuButton::setShownChoice(const QString &text)
 {
     m_choice = text;
-    elideChoice();
-    updateGeometry();
+    setText(asMenuText(text)); // for screen readers
+    update();
 }
 
 // As wide as a pop-up button (popup_button.h) would ask for: a long name does not make its
 // panel wider.
 QSize MenuButton::sizeHint() const
 {
-    QSize hint = QPushButton::sizeHint();
-    if (!m_choice.isNull())
-        hint.setWidth(choiceCharacters * fontMetrics().horizontalAdvance(u'X'));
-    return hint;
-}
-
-void MenuButton::resizeEvent(QResizeEvent *event)
-{
-    QPushButton::resizeEvent(event);
-    elideChoice();
-}
-
-void MenuButton::changeEvent(QEvent *event)
-{
-    QPushButton::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        elideChoice();
-}
-
-void MenuButton::elideChoice()
-{
     if (m_choice.isNull())
+        return QPushButton::sizeHint();
+    QStyleOptionComboBox option;
+    option.initFrom(this);
+    const QFontMetrics metrics = fontMetrics();
+    const QSize text(choiceCharacters * metrics.horizontalAdvance(u'X'), metrics.height());
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
+}
+
+QStyleOptionComboBox MenuButton::choiceOption() const
+{
+    QStyleOptionComboBox option;
+    option.initFrom(this);
+    option.state.setFlag(QStyle::State_Sunken, isDown());
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText =
+        option.fontMetrics.elidedText(oneLine(m_choice), Qt::ElideRight, field.width() - 4);
+    return option;
+}
+
+bool MenuButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && !m_choice.isNull()
+        && choiceOption().currentText != oneLine(m_choice)) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(m_choice),
+                           this);
+        return true;
+    }
+    return QPushButton::event(event);
+}
+
+void MenuButton::paintEvent(QPaintEvent *event)
+{
+    if (m_choice.isNull()) {
+        QPushButton::paintEvent(event);
         return;
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    const int arrow = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
-    const int room = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
-    const QString line = oneLine(m_choice);
-    const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, room - arrow);
-    setText(asMenuText(shown));
-    setToolTip(shown == line ? QString() : plainToolTip(m_choice));
+    }
+    QStylePainter painter(this);
+    const QStyleOptionComboBox option = choiceOption();
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void MenuButton::fillShownMenu()

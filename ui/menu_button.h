@@ -8,6 +8,7 @@
 #include <memory>
 
 class QMenu;
+class QStyleOptionComboBox;
 
 namespace kelvo {
 
@@ -30,8 +31,9 @@ public:
     // Called just before the menu opens, to enable and check its items.
     void setMenuUpdate(std::function<void(Menu &)> update) { m_update = std::move(update); }
 
-    // What was chosen in the menu, whoever wrote it, in place of the button's own text: on
-    // one line, elided where it is long, and whole in its tool tip.
+    // What was chosen in the menu, whoever wrote it, in place of the button's own text. It
+    // looks like a pop-up button then: on one line, elided where it is long, and whole in its
+    // tool tip.
     void setShownChoice(const QString &text);
     const QString &shownChoice() const { return m_choice; } // null: there is none
 
@@ -50,12 +52,12 @@ public:
     bool choose(const MenuItem &item);
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
-    void changeEvent(QEvent *event) override;
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void fillShownMenu();
-    void elideChoice();
+    QStyleOptionComboBox choiceOption() const;
 
     QMenu *m_shown; // what the user sees of m_menu, filled when it opens
     Menu m_menu;

@@ -489,6 +489,14 @@ struct DocumentPreview::Private
         sheet->drawn.reset();
     }
 
+    void take(const DrawnSide &side)
+    {
+        if (asked.pages.isEmpty())
+            return; // a blank side is shown by now
+        answer = side;
+        showAnswer();
+    }
+
     void showAnswer()
     {
         Look look = askedLook;
@@ -548,10 +556,8 @@ DocumentPreview::DocumentPreview(QWidget *parent)
     column->addWidget(d->sheet, 1);
     column->addLayout(row);
 
-    connect(&d->renderer, &PageRenderer::rendered, this, [this](const DrawnSide &side) {
-        d->answer = side;
-        d->showAnswer();
-    });
+    connect(&d->renderer, &PageRenderer::rendered, this,
+            [this](const DrawnSide &side) { d->take(side); });
     d->sync();
 }
 

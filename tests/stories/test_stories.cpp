@@ -379,6 +379,19 @@ void TestStories::countsSheetsAsThePrinterDoes()
     QENDED(desk.run({"--ppd", "two-sided.ppd", "--no-window", "--ticket-in", "special.plist",
                      "--script", "s.kps", documentPath}),
            0);
+
+    // Four pages of a booklet come on a sheet, made to fit: none is larger than the paper.
+    TicketFile booklet;
+    booklet.printSettings.entries["com.kelvo.print.BookletLayout"].value = true;
+    QVERIFY(writeTicketFile(desk.path("booklet.plist"), booklet));
+    putFile(desk.path("s.kps"),
+            "expect @summary text \"6 pages, 2 sheets\"\n"
+            "expect @previewPage text \"Sheet 1, front · page 1 of 6, one blank\\nshown left to "
+            "right; the printer decides\"\n"
+            "expect @conflictText visible false\n");
+    QENDED(desk.run({"--ppd", "two-sided.ppd", "--no-window", "--ticket-in", "booklet.plist", "-o",
+                     "media=A5", "--script", "s.kps", documentPath}),
+           0);
 }
 
 void TestStories::saysWhatItsPanelsLack()

@@ -11,6 +11,7 @@
 #include "table.h"
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -331,18 +332,18 @@ void TestControls::aLongTextDoesNotWidenThePopup()
 void TestControls::aMenuButtonShowsWhatWasChosen()
 {
     MenuButton button;
-    button.setShownChoice(QStringLiteral("Terms & <b>conditions</b>") + QString(40, u'm'));
+    button.setShownChoice(QStringLiteral("R&D"));
     const QSize hint = button.sizeHint();
+    QCOMPARE(button.text(), QStringLiteral("R&&D")); // no mnemonic
+    button.setShownChoice(QStringLiteral("Terms & <b>conditions</b>") + QString(40, u'm'));
+    QCOMPARE(interfaceOf(&button)->text(), button.shownChoice());
+    QCOMPARE(button.sizeHint(), hint); // a name moves nothing
     button.resize(hint);
     button.show();
-    QCOMPARE(interfaceOf(&button)->text(), button.shownChoice());
-    QVERIFY(button.text().startsWith(QStringLiteral("Terms && <b>"))); // no mnemonics
-    QVERIFY(button.text().endsWith(QChar(0x2026)));
-    QVERIFY(button.toolTip().contains(QStringLiteral("&lt;b&gt;conditions")));
-    button.setShownChoice(QStringLiteral("R&D"));
-    QCOMPARE(button.text(), QStringLiteral("R&&D"));
-    QCOMPARE(button.toolTip(), QString());
-    QCOMPARE(button.sizeHint(), hint); // a name moves nothing
+    QHelpEvent asks(QEvent::ToolTip, {5, 5}, button.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&button, &asks);
+    QVERIFY(QToolTip::text().contains(QStringLiteral("&lt;b&gt;conditions")));
+    QToolTip::hideText();
 }
 
 void TestControls::aMenuButtonOffersWhatItsUpdateLeaves()

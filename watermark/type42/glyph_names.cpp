@@ -113,10 +113,15 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
+bool mayBeginNumber(char c)
+{
+    return isDigit(c) || c == '+' || c == '-' || c == '.';
+}
+
 // 12, -.5, 6.02E23 and 16#1F; rather too much than too little, as "1-2".
 bool mayReadAsNumber(QByteArrayView name)
 {
-    if (!isDigit(name[0]) && name[0] != '+' && name[0] != '-' && name[0] != '.')
+    if (!mayBeginNumber(name[0]))
         return false;
     bool digits = false;
     for (const char c : name) {
@@ -152,6 +157,16 @@ QByteArray postScriptName(QByteArrayView raw)
         return escaped + name.mid(1);
     }
     return name;
+}
+
+bool isPlainName(QByteArrayView raw)
+{
+    if (raw.empty() || mayBeginNumber(raw[0]))
+        return false;
+    bool escapes = false;
+    for (const char c : raw)
+        escapes |= isEscaped[static_cast<uchar>(c)];
+    return !escapes;
 }
 
 } // namespace kelvo

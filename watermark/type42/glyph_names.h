@@ -23,4 +23,8 @@ extern const std::array<QByteArrayView, 256> StandardEncodings;
 // PostScript could read as a number ("12": #312). "#" for the empty name.
 QByteArray postScriptName(QByteArrayView raw);
 
+// Whether `raw` is surely its own postScriptName(), as nearly all names are; told without making
+// one.
+bool isPlainName(QByteArrayView raw);
+
 } // namespace kelvo

@@ -1,7 +1,10 @@
 #include "sfnt_strings.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 
 namespace kelvo {
@@ -9,6 +12,7 @@ namespace kelvo {
 namespace {
 
 constexpr qsizetype kLineBytes = 30;
+constexpr qsizetype kBlockBytes = 16;
 constexpr qsizetype kStringMarks = 4; // "<" and "00>"
 
 struct Digits
@@ -25,6 +29,31 @@ constexpr std::array<Digits, 256> makeDigits()
     return table;
 }
 constexpr std::array<Digits, 256> kDigits = makeDigits();
+
+// Sixteen bytes at once, by arithmetic on all of them that compilers make vectors of: twice as
+// fast as the table.
+void writeBlock(const char *bytes, char *text)
+{
+    std::uint16_t pairs[kBlockBytes];
+    for (std::size_t i = 0; i < kBlockBytes; ++i) {
+        const unsigned byte = static_cast<uchar>(bytes[i]);
+        const unsigned halves = byte >> 4 | (byte & 15) << 8; // the high one comes first
+        const unsigned letters = (halves + 0x0606) >> 4 & 0x0101;
+        pairs[i] = qToLittleEndian(
+            static_cast<std::uint16_t>(halves + 0x3030 + letters * ('A' - '9' - 1)));
+    }
+    std::memcpy(text, pairs, sizeof pairs);
+}
+
+char *writeLine(const char *bytes, char *text)
+{
+    // The blocks share two bytes.
+    writeBlock(bytes, text);
+    writeBlock(bytes + kLineBytes - kBlockBytes, text + 2 * (kLineBytes - kBlockBytes));
+    text += 2 * kLineBytes;
+    *text++ = '\n';
+    return text;
+}
 
 char *writeBytes(const char *bytes, qsizetype count, char *text)
 {
@@ -85,16 +114,17 @@ void SfntStrings::writeText(char *text) const
     qsizetype begin = 0;
     for (std::size_t i = 0; i < m_ends.size(); ++i) {
         const char *bytes = m_font.data() + begin;
-        qsizetype left = m_ends[i] - begin;
+        const char *const end = m_font.data() + m_ends[i];
         *text++ = '<';
-        qsizetype toLineEnd = kLineBytes - countAt(begin, i) % kLineBytes;
-        for (; left >= toLineEnd; toLineEnd = kLineBytes) {
+        const qsizetype toLineEnd = kLineBytes - countAt(begin, i) % kLineBytes;
+        if (end - bytes >= toLineEnd) {
             text = writeBytes(bytes, toLineEnd, text);
             *text++ = '\n';
             bytes += toLineEnd;
-            left -= toLineEnd;
         }
-        text = writeBytes(bytes, left, text);
+        for (; end - bytes >= kLineBytes; bytes += kLineBytes)
+            text = writeLine(bytes, text);
+        text = writeBytes(bytes, end - bytes, text);
         std::memcpy(text, "00>", 3);
         text += 3;
         begin = m_ends[i];

@@ -1,13 +1,13 @@
 #include "type42.h"
 
 #include "glyph_names.h"
+#include "named_glyphs.h"
 #include "sfnt_strings.h"
 #include "terminal.h"
 #include "texts.h"
 #include "true_type.h"
 
-#include <QSet>
-
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 
@@ -78,52 +78,30 @@ QByteArray fontNameOf(const QString &postScriptName)
     return kelvo::postScriptName(raw.first(size));
 }
 
-struct NamedGlyph
+void appendNumber(QByteArray &text, int number)
 {
-    QByteArrayView name; // as the font has it
-    int glyph;
-};
-
-// Glyph 0, and each further glyph that has a name that none before has.
-std::vector<NamedGlyph> namedGlyphs(const std::vector<QByteArrayView> &names)
-{
-    std::vector<NamedGlyph> glyphs{{notdef, 0}};
-    glyphs.reserve(names.size());
-    QSet<QByteArrayView> seen{notdef};
-    seen.reserve(qsizetype(names.size()));
-    for (std::size_t i = 1; i < names.size(); ++i) {
-        if (names[i].isNull() || seen.contains(names[i]))
-            continue;
-        seen.insert(names[i]);
-        glyphs.push_back({names[i], int(i)});
-    }
-    return glyphs;
+    char digits[16];
+    const auto end = std::to_chars(digits, digits + sizeof digits, number);
+    text.append(digits, end.ptr - digits);
 }
 
-QByteArray writtenName(const NamedGlyph &glyph)
+QByteArray encodingText(const NamedGlyphs &glyphs)
 {
-    const QByteArray name = postScriptName(glyph.name);
-    return name.size() <= kGlyphNameBytes ? name : "#g" + QByteArray::number(glyph.glyph);
-}
-
-QByteArray encodingText(const std::vector<NamedGlyph> &glyphs)
-{
-    QSet<QByteArrayView> names;
-    for (const NamedGlyph &glyph : glyphs)
-        names.insert(glyph.name);
     QByteArray text = "/Encoding 256 array\n";
     for (std::size_t code = 0; code < StandardEncodings.size(); ++code) {
         const QByteArrayView name = StandardEncodings[code];
-        text += "dup " + QByteArray::number(code) + " /";
-        text += names.contains(name) ? name : notdef;
+        text += "dup ";
+        appendNumber(text, int(code));
+        text += " /";
+        text += glyphs.contains(name) ? name : notdef;
         text += " put\n";
     }
-    return text + "readonly def";
+    return text += "readonly def";
 }
 
 // Up to the strings.
 QByteArray beginText(const VitalTables &tables, const QString &postScriptName,
-                     const std::vector<NamedGlyph> &glyphs)
+                     const NamedGlyphs &glyphs)
 {
     const HeadTable &head = tables.head;
     QByteArray text = "%!PS-TrueTypeFont-" + fixedPoint(head.version) + '-'
@@ -145,14 +123,44 @@ QByteArray beginText(const VitalTables &tables, const QString &postScriptName,
     return text;
 }
 
-// From the strings on.
-QByteArray endText(int glyphCount, const std::vector<NamedGlyph> &glyphs)
+constexpr QByteArrayView kGlyphLineEnd = " def\n";
+constexpr qsizetype kGlyphMarks = 12; // of a line beside the name: "/", " 65535", " def\n"
+
+// "/NAME NUMBER def"; gives the line's end.
+char *writeGlyph(const NamedGlyphs::Glyph &glyph, char *text)
 {
-    QByteArray text = "] def\n/CharStrings " + QByteArray::number(glyphCount) + " dict dup begin\n";
-    for (const NamedGlyph &glyph : glyphs)
-        text += '/' + writtenName(glyph) + ' ' + QByteArray::number(glyph.glyph) + " def\n";
-    text += "end readonly def\n"
-            "FontName currentdict end definefont pop\n";
+    QByteArrayView name(glyph.name.data(), qsizetype(glyph.name.size()));
+    QByteArray safe;
+    if (name.size() > kGlyphNameBytes || !isPlainName(name)) {
+        safe = postScriptName(name);
+        if (safe.size() > kGlyphNameBytes)
+            safe = "#g" + QByteArray::number(glyph.number);
+        name = safe;
+    }
+    *text++ = '/';
+    text = std::copy(name.begin(), name.end(), text);
+    *text++ = ' ';
+    text = std::to_chars(text, text + 5, glyph.number).ptr;
+    return std::copy(kGlyphLineEnd.begin(), kGlyphLineEnd.end(), text);
+}
+
+// From the strings on.
+QByteArray endText(int glyphCount, const NamedGlyphs &glyphs)
+{
+    const QByteArray begin =
+        "] def\n/CharStrings " + QByteArray::number(glyphCount) + " dict dup begin\n";
+    constexpr QByteArrayView end = "end readonly def\n"
+                                   "FontName currentdict end definefont pop\n";
+    qsizetype most = begin.size() + end.size();
+    for (const NamedGlyphs::Glyph &glyph : glyphs.list())
+        most += kGlyphMarks + std::min(3 * qsizetype(glyph.name.size()) + 1, kGlyphNameBytes);
+
+    QByteArray text(most, Qt::Uninitialized);
+    char *at = std::copy(begin.begin(), begin.end(), text.data());
+    for (const NamedGlyphs::Glyph &glyph : glyphs.list())
+        at = writeGlyph(glyph, at);
+    at = std::copy(end.begin(), end.end(), at);
+    text.truncate(at - text.constData());
     return text;
 }
 
@@ -174,7 +182,7 @@ Result<void> convertTTFtoPS42(QByteArrayView fontData, const QString &postScript
             return fontError(postScriptName, read.error().detail);
         names = std::move(read).value();
     }
-    const std::vector<NamedGlyph> glyphs = namedGlyphs(names);
+    const NamedGlyphs glyphs(names);
 
     const QByteArray begin = beginText(tables.value(), postScriptName, glyphs);
     const SfntStrings strings(fontData,

@@ -96,7 +96,7 @@ void takeParams(BookletDialog &dialog)
 
 OSStatus bookletEventHandler(BookletDialog &dialog, const Event &event)
 {
-    if (event.kind != EventKind::ControlHit)
+    if (event.kind != EventKind::ControlHit || event.control.signature != kPanelSignature)
         return eventNotHandledErr;
     takeParams(dialog);
     showParams(dialog);

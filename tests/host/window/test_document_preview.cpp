@@ -262,6 +262,13 @@ void TestDocumentPreview::drawsSidesOfBooklets()
 
     preview.setLayout({.paper = {300, 400}, .imposition = Imposition{.drawsBorders = true}});
     QTRY_COMPARE(colourAt(0.485), QColor(Qt::green));
+
+    // The side before a blank one comes too late for it.
+    preview.setLayout({.pages = {{1, 1}}, .paper = {300, 400}, .imposition = Imposition()});
+    button(preview, "previewPrevious")->click();
+    button(preview, "previewNext")->click();
+    QTest::qWait(300);
+    QCOMPARE(colourAt(0.65), QColor(Qt::white));
 }
 
 void TestDocumentPreview::drawsWhatLiesOverPages()

@@ -1,4 +1,5 @@
 #include "made_font.h"
+#include "named_glyphs.h"
 #include "sfnt_strings.h"
 #include "standard_error.h"
 #include "table.h"
@@ -6,6 +7,9 @@
 #include "type42.h"
 
 #include <QTest>
+
+#include <functional>
+#include <string_view>
 
 using namespace kelvo;
 using namespace Qt::StringLiterals;
@@ -53,6 +57,7 @@ private slots:
     void writesNumbersAsPrintfDoes();
     void namesGlyphs_data();
     void namesGlyphs();
+    void namesGlyphsThatMeet();
     void namesTheFont_data();
     void namesTheFont();
     void encodesWhatTheFontNames();
@@ -183,6 +188,21 @@ void TestType42::namesGlyphs()
     made.table("post") = post;
     const QByteArray program = programOf(made.bytes());
     QTEST(between(program, " dict dup begin\n/.notdef 0 def\n", "end readonly"), "lines");
+}
+
+// Names that were made to be looked for in one place, each twice.
+void TestType42::namesGlyphsThatMeet()
+{
+    QList<QByteArray> texts{".notdef"};
+    for (int i = 0; texts.size() < 60; ++i) {
+        const QByteArray name = "n" + QByteArray::number(i);
+        if (std::hash<std::string_view>()(name.toStdString()) % 512 == 7)
+            texts << name;
+    }
+    const QList<QByteArray> twice = texts + texts;
+    const NamedGlyphs glyphs({twice.begin(), twice.end()});
+    QCOMPARE(glyphs.list().size(), std::size_t(60));
+    QVERIFY(glyphs.contains(texts.last()) && !glyphs.contains("n"));
 }
 
 void TestType42::namesTheFont_data()

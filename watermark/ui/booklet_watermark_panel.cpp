@@ -1,0 +1,88 @@
+#include "booklet_watermark_panel.h"
+
+#include "booklet_watermark_events.h"
+#include "font_conversion.h"
+#include "ticket_values.h"
+#include "watermark_menu.h"
+#include "watermark_store.h"
+
+namespace kelvo {
+
+namespace {
+
+// As it is looked at; none where the page format does not say.
+std::optional<QSizeF> paperOf(const Ticket &pageFormat)
+{
+    const auto edges = array(valueIn(pageFormat, kPMUnadjustedPaperRectKey));
+    if (!edges || edges->size() != 4)
+        return std::nullopt;
+    double points[4];
+    for (int edge = 0; edge < 4; ++edge)
+        points[edge] = real(edges->at(edge)).value_or(0);
+    const auto [top, left, bottom, right] = points;
+    const QSizeF paper(right - left, bottom - top);
+    if (!(paper.width() > 0 && paper.height() > 0))
+        return std::nullopt;
+    const int orientation = integer32(valueIn(pageFormat, kPMOrientationKey)).value_or(1);
+    const bool isLandscape = orientation % 2 == 0; // 2, and 4 reversed
+    return isLandscape ? paper.transposed() : paper;
+}
+
+} // namespace
+
+void BookletWatermarkContext::begin(const Ticket &)
+{
+    // Another dialog may have changed the store; it is read when names are needed.
+    listOfWatermarks.clear();
+}
+
+OSStatus BookletWatermarkContext::read(Ticket &printSettings, const Ticket &pageFormat)
+{
+    if (listOfWatermarks.isEmpty()
+        && !valueIn(printSettings, ticketKey("watermark.Watermark")).isNull())
+        listOfWatermarks = loadOrCreateWatermarks(bundle);
+    readBookletWatermark(settings, printSettings, device, listOfWatermarks);
+    const std::optional<QSizeF> found = paperOf(pageFormat);
+    paper = found.value_or(QSizeF());
+    showBookletWatermark(*this);
+    return found ? noErr : kPMKeyNotFound;
+}
+
+OSStatus BookletWatermarkContext::write(Ticket &printSettings, const Ticket &)
+{
+    writeBookletWatermark(settings, printSettings, device);
+    if (!settings.watermark.isEmpty())
+        convertFont(settings.watermark);
+    return noErr;
+}
+
+std::optional<std::vector<SummaryLine>> BookletWatermarkContext::words() const
+{
+    std::vector<SummaryLine> lines;
+    if (settings.booklet.isOn())
+        addSummaryLine(lines, device, "Booklet Layout:", device.text("Enabled"));
+    if (!settings.watermark.isEmpty())
+        addSummaryLine(lines, device, "Watermark Title", settings.watermark);
+    return lines;
+}
+
+OSStatus BookletWatermarkContext::build()
+{
+    if (listOfWatermarks.isEmpty())
+        listOfWatermarks = loadOrCreateWatermarks(bundle);
+    const OSStatus status = buildContent(
+        "BookletWatermarkPanel", "BookletWatermark",
+        [this](NeededControls &needed) { controls = findBookletWatermarkControls(needed); },
+        [this] { fillBookletWatermarkControls(*this); },
+        [this](const Event &event) { return BookletWatermarkEventHandler(*this, event); });
+    if (status == noErr)
+        showBookletWatermark(*this);
+    return status;
+}
+
+OSStatus GetBookletWatermarkPanelInterface(PanelInterface **interface)
+{
+    return givePanel<BookletWatermarkContext>(interface);
+}
+
+} // namespace kelvo
