@@ -43,8 +43,11 @@ ColorField::ColorField(QPushButton *well, QLineEdit *field,
 
 void ColorField::show(const QColor &color)
 {
+    if (color == m_color)
+        return;
     m_color = color;
-    m_field->setText(color.name(QColor::HexRgb).toUpper());
+    if (colorFrom(m_field->text()) != color)
+        m_field->setText(color.name(QColor::HexRgb).toUpper());
     paintWell();
 }
 
@@ -55,6 +58,8 @@ void ColorField::choose()
     dialog.setWindowTitle(m_well->accessibleName());
     if (dialog.exec() != QDialog::Accepted)
         return;
+    m_field->clear(); // of what was begun
+    m_color = {};
     show(dialog.currentColor());
     m_chosen(m_color);
 }
@@ -67,6 +72,17 @@ void ColorField::takeTyped()
     m_color = typed;
     paintWell();
     m_chosen(typed);
+}
+
+bool ColorField::isColor() const
+{
+    return colorFrom(m_field->text()).isValid();
+}
+
+void ColorField::focus()
+{
+    m_field->setFocus();
+    m_field->selectAll();
 }
 
 void ColorField::paintWell()

@@ -17,13 +17,14 @@ public:
     // `chosen` comes when the user has picked another color. Both controls outlive this.
     ColorField(QPushButton *well, QLineEdit *field, std::function<void(const QColor &)> chosen);
 
+    // What the user has begun to type stays while the color does.
     void show(const QColor &color);
     // Opens the color dialog, with the well's accessible name as title.
     void choose();
-    // Takes what stands in the field; what is no color stays there until it is left.
+    // Takes what stands in the field, where that is a color.
     void takeTyped();
-    // In place of what is no color, the one that it is.
-    void showAgain() { show(m_color); }
+    bool isColor() const; // what stands in the field
+    void focus();         // on the field, to be typed anew
 
 private:
     void paintWell();

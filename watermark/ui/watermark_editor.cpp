@@ -49,6 +49,7 @@ private:
 
     bool mayAccept();
     void say(WatermarkProblem problem);
+    void refuse(const QString &message);
     bool mayReplace(const QString &name);
 
     QString text(const char *key) const { return m_device.text(key); }
@@ -120,6 +121,7 @@ bool WatermarkEditor::makeWindow(QWidget *parent)
     if (!hasPage)
         m_controls.overPage->setToolTip(text("Watermark No Page"));
     showPageBelow();
+    showWatermarkFont(m_controls, m_device, m_watermark);
     changeTo(m_watermark, true);
     (m_watermark.isText ? static_cast<QWidget *>(m_controls.text) : m_controls.picture)->setFocus();
     return true;
@@ -159,7 +161,10 @@ DialogResult WatermarkEditor::run()
 
 void WatermarkEditor::changeTo(const _WatermarkData &watermark, bool isForced)
 {
+    const bool isOtherFont = textOf(watermark.fontName) != textOf(m_watermark.fontName);
     m_watermark = watermark;
+    if (isOtherFont)
+        showWatermarkFont(m_controls, m_device, watermark);
     m_preview->setPictureOpacity(m_editing.isCoverImage ? watermark.density / 100.0 : 1);
     m_preview->show(edited(watermark), isForced);
     m_watermark.xPos = m_preview->shown().xPos;
@@ -232,10 +237,6 @@ OSStatus WatermarkEditor::handle(const Event &event)
             m_color->takeTyped();
         else if (event.control == kEditorFontColor)
             m_fontColor->takeTyped();
-        return eventNotHandledErr;
-    case EventKind::FocusChanged: // what was no color is one again
-        m_color->showAgain();
-        m_fontColor->showAgain();
         return eventNotHandledErr;
     default:
         return eventNotHandledErr;
@@ -324,6 +325,13 @@ void WatermarkEditor::takePicture(const QString &path)
 
 bool WatermarkEditor::mayAccept()
 {
+    for (ColorField *color : {m_color.get(), m_fontColor.get()}) {
+        if (m_watermark.isText && !color->isColor()) {
+            refuse(text("Watermark No Color"));
+            color->focus();
+            return false;
+        }
+    }
     const _WatermarkData watermark = result();
     const QString name = watermarkName(watermark);
     const WatermarkProblem problem =
@@ -360,9 +368,14 @@ void WatermarkEditor::say(WatermarkProblem problem)
         message = text("Watermark Name Is Font").arg(name);
         break;
     }
+    refuse(message);
+    (m_watermark.isText ? static_cast<QWidget *>(m_controls.text) : m_controls.picture)->setFocus();
+}
+
+void WatermarkEditor::refuse(const QString &message)
+{
     CFUserNotificationDisplayNotice(NoticeLevel::Caution, text("Watermark Refused Header"), message,
                                     {}, m_window.get());
-    (m_watermark.isText ? static_cast<QWidget *>(m_controls.text) : m_controls.picture)->setFocus();
 }
 
 // Another entry of that name would go.

@@ -174,6 +174,14 @@ QString pictureSizeText(const Device &device, const QSizeF &pixels, const _Water
                       length(pixels.width()), length(pixels.height())});
 }
 
+void showWatermarkFont(const WatermarkEditorControls &controls, const Device &device,
+                       const _WatermarkData &watermark)
+{
+    const QString fontName = textOf(watermark.fontName);
+    showFont(controls.font, fontName, device.text("Watermark Font Missing"));
+    controls.fontHint->setText(fontHint(device, controls.font, fontName));
+}
+
 void showWatermark(const WatermarkEditorControls &controls, const Device &device,
                    const _WatermarkData &watermark, bool isCoverImage)
 {
@@ -188,9 +196,6 @@ void showWatermark(const WatermarkEditorControls &controls, const Device &device
     const QString text = textOf(watermark.textString);
     if (controls.text->text() != text) // the cursor stays
         controls.text->setText(text);
-    const QString fontName = textOf(watermark.fontName);
-    showFont(controls.font, fontName, device.text("Watermark Font Missing"));
-    controls.fontHint->setText(fields.text ? fontHint(device, controls.font, fontName) : QString());
     controls.fontSize->setValue(watermark.fontSize);
     setOn({controls.text, controls.font, controls.fontSize, controls.fontSizes, controls.colorWell,
            controls.color, controls.fontColorWell, controls.fontColor},
@@ -215,7 +220,8 @@ void showWatermark(const WatermarkEditorControls &controls, const Device &device
         for (QLabel *hint : hints)
             hint->setEnabled(isOn);
     };
-    enable({controls.fontSizeLimits, controls.colorHint, controls.fontColorHint}, fields.text);
+    enable({controls.fontHint, controls.fontSizeLimits, controls.colorHint, controls.fontColorHint},
+           fields.text);
     enable({controls.angleLimits, controls.xLimits, controls.yLimits, controls.placeHint},
            fields.place);
     enable({controls.densityLimits}, fields.density);

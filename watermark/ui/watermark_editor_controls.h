@@ -79,7 +79,11 @@ void fillWatermarkEditorControls(const WatermarkEditorControls &controls, const 
 QString pictureSizeText(const Device &device, const QSizeF &pixels,
                         const _WatermarkData &watermark);
 
-// From the record to the controls, but for colors and picture.
+// Which font it has; what takes its place is looked for, so only when it is another one.
+void showWatermarkFont(const WatermarkEditorControls &controls, const Device &device,
+                       const _WatermarkData &watermark);
+
+// From the record to the controls, but for font, colors and picture.
 void showWatermark(const WatermarkEditorControls &controls, const Device &device,
                    const _WatermarkData &watermark, bool isCoverImage);
 

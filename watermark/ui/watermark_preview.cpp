@@ -43,9 +43,9 @@ void WatermarkPreview::show(const _WatermarkData &watermark, bool isForced)
     const _WatermarkData before = std::exchange(m_shown, watermark);
     const QSizeF paper(watermark.paperWidth, watermark.paperHeight);
     const bool isOther = !m_hasShown || isForced || needsRedraw(before, watermark)
-        || picturePathOf(before) != picturePathOf(watermark)
+        || picturePathOf(watermark) != m_picturePath
         || paper != QSizeF(before.paperWidth, before.paperHeight);
-    if (!isOther && picturePathOf(watermark) == m_picturePath) {
+    if (!isOther) {
         m_shown.xPos = before.xPos;
         m_shown.yPos = before.yPos;
         return;

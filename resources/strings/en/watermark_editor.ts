@@ -270,6 +270,10 @@
         <translation>The watermark cannot be saved yet</translation>
     </message>
     <message>
+        <source>Watermark No Color</source>
+        <translation>Type the color as # and six digits, 0 to 9 and A to F: #FF0000 is red. Or choose it with the button.</translation>
+    </message>
+    <message>
         <source>Watermark No Text</source>
         <translation>Type the words that are printed.</translation>
     </message>
