@@ -30,35 +30,33 @@ NamedGlyphs::NamedGlyphs(const std::vector<QByteArrayView> &names)
     }
 }
 
-void NamedGlyphs::add(std::string_view name, int number)
+std::size_t NamedGlyphs::findPlace(std::string_view name) const
 {
     const std::size_t hash = std::hash<std::string_view>()(name);
     for (std::size_t step = 0; step < kMostSteps; ++step) {
-        std::uint32_t &place = m_places[(hash + step) & (m_places.size() - 1)];
-        if (place == 0) {
-            m_list.push_back({name, number});
-            place = static_cast<std::uint32_t>(m_list.size());
-            return;
-        }
-        if (m_list[place - 1].name == name)
-            return;
+        const std::size_t at = (hash + step) & (m_places.size() - 1);
+        const std::uint32_t place = m_places[at];
+        if (place == 0 || m_list[place - 1].name == name)
+            return at;
     }
-    if (m_others.insert(name).second)
-        m_list.push_back({name, number});
+    return m_places.size();
+}
+
+void NamedGlyphs::add(std::string_view name, int number)
+{
+    const std::size_t at = findPlace(name);
+    const bool isCrowded = at == m_places.size();
+    if (isCrowded ? !m_others.insert(name).second : m_places[at] != 0)
+        return;
+    m_list.push_back({name, number});
+    if (!isCrowded)
+        m_places[at] = static_cast<std::uint32_t>(m_list.size());
 }
 
 bool NamedGlyphs::contains(QByteArrayView name) const
 {
-    const std::string_view wanted = viewOf(name);
-    const std::size_t hash = std::hash<std::string_view>()(wanted);
-    for (std::size_t step = 0; step < kMostSteps; ++step) {
-        const std::uint32_t place = m_places[(hash + step) & (m_places.size() - 1)];
-        if (place == 0)
-            return false;
-        if (m_list[place - 1].name == wanted)
-            return true;
-    }
-    return m_others.contains(wanted);
+    const std::size_t at = findPlace(viewOf(name));
+    return at == m_places.size() ? m_others.contains(viewOf(name)) : m_places[at] != 0;
 }
 
 } // namespace kelvo
