@@ -27,6 +27,8 @@ public:
     bool contains(QByteArrayView name) const;
 
 private:
+    // Where in m_places the name is, or can be put; their number where others are in all of its.
+    std::size_t findPlace(std::string_view name) const;
     void add(std::string_view name, int number);
 
     std::vector<Glyph> m_list;

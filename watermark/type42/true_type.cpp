@@ -274,6 +274,7 @@ Result<std::vector<QByteArrayView>> readGlyphNames(const PostTable &post, int gl
     // Each with its length before it. Strings that no 16-bit number names are not read.
     constexpr std::size_t most = 0x10000 - macGlyphEncoding.size();
     std::vector<QByteArrayView> own;
+    own.reserve(std::size_t(count)); // mostly as many
     for (QByteArrayView rest = table.sliced(stringsAt); !rest.empty() && own.size() < most;) {
         const auto length = static_cast<uchar>(rest[0]);
         if (length >= rest.size())

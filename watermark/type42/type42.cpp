@@ -129,16 +129,17 @@ constexpr qsizetype kGlyphMarks = 12; // of a line beside the name: "/", " 65535
 // "/NAME NUMBER def"; gives the line's end.
 char *writeGlyph(const NamedGlyphs::Glyph &glyph, char *text)
 {
-    QByteArrayView name(glyph.name.data(), qsizetype(glyph.name.size()));
-    QByteArray safe;
-    if (name.size() > kGlyphNameBytes || !isPlainName(name)) {
-        safe = postScriptName(name);
+    const QByteArrayView name(glyph.name.data(), qsizetype(glyph.name.size()));
+    *text++ = '/';
+    if (name.size() <= kGlyphNameBytes && isPlainName(name)) {
+        for (const char c : name) // they are short
+            *text++ = c;
+    } else {
+        QByteArray safe = postScriptName(name);
         if (safe.size() > kGlyphNameBytes)
             safe = "#g" + QByteArray::number(glyph.number);
-        name = safe;
+        text = std::copy(safe.begin(), safe.end(), text);
     }
-    *text++ = '/';
-    text = std::copy(name.begin(), name.end(), text);
     *text++ = ' ';
     text = std::to_chars(text, text + 5, glyph.number).ptr;
     return std::copy(kGlyphLineEnd.begin(), kGlyphLineEnd.end(), text);

@@ -8,9 +8,6 @@
 
 #include <QTest>
 
-#include <functional>
-#include <string_view>
-
 using namespace kelvo;
 using namespace Qt::StringLiterals;
 
@@ -190,15 +187,12 @@ void TestType42::namesGlyphs()
     QTEST(between(program, " dict dup begin\n/.notdef 0 def\n", "end readonly"), "lines");
 }
 
-// Names that were made to be looked for in one place, each twice.
+// Names that differ where nobody looks when they are put in their places, each twice.
 void TestType42::namesGlyphsThatMeet()
 {
     QList<QByteArray> texts{".notdef"};
-    for (int i = 0; texts.size() < 60; ++i) {
-        const QByteArray name = "n" + QByteArray::number(i);
-        if (std::hash<std::string_view>()(name.toStdString()) % 512 == 7)
-            texts << name;
-    }
+    for (int i = 100; texts.size() < 60; ++i)
+        texts << QByteArray(8, 'x') + QByteArray::number(i) + QByteArray(29, 'x');
     const QList<QByteArray> twice = texts + texts;
     const NamedGlyphs glyphs({twice.begin(), twice.end()});
     QCOMPARE(glyphs.list().size(), std::size_t(60));
