@@ -76,14 +76,6 @@
         <translation>This device has no finisher.</translation>
     </message>
     <message>
-        <source>Booklet Not Available Header</source>
-        <translation>Booklets cannot be set up here</translation>
-    </message>
-    <message>
-        <source>Booklet Not Available Message</source>
-        <translation>This version of the Corvane panels cannot lay out booklets. A booklet layout that a ticket or preset brings is kept and printed.</translation>
-    </message>
-    <message>
         <source>Fax Setup Not Available Header</source>
         <translation>Fax recipients cannot be entered here</translation>
     </message>

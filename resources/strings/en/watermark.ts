@@ -39,6 +39,10 @@
         <translation>&amp;Page borders:</translation>
     </message>
     <message>
+        <source>Page Borders</source>
+        <translation>Page borders</translation>
+    </message>
+    <message>
         <source>Booklet Options... Title</source>
         <translation>Booklet &amp;options…</translation>
     </message>
@@ -81,10 +85,6 @@
     <message>
         <source>Watermark Editor</source>
         <translation>Watermark</translation>
-    </message>
-    <message>
-        <source>Watermark Commands</source>
-        <translation>&amp;Edit…</translation>
     </message>
     <message>
         <source>Delete Watermark Header</source>
