@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -55,6 +56,14 @@ LineDone lineProblem(const inspector::Done &done)
     return LineProblem{done->failure == Failure::NotOffered ? ExitStatus::NotOffered
                                                             : ExitStatus::WrongUsage,
                        done->text};
+}
+
+// Qt's own dialogs, such as those for files and colors, know no commands.
+void cancelDialog(QWidget *modal)
+{
+    auto *dialog = qobject_cast<QDialog *>(modal);
+    if (sendCommand(modal, kCommandCancel) == eventNotHandledErr && dialog)
+        dialog->reject();
 }
 
 // Whether the line reaches for what a modal dialog keeps from the user: panels that
@@ -388,7 +397,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         return {};
     case ScriptCommand::Cancel:
         if (QWidget *modal = openDialog())
-            sendCommand(modal, kCommandCancel);
+            cancelDialog(modal);
         else {
             target.pressCancel();
         }

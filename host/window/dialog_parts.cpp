@@ -12,6 +12,7 @@
 #include "window_columns.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
@@ -170,10 +171,11 @@ bool DialogParts::isAtRest() const
         && m_sinceShown.elapsed() < activationWaitMs)
         return false;
     // A button that its mnemonic pressed comes up again a moment later, and only
-    // then does what it is for.
+    // then does what it is for. Qt's file chooser keeps one down for as long as it is open.
     const auto buttons = m_window->findChildren<QAbstractButton *>();
-    if (std::any_of(buttons.cbegin(), buttons.cend(),
-                    [](const QAbstractButton *each) { return each->isDown(); }))
+    if (std::any_of(buttons.cbegin(), buttons.cend(), [](const QAbstractButton *each) {
+            return each->isDown() && !qobject_cast<QFileDialog *>(each->window());
+        }))
         return false;
     // The panels of hidden tabs follow the first frame.
     return !m_sinceReady.isValid() || m_sinceReady.elapsed() >= panelsWaitMs || arePanelsBuilt();
