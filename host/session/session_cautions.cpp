@@ -47,6 +47,8 @@ void SessionCautions::look()
         add(Caution{.text = remark});
     if (m_session.hasPanels())
         lookAtCovers();
+    for (const QString &sentence : job.lost())
+        add(Caution{.text = sentence, .items = {sentence}, .hasHappened = true});
     add(missingCaution(job.missing(), job.ppd() != nullptr));
     add(untoldCaution(job.untold()));
 }

@@ -4,6 +4,7 @@
 #include "page_ranges.h"
 #include "ppd_words.h"
 #include "secrets.h"
+#include "texts.h"
 #include "ticket_attachment.h"
 #include "ticket_layers.h"
 
@@ -289,9 +290,19 @@ QStringList SessionJob::untold()
     if (readsTickets(ppd()))
         return {};
     const TicketFile asked = m_edits.asked.asked();
-    JobDescription description;
-    m_describer.describe(asked.printSettings, asked.pageFormat, ppd(), description);
-    return entriesInWords(description);
+    return entriesInWords(describe(m_asAsked, asked.printSettings, asked.pageFormat));
+}
+
+QStringList SessionJob::lost()
+{
+    const TicketFile asked = m_edits.asked.asked();
+    QStringList sentences;
+    for (const DescribedSetting &line :
+         describe(m_asAsked, asked.printSettings, asked.pageFormat).settings) {
+        if (line.isLost)
+            sentences << translate("Job", "%1: %2.").arg(line.label, line.words);
+    }
+    return sentences;
 }
 
 ConflictReport SessionJob::conflicts()
@@ -335,13 +346,22 @@ void SessionJob::restore(const Snapshot &snapshot)
 
 const JobDescription &SessionJob::description()
 {
-    const Described now{m_session->printSettings(), m_session->pageFormat(), m_device.ppd};
+    return describe(m_asItStands, m_session->printSettings(), m_session->pageFormat());
+}
+
+const JobDescription &SessionJob::describe(Described &known, const Ticket &printSettings,
+                                           const Ticket &pageFormat)
+{
     const auto isOther = [](const StampedFile &file) { return stampOf(file.path) != file.stamp; };
-    if (m_described != now || std::ranges::any_of(m_description.files, isOther)) {
-        m_describer.describe(now.printSettings, now.pageFormat, now.ppd.get(), m_description);
-        m_described = now;
+    if (!known.isKnown || known.printSettings != printSettings || known.pageFormat != pageFormat
+        || known.ppd != m_device.ppd || std::ranges::any_of(known.description.files, isOther)) {
+        m_describer.describe(printSettings, pageFormat, ppd(), known.description);
+        known.printSettings = printSettings;
+        known.pageFormat = pageFormat;
+        known.ppd = m_device.ppd;
+        known.isKnown = true;
     }
-    return m_description;
+    return known.description;
 }
 
 } // namespace kelvo

@@ -93,6 +93,7 @@ public:
 
     QStringList missing() const; // what is asked for and this device lacks, in words
     QStringList untold();        // and what only a ticket says, where it reads none
+    QStringList lost();          // and what names something that is not there, a sentence each
 
     ConflictReport conflicts(); // as the ticket stands
     void fix(const ConflictReport &report);
@@ -142,15 +143,17 @@ private:
     SecretKeys m_secretKeys;
     JobDescriber m_describer;
     RepeatedChoices m_repeatedChoices; // of this device
-    // As it was last asked for, and of what: a window's parts ask one after the other.
+    // Tickets as they were described last: a window's parts ask one after the other.
     struct Described
     {
         Ticket printSettings, pageFormat;
         std::shared_ptr<PpdFile> ppd;
-        friend bool operator==(const Described &, const Described &) = default;
+        JobDescription description;
+        bool isKnown = false;
     };
-    std::optional<Described> m_described;
-    JobDescription m_description;
+    const JobDescription &describe(Described &known, const Ticket &printSettings,
+                                   const Ticket &pageFormat);
+    Described m_asItStands, m_asAsked;
 
     QString m_title;
     QString m_pdfPath; // empty: the document is not there yet

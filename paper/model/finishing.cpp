@@ -273,11 +273,12 @@ void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, const Booklet
 {
     const bool wasBooklet = settings.isBooklet();
     settings.finishing.fold = fold;
+    settings.finishing.options = optionsWithFold(settings.finishing.options, fold);
     settings.booklet = booklet;
     if (settings.isBooklet())
         settings.duplex = kPlexDuplexShort;
     else if (wasBooklet)
-        UnselectBooklet(settings);
+        settings.duplex = kPlexDuplex;
 }
 
 void UnselectBooklet(PaperOutputSettings &settings)

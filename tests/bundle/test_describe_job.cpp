@@ -210,7 +210,7 @@ void TestDescribeJob::saysWhatIsSet_data()
                   {"JobLevelStock", Dictionary{{"Size", 5}}}}),
         {"Booklet layout: gutter 24 pt, creep 0, page borders, fit to A3 (297 × 420 mm)"});
     row("a watermark of somebody else", ticketOf({{"watermark.Watermark", "Hall-3 only"}}),
-        {"Watermark: Hall-3 only is not among your watermarks; none is printed"});
+        {"Watermark: “Hall-3 only” is not among yours, and none is printed"});
     row("values of later days", ticketOf({{"FinishingOffset", 77}, {"FinishingBindValue", 99}}),
         {"Offset: 77", "Bind: 99"});
     row("the printer's own lightness", ticketOf({{"PrinterDefaultLightness", true}}),

@@ -95,6 +95,8 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
     row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
     row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
     row("FinishingDialogs/CustomFinishing", "item @moreFinishing 'Fcus'");
+    row("BookletCreation/BookletFinishingOptions", "item @finishingButton 'Bkcr'");
+    row("WatermarkEditor/Window", "panel BookletWatermark\nitem @watermark 'KWmN'");
     row("Separators/Separators", "click @separatorsButton");
     row("SpecialPages/Basic Covers", "click @coversButton");
     row("SpecialPages/Basic Inserts", insert);

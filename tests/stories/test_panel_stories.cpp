@@ -87,13 +87,19 @@ void TestPanelStories::carriesEverythingThroughATicket_data()
     row("image, full", "full", "image-options");
     row("advanced", "full", "advanced");
     row("special pages", "full", "special-pages");
+    row("booklet and watermark, full", "full", "booklet-watermark");
+    row("booklet and watermark, mid", "mid", "booklet-watermark-mid");
+    row("watermark, bare", "bare", "booklet-watermark-bare");
 }
 
 void TestPanelStories::carriesEverythingThroughATicket()
 {
     QFETCH(QString, device);
     QFETCH(QString, name);
-    const Desk desk;
+    Desk desk, fresh;
+    // A ticket names a watermark, and the user's store has it.
+    for (Desk *each : {&desk, &fresh})
+        each->set("KELVO_SUPPORT_DIR", desk.path("support"));
     const QString first = desk.path("first"), second = desk.path("second");
     const QString third = desk.path("third"), preset = desk.path("preset.plist");
     const QStringList arguments{"--ppd", samplePpd(device), "--no-window", documentPath};
@@ -101,7 +107,6 @@ void TestPanelStories::carriesEverythingThroughATicket()
                     + QStringList{"--script", script(qPrintable(name + ".kps")), "--to", first,
                                   "--preset-out", preset}),
            0);
-    const Desk fresh;
     QENDED(fresh.run(arguments
                      + QStringList{"--script", script(qPrintable(name + "-again.kps")),
                                    "--ticket-in", first + "/ticket.plist", "--to", second}),

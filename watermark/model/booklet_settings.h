@@ -27,6 +27,15 @@ inline constexpr std::int32_t kFoldBiAndStaple = 53;
 inline constexpr std::int32_t kFinishingNone = 0;
 inline constexpr std::int32_t kFinishingBooklet = 24;
 
+// FinishingOptions of a job that is folded so: a booklet's fold decides it, and no other job
+// has a booklet's options.
+constexpr std::int32_t optionsWithFold(std::int32_t options, std::int32_t fold)
+{
+    if (fold == kFoldBi || fold == kFoldBiAndStaple)
+        return kFinishingBooklet;
+    return options == kFinishingBooklet ? kFinishingNone : options;
+}
+
 struct BookletSettings
 {
     std::int32_t layout = kBookletOff;

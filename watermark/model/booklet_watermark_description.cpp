@@ -102,7 +102,10 @@ void describeWatermark(const BookletWatermarkSettings &settings, PanelDescriptio
     } else if (!settings.absentWatermark.isEmpty()) {
         words = formatted(device.text("Watermark Absent in Words"), {settings.absentWatermark});
     }
-    panel.add("watermark.Watermark", "Watermark in Words", words, kWatermarkPopup);
+    DescribedSetting *line =
+        panel.add("watermark.Watermark", "Watermark in Words", words, kWatermarkPopup);
+    if (line)
+        line->isLost = settings.watermark.isEmpty();
     panel.leaveUnspoken("watermark.Option");
     panel.leaveUnspoken("watermark.FirstPageOnly");
 }

@@ -24,11 +24,6 @@ void put(Ticket &ticket, const char *name, const QVariant &value)
     setValue(ticket, client, ticketKey(name), value);
 }
 
-bool isBookletFold(std::optional<std::int32_t> fold)
-{
-    return fold == kFoldBi || fold == kFoldBiAndStaple;
-}
-
 // Sheets are turned over their short edge.
 void writeDuplex(Ticket &ticket)
 {
@@ -44,10 +39,10 @@ void writeFold(std::optional<std::int32_t> fold, Ticket &ticket)
     if (fold && fold != kNoPpdChoice)
         PPDSetCurrentChoice(ticket, foldOption, PPDChoiceForTicketValue(foldOption, *fold));
     const auto stored = integer32(entry(ticket, "FinishingOptions"));
-    if (isBookletFold(fold))
-        put(ticket, "FinishingOptions", qint64(kFinishingBooklet));
-    else if (stored == kFinishingBooklet)
-        put(ticket, "FinishingOptions", qint64(kFinishingNone));
+    const std::int32_t before = stored.value_or(kFinishingNone);
+    const std::int32_t options = optionsWithFold(before, fold.value_or(kFoldNone));
+    if (options != before)
+        put(ticket, "FinishingOptions", qint64(options));
 }
 
 // One sheet around the booklet is both covers.

@@ -3,7 +3,6 @@
 #include "hint_text.h"
 #include "popups.h"
 #include "setting_maps.h"
-#include "string_table.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
 #include "watermark_menu.h"
@@ -58,8 +57,6 @@ const char *hintKey(const BookletWatermarkSettings &settings)
 
 QString watermarkHint(const BookletWatermarkSettings &settings, const Device &device)
 {
-    if (!settings.absentWatermark.isEmpty())
-        return formatted(device.text("Watermark Not Here"), {settings.absentWatermark});
     return settings.watermark.isEmpty() ? QString() : device.text(hintKey(settings));
 }
 

@@ -55,10 +55,6 @@
         <translation>How the watermark looks on the paper</translation>
     </message>
     <message>
-        <source>Watermark Not Here</source>
-        <translation>This job names the watermark “%1”, which is not among yours. Nothing is printed in its place.</translation>
-    </message>
-    <message>
         <source>Watermark Behind Hint</source>
         <translation>Behind what the pages hold, on all pages.</translation>
     </message>
@@ -220,7 +216,7 @@
     </message>
     <message>
         <source>Watermark Absent in Words</source>
-        <translation>%1 is not among your watermarks; none is printed</translation>
+        <translation>“%1” is not among yours, and none is printed</translation>
     </message>
 </context>
 </TS>
