@@ -15,11 +15,7 @@ constexpr int endMs = 5000; // for a process that was told to go
 
 QStringList Run::messages() const
 {
-    QStringList lines = err.split(u'\n', Qt::SkipEmptyParts);
-    lines.removeIf([](const QString &line) {
-        return line.startsWith(QLatin1String("LoadBuiltInPanels() skipped "));
-    });
-    return lines;
+    return err.split(u'\n', Qt::SkipEmptyParts);
 }
 
 Desk::Desk()

@@ -17,9 +17,7 @@ struct Run
     QString out, err;
     qint64 ms = 0;
 
-    // What was said on standard error, without the lines about panels that the
-    // bundle does not have.
-    QStringList messages() const;
+    QStringList messages() const; // what was said on standard error, line by line
 };
 
 // A user's place: a home, a folder of an administrator's presets and a working
