@@ -470,7 +470,5 @@ void TestType42::refusesMembers()
     QTEST(sfntOfMember(collection, index).reason(), "reason");
 }
 
-Q_DECLARE_METATYPE(MadeFont)
-
 QTEST_GUILESS_MAIN(TestType42)
 #include "test_type42.moc"
