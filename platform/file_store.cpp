@@ -253,11 +253,6 @@ QString writingAdvice(int number)
     }
 }
 
-static Error tooLarge(const QString &path, qint64 limit)
-{
-    return {Code::TooLarge, path, translate("Files", "more than %1 bytes").arg(limit)};
-}
-
 FileStamp stampOf(const QString &path)
 {
     struct stat status;
@@ -277,8 +272,9 @@ Result<QByteArray> readFile(const QString &path, qint64 limit)
     if (!opened)
         return opened.error();
     const Descriptor &fd = *opened.value();
+    const Error tooLarge{Code::TooLarge, path, translate("Files", "more than %1 bytes").arg(limit)};
     if (status.st_size > limit)
-        return tooLarge(path, limit);
+        return tooLarge;
 
     // The size is only a hint: files of /proc say 0, and a file may be growing.
     // One byte more than it says shows the end without growing the buffer.
@@ -295,7 +291,7 @@ Result<QByteArray> readFile(const QString &path, qint64 limit)
             break;
         used += count;
         if (used > limit)
-            return tooLarge(path, limit);
+            return tooLarge;
         if (used == bytes.size())
             bytes.resize(used * 2);
     }
@@ -409,9 +405,6 @@ Result<void> changeDictionaryFile(const QString &path, DamagedStore damaged,
     if (!xml)
         return Error{xml.error().code, path + QStringLiteral(": ") + xml.error().where,
                      xml.error().detail};
-    // It could not be read again.
-    if (xml.value().size() > limits::plistBytes)
-        return tooLarge(path, limits::plistBytes);
     if (damage) {
         if (auto moved = setAside(path, *damage); !moved)
             return moved;

@@ -272,13 +272,13 @@ std::int32_t shownStaple(const Finishing &finishing)
 void takeBooklet(PaperOutputSettings &settings, std::int32_t fold, const BookletSettings &booklet)
 {
     const bool wasBooklet = settings.isBooklet();
-    settings.finishing.fold = fold;
-    settings.finishing.options = optionsWithFold(settings.finishing.options, fold);
     settings.booklet = booklet;
     if (settings.isBooklet())
         settings.duplex = kPlexDuplexShort;
     else if (wasBooklet)
-        settings.duplex = kPlexDuplex;
+        UnselectBooklet(settings);
+    settings.finishing.fold = fold;
+    settings.finishing.options = optionsWithFold(settings.finishing.options, fold);
 }
 
 void UnselectBooklet(PaperOutputSettings &settings)

@@ -16,6 +16,7 @@ class TestPanelStories : public QObject
 private slots:
     void holdsBackASecurePrintWithoutCode();
     void waitsForTheNextTimeOfADelayedJob();
+    void saysThatAWatermarkIsNotHere();
     void carriesEverythingThroughATicket_data();
     void carriesEverythingThroughATicket();
     void endsWhileAPanelAsks();
@@ -75,6 +76,21 @@ void TestPanelStories::waitsForTheNextTimeOfADelayedJob()
         jobTypeIn(ticketIn(desk.path("out"))).value("DelayedPrintTime").toLongLong();
     QCOMPARE(timeOf(sent), QTime(10, 0));
     QVERIFY(sent >= before && sent <= before + 2 * 86'400);
+}
+
+void TestPanelStories::saysThatAWatermarkIsNotHere()
+{
+    const Desk desk;
+    const QString ticket =
+        QStringLiteral(KELVO_SOURCE_DIR "/tests/dialogs/watermark_of_another.plist");
+    const Run run = desk.run({"--ppd", samplePpd("full"), "--no-window", documentPath,
+                              "--ticket-in", ticket, "--to", desk.path("out")});
+    QENDED(run, 0);
+    QCOMPARE(run.messages(),
+             QStringList("kelvo-print: caution: Watermark: “Hall 3 only” is not among yours, and "
+                         "none is printed."));
+    const TicketFile sent = ticketIn(desk.path("out"));
+    QVERIFY(!sent.printSettings.entries.contains("com.kelvo.print.watermark.Watermark"));
 }
 
 void TestPanelStories::carriesEverythingThroughATicket_data()

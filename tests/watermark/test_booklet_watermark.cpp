@@ -232,7 +232,7 @@ void TestBookletWatermark::theMenuHasTheNamesAndMarks()
     QCOMPARE(menu.items[1].reference, 0);
     QCOMPARE(menu.items[2].reference, 1); // as NoWatermark's value, under another command
     QCOMPARE(menu.items[2].command, kCommandWatermark);
-    markWatermarkMenu(menu, {});
+    MarkWatermarkMenu(menu, {});
     QCOMPARE(described(),
              u"None*|Draft|Copy|-|Options|Print in background|Blend with page*|Print in foreground|"
              "-|Print on all pages*|Print on page 1 only|New…|Edit… off|Delete off"_s);
@@ -241,7 +241,7 @@ void TestBookletWatermark::theMenuHasTheNamesAndMarks()
     QVERIFY(applyWatermarkOption(settings, fourCharCode("KWm1")));
     QVERIFY(!applyWatermarkOption(settings, kCommandNewWatermark));
     QVERIFY(!applyWatermarkOption(settings, kNoCommand));
-    markWatermarkMenu(menu, settings);
+    MarkWatermarkMenu(menu, settings);
     QCOMPARE(described(),
              u"None|Draft|Copy*|-|Options|Print in background*|Blend with page|Print in foreground|"
              "-|Print on all pages|Print on page 1 only*|New…|Edit…|Delete"_s);

@@ -129,7 +129,7 @@ void TestWatermarkStore::leavesFieldsOfMissingKeys()
     const Dictionary store{{u"half"_s,
                             Dictionary{{u"textString"_s, u"half"_s},
                                        {u"fontName"_s, QString(600, u'f')}, // cannot be a name
-                                       {u"density"_s, 40},
+                                       {u"density"_s, 40.7},
                                        {u"scale"_s, u"100"_s}}}};
     putFile(path(), CFPropertyListCreateXMLData(store).value());
     _WatermarkData watermark;
@@ -214,6 +214,12 @@ void TestWatermarkStore::changesListAndRecordTogether()
     // Another dialog has removed what this one edits.
     QCOMPARE(replaceWatermark(kWatermarksFile, u"zwei"_s, text(u"new"_s)).value(),
              QStringList({u"one"_s, u"three"_s, u"new"_s}));
+    // A ticket could not tell them apart.
+    QCOMPARE(replaceWatermark(kWatermarksFile, u"new"_s, text(u"NEW"_s)).value(),
+             QStringList({u"one"_s, u"three"_s, u"NEW"_s}));
+    QCOMPARE(addWatermark(kWatermarksFile, text(u"new"_s)).value(),
+             QStringList({u"one"_s, u"three"_s, u"new"_s}));
+    QVERIFY(!stored().contains(u"NEW"_s));
     QCOMPARE(deleteWatermark(kWatermarksFile, u"three"_s).value(),
              QStringList({u"one"_s, u"new"_s}));
     QCOMPARE(stored().size(), 3);

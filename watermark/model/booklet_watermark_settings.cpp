@@ -88,7 +88,8 @@ void readBookletWatermark(BookletWatermarkSettings &settings, const Ticket &prin
 void writeBookletWatermark(const BookletWatermarkSettings &settings, Ticket &printSettings,
                            const Device &device)
 {
-    if (canLayOutBooklets(device)) {
+    const bool isBooklet = boolean(entry(printSettings, "BookletLayout")).value_or(false);
+    if (canLayOutBooklets(device) || isBooklet) {
         writeBooklet(settings.booklet, printSettings);
         if (settings.booklet.isOn())
             writeDuplex(printSettings);

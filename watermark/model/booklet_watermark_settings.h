@@ -42,7 +42,7 @@ bool canLayOutBooklets(const Device &device);
 // letters or small, is the chosen one.
 void readBookletWatermark(BookletWatermarkSettings &settings, const Ticket &printSettings,
                           const Device &device, const QStringList &names);
-// Of a device that cannot lay out booklets, the watermark alone.
+// Of a device that cannot lay out booklets, the watermark alone, unless the ticket has one.
 void writeBookletWatermark(const BookletWatermarkSettings &settings, Ticket &printSettings,
                            const Device &device);
 

@@ -11,6 +11,8 @@
 #include "values.h"
 #include "watermark_store.h"
 
+#include <QSet>
+
 #include <cstdio>
 
 namespace kelvo {
@@ -28,7 +30,7 @@ struct ConvertedFont
 {
     QString path;
     QString stamp;
-    qint64 programSize = 0; // bytes; 0: it cannot be one
+    qint64 programSize = 0; // bytes
     friend bool operator==(const ConvertedFont &, const ConvertedFont &) = default;
 };
 
@@ -67,7 +69,25 @@ bool isStoredAlready(const QString &fontName)
 {
     const auto font = convertedFont(fontName);
     return font && stampText(font->path) == font->stamp
-        && storedFontSize(kWatermarksFile, fontName).value_or(0) == font->programSize;
+        && storedFontSize(kWatermarksFile, fontName) == font->programSize;
+}
+
+// What does not go along with a job is tried and said once, not with each write. GUI thread.
+QSet<QString> &refusedFonts()
+{
+    static QSet<QString> fonts;
+    return fonts;
+}
+
+bool isRefused(const QString &fontName)
+{
+    return refusedFonts().contains(fontName);
+}
+
+void refuse(const QString &fontName, const Error &error)
+{
+    refusedFonts().insert(fontName);
+    printLine(stderr, error.text());
 }
 
 // ---- converting
@@ -75,9 +95,7 @@ bool isStoredAlready(const QString &fontName)
 Error notTrueType(const QString &path)
 {
     return {Error::Code::Unsupported, path,
-            translate("Fonts",
-                      "this font has no TrueType outlines and does not go along with the job; "
-                      "the device prints the watermark in a font of its own")};
+            translate("Fonts", "this font has no TrueType outlines")};
 }
 
 Result<QByteArray> sfntOf(const drawing::Font &font)
@@ -91,26 +109,34 @@ Result<QByteArray> sfntOf(const drawing::Font &font)
     return file;
 }
 
-// What the font is as a program; empty, and said, where it cannot be one.
-QByteArray programOf(const drawing::Font &font, const QString &fontName)
+Error doesNotGoAlong(const QString &fontName, const QString &reason)
 {
-    const Result<QByteArray> sfnt = sfntOf(font);
-    QByteArray program;
-    const Result<void> converted =
-        sfnt ? convertTTFtoPS42(sfnt.value(), fontName, program) : sfnt.error();
-    if (!converted)
-        printLine(stderr, converted.error().text());
-    return program;
+    return {Error::Code::NotFound, fontName,
+            joined({reason,
+                    translate("Fonts", "the device prints the watermark in a font of its own")})};
 }
 
-std::optional<drawing::Font> fontNamed(const QString &name)
+// The font in the store, and what tells it again.
+Result<void> convertAndStore(const QString &fontName)
 {
     const Result<const drawing::Library *> library = drawing::library();
-    if (!library) {
-        printLine(stderr, library.error().text());
-        return std::nullopt;
-    }
-    return library.value()->findFont(name);
+    if (!library)
+        return library.error();
+    const std::optional<drawing::Font> font = library.value()->findFont(fontName);
+    if (!font)
+        return doesNotGoAlong(fontName, translate("Fonts", "this font is not installed"));
+    const QString stamp = stampText(font->path);
+    const Result<QByteArray> sfnt = sfntOf(*font);
+    if (!sfnt)
+        return doesNotGoAlong(fontName, sfnt.error().detail);
+    QByteArray program;
+    const Result<void> converted = convertTTFtoPS42(sfnt.value(), fontName, program);
+    storeFontData(kWatermarksFile, fontName, program); // all that there is of it
+    if (storedFontSize(kWatermarksFile, fontName) != program.size())
+        return doesNotGoAlong(fontName,
+                              translate("Fonts", "the watermarks’ file cannot take this font"));
+    rememberConverted(fontName, {font->path, stamp, program.size()});
+    return converted;
 }
 
 } // namespace
@@ -121,17 +147,10 @@ void convertFont(const QString &watermarkName)
     if (!loadWatermarkData(kWatermarksFile, watermarkName, &watermark) || !*watermark.textString)
         return;
     const QString fontName = textOf(watermark.fontName);
-    if (fontName.isEmpty() || isStoredAlready(fontName))
+    if (fontName.isEmpty() || isStoredAlready(fontName) || isRefused(fontName))
         return;
-    const std::optional<drawing::Font> font = fontNamed(fontName);
-    if (!font)
-        return;
-    ConvertedFont converted{font->path, stampText(font->path)};
-    const QByteArray program = programOf(*font, fontName);
-    if (!program.isEmpty())
-        storeFontData(kWatermarksFile, fontName, program);
-    converted.programSize = program.size();
-    rememberConverted(fontName, converted);
+    if (const Result<void> stored = convertAndStore(fontName); !stored)
+        refuse(fontName, stored.error());
 }
 
 } // namespace kelvo

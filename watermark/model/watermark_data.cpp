@@ -1,5 +1,6 @@
 #include "watermark_data.h"
 
+#include <cmath>
 #include <iterator>
 
 namespace kelvo {
@@ -49,6 +50,13 @@ struct Fields
     std::pair<const char *, double *> doubles[2];
     std::pair<const char *, std::int32_t *> integers[5];
 };
+
+// A real loses its fraction.
+std::optional<std::int32_t> wholeNumber(const Dictionary &dictionary, const QString &key)
+{
+    const std::optional<double> number = real(dictionary, key);
+    return number ? integer32(QVariant(std::trunc(*number))) : std::nullopt;
+}
 
 } // namespace
 
@@ -120,7 +128,7 @@ void takeDictionary(_WatermarkData &watermark, const Dictionary &dictionary)
     for (const auto &[key, value] : fields.doubles)
         *value = real(dictionary, QLatin1String(key)).value_or(*value);
     for (const auto &[key, value] : fields.integers)
-        *value = integer32(dictionary, QLatin1String(key)).value_or(*value);
+        *value = wholeNumber(dictionary, QLatin1String(key)).value_or(*value);
 }
 
 } // namespace kelvo

@@ -32,7 +32,7 @@ void PopulateWatermarkMenuFromMapAndHistory(const Device &device, Menu &menu, co
     menu.items.insert(menu.items.begin() + !menu.items.empty(), names.begin(), names.end());
 }
 
-void markWatermarkMenu(Menu &menu, const BookletWatermarkSettings &settings)
+void MarkWatermarkMenu(Menu &menu, const BookletWatermarkSettings &settings)
 {
     const bool hasOne = !settings.watermark.isEmpty();
     for (MenuItem &item : menu.items) {

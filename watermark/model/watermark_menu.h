@@ -25,7 +25,7 @@ void PopulateWatermarkMenuFromMapAndHistory(const Device &device, Menu &menu,
                                             const SettingMap *map);
 
 // Enables what can be done with the chosen watermark, and checks it and its options.
-void markWatermarkMenu(Menu &menu, const BookletWatermarkSettings &settings);
+void MarkWatermarkMenu(Menu &menu, const BookletWatermarkSettings &settings);
 
 // What an item of the options' submenu does; false for any other command.
 bool applyWatermarkOption(BookletWatermarkSettings &settings, OSType command);

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QHash>
 
+#include <algorithm>
 #include <cstdio>
 #include <mutex>
 
@@ -144,10 +145,19 @@ Result<QStringList> changeList(const QString &fileName, const ListChange &change
     return names;
 }
 
-void insertOnce(QStringList &names, qsizetype at, const QString &name)
+// In place of one that a ticket could take for it.
+void insertOnce(Dictionary &store, QStringList &names, qsizetype at, const QString &name)
 {
-    if (!names.contains(name))
+    const auto same = std::ranges::find_if(names, [&name](const QString &other) {
+        return other.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    if (same == names.end()) {
         names.insert(at, name);
+        return;
+    }
+    if (*same != name)
+        store.remove(*same);
+    *same = name;
 }
 
 } // namespace
@@ -261,7 +271,7 @@ OSStatus CreateDefaultWatermarks(CFBundleRef bundle)
             watermark.xPos = row.xPos;
             watermark.yPos = row.yPos;
             if (putRecord(store, watermark))
-                insertOnce(names, names.size(), watermarkName(watermark));
+                insertOnce(store, names, names.size(), watermarkName(watermark));
         }
         return true;
     });
@@ -275,6 +285,11 @@ QStringList loadOrCreateWatermarks(CFBundleRef bundle)
         CreateDefaultWatermarks(bundle);
         loadWatermarkList(kWatermarksFile, &names);
     }
+    return withoutEmptyFirst(names);
+}
+
+QStringList withoutEmptyFirst(QStringList names)
+{
     _WatermarkData first;
     if (!names.isEmpty()) {
         loadWatermarkData(kWatermarksFile, names.first(), &first);
@@ -287,7 +302,7 @@ QStringList loadOrCreateWatermarks(CFBundleRef bundle)
 Result<QStringList> addWatermark(const QString &fileName, const _WatermarkData &watermark)
 {
     return changeList(fileName, [&](Dictionary &store, QStringList &names) {
-        insertOnce(names, names.size(), watermarkName(watermark));
+        insertOnce(store, names, names.size(), watermarkName(watermark));
         return putRecord(store, watermark);
     });
 }
@@ -300,7 +315,7 @@ Result<QStringList> replaceWatermark(const QString &fileName, const QString &old
         store.remove(oldName);
         const qsizetype at = names.indexOf(oldName);
         names.removeAll(oldName);
-        insertOnce(names, at < 0 ? names.size() : at, name);
+        insertOnce(store, names, at < 0 ? names.size() : at, name);
         return putRecord(store, watermark);
     });
 }

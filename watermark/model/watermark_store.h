@@ -51,12 +51,14 @@ std::optional<qint64> storedFontSize(const QString &fileName, const QString &fon
 // The watermarks that a new user is given, where there is no list yet; 0.
 OSStatus CreateDefaultWatermarks(CFBundleRef bundle);
 
-// The stored names; the defaults are made where there is no list. A first one whose record
-// has neither text nor file is left out.
+// The stored names; the defaults are made where there is no list. As withoutEmptyFirst().
 QStringList loadOrCreateWatermarks(CFBundleRef bundle);
+// A first name whose record has neither text nor file is left out; it stays in the file.
+QStringList withoutEmptyFirst(QStringList names);
 
 // Record and list in one change, so that several dialogs lose nothing of one another's. The
-// answer is the list as it is stored then; the error has been said.
+// answer is the list as it is stored then; the error has been said. A ticket finds a watermark
+// by its name, capital letters or small: another one that it could find goes.
 Result<QStringList> addWatermark(const QString &fileName, const _WatermarkData &watermark);
 // Also where the old one has gone meanwhile: it is added then.
 Result<QStringList> replaceWatermark(const QString &fileName, const QString &oldName,

@@ -85,7 +85,8 @@ void showParams(const BookletDialog &dialog)
 void takeParams(BookletDialog &dialog)
 {
     _BookletCreationParams &params = dialog.params;
-    if (dialog.fold && dialog.fold->value() != positionOf(folds, params.fold))
+    if (dialog.fold && dialog.fold->value() > 0
+        && dialog.fold->value() != positionOf(folds, params.fold))
         params.fold = folds[dialog.fold->value() - 1];
     params.booklet = modes[std::max(1, dialog.mode->value()) - 1];
     params.pageBorders = dialog.outlines->isChecked() ? kPageBordersDrawn : kPageBordersNone;

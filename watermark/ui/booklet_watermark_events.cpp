@@ -41,8 +41,15 @@ void editBookletOptions(BookletWatermarkContext &panel)
 void selectWatermark(BookletWatermarkContext &panel, const QString &name)
 {
     panel.settings.watermark = name;
-    panel.settings.absentWatermark.clear();
     showBookletWatermark(panel);
+}
+
+void sayNotStored(const BookletWatermarkContext &panel, const Error &error)
+{
+    CFUserNotificationDisplayNotice(
+        NoticeLevel::Stop, panel.device.text("Watermark Not Saved Header"),
+        formatted(panel.device.text("Watermark Not Saved Message"), {error.text()}), {},
+        panel.content);
 }
 
 // What the editor shows a new one in: that of the last one, and at first the user's own.
@@ -71,21 +78,15 @@ editAndStore(BookletWatermarkContext &panel, _WatermarkData &watermark,
         Result<QStringList> names = store(watermark);
         if (names)
             return names.value();
-        CFUserNotificationDisplayNotice(
-            NoticeLevel::Stop, panel.device.text("Watermark Not Saved Header"),
-            formatted(panel.device.text("Watermark Not Saved Message"), {names.error().text()}), {},
-            panel.content);
+        sayNotStored(panel, names.error());
     }
     return std::nullopt;
 }
 
 void takeNames(BookletWatermarkContext &panel, const QStringList &names, const QString &chosen)
 {
-    listOfWatermarks = names;
-    panel.settings.watermark = chosen;
-    panel.settings.absentWatermark.clear();
-    fillWatermarkMenu(panel);
-    showBookletWatermark(panel);
+    takeWatermarks(panel, withoutEmptyFirst(names));
+    selectWatermark(panel, chosen);
 }
 
 void makeWatermark(BookletWatermarkContext &panel)
@@ -102,6 +103,7 @@ void makeWatermark(BookletWatermarkContext &panel)
 void editWatermark(BookletWatermarkContext &panel)
 {
     const QString name = panel.settings.watermark;
+    loadWatermarks(panel);
     _WatermarkData watermark;
     if (name.isEmpty() || !loadWatermarkData(kWatermarksFile, name, &watermark))
         return;
@@ -129,10 +131,7 @@ void removeWatermark(BookletWatermarkContext &panel)
     if (names)
         takeNames(panel, names.value(), {});
     else
-        CFUserNotificationDisplayNotice(
-            NoticeLevel::Stop, panel.device.text("Watermark Not Saved Header"),
-            formatted(panel.device.text("Watermark Not Saved Message"), {names.error().text()}), {},
-            panel.content);
+        sayNotStored(panel, names.error());
 }
 
 OSStatus takeCommand(BookletWatermarkContext &panel, OSType command, std::int32_t reference)

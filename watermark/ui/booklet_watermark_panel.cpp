@@ -30,17 +30,12 @@ std::optional<QSizeF> paperOf(const Ticket &pageFormat)
 
 } // namespace
 
-void BookletWatermarkContext::begin(const Ticket &)
-{
-    // Another dialog may have changed the store; it is read when names are needed.
-    listOfWatermarks.clear();
-}
-
 OSStatus BookletWatermarkContext::read(Ticket &printSettings, const Ticket &pageFormat)
 {
-    if (listOfWatermarks.isEmpty()
-        && !valueIn(printSettings, ticketKey("watermark.Watermark")).isNull())
-        listOfWatermarks = loadOrCreateWatermarks(bundle);
+    // Another dialog may have changed the store. Nothing is read where no name is needed: the
+    // first frame waits for this.
+    if (content || !valueIn(printSettings, ticketKey("watermark.Watermark")).isNull())
+        loadWatermarks(*this);
     readBookletWatermark(settings, printSettings, device, listOfWatermarks);
     const std::optional<QSizeF> found = paperOf(pageFormat);
     paper = found.value_or(QSizeF());
@@ -48,8 +43,13 @@ OSStatus BookletWatermarkContext::read(Ticket &printSettings, const Ticket &page
     return found ? noErr : kPMKeyNotFound;
 }
 
-OSStatus BookletWatermarkContext::write(Ticket &printSettings, const Ticket &)
+OSStatus BookletWatermarkContext::write(Ticket &printSettings, const Ticket &pageFormat)
 {
+    // The dialog's own controls change the paper without a word to the panels.
+    if (const QSizeF now = paperOf(pageFormat).value_or(paper); now != paper) {
+        paper = now;
+        renderWatermark(*this);
+    }
     writeBookletWatermark(settings, printSettings, device);
     if (!settings.watermark.isEmpty())
         convertFont(settings.watermark);
@@ -68,8 +68,7 @@ std::optional<std::vector<SummaryLine>> BookletWatermarkContext::words() const
 
 OSStatus BookletWatermarkContext::build()
 {
-    if (listOfWatermarks.isEmpty())
-        listOfWatermarks = loadOrCreateWatermarks(bundle);
+    loadWatermarks(*this);
     const OSStatus status = buildContent(
         "BookletWatermarkPanel", "BookletWatermark",
         [this](NeededControls &needed) { controls = findBookletWatermarkControls(needed); },

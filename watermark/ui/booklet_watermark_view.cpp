@@ -68,6 +68,14 @@ void showWatermark(const BookletWatermarkContext &panel)
     panel.controls.watermarkHint->setText(watermarkHint(settings, panel.device));
 }
 
+void fillWatermarkMenu(BookletWatermarkContext &panel)
+{
+    Menu menu;
+    PopulateWatermarkMenuFromMapAndHistory(panel.device, menu, WatermarkMap);
+    MarkWatermarkMenu(menu, panel.settings);
+    panel.controls.watermark->setMenu(std::move(menu));
+}
+
 // What is not looked at needs no drawing, and no library that draws.
 class DrawWhenSeen : public QObject
 {
@@ -112,26 +120,30 @@ void fillBookletWatermarkControls(BookletWatermarkContext &panel)
     PopulatePopupButtonFromMap(panel.device, controls.borders, PageBordersMap, kJobContextJob,
                                kNoCommand);
     const bool canLayOut = canLayOutBooklets(panel.device);
-    setEnabledWithLabel(controls.booklet, canLayOut);
-    controls.options->setEnabled(canLayOut);
     controls.bookletHint->setText(
         panel.device.text(canLayOut ? "Booklet Layout Hint" : "Booklet Layout Missing"));
     makeHintText(controls.bookletHint);
     makeHintText(controls.watermarkHint);
     fillWatermarkMenu(panel);
     controls.watermark->setMenuUpdate(
-        [&panel](Menu &menu) { markWatermarkMenu(menu, panel.settings); });
+        [&panel](Menu &menu) { MarkWatermarkMenu(menu, panel.settings); });
     tellTicketPlaces(controls);
     panel.preview = new WatermarkPreview(controls.preview);
     new DrawWhenSeen(panel); // the view's
 }
 
-void fillWatermarkMenu(BookletWatermarkContext &panel)
+void loadWatermarks(BookletWatermarkContext &panel)
 {
-    Menu menu;
-    PopulateWatermarkMenuFromMapAndHistory(panel.device, menu, WatermarkMap);
-    markWatermarkMenu(menu, panel.settings);
-    panel.controls.watermark->setMenu(std::move(menu));
+    const QStringList names = loadOrCreateWatermarks(panel.bundle);
+    if (names != listOfWatermarks)
+        takeWatermarks(panel, names);
+}
+
+void takeWatermarks(BookletWatermarkContext &panel, const QStringList &names)
+{
+    listOfWatermarks = names;
+    if (panel.content)
+        fillWatermarkMenu(panel);
 }
 
 void showBookletWatermark(BookletWatermarkContext &panel)
@@ -139,9 +151,13 @@ void showBookletWatermark(BookletWatermarkContext &panel)
     if (!panel.content)
         return;
     const BookletSettings &booklet = panel.settings.booklet;
+    // What finishing has turned on can be turned off here on any device.
+    const bool isOffered = canLayOutBooklets(panel.device) || booklet.isOn();
+    setEnabledWithLabel(panel.controls.booklet, isOffered);
+    panel.controls.options->setEnabled(isOffered);
     showChoice(panel.bundle, panel.controls.booklet, booklet.layout);
     showChoice(panel.bundle, panel.controls.borders, booklet.pageBorders);
-    setEnabledWithLabel(panel.controls.borders, booklet.isOn() && canLayOutBooklets(panel.device));
+    setEnabledWithLabel(panel.controls.borders, booklet.isOn());
     showWatermark(panel);
     renderWatermark(panel);
 }
@@ -156,7 +172,11 @@ void renderWatermark(BookletWatermarkContext &panel)
     watermark.isText = *watermark.textString != '\0';
     watermark.paperWidth = panel.paper.width();
     watermark.paperHeight = panel.paper.height();
-    panel.preview->show(watermark, true);
+    _WatermarkData before = panel.preview->shown();
+    before.xPos = watermark.xPos; // written with each drawing
+    before.yPos = watermark.yPos;
+    panel.preview->renderWatermarkIfNecessary(watermark,
+                                              asDictionary(before) != asDictionary(watermark));
 }
 
 } // namespace kelvo

@@ -38,7 +38,6 @@ struct BookletWatermarkContext final : PanelContext
     {
     }
 
-    void begin(const Ticket &printSettings) override;
     OSStatus read(Ticket &printSettings, const Ticket &pageFormat) override;
     OSStatus write(Ticket &printSettings, const Ticket &pageFormat) override;
     std::optional<std::vector<SummaryLine>> words() const override;
@@ -56,8 +55,9 @@ void fillBookletWatermarkControls(BookletWatermarkContext &panel);
 // From the context to the controls; nothing happens before they are built.
 void showBookletWatermark(BookletWatermarkContext &panel);
 
-// The menu with the names as they are now.
-void fillWatermarkMenu(BookletWatermarkContext &panel);
+// The user's list as it is stored now, and the menu with it.
+void loadWatermarks(BookletWatermarkContext &panel);
+void takeWatermarks(BookletWatermarkContext &panel, const QStringList &names);
 // Draws the chosen watermark, once somebody sees it.
 void renderWatermark(BookletWatermarkContext &panel);
 

@@ -166,7 +166,7 @@ void WatermarkEditor::changeTo(const _WatermarkData &watermark, bool isForced)
     if (isOtherFont)
         showWatermarkFont(m_controls, m_device, watermark);
     m_preview->setPictureOpacity(m_editing.isCoverImage ? watermark.density / 100.0 : 1);
-    m_preview->show(edited(watermark), isForced);
+    m_preview->renderWatermarkIfNecessary(edited(watermark), isForced);
     m_watermark.xPos = m_preview->shown().xPos;
     m_watermark.yPos = m_preview->shown().yPos;
     sync();
@@ -383,7 +383,8 @@ bool WatermarkEditor::mayReplace(const QString &name)
 {
     QStringList names;
     loadWatermarkList(m_editing.fileName, &names);
-    if (name == m_nameBefore || !names.contains(name))
+    names.removeAll(m_nameBefore);
+    if (name == m_nameBefore || !names.contains(name, Qt::CaseInsensitive))
         return true;
     return CFUserNotificationDisplayAlert(
                NoticeLevel::Caution, text("Watermark Replace Header").arg(name),

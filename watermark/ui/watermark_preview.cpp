@@ -38,7 +38,7 @@ WatermarkPreview::WatermarkPreview(PaperView *view)
     });
 }
 
-void WatermarkPreview::show(const _WatermarkData &watermark, bool isForced)
+void WatermarkPreview::renderWatermarkIfNecessary(const _WatermarkData &watermark, bool isForced)
 {
     const _WatermarkData before = std::exchange(m_shown, watermark);
     const QSizeF paper(watermark.paperWidth, watermark.paperHeight);

@@ -25,7 +25,7 @@ public:
 
     // Shows the record on its paper; drawn again when needsRedraw() asks for it, `isForced` or
     // the paper is another one. A record without text and file is empty paper.
-    void show(const _WatermarkData &watermark, bool isForced = false);
+    void renderWatermarkIfNecessary(const _WatermarkData &watermark, bool isForced = false);
     // The record that was shown last, with where its text came to lie.
     const _WatermarkData &shown() const { return m_shown; }
 
@@ -38,7 +38,7 @@ public:
     PictureState pictureState() const { return m_pictureState; }
     const ImportedPicture &picture() const { return m_picture; }     // null unless it is Read
     const Error &pictureProblem() const { return m_pictureProblem; } // when it is Unreadable
-    // Reads the file again with the next show(), where it may have changed.
+    // Reads the file again with the next drawing, where it may have changed.
     void forgetPicture() { m_picturePath.clear(); }
 
 signals:

@@ -110,31 +110,15 @@
     </message>
     <message>
         <source>Booklet Finishing:</source>
-        <translation>Booklet finishing:</translation>
+        <translation>Booklet &amp;finishing:</translation>
     </message>
     <message>
-        <source>Booklet Finishing None</source>
-        <translation>N&amp;one</translation>
-    </message>
-    <message>
-        <source>Booklet Fold Button</source>
-        <translation>&amp;Fold</translation>
+        <source>Booklet Finishing</source>
+        <translation>Booklet finishing</translation>
     </message>
     <message>
         <source>Booklet Fold and Staple</source>
-        <translation>Fold and &amp;staple</translation>
-    </message>
-    <message>
-        <source>Booklet Layout Group</source>
-        <translation>Booklet layout:</translation>
-    </message>
-    <message>
-        <source>Booklet Layout None</source>
-        <translation>&amp;None</translation>
-    </message>
-    <message>
-        <source>Booklet Layout Button</source>
-        <translation>&amp;Booklet layout</translation>
+        <translation>Booklet fold and staple</translation>
     </message>
     <message>
         <source>Draw Outlines</source>
