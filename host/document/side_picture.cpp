@@ -2,27 +2,31 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <utility>
+
 namespace kelvo {
 
 namespace {
 
-void paint(QPainter &painter, const PictureLayer &layer)
+// Quarter turns move pixels and blur none.
+PictureLayer upright(PictureLayer layer)
 {
-    // Quarter turns move pixels and blur none.
-    const QImage turned = layer.image.transformed(QTransform().rotate(layer.rotation));
-    const QSize around = layer.rect.size() - turned.size();
-    painter.drawImage(layer.rect.topLeft() + QPoint(around.width() / 2, around.height() / 2),
-                      turned);
+    layer.image = layer.image.transformed(QTransform().rotate(std::exchange(layer.rotation, 0)));
+    return layer;
 }
 
-} // namespace
-
-QImage composedSide(const QSize &pixels, const QList<PictureLayer> &pages,
-                    const QList<OverlayLayer> &overlays)
+void paint(QPainter &painter, const PictureLayer &layer)
 {
-    QImage picture(pixels, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
+    const QSize around = layer.rect.size() - layer.image.size();
+    painter.drawImage(layer.rect.topLeft() + QPoint(around.width() / 2, around.height() / 2),
+                      layer.image);
+}
+
+void paintLayers(QPainter &painter, const QList<PictureLayer> &pages,
+                 const QList<OverlayLayer> &overlays)
+{
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     for (const auto &[layer, place] : overlays) {
         if (place == Overlay::Place::Behind)
             paint(painter, layer);
@@ -36,6 +40,25 @@ QImage composedSide(const QSize &pixels, const QList<PictureLayer> &pages,
                                        ? QPainter::CompositionMode_Multiply
                                        : QPainter::CompositionMode_SourceOver);
         paint(painter, layer);
+    }
+}
+
+} // namespace
+
+QImage composedSide(const QSize &pixels, QList<PictureLayer> pages, QList<OverlayLayer> overlays)
+{
+    std::ranges::transform(pages, pages.begin(), upright);
+    for (OverlayLayer &overlay : overlays)
+        overlay.layer = upright(overlay.layer);
+    QImage picture(pixels, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    // Of more rows at once Qt paints a part on threads of its own, and waits for ever for one
+    // that the system does not give.
+    constexpr int rows = 64;
+    for (int top = 0; top < pixels.height(); top += rows) {
+        painter.setClipRect(0, top, pixels.width(), rows);
+        paintLayers(painter, pages, overlays);
     }
     return picture;
 }

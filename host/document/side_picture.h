@@ -52,7 +52,6 @@ struct OverlayLayer
 // White paper; what lies behind the pages; the pages; then what is blended with them or lies
 // above, in its order. What is blended darkens each color by its own, as inks do. Where
 // something lies behind them, the pages must have no paper of their own.
-QImage composedSide(const QSize &pixels, const QList<PictureLayer> &pages,
-                    const QList<OverlayLayer> &overlays);
+QImage composedSide(const QSize &pixels, QList<PictureLayer> pages, QList<OverlayLayer> overlays);
 
 } // namespace kelvo

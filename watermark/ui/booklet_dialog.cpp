@@ -99,6 +99,8 @@ OSStatus bookletEventHandler(BookletDialog &dialog, const Event &event)
 {
     if (event.kind != EventKind::ControlHit || event.control.signature != kPanelSignature)
         return eventNotHandledErr;
+    // What was typed and not left yet would be shown as it was before.
+    commitTypedValues(dialog.window.get());
     takeParams(dialog);
     showParams(dialog);
     return noErr;

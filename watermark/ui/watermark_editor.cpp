@@ -5,6 +5,7 @@
 #include "dialog_window.h"
 #include "font_menu.h"
 #include "notice.h"
+#include "spin_field.h"
 #include "ticket_values.h"
 #include "tool_tip.h"
 #include "watermark_editor_controls.h"
@@ -217,6 +218,8 @@ OSStatus WatermarkEditor::handle(const Event &event)
 {
     switch (event.kind) {
     case EventKind::ControlHit:
+        // What was typed and not left yet would be shown as it was before.
+        commitTypedValues(m_window.get());
         return take(event.control) ? noErr : eventNotHandledErr;
     case EventKind::Menu: {
         if (event.control != kEditorFontSizes)

@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Booklet Layout:</source>
-        <translation>&amp;Booklet layout:</translation>
+        <translation>Booklet &amp;layout:</translation>
     </message>
     <message>
         <source>Booklet Layout Hint</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Page Borders:</source>
-        <translation>&amp;Page borders:</translation>
+        <translation>Page &amp;borders:</translation>
     </message>
     <message>
         <source>Page Borders</source>
@@ -44,11 +44,11 @@
     </message>
     <message>
         <source>Booklet Options... Title</source>
-        <translation>Booklet &amp;options…</translation>
+        <translation>Booklet optio&amp;ns…</translation>
     </message>
     <message>
         <source>Watermark Title</source>
-        <translation>&amp;Watermark:</translation>
+        <translation>Water&amp;mark:</translation>
     </message>
     <message>
         <source>Watermark Preview</source>

@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>Watermark Picture Unreadable</source>
-        <translation>The picture cannot be read. Choose another one. %1</translation>
+        <translation>The picture cannot be read. %1</translation>
     </message>
     <message>
         <source>Watermark Name Reserved</source>
