@@ -202,7 +202,7 @@ void readJob(benchmark::State &state)
 void describeJob(benchmark::State &state)
 {
     const Job &job = sampleJob();
-    const JobToDescribe toDescribe{&job.printSettings, &job.pageFormat, job.ppd.get(), nullptr, {}};
+    const JobToDescribe toDescribe{&job.printSettings, &job.pageFormat, job.ppd.get(), nullptr};
     JobDescription description;
     for ([[maybe_unused]] auto _ : state)
         KelvoDescribeJob(&toDescribe, &description);
