@@ -121,8 +121,10 @@ void TestDrawOverlay::drawsOnAnyThread()
     pictureFile({10, 10}, Qt::red);
     std::atomic_int drawnOnes = 0;
     {
+        constexpr int many = 4;
         std::vector<std::jthread> threads;
-        for (int count = 0; count < 4; ++count) {
+        threads.reserve(many);
+        for (int count = 0; count < many; ++count) {
             threads.emplace_back([&drawnOnes, count] {
                 drawnOnes += !drawn(count % 2 ? u"Draft"_s : u"logo.png"_s).isEmpty();
             });
