@@ -17,15 +17,6 @@ namespace kelvo {
 
 namespace {
 
-// Without making one.
-QStringList storedNames(JobDescription &description)
-{
-    QStringList names;
-    loadWatermarkList(kWatermarksFile, &names);
-    description.files.push_back(watermarkStore(kWatermarksFile));
-    return names;
-}
-
 QString bookletWords(const BookletSettings &booklet, const Device &device)
 {
     QStringList words{
@@ -86,8 +77,9 @@ QString placeWords(Overlay::Place place, bool firstPageOnly, const Device &devic
                                      : "Watermark Blend in Words");
 }
 
-void describeWatermark(const BookletWatermarkSettings &settings, PanelDescription &panel,
-                       JobDescription &description)
+// With the stamp of the store that the watermark was found in.
+void describeWatermark(const BookletWatermarkSettings &settings, const FileStamp &stamp,
+                       PanelDescription &panel, JobDescription &description)
 {
     const Device &device = panel.job().device;
     QString words;
@@ -95,8 +87,7 @@ void describeWatermark(const BookletWatermarkSettings &settings, PanelDescriptio
         const Overlay overlay{.name = settings.watermark,
                               .place = placeOf(settings.option),
                               .firstPageOnly = settings.pages != kWatermarkOnAllPages,
-                              .version = qHashMulti(0, description.files.back().stamp.inode,
-                                                    description.files.back().stamp.modified)};
+                              .version = qHashMulti(0, stamp.inode, stamp.modified)};
         words = formatted(placeWords(overlay.place, overlay.firstPageOnly, device), {overlay.name});
         description.overlays.push_back(overlay);
     } else if (!settings.absentWatermark.isEmpty()) {
@@ -115,13 +106,19 @@ void describeWatermark(const BookletWatermarkSettings &settings, PanelDescriptio
 void describeBookletWatermark(const DescribedJob &job, JobDescription &description)
 {
     // Most jobs have none, and reading the store takes its time.
-    const bool namesOne = !valueIn(job.printSettings, ticketKey("watermark.Watermark")).isNull();
+    QStringList names;
+    FileStamp stamp;
+    if (!valueIn(job.printSettings, ticketKey("watermark.Watermark")).isNull()) {
+        // Before it is read: a change in between is seen next time.
+        description.files.push_back(watermarkStore(kWatermarksFile));
+        stamp = description.files.back().stamp;
+        loadWatermarkList(kWatermarksFile, &names); // none is made here
+    }
     BookletWatermarkSettings settings;
-    readBookletWatermark(settings, job.printSettings, job.device,
-                         namesOne ? storedNames(description) : QStringList());
+    readBookletWatermark(settings, job.printSettings, job.device, names);
     PanelDescription panel(job, "BookletWatermark", description);
     describeBooklet(settings.booklet, panel, description);
-    describeWatermark(settings, panel, description);
+    describeWatermark(settings, stamp, panel, description);
 }
 
 } // namespace kelvo
