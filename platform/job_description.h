@@ -110,6 +110,15 @@ struct Overlay
     friend bool operator==(const Overlay &, const Overlay &) = default;
 };
 
+// A page that the device makes of the tickets and sends before those of the document.
+struct LeadingPage
+{
+    QString name;       // "Fax cover sheet"
+    QSizeF size;        // points
+    Dictionary content; // for whoever draws it (DrawLeadingPageFunction)
+    friend bool operator==(const LeadingPage &, const LeadingPage &) = default;
+};
+
 struct JobDescription
 {
     std::vector<DescribedSetting> settings; // panel by panel, as a user meets them
@@ -120,6 +129,7 @@ struct JobDescription
     SpecialSheetWords sheetWords;
     std::optional<Imposition> imposition;
     std::vector<Overlay> overlays;
+    std::optional<LeadingPage> leadingPage;
     // What was read beside the tickets. With another stamp, all is to be said anew.
     std::vector<StampedFile> files;
 
@@ -157,5 +167,16 @@ struct OverlayToDraw
 // store does not have it or it cannot be drawn.
 inline constexpr char kDrawOverlayName[] = "KelvoDrawOverlay";
 using DrawOverlayFunction = OSStatus (*)(const OverlayToDraw *overlay, QByteArray *pdf);
+
+struct LeadingPageToDraw
+{
+    QSizeF size;                                 // points
+    Dictionary content;                          // as the description has it
+    const std::atomic_bool *cancelled = nullptr; // null: never
+};
+
+// Exported under this name: a PDF of one page. As of DrawOverlayFunction.
+inline constexpr char kDrawLeadingPageName[] = "KelvoDrawLeadingPage";
+using DrawLeadingPageFunction = OSStatus (*)(const LeadingPageToDraw *page, QByteArray *pdf);
 
 } // namespace kelvo

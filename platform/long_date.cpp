@@ -40,4 +40,15 @@ QTime timeOf(LongDateTime moment)
     return QTime::fromMSecsSinceStartOfDay(static_cast<int>(ofDay) * 1000);
 }
 
+LongDateTime currentLongDate()
+{
+    return longDateFrom(QDateTime::currentDateTime());
+}
+
+LongDateTime nextMomentAt(const QTime &time, LongDateTime now)
+{
+    const LongDateTime today = longDateFrom(dateOf(now), time);
+    return today < now ? today + secondsADay : today;
+}
+
 } // namespace kelvo

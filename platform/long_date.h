@@ -18,4 +18,9 @@ LongDateTime longDateFrom(const QDateTime &local);
 QDate dateOf(LongDateTime moment);
 QTime timeOf(LongDateTime moment); // whole seconds
 
+LongDateTime currentLongDate();
+// `time` of today, or of tomorrow where that is before `now`: a change to or from daylight
+// saving in between moves nothing.
+LongDateTime nextMomentAt(const QTime &time, LongDateTime now);
+
 } // namespace kelvo

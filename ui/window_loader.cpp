@@ -182,9 +182,12 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
     if (!loader.problems().isEmpty())
         return Error{Error::Code::Damaged, path, joined(loader.problems())};
 
-    const auto localized = [bundle](const QString &key) {
-        return key.isEmpty() ? key
-                             : bundle->findString(key, QStringLiteral("Localizable")).value_or(key);
+    const QString table = loaded->property("table").toString();
+    const auto localized = [bundle, table](const QString &key) {
+        if (key.isEmpty())
+            return key;
+        const auto own = table.isEmpty() ? std::nullopt : bundle->findString(key, table);
+        return own ? *own : bundle->findString(key, QStringLiteral("Localizable")).value_or(key);
     };
     for (QWidget *widget : loader.created()) {
         const auto interface = controlInterface(widget);

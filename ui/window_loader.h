@@ -20,6 +20,7 @@ namespace kelvo {
 // Dynamic properties that the loader knows (all notr):
 //   controlID   string   "KPDE 102"; any widget
 //   command     string   four characters, "ok  "; buttons and tab controls
+//   table       string   the window itself: the table that is asked before "Localizable"
 //
 // The widget classes are this library's (PopupButton, MenuButton, RadioGroup,
 // TabControl with its property "titles", SpinField, TimeField, HistoryField,

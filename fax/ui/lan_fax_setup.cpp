@@ -5,14 +5,15 @@
 
 namespace kelvo {
 
-DialogResult RunModalLANFaxSetup(CFBundleRef bundle, Dictionary *options, Array *recipients,
-                                 QWidget *parent)
+DialogResult RunModalLANFaxSetup(const Device &device, Dictionary *options,
+                                 FaxRecipientList *recipients, QWidget *parent)
 {
-    if (bundle && options && recipients) {
+    if (device.bundle && options && recipients) {
         CFUserNotificationDisplayNotice(
             NoticeLevel::Note,
-            localizedText(bundle, QStringLiteral("Fax Setup Not Available Header")),
-            localizedText(bundle, QStringLiteral("Fax Setup Not Available Message")), {}, parent);
+            localizedText(device.bundle, QStringLiteral("Fax Setup Not Available Header")),
+            localizedText(device.bundle, QStringLiteral("Fax Setup Not Available Message")), {},
+            parent);
     }
     return DialogResult::Cancel;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "bundle.h"
+#include "device.h"
+#include "fax_recipient_list.h"
 #include "status.h"
 #include "values.h"
 
@@ -8,10 +9,10 @@ class QWidget;
 
 namespace kelvo {
 
-// Edits the options of a fax and the list of those who get it, both in the form
-// that tickets hold. They change after OK alone. There is no set-up window yet: a
-// notice says so, and the answer is Cancel.
-DialogResult RunModalLANFaxSetup(CFBundleRef bundle, Dictionary *options, Array *recipients,
-                                 QWidget *parent = nullptr);
+// Edits the options of a fax (fax_options.h) and the list of those who get it. After OK both
+// are emptied and filled anew; after Cancel, and where a pointer is null or the window cannot
+// be made, which the user has been told, they are as they were.
+DialogResult RunModalLANFaxSetup(const Device &device, Dictionary *options,
+                                 FaxRecipientList *recipients, QWidget *parent = nullptr);
 
 } // namespace kelvo

@@ -1,6 +1,5 @@
 #include "job_type_setup.h"
 
-#include "delayed_print.h"
 #include "paper_output_settings.h"
 
 namespace kelvo {
@@ -36,13 +35,19 @@ bool lacksPasscode(const PaperOutputSettings &settings)
 JobTypeState jobTypeState(const PaperOutputSettings &settings)
 {
     return {settings.jobType, !settings.passcode.value_or(QString()).isEmpty(),
-            settings.faxRecipients && !settings.faxRecipients->isEmpty()};
+            settings.faxRecipients && settings.faxRecipients->count() > 0};
+}
+
+LongDateTime defaultDelayedPrintTime(LongDateTime now)
+{
+    constexpr LongDateTime oneDay = 86'400; // seconds
+    return now + oneDay;
 }
 
 void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now)
 {
     if (settings.jobType == kJobTypeDelayedPrint && settings.delayedPrintTime < now)
-        settings.delayedPrintTime = delayedPrintTime(timeOf(settings.delayedPrintTime), now);
+        settings.delayedPrintTime = nextMomentAt(timeOf(settings.delayedPrintTime), now);
 }
 
 } // namespace kelvo

@@ -22,6 +22,8 @@ bool lacksPasscode(const PaperOutputSettings &settings);
 
 // What the Print button looks at.
 JobTypeState jobTypeState(const PaperOutputSettings &settings);
+// The time of a delayed print until the user chooses one: a day after `now`.
+LongDateTime defaultDelayedPrintTime(LongDateTime now);
 // At Print: a ticket or preset may be older than its time, and the job waits for the next one.
 void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now);
 

@@ -1,5 +1,6 @@
 #include "paper_output_description.h"
 
+#include "fax_description.h"
 #include "finishing_offset.h"
 #include "paper_output_controls.h"
 #include "paper_output_settings.h"
@@ -57,22 +58,6 @@ void describeSavedJob(const PaperOutputSettings &settings, PanelDescription &pan
         "File Format:", mapText(device, SavedJobFormatMap, saved.fileFormat));
 }
 
-void describeFax(const PaperOutputSettings &settings, PanelDescription &panel)
-{
-    const Device &device = panel.job().device;
-    const qsizetype recipients = settings.faxRecipients ? settings.faxRecipients->size() : 0;
-    panel.add("FaxRecipientList", "Fax Recipients in Words",
-              recipients > 0 ? QString::number(recipients) : QString(), kJobTypeSetupButton);
-    panel.leaveUnspoken("FaxOptions");
-    const Dictionary options = settings.faxOptions.value_or(Dictionary());
-    const bool hasCard =
-        !string(options, QStringLiteral("CreditCard")).value_or(QString()).isEmpty();
-    if (DescribedSetting *line =
-            panel.add("FaxOptions/CreditCard", "Credit Card in Words",
-                      hasCard ? device.text("Passcode Is Set") : QString(), kJobTypeSetupButton))
-        line->isSecret = true;
-}
-
 void describeJobType(const PaperOutputSettings &settings, PanelDescription &panel)
 {
     const Device &device = panel.job().device;
@@ -87,7 +72,9 @@ void describeJobType(const PaperOutputSettings &settings, PanelDescription &pane
     panel.leaveUnspoken("JobType/UseJobName"); // the job's name says it
     describePasscode(settings, panel);
     describeSavedJob(settings, panel);
-    describeFax(settings, panel);
+    describeFax(settings.faxOptions.value_or(Dictionary()),
+                settings.faxRecipients.value_or(FaxRecipientList()),
+                settings.jobType == kJobTypeFax, panel, kJobTypeSetupButton);
 }
 
 // What the stock alone can say of its type, also where its user has given it no name;

@@ -1,8 +1,8 @@
 #include "paper_output_settings.h"
 
 #include "cover_sync.h"
-#include "delayed_print.h"
 #include "finishing_ticket.h"
+#include "job_type_setup.h"
 #include "ppd_choices.h"
 #include "separators.h"
 #include "ticket_values.h"
@@ -265,7 +265,9 @@ void readPaperOutput(PaperOutputSettings &settings, const Ticket &printSettings,
 
     readJobType(settings, printSettings);
     settings.faxOptions = dictionary(entry(printSettings, "FaxOptions"));
-    settings.faxRecipients = array(entry(printSettings, "FaxRecipientList"));
+    settings.faxRecipients.reset();
+    if (const auto recipients = array(entry(printSettings, "FaxRecipientList")))
+        settings.faxRecipients.emplace(*recipients);
     settings.booklet = {};
     readBooklet(settings.booklet, printSettings);
     readDuplex(settings, printSettings, ppd);
@@ -285,7 +287,7 @@ void writePaperOutput(const PaperOutputSettings &settings, Ticket &printSettings
     if (settings.faxOptions)
         setEntry(printSettings, "FaxOptions", *settings.faxOptions);
     if (settings.faxRecipients)
-        setEntry(printSettings, "FaxRecipientList", *settings.faxRecipients);
+        setEntry(printSettings, "FaxRecipientList", settings.faxRecipients->toTicket());
     writeBooklet(settings.booklet, printSettings);
     if (opened)
         writeDuplex(settings, printSettings);

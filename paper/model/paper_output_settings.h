@@ -2,6 +2,7 @@
 
 #include "cover.h"
 #include "device.h"
+#include "fax_recipient_list.h"
 #include "finishing.h"
 #include "job_types.h"
 #include "long_date.h"
@@ -62,7 +63,7 @@ struct PaperOutputSettings
     std::optional<QString> passcode; // none: there is none
     LongDateTime delayedPrintTime = 0;
     std::optional<Dictionary> faxOptions;
-    std::optional<Array> faxRecipients; // one dictionary each, as in the ticket
+    std::optional<FaxRecipientList> faxRecipients;
 
     BookletSettings booklet;
     Finishing finishing;

@@ -1,7 +1,6 @@
 #include "delayed_print_dialog.h"
 
 #include "control.h"
-#include "delayed_print.h"
 #include "dialog_window.h"
 #include "event.h"
 #include "job_type_dialog.h"
@@ -33,7 +32,7 @@ struct _DelayedPrintContext // NOLINT(bugprone-reserved-identifier): the system'
 
 LongDateTime chosenTime(const _DelayedPrintContext &context, LongDateTime now)
 {
-    return delayedPrintTime(context.time->value(), now);
+    return nextMomentAt(context.time->value(), now);
 }
 
 // Says on which day the chosen time is.

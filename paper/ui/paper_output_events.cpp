@@ -152,8 +152,8 @@ void runFaxSetup(_PaperOutputContext &panel)
     if (!panel.settings.faxOptions)
         panel.settings.faxOptions = Dictionary();
     if (!panel.settings.faxRecipients)
-        panel.settings.faxRecipients = Array();
-    RunModalLANFaxSetup(panel.bundle, &*panel.settings.faxOptions, &*panel.settings.faxRecipients,
+        panel.settings.faxRecipients.emplace();
+    RunModalLANFaxSetup(panel.device, &*panel.settings.faxOptions, &*panel.settings.faxRecipients,
                         panel.content);
 }
 

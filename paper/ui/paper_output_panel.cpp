@@ -1,6 +1,5 @@
 #include "paper_output_panel.h"
 
-#include "delayed_print.h"
 #include "job_type_setup.h"
 #include "paper_output_events.h"
 #include "paper_output_summary.h"

@@ -156,8 +156,10 @@ void TestDescribeJob::saysWhatIsSet_data()
          "File format: TIFF, one file per page"});
     row("a fax, whatever is fitted",
         ticketOf({{"JobType", Dictionary{{"JobType", 5}}},
-                  {"FaxRecipientList", Array{Dictionary(), Dictionary()}}}),
-        {"Job type: Fax", "Fax recipients: 2"});
+                  {"FaxRecipientList",
+                   Array{Dictionary{{"FirstName", "Ann"}, {"FaxNumber", "+1 (555) 1"}},
+                         Dictionary{{"FaxNumber", "555-2"}}}}}),
+        {"Job type: Fax", "Fax recipients: Ann +1 (555) 1, 555-2"});
     row("a job type of later days", jobTypeOf({{"JobType", 42}}), {"Job type: 42"});
 
     row("paper by choices", ticketOf({}, {{"MediaColor", "Blue"}, {"MediaType", "Transparency"}}),

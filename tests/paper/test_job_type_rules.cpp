@@ -1,4 +1,3 @@
-#include "delayed_print.h"
 #include "job_type_setup.h"
 #include "passcode.h"
 #include "saved_job.h"
@@ -105,7 +104,7 @@ void TestJobTypeRules::delayedJobsPrintWithinADay()
     QFETCH(QDateTime, now);
     QFETCH(QTime, time);
 
-    const LongDateTime moment = delayedPrintTime(time, longDateFrom(now));
+    const LongDateTime moment = nextMomentAt(time, longDateFrom(now));
 
     QTEST(dateOf(moment), "day");
     QCOMPARE(timeOf(moment), time);

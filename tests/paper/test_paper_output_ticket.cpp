@@ -1,4 +1,3 @@
-#include "delayed_print.h"
 #include "device_session.h"
 #include "paper_output_settings.h"
 #include "separators.h"

@@ -26,6 +26,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>Remove Command</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
         <source>Cancel Command</source>
         <translation>Cancel</translation>
     </message>

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "fax_recipient_list.h"
+
+#include <vector>
+
+namespace kelvo {
+
+inline constexpr int kMaxDialingString = 50; // characters that devices dial
+inline constexpr int kMaxDialingPrefix = 4;
+
+// Whether the number, with what is dialed around it, is longer than that.
+bool isTooLongToDial(const FaxRecipient &recipient, int prefixLength, int creditCardLength);
+
+// Those who are, borrowed, in the list's order.
+std::vector<FaxRecipient *> FindMaxCharacters(const FaxRecipientList &recipients, int prefixLength,
+                                              int creditCardLength);
+
+} // namespace kelvo
