@@ -4,20 +4,18 @@
 
 namespace kelvo {
 
-bool isTooLongToDial(const FaxRecipient &recipient, int prefixLength, int creditCardLength)
+bool isTooLongToDial(const FaxRecipient &recipient, int prefixLength)
 {
     return CopyDialingStringFromFaxNumber(recipient.faxNumber()).size() + prefixLength
-        + creditCardLength
         > kMaxDialingString;
 }
 
-std::vector<FaxRecipient *> FindMaxCharacters(const FaxRecipientList &recipients, int prefixLength,
-                                              int creditCardLength)
+std::vector<FaxRecipient *> FindMaxCharacters(const FaxRecipientList &recipients, int prefixLength)
 {
     std::vector<FaxRecipient *> tooLong;
     for (long i = 0; i < recipients.count(); ++i) {
         FaxRecipient *recipient = recipients.recipientAtIndex(i);
-        if (isTooLongToDial(*recipient, prefixLength, creditCardLength))
+        if (isTooLongToDial(*recipient, prefixLength))
             tooLong.push_back(recipient);
     }
     return tooLong;

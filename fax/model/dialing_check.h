@@ -9,11 +9,10 @@ namespace kelvo {
 inline constexpr int kMaxDialingString = 50; // characters that devices dial
 inline constexpr int kMaxDialingPrefix = 4;
 
-// Whether the number, with what is dialed around it, is longer than that.
-bool isTooLongToDial(const FaxRecipient &recipient, int prefixLength, int creditCardLength);
+// Whether the number is longer than that with the prefix before it.
+bool isTooLongToDial(const FaxRecipient &recipient, int prefixLength);
 
 // Those who are, borrowed, in the list's order.
-std::vector<FaxRecipient *> FindMaxCharacters(const FaxRecipientList &recipients, int prefixLength,
-                                              int creditCardLength);
+std::vector<FaxRecipient *> FindMaxCharacters(const FaxRecipientList &recipients, int prefixLength);
 
 } // namespace kelvo

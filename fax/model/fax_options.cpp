@@ -9,20 +9,6 @@ namespace {
 constexpr std::int64_t defaultSendSpeed = 4; // "G3-Auto"
 constexpr std::int32_t defaultResolution = 2;
 
-std::optional<QString> filled(const Dictionary &options, const QString &key)
-{
-    const std::optional<QString> text = string(options, key);
-    return text && !text->isEmpty() ? text : std::nullopt;
-}
-
-void store(Dictionary &options, const QString &key, const std::optional<QString> &text)
-{
-    if (text)
-        options.insert(key, *text);
-    else
-        options.remove(key);
-}
-
 void storeNotes(Dictionary &options, const FaxControls &controls, const QString &label)
 {
     if (controls.notes.isEmpty()) {
@@ -56,8 +42,9 @@ FaxControls SyncToUI(const Dictionary &options)
     controls.resolution = integer32(options, kFaxResolutionProperty).value_or(defaultResolution);
     if (const auto time = integer64(options, kFaxSendTimeProperty))
         controls.sendTime = timeOf(*time);
-    controls.dialingPrefix = filled(options, kFaxDialingPrefixProperty);
-    controls.creditCard = filled(options, kFaxCreditCardProperty);
+    controls.dialingPrefix = string(options, kFaxDialingPrefixProperty);
+    if (controls.dialingPrefix && controls.dialingPrefix->isEmpty())
+        controls.dialingPrefix.reset();
     controls.hasCoverSheet = boolean(options, kFaxPrintCoverSheetProperty).value_or(false);
     if (controls.hasCoverSheet)
         controls.notes = string(options, kFaxCoverSheetNotesProperty).value_or(QString());
@@ -78,8 +65,11 @@ void SyncFromUI(const FaxControls &controls, Dictionary &options, LongDateTime n
         options.insert(kFaxSendTimeProperty, qint64(nextMomentAt(*controls.sendTime, now)));
     else
         options.remove(kFaxSendTimeProperty);
-    store(options, kFaxDialingPrefixProperty, controls.dialingPrefix);
-    store(options, kFaxCreditCardProperty, controls.creditCard);
+    if (controls.dialingPrefix)
+        options.insert(kFaxDialingPrefixProperty, *controls.dialingPrefix);
+    else
+        options.remove(kFaxDialingPrefixProperty);
+    options.remove(kFaxCreditCardProperty);
     options.insert(kFaxPrintCoverSheetProperty, controls.hasCoverSheet);
     if (controls.hasCoverSheet)
         storeNotes(options, controls, notesLabel);

@@ -16,7 +16,7 @@
 //   Resolution           integer, a value of FaxResolutionMap; absent: 2
 //   SendTime             integer: wall-clock seconds (long_date.h); absent: now
 //   DialingPrefix        string; only while it is dialed
-//   CreditCard           string; dialogs remove it
+//   CreditCard           string; not offered: whoever writes the options removes it
 //   CoverSheet           boolean
 //   CoverSheetNotes      string; stays when the notes are emptied
 //   LocalizedNotesLabel  string; only with notes
@@ -46,7 +46,6 @@ struct FaxControls
     std::int32_t resolution = 2;          // a value of FaxResolutionMap
     std::optional<QTime> sendTime;        // none: now
     std::optional<QString> dialingPrefix; // none: the box is not checked
-    std::optional<QString> creditCard;    // the same
     bool hasCoverSheet = false;
     QString notes;
     bool promptDuplicate = true, promptRemove = true;

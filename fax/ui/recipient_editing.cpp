@@ -43,12 +43,6 @@ bool mayRemove(const RecipientEditing &editing, const std::vector<FaxRecipient *
     return asks(editing, header, message, "Remove Command", "Cancel Command", parent);
 }
 
-void tell(const RecipientEditing &editing)
-{
-    if (editing.recipientsChanged)
-        editing.recipientsChanged();
-}
-
 } // namespace
 
 bool AddRecipient(RecipientEditing &editing, FaxRecipient *recipient, QWidget *parent)
@@ -58,7 +52,6 @@ bool AddRecipient(RecipientEditing &editing, FaxRecipient *recipient, QWidget *p
         return false;
     editing.recipients.append(recipient);
     editing.needsDialingCheck = true;
-    tell(editing);
     return true;
 }
 
@@ -77,7 +70,6 @@ bool RemoveSelectedRecipients(RecipientEditing &editing,
         return false;
     for (FaxRecipient *recipient : selected)
         editing.recipients.remove(recipient);
-    tell(editing);
     return true;
 }
 

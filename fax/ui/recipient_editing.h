@@ -3,21 +3,20 @@
 #include "device.h"
 #include "fax_recipient_list.h"
 
-#include <functional>
 #include <vector>
 
 class QWidget;
 
 namespace kelvo {
 
-// A list of recipients that dialogs change together, and what the user wants to be asked.
+// A list of recipients that dialogs change together, and what the user wants to be asked. Who
+// opens a dialog shows the list anew after it.
 struct RecipientEditing
 {
     Device device;
     FaxRecipientList recipients;
     bool promptDuplicate = true, promptRemove = true;
-    bool needsDialingCheck = true;             // something changed that counts in what is dialed
-    std::function<void()> recipientsChanged{}; // shows the list anew
+    bool needsDialingCheck = true; // something changed that counts in what is dialed
 };
 
 // Adds one, asking first where the same one is in the list already and the user wants to be

@@ -1,0 +1,67 @@
+#include "recipient_rows.h"
+
+#include "device.h"
+#include "dialing_check.h"
+#include "fax_texts.h"
+#include "input_limits.h"
+#include "list_view.h"
+
+#include <QLineEdit>
+
+namespace kelvo {
+
+namespace {
+
+QString cellOf(const FaxRecipient &recipient, int column)
+{
+    switch (column) {
+    case 0:
+        return DisplayNameFromRecipient(&recipient);
+    case 1:
+        return recipient.faxNumber().value_or(QString());
+    default:
+        return recipient.organization().value_or(QString());
+    }
+}
+
+} // namespace
+
+void showRecipients(ListView *list, const Device &device,
+                    const std::vector<FaxRecipient *> &recipients)
+{
+    list->setColumns({{faxText(device.bundle, "Recipient Name Column"), 150},
+                      {faxText(device.bundle, "Recipient Number Column"), 130},
+                      {faxText(device.bundle, "Recipient Organization Column"), 110}},
+                     [&recipients](int row, int column) {
+                         return cellOf(*recipients[static_cast<std::size_t>(row)], column);
+                     });
+    list->reload(static_cast<int>(recipients.size()));
+}
+
+std::vector<FaxRecipient *> selectedOf(const ListView *list,
+                                       const std::vector<FaxRecipient *> &recipients)
+{
+    std::vector<FaxRecipient *> selected;
+    for (const int row : list->selectedRows())
+        selected.push_back(recipients[static_cast<std::size_t>(row)]);
+    return selected;
+}
+
+std::vector<FaxRecipient *> allOf(const FaxRecipientList &recipients)
+{
+    std::vector<FaxRecipient *> all;
+    all.reserve(static_cast<std::size_t>(recipients.count()));
+    for (long i = 0; i < recipients.count(); ++i)
+        all.push_back(recipients.recipientAtIndex(i));
+    return all;
+}
+
+void limitToPrefix(QLineEdit *field)
+{
+    InputLimits limits;
+    limits.maximumLength = kMaxDialingPrefix;
+    limits.allowed = kFaxDialingCharacterSet;
+    setInputLimits(field, limits);
+}
+
+} // namespace kelvo
