@@ -43,6 +43,7 @@ OSStatus KelvoDescribeJob(const JobToDescribe *job, JobDescription *description)
     description->unspoken.clear();
     description->imposition.reset();
     description->overlays.clear();
+    description->leadingPage.reset();
     description->files.clear();
     describe({*job->printSettings, *job->pageFormat, deviceWith(job->bundle, job->ppd)},
              *description);

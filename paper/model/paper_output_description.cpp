@@ -58,7 +58,8 @@ void describeSavedJob(const PaperOutputSettings &settings, PanelDescription &pan
         "File Format:", mapText(device, SavedJobFormatMap, saved.fileFormat));
 }
 
-void describeJobType(const PaperOutputSettings &settings, PanelDescription &panel)
+void describeJobType(const PaperOutputSettings &settings, PanelDescription &panel,
+                     JobDescription &description)
 {
     const Device &device = panel.job().device;
     panel.add("JobType/JobType", "Job Type:", jobTypeWords(device, settings.jobType), kJobTypePopup,
@@ -74,7 +75,7 @@ void describeJobType(const PaperOutputSettings &settings, PanelDescription &pane
     describeSavedJob(settings, panel);
     describeFax(settings.faxOptions.value_or(Dictionary()),
                 settings.faxRecipients.value_or(FaxRecipientList()),
-                settings.jobType == kJobTypeFax, panel, kJobTypeSetupButton);
+                settings.jobType == kJobTypeFax, panel, kJobTypeSetupButton, description);
 }
 
 // What the stock alone can say of its type, also where its user has given it no name;
@@ -197,7 +198,7 @@ void describePaperOutput(const DescribedJob &job, JobDescription &description)
     readPaperOutput(settings, job.printSettings, job.pageFormat, job.device);
 
     PanelDescription panel(job, "PaperOutput", description);
-    describeJobType(settings, panel);
+    describeJobType(settings, panel, description);
     describePaper(settings, panel);
     describeSides(settings, panel);
     panel.addChoice("KVColorMode", kOutputColorPopup);

@@ -150,10 +150,6 @@
         <translation>Mailbox:</translation>
     </message>
     <message>
-        <source>Fax Recipients in Words</source>
-        <translation>Fax recipients:</translation>
-    </message>
-    <message>
         <source>Credit Card in Words</source>
         <translation>Credit card:</translation>
     </message>

@@ -263,5 +263,33 @@
         <source>Prompt Remove Recipient</source>
         <translation>recipients are &amp;removed</translation>
     </message>
+    <message>
+        <source>Nameless in Words</source>
+        <translation>(no name and no number)</translation>
+    </message>
+    <message>
+        <source>And More Recipients</source>
+        <translation>%1 and %2 more</translation>
+    </message>
+    <message>
+        <source>No Recipients in Words</source>
+        <translation>nobody yet; add recipients in the fax settings</translation>
+    </message>
+    <message>
+        <source>Dialing Prefix in Words</source>
+        <translation>Dialing prefix</translation>
+    </message>
+    <message>
+        <source>Cover Sheet in Words</source>
+        <translation>Fax cover sheet</translation>
+    </message>
+    <message>
+        <source>Cover Image in Words</source>
+        <translation>Cover sheet image</translation>
+    </message>
+    <message>
+        <source>Cover Image Absent in Words</source>
+        <translation>“%1” is not among the cover images here</translation>
+    </message>
 </context>
 </TS>

@@ -75,14 +75,6 @@
         <source>No Finishing Devices</source>
         <translation>This device has no finisher.</translation>
     </message>
-    <message>
-        <source>Fax Setup Not Available Header</source>
-        <translation>Fax recipients cannot be entered here</translation>
-    </message>
-    <message>
-        <source>Fax Setup Not Available Message</source>
-        <translation>This version of the Corvane panels cannot edit fax recipients. Recipients that a ticket or preset brings are kept, and the job is sent to them.</translation>
-    </message>
 
     <!-- What print dialogs say of a job -->
     <message>

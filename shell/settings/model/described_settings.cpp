@@ -24,7 +24,12 @@ TicketPlace placeOfChoice(const char *option)
 
 QString labelText(const Device &device, const char *key)
 {
-    QString text = device.text(key).remove(u'&');
+    return labelFrom(device.text(key));
+}
+
+QString labelFrom(QString text)
+{
+    text.remove(u'&');
     if (text.endsWith(u':'))
         text.chop(1);
     return text;
@@ -49,12 +54,19 @@ DescribedSetting *PanelDescription::push(DescribedSetting setting)
 DescribedSetting *PanelDescription::add(const char *name, const char *labelKey,
                                         const QString &words, std::int32_t control, bool isDefault)
 {
+    return addLabelled(name, labelText(m_job.device, labelKey), words, control, isDefault);
+}
+
+DescribedSetting *PanelDescription::addLabelled(const char *name, const QString &label,
+                                                const QString &words, std::int32_t control,
+                                                bool isDefault)
+{
     if (words.isEmpty()) {
         leaveUnspoken(name);
         return nullptr;
     }
     return push({.place = placeNamed(name),
-                 .label = labelText(m_job.device, labelKey),
+                 .label = label,
                  .words = words.simplified(),
                  .control = {0, control},
                  .isDefault = isDefault});

@@ -31,6 +31,9 @@ public:
     // say nothing, and the place is unspoken then. The line may be completed.
     DescribedSetting *add(const char *name, const char *labelKey, const QString &words,
                           std::int32_t control, bool isDefault = false);
+    // The same with the label itself (labelFrom()).
+    DescribedSetting *addLabelled(const char *name, const QString &label, const QString &words,
+                                  std::int32_t control, bool isDefault = false);
     // The choice of a PPD option in the PPD's words: `choice`, else what the ticket says, else
     // the PPD's default. Nothing where the device lacks the option or the choice, or where
     // it is unspoken.
@@ -57,5 +60,6 @@ private:
 
 // The text of a label or an item, which stand on controls too: without mnemonic and colon.
 QString labelText(const Device &device, const char *key);
+QString labelFrom(QString text);
 
 } // namespace kelvo
