@@ -1,5 +1,6 @@
 #include "job_type_setup.h"
 
+#include "fax_options.h"
 #include "paper_output_settings.h"
 
 namespace kelvo {
@@ -48,6 +49,12 @@ void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now)
 {
     if (settings.jobType == kJobTypeDelayedPrint && settings.delayedPrintTime < now)
         settings.delayedPrintTime = nextMomentAt(timeOf(settings.delayedPrintTime), now);
+}
+
+void settleFax(PaperOutputSettings &settings, LongDateTime now)
+{
+    if (settings.jobType == kJobTypeFax && settings.faxOptions)
+        settleSendTime(*settings.faxOptions, now);
 }
 
 } // namespace kelvo

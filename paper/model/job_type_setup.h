@@ -26,5 +26,7 @@ JobTypeState jobTypeState(const PaperOutputSettings &settings);
 LongDateTime defaultDelayedPrintTime(LongDateTime now);
 // At Print: a ticket or preset may be older than its time, and the job waits for the next one.
 void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now);
+// The same for the send time of a fax.
+void settleFax(PaperOutputSettings &settings, LongDateTime now);
 
 } // namespace kelvo

@@ -17,8 +17,10 @@ JobTypeState jobTypeStateOf(PMPDEContext context)
 
 void prepareToPrint(PMPDEContext context)
 {
-    if (auto *panel = panelOf<_PaperOutputContext>(context))
+    if (auto *panel = panelOf<_PaperOutputContext>(context)) {
         settleDelayedPrint(panel->settings, currentLongDate());
+        settleFax(panel->settings, currentLongDate());
+    }
 }
 
 void runFaxSetupFor(PMPDEContext context)
