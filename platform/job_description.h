@@ -32,8 +32,7 @@ struct DescribedSetting
     bool isDefault = false;      // the device does it by itself
     bool isOnlyInTicket = false; // though `place` is a choice: no PPD has one for it
     bool isSecret = false;       // there is something; `words` do not say what
-    // It names what is not there, and `words` end a sentence about that. The panels let go of
-    // it when they write next, so a ticket that they wrote has no such line.
+    // It names what is not there, or lacks what it needs, and `words` end a sentence about that.
     bool isLost = false;
     // Entries of the print settings that hold the same choice, and are read before it: who
     // sets it from outside takes them away, or it would not last.

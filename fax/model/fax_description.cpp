@@ -123,11 +123,13 @@ void describeFax(const Dictionary &options, const FaxRecipientList &recipients, 
                  PanelDescription &panel, std::int32_t control, JobDescription &description)
 {
     const Device &device = panel.job().device;
-    panel.addLabelled("FaxRecipientList", labelOf(device, "Fax Recipients"),
-                      isFax && recipients.count() == 0
-                          ? faxText(device.bundle, "No Recipients in Words")
-                          : wordsOf(recipients, device),
-                      control);
+    const bool isToNobody = isFax && recipients.count() == 0;
+    DescribedSetting *named = panel.addLabelled(
+        "FaxRecipientList", labelOf(device, "Fax Recipients"),
+        isToNobody ? faxText(device.bundle, "No Recipients in Words") : wordsOf(recipients, device),
+        control);
+    if (named)
+        named->isLost = isToNobody;
     panel.leaveUnspoken("FaxOptions");
     if (isFax) {
         describeSending(options, panel, control);

@@ -158,8 +158,32 @@ void TestDescribeJob::saysWhatIsSet_data()
         ticketOf({{"JobType", Dictionary{{"JobType", 5}}},
                   {"FaxRecipientList",
                    Array{Dictionary{{"FirstName", "Ann"}, {"FaxNumber", "+1 (555) 1"}},
-                         Dictionary{{"FaxNumber", "555-2"}}}}}),
-        {"Job type: Fax", "Fax recipients: Ann +1 (555) 1, 555-2"});
+                         Dictionary{{"FaxNumber", "555-2"}}, Dictionary()}}}),
+        {"Job type: Fax", "Fax recipients: Ann +1 (555) 1, 555-2, (no name and no number)"});
+    row("a fax to nobody", jobTypeOf({{"JobType", 5}}),
+        {"Job type: Fax", "Fax recipients: nobody yet; add recipients in the fax settings"});
+    row("a fax as the set-up leaves it",
+        ticketOf({{"JobType", Dictionary{{"JobType", 5}}},
+                  {"FaxRecipientList", Array(23, Dictionary{{"FaxNumber", "1"}})},
+                  {"FaxOptions",
+                   Dictionary{{"ConfirmationSheet", false},
+                              {"SendSpeed", 3},
+                              {"Resolution", 3},
+                              {"SendTime", qint64(3'900'000'000)},
+                              {"DialingPrefix", "9,"},
+                              {"CoverSheet", true},
+                              {"Size", 4},
+                              {"ShowWatermark", true},
+                              {"WatermarkName", "Logo"}}}}),
+        {"Job type: Fax", "Fax recipients: " + QString("1, ").repeated(19) + "1 and 3 more",
+         "Send time: 01/08/2027 21:20", "Confirmation sheet: Do not print a confirmation sheet",
+         "Send speed: G4 (automatic)", "Fax resolution: Ultrafine", "Dialing prefix: 9,",
+         "Fax cover sheet: A4 (210 x 297 mm)",
+         "Cover sheet image: “Logo” is not among the cover images here"});
+    row("recipients of a job that is none",
+        ticketOf({{"FaxRecipientList", Array{Dictionary{{"LastName", "Lee"}}}},
+                  {"FaxOptions", Dictionary{{"Resolution", 4}, {"CoverSheet", true}}}}),
+        {"Fax recipients: Lee"});
     row("a job type of later days", jobTypeOf({{"JobType", 42}}), {"Job type: 42"});
 
     row("paper by choices", ticketOf({}, {{"MediaColor", "Blue"}, {"MediaType", "Transparency"}}),
