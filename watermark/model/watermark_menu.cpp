@@ -6,8 +6,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr OSType optionsCommand = fourCharCode("KWmO");
-
 constexpr bool isPages(std::int32_t value)
 {
     return value == kWatermarkOnAllPages || value == kWatermarkOnPage1;
@@ -15,32 +13,51 @@ constexpr bool isPages(std::int32_t value)
 
 } // namespace
 
-void PopulateWatermarkMenuFromMapAndHistory(const Device &device, Menu &menu, const SettingMap *map)
+void fillMenuWithNames(const Device &device, Menu &menu, const SettingMap *map,
+                       const SettingMap *optionsMap, const QStringList &names)
 {
     menu.items.clear();
     PopulateMenuFromMap(device, menu, map, kJobContextJob, kNoCommand);
-    if (MenuItem *options = findItem(menu, optionsCommand)) {
+    if (MenuItem *options = findItem(menu, kCommandWatermarkOptions)) {
         Menu submenu;
-        PopulateMenuFromMap(device, submenu, WatermarkOptionsMap, kJobContextJob, kNoCommand);
+        PopulateMenuFromMap(device, submenu, optionsMap, kJobContextJob, kNoCommand);
         options->submenu = std::move(submenu.items);
     }
-    std::vector<MenuItem> names;
-    for (const QString &name : listOfWatermarks)
-        names.push_back({.text = name,
+    std::vector<MenuItem> items;
+    for (const QString &name : names)
+        items.push_back({.text = name,
                          .command = kCommandWatermark,
-                         .reference = static_cast<std::int32_t>(names.size())});
-    menu.items.insert(menu.items.begin() + !menu.items.empty(), names.begin(), names.end());
+                         .reference = static_cast<std::int32_t>(items.size())});
+    menu.items.insert(menu.items.begin() + !menu.items.empty(), items.begin(), items.end());
+}
+
+void checkName(Menu &menu, const QString &chosen)
+{
+    for (MenuItem &item : menu.items)
+        item.checked = item.command == kCommandWatermark
+            ? item.text == chosen
+            : item.command == kCommandNoWatermark && chosen.isEmpty();
+}
+
+void enableItems(Menu &menu, std::initializer_list<OSType> commands, bool isEnabled)
+{
+    for (const OSType command : commands) {
+        if (MenuItem *item = findItem(menu, command))
+            item->enabled = isEnabled;
+    }
+}
+
+void PopulateWatermarkMenuFromMapAndHistory(const Device &device, Menu &menu, const SettingMap *map)
+{
+    fillMenuWithNames(device, menu, map, WatermarkOptionsMap, listOfWatermarks);
 }
 
 void MarkWatermarkMenu(Menu &menu, const BookletWatermarkSettings &settings)
 {
-    const bool hasOne = !settings.watermark.isEmpty();
+    checkName(menu, settings.watermark);
+    enableItems(menu, {kCommandEditWatermark, kCommandDeleteWatermark},
+                !settings.watermark.isEmpty());
     for (MenuItem &item : menu.items) {
-        if (item.command == kCommandEditWatermark || item.command == kCommandDeleteWatermark)
-            item.enabled = hasOne;
-        item.checked = item.command == kCommandWatermark
-            ? item.text == settings.watermark
-            : item.command == kCommandNoWatermark && !hasOne;
         for (MenuItem &option : item.submenu)
             option.checked = !option.divider
                 && option.reference

@@ -6,12 +6,29 @@
 
 #include <QStringList>
 
-// The menu of watermarks: none, the user's, how the chosen one is printed, and what can be
+#include <initializer_list>
+
+// Menus of what a store has: none, the user's, how the chosen one is printed, and what can be
 // done with it.
 namespace kelvo {
 
+// ---- of watermarks, and of cover images
+
 inline constexpr OSType kCommandNoWatermark = fourCharCode("KWmX");
 inline constexpr OSType kCommandWatermark = fourCharCode("KWmW"); // reference: index in the list
+inline constexpr OSType kCommandWatermarkOptions = fourCharCode("KWmO"); // has a submenu
+
+// The rows of `map`, with the names after the first one, and those of `optionsMap` in the
+// submenu of the options.
+void fillMenuWithNames(const Device &device, Menu &menu, const SettingMap *map,
+                       const SettingMap *optionsMap, const QStringList &names);
+// Checks the chosen name, or that there is none when it is empty.
+void checkName(Menu &menu, const QString &chosen);
+// Enables what can be done with one.
+void enableItems(Menu &menu, std::initializer_list<OSType> commands, bool isEnabled);
+
+// ---- of watermarks
+
 inline constexpr OSType kCommandNewWatermark = fourCharCode("KWmN");
 inline constexpr OSType kCommandEditWatermark = fourCharCode("KWmE");
 inline constexpr OSType kCommandDeleteWatermark = fourCharCode("KWmD");
@@ -19,8 +36,7 @@ inline constexpr OSType kCommandDeleteWatermark = fourCharCode("KWmD");
 // The user's watermarks, in menu order: one for all panels of the process. GUI thread.
 inline QStringList listOfWatermarks;
 
-// The rows of `map` (WatermarkMap), with the names of the list after the first one, and the
-// options in a submenu.
+// Filled from `map` (WatermarkMap) and the list.
 void PopulateWatermarkMenuFromMapAndHistory(const Device &device, Menu &menu,
                                             const SettingMap *map);
 

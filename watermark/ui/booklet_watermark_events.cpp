@@ -1,15 +1,11 @@
 #include "booklet_watermark_events.h"
 
 #include "booklet_dialog.h"
-#include "notice.h"
 #include "pde_session.h"
 #include "popups.h"
-#include "string_table.h"
-#include "watermark_editor.h"
+#include "stored_watermarks.h"
 #include "watermark_menu.h"
 #include "watermark_store.h"
-
-#include <QLocale>
 
 namespace kelvo {
 
@@ -44,94 +40,33 @@ void selectWatermark(BookletWatermarkContext &panel, const QString &name)
     showBookletWatermark(panel);
 }
 
-void sayNotStored(const BookletWatermarkContext &panel, const Error &error)
+StoredWatermarks storedWatermarks(const BookletWatermarkContext &panel)
 {
-    CFUserNotificationDisplayNotice(
-        NoticeLevel::Stop, panel.device.text("Watermark Not Saved Header"),
-        formatted(panel.device.text("Watermark Not Saved Message"), {error.text()}), {},
-        panel.content);
+    StoredWatermarks stored{
+        .device = panel.device,
+        .editing = {.fileName = kWatermarksFile, .titleKey = QStringLiteral("Watermark Editor")},
+        .paper = panel.paper,
+        .parent = panel.content,
+        .deleteHeader = panel.device.text("Delete Watermark Header"),
+        .deleteMessage = panel.device.text("Delete Watermark Message"),
+        .notSavedHeader = panel.device.text("Watermark Not Saved Header"),
+        .notSavedMessage = panel.device.text("Watermark Not Saved Message")};
+    PMSessionGetFirstPage(GetCurrentPrintSession(), &stored.editing.firstPage);
+    return stored;
 }
 
-// What the editor shows a new one in: that of the last one, and at first the user's own.
-WatermarkUnits &editorUnits()
+void take(BookletWatermarkContext &panel, const std::optional<ChosenWatermark> &chosen)
 {
-    static WatermarkUnits units = QLocale().measurementSystem() == QLocale::MetricSystem
-        ? kWatermarkMillimetres
-        : kWatermarkInches;
-    return units;
+    if (!chosen)
+        return;
+    takeWatermarks(panel, withoutEmptyFirst(chosen->names));
+    selectWatermark(panel, chosen->name);
 }
 
-// Runs the editor until what it made is stored, or nobody wants it any more. The list as it is
-// stored then; none after Cancel.
-std::optional<QStringList>
-editAndStore(BookletWatermarkContext &panel, _WatermarkData &watermark,
-             const std::function<Result<QStringList>(const _WatermarkData &)> &store)
+void editChosenWatermark(BookletWatermarkContext &panel)
 {
-    watermark.paperWidth = panel.paper.width();
-    watermark.paperHeight = panel.paper.height();
-    WatermarkEditing editing{.fileName = kWatermarksFile,
-                             .titleKey = QStringLiteral("Watermark Editor")};
-    PMSessionGetFirstPage(GetCurrentPrintSession(), &editing.firstPage);
-    while (RunModalWatermarkEditor(panel.device, &watermark, editing, panel.content)
-           == DialogResult::OK) {
-        editorUnits() = static_cast<WatermarkUnits>(watermark.units);
-        Result<QStringList> names = store(watermark);
-        if (names)
-            return names.value();
-        sayNotStored(panel, names.error());
-    }
-    return std::nullopt;
-}
-
-void takeNames(BookletWatermarkContext &panel, const QStringList &names, const QString &chosen)
-{
-    takeWatermarks(panel, withoutEmptyFirst(names));
-    selectWatermark(panel, chosen);
-}
-
-void makeWatermark(BookletWatermarkContext &panel)
-{
-    _WatermarkData watermark = newWatermark(editorUnits());
-    watermark.isText = 1;
-    const auto names = editAndStore(panel, watermark, [](const _WatermarkData &made) {
-        return addWatermark(kWatermarksFile, made);
-    });
-    if (names)
-        takeNames(panel, *names, watermarkName(watermark));
-}
-
-void editWatermark(BookletWatermarkContext &panel)
-{
-    const QString name = panel.settings.watermark;
     loadWatermarks(panel);
-    _WatermarkData watermark;
-    if (name.isEmpty() || !loadWatermarkData(kWatermarksFile, name, &watermark))
-        return;
-    watermark.isText = *watermark.textString != '\0';
-    const auto names = editAndStore(panel, watermark, [&name](const _WatermarkData &edited) {
-        return replaceWatermark(kWatermarksFile, name, edited);
-    });
-    if (names)
-        takeNames(panel, *names, watermarkName(watermark));
-}
-
-void removeWatermark(BookletWatermarkContext &panel)
-{
-    const QString name = panel.settings.watermark;
-    if (name.isEmpty())
-        return;
-    constexpr int yes = 1;
-    const int answer = CFUserNotificationDisplayAlert(
-        NoticeLevel::Caution, panel.device.text("Delete Watermark Header"),
-        formatted(panel.device.text("Delete Watermark Message"), {name}),
-        {panel.device.text("Yes Command"), panel.device.text("No Command")}, panel.content);
-    if (answer != yes)
-        return;
-    const Result<QStringList> names = deleteWatermark(kWatermarksFile, name);
-    if (names)
-        takeNames(panel, names.value(), {});
-    else
-        sayNotStored(panel, names.error());
+    take(panel, editWatermark(storedWatermarks(panel), panel.settings.watermark));
 }
 
 OSStatus takeCommand(BookletWatermarkContext &panel, OSType command, std::int32_t reference)
@@ -144,13 +79,13 @@ OSStatus takeCommand(BookletWatermarkContext &panel, OSType command, std::int32_
         selectWatermark(panel, listOfWatermarks.value(reference));
         return noErr;
     case kCommandNewWatermark:
-        makeWatermark(panel);
+        take(panel, makeWatermark(storedWatermarks(panel)));
         return noErr;
     case kCommandEditWatermark:
-        editWatermark(panel);
+        editChosenWatermark(panel);
         return noErr;
     case kCommandDeleteWatermark:
-        removeWatermark(panel);
+        take(panel, removeWatermark(storedWatermarks(panel), panel.settings.watermark));
         return noErr;
     default:
         if (!applyWatermarkOption(panel.settings, command))

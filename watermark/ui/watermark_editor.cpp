@@ -132,7 +132,8 @@ void WatermarkEditor::connectPreview()
 {
     PaperView *view = m_controls.preview;
     m_preview = new WatermarkPreview(view);
-    QObject::connect(m_preview, &WatermarkPreview::pictureChanged, view, [this] { showPicture(); });
+    QObject::connect(&m_preview->picture(), &PictureReading::changed, view,
+                     [this] { showPicture(); });
     QObject::connect(view, &PaperView::dragBegan, view, [this] { m_beforeDrag = m_watermark; });
     QObject::connect(view, &PaperView::dragged, view, [this](const QPointF &by) {
         _WatermarkData moved = m_watermark;
@@ -185,17 +186,17 @@ void WatermarkEditor::showPicture()
 {
     QString name = textOf(m_watermark.filename);
     QString hint = text("Watermark Picture Formats");
-    switch (m_preview->pictureState()) {
+    switch (m_preview->picture().state()) {
     case PictureState::None:
         break;
     case PictureState::Reading:
         hint = text("Watermark Picture Reading");
         break;
     case PictureState::Read:
-        hint = pictureSizeText(m_device, m_preview->picture().naturalSize, m_watermark);
+        hint = pictureSizeText(m_device, m_preview->picture().picture().naturalSize, m_watermark);
         break;
     case PictureState::Unreadable:
-        hint = m_preview->pictureProblem().detail;
+        hint = m_preview->picture().problem().detail;
         break;
     }
     if (name.isEmpty())
@@ -320,7 +321,7 @@ void WatermarkEditor::takePicture(const QString &path)
     _WatermarkData next = m_watermark;
     setText(next.filename, file.fileName());
     setText(next.filePath, file.absoluteFilePath());
-    m_preview->forgetPicture(); // the same file may be another one now
+    m_preview->picture().forget(); // the same file may be another one now
     changeTo(next, true);
 }
 
@@ -337,8 +338,8 @@ bool WatermarkEditor::mayAccept()
     }
     const _WatermarkData watermark = result();
     const QString name = watermarkName(watermark);
-    const WatermarkProblem problem =
-        findProblem(watermark, m_preview->pictureState(), problemOfName(m_editing.fileName, name));
+    const WatermarkProblem problem = findProblem(watermark, m_preview->picture().state(),
+                                                 problemOfName(m_editing.fileName, name));
     if (problem == WatermarkProblem::None)
         return mayReplace(name);
     say(problem);
@@ -362,7 +363,7 @@ void WatermarkEditor::say(WatermarkProblem problem)
         message = text("Watermark Picture Still Read");
         break;
     case WatermarkProblem::PictureUnreadable:
-        message = text("Watermark Picture Unreadable").arg(m_preview->pictureProblem().text());
+        message = text("Watermark Picture Unreadable").arg(m_preview->picture().problem().text());
         break;
     case WatermarkProblem::NameReserved:
         message = text("Watermark Name Reserved").arg(name);

@@ -1,6 +1,7 @@
 #include "watermark_preview.h"
 
 #include "page_drawing.h"
+#include "page_image.h"
 #include "paper_view.h"
 #include "texts.h"
 
@@ -9,14 +10,6 @@
 namespace kelvo {
 
 namespace {
-
-// The same pixels; `bytes` may go.
-QImage imageOf(const QSize &size, const QByteArray &bytes)
-{
-    return QImage(reinterpret_cast<const uchar *>(bytes.constData()), size.width(), size.height(),
-                  QImage::Format_ARGB32_Premultiplied)
-        .copy();
-}
 
 QString picturePathOf(const _WatermarkData &watermark)
 {
@@ -32,6 +25,7 @@ WatermarkPreview::WatermarkPreview(PaperView *view)
 {
     // CreateMemoryConsumer() fails only without memory, and drawing says so then.
     (void)CreateMemoryConsumer(kPreviewCapacity, &m_pdf);
+    connect(&m_picture, &PictureReading::changed, this, [this] { takePicture(); });
     connect(view, &PaperView::pixelsChanged, this, [this] {
         showDrawn();
         drawPageBelow();
@@ -43,7 +37,7 @@ void WatermarkPreview::renderWatermarkIfNecessary(const _WatermarkData &watermar
     const _WatermarkData before = std::exchange(m_shown, watermark);
     const QSizeF paper(watermark.paperWidth, watermark.paperHeight);
     const bool isOther = !m_hasShown || isForced || needsRedraw(before, watermark)
-        || picturePathOf(watermark) != m_picturePath
+        || picturePathOf(watermark) != m_picture.path()
         || paper != QSizeF(before.paperWidth, before.paperHeight);
     if (!isOther) {
         m_shown.xPos = before.xPos;
@@ -52,7 +46,7 @@ void WatermarkPreview::renderWatermarkIfNecessary(const _WatermarkData &watermar
     }
     m_hasShown = true;
     m_view->setPaper(paper);
-    readPicture();
+    m_picture.read(picturePathOf(m_shown));
     draw();
 }
 
@@ -72,48 +66,17 @@ void WatermarkPreview::setPageBelow(const DocumentPage &page)
     tellUnfinished();
 }
 
-void WatermarkPreview::readPicture()
+void WatermarkPreview::takePicture()
 {
-    const QString path = picturePathOf(m_shown);
-    if (path == m_picturePath)
-        return;
-    m_picturePath = path;
-    m_picture = {};
-    m_reading.drop();
-    if (path.isEmpty()) {
-        setPictureState(PictureState::None);
-        return;
-    }
-    const bool isStarted = m_reading.start([this, path](const std::atomic_bool &isUnwanted) {
-        return [this, read = importPicture(path, &isUnwanted)] {
-            if (read)
-                m_picture = read.value();
-            else
-                m_pictureProblem = read.error();
-            setPictureState(read ? PictureState::Read : PictureState::Unreadable);
-            draw();
-        };
-    });
-    if (!isStarted) {
-        m_pictureProblem = {Error::Code::NotReadable, path,
-                            translate("Watermark",
-                                      "the system has no thread to read it on; close programs and "
-                                      "choose it again")};
-    }
-    setPictureState(isStarted ? PictureState::Reading : PictureState::Unreadable);
-}
-
-void WatermarkPreview::setPictureState(PictureState state)
-{
-    m_pictureState = state;
     tellUnfinished();
-    emit pictureChanged();
+    if (m_picture.state() == PictureState::Read || m_picture.state() == PictureState::Unreadable)
+        draw();
 }
 
 void WatermarkPreview::draw()
 {
     const PictureReader readAlready = [this](const QString &path) {
-        return path == m_picturePath ? m_picture : ImportedPicture();
+        return path == m_picture.path() ? m_picture.picture() : ImportedPicture();
     };
     m_drawn =
         drawWatermarkPage(&m_shown, m_view->paper(), WatermarkGround::White, readAlready, m_pdf);
@@ -125,24 +88,14 @@ void WatermarkPreview::showDrawn()
 {
     if (!m_hasShown)
         return;
-    QString note;
-    QImage mark;
-    if (!m_drawn) {
-        note = m_drawn.error().detail;
-    } else if (const QSize pixels = m_view->pixels(); !pixels.isEmpty()) {
-        // The PDF alone: what stands behind it in the buffer means nothing.
-        const auto shown = drawing::showPdf(
-            QByteArray::fromRawData(m_pdf.buffer.data(), qsizetype(m_pdf.position)), pixels, true);
-        if (shown)
-            mark = imageOf(shown.value().size, shown.value().bytes);
-        else
-            note = shown.error().detail;
-    }
-    if (m_pictureState == PictureState::Reading)
+    Result<QImage> mark = m_drawn ? imageOfPage(m_pdf, m_view->pixels()) : m_drawn.error();
+    QString note = mark ? QString() : mark.error().detail;
+    if (m_picture.state() == PictureState::Reading)
         note = translate("Watermark", "Reading the picture…");
-    else if (m_pictureState == PictureState::Unreadable)
+    else if (m_picture.state() == PictureState::Unreadable)
         note = translate("Watermark", "The picture cannot be shown.");
-    m_view->setMark(mark, picturePathOf(m_shown).isEmpty() ? 1 : m_pictureOpacity);
+    m_view->setMark(mark ? mark.value() : QImage(),
+                    picturePathOf(m_shown).isEmpty() ? 1 : m_pictureOpacity);
     m_view->setNote(note);
 }
 
@@ -167,7 +120,7 @@ void WatermarkPreview::drawPageBelow()
 
 void WatermarkPreview::tellUnfinished()
 {
-    m_view->setUnfinished(m_reading.isBusy() || m_drawing.isBusy());
+    m_view->setUnfinished(m_picture.isBusy() || m_drawing.isBusy());
 }
 
 } // namespace kelvo

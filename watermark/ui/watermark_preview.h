@@ -1,12 +1,10 @@
 #pragma once
 
 #include "newest_task.h"
-#include "picture_import.h"
+#include "picture_reading.h"
 #include "print_session.h"
 #include "watermark_drawing.h"
-#include "watermark_editing.h"
 
-#include <QImage>
 #include <QObject>
 
 // A watermark as it looks on its paper.
@@ -34,19 +32,11 @@ public:
     // Below the watermark; without a path white paper.
     void setPageBelow(const DocumentPage &page);
 
-    // Of the picture that the record names.
-    PictureState pictureState() const { return m_pictureState; }
-    const ImportedPicture &picture() const { return m_picture; }     // null unless it is Read
-    const Error &pictureProblem() const { return m_pictureProblem; } // when it is Unreadable
-    // Reads the file again with the next drawing, where it may have changed.
-    void forgetPicture() { m_picturePath.clear(); }
-
-signals:
-    void pictureChanged(); // its state
+    // The one that the record names; forgotten, it is read again with the next drawing.
+    PictureReading &picture() { return m_picture; }
 
 private:
-    void readPicture();
-    void setPictureState(PictureState state);
+    void takePicture();
     void draw();
     void showDrawn();
     void drawPageBelow();
@@ -58,16 +48,12 @@ private:
     Result<void> m_drawn;
     bool m_hasShown = false;
 
-    QString m_picturePath; // of m_picture, or of the one that is being read
-    ImportedPicture m_picture;
-    PictureState m_pictureState = PictureState::None;
-    Error m_pictureProblem{Error::Code::NotFound, {}, {}};
     double m_pictureOpacity = 1;
 
     DocumentPage m_pageBelow;
     QSize m_pagePixels; // what it was asked for
 
-    NewestTask m_reading; // last: they end first
+    PictureReading m_picture; // last: they end first
     NewestTask m_drawing;
 };
 
