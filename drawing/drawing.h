@@ -45,7 +45,8 @@ struct TextStyle
     QString fontName; // as findFont() takes it; the desktop's sans serif where it is unknown
     double size = 12; // points, up to largestText; what is more or less is taken as the nearest
     Color color;
-    double angle = 0; // degrees, counter-clockwise about the origin
+    double angle = 0;    // degrees, counter-clockwise about the origin
+    bool isBold = false; // the bold face of the font's family
 };
 
 // The longest side of a page, in points: 200 inches, what PDF readers take.
@@ -62,6 +63,32 @@ struct Picture
 
 // Takes the next bytes of a PDF; false when they are lost.
 using Writer = std::function<bool(const char *bytes, std::size_t count)>;
+
+// A line of a wrapped text.
+struct TextLine
+{
+    double ascent = 0, descent = 0; // points above and below the baseline, of its tallest font
+    QString missingCharacters;      // that no installed font has, each once; they are left out
+    friend bool operator==(const TextLine &, const TextLine &) = default;
+};
+
+// A text on its way onto a page, line by line. Lines break between words, within a word that
+// alone is too wide, and at the text's own breaks: line and form feeds, carriage returns and
+// the separators of Unicode. A break at the end begins no further line. Only what is asked for
+// is laid out. For one thread at a time.
+class WrappedText
+{
+public:
+    virtual ~WrappedText() = default;
+
+    // The line after the one that it gave last; none after the last. An empty line is as high
+    // as one of the style's font.
+    virtual std::optional<TextLine> nextLine() = 0;
+
+    // Draws that line, with its left end, also of one that runs from right to left, at
+    // `origin`, on the baseline.
+    virtual void drawLine(const QPointF &origin) = 0;
+};
 
 // A page that is being drawn. Lengths are points; x and y count from the lower left
 // corner to the right and up. For one thread at a time.
@@ -82,6 +109,11 @@ public:
     // The text's origin, where its first baseline begins, comes to lie on `origin`. A
     // line break begins another line.
     virtual void drawText(const QString &text, const TextStyle &style, const QPointF &origin) = 0;
+
+    // A text in lines at most `width` points wide, to be drawn before the page is finished. One
+    // character stands on a line also where it is wider. The style's angle is not looked at.
+    virtual std::unique_ptr<WrappedText> wrapText(const QString &text, const TextStyle &style,
+                                                  double width) = 0;
 
     // Ends the page: the writer has had all of a PDF of one page. The last call; NotWritable,
     // with cairo's reason, when something could not be drawn or was lost.

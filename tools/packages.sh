@@ -9,7 +9,7 @@ run_packages="g++ cmake ninja-build ccache pkg-config
 
 # Real partners of the tests, and the formatter.
 check_packages="cups-daemon cups-client dbus-daemon libplist-utils poppler-utils qpdf clang-format python3-minimal strace
-    libfreetype-dev fonts-noto-core"
+    libfreetype-dev fonts-noto-core fonts-droid-fallback"
 
 # The linter and the fuzz targets.
 lint_packages="clang clang-tidy libclang-rt-14-dev"

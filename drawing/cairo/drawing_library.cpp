@@ -1,5 +1,6 @@
 #include "fonts.h"
 #include "library_entry.h"
+#include "line_breaker.h"
 #include "pdf_canvas.h"
 #include "text_layout.h"
 
@@ -76,6 +77,9 @@ public:
         TextLayout(text, seenThrough).draw(m_context, origin.x(), m_size.height() - origin.y());
     }
 
+    std::unique_ptr<WrappedText> wrapText(const QString &text, const TextStyle &style,
+                                          double width) override;
+
     void drawPicture(const Picture &picture, const QRectF &rectangle) override
     {
         if (picture.isNull() || rectangle.isEmpty())
@@ -110,11 +114,45 @@ public:
     }
 
 private:
+    friend class LinesOfPage;
+
     PdfCanvas m_canvas;
     QSizeF m_size;
     double m_opacity = 1;
     cairo_t *m_context; // the canvas's
 };
+
+class LinesOfPage final : public WrappedText
+{
+public:
+    LinesOfPage(PdfPage &page, const QString &text, const TextStyle &style, double width)
+        : m_page(page)
+        , m_color(style.color)
+        , m_lines(text, style, width)
+    {
+    }
+
+    std::optional<TextLine> nextLine() override { return m_lines.next(); }
+
+    void drawLine(const QPointF &origin) override
+    {
+        cairo_t *context = m_page.m_context;
+        cairo_set_source_rgba(context, m_color.red, m_color.green, m_color.blue,
+                              m_color.alpha * m_page.m_opacity);
+        m_lines.draw(context, origin.x(), m_page.m_size.height() - origin.y());
+    }
+
+private:
+    PdfPage &m_page;
+    Color m_color;
+    LineBreaker m_lines;
+};
+
+std::unique_ptr<WrappedText> PdfPage::wrapText(const QString &text, const TextStyle &style,
+                                               double width)
+{
+    return std::make_unique<LinesOfPage>(*this, text, style, width);
+}
 
 class CairoLibrary final : public Library
 {

@@ -1,10 +1,7 @@
 #include "text_layout.h"
 
-#include "fonts.h"
+#include "text_context.h"
 
-#include <pango/pangofc-fontmap.h>
-
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -12,41 +9,10 @@ namespace kelvo::drawing {
 
 namespace {
 
-double points(int units)
-{
-    return units / double(PANGO_SCALE);
-}
-
 // cairo turns from right to down, we from right to up.
 double cairoAngle(double degrees)
 {
     return -degrees * std::numbers::pi / 180;
-}
-
-PangoOwner<PangoFontDescription> fontFor(const TextStyle &style)
-{
-    const FontPattern pattern = findFontPattern(style.fontName);
-    PangoOwner<PangoFontDescription> font(
-        pattern ? pango_fc_font_description_from_pattern(pattern.get(), false)
-                : pango_font_description_from_string("Sans"));
-    // Not a number is taken as the smallest.
-    const double size = std::min(std::max(1.0, style.size), largestText);
-    pango_font_description_set_absolute_size(font.get(), size * PANGO_SCALE);
-    return font;
-}
-
-// Where nothing is moved to suit the pixels of a screen. Each thread has fonts of its own.
-PangoOwner<PangoContext> unhintedContext()
-{
-    PangoOwner<PangoContext> context(
-        pango_font_map_create_context(pango_cairo_font_map_get_default()));
-    cairo_font_options_t *options = cairo_font_options_create();
-    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
-    pango_cairo_context_set_font_options(context.get(), options);
-    cairo_font_options_destroy(options);
-    pango_context_set_round_glyph_positions(context.get(), false);
-    return context;
 }
 
 } // namespace

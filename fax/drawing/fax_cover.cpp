@@ -1,8 +1,128 @@
 #include "fax_cover.h"
 
+#include "page_writing.h"
 #include "watermark_store.h"
 
 namespace kelvo {
+
+namespace {
+
+// Points.
+constexpr double margin = 31;
+constexpr double headroom = 72;      // above the first line, within the margins
+constexpr double gapAfterBlock = 12; // after the sender and the recipients
+constexpr double textSize = 12;
+
+// Red, green and blue of 65,535: nearly black.
+constexpr double shade = 255.0 / 65'535;
+
+drawing::TextStyle bodyStyle()
+{
+    return {{}, textSize, {shade, shade, shade, 1}};
+}
+
+drawing::TextStyle labelStyle()
+{
+    drawing::TextStyle style = bodyStyle();
+    style.isBold = true;
+    return style;
+}
+
+// Of rectangles top() is the lower edge, and bottom() the upper one: y counts up here.
+QRectF within(const QRectF &page)
+{
+    return page.adjusted(margin, margin, -margin, -margin);
+}
+
+void drawBlock(drawing::Page &context, const QRectF &content, Fixed &x, Fixed &y,
+               const QString &label, const QString &text, CoverSheetDrawn &drawn)
+{
+    CoverSheetDrawn block{.isCut = !(content.width() > 0)};
+    const auto render = [&](const QString &words, const drawing::TextStyle &style) {
+        if (!block.isCut)
+            RenderWrappingText(*context.wrapText(words, style, content.width()), content, x, y,
+                               block);
+    };
+    render(label, labelStyle());
+    render(text, bodyStyle());
+    drawn.isCut |= block.isCut;
+    for (const char32_t character : block.missingCharacters.toUcs4()) {
+        const QString missing = QString::fromUcs4(&character, 1);
+        if (!drawn.missingCharacters.contains(missing))
+            drawn.missingCharacters += missing;
+    }
+}
+
+} // namespace
+
+void RenderWrappingText(drawing::WrappedText &layout, const QRectF &rectangle, Fixed &x, Fixed &y,
+                        CoverSheetDrawn &drawn)
+{
+    const Fixed bottom = fixedFrom(rectangle.top());
+    x = fixedFrom(rectangle.left());
+    while (const std::optional<drawing::TextLine> line = layout.nextLine()) {
+        const Fixed baseline = y - fixedFrom(line->ascent);
+        const Fixed below = baseline - fixedFrom(line->descent);
+        if (below < bottom) {
+            drawn.isCut = true;
+            return;
+        }
+        layout.drawLine({pointsFrom(x), pointsFrom(baseline)});
+        drawn.missingCharacters += line->missingCharacters;
+        y = below;
+    }
+}
+
+void DrawFaxCoverSender(drawing::Page &context, const QRectF &content, Fixed &x, Fixed &y,
+                        const QString &label, const QString &text, CoverSheetDrawn &drawn)
+{
+    drawBlock(context, content, x, y, label, text, drawn);
+}
+
+void DrawFaxCoverRecipients(drawing::Page &context, const QRectF &content, Fixed &x, Fixed &y,
+                            const QString &label, const QString &text, CoverSheetDrawn &drawn)
+{
+    drawBlock(context, content, x, y, label, text, drawn);
+}
+
+void DrawFaxCoverNotes(drawing::Page &context, const QRectF &content, Fixed &x, Fixed &y,
+                       const QString &label, const QString &text, CoverSheetDrawn &drawn)
+{
+    drawBlock(context, content, x, y, label, text, drawn);
+}
+
+Result<CoverSheetDrawn> DrawFaxCover(_MemoryConsumer &consumer, const QRectF &page,
+                                     const QString &senderLabel, const QString &senderText,
+                                     const QString &recipientsLabel, const QString &recipientsText,
+                                     const QString &notesLabel, const QString &notesText,
+                                     _WatermarkData *watermark, const PictureReader &pictures)
+{
+    CoverSheetDrawn drawn;
+    const auto draw = [&](const drawing::Library &library, drawing::Page &context) {
+        const QRectF whole(QPointF(), page.size());
+        const QRectF content = within(whole);
+        context.fill({1, 1, 1, 1});
+        Fixed x = fixedFrom(content.left());
+        Fixed y = fixedFrom(content.bottom() - headroom);
+        if (!senderText.isEmpty()) {
+            DrawFaxCoverSender(context, content, x, y, senderLabel, senderText, drawn);
+            y -= fixedFrom(gapAfterBlock);
+        }
+        if (!recipientsText.isEmpty()) {
+            DrawFaxCoverRecipients(context, content, x, y, recipientsLabel, recipientsText, drawn);
+            y -= fixedFrom(gapAfterBlock);
+        }
+        if (!notesText.isEmpty())
+            DrawFaxCoverNotes(context, content, x, y, notesLabel, notesText, drawn);
+        if (watermark) {
+            context.setOpacity(watermark->density / 100.0);
+            DrawWatermark(library, context, whole, watermark, pictures);
+        }
+    };
+    if (const Result<void> written = writePage(page.size(), consumer, draw); !written)
+        return written.error();
+    return drawn;
+}
 
 Result<CoverSheetDrawn> drawCoverSheet(const CoverSheetContent &content,
                                        const PictureReader &pictures, _MemoryConsumer &consumer)
@@ -10,29 +130,9 @@ Result<CoverSheetDrawn> drawCoverSheet(const CoverSheetContent &content,
     _WatermarkData image;
     if (!content.image.isEmpty())
         loadWatermarkData(kFaxImagesFile, content.image, &image);
-    consumer.position = 0;
-    const Result<const drawing::Library *> library = drawing::library();
-    if (!library)
-        return library.error();
-    const auto write = [&consumer](const char *bytes, std::size_t count) {
-        return MemoryConsumerPutBytes(&consumer, bytes, count) == count;
-    };
-    Result<std::unique_ptr<drawing::Page>> begun = library.value()->beginPage(content.size, write);
-    if (!begun)
-        return begun.error();
-    drawing::Page &page = *begun.value();
-    page.fill({1, 1, 1, 1});
-    double y = content.size.height() - 103;
-    for (const QString &text : {content.senderText, content.recipientsText, content.notesText}) {
-        page.drawText(text.left(2000), {}, {31, y});
-        y -= 100;
-    }
-    page.setOpacity(image.density / 100.0);
-    DrawWatermark(*library.value(), page, QRectF(QPointF(), content.size), &image, pictures);
-    const Result<void> finished = page.finish();
-    if (!finished)
-        return finished.error();
-    return CoverSheetDrawn();
+    return DrawFaxCover(consumer, QRectF(QPointF(), content.size), content.senderLabel,
+                        content.senderText, content.recipientsLabel, content.recipientsText,
+                        content.notesLabel, content.notesText, &image, pictures);
 }
 
 } // namespace kelvo

@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QLibrary>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -27,6 +28,12 @@ private slots:
     void measuresWhatIsDrawn_data();
     void measuresWhatIsDrawn();
     void drawsTextThatCanBeRead();
+    void breaksLines_data();
+    void breaksLines();
+    void writesLettersThatCanBeCopied_data();
+    void writesLettersThatCanBeCopied();
+    void tellsWhatNoFontHas();
+    void measuresLines();
     void drawsOnAnyThread();
     void showsPages();
     void showsTheSameOnNothing();
@@ -69,6 +76,42 @@ std::unique_ptr<Poppler::Document> pageWith(const QString &text, const TextStyle
 {
     return Poppler::Document::loadFromData(
         pdfOf(size, [&](Page &page) { page.drawText(text, style, origin); }));
+}
+
+// The lines of a text, each as it is read out of the PDF.
+struct Wrapped
+{
+    QStringList texts;
+    std::vector<TextLine> lines;
+};
+
+Wrapped wrapped(const QString &text, const TextStyle &style, double width)
+{
+    Wrapped result;
+    bool isDone = false;
+    for (std::size_t number = 0; !isDone; ++number) {
+        const QByteArray pdf = pdfOf({2000, 100}, [&](Page &page) {
+            const std::unique_ptr<WrappedText> lines = page.wrapText(text, style, width);
+            for (std::size_t skipped = 0; skipped < number; ++skipped)
+                lines->nextLine();
+            const std::optional<TextLine> line = lines->nextLine();
+            isDone = !line;
+            if (isDone)
+                return;
+            result.lines.push_back(*line);
+            lines->drawLine({20, 50});
+        });
+        if (!isDone)
+            result.texts += Poppler::Document::loadFromData(pdf)->page(0)->text({}).trimmed();
+    }
+    return result;
+}
+
+// Without what says in which direction the next letters run.
+QString withoutDirections(QString text)
+{
+    static const QRegularExpression directions(u"[\u202a-\u202e\u200e\u200f]"_s);
+    return text.remove(directions);
 }
 
 QImage shown(const QByteArray &pdf, const QSize &pixels, bool isOnWhite)
@@ -216,6 +259,96 @@ void TestDrawing::drawsTextThatCanBeRead()
     QVERIFY(here().inkBounds(u" "_s, {}).isNull());
     for (const QSizeF size : {QSizeF(0, 792), QSizeF(612, qQNaN()), QSizeF(612, 14401)})
         QCOMPARE(here().beginPage(size, {}).error().code, Error::Code::OutOfRange);
+}
+
+void TestDrawing::breaksLines_data()
+{
+    const Table<QString, double, QStringList> row{"text", "width", "lines"};
+    row("between words", u"one two three"_s, 50.0, {u"one two"_s, u"three"_s});
+    row("within a word that is too wide", u"a mmmmm"_s, 25.0, {u"a"_s, u"mm"_s, u"mm"_s, u"m"_s});
+    row("a character on each", u"abc"_s, 0.0, {u"a"_s, u"b"_s, u"c"_s});
+    row("no number", u"ab"_s, qQNaN(), {u"a"_s, u"b"_s});
+    row("at each kind of break", u"a\r\nb\rc\nd\fe\vf\u0085g\u2028h\u2029i"_s, 200.0,
+        {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s, u"f"_s, u"g"_s, u"h"_s, u"i"_s});
+    row("with empty ones between", u"\na\n\nb\n"_s, 200.0, {{}, u"a"_s, {}, u"b"_s});
+    row("none of nothing", {}, 200.0, {});
+    row("a tab", u"a\tb"_s, 200.0, {u"a b"_s});
+    row("nothing of control characters", u"a\0b\033c"_s, 200.0, {u"abc"_s});
+    row("two halves of no character", QString(QChar(0xd800)) + QChar(0xd800), 200.0, {u"??"_s});
+    row("signs without blanks", u"日本語のテキスト。"_s, 50.0,
+        {u"日本語の"_s, u"テキス"_s, u"ト。"_s});
+    // Longer than what is laid out at once: 21 of these words fit.
+    const QString word = u"mm "_s;
+    row("in a long paragraph", word.repeated(1500), 500.0,
+        QStringList(71, word.repeated(21).trimmed()) + QStringList(word.repeated(9).trimmed()));
+}
+
+void TestDrawing::breaksLines()
+{
+    QFETCH(QString, text);
+    QFETCH(double, width);
+    QFETCH(QStringList, lines);
+
+    QCOMPARE(wrapped(text, {u"LiberationSans"_s, 12}, width).texts, lines);
+}
+
+// cairo alone makes one word of each mark, and turns the letters of ligatures around.
+void TestDrawing::writesLettersThatCanBeCopied_data()
+{
+    const Table<QString> row{"text"};
+    row("ligatures", u"office, flow \ufb01"_s);
+    row("composed and decomposed", u"\u00e9 e\u0301 q\u0303 x\u030c a\u0301\u0328"_s);
+    row("beyond 16 bits", u"an emoji \U0001f600 here"_s);
+    row("Vietnamese", u"Tiếng Việt Nguyễn"_s);
+    row("Devanagari", u"हिन्दी क्षत्रिय देवनागरी"_s);
+    row("Thai", u"ภาษาไทย ก็ได้"_s);
+    row("Japanese", u"吾輩は猫である。名前はまだ無い。"_s);
+    row("Chinese", u"中文，汉字。"_s);
+    row("Hebrew with points", u"שלום עולם עִבְרִית"_s);
+    row("Arabic", u"السلام عليكم ورحمة الله لا إله إلا"_s);
+    row("Arabic with marks", u"بِسْمِ ٱللّٰهِ ٱلرَّحْمٰنِ ٱلرَّحِيم"_s);
+    row("Persian", u"می\u200cخواهم"_s);
+}
+
+void TestDrawing::writesLettersThatCanBeCopied()
+{
+    QFETCH(QString, text);
+    const Wrapped lines = wrapped(text, {}, 1900);
+    QCOMPARE(lines.texts.size(), 1);
+    QCOMPARE(withoutDirections(lines.texts.first()), text);
+    QCOMPARE(lines.lines.front().missingCharacters, QString());
+}
+
+void TestDrawing::tellsWhatNoFontHas()
+{
+    const Wrapped lines = wrapped(u"a\U000f1234b \ue000\U000f1234\nc\u0001d\ue001"_s, {}, 500);
+    QCOMPARE(lines.texts, QStringList({u"ab"_s, u"cd"_s}));
+    QCOMPARE(lines.lines[0].missingCharacters, u"\U000f1234\ue000"_s);
+    QCOMPARE(lines.lines[1].missingCharacters, u"\ue001"_s);
+    const Wrapped whole = wrapped(u"ab"_s, {}, 500);
+    QCOMPARE(lines.lines[0].ascent, whole.lines[0].ascent); // of no box either
+}
+
+void TestDrawing::measuresLines()
+{
+    // Of 2048 units of that font, in all its lines.
+    const TextLine expected{1854, 434};
+    const TextStyle style{u"LiberationSans"_s, 2048};
+    for (const TextLine &line : wrapped(u"x\n\nÅg\n \n\ue000"_s, style, 5000).lines)
+        QCOMPARE(TextLine(line.ascent, line.descent), expected);
+    const TextLine mixed = wrapped(u"x ก"_s, style, 9000).lines.front();
+    QVERIFY(mixed.ascent > expected.ascent && mixed.descent > expected.descent);
+
+    TextStyle bold{u"LiberationSans"_s, 40};
+    bold.isBold = true;
+    const auto pdf = Poppler::Document::loadFromData(pdfOf({300, 100}, [&](Page &page) {
+        const auto text = page.wrapText(u"H"_s, bold, 200);
+        text->nextLine();
+        text->drawLine({72, 20});
+    }));
+    QCOMPARE(pdf->fonts().first().name().section(u'+', 1), u"LiberationSans-Bold"_s);
+    const auto boxes = pdf->page(0)->textList();
+    QCOMPARE(qRound(boxes.front()->boundingBox().left()), 72);
 }
 
 void TestDrawing::drawsOnAnyThread()

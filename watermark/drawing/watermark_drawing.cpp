@@ -1,5 +1,8 @@
 #include "watermark_drawing.h"
 
+#include "fixed_point.h"
+#include "page_writing.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -15,17 +18,6 @@ Kind kindOf(const _WatermarkData &watermark)
     if (watermark.textString[0] != '\0')
         return Kind::Text;
     return watermark.filename[0] != '\0' ? Kind::Picture : Kind::None;
-}
-
-// Positions are 16.16 numbers, as the records that users have were written. Sums are kept in
-// 64 bits: a line of large text is longer than the 32,767 points of 32.
-using Fixed = std::int64_t;
-constexpr double fixedOne = 65'536;
-
-Fixed fixedFrom(double points)
-{
-    constexpr double most = 8'388'608; // points: what cairo can place
-    return std::isnan(points) ? 0 : static_cast<Fixed>(std::clamp(points, -most, most) * fixedOne);
 }
 
 // Where the middle between `from` and `to` lies, moved by `inches`, in single precision.
@@ -59,7 +51,7 @@ void drawText(const drawing::Library &library, drawing::Page &context, const QRe
         - (fixedFrom(ink.left()) + fixedFrom(ink.right())) / 2;
     const Fixed y = movedMiddle(page.top(), page.bottom(), watermark.yOffset)
         + (fixedFrom(ink.top()) + fixedFrom(ink.bottom())) / 2;
-    const QPointF origin(double(x) / fixedOne, double(y) / fixedOne);
+    const QPointF origin(pointsFrom(x), pointsFrom(y));
     context.drawText(text, style, origin);
     watermark.xPos = origin.x();
     watermark.yPos = origin.y();
@@ -106,26 +98,13 @@ Result<void> drawWatermarkPage(_WatermarkData *watermark, const QSizeF &size,
                                WatermarkGround ground, const PictureReader &pictures,
                                _MemoryConsumer &consumer)
 {
-    consumer.position = 0;
-    const Result<const drawing::Library *> library = drawing::library();
-    if (!library)
-        return library.error();
-    const auto write = [&consumer](const char *bytes, std::size_t count) {
-        return MemoryConsumerPutBytes(&consumer, bytes, count) == count;
-    };
-    Result<std::unique_ptr<drawing::Page>> begun = library.value()->beginPage(size, write);
-    if (!begun)
-        return begun.error();
-    drawing::Page &page = *begun.value();
-    if (ground == WatermarkGround::White)
-        page.fill({1, 1, 1, 1});
-    if (watermark)
-        page.setOpacity(watermarkOpacity(*watermark));
-    DrawWatermark(*library.value(), page, QRectF(QPointF(), size), watermark, pictures);
-    Result<void> finished = page.finish();
-    if (!finished)
-        consumer.position = 0;
-    return finished;
+    return writePage(size, consumer, [&](const drawing::Library &library, drawing::Page &page) {
+        if (ground == WatermarkGround::White)
+            page.fill({1, 1, 1, 1});
+        if (watermark)
+            page.setOpacity(watermarkOpacity(*watermark));
+        DrawWatermark(library, page, QRectF(QPointF(), size), watermark, pictures);
+    });
 }
 
 bool needsRedraw(const _WatermarkData &last, const _WatermarkData &now)
