@@ -56,6 +56,20 @@ FaxSender senderIn(const Dictionary &options)
     return sender;
 }
 
+QString numberIn(const Person &card, PersonNumber::Kind kind)
+{
+    const PersonNumber *found = nullptr;
+    for (const PersonNumber &number : card.numbers) {
+        if (number.kind != kind || number.label == QLatin1String("home"))
+            continue;
+        if (number.label == QLatin1String("work"))
+            return number.number;
+        if (!found)
+            found = &number;
+    }
+    return found ? found->number : QString();
+}
+
 QString namesOf(const FaxRecipientList &recipients)
 {
     QStringList names;
@@ -73,6 +87,20 @@ QString imageIn(const Dictionary &options)
 }
 
 } // namespace
+
+FaxSender takenFromCard(FaxSender sender, const Person &card)
+{
+    const auto take = [](QString &text, const QString &taken) {
+        if (!taken.isEmpty())
+            text = taken;
+    };
+    take(sender.name, card.fullName);
+    take(sender.organization, card.organization);
+    take(sender.emailAddress, card.emailAddresses.value(0));
+    take(sender.phoneNumber, numberIn(card, PersonNumber::Kind::Phone));
+    take(sender.faxNumber, numberIn(card, PersonNumber::Kind::Fax));
+    return sender;
+}
 
 CoverSheetSettings readCoverSheet(const Dictionary &options)
 {

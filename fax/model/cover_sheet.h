@@ -2,6 +2,7 @@
 
 #include "bundle.h"
 #include "fax_recipient_list.h"
+#include "people.h"
 #include "values.h"
 
 #include <QSizeF>
@@ -40,6 +41,9 @@ struct FaxSender
     QString name, organization, emailAddress, phoneNumber, faxNumber;
     friend bool operator==(const FaxSender &, const FaxSender &) = default;
 };
+// `sender` with what the card has: its first e-mail address, and the first numbers of work, or
+// of where it does not say home. What it lacks stays.
+FaxSender takenFromCard(FaxSender sender, const Person &card);
 
 // What the cover sheet's dialog edits.
 struct CoverSheetSettings

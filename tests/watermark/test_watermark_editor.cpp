@@ -1,24 +1,18 @@
 #include "device_session.h"
+#include "dialog_steps.h"
 #include "files.h"
-#include "inspector.h"
-#include "modal_dialog.h"
-#include "notice.h"
 #include "paper_view.h"
 #include "popup_button.h"
 #include "preferences.h"
 #include "watermark_editor.h"
 #include "watermark_store.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QPainter>
 #include <QTest>
-#include <QTimer>
-
-#include <deque>
 
 using namespace kelvo;
+using namespace dialog_steps;
 
 // The editor as its user drives it: each step comes from the event loop of what is open then.
 class TestWatermarkEditor : public QObject
@@ -38,25 +32,19 @@ private slots:
 
 namespace {
 
-using Step = std::function<void()>;
-
-// Runs the editor on `watermark` with `steps`; those that are left when it closes are lost.
-class Editor
+class Editor : public DialogSteps
 {
 public:
-    DialogResult run(std::vector<Step> steps)
+    // On `watermark`.
+    DialogResult run(const std::vector<Step> &steps)
     {
-        m_steps.assign(steps.begin(), steps.end());
-        m_waited.start();
-        m_isOpen = true;
-        next();
-        const DialogResult result =
-            RunModalWatermarkEditor(currentDevice(m_session.bundle), &watermark, editing, nullptr);
-        m_isOpen = false;
-        return result;
+        return DialogSteps::run(
+            [this] {
+                return RunModalWatermarkEditor(currentDevice(m_session.bundle), &watermark, editing,
+                                               nullptr);
+            },
+            steps);
     }
-    // All steps were reached.
-    bool isDone() const { return m_steps.empty(); }
 
     _WatermarkData watermark = newWatermark();
     WatermarkEditing editing{.fileName = kWatermarksFile,
@@ -65,107 +53,8 @@ public:
                              .isCoverImage = false};
 
 private:
-    void next()
-    {
-        // Set before a step runs: one that opens a dialog comes back when that is closed.
-        QTimer::singleShot(1, &m_context, [this] {
-            if (m_isOpen)
-                next();
-        });
-        auto *modal = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!modal)
-            return;
-        // Nothing of a test that has failed stays open.
-        if (QTest::currentTestFailed() || m_waited.elapsed() > longestWaitMs) {
-            modal->reject();
-            return;
-        }
-        if (m_steps.empty() || inspector::isUnfinished(modal))
-            return;
-        m_waited.restart();
-        const Step step = m_steps.front();
-        m_steps.pop_front();
-        step();
-    }
-
     DeviceSession m_session{QStringLiteral("full")};
-    static constexpr qint64 longestWaitMs = 5000;
-    QElapsedTimer m_waited; // since the last step
-    QObject m_context;      // of what is still to come
-    bool m_isOpen = false;
-    std::deque<Step> m_steps;
 };
-
-QWidget *front()
-{
-    return QApplication::activeModalWidget();
-}
-
-QWidget *control(const char *name)
-{
-    QWidget *found = front() ? front()->findChild<QWidget *>(QLatin1String(name)) : nullptr;
-    if (!found)
-        qWarning("no %s", name);
-    return found;
-}
-
-void done(const inspector::Done &problem)
-{
-    if (problem)
-        QFAIL(qPrintable(problem->text));
-}
-
-Step type(const char *name, const QString &text)
-{
-    return [=] { done(inspector::type(control(name), text)); };
-}
-Step set(const char *name, int value)
-{
-    return [=] { done(inspector::set(control(name), value)); };
-}
-Step click(const char *name)
-{
-    return [=] { done(inspector::click(control(name))); };
-}
-Step expect(const char *name, const char *property, const QString &value)
-{
-    return [=] {
-        const auto is = inspector::property(control(name), QLatin1String(property));
-        QVERIFY2(is, qPrintable(is.reason()));
-        QCOMPARE(is.value(), value);
-    };
-}
-Step expectNotice(const QString &part, int answer = 1)
-{
-    return [=] {
-        const ShownNotice notice = frontNotice();
-        QVERIFY2((notice.header + notice.message).contains(part),
-                 qPrintable(notice.header + notice.message));
-        answerNotice(answer);
-    };
-}
-Step chooseFile(const QString &path)
-{
-    return [=] { done(inspector::answerFileChooser(front(), path)); };
-}
-
-QString pictureAt(const QString &name)
-{
-    QImage picture(200, 100, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    const QString path = QDir::current().absoluteFilePath(name);
-    picture.save(path, "PNG");
-    return path;
-}
-
-// The color in the middle of the paper, as the user sees it.
-QColor middle()
-{
-    return QColor(control("watermarkEditorPreview")
-                      ->grab()
-                      .toImage()
-                      .pixel(control("watermarkEditorPreview")->rect().center()));
-}
 
 } // namespace
 
@@ -246,7 +135,8 @@ void TestWatermarkEditor::aPictureTurnsOffWhatItDoesNotHave()
                              expect("watermarkPictureHint", "text",
                                     "200 by 100 pixels, printed 5.6 by 2.8 inches large"),
                              Step([] {
-                                 QCOMPARE(middle(), QColor(Qt::red));
+                                 QCOMPARE(middleOf(control("watermarkEditorPreview")),
+                                          QColor(Qt::red));
                                  (void)inspector::drag(control("watermarkEditorPreview"), 72, 0);
                              }),
                              expect("watermarkX", "value", "0"), click("okButton")})
@@ -261,9 +151,11 @@ void TestWatermarkEditor::aPictureTurnsOffWhatItDoesNotHave()
     Editor cover;
     cover.editing.isCoverImage = true;
     cover.watermark = editor.watermark;
-    QCOMPARE(cover.run({expect("watermarkKind", "enabled", "false"), set("watermarkDensity", 0),
-                        [] { QCOMPARE(middle(), QColor(Qt::white)); }, click("okButton")}),
-             DialogResult::OK);
+    QCOMPARE(
+        cover.run({expect("watermarkKind", "enabled", "false"), set("watermarkDensity", 0),
+                   [] { QCOMPARE(middleOf(control("watermarkEditorPreview")), QColor(Qt::white)); },
+                   click("okButton")}),
+        DialogResult::OK);
     QVERIFY(cover.isDone());
     QCOMPARE(cover.watermark.density, 0);
 }
