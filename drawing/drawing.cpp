@@ -1,55 +1,39 @@
 #include "drawing.h"
 
 #include "library_entry.h"
+#include "part_library.h"
 #include "texts.h"
 
-#include <QFileInfo>
-#include <QLibrary>
+#include <QtGlobal>
 
 namespace kelvo::drawing {
 
 namespace {
 
-// What the library `name` in `folder` has for this version. A file that is open already is
-// not opened again.
-template <typename Part>
-Result<const Part *> open(const QString &folder, QLatin1String name, const char *entryName)
+// `fileName` and `entry` of one of the two.
+constexpr PartLibrary partThatDraws(const char *fileName, const char *entry)
 {
-    const QString path = folder + QLatin1Char('/') + name;
-    if (!QFileInfo::exists(path)) {
-        return Error{Error::Code::NotFound, path,
-                     translate("Drawing",
-                               "this part that draws is not installed beside the "
-                               "program's libraries; install kelvo-print anew")};
-    }
-    QLibrary file(path);
-    // A symbol that is missing shows here and not in the middle of a page; fonts that are
-    // in use outlive whoever has drawn.
-    file.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
-    if (!file.load()) {
-        return Error{Error::Code::NotReadable, path,
-                     translate("Drawing",
-                               "this part that draws cannot be loaded (%1); install "
-                               "kelvo-print anew, with the packages that it needs")
-                         .arg(file.errorString())};
-    }
-    auto *entry = reinterpret_cast<Entry<Part> *>(file.resolve(entryName));
-    const Part *part = entry ? entry(KELVO_VERSION) : nullptr;
-    if (!part) {
-        return Error{Error::Code::Damaged, path,
-                     translate("Drawing",
-                               "this is not the part that draws of kelvo-print %1; "
-                               "install kelvo-print anew")
-                         .arg(QStringLiteral(KELVO_VERSION))};
-    }
-    return part;
+    return {fileName,
+            entry,
+            "Drawing",
+            QT_TRANSLATE_NOOP("Drawing",
+                              "this part that draws is not installed beside the "
+                              "program's libraries; install kelvo-print anew"),
+            QT_TRANSLATE_NOOP("Drawing",
+                              "this part that draws cannot be loaded (%1); install "
+                              "kelvo-print anew, with the packages that it needs"),
+            QT_TRANSLATE_NOOP("Drawing",
+                              "this is not the part that draws of kelvo-print %1; "
+                              "install kelvo-print anew")};
 }
+constexpr PartLibrary drawingLibrary = partThatDraws("libkelvo_drawing.so", drawingEntry);
+constexpr PartLibrary pdfViewLibrary = partThatDraws("libkelvo_pdf_view.so", pdfViewEntry);
 
 } // namespace
 
 Result<const Library *> library(const QString &folder)
 {
-    return open<Library>(folder, QLatin1String("libkelvo_drawing.so"), drawingEntry);
+    return openPart<Library>(drawingLibrary, folder);
 }
 
 Result<Picture> showPdf(const QByteArray &pdf, const QSize &pixels, bool isOnWhite,
@@ -57,8 +41,7 @@ Result<Picture> showPdf(const QByteArray &pdf, const QSize &pixels, bool isOnWhi
 {
     if (pixels.isEmpty())
         return Picture{};
-    const Result<const PdfView *> view =
-        open<PdfView>(folder, QLatin1String("libkelvo_pdf_view.so"), pdfViewEntry);
+    const Result<const PdfView *> view = openPart<PdfView>(pdfViewLibrary, folder);
     return view ? view.value()->show(pdf, pixels, isOnWhite) : view.error();
 }
 

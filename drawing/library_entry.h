@@ -4,10 +4,7 @@
 
 namespace kelvo::drawing {
 
-// The one function that a library is asked for by name: what it can do, or null where
-// `version` is not its own. Both sides are of one build, or their classes do not agree.
-template <typename Part>
-using Entry = const Part *(const char *version);
+// The entries of the libraries that draw, each a PartEntry (part_library.h).
 
 // libkelvo_drawing.so has a Library.
 inline constexpr char drawingEntry[] = "kelvoDrawing";

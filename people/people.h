@@ -47,6 +47,7 @@ struct AddressBookContents
 {
     std::vector<Person> people; // by name, in the user's order of letters
     std::vector<PeopleGroup> groups;
+    QStringList unread; // books that do not answer while others do: "NAME: why"
 };
 
 // What is written of a new person; what is absent is not.

@@ -181,8 +181,9 @@ private:
 
 } // namespace kelvo::drawing
 
-extern "C" Q_DECL_EXPORT const kelvo::drawing::Library *kelvoDrawing(const char *version)
+extern "C" Q_DECL_EXPORT const void *kelvoDrawing(const char *version)
 {
     static const kelvo::drawing::CairoLibrary library;
-    return std::strcmp(version, KELVO_VERSION) == 0 ? &library : nullptr;
+    const kelvo::drawing::Library *part = &library;
+    return std::strcmp(version, KELVO_VERSION) == 0 ? part : nullptr;
 }

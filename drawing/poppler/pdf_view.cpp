@@ -55,11 +55,11 @@ private:
 
 } // namespace kelvo::drawing
 
-extern "C" Q_DECL_EXPORT const kelvo::drawing::PdfView *kelvoPdfView(const char *version)
+extern "C" Q_DECL_EXPORT const void *kelvoPdfView(const char *version)
 {
     if (std::strcmp(version, KELVO_VERSION) != 0)
         return nullptr;
     // Never destroyed: a thread may outlive every static object.
-    static const auto &view = *new kelvo::drawing::PopplerView;
+    static const kelvo::drawing::PdfView &view = *new kelvo::drawing::PopplerView;
     return &view;
 }

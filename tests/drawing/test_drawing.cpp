@@ -1,6 +1,7 @@
 #include "drawing.h"
 #include "files.h"
 #include "library_entry.h"
+#include "part_library.h"
 #include "table.h"
 
 #include <QImage>
@@ -142,7 +143,7 @@ void TestDrawing::isOpenedWithTheFirstCall()
     QVERIFY(hasDrawingLibraries());
     QCOMPARE(library().value(), first.value());
     QLibrary opened(libraryFolder() + u"/libkelvo_drawing.so"_s);
-    auto *entry = reinterpret_cast<Entry<Library> *>(opened.resolve(drawingEntry));
+    auto *entry = reinterpret_cast<PartEntry *>(opened.resolve(drawingEntry));
     QVERIFY(entry && !entry("0.9")); // another version's
 }
 
