@@ -70,16 +70,22 @@ QString text(const LanFaxSetup &setup, const char *key)
     return faxText(setup.editing.device.bundle, key);
 }
 
+void sayPreview(const LanFaxSetup &setup)
+{
+    setup.controls.previewHint->setText(hasCoverSheet(setup.controls)
+                                            ? setup.preview->notice()
+                                            : text(setup, "No Cover Sheet Hint"));
+}
+
 void showPreview(const LanFaxSetup &setup)
 {
     const LanFaxControls &controls = setup.controls;
     CoverSheetContent content = coverSheetContent(setup.options, controls.notes->toPlainText(),
                                                   setup.editing.recipients, setup.words);
-    if (!hasCoverSheet(controls)) {
+    if (!hasCoverSheet(controls))
         content = {.size = content.size};
-        controls.previewHint->setText(text(setup, "No Cover Sheet Hint"));
-    }
     setup.preview->show(content);
+    sayPreview(setup);
 }
 
 // Those who were selected stay so.
@@ -304,9 +310,9 @@ void initialize(LanFaxSetup &setup)
     setup.words = coverSheetWords(device.bundle);
     prepareLanFaxControls(setup.controls, device);
     showRecipients(setup.controls.recipients, device, setup.rows);
-    setup.preview = new CoverSheetPreview(setup.controls.preview);
-    QObject::connect(setup.preview, &CoverSheetPreview::noticed, setup.controls.previewHint,
-                     &QLabel::setText);
+    setup.preview = new CoverSheetPreview(device.bundle, setup.controls.preview);
+    QObject::connect(setup.preview, &CoverSheetPreview::noticed, setup.window.get(),
+                     [&setup] { sayPreview(setup); });
     setup.values = SyncToUI(setup.options);
     showFaxControls(setup.controls, device, setup.values);
     setup.editing.promptDuplicate = setup.values.promptDuplicate;
