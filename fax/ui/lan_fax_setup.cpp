@@ -27,6 +27,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTimer>
 
 #include <chrono>
@@ -320,6 +321,10 @@ void initialize(LanFaxSetup &setup)
     enableControls(setup);
     showRecipientList(setup);
     lookForAddressBook(setup);
+    auto *removing = new QShortcut(QKeySequence::Delete, setup.controls.recipients, nullptr,
+                                   nullptr, Qt::WidgetShortcut);
+    QObject::connect(removing, &QShortcut::activated, setup.window.get(),
+                     [&setup] { handleCommand(setup, kCommandRemove); });
     // A chosen time passes while the window is open.
     auto *clock = new QTimer(setup.window.get());
     QObject::connect(clock, &QTimer::timeout, setup.window.get(),
