@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "private_bus.h"
+
 #include <QObject>
-#include <QProcess>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <QVariantMap>
 
 // A session bus of the test's own with a desktop on it that shows notifications: it
@@ -18,7 +17,7 @@ public:
     NotificationService() = default;
     ~NotificationService() override;
 
-    // Starts it and makes it this process's session bus. Empty, or what went wrong.
+    // Starts it. Empty, or what went wrong.
     QString start();
     QStringList shown() const { return m_shown; } // "SUMMARY|BODY"
 
@@ -31,7 +30,6 @@ public slots:
     // NOLINTEND(readability-identifier-naming)
 
 private:
-    QTemporaryDir m_folder;
-    QProcess m_daemon;
+    PrivateBus m_bus;
     QStringList m_shown;
 };
