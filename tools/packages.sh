@@ -4,11 +4,11 @@
 run_packages="g++ cmake ninja-build ccache pkg-config
     qt6-base-dev libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
     libcups2-dev libexpat1-dev libsystemd-dev
-    libfontconfig-dev libcairo2-dev libpango1.0-dev libpoppler-qt6-dev libqpdf-dev
+    libfontconfig-dev libcairo2-dev libpango1.0-dev libpoppler-qt6-dev libqpdf-dev libebook1.2-dev
     qt6-image-formats-plugins fonts-dejavu-core fonts-liberation2 ghostscript"
 
 # Real partners of the tests, and the formatter.
-check_packages="cups-daemon cups-client dbus-daemon libplist-utils poppler-utils qpdf clang-format python3-minimal strace
+check_packages="cups-daemon cups-client dbus-daemon libplist-utils poppler-utils qpdf evolution-data-server clang-format python3-minimal strace
     libfreetype-dev fonts-noto-core fonts-droid-fallback"
 
 # The linter and the fuzz targets.

@@ -78,11 +78,7 @@ Result<GLibOwner<GDBusConnection>> busWithAddressBook(GCancellable *cancellable)
                                "type recipients in by hand")};
     }
     GLibError error;
-    GLibOwner<GDBusConnection> bus = openBus(error);
-    if (bus && g_dbus_connection_is_closed(bus.get())) {
-        bus.reset();
-        bus = openBus(error);
-    }
+    auto bus = openBus(error);
     if (!bus)
         return doesNotAnswer(error);
     std::array<bool, 2> found{};
