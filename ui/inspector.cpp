@@ -2,6 +2,7 @@
 
 #include "control_interface.h"
 #include "event.h"
+#include "list_view.h"
 #include "nearest_name.h"
 #include "secrets.h"
 #include "texts.h"
@@ -436,6 +437,13 @@ bool isUnfinished(const QWidget *window)
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
     return std::ranges::any_of(widgets, [](QWidget *each) {
         return each->isVisible() && controlInterface(each)->isUnfinished();
+    });
+}
+
+bool isAwaited(const QWidget *window)
+{
+    return std::ranges::any_of(window->findChildren<ListView *>(), [](const ListView *list) {
+        return list->isVisible() && list->isAwaited();
     });
 }
 

@@ -93,6 +93,8 @@ bool isSecret(QWidget *control);
 
 // Whether something that `window` shows is on its way still.
 bool isUnfinished(const QWidget *window);
+// Whether it is rows of a list, without which nothing can be done there.
+bool isAwaited(const QWidget *window);
 
 // A property as a script writes it: value, index, text, enabled, visible,
 // checked, focus, items, maximum, selection, "cell ROW COLUMN". For the text of a

@@ -252,6 +252,7 @@ public:
 
     std::optional<int> items() override { return widget()->rowCount(); }
     QString commands() const override { return QStringLiteral("select, double-click"); }
+    bool isUnfinished() const override { return widget()->isAwaited(); }
 
     std::optional<std::vector<int>> selection() const override
     {

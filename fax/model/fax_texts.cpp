@@ -65,6 +65,20 @@ QString CreateLANFaxSenderInformation(const FaxString &name, const FaxString &or
     return lines;
 }
 
+QString shownFaxLabel(CFBundleRef bundle, const QString &label)
+{
+    static constexpr std::pair<QLatin1String, const char *> words[] = {
+        {QLatin1String("work"), "Fax Label Work"},
+        {QLatin1String("home"), "Fax Label Home"},
+        {QLatin1String("other"), "Fax Label Other"},
+    };
+    for (const auto &[word, key] : words) {
+        if (label == word)
+            return faxText(bundle, key);
+    }
+    return label;
+}
+
 QString faxText(CFBundleRef bundle, const char *key)
 {
     return localizedText(bundle, QString::fromLatin1(key), QStringLiteral("LANFax"));

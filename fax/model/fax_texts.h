@@ -26,6 +26,9 @@ QString CreateLANFaxSenderInformation(const FaxString &name, const FaxString &or
                                       const FaxString &phoneNumber, const FaxString &faxLabel,
                                       const FaxString &faxNumber);
 
+// The word for where a number came from (PersonNumber::label): "Work", or the user's own.
+QString shownFaxLabel(CFBundleRef bundle, const QString &label);
+
 // The text of `key` in the table of the fax dialogs, else "STRING NOT FOUND".
 QString faxText(CFBundleRef bundle, const char *key);
 

@@ -34,8 +34,9 @@ using inspector::Failure;
 
 // How long the runner sleeps while the dialog is busy.
 constexpr int busyWaitMs = 5;
-// How long a picture waits for a page of the document, which can be endless.
-constexpr int pictureWaitMs = 5000;
+// How long a line waits for the rows of a list, and a picture for a page of the document,
+// which can be endless.
+constexpr int contentWaitMs = 5000;
 
 struct LineProblem
 {
@@ -117,7 +118,7 @@ struct ScriptRunner::Private
     Options options;
     ScriptRunner *q;
     QTimer tick;
-    QElapsedTimer pictureWait;
+    QElapsedTimer contentWait;
     std::size_t next = 0;
     QString metNotice;       // header and message of the notice that a line has met
     int printedBy = 0;       // line of the print that is on its way, 0 for none
@@ -205,16 +206,17 @@ void ScriptRunner::Private::step()
              wrong(translate("Script", "the dialog is closed; nothing can be done after that")));
         return;
     }
-    if (lines[next].command == ScriptCommand::Screenshot
-        && (target.isDrawing() || inspector::isUnfinished(front()))) {
-        if (!pictureWait.isValid())
-            pictureWait.start();
-        if (pictureWait.elapsed() < pictureWaitMs) {
+    const bool isPicture = lines[next].command == ScriptCommand::Screenshot;
+    if (inspector::isAwaited(front())
+        || (isPicture && (target.isDrawing() || inspector::isUnfinished(front())))) {
+        if (!contentWait.isValid())
+            contentWait.start();
+        if (contentWait.elapsed() < contentWaitMs) {
             tick.start(busyWaitMs);
             return;
         }
     }
-    pictureWait.invalidate();
+    contentWait.invalidate();
     run(lines[next++]);
 }
 

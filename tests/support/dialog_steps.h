@@ -129,6 +129,8 @@ private:
             if (m_isOpen)
                 next();
         });
+        // What the last step left to the event loop comes first: a chooser that it answered closes.
+        QCoreApplication::sendPostedEvents();
         auto *modal = qobject_cast<QDialog *>(dialog_steps::front());
         if (!modal)
             return;

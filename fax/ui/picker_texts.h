@@ -1,0 +1,30 @@
+#pragma once
+
+#include "bundle.h"
+#include "card_files.h"
+#include "list_view.h"
+#include "people_rows.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+// What the address-book picker says.
+namespace kelvo {
+
+std::vector<ListView::Column> pickerColumns(CFBundleRef bundle);
+// Of those columns; `isInList`: all whom the row adds get the fax already.
+QString pickerCell(CFBundleRef bundle, const PeopleRow &row, int column, bool isInList);
+
+// Who is not shown, since there is no number to send to; empty: nobody.
+QString withoutNumberText(CFBundleRef bundle, int people);
+
+// What came of adding: `added` were, and `declined` the user did not want again.
+QString addedText(CFBundleRef bundle, const PeopleToAdd &adding, int added, int declined);
+
+// A line for each, as many as fit into a notice. `notLocal`: addresses that were dropped.
+QString cardProblemsText(CFBundleRef bundle, const std::vector<CardProblem> &problems,
+                         const QStringList &notLocal);
+
+} // namespace kelvo
