@@ -14,9 +14,9 @@ namespace kelvo {
 // One property of a card. Its texts are decoded, and as strangers wrote them.
 struct CardProperty
 {
-    QString group;     // "item1": what belongs together; mostly empty
-    QString name;      // in capitals: "TEL"
-    QStringList types; // in capitals: "WORK", "FAX"
+    QString group;        // "item1": what belongs together; mostly empty
+    QString name;         // in capitals: "TEL"
+    QStringList types;    // in capitals: "WORK", "FAX"
     int preference = 101; // 1, the first, to 100; more: none
     QStringList values;   // between semicolons
 

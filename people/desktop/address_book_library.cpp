@@ -47,9 +47,8 @@ void sortByName(std::vector<Named> &list, QString Named::*name)
     std::vector<std::pair<QCollatorSortKey, std::size_t>> order;
     for (std::size_t i = 0; i < list.size(); ++i)
         order.emplace_back(collator.sortKey(list[i].*name), i);
-    std::stable_sort(order.begin(), order.end(), [](const auto &one, const auto &other) {
-        return one.first < other.first;
-    });
+    std::stable_sort(order.begin(), order.end(),
+                     [](const auto &one, const auto &other) { return one.first < other.first; });
     std::vector<Named> sorted;
     for (const auto &[key, i] : order)
         sorted.push_back(std::move(list[i]));

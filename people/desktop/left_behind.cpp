@@ -14,7 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr auto lookEvery = 20ms;   // at the flag, which nobody tells of
+constexpr auto lookEvery = 20ms;    // at the flag, which nobody tells of
 constexpr auto timeToListen = 50ms; // for a call that is told to end
 
 struct State

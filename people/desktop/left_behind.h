@@ -28,11 +28,10 @@ Result<T> call(std::function<Result<T>(GCancellable *)> work, AddressBook::Flag 
                std::optional<std::chrono::milliseconds> longest = std::nullopt)
 {
     auto answer = std::make_shared<std::optional<Result<T>>>();
-    const CallEnd end = runCall(
-        [answer, work = std::move(work)](GCancellable *cancellable) {
-            answer->emplace(work(cancellable));
-        },
-        cancelled, longest);
+    const CallEnd end =
+        runCall([answer, work = std::move(work)](
+                    GCancellable *cancellable) { answer->emplace(work(cancellable)); },
+                cancelled, longest);
     if (end != CallEnd::Done)
         return unfinished(end);
     return *std::move(*answer);

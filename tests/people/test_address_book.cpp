@@ -123,8 +123,8 @@ void TestAddressBook::saysWhatIsMissing()
 
 void TestAddressBook::writesWhatIsPresent()
 {
-    const NewPerson ann = {u"Ann"_s, u"+1 (555) 123-4567; x89"_s, u"555 0100"_s, u"ann@x.org"_s,
-                           u"Ltd, Sons; Co\\"_s, u"12\nb"_s};
+    const NewPerson ann = {u"Ann"_s,       u"+1 (555) 123-4567; x89"_s, u"555 0100"_s,
+                           u"ann@x.org"_s, u"Ltd, Sons; Co\\"_s,        u"12\nb"_s};
     const QString first = valueOf(book().addPerson(ann));
     const QStringList stored = m_service->cards();
     QCOMPARE(stored.size(), 1);
@@ -138,7 +138,12 @@ void TestAddressBook::writesWhatIsPresent()
 
     const Person read = valueOf(book().person(first));
     QCOMPARE(read,
-             (Person{first, u"Ann"_s, u"Ann"_s, {}, u"Ltd, Sons; Co\\"_s, {u"ann@x.org"_s},
+             (Person{first,
+                     u"Ann"_s,
+                     u"Ann"_s,
+                     {},
+                     u"Ltd, Sons; Co\\"_s,
+                     {u"ann@x.org"_s},
                      {{PersonNumber::Kind::Fax, u"work"_s, *ann.faxNumber},
                       {PersonNumber::Kind::Phone, u"work"_s, *ann.phoneNumber}},
                      u"12 b"_s}));
@@ -203,8 +208,15 @@ void TestAddressBook::readsWhatOthersWrote()
                                                {Fax, u"home"_s, u"1"_s},
                                                {Phone, u"other"_s, u"3"_s},
                                                {Fax, u"Branch Fax"_s, u"4"_s}};
-    QCOMPARE(kim, (Person{uids[0], u"Kim Lee"_s, u"Kim"_s, u"Lee"_s, u"Acme"_s,
-                          {u"lee@x.org"_s, u"k@x.org"_s}, numbers, {}}));
+    QCOMPARE(kim,
+             (Person{uids[0],
+                     u"Kim Lee"_s,
+                     u"Kim"_s,
+                     u"Lee"_s,
+                     u"Acme"_s,
+                     {u"lee@x.org"_s, u"k@x.org"_s},
+                     numbers,
+                     {}}));
     QCOMPARE(valueOf(book().read()).people.size(), 3);
     const Person damaged = valueOf(book().person(uids[1]));
     QVERIFY2(!damaged.fullName.contains(QChar(0)) && !damaged.fullName.contains(QChar(1)),
@@ -217,7 +229,8 @@ void TestAddressBook::readsManyInTheUsersOrder()
     QStringList cards;
     for (int i = 0; i < 10'000; ++i) {
         cards << u"BEGIN:VCARD\r\nVERSION:3.0\r\nFN:%1\r\nTEL;TYPE=WORK,FAX:+1 555 %1\r\n"
-                 "EMAIL:p%1@x.org\r\nORG:Acme\r\nEND:VCARD\r\n"_s.arg(9999 - i, 4, 10, QLatin1Char('0'));
+                 "EMAIL:p%1@x.org\r\nORG:Acme\r\nEND:VCARD\r\n"_s.arg(9999 - i, 4, 10,
+                                                                      QLatin1Char('0'));
     }
     QCOMPARE(m_service->addCards(cards).size(), cards.size());
     QElapsedTimer timer;

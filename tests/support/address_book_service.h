@@ -29,8 +29,8 @@ public:
     QStringList addCards(const QStringList &cards) const;
     // The user's own card has that uid: for processes with that XDG_CONFIG_HOME that have not
     // asked for it yet.
-    static void setOwnCard(const QString &uid, const QString &configFolder
-                                               = qEnvironmentVariable("XDG_CONFIG_HOME"));
+    static void setOwnCard(const QString &uid,
+                           const QString &configFolder = qEnvironmentVariable("XDG_CONFIG_HOME"));
 
     // All processes of it that run.
     QList<qint64> processes() const;

@@ -15,8 +15,9 @@ public:
 
     // Starts it, with the services in that folder, if any, in that environment. Empty, or what
     // went wrong.
-    QString start(const QString &serviceFolder = {},
-                  const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
+    QString
+    start(const QString &serviceFolder = {},
+          const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
     QString address() const { return m_address; }
     qint64 processId() const { return m_daemon.processId(); }
 
