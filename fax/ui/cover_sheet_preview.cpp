@@ -10,6 +10,8 @@
 #include <QEvent>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace kelvo {
 
 // What comes of one.
@@ -29,6 +31,19 @@ struct KnownPicture
     StampedFile file;
     ImportedPicture picture;
 };
+
+// "U+E123, U+1F600": whoever has no font for a character cannot read it here either.
+QString codesOf(const QString &characters)
+{
+    constexpr qsizetype most = 5;
+    QStringList codes;
+    const auto points = characters.toUcs4();
+    for (qsizetype i = 0; i < std::min(most, points.size()); ++i)
+        codes << QStringLiteral("U+") + QString::number(points[i], 16).toUpper();
+    if (points.size() > most)
+        codes << QStringLiteral("…");
+    return codes.join(QStringLiteral(", "));
+}
 
 // On any thread.
 CoverSheetDrawing drawn(const CoverSheetContent &content, const KnownPicture &known,
@@ -119,7 +134,7 @@ void CoverSheetPreview::say(const CoverSheetDrawing &drawing)
         sentences << faxText(m_bundle, "Cover Preview Cut");
     if (drawing.drawn && !drawing.drawn.value().missingCharacters.isEmpty())
         sentences << formatted(faxText(m_bundle, "Cover Preview No Font"),
-                               {drawing.drawn.value().missingCharacters});
+                               {codesOf(drawing.drawn.value().missingCharacters)});
     if (drawing.isImageLost)
         sentences << formatted(faxText(m_bundle, "Cover Preview Image Lost"), {m_content.image});
     else if (m_picture.state() == PictureState::Unreadable)

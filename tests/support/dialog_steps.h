@@ -14,6 +14,7 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 #include <vector>
 
 // What a user of the dialog in front does and sees.
@@ -33,11 +34,6 @@ inline QWidget *control(const char *name)
     if (!found)
         qWarning("no %s", name);
     return found;
-}
-template <typename T>
-T *control(const char *name)
-{
-    return qobject_cast<T *>(control(name));
 }
 inline void done(const kelvo::inspector::Done &problem)
 {
@@ -94,6 +90,12 @@ inline Step expectNotice(const QString &part, int answer = 1)
         kelvo::answerNotice(answer);
     };
 }
+inline bool isAgain = false; // the step that runs comes once more
+// Goes on when that holds: for what comes from a thread.
+inline Step until(const std::function<bool()> &condition)
+{
+    return [=] { isAgain = !condition(); };
+}
 inline Step chooseFile(const QString &path)
 {
     return [=] { done(kelvo::inspector::answerFileChooser(front(), path)); };
@@ -141,10 +143,13 @@ private:
         }
         if (m_steps.empty() || kelvo::inspector::isUnfinished(modal))
             return;
-        m_waited.restart();
         const dialog_steps::Step step = m_steps.front();
         m_steps.pop_front();
         step();
+        if (std::exchange(dialog_steps::isAgain, false))
+            m_steps.push_front(step);
+        else
+            m_waited.restart();
     }
 
     static constexpr qint64 longestWaitMs = 5000;

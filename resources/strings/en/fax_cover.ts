@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>Cover Preview No Font</source>
-        <translation>No font on this computer has these characters, so they are left out here: %1</translation>
+        <translation>Some characters are in no font of this computer, so they are left out here: %1.</translation>
     </message>
     <message>
         <source>Cover Preview Image Lost</source>
