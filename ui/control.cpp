@@ -13,6 +13,7 @@ namespace {
 
 constexpr char defaultButtonProperty[] = "_kelvo_defaultButton";
 constexpr char cancelButtonProperty[] = "_kelvo_cancelButton";
+constexpr char awaitedProperty[] = "_kelvo_awaited";
 
 // Which widget has which ID, and the other way round. Never destroyed: widgets
 // of static objects may go after it would.
@@ -210,6 +211,16 @@ void setVisibleWithLabel(QWidget *control, bool visible)
     control->setVisible(visible);
     if (QLabel *label = labelOf(control))
         label->setVisible(visible);
+}
+
+void setAwaited(QWidget *control, bool isAwaited)
+{
+    control->setProperty(awaitedProperty, isAwaited);
+}
+
+bool isAwaited(const QWidget *control)
+{
+    return control->property(awaitedProperty).toBool();
 }
 
 } // namespace kelvo

@@ -64,4 +64,9 @@ QLabel *labelOf(const QWidget *control);
 void setEnabledWithLabel(QWidget *control, bool enabled);
 void setVisibleWithLabel(QWidget *control, bool visible);
 
+// What `control` shows is on its way, and nothing can be done without it: scripts go on when it
+// is there.
+void setAwaited(QWidget *control, bool isAwaited);
+bool isAwaited(const QWidget *control);
+
 } // namespace kelvo

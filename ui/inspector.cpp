@@ -2,7 +2,6 @@
 
 #include "control_interface.h"
 #include "event.h"
-#include "list_view.h"
 #include "nearest_name.h"
 #include "secrets.h"
 #include "texts.h"
@@ -442,8 +441,8 @@ bool isUnfinished(const QWidget *window)
 
 bool isAwaited(const QWidget *window)
 {
-    return std::ranges::any_of(window->findChildren<ListView *>(), [](const ListView *list) {
-        return list->isVisible() && list->isAwaited();
+    return std::ranges::any_of(window->findChildren<QWidget *>(), [](const QWidget *control) {
+        return control->isVisible() && kelvo::isAwaited(control);
     });
 }
 

@@ -93,7 +93,7 @@ bool isSecret(QWidget *control);
 
 // Whether something that `window` shows is on its way still.
 bool isUnfinished(const QWidget *window);
-// Whether it is rows of a list, without which nothing can be done there.
+// Whether it is something without which nothing can be done there (control.h).
 bool isAwaited(const QWidget *window);
 
 // A property as a script writes it: value, index, text, enabled, visible,

@@ -252,7 +252,7 @@ public:
 
     std::optional<int> items() override { return widget()->rowCount(); }
     QString commands() const override { return QStringLiteral("select, double-click"); }
-    bool isUnfinished() const override { return widget()->isAwaited(); }
+    bool isUnfinished() const override { return isAwaited(widget()); }
 
     std::optional<std::vector<int>> selection() const override
     {

@@ -38,9 +38,6 @@ public:
     // the selection is cleared, silently, and the scroll position kept.
     void reload(int count);
     int rowCount() const;
-    // Its rows are on their way still: scripts go on when they are there.
-    void setAwaited(bool isAwaited) { m_isAwaited = isAwaited; }
-    bool isAwaited() const { return m_isAwaited; }
     QString cellText(int row, int column) const;
 
     std::vector<int> selectedRows() const; // ascending
@@ -60,7 +57,6 @@ private:
 
     RowModel *m_model;
     bool m_silent = false;
-    bool m_isAwaited = false;
     bool m_isSelectionPending = false; // the user changed it, and it was not sent yet
 };
 

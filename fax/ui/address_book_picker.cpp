@@ -234,8 +234,9 @@ void AddressBookPicker::showFound()
     m_list->reload(static_cast<int>(m_found.rows.size()));
     if (isTyped)
         m_list->selectRows({0}); // so that Return adds the first one
-    m_list->setAwaited((source() == FromAddressBook && m_readingAddressBook.isBusy())
-                       || (source() == FromCards && m_readingCards.isBusy()));
+    setAwaited(m_list,
+               (source() == FromAddressBook && m_readingAddressBook.isBusy())
+                   || (source() == FromCards && m_readingCards.isBusy()));
     m_message->setText(m_found.rows.empty() ? messageOfEmptyList() : QString());
     m_list->setAccessibleDescription(m_message->text());
     m_hidden->setText(withoutNumberText(m_editing.device.bundle, m_found.withoutNumber));
@@ -249,7 +250,7 @@ QString AddressBookPicker::messageOfEmptyList() const
     if (!shown.problem.isEmpty())
         return formatted(text("Address Book Unread"), {shown.problem}) + u'\n'
             + text("Address Book Unread Advice");
-    if (m_list->isAwaited())
+    if (isAwaited(m_list))
         return text(source() == FromCards ? "Reading Cards" : "Reading Address Book");
     if (m_found.withoutNumber > 0)
         return text("Nobody Has Fax Number");

@@ -281,6 +281,7 @@ OSStatus handleEvent(LanFaxSetup &setup, const Event &event)
 void takeAddressBook(LanFaxSetup &setup, const std::optional<QString> &problem)
 {
     const LanFaxControls &controls = setup.controls;
+    setAwaited(controls.saveGroup, false);
     setup.hasAddressBook = !problem;
     const QString hint =
         problem ? formatted(text(setup, "No Address Book Hint"), {*problem}) : QString();
@@ -301,6 +302,7 @@ void lookForAddressBook(LanFaxSetup &setup)
             problem = found.error().detail;
         return [&setup, problem] { takeAddressBook(setup, problem); };
     });
+    setAwaited(setup.controls.saveGroup, true);
     if (!isStarted)
         takeAddressBook(setup, QString());
 }

@@ -39,6 +39,7 @@ QString text(const SaveGroupDialog &dialog, const char *key)
 void showSaving(const SaveGroupDialog &dialog, bool isSaving)
 {
     dialog.name->setEnabled(!isSaving);
+    setAwaited(dialog.hint, isSaving);
     dialog.hint->setText(isSaving ? text(dialog, "Saving Group") : QString());
 }
 
