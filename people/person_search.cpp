@@ -17,6 +17,8 @@ bool isMark(char32_t c)
 // What capitals, accents and forms of the same letter have in common.
 QString folded(const QString &text)
 {
+    if (std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; }))
+        return text.toLower();
     // Capitals first: there are letters of which two become.
     const QString parts = text.normalized(QString::NormalizationForm_KD).toUpper().toCaseFolded();
     QString plain;
@@ -89,9 +91,14 @@ PersonSearch::PersonSearch(const AddressBookContents &contents)
     m_people.reserve(contents.people.size());
     for (const Person &person : contents.people) {
         QString words;
-        for (const QString &text : {person.fullName, person.firstName, person.lastName,
-                                    person.organization, person.emailAddresses.join(u' ')})
-            addWords(words, text);
+        addWords(words, person.fullName);
+        for (const QString &name : {person.firstName, person.lastName}) {
+            if (!person.fullName.contains(name))
+                addWords(words, name);
+        }
+        addWords(words, person.organization);
+        for (const QString &address : person.emailAddresses)
+            addWords(words, address);
         for (const PersonNumber &number : person.numbers)
             addNumber(words, number.number);
         m_people.push_back(words);

@@ -34,7 +34,7 @@ AddressBookContents contents()
          {}},
         {{}, u"Jörg Ångström"_s, {}, {}, u"Straße AG"_s, {}, fax(u"030/99"_s), {}},
         {{}, u"Kim"_s, u"Kim"_s, {}, u"2nd Floor"_s, {u"kim.lee@y.org"_s}, fax(u"٣٤"_s), {}},
-        {{}, u"Müller, Ｋａｔｅ"_s, {}, {}, {}, {}, {}, {}},
+        {{}, u"Müller, Ｋａｔｅ"_s, u"Kitty"_s, {}, {}, {}, {}, {}},
         {{}, u"山田太郎"_s, {}, {}, {}, {}, {}, {}},
     };
     contents.groups = {{{}, u"Team Leeds"_s, {}}, {{}, u"North 555"_s, {}}};
@@ -57,6 +57,7 @@ void TestPersonSearch::findsAsOneTypes_data()
     row("one letter as two", u"STRASSE"_s, {1}, {});
     row("wide letters", u"kate"_s, {3}, {});
     row("no blanks between words", u"山田"_s, {4}, {});
+    row("a name that is not shown", u"kitty"_s, {3}, {});
     row("an address's place", u"y.org"_s, {2}, {});
     row("a number otherwise punctuated", u"+1 555-123"_s, {0}, {});
     row("without its country", u"5551234567"_s, {0}, {});
