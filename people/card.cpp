@@ -2,6 +2,7 @@
 
 #include "characters.h"
 
+#include <QHash>
 #include <QUrl>
 
 #include <algorithm>
@@ -36,22 +37,22 @@ QString numberOf(const CardProperty &property)
     return shownText(number);
 }
 
-// The user's own word for what is in the property's group. Words of the program that wrote the
-// card stand in "_$!<HomeFAX>!$_".
-QString ownLabel(const std::vector<CardProperty> &card, const QString &group)
+// The users' own words, by group in small letters. Words of the program that wrote the card
+// stand in "_$!<HomeFAX>!$_".
+using Labels = QHash<QString, QString>;
+
+Labels ownLabels(const std::vector<CardProperty> &card)
 {
-    if (group.isEmpty())
-        return {};
+    Labels labels;
     for (const CardProperty &property : card) {
-        if (property.name == QLatin1String("X-ABLABEL")
-            && property.group.compare(group, Qt::CaseInsensitive) == 0) {
-            QString label = textOf(property);
-            if (label.startsWith(QLatin1String("_$!<")) && label.endsWith(QLatin1String(">!$_")))
-                label = label.sliced(4).chopped(4);
-            return label;
-        }
+        if (property.name != QLatin1String("X-ABLABEL") || property.group.isEmpty())
+            continue;
+        QString label = textOf(property);
+        if (label.startsWith(QLatin1String("_$!<")) && label.endsWith(QLatin1String(">!$_")))
+            label = label.sliced(4).chopped(4);
+        labels.insert(property.group.toLower(), label);
     }
-    return {};
+    return labels;
 }
 
 QString labelOf(const QStringList &types, const QString &own)
@@ -79,10 +80,10 @@ bool isNoTelephone(const QStringList &types)
         || types.contains(QLatin1String("BBS"));
 }
 
-void takeNumber(Person &person, const std::vector<CardProperty> &card, const CardProperty &property)
+void takeNumber(Person &person, const Labels &labels, const CardProperty &property)
 {
     const QString number = numberOf(property);
-    const QString own = ownLabel(card, property.group);
+    const QString own = labels.value(property.group.toLower());
     const bool isFax = property.types.contains(QLatin1String("FAX"))
         || own.contains(QLatin1String("fax"), Qt::CaseInsensitive);
     if (number.isEmpty() || (!isFax && isNoTelephone(property.types)))
@@ -128,22 +129,22 @@ Person personOf(const std::vector<CardProperty> &card)
         properties.push_back(&property);
     std::ranges::stable_sort(properties, {}, &CardProperty::preference);
 
+    const Labels labels = ownLabels(card);
     Person person;
     for (const CardProperty *property : properties) {
         const QString &name = property->name;
-        if (name == QLatin1String("N")) {
+        // Of several, such as one in another script, the preferred one.
+        if (name == QLatin1String("N") && person.firstName.isEmpty() && person.lastName.isEmpty()) {
             person.lastName = partOf(*property, 0);
             person.firstName = partOf(*property, 1);
-        } else if (name == QLatin1String("FN")) {
+        } else if (name == QLatin1String("FN") && person.fullName.isEmpty()) {
             person.fullName = textOf(*property);
-        } else if (name == QLatin1String("ORG")) {
+        } else if (name == QLatin1String("ORG") && person.organization.isEmpty()) {
             person.organization = partOf(*property, 0);
-        } else if (name == QLatin1String("UID")) {
-            person.uid = textOf(*property);
         } else if (name == QLatin1String(kMailboxAttribute)) {
             person.mailbox = textOf(*property);
         } else if (name == QLatin1String("TEL")) {
-            takeNumber(person, card, *property);
+            takeNumber(person, labels, *property);
         } else if (name == QLatin1String("EMAIL")) {
             if (const QString address = textOf(*property); !address.isEmpty())
                 person.emailAddresses << address;

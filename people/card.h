@@ -28,8 +28,9 @@ struct CardProperty
 // without control characters.
 QString shownText(const QString &text);
 
-// Of N, FN, ORG, EMAIL, TEL with X-ABLABEL, UID and the mailbox; the rest is nothing to us. A
-// name that is missing is made of what there is, an organization or an e-mail address last.
+// Of N, FN, ORG, EMAIL, TEL with X-ABLABEL, and the mailbox; the rest is nothing to us. A name
+// that is missing is made of what there is, an organization or an e-mail address last. Without
+// a uid.
 Person personOf(const std::vector<CardProperty> &card);
 
 } // namespace kelvo

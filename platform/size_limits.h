@@ -25,8 +25,11 @@ inline constexpr qint64 secretBytes = 4 * KiB; // a file given by --secret
 inline constexpr qint64 documentBytes = 2048 * MiB;
 inline constexpr qint64 pictureBytes = 256 * MiB; // a picture file before decoding
 inline constexpr qint64 picturePixels = 200'000'000;
-inline constexpr qint64 fontBytes = 64 * MiB; // the largest in the field have 40
-inline constexpr qint64 textBytes = 64 * MiB; // plain text; some 15,000 pages
+inline constexpr qint64 fontBytes = 64 * MiB;     // the largest in the field have 40
+inline constexpr qint64 textBytes = 64 * MiB;     // plain text; some 15,000 pages
+inline constexpr qint64 cardFileBytes = 64 * MiB; // vCards, with a picture each
+inline constexpr int cards = 50'000;
+inline constexpr int cardProperties = 1000;   // of one card
 inline constexpr int documentPages = 100'000; // made of a text, or named by page ranges
 
 // The child processes that make PDFs of what users choose, and read and write PDFs.

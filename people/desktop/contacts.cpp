@@ -84,7 +84,7 @@ Person personOf(EContact *contact)
     for (const GList *each = e_vcard_get_attributes(E_VCARD(contact)); each; each = each->next)
         card.push_back(propertyOf(static_cast<EVCardAttribute *>(each->data)));
     Person person = personOf(card);
-    person.uid = uidOf(contact); // as it is looked for
+    person.uid = uidOf(contact);
     return person;
 }
 
