@@ -125,8 +125,9 @@ void FaxRecipientReleaseCallback(const void * /*allocator*/, const void *recipie
 
 bool isSameRecipient(const FaxRecipient &a, const FaxRecipient &b)
 {
-    return a.firstName() == b.firstName() && a.lastName() == b.lastName()
-        && a.faxNumber() == b.faxNumber();
+    // Numbers differ soonest, and long lists are compared one with each other.
+    return a.faxNumber() == b.faxNumber() && a.firstName() == b.firstName()
+        && a.lastName() == b.lastName();
 }
 
 } // namespace kelvo

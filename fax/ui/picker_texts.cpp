@@ -68,10 +68,10 @@ QString problemText(CFBundleRef bundle, const CardProblem &problem)
 
 std::vector<ListView::Column> pickerColumns(CFBundleRef bundle)
 {
-    return {{faxText(bundle, "People Name Column"), 170},
-            {faxText(bundle, "People Organization Column"), 130},
-            {faxText(bundle, "People Number Column"), 180},
-            {faxText(bundle, "People State Column"), 70, {faxText(bundle, "People In List")}}};
+    return {{faxText(bundle, "People Name Column"), 150},
+            {faxText(bundle, "People Organization Column"), 110},
+            {faxText(bundle, "People Number Column"), 165},
+            {faxText(bundle, "People State Column"), 55, {faxText(bundle, "People In List")}}};
 }
 
 QString pickerCell(CFBundleRef bundle, const PeopleRow &row, int column, bool isInList)

@@ -73,7 +73,7 @@ QString dialedHint(const RecipientDialog &dialog, const QString &typed)
     case NumberState::TooLong:
         return formatted(
             text(dialog, "Fax Number Too Long Hint"),
-            {dialed, QLocale().toString(dialed.size()), QLocale().toString(kMaxDialingString)});
+            {QLocale().toString(dialed.size()), QLocale().toString(kMaxDialingString)});
     }
     return {};
 }
@@ -130,9 +130,9 @@ bool makeWindow(RecipientDialog &dialog, const char *title, QWidget *parent)
     dialog.window->setWindowTitle(text(dialog, title));
     for (QLabel *hint : {dialog.dialed, dialog.label, dialog.mailboxHint})
         makeHintText(hint);
-    // A number that is too long takes a second line; what is below stays where it is.
-    dialog.dialed->setMinimumHeight(2 * dialog.dialed->fontMetrics().lineSpacing());
-    dialog.dialed->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    // The longest number that is dialed, which has no place to be broken, is seen whole.
+    dialog.faxNumber()->setMinimumWidth(
+        dialog.faxNumber()->fontMetrics().horizontalAdvance(QString(kMaxDialingString + 2, u'0')));
     const RecipientInput input = inputOf(dialog.before);
     for (std::size_t i = 0; i < std::size(fields); ++i) {
         setInputLimits(dialog.edits[i], {.maximumLength = kLongestText});

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Recipient Mailbox Hint</source>
-        <translation>A mailbox of the receiving device; leave it empty for the device’s tray.</translation>
+        <translation>A mailbox of the receiving device. Empty: its tray.</translation>
     </message>
     <message>
         <source>Fax Number Missing Hint</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Fax Number Too Long Hint</source>
-        <translation>Will be dialed: %1. Those are %2 characters, and devices dial at most %3.</translation>
+        <translation>%1 characters of this would be dialed; devices dial at most %2.</translation>
     </message>
     <message>
         <source>Fax Number Label Hint</source>
