@@ -113,9 +113,10 @@ struct Overlay
 // A page that the device makes of the tickets and sends before those of the document.
 struct LeadingPage
 {
-    QString name;       // "Fax cover sheet"
-    QSizeF size;        // points
-    Dictionary content; // for whoever draws it (DrawLeadingPageFunction)
+    QString name;        // "Fax cover sheet"
+    QSizeF size;         // points
+    Dictionary content;  // for whoever draws it (DrawLeadingPageFunction)
+    quint64 version = 0; // another number, another drawing
     friend bool operator==(const LeadingPage &, const LeadingPage &) = default;
 };
 
