@@ -15,13 +15,15 @@ struct Request
 {
     Document document;
     OverlayPainter overlayPainter;
+    LeadingPagePainter leadingPagePainter;
     SideToDraw side;
     std::shared_ptr<std::atomic_bool> isAbandoned;
 };
 
 DrawnSide undrawn(const SideToDraw &side)
 {
-    return {{}, QList<PageProblem>(side.pages.size(), PageProblem::NotDrawable), {}};
+    const qsizetype places = side.leadingPage ? 1 : side.pages.size();
+    return {{}, QList<PageProblem>(places, PageProblem::NotDrawable), {}};
 }
 
 // The size in which a page is drawn that is turned only then.
@@ -78,6 +80,13 @@ struct OverlayKey
     friend bool operator==(const OverlayKey &, const OverlayKey &) = default;
 };
 
+struct LeadingPageKey
+{
+    LeadingPage page;
+    QSize pixels;
+    friend bool operator==(const LeadingPageKey &, const LeadingPageKey &) = default;
+};
+
 // Draws one side after the other, on the renderer's thread.
 class SideDrawer
 {
@@ -88,11 +97,14 @@ private:
     void load(const Document &document);
     DrawnPage drawPage(const Request &request, const SideToDraw::Page &page, PagePaper paper);
     QImage drawOverlay(const Request &request, const SideToDraw::OverlayOnPage &on);
+    DrawnSide drawPages(const Request &request);
+    DrawnSide drawLeadingPage(const Request &request);
 
     Document m_document; // keeps the file while it is read
     std::unique_ptr<PageDrawing> m_drawing;
     KeptImages<PageKey> m_pages;
     KeptImages<OverlayKey> m_overlays;
+    KeptImages<LeadingPageKey> m_leadingPages;
 };
 
 void SideDrawer::load(const Document &document)
@@ -135,8 +147,29 @@ QImage SideDrawer::drawOverlay(const Request &request, const SideToDraw::Overlay
 DrawnSide SideDrawer::draw(const Request &request)
 {
     load(request.document);
-    if (!m_drawing)
+    if (request.side.leadingPage)
+        return drawLeadingPage(request);
+    return m_drawing ? drawPages(request) : undrawn(request.side);
+}
+
+DrawnSide SideDrawer::drawLeadingPage(const Request &request)
+{
+    const LeadingPageKey key{*request.side.leadingPage, request.side.pixels};
+    QImage image = m_leadingPages.find(key);
+    if (image.isNull() && request.leadingPagePainter && !*request.isAbandoned) {
+        image = request.leadingPagePainter(key.page, key.pixels, *request.isAbandoned);
+        if (!image.isNull())
+            m_leadingPages.keep(key, image);
+    }
+    m_leadingPages.forgetUnused();
+    if (image.isNull())
         return undrawn(request.side);
+    const QRect whole(QPoint(), key.pixels);
+    return {composedSide(key.pixels, {{image, whole}}, {}), {PageProblem::None}, {}};
+}
+
+DrawnSide SideDrawer::drawPages(const Request &request)
+{
     const bool isAnyBehind =
         std::ranges::any_of(request.side.overlays, [](const SideToDraw::OverlayOnPage &on) {
             return on.overlay.place == Overlay::Place::Behind;
@@ -173,6 +206,7 @@ struct PageRenderer::Private
 {
     Document document; // the window's side
     OverlayPainter overlayPainter;
+    LeadingPagePainter leadingPagePainter;
     // Of the newest request. What is no longer wanted stops being drawn.
     std::shared_ptr<std::atomic_bool> isAbandoned;
     std::thread thread;
@@ -249,6 +283,11 @@ void PageRenderer::setOverlayPainter(OverlayPainter painter)
     d->overlayPainter = std::move(painter);
 }
 
+void PageRenderer::setLeadingPagePainter(LeadingPagePainter painter)
+{
+    d->leadingPagePainter = std::move(painter);
+}
+
 void PageRenderer::render(const SideToDraw &side)
 {
     d->abandon();
@@ -260,7 +299,8 @@ void PageRenderer::render(const SideToDraw &side)
     }
     {
         const std::lock_guard lock(d->mutex);
-        d->next = Request{d->document, d->overlayPainter, side, d->isAbandoned};
+        d->next =
+            Request{d->document, d->overlayPainter, d->leadingPagePainter, side, d->isAbandoned};
     }
     d->changed.notify_one();
 }

@@ -18,7 +18,7 @@ namespace kelvo {
 struct DrawnSide
 {
     QImage picture;              // null: none of its pages could be drawn
-    QList<PageProblem> problems; // of its pages, in their order
+    QList<PageProblem> problems; // of its pages, in their order, or of the leading page
     QStringList lackingOverlays; // the names of those that could not be drawn
 };
 
@@ -27,6 +27,10 @@ struct DrawnSide
 using OverlayPainter =
     std::function<QImage(const Overlay &overlay, const QSizeF &page, const QSize &pixels,
                          const std::atomic_bool &cancelled)>;
+
+// A leading page, fitted into `pixels`, on white paper. Called likewise.
+using LeadingPagePainter = std::function<QImage(const LeadingPage &page, const QSize &pixels,
+                                                const std::atomic_bool &cancelled)>;
 
 // Renders sides of sheets: the pages in a child process, beside which a thread of its own
 // waits and puts them together. One document at a time; a newer request replaces an older
@@ -40,8 +44,9 @@ public:
     ~PageRenderer() override;
 
     void setDocument(const Document &document);
-    void setOverlayPainter(OverlayPainter painter); // for requests from now on; null: none
-    void render(const SideToDraw &side);            // answered by rendered(), once
+    void setOverlayPainter(OverlayPainter painter);         // for requests from now on; null: none
+    void setLeadingPagePainter(LeadingPagePainter painter); // likewise
+    void render(const SideToDraw &side);                    // answered by rendered(), once
 
 signals:
     void rendered(const kelvo::DrawnSide &side);

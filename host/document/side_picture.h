@@ -8,8 +8,10 @@
 #include <QSize>
 #include <QSizeF>
 
+#include <optional>
+
 // What one looks at when one looks at one side of a sheet: pages of the document on white
-// paper, and what is drawn over them and under them.
+// paper, and what is drawn over them and under them; or the page that the device sends first.
 namespace kelvo {
 
 // All in pixels of the picture, from its top left.
@@ -33,6 +35,9 @@ struct SideToDraw
     QSize pixels;
     QList<Page> pages;
     QList<OverlayOnPage> overlays;
+    std::optional<LeadingPage> leadingPage; // fills the side, and nothing else is on it
+
+    bool isBlank() const { return pages.isEmpty() && !leadingPage; }
     friend bool operator==(const SideToDraw &, const SideToDraw &) = default;
 };
 

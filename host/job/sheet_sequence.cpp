@@ -15,13 +15,15 @@ SpecialSheets::Exception within(SpecialSheets::Exception exception, int pages)
 } // namespace
 
 SheetSequence::SheetSequence(int pages, bool twoSided, const SpecialSheets &special,
-                             const std::optional<Imposition> &imposition)
+                             const std::optional<Imposition> &imposition, bool hasLeadingPage)
     : m_pages(pages)
     , m_isBooklet(imposition && imposition->kind == Imposition::Kind::Booklet)
 {
     using enum SheetSide::Kind;
     if (pages < 1)
         return;
+    if (hasLeadingPage)
+        add({.kind = LeadingPage, .sheet = 0}, 1, 0);
     if (special.frontCover == SpecialSheets::Cover::Sheet)
         add({.kind = FrontCover}, 1, 1);
     if (m_isBooklet)

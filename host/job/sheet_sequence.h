@@ -8,7 +8,9 @@
 // The sheets of a job in the order in which they come out: covers, inserts and the
 // pages that are printed. Rules:
 //
-// - The front cover comes first, inserts after the page that they follow, the back
+// - A page that the device sends before the document comes first of all. It is no sheet: what
+//   sends it says what becomes of it.
+// - The front cover comes before all pages, inserts after the page that they follow, the back
 //   cover last. What would follow a page that is not printed comes nowhere.
 // - Inserts, covers and exception ranges begin a new sheet, and so does what comes
 //   after them: on paper that is printed on both sides a back may stay blank.
@@ -19,10 +21,10 @@
 //   they are counted after the booklet. Exception ranges begin no sheets of their own in it.
 namespace kelvo {
 
-// What one looks at: a printed side, or a whole sheet without print.
+// What one looks at: a printed side, a whole sheet without print, or the leading page.
 struct SheetSide
 {
-    enum class Kind { FrontCover, Insert, Page, Booklet, BlankBack, BackCover };
+    enum class Kind { LeadingPage, FrontCover, Insert, Page, Booklet, BlankBack, BackCover };
     Kind kind = Kind::Page;
     qint64 sheet = 1; // its number, from 1; the first one of an insert
     int sheets = 1;   // of an insert
@@ -45,9 +47,9 @@ class SheetSequence
 {
 public:
     SheetSequence() = default; // without sheets
-    // For `pages` pages; none have no covers either.
+    // For `pages` pages; none have no covers either, and nothing leads.
     SheetSequence(int pages, bool twoSided, const SpecialSheets &special,
-                  const std::optional<Imposition> &imposition = {});
+                  const std::optional<Imposition> &imposition = {}, bool hasLeadingPage = false);
 
     // Sides to look at, one for all sheets of an insert. A back that stays blank is
     // one where something comes after it.

@@ -324,6 +324,7 @@ struct DocumentPreview::Private
         // after it stays as far behind it.
         const int pageBefore = page();
         const int behind = sidesBehindPage();
+        const bool wasAtTheBeginning = index == 0 && !isLeading();
         const int last = document.pageCount();
         runs = layout.pages;
         if (runs.empty() && last > 0)
@@ -332,11 +333,13 @@ struct DocumentPreview::Private
         std::erase_if(runs, [last](const PageRun &run) { return run.first > last; });
         for (PageRun &run : runs)
             run.last = std::min(run.last, last);
-        sequence =
-            SheetSequence(pageCount(runs), layout.twoSided, layout.special, layout.imposition);
+        sequence = SheetSequence(pageCount(runs), layout.twoSided, layout.special,
+                                 layout.imposition, layout.leadingPage.has_value());
         // A page may be printed twice.
         const bool isThere = page() == pageBefore && sidesBehindPage() == behind;
-        const int printed = isThere ? 0 : kelvo::printedPage(runs, pageBefore);
+        // Who looks at the beginning sees what comes before it now.
+        const bool stays = isThere || (wasAtTheBeginning && isLeading());
+        const int printed = stays ? 0 : kelvo::printedPage(runs, pageBefore);
         if (printed > 0) {
             followed = printed;
             index = sequence.indexOfPage(printed) + behind;
@@ -356,9 +359,14 @@ struct DocumentPreview::Private
         sync();
     }
 
-    // The pages that are printed on a side, place by place; 0 for a blank one.
+    bool isLeading() const { return side().kind == SheetSide::Kind::LeadingPage; }
+
+    // The pages that are printed on a side, place by place; 0 for a blank one. The leading page
+    // is none of them.
     static QList<int> printedPages(const SheetSide &shown)
     {
+        if (shown.kind == SheetSide::Kind::LeadingPage)
+            return {};
         if (shown.kind == SheetSide::Kind::Booklet)
             return {shown.bookletPages[0], shown.bookletPages[1]};
         return {shown.kind == SheetSide::Kind::Page ? shown.page : 0};
@@ -366,6 +374,8 @@ struct DocumentPreview::Private
 
     SidePlacement placementOf(const SheetSide &shown) const
     {
+        if (shown.kind == SheetSide::Kind::LeadingPage)
+            return placePage(layout.leadingPage->size, {}, Orientation::Portrait);
         if (layout.imposition) {
             // Covers and inserts are folded with the sheets that they lie around or in.
             BookletSide side;
@@ -403,6 +413,8 @@ struct DocumentPreview::Private
             placementOf(shown), layout.imposition && layout.imposition->drawsBorders, {}, {}};
         for (int page : printedPages(shown))
             sheet->wanted.notes << (page > 0 ? QString() : blankWords());
+        if (isLeading())
+            sheet->wanted.notes = {QString()};
         const bool hadWords = !sheet->words.isEmpty();
         sheet->words = sheetWords(shown, layout.words);
         sheet->isMarked = !shown.exceptions.isEmpty();
@@ -419,7 +431,8 @@ struct DocumentPreview::Private
         QString text;
         if (message.isEmpty() && count() > 0) {
             const SheetSide shown = side();
-            text = sideCaption(shown, runs, document.pageCount(), layout.words);
+            text = sideCaption(shown, runs, document.pageCount(), layout.words,
+                               layout.leadingPage ? layout.leadingPage->name : QString());
             const QStringList lacking = answer ? answer->lackingOverlays : QStringList();
             const QString remark =
                 remarkCaption(shown, sheet->wanted.placement, lacking, layout.words);
@@ -444,6 +457,8 @@ struct DocumentPreview::Private
         };
         SideToDraw drawing;
         drawing.pixels = (all.size() * ratio).toSize();
+        if (isLeading())
+            drawing.leadingPage = layout.leadingPage;
         const QList<int> printed = printedPages(side());
         for (int place = 0; place < printed.size(); ++place) {
             if (printed[place] == 0)
@@ -468,7 +483,7 @@ struct DocumentPreview::Private
         const SideToDraw drawing = sideToDraw();
         if (drawing.pixels.isEmpty())
             return;
-        if (drawing.pages.isEmpty()) { // both sides of a fold are blank
+        if (drawing.isBlank()) { // both sides of a fold are blank
             forgetAsked();
             return;
         }
@@ -491,7 +506,7 @@ struct DocumentPreview::Private
 
     void take(const DrawnSide &side)
     {
-        if (asked.pages.isEmpty())
+        if (asked.isBlank())
             return; // a blank side is shown by now
         answer = side;
         showAnswer();
@@ -587,6 +602,11 @@ void DocumentPreview::setOverlayPainter(OverlayPainter painter)
     d->renderer.setOverlayPainter(std::move(painter));
 }
 
+void DocumentPreview::setLeadingPagePainter(LeadingPagePainter painter)
+{
+    d->renderer.setLeadingPagePainter(std::move(painter));
+}
+
 void DocumentPreview::setMessage(const QString &message)
 {
     d->message = message;
@@ -595,7 +615,7 @@ void DocumentPreview::setMessage(const QString &message)
 
 bool DocumentPreview::isDrawing() const
 {
-    return !d->asked.pages.isEmpty() && !d->answer;
+    return !d->asked.isBlank() && !d->answer;
 }
 
 QSize DocumentPreview::sizeHint() const

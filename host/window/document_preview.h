@@ -18,7 +18,8 @@ namespace kelvo {
 // any theme, page forward and back, "Sheet 2, front". Covers and inserts are sheets
 // with their name on them; pages of an exception range have a corner marked. Sheets of a
 // booklet have two pages on a side and a line where they are folded. The caller says what is
-// printed; nothing here decides it.
+// printed; nothing here decides it. What the device sends before the document has the first
+// place, under its own name.
 class DocumentPreview : public QWidget
 {
     Q_OBJECT
@@ -37,11 +38,13 @@ public:
         SpecialSheetWords words; // what they are called
         std::optional<Imposition> imposition;
         std::vector<Overlay> overlays;
+        std::optional<LeadingPage> leadingPage;
     };
     void setDocument(const Document &document);
     void setLayout(const Layout &layout);
-    void setOverlayPainter(OverlayPainter painter); // of sides drawn from now on
-    void setMessage(const QString &message);        // instead of a page; empty shows pages again
+    void setOverlayPainter(OverlayPainter painter);         // of sides drawn from now on
+    void setLeadingPagePainter(LeadingPagePainter painter); // likewise
+    void setMessage(const QString &message); // instead of a page; empty shows pages again
 
     bool isDrawing() const; // a side that was asked for is not in sight yet
     QSize sizeHint() const override;

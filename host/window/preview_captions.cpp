@@ -49,10 +49,12 @@ QString rangesInWords(const QList<SpecialSheets::Exception> &exceptions)
 } // namespace
 
 QString sideCaption(const SheetSide &side, const std::vector<PageRun> &runs, int count,
-                    const SpecialSheetWords &words)
+                    const SpecialSheetWords &words, const QString &leadingPage)
 {
     const QString sheet = QString::number(side.sheet);
     switch (side.kind) {
+    case SheetSide::Kind::LeadingPage:
+        return leadingPage;
     case SheetSide::Kind::FrontCover:
         return translate("Preview", "Sheet %1 · %2").arg(sheet, words.frontCover);
     case SheetSide::Kind::BackCover:
@@ -108,6 +110,7 @@ QString sheetWords(const SheetSide &side, const SpecialSheetWords &words)
             : translate("Preview", "%1, %n sheet(s)", nullptr, side.sheets).arg(words.insert);
     case SheetSide::Kind::BlankBack:
         return blankWords();
+    case SheetSide::Kind::LeadingPage:
     case SheetSide::Kind::Page:
     case SheetSide::Kind::Booklet:
         break;

@@ -1,5 +1,6 @@
 #include "print_dialog.h"
 
+#include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
 #include "document_preview.h"
@@ -7,7 +8,6 @@
 #include "job_details_dialog.h"
 #include "modal_dialog.h"
 #include "notice.h"
-#include "overlay_painter.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "preset_menu.h"
@@ -317,7 +317,10 @@ void PrintDialog::updatePreview()
     layout.imposition = description.imposition;
     layout.overlays = description.overlays;
     if (!layout.overlays.empty())
-        m_parts.preview->setOverlayPainter(overlayPainter(OverlayDrawer(m_bundle)));
+        m_parts.preview->setOverlayPainter(overlayPainter(BundleDrawer(m_bundle)));
+    layout.leadingPage = description.leadingPage;
+    if (layout.leadingPage)
+        m_parts.preview->setLeadingPagePainter(leadingPagePainter(BundleDrawer(m_bundle)));
     m_parts.preview->setLayout(layout);
 }
 

@@ -25,8 +25,8 @@ private slots:
 
 namespace {
 
-// "F" front cover, "2x3" two sheets of an insert after page 3, "4" a page, "4f" and "4b"
-// on a front or back, "8+1f" a front of a booklet, "-" a blank back, "B" back cover; "!" for
+// "L" what leads, "F" front cover, "2x3" two sheets of an insert after page 3, "4" a page, "4f" and
+// "4b" on a front or back, "8+1f" a front of a booklet, "-" a blank back, "B" back cover; "!" for
 // each exception, "?" for an insert anywhere. Before each the number of the sheet.
 QString outlineOf(const SheetSequence &sequence)
 {
@@ -35,6 +35,9 @@ QString outlineOf(const SheetSequence &sequence)
         const SheetSide side = sequence.side(index);
         QString text;
         switch (side.kind) {
+        case SheetSide::Kind::LeadingPage:
+            text = "L";
+            break;
         case SheetSide::Kind::FrontCover:
             text = "F";
             break;
@@ -144,6 +147,11 @@ void TestSheetSequence::comeInOrder()
     QCOMPARE(sequence.sheets(), sheets);
     QCOMPARE(sequence.indexOfPage(pages + 1), -1);
     QCOMPARE(sequence.indexOfPage(0), -1);
+
+    // What leads is a side to look at, and no sheet.
+    const SheetSequence led(pages, twoSided, special, {}, true);
+    QCOMPARE(outlineOf(led), pages > 0 ? "1:L " + outlineOf(sequence) : QString());
+    QCOMPARE(led.sheets(), sheets);
 }
 
 // Sums beyond 32 bits, and no hang.

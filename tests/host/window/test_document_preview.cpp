@@ -69,6 +69,7 @@ private slots:
     void staysOnThePageInBooklets();
     void drawsSidesOfBooklets();
     void drawsWhatLiesOverPages();
+    void beginsWithTheLeadingPage();
     void showsPaperAndMessages();
     void drawsWhatIsPrinted();
     void showsWhatIsCutOff();
@@ -303,6 +304,64 @@ void TestDocumentPreview::drawsWhatLiesOverPages()
     preview.setLayout(layout);
     QTRY_COMPARE(middle(preview), QColor(Qt::red));
     QCOMPARE(caption(preview), "Sheet 2 · page 2 of 3\n“Gone” cannot be shown");
+}
+
+void TestDocumentPreview::beginsWithTheLeadingPage()
+{
+    DocumentPreview preview;
+    preview.resize(300, 400);
+    QList<QSize> sizes;
+    preview.setLeadingPagePainter(
+        [&](const LeadingPage &page, const QSize &pixels, const std::atomic_bool &) {
+            sizes << pixels;
+            QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+            image.fill(page.version == 0 ? Qt::blue : Qt::green);
+            return page.content.isEmpty() ? QImage() : image;
+        });
+    preview.setDocument(documentOf({"", filled("1 0 0"), ""}));
+    DocumentPreview::Layout layout{.pages = {{2, 3}}, .paper = {300, 300}, .twoSided = true};
+    layout.leadingPage = {"Cover sheet", {600, 200}, {{"text", "x"}}};
+    preview.setLayout(layout);
+    preview.show();
+
+    // In sight from the beginning, on paper of its own, and no sheet is counted for it.
+    QTRY_COMPARE(middle(preview), QColor(Qt::blue));
+    QVERIFY(sizes.last().width() > 2.9 * sizes.last().height());
+    QCOMPARE(caption(preview), "Cover sheet");
+    QWidget *sheet = preview.findChild<QWidget *>("previewSheet");
+    QCOMPARE(sheet->accessibleDescription(), "Cover sheet");
+    QCOMPARE(captionsOf(preview),
+             (QStringList{"Cover sheet", "Sheet 1, front · page 2 of 3",
+                          "Sheet 1, back · page 3 of 3"}));
+
+    // The page stays in sight when it goes and comes; at the beginning it comes into sight.
+    layout.leadingPage.reset();
+    preview.setLayout(layout);
+    QCOMPARE(caption(preview), "Sheet 1, back · page 3 of 3");
+    layout.leadingPage = {"Cover sheet", {200, 200}, {{"text", "x"}}, 1};
+    preview.setLayout(layout);
+    QCOMPARE(caption(preview), "Sheet 1, back · page 3 of 3");
+    QTest::keyClick(sheet, Qt::Key_Home);
+    QTRY_COMPARE(middle(preview), QColor(Qt::green));
+    layout.leadingPage.reset();
+    preview.setLayout(layout);
+    QTRY_COMPARE(middle(preview), QColor(Qt::red));
+    QCOMPARE(caption(preview), "Sheet 1, front · page 2 of 3");
+    layout.leadingPage = {"Cover sheet", {200, 200}, {{"text", "x"}}};
+    layout.imposition = Imposition(); // nor is it a part of a booklet
+    preview.setLayout(layout);
+    QCOMPARE(caption(preview), "Cover sheet");
+    QTRY_COMPARE(middle(preview), QColor(Qt::blue));
+
+    layout.leadingPage->content.clear();
+    preview.setLayout(layout);
+    QTRY_VERIFY(!preview.isDrawing());
+    QVERIFY(middle(preview) != QColor(Qt::blue));
+    const QImage note = sheet->grab().toImage();
+    int inked = 0;
+    for (int x = 0; x < note.width(); ++x)
+        inked += note.pixelColor(x, note.height() / 2).lightness() < 200;
+    QVERIFY(inked > 5); // it says so
 }
 
 void TestDocumentPreview::showsPaperAndMessages()

@@ -1,3 +1,4 @@
+#include "cover_sheet.h"
 #include "files.h"
 #include "job_description.h"
 #include "watermark_drawing.h"
@@ -7,6 +8,7 @@
 #include <QLibrary>
 #include <QTest>
 
+#include <poppler-qt6.h>
 #include <thread>
 
 using namespace kelvo;
@@ -17,13 +19,14 @@ namespace {
 constexpr QSizeF letter(612, 792);
 
 DrawOverlayFunction drawOverlay = nullptr;
+DrawLeadingPageFunction drawLeadingPage = nullptr;
 
-void save(const Dictionary &entries)
+void save(const Dictionary &entries, const QString &fileName = kWatermarksFile)
 {
     _WatermarkData watermark = newWatermark();
     takeDictionary(watermark, entries);
     watermark.isText = watermark.filename[0] == '\0';
-    saveWatermarkData(kWatermarksFile, watermark);
+    saveWatermarkData(fileName, watermark);
 }
 
 QByteArray drawn(const QString &name)
@@ -57,7 +60,7 @@ QString pictureFile(const QSize &size, Qt::GlobalColor color)
 
 } // namespace
 
-class TestDrawOverlay : public QObject
+class TestBundleDrawing : public QObject
 {
     Q_OBJECT
 
@@ -67,16 +70,19 @@ private slots:
     void drawsPicturesAsTheyAreNow();
     void drawsOnAnyThread();
     void drawsNothingElse();
+    void drawsTheCoverSheet();
 };
 
-void TestDrawOverlay::initTestCase()
+void TestBundleDrawing::initTestCase()
 {
     QLibrary module(u"" KELVO_BUILD_DIR "/lib/KelvoPDE.pde/KelvoPDE.so"_s);
     drawOverlay = reinterpret_cast<DrawOverlayFunction>(module.resolve(kDrawOverlayName));
-    QVERIFY2(drawOverlay, qPrintable(module.errorString()));
+    drawLeadingPage =
+        reinterpret_cast<DrawLeadingPageFunction>(module.resolve(kDrawLeadingPageName));
+    QVERIFY2(drawOverlay && drawLeadingPage, qPrintable(module.errorString()));
 }
 
-void TestDrawOverlay::drawsTextOnNothing()
+void TestBundleDrawing::drawsTextOnNothing()
 {
     save({{u"textString"_s, u"\u2588"_s}, {u"density"_s, 25}, {u"angle"_s, 0}});
 
@@ -86,7 +92,7 @@ void TestDrawOverlay::drawsTextOnNothing()
     QCOMPARE(image.pixel(5, 5), 0U);
 }
 
-void TestDrawOverlay::drawsPicturesAsTheyAreNow()
+void TestBundleDrawing::drawsPicturesAsTheyAreNow()
 {
     save({{u"filename"_s, u"logo.png"_s},
           {u"filePath"_s, pictureFile({100, 100}, Qt::red)},
@@ -115,7 +121,7 @@ void TestDrawOverlay::drawsPicturesAsTheyAreNow()
     QVERIFY(!drawn(u"logo.png"_s).isEmpty()); // who wants it gets it all the same
 }
 
-void TestDrawOverlay::drawsOnAnyThread()
+void TestBundleDrawing::drawsOnAnyThread()
 {
     save({{u"textString"_s, u"Draft"_s}});
     pictureFile({10, 10}, Qt::red);
@@ -133,7 +139,7 @@ void TestDrawOverlay::drawsOnAnyThread()
     QCOMPARE(drawnOnes, 4);
 }
 
-void TestDrawOverlay::drawsNothingElse()
+void TestBundleDrawing::drawsNothingElse()
 {
     QVERIFY(drawn(u"none of that name"_s).isEmpty());
     const OverlayToDraw overlay{u"Draft"_s, letter};
@@ -146,5 +152,37 @@ void TestDrawOverlay::drawsNothingElse()
     QCOMPARE(drawOverlay(&sizeless, &pdf), fnfErr);
 }
 
-QTEST_GUILESS_MAIN(TestDrawOverlay)
-#include "test_draw_overlay.moc"
+void TestBundleDrawing::drawsTheCoverSheet()
+{
+    save({{u"filename"_s, u"logo.png"_s},
+          {u"filePath"_s, pictureFile({100, 100}, Qt::red)},
+          {u"scale"_s, 200},
+          {u"density"_s, 50}},
+         kFaxImagesFile);
+    CoverSheetContent content{.notesLabel = u"Notes:"_s, .notesText = u"Call"_s};
+    content.image = u"logo.png"_s;
+    std::atomic_bool cancelled = false;
+    const LeadingPageToDraw page{letter, content.toDictionary(), &cancelled};
+    QByteArray pdf;
+
+    QCOMPARE(drawLeadingPage(&page, &pdf), noErr);
+    QCOMPARE(shown(pdf).pixel(306, 396), qRgb(255, 127, 127));
+    const auto read = Poppler::Document::loadFromData(pdf);
+    QCOMPARE(read->page(0)->text({}).simplified(), u"Notes: Call"_s);
+
+    // Without the picture it is the cover sheet all the same.
+    QFile::remove(u"logo.png"_s);
+    QCOMPARE(drawLeadingPage(&page, &pdf), noErr);
+    QCOMPARE(shown(pdf).pixel(306, 396), qRgb(255, 255, 255));
+
+    cancelled = true;
+    QCOMPARE(drawLeadingPage(&page, &pdf), fnfErr);
+    QVERIFY(pdf.isEmpty());
+    const LeadingPageToDraw sizeless{{}, content.toDictionary()};
+    QCOMPARE(drawLeadingPage(&sizeless, &pdf), fnfErr);
+    QCOMPARE(drawLeadingPage(nullptr, &pdf), paramErr);
+    QCOMPARE(drawLeadingPage(&page, nullptr), paramErr);
+}
+
+QTEST_GUILESS_MAIN(TestBundleDrawing)
+#include "test_bundle_drawing.moc"
