@@ -81,7 +81,7 @@ void TestAddressBook::saysWhyItCannotBeOpened()
     const std::pair<QByteArray, Error::Code> rows[] = {
         {{}, Error::Code::NotFound},
         {"no library", Error::Code::NotReadable},
-        {bytesOf(u"" KELVO_BUILD_DIR "/lib/libkelvo_drawing.so"_s), Error::Code::Damaged},
+        {bytesOf(u"" KELVO_BUILD_DIR "/lib/libkelvo_platform.so"_s), Error::Code::Damaged},
     };
     for (const auto &[bytes, code] : rows) {
         const QTemporaryDir folder;

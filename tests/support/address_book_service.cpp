@@ -4,7 +4,7 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QDBusInterface>
+#include <QDBusMessage>
 #include <QDBusReply>
 
 #include <csignal>
@@ -27,22 +27,29 @@ QStringList services(const char *method)
     return names.value().filter(namesPrefix);
 }
 
+QDBusMessage call(const QString &service, const QString &path, const QString &interface,
+                  const QString &method, const QVariantList &arguments)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, method);
+    message.setArguments(arguments);
+    return connection().call(message);
+}
+
 // Asks the user's book.
 QDBusMessage ask(const QString &method, const QVariantList &arguments)
 {
     const QString own = namesPrefix + QStringLiteral("AddressBook");
-    const QString service = services("ListActivatableNames").filter(own).value(0);
-    QDBusInterface factory(service,
-                           QStringLiteral("/org/gnome/evolution/dataserver/AddressBookFactory"),
-                           own + QStringLiteral("Factory"), connection());
-    const QDBusMessage place =
-        factory.call(QStringLiteral("OpenAddressBook"), QStringLiteral("system-address-book"));
-    if (place.arguments().size() != 2)
-        qFatal("no address book: %s", qPrintable(place.errorMessage()));
-    QDBusInterface book(place.arguments()[1].toString(), place.arguments()[0].toString(), own,
-                        connection());
-    book.call(QStringLiteral("Open"));
-    return book.callWithArgumentList(QDBus::Block, method, arguments);
+    const QVariantList place =
+        call(services("ListActivatableNames").filter(own).value(0),
+             QStringLiteral("/org/gnome/evolution/dataserver/AddressBookFactory"),
+             own + QStringLiteral("Factory"), QStringLiteral("OpenAddressBook"),
+             {QStringLiteral("system-address-book")})
+            .arguments();
+    if (place.size() != 2)
+        qFatal("no address book: %s", qPrintable(place.value(0).toString()));
+    const QString path = place[0].toString(), service = place[1].toString();
+    call(service, path, own, QStringLiteral("Open"), {});
+    return call(service, path, own, method, arguments);
 }
 
 } // namespace
