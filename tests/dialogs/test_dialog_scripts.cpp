@@ -8,7 +8,7 @@
 // Drives the dialogs of the sample devices as their users do: each script in this
 // folder is a row. Its first line names the device, the user's locale and, where the
 // dialog begins with one, a ticket: "# full en_US: what it shows",
-// "# mid en_US foreign.plist: what it shows".
+// "# mid en_US foreign.plist: what it shows". Cards of the script's name lie where it runs.
 class TestDialogScripts : public QObject
 {
     Q_OBJECT
@@ -59,6 +59,8 @@ void TestDialogScripts::goesAsWritten()
     if (words.size() > 3)
         arguments << "--ticket-in" << QFileInfo(path).dir().filePath(words[3]);
     Desk desk;
+    const QString cards = QFileInfo(path).completeBaseName() + QStringLiteral(".vcf");
+    QFile::copy(QFileInfo(path).dir().filePath(cards), desk.path(cards)); // of most there are none
     desk.set(QStringLiteral("LC_ALL"), words[2] + QStringLiteral(".UTF-8"));
     const Run run = desk.run(arguments);
     QENDED(run, 0);
@@ -92,6 +94,9 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
     row("JobTypes/SecurePrint", "choose @jobType key SecurePrint");
     row("JobTypes/DelayedPrint", "choose @jobType key DelayedPrint");
     row("JobTypes/SavedJob", "choose @jobType key \"Save to Mailbox Command\"");
+    const QByteArray fax = "choose @jobType key Fax\n";
+    row("LANFAX/Recipient", fax + "click @addRecipient", 1);
+    row("LANFAX/AddressBook", fax + "click @addFromAddressBook", 1);
     row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
     row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
     row("FinishingDialogs/CustomFinishing", "item @moreFinishing 'Fcus'");
