@@ -1,3 +1,4 @@
+#include "address_book_service.h"
 #include "kelvo_print.h"
 #include "sample_ppds.h"
 #include "table.h"
@@ -16,6 +17,7 @@ class TestDialogScripts : public QObject
 private slots:
     void goesAsWritten_data();
     void goesAsWritten();
+    void aGroupThatWasSavedIsFoundAgain();
     void aLibraryThatCannotBeKeptNamesItsFile();
     void aDialogThatCannotBeMadeSaysSo_data();
     void aDialogThatCannotBeMadeSaysSo();
@@ -65,6 +67,38 @@ void TestDialogScripts::goesAsWritten()
     const Run run = desk.run(arguments);
     QENDED(run, 0);
     QVERIFY2(!run.out.contains("STRING NOT FOUND"), qPrintable(run.out));
+}
+
+// In the desktop's own address book, by another run.
+void TestDialogScripts::aGroupThatWasSavedIsFoundAgain()
+{
+    AddressBookService service;
+    QCOMPARE(service.start(), QString());
+    Desk desk;
+    desk.set(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), service.address());
+    const auto run = [&desk](const QByteArray &lines) {
+        putFile(desk.path("s.kps"), "tab 1\nchoose @jobType key Fax\n" + lines);
+        return desk.run({"--demo", "--no-window", "--script", "s.kps"});
+    };
+    QENDED(run("click @addRecipient\ntype @recipientFirstName \"Ann\"\n"
+               "type @recipientLastName \"Lee\"\ntype @recipientFaxNumber \"555\"\n"
+               "type @recipientMailbox \"17\"\nclick @okButton\n"
+               "click @saveGroup\ntype @groupName \"Sales\"\nclick @okButton\n"
+               "expect-window @lanFax\nclick @okButton\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/LastName Lee\n"),
+           0);
+    // The person was saved with the first name alone.
+    QENDED(run("click @addFromAddressBook\nexpect @peopleList items 2\n"
+               "expect @peopleList cell 1 1 Sales\nexpect @peopleList cell 2 1 Ann\n"
+               "type @peopleSearch \"sal\"\nclick @addPeople\n"
+               "expect @peopleAdded text \"1 recipient was added.\"\n"
+               "click @cancelButton\nclick @okButton\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/FirstName Ann\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/LastName absent\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/FaxNumber 555\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/FaxNumberLabel work\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/Mailbox 17\n"),
+           0);
 }
 
 void TestDialogScripts::aLibraryThatCannotBeKeptNamesItsFile()
