@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
 
@@ -500,6 +501,9 @@ Done answerFileChooser(QWidget *window, const QString &path)
     const QFileInfo file(path);
     chooser->setDirectory(file.absolutePath());
     chooser->selectFile(file.absoluteFilePath());
+    // A chooser whose field has the focus leaves it to the user.
+    if (auto *name = chooser->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
+        name->setText(file.fileName());
     QMetaObject::invokeMethod(chooser, "accept", Qt::QueuedConnection);
     return {};
 }

@@ -34,8 +34,8 @@ using inspector::Failure;
 
 // How long the runner sleeps while the dialog is busy.
 constexpr int busyWaitMs = 5;
-// How long a line waits for the rows of a list, and a picture for a page of the document,
-// which can be endless.
+// How long a line waits for a file chooser to close and for the rows of a list, and a picture for a
+// page of the document, which can be endless.
 constexpr int contentWaitMs = 5000;
 
 struct LineProblem
@@ -119,6 +119,7 @@ struct ScriptRunner::Private
     ScriptRunner *q;
     QTimer tick;
     QElapsedTimer contentWait;
+    QPointer<QWidget> answeredChooser; // closes once the event loop runs
     std::size_t next = 0;
     QString metNotice;       // header and message of the notice that a line has met
     int printedBy = 0;       // line of the print that is on its way, 0 for none
@@ -207,7 +208,8 @@ void ScriptRunner::Private::step()
         return;
     }
     const bool isPicture = lines[next].command == ScriptCommand::Screenshot;
-    if (inspector::isAwaited(front())
+    const bool isClosing = answeredChooser && answeredChooser->isVisible();
+    if (isClosing || inspector::isAwaited(front())
         || (isPicture && (target.isDrawing() || inspector::isUnfinished(front())))) {
         if (!contentWait.isValid())
             contentWait.start();
@@ -217,6 +219,7 @@ void ScriptRunner::Private::step()
         }
     }
     contentWait.invalidate();
+    answeredChooser.clear();
     run(lines[next++]);
 }
 
@@ -380,6 +383,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
     case ScriptCommand::Key:
         return lineProblem(inspector::pressKey(front(), word(0)));
     case ScriptCommand::File:
+        answeredChooser = front();
         return lineProblem(inspector::answerFileChooser(front(), word(0)));
     case ScriptCommand::Command:
         return lineProblem(inspector::command(front(), *line.code));

@@ -1,3 +1,4 @@
+#include "address_book_service.h"
 #include "kelvo_print.h"
 #include "sample_ppds.h"
 #include "table.h"
@@ -8,7 +9,7 @@
 // Drives the dialogs of the sample devices as their users do: each script in this
 // folder is a row. Its first line names the device, the user's locale and, where the
 // dialog begins with one, a ticket: "# full en_US: what it shows",
-// "# mid en_US foreign.plist: what it shows".
+// "# mid en_US foreign.plist: what it shows". Cards of the script's name lie where it runs.
 class TestDialogScripts : public QObject
 {
     Q_OBJECT
@@ -16,6 +17,7 @@ class TestDialogScripts : public QObject
 private slots:
     void goesAsWritten_data();
     void goesAsWritten();
+    void aGroupThatWasSavedIsFoundAgain();
     void aLibraryThatCannotBeKeptNamesItsFile();
     void aDialogThatCannotBeMadeSaysSo_data();
     void aDialogThatCannotBeMadeSaysSo();
@@ -59,10 +61,44 @@ void TestDialogScripts::goesAsWritten()
     if (words.size() > 3)
         arguments << "--ticket-in" << QFileInfo(path).dir().filePath(words[3]);
     Desk desk;
+    const QString cards = QFileInfo(path).completeBaseName() + QStringLiteral(".vcf");
+    QFile::copy(QFileInfo(path).dir().filePath(cards), desk.path(cards)); // of most there are none
     desk.set(QStringLiteral("LC_ALL"), words[2] + QStringLiteral(".UTF-8"));
     const Run run = desk.run(arguments);
     QENDED(run, 0);
     QVERIFY2(!run.out.contains("STRING NOT FOUND"), qPrintable(run.out));
+}
+
+// In the desktop's own address book, by another run.
+void TestDialogScripts::aGroupThatWasSavedIsFoundAgain()
+{
+    AddressBookService service;
+    QCOMPARE(service.start(), QString());
+    Desk desk;
+    desk.set(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), service.address());
+    const auto run = [&desk](const QByteArray &lines) {
+        putFile(desk.path("s.kps"), "tab 1\nchoose @jobType key Fax\n" + lines);
+        return desk.run({"--demo", "--no-window", "--script", "s.kps"});
+    };
+    QENDED(run("click @addRecipient\ntype @recipientFirstName \"Ann\"\n"
+               "type @recipientLastName \"Lee\"\ntype @recipientFaxNumber \"555\"\n"
+               "type @recipientMailbox \"17\"\nclick @okButton\n"
+               "click @saveGroup\ntype @groupName \"Sales\"\nclick @okButton\n"
+               "expect-window @lanFax\nclick @okButton\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/LastName Lee\n"),
+           0);
+    // The person was saved with the first name alone.
+    QENDED(run("click @addFromAddressBook\nexpect @peopleList items 2\n"
+               "expect @peopleList cell 1 1 Sales\nexpect @peopleList cell 2 1 Ann\n"
+               "type @peopleSearch \"sal\"\nclick @addPeople\n"
+               "expect @peopleAdded text \"1 recipient was added.\"\n"
+               "click @cancelButton\nclick @okButton\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/FirstName Ann\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/LastName absent\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/FaxNumber 555\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/FaxNumberLabel work\n"
+               "expect-ticket com.kelvo.print.FaxRecipientList/0/Mailbox 17\n"),
+           0);
 }
 
 void TestDialogScripts::aLibraryThatCannotBeKeptNamesItsFile()
@@ -92,6 +128,9 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
     row("JobTypes/SecurePrint", "choose @jobType key SecurePrint");
     row("JobTypes/DelayedPrint", "choose @jobType key DelayedPrint");
     row("JobTypes/SavedJob", "choose @jobType key \"Save to Mailbox Command\"");
+    const QByteArray fax = "choose @jobType key Fax\n";
+    row("LANFAX/Recipient", fax + "click @addRecipient", 1);
+    row("LANFAX/AddressBook", fax + "click @addFromAddressBook", 1);
     row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
     row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
     row("FinishingDialogs/CustomFinishing", "item @moreFinishing 'Fcus'");
