@@ -255,7 +255,7 @@ QString CoverSheetDialog::cardHint() const
     if (!m_card)
         return text("Cover My Card Reading");
     if (!*m_card)
-        return formatted(text("Cover My Card Unavailable"), {m_card->error().text()});
+        return formatted(text("Cover My Card Unavailable"), {m_card->error().detail});
     return m_card->value() ? QString() : text("Cover My Card Missing");
 }
 
@@ -364,11 +364,13 @@ void CoverSheetDialog::readCard()
     if (m_card || m_cardReading.isBusy())
         return;
     const auto takeAnswer = [this](const Result<std::optional<Person>> &card) {
+        setAwaited(m_controls.myCard, false);
         m_card = card;
         if (m_fillsFromCard && m_settings.sender == FaxSender())
             takeCard();
         sync();
     };
+    setAwaited(m_controls.myCard, true);
     const bool isStarted =
         m_cardReading.start([read = m_ownCard, takeAnswer](const std::atomic_bool &isUnwanted) {
             return [takeAnswer, card = read(&isUnwanted)] { takeAnswer(card); };

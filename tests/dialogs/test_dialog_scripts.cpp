@@ -92,6 +92,10 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
     row("JobTypes/SecurePrint", "choose @jobType key SecurePrint");
     row("JobTypes/DelayedPrint", "choose @jobType key DelayedPrint");
     row("JobTypes/SavedJob", "choose @jobType key \"Save to Mailbox Command\"");
+    row("LANFAX/CoverSheet",
+        "choose @jobType key Fax\nset @faxTabs 3\nchoose @coverSheet key \"Print a Cover "
+        "Sheet...\"",
+        1);
     row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
     row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
     row("FinishingDialogs/CustomFinishing", "item @moreFinishing 'Fcus'");
