@@ -19,10 +19,13 @@
 #include "watermark_store.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 
+#include <algorithm>
 #include <array>
 
 namespace kelvo {
@@ -113,6 +116,7 @@ private:
     void sync();      // all else
     void showImage();
     void showPreview();
+    void makeRoom();
     QString cardHint() const;
 
     OSStatus handle(const Event &event);
@@ -183,7 +187,10 @@ void CoverSheetDialog::fillControls()
 
     m_preview = new CoverSheetPreview(m_device.bundle, m_controls.preview);
     QObject::connect(m_preview, &CoverSheetPreview::noticed, m_controls.notice,
-                     [this](const QString &notice) { m_controls.notice->setText(notice); });
+                     [this](const QString &notice) {
+                         m_controls.notice->setText(notice);
+                         makeRoom();
+                     });
 }
 
 void CoverSheetDialog::fillImageMenu(Menu &menu)
@@ -227,7 +234,20 @@ void CoverSheetDialog::sync()
     SetPopupButtonToTicketValue(m_controls.recipients, m_settings.recipients);
     setEnabledWithLabel(m_controls.customText, m_settings.recipients == kCustomText);
     showImage();
+    makeRoom();
     showPreview();
+}
+
+// For a reason of many lines: a layout whose heights follow its width does not ask for it.
+void CoverSheetDialog::makeRoom()
+{
+    m_controls.sender->parentWidget()->layout()->activate(); // with the new texts
+    m_window->layout()->activate();
+    const int width = m_window->width();
+    const int needed = std::min(m_window->layout()->totalMinimumHeightForWidth(width),
+                                m_window->screen()->availableGeometry().height());
+    if (m_window->isVisible() && needed > m_window->height())
+        m_window->resize(width, needed);
 }
 
 void CoverSheetDialog::showImage()
@@ -255,7 +275,7 @@ QString CoverSheetDialog::cardHint() const
     if (!m_card)
         return text("Cover My Card Reading");
     if (!*m_card)
-        return formatted(text("Cover My Card Unavailable"), {m_card->error().text()});
+        return formatted(text("Cover My Card Unavailable"), {m_card->error().detail});
     return m_card->value() ? QString() : text("Cover My Card Missing");
 }
 
@@ -364,11 +384,13 @@ void CoverSheetDialog::readCard()
     if (m_card || m_cardReading.isBusy())
         return;
     const auto takeAnswer = [this](const Result<std::optional<Person>> &card) {
+        setAwaited(m_controls.myCard, false);
         m_card = card;
         if (m_fillsFromCard && m_settings.sender == FaxSender())
             takeCard();
         sync();
     };
+    setAwaited(m_controls.myCard, true);
     const bool isStarted =
         m_cardReading.start([read = m_ownCard, takeAnswer](const std::atomic_bool &isUnwanted) {
             return [takeAnswer, card = read(&isUnwanted)] { takeAnswer(card); };

@@ -131,6 +131,10 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
     const QByteArray fax = "choose @jobType key Fax\n";
     row("LANFAX/Recipient", fax + "click @addRecipient", 1);
     row("LANFAX/AddressBook", fax + "click @addFromAddressBook", 1);
+    row("LANFAX/CoverSheet",
+        fax + "set @faxTabs 3\nchoose @coverSheet key \"Print a Cover "
+        "Sheet...\"",
+        1);
     row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
     row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
     row("FinishingDialogs/CustomFinishing", "item @moreFinishing 'Fcus'");

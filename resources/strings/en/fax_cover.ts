@@ -66,11 +66,11 @@
     </message>
     <message>
         <source>Cover My Card Unavailable</source>
-        <translation>Your card cannot be used. %1</translation>
+        <translation>Your card cannot be used: %1</translation>
     </message>
     <message>
         <source>Cover My Card No Thread</source>
-        <translation>The system has no thread to ask the address book on. Close other programs.</translation>
+        <translation>the system has no thread to ask the address book on; close other programs</translation>
     </message>
     <message>
         <source>Cover Recipients:</source>
