@@ -113,6 +113,7 @@ struct Overlay
 struct LeadingPage
 {
     QString name;        // "Fax cover sheet"
+    QString inShort;     // where the job is told in a few words: "with a cover sheet"
     QSizeF size;         // points
     Dictionary content;  // for whoever draws it (DrawLeadingPageFunction)
     quint64 version = 0; // another number, another drawing

@@ -195,7 +195,7 @@ bool LineBreaker::beginPart()
     m_next = m_part.end;
     if (m_part.endsParagraph) {
         m_direction.reset();
-        m_next += m_text.sliced(m_part.end).startsWith(u"\r\n") ? 2 : 1;
+        m_next += QStringView(m_text).sliced(m_part.end).startsWith(u"\r\n") ? 2 : 1;
     } else if (m_part.lines > 1) {
         // Where the last line ends depends on what follows.
         --m_part.lines;

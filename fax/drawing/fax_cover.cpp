@@ -37,16 +37,16 @@ QRectF within(const QRectF &page)
 void drawBlock(drawing::Page &context, const QRectF &content, Fixed &x, Fixed &y,
                const QString &label, const QString &text, CoverSheetDrawn &drawn)
 {
-    CoverSheetDrawn block{.isCut = !(content.width() > 0)};
-    const auto render = [&](const QString &words, const drawing::TextStyle &style) {
-        if (!block.isCut)
-            RenderWrappingText(*context.wrapText(words, style, content.width()), content, x, y,
-                               block);
-    };
-    render(label, labelStyle());
-    render(text, bodyStyle());
-    drawn.isCut |= block.isCut;
-    for (const char32_t character : block.missingCharacters.toUcs4()) {
+    const double width = content.width();
+    const bool isWhole = width > 0
+        && RenderWrappingText(*context.wrapText(label, labelStyle(), width), content, x, y, drawn)
+        && RenderWrappingText(*context.wrapText(text, bodyStyle(), width), content, x, y, drawn);
+    drawn.isCut |= !isWhole;
+}
+
+void addMissing(const QString &characters, CoverSheetDrawn &drawn)
+{
+    for (const char32_t character : characters.toUcs4()) {
         const QString missing = QString::fromUcs4(&character, 1);
         if (!drawn.missingCharacters.contains(missing))
             drawn.missingCharacters += missing;
@@ -55,7 +55,7 @@ void drawBlock(drawing::Page &context, const QRectF &content, Fixed &x, Fixed &y
 
 } // namespace
 
-void RenderWrappingText(drawing::WrappedText &layout, const QRectF &rectangle, Fixed &x, Fixed &y,
+bool RenderWrappingText(drawing::WrappedText &layout, const QRectF &rectangle, Fixed &x, Fixed &y,
                         CoverSheetDrawn &drawn)
 {
     const Fixed bottom = fixedFrom(rectangle.top());
@@ -63,14 +63,13 @@ void RenderWrappingText(drawing::WrappedText &layout, const QRectF &rectangle, F
     while (const std::optional<drawing::TextLine> line = layout.nextLine()) {
         const Fixed baseline = y - fixedFrom(line->ascent);
         const Fixed below = baseline - fixedFrom(line->descent);
-        if (below < bottom) {
-            drawn.isCut = true;
-            return;
-        }
+        if (below < bottom)
+            return false;
         layout.drawLine({pointsFrom(x), pointsFrom(baseline)});
-        drawn.missingCharacters += line->missingCharacters;
+        addMissing(line->missingCharacters, drawn);
         y = below;
     }
+    return true;
 }
 
 void DrawFaxCoverSender(drawing::Page &context, const QRectF &content, Fixed &x, Fixed &y,

@@ -42,8 +42,9 @@ void DrawFaxCoverNotes(drawing::Page &context, const QRectF &content, Fixed &x, 
                        const QString &label, const QString &text, CoverSheetDrawn &drawn);
 
 // Draws the lines of `layout` from the top down, at the left edge of `rectangle`, as long as
-// they fit above its bottom edge; says so in `drawn` when one does not.
-void RenderWrappingText(drawing::WrappedText &layout, const QRectF &rectangle, Fixed &x, Fixed &y,
+// they fit above its bottom edge; false when one does not, which ends it. What no font has is
+// added to `drawn`.
+bool RenderWrappingText(drawing::WrappedText &layout, const QRectF &rectangle, Fixed &x, Fixed &y,
                         CoverSheetDrawn &drawn);
 
 } // namespace kelvo

@@ -94,6 +94,7 @@ void describeCoverSheet(const Dictionary &options, const FaxRecipientList &recip
     const CoverSheetContent content =
         coverSheetContent(options, shownNotes(options), recipients, coverSheetWords(device.bundle));
     LeadingPage page{.name = faxText(device.bundle, "Cover Sheet in Words"),
+                     .inShort = faxText(device.bundle, "Cover Sheet in Short"),
                      .size = content.size,
                      .content = content.toDictionary()};
     panel.addLabelled("FaxOptions/CoverSheet", page.name,

@@ -297,7 +297,8 @@ QString JobWords::asText() const
 }
 
 QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
-                     qint64 sheets, const SecretKeys &keys)
+                     qint64 sheets, const SecretKeys &keys,
+                     const std::optional<LeadingPage> &leadingPage)
 {
     const QString copies = translate("Job", "%n copy(s)", nullptr, settings.copies);
     QStringList parts;
@@ -315,6 +316,8 @@ QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int 
         parts << translate("Job", "locked");
     if (isFax(ticket, keys))
         parts << translate("Job", "fax");
+    if (leadingPage && !leadingPage->inShort.isEmpty())
+        parts << leadingPage->inShort;
     return parts.join(QStringLiteral(", "));
 }
 

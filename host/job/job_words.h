@@ -39,6 +39,7 @@ QStringList entriesInWords(const JobDescription &description);
 // "12 pages, 6 sheets × 2 copies = 12 sheets, locked": what the foot says. `pages`
 // are those to be printed, 0 while they are not known, and `sheets` those of one copy.
 QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int pages,
-                     qint64 sheets, const SecretKeys &keys);
+                     qint64 sheets, const SecretKeys &keys,
+                     const std::optional<LeadingPage> &leadingPage = {});
 
 } // namespace kelvo

@@ -36,7 +36,8 @@ QString jobInShort(DialogSession &session)
     const JobDescription &description = job.description();
     const SheetSequence sequence(pages, job.isTwoSided(), description.sheets,
                                  description.imposition);
-    return shortSummary(job.ticket(), job.settings(), pages, sequence.sheets(), job.secretKeys());
+    return shortSummary(job.ticket(), job.settings(), pages, sequence.sheets(), job.secretKeys(),
+                        description.leadingPage);
 }
 
 } // namespace kelvo

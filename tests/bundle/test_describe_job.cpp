@@ -34,6 +34,7 @@ private slots:
     void findsSpecialSheets_data();
     void findsSpecialSheets();
     void readsListsAgainWhenTheyChange();
+    void tellsThePageThatIsSentFirst();
     void findsNothingOnOtherDevices();
     void describesOnTwoThreads();
     void refusesNothing();
@@ -392,6 +393,29 @@ void TestDescribeJob::readsListsAgainWhenTheyChange()
     list[0] = insert(2, 1);
     QCOMPARE(inserts(list), (Inserts{{2, 1}}));
     QCOMPARE(inserts({}), Inserts());
+}
+
+void TestDescribeJob::tellsThePageThatIsSentFirst()
+{
+    const Dictionary options{{"CoverSheet", true}, {"ShowRecipients", 2}, {"Size", 4}};
+    const Array recipients{Dictionary{{"FirstName", "Ann"}, {"FaxNumber", "1"}}};
+    const auto told = [&](int jobType, const QVariant &hasSheet) {
+        Dictionary changed = options;
+        changed.insert("CoverSheet", hasSheet);
+        return describe(ticketOf({{"JobType", Dictionary{{"JobType", jobType}}},
+                                  {"FaxOptions", changed},
+                                  {"FaxRecipientList", recipients}}),
+                        m_ppd.get())
+            .leadingPage;
+    };
+    const std::optional<LeadingPage> page = told(5, true);
+    QVERIFY(page);
+    QCOMPARE(page->name, "Fax cover sheet");
+    QCOMPARE(page->inShort, "with a cover sheet");
+    QCOMPARE(page->size, QSizeF(595, 842));
+    QCOMPARE(page->content.value("Recipients").toString(), "Ann");
+    QVERIFY(!told(5, false));
+    QVERIFY(!told(0, true));
 }
 
 void TestDescribeJob::findsNothingOnOtherDevices()

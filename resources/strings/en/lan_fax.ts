@@ -280,6 +280,10 @@
         <translation>Dialing prefix</translation>
     </message>
     <message>
+        <source>Cover Sheet in Short</source>
+        <translation>with a cover sheet</translation>
+    </message>
+    <message>
         <source>Cover Sheet in Words</source>
         <translation>Fax cover sheet</translation>
     </message>

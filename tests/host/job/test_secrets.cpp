@@ -170,7 +170,11 @@ void TestSecrets::areSaidInTheSummary()
         locked ? ticketOf({{"Job", Dictionary{{"Password", "1"}}}}) : TicketFile();
     JobSettings settings;
     settings.copies = copies;
-    QTEST(shortSummary(file, settings, pages, sheets, {{"Job/Password"}, {}}), "summary");
+    const SecretKeys keys{{"Job/Password"}, {}};
+    QTEST(shortSummary(file, settings, pages, sheets, keys), "summary");
+    const LeadingPage cover{.name = "Cover", .inShort = "with a cover"};
+    QCOMPARE(shortSummary(file, settings, pages, sheets, keys, cover),
+             shortSummary(file, settings, pages, sheets, keys) + ", with a cover");
 }
 
 // A stranger's line break, in a key or in a choice, begins no line of its own.

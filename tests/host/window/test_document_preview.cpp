@@ -320,7 +320,8 @@ void TestDocumentPreview::beginsWithTheLeadingPage()
         });
     preview.setDocument(documentOf({"", filled("1 0 0"), ""}));
     DocumentPreview::Layout layout{.pages = {{2, 3}}, .paper = {300, 300}, .twoSided = true};
-    layout.leadingPage = {"Cover sheet", {600, 200}, {{"text", "x"}}};
+    LeadingPage cover{.name = "Cover sheet", .size = {600, 200}, .content = {{"text", "x"}}};
+    layout.leadingPage = cover;
     preview.setLayout(layout);
     preview.show();
 
@@ -338,7 +339,8 @@ void TestDocumentPreview::beginsWithTheLeadingPage()
     layout.leadingPage.reset();
     preview.setLayout(layout);
     QCOMPARE(caption(preview), "Sheet 1, back · page 3 of 3");
-    layout.leadingPage = {"Cover sheet", {200, 200}, {{"text", "x"}}, 1};
+    cover.version = 1;
+    layout.leadingPage = cover;
     preview.setLayout(layout);
     QCOMPARE(caption(preview), "Sheet 1, back · page 3 of 3");
     QTest::keyClick(sheet, Qt::Key_Home);
@@ -347,7 +349,8 @@ void TestDocumentPreview::beginsWithTheLeadingPage()
     preview.setLayout(layout);
     QTRY_COMPARE(middle(preview), QColor(Qt::red));
     QCOMPARE(caption(preview), "Sheet 1, front · page 2 of 3");
-    layout.leadingPage = {"Cover sheet", {200, 200}, {{"text", "x"}}};
+    cover.version = 0;
+    layout.leadingPage = cover;
     layout.imposition = Imposition(); // nor is it a part of a booklet
     preview.setLayout(layout);
     QCOMPARE(caption(preview), "Cover sheet");
