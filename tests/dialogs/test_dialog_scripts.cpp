@@ -129,11 +129,14 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
     row("JobTypes/DelayedPrint", "choose @jobType key DelayedPrint");
     row("JobTypes/SavedJob", "choose @jobType key \"Save to Mailbox Command\"");
     const QByteArray fax = "choose @jobType key Fax\n";
+    row("LANFAX/LANFAX", fax);
+    row("LANFAX/FaxPreferences", fax + "click @faxPreferences", 1);
     row("LANFAX/Recipient", fax + "click @addRecipient", 1);
     row("LANFAX/AddressBook", fax + "click @addFromAddressBook", 1);
     row("LANFAX/CoverSheet",
-        fax + "set @faxTabs 3\nchoose @coverSheet key \"Print a Cover "
-        "Sheet...\"",
+        fax
+            + "set @faxTabs 3\nchoose @coverSheet key \"Print a Cover "
+              "Sheet...\"",
         1);
     row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
     row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
