@@ -51,6 +51,14 @@ void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now)
         settings.delayedPrintTime = nextMomentAt(timeOf(settings.delayedPrintTime), now);
 }
 
+const FaxRecipientList *faxRecipients(const PaperOutputSettings &settings)
+{
+    return settings.jobType == kJobTypeFax && settings.faxRecipients
+            && settings.faxRecipients->count() > 0
+        ? &*settings.faxRecipients
+        : nullptr;
+}
+
 void settleFax(PaperOutputSettings &settings, LongDateTime now)
 {
     if (settings.jobType == kJobTypeFax && settings.faxOptions)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fax_recipient_list.h"
 #include "long_date.h"
 #include "pde_session.h"
 
@@ -26,6 +27,8 @@ JobTypeState jobTypeState(const PaperOutputSettings &settings);
 LongDateTime defaultDelayedPrintTime(LongDateTime now);
 // At Print: a ticket or preset may be older than its time, and the job waits for the next one.
 void settleDelayedPrint(PaperOutputSettings &settings, LongDateTime now);
+// Whom the job is faxed to; null where it is no fax, or one to nobody.
+const FaxRecipientList *faxRecipients(const PaperOutputSettings &settings);
 // The same for the send time of a fax.
 void settleFax(PaperOutputSettings &settings, LongDateTime now);
 

@@ -4,6 +4,7 @@
 #include "paper_output_events.h"
 #include "paper_output_summary.h"
 #include "pde_session.h"
+#include "recent_recipients.h"
 
 namespace kelvo {
 
@@ -20,6 +21,8 @@ void prepareToPrint(PMPDEContext context)
     if (auto *panel = panelOf<_PaperOutputContext>(context)) {
         settleDelayedPrint(panel->settings, currentLongDate());
         settleFax(panel->settings, currentLongDate());
+        if (const FaxRecipientList *recipients = faxRecipients(panel->settings))
+            rememberRecipients(*recipients);
     }
 }
 

@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Send Now</source>
-        <translation>&amp;Now</translation>
+        <translation>No&amp;w</translation>
     </message>
     <message>
         <source>Send At:</source>
