@@ -16,14 +16,13 @@ constexpr PartLibrary library = {
     QT_TRANSLATE_NOOP(
         "People",
         "the part of kelvo-print that asks the address book is not installed; install "
-        "the package kelvo-print-address-book, or type recipients in by hand"),
+        "the package kelvo-print-address-book"),
     QT_TRANSLATE_NOOP("People",
                       "the part of kelvo-print that asks the address book cannot be loaded (%1); "
-                      "install the package kelvo-print-address-book anew, with what it needs, or "
-                      "type recipients in by hand"),
+                      "install the package kelvo-print-address-book anew, with what it needs"),
     QT_TRANSLATE_NOOP("People",
                       "this part that asks the address book is not that of kelvo-print %1; install "
-                      "the package kelvo-print-address-book anew, or type recipients in by hand")};
+                      "the package kelvo-print-address-book anew")};
 
 } // namespace
 

@@ -66,7 +66,7 @@ public:
     using Flag = const std::atomic_bool *; // null: never
 
     // Whether one would answer. Starts nothing, waits at most a second.
-    virtual Result<void> find() const = 0;
+    virtual Result<void> find(Flag cancelled = nullptr) const = 0;
 
     virtual Result<AddressBookContents> read(Flag cancelled = nullptr) const = 0;
     // NotFound where nobody has that uid.

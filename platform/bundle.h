@@ -24,6 +24,7 @@
 // and where they are needed:
 //   KelvoDeviceMaker           string: the manufacturer of its devices, as PPDs name it
 //   KelvoFaxTicketKeys         array of keys whose presence makes a job a fax
+//   KelvoFaxTicketValues       dictionary, key path → integer: one of which it must have, too
 //   KelvoFurtherPanelGetters   array of strings: panels beside the shell, in order
 //   KelvoSecretTicketKeys      array of key paths: "com.kelvo.print.JobType/Password"
 namespace kelvo {

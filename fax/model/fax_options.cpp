@@ -9,6 +9,11 @@ namespace {
 constexpr std::int64_t defaultSendSpeed = 4; // "G3-Auto"
 constexpr std::int32_t defaultResolution = 2;
 
+LongDateTime settled(LongDateTime moment, LongDateTime now)
+{
+    return moment < now ? nextMomentAt(timeOf(moment), now) : moment;
+}
+
 void storeNotes(Dictionary &options, const FaxControls &controls, const QString &label)
 {
     if (controls.notes.isEmpty()) {
@@ -40,8 +45,7 @@ FaxControls SyncToUI(const Dictionary &options)
     controls.sendSpeed =
         sendSpeedItem(integer64(options, kFaxSendSpeedProperty).value_or(defaultSendSpeed));
     controls.resolution = integer32(options, kFaxResolutionProperty).value_or(defaultResolution);
-    if (const auto time = integer64(options, kFaxSendTimeProperty))
-        controls.sendTime = timeOf(*time);
+    controls.sendTime = integer64(options, kFaxSendTimeProperty);
     controls.dialingPrefix = string(options, kFaxDialingPrefixProperty);
     if (controls.dialingPrefix && controls.dialingPrefix->isEmpty())
         controls.dialingPrefix.reset();
@@ -62,7 +66,7 @@ void SyncFromUI(const FaxControls &controls, Dictionary &options, LongDateTime n
         options.insert(kFaxSendSpeedProperty, qint64(controls.sendSpeed));
     options.insert(kFaxResolutionProperty, qint64(controls.resolution));
     if (controls.sendTime)
-        options.insert(kFaxSendTimeProperty, qint64(nextMomentAt(*controls.sendTime, now)));
+        options.insert(kFaxSendTimeProperty, qint64(settled(*controls.sendTime, now)));
     else
         options.remove(kFaxSendTimeProperty);
     if (controls.dialingPrefix)
@@ -80,8 +84,8 @@ void SyncFromUI(const FaxControls &controls, Dictionary &options, LongDateTime n
 void settleSendTime(Dictionary &options, LongDateTime now)
 {
     const auto time = integer64(options, kFaxSendTimeProperty);
-    if (time && *time < now)
-        options.insert(kFaxSendTimeProperty, qint64(nextMomentAt(timeOf(*time), now)));
+    if (time)
+        options.insert(kFaxSendTimeProperty, qint64(settled(*time, now)));
 }
 
 } // namespace kelvo

@@ -4,7 +4,6 @@
 #include "values.h"
 
 #include <QString>
-#include <QTime>
 
 #include <cstdint>
 #include <optional>
@@ -44,7 +43,7 @@ struct FaxControls
     int confirmation = 1;                 // an item of ConfirmationSheetMap
     int sendSpeed = 1;                    // of FaxSendSpeedMap; 0: none, and what is stored stays
     std::int32_t resolution = 2;          // a value of FaxResolutionMap
-    std::optional<QTime> sendTime;        // none: now
+    std::optional<LongDateTime> sendTime; // none: now
     std::optional<QString> dialingPrefix; // none: the box is not checked
     bool hasCoverSheet = false;
     QString notes;
@@ -53,7 +52,7 @@ struct FaxControls
 };
 
 FaxControls SyncToUI(const Dictionary &options);
-// A time that has passed today is tomorrow's. The notes' label is stored beside them.
+// A moment that has passed is the next one of its time. The notes' label is stored beside them.
 void SyncFromUI(const FaxControls &controls, Dictionary &options, LongDateTime now,
                 const QString &notesLabel);
 
@@ -61,7 +60,7 @@ void SyncFromUI(const FaxControls &controls, Dictionary &options, LongDateTime n
 // item that stored it; 0: neither.
 int sendSpeedItem(std::int64_t stored);
 
-// When a stored time has passed, the same time of the next day that has it.
+// When a stored moment has passed: the same clock today, or tomorrow.
 void settleSendTime(Dictionary &options, LongDateTime now);
 
 } // namespace kelvo

@@ -166,7 +166,8 @@ bool RecipientSet::add(const FaxRecipient &recipient)
     return m_keys.size() > before;
 }
 
-PeopleToAdd peopleToAdd(const std::vector<const PeopleRow *> &rows, const RecipientSet &inList)
+PeopleToAdd peopleToAdd(const std::vector<const PeopleRow *> &rows, const RecipientSet &inList,
+                        bool isAsked)
 {
     PeopleToAdd adding;
     const bool isOne = rows.size() == 1 && !rows.front()->isGroup;
@@ -174,7 +175,7 @@ PeopleToAdd peopleToAdd(const std::vector<const PeopleRow *> &rows, const Recipi
     for (const PeopleRow *row : rows) {
         adding.withoutNumber += row->withoutNumber;
         for (const FaxRecipient &recipient : row->recipients) {
-            if (taken.add(recipient) || isOne)
+            if (taken.add(recipient) || isOne || !isAsked)
                 adding.recipients.push_back(recipient);
             else
                 ++adding.alreadyThere;

@@ -78,7 +78,9 @@ struct PeopleToAdd
     friend bool operator==(const PeopleToAdd &, const PeopleToAdd &) = default;
 };
 // One row of one person is added even where the list has the same one, since adding asks then.
-// Of more, those who are there already are left out: nobody answers a hundred questions.
-PeopleToAdd peopleToAdd(const std::vector<const PeopleRow *> &rows, const RecipientSet &inList);
+// Of more, those who are there already are left out where it would ask (`isAsked`): nobody
+// answers a hundred questions.
+PeopleToAdd peopleToAdd(const std::vector<const PeopleRow *> &rows, const RecipientSet &inList,
+                        bool isAsked);
 
 } // namespace kelvo

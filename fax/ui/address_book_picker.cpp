@@ -45,7 +45,8 @@ enum Source : std::int32_t { FromAddressBook, FromRecent, FromCards };
 struct PeopleSource
 {
     std::shared_ptr<const PeopleToPick> people;
-    QString problem; // why it was not
+    QString problem;    // why it was not
+    QStringList unread; // books that are not among it: "NAME: why"
 };
 
 class AddressBookPicker
@@ -239,7 +240,7 @@ void AddressBookPicker::showFound()
                    || (source() == FromCards && m_readingCards.isBusy()));
     m_message->setText(m_found.rows.empty() ? messageOfEmptyList() : QString());
     m_list->setAccessibleDescription(m_message->text());
-    m_hidden->setText(withoutNumberText(m_editing.device.bundle, m_found.withoutNumber));
+    m_hidden->setText(notShownText(m_editing.device.bundle, m_found.withoutNumber, shown.unread));
     enableButtons();
 }
 
@@ -281,10 +282,12 @@ void AddressBookPicker::readAddressBook()
     const bool isStarted =
         m_readingAddressBook.start([this, read = m_read](const std::atomic_bool &isUnwanted) {
             PeopleSource source;
-            if (const Result<AddressBookContents> contents = read(&isUnwanted))
+            if (const Result<AddressBookContents> contents = read(&isUnwanted)) {
                 source.people = std::make_shared<const PeopleToPick>(contents.value());
-            else
+                source.unread = contents.value().unread;
+            } else {
                 source.problem = contents.error().detail;
+            }
             return [this, source] {
                 m_sources[FromAddressBook] = source;
                 showFound();
@@ -404,7 +407,7 @@ void AddressBookPicker::add()
     std::vector<const PeopleRow *> rows;
     for (const int row : selected)
         rows.push_back(&people->row(m_found.rows[static_cast<std::size_t>(row)]));
-    const PeopleToAdd adding = peopleToAdd(rows, m_inList);
+    const PeopleToAdd adding = peopleToAdd(rows, m_inList, m_editing.promptDuplicate);
     int added = 0, declined = 0;
     for (const FaxRecipient &recipient : adding.recipients) {
         const bool isAdded = AddRecipient(m_editing, recipient, m_window.get());

@@ -58,7 +58,7 @@ struct LanFaxSetup
     Dictionary options;
     FaxControls values; // as SyncToUI() had them, with what the preferences say now
     CoverSheetWords words;
-    std::vector<FaxRecipient *> rows;
+    std::vector<FaxRecipient *> rows; // as the list was reloaded with them last
     std::unique_ptr<ModalDialog> window;
     LanFaxControls controls;
     CoverSheetPreview *preview = nullptr; // the view's
@@ -80,12 +80,11 @@ void sayPreview(const LanFaxSetup &setup)
 
 void showPreview(const LanFaxSetup &setup)
 {
-    const LanFaxControls &controls = setup.controls;
-    CoverSheetContent content = coverSheetContent(setup.options, controls.notes->toPlainText(),
-                                                  setup.editing.recipients, setup.words);
-    if (!hasCoverSheet(controls))
-        content = {.size = content.size};
-    setup.preview->show(content);
+    // Without one, a page on which there is nothing.
+    setup.preview->show(hasCoverSheet(setup.controls)
+                            ? coverSheetContent(setup.options, setup.controls.notes->toPlainText(),
+                                                setup.editing.recipients, setup.words)
+                            : coverSheetContent({}, {}, {}, setup.words));
     sayPreview(setup);
 }
 
@@ -116,7 +115,7 @@ void showRecipientList(LanFaxSetup &setup)
 
 void enableControls(const LanFaxSetup &setup)
 {
-    enableFaxControls(setup.controls, setup.editing.device, currentLongDate());
+    enableFaxControls(setup.controls, setup.editing.device, setup.values, currentLongDate());
 }
 
 bool CheckMaxDialingStringExceeded(LanFaxSetup &setup)
@@ -294,14 +293,16 @@ void takeAddressBook(LanFaxSetup &setup, const std::optional<QString> &problem)
 // On a thread: its library is opened, and the desktop asked.
 void lookForAddressBook(LanFaxSetup &setup)
 {
-    const bool isStarted = setup.lookingForAddressBook.start([&setup](const std::atomic_bool &) {
-        const Result<const AddressBook *> book = addressBook();
-        const Result<void> found = book ? book.value()->find() : Result<void>(book.error());
-        std::optional<QString> problem;
-        if (!found)
-            problem = found.error().detail;
-        return [&setup, problem] { takeAddressBook(setup, problem); };
-    });
+    const bool isStarted =
+        setup.lookingForAddressBook.start([&setup](const std::atomic_bool &isUnwanted) {
+            const Result<const AddressBook *> book = addressBook();
+            const Result<void> found =
+                book ? book.value()->find(&isUnwanted) : Result<void>(book.error());
+            std::optional<QString> problem;
+            if (!found)
+                problem = found.error().detail;
+            return [&setup, problem] { takeAddressBook(setup, problem); };
+        });
     setAwaited(setup.controls.saveGroup, true);
     if (!isStarted)
         takeAddressBook(setup, QString());
@@ -312,7 +313,8 @@ void initialize(LanFaxSetup &setup)
     const Device &device = setup.editing.device;
     setup.words = coverSheetWords(device.bundle);
     prepareLanFaxControls(setup.controls, device);
-    showRecipients(setup.controls.recipients, device, setup.rows);
+    showRecipients(setup.controls.recipients, device,
+                   [&setup](int row) { return setup.editing.recipients.recipientAtIndex(row); });
     setup.preview = new CoverSheetPreview(device.bundle, setup.controls.preview);
     QObject::connect(setup.preview, &CoverSheetPreview::noticed, setup.window.get(),
                      [&setup] { sayPreview(setup); });
@@ -336,10 +338,11 @@ void initialize(LanFaxSetup &setup)
 
 void take(LanFaxSetup &setup)
 {
-    takeFaxControls(setup.controls, setup.values);
+    const LongDateTime now = currentLongDate();
+    takeFaxControls(setup.controls, setup.values, now);
     setup.values.promptDuplicate = setup.editing.promptDuplicate;
     setup.values.promptRemove = setup.editing.promptRemove;
-    SyncFromUI(setup.values, setup.options, currentLongDate(), setup.words.notes);
+    SyncFromUI(setup.values, setup.options, now, setup.words.notes);
 }
 
 } // namespace
@@ -371,7 +374,7 @@ DialogResult RunModalLANFaxSetup(const Device &device, Dictionary *options,
     take(setup);
     *options = setup.options;
     recipients->removeAll();
-    for (FaxRecipient *recipient : setup.rows)
+    for (FaxRecipient *recipient : allOf(setup.editing.recipients))
         recipients->append(recipient);
     return DialogResult::OK;
 }

@@ -37,17 +37,27 @@ void fillMenu(const Device &device, PopupButton *popup, const SettingMap *map, O
     PopulatePopupButtonFromMap(device, popup, map, kJobContextJob, command);
 }
 
-void saySendTime(const LanFaxControls &controls, const Device &device, LongDateTime now)
+// None: it is sent now.
+std::optional<LongDateTime> momentIn(const LanFaxControls &controls, const FaxControls &shown,
+                                     LongDateTime now)
 {
-    QString text;
-    if (controls.sendAt->isChecked()) {
-        const QTime time = controls.sendTime->value();
-        const bool isToday = dateOf(nextMomentAt(time, now)) == dateOf(now);
-        text = formatted(faxText(device.bundle, isToday ? "Sent Today" : "Sent Tomorrow"),
-                         {QLocale().toString(time, QLocale::ShortFormat)});
-    }
-    controls.sendTimeHint->setText(text);
-    controls.sendTime->setAccessibleDescription(text);
+    if (!controls.sendAt->isChecked())
+        return {};
+    const QTime time = controls.sendTime->value();
+    const bool isAsShown = shown.sendTime && timeOf(*shown.sendTime) == time;
+    return isAsShown && *shown.sendTime >= now ? *shown.sendTime : nextMomentAt(time, now);
+}
+
+QString sendTimeText(const Device &device, LongDateTime moment, LongDateTime now)
+{
+    const QDate day = dateOf(moment);
+    const QString time = QLocale().toString(timeOf(moment), QLocale::ShortFormat);
+    if (day == dateOf(now))
+        return formatted(faxText(device.bundle, "Sent Today"), {time});
+    if (day == dateOf(now).addDays(1))
+        return formatted(faxText(device.bundle, "Sent Tomorrow"), {time});
+    return formatted(faxText(device.bundle, "Sent Later"),
+                     {QLocale().toString(day, QLocale::ShortFormat), time});
 }
 
 } // namespace
@@ -115,21 +125,19 @@ void showFaxControls(const LanFaxControls &controls, const Device &device,
                values.sendSpeed > 0 ? UIToTicket(FaxSendSpeedMap, values.sendSpeed) : 0);
     showChoice(device.bundle, controls.resolution, values.resolution);
     (values.sendTime ? controls.sendAt : controls.sendNow)->setChecked(true);
-    controls.sendTime->setValue(values.sendTime.value_or(QTime(0, 0)));
+    controls.sendTime->setValue(values.sendTime ? timeOf(*values.sendTime) : QTime(0, 0));
     controls.prefixOn->setChecked(values.dialingPrefix.has_value());
     controls.prefix->setText(values.dialingPrefix.value_or(QString()));
     controls.coverSheet->setValue(values.hasCoverSheet ? withCover : withoutCover);
     controls.notes->setPlainText(values.notes);
 }
 
-void takeFaxControls(const LanFaxControls &controls, FaxControls &values)
+void takeFaxControls(const LanFaxControls &controls, FaxControls &values, LongDateTime now)
 {
     values.confirmation = controls.confirmation->value();
     values.sendSpeed = controls.sendSpeed->value();
     takeChoice(controls.resolution, values.resolution);
-    values.sendTime.reset();
-    if (controls.sendAt->isChecked())
-        values.sendTime = controls.sendTime->value();
+    values.sendTime = momentIn(controls, values, now);
     values.dialingPrefix.reset();
     if (controls.prefixOn->isChecked())
         values.dialingPrefix = controls.prefix->text();
@@ -137,10 +145,14 @@ void takeFaxControls(const LanFaxControls &controls, FaxControls &values)
     values.notes = controls.notes->toPlainText();
 }
 
-void enableFaxControls(const LanFaxControls &controls, const Device &device, LongDateTime now)
+void enableFaxControls(const LanFaxControls &controls, const Device &device,
+                       const FaxControls &values, LongDateTime now)
 {
     controls.sendTime->setEnabled(controls.sendAt->isChecked());
-    saySendTime(controls, device, now);
+    const std::optional<LongDateTime> moment = momentIn(controls, values, now);
+    const QString text = moment ? sendTimeText(device, *moment, now) : QString();
+    controls.sendTimeHint->setText(text);
+    controls.sendTime->setAccessibleDescription(text);
     controls.prefix->setEnabled(controls.prefixOn->isChecked());
     const bool hasCover = hasCoverSheet(controls);
     controls.coverSheetSetup->setEnabled(hasCover);

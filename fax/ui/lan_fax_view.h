@@ -57,10 +57,12 @@ void prepareLanFaxControls(const LanFaxControls &controls, const Device &device)
 // What the options' controls show; the prompts are not theirs.
 void showFaxControls(const LanFaxControls &controls, const Device &device,
                      const FaxControls &values);
-void takeFaxControls(const LanFaxControls &controls, FaxControls &values);
+// A time that is as it was shown keeps its day.
+void takeFaxControls(const LanFaxControls &controls, FaxControls &values, LongDateTime now);
 
-// What is enabled, and the sentence of when the fax goes.
-void enableFaxControls(const LanFaxControls &controls, const Device &device, LongDateTime now);
+// What is enabled, and the sentence of when the fax goes; `values` as they were shown.
+void enableFaxControls(const LanFaxControls &controls, const Device &device,
+                       const FaxControls &values, LongDateTime now);
 // `hasAddressBook`: what can be saved in one.
 void enableRecipientButtons(const LanFaxControls &controls, bool hasAddressBook);
 

@@ -80,7 +80,7 @@ OSStatus handleCommand(MaxCharactersDialog &dialog, OSType command)
         RemoveSelectedRecipients(dialog.editing, selected, dialog.window.get());
         break;
     case kCommandRemoveAll:
-        RemoveSelectedRecipients(dialog.editing, dialog.tooLong, dialog.window.get());
+        RemoveSelectedRecipients(dialog.editing, std::vector(dialog.tooLong), dialog.window.get());
         break;
     default:
         return eventNotHandledErr;
@@ -137,7 +137,8 @@ bool ValidateMaxCharacters(RecipientEditing &editing, std::optional<QString> &pr
     dialog.text->setText(formatted(faxText(device.bundle, "Max Characters Message"),
                                    {QLocale().toString(kMaxDialingString)}));
     makeHintText(dialog.hint);
-    showRecipients(dialog.list, device, dialog.tooLong);
+    showRecipients(dialog.list, device,
+                   [&dialog](int row) { return dialog.tooLong[static_cast<std::size_t>(row)]; });
     limitToPrefix(dialog.prefix);
     dialog.prefixOn->setChecked(prefix.has_value());
     dialog.prefix->setEnabled(prefix.has_value());

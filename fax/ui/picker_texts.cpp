@@ -90,9 +90,14 @@ QString pickerCell(CFBundleRef bundle, const PeopleRow &row, int column, bool is
     }
 }
 
-QString withoutNumberText(CFBundleRef bundle, int people)
+QString notShownText(CFBundleRef bundle, int withoutNumber, const QStringList &unread)
 {
-    return countText(bundle, people, "One Without Fax Number", "People Without Fax Number");
+    QStringList sentences{
+        countText(bundle, withoutNumber, "One Without Fax Number", "People Without Fax Number")};
+    if (!unread.isEmpty())
+        sentences << formatted(faxText(bundle, "Books Unread"), {unread.join(u"; ")});
+    sentences.removeAll(QString());
+    return sentences.join(u' ');
 }
 
 QString addedText(CFBundleRef bundle, const PeopleToAdd &adding, int added, int declined)

@@ -17,8 +17,9 @@ std::vector<ListView::Column> pickerColumns(CFBundleRef bundle);
 // Of those columns; `isInList`: all whom the row adds get the fax already.
 QString pickerCell(CFBundleRef bundle, const PeopleRow &row, int column, bool isInList);
 
-// Who is not shown, since there is no number to send to; empty: nobody.
-QString withoutNumberText(CFBundleRef bundle, int people);
+// Who is not shown: people without a number to send to, and the books that did not answer;
+// empty: all are.
+QString notShownText(CFBundleRef bundle, int withoutNumber, const QStringList &unread);
 
 // What came of adding: `added` were, and `declined` the user did not want again.
 QString addedText(CFBundleRef bundle, const PeopleToAdd &adding, int added, int declined);

@@ -26,16 +26,15 @@ QString cellOf(const FaxRecipient &recipient, int column)
 
 } // namespace
 
-void showRecipients(ListView *list, const Device &device,
-                    const std::vector<FaxRecipient *> &recipients)
+void showRecipients(ListView *list, const Device &device, const RecipientOfRow &recipientOf)
 {
     list->setColumns({{faxText(device.bundle, "Recipient Name Column"), 150},
                       {faxText(device.bundle, "Recipient Number Column"), 130},
                       {faxText(device.bundle, "Recipient Organization Column"), 110}},
-                     [&recipients](int row, int column) {
-                         return cellOf(*recipients[static_cast<std::size_t>(row)], column);
+                     [recipientOf](int row, int column) {
+                         const FaxRecipient *recipient = recipientOf(row);
+                         return recipient ? cellOf(*recipient, column) : QString();
                      });
-    list->reload(static_cast<int>(recipients.size()));
 }
 
 std::vector<FaxRecipient *> selectedOf(const ListView *list,

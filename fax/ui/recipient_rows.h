@@ -2,6 +2,7 @@
 
 #include "fax_recipient_list.h"
 
+#include <functional>
 #include <vector>
 
 class QLineEdit;
@@ -11,10 +12,12 @@ namespace kelvo {
 class ListView;
 struct Device;
 
-// How lists of recipients look: name, number, organization. `recipients` is borrowed and may
-// change; reload the list then.
-void showRecipients(ListView *list, const Device &device,
-                    const std::vector<FaxRecipient *> &recipients);
+// The recipient of a row, from 0; null where there is none any more. Asked while painting, also
+// after recipients have gone and before the list is reloaded.
+using RecipientOfRow = std::function<const FaxRecipient *(int row)>;
+
+// How lists of recipients look: name, number, organization.
+void showRecipients(ListView *list, const Device &device, const RecipientOfRow &recipientOf);
 
 // Those of the selected rows.
 std::vector<FaxRecipient *> selectedOf(const ListView *list,

@@ -94,6 +94,19 @@ QString textOf(const QVariant &value)
     return value.toString();
 }
 
+// Whether one of the paths has its number; all are met where there is none.
+bool isMet(const TicketFile &ticket, const Dictionary &values)
+{
+    bool found = values.isEmpty();
+    for (auto wanted = values.cbegin(); wanted != values.cend(); ++wanted) {
+        changed(ticket, {wanted.key()}, [&found, &wanted](const QVariant &value) {
+            found = found || (integer64(value) && integer64(value) == integer64(*wanted));
+            return value;
+        });
+    }
+    return found;
+}
+
 } // namespace
 
 SecretKeys secretKeysOf(const Bundle *bundle)
@@ -108,8 +121,9 @@ SecretKeys secretKeysOf(const Bundle *bundle)
         }
         return list;
     };
-    return {texts(QStringLiteral("KelvoSecretTicketKeys")),
-            texts(QStringLiteral("KelvoFaxTicketKeys"))};
+    return {
+        texts(QStringLiteral("KelvoSecretTicketKeys")), texts(QStringLiteral("KelvoFaxTicketKeys")),
+        dictionary(bundle->info(), QStringLiteral("KelvoFaxTicketValues")).value_or(Dictionary())};
 }
 
 QStringList secretValues(const TicketFile &ticket, const SecretKeys &keys)
@@ -143,7 +157,7 @@ bool isFax(const TicketFile &ticket, const SecretKeys &keys)
             found = true;
         return value;
     });
-    return found;
+    return found && isMet(ticket, keys.faxValues);
 }
 
 TicketFile masked(TicketFile ticket, const SecretKeys &keys)

@@ -15,7 +15,10 @@ namespace kelvo {
 struct SecretKeys
 {
     QStringList secretPaths;
-    QStringList faxKeys; // paths too: something that is not empty there makes a job a fax
+    QStringList faxKeys; // paths too: something that is not empty there makes a job a fax,
+    // where one of these is met as well, path and number, if there are any: recipients stay in
+    // a job that is printed after all.
+    Dictionary faxValues{};
 };
 SecretKeys secretKeysOf(const Bundle *bundle); // empty for null
 

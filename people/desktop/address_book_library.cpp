@@ -157,13 +157,13 @@ auto ask(AddressBook::Flag cancelled, Ask work)
 class DesktopAddressBook final : public AddressBook
 {
 public:
-    Result<void> find() const override
+    Result<void> find(Flag cancelled) const override
     {
         return call(std::function([](GCancellable *cancellable) -> Result<void> {
                         const auto bus = busWithAddressBook(cancellable);
                         return bus ? Result<void>() : bus.error();
                     }),
-                    nullptr, longestFind);
+                    cancelled, longestFind);
     }
 
     Result<AddressBookContents> read(Flag cancelled) const override

@@ -89,9 +89,7 @@ Error unfinished(CallEnd end)
         break;
     case CallEnd::TimedOut:
         return {Error::Code::TimedOut, where,
-                translate("People",
-                          "the desktop does not answer; log in anew, or type recipients in by "
-                          "hand")};
+                translate("People", "the desktop does not answer; log in anew")};
     case CallEnd::NoThread:
         return {Error::Code::Refused, where,
                 translate("People",

@@ -64,18 +64,16 @@ Error doesNotAnswer(const GLibError &error, const QString &book)
     if (error.isCancelled())
         return {Code::Cancelled, where, translate("People", "stopped before it had answered")};
     return {Code::Unreachable, where,
-            translate("People", "it does not answer (%1); try again, or type recipients in by hand")
-                .arg(error.text())};
+            translate("People", "it does not answer (%1); try again").arg(error.text())};
 }
 
 Result<GLibOwner<GDBusConnection>> busWithAddressBook(GCancellable *cancellable)
 {
     const QString where = translate("People", "address book");
     if (!hasSessionBus()) {
-        return Error{Code::NotFound, where,
-                     translate("People",
-                               "there is no desktop session that has one; log in to a desktop, or "
-                               "type recipients in by hand")};
+        return Error{
+            Code::NotFound, where,
+            translate("People", "there is no desktop session that has one; log in to a desktop")};
     }
     GLibError error;
     auto bus = openBus(error);
@@ -89,8 +87,7 @@ Result<GLibOwner<GDBusConnection>> busWithAddressBook(GCancellable *cancellable)
     if (!found[0] || !found[1]) {
         return Error{Code::NotFound, where,
                      translate("People",
-                               "this desktop has none; install the package evolution-data-server, "
-                               "or type recipients in by hand")};
+                               "this desktop has none; install the package evolution-data-server")};
     }
     return bus;
 }

@@ -161,7 +161,7 @@ void TestCoverSheetDialog::whatIsTypedIsNotReplacedByACardThatComesLater()
 void TestCoverSheetDialog::aCardThatCannotBeUsedSaysWhy_data()
 {
     const Table<bool, QString> row{"hasBook", "hint"};
-    row("no address book", false, "Your card cannot be used: install it");
+    row("no address book", false, "Your card cannot be used: install it.");
     row("no card", true,
         "No card in your address book is marked as your own. Mark one there, and it can be "
         "used here.");

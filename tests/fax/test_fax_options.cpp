@@ -53,7 +53,7 @@ void TestFaxOptions::controlsShowTheTicket_data()
         {.confirmation = 2,
          .sendSpeed = 3,
          .resolution = 3,
-         .sendTime = QTime(22, 30),
+         .sendTime = longDateFrom(today, QTime(22, 30)),
          .dialingPrefix = "9,",
          .hasCoverSheet = true,
          .notes = "Read this",
@@ -91,6 +91,8 @@ void TestFaxOptions::controlsAreWritten_data()
     row("notes of a sheet that is not sent",
         {{"CoverSheetNotes", "Old"}, {"LocalizedNotesLabel", "Notes:"}}, {.notes = "New"},
         with({{"CoverSheetNotes", "Old"}, {"LocalizedNotesLabel", "Notes:"}}));
+    row("a time of a later day", {}, {.sendTime = longDateFrom(today.addDays(4), QTime(9, 0))},
+        with({{"SendTime", qint64(longDateFrom(today.addDays(4), QTime(9, 0)))}}));
     row("a box without text", {}, {.dialingPrefix = ""}, with({{"DialingPrefix", ""}}));
     row("a speed that no item shows", {{"SendSpeed", 9}}, {.sendSpeed = 0},
         with({{"SendSpeed", 9}}));
@@ -98,7 +100,7 @@ void TestFaxOptions::controlsAreWritten_data()
         {.confirmation = 2,
          .sendSpeed = 3,
          .resolution = 4,
-         .sendTime = QTime(11, 59),
+         .sendTime = longDateFrom(today, QTime(11, 59)),
          .dialingPrefix = "9,",
          .promptDuplicate = false,
          .promptRemove = false},

@@ -228,10 +228,12 @@ void TestFaxPeople::manyAreAddedOnce()
     std::vector<const PeopleRow *> selected;
     for (const int each : rows)
         selected.push_back(&people.row(each));
-    const PeopleToAdd adding = peopleToAdd(selected, inList);
+    const PeopleToAdd adding = peopleToAdd(selected, inList, true);
     QTEST(numbersOf(adding.recipients), "added");
     QCOMPARE(adding.alreadyThere, alreadyThere);
     QCOMPARE(adding.withoutNumber, withoutNumber);
+    // Nobody is asked, and everybody is added.
+    QCOMPARE(peopleToAdd(selected, inList, false).alreadyThere, 0);
     QVERIFY(inList.containsAll(people.row(1)));
     QVERIFY(!inList.containsAll(people.row(0)));
 }

@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>Cover My Card Unavailable</source>
-        <translation>Your card cannot be used: %1</translation>
+        <translation>Your card cannot be used: %1.</translation>
     </message>
     <message>
         <source>Cover My Card No Thread</source>

@@ -172,6 +172,10 @@
         <translation>Reading the files…</translation>
     </message>
     <message>
+        <source>Books Unread</source>
+        <translation>Not among them: %1.</translation>
+    </message>
+    <message>
         <source>Address Book Unread</source>
         <translation>The address book cannot be read: %1.</translation>
     </message>

@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>No Address Book Hint</source>
-        <translation>The list cannot be saved as a group: %1</translation>
+        <translation>The list cannot be saved as a group: %1.</translation>
     </message>
     <message>
         <source>Confirmation Sheet:</source>
@@ -158,6 +158,10 @@
     <message>
         <source>Sent Tomorrow</source>
         <translation>The fax is sent tomorrow at %1.</translation>
+    </message>
+    <message>
+        <source>Sent Later</source>
+        <translation>The fax is sent on %1 at %2.</translation>
     </message>
     <message>
         <source>Fax Dialing Options:</source>

@@ -116,6 +116,13 @@ void TestSecrets::makeAFax()
     if (recipients.isValid())
         file = ticketOf({{"Recipients", recipients}});
     QCOMPARE(kelvo::isFax(file, {{}, {"Recipients"}}), isFax);
+    // Where they say more, recipients alone are no fax: the job may be printed after all.
+    const SecretKeys keys{{}, {"Recipients"}, {{"Job/Type", 5}}};
+    QVERIFY(!kelvo::isFax(file, keys));
+    file.printSettings.entries["Job"].value = Dictionary{{"Type", 1}};
+    QVERIFY(!kelvo::isFax(file, keys));
+    file.printSettings.entries["Job"].value = Dictionary{{"Type", 5}};
+    QCOMPARE(kelvo::isFax(file, keys), isFax);
 }
 
 void TestSecrets::neverStandInWords()
