@@ -1,8 +1,7 @@
 #include "card_files.h"
 
+#include "sort_by_name.h"
 #include "vcard.h"
-
-#include <QCollator>
 
 #include <algorithm>
 #include <utility>
@@ -36,17 +35,7 @@ AddressBookContents peopleIn(const std::vector<CardFile> &files)
     AddressBookContents contents;
     for (const CardFile &file : files)
         contents.people.insert(contents.people.end(), file.people.begin(), file.people.end());
-    std::vector<std::pair<QCollatorSortKey, Person *>> order;
-    const QCollator collator;
-    for (Person &person : contents.people)
-        order.emplace_back(collator.sortKey(person.fullName), &person);
-    std::stable_sort(order.begin(), order.end(),
-                     [](const auto &a, const auto &b) { return a.first < b.first; });
-    std::vector<Person> sorted;
-    sorted.reserve(order.size());
-    for (const auto &[key, person] : order)
-        sorted.push_back(std::move(*person));
-    contents.people = std::move(sorted);
+    sortByName(contents.people, &Person::fullName);
     return contents;
 }
 

@@ -87,6 +87,14 @@ void FaxRecipientRelease(FaxRecipient *recipient); // the last one destroys it
 const void *FaxRecipientRetainCallback(const void *allocator, const void *recipient);
 void FaxRecipientReleaseCallback(const void *allocator, const void *recipient);
 
+struct FaxRecipientArrayCallbacks
+{
+    const void *(*retain)(const void *allocator, const void *recipient);
+    void (*release)(const void *allocator, const void *recipient);
+};
+inline constexpr FaxRecipientArrayCallbacks kFaxRecipientCFArrayCallbacks{
+    FaxRecipientRetainCallback, FaxRecipientReleaseCallback};
+
 // First name, last name and number agree to the letter: both absent, or both there and equal.
 bool isSameRecipient(const FaxRecipient &a, const FaxRecipient &b);
 

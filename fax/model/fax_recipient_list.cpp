@@ -51,13 +51,13 @@ void FaxRecipientList::removeAtIndex(long index)
     if (!recipient)
         return;
     m_recipients.erase(m_recipients.begin() + index);
-    FaxRecipientRelease(recipient);
+    kFaxRecipientCFArrayCallbacks.release(nullptr, recipient);
 }
 
 void FaxRecipientList::removeAll()
 {
-    for (FaxRecipient *recipient : std::exchange(m_recipients, {}))
-        FaxRecipientRelease(recipient);
+    for (const FaxRecipient *recipient : std::exchange(m_recipients, {}))
+        kFaxRecipientCFArrayCallbacks.release(nullptr, recipient);
 }
 
 void FaxRecipientList::insertAtIndex(FaxRecipient *recipient, long index)
@@ -65,7 +65,7 @@ void FaxRecipientList::insertAtIndex(FaxRecipient *recipient, long index)
     if (!recipient || index < 0 || index > count())
         return;
     m_recipients.insert(m_recipients.begin() + index, recipient);
-    FaxRecipientRetain(recipient);
+    kFaxRecipientCFArrayCallbacks.retain(nullptr, recipient);
 }
 
 void FaxRecipientList::append(FaxRecipient *recipient)

@@ -2,10 +2,8 @@
 #include "books.h"
 #include "left_behind.h"
 #include "session_bus.h"
+#include "sort_by_name.h"
 
-#include <QCollator>
-
-#include <algorithm>
 #include <cstring>
 #include <map>
 #include <type_traits>
@@ -39,21 +37,6 @@ public:
 private:
     std::map<Member, Found> m_found;
 };
-
-template <typename Named>
-void sortByName(std::vector<Named> &list, QString Named::*name)
-{
-    const QCollator collator;
-    std::vector<std::pair<QCollatorSortKey, std::size_t>> order;
-    for (std::size_t i = 0; i < list.size(); ++i)
-        order.emplace_back(collator.sortKey(list[i].*name), i);
-    std::stable_sort(order.begin(), order.end(),
-                     [](const auto &one, const auto &other) { return one.first < other.first; });
-    std::vector<Named> sorted;
-    for (const auto &[key, i] : order)
-        sorted.push_back(std::move(list[i]));
-    list = std::move(sorted);
-}
 
 Result<AddressBookContents> readBooks(Books &books)
 {

@@ -11,6 +11,8 @@ class TestFaxOptions : public QObject
     Q_OBJECT
 
 private slots:
+    // A wall clock that is changed twice a year, without the system's table of zones.
+    void initTestCase() { qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3"); }
     void controlsShowTheTicket_data();
     void controlsShowTheTicket();
     void controlsAreWritten_data();
