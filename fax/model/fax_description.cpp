@@ -19,6 +19,20 @@ namespace {
 // Lines of thousands are read by nobody.
 constexpr long mostNamed = 20;
 
+bool canBeDialed(const FaxRecipient &recipient)
+{
+    return !CopyDialingStringFromFaxNumber(recipient.faxNumber()).isEmpty();
+}
+
+bool canAllBeDialed(const FaxRecipientList &recipients)
+{
+    for (long i = 0; i < recipients.count(); ++i) {
+        if (!canBeDialed(*recipients.recipientAtIndex(i)))
+            return false;
+    }
+    return true;
+}
+
 // "Ann Lee 555-1234"
 QString wordsOf(const FaxRecipient &recipient, const Device &device)
 {
@@ -26,7 +40,10 @@ QString wordsOf(const FaxRecipient &recipient, const Device &device)
                                       recipient.faxNumber().value_or(QString())}
                               .join(u' ')
                               .trimmed();
-    return words.isEmpty() ? faxText(device.bundle, "Nameless in Words") : words;
+    if (words.isEmpty())
+        return faxText(device.bundle, "Nameless in Words");
+    return canBeDialed(recipient) ? words
+                                  : formatted(faxText(device.bundle, "Undialed in Words"), {words});
 }
 
 QString wordsOf(const FaxRecipientList &recipients, const Device &device)
@@ -130,7 +147,7 @@ void describeFax(const Dictionary &options, const FaxRecipientList &recipients, 
         isToNobody ? faxText(device.bundle, "No Recipients in Words") : wordsOf(recipients, device),
         control);
     if (named)
-        named->isLost = isToNobody;
+        named->isLost = isFax && (isToNobody || !canAllBeDialed(recipients));
     panel.leaveUnspoken("FaxOptions");
     if (isFax) {
         describeSending(options, panel, control);

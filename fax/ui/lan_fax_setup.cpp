@@ -270,7 +270,9 @@ OSStatus handleEvent(LanFaxSetup &setup, const Event &event)
         enableRecipientButtons(controls, setup.hasAddressBook);
         return noErr;
     case EventKind::ListActivated:
-        return handleCommand(setup, event.row < 0 ? kCommandAdd : kCommandEdit);
+        if (event.row >= 0)
+            return handleCommand(setup, kCommandEdit);
+        return setup.rows.empty() ? handleCommand(setup, kCommandAdd) : noErr;
     default:
         return eventNotHandledErr;
     }

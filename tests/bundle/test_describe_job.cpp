@@ -31,6 +31,8 @@ private slots:
     void namesWhereItIsSet();
     void namesWhatHoldsTheSame();
     void keepsSecrets();
+    void whatAFaxLacksIsTold_data();
+    void whatAFaxLacksIsTold();
     void findsSpecialSheets_data();
     void findsSpecialSheets();
     void readsListsAgainWhenTheyChange();
@@ -184,7 +186,7 @@ void TestDescribeJob::saysWhatIsSet_data()
     row("recipients of a job that is none",
         ticketOf({{"FaxRecipientList", Array{Dictionary{{"LastName", "Lee"}}}},
                   {"FaxOptions", Dictionary{{"Resolution", 4}, {"CoverSheet", true}}}}),
-        {"Fax recipients: Lee"});
+        {"Fax recipients: Lee (no number to dial)"});
     row("a job type of later days", jobTypeOf({{"JobType", 42}}), {"Job type: 42"});
 
     row("paper by choices", ticketOf({}, {{"MediaColor", "Blue"}, {"MediaType", "Transparency"}}),
@@ -326,6 +328,30 @@ void TestDescribeJob::keepsSecrets()
         QVERIFY(!setting.words.contains("271828") && !setting.words.contains("314159"));
     }
     QCOMPARE(secrets, 2);
+}
+
+void TestDescribeJob::whatAFaxLacksIsTold_data()
+{
+    const Table<int, Array, bool> row{"jobType", "recipients", "isLost"};
+    const QVariant ann = Dictionary{{"FirstName", "Ann"}, {"FaxNumber", "1"}};
+    const QVariant undialed = Dictionary{{"FirstName", "Bo"}, {"FaxNumber", "(-)"}};
+    row("nothing", 5, {ann}, false);
+    row("recipients", 5, {}, true);
+    row("a number", 5, {ann, undialed}, true);
+    row("it is no fax", 1, {undialed}, false);
+}
+
+void TestDescribeJob::whatAFaxLacksIsTold()
+{
+    QFETCH(int, jobType);
+    QFETCH(Array, recipients);
+    const JobDescription description = describe(
+        ticketOf({{"JobType", Dictionary{{"JobType", jobType}}}, {"FaxRecipientList", recipients}}),
+        m_ppd.get());
+    const DescribedSetting *line =
+        lineAt(description, {kPMPrintSettingsTicket, keyOf("FaxRecipientList")});
+    QVERIFY(line);
+    QTEST(line->isLost, "isLost");
 }
 
 void TestDescribeJob::findsSpecialSheets_data()

@@ -272,6 +272,10 @@
         <translation>(no name and no number)</translation>
     </message>
     <message>
+        <source>Undialed in Words</source>
+        <translation>%1 (no number to dial)</translation>
+    </message>
+    <message>
         <source>And More Recipients</source>
         <translation>%1 and %2 more</translation>
     </message>
