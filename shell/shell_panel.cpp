@@ -163,6 +163,10 @@ OSStatus handlePrintHit(const PDEShellContext &shell)
                     QStringLiteral("Invalid Secure Print Passcode Message"),
                     {QString::number(kShortestPasscode), QString::number(kLongestPasscode)});
         return noErr;
+    case PrintCheck::NoFaxDevice:
+        showCaution(shell, QStringLiteral("NoFaxDevice Header"),
+                    QStringLiteral("NoFaxDevice Message"), {});
+        return noErr;
     case PrintCheck::MissingFaxRecipients:
         if (const FaxSetupRunner runFaxSetup = faxSetupRunner())
             runFaxSetup(paperOutput->context);

@@ -4,6 +4,7 @@
 #include "spin_field.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -126,6 +127,16 @@ void ModalDialog::accept()
     if (m_mayAccept && !m_mayAccept())
         return;
     QDialog::accept();
+}
+
+void ModalDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (isReturn && button)
+        button->click(); // and not the default one
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void ModalDialog::reject()

@@ -20,8 +20,8 @@ inline constexpr OSType kCommandRevert =
 
 // A modal dialog around a loaded window. A button's command is its dynamic
 // property "command" ("ok  "). The OK button becomes the default one, which
-// Return presses; Escape is Cancel. F1 sends the help command. Help that no
-// handler takes opens the help page named by the content's dynamic property
+// Return presses unless another button has the focus; Escape is Cancel. F1 sends the help command.
+// Help that no handler takes opens the help page named by the content's dynamic property
 // "helpPage". A content that is higher than the screen scrolls.
 class ModalDialog : public QDialog
 {
@@ -41,6 +41,9 @@ public:
 
     void accept() override;
     void reject() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     int scrollContent();

@@ -33,10 +33,10 @@ bool lacksPasscode(const PaperOutputSettings &settings)
         && settings.passcode.value_or(QString()).isEmpty();
 }
 
-JobTypeState jobTypeState(const PaperOutputSettings &settings)
+JobTypeState jobTypeState(const PaperOutputSettings &settings, const Device &device)
 {
     return {settings.jobType, !settings.passcode.value_or(QString()).isEmpty(),
-            settings.faxRecipients && settings.faxRecipients->count() > 0};
+            settings.faxRecipients && settings.faxRecipients->count() > 0, device.has("FaxKey")};
 }
 
 LongDateTime defaultDelayedPrintTime(LongDateTime now)

@@ -8,6 +8,7 @@
 
 namespace kelvo {
 
+struct Device;
 struct PaperOutputSettings;
 
 // The set-up button is enabled for these job types; two of them open nothing.
@@ -22,7 +23,7 @@ void changeJobType(PaperOutputSettings &settings, std::int32_t jobType);
 bool lacksPasscode(const PaperOutputSettings &settings);
 
 // What the Print button looks at.
-JobTypeState jobTypeState(const PaperOutputSettings &settings);
+JobTypeState jobTypeState(const PaperOutputSettings &settings, const Device &device);
 // The time of a delayed print until the user chooses one: a day after `now`.
 LongDateTime defaultDelayedPrintTime(LongDateTime now);
 // At Print: a ticket or preset may be older than its time, and the job waits for the next one.

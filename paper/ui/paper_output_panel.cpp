@@ -13,7 +13,7 @@ namespace {
 JobTypeState jobTypeStateOf(PMPDEContext context)
 {
     const auto *panel = panelOf<_PaperOutputContext>(context);
-    return panel ? jobTypeState(panel->settings) : JobTypeState();
+    return panel ? jobTypeState(panel->settings, panel->device) : JobTypeState();
 }
 
 void prepareToPrint(PMPDEContext context)

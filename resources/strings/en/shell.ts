@@ -112,6 +112,14 @@
         <translation>The job needs a passcode of %1 to %2 digits, the same in both fields. It is printed when the passcode is entered at the device.</translation>
     </message>
     <message>
+        <source>NoFaxDevice Header</source>
+        <translation>This printer sends no faxes</translation>
+    </message>
+    <message>
+        <source>NoFaxDevice Message</source>
+        <translation>Choose a printer that does, or another job type.</translation>
+    </message>
+    <message>
         <source>FaxRecipientsMissing Header</source>
         <translation>The fax has no recipients</translation>
     </message>

@@ -35,6 +35,7 @@ struct JobTypeState
     std::int32_t jobType = 1; // a value of JobTypeMap
     bool hasPasscode = false; // a secure-print passcode of at least one character
     bool hasFaxRecipients = false;
+    bool sendsFaxes = true; // the device
 };
 using JobTypeProvider = JobTypeState (*)(PMPDEContext paperOutputContext);
 void setJobTypeProvider(JobTypeProvider provider); // null: no Paper/Output panel
