@@ -1,6 +1,7 @@
 #include "fax_description.h"
 
 #include "cover_sheet.h"
+#include "dialing_check.h"
 #include "fax_options.h"
 #include "fax_texts.h"
 #include "setting_maps.h"
@@ -19,22 +20,25 @@ namespace {
 // Lines of thousands are read by nobody.
 constexpr long mostNamed = 20;
 
-bool canBeDialed(const FaxRecipient &recipient)
+// The key of what keeps a number from being dialed after a prefix; null: nothing.
+const char *dialingProblem(const FaxRecipient &recipient, int prefixLength)
 {
-    return !CopyDialingStringFromFaxNumber(recipient.faxNumber()).isEmpty();
+    if (CopyDialingStringFromFaxNumber(recipient.faxNumber()).isEmpty())
+        return "Undialed in Words";
+    return isTooLongToDial(recipient, prefixLength) ? "Too Long in Words" : nullptr;
 }
 
-bool canAllBeDialed(const FaxRecipientList &recipients)
+bool canAllBeDialed(const FaxRecipientList &recipients, int prefixLength)
 {
     for (long i = 0; i < recipients.count(); ++i) {
-        if (!canBeDialed(*recipients.recipientAtIndex(i)))
+        if (dialingProblem(*recipients.recipientAtIndex(i), prefixLength))
             return false;
     }
     return true;
 }
 
 // "Ann Lee 555-1234"
-QString wordsOf(const FaxRecipient &recipient, const Device &device)
+QString wordsOf(const FaxRecipient &recipient, int prefixLength, const Device &device)
 {
     const QString words = QStringList{DisplayNameFromRecipient(&recipient).trimmed(),
                                       recipient.faxNumber().value_or(QString())}
@@ -42,16 +46,16 @@ QString wordsOf(const FaxRecipient &recipient, const Device &device)
                               .trimmed();
     if (words.isEmpty())
         return faxText(device.bundle, "Nameless in Words");
-    return canBeDialed(recipient) ? words
-                                  : formatted(faxText(device.bundle, "Undialed in Words"), {words});
+    const char *problem = dialingProblem(recipient, prefixLength);
+    return problem ? formatted(faxText(device.bundle, problem), {words}) : words;
 }
 
-QString wordsOf(const FaxRecipientList &recipients, const Device &device)
+QString wordsOf(const FaxRecipientList &recipients, int prefixLength, const Device &device)
 {
     QStringList words;
     const long named = std::min(recipients.count(), mostNamed);
     for (long i = 0; i < named; ++i)
-        words.append(wordsOf(*recipients.recipientAtIndex(i), device));
+        words.append(wordsOf(*recipients.recipientAtIndex(i), prefixLength, device));
     const QString all = words.join(QStringLiteral(", "));
     if (named == recipients.count())
         return all;
@@ -141,13 +145,16 @@ void describeFax(const Dictionary &options, const FaxRecipientList &recipients, 
                  PanelDescription &panel, std::int32_t control, JobDescription &description)
 {
     const Device &device = panel.job().device;
+    const int prefixLength =
+        static_cast<int>(string(options, kFaxDialingPrefixProperty).value_or(QString()).size());
     const bool isToNobody = isFax && recipients.count() == 0;
-    DescribedSetting *named = panel.addLabelled(
-        "FaxRecipientList", labelOf(device, "Fax Recipients"),
-        isToNobody ? faxText(device.bundle, "No Recipients in Words") : wordsOf(recipients, device),
-        control);
+    DescribedSetting *named =
+        panel.addLabelled("FaxRecipientList", labelOf(device, "Fax Recipients"),
+                          isToNobody ? faxText(device.bundle, "No Recipients in Words")
+                                     : wordsOf(recipients, prefixLength, device),
+                          control);
     if (named)
-        named->isLost = isFax && (isToNobody || !canAllBeDialed(recipients));
+        named->isLost = isFax && (isToNobody || !canAllBeDialed(recipients, prefixLength));
     panel.leaveUnspoken("FaxOptions");
     if (isFax) {
         describeSending(options, panel, control);

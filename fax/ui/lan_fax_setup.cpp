@@ -315,7 +315,7 @@ void initialize(LanFaxSetup &setup)
     const Device &device = setup.editing.device;
     setup.words = coverSheetWords(device.bundle);
     prepareLanFaxControls(setup.controls, device);
-    showRecipients(setup.controls.recipients, device,
+    showRecipients(setup.controls.recipients, device, RecipientColumns::All,
                    [&setup](int row) { return setup.editing.recipients.recipientAtIndex(row); });
     setup.preview = new CoverSheetPreview(device.bundle, setup.controls.preview);
     QObject::connect(setup.preview, &CoverSheetPreview::noticed, setup.window.get(),

@@ -137,7 +137,7 @@ bool ValidateMaxCharacters(RecipientEditing &editing, std::optional<QString> &pr
     dialog.text->setText(formatted(faxText(device.bundle, "Max Characters Message"),
                                    {QLocale().toString(kMaxDialingString)}));
     makeHintText(dialog.hint);
-    showRecipients(dialog.list, device,
+    showRecipients(dialog.list, device, RecipientColumns::Numbers,
                    [&dialog](int row) { return dialog.tooLong[static_cast<std::size_t>(row)]; });
     limitToPrefix(dialog.prefix);
     dialog.prefixOn->setChecked(prefix.has_value());

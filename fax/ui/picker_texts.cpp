@@ -78,7 +78,7 @@ QString pickerCell(CFBundleRef bundle, const PeopleRow &row, int column, bool is
 {
     switch (column) {
     case NameColumn:
-        return row.name;
+        return row.name.trimmed().isEmpty() ? faxText(bundle, "Person Without Name") : row.name;
     case OrganizationColumn:
         return row.organization;
     case NumberColumn:

@@ -26,15 +26,19 @@ QString cellOf(const FaxRecipient &recipient, int column)
 
 } // namespace
 
-void showRecipients(ListView *list, const Device &device, const RecipientOfRow &recipientOf)
+void showRecipients(ListView *list, const Device &device, RecipientColumns columns,
+                    const RecipientOfRow &recipientOf)
 {
-    list->setColumns({{faxText(device.bundle, "Recipient Name Column"), 150},
-                      {faxText(device.bundle, "Recipient Number Column"), 130},
-                      {faxText(device.bundle, "Recipient Organization Column"), 110}},
-                     [recipientOf](int row, int column) {
-                         const FaxRecipient *recipient = recipientOf(row);
-                         return recipient ? cellOf(*recipient, column) : QString();
-                     });
+    const bool hasAll = columns == RecipientColumns::All;
+    std::vector<ListView::Column> shown{
+        {faxText(device.bundle, "Recipient Name Column"), hasAll ? 150 : 90},
+        {faxText(device.bundle, "Recipient Number Column"), 130}};
+    if (hasAll)
+        shown.push_back({faxText(device.bundle, "Recipient Organization Column"), 110});
+    list->setColumns(shown, [recipientOf](int row, int column) {
+        const FaxRecipient *recipient = recipientOf(row);
+        return recipient ? cellOf(*recipient, column) : QString();
+    });
 }
 
 std::vector<FaxRecipient *> selectedOf(const ListView *list,

@@ -16,8 +16,10 @@ struct Device;
 // after recipients have gone and before the list is reloaded.
 using RecipientOfRow = std::function<const FaxRecipient *(int row)>;
 
-// How lists of recipients look: name, number, organization.
-void showRecipients(ListView *list, const Device &device, const RecipientOfRow &recipientOf);
+// How lists of recipients look: name, number, organization; or with room for long numbers.
+enum class RecipientColumns { All, Numbers };
+void showRecipients(ListView *list, const Device &device, RecipientColumns columns,
+                    const RecipientOfRow &recipientOf);
 
 // Those of the selected rows.
 std::vector<FaxRecipient *> selectedOf(const ListView *list,

@@ -73,7 +73,8 @@ Result<GLibOwner<GDBusConnection>> busWithAddressBook(GCancellable *cancellable)
     if (!hasSessionBus()) {
         return Error{
             Code::NotFound, where,
-            translate("People", "there is no desktop session that has one; log in to a desktop")};
+            translate("People",
+                      "there is no desktop session with an address book; log in to a desktop")};
     }
     GLibError error;
     auto bus = openBus(error);
@@ -85,9 +86,11 @@ Result<GLibOwner<GDBusConnection>> busWithAddressBook(GCancellable *cancellable)
             return doesNotAnswer(error);
     }
     if (!found[0] || !found[1]) {
-        return Error{Code::NotFound, where,
-                     translate("People",
-                               "this desktop has none; install the package evolution-data-server")};
+        return Error{
+            Code::NotFound, where,
+            translate(
+                "People",
+                "this desktop has no address book; install the package evolution-data-server")};
     }
     return bus;
 }

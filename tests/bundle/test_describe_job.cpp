@@ -338,6 +338,7 @@ void TestDescribeJob::whatAFaxLacksIsTold_data()
     row("nothing", 5, {ann}, false);
     row("recipients", 5, {}, true);
     row("a number", 5, {ann, undialed}, true);
+    row("a short number", 5, {Dictionary{{"FaxNumber", QString(51, '1')}}}, true);
     row("it is no fax", 1, {undialed}, false);
 }
 

@@ -196,7 +196,7 @@ void TestRecipientDialogs::editingTouchesWhatIsTouched()
     QCOMPARE(*recipient, before);
     QVERIFY(!m_editing->needsDialingCheck);
     QCOMPARE(
-        edit({expect("recipientFaxLabel", "text", "From the address book: Home"),
+        edit({expect("recipientFaxLabel", "text", "Kind of number: Home"),
               type("recipientFaxNumber", "556"), expect("recipientFaxLabel", "visible", "false"),
               type("recipientEmail", ""), click("okButton")}),
         DialogResult::OK);

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Fax Number Label Hint</source>
-        <translation>From the address book: %1</translation>
+        <translation>Kind of number: %1</translation>
     </message>
     <message>
         <source>Fax Label Work</source>
@@ -170,6 +170,10 @@
     <message>
         <source>Reading Cards</source>
         <translation>Reading the files…</translation>
+    </message>
+    <message>
+        <source>Person Without Name</source>
+        <translation>(no name)</translation>
     </message>
     <message>
         <source>Books Unread</source>

@@ -276,6 +276,10 @@
         <translation>%1 (no number to dial)</translation>
     </message>
     <message>
+        <source>Too Long in Words</source>
+        <translation>%1 (too long to dial)</translation>
+    </message>
+    <message>
         <source>And More Recipients</source>
         <translation>%1 and %2 more</translation>
     </message>
