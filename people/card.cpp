@@ -125,6 +125,7 @@ QString shownText(const QString &text)
 Person personOf(const std::vector<CardProperty> &card)
 {
     std::vector<const CardProperty *> properties;
+    properties.reserve(card.size());
     for (const CardProperty &property : card)
         properties.push_back(&property);
     std::ranges::stable_sort(properties, {}, &CardProperty::preference);

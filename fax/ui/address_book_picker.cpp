@@ -405,6 +405,7 @@ void AddressBookPicker::add()
     // Whatever the questions below change, these rows are added.
     const std::shared_ptr<const PeopleToPick> people = shownSource().people;
     std::vector<const PeopleRow *> rows;
+    rows.reserve(selected.size());
     for (const int row : selected)
         rows.push_back(&people->row(m_found.rows[static_cast<std::size_t>(row)]));
     const PeopleToAdd adding = peopleToAdd(rows, m_inList, m_editing.promptDuplicate);
