@@ -29,21 +29,13 @@ bool isFaxNumber(const PersonNumber &number)
         && !CopyDialingStringFromFaxNumber(number.number).isEmpty();
 }
 
-QString shownName(const Person &person)
-{
-    if (!person.fullName.isEmpty())
-        return person.fullName;
-    const QString names = QStringList{person.firstName, person.lastName}.join(u' ').trimmed();
-    return names.isEmpty() ? person.organization : names;
-}
-
 PeopleRow rowOf(const PeopleGroup &group)
 {
     PeopleRow row{.isGroup = true, .name = group.name};
     for (const Person &member : group.members) {
         const auto number = std::ranges::find_if(member.numbers, isFaxNumber);
         if (number == member.numbers.end())
-            row.withoutNumber.append(shownName(member));
+            row.withoutNumber.append(member.fullName);
         else
             row.recipients.push_back(recipientFrom(member, *number));
     }
@@ -104,7 +96,7 @@ PeopleToPick::PeopleToPick(const AddressBookContents &contents)
         m_firstRows.push_back(static_cast<int>(m_rows.size()));
         for (const PersonNumber &number : person.numbers) {
             if (isFaxNumber(number))
-                m_rows.push_back({.name = shownName(person),
+                m_rows.push_back({.name = person.fullName,
                                   .organization = person.organization,
                                   .recipients = {recipientFrom(person, number)}});
         }
