@@ -3,6 +3,9 @@
 #include "advanced_description.h"
 #include "booklet_watermark_description.h"
 #include "image_options_description.h"
+#include "installed_features.h"
+#include "job_notes_description.h"
+#include "keyword_map.h"
 #include "paper_output_description.h"
 #include "special_pages_description.h"
 
@@ -26,6 +29,7 @@ void describe(const DescribedJob &job, JobDescription &description)
     describeSpecialPages(job, description);
     describeImageOptions(job, description);
     describeBookletWatermark(job, description);
+    describeJobNotes(job, description);
     describeAdvanced(job, description);
     PanelDescription shell(job, "PDEShell", description);
     for (const char *name : housekeeping)
@@ -48,6 +52,22 @@ OSStatus KelvoDescribeJob(const JobToDescribe *job, JobDescription *description)
     describe({*job->printSettings, *job->pageFormat, deviceWith(job->bundle, job->ppd)},
              *description);
     return noErr;
+}
+
+bool KelvoKnowsOption(const QString &keyword)
+{
+    const auto isIt = [&keyword](const char *known) {
+        return known && keyword.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+    };
+    for (const PpdKeywordMap *row = MainKeywordMap; row->keyword; ++row) {
+        if (isIt(row->keyword))
+            return true;
+    }
+    for (const InstalledFeature *row = InstalledFeatures; row->feature; ++row) {
+        if (isIt(row->ppdKeyword))
+            return true;
+    }
+    return false;
 }
 
 } // namespace kelvo

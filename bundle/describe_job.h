@@ -8,5 +8,7 @@ namespace kelvo {
 // What the bundle exports under kDescribeJobName: what all its panels say of a job.
 KELVO_PLUGIN_EXPORT OSStatus KelvoDescribeJob(const JobToDescribe *job,
                                               JobDescription *description);
+// And under kKnowsOptionName.
+KELVO_PLUGIN_EXPORT bool KelvoKnowsOption(const QString &keyword);
 
 } // namespace kelvo

@@ -14,7 +14,7 @@ namespace {
 
 Error rangeError(Error::Code code, QStringView part, const QString &detail)
 {
-    return Error{code, translate("Document", "page range \"%1\"").arg(part.trimmed()), detail};
+    return Error{code, translate("Document", "page range “%1”").arg(part.trimmed()), detail};
 }
 
 // A page number, or nothing where there is no number. One too long for an int

@@ -31,7 +31,7 @@ Result<void> convertPostScript(const ConverterFiles &files, const QSizeF &paper,
         return Error{Error::Code::Unsupported, files.where,
                      translate("Document",
                                "printing PostScript needs Ghostscript; install the package "
-                               "\"ghostscript\"")};
+                               "“ghostscript”")};
     }
 
     const ChildProgram child{

@@ -18,7 +18,7 @@ constexpr PartLibrary partThatDraws(const char *fileName, const char *entry)
             "Drawing",
             QT_TRANSLATE_NOOP("Drawing",
                               "this part that draws is not installed beside the "
-                              "program's libraries; install kelvo-print anew"),
+                              "program’s libraries; install kelvo-print anew"),
             QT_TRANSLATE_NOOP("Drawing",
                               "this part that draws cannot be loaded (%1); install "
                               "kelvo-print anew, with the packages that it needs"),
@@ -43,6 +43,16 @@ Result<Picture> showPdf(const QByteArray &pdf, const QSize &pixels, bool isOnWhi
         return Picture{};
     const Result<const PdfView *> view = openPart<PdfView>(pdfViewLibrary, folder);
     return view ? view.value()->show(pdf, pixels, isOnWhite) : view.error();
+}
+
+LibraryVersions libraryVersions(const QString &folder)
+{
+    LibraryVersions versions;
+    if (const auto drawing = library(folder))
+        versions.insert(drawing.value()->versions());
+    if (const auto view = openPart<PdfView>(pdfViewLibrary, folder))
+        versions.insert(view.value()->versions());
+    return versions;
 }
 
 Result<std::unique_ptr<Page>> Library::beginPage(const QSizeF &size, Writer writer) const

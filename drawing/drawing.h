@@ -1,6 +1,7 @@
 #pragma once
 
 #include "folders.h"
+#include "library_versions.h"
 #include "result.h"
 
 #include <QByteArray>
@@ -141,6 +142,8 @@ public:
     // above 0, or above longestSide.
     Result<std::unique_ptr<Page>> beginPage(const QSizeF &size, Writer writer) const;
 
+    virtual LibraryVersions versions() const = 0; // of what is behind it
+
 protected:
     ~Library() = default; // lives in its library
 
@@ -160,5 +163,9 @@ Result<const Library *> library(const QString &folder = libraryFolder());
 // program of its own (page_drawing.h).
 Result<Picture> showPdf(const QByteArray &pdf, const QSize &pixels, bool isOnWhite,
                         const QString &folder = libraryFolder());
+
+// The versions of cairo, Pango, poppler and what else draws; opens what library() and showPdf()
+// do. What cannot be opened is not among them.
+LibraryVersions libraryVersions(const QString &folder = libraryFolder());
 
 } // namespace kelvo::drawing

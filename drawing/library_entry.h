@@ -16,6 +16,7 @@ public:
     // `pixels` are more than none.
     virtual Result<Picture> show(const QByteArray &pdf, const QSize &pixels,
                                  bool isOnWhite) const = 0;
+    virtual LibraryVersions versions() const = 0;
 
 protected:
     ~PdfView() = default; // lives in its library

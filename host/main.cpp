@@ -1,7 +1,11 @@
 #include "application_files.h"
+#include "application_look.h"
 #include "background_work.h"
 #include "command_line.h"
 #include "control_list.h"
+#include "display.h"
+#include "document_chooser.h"
+#include "document_origin.h"
 #include "exit_status.h"
 #include "file_names.h"
 #include "file_store.h"
@@ -15,6 +19,7 @@
 #include "script_runner.h"
 #include "secrets.h"
 #include "size_limits.h"
+#include "string_table.h"
 #include "temporary_folder.h"
 #include "terminal.h"
 #include "texts.h"
@@ -23,18 +28,22 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QScopeGuard>
 #include <QSocketNotifier>
 #include <QStringDecoder>
 #include <QTimer>
 
 #include <cerrno>
+#include <chrono>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <future>
 #include <memory>
+#include <variant>
 
 #include <fontconfig/fontconfig.h>
 
@@ -47,6 +56,9 @@ using namespace kelvo;
 namespace {
 
 constexpr int endWaitMs = 1000; // for threads that were told to stop
+// For a display that takes connections and then says nothing, as one at the other end of a broken
+// line does.
+constexpr std::chrono::seconds displayWait(30);
 
 // The document, the printers, their PPD, the preview and two for painting. Qt paints large
 // areas on threads of its own, and waits for ever for one that could not be started.
@@ -69,10 +81,50 @@ int fail(ExitStatus status, const QString &text)
 
 // ---- before the application object is made
 
-bool hasDisplay()
+// Dates, numbers and paper sizes are those of the language where the user lives, as far as
+// anybody speaks it there.
+QLocale localeOf(const QString &language)
 {
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const QLocale locale(language);
+    const QLocale atHome(locale.language(), QLocale::system().territory());
+    const bool namesPlace = language.contains(u'_') || language.contains(u'-');
+    return namesPlace || atHome.language() != locale.language() ? locale : atHome;
+}
+
+// Whoever asks for the C locale wants what programs say in English: LANGUAGE does not count
+// there, as for every program.
+bool isLocaleC()
+{
+    for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const QByteArray value = qgetenv(name);
+        if (!value.isEmpty())
+            return value == "C" || value == "POSIX" || value.startsWith("C.");
+    }
+    return true;
+}
+
+// The language of all texts: the one asked for, else the desktop's.
+Result<void> chooseLanguage(const std::optional<QString> &asked)
+{
+    const QString folder = findSharedFile(QStringLiteral("strings"));
+    if (asked)
+        QLocale::setDefault(localeOf(*asked));
+    else if (isLocaleC())
+        QLocale::setDefault(QLocale::c());
+    const QLocale locale;
+    loadTexts(folder, locale.uiLanguages());
+    QLocale::setDefault(withDigitsOfTexts(locale));
+    if (!asked
+        || (locale.language() != QLocale::C
+            && QLocale(textLanguage()).language() == locale.language()))
+        return {};
+    QLocale::setDefault(QLocale::system());
+    loadTexts(folder, QLocale().uiLanguages());
+    QStringList languages = languagesIn(folder) << QStringLiteral("en");
+    languages.sort();
+    return Error{Error::Code::Refused, QStringLiteral("--language"),
+                 translate("Main", "there are no texts in the language “%1”; name one of these: %2")
+                     .arg(*asked, languages.join(QStringLiteral(", ")))};
 }
 
 // A private run-time folder where the session has none: Qt would warn and make
@@ -87,14 +139,6 @@ std::unique_ptr<TemporaryFolder> provideRuntimeFolder()
     return folder;
 }
 
-// Without a display Qt has nothing to do with a window's size, place or keys, and
-// says so each time. Nobody wants to read it among a script's own messages.
-void passMessage(QtMsgType, const QMessageLogContext &, const QString &text)
-{
-    if (!text.startsWith(QLatin1String("This plugin does not support ")))
-        printLine(stderr, text);
-}
-
 // What was said on standard output has arrived. Where it has not, a script that
 // reads it must not take the silence for an answer.
 int endWith(int status)
@@ -106,16 +150,32 @@ int endWith(int status)
     return status == 0 ? toInt(ExitStatus::Failed) : status;
 }
 
+// Without ending threads and destroying what they use; nothing of the user's is left to do.
+[[noreturn]] void leave(int status)
+{
+    removeTemporaryFolders();
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+
 int endAfterBackgroundWork(int status)
 {
     status = endWith(status);
-    if (!waitForBackgroundWork(endWaitMs)) {
-        // A thread hangs in a server's answer; nothing of the user's is left to do.
-        removeTemporaryFolders();
-        std::fflush(nullptr);
-        std::_Exit(status);
-    }
+    if (!waitForBackgroundWork(endWaitMs))
+        leave(status); // a thread hangs in a server's answer
     return status;
+}
+
+// The one that prints; null: none. Only the main thread, which Qt tells that its display has gone,
+// looks at it while there is one.
+const PrintDialog *openDialog = nullptr;
+
+[[noreturn]] void leaveWithoutDisplay(const QString &problem)
+{
+    const int status = fail(ExitStatus::Failed, problem);
+    if (openDialog && openDialog->isPrinting())
+        fail(ExitStatus::Failed, PrintFlow::unknownOutcome());
+    leave(status);
 }
 
 // What is wrong with a file that `option` names and that could not be read at all.
@@ -177,15 +237,23 @@ void noteSignals(int flags)
     }
 }
 
-void endOnSignals(PrintDialog &dialog)
+// `end` ends what `window` is there for.
+void onSignals(QObject *window, const std::function<void()> &end)
 {
     if (signalPipe[0] < 0)
         return;
     noteSignals(SA_RESTART);
-    auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, &dialog);
-    QObject::connect(notifier, &QSocketNotifier::activated, &dialog, [&dialog] {
+    auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, window);
+    QObject::connect(notifier, &QSocketNotifier::activated, window, [end] {
         char byte;
         [[maybe_unused]] const ssize_t count = ::read(signalPipe[0], &byte, 1);
+        end();
+    });
+}
+
+void endOnSignals(PrintDialog &dialog)
+{
+    onSignals(&dialog, [&dialog] {
         // A job that is on its way ends first: the status says what became of it.
         QObject::connect(&dialog, &PrintDialog::ended, qApp, &QCoreApplication::quit);
         dialog.interrupt();
@@ -246,6 +314,31 @@ struct Failure
     bool isOfScript = false; // "FILE:LINE: …", as a script's run tells its own
 };
 
+// The document, which must be named by now, or be piped in.
+std::variant<DocumentSource, Failure> findDocument(const CommandLine &line)
+{
+    const DocumentOrigin origin = documentOrigin(line, standardInput());
+    DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
+    if (origin == DocumentOrigin::Sample) {
+        source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
+        if (source.path.isEmpty())
+            return Failure{ExitStatus::Failed,
+                           translate("Main", "--demo: the sample document is not installed")};
+    } else if (origin == DocumentOrigin::Missing) {
+        return Failure{ExitStatus::WrongUsage,
+                       translate("Main",
+                                 "there is no document: name a file, or pipe one in. "
+                                 "`kelvo-print --help` says more.")};
+    } else if (origin == DocumentOrigin::File && !fileStatus(line.file)) {
+        return Failure{ExitStatus::Failed,
+                       translate("Main",
+                                 "%1: there is no such document; check its name, or the "
+                                 "folder that it is looked for in (%2)")
+                           .arg(line.file, QDir::currentPath())};
+    }
+    return source;
+}
+
 // Reads everything that can be read before there is a window.
 std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &options,
                                   QMap<QString, QString> &secrets, std::vector<ScriptLine> &script)
@@ -305,26 +398,10 @@ std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &option
                              translate("Main", "check its name, or name a queue with -d"))};
         options.session.printer.device = std::move(device).value();
     }
-    DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
-    if (line.file.isEmpty() && line.demo && !line.readsStandardInput) {
-        source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
-        if (source.path.isEmpty())
-            return Failure{ExitStatus::Failed,
-                           translate("Main", "--demo: the sample document is not installed")};
-    } else if (line.file.isEmpty()) {
-        if (::isatty(STDIN_FILENO))
-            return Failure{ExitStatus::WrongUsage,
-                           translate("Main",
-                                     "there is no document: name a file, or pipe one in. "
-                                     "`kelvo-print --help` says more.")};
-    } else if (!fileStatus(line.file)) {
-        return Failure{ExitStatus::Failed,
-                       translate("Main",
-                                 "%1: there is no such document; check its name, or the "
-                                 "folder that it is looked for in (%2)")
-                           .arg(line.file, QDir::currentPath())};
-    }
-    options.session.document = source;
+    auto document = findDocument(line);
+    if (const auto *failure = std::get_if<Failure>(&document))
+        return *failure;
+    options.session.document = std::get<DocumentSource>(std::move(document));
     return std::nullopt;
 }
 
@@ -338,10 +415,15 @@ int listQueues(int timeoutMs)
             : printer.state == Printer::State::Idle ? QStringLiteral("idle")
             : printer.state == Printer::State::Busy ? QStringLiteral("printing")
                                                     : QStringLiteral("stopped");
+        // No column is empty: a shell's `read` would take the next one for it.
+        const QString none = QStringLiteral("-");
+        const auto orNone = [&none](const QString &text) {
+            return text.trimmed().isEmpty() ? none : text.simplified();
+        };
         printLine(stdout,
                   QStringList{printer.name, state,
-                              printer.isDefault ? QStringLiteral("default") : QString(),
-                              printer.makeAndModel, printer.location});
+                              printer.isDefault ? QStringLiteral("default") : none,
+                              orNone(printer.makeAndModel), orNone(printer.location)});
     }
     return 0;
 }
@@ -385,6 +467,8 @@ int runDialog(const CommandLine &line, DialogOptions options)
 
     ExitStatus status = ExitStatus::Failed;
     PrintDialog dialog(std::move(options));
+    openDialog = &dialog;
+    const auto closed = qScopeGuard([] { openDialog = nullptr; });
     dialog.setSecrets(std::move(secrets));
     endOnSignals(dialog);
     QObject::connect(&dialog, &PrintDialog::begun, qApp, [line] {
@@ -404,8 +488,9 @@ int runDialog(const CommandLine &line, DialogOptions options)
         if (name == QLatin1String("-"))
             name = standardInputName;
         const bool printsAtEnd = line.print || !line.script;
-        runner = std::make_unique<ScriptRunner>(dialog, std::move(script),
-                                                ScriptRunner::Options{name, printsAtEnd});
+        runner = std::make_unique<ScriptRunner>(
+            dialog, std::move(script),
+            ScriptRunner::Options{name, printsAtEnd, line.timeoutSeconds * 1000});
         // The runner knows better than the dialog how its run ended.
         QObject::connect(
             runner.get(), &ScriptRunner::ended, qApp, [&status, &dialog](ExitStatus end) {
@@ -431,30 +516,40 @@ int runDialog(const CommandLine &line, DialogOptions options)
     return toInt(status);
 }
 
-int runApplication(int argc, char **argv, const CommandLine &line)
+// The path of the document that the user chooses; empty: none.
+QString chooseDocument()
+{
+    // Whoever calls from a terminal means the folder that it is in.
+    const bool isTerminal = standardInput() == StandardInput::Terminal;
+    const auto chooser = documentChooser(isTerminal ? QDir::currentPath() : QString());
+    onSignals(chooser.get(), [&chooser] { chooser->reject(); });
+    return chooser->exec() == QDialog::Accepted ? chooser->selectedFiles().value(0) : QString();
+}
+
+int runApplication(int argc, char **argv, CommandLine line)
 {
     if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) == 0)
         noteSignals(0); // what waits for input ends with it
     const auto runtimeFolder = provideRuntimeFolder();
-    if (line.noWindow || line.listControls) {
+    if (line.noWindow || line.listControls)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    } else if (!hasDisplay()) {
-        return fail(ExitStatus::WrongUsage,
-                    translate("Main",
-                              "there is no display to show the dialog on; --no-window prints "
-                              "without one"));
-    }
     // Fonts take as long to be found as the application object takes to be made.
     // Whoever asks for them meanwhile would look for them a second time.
     const auto areThreadsToBeHad = std::make_shared<std::promise<bool>>();
-    if (!startBackgroundWork([areThreadsToBeHad] {
+    std::promise<void> display;
+    if (!startBackgroundWork([areThreadsToBeHad, opened = display.get_future().share()] {
             const bool enough = canStartThreads(threadsAtOnce);
             FcInit();
             areThreadsToBeHad->set_value(enough);
+            if (isDisplayUsed() && opened.wait_for(displayWait) == std::future_status::timeout)
+                leaveWithoutDisplay(noDisplayText());
         }))
         return fail(ExitStatus::Failed, noThreadReason());
+    std::optional<DisplayOpening> opening(std::in_place);
     QApplication application(argc, argv);
-    installTexts();
+    opening.reset();
+    display.set_value();
+    dressApplication();
     // The application object took over the locale; what we write must not follow it.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("kelvo-print"));
@@ -463,6 +558,12 @@ int runApplication(int argc, char **argv, const CommandLine &line)
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
 
+    // Before the printers are looked for: whoever finds them answers the dialog, and only once.
+    if (documentOrigin(line, standardInput()) == DocumentOrigin::Chooser) {
+        line.file = chooseDocument();
+        if (line.file.isEmpty())
+            return toInt(ExitStatus::Cancelled);
+    }
     DialogOptions options = dialogOptions(line);
     SessionBeginning &session = options.session;
     if (auto bundle = openPanelBundle()) {
@@ -502,14 +603,16 @@ void provideStandardStreams()
 int main(int argc, char **argv)
 {
     provideStandardStreams();
-    qInstallMessageHandler(passMessage);
+    passMessages(leaveWithoutDisplay);
     // A file that may not grow is an error of its write, which says so.
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
-    loadTexts(findSharedFile(QStringLiteral("strings")), QLocale().uiLanguages());
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(fileNameFrom(argv[i]));
+    const auto spoken = chooseLanguage(languageAsked(arguments));
+    if (!spoken)
+        return fail(ExitStatus::WrongUsage, spoken.error().text());
     const auto parsed = parseCommandLine(arguments);
     if (!parsed) {
         fail(ExitStatus::WrongUsage, parsed.error().text());

@@ -9,27 +9,6 @@ namespace kelvo {
 
 namespace {
 
-bool isMark(char32_t c)
-{
-    return QChar::category(c) == QChar::Mark_NonSpacing;
-}
-
-// What capitals, accents and forms of the same letter have in common.
-QString folded(const QString &text)
-{
-    if (std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; }))
-        return text.toLower();
-    // Capitals first: there are letters of which two become.
-    const QString parts = text.normalized(QString::NormalizationForm_KD).toUpper().toCaseFolded();
-    QString plain;
-    plain.reserve(parts.size());
-    eachCharacter(parts, [&plain](char32_t c) {
-        if (!isMark(c))
-            plain += QStringView(QChar::fromUcs4(c));
-    });
-    return plain;
-}
-
 // " ann-marie@x.org marie@x.org x.org org": from wherever a word begins, a blank before each.
 void addWords(QString &words, const QString &text)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QChar>
+#include <QString>
 #include <QStringView>
 
 // What strangers' texts are made of. A lone surrogate is a character here: it
@@ -29,5 +30,8 @@ bool isSeen(char32_t c);
 // Whether a property list, and so a ticket and every file of ours, can hold it: it
 // is a Char of XML 1.0.
 bool isKept(char32_t c);
+
+// What capitals, accents and forms of the same letter have in common, for searches.
+QString folded(const QString &text);
 
 } // namespace kelvo

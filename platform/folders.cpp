@@ -1,5 +1,7 @@
 #include "folders.h"
 
+#include "system_information.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -23,6 +25,13 @@ QString folderFrom(const char *variable)
     return absoluteFolder(qEnvironmentVariable(variable));
 }
 
+// Services and cron jobs may run without HOME.
+QString homeFolder()
+{
+    const QString home = folderFrom("HOME");
+    return home.isEmpty() ? absoluteFolder(ownersHome().value_or(QString())) : home;
+}
+
 QString folderBelow(const QString &folder, const QString &name)
 {
     if (folder.isEmpty())
@@ -36,7 +45,7 @@ QString userPreferencesFolder()
 {
     QString config = folderFrom("XDG_CONFIG_HOME");
     if (config.isEmpty())
-        config = folderBelow(folderFrom("HOME"), QStringLiteral(".config"));
+        config = folderBelow(homeFolder(), QStringLiteral(".config"));
     return folderBelow(config, QStringLiteral("kelvo"));
 }
 
@@ -50,7 +59,7 @@ QString localApplicationSupportFolder()
     const QString data = folderFrom("XDG_DATA_HOME");
     if (!data.isEmpty())
         return data;
-    return folderBelow(folderFrom("HOME"), QStringLiteral(".local/share"));
+    return folderBelow(homeFolder(), QStringLiteral(".local/share"));
 }
 
 QStringList siteFolders()

@@ -3,7 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-// Where files live. Every path ends without a slash; nothing is created here.
+// Where files live. Every path ends without a slash; nothing is created here. ~ is what HOME says,
+// else the home of the system's list of users.
 namespace kelvo {
 
 // $XDG_CONFIG_HOME/kelvo, else ~/.config/kelvo; empty when there is neither.

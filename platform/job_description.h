@@ -25,7 +25,7 @@ namespace kelvo {
 struct DescribedSetting
 {
     TicketPlace place;           // where the ticket has it, or would have it
-    QString label;               // "Paper Color", without a colon
+    QString label;               // "Paper color", without a colon
     QString words;               // "Salmon"
     QString panel;               // the panel that sets it, as scripts name it: "PaperOutput"
     ControlID control;           // and the control there
@@ -153,6 +153,11 @@ struct JobToDescribe
 // a missing argument, and nothing is described.
 inline constexpr char kDescribeJobName[] = "KelvoDescribeJob";
 using DescribeJobFunction = OSStatus (*)(const JobToDescribe *job, JobDescription *description);
+
+// Exported under this name. Whether any of the bundle's devices may have the PPD option, whose
+// keyword is found in any case. Any thread.
+inline constexpr char kKnowsOptionName[] = "KelvoKnowsOption";
+using KnowsOptionFunction = bool (*)(const QString &keyword);
 
 // A drawing for one page, as it lies on the sheet that one looks at.
 struct OverlayToDraw

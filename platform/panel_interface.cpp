@@ -52,9 +52,10 @@ Result<PanelOperations> findPanelOperations(Bundle &bundle, const QString &gette
         reinterpret_cast<PanelInterfaceGetter>(bundle.findFunction(getter.toLatin1().constData()));
     if (!get) {
         const QString reason = bundle.loadError();
+        if (!reason.isEmpty())
+            return Error{Error::Code::Refused, getter, reason};
         return Error{Error::Code::NotFound, getter,
-                     reason.isEmpty() ? translate("Panels", "the module has no such function")
-                                      : reason};
+                     translate("Panels", "the module has no such function")};
     }
     PanelInterface *interface = nullptr;
     const OSStatus status = get(&interface);

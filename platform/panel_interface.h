@@ -19,7 +19,8 @@ OSStatus givePanelInterface(const PanelOperations &operations, PanelInterface **
 bool isComplete(const PanelOperations &operations);
 
 // The slots of the panel behind a getter of `bundle`, the first three null; the
-// interface itself is freed. The error's detail says why there is none.
+// interface itself is freed. The error's detail says why there is none; NotFound: the
+// module has no such getter.
 Result<PanelOperations> findPanelOperations(Bundle &bundle, const QString &getter);
 
 // "GetAdvancedPanelInterface" → "Advanced"; any other name as it is.

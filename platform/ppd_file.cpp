@@ -1,6 +1,7 @@
 #include "ppd_file.h"
 
 #include "file_store.h"
+#include "ppd_translation.h"
 #include "size_limits.h"
 #include "texts.h"
 
@@ -207,17 +208,20 @@ void walk(const ppd_file_t &ppd, const auto &visit)
         walk(ppd.groups[i], visit);
 }
 
-PpdOption optionFrom(const ppd_option_t &option)
+PpdOption optionFrom(const ppd_option_t &option, const PpdTranslation &translation)
 {
     PpdOption copy{textFrom(option.keyword),
-                   textFrom(option.text),
+                   translation.text(option.keyword, textFrom(option.text)),
                    textFrom(option.defchoice),
                    option.ui == PPD_UI_PICKMANY,
                    {}};
     copy.choices.reserve(static_cast<std::size_t>(option.num_choices));
-    for (int i = 0; i < option.num_choices; ++i)
+    for (int i = 0; i < option.num_choices; ++i) {
+        const ppd_choice_t &choice = option.choices[i];
         copy.choices.push_back(
-            {textFrom(option.choices[i].choice), textFrom(option.choices[i].text)});
+            {textFrom(choice.choice),
+             translation.text(option.keyword, choice.choice, textFrom(choice.text))});
+    }
     return copy;
 }
 
@@ -456,12 +460,13 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     if (bytes.startsWith("\x1f\x8b"))
         return Error{Code::Unsupported, path,
                      translate("Device", "compressed; unpack it with gunzip first")};
-    if (auto excess = findExcess(bytes, path))
+    const QByteArray read = withoutTranslations(bytes);
+    if (auto excess = findExcess(read, path))
         return *excess;
-    auto opened = openBytes(bytes, path);
+    auto opened = openBytes(read, path);
     if (!opened)
         return opened.error();
-    if (auto cut = findCut(bytes, path))
+    if (auto cut = findCut(read, path))
         return *cut;
 
     std::shared_ptr<PpdFile> file(new PpdFile);
@@ -471,15 +476,16 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     d.ppd = opened.value();
     ppdMarkDefaults(d.ppd.get());
     d.pageSizes = pageSizesFrom(*d.ppd);
+    const PpdTranslation translation(bytes, textLanguage());
     d.groups.reserve(static_cast<std::size_t>(d.ppd->num_groups));
     for (int i = 0; i < d.ppd->num_groups; ++i) {
         const ppd_group_t &group = d.ppd->groups[i];
-        PpdGroup &copy =
-            d.groups.emplace_back(PpdGroup{textFrom(group.name), textFrom(group.text), {}});
+        PpdGroup &copy = d.groups.emplace_back(
+            PpdGroup{textFrom(group.name), translation.text(group.name, textFrom(group.text)), {}});
         std::vector<const ppd_option_t *> originals;
         walk(group, [&](const ppd_option_t &option) {
             originals.push_back(&option);
-            copy.options.push_back(optionFrom(option));
+            copy.options.push_back(optionFrom(option, translation));
         });
         for (std::size_t at = 0; at < originals.size(); ++at)
             d.options.insert(originals[at], &copy.options[at]);

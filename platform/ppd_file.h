@@ -13,7 +13,8 @@
 
 // A printer's PPD. ppd_file.cpp is the one file that includes <cups/ppd.h>;
 // what comes out of here is Qt types. A PPD is hostile until checked: its texts
-// are shown as plain text and are never a path, a format or markup.
+// are shown as plain text and are never a path, a format or markup. They are in the
+// program's language where the PPD has that, and else as the PPD was written.
 namespace kelvo {
 
 struct PpdChoice

@@ -329,7 +329,7 @@ void Parser::end()
     case Element::Dictionary:
         if (frame.hasKey)
             return fail(Code::Damaged,
-                        translate("Files", "the key \"%1\" has no value").arg(frame.key));
+                        translate("Files", "the key “%1” has no value").arg(frame.key));
         return add(frame.dictionary);
     case Element::Array:
         return add(frame.array);
@@ -367,25 +367,25 @@ void Parser::finishText(Element element)
     case Element::Integer:
         if (const auto number = integerFrom(trimmed(whole)))
             return add(*number);
-        return refuse(Code::OutOfRange, translate("Files", "\"%1\" is no signed 64-bit integer"));
+        return refuse(Code::OutOfRange, translate("Files", "“%1” is no signed 64-bit integer"));
     case Element::Real:
         if (const auto number = realFrom(trimmed(whole)))
             return add(*number);
-        return refuse(Code::OutOfRange, translate("Files", "\"%1\" is no finite number"));
+        return refuse(Code::OutOfRange, translate("Files", "“%1” is no finite number"));
     case Element::Date:
         if (const auto date = dateFrom(trimmed(whole)))
             return add(*date);
         return refuse(Code::Damaged,
-                      translate("Files", "\"%1\" is no date of the form 2024-01-31T12:00:00Z"));
+                      translate("Files", "“%1” is no date of the form 2024-01-31T12:00:00Z"));
     case Element::Data:
         if (auto data = dataFrom(whole))
             return add(*std::move(data));
-        return refuse(Code::Damaged, translate("Files", "\"%1\" is no base64"));
+        return refuse(Code::Damaged, translate("Files", "“%1” is no base64"));
     case Element::True:
     case Element::False:
         if (!trimmed(whole).empty())
             return refuse(Code::Damaged,
-                          translate("Files", "\"%1\" is no content of <true/> or <false/>"));
+                          translate("Files", "“%1” is no content of <true/> or <false/>"));
         return add(element == Element::True);
     case Element::Root:
     case Element::Dictionary:
@@ -405,7 +405,7 @@ void Parser::add(QVariant value)
         frame.dictionary.insert(frame.dictionary.cend(), frame.key, value);
         frame.hasKey = false;
         if (frame.dictionary.size() == before)
-            fail(Code::Damaged, translate("Files", "the key \"%1\" stands twice").arg(frame.key));
+            fail(Code::Damaged, translate("Files", "the key “%1” stands twice").arg(frame.key));
         return;
     }
     case Element::Array:
@@ -440,7 +440,7 @@ Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
     XML_SetSkippedEntityHandler(expat, [](void *user, const XML_Char *entity, int) {
         of(user).fail(
             Code::Damaged,
-            translate("Files", "uses the unknown entity \"%1\"").arg(QString::fromUtf8(entity)));
+            translate("Files", "uses the unknown entity “%1”").arg(QString::fromUtf8(entity)));
     });
 
     const XML_Status status = XML_Parse(expat, xml.constData(), static_cast<int>(xml.size()), 1);

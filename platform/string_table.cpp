@@ -1,34 +1,50 @@
 #include "string_table.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QTranslator>
 
 namespace kelvo {
+
+QStringList languageNames(const QStringList &uiLanguages)
+{
+    QStringList names;
+    for (QString language : uiLanguages) {
+        names << language.replace(u'-', u'_');
+        // Of the desktop's language QLocale does not say by itself that it is a kind of another.
+        const QString kind = language.section(u'_', 0, 0);
+        // English has what British English has not; whoever prefers it has no use for the rest.
+        if (kind == QLatin1String("en"))
+            break;
+        names << kind;
+    }
+    names << QStringLiteral("en");
+    names.removeDuplicates();
+    names.removeIf([](const QString &name) { return name.contains(u'/'); }); // never a path
+    return names;
+}
 
 StringTables::StringTables() = default;
 StringTables::~StringTables() = default;
 
 void StringTables::load(const QString &folder, const QStringList &uiLanguages)
 {
-    QStringList names;
-    for (QString language : uiLanguages) {
-        names << language.replace(u'-', u'_');
-        // en.qm has what en_GB.qm has not; whoever prefers it has no use for the rest.
-        if (language.section(u'_', 0, 0) == QLatin1String("en"))
-            break;
-    }
-    names << QStringLiteral("en");
-    names.removeDuplicates();
-    for (const QString &name : std::as_const(names)) {
+    const QStringList names = languageNames(uiLanguages);
+    for (const QString &name : names) {
         const QString path = folder + u'/' + name + QStringLiteral(".qm");
         // QTranslator would look for shorter names by itself, out of turn.
-        if (name.contains(u'/') || !QFileInfo(path).isFile())
+        if (!QFileInfo(path).isFile())
             continue;
         auto translator = std::make_unique<QTranslator>();
         if (translator->load(path))
             m_translators.push_back(std::move(translator));
     }
+}
+
+QString StringTables::language() const
+{
+    return m_translators.empty() ? QString() : m_translators.front()->language();
 }
 
 std::optional<QString> StringTables::find(const QString &table, const QString &key) const
@@ -52,6 +68,16 @@ void StringTables::install() const
     // The one that is installed last is asked first.
     for (auto each = m_translators.rbegin(); each != m_translators.rend(); ++each)
         QCoreApplication::installTranslator(each->get());
+}
+
+QStringList languagesIn(const QString &folder)
+{
+    const QString ending = QStringLiteral(".qm");
+    QStringList languages =
+        folder.isEmpty() ? QStringList() : QDir(folder).entryList({u'*' + ending}, QDir::Files);
+    for (QString &language : languages)
+        language.chop(ending.size());
+    return languages;
 }
 
 QString formatted(const QString &format, const QStringList &arguments)

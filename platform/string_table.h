@@ -13,6 +13,10 @@ class QTranslator;
 // key as source text. Keys are fixed and may hold blanks, colons and quotes.
 namespace kelvo {
 
+// The names that tables and pages of `uiLanguages` (the preferred one first) go by, in turn:
+// "de-AT" is looked for as de_AT and as de. Up to the first kind of English, and "en" last.
+QStringList languageNames(const QStringList &uiLanguages);
+
 class StringTables
 {
 public:
@@ -21,9 +25,12 @@ public:
     StringTables(const StringTables &) = delete;
     StringTables &operator=(const StringTables &) = delete;
 
-    // Loads `folder`/<language>.qm for each of the user's languages in turn, up to the first
-    // kind of English, and en.qm last; a language that is not there is skipped.
+    // Loads `folder`/<language>.qm for each of languageNames(); a language that is not there
+    // is skipped.
     void load(const QString &folder, const QStringList &uiLanguages);
+
+    // That of the first table, as its file says ("de"); empty where there is none.
+    QString language() const;
 
     // The text of `key` in `table`; none when no loaded language has it.
     std::optional<QString> find(const QString &table, const QString &key) const;
@@ -36,8 +43,12 @@ public:
     void install() const;
 
 private:
-    std::vector<std::unique_ptr<QTranslator>> m_translators; // best language first
+    // Best language first.
+    std::vector<std::unique_ptr<QTranslator>> m_translators;
 };
+
+// The languages that have a table in `folder`, in the order of the alphabet.
+QStringList languagesIn(const QString &folder);
 
 // `format` with the place holders %1 to %9 replaced by `arguments` at once:
 // what users typed is never taken for a place holder itself.

@@ -3,6 +3,7 @@
 #include "file_store.h"
 #include "size_limits.h"
 
+#include <QFile>
 #include <QList>
 
 #include <systemd/sd-login.h>
@@ -23,7 +24,9 @@ namespace kelvo {
 
 namespace {
 
-std::optional<QString> nameOf(uid_t user)
+// `text` of the user's entry in the system's list; none where there is no such entry, or nothing
+// in it.
+std::optional<QByteArray> entryOf(uid_t user, char *passwd::*text)
 {
     // getpwuid_r does not say how much it needs; 1 MiB is beyond any real entry.
     for (std::size_t size = 1024; size <= 1024 * 1024; size *= 4) {
@@ -33,11 +36,17 @@ std::optional<QString> nameOf(uid_t user)
         const int status = getpwuid_r(user, &entry, buffer.data(), buffer.size(), &found);
         if (status == ERANGE)
             continue;
-        if (status != 0 || !found || !entry.pw_name || !*entry.pw_name)
+        if (status != 0 || !found || !(entry.*text) || !*(entry.*text))
             return std::nullopt;
-        return QString::fromUtf8(entry.pw_name);
+        return QByteArray(entry.*text);
     }
     return std::nullopt;
+}
+
+std::optional<QString> nameOf(uid_t user)
+{
+    const auto name = entryOf(user, &passwd::pw_name);
+    return name ? std::optional(QString::fromUtf8(*name)) : std::nullopt;
 }
 
 } // namespace
@@ -52,6 +61,12 @@ std::optional<QString> consoleUser()
             return name;
     }
     return nameOf(geteuid());
+}
+
+std::optional<QString> ownersHome()
+{
+    const auto folder = entryOf(geteuid(), &passwd::pw_dir);
+    return folder ? std::optional(QFile::decodeName(*folder)) : std::nullopt;
 }
 
 std::optional<QString> computerName()

@@ -13,6 +13,10 @@ namespace kelvo {
 // the process's owner; none when that has no name.
 std::optional<QString> consoleUser();
 
+// The home folder of the process's owner as the system's list of users has it; what HOME says
+// comes before it.
+std::optional<QString> ownersHome();
+
 std::optional<QString> computerName(); // the host name
 
 // The default locale's. Metric for Britain too, which measures its paper in

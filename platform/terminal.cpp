@@ -4,6 +4,7 @@
 #include "file_names.h"
 
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 namespace kelvo {
 
@@ -51,6 +52,19 @@ QString withEscapes(QStringView text, QString (*escape)(char32_t))
     return visible;
 }
 
+// Without pairs of isolates, which keep a sentence of two scripts in order in a window: no
+// harm comes of what they hold together, and a terminal would show them as signs.
+QString withoutIsolates(QString text)
+{
+    static const QRegularExpression pair(
+        QStringLiteral("[\u2066-\u2068]([^\u2066-\u2069]*)\u2069"));
+    for (qsizetype before = -1; before != text.size();) {
+        before = text.size();
+        text.replace(pair, QStringLiteral("\\1")); // the innermost
+    }
+    return text;
+}
+
 // Whole at once: two threads' lines stay two lines. Nulls are written out, so
 // there are none.
 void write(std::FILE *stream, const QString &visible)
@@ -72,9 +86,14 @@ QString shortened(const QString &text)
     return text.size() <= most ? text : text.left(most - 1) + u'…';
 }
 
+QString terminalText(const QString &text)
+{
+    return visibleText(withoutIsolates(text));
+}
+
 void printLine(std::FILE *stream, const QString &text)
 {
-    write(stream, visibleText(text) + u'\n');
+    write(stream, terminalText(text) + u'\n');
 }
 
 void printLine(std::FILE *stream, const QStringList &columns)
@@ -89,7 +108,7 @@ void printLines(std::FILE *stream, const QString &lines)
 {
     QString visible;
     for (const QString &line : lines.split(u'\n'))
-        visible += visibleText(line) + u'\n';
+        visible += terminalText(line) + u'\n';
     if (lines.endsWith(u'\n'))
         visible.chop(1);
     write(stream, visible);

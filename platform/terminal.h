@@ -20,10 +20,13 @@ namespace kelvo {
 // for reading back.
 QString visibleText(QStringView text);
 
+// visibleText() without pairs of bidi isolates: translated sentences have them.
+QString terminalText(const QString &text);
+
 // What a message repeats of what it was given: the beginning, where it is long.
 QString shortened(const QString &text);
 
-// One line: the visible text and a line end, as UTF-8, flushed.
+// One line: the terminal's text and a line end, as UTF-8, flushed.
 void printLine(std::FILE *stream, const QString &text);
 // One line with a tab between its columns.
 void printLine(std::FILE *stream, const QStringList &columns);

@@ -2,6 +2,12 @@
 
 #include "string_table.h"
 
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <algorithm>
 #include <memory>
 
 namespace kelvo {
@@ -23,6 +29,7 @@ struct Texts
 {
     TextSource source;
     std::unique_ptr<StringTables> tables = tablesFor(source.folder, source.languages);
+    QTranslator ofQt;
 };
 
 Texts &texts()
@@ -35,7 +42,8 @@ Texts &texts()
 
 void loadTexts(const QString &folder, const QStringList &languages)
 {
-    texts() = {.source = {folder, languages}};
+    texts().source = {folder, languages};
+    texts().tables = tablesFor(folder, languages);
 }
 
 const TextSource &textSource()
@@ -43,8 +51,31 @@ const TextSource &textSource()
     return texts().source;
 }
 
+QString textLanguage()
+{
+    return texts().tables->language();
+}
+
+QLocale withDigitsOfTexts(const QLocale &locale)
+{
+    const auto countsAlike = [](const QLocale &each) {
+        return each.zeroDigit() == QLatin1String("0") && each.decimalPoint() == QLatin1String(".");
+    };
+    if (locale.zeroDigit() == QLatin1String("0")
+        || locale.language() != QLocale(textLanguage()).language())
+        return locale;
+    const QList<QLocale> places =
+        QLocale::matchingLocales(locale.language(), locale.script(), QLocale::AnyTerritory);
+    const auto found = std::find_if(places.cbegin(), places.cend(), countsAlike);
+    return found == places.cend() ? locale : *found;
+}
+
 void installTexts()
 {
+    // The one that is installed last is asked first.
+    if (texts().ofQt.load(QStringLiteral("qtbase_") + textLanguage(),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&texts().ofQt);
     texts().tables->install();
 }
 
@@ -74,12 +105,20 @@ QString joined(const QStringList &clauses)
     return sentence;
 }
 
+QString separated(const QStringList &parts)
+{
+    QString series = parts.value(0);
+    for (const QString &part : parts.mid(1))
+        series = translate("Words", "%1, %2", "members of a series").arg(series, part);
+    return series;
+}
+
 QString listed(const QStringList &parts)
 {
     if (parts.size() < 2)
         return parts.join(QString());
     return translate("Words", "%1 and %2")
-        .arg(parts.mid(0, parts.size() - 1).join(QStringLiteral(", ")), parts.last());
+        .arg(separated(parts.mid(0, parts.size() - 1)), parts.last());
 }
 
 } // namespace kelvo

@@ -17,12 +17,14 @@ const char *const PanelInterfaces[] = {
 
 namespace {
 
-// The panel behind one getter, without its tab index; or why there is none.
+// The panel behind one getter, without its tab index; or why there is none. A module that was
+// built without the panel has no getter, and that is nothing to tell at every job.
 std::variant<PanelRecord, QString> loadPanel(Bundle &bundle, const QString &getter)
 {
     const auto operations = findPanelOperations(bundle, getter);
     if (!operations)
-        return operations.error().detail;
+        return operations.error().code == Error::Code::NotFound ? QString()
+                                                                : operations.error().detail;
     PanelRecord record;
     record.operations = operations.value();
 
@@ -54,9 +56,10 @@ void LoadBuiltInPanels(CFBundleRef bundle, std::vector<PanelRecord> &panels,
         std::variant<PanelRecord, QString> loaded =
             loadPanel(*bundle, QString::fromLatin1(getters[place]));
         if (const QString *reason = std::get_if<QString>(&loaded)) {
-            printLine(stderr,
-                      QStringLiteral("LoadBuiltInPanels() skipped %1: %2.")
-                          .arg(QLatin1String(getters[place]), *reason));
+            if (!reason->isEmpty())
+                printLine(stderr,
+                          QStringLiteral("LoadBuiltInPanels() skipped %1: %2.")
+                              .arg(QLatin1String(getters[place]), *reason));
             continue;
         }
         panels.push_back(std::get<PanelRecord>(std::move(loaded)));

@@ -32,10 +32,10 @@ struct PanelRecord
 };
 
 // Finds every getter of `getters` (a list ended by null) in `bundle`, calls its
-// panel's Prologue and appends a record for it. A getter that is not there or
-// gives no interface, and a panel whose Prologue fails, is passed over with one
-// line on standard error that names the getter and the reason. No bundle, no
-// panels.
+// panel's Prologue and appends a record for it. A getter that gives no interface,
+// and a panel whose Prologue fails, is passed over with one line on standard error
+// that names the getter and the reason; a getter that the module does not have, in
+// silence. No bundle, no panels.
 void LoadBuiltInPanels(CFBundleRef bundle, std::vector<PanelRecord> &panels,
                        const char *const *getters = PanelInterfaces);
 

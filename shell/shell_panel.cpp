@@ -132,50 +132,59 @@ void showTab(std::int32_t tabIndex, PDEShellContext &shell)
 
 // --- Events ---
 
-PrintCheck checkOf(const PDEShellContext &shell, const PanelRecord **paperOutput)
+PrintCheck checkOf(PMPDEContext paperOutput)
 {
-    const JobTypeProvider jobType = jobTypeProvider();
-    *paperOutput = findPanel(shell, kPaperOutputTab);
-    if (const PrintPreparation prepare = printPreparation(); prepare && *paperOutput)
-        prepare((*paperOutput)->context);
-    return jobType && *paperOutput ? checkBeforePrint(jobType((*paperOutput)->context))
-                                   : PrintCheck::Proceed;
+    const JobTypeProvider &jobType = jobTypeProvider();
+    if (jobType.prepareToPrint)
+        jobType.prepareToPrint(paperOutput);
+    return jobType.state ? checkBeforePrint(jobType.state(paperOutput)) : PrintCheck::Proceed;
 }
 
-void showCaution(const PDEShellContext &shell, const QString &header, const QString &message,
+void showCaution(const PDEShellContext &shell, const QString &headerKey, const QString &messageKey,
                  const QStringList &arguments)
 {
     QWidget *pane = shell.parentUserPane;
-    CFUserNotificationDisplayNotice(NoticeLevel::Caution, localizedText(shell.bundle, header),
-                                    formatted(localizedText(shell.bundle, message), arguments), {},
-                                    pane ? pane->window() : nullptr);
+    CFUserNotificationDisplayNotice(NoticeLevel::Caution, localizedText(shell.bundle, headerKey),
+                                    formatted(localizedText(shell.bundle, messageKey), arguments),
+                                    {}, pane ? pane->window() : nullptr);
 }
 
-// The user has pressed Print. noErr keeps the job from going out.
+// The user has pressed Print. noErr keeps the job from going out; then they are where it can
+// be mended.
 OSStatus handlePrintHit(const PDEShellContext &shell)
 {
-    const PanelRecord *paperOutput = nullptr;
-    switch (checkOf(shell, &paperOutput)) {
+    const PanelRecord *paperOutput = findPanel(shell, kPaperOutputTab);
+    if (!paperOutput)
+        return eventNotHandledErr;
+    const JobTypeProvider &jobType = jobTypeProvider();
+    const QPointer<QWidget> pane = paperOutput->userPane;
+    switch (checkOf(paperOutput->context)) {
     case PrintCheck::Proceed:
         return eventNotHandledErr;
     case PrintCheck::MissingPasscode:
         showCaution(shell, QStringLiteral("Invalid Secure Print Passcode Header"),
                     QStringLiteral("Invalid Secure Print Passcode Message"),
                     {QString::number(kShortestPasscode), QString::number(kLongestPasscode)});
-        return noErr;
+        break;
     case PrintCheck::NoFaxDevice:
         showCaution(shell, QStringLiteral("NoFaxDevice Header"),
                     QStringLiteral("NoFaxDevice Message"), {});
-        return noErr;
+        break;
     case PrintCheck::MissingFaxRecipients:
-        if (const FaxSetupRunner runFaxSetup = faxSetupRunner())
-            runFaxSetup(paperOutput->context);
-        else
-            showCaution(shell, QStringLiteral("FaxRecipientsMissing Header"),
-                        QStringLiteral("FaxRecipientsMissing Message"), {});
-        return noErr;
+        if (jobType.runFaxSetup) {
+            jobType.runFaxSetup(paperOutput->context);
+            return noErr;
+        }
+        showCaution(shell, QStringLiteral("FaxRecipientsMissing Header"),
+                    QStringLiteral("FaxRecipientsMissing Message"), {});
+        break;
     }
-    return eventNotHandledErr;
+    if (!pane)
+        return noErr; // the dialog has ended while the notice was open
+    showControl(pane);
+    if (jobType.focusSetup)
+        jobType.focusSetup(paperOutput->context);
+    return noErr;
 }
 
 OSStatus handleCommand(PDEShellContext &shell, OSType command)
@@ -183,7 +192,9 @@ OSStatus handleCommand(PDEShellContext &shell, OSType command)
     switch (command) {
     case kCommandShellHelp:
         // Without a help book of ours the dialog may show its own.
-        return DisplayHelp({}, shell.parentUserPane) == noErr ? noErr : eventNotHandledErr;
+        return DisplayHelp(helpPageOf(shell.parentUserPane), shell.parentUserPane) == noErr
+            ? noErr
+            : eventNotHandledErr;
     case kCommandNextTab:
         showTab(nextTab(presentTabs(shell), lastTabIndex), shell);
         return eventNotHandledErr; // the dialog goes on with it
@@ -214,6 +225,16 @@ OSStatus handleGroupHit(PDEShellContext &shell, ControlID control)
     return eventNotHandledErr;
 }
 
+// The tab with the control comes to the front.
+void showTabOf(const QWidget *control, PDEShellContext &shell)
+{
+    for (const PanelRecord &panel : shell.panels) {
+        if (panel.userPane && (panel.userPane == control || panel.userPane->isAncestorOf(control))
+            && panel.tabIndex != lastTabIndex)
+            showTab(panel.tabIndex, shell);
+    }
+}
+
 // Installed on the window, the group control and the dialog's two buttons.
 OSStatus shellEventHandler(PDEShellContext &shell, const QWidget *target, const Event &event)
 {
@@ -231,6 +252,10 @@ OSStatus shellEventHandler(PDEShellContext &shell, const QWidget *target, const 
         if (isDefaultButton)
             return handlePrintHit(shell);
         return isGroup ? handleGroupHit(shell, event.control) : eventNotHandledErr;
+    case EventKind::ShowControl:
+        if (isGroup)
+            showTabOf(event.source, shell);
+        return eventNotHandledErr;
     default:
         return eventNotHandledErr;
     }
@@ -493,8 +518,12 @@ OSStatus Open(PMPDEContext context)
         QWidget *group = shell->controls.group;
         fillTabSelector(*shell);
         shell->groupHandler = installShellHandler(*shell, group);
-        setButtonImage(*shell, kPreviousButton, QStringLiteral("ButtonGraphic_MacUp.png"));
-        setButtonImage(*shell, kNextButton, QStringLiteral("ButtonGraphic_MacDown.png"));
+        QString previous = QStringLiteral("ButtonGraphic_MacUp.png"); // points to the left
+        QString next = QStringLiteral("ButtonGraphic_MacDown.png");
+        if (group->isRightToLeft())
+            previous.swap(next);
+        setButtonImage(*shell, kPreviousButton, previous);
+        setButtonImage(*shell, kNextButton, next);
         embedUserPanes(*shell, minimumShellSize(QFontInfo(group->font()).pixelSize()));
         openPanels(*shell);
     }

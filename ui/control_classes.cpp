@@ -2,6 +2,7 @@
 
 #include "angle_dial.h"
 #include "control_interface.h"
+#include "drawing_view.h"
 #include "history_field.h"
 #include "list_view.h"
 #include "menu_button.h"
@@ -47,12 +48,12 @@ constexpr ControlClass ours = {&Widget::staticMetaObject, qts<Widget>.makeInterf
 
 // In any order: the nearest class that a widget comes from counts.
 constexpr ControlClass classes[] = {
-    ours<PopupButton>,    ours<MenuButton>,  ours<RadioGroup>,      ours<TabControl>,
-    ours<SpinField>,      ours<TimeField>,   ours<HistoryField>,    ours<ListView>,
-    ours<PictureView>,    ours<PaperView>,   ours<AngleDial>,       ours<SummaryView>,
-    qts<QAbstractButton>, qts<QRadioButton>, qts<QComboBox>,        qts<QLineEdit>,
-    qts<QPlainTextEdit>,  qts<QTextEdit>,    qts<QAbstractSpinBox>, qts<QAbstractSlider>,
-    qts<QLabel>,          qts<QGroupBox>,
+    ours<PopupButton>,    ours<MenuButton>,     ours<RadioGroup>,   ours<TabControl>,
+    ours<SpinField>,      ours<TimeField>,      ours<HistoryField>, ours<ListView>,
+    ours<PictureView>,    ours<PaperView>,      ours<DrawingView>,  ours<AngleDial>,
+    ours<SummaryView>,    qts<QAbstractButton>, qts<QRadioButton>,  qts<QComboBox>,
+    qts<QLineEdit>,       qts<QPlainTextEdit>,  qts<QTextEdit>,     qts<QAbstractSpinBox>,
+    qts<QAbstractSlider>, qts<QLabel>,          qts<QGroupBox>,
 };
 
 // Without the namespace.

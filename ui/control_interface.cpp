@@ -3,6 +3,7 @@
 #include "control.h"
 #include "input_limits.h"
 #include "texts.h"
+#include "tool_tip.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -75,7 +76,7 @@ Error ControlInterface::unsupported(const char *sentence) const
 {
     QStringList clauses{translate("Controls", sentence).arg(name(), kindOf(m_control))};
     if (const QString taken = commands(); !taken.isEmpty())
-        clauses << translate("Controls", "it takes %1", "script commands").arg(taken);
+        clauses << translate("Controls", "use %1", "script commands").arg(taken);
     return {Error::Code::Unsupported, {}, joined(clauses)};
 }
 
@@ -105,9 +106,10 @@ void ControlInterface::localize(const Localizer &localized)
 {
     if (!m_control->windowTitle().isEmpty())
         m_control->setWindowTitle(localized(m_control->windowTitle()));
-    m_control->setToolTip(localized(m_control->toolTip()));
     m_control->setAccessibleName(localized(m_control->accessibleName()));
     m_control->setAccessibleDescription(localized(m_control->accessibleDescription()));
+    if (const QString key = m_control->toolTip(); !key.isEmpty())
+        setOwnToolTip(m_control, localized(key));
 }
 
 void ControlInterface::keepWithin(const InputLimits &)

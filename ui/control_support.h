@@ -8,7 +8,7 @@ class QLineEdit;
 class QPlainTextEdit;
 class QWidget;
 
-// What the controls of this library share; not for its users.
+// What the controls and what readers are told of them share; not for panels and windows.
 namespace kelvo {
 
 struct InputLimits;
@@ -19,6 +19,10 @@ OSStatus sendFrom(QWidget *source, EventKind kind, OSType command = kNoCommand,
 
 // ControlHit, then, unless that was taken, the control's command when it has one.
 void sendHit(QWidget *control);
+
+// Gives `control` the focus, if a click on it would. What is typed elsewhere counts first then,
+// and whoever hears that may disable the control, not delete it: false, and nothing must follow.
+[[nodiscard]] bool focusAsClicked(QWidget *control);
 
 // The wheel scrolls the panel under it and changes `control` only while it has
 // the focus; it does not give it the focus either.

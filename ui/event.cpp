@@ -141,6 +141,11 @@ OSStatus sendEvent(const Event &event)
     return status;
 }
 
+void showControl(QWidget *control)
+{
+    sendEvent({.kind = EventKind::ShowControl, .source = control});
+}
+
 OSStatus sendCommand(QWidget *window, OSType command, std::int32_t reference)
 {
     return sendFrom(window, EventKind::Command, command, reference);
@@ -165,6 +170,13 @@ void sendHit(QWidget *control)
     const OSStatus status = sendFrom(control, EventKind::ControlHit);
     if (status == eventNotHandledErr && command && alive)
         sendFrom(control, EventKind::Command, *command);
+}
+
+bool focusAsClicked(QWidget *control)
+{
+    if (control->focusPolicy() & Qt::ClickFocus)
+        control->setFocus();
+    return control->isEnabled();
 }
 
 void guardWheel(QWidget *control)

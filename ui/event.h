@@ -24,6 +24,7 @@ enum class EventKind {
     ListSelection, // the rows of a list that are selected
     ListActivated, // a row was double-clicked, or Return pressed on it
     Custom,        // class 'KPDE' kind `command`
+    ShowControl,   // the source must be seen: who has it behind another panel shows it; never taken
 };
 
 struct Event
@@ -69,6 +70,10 @@ void watchEvents(std::function<void(const Event &)> watcher);
 
 // A command to `window`, as a menu or a script sends it.
 OSStatus sendCommand(QWidget *window, OSType command, std::int32_t reference = 0);
+
+// Brings `control`, or the pane that it will be on, into the user's sight, whichever panel is
+// in front.
+void showControl(QWidget *control);
 
 // The command that a button sends, as it stands in its dynamic property
 // "command"; none when there is no such property or it is not four characters.

@@ -9,8 +9,9 @@ class QWidget;
 
 namespace kelvo {
 
-// Makes Resources/help of `bundle` the help book. fnfErr when the bundle has
-// none or its folder cannot be read.
+// Makes Resources/help of `bundle` a help book: pages in folders named for their language,
+// read in the first of the user's that has them, else in English. fnfErr when the bundle
+// has none or its folder cannot be read.
 OSStatus AHRegisterHelpBook(CFBundleRef bundle);
 
 // Opens the help window on `page` (relative to the help book, "shell/advanced.html";
@@ -23,7 +24,12 @@ OSStatus DisplayHelp(const QString &page = {}, QWidget *parent = nullptr);
 // which folders it was looked for.
 OSStatus showHelp(const QString &page, QWidget *parent);
 
-// An additional folder of help pages, asked after the books: the host's own.
+// The page about what `widget` shows: its property "helpPage", else that of the first of its
+// contents that has one and is not hidden; empty when none has.
+QString helpPageOf(const QWidget *widget);
+
+// An additional folder of help pages, as a bundle's; a folder may be named again. Asked
+// after those that were there before.
 void addHelpFolder(const QString &folder);
 
 } // namespace kelvo

@@ -1,5 +1,6 @@
 #include "history_field.h"
 
+#include "accessible_role.h"
 #include "control_support.h"
 #include "qt_controls.h"
 
@@ -23,6 +24,13 @@ HistoryField::HistoryField(QWidget *parent)
     connect(lineEdit(), &QLineEdit::textEdited, this,
             [this] { sendFrom(this, EventKind::TextChanged); });
     connect(this, &QComboBox::activated, this, [this] { sendFrom(this, EventKind::ControlHit); });
+}
+
+// Readers are told of the line that has the focus, in it.
+void HistoryField::showEvent(QShowEvent *event)
+{
+    lineEdit()->setAccessibleName(accessibleName());
+    QComboBox::showEvent(event);
 }
 
 QString HistoryField::text() const
@@ -67,6 +75,15 @@ bool HistoryField::chooseItem(int row)
     }
     sendFrom(this, EventKind::ControlHit);
     return true;
+}
+
+// What code gives the focus to is replaced by what one types, as where Tab does.
+void HistoryField::focusInEvent(QFocusEvent *event)
+{
+    QComboBox::focusInEvent(event);
+    tellOfFocusWithin(this);
+    if (event->reason() == Qt::OtherFocusReason)
+        lineEdit()->selectAll();
 }
 
 void HistoryField::focusOutEvent(QFocusEvent *event)

@@ -26,6 +26,8 @@ public:
     bool chooseItem(int row); // from 0, as the user
 
 protected:
+    void showEvent(QShowEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 };
 

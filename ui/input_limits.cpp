@@ -257,9 +257,9 @@ QString inWords(const InputLimits &limits)
         QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 digits"),
     };
     static constexpr Sentences listed{
-        QT_TRANSLATE_NOOP("Controls", "it takes only characters of \"%3\""),
-        QT_TRANSLATE_NOOP("Controls", "it takes at most %2 characters of \"%3\""),
-        QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 characters of \"%3\""),
+        QT_TRANSLATE_NOOP("Controls", "it takes only characters of “%3”"),
+        QT_TRANSLATE_NOOP("Controls", "it takes at most %2 characters of “%3”"),
+        QT_TRANSLATE_NOOP("Controls", "it takes %1 to %2 characters of “%3”"),
     };
     static constexpr Sentences ascii{
         QT_TRANSLATE_NOOP("Controls", "it takes only ASCII characters"),

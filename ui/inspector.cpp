@@ -1,11 +1,13 @@
 #include "inspector.h"
 
+#include "button_row.h"
 #include "control_interface.h"
 #include "event.h"
 #include "nearest_name.h"
 #include "secrets.h"
 #include "texts.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -14,6 +16,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QPushButton>
 
 #include <algorithm>
 #include <limits>
@@ -143,7 +146,7 @@ QString whatItHas(const QWidget *control, const QStringList &names)
     if (names.isEmpty())
         return {};
     return names.size() > kShortListLength
-        ? translate("Controls", "it has %1 (\"show %2\" lists them all)")
+        ? translate("Controls", "it has %1 (“show %2” lists them all)")
               .arg(shortList(names), scriptName(control))
         : translate("Controls", "it has %1").arg(shortList(names));
 }
@@ -207,13 +210,13 @@ Done chooseItem(QWidget *control, ControlInterface &shown, const MenuItem &item)
             translate("Controls", "%1 has a divider there, which cannot be chosen").arg(name));
     if (!item.submenu.empty())
         return notOffered(
-            translate("Controls", "%1 opens a submenu with \"%2\"; choose an item in it")
+            translate("Controls", "%1 opens a submenu with “%2”; choose an item in it")
                 .arg(name, text));
     if (!item.enabled)
-        return notOffered(translate("Controls", "%1 offers \"%2\" only disabled").arg(name, text));
+        return notOffered(translate("Controls", "%1 offers “%2” only disabled").arg(name, text));
     return shown.choose(item)
         ? Done()
-        : notOffered(translate("Controls", "%1 does not take \"%2\"").arg(name, text));
+        : notOffered(translate("Controls", "%1 does not take “%2”").arg(name, text));
 }
 
 QString textOfControl(QWidget *control)
@@ -414,8 +417,12 @@ Done drag(QWidget *control, double dx, double dy)
 {
     if (Done problem = unusable(control))
         return problem;
+    const auto shown = controlInterface(control);
+    // The press would stay in its menu, and each move open that again.
+    if (shown->menu())
+        return wrongKind(*shown, QT_TRANSLATE_NOOP("Controls", "%1 is a %2 and cannot be dragged"));
     const QPointF from = QRectF(control->rect()).center();
-    const QPointF to = from + QPointF(dx, dy) * controlInterface(control)->pixelsPerPoint();
+    const QPointF to = from + QPointF(dx, dy) * shown->pixelsPerPoint();
     const QPointer<QWidget> alive = control;
     const auto send = [&alive](QEvent::Type kind, const QPointF &at, Qt::MouseButton button,
                                Qt::MouseButtons held) {
@@ -455,11 +462,88 @@ Done command(QWidget *window, OSType code)
         return {};
     return Problem{Failure::NotOffered,
                    translate("Controls",
-                             "nothing in the window \"%1\" takes the command '%2'; \"controls\" "
+                             "nothing in the window “%1” takes the command '%2'; “controls” "
                              "lists the commands of its buttons, and those of menus, which "
-                             "\"item\" picks")
+                             "“item” picks")
                        .arg(title, charactersOf(code))};
 }
+
+namespace {
+
+// Where a key goes, as Qt's own windows decide it for the real keyboard.
+QWidget *keyReceiver(QWidget *window)
+{
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup->focusWidget() ? popup->focusWidget() : popup;
+    return window->focusWidget() ? window->focusWidget() : window;
+}
+
+// The text that comes with `key` from a real keyboard: with Alt as without it, with Ctrl the
+// control character.
+QString textOfKey(QKeyCombination key)
+{
+    const char32_t character = key.key();
+    if (character > QChar::LastValidCodePoint)
+        return {}; // a key without a character, such as F6
+    if (key.keyboardModifiers() & Qt::ControlModifier)
+        return character >= U'@' && character <= U'~' ? QString(QChar(character & 0x1f))
+                                                      : QString();
+    const QString text = QString::fromUcs4(&character, 1);
+    return key.keyboardModifiers() & Qt::ShiftModifier ? text : text.toLower();
+}
+
+// Whether somebody took it.
+bool pressOne(QWidget *receiver, QKeyCombination key)
+{
+    const QString text = textOfKey(key);
+    // A shortcut comes before the focus, as with the real keyboard.
+    const QPointer<QWidget> alive = receiver;
+    const QWidget *popup = QApplication::activePopupWidget();
+    if (qt_sendShortcutOverrideEvent(receiver, 0, key.key(), key.keyboardModifiers(), text)
+        || !alive)
+        return true;
+    // The list of a combo box takes Return before it is pressed.
+    if (popup && QApplication::activePopupWidget() != popup)
+        return true;
+    QKeyEvent press(QEvent::KeyPress, key.key(), key.keyboardModifiers(), text);
+    // A disabled control leaves the event as it came, accepted.
+    const bool isTaken = QApplication::sendEvent(receiver, &press) && press.isAccepted();
+    if (!alive)
+        return true; // it has closed its window
+    // Fields take the release of keys that they did not take.
+    QKeyEvent release(QEvent::KeyRelease, key.key(), key.keyboardModifiers(), text);
+    QApplication::sendEvent(receiver, &release);
+    return isTaken;
+}
+
+// The button that `key` would press, were it enabled: by its mnemonic, or as the default one.
+const QWidget *disabledButtonFor(const QWidget *window, QKeyCombination key)
+{
+    const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const auto buttons = window->findChildren<QAbstractButton *>();
+    const auto found = std::ranges::find_if(buttons, [key, isReturn](QAbstractButton *button) {
+        const auto *push = qobject_cast<QPushButton *>(button);
+        return button->isVisible() && !button->isEnabled()
+            && (button->shortcut() == QKeySequence(key) || (isReturn && push && push->isDefault()));
+    });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+// `window` had the keyboard when `key` was pressed, and `focus` got it first.
+Done nobodyTakes(const QWidget *window, const QWidget *focus, QKeyCombination key)
+{
+    QStringList clauses{
+        translate("Controls", "nothing in the window “%1” takes the key “%2”")
+            .arg(window->windowTitle(), QKeySequence(key).toString(QKeySequence::PortableText))};
+    if (const QWidget *button = disabledButtonFor(window, key))
+        clauses << translate("Controls", "%1 is disabled").arg(scriptName(button));
+    else if (focus && focus != window && hasSpeakingName(focus))
+        clauses << translate("Controls", "the focus is on %1").arg(scriptName(focus));
+    clauses << translate("Controls", "“click” and “type” name their control and need no focus");
+    return notOffered(joined(clauses));
+}
+
+} // namespace
 
 Done pressKey(QWidget *window, const QString &keys)
 {
@@ -467,25 +551,20 @@ Done pressKey(QWidget *window, const QString &keys)
     if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown)
         return Problem{
             Failure::BadValue,
-            translate("Controls", "\"%1\" is no key; write Ctrl+P, Return, F6, Alt+1").arg(keys)};
-    QWidget *focus = window->focusWidget() ? window->focusWidget() : window;
-    const QPointer<QWidget> alive = focus;
-    for (int i = 0; i < sequence.count() && alive; ++i) {
-        const QKeyCombination one = sequence[i];
-        const bool plain = !(one.keyboardModifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
-        const QString text =
-            plain && one.key() < 0x1000000 ? QString(QChar(one.key())).toLower() : QString();
-        // A shortcut comes before the focus, as with the real keyboard.
-        if (qt_sendShortcutOverrideEvent(alive, 0, one.key(), one.keyboardModifiers(), text))
-            continue;
-        if (!alive)
-            break;
-        QKeyEvent press(QEvent::KeyPress, one.key(), one.keyboardModifiers(), text);
-        QApplication::sendEvent(alive, &press);
-        if (!alive)
-            break;
-        QKeyEvent release(QEvent::KeyRelease, one.key(), one.keyboardModifiers(), text);
-        QApplication::sendEvent(alive, &release);
+            translate("Controls", "“%1” is no key; write Ctrl+P, Return, F6, Alt+1").arg(keys)};
+    // Only an active window hears shortcuts. The window manager may be about to make it one, or
+    // never do, while the user works elsewhere.
+    QApplication::setActiveWindow(window);
+    const QPointer<QWidget> alive = window;
+    for (int i = 0; i < sequence.count(); ++i) {
+        if (!alive || !alive->isVisible())
+            return notOffered(translate("Controls",
+                                        "the window is closed before the key “%1”; write it "
+                                        "into a line of its own")
+                                  .arg(QKeySequence(sequence[i]).toString()));
+        const QPointer<QWidget> receiver = keyReceiver(window);
+        if (!pressOne(receiver, sequence[i]))
+            return nobodyTakes(window, receiver, sequence[i]);
     }
     return {};
 }
@@ -496,8 +575,7 @@ Done answerFileChooser(QWidget *window, const QString &path)
     if (!chooser)
         return Problem{Failure::NotOffered, translate("Controls", "no file chooser is open")};
     if (chooser->acceptMode() == QFileDialog::AcceptOpen && !QFileInfo::exists(path))
-        return Problem{Failure::BadValue,
-                       translate("Controls", "there is no file \"%1\"").arg(path)};
+        return Problem{Failure::BadValue, translate("Controls", "there is no file “%1”").arg(path)};
     const QFileInfo file(path);
     chooser->setDirectory(file.absolutePath());
     chooser->selectFile(file.absoluteFilePath());
@@ -616,7 +694,7 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
     if (state == QLatin1String("absent"))
         return isAbsent ? Done()
                         : Problem{Failure::BadValue,
-                                  translate("Controls", "%1 has that item: \"%2\"")
+                                  translate("Controls", "%1 has that item: “%2”")
                                       .arg(scriptName(control), found.item->text)};
     if (isAbsent)
         return Problem{Failure::BadValue, problem};
@@ -628,7 +706,7 @@ Done expectItem(QWidget *control, OSType command, const std::optional<ItemName> 
     if (holds)
         return {};
     return Problem{Failure::BadValue,
-                   translate("Controls", "\"%1\" of %2 is not %3")
+                   translate("Controls", "“%1” of %2 is not %3")
                        .arg(found.item->text, scriptName(control), state)};
 }
 
@@ -662,7 +740,8 @@ QJsonArray describeControls(QWidget *window)
     QJsonArray controls;
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
-        const bool isContainer = widget->metaObject() == &QWidget::staticMetaObject;
+        const bool isContainer =
+            widget->metaObject() == &QWidget::staticMetaObject || qobject_cast<ButtonRow *>(widget);
         if (controlIDOf(widget) || (hasSpeakingName(widget) && !isContainer))
             controls.append(describe(widget));
     }

@@ -84,7 +84,9 @@ Done doubleClick(QWidget *control, int row);                 // from 1; 0: the e
 Done drag(QWidget *control, double dx, double dy);
 // NotOffered when nobody takes it.
 Done command(QWidget *window, OSType code);
-Done pressKey(QWidget *window, const QString &keys); // "Ctrl+P", to the focus
+// "Ctrl+P", to the focus of `window` and its shortcuts, or to the menu or list that is open.
+// NotOffered when nobody takes it: the key was for nothing.
+Done pressKey(QWidget *window, const QString &keys);
 Done answerFileChooser(QWidget *window, const QString &path);
 
 // Whether what the control holds is a secret: its window's description says so

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -22,6 +23,7 @@ namespace {
 
 constexpr int cellMargins = 12;     // logical pixels, of both sides
 constexpr int usualFontHeight = 15; // logical pixels, of the font that widths are given for
+constexpr int readableWidth = 450;  // so far the last column grows with its texts
 
 } // namespace
 
@@ -104,7 +106,17 @@ ListView::ListView(QWidget *parent)
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     header()->setSectionsMovable(false);
-    header()->setStretchLastSection(false); // it would only grow
+    header()->setStretchLastSection(false);  // it would only grow
+    header()->setResizeContentsPrecision(0); // the rows in sight
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+        if (m_isFitting)
+            return;
+        if (column == m_model->columnCount() - 1)
+            m_usersWidth = width;
+        else
+            fitLastColumn();
+    });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ListView::fitLastColumn);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (m_silent || m_isSelectionPending)
             return;
@@ -116,16 +128,43 @@ ListView::ListView(QWidget *parent)
 
 void ListView::setColumns(const std::vector<Column> &columns, CellText text)
 {
+    const QScopedValueRollback fitting(m_isFitting, true);
     m_model->setColumns(columns, std::move(text));
+    int widestTitle = 0;
     for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
         const Column &column = columns[static_cast<std::size_t>(i)];
         int width = column.width * fontMetrics().height() / usualFontHeight;
         for (const QString &shown : column.texts)
             width = std::max(width, fontMetrics().horizontalAdvance(shown) + cellMargins);
-        header()->resizeSection(i, std::max(width, header()->sectionSizeHint(i)));
+        const int title = header()->sectionSizeHint(i);
+        widestTitle = std::max(widestTitle, title);
+        header()->resizeSection(i, std::max(width, title));
     }
-    if (!columns.empty())
-        header()->setSectionResizeMode(static_cast<int>(columns.size()) - 1, QHeaderView::Stretch);
+    header()->setMinimumSectionSize(widestTitle);
+    m_usersWidth = m_neededWidth = 0;
+    fitLastColumn();
+}
+
+// What the rows in sight needed once stays: a scroll bar that came for the last of them would
+// hide it, and go again.
+void ListView::fitLastColumn()
+{
+    const int last = m_model->columnCount() - 1;
+    if (last < 0)
+        return;
+    const QScopedValueRollback fitting(m_isFitting, true);
+    const int most = readableWidth * fontMetrics().height() / usualFontHeight;
+    m_neededWidth = std::max(m_neededWidth, std::min(sizeHintForColumn(last), most));
+    const int left = viewport()->width() - (header()->length() - header()->sectionSize(last));
+    const int wanted = m_usersWidth > 0 ? m_usersWidth : m_neededWidth;
+    header()->resizeSection(last, std::max(left, wanted));
+}
+
+void ListView::fitColumnsToRows()
+{
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        resizeColumnToContents(column);
+    fitLastColumn();
 }
 
 void ListView::reload(int count)
@@ -135,6 +174,8 @@ void ListView::reload(int count)
     m_model->setRowCount(std::max(count, 0));
     doItemsLayout();
     verticalScrollBar()->setValue(position);
+    m_neededWidth = 0;
+    fitLastColumn();
 }
 
 int ListView::rowCount() const
@@ -237,7 +278,17 @@ void ListView::keyPressEvent(QKeyEvent *event)
         sendActivated(currentIndex().row());
         return;
     }
+    if (event->matches(QKeySequence::ZoomIn)) {
+        fitColumnsToRows();
+        return;
+    }
     QTreeView::keyPressEvent(event);
+}
+
+void ListView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    fitLastColumn();
 }
 
 namespace {

@@ -17,6 +17,10 @@ class RowModel;
 // it asks for the cells it shows. Sends ListSelection when the selection
 // changes by the user, once for each action, and ListActivated on a double
 // click (row -1 for the empty area) or Return. Rows count from 0.
+//
+// The last column takes what is left; where the rows in sight need more, it grows, up to a limit,
+// and the list scrolls sideways. The user makes columns wider with the mouse, and as wide as what
+// they show with a double click between their titles or, all of them, Ctrl++.
 class ListView : public QTreeView
 {
     Q_OBJECT
@@ -27,7 +31,7 @@ public:
     struct Column
     {
         QString title;
-        int width = 100;     // logical pixels, grows with the font; the last one takes what is left
+        int width = 100;     // logical pixels, grows with the font
         QStringList texts{}; // that it is wide enough for in any case
     };
     // Text of a cell; called while painting, must be quick.
@@ -50,12 +54,18 @@ public:
 protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void fitLastColumn();
+    void fitColumnsToRows();
     void sendActivated(int row);
     void sendPendingSelection();
 
     RowModel *m_model;
+    int m_neededWidth = 0; // what the last column's rows asked for that have been in sight
+    int m_usersWidth = 0;  // what the user made of it; 0 before
+    bool m_isFitting = false;
     bool m_silent = false;
     bool m_isSelectionPending = false; // the user changed it, and it was not sent yet
 };

@@ -4,13 +4,18 @@
 #include "qt_controls.h"
 #include "tool_tip.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace kelvo {
 
@@ -30,12 +35,93 @@ bool isOffered(const std::vector<MenuItem> &items, const MenuItem *wanted)
     return false;
 }
 
+// The item of `items` that is what `picked` was; null when there is none left.
+const MenuItem *findAgain(const std::vector<MenuItem> &items, const MenuItem &picked)
+{
+    for (const MenuItem &item : items) {
+        if (!item.divider && item.submenu.empty() && item.text == picked.text
+            && item.key == picked.key && item.command == picked.command
+            && item.reference == picked.reference)
+            return &item;
+        if (const MenuItem *inner = findAgain(item.submenu, picked))
+            return inner;
+    }
+    return nullptr;
+}
+
 // A menu shows an ampersand as a mnemonic and a tab as a short cut; the texts
 // come from PPDs and users and mean neither.
 QString asMenuText(const QString &text)
 {
     return oneLine(text).replace(u'&', QStringLiteral("&&"));
 }
+
+// Of lines without mnemonics, any number: what is typed goes to the line that begins so, and one
+// that the screen cannot show whole opens at what is chosen.
+class LongMenu : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        QMenu::showEvent(event);
+        const QList<QAction *> lines = actions();
+        const auto chosen = std::ranges::find_if(lines, &QAction::isChecked);
+        // Who opened it by a key goes to its first line now.
+        if (chosen != lines.end() && sizeHint().height() > height())
+            QMetaObject::invokeMethod(
+                this, [this, line = *chosen] { goTo(line); }, Qt::QueuedConnection);
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (!m_lastTyped.isValid() || m_lastTyped.hasExpired(QApplication::keyboardInputInterval()))
+            m_typed.clear();
+        const QString text = event->text();
+        if (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier) || text.isEmpty()
+            || !text.front().isPrint() || (text == u" " && m_typed.isEmpty())) {
+            QMenu::keyPressEvent(event);
+            return;
+        }
+        m_lastTyped.start();
+        if (m_typed != text) // a letter again is the next line
+            m_typed += text;
+        if (QAction *line = findTyped())
+            goTo(line);
+    }
+
+private:
+    // As by arrow keys, which scroll no further than they must: setActiveAction() leaves blank room
+    // below the last lines.
+    void goTo(QAction *line)
+    {
+        const QList<QAction *> lines = actions();
+        const bool isAbove = lines.indexOf(line) < lines.indexOf(activeAction());
+        for (qsizetype i = 0; i < lines.size() && activeAction() != line; ++i) {
+            QKeyEvent step(QEvent::KeyPress, isAbove ? Qt::Key_Up : Qt::Key_Down, Qt::NoModifier);
+            QMenu::keyPressEvent(&step);
+        }
+    }
+
+    // The next line that begins with what was typed; the active one only while it is typed on.
+    QAction *findTyped() const
+    {
+        const QList<QAction *> lines = actions();
+        const qsizetype first = lines.indexOf(activeAction()) + (m_typed.size() == 1 ? 1 : 0);
+        for (qsizetype i = 0; i < lines.size(); ++i) {
+            QAction *line = lines[(std::max<qsizetype>(first, 0) + i) % lines.size()];
+            if (line->isEnabled() && !line->menu()
+                && line->text().startsWith(m_typed, Qt::CaseInsensitive))
+                return line;
+        }
+        return nullptr;
+    }
+
+    QString m_typed;
+    QElapsedTimer m_lastTyped;
+};
 
 void fill(QMenu *shown, const std::vector<MenuItem> &items, MenuButton *button)
 {
@@ -45,7 +131,8 @@ void fill(QMenu *shown, const std::vector<MenuItem> &items, MenuButton *button)
             continue;
         }
         if (!item.submenu.empty()) {
-            QMenu *submenu = shown->addMenu(asMenuText(item.text));
+            auto *submenu = new LongMenu(asMenuText(item.text), shown);
+            shown->addMenu(submenu);
             submenu->setEnabled(item.enabled);
             fill(submenu, item.submenu, button);
             continue;
@@ -54,8 +141,16 @@ void fill(QMenu *shown, const std::vector<MenuItem> &items, MenuButton *button)
         action->setEnabled(item.enabled);
         action->setCheckable(item.checked);
         action->setChecked(item.checked);
-        QObject::connect(action, &QAction::triggered, button,
-                         [button, offered = &item] { button->choose(*offered); });
+        // Once the menu is closed, and whoever triggered it has the answer: a screen reader waits
+        // for that, and a choice may open a dialog. Till then the menu may be filled anew.
+        QObject::connect(
+            action, &QAction::triggered, button,
+            [button, picked = item] {
+                static_cast<QPushButton *>(button)->menu()->close();
+                if (const MenuItem *found = findAgain(button->menu().items, picked))
+                    button->choose(*found);
+            },
+            Qt::QueuedConnection);
     }
 }
 
@@ -63,7 +158,7 @@ void fill(QMenu *shown, const std::vector<MenuItem> &items, MenuButton *button)
 
 MenuButton::MenuButton(QWidget *parent)
     : QPushButton(parent)
-    , m_shown(new QMenu(this))
+    , m_shown(new LongMenu(this))
 {
     setAutoDefault(false);
     QPushButton::setMenu(m_shown);
@@ -138,6 +233,15 @@ bool MenuButton::event(QEvent *event)
         return true;
     }
     return QPushButton::event(event);
+}
+
+void MenuButton::keyPressEvent(QKeyEvent *event)
+{
+    // It looks like a pop-up, and Qt would go to the next button with them.
+    if (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up)
+        showMenu();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 void MenuButton::paintEvent(QPaintEvent *event)

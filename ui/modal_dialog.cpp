@@ -3,6 +3,7 @@
 #include "help_window.h"
 #include "spin_field.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
@@ -13,6 +14,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -28,6 +30,12 @@ std::vector<QPointer<QWidget>> &runningDialogs()
 }
 
 QPointer<QWidget> &printWindow()
+{
+    static QPointer<QWidget> window;
+    return window;
+}
+
+QPointer<QWidget> &activatedWindow()
 {
     static QPointer<QWidget> window;
     return window;
@@ -75,10 +83,16 @@ ModalDialog::ModalDialog(QWidget *content, QWidget *parent)
             reject();
             return noErr;
         case kCommandHelp:
-            return showHelp(content->property("helpPage").toString(), this);
+            return showHelp(helpPageOf(content), this);
         }
         return eventNotHandledErr;
     });
+}
+
+// Lines that wrap need more height the less width they have, and a size hint knows no width.
+int ModalDialog::neededHeight(int width) const
+{
+    return layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : 0;
 }
 
 // A small screen, or a large font: every button can still be reached. Returns the
@@ -87,6 +101,7 @@ int ModalDialog::scrollContent()
 {
     const std::unique_ptr<QLayoutItem> item(layout()->takeAt(0));
     QWidget *content = item->widget();
+    QWidget *focus = focusWidget(); // does not come along
     auto *area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -96,6 +111,8 @@ int ModalDialog::scrollContent()
     area->setMinimumWidth(content->minimumSizeHint().width() + bar);
     area->setWidget(content);
     layout()->addWidget(area);
+    if (focus)
+        focus->setFocus();
     return bar;
 }
 
@@ -103,6 +120,7 @@ DialogResult ModalDialog::runModal()
 {
     const QSize available = screen()->availableSize();
     QSize wanted = sizeHint();
+    wanted.setHeight(std::max(wanted.height(), neededHeight(wanted.width())));
     if (wanted.height() > available.height())
         wanted.rwidth() += scrollContent();
     // Left alone, Qt squeezes a dialog into two thirds of the screen.
@@ -116,6 +134,18 @@ DialogResult ModalDialog::runModal()
                   [&self](const QPointer<QWidget> &dialog) { return !dialog || dialog == self; });
     activateAgain(behind);
     return result == Accepted ? DialogResult::OK : DialogResult::Cancel;
+}
+
+bool ModalDialog::event(QEvent *event)
+{
+    const bool isDone = QDialog::event(event);
+    // A text that has changed may have more lines now.
+    if (event->type() == QEvent::LayoutRequest && isVisible()) {
+        const int height = std::min(neededHeight(width()), screen()->availableSize().height());
+        if (height > this->height())
+            resize(width(), height);
+    }
+    return isDone;
 }
 
 void ModalDialog::accept()
@@ -132,9 +162,10 @@ void ModalDialog::accept()
 void ModalDialog::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    auto *button = qobject_cast<QPushButton *>(focusWidget());
-    if (isReturn && button)
-        button->click(); // and not the default one
+    if (isReturn && pressFocusedButton(this))
+        return; // and not the default one
+    if (isReturn && !(m_okButton && m_okButton->isEnabled()))
+        event->ignore(); // Qt would take it for a button that does nothing
     else
         QDialog::keyPressEvent(event);
 }
@@ -142,6 +173,15 @@ void ModalDialog::keyPressEvent(QKeyEvent *event)
 void ModalDialog::reject()
 {
     QDialog::reject();
+}
+
+bool pressFocusedButton(QWidget *window)
+{
+    auto *button = qobject_cast<QAbstractButton *>(window->focusWidget());
+    if (!button || button->isCheckable())
+        return false;
+    button->click();
+    return true;
 }
 
 QWidget *frontWindow()
@@ -154,12 +194,33 @@ QWidget *frontWindow()
     return printWindow();
 }
 
+void activate(QWidget *window)
+{
+    activatedWindow() = window;
+    window->activateWindow();
+}
+
+QWidget *lastActivated()
+{
+    return activatedWindow();
+}
+
 void activateAgain(QWidget *window)
 {
-    // The closed dialog may be called the active one until the event loop runs again.
+    // The closed dialog may be called the active one until the event loop runs again, and the
+    // help that stood before it comes back in front. Another modal dialog stays where it is.
     const QWidget *active = QApplication::activeWindow();
-    if (window && window->isVisible() && (!active || !active->isVisible()))
-        window->activateWindow();
+    const bool isBlocked = active && active->isVisible() && active->isModal();
+    if (window && window->isVisible() && !isBlocked)
+        activate(window);
+}
+
+int runChooser(QDialog &chooser)
+{
+    const QPointer<QWidget> behind = chooser.parentWidget();
+    const int result = chooser.exec();
+    activateAgain(behind);
+    return result;
 }
 
 void setPrintWindow(QWidget *window)

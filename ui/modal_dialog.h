@@ -43,9 +43,11 @@ public:
     void reject() override;
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    int neededHeight(int width) const;
     int scrollContent();
 
     std::function<bool()> m_mayAccept;
@@ -53,12 +55,23 @@ private:
     EventHandlerRef m_handler;
 };
 
+// What Return does before it presses the default button: presses the button that has the focus
+// in `window`. False where none has; a box that is ticked is no such button.
+bool pressFocusedButton(QWidget *window);
+
 // The window that the user is working in: the front modal dialog, else the
 // print dialog; null before there is one. What scripts act on.
 QWidget *frontWindow();
-// Makes `window` active when a dialog before it has closed and no window manager did:
-// only an active window hears shortcuts. Null, or not shown: nothing.
+// Asks that `window` has the keyboard; a window manager takes a while, or may refuse.
+void activate(QWidget *window);
+// The window for which that was asked last; null when it is gone.
+QWidget *lastActivated();
+// Activates `window` when a modal dialog before it has closed, which not every window manager
+// does: only an active window hears shortcuts. Null, or not shown: nothing.
 void activateAgain(QWidget *window);
+// Runs one of Qt's own dialogs, which choose files and colors: what its exec() says. The
+// window that it belongs to is active again then.
+int runChooser(QDialog &chooser);
 // Tells which window the print dialog is; the host does, once.
 void setPrintWindow(QWidget *window);
 

@@ -1,5 +1,7 @@
 #include "notice.h"
 
+#include "accessible_role.h"
+#include "button_row.h"
 #include "modal_dialog.h"
 #include "notice_sign.h"
 #include "texts.h"
@@ -9,7 +11,6 @@
 #include <QDialog>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
@@ -45,6 +46,7 @@ public:
         , m_notice(notice)
         , m_escape(escape)
     {
+        setAccessibleRole(this, QAccessible::AlertMessage);
         setObjectName(QStringLiteral("notice"));
         setWindowTitle(parent ? parent->window()->windowTitle()
                               : QGuiApplication::applicationDisplayName());
@@ -61,6 +63,7 @@ public:
         grid->setSizeConstraint(QLayout::SetFixedSize);
 
         auto *icon = new QLabel(this);
+        setAccessibleRole(icon, QAccessible::Graphic);
         icon->setPixmap(noticeSign(level, fontMetrics().height() * 5 / 2, devicePixelRatioF()));
         grid->addWidget(icon, 0, 0, 2, 1, Qt::AlignTop);
 
@@ -72,7 +75,7 @@ public:
         grid->addWidget(header, 0, 1);
         if (!notice.message.isEmpty())
             grid->addWidget(messageWidget(), 1, 1);
-        grid->addLayout(buttonRow(), 2, 0, 1, 2);
+        grid->addWidget(buttonRow(), 2, 0, 1, 2);
     }
 
     const ShownNotice &notice() const { return m_notice; }
@@ -111,19 +114,17 @@ private:
         return scroll;
     }
 
-    // The default button stands rightmost, the others to its left in their order.
-    QHBoxLayout *buttonRow()
+    // The default button stands outermost, the others before it, the next one nearest.
+    ButtonRow *buttonRow()
     {
-        auto *row = new QHBoxLayout;
-        row->setSpacing(fontMetrics().height() / 2);
-        row->addStretch(1);
+        auto *row = new ButtonRow(this);
         for (const QString &text : m_notice.buttons) {
-            auto *button = new QPushButton(text, this);
+            auto *button = new QPushButton(text, row);
             const int number = static_cast<int>(m_buttons.size()) + 1;
             connect(button, &QPushButton::clicked, this, [this, number] { done(number); });
-            row->insertWidget(1, button);
             m_buttons.push_back(button);
         }
+        row->setButtons({}, {m_buttons.rbegin(), m_buttons.rend()});
         m_buttons.front()->setDefault(true);
         m_buttons.front()->setFocus();
         return row;

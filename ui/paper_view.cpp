@@ -1,5 +1,6 @@
 #include "paper_view.h"
 
+#include "accessible_role.h"
 #include "control_interface.h"
 
 #include <QKeyEvent>
@@ -22,6 +23,7 @@ PaperView::PaperView(QWidget *parent)
     : QWidget(parent)
     , m_paper(letter)
 {
+    setAccessibleRole(this, QAccessible::Graphic);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

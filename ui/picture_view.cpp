@@ -1,5 +1,6 @@
 #include "picture_view.h"
 
+#include "accessible_role.h"
 #include "control_interface.h"
 
 #include <QFileInfo>
@@ -49,9 +50,54 @@ QIcon pictureIcon(const QString &resourcesPath, const QString &name)
     return file.isEmpty() || !rendererFor(file) ? QIcon() : QIcon(file);
 }
 
+QSize pictureSize(const QStringList &files)
+{
+    for (const QString &file : files) {
+        if (const auto renderer = rendererFor(file))
+            return renderer->defaultSize();
+    }
+    return {};
+}
+
+QPixmap drawnPictures(const QStringList &files, const QSize &size, double ratio)
+{
+    QPixmap picture(size * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const QString &file : files) {
+        const auto renderer = rendererFor(file);
+        if (!renderer)
+            continue;
+        const QSizeF fitted =
+            QSizeF(renderer->defaultSize()).scaled(QSizeF(size), Qt::KeepAspectRatio);
+        const QPointF corner((size.width() - fitted.width()) / 2,
+                             (size.height() - fitted.height()) / 2);
+        renderer->render(&painter, QRectF(corner, fitted));
+    }
+    return picture;
+}
+
+QImage drawnPart(const QString &file, const QRectF &part, const QSize &pixels, Edges edges)
+{
+    QImage image(pixels, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    const auto renderer = rendererFor(file);
+    if (!renderer || part.isEmpty())
+        return image;
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing, edges == Edges::Soft);
+    const QSizeF whole(pixels.width() / part.width(), pixels.height() / part.height());
+    const QPointF corner(-part.x() * whole.width(), -part.y() * whole.height());
+    renderer->render(&painter, QRectF(corner, whole));
+    return image;
+}
+
 PictureView::PictureView(QWidget *parent)
     : QWidget(parent)
 {
+    setAccessibleRole(this, QAccessible::Graphic);
 }
 
 void PictureView::setPictures(const QStringList &files, const QString &description)
@@ -66,11 +112,8 @@ void PictureView::setPictures(const QStringList &files, const QString &descripti
 
 QSize PictureView::sizeHint() const
 {
-    for (const QString &file : m_files) {
-        if (const auto renderer = rendererFor(file))
-            return renderer->defaultSize();
-    }
-    return {fallbackSide, fallbackSide};
+    const QSize size = pictureSize(m_files);
+    return size.isEmpty() ? QSize(fallbackSide, fallbackSide) : size;
 }
 
 QSize PictureView::minimumSizeHint() const
@@ -82,26 +125,9 @@ void PictureView::paintEvent(QPaintEvent *)
 {
     // The layers are drawn over one another first and made paler together: the
     // lower ones must not shine through the upper.
-    const double ratio = devicePixelRatioF();
-    QPixmap picture(size() * ratio);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    QPainter layers(&picture);
-    layers.setRenderHint(QPainter::Antialiasing);
-    for (const QString &file : m_files) {
-        const auto renderer = rendererFor(file);
-        if (!renderer)
-            continue;
-        const QSizeF fitted =
-            QSizeF(renderer->defaultSize()).scaled(QSizeF(size()), Qt::KeepAspectRatio);
-        const QPointF corner((width() - fitted.width()) / 2, (height() - fitted.height()) / 2);
-        renderer->render(&layers, QRectF(corner, fitted));
-    }
-    layers.end();
-
     QPainter painter(this);
     painter.setOpacity(isEnabled() ? 1.0 : disabledOpacity);
-    painter.drawPixmap(0, 0, picture);
+    painter.drawPixmap(0, 0, drawnPictures(m_files, size(), devicePixelRatioF()));
 }
 
 namespace {

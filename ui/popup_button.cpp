@@ -16,6 +16,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <initializer_list>
 #include <limits>
 
 namespace kelvo {
@@ -88,12 +89,16 @@ void PopupButton::setValue(int value)
     setCurrentIndex(value >= 1 && value <= count() ? value - 1 : -1);
 }
 
+const MenuItem *PopupButton::chosenItem() const
+{
+    const int shown = value();
+    return shown > 0 && shown <= int(m_menu.items.size()) ? &m_menu.items[shown - 1] : nullptr;
+}
+
 std::int32_t PopupButton::chosenReference() const
 {
-    const int index = currentIndex();
-    if (index < 0)
-        return std::numeric_limits<std::int32_t>::min();
-    return m_menu.items[static_cast<std::size_t>(index)].reference;
+    const MenuItem *item = chosenItem();
+    return item ? item->reference : std::numeric_limits<std::int32_t>::min();
 }
 
 bool PopupButton::setValueByReference(std::int32_t reference)
@@ -168,20 +173,60 @@ void PopupButton::showPopup()
         + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * fontMetrics().averageCharWidth();
     const int wanted = view()->sizeHintForColumn(0) + frame;
     // Made with the list, when it is opened first; most never are.
-    view()->viewport()->removeEventFilter(this);
-    view()->viewport()->installEventFilter(this);
+    for (QObject *part : std::initializer_list<QObject *>{view(), view()->viewport()}) {
+        part->removeEventFilter(this);
+        part->installEventFilter(this);
+    }
     view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width() / 2));
     QComboBox::showPopup();
 }
 
+// Whether a key that would choose without the list opens it.
+bool PopupButton::opensBy(const QKeyEvent &event) const
+{
+    if (!m_choosesInListOnly || event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier))
+        return false;
+    const bool isWithAlt = event.modifiers() & Qt::AltModifier;
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return !isWithAlt;
+    default:
+        return !isWithAlt && !event.text().isEmpty() && event.text().front().isPrint();
+    }
+}
+
 void PopupButton::keyPressEvent(QKeyEvent *event)
 {
+    if (opensBy(*event)) {
+        showPopup();
+        if (const QString typed = event->text().trimmed(); !typed.isEmpty())
+            view()->keyboardSearch(typed);
+        return;
+    }
+    // X gives a letter with Alt a text, and Qt would look it up among the items: it is a mnemonic,
+    // of whatever it is one.
+    const bool isMnemonic = event->modifiers() & Qt::AltModifier && !event->text().isEmpty()
+        && event->text().front().isPrint();
+    if (isMnemonic) {
+        event->ignore();
+        return;
+    }
     m_isChosenFromList = false;
     QComboBox::keyPressEvent(event);
 }
 
 void PopupButton::wheelEvent(QWheelEvent *event)
 {
+    if (m_choosesInListOnly) {
+        event->ignore();
+        return;
+    }
     m_isChosenFromList = false;
     QComboBox::wheelEvent(event);
 }
@@ -202,8 +247,26 @@ bool PopupButton::event(QEvent *event)
     return QComboBox::event(event);
 }
 
+// Qt closes the list as soon as it is asked whether Escape is a shortcut. Where the keyboard is
+// still the window's, as with some Wayland compositors, the key itself would come to that and close
+// it too.
+bool PopupButton::closesList(QEvent *event)
+{
+    const auto type = event->type();
+    if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress)
+        return false;
+    if (!static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel))
+        return false;
+    event->accept();
+    if (type == QEvent::KeyPress)
+        hidePopup();
+    return true;
+}
+
 bool PopupButton::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == view() && closesList(event))
+        return true;
     // A click on a line that cannot be chosen would count as one on the line that
     // is shown, and send it once more.
     if (event->type() == QEvent::MouseButtonRelease) {
@@ -225,6 +288,15 @@ void PopupButton::paintEvent(QPaintEvent *)
         option.palette.setColor(QPalette::ButtonText, color);
     }
     option.currentText = elidedText(option);
+    // Where nothing can ever be chosen it is said as plain text, under the label: a row of
+    // frames in grey would look as if something were broken.
+    if (count() <= 1 && !option.currentText.isEmpty() && !isEnabledTo(parentWidget())) {
+        painter.drawItemText(option.rect,
+                             QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)
+                                 | Qt::AlignVCenter,
+                             option.palette, false, option.currentText, QPalette::WindowText);
+        return;
+    }
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

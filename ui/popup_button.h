@@ -20,6 +20,10 @@ class ControlInterface;
 class PopupButton : public QComboBox
 {
     Q_OBJECT
+    // What is chosen here opens a window, or puts other settings in the place of all: one that
+    // is only passed on the way must not. While the list is closed, keys open it and the
+    // wheel scrolls what is around; a choice takes Return or a click.
+    Q_PROPERTY(bool choosesInListOnly READ choosesInListOnly WRITE setChoosesInListOnly)
 
 public:
     explicit PopupButton(QWidget *parent = nullptr);
@@ -31,6 +35,7 @@ public:
 
     int value() const;                    // the shown item, from 1
     void setValue(int value);             // silent; out of range shows nothing
+    const MenuItem *chosenItem() const;   // that is shown, of menu(); null when none is
     std::int32_t chosenReference() const; // of the shown item; INT32_MIN when none is
     // The first item with that reference; false, and unchanged, when there is none.
     bool setValueByReference(std::int32_t reference);
@@ -42,6 +47,9 @@ public:
     // May differ from the item count.
     int maximum() const { return m_maximum; }
     void setMaximum(int maximum) { m_maximum = maximum; }
+
+    bool choosesInListOnly() const { return m_choosesInListOnly; }
+    void setChoosesInListOnly(bool inListOnly) { m_choosesInListOnly = inListOnly; }
 
     // The last choice was made in the open list; false after an arrow key or the
     // wheel on the closed button, where the next one may follow.
@@ -62,11 +70,14 @@ protected:
 
 private:
     void send(int index);
+    bool opensBy(const QKeyEvent &event) const;
+    bool closesList(QEvent *event);
     QRect textRect(const QStyleOptionComboBox &option) const;
     QString elidedText(const QStyleOptionComboBox &option) const;
 
     Menu m_menu;
     int m_maximum = 0;
+    bool m_choosesInListOnly = false;
     bool m_isChosenFromList = false;
     mutable int m_widest = -1; // text of the menu in pixels, -1: not measured yet
 };

@@ -2,6 +2,7 @@
 
 #include "control_support.h"
 #include "input_limits.h"
+#include "mnemonics.h"
 
 #include <QAbstractSlider>
 #include <QFocusEvent>
@@ -45,11 +46,6 @@ private:
     QWidget *m_field;
 };
 
-QString withoutMnemonics(QString title)
-{
-    return title.remove(u'&');
-}
-
 bool typeInto(QLineEdit *line, const QString &text)
 {
     if (line->isReadOnly())
@@ -73,7 +69,7 @@ bool typeInto(QLineEdit *line, const QString &text)
 
 QString ButtonInterface::text() const
 {
-    return withoutMnemonics(widget()->text());
+    return withoutMnemonic(widget()->text());
 }
 
 std::optional<int> ButtonInterface::value() const
@@ -93,9 +89,8 @@ QString ButtonInterface::commands() const
 
 Result<void> ButtonInterface::click()
 {
-    if (widget()->focusPolicy() & Qt::ClickFocus)
-        widget()->setFocus();
-    widget()->click();
+    if (focusAsClicked(widget()))
+        widget()->click();
     return {};
 }
 
@@ -138,9 +133,8 @@ const Menu *ComboBoxInterface::menu()
 bool ComboBoxInterface::choose(const MenuItem &item)
 {
     const int row = chosenRow(item) - 1;
-    if (row < 0)
+    if (row < 0 || !focusAsClicked(widget()))
         return false;
-    widget()->setFocus();
     widget()->setCurrentIndex(row);
     emit widget()->activated(row);
     emit widget()->textActivated(widget()->itemText(row));
@@ -240,8 +234,8 @@ public:
     {
         if (value < widget()->minimum() || value > widget()->maximum())
             return outsideRange(value, widget()->minimum(), widget()->maximum());
-        widget()->setFocus();
-        widget()->setSliderPosition(value); // as dragging does: an action, then the value
+        if (focusAsClicked(widget()))
+            widget()->setSliderPosition(value); // as dragging does: an action, then the value
         return {};
     }
 
@@ -316,7 +310,7 @@ public:
 
     QString text() const override
     {
-        return showsMnemonics() ? withoutMnemonics(widget()->text()) : widget()->text();
+        return showsMnemonics() ? withoutMnemonic(widget()->text()) : widget()->text();
     }
 
     void localize(const Localizer &localized) override

@@ -1,5 +1,6 @@
 #include "radio_group.h"
 
+#include "accessible_role.h"
 #include "control_support.h"
 #include "qt_controls.h"
 #include "texts.h"
@@ -31,6 +32,7 @@ RadioGroup::RadioGroup(QWidget *parent)
     : QWidget(parent)
     , m_group(new QButtonGroup(this))
 {
+    setAccessibleRole(this, QAccessible::Grouping);
     // So that the mnemonic of the group's label leads to the chosen button; the
     // Tab key skips a widget that has a focus proxy.
     setFocusPolicy(Qt::TabFocus);

@@ -4,6 +4,7 @@
 #include "qt_controls.h"
 #include "texts.h"
 
+#include <QAccessible>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -261,9 +262,14 @@ void SpinField::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         const QPointer<SpinField> alive = this;
+        const bool isAsTyped = willTakeTypedText();
         takeTypedText();
         if (!alive)
             return;
+        if (!isAsTyped) {
+            selectAll();
+            return; // another number than the typed one is seen before any button is pressed
+        }
     }
     QAbstractSpinBox::keyPressEvent(event);
 }
@@ -306,8 +312,13 @@ void SpinField::changeTo(int value)
 void SpinField::showValue(int value)
 {
     const QString text = textFor(value);
-    if (lineEdit()->text() != text)
+    if (lineEdit()->text() != text) {
         lineEdit()->setText(text);
+        if (isVisible() && QAccessible::isActive()) {
+            QAccessibleValueChangeEvent change(this, text);
+            QAccessible::updateAccessibility(&change);
+        }
+    }
     update();
 }
 

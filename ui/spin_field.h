@@ -14,7 +14,8 @@ class ControlInterface;
 // places: 1234 with 2 decimals shows 12.34 in the user's locale. Typed text
 // becomes a value when the field is left or Return is pressed; what is outside
 // the range becomes the nearest limit (but see setClamping), what is no number leaves
-// the value as it was. Thousands separators are neither shown nor taken. Sends TextChanged while
+// the value as it was; Return that makes it another number than the typed one presses no
+// button. Thousands separators are neither shown nor taken. Sends TextChanged while
 // typing, ControlHit when the value changes by the user and FocusChanged when it
 // is left. Page Up and Page Down take ten steps.
 class SpinField : public QAbstractSpinBox

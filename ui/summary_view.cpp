@@ -2,7 +2,10 @@
 
 #include "qt_controls.h"
 
+#include <QEvent>
 #include <QScrollBar>
+#include <QStyle>
+#include <QTextOption>
 
 namespace kelvo {
 
@@ -13,6 +16,23 @@ SummaryView::SummaryView(QWidget *parent)
     setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    runAsLabelsDo();
+}
+
+// By itself each line would run as its first letter does.
+void SummaryView::runAsLabelsDo()
+{
+    QTextOption option = document()->defaultTextOption();
+    option.setTextDirection(layoutDirection());
+    option.setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
+    document()->setDefaultTextOption(option);
+}
+
+void SummaryView::changeEvent(QEvent *event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        runAsLabelsDo();
 }
 
 void SummaryView::setSummary(const QString &text)

@@ -21,6 +21,12 @@ public:
     void setSummary(const QString &text);
     QSize sizeHint() const override; // five lines
     QSize minimumSizeHint() const override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void runAsLabelsDo();
 };
 
 std::unique_ptr<ControlInterface> interfaceOf(SummaryView *view);

@@ -1,5 +1,6 @@
 #include "tab_control.h"
 
+#include "accessible_role.h"
 #include "control_interface.h"
 #include "control_support.h"
 #include "texts.h"
@@ -79,6 +80,12 @@ bool TabControl::event(QEvent *event)
     if (alive && value() != before)
         sendHit(this);
     return done;
+}
+
+void TabControl::focusInEvent(QFocusEvent *event)
+{
+    QTabBar::focusInEvent(event);
+    tellOfFocusWithin(this);
 }
 
 namespace {

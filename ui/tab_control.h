@@ -28,6 +28,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 };
 
 std::unique_ptr<ControlInterface> interfaceOf(TabControl *tabs);

@@ -8,11 +8,24 @@
 
 namespace kelvo {
 
+namespace {
+
+// The hour first in any language: in a window that runs to the left, Qt turns the parts of a
+// time round, which bidirectional text needs no more.
+void showAsWritten(TimeField *field)
+{
+    field->setLayoutDirection(Qt::LeftToRight);
+    field->setDisplayFormat(field->locale().timeFormat(QLocale::ShortFormat));
+    field->unsetLayoutDirection();
+}
+
+} // namespace
+
 TimeField::TimeField(QWidget *parent)
     : QTimeEdit(parent)
 {
     guardWheel(this);
-    setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
+    showAsWritten(this);
     setKeyboardTracking(false); // half a typed time is no time
     connect(this, &QTimeEdit::timeChanged, this, [this] { sendFrom(this, EventKind::ControlHit); });
 }
@@ -43,7 +56,7 @@ void TimeField::changeEvent(QEvent *event)
 {
     QTimeEdit::changeEvent(event);
     if (event->type() == QEvent::LocaleChange)
-        setDisplayFormat(locale().timeFormat(QLocale::ShortFormat));
+        showAsWritten(this);
 }
 
 namespace {

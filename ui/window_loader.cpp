@@ -1,13 +1,17 @@
 #include "window_loader.h"
 
+#include "button_label.h"
+#include "button_row.h"
 #include "control.h"
 #include "control_classes.h"
 #include "control_interface.h"
 #include "event.h"
 #include "input_limits.h"
+#include "mnemonics.h"
 #include "secrets.h"
 #include "texts.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -31,26 +35,14 @@ constexpr const char *qtClasses[] = {
     "QScrollArea", "QStackedWidget", "QProgressBar", "QSplitter",
 };
 
+const QString rowOfButtons = QStringLiteral("ButtonRow"); // of ours, and no control itself
+
 QStringList knownClasses()
 {
-    QStringList names = controlClassNames();
+    QStringList names = controlClassNames() << rowOfButtons;
     for (const char *name : qtClasses)
         names.append(QString::fromLatin1(name));
     return names;
-}
-
-// "&Paper Type:" as a screen reader says it.
-QString spokenText(const QLabel *label)
-{
-    QString text = label->text();
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'&')
-            text.remove(i, 1); // a doubled one leaves one
-    }
-    text = text.trimmed();
-    while (text.endsWith(u':') || text.endsWith(u'\uFF1A'))
-        text.chop(1);
-    return text.trimmed();
 }
 
 class DescriptionLoader : public QUiLoader
@@ -65,7 +57,8 @@ public:
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
-        QWidget *widget = makeControl(className, parent);
+        QWidget *widget =
+            className == rowOfButtons ? new ButtonRow(parent) : makeControl(className, parent);
         if (widget) {
             widget->setObjectName(name);
         } else if (std::ranges::find(qtClasses, className.toLatin1()) != std::end(qtClasses)) {
@@ -74,7 +67,7 @@ public:
         if (widget)
             m_created.append(widget);
         else
-            m_problems.append(translate("Window", "\"%1\" is of the class \"%2\"; use one of %3")
+            m_problems.append(translate("Window", "“%1” is of the class “%2”; use one of %3")
                                   .arg(name, className, knownClasses().join(QStringLiteral(", "))));
         return widget;
     }
@@ -113,12 +106,12 @@ void giveControlIDs(const QWidgetList &widgets, QStringList &problems)
         const std::optional<ControlID> id = controlIDFromText(text);
         if (!id) {
             problems.append(translate("Window",
-                                      "\"%1\" has the control ID \"%2\"; write four "
-                                      "characters, a blank and a number, such as \"KPDE 102\"")
+                                      "“%1” has the control ID “%2”; write four "
+                                      "characters, a blank and a number, such as “KPDE 102”")
                                 .arg(widget->objectName(), text));
         } else if (nameOf.contains(text)) {
             problems.append(translate("Window",
-                                      "\"%1\" and \"%2\" both have the control ID \"%3\"; "
+                                      "“%1” and “%2” both have the control ID “%3”; "
                                       "give one of them another")
                                 .arg(nameOf.value(text), widget->objectName(), text));
         } else {
@@ -134,18 +127,22 @@ void checkCommands(const QWidgetList &widgets, QStringList &problems)
         const QVariant property = widget->property("command");
         if (property.isValid() && !commandOf(widget))
             problems.append(translate("Window",
-                                      "\"%1\" has the command \"%2\"; write four characters, "
-                                      "such as \"ok  \"")
+                                      "“%1” has the command “%2”; write four characters, "
+                                      "such as “ok  ”")
                                 .arg(widget->objectName(), property.toString()));
     }
 }
 
+// But for buttons with a text, and labels: that is their name.
 void nameByLabels(const QWidgetList &widgets)
 {
     for (QWidget *widget : widgets) {
         const auto *label = qobject_cast<QLabel *>(widget);
-        if (label && label->buddy() && label->buddy()->accessibleName().isEmpty())
-            label->buddy()->setAccessibleName(spokenText(label));
+        QWidget *buddy = label ? label->buddy() : nullptr;
+        const auto *button = qobject_cast<QAbstractButton *>(buddy);
+        if (buddy && buddy->accessibleName().isEmpty() && !qobject_cast<QLabel *>(buddy)
+            && (!button || button->text().isEmpty()))
+            buddy->setAccessibleName(nameInLabel(label->text()));
     }
 }
 
@@ -199,8 +196,14 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
         // later. Those that say what they take replace these limits.
         if (interface->takesText())
             setInputLimits(widget, {});
+        if (auto *row = qobject_cast<ButtonRow *>(widget))
+            row->arrange();
     }
     nameByLabels(loader.created());
+    for (QWidget *widget : loader.created()) {
+        if (auto *label = qobject_cast<QLabel *>(widget))
+            makePartOfButton(label);
+    }
     return loaded.release();
 }
 

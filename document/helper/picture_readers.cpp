@@ -56,7 +56,7 @@ Result<void> loadPictureReader(DocumentKind kind)
                  {},
                  translate("Document",
                            "%1 pictures cannot be read here; install the package "
-                           "\"qt6-image-formats-plugins\"")
+                           "“qt6-image-formats-plugins”")
                      .arg(QString::fromLatin1(format).toUpper())};
 }
 

@@ -201,13 +201,13 @@ Error noFont(const QString &where, const MissingCharacter &missing)
                                                              : mostScripts);
     return Error{Error::Code::Unsupported, where,
                  isKnown ? translate("Document",
-                                     "no font here has the %1 character \"%2\" (U+%3) in line %4; "
-                                     "install one, for example with the package \"%5\"",
+                                     "no font here has the %1 character “%2” (U+%3) in line %4; "
+                                     "install one, for example with the package “%5”",
                                      "%1: Arabic")
                                .arg(translate("Scripts", row->name), character, code, line, package)
                          : translate("Document",
-                                     "no font here has the character \"%1\" (U+%2) in line %3; "
-                                     "install one, for example with the package \"%4\"")
+                                     "no font here has the character “%1” (U+%2) in line %3; "
+                                     "install one, for example with the package “%4”")
                                .arg(character, code, line, package)};
 }
 

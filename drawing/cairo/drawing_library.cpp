@@ -170,6 +170,26 @@ public:
         return TextLayout(text, style).inkBounds();
     }
 
+    LibraryVersions versions() const override
+    {
+        const int fontconfig = FcGetVersion(); // 21401 is 2.14.1
+        return {
+            {QStringLiteral("cairo"), QString::fromUtf8(cairo_version_string())},
+            {QStringLiteral("Pango"), QString::fromUtf8(pango_version_string())},
+            {QStringLiteral("HarfBuzz"), QString::fromUtf8(hb_version_string())},
+            {QStringLiteral("GLib"),
+             QStringLiteral("%1.%2.%3")
+                 .arg(glib_major_version)
+                 .arg(glib_minor_version)
+                 .arg(glib_micro_version)},
+            {QStringLiteral("fontconfig"),
+             QStringLiteral("%1.%2.%3")
+                 .arg(fontconfig / 10000)
+                 .arg(fontconfig / 100 % 100)
+                 .arg(fontconfig % 100)},
+        };
+    }
+
 private:
     std::unique_ptr<Page> makePage(const QSizeF &size, Writer writer) const override
     {

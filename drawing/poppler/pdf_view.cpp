@@ -2,6 +2,7 @@
 #include "page_picture.h"
 #include "texts.h"
 
+#include <poppler-version.h>
 #include <QMutex>
 
 #include <cstring>
@@ -45,6 +46,11 @@ public:
         return Picture{
             image.size(),
             QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes())};
+    }
+
+    LibraryVersions versions() const override
+    {
+        return {{QStringLiteral("poppler"), Poppler::Version::string()}};
     }
 
 private:

@@ -196,11 +196,11 @@ Dictionary CoverSheetContent::toDictionary() const
 
 CoverSheetContent CoverSheetContent::fromDictionary(const Dictionary &dictionary)
 {
-    const auto text = [&dictionary](const char *key) {
-        return string(dictionary, QString::fromLatin1(key)).value_or(QString());
+    const auto text = [&dictionary](const char *entry) {
+        return string(dictionary, QString::fromLatin1(entry)).value_or(QString());
     };
-    const auto length = [&dictionary](const char *key) {
-        return real(dictionary, QString::fromLatin1(key)).value_or(0);
+    const auto length = [&dictionary](const char *entry) {
+        return real(dictionary, QString::fromLatin1(entry)).value_or(0);
     };
     return {QSizeF(length("Width"), length("Height")),
             text("SenderLabel"),

@@ -4,8 +4,10 @@
 #include "dialing_check.h"
 #include "fax_options.h"
 #include "fax_texts.h"
+#include "mnemonics.h"
 #include "setting_maps.h"
 #include "string_table.h"
+#include "texts.h"
 #include "watermark_store.h"
 
 #include <QHash>
@@ -21,7 +23,7 @@ namespace {
 constexpr long mostNamed = 20;
 
 // The key of what keeps a number from being dialed after a prefix; null: nothing.
-const char *dialingProblem(const FaxRecipient &recipient, int prefixLength)
+const char *dialingProblemKey(const FaxRecipient &recipient, int prefixLength)
 {
     if (CopyDialingStringFromFaxNumber(recipient.faxNumber()).isEmpty())
         return "Undialed in Words";
@@ -31,7 +33,7 @@ const char *dialingProblem(const FaxRecipient &recipient, int prefixLength)
 bool canAllBeDialed(const FaxRecipientList &recipients, int prefixLength)
 {
     for (long i = 0; i < recipients.count(); ++i) {
-        if (dialingProblem(*recipients.recipientAtIndex(i), prefixLength))
+        if (dialingProblemKey(*recipients.recipientAtIndex(i), prefixLength))
             return false;
     }
     return true;
@@ -46,8 +48,8 @@ QString wordsOf(const FaxRecipient &recipient, int prefixLength, const Device &d
                               .trimmed();
     if (words.isEmpty())
         return faxText(device.bundle, "Nameless in Words");
-    const char *problem = dialingProblem(recipient, prefixLength);
-    return problem ? formatted(faxText(device.bundle, problem), {words}) : words;
+    const char *problemKey = dialingProblemKey(recipient, prefixLength);
+    return problemKey ? formatted(faxText(device.bundle, problemKey), {words}) : words;
 }
 
 QString wordsOf(const FaxRecipientList &recipients, int prefixLength, const Device &device)
@@ -56,7 +58,7 @@ QString wordsOf(const FaxRecipientList &recipients, int prefixLength, const Devi
     const long named = std::min(recipients.count(), mostNamed);
     for (long i = 0; i < named; ++i)
         words.append(wordsOf(*recipients.recipientAtIndex(i), prefixLength, device));
-    const QString all = words.join(QStringLiteral(", "));
+    const QString all = separated(words);
     if (named == recipients.count())
         return all;
     return formatted(faxText(device.bundle, "And More Recipients"),
@@ -65,7 +67,7 @@ QString wordsOf(const FaxRecipientList &recipients, int prefixLength, const Devi
 
 QString labelOf(const Device &device, const char *key)
 {
-    return labelFrom(faxText(device.bundle, key));
+    return nameInLabel(faxText(device.bundle, key));
 }
 
 QString mapWords(const Device &device, const SettingMap *map, std::int32_t value)
@@ -84,9 +86,9 @@ QString speedWords(const Device &device, std::int64_t stored)
 void describeSending(const Dictionary &options, PanelDescription &panel, std::int32_t control)
 {
     const Device &device = panel.job().device;
-    const auto add = [&](const char *name, const char *label, const QString &words,
+    const auto add = [&](const char *name, const char *labelKey, const QString &words,
                          bool isDefault) {
-        panel.addLabelled(name, labelOf(device, label), words, control, isDefault);
+        panel.addLabelled(name, labelOf(device, labelKey), words, control, isDefault);
     };
     const FaxControls defaults = SyncToUI({});
     const FaxControls values = SyncToUI(options);

@@ -2,9 +2,11 @@
 
 #include "dialog_window.h"
 #include "fax_texts.h"
+#include "file_name_filter.h"
 #include "hint_text.h"
 #include "input_limits.h"
 #include "list_view.h"
+#include "modal_dialog.h"
 #include "newest_task.h"
 #include "notice.h"
 #include "picker_texts.h"
@@ -321,13 +323,13 @@ void AddressBookPicker::chooseCards()
     QFileDialog chooser(m_window.get(), text("Cards Chooser"));
     chooser.setObjectName(QStringLiteral("cardsChooser"));
     chooser.setFileMode(QFileDialog::ExistingFiles);
-    chooser.setNameFilters({text("Cards Kinds") + QStringLiteral(" (*.vcf *.vcard *.VCF *.VCARD)"),
-                            text("Cards All Files") + QStringLiteral(" (*)")});
+    chooser.setNameFilters({fileNameFilter(text("Cards Kinds"), {"vcf", "vcard"}),
+                            fileNameFilter(text("Cards All Files"), {})});
     chooser.setDirectory(QStandardPaths::writableLocation(QStandardPaths::HomeLocation));
     // At once: whoever comes next finds that they are being read.
     QObject::connect(&chooser, &QFileDialog::filesSelected, &chooser,
                      [this](const QStringList &paths) { readCards(paths, {}); });
-    chooser.exec();
+    runChooser(chooser);
 }
 
 // Reading begins anew with those that come meanwhile.

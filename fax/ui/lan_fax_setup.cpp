@@ -287,8 +287,7 @@ void takeAddressBook(LanFaxSetup &setup, const std::optional<QString> &problem)
     const QString hint =
         problem ? formatted(text(setup, "No Address Book Hint"), {*problem}) : QString();
     controls.addressBookHint->setText(hint);
-    controls.saveGroup->setAccessibleDescription(hint);
-    controls.saveGroup->setToolTip(plainToolTip(hint));
+    setPlainToolTip(controls.saveGroup, hint);
     enableRecipientButtons(controls, setup.hasAddressBook);
 }
 

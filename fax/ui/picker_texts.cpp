@@ -2,6 +2,7 @@
 
 #include "fax_texts.h"
 #include "string_table.h"
+#include "texts.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -21,12 +22,12 @@ QString numberText(qint64 number)
 }
 
 // Empty for nobody.
-QString countText(CFBundleRef bundle, qint64 count, const char *one, const char *several)
+QString countText(CFBundleRef bundle, qint64 count, const char *oneKey, const char *severalKey)
 {
     if (count == 0)
         return {};
-    return count == 1 ? faxText(bundle, one)
-                      : formatted(faxText(bundle, several), {numberText(count)});
+    return count == 1 ? faxText(bundle, oneKey)
+                      : formatted(faxText(bundle, severalKey), {numberText(count)});
 }
 
 QString numberCell(CFBundleRef bundle, const PeopleRow &row)
@@ -48,10 +49,9 @@ QString namesText(CFBundleRef bundle, const QStringList &names)
 {
     // One more name is no longer than saying that there is one more.
     if (names.size() <= namesShown + 1)
-        return names.join(QStringLiteral(", "));
+        return separated(names);
     return formatted(faxText(bundle, "Names and Others"),
-                     {names.mid(0, namesShown).join(QStringLiteral(", ")),
-                      numberText(names.size() - namesShown)});
+                     {separated(names.mid(0, namesShown)), numberText(names.size() - namesShown)});
 }
 
 QString problemText(CFBundleRef bundle, const CardProblem &problem)
@@ -95,7 +95,7 @@ QString notShownText(CFBundleRef bundle, int withoutNumber, const QStringList &u
     QStringList sentences{
         countText(bundle, withoutNumber, "One Without Fax Number", "People Without Fax Number")};
     if (!unread.isEmpty())
-        sentences << formatted(faxText(bundle, "Books Unread"), {unread.join(u"; ")});
+        sentences << formatted(faxText(bundle, "Books Unread"), {joined(unread)});
     sentences.removeAll(QString());
     return sentences.join(u' ');
 }

@@ -114,7 +114,7 @@ bool mayBeDialed(const RecipientDialog &dialog)
     return false;
 }
 
-bool makeWindow(RecipientDialog &dialog, const char *title, QWidget *parent)
+bool makeWindow(RecipientDialog &dialog, const char *titleKey, QWidget *parent)
 {
     dialog.window = createModalDialog(
         dialog.editing.device.bundle, QStringLiteral("LANFAX"), QStringLiteral("Recipient"), parent,
@@ -127,7 +127,7 @@ bool makeWindow(RecipientDialog &dialog, const char *title, QWidget *parent)
         });
     if (!dialog.window)
         return false;
-    dialog.window->setWindowTitle(text(dialog, title));
+    dialog.window->setWindowTitle(text(dialog, titleKey));
     for (QLabel *hint : {dialog.dialed, dialog.label, dialog.mailboxHint})
         makeHintText(hint);
     // The longest number that is dialed, which has no place to be broken, is seen whole.

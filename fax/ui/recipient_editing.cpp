@@ -10,12 +10,12 @@ namespace kelvo {
 
 namespace {
 
-bool asks(const RecipientEditing &editing, const char *header, const QString &message,
-          const char *button, const char *otherButton, QWidget *parent)
+bool asks(const RecipientEditing &editing, const char *headerKey, const QString &message,
+          const char *buttonKey, const char *otherButtonKey, QWidget *parent)
 {
     return CFUserNotificationDisplayAlert(
-               NoticeLevel::Caution, faxText(editing.device.bundle, header), message,
-               {editing.device.text(button), editing.device.text(otherButton)}, parent)
+               NoticeLevel::Caution, faxText(editing.device.bundle, headerKey), message,
+               {editing.device.text(buttonKey), editing.device.text(otherButtonKey)}, parent)
         == 1;
 }
 
@@ -32,7 +32,7 @@ bool mayRemove(const RecipientEditing &editing, const std::vector<FaxRecipient *
                QWidget *parent)
 {
     const bool isOne = selected.size() == 1;
-    const char *header =
+    const char *headerKey =
         isOne ? "Remove One Recipient Header" : "Remove Multiple Recipients Header";
     const QString message = isOne
         ? formatted(faxText(editing.device.bundle, "Remove One Recipient Message"),
@@ -40,7 +40,7 @@ bool mayRemove(const RecipientEditing &editing, const std::vector<FaxRecipient *
                      selected.front()->faxNumber().value_or(QString())})
         : formatted(faxText(editing.device.bundle, "Remove Multiple Recipients Message"),
                     {QLocale().toString(static_cast<qlonglong>(selected.size()))});
-    return asks(editing, header, message, "Remove Command", "Cancel Command", parent);
+    return asks(editing, headerKey, message, "Remove Command", "Cancel Command", parent);
 }
 
 } // namespace

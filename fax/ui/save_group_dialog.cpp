@@ -43,10 +43,11 @@ void showSaving(const SaveGroupDialog &dialog, bool isSaving)
     dialog.hint->setText(isSaving ? text(dialog, "Saving Group") : QString());
 }
 
-void tell(const SaveGroupDialog &dialog, NoticeLevel level, const char *header,
+void tell(const SaveGroupDialog &dialog, NoticeLevel level, const char *headerKey,
           const QString &message)
 {
-    CFUserNotificationDisplayNotice(level, text(dialog, header), message, {}, dialog.window.get());
+    CFUserNotificationDisplayNotice(level, text(dialog, headerKey), message, {},
+                                    dialog.window.get());
     dialog.name->setFocus();
 }
 

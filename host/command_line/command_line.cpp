@@ -43,7 +43,7 @@ Result<std::vector<PageRun>> runsOf(const QString &pages)
 
 QString notANumber(const QString &value, int minimum, int maximum)
 {
-    return translate("CommandLine", "\"%1\" is not a whole number from %2 to %3")
+    return translate("CommandLine", "“%1” is not a whole number from %2 to %3")
         .arg(value, QString::number(minimum), QString::number(maximum));
 }
 
@@ -103,20 +103,9 @@ Result<void> takeCopies(CommandLine &line, const QString &value, const QString &
 // Names of options are found in any case.
 constexpr char copiesOption[] = "copies", pageRangesOption[] = "page-ranges";
 
-bool isNamed(const QPair<QString, QString> &option, const char *name)
+bool isNamed(const AskedOption &option, const char *name)
 {
-    return option.first.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-}
-
-// What lp knows without a value.
-std::optional<QPair<QString, QString>> orientationWord(const QString &word)
-{
-    const QString name = QStringLiteral("orientation-requested");
-    if (word == QLatin1String("portrait"))
-        return QPair<QString, QString>{name, QStringLiteral("3")};
-    if (word == QLatin1String("landscape"))
-        return QPair<QString, QString>{name, QStringLiteral("4")};
-    return std::nullopt;
+    return option.name.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
 }
 
 Result<void> takeOption(CommandLine &line, const QString &value, const QString &where)
@@ -124,20 +113,19 @@ Result<void> takeOption(CommandLine &line, const QString &value, const QString &
     // Several in one, separated by blanks.
     const QStringList words = value.simplified().split(u' ');
     for (const QString &word : words) {
-        const auto option = orientationWord(word);
-        const auto named = option ? option : nameAndValue(word);
-        if (word == QLatin1String("fit-to-page"))
-            return refused(where,
-                           translate("CommandLine",
-                                     "fit-to-page: pages are printed at their own size; "
-                                     "choose a paper that holds them, -o media=NAME"));
-        if (!named || named->second.isEmpty())
-            return refused(where, translate("CommandLine", "\"%1\" is not NAME=VALUE").arg(word));
-        if (isNamed(*named, pageRangesOption)) {
-            if (const auto runs = runsOf(named->second); !runs)
+        // A name alone is a value, too: which one, the printer's options say.
+        const auto named = nameAndValue(word);
+        const AskedOption option =
+            named ? AskedOption{named->first, named->second} : AskedOption{word, std::nullopt};
+        if (named ? named->second.isEmpty() : word.isEmpty() || word.contains(u'='))
+            return refused(
+                where,
+                translate("CommandLine", "“%1” is not NAME=VALUE, NAME or noNAME").arg(word));
+        if (isNamed(option, pageRangesOption)) {
+            if (const auto runs = runsOf(option.value.value_or(option.name)); !runs)
                 return refused(where, runs.error().text());
         }
-        line.options.append(*named);
+        line.options.append(option);
     }
     return {};
 }
@@ -147,7 +135,7 @@ Result<void> takePages(CommandLine &line, const QString &value, const QString &w
     if (value.trimmed().isEmpty())
         return refused(
             where,
-            translate("CommandLine", "\"%1\" is not a list of pages such as 1-3,7,9-").arg(value));
+            translate("CommandLine", "“%1” is not a list of pages such as 1-3,7,9-").arg(value));
     if (const auto runs = runsOf(value); !runs)
         return refused(where, runs.error().text());
     line.pages = value;
@@ -164,7 +152,7 @@ Result<void> takeSecret(CommandLine &line, const QString &value, const QString &
                                  "file"));
     if (!isSecretName(secret->first))
         return refused(
-            where, translate("CommandLine", "a secret's name has only letters, digits, - and _"));
+            where, translate("CommandLine", "a secret’s name has only letters, digits, - and _"));
     if (line.secretFiles.contains(secret->first))
         return refused(where,
                        translate("CommandLine", "the secret %1 is given twice").arg(secret->first));
@@ -186,7 +174,7 @@ Result<void> takeTimeout(CommandLine &line, const QString &value, const QString 
 constexpr OptionRow optionRows[] = {
     {"-d", nullptr, "DESTINATION", QT_TRANSLATE_NOOP("CommandLine", "print to this queue"), takeText<&CommandLine::destination>},
     {"-n", nullptr, "COPIES", QT_TRANSLATE_NOOP("CommandLine", "print this many copies, 1 to 9999"), takeCopies},
-    {"-o", nullptr, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "set an option of the device, media=NAME or\norientation-requested=3|4|5|6"), takeOption},
+    {"-o", nullptr, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "set an option of the device, or media, sides,\nlandscape and others that lp has; NAME alone\nswitches one on, noNAME off"), takeOption},
     {"-P", nullptr, "PAGES", QT_TRANSLATE_NOOP("CommandLine", "print only these pages: 1-3,7,9-"), takePages},
     {"-t", nullptr, "TITLE", QT_TRANSLATE_NOOP("CommandLine", "call the job so"), takeText<&CommandLine::title>},
     {nullptr, "--ppd", "FILE", QT_TRANSLATE_NOOP("CommandLine", "show a device without a queue"), takeText<&CommandLine::ppd>},
@@ -201,6 +189,7 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--no-window", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show nothing; without a script, print at once"), takeFlag<&CommandLine::noWindow>},
     {nullptr, "--to", "DIR", QT_TRANSLATE_NOOP("CommandLine", "write document.pdf, options and ticket.plist there\ninstead of sending"), takeText<&CommandLine::toFolder>},
     {nullptr, "--timeout", "SECONDS", QT_TRANSLATE_NOOP("CommandLine", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)"), takeTimeout},
+    {nullptr, "--language", "LANGUAGE", QT_TRANSLATE_NOOP("CommandLine", "speak this language instead of the desktop’s"), takeText<&CommandLine::language>},
     {nullptr, "--list-printers", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list the queues and end"), takeFlag<&CommandLine::listPrinters>},
     {nullptr, "--list-controls", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list what scripts can reach, and end"), takeFlag<&CommandLine::listControls>},
     {nullptr, "--version", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print the version and end"), takeFlag<&CommandLine::version>},
@@ -248,6 +237,48 @@ Error noSuchOption(const QString &name)
                    name.size() > 2 ? didYouMean(problem, name, allNames()) : problem);
 }
 
+// An option as it is written: --name, --name=value, -n, -nvalue, or the value in the
+// argument after it.
+struct WrittenOption
+{
+    const OptionRow *row;
+    QString name;
+    QString value;
+};
+
+// The option that begins at `i`, which moves on to the last argument that is its own.
+Result<WrittenOption> optionAt(const QStringList &arguments, qsizetype &i)
+{
+    const QString &argument = arguments[i];
+    const bool isLong = argument.startsWith(QLatin1String("--"));
+    const qsizetype sign = isLong ? argument.indexOf(u'=') : -1;
+    const QString name = isLong ? argument.left(sign) : argument.left(2);
+    const OptionRow *row = isLong ? findLong(name) : findShort(name);
+    if (!row)
+        return noSuchOption(isLong ? name : argument);
+    std::optional<QString> value;
+    if (sign >= 0)
+        value = argument.mid(sign + 1);
+    else if (!isLong && argument.size() > 2)
+        value = argument.mid(2);
+    if (!row->value && value)
+        return refused(name,
+                       translate("CommandLine", "it takes no value; “%1” is too much").arg(*value));
+    if (row->value && !value) {
+        if (i + 1 == arguments.size())
+            return refused(
+                name,
+                translate("CommandLine", "its value %1 is missing").arg(QLatin1String(row->value)));
+        value = arguments[++i];
+    }
+    return WrittenOption{row, name, value.value_or(QString())};
+}
+
+bool isOption(const QString &argument)
+{
+    return argument.startsWith(u'-') && argument != QLatin1String("-");
+}
+
 Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
 {
     if (*hasFile)
@@ -258,37 +289,34 @@ Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
     return {};
 }
 
-// The last -o of this name, which beats the earlier ones.
-std::optional<QString> lastOption(const CommandLine &line, const char *name)
+// The last -o of this name, which beats the earlier ones; null: there is none.
+const AskedOption *findLastOption(const CommandLine &line, const char *name)
 {
-    std::optional<QString> value;
-    for (const auto &option : line.options) {
-        if (isNamed(option, name))
-            value = option.second;
-    }
-    return value;
+    const auto found =
+        std::find_if(line.options.crbegin(), line.options.crend(),
+                     [name](const AskedOption &option) { return isNamed(option, name); });
+    return found == line.options.crend() ? nullptr : &*found;
 }
 
 // -n and -P beat the same said with -o, wherever they stand. Whoever says two things
 // would lose one of them.
 std::optional<Error> findTwoValues(const CommandLine &line)
 {
-    const auto twice = [](const char *option, const QString &value, const char *name,
-                          const QString &other) {
-        return refused(
-            QStringLiteral("%1 %2").arg(QLatin1String(option), value),
-            translate("CommandLine", "-o %1=%2 says something else; leave out one of them")
-                .arg(QLatin1String(name), other));
+    const auto twice = [](const char *option, const QString &value, const AskedOption &other) {
+        return refused(QStringLiteral("%1 %2").arg(QLatin1String(option), value),
+                       translate("CommandLine", "-o %1 says something else; leave out one of them")
+                           .arg(other.text()));
     };
-    const auto copies = lastOption(line, copiesOption);
-    if (line.copies && copies && wholeNumber(*copies, 1, maximumCopies) != line.copies)
-        return twice("-n", QString::number(*line.copies), copiesOption, *copies);
-    const auto pages = lastOption(line, pageRangesOption);
+    const AskedOption *copies = findLastOption(line, copiesOption);
+    if (line.copies && copies
+        && wholeNumber(copies->value.value_or(QString()), 1, maximumCopies) != line.copies)
+        return twice("-n", QString::number(*line.copies), *copies);
+    const AskedOption *pages = findLastOption(line, pageRangesOption);
     if (!line.pages || !pages)
         return std::nullopt;
-    const auto runs = runsOf(*line.pages), others = runsOf(*pages); // well written, both
+    const auto runs = runsOf(*line.pages), others = runsOf(*pages->value); // well written, both
     if (runs.value() != others.value())
-        return twice("-P", *line.pages, pageRangesOption, *pages);
+        return twice("-P", *line.pages, *pages);
     return std::nullopt;
 }
 
@@ -330,7 +358,7 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
     bool optionsEnded = false;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments[i];
-        if (optionsEnded || !argument.startsWith(u'-') || argument == QLatin1String("-")) {
+        if (optionsEnded || !isOption(argument)) {
             if (argument.isEmpty())
                 return refused(QStringLiteral("\"\""),
                                translate("CommandLine", "a document has a name"));
@@ -343,30 +371,11 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
             continue;
         }
 
-        // --name, --name=value, -n, -nvalue
-        const bool isLong = argument.startsWith(QLatin1String("--"));
-        const qsizetype sign = isLong ? argument.indexOf(u'=') : -1;
-        const QString name = isLong ? argument.left(sign) : argument.left(2);
-        const OptionRow *row = isLong ? findLong(name) : findShort(name);
-        if (!row)
-            return noSuchOption(isLong ? name : argument);
-        std::optional<QString> value;
-        if (sign >= 0)
-            value = argument.mid(sign + 1);
-        else if (!isLong && argument.size() > 2)
-            value = argument.mid(2);
-        if (!row->value && value)
-            return refused(
-                name,
-                translate("CommandLine", "it takes no value; \"%1\" is too much").arg(*value));
-        if (row->value && !value) {
-            if (i + 1 == arguments.size())
-                return refused(name,
-                               translate("CommandLine", "its value %1 is missing")
-                                   .arg(QLatin1String(row->value)));
-            value = arguments[++i];
-        }
-        if (const auto taken = row->take(line, value.value_or(QString()), name); !taken)
+        const auto option = optionAt(arguments, i);
+        if (!option)
+            return option.error();
+        const auto &[row, name, value] = option.value();
+        if (const auto taken = row->take(line, value, name); !taken)
             return taken.error();
     }
 
@@ -375,6 +384,20 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
     if (const auto clash = findClash(line))
         return *clash;
     return line;
+}
+
+std::optional<QString> languageAsked(const QStringList &arguments)
+{
+    const OptionRow *wanted = findLong(QStringLiteral("--language"));
+    std::optional<QString> language;
+    for (qsizetype i = 0; i < arguments.size() && arguments[i] != QLatin1String("--"); ++i) {
+        if (!isOption(arguments[i]))
+            continue;
+        const auto option = optionAt(arguments, i);
+        if (option && option.value().row == wanted)
+            language = option.value().value;
+    }
+    return language;
 }
 
 QString usageText()
@@ -404,7 +427,7 @@ QString usageText()
     text += translate(
         "CommandLine",
         "\n"
-        "Later beats earlier: the device's defaults, the queue's, the site's preset,\n"
+        "Later beats earlier: the device’s defaults, the queue’s, the site’s preset,\n"
         "--preset, --ticket-in, -o, --script.\n"
         "\n"
         "Ends with 0 printed, 1 failed, 2 wrong usage or script, 3 settings of -o or a\n"

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "asked_option.h"
 #include "result.h"
 
 #include <QList>
 #include <QMap>
-#include <QPair>
 #include <QString>
 #include <QStringList>
 
@@ -15,14 +15,14 @@ namespace kelvo {
 // What the user asked for. See usageText() for each option.
 struct CommandLine
 {
-    QString file;                           // empty: standard input, or the sample with --demo
-    bool readsStandardInput = false;        // - was given: also with --demo
-    std::optional<QString> destination;     // -d
-    std::optional<int> copies;              // -n, 1 to 9999
-    QList<QPair<QString, QString>> options; // -o, in order
-    std::optional<QString> pages;           // -P
-    std::optional<QString> title;           // -t
-    std::optional<QString> ppd;             // --ppd: a device without a queue
+    QString file;                       // empty: standard input, or the sample with --demo
+    bool readsStandardInput = false;    // - was given: also with --demo
+    std::optional<QString> destination; // -d
+    std::optional<int> copies;          // -n, 1 to 9999
+    QList<AskedOption> options;         // -o, in order
+    std::optional<QString> pages;       // -P
+    std::optional<QString> title;       // -t
+    std::optional<QString> ppd;         // --ppd: a device without a queue
     bool demo = false;
     std::optional<QString> ticketIn, ticketOut, preset, presetOut, script;
     bool print = false;                 // --print: after the script
@@ -30,6 +30,7 @@ struct CommandLine
     bool noWindow = false;
     std::optional<QString> toFolder; // --to
     int timeoutSeconds = 30;         // --timeout, 1 to 3600
+    std::optional<QString> language; // --language, "de" or "de_AT"
     bool listPrinters = false, listControls = false, version = false, help = false;
     bool helpScripts = false; // --help-scripts
 };
@@ -37,5 +38,9 @@ struct CommandLine
 // Refused with what was wrong, where, and the nearest option that exists.
 Result<CommandLine> parseCommandLine(const QStringList &arguments);
 QString usageText();
+
+// The value of --language, also of arguments that are refused: what is said of those is
+// said in it.
+std::optional<QString> languageAsked(const QStringList &arguments);
 
 } // namespace kelvo

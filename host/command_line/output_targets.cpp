@@ -55,7 +55,7 @@ QList<Input> inputsOf(const CommandLine &line)
         inputs.append({translate("CommandLine", "%1 is the script itself; it would be lost"),
                        fileStatus(*line.script)});
     if (line.ppd)
-        inputs.append({translate("CommandLine", "%1 is the device's PPD itself; it would be lost"),
+        inputs.append({translate("CommandLine", "%1 is the device’s PPD itself; it would be lost"),
                        fileStatus(*line.ppd)});
     for (const QString &file : line.secretFiles)
         inputs.append({translate("CommandLine", "%1 is a secret itself; it would be lost"),

@@ -36,14 +36,14 @@ Error notRead(const PreparedJob &job, const QString &where)
     return {Code::Unsupported, where,
             job.hasPasscode
                 ? translate("Delivery",
-                            "the printer's PPD does not say that it reads tickets "
+                            "the printer’s PPD does not say that it reads tickets "
                             "(*KelvoTicket: \"1\"): a job with a passcode would lie open in the "
-                            "tray; print without it, or have the queue set up with the device's "
+                            "tray; print without it, or have the queue set up with the device’s "
                             "own PPD")
                 : translate("Delivery",
-                            "the printer's PPD does not say that it reads tickets "
+                            "the printer’s PPD does not say that it reads tickets "
                             "(*KelvoTicket: \"1\"): a fax would be printed instead of sent; print "
-                            "without it, or have the queue set up with the device's own PPD")};
+                            "without it, or have the queue set up with the device’s own PPD")};
 }
 
 Result<Document> pagesToPrint(const Document &document, const QString &pageRanges)
@@ -229,8 +229,8 @@ Error noAnswer(const Sending &sending)
         return {Code::TimedOut, sending.queue,
                 translate("Delivery",
                           "the whole document was sent as %1, but the print server at %2 did not "
-                          "answer for %3 s. The job may have been accepted: look with \"lpstat -W "
-                          "all -o %4\" before you print it again")
+                          "answer for %3 s. The job may have been accepted: look with “lpstat -W "
+                          "all -o %4” before you print it again")
                     .arg(jobName(sending), serverName(),
                          QString::number(sending.patience.timeoutMs() / 1000.0), sending.queue)};
     Error error = timedOut(sending.patience, sending.queue);
@@ -302,7 +302,7 @@ Result<void> checkReader(Sending &sending, http_t *http)
             return Error{Code::Damaged, sending.queue,
                          translate("Delivery",
                                    "the PPD that the print server at %1 has for it is damaged "
-                                   "(%2); have the queue set up again with the device's PPD")
+                                   "(%2); have the queue set up again with the device’s PPD")
                              .arg(serverName(), ppd.error().detail)};
         if (!readsTickets(ppd.value().get()))
             return notRead(sending.job, sending.queue);
@@ -379,7 +379,7 @@ Result<void> sendDocument(Sending &sending, http_t *http)
                  translate("Delivery",
                            "the whole document was sent as %1, but the print server at %2 broke "
                            "off before it answered. The job may have been accepted: look with "
-                           "\"lpstat -W all -o %3\" before you print it again")
+                           "“lpstat -W all -o %3” before you print it again")
                      .arg(jobName(sending), serverName(), sending.queue)};
 }
 
@@ -394,8 +394,7 @@ QString cancelJob(const Sending &sending, const QString &problem)
             < IPP_STATUS_REDIRECTION_OTHER_SITE)
             return nothingPrinted(problem);
     }
-    return translate("Delivery",
-                     "%1; the job could not be taken back: cancel it with \"cancel %2\"")
+    return translate("Delivery", "%1; the job could not be taken back: cancel it with “cancel %2”")
         .arg(problem, jobName(sending));
 }
 

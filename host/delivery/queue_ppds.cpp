@@ -81,7 +81,7 @@ Result<QByteArray> readResource(http_t *http, const QString &resource, const QSt
         return Error{Code::Damaged, where,
                      translate("Delivery",
                                "the print server at %1 has an empty PPD for it; have the queue "
-                               "set up again with the device's PPD")
+                               "set up again with the device’s PPD")
                          .arg(serverName())};
     return bytes;
 }

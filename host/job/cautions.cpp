@@ -79,7 +79,7 @@ std::optional<Caution> missingCaution(const QStringList &settings, bool hasPpd)
 {
     if (settings.isEmpty())
         return std::nullopt;
-    const QString list = settings.join(QStringLiteral(", "));
+    const QString list = separated(settings);
     return Caution{
         Weight::Noted,
         hasPpd ? translate("Job", "This printer does not have: %1.").arg(list)
@@ -98,7 +98,7 @@ std::optional<Caution> untoldCaution(const QStringList &settings)
         return std::nullopt;
     return Caution{Weight::Noted,
                    translate("Job", "Not sent, for this printer reads no job tickets: %1.")
-                       .arg(settings.join(QStringLiteral(", "))),
+                       .arg(separated(settings)),
                    translate("Job", "%n setting(s) kept; choose a printer that reads them.",
                              nullptr, settings.size()),
                    settings};

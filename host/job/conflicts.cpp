@@ -57,7 +57,7 @@ QString sentenceFor(const PpdConflict &conflict, const PpdSelection &selection, 
     if (fitted.isEmpty())
         return translate("Job", "%1 cannot be used together.").arg(listed(settings));
     return translate("Job", "%1 cannot be used on this printer (%2).")
-        .arg(listed(settings), fitted.join(QStringLiteral(", ")));
+        .arg(listed(settings), separated(fitted));
 }
 
 // The choices of an option, what switches it off first: that is what a fix
@@ -178,7 +178,7 @@ ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QS
         for (const PpdOption &option : group.options) {
             const auto change = report.fix.constFind(option.keyword);
             if (change != report.fix.constEnd())
-                report.fixWords << translate("Job", "Set %1 to %2")
+                report.fixWords << translate("Job", "Set “%1” to “%2”")
                                        .arg(optionWords(option), choiceWords(option, *change));
         }
     }

@@ -15,7 +15,7 @@ namespace kelvo {
 struct Conflict
 {
     QStringList options; // PPD keywords
-    QString sentence; // "Stapling: Top Left and Paper Type: Transparency cannot be used together."
+    QString sentence; // "Stapling: Top Left and Paper type: Transparency cannot be used together."
 };
 
 struct ConflictReport

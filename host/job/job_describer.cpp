@@ -26,6 +26,14 @@ bool JobDescriber::isMakerOf(const PpdFile *ppd) const
     return m_bundle && ppd && ppd->manufacturer() == string(m_bundle->info(), deviceMakerKey);
 }
 
+bool JobDescriber::knowsOption(const QString &keyword) const
+{
+    const auto knows = m_bundle
+        ? reinterpret_cast<KnowsOptionFunction>(m_bundle->findFunction(kKnowsOptionName))
+        : nullptr;
+    return knows && knows(keyword);
+}
+
 bool JobDescriber::findFunction()
 {
     if (m_bundle && !std::exchange(m_hasLooked, true))

@@ -22,6 +22,9 @@ public:
     // brings a ticket, no panel has kept anything yet, and the answer is empty.
     RepeatedChoices repeatedChoices(const PpdFile *ppd, bool bringsTicket);
 
+    // Whether any of the bundle's devices may have the PPD option.
+    bool knowsOption(const QString &keyword) const;
+
 private:
     bool isMakerOf(const PpdFile *ppd) const;
     bool findFunction();

@@ -50,9 +50,9 @@ struct FlagRow
     const char *word;
     bool value;
 };
-constexpr FlagRow collateRows[] = {
-    {"true", true},
-    {"false", false},
+// What stands for yes and no, and what choices of PPDs are called that mean it.
+constexpr FlagRow flagRows[] = {
+    {"true", true}, {"false", false}, {"on", true}, {"off", false}, {"yes", true}, {"no", false},
 };
 constexpr FlagRow documentHandlingRows[] = {
     {"separate-documents-collated-copies", true},
@@ -212,7 +212,16 @@ std::optional<QString> findChoiceName(const QString &value, const PpdOption &opt
         if (choice.keyword.compare(value, Qt::CaseInsensitive) == 0)
             return choice.keyword;
     }
-    return std::nullopt;
+    const FlagRow *wanted = findRow(flagRows, value, &FlagRow::word);
+    if (!wanted)
+        return std::nullopt;
+    for (const PpdChoice &choice : option.choices) {
+        const FlagRow *meant = findRow(flagRows, choice.keyword, &FlagRow::word);
+        if (meant && meant->value == wanted->value)
+            return choice.keyword;
+    }
+    const PpdChoice *none = wanted->value ? nullptr : option.findChoice(QStringLiteral("None"));
+    return none ? std::optional(none->keyword) : std::nullopt;
 }
 
 QStringList choiceNames(const PpdOption &option)
@@ -231,17 +240,15 @@ QString noDescription()
                      "cannot be asked for this");
 }
 
-// One -o: what it says, and what it changes.
+// One -o: what it says and means, and what it changes.
 struct Request
 {
+    const AskedOption &asked;
     QString name, value;
     const PpdFile *ppd;
     PrintSession &session;
 
-    Error error(Code code, const QString &detail) const
-    {
-        return {code, name + u'=' + value, detail};
-    }
+    Error error(Code code, const QString &detail) const { return {code, asked.text(), detail}; }
     Error unknownValue(const QStringList &known) const
     {
         return error(Code::NotFound,
@@ -375,12 +382,43 @@ Result<TicketPlaces> applyCopies(const Request &request)
                           [&](JobSettings &settings) { settings.copies = copies; });
 }
 
+QStringList trueAndFalse()
+{
+    return {QLatin1String(flagRows[0].word), QLatin1String(flagRows[1].word)};
+}
+
+// landscape and portrait: one that is false is the other.
+Result<TicketPlaces> applyOrientationFlag(const Request &request, Orientation whenTrue)
+{
+    const FlagRow *row = findRow(flagRows, request.value, &FlagRow::word);
+    if (!row)
+        return request.unknownValue(trueAndFalse());
+    return request.change({{kPMPageFormatTicket, kPMOrientationKey}}, [&](JobSettings &settings) {
+        const bool isPortrait = (whenTrue == Orientation::Portrait) == row->value;
+        settings.orientation = isPortrait ? Orientation::Portrait : Orientation::Landscape;
+    });
+}
+
+Result<TicketPlaces> applyFitToPage(const Request &request)
+{
+    const FlagRow *row = findRow(flagRows, request.value, &FlagRow::word);
+    if (!row)
+        return request.unknownValue(trueAndFalse());
+    if (row->value)
+        return request.error(Code::Refused,
+                             translate("Job",
+                                       "pages are printed at their own size; choose a paper "
+                                       "that holds them, -o media=NAME"));
+    return TicketPlaces(); // what is done anyway
+}
+
 template <std::size_t N>
-Result<TicketPlaces> applyCollate(const Request &request, const FlagRow (&rows)[N])
+Result<TicketPlaces> applyCollate(const Request &request, const FlagRow (&rows)[N],
+                                  const QStringList &known)
 {
     const FlagRow *row = findRow(rows, request.value, &FlagRow::word);
     if (!row)
-        return request.unknownValue(words(rows, &FlagRow::word));
+        return request.unknownValue(known);
     return request.change({{kPMPrintSettingsTicket, kPMCollateKey}},
                           [&](JobSettings &settings) { settings.collate = row->value; });
 }
@@ -405,10 +443,19 @@ constexpr OptionRow optionRows[] = {
     {"orientation-requested", applyOrientation},
     {"sides", applySides},
     {"copies", applyCopies},
-    {"collate", [](const Request &request) { return applyCollate(request, collateRows); }},
+    {"collate",
+     [](const Request &request) { return applyCollate(request, flagRows, trueAndFalse()); }},
     {"multiple-document-handling",
-     [](const Request &request) { return applyCollate(request, documentHandlingRows); }},
+     [](const Request &request) {
+         return applyCollate(request, documentHandlingRows,
+                             words(documentHandlingRows, &FlagRow::word));
+     }},
     {"page-ranges", applyPageRanges},
+    {"landscape",
+     [](const Request &request) { return applyOrientationFlag(request, Orientation::Landscape); }},
+    {"portrait",
+     [](const Request &request) { return applyOrientationFlag(request, Orientation::Portrait); }},
+    {"fit-to-page", applyFitToPage},
 };
 
 } // namespace
@@ -485,12 +532,15 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd)
     return size;
 }
 
-Result<TicketPlaces> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
+Result<TicketPlaces> applyOption(const AskedOption &asked, const PpdFile *ppd,
                                  PrintSession &session)
 {
-    const Request request{name, value, ppd, session};
-    const OptionRow *row = findRow(optionRows, name, &OptionRow::name);
-    const PpdOption *option = findOptionInAnyCase(name, ppd);
+    const OptionValue meant = meaningOf(asked, [ppd](const QString &name) {
+        return findRow(optionRows, name, &OptionRow::name) || findOptionInAnyCase(name, ppd);
+    });
+    const Request request{asked, meant.name, meant.value, ppd, session};
+    const OptionRow *row = findRow(optionRows, request.name, &OptionRow::name);
+    const PpdOption *option = findOptionInAnyCase(request.name, ppd);
     TicketPlaces places;
     if (option) {
         auto applied = applyPpdChoice(request, *option);
@@ -512,11 +562,12 @@ Result<TicketPlaces> applyOption(const QString &name, const QString &value, cons
                 known << offered.keyword;
         }
     }
+    // Of a printer without a description nobody knows what it has.
     return request.error(
-        Code::NotFound,
+        ppd ? Code::Unsupported : Code::Refused,
         didYouMean(ppd ? translate("Job", "neither this printer nor kelvo-print has such an option")
                        : noDescription(),
-                   name, known));
+                   asked.name, known));
 }
 
 bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "asked_option.h"
 #include "ppd_file.h"
 #include "print_session.h"
 #include "result.h"
@@ -53,7 +54,7 @@ bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd);
 // ft, cm, mm or m behind it, else points) within the PPD's limits; none otherwise.
 std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 
-// One -o NAME=VALUE of the command line into the session's tickets: a PPD
+// One -o of the command line into the session's tickets: a PPD
 // keyword with one of its choices, or one of the names that every printer has:
 //
 //   media=NAME[,NAME…]           a page size (its PPD name in any case, "Custom.WxH", or a
@@ -63,11 +64,17 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 //   sides=one-sided|two-sided-long-edge|two-sided-short-edge
 //   copies=N   page-ranges=1-3,7   collate=true|false
 //   multiple-document-handling=separate-documents-(un)collated-copies
+//   landscape=true|false   portrait=true|false   fit-to-page=false
 //
-// Names and choices are found in any case. NotFound with the nearest name for an
-// unknown option or choice, OutOfRange for a number outside its limits; the
-// session is as it was then. What comes back is where it was set, also to what it was.
-Result<TicketPlaces> applyOption(const QString &name, const QString &value, const PpdFile *ppd,
+// A name alone means what meaningOf() says. true is also written on and yes, false also off and no,
+// and choices of such a name are meant by all of them; an option without them, but with None, has
+// that for false.
+//
+// Names and choices are found in any case. Unsupported for an option that neither the
+// printer nor the host has, with the nearest name; NotFound for an unknown choice, OutOfRange
+// for a number outside its limits, Refused for what cannot be asked for; each says where as it was
+// typed. The session is as it was then. What comes back is where it was set, also to what it was.
+Result<TicketPlaces> applyOption(const AskedOption &asked, const PpdFile *ppd,
                                  PrintSession &session);
 
 } // namespace kelvo

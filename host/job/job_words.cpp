@@ -137,7 +137,8 @@ void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &
     add(isPortrait, isPortrait ? orientation : passedOn(orientation));
     // Where there is a PPD, the paper stands among its options.
     if (!ppd && !settings.paperName.isEmpty())
-        add(false, passedOn(translate("Job", "Paper: %1").arg(visibleText(settings.paperName))));
+        add(false,
+            passedOn(translate("Job", "Paper size: %1").arg(visibleText(settings.paperName))));
 }
 
 QString lineOf(const DescribedSetting &setting)
@@ -291,7 +292,7 @@ QString JobWords::asText() const
             continue;
         text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + part.heading + u'\n';
         for (const QString &line : part.lines)
-            text += QStringLiteral("  ") + visibleText(line) + u'\n';
+            text += QStringLiteral("  ") + terminalText(line) + u'\n';
     }
     return text;
 }
@@ -318,7 +319,7 @@ QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int 
         parts << translate("Job", "fax");
     if (leadingPage && !leadingPage->inShort.isEmpty())
         parts << leadingPage->inShort;
-    return parts.join(QStringLiteral(", "));
+    return separated(parts);
 }
 
 } // namespace kelvo

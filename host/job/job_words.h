@@ -16,7 +16,7 @@ namespace kelvo {
 struct JobWords
 {
     QStringList cautions; // what to know before it goes out, see cautions.h
-    QStringList settings; // "Page Size: A4": the host's, the panels', the PPD's others
+    QStringList settings; // "Paper size: A4": the host's, the panels', the PPD's others
     QStringList defaults; // settings that are as the device has them
     QStringList ticket;   // "com.kelvo.print.… = 2 (written by com.kelvo.printingmanager)"
     QStringList notSent;  // "Stapling: Top Left – this printer does not have it"

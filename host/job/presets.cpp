@@ -139,7 +139,7 @@ Result<Preset> findOwn(const std::vector<Preset> &presets, const QString &name)
     if (preset->isSite)
         return Error{Code::Refused, name,
                      translate("Job",
-                               "this preset is the administrator's and cannot be changed here; "
+                               "this preset is the administrator’s and cannot be changed here; "
                                "save one of your own under the same name instead")};
     return *preset;
 }
@@ -281,7 +281,7 @@ std::optional<TicketFile> PresetStore::siteDefaults() const
     if (!ticket) {
         printLine(
             stderr,
-            translate("Job", "%1; the site's defaults are not used").arg(ticket.error().text()));
+            translate("Job", "%1; the site’s defaults are not used").arg(ticket.error().text()));
         return std::nullopt;
     }
     return std::move(ticket).value();

@@ -85,7 +85,7 @@ QString stateWords(const QString &message, const QStringList &reasons)
         words << reasonWords(reason);
     words.removeAll(QString());
     words.removeDuplicates();
-    return words.join(QStringLiteral(", "));
+    return separated(words);
 }
 
 } // namespace kelvo

@@ -38,7 +38,7 @@ QString PrintFlow::notPrinted() const
 QString PrintFlow::whyNotReady() const
 {
     if (m_session.stage() == Stage::Searching)
-        return tr("The printer's settings have not come yet.");
+        return tr("The printer’s settings have not come yet.");
     if (m_session.stage() == Stage::Stuck)
         return tr("%1. %2", "a headline and what follows it")
             .arg(m_session.message().header, m_session.message().text);
@@ -196,15 +196,19 @@ void PrintFlow::cancel()
         m_run->cancel();
 }
 
+QString PrintFlow::unknownOutcome()
+{
+    return tr("interrupted while the job was being sent; it may have been accepted: "
+              "look at the printer’s queue before you print again");
+}
+
 void PrintFlow::interrupt()
 {
     cancel();
     QTimer::singleShot(interruptMs, this, [this] {
         if (!m_run)
             return;
-        const QString problem =
-            tr("interrupted while the job was being sent; it may have been accepted: "
-               "look at the printer's queue before you print again");
+        const QString problem = unknownOutcome();
         printLine(stderr, QStringLiteral("kelvo-print: ") + problem);
         refuse(Step::Job, ExitStatus::Failed, notPrinted(), problem);
     });

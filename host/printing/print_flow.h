@@ -75,6 +75,8 @@ public:
     // The same for whoever cannot wait long: where no outcome comes, the job is refused
     // after a few seconds, and standard error says that it may be out.
     void interrupt();
+    // What is said of a job whose outcome nobody waits for.
+    static QString unknownOutcome();
 
     bool isPrinting() const { return m_run != nullptr; }
     // Of the job that is on its way, or the last one; null before.

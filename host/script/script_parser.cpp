@@ -8,6 +8,7 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -26,40 +27,45 @@ struct CommandRow
     ScriptCommand command;
     const char *name;
     const char *form;
+    ScriptEffects effects;
     ScriptCommandHelp help;
 };
+constexpr ScriptEffects NoEffect;
+constexpr ScriptEffects InFront = ScriptEffect::InFront;
+constexpr ScriptEffects BehindDialogs = ScriptEffect::BehindDialogs;
+constexpr ScriptEffects MeetsNotice = ScriptEffect::MeetsNotice;
 
 // clang-format off
 constexpr CommandRow commandRows[] = {
-    {ScriptCommand::Panel, "panel", "W", {"panel NAME", QT_TRANSLATE_NOOP("Script", "shows a panel of the window, or a tab of the device, by name; a name that there is not lists them")}},
-    {ScriptCommand::Tab, "tab", "N", {"tab N", QT_TRANSLATE_NOOP("Script", "shows the device's tab N, from 1")}},
-    {ScriptCommand::Choose, "choose", "CI", {"choose CONTROL WHAT", QT_TRANSLATE_NOOP("Script", "picks an item of a pop-up; WHAT: 12, 'code', unset, key NAME, text \"…\", row 3")}},
-    {ScriptCommand::Item, "item", "CKi", {"item CONTROL 'code' [WHAT]", QT_TRANSLATE_NOOP("Script", "picks the menu item with that command, submenus included")}},
-    {ScriptCommand::Click, "click", "C", {"click CONTROL", QT_TRANSLATE_NOOP("Script", "presses a button or a radio button")}},
-    {ScriptCommand::Check, "check", "CW", {"check CONTROL on|off", QT_TRANSLATE_NOOP("Script", "sets a check box")}},
-    {ScriptCommand::Type, "type", "CWw", {"type CONTROL \"text\"", QT_TRANSLATE_NOOP("Script", "replaces the text as a user types it; `secret NAME` types a secret from --secret")}},
-    {ScriptCommand::Set, "set", "CN", {"set CONTROL N", QT_TRANSLATE_NOOP("Script", "sets a spin field, slider, radio group or tab control")}},
-    {ScriptCommand::Time, "time", "CW", {"time CONTROL HH:MM[:SS]", QT_TRANSLATE_NOOP("Script", "sets a time field")}},
-    {ScriptCommand::Select, "select", "CW", {"select CONTROL ROW[,ROW…]", QT_TRANSLATE_NOOP("Script", "selects rows of a list, from 1; 0 is the empty area")}},
-    {ScriptCommand::DoubleClick, "double-click", "CN", {"double-click CONTROL ROW", QT_TRANSLATE_NOOP("Script", "double-clicks a row of a list; 0 is the empty area")}},
-    {ScriptCommand::Key, "key", "W", {"key \"Ctrl+P\"", QT_TRANSLATE_NOOP("Script", "presses keys in the front window")}},
-    {ScriptCommand::Drag, "drag", "CDD", {"drag CONTROL DX DY", QT_TRANSLATE_NOOP("Script", "drags from the control's middle, in points; of a page, in points of the paper")}},
-    {ScriptCommand::File, "file", "W", {"file \"PATH\"", QT_TRANSLATE_NOOP("Script", "answers a file chooser")}},
-    {ScriptCommand::Command, "command", "K", {"command 'code'", QT_TRANSLATE_NOOP("Script", "sends a command to the front window")}},
-    {ScriptCommand::Answer, "answer", "N", {"answer N", QT_TRANSLATE_NOOP("Script", "presses button N of the notice in front; 1 is its default")}},
-    {ScriptCommand::Print, "print", "", {"print", QT_TRANSLATE_NOOP("Script", "presses Print")}},
-    {ScriptCommand::Cancel, "cancel", "", {"cancel", QT_TRANSLATE_NOOP("Script", "cancels the front dialog")}},
-    {ScriptCommand::Sync, "sync", "W", {"sync read|write", QT_TRANSLATE_NOOP("Script", "all panels read the ticket or write it")}},
-    {ScriptCommand::Expect, "expect", "CWWww", {"expect CONTROL PROPERTY VALUE", QT_TRANSLATE_NOOP("Script", "value, index, text, enabled, visible, checked, focus, items, maximum, selection, cell ROW COLUMN")}},
-    {ScriptCommand::ExpectItem, "expect-item", "CKiW", {"expect-item CONTROL 'code' [WHAT] STATE", QT_TRANSLATE_NOOP("Script", "present, absent, enabled, disabled, checked, unchecked")}},
-    {ScriptCommand::ExpectTicket, "expect-ticket", "WW", {"expect-ticket PATH VALUE|absent", QT_TRANSLATE_NOOP("Script", "the ticket as it stands; PATH steps into it with /")}},
-    {ScriptCommand::ExpectChoice, "expect-choice", "WW", {"expect-choice OPTION CHOICE|absent", QT_TRANSLATE_NOOP("Script", "a PPD choice in the ticket")}},
-    {ScriptCommand::ExpectNotice, "expect-notice", "W", {"expect-notice \"text\"", QT_TRANSLATE_NOOP("Script", "the front notice contains the text")}},
-    {ScriptCommand::ExpectWindow, "expect-window", "W", {"expect-window \"title\"|@name", QT_TRANSLATE_NOOP("Script", "the front window is that one")}},
-    {ScriptCommand::Show, "show", "C", {"show CONTROL", QT_TRANSLATE_NOOP("Script", "prints one control as JSON")}},
-    {ScriptCommand::Controls, "controls", "", {"controls", QT_TRANSLATE_NOOP("Script", "prints the front window's controls as JSON")}},
-    {ScriptCommand::Summary, "summary", "", {"summary", QT_TRANSLATE_NOOP("Script", "prints what will be sent, in words")}},
-    {ScriptCommand::Screenshot, "screenshot", "W", {"screenshot FILE", QT_TRANSLATE_NOOP("Script", "writes the front window as PNG, for its owner alone")}},
+    {ScriptCommand::Panel, "panel", "W", InFront | BehindDialogs, {"panel NAME", QT_TRANSLATE_NOOP("Script", "shows a panel of the window, or a tab of the device, by name; a name that there is not lists them")}},
+    {ScriptCommand::Tab, "tab", "N", InFront | BehindDialogs, {"tab N", QT_TRANSLATE_NOOP("Script", "shows the device’s tab N, from 1")}},
+    {ScriptCommand::Choose, "choose", "CI", InFront, {"choose CONTROL WHAT", QT_TRANSLATE_NOOP("Script", "picks an item of a pop-up; WHAT: 12, 'code', unset, key NAME, text \"…\", row 3")}},
+    {ScriptCommand::Item, "item", "CKi", InFront, {"item CONTROL 'code' [WHAT]", QT_TRANSLATE_NOOP("Script", "picks the menu item with that command, submenus included")}},
+    {ScriptCommand::Click, "click", "C", InFront, {"click CONTROL", QT_TRANSLATE_NOOP("Script", "presses a button or a radio button")}},
+    {ScriptCommand::Check, "check", "CW", InFront, {"check CONTROL on|off", QT_TRANSLATE_NOOP("Script", "sets a check box")}},
+    {ScriptCommand::Type, "type", "CWw", InFront, {"type CONTROL \"text\"", QT_TRANSLATE_NOOP("Script", "replaces the text as a user types it; `secret NAME` types a secret from --secret")}},
+    {ScriptCommand::Set, "set", "CN", InFront, {"set CONTROL N", QT_TRANSLATE_NOOP("Script", "sets a spin field, slider, radio group or tab control")}},
+    {ScriptCommand::Time, "time", "CW", InFront, {"time CONTROL HH:MM[:SS]", QT_TRANSLATE_NOOP("Script", "sets a time field")}},
+    {ScriptCommand::Select, "select", "CW", InFront, {"select CONTROL ROW[,ROW…]", QT_TRANSLATE_NOOP("Script", "selects rows of a list, from 1; 0 is the empty area")}},
+    {ScriptCommand::DoubleClick, "double-click", "CN", InFront, {"double-click CONTROL ROW", QT_TRANSLATE_NOOP("Script", "double-clicks a row of a list; 0 is the empty area")}},
+    {ScriptCommand::Key, "key", "W", NoEffect, {"key \"Ctrl+P\"", QT_TRANSLATE_NOOP("Script", "presses keys in the front window, or in the menu, list or help that is open there")}},
+    {ScriptCommand::Drag, "drag", "CDD", InFront, {"drag CONTROL DX DY", QT_TRANSLATE_NOOP("Script", "drags from the control’s middle, in points; of a page, in points of the paper")}},
+    {ScriptCommand::File, "file", "W", NoEffect, {"file \"PATH\"", QT_TRANSLATE_NOOP("Script", "answers a file chooser")}},
+    {ScriptCommand::Command, "command", "K", InFront, {"command 'code'", QT_TRANSLATE_NOOP("Script", "sends a command to the front window")}},
+    {ScriptCommand::Answer, "answer", "N", InFront | MeetsNotice, {"answer N", QT_TRANSLATE_NOOP("Script", "presses button N of the notice in front; 1 is its default")}},
+    {ScriptCommand::Print, "print", "", InFront | BehindDialogs, {"print", QT_TRANSLATE_NOOP("Script", "presses Print")}},
+    {ScriptCommand::Cancel, "cancel", "", InFront, {"cancel", QT_TRANSLATE_NOOP("Script", "cancels the front dialog")}},
+    {ScriptCommand::Sync, "sync", "W", BehindDialogs, {"sync read|write", QT_TRANSLATE_NOOP("Script", "all panels read the ticket or write it")}},
+    {ScriptCommand::Expect, "expect", "CWWww", NoEffect, {"expect CONTROL PROPERTY VALUE", QT_TRANSLATE_NOOP("Script", "value, index, text, enabled, visible, checked, focus, items, maximum, selection, cell ROW COLUMN")}},
+    {ScriptCommand::ExpectItem, "expect-item", "CKiW", NoEffect, {"expect-item CONTROL 'code' [WHAT] STATE", QT_TRANSLATE_NOOP("Script", "present, absent, enabled, disabled, checked, unchecked")}},
+    {ScriptCommand::ExpectTicket, "expect-ticket", "WW", NoEffect, {"expect-ticket PATH VALUE|absent", QT_TRANSLATE_NOOP("Script", "the ticket as it stands; PATH steps into it with /")}},
+    {ScriptCommand::ExpectChoice, "expect-choice", "WW", NoEffect, {"expect-choice OPTION CHOICE|absent", QT_TRANSLATE_NOOP("Script", "a PPD choice in the ticket")}},
+    {ScriptCommand::ExpectNotice, "expect-notice", "W", MeetsNotice, {"expect-notice \"text\"", QT_TRANSLATE_NOOP("Script", "the front notice contains the text")}},
+    {ScriptCommand::ExpectWindow, "expect-window", "W", NoEffect, {"expect-window \"title\"|@name", QT_TRANSLATE_NOOP("Script", "the front window is that one")}},
+    {ScriptCommand::Show, "show", "C", NoEffect, {"show CONTROL", QT_TRANSLATE_NOOP("Script", "prints one control as JSON")}},
+    {ScriptCommand::Controls, "controls", "", NoEffect, {"controls", QT_TRANSLATE_NOOP("Script", "prints the front window’s controls as JSON")}},
+    {ScriptCommand::Summary, "summary", "", NoEffect, {"summary", QT_TRANSLATE_NOOP("Script", "prints what will be sent, in words")}},
+    {ScriptCommand::Screenshot, "screenshot", "W", NoEffect, {"screenshot FILE", QT_TRANSLATE_NOOP("Script", "writes the front window as PNG, for its owner alone")}},
 };
 // clang-format on
 
@@ -217,7 +223,7 @@ private:
                 m_line.command == ScriptCommand::Type
                     ? translate("Script",
                                 "what follows type is no control; write KPDE 102 or @objectName")
-                    : translate("Script", "\"%1\" is no control; write KPDE 102 or @objectName")
+                    : translate("Script", "“%1” is no control; write KPDE 102 or @objectName")
                           .arg(name));
         }
         m_line.control = control.value();
@@ -229,7 +235,7 @@ private:
         const Word &word = next();
         if (word.kind != Word::Kind::Code)
             return refuse(
-                translate("Script", "\"%1\" is no code; write four characters in single quotes")
+                translate("Script", "“%1” is no code; write four characters in single quotes")
                     .arg(word.text));
         m_line.code = word.code;
         return true;
@@ -259,14 +265,14 @@ private:
                 item.row = name.text.toInt(&isNumber);
                 if (!isNumber || item.row < 1 || name.kind != Word::Kind::Bare)
                     return refuse(
-                        translate("Script", "\"%1\" is no row; rows count from 1").arg(name.text));
+                        translate("Script", "“%1” is no row; rows count from 1").arg(name.text));
             }
         } else {
             bool isNumber = false;
             item.reference = word.text.toInt(&isNumber);
             if (!isNumber || word.kind != Word::Kind::Bare)
                 return refuse(translate("Script",
-                                        "\"%1\" names no item; write a number, 'code', unset, "
+                                        "“%1” names no item; write a number, 'code', unset, "
                                         "key NAME, text \"…\" or row N")
                                   .arg(word.text));
         }
@@ -283,8 +289,8 @@ private:
         else
             word.text.toDouble(&isNumber);
         if (!isNumber || word.kind != Word::Kind::Bare)
-            return refuse((whole ? translate("Script", "\"%1\" is no whole number")
-                                 : translate("Script", "\"%1\" is no number"))
+            return refuse((whole ? translate("Script", "“%1” is no whole number")
+                                 : translate("Script", "“%1” is no number"))
                               .arg(word.text));
         m_line.arguments.push_back({word.text, false});
         return true;
@@ -309,7 +315,7 @@ QString problemOf(const ScriptLine &line)
     const auto &arguments = line.arguments;
     for (const ClosedWords &row : closedWords()) {
         if (row.command == line.command && !row.words.contains(arguments.back().text))
-            return translate("Script", "\"%1\" is none of %2")
+            return translate("Script", "“%1” is none of %2")
                 .arg(arguments.back().text, row.words.join(QStringLiteral(", ")));
     }
     if (line.command == ScriptCommand::Type && arguments.size() == 2
@@ -321,13 +327,13 @@ QString problemOf(const ScriptLine &line)
     if (line.command == ScriptCommand::Time
         && !QTime::fromString(arguments[0].text, QStringLiteral("H:mm")).isValid()
         && !QTime::fromString(arguments[0].text, QStringLiteral("H:mm:ss")).isValid())
-        return translate("Script", "\"%1\" is no time; write HH:MM or HH:MM:SS")
+        return translate("Script", "“%1” is no time; write HH:MM or HH:MM:SS")
             .arg(arguments[0].text);
     if (line.command == ScriptCommand::Select) {
         for (const QString &row : arguments[0].text.split(u',')) {
             bool isNumber = false;
             if (row.toInt(&isNumber) < 0 || !isNumber)
-                return translate("Script", "\"%1\" is no list of rows; write 1,2,5")
+                return translate("Script", "“%1” is no list of rows; write 1,2,5")
                     .arg(arguments[0].text);
         }
     }
@@ -335,7 +341,7 @@ QString problemOf(const ScriptLine &line)
         const bool isCell = arguments[0].text == QLatin1String("cell");
         if (!inspector::propertyNames().contains(arguments[0].text) && !isCell)
             return translate("Script", "%1; there are %2")
-                .arg(didYouMean(translate("Script", "\"%1\" is no property").arg(arguments[0].text),
+                .arg(didYouMean(translate("Script", "“%1” is no property").arg(arguments[0].text),
                                 arguments[0].text, inspector::propertyNames()),
                      inspector::propertyNames().join(QStringLiteral(", ")));
         if (arguments.size() != (isCell ? 4U : 2U))
@@ -363,7 +369,7 @@ QString readLine(const QString &text, ScriptLine &line)
     }
     if (!row)
         return translate("Script", "%1 (kelvo-print --help-scripts lists them)")
-            .arg(didYouMean(translate("Script", "there is no command \"%1\"").arg(shortened(name)),
+            .arg(didYouMean(translate("Script", "there is no command “%1”").arg(shortened(name)),
                             name, names));
 
     line.command = row->command;
@@ -474,6 +480,11 @@ Result<std::vector<ScriptLine>> readScript(const QString &path)
     if (!text)
         return text.error();
     return parseScript(text.value(), path);
+}
+
+ScriptEffects effectsOf(ScriptCommand command)
+{
+    return std::ranges::find(commandRows, command, &CommandRow::command)->effects;
 }
 
 std::vector<ScriptCommandHelp> scriptCommandHelp()

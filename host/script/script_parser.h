@@ -5,6 +5,7 @@
 #include "result.h"
 
 #include <QByteArray>
+#include <QFlags>
 #include <QString>
 
 #include <optional>
@@ -47,6 +48,20 @@ enum class ScriptCommand {
     Summary,
     Screenshot,
 };
+
+// What a command does with the windows. One that only looks, or goes where the keyboard is, does
+// none of it.
+enum class ScriptEffect {
+    InFront = 1, // the user's doing in the front window, as a click there is
+    // Reaches for what a modal dialog keeps from the user: panels that read, say, would take away
+    // the paper that the dialog is about.
+    BehindDialogs = 2,
+    MeetsNotice = 4, // looks at or deals with a notice that has just come up
+};
+Q_DECLARE_FLAGS(ScriptEffects, ScriptEffect)
+Q_DECLARE_OPERATORS_FOR_FLAGS(ScriptEffects)
+
+ScriptEffects effectsOf(ScriptCommand command);
 
 struct ScriptWord
 {

@@ -2,6 +2,7 @@
 
 #include "file_store.h"
 #include "inspector.h"
+#include "mnemonics.h"
 #include "modal_dialog.h"
 #include "nearest_name.h"
 #include "notice.h"
@@ -19,7 +20,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QMenu>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
@@ -67,27 +67,12 @@ void cancelDialog(QWidget *modal)
         dialog->reject();
 }
 
-// Whether the line reaches for what a modal dialog keeps from the user: panels that
-// read, say, would take away the paper that the dialog is about.
-bool isBehindDialogs(ScriptCommand command)
-{
-    return command == ScriptCommand::Panel || command == ScriptCommand::Tab
-        || command == ScriptCommand::Sync || command == ScriptCommand::Print;
-}
-
-// Whether the line looks at or deals with a notice that has just come up.
-bool meetsNotice(ScriptCommand command)
-{
-    return command == ScriptCommand::ExpectNotice || command == ScriptCommand::Answer;
-}
-
 // "1 Delete, 2 Cancel": what `answer` takes.
 QString answersOf(const ShownNotice &notice)
 {
     QStringList answers;
     for (const QString &button : notice.buttons)
-        answers
-            << QStringLiteral("%1 %2").arg(answers.size() + 1).arg(QString(button).remove(u'&'));
+        answers << QStringLiteral("%1 %2").arg(answers.size() + 1).arg(withoutMnemonic(button));
     return answers.join(QStringLiteral(", "));
 }
 
@@ -119,7 +104,10 @@ struct ScriptRunner::Private
     ScriptRunner *q;
     QTimer tick;
     QElapsedTimer contentWait;
-    QPointer<QWidget> answeredChooser; // closes once the event loop runs
+    QElapsedTimer popupWait;
+    bool hasClosedPopup = false;         // and the run ends with that
+    std::vector<std::size_t> performing; // lines, each in a loop that the one before it runs
+    QPointer<QWidget> answeredChooser;   // closes once the event loop runs
     std::size_t next = 0;
     QString metNotice;       // header and message of the notice that a line has met
     int printedBy = 0;       // line of the print that is on its way, 0 for none
@@ -135,7 +123,9 @@ struct ScriptRunner::Private
     LineDone expect(const ScriptLine &line, QWidget *control);
     LineDone expectTicket(const ScriptLine &line);
     LineDone screenshot(const QString &file);
-    bool checkMenu();
+    bool checkPopup();
+    void failForPopup();
+    bool isKeyForPopup() const;
     bool checkNotice();
     bool checkPrint();
     void finish();
@@ -145,6 +135,7 @@ struct ScriptRunner::Private
     void end(ExitStatus status);
     QWidget *openDialog() const; // the modal dialog or notice in front; null for none
     QWidget *front() const;
+    QWidget *withKeyboard() const;
     QString masked(const QString &text) const { return maskedText(text, target.secretValues()); }
 };
 
@@ -180,19 +171,35 @@ QWidget *ScriptRunner::Private::front() const
     return dialog ? dialog : target.window();
 }
 
+// The front window, but for the help: it stands before a window and takes nothing from it,
+// and has the keyboard until it is closed or something is done in the window.
+QWidget *ScriptRunner::Private::withKeyboard() const
+{
+    QWidget *window = front();
+    QWidget *active = lastActivated();
+    const bool isBefore = active && active->isVisible() && active->parentWidget() == window;
+    return isBefore ? active : window;
+}
+
 void ScriptRunner::Private::step()
 {
     if (hasEnded)
         return;
+    if (hasClosedPopup) {
+        failForPopup();
+        return;
+    }
     const std::optional<ExitStatus> closed = target.finished();
     if (closed && *closed != ExitStatus::Printed && !closedByLine) {
         end(*closed); // by a signal, by the user, or because nothing could be begun
         return;
     }
-    if (!checkMenu())
+    if (!checkPopup())
         return;
-    // A closed dialog may have been in the middle of something, and stay so.
-    if (!closed && (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown()))) {
+    // A closed dialog may have been in the middle of something, and stay so. The button of an
+    // open menu stays down.
+    if (!closed && !isKeyForPopup()
+        && (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown()))) {
         tick.start(busyWaitMs);
         return;
     }
@@ -229,29 +236,64 @@ void ScriptRunner::Private::run(const ScriptLine &line)
     // comes back only when that is closed, and the lines in between close it.
     tick.start(0);
     const bool wasOpen = !target.finished();
+    performing.push_back(next);
     const LineDone problem = perform(line);
+    performing.pop_back();
     if (wasOpen && target.finished())
         closedByLine = true;
     if (problem && !hasEnded)
         fail(line.number, *problem);
 }
 
-// Keys can open a menu, and its button stays down, and the dialog busy, until somebody
-// picks an item. A menu after another line is that of a user, who closes it.
-bool ScriptRunner::Private::checkMenu()
+// Whether the next line is a key for the menu or list that the line before has opened.
+bool ScriptRunner::Private::isKeyForPopup() const
 {
-    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    if (!menu || next == 0 || lines[next - 1].command != ScriptCommand::Key)
+    return QApplication::activePopupWidget() && next > 0 && next < lines.size()
+        && lines[next - 1].command == ScriptCommand::Key
+        && lines[next].command == ScriptCommand::Key;
+}
+
+// Keys can open a menu or the list of a pop-up; other lines cannot reach past it, and
+// without a user it would stay open for ever.
+bool ScriptRunner::Private::checkPopup()
+{
+    if (!QApplication::activePopupWidget() || isKeyForPopup()) {
+        popupWait.invalidate();
         return true;
-    while (menu) {
-        menu->close();
-        menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     }
-    fail(lines[next - 1].number,
-         wrong(translate("Script",
-                         "a menu has opened, which lines cannot pick from; \"item\" and "
-                         "\"choose\" pick its items while it is closed")));
+    if (next == 0 || lines[next - 1].command != ScriptCommand::Key) {
+        if (!popupWait.isValid())
+            popupWait.start();
+        if (popupWait.elapsed() < options.timeoutMs) {
+            tick.start(busyWaitMs);
+            return false;
+        }
+    }
+    while (QWidget *popup = QApplication::activePopupWidget()) {
+        if (!popup->close())
+            break;
+    }
+    hasClosedPopup = true;
+    popupWait.start();
+    tick.start(0);
     return false;
+}
+
+// The line that opened a menu is in the menu's own loop, and what it stands on must not go before
+// it has come back.
+void ScriptRunner::Private::failForPopup()
+{
+    const bool isUnderWay = !performing.empty() && performing.back() == next;
+    if (isUnderWay && popupWait.elapsed() < options.timeoutMs) {
+        tick.start(busyWaitMs);
+        return;
+    }
+    fail(lines.empty()   ? 0
+             : next == 0 ? lines.front().number
+                         : lines[next - 1].number,
+         wrong(translate("Script",
+                         "a menu or list is open; only “key” lines pick from it or close it, "
+                         "“item” and “choose” pick while it is closed")));
 }
 
 // A notice must be met by the line after the one that brought it up.
@@ -266,7 +308,7 @@ bool ScriptRunner::Private::checkNotice()
     if (now == metNotice)
         return true;
     const int at = next == 0 ? 0 : lines[next - 1].number;
-    if (next < lines.size() && meetsNotice(lines[next].command)) {
+    if (next < lines.size() && (effectsOf(lines[next].command) & ScriptEffect::MeetsNotice)) {
         metNotice = now;
         return true;
     }
@@ -311,12 +353,16 @@ bool ScriptRunner::Private::checkPrint()
 
 void ScriptRunner::Private::finish()
 {
+    if (options.leavesDialogsOpen) {
+        end(ExitStatus::Printed);
+        return;
+    }
     if (const QWidget *modal = openDialog(); modal && !target.finished()) {
         fail(lines.empty() ? 0 : lines.back().number,
              hasScript()
-                 ? wrong(translate("Script", "the script ends while the dialog \"%1\" is open")
+                 ? wrong(translate("Script", "the script ends while the dialog “%1” is open")
                              .arg(modal->windowTitle()))
-                 : unasked(translate("Script", "The dialog \"%1\" asks for more.")
+                 : unasked(translate("Script", "The dialog “%1” asks for more.")
                                .arg(modal->windowTitle())));
         return;
     }
@@ -372,16 +418,19 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
                                                                          : ExitStatus::WrongUsage;
         return LineProblem{status, error.text()};
     };
-    if (isBehindDialogs(line.command) && openDialog())
-        return wrong(translate("Script", "the dialog \"%1\" is open and must be closed first")
+    const ScriptEffects effects = effectsOf(line.command);
+    if ((effects & ScriptEffect::BehindDialogs) && openDialog())
+        return wrong(translate("Script", "the dialog “%1” is open and must be closed first")
                          .arg(front()->windowTitle()));
+    if ((effects & ScriptEffect::InFront) && withKeyboard() != front())
+        activate(front());
     switch (line.command) {
     case ScriptCommand::Panel:
         return done(target.showPanel(word(0)));
     case ScriptCommand::Tab:
         return done(target.showTab(word(0).toInt()));
     case ScriptCommand::Key:
-        return lineProblem(inspector::pressKey(front(), word(0)));
+        return lineProblem(inspector::pressKey(withKeyboard(), word(0)));
     case ScriptCommand::File:
         answeredChooser = front();
         return lineProblem(inspector::answerFileChooser(front(), word(0)));
@@ -427,7 +476,7 @@ LineDone ScriptRunner::Private::perform(const ScriptLine &line)
         const bool byName = !line.arguments[0].quoted && word(0).startsWith(u'@');
         const QString have = byName ? u'@' + window->objectName() : window->windowTitle();
         if (have != word(0))
-            return wrong(translate("Script", "the front window is \"%1\" (@%2)")
+            return wrong(translate("Script", "the front window is “%1” (@%2)")
                              .arg(window->windowTitle(), window->objectName()));
         return {};
     }
@@ -462,13 +511,12 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
         const QString name = line.control->text();
         const QString problem = window == target.window()
             ? translate("Script", "%1 is not in the window").arg(name)
-            : translate("Script", "%1 is not in the dialog \"%2\"")
-                  .arg(name, window->windowTitle());
+            : translate("Script", "%1 is not in the dialog “%2”").arg(name, window->windowTitle());
         if (const QString place = target.placeOfUnshown(*line.control); !place.isEmpty())
             return LineProblem{ExitStatus::NotOffered, joined({problem, place})};
         const QString nearest = inspector::nearestControl(window, *line.control);
         return wrong(nearest.isEmpty()
-                         ? translate("Script", "%1; \"controls\" lists what is").arg(problem)
+                         ? translate("Script", "%1; “controls” lists what is").arg(problem)
                          : didYouMean(problem, name, {nearest}));
     }
     QWidget *control = found.control;
@@ -507,8 +555,8 @@ LineDone ScriptRunner::Private::withControl(const ScriptLine &line)
             return lineProblem(inspector::type(control, word(0)));
         const auto secret = target.secret(word(1));
         if (!secret)
-            return wrong(translate("Script", "there is no secret \"%1\"; give --secret %1=FILE")
-                             .arg(word(1)));
+            return wrong(
+                translate("Script", "there is no secret “%1”; give --secret %1=FILE").arg(word(1)));
         return lineProblem(inspector::typeSecret(control, *secret));
     }
     case ScriptCommand::Set:
@@ -554,10 +602,9 @@ LineDone ScriptRunner::Private::expect(const ScriptLine &line, QWidget *control)
                          .arg(line.control->text(), have.value(), wanted));
     const bool isText = name == QLatin1String("text") || name.startsWith(QLatin1String("cell "));
     if (isText && inspector::isSecret(control) && !wanted.isEmpty())
-        return wrong(
-            translate("Script", "%1 of %2 is \"%3\"; of a secret only \"%4\" or \"\" is told")
-                .arg(name, line.control->text(), have.value(), kMask));
-    return wrong(translate("Script", "%1 of %2 is \"%3\", not \"%4\"")
+        return wrong(translate("Script", "%1 of %2 is “%3”; of a secret only “%4” or “” is told")
+                         .arg(name, line.control->text(), have.value(), kMask));
+    return wrong(translate("Script", "%1 of %2 is “%3”, not “%4”")
                      .arg(name, line.control->text(), isText ? masked(have.value()) : have.value(),
                           isText ? masked(wanted) : wanted));
 }
@@ -609,12 +656,12 @@ LineDone ScriptRunner::Private::expectTicket(const ScriptLine &line)
     if (shown.size() > mostShown)
         shown = translate("Script", "%1… (cut)").arg(shown.left(mostShown));
     if (wantsAbsent)
-        return wrong(translate("Script", "%1 is there: \"%2\"").arg(name, shown));
+        return wrong(translate("Script", "%1 is there: “%2”").arg(name, shown));
     return wrong(
         holdsSecret
-            ? translate("Script", "%1 is \"%2\", not what this line says; a secret is not told")
+            ? translate("Script", "%1 is “%2”, not what this line says; a secret is not told")
                   .arg(name, shown)
-            : translate("Script", "%1 is \"%2\", not \"%3\"").arg(name, shown, shownWanted));
+            : translate("Script", "%1 is “%2”, not “%3”").arg(name, shown, shownWanted));
 }
 
 LineDone ScriptRunner::Private::screenshot(const QString &file)
@@ -631,7 +678,7 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
     if (written)
         return {};
     return LineProblem{ExitStatus::Failed,
-                       joined({translate("Script", "the picture \"%1\" cannot be written (%2)")
+                       joined({translate("Script", "the picture “%1” cannot be written (%2)")
                                    .arg(file, written.error().detail),
                                writingAdvice(written.error().number)})};
 }

@@ -23,6 +23,10 @@ public:
     {
         QString file;            // begins every message; empty: there is no script
         bool printAtEnd = false; // --print
+        // How long a menu may stay open that no key has opened: it is a user's, who closes it.
+        int timeoutMs = 30000;
+        // Dialogs may be open at the end, for whoever takes ended() to look at and to close.
+        bool leavesDialogsOpen = false;
     };
     ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, Options options,
                  QObject *parent = nullptr);

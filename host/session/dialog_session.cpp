@@ -91,7 +91,7 @@ void DialogSession::begin()
     const auto begun = m_job.beginOn(
         {m_search.name(), m_search.ppd(), printer ? printer->defaults : QMap<QString, QString>()});
     if (!begun) {
-        emit refused(begun.error().text());
+        emit refused(begun.error());
         return;
     }
     beginPanels();
@@ -136,10 +136,10 @@ void DialogSession::beginPanels()
     QString works;
     if (m_search.ppd()) {
         why = whyNoPanels();
-        works = tr("Copies, pages, paper and orientation work as usual.");
+        works = tr("Copies, pages, paper size and orientation work as usual.");
     } else {
         why = m_search.noPpdReason();
-        works = tr("Copies and pages work as usual. Paper, orientation and collating are "
+        works = tr("Copies and pages work as usual. Paper size, orientation and collating are "
                    "passed on; whether they are heeded is up to the printer.");
     }
     if (!hasPanels())

@@ -67,9 +67,9 @@ signals:
     void stageChanged();
     void documentChanged();
     void reloaded(); // every setting may have changed
-    // An option that was asked for is one that this device cannot do: a sentence. The
-    // session goes no further.
-    void refused(const QString &message);
+    // An option that was asked for is one that this device cannot do, or that there is not
+    // (Unsupported). The session goes no further.
+    void refused(const kelvo::Error &error);
 
 private:
     void takeSearch();

@@ -125,7 +125,7 @@ void PrinterSearch::takePrinters(const QList<Printer> &printers)
         emit printersChanged();
         setState(State::Stuck,
                  {tr("There is no printer"),
-                  tr("Add one in the system's printer settings, then try again."), true});
+                  tr("Add one in the system’s printer settings, then try again."), true});
         return;
     }
     if (m_name.isEmpty()) {

@@ -99,7 +99,7 @@ TicketFile SessionJob::queueDefaults()
             if ((ppd() && ppd()->findOption(option.key())) != ofPpd)
                 continue;
             // Most of what the server lists is no setting of a job: passed over.
-            static_cast<void>(bool(applyOption(option.key(), option.value(), ppd(), *m_session)));
+            static_cast<void>(bool(applyOption({option.key(), option.value()}, ppd(), *m_session)));
         }
     }
     return ticketFileFrom(*m_session);
@@ -149,12 +149,23 @@ void SessionJob::ask(const TicketFile &file, AskedSettings::Kind kind)
 
 // An option may mean several settings, and change one by another: it is tried on what
 // is wanted so far.
-Result<void> SessionJob::askForOption(const QString &name, const QString &value)
+Result<void> SessionJob::askForOption(const AskedOption &option)
 {
     load(m_edits.asked.wanted(), *m_session);
-    const auto places = applyOption(name, value, ppd(), *m_session);
-    if (!places)
-        return places.error();
+    const auto places = applyOption(option, ppd(), *m_session);
+    if (!places) {
+        Error error = places.error();
+        // No slip of the pen, where another of these devices has it.
+        const auto isElsewhere = [this](const QString &name) {
+            return m_describer.knowsOption(name);
+        };
+        if (error.code == Error::Code::Unsupported
+            && isElsewhere(meaningOf(option, isElsewhere).name)) {
+            error.code = Error::Code::Refused;
+            error.detail = translate("Job", "this printer does not have this option");
+        }
+        return error;
+    }
     m_edits.asked.lay(part(ticketFileFrom(*m_session), places.value()),
                       AskedSettings::Kind::Chosen);
     return {};
@@ -186,8 +197,8 @@ Result<void> SessionJob::askFirst()
         ask(*m_wishes.preset, Kind::Chosen);
     if (const auto &ticket = m_wishes.ticketIn) // of a whole one nobody chose all
         ask(*ticket, ticket->isPart ? Kind::Chosen : Kind::Given);
-    for (const auto &[name, value] : m_wishes.options) {
-        if (auto asked = askForOption(name, value); !asked)
+    for (const AskedOption &option : m_wishes.options) {
+        if (auto asked = askForOption(option); !asked)
             return asked;
     }
     if (m_wishes.copies)

@@ -34,9 +34,9 @@ public:
     struct Wishes
     {
         std::optional<TicketFile> preset, ticketIn;
-        QList<QPair<QString, QString>> options = {}; // NAME, VALUE, see applyOption()
-        std::optional<int> copies;                   // 1 to kMaximumCopies
-        std::optional<QString> pages;                // "1-3,7"; empty: all
+        QList<AskedOption> options = {}; // see applyOption()
+        std::optional<int> copies;       // 1 to kMaximumCopies
+        std::optional<QString> pages;    // "1-3,7"; empty: all
     };
     // Borrowed: the bundle says what of tickets is secret and what it means, `panels`
     // read and write them. Null for both: none.
@@ -129,7 +129,7 @@ private:
     Result<void> askFirst();
     void askForSiteDefaults();
     void ask(const TicketFile &file, AskedSettings::Kind kind);
-    Result<void> askForOption(const QString &name, const QString &value);
+    Result<void> askForOption(const AskedOption &option);
     void askForCopies(int copies);
     void askForPages(const QString &pages);
     void layAsked();

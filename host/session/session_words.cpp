@@ -3,6 +3,7 @@
 #include "dialog_session.h"
 #include "session_cautions.h"
 #include "sheet_sequence.h"
+#include "texts.h"
 
 namespace kelvo {
 
@@ -26,7 +27,8 @@ QString pagesProblem(const DialogSession &session)
     if (pages)
         return {};
     const QString detail = pages.error().detail;
-    return detail.left(1).toUpper() + detail.mid(1) + u'.';
+    return translate("Session", "%1.", "a clause that stands alone")
+        .arg(detail.left(1).toUpper() + detail.mid(1));
 }
 
 QString jobInShort(DialogSession &session)

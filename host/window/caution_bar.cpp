@@ -1,5 +1,6 @@
 #include "caution_bar.h"
 
+#include "accessible_role.h"
 #include "caution_colours.h"
 #include "notice_sign.h"
 #include "texts.h"
@@ -45,9 +46,10 @@ CautionBar::CautionBar(QWidget *parent)
     , m_grid(new QGridLayout(this))
     , m_buttons(new QHBoxLayout)
     , m_fix(new QPushButton(tr("Fi&x"), this))
-    , m_details(new QPushButton(tr("Detai&ls"), this))
-    , m_hide(new QPushButton(tr("Hi&de"), this))
+    , m_details(new QPushButton(tr("Details"), this))
+    , m_hide(new QPushButton(tr("Hide"), this))
 {
+    setAccessibleRole(this, QAccessible::Notification);
     setObjectName(QStringLiteral("conflictBar"));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -66,6 +68,7 @@ CautionBar::CautionBar(QWidget *parent)
     for (std::size_t i = 0; i < mostRows; ++i) {
         Row &row = m_rows[i];
         row = {new QLabel(this), new QLabel(this)};
+        setAccessibleRole(row.sign, QAccessible::Graphic);
         row.text->setObjectName(i == 0 ? QStringLiteral("conflictText")
                                        : QStringLiteral("cautionText%1").arg(i + 1));
         row.text->setTextFormat(Qt::PlainText);
@@ -94,8 +97,7 @@ void CautionBar::setContents(const ConflictReport &report, const std::vector<Cau
         ? tr("Fix: %1").arg(m_report.fixWords.front())
         : tr("Changes the settings so that they can be used together");
     m_fix->setVisible(isFixable);
-    m_fix->setToolTip(plainToolTip(fixes));
-    m_fix->setAccessibleDescription(fixes);
+    setPlainToolTip(m_fix, fixes);
     showLines();
 }
 
@@ -148,8 +150,19 @@ void CautionBar::showLines()
         row.text->setWordWrap(isAlone);
         row.text->setSizePolicy(policy);
     }
-    setVisible(!m_lines.empty());
+    tell();
     elide();
+}
+
+// To whoever does not see it, too.
+void CautionBar::tell()
+{
+    QStringList texts;
+    for (const Line &line : m_lines)
+        texts << line.whole;
+    const QString told = accessibleName();
+    setAccessibleName(texts.join(u'\n'));
+    showNotification(this, !m_lines.empty(), accessibleName() != told);
 }
 
 // It belongs to its row, and stands with the other buttons where that is the first.
@@ -174,7 +187,7 @@ void CautionBar::elide()
         const bool hasRoom = metrics.horizontalAdvance(m_lines[i].whole) <= room;
         const QString &text = hasRoom ? m_lines[i].whole : m_lines[i].text;
         label->setText(metrics.elidedText(text, Qt::ElideRight, room));
-        label->setToolTip(hasRoom ? QString() : plainToolTip(m_lines[i].whole));
+        setPlainToolTip(label, hasRoom ? QString() : m_lines[i].whole);
     }
 }
 

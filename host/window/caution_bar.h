@@ -50,6 +50,7 @@ private:
     void showDetails();
     void putAway();
     void showLines();
+    void tell();
     void placeHide(std::size_t row);
     void elide();
     void colour();

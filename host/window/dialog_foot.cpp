@@ -1,5 +1,6 @@
 #include "dialog_foot.h"
 
+#include "button_row.h"
 #include "tool_tip.h"
 
 #include <QHBoxLayout>
@@ -35,7 +36,6 @@ DialogFoot::DialogFoot(QWidget *toggle, QWidget *parent)
     m_progress->setMaximumHeight(8);
     m_progress->setAccessibleName(tr("Printing"));
     m_progress->hide();
-    m_print->setAutoDefault(true);
     m_cancel->setAccessibleName(tr("Cancel printing"));
 
     auto *textRow = new QHBoxLayout;
@@ -43,33 +43,29 @@ DialogFoot::DialogFoot(QWidget *toggle, QWidget *parent)
     textRow->addWidget(toggle);
     textRow->addWidget(m_text, 1);
     textRow->addWidget(m_progress);
+    setOwnToolTip(m_details, tr("All settings of the job in words, before it is printed"));
     textRow->addWidget(m_details);
-    auto *buttonRow = new QHBoxLayout;
-    buttonRow->setSpacing(8);
-    buttonRow->addWidget(m_help);
-    buttonRow->addStretch(1);
-    buttonRow->addWidget(m_cancel);
-    buttonRow->addWidget(m_print);
+    auto *buttons = new ButtonRow(this);
+    buttons->setButtons({m_help}, {m_cancel, m_print});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
     layout->addLayout(textRow);
-    layout->addLayout(buttonRow);
+    layout->addWidget(buttons);
 }
 
 QPushButton *DialogFoot::button(const char *name, const QString &text)
 {
     auto *made = new QPushButton(text, this);
     made->setObjectName(QString::fromLatin1(name));
-    // Return presses no button but Print.
-    made->setAutoDefault(false);
+    made->setAutoDefault(false); // the window says which is the default one
     return made;
 }
 
 void DialogFoot::setText(const QString &text)
 {
     m_text->setText(text);
-    m_text->setToolTip(plainToolTip(text));
+    setPlainToolTip(m_text, text);
 }
 
 void DialogFoot::setBusy(bool busy)

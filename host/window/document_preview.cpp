@@ -1,9 +1,11 @@
 #include "document_preview.h"
 
+#include "accessible_role.h"
 #include "booklet_imposition.h"
 #include "caution_colours.h"
 #include "page_placement.h"
 #include "preview_captions.h"
+#include "tool_tip.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -532,6 +534,7 @@ DocumentPreview::DocumentPreview(QWidget *parent)
     , d(std::make_unique<Private>())
 {
     d->sheet = new SheetView(this);
+    setAccessibleRole(d->sheet, QAccessible::Graphic);
     d->sheet->setObjectName(QStringLiteral("previewSheet"));
     d->sheet->setAccessibleName(tr("Preview"));
     d->sheet->setFocusPolicy(Qt::StrongFocus);
@@ -540,19 +543,19 @@ DocumentPreview::DocumentPreview(QWidget *parent)
     d->sheet->changed = [this] { d->request(); };
     setFocusProxy(d->sheet);
 
-    const auto button = [this](const char *name, Qt::ArrowType arrow, const QString &text, int by) {
+    const auto button = [this](const char *name, const QString &text, int by) {
         auto *made = new QToolButton(this);
         made->setObjectName(QLatin1String(name));
-        made->setArrowType(arrow);
+        made->setArrowType((by > 0) != isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
         made->setAutoRaise(true);
         made->setAccessibleName(text);
-        made->setToolTip(text);
+        setOwnToolTip(made, text);
         made->setAutoRepeat(true);
         connect(made, &QToolButton::clicked, this, [this, by] { d->step(by); });
         return made;
     };
-    d->previous = button("previewPrevious", Qt::LeftArrow, tr("Previous page"), -1);
-    d->next = button("previewNext", Qt::RightArrow, tr("Next page"), 1);
+    d->previous = button("previewPrevious", tr("Previous page"), -1);
+    d->next = button("previewNext", tr("Next page"), 1);
 
     d->caption = new QLabel(this);
     d->caption->setObjectName(QStringLiteral("previewPage"));

@@ -1,14 +1,15 @@
 #include "job_details_dialog.h"
 
+#include "button_row.h"
 #include "modal_dialog.h"
 #include "summary_view.h"
 #include "tab_control.h"
 #include "texts.h"
+#include "tool_tip.h"
 
 #include <QClipboard>
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -38,13 +39,11 @@ QString wordsText(const JobWords &words)
         : text.trimmed();
 }
 
-SummaryView *textView(const QString &name, const QString &label, const QString &text,
-                      QWidget *parent)
+SummaryView *textView(const QString &name, const QString &label, QWidget *parent)
 {
     auto *view = new SummaryView(parent);
     view->setObjectName(name);
     view->setAccessibleName(label);
-    view->setSummary(text);
     return view;
 }
 
@@ -54,6 +53,7 @@ QWidget *makeJobDetailsPane(const JobWords &words)
 {
     auto *content = new QWidget;
     content->setObjectName(QStringLiteral("jobDetailsDialog"));
+    content->setProperty("helpPage", QStringLiteral("host/sending.html"));
     content->setWindowTitle(translate("JobDetails", "What Will Be Sent"));
 
     auto *tabs = new TabControl(content);
@@ -62,12 +62,14 @@ QWidget *makeJobDetailsPane(const JobWords &words)
     tabs->setExpanding(false);
     tabs->setTitles({translate("JobDetails", "In Words"), translate("JobDetails", "Ticket")});
     auto *pages = new QStackedWidget(content);
-    auto *inWords = textView(QStringLiteral("jobWords"),
-                             translate("JobDetails", "Settings in words"), wordsText(words), pages);
-    auto *ticket = textView(QStringLiteral("jobTicket"), translate("JobDetails", "Ticket"),
-                            words.ticket.join(u'\n'), pages);
+    auto *inWords =
+        textView(QStringLiteral("jobWords"), translate("JobDetails", "Settings in words"), pages);
+    inWords->setSummary(wordsText(words));
+    auto *ticket = textView(QStringLiteral("jobTicket"), translate("JobDetails", "Ticket"), pages);
     ticket->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     ticket->setLineWrapMode(QPlainTextEdit::NoWrap);
+    ticket->setLayoutDirection(Qt::LeftToRight); // code in any language
+    ticket->setSummary(words.ticket.join(u'\n'));
     ticket->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     for (SummaryView *view : {inWords, ticket}) {
         view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -75,28 +77,26 @@ QWidget *makeJobDetailsPane(const JobWords &words)
                              view->fontMetrics().lineSpacing() * 22);
         pages->addWidget(view);
     }
-    auto *copy = new QPushButton(translate("JobDetails", "&Copy"), content);
+    auto *buttons = new ButtonRow(content);
+    auto *copy = new QPushButton(translate("JobDetails", "&Copy"), buttons);
     copy->setObjectName(copyName);
-    copy->setToolTip(translate("JobDetails", "Copies the text that is shown"));
-    auto *close = new QPushButton(translate("JobDetails", "Close"), content);
+    setOwnToolTip(copy, translate("JobDetails", "Copies the text that is shown"));
+    auto *close = new QPushButton(translate("JobDetails", "Close"), buttons);
     close->setObjectName(QStringLiteral("close"));
     close->setProperty("command", QStringLiteral("ok  "));
     sendControlEvents(copy);
     sendControlEvents(close);
+    buttons->arrange();
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(copy);
-    buttons->addStretch(1);
-    buttons->addWidget(close);
     auto *viewLayout = new QVBoxLayout;
     viewLayout->setSpacing(0);
     viewLayout->addWidget(tabs);
     viewLayout->addWidget(pages, 1);
     auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(14, 12, 14, 14);
-    layout->setSpacing(12);
+    layout->setContentsMargins(20, 20, 20, 20);
+    layout->setSpacing(16);
     layout->addLayout(viewLayout, 1);
-    layout->addLayout(buttons);
+    layout->addWidget(buttons);
     return content;
 }
 

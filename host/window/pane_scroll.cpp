@@ -82,6 +82,12 @@ void PaneScroll::resizeEvent(QResizeEvent *event)
     updateScrollBar();
 }
 
+void PaneScroll::showEvent(QShowEvent *event)
+{
+    QScrollArea::showEvent(event);
+    updateScrollBar(); // nothing was seen of what is in it
+}
+
 bool PaneScroll::eventFilter(QObject *watched, QEvent *event)
 {
     // Of the scroll bar, and of panels that ask for more than before: a scroll

@@ -9,6 +9,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace kelvo {
 
 namespace {
@@ -94,6 +96,17 @@ Result<void> PanelPlaces::showTab(int number)
                      .arg(names.join(QStringLiteral(", ")))};
 }
 
+bool PanelPlaces::goTo(const QWidget *control, const Extension &panels)
+{
+    const auto &all = panels.panels();
+    const auto panel = std::ranges::find_if(
+        all, [control](const Extension::Panel &one) { return one.pane->isAncestorOf(control); });
+    if (panel == all.end())
+        return false;
+    m_switch->setCurrentIndex(int(panel - all.begin()));
+    return true;
+}
+
 void PanelPlaces::showSwitch(const Extension *panels)
 {
     const QSignalBlocker silence(m_switch);
@@ -134,7 +147,7 @@ QString PanelPlaces::placeOf(const inspector::ControlName &control, const Extens
     const DescribedWindow &window = windows.front();
     return namesOf(panels).contains(window.name)
         ? translate("Window", "it is in panel %1").arg(window.name)
-        : translate("Window", "it is in the dialog \"%1\"")
+        : translate("Window", "it is in the dialog “%1”")
               .arg(window.title.isEmpty() ? window.name : window.title);
 }
 

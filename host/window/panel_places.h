@@ -24,6 +24,8 @@ public:
     // Errors name what there is.
     Result<void> showPanel(Extension &panels, const QString &name); // or one of the shell's tabs
     Result<void> showTab(int number);
+    // Whether `control` is on one of them, which is in front then; its tab is the shell's to show.
+    bool goTo(const QWidget *control, const Extension &panels);
     // "it is in tab 4, Advanced"; empty for a control of no panel.
     static QString placeOf(const QWidget *control, const Extension &panels);
     // The same of a control that is not built yet, as the bundle describes it: "it is in panel

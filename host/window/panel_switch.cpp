@@ -84,7 +84,7 @@ void PanelSwitch::paintEvent(QPaintEvent *)
     painter.setPen(line);
     painter.drawPath(shape);
     if (hasFocus()) {
-        painter.setPen(QPen(colours.color(QPalette::HighlightedText), 1, Qt::DotLine));
+        painter.setPen(QPen(colours.color(QPalette::HighlightedText), 2));
         painter.drawRoundedRect(QRectF(tabRect(currentIndex())).adjusted(3.5, 3.5, -3.5, -3.5),
                                 cornerRadius - 2, cornerRadius - 2);
     }

@@ -1,11 +1,13 @@
 #include "preset_menu.h"
 
+#include "button_row.h"
 #include "input_limits.h"
 #include "menu_button.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "popup_button.h"
 #include "session_job.h"
+#include "tool_tip.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -28,7 +30,7 @@ constexpr int maximumNameLength = 60; // characters; what a menu shows
 
 QString defaultsName()
 {
-    return PresetMenu::tr("Default Settings");
+    return PresetMenu::tr("Default settings");
 }
 
 // A preset may have 100 MB, which takes seconds to read and to write.
@@ -67,6 +69,7 @@ QWidget *makePresetNamePane(const QString &title, const QString &ok, const QStri
 {
     auto *content = new QWidget;
     content->setObjectName(QStringLiteral("presetNameDialog"));
+    content->setProperty("helpPage", QStringLiteral("host/presets.html"));
     content->setWindowTitle(title);
     auto *label = new QLabel(PresetMenu::tr("&Name:"), content);
     auto *field = new QLineEdit(name, content);
@@ -79,30 +82,27 @@ QWidget *makePresetNamePane(const QString &title, const QString &ok, const QStri
     label->setBuddy(field);
     auto *secrets = new QCheckBox(PresetMenu::tr("&Keep passcodes in this preset"), content);
     secrets->setObjectName(QStringLiteral("keepPasscodes"));
-    secrets->setToolTip(PresetMenu::tr("Whoever can read the preset can read them"));
+    setOwnToolTip(secrets, PresetMenu::tr("Whoever can read the preset can read them"));
     secrets->setVisible(asksForSecrets);
-    auto *cancelButton = new QPushButton(PresetMenu::tr("Cancel"), content);
+    auto *buttons = new ButtonRow(content);
+    auto *cancelButton = new QPushButton(PresetMenu::tr("Cancel"), buttons);
     cancelButton->setObjectName(QStringLiteral("cancel"));
     cancelButton->setProperty("command", QStringLiteral("not!"));
-    auto *okButton = new QPushButton(ok, content);
+    auto *okButton = new QPushButton(ok, buttons);
     okButton->setObjectName(QStringLiteral("ok"));
     okButton->setProperty("command", QStringLiteral("ok  "));
     for (QWidget *control :
          std::initializer_list<QWidget *>{field, secrets, cancelButton, okButton})
         sendControlEvents(control);
+    buttons->arrange();
 
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
-    buttons->addStretch(1);
-    buttons->addWidget(cancelButton);
-    buttons->addWidget(okButton);
     auto *grid = new QGridLayout(content);
-    grid->setContentsMargins(16, 16, 16, 16);
+    grid->setContentsMargins(20, 20, 20, 20);
     grid->setVerticalSpacing(10);
     grid->addWidget(label, 0, 0);
     grid->addWidget(field, 0, 1);
     grid->addWidget(secrets, 1, 1);
-    grid->addLayout(buttons, 2, 0, 1, 2);
+    grid->addWidget(buttons, 2, 0, 1, 2);
     return content;
 }
 
@@ -155,10 +155,12 @@ PresetMenu::PresetMenu(SessionJob &job, const QString &chosen, QWidget *parent)
     , m_button(new MenuButton(this))
 {
     m_popup->setObjectName(QStringLiteral("preset"));
+    m_popup->setChoosesInListOnly(true); // each is laid over the settings made till then
+    setOwnToolTip(m_popup, tr("A star means that settings have changed since it was chosen."));
     m_button->setObjectName(QStringLiteral("presetMenu"));
     m_button->setText(QStringLiteral("…"));
     m_button->setAccessibleName(tr("Preset actions"));
-    m_button->setToolTip(tr("Save, rename or delete presets"));
+    setOwnToolTip(m_button, tr("Save, rename or delete presets"));
     // Three dots and the arrow of a menu; a button's usual width would take the
     // names' room.
     m_button->setMaximumWidth(m_button->fontMetrics().horizontalAdvance(u'…')

@@ -1,5 +1,6 @@
 #include "print_dialog.h"
 
+#include "accessible_role.h"
 #include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
@@ -63,6 +64,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     , m_choices(this, m_session->job())
     , m_presets(new PresetMenu(m_session->job(), options.preset))
 {
+    setAccessibleRole(this, QAccessible::Dialog);
     setObjectName(QStringLiteral("printDialog"));
     setPrintWindow(this);
     setWindowButtons(this, m_parts.foot->print(), m_parts.foot->cancel());
@@ -92,8 +94,11 @@ PrintDialog::PrintDialog(DialogOptions options)
         m_choices.note(event);
         m_look.start();
     });
+    connect(qApp, &QApplication::focusChanged, this, [this] { showDefaultButton(); });
+    showDefaultButton();
     connect(&m_flow, &PrintFlow::started, this, [this] {
         m_look.stop();
+        m_printingSince.start();
         showPrinting(true);
         m_parts.foot->cancel()->setFocus();
     });
@@ -111,9 +116,10 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
     connect(m_session.get(), &DialogSession::reloaded, this, &PrintDialog::takeSettings);
-    connect(m_session.get(), &DialogSession::refused, this, [this](const QString &message) {
-        printLine(stderr, QStringLiteral("kelvo-print: ") + message);
-        end(ExitStatus::NotOffered);
+    connect(m_session.get(), &DialogSession::refused, this, [this](const Error &error) {
+        printLine(stderr, QStringLiteral("kelvo-print: ") + error.text());
+        end(error.code == Error::Code::Unsupported ? ExitStatus::WrongUsage
+                                                   : ExitStatus::NotOffered);
     });
 
     connect(m_parts.printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
@@ -125,9 +131,14 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     // Installed first, so asked last: the shell shows the tab and passes the command on.
     m_handler = installEventHandler(this, [this](const Event &event) -> OSStatus {
+        if (event.kind == EventKind::ShowControl)
+            showPanelOf(event.source);
         const bool isTab = event.kind == EventKind::Command
             && (event.command == kNextTab || event.command == kPreviousTab);
-        return isTab && panels() ? noErr : eventNotHandledErr;
+        if (!isTab || !panels())
+            return eventNotHandledErr;
+        m_parts.columns->showRight();
+        return noErr;
     });
     connect(m_parts.printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
     connect(m_parts.panelSwitch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
@@ -157,26 +168,40 @@ PrintDialog::PrintDialog(DialogOptions options)
 PrintDialog::~PrintDialog()
 {
     watchEvents({});
-    m_session->stop(); // before the panes that its panels stand in
+    disconnect(qApp, nullptr, this, nullptr); // the focus goes with the window, after the members
+    m_session->stop();                        // before the panes that its panels stand in
 }
 
 void PrintDialog::addShortcuts()
 {
     const auto add = [this](const QKeySequence &keys, auto &&action) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+        auto *shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this, action);
+        return shortcut;
     };
     for (int i = 0; i < 9; ++i)
-        add(QKeySequence(int(Qt::ALT) | (int(Qt::Key_1) + i)), [this, i] {
-            if (m_parts.panelSwitch->isVisibleTo(this) && i < m_parts.panelSwitch->count())
-                m_parts.panelSwitch->setCurrentIndex(i);
-        });
-    add(Qt::CTRL | Qt::Key_PageUp, [this] { sendCommand(this, kPreviousTab); });
-    add(Qt::CTRL | Qt::Key_PageDown, [this] { sendCommand(this, kNextTab); });
+        m_panelKeys.push_back(add(QKeySequence(int(Qt::ALT) | (int(Qt::Key_1) + i)), [this, i] {
+            m_parts.columns->showRight();
+            m_parts.panelSwitch->setCurrentIndex(i);
+        }));
+    m_tabKeys = {add(Qt::CTRL | Qt::Key_PageUp, [this] { sendCommand(this, kPreviousTab); }),
+                 add(Qt::CTRL | Qt::Key_PageDown, [this] { sendCommand(this, kNextTab); })};
     add(Qt::CTRL | Qt::Key_P, [this] { pressPrint(); });
     add(Qt::Key_F1, [this] { showHelp(); });
     add(Qt::Key_F6, [this] { m_parts.goToRegion(true); });
     add(Qt::SHIFT | Qt::Key_F6, [this] { m_parts.goToRegion(false); });
     add(Qt::Key_F9, [this] { m_parts.columns->toggle()->click(); });
+}
+
+// A key that would do nothing is left to others.
+void PrintDialog::enableShortcuts()
+{
+    const PanelSwitch *panelSwitch = m_parts.panelSwitch;
+    const int offered = panelSwitch->isHidden() ? 0 : panelSwitch->count();
+    for (std::size_t i = 0; i < m_panelKeys.size(); ++i)
+        m_panelKeys[i]->setEnabled(int(i) < offered);
+    for (QShortcut *key : m_tabKeys)
+        key->setEnabled(panels() != nullptr);
 }
 
 void PrintDialog::changeEvent(QEvent *event)
@@ -238,6 +263,7 @@ void PrintDialog::takeStage()
     if (shown)
         m_places.goTo(m_place, *shown);
     m_places.showSwitch(shown);
+    enableShortcuts();
     m_parts.printer->setSettingsEnabled(isReady());
     if (!isReady())
         m_parts.cautionBar->setContents({}, {});
@@ -355,6 +381,14 @@ void PrintDialog::showPanelAt(int index)
     m_look.start();
 }
 
+void PrintDialog::showPanelOf(QWidget *control)
+{
+    if (!panels() || !m_places.goTo(control, *panels()))
+        return;
+    m_parts.columns->showRight();
+    m_parts.scroll->ensureWidgetVisible(control);
+}
+
 void PrintDialog::changeSettings()
 {
     if (!isReady())
@@ -421,10 +455,19 @@ void PrintDialog::showHelp()
     if (const Extension *shown = panels(); shown && shown->shownPanel() >= 0)
         event.source = shown->panels()[static_cast<std::size_t>(shown->shownPanel())].pane;
     if (sendEvent(event) == eventNotHandledErr)
-        kelvo::showHelp({}, this);
+        kelvo::showHelp(helpPageOf(event.source), this);
 }
 
 // ---- print
+
+// The mark of a default button says what Return presses: another button that has the focus is
+// that itself.
+void PrintDialog::showDefaultButton()
+{
+    QPushButton *print = m_parts.foot->print();
+    const auto *focus = qobject_cast<QPushButton *>(focusWidget());
+    print->setDefault(!focus || focus == print);
+}
 
 QString PrintDialog::unfinishedPages() const
 {
@@ -477,8 +520,7 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
 {
     if (refusal.step == PrintRefusal::Step::Pages)
         m_parts.printer->focusPages();
-    if (refusal.step == PrintRefusal::Step::Conflicts)
-        m_look.start();
+    m_look.start(); // what was typed last counts now, and conflicts may be found
     if (refusal.step == PrintRefusal::Step::Job) {
         showPrinting(false);
         m_parts.foot->print()->setFocus();
@@ -571,7 +613,25 @@ void PrintDialog::keyPressEvent(QKeyEvent *event)
         m_parts.foot->cancel()->click();
         return;
     }
-    QWidget::keyPressEvent(event);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || event->modifiers() & ~Qt::KeypadModifier)
+        QWidget::keyPressEvent(event);
+    else if (!event->isAutoRepeat()) // held down, it would go on with whatever comes next
+        pressReturn();
+}
+
+// As in every dialog: the button that has the focus, else the default one.
+void PrintDialog::pressReturn()
+{
+    // Cancel has the focus while there is nothing else to give it to. The second half of a double
+    // press on Print is not meant for it, nor is what comes before the printer is there.
+    const bool isMeantForPrint = m_flow.isPrinting()
+        ? !m_printingSince.hasExpired(QApplication::doubleClickInterval())
+        : m_session->stage() == DialogSession::Stage::Searching;
+    if (isMeantForPrint && focusWidget() == m_parts.foot->cancel())
+        return;
+    if (!pressFocusedButton(this))
+        pressPrint();
 }
 
 // ---- how it is laid out

@@ -11,8 +11,13 @@
 #include "sent_message.h"
 #include "session_cautions.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
+
+#include <vector>
+
+class QShortcut;
 
 namespace kelvo {
 
@@ -83,6 +88,7 @@ protected:
 
 private:
     void addShortcuts();
+    void enableShortcuts();
 
     // The session tells.
     void showPrinters();
@@ -92,6 +98,7 @@ private:
 
     // The user tells.
     void showPanelAt(int index);
+    void showPanelOf(QWidget *control);
     void changeSettings();
     void lookAtSettings();  // writes, checks, and shows what follows
     void showWhatFollows(); // all but conflicts
@@ -100,6 +107,8 @@ private:
     void showHelp();
 
     // Print.
+    void pressReturn();
+    void showDefaultButton();
     void print();
     bool fixesConflicts(const QString &header, const ConflictReport &report) override;
     bool printsAnyway(const Caution &caution) override;
@@ -134,6 +143,7 @@ private:
     bool m_hasLooked = false; // at the settings of any printer
     bool m_isDriven = false;
     bool m_isInterrupted = false; // what is under way is the last
+    QElapsedTimer m_printingSince;
     QMap<QString, QString> m_secrets;
 
     PanelPlaces::Place m_place; // among the panels that were shown last
@@ -142,6 +152,7 @@ private:
     SentMessage m_sent;
     std::optional<ExitStatus> m_finished;
     EventHandlerRef m_handler; // takes what the shell does and passes on
+    std::vector<QShortcut *> m_panelKeys, m_tabKeys;
 };
 
 } // namespace kelvo

@@ -1,6 +1,8 @@
 #include "printer_pane.h"
 
+#include "accessible_role.h"
 #include "caution_colours.h"
+#include "mnemonics.h"
 #include "popup_button.h"
 #include "preset_menu.h"
 #include "spin_field.h"
@@ -64,7 +66,7 @@ QString toolTipFor(const Printer &printer)
         if (!text.isEmpty())
             lines.append(text);
     }
-    return plainToolTip(lines.join(u'\n'));
+    return lines.join(u'\n');
 }
 
 } // namespace
@@ -90,6 +92,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_grid->setColumnStretch(1, 1);
 
     m_printer->setObjectName(QStringLiteral("printer"));
+    m_printer->setChoosesInListOnly(true); // each brings panels and settings of its own
     addRow(tr("Prin&ter:"), m_printer, m_printer);
     addRow(tr("Pre&set:"), presets->popup(), presets);
 
@@ -98,7 +101,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_copies->setMaximum(kMaximumCopies);
     m_copies->setValue(1);
     m_collate->setObjectName(QStringLiteral("collate"));
-    m_collate->setToolTip(tr("Each copy is complete before the next one begins"));
+    setOwnToolTip(m_collate, tr("Each copy is complete before the next one begins"));
     sendControlEvents(m_collate);
     auto *copiesRow = new QWidget(this);
     auto *copiesLayout = new QHBoxLayout(copiesRow);
@@ -116,6 +119,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_pagesChoice->setMenu(choices);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->setAccessibleName(tr("Pages to print"));
+    m_pages->setLayoutDirection(Qt::LeftToRight); // "1-3, 7" is no word of any language
     sendControlEvents(m_pages);
     auto *pagesRow = new QWidget(this);
     auto *pagesLayout = new QHBoxLayout(pagesRow);
@@ -125,6 +129,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     pagesLayout->addWidget(m_pages, 1);
     addRow(tr("Pa&ges:"), m_pagesChoice, pagesRow);
 
+    setAccessibleRole(m_pagesProblem, QAccessible::Notification);
     m_pagesProblem->setObjectName(QStringLiteral("pagesProblem"));
     m_pagesProblem->setTextFormat(Qt::PlainText);
     m_pagesProblem->setWordWrap(true);
@@ -134,7 +139,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     m_grid->addWidget(m_pagesProblem, m_grid->rowCount(), 1);
 
     m_paper->setObjectName(QStringLiteral("paper"));
-    addRow(tr("Pap&er:"), m_paper, m_paper);
+    addRow(tr("Pap&er size:"), m_paper, m_paper);
 
     m_orientation->setObjectName(QStringLiteral("orientation"));
     Menu orientations;
@@ -172,7 +177,7 @@ QLabel *PrinterPane::addRow(const QString &text, QWidget *buddy, QWidget *field)
     label->setBuddy(buddy);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (buddy->accessibleName().isEmpty())
-        buddy->setAccessibleName(QString(text).remove(u'&').remove(u':'));
+        buddy->setAccessibleName(nameInLabel(text));
     const int row = m_grid->rowCount();
     m_grid->addWidget(label, row, 0);
     m_grid->addWidget(field, row, 1);
@@ -229,7 +234,7 @@ void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &cho
     for (const Printer &printer : printers) {
         if (printer.name == chosen) {
             shown = reference;
-            m_printer->setToolTip(toolTipFor(printer));
+            setPlainToolTip(m_printer, toolTipFor(printer));
         }
         menu.items.push_back(
             {.text = tr("%1 (%2)", "printer and its state").arg(printer.name, stateText(printer)),
@@ -259,7 +264,7 @@ void PrinterPane::setDevice(const QString &name)
     m_printer->setMenu(std::move(menu));
     m_printer->setValue(1);
     setEnabledWithLabel(m_printer, true);
-    m_printer->setToolTip(tr("A device without a queue: nothing can be sent to it"));
+    setPlainToolTip(m_printer, tr("A device without a queue: nothing can be sent to it"));
 }
 
 void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
@@ -352,8 +357,9 @@ void PrinterPane::setSettingsEnabled(bool enabled)
 
 void PrinterPane::setPagesProblem(const QString &problem)
 {
+    const bool isNews = m_pagesProblem->text() != problem;
     m_pagesProblem->setText(problem);
-    m_pagesProblem->setVisible(!problem.isEmpty());
+    showNotification(m_pagesProblem, !problem.isEmpty(), isNews);
     m_pages->setAccessibleDescription(problem);
 }
 

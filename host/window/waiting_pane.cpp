@@ -1,16 +1,22 @@
 #include "waiting_pane.h"
 
+#include "window_columns.h"
+
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kelvo {
 
 namespace {
 
 constexpr int lineCharacters = 60; // a comfortable line of the text
+// Letters of other scripts are wider; with these lines the pane is as small as it may be.
+constexpr int longestLine = 480; // pixels at the usual font
 
 QLabel *centredLabel(const QString &name, QWidget *parent)
 {
@@ -64,7 +70,8 @@ void WaitingPane::fitToFont()
     large.setPointSizeF(large.pointSizeF() * 1.25);
     large.setWeight(QFont::DemiBold);
     m_header->setFont(large);
-    const int width = fontMetrics().averageCharWidth() * lineCharacters;
+    const int width = std::min(fontMetrics().averageCharWidth() * lineCharacters,
+                               int(longestLine * fontScale(this)));
     for (QLabel *label : {m_header, m_text}) {
         label->setFixedWidth(width);
         label->setMinimumHeight(label->text().isEmpty() ? 0 : label->heightForWidth(width));

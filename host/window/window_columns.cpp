@@ -1,6 +1,7 @@
 #include "window_columns.h"
 
 #include "pane_scroll.h"
+#include "tool_tip.h"
 
 #include <QEvent>
 #include <QFontInfo>
@@ -42,7 +43,7 @@ WindowColumns::WindowColumns(QWidget *parent)
     m_toggle->setObjectName(QStringLiteral("columnToggle"));
     m_toggle->setAutoRaise(true);
     m_toggle->setFocusPolicy(Qt::TabFocus);
-    m_toggle->setToolTip(tr("Show or hide printer, pages and preview (F9)"));
+    setOwnToolTip(m_toggle, tr("Show or hide printer, pages and preview (F9)"));
     m_toggle->setAccessibleName(tr("Printer, pages and preview"));
     connect(m_toggle, &QToolButton::clicked, this, [this] {
         m_isLeftWanted = !m_isLeftWanted;
@@ -96,7 +97,8 @@ void WindowColumns::arrange()
     }
     m_left->setMinimumWidth(
         std::clamp(forLeft, int(narrowLeftWidth * scale), int(leftWidth * scale)));
-    m_toggle->setArrowType(m_isLeftWanted == m_isNarrow ? Qt::RightArrow : Qt::LeftArrow);
+    const bool isForward = m_isLeftWanted == m_isNarrow;
+    m_toggle->setArrowType(isForward != isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
     // In a narrow window it goes from one to the other, and says to which.
     m_toggle->setText(m_isLeftWanted ? tr("Device Settings") : tr("Printer and Paper"));
     m_toggle->setAccessibleName(m_isNarrow ? m_toggle->text() : tr("Printer, pages and preview"));

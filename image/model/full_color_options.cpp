@@ -54,7 +54,7 @@ struct FullColorOptions::Form
 {
     struct Number
     {
-        const char *key;
+        const char *entry;
         std::int32_t FullColorOptions::*value;
     };
     static constexpr Number numbers[] = {
@@ -78,7 +78,7 @@ struct FullColorOptions::Form
 
     struct Named
     {
-        const char *key;
+        const char *entry;
         Profile FullColorOptions::*profile;
         std::int32_t namedKind;
     };
@@ -94,7 +94,7 @@ struct FullColorOptions::Form
 
     struct Text
     {
-        const char *key;
+        const char *entry;
         std::optional<QString> FullColorOptions::*value;
         bool isProfileName;
     };
@@ -113,12 +113,12 @@ struct FullColorOptions::Form
                             Dictionary &dictionary)
     {
         if (options.*number.value != kUnset)
-            WriteTicketValue(dictionary, QString::fromLatin1(number.key), options.*number.value);
+            WriteTicketValue(dictionary, QString::fromLatin1(number.entry), options.*number.value);
     }
     static void readNumber(FullColorOptions &options, const Number &number,
                            const Dictionary &dictionary)
     {
-        if (const auto value = integer32(dictionary, QString::fromLatin1(number.key)))
+        if (const auto value = integer32(dictionary, QString::fromLatin1(number.entry)))
             options.*number.value = *value;
     }
 };
@@ -156,7 +156,7 @@ Dictionary FullColorOptions::asTicket() const
     }
     for (const Form::Named &row : Form::profiles) {
         const Profile &profile = this->*row.profile;
-        const QString key = QString::fromLatin1(row.key);
+        const QString key = QString::fromLatin1(row.entry);
         // A ticket may have given the named kind by its number: without a name that
         // was held before, it goes back as it came.
         if (profile.kind == row.namedKind && profile.name)
@@ -166,7 +166,7 @@ Dictionary FullColorOptions::asTicket() const
     }
     for (const Form::Text &text : Form::texts) {
         if (this->*text.value)
-            dictionary.insert(QString::fromLatin1(text.key), *(this->*text.value));
+            dictionary.insert(QString::fromLatin1(text.entry), *(this->*text.value));
     }
     return dictionary;
 }
@@ -189,7 +189,7 @@ void FullColorOptions::fromTicket(const Dictionary *dictionary)
     }
     for (const Form::Named &row : Form::profiles) {
         Profile &profile = this->*row.profile;
-        const QString key = QString::fromLatin1(row.key);
+        const QString key = QString::fromLatin1(row.entry);
         const std::optional<QString> name = string(*dictionary, key);
         if (const auto kind = integer32(*dictionary, key))
             profile.kind = *kind;
@@ -197,7 +197,7 @@ void FullColorOptions::fromTicket(const Dictionary *dictionary)
             profile = {row.namedKind, name};
     }
     for (const Form::Text &text : Form::texts) {
-        const std::optional<QString> value = string(*dictionary, QString::fromLatin1(text.key));
+        const std::optional<QString> value = string(*dictionary, QString::fromLatin1(text.entry));
         if (value && (!text.isProfileName || isName(value)))
             this->*text.value = value;
     }

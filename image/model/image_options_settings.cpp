@@ -25,6 +25,8 @@ constexpr Setting qualityAndColor[] = {
     {"KVColorCorrection", &ImageOptionsSettings::outputColorCorrection},
 };
 
+constexpr Setting colorMode[] = {{"KVColorMode", &ImageOptionsSettings::colorMode}};
+
 bool isWritten(const Device &device, const QString &option)
 {
     return !device.ppd || device.hasOption(option);
@@ -100,6 +102,7 @@ void readImageOptions(ImageOptionsSettings &settings, const Ticket &printSetting
     SyncTonerSaverToUI(settings, printSettings, device);
     SyncResolutionToUI(settings, printSettings);
     readChoices(settings, printSettings, device, qualityAndColor);
+    readChoices(settings, printSettings, device, colorMode);
     readInvertImage(settings.invert, printSettings);
 }
 

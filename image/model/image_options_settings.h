@@ -48,6 +48,7 @@ struct ImageOptionsSettings
     std::int32_t tonerSaver = 0;            // "KVEconomode"; -1 for a choice of its own
     std::int32_t cmykSourceColor = 0;       // "KVCMYKColorSpace"
     std::int32_t outputColorCorrection = 0; // "KVColorCorrection"
+    std::int32_t colorMode = 0;             // "KVColorMode", which another panel sets: only read
     II_Options invert;
 
     friend bool operator==(const ImageOptionsSettings &, const ImageOptionsSettings &) = default;

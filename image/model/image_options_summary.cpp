@@ -1,6 +1,7 @@
 #include "image_options_summary.h"
 
 #include "lighten_darken.h"
+#include "mnemonics.h"
 #include "offered_choices.h"
 #include "ppd_choices.h"
 #include "setting_map.h"
@@ -89,7 +90,7 @@ std::vector<SummaryLine> imageOptionsSummary(const ImageOptionsSettings &setting
     addChoice("Output Color Correction:", "KVColorCorrection", settings.outputColorCorrection);
     if (settings.invert.mirror)
         addSummaryLine(lines, device, "Invert Image Label",
-                       device.text("Mirror Image Title").remove(u'&'));
+                       withoutMnemonic(device.text("Mirror Image Title")));
     return lines;
 }
 

@@ -17,7 +17,7 @@ constexpr double millimetresPerInch = 25.4;
 
 struct Coordinate
 {
-    const char *key;
+    const char *entry;
     std::int32_t _IS_Options::*value;
 };
 constexpr Coordinate coordinates[] = {
@@ -64,7 +64,7 @@ void ImageShiftSetOptionsFromTicket(_IS_Options *options, const Dictionary &dict
     const double factor = !isPrecise ? 1 : options->inches ? millimetresPerInch : 10;
     for (const Coordinate &coordinate : coordinates) {
         const std::int64_t stored =
-            integer64(dictionary, QString::fromLatin1(coordinate.key)).value_or(0);
+            integer64(dictionary, QString::fromLatin1(coordinate.entry)).value_or(0);
         options->*coordinate.value = shiftFrom(static_cast<double>(stored) / factor);
     }
     options->valid = 1;
@@ -80,7 +80,7 @@ std::optional<Dictionary> ImageShiftCreateTicketFromOptions(const _IS_Options *o
     dictionary.insert(fullPrecisionKey, true);
     for (const Coordinate &coordinate : coordinates) {
         const std::int32_t shift = options->*coordinate.value;
-        WriteTicketValue(dictionary, QString::fromLatin1(coordinate.key),
+        WriteTicketValue(dictionary, QString::fromLatin1(coordinate.entry),
                          options->inches ? std::lround(shift * millimetresPerInch)
                                          : std::int64_t(shift) * 10);
     }

@@ -34,6 +34,7 @@ std::optional<std::vector<SummaryLine>> ImageOptionsContext::words() const
 
 OSStatus ImageOptionsContext::build()
 {
+    shownLook.reset();
     const OSStatus status = buildContent(
         "ImageOptionsPanel", "ImageOptions",
         [this](NeededControls &needed) { controls = findImageOptionsControls(needed); },

@@ -6,6 +6,8 @@
 #include "image_options_summary.h"
 #include "lighten_darken.h"
 #include "popups.h"
+#include "printed_example.h"
+#include "texts.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
 
@@ -37,7 +39,7 @@ constexpr std::int32_t tonerSaverHint = 1304;
 // What goes with the value of lighten/darken: label, slider, picture, spin field
 // and the numbers below the slider.
 constexpr std::array lightenDarkenParts = {1101, 1102, 1103, 1104, 1106, 1107, 1108};
-constexpr std::array hints = {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105};
+constexpr std::array hints = {1105, 1106, 1107, 1108, 1204, tonerSaverHint, 1904, 2004, 2105, 2202};
 
 ControlID panelID(std::int32_t number)
 {
@@ -62,6 +64,13 @@ void setUpLightenDarken(const ImageOptionsContext &panel)
     };
     for (const auto &[number, text] : numbers)
         findControl<QLabel>(panel.content, panelID(number))->setText(text);
+    // Below its end of the slider, which follows the window: a number by itself would not.
+    for (const auto &[number, side] :
+         {std::pair(1106, Qt::AlignLeading), {1108, Qt::AlignTrailing}}) {
+        auto *label = findControl<QLabel>(panel.content, panelID(number));
+        label->setAlignment(QStyle::visualAlignment(label->layoutDirection(), side)
+                            | Qt::AlignAbsolute | Qt::AlignTop);
+    }
 }
 
 void tellTicketPlaces(const ImageOptionsControls &controls)
@@ -119,6 +128,26 @@ void showPictures(const ImageOptionsContext &panel)
         showBundlePicture(view, panel.bundle, picture);
 }
 
+// The settings in words are for those who cannot see the page. They may change where it looks
+// the same.
+void showExample(ImageOptionsContext &panel)
+{
+    QStringList words;
+    for (const SummaryLine &line : imageOptionsSummary(panel.settings, panel.device))
+        words << line.title + u' ' + line.text;
+    const QString description = joined(words);
+    const PrintLook look = printLook(panel.settings, panel.device);
+    DrawingView *example = panel.controls.example;
+    if (look == panel.shownLook && description == example->accessibleDescription())
+        return;
+    example->setDrawing(
+        [bundle = panel.bundle, look](QPainter &painter, const QSizeF &size) {
+            drawPrintedExample(painter, size, bundle, look);
+        },
+        description);
+    panel.shownLook = look;
+}
+
 } // namespace
 
 ImageOptionsControls findImageOptionsControls(NeededControls &needed)
@@ -144,6 +173,7 @@ ImageOptionsControls findImageOptionsControls(NeededControls &needed)
         .mirror = needed.find<QCheckBox>(panelID(kMirrorBox)),
         .invertPicture = needed.find<PictureView>(panelID(2104)),
         .invertHint = needed.find<QLabel>(panelID(2105)),
+        .example = needed.find<DrawingView>(panelID(2201)),
     };
 }
 
@@ -183,6 +213,7 @@ void RestoreUIValuesFromData(ImageOptionsContext &panel)
     controls.mirror->setChecked(panel.settings.invert.mirror);
     controls.invertHint->setText(invertImageWords(panel.settings, panel.device));
     showPictures(panel);
+    showExample(panel);
 }
 
 OSStatus ImageOptionsEventHandler(ImageOptionsContext &panel, const Event &event)

@@ -1,17 +1,21 @@
 #pragma once
 
+#include "drawing_view.h"
 #include "image_options_controls.h"
 #include "image_options_settings.h"
 #include "invert_image_controls.h"
 #include "panel_context.h"
 #include "picture_view.h"
 #include "popup_button.h"
+#include "print_look.h"
 #include "spin_field.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPointer>
 #include <QSlider>
+
+#include <optional>
 
 // What the Image Options panel shows: its controls, what fills them, and the way
 // between them and the context.
@@ -38,6 +42,7 @@ struct ImageOptionsControls
     QPointer<QCheckBox> mirror;                         // KPDE 2103
     QPointer<PictureView> invertPicture;                // KPDE 2104
     QPointer<QLabel> invertHint;                        // KPDE 2105
+    QPointer<DrawingView> example;                      // KPDE 2201
 };
 
 struct ImageOptionsContext final : PanelContext
@@ -57,6 +62,7 @@ struct ImageOptionsContext final : PanelContext
     ImageOptionsSettings settings;
     ImageOptionsControls controls;
     InvertImageContext invertControls;
+    std::optional<PrintLook> shownLook; // as the example is drawn
 };
 
 ImageOptionsControls findImageOptionsControls(NeededControls &needed);

@@ -2,6 +2,9 @@
 
 #include "ppd_choices.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace kelvo {
 
 namespace {
@@ -14,13 +17,14 @@ constexpr std::int32_t kReverseLandscape = 4;
 struct Holes
 {
     std::int32_t punch;
+    int count;
     const char *portrait;
     const char *landscape;
 };
 constexpr Holes kHoles[] = {
-    {kPunchTwoHoles, "2HolePunch", "2HolePunchLandscape"},
-    {kPunchThreeHoles, "3HolePunch", "3HolePunchLandscape"},
-    {kPunchFourHoles, "4HolePunch", "4HolePunchLandscape"},
+    {kPunchTwoHoles, 2, "2HolePunch", "2HolePunchLandscape"},
+    {kPunchThreeHoles, 3, "3HolePunch", "3HolePunchLandscape"},
+    {kPunchFourHoles, 4, "4HolePunch", "4HolePunchLandscape"},
 };
 
 const QString singlePortrait = QStringLiteral("SinglePortrait");
@@ -56,6 +60,12 @@ std::optional<std::int32_t> punchOfChoice(const QString &choice)
             return holes.punch;
     }
     return std::nullopt;
+}
+
+int holesOfPunch(std::int32_t punch)
+{
+    const Holes *holes = std::ranges::find(kHoles, punch, &Holes::punch);
+    return holes == std::end(kHoles) ? 0 : holes->count;
 }
 
 std::optional<QString> stapleChoice(std::int32_t staple, std::int32_t orientation)

@@ -19,6 +19,8 @@ std::optional<QString> punchChoice(std::int32_t punch, std::int32_t orientation)
 // The holes of a landscape choice, which has no ticket value of its own; none for
 // any other choice.
 std::optional<std::int32_t> punchOfChoice(const QString &choice);
+// Two, three or four; 0 for any other value, also for a pattern that is set at the device.
+int holesOfPunch(std::int32_t punch);
 
 // The "StapleLocation" choice. Reversed pages have one choice each, whatever is
 // chosen: reverse landscape "SingleLandscape", reverse portrait "DualPortrait".

@@ -2,6 +2,7 @@
 
 #include "finishing_offset.h"
 #include "paper_output_settings.h"
+#include "texts.h"
 
 #include <QStringList>
 
@@ -91,7 +92,7 @@ QString moreFinishingText(const PaperOutputSettings &settings, const Device &dev
         if (!line.isInSummary && isOffered(line, device) && isSet(line, settings.finishing, device))
             names << device.text(line.textKey).remove(u'…');
     }
-    return names.join(QStringLiteral(", "));
+    return separated(names);
 }
 
 } // namespace kelvo

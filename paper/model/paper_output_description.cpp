@@ -9,6 +9,7 @@
 #include "stock_properties.h"
 #include "stock_summary.h"
 #include "string_table.h"
+#include "texts.h"
 #include "ticket_values.h"
 
 #include <QLocale>
@@ -53,7 +54,7 @@ void describeSavedJob(const PaperOutputSettings &settings, PanelDescription &pan
     add("JobType/SavedJobName", "Job Name:", saved.usesJobName ? QString() : saved.name);
     add("JobType/SavedJobLocation", "Mailbox in Words", mailboxText(saved));
     add("JobType/SaveDisposition", "Save Option:",
-        device.text(saved.saveDisposition == kSaveAndPrint ? "SavePrint" : "Save").remove(u'&'));
+        labelText(device, saved.saveDisposition == kSaveAndPrint ? "SavePrint" : "Save"));
     add("JobType/SavedJobFormat",
         "File Format:", mapText(device, SavedJobFormatMap, saved.fileFormat));
 }
@@ -113,8 +114,7 @@ void describePaper(const PaperOutputSettings &settings, PanelDescription &panel)
     QStringList properties = stockPropertyLines(device, stock);
     properties.replaceInStrings(QStringLiteral("- "), QString());
     // A description may have commas.
-    panel.add("JobLevelStock", "Paper Properties in Words", properties.join(QStringLiteral("; ")),
-              kStockButton);
+    panel.add("JobLevelStock", "Paper Properties in Words", joined(properties), kStockButton);
 }
 
 // As panels read it: their own entries rule. A device without the option prints on one
@@ -174,16 +174,28 @@ QString bindWords(const Device &device, std::int32_t bind)
     }
 }
 
-void describeFinishing(const Finishing &finishing, PanelDescription &panel)
+// No PPD option says that the device lacks a binder.
+void describeBinding(std::int32_t bind, PanelDescription &panel)
 {
     const Device &device = panel.job().device;
+    const QString words = bindWords(device, bind);
+    const bool isLost = bind != kBindNone && device.ppd && !device.has("TapeBindKey");
+    DescribedSetting *line =
+        panel.add("FinishingBindValue",
+                  "Bind:", isLost ? formatted(device.text("Bind Absent in Words"), {words}) : words,
+                  kMoreFinishingButton);
+    if (line)
+        line->isLost = isLost;
+}
+
+void describeFinishing(const Finishing &finishing, PanelDescription &panel)
+{
     panel.addChoice("StapleLocation", kStaplingPopup);
     panel.addChoice("KVPunch", kHolePunchPopup);
     panel.addChoice("KVFold", kFinishingButton);
     panel.leaveUnspoken("FinishingOptions"); // the same, as the menu counts it
     describeOffset(finishing, panel);
-    panel.add("FinishingBindValue", "Bind:", bindWords(device, finishing.bind),
-              kMoreFinishingButton);
+    describeBinding(finishing.bind, panel);
     panel.add("FinishingSlipSheet", "Slip Sheets in Words",
               finishing.slipSheet == 0 ? QString() : QString::number(finishing.slipSheet),
               kMoreFinishingButton);

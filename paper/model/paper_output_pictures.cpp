@@ -1,5 +1,7 @@
 #include "paper_output_pictures.h"
 
+#include "keyword_map.h"
+
 namespace kelvo {
 
 namespace {
@@ -28,16 +30,17 @@ QString stapleWord(const Finishing &finishing)
     return finishing.otherStaple == kStapleMultiple ? QStringLiteral("4St") : QString();
 }
 
+// "2Hp", "3Hp" or "4Hp"; empty without holes.
 QString holesBesideStaples(std::int32_t punch)
 {
     switch (punch) {
     case kPunchGeneric:
     case kPunchThreeHoles:
-        return QStringLiteral("&3Hp");
+        return QStringLiteral("3Hp");
     case kPunchTwoHoles:
-        return QStringLiteral("&2Hp");
+        return QStringLiteral("2Hp");
     case kPunchFourHoles:
-        return QStringLiteral("&4Hp");
+        return QStringLiteral("4Hp");
     default:
         return {};
     }
@@ -95,6 +98,20 @@ QString staplePicture(const Finishing &finishing)
                                                     : QString();
 }
 
+QStringList staplePictures(const Finishing &finishing)
+{
+    const QString staple = staplePicture(finishing);
+    if (staple.isEmpty())
+        return {};
+    const QString holes = holesBesideStaples(finishing.punch);
+    if (holes.isEmpty())
+        return {staple};
+    const bool isInCorner = finishing.singleStaple != kStapleNone;
+    return {staple,
+            QStringLiteral("OfficeFinishing_Overlay-%1St-%2.gif")
+                .arg(isInCorner ? QStringLiteral("Below") : QStringLiteral("Beside"), holes)};
+}
+
 QString punchPicture(std::int32_t punch)
 {
     switch (punch) {
@@ -113,9 +130,9 @@ QString punchPicture(std::int32_t punch)
 QString colorModePicture(std::int32_t colorMode)
 {
     switch (colorMode) {
-    case 2:
+    case kColorModeColor:
         return picture("OutputColor_Color.gif");
-    case 1:
+    case kColorModeGrayscale:
         return picture("OutputColor_BlackandWhite.gif");
     default:
         return picture("OutputColor_PrnDef.gif");
@@ -141,9 +158,11 @@ QString finishingPicture(const PaperOutputSettings &settings)
         return {}; // a fold without a picture decides alone as well
     }
     const QString staple = stapleWord(finishing);
-    if (!staple.isEmpty())
-        return QStringLiteral("OfficeFinishing_%1%2.gif")
-            .arg(staple, holesBesideStaples(finishing.punch));
+    if (!staple.isEmpty()) {
+        const QString holes = holesBesideStaples(finishing.punch);
+        return QStringLiteral("OfficeFinishing_%1.gif")
+            .arg(holes.isEmpty() ? staple : staple + u'&' + holes);
+    }
     switch (finishing.punch) {
     case kPunchNone:
         return picture(settings.isBooklet() ? "OfficeFinishing_Bklt_Layout.gif"

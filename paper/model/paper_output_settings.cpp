@@ -3,6 +3,7 @@
 #include "cover_sync.h"
 #include "finishing_ticket.h"
 #include "job_type_setup.h"
+#include "page_format.h"
 #include "ppd_choices.h"
 #include "separators.h"
 #include "ticket_values.h"
@@ -241,16 +242,17 @@ void initializePaperOutput(PaperOutputSettings &settings, LongDateTime now)
     settings.delayedPrintTime = defaultDelayedPrintTime(now);
 }
 
-void readOrientation(PaperOutputSettings &settings, const Ticket &pageFormat)
+void readPageFormat(PaperOutputSettings &settings, const Ticket &pageFormat)
 {
     settings.orientation = integer32(valueIn(pageFormat, kPMOrientationKey)).value_or(1);
+    settings.paper = paperOf(pageFormat).value_or(QSizeF());
 }
 
 void readPaperOutput(PaperOutputSettings &settings, const Ticket &printSettings,
                      const Ticket &pageFormat, const Device &device)
 {
     const PpdFile *ppd = device.ppd;
-    readOrientation(settings, pageFormat);
+    readPageFormat(settings, pageFormat);
     const std::optional<Dictionary> stock = dictionary(entry(printSettings, "JobLevelStock"));
     if (stock) {
         settings.jobStock = Stock(&*stock);

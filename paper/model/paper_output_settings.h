@@ -12,6 +12,7 @@
 #include "ticket.h"
 #include "values.h"
 
+#include <QSizeF>
 #include <QString>
 
 #include <cstdint>
@@ -50,6 +51,7 @@ struct PaperOutputSettings
     std::int32_t jobType = 0;     // JobTypeMap; 0 until the first read
     std::int32_t colorMode = 0;   // "KVColorMode"
     std::int32_t orientation = 1; // 1 portrait, 2 landscape, 3 and 4 the same reversed
+    QSizeF paper;                 // points, as it is looked at; empty: not said
     std::int32_t outputBin = 1;   // "OutputBin"
     std::int32_t duplex = 1;      // PlexMap
 
@@ -83,7 +85,7 @@ void initializePaperOutput(PaperOutputSettings &settings, LongDateTime now);
 void readPaperOutput(PaperOutputSettings &settings, const Ticket &printSettings,
                      const Ticket &pageFormat, const Device &device);
 // The page format alone: its user may turn the pages between reading and writing.
-void readOrientation(PaperOutputSettings &settings, const Ticket &pageFormat);
+void readPageFormat(PaperOutputSettings &settings, const Ticket &pageFormat);
 // Two-sided printing is written by a panel that is `opened`.
 void writePaperOutput(const PaperOutputSettings &settings, Ticket &printSettings, bool opened);
 

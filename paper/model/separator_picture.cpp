@@ -14,7 +14,7 @@ QString separatorPicture(std::int32_t separators, std::int32_t color)
     case kSeparatorsPrinted:
         return QStringLiteral("Paper_TransparencySeparators_PrntSeps-%1.gif").arg(colorWord);
     default:
-        return {};
+        return QStringLiteral("Paper_TransparencySeparators_None.gif");
     }
 }
 

@@ -27,13 +27,13 @@ constexpr ControlID kChoiceHint{kPanelSignature, 8003};
 constexpr ControlID kLimits{kPanelSignature, 8004};
 constexpr ControlID kNote{kPanelSignature, 8005};
 
-// What tells the dialogs of one window apart. All texts are keys.
+// What tells the dialogs of one window apart.
 struct DialogRow
 {
     FinishingDialogKind kind;
-    const char *title;
-    const char *label;
-    const char *limits;
+    const char *titleKey;
+    const char *labelKey;
+    const char *limitsKey;
     const char *helpPage;
 };
 
@@ -125,14 +125,14 @@ void showTexts(const ChoiceDialog &dialog)
 {
     const DialogRow &row = rowOf(dialog.kind);
     QWidget *window = dialog.window.get();
-    const QString label = QString::fromLatin1(row.label);
-    SetLocalizedWindowTitle(dialog.device.bundle, QString::fromLatin1(row.title), window);
+    const QString label = QString::fromLatin1(row.labelKey);
+    SetLocalizedWindowTitle(dialog.device.bundle, QString::fromLatin1(row.titleKey), window);
     SetLocalizedStaticText(dialog.device.bundle, label, findControl<QLabel>(window, kChoiceLabel));
-    dialog.choice->setAccessibleName(dialog.device.text(row.title));
+    dialog.choice->setAccessibleName(dialog.device.text(row.titleKey));
     if (auto *limits = findControl<QLabel>(window, kLimits)) {
         // Not every device can do what its menu names.
         const bool hasChoice = dialog.choices.size() > 1;
-        limits->setText(dialog.device.text(hasChoice ? row.limits : "Not on This Device"));
+        limits->setText(dialog.device.text(hasChoice ? row.limitsKey : "Not on This Device"));
         makeHintText(limits);
     }
     if (auto *note = findControl<QLabel>(window, kNote)) {

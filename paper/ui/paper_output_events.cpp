@@ -140,11 +140,14 @@ OSStatus takeHit(_PaperOutputContext &panel, std::int32_t control)
 
 OSStatus PaperOutputEventHandler(_PaperOutputContext &panel, const Event &event)
 {
+    OSStatus status = eventNotHandledErr;
     if (event.kind == EventKind::Command)
-        return takeCommand(panel, event.command, event.reference);
-    if (event.kind == EventKind::ControlHit && event.control.signature == kPanelSignature)
-        return takeHit(panel, event.control.number);
-    return eventNotHandledErr;
+        status = takeCommand(panel, event.command, event.reference);
+    else if (event.kind == EventKind::ControlHit && event.control.signature == kPanelSignature)
+        status = takeHit(panel, event.control.number);
+    if (status == noErr)
+        showFinishedSet(panel);
+    return status;
 }
 
 void runFaxSetup(_PaperOutputContext &panel)

@@ -32,22 +32,32 @@ void runFaxSetupFor(PMPDEContext context)
         runFaxSetup(*panel);
 }
 
+void focusSetupOf(PMPDEContext context)
+{
+    const auto *panel = panelOf<_PaperOutputContext>(context);
+    if (panel && panel->controls.jobTypeSetup)
+        panel->controls.jobTypeSetup->setFocus(Qt::TabFocusReason); // drawn, as by keyboard
+}
+
+constexpr JobTypeProvider provider{
+    .state = jobTypeStateOf,
+    .prepareToPrint = prepareToPrint,
+    .runFaxSetup = runFaxSetupFor,
+    .focusSetup = focusSetupOf,
+};
+
 } // namespace
 
 _PaperOutputContext::_PaperOutputContext()
     : PanelContext(traits)
 {
     initializePaperOutput(settings, currentLongDate());
-    setJobTypeProvider(jobTypeStateOf);
-    setFaxSetupRunner(runFaxSetupFor);
-    setPrintPreparation(prepareToPrint);
+    setJobTypeProvider(provider);
 }
 
 _PaperOutputContext::~_PaperOutputContext()
 {
-    setJobTypeProvider(nullptr);
-    setFaxSetupRunner(nullptr);
-    setPrintPreparation(nullptr);
+    setJobTypeProvider({});
 }
 
 void _PaperOutputContext::begin(const Ticket &printSettings)
@@ -65,7 +75,9 @@ OSStatus _PaperOutputContext::read(Ticket &printSettings, const Ticket &pageForm
 
 OSStatus _PaperOutputContext::write(Ticket &printSettings, const Ticket &pageFormat)
 {
-    readOrientation(settings, pageFormat);
+    // The dialog's own controls change paper and orientation without a word to the panels.
+    readPageFormat(settings, pageFormat);
+    showFinishedSet(*this);
     writePaperOutput(settings, printSettings, opened);
     return noErr;
 }
@@ -89,7 +101,10 @@ OSStatus _PaperOutputContext::build()
     stockButtonData.jobContext = kJobContextJob;
     stockButtonData.summary = controls.stockSummary;
     stockButtonData.icon = controls.stockIcon;
-    stockButtonData.changed = [this] { showStockAndSeparators(*this); };
+    stockButtonData.changed = [this] {
+        showStockAndSeparators(*this);
+        showFinishedSet(*this);
+    };
     InitializeStockMenuButton(controls.stockButton, &stockButtonData);
     showPaperOutput(*this);
     return noErr;
@@ -100,6 +115,7 @@ void _PaperOutputContext::close()
     FinalizeStockMenuButton(&stockButtonData);
     dropContent();
     controls = {};
+    shownSet = {};
     opened = false;
 }
 

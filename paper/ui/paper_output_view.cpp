@@ -1,6 +1,7 @@
 #include "paper_output_view.h"
 
 #include "bundle_picture.h"
+#include "finished_set_drawing.h"
 #include "finishing_ticket.h"
 #include "hint_text.h"
 #include "job_type_setup.h"
@@ -10,6 +11,7 @@
 #include "paper_output_summary.h"
 #include "popups.h"
 #include "setting_maps.h"
+#include "texts.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
 #include "two_sided.h"
@@ -48,6 +50,8 @@ PaperOutputControls findPaperOutputControls(NeededControls &needed)
         .moreFinishing = needed.find<MenuButton>(id(kMoreFinishingButton)),
         .moreFinishingSummary = needed.find<QLabel>(id(1281)),
         .outputDestination = needed.find<PopupButton>(id(kOutputDestinationPopup)),
+        .finishedSet = needed.find<DrawingView>(id(131)),
+        .finishedSetSummary = needed.find<QLabel>(id(132)),
     };
 }
 
@@ -83,6 +87,11 @@ void fillPaperOutputControls(_PaperOutputContext &panel)
     makeHintText(controls.coversSummary);
     makeHintText(controls.separatorsSummary);
     makeHintText(controls.moreFinishingSummary);
+    makeHintText(controls.finishedSetSummary);
+    // The hint comes and goes with the job type, and nothing below it moves.
+    QSizePolicy policy = controls.jobTypeHint->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    controls.jobTypeHint->setSizePolicy(policy);
 }
 
 void showJobType(const _PaperOutputContext &panel)
@@ -134,7 +143,8 @@ void showFinishing(const _PaperOutputContext &panel)
     showChoice(panel.bundle, controls.stapling, shownStaple(panel.settings.finishing));
     showChoice(panel.bundle, controls.holePunch, panel.settings.finishing.punch);
     showBundlePicture(controls.finishingIcon, panel.bundle, finishingPicture(panel.settings));
-    showBundlePicture(controls.staplingIcon, panel.bundle, staplePicture(panel.settings.finishing));
+    showBundlePictures(controls.staplingIcon, panel.bundle,
+                       staplePictures(panel.settings.finishing));
     showBundlePicture(controls.holePunchIcon, panel.bundle,
                       punchPicture(panel.settings.finishing.punch));
 }
@@ -151,7 +161,23 @@ void showOutputDestination(const _PaperOutputContext &panel)
     showChoice(panel.bundle, panel.controls.outputDestination, panel.settings.outputBin);
 }
 
-void showPaperOutput(const _PaperOutputContext &panel)
+void showFinishedSet(_PaperOutputContext &panel)
+{
+    const PaperOutputControls &controls = panel.controls;
+    if (!controls.finishedSet)
+        return;
+    FinishedSet set = finishedSet(panel.settings, panel.device);
+    if (set == panel.shownSet)
+        return;
+    const QStringList words = finishedSetWords(set, panel.device);
+    controls.finishedSetSummary->setText(words.join(u'\n'));
+    controls.finishedSet->setDrawing(
+        [set](QPainter &painter, const QSizeF &size) { drawFinishedSet(painter, size, set); },
+        joined(words));
+    panel.shownSet = std::move(set);
+}
+
+void showPaperOutput(_PaperOutputContext &panel)
 {
     if (!panel.content)
         return;
@@ -163,6 +189,7 @@ void showPaperOutput(const _PaperOutputContext &panel)
     showTwoSided(panel);
     showFinishing(panel);
     showCovers(panel);
+    showFinishedSet(panel);
 }
 
 void EnableDisableJobTypeSetupButton(const _PaperOutputContext &panel)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "drawing_view.h"
+#include "finished_set.h"
 #include "menu_button.h"
 #include "panel_context.h"
 #include "paper_output_controls.h"
@@ -47,6 +49,8 @@ struct PaperOutputControls
     QPointer<MenuButton> moreFinishing;      // KPDE 128
     QPointer<QLabel> moreFinishingSummary;   // KPDE 1281
     QPointer<PopupButton> outputDestination; // KPDE 126
+    QPointer<DrawingView> finishedSet;       // KPDE 131
+    QPointer<QLabel> finishedSetSummary;     // KPDE 132
 };
 
 struct _PaperOutputContext final // NOLINT(bugprone-reserved-identifier): the panel's own name
@@ -68,6 +72,7 @@ struct _PaperOutputContext final // NOLINT(bugprone-reserved-identifier): the pa
     QString documentName; // what a saved job is called that takes the job's name
     PaperOutputControls controls;
     _StockMenuCommandEventHandlerData stockButtonData;
+    FinishedSet shownSet; // as it is drawn
 };
 
 PaperOutputControls findPaperOutputControls(NeededControls &needed);
@@ -77,7 +82,7 @@ PaperOutputControls findPaperOutputControls(NeededControls &needed);
 void fillPaperOutputControls(_PaperOutputContext &panel);
 
 // From the context to the controls; nothing happens where there are none.
-void showPaperOutput(const _PaperOutputContext &panel);
+void showPaperOutput(_PaperOutputContext &panel);
 // Parts of it.
 void showJobType(const _PaperOutputContext &panel);
 void showStockAndSeparators(const _PaperOutputContext &panel);
@@ -86,6 +91,8 @@ void showTwoSided(const _PaperOutputContext &panel);
 void showFinishing(const _PaperOutputContext &panel);
 void showOutputColor(const _PaperOutputContext &panel);
 void showOutputDestination(const _PaperOutputContext &panel);
+// The set as it comes out; draws only what has changed.
+void showFinishedSet(_PaperOutputContext &panel);
 
 // The set-up button is enabled for the job types that have a set-up.
 void EnableDisableJobTypeSetupButton(const _PaperOutputContext &panel);

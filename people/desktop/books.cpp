@@ -48,14 +48,14 @@ Result<Book> Books::openDefault() const
     const GLibOwner<ESource> source(e_source_registry_ref_default_address_book(m_registry.get()));
     if (!source) {
         return Error{Code::NotFound, translate("People", "address book"),
-                     translate("People", "none is set up; make one in the desktop's contacts")};
+                     translate("People", "none is set up; make one in the desktop’s contacts")};
     }
     Result<Book> book = open(source.get());
     if (book && e_client_is_readonly(E_CLIENT(book.value().client.get()))) {
         return Error{Code::Refused, book.value().name,
                      translate("People",
                                "this address book cannot be changed; make another one the default "
-                               "in the desktop's contacts")};
+                               "in the desktop’s contacts")};
     }
     return book;
 }

@@ -121,4 +121,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>Help</name>
+    <message numerus="yes">
+        <source>%n page(s) found</source>
+        <translation>
+            <numerusform>%n page found</numerusform>
+            <numerusform>%n pages found</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -7,6 +7,7 @@
 #include "setting_maps.h"
 #include "special_pages_summary.h"
 #include "string_table.h"
+#include "texts.h"
 #include "ticket_values.h"
 
 #include <algorithm>
@@ -109,7 +110,7 @@ QString listWords(const Device &device, const Array &list,
         const auto form = dictionary(each);
         pages << (form ? pageWords(device, *form) : QStringLiteral("?"));
     }
-    const QString listed = pages.join(QStringLiteral(", "));
+    const QString listed = separated(pages);
     const qsizetype left = list.size() - pages.size();
     return left == 0
         ? listed

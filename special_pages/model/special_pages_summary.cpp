@@ -2,8 +2,10 @@
 
 #include "cover_sync.h"
 #include "lighten_darken.h"
+#include "ppd_choices.h"
 #include "setting_maps.h"
 #include "stock_summary.h"
+#include "texts.h"
 
 #include <QStringList>
 
@@ -11,8 +13,8 @@ namespace kelvo {
 
 namespace {
 
-const QString separator = QStringLiteral("; ");
-const QString coverOption = QStringLiteral("KVFrontCoverSheet"); // as of the back cover
+const QString frontOption = QStringLiteral("KVFrontCoverSheet");
+const QString backOption = QStringLiteral("KVBackCoverSheet");
 const QString wideSeparator = QStringLiteral(";  ");
 
 QString joined(QStringList parts, const QString &with)
@@ -118,14 +120,14 @@ QString CopySpecialPageSummary(const SpecialPage &page, const Device &device)
         parts << device.text("Paper Name Label") + u' ' + stock.customName();
     parts << kindText(device, page);
     parts << stockTexts(device, stock);
-    return joined(parts, separator);
+    return joined(parts);
 }
 
 QString attributesText(const SpecialPage &page, const Device &device)
 {
     QStringList parts{CopySpecialPageSummary(page, device)};
     if (const auto *cover = dynamic_cast<const Cover *>(&page)) {
-        if (!device.hasOption(coverOption))
+        if (!device.hasOption(frontOption))
             parts << device.text("Not on This Device");
         else if (!reachesDevice(*cover))
             parts << device.text("Cover Without Source");
@@ -139,8 +141,24 @@ QString attributesText(const SpecialPage &page, const Device &device)
         if (exception->imageShift()->option != kUnset)
             parts << device.text("Exception Image Shift");
     }
-    const QString all = joined(parts, separator);
+    const QString all = joined(parts);
     return all.isEmpty() ? device.text("UseJobSetting") : all;
+}
+
+QString coverTraysText(const Device &device, const SpecialPagesSettings &settings)
+{
+    QStringList parts;
+    const auto add = [&](const char *key, const QString &option,
+                         const std::optional<Cover> &cover) {
+        const auto tray = cover && reachesDevice(*cover)
+            ? PPDCopyTextForTicketValue(device.ppd, option, cover->stock().source())
+            : std::nullopt;
+        if (tray)
+            parts << device.text(key) + device.text(":") + *tray;
+    };
+    add("Front Cover", frontOption, settings.frontCover);
+    add("Back Cover", backOption, settings.backCover);
+    return separated(parts);
 }
 
 QString CreateInsertAttributesDescription(const Device &device, const Insert &insert)

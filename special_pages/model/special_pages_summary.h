@@ -22,6 +22,9 @@ QString CopySpecialPageSummary(const SpecialPage &page, const Device &device);
 // exception page covers no page and how its image differs, or that nothing does. All
 // that the list says.
 QString attributesText(const SpecialPage &page, const Device &device);
+// Which trays the covers come from, "Front cover: Tray 1, Back cover: Tray 2", beside the list,
+// whose attributes name none; empty without a cover that the device prints.
+QString coverTraysText(const Device &device, const SpecialPagesSettings &settings);
 
 // The same in a line for the dialogs.
 QString CreateInsertAttributesDescription(const Device &device, const Insert &insert);

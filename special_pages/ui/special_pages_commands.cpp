@@ -2,7 +2,6 @@
 
 #include "covers_dialog.h"
 #include "exceptions_dialog.h"
-#include "help_window.h"
 #include "inserts_dialog.h"
 #include "special_pages_notices.h"
 #include "special_pages_view.h"
@@ -12,8 +11,6 @@
 namespace kelvo {
 
 namespace {
-
-constexpr OSType kCommandPanelHelp = fourCharCode("help");
 
 // KPDE numbers of the buttons.
 enum Command : std::int32_t {
@@ -132,8 +129,6 @@ OSStatus SpecialPagesEventHandler(_SpecialPagesContext &panel, const Event &even
         UpdateSpecialPagesCommandButtons(&panel);
         return noErr;
     }
-    if (event.kind == EventKind::Command && event.command == kCommandPanelHelp)
-        return showHelp(QStringLiteral("special_pages/special_pages.htm"), panel.content);
     if (event.kind == EventKind::ListActivated && event.source == panel.list && event.row >= 0)
         command = kEdit;
     else if (event.kind == EventKind::ControlHit && isCommand(event.control.number))

@@ -6,6 +6,7 @@
 #include "special_pages_settings.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QPointer>
 
 #include <optional>
@@ -35,6 +36,7 @@ struct _SpecialPagesContext final // NOLINT(bugprone-reserved-identifier)
 
     // Null until it is built.
     QPointer<ListView> list;                                     // KPDE 1000
+    QPointer<QLabel> coverTrays;                                 // KPDE 1002
     QPointer<QAbstractButton> addCoversButton, addInsertsButton; // KPDE 100, 200
     QPointer<QAbstractButton> addExceptionsButton;               // KPDE 300
     QPointer<QAbstractButton> editButton, deleteButton;          // KPDE 1200, 1300

@@ -43,13 +43,13 @@ void SpecialPagesUserNotification(OSStatus code, CFBundleRef bundle, QWidget *pa
         {}, parent);
 }
 
-bool mayDeleteSpecialPages(CFBundleRef bundle, const QString &question, QWidget *parent)
+bool mayDeleteSpecialPages(CFBundleRef bundle, const QString &questionKey, QWidget *parent)
 {
     constexpr int no = 1, yes = 2;
     return CFUserNotificationDisplayAlert(
                NoticeLevel::Caution,
                localizedText(bundle, QStringLiteral("Delete Special Pages Title")),
-               localizedText(bundle, question),
+               localizedText(bundle, questionKey),
                {localizedText(bundle, QStringLiteral("No Command")),
                 localizedText(bundle, QStringLiteral("Yes Command"))},
                parent, no)

@@ -14,8 +14,9 @@ namespace kelvo {
 // Nothing is shown for any other code.
 void SpecialPagesUserNotification(OSStatus code, CFBundleRef bundle, QWidget *parent = nullptr);
 
-// Asks before special pages are deleted; `question` is the message's key. True for
-// the second button.
-bool mayDeleteSpecialPages(CFBundleRef bundle, const QString &question, QWidget *parent = nullptr);
+// Asks before special pages are deleted; `questionKey` is of the message. True
+// for the second button.
+bool mayDeleteSpecialPages(CFBundleRef bundle, const QString &questionKey,
+                           QWidget *parent = nullptr);
 
 } // namespace kelvo

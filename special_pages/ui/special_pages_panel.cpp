@@ -68,10 +68,8 @@ OSStatus _SpecialPagesContext::build()
         return openFailed(content ? "get control reference" : "get user pane control reference");
     }
     InitializeSpecialPages(*this);
-    // On the parent, which the dialog's help command is sent to.
-    handler = installEventHandler(parentUserPane, [this](const Event &event) {
-        return SpecialPagesEventHandler(*this, event);
-    });
+    handler = installEventHandler(
+        content, [this](const Event &event) { return SpecialPagesEventHandler(*this, event); });
     return EmbedAndShowControl(content, parentUserPane);
 }
 

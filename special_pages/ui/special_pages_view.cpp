@@ -6,6 +6,7 @@
 #include "popups.h"
 #include "special_pages_summary.h"
 #include "ticket_values.h"
+#include "tool_tip.h"
 
 #include <QLabel>
 #include <QShortcut>
@@ -22,6 +23,7 @@ constexpr int addIconSize = 28, commandIconSize = 20; // logical pixels
 constexpr std::int32_t paneNumber = 1;
 constexpr std::int32_t listNumber = 1000;
 constexpr std::int32_t hintNumber = 1001;
+constexpr std::int32_t coverTraysNumber = 1002;
 
 // A button: its number, the text of its label or its help tag, and its picture.
 struct CommandButton
@@ -74,9 +76,10 @@ void initializeButton(_SpecialPagesContext &panel, const CommandButton &row)
     }
     const QKeySequence keys(QString::fromLatin1(row.shortcut));
     button->setAccessibleName(text);
-    button->setToolTip(keys.isEmpty() ? text
-                                      : QStringLiteral("%1 (%2)").arg(
-                                          text, keys.toString(QKeySequence::NativeText)));
+    setOwnToolTip(button,
+                  keys.isEmpty() ? text
+                                 : QStringLiteral("%1 (%2)").arg(
+                                     text, keys.toString(QKeySequence::NativeText)));
     if (!keys.isEmpty()) {
         auto *shortcut = new QShortcut(keys, panel.content);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
@@ -137,6 +140,7 @@ void findSpecialPagesControls(_SpecialPagesContext &panel, NeededControls &neede
             needed.find<QLabel>(panelID(row.labelNumber));
     }
     needed.find<QLabel>(panelID(hintNumber));
+    panel.coverTrays = needed.find<QLabel>(panelID(coverTraysNumber));
 }
 
 void InitializeSpecialPages(_SpecialPagesContext &panel)
@@ -185,6 +189,10 @@ void UpdateSpecialPagesSummary(_SpecialPagesContext *panel)
     }
     panel->list->reload(static_cast<int>(panel->rows.size()));
     panel->list->selectRows(selectedRows);
+    const QString trays = coverTraysText(panel->device, panel->settings);
+    panel->coverTrays->setText(trays);
+    panel->coverTrays->setVisible(!trays.isEmpty());
+    panel->list->setAccessibleDescription(trays);
     UpdateSpecialPagesCommandButtons(panel);
 }
 

@@ -10,8 +10,9 @@
 // The paper of a job, or of one special page of it.
 namespace kelvo {
 
-// Page sizes, types and colours that mean more than a choice of the PPD. The
-// numbers are ticket values of "PageSize", "MediaType" and "MediaColor".
+// Page sizes, types and colours that mean more than a choice of the PPD or
+// have a picture of their own. The numbers are ticket values of "PageSize",
+// "MediaType" and "MediaColor".
 inline constexpr std::int32_t kStockSizeLetter = 1;
 inline constexpr std::int32_t kStockSizeCustom = 75; // width and length say which
 
@@ -21,15 +22,28 @@ inline constexpr std::int32_t kStockTypePrecutTab = 4; // modulus says how many 
 inline constexpr std::int32_t kStockTypeOrdered = 6;   // customType and modulus say which
 inline constexpr std::int32_t kStockTypeCustom = 7;    // customType says which
 inline constexpr std::int32_t kStockTypeEnvelope = 8;
+inline constexpr std::int32_t kStockTypeLabels = 9;
 inline constexpr std::int32_t kStockTypePunched = 11;
 inline constexpr std::int32_t kStockTypeSystemDefault = 23;
 inline constexpr std::int32_t kStockTypeTab = 24;
+inline constexpr std::int32_t kStockTypeHeavyLabels = 25;
 inline constexpr std::int32_t kStockTypeHeavyTab = 33;
 inline constexpr std::int32_t kStockTypeUnspecified = 34;
+inline constexpr std::int32_t kStockTypeExtraHeavyLabels = 39;
 
 inline constexpr std::int32_t kStockColorWhite = 1;
+inline constexpr std::int32_t kStockColorBlue = 2;
+inline constexpr std::int32_t kStockColorYellow = 3;
+inline constexpr std::int32_t kStockColorGreen = 4;
+inline constexpr std::int32_t kStockColorPink = 5;
 inline constexpr std::int32_t kStockColorClear = 6;
+inline constexpr std::int32_t kStockColorBuff = 7;
+inline constexpr std::int32_t kStockColorGoldenrod = 8;
+inline constexpr std::int32_t kStockColorRed = 9;
 inline constexpr std::int32_t kStockColorCustom = 10; // customColor says which
+inline constexpr std::int32_t kStockColorIvory = 11;
+inline constexpr std::int32_t kStockColorGray = 12;
+inline constexpr std::int32_t kStockColorOrange = 13;
 inline constexpr std::int32_t kStockColorUnspecified = 22;
 
 inline constexpr std::int32_t kStockPrePunched = 2;

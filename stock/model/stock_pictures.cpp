@@ -53,8 +53,8 @@ QString typeOverlay(const Stock &stock)
         return QStringLiteral("Custom%1").arg(stock.type() - 14);
     case 22:
         return QStringLiteral("Other");
-    case 25:
-    case 39:
+    case kStockTypeHeavyLabels:
+    case kStockTypeExtraHeavyLabels:
         return QStringLiteral("LablesHeavyweight"); // the file is spelled so
     case 26:
     case 28:
@@ -82,27 +82,27 @@ QString typeOverlay(const Stock &stock)
 QString stockColorWord(std::int32_t color)
 {
     switch (color) {
-    case 2:
+    case kStockColorBlue:
         return QStringLiteral("Blue");
-    case 3:
+    case kStockColorYellow:
         return QStringLiteral("Yellow");
-    case 4:
+    case kStockColorGreen:
         return QStringLiteral("Green");
-    case 5:
+    case kStockColorPink:
         return QStringLiteral("Pink");
     case kStockColorClear:
         return QStringLiteral("Clear");
-    case 7:
+    case kStockColorBuff:
         return QStringLiteral("Buff");
-    case 8:
+    case kStockColorGoldenrod:
         return QStringLiteral("Goldenrod");
-    case 9:
+    case kStockColorRed:
         return QStringLiteral("Red");
-    case 11:
+    case kStockColorIvory:
         return QStringLiteral("Ivory");
-    case 12:
+    case kStockColorGray:
         return QStringLiteral("Gray");
-    case 13:
+    case kStockColorOrange:
         return QStringLiteral("Orange");
     default:
         return QStringLiteral("White");

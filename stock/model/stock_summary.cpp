@@ -1,6 +1,7 @@
 #include "stock_summary.h"
 
 #include "ppd_choices.h"
+#include "texts.h"
 #include "ticket_values.h"
 
 #include <QStringList>
@@ -123,7 +124,7 @@ QString jobPaperText(const Device &device, const Stock *jobStock)
             part.remove(0, bullet.size());
     }
     parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    return separated(parts);
 }
 
 QString stockSummaryText(const Device &device, JobContext jobContext, const Stock *stock)

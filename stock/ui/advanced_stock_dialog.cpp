@@ -205,7 +205,7 @@ private:
     {
         const QString name = chosenName();
         if (name.isEmpty()
-            || !mayChangeLibrary(m_device.bundle, QStringLiteral("Remove"), name, m_window))
+            || !mayChangeLibrary(m_device.bundle, LibraryChange::Remove, name, m_window))
             return;
         showLibraryProblem(m_device.bundle, removeFromStockLibrary(name), name, m_window);
         m_libraryName.clear();

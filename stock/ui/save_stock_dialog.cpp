@@ -44,7 +44,7 @@ std::optional<QString> RunModalSaveStock(CFBundleRef bundle, const Stock &stock,
 
     dialog->setAcceptRule([bundle, &stock, field, window = dialog.get()] {
         const QString name = field->text().trimmed();
-        if (isInLibrary(name) && !mayChangeLibrary(bundle, QStringLiteral("Replace"), name, window))
+        if (isInLibrary(name) && !mayChangeLibrary(bundle, LibraryChange::Replace, name, window))
             return false;
         const LibraryProblem problem = saveInStockLibrary(name, stock);
         showLibraryProblem(bundle, problem, name, window);

@@ -8,6 +8,7 @@
 #include "stock_menus.h"
 #include "stock_pictures.h"
 #include "stock_summary.h"
+#include "texts.h"
 #include "ticket_places.h"
 
 namespace kelvo {
@@ -144,7 +145,10 @@ void showStockIcon(CFBundleRef bundle, PictureView *icon, const Stock &stock,
         if (!file.isEmpty())
             files << file;
     }
-    icon->setPictures(files, QString(description).replace(u'\n', QLatin1String(", ")));
+    QStringList words;
+    for (const QString &line : description.split(u'\n'))
+        words << (line.startsWith(QLatin1String("- ")) ? line.mid(2) : line);
+    icon->setPictures(files, separated(words));
 }
 
 OSStatus ShowStockSummary(const Device &device, SummaryView *view, const Stock *stock,

@@ -2,6 +2,7 @@
 
 #include "notice.h"
 #include "preferences.h"
+#include "string_table.h"
 #include "ticket_values.h"
 
 #include <QLocale>
@@ -10,16 +11,30 @@ namespace kelvo {
 
 namespace {
 
-// The texts are `key` with " Header" and " Message"; what the user has named is
-// put in as it stands.
-void show(CFBundleRef bundle, const QString &key, const QString &argument, QWidget *parent)
+// The message's place holder, if it has one, is for `argument`.
+void show(CFBundleRef bundle, const char *headerKey, const char *messageKey, QWidget *parent,
+          const QString &argument = {})
 {
-    const auto text = [&](const QString &part) {
-        const QString format = localizedText(bundle, key + part);
-        return format.contains(QLatin1String("%1")) ? format.arg(argument) : format;
-    };
-    CFUserNotificationDisplayNotice(NoticeLevel::Stop, text(QStringLiteral(" Header")),
-                                    text(QStringLiteral(" Message")), {}, parent);
+    CFUserNotificationDisplayNotice(
+        NoticeLevel::Stop, localizedText(bundle, QString::fromLatin1(headerKey)),
+        formatted(localizedText(bundle, QString::fromLatin1(messageKey)), {argument}), {}, parent);
+}
+
+struct Question
+{
+    const char *headerKey, *messageKey, *buttonKey;
+};
+
+Question questionOf(LibraryChange change)
+{
+    switch (change) {
+    case LibraryChange::Replace:
+        return Question{"Library Replace Header", "Library Replace Message",
+                        "Library Replace Button"};
+    case LibraryChange::Remove:
+        return Question{"Library Remove Header", "Library Remove Message", "Library Remove Button"};
+    }
+    return {};
 }
 
 } // namespace
@@ -30,9 +45,11 @@ void showStockProblem(CFBundleRef bundle, StockProblem problem, QWidget *parent)
     case StockProblem::None:
         return;
     case StockProblem::TypeNameMissing:
-        return show(bundle, QStringLiteral("Stock Type Name Missing"), {}, parent);
+        return show(bundle, "Stock Type Name Missing Header", "Stock Type Name Missing Message",
+                    parent);
     case StockProblem::ColorNameMissing:
-        return show(bundle, QStringLiteral("Stock Color Name Missing"), {}, parent);
+        return show(bundle, "Stock Color Name Missing Header", "Stock Color Name Missing Message",
+                    parent);
     }
 }
 
@@ -44,35 +61,34 @@ void showLibraryProblem(CFBundleRef bundle, LibraryProblem problem, const QStrin
     case LibraryProblem::None:
         return;
     case LibraryProblem::NameMissing:
-        return show(bundle, QStringLiteral("Library Name Missing"), {}, parent);
+        return show(bundle, "Library Name Missing Header", "Library Name Missing Message", parent);
     case LibraryProblem::NameTooLong:
-        return show(bundle, QStringLiteral("Library Name Too Long"),
-                    locale.toString(kLongestStockName), parent);
+        return show(bundle, "Library Name Too Long Header", "Library Name Too Long Message", parent,
+                    locale.toString(kLongestStockName));
     case LibraryProblem::Full:
-        return show(bundle, QStringLiteral("Library Full"), locale.toString(kMostLibraryStocks),
-                    parent);
+        return show(bundle, "Library Full Header", "Library Full Message", parent,
+                    locale.toString(kMostLibraryStocks));
     case LibraryProblem::NotFound:
-        return show(bundle, QStringLiteral("Library Not Found"), name, parent);
+        return show(bundle, "Library Not Found Header", "Library Not Found Message", parent, name);
     case LibraryProblem::NotWritten: {
         const Result<QString> path = userPreferencePath(kStockLibraryFile);
-        return show(bundle, QStringLiteral("Library Not Written"),
-                    path ? path.value() : kStockLibraryFile, parent);
+        return show(bundle, "Library Not Written Header", "Library Not Written Message", parent,
+                    path ? path.value() : kStockLibraryFile);
     }
     }
 }
 
-bool mayChangeLibrary(CFBundleRef bundle, const QString &question, const QString &name,
+bool mayChangeLibrary(CFBundleRef bundle, LibraryChange change, const QString &name,
                       QWidget *parent)
 {
-    const auto text = [&](const QString &part) {
-        return localizedText(bundle, QStringLiteral("Library %1 %2").arg(question, part));
+    const auto text = [bundle](const char *key) {
+        return localizedText(bundle, QString::fromLatin1(key));
     };
-    return CFUserNotificationDisplayAlert(NoticeLevel::Caution,
-                                          text(QStringLiteral("Header")).arg(name),
-                                          text(QStringLiteral("Message")),
-                                          {text(QStringLiteral("Button")),
-                                           localizedText(bundle, QStringLiteral("Cancel Command"))},
-                                          parent)
+    const Question question = questionOf(change);
+    return CFUserNotificationDisplayAlert(
+               NoticeLevel::Caution, formatted(text(question.headerKey), {name}),
+               text(question.messageKey), {text(question.buttonKey), text("Cancel Command")},
+               parent)
         == 1;
 }
 

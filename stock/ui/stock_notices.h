@@ -14,8 +14,9 @@ void showStockProblem(CFBundleRef bundle, StockProblem problem, QWidget *parent)
 void showLibraryProblem(CFBundleRef bundle, LibraryProblem problem, const QString &name,
                         QWidget *parent);
 
-// Asks before the library loses something; `question` is "Replace" or "Remove".
-bool mayChangeLibrary(CFBundleRef bundle, const QString &question, const QString &name,
+// Asks before the library loses the stock of that name.
+enum class LibraryChange { Replace, Remove };
+bool mayChangeLibrary(CFBundleRef bundle, LibraryChange change, const QString &name,
                       QWidget *parent);
 
 } // namespace kelvo

@@ -33,6 +33,7 @@ private slots:
     void keepsSecrets();
     void whatAFaxLacksIsTold_data();
     void whatAFaxLacksIsTold();
+    void aBinderThatIsNotThereIsTold();
     void findsSpecialSheets_data();
     void findsSpecialSheets();
     void readsListsAgainWhenTheyChange();
@@ -181,8 +182,8 @@ void TestDescribeJob::saysWhatIsSet_data()
         {"Job type: Fax", "Fax recipients: " + QString("1, ").repeated(19) + "1 and 3 more",
          "Send time: 01/08/2027 21:20", "Confirmation sheet: Do not print a confirmation sheet",
          "Send speed: G4 (automatic)", "Fax resolution: Ultrafine", "Dialing prefix: 9,",
-         "Fax cover sheet: A4 (210 x 297 mm)",
-         "Cover sheet image: “Logo” is not among the cover images here"});
+         "Fax cover sheet: A4 (210 × 297 mm)",
+         "Cover sheet image: “Logo” is not in your list of cover images"});
     row("recipients of a job that is none",
         ticketOf({{"FaxRecipientList", Array{Dictionary{{"LastName", "Lee"}}}},
                   {"FaxOptions", Dictionary{{"Resolution", 4}, {"CoverSheet", true}}}}),
@@ -190,7 +191,7 @@ void TestDescribeJob::saysWhatIsSet_data()
     row("a job type of later days", jobTypeOf({{"JobType", 42}}), {"Job type: 42"});
 
     row("paper by choices", ticketOf({}, {{"MediaColor", "Blue"}, {"MediaType", "Transparency"}}),
-        {"Paper Color: Blue", "Paper Type: Transparency"});
+        {"Paper color: Blue", "Paper type: Transparency"});
     row("paper of the user's own",
         ticketOf({{"JobLevelStock",
                    Dictionary{{"Color", 10},
@@ -199,18 +200,18 @@ void TestDescribeJob::saysWhatIsSet_data()
                               {"CustomType", "Parchment"},
                               {"CustomName", "Deeds"},
                               {"Weight", 120}}}}),
-        {"Paper name: Deeds", "Paper Color: Salmon", "Paper Type: Parchment",
+        {"Paper name: Deeds", "Paper color: Salmon", "Paper type: Parchment",
          "Paper properties: 120 g/m²"});
     row("paper without the names of its own",
         ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"Type", 7}}}}),
-        {"Paper Color: Custom color", "Paper Type: Custom type"});
+        {"Paper color: Custom color", "Paper type: Custom type"});
     row("a stock that choices overrule",
         ticketOf({{"JobLevelStock", Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}}}},
                  {{"MediaColor", "Blue"}}),
-        {"Paper Color: Blue"});
+        {"Paper color: Blue"});
 
     row("sides, as panels read them", ticketOf({{"FinishingDuplex", 2}}, {{"Duplex", "None"}}),
-        {"Two-Sided Printing: 2-Sided Print"});
+        {"Two-sided printing: 2-sided print"});
     row("offset subsets",
         ticketOf({{"FinishingOffset", 4},
                   {"FinishingOffsetEnableSubset", 1},
@@ -222,7 +223,7 @@ void TestDescribeJob::saysWhatIsSet_data()
                   {"FinishingOffsetPagesPerSubset", 12}}),
         {"Offset: No offset, 12 pages per subset"});
     row("offset by both panels", ticketOf({{"FinishingOffset", 3}}, {{"Jog", "EndOfSet"}}),
-        {"Offset: Between sets", "Request Offset: Offset Each Set"});
+        {"Offset: Between sets", "Request offset: Offset each set"});
     row("binding and an instruction",
         ticketOf({{"FinishingBindValue", 3}, {"FinishingCustom", "Trim\n2 mm"}}),
         {"Bind: Right edge", "Finishing instruction: Trim 2 mm"});
@@ -239,11 +240,11 @@ void TestDescribeJob::saysWhatIsSet_data()
                   {"JobLevelStock", Dictionary{{"Size", 5}}}}),
         {"Booklet layout: gutter 24 pt, creep 0, page borders, fit to A3 (297 × 420 mm)"});
     row("a watermark of somebody else", ticketOf({{"watermark.Watermark", "Hall-3 only"}}),
-        {"Watermark: “Hall-3 only” is not among yours, and none is printed"});
+        {"Watermark: “Hall-3 only” is not in your list of watermarks, and none is printed"});
     row("values of later days", ticketOf({{"FinishingOffset", 77}, {"FinishingBindValue", 99}}),
         {"Offset: 77", "Bind: 99"});
     row("the printer's own lightness", ticketOf({{"PrinterDefaultLightness", true}}),
-        {"Lighten/Darken: Printer default"});
+        {"Lighten/darken: Printer default"});
     row("inverted",
         ticketOf({{"InvertImageOptions", Dictionary{{"MirrorImage", 1}, {"NegativeImage", 1}}}}),
         {"Invert image: Mirror image", "Invert image: Negative image"});
@@ -251,10 +252,10 @@ void TestDescribeJob::saysWhatIsSet_data()
         pagesOf(Array{insert(1, 1), insert(0, 30)},
                 Array{exception(5, 8, 2), exception(12, 12), exception(5, 0), "?"},
                 {{"KVFrontCoverSheet", "Tray1"}, {"KVBackCoverSheet", "None"}}),
-        {"Front Cover Source: Tray 1",
+        {"Front cover source: Tray 1",
          "Inserts: after page 1 (Sheets [1]), before page 1 (Sheets [30])",
          "Exception pages: 5–8 (2-sided print), 12 (Use job setting),"
-         " 5 (Covers no page), ?"});
+         " 5 (Applies to no pages), ?"});
 }
 
 void TestDescribeJob::saysWhatIsSet()
@@ -279,8 +280,8 @@ void TestDescribeJob::saysWhatIsSet()
 void TestDescribeJob::saysWhatTheDeviceDoes()
 {
     const QStringList lines = linesOf(describe({}, m_ppd.get()), true);
-    for (const char *line : {"Job type: Normal", "Paper Color: White", "Stapling: No Staple",
-                             "Lighten/Darken: Normal", "Request Offset: No Offset"})
+    for (const char *line : {"Job type: Normal", "Paper color: White", "Stapling: No staple",
+                             "Lighten/darken: Normal", "Request offset: No offset"})
         QVERIFY2(lines.contains(QLatin1String(line)), qPrintable(lines.join('\n')));
     // Nothing that another line has already said otherwise.
     const Ticket job =
@@ -289,7 +290,7 @@ void TestDescribeJob::saysWhatTheDeviceDoes()
                   {"JobLevelStock", Dictionary{{"Color", 10}, {"CustomColor", "Salmon"}}},
                   {"PrinterDefaultLightness", true}});
     const QStringList left = linesOf(describe(job, m_ppd.get()), true);
-    for (const char *label : {"Request Offset", "Paper Color", "Lighten/Darken"})
+    for (const char *label : {"Request offset", "Paper color", "Lighten/darken"})
         QVERIFY2(left.filter(QLatin1String(label)).isEmpty(), label);
 }
 
@@ -353,6 +354,31 @@ void TestDescribeJob::whatAFaxLacksIsTold()
         lineAt(description, {kPMPrintSettingsTicket, keyOf("FaxRecipientList")});
     QVERIFY(line);
     QTEST(line->isLost, "isLost");
+}
+
+void TestDescribeJob::aBinderThatIsNotThereIsTold()
+{
+    const auto bare = PpdFile::open(samplePpd("bare"));
+    QVERIFY(bare);
+    const Ticket ticket = ticketOf({{"FinishingBindValue", 2}});
+    const struct
+    {
+        const PpdFile *ppd;
+        bool isLost;
+        QString words;
+    } rows[] = {
+        {m_ppd.get(), false, "Left edge"},
+        {bare.value().get(), true, "Left edge, but this device has no tape binder"},
+        {nullptr, false, "Left edge"}, // nobody knows
+    };
+    for (const auto &row : rows) {
+        const JobDescription description = describe(ticket, row.ppd);
+        const DescribedSetting *line =
+            lineAt(description, {kPMPrintSettingsTicket, keyOf("FinishingBindValue")});
+        QVERIFY(line);
+        QCOMPARE(line->words, row.words);
+        QCOMPARE(line->isLost, row.isLost);
+    }
 }
 
 void TestDescribeJob::findsSpecialSheets_data()

@@ -141,6 +141,7 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo_data()
     row("FinishingDialogs/ChoiceDialog", "item @moreFinishing 'Fst1'");
     row("FinishingDialogs/OffsetDialog", "item @moreFinishing 'Foff'");
     row("FinishingDialogs/CustomFinishing", "item @moreFinishing 'Fcus'");
+    row("JobNotes/JobNotesPrefs", "panel JobNotes\nclick @jobNotesPreferences");
     row("BookletCreation/BookletFinishingOptions", "item @finishingButton 'Bkcr'");
     row("WatermarkEditor/Window", "panel BookletWatermark\nitem @watermark 'KWmN'");
     row("Separators/Separators", "click @separatorsButton");
@@ -169,7 +170,7 @@ void TestDialogScripts::aDialogThatCannotBeMadeSaysSo()
          {std::pair("", "no such window description"),
           {"<ui", ".ui"},
           {"<ui version=\"4.0\"><widget class=\"QWidget\" name=\"w\"/></ui>",
-           "lacks controls that the window needs: KPDE "}}) {
+           "lacks controls that the window needs: K"}}) {
         if (*damage)
             putFile(description, damage);
         putFile(desk.path("s.kps"),

@@ -3,7 +3,7 @@
 #include "image_options_settings.h"
 #include "image_options_summary.h"
 #include "image_shift.h"
-#include "picture_view.h"
+#include "print_look.h"
 #include "table.h"
 
 #include <QTest>
@@ -60,6 +60,8 @@ private slots:
     void showsWhatTheJobWillHave();
     void keepsATonerSaverOfItsOwn();
     void hasAPictureOfEveryChoice();
+    void looksAsItWillBePrinted_data();
+    void looksAsItWillBePrinted();
     void summarizesForTheDialog();
 };
 
@@ -305,7 +307,6 @@ void TestImageOptions::keepsATonerSaverOfItsOwn()
 
 void TestImageOptions::hasAPictureOfEveryChoice()
 {
-    const QString resources = DeviceSession(QStringLiteral("full")).bundle->resourcesPath();
     QStringList names;
     for (std::int32_t value = -6; value <= 7; ++value)
         names << lightenDarkenPicture(value) << imageQualityPicture(value)
@@ -313,8 +314,6 @@ void TestImageOptions::hasAPictureOfEveryChoice()
               << outputColorCorrectionPicture(value);
     for (const int flags : {0, 1, 2, 3})
         names << invertImagePicture({true, (flags & 1) != 0, (flags & 2) != 0});
-    for (const QString &name : names)
-        QVERIFY2(name.isEmpty() || !pictureFile(resources, name).isEmpty(), qPrintable(name));
 
     // A negative shows the page as it is.
     QCOMPARE(
@@ -327,6 +326,63 @@ void TestImageOptions::hasAPictureOfEveryChoice()
     QCOMPARE(qualities.join(u' '),
              QStringLiteral(" TonerSaver Standard Enhanced TonerSaver Standard Enhanced "));
     QCOMPARE(names.removeAll(QString()), 8 + 2 * 9); // beyond quality 6 and colour 5
+}
+
+void TestImageOptions::looksAsItWillBePrinted_data()
+{
+    const Table<QString, PPDDictionary, QString> row{"device", "choices", "look"};
+
+    row("as it is", "full", {}, "");
+    row("the lightest", "full", {{"KVImageQuality", "Lighten5"}}, "lighter");
+    row("the darkest", "full", {{"KVImageQuality", "Darken5"}}, "darker");
+    row("a lightness that is no step", "full", {{"KVImageQuality", "Pale"}}, "");
+    row("saving toner", "full", {{"KVEconomode", "Draft"}}, "lighter");
+    row("a draft", "full", {{"KVOutputMode", "TonerSaver"}}, "lighter coarse");
+    row("a fast one", "full", {{"KVOutputMode", "HighSpeed"}}, "coarse");
+    row("high quality", "full", {{"KVOutputMode", "HighQuality"}}, "fine");
+    row("high resolution", "mid", {{"KVOutputMode", "HighResolution"}}, ""); // not on this device
+    row("black and white", "full", {{"KVColorMode", "Grayscale"}}, "gray");
+    row("corrected to black and white", "mid", {{"KVColorCorrection", "BlackWhite"}}, "gray");
+    row("as a press prints", "full", {{"KVColorCorrection", "PressMatch"}}, "muted");
+    row("uncorrected", "full", {{"KVColorCorrection", "None"}}, "strong");
+    row("a device without colors", "bare", {{"KVColorCorrection", "None"}}, "gray");
+}
+
+void TestImageOptions::looksAsItWillBePrinted()
+{
+    QFETCH(QString, device);
+    QFETCH(PPDDictionary, choices);
+    const DeviceSession session(device);
+    ImageOptionsSettings settings;
+    readImageOptions(settings, Ticket{{}, choices}, currentDevice());
+    const PrintLook plain = printLook({}, {});
+    const auto words = [&plain](const PrintLook &look) {
+        const int middle = toneCurve(look)[128];
+        const std::pair<bool, const char *> rows[] = {
+            {look.saturation == 0, "gray"},
+            {look.saturation > 0 && look.saturation < 1, "muted"},
+            {look.saturation > 1, "strong"},
+            {middle > 128, "lighter"},
+            {middle < 128, "darker"},
+            {look.fineness < plain.fineness, "coarse"},
+            {look.fineness > plain.fineness, "fine"},
+        };
+        QStringList said;
+        for (const auto &[isSo, word] : rows) {
+            if (isSo)
+                said << QLatin1String(word);
+        }
+        return said.join(u' ');
+    };
+    const PrintLook look = printLook(settings, currentDevice());
+    QTEST(words(look), "look");
+    QCOMPARE(toneCurve(look)[255], 255); // paper takes no toner
+
+    // Of a negative it is the paper that does.
+    settings.invert = {.valid = true, .negative = true, .mirror = true};
+    const PrintLook inverted = printLook(settings, currentDevice());
+    QCOMPARE(toneCurve(inverted)[255], toneCurve(look)[0]);
+    QVERIFY(inverted.isMirrored);
 }
 
 void TestImageOptions::summarizesForTheDialog()
@@ -346,14 +402,14 @@ void TestImageOptions::summarizesForTheDialog()
     settings.outputColorCorrection = 4;
     settings.invert.mirror = true;
     QCOMPARE(summary(QStringLiteral("full"), settings),
-             QStringLiteral("Lighten/darken: Lighten 3|Image quality: High Quality|"
-                            "Toner saver: Conserve Dry Ink|CMYK source color: SWOP|"
-                            "Output color correction: Press Match|Invert image: Mirror image"));
+             QStringLiteral("Lighten/darken: Lighten 3|Image quality: High quality|"
+                            "Toner saver: Use less toner|CMYK source color: SWOP|"
+                            "Output color correction: Press match|Invert image: Mirror image"));
     settings.lightenDarken = kUnset;
     settings.invert.mirror = false;
     QCOMPARE(summary(QStringLiteral("bare"), settings),
-             QStringLiteral("Lighten/darken: Printer default|Image quality: High Quality|"
-                            "Toner saver: Conserve Dry Ink"));
+             QStringLiteral("Lighten/darken: Printer default|Image quality: High quality|"
+                            "Toner saver: Use less toner"));
 }
 
 QTEST_MAIN(TestImageOptions)

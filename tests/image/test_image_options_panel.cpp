@@ -3,12 +3,14 @@
 #include "image_options_panel.h"
 #include "image_options_view.h"
 #include "invert_image_controls.h"
+#include "printed_example.h"
 #include "table.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QSlider>
 #include <QTest>
 
 using namespace kelvo;
@@ -36,6 +38,7 @@ private slots:
     void answersAsEveryPanel();
     void invertsWhereAWindowHasTheControls_data();
     void invertsWhereAWindowHasTheControls();
+    void showsAnExampleOfThePrint();
 };
 
 void TestImageOptionsPanel::answersAsEveryPanel()
@@ -122,6 +125,56 @@ void TestImageOptionsPanel::invertsWhereAWindowHasTheControls()
         QVERIFY(box->isChecked());
     InvertImageTerminate(&context);
     QVERIFY(!context.group && !context.negative && !context.mirror);
+}
+
+// The light of an image on average, from 0 to 255.
+double lightOf(const QImage &image)
+{
+    return qGray(image.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
+}
+
+void TestImageOptionsPanel::showsAnExampleOfThePrint()
+{
+    Panel panel;
+    panel.pane.resize(560, 470);
+    panel.begin();
+    auto *view = panel.find<DrawingView>(2201);
+    const auto shown = [view] { return view->grab().toImage(); };
+    const QImage plain = shown();
+    QVERIFY(!plain.allGray());
+
+    auto *slider = panel.find<QSlider>(1102);
+    QTest::keyClick(slider, Qt::Key_End);
+    QVERIFY(lightOf(shown()) < lightOf(plain));
+    QTest::keyClick(slider, Qt::Key_Home);
+    QVERIFY(lightOf(shown()) > lightOf(plain));
+    QVERIFY(view->accessibleDescription().contains(QStringLiteral("Lighten 5")));
+    panel.find<SpinField>(1104)->setValue(0);
+    panel.find<PopupButton>(1202)->choose(2); // the panel takes the field, and shows all again
+    panel.find<PopupButton>(1202)->choose(1);
+    panel.find<QCheckBox>(2103)->click();
+    QVERIFY(shown() != plain);
+    panel.find<QCheckBox>(2103)->click();
+    QCOMPARE(shown(), plain);
+
+    // Said, though the page looks the same.
+    QVERIFY(panel.find<PopupButton>(1902)->choose(3));
+    const QString source = panel.find<PopupButton>(1902)->shownText();
+    QVERIFY2(view->accessibleDescription().contains(source), qPrintable(source));
+    QCOMPARE(shown(), plain);
+
+    // What another panel has chosen, read when this one is shown.
+    panel.session.session.printSettings().ppdChoices.insert(QStringLiteral("KVColorMode"),
+                                                            QStringLiteral("Grayscale"));
+    QCOMPARE(panel.sync(kSyncRead), noErr);
+    QVERIFY(shown().allGray());
+
+    // Lying or standing, whichever is larger.
+    for (const QSizeF room : {QSizeF(260, 180), QSizeF(260, 400)}) {
+        const QSizeF page = printedExampleSize(room);
+        QCOMPARE(page.width() > page.height(), room.width() > room.height());
+        QVERIFY(page.boundedTo(room) == page);
+    }
 }
 
 QTEST_MAIN(TestImageOptionsPanel)

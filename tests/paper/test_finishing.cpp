@@ -4,7 +4,6 @@
 #include "output_destinations.h"
 #include "paper_output_pictures.h"
 #include "paper_output_settings.h"
-#include "picture_view.h"
 #include "table.h"
 
 #include <QTest>
@@ -58,7 +57,6 @@ private slots:
     void readsChoicesWithoutValue();
     void showsWhatComesOut_data();
     void showsWhatComesOut();
-    void hasItsPictures();
 };
 
 void TestFinishing::offersWhatIsInstalled_data()
@@ -313,35 +311,6 @@ void TestFinishing::showsWhatComesOut()
     context.finishing = finishing;
 
     QTEST(finishingPicture(context), "picture");
-}
-
-// Every name that the rules can come to is a file of the bundle.
-void TestFinishing::hasItsPictures()
-{
-    const DeviceSession device(QString{});
-    QStringList pictures;
-    for (const std::int32_t value : {1, 2, 3, 4, 5, 6, 7, 8, 9}) {
-        pictures << jobTypePicture(value) << punchPicture(value) << colorModePicture(value);
-        for (const std::int32_t booklet : {kBookletOn, kBookletOff}) {
-            PaperOutputSettings context;
-            context.booklet.layout = booklet;
-            context.duplex = value;
-            pictures << duplexPicture(context);
-            for (const std::int32_t fold : {1, 19, 20, 36, 43, 53}) {
-                for (const std::int32_t staple : {1, 5, 6, 10, 12, 54}) {
-                    context.finishing = {.fold = fold, .punch = value};
-                    setStaple(context.finishing, staple);
-                    pictures << finishingPicture(context) << staplePicture(context.finishing);
-                }
-            }
-        }
-    }
-    pictures.removeDuplicates();
-    pictures.removeAll(QString());
-    QVERIFY(pictures.size() > 35);
-    for (const QString &picture : std::as_const(pictures))
-        QVERIFY2(!pictureFile(device.bundle->resourcesPath(), picture).isEmpty(),
-                 qPrintable(picture));
 }
 
 QTEST_GUILESS_MAIN(TestFinishing)

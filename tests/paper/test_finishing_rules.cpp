@@ -247,7 +247,7 @@ void TestFinishingRules::separatorPicturesFollowTheColor_data()
 {
     const Table<int, int, QString> row{"separators", "color", "picture"};
 
-    row("none", 1, 2, "");
+    row("none", 1, 2, "Paper_TransparencySeparators_None.gif");
     row("blank", 2, 8, "Paper_TransparencySeparators_BlnkSeps-Goldenrod.gif");
     row("printed", 3, 13, "Paper_TransparencySeparators_PrntSeps-Orange.gif");
     row("clear paper", 2, 6, "Paper_TransparencySeparators_BlnkSeps-White.gif");

@@ -3,18 +3,22 @@
 #include "bundle.h"
 #include "files.h"
 #include "panel_interface.h"
+#include "picture_view.h"
 #include "popup_button.h"
 #include "sample_ppds.h"
 #include "summary_view.h"
 #include "table.h"
 #include "ticket.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <malloc.h>
 
@@ -34,15 +38,20 @@ class WindowCloser
 public:
     WindowCloser()
     {
-        QObject::connect(&m_timer, &QTimer::timeout, [] {
-            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+                m_closed << dialog->objectName();
                 dialog->reject();
+            }
         });
         m_timer.start();
     }
 
+    const QStringList &closed() const { return m_closed; }
+
 private:
     QTimer m_timer;
+    QStringList m_closed;
 };
 
 // The panel of one sample device, or of a PPD file, in front of its user.
@@ -92,9 +101,11 @@ private slots:
     void showsAgainWhatItWrote_data();
     void showsAgainWhatItWrote();
     void opensAgainAfterItWasClosed();
+    void aJobTypeIsChosenInItsListAlone();
     void offersWhatTheDeviceCanDo_data();
     void offersWhatTheDeviceCanDo();
     void saysWhatTheDeviceDoesNotOffer();
+    void drawsWhatComesOut();
     void summarizesForTheDialog();
     void doesNotGrow();
 
@@ -183,6 +194,42 @@ void TestPaperOutputPanel::opensAgainAfterItWasClosed()
     QCOMPARE(panel.choice(QStringLiteral("KVColorMode")), QStringLiteral("Grayscale"));
 }
 
+// Each opens its set-up, and no key or wheel on the closed pop-up may.
+void TestPaperOutputPanel::aJobTypeIsChosenInItsListAlone()
+{
+    Panel panel(m_factory, QStringLiteral("full"));
+    const WindowCloser closer;
+    PopupButton *popup = panel.popup(kJobType);
+    popup->setFocus();
+    const auto list = [popup] { return popup->view(); };
+    const std::int32_t before = popup->chosenReference();
+    for (const Qt::Key key :
+         {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_End, Qt::Key_Home}) {
+        QTest::keyClick(popup, key);
+        QCOMPARE(popup->chosenReference(), before);
+        QVERIFY2(list()->isVisible(), qPrintable(QKeySequence(key).toString()));
+        QTest::keyClick(list(), Qt::Key_Escape);
+        QVERIFY(!list()->isVisible());
+    }
+    // X gives a letter with Alt a text, too: it is a mnemonic, of another control.
+    QKeyEvent mnemonic(QEvent::KeyPress, Qt::Key_Z, Qt::AltModifier, QStringLiteral("z"));
+    QApplication::sendEvent(popup, &mnemonic);
+    QVERIFY(!list()->isVisible());
+    const QPointF middle = QRectF(popup->rect()).center();
+    QWheelEvent wheel(middle, popup->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(popup, &wheel);
+    QVERIFY(!list()->isVisible());
+    QCOMPARE(popup->chosenReference(), before);
+    QCOMPARE(closer.closed(), QStringList());
+
+    QTest::keyClick(popup, Qt::Key_D); // looked up in the list, as typed there
+    QCOMPARE(popup->chosenReference(), before);
+    QTest::keyClick(list(), Qt::Key_Return);
+    QCOMPARE(popup->chosenReference(), 7);
+    QTRY_COMPARE(closer.closed(), QStringList(QStringLiteral("delayedPrintWindow")));
+}
+
 void TestPaperOutputPanel::offersWhatTheDeviceCanDo_data()
 {
     // option: and another default for it, in the full device's PPD; offered: choices of the PPD
@@ -256,9 +303,37 @@ void TestPaperOutputPanel::saysWhatTheDeviceDoesNotOffer()
         QVERIFY(popup->choose(1));
         QVERIFY(!popup->accessibleDescription().contains(QLatin1String("keeps it")));
     }
-    QCOMPARE(panel.popup(kStapling)->shownText(), QStringLiteral("No Staple"));
+    QCOMPARE(panel.popup(kStapling)->shownText(), QStringLiteral("No staple"));
     QCOMPARE(panel.sync(kSyncWrite), noErr);
     QCOMPARE(ticket.value("StapleLocation"), QStringLiteral("None"));
+}
+
+void TestPaperOutputPanel::drawsWhatComesOut()
+{
+    Panel panel(m_factory, QStringLiteral("full"));
+    const auto shown = [&panel] {
+        return QStringList{panel.find<QLabel>(kPanelSignature, 132)->text(),
+                           panel.find<QWidget>(kPanelSignature, 131)->accessibleDescription()};
+    };
+    // In lines for the eye, in one for the ear.
+    const auto both = [](const QStringList &words) {
+        return QStringList{words.join(u'\n'), words.join(QLatin1String("; "))};
+    };
+    QCOMPARE(shown(), both({"1-sided print"}));
+    QVERIFY(panel.popup(kStapling)->choose(3));
+    QVERIFY(panel.popup(kHolePunch)->choose(2));
+    QCOMPARE(
+        shown(),
+        both({"1-sided print", "2 staples along the left edge", "2 holes along the left edge"}));
+    // The picture beside the staples has the holes as well.
+    QCOMPARE(panel.find<PictureView>(kPanelSignature, 114)->pictures().size(), 2);
+
+    // The dialog turns the pages, and says so when it has the panels write.
+    panel.session.pageFormat().entries[kPMOrientationKey].value = qint64(4);
+    QCOMPARE(panel.sync(kSyncWrite), noErr);
+    QCOMPARE(shown(),
+             both({"1-sided print", "1 staple in the upper left corner",
+                   "2 holes along the left edge"}));
 }
 
 // The shell's own answer is empty: its last panel takes the lines away. The
@@ -285,10 +360,10 @@ void TestPaperOutputPanel::summarizesForTheDialog()
     QCOMPARE(operations.value().GetSummaryText(context, &titles, &texts), noErr);
     QCOMPARE(titles->join(u'|'),
              QStringLiteral("Job type:|Paper:|Two-sided printing:|Output color:|Stapling:|"
-                            "Hole punch:|Output destination:"));
+                            "Hole punching:|Output destination:"));
     QCOMPARE(texts->join(u'|'),
-             QStringLiteral("Normal|- White\n- Plain|1-sided print|Color|No Staple|"
-                            "No Hole Punch|Automatic"));
+             QStringLiteral("Normal|- White\n- Plain|1-sided print|Color|No staple|"
+                            "No hole punch|Automatic"));
     QCOMPARE(operations.value().Terminate(context, noErr), noErr);
 }
 

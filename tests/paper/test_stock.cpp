@@ -1,5 +1,4 @@
 #include "device_session.h"
-#include "picture_view.h"
 #include "stock_menus.h"
 #include "stock_pictures.h"
 #include "stock_summary.h"
@@ -74,7 +73,6 @@ private slots:
     void offersInEachContextWhatFits();
     void followsTheMenu_data();
     void followsTheMenu();
-    void hasAPictureForWhateverADeviceOffers();
     void layersPictures_data();
     void layersPictures();
 };
@@ -221,9 +219,9 @@ void TestStock::summarizes_data()
     tab.setModulus(5);
     row("pre-cut tabs", kJobContextJob, tab, "- White|- Precut tabs (5)");
     tab.setType(kStockTypeTab);
-    row("tab stock of five", kJobContextJob, tab, "- White|- Tab Stock (5)");
+    row("tab stock of five", kJobContextJob, tab, "- White|- Tab stock (5)");
     tab.setModulus(kUnset);
-    row("tab stock", kJobContextJob, tab, "- White|- Tab Stock");
+    row("tab stock", kJobContextJob, tab, "- White|- Tab stock");
     Stock inserted = usual;
     inserted.setSource(kStockSourceInserter);
     row("inserter", kJobContextCovers, inserted, "- Post-print inserter");
@@ -299,24 +297,6 @@ void TestStock::followsTheMenu()
               .arg(text(stock.size()), text(stock.color()), text(stock.type()),
                    text(stock.source()), stock.customName()),
           "after");
-}
-
-void TestStock::hasAPictureForWhateverADeviceOffers()
-{
-    const DeviceSession device(QStringLiteral("full"));
-    Menu types, colors;
-    PopulateStockTypeMenu(types, device.bundle, kJobContextJob);
-    PopulateStockColorMenu(colors, device.bundle, kJobContextJob);
-    QVERIFY(!types.items.empty() && !colors.items.empty());
-    for (const MenuItem &type : types.items) {
-        for (const MenuItem &color : colors.items) {
-            Stock stock = stockOf(1, color.reference, type.reference);
-            stock.setPunched(kStockPrePunched);
-            for (const QString &picture : stockPictures(stock))
-                QVERIFY2(!pictureFile(device.bundle->resourcesPath(), picture).isEmpty(),
-                         qPrintable(picture));
-        }
-    }
 }
 
 void TestStock::layersPictures_data()

@@ -1,11 +1,16 @@
 #include "file_store.h"
+#include "files.h"
 #include "ppd_file.h"
+#include "ppd_translation.h"
+#include "sample_ppds.h"
 #include "size_limits.h"
 #include "table.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace kelvo;
 using namespace Qt::StringLiterals;
@@ -29,6 +34,10 @@ private slots:
     void namesConflicts();
     void readsTextsInTheirEncoding_data();
     void readsTextsInTheirEncoding();
+    void speaksTheLanguagesItLists_data();
+    void speaksTheLanguagesItLists();
+    void speaksTheLanguageOfTheProgram();
+    void linesKeepTheirNumbersBesideTranslations();
     void namesConflictsOfPairs();
     void knowsWhatTheEquipmentRulesOut();
     void resolvesConflicts_data();
@@ -204,6 +213,75 @@ void TestPpdFile::readsTextsInTheirEncoding()
     QTEST(ppd.value()->modelName(), "text");
     QTEST(ppd.value()->findOption("Jog")->text, "text");
     QTEST(ppd.value()->findOption("Jog")->findChoice("None")->text, "text");
+}
+
+void TestPpdFile::speaksTheLanguagesItLists_data()
+{
+    const Table<QString, QString, QString> row{"language", "option", "choice"};
+    row("as it was written", "en", "Stapling", "1 Staple");
+    row("another language", "de", "Heften/lochen", "1 Heftklammer");
+    row("of a country", "de_AT", "Klammern", "1 Klammer");
+    row("of another country", "de_CH", "Heften/lochen", "1 Heftklammer");
+    row("bytes as digits, a text missing", "fr", "Agrafé", "1 Staple");
+    row("not listed", "it", "Stapling", "1 Staple");
+    row("the beginning of one", "d", "Stapling", "1 Staple");
+    row("none", "", "Stapling", "1 Staple");
+}
+
+void TestPpdFile::speaksTheLanguagesItLists()
+{
+    QFETCH(QString, language);
+    const PpdTranslation translation("*PPD-Adobe: \"4.3\"\r\n"
+                                     "*cupsLanguages: \"de fr  de_AT\"\n"
+                                     "*de.Translation Staple/Heften/lochen: \"\"\r\n"
+                                     "*de.Staple  One/1 Heftklammer: \"\"\n"
+                                     "*de.Staple Two: \"no text\"\n"
+                                     "*de_AT.Translation Staple/Klammern: \"\"\r"
+                                     "*de_AT.Staple One/1 Klammer: \"\"\n"
+                                     "*% *fr.Staple One/Une: \"\"\n"
+                                     "*it.Translation Staple/Cucitura: \"\"\n"
+                                     "*fr.Translation Staple/Agraf<C3A9>: \"\"",
+                                     language);
+    QTEST(translation.text("Staple", "Stapling"), "option");
+    QTEST(translation.text("Staple", "One", "1 Staple"), "choice");
+    QCOMPARE(translation.text("Staple", "Two", "2 < 3"), u"2 < 3"_s);
+}
+
+// What is read of a file has no translations, and messages name the file's lines.
+void TestPpdFile::linesKeepTheirNumbersBesideTranslations()
+{
+    QByteArray bytes = bytesOf(samplePpd("full"));
+    bytes.insert(bytes.lastIndexOf("*OpenUI"),
+                 QByteArray("*de.PageSize A4/A4: \"\"\n").repeated(3));
+    const qsizetype last = bytes.lastIndexOf("*OpenUI");
+    bytes.truncate(bytes.indexOf('\n', last) + 1);
+    const auto opened = PpdFile::fromBytes(bytes, "cut.ppd");
+    QVERIFY(!opened);
+    const QString line = QStringLiteral("line %1: ").arg(bytes.left(last).count('\n') + 1);
+    QVERIFY2(opened.error().text().contains(line), qPrintable(line + opened.error().text()));
+}
+
+void TestPpdFile::speaksTheLanguageOfTheProgram()
+{
+    QFile file(testPpd());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll()
+        + "*cupsLanguages: \"de en\"\n"
+          "*en.Translation General/All: \"\"\n"
+          "*en.Translation MediaType/Kind of Paper: \"\"\n"
+          "*en.MediaType CardStock/Board: \"\"\n"
+          "*de.MediaType CardStock/Karton: \"\"\n";
+    const auto ppd = PpdFile::fromBytes(bytes, u"english.ppd"_s);
+    QVERIFY2(ppd, qPrintable(ppd.reason()));
+    const auto &groups = ppd.value()->groups();
+    const auto general = std::ranges::find(groups, u"General"_s, &PpdGroup::name);
+    QVERIFY(general != groups.end());
+    QCOMPARE(general->text, u"All"_s);
+    const PpdOption *media = ppd.value()->findOption(u"MediaType"_s);
+    QCOMPARE(media->text, u"Kind of Paper"_s);
+    QCOMPARE(media->findChoice(u"CardStock"_s)->text, u"Board"_s);
+    QCOMPARE(media->findChoice(u"Transparency"_s)->text,
+             m_ppd->findOption(u"MediaType"_s)->findChoice(u"Transparency"_s)->text);
 }
 
 // The older kind of rule, of two options, each way round.

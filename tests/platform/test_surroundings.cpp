@@ -5,8 +5,12 @@
 #include "system_information.h"
 #include "table.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QTest>
+
+#include <pwd.h>
+#include <unistd.h>
 
 using namespace kelvo;
 using namespace Qt::StringLiterals;
@@ -46,14 +50,19 @@ void TestSurroundings::choosesFoldersFromTheEnvironment_data()
         Variables{{"HOME", "/h"}, {"XDG_CONFIG_HOME", "c"}, {"XDG_DATA_HOME", "d"}},
         "/h/.config/kelvo", "/h/.local/share", site);
     row("our own",
-        Variables{{"KELVO_SUPPORT_DIR", "/s"}, {"KELVO_SITE_DIR", "/t"}, {"XDG_CONFIG_DIRS", "/x"}},
-        "", "/s", QStringList("/t"));
+        Variables{{"HOME", "/h"},
+                  {"KELVO_SUPPORT_DIR", "/s"},
+                  {"KELVO_SITE_DIR", "/t"},
+                  {"XDG_CONFIG_DIRS", "/x"}},
+        "/h/.config/kelvo", "/s", QStringList("/t"));
     row("the system's folders",
         Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", "/etc/site/:etc::/etc/xdg"}},
         "/h/.config/kelvo", "/h/.local/share", {"/etc/site/kelvo", "/etc/xdg/kelvo"});
     row("none of the system's folders", Variables{{"HOME", "/h"}, {"XDG_CONFIG_DIRS", ":etc"}},
         "/h/.config/kelvo", "/h/.local/share", site);
-    row("nothing", Variables(), "", "", site);
+    const QString listed = QFile::decodeName(::getpwuid(::geteuid())->pw_dir);
+    row("the list of users", Variables(), listed + "/.config/kelvo", listed + "/.local/share",
+        site);
     row("root folder", Variables{{"HOME", "/"}}, "/.config/kelvo", "/.local/share", site);
 }
 

@@ -18,6 +18,7 @@ class TestTerminal : public QObject
 private slots:
     void writesOutWhatIsNotSeen_data();
     void writesOutWhatIsNotSeen();
+    void leavesOutPairsOfIsolates();
     void keepsItsOwnTabsAndLineEnds();
     void keepsJsonJson();
 };
@@ -53,6 +54,14 @@ void TestTerminal::writesOutWhatIsNotSeen()
     const StandardError written;
     printLine(stderr, text);
     QCOMPARE(QString::fromUtf8(written.text()), visible + u'\n');
+}
+
+void TestTerminal::leavesOutPairsOfIsolates()
+{
+    const StandardError written;
+    printLine(stderr, u"\u2068a \u2066b\u2069\u2069 c"_s);
+    printLine(stderr, u"\u2068a\u202e\u2069 \u2068b\u2068"_s);
+    QCOMPARE(written.text(), "a b c\na\\u202e \\u2068b\\u2068\n");
 }
 
 void TestTerminal::keepsItsOwnTabsAndLineEnds()

@@ -152,7 +152,7 @@ void TestSettingMaps::everyKeyHasAText()
         QVERIFY2(localizedText(m_bundle, key) != QLatin1String("STRING NOT FOUND"),
                  qPrintable(key));
     QCOMPARE(localizedText(m_bundle, QStringLiteral("0.5\" (8.5x11\" Template)")),
-             QStringLiteral("0.5 in (8.5 x 11 in template)"));
+             QStringLiteral("0.5 in (8.5 × 11 in template)"));
 }
 
 void TestSettingMaps::findsRowsByValue_data()

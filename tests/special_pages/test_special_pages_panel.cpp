@@ -1,10 +1,13 @@
 #include "driven_panel.h"
+#include "mnemonics.h"
 #include "special_pages_context.h"
 #include "special_pages_panel.h"
 #include "special_pages_view.h"
 #include "ticket.h"
 #include "ticket_values.h"
 
+#include <QAbstractButton>
+#include <QLabel>
 #include <QTest>
 
 using namespace kelvo;
@@ -38,6 +41,7 @@ class TestSpecialPagesPanel : public QObject
 
 private slots:
     void answersAsItsProtocolSays();
+    void theWordsBesideAButtonPressIt();
     void forgetsTheUndoOfAnotherTicket();
 };
 
@@ -68,6 +72,43 @@ void TestSpecialPagesPanel::answersAsItsProtocolSays()
     QCOMPARE(text, QString());
     panel.end();
     QVERIFY(!_specialPagesContext);
+}
+
+void TestSpecialPagesPanel::theWordsBesideAButtonPressIt()
+{
+    Panel panel;
+    panel.begin();
+    QList<std::int32_t> hits;
+    const auto handler =
+        installEventHandler(panel.data().content, [&hits](const Event &event) -> OSStatus {
+            if (event.kind != EventKind::ControlHit)
+                return eventNotHandledErr;
+            hits << event.control.number;
+            return noErr;
+        });
+    for (const std::int32_t number : {100, 200, 300}) {
+        auto *button = panel.find<QAbstractButton>(number);
+        auto *label = panel.find<QLabel>(number + 1);
+        QTest::mouseClick(label, Qt::LeftButton);
+        QTest::mouseDClick(label, Qt::LeftButton); // soon after that
+        QTest::mouseRelease(label, Qt::LeftButton);
+        QCOMPARE(std::exchange(hits, {}), QList<std::int32_t>(2, number));
+        QVERIFY(button->hasFocus() || !panel.pane.isActiveWindow());
+
+        QTest::mousePress(label, Qt::LeftButton);
+        QVERIFY(button->isDown());
+        QTest::mouseMove(label, {-500, -500});
+        QVERIFY(!button->isDown());
+        QTest::mouseRelease(label, Qt::LeftButton, {}, {-500, -500});
+        QTest::mouseClick(label, Qt::RightButton);
+        button->setEnabled(false);
+        QVERIFY(!label->isEnabled());
+        QTest::mouseClick(label, Qt::LeftButton);
+        button->setEnabled(true);
+        QVERIFY(label->isEnabled());
+        QCOMPARE(hits, QList<std::int32_t>());
+        QCOMPARE(button->accessibleName(), withoutMnemonic(label->text()));
+    }
 }
 
 // The ticket's own pages stay what they are, and can be undone; others are no undo's.

@@ -113,7 +113,7 @@ void TestSpecialPagesSummary::describesPages_data()
             stock.setType(kStockTypeTab);
             stock.setModulus(5);
         }),
-        "Sheets [3]; Tab Stock (5)");
+        "Sheets [3]; Tab stock (5)");
     row("a colour that the device does not have",
         insertOn([](Stock &stock) { stock.setColor(4711); }), "Sheets [3]");
 
@@ -124,9 +124,9 @@ void TestSpecialPagesSummary::describesPages_data()
     row("an exception's sides and image", exception,
         "2-sided print, flip on short edge; Lighten 2");
     row("an exception without a last page", ExceptionPage(Dictionary{{"StartPage", 5}}),
-        "Covers no page");
+        "Applies to no pages");
     row("an exception before page 1", ExceptionPage(Dictionary{{"SidesImaged", 1}}),
-        "1-sided print; Covers no page");
+        "1-sided print; Applies to no pages");
 }
 
 void TestSpecialPagesSummary::describesPages()

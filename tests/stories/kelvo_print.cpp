@@ -48,12 +48,25 @@ QString Desk::sitePresetFolder() const
 
 Run Desk::run(const QStringList &arguments, const QByteArray &input) const
 {
-    return run(arguments, input, 0);
+    return run(arguments, input, Interrupt());
 }
 
 Run Desk::interrupt(const QStringList &arguments, int afterMs) const
 {
-    return run(arguments, {}, afterMs);
+    return run(arguments, {},
+               [afterMs](QProcess &process) { return !process.waitForFinished(afterMs); });
+}
+
+Run Desk::interrupt(const QStringList &arguments, const QByteArray &sign) const
+{
+    return run(arguments, {}, [&sign](QProcess &process) {
+        process.setReadChannel(QProcess::StandardError);
+        while (process.waitForReadyRead(patienceMs)) {
+            if (process.peek(process.bytesAvailable()).contains(sign))
+                return true;
+        }
+        return false;
+    });
 }
 
 void Desk::prepare(QProcess &process, const QStringList &arguments) const
@@ -67,7 +80,7 @@ void Desk::prepare(QProcess &process, const QStringList &arguments) const
     process.setArguments(words);
 }
 
-Run Desk::run(const QStringList &arguments, const QByteArray &input, int interruptMs) const
+Run Desk::run(const QStringList &arguments, const QByteArray &input, const Interrupt &isToEnd) const
 {
     QProcess process;
     prepare(process, arguments);
@@ -76,7 +89,7 @@ Run Desk::run(const QStringList &arguments, const QByteArray &input, int interru
     process.start();
     process.write(input);
     process.closeWriteChannel();
-    if (interruptMs > 0 && !process.waitForFinished(interruptMs))
+    if (isToEnd && isToEnd(process))
         ::kill(static_cast<pid_t>(process.processId()), SIGINT);
     const bool hasEnded =
         process.state() == QProcess::NotRunning || process.waitForFinished(patienceMs);

@@ -55,9 +55,12 @@ public:
     Run run(const QStringList &arguments, const QByteArray &input = {}) const;
     // The same, with an interrupt after `afterMs`.
     Run interrupt(const QStringList &arguments, int afterMs) const;
+    // The same, as soon as `sign` stands on standard error.
+    Run interrupt(const QStringList &arguments, const QByteArray &sign) const;
 
 private:
-    Run run(const QStringList &arguments, const QByteArray &input, int interruptMs) const;
+    using Interrupt = std::function<bool(QProcess &process)>; // waits; false: none any more
+    Run run(const QStringList &arguments, const QByteArray &input, const Interrupt &isToEnd) const;
 
     QTemporaryDir m_folder;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();

@@ -54,9 +54,10 @@ void TestPanelStories::holdsBackASecurePrintWithoutCode()
     QENDED(alone, 6);
     QCOMPARE(alone.messages(),
              QStringList("kelvo-print: nothing was sent. Check the passcode: The job needs a "
-                         "passcode of 1 to 12 digits, the same in both fields. It is printed when "
-                         "the passcode is entered at the device. Set it in the window (leave out "
-                         "--no-window), or with --script FILE, which takes what is secret from "
+                         "passcode of 1 to 12 digits, the same in both fields under “Set Up…” "
+                         "beside the job type. It is printed when the passcode is entered at the "
+                         "device. Set it in the window (leave out --no-window), or with --script "
+                         "FILE, which takes what is secret from "
                          "--secret NAME=FILE."));
     QVERIFY(!QFile::exists(folder));
 }
@@ -86,9 +87,11 @@ void TestPanelStories::saysThatAWatermarkIsNotHere()
     const Run run = desk.run({"--ppd", samplePpd("full"), "--no-window", documentPath,
                               "--ticket-in", ticket, "--to", desk.path("out")});
     QENDED(run, 0);
-    QCOMPARE(run.messages(),
-             QStringList("kelvo-print: caution: Watermark: “Hall 3 only” is not among yours, and "
-                         "none is printed."));
+    QCOMPARE(
+        run.messages(),
+        QStringList(
+            "kelvo-print: caution: Watermark: “Hall 3 only” is not in your list of watermarks, and "
+            "none is printed."));
     const TicketFile sent = ticketIn(desk.path("out"));
     QVERIFY(!sent.printSettings.entries.contains("com.kelvo.print.watermark.Watermark"));
 }

@@ -110,6 +110,7 @@ private slots:
     void refusesBrokenInputs_data();
     void refusesBrokenInputs();
     void waitsForADeadServerOnlySoLong();
+    void listsQueuesForAShell();
     void printsPlainlyOnlyWhereThereIsNoPpd();
     void endsOnAnInterrupt();
     void keepsWhatTheUserNamed_data();
@@ -117,6 +118,9 @@ private slots:
     void tellsOfAnOutputThatIsFull();
     void endsWhereThereAreNoThreads();
     void endsWhereStandardInputIsClosed();
+    void asksForADocumentWhereNoneIsNamed();
+    void saysThatNoWindowCanBeShown_data();
+    void saysThatNoWindowCanBeShown();
     void hearsShortcutsAfterASetUp();
     void saysThatAPresetCannotBeKept();
     void leavesEachQueueItsOwnDefaults();
@@ -207,7 +211,7 @@ void TestStories::saysWhatARawQueueIsTold()
     QVERIFY(writeTicketFile(desk.path("t.plist"), ticketWith({{"Duplex", "DuplexTumble"}})));
     putFile(desk.path("raw.kps"),
             "expect @waitingText text \"The print server has no description of its settings.\\n"
-            "Copies and pages work as usual. Paper, orientation and collating are passed on; "
+            "Copies and pages work as usual. Paper size, orientation and collating are passed on; "
             "whether they are heeded is up to the printer.\"\n"
             "expect @paper text \"A4\"\nexpect @paper enabled false\n"
             "expect @summary text \"6 pages, 6 sheets\"\n"
@@ -219,7 +223,7 @@ void TestStories::saysWhatARawQueueIsTold()
                               "t.plist", "-o", "media=A4", documentPath});
     QENDED(run, 0);
     QVERIFY(!sentJob().id.isEmpty()); // or the next would count it
-    QVERIFY(run.out.contains("Paper: A4 – passed on"));
+    QVERIFY(run.out.contains("Paper size: A4 – passed on"));
     const QString unknown = "the print server has no description of this printer";
     QVERIFY(run.out.contains("Not sent:\n  Duplex: DuplexTumble – " + unknown));
     QCOMPARE(run.messages(),
@@ -234,7 +238,7 @@ void TestStories::sendsDividersToAQueue()
     QENDED(run, 0);
     QCOMPARE(run.messages(), QStringList());
     for (const char *words :
-         {"Front Cover Source: Tray 1", "Inserts: after page 2 (Sheets [1]; Blue), ",
+         {"Front cover source: Tray 1", "Inserts: after page 2 (Sheets [1]; Blue), ",
           "Exception pages: 5 (Yellow)\n"})
         QVERIFY2(run.out.contains(words), qPrintable(run.out));
 
@@ -533,6 +537,28 @@ void TestStories::waitsForADeadServerOnlySoLong()
     }
 }
 
+void TestStories::listsQueuesForAShell()
+{
+    QCOMPARE(m_cups.addQueue("Zz.1_cellar~", {}, {"-L", "Back  room\tleft", "-D", " "}), QString());
+    QCOMPARE(m_cups.administer({"Zz.1_cellar~"}, "cupsdisable"), QString());
+    QCOMPARE(m_cups.administer({"No-Ticket"}, "cupsreject"), QString());
+    Desk desk;
+    desk.set("LPDEST", "Hall-3");
+    desk.under({"sh", "-c",
+                "\"$@\" | while read -r name state default rest; do "
+                "echo \"[$name][$state][$default][$rest]\"; done",
+                "sh"});
+    const Run run = desk.run({"--list-printers"});
+    QCOMPARE(m_cups.administer({"No-Ticket"}, "cupsaccept"), QString());
+    QCOMPARE(m_cups.administer({"-x", "Zz.1_cellar~"}), QString());
+    QENDED(run, 0);
+    for (const char *line : {"[Hall-3][idle][default][Kelvo Corvane C90\t-]\n",
+                             "[No-Ticket][rejecting][-][Kelvo Corvane N10\t-]\n",
+                             "[Raw][idle][-][Local Raw Printer\t-]\n",
+                             "[Zz.1_cellar~][stopped][-][Local Raw Printer\tBack room left]\n"})
+        QVERIFY2(run.out.contains(QLatin1String(line)), qPrintable(run.out));
+}
+
 void TestStories::printsPlainlyOnlyWhereThereIsNoPpd()
 {
     const Desk desk;
@@ -567,6 +593,24 @@ void TestStories::endsOnAnInterrupt()
     QVERIFY2(sent.ms < 12000, qPrintable(QString::number(sent.ms)));
     QCOMPARE(QDir(desk.path("tmp")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
              QStringList());
+
+    // Nor is it lost silently with the display.
+    QProcess display;
+    display.start(KELVO_XVFB, {"-displayfd", "1"});
+    QVERIFY(display.waitForReadyRead(10'000));
+    desk.unset("QT_QPA_PLATFORM");
+    desk.set("DISPLAY", u':' + QString::fromLatin1(display.readAllStandardOutput().trimmed()));
+    putFile(desk.path("print.kps"), "print\n");
+    QProcess window;
+    desk.prepare(window, {"-d", "Hall-3", "--script", "print.kps", documentPath});
+    window.start();
+    QVERIFY(!window.waitForFinished(2500));
+    display.kill();
+    QVERIFY(display.waitForFinished() && window.waitForFinished(10'000));
+    QCOMPARE(window.exitCode(), 1);
+    const QByteArray told = window.readAllStandardError();
+    QVERIFY2(told.contains("the display has gone away") && told.contains("may have been accepted"),
+             told.constData());
 
     const Run ready = Desk().interrupt({"--demo"}, 700);
     QENDED(ready, 130);
@@ -691,6 +735,67 @@ void TestStories::endsWhereStandardInputIsClosed()
     QVERIFY2(print.err.contains("(stdin): "), qPrintable(print.err));
 }
 
+// As a menu of the desktop starts it, or somebody in a terminal.
+void TestStories::asksForADocumentWhereNoneIsNamed()
+{
+    Desk desk;
+    desk.atStart([] {
+        const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
+        ::unlockpt(terminal);
+        ::dup2(::open(::ptsname(terminal), O_RDWR | O_NOCTTY), STDIN_FILENO);
+    });
+    desk.set("QT_LOGGING_RULES", "qt.accessibility.cache.debug=true"); // tells of each window
+    const Run chooser = desk.interrupt({"--ppd", fullPpd}, QByteArray("\"documentChooser\""));
+    QENDED(chooser, 130);
+    QVERIFY2(!chooser.err.contains("kelvo-print: "), qPrintable(chooser.err));
+
+    const Run nobodyToAsk = desk.run({"--ppd", fullPpd, "--no-window", "--to", "out"});
+    QENDED(nobodyToAsk, 2);
+    QVERIFY2(nobodyToAsk.err.contains("there is no document"), qPrintable(nobodyToAsk.err));
+}
+
+// Qt would abort.
+void TestStories::saysThatNoWindowCanBeShown_data()
+{
+    using Variables = QMap<QString, QString>;
+    // reason: Qt's own, which tells a wrong name from a library that is missing
+    const Table<Variables, QString, QString> row{"display", "message", "reason"};
+    row("none", Variables(), "there is no display to show the dialog on", "");
+    row("unknown platform", Variables{{"QT_QPA_PLATFORM", "nonsense"}}, "QT_QPA_PLATFORM=nonsense",
+        "find the Qt platform plugin \"nonsense\"");
+    row("no X server", Variables{{"DISPLAY", "127.0.0.1:9999"}}, "DISPLAY=127.0.0.1:9999;",
+        "(could not connect to display 127.0.0.1:9999; ");
+    row("no compositor", Variables{{"WAYLAND_DISPLAY", "wayland-77"}},
+        "WAYLAND_DISPLAY=wayland-77;", "the Qt platform plugin \"wayland\"");
+    row("neither of both", Variables{{"DISPLAY", "127.0.0.1:9999"}, {"WAYLAND_DISPLAY", "w\n"}},
+        "WAYLAND_DISPLAY=w\\n, DISPLAY=127.0.0.1:9999;", "the Qt platform plugin \"xcb\"");
+}
+
+void TestStories::saysThatNoWindowCanBeShown()
+{
+    using Variables = QMap<QString, QString>;
+    QFETCH(Variables, display);
+    QFETCH(QString, message);
+    QFETCH(QString, reason);
+    Desk desk;
+    for (const char *name :
+         {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE", "QT_LOGGING_RULES"})
+        desk.unset(name);
+    for (auto variable = display.cbegin(); variable != display.cend(); ++variable)
+        desk.set(variable.key(), variable.value());
+    const Run window = desk.run({"--demo"});
+    QENDED(window, 1);
+    QCOMPARE(window.messages().size(), 1);
+    QVERIFY2(window.err.contains(message) && window.err.contains("--no-window")
+                 && window.err.contains(reason),
+             qPrintable(window.err));
+
+    const Run job = desk.run({"--demo", "--no-window", "--to", "out"});
+    QENDED(job, 0);
+    QCOMPARE(job.err, QString());
+    QENDED(desk.run({"--list-controls"}), 0);
+}
+
 void TestStories::hearsShortcutsAfterASetUp()
 {
     const Desk desk;
@@ -740,7 +845,7 @@ void TestStories::leavesEachQueueItsOwnDefaults()
     const Run bare = desk.run({"-d", "Bare", "--no-window", documentPath});
     QENDED(bare, 0);
     QVERIFY2(bare.err.contains(
-                 "kelvo-print: Stapling: 1 Staple: not sent, this printer does not have it\n"),
+                 "kelvo-print: Stapling: 1 staple: not sent, this printer does not have it\n"),
              qPrintable(bare.err));
 }
 
@@ -811,7 +916,7 @@ void TestStories::missesOfAnotherDevicesTicketWhatWasAsked()
     QStringList messages = bare.messages();
     messages.removeIf([](const QString &line) { return line.startsWith("Expected PPD option"); });
     QCOMPARE(messages,
-             QStringList("kelvo-print: Image Quality: Enhanced: not sent, this printer "
+             QStringList("kelvo-print: Image quality: Enhanced: not sent, this printer "
                          "does not have it"));
     // And back: the second device adds nothing of its own.
     const auto full = readTicketFile(desk.path("full.plist"));
@@ -848,12 +953,12 @@ void TestStories::refusesToPrintAConflict()
     const Run scripted =
         desk.run({"--demo", "--no-window", "--script", "clash.kps", "--to", "out"});
     QENDED(scripted, 3);
-    QVERIFY2(scripted.err.contains("clash.kps:4: ") && scripted.err.contains("Request Offset"),
+    QVERIFY2(scripted.err.contains("clash.kps:4: ") && scripted.err.contains("Request offset"),
              qPrintable(scripted.err));
     const Run plain = desk.run(
         {"--demo", "--no-window", "-o", "Jog=EndOfSet", "-o", "PageSize=Env10", "--to", "out"});
     QENDED(plain, 3);
-    QVERIFY2(plain.err.contains("No. 10 Envelope"), qPrintable(plain.err));
+    QVERIFY2(plain.err.contains("No. 10 envelope"), qPrintable(plain.err));
     QVERIFY(!QFile::exists(desk.path("out")));
 }
 
@@ -910,11 +1015,14 @@ void TestStories::refusesWhatCannotBeDone_data()
     row("panel not shown yet", "click KPDE 1000\n", 3,
         "KPDE 1000 is not in the window; it is in panel SpecialPages");
     row("dialog not open", "click KPDE 8542\n", 3,
-        "KPDE 8542 is not in the window; it is in the dialog \"");
+        "KPDE 8542 is not in the window; it is in the dialog “");
     row("one of several dialogs", "click @okButton\n", 3,
         "@okButton is not in the window; it is in dialogs that are not open");
     row("unknown panel", "panel Advancd\n", 2, "s.kps:1: Advancd: there is no such panel");
-    row("expectation", "expect @copies value 2\n", 2, "s.kps:1: value of @copies is \"1\"");
+    row("expectation", "expect @copies value 2\n", 2, "s.kps:1: value of @copies is “1”");
+    // Its loop is below that of the label whose letter opens it.
+    row("menu that a label has opened", "tab 3\nkey \"Alt+M\"\n", 2,
+        "s.kps:2: a menu or list is open");
     row("pages out of range", "choose @pagesChoice key range\ntype @pages \"9\"\nprint\n", 2,
         "s.kps:3: Pages: The document has pages 1 to 6.");
     row("notice not met", "item @presetMenu 'PsSA'\ntype @presetName \"\"\nclick @ok\n", 1,
@@ -925,7 +1033,13 @@ void TestStories::refusesWhatCannotBeDone_data()
         "no print server can be reached at 127.0.0.1:1:", {documentPath});
     row("no default printer", "print\n", 4, "Name one with -d", {documentPath});
     row("unknown destination", "", 4, "Hall-3", {"-d", "Hal-3", documentPath});
-    row("unknown option name", "", 3, "Jogg", hall + QStringList{"-o", "Jogg=None"});
+    row("unknown option name", "", 2, "Jogg", hall + QStringList{"-o", "Jogg=None"});
+    row("unknown name alone", "", 2, "job-name", hall + QStringList{"-o", "job-name"});
+    row("choice that is not offered", "", 3, "EndOfSet", hall + QStringList{"-o", "Jog=EndOfSe"});
+    row("option that is not offered", "", 3, "own size", hall + QStringList{"-o", "fit-to-page"});
+    row("option of another of these devices", "", 3, "StapleLocation",
+        {"--ppd", samplePpd("bare"), "--to", "out", documentPath, "-o", "noStapleLocation"});
+    row("equipment", "", 3, "lpadmin", hall + QStringList{"-o", "KVFinisher=None"});
     row("no such switch", "", 2, "--ticket-in", hall + QStringList{"--tiket-in", "x"});
     row("unknown preset", "", 2, "Nightly", hall + QStringList{"--preset", "Nightly"});
     row("secret that others can read", "print\n", 2, "0600",

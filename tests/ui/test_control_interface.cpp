@@ -17,6 +17,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -96,6 +97,7 @@ class TestControlInterface : public QObject
 private slots:
     void everyClassAnswersForItself_data();
     void everyClassAnswersForItself();
+    void aKeyComesWithItsText();
     void refusesInAnotherLanguage();
 
 private:
@@ -123,7 +125,7 @@ void TestControlInterface::everyClassAnswersForItself_data()
     const char *const edited = "Menu 'Edit' 20, Command 'Edit' 20, ControlHit: ";
     add<PopupButton>("choose, item", "value 10, index 1, text Plain, items 4, maximum 9",
                      {{"choose 2", "has a divider there, which cannot be chosen"},
-                      {"choose 3", "offers \"Gone\" only disabled"},
+                      {"choose 3", "offers “Gone” only disabled"},
                       {"choose 5", "has 4 rows, not 5"},
                       {"choose 4", edited + QString("value 20, index 4, text Edit")},
                       {"item 20", edited}, // twice edits twice
@@ -133,10 +135,10 @@ void TestControlInterface::everyClassAnswersForItself_data()
                          popup.setMaximum(9);
                      });
     add<MenuButton>("item, choose", "text More, items 6, maximum 6",
-                    {{"choose 1", "offers \"Plain\" only disabled"},
-                     {"choose 5", "opens a submenu with \"Open\"; choose an item in it"},
+                    {{"choose 1", "offers “Plain” only disabled"},
+                     {"choose 5", "opens a submenu with “Open”; choose an item in it"},
                      {"choose 6", "Menu 7: "},
-                     {"choose 8", "does not take \"Inside\""},
+                     {"choose 8", "does not take “Inside”"},
                      {"item 20", "Menu 'Edit' 20, Command 'Edit' 20: "}},
                     [](MenuButton &button) {
                         const MenuItem inside{.text = "Inside", .reference = 7};
@@ -272,7 +274,7 @@ void TestControlInterface::everyClassAnswersForItself()
         const bool isTaken = !problem || problem->failure != inspector::Failure::WrongKind;
         QVERIFY2(isTaken == takes.split(", ").contains(name), qPrintable(name));
         if (!isTaken && !takes.isEmpty())
-            QVERIFY2(problem->text.endsWith("; it takes " + takes), qPrintable(problem->text));
+            QVERIFY2(problem->text.endsWith("; use " + takes), qPrintable(problem->text));
     }
 
     const auto control = make();
@@ -299,9 +301,25 @@ void TestControlInterface::everyClassAnswersForItself()
     QCOMPARE(inspector::set(control.get(), 1)->text, "@it is disabled");
 }
 
+// As from a real keyboard, where Alt takes nothing from the letter.
+void TestControlInterface::aKeyComesWithItsText()
+{
+    struct KeyLog : QWidget
+    {
+        void keyPressEvent(QKeyEvent *event) override { texts << event->text(); }
+        QStringList texts;
+    } window;
+    window.show();
+    const QStringList keys{"Z", "Shift+Z", "Alt+Z", "Ctrl+Z", "Ctrl+1", "F6", "\u00e9"};
+    for (const QString &key : keys)
+        QVERIFY2(!inspector::pressKey(&window, key), qPrintable(key));
+    const QStringList texts{"z", "Z", "z", "\x1a", "", "", "\u00e9"};
+    QCOMPARE(window.texts, texts);
+}
+
 void TestControlInterface::refusesInAnotherLanguage()
 {
-    loadTexts(QStringLiteral(TEXTS), {"xx"});
+    loadTexts(QStringLiteral(TEXTS), {"xx-AT"}); // a kind of it
     const auto backToEnglish = qScopeGuard([] { loadTexts({}, {}); });
     ListView list;
     list.setObjectName("it");

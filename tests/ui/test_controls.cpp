@@ -1,21 +1,33 @@
+#include "accessibility.h"
 #include "angle_dial.h"
+#include "button_label.h"
 #include "control.h"
 #include "control_interface.h"
 #include "event_log.h"
 #include "inspector.h"
 #include "menu_button.h"
+#include "menu_style.h"
 #include "paper_view.h"
 #include "popup_button.h"
 #include "radio_group.h"
+#include "spin_field.h"
 #include "tab_control.h"
 #include "table.h"
+#include "time_field.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QDialog>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QSlider>
 #include <QTest>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -65,16 +77,22 @@ private slots:
     void keysAndWheelSkipWhatCannotBeChosen();
     void theWheelNeedsTheFocus();
     void aHandlerMayFillTheMenuAnew();
+    void escapeClosesTheListAlone();
     void aLongTextDoesNotWidenThePopup();
 
     void aMenuButtonOffersWhatItsUpdateLeaves();
     void aMenuButtonShowsWhatWasChosen();
+    void aLongMenuStaysOnTheScreenAndIsTypedInto();
 
     void aRadioGroupCountsInLayoutOrder();
     void aTabControlTellsTheUsersChangesOnly();
 
     void aDialPointsWhereThePointerIsAndGoesRound();
     void onlyWhatCanBeMovedOnPaperIsMoved();
+
+    void theWordsOfAButtonAreDisabledWithIt();
+    void whatIsTypedElsewhereMayDisableIt();
+    void aReaderIsOfferedAndWritesWhatCanBe();
 };
 
 void TestControls::aControlIDHasOneSpelling_data()
@@ -311,6 +329,24 @@ void TestControls::aHandlerMayFillTheMenuAnew()
     QCOMPARE(seen, (QStringList{"20", "20"}));
 }
 
+void TestControls::escapeClosesTheListAlone()
+{
+    QDialog window;
+    auto *popup = new PopupButton;
+    (new QVBoxLayout(&window))->addWidget(popup);
+    popup->setMenu(stockMenu());
+    window.show();
+    popup->setFocus();
+    popup->showPopup();
+    QVERIFY(popup->view()->isVisible());
+    // The window has the keyboard, as with some Wayland compositors.
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+    QVERIFY(!popup->view()->isVisible());
+    QVERIFY(window.isVisible());
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+    QVERIFY(!window.isVisible());
+}
+
 void TestControls::aLongTextDoesNotWidenThePopup()
 {
     PopupButton popup;
@@ -375,7 +411,58 @@ void TestControls::aMenuButtonOffersWhatItsUpdateLeaves()
     QVERIFY(inner[0]->isChecked() && !inner[1]->isChecked());
     QCOMPARE(log.take(), QStringList());
     inner[1]->trigger();
+    QCOMPARE(log.take(), QStringList()); // whoever triggered it goes on first
+    QCoreApplication::processEvents();
     QCOMPARE(log.take(), (QStringList{"Menu 'KWm1' 5", "Command 'KWm1' 5"}));
+
+    // Filled anew before its turn: chosen is what was picked, and nothing else in its place.
+    button.setMenuUpdate({});
+    const Menu menu = button.menu();
+    const MenuItem picked = menu.items[2].submenu[1];
+    MenuItem another = picked;
+    another.text = "Last";
+    for (const auto &[left, events] : {std::pair{picked, 2}, {another, 0}}) {
+        button.setMenu(menu);
+        emit shown->aboutToShow();
+        shown->actions()[2]->menu()->actions()[1]->trigger();
+        button.setMenu({{left}, nullptr});
+        QCoreApplication::processEvents();
+        QCOMPARE(log.take().size(), events);
+    }
+}
+
+void TestControls::aLongMenuStaysOnTheScreenAndIsTypedInto()
+{
+    keepMenusOnScreen();
+    MenuButton button;
+    Menu papers;
+    for (int i = 0; i < 200; ++i)
+        papers.items.push_back({.text = QStringLiteral("Paper %1").arg(i), .checked = i == 150});
+    papers.items.push_back({.text = "Tab Stock"});
+    papers.items.push_back({.text = "Tabloid", .enabled = false});
+    papers.items.push_back({.text = "Transparency"});
+    button.setMenu(papers);
+    auto *menu = button.findChild<QMenu *>();
+    menu->popup({0, 0});
+    const QSize screen = button.screen()->size();
+    QCOMPARE(menu->size().boundedTo(screen), menu->size());
+    const auto active = [menu] { return menu->activeAction() ? menu->activeAction()->text() : ""; };
+    QTRY_COMPARE(active(), QStringLiteral("Paper 150"));
+    const auto isSeen = [menu] {
+        return menu->rect().contains(menu->actionGeometry(menu->activeAction()));
+    };
+    QVERIFY(isSeen());
+    for (const auto &[typed, line] : {std::pair{"paper 17", "Paper 170"},
+                                      {"t", "Tab Stock"},
+                                      {"t", "Transparency"},
+                                      {"t", "Tab Stock"}}) {
+        QTest::keyClicks(menu, typed);
+        QCOMPARE(active(), QLatin1String(line));
+        QVERIFY(isSeen());
+        if (*typed == 'p')
+            QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    }
+    menu->close();
 }
 
 void TestControls::aRadioGroupCountsInLayoutOrder()
@@ -428,6 +515,112 @@ void TestControls::aTabControlTellsTheUsersChangesOnly()
     turnWheel(&tabs, 1);
     QCOMPARE(tabs.value(), 3);
     QCOMPARE(log.take(), QStringList());
+}
+
+void TestControls::theWordsOfAButtonAreDisabledWithIt()
+{
+    QWidget window;
+    QPushButton button(&window);
+    button.setEnabled(false);
+    QLabel words("Add", &window);
+    words.setBuddy(&button);
+    makePartOfButton(&words);
+    window.show();
+    QVERIFY(!words.isEnabled());
+
+    button.setEnabled(true);
+    QVERIFY(words.isEnabled());
+    QTest::mousePress(&words, Qt::LeftButton);
+    QVERIFY(button.isDown());
+    button.setEnabled(false); // the press is over
+    button.setEnabled(true);
+    QTest::mouseMove(&words, words.rect().center());
+    QSignalSpy clicked(&button, &QPushButton::clicked);
+    QTest::mouseRelease(&words, Qt::LeftButton);
+    QVERIFY(!button.isDown());
+    QCOMPARE(clicked.size(), 0);
+}
+
+// What is typed elsewhere counts first, and may disable what the reader or the script is at.
+void TestControls::whatIsTypedElsewhereMayDisableIt()
+{
+    installAccessibility();
+    QWidget window;
+    QLineEdit field(&window);
+    QComboBox box(&window);
+    box.addItems({"First", "Second"});
+    MenuButton button(&window);
+    button.setMenu(stockMenu());
+    connect(&field, &QLineEdit::editingFinished, &window, [&] {
+        box.setEnabled(false);
+        button.setEnabled(false);
+    });
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const auto type = [&] {
+        box.setEnabled(true);
+        button.setEnabled(true);
+        field.setFocus();
+        QTest::keyClicks(&field, "1");
+    };
+    bool isOpened = false;
+    QMenu *menu = button.QPushButton::menu();
+    connect(menu, &QMenu::aboutToShow, &window, [&isOpened, menu] {
+        isOpened = true;
+        QMetaObject::invokeMethod(menu, &QWidget::close, Qt::QueuedConnection);
+    });
+    type();
+    QAccessible::queryAccessibleInterface(&button)->actionInterface()->doAction(
+        QAccessibleActionInterface::showMenuAction());
+    QCoreApplication::processEvents();
+    QVERIFY(!button.isEnabled());
+    QVERIFY(!isOpened);
+    type();
+    QVERIFY(inspector::choose(&box, {inspector::ItemName::By::Row, 0, {}, 2}));
+    QCOMPARE(box.currentIndex(), 0);
+}
+
+void TestControls::aReaderIsOfferedAndWritesWhatCanBe()
+{
+    installAccessibility();
+    SpinField field;
+    field.setMaximum(9);
+    field.setValue(3);
+    TimeField time;
+    time.setValue(QTime(8, 0));
+    QSlider slider;
+    slider.setRange(0, 5);
+    slider.setValue(3);
+    for (QWidget *control : std::initializer_list<QWidget *>{&field, &time, &slider}) {
+        QAccessibleValueInterface *value =
+            QAccessible::queryAccessibleInterface(control)->valueInterface();
+        const QVariant before = value->currentValue();
+        for (const double number :
+             {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+            value->setCurrentValue(number);
+            QCoreApplication::processEvents();
+            QCOMPARE(value->currentValue(), before);
+        }
+        value->setCurrentValue(2.0);
+        QCoreApplication::processEvents();
+        QCOMPARE(value->currentValue().toDouble(), 2.0);
+    }
+
+    TabControl tabs;
+    tabs.setTitles({"One", "Two", "Three"});
+    tabs.setTabEnabled(2, false);
+    const auto tab = [&tabs](int index) {
+        return QAccessible::queryAccessibleInterface(&tabs)->child(index);
+    };
+    QAccessibleInterface *last = tab(2);
+    const QString press = QAccessibleActionInterface::pressAction();
+    const QString focus = QAccessibleActionInterface::setFocusAction();
+    QCOMPARE(tab(0)->actionInterface()->actionNames(), QStringList({press, focus}));
+    QCOMPARE(tab(1)->actionInterface()->actionNames(), QStringList(press)); // first it is shown
+    QCOMPARE(last->actionInterface()->actionNames(), QStringList());
+    tabs.setTitles({"One"});
+    QVERIFY(!last->isValid());
+    QCOMPARE(last->rect(), QRect());
 }
 
 QTEST_MAIN(TestControls)

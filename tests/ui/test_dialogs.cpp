@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -249,14 +251,16 @@ void TestDialogs::theHelpWindowShowsTheBooksFilesOnly()
     QCOMPARE(showHelp({}, nullptr), fnfErr);
     QVERIFY2(said.startsWith("The folder with the help pages is missing."), qPrintable(said));
     QCOMPARE(AHRegisterHelpBook(nullptr), paramErr);
-    putFile(folder.filePath("help/index.html"), "<title>Contents</title>start");
-    putFile(folder.filePath("help/shell/advanced.html"), "<title>Advanced</title>advanced");
+    putFile(folder.filePath("help/en/index.html"), "<title>Contents</title>start");
+    putFile(folder.filePath("help/en/shell/advanced.html"), "<title>Advanced</title>advanced");
     putFile(folder.filePath("outside.html"), "outside");
-    QVERIFY(QFile::link(folder.filePath("outside.html"), folder.filePath("help/link.html")));
+    QVERIFY(QFile::link(folder.filePath("outside.html"), folder.filePath("help/en/link.html")));
+    putFile(folder.filePath("pictures/Wide.svg"),
+            R"(<svg xmlns="http://www.w3.org/2000/svg" width="160" height="80"/>)");
     addHelpFolder(folder.filePath("help"));
 
     QCOMPARE(DisplayHelp("none.html"), fnfErr);
-    QCOMPARE(DisplayHelp("../outside.html"), fnfErr);
+    QCOMPARE(DisplayHelp("../../outside.html"), fnfErr);
     QCOMPARE(DisplayHelp("link.html"), fnfErr);
     QCOMPARE(DisplayHelp("shell"), fnfErr);
     QTimer::singleShot(0, read);
@@ -274,13 +278,40 @@ void TestDialogs::theHelpWindowShowsTheBooksFilesOnly()
     auto *browser = window->findChild<QTextBrowser *>();
     QCOMPARE(browser->toPlainText(), "advanced");
 
-    browser->setSource(QUrl("../../outside.html"));
+    browser->setSource(QUrl("../../../outside.html"));
     browser->setSource(QUrl("https://example.org/"));
     QCOMPARE(browser->toPlainText(), "advanced");
     browser->setSource(QUrl("../index.html"));
     QCOMPARE(browser->toPlainText(), "start");
     browser->backward();
     QCOMPARE(browser->toPlainText(), "advanced");
+
+    // The search: as it is typed, with keys, until it is cleared.
+    auto *field = window->findChild<QLineEdit *>("helpSearch");
+    auto *results = window->findChild<QListWidget *>();
+    field->setFocus();
+    QTest::keyClicks(field, "a");
+    QCOMPARE(results->count(), 2);
+    QTest::keyClick(field, Qt::Key_Down);
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(browser->toPlainText(), "start");
+    QTest::keyClicks(field, "dv");
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(browser->toPlainText(), "advanced");
+    QTest::keyClicks(field, "q");
+    QVERIFY(!results->isVisible());
+    QTest::keyClick(field, Qt::Key_Escape);
+    QCOMPARE(field->text(), "");
+    QVERIFY(window->isVisible());
+
+    // The bundle's pictures, as high as three lines of text at most.
+    const QVariant picture =
+        browser->loadResource(QTextDocument::ImageResource, QUrl("picture:Wide.svg+None.svg"));
+    QCOMPARE(picture.value<QPixmap>().deviceIndependentSize().toSize(),
+             QSize(2, 1) * browser->fontMetrics().lineSpacing() * 3);
+    QVERIFY(browser->loadResource(QTextDocument::ImageResource, QUrl("picture:../Wide.svg"))
+                .value<QPixmap>()
+                .isNull());
 
     // From a modal dialog it can be used, and it outlives the dialog.
     {

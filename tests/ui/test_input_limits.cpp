@@ -250,7 +250,7 @@ void TestInputLimits::limitsAreToldInWords()
     QCOMPARE(inWords(pin()), "it takes 1 to 4 digits");
     QCOMPARE(inWords({.maximumLength = 31}), "it takes at most 31 characters");
     QCOMPARE(inWords({.allowed = InputLimits::setOf("1-0,")}),
-             "it takes only characters of \",-01\"");
+             "it takes only characters of “,-01”");
     QCOMPARE(inWords({}), "");
 }
 

@@ -18,6 +18,7 @@ private slots:
     void aDoubleClickTellsItsRow();
     void returnActivatesAndKeepsTheSelection();
     void reloadingKeepsThePlaceButNotTheSelection();
+    void theLastColumnCanBeReadToItsEnd();
 };
 
 namespace {
@@ -123,6 +124,49 @@ void TestListView::reloadingKeepsThePlaceButNotTheSelection()
     QCOMPARE(sample.list.rowCount(), 0);
     QCoreApplication::processEvents();
     QCOMPARE(sample.log.take(), QStringList());
+}
+
+// Scrolled to, or made wider by hand and by keys; a short one leaves no gap behind it.
+void TestListView::theLastColumnCanBeReadToItsEnd()
+{
+    QString text = "Tray 1";
+    ListView list;
+    list.setColumns({{"Page", 60}, {"Stock", 100}},
+                    [&text](int, int column) { return column == 0 ? QStringLiteral("1") : text; });
+    list.resize(300, 200);
+    list.reload(2);
+    list.show();
+    list.setFocus();
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    const QScrollBar *bar = list.horizontalScrollBar();
+    QCOMPARE(list.header()->length(), list.viewport()->width());
+    QCOMPARE(bar->maximum(), 0);
+    list.resize(340, 200);
+    QCOMPARE(list.header()->length(), list.viewport()->width());
+
+    text = QStringLiteral("A description of the paper that is rather long; ").repeated(5);
+    list.reload(2);
+    const int most = list.header()->sectionSize(1);
+    QVERIFY(most >= 450 && most < 2 * 450); // grows with the font alone
+    QTRY_VERIFY(bar->maximum() > 0);
+    list.selectRows({0});
+    QTest::keyClick(&list, Qt::Key_Right);
+    QVERIFY(bar->value() > 0);
+
+    QTest::keyClick(&list, Qt::Key_Plus, Qt::ControlModifier);
+    QVERIFY(list.header()->sectionSize(1) >= list.fontMetrics().horizontalAdvance(text));
+
+    QTRY_VERIFY(bar->maximum() > most);
+    list.horizontalScrollBar()->setValue(bar->maximum());
+    QWidget *titles = list.header()->viewport();
+    const QPoint edge(titles->width() - 2, titles->height() / 2);
+    const int before = list.header()->sectionSize(1);
+    QTest::mousePress(titles, Qt::LeftButton, {}, edge);
+    QTest::mouseMove(titles, edge - QPoint(50, 0));
+    QTest::mouseRelease(titles, Qt::LeftButton, {}, edge - QPoint(50, 0));
+    QCOMPARE(list.header()->sectionSize(1), before - 50);
+    list.reload(3); // and stays so
+    QCOMPARE(list.header()->sectionSize(1), before - 50);
 }
 
 QTEST_MAIN(TestListView)

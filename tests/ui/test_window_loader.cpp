@@ -2,11 +2,13 @@
 #include "event_log.h"
 #include "files.h"
 #include "input_limits.h"
+#include "mnemonics.h"
 #include "popup_button.h"
 #include "radio_group.h"
 #include "spin_field.h"
 #include "tab_control.h"
 #include "table.h"
+#include "tool_tip.h"
 #include "window_loader.h"
 
 #include <QGroupBox>
@@ -17,6 +19,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace kelvo;
 
 class TestWindowLoader : public QObject
@@ -26,6 +30,9 @@ class TestWindowLoader : public QObject
 private slots:
     void initTestCase();
     void aWindowIsBuiltWiredAndLocalized();
+    void aRowOfButtonsIsOrderedByTheirCommands();
+    void aLabelNamesItsControl_data();
+    void aLabelNamesItsControl();
     void aFaultyDescriptionFails_data();
     void aFaultyDescriptionFails();
     void aMissingDescriptionFails();
@@ -117,7 +124,12 @@ void TestWindowLoader::aWindowIsBuiltWiredAndLocalized()
     QCOMPARE(label->textFormat(), Qt::PlainText);
     auto *popup = findControl<PopupButton>(label, {kPanelSignature, 102});
     QVERIFY(popup);
-    QCOMPARE(popup->toolTip(), "What the tray holds");
+    QCOMPARE(popup->toolTip(), plainToolTip("What the tray holds"));
+    QCOMPARE(popup->accessibleDescription(), "What the tray holds");
+    setPlainToolTip(popup, "No tray");
+    QCOMPARE(popup->accessibleDescription(), "No tray");
+    setPlainToolTip(popup, {}); // nothing else to be said
+    QCOMPARE(popup->toolTip(), plainToolTip("What the tray holds"));
     QCOMPARE(popup->accessibleName(), "Paper <b>type</b>");
     QCOMPARE(labelOf(popup), label);
     // What stands in a field is not a key.
@@ -143,6 +155,52 @@ void TestWindowLoader::aWindowIsBuiltWiredAndLocalized()
     QCOMPARE(log.take(), (QStringList{"ControlHit", "Command 'ok  '"}));
 }
 
+// However a description lists them.
+void TestWindowLoader::aRowOfButtonsIsOrderedByTheirCommands()
+{
+    QByteArray buttons;
+    for (const QByteArray command : {"ok  ", "own1", "not!", "rvrt", "own2", "Khlp"})
+        buttons += "<widget class=\"QPushButton\" name=\"" + command + "\">"
+            + dynamic("command", command) + text("text", command) + "</widget>";
+    write("T.pde/Resources/dialogs/Set/Row.ui",
+          window("<item><widget class=\"ButtonRow\" name=\"row\">" + buttons + "</widget></item>"));
+    const auto loaded = createWindowFromDescription(m_bundle, "Set", "Row");
+    QVERIFY2(loaded, loaded ? "" : qPrintable(loaded.error().text()));
+    const std::unique_ptr<QWidget> shown(loaded.value());
+    shown->show();
+
+    auto seen = shown->findChildren<QPushButton *>();
+    std::ranges::sort(seen, {}, [](const QPushButton *button) { return button->x(); });
+    const QWidget *next = seen.front();
+    QStringList names;
+    for (const QPushButton *button : std::as_const(seen)) {
+        names << button->objectName();
+        QCOMPARE(next, button); // with Tab
+        do
+            next = next->nextInFocusChain();
+        while (next->focusPolicy() == Qt::NoFocus);
+    }
+    QCOMPARE(names, (QStringList{"Khlp", "rvrt", "own1", "own2", "not!", "ok  "}));
+}
+
+// Beside a label of the tables of any language.
+void TestWindowLoader::aLabelNamesItsControl_data()
+{
+    const Table<QString, QString> row{"label", "name"};
+    row("English", "Paper &source:", "Paper source");
+    row("Japanese", "用紙(&P):", "用紙");
+    row("a blank before the letter", "用紙 (&P)：", "用紙");
+    row("a range before the letter", "ボックス(1～9)(&M):", "ボックス(1～9)");
+    row("words in brackets", "Passcode (&new):", "Passcode (new)");
+    row("its own ampersand", "R&&&D:", "R&D");
+}
+
+void TestWindowLoader::aLabelNamesItsControl()
+{
+    QFETCH(QString, label);
+    QTEST(nameInLabel(label), "name");
+}
+
 void TestWindowLoader::aFaultyDescriptionFails_data()
 {
     const Table<QByteArray, QStringList> row{"bytes", "named"};
@@ -163,7 +221,7 @@ void TestWindowLoader::aFaultyDescriptionFails_data()
                       "<property name=\"controlID\" stdset=\"0\"><number>7</number></property>")),
         {"one"});
     row("malformed command", window(widget("QPushButton", "one", dynamic("command", "ok"))),
-        {"one", "\"ok\""});
+        {"one", "“ok”"});
     row("two faults, both named",
         window(widget("QPushButton", "one", dynamic("command", "ok"))
                + widget("FancyDial", "dial")),

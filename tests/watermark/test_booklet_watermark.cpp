@@ -270,8 +270,6 @@ void TestBookletWatermark::thePictureShowsTheSheets()
     const QString name = bookletPicture(paramsOf(
         {.layout = isOn ? kBookletOn : kBookletOff, .pageBorders = isOutlined ? 2 : 1}, fold));
     QCOMPARE(name, u"BookletCreation_%1.gif"_s.arg(picture));
-    QVERIFY(QFile::exists(u"" KELVO_SOURCE_DIR
-                          "/resources/pictures/BookletCreation_%1.svg"_s.arg(picture)));
 }
 
 void TestBookletWatermark::offersSizesThatAreKnown()

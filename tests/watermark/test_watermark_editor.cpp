@@ -127,19 +127,17 @@ void TestWatermarkEditor::aPictureTurnsOffWhatItDoesNotHave()
     for (const char *name : {"watermarkText", "watermarkFont", "watermarkColor", "watermarkAngle",
                              "watermarkDensity", "watermarkX", "watermarkCenter"})
         steps.push_back(expect(name, "enabled", "false"));
-    for (const Step &step : {click("watermarkPicture"), chooseFile(path),
-                             expect("watermarkPictureName", "text", "logo.png"),
-                             expect("watermarkPictureHint", "text",
-                                    "200 by 100 pixels, printed 2.8 by 1.4 inches large"),
-                             set("watermarkScale", 200),
-                             expect("watermarkPictureHint", "text",
-                                    "200 by 100 pixels, printed 5.6 by 2.8 inches large"),
-                             Step([] {
-                                 QCOMPARE(middleOf(control("watermarkEditorPreview")),
-                                          QColor(Qt::red));
-                                 (void)inspector::drag(control("watermarkEditorPreview"), 72, 0);
-                             }),
-                             expect("watermarkX", "value", "0"), click("okButton")})
+    for (const Step &step :
+         {click("watermarkPicture"), chooseFile(path),
+          expect("watermarkPictureName", "text", "logo.png"),
+          expect("watermarkPictureHint", "text", "200 by 100 pixels, printed at 2.8 by 1.4 inches"),
+          set("watermarkScale", 200),
+          expect("watermarkPictureHint", "text", "200 by 100 pixels, printed at 5.6 by 2.8 inches"),
+          Step([] {
+              QCOMPARE(middleOf(control("watermarkEditorPreview")), QColor(Qt::red));
+              (void)inspector::drag(control("watermarkEditorPreview"), 72, 0);
+          }),
+          expect("watermarkX", "value", "0"), click("okButton")})
         steps.push_back(step);
     QCOMPARE(editor.run(steps), DialogResult::OK);
     QVERIFY(editor.isDone());
@@ -171,7 +169,7 @@ void TestWatermarkEditor::aNameThatCannotBeIsRefused()
         editor.run({click("okButton"), expectNotice("Type the words"),
                     type("watermarkText", "WatermarkListEntries"), click("okButton"),
                     expectNotice("WatermarkListEntries"), type("watermarkText", "DejaVuSans"),
-                    click("okButton"), expectNotice("a font is kept"), set("watermarkKind", 2),
+                    click("okButton"), expectNotice("a font that is kept"), set("watermarkKind", 2),
                     click("okButton"), expectNotice("Choose the picture"), click("cancelButton")}),
         DialogResult::Cancel);
     QVERIFY(editor.isDone());

@@ -5,6 +5,7 @@
 #include "booklet_watermark_settings.h"
 #include "ppd_choices.h"
 #include "string_table.h"
+#include "texts.h"
 #include "ticket_values.h"
 #include "watermark_store.h"
 
@@ -28,7 +29,7 @@ QString bookletWords(const BookletSettings &booklet, const Device &device)
         PPDCopyTextForTicketValue(device.ppd, QStringLiteral("PageSize"), booklet.newSize);
     if (size)
         words << formatted(device.text("New Size in Words"), {*size});
-    return words.join(QStringLiteral(", "));
+    return separated(words);
 }
 
 void describeBooklet(BookletSettings booklet, PanelDescription &panel, JobDescription &description)

@@ -269,7 +269,7 @@ Result<std::vector<QByteArrayView>> readGlyphNames(const PostTable &post, int gl
     if (stringsAt > table.size())
         return Error{
             Error::Code::Damaged, QString(),
-            translate("Font", "the table post ends within the numbers of the glyphs' names")};
+            translate("Font", "the table post ends within the numbers of the glyphs’ names")};
 
     // Each with its length before it. Strings that no 16-bit number names are not read.
     constexpr std::size_t most = 0x10000 - macGlyphEncoding.size();

@@ -1,6 +1,7 @@
 #include "color_field.h"
 
 #include "input_limits.h"
+#include "modal_dialog.h"
 
 #include <QColorDialog>
 #include <QLineEdit>
@@ -56,7 +57,7 @@ void ColorField::choose()
     QColorDialog dialog(m_color, m_well->window());
     dialog.setObjectName(QStringLiteral("colorDialog"));
     dialog.setWindowTitle(m_well->accessibleName());
-    if (dialog.exec() != QDialog::Accepted)
+    if (runChooser(dialog) != QDialog::Accepted)
         return;
     m_field->clear(); // of what was begun
     m_color = {};

@@ -100,8 +100,8 @@ void showFont(PopupButton *popup, const QString &postScriptName, const QString &
 
 QString chosenFont(const PopupButton *popup)
 {
-    const int value = popup->value();
-    return value == 0 ? QString() : popup->menu().items[static_cast<std::size_t>(value - 1)].key;
+    const MenuItem *item = popup->chosenItem();
+    return item ? item->key : QString();
 }
 
 } // namespace kelvo

@@ -3,7 +3,9 @@
 #include "color_field.h"
 #include "control.h"
 #include "dialog_window.h"
+#include "file_name_filter.h"
 #include "font_menu.h"
+#include "modal_dialog.h"
 #include "notice.h"
 #include "spin_field.h"
 #include "ticket_values.h"
@@ -120,7 +122,7 @@ bool WatermarkEditor::makeWindow(QWidget *parent)
     m_controls.overPage->setEnabled(hasPage);
     m_controls.overPage->setChecked(hasPage);
     if (!hasPage)
-        m_controls.overPage->setToolTip(text("Watermark No Page"));
+        setPlainToolTip(m_controls.overPage, text("Watermark No Page"));
     showPageBelow();
     showWatermarkFont(m_controls, m_device, m_watermark);
     changeTo(m_watermark, true);
@@ -203,7 +205,7 @@ void WatermarkEditor::showPicture()
         name = text("Watermark Picture None");
     m_controls.pictureName->setText(name);
     m_controls.pictureHint->setText(hint);
-    m_controls.pictureHint->setToolTip(plainToolTip(hint)); // a long reason is cut
+    setPlainToolTip(m_controls.pictureHint, hint); // a long reason is cut
     m_controls.preview->setAccessibleDescription(watermarkName(m_watermark));
 }
 
@@ -302,17 +304,16 @@ void WatermarkEditor::choosePicture()
     chooser.setObjectName(QStringLiteral("pictureChooser"));
     chooser.setFileMode(QFileDialog::ExistingFile);
     chooser.setNameFilters(
-        {text("Watermark Picture Kinds").replace(u'(', QString()).replace(u')', QString())
-             + QStringLiteral(" (*.png *.jpg *.jpeg *.gif *.bmp *.tif *.tiff *.svg *.PNG *.JPG "
-                              "*.JPEG *.GIF *.BMP *.TIF *.TIFF *.SVG)"),
-         text("Watermark All Files") + QStringLiteral(" (*)")});
+        {fileNameFilter(text("Watermark Picture Kinds"),
+                        {"png", "jpg", "jpeg", "gif", "bmp", "tif", "tiff", "svg"}),
+         fileNameFilter(text("Watermark All Files"), {})});
     chooser.setDirectory(before.isEmpty()
                              ? QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)
                              : QFileInfo(before).absolutePath());
     // At once: whoever comes next finds the picture, or that it is being read.
     QObject::connect(&chooser, &QFileDialog::fileSelected, &chooser,
                      [this](const QString &path) { takePicture(path); });
-    chooser.exec();
+    runChooser(chooser);
 }
 
 void WatermarkEditor::takePicture(const QString &path)

@@ -6,6 +6,7 @@
 #include "hint_text.h"
 #include "input_limits.h"
 #include "string_table.h"
+#include "tool_tip.h"
 
 #include <QLocale>
 
@@ -88,8 +89,7 @@ void setOn(std::initializer_list<QWidget *> controls, bool isOn, const QString &
 {
     for (QWidget *control : controls) {
         setEnabledWithLabel(control, isOn);
-        control->setToolTip(isOn ? QString() : why);
-        control->setAccessibleDescription(isOn ? QString() : why);
+        setPlainToolTip(control, isOn ? QString() : why);
     }
 }
 

@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Cover Sender Name</source>
-        <translation>Sender's name</translation>
+        <translation>Sender’s name</translation>
     </message>
     <message>
         <source>Cover Sender Organization:</source>
@@ -26,7 +26,7 @@
     </message>
     <message>
         <source>Cover Sender Organization</source>
-        <translation>Sender's organization</translation>
+        <translation>Sender’s organization</translation>
     </message>
     <message>
         <source>Cover Sender Email:</source>
@@ -34,7 +34,7 @@
     </message>
     <message>
         <source>Cover Sender Email</source>
-        <translation>Sender's e-mail address</translation>
+        <translation>Sender’s e-mail address</translation>
     </message>
     <message>
         <source>Cover Sender Phone:</source>
@@ -42,7 +42,7 @@
     </message>
     <message>
         <source>Cover Sender Phone</source>
-        <translation>Sender's phone number</translation>
+        <translation>Sender’s phone number</translation>
     </message>
     <message>
         <source>Cover Sender Fax:</source>
@@ -50,7 +50,7 @@
     </message>
     <message>
         <source>Cover Sender Fax</source>
-        <translation>Sender's fax number</translation>
+        <translation>Sender’s fax number</translation>
     </message>
     <message>
         <source>Cover My Card</source>
@@ -70,7 +70,7 @@
     </message>
     <message>
         <source>Cover My Card No Thread</source>
-        <translation>the system has no thread to ask the address book on; close other programs</translation>
+        <translation>the system cannot start another task; close other programs</translation>
     </message>
     <message>
         <source>Cover Recipients:</source>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>Cover Preview No Font</source>
-        <translation>Some characters are in no font of this computer, so they are left out here: %1.</translation>
+        <translation>Some characters are not in any font on this computer, so they are left out here: %1.</translation>
     </message>
     <message>
         <source>Cover Preview Image Lost</source>
@@ -144,7 +144,7 @@
     </message>
     <message>
         <source>Cover Preview No Thread</source>
-        <translation>The preview cannot be drawn: the system has no thread for it. Close other programs.</translation>
+        <translation>The preview cannot be drawn: the system cannot start another task. Close other programs.</translation>
     </message>
 </context>
 <context>

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Recipient Mailbox Hint</source>
-        <translation>A mailbox of the receiving device. Empty: its tray.</translation>
+        <translation>A mailbox on the receiving device. If empty, the fax goes to its tray.</translation>
     </message>
     <message>
         <source>Fax Number Missing Hint</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Fax Number Not Dialable Hint</source>
-        <translation>Nothing of this can be dialed.</translation>
+        <translation>None of these characters can be dialed.</translation>
     </message>
     <message>
         <source>Fax Number Dialed Hint</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Fax Number Not Dialable Message</source>
-        <translation>Nothing of “%1” can be dialed. Type digits; * # = : ! , / S $ &lt; &gt; A B C D are dialed, too.</translation>
+        <translation>No character of “%1” can be dialed. Type digits; * # = : ! , / S $ &lt; &gt; A B C D are dialed, too.</translation>
     </message>
     <message>
         <source>Address Book Title</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Books Unread</source>
-        <translation>Not among them: %1.</translation>
+        <translation>These address books could not be read: %1.</translation>
     </message>
     <message>
         <source>Address Book Unread</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>Address Book Empty</source>
-        <translation>There is nobody in the address book.</translation>
+        <translation>The address book is empty.</translation>
     </message>
     <message>
         <source>Recent Empty</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Nobody Found</source>
-        <translation>Nobody is found.</translation>
+        <translation>Nobody was found.</translation>
     </message>
     <message>
         <source>One Without Fax Number</source>
@@ -229,11 +229,11 @@
     </message>
     <message>
         <source>One Already There</source>
-        <translation>1 was left out who is in the list already.</translation>
+        <translation>1 was left out because it is already in the list.</translation>
     </message>
     <message>
         <source>People Already There</source>
-        <translation>%1 were left out who are in the list already.</translation>
+        <translation>%1 were left out because they are already in the list.</translation>
     </message>
     <message>
         <source>One Not Added Again</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Clear Recent Message</source>
-        <translation>They cannot be brought back. The list of this fax stays as it is.</translation>
+        <translation>This cannot be undone. The list of this fax stays as it is.</translation>
     </message>
     <message>
         <source>Clear Recent Failed</source>
@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>Clear Recent Failed Message</source>
-        <translation>Look whether the folder of your preferences can be written.</translation>
+        <translation>Check whether the folder of your preferences can be written to.</translation>
     </message>
     <message>
         <source>Clear Recent</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>No Thread to Read With</source>
-        <translation>The system has no thread to read with; close other programs and try again.</translation>
+        <translation>The system cannot start another task; close other programs and try again.</translation>
     </message>
 </context>
 </TS>

@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Booklet Creation...</source>
-        <translation>Booklet creation…</translation>
+        <translation>Booklet Creation…</translation>
     </message>
     <message>
         <source>Booklet Fold</source>
@@ -37,8 +37,16 @@
         <translation>Co&amp;vers…</translation>
     </message>
     <message>
+        <source>Covers Tip</source>
+        <translation>Sheets of other paper before and after the document</translation>
+    </message>
+    <message>
         <source>Separators Option</source>
         <translation>Separators…</translation>
+    </message>
+    <message>
+        <source>Separators Tip</source>
+        <translation>Sheets of paper between transparencies</translation>
     </message>
     <message>
         <source>Separators</source>
@@ -47,15 +55,15 @@
     <!-- The menu of further finishing -->
     <message>
         <source>1 Staple...</source>
-        <translation>1 staple…</translation>
+        <translation>1 Staple…</translation>
     </message>
     <message>
         <source>2 Staples...</source>
-        <translation>2 staples…</translation>
+        <translation>2 Staples…</translation>
     </message>
     <message>
         <source>Hole Punch...</source>
-        <translation>Hole punch…</translation>
+        <translation>Hole Punch…</translation>
     </message>
     <message>
         <source>Fold...</source>
@@ -63,15 +71,15 @@
     </message>
     <message>
         <source>Advanced Fold...</source>
-        <translation>Advanced fold…</translation>
+        <translation>Advanced Fold…</translation>
     </message>
     <message>
         <source>Z Fold...</source>
-        <translation>Z-fold…</translation>
+        <translation>Z-Fold…</translation>
     </message>
     <message>
         <source>Bind...</source>
-        <translation>Bind…</translation>
+        <translation>Tape Binding…</translation>
     </message>
     <message>
         <source>Offset...</source>
@@ -79,16 +87,16 @@
     </message>
     <message>
         <source>Custom Finishing...</source>
-        <translation>Custom finishing…</translation>
+        <translation>Custom Finishing…</translation>
     </message>
     <!-- Staples -->
     <message>
         <source>1 Staple Title</source>
-        <translation>1 staple</translation>
+        <translation>1 Staple</translation>
     </message>
     <message>
         <source>2 Staples Title</source>
-        <translation>2 staples</translation>
+        <translation>2 Staples</translation>
     </message>
     <message>
         <source>Staples:</source>
@@ -113,7 +121,7 @@
     <!-- Holes -->
     <message>
         <source>Hole Punch Title</source>
-        <translation>Hole punch</translation>
+        <translation>Hole Punch</translation>
     </message>
     <message>
         <source>Holes:</source>
@@ -150,11 +158,11 @@
     </message>
     <message>
         <source>Advanced Fold Title</source>
-        <translation>Advanced fold</translation>
+        <translation>Advanced Fold</translation>
     </message>
     <message>
         <source>Z Fold Title</source>
-        <translation>Z-fold</translation>
+        <translation>Z-Fold</translation>
     </message>
     <message>
         <source>Fold:</source>
@@ -191,7 +199,7 @@
     <!-- Binding -->
     <message>
         <source>Bind Title</source>
-        <translation>Tape binding</translation>
+        <translation>Tape Binding</translation>
     </message>
     <message>
         <source>Bind:</source>
@@ -290,7 +298,7 @@
     <!-- Custom finishing -->
     <message>
         <source>Custom Finishing Title</source>
-        <translation>Custom finishing</translation>
+        <translation>Custom Finishing</translation>
     </message>
     <message>
         <source>Finishing Label</source>
@@ -311,7 +319,7 @@
     <!-- Separators -->
     <message>
         <source>Separators Title</source>
-        <translation>Transparency separators</translation>
+        <translation>Transparency Separators</translation>
     </message>
     <message>
         <source>Separator Hint</source>
@@ -343,7 +351,7 @@
     </message>
     <message>
         <source>Separator Color Hint</source>
-        <translation>Changes the picture only. The color of the separators is that of the paper in the source.</translation>
+        <translation>Changes the picture only. The separators have the color of the paper in the source.</translation>
     </message>
 
     <!-- What print dialogs say of a job -->
@@ -352,8 +360,68 @@
         <translation>%1, %2 pages per subset</translation>
     </message>
     <message>
+        <source>Bind Absent in Words</source>
+        <translation>%1, but this device has no tape binder</translation>
+    </message>
+    <message>
         <source>Slip Sheets in Words</source>
         <translation>Slip sheets:</translation>
+    </message>
+    <message>
+        <source>Finished Set Spoken</source>
+        <translation>How the sheets come out</translation>
+    </message>
+    <message>
+        <source>1 Staple in Corner</source>
+        <translation>1 staple in the upper left corner</translation>
+    </message>
+    <message>
+        <source>2 Staples at Edge</source>
+        <translation>2 staples along the left edge</translation>
+    </message>
+    <message>
+        <source>Multiple Staples at Edge</source>
+        <translation>Several staples along the left edge</translation>
+    </message>
+    <message>
+        <source>2 Holes at Edge</source>
+        <translation>2 holes along the left edge</translation>
+    </message>
+    <message>
+        <source>3 Holes at Edge</source>
+        <translation>3 holes along the left edge</translation>
+    </message>
+    <message>
+        <source>4 Holes at Edge</source>
+        <translation>4 holes along the left edge</translation>
+    </message>
+    <message>
+        <source>Holes Set at Device</source>
+        <translation>Holes as set at the device</translation>
+    </message>
+    <message>
+        <source>Tape at Left Edge</source>
+        <translation>Tape along the left edge</translation>
+    </message>
+    <message>
+        <source>Tape at Right Edge</source>
+        <translation>Tape along the right edge</translation>
+    </message>
+    <message>
+        <source>Tape at Top Edge</source>
+        <translation>Tape along the top edge</translation>
+    </message>
+    <message>
+        <source>Sets Lie Offset</source>
+        <translation>Sets offset</translation>
+    </message>
+    <message>
+        <source>Subsets Lie Offset</source>
+        <translation>Subsets offset</translation>
+    </message>
+    <message>
+        <source>Sets and Subsets Lie Offset</source>
+        <translation>Sets and subsets offset</translation>
     </message>
 </context>
 </TS>

@@ -60,6 +60,10 @@
         <translation>&amp;Use the printer’s default</translation>
     </message>
     <message>
+        <source>Printer Default Tip</source>
+        <translation>Sends no lightness with the job: the device’s own setting counts.</translation>
+    </message>
+    <message>
         <source>Printer Default Words</source>
         <translation>The printer’s default is “%1”.</translation>
     </message>
@@ -81,11 +85,11 @@
     </message>
     <message>
         <source>Conserve Dry Ink</source>
-        <translation>Conserve dry in&amp;k</translation>
+        <translation>Use &amp;less toner</translation>
     </message>
     <message>
         <source>Conserve Dry Ink Spoken</source>
-        <translation>Toner saver: conserve dry ink</translation>
+        <translation>Toner saver: use less toner</translation>
     </message>
     <message>
         <source>Toner Saver Hint</source>
@@ -129,7 +133,15 @@
     </message>
     <message>
         <source>Negative Image Hint</source>
-        <translation>The ticket asks for a negative, and keeps it.</translation>
+        <translation>The job asks for a negative, and keeps it.</translation>
+    </message>
+    <message>
+        <source>Image Example</source>
+        <translation>How a page would be printed</translation>
+    </message>
+    <message>
+        <source>Image Example Caption</source>
+        <translation>Example; colors on paper may differ.</translation>
     </message>
 </context>
 </TS>

@@ -31,7 +31,7 @@
     <!-- Secure print -->
     <message>
         <source>SecurePrintSetupTitle</source>
-        <translation>Secure print setup</translation>
+        <translation>Secure Print Setup</translation>
     </message>
     <message>
         <source>Secure Print Hint</source>
@@ -57,7 +57,7 @@
     <!-- Saved job -->
     <message>
         <source>Save to Mailbox Title</source>
-        <translation>Saved job setup</translation>
+        <translation>Saved Job Setup</translation>
     </message>
     <message>
         <source>Job Name:</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Mailbox Elsewhere Hint</source>
-        <translation>The job is kept in %1, which is none of the mailboxes. Enter a number to keep it in one.</translation>
+        <translation>The job is kept in %1, which is not one of the mailboxes. Enter a number to keep it in one.</translation>
     </message>
     <message>
         <source>Mailbox Not Elsewhere Hint</source>

@@ -5,11 +5,11 @@
     <name>LANFax</name>
     <message>
         <source>Duplicate Recipient Header</source>
-        <translation>This recipient is in the list already</translation>
+        <translation>This recipient is already in the list</translation>
     </message>
     <message>
         <source>Duplicate Recipient Message</source>
-        <translation>%1 (%2) already gets this fax. Do you want to add the same recipient once more?</translation>
+        <translation>%1 (%2) already gets this fax. Do you want to add this recipient once more?</translation>
     </message>
     <message>
         <source>Remove One Recipient Header</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>LAN Fax Title</source>
-        <translation>LAN Fax</translation>
+        <translation>Fax Setup</translation>
     </message>
     <message>
         <source>Fax Tabs</source>
@@ -128,12 +128,24 @@
         <translation>&amp;Confirmation sheet:</translation>
     </message>
     <message>
+        <source>Confirmation Sheet Tip</source>
+        <translation>The device prints a sheet that says whether the fax arrived.</translation>
+    </message>
+    <message>
         <source>Send Speed:</source>
         <translation>Sen&amp;d speed:</translation>
     </message>
     <message>
+        <source>Send Speed Tip</source>
+        <translation>Automatic is right for nearly all; a fixed speed helps where a line is bad.</translation>
+    </message>
+    <message>
         <source>Fax Resolution:</source>
         <translation>&amp;Fax resolution:</translation>
+    </message>
+    <message>
+        <source>Fax Resolution Tip</source>
+        <translation>Finer pages are easier to read and take longer to send.</translation>
     </message>
     <message>
         <source>Send Time:</source>
@@ -241,7 +253,7 @@
     </message>
     <message>
         <source>Group Not Saved Message</source>
-        <translation>The address book did not take all of it. Try again, or look whether the address book can be written.</translation>
+        <translation>The address book did not take all of it. Try again, or check whether the address book can be written to.</translation>
     </message>
     <message>
         <source>Required Field Header</source>
@@ -261,11 +273,11 @@
     </message>
     <message>
         <source>Prompt Duplicate Recipient</source>
-        <translation>a recipient is &amp;added who is in the list already</translation>
+        <translation>&amp;adding a recipient who is already in the list</translation>
     </message>
     <message>
         <source>Prompt Remove Recipient</source>
-        <translation>recipients are &amp;removed</translation>
+        <translation>&amp;removing recipients</translation>
     </message>
     <message>
         <source>Nameless in Words</source>
@@ -305,7 +317,7 @@
     </message>
     <message>
         <source>Cover Image Absent in Words</source>
-        <translation>“%1” is not among the cover images here</translation>
+        <translation>“%1” is not in your list of cover images</translation>
     </message>
 </context>
 </TS>

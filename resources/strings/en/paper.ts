@@ -20,8 +20,16 @@
         <translation>&amp;Job type:</translation>
     </message>
     <message>
+        <source>Job Type Tip</source>
+        <translation>A secure print waits at the device for a passcode, and a delayed print for a time. Of a sample set one copy is printed, and the others wait until you have looked at it. A saved job stays at the device.</translation>
+    </message>
+    <message>
         <source>Job Type Setup</source>
-        <translation>Set up…</translation>
+        <translation>Set Up…</translation>
+    </message>
+    <message>
+        <source>Job Type Setup Tip</source>
+        <translation>Passcode, time, mailbox or fax recipients, as the job type needs them</translation>
     </message>
     <message>
         <source>Paper Summary:</source>
@@ -33,7 +41,7 @@
     </message>
     <message>
         <source>Stock Menu Title</source>
-        <translation>Change paper</translation>
+        <translation>Change Paper</translation>
     </message>
     <message>
         <source>Two Sided Printing:</source>
@@ -49,7 +57,7 @@
     </message>
     <message>
         <source>Hole Punch:</source>
-        <translation>Ho&amp;le punch:</translation>
+        <translation>Ho&amp;le punching:</translation>
     </message>
     <message>
         <source>Output Destination:</source>
@@ -65,11 +73,15 @@
     </message>
     <message>
         <source>Finishing Menu Title</source>
-        <translation>Change finishing</translation>
+        <translation>Change Finishing</translation>
     </message>
     <message>
         <source>More Finishing Menu Title</source>
-        <translation>&amp;More finishing</translation>
+        <translation>&amp;More Finishing</translation>
+    </message>
+    <message>
+        <source>More Finishing Tip</source>
+        <translation>Windows that show each kind of finishing and say what it needs</translation>
     </message>
     <message>
         <source>No Finishing Devices</source>

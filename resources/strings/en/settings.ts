@@ -102,7 +102,7 @@
     </message>
     <message>
         <source>Setup...</source>
-        <translation>Set up…</translation>
+        <translation>Set Up…</translation>
     </message>
     <message>
         <source>No Page Borders</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Hide Recipient&apos;s Information</source>
-        <translation>Hide recipient&apos;s information</translation>
+        <translation>Hide recipients’ information</translation>
     </message>
     <message>
         <source>Show Custom Text</source>
@@ -218,11 +218,11 @@
     </message>
     <message>
         <source>Show Sender&apos;s Information</source>
-        <translation>Show sender&apos;s information</translation>
+        <translation>Show sender’s information</translation>
     </message>
     <message>
         <source>Hide Sender&apos;s Information</source>
-        <translation>Hide sender&apos;s information</translation>
+        <translation>Hide sender’s information</translation>
     </message>
     <message>
         <source>Cover Sheet Paper Size</source>
@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>0.5&quot; (8.5x11&quot; Template)</source>
-        <translation>0.5 in (8.5 x 11 in template)</translation>
+        <translation>0.5 in (8.5 × 11 in template)</translation>
     </message>
     <message>
         <source>12.7 mm (A4 Template)</source>
@@ -270,11 +270,11 @@
     </message>
     <message>
         <source>StockSizeLetter</source>
-        <translation>Letter (8.5 x 11 in)</translation>
+        <translation>Letter (8.5 × 11 in)</translation>
     </message>
     <message>
         <source>StockSizeA4</source>
-        <translation>A4 (210 x 297 mm)</translation>
+        <translation>A4 (210 × 297 mm)</translation>
     </message>
     <message>
         <source>Separator Option None</source>
@@ -314,7 +314,7 @@
     </message>
     <message>
         <source>600 x 600 Resolution</source>
-        <translation>600 x 600 dpi</translation>
+        <translation>600 × 600 dpi</translation>
     </message>
     <message>
         <source>Simplex</source>
@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>BiFoldNoStaple</source>
-        <translation>Bi-fold</translation>
+        <translation>Booklet fold</translation>
     </message>
     <message>
         <source>Tape Binding</source>
@@ -391,19 +391,19 @@
     </message>
     <message>
         <source>Auto Switch Tray</source>
-        <translation>Automatic tray switching</translation>
+        <translation>Automatic output tray switching</translation>
     </message>
     <message>
         <source>Stacker Tray 1</source>
-        <translation>Stacker tray 1</translation>
+        <translation>Stacker tray 1 (upper)</translation>
     </message>
     <message>
         <source>Stacker Tray 2</source>
-        <translation>Stacker tray 2</translation>
+        <translation>Stacker tray 2 (lower)</translation>
     </message>
     <message>
         <source>Simple Catch Tray</source>
-        <translation>Simple catch tray</translation>
+        <translation>Side tray</translation>
     </message>
 </context>
 </TS>

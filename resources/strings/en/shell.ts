@@ -24,6 +24,10 @@
         <translation>Device settings</translation>
     </message>
     <message>
+        <source>Advanced Introduction</source>
+        <translation>Settings that most jobs leave as they are.</translation>
+    </message>
+    <message>
         <source>Booklet Image Order:</source>
         <translation>&amp;Booklet image order:</translation>
     </message>
@@ -37,7 +41,7 @@
     </message>
     <message>
         <source>Banner Sheet:</source>
-        <translation>Banner &amp;sheet:</translation>
+        <translation>B&amp;anner sheet:</translation>
     </message>
     <message>
         <source>Banner Sheet</source>
@@ -73,7 +77,7 @@
     </message>
     <message>
         <source>About...</source>
-        <translation>Ab&amp;out…</translation>
+        <translation>Abo&amp;ut…</translation>
     </message>
     <message>
         <source>About Title</source>
@@ -84,20 +88,104 @@
         <translation>Kelvo Corvane Panels</translation>
     </message>
     <message>
-        <source>About Version</source>
-        <translation>Version %1</translation>
-    </message>
-    <message>
         <source>About Description</source>
         <translation>Paper, finishing and job settings of Corvane devices in the print dialog.</translation>
     </message>
     <message>
-        <source>About Device</source>
-        <translation>Current device: %1</translation>
+        <source>About Picture</source>
+        <translation>The device with the parts that are fitted to it</translation>
     </message>
     <message>
-        <source>About Device Unknown</source>
-        <translation>Current device: unknown</translation>
+        <source>About Panels:</source>
+        <translation>Panels:</translation>
+    </message>
+    <message>
+        <source>About Program:</source>
+        <translation>Program:</translation>
+    </message>
+    <message>
+        <source>About Device:</source>
+        <translation>Device:</translation>
+    </message>
+    <message>
+        <source>About Device Not Known</source>
+        <translation>not known</translation>
+    </message>
+    <message>
+        <source>About Printer:</source>
+        <translation>Printer:</translation>
+    </message>
+    <message>
+        <source>About PPD:</source>
+        <translation>Description file:</translation>
+    </message>
+    <message>
+        <source>About PPD Version</source>
+        <translation>version %1</translation>
+    </message>
+    <message>
+        <source>About Fitted:</source>
+        <translation>What is fitted:</translation>
+    </message>
+    <message>
+        <source>About Nothing Fitted</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>About Paper Trays:</source>
+        <translation>Paper trays:</translation>
+    </message>
+    <message>
+        <source>About Output Trays:</source>
+        <translation>Output trays:</translation>
+    </message>
+    <message>
+        <source>About System:</source>
+        <translation>System:</translation>
+    </message>
+    <message>
+        <source>About Language:</source>
+        <translation>Language:</translation>
+    </message>
+    <message>
+        <source>About Locale:</source>
+        <translation>Locale:</translation>
+    </message>
+    <message>
+        <source>About Window System:</source>
+        <translation>Window system:</translation>
+    </message>
+    <message>
+        <source>About Libraries:</source>
+        <translation>Libraries used:</translation>
+    </message>
+    <message>
+        <source>About Libraries Label</source>
+        <translation>&amp;Libraries used:</translation>
+    </message>
+    <message>
+        <source>About Libraries</source>
+        <translation>Libraries used</translation>
+    </message>
+    <message>
+        <source>About Library</source>
+        <translation>%1 – %2 – %3</translation>
+    </message>
+    <message>
+        <source>About Libraries Hint</source>
+        <translation>With their licenses and main authors. Your system’s packages name those of the libraries that these bring along.</translation>
+    </message>
+    <message>
+        <source>About Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>About Copy Hint</source>
+        <translation>Copies all of this and what your system is, for a support call. Names of people and passcodes are not in it.</translation>
+    </message>
+    <message>
+        <source>About Copied</source>
+        <translation>Copied to the clipboard.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -109,15 +197,15 @@
     </message>
     <message>
         <source>Invalid Secure Print Passcode Message</source>
-        <translation>The job needs a passcode of %1 to %2 digits, the same in both fields. It is printed when the passcode is entered at the device.</translation>
+        <translation>The job needs a passcode of %1 to %2 digits, the same in both fields under “Set Up…” beside the job type. It is printed when the passcode is entered at the device.</translation>
     </message>
     <message>
         <source>NoFaxDevice Header</source>
-        <translation>This printer sends no faxes</translation>
+        <translation>This printer cannot send faxes</translation>
     </message>
     <message>
         <source>NoFaxDevice Message</source>
-        <translation>Choose a printer that does, or another job type.</translation>
+        <translation>Choose a printer that can, or another job type.</translation>
     </message>
     <message>
         <source>FaxRecipientsMissing Header</source>

@@ -34,7 +34,7 @@
     </message>
     <message>
         <source>Front Cover Paper...</source>
-        <translation>Choose &amp;paper</translation>
+        <translation>Choose &amp;Paper</translation>
     </message>
     <message>
         <source>Front Cover Paper</source>
@@ -61,8 +61,12 @@
         <translation>Front cover is</translation>
     </message>
     <message>
+        <source>Cover Sides Tip</source>
+        <translation>On a printed cover stands a page of the document; a blank or preprinted one stays as it is.</translation>
+    </message>
+    <message>
         <source>Back Cover Paper...</source>
-        <translation>Choose p&amp;aper</translation>
+        <translation>Choose P&amp;aper</translation>
     </message>
     <message>
         <source>Back Cover Paper</source>
@@ -155,7 +159,7 @@
     </message>
     <message>
         <source>Insert Paper...</source>
-        <translation>Choose &amp;paper</translation>
+        <translation>Choose &amp;Paper</translation>
     </message>
     <message>
         <source>Insert Paper</source>
@@ -168,7 +172,7 @@
     <!-- Exception pages -->
     <message>
         <source>Exceptions Title</source>
-        <translation>Exception pages</translation>
+        <translation>Exception Pages</translation>
     </message>
     <message>
         <source>Exception Pages:</source>
@@ -184,7 +188,7 @@
     </message>
     <message>
         <source>Exception Paper and Sides</source>
-        <translation>&amp;Paper and sides</translation>
+        <translation>&amp;Paper and Sides</translation>
     </message>
     <message>
         <source>Exception Image</source>
@@ -192,7 +196,7 @@
     </message>
     <message>
         <source>Exception Paper...</source>
-        <translation>Choose pap&amp;er</translation>
+        <translation>Choose Pap&amp;er</translation>
     </message>
     <message>
         <source>Exception Paper</source>
@@ -208,11 +212,15 @@
     </message>
     <message>
         <source>Exception Tab Shift...</source>
-        <translation>Set &amp;up…</translation>
+        <translation>Set &amp;Up…</translation>
     </message>
     <message>
         <source>Exception Tab Shift</source>
         <translation>Set up tab margin shift</translation>
+    </message>
+    <message>
+        <source>Exception Tab Shift Tip</source>
+        <translation>How far the printed image moves onto the tabs of tab stock</translation>
     </message>
     <message>
         <source>Tab Shift Not Needed</source>
@@ -257,7 +265,7 @@
     </message>
     <message>
         <source>Invalid Ranges Title</source>
-        <translation>A page range is the wrong way round</translation>
+        <translation>A page range is the wrong way around</translation>
     </message>
     <message>
         <source>Invalid Range Order</source>

@@ -9,15 +9,23 @@
     </message>
     <message>
         <source>Add Covers Command</source>
-        <translation>Add co&amp;vers…</translation>
+        <translation>Add Co&amp;vers…</translation>
     </message>
     <message>
         <source>Add Inserts Command</source>
-        <translation>Add i&amp;nserts…</translation>
+        <translation>Add I&amp;nserts…</translation>
+    </message>
+    <message>
+        <source>Inserts Tip</source>
+        <translation>Sheets of other paper between the pages of the document</translation>
     </message>
     <message>
         <source>Add Exceptions Command</source>
-        <translation>&amp;Add exceptions…</translation>
+        <translation>&amp;Add Exceptions…</translation>
+    </message>
+    <message>
+        <source>Exceptions Tip</source>
+        <translation>Pages that are printed otherwise than the rest: on other paper, on one side, lighter or darker</translation>
     </message>
     <message>
         <source>Edit Command</source>
@@ -29,7 +37,7 @@
     </message>
     <message>
         <source>Delete All Command</source>
-        <translation>Delete all</translation>
+        <translation>Delete All</translation>
     </message>
     <message>
         <source>Undo Command</source>
@@ -37,11 +45,11 @@
     </message>
     <message>
         <source>Move Up Command</source>
-        <translation>Move up</translation>
+        <translation>Move Up</translation>
     </message>
     <message>
         <source>Move Down Command</source>
-        <translation>Move down</translation>
+        <translation>Move Down</translation>
     </message>
     <message>
         <source>Special Pages List</source>
@@ -93,7 +101,7 @@
     </message>
     <message>
         <source>Exception Without Pages</source>
-        <translation>Covers no page</translation>
+        <translation>Applies to no pages</translation>
     </message>
     <message>
         <source>Exception Image Shift</source>

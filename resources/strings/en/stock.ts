@@ -50,7 +50,7 @@
     </message>
     <message>
         <source>Advanced Stock Selection...</source>
-        <translation>Advanced paper selection…</translation>
+        <translation>Advanced Paper Selection…</translation>
     </message>
     <message>
         <source>StockCustomSizeInches</source>
@@ -140,7 +140,7 @@
     <!-- Custom paper size -->
     <message>
         <source>Custom Size Title</source>
-        <translation>Custom paper size</translation>
+        <translation>Custom Paper Size</translation>
     </message>
     <message>
         <source>Custom Size Width:</source>
@@ -201,7 +201,7 @@
     <!-- Tab stock -->
     <message>
         <source>Tab Stock Setup</source>
-        <translation>Tab stock setup</translation>
+        <translation>Tab Stock Setup</translation>
     </message>
     <message>
         <source>Tab Margin Shift:</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>Tab Shift Hint</source>
-        <translation>Moves the printed image toward the tab. To set a distance of your own, choose Custom.</translation>
+        <translation>Moves the printed image toward the tab. To set a distance of your own, choose “Custom”.</translation>
     </message>
     <message>
         <source>Tab Shift Picture</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Pre-Cut Tab Title</source>
-        <translation>Precut tabs</translation>
+        <translation>Precut Tabs</translation>
     </message>
     <message>
         <source>Tabs in Set:</source>
@@ -266,7 +266,7 @@
     <!-- Type of the paper -->
     <message>
         <source>Stock Type Title</source>
-        <translation>Paper type</translation>
+        <translation>Paper Type</translation>
     </message>
     <message>
         <source>Stock Type:</source>
@@ -319,7 +319,7 @@
     <!-- Description of the paper -->
     <message>
         <source>Stock Description Title</source>
-        <translation>Paper description</translation>
+        <translation>Paper Description</translation>
     </message>
     <message>
         <source>Stock Description:</source>
@@ -370,12 +370,20 @@
         <translation>Surface finish</translation>
     </message>
     <message>
+        <source>Stock Finish Tip</source>
+        <translation>How the surface feels; textured papers take toner less evenly.</translation>
+    </message>
+    <message>
         <source>Stock Grain:</source>
         <translation>&amp;Grain:</translation>
     </message>
     <message>
         <source>Stock Grain</source>
         <translation>Grain</translation>
+    </message>
+    <message>
+        <source>Stock Grain Tip</source>
+        <translation>The direction of the fibers: paper folds cleanly along it and cracks across it.</translation>
     </message>
     <message>
         <source>Stock Punched:</source>
@@ -396,11 +404,11 @@
     <!-- All of the paper -->
     <message>
         <source>Advanced Stock Title</source>
-        <translation>Advanced paper selection</translation>
+        <translation>Advanced Paper Selection</translation>
     </message>
     <message>
         <source>Stock Summary</source>
-        <translation>Paper as it is set</translation>
+        <translation>Paper summary</translation>
     </message>
     <message>
         <source>Stock Type...</source>
@@ -432,11 +440,11 @@
     </message>
     <message>
         <source>Save in Library...</source>
-        <translation>&amp;Save in library…</translation>
+        <translation>&amp;Save in Library…</translation>
     </message>
     <message>
         <source>Remove from Library</source>
-        <translation>&amp;Remove from library</translation>
+        <translation>&amp;Remove from Library</translation>
     </message>
     <message>
         <source>Stock Size:</source>
@@ -473,7 +481,7 @@
     <!-- The library of named papers -->
     <message>
         <source>Save in Library Title</source>
-        <translation>Save in library</translation>
+        <translation>Save in Library</translation>
     </message>
     <message>
         <source>Library Stock Name:</source>

@@ -43,8 +43,16 @@
         <translation>Page borders</translation>
     </message>
     <message>
+        <source>Page Borders Tip</source>
+        <translation>A thin line around each page of the booklet</translation>
+    </message>
+    <message>
         <source>Booklet Options... Title</source>
-        <translation>Booklet optio&amp;ns…</translation>
+        <translation>Booklet Optio&amp;ns…</translation>
+    </message>
+    <message>
+        <source>Booklet Options Tip</source>
+        <translation>Fold and staple, the size of the sheets, gutter and creep</translation>
     </message>
     <message>
         <source>Watermark Title</source>
@@ -122,11 +130,15 @@
     </message>
     <message>
         <source>Draw Outlines</source>
-        <translation>&amp;Draw outlines</translation>
+        <translation>&amp;Draw page borders</translation>
     </message>
     <message>
         <source>Fit to New Size Label</source>
         <translation>Fit to ne&amp;w size:</translation>
+    </message>
+    <message>
+        <source>New Size Tip</source>
+        <translation>Prints on sheets of this size in place of the job’s own; the pages become smaller or larger to fit.</translation>
     </message>
     <message>
         <source>Gutter Label</source>
@@ -150,11 +162,11 @@
     </message>
     <message>
         <source>Creep Hint</source>
-        <translation>How far the pages of each sheet move towards the fold, so that they stay in the middle where inner sheets stick out.</translation>
+        <translation>How far the pages of each sheet move toward the fold, so that they stay in the middle where inner sheets stick out.</translation>
     </message>
     <message>
         <source>Booklet Picture</source>
-        <translation>What becomes of the sheets</translation>
+        <translation>How the sheets come out</translation>
     </message>
 
     <!-- What print dialogs say of a job -->
@@ -200,7 +212,7 @@
     </message>
     <message>
         <source>Watermark Absent in Words</source>
-        <translation>“%1” is not among yours, and none is printed</translation>
+        <translation>“%1” is not in your list of watermarks, and none is printed</translation>
     </message>
 </context>
 </TS>

@@ -146,6 +146,10 @@
         <translation>Density in percent</translation>
     </message>
     <message>
+        <source>Watermark Density Tip</source>
+        <translation>0 percent cannot be seen, 100 percent hides what lies below.</translation>
+    </message>
+    <message>
         <source>Watermark Percent</source>
         <translation>%</translation>
     </message>
@@ -188,7 +192,7 @@
     </message>
     <message>
         <source>Watermark Center</source>
-        <translation>In the &amp;middle</translation>
+        <translation>C&amp;enter on Page</translation>
     </message>
     <!-- Pictures -->
     <message>
@@ -229,11 +233,11 @@
     </message>
     <message>
         <source>Watermark Picture Inches</source>
-        <translation>%1 by %2 pixels, printed %3 by %4 inches large</translation>
+        <translation>%1 by %2 pixels, printed at %3 by %4 inches</translation>
     </message>
     <message>
         <source>Watermark Picture Millimetres</source>
-        <translation>%1 by %2 pixels, printed %3 by %4 millimeters large</translation>
+        <translation>%1 by %2 pixels, printed at %3 by %4 millimeters</translation>
     </message>
     <message>
         <source>Watermark Scale:</source>
@@ -262,7 +266,7 @@
     </message>
     <message>
         <source>Watermark Place Hint</source>
-        <translation>Drag on the page to move the watermark, or use the arrow keys; with Shift they go ten times as far.</translation>
+        <translation>Drag the watermark on the page to move it, or use the arrow keys; with Shift it moves ten times as far.</translation>
     </message>
     <!-- What OK refuses, and asks -->
     <message>
@@ -295,7 +299,7 @@
     </message>
     <message>
         <source>Watermark Name Is Font</source>
-        <translation>Under “%1” a font is kept for printing. Change the words, or the name of the picture file.</translation>
+        <translation>“%1” is the name of a font that is kept for printing. Change the words, or the name of the picture file.</translation>
     </message>
     <message>
         <source>Watermark Replace Header</source>
@@ -303,7 +307,7 @@
     </message>
     <message>
         <source>Watermark Replace Message</source>
-        <translation>There is a watermark of this name already. A list has one of each name, be it a text or a picture; the other one would be gone.</translation>
+        <translation>A watermark of this name, a text or a picture, is already in the list. Replacing it deletes it.</translation>
     </message>
     <message>
         <source>Watermark Replace</source>

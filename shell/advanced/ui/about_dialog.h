@@ -1,14 +1,14 @@
 #pragma once
 
-#include "bundle.h"
-#include "ppd_file.h"
+#include "device.h"
 
 class QWidget;
 
 namespace kelvo {
 
-// Shows what this is: product, version, and the device that it prints to. Runs
-// until it is closed. `ppd` may be null.
-void RunModalAboutDialog(CFBundleRef bundle, const PpdFile *ppd, QWidget *parent);
+// Shows what this is: versions, the device that it prints to with what is fitted to it, and
+// the libraries that it is made with; all of it can be selected and copied. Runs until it is
+// closed. Nothing happens for a device without a bundle.
+void RunModalAboutDialog(const Device &device, QWidget *parent);
 
 } // namespace kelvo

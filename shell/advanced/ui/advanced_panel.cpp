@@ -1,7 +1,11 @@
 #include "advanced_panel.h"
 
 #include "about_dialog.h"
+#include "advanced_pictures.h"
+#include "bundle_picture.h"
+#include "embed_control.h"
 #include "hint_text.h"
+#include "picture_view.h"
 #include "popups.h"
 #include "setting_maps.h"
 #include "ticket_places.h"
@@ -9,7 +13,6 @@
 
 #include <QLabel>
 
-#include <algorithm>
 #include <array>
 
 namespace kelvo {
@@ -18,21 +21,23 @@ namespace {
 
 constexpr ControlID kBookletOrderPopup{kPanelSignature, 602};
 constexpr ControlID kAboutButton{kPanelSignature, 670};
-constexpr std::array kHints = {6021, 6141, 6161, 7021}; // KPDE
+constexpr std::array kHints = {603, 6021, 6141, 6161, 7021}; // KPDE
+constexpr std::int32_t kBookletOrderPicture = 6022;          // KPDE
 
-// A pop-up that shows a PPD option's choices.
+// A pop-up that shows a PPD option's choices, the text below it and the picture beside it.
 struct PpdRow
 {
     AdvancedChoice choice;
     QPointer<PopupButton> AdvancedControls::*popup;
-    std::int32_t hintNumber; // KPDE, the text below the pop-up
+    std::int32_t hintNumber; // KPDE
     const char *hintKey;
+    std::int32_t pictureNumber; // KPDE
 };
 
 const std::array kPpdRows = {
-    PpdRow{kBannerChoice, &AdvancedControls::banner, 6141, "Banner Sheet Hint"},
-    PpdRow{kOffsetChoice, &AdvancedControls::offset, 6161, "Request Offset Hint"},
-    PpdRow{kFeedEdgeChoice, &AdvancedControls::feedEdge, 7021, "Bypass Feed Edge Hint"},
+    PpdRow{kBannerChoice, &AdvancedControls::banner, 6141, "Banner Sheet Hint", 6142},
+    PpdRow{kOffsetChoice, &AdvancedControls::offset, 6161, "Request Offset Hint", 6162},
+    PpdRow{kFeedEdgeChoice, &AdvancedControls::feedEdge, 7021, "Bypass Feed Edge Hint", 7022},
 };
 
 // The orders of the map have one value: which of them was chosen cannot be read from
@@ -44,17 +49,36 @@ void showBookletOrder(PopupButton *popup, std::int32_t order)
     popup->setValue(1); // as where nothing was ever chosen
 }
 
+// Of what the pop-up shows, which is nothing where the job has what is not offered.
+void showPicture(const AdvancedContext &advanced, std::int32_t number, const PopupButton *popup,
+                 const QString &setting)
+{
+    auto *view = findControl<PictureView>(advanced.content, {kPanelSignature, number});
+    const MenuItem *item = popup ? popup->chosenItem() : nullptr;
+    showBundlePicture(view, advanced.bundle, item ? advancedPicture(setting, item->key) : QString(),
+                      item ? item->text : QString());
+}
+
+void showOrderPicture(const AdvancedContext &advanced)
+{
+    showPicture(advanced, kBookletOrderPicture, advanced.controls.bookletOrder,
+                kBookletOrderSetting);
+}
+
 void showRow(const AdvancedContext &advanced, const PpdRow &row)
 {
     showChoice(advanced.bundle, advanced.controls.*row.popup, advanced.settings.*row.choice.value,
                findControl<QLabel>(advanced.content, {kPanelSignature, row.hintNumber}),
                localizedText(advanced.bundle, QString::fromLatin1(row.hintKey)));
+    showPicture(advanced, row.pictureNumber, advanced.controls.*row.popup,
+                QString::fromLatin1(row.choice.option));
 }
 
 // From the context to the controls.
 void showSettings(const AdvancedContext &advanced)
 {
     showBookletOrder(advanced.controls.bookletOrder, advanced.settings.bookletOrder);
+    showOrderPicture(advanced);
     for (const PpdRow &row : kPpdRows)
         showRow(advanced, row);
 }
@@ -64,9 +88,11 @@ OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
     if (event.kind != EventKind::ControlHit || event.control.signature != kPanelSignature)
         return eventNotHandledErr;
     if (event.control == kAboutButton)
-        RunModalAboutDialog(advanced.bundle, advanced.device.ppd, advanced.parentUserPane);
-    else if (event.control == kBookletOrderPopup)
+        RunModalAboutDialog(advanced.device, advanced.parentUserPane);
+    if (event.control == kBookletOrderPopup) {
         advanced.settings.bookletOrder = GetPopupButtonTicketValue(advanced.controls.bookletOrder);
+        showOrderPicture(advanced);
+    }
     for (const PpdRow &row : kPpdRows) {
         if (event.control.number != row.choice.control)
             continue;
@@ -77,22 +103,6 @@ OSStatus advancedEventHandler(AdvancedContext &advanced, const Event &event)
     return eventNotHandledErr;
 }
 
-// The rows are views of their own: their labels share one width.
-void arrangeRows(const AdvancedControls &controls, const QWidget *content)
-{
-    const std::array labels = {labelOf(controls.bookletOrder), labelOf(controls.banner),
-                               labelOf(controls.offset), labelOf(controls.feedEdge)};
-    int width = 0;
-    for (const QLabel *label : labels)
-        width = std::max(width, label ? label->sizeHint().width() : 0);
-    for (QLabel *label : labels) {
-        if (label)
-            label->setMinimumWidth(width);
-    }
-    for (const int hint : kHints)
-        makeHintText(findControl<QLabel>(content, {kPanelSignature, hint}));
-}
-
 AdvancedControls findControls(NeededControls &needed)
 {
     AdvancedControls controls;
@@ -101,6 +111,9 @@ AdvancedControls findControls(NeededControls &needed)
         controls.*row.popup = needed.find<PopupButton>({kPanelSignature, row.choice.control});
     for (const int hint : kHints)
         needed.find<QLabel>({kPanelSignature, hint});
+    needed.find<PictureView>({kPanelSignature, kBookletOrderPicture});
+    for (const PpdRow &row : kPpdRows)
+        needed.find<PictureView>({kPanelSignature, row.pictureNumber});
     needed.find(kAboutButton);
     return controls;
 }
@@ -137,7 +150,8 @@ OSStatus AdvancedContext::build()
         [this](NeededControls &needed) { controls = findControls(needed); },
         [this] {
             fillPopups(*this);
-            arrangeRows(controls, content);
+            for (const int hint : kHints)
+                makeHintText(findControl<QLabel>(content, {kPanelSignature, hint}));
         },
         [this](const Event &event) { return advancedEventHandler(*this, event); });
     if (status == noErr)

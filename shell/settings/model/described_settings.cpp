@@ -1,5 +1,6 @@
 #include "described_settings.h"
 
+#include "mnemonics.h"
 #include "ppd_choices.h"
 #include "ppd_words.h"
 
@@ -24,15 +25,7 @@ TicketPlace placeOfChoice(const char *option)
 
 QString labelText(const Device &device, const char *key)
 {
-    return labelFrom(device.text(key));
-}
-
-QString labelFrom(QString text)
-{
-    text.remove(u'&');
-    if (text.endsWith(u':'))
-        text.chop(1);
-    return text;
+    return nameInLabel(device.text(key));
 }
 
 PanelDescription::PanelDescription(const DescribedJob &job, const char *panel,

@@ -31,7 +31,7 @@ public:
     // say nothing, and the place is unspoken then. The line may be completed.
     DescribedSetting *add(const char *name, const char *labelKey, const QString &words,
                           std::int32_t control, bool isDefault = false);
-    // The same with the label itself (labelFrom()).
+    // The same with the label itself (nameInLabel()).
     DescribedSetting *addLabelled(const char *name, const QString &label, const QString &words,
                                   std::int32_t control, bool isDefault = false);
     // The choice of a PPD option in the PPD's words: `choice`, else what the ticket says, else
@@ -58,8 +58,7 @@ private:
     JobDescription &m_description;
 };
 
-// The text of a label or an item, which stand on controls too: without mnemonic and colon.
+// nameInLabel() of a text that stands on a control too, a label's or an item's.
 QString labelText(const Device &device, const char *key);
-QString labelFrom(QString text);
 
 } // namespace kelvo

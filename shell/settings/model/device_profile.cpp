@@ -11,9 +11,9 @@ namespace {
 
 std::optional<Dictionary> profile;
 
-Dictionary dictionaryAt(const Dictionary &in, const char *key)
+Dictionary dictionaryAt(const Dictionary &in, const char *name)
 {
-    return dictionary(in, QLatin1String(key)).value_or(Dictionary());
+    return dictionary(in, QLatin1String(name)).value_or(Dictionary());
 }
 
 std::optional<QVariant> entryAt(const Dictionary &in, const QString &key)
@@ -111,7 +111,7 @@ Array KDPGetKeywordsWithPropertyAndValue(const Dictionary &feature, const QStrin
 
 bool KDPGetFeatureDefaultValue(const Dictionary &feature, QString *outKind, QVariant *outValue)
 {
-    const QString defaultKey = QStringLiteral("Default");
+    const QString defaultName = QStringLiteral("Default");
     const auto answer = [&](const char *kind, const QVariant &value) {
         *outKind = QLatin1String(kind);
         *outValue = value;
@@ -121,11 +121,11 @@ bool KDPGetFeatureDefaultValue(const Dictionary &feature, QString *outKind, QVar
     const Dictionary syntax = dictionaryAt(feature, "Syntax");
     const Dictionary keywords = dictionaryAt(syntax, "Keyword");
     for (auto keyword = keywords.constBegin(); keyword != keywords.constEnd(); ++keyword) {
-        if (dictionary(*keyword).value_or(Dictionary()).contains(defaultKey))
+        if (dictionary(*keyword).value_or(Dictionary()).contains(defaultName))
             return answer("Keyword", keyword.key());
     }
     for (const char *kind : {"Name", "Number"}) {
-        if (const auto value = entryAt(dictionaryAt(syntax, kind), defaultKey))
+        if (const auto value = entryAt(dictionaryAt(syntax, kind), defaultName))
             return answer(kind, *value);
     }
     return false;

@@ -115,7 +115,7 @@ constexpr PpdChoiceValue resolution[] = {
     kEndOfChoices,
 };
 constexpr PpdChoiceValue colorMode[] = {
-    {"Grayscale", 1}, {"Color", 2},
+    {"Grayscale", kColorModeGrayscale}, {"Color", kColorModeColor},
     kEndOfChoices,
 };
 constexpr PpdChoiceValue trays[] = {

@@ -23,6 +23,9 @@ struct PpdKeywordMap
 // in a table: a look-up by either finds the first.
 extern const PpdKeywordMap MainKeywordMap[];
 
+// "KVColorMode"
+inline constexpr std::int32_t kColorModeGrayscale = 1, kColorModeColor = 2;
+
 // The choices of `keyword`; null when the map does not have it.
 const PpdChoiceValue *findKeyword(const QString &keyword);
 

@@ -1,5 +1,7 @@
 #include "panel_summary.h"
 
+#include "mnemonics.h"
+
 namespace kelvo {
 
 void addSummaryLine(std::vector<SummaryLine> &lines, const Device &device, const char *labelKey,
@@ -7,7 +9,7 @@ void addSummaryLine(std::vector<SummaryLine> &lines, const Device &device, const
 {
     if (text.isEmpty())
         return;
-    lines.push_back({device.text(labelKey).remove(u'&'), text});
+    lines.push_back({withoutMnemonic(device.text(labelKey)), text});
 }
 
 void appendSummary(const std::vector<SummaryLine> &lines, SummaryArray *titles, SummaryArray *texts)

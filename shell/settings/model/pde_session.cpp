@@ -10,9 +10,7 @@ namespace {
 
 PMPrintSession currentSession = nullptr;
 OSStatus (*shellSync)(PMPrintSession, std::int32_t) = nullptr;
-JobTypeProvider currentJobTypeProvider = nullptr;
-FaxSetupRunner currentFaxSetupRunner = nullptr;
-PrintPreparation currentPrintPreparation = nullptr;
+JobTypeProvider currentJobTypeProvider;
 
 } // namespace
 
@@ -52,34 +50,14 @@ void setShellSync(OSStatus (*sync)(PMPrintSession session, std::int32_t directio
     shellSync = sync;
 }
 
-void setJobTypeProvider(JobTypeProvider provider)
+void setJobTypeProvider(const JobTypeProvider &provider)
 {
     currentJobTypeProvider = provider;
 }
 
-JobTypeProvider jobTypeProvider()
+const JobTypeProvider &jobTypeProvider()
 {
     return currentJobTypeProvider;
-}
-
-void setPrintPreparation(PrintPreparation preparation)
-{
-    currentPrintPreparation = preparation;
-}
-
-PrintPreparation printPreparation()
-{
-    return currentPrintPreparation;
-}
-
-void setFaxSetupRunner(FaxSetupRunner runner)
-{
-    currentFaxSetupRunner = runner;
-}
-
-FaxSetupRunner faxSetupRunner()
-{
-    return currentFaxSetupRunner;
 }
 
 } // namespace kelvo

@@ -37,17 +37,17 @@ struct JobTypeState
     bool hasFaxRecipients = false;
     bool sendsFaxes = true; // the device
 };
-using JobTypeProvider = JobTypeState (*)(PMPDEContext paperOutputContext);
-void setJobTypeProvider(JobTypeProvider provider); // null: no Paper/Output panel
-JobTypeProvider jobTypeProvider();
-// Called when the user presses Print, before anything is checked: what depends on
-// the moment is settled then. Registered by the same.
-using PrintPreparation = void (*)(PMPDEContext paperOutputContext);
-void setPrintPreparation(PrintPreparation preparation);
-PrintPreparation printPreparation();
-// Opens the LAN fax set-up on the panel's fax settings; registered by the same.
-using FaxSetupRunner = void (*)(PMPDEContext paperOutputContext);
-void setFaxSetupRunner(FaxSetupRunner runner);
-FaxSetupRunner faxSetupRunner();
+// How it answers, about its context; each may be null where it has nothing to say.
+struct JobTypeProvider
+{
+    JobTypeState (*state)(PMPDEContext) = nullptr;
+    // The user has pressed Print, and nothing is checked yet: what depends on the moment is
+    // settled.
+    void (*prepareToPrint)(PMPDEContext) = nullptr;
+    void (*runFaxSetup)(PMPDEContext) = nullptr; // the LAN fax set-up on the panel's settings
+    void (*focusSetup)(PMPDEContext) = nullptr;  // the set-up button, where the panel is open
+};
+void setJobTypeProvider(const JobTypeProvider &provider); // {}: no Paper/Output panel
+const JobTypeProvider &jobTypeProvider();
 
 } // namespace kelvo

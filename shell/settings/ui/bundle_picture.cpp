@@ -7,10 +7,20 @@ namespace kelvo {
 void showBundlePicture(PictureView *view, CFBundleRef bundle, const QString &name,
                        const QString &description)
 {
+    showBundlePictures(view, bundle, {name}, description);
+}
+
+void showBundlePictures(PictureView *view, CFBundleRef bundle, const QStringList &names,
+                        const QString &description)
+{
     if (!view || !bundle)
         return;
-    const QString file = pictureFile(bundle->resourcesPath(), name);
-    view->setPictures(file.isEmpty() ? QStringList() : QStringList(file), description);
+    QStringList files;
+    for (const QString &name : names) {
+        if (const QString file = pictureFile(bundle->resourcesPath(), name); !file.isEmpty())
+            files << file;
+    }
+    view->setPictures(files, description);
 }
 
 } // namespace kelvo

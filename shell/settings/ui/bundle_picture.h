@@ -3,6 +3,7 @@
 #include "bundle.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace kelvo {
 
@@ -13,5 +14,8 @@ class PictureView;
 // says. Nothing happens for a null view or bundle.
 void showBundlePicture(PictureView *view, CFBundleRef bundle, const QString &name,
                        const QString &description = {});
+// Several on top of one another, the lowest first.
+void showBundlePictures(PictureView *view, CFBundleRef bundle, const QStringList &names,
+                        const QString &description = {});
 
 } // namespace kelvo

@@ -2,7 +2,11 @@
 
 #include "control.h"
 
+#include <QLabel>
+#include <QList>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace kelvo {
 
@@ -22,6 +26,22 @@ inline void keepPlaceWhenHidden(QWidget *widget)
     QSizePolicy policy = widget->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     widget->setSizePolicy(policy);
+}
+
+// The labels of `fields` have one width, in whatever layouts they stand. A field may be null
+// and may have no label.
+inline void shareLabelWidth(const QList<QWidget *> &fields)
+{
+    QList<QLabel *> labels;
+    int width = 0;
+    for (const QWidget *field : fields) {
+        if (QLabel *label = field ? labelOf(field) : nullptr) {
+            labels << label;
+            width = std::max(width, label->sizeHint().width());
+        }
+    }
+    for (QLabel *label : labels)
+        label->setMinimumWidth(width);
 }
 
 } // namespace kelvo

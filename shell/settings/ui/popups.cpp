@@ -8,6 +8,7 @@
 #include "tab_control.h"
 #include "ticket_places.h"
 #include "ticket_values.h"
+#include "tool_tip.h"
 
 #include <QLabel>
 
@@ -127,11 +128,12 @@ void setOnDevice(const Device &device, QWidget *control, bool isOnDevice, QLabel
     if (isOnDevice)
         return;
     const QString why = device.text("Not on This Device");
-    if (hint)
+    if (hint) {
         hint->setText(why);
-    else
-        control->setToolTip(why);
-    control->setAccessibleDescription(why);
+        control->setAccessibleDescription(why);
+    } else {
+        setPlainToolTip(control, why);
+    }
 }
 
 void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint,
@@ -139,19 +141,24 @@ void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLab
 {
     if (!popup)
         return;
-    popup->setPlaceholderText(localizedText(bundle, QStringLiteral("Not Offered Here")));
+    const bool hasChoices = popup->count() > 0;
+    // Of a pop-up without choices the hint says all.
+    popup->setPlaceholderText(hasChoices || !hint
+                                  ? localizedText(bundle, QStringLiteral("Not Offered Here"))
+                                  : QString());
     QString text = hintText;
     if (!SetPopupButtonToTicketValue(popup, value)) {
         popup->setValue(0);
         text = localizedText(bundle,
-                             popup->count() > 0 ? QStringLiteral("Choice Not Offered")
-                                                : QStringLiteral("Not on This Device"));
+                             hasChoices ? QStringLiteral("Choice Not Offered")
+                                        : QStringLiteral("Not on This Device"));
     }
-    if (hint)
+    if (hint) {
         hint->setText(text);
-    else
-        popup->setToolTip(text);
-    popup->setAccessibleDescription(text);
+        popup->setAccessibleDescription(text);
+    } else {
+        setPlainToolTip(popup, text);
+    }
 }
 
 void takeChoice(const PopupButton *popup, std::int32_t &value)

@@ -59,7 +59,8 @@ void fillWithMenu(PopupButton *popup, Menu menu, const QString &option);
 void setOnDevice(const Device &device, QWidget *control, bool isOnDevice, QLabel *hint = nullptr);
 // Shows the item with that value, and `hintText` in `hint`. A value that no item has
 // is the job's, and not offered here: the pop-up says so in place of an item, and the
-// hint (the tool tip where there is none) that the job keeps it.
+// hint (the tool tip where there is none) that the job keeps it. A pop-up without items
+// is empty beside a hint, which says that the device does not offer it.
 void showChoice(CFBundleRef bundle, PopupButton *popup, std::int32_t value, QLabel *hint = nullptr,
                 const QString &hintText = {});
 // Takes the value of the item that is shown. Where none is, `value` is what the pop-up

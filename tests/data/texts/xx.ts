@@ -53,7 +53,7 @@
         <translation>%2 %1 nu texto</translation>
     </message>
     <message>
-        <source>it takes %1</source>
+        <source>use %1</source>
         <comment>script commands</comment>
         <translation>si %1</translation>
     </message>
@@ -80,7 +80,7 @@
         <translation>%2@%1</translation>
     </message>
     <message>
-        <source>the key &quot;%1&quot; has no value</source>
+        <source>the key “%1” has no value</source>
         <translation>nu %1</translation>
     </message>
 </context>

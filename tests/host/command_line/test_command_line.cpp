@@ -1,4 +1,5 @@
 #include "command_line.h"
+#include "document_origin.h"
 #include "table.h"
 
 #include <QTest>
@@ -15,7 +16,11 @@ private slots:
     void aFullLineIsUnderstood();
     void refusesWrongLines_data();
     void refusesWrongLines();
+    void whatIsRefusedIsSaidInTheLanguageAskedFor_data();
+    void whatIsRefusedIsSaidInTheLanguageAskedFor();
     void usageFitsTheTerminal();
+    void findsTheDocument_data();
+    void findsTheDocument();
 };
 
 namespace {
@@ -34,7 +39,8 @@ QString told(const CommandLine &line)
     if (line.copies)
         parts << QStringLiteral("n=%1").arg(*line.copies);
     for (const auto &[name, value] : line.options)
-        parts << QStringLiteral("o=%1:%2").arg(name, value);
+        parts << (value ? QStringLiteral("o=%1:%2").arg(name, *value)
+                        : QStringLiteral("o=%1").arg(name));
     add("P", line.pages);
     add("t", line.title);
     add("ppd", line.ppd);
@@ -43,6 +49,7 @@ QString told(const CommandLine &line)
         parts << QStringLiteral("secret=%1:%2").arg(secret.key(), secret.value());
     if (line.timeoutSeconds != 30)
         parts << QStringLiteral("timeout=%1").arg(line.timeoutSeconds);
+    add("language", line.language);
     return parts.join(u' ');
 }
 
@@ -61,8 +68,7 @@ void TestCommandLine::takesEveryForm_data()
     row("most copies", {"-n", "9999"}, "n=9999");
     row("options in order", {"-o", "B=1", "-oA=2"}, "o=B:1 o=A:2");
     row("several options in one", {"-o", "B=1  A=2"}, "o=B:1 o=A:2");
-    row("landscape", {"-o", "landscape"}, "o=orientation-requested:4");
-    row("portrait", {"-o", "portrait A=1"}, "o=orientation-requested:3 o=A:1");
+    row("a name alone", {"-o", "landscape noDuplex A=1"}, "o=landscape o=noDuplex o=A:1");
     row("value with a sign", {"-o", "A=b=c"}, "o=A:b=c");
     row("open range", {"-P", "1-3, 7,9-"}, "P=1-3, 7,9-");
     row("later beats earlier", {"-n2", "-n3"}, "n=3");
@@ -75,6 +81,7 @@ void TestCommandLine::takesEveryForm_data()
     row("end of options", {"--", "-d"}, "file=-d");
     row("a secret", {"--secret", "pin=/a=b"}, "secret=pin:/a=b");
     row("longest timeout", {"--timeout=3600"}, "timeout=3600");
+    row("a language", {"--language", "de_AT"}, "language=de_AT");
 }
 
 void TestCommandLine::takesEveryForm()
@@ -111,29 +118,30 @@ void TestCommandLine::refusesWrongLines_data()
     row("unknown, none near", {"--qqqqqqqqqqqqq=1"}, "--qqqqqqqqqqqqq: there is no such option");
     row("no value", {"a", "-d"}, "-d: its value DESTINATION is missing");
     row("empty value", {"--to="}, "--to: its value is empty");
-    row("a value too much", {"--demo=yes"}, "--demo: it takes no value; \"yes\" is too much");
+    row("a value too much", {"--demo=yes"}, "--demo: it takes no value; “yes” is too much");
     for (const char *copies : {"0", "10000", "+1", "2.5", "", "9999999999"})
         row(qPrintable(QStringLiteral("copies \"%1\"").arg(copies)), {"-n", copies},
-            QStringLiteral("-n: \"%1\" is not a whole number from 1 to 9999").arg(copies));
+            QStringLiteral("-n: “%1” is not a whole number from 1 to 9999").arg(copies));
     row("timeout too long", {"--timeout", "3601"},
-        "--timeout: \"3601\" is not a whole number from 1 to 3600");
-    row("option without value", {"-o", "Jog"}, "-o: \"Jog\" is not NAME=VALUE");
-    row("scaling", {"-o", "A=1 fit-to-page"},
-        "-o: fit-to-page: pages are printed at their own size; choose a paper that holds them, "
-        "-o media=NAME");
+        "--timeout: “3601” is not a whole number from 1 to 3600");
+    for (const char *option : {"Jog=", "=1", ""})
+        row(qPrintable(QStringLiteral("option \"%1\"").arg(option)), {"-o", option},
+            QStringLiteral("-o: “%1” is not NAME=VALUE, NAME or noNAME").arg(option));
     row("pages backwards", {"-P", "5-2"},
-        "-P: page range \"5-2\": the last page comes before the first; write 2-5");
+        "-P: page range “5-2”: the last page comes before the first; write 2-5");
     row("pages backwards, as an option", {"-o", "Page-Ranges=5-2"},
-        "-o: page range \"5-2\": the last page comes before the first; write 2-5");
+        "-o: page range “5-2”: the last page comes before the first; write 2-5");
     row("copies said twice", {"-o", "copies=2", "-n3"},
         "-n 3: -o copies=2 says something else; leave out one of them");
+    row("copies without a number", {"-n3", "-o", "copies"},
+        "-n 3: -o copies says something else; leave out one of them");
     row("pages said twice", {"-P", "1", "-o", "page-ranges=1", "-o", "PAGE-RANGES=2-3"},
-        "-P 1: -o page-ranges=2-3 says something else; leave out one of them");
-    row("no pages", {"-P", " "}, "-P: \" \" is not a list of pages such as 1-3,7,9-");
+        "-P 1: -o PAGE-RANGES=2-3 says something else; leave out one of them");
+    row("no pages", {"-P", " "}, "-P: “ ” is not a list of pages such as 1-3,7,9-");
     row("a secret on the line", {"--secret", "1234"},
         "--secret: it takes NAME=FILE; the secret itself stands in the file");
     row("secret with a blank name", {"--secret", "a b=f"},
-        "--secret: a secret's name has only letters, digits, - and _");
+        "--secret: a secret’s name has only letters, digits, - and _");
     row("secret twice", {"--secret=a=f", "--secret=a=g"}, "--secret: the secret a is given twice");
     row("two documents", {"a", "b"}, "b: only one document is printed at a time");
     row("two devices", {"--demo", "--ppd", "x"},
@@ -159,11 +167,61 @@ void TestCommandLine::refusesWrongLines()
     QTEST(line.error().text(), "message");
 }
 
+void TestCommandLine::whatIsRefusedIsSaidInTheLanguageAskedFor_data()
+{
+    const Table<QStringList, QString> row{"arguments", "language"};
+
+    row("none", {"--demo"}, "");
+    row("behind what is refused", {"--nonsense", "-n", "0", "--language=ja"}, "ja");
+    row("the last one", {"--language", "ja", "--language", "de"}, "de");
+    row("another option's value", {"-t", "--language", "de"}, "");
+    row("a document's name", {"--", "--language", "de"}, "");
+    row("without a value", {"--language"}, "");
+}
+
+void TestCommandLine::whatIsRefusedIsSaidInTheLanguageAskedFor()
+{
+    QFETCH(QStringList, arguments);
+
+    QTEST(languageAsked(arguments).value_or(QString()), "language");
+}
+
 void TestCommandLine::usageFitsTheTerminal()
 {
     const QStringList lines = usageText().split(u'\n');
     for (const QString &line : lines)
         QVERIFY2(line.size() <= 80, qPrintable(line));
+}
+
+void TestCommandLine::findsTheDocument_data()
+{
+    using Origin = DocumentOrigin;
+    // the origin by what standard input is
+    const Table<QStringList, Origin, Origin, Origin> row{"arguments", "terminal", "nothing",
+                                                         "data"};
+
+    row("named", {"a.pdf"}, Origin::File, Origin::File, Origin::File);
+    row("none named", {}, Origin::Chooser, Origin::Chooser, Origin::StandardInput);
+    row("none named, none to ask", {"--no-window"}, Origin::Missing, Origin::StandardInput,
+        Origin::StandardInput);
+    row("none named in a script", {"--script", "s"}, Origin::Missing, Origin::StandardInput,
+        Origin::StandardInput);
+    row("standard input", {"-"}, Origin::Missing, Origin::StandardInput, Origin::StandardInput);
+    row("sample", {"--demo"}, Origin::Sample, Origin::Sample, Origin::Sample);
+    row("sample's device", {"--demo", "-"}, Origin::Missing, Origin::StandardInput,
+        Origin::StandardInput);
+}
+
+void TestCommandLine::findsTheDocument()
+{
+    QFETCH(QStringList, arguments);
+
+    const auto line = parseCommandLine(arguments);
+
+    QVERIFY(line);
+    QTEST(documentOrigin(line.value(), StandardInput::Terminal), "terminal");
+    QTEST(documentOrigin(line.value(), StandardInput::Nothing), "nothing");
+    QTEST(documentOrigin(line.value(), StandardInput::Data), "data");
 }
 
 QTEST_APPLESS_MAIN(TestCommandLine)

@@ -384,7 +384,7 @@ void TestDocuments::saysWhichFontIsMissing_data()
     const Table<QByteArray, QString, QString> row{"text", "words", "advice"};
     const char *package = "fonts-noto", *ownFont = "the font that the text was written with";
     row("script of history", "one\ntwo \xf0\x92\x80\x80 three\n",
-        "\"\U00012000\" (U+12000) in line 2", package);
+        "“\U00012000” (U+12000) in line 2", package);
     row("script of today", "\xe1\x80\x80", "Burmese", package);
     row("sign before digits", "\xd8\x80", "(U+0600)", package);
     row("private use", "a\n\xee\x80\x80", "U+E000 in line 2", ownFont);
@@ -707,7 +707,7 @@ void TestDocuments::namesTheMissingPackage()
 
     QVERIFY(!document);
     QCOMPARE(document.error().code, Error::Code::Unsupported);
-    QVERIFY(document.error().detail.contains("\"ghostscript\""));
+    QVERIFY(document.error().detail.contains("“ghostscript”"));
 }
 
 void TestDocuments::readsStandardInput()

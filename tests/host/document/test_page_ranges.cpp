@@ -55,20 +55,20 @@ void TestPageRanges::refusesRanges_data()
     // part: named in the message
     const Table<QString, Error::Code, QString> row{"text", "code", "part"};
 
-    row("page 0", "1,0", Code::OutOfRange, "\"0\"");
-    row("from page 0", "0-3", Code::OutOfRange, "\"0-3\"");
-    row("up to page 0", "-0", Code::OutOfRange, "\"-0\"");
-    row("backwards", "1,3-2", Code::OutOfRange, "\"3-2\"");
-    row("one after the last", "13", Code::OutOfRange, "\"13\"");
-    row("begins after the last", "13-", Code::OutOfRange, "\"13-\"");
-    row("after all numbers", "4294967297", Code::OutOfRange, "\"4294967297\"");
-    row("only a dash", "-", Code::Damaged, "\"-\"");
-    row("a comma too many", "1,,3", Code::Damaged, "\"\"");
-    row("a comma at the end", "1,", Code::Damaged, "\"\"");
-    row("two dashes", "1--3", Code::Damaged, "\"1--3\"");
-    row("a blank inside", "1 2", Code::Damaged, "\"1 2\"");
-    row("a word", "1,odd", Code::Damaged, "\"odd\"");
-    row("a fraction", "1.5", Code::Damaged, "\"1.5\"");
+    row("page 0", "1,0", Code::OutOfRange, "“0”");
+    row("from page 0", "0-3", Code::OutOfRange, "“0-3”");
+    row("up to page 0", "-0", Code::OutOfRange, "“-0”");
+    row("backwards", "1,3-2", Code::OutOfRange, "“3-2”");
+    row("one after the last", "13", Code::OutOfRange, "“13”");
+    row("begins after the last", "13-", Code::OutOfRange, "“13-”");
+    row("after all numbers", "4294967297", Code::OutOfRange, "“4294967297”");
+    row("only a dash", "-", Code::Damaged, "“-”");
+    row("a comma too many", "1,,3", Code::Damaged, "“”");
+    row("a comma at the end", "1,", Code::Damaged, "“”");
+    row("two dashes", "1--3", Code::Damaged, "“1--3”");
+    row("a blank inside", "1 2", Code::Damaged, "“1 2”");
+    row("a word", "1,odd", Code::Damaged, "“odd”");
+    row("a fraction", "1.5", Code::Damaged, "“1.5”");
     row("other digits", "\u0661", Code::Damaged, "");
 }
 

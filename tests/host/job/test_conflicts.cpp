@@ -45,38 +45,39 @@ void TestConflicts::areNamedAndMended_data()
     row("nothing chosen", "full", {}, "", {}, {});
     row("equipment that a job asks for", "unfolded", {{"KVFolder", "Full"}, {"KVFold", "C"}},
         "KVFold",
-        {"“Folding: C Fold” cannot be used on this printer (Folding Unit: Not Installed)."},
-        {"Set Folding to No Fold"});
+        {"“Folding: C-fold” cannot be used on this printer (Folding unit: Not installed)."},
+        {"Set “Folding” to “No fold”"});
     row("what the device lacks", "full", {{"StapleLocation", "Golden"}, {"Glitter", "On"}}, "", {},
         {});
     const QString clash =
-        "“Paper Type: Transparency” and “Stapling: 2 Staples, Portrait” cannot be used together.";
+        "“Paper type: Transparency” and “Stapling: 2 staples, portrait” cannot be used together.";
     const PpdSelection stapled{{"StapleLocation", "DualPortrait"}, {"MediaType", "Transparency"}};
-    row("the paper is kept", "full", stapled, "MediaType", {clash}, {"Set Stapling to No Staple"});
+    row("the paper is kept", "full", stapled, "MediaType", {clash},
+        {"Set “Stapling” to “No staple”"});
     row("and before a staple", "full", stapled, "StapleLocation", {clash},
-        {"Set Stapling to No Staple"});
+        {"Set “Stapling” to “No staple”"});
     row("what was set last is kept", "full",
         {{"KVEconomode", "Draft"}, {"KVOutputMode", "HighQuality"}}, "KVEconomode",
-        {"“Image Quality: High Quality” and “Toner Saver: Conserve Dry Ink” cannot be used "
+        {"“Image quality: High quality” and “Toner saver: Use less toner” cannot be used "
          "together."},
-        {"Set Image Quality to Standard"});
+        {"Set “Image quality” to “Standard”"});
     row("three of them", "full",
         {{"KVFeedEdge", "LongEdge"}, {"InputSlot", "Bypass"}, {"PageSize", "A3"}}, "PageSize",
-        {"“Page Size: A3 (297 × 420 mm)”, “Paper Source: Bypass Tray” and “Bypass Feed Edge: Long "
-         "Edge First” cannot be used together."},
+        {"“Paper size: A3 (297 × 420 mm)”, “Paper source: Bypass tray” and “Bypass feed edge: Long "
+         "edge first” cannot be used together."},
         {});
     row("two at once", "full",
         {{"StapleLocation", "DualPortrait"},
          {"MediaType", "Transparency"},
          {"Duplex", "DuplexTumble"}},
         "MediaType",
-        {"“Paper Type: Transparency” and “Two-Sided Printing: 2-Sided Print, Flip on Short Edge” "
+        {"“Paper type: Transparency” and “Two-sided printing: 2-sided print, flip on short edge” "
          "cannot be used together.",
          clash},
-        {"Set Two-Sided Printing to 1-Sided Print", "Set Stapling to No Staple"});
+        {"Set “Two-sided printing” to “1-sided print”", "Set “Stapling” to “No staple”"});
     row("equipment that is not there", "unfolded", {{"KVFold", "C"}}, "KVFold",
-        {"“Folding: C Fold” cannot be used on this printer (Folding Unit: Not Installed)."},
-        {"Set Folding to No Fold"});
+        {"“Folding: C-fold” cannot be used on this printer (Folding unit: Not installed)."},
+        {"Set “Folding” to “No fold”"});
 }
 
 void TestConflicts::areNamedAndMended()
@@ -143,14 +144,14 @@ void TestConflicts::listWhatTheDeviceLacks_data()
 
     const PPDDictionary staple{{"StapleLocation", "Dual"}};
     row("options and choices", {{"Glitter", "On"}, {"MediaType", "Standard"}, {"Jog", "Sideways"}},
-        "A4", true, {"Glitter: On", "Request Offset: Sideways"});
+        "A4", true, {"Glitter: On", "Request offset: Sideways"});
     row("nothing is asked of what it lacks", {{"KVFold", "None"}, {"Glitter", "False"}}, {}, true,
         {});
-    row("in the words of the device that has it", staple, {}, true, {"Stapling: 2 Staples"});
-    row("a choice of paper", {{"PageSize", "Custom.1x1"}}, "A4", true, {"Page Size: Custom.1x1"});
-    row("a paper of the page format", {}, "Custom.1x1", true, {"Page Size: Custom.1x1"});
+    row("in the words of the device that has it", staple, {}, true, {"Stapling: 2 staples"});
+    row("a choice of paper", {{"PageSize", "Custom.1x1"}}, "A4", true, {"Paper size: Custom.1x1"});
+    row("a paper of the page format", {}, "Custom.1x1", true, {"Paper size: Custom.1x1"});
     row("without a PPD", {{"StapleLocation", "Dual"}, {"PageSize", "A4"}}, "A4", false,
-        {"Stapling: 2 Staples"});
+        {"Stapling: 2 staples"});
 }
 
 void TestConflicts::listWhatTheDeviceLacks()
@@ -163,7 +164,7 @@ void TestConflicts::listWhatTheDeviceLacks()
     asked.printSettings.ppdChoices = choices;
     if (!paper.isEmpty())
         asked.pageFormat.entries[kPMPaperNameKey] = {paper, QStringLiteral("test")};
-    asked.choiceWords = {{"StapleLocation=Dual", "Stapling:\n2 Staples"}};
+    asked.choiceWords = {{"StapleLocation=Dual", "Stapling:\n2 staples"}};
 
     QTEST(missingOnDevice(asked, hasPpd ? bare.get() : nullptr), "expected");
 }

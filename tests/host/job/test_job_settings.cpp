@@ -140,6 +140,12 @@ void TestJobSettings::knowPaperSizes()
     }
 }
 
+// A null value: the name alone.
+static AskedOption asked(const QString &name, const QString &value)
+{
+    return {name, value.isNull() ? std::nullopt : std::optional(value)};
+}
+
 void TestJobSettings::takeOptions_data()
 {
     const auto orientation = [](int value) {
@@ -177,6 +183,14 @@ void TestJobSettings::takeOptions_data()
     row("uncollated", "multiple-document-handling", "separate-documents-uncollated-copies",
         {1, false, {}, "A4"}, {{"PageSize", "A4"}});
     row("pages", "page-ranges", "1-3,7", {1, true, "1-3,7", "A4"}, {{"PageSize", "A4"}});
+    // A name alone is true, and with "no" before it false.
+    row("a name", "landscape", nullptr, orientation(2), {{"PageSize", "A4"}});
+    row("no name", "nolandscape", nullptr, orientation(1), {{"PageSize", "A4"}});
+    row("the other name for it", "portrait", "no", orientation(2), {{"PageSize", "A4"}});
+    row("no name of the host's", "noCollate", nullptr, {1, false, {}, "A4"}, {{"PageSize", "A4"}});
+    row("a choice called otherwise", "JCLBanner", nullptr, plain, {{"JCLBanner", "True"}});
+    row("none is no", "noDuplex", nullptr, plain, {{"Duplex", "None"}});
+    row("what is done anyway", "nofit-to-page", nullptr, plain);
 }
 
 void TestJobSettings::takeOptions()
@@ -184,7 +198,7 @@ void TestJobSettings::takeOptions()
     QFETCH(QString, name);
     QFETCH(QString, value);
     PrintSession session;
-    const auto applied = applyOption(name, value, m_ppd.get(), session);
+    const auto applied = applyOption(asked(name, value), m_ppd.get(), session);
     QVERIFY2(applied, qPrintable(applied.reason()));
     QTEST(session.printSettings().ppdChoices, "choices");
     QTEST(jobSettingsFrom(session, m_ppd.get()), "settings");
@@ -193,8 +207,12 @@ void TestJobSettings::takeOptions()
 void TestJobSettings::refuseOptions_data()
 {
     const Table<QString, QString, Code, QString> row{"name", "value", "code", "says"};
-    row("unknown option", "StapleLocaton", "None", Code::NotFound, "did you mean StapleLocation?");
-    row("unknown host option", "orientation", "4", Code::NotFound, "orientation-requested");
+    row("unknown option", "StapleLocaton", "None", Code::Unsupported,
+        "did you mean StapleLocation?");
+    row("unknown host option", "orientation", "4", Code::Unsupported, "orientation-requested");
+    row("another program's option", "number-up", "2", Code::Unsupported, "neither this printer");
+    row("scaling", "fit-to-page", "true", Code::Refused, "at their own size");
+    row("several choices are no", "StapleLocation", "yes", Code::NotFound, "there are None, ");
     row("unknown choice", "StapleLocation", "DualPortait", Code::NotFound,
         "did you mean DualPortrait?");
     row("equipment", "KVFinisher", "None", Code::Refused, "its administrator");
@@ -216,6 +234,9 @@ void TestJobSettings::refuseOptions_data()
     row("half a copy", "copies", "1.5", Code::OutOfRange, "from 1 to 9999");
     row("unknown sides", "sides", "two-sided-longedge", Code::NotFound, "two-sided-long-edge");
     row("collate maybe", "collate", "maybe", Code::NotFound, "there are true, false");
+    row("a name alone", "nolandscap", {}, Code::Unsupported, "neither this printer");
+    row("several choices, and a name alone", "StapleLocation", {}, Code::NotFound,
+        "there are None, ");
     row("pages in words", "page-ranges", "two", Code::OutOfRange, "1-3,7");
 }
 
@@ -226,24 +247,23 @@ void TestJobSettings::refuseOptions()
     QFETCH(Code, code);
     QFETCH(QString, says);
     PrintSession session;
-    const auto applied = applyOption(name, value, m_ppd.get(), session);
+    const auto applied = applyOption(asked(name, value), m_ppd.get(), session);
     QVERIFY(!applied);
     QCOMPARE(applied.error().code, code);
     QVERIFY2(applied.error().detail.contains(says), qPrintable(applied.reason()));
-    QCOMPARE(applied.error().where, name + u'=' + value);
+    QCOMPARE(applied.error().where, value.isNull() ? name : name + u'=' + value);
     QCOMPARE(ticketFileFrom(session), TicketFile());
 }
 
 void TestJobSettings::workWithoutPpd()
 {
     PrintSession session;
-    QVERIFY(applyOption(QStringLiteral("media"), QStringLiteral("A4"), nullptr, session));
-    QVERIFY(applyOption(QStringLiteral("sides"), QStringLiteral("one-sided"), nullptr, session));
+    QVERIFY(applyOption({"media", "A4"}, nullptr, session));
+    QVERIFY(applyOption({"sides", "one-sided"}, nullptr, session));
     // What is not known of it is not said of it either.
-    for (const auto &[name, value] :
-         {std::pair("sides", "two-sided-long-edge"), {"Duplex", "None"}}) {
-        const auto applied =
-            applyOption(QLatin1String(name), QLatin1String(value), nullptr, session);
+    for (const AskedOption &option :
+         {AskedOption{"sides", "two-sided-long-edge"}, {"Duplex", "None"}}) {
+        const auto applied = applyOption(option, nullptr, session);
         QVERIFY(!applied && applied.error().text().contains("no description"));
     }
     QVERIFY(!isTwoSided({{"Duplex", "DuplexTumble"}}, nullptr)); // of another printer

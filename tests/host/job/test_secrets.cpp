@@ -142,12 +142,12 @@ void TestSecrets::neverStandInWords()
     // Each thing once: as it is described, else in the PPD's words, else as one of so many.
     QCOMPARE(words.settings,
              (QStringList{"Copies: 3, not collated", "Pages: 2-5", "Orientation: Landscape",
-                          "Pin: lucky", "Stapling: 2 Staples, Portrait",
+                          "Pin: lucky", "Stapling: 2 staples, portrait",
                           "4 entries that the device panels add (see Ticket)"}));
     QCOMPARE(words.defaults.filter("Sides"), QStringList{"Sides: one"});
-    QCOMPARE(words.defaults.filter("Page Size").size(), 1);
+    QCOMPARE(words.defaults.filter("Paper size").size(), 1);
     QVERIFY(words.defaults.filter("Two-Sided").isEmpty()
-            && words.defaults.filter("Paper Source").isEmpty());
+            && words.defaults.filter("Paper source").isEmpty());
     QCOMPARE(words.notSent, QStringList{"Glitter: On – this printer does not have it"});
     QVERIFY(words.ticket.contains("Plain = \"open\" (written by test)"));
     const QString text = words.asText();
@@ -193,7 +193,7 @@ void TestSecrets::wordsStayOnTheirLines()
     const QString text =
         describeJob(file, settings, nullptr, {}, {}, missingOnDevice(file, nullptr)).asText();
     for (const char *line :
-         {"  Pages: 2\\n3\n", "  Paper: A4\\n – ", "  Glit\\nter: O\\x9bn – the print server",
+         {"  Pages: 2\\n3\n", "  Paper size: A4\\n – ", "  Glit\\nter: O\\x9bn – the print server",
           "  A\\nB = {C\\nD = \"E\\nF\\x1b\"} (written by test)\n"})
         QVERIFY2(text.contains(QString::fromUtf8(line)), qPrintable(text));
 }

@@ -97,7 +97,7 @@ void TestScriptParser::refusesWithTheLineAndTheReason_data()
     const Table<QByteArray, QString> row{"text", "reason"};
 
     row("unknown command, near one", "chose @a 1", "did you mean choose?");
-    row("unknown command, far from all", "xyzzy", "there is no command \"xyzzy\"");
+    row("unknown command, far from all", "xyzzy", "there is no command “xyzzy”");
     row("quoted command", "\"print\"", "there is no command");
     row("too few words", "choose @a", "choose CONTROL WHAT");
     row("too many words", "print now", "there is too much");

@@ -54,7 +54,7 @@ public:
         field->setEchoMode(QLineEdit::Password);
         setInputLimits(field, {1, 12, InputLimits::decimalDigits()});
         layout->addWidget(field);
-        box = new QCheckBox(QStringLiteral("Collate"));
+        box = new QCheckBox(QStringLiteral("C&ollate"));
         box->setObjectName(QStringLiteral("collate"));
         box->setEnabled(false);
         layout->addWidget(box);
@@ -149,7 +149,7 @@ ExitStatus run(FakeDialog &dialog, const QByteArray &script, bool printAtEnd = f
         qWarning("%s", qPrintable(lines.error().text()));
         return ExitStatus::WrongUsage;
     }
-    ScriptRunner runner(dialog, lines.value(), {QStringLiteral("t.kps"), printAtEnd});
+    ScriptRunner runner(dialog, lines.value(), {QStringLiteral("t.kps"), printAtEnd, 300});
     ExitStatus status = ExitStatus::Failed;
     QEventLoop loop;
     bool ended = false;
@@ -217,6 +217,13 @@ void TestScriptRunner::endsWithTheStatusThatTheLineDeserves_data()
     row("disabled control", "check @collate on", ExitStatus::NotOffered);
     row("control of another kind", "check @bannerSheet on", ExitStatus::WrongUsage);
     row("command that nobody takes", "command 'zzzz'", ExitStatus::NotOffered);
+    row("keys pick from a list",
+        "key \"Shift+Tab\"\nkey \"Alt+Down\"\nkey \"Down\"\nkey \"Return\"\n"
+        "expect KPDE 614 value 1",
+        ExitStatus::Printed);
+    row("keys close a menu", "key \"Space\"\nkey \"Escape\"\nclick @print", ExitStatus::Printed);
+    row("key that nobody takes", "key \"Ctrl+P\"", ExitStatus::NotOffered);
+    row("key of a disabled button", "key \"Alt+O\"", ExitStatus::NotOffered);
     row("command that closes its dialog", "click @setup\ncommand 'not!'", ExitStatus::Printed);
     row("expectation not met", "expect @bannerSheet value 7", ExitStatus::WrongUsage);
     row("expectation of a disabled control", "expect @collate enabled false", ExitStatus::Printed);
@@ -300,15 +307,15 @@ void TestScriptRunner::masksByPlace_data()
 {
     const Table<QByteArray, QString> row{"script", "said"};
     row("a field, in the message about it", "type @passcode \"1\"\nexpect @passcode text \"1\"",
-        "t.kps:2: text of @passcode is \"••••\"; of a secret only \"••••\" or \"\" is told\n");
+        "t.kps:2: text of @passcode is “••••”; of a secret only “••••” or “” is told\n");
     row("an empty field", "expect @passcode text \"••••\"",
-        "t.kps:1: text of @passcode is \"\"; of a secret only "
-        "\"••••\" or \"\" is told\n");
+        "t.kps:1: text of @passcode is “”; of a secret only "
+        "“••••” or “” is told\n");
     row("an entry, and what was expected of it", "expect-ticket Code \"12\"",
-        "t.kps:1: Code is \"••••\", not what this line says; a secret is not told\n");
-    row("another entry", "expect-ticket Size 12", "t.kps:1: Size is \"4711\", not \"12\"\n");
+        "t.kps:1: Code is “••••”, not what this line says; a secret is not told\n");
+    row("another entry", "expect-ticket Size 12", "t.kps:1: Size is “4711”, not “12”\n");
     row("a value and its line", QByteArray(4710, '\n') + QByteArray("expect KPDE 614 value 4711"),
-        "t.kps:4711: value of KPDE 614 is \"0\", not \"4711\"\n");
+        "t.kps:4711: value of KPDE 614 is “0”, not “4711”\n");
     row("the words of a problem", "print", "t.kps:1: ••••: 1 of 4711x was not taken\n");
 }
 
@@ -344,14 +351,22 @@ void TestScriptRunner::saysWhatWouldHaveWorked_data()
         "@bannerSheet has no item 7; it has 0 \"No banner\", 1 \"Banner\", 1 \"Twin\", 9 \"Gone\"");
     row("choose @bannerSheet text \"Bannr\"",
         "@bannerSheet has no item \"Bannr\", the nearest is Banner");
-    row("click @presetMenu",
-        "@presetMenu is a MenuButton and cannot be clicked; it takes item, choose");
-    row("key \"Space\"",
-        "a menu has opened, which lines cannot pick from; \"item\" and \"choose\" pick its items "
-        "while it is closed");
+    row("click @presetMenu", "@presetMenu is a MenuButton and cannot be clicked; use item, choose");
+    row("drag @presetMenu 0 0",
+        "@presetMenu is a MenuButton and cannot be dragged; use item, choose");
+    for (const char *menu : {"key \"Space\"", "key \"Space\"\nclick @print"})
+        row(menu,
+            "a menu or list is open; only “key” lines pick from it or close it, “item” and "
+            "“choose” pick while it is closed");
+    row("key \"Ctrl+P\"",
+        "nothing in the window “Print” takes the key “Ctrl+P”; the focus is on @presetMenu; "
+        "“click” and “type” name their control and need no focus");
+    row("key \"Alt+O\"",
+        "nothing in the window “Print” takes the key “Alt+O”; @collate is disabled; “click” "
+        "and “type” name their control and need no focus");
     row("command 'zzzz'",
-        "nothing in the window \"Print\" takes the command 'zzzz'; \"controls\" lists the commands "
-        "of its buttons, and those of menus, which \"item\" picks");
+        "nothing in the window “Print” takes the command 'zzzz'; “controls” lists the commands "
+        "of its buttons, and those of menus, which “item” picks");
     row("expect @passcode value 4711",
         "@passcode: it has no value; it has text, enabled, visible, focus");
     for (const char *name : {"@bannerShee", "@bannersheet", "@banerSheet"})
@@ -359,7 +374,7 @@ void TestScriptRunner::saysWhatWouldHaveWorked_data()
             qPrintable(QStringLiteral("%1 is not in the window, did you mean @bannerSheet?")
                            .arg(QLatin1String(name))));
     row("click @qqqqqqqqqqqqqqqqqqqq",
-        "@qqqqqqqqqqqqqqqqqqqq is not in the window; \"controls\" lists what is");
+        "@qqqqqqqqqqqqqqqqqqqq is not in the window; “controls” lists what is");
 }
 
 void TestScriptRunner::saysWhatWouldHaveWorked()

@@ -191,7 +191,7 @@ void TestSession::settingsComeBackWithTheirPrinter()
     // What was begun writes and ends before it begins again.
     QCOMPARE(run.panels.calls.mid(0, 3), (QStringList{"write", "end", "begin"}));
     QCOMPARE(run.panels.note, "mine");
-    QVERIFY2(run.job().missing().join(' ').contains("2 Hole"),
+    QVERIFY2(run.job().missing().join(' ').contains("2-hole punch"),
              qPrintable(run.job().missing().join(' ')));
     QVERIFY(run.job().isChanged());
 

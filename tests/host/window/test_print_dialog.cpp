@@ -1,6 +1,7 @@
 #include "test_panels.h"
 
 #include "bundle.h"
+#include "document_chooser.h"
 #include "file_store.h"
 #include "files.h"
 #include "inspector.h"
@@ -21,6 +22,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -42,6 +44,7 @@ private slots:
     void initTestCase();
     void init();
 
+    void theChosenDocumentIsOpened();
     void opensOnTheDevicesPanels();
     void thePrintButtonIsAskedFirst();
     void whatWasTypedLastIsPrinted();
@@ -60,10 +63,9 @@ private slots:
     void aDeadDesktopKeepsNobody();
 
     void theFirstKeyIsHeard();
-    void returnPrintsOnlyFromThePrintButton();
+    void returnPrintsUnlessAButtonHasTheFocus();
     void keysReachPanelsAndRegions();
     void everyStopIsReachedOnceAndHasAName();
-    void mnemonicsAreUnique();
     void everythingFits_data();
     void everythingFits();
 
@@ -207,6 +209,38 @@ QByteArray TestPrintDialog::written(const QString &name) const
 
 // ---- life
 
+void TestPrintDialog::theChosenDocumentIsOpened()
+{
+    const QStringList printed{"a.pdf", "b.PS", "c.txt", "d.jpeg", "e.svg"};
+    const QByteArray document = test::pdfWithPages({"", "", ""});
+    for (const QString &name : printed + QStringList{"f.odt"})
+        putFile(m_folder->filePath(name), document);
+    const auto chooser = documentChooser(m_folder->path());
+    chooser->show();
+    const auto *files = chooser->findChild<QListView *>("listView");
+    const auto shownNames = [files] {
+        QStringList names;
+        const QModelIndex folder = files->rootIndex();
+        for (int row = 0; row < files->model()->rowCount(folder); ++row)
+            names << files->model()->index(row, 0, folder).data().toString();
+        return names;
+    };
+    QTRY_COMPARE(shownNames(), printed);
+    chooser->selectNameFilter(chooser->nameFilters().last());
+    QTRY_COMPARE(shownNames(), printed + QStringList{"f.odt"});
+
+    auto *name = chooser->findChild<QLineEdit *>("fileNameEdit");
+    QTest::keyClicks(name, "a.pdf");
+    QTest::keyClick(name, Qt::Key_Return);
+    QCOMPARE(chooser->result(), int(QDialog::Accepted));
+
+    auto begin = options();
+    begin.session.document->path = chooser->selectedFiles().value(0);
+    Shown shown(begin);
+    QVERIFY(shown.waitUntilIdle());
+    QVERIFY2(shown.text("summary").startsWith("3 pages"), qPrintable(shown.text("summary")));
+}
+
 void TestPrintDialog::opensOnTheDevicesPanels()
 {
     auto begin = options();
@@ -228,11 +262,16 @@ void TestPrintDialog::opensOnTheDevicesPanels()
     QVERIFY(!shown.dialog.showTab(99));
 
     // Help is about the panel that is shown.
-    QVERIFY(shown.dialog.showPanel("SpecialPages"));
-    shown.find<QPushButton>("help")->click();
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    QVERIFY(std::ranges::find(windows, "The Special Pages panel", &QWidget::windowTitle)
-            != windows.end());
+    const std::pair<QString, QString> panels[] = {{"SpecialPages", "The Special Pages panel"},
+                                                  {"ImageOptions", "The Image Options panel"},
+                                                  {"Advanced", "The Advanced panel"}};
+    for (const auto &[panel, title] : panels) {
+        QVERIFY(shown.dialog.showPanel(panel));
+        shown.find<QPushButton>("help")->click();
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        QVERIFY2(std::ranges::find(windows, title, &QWidget::windowTitle) != windows.end(),
+                 qPrintable(title));
+    }
 }
 
 void TestPrintDialog::thePrintButtonIsAskedFirst()
@@ -314,7 +353,7 @@ void TestPrintDialog::conflictsAreShownAndFixed()
         QVERIFY(shown.find<QLabel>("conflictText")->accessibleName().contains("Transparency"));
         NoticeAnswer details(1);
         shown.find<QPushButton>("conflictDetails")->click();
-        QVERIFY2(details.text.contains("Set Stapling to No Staple"), qPrintable(details.text));
+        QVERIFY2(details.text.contains("Set “Stapling” to “No staple”"), qPrintable(details.text));
         m_panels->calls.clear();
 
         shown.find<QPushButton>("fix")->click();
@@ -412,10 +451,10 @@ void TestPrintDialog::aChangedPresetHasAStar()
     Shown shown(options());
     QVERIFY(shown.waitUntilIdle());
     auto *preset = shown.find<PopupButton>("preset");
-    QCOMPARE(preset->currentText(), "Default Settings");
+    QCOMPARE(preset->currentText(), "Default settings");
     QVERIFY(!inspector::set(shown.find<QWidget>("copies"), 4));
     QVERIFY(shown.waitUntilIdle());
-    QCOMPARE(preset->currentText(), "Default Settings*");
+    QCOMPARE(preset->currentText(), "Default settings*");
 
     // Save as: a dialog with a name.
     QTimer::singleShot(50, [] {
@@ -436,16 +475,16 @@ void TestPrintDialog::aChangedPresetHasAStar()
     NoticeAnswer remove(1);
     inspector::chooseCommand(shown.find<QWidget>("presetMenu"), fourCharCode("PsDl"), {});
     QVERIFY(PresetStore().presets().empty());
-    QCOMPARE(preset->currentText(), "Default Settings*");
+    QCOMPARE(preset->currentText(), "Default settings*");
     QCOMPARE(shown.find<SpinField>("copies")->value(), 4); // nothing was lost here
 }
 
 void TestPrintDialog::namesThatNoPresetCanHave()
 {
-    for (const char *name : {"Default Settings", " default  settings", "Default Settings*"})
+    for (const char *name : {"Default settings", " default  settings", "Default settings*"})
         QVERIFY2(presetNameProblem(name).contains("how the printer comes"), name);
     QVERIFY(presetNameProblem(" ").contains("Type a name"));
-    QCOMPARE(presetNameProblem("Default Settings 2"), QString());
+    QCOMPARE(presetNameProblem("Default settings 2"), QString());
 }
 
 // ---- print servers
@@ -620,23 +659,41 @@ void TestPrintDialog::theFirstKeyIsHeard()
     QVERIFY(shown.waitUntilEnded());
 }
 
-void TestPrintDialog::returnPrintsOnlyFromThePrintButton()
+void TestPrintDialog::returnPrintsUnlessAButtonHasTheFocus()
 {
+    for (const char *name : {"printer", "copies", "pages", "PDEShellField", "print"}) {
+        Shown shown(options());
+        QVERIFY(shown.waitUntilIdle());
+        shown.dialog.activateWindow();
+        QVERIFY(shown.choose("pagesChoice", "range"));
+        QVERIFY(!inspector::type(shown.find<QWidget>("pages"), "2"));
+        auto *control = shown.find<QWidget>(name);
+        control->setFocus();
+        QVERIFY(shown.find<QPushButton>("print")->isDefault());
+        QTest::keyClick(control, Qt::Key_Return);
+        QVERIFY2(shown.dialog.isPrinting(), name);
+        // Twice is once.
+        QTest::keyClick(shown.dialog.focusWidget(), Qt::Key_Return);
+        QVERIFY(shown.waitUntilEnded());
+        QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+    }
     Shown shown(options());
     QVERIFY(shown.waitUntilIdle());
     shown.dialog.activateWindow();
-    for (const char *name : {"copies", "preset", "whatWillBeSent", "help", "PDEShellField"}) {
-        auto *control = shown.find<QWidget>(name);
-        control->setFocus();
-        QTest::keyClick(control, Qt::Key_Return);
-        QVERIFY2(!shown.dialog.isPrinting() && !frontNotice().isShown(), name);
-        QVERIFY2(frontWindow() == &shown.dialog, name);
-    }
-    auto *print = shown.find<QPushButton>("print");
-    print->setFocus();
-    QTest::keyClick(print, Qt::Key_Return);
-    QVERIFY(shown.dialog.isPrinting());
-    QVERIFY(shown.waitUntilEnded());
+    auto *copies = shown.find<SpinField>("copies");
+    copies->setFocus();
+    copies->typeText("0");
+    QTest::keyClick(copies, Qt::Key_Return); // it says 1 now, which may not be meant
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
+    QCoreApplication::sendEvent(copies, &held);
+    QVERIFY(!shown.dialog.isPrinting());
+    QCOMPARE(copies->text(), QStringLiteral("1"));
+
+    auto *cancel = shown.find<QPushButton>("cancel");
+    cancel->setFocus();
+    QVERIFY(!shown.find<QPushButton>("print")->isDefault());
+    QTest::keyClick(cancel, Qt::Key_Enter, Qt::KeypadModifier);
+    QCOMPARE(shown.dialog.finished(), ExitStatus::Cancelled);
 }
 
 void TestPrintDialog::keysReachPanelsAndRegions()
@@ -705,26 +762,6 @@ void TestPrintDialog::everyStopIsReachedOnceAndHasAName()
                           "pages", "paper", "orientation", "panelSwitch", "PDEShellField", "fix",
                           "conflictDetails", "columnToggle", "whatWillBeSent", "help", "cancel",
                           "print"}));
-}
-
-void TestPrintDialog::mnemonicsAreUnique()
-{
-    Shown shown(options());
-    QVERIFY(shown.waitUntilIdle());
-    QMap<QString, QString> owners;
-    for (const QWidget *widget : shown.dialog.findChildren<QWidget *>()) {
-        QString text;
-        if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
-            text = label->text();
-        else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-            text = button->text();
-        const QString key = QKeySequence::mnemonic(text).toString();
-        if (key.isEmpty())
-            continue;
-        QVERIFY2(!owners.contains(key), qPrintable(text + " and " + owners.value(key)));
-        owners[key] = text;
-    }
-    QVERIFY(owners.size() >= 12);
 }
 
 void TestPrintDialog::everythingFits_data()

@@ -377,7 +377,7 @@ void TestType42::refusesDamagedFonts_data()
         changed([](MadeFont &font) { MadeFont::put16(font.table("post"), 32, 4); }), "",
         "Made: the table post has names for 4 glyphs, but the font has 3");
     row("names end early", changed([](MadeFont &font) { font.table("post").truncate(39); }), "",
-        "Made: the table post ends within the numbers of the glyphs' names");
+        "Made: the table post ends within the numbers of the glyphs’ names");
     row("no names", changed([](MadeFont &font) { font.table("post").truncate(33); }), "",
         "Made: the table post has names for 0 glyphs, but the font has 3");
 }
