@@ -1,5 +1,6 @@
 #include "application_files.h"
 #include "application_look.h"
+#include "audience.h"
 #include "background_work.h"
 #include "command_line.h"
 #include "control_list.h"
@@ -564,6 +565,8 @@ int runApplication(int argc, char **argv, CommandLine line)
         if (line.file.isEmpty())
             return toInt(ExitStatus::Cancelled);
     }
+    if (line.noWindow)
+        setAudience(line.script ? Audience::Script : Audience::Nobody);
     DialogOptions options = dialogOptions(line);
     SessionBeginning &session = options.session;
     if (auto bundle = openPanelBundle()) {
