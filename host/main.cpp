@@ -14,6 +14,7 @@
 #include "help_window.h"
 #include "leftovers.h"
 #include "output_targets.h"
+#include "pictures.h"
 #include "print_dialog.h"
 #include "printers.h"
 #include "script_parser.h"
@@ -555,7 +556,7 @@ int runApplication(int argc, char **argv, CommandLine line)
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("kelvo-print"));
     QApplication::setDesktopFileName(QStringLiteral("kelvo-print"));
-    QApplication::setWindowIcon(QIcon(findSharedFile(QStringLiteral("icons/kelvo-print.svg"))));
+    QApplication::setWindowIcon(iconOf(findSharedFile(QStringLiteral("icons/kelvo-print.svg"))));
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
 
