@@ -1,11 +1,8 @@
 #include "printers.h"
 
 #include "cups_connection.h"
-#include "file_store.h"
-#include "output_file.h"
 #include "printer_list.h"
 #include "queue_ppds.h"
-#include "temporary_folder.h"
 
 #include <QTimer>
 
@@ -15,7 +12,13 @@ namespace kelvo {
 
 namespace {
 
-Result<QByteArray> readPpd(const QString &printer, Patience &patience)
+// What the server has for a printer.
+struct FetchedPpd
+{
+    Result<std::shared_ptr<PpdFile>> opened;
+};
+
+Result<FetchedPpd> readPpd(const QString &printer, Patience &patience)
 {
     const auto queue = queueName(printer);
     if (!queue)
@@ -23,8 +26,10 @@ Result<QByteArray> readPpd(const QString &printer, Patience &patience)
     const auto http = connectToServer(patience);
     if (!http)
         return http.error();
-    auto ppd = queuePpd(http.value().get(), queue.value(), patience);
-    return ppd ? ppd : Error{ppd.error().code, printer, ppd.error().detail};
+    const auto bytes = queuePpd(http.value().get(), queue.value(), patience);
+    if (!bytes)
+        return Error{bytes.error().code, printer, bytes.error().detail};
+    return FetchedPpd{PpdFile::fromBytes(bytes.value(), printer)};
 }
 
 // `work` aside, for a caller that has nothing else to do.
@@ -48,8 +53,6 @@ struct PrinterDirectory::Private
 {
     std::mutex mutex;
     PrinterDirectory *owner = nullptr; // null once it is gone
-    TemporaryFolder folder;
-    int ppdCount = 0;
     std::vector<std::weak_ptr<Patience>> conversations;
 
     // `call` on the owner's thread, if there is an owner then.
@@ -59,12 +62,6 @@ struct PrinterDirectory::Private
         if (PrinterDirectory *target = owner)
             QMetaObject::invokeMethod(
                 target, [target, call = std::move(call)] { call(target); }, Qt::QueuedConnection);
-    }
-
-    QString newPpdPath()
-    {
-        const std::lock_guard lock(mutex);
-        return folder.filePath(QStringLiteral("%1.ppd").arg(++ppdCount));
     }
 
     // `work` aside; `answer` gets its result, or what became of it, once.
@@ -112,7 +109,6 @@ PrinterDirectory::~PrinterDirectory()
         if (const auto patience = conversation.lock())
             patience->stop();
     }
-    d->folder.remove();
 }
 
 void PrinterDirectory::refresh(int timeoutMs)
@@ -129,25 +125,16 @@ void PrinterDirectory::refresh(int timeoutMs)
 
 void PrinterDirectory::fetchPpd(const QString &printer, int timeoutMs)
 {
-    Private::ask<QString>(
-        d, timeoutMs,
-        [printer, shared = d](Patience &patience) -> Result<QString> {
-            const auto bytes = readPpd(printer, patience);
-            if (!bytes)
-                return bytes.error();
-            if (!shared->folder.isValid())
-                return folderNotMade(temporaryPath(), shared->folder.errorString());
-            const QString path = shared->newPpdPath();
-            if (auto written = replaceFile(path, bytes.value()); !written)
-                return written.error();
-            return path;
-        },
+    Private::ask<FetchedPpd>(
+        d, timeoutMs, [printer](Patience &patience) { return readPpd(printer, patience); },
         [printer] { return printer; },
-        [printer](PrinterDirectory *self, const Result<QString> &path) {
-            if (path)
-                emit self->ppdFetched(printer, path.value());
+        [printer](PrinterDirectory *self, const Result<FetchedPpd> &ppd) {
+            if (!ppd)
+                emit self->ppdFailed(printer, ppd.error());
+            else if (const auto &opened = ppd.value().opened)
+                emit self->ppdFetched(printer, opened.value());
             else
-                emit self->ppdFailed(printer, path.error());
+                emit self->ppdUnreadable(printer, opened.error());
         });
 }
 
