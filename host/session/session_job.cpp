@@ -38,7 +38,7 @@ Result<void> SessionJob::beginOn(Device device)
 {
     m_device = std::move(device);
     m_session = std::make_unique<PrintSession>();
-    m_session->setPrinter({m_device.name, ppd() ? ppd()->path() : QString()});
+    m_session->setPrinter({m_device.name, {}, m_device.ppd});
     nameJob();
     const TicketFile defaults = queueDefaults();
     m_repeatedChoices = m_describer.repeatedChoices(ppd(), m_wishes.preset || m_wishes.ticketIn);
