@@ -26,6 +26,7 @@ private slots:
     void putsLayersTogether();
     void drawsTwoPagesWithWhatLiesOverThem();
     void leavesNoRimAroundPrintWithoutPaper();
+    void drawsWhatCairoGivesUp();
     void keepsWhatIsDrawnAlready();
     void answersForTheNewestRequestOnly();
     void saysWhenAPageCannotBeDrawn();
@@ -217,6 +218,33 @@ void TestPageRenderer::leavesNoRimAroundPrintWithoutPaper()
     }
     QVERIFY(slanted > 100);
     QVERIFY2(most <= 2, qPrintable(QString::number(most)));
+}
+
+// From dashes of no length on cairo draws nothing any more.
+void TestPageRenderer::drawsWhatCairoGivesUp()
+{
+    PageRenderer renderer;
+    QStringList asked;
+    renderer.setOverlayPainter(greenOverlays(asked));
+    QSignalSpy spy(&renderer, &PageRenderer::rendered);
+    renderer.setDocument(documentOf(
+        pdfWithPages({"[0 0] 0 d 0 0 m 9 9 l S 1 0 0 rg 0 0 100 300 re f", filled("0 0 1")})));
+
+    SideToDraw side = pageIn(1, {201, 300});
+    renderer.render(side);
+    QVERIFY(spy.wait());
+    QCOMPARE(imageOf(spy).pixelColor(50, 150), QColor(Qt::red));
+    QCOMPARE(imageOf(spy).pixelColor(150, 150), QColor(Qt::white));
+
+    side.overlays = {{{"green", Overlay::Place::Behind}, {201, 300}, side.pages[0].rect}};
+    renderer.render(side);
+    QVERIFY(spy.wait());
+    QCOMPARE(imageOf(spy).pixelColor(50, 150), QColor(Qt::red));
+    QCOMPARE(imageOf(spy).pixelColor(150, 150), QColor(Qt::green)); // through the paper
+
+    renderer.render(pageIn(2, {202, 300}));
+    QVERIFY(spy.wait());
+    QCOMPARE(imageOf(spy).pixelColor(150, 150), QColor(Qt::blue));
 }
 
 void TestPageRenderer::keepsWhatIsDrawnAlready()
