@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <fcntl.h>
-#include <optional>
 
 namespace kelvo {
 
@@ -59,24 +58,56 @@ QSize fitted(const QSizeF &page, const QSize &room)
     return (page * scale).toSize().expandedTo(QSize(1, 1));
 }
 
-Error undrawable(const char *reason)
+Error undrawable()
 {
-    return Error{Error::Code::Damaged, {}, QString::fromLatin1(reason)};
+    return Error{Error::Code::Damaged, {}, {}};
+}
+
+struct ByCairo
+{
+    drawing::Picture picture;
+    cairo_status_t status; // after another one than success, the picture has a part of the page
+};
+
+ByCairo drawnByCairo(PopplerPage &page, const QSize &pixels, const QSizeF &perPoint, bool isOnWhite)
+{
+    const int stride = 4 * pixels.width();
+    QByteArray bytes(qsizetype(stride) * pixels.height(), '\0');
+    const Owned<cairo_surface_t> surface(cairo_image_surface_create_for_data(
+        reinterpret_cast<unsigned char *>(bytes.data()), CAIRO_FORMAT_ARGB32, pixels.width(),
+        pixels.height(), stride));
+    const Owned<cairo_t> context(cairo_create(surface.get()));
+    cairo_scale(context.get(), perPoint.width(), perPoint.height());
+    poppler_page_render(&page, context.get());
+    if (isOnWhite) {
+        // Not before: what is blended is blended with what the page has, not with its paper.
+        cairo_set_operator(context.get(), CAIRO_OPERATOR_DEST_OVER);
+        cairo_set_source_rgb(context.get(), 1, 1, 1);
+        cairo_paint(context.get());
+    }
+    cairo_surface_finish(surface.get());
+    return {{pixels, bytes}, cairo_status(context.get())};
 }
 
 } // namespace
 
 struct PagePictures::Private
 {
+    explicit Private(const PdfSource &from)
+        : source(from)
+        , pdf(load(source))
+        , splash(source)
+    {
+    }
+
     PdfSource source; // its bytes stay where they are
     Owned<PopplerDocument> pdf;
-    std::optional<SplashPictures> splash; // from the first page on that cairo gives up
+    SplashPictures splash;
 };
 
 PagePictures::PagePictures(const PdfSource &source)
     : d(std::make_unique<Private>(source))
 {
-    d->pdf = load(d->source);
 }
 
 PagePictures::~PagePictures() = default;
@@ -89,40 +120,26 @@ QString PagePictures::version()
 Result<drawing::Picture> PagePictures::draw(int page, const QSize &room, bool isOnWhite)
 {
     if (!d->pdf || page < 1 || page > poppler_document_get_n_pages(d->pdf.get()))
-        return undrawable("no page");
+        return undrawable();
     const Owned<PopplerPage> read(poppler_document_get_page(d->pdf.get(), page - 1));
     const QSizeF points = read ? sizeOf(*read) : QSizeF();
     if (points.isEmpty())
-        return undrawable("no page");
+        return undrawable();
     const QSize most = room.boundedTo({limits::drawnSide, limits::drawnSide});
     if (most.isEmpty())
         return drawing::Picture{};
     const QSize pixels = fitted(points, most);
     const QSizeF perPoint(pixels.width() / points.width(), pixels.height() / points.height());
 
-    const int stride = 4 * pixels.width();
-    QByteArray bytes(qsizetype(stride) * pixels.height(), isOnWhite ? '\xff' : '\0');
-    const Owned<cairo_surface_t> surface(cairo_image_surface_create_for_data(
-        reinterpret_cast<unsigned char *>(bytes.data()), CAIRO_FORMAT_ARGB32, pixels.width(),
-        pixels.height(), stride));
-    const Owned<cairo_t> context(cairo_create(surface.get()));
-    cairo_scale(context.get(), perPoint.width(), perPoint.height());
-    poppler_page_render(read.get(), context.get());
-    cairo_surface_finish(surface.get());
-
-    const cairo_status_t status = cairo_status(context.get());
-    if (status == CAIRO_STATUS_SUCCESS)
-        return drawing::Picture{pixels, bytes};
-    if (status == CAIRO_STATUS_NO_MEMORY)
-        return Error{
-            Error::Code::TooLarge, {}, QString::fromLatin1(cairo_status_to_string(status))};
-    // It has drawn nothing any more since then.
-    bytes.clear();
-    if (!d->splash)
-        d->splash.emplace(d->source);
-    const drawing::Picture picture = d->splash->draw(page, pixels, perPoint, isOnWhite);
-    return picture.isNull() ? Result<drawing::Picture>(undrawable(cairo_status_to_string(status)))
-                            : picture;
+    if (!d->splash.hasDrawnLetters(page)) {
+        const ByCairo drawn = drawnByCairo(*read, pixels, perPoint, isOnWhite);
+        if (drawn.status == CAIRO_STATUS_SUCCESS)
+            return drawn.picture;
+        if (drawn.status == CAIRO_STATUS_NO_MEMORY)
+            return Error{Error::Code::TooLarge, {}, {}};
+    }
+    const drawing::Picture picture = d->splash.draw(page, pixels, perPoint, isOnWhite);
+    return picture.isNull() ? Result<drawing::Picture>(undrawable()) : picture;
 }
 
 } // namespace kelvo

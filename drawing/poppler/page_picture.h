@@ -8,8 +8,10 @@
 
 namespace kelvo {
 
-// The pages of one PDF as pictures. poppler reads them and cairo draws; where cairo gives a page
-// up, poppler's own, slower way to draw does. For one thread at a time of all that use poppler: it
+// The pages of one PDF as pictures. poppler reads them and cairo draws. Splash, poppler's own and
+// slower way to draw, has the pages with a Type 3 font, the colors of whose letters cairo 1.16 does
+// not draw, and those that cairo gives up: from dashes of no length, or a damaged font, on it draws
+// nothing any more. For one thread at a time of all that use poppler: it
 // has settings and fonts that all documents of a process share.
 class PagePictures
 {

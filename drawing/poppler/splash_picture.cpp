@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <poppler-document.h>
+#include <poppler-font.h>
 #include <poppler-page-renderer.h>
 #include <poppler-page.h>
 #include <span>
@@ -80,6 +81,16 @@ SplashPictures::SplashPictures(const PdfSource &source)
 }
 
 SplashPictures::~SplashPictures() = default;
+
+bool SplashPictures::hasDrawnLetters(int page) const
+{
+    const std::unique_ptr<poppler::font_iterator> fonts(
+        m_pdf ? m_pdf->create_font_iterator(page - 1) : nullptr);
+    return fonts && fonts->has_next()
+        && std::ranges::any_of(fonts->next(), [](const poppler::font_info &font) {
+               return font.type() == poppler::font_info::type3;
+           });
+}
 
 drawing::Picture SplashPictures::draw(int page, const QSize &pixels, const QSizeF &perPoint,
                                       bool isOnWhite)

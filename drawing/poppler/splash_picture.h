@@ -13,12 +13,15 @@ class document;
 namespace kelvo {
 
 // Pictures of pages by Splash, poppler's own way to draw. It takes up to four times as long as
-// cairo, and goes on where cairo has given up: at dashes of no length, at a damaged font.
+// cairo, and draws what cairo does not: see PagePictures.
 class SplashPictures
 {
 public:
     explicit SplashPictures(const PdfSource &source);
     ~SplashPictures();
+
+    // Whether the page, counted from 1, has a font whose letters are drawings (Type 3).
+    bool hasDrawnLetters(int page) const;
 
     // The page, counted from 1, in exactly so many pixels, of which `perPoint` make a point.
     // Null when it cannot be drawn.
