@@ -126,22 +126,19 @@ QDataStream &operator<<(QDataStream &stream, const Result<Value> &result)
 
 // ---- the helper that draws, which is asked again and again
 
-// What it is asked for: the picture of a page, or with number 0 to stop drawing.
-// The PDF is an argument of the program.
+// What it is asked for: the picture of a page. The PDF is an argument of the program.
 struct DrawingRequest
 {
-    quint32 number = 0;
     qint32 page = 0;              // from 1
     qint32 width = 0, height = 0; // pixels to fit it into
     qint32 isOnPaper = 1;         // 0: what the page leaves free is transparent
 };
 
 // Its answer: so many pixels follow, rows without gaps, QImage::Format_RGB32, or
-// Format_ARGB32_Premultiplied without paper; none of a page that it cannot draw or was
-// told to leave.
+// Format_ARGB32_Premultiplied without paper; none of a page that it cannot draw. It listens
+// for nothing while it draws: who wants another page ends it.
 struct DrawingAnswer
 {
-    quint32 number = 0;
     qint32 width = 0, height = 0;
 };
 
