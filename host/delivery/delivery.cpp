@@ -176,10 +176,9 @@ Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
     auto list = StagedFile::withBytes(in("options"), options);
     if (!list)
         return notWritten(list.error());
-    for (StagedFile *file : {&pdf.value(), &ticket.value(), &list.value()}) {
-        if (auto placed = file->place(); !placed)
-            return notWritten(placed.error());
-    }
+    std::array files = {std::move(pdf).value(), std::move(ticket).value(), std::move(list).value()};
+    if (auto placed = StagedFile::place(files); !placed)
+        return notWritten(placed.error());
     return {};
 }
 
