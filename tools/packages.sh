@@ -15,7 +15,7 @@ check_packages="cups-daemon cups-client dbus-daemon avahi-daemon xvfb at-spi2-co
 lint_packages="clang clang-tidy libclang-rt-14-dev"
 
 # Benchmarks and their yardsticks; Qt's own print dialog comes with qt6-base-dev.
-bench_packages="libbenchmark-dev libplist-dev"
+bench_packages="libbenchmark-dev libplist-dev fonts-dejavu-core fonts-babelstone-han"
 
 # Debian packages, and what judges them.
 package_packages="dpkg-dev debhelper lintian"
