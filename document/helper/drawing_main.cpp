@@ -41,17 +41,6 @@ static bool writeWhole(int fd, const void *data, std::size_t size)
     return true;
 }
 
-static drawing::Picture draw(PagePictures &pages, const DrawingRequest &request)
-{
-    const Result<drawing::Picture> picture =
-        pages.draw(request.page, {request.width, request.height}, request.isOnPaper);
-    if (picture)
-        return picture.value();
-    if (picture.error().code == Error::Code::TooLarge)
-        std::_Exit(kOutOfMemoryStatus);
-    return {};
-}
-
 int main(int argc, char **argv)
 {
     if (!isOwnCaller(argc, argv) || argc != 3)
@@ -67,11 +56,13 @@ int main(int argc, char **argv)
     PagePictures pages({path, {}});
     DrawingRequest request;
     while (readWhole(&request, sizeof request)) {
-        const drawing::Picture picture = draw(pages, request);
-        const DrawingAnswer answer{picture.size.width(), picture.size.height()};
+        const QImage image =
+            pages.draw(request.page, {request.width, request.height}, request.isOnPaper);
+        const DrawingAnswer answer{image.width(), image.height()};
+        // Rows of four-byte pixels have no gaps.
         if (!writeWhole(answers, &answer, sizeof answer)
-            || !writeWhole(answers, picture.bytes.constData(),
-                           static_cast<std::size_t>(picture.bytes.size())))
+            || !writeWhole(answers, image.constBits(),
+                           static_cast<std::size_t>(image.sizeInBytes())))
             break;
     }
     std::_Exit(0);
