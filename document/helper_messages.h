@@ -5,21 +5,29 @@
 #include "pdf_pages.h"
 #include "picture_import.h"
 #include "result.h"
+#include "size_limits.h"
 
 #include <QDataStream>
 #include <QSize>
 
 #include <vector>
 
-// What the program asks of its document helpers, and how they answer: one request
-// on standard input, one answer on standard output. Both sides are of one version
-// (see document_helper.h), so the format is nobody else's business.
+// What the program asks of its document helpers, and how they answer: requests on standard
+// input, an answer to each on standard output. Both sides are of one version (see
+// document_helper.h), so the format is nobody else's business.
 namespace kelvo {
 
+// Before each request and answer: how many bytes it has.
+using MessageSize = quint64;
+inline constexpr MessageSize kMostAnswered = 256 * limits::MiB; // the sizes of 16 million pages
+
 // A request begins with the tables that the program speaks by (textSource()) and the task;
-// then come the arguments of the function.
+// then come the arguments of the function. A helper has opened its files with its first
+// request, and can open no others: only WritePdf comes after another one.
 enum class Task : quint8 {
     TidyPdf,             // source, target → PdfPages, whether `source` is good as it is
+    TidyPdfToWrite,      // source, target, written, name → the same; a sound one is kept
+    WritePdf,            // type, bytes: the one that was kept into `written`
     SelectPdfPages,      // source, runs, target
     ReplaceEmbeddedFile, // source, name, type, bytes, target
     CheckEmbeddedFile,   // pdf, name, bytes
