@@ -4,6 +4,7 @@
 #include "page_picture.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -41,6 +42,13 @@ static bool writeWhole(int fd, const void *data, std::size_t size)
     return true;
 }
 
+// Where what draws heavy pages lies, and what that needs: it is opened when there is one.
+static QStringList libraryFolders()
+{
+    return {QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath(), QStringLiteral("/usr/lib"),
+            QStringLiteral("/etc/ld.so.cache")};
+}
+
 int main(int argc, char **argv)
 {
     if (!isOwnCaller(argc, argv) || argc != 3)
@@ -51,7 +59,7 @@ int main(int argc, char **argv)
     // A page is a megabyte and more, and a pipe holds a sixteenth of one.
     ::fcntl(answers, F_SETPIPE_SZ, 1024 * 1024);
     const QString path = QFile::decodeName(argv[2]);
-    confineTo(fontFolders() << path);
+    confineTo(fontFolders() + libraryFolders() << path);
 
     PagePictures pages({path, {}});
     DrawingRequest request;

@@ -6,6 +6,7 @@
 
 #include <QFile>
 
+#include <cstring>
 #include <fcntl.h>
 
 namespace kelvo {
@@ -40,28 +41,27 @@ Owned<PopplerDocument> load(const PdfSource &source)
         fd < 0 ? nullptr : poppler_document_new_from_fd(fd, nullptr, nullptr)); // which closes it
 }
 
-} // namespace
-
-struct CairoPictures::Private
+class GLibPictures final : public CairoPictures
 {
-    PdfSource source; // its bytes stay where they are
-    Owned<PopplerDocument> pdf;
+public:
+    explicit GLibPictures(const PdfSource &source)
+        : m_source(source)
+        , m_pdf(load(m_source))
+    {
+    }
+
+    QImage draw(int page, const QSize &pixels, bool isOnWhite) override;
+
+private:
+    PdfSource m_source; // its bytes stay where they are
+    Owned<PopplerDocument> m_pdf;
 };
 
-CairoPictures::CairoPictures(const PdfSource &source)
-    : d(std::make_unique<Private>())
+QImage GLibPictures::draw(int page, const QSize &pixels, bool isOnWhite)
 {
-    d->source = source;
-    d->pdf = load(d->source);
-}
-
-CairoPictures::~CairoPictures() = default;
-
-QImage CairoPictures::draw(int page, const QSize &pixels, bool isOnWhite)
-{
-    if (!d->pdf || page < 1 || page > poppler_document_get_n_pages(d->pdf.get()))
+    if (!m_pdf || page < 1 || page > poppler_document_get_n_pages(m_pdf.get()))
         return {};
-    const Owned<PopplerPage> read(poppler_document_get_page(d->pdf.get(), page - 1));
+    const Owned<PopplerPage> read(poppler_document_get_page(m_pdf.get(), page - 1));
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     if (!read || image.isNull())
         return {};
@@ -86,4 +86,12 @@ QImage CairoPictures::draw(int page, const QSize &pixels, bool isOnWhite)
     return cairo_status(context.get()) == CAIRO_STATUS_SUCCESS ? image : QImage();
 }
 
+} // namespace
+
 } // namespace kelvo
+
+extern "C" Q_DECL_EXPORT kelvo::CairoPictures *kelvoCairoPictures(const char *version,
+                                                                  const kelvo::PdfSource &source)
+{
+    return std::strcmp(version, KELVO_VERSION) == 0 ? new kelvo::GLibPictures(source) : nullptr;
+}

@@ -7,7 +7,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <optional>
 #include <poppler-qt6.h>
 
 namespace kelvo {
@@ -77,7 +76,7 @@ struct PagePictures::Private
 {
     PdfSource source;
     std::unique_ptr<Poppler::Document> pdf; // null: there are no pages
-    std::optional<CairoPictures> cairo;     // from the first heavy page on
+    std::unique_ptr<CairoPictures> cairo;   // from the first heavy page on
     QHash<int, Way> ways;                   // of heavy pages
 
     QImage draw(const Poppler::Page &page, int number, const QSize &pixels, double scale,
@@ -97,8 +96,9 @@ QImage PagePictures::Private::draw(const Poppler::Page &page, int number, const 
     QImage image;
     if (way == Way::Cairo) {
         if (!cairo)
-            cairo.emplace(source);
-        image = cairo->draw(number, pixels, isOnWhite);
+            cairo = CairoPictures::open(source);
+        if (cairo)
+            image = cairo->draw(number, pixels, isOnWhite);
         if (image.isNull())
             way = Way::Splash;
     }
