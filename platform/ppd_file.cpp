@@ -267,11 +267,49 @@ bool mark(ppd_file_t *ppd, const QString &option, const QString &choice)
     return ppdMarkOption(ppd, keyword.constData(), value.constData()) != 0;
 }
 
-void markSelection(ppd_file_t *ppd, const PpdSelection &selection)
+bool isAny(const char *word, std::initializer_list<const char *> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [word](const char *other) { return qstricmp(word, other) == 0; });
+}
+
+// Names of the printing protocol, which cupsMarkOptions() takes for other options.
+bool isOfProtocol(const QByteArray &option)
+{
+    return isAny(option.constData(),
+                 {"media", "output-bin", "output-mode", "print-quality", "sides", "resolution",
+                  "printer-resolution", "multiple-document-handling", "finishings",
+                  "finishing-template", "print-color-mode", "APPrinterPreset", "mirror"});
+}
+
+// Whether the choices are in conflict. To mark one option looks through all rules, so that those
+// that can be are marked together.
+bool markSelection(ppd_file_t *ppd, const PpdSelection &selection)
 {
     ppdMarkDefaults(ppd);
-    for (auto choice = selection.cbegin(); choice != selection.cend(); ++choice)
-        mark(ppd, choice.key(), choice.value());
+    std::vector<std::pair<QByteArray, QByteArray>> together;
+    const auto markTogether = [ppd, &together] {
+        std::vector<cups_option_t> options;
+        for (auto &[option, choice] : together)
+            options.push_back({option.data(), choice.data()});
+        const bool isInConflict =
+            cupsMarkOptions(ppd, static_cast<int>(options.size()), options.data()) != 0;
+        together.clear();
+        return isInConflict;
+    };
+    for (auto choice = selection.cbegin(); choice != selection.cend(); ++choice) {
+        QByteArray keyword = choice.key().toUtf8();
+        QByteArray value = choice.value().toUtf8();
+        if (!isOffered(ppd, keyword, value))
+            continue;
+        if (!isOfProtocol(keyword)) {
+            together.emplace_back(std::move(keyword), std::move(value));
+            continue;
+        }
+        markTogether(); // what is marked later counts, where one option takes another's mark
+        ppdMarkOption(ppd, keyword.constData(), value.constData());
+    }
+    return together.empty() ? ppdConflicts(ppd) != 0 : markTogether();
 }
 
 // One part of a rule: an option at a choice, or anywhere but off.
@@ -282,12 +320,6 @@ struct Term
 };
 
 using Constraint = std::vector<Term>; // a conflict when every part holds
-
-bool isAny(const char *word, std::initializer_list<const char *> words)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [word](const char *other) { return qstricmp(word, other) == 0; });
-}
 
 // Adds "option choice" to `constraint`; false when the PPD has no such thing. The
 // custom choice of an option is written "*CustomOption True".
@@ -627,8 +659,7 @@ std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
     ppd_file_t *ppd = d->constraintMarks();
     if (!ppd)
         return {};
-    markSelection(ppd, selection);
-    if (ppdConflicts(ppd) == 0)
+    if (!markSelection(ppd, selection))
         return {};
 
     // libcups tells which options are in any conflict, but not which of them in
@@ -667,8 +698,7 @@ std::optional<PpdSelection> PpdFile::resolve(const PpdSelection &selection, cons
     ppd_file_t *ppd = d->constraintMarks();
     if (!ppd)
         return std::nullopt;
-    markSelection(ppd, selection);
-    if (ppdConflicts(ppd) == 0)
+    if (!markSelection(ppd, selection))
         return PpdSelection();
 
     const QByteArray kept = keep.toUtf8();

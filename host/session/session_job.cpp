@@ -329,7 +329,11 @@ ConflictReport SessionJob::conflicts()
         m_edits.lastSet.prepend(choice.key());
     }
     m_edits.lookedAt = choices;
-    return findConflicts(*m_session, *m_device.ppd, m_edits.lastSet);
+    if (m_conflicts.ppd != m_device.ppd || m_conflicts.choices != choices
+        || m_conflicts.lastSet != m_edits.lastSet)
+        m_conflicts = {m_device.ppd, choices, m_edits.lastSet,
+                       findConflicts(*m_session, *m_device.ppd, m_edits.lastSet)};
+    return m_conflicts.report;
 }
 
 void SessionJob::fix(const ConflictReport &report)
