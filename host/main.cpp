@@ -455,7 +455,9 @@ DialogOptions dialogOptions(const CommandLine &line)
     printer.timeoutMs = line.timeoutSeconds * 1000;
     if (!line.listControls && !line.demo && !line.ppd) {
         printer.directory = std::make_shared<PrinterDirectory>();
-        printer.directory->refresh(printer.timeoutMs);
+        printer.directory->refresh(printer.timeoutMs,
+                                   line.destination ? PrinterDirectory::Ahead::Nothing
+                                                    : PrinterDirectory::Ahead::PpdOfFirst);
         if (line.destination)
             printer.directory->fetchPpd(printer.name, printer.timeoutMs);
     }
