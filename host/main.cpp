@@ -1,10 +1,12 @@
 #include "application_files.h"
 #include "application_look.h"
+#include "audience.h"
 #include "background_work.h"
 #include "command_line.h"
 #include "control_list.h"
 #include "display.h"
 #include "document_chooser.h"
+#include "document_opening.h"
 #include "document_origin.h"
 #include "exit_status.h"
 #include "file_names.h"
@@ -13,6 +15,7 @@
 #include "help_window.h"
 #include "leftovers.h"
 #include "output_targets.h"
+#include "pictures.h"
 #include "print_dialog.h"
 #include "printers.h"
 #include "script_parser.h"
@@ -339,6 +342,21 @@ std::variant<DocumentSource, Failure> findDocument(const CommandLine &line)
     return source;
 }
 
+// A document that nobody looks at is printed as soon as the panels have spoken: it is opened
+// before they are loaded. Null: as late as one that is shown.
+std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line)
+{
+    if (!line.noWindow || line.listControls)
+        return nullptr;
+    const auto document = findDocument(line);
+    const auto *source = std::get_if<DocumentSource>(&document);
+    if (!source)
+        return nullptr; // readInputs() says so, in its turn
+    auto opening = std::make_shared<DocumentOpening>(*source);
+    opening->start(DocumentOpening::Purpose::Printed);
+    return opening;
+}
+
 // Reads everything that can be read before there is a window.
 std::optional<Failure> readInputs(const CommandLine &line, DialogOptions &options,
                                   QMap<QString, QString> &secrets, std::vector<ScriptLine> &script)
@@ -545,6 +563,7 @@ int runApplication(int argc, char **argv, CommandLine line)
                 leaveWithoutDisplay(noDisplayText());
         }))
         return fail(ExitStatus::Failed, noThreadReason());
+    auto document = openAhead(line);
     std::optional<DisplayOpening> opening(std::in_place);
     QApplication application(argc, argv);
     opening.reset();
@@ -554,7 +573,7 @@ int runApplication(int argc, char **argv, CommandLine line)
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("kelvo-print"));
     QApplication::setDesktopFileName(QStringLiteral("kelvo-print"));
-    QApplication::setWindowIcon(QIcon(findSharedFile(QStringLiteral("icons/kelvo-print.svg"))));
+    QApplication::setWindowIcon(iconOf(findSharedFile(QStringLiteral("icons/kelvo-print.svg"))));
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
 
@@ -564,8 +583,11 @@ int runApplication(int argc, char **argv, CommandLine line)
         if (line.file.isEmpty())
             return toInt(ExitStatus::Cancelled);
     }
+    if (line.noWindow)
+        setAudience(line.script ? Audience::Script : Audience::Nobody);
     DialogOptions options = dialogOptions(line);
     SessionBeginning &session = options.session;
+    session.opening = std::move(document);
     if (auto bundle = openPanelBundle()) {
         session.bundle = bundle.value();
         // The host's own pages lie there too; the panels register theirs on their devices only.

@@ -1,5 +1,6 @@
 #include "property_list.h"
 
+#include "base64.h"
 #include "file_store.h"
 #include "size_limits.h"
 #include "texts.h"
@@ -10,7 +11,7 @@
 
 #include <expat.h>
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -24,6 +25,9 @@ namespace kelvo {
 namespace {
 
 using Code = Error::Code;
+
+constexpr qsizetype kPiece = 128 * 1024; // bytes
+constexpr qsizetype kShownText = 60;     // bytes of a text that is wrong
 
 // The elements of a property list. Root is the list itself; it and the two
 // containers hold values, the rest hold text or nothing.
@@ -137,66 +141,6 @@ std::optional<QDateTime> dateFrom(std::string_view text)
     return QDateTime(date, time, Qt::UTC);
 }
 
-// What each byte stands for in base64: six bits, or one of these.
-constexpr std::uint8_t notBase64 = 0x80, base64Space = 0x81;
-constexpr auto base64Bits = [] {
-    std::array<std::uint8_t, 256> bits{};
-    bits.fill(notBase64);
-    constexpr std::string_view digits =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    for (std::size_t i = 0; i < digits.size(); ++i)
-        bits[static_cast<std::uint8_t>(digits[i])] = static_cast<std::uint8_t>(i);
-    for (const char space : {' ', '\t', '\n', '\r'})
-        bits[static_cast<std::uint8_t>(space)] = base64Space;
-    return bits;
-}();
-
-// Padded base64 with white space anywhere. Groups without their padding are
-// refused: a file that was cut off must not be taken. Qt's decoder needs the
-// spaces taken out first and several times as long; cached fonts are megabytes.
-std::optional<QByteArray> dataFrom(std::string_view text)
-{
-    QByteArray decoded;
-    decoded.resize(static_cast<qsizetype>(text.size() / 4 * 3) + 3);
-    char *out = decoded.data();
-    std::uint32_t group = 0;
-    int held = 0; // digits in `group`
-    std::size_t at = 0;
-    for (; at < text.size(); ++at) {
-        const std::uint8_t bits = base64Bits[static_cast<std::uint8_t>(text[at])];
-        if (bits == base64Space)
-            continue;
-        if (bits == notBase64)
-            break;
-        group = group << 6 | bits;
-        if (++held == 4) {
-            *out++ = static_cast<char>(group >> 16);
-            *out++ = static_cast<char>(group >> 8);
-            *out++ = static_cast<char>(group);
-            held = 0;
-        }
-    }
-    if (held != 0) {
-        int padding = 0;
-        for (; at < text.size(); ++at) {
-            if (text[at] == '=')
-                ++padding;
-            else if (!isSpace(text[at]))
-                break;
-        }
-        if (held < 2 || held + padding != 4)
-            return std::nullopt;
-        group <<= 6 * padding;
-        *out++ = static_cast<char>(group >> 16);
-        if (held == 3)
-            *out++ = static_cast<char>(group >> 8);
-    }
-    if (at != text.size())
-        return std::nullopt;
-    decoded.truncate(out - decoded.constData());
-    return decoded;
-}
-
 // Dictionary keys, shared: long lists repeat a few keys in every entry. What is
 // kept is bounded, so that a list of distinct keys does not stand in memory twice.
 class KeyCache
@@ -253,7 +197,8 @@ private:
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> m_expat;
     std::vector<Frame> m_frames;
     std::optional<Element> m_leaf; // the element whose text is being collected
-    QByteArray m_text;
+    QByteArray m_text;             // of data, what an error would show
+    Base64Reader m_data;
     KeyCache m_keys;
     qint64 m_nodes = 0;
     std::optional<QVariant> m_list;
@@ -343,6 +288,11 @@ void Parser::text(std::string_view part)
 {
     if (m_error)
         return;
+    if (m_leaf == Element::Data) {
+        m_data.add(part);
+        part = part.substr(
+            0, static_cast<std::size_t>(kShownText - std::min(m_text.size(), kShownText)));
+    }
     if (m_leaf) {
         m_text.append(part.data(), static_cast<qsizetype>(part.size()));
         return;
@@ -355,7 +305,7 @@ void Parser::finishText(Element element)
 {
     const std::string_view whole(m_text.constData(), static_cast<std::size_t>(m_text.size()));
     const auto refuse = [this](Code code, const QString &why) {
-        fail(code, why.arg(QString::fromUtf8(m_text.left(60)).trimmed()));
+        fail(code, why.arg(QString::fromUtf8(m_text.left(kShownText)).trimmed()));
     };
     switch (element) {
     case Element::Key:
@@ -378,7 +328,7 @@ void Parser::finishText(Element element)
         return refuse(Code::Damaged,
                       translate("Files", "“%1” is no date of the form 2024-01-31T12:00:00Z"));
     case Element::Data:
-        if (auto data = dataFrom(whole))
+        if (auto data = m_data.take())
             return add(*std::move(data));
         return refuse(Code::Damaged, translate("Files", "“%1” is no base64"));
     case Element::True:
@@ -443,7 +393,15 @@ Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
             translate("Files", "uses the unknown entity “%1”").arg(QString::fromUtf8(entity)));
     });
 
-    const XML_Status status = XML_Parse(expat, xml.constData(), static_cast<int>(xml.size()), 1);
+    // In pieces that stay in the processor's memory: expat copies what it is given.
+    XML_Status status = XML_STATUS_OK;
+    for (qsizetype at = 0, size = 0; status == XML_STATUS_OK; at += size) {
+        size = std::min(kPiece, xml.size() - at);
+        const bool isLast = at + size == xml.size();
+        status = XML_Parse(expat, xml.constData() + at, static_cast<int>(size), isLast);
+        if (isLast)
+            break;
+    }
     if (!m_error && status == XML_STATUS_OK && m_list)
         return *std::move(m_list);
     if (!m_error) {

@@ -12,7 +12,7 @@
 #include "needed_controls.h"
 #include "notice.h"
 #include "pde_hooks.h"
-#include "picture_view.h"
+#include "pictures.h"
 #include "ppd_choices.h"
 #include "print_checks.h"
 #include "string_table.h"

@@ -1,7 +1,7 @@
 #include "help_browser.h"
 
 #include "help_book.h"
-#include "picture_view.h"
+#include "pictures.h"
 #include "texts.h"
 
 #include <QDir>

@@ -5,14 +5,15 @@
 #include "tool_tip.h"
 
 #include <QAbstractItemView>
+#include <QAbstractListModel>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QScreen>
-#include <QStandardItemModel>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QtMath>
 #include <QToolTip>
 
 #include <algorithm>
@@ -35,46 +36,83 @@ bool canBeChosen(const MenuItem &item)
 // where what counts as readable begins at 4.5:1.
 constexpr float placeholderOpacity = 0.72F;
 
-QStandardItem *lineFor(const MenuItem &item)
-{
-    auto *line = new QStandardItem(oneLine(item.text));
-    if (item.divider) {
-        line->setText({});
-        line->setData(QStringLiteral("separator"), Qt::AccessibleDescriptionRole);
-    }
-    if (!canBeChosen(item))
-        line->setFlags(line->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
-    return line;
-}
-
 } // namespace
+
+// The lines of a menu as Qt's combo box, its list and screen readers ask for them.
+class MenuLines : public QAbstractListModel
+{
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    const Menu &menu() const { return m_menu; }
+    void setMenu(Menu menu)
+    {
+        beginResetModel();
+        m_menu = std::move(menu);
+        endResetModel();
+    }
+
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_menu.items.size());
+    }
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (!index.isValid())
+            return {};
+        const MenuItem &item = itemAt(index);
+        if (role == Qt::DisplayRole || role == Qt::EditRole)
+            return item.divider ? QString() : oneLine(item.text);
+        // Qt's word for a line that is drawn as one.
+        if (role == Qt::AccessibleDescriptionRole && item.divider)
+            return QStringLiteral("separator");
+        return {};
+    }
+
+    Qt::ItemFlags flags(const QModelIndex &index) const override
+    {
+        const Qt::ItemFlags usual = QAbstractListModel::flags(index);
+        return index.isValid() && !canBeChosen(itemAt(index))
+            ? usual & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable)
+            : usual;
+    }
+
+private:
+    const MenuItem &itemAt(const QModelIndex &index) const
+    {
+        return m_menu.items[static_cast<std::size_t>(index.row())];
+    }
+
+    Menu m_menu;
+};
 
 PopupButton::PopupButton(QWidget *parent)
     : QComboBox(parent)
+    , m_lines(new MenuLines(this))
 {
+    setModel(m_lines);
     guardWheel(this);
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    // Its own sizes are said below: with a policy for them Qt would make the list at once.
     setMinimumContentsLength(leastCharacters);
     connect(this, &QComboBox::activated, this, &PopupButton::send);
 }
 
+const Menu &PopupButton::menu() const
+{
+    return m_lines->menu();
+}
+
 void PopupButton::setMenu(Menu menu)
 {
-    m_menu = std::move(menu);
-    m_maximum = static_cast<int>(m_menu.items.size());
-    m_widest = -1;
+    m_maximum = static_cast<int>(menu.items.size());
+    m_widest = m_measured = 0;
 
     const QSignalBlocker silence(this);
-    clear();
-    QList<QStandardItem *> lines;
-    lines.reserve(m_maximum);
-    for (const MenuItem &item : m_menu.items)
-        lines.append(lineFor(item));
-    if (!lines.isEmpty())
-        static_cast<QStandardItemModel *>(model())->invisibleRootItem()->appendRows(lines);
-    const auto first = std::ranges::find_if(m_menu.items, canBeChosen);
-    setCurrentIndex(first == m_menu.items.end() ? -1
-                                                : static_cast<int>(first - m_menu.items.begin()));
+    m_lines->setMenu(std::move(menu));
+    const auto &items = this->menu().items;
+    const auto first = std::ranges::find_if(items, canBeChosen);
+    setCurrentIndex(first == items.end() ? -1 : static_cast<int>(first - items.begin()));
     updateGeometry();
 }
 
@@ -92,7 +130,7 @@ void PopupButton::setValue(int value)
 const MenuItem *PopupButton::chosenItem() const
 {
     const int shown = value();
-    return shown > 0 && shown <= int(m_menu.items.size()) ? &m_menu.items[shown - 1] : nullptr;
+    return shown > 0 && shown <= count() ? &menu().items[shown - 1] : nullptr;
 }
 
 std::int32_t PopupButton::chosenReference() const
@@ -103,10 +141,11 @@ std::int32_t PopupButton::chosenReference() const
 
 bool PopupButton::setValueByReference(std::int32_t reference)
 {
-    const auto found = std::ranges::find(m_menu.items, reference, &MenuItem::reference);
-    if (found == m_menu.items.end())
+    const auto &items = menu().items;
+    const auto found = std::ranges::find(items, reference, &MenuItem::reference);
+    if (found == items.end())
         return false;
-    setValue(static_cast<int>(found - m_menu.items.begin()) + 1);
+    setValue(static_cast<int>(found - items.begin()) + 1);
     return true;
 }
 
@@ -118,7 +157,7 @@ QString PopupButton::shownText() const
 bool PopupButton::choose(int value)
 {
     if (!isEnabled() || value < 1 || value > count()
-        || !canBeChosen(m_menu.items[static_cast<std::size_t>(value - 1)]))
+        || !canBeChosen(menu().items[static_cast<std::size_t>(value - 1)]))
         return false;
     setValue(value);
     send(value - 1);
@@ -130,7 +169,7 @@ void PopupButton::send(int index)
     if (index < 0 || index >= count())
         return;
     // Handlers may fill the menu anew, or close the window.
-    const MenuItem item = m_menu.items[static_cast<std::size_t>(index)];
+    const MenuItem item = menu().items[static_cast<std::size_t>(index)];
     const QPointer<PopupButton> alive = this;
     sendFrom(this, EventKind::Menu, item.command, item.reference);
     if (alive && item.command != kNoCommand)
@@ -151,23 +190,49 @@ QString PopupButton::elidedText(const QStyleOptionComboBox &option) const
     return option.fontMetrics.elidedText(shownText(), Qt::ElideRight, textRect(option).width());
 }
 
+// As Qt's combo box with AdjustToMinimumContentsLengthWithIcon has it, with room for an icon.
+QSize PopupButton::minimumSizeHint() const
+{
+    if (m_least.isValid())
+        return m_least;
+    constexpr int besideIcon = 4, aroundText = 2, leastText = 14;
+    const QFontMetrics metrics = fontMetrics();
+    const int text = std::max(qCeil(QFontMetricsF(metrics).height()), leastText);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    m_least =
+        style()->sizeFromContents(QStyle::CT_ComboBox, &option,
+                                  QSize(minimumContentsLength() * metrics.horizontalAdvance(u'X')
+                                            + iconSize().width() + besideIcon,
+                                        std::max(text, iconSize().height()) + aroundText),
+                                  this);
+    return m_least;
+}
+
 QSize PopupButton::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    for (int i = m_widest < 0 ? 0 : count(); i < count(); ++i)
-        m_widest = std::max(m_widest, metrics.horizontalAdvance(itemText(i)));
     const int character = metrics.horizontalAdvance(u'X');
     const int least = minimumContentsLength() * character;
     const int most = std::max(minimumContentsLength(), mostCharacters) * character;
+    while (m_measured < count() && m_widest + character < most)
+        m_widest = std::max(m_widest, metrics.horizontalAdvance(itemText(m_measured++)));
     const int widest = std::max(m_widest, metrics.horizontalAdvance(placeholderText()));
-    QSize hint = QComboBox::minimumSizeHint();
+    QSize hint = minimumSizeHint();
     hint.rwidth() += std::clamp(widest + character, least, most) - least;
     return hint;
+}
+
+// The sizes do not change with the first show, as Qt's do, and the window is not laid out again.
+void PopupButton::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
 }
 
 void PopupButton::showPopup()
 {
     m_isChosenFromList = true;
+    view()->parentWidget()->setFont(font());
     // The list shows whole texts where the screen has room for them.
     const int frame = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth)
         + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * fontMetrics().averageCharWidth();
@@ -231,6 +296,15 @@ void PopupButton::wheelEvent(QWheelEvent *event)
     QComboBox::wheelEvent(event);
 }
 
+// Qt would make the list to give it the font; it gets it when it is opened.
+void PopupButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange && !findChild<QAbstractItemView *>())
+        QWidget::changeEvent(event);
+    else
+        QComboBox::changeEvent(event);
+}
+
 bool PopupButton::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
@@ -242,8 +316,10 @@ bool PopupButton::event(QEvent *event)
             return true;
         }
     }
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        m_widest = -1;
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_widest = m_measured = 0;
+        m_least = QSize();
+    }
     return QComboBox::event(event);
 }
 

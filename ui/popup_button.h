@@ -11,12 +11,14 @@ class QStyleOptionComboBox;
 namespace kelvo {
 
 class ControlInterface;
+class MenuLines;
 
 // A pop-up button: shows one item of its menu. It sends Menu, then Command when
 // the item has one, then ControlHit, and only when the user chooses. Values are
 // 1-based, 0 when nothing is shown. Dividers and disabled items cannot be
 // chosen. Submenus are not shown: a pop-up's menu is flat. A long text is elided
-// in the button and stands whole in its list and its tool tip.
+// in the button and stands whole in its list and its tool tip. The menu is all that
+// it keeps: Qt makes its list when it is opened.
 class PopupButton : public QComboBox
 {
     Q_OBJECT
@@ -28,7 +30,7 @@ class PopupButton : public QComboBox
 public:
     explicit PopupButton(QWidget *parent = nullptr);
 
-    const Menu &menu() const { return m_menu; }
+    const Menu &menu() const;
     // Replaces the menu, silently; the value becomes the first item that can be
     // chosen and the maximum the number of items.
     void setMenu(Menu menu);
@@ -59,14 +61,17 @@ public:
     bool choose(int value);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     void showPopup() override;
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void send(int index);
@@ -75,11 +80,13 @@ private:
     QRect textRect(const QStyleOptionComboBox &option) const;
     QString elidedText(const QStyleOptionComboBox &option) const;
 
-    Menu m_menu;
+    MenuLines *m_lines; // its model, which has the menu
     int m_maximum = 0;
     bool m_choosesInListOnly = false;
     bool m_isChosenFromList = false;
-    mutable int m_widest = -1; // text of the menu in pixels, -1: not measured yet
+    mutable QSize m_least;      // not valid: not asked for yet
+    mutable int m_widest = 0;   // pixels, of the first m_measured texts of the menu
+    mutable int m_measured = 0; // as many as sizeHint() needed
 };
 
 std::unique_ptr<ControlInterface> interfaceOf(PopupButton *button);

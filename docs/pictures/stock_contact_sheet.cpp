@@ -3,7 +3,7 @@
 // by it.
 
 #include "device_session.h"
-#include "picture_view.h"
+#include "pictures.h"
 #include "stock_menus.h"
 #include "stock_pictures.h"
 #include "stock_summary.h"

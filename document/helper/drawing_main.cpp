@@ -4,10 +4,9 @@
 #include "page_picture.h"
 
 #include <QFile>
-#include <QImage>
 
+#include <cstdlib>
 #include <fcntl.h>
-#include <poll.h>
 #include <unistd.h>
 
 using namespace kelvo;
@@ -42,22 +41,15 @@ static bool writeWhole(int fd, const void *data, std::size_t size)
     return true;
 }
 
-// Whoever asks again wants this page no longer; nor does who has gone.
-static bool isAskedAgain(const QVariant &)
+static drawing::Picture draw(PagePictures &pages, const DrawingRequest &request)
 {
-    pollfd input{STDIN_FILENO, POLLIN, 0};
-    return ::poll(&input, 1, 0) > 0;
-}
-
-static QImage draw(Poppler::Document &pdf, const DrawingRequest &request)
-{
-    const std::unique_ptr<Poppler::Page> page = pdf.page(request.page - 1);
-    if (!page)
-        return {};
-    pdf.setRenderHint(Poppler::Document::IgnorePaperColor, !request.isOnPaper);
-    QImage image = pictureOfPage(*page, {request.width, request.height}, isAskedAgain);
-    image.convertTo(request.isOnPaper ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-    return image;
+    const Result<drawing::Picture> picture =
+        pages.draw(request.page, {request.width, request.height}, request.isOnPaper);
+    if (picture)
+        return picture.value();
+    if (picture.error().code == Error::Code::TooLarge)
+        std::_Exit(kOutOfMemoryStatus);
+    return {};
 }
 
 int main(int argc, char **argv)
@@ -69,27 +61,17 @@ int main(int argc, char **argv)
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
     // A page is a megabyte and more, and a pipe holds a sixteenth of one.
     ::fcntl(answers, F_SETPIPE_SZ, 1024 * 1024);
-    // It reports every oddity of a document on standard error.
-    Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
     const QString path = QFile::decodeName(argv[2]);
     confineTo(fontFolders() << path);
 
-    const std::unique_ptr<Poppler::Document> pdf = Poppler::Document::load(path);
-    if (pdf) {
-        pdf->setRenderHint(Poppler::Document::Antialiasing);
-        pdf->setRenderHint(Poppler::Document::TextAntialiasing);
-        pdf->setPaperColor(Qt::white);
-    }
+    PagePictures pages({path, {}});
     DrawingRequest request;
     while (readWhole(&request, sizeof request)) {
-        if (request.number == 0)
-            continue;
-        const QImage image = pdf ? draw(*pdf, request) : QImage();
-        const DrawingAnswer answer{request.number, image.width(), image.height()};
-        // Rows of four-byte pixels have no gaps.
+        const drawing::Picture picture = draw(pages, request);
+        const DrawingAnswer answer{picture.size.width(), picture.size.height()};
         if (!writeWhole(answers, &answer, sizeof answer)
-            || !writeWhole(answers, image.constBits(),
-                           static_cast<std::size_t>(image.sizeInBytes())))
+            || !writeWhole(answers, picture.bytes.constData(),
+                           static_cast<std::size_t>(picture.bytes.size())))
             break;
     }
     std::_Exit(0);

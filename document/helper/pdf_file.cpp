@@ -32,17 +32,19 @@ Error damaged(const QString &path, const std::exception &problem)
         translate("Document", "the PDF cannot be read: %1").arg(QString::fromUtf8(problem.what()))};
 }
 
-Result<PdfFiles> openPdfFiles(const QString &source, const QString &target)
+Result<PdfFiles> openPdfFiles(const QString &source, const QString &target, const QString &second)
 {
     PdfFiles files;
     files.source = std::fopen(QFile::encodeName(source).constData(), "rbe");
     if (!files.source)
         return Error{Error::Code::NotReadable, source, qt_error_string(errno)};
-    if (!target.isEmpty()) {
-        auto output = OutputFile::create(target);
+    for (const auto &[path, file] : {std::pair(&target, &files.target), {&second, &files.second}}) {
+        if (path->isEmpty())
+            continue;
+        auto output = OutputFile::create(*path);
         if (!output)
             return output.error();
-        files.target = std::move(output).value();
+        *file = std::move(output).value();
     }
     confineToOpenFiles();
     return files;

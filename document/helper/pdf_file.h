@@ -36,8 +36,10 @@ struct PdfFiles
 {
     std::FILE *source = nullptr; // for load()
     std::optional<OutputFile> target;
+    std::optional<OutputFile> second; // where a task writes two
 };
-Result<PdfFiles> openPdfFiles(const QString &source, const QString &target = {});
+Result<PdfFiles> openPdfFiles(const QString &source, const QString &target = {},
+                              const QString &second = {});
 
 // Takes `source` over, also where it throws.
 void load(QPDF &pdf, std::FILE *source);

@@ -60,8 +60,16 @@ WaitingPane::WaitingPane(QWidget *parent)
 void WaitingPane::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange && isVisible())
         fitToFont();
+}
+
+// Not before: where the panels are there in time nobody sees it, and its heading has a face of
+// its own.
+void WaitingPane::showEvent(QShowEvent *event)
+{
+    fitToFont();
+    QWidget::showEvent(event);
 }
 
 void WaitingPane::fitToFont()
@@ -86,7 +94,8 @@ void WaitingPane::setMessage(const SessionMessage &message)
     lines.removeAll(QString());
     m_text->setText(lines.join(u'\n'));
     m_text->setVisible(!lines.isEmpty());
-    fitToFont();
+    if (isVisible())
+        fitToFont();
     m_retry->setVisible(message.canRetry);
     if (message.canRetry)
         m_retry->setFocus();

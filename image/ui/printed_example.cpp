@@ -1,6 +1,6 @@
 #include "printed_example.h"
 
-#include "picture_view.h"
+#include "pictures.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -6,6 +6,7 @@
 #include "hint_text.h"
 #include "notice.h"
 #include "picture_view.h"
+#include "pictures.h"
 #include "popups.h"
 #include "setting_maps.h"
 #include "special_page_dialogs.h"

@@ -2,7 +2,7 @@
 
 #include "hint_text.h"
 #include "localized_controls.h"
-#include "picture_view.h"
+#include "pictures.h"
 #include "popups.h"
 #include "special_pages_summary.h"
 #include "ticket_values.h"

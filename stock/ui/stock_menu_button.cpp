@@ -2,6 +2,7 @@
 
 #include "custom_stock_size_dialog.h"
 #include "picture_view.h"
+#include "pictures.h"
 #include "popups.h"
 #include "stock_dialogs.h"
 #include "stock_library.h"

@@ -194,6 +194,11 @@ void TestControls::aNewMenuShowsItsFirstChoosableItem()
     EventLog log(&popup);
     QCOMPARE(popup.chosenReference(), std::numeric_limits<std::int32_t>::min());
     popup.setMenu(stockMenu());
+    QFont font;
+    font.setBold(true);
+    popup.setFont(font);
+    popup.grab(); // as it is first seen
+    QVERIFY(popup.findChildren<QAbstractItemView *>().isEmpty());
     QCOMPARE(popup.value(), 2);
     QCOMPARE(popup.chosenReference(), 10);
     for (const int value : {0, 1, 3, 7}) // none of these can be picked
@@ -234,7 +239,11 @@ void TestControls::keysAndWheelSkipWhatCannotBeChosen()
     QCOMPARE(popup.value(), 5);
     QCOMPARE(log.take().size(), 3);
 
+    QFont font;
+    font.setBold(true);
+    popup.setFont(font);
     popup.showPopup();
+    QVERIFY(popup.view()->font().bold());
     QTest::mouseClick(popup.view()->viewport(), Qt::LeftButton, {},
                       popup.view()->visualRect(popup.model()->index(3, 0)).center());
     popup.hidePopup();
@@ -352,6 +361,17 @@ void TestControls::aLongTextDoesNotWidenThePopup()
     PopupButton popup;
     popup.setMenu({{{.text = "Short"}}, nullptr});
     const int least = popup.minimumSizeHint().width();
+    QComboBox qts;
+    qts.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    qts.setMinimumContentsLength(popup.minimumContentsLength());
+    for (const int points : {5, 9, 30}) {
+        QFont font;
+        font.setPointSize(points);
+        qts.setFont(font);
+        popup.setFont(font);
+        QCOMPARE(popup.minimumSizeHint(), qts.minimumSizeHint());
+    }
+    popup.setFont({});
     const QString longText = QStringLiteral("<b>A very</b> long\nchoice ").repeated(20);
     popup.setMenu({{{.text = longText}}, nullptr});
     QCOMPARE(popup.minimumSizeHint().width(), least);

@@ -4,6 +4,7 @@
 #include "modal_dialog.h"
 #include "notice.h"
 #include "picture_view.h"
+#include "pictures.h"
 #include "spin_field.h"
 #include "summary_view.h"
 #include "table.h"

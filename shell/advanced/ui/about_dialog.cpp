@@ -7,6 +7,7 @@
 #include "hint_text.h"
 #include "pde_session.h"
 #include "picture_view.h"
+#include "pictures.h"
 #include "print_session.h"
 #include "summary_view.h"
 

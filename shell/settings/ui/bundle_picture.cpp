@@ -1,6 +1,7 @@
 #include "bundle_picture.h"
 
 #include "picture_view.h"
+#include "pictures.h"
 
 namespace kelvo {
 
