@@ -103,7 +103,7 @@ bool writeTriangles(const QString &path)
     cairo_surface_t *surface = cairo_pdf_surface_create(fileName.constData(), width, height);
     cairo_t *page = cairo_create(surface);
     std::mt19937 random(1);
-    const auto upTo = [&random](double most) { return most * (random() % 1000) / 1000; };
+    const auto upTo = [&random](double most) { return most * double(random() % 1000) / 1000; };
     for (int i = 0; i < triangles; ++i) {
         const std::array from{upTo(width), upTo(height)};
         cairo_move_to(page, from[0], from[1]);

@@ -23,7 +23,7 @@ QByteArray script()
     QByteArray lines = "tab 1\n";
     const char *const round[] = {
         "choose @twoSided key DuplexShort\n", "choose @outputColor key Grayscale\n",
-        "choose @twoSided key DuplexLong\n", "choose @outputColor key Color\n"};
+        "choose @twoSided key Duplex\n", "choose @outputColor key Color\n"};
     for (int line = 0; line < kChoices; ++line)
         lines += round[line % std::size(round)];
     return lines + "expect-choice Duplex DuplexNoTumble\n";
