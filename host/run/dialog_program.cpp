@@ -19,8 +19,8 @@ constexpr PartLibrary library = {
         "Main",
         "the dialog cannot be loaded (%1); install kelvo-print anew, with the packages "
         "that it needs"),
-    QT_TRANSLATE_NOOP("Main",
-                      "this is not the dialog of kelvo-print %1; install kelvo-print anew")};
+    QT_TRANSLATE_NOOP("Main", "this is not the dialog of kelvo-print %1; install kelvo-print anew"),
+    true};
 
 } // namespace
 
