@@ -22,6 +22,7 @@
 #include <cmath>
 #include <cstring>
 #include <initializer_list>
+#include <mutex>
 #include <set>
 
 namespace kelvo {
@@ -437,6 +438,8 @@ struct PpdFile::Private
             ::close(copy);
     }
 
+    // libcups keeps in a PPD where it has looked last: held by whoever looks.
+    std::mutex mutex;
     QString name; // in errors
     QString path; // empty: it was not read from a file
     QByteArray bytes;
@@ -546,6 +549,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
 
 QString PpdFile::path() const
 {
+    const std::lock_guard lock(d->mutex);
     if (!d->path.isEmpty())
         return d->path;
     if (d->copy < 0)
@@ -571,6 +575,7 @@ QString PpdFile::languageEncoding() const
 
 std::optional<QString> PpdFile::attribute(const char *keyword) const
 {
+    const std::lock_guard lock(d->mutex);
     const ppd_attr_t *attribute = ppdFindAttr(d->ppd.get(), keyword, nullptr);
     if (!attribute || !attribute->value)
         return std::nullopt;
@@ -579,6 +584,7 @@ std::optional<QString> PpdFile::attribute(const char *keyword) const
 
 QStringList PpdFile::attributes(const char *keyword) const
 {
+    const std::lock_guard lock(d->mutex);
     QStringList values;
     for (const ppd_attr_t *attribute = ppdFindAttr(d->ppd.get(), keyword, nullptr); attribute;
          attribute = ppdFindNextAttr(d->ppd.get(), keyword, nullptr)) {
@@ -595,11 +601,13 @@ const std::vector<PpdGroup> &PpdFile::groups() const
 
 const PpdOption *PpdFile::findOption(const QString &keyword) const
 {
+    const std::lock_guard lock(d->mutex);
     return d->options.value(ppdFindOption(d->ppd.get(), keyword.toUtf8().constData()));
 }
 
 bool PpdFile::isRuledOutByEquipment(const QString &option, const QString &choice) const
 {
+    const std::lock_guard lock(d->mutex);
     if (!d->ruledOut)
         d->ruledOut = ruledOutByEquipment(d->ppd.get());
     const ppd_option_t *found = ppdFindOption(d->ppd.get(), option.toUtf8().constData());
@@ -638,16 +646,19 @@ std::optional<CustomPageLimits> PpdFile::customPageLimits() const
 
 void PpdFile::markDefaults()
 {
+    const std::lock_guard lock(d->mutex);
     ppdMarkDefaults(d->ppd.get());
 }
 
 bool PpdFile::mark(const QString &option, const QString &choice)
 {
+    const std::lock_guard lock(d->mutex);
     return kelvo::mark(d->ppd.get(), option, choice);
 }
 
 std::optional<QString> PpdFile::markedChoice(const QString &option) const
 {
+    const std::lock_guard lock(d->mutex);
     const ppd_choice_t *choice = ppdFindMarkedChoice(d->ppd.get(), option.toUtf8().constData());
     if (!choice)
         return std::nullopt;
@@ -656,6 +667,7 @@ std::optional<QString> PpdFile::markedChoice(const QString &option) const
 
 std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
 {
+    const std::lock_guard lock(d->mutex);
     ppd_file_t *ppd = d->constraintMarks();
     if (!ppd)
         return {};
@@ -695,6 +707,7 @@ std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
 
 std::optional<PpdSelection> PpdFile::resolve(const PpdSelection &selection, const QString &keep)
 {
+    const std::lock_guard lock(d->mutex);
     ppd_file_t *ppd = d->constraintMarks();
     if (!ppd)
         return std::nullopt;

@@ -63,14 +63,14 @@ struct PpdConflict
     QStringList options; // keywords of the options that cannot stay as they are together
 };
 
+// For any thread: panels share it with the thread that makes a job ready.
 class PpdFile
 {
 public:
     // Reads a regular file of at most limits::ppdBytes. NotFound, TooLarge,
     // Unsupported for a compressed one, or Damaged with libcups' reason and line.
     static Result<std::shared_ptr<PpdFile>> open(const QString &path);
-    // The same from bytes that are already here; `name` is theirs in errors. On any thread;
-    // what comes out is for one thread at a time.
+    // The same from bytes that are already here; `name` is theirs in errors.
     static Result<std::shared_ptr<PpdFile>> fromBytes(const QByteArray &bytes, const QString &name);
     ~PpdFile();
     PpdFile(const PpdFile &) = delete;
