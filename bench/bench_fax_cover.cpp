@@ -1,10 +1,9 @@
 // A cover sheet's preview, up to the bytes of its PDF, against the same page drawn with cairo
 // and Pango by the shortest way.
-#include "ratios.h"
+#include "functions.h"
 
 #include "fax_cover.h"
 
-#include <benchmark/benchmark.h>
 #include <cairo-pdf.h>
 #include <pango/pangocairo.h>
 
@@ -50,9 +49,7 @@ void refresh(benchmark::State &state)
                           page[1].label, page[1].text, page[2].label, page[2].text, &noImage, {}))
             state.SkipWithError("the page was not drawn");
     }
-    state.counters["bytes"] = consumer.position;
 }
-BENCHMARK(refresh);
 
 cairo_status_t append(void *pdf, const unsigned char *bytes, unsigned int count)
 {
@@ -104,13 +101,18 @@ void cairoAlone(benchmark::State &state)
             state.SkipWithError("the page was not drawn");
         cairo_surface_destroy(surface);
     }
-    state.counters["bytes"] = double(pdf.size());
 }
-BENCHMARK(cairoAlone);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    return bench::runAndCompare(argc, argv, {{"refresh", "cairoAlone", 2.0}});
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
+        return 2;
+    return bench::compare(
+        {{bench::function("a fax cover sheet's preview, up to its PDF's bytes", refresh),
+          bench::function("the page drawn with cairo alone", cairoAlone),
+          {{bench::Figure::Processor, 2.0}}}},
+        *options);
 }

@@ -1,10 +1,8 @@
 // Finding people as somebody types, and reading cards, of 10,000 people. See README.md.
 
+#include "functions.h"
 #include "person_search.h"
-#include "ratios.h"
 #include "vcard.h"
-
-#include <benchmark/benchmark.h>
 
 using namespace kelvo;
 
@@ -55,7 +53,6 @@ void keystroke(benchmark::State &state)
         benchmark::DoNotOptimize(search.find(kTyped.first(letters)).people.size());
     }
 }
-BENCHMARK(keystroke);
 
 void plainScan(benchmark::State &state)
 {
@@ -75,36 +72,42 @@ void plainScan(benchmark::State &state)
         benchmark::DoNotOptimize(hits);
     }
 }
-BENCHMARK(plainScan);
 
 void beginSearch(benchmark::State &state)
 {
     for (auto _ : state)
         benchmark::DoNotOptimize(PersonSearch(contents).find(kTyped).people.size());
 }
-BENCHMARK(beginSearch);
 
 void readAllCards(benchmark::State &state)
 {
     for (auto _ : state)
         benchmark::DoNotOptimize(readCards(cards).value().people.size());
 }
-BENCHMARK(readAllCards);
 
 void decodeAndSplit(benchmark::State &state)
 {
     for (auto _ : state)
         benchmark::DoNotOptimize(QString::fromUtf8(cards).split(QStringLiteral("\r\n")).size());
 }
-BENCHMARK(decodeAndSplit);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
+        return 2;
     makeSamples();
-    return bench::runAndCompare(argc, argv,
-                                {{"keystroke", "plainScan", 1.0},
-                                 {"beginSearch", "plainScan", 0},
-                                 {"readAllCards", "decodeAndSplit", 0}});
+    using enum bench::Figure;
+    const bench::Side scan = bench::function("QString::contains on their texts", plainScan);
+    return bench::compare(
+        {{bench::function("a keystroke that looks for one of 10,000 people", keystroke),
+          scan,
+          {{Processor, 1.0}}},
+         {bench::function("making ready for that", beginSearch), scan, {{Processor}}},
+         {bench::function("reading 10,000 cards", readAllCards),
+          bench::function("decoding and splitting the file", decodeAndSplit),
+          {{Processor}}}},
+        *options);
 }

@@ -1,10 +1,8 @@
 // What the words of several languages cost when a PPD is opened. See README.md.
 
+#include "functions.h"
 #include "ppd_file.h"
-#include "ratios.h"
 #include "texts.h"
-
-#include <benchmark/benchmark.h>
 
 #include <QByteArray>
 #include <QFile>
@@ -43,26 +41,29 @@ void openOneLanguage(benchmark::State &state)
 {
     open(state, inEnglish, QStringLiteral("en"));
 }
-BENCHMARK(openOneLanguage);
 
 void openInEnglish(benchmark::State &state)
 {
     open(state, inLanguages, QStringLiteral("en"));
 }
-BENCHMARK(openInEnglish);
 
 void openInGerman(benchmark::State &state)
 {
     open(state, inLanguages, QStringLiteral("de"));
 }
-BENCHMARK(openInGerman);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
+        return 2;
     readSamples();
-    return bench::runAndCompare(
-        argc, argv,
-        {{"openInEnglish", "openOneLanguage", 3.0}, {"openInGerman", "openOneLanguage", 3.0}});
+    const bench::Side one = bench::function("the same with one language", openOneLanguage);
+    const std::vector<bench::Row> rows{{bench::Figure::Processor, 3.0}};
+    return bench::compare(
+        {{bench::function("opening a PPD of four languages, in English", openInEnglish), one, rows},
+         {bench::function("opening it in German", openInGerman), one, rows}},
+        *options);
 }

@@ -1,6 +1,6 @@
 // Reading and writing property lists against libplist on the same bytes: the
 // ticket of the longest job that is promised to work, and a user's store.
-#include "ratios.h"
+#include "functions.h"
 
 #include "file_store.h"
 #include "property_list.h"
@@ -11,7 +11,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <plist/plist.h>
 #include <unistd.h>
@@ -292,67 +291,56 @@ bool makeSamples(const QString &folder)
 {
     if (!make(ticket, longTicket()) || !make(store, watermarkStore()))
         return false;
-    std::printf("ticket: %d pages, %.1f MB; store: %d watermarks, %d fonts, %.1f MB\n", kPages,
-                static_cast<double>(ticket.xml.size()) / 1e6, kWatermarks, kFonts,
-                static_cast<double>(store.xml.size()) / 1e6);
     storePath = folder + u"/ours.plist"_s;
     theirPath = QFile::encodeName(folder + u"/theirs.plist"_s);
     return replaceFile(storePath, store.xml)
         && replaceFile(QFile::decodeName(theirPath), store.xml);
 }
 
-void registerAll()
+// The disk is waited for only where both sides wait for it.
+std::vector<bench::Comparison> comparisons()
 {
-    constexpr int few = 5, many = 15;
-    const auto add = [](const char *name, auto function, int repetitions) {
-        benchmark::RegisterBenchmark(name, function)
-            ->Iterations(1)
-            ->Repetitions(repetitions)
-            ->Unit(benchmark::kMillisecond);
+    const auto once = [](std::string name, std::function<void(benchmark::State &)> measure) {
+        return bench::function(std::move(name), std::move(measure), 1);
     };
-    add(
-        "ticketRead", [](auto &state) { readOurs(state, ticket); }, few);
-    add(
-        "ticketReadLibplist", [](auto &state) { readTheirs(state, ticket); }, few);
-    add(
-        "ticketWrite", [](auto &state) { writeOurs(state, ticket); }, few);
-    add(
-        "ticketWriteLibplist", [](auto &state) { writeTheirs(state, ticket); }, few);
-    add(
-        "storeRead", [](auto &state) { readOurs(state, store); }, many);
-    add(
-        "storeReadLibplist", [](auto &state) { readTheirs(state, store); }, many);
-    add(
-        "storeWrite", [](auto &state) { writeOurs(state, store); }, many);
-    add(
-        "storeWriteLibplist", [](auto &state) { writeTheirs(state, store); }, many);
-    add("storeSaveOne", saveOneOurs, many);
-    add(
-        "storeSaveLibplist", [](auto &state) { saveOneTheirs(state, Durable::No); }, many);
-    add(
-        "storeSaveSafeLibplist", [](auto &state) { saveOneTheirs(state, Durable::Yes); }, many);
+    const auto save = [&once] { return once("saving one record of it", saveOneOurs); };
+    using enum bench::Figure;
+    return {
+        {once("reading a user's store in memory", [](auto &state) { readOurs(state, store); }),
+         once("libplist, same bytes", [](auto &state) { readTheirs(state, store); }),
+         {{Processor, 1.0}}},
+        {once("writing it in memory", [](auto &state) { writeOurs(state, store); }),
+         once("libplist, same list", [](auto &state) { writeTheirs(state, store); }),
+         {{Processor, 1.0}}},
+        {save(),
+         once("libplist: read, parse, change, write",
+              [](auto &state) { saveOneTheirs(state, Durable::No); }),
+         {{Processor, 1.0}, {Elapsed}}},
+        {save(),
+         once("libplist, as durably", [](auto &state) { saveOneTheirs(state, Durable::Yes); }),
+         {{Elapsed, 1.0}}},
+        {once("reading the longest ticket", [](auto &state) { readOurs(state, ticket); }),
+         once("libplist, same bytes", [](auto &state) { readTheirs(state, ticket); }),
+         {{Processor}}},
+        {once("writing it", [](auto &state) { writeOurs(state, ticket); }),
+         once("libplist, same list", [](auto &state) { writeTheirs(state, ticket); }),
+         {{Processor}}},
+    };
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // libplist reads reals by it
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
+        return 2;
     const QTemporaryDir folder;
     if (!folder.isValid() || !makeSamples(folder.path())) {
         std::fputs("bench_property_lists: the samples cannot be made\n", stderr);
         return 2;
     }
-    registerAll();
-    using enum bench::Clock;
-    // The disk is waited for only where both sides wait for it.
-    return bench::runAndCompare(argc, argv,
-                                {{"ticketRead", "ticketReadLibplist", 0},
-                                 {"ticketWrite", "ticketWriteLibplist", 0},
-                                 {"storeRead", "storeReadLibplist", 1.0},
-                                 {"storeWrite", "storeWriteLibplist", 1.0},
-                                 {"storeSaveOne", "storeSaveLibplist", 1.0, Cpu},
-                                 {"storeSaveOne", "storeSaveSafeLibplist", 1.0, Wall},
-                                 {"storeSaveOne", "storeSaveLibplist", 0, Wall}});
+    return bench::compare(comparisons(), *options);
 }

@@ -2,18 +2,14 @@
 
 #include "describe_job.h"
 #include "exception_page_list.h"
+#include "functions.h"
 #include "insert_list.h"
 #include "page_range_text.h"
-#include "ratios.h"
 #include "special_pages_settings.h"
 #include "ticket_values.h"
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
 #include <array>
-#include <deque>
-#include <functional>
 #include <random>
 #include <string>
 #include <vector>
@@ -119,7 +115,7 @@ void sortPointers(benchmark::State &state, const Sample<Page> &sample)
     }
 }
 
-// ---- without a yardstick
+// ---- a full list
 
 // What happens to a full list, once for each round.
 template <class Function>
@@ -210,41 +206,35 @@ void describeJob(benchmark::State &state)
         state.SkipWithError("not all inserts are described");
 }
 
-// ---- registration
+// ---- the rows
 
-const char *run(std::string name, std::function<void(benchmark::State &)> function)
+template <class Function>
+bench::Side once(std::string name, Function function)
 {
-    constexpr int repetitions = 11;
-    static std::deque<std::string> names; // which bench::Ratio points to
-    names.push_back(std::move(name));
-    benchmark::RegisterBenchmark(names.back().c_str(), std::move(function))
-        ->Iterations(1)
-        ->Repetitions(repetitions)
-        ->Unit(benchmark::kMillisecond);
-    return names.back().c_str();
+    return bench::function(std::move(name), function, 1);
 }
 
 template <class List, class Page>
 void compare(const std::string &what, const Samples<Page> &samples,
-             std::vector<bench::Ratio> &ratios)
+             std::vector<bench::Comparison> &comparisons)
 {
-    constexpr double budget = 3;
-    constexpr std::array orders{"InOrder", "Reversed", "Shuffled"};
+    constexpr std::array orders{", in order", ", reversed", ", shuffled"};
     for (int order = 0; order < kOrders; ++order) {
         const Sample<Page> &sample = samples[order];
-        const std::string name = what + orders[order];
-        const char *pages =
-            run(name + "SortPages", [&sample](auto &state) { sortPages(state, sample); });
-        const char *pointers =
-            run(name + "SortPointers", [&sample](auto &state) { sortPointers(state, sample); });
-        const char *empty =
-            run(name, [&sample](auto &state) { add<List>(state, sample, Before::Empty); });
-        const char *full = run(name + "ToFull",
-                               [&sample](auto &state) { add<List>(state, sample, Before::Full); });
-        for (const char *added : {empty, full}) {
-            ratios.push_back({added, pages, budget});
-            ratios.push_back({added, pointers, 0});
-        }
+        const bench::Side pages = once("stable sort of as many pages",
+                                       [&sample](auto &state) { sortPages(state, sample); });
+        const bench::Side pointers = once("stable sort of as many pointers",
+                                          [&sample](auto &state) { sortPointers(state, sample); });
+        const bench::Side empty =
+            once("adding 99,999 " + what + orders[order],
+                 [&sample](auto &state) { add<List>(state, sample, Before::Empty); });
+        const bench::Side full = once("adding them to as many", [&sample](auto &state) {
+            add<List>(state, sample, Before::Full);
+        });
+        comparisons.push_back({empty, pages, {{bench::Figure::Processor, 3.0}}});
+        if (order == InOrder) // as users add them
+            comparisons.push_back({empty, pointers, {{bench::Figure::Processor}}});
+        comparisons.push_back({full, pages, {{bench::Figure::Processor, 3.0}}});
     }
 }
 
@@ -252,16 +242,24 @@ void compare(const std::string &what, const Samples<Page> &samples,
 
 int main(int argc, char **argv)
 {
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
+        return 2;
     makeSamples();
-    std::vector<bench::Ratio> ratios;
-    compare<InsertList>("inserts", inserts, ratios);
-    compare<ExceptionPageList>("exceptions", exceptions, ratios);
-    compare<ExceptionPageList>("overlaps", overlaps, ratios);
-    run("copyList", copyList);
-    run("writeList", writeList);
-    run("removeHalf", removeHalf);
-    run("readList", readList);
-    constexpr double describeBudget = 2;
-    ratios.push_back({run("describeJob", describeJob), run("readJob", readJob), describeBudget});
-    return bench::runAndCompare(argc, argv, ratios);
+    using enum bench::Figure;
+    std::vector<bench::Comparison> comparisons;
+    compare<InsertList>("inserts", inserts, comparisons);
+    compare<ExceptionPageList>("exception pages", exceptions, comparisons);
+    compare<ExceptionPageList>("that overlap one another", overlaps, comparisons);
+    const bench::Side pages = once("stable sort of as many pages",
+                                   [](auto &state) { sortPages(state, exceptions[InOrder]); });
+    for (const bench::Side &handled :
+         {once("copying a list of 99,999 exception pages", copyList),
+          once("its array form", writeList), once("reading that back", readList),
+          once("removing half of them", removeHalf)})
+        comparisons.push_back({handled, pages, {{Processor}}});
+    comparisons.push_back({once("describing a job with 99,999 inserts", describeJob),
+                           once("reading it once, as a panel does", readJob),
+                           {{Processor, 2.0}}});
+    return bench::compare(comparisons, *options);
 }

@@ -1,6 +1,6 @@
 // One full Sync of the shell with all its panels, through the bundle as a dialog
 // loads it, against opening the same PPD once with libcups.
-#include "ratios.h"
+#include "functions.h"
 
 #include "driven_dialog.h"
 
@@ -9,8 +9,6 @@
 #include "ticket.h"
 
 #include <QApplication>
-
-#include <benchmark/benchmark.h>
 
 #include <array>
 #include <clocale>
@@ -26,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kDevice = QStringLiteral(KELVO_SOURCE_DIR "/resources/ppds/kelvo-corvane-full.ppd");
-constexpr int kRounds = 100, kRepetitions = 21;
+constexpr int kRounds = 100;
 
 DrivenDialog *dialog = nullptr;
 // The device's defaults, and a job in which every option has been changed.
@@ -77,7 +75,6 @@ void syncRead(benchmark::State &state)
         state.ResumeTiming();
     }
 }
-BENCHMARK(syncRead)->Iterations(kRounds)->Repetitions(kRepetitions)->Unit(benchmark::kMicrosecond);
 
 void syncWrite(benchmark::State &state)
 {
@@ -97,7 +94,6 @@ void syncWrite(benchmark::State &state)
         state.ResumeTiming();
     }
 }
-BENCHMARK(syncWrite)->Iterations(kRounds)->Repetitions(kRepetitions)->Unit(benchmark::kMicrosecond);
 
 void openPpd(benchmark::State &state)
 {
@@ -109,7 +105,6 @@ void openPpd(benchmark::State &state)
         ppdClose(ppd);
     }
 }
-BENCHMARK(openPpd)->Iterations(kRounds)->Repetitions(kRepetitions)->Unit(benchmark::kMicrosecond);
 
 // A Sync that does nothing would be the fastest: both directions must carry a
 // changed choice across.
@@ -146,6 +141,9 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
+        return 2;
 
     const PlugInFactoryFunction factory = findFactory();
     if (!factory) {
@@ -165,6 +163,11 @@ int main(int argc, char **argv)
         std::fputs("bench_sync: Sync does not carry the settings across\n", stderr);
         return 2;
     }
-    return bench::runAndCompare(argc, argv,
-                                {{"syncRead", "openPpd", 1.0}, {"syncWrite", "openPpd", 1.0}});
+    const bench::Side ppd =
+        bench::function("opening the same PPD once with libcups", openPpd, kRounds);
+    const std::vector<bench::Row> rows{{bench::Figure::Processor, 1.0}};
+    return bench::compare(
+        {{bench::function("one Sync, ticket to panels", syncRead, kRounds), ppd, rows},
+         {bench::function("one Sync, panels to ticket", syncWrite, kRounds), ppd, rows}},
+        *options);
 }

@@ -1,12 +1,11 @@
 // Making a font's Type 42 program against a table-driven hex dump of the same bytes, for a
 // font of a usual size and the largest in Debian. Both sides make their text anew each time.
-#include "ratios.h"
+#include "functions.h"
 
+#include "drawing.h"
 #include "type42.h"
 
 #include <QFile>
-
-#include <benchmark/benchmark.h>
 
 #include <array>
 #include <cstdio>
@@ -70,39 +69,39 @@ void dump(benchmark::State &state, const QByteArray &font)
     }
 }
 
-void add(const char *name, void (*measure)(benchmark::State &, const QByteArray &),
-         const QByteArray &font, int iterations)
+// Of the font of that PostScript name; empty, which is told, where it cannot be read.
+QByteArray bytesOf(const QString &postScriptName)
 {
-    benchmark::RegisterBenchmark(name, [measure, &font](auto &state) { measure(state, font); })
-        ->Iterations(iterations)
-        ->Repetitions(31)
-        ->Unit(benchmark::kMillisecond);
-}
-
-QByteArray read(const char *path)
-{
-    QFile file(QFile::decodeName(path));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const auto fonts = drawing::library();
+    const auto font = fonts ? fonts.value()->findFont(postScriptName) : std::nullopt;
+    QFile file(font ? font->path : QString());
+    if (file.open(QIODevice::ReadOnly))
+        return file.readAll();
+    std::fprintf(stderr, "bench_type42: the font %s is not installed\n",
+                 qUtf8Printable(postScriptName));
+    return {};
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    // The rest are the benchmark's own arguments.
-    const QByteArray small = argc > 2 ? read(argv[1]) : QByteArray();
-    const QByteArray large = argc > 2 ? read(argv[2]) : QByteArray();
-    if (small.isEmpty() || large.isEmpty()) {
-        std::fputs("usage: bench_type42 FONT LARGE_FONT [OPTION...]\n", stderr);
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
         return 2;
-    }
-    argv[2] = argv[0];
-    std::printf("%.2f MB and %.1f MB\n", static_cast<double>(small.size()) / 1e6,
-                static_cast<double>(large.size()) / 1e6);
-    add("convert", convert, small, 20);
-    add("hexDump", dump, small, 20);
-    add("convertLarge", convert, large, 1);
-    add("hexDumpLarge", dump, large, 1);
-    return bench::runAndCompare(
-        argc - 2, argv + 2, {{"convert", "hexDump", 1.3}, {"convertLarge", "hexDumpLarge", 1.3}});
+    const QByteArray usual = bytesOf(u"DejaVuSans"_s), large = bytesOf(u"BabelStoneHan"_s);
+    if (usual.isEmpty() || large.isEmpty())
+        return 2;
+    const auto comparison = [](const QByteArray &font, int rounds) {
+        const QString name =
+            u"a font's Type 42 program, %1 MB"_s.arg(double(font.size()) / 1e6, 0, 'f', 1);
+        return bench::Comparison{
+            bench::function(
+                name.toStdString(), [&font](auto &state) { convert(state, font); }, rounds),
+            bench::function(
+                "table-driven hex dump of the same bytes",
+                [&font](auto &state) { dump(state, font); }, rounds),
+            {{bench::Figure::Processor, 1.3}}};
+    };
+    return bench::compare({comparison(usual, 20), comparison(large, 1)}, *options);
 }

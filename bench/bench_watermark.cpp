@@ -1,10 +1,9 @@
 // A watermark's preview, up to the bytes of its PDF, against the same page drawn with cairo
 // and Pango by the shortest way.
-#include "ratios.h"
+#include "functions.h"
 
 #include "watermark_drawing.h"
 
-#include <benchmark/benchmark.h>
 #include <cairo-pdf.h>
 #include <pango/pangocairo.h>
 
@@ -34,9 +33,7 @@ void preview(benchmark::State &state)
         if (!drawWatermarkPage(&watermark, letter, WatermarkGround::White, {}, consumer))
             state.SkipWithError("the page was not drawn");
     }
-    state.counters["bytes"] = consumer.position;
 }
-BENCHMARK(preview);
 
 cairo_status_t append(void *pdf, const unsigned char *bytes, unsigned int count)
 {
@@ -80,13 +77,18 @@ void cairoAlone(benchmark::State &state)
             state.SkipWithError("the page was not drawn");
         cairo_surface_destroy(surface);
     }
-    state.counters["bytes"] = double(pdf.size());
 }
-BENCHMARK(cairoAlone);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    return bench::runAndCompare(argc, argv, {{"preview", "cairoAlone", 2.0}});
+    const auto options = bench::optionsFrom(argc, argv);
+    if (!options)
+        return 2;
+    return bench::compare(
+        {{bench::function("a watermark's preview, up to its PDF's bytes", preview),
+          bench::function("the page drawn with cairo alone", cairoAlone),
+          {{bench::Figure::Processor, 2.0}}}},
+        *options);
 }

@@ -4,23 +4,36 @@
 #include "texts.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <mutex>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace kelvo {
 
 namespace {
 
 constexpr int pollMs = 100;
+const QString temporaryFolderKey = QStringLiteral("TMPDIR");
 constexpr qsizetype messageBytes = 4096;
-constexpr qsizetype outputBytes = 256 * limits::MiB; // the sizes of 16 million pages
+// What helpers answer is less: the sizes of 16 million pages.
+constexpr qsizetype outputBytes = 256 * limits::MiB + sizeof(quint64);
 
 // At most `value`, or less where less was set before.
 void limit(__rlimit_resource_t resource, qint64 value)
@@ -57,7 +70,7 @@ QProcessEnvironment childEnvironment(const QString &folder)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("GS_OPTIONS")); // could take -dSAFER back
-    environment.insert(QStringLiteral("TMPDIR"), folder);
+    environment.insert(temporaryFolderKey, folder);
     return environment;
 }
 
@@ -83,17 +96,169 @@ Error crashed(const ChildProgram &child, const QString &where, int signal)
                            "more memory than it may have")};
 }
 
-void end(QProcess &process)
+// ---- starting
+
+// An end of a pipe or socket, or another file, that is closed with its owner.
+class Descriptor
 {
-    process.kill();
-    process.waitForFinished(-1);
+public:
+    Descriptor() = default;
+    explicit Descriptor(int fd)
+        : m_fd(fd)
+    {
+    }
+    Descriptor(Descriptor &&other) noexcept
+        : m_fd(std::exchange(other.m_fd, -1))
+    {
+    }
+    Descriptor &operator=(Descriptor &&other) noexcept
+    {
+        std::swap(m_fd, other.m_fd);
+        return *this;
+    }
+    ~Descriptor() { close(); }
+
+    int get() const { return m_fd; }
+    void close()
+    {
+        if (m_fd >= 0)
+            ::close(std::exchange(m_fd, -1));
+    }
+
+private:
+    int m_fd = -1;
+};
+
+// All that the child needs, made before it: it may not ask for memory.
+struct Launch
+{
+    QByteArray program, folder;
+    std::vector<QByteArray> arguments, environment;
+    std::vector<char *> argumentList, environmentList; // of those, with a null at the end
+    Descriptor standard[3];
+    qint64 memory = 0;
+    int seconds = 0;
+    int file = -1;
+    sigset_t mask = {}; // of the thread that starts it
+};
+
+// childEnvironment() as bytes, which need not be text.
+std::vector<QByteArray> environmentOf(const QString &folder)
+{
+    const QProcessEnvironment environment = childEnvironment(folder);
+    std::vector<QByteArray> entries;
+    for (const QString &key : environment.keys()) {
+        const QByteArray name = QFile::encodeName(key);
+        const QByteArray own =
+            key == temporaryFolderKey ? QFile::encodeName(folder) : qgetenv(name.constData());
+        entries.push_back(name + '=' + own);
+    }
+    return entries;
 }
 
-// What is too much is read all the same, and dropped: a full pipe would hold the
-// child up, a full buffer us.
-void readInto(QByteArray &bytes, const QByteArray &more, qsizetype most)
+std::vector<char *> listOf(std::vector<QByteArray> &texts)
 {
-    bytes += more.left(most - bytes.size());
+    std::vector<char *> list;
+    for (QByteArray &text : texts)
+        list.push_back(text.data());
+    list.push_back(nullptr);
+    return list;
+}
+
+// Between vfork and exec, in the memory of the program, whose thread waits meanwhile: system
+// calls and nothing else. Comes back where the program cannot be run; `errno` says why.
+void becomeChild(const Launch &launch)
+{
+    // What the program catches would be caught here.
+    for (int number = 1; number < NSIG; ++number) {
+        struct sigaction action = {};
+        if (::sigaction(number, nullptr, &action) == 0 && action.sa_handler != SIG_DFL
+            && (action.sa_handler != SIG_IGN || number == SIGPIPE)) {
+            action = {};
+            action.sa_handler = SIG_DFL;
+            ::sigaction(number, &action, nullptr);
+        }
+    }
+    for (int number = 0; number < 3; ++number) {
+        if (::dup2(launch.standard[number].get(), number) < 0)
+            return;
+    }
+    if (::chdir(launch.folder.constData()) != 0)
+        return;
+    enterLimits(launch.memory, launch.seconds, launch.file);
+    ::sigprocmask(SIG_SETMASK, &launch.mask, nullptr);
+    ::execve(launch.program.constData(), launch.argumentList.data(), launch.environmentList.data());
+}
+
+// The child's number; negative, with `errno`, where it could not be made or run.
+//
+// Not by QProcess, which belongs to a thread and is done when the child has ended: a helper is
+// started by one thread and asked by another, and its answer is taken before it gives its memory
+// back. vfork, as there: nothing of a program with a hundred libraries is copied.
+pid_t launchChild(Launch &launch)
+{
+    sigset_t all;
+    ::sigfillset(&all);
+    ::pthread_sigmask(SIG_SETMASK, &all, &launch.mask);
+    int volatile problem = 0;
+    const pid_t pid = ::vfork();
+    if (pid == 0) {
+        becomeChild(launch);
+        problem = errno;
+        ::_exit(127);
+    }
+    const int reason = pid < 0 ? errno : problem;
+    ::pthread_sigmask(SIG_SETMASK, &launch.mask, nullptr);
+    if (pid > 0 && reason != 0)
+        ::waitpid(pid, nullptr, 0);
+    errno = reason;
+    return reason == 0 ? pid : -1;
+}
+
+// ---- children that have been left
+
+struct Left
+{
+    std::mutex mutex;
+    std::vector<pid_t> children;
+};
+
+// Never destroyed: a thread may outlive every static object.
+Left &left()
+{
+    static auto &all = *new Left;
+    return all;
+}
+
+void takeBackEnded()
+{
+    const std::lock_guard lock(left().mutex);
+    std::erase_if(left().children,
+                  [](pid_t child) { return ::waitpid(child, nullptr, WNOHANG) != 0; });
+}
+
+// Ends it. Giving much memory back takes a while, for which nobody waits.
+void leave(pid_t child)
+{
+    ::kill(child, SIGKILL);
+    const std::lock_guard lock(left().mutex);
+    left().children.push_back(child);
+}
+
+// ---- talking
+
+// What is too much is read all the same, and dropped: a full pipe would hold the
+// child up, a full buffer us. Closed at its end.
+void readInto(QByteArray &bytes, Descriptor &from, qsizetype most)
+{
+    std::array<char, 64 * 1024> block;
+    while (from.get() >= 0) {
+        const ssize_t count = ::read(from.get(), block.data(), block.size());
+        if (count > 0)
+            bytes.append(block.data(), std::min<qsizetype>(count, most - bytes.size()));
+        else if (count == 0 || errno != EINTR)
+            return count < 0 && errno == EAGAIN ? void() : from.close();
+    }
 }
 
 } // namespace
@@ -108,51 +273,165 @@ void prepareChild(QProcess &process, const ChildProgram &child)
                                      file = child.file] { enterLimits(memory, seconds, file); });
 }
 
-Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
-                          const std::atomic_bool &cancelled)
+struct RunningChild::Private
 {
-    QProcess process;
-    prepareChild(process, child);
-    if (!child.input) {
-        process.setStandardInputFile(QProcess::nullDevice());
-        process.setStandardOutputFile(QProcess::nullDevice());
+    ChildProgram program;
+    pid_t pid = -1; // -1: it has ended
+    Descriptor end; // can be read when it has ended; none where the system has no such thing
+    Descriptor input, output, message;
+
+    Private() = default;
+    Private(Private &&) = delete;
+    Private &operator=(Private &&) = delete;
+    ~Private() { leaveIt(); }
+
+    bool hasEnded(int *status);
+    void write(QByteArrayView &rest);
+    void wait(bool isWriting);
+    void leaveIt()
+    {
+        if (pid > 0)
+            leave(std::exchange(pid, -1));
     }
-    process.start();
-    if (!process.waitForStarted(-1)) {
+};
+
+bool RunningChild::Private::hasEnded(int *status)
+{
+    if (::waitpid(pid, status, WNOHANG) == 0)
+        return false;
+    pid = -1;
+    return true;
+}
+
+// As much as it takes now. What a child does not want that has closed its input is dropped.
+void RunningChild::Private::write(QByteArrayView &rest)
+{
+    while (!rest.isEmpty()) {
+        const ssize_t count =
+            ::send(input.get(), rest.data(), static_cast<std::size_t>(rest.size()),
+                   MSG_NOSIGNAL | MSG_DONTWAIT);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0 && errno != EAGAIN)
+            rest = {};
+        if (count < 0)
+            return;
+        rest = rest.sliced(count);
+    }
+}
+
+// Until something can be read or written, for pollMs at most.
+void RunningChild::Private::wait(bool isWriting)
+{
+    pollfd files[] = {{isWriting ? input.get() : -1, POLLOUT, 0},
+                      {output.get(), POLLIN, 0},
+                      {message.get(), POLLIN, 0},
+                      {end.get(), POLLIN, 0}};
+    const bool isBlind = end.get() < 0 && output.get() < 0 && message.get() < 0;
+    ::poll(files, std::size(files), isBlind ? 1 : pollMs);
+}
+
+RunningChild::RunningChild(std::unique_ptr<Private> started)
+    : d(std::move(started))
+{
+}
+
+RunningChild::RunningChild(RunningChild &&) noexcept = default;
+RunningChild &RunningChild::operator=(RunningChild &&) noexcept = default;
+RunningChild::~RunningChild() = default;
+
+Result<RunningChild> RunningChild::start(const ChildProgram &child, const QString &where)
+{
+    takeBackEnded();
+    const auto problem = [&](int number) {
         return Error{Error::Code::NotReadable, where,
                      translate("Document", "%1 does not start: %2")
-                         .arg(QFileInfo(child.program).fileName(), process.errorString())};
+                         .arg(QFileInfo(child.program).fileName(), qt_error_string(number))};
+    };
+    auto d = std::make_unique<Private>();
+    d->program = child;
+    Launch launch;
+    int ends[2] = {-1, -1};
+    // A socket, whose writer is told where a pipe's would be ended by a signal.
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
+        return problem(errno);
+    d->input = Descriptor(ends[0]);
+    launch.standard[0] = Descriptor(ends[1]);
+    for (const auto &[own, theirs] : {std::pair(&d->output, 1), {&d->message, 2}}) {
+        if (::pipe2(ends, O_CLOEXEC) != 0)
+            return problem(errno);
+        *own = Descriptor(ends[0]);
+        launch.standard[theirs] = Descriptor(ends[1]);
+        ::fcntl(ends[0], F_SETFL, O_NONBLOCK);
     }
-    if (child.input) {
-        process.write(*child.input);
-        process.closeWriteChannel();
-    }
+    launch.program = QFile::encodeName(child.program);
+    launch.folder = QFile::encodeName(child.folder);
+    launch.arguments.push_back(launch.program);
+    for (const QString &argument : child.arguments)
+        launch.arguments.push_back(QFile::encodeName(argument));
+    launch.environment = environmentOf(child.folder);
+    launch.argumentList = listOf(launch.arguments);
+    launch.environmentList = listOf(launch.environment);
+    launch.memory = child.memory;
+    launch.seconds = child.seconds;
+    launch.file = child.file;
+    d->pid = launchChild(launch);
+    if (d->pid < 0)
+        return problem(errno);
+    d->end = Descriptor(static_cast<int>(::syscall(SYS_pidfd_open, d->pid, 0)));
+    return RunningChild(std::move(d));
+}
 
+Result<ChildEnd> RunningChild::ask(const QByteArray &input, Input then, const IsAnswer &isAnswer,
+                                   const QString &where, const std::atomic_bool &cancelled)
+{
     QElapsedTimer timer;
     timer.start();
+    QByteArrayView rest(input);
     QByteArray message;
     QByteArray output;
     const auto read = [&] {
-        readInto(message, process.readAllStandardError(), messageBytes);
-        readInto(output, process.readAllStandardOutput(), outputBytes);
+        readInto(message, d->message, messageBytes);
+        readInto(output, d->output, outputBytes);
     };
-    while (!process.waitForFinished(pollMs) && process.state() != QProcess::NotRunning) {
+    for (int status = 0;;) {
+        d->write(rest);
+        if (rest.isEmpty() && then == Input::Ends)
+            d->input.close();
         read();
+        if (isAnswer && isAnswer(output))
+            return ChildEnd{0, output, {}};
+        if (d->pid < 0 || d->hasEnded(&status)) {
+            read();
+            // What it wrote last: whole, though it ended afterwards.
+            if (!WIFEXITED(status))
+                return crashed(d->program, where, WTERMSIG(status));
+            return ChildEnd{WEXITSTATUS(status), output, QString::fromUtf8(message).trimmed()};
+        }
         if (cancelled) {
-            end(process);
+            d->leaveIt();
             return Error{Error::Code::Cancelled, where, {}};
         }
-        if (child.seconds > 0 && timer.hasExpired(child.seconds * 1000)) {
-            end(process);
-            return timedOut(child, where);
+        const int seconds = d->program.seconds;
+        if (seconds > 0 && timer.hasExpired(seconds * 1000)) {
+            d->leaveIt();
+            return timedOut(d->program, where);
         }
+        d->wait(!rest.isEmpty());
     }
-    read();
+}
 
-    // After a crash, Qt's exit code on Unix is the signal.
-    if (process.exitStatus() == QProcess::CrashExit)
-        return crashed(child, where, process.exitCode());
-    return ChildEnd{process.exitCode(), output, QString::fromUtf8(message).trimmed()};
+Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
+                          const std::atomic_bool &cancelled)
+{
+    Result<RunningChild> started = RunningChild::start(child, where);
+    if (!started)
+        return started.error();
+    Result<ChildEnd> end = started.value().ask(child.input.value_or(QByteArray()),
+                                               RunningChild::Input::Ends, {}, where, cancelled);
+    if (end && !child.input)
+        end.value().output.clear();
+    return end;
 }
 
 } // namespace kelvo

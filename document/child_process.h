@@ -9,6 +9,8 @@
 #include <QStringList>
 
 #include <atomic>
+#include <functional>
+#include <memory>
 #include <optional>
 
 class QProcess;
@@ -43,6 +45,33 @@ struct ChildEnd
 };
 Result<ChildEnd> runChild(const ChildProgram &child, const QString &where,
                           const std::atomic_bool &cancelled);
+
+// A child that is started as runChild() starts it, before it is known what it will be
+// asked, or that is asked more than once. It ends with the thread that starts it.
+class RunningChild
+{
+public:
+    // Its standard input is a stream that ask() writes to; `child.input` does not count.
+    static Result<RunningChild> start(const ChildProgram &child, const QString &where);
+    RunningChild(RunningChild &&) noexcept;
+    RunningChild &operator=(RunningChild &&) noexcept;
+    ~RunningChild(); // ends it; does not wait
+
+    enum class Input { GoesOn, Ends };
+    // Whether what the child has written to standard output is the whole answer.
+    using IsAnswer = std::function<bool(const QByteArray &output)>;
+
+    // Writes `input` and waits for the answer, or for the end of the child, in any thread. The
+    // errors are those of runChild(), and the child has ended then; `seconds` count from here on.
+    // The status is 0 for an answer.
+    Result<ChildEnd> ask(const QByteArray &input, Input then, const IsAnswer &isAnswer,
+                         const QString &where, const std::atomic_bool &cancelled);
+
+private:
+    struct Private;
+    explicit RunningChild(std::unique_ptr<Private> started);
+    std::unique_ptr<Private> d;
+};
 
 // Makes `process` ready to be started as runChild() would start it, for a child that
 // is talked to. It ends with the thread that starts it.

@@ -6,6 +6,9 @@
 #include <QFileInfo>
 #include <QMutex>
 
+#include <algorithm>
+#include <cstring>
+
 namespace kelvo {
 
 namespace {
@@ -44,6 +47,8 @@ DocumentHelper helperFor(Task task)
     case Task::ImportPicture:
         return DocumentHelper::Converter;
     case Task::TidyPdf:
+    case Task::TidyPdfToWrite:
+    case Task::WritePdf:
     case Task::SelectPdfPages:
     case Task::ReplaceEmbeddedFile:
     case Task::CheckEmbeddedFile:
@@ -95,25 +100,56 @@ Error senselessAnswer(const QString &where)
                            "file may be damaged")};
 }
 
-Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJob &job)
+RunningHelper::RunningHelper(RunningChild &&child, QString program)
+    : m_child(std::move(child))
+    , m_program(std::move(program))
 {
-    Result<ChildProgram> child = documentHelper(helperFor(task));
-    if (!child)
-        return child.error();
-    child.value().folder = job.folder;
-    child.value().input = request;
-    child.value().file = job.file;
-    child.value().seconds = secondsFor(task);
+}
+
+Result<RunningHelper> RunningHelper::start(Result<ChildProgram> program, const HelperJob &job)
+{
+    if (!program)
+        return program.error();
+    ChildProgram &child = program.value();
+    child.folder = job.folder;
+    child.file = job.file;
+    Result<RunningChild> started = RunningChild::start(child, job.where);
+    if (!started)
+        return started.error();
+    return RunningHelper(std::move(started).value(), child.program);
+}
+
+Result<RunningHelper> RunningHelper::start(DocumentHelper helper, const HelperJob &job)
+{
+    return start(documentHelper(helper), job);
+}
+
+Result<QByteArray> RunningHelper::ask(const QByteArray &request, Request which,
+                                      const HelperJob &job)
+{
+    const MessageSize size = static_cast<MessageSize>(request.size());
+    constexpr qsizetype header = sizeof size;
+    const QByteArray input = QByteArray(reinterpret_cast<const char *>(&size), header) + request;
+    const auto isAnswer = [](const QByteArray &output) {
+        MessageSize announced = 0;
+        if (output.size() < header)
+            return false;
+        std::memcpy(&announced, output.constData(), header);
+        const auto rest = static_cast<MessageSize>(output.size() - header);
+        // More than was announced, or than is ever told, is none that makes sense.
+        return rest >= announced || announced > kMostAnswered;
+    };
     static const std::atomic_bool never = false;
-    Result<ChildEnd> end =
-        runChild(child.value(), job.where, job.cancelled ? *job.cancelled : never);
+    Result<ChildEnd> end = m_child.ask(
+        input, which == Request::Last ? RunningChild::Input::Ends : RunningChild::Input::GoesOn,
+        isAnswer, job.where, job.cancelled ? *job.cancelled : never);
     if (!end)
         return end.error();
     switch (end.value().status) {
     case 0:
-        return std::move(end.value().output);
+        return std::move(end.value().output).sliced(std::min(header, end.value().output.size()));
     case kOtherVersionStatus:
-        return Error{Error::Code::Damaged, child.value().program,
+        return Error{Error::Code::Damaged, m_program,
                      translate("Document",
                                "this is not the part that reads documents of kelvo-print %1; "
                                "install kelvo-print anew")
@@ -128,6 +164,17 @@ Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJ
                          .arg(end.value().status)
                          .arg(end.value().message.section(u'\n', -1))};
     }
+}
+
+Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJob &job)
+{
+    Result<ChildProgram> child = documentHelper(helperFor(task));
+    if (child)
+        child.value().seconds = secondsFor(task);
+    Result<RunningHelper> helper = RunningHelper::start(std::move(child), job);
+    if (!helper)
+        return helper.error();
+    return helper.value().ask(request, RunningHelper::Request::Last, job);
 }
 
 } // namespace kelvo

@@ -39,25 +39,49 @@ struct HelperJob
     int file = -1;                               // as ChildProgram::file
 };
 
-// Runs the helper for `task` with an encoded request; the encoded answer. Errors are
-// about the document: see runChild(). NotFound and Damaged also for a helper that is
-// not there or of another version.
+// A helper that runs, and waits for a request. Started before it is known what it will be asked,
+// it has loaded its libraries by then. It ends with the thread that starts it.
+class RunningHelper
+{
+public:
+    // NotFound and Damaged where it is not there, or is of another version.
+    static Result<RunningHelper> start(DocumentHelper helper, const HelperJob &job);
+    // The same for documentHelper() with limits of its own.
+    static Result<RunningHelper> start(Result<ChildProgram> program, const HelperJob &job);
+
+    enum class Request { Next, Last }; // after the last one it ends
+    // The answer to an encoded request, in any thread. Errors are about the document: see
+    // runChild(). Damaged also for a helper of another version.
+    Result<QByteArray> ask(const QByteArray &request, Request which, const HelperJob &job);
+
+private:
+    RunningHelper(RunningChild &&child, QString program);
+
+    RunningChild m_child;
+    QString m_program;
+};
+
+// The same with a helper that is started for the one request, the one that knows `task`.
 Result<QByteArray> askHelper(Task task, const QByteArray &request, const HelperJob &job);
 Error senselessAnswer(const QString &where);
 
-// Asks for `task` with its arguments, in the order of helper_messages.h. Blocks: for
-// worker threads.
-template <typename Value, typename... Arguments>
-Result<Value> ask(Task task, const HelperJob &job, const Arguments &...arguments)
+// A request for `task` with its arguments, in the order of helper_messages.h.
+template <typename... Arguments>
+QByteArray helperRequest(Task task, const Arguments &...arguments)
 {
     QByteArray request;
     QDataStream out(&request, QIODevice::WriteOnly);
     out << textSource().folder << textSource().languages << task;
     (out << ... << arguments);
-    const Result<QByteArray> answer = askHelper(task, request, job);
+    return request;
+}
+
+// What an answer about `where` says.
+template <typename Value>
+Result<Value> decodedAnswer(const Result<QByteArray> &answer, const QString &where)
+{
     if (!answer)
         return answer.error();
-
     QDataStream in(answer.value());
     bool succeeded = false;
     in >> succeeded;
@@ -75,7 +99,23 @@ Result<Value> ask(Task task, const HelperJob &job, const Arguments &...arguments
         in >> error;
         result = error;
     }
-    return in.status() == QDataStream::Ok && in.atEnd() ? result : senselessAnswer(job.where);
+    return in.status() == QDataStream::Ok && in.atEnd() ? result : senselessAnswer(where);
+}
+
+// Asks for `task`. Blocks: for worker threads.
+template <typename Value, typename... Arguments>
+Result<Value> ask(Task task, const HelperJob &job, const Arguments &...arguments)
+{
+    return decodedAnswer<Value>(askHelper(task, helperRequest(task, arguments...), job), job.where);
+}
+
+// The same of a helper that runs.
+template <typename Value, typename... Arguments>
+Result<Value> ask(RunningHelper &helper, RunningHelper::Request which, Task task,
+                  const HelperJob &job, const Arguments &...arguments)
+{
+    return decodedAnswer<Value>(helper.ask(helperRequest(task, arguments...), which, job),
+                                job.where);
 }
 
 } // namespace kelvo

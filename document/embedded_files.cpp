@@ -12,14 +12,19 @@ Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
                                  const QString &target)
 {
     const QString folder = QFileInfo(target).path();
+    // Another process, and other code: what was overlooked once must not be again. It is started
+    // first, and loads what it needs while the other one works.
+    Result<RunningHelper> checker = RunningHelper::start(DocumentHelper::Pages, {target, folder});
+    if (!checker)
+        return checker.error();
     if (Result<void> made = ask<void>(Task::ReplaceEmbeddedFile, {source, folder}, source, name,
                                       mimeType, bytes, target);
         !made) {
         return made;
     }
-    // Another process, and other code: what was overlooked once must not be again.
     Result<void> checked =
-        ask<void>(Task::CheckEmbeddedFile, {target, folder}, target, name, bytes);
+        ask<void>(checker.value(), RunningHelper::Request::Last, Task::CheckEmbeddedFile,
+                  {target, folder}, target, name, bytes);
     if (!checked)
         QFile::remove(target);
     return checked;

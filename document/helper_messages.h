@@ -5,21 +5,29 @@
 #include "pdf_pages.h"
 #include "picture_import.h"
 #include "result.h"
+#include "size_limits.h"
 
 #include <QDataStream>
 #include <QSize>
 
 #include <vector>
 
-// What the program asks of its document helpers, and how they answer: one request
-// on standard input, one answer on standard output. Both sides are of one version
-// (see document_helper.h), so the format is nobody else's business.
+// What the program asks of its document helpers, and how they answer: requests on standard
+// input, an answer to each on standard output. Both sides are of one version (see
+// document_helper.h), so the format is nobody else's business.
 namespace kelvo {
 
+// Before each request and answer: how many bytes it has.
+using MessageSize = quint64;
+inline constexpr MessageSize kMostAnswered = 256 * limits::MiB; // the sizes of 16 million pages
+
 // A request begins with the tables that the program speaks by (textSource()) and the task;
-// then come the arguments of the function.
+// then come the arguments of the function. A helper has opened its files with its first
+// request, and can open no others: only WritePdf comes after another one.
 enum class Task : quint8 {
     TidyPdf,             // source, target → PdfPages, whether `source` is good as it is
+    TidyPdfToWrite,      // source, target, written, name → the same; a sound one is kept
+    WritePdf,            // type, bytes: the one that was kept into `written`
     SelectPdfPages,      // source, runs, target
     ReplaceEmbeddedFile, // source, name, type, bytes, target
     CheckEmbeddedFile,   // pdf, name, bytes
@@ -126,22 +134,19 @@ QDataStream &operator<<(QDataStream &stream, const Result<Value> &result)
 
 // ---- the helper that draws, which is asked again and again
 
-// What it is asked for: the picture of a page, or with number 0 to stop drawing.
-// The PDF is an argument of the program.
+// What it is asked for: the picture of a page. The PDF is an argument of the program.
 struct DrawingRequest
 {
-    quint32 number = 0;
     qint32 page = 0;              // from 1
     qint32 width = 0, height = 0; // pixels to fit it into
     qint32 isOnPaper = 1;         // 0: what the page leaves free is transparent
 };
 
 // Its answer: so many pixels follow, rows without gaps, QImage::Format_RGB32, or
-// Format_ARGB32_Premultiplied without paper; none of a page that it cannot draw or was
-// told to leave.
+// Format_ARGB32_Premultiplied without paper; none of a page that it cannot draw. It listens
+// for nothing while it draws: who wants another page ends it.
 struct DrawingAnswer
 {
-    quint32 number = 0;
     qint32 width = 0, height = 0;
 };
 

@@ -13,14 +13,10 @@ namespace kelvo {
 namespace {
 
 constexpr int pollMs = 10;
-constexpr int leaveMs = 500; // for a page that is no longer wanted to be left
 
-template <typename Record>
-void send(QProcess &process, const Record &record)
-{
-    process.write(reinterpret_cast<const char *>(&record), sizeof record);
-    process.waitForBytesWritten(pollMs);
-}
+// What a page that nobody wants any more may take from its beginning on. A new process and its
+// first page take about as long, so that pages that are drawn quickly do not cost one.
+constexpr int leaveMs = 50;
 
 } // namespace
 
@@ -49,7 +45,6 @@ bool PageDrawing::start()
     prepareChild(*m_process, child.value());
     m_process->setStandardErrorFile(QProcess::nullDevice());
     m_process->start();
-    m_owed = 0;
     if (m_process->waitForStarted(-1))
         return true;
     m_process.reset();
@@ -65,35 +60,30 @@ void PageDrawing::stop()
     m_process.reset();
 }
 
-// Takes the answers that are there as a whole; true with the one for `number`.
-bool PageDrawing::readAnswer(quint32 number, PagePaper paper, QImage &image)
+// Takes the answer when it is there as a whole; whether it was.
+bool PageDrawing::readAnswer(PagePaper paper, QImage &image)
 {
     DrawingAnswer answer;
     const auto header = qint64(sizeof answer);
-    while (m_process->peek(reinterpret_cast<char *>(&answer), header) == header) {
-        const QSize size(answer.width, answer.height);
-        const auto isSide = [](int pixels) { return pixels >= 0 && pixels <= limits::drawnSide; };
-        if (!isSide(answer.width) || !isSide(answer.height)) {
-            stop();
-            return false;
-        }
-        const qint64 bytes = qint64(size.width()) * size.height() * 4;
-        if (m_process->bytesAvailable() < header + bytes)
-            return false;
-        m_process->skip(header);
-        --m_owed;
-        if (answer.number != number) {
-            m_process->skip(bytes);
-            continue;
-        }
-        image = QImage(size,
-                       paper == PagePaper::White ? QImage::Format_RGB32
-                                                 : QImage::Format_ARGB32_Premultiplied);
-        if (!image.isNull())
-            m_process->read(reinterpret_cast<char *>(image.bits()), bytes);
-        return true;
+    if (m_process->peek(reinterpret_cast<char *>(&answer), header) < header)
+        return false;
+    const auto isSide = [](int pixels) { return pixels >= 0 && pixels <= limits::drawnSide; };
+    if (!isSide(answer.width) || !isSide(answer.height)) {
+        stop();
+        return false;
     }
-    return false;
+    const qint64 bytes = qint64(answer.width) * answer.height * 4;
+    if (m_process->bytesAvailable() < header + bytes)
+        return false;
+    m_process->skip(header);
+    image = QImage(answer.width, answer.height,
+                   paper == PagePaper::White ? QImage::Format_RGB32
+                                             : QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        m_process->skip(bytes);
+    else
+        m_process->read(reinterpret_cast<char *>(image.bits()), bytes);
+    return true;
 }
 
 PageProblem PageDrawing::problemOfEnd() const
@@ -119,28 +109,20 @@ DrawnPage PageDrawing::draw(int page, const QSize &pixels, const std::function<b
 
     if (!start())
         return {{}, PageProblem::NotDrawable};
-    const DrawingRequest request{++m_number, page, pixels.width(), pixels.height(),
-                                 paper == PagePaper::White};
-    send(*m_process, request);
-    ++m_owed;
+    const DrawingRequest request{page, pixels.width(), pixels.height(), paper == PagePaper::White};
+    m_process->write(reinterpret_cast<const char *>(&request), sizeof request);
     QElapsedTimer timer;
     timer.start();
     QImage image;
-    while (!readAnswer(request.number, paper, image)) {
+    while (!readAnswer(paper, image)) {
         if (!m_process)
             return failed(PageProblem::NotDrawable);
-        const bool hasEnded = m_process->state() == QProcess::NotRunning;
-        if (isAbandoned()) {
-            send(*m_process, DrawingRequest{});
+        if (m_process->state() == QProcess::NotRunning)
+            return failed(problemOfEnd());
+        if (timer.hasExpired(leaveMs) && isAbandoned()) {
+            stop();
             return {};
         }
-        // At an older page it has crashed, or does not listen: a new one starts afresh.
-        if (m_owed > 1 && (hasEnded || timer.hasExpired(leaveMs))) {
-            stop();
-            return draw(page, pixels, isAbandoned, paper);
-        }
-        if (hasEnded)
-            return failed(problemOfEnd());
         if (timer.hasExpired(limits::drawingSeconds * 1000))
             return failed(PageProblem::TooSlow);
         m_process->waitForReadyRead(pollMs);

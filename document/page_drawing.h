@@ -33,8 +33,8 @@ struct DrawnPage
 };
 
 // The pages of one PDF, drawn by a child process that is started with the first page and
-// stays for the next ones. A page that brings it down is not tried again. For one
-// thread; the child ends with it.
+// stays for the next ones, unless a page is abandoned that takes long. A page that brings it
+// down is not tried again. For one thread; the child ends with it.
 class PageDrawing
 {
 public:
@@ -42,20 +42,19 @@ public:
     ~PageDrawing();
 
     // `page` from 1, fitted into `pixels`. Waits until it is drawn, or `isAbandoned`
-    // says that nobody wants it: it is asked a hundred times a second.
+    // says that nobody wants it: it is asked a hundred times a second, and the picture comes
+    // all the same where it is near.
     DrawnPage draw(int page, const QSize &pixels, const std::function<bool()> &isAbandoned,
                    PagePaper paper = PagePaper::White);
 
 private:
     bool start();
     void stop();
-    bool readAnswer(quint32 number, PagePaper paper, QImage &image);
+    bool readAnswer(PagePaper paper, QImage &image);
     PageProblem problemOfEnd() const;
 
     QString m_pdfPath;
     std::unique_ptr<QProcess> m_process; // null: not started, or ended
-    quint32 m_number = 0;                // of the last request
-    int m_owed = 0;                      // answers that have not come yet
     QHash<int, PageProblem> m_problems;
 };
 

@@ -11,17 +11,22 @@
 
 namespace kelvo {
 
-Result<PdfPages> tidyPdf(const QString &source, const QString &target,
-                         const std::atomic_bool &cancelled)
+Result<PdfPages> takenWhereSound(Result<PdfPages> pages, const QString &source,
+                                 const QString &target)
 {
-    const HelperJob job{source, QFileInfo(target).path(), &cancelled};
-    Result<PdfPages> pages = ask<PdfPages>(Task::TidyPdf, job, source, target);
     if (pages && pages.value().isSound
         && std::rename(QFile::encodeName(source).constData(), QFile::encodeName(target).constData())
             != 0) {
         return notWritable(target, errno);
     }
     return pages;
+}
+
+Result<PdfPages> tidyPdf(const QString &source, const QString &target,
+                         const std::atomic_bool &cancelled)
+{
+    const HelperJob job{source, QFileInfo(target).path(), &cancelled};
+    return takenWhereSound(ask<PdfPages>(Task::TidyPdf, job, source, target), source, target);
 }
 
 Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,

@@ -28,6 +28,10 @@ struct PdfPages
 Result<PdfPages> tidyPdf(const QString &source, const QString &target,
                          const std::atomic_bool &cancelled);
 
+// What a helper has found, with the file moved to `target` where it is sound.
+Result<PdfPages> takenWhereSound(Result<PdfPages> pages, const QString &source,
+                                 const QString &target);
+
 // A PDF at `target` of the pages that `runs` name, in their order. What belongs
 // to the other pages alone is not in it.
 Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,

@@ -313,16 +313,25 @@ Result<StagedFile> StagedFile::write(const QString &path, const Writer &writer)
         return systemError(Code::NotWritable, path, temporary.error().number);
     staged.m_path = path;
     staged.m_temporary = std::move(temporary).value();
-    // The lock outlives the closing that shows whether all was written.
-    Descriptor fd(::fcntl(staged.m_temporary.fd(), F_DUPFD_CLOEXEC, 0));
-    if (!fd)
-        return systemError(Code::NotWritable, path);
-    const Result<qint64> size = writer(fd.get());
+    const int fd = staged.m_temporary.fd();
+    const Result<qint64> size = writer(fd);
     if (!size)
         return size.error();
-    if (size.value() < 0 || !syncAndClose(fd, size.value()))
+    if (size.value() < 0)
         return systemError(Code::NotWritable, path);
+    staged.m_size = size.value();
+    // The disk begins now, and is waited for in settle().
+    static_cast<void>(::sync_file_range(fd, 0, 0, SYNC_FILE_RANGE_WRITE));
     return staged;
+}
+
+Result<void> StagedFile::settle()
+{
+    // The lock outlives the closing that shows whether all was written.
+    Descriptor fd(::fcntl(m_temporary.fd(), F_DUPFD_CLOEXEC, 0));
+    if (!fd || !syncAndClose(fd, m_size))
+        return systemError(Code::NotWritable, m_path);
+    return {};
 }
 
 Result<StagedFile> StagedFile::withBytes(const QString &path, const QByteArray &bytes)
@@ -361,6 +370,7 @@ Result<StagedFile> StagedFile::withCopy(const QString &path, const QString &sour
 StagedFile::StagedFile(StagedFile &&other) noexcept
     : m_path(std::move(other.m_path))
     , m_temporary(std::move(other.m_temporary))
+    , m_size(other.m_size)
 {
 }
 
@@ -370,13 +380,27 @@ StagedFile::~StagedFile()
         ::unlink(m_temporary.path().constData());
 }
 
-Result<void> StagedFile::place()
+Result<void> StagedFile::place(std::span<StagedFile> files)
 {
-    if (::rename(m_temporary.path().constData(), fileNameBytes(m_path).constData()) != 0)
-        return systemError(Code::NotWritable, m_path);
-    m_temporary = {};
-    syncFolder(folderOf(m_path));
-    return {};
+    for (StagedFile &file : files) {
+        if (auto settled = file.settle(); !settled)
+            return settled;
+    }
+    QStringList folders;
+    Result<void> placed;
+    for (StagedFile &file : files) {
+        if (::rename(file.m_temporary.path().constData(), fileNameBytes(file.m_path).constData())
+            != 0) {
+            placed = systemError(Code::NotWritable, file.m_path);
+            break;
+        }
+        file.m_temporary = {};
+        if (const QString folder = folderOf(file.m_path); !folders.contains(folder))
+            folders.append(folder);
+    }
+    for (const QString &folder : std::as_const(folders))
+        syncFolder(folder);
+    return placed;
 }
 
 Result<void> replaceFile(const QString &path, const QByteArray &bytes)

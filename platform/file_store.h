@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 
 // The only code that changes files that users own. Two dialogs at once lose
 // nothing; a crash, a kill or a full disk leaves the old file or the new one.
@@ -50,7 +51,8 @@ Result<void> replaceFile(const QString &path, const QByteArray &bytes);
 
 // A file that is written, as replaceFile() writes it, and waits to take its
 // place: what belongs together is all on the disk before the first one changes.
-// One that goes without place() leaves nothing behind.
+// One that goes without place() leaves nothing behind. The system may still be writing it:
+// what was lost of it shows in place().
 class StagedFile
 {
 public:
@@ -63,16 +65,22 @@ public:
     StagedFile &operator=(StagedFile &&other) = delete;
     ~StagedFile();
 
-    Result<void> place(); // once
+    // Puts them in their places, in their order; once. All of them are on the disk, with every
+    // write and their sizes checked, before the first one is put there. They are waited for
+    // together: a disk takes as long for one small file as for some.
+    static Result<void> place(std::span<StagedFile> files);
+    Result<void> place() { return place({this, 1}); }
 
 private:
     // How many bytes went into the new file; -1 with `errno` where they could not.
     using Writer = std::function<Result<qint64>(int fd)>;
     static Result<StagedFile> write(const QString &path, const Writer &writer);
     StagedFile() = default;
+    Result<void> settle();
 
     QString m_path;
     HeldPath m_temporary; // without a path: there is none any more
+    qint64 m_size = 0;    // bytes that were written
 };
 
 enum class DamagedStore {

@@ -59,25 +59,33 @@ QByteArray withoutLatin5(const QByteArray &bytes)
     return bytes.first(begin) + " UTF-8" + text.toUtf8();
 }
 
-// Opens the PPD in `file`. libcups reads from a descriptor only, so they are
-// put into a file in memory: what was checked is what is read.
-Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &file, const QString &path)
+// The descriptor of a file in memory with these bytes, at its beginning; -1, with errno,
+// where there is no room.
+int fileInMemory(const QByteArray &bytes)
 {
-    const QByteArray bytes = withoutLatin5(file);
     const int fd = memfd_create("ppd", MFD_CLOEXEC);
-    if (fd < 0)
-        return Error{Code::NotReadable, path, QString::fromUtf8(std::strerror(errno))};
-    for (qsizetype done = 0; done < bytes.size();) {
+    for (qsizetype done = 0; fd >= 0 && done < bytes.size();) {
         const ssize_t count =
             ::write(fd, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
         if (count <= 0 && errno != EINTR) {
-            const QString reason = QString::fromUtf8(std::strerror(errno));
+            const int number = errno;
             ::close(fd);
-            return Error{Code::NotReadable, path, reason};
+            errno = number;
+            return -1;
         }
         done += std::max<ssize_t>(count, 0);
     }
     ::lseek(fd, 0, SEEK_SET);
+    return fd;
+}
+
+// Opens the PPD in `file`. libcups reads from a descriptor only, so they are
+// put into a file in memory: what was checked is what is read.
+Result<std::shared_ptr<ppd_file_t>> openBytes(const QByteArray &file, const QString &path)
+{
+    const int fd = fileInMemory(withoutLatin5(file));
+    if (fd < 0)
+        return Error{Code::NotReadable, path, QString::fromUtf8(std::strerror(errno))};
     ppd_file_t *ppd = ppdOpenFd(fd); // closes fd
     if (!ppd) {
         int line = 0;
@@ -259,11 +267,49 @@ bool mark(ppd_file_t *ppd, const QString &option, const QString &choice)
     return ppdMarkOption(ppd, keyword.constData(), value.constData()) != 0;
 }
 
-void markSelection(ppd_file_t *ppd, const PpdSelection &selection)
+bool isAny(const char *word, std::initializer_list<const char *> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [word](const char *other) { return qstricmp(word, other) == 0; });
+}
+
+// Names of the printing protocol, which cupsMarkOptions() takes for other options.
+bool isOfProtocol(const QByteArray &option)
+{
+    return isAny(option.constData(),
+                 {"media", "output-bin", "output-mode", "print-quality", "sides", "resolution",
+                  "printer-resolution", "multiple-document-handling", "finishings",
+                  "finishing-template", "print-color-mode", "APPrinterPreset", "mirror"});
+}
+
+// Whether the choices are in conflict. To mark one option looks through all rules, so that those
+// that can be are marked together.
+bool markSelection(ppd_file_t *ppd, const PpdSelection &selection)
 {
     ppdMarkDefaults(ppd);
-    for (auto choice = selection.cbegin(); choice != selection.cend(); ++choice)
-        mark(ppd, choice.key(), choice.value());
+    std::vector<std::pair<QByteArray, QByteArray>> together;
+    const auto markTogether = [ppd, &together] {
+        std::vector<cups_option_t> options;
+        for (auto &[option, choice] : together)
+            options.push_back({option.data(), choice.data()});
+        const bool isInConflict =
+            cupsMarkOptions(ppd, static_cast<int>(options.size()), options.data()) != 0;
+        together.clear();
+        return isInConflict;
+    };
+    for (auto choice = selection.cbegin(); choice != selection.cend(); ++choice) {
+        QByteArray keyword = choice.key().toUtf8();
+        QByteArray value = choice.value().toUtf8();
+        if (!isOffered(ppd, keyword, value))
+            continue;
+        if (!isOfProtocol(keyword)) {
+            together.emplace_back(std::move(keyword), std::move(value));
+            continue;
+        }
+        markTogether(); // what is marked later counts, where one option takes another's mark
+        ppdMarkOption(ppd, keyword.constData(), value.constData());
+    }
+    return together.empty() ? ppdConflicts(ppd) != 0 : markTogether();
 }
 
 // One part of a rule: an option at a choice, or anywhere but off.
@@ -274,12 +320,6 @@ struct Term
 };
 
 using Constraint = std::vector<Term>; // a conflict when every part holds
-
-bool isAny(const char *word, std::initializer_list<const char *> words)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [word](const char *other) { return qstricmp(word, other) == 0; });
-}
 
 // Adds "option choice" to `constraint`; false when the PPD has no such thing. The
 // custom choice of an option is written "*CustomOption True".
@@ -391,8 +431,16 @@ public:
 
 struct PpdFile::Private
 {
-    QString path;
+    ~Private()
+    {
+        if (copy >= 0)
+            ::close(copy);
+    }
+
+    QString name; // in errors
+    QString path; // empty: it was not read from a file
     QByteArray bytes;
+    int copy = -1; // of `bytes`, for who asks for a path
     std::shared_ptr<ppd_file_t> ppd;
     // The same file again, for marks of its own, with its rules and its options
     // in their order. Opened when first asked for.
@@ -409,7 +457,7 @@ struct PpdFile::Private
     ppd_file_t *constraintMarks()
     {
         if (!constraints) {
-            const auto opened = openBytes(bytes, path);
+            const auto opened = openBytes(withoutTranslations(bytes), name);
             if (!opened)
                 return nullptr;
             constraints = opened.value();
@@ -448,30 +496,33 @@ Result<std::shared_ptr<PpdFile>> PpdFile::open(const QString &path)
     auto bytes = readFile(path, limits::ppdBytes);
     if (!bytes)
         return bytes.error();
-    return fromBytes(std::move(bytes).value(), path);
+    auto file = fromBytes(std::move(bytes).value(), path);
+    if (file)
+        file.value()->d->path = path;
+    return file;
 }
 
-Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, const QString &path)
+Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, const QString &name)
 {
     if (bytes.size() > limits::ppdBytes)
-        return Error{Code::TooLarge, path,
+        return Error{Code::TooLarge, name,
                      translate("Device", "more than %1 bytes").arg(limits::ppdBytes)};
     // libcups would unpack it, to any size.
     if (bytes.startsWith("\x1f\x8b"))
-        return Error{Code::Unsupported, path,
+        return Error{Code::Unsupported, name,
                      translate("Device", "compressed; unpack it with gunzip first")};
     const QByteArray read = withoutTranslations(bytes);
-    if (auto excess = findExcess(read, path))
+    if (auto excess = findExcess(read, name))
         return *excess;
-    auto opened = openBytes(read, path);
+    auto opened = openBytes(read, name);
     if (!opened)
         return opened.error();
-    if (auto cut = findCut(read, path))
+    if (auto cut = findCut(read, name))
         return *cut;
 
     std::shared_ptr<PpdFile> file(new PpdFile);
     Private &d = *file->d;
-    d.path = path;
+    d.name = name;
     d.bytes = bytes;
     d.ppd = opened.value();
     ppdMarkDefaults(d.ppd.get());
@@ -493,9 +544,13 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     return file;
 }
 
-const QString &PpdFile::path() const
+QString PpdFile::path() const
 {
-    return d->path;
+    if (!d->path.isEmpty())
+        return d->path;
+    if (d->copy < 0)
+        d->copy = fileInMemory(d->bytes);
+    return d->copy < 0 ? QString() : QStringLiteral("/proc/self/fd/%1").arg(d->copy);
 }
 
 QString PpdFile::manufacturer() const
@@ -604,8 +659,7 @@ std::vector<PpdConflict> PpdFile::conflicts(const PpdSelection &selection)
     ppd_file_t *ppd = d->constraintMarks();
     if (!ppd)
         return {};
-    markSelection(ppd, selection);
-    if (ppdConflicts(ppd) == 0)
+    if (!markSelection(ppd, selection))
         return {};
 
     // libcups tells which options are in any conflict, but not which of them in
@@ -644,8 +698,7 @@ std::optional<PpdSelection> PpdFile::resolve(const PpdSelection &selection, cons
     ppd_file_t *ppd = d->constraintMarks();
     if (!ppd)
         return std::nullopt;
-    markSelection(ppd, selection);
-    if (ppdConflicts(ppd) == 0)
+    if (!markSelection(ppd, selection))
         return PpdSelection();
 
     const QByteArray kept = keep.toUtf8();

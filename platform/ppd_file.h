@@ -69,13 +69,16 @@ public:
     // Reads a regular file of at most limits::ppdBytes. NotFound, TooLarge,
     // Unsupported for a compressed one, or Damaged with libcups' reason and line.
     static Result<std::shared_ptr<PpdFile>> open(const QString &path);
-    // The same from bytes that are already here; `path` names them in errors.
-    static Result<std::shared_ptr<PpdFile>> fromBytes(const QByteArray &bytes, const QString &path);
+    // The same from bytes that are already here; `name` is theirs in errors. On any thread;
+    // what comes out is for one thread at a time.
+    static Result<std::shared_ptr<PpdFile>> fromBytes(const QByteArray &bytes, const QString &name);
     ~PpdFile();
     PpdFile(const PpdFile &) = delete;
     PpdFile &operator=(const PpdFile &) = delete;
 
-    const QString &path() const;
+    // Where others open it: the file that it was read from, or one in the memory of this process
+    // that is there as long as this object. Empty where there is no room for that.
+    QString path() const;
     QString manufacturer() const;     // empty when missing
     QString modelName() const;        // the nickname where there is one
     QString languageEncoding() const; // lang_encoding as libcups gives it; empty when missing

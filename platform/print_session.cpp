@@ -1,5 +1,7 @@
 #include "print_session.h"
 
+#include "ppd_file.h"
+
 #include <QHash>
 #include <QUrl>
 
@@ -112,9 +114,12 @@ OSStatus PMPrinterGetDescriptionURL(PMPrinter printer, const QString &type, QStr
 {
     if (!printer || !url)
         return paramErr;
-    if (type != kPMPPDDescriptionType || printer->ppdPath.isEmpty())
+    if (type != kPMPPDDescriptionType)
         return kPMKeyNotFound;
-    *url = QUrl::fromLocalFile(printer->ppdPath).toString(QUrl::FullyEncoded);
+    const QString path = printer->ppd ? printer->ppd->path() : printer->ppdPath;
+    if (path.isEmpty())
+        return kPMKeyNotFound;
+    *url = QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
     return noErr;
 }
 

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <memory>
 #include <utility>
 
 // One print dialog's session: the printer and the tickets. A ticket handle is a
@@ -13,11 +14,16 @@
 // the session's table (from 1) in the lower. It dies with the session.
 namespace kelvo {
 
+class PpdFile;
+
 // What a session knows of its printer.
 struct SessionPrinter
 {
     QString name;    // the queue, or the device's name where there is none
-    QString ppdPath; // a local file; empty when there is no PPD
+    QString ppdPath; // a local file; empty when there is no PPD, or `ppd` has it
+    // The PPD where the host has it open: it was read once, and is there for all who ask on the
+    // GUI thread. Its marks are the bundle's alone.
+    std::shared_ptr<PpdFile> ppd = nullptr;
 };
 
 // A page of the job's document, for what is shown over it. The file is the host's and stays

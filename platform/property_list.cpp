@@ -1,5 +1,6 @@
 #include "property_list.h"
 
+#include "base64.h"
 #include "file_store.h"
 #include "size_limits.h"
 #include "texts.h"
@@ -10,7 +11,7 @@
 
 #include <expat.h>
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -24,6 +25,9 @@ namespace kelvo {
 namespace {
 
 using Code = Error::Code;
+
+constexpr qsizetype kShownText = 60;         // bytes of a text that is wrong
+constexpr std::size_t kLeastPassedBy = 4096; // bytes of base64 that expat need not see
 
 // The elements of a property list. Root is the list itself; it and the two
 // containers hold values, the rest hold text or nothing.
@@ -137,66 +141,6 @@ std::optional<QDateTime> dateFrom(std::string_view text)
     return QDateTime(date, time, Qt::UTC);
 }
 
-// What each byte stands for in base64: six bits, or one of these.
-constexpr std::uint8_t notBase64 = 0x80, base64Space = 0x81;
-constexpr auto base64Bits = [] {
-    std::array<std::uint8_t, 256> bits{};
-    bits.fill(notBase64);
-    constexpr std::string_view digits =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    for (std::size_t i = 0; i < digits.size(); ++i)
-        bits[static_cast<std::uint8_t>(digits[i])] = static_cast<std::uint8_t>(i);
-    for (const char space : {' ', '\t', '\n', '\r'})
-        bits[static_cast<std::uint8_t>(space)] = base64Space;
-    return bits;
-}();
-
-// Padded base64 with white space anywhere. Groups without their padding are
-// refused: a file that was cut off must not be taken. Qt's decoder needs the
-// spaces taken out first and several times as long; cached fonts are megabytes.
-std::optional<QByteArray> dataFrom(std::string_view text)
-{
-    QByteArray decoded;
-    decoded.resize(static_cast<qsizetype>(text.size() / 4 * 3) + 3);
-    char *out = decoded.data();
-    std::uint32_t group = 0;
-    int held = 0; // digits in `group`
-    std::size_t at = 0;
-    for (; at < text.size(); ++at) {
-        const std::uint8_t bits = base64Bits[static_cast<std::uint8_t>(text[at])];
-        if (bits == base64Space)
-            continue;
-        if (bits == notBase64)
-            break;
-        group = group << 6 | bits;
-        if (++held == 4) {
-            *out++ = static_cast<char>(group >> 16);
-            *out++ = static_cast<char>(group >> 8);
-            *out++ = static_cast<char>(group);
-            held = 0;
-        }
-    }
-    if (held != 0) {
-        int padding = 0;
-        for (; at < text.size(); ++at) {
-            if (text[at] == '=')
-                ++padding;
-            else if (!isSpace(text[at]))
-                break;
-        }
-        if (held < 2 || held + padding != 4)
-            return std::nullopt;
-        group <<= 6 * padding;
-        *out++ = static_cast<char>(group >> 16);
-        if (held == 3)
-            *out++ = static_cast<char>(group >> 8);
-    }
-    if (at != text.size())
-        return std::nullopt;
-    decoded.truncate(out - decoded.constData());
-    return decoded;
-}
-
 // Dictionary keys, shared: long lists repeat a few keys in every entry. What is
 // kept is bounded, so that a list of distinct keys does not stand in memory twice.
 class KeyCache
@@ -241,6 +185,8 @@ private:
         bool hasKey = false;
     };
 
+    bool feed(std::string_view xml);
+    bool passBy(std::string_view base64, std::size_t at);
     void begin(std::string_view name);
     void end();
     void text(std::string_view part);
@@ -253,7 +199,11 @@ private:
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> m_expat;
     std::vector<Frame> m_frames;
     std::optional<Element> m_leaf; // the element whose text is being collected
-    QByteArray m_text;
+    QByteArray m_text;             // of data, what an error would show
+    Base64Reader m_data;
+    XML_Index m_dataBegin = -1; // where the content of the last <data> begins, as expat counts
+    std::size_t m_passedBy = 0; // bytes that expat has not been given, and lines
+    quint64 m_linesPassedBy = 0;
     KeyCache m_keys;
     qint64 m_nodes = 0;
     std::optional<QVariant> m_list;
@@ -266,7 +216,7 @@ void Parser::fail(Code code, const QString &detail)
     if (m_error)
         return;
     m_error = Error{code, {}, detail};
-    m_errorLine = XML_GetCurrentLineNumber(m_expat.get());
+    m_errorLine = XML_GetCurrentLineNumber(m_expat.get()) + m_linesPassedBy;
     XML_StopParser(m_expat.get(), XML_FALSE);
 }
 
@@ -306,6 +256,9 @@ void Parser::begin(std::string_view name)
     if (!isContainer(*element)) {
         m_leaf = *element;
         m_text.resize(0); // keeps its memory
+        if (*element == Element::Data)
+            m_dataBegin =
+                XML_GetCurrentByteIndex(m_expat.get()) + XML_GetCurrentByteCount(m_expat.get());
         return;
     }
     if (m_frames.size() > static_cast<std::size_t>(limits::plistDepth)) // one is <plist>
@@ -343,6 +296,11 @@ void Parser::text(std::string_view part)
 {
     if (m_error)
         return;
+    if (m_leaf == Element::Data) {
+        m_data.add(part);
+        part = part.substr(
+            0, static_cast<std::size_t>(kShownText - std::min(m_text.size(), kShownText)));
+    }
     if (m_leaf) {
         m_text.append(part.data(), static_cast<qsizetype>(part.size()));
         return;
@@ -355,7 +313,7 @@ void Parser::finishText(Element element)
 {
     const std::string_view whole(m_text.constData(), static_cast<std::size_t>(m_text.size()));
     const auto refuse = [this](Code code, const QString &why) {
-        fail(code, why.arg(QString::fromUtf8(m_text.left(60)).trimmed()));
+        fail(code, why.arg(QString::fromUtf8(m_text.left(kShownText)).trimmed()));
     };
     switch (element) {
     case Element::Key:
@@ -378,7 +336,7 @@ void Parser::finishText(Element element)
         return refuse(Code::Damaged,
                       translate("Files", "“%1” is no date of the form 2024-01-31T12:00:00Z"));
     case Element::Data:
-        if (auto data = dataFrom(whole))
+        if (auto data = m_data.take())
             return add(*std::move(data));
         return refuse(Code::Damaged, translate("Files", "“%1” is no base64"));
     case Element::True:
@@ -416,6 +374,48 @@ void Parser::add(QVariant value)
     }
 }
 
+// Gives all of `xml` to expat but for large base64, which is nearly all of a store: expat looks at
+// each byte twice, and all of it would be copied in between. False where expat gives up.
+bool Parser::feed(std::string_view xml)
+{
+    constexpr std::string_view tag = "<data>";
+    std::size_t given = 0;
+    const auto give = [&](std::size_t end, bool isLast) {
+        const std::size_t begin = std::exchange(given, end);
+        return XML_Parse(m_expat.get(), xml.data() + begin, static_cast<int>(end - begin), isLast)
+            == XML_STATUS_OK;
+    };
+    for (std::size_t at = xml.find(tag); at != xml.npos; at = xml.find(tag, at)) {
+        at += tag.size();
+        const std::size_t end = std::min(xml.find('<', at), xml.size());
+        if (end - at >= kLeastPassedBy) {
+            if (!give(at, false))
+                return false;
+            if (passBy(xml.substr(at, end - at), at))
+                given = end;
+        }
+        at = end;
+    }
+    return give(xml.size(), true);
+}
+
+// Whether `base64`, which stands at `at`, is the content of a <data> that expat has just seen begin
+// there (it may be part of a comment), has no other characters, and is taken.
+bool Parser::passBy(std::string_view base64, std::size_t at)
+{
+    if (m_leaf != Element::Data || m_dataBegin != static_cast<XML_Index>(at - m_passedBy))
+        return false;
+    m_data.add(base64);
+    if (m_data.isBad()) {
+        static_cast<void>(m_data.take());
+        return false;
+    }
+    m_text = QByteArray(base64.data(), kShownText);
+    m_passedBy += base64.size();
+    m_linesPassedBy += static_cast<quint64>(std::ranges::count(base64, '\n'));
+    return true;
+}
+
 Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
 {
     XML_Parser expat = m_expat.get();
@@ -443,8 +443,8 @@ Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
             translate("Files", "uses the unknown entity “%1”").arg(QString::fromUtf8(entity)));
     });
 
-    const XML_Status status = XML_Parse(expat, xml.constData(), static_cast<int>(xml.size()), 1);
-    if (!m_error && status == XML_STATUS_OK && m_list)
+    const bool isRead = feed({xml.constData(), static_cast<std::size_t>(xml.size())});
+    if (!m_error && isRead && m_list)
         return *std::move(m_list);
     if (!m_error) {
         const char *reason = XML_ErrorString(XML_GetErrorCode(expat));

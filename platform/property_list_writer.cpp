@@ -1,5 +1,6 @@
 #include "property_list.h"
 
+#include "base64.h"
 #include "characters.h"
 #include "size_limits.h"
 #include "texts.h"
@@ -247,9 +248,9 @@ bool Writer::value(const QVariant &variant, int depth, const Step *path)
     case QMetaType::Float: // as a double, so that the value stays what it is
         return real(static_cast<double>(*static_cast<const float *>(stored)), path);
     case QMetaType::QByteArray:
-        m_out.append("<data>")
-            .append(static_cast<const QByteArray *>(stored)->toBase64())
-            .append("</data>\n");
+        m_out.append("<data>");
+        appendBase64(m_out, *static_cast<const QByteArray *>(stored));
+        m_out.append("</data>\n");
         return true;
     case QMetaType::QDateTime:
         return date(*static_cast<const QDateTime *>(stored), path);

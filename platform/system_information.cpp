@@ -10,14 +10,17 @@
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>
+#include <linux/rtnetlink.h>
 #include <net/if.h>
 #include <netinet/in.h>
 #include <pwd.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace kelvo {
@@ -49,9 +52,7 @@ std::optional<QString> nameOf(uid_t user)
     return name ? std::optional(QString::fromUtf8(*name)) : std::nullopt;
 }
 
-} // namespace
-
-std::optional<QString> consoleUser()
+std::optional<QString> findConsoleUser()
 {
     // The owner of the session or user service that started this process: it
     // stays the person at the desk where the program runs under sudo.
@@ -61,6 +62,85 @@ std::optional<QString> consoleUser()
             return name;
     }
     return nameOf(geteuid());
+}
+
+// What the kernel tells of changed links, addresses and routes.
+class NetworkNews
+{
+public:
+    NetworkNews()
+        : m_socket(::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE))
+    {
+        sockaddr_nl groups{};
+        groups.nl_family = AF_NETLINK;
+        groups.nl_groups = RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV4_ROUTE;
+        m_isTold = m_socket >= 0
+            && ::bind(m_socket, reinterpret_cast<const sockaddr *>(&groups), sizeof groups) == 0;
+    }
+    ~NetworkNews()
+    {
+        if (m_socket >= 0)
+            ::close(m_socket);
+    }
+    NetworkNews(const NetworkNews &) = delete;
+    NetworkNews &operator=(const NetworkNews &) = delete;
+
+    // Whether there is any since the last call; true also where the kernel tells none.
+    bool take()
+    {
+        bool isAny = !m_isTold;
+        char rest = 0; // that something came is all there is to know
+        while (m_isTold) {
+            if (::recv(m_socket, &rest, sizeof rest, MSG_TRUNC) >= 0 || errno == ENOBUFS) {
+                isAny = true;
+            } else if (errno != EINTR) {
+                m_isTold = errno == EAGAIN || errno == EWOULDBLOCK;
+                return isAny || !m_isTold;
+            }
+        }
+        return isAny;
+    }
+
+private:
+    int m_socket;
+    bool m_isTold = false;
+};
+
+std::optional<QString> findPrimaryIPv4Address()
+{
+    const auto table = readFile(QStringLiteral("/proc/net/route"), limits::MiB);
+    if (!table)
+        return std::nullopt;
+    const auto interface = defaultRouteInterface(table.value());
+    if (!interface)
+        return std::nullopt;
+
+    ifaddrs *first = nullptr;
+    if (getifaddrs(&first) != 0)
+        return std::nullopt;
+    const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> addresses(first, &freeifaddrs);
+    for (const ifaddrs *address = first; address; address = address->ifa_next) {
+        if (!address->ifa_addr || address->ifa_addr->sa_family != AF_INET
+            || *interface != address->ifa_name)
+            continue;
+        std::array<char, INET_ADDRSTRLEN> text{};
+        const auto *ip = reinterpret_cast<const sockaddr_in *>(address->ifa_addr);
+        if (inet_ntop(AF_INET, &ip->sin_addr, text.data(), text.size()))
+            return QString::fromLatin1(text.data());
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<QString> consoleUser()
+{
+    static std::mutex mutex;
+    static std::optional<QString> user;
+    const std::lock_guard lock(mutex);
+    if (!user)
+        user = findConsoleUser();
+    return user;
 }
 
 std::optional<QString> ownersHome()
@@ -114,27 +194,17 @@ QLocale::MeasurementSystem measurementSystem()
 
 std::optional<QString> primaryIPv4Address()
 {
-    const auto table = readFile(QStringLiteral("/proc/net/route"), limits::MiB);
-    if (!table)
-        return std::nullopt;
-    const auto interface = defaultRouteInterface(table.value());
-    if (!interface)
-        return std::nullopt;
-
-    ifaddrs *first = nullptr;
-    if (getifaddrs(&first) != 0)
-        return std::nullopt;
-    const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> addresses(first, &freeifaddrs);
-    for (const ifaddrs *address = first; address; address = address->ifa_next) {
-        if (!address->ifa_addr || address->ifa_addr->sa_family != AF_INET
-            || *interface != address->ifa_name)
-            continue;
-        std::array<char, INET_ADDRSTRLEN> text{};
-        const auto *ip = reinterpret_cast<const sockaddr_in *>(address->ifa_addr);
-        if (inet_ntop(AF_INET, &ip->sin_addr, text.data(), text.size()))
-            return QString::fromLatin1(text.data());
+    static std::mutex mutex;
+    static NetworkNews news;
+    static bool isKnown = false;
+    static std::optional<QString> address;
+    const std::lock_guard lock(mutex);
+    // The news first: what changes while the address is looked up is looked at the next time.
+    if (news.take() || !isKnown) {
+        address = findPrimaryIPv4Address();
+        isKnown = true;
     }
-    return std::nullopt;
+    return address;
 }
 
 } // namespace kelvo

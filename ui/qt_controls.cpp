@@ -46,19 +46,35 @@ private:
     QWidget *m_field;
 };
 
-bool typeInto(QLineEdit *line, const QString &text)
+// What is put into a field at a time, as if `text` were typed. Each letter may be refused on its
+// own, as the keyboard gives them. Where none is, what follows the first comes at once: a field
+// lays out and tells all that stands in it for each letter, which of thousands is millions.
+QStringList typedPieces(const QString &text, bool isTaken)
+{
+    QStringList pieces;
+    for (const char32_t letter : text.toUcs4())
+        pieces << QString::fromUcs4(&letter, 1);
+    if (isTaken && pieces.size() > 2)
+        pieces = {pieces.first(), text.mid(pieces.first().size())};
+    return pieces;
+}
+
+bool typeInto(QLineEdit *line, const std::optional<InputLimits> &limits, const QString &text)
 {
     if (line->isReadOnly())
         return false;
+    QString typed = text;
+    typed.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
+    // A validator is that of the limits, or one that only says yes or no.
+    const bool isTaken = typed.size() <= line->maxLength() && line->inputMask().isEmpty()
+        && (limits ? withinLimits(typed, *limits) == typed : !line->validator());
     const QPointer<QLineEdit> alive = line;
     line->selectAll();
     line->del();
-    // One by one, as the keyboard gives them: each is refused on its own.
-    for (const char32_t c : text.toUcs4()) {
+    for (const QString &piece : typedPieces(typed, isTaken)) {
         if (!alive)
             return false;
-        if (QChar::category(c) != QChar::Other_Control)
-            line->insert(QString::fromUcs4(&c, 1));
+        line->insert(piece);
     }
     return alive && line->text() == text;
 }
@@ -155,7 +171,7 @@ void ComboBoxInterface::keepWithin(const InputLimits &limits)
 
 bool ComboBoxInterface::enter(const QString &text)
 {
-    return widget()->isEditable() && typeInto(widget()->lineEdit(), text);
+    return widget()->isEditable() && typeInto(widget()->lineEdit(), inputLimits(widget()), text);
 }
 
 std::unique_ptr<ControlInterface> interfaceOf(QComboBox *box)
@@ -196,13 +212,16 @@ bool PlainTextInterface::enter(const QString &text)
     QPlainTextEdit *edit = widget();
     if (edit->isReadOnly())
         return false;
+    const std::optional<InputLimits> limits = inputLimits(edit);
+    // One by one the two halves of a line's end are two.
+    const bool isTaken = !text.contains(u'\r') && (!limits || withinLimits(text, *limits) == text);
     const QPointer<QPlainTextEdit> alive = edit;
     edit->selectAll();
     edit->textCursor().removeSelectedText();
-    for (const char32_t c : text.toUcs4()) {
+    for (const QString &piece : typedPieces(text, isTaken)) {
         if (!alive)
             return false;
-        edit->insertPlainText(QString::fromUcs4(&c, 1));
+        edit->insertPlainText(piece);
     }
     return alive && edit->toPlainText() == text;
 }
@@ -283,7 +302,10 @@ public:
     {
         keepTypedWithin(limits, widget(), widget());
     }
-    bool enter(const QString &text) override { return typeInto(widget(), text); }
+    bool enter(const QString &text) override
+    {
+        return typeInto(widget(), inputLimits(widget()), text);
+    }
 
 protected:
     InputLimits limits() const override

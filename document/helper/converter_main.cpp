@@ -29,5 +29,5 @@ int main(int argc, char **argv)
     // Readers chat about every oddity; the program shows what comes out here.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     std::setlocale(LC_CTYPE, ""); // text layout follows the user's language
-    answerRequest(answer);
+    answerRequests(answer);
 }

@@ -4,10 +4,10 @@
 #include "page_picture.h"
 
 #include <QFile>
-#include <QImage>
+#include <QFileInfo>
 
+#include <cstdlib>
 #include <fcntl.h>
-#include <poll.h>
 #include <unistd.h>
 
 using namespace kelvo;
@@ -42,22 +42,11 @@ static bool writeWhole(int fd, const void *data, std::size_t size)
     return true;
 }
 
-// Whoever asks again wants this page no longer; nor does who has gone.
-static bool isAskedAgain(const QVariant &)
+// Where what draws heavy pages lies, and what that needs: it is opened when there is one.
+static QStringList libraryFolders()
 {
-    pollfd input{STDIN_FILENO, POLLIN, 0};
-    return ::poll(&input, 1, 0) > 0;
-}
-
-static QImage draw(Poppler::Document &pdf, const DrawingRequest &request)
-{
-    const std::unique_ptr<Poppler::Page> page = pdf.page(request.page - 1);
-    if (!page)
-        return {};
-    pdf.setRenderHint(Poppler::Document::IgnorePaperColor, !request.isOnPaper);
-    QImage image = pictureOfPage(*page, {request.width, request.height}, isAskedAgain);
-    image.convertTo(request.isOnPaper ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-    return image;
+    return {QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath(), QStringLiteral("/usr/lib"),
+            QStringLiteral("/etc/ld.so.cache")};
 }
 
 int main(int argc, char **argv)
@@ -69,23 +58,15 @@ int main(int argc, char **argv)
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
     // A page is a megabyte and more, and a pipe holds a sixteenth of one.
     ::fcntl(answers, F_SETPIPE_SZ, 1024 * 1024);
-    // It reports every oddity of a document on standard error.
-    Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
     const QString path = QFile::decodeName(argv[2]);
-    confineTo(fontFolders() << path);
+    confineTo(fontFolders() + libraryFolders() << path);
 
-    const std::unique_ptr<Poppler::Document> pdf = Poppler::Document::load(path);
-    if (pdf) {
-        pdf->setRenderHint(Poppler::Document::Antialiasing);
-        pdf->setRenderHint(Poppler::Document::TextAntialiasing);
-        pdf->setPaperColor(Qt::white);
-    }
+    PagePictures pages({path, {}});
     DrawingRequest request;
     while (readWhole(&request, sizeof request)) {
-        if (request.number == 0)
-            continue;
-        const QImage image = pdf ? draw(*pdf, request) : QImage();
-        const DrawingAnswer answer{request.number, image.width(), image.height()};
+        const QImage image =
+            pages.draw(request.page, {request.width, request.height}, request.isOnPaper);
+        const DrawingAnswer answer{image.width(), image.height()};
         // Rows of four-byte pixels have no gaps.
         if (!writeWhole(answers, &answer, sizeof answer)
             || !writeWhole(answers, image.constBits(),

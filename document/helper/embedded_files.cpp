@@ -1,3 +1,4 @@
+#include "kept_pdf.h"
 #include "pdf_file.h"
 #include "tasks.h"
 #include "texts.h"
@@ -127,6 +128,8 @@ public:
     {
         for (const Handle &object : m_objects)
             visitContainers(object, [this](Handle container) { findIn(container); });
+        if (!m_isFound)
+            return; // as in nearly every document
         // Others may hold the very same bytes under another name.
         const auto doomWhere = [this](auto isMeant) {
             for (Handle &object : m_objects) {
@@ -142,6 +145,8 @@ public:
 
     void takeOut()
     {
+        if (!m_isFound)
+            return;
         for (Handle &object : m_objects)
             visitContainers(object, [this](Handle container) { clean(container); });
         for (const QPDFObjGen &stream : m_streams)
@@ -163,6 +168,7 @@ private:
 
     void doom(Handle file)
     {
+        m_isFound = true;
         if (file.isIndirect())
             m_doomed.insert(file.getObjGen());
         for (Handle &stream : streamsOf(file))
@@ -239,6 +245,7 @@ private:
     QPDF &m_pdf;
     QString m_name;
     std::vector<Handle> m_objects;
+    bool m_isFound = false;         // anything of that name
     std::set<QPDFObjGen> m_doomed;  // files and notes
     std::set<QPDFObjGen> m_streams; // what is in the files
 };
@@ -348,6 +355,27 @@ Error leftBehind(const QString &path, const QString &name)
 
 } // namespace
 
+void takeEmbeddedFileOut(QPDF &pdf, const QString &name)
+{
+    FilesOfName(pdf, name).takeOut();
+}
+
+void embedFile(QPDF &pdf, const QString &name, const QByteArray &mimeType, const QByteArray &bytes)
+{
+    std::vector<ListedFile> listed =
+        listedFiles(pdf.getRoot().getKey("/Names").isDictionary()
+                        ? pdf.getRoot().getKey("/Names").getKey("/EmbeddedFiles")
+                        : Handle::newNull());
+    if (!bytes.isNull()) {
+        const std::string key = name.toStdString();
+        auto stream = QPDFEFStreamObjectHelper::createEFStream(pdf, bytes.toStdString());
+        stream.setSubtype(mimeType.toStdString());
+        auto file = QPDFFileSpecObjectHelper::createFileSpec(pdf, key, stream);
+        listed.push_back({key, file.getObjectHandle()});
+    }
+    setListedFiles(pdf, std::move(listed));
+}
+
 Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
                                  const QByteArray &mimeType, const QByteArray &bytes,
                                  const QString &target)
@@ -358,19 +386,8 @@ Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
             return files.error();
         QPDF pdf;
         load(pdf, files.value().source);
-        FilesOfName(pdf, name).takeOut();
-        std::vector<ListedFile> listed =
-            listedFiles(pdf.getRoot().getKey("/Names").isDictionary()
-                            ? pdf.getRoot().getKey("/Names").getKey("/EmbeddedFiles")
-                            : Handle::newNull());
-        if (!bytes.isNull()) {
-            const std::string key = name.toStdString();
-            auto stream = QPDFEFStreamObjectHelper::createEFStream(pdf, bytes.toStdString());
-            stream.setSubtype(mimeType.toStdString());
-            auto file = QPDFFileSpecObjectHelper::createFileSpec(pdf, key, stream);
-            listed.push_back({key, file.getObjectHandle()});
-        }
-        setListedFiles(pdf, std::move(listed));
+        takeEmbeddedFileOut(pdf, name);
+        embedFile(pdf, name, mimeType, bytes);
         return writePdf(pdf, *files.value().target);
     });
 }

@@ -12,10 +12,12 @@ bool isOwnCaller(int argc, char **argv);
 // From now on a process that is out of memory ends with kOutOfMemoryStatus.
 void endWithoutMemory();
 
-// Answers the one request on standard input, in the language of whoever asks, and ends the
-// process; `answer` reads the arguments of the task and writes the result. What libraries
-// print goes to standard error.
-[[noreturn]] void answerRequest(void (*answer)(Task task, QDataStream &in, QDataStream &out));
+// Answers the requests on standard input, in the language of whoever asks, until there are no
+// more, and ends the process; `answer` reads the arguments of the task and writes the result.
+// `meanwhile` is called after each answer: what can be done before the next request. What
+// libraries print goes to standard error.
+[[noreturn]] void answerRequests(void (*answer)(Task task, QDataStream &in, QDataStream &out),
+                                 void (*meanwhile)() = nullptr);
 
 // The next argument of a request.
 template <typename Value>

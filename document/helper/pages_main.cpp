@@ -1,8 +1,16 @@
 #include "helper_main.h"
+#include "kept_pdf.h"
 #include "tasks.h"
 
 using namespace kelvo;
 using namespace kelvo::documents;
+
+// What a request has left for the next one.
+static KeptPdf &kept()
+{
+    static KeptPdf pdf;
+    return pdf;
+}
 
 static void answer(Task task, QDataStream &in, QDataStream &out)
 {
@@ -11,6 +19,18 @@ static void answer(Task task, QDataStream &in, QDataStream &out)
     case Task::TidyPdf: {
         const auto source = take<QString>(in);
         out << documents::tidyPdf(source, take<QString>(in));
+        break;
+    }
+    case Task::TidyPdfToWrite: {
+        const auto source = take<QString>(in);
+        const auto target = take<QString>(in);
+        const auto written = take<QString>(in);
+        out << kept().tidy(source, target, written, take<QString>(in));
+        break;
+    }
+    case Task::WritePdf: {
+        const auto type = take<QByteArray>(in);
+        out << kept().write(type, take<QByteArray>(in));
         break;
     }
     case Task::SelectPdfPages: {
@@ -45,5 +65,5 @@ int main(int argc, char **argv)
     if (!isOwnCaller(argc, argv))
         return kOtherVersionStatus;
     endWithoutMemory();
-    answerRequest(answer);
+    answerRequests(answer, [] { kept().prepare(); });
 }

@@ -36,10 +36,12 @@ struct PdfFiles
 {
     std::FILE *source = nullptr; // for load()
     std::optional<OutputFile> target;
+    std::optional<OutputFile> second; // where a task writes two
 };
-Result<PdfFiles> openPdfFiles(const QString &source, const QString &target = {});
+Result<PdfFiles> openPdfFiles(const QString &source, const QString &target = {},
+                              const QString &second = {});
 
-// Takes `source` over, also where it throws.
+// Takes `source` over, also where it throws. Its file must stay as it is for as long as `pdf`.
 void load(QPDF &pdf, std::FILE *source);
 
 // Writes `pdf`, never encrypted. Throws where the document is at fault; NotWritable

@@ -1,3 +1,4 @@
+#include "kept_pdf.h"
 #include "pdf_file.h"
 #include "tasks.h"
 #include "texts.h"
@@ -58,15 +59,11 @@ bool beginsWithHeader(std::FILE *source)
 
 } // namespace
 
-Result<PdfPages> tidyPdf(const QString &source, const QString &target)
+Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source)
 {
     return guarded(source, [&]() -> Result<PdfPages> {
-        auto files = openPdfFiles(source, target);
-        if (!files)
-            return files.error();
-        const bool hasHeader = beginsWithHeader(files.value().source);
-        QPDF pdf;
-        load(pdf, files.value().source);
+        const bool hasHeader = beginsWithHeader(files.source);
+        load(pdf, files.source);
         if (!pdf.allowPrintLowRes() && !pdf.allowPrintHighRes()) {
             return Error{
                 Error::Code::Refused, source,
@@ -84,10 +81,19 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target)
         pages.isSound = !pages.isRepaired && !pdf.isEncrypted() && hasHeader;
         if (pages.isSound)
             return pages;
-        if (Result<void> written = writePdf(pdf, *files.value().target); !written)
+        if (Result<void> written = writePdf(pdf, *files.target); !written)
             return written.error();
         return pages;
     });
+}
+
+Result<PdfPages> tidyPdf(const QString &source, const QString &target)
+{
+    auto files = openPdfFiles(source, target);
+    if (!files)
+        return files.error();
+    QPDF pdf;
+    return tidyPdf(pdf, files.value(), source);
 }
 
 Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,

@@ -20,25 +20,11 @@ Error undrawable()
 class PopplerView final : public PdfView
 {
 public:
-    PopplerView()
-    {
-        // It tells every oddity on standard error.
-        Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
-    }
-
     Result<Picture> show(const QByteArray &pdf, const QSize &pixels, bool isOnWhite) const override
     {
         // poppler has settings and fonts that all documents of a process share.
         const QMutexLocker lock(&m_mutex);
-        const std::unique_ptr<Poppler::Document> document = Poppler::Document::loadFromData(pdf);
-        if (!document || document->isLocked())
-            return undrawable();
-        document->setRenderHint(Poppler::Document::Antialiasing);
-        document->setRenderHint(Poppler::Document::TextAntialiasing);
-        document->setRenderHint(Poppler::Document::IgnorePaperColor, !isOnWhite);
-        document->setPaperColor(Qt::white);
-        const std::unique_ptr<Poppler::Page> page = document->page(0);
-        QImage image = page ? pictureOfPage(*page, pixels) : QImage();
+        QImage image = PagePictures({{}, pdf}).draw(1, pixels, isOnWhite);
         if (image.isNull())
             return undrawable();
         image.convertTo(QImage::Format_ARGB32_Premultiplied);

@@ -83,6 +83,14 @@ Result<Connection> connectToServer(Patience &patience)
     return http;
 }
 
+ipp_t *newRequest(ipp_op_t operation)
+{
+    ipp_t *request = ippNewRequest(operation);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    return request;
+}
+
 ipp_t *newRequest(ipp_op_t operation, const QString &queue)
 {
     ipp_t *request = ippNewRequest(operation);
@@ -93,6 +101,12 @@ ipp_t *newRequest(ipp_op_t operation, const QString &queue)
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                  cupsUser());
     return request;
+}
+
+void askFor(ipp_t *request, std::initializer_list<const char *> attributes)
+{
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(attributes.size()), nullptr, attributes.begin());
 }
 
 bool lastCallSucceeded()

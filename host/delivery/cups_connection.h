@@ -10,6 +10,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -52,9 +53,13 @@ struct FreeMessage
 };
 using Message = std::unique_ptr<ipp_t, FreeMessage>;
 
-// A request about `queue`, for the user of this process. cupsDoRequest() frees
-// what it sends; cupsSendRequest() does not.
+// A request for the user of this process, to the server or about `queue`. cupsDoRequest()
+// frees what it sends; cupsSendRequest() does not.
+ipp_t *newRequest(ipp_op_t operation);
 ipp_t *newRequest(ipp_op_t operation, const QString &queue);
+// The answer is to have these attributes. Without, it has all that there are: libcups reads
+// each name and each value with a call of the system of its own.
+void askFor(ipp_t *request, std::initializer_list<const char *> attributes);
 
 // Connects to the server of the environment (CUPS_SERVER, client.conf). What is
 // called on the connection fails within a quarter of a second once `patience`

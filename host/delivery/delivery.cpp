@@ -64,12 +64,18 @@ Result<Document> pagesToPrint(const Document &document, const QString &pageRange
 // document names none: one may stand in what later revisions replaced.
 Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job)
 {
+    const QByteArray ticket = withTicket ? job.ticket : QByteArray();
+    if (auto written = replacedTicketAhead(document, ticket)) {
+        job.pdfPath = written->path;
+        job.pdfOwner = written->owner;
+        return {};
+    }
     auto folder = std::make_shared<TemporaryFolder>();
     if (!folder->isValid())
         return folderNotMade(temporaryPath(), folder->errorString());
     job.pdfPath = folder->filePath(QStringLiteral("document.pdf"));
     job.pdfOwner = folder;
-    return replaceTicket(document.pdfPath(), withTicket ? job.ticket : QByteArray(), job.pdfPath);
+    return replaceTicket(document.pdfPath(), ticket, job.pdfPath);
 }
 
 } // namespace
@@ -176,10 +182,9 @@ Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
     auto list = StagedFile::withBytes(in("options"), options);
     if (!list)
         return notWritten(list.error());
-    for (StagedFile *file : {&pdf.value(), &ticket.value(), &list.value()}) {
-        if (auto placed = file->place(); !placed)
-            return notWritten(placed.error());
-    }
+    std::array files = {std::move(pdf).value(), std::move(ticket).value(), std::move(list).value()};
+    if (auto placed = StagedFile::place(files); !placed)
+        return notWritten(placed.error());
     return {};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ppd_file.h"
 #include "printer_condition.h"
 #include "result.h"
 
@@ -31,11 +32,15 @@ class PrinterDirectory : public QObject
 
 public:
     explicit PrinterDirectory(QObject *parent = nullptr);
-    ~PrinterDirectory() override; // removes the PPD files; waits for nothing
+    ~PrinterDirectory() override; // waits for nothing
 
-    // Each call answers once, by one of its two signals, never from within the
+    // Each call answers once, by one of its signals, never from within the
     // call itself, and at the latest after `timeoutMs` with TimedOut.
-    void refresh(int timeoutMs = 30000);
+    //
+    // PpdOfFirst: whoever takes the first printer, and asks for its PPD then, gets what the
+    // thread has begun to fetch as soon as it had the list.
+    enum class Ahead { Nothing, PpdOfFirst };
+    void refresh(int timeoutMs = 30000, Ahead ahead = Ahead::Nothing);
     void fetchPpd(const QString &printer, int timeoutMs = 30000);
     // What it is doing now, with its own message, which no list of printers has.
     void fetchCondition(const QString &printer, int timeoutMs = 30000);
@@ -43,10 +48,10 @@ public:
 signals:
     void printersFound(const QList<kelvo::Printer> &printers); // the default one first
     void printersFailed(const kelvo::Error &error);
-    // A local copy, 0600, which this object removes when it goes. For a class of
-    // printers, that of its first member.
-    void ppdFetched(const QString &printer, const QString &path);
-    void ppdFailed(const QString &printer, const kelvo::Error &error); // NotFound: it has none
+    // Opened already. For a class of printers, that of its first member.
+    void ppdFetched(const QString &printer, const std::shared_ptr<kelvo::PpdFile> &ppd);
+    void ppdUnreadable(const QString &printer, const kelvo::Error &error); // why PpdFile refused it
+    void ppdFailed(const QString &printer, const kelvo::Error &error);     // NotFound: it has none
     void conditionFound(const QString &printer, const kelvo::PrinterCondition &condition);
     void conditionFailed(const QString &printer, const kelvo::Error &error);
 

@@ -14,8 +14,9 @@ using Code = Error::Code;
 // The printers of a class, which may be classes; empty for a printer.
 Result<QStringList> membersOf(http_t *http, const QString &queue, Patience &patience)
 {
-    const Message response(
-        cupsDoRequest(http, newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"));
+    ipp_t *request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request, {"member-names"});
+    const Message response(cupsDoRequest(http, request, "/"));
     if (!response || !lastCallSucceeded())
         return serverError(patience, queue);
     patience.progress();

@@ -14,6 +14,8 @@ namespace {
 
 using Code = Error::Code;
 
+const QByteArray ticketType = "application/x-plist";
+
 } // namespace
 
 Result<QByteArray> ticketForJob(const TicketFile &ticket)
@@ -30,8 +32,13 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
 
 Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target)
 {
-    return replaceEmbeddedFile(source, kTicketAttachmentName, "application/x-plist", ticket,
-                               target);
+    return replaceEmbeddedFile(source, kTicketAttachmentName, ticketType, ticket, target);
+}
+
+std::optional<Document::Written> replacedTicketAhead(const Document &document,
+                                                     const QByteArray &ticket)
+{
+    return document.writtenAhead(ticketType, ticket);
 }
 
 } // namespace kelvo

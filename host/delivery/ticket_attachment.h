@@ -1,10 +1,13 @@
 #pragma once
 
+#include "document.h"
 #include "result.h"
 #include "ticket_file.h"
 
 #include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 // The ticket inside the PDF. Devices look for the embedded file of this name.
 namespace kelvo {
@@ -24,5 +27,9 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket);
 // Damaged for what libqpdf cannot read, NotWritable for a full disk, Refused for an
 // older ticket that cannot be taken out.
 Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target);
+// The same of a document that was opened for it, with kTicketAttachmentName; none for others, and
+// where it fails.
+std::optional<Document::Written> replacedTicketAhead(const Document &document,
+                                                     const QByteArray &ticket);
 
 } // namespace kelvo

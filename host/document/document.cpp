@@ -4,6 +4,7 @@
 #include "document_files.h"
 #include "file_names.h"
 #include "output_file.h"
+#include "pdf_ahead.h"
 #include "pdf_pages.h"
 #include "temporary_folder.h"
 #include "texts.h"
@@ -27,6 +28,7 @@ struct Document::Data
     std::vector<QSizeF> sizes;
     bool isRepaired = false;
     QString remark;
+    std::shared_ptr<PdfAhead> ahead; // null: pdfPath is to be read again
 };
 
 // Makes documents; the one place that knows how their files lie.
@@ -34,7 +36,8 @@ class DocumentReader
 {
 public:
     static Result<Document> read(const OpenSource &source, const QString &title, bool onlyPdf,
-                                 const std::atomic_bool &cancelled);
+                                 const std::atomic_bool &cancelled,
+                                 std::shared_ptr<PdfAhead> ahead = {});
     static Result<Document> select(const Document::Data &whole, const std::vector<PageRun> &runs);
 
 private:
@@ -149,7 +152,8 @@ Result<QString> DocumentReader::convert(DocumentKind kind, const ConverterFiles 
 }
 
 Result<Document> DocumentReader::read(const OpenSource &opened, const QString &title, bool onlyPdf,
-                                      const std::atomic_bool &cancelled)
+                                      const std::atomic_bool &cancelled,
+                                      std::shared_ptr<PdfAhead> ahead)
 {
     const QString &where = opened.where;
     auto folder = makeFolder();
@@ -174,7 +178,8 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     }
 
     data->pdfPath = path + QLatin1Char('/') + pdfName;
-    Result<PdfPages> pages = tidyPdf(unchecked, data->pdfPath, cancelled);
+    Result<PdfPages> pages = ahead ? ahead->tidy(unchecked, data->pdfPath, cancelled)
+                                   : tidyPdf(unchecked, data->pdfPath, cancelled);
     if (!pages)
         return aboutSource(pages.error(), where);
     // A converter that writes damage has met a full disk or a broken document.
@@ -188,6 +193,8 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     data->title = title;
     data->sizes = std::move(pages.value().sizes);
     data->isRepaired = pages.value().isRepaired;
+    if (pages.value().isSound)
+        data->ahead = std::move(ahead);
     data->folder = std::move(folder).value();
     Document document;
     document.d = std::move(data);
@@ -264,6 +271,15 @@ Result<Document> Document::withPages(const std::vector<PageRun> &runs) const
     return DocumentReader::select(*d, runs);
 }
 
+std::optional<Document::Written> Document::writtenAhead(const QByteArray &mimeType,
+                                                        const QByteArray &bytes) const
+{
+    if (!d || !d->ahead)
+        return std::nullopt;
+    const Result<QString> path = d->ahead->write(mimeType, bytes);
+    return path ? std::optional(Written{path.value(), d}) : std::nullopt;
+}
+
 Result<Document> documentFromPdf(const QString &path, const QString &title)
 {
     Result<FileDescriptor> file = openSource(path);
@@ -274,16 +290,17 @@ Result<Document> documentFromPdf(const QString &path, const QString &title)
                                 notCancelled);
 }
 
-Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled)
+Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled,
+                              std::shared_ptr<PdfAhead> ahead)
 {
     if (isStandardInput(source))
         return DocumentReader::read({STDIN_FILENO, QStringLiteral("(stdin)")}, titleOf(source),
-                                    false, cancelled);
+                                    false, cancelled, std::move(ahead));
     Result<FileDescriptor> file = openSource(source.path);
     if (!file)
         return file.error();
     return DocumentReader::read({file.value().get(), source.path, source.patienceMs},
-                                titleOf(source), false, cancelled);
+                                titleOf(source), false, cancelled, std::move(ahead));
 }
 
 } // namespace kelvo

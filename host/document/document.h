@@ -8,9 +8,12 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kelvo {
+
+class PdfAhead;
 
 // What the user prints, as a PDF in a private 0600 file that goes when the last
 // copy of this goes. A value; cheap to copy; never changes.
@@ -33,6 +36,16 @@ public:
     // other pages are not in the new file. OutOfRange when `runs` is empty or
     // names a page that is not there.
     Result<Document> withPages(const std::vector<PageRun> &runs) const;
+
+    // A PDF that has been made of it, and who owns its file.
+    struct Written
+    {
+        QString path;
+        std::shared_ptr<const void> owner;
+    };
+    // What replaceEmbeddedFile() would make of it. Only where it was opened with a PdfAhead, and
+    // once: where there is none, for whatever reason, pdfPath() is to be read.
+    std::optional<Written> writtenAhead(const QByteArray &mimeType, const QByteArray &bytes) const;
 
 private:
     friend class DocumentReader;
@@ -68,6 +81,9 @@ QString titleOf(const DocumentSource &source);
 // Damaged, Refused, TimedOut and Cancelled are about the source, and so is a text that
 // no font has the characters of (Unsupported); NotWritable is about the temporary
 // folder.
-Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled);
+//
+// With `ahead`, what the helper has read is kept for writtenAhead().
+Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled,
+                              std::shared_ptr<PdfAhead> ahead = {});
 
 } // namespace kelvo

@@ -207,7 +207,8 @@ struct PageRenderer::Private
     Document document; // the window's side
     OverlayPainter overlayPainter;
     LeadingPagePainter leadingPagePainter;
-    // Of the newest request. What is no longer wanted stops being drawn.
+    // Of the newest request; null when nothing is wanted. What is no longer wanted stops
+    // being drawn.
     std::shared_ptr<std::atomic_bool> isAbandoned;
     std::thread thread;
 
@@ -220,6 +221,7 @@ struct PageRenderer::Private
     {
         if (isAbandoned)
             *isAbandoned = true;
+        isAbandoned.reset();
     }
 
     // False when the system has no thread to give.
@@ -306,13 +308,14 @@ void PageRenderer::render(const SideToDraw &side)
 }
 
 // From any thread. Said on our own, where a newer request can no longer slip in, and
-// never from within render().
+// never from within render(). There the flag only stands for its request: this call may be
+// done with here after the sender has dropped all that it holds.
 void PageRenderer::tell(const std::shared_ptr<std::atomic_bool> &isAbandoned, const DrawnSide &side)
 {
     QMetaObject::invokeMethod(
         this,
         [this, isAbandoned, side] {
-            if (!*isAbandoned)
+            if (isAbandoned == d->isAbandoned)
                 emit rendered(side);
         },
         Qt::QueuedConnection);

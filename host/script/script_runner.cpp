@@ -13,10 +13,10 @@
 #include "ticket_path.h"
 #include "values.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QBuffer>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -32,8 +32,6 @@ namespace {
 
 using inspector::Failure;
 
-// How long the runner sleeps while the dialog is busy.
-constexpr int busyWaitMs = 5;
 // How long a line waits for a file chooser to close and for the rows of a list, and a picture for a
 // page of the document, which can be endless.
 constexpr int contentWaitMs = 5000;
@@ -76,6 +74,12 @@ QString answersOf(const ShownNotice &notice)
     return answers.join(QStringLiteral(", "));
 }
 
+// Two notices that say the same are one.
+QString identityOf(const ShownNotice &notice)
+{
+    return notice.header + u'\n' + notice.message;
+}
+
 QString wordsOf(const ShownNotice &notice)
 {
     const QString words = notice.message.isEmpty()
@@ -84,6 +88,31 @@ QString wordsOf(const ShownNotice &notice)
               .arg(notice.header, notice.message);
     return words.simplified();
 }
+
+// A wait that has an end. When it comes, the event loop wakes up.
+class Patience
+{
+public:
+    Patience() { m_timer.setSingleShot(true); }
+
+    // A second call does nothing.
+    void begin(int ms)
+    {
+        if (!std::exchange(m_isBegun, true))
+            m_timer.start(ms);
+    }
+    void end()
+    {
+        m_isBegun = false;
+        m_timer.stop();
+    }
+    bool isBegun() const { return m_isBegun; }
+    bool isOver() const { return m_isBegun && !m_timer.isActive(); }
+
+private:
+    QTimer m_timer;
+    bool m_isBegun = false;
+};
 
 } // namespace
 
@@ -103,8 +132,9 @@ struct ScriptRunner::Private
     Options options;
     ScriptRunner *q;
     QTimer tick;
-    QElapsedTimer contentWait;
-    QElapsedTimer popupWait;
+    bool isWaiting = false; // lookAgain() goes on
+    Patience contentWait;
+    Patience popupWait;
     bool hasClosedPopup = false;         // and the run ends with that
     std::vector<std::size_t> performing; // lines, each in a loop that the one before it runs
     QPointer<QWidget> answeredChooser;   // closes once the event loop runs
@@ -116,6 +146,10 @@ struct ScriptRunner::Private
     bool hasEnded = false;
 
     void step();
+    void lookAgain();
+    bool mustWaitForDialog() const;
+    bool mustWaitForContent() const;
+    bool isLookedAtUnfinished(const ScriptLine &line) const;
     void run(const ScriptLine &line);
     LineDone perform(const ScriptLine &line);
     LineDone withControl(const ScriptLine &line);
@@ -123,9 +157,13 @@ struct ScriptRunner::Private
     LineDone expect(const ScriptLine &line, QWidget *control);
     LineDone expectTicket(const ScriptLine &line);
     LineDone screenshot(const QString &file);
-    bool checkPopup();
-    void failForPopup();
     bool isKeyForPopup() const;
+    bool isPopupOfUser() const;
+    bool isOpenerUnderWay() const;
+    void timePopup();
+    void closePopups();
+    void failForPopup();
+    bool isNoticeMet() const;
     bool checkNotice();
     bool checkPrint();
     void finish();
@@ -148,6 +186,11 @@ ScriptRunner::ScriptRunner(ScriptTarget &target, std::vector<ScriptLine> lines, 
     // which an earlier line has opened and is still waiting for.
     d->tick.setSingleShot(true);
     connect(&d->tick, &QTimer::timeout, this, [this] { d->step(); });
+    // Whatever a line waits for comes through the event loop: by an event, a timer, or an answer
+    // from a thread. So nobody has to tell, nothing can be forgotten, and the processor is left
+    // alone while there is nothing new.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [this] { d->lookAgain(); });
 }
 
 ScriptRunner::~ScriptRunner() = default;
@@ -181,10 +224,68 @@ QWidget *ScriptRunner::Private::withKeyboard() const
     return isBefore ? active : window;
 }
 
+// A line is run by a timer, as by any event: in here it could open a dialog, or delete what the
+// event loop is about to use.
+void ScriptRunner::Private::lookAgain()
+{
+    timePopup();
+    if (!isWaiting || mustWaitForDialog()
+        || (contentWait.isBegun() && isNoticeMet() && mustWaitForContent()))
+        return;
+    isWaiting = false;
+    tick.start(0);
+}
+
+bool ScriptRunner::Private::mustWaitForDialog() const
+{
+    if (hasClosedPopup)
+        return isOpenerUnderWay() && !popupWait.isOver();
+    const std::optional<ExitStatus> closed = target.finished();
+    if (closed && *closed != ExitStatus::Printed && !closedByLine)
+        return false;
+    if (QApplication::activePopupWidget() && !isKeyForPopup())
+        return isPopupOfUser() && !popupWait.isOver();
+    // A closed dialog may have been in the middle of something, and stay so. The button of an
+    // open menu stays down.
+    return !closed && !isKeyForPopup()
+        && (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown()));
+}
+
+// For what the next line needs.
+bool ScriptRunner::Private::mustWaitForContent() const
+{
+    if (next == lines.size() || target.finished() || contentWait.isOver())
+        return false;
+    const bool isClosing = answeredChooser && answeredChooser->isVisible();
+    return isClosing || inspector::isAwaited(front()) || isLookedAtUnfinished(lines[next]);
+}
+
+// Whether `line` looks at something that is still being drawn.
+bool ScriptRunner::Private::isLookedAtUnfinished(const ScriptLine &line) const
+{
+    switch (line.command) {
+    case ScriptCommand::Screenshot:
+        return target.isDrawing(front()) || inspector::isUnfinished(front());
+    case ScriptCommand::Controls:
+        return target.isDrawing(front());
+    case ScriptCommand::Expect:
+    case ScriptCommand::Show:
+        return target.isDrawing(front())
+            && target.isDrawing(inspector::find(front(), *line.control).control);
+    default:
+        return false;
+    }
+}
+
 void ScriptRunner::Private::step()
 {
     if (hasEnded)
         return;
+    timePopup();
+    if (mustWaitForDialog()) {
+        isWaiting = true;
+        return;
+    }
     if (hasClosedPopup) {
         failForPopup();
         return;
@@ -194,13 +295,8 @@ void ScriptRunner::Private::step()
         end(*closed); // by a signal, by the user, or because nothing could be begun
         return;
     }
-    if (!checkPopup())
-        return;
-    // A closed dialog may have been in the middle of something, and stay so. The button of an
-    // open menu stays down.
-    if (!closed && !isKeyForPopup()
-        && (!target.isIdle() || (target.isPrinting() && !frontNotice().isShown()))) {
-        tick.start(busyWaitMs);
+    if (QApplication::activePopupWidget() && !isKeyForPopup()) {
+        closePopups();
         return;
     }
     if (!checkNotice() || !checkPrint())
@@ -214,18 +310,13 @@ void ScriptRunner::Private::step()
              wrong(translate("Script", "the dialog is closed; nothing can be done after that")));
         return;
     }
-    const bool isPicture = lines[next].command == ScriptCommand::Screenshot;
-    const bool isClosing = answeredChooser && answeredChooser->isVisible();
-    if (isClosing || inspector::isAwaited(front())
-        || (isPicture && (target.isDrawing() || inspector::isUnfinished(front())))) {
-        if (!contentWait.isValid())
-            contentWait.start();
-        if (contentWait.elapsed() < contentWaitMs) {
-            tick.start(busyWaitMs);
-            return;
-        }
+    if (mustWaitForContent()) {
+        contentWait.begin(contentWaitMs);
+        target.drawPutOff();
+        isWaiting = true;
+        return;
     }
-    contentWait.invalidate();
+    contentWait.end();
     answeredChooser.clear();
     run(lines[next++]);
 }
@@ -253,47 +344,58 @@ bool ScriptRunner::Private::isKeyForPopup() const
         && lines[next].command == ScriptCommand::Key;
 }
 
-// Keys can open a menu or the list of a pop-up; other lines cannot reach past it, and
-// without a user it would stay open for ever.
-bool ScriptRunner::Private::checkPopup()
+// Whether a menu or list is open that no key has opened. One of a key is for keys: other lines
+// cannot reach past it, and without a user it would stay open for ever.
+bool ScriptRunner::Private::isPopupOfUser() const
 {
-    if (!QApplication::activePopupWidget() || isKeyForPopup()) {
-        popupWait.invalidate();
-        return true;
-    }
-    if (next == 0 || lines[next - 1].command != ScriptCommand::Key) {
-        if (!popupWait.isValid())
-            popupWait.start();
-        if (popupWait.elapsed() < options.timeoutMs) {
-            tick.start(busyWaitMs);
-            return false;
-        }
-    }
+    return QApplication::activePopupWidget() && !isKeyForPopup()
+        && (next == 0 || lines[next - 1].command != ScriptCommand::Key);
+}
+
+void ScriptRunner::Private::timePopup()
+{
+    if (hasClosedPopup)
+        return;
+    if (isPopupOfUser())
+        popupWait.begin(options.timeoutMs);
+    else
+        popupWait.end();
+}
+
+void ScriptRunner::Private::closePopups()
+{
     while (QWidget *popup = QApplication::activePopupWidget()) {
         if (!popup->close())
             break;
     }
     hasClosedPopup = true;
-    popupWait.start();
+    popupWait.end();
+    popupWait.begin(options.timeoutMs);
     tick.start(0);
-    return false;
 }
 
 // The line that opened a menu is in the menu's own loop, and what it stands on must not go before
 // it has come back.
+bool ScriptRunner::Private::isOpenerUnderWay() const
+{
+    return !performing.empty() && performing.back() == next;
+}
+
 void ScriptRunner::Private::failForPopup()
 {
-    const bool isUnderWay = !performing.empty() && performing.back() == next;
-    if (isUnderWay && popupWait.elapsed() < options.timeoutMs) {
-        tick.start(busyWaitMs);
-        return;
-    }
     fail(lines.empty()   ? 0
              : next == 0 ? lines.front().number
                          : lines[next - 1].number,
          wrong(translate("Script",
                          "a menu or list is open; only “key” lines pick from it or close it, "
                          "“item” and “choose” pick while it is closed")));
+}
+
+// Whether no notice is in front but the one that a line has met.
+bool ScriptRunner::Private::isNoticeMet() const
+{
+    const ShownNotice notice = frontNotice();
+    return !notice.isShown() || identityOf(notice) == metNotice;
 }
 
 // A notice must be met by the line after the one that brought it up.
@@ -304,12 +406,11 @@ bool ScriptRunner::Private::checkNotice()
         metNotice.clear();
         return true;
     }
-    const QString now = notice.header + u'\n' + notice.message;
-    if (now == metNotice)
+    if (isNoticeMet())
         return true;
     const int at = next == 0 ? 0 : lines[next - 1].number;
     if (next < lines.size() && (effectsOf(lines[next].command) & ScriptEffect::MeetsNotice)) {
-        metNotice = now;
+        metNotice = identityOf(notice);
         return true;
     }
     fail(at,
@@ -400,6 +501,7 @@ void ScriptRunner::Private::fail(int line, const LineProblem &problem)
 void ScriptRunner::Private::end(ExitStatus status)
 {
     hasEnded = true;
+    isWaiting = false;
     tick.stop();
     emit q->ended(status);
 }

@@ -24,10 +24,14 @@ public:
 
     // Printers, PPD and document are there (or known not to come) and nothing is
     // under way: the next line may run. Also true while a modal dialog is open.
+    // Asked whenever the event loop has nothing left to do: what ends by the time alone has a
+    // timer, which wakes it.
     virtual bool isIdle() const = 0;
-    // Whether a part of the window is still being drawn; lines do not wait for it,
-    // pictures do.
-    virtual bool isDrawing() const { return false; }
+    // Whether something in `part` of the window, null for nothing, is not drawn as it will be.
+    // Only lines that look at it wait for it.
+    virtual bool isDrawing(const QWidget * /*part*/) const { return false; }
+    // Begins to draw what was put off because nobody sees it.
+    virtual void drawPutOff() { }
     virtual QWidget *window() = 0; // the dialog's own window
 
     // A panel by the middle of its getter's name: the host's ("SpecialPages",

@@ -17,16 +17,18 @@ DialogSession::DialogSession(SessionBeginning beginning, DevicePanels *panels, Q
     , m_bundleProblem(std::move(beginning.bundleProblem))
     , m_panels(panels)
     , m_search(std::move(beginning.printer))
-    , m_document(std::move(beginning.document))
+    , m_document(beginning.opening
+                     ? std::move(beginning.opening)
+                     : std::make_shared<DocumentOpening>(std::move(beginning.document)))
     , m_job(std::move(beginning.job), beginning.bundle, panels)
 {
-    m_job.setTitle(m_document.title());
+    m_job.setTitle(m_document->title());
     connect(&m_search, &PrinterSearch::printersChanged, this, &DialogSession::printersChanged);
     connect(&m_search, &PrinterSearch::conditionChanged, this, &DialogSession::conditionChanged);
     connect(&m_search, &PrinterSearch::stateChanged, this, &DialogSession::takeSearch);
-    connect(&m_document, &DocumentOpening::ended, this, [this] {
-        m_job.setTitle(m_document.title());
-        const Document &document = m_document.document();
+    connect(m_document.get(), &DocumentOpening::ended, this, [this] {
+        m_job.setTitle(m_document->title());
+        const Document &document = m_document->document();
         if (!document.isNull())
             m_job.setDocument(document.pdfPath(), document.pageCount());
         emit documentChanged();
@@ -46,7 +48,7 @@ void DialogSession::start()
 
 void DialogSession::stop()
 {
-    m_document.cancel();
+    m_document->cancel();
     endPanels();
     m_search.stop();
 }
@@ -82,7 +84,7 @@ void DialogSession::choosePrinter(const QString &name)
 
 Result<std::vector<PageRun>> DialogSession::pages() const
 {
-    return pageRunsFrom(m_job.settings().pageRanges, m_document.document().pageCount());
+    return pageRunsFrom(m_job.settings().pageRanges, m_document->document().pageCount());
 }
 
 void DialogSession::begin()

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -16,6 +17,8 @@ struct SessionBeginning
 {
     PrinterSearch::Wanted printer;
     std::optional<DocumentSource> document; // none: there is nothing to print
+    // In its place: one that is being opened already.
+    std::shared_ptr<DocumentOpening> opening;
     SessionJob::Wishes job;
     Bundle *bundle = nullptr; // null: no device panels
     QString bundleProblem;    // why there is no bundle, a sentence
@@ -35,7 +38,7 @@ public:
     void start(); // the search; the document is no part of it
     // A second call does nothing. The first frame would wait for the memory and the
     // processor that this takes.
-    void openTheDocument() { m_document.start(); }
+    void openTheDocument() { m_document->start(); }
     void retry() { m_search.retry(); } // after Stage::Stuck
     void stop();                       // ends the panels; what is under way is left to itself
 
@@ -53,7 +56,7 @@ public:
     // does not have comes back with one that has it.
     void choosePrinter(const QString &name);
 
-    const DocumentOpening &document() const { return m_document; }
+    const DocumentOpening &document() const { return *m_document; }
     // Those of the document that are printed; the error says which there are.
     Result<std::vector<PageRun>> pages() const; // Stage::Ready, and the document is there
 
@@ -85,7 +88,7 @@ private:
     std::optional<Result<void>> m_panelsLoaded; // once, when they are first needed
     SessionMessage m_message;                   // of Stage::Ready
     PrinterSearch m_search;
-    DocumentOpening m_document;
+    std::shared_ptr<DocumentOpening> m_document; // never null
     SessionJob m_job;
 };
 

@@ -1,5 +1,8 @@
 #include "document_opening.h"
 
+#include "pdf_ahead.h"
+#include "ticket_attachment.h"
+
 namespace kelvo {
 
 DocumentOpening::DocumentOpening(std::optional<DocumentSource> source, QObject *parent)
@@ -29,7 +32,7 @@ QString DocumentOpening::title() const
     return titleOf(m_source.value_or(DocumentSource()));
 }
 
-void DocumentOpening::start()
+void DocumentOpening::start(Purpose purpose)
 {
     if (m_cancelled || !m_source)
         return;
@@ -41,9 +44,13 @@ void DocumentOpening::start()
             m_problem = tr("The document cannot be opened: %1").arg(opened.error().text());
         emit ended();
     };
-    const bool isStarted = m_opening.start(
-        [source = *m_source, cancelled = m_cancelled] { return openDocument(source, *cancelled); },
-        take);
+    // Started here, where the thread stays: helpers end with theirs.
+    const std::shared_ptr<PdfAhead> ahead =
+        purpose == Purpose::Printed ? PdfAhead::start(kTicketAttachmentName) : nullptr;
+    const bool isStarted =
+        m_opening.start([source = *m_source, cancelled = m_cancelled,
+                         ahead] { return openDocument(source, *cancelled, ahead); },
+                        take);
     if (!isStarted)
         take(Error{Error::Code::NotReadable, title(), noThreadReason()});
 }

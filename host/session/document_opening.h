@@ -21,7 +21,11 @@ public:
     explicit DocumentOpening(std::optional<DocumentSource> source, QObject *parent = nullptr);
     ~DocumentOpening() override; // cancels
 
-    void start(); // a second call does nothing
+    enum class Purpose {
+        Shown,   // printed when its user has seen it, if at all
+        Printed, // printed as soon as the settings are there: helpers keep what they read
+    };
+    void start(Purpose purpose = Purpose::Shown); // a second call does nothing
     void cancel();
 
     bool hasSource() const { return m_source.has_value(); }

@@ -71,7 +71,9 @@ void PrinterSearch::findPrinters()
     }
     m_directory = std::make_shared<PrinterDirectory>();
     listenTo(*m_directory);
-    m_directory->refresh(m_wanted.timeoutMs);
+    m_directory->refresh(m_wanted.timeoutMs,
+                         m_name.isEmpty() ? PrinterDirectory::Ahead::PpdOfFirst
+                                          : PrinterDirectory::Ahead::Nothing);
     // Both questions at once: the second need not wait for the first.
     if (!m_name.isEmpty())
         askForPpd();
@@ -89,10 +91,16 @@ void PrinterSearch::listenTo(PrinterDirectory &directory)
             m_lookedAt.reset();
     });
     connect(&directory, &PrinterDirectory::ppdFetched, this,
-            [this](const QString &printer, const QString &path) {
+            [this](const QString &printer, const std::shared_ptr<PpdFile> &ppd) {
                 m_askedFor.remove(printer);
                 if (isPpdAwaited(printer))
-                    takePpd(path);
+                    takePpd(ppd);
+            });
+    connect(&directory, &PrinterDirectory::ppdUnreadable, this,
+            [this](const QString &printer, const Error &error) {
+                m_askedFor.remove(printer);
+                if (isPpdAwaited(printer))
+                    takeDamagedPpd(error);
             });
     connect(&directory, &PrinterDirectory::ppdFailed, this,
             [this](const QString &printer, const Error &error) {
@@ -210,16 +218,14 @@ bool PrinterSearch::isPpdAwaited(const QString &printer) const
     return printer == m_name && !m_isPpdKnown;
 }
 
-void PrinterSearch::takePpd(const QString &path)
+void PrinterSearch::takeDamagedPpd(const Error &error)
 {
-    auto opened = PpdFile::open(path);
-    if (!opened) {
-        // The copy's path means nothing to the user.
-        takePpdProblem(tr("The print server’s description of them is damaged (%1).")
-                           .arg(opened.error().detail));
-        return;
-    }
-    m_ppd = std::move(opened).value();
+    takePpdProblem(tr("The print server’s description of them is damaged (%1).").arg(error.detail));
+}
+
+void PrinterSearch::takePpd(const std::shared_ptr<PpdFile> &ppd)
+{
+    m_ppd = ppd;
     m_noPpdReason.clear();
     m_isPpdKnown = true;
     endWhenComplete();

@@ -72,7 +72,8 @@ private:
     void fetchPpd();
     void askForPpd();
     bool isPpdAwaited(const QString &printer) const;
-    void takePpd(const QString &path);
+    void takePpd(const std::shared_ptr<PpdFile> &ppd);
+    void takeDamagedPpd(const Error &error);
     void takePpdProblem(const QString &why);
     void takeNoPpd();
     void endWhenComplete();

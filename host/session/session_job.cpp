@@ -38,7 +38,7 @@ Result<void> SessionJob::beginOn(Device device)
 {
     m_device = std::move(device);
     m_session = std::make_unique<PrintSession>();
-    m_session->setPrinter({m_device.name, ppd() ? ppd()->path() : QString()});
+    m_session->setPrinter({m_device.name, {}, m_device.ppd});
     nameJob();
     const TicketFile defaults = queueDefaults();
     m_repeatedChoices = m_describer.repeatedChoices(ppd(), m_wishes.preset || m_wishes.ticketIn);
@@ -329,7 +329,11 @@ ConflictReport SessionJob::conflicts()
         m_edits.lastSet.prepend(choice.key());
     }
     m_edits.lookedAt = choices;
-    return findConflicts(*m_session, *m_device.ppd, m_edits.lastSet);
+    if (m_conflicts.ppd != m_device.ppd || m_conflicts.choices != choices
+        || m_conflicts.lastSet != m_edits.lastSet)
+        m_conflicts = {m_device.ppd, choices, m_edits.lastSet,
+                       findConflicts(*m_session, *m_device.ppd, m_edits.lastSet)};
+    return m_conflicts.report;
 }
 
 void SessionJob::fix(const ConflictReport &report)

@@ -154,6 +154,15 @@ private:
     const JobDescription &describe(Described &known, const Ticket &printSettings,
                                    const Ticket &pageFormat);
     Described m_asItStands, m_asAsked;
+    // Those that were found last: a look, a press of Print and its answer ask for the same.
+    struct FoundConflicts
+    {
+        std::shared_ptr<PpdFile> ppd;
+        PPDDictionary choices;
+        QStringList lastSet;
+        ConflictReport report;
+    };
+    FoundConflicts m_conflicts;
 
     QString m_title;
     QString m_pdfPath; // empty: the document is not there yet

@@ -1,5 +1,6 @@
 #include "dialog_parts.h"
 
+#include "audience.h"
 #include "caution_bar.h"
 #include "control.h"
 #include "dialog_foot.h"
@@ -66,6 +67,10 @@ DialogParts::DialogParts(QWidget *window)
     , foot(new DialogFoot(columns->toggle(), window))
     , m_window(window)
 {
+    m_activation.setSingleShot(true);
+    m_activation.setInterval(activationWaitMs);
+    m_panelsWait.setSingleShot(true);
+    m_panelsWait.setInterval(panelsWaitMs);
     scroll->setObjectName(QStringLiteral("panels"));
     panelSwitch->setObjectName(QStringLiteral("panelSwitch"));
     panelSwitch->setAccessibleName(tr("Panels"));
@@ -155,30 +160,33 @@ void DialogParts::goToRegion(bool forward)
 
 void DialogParts::noteShown()
 {
-    m_sinceShown.start();
+    m_activation.start();
 }
 
 void DialogParts::noteReady()
 {
-    m_sinceReady.start();
+    if (audience() != Audience::Nobody)
+        m_panelsWait.start();
 }
 
 bool DialogParts::isAtRest() const
 {
     // Shortcuts reach only an active window, and a window becomes active some
     // time after it was shown; without a window manager it may never.
-    if (m_window->isVisible() && !QApplication::activeWindow()
-        && m_sinceShown.elapsed() < activationWaitMs)
+    if (m_activation.isActive() && m_window->isVisible() && !QApplication::activeWindow())
         return false;
+    // The panels of hidden tabs follow the first frame.
+    if (m_panelsWait.isActive()) {
+        if (!arePanelsBuilt())
+            return false;
+        m_panelsWait.stop();
+    }
     // A button that its mnemonic pressed comes up again a moment later, and only
     // then does what it is for. Qt's file chooser keeps one down for as long as it is open.
     const auto buttons = m_window->findChildren<QAbstractButton *>();
-    if (std::any_of(buttons.cbegin(), buttons.cend(), [](const QAbstractButton *each) {
-            return each->isDown() && !qobject_cast<QFileDialog *>(each->window());
-        }))
-        return false;
-    // The panels of hidden tabs follow the first frame.
-    return !m_sinceReady.isValid() || m_sinceReady.elapsed() >= panelsWaitMs || arePanelsBuilt();
+    return std::none_of(buttons.cbegin(), buttons.cend(), [](const QAbstractButton *each) {
+        return each->isDown() && !qobject_cast<QFileDialog *>(each->window());
+    });
 }
 
 } // namespace kelvo

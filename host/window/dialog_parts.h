@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QList>
 #include <QPointer>
+#include <QTimer>
 
 class QStackedWidget;
 class QWidget;
@@ -68,7 +68,8 @@ private:
     QWidget *m_window;
     QList<QWidget *> m_panelStops;  // the tab order is made for these; compared, never followed
     QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
-    QElapsedTimer m_sinceShown, m_sinceReady;
+    QTimer m_activation;            // runs while the window may still become the active one
+    mutable QTimer m_panelsWait;    // runs while panels are not built
 };
 
 } // namespace kelvo

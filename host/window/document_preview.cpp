@@ -1,6 +1,7 @@
 #include "document_preview.h"
 
 #include "accessible_role.h"
+#include "audience.h"
 #include "booklet_imposition.h"
 #include "caution_colours.h"
 #include "page_placement.h"
@@ -19,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kelvo {
 
@@ -303,6 +305,7 @@ struct DocumentPreview::Private
     SideToDraw asked; // what the renderer was asked for last
     Look askedLook;
     std::optional<DrawnSide> answer; // none: it is still being drawn
+    bool isPutOff = false;           // the renderer has not been asked yet
 
     int count() const { return sequence.sides(); }
     SheetSide side() const { return index < count() ? sequence.side(index) : SheetSide{}; }
@@ -493,7 +496,9 @@ struct DocumentPreview::Private
         if (drawing != asked) {
             asked = drawing;
             answer.reset();
-            renderer.render(drawing);
+            isPutOff = audience() != Audience::People;
+            if (!isPutOff)
+                renderer.render(drawing);
         } else if (answer) {
             showAnswer(); // the same picture; its lines may be others
         }
@@ -508,8 +513,8 @@ struct DocumentPreview::Private
 
     void take(const DrawnSide &side)
     {
-        if (asked.isBlank())
-            return; // a blank side is shown by now
+        if (asked.isBlank() || isPutOff)
+            return; // another side is shown by now
         answer = side;
         showAnswer();
     }
@@ -614,6 +619,12 @@ void DocumentPreview::setMessage(const QString &message)
 {
     d->message = message;
     d->sync();
+}
+
+void DocumentPreview::drawPutOff()
+{
+    if (std::exchange(d->isPutOff, false) && isDrawing())
+        d->renderer.render(d->asked);
 }
 
 bool DocumentPreview::isDrawing() const

@@ -46,7 +46,9 @@ public:
     void setLeadingPagePainter(LeadingPagePainter painter); // likewise
     void setMessage(const QString &message); // instead of a page; empty shows pages again
 
-    bool isDrawing() const; // a side that was asked for is not in sight yet
+    // Where people do not see it (audience.h) a side is put off until this asks for it.
+    void drawPutOff();
+    bool isDrawing() const; // a side is not in sight yet, put off or not
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

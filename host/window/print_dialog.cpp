@@ -656,18 +656,23 @@ void PrintDialog::showEvent(QShowEvent *event)
 
 bool PrintDialog::isIdle() const
 {
-    if (!m_parts.isAtRest())
-        return false;
-    return m_finished
-        || (m_session->stage() != DialogSession::Stage::Searching
-            && !m_session->document().isPending()
-            && !(m_isDriven && m_session->search().isLooking()) && !m_look.isActive()
-            && !m_firstFrame.isActive());
+    const bool isUnderWay = !m_finished
+        && (m_session->stage() == DialogSession::Stage::Searching
+            || m_session->document().isPending() || (m_isDriven && m_session->search().isLooking())
+            || m_look.isActive() || m_firstFrame.isActive());
+    return !isUnderWay && m_parts.isAtRest();
 }
 
-bool PrintDialog::isDrawing() const
+bool PrintDialog::isDrawing(const QWidget *part) const
 {
-    return m_parts.preview->isVisible() && m_parts.preview->isDrawing();
+    const DocumentPreview *preview = m_parts.preview;
+    return part && (part == preview || part->isAncestorOf(preview) || preview->isAncestorOf(part))
+        && preview->isVisible() && preview->isDrawing();
+}
+
+void PrintDialog::drawPutOff()
+{
+    m_parts.preview->drawPutOff();
 }
 
 // An error is the printer's: there are none to be had.

@@ -55,7 +55,8 @@ public:
     void interrupt();
 
     bool isIdle() const override;
-    bool isDrawing() const override;
+    bool isDrawing(const QWidget *part) const override;
+    void drawPutOff() override;
     QWidget *window() override { return this; }
     Result<void> showPanel(const QString &name) override;
     Result<void> showTab(int tab) override;

@@ -59,16 +59,18 @@ void TestNewestTask::anAnswerMayStartTheNextOrEndTheTask()
 
 void TestNewestTask::whatIsNoLongerWantedEnds()
 {
+    std::atomic_int begun = 0;
     int ended = 0, answers = 0;
     {
         NewestTask task;
         for (int i = 0; i < 3; ++i) {
             QVERIFY(task.start([&](const std::atomic_bool &isUnwanted) {
+                ++begun;
                 lastWhileWanted(isUnwanted);
                 ended += isUnwanted ? 1 : 0;
                 return [&answers] { ++answers; };
             }));
-            QTest::qWait(20); // it is under way
+            QTRY_COMPARE(begun.load(), i + 1);
         }
     }
     QCoreApplication::processEvents();

@@ -1,6 +1,8 @@
 #include "file_store.h"
 #include "files.h"
+#include "ppd_file.h"
 #include "property_list.h"
+#include "sample_ppds.h"
 #include "table.h"
 #include "ticket_file.h"
 
@@ -69,6 +71,11 @@ void TestTickets::handsOutWhatTheSessionKnows()
     QCOMPARE(PMPrinterGetDescriptionURL(printer, key, &url), kPMKeyNotFound);
     QCOMPARE(PMPrinterGetDescriptionURL(printer, kPMPPDDescriptionType, &url), noErr);
     QCOMPARE(QUrl(url).toLocalFile(), path);
+    // What came from a server is a file, too, for whoever reads it.
+    const QByteArray ppd = bytesOf(samplePpd(u"full"_s));
+    session.setPrinter({u"Hall 3"_s, {}, PpdFile::fromBytes(ppd, u"Hall 3"_s).value()});
+    QCOMPARE(PMPrinterGetDescriptionURL(printer, kPMPPDDescriptionType, &url), noErr);
+    QVERIFY(!ppd.isEmpty() && bytesOf(QUrl(url).toLocalFile()) == ppd);
 }
 
 void TestTickets::readsAnEntryAsItsOwnTypeOnly()

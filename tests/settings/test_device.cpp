@@ -144,6 +144,10 @@ void TestDevice::opensTheSessionsPpdOnceAndTriesAgainAfterAFailure()
     QCOMPARE(PPDGetCurrent(), ppd); // until it is closed
     PPDCloseCurrent();
     QCOMPARE(PPDGetCurrent()->modelName(), QStringLiteral("Kelvo Corvane C90"));
+    PPDCloseCurrent();
+    const auto opened = PpdFile::open(midPpd).value();
+    session.setPrinter({QStringLiteral("hall"), {}, opened});
+    QCOMPARE(PPDGetCurrent(), opened.get()); // not once more
 }
 
 void TestDevice::readsTextsAndDefaults()

@@ -125,7 +125,7 @@ void TestAbout::namesAllThatIsLinked()
         {"libglib-", "GLib"},
         {"libgobject-", "GLib"},
         {"libgio-", "GLib"},
-        {"libpoppler-qt6.", "poppler"},
+        {"libpoppler-", "poppler"},
         {"libqpdf.", "qpdf"},
         {"libebook-", "evolution-data-server"},
         {"libedataserver-", "evolution-data-server"},

@@ -19,7 +19,7 @@ const char *const configuration =
 
 PrivateBus::~PrivateBus()
 {
-    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    qunsetenv(m_variable);
     m_daemon.terminate();
     m_daemon.waitForFinished(3000);
 }
@@ -42,6 +42,6 @@ QString PrivateBus::start(const QString &serviceFolder, const QProcessEnvironmen
         return QStringLiteral("dbus-daemon does not start: ")
             + QString::fromUtf8(m_daemon.readAllStandardError());
     m_address = QString::fromUtf8(m_daemon.readLine().trimmed());
-    qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.toUtf8());
+    qputenv(m_variable, m_address.toUtf8());
     return {};
 }

@@ -62,7 +62,8 @@ void waitUntilPainted(const PrintDialog &dialog, QWidget *window)
     waited.start();
     do
         QApplication::processEvents(QEventLoop::AllEvents, tickMs);
-    while ((dialog.isDrawing() || inspector::isUnfinished(window)) && waited.elapsed() < paintMs);
+    while ((dialog.isDrawing(&dialog) || inspector::isUnfinished(window))
+           && waited.elapsed() < paintMs);
     window->grab(); // lays out
     QApplication::processEvents();
 }

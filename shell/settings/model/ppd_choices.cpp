@@ -100,9 +100,14 @@ PpdFile *PPDGetCurrent()
     if (currentPpd)
         return currentPpd.get();
     PMPrinter printer = nullptr;
+    if (PMSessionGetCurrentPrinter(GetCurrentPrintSession(), &printer) != noErr)
+        return nullptr;
+    if (printer->ppd) {
+        currentPpd = printer->ppd;
+        return currentPpd.get();
+    }
     QString url;
-    if (PMSessionGetCurrentPrinter(GetCurrentPrintSession(), &printer) != noErr
-        || PMPrinterGetDescriptionURL(printer, kPMPPDDescriptionType, &url) != noErr)
+    if (PMPrinterGetDescriptionURL(printer, kPMPPDDescriptionType, &url) != noErr)
         return nullptr;
     const QString path = localPathOf(url);
     if (path.isEmpty())

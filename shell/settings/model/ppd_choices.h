@@ -10,13 +10,14 @@
 #include <cstdint>
 #include <optional>
 
-// The current printer's PPD, opened once, and its choices in the print ticket.
+// The current printer's PPD, which the host has open or which is opened once, and its choices
+// in the print ticket.
 // Nothing here reports an error: what is missing yields none, -1 or an empty
 // menu.
 namespace kelvo {
 
 // The PPD of the current print session's printer, opened on first use; null
-// while that fails, and the next call tries again. Owned by the cache.
+// while that fails, and the next call tries again. Owned by the cache; the host's, too.
 PpdFile *PPDGetCurrent();
 void PPDCloseCurrent();
 

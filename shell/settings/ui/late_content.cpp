@@ -1,5 +1,7 @@
 #include "late_content.h"
 
+#include "audience.h"
+
 #include <QEvent>
 #include <QPointer>
 #include <QTimer>
@@ -26,8 +28,17 @@ public:
             return;
         }
         m_pane->installEventFilter(this);
-        m_window->installEventFilter(this);
-        QTimer::singleShot(kLongestWaitMs, this, &LateBuilder::run);
+        switch (audience()) {
+        case Audience::People:
+            m_window->installEventFilter(this);
+            QTimer::singleShot(kLongestWaitMs, this, &LateBuilder::run);
+            break;
+        case Audience::Script:
+            QTimer::singleShot(0, this, &LateBuilder::run);
+            break;
+        case Audience::Nobody:
+            break;
+        }
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override

@@ -1,5 +1,6 @@
 #include "delivery.h"
 #include "files.h"
+#include "pdf_ahead.h"
 #include "pdf_samples.h"
 #include "property_list.h"
 #include "sample_documents.h"
@@ -8,6 +9,7 @@
 #include "ticket_attachment.h"
 
 #include <QCryptographicHash>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -24,6 +26,7 @@ class TestPreparedJobs : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase_data();
     void init();
     void carryTheTicketWhoseHashTheyName();
     void takeOlderTicketsOutWhereverTheyHang_data();
@@ -40,6 +43,7 @@ private slots:
     void sayWhenTheDiskIsFullBefore();
 
 private:
+    Result<Document> open(const QString &path);
     Document documentFrom(const QByteArray &pdf);
     JobRequest request(const QString &ppd, int pages = 3,
                        const QMap<QString, QByteArray> &attachments = {});
@@ -47,6 +51,22 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::shared_ptr<PpdFile> m_ppd;
 };
+
+// Everything holds for documents that are read again and for those that a helper has kept.
+void TestPreparedJobs::initTestCase_data()
+{
+    const Table<bool> row{"isKept"};
+    row("read again", false);
+    row("kept", true);
+}
+
+Result<Document> TestPreparedJobs::open(const QString &path)
+{
+    QFETCH_GLOBAL(bool, isKept);
+    const std::atomic_bool notCancelled = false;
+    return openDocument({path, QStringLiteral("sample")}, notCancelled,
+                        isKept ? PdfAhead::start(kTicketAttachmentName) : nullptr);
+}
 
 void TestPreparedJobs::init()
 {
@@ -61,7 +81,7 @@ JobRequest TestPreparedJobs::request(const QString &ppd, int pages,
     writePdf(path, pages, attachments);
     m_ppd = ppd.isEmpty() ? nullptr : PpdFile::open(ppd).value();
     JobRequest request;
-    request.document = documentFromPdf(path, QStringLiteral("sample")).value();
+    request.document = open(path).value();
     request.ppd = m_ppd.get();
     request.secretKeys = {{"Job/Password"}, {"Recipients"}};
     request.ticket.printSettings.ppdChoices["MediaType"] = "Transparency";
@@ -75,7 +95,7 @@ Document TestPreparedJobs::documentFrom(const QByteArray &pdf)
     if (!file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size())
         return {};
     file.close();
-    const auto document = documentFromPdf(file.fileName(), {});
+    const auto document = open(file.fileName());
     return document ? document.value() : Document();
 }
 
@@ -112,6 +132,10 @@ void TestPreparedJobs::carryTheTicketWhoseHashTheyName()
     QCOMPARE(optionOf(job.value(), "kelvo-ticket"), "1:" + hash.toHex() + ":passcode");
     QCOMPARE(modeOf(job.value().pdfPath), 0600U);
     QVERIFY(job.value().hasPasscode && !job.value().isFax);
+    // What was kept is written beside the document.
+    QFETCH_GLOBAL(bool, isKept);
+    const auto folder = [](const QString &path) { return QFileInfo(path).path(); };
+    QCOMPARE(folder(job.value().pdfPath) == folder(wanted.document.pdfPath()), isKept);
     for (const JobOption &option : job.value().options)
         QVERIFY(option.value == optionOf(job.value(), "kelvo-ticket")
                 || !option.value.contains("1234"));
@@ -472,6 +496,7 @@ void TestPreparedJobs::keepWhatStandsThereOnAFullDisk()
 void TestPreparedJobs::sayWhenTheDiskIsFullBefore()
 {
     const JobRequest wanted = request(reads, 200);
+    QVERIFY(prepareJob(wanted)); // a helper that runs already does not know of the limit
     {
         const FullDisk full(500);
         const auto job = prepareJob(wanted);

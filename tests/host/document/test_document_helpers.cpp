@@ -2,6 +2,7 @@
 #include "document.h"
 #include "document_helper.h"
 #include "page_drawing.h"
+#include "pdf_ahead.h"
 #include "sample_documents.h"
 #include "table.h"
 #include "texts.h"
@@ -12,6 +13,7 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <csignal>
 #include <fcntl.h>
 #include <linux/landlock.h>
 #include <sys/prctl.h>
@@ -37,6 +39,7 @@ private slots:
     void areAskedForEverything();
     void openNothingElse_data();
     void openNothingElse();
+    void areDoneWithoutWhereTheyEndBefore();
     void saySoWhenTheyFail_data();
     void saySoWhenTheyFail();
 };
@@ -186,6 +189,30 @@ void TestDocumentHelpers::openNothingElse()
         QCOMPARE(WEXITSTATUS(status), mayRead ? OpenFile | Allowed | Made : OpenFile);
     else if (!mayRead)
         QCOMPARE(WEXITSTATUS(status) & ~Removed, OpenFile);
+}
+
+// The system may end one that waits with a document, for its memory.
+void TestDocumentHelpers::areDoneWithoutWhereTheyEndBefore()
+{
+    const QByteArray list = QFileInfo("started").absoluteFilePath().toLocal8Bit();
+    setDocumentHelperFolder(scriptedHelpers("#!/bin/sh\necho $$ >> " + list + "\nexec \""
+                                            + helperFolder().toUtf8() + "/${0##*/}\" \"$@\"\n"));
+    const std::atomic_bool notCancelled = false;
+    const auto document =
+        openDocument({sample(), {}}, notCancelled, PdfAhead::start(kTicketAttachmentName));
+    QVERIFY2(document, qPrintable(document.reason()));
+    QFile started("started");
+    QVERIFY(started.open(QIODevice::ReadOnly));
+    const QList<QByteArray> numbers = started.readAll().simplified().split(' ');
+    QCOMPARE(numbers.size(), 2);
+    for (const QByteArray &number : numbers)
+        QCOMPARE(::kill(number.toInt(), SIGKILL), 0);
+
+    QVERIFY(!replacedTicketAhead(document.value(), "ticket"));
+
+    const QString out = QFileInfo("out").absoluteFilePath();
+    QFile::remove(out);
+    QVERIFY(replaceTicket(document.value().pdfPath(), "ticket", out));
 }
 
 void TestDocumentHelpers::saySoWhenTheyFail_data()

@@ -76,7 +76,16 @@ public:
         m_window.show();
     }
 
-    bool isIdle() const override { return idle; }
+    bool isIdle() const override
+    {
+        ++looks;
+        return idle;
+    }
+    bool isDrawing(const QWidget *) const override { return isBare; }
+    void drawPutOff() override
+    {
+        QTimer::singleShot(20, &m_window, [this] { isBare = false; });
+    }
     QWidget *window() override { return &m_window; }
     Result<void> showPanel(const QString &) override { return {}; }
     Result<void> showTab(int tab) override
@@ -132,6 +141,8 @@ public:
     void close(ExitStatus status) { m_finished = status; }
 
     bool idle = true;
+    bool isBare = false;   // what it shows is still to be drawn
+    mutable int looks = 0; // of the runner, whether it may go on
     int printPresses = 0;
     bool noticeAtPrint = false;
     QString printProblem;
@@ -188,6 +199,7 @@ private slots:
     void saysWhatWouldHaveWorked_data();
     void saysWhatWouldHaveWorked();
     void printsAtTheEndWhenAsked();
+    void leavesTheProcessorAloneWhileItWaits();
     void endsWithADialogThatOthersClose_data();
     void endsWithADialogThatOthersClose();
 };
@@ -397,6 +409,20 @@ void TestScriptRunner::printsAtTheEndWhenAsked()
     FakeDialog cancelled;
     QCOMPARE(static_cast<int>(run(cancelled, "cancel", true)), 0);
     QCOMPARE(cancelled.printPresses, 0);
+}
+
+void TestScriptRunner::leavesTheProcessorAloneWhileItWaits()
+{
+    FakeDialog dialog;
+    dialog.idle = false;
+    dialog.isBare = true;
+    QTimer::singleShot(400, dialog.window(), [&] { dialog.idle = true; });
+
+    QCOMPARE(static_cast<int>(run(dialog, "expect KPDE 614 enabled true\ntab 4")), 0);
+    QVERIFY(!dialog.isBare);
+
+    // As often as something happens: the window is shown, the menu's button gets the focus.
+    QVERIFY2(dialog.looks < 30, qPrintable(QString::number(dialog.looks)));
 }
 
 void TestScriptRunner::endsWithADialogThatOthersClose_data()

@@ -1,12 +1,15 @@
+#include "audience.h"
 #include "document_preview.h"
 #include "preview_captions.h"
 #include "sample_documents.h"
 #include "table.h"
 
 #include <QLabel>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 using namespace kelvo;
@@ -53,6 +56,16 @@ QColor middle(DocumentPreview &preview)
     return image.pixelColor(image.rect().center());
 }
 
+// Says how often it was painted.
+class PaintCounter : public QWidget
+{
+public:
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *) override { ++paints; }
+};
+
 } // namespace
 
 class TestDocumentPreview : public QObject
@@ -72,6 +85,7 @@ private slots:
     void beginsWithTheLeadingPage();
     void showsPaperAndMessages();
     void drawsWhatIsPrinted();
+    void drawsForAScriptWhenItLooks();
     void showsWhatIsCutOff();
 };
 
@@ -419,6 +433,35 @@ void TestDocumentPreview::drawsWhatIsPrinted()
 
 // Print at the edges of a page that is larger than the paper is lost: it is in sight
 // all the same, and told from what comes out.
+void TestDocumentPreview::drawsForAScriptWhenItLooks()
+{
+    setAudience(Audience::Script);
+    const auto back = qScopeGuard([] { setAudience(Audience::People); });
+    PaintCounter window;
+    QVBoxLayout layout(&window);
+    DocumentPreview preview;
+    layout.addWidget(&preview);
+    preview.setDocument(documentOf({filled("1 0 0"), filled("0 0 1")}));
+    window.resize(300, 400);
+    window.show();
+    button(preview, "previewNext")->click();
+    QTest::qWait(50);
+    QVERIFY(preview.isDrawing());
+    QCOMPARE(window.paints, 0);
+
+    preview.drawPutOff();
+    QTRY_VERIFY(!preview.isDrawing());
+    QCOMPARE(middle(preview), QColor(Qt::blue));
+    window.update();
+    QCoreApplication::processEvents();
+    QCOMPARE(window.paints, 0);
+    QCOMPARE(window.grab().size(), window.size());
+    QCOMPARE(window.paints, 1); // pictures are all that is painted
+
+    button(preview, "previewPrevious")->click();
+    QVERIFY(preview.isDrawing()); // another side is put off again
+}
+
 void TestDocumentPreview::showsWhatIsCutOff()
 {
     DocumentPreview preview;

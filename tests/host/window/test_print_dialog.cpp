@@ -410,7 +410,7 @@ void TestPrintDialog::whatTheBundleDrawsIsSeenOverPages()
         const QImage image = shown.find<QWidget>("previewSheet")->grab().toImage();
         return image.pixelColor(image.rect().center());
     };
-    QTRY_VERIFY(!shown.dialog.isDrawing());
+    QTRY_VERIFY(!shown.dialog.isDrawing(&shown.dialog));
     QVERIFY(colour() != QColor(Qt::blue));
 
     const auto changeStore = [&](const QByteArray &name) {

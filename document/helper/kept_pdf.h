@@ -1,0 +1,45 @@
+#pragma once
+
+#include "pdf_file.h"
+#include "pdf_pages.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace kelvo::documents {
+
+// The steps of which tasks on PDFs are made. They throw what libqpdf throws.
+
+// Loads `pdf` from the source of `files` and looks at it, as tidyPdf() of document/pdf_pages.h
+// says; one that is not sound is written to their target. Errors are about `source`.
+Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source);
+// Every file that a reader could find under `name`, and what stands for it.
+void takeEmbeddedFileOut(QPDF &pdf, const QString &name);
+// Writes the document's list of files anew, with one of these `bytes`, or with none for null.
+void embedFile(QPDF &pdf, const QString &name, const QByteArray &mimeType, const QByteArray &bytes);
+
+// A PDF that is read once: it is checked, and kept until it is known what goes into it.
+class KeptPdf
+{
+public:
+    // As tidyPdf() of tasks.h. One that is sound is kept, for write() to make a PDF at
+    // `written` of it.
+    Result<PdfPages> tidy(const QString &source, const QString &target, const QString &written,
+                          const QString &name);
+    // Takes the file called `name` out of what was kept; nothing where nothing is.
+    void prepare();
+    // Once, after prepare(): with `bytes` as the file called `name`, as replaceEmbeddedFile() does
+    // it. Damaged also where nothing was kept.
+    Result<void> write(const QByteArray &mimeType, const QByteArray &bytes);
+
+private:
+    QPDF m_pdf;
+    std::optional<OutputFile> m_target; // none: nothing is kept
+    QString m_source, m_name;
+    Result<void> m_prepared;
+};
+
+} // namespace kelvo::documents

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "printers.h"
+#include "result.h"
+
+namespace kelvo {
+
+class Patience;
+
+// What PrinterDirectory asks a server. Both block.
+
+// Its queues, and instances of them that the user has set up, the default one first, else
+// by name. One request, and another one where the server has to say which is the default.
+// What only announces itself in the network is not among them: it has no queue yet, and
+// libcups waits for it a quarter of a second (cupsGetDests2).
+Result<QList<Printer>> readPrinters(Patience &patience);
+
+Result<PrinterCondition> readCondition(const QString &printer, Patience &patience);
+
+} // namespace kelvo
