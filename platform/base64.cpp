@@ -99,7 +99,9 @@ bool Base64Reader::addSlowly(unsigned char character)
 
 void Base64Reader::add(QByteArrayView text)
 {
-    m_bytes.resize(m_used + text.size() / 4 * 3 + 8); // a group that was begun, and one byte more
+    // A group that was begun, and one byte more.
+    if (const qsizetype room = m_used + text.size() / 4 * 3 + 8; room > m_bytes.size())
+        m_bytes.resize(room);
     char *const bytes = m_bytes.data();
     const auto *from = reinterpret_cast<const unsigned char *>(text.data());
     const auto *const end = from + text.size();
@@ -121,19 +123,18 @@ void Base64Reader::add(QByteArrayView text)
 
 std::optional<QByteArray> Base64Reader::take()
 {
-    Base64Reader whole = std::exchange(*this, {});
-    if (whole.m_isBad || (whole.m_held != 0 && whole.m_held + whole.m_padding != 4))
+    const int held = std::exchange(m_held, 0);
+    const int padding = std::exchange(m_padding, 0);
+    const std::uint32_t group = std::exchange(m_group, 0) << 6 * padding;
+    qsizetype used = std::exchange(m_used, 0);
+    if (std::exchange(m_isBad, false) || (held != 0 && held + padding != 4))
         return std::nullopt;
-    if (whole.m_held != 0) {
-        whole.m_bytes.resize(whole.m_used + 2);
-        const std::uint32_t group = whole.m_group << 6 * whole.m_padding;
-        whole.m_bytes[whole.m_used++] = static_cast<char>(group >> 16);
-        if (whole.m_held == 3)
-            whole.m_bytes[whole.m_used++] = static_cast<char>(group >> 8);
+    if (held != 0) {
+        m_bytes.data()[used++] = static_cast<char>(group >> 16);
+        if (held == 3)
+            m_bytes.data()[used++] = static_cast<char>(group >> 8);
     }
-    whole.m_bytes.resize(whole.m_used);
-    whole.m_bytes.squeeze(); // it is kept
-    return std::move(whole.m_bytes);
+    return QByteArray(m_bytes.constData(), used);
 }
 
 } // namespace kelvo

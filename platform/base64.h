@@ -18,6 +18,7 @@ class Base64Reader
 {
 public:
     void add(QByteArrayView text);
+    bool isBad() const { return m_isBad; } // a character was none of base64
     // What it stood for; nothing where a character was none of base64, or the last group has no
     // padding: a text that was cut off must not be taken. Begins anew.
     std::optional<QByteArray> take();
@@ -25,8 +26,8 @@ public:
 private:
     bool addSlowly(unsigned char character);
 
-    QByteArray m_bytes;
-    qsizetype m_used = 0;      // of m_bytes
+    QByteArray m_bytes;        // keeps its memory
+    qsizetype m_used = 0;      // of it
     std::uint32_t m_group = 0; // of digits, six bits each
     int m_held = 0;            // digits in the group
     int m_padding = 0;         // "=" behind it

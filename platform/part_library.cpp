@@ -13,9 +13,10 @@ Result<const void *> openPartLibrary(const PartLibrary &library, const QString &
     if (!QFileInfo::exists(path))
         return Error{Error::Code::NotFound, path, translate(library.context, library.isMissing)};
     QLibrary file(path);
-    // A symbol that is missing shows here and not in the middle of its work; what is in use
-    // outlives whoever has asked for it.
-    file.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
+    // What is in use outlives whoever has asked for it.
+    file.setLoadHints(
+        QLibrary::PreventUnloadHint
+        | (library.isBoundLazily ? QLibrary::LoadHints() : QLibrary::ResolveAllSymbolsHint));
     if (!file.load()) {
         return Error{Error::Code::NotReadable, path,
                      translate(library.context, library.cannotBeLoaded).arg(file.errorString())};

@@ -17,6 +17,10 @@ struct PartLibrary
     const char *isMissing;
     const char *cannotBeLoaded; // %1: why
     const char *isOfAnother;    // %1: our version
+    // Whether names are looked up as they are used. For what is nearly all of the program, and
+    // of the same installation; elsewhere one that is missing shows at once and not in the middle
+    // of the part's work.
+    bool isBoundLazily = false;
 };
 
 // What the library has, a pointer to the very class that openPart() is asked for; null where

@@ -26,8 +26,8 @@ namespace {
 
 using Code = Error::Code;
 
-constexpr qsizetype kPiece = 128 * 1024; // bytes
-constexpr qsizetype kShownText = 60;     // bytes of a text that is wrong
+constexpr qsizetype kShownText = 60;         // bytes of a text that is wrong
+constexpr std::size_t kLeastPassedBy = 4096; // bytes of base64 that expat need not see
 
 // The elements of a property list. Root is the list itself; it and the two
 // containers hold values, the rest hold text or nothing.
@@ -185,6 +185,8 @@ private:
         bool hasKey = false;
     };
 
+    bool feed(std::string_view xml);
+    bool passBy(std::string_view base64, std::size_t at);
     void begin(std::string_view name);
     void end();
     void text(std::string_view part);
@@ -199,6 +201,9 @@ private:
     std::optional<Element> m_leaf; // the element whose text is being collected
     QByteArray m_text;             // of data, what an error would show
     Base64Reader m_data;
+    XML_Index m_dataBegin = -1; // where the content of the last <data> begins, as expat counts
+    std::size_t m_passedBy = 0; // bytes that expat has not been given, and lines
+    quint64 m_linesPassedBy = 0;
     KeyCache m_keys;
     qint64 m_nodes = 0;
     std::optional<QVariant> m_list;
@@ -211,7 +216,7 @@ void Parser::fail(Code code, const QString &detail)
     if (m_error)
         return;
     m_error = Error{code, {}, detail};
-    m_errorLine = XML_GetCurrentLineNumber(m_expat.get());
+    m_errorLine = XML_GetCurrentLineNumber(m_expat.get()) + m_linesPassedBy;
     XML_StopParser(m_expat.get(), XML_FALSE);
 }
 
@@ -251,6 +256,9 @@ void Parser::begin(std::string_view name)
     if (!isContainer(*element)) {
         m_leaf = *element;
         m_text.resize(0); // keeps its memory
+        if (*element == Element::Data)
+            m_dataBegin =
+                XML_GetCurrentByteIndex(m_expat.get()) + XML_GetCurrentByteCount(m_expat.get());
         return;
     }
     if (m_frames.size() > static_cast<std::size_t>(limits::plistDepth)) // one is <plist>
@@ -366,6 +374,48 @@ void Parser::add(QVariant value)
     }
 }
 
+// Gives all of `xml` to expat but for large base64, which is nearly all of a store: expat looks at
+// each byte twice, and all of it would be copied in between. False where expat gives up.
+bool Parser::feed(std::string_view xml)
+{
+    constexpr std::string_view tag = "<data>";
+    std::size_t given = 0;
+    const auto give = [&](std::size_t end, bool isLast) {
+        const std::size_t begin = std::exchange(given, end);
+        return XML_Parse(m_expat.get(), xml.data() + begin, static_cast<int>(end - begin), isLast)
+            == XML_STATUS_OK;
+    };
+    for (std::size_t at = xml.find(tag); at != xml.npos; at = xml.find(tag, at)) {
+        at += tag.size();
+        const std::size_t end = std::min(xml.find('<', at), xml.size());
+        if (end - at >= kLeastPassedBy) {
+            if (!give(at, false))
+                return false;
+            if (passBy(xml.substr(at, end - at), at))
+                given = end;
+        }
+        at = end;
+    }
+    return give(xml.size(), true);
+}
+
+// Whether `base64`, which stands at `at`, is the content of a <data> that expat has just seen begin
+// there (it may be part of a comment), has no other characters, and is taken.
+bool Parser::passBy(std::string_view base64, std::size_t at)
+{
+    if (m_leaf != Element::Data || m_dataBegin != static_cast<XML_Index>(at - m_passedBy))
+        return false;
+    m_data.add(base64);
+    if (m_data.isBad()) {
+        static_cast<void>(m_data.take());
+        return false;
+    }
+    m_text = QByteArray(base64.data(), kShownText);
+    m_passedBy += base64.size();
+    m_linesPassedBy += static_cast<quint64>(std::ranges::count(base64, '\n'));
+    return true;
+}
+
 Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
 {
     XML_Parser expat = m_expat.get();
@@ -393,16 +443,8 @@ Result<QVariant> Parser::parse(const QByteArray &xml, const QString &name)
             translate("Files", "uses the unknown entity “%1”").arg(QString::fromUtf8(entity)));
     });
 
-    // In pieces that stay in the processor's memory: expat copies what it is given.
-    XML_Status status = XML_STATUS_OK;
-    for (qsizetype at = 0, size = 0; status == XML_STATUS_OK; at += size) {
-        size = std::min(kPiece, xml.size() - at);
-        const bool isLast = at + size == xml.size();
-        status = XML_Parse(expat, xml.constData() + at, static_cast<int>(size), isLast);
-        if (isLast)
-            break;
-    }
-    if (!m_error && status == XML_STATUS_OK && m_list)
+    const bool isRead = feed({xml.constData(), static_cast<std::size_t>(xml.size())});
+    if (!m_error && isRead && m_list)
         return *std::move(m_list);
     if (!m_error) {
         const char *reason = XML_ErrorString(XML_GetErrorCode(expat));

@@ -439,19 +439,29 @@ Done drag(QWidget *control, double dx, double dy)
     return {};
 }
 
+namespace {
+
+// Whether `test` holds for something that is shown in `shown`. Most of a window is in hidden tabs,
+// and each line of a script asks.
+bool isAnyShown(const QWidget *shown, bool (*test)(QWidget *control))
+{
+    return std::ranges::any_of(shown->children(), [test](QObject *child) {
+        auto *control = qobject_cast<QWidget *>(child);
+        return control && control->isVisible() && (test(control) || isAnyShown(control, test));
+    });
+}
+
+} // namespace
+
 bool isUnfinished(const QWidget *window)
 {
-    const QList<QWidget *> widgets = window->findChildren<QWidget *>();
-    return std::ranges::any_of(widgets, [](QWidget *each) {
-        return each->isVisible() && controlInterface(each)->isUnfinished();
-    });
+    return isAnyShown(window,
+                      [](QWidget *control) { return controlInterface(control)->isUnfinished(); });
 }
 
 bool isAwaited(const QWidget *window)
 {
-    return std::ranges::any_of(window->findChildren<QWidget *>(), [](const QWidget *control) {
-        return control->isVisible() && kelvo::isAwaited(control);
-    });
+    return isAnyShown(window, [](QWidget *control) { return kelvo::isAwaited(control); });
 }
 
 Done command(QWidget *window, OSType code)

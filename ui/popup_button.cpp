@@ -5,11 +5,11 @@
 #include "tool_tip.h"
 
 #include <QAbstractItemView>
-#include <QAbstractListModel>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QStandardItemModel>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -36,83 +36,48 @@ bool canBeChosen(const MenuItem &item)
 // where what counts as readable begins at 4.5:1.
 constexpr float placeholderOpacity = 0.72F;
 
-} // namespace
-
-// The lines of a menu as Qt's combo box, its list and screen readers ask for them.
-class MenuLines : public QAbstractListModel
+QStandardItem *lineFor(const MenuItem &item)
 {
-public:
-    using QAbstractListModel::QAbstractListModel;
-
-    const Menu &menu() const { return m_menu; }
-    void setMenu(Menu menu)
-    {
-        beginResetModel();
-        m_menu = std::move(menu);
-        endResetModel();
+    auto *line = new QStandardItem(oneLine(item.text));
+    if (item.divider) {
+        line->setText({});
+        line->setData(QStringLiteral("separator"), Qt::AccessibleDescriptionRole);
     }
+    if (!canBeChosen(item))
+        line->setFlags(line->flags() & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable));
+    return line;
+}
 
-    int rowCount(const QModelIndex &parent = {}) const override
-    {
-        return parent.isValid() ? 0 : static_cast<int>(m_menu.items.size());
-    }
-
-    QVariant data(const QModelIndex &index, int role) const override
-    {
-        if (!index.isValid())
-            return {};
-        const MenuItem &item = itemAt(index);
-        if (role == Qt::DisplayRole || role == Qt::EditRole)
-            return item.divider ? QString() : oneLine(item.text);
-        // Qt's word for a line that is drawn as one.
-        if (role == Qt::AccessibleDescriptionRole && item.divider)
-            return QStringLiteral("separator");
-        return {};
-    }
-
-    Qt::ItemFlags flags(const QModelIndex &index) const override
-    {
-        const Qt::ItemFlags usual = QAbstractListModel::flags(index);
-        return index.isValid() && !canBeChosen(itemAt(index))
-            ? usual & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable)
-            : usual;
-    }
-
-private:
-    const MenuItem &itemAt(const QModelIndex &index) const
-    {
-        return m_menu.items[static_cast<std::size_t>(index.row())];
-    }
-
-    Menu m_menu;
-};
+} // namespace
 
 PopupButton::PopupButton(QWidget *parent)
     : QComboBox(parent)
-    , m_lines(new MenuLines(this))
 {
-    setModel(m_lines);
     guardWheel(this);
     // Its own sizes are said below: with a policy for them Qt would make the list at once.
     setMinimumContentsLength(leastCharacters);
     connect(this, &QComboBox::activated, this, &PopupButton::send);
 }
 
-const Menu &PopupButton::menu() const
-{
-    return m_lines->menu();
-}
-
+// The lines are in the model that Qt has made: giving it one of our own costs more than all lines
+// of a panel.
 void PopupButton::setMenu(Menu menu)
 {
-    m_maximum = static_cast<int>(menu.items.size());
+    m_menu = std::move(menu);
+    m_maximum = static_cast<int>(m_menu.items.size());
     m_widest = m_measured = 0;
 
     const QSignalBlocker silence(this);
-    m_lines->setMenu(std::move(menu));
-    const auto &items = this->menu().items;
-    const auto first = std::ranges::find_if(items, canBeChosen);
-    setCurrentIndex(first == items.end() ? -1 : static_cast<int>(first - items.begin()));
+    clear();
+    QList<QStandardItem *> lines;
+    lines.reserve(m_maximum);
+    for (const MenuItem &item : m_menu.items)
+        lines.append(lineFor(item));
+    if (!lines.isEmpty())
+        static_cast<QStandardItemModel *>(model())->invisibleRootItem()->appendRows(lines);
+    const auto first = std::ranges::find_if(m_menu.items, canBeChosen);
+    setCurrentIndex(first == m_menu.items.end() ? -1
+                                                : static_cast<int>(first - m_menu.items.begin()));
     updateGeometry();
 }
 
@@ -130,7 +95,7 @@ void PopupButton::setValue(int value)
 const MenuItem *PopupButton::chosenItem() const
 {
     const int shown = value();
-    return shown > 0 && shown <= count() ? &menu().items[shown - 1] : nullptr;
+    return shown > 0 && shown <= int(m_menu.items.size()) ? &m_menu.items[shown - 1] : nullptr;
 }
 
 std::int32_t PopupButton::chosenReference() const
@@ -141,11 +106,10 @@ std::int32_t PopupButton::chosenReference() const
 
 bool PopupButton::setValueByReference(std::int32_t reference)
 {
-    const auto &items = menu().items;
-    const auto found = std::ranges::find(items, reference, &MenuItem::reference);
-    if (found == items.end())
+    const auto found = std::ranges::find(m_menu.items, reference, &MenuItem::reference);
+    if (found == m_menu.items.end())
         return false;
-    setValue(static_cast<int>(found - items.begin()) + 1);
+    setValue(static_cast<int>(found - m_menu.items.begin()) + 1);
     return true;
 }
 
@@ -157,7 +121,7 @@ QString PopupButton::shownText() const
 bool PopupButton::choose(int value)
 {
     if (!isEnabled() || value < 1 || value > count()
-        || !canBeChosen(menu().items[static_cast<std::size_t>(value - 1)]))
+        || !canBeChosen(m_menu.items[static_cast<std::size_t>(value - 1)]))
         return false;
     setValue(value);
     send(value - 1);
@@ -169,7 +133,7 @@ void PopupButton::send(int index)
     if (index < 0 || index >= count())
         return;
     // Handlers may fill the menu anew, or close the window.
-    const MenuItem item = menu().items[static_cast<std::size_t>(index)];
+    const MenuItem item = m_menu.items[static_cast<std::size_t>(index)];
     const QPointer<PopupButton> alive = this;
     sendFrom(this, EventKind::Menu, item.command, item.reference);
     if (alive && item.command != kNoCommand)
@@ -190,22 +154,30 @@ QString PopupButton::elidedText(const QStyleOptionComboBox &option) const
     return option.fontMetrics.elidedText(shownText(), Qt::ElideRight, textRect(option).width());
 }
 
-// As Qt's combo box with AdjustToMinimumContentsLengthWithIcon has it, with room for an icon.
+void PopupButton::setHasIconRoom(bool hasRoom)
+{
+    m_hasIconRoom = hasRoom;
+    m_least = QSize();
+    updateGeometry();
+}
+
+// As Qt's combo box with AdjustToMinimumContentsLengthWithIcon has it.
 QSize PopupButton::minimumSizeHint() const
 {
     if (m_least.isValid())
         return m_least;
     constexpr int besideIcon = 4, aroundText = 2, leastText = 14;
     const QFontMetrics metrics = fontMetrics();
-    const int text = std::max(qCeil(QFontMetricsF(metrics).height()), leastText);
+    const int icon = m_hasIconRoom ? iconSize().width() + besideIcon : 0;
+    const int height = std::max({qCeil(QFontMetricsF(metrics).height()), leastText,
+                                 m_hasIconRoom ? iconSize().height() : 0});
+    const int width =
+        std::max(minimumContentsLength() * metrics.horizontalAdvance(u'X') + icon,
+                 placeholderText().isEmpty() ? 0 : metrics.boundingRect(placeholderText()).width());
+    const QSize contents(width, height + aroundText);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    m_least =
-        style()->sizeFromContents(QStyle::CT_ComboBox, &option,
-                                  QSize(minimumContentsLength() * metrics.horizontalAdvance(u'X')
-                                            + iconSize().width() + besideIcon,
-                                        std::max(text, iconSize().height()) + aroundText),
-                                  this);
+    m_least = style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
     return m_least;
 }
 

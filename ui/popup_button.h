@@ -11,14 +11,13 @@ class QStyleOptionComboBox;
 namespace kelvo {
 
 class ControlInterface;
-class MenuLines;
 
 // A pop-up button: shows one item of its menu. It sends Menu, then Command when
 // the item has one, then ControlHit, and only when the user chooses. Values are
 // 1-based, 0 when nothing is shown. Dividers and disabled items cannot be
 // chosen. Submenus are not shown: a pop-up's menu is flat. A long text is elided
-// in the button and stands whole in its list and its tool tip. The menu is all that
-// it keeps: Qt makes its list when it is opened.
+// in the button and stands whole in its list and its tool tip. Qt's list is made
+// when it is opened.
 class PopupButton : public QComboBox
 {
     Q_OBJECT
@@ -26,11 +25,13 @@ class PopupButton : public QComboBox
     // is only passed on the way must not. While the list is closed, keys open it and the
     // wheel scrolls what is around; a choice takes Return or a click.
     Q_PROPERTY(bool choosesInListOnly READ choosesInListOnly WRITE setChoosesInListOnly)
+    // Its size has room for an icon beside the text, as all have that stand below one another.
+    Q_PROPERTY(bool hasIconRoom READ hasIconRoom WRITE setHasIconRoom)
 
 public:
     explicit PopupButton(QWidget *parent = nullptr);
 
-    const Menu &menu() const;
+    const Menu &menu() const { return m_menu; }
     // Replaces the menu, silently; the value becomes the first item that can be
     // chosen and the maximum the number of items.
     void setMenu(Menu menu);
@@ -52,6 +53,9 @@ public:
 
     bool choosesInListOnly() const { return m_choosesInListOnly; }
     void setChoosesInListOnly(bool inListOnly) { m_choosesInListOnly = inListOnly; }
+
+    bool hasIconRoom() const { return m_hasIconRoom; }
+    void setHasIconRoom(bool hasRoom);
 
     // The last choice was made in the open list; false after an arrow key or the
     // wheel on the closed button, where the next one may follow.
@@ -80,9 +84,10 @@ private:
     QRect textRect(const QStyleOptionComboBox &option) const;
     QString elidedText(const QStyleOptionComboBox &option) const;
 
-    MenuLines *m_lines; // its model, which has the menu
+    Menu m_menu;
     int m_maximum = 0;
     bool m_choosesInListOnly = false;
+    bool m_hasIconRoom = true;
     bool m_isChosenFromList = false;
     mutable QSize m_least;      // not valid: not asked for yet
     mutable int m_widest = 0;   // pixels, of the first m_measured texts of the menu

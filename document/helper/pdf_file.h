@@ -41,7 +41,7 @@ struct PdfFiles
 Result<PdfFiles> openPdfFiles(const QString &source, const QString &target = {},
                               const QString &second = {});
 
-// Takes `source` over, also where it throws.
+// Takes `source` over, also where it throws. Its file must stay as it is for as long as `pdf`.
 void load(QPDF &pdf, std::FILE *source);
 
 // Writes `pdf`, never encrypted. Throws where the document is at fault; NotWritable

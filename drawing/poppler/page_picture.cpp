@@ -1,145 +1,133 @@
-// GLib first: Qt has macros by the names of its members.
-#include <cairo.h>
-#include <poppler.h>
-
 #include "page_picture.h"
-#include "splash_picture.h"
+
+#include "cairo_picture.h"
 
 #include "size_limits.h"
 
-#include <QFile>
+#include <QHash>
 
 #include <algorithm>
-#include <fcntl.h>
+#include <poppler-qt6.h>
 
 namespace kelvo {
 
 namespace {
 
-struct Unref
-{
-    void operator()(gpointer object) const { g_object_unref(object); }
-    void operator()(GBytes *bytes) const { g_bytes_unref(bytes); }
-    void operator()(cairo_surface_t *surface) const { cairo_surface_destroy(surface); }
-    void operator()(cairo_t *context) const { cairo_destroy(context); }
-};
-template <typename Type>
-using Owned = std::unique_ptr<Type, Unref>;
+// How often poppler asks whether it shall go on: about every eleven operators. Dense pages of
+// text have 100. From here on cairo begins anew, which costs a heavy page little.
+constexpr int ordinaryCalls = 200;
 
-// Null: it is no PDF, or needs a password.
-Owned<PopplerDocument> load(const PdfSource &source)
+std::unique_ptr<Poppler::Document> load(const PdfSource &source)
 {
     // It tells every oddity on standard error.
-    g_log_set_handler(
-        "Poppler", GLogLevelFlags(G_LOG_LEVEL_MASK), [](auto...) {}, nullptr);
-    if (source.path.isEmpty()) {
-        const Owned<GBytes> bytes(
-            g_bytes_new_static(source.bytes.constData(), gsize(source.bytes.size())));
-        return Owned<PopplerDocument>(
-            poppler_document_new_from_bytes(bytes.get(), nullptr, nullptr));
-    }
-    // Not by its name: for that, GIO would load all of the desktop's ways to reach files.
-    const int fd = ::open(QFile::encodeName(source.path).constData(), O_RDONLY | O_CLOEXEC);
-    return Owned<PopplerDocument>(
-        fd < 0 ? nullptr : poppler_document_new_from_fd(fd, nullptr, nullptr)); // which closes it
+    Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
+    std::unique_ptr<Poppler::Document> pdf = source.path.isEmpty()
+        ? Poppler::Document::loadFromData(source.bytes)
+        : Poppler::Document::load(source.path);
+    if (!pdf || pdf->isLocked())
+        return nullptr;
+    pdf->setRenderHint(Poppler::Document::Antialiasing);
+    pdf->setRenderHint(Poppler::Document::TextAntialiasing);
+    pdf->setPaperColor(Qt::white);
+    return pdf;
 }
 
-QSizeF sizeOf(PopplerPage &page) // points
+struct BySplash
 {
-    double width = 0;
-    double height = 0;
-    poppler_page_get_size(&page, &width, &height);
-    return {width, height};
-}
-
-QSize fitted(const QSizeF &page, const QSize &room)
-{
-    const double scale = std::min(room.width() / page.width(), room.height() / page.height());
-    return (page * scale).toSize().expandedTo(QSize(1, 1));
-}
-
-Error undrawable()
-{
-    return Error{Error::Code::Damaged, {}, {}};
-}
-
-struct ByCairo
-{
-    drawing::Picture picture;
-    cairo_status_t status; // after another one than success, the picture has a part of the page
+    QImage image; // null: it cannot be drawn
+    bool isLeft;  // it is a heavy page, and only a part of it is drawn
 };
 
-ByCairo drawnByCairo(PopplerPage &page, const QSize &pixels, const QSizeF &perPoint, bool isOnWhite)
+BySplash drawnBySplash(const Poppler::Page &page, const QSize &pixels, double scale,
+                       bool mayBeHeavy)
 {
-    const int stride = 4 * pixels.width();
-    QByteArray bytes(qsizetype(stride) * pixels.height(), '\0');
-    const Owned<cairo_surface_t> surface(cairo_image_surface_create_for_data(
-        reinterpret_cast<unsigned char *>(bytes.data()), CAIRO_FORMAT_ARGB32, pixels.width(),
-        pixels.height(), stride));
-    const Owned<cairo_t> context(cairo_create(surface.get()));
-    cairo_scale(context.get(), perPoint.width(), perPoint.height());
-    poppler_page_render(&page, context.get());
-    if (isOnWhite) {
-        // Not before: what is blended is blended with what the page has, not with its paper.
-        cairo_set_operator(context.get(), CAIRO_OPERATOR_DEST_OVER);
-        cairo_set_source_rgb(context.get(), 1, 1, 1);
-        cairo_paint(context.get());
-    }
-    cairo_surface_finish(surface.get());
-    return {{pixels, bytes}, cairo_status(context.get())};
+    int calls = 0;
+    const auto none = [](const QImage &, const QVariant &) {};
+    const auto never = [](const QVariant &) { return false; };
+    const auto isHeavy = [](const QVariant &counter) {
+        return ++*static_cast<int *>(counter.value<void *>()) > ordinaryCalls;
+    };
+    const QImage image = page.renderToImage(
+        72 * scale, 72 * scale, 0, 0, pixels.width(), pixels.height(), Poppler::Page::Rotate0, none,
+        never, mayBeHeavy ? Poppler::Page::ShouldAbortQueryFunc(never) : isHeavy,
+        QVariant::fromValue<void *>(&calls));
+    return {image, calls > ordinaryCalls};
 }
+
+// A Type 3 font's letters are drawings, whose colors are lost with cairo 1.16.
+bool hasDrawnLetters(const Poppler::Document &pdf, int page)
+{
+    const std::unique_ptr<Poppler::FontIterator> fonts(pdf.newFontIterator(page - 1));
+    return fonts->hasNext()
+        && std::ranges::any_of(fonts->next(), [](const Poppler::FontInfo &font) {
+               return font.type() == Poppler::FontInfo::Type3;
+           });
+}
+
+enum class Way {
+    Unknown, // Splash, as far as it is no heavy page
+    Cairo,
+    Splash, // also of a heavy page
+};
 
 } // namespace
 
 struct PagePictures::Private
 {
-    explicit Private(const PdfSource &from)
-        : source(from)
-        , pdf(load(source))
-        , splash(source)
-    {
-    }
+    PdfSource source;
+    std::unique_ptr<Poppler::Document> pdf; // null: there are no pages
+    std::unique_ptr<CairoPictures> cairo;   // from the first heavy page on
+    QHash<int, Way> ways;                   // of heavy pages
 
-    PdfSource source; // its bytes stay where they are
-    Owned<PopplerDocument> pdf;
-    SplashPictures splash;
+    QImage draw(const Poppler::Page &page, int number, const QSize &pixels, double scale,
+                bool isOnWhite);
 };
 
-PagePictures::PagePictures(const PdfSource &source)
-    : d(std::make_unique<Private>(source))
+QImage PagePictures::Private::draw(const Poppler::Page &page, int number, const QSize &pixels,
+                                   double scale, bool isOnWhite)
 {
+    Way way = ways.value(number, Way::Unknown);
+    if (way == Way::Unknown) {
+        const BySplash drawn = drawnBySplash(page, pixels, scale, false);
+        if (!drawn.isLeft)
+            return drawn.image;
+        way = hasDrawnLetters(*pdf, number) ? Way::Splash : Way::Cairo;
+    }
+    QImage image;
+    if (way == Way::Cairo) {
+        if (!cairo)
+            cairo = CairoPictures::open(source);
+        if (cairo)
+            image = cairo->draw(number, pixels, isOnWhite);
+        if (image.isNull())
+            way = Way::Splash;
+    }
+    ways.insert(number, way);
+    return way == Way::Cairo ? image : drawnBySplash(page, pixels, scale, true).image;
+}
+
+PagePictures::PagePictures(const PdfSource &source)
+    : d(std::make_unique<Private>())
+{
+    d->source = source;
+    d->pdf = load(source);
 }
 
 PagePictures::~PagePictures() = default;
 
-QString PagePictures::version()
+QImage PagePictures::draw(int page, const QSize &room, bool isOnWhite)
 {
-    return QString::fromLatin1(poppler_get_version());
-}
-
-Result<drawing::Picture> PagePictures::draw(int page, const QSize &room, bool isOnWhite)
-{
-    if (!d->pdf || page < 1 || page > poppler_document_get_n_pages(d->pdf.get()))
-        return undrawable();
-    const Owned<PopplerPage> read(poppler_document_get_page(d->pdf.get(), page - 1));
-    const QSizeF points = read ? sizeOf(*read) : QSizeF();
-    if (points.isEmpty())
-        return undrawable();
+    const std::unique_ptr<Poppler::Page> read = d->pdf ? d->pdf->page(page - 1) : nullptr;
+    const QSizeF size = read ? read->pageSizeF() : QSizeF(); // points
     const QSize most = room.boundedTo({limits::drawnSide, limits::drawnSide});
-    if (most.isEmpty())
-        return drawing::Picture{};
-    const QSize pixels = fitted(points, most);
-    const QSizeF perPoint(pixels.width() / points.width(), pixels.height() / points.height());
-
-    if (!d->splash.hasDrawnLetters(page)) {
-        const ByCairo drawn = drawnByCairo(*read, pixels, perPoint, isOnWhite);
-        if (drawn.status == CAIRO_STATUS_SUCCESS)
-            return drawn.picture;
-        if (drawn.status == CAIRO_STATUS_NO_MEMORY)
-            return Error{Error::Code::TooLarge, {}, {}};
-    }
-    const drawing::Picture picture = d->splash.draw(page, pixels, perPoint, isOnWhite);
-    return picture.isNull() ? Result<drawing::Picture>(undrawable()) : picture;
+    if (size.isEmpty() || most.isEmpty())
+        return {};
+    const double scale = std::min(most.width() / size.width(), most.height() / size.height());
+    const QSize pixels = (size * scale).toSize().expandedTo(QSize(1, 1));
+    d->pdf->setRenderHint(Poppler::Document::IgnorePaperColor, !isOnWhite);
+    QImage image = d->draw(*read, page, pixels, scale, isOnWhite);
+    image.convertTo(isOnWhite ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    return image;
 }
 
 } // namespace kelvo

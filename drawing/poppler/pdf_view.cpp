@@ -2,6 +2,7 @@
 #include "page_picture.h"
 #include "texts.h"
 
+#include <poppler-version.h>
 #include <QMutex>
 
 #include <cstring>
@@ -21,14 +22,21 @@ class PopplerView final : public PdfView
 public:
     Result<Picture> show(const QByteArray &pdf, const QSize &pixels, bool isOnWhite) const override
     {
+        // poppler has settings and fonts that all documents of a process share.
         const QMutexLocker lock(&m_mutex);
-        const Result<Picture> picture = PagePictures({{}, pdf}).draw(1, pixels, isOnWhite);
-        return picture ? picture : undrawable();
+        QImage image = PagePictures({{}, pdf}).draw(1, pixels, isOnWhite);
+        if (image.isNull())
+            return undrawable();
+        image.convertTo(QImage::Format_ARGB32_Premultiplied);
+        // Rows of four-byte pixels have no gaps.
+        return Picture{
+            image.size(),
+            QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes())};
     }
 
     LibraryVersions versions() const override
     {
-        return {{QStringLiteral("poppler"), PagePictures::version()}};
+        return {{QStringLiteral("poppler"), Poppler::Version::string()}};
     }
 
 private:

@@ -4,7 +4,6 @@
 #include "user_destinations.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 #include <vector>
 
@@ -102,17 +101,18 @@ std::optional<QString> optionValue(ipp_attribute_t *attribute)
 
 void take(ipp_attribute_t *attribute, Queue &queue)
 {
-    static constexpr const char *suffix = "-default";
-    const char *const name = ippGetName(attribute);
-    if (std::strcmp(name, "printer-name") == 0) {
-        queue.name = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    const QString name = QString::fromUtf8(ippGetName(attribute));
+    const auto value = optionValue(attribute);
+    if (name == QLatin1String("printer-name") && value) {
+        queue.name = *value;
         return;
     }
-    const auto value = optionValue(attribute);
-    if (!value)
-        return;
-    const char *const end = std::strstr(name, suffix);
-    queue.options.insert(QString::fromUtf8(name, end ? end - name : -1), *value);
+    // As of libcups: a queue's print quality is no default for jobs. And what an administrator
+    // has set for `media` comes before what the server makes of the PPD.
+    const QString option = name.section(QLatin1String("-default"), 0, 0);
+    if (value && option != QLatin1String("print-quality")
+        && !(option == QLatin1String("media") && queue.options.contains(option)))
+        queue.options.insert(option, *value);
 }
 
 Result<std::vector<Queue>> readQueues(http_t *http, const Patience &patience)

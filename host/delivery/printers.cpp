@@ -6,6 +6,7 @@
 
 #include <QTimer>
 
+#include <future>
 #include <vector>
 
 namespace kelvo {
@@ -54,6 +55,9 @@ struct PrinterDirectory::Private
     std::mutex mutex;
     PrinterDirectory *owner = nullptr; // null once it is gone
     std::vector<std::weak_ptr<Patience>> conversations;
+    // What is fetched before anybody asks for it, and of which printer.
+    QString aheadPrinter;
+    std::shared_future<Result<FetchedPpd>> ahead;
 
     // `call` on the owner's thread, if there is an owner then.
     void post(std::function<void(PrinterDirectory *)> call)
@@ -64,6 +68,37 @@ struct PrinterDirectory::Private
                 target, [target, call = std::move(call)] { call(target); }, Qt::QueuedConnection);
     }
 
+    std::shared_ptr<Patience> beginConversation(int timeoutMs)
+    {
+        auto patience = std::make_shared<Patience>(timeoutMs);
+        const std::lock_guard lock(mutex);
+        std::erase_if(conversations, [](const auto &one) { return one.expired(); });
+        conversations.push_back(patience);
+        if (!owner)
+            patience->stop();
+        return patience;
+    }
+
+    void fetchAhead(const QString &printer, int timeoutMs)
+    {
+        const auto fetched = std::make_shared<std::promise<Result<FetchedPpd>>>();
+        if (!startBackgroundWork([fetched, printer, patience = beginConversation(timeoutMs)] {
+                fetched->set_value(readPpd(printer, *patience));
+            }))
+            return;
+        const std::lock_guard lock(mutex);
+        aheadPrinter = printer;
+        ahead = fetched->get_future();
+    }
+
+    // Once; none for another printer.
+    std::shared_future<Result<FetchedPpd>> takeAhead(const QString &printer)
+    {
+        const std::lock_guard lock(mutex);
+        return printer == aheadPrinter ? std::exchange(ahead, {})
+                                       : std::shared_future<Result<FetchedPpd>>();
+    }
+
     // `work` aside; `answer` gets its result, or what became of it, once.
     template <typename T>
     static void ask(const std::shared_ptr<Private> &d, int timeoutMs,
@@ -71,15 +106,13 @@ struct PrinterDirectory::Private
                     const std::function<QString()> &where,
                     std::function<void(PrinterDirectory *, const Result<T> &)> answer)
     {
-        auto patience = std::make_shared<Patience>(timeoutMs);
+        const auto patience = d->beginConversation(timeoutMs);
         auto isAnswered = std::make_shared<bool>(false); // of the owner's thread
         const auto answerOnce = [isAnswered, answer](PrinterDirectory *directory,
                                                      const Result<T> &result) {
             if (!std::exchange(*isAnswered, true))
                 answer(directory, result);
         };
-        std::erase_if(d->conversations, [](const auto &one) { return one.expired(); });
-        d->conversations.push_back(patience);
         const bool isStarted = startBackgroundWork([d, patience, work, answerOnce] {
             d->post([result = work(*patience), answerOnce](PrinterDirectory *directory) {
                 answerOnce(directory, result);
@@ -111,10 +144,17 @@ PrinterDirectory::~PrinterDirectory()
     }
 }
 
-void PrinterDirectory::refresh(int timeoutMs)
+void PrinterDirectory::refresh(int timeoutMs, Ahead ahead)
 {
     Private::ask<QList<Printer>>(
-        d, timeoutMs, readPrinters, serverName,
+        d, timeoutMs,
+        [shared = d, timeoutMs, ahead](Patience &patience) {
+            auto printers = readPrinters(patience);
+            if (ahead == Ahead::PpdOfFirst && printers && !printers.value().isEmpty())
+                shared->fetchAhead(printers.value().first().name, timeoutMs);
+            return printers;
+        },
+        serverName,
         [](PrinterDirectory *self, const Result<QList<Printer>> &printers) {
             if (printers)
                 emit self->printersFound(printers.value());
@@ -126,7 +166,10 @@ void PrinterDirectory::refresh(int timeoutMs)
 void PrinterDirectory::fetchPpd(const QString &printer, int timeoutMs)
 {
     Private::ask<FetchedPpd>(
-        d, timeoutMs, [printer](Patience &patience) { return readPpd(printer, patience); },
+        d, timeoutMs,
+        [printer, ahead = d->takeAhead(printer)](Patience &patience) {
+            return ahead.valid() ? ahead.get() : readPpd(printer, patience);
+        },
         [printer] { return printer; },
         [printer](PrinterDirectory *self, const Result<FetchedPpd> &ppd) {
             if (!ppd)

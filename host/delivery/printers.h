@@ -34,9 +34,13 @@ public:
     explicit PrinterDirectory(QObject *parent = nullptr);
     ~PrinterDirectory() override; // waits for nothing
 
-    // Each call answers once, by one of its two signals, never from within the
+    // Each call answers once, by one of its signals, never from within the
     // call itself, and at the latest after `timeoutMs` with TimedOut.
-    void refresh(int timeoutMs = 30000);
+    //
+    // PpdOfFirst: whoever takes the first printer, and asks for its PPD then, gets what the
+    // thread has begun to fetch as soon as it had the list.
+    enum class Ahead { Nothing, PpdOfFirst };
+    void refresh(int timeoutMs = 30000, Ahead ahead = Ahead::Nothing);
     void fetchPpd(const QString &printer, int timeoutMs = 30000);
     // What it is doing now, with its own message, which no list of printers has.
     void fetchCondition(const QString &printer, int timeoutMs = 30000);

@@ -1,5 +1,6 @@
 #include "script_runner.h"
 
+#include "audience.h"
 #include "file_store.h"
 #include "inspector.h"
 #include "mnemonics.h"
@@ -771,6 +772,10 @@ LineDone ScriptRunner::Private::screenshot(const QString &file)
     QWidget *window = front();
     // What is still to be laid out or painted belongs into the picture.
     QCoreApplication::sendPostedEvents();
+    // A window on a screen has been painted before. The style keeps pictures of a control's parts,
+    // and draws some others (a slider's ticks) in other colors while it makes them.
+    if (audience() != Audience::People)
+        window->grab();
     QByteArray png;
     QBuffer buffer(&png);
     // For the user alone, as everything that we write: it may show what a job says.

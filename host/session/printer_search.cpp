@@ -71,7 +71,9 @@ void PrinterSearch::findPrinters()
     }
     m_directory = std::make_shared<PrinterDirectory>();
     listenTo(*m_directory);
-    m_directory->refresh(m_wanted.timeoutMs);
+    m_directory->refresh(m_wanted.timeoutMs,
+                         m_name.isEmpty() ? PrinterDirectory::Ahead::PpdOfFirst
+                                          : PrinterDirectory::Ahead::Nothing);
     // Both questions at once: the second need not wait for the first.
     if (!m_name.isEmpty())
         askForPpd();

@@ -1928,6 +1928,18 @@ ungültig, 130 abgebrochen.
         <translation>Die Geräteeinstellungen fehlen (%1).</translation>
     </message>
     <message>
+        <source>the dialog is not installed beside the program’s libraries; install kelvo-print anew</source>
+        <translation>der Dialog ist nicht bei den Bibliotheken des Programms installiert; installieren Sie kelvo-print neu</translation>
+    </message>
+    <message>
+        <source>the dialog cannot be loaded (%1); install kelvo-print anew, with the packages that it needs</source>
+        <translation>der Dialog lässt sich nicht laden (%1); installieren Sie kelvo-print neu, mit den Paketen, die es braucht</translation>
+    </message>
+    <message>
+        <source>this is not the dialog of kelvo-print %1; install kelvo-print anew</source>
+        <translation>das ist nicht der Dialog von kelvo-print %1; installieren Sie kelvo-print neu</translation>
+    </message>
+    <message>
         <source>Try: kelvo-print --help</source>
         <translation>Versuchen Sie: kelvo-print --help</translation>
     </message>

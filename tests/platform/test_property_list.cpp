@@ -122,6 +122,19 @@ void TestPropertyList::readsValues_data()
     row("data of two bytes", "<data>+/8=</data>", QByteArray("\xFB\xFF"));
     row("data of four bytes", "<data>AAECA\t\nw =\r= </data>", QByteArray("\0\1\2\3", 4));
     row("no data", "<data> </data>", QByteArray());
+    // Much of it is read past the parser, where it is what it looks like.
+    const QByteArray much(6000, 'x');
+    const QByteArray digits = much.toBase64();
+    row("much data", "<data>" + digits + "</data>", much);
+    row("much data, twice",
+        "<array><data>" + digits + "</data><data>\n" + digits + "</data></array>",
+        Array{much, much});
+    row("much data and a reference", "<data>" + digits + "&#81;&#81;==</data>", much + "A");
+    row("much data and a comment", "<data>" + digits + "<!-- a -->QQ==</data>", much + "A");
+    row("much data in a comment", "<data><!-- <data>" + digits + "< -->QQ==</data>",
+        QByteArray("A"));
+    row("much data in CDATA", "<string><![CDATA[<data>" + digits + "<]]></string>",
+        QString::fromLatin1("<data>" + digits + "<"));
     row("CDATA", "<string><![CDATA[a<b]]>&#x43;&amp;</string>", u"a<bC&"_s);
     row("comments", "<!-- a --><string>a<!-- b -->c</string>", u"ac"_s);
     row("true with an end", "<true> </true>", true);
@@ -189,6 +202,8 @@ void TestPropertyList::refusesOtherFiles_data()
     content("date without zone", "<date>2024-02-29T00:00:00</date>", Code::Damaged);
     content("no base64", "<data>AA*=</data>", Code::Damaged);
     content("data cut off", "<data>AAAAA</data>", Code::Damaged);
+    content("much data cut off", "<data>" + QByteArray(6001, 'A') + "</data>", Code::Damaged);
+    content("much data ends the file", "<data>" + QByteArray(6000, 'A'), Code::Damaged);
     content("data behind the end", "<data>QQ==QQ==</data>", Code::Damaged);
     content("data within the padding", "<data>QQ=Q</data>", Code::Damaged);
     content("padding alone", "<data>====</data>", Code::Damaged);
@@ -213,8 +228,10 @@ void TestPropertyList::refusesOtherFiles()
 
 void TestPropertyList::saysInWhichLineAFileIsWrong()
 {
-    for (const char *content :
-         {"<true/>\n<float/>", "<true/>\n<integer>x</integer>", "<true/>\n\xFF"})
+    const QByteArray lines = "<data>\n" + QByteArray(6000, 'A') + "</data><float/>";
+    for (const QByteArray &content :
+         {QByteArray("<true/>\n<float/>"), QByteArray("<true/>\n<integer>x</integer>"),
+          QByteArray("<true/>\n\xFF"), lines})
         QCOMPARE(CFPropertyListCreateFromXMLData(document(content), u"a.plist"_s).error().where,
                  u"a.plist, line 4"_s);
 }

@@ -361,16 +361,19 @@ void TestControls::aLongTextDoesNotWidenThePopup()
     PopupButton popup;
     popup.setMenu({{{.text = "Short"}}, nullptr});
     const int least = popup.minimumSizeHint().width();
-    QComboBox qts;
-    qts.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    qts.setMinimumContentsLength(popup.minimumContentsLength());
     for (const int points : {5, 9, 30}) {
         QFont font;
         font.setPointSize(points);
+        popup.setPlaceholderText(QString(points, u'j'));
+        QComboBox qts;
+        qts.setPlaceholderText(popup.placeholderText());
+        qts.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        qts.setMinimumContentsLength(popup.minimumContentsLength());
         qts.setFont(font);
         popup.setFont(font);
         QCOMPARE(popup.minimumSizeHint(), qts.minimumSizeHint());
     }
+    popup.setPlaceholderText({});
     popup.setFont({});
     const QString longText = QStringLiteral("<b>A very</b> long\nchoice ").repeated(20);
     popup.setMenu({{{.text = longText}}, nullptr});

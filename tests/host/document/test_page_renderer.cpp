@@ -26,8 +26,8 @@ private slots:
     void putsLayersTogether();
     void drawsTwoPagesWithWhatLiesOverThem();
     void leavesNoRimAroundPrintWithoutPaper();
-    void drawsWhatCairoDoesNot_data();
-    void drawsWhatCairoDoesNot();
+    void drawsHeavyPages_data();
+    void drawsHeavyPages();
     void keepsWhatIsDrawnAlready();
     void answersForTheNewestRequestOnly();
     void saysWhenAPageCannotBeDrawn();
@@ -221,11 +221,12 @@ void TestPageRenderer::leavesNoRimAroundPrintWithoutPaper()
     QVERIFY2(most <= 2, qPrintable(QString::number(most)));
 }
 
-// The left half of a page, red, each in a way that cairo alone does not draw.
-void TestPageRenderer::drawsWhatCairoDoesNot_data()
+// The left half of a page, red, after so much that the page is one for cairo.
+void TestPageRenderer::drawsHeavyPages_data()
 {
     const Table<QByteArray, QByteArray> row{"contents", "resources"};
-    // From there on it draws nothing any more.
+    row("a shape", "1 0 0 rg 0 0 100 300 re f", "");
+    // From there on cairo draws nothing any more.
     row("after dashes of no length", "[0 0] 0 d 0 0 m 9 9 l S 1 0 0 rg 0 0 100 300 re f", "");
     row("colored letters of a drawn font", "BT /T 300 Tf (a) Tj ET", "/Font << /T 5 0 R >>");
     // With the paper, of which nothing is known, there would be white.
@@ -233,7 +234,7 @@ void TestPageRenderer::drawsWhatCairoDoesNot_data()
         "/ExtGState << /S << /BM /Screen >> >>");
 }
 
-void TestPageRenderer::drawsWhatCairoDoesNot()
+void TestPageRenderer::drawsHeavyPages()
 {
     QFETCH(QByteArray, contents);
     QFETCH(QByteArray, resources);
@@ -245,7 +246,7 @@ void TestPageRenderer::drawsWhatCairoDoesNot()
         pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
                "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 201 300] /Contents 4 0 R /Resources << "
                    + resources + " >> >>",
-               stream(contents),
+               stream(QByteArray("9 9 0 0 re f\n").repeated(2000) + contents),
                "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 1 1] /FontMatrix [1 0 0 1 0 0] "
                "/CharProcs << /a 6 0 R >> /Encoding << /Differences [97 /a] >> /FirstChar 97 "
                "/LastChar 97 /Widths [1] /Resources << >> >>",

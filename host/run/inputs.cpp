@@ -1,0 +1,212 @@
+#include "inputs.h"
+
+#include "application_files.h"
+#include "destination.h"
+#include "document_origin.h"
+#include "file_names.h"
+#include "file_store.h"
+#include "output_targets.h"
+#include "presets.h"
+#include "secrets.h"
+#include "size_limits.h"
+#include "texts.h"
+
+#include <QDir>
+#include <QStringDecoder>
+
+#include <cerrno>
+#include <cstring>
+#include <variant>
+
+#include <sys/stat.h>
+
+namespace kelvo {
+
+namespace {
+
+// What is wrong with a file that `option` names and that could not be read at all.
+QString inputProblem(const QString &option, const Error &error, const QString &advice)
+{
+    if (error.code == Error::Code::NotFound)
+        return joined(
+            {translate("Main", "%1: there is no file %2").arg(option, error.where), advice});
+    if (error.code == Error::Code::NotReadable)
+        return translate("Main", "%1: %2 cannot be read (%3); name a file that you may read")
+            .arg(option, error.where, error.detail);
+    return Error{error.code, option, error.text()}.text();
+}
+
+// What is wrong with a ticket, after its name: "(line 1: …)".
+QString ticketProblem(const QString &path, const Error &error)
+{
+    using Code = Error::Code;
+    if (error.code != Code::OtherKind && error.code != Code::Damaged
+        && error.code != Code::WrongType)
+        return inputProblem(QStringLiteral("--ticket-in"), error,
+                            translate("Main", "check its name, or write one with --ticket-out"));
+    const QString reason =
+        error.place.isEmpty() ? error.detail : Error{error.code, error.place, error.detail}.text();
+    return translate("Main",
+                     "--ticket-in: %1 is not a ticket file (%2); name one that --ticket-out or "
+                     "--preset-out wrote")
+        .arg(path, reason);
+}
+
+// A secret's file: the user's alone, one text, its last line break left out.
+Result<QString> readSecret(const QString &path)
+{
+    const auto status = fileStatus(path);
+    if (!status)
+        return Error{Error::Code::NotFound, path, QString::fromLocal8Bit(std::strerror(errno))};
+    if ((status->st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        return Error{Error::Code::Refused, path,
+                     translate("Main", "others may read this secret; set its mode to 0600")};
+    const auto bytes = readFile(path, limits::secretBytes);
+    if (!bytes)
+        return bytes.error();
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    QString text = decoder(bytes.value());
+    if (decoder.hasError())
+        return Error{Error::Code::Damaged, path,
+                     translate("Main", "this is not UTF-8; write the secret as UTF-8 text")};
+    if (text.endsWith(u'\n'))
+        text.chop(1);
+    if (text.endsWith(u'\r'))
+        text.chop(1);
+    if (text.isEmpty())
+        return Error{Error::Code::Damaged, path, translate("Main", "the secret is empty")};
+    return text;
+}
+
+// The document, which must be named by now, or be piped in.
+std::variant<DocumentSource, InputFailure> findDocument(const CommandLine &line)
+{
+    const DocumentOrigin origin = documentOrigin(line, standardInput());
+    DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
+    if (origin == DocumentOrigin::Sample) {
+        source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
+        if (source.path.isEmpty())
+            return InputFailure{ExitStatus::Failed,
+                                translate("Main", "--demo: the sample document is not installed")};
+    } else if (origin == DocumentOrigin::Missing) {
+        return InputFailure{ExitStatus::WrongUsage,
+                            translate("Main",
+                                      "there is no document: name a file, or pipe one in. "
+                                      "`kelvo-print --help` says more.")};
+    } else if (origin == DocumentOrigin::File && !fileStatus(line.file)) {
+        return InputFailure{ExitStatus::Failed,
+                            translate("Main",
+                                      "%1: there is no such document; check its name, or the "
+                                      "folder that it is looked for in (%2)")
+                                .arg(line.file, QDir::currentPath())};
+    }
+    return source;
+}
+
+} // namespace
+
+std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line)
+{
+    if (!line.noWindow || line.listControls)
+        return nullptr;
+    const auto document = findDocument(line);
+    const auto *source = std::get_if<DocumentSource>(&document);
+    if (!source)
+        return nullptr; // readInputs() says so, in its turn
+    auto opening = std::make_shared<DocumentOpening>(*source);
+    opening->start(DocumentOpening::Purpose::Printed);
+    return opening;
+}
+
+Inputs beginInputs(const CommandLine &line)
+{
+    Inputs inputs;
+    DialogOptions &options = inputs.options;
+    PrinterSearch::Wanted &printer = options.session.printer;
+    printer.name = line.destination.value_or(QString());
+    printer.timeoutMs = line.timeoutSeconds * 1000;
+    if (!line.listControls && !line.demo && !line.ppd) {
+        printer.directory = std::make_shared<PrinterDirectory>();
+        printer.directory->refresh(printer.timeoutMs,
+                                   line.destination ? PrinterDirectory::Ahead::Nothing
+                                                    : PrinterDirectory::Ahead::PpdOfFirst);
+        if (line.destination)
+            printer.directory->fetchPpd(printer.name, printer.timeoutMs);
+    }
+    options.session.job.options = line.options;
+    options.session.job.copies = line.copies;
+    options.session.job.pages = line.pages;
+    options.preset = line.preset.value_or(QString());
+    if (line.toFolder)
+        options.plan.elsewhere = folderDestination(*line.toFolder);
+    options.plan.ticketOut = line.ticketOut;
+    options.plan.presetOut = line.presetOut;
+    return inputs;
+}
+
+std::optional<InputFailure> readInputs(const CommandLine &line, Inputs &inputs)
+{
+    if (const auto checked = checkOutputTargets(line); !checked)
+        return InputFailure{ExitStatus::WrongUsage, checked.error().text()};
+    for (auto secret = line.secretFiles.cbegin(); secret != line.secretFiles.cend(); ++secret) {
+        const auto text = readSecret(secret.value());
+        if (!text)
+            return InputFailure{
+                ExitStatus::WrongUsage,
+                inputProblem(QStringLiteral("--secret"), text.error(),
+                             translate("Main", "check its name, or write the secret into it"))};
+        protectSecrets();
+        inputs.secrets.insert(secret.key(), text.value());
+    }
+    if (line.script) {
+        auto lines = readScript(*line.script);
+        if (!lines && lines.error().code == Error::Code::Damaged)
+            return InputFailure{ExitStatus::WrongUsage, lines.error().text(), true};
+        if (!lines)
+            return InputFailure{
+                lines.error().code == Error::Code::Cancelled ? ExitStatus::Cancelled
+                                                             : ExitStatus::WrongUsage,
+                inputProblem(QStringLiteral("--script"), lines.error(),
+                             translate("Main", "check its name, or give - for standard input"))};
+        inputs.script = std::move(lines).value();
+    }
+    if (line.ticketIn) {
+        auto ticket = readTicketFile(*line.ticketIn);
+        if (!ticket)
+            return InputFailure{ExitStatus::InvalidTicket,
+                                ticketProblem(*line.ticketIn, ticket.error())};
+        inputs.options.session.job.ticketIn = std::move(ticket).value();
+    }
+    if (line.preset) {
+        auto preset = PresetStore().read(*line.preset);
+        if (!preset)
+            return InputFailure{preset.error().code == Error::Code::NotFound
+                                    ? ExitStatus::WrongUsage
+                                    : ExitStatus::InvalidTicket,
+                                preset.error().text()};
+        inputs.options.session.job.preset = std::move(preset).value();
+    }
+    const QString devicePath = line.demo
+        ? findSharedFile(QStringLiteral("ppds/kelvo-corvane-full.ppd"))
+        : line.ppd.value_or(QString());
+    if (line.demo && devicePath.isEmpty())
+        return InputFailure{ExitStatus::Failed,
+                            translate("Main", "--demo: the sample device is not installed")};
+    if (!devicePath.isEmpty()) {
+        auto device = PpdFile::open(devicePath);
+        if (!device)
+            return InputFailure{
+                ExitStatus::NoDestination,
+                inputProblem(line.demo ? QStringLiteral("--demo") : QStringLiteral("--ppd"),
+                             device.error(),
+                             translate("Main", "check its name, or name a queue with -d"))};
+        inputs.options.session.printer.device = std::move(device).value();
+    }
+    auto document = findDocument(line);
+    if (const auto *failure = std::get_if<InputFailure>(&document))
+        return *failure;
+    inputs.options.session.document = std::get<DocumentSource>(std::move(document));
+    return std::nullopt;
+}
+
+} // namespace kelvo
