@@ -98,7 +98,7 @@ void firstPageInProcess(benchmark::State &state)
 bool writeTriangles(const QString &path)
 {
     constexpr int triangles = 6000;
-    constexpr double width = 595, height = 842, side = 80; // points
+    constexpr double width = 595, height = 842, reach = 300; // points
     const QByteArray fileName = QFile::encodeName(path);
     cairo_surface_t *surface = cairo_pdf_surface_create(fileName.constData(), width, height);
     cairo_t *page = cairo_create(surface);
@@ -108,7 +108,8 @@ bool writeTriangles(const QString &path)
         const std::array from{upTo(width), upTo(height)};
         cairo_move_to(page, from[0], from[1]);
         for (int corner = 0; corner < 2; ++corner)
-            cairo_line_to(page, from[0] + upTo(side), from[1] + upTo(side));
+            cairo_line_to(page, from[0] + upTo(2 * reach) - reach,
+                          from[1] + upTo(2 * reach) - reach);
         cairo_close_path(page);
         cairo_set_source_rgb(page, upTo(1), upTo(1), upTo(1));
         cairo_fill(page);

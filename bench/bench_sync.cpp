@@ -9,6 +9,7 @@
 #include "ticket.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 #include <array>
 #include <clocale>
@@ -139,6 +140,8 @@ PlugInFactoryFunction findFactory()
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // That platform says of each window that it knows no size hints.
+    QLoggingCategory::setFilterRules(u"default.warning=false"_s);
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     const auto options = bench::optionsFrom(argc, argv);

@@ -75,7 +75,7 @@ QByteArray bytesOf(const QString &postScriptName)
     const auto fonts = drawing::library();
     const auto font = fonts ? fonts.value()->findFont(postScriptName) : std::nullopt;
     QFile file(font ? font->path : QString());
-    if (file.open(QIODevice::ReadOnly))
+    if (font && file.open(QIODevice::ReadOnly))
         return file.readAll();
     std::fprintf(stderr, "bench_type42: the font %s is not installed\n",
                  qUtf8Printable(postScriptName));

@@ -93,7 +93,7 @@ std::string column(const std::string &words, qsizetype width)
 void printHead()
 {
     std::printf("| %s | %s | figure    | budget | ratio | least to most | %s | %s | pairs |\n",
-                column("what", 48).c_str(), column("against", 44).c_str(),
+                column("what", 54).c_str(), column("against", 44).c_str(),
                 column("this", 28).c_str(), column("that", 28).c_str());
     std::puts("| --- | --- | --- | --- | --- | --- | --- | --- | --- |");
     std::fflush(stdout);
@@ -111,11 +111,12 @@ bool print(const Comparison &comparison, const Row &row, const std::vector<Pair>
     const Spread ratio = spreadOf(ratios);
     const bool isMissed = row.budget > 0 && ratio.median > row.budget;
     const auto digits = [](double value) {
-        return QString::number(value, 'f', value < 10 ? 2 : 1).toStdString();
+        const int decimals = value < 0.1 ? 3 : value < 10 ? 2 : 1;
+        return QString::number(value, 'f', decimals).toStdString();
     };
     const std::string median = isMissed ? "**" + digits(ratio.median) + "**" : digits(ratio.median);
     std::printf("| %s | %s | %-9s | %6s | %5s | %13s | %s | %s | %5zu |\n",
-                column(comparison.what.name, 48).c_str(),
+                column(comparison.what.name, 54).c_str(),
                 column(comparison.against.name, 44).c_str(), nameOf(row.figure),
                 row.budget > 0 ? digits(row.budget).c_str() : "-", median.c_str(),
                 (digits(ratio.least) + " to " + digits(ratio.most)).c_str(),

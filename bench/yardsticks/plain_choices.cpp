@@ -1,6 +1,6 @@
-// The yardstick of a script: a window with as many widgets as the dialog has, in which one pop-up
-// after the other shows its next line, and the window all of what it shows, as after a choice
-// on which others may hang.
+// The yardstick of a script: a window of 31 labels and 31 pop-ups, as many controls as the dialog
+// shows at once, in which one pop-up after the other shows its next line, and the window is
+// painted anew: all of it, since on a choice others may hang.
 //
 //   plain_choices COUNT
 #include <QApplication>
@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
-    constexpr int popups = 75, rows = 25, lines = 10;
+    constexpr int popups = 31, rows = 16, lines = 10;
     QApplication application(argc, argv);
     QDialog dialog;
     QGridLayout layout(&dialog);
