@@ -14,7 +14,7 @@ namespace {
 int endWithoutLibrary()
 {
     const char *reason = ::dlerror();
-    const char *const line[] = {"kelvo-print: ", reason ? reason : "no program in it", "\n"};
+    const char *const line[] = {"kelvo-print: ", reason ? reason : "libkelvo_program.so", "\n"};
     for (const char *text : line)
         static_cast<void>(!::write(STDERR_FILENO, text, ::strlen(text)));
     return 127;
