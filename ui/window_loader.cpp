@@ -3,97 +3,79 @@
 #include "button_label.h"
 #include "button_row.h"
 #include "control.h"
-#include "control_classes.h"
 #include "control_interface.h"
+#include "described_widgets.h"
 #include "event.h"
+#include "folders.h"
 #include "input_limits.h"
 #include "mnemonics.h"
+#include "part_library.h"
 #include "secrets.h"
 #include "texts.h"
+#include "window_builder.h"
+#include "window_files.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
-#include <QDir>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QHash>
 #include <QLabel>
-#include <QUiLoader>
 
-#include <algorithm>
-#include <iterator>
+#include <cstring>
 #include <optional>
 
 namespace kelvo {
 
 namespace {
 
-// What a window may hold of Qt's own. Qt's combo box, spin boxes and item views
-// are not among them: their changes cannot be told from the user's.
-constexpr const char *qtClasses[] = {
-    "QWidget",     "QFrame",         "Line",         "QLabel",         "QPushButton", "QToolButton",
-    "QCheckBox",   "QRadioButton",   "QLineEdit",    "QPlainTextEdit", "QSlider",     "QGroupBox",
-    "QScrollArea", "QStackedWidget", "QProgressBar", "QSplitter",
-};
+constexpr PartLibrary windowFilesLibrary = {
+    "libkelvo_window_files.so",
+    windowFilesEntry,
+    "Window",
+    QT_TRANSLATE_NOOP("Window",
+                      "this part that reads window descriptions is not installed beside the "
+                      "program’s libraries; install kelvo-print anew"),
+    QT_TRANSLATE_NOOP("Window",
+                      "this part that reads window descriptions cannot be loaded (%1); install "
+                      "kelvo-print anew, with the packages that it needs"),
+    QT_TRANSLATE_NOOP("Window",
+                      "this is not the part that reads window descriptions of kelvo-print %1; "
+                      "install kelvo-print anew")};
 
-const QString rowOfButtons = QStringLiteral("ButtonRow"); // of ours, and no control itself
-
-QStringList knownClasses()
+// What the bundle's module has of the window `name`, if that was made of these very bytes.
+const CompiledWindow *findCompiled(const CompiledWindows &windows, const QString &name,
+                                   const QByteArray &bytes)
 {
-    QStringList names = controlClassNames() << rowOfButtons;
-    for (const char *name : qtClasses)
-        names.append(QString::fromLatin1(name));
-    return names;
+    for (int i = 0; i < windows.count; ++i) {
+        const CompiledWindow &window = windows.windows[i];
+        if (QLatin1String(windows.texts + window.name) != name)
+            continue;
+        const QByteArray hash = QCryptographicHash::hash(bytes, QCryptographicHash::Md5);
+        return std::memcmp(hash.constData(), window.fileHash, sizeof window.fileHash) == 0
+            ? &window
+            : nullptr;
+    }
+    return nullptr;
 }
 
-class DescriptionLoader : public QUiLoader
+// The file counts: one that is another than when the bundle was built is read itself.
+Result<QWidget *> loadWidgets(Bundle &bundle, const QString &name, const QByteArray &bytes,
+                              DescribedWidgets &widgets, QWidget *parent)
 {
-public:
-    DescriptionLoader()
-    {
-        // The bundle's own tables are asked, below.
-        setLanguageChangeEnabled(false);
-        setTranslationEnabled(false);
-    }
+    const auto function =
+        reinterpret_cast<CompiledWindowsFunction>(bundle.findFunction(compiledWindowsEntry));
+    const CompiledWindows *windows = function ? function(KELVO_VERSION) : nullptr;
+    if (const CompiledWindow *window = windows ? findCompiled(*windows, name, bytes) : nullptr)
+        return buildWindow(*windows, *window, widgets, parent);
 
-    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
-    {
-        QWidget *widget =
-            className == rowOfButtons ? new ButtonRow(parent) : makeControl(className, parent);
-        if (widget) {
-            widget->setObjectName(name);
-        } else if (std::ranges::find(qtClasses, className.toLatin1()) != std::end(qtClasses)) {
-            widget = QUiLoader::createWidget(className, parent, name);
-        }
-        if (widget)
-            m_created.append(widget);
-        else
-            m_problems.append(translate("Window", "“%1” is of the class “%2”; use one of %3")
-                                  .arg(name, className, knownClasses().join(QStringLiteral(", "))));
-        return widget;
-    }
-
-    // What the description itself made, without the parts of its controls.
-    const QWidgetList &created() const { return m_created; }
-    QStringList &problems() { return m_problems; }
-
-private:
-    QWidgetList m_created;
-    QStringList m_problems;
-};
-
-// QUiLoader begins with loading every widget plug-in of Qt Designer on the system;
-// one brings all of Qt Quick with it. Our classes are our own, so it finds none.
-class WithoutDesignerPlugins
-{
-public:
-    WithoutDesignerPlugins() { QCoreApplication::setLibraryPaths({}); }
-    ~WithoutDesignerPlugins() { QCoreApplication::setLibraryPaths(m_paths); }
-    WithoutDesignerPlugins(const WithoutDesignerPlugins &) = delete;
-    WithoutDesignerPlugins &operator=(const WithoutDesignerPlugins &) = delete;
-
-private:
-    const QStringList m_paths = QCoreApplication::libraryPaths();
-};
+    const auto files = openPart<WindowFiles>(windowFilesLibrary, libraryFolder());
+    if (!files)
+        return files.error();
+    const auto make = [&widgets](const QString &className, QWidget *around, const QString &own) {
+        return widgets.make(className, around, own);
+    };
+    return files.value()->load(bytes, bundle.resourcesPath(), make, parent);
+}
 
 void giveControlIDs(const QWidgetList &widgets, QStringList &problems)
 {
@@ -163,21 +145,19 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
     if (!file.open(QIODevice::ReadOnly))
         return Error{Error::Code::NotReadable, path, file.errorString()};
 
-    std::optional<DescriptionLoader> made;
-    {
-        const WithoutDesignerPlugins guard;
-        made.emplace();
+    DescribedWidgets widgets;
+    const Result<QWidget *> made =
+        loadWidgets(*bundle, description + u'/' + window, file.readAll(), widgets, parent);
+    if (!made && widgets.problems().isEmpty()) {
+        const Error &error = made.error();
+        return error.where.isEmpty() ? Error{error.code, path, error.detail} : error;
     }
-    DescriptionLoader &loader = *made;
-    loader.setWorkingDirectory(QDir(bundle->resourcesPath()));
-    std::unique_ptr<QWidget> loaded(loader.load(&file, parent));
-    if (!loaded && loader.problems().isEmpty())
-        return Error{Error::Code::Damaged, path, loader.errorString()};
+    std::unique_ptr<QWidget> loaded(made ? made.value() : nullptr);
 
-    giveControlIDs(loader.created(), loader.problems());
-    checkCommands(loader.created(), loader.problems());
-    if (!loader.problems().isEmpty())
-        return Error{Error::Code::Damaged, path, joined(loader.problems())};
+    giveControlIDs(widgets.made(), widgets.problems());
+    checkCommands(widgets.made(), widgets.problems());
+    if (!widgets.problems().isEmpty())
+        return Error{Error::Code::Damaged, path, joined(widgets.problems())};
 
     const QString table = loaded->property("table").toString();
     const auto localized = [bundle, table](const QString &key) {
@@ -186,7 +166,7 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
         const auto own = table.isEmpty() ? std::nullopt : bundle->findString(key, table);
         return own ? *own : bundle->findString(key, QStringLiteral("Localizable")).value_or(key);
     };
-    for (QWidget *widget : loader.created()) {
+    for (QWidget *widget : widgets.made()) {
         const auto interface = controlInterface(widget);
         interface->localize(localized);
         sendControlEvents(widget);
@@ -199,8 +179,8 @@ Result<QWidget *> createWindowFromDescription(CFBundleRef bundle, const QString 
         if (auto *row = qobject_cast<ButtonRow *>(widget))
             row->arrange();
     }
-    nameByLabels(loader.created());
-    for (QWidget *widget : loader.created()) {
+    nameByLabels(widgets.made());
+    for (QWidget *widget : widgets.made()) {
         if (auto *label = qobject_cast<QLabel *>(widget))
             makePartOfButton(label);
     }

@@ -11,12 +11,12 @@ class QWidget;
 
 namespace kelvo {
 
-// Loads Resources/dialogs/<description>/<window>.ui of `bundle`. Texts are
-// looked up as keys in the table "Localizable" of the bundle (a missing one
-// stays as it stands in the file) and labels show them as plain text unless the
-// file names another format; controls send their events; a control without
-// accessible name and text is called as the label whose buddy it is; a label that is such a
-// button's words is a part of it (button_label.h).
+// Makes the window of Resources/dialogs/<description>/<window>.ui of `bundle`, by the steps that
+// its module has of that file (compiled_windows.h); a file that is another one is read itself.
+// Texts are looked up as keys in the table "Localizable" of the bundle (a missing one stays as it
+// stands in the file) and labels show them as plain text unless the file names another format;
+// controls send their events; a control without accessible name and text is called as the label
+// whose buddy it is; a label that is such a button's words is a part of it (button_label.h).
 //
 // Dynamic properties that the loader knows (all notr):
 //   controlID   string   "KPDE 102"; any widget

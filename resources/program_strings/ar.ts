@@ -1808,6 +1808,18 @@
         <translation>موافق</translation>
     </message>
     <message>
+        <source>this part that reads window descriptions is not installed beside the program’s libraries; install kelvo-print anew</source>
+        <translation>هذا الجزء الذي يقرأ أوصاف النوافذ غير مثبت بجانب مكتبات البرنامج؛ أعد تثبيت kelvo-print</translation>
+    </message>
+    <message>
+        <source>this part that reads window descriptions cannot be loaded (%1); install kelvo-print anew, with the packages that it needs</source>
+        <translation>لا يمكن تحميل هذا الجزء الذي يقرأ أوصاف النوافذ (%1)؛ أعد تثبيت kelvo-print مع الحزم التي يحتاج إليها</translation>
+    </message>
+    <message>
+        <source>this is not the part that reads window descriptions of kelvo-print %1; install kelvo-print anew</source>
+        <translation>هذا ليس الجزء الذي يقرأ أوصاف النوافذ في &#x2066;kelvo-print %1&#x2069;؛ أعد تثبيت kelvo-print</translation>
+    </message>
+    <message>
         <source>“%1” is of the class “%2”; use one of %3</source>
         <translation>«&#x2068;%1&#x2069;» من الصنف «&#x2068;%2&#x2069;»؛ استخدم أحد %3</translation>
     </message>

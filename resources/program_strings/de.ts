@@ -2714,6 +2714,18 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>OK</translation>
     </message>
     <message>
+        <source>this part that reads window descriptions is not installed beside the program’s libraries; install kelvo-print anew</source>
+        <translation>dieser Teil, der Fensterbeschreibungen liest, ist nicht bei den Bibliotheken des Programms installiert; installieren Sie kelvo-print neu</translation>
+    </message>
+    <message>
+        <source>this part that reads window descriptions cannot be loaded (%1); install kelvo-print anew, with the packages that it needs</source>
+        <translation>dieser Teil, der Fensterbeschreibungen liest, lässt sich nicht laden (%1); installieren Sie kelvo-print neu, mit den Paketen, die es braucht</translation>
+    </message>
+    <message>
+        <source>this is not the part that reads window descriptions of kelvo-print %1; install kelvo-print anew</source>
+        <translation>das ist nicht der Teil von kelvo-print %1, der Fensterbeschreibungen liest; installieren Sie kelvo-print neu</translation>
+    </message>
+    <message>
         <source>“%1” is of the class “%2”; use one of %3</source>
         <translation>„%1“ gehört zur Klasse „%2“; verwenden Sie eine von %3</translation>
     </message>

@@ -1738,6 +1738,18 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>this part that reads window descriptions is not installed beside the program’s libraries; install kelvo-print anew</source>
+        <translation>ウィンドウの定義を読み込むこの部品が、プログラムのライブラリーと同じ場所にインストールされていません。kelvo-printをインストールし直してください</translation>
+    </message>
+    <message>
+        <source>this part that reads window descriptions cannot be loaded (%1); install kelvo-print anew, with the packages that it needs</source>
+        <translation>ウィンドウの定義を読み込むこの部品を読み込めません（%1）。必要なパッケージとともにkelvo-printをインストールし直してください</translation>
+    </message>
+    <message>
+        <source>this is not the part that reads window descriptions of kelvo-print %1; install kelvo-print anew</source>
+        <translation>ウィンドウの定義を読み込むこの部品は、kelvo-print %1のものではありません。kelvo-printをインストールし直してください</translation>
+    </message>
+    <message>
         <source>“%1” is of the class “%2”; use one of %3</source>
         <translation>「%1」のクラスは「%2」です。次のいずれかを使ってください: %3</translation>
     </message>
