@@ -196,7 +196,7 @@ void TestControlInterface::everyClassAnswersForItself_data()
         {{"choose 2", "ControlHit: index 2, text Second"},
          {"type l2", typed(3) + ": text 12"},
          {"type 3x4", "does not take the whole text; it takes 1 to 4 digits"},
-         {"type 1234", typed(5) + ": text 1234"},
+         {"type 1234", typed(3) + ": text 1234"},
          {"type 12345", "does not take the whole text; it takes 1 to 4 digits"}},
         [](HistoryField &field) {
             field.appendItem("First");

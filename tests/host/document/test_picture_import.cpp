@@ -1,4 +1,5 @@
 #include "document_helper.h"
+#include "helper_messages.h"
 #include "picture_import.h"
 #include "sample_documents.h"
 #include "table.h"
@@ -220,6 +221,8 @@ void TestPictureImport::saysWhatBecameOfTheReader_data()
         QByteArray encoded;
         QDataStream out(&encoded, QIODevice::WriteOnly);
         out << true << natural << size << QByteArray(bytes, '\0') << 0;
+        const MessageSize length = MessageSize(encoded.size());
+        encoded.prepend(reinterpret_cast<const char *>(&length), sizeof length);
         QByteArray octal;
         for (const char byte : encoded)
             octal += "\\0" + QByteArray::number(static_cast<unsigned char>(byte), 8);
