@@ -92,7 +92,7 @@ std::string column(const std::string &words, qsizetype width)
 
 void printHead()
 {
-    std::printf("| %s | %s | figure    | budget | ratio | least to most | %s | %s | pairs |\n",
+    std::printf("| %s | %s | figure    | budget |     ratio |  least to most | %s | %s | pairs |\n",
                 column("what", 54).c_str(), column("against", 44).c_str(),
                 column("this", 28).c_str(), column("that", 28).c_str());
     std::puts("| --- | --- | --- | --- | --- | --- | --- | --- | --- |");
@@ -115,7 +115,7 @@ bool print(const Comparison &comparison, const Row &row, const std::vector<Pair>
         return QString::number(value, 'f', decimals).toStdString();
     };
     const std::string median = isMissed ? "**" + digits(ratio.median) + "**" : digits(ratio.median);
-    std::printf("| %s | %s | %-9s | %6s | %5s | %13s | %s | %s | %5zu |\n",
+    std::printf("| %s | %s | %-9s | %6s | %9s | %14s | %s | %s | %5zu |\n",
                 column(comparison.what.name, 54).c_str(),
                 column(comparison.against.name, 44).c_str(), nameOf(row.figure),
                 row.budget > 0 ? digits(row.budget).c_str() : "-", median.c_str(),
