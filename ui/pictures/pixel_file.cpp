@@ -19,12 +19,13 @@ namespace {
 // together, the names, and the pixels. All numbers are the machine's own, as pixels are; what
 // another kind of machine wrote has another mark.
 constexpr quint32 mark = 0x4b565058; // "KVPX"
-constexpr quint32 version = 1;
+constexpr quint32 version = 2;
 
 struct Header
 {
     quint32 mark, version;
     quint32 masters, drawings; // rows
+    quint32 length;            // bytes before the first pixel
 };
 
 struct MasterRow
@@ -58,15 +59,14 @@ QByteArray joinedRows(const auto &rows)
     return bytes;
 }
 
-// `count` rows at byte `at`; none where they do not lie within the file.
+// `count` rows at byte `at`; none where they do not lie within `bytes`.
 template <typename Row>
-std::span<const Row> rowsAt(const uchar *bytes, std::int64_t length, std::int64_t at,
-                            std::int64_t count)
+std::span<const Row> rowsAt(const QByteArray &bytes, std::int64_t at, std::int64_t count)
 {
-    if (at % std::int64_t(alignof(Row)) != 0 || at > length
-        || count > (length - at) / std::int64_t(sizeof(Row)))
+    if (at % std::int64_t(alignof(Row)) != 0 || at > bytes.size()
+        || count > (bytes.size() - at) / std::int64_t(sizeof(Row)))
         return {};
-    return {reinterpret_cast<const Row *>(bytes + at), std::size_t(count)};
+    return {reinterpret_cast<const Row *>(bytes.constData() + at), std::size_t(count)};
 }
 
 // Rows of four-byte pixels have no gaps.
@@ -107,15 +107,17 @@ bool PixelFile::write(const QString &path, std::vector<PixelMaster> masters)
     }
     names.resize((names.size() + pixelBytes - 1) / pixelBytes * pixelBytes, '\0');
 
-    const Header header{mark, version, quint32(masterRows.size()), quint32(drawingRows.size())};
-    const auto namesAt = qsizetype(sizeof header + masterRows.size() * sizeof(MasterRow)
+    const auto namesAt = qsizetype(sizeof(Header) + masterRows.size() * sizeof(MasterRow)
                                    + drawingRows.size() * sizeof(DrawingRow));
-    const qsizetype length = namesAt + names.size() + pixels.size();
+    const qsizetype pixelsAt = namesAt + names.size();
+    const qsizetype length = pixelsAt + pixels.size();
+    const Header header{mark, version, quint32(masterRows.size()), quint32(drawingRows.size()),
+                        quint32(pixelsAt)};
     Q_ASSERT(length <= std::numeric_limits<int>::max());
     for (MasterRow &row : masterRows)
         row.nameAt += quint32(namesAt);
     for (DrawingRow &row : drawingRows)
-        row.pixelsAt += quint32(namesAt + names.size());
+        row.pixelsAt += quint32(pixelsAt);
 
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly)
@@ -130,15 +132,14 @@ PixelFile::PixelFile(const QString &path)
 {
     if (!m_file->open(QIODevice::ReadOnly))
         return;
-    const std::int64_t length = m_file->size();
-    const uchar *bytes = m_file->map(0, length);
     m_modified = m_file->fileTime(QFileDevice::FileModificationTime).toMSecsSinceEpoch();
-    m_file->close(); // the mapping stays
-    const auto header = rowsAt<Header>(bytes, bytes ? length : 0, 0, 1);
-    if (header.empty() || header[0].mark != mark || header[0].version != version)
+    QByteArray beginning = m_file->read(sizeof(Header));
+    const auto header = rowsAt<Header>(beginning, 0, 1);
+    if (header.empty() || header[0].mark != mark || header[0].version != version
+        || header[0].length > m_file->size() || header[0].length < sizeof(Header))
         return;
-    m_bytes = bytes;
-    m_length = length;
+    const qsizetype rest = qsizetype(header[0].length) - beginning.size();
+    m_index = beginning + m_file->read(rest);
 }
 
 PixelFile::~PixelFile() = default;
@@ -146,14 +147,14 @@ PixelFile::~PixelFile() = default;
 std::optional<PixelMaster> PixelFile::find(const QString &masterFile) const
 {
     const QFileInfo file(masterFile);
-    if (!m_bytes || !file.exists() || file.lastModified().toMSecsSinceEpoch() > m_modified)
+    if (m_index.isEmpty() || !file.exists() || file.lastModified().toMSecsSinceEpoch() > m_modified)
         return {};
-    const Header &header = *reinterpret_cast<const Header *>(m_bytes);
-    const auto masters = rowsAt<MasterRow>(m_bytes, m_length, sizeof(Header), header.masters);
+    const Header &header = rowsAt<Header>(m_index, 0, 1)[0];
+    const auto masters = rowsAt<MasterRow>(m_index, sizeof(Header), header.masters);
     const auto drawings = rowsAt<DrawingRow>(
-        m_bytes, m_length, std::int64_t(sizeof(Header) + masters.size_bytes()), header.drawings);
+        m_index, std::int64_t(sizeof(Header) + masters.size_bytes()), header.drawings);
     const auto nameOf = [this](const MasterRow &row) {
-        const auto name = rowsAt<char>(m_bytes, m_length, row.nameAt, row.nameLength);
+        const auto name = rowsAt<char>(m_index, row.nameAt, row.nameLength);
         return QByteArrayView(name.data(), qsizetype(name.size()));
     };
     const QByteArray name = file.completeBaseName().toUtf8();
@@ -167,19 +168,23 @@ std::optional<PixelMaster> PixelFile::find(const QString &masterFile) const
                        .length = row->length,
                        .size = QSize(int(row->width), int(row->height))};
     for (const DrawingRow &each : drawings.subspan(row->firstDrawing, row->drawings)) {
-        const auto pixels = rowsAt<quint32>(m_bytes, m_length, each.pixelsAt,
-                                            std::int64_t(each.inkWidth) * each.inkHeight);
-        const bool isWhole = pixels.size() == std::size_t(each.inkWidth) * each.inkHeight;
-        if (!isWhole)
+        const std::int64_t most = (m_file->size() - each.pixelsAt) / pixelBytes;
+        const bool isWithin = each.pixelsAt % pixelBytes == 0
+            && (each.inkHeight == 0 || each.inkWidth <= most / each.inkHeight);
+        if (!isWithin)
+            return {};
+        // Its own pages alone: the system brings more of a mapping into memory than is looked at.
+        const std::int64_t length = std::int64_t(each.inkWidth) * each.inkHeight * pixelBytes;
+        const uchar *pixels = length > 0 ? m_file->map(each.pixelsAt, length) : nullptr;
+        if (length > 0 && !pixels)
             return {};
         PixelMaster::Drawn drawn{.size = QSize(int(each.width), int(each.height)),
                                  .ratio = each.hundredths / 100.0,
                                  .at = QPoint(int(each.x), int(each.y))};
-        if (!pixels.empty())
+        if (pixels)
             drawn.pixels =
-                QImage(reinterpret_cast<const uchar *>(pixels.data()), int(each.inkWidth),
-                       int(each.inkHeight), qsizetype(each.inkWidth) * pixelBytes,
-                       QImage::Format_ARGB32_Premultiplied);
+                QImage(pixels, int(each.inkWidth), int(each.inkHeight),
+                       qsizetype(each.inkWidth) * pixelBytes, QImage::Format_ARGB32_Premultiplied);
         master.drawn.push_back(std::move(drawn));
     }
     return master;

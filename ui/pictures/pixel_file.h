@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QPoint>
 #include <QSize>
@@ -58,10 +59,9 @@ public:
     std::optional<PixelMaster> find(const QString &masterFile) const;
 
 private:
-    std::unique_ptr<QFile> m_file; // the mapping is its
-    const uchar *m_bytes = nullptr;
-    std::int64_t m_length = 0;   // bytes
-    std::int64_t m_modified = 0; // ms since 1970
+    std::unique_ptr<QFile> m_file; // the mappings are its
+    QByteArray m_index;            // all before the pixels; empty: there is nothing
+    std::int64_t m_modified = 0;   // ms since 1970
 };
 
 } // namespace kelvo
