@@ -183,8 +183,9 @@ void TestPictures::areDrawnAnewWhereThePixelsAreNotTheirs_data()
     row("of another version", patch(4, "\x7f"));
     row("more masters than there are", patch(11, "\x7f"));
     row("more drawings than there are", patch(15, "\x7f"));
-    row("a name beyond the end", patch(19, "\x7f"));
-    row("drawings of nobody", patch(39, "\x7f"));
+    row("pixels beyond the end", patch(19, "\x7f"));
+    row("a name beyond the end", patch(23, "\x7f"));
+    row("drawings of nobody", patch(43, "\x7f"));
 }
 
 void TestPictures::areDrawnAnewWhereThePixelsAreNotTheirs()
