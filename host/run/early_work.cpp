@@ -42,11 +42,15 @@ std::optional<EarlyWork> beginEarlyWork(const CommandLine &line)
     noteInterruptions();
     EarlyWork early;
     early.runtimeFolder = provideRuntimeFolder();
-    if (line.noWindow || line.listControls)
+    // Fonts are a quarter of a run that nobody sees: "minimal" has none.
+    const bool isSeen = !line.noWindow || line.script;
+    if (!isSeen)
+        qputenv("QT_QPA_PLATFORM", "minimal;offscreen");
+    else if (line.noWindow || line.listControls)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const auto enough = std::make_shared<std::promise<bool>>();
     early.areThreadsToBeHad = enough->get_future();
-    if (!startBackgroundWork([enough, findFonts = openFontconfig()] {
+    if (!startBackgroundWork([enough, findFonts = isSeen ? openFontconfig() : nullptr] {
             const bool areThreadsToBeHad = canStartThreads(threadsAtOnce);
             if (findFonts)
                 findFonts();
