@@ -14,13 +14,14 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
-#include <mutex>
 #include <poll.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -215,34 +216,17 @@ pid_t launchChild(Launch &launch)
     return reason == 0 ? pid : -1;
 }
 
-// ---- children that have been left
+// ---- leaving
 
-struct Left
-{
-    std::mutex mutex;
-    std::vector<pid_t> children;
-};
-
-// Never destroyed: a thread may outlive every static object.
-Left &left()
-{
-    static auto &all = *new Left;
-    return all;
-}
-
-void takeBackEnded()
-{
-    const std::lock_guard lock(left().mutex);
-    std::erase_if(left().children,
-                  [](pid_t child) { return ::waitpid(child, nullptr, WNOHANG) != 0; });
-}
-
-// Ends it. Giving much memory back takes a while, for which nobody waits.
+// Ends it. Giving much memory back takes a while, for which nobody waits but a thread that knows
+// nothing else; where the system has none to give, the child's entry stays until the program ends.
 void leave(pid_t child)
 {
     ::kill(child, SIGKILL);
-    const std::lock_guard lock(left().mutex);
-    left().children.push_back(child);
+    try {
+        std::thread([child] { ::waitpid(child, nullptr, 0); }).detach();
+    } catch (const std::system_error &) {
+    }
 }
 
 // ---- talking
@@ -297,8 +281,11 @@ struct RunningChild::Private
 
 bool RunningChild::Private::hasEnded(int *status)
 {
-    if (::waitpid(pid, status, WNOHANG) == 0)
+    const pid_t ended = ::waitpid(pid, status, WNOHANG);
+    if (ended == 0)
         return false;
+    if (ended < 0)
+        *status = SIGKILL; // how it has ended is not known: nothing of it counts
     pid = -1;
     return true;
 }
@@ -342,7 +329,6 @@ RunningChild::~RunningChild() = default;
 
 Result<RunningChild> RunningChild::start(const ChildProgram &child, const QString &where)
 {
-    takeBackEnded();
     const auto problem = [&](int number) {
         return Error{Error::Code::NotReadable, where,
                      translate("Document", "%1 does not start: %2")

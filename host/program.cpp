@@ -67,6 +67,8 @@ int kelvoProgram(int argc, char **argv)
     // A file that may not grow is an error of its write, which says so.
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
+    // A caller may have ignored it. Then the kernel forgets how children have ended.
+    std::signal(SIGCHLD, SIG_DFL);
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(fileNameFrom(argv[i]));

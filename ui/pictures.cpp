@@ -51,8 +51,8 @@ const MasterDrawing *masterDrawing()
 
 const PixelFile &pixelsBeside(const QString &folder)
 {
-    // Never unmapped: pictures are shown until the very end.
-    static QHash<QString, const PixelFile *> files;
+    // Never destroyed, nor the files unmapped: pictures are shown until the very end.
+    static auto &files = *new QHash<QString, const PixelFile *>;
     const PixelFile *&file = files[folder];
     if (!file)
         file = new PixelFile(PixelFile::pathFor(folder));

@@ -1,6 +1,7 @@
 #include "user_destinations.h"
 
-#include <QDir>
+#include "system_information.h"
+
 #include <QFile>
 
 #include <cups/cups.h>
@@ -84,7 +85,11 @@ UserDestinations readUserDestinations()
     const QString site = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));
     DestinationList list;
     readFile(site + QStringLiteral("/lpoptions"), list);
-    readFile(QDir::homePath() + QStringLiteral("/.cups/lpoptions"), list);
+    // Services and cron jobs may run without HOME.
+    const QString home = qEnvironmentVariable("HOME");
+    readFile((home.isEmpty() ? ownersHome().value_or(QString()) : home)
+                 + QStringLiteral("/.cups/lpoptions"),
+             list);
 
     UserDestinations user;
     for (int i = 0; i < list.count; ++i) {

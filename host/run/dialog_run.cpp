@@ -124,8 +124,9 @@ int runDialog(const CommandLine &line, Inputs inputs)
         QApplication::exec();
     }
     // Taking a window apart that nobody has seen takes a tenth of such a run. Threads that are
-    // still at work are told to stop by that.
-    if (audience() == Audience::Nobody && waitForBackgroundWork(0))
+    // still at work are told to stop by that, and a panel that was asking something is ended.
+    if (audience() == Audience::Nobody && !QApplication::activeModalWidget()
+        && waitForBackgroundWork(0))
         leave(endWith(toInt(status)));
     return toInt(status);
 }

@@ -107,7 +107,7 @@ std::variant<DocumentSource, InputFailure> findDocument(const CommandLine &line)
 
 std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line)
 {
-    if (!line.noWindow || line.listControls)
+    if (!line.noWindow || line.script || line.listControls)
         return nullptr;
     const auto document = findDocument(line);
     const auto *source = std::get_if<DocumentSource>(&document);

@@ -23,8 +23,8 @@ struct Inputs
     std::vector<ScriptLine> script;
 };
 
-// A document that nobody looks at is printed as soon as the panels have spoken: it is opened
-// before they are loaded. Null: as late as one that is shown.
+// A document that nobody looks at, no script either, is printed as soon as the panels have spoken:
+// it is opened before they are loaded. Null: as late as one that is shown.
 std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line);
 
 // What stands in the command line itself. The print server is asked for its printers, and for the

@@ -230,6 +230,8 @@ QWidget *ScriptRunner::Private::withKeyboard() const
 void ScriptRunner::Private::lookAgain()
 {
     timePopup();
+    if (contentWait.isBegun())
+        target.drawPutOff(); // another one, where the wait has brought one
     if (!isWaiting || mustWaitForDialog()
         || (contentWait.isBegun() && isNoticeMet() && mustWaitForContent()))
         return;

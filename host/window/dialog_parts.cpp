@@ -70,7 +70,6 @@ DialogParts::DialogParts(QWidget *window)
     m_activation.setSingleShot(true);
     m_activation.setInterval(activationWaitMs);
     m_panelsWait.setSingleShot(true);
-    m_panelsWait.setInterval(panelsWaitMs);
     scroll->setObjectName(QStringLiteral("panels"));
     panelSwitch->setObjectName(QStringLiteral("panelSwitch"));
     panelSwitch->setAccessibleName(tr("Panels"));
@@ -166,7 +165,7 @@ void DialogParts::noteShown()
 void DialogParts::noteReady()
 {
     if (audience() != Audience::Nobody)
-        m_panelsWait.start();
+        m_panelsWait.start(panelsWaitMs);
 }
 
 bool DialogParts::isAtRest() const
@@ -175,11 +174,11 @@ bool DialogParts::isAtRest() const
     // time after it was shown; without a window manager it may never.
     if (m_activation.isActive() && m_window->isVisible() && !QApplication::activeWindow())
         return false;
-    // The panels of hidden tabs follow the first frame.
+    // The panels of hidden tabs follow the first frame; then the window is laid out for the widest.
     if (m_panelsWait.isActive()) {
-        if (!arePanelsBuilt())
-            return false;
-        m_panelsWait.stop();
+        if (arePanelsBuilt() && m_panelsWait.interval() > 0)
+            m_panelsWait.start(0);
+        return false;
     }
     // A button that its mnemonic pressed comes up again a moment later, and only
     // then does what it is for. Qt's file chooser keeps one down for as long as it is open.

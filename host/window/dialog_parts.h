@@ -69,7 +69,7 @@ private:
     QList<QWidget *> m_panelStops;  // the tab order is made for these; compared, never followed
     QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
     QTimer m_activation;            // runs while the window may still become the active one
-    mutable QTimer m_panelsWait;    // runs while panels are not built
+    mutable QTimer m_panelsWait;    // runs while panels are not built, or not laid out
 };
 
 } // namespace kelvo

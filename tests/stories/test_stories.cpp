@@ -15,6 +15,7 @@
 
 #include <poppler-qt6.h>
 
+#include <csignal>
 #include <fcntl.h>
 #include <memory>
 #include <sys/resource.h>
@@ -118,6 +119,7 @@ private slots:
     void tellsOfAnOutputThatIsFull();
     void endsWhereThereAreNoThreads();
     void endsWhereStandardInputIsClosed();
+    void seesHowChildrenEndWhereTheCallerDoesNotLook();
     void asksForADocumentWhereNoneIsNamed();
     void saysThatNoWindowCanBeShown_data();
     void saysThatNoWindowCanBeShown();
@@ -733,6 +735,17 @@ void TestStories::endsWhereStandardInputIsClosed()
     const Run print = desk.run({"--demo", "--no-window", "--to", "out", "-"});
     QENDED(print, 1);
     QVERIFY2(print.err.contains("(stdin): "), qPrintable(print.err));
+}
+
+// What a caller ignores is ignored in what it runs, and the kernel forgets how children end then.
+void TestStories::seesHowChildrenEndWhereTheCallerDoesNotLook()
+{
+    Desk desk;
+    desk.atStart([] { std::signal(SIGCHLD, SIG_IGN); });
+    putFile(desk.path("half.ps"), "%!PS\nshowpage\nnoSuchOperator\n");
+    QENDED(desk.run({"--demo", "--no-window", "--to", "out", "half.ps"}), 1);
+    QVERIFY(!QFile::exists(desk.path("out/document.pdf")));
+    QENDED(desk.run({"--demo", "--no-window", "--to", "out"}), 0);
 }
 
 // As a menu of the desktop starts it, or somebody in a terminal.

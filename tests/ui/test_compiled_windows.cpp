@@ -196,6 +196,10 @@ void TestCompiledWindows::theCompilerRefusesWhatItWouldLose_data()
         "<layout class=\"QHBoxLayout\"><property name=\"topMargin\"><number>1</number></property>"
         "</layout>",
         "all four margins");
+    row("a page of a stack",
+        "<widget class=\"QStackedWidget\" name=\"S\"><widget class=\"QWidget\" "
+        "name=\"P\"/></widget>",
+        "QStackedWidget");
     row("a name twice", "<widget class=\"QLabel\" name=\"W\"/>", "“W”");
     row("a buddy that is not there", "<property name=\"buddy\"><cstring>who</cstring></property>",
         "“who”");

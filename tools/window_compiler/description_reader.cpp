@@ -20,6 +20,9 @@ const QMetaObject *const enumerationScopes[] = {
 
 const QStringList layoutClasses = {QStringLiteral("QGridLayout"), QStringLiteral("QHBoxLayout"),
                                    QStringLiteral("QVBoxLayout")};
+// Qt's loader gives these their widgets by functions of theirs.
+const QStringList holdersOfTheirOwn = {
+    QStringLiteral("QScrollArea"), QStringLiteral("QStackedWidget"), QStringLiteral("QSplitter")};
 // In the order of BuildStep::Margins.
 const QStringList marginNames = {QStringLiteral("leftMargin"), QStringLiteral("topMargin"),
                                  QStringLiteral("rightMargin"), QStringLiteral("bottomMargin")};
@@ -90,9 +93,13 @@ void DescriptionReader::readWidget()
             readProperty(className, isOutermost);
             continue;
         }
-        if (m_xml.name() == QLatin1String("widget"))
+        if (m_xml.name() == QLatin1String("widget")) {
+            if (holdersOfTheirOwn.contains(className))
+                refuse(QStringLiteral("a %1 takes widgets in a way of its own, which is not built; "
+                                      "leave it empty and fill it in code")
+                           .arg(className));
             readWidget();
-        else if (m_xml.name() == QLatin1String("layout") && !hasContents)
+        } else if (m_xml.name() == QLatin1String("layout") && !hasContents)
             readLayout();
         else
             refuseElement();
