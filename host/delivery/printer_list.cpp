@@ -207,11 +207,9 @@ Result<QList<Printer>> readPrinters(Patience &patience)
     for (const Queue &queue : queues.value())
         addPrinters(queue, user, printers);
 
-    const auto markDefault = [&](const QString &name) {
-        // What the environment names it names as it is written.
-        const auto found = std::ranges::find_if(printers, [&](const Printer &printer) {
-            return user.isDefaultForced ? printer.name == name : isSamePrinter(printer.name, name);
-        });
+    const auto markDefault = [&printers](const QString &name) {
+        const auto found = std::ranges::find_if(
+            printers, [&](const Printer &printer) { return isSamePrinter(printer.name, name); });
         if (found == printers.end())
             return false;
         found->isDefault = true;

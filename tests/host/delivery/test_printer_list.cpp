@@ -183,7 +183,7 @@ void TestPrinterList::isAsLibcupsHasIt_data()
     row("an instance is the default", "", "Default Hall-3/draft b=2\nDest Hall-3 c=3\n", "",
         "Hall-3/draft");
     row("the environment's default", "", "Default Closed b=2\nDest Raw c=3\n", "LPDEST=Raw", "Raw");
-    row("in other letters", "", "", "LPDEST=RAW", "Closed");
+    row("in other letters", "", "", "LPDEST=RAW", "Raw");
     row("the older variable", "", "Default Closed\n", "PRINTER=office", "office");
     row("which says nothing", "", "Default Closed\n", "PRINTER=lp", "Closed");
     row("the environment names an instance", "", "Dest Raw/x c=3\n", "LPDEST=Raw/x", "Raw/x");
