@@ -1,5 +1,6 @@
 #include "child_process.h"
 
+#include "helper_messages.h"
 #include "sanitizers.h"
 #include "texts.h"
 
@@ -33,8 +34,7 @@ namespace {
 constexpr int pollMs = 100;
 const QString temporaryFolderKey = QStringLiteral("TMPDIR");
 constexpr qsizetype messageBytes = 4096;
-// What helpers answer is less: the sizes of 16 million pages.
-constexpr qsizetype outputBytes = 256 * limits::MiB + sizeof(quint64);
+constexpr qsizetype outputBytes = kMostAnswered + sizeof(MessageSize);
 
 // At most `value`, or less where less was set before.
 void limit(__rlimit_resource_t resource, qint64 value)
