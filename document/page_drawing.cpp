@@ -88,11 +88,9 @@ bool PageDrawing::readAnswer(PagePaper paper, QImage &image)
 
 PageProblem PageDrawing::problemOfEnd() const
 {
-    // Of the library that counts its own memory, 1; else the kernel's way to say so.
-    const bool exited = m_process->exitStatus() == QProcess::NormalExit;
-    const int status = m_process->exitCode();
+    const bool hasExited = m_process->exitStatus() == QProcess::NormalExit;
     const bool isTooLarge =
-        exited ? status == kOutOfMemoryStatus || status == 1 : status == SIGKILL;
+        m_process->exitCode() == (hasExited ? kOutOfMemoryStatus : SIGKILL); // by the kernel
     return isTooLarge ? PageProblem::TooLarge : PageProblem::NotDrawable;
 }
 

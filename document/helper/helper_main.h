@@ -9,7 +9,8 @@ namespace kelvo::documents {
 // error if not; main() ends with kOtherVersionStatus then.
 bool isOwnCaller(int argc, char **argv);
 
-// From now on a process that is out of memory ends with kOutOfMemoryStatus.
+// From now on a process that is out of memory ends with kOutOfMemoryStatus, also where a library
+// crashes or aborts for it.
 void endWithoutMemory();
 
 // Answers the requests on standard input, in the language of whoever asks, until there are no
