@@ -14,6 +14,7 @@
 
 #include <QCoreApplication>
 
+#include <clocale>
 #include <csignal>
 
 #include <fcntl.h>
@@ -69,6 +70,10 @@ int kelvoProgram(int argc, char **argv)
     std::signal(SIGPIPE, SIG_IGN); // so is a reader that went away
     // A caller may have ignored it. Then the kernel forgets how children have ended.
     std::signal(SIGCHLD, SIG_DFL);
+    // Qt's application would do it, when there are threads already that look at it: libcups takes
+    // its language from it. What we write must not follow it.
+    std::setlocale(LC_ALL, "");
+    std::setlocale(LC_NUMERIC, "C");
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(fileNameFrom(argv[i]));

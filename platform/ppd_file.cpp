@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <clocale>
 #include <cmath>
 #include <cstring>
 #include <initializer_list>
@@ -79,6 +80,28 @@ int fileInMemory(const QByteArray &bytes)
     ::lseek(fd, 0, SEEK_SET);
     return fd;
 }
+
+// libcups asks for the decimal point once, and then reads each number by the locale that there is
+// by then. The process's may change meanwhile: Qt's application takes the user's over when it
+// begins. As long as this lives, the thread has one of its own.
+class PlainNumbers
+{
+public:
+    PlainNumbers()
+        : m_plain(::newlocale(LC_ALL_MASK, "C", nullptr))
+        , m_before(::uselocale(m_plain))
+    {
+    }
+    ~PlainNumbers()
+    {
+        ::uselocale(m_before);
+        ::freelocale(m_plain);
+    }
+    Q_DISABLE_COPY_MOVE(PlainNumbers)
+
+private:
+    locale_t m_plain, m_before;
+};
 
 // Opens the PPD in `file`. libcups reads from a descriptor only, so they are
 // put into a file in memory: what was checked is what is read.
@@ -514,6 +537,7 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     if (bytes.startsWith("\x1f\x8b"))
         return Error{Code::Unsupported, name,
                      translate("Device", "compressed; unpack it with gunzip first")};
+    const PlainNumbers numbers;
     const QByteArray read = withoutTranslations(bytes);
     if (auto excess = findExcess(read, name))
         return *excess;

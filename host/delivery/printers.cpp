@@ -118,12 +118,17 @@ struct PrinterDirectory::Private
                 answerOnce(directory, result);
             });
         });
-        QTimer::singleShot(
-            isStarted ? timeoutMs : 0, d->owner,
-            [directory = d->owner, isStarted, patience, where, answerOnce] {
-                patience->stop();
-                answerOnce(directory, isStarted ? timedOut(*patience, where()) : noThread(where()));
-            });
+        const auto giveUp = [directory = d->owner, isStarted, patience, where, answerOnce] {
+            patience->stop();
+            answerOnce(directory, isStarted ? timedOut(*patience, where()) : noThread(where()));
+        };
+        // There are no timers before there is an application: the event loop sets it.
+        QMetaObject::invokeMethod(
+            d->owner,
+            [directory = d->owner, wait = isStarted ? timeoutMs : 0, giveUp] {
+                QTimer::singleShot(wait, directory, giveUp);
+            },
+            Qt::QueuedConnection);
     }
 };
 

@@ -35,7 +35,8 @@ public:
     ~PrinterDirectory() override; // waits for nothing
 
     // Each call answers once, by one of its signals, never from within the
-    // call itself, and at the latest after `timeoutMs` with TimedOut.
+    // call itself, and at the latest after `timeoutMs` with TimedOut. They can be asked
+    // before there is an application, and answer then when its event loop runs.
     //
     // PpdOfFirst: whoever takes the first printer, and asks for its PPD then, gets what the
     // thread has begun to fetch as soon as it had the list.

@@ -54,7 +54,7 @@ int runApplication(char *programName, CommandLine line, EarlyWork early)
                 leaveWithoutDisplay(noDisplayText());
         }))
         return fail(ExitStatus::Failed, noThreadReason());
-    auto document = openAhead(line);
+    Ahead ahead = beginAhead(line);
     std::optional<DisplayOpening> opening(std::in_place);
     // Qt reads its own options out of what it is given: it gets none of ours.
     int ownCount = 1;
@@ -71,7 +71,6 @@ int runApplication(char *programName, CommandLine line, EarlyWork early)
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
 
-    // Before the printers are looked for: whoever finds them answers the dialog, and only once.
     if (documentOrigin(line, standardInput()) == DocumentOrigin::Chooser) {
         line.file = chooseDocument();
         if (line.file.isEmpty())
@@ -79,9 +78,8 @@ int runApplication(char *programName, CommandLine line, EarlyWork early)
     }
     if (line.noWindow)
         setAudience(line.script ? Audience::Script : Audience::Nobody);
-    Inputs inputs = beginInputs(line);
+    Inputs inputs = beginInputs(line, std::move(ahead));
     SessionBeginning &session = inputs.options.session;
-    session.opening = std::move(document);
     if (auto bundle = openPanelBundle()) {
         session.bundle = bundle.value();
         // The host's own pages lie there too; the panels register theirs on their devices only.

@@ -51,10 +51,10 @@ std::optional<EarlyWork> beginEarlyWork(const CommandLine &line)
     const auto enough = std::make_shared<std::promise<bool>>();
     early.areThreadsToBeHad = enough->get_future();
     if (!startBackgroundWork([enough, findFonts = isSeen ? openFontconfig() : nullptr] {
-            const bool areThreadsToBeHad = canStartThreads(threadsAtOnce);
             if (findFonts)
                 findFonts();
-            enough->set_value(areThreadsToBeHad);
+            // A thread that begins waits for libraries that are being loaded.
+            enough->set_value(canStartThreads(threadsAtOnce));
         }))
         return std::nullopt;
     return early;

@@ -103,8 +103,6 @@ std::variant<DocumentSource, InputFailure> findDocument(const CommandLine &line)
     return source;
 }
 
-} // namespace
-
 std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line)
 {
     if (!line.noWindow || line.script || line.listControls)
@@ -118,21 +116,37 @@ std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line)
     return opening;
 }
 
-Inputs beginInputs(const CommandLine &line)
+std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
+{
+    if (line.listControls || line.demo || line.ppd
+        || documentOrigin(line, standardInput()) == DocumentOrigin::Chooser)
+        return nullptr;
+    auto printers = std::make_shared<PrinterDirectory>();
+    const int timeoutMs = line.timeoutSeconds * 1000;
+    printers->refresh(timeoutMs,
+                      line.destination ? PrinterDirectory::Ahead::Nothing
+                                       : PrinterDirectory::Ahead::PpdOfFirst);
+    if (line.destination)
+        printers->fetchPpd(*line.destination, timeoutMs);
+    return printers;
+}
+
+} // namespace
+
+Ahead beginAhead(const CommandLine &line)
+{
+    return {openAhead(line), askAhead(line)};
+}
+
+Inputs beginInputs(const CommandLine &line, Ahead ahead)
 {
     Inputs inputs;
     DialogOptions &options = inputs.options;
     PrinterSearch::Wanted &printer = options.session.printer;
     printer.name = line.destination.value_or(QString());
     printer.timeoutMs = line.timeoutSeconds * 1000;
-    if (!line.listControls && !line.demo && !line.ppd) {
-        printer.directory = std::make_shared<PrinterDirectory>();
-        printer.directory->refresh(printer.timeoutMs,
-                                   line.destination ? PrinterDirectory::Ahead::Nothing
-                                                    : PrinterDirectory::Ahead::PpdOfFirst);
-        if (line.destination)
-            printer.directory->fetchPpd(printer.name, printer.timeoutMs);
-    }
+    printer.directory = std::move(ahead.printers);
+    options.session.opening = std::move(ahead.document);
     options.session.job.options = line.options;
     options.session.job.copies = line.copies;
     options.session.job.pages = line.pages;

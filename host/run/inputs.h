@@ -23,13 +23,21 @@ struct Inputs
     std::vector<ScriptLine> script;
 };
 
-// A document that nobody looks at, no script either, is printed as soon as the panels have spoken:
-// it is opened before they are loaded. Null: as late as one that is shown.
-std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line);
+// What is begun before there is an application, and answers once there is an event loop.
+struct Ahead
+{
+    // A document that nobody looks at, no script either, is printed as soon as the panels have
+    // spoken. Null: it is opened as late as one that is shown.
+    std::shared_ptr<DocumentOpening> document;
+    // Asked for the printers, and for the PPD of the one that is named: the server works while Qt
+    // is loaded. Null: there is a device without a queue, or nobody to hear the answer, which
+    // comes once, as long as the user chooses a document.
+    std::shared_ptr<PrinterDirectory> printers;
+};
+Ahead beginAhead(const CommandLine &line);
 
-// What stands in the command line itself. The print server is asked for its printers, and for the
-// PPD of the one that is named: it works while a window is built.
-Inputs beginInputs(const CommandLine &line);
+// What stands in the command line itself.
+Inputs beginInputs(const CommandLine &line, Ahead ahead);
 
 // What the program ends with, and says.
 struct InputFailure
