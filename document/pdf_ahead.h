@@ -1,10 +1,9 @@
 #pragma once
 
-#include "document_helper.h"
+#include "pdf_helpers.h"
 #include "pdf_pages.h"
 
 #include <atomic>
-#include <memory>
 
 namespace kelvo {
 
@@ -14,10 +13,8 @@ namespace kelvo {
 class PdfAhead
 {
 public:
-    // Starts the helpers: one that reads and writes, and one that looks again. They end with the
-    // calling thread. `name` is that of the embedded file that will be replaced. Null: they cannot
-    // be started; whoever reads the document without them says why.
-    static std::shared_ptr<PdfAhead> start(const QString &name);
+    // `name` is that of the embedded file that will be replaced.
+    PdfAhead(PdfHelpers helpers, const QString &name);
 
     // As tidyPdf() of pdf_pages.h, with another file in the folder of `target`.
     Result<PdfPages> tidy(const QString &source, const QString &target,
@@ -28,10 +25,8 @@ public:
     Result<QString> write(const QByteArray &mimeType, const QByteArray &bytes);
 
 private:
-    PdfAhead(const QString &name, RunningHelper &&writer, RunningHelper &&checker);
-
+    PdfHelpers m_helpers;
     const QString m_name;
-    RunningHelper m_writer, m_checker;
     QString m_written; // empty: nothing is kept
     std::atomic_bool m_isUsed = false;
 };

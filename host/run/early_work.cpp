@@ -48,6 +48,8 @@ std::optional<EarlyWork> beginEarlyWork(const CommandLine &line)
         qputenv("QT_QPA_PLATFORM", "minimal;offscreen");
     else if (line.noWindow || line.listControls)
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!isSeen && !line.listControls)
+        early.helpers = PdfHelpers::start();
     const auto enough = std::make_shared<std::promise<bool>>();
     early.areThreadsToBeHad = enough->get_future();
     if (!startBackgroundWork([enough, findFonts = isSeen ? openFontconfig() : nullptr] {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "command_line.h"
+#include "pdf_helpers.h"
 #include "temporary_folder.h"
 
 #include <future>
@@ -17,6 +18,9 @@ struct EarlyWork
     // Set when the fonts have been looked for: whether the system gives as many threads as the
     // dialog needs. Whoever asks for fonts before would look for them a second time.
     std::future<bool> areThreadsToBeHad;
+    // For a document that nobody looks at, no script either: it is printed as soon as the panels
+    // have spoken. None: it is opened as late as one that is shown.
+    std::optional<PdfHelpers> helpers;
 };
 
 // Makes the environment that the dialog runs in, and begins. From now on signals are a Cancel

@@ -6,10 +6,12 @@
 #include "file_names.h"
 #include "file_store.h"
 #include "output_targets.h"
+#include "pdf_ahead.h"
 #include "presets.h"
 #include "secrets.h"
 #include "size_limits.h"
 #include "texts.h"
+#include "ticket_attachment.h"
 
 #include <QDir>
 #include <QStringDecoder>
@@ -103,16 +105,14 @@ std::variant<DocumentSource, InputFailure> findDocument(const CommandLine &line)
     return source;
 }
 
-std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line)
+std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line, PdfHelpers helpers)
 {
-    if (!line.noWindow || line.script || line.listControls)
-        return nullptr;
     const auto document = findDocument(line);
     const auto *source = std::get_if<DocumentSource>(&document);
     if (!source)
         return nullptr; // readInputs() says so, in its turn
     auto opening = std::make_shared<DocumentOpening>(*source);
-    opening->start(DocumentOpening::Purpose::Printed);
+    opening->start(std::make_shared<PdfAhead>(std::move(helpers), kTicketAttachmentName));
     return opening;
 }
 
@@ -133,9 +133,9 @@ std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
 
 } // namespace
 
-Ahead beginAhead(const CommandLine &line)
+Ahead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers)
 {
-    return {openAhead(line), askAhead(line)};
+    return {helpers ? openAhead(line, std::move(*helpers)) : nullptr, askAhead(line)};
 }
 
 Inputs beginInputs(const CommandLine &line, Ahead ahead)

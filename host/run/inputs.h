@@ -3,6 +3,7 @@
 #include "command_line.h"
 #include "document_opening.h"
 #include "exit_status.h"
+#include "pdf_helpers.h"
 #include "print_dialog.h"
 #include "script_parser.h"
 
@@ -26,15 +27,13 @@ struct Inputs
 // What is begun before there is an application, and answers once there is an event loop.
 struct Ahead
 {
-    // A document that nobody looks at, no script either, is printed as soon as the panels have
-    // spoken. Null: it is opened as late as one that is shown.
-    std::shared_ptr<DocumentOpening> document;
+    std::shared_ptr<DocumentOpening> document; // null: opened by the dialog
     // Asked for the printers, and for the PPD of the one that is named: the server works while Qt
     // is loaded. Null: there is a device without a queue, or nobody to hear the answer, which
     // comes once, as long as the user chooses a document.
     std::shared_ptr<PrinterDirectory> printers;
 };
-Ahead beginAhead(const CommandLine &line);
+Ahead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers);
 
 // What stands in the command line itself.
 Inputs beginInputs(const CommandLine &line, Ahead ahead);

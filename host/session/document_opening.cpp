@@ -1,8 +1,5 @@
 #include "document_opening.h"
 
-#include "pdf_ahead.h"
-#include "ticket_attachment.h"
-
 namespace kelvo {
 
 DocumentOpening::DocumentOpening(std::optional<DocumentSource> source, QObject *parent)
@@ -32,7 +29,7 @@ QString DocumentOpening::title() const
     return titleOf(m_source.value_or(DocumentSource()));
 }
 
-void DocumentOpening::start(Purpose purpose)
+void DocumentOpening::start(std::shared_ptr<PdfAhead> ahead)
 {
     if (m_cancelled || !m_source)
         return;
@@ -44,13 +41,11 @@ void DocumentOpening::start(Purpose purpose)
             m_problem = tr("The document cannot be opened: %1").arg(opened.error().text());
         emit ended();
     };
-    // Started here, where the thread stays: helpers end with theirs.
-    const std::shared_ptr<PdfAhead> ahead =
-        purpose == Purpose::Printed ? PdfAhead::start(kTicketAttachmentName) : nullptr;
-    const bool isStarted =
-        m_opening.start([source = *m_source, cancelled = m_cancelled,
-                         ahead] { return openDocument(source, *cancelled, ahead); },
-                        take);
+    const bool isStarted = m_opening.start(
+        [source = *m_source, cancelled = m_cancelled, ahead = std::move(ahead)] {
+            return openDocument(source, *cancelled, ahead);
+        },
+        take);
     if (!isStarted)
         take(Error{Error::Code::NotReadable, title(), noThreadReason()});
 }

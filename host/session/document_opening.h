@@ -11,6 +11,8 @@
 
 namespace kelvo {
 
+class PdfAhead;
+
 // The document of a job, which is opened on a thread of its own.
 class DocumentOpening : public QObject
 {
@@ -21,11 +23,9 @@ public:
     explicit DocumentOpening(std::optional<DocumentSource> source, QObject *parent = nullptr);
     ~DocumentOpening() override; // cancels
 
-    enum class Purpose {
-        Shown,   // printed when its user has seen it, if at all
-        Printed, // printed as soon as the settings are there: helpers keep what they read
-    };
-    void start(Purpose purpose = Purpose::Shown); // a second call does nothing
+    // With `ahead`, it is printed as soon as the settings are there, and not when its user has seen
+    // it, if at all. A second call does nothing.
+    void start(std::shared_ptr<PdfAhead> ahead = {});
     void cancel();
 
     bool hasSource() const { return m_source.has_value(); }

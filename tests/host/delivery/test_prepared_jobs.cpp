@@ -64,8 +64,10 @@ Result<Document> TestPreparedJobs::open(const QString &path)
 {
     QFETCH_GLOBAL(bool, isKept);
     const std::atomic_bool notCancelled = false;
-    return openDocument({path, QStringLiteral("sample")}, notCancelled,
-                        isKept ? PdfAhead::start(kTicketAttachmentName) : nullptr);
+    return openDocument(
+        {path, QStringLiteral("sample")}, notCancelled,
+        isKept ? std::make_shared<PdfAhead>(PdfHelpers::start().value(), kTicketAttachmentName)
+               : nullptr);
 }
 
 void TestPreparedJobs::init()

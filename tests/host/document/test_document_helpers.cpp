@@ -198,8 +198,9 @@ void TestDocumentHelpers::areDoneWithoutWhereTheyEndBefore()
     setDocumentHelperFolder(scriptedHelpers("#!/bin/sh\necho $$ >> " + list + "\nexec \""
                                             + helperFolder().toUtf8() + "/${0##*/}\" \"$@\"\n"));
     const std::atomic_bool notCancelled = false;
-    const auto document =
-        openDocument({sample(), {}}, notCancelled, PdfAhead::start(kTicketAttachmentName));
+    const auto document = openDocument(
+        {sample(), {}}, notCancelled,
+        std::make_shared<PdfAhead>(PdfHelpers::start().value(), kTicketAttachmentName));
     QVERIFY2(document, qPrintable(document.reason()));
     QFile started("started");
     QVERIFY(started.open(QIODevice::ReadOnly));
