@@ -314,6 +314,7 @@ bool markSelection(ppd_file_t *ppd, const PpdSelection &selection)
     std::vector<std::pair<QByteArray, QByteArray>> together;
     const auto markTogether = [ppd, &together] {
         std::vector<cups_option_t> options;
+        options.reserve(together.size());
         for (auto &[option, choice] : together)
             options.push_back({option.data(), choice.data()});
         const bool isInConflict =
