@@ -54,7 +54,7 @@ int runApplication(char *programName, CommandLine line, EarlyWork early)
                 leaveWithoutDisplay(noDisplayText());
         }))
         return fail(ExitStatus::Failed, noThreadReason());
-    Ahead ahead = beginAhead(line, std::move(early.helpers));
+    BegunAhead ahead = beginAhead(line, std::move(early.helpers));
     std::optional<DisplayOpening> opening(std::in_place);
     // Qt reads its own options out of what it is given: it gets none of ours.
     int ownCount = 1;

@@ -133,12 +133,12 @@ std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
 
 } // namespace
 
-Ahead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers)
+BegunAhead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers)
 {
     return {helpers ? openAhead(line, std::move(*helpers)) : nullptr, askAhead(line)};
 }
 
-Inputs beginInputs(const CommandLine &line, Ahead ahead)
+Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
 {
     Inputs inputs;
     DialogOptions &options = inputs.options;

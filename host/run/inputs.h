@@ -25,7 +25,7 @@ struct Inputs
 };
 
 // What is begun before there is an application, and answers once there is an event loop.
-struct Ahead
+struct BegunAhead
 {
     std::shared_ptr<DocumentOpening> document; // null: opened by the dialog
     // Asked for the printers, and for the PPD of the one that is named: the server works while Qt
@@ -33,10 +33,10 @@ struct Ahead
     // comes once, as long as the user chooses a document.
     std::shared_ptr<PrinterDirectory> printers;
 };
-Ahead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers);
+BegunAhead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers);
 
 // What stands in the command line itself.
-Inputs beginInputs(const CommandLine &line, Ahead ahead);
+Inputs beginInputs(const CommandLine &line, BegunAhead ahead);
 
 // What the program ends with, and says.
 struct InputFailure
