@@ -147,8 +147,10 @@ struct Launch
 std::vector<QByteArray> environmentOf(const QString &folder)
 {
     const QProcessEnvironment environment = childEnvironment(folder);
+    const QStringList keys = environment.keys();
     std::vector<QByteArray> entries;
-    for (const QString &key : environment.keys()) {
+    entries.reserve(static_cast<std::size_t>(keys.size()));
+    for (const QString &key : keys) {
         const QByteArray name = QFile::encodeName(key);
         const QByteArray own =
             key == temporaryFolderKey ? QFile::encodeName(folder) : qgetenv(name.constData());
@@ -160,6 +162,7 @@ std::vector<QByteArray> environmentOf(const QString &folder)
 std::vector<char *> listOf(std::vector<QByteArray> &texts)
 {
     std::vector<char *> list;
+    list.reserve(texts.size() + 1);
     for (QByteArray &text : texts)
         list.push_back(text.data());
     list.push_back(nullptr);
@@ -202,9 +205,11 @@ pid_t launchChild(Launch &launch)
     ::sigfillset(&all);
     ::pthread_sigmask(SIG_SETMASK, &all, &launch.mask);
     int volatile problem = 0;
+    // The thread waits for as long as system calls take, and becomeChild() makes nothing else.
+    // NOLINTNEXTLINE(clang-analyzer-security.insecureAPI.vfork)
     const pid_t pid = ::vfork();
     if (pid == 0) {
-        becomeChild(launch);
+        becomeChild(launch); // NOLINT(clang-analyzer-unix.Vfork)
         problem = errno;
         ::_exit(127);
     }
