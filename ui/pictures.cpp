@@ -73,10 +73,10 @@ const Picture &pictureOf(const QString &file)
     if (picture)
         return *picture;
     if (auto master = pixelsBeside(QFileInfo(file).path()).find(file))
-        picture = std::make_shared<Picture>(master->size, std::move(master->drawn));
+        picture = std::make_shared<Picture>(Picture{master->size, std::move(master->drawn)});
     else
-        picture =
-            std::make_shared<Picture>(masterDrawing() ? masterDrawing()->sizeOf(file) : QSize());
+        picture = std::make_shared<Picture>(
+            Picture{masterDrawing() ? masterDrawing()->sizeOf(file) : QSize(), {}});
     return *picture;
 }
 

@@ -198,7 +198,7 @@ QSize PopupButton::sizeHint() const
 // The sizes do not change with the first show, as Qt's do, and the window is not laid out again.
 void PopupButton::showEvent(QShowEvent *event)
 {
-    QWidget::showEvent(event);
+    QWidget::showEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void PopupButton::showPopup()
@@ -272,7 +272,7 @@ void PopupButton::wheelEvent(QWheelEvent *event)
 void PopupButton::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange && !findChild<QAbstractItemView *>())
-        QWidget::changeEvent(event);
+        QWidget::changeEvent(event); // NOLINT(bugprone-parent-virtual-call)
     else
         QComboBox::changeEvent(event);
 }

@@ -183,13 +183,13 @@ void DescriptionReader::readSpacer()
     std::int32_t direction = Qt::Horizontal, policy = QSizePolicy::Expanding;
     while (m_xml.readNextStartElement()) {
         const QString name = attribute(QLatin1String("name"));
-        if (m_xml.name() != QLatin1String("property") || !m_xml.readNextStartElement())
-            refuseElement();
-        else if (name == QLatin1String("sizeHint"))
+        const bool isProperty =
+            m_xml.name() == QLatin1String("property") && m_xml.readNextStartElement();
+        if (isProperty && name == QLatin1String("sizeHint"))
             size = readNumbers({QStringLiteral("width"), QStringLiteral("height")});
-        else if (name == QLatin1String("orientation"))
+        else if (isProperty && name == QLatin1String("orientation"))
             direction = readKeys();
-        else if (name == QLatin1String("sizeType"))
+        else if (isProperty && name == QLatin1String("sizeType"))
             policy = readKeys();
         else
             refuseElement();

@@ -107,8 +107,9 @@ bool PixelFile::write(const QString &path, std::vector<PixelMaster> masters)
     }
     names.resize((names.size() + pixelBytes - 1) / pixelBytes * pixelBytes, '\0');
 
-    const auto namesAt = qsizetype(sizeof(Header) + masterRows.size() * sizeof(MasterRow)
-                                   + drawingRows.size() * sizeof(DrawingRow));
+    const std::size_t tableBytes = sizeof(Header) + masterRows.size() * sizeof(MasterRow)
+        + drawingRows.size() * sizeof(DrawingRow);
+    const auto namesAt = static_cast<qsizetype>(tableBytes);
     const qsizetype pixelsAt = namesAt + names.size();
     const qsizetype length = pixelsAt + pixels.size();
     const Header header{mark, version, quint32(masterRows.size()), quint32(drawingRows.size()),
