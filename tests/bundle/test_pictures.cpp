@@ -192,14 +192,14 @@ void TestPictures::areDrawnAnewWhereThePixelsAreNotTheirs()
 {
     using Change = std::function<void(QFile & master, QFile & pixels)>;
     QFETCH(Change, change);
-    QTemporaryDir folder;
-    QFile master(folder.filePath("Sheet.svg"));
+    QTemporaryDir home;
+    QFile master(home.filePath("Sheet.svg"));
     QVERIFY(master.open(QIODevice::WriteOnly));
     master.write("<svg/>");
     master.flush();
     QImage ink(3, 2, QImage::Format_ARGB32_Premultiplied);
     ink.fill(Qt::red);
-    QFile pixels(folder.filePath("sheets.pixels"));
+    QFile pixels(home.filePath("sheets.pixels"));
     QVERIFY(PixelFile::write(pixels.fileName(),
                              {{u"Sheet"_s, 6, {64, 64}, {{{48, 48}, 1.5, {1, 2}, ink}}}}));
     QVERIFY(pixels.open(QIODevice::ReadWrite));
@@ -213,7 +213,7 @@ void TestPictures::areDrawnAnewWhereThePixelsAreNotTheirs()
     QCOMPARE(found->size, QSize(64, 64));
     QCOMPARE(found->drawn.at(0).at, QPoint(1, 2));
     QCOMPARE(found->drawn.at(0).pixels, ink);
-    QVERIFY(!file.find(folder.filePath("Shee.svg")));
+    QVERIFY(!file.find(home.filePath("Shee.svg")));
 }
 
 QTEST_GUILESS_MAIN(TestPictures)

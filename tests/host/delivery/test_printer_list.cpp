@@ -123,7 +123,7 @@ static QStringList judgedLines()
         for (Printer &printer : printers)
             printer.isDefault = printer.name == name;
     }
-    std::ranges::stable_partition(printers, isDefault);
+    std::stable_partition(printers.begin(), printers.end(), isDefault);
     QStringList lines;
     for (const Printer &printer : printers)
         lines << lineOf(printer);

@@ -242,14 +242,15 @@ void TestPageRenderer::drawsHeavyPages()
     QStringList asked;
     renderer.setOverlayPainter(greenOverlays(asked));
     QSignalSpy spy(&renderer, &PageRenderer::rendered);
+    const QByteArray font =
+        "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 1 1] /FontMatrix [1 0 0 1 0 0] "
+        "/CharProcs << /a 6 0 R >> /Encoding << /Differences [97 /a] >> /FirstChar 97 "
+        "/LastChar 97 /Widths [1] /Resources << >> >>";
     renderer.setDocument(documentOf(
         pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
                "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 201 300] /Contents 4 0 R /Resources << "
                    + resources + " >> >>",
-               stream(QByteArray("9 9 0 0 re f\n").repeated(2000) + contents),
-               "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 1 1] /FontMatrix [1 0 0 1 0 0] "
-               "/CharProcs << /a 6 0 R >> /Encoding << /Differences [97 /a] >> /FirstChar 97 "
-               "/LastChar 97 /Widths [1] /Resources << >> >>",
+               stream(QByteArray("9 9 0 0 re f\n").repeated(2000) + contents), font,
                stream("1 0 d0 1 0 0 rg 0 0 0.33333 1 re f")})));
 
     SideToDraw side = pageIn(1, {201, 300});
