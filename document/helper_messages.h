@@ -25,10 +25,10 @@ inline constexpr MessageSize kMostAnswered = 256 * limits::MiB; // the sizes of 
 // then come the arguments of the function. A helper has opened its files with its first
 // request, and can open no others: only WritePdf comes after another one.
 enum class Task : quint8 {
-    TidyPdf,             // source, target → PdfPages, whether `source` is good as it is
-    TidyPdfToWrite,      // source, target, written, name → the same; a sound one is kept
-    WritePdf,            // type, bytes: the one that was kept into `written`
-    SelectPdfPages,      // source, runs, target
+    TidyPdf,        // source, target, passwords → PdfPages, whether `source` is good as it is
+    TidyPdfToWrite, // source, target, passwords, written, name → the same; a sound one is kept
+    WritePdf,       // type, bytes: the one that was kept into `written`
+    SelectPdfPages, // source, runs, target
     ReplaceEmbeddedFile, // source, name, type, bytes, target
     CheckEmbeddedFile,   // pdf, name, bytes
     ConvertText,         // files, paper

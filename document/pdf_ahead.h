@@ -18,7 +18,7 @@ public:
 
     // As tidyPdf() of pdf_pages.h, with another file in the folder of `target`.
     Result<PdfPages> tidy(const QString &source, const QString &target,
-                          const std::atomic_bool &cancelled);
+                          const QStringList &passwords, const std::atomic_bool &cancelled);
     // The path of a PDF that replaceEmbeddedFile() (embedded_files.h) would make of the one that
     // was tidied, or its error. Once, and only of one that was sound; whatever the error says, the
     // file can be made anew then.

@@ -7,6 +7,7 @@
 #include <qpdf/QPDFExc.hh>
 
 #include <QString>
+#include <QStringList>
 
 #include <exception>
 
@@ -42,7 +43,12 @@ Result<PdfFiles> openPdfFiles(const QString &source, const QString &target = {},
                               const QString &second = {});
 
 // Takes `source` over, also where it throws. Its file must stay as it is for as long as `pdf`.
-void load(QPDF &pdf, std::FILE *source);
+// A document that asks for a password is opened with the first of `passwords` that lets it be
+// printed, else with the first that is right.
+void load(QPDF &pdf, std::FILE *source, const QStringList &passwords = {});
+
+// Whether whoever opened `pdf` so may print it.
+bool mayPrint(QPDF &pdf);
 
 // Writes `pdf`, never encrypted. Throws where the document is at fault; NotWritable
 // for a disk that filled up.

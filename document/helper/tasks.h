@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 // What the helpers do, each task in a file of its own: it opens its files, lets go of
 // the right to open any other (confinement.h), and only then looks at what is in them.
@@ -14,7 +15,8 @@
 // which ask for them and say what they do.
 namespace kelvo::documents {
 
-Result<PdfPages> tidyPdf(const QString &source, const QString &target);
+Result<PdfPages> tidyPdf(const QString &source, const QString &target,
+                         const QStringList &passwords);
 Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
                             const QString &target);
 Result<void> replaceEmbeddedFile(const QString &source, const QString &name,

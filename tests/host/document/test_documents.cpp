@@ -47,6 +47,24 @@ QByteArray encrypted(const QByteArray &pdf, const char *password, bool mayPrint)
                       static_cast<qsizetype>(buffer->getSize()));
 }
 
+// As before AES: RC4 with 40 or 128 bits, and a password in whatever bytes its maker took.
+QByteArray encryptedWithRc4(const QByteArray &pdf, int bits, const char *password, bool mayPrint)
+{
+    QPDF document;
+    document.processMemoryFile("sample", pdf.constData(), static_cast<std::size_t>(pdf.size()));
+    QPDFWriter writer(document);
+    writer.setOutputMemory();
+    if (bits == 40)
+        writer.setR2EncryptionParametersInsecure(password, "owner", mayPrint, true, true, true);
+    else
+        writer.setR3EncryptionParametersInsecure(password, "owner", true, true, true, true, true,
+                                                 true, mayPrint ? qpdf_r3p_full : qpdf_r3p_none);
+    writer.write();
+    const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
+    return QByteArray(reinterpret_cast<const char *>(buffer->getBuffer()),
+                      static_cast<qsizetype>(buffer->getSize()));
+}
+
 QString textOf(const Document &document)
 {
     const auto pdf = Poppler::Document::load(document.pdfPath());
@@ -85,6 +103,8 @@ private slots:
     void tellsShownSizes();
     void repairsDamageAndSaysSo();
     void unlocksWhatNeedsNoPassword();
+    void opensWithAPassword_data();
+    void opensWithAPassword();
     void cutsPagesInOrder();
     void leavesNothingOfOtherPages();
     void refusesPagesThatAreNotThere();
@@ -180,7 +200,7 @@ void TestDocuments::refusesWhatItCannotPrint_data()
     row("PDF that is its own page tree",
         pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [2 0 R] /Count 1 >>"}),
         Code::Damaged, "PDF");
-    row("PDF with a password", encrypted(pdf, "secret", true), Code::Refused, "password");
+    row("PDF with a password", encrypted(pdf, "secret", true), Code::Locked, "with a password");
     row("PDF that must not be printed", encrypted(pdf, "", false), Code::Refused, "does not allow");
     row("PostScript with an error", "%!PS\nnonsense showpage\n", Code::Damaged, "undefined");
     row("PostScript that reads files", "%!PS\n(/etc/passwd) (r) file showpage\n", Code::Damaged,
@@ -507,6 +527,58 @@ void TestDocuments::unlocksWhatNeedsNoPassword()
     QVERIFY(document);
     QVERIFY(!document.value().isRepaired());
     QVERIFY(bytesOf(document.value().pdfPath()).indexOf("/Encrypt") < 0);
+}
+
+void TestDocuments::opensWithAPassword_data()
+{
+    // code: of the failure; Cancelled for none
+    const Table<QByteArray, QStringList, Error::Code> row{"bytes", "passwords", "code"};
+    const QByteArray pdf = pdfWithPages({filled("1 0 0"), ""});
+    const auto opened = Error::Code::Cancelled;
+    const QByteArray aes = encrypted(pdf, "Grün\u00e9 пароль", true);
+    row("AES-256", aes, {"Grün\u00e9 пароль"}, opened);
+    row("AES-256, letters put together", aes, {"Gru\u0308ne\u0301 пароль"}, opened);
+    row("the second of two", aes, {"wrong", "Grün\u00e9 пароль"}, opened);
+    row("a wrong one", aes, {"grün\u00e9 пароль"}, Error::Code::Locked);
+    row("RC4, 40 bits", encryptedWithRc4(pdf, 40, "secret", true), {"secret"}, opened);
+    row("RC4, Latin letters", encryptedWithRc4(pdf, 128, "Gr\xfcn", true), {"Grün"}, opened);
+    row("RC4, as UTF-8", encryptedWithRc4(pdf, 128, "Grün", true), {"Grün"}, opened);
+    row("not needed", encrypted(pdf, "", true), {"wrong"}, opened);
+    row("for its user, printing banned", encrypted(pdf, "secret", false), {"secret"},
+        Error::Code::Refused);
+    row("for its owner, printing banned", encrypted(pdf, "secret", false), {"secret", "owner"},
+        opened);
+    row("for its owner, no other needed", encryptedWithRc4(pdf, 128, "", false), {"owner"}, opened);
+}
+
+void TestDocuments::opensWithAPassword()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, passwords);
+    QFETCH(Error::Code, code);
+    const std::atomic_bool cancelled = false;
+    DocumentSource source{file("locked.pdf", bytes), {}};
+    source.passwords = passwords;
+
+    // With what comes on the command line, and what is typed later, each by itself.
+    const Result<Document> atOnce = openDocument(source, cancelled);
+    source.passwords.clear();
+    LockedDocument locked;
+    Result<Document> later = openDocument(source, cancelled, {}, &locked);
+    QCOMPARE(locked.isNull(), bool(later));
+    QVERIFY(QFile::remove(source.path));
+    for (const QString &password : std::as_const(passwords)) {
+        if (!later)
+            later = locked.unlocked(password, cancelled);
+    }
+
+    for (const Result<Document> &document : {atOnce, later}) {
+        QCOMPARE(document ? Error::Code::Cancelled : document.error().code, code);
+        if (!document)
+            continue;
+        QCOMPARE(document.value().pageCount(), 2);
+        QVERIFY(bytesOf(document.value().pdfPath()).indexOf("/Encrypt") < 0);
+    }
 }
 
 void TestDocuments::cutsPagesInOrder()
