@@ -50,6 +50,7 @@ DocumentHelper helperFor(Task task)
     case Task::TidyPdfToWrite:
     case Task::WritePdf:
     case Task::SelectPdfPages:
+    case Task::JoinPdfs:
     case Task::ReplaceEmbeddedFile:
     case Task::CheckEmbeddedFile:
         break;

@@ -29,6 +29,7 @@ enum class Task : quint8 {
     TidyPdfToWrite, // source, target, passwords, written, name → the same; a sound one is kept
     WritePdf,       // type, bytes: the one that was kept into `written`
     SelectPdfPages, // source, runs, target
+    JoinPdfs,       // sources, target
     ReplaceEmbeddedFile, // source, name, type, bytes, target
     CheckEmbeddedFile,   // pdf, name, bytes
     ConvertText,         // files, paper

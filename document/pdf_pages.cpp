@@ -37,4 +37,11 @@ Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &r
                      target);
 }
 
+Result<void> joinPdfs(const QStringList &sources, const QString &target,
+                      const std::atomic_bool &cancelled)
+{
+    return ask<void>(Task::JoinPdfs, {target, QFileInfo(target).path(), &cancelled}, sources,
+                     target);
+}
+
 } // namespace kelvo

@@ -39,4 +39,10 @@ Result<PdfPages> takenWhereSound(Result<PdfPages> pages, const QString &source,
 Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
                             const QString &target);
 
+// A PDF at `target` of all pages of `sources`, one after the other. Each document keeps what
+// is typed into its fields, what it shows of its layers, and where its links lead, whatever
+// the others have under the same names.
+Result<void> joinPdfs(const QStringList &sources, const QString &target,
+                      const std::atomic_bool &cancelled);
+
 } // namespace kelvo

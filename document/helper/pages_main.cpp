@@ -41,6 +41,11 @@ static void answer(Task task, QDataStream &in, QDataStream &out)
         out << documents::selectPdfPages(source, runs, take<QString>(in));
         break;
     }
+    case Task::JoinPdfs: {
+        const auto sources = take<QStringList>(in);
+        out << documents::joinPdfs(sources, take<QString>(in));
+        break;
+    }
     case Task::ReplaceEmbeddedFile: {
         const auto source = take<QString>(in);
         const auto name = take<QString>(in);

@@ -37,12 +37,21 @@ Error damaged(const QString &path, const std::exception &problem)
         translate("Document", "the PDF cannot be read: %1").arg(QString::fromUtf8(problem.what()))};
 }
 
+Result<std::FILE *> openToRead(const QString &path)
+{
+    std::FILE *file = std::fopen(QFile::encodeName(path).constData(), "rbe");
+    if (!file)
+        return Error{Error::Code::NotReadable, path, qt_error_string(errno)};
+    return file;
+}
+
 Result<PdfFiles> openPdfFiles(const QString &source, const QString &target, const QString &second)
 {
+    const auto opened = openToRead(source);
+    if (!opened)
+        return opened.error();
     PdfFiles files;
-    files.source = std::fopen(QFile::encodeName(source).constData(), "rbe");
-    if (!files.source)
-        return Error{Error::Code::NotReadable, source, qt_error_string(errno)};
+    files.source = opened.value();
     for (const auto &[path, file] : {std::pair(&target, &files.target), {&second, &files.second}}) {
         if (path->isEmpty())
             continue;

@@ -31,6 +31,9 @@ auto guarded(const QString &path, Work work) -> decltype(work())
     }
 }
 
+// For load(); NotReadable.
+Result<std::FILE *> openToRead(const QString &path);
+
 // The files of a task, opened before anything is read of them; from then on no other
 // file can be opened. NotReadable or NotWritable.
 struct PdfFiles

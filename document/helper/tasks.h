@@ -19,6 +19,7 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target,
                          const QStringList &passwords);
 Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
                             const QString &target);
+Result<void> joinPdfs(const QStringList &sources, const QString &target);
 Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
                                  const QByteArray &mimeType, const QByteArray &bytes,
                                  const QString &target);

@@ -56,6 +56,8 @@ public:
     static Result<Document> unlock(const LockedDocument::Data &locked, const QString &password,
                                    const std::atomic_bool &cancelled);
     static Result<Document> select(const Document::Data &whole, const std::vector<PageRun> &runs);
+    static Result<Document> join(const std::vector<Document> &documents, const QString &title,
+                                 const std::atomic_bool &cancelled);
 
 private:
     static Result<std::shared_ptr<TemporaryFolder>> makeFolder();
@@ -267,6 +269,32 @@ Result<Document> DocumentReader::select(const Document::Data &whole,
     return document;
 }
 
+Result<Document> DocumentReader::join(const std::vector<Document> &documents, const QString &title,
+                                      const std::atomic_bool &cancelled)
+{
+    auto folder = makeFolder();
+    if (!folder)
+        return folder.error();
+    auto data = std::make_shared<Document::Data>();
+    data->title = title;
+    data->folder = std::move(folder).value();
+    data->pdfPath = data->folder->path() + QLatin1Char('/') + pdfName;
+    QStringList sources, remarks;
+    for (const Document &document : documents) {
+        sources << document.pdfPath();
+        data->sizes.insert(data->sizes.end(), document.d->sizes.begin(), document.d->sizes.end());
+        data->isRepaired = data->isRepaired || document.isRepaired();
+        if (!document.remark().isEmpty())
+            remarks << document.remark();
+    }
+    data->remark = remarks.join(u' ');
+    if (Result<void> made = joinPdfs(sources, data->pdfPath, cancelled); !made)
+        return aboutSource(made.error(), title);
+    Document document;
+    document.d = std::move(data);
+    return document;
+}
+
 QString Document::title() const
 {
     return d ? d->title : QString();
@@ -327,6 +355,12 @@ Result<Document> LockedDocument::unlocked(const QString &password,
                                           const std::atomic_bool &cancelled) const
 {
     return DocumentReader::unlock(*d, password, cancelled);
+}
+
+Result<Document> joinDocuments(const std::vector<Document> &documents, const QString &title,
+                               const std::atomic_bool &cancelled)
+{
+    return DocumentReader::join(documents, title, cancelled);
 }
 
 Result<Document> documentFromPdf(const QString &path, const QString &title)

@@ -75,6 +75,11 @@ private:
 // not allow printing. `title` empty: the file's name.
 Result<Document> documentFromPdf(const QString &path, const QString &title);
 
+// One document of all pages of `documents`, in their order; each keeps what is typed into its
+// fields (see joinPdfs()). Blocks; errors as of openDocument().
+Result<Document> joinDocuments(const std::vector<Document> &documents, const QString &title,
+                               const std::atomic_bool &cancelled);
+
 // Where a document comes from.
 struct DocumentSource
 {
