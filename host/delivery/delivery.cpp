@@ -108,8 +108,6 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     return job;
 }
 
-namespace {
-
 Result<void> provideFolder(const QString &folder)
 {
     if (::mkdir(fileNameBytes(folder).constData(), 0700) == 0)
@@ -133,6 +131,8 @@ Result<void> provideFolder(const QString &folder)
                              .arg(QString::fromUtf8(std::strerror(reason))),
                          writingAdvice(reason)})};
 }
+
+namespace {
 
 // Every file before the first one is replaced: a job is never half a new one.
 Result<void> checkReplaceable(const QStringList &paths)

@@ -66,6 +66,9 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 // all three were found to be replaceable; after an error what stood there stays.
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
 
+// Makes `folder`, 0700, in one that is there; one that is there keeps its rights. NotWritable.
+Result<void> provideFolder(const QString &folder);
+
 struct DeliveredJob
 {
     QString name; // "Hall-123"

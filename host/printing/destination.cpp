@@ -2,6 +2,7 @@
 
 #include "cautions.h"
 #include "printers.h"
+#include "several_documents.h"
 
 #include <QCoreApplication>
 
@@ -82,26 +83,40 @@ class Folder : public Destination
     Q_DECLARE_TR_FUNCTIONS(kelvo::Folder)
 
 public:
-    explicit Folder(const QString &folder)
+    // `outer`, which is made first; empty: it must be there.
+    explicit Folder(const QString &folder, const QString &outer = {})
         : m_folder(folder)
+        , m_outer(outer)
     {
     }
 
     PrintOutcome deliver(const PreparedJob &job, const std::atomic_bool &) const override
     {
+        if (const auto made = m_outer.isEmpty() ? Result<void>() : provideFolder(m_outer); !made)
+            return {ExitStatus::Failed, {}, made.error().text()};
         if (const auto delivered = deliverToFolder(job, m_folder); !delivered)
             return {ExitStatus::Failed, {}, delivered.error().text()};
         return {ExitStatus::Printed, m_folder, {}};
+    }
+
+    std::shared_ptr<const Destination> ofOne(int number, const QString &title) const override
+    {
+        return std::make_shared<Folder>(folderOfOne(m_folder, number, title), m_folder);
     }
 
     QString onTheWay() const override { return tr("Writing to %1…").arg(m_folder); }
     QString arrived(const QString &place) const override { return tr("Written to %1").arg(place); }
 
 private:
-    const QString m_folder;
+    const QString m_folder, m_outer;
 };
 
 } // namespace
+
+std::shared_ptr<const Destination> Destination::ofOne(int, const QString &) const
+{
+    return nullptr;
+}
 
 std::shared_ptr<const Destination> queueDestination(const QString &queue, const QString &title,
                                                     int timeoutMs)

@@ -30,6 +30,9 @@ public:
     virtual PrintOutcome deliver(const PreparedJob &job,
                                  const std::atomic_bool &cancelled) const = 0;
 
+    // Of several jobs, where the one `number`, from 1, goes; null: there as well.
+    virtual std::shared_ptr<const Destination> ofOne(int number, const QString &title) const;
+
     virtual QString onTheWay() const = 0;                    // "Sending to Hall-3…"
     virtual QString arrived(const QString &place) const = 0; // "Hall-3-17 sent"
 };

@@ -69,6 +69,14 @@ void SessionJob::leave()
     m_isSettled = false;
 }
 
+void SessionJob::setTitle(const QString &title)
+{
+    if (title == m_title)
+        return;
+    m_title = title;
+    nameJob();
+}
+
 void SessionJob::nameJob()
 {
     PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, m_title);

@@ -57,8 +57,8 @@ public:
     // The panels write once more; what was set goes along to the next device, where its
     // words go too.
     void leave();
-    // What the job is called where its tickets are laid next.
-    void setTitle(const QString &title) { m_title = title; }
+    // What the job is called, in its tickets too.
+    void setTitle(const QString &title);
     // The document, of which the panels are told the first page that is printed. Its file
     // stays for as long as this.
     void setDocument(const QString &pdfPath, int pageCount);

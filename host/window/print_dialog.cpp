@@ -4,6 +4,8 @@
 #include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
+#include "document_bar.h"
+#include "document_chooser.h"
 #include "document_preview.h"
 #include "help_window.h"
 #include "job_details_dialog.h"
@@ -11,6 +13,7 @@
 #include "notice.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
+#include "password_dialog.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
 #include "session_words.h"
@@ -21,7 +24,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -68,7 +73,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     setObjectName(QStringLiteral("printDialog"));
     setPrintWindow(this);
     setWindowButtons(this, m_parts.foot->print(), m_parts.foot->cancel());
-    m_parts.place(new PrinterPane(m_presets, m_parts.columns->left()));
+    m_parts.place(new PrinterPane(m_presets, m_parts.columns->left()),
+                  new DocumentBar(m_session->documents(), m_parts.columns->left()));
     addShortcuts();
     m_parts.fitToFont();
     m_flow.setQuestions(this);
@@ -82,7 +88,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_firstFrame.setSingleShot(true);
     m_firstFrame.setInterval(firstFrameMs);
     connect(&m_firstFrame, &QTimer::timeout, this, [this] {
-        m_session->openTheDocument();
+        m_session->openDocuments();
         emit begun();
     });
     m_watch.setInterval(watchMs);
@@ -102,6 +108,7 @@ PrintDialog::PrintDialog(DialogOptions options)
         showPrinting(true);
         m_parts.foot->cancel()->setFocus();
     });
+    connect(&m_flow, &PrintFlow::movedOn, this, &PrintDialog::updateFoot);
     connect(&m_flow, &PrintFlow::printed, this, &PrintDialog::takePrinted);
     connect(&m_flow, &PrintFlow::refused, this, &PrintDialog::takeRefusal);
 
@@ -115,6 +122,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
+    connect(m_session.get(), &DialogSession::documentsChanged, this, &PrintDialog::takeDocuments);
     connect(m_session.get(), &DialogSession::reloaded, this, &PrintDialog::takeSettings);
     connect(m_session.get(), &DialogSession::refused, this, [this](const Error &error) {
         printLine(stderr, QStringLiteral("kelvo-print: ") + error.text());
@@ -141,6 +149,8 @@ PrintDialog::PrintDialog(DialogOptions options)
         return noErr;
     });
     connect(m_parts.printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
+    connect(m_parts.documents, &DocumentBar::addRequested, this, &PrintDialog::chooseDocuments);
+    connect(m_parts.documents, &DocumentBar::passwordRequested, this, &PrintDialog::askForPassword);
     connect(m_parts.panelSwitch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_parts.waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
@@ -162,7 +172,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     takeStage();
     takeDocument();
-    updateTitle();
+    takeDocuments();
+    setAcceptDrops(true);
 }
 
 PrintDialog::~PrintDialog()
@@ -186,6 +197,7 @@ void PrintDialog::addShortcuts()
         }));
     m_tabKeys = {add(Qt::CTRL | Qt::Key_PageUp, [this] { sendCommand(this, kPreviousTab); }),
                  add(Qt::CTRL | Qt::Key_PageDown, [this] { sendCommand(this, kNextTab); })};
+    add(Qt::CTRL | Qt::Key_O, [this] { chooseDocuments(); });
     add(Qt::CTRL | Qt::Key_P, [this] { pressPrint(); });
     add(Qt::Key_F1, [this] { showHelp(); });
     add(Qt::Key_F6, [this] { m_parts.goToRegion(true); });
@@ -285,13 +297,30 @@ void PrintDialog::takeDocument()
         m_parts.preview->setMessage({});
         m_parts.preview->setDocument(document.document());
     } else {
-        m_parts.preview->setMessage(document.isPending() ? tr("Opening %1…").arg(document.title())
-                                                         : document.problem());
+        m_parts.preview->setMessage(
+            document.isPending() ? tr("Opening %1…").arg(document.title())
+                : document.asksForPassword() && !m_isDriven
+                ? tr("“%1” is locked with a password.").arg(document.title())
+                : document.problem());
+        // Once the window is as it will be behind the question.
+        if (document.asksForPassword() && !m_isDriven && m_passwordsAsked.insert(&document).second)
+            QTimer::singleShot(0, this, &PrintDialog::askForPassword);
     }
+    m_parts.documents->refresh();
+    m_parts.arrangeTabOrder();
     // Its pages may be too large; the first look may still be to come.
     if (m_hasLooked)
         m_look.start();
     updatePreview();
+    updatePrintButton();
+    updateFoot();
+}
+
+void PrintDialog::takeDocuments()
+{
+    updateTitle();
+    m_parts.documents->refresh();
+    m_parts.arrangeTabOrder();
     updatePrintButton();
     updateFoot();
 }
@@ -314,7 +343,7 @@ void PrintDialog::takeSettings()
 
 void PrintDialog::updateTitle()
 {
-    setWindowTitle(tr("Print “%1”").arg(m_session->document().title()));
+    setWindowTitle(tr("Print “%1”").arg(m_session->documents().title()));
 }
 
 void PrintDialog::updatePrintButton()
@@ -353,7 +382,7 @@ void PrintDialog::updatePreview()
 void PrintDialog::updateFoot()
 {
     if (m_flow.isPrinting()) {
-        m_parts.foot->setText(m_flow.destination()->onTheWay());
+        m_parts.foot->setText(m_flow.onTheWay());
         return;
     }
     QString text;
@@ -365,6 +394,10 @@ void PrintDialog::updateFoot()
         text = problem.isEmpty() ? jobInShort(*m_session)
                                  : tr("Not to be printed like this. Pages: %1").arg(problem);
     }
+    // Of several, it may be another one than is looked at.
+    if (const QString problem = m_session->documents().problem();
+        isReady() && m_session->documents().count() > 1 && !problem.isEmpty())
+        text = problem;
     m_parts.foot->setText(text);
 }
 
@@ -443,6 +476,33 @@ void PrintDialog::showDetails()
 {
     commitTypedValues(this);
     runJobDetailsDialog(kelvo::jobInWords(*m_session, m_cautions), this);
+}
+
+void PrintDialog::addDocuments(const QStringList &paths)
+{
+    // One that is on its way has been asked about.
+    if (m_flow.isPrinting() || m_sent.isTelling() || m_finished)
+        return;
+    std::vector<DocumentSource> sources;
+    for (const QString &path : paths)
+        sources.push_back({path, {}});
+    m_session->documents().add(std::move(sources));
+}
+
+void PrintDialog::chooseDocuments()
+{
+    if (m_flow.isPrinting() || m_sent.isTelling())
+        return;
+    const auto chooser = documentChooser({}, this);
+    if (runChooser(*chooser) == QDialog::Accepted)
+        addDocuments(chooser->selectedFiles());
+}
+
+void PrintDialog::askForPassword()
+{
+    if (m_finished || m_flow.isPrinting() || QApplication::activeModalWidget())
+        return;
+    runPasswordDialog(m_session->documents(), this);
 }
 
 void PrintDialog::showHelp()
@@ -549,8 +609,8 @@ void PrintDialog::takePrinted(const QString &place)
         end(ExitStatus::Printed);
         return;
     }
-    const QString text = m_flow.destination()->arrived(place);
-    m_sent.tell(text, m_session->document().title());
+    const QString text = m_flow.arrived(place);
+    m_sent.tell(text, m_session->documents().title());
     m_parts.setEnabled(false);
     updatePrintButton();
     m_parts.foot->setText(text);
@@ -652,13 +712,42 @@ void PrintDialog::showEvent(QShowEvent *event)
         m_watch.start();
 }
 
+namespace {
+
+// The files that are dragged; none where there is anything else among them.
+QStringList filesOf(const QMimeData &dragged)
+{
+    QStringList paths;
+    const auto urls = dragged.urls();
+    for (const QUrl &url : urls) {
+        if (!url.isLocalFile())
+            return {};
+        paths << url.toLocalFile();
+    }
+    return paths;
+}
+
+} // namespace
+
+void PrintDialog::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!filesOf(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void PrintDialog::dropEvent(QDropEvent *event)
+{
+    addDocuments(filesOf(*event->mimeData()));
+    event->acceptProposedAction();
+}
+
 // ---- what scripts ask
 
 bool PrintDialog::isIdle() const
 {
     const bool isUnderWay = !m_finished
         && (m_session->stage() == DialogSession::Stage::Searching
-            || m_session->document().isPending() || (m_isDriven && m_session->search().isLooking())
+            || m_session->documents().isPending() || (m_isDriven && m_session->search().isLooking())
             || m_look.isActive() || m_firstFrame.isActive());
     return !isUnderWay && m_parts.isAtRest();
 }
