@@ -6,8 +6,8 @@ namespace kelvo {
 
 QString titleOfAll(const QStringList &titles)
 {
-    return translate("Document", "%1 and %n more", "what the first document is called",
-                     titles.size() - 1)
+    const qint64 others = titles.size() - 1;
+    return translate("Document", "%1 and %n more", "what the first document is called", others)
         .arg(titles.value(0));
 }
 

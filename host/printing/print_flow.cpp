@@ -122,7 +122,10 @@ bool PrintFlow::havePages(const QString &unfinished)
     }
     if (problem.isEmpty())
         return true;
-    refuse(Step::Pages, ExitStatus::WrongUsage, notPrinted(), tr("Pages: %1").arg(problem));
+    refuse(Step::Pages, ExitStatus::WrongUsage, notPrinted(),
+           areSeveral() && unfinished.isEmpty()
+               ? tr("Pages of %1: %2").arg(m_session.document().title(), problem)
+               : tr("Pages: %1").arg(problem));
     return false;
 }
 

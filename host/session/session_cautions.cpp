@@ -40,11 +40,16 @@ void SessionCautions::look()
     const Document &document = m_session.document().document();
     SessionJob &job = m_session.job();
     add(printer());
-    add(cutPages());
+    const auto addOfDocument = [&add](std::optional<Caution> caution) {
+        if (caution)
+            caution->isOfDocument = true;
+        add(std::move(caution));
+    };
+    addOfDocument(cutPages());
     if (document.isRepaired())
-        add(repairedCaution());
+        addOfDocument(repairedCaution());
     if (const QString remark = document.remark(); !remark.isEmpty())
-        add(Caution{.text = remark});
+        addOfDocument(Caution{.text = remark});
     if (m_session.hasPanels())
         lookAtCovers();
     for (const QString &sentence : job.lost())
@@ -91,13 +96,21 @@ QStringList SessionCautions::inWords() const
 void SessionCautions::say(bool happenedOnly)
 {
     for (const Caution &caution : m_cautions) {
+        const SessionDocuments &documents = m_session.documents();
+        const bool isNamed =
+            caution.isOfDocument && documents.count() > 1 && !documents.areJoined();
+        const QString said = isNamed ? documents.title() + u'\n' + caution.text : caution.text;
         if (caution.weight == Caution::Weight::Noted || (happenedOnly && !caution.hasHappened)
-            || m_said.contains(caution.text))
+            || m_said.contains(said))
             continue;
-        m_said << caution.text;
+        m_said << said;
+        const QString sentences = isNamed
+            ? translate("Session", "%1: %2", "a document, and what is to be said of it")
+                  .arg(documents.title(), caution.sentences())
+            : caution.sentences();
         printLine(stderr,
                   QStringLiteral("kelvo-print: ")
-                      + translate("Session", "caution: %1").arg(caution.sentences()));
+                      + translate("Session", "caution: %1").arg(sentences));
     }
 }
 

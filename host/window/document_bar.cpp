@@ -92,6 +92,14 @@ void DocumentBar::refresh()
     setVisible(areSeveral || isLocked);
 }
 
+void DocumentBar::build()
+{
+    if (!m_list)
+        makeList();
+    if (!m_password)
+        makePassword();
+}
+
 void DocumentBar::fillList()
 {
     Menu menu;

@@ -26,6 +26,8 @@ public:
 
     // As the documents stand; shows itself where there is something to show.
     void refresh();
+    // Makes all of it, for a list of what there can be.
+    void build();
 
 signals:
     void addRequested();

@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <poppler-form.h>
 #include <poppler-qt6.h>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -105,6 +106,7 @@ private slots:
     void unlocksWhatNeedsNoPassword();
     void opensWithAPassword_data();
     void opensWithAPassword();
+    void joinsDocuments();
     void cutsPagesInOrder();
     void leavesNothingOfOtherPages();
     void refusesPagesThatAreNotThere();
@@ -579,6 +581,66 @@ void TestDocuments::opensWithAPassword()
         QCOMPARE(document.value().pageCount(), 2);
         QVERIFY(bytesOf(document.value().pdfPath()).indexOf("/Encrypt") < 0);
     }
+}
+
+// What two documents call the same stays each one's own.
+void TestDocuments::joinsDocuments()
+{
+    // A field with a value and no picture of it, a layer, and a link to the second page by name.
+    const auto sample = [](const QByteArray &value, const QByteArray &layers) {
+        return pdfOf(
+            {"<< /Type /Catalog /Pages 2 0 R /AcroForm << /Fields [7 0 R] /NeedAppearances true "
+             "/DA (/Helv 12 Tf 0 g) /DR << /Font << /Helv 9 0 R >> >> >> "
+             "/OCProperties << /OCGs [8 0 R] /D << "
+                 + layers + " >> >> /Names << /Dests << /Names [(end) [5 0 R /Fit]] >> >> >>",
+             "<< /Type /Pages /Kids [3 0 R 5 0 R] /Count 2 >>",
+             "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 4 0 R "
+             "/Resources << /Properties << /L 8 0 R >> >> /Annots [7 0 R 10 0 R] >>",
+             stream("/OC /L BDC 1 0 0 rg 0 0 100 100 re f EMC"),
+             "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 6 0 R >>",
+             stream("0 1 0 rg 0 0 50 50 re f"),
+             "<< /Type /Annot /Subtype /Widget /FT /Tx /T (name) /V (" + value
+                 + ") /DA (/Helv 12 Tf 0 g) /F 4 /P 3 0 R /Rect [10 200 190 230] >>",
+             "<< /Type /OCG /Name (Layer) >>",
+             "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>",
+             "<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /Border [0 0 0] /Dest (end) >>"});
+    };
+    std::vector<Document> parts;
+    for (const QByteArray &pdf :
+         {sample("Anna", "/OFF [8 0 R]"), sample("Boris", "/BaseState /OFF /ON [8 0 R]"),
+          sample("Carla", "/BaseState /OFF"), pdfWithPages({filled("0 0 1")})}) {
+        const auto part = open(file("part.pdf", pdf));
+        QVERIFY2(part, qPrintable(part.reason()));
+        parts.push_back(part.value());
+    }
+
+    const std::atomic_bool cancelled = false;
+    const auto joined = joinDocuments(parts, "All", cancelled);
+
+    QVERIFY2(joined, qPrintable(joined.reason()));
+    QCOMPARE(joined.value().title(), "All");
+    QCOMPARE(joined.value().pageCount(), 7);
+    QCOMPARE(joined.value().pageSize(7), parts.back().pageSize(1));
+    const auto whole = Poppler::Document::load(joined.value().pdfPath());
+    QVERIFY(whole);
+    int page = 0;
+    for (const Document &part : parts) {
+        const auto own = Poppler::Document::load(part.pdfPath());
+        const int first = page;
+        for (int i = 0; i < own->numPages(); ++i, ++page) {
+            QCOMPARE(whole->page(page)->renderToImage(), own->page(i)->renderToImage());
+            for (const auto &link : whole->page(page)->links())
+                QCOMPARE(static_cast<const Poppler::LinkGoto &>(*link).destination().pageNumber(),
+                         first + 2);
+            QCOMPARE(whole->page(page)->links().size(), own->page(i)->links().size());
+        }
+    }
+    QCOMPARE(whole->page(2)->formFields().size(), 1u);
+    const auto shown = [&](int number) {
+        return static_cast<const Poppler::FormFieldText &>(*whole->page(number)->formFields()[0])
+            .text();
+    };
+    QCOMPARE(QStringList({shown(0), shown(2), shown(4)}), QStringList({"Anna", "Boris", "Carla"}));
 }
 
 void TestDocuments::cutsPagesInOrder()

@@ -188,7 +188,8 @@ DialogOptions TestPrintDialog::options(const QString &device)
     DialogOptions options;
     options.session.printer.device = PpdFile::open(samplePpd(device)).value();
     options.session.bundle = m_testBundle;
-    options.session.documents.sources = {DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}}};
+    options.session.documents.sources = {
+        DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}}};
     options.plan.elsewhere = folderDestination(m_folder->filePath(QStringLiteral("job")));
     return options;
 }
