@@ -261,6 +261,44 @@ several jobs</source>
 schreiben, statt zu senden; bei mehreren Aufträgen
 in einen Ordner für jeden</translation>
     </message>
+    <message>
+        <source>print several files as one job</source>
+        <translation>mehrere Dateien als einen Auftrag drucken</translation>
+    </message>
+    <message>
+        <source>standard input can be read only once</source>
+        <translation>die Standardeingabe lässt sich nur einmal lesen</translation>
+    </message>
+    <message>
+        <source>Usage: kelvo-print [OPTION]... [FILE]...
+
+Shows the print dialog for the FILEs, or for standard input (-): PDF,
+PostScript, text or pictures. Each is a job of its own.
+
+</source>
+        <translation>Aufruf: kelvo-print [OPTION]... [FILE]...
+
+Zeigt den Druckdialog für die Dateien FILE oder für die Standardeingabe (-):
+PDF, PostScript, Text oder Bilder. Jede ist ein eigener Auftrag.
+
+</translation>
+    </message>
+    <message>
+        <source>a secret for the script, in a file of mode 0600;
+DOCUMENT is the password of a PDF, DOCUMENT2
+that of the second file</source>
+        <translation>ein Geheimnis für das Skript, in einer Datei mit den
+Rechten 0600; DOCUMENT ist das Passwort eines PDF,
+DOCUMENT2 das der zweiten Datei</translation>
+    </message>
+    <message>
+        <source>write document.pdf, options and ticket.plist there
+instead of sending, in a folder for each of
+several jobs</source>
+        <translation>document.pdf, options und ticket.plist dorthin
+schreiben, statt zu senden; bei mehreren Aufträgen
+in einen Ordner für jeden</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1005,6 +1043,27 @@ in einen Ordner für jeden</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>Ghostscript kann das PostScript nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>das Dokument ist mit einem Passwort gesperrt</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>das Dokument ist mit einem anderen Passwort gesperrt</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
     </message>
     <message>
         <source>the document is locked with a password</source>
@@ -2784,6 +2843,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>Choose Documents to Print</source>
         <translation>Zu druckende Dokumente wählen</translation>
     </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>Zu druckende Dokumente wählen</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -2925,6 +2988,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>Das Dokument lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>geben Sie es im Fenster ein, oder schreiben Sie es in eine Datei mit den Rechten 0600, die --secret DOCUMENT=FILE nennt</translation>
     </message>
     <message>
         <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
@@ -3157,6 +3224,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>“%1” is locked with a password.</source>
         <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
     </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintFlow</name>
@@ -3212,6 +3283,49 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: nicht gesendet, dieser Drucker liest keine Tickets</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>Noch sind nicht alle Dokumente offen.</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>Seiten von %1: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>%1 von %2 wird gesendet: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n Dokument geschrieben</numerusform>
+            <numerusform>%n Dokumente geschrieben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n Dokument an %1 gesendet</numerusform>
+            <numerusform>%n Dokumente an %1 gesendet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>Kein Dokument wurde gesendet.</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>Gesendet: %1.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>Nicht gesendet: %1.</translation>
     </message>
     <message>
         <source>Not all documents are open yet.</source>
@@ -3529,9 +3643,102 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>This is not the owner’s password.</source>
         <translation>Das ist nicht das Passwort des Besitzers.</translation>
     </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>Der Verfasser von „%1“ erlaubt das Drucken nur mit dem Passwort des Besitzers.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>Passwort des Dokuments</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Anzeigen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>Das ist nicht das Passwort.</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>Das ist nicht das Passwort des Besitzers.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>Das Dokument, das die Vorschau zeigt und das „Entfernen“ entfernt</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>Aktionen für Dokumente</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>Dokumente hinzufügen oder entfernen</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Print all as &amp;one job</source>
+        <translation>Alle als &amp;einen Auftrag drucken</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>Die Seiten folgen aufeinander, als wären die Dateien ein Dokument</translation>
+    </message>
+    <message>
+        <source>Enter Pass&amp;word…</source>
+        <translation>Pass&amp;wort eingeben…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>%1 (gesendet)</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>%1 (gesperrt)</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>%1 (nicht druckbar)</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1 von %2: %3</translation>
+    </message>
     <message>
         <source>Document</source>
         <translation>Dokument</translation>

@@ -495,6 +495,26 @@
             <numerusform>%1ほか%n件</numerusform>
         </translation>
     </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>文書がパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>文書は別のパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1ほか%n件</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Drawing</name>
@@ -1798,6 +1818,10 @@
         <source>Choose Documents to Print</source>
         <translation>印刷する文書の選択</translation>
     </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>印刷する文書の選択</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -1939,6 +1963,10 @@
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>文書を開けません: %1。</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>ウィンドウで入力するか、モード0600のファイルに書き込んで --secret DOCUMENT=FILE で指定してください</translation>
     </message>
     <message>
         <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
@@ -2171,6 +2199,10 @@ The settings stay as they are.</source>
         <source>“%1” is locked with a password.</source>
         <translation>「%1」はパスワードで保護されています。</translation>
     </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintFlow</name>
@@ -2226,6 +2258,47 @@ The settings stay as they are.</source>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: このプリンターはチケットを読み取らないため、送信されません</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>まだ開いていない文書があります。</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>%1のページ: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>%2件中%1件目を送信しています: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n件の文書を書き込みました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n件の文書を%1に送信しました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>文書は送信されていません。</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>送信済み: %1。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>未送信: %1。</translation>
     </message>
     <message>
         <source>Not all documents are open yet.</source>
@@ -2541,9 +2614,102 @@ The settings stay as they are.</source>
         <source>This is not the owner’s password.</source>
         <translation>所有者のパスワードではありません。</translation>
     </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>「%1」の作成者は、所有者のパスワードなしでの印刷を許可していません。</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>文書のパスワード</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>所有者のパスワードではありません。</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>プレビューに表示され、「削除」の対象になる文書</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>文書の操作</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>文書の追加または削除</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Print all as &amp;one job</source>
+        <translation>すべてを1つのジョブで印刷(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>複数のファイルを1つの文書のように、ページを続けて印刷します</translation>
+    </message>
+    <message>
+        <source>Enter Pass&amp;word…</source>
+        <translation>パスワードの入力(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>%1（送信済み）</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>%1（保護）</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>%1（印刷できません）</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1/%2: %3</translation>
+    </message>
     <message>
         <source>Document</source>
         <translation>文書</translation>

@@ -203,7 +203,7 @@ void TestCommandLine::findsTheDocument_data()
     const Table<QStringList, Origin, Origin, Origin> row{"arguments", "terminal", "nothing",
                                                          "data"};
 
-    row("named", {"a.pdf"}, Origin::File, Origin::File, Origin::File);
+    row("named", {"a.pdf"}, Origin::Files, Origin::Files, Origin::Files);
     row("none named", {}, Origin::Chooser, Origin::Chooser, Origin::StandardInput);
     row("none named, none to ask", {"--no-window"}, Origin::Missing, Origin::StandardInput,
         Origin::StandardInput);

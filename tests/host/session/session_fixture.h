@@ -96,7 +96,7 @@ struct Running
         , session(std::move(begin), &panels)
     {
         session.start();
-        session.openTheDocument();
+        session.openDocuments();
     }
 
     bool waitUntilIdle()
