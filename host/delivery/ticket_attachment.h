@@ -19,7 +19,7 @@ inline const QString kTicketAttachmentName = QStringLiteral("kelvo-ticket.plist"
 inline const QString kTicketNonceKey = QStringLiteral("com.kelvo.print.TicketNonce");
 
 // The ticket as the attachment holds it: a ticket file with a nonce of its own,
-// and without page ranges, which have been cut already.
+// and without pages and their layout: the document is cut and laid out already.
 Result<QByteArray> ticketForJob(const TicketFile &ticket);
 
 // A new PDF, 0600, at `target`: the one at `source` with `ticket` as its only
