@@ -2,6 +2,7 @@
 
 #include "document.h"
 #include "job_settings.h"
+#include "pdf_layout.h"
 #include "ppd_file.h"
 #include "result.h"
 #include "secret_keys.h"
@@ -27,7 +28,9 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document;            // as the user opened it; pages are cut here
+    Document document; // as the user opened it
+    // What of it goes out, and where; empty: the pages that the settings name, as they are.
+    PdfLayout layout;
     TicketFile ticket;            // as the panels wrote it, without nonce
     JobSettings settings;         // copies, pages, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one
@@ -36,7 +39,7 @@ struct JobRequest
         queueDefaults; // of the queue (Printer::defaults), to be contradicted where needed
 };
 
-// What goes out. The PDF (a private 0600 file, pages cut, ticket attached) and
+// What goes out. The PDF (a private 0600 file, laid out, ticket attached) and
 // the options, each once.
 struct PreparedJob
 {
