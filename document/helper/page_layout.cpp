@@ -1,5 +1,6 @@
 #include "page_layout.h"
 
+#include "pdf_numbers.h"
 #include "placed_annotations.h"
 #include "shown_page.h"
 
@@ -16,27 +17,19 @@ namespace {
 
 using Handle = QPDFObjectHandle;
 
-// Finer than any device on the largest page, also for factors.
-constexpr int decimals = 6;
-
-std::string text(double number)
-{
-    return Handle::newReal(number, decimals).unparse();
-}
-
 std::string text(const QPDFMatrix &matrix)
 {
     std::string numbers;
     for (const double number : {matrix.a, matrix.b, matrix.c, matrix.d, matrix.e, matrix.f})
-        numbers += text(number) + ' ';
+        numbers += numberText(number) + ' ';
     return numbers;
 }
 
 // "x y width height" of `rect` on a page of that `height`.
 std::string text(const QRectF &rect, double height)
 {
-    return text(rect.left()) + ' ' + text(height - rect.bottom()) + ' ' + text(rect.width()) + ' '
-        + text(rect.height());
+    return numberText(rect.left()) + ' ' + numberText(height - rect.bottom()) + ' '
+        + numberText(rect.width()) + ' ' + numberText(rect.height());
 }
 
 // A page's contents in several streams, as one. A token ends with its stream.
@@ -96,8 +89,9 @@ Handle formOf(QPDF &pdf, QPDFPageObjectHelper page, const ShownPage &shown)
     Handle entries = form.getDict();
     entries.replaceKey("/Type", Handle::newName("/XObject"));
     entries.replaceKey("/Subtype", Handle::newName("/Form"));
-    entries.replaceKey("/BBox", Handle::newFromRectangle(shown.box));
-    entries.replaceKey("/Matrix", Handle::newFromMatrix(shown.toShown()));
+    entries.replaceKey("/BBox", newRectangle(shown.box));
+    if (const QPDFMatrix matrix = shown.toShown(); matrix != QPDFMatrix())
+        entries.replaceKey("/Matrix", newMatrix(matrix));
     Handle resources = page.getAttribute("/Resources", false);
     entries.replaceKey("/Resources",
                        resources.isDictionary() ? resources : Handle::newDictionary());
@@ -219,6 +213,7 @@ private:
         Handle forms = Handle::newDictionary();
         Handle annotations = Handle::newArray();
         std::string contents;
+        int count = 0; // of forms
         for (const PlacedPage &placed : layout.pages) {
             const QRectF visible = placed.rect & placed.place;
             if (visible.isEmpty())
@@ -226,7 +221,7 @@ private:
             const Source &source = *m_sources[indexOf(placed)];
             const QPDFMatrix matrix = matrixOf(placed, source, layout.size.height());
             if (source.form.isInitialized()) {
-                const std::string name = "/P" + std::to_string(forms.getKeys().size() + 1);
+                const std::string name = "/P" + std::to_string(++count);
                 forms.replaceKey(name, source.form);
                 contents += drawing(name, placed, visible, matrix, layout.size.height());
             }
@@ -237,9 +232,7 @@ private:
                                 page, annotations);
         }
         page.replaceKey("/Type", Handle::newName("/Page"));
-        page.replaceKey(
-            "/MediaBox",
-            Handle::newFromRectangle({0, 0, layout.size.width(), layout.size.height()}));
+        page.replaceKey("/MediaBox", newNumbers({0, 0, layout.size.width(), layout.size.height()}));
         page.replaceKey("/Resources", Handle::newDictionary({{"/XObject", forms}}));
         if (!contents.empty()) {
             Handle stream = m_pdf.newStream(contents);
@@ -290,7 +283,7 @@ private:
         const QRectF line = visible.adjusted(half, half, -half, -half);
         if (line.isEmpty())
             return {};
-        return "q\n" + text(width) + " w\n" + text(line, height) + " re S\nQ\n";
+        return "q\n" + numberText(width) + " w\n" + text(line, height) + " re S\nQ\n";
     }
 
     void setPages(const std::vector<Handle> &kids)

@@ -1,5 +1,7 @@
 #include "placed_annotations.h"
 
+#include "pdf_numbers.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -81,7 +83,7 @@ bool isEmpty(const Rectangle &rect)
 Handle scaled(Handle value, double scale)
 {
     if (value.isNumber())
-        return Handle::newReal(value.getNumericValue() * scale, 6);
+        return newNumber(value.getNumericValue() * scale);
     if (!value.isArray())
         return value;
     std::vector<Handle> items = value.getArrayAsVector();
@@ -105,8 +107,8 @@ Handle moved(Handle points, const QPDFMatrix &matrix)
             double y = 0;
             matrix.transform(items[index].getNumericValue(), items[index + 1].getNumericValue(), x,
                              y);
-            items[index] = Handle::newReal(x, 6);
-            items[++index] = Handle::newReal(y, 6);
+            items[index] = newNumber(x);
+            items[++index] = newNumber(y);
         }
     }
     return Handle::newArray(items);
@@ -118,16 +120,13 @@ void scaleBorder(Handle entries, double scale)
     if (Handle style = entries.getKey("/BS"); style.isDictionary()) {
         style = style.shallowCopy();
         style.replaceKey("/W",
-                         style.hasKey("/W") ? scaled(style.getKey("/W"), scale)
-                                            : Handle::newReal(scale, 6));
+                         style.hasKey("/W") ? scaled(style.getKey("/W"), scale) : newNumber(scale));
         style.replaceKey("/D", scaled(style.getKey("/D"), scale));
         entries.replaceKey("/BS", style);
     } else if (entries.getKey("/Border").isArray()) {
         entries.replaceKey("/Border", scaled(entries.getKey("/Border"), scale));
     } else if (!entries.hasKey("/AP")) {
-        entries.replaceKey("/Border",
-                           Handle::newArray({Handle::newInteger(0), Handle::newInteger(0),
-                                             Handle::newReal(scale, 6)}));
+        entries.replaceKey("/Border", newNumbers({0, 0, scale}));
     }
 }
 
@@ -211,8 +210,7 @@ void cut(Handle appearance, const QPDFMatrix &matrix, const Rectangle &whole, co
     const Rectangle left(box.llx + (part.llx - whole.llx) * x, box.lly + (part.lly - whole.lly) * y,
                          box.urx + (part.urx - whole.urx) * x,
                          box.ury + (part.ury - whole.ury) * y);
-    entries.replaceKey("/BBox",
-                       Handle::newFromRectangle(uprightInverse(matrix)->transformRectangle(left)));
+    entries.replaceKey("/BBox", newRectangle(uprightInverse(matrix)->transformRectangle(left)));
 }
 
 // The streams of a normal appearance: one, or one for each state.
@@ -291,8 +289,7 @@ Handle PlacedAnnotations::turnedAppearance(Handle appearance, int turn)
     Handle &turned = m_turned[{appearance.getObjGen(), turn}];
     if (!turned.isInitialized()) {
         turned = appearance.copyStream();
-        turned.getDict().replaceKey("/Matrix",
-                                    Handle::newFromMatrix(turnedMatrix(appearance, turn)));
+        turned.getDict().replaceKey("/Matrix", newMatrix(turnedMatrix(appearance, turn)));
     }
     return turned;
 }
@@ -335,14 +332,14 @@ void PlacedAnnotations::place(const PageAnnotations &annotations, const Placemen
                     return turnedAppearance(stream, movement.turn);
                 Handle changed = stream.copyStream();
                 const QPDFMatrix matrix = turnedMatrix(stream, movement.turn);
-                changed.getDict().replaceKey("/Matrix", Handle::newFromMatrix(matrix));
+                changed.getDict().replaceKey("/Matrix", newMatrix(matrix));
                 cut(changed, matrix, rect, part);
                 return changed;
             });
             if (isCut)
                 rect = part;
         }
-        entries.replaceKey("/Rect", Handle::newFromRectangle(rect));
+        entries.replaceKey("/Rect", newRectangle(rect));
         entries.replaceKey("/P", page);
 
         if (!annotation.object.isIndirect()) {
