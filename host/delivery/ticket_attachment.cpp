@@ -1,6 +1,5 @@
 #include "ticket_attachment.h"
 
-#include "embedded_files.h"
 #include "job_settings.h"
 #include "property_list.h"
 
@@ -32,15 +31,9 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
     return CFPropertyListCreateXMLData(propertyListFrom(sent));
 }
 
-Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target)
+EmbeddedFile ticketAttachment(const QByteArray &ticket)
 {
-    return replaceEmbeddedFile(source, kTicketAttachmentName, ticketType, ticket, target);
-}
-
-std::optional<Document::Written> replacedTicketAhead(const Document &document,
-                                                     const QByteArray &ticket)
-{
-    return document.writtenAhead(ticketType, ticket);
+    return {kTicketAttachmentName, ticketType, ticket};
 }
 
 } // namespace kelvo

@@ -246,6 +246,10 @@
         <translation>تعذّر تحويله إلى ملف PDF سليم</translation>
     </message>
     <message>
+        <source>its pages cannot be laid out like this; choose another paper or scaling</source>
+        <translation>لا يمكن ترتيب صفحاته على هذا النحو؛ اختر ورقًا آخر أو تحجيمًا آخر</translation>
+    </message>
+    <message>
         <source>the document has %1 pages, and not all that are asked for</source>
         <translation>عدد صفحات المستند %1، وليست فيه كل الصفحات المطلوبة</translation>
     </message>

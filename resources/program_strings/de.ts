@@ -762,6 +762,10 @@ ungültig, 130 abgebrochen.
         <translation>daraus ließ sich keine einwandfreie PDF-Datei machen</translation>
     </message>
     <message>
+        <source>its pages cannot be laid out like this; choose another paper or scaling</source>
+        <translation>seine Seiten lassen sich so nicht anordnen; wählen Sie ein anderes Papier oder eine andere Skalierung</translation>
+    </message>
+    <message>
         <source>the document has %1 pages, and not all that are asked for</source>
         <translation>das Dokument hat %1 Seiten, und nicht alle gewünschten sind darunter</translation>
     </message>

@@ -241,6 +241,10 @@
         <translation>正しいPDFに変換できませんでした</translation>
     </message>
     <message>
+        <source>its pages cannot be laid out like this; choose another paper or scaling</source>
+        <translation>ページをこのように割り付けることはできません。別の用紙または拡大縮小の設定を選んでください</translation>
+    </message>
+    <message>
         <source>the document has %1 pages, and not all that are asked for</source>
         <translation>文書は%1ページで、指定されたページの一部がありません</translation>
     </message>
