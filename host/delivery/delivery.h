@@ -28,8 +28,8 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document; // as the user opened it
-    PdfLayout layout;  // what of it goes out, and where; empty: all, as it is
+    Document document;            // as the user opened it
+    PdfLayout layout;             // what of it goes out, and where; empty: all, as it is
     TicketFile ticket;            // as the panels wrote it, without nonce
     JobSettings settings;         // copies, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one

@@ -20,8 +20,8 @@ struct JobSettings
 {
     int copies = 1; // 1 to 9999
     bool collate = true;
-    QString pageRanges;             // "1-3,7,6-1"; empty: all
-    QString paperName;              // a PPD page size, or "Custom.WxH"; empty: the PPD's default
+    QString pageRanges; // "1-3,7,6-1"; empty: all
+    QString paperName;  // a PPD page size, or "Custom.WxH"; empty: the PPD's default
     Orientation orientation = Orientation::Portrait;
     PageLayout layout;
     PageSet pageSet = PageSet::All; // of the ranges

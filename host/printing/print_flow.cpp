@@ -2,6 +2,7 @@
 
 #include "device_offers.h"
 #include "dialog_session.h"
+#include "ppd_words.h"
 #include "presets.h"
 #include "session_cautions.h"
 #include "session_words.h"
