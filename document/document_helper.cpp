@@ -49,9 +49,8 @@ DocumentHelper helperFor(Task task)
     case Task::TidyPdf:
     case Task::TidyPdfToWrite:
     case Task::WritePdf:
-    case Task::SelectPdfPages:
+    case Task::MakePdf:
     case Task::JoinPdfs:
-    case Task::ReplaceEmbeddedFile:
     case Task::CheckEmbeddedFile:
         break;
     }

@@ -30,13 +30,6 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target, const QSt
                            target);
 }
 
-Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
-                            const QString &target)
-{
-    return ask<void>(Task::SelectPdfPages, {source, QFileInfo(target).path()}, source, runs,
-                     target);
-}
-
 Result<void> joinPdfs(const QStringList &sources, const QString &target,
                       const std::atomic_bool &cancelled)
 {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "page_ranges.h"
 #include "result.h"
 
 #include <QSizeF>
@@ -10,8 +9,8 @@
 #include <atomic>
 #include <vector>
 
-// What is read of PDFs, and done to their pages: in a child process with limits on
-// time and memory. Blocks: for worker threads.
+// What is read of PDFs: in a child process with limits on time and memory. Blocks: for worker
+// threads.
 namespace kelvo {
 
 struct PdfPages
@@ -33,11 +32,6 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target, const QSt
 // What a helper has found, with the file moved to `target` where it is sound.
 Result<PdfPages> takenWhereSound(Result<PdfPages> pages, const QString &source,
                                  const QString &target);
-
-// A PDF at `target` of the pages that `runs` name, in their order. What belongs
-// to the other pages alone is not in it.
-Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
-                            const QString &target);
 
 // A PDF at `target` of all pages of `sources`, one after the other. Each document keeps what
 // is typed into its fields, what it shows of its layers, and where its links lead, whatever

@@ -69,8 +69,8 @@ void DialogSession::takeSearch()
 void DialogSession::takeDocument()
 {
     m_job.setTitle(m_documents.title());
-    if (const Document &document = this->document().document(); !document.isNull())
-        m_job.setDocument(document.pdfPath(), document.pageCount());
+    if (const Document &shown = document().document(); !shown.isNull())
+        m_job.setDocument(shown);
     emit documentChanged();
 }
 
@@ -81,11 +81,6 @@ void DialogSession::choosePrinter(const QString &name)
         endPanels();
     }
     m_search.choose(name);
-}
-
-Result<std::vector<PageRun>> DialogSession::pages() const
-{
-    return pageRunsFrom(m_job.settings().pageRanges, document().document().pageCount());
 }
 
 void DialogSession::begin()

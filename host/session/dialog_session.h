@@ -58,9 +58,6 @@ public:
     const SessionDocuments &documents() const { return m_documents; }
     // The one that is looked at, which the job is about.
     const DocumentOpening &document() const { return m_documents.shown(); }
-    // Those of the document that are printed; the error says which there are.
-    Result<std::vector<PageRun>> pages() const; // Stage::Ready, and the document is there
-
     SessionJob &job() { return m_job; } // Stage::Ready
     const SessionJob &job() const { return m_job; }
     bool hasPanels() const { return m_panels && m_panels->isBegun(); }
