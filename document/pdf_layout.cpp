@@ -43,17 +43,6 @@ bool isOfSense(const LaidOutPage &page)
 
 } // namespace
 
-PdfLayout pagesAsTheyAre(const std::vector<PageRun> &runs)
-{
-    PdfLayout layout;
-    layout.reserve(static_cast<std::size_t>(pageCount(runs)));
-    for (const PageRun &run : runs) {
-        for (int page = run.first; page <= run.last; ++page)
-            layout.push_back({.pages = {{.page = page}}, .isAsItIs = true});
-    }
-    return layout;
-}
-
 bool isAsItIs(const PdfLayout &layout, int pageCount)
 {
     if (layout.empty())

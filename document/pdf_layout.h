@@ -1,6 +1,5 @@
 #pragma once
 
-#include "page_ranges.h"
 #include "result.h"
 
 #include <QRectF>
@@ -38,9 +37,6 @@ struct LaidOutPage
 
 // In the order in which they go out. Empty: the document as it is.
 using PdfLayout = std::vector<LaidOutPage>;
-
-// Those pages, as they are.
-PdfLayout pagesAsTheyAre(const std::vector<PageRun> &runs);
 
 // Whether that is the document, of `pageCount` pages, as it is.
 bool isAsItIs(const PdfLayout &layout, int pageCount);

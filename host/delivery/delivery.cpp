@@ -5,7 +5,6 @@
 #include "file_store.h"
 #include "job_options.h"
 #include "output_file.h"
-#include "page_ranges.h"
 #include "ppd_words.h"
 #include "queue_ppds.h"
 #include "temporary_folder.h"
@@ -53,19 +52,10 @@ Result<PdfLayout> layoutOf(const JobRequest &request)
     if (document.isNull())
         return Error{Code::NotFound, translate("Delivery", "document"),
                      translate("Delivery", "there is nothing to print")};
-    PdfLayout layout = request.layout;
-    if (layout.empty()) {
-        const auto runs = pageRunsFrom(request.settings.pageRanges, document.pageCount());
-        if (!runs)
-            return runs.error();
-        layout = pagesAsTheyAre(runs.value());
-    }
-    if (Result<void> checked = checkLayout(layout, document.pageCount(), document.title());
+    if (Result<void> checked = checkLayout(request.layout, document.pageCount(), document.title());
         !checked)
         return checked.error();
-    if (isAsItIs(layout, document.pageCount()))
-        layout.clear();
-    return layout;
+    return isAsItIs(request.layout, document.pageCount()) ? PdfLayout() : request.layout;
 }
 
 // The PDF that goes out: laid out, with the ticket where the device reads it, and without

@@ -28,11 +28,10 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document; // as the user opened it
-    // What of it goes out, and where; empty: the pages that the settings name, as they are.
-    PdfLayout layout;
+    Document document;            // as the user opened it
+    PdfLayout layout;             // what of it goes out, and where; empty: all, as it is
     TicketFile ticket;            // as the panels wrote it, without nonce
-    JobSettings settings;         // copies, pages, paper (job_settings.h)
+    JobSettings settings;         // copies, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one
     SecretKeys secretKeys;        // from the bundle
     QMap<QString, QString>

@@ -1,5 +1,6 @@
 #include "ticket_attachment.h"
 
+#include "job_settings.h"
 #include "property_list.h"
 
 #include <sys/random.h>
@@ -25,7 +26,8 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
                      QString::fromUtf8(std::strerror(errno))};
     TicketFile sent = ticket;
     sent.unknown.insert(kTicketNonceKey, nonce);
-    sent.printSettings.entries.erase(kPMPageRangesKey);
+    for (const QString &key : pageEntries()) // done to the document already
+        sent.printSettings.entries.erase(key);
     return CFPropertyListCreateXMLData(propertyListFrom(sent));
 }
 

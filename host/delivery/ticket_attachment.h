@@ -17,7 +17,7 @@ inline const QString kTicketAttachmentName = QStringLiteral("kelvo-ticket.plist"
 inline const QString kTicketNonceKey = QStringLiteral("com.kelvo.print.TicketNonce");
 
 // The ticket as the attachment holds it: a ticket file with a nonce of its own,
-// and without page ranges, which have been cut already.
+// and without pages and their layout: the document is cut and laid out already.
 Result<QByteArray> ticketForJob(const TicketFile &ticket);
 
 // `ticket` as the attachment of a PDF; null: it has none, and loses an older one.

@@ -20,6 +20,14 @@ using namespace kelvo::test;
 
 namespace {
 
+PdfLayout pagesAsTheyAre(std::initializer_list<int> pages)
+{
+    PdfLayout layout;
+    for (const int page : pages)
+        layout.push_back({.pages = {{.page = page}}, .isAsItIs = true});
+    return layout;
+}
+
 constexpr QSizeF a4(596, 842);
 constexpr int mostDifferent = 50; // of 255
 
@@ -232,7 +240,7 @@ void TestPdfLayout::leavesNothingOfOtherPages()
                "R >>"}));
 
     const auto done = layOut(
-        source, isAsItIs ? pagesAsTheyAre({{1, 1}}) : PdfLayout{placed(1, QRectF(0, 0, 200, 300))},
+        source, isAsItIs ? pagesAsTheyAre({1}) : PdfLayout{placed(1, QRectF(0, 0, 200, 300))},
         "cut.pdf");
 
     QVERIFY2(done, qPrintable(done.reason()));
@@ -305,7 +313,7 @@ void TestPdfLayout::readsInTheOrderOfThePlaces()
 void TestPdfLayout::sendsPagesAsTheyAre()
 {
     const QString source = file("pdf", pdfWithPages({"", "", "", "", ""}));
-    PdfLayout layout = pagesAsTheyAre({{4, 5}, {2, 2}, {4, 4}});
+    PdfLayout layout = pagesAsTheyAre({4, 5, 2, 4});
     layout.push_back({{300, 400}, {}}); // blank
     layout.push_back(placed(2, {0, 0, 100, 150}, 0, {250, 300}));
 
