@@ -120,8 +120,8 @@ Result<std::vector<Queue>> readQueues(http_t *http, const Patience &patience)
     ipp_t *request = newRequest(IPP_OP_CUPS_GET_PRINTERS);
     askFor(request,
            {"printer-name", "printer-info", "printer-location", "printer-make-and-model",
-            "printer-state", "printer-state-reasons", "printer-is-accepting-jobs",
-            "printer-defaults"});
+            "printer-state", "printer-state-message", "printer-state-reasons",
+            "printer-is-accepting-jobs", "printer-defaults"});
     const Message response(cupsDoRequest(http, request, "/"));
     if (!response || !isAnswered())
         return serverError(patience, serverName());
@@ -167,7 +167,8 @@ Printer printerFrom(const QString &name, const Options &options)
     printer.state = stateFrom(option("printer-state").toInt());
     printer.acceptsJobs = option("printer-is-accepting-jobs") != QLatin1String("false");
     printer.stateMessage =
-        stateWords({}, option("printer-state-reasons").split(u',', Qt::SkipEmptyParts));
+        stateWords(option("printer-state-message"),
+                   option("printer-state-reasons").split(u',', Qt::SkipEmptyParts));
     for (auto value = options.cbegin(); value != options.cend(); ++value) {
         if (!isDescription(value.key()))
             printer.defaults.insert(value.key(), value.value());
