@@ -18,6 +18,7 @@ namespace kelvo {
 
 class PopupButton;
 class PresetMenu;
+class PrinterList;
 class SpinField;
 
 // The host's own controls: printer, preset, copies, pages, paper. It shows what
@@ -36,6 +37,7 @@ public:
     // The queues, or one device without a queue.
     void setPrinters(const QList<Printer> &printers, const QString &chosen);
     void setDevice(const QString &name);
+    bool arePrintersListed() const; // the user looks at their list
 
     // Enables what `ppd` offers; null: the paper is the printer's own.
     void setSettings(const JobSettings &settings, const PpdFile *ppd);
@@ -52,6 +54,7 @@ protected:
 
 signals:
     void printerChosen(const QString &name);
+    void printersListed(); // the user has opened their list
     void settingsEdited();
 
 private:
@@ -60,9 +63,13 @@ private:
     void showPageField();
     void colour();
     void fitToFont();
+    PrinterList *makePrinterList();
 
     PresetMenu *m_presets;
     PopupButton *m_printer;
+    PrinterList *m_printerList = nullptr; // null: not opened yet
+    QList<Printer> m_printers;
+    QString m_chosenPrinter;
     SpinField *m_copies;
     QCheckBox *m_collate;
     PopupButton *m_pagesChoice;
