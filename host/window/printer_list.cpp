@@ -191,6 +191,7 @@ bool PrinterList::takeKey(QObject *watched, QKeyEvent *event)
         if (watched == m_list)
             return false;
         QCoreApplication::sendEvent(m_list, event);
+        event->accept(); // also where there is no row to go to
         // Readers follow the focus, and that stays in the field.
         QAccessibleEvent moved(m_list, QAccessible::Focus);
         moved.setChild(m_list->currentIndex().row());

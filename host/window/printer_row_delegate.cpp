@@ -104,13 +104,14 @@ private:
     void write(const QRect &room, const QString &text, const QFont &font, const QColor &color,
                Qt::Alignment alignment, Qt::TextElideMode elide)
     {
+        // A letter that another font has may be higher than the line.
         const QString fitting = QFontMetrics(font).elidedText(text, elide, room.width());
         m_painter->setFont(font);
         m_painter->setPen(color);
         m_painter->drawText(shown(room),
                             int(QStyle::visualAlignment(m_option.direction, alignment)
                                 | Qt::AlignAbsolute | Qt::AlignVCenter)
-                                | Qt::TextSingleLine,
+                                | Qt::TextSingleLine | Qt::TextDontClip,
                             fitting);
     }
 
@@ -130,7 +131,7 @@ private:
 
     void paintCheckMark(const QRect &room)
     {
-        const QRectF square = QRectF(shown(room)).adjusted(0, 0, -padding, 0);
+        const QRectF square(shown(room.adjusted(0, 0, -padding, 0)));
         const auto at = [&square](double x, double y) {
             return square.topLeft() + QPointF(x * square.width(), y * square.height());
         };
