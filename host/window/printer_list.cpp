@@ -5,6 +5,7 @@
 #include "printer_list_model.h"
 #include "printer_row_delegate.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QCursor>
@@ -39,6 +40,8 @@ PrinterList::PrinterList(PopupButton *button)
     m_field->setPlaceholderText(tr("Name, place or model"));
     m_field->setAccessibleName(tr("Search for a printer"));
     m_field->setClearButtonEnabled(true);
+    for (auto *clear : m_field->findChildren<QAbstractButton *>())
+        clear->setAccessibleName(tr("Clear the search"));
     setAccessibleRole(m_count, QAccessible::Notification);
     m_count->setObjectName(QStringLiteral("printerCount"));
     m_count->setTextFormat(Qt::PlainText);

@@ -2337,6 +2337,10 @@ The settings stay as they are.</source>
         <translation>البحث عن طابعة</translation>
     </message>
     <message>
+        <source>Clear the search</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
         <source>No printer has this in its name, place or model.</source>
         <translation>لا توجد طابعة يرد هذا في اسمها أو مكانها أو طرازها.</translation>
     </message>

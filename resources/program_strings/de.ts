@@ -3243,6 +3243,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <translation>Drucker suchen</translation>
     </message>
     <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
         <source>No printer has this in its name, place or model.</source>
         <translation>Kein Drucker hat das in Name, Standort oder Modell.</translation>
     </message>

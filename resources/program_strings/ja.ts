@@ -2267,6 +2267,10 @@ The settings stay as they are.</source>
         <translation>プリンターを検索</translation>
     </message>
     <message>
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message>
         <source>No printer has this in its name, place or model.</source>
         <translation>名前、場所、機種にこれを含むプリンターはありません。</translation>
     </message>
