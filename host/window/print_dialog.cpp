@@ -90,7 +90,12 @@ PrintDialog::PrintDialog(DialogOptions options)
         emit begun();
     });
     m_watch.setInterval(watchMs);
-    connect(&m_watch, &QTimer::timeout, m_session.get(), &DialogSession::lookAtPrinter);
+    connect(&m_watch, &QTimer::timeout, this, [this] {
+        if (m_parts.printer->arePrintersListed())
+            m_session->lookAtPrinters();
+        else
+            m_session->lookAtPrinter();
+    });
     connect(&m_sent, &SentMessage::told, this, [this] { end(ExitStatus::Printed); });
     watchEvents([this](const Event &event) {
         if (!isReady())
@@ -126,6 +131,8 @@ PrintDialog::PrintDialog(DialogOptions options)
                                                    : ExitStatus::NotOffered);
     });
 
+    connect(m_parts.printer, &PrinterPane::printersListed, m_session.get(),
+            &DialogSession::lookAtPrinters);
     connect(m_parts.printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
         commitTypedValues(this);
         if (const Extension *shown = panels())

@@ -2551,23 +2551,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>عمودي</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>أفقي</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>عمودي، مقلوب</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>أفقي، مقلوب</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>لا تقبل مهام</translation>
@@ -2588,6 +2572,88 @@ The settings stay as they are.</source>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>&#x2068;%1&#x2069;: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>&#x2068;%1&#x2069; (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1: &#x2068;%2&#x2069;</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>مختارة</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>افتراضية</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>الطابعات</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>الاسم أو المكان أو الطراز</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>البحث عن طابعة</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>لا توجد طابعة يرد هذا في اسمها أو مكانها أو طرازها.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>لا طابعات</numerusform>
+            <numerusform>طابعة واحدة</numerusform>
+            <numerusform>طابعتان</numerusform>
+            <numerusform>%n طابعات</numerusform>
+            <numerusform>%n طابعة</numerusform>
+            <numerusform>%n طابعة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 من %n طابعة</numerusform>
+            <numerusform>%1 من طابعة واحدة</numerusform>
+            <numerusform>%1 من طابعتين</numerusform>
+            <numerusform>%1 من %n طابعات</numerusform>
+            <numerusform>%1 من %n طابعة</numerusform>
+            <numerusform>%1 من %n طابعة</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودي</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>أفقي</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>عمودي، مقلوب</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>أفقي، مقلوب</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -2632,11 +2698,6 @@ The settings stay as they are.</source>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>ال&amp;اتجاه:</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>&#x2068;%1&#x2069; (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -2728,6 +2789,10 @@ The settings stay as they are.</source>
     <message>
         <source>The print server has no description of its settings.</source>
         <translation>ليس لدى خادم الطباعة وصف لإعداداتها.</translation>
+    </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>لم يعد خادم الطباعة يعرفها</translation>
     </message>
 </context>
 <context>

@@ -3432,23 +3432,7 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Hochformat, umgekehrt</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Querformat, umgekehrt</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>nimmt keine Aufträge an</translation>
@@ -3469,6 +3453,80 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>ausgewählt</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>Name, Standort oder Modell</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>Drucker suchen</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>Kein Drucker hat das in Name, Standort oder Modell.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n Drucker</numerusform>
+            <numerusform>%n Drucker</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 von %n Drucker</numerusform>
+            <numerusform>%1 von %n Druckern</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Hochformat, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Querformat, umgekehrt</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -3513,11 +3571,6 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>A&amp;usrichtung:</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -3609,6 +3662,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>The print server has no description of its settings.</source>
         <translation>Der Druckserver hat keine Beschreibung der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>der Druckserver kennt ihn nicht mehr</translation>
     </message>
 </context>
 <context>

@@ -162,4 +162,21 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n printer</numerusform>
+            <numerusform>%n printers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 of %n printer</numerusform>
+            <numerusform>%1 of %n printers</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -2461,23 +2461,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>縦(上下逆)</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横(上下逆)</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>ジョブを受け付けません</translation>
@@ -2498,6 +2482,78 @@ The settings stay as they are.</source>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>選択中</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>既定</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>名前、場所、機種</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>プリンターを検索</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>名前、場所、機種にこれを含むプリンターはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n台のプリンター</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%n台中%1台のプリンター</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>縦(上下逆)</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横(上下逆)</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -2542,11 +2598,6 @@ The settings stay as they are.</source>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>印刷の向き(&amp;I):</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -2638,6 +2689,10 @@ The settings stay as they are.</source>
     <message>
         <source>The print server has no description of its settings.</source>
         <translation>プリントサーバーに設定の情報がありません。</translation>
+    </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>プリントサーバーに登録されていません</translation>
     </message>
 </context>
 <context>
