@@ -136,6 +136,8 @@ Result<void> checkOutputTargets(const CommandLine &line)
                 return checked;
         }
     }
+    if (line.toPdf)
+        return checkTarget(QStringLiteral("--to"), *line.toPdf, inputs);
     return {};
 }
 

@@ -76,21 +76,38 @@ void PrintFlow::press(const QString &unfinished)
     Q_ASSERT(!m_isPrinting);
     m_refusal.reset();
     m_isCalledOff = false;
+    m_isAside = false;
     if (!hasDestination())
         return;
     m_session.job().writeAll();
     m_jobs = m_session.documents().unsent();
-    if (!havePages(unfinished) || !goTogether() || !areLetGo() || !areSettingsWritten())
+    if (!havePages(unfinished))
         return;
-    m_isPrinting = true;
+    const bool isForPeople = m_plan.elsewhere && m_plan.elsewhere->isForPeople();
+    if ((!isForPeople && !goTogether()) || !areLetGo() || !areSettingsWritten())
+        return;
     startNext();
+    emit started();
+}
+
+void PrintFlow::pressTo(std::shared_ptr<const Destination> destination, const QString &unfinished)
+{
+    Q_ASSERT(!m_isPrinting);
+    m_refusal.reset();
+    m_isCalledOff = false;
+    m_isAside = true; // of the document that is looked at, and no other
+    m_session.job().writeAll();
+    m_jobs = {m_session.documents().shownIndex()};
+    if (!havePages(unfinished))
+        return;
+    start(std::move(destination));
     emit started();
 }
 
 bool PrintFlow::areSeveral() const
 {
     const SessionDocuments &documents = m_session.documents();
-    return documents.count() > 1 && !documents.areJoined();
+    return !m_isAside && documents.count() > 1 && !documents.areJoined();
 }
 
 bool PrintFlow::hasDestination()
@@ -209,25 +226,33 @@ Result<void> PrintFlow::writeSettingsOut()
 void PrintFlow::startNext()
 {
     const PrinterSearch &search = m_session.search();
-    SessionJob &job = m_session.job();
     SessionDocuments &documents = m_session.documents();
     const int number = m_jobs.front();
     documents.show(number);
     if (areSeveral())
-        job.writeAll(); // of this document
-    const QString title = documents.title();
-    m_destination = m_plan.elsewhere ? m_plan.elsewhere
-                                     : queueDestination(search.name(), title, search.timeoutMs());
-    if (auto own =
-            areSeveral() ? m_destination->ofOne(number + 1, documents.at(number).title()) : nullptr)
-        m_destination = std::move(own);
+        m_session.job().writeAll(); // of this document
+    auto destination = m_plan.elsewhere
+        ? m_plan.elsewhere
+        : queueDestination(search.name(), documents.title(), search.timeoutMs());
+    auto own =
+        areSeveral() ? destination->ofOne(number + 1, documents.at(number).title()) : nullptr;
+    start(own ? std::move(own) : std::move(destination));
+}
+
+void PrintFlow::start(std::shared_ptr<const Destination> destination)
+{
+    const PrinterSearch &search = m_session.search();
+    SessionJob &job = m_session.job();
+    m_isPrinting = true;
+    m_destination = std::move(destination);
     PrintRun::Order order;
+    order.request.isForPeople = m_destination->isForPeople();
     order.request.document = m_session.document().document();
     order.request.ticket = job.ticket();
     order.request.settings = job.settings();
     // A device that reads tickets finds there how pages are turned.
-    const bool isUpsideDown =
-        !readsTickets(search.ppd().get()) && isReverse(order.request.settings.orientation);
+    const bool isUpsideDown = !order.request.isForPeople && !readsTickets(search.ppd().get())
+        && isReverse(order.request.settings.orientation);
     order.request.layout = job.printedPages().value().pdfLayout(isUpsideDown);
     order.request.secretKeys = job.secretKeys();
     if (const Printer *printer = search.printer())
@@ -345,6 +370,11 @@ QString PrintFlow::withTheOthers(const QString &problem) const
 void PrintFlow::sayWhatWasNotSent()
 {
     SessionJob &job = m_session.job();
+    if (m_destination->isForPeople()) {
+        if (const QString sentence = leftToThePrinter(job); !sentence.isEmpty())
+            printLine(stderr, QStringLiteral("kelvo-print: ") + sentence);
+        return;
+    }
     for (const QString &setting : job.missing())
         printLine(stderr,
                   QStringLiteral("kelvo-print: ")

@@ -74,6 +74,9 @@ public:
     // Not while a job is on its way. `unfinished` is what the user has still to type of the
     // pages, a sentence; mostly empty.
     void press(const QString &unfinished = {});
+    // The same to somewhere else than the plan says: a file for people, which no settings of a
+    // printer can be wrong for.
+    void pressTo(std::shared_ptr<const Destination> destination, const QString &unfinished = {});
     // A press that finds no button to press; refused() does not tell of it.
     void refuseUnready();
     void cancel(); // the outcome says whether it was in time
@@ -84,6 +87,7 @@ public:
     static QString unknownOutcome();
 
     bool isPrinting() const { return m_isPrinting; }
+    bool isAside() const { return m_isAside; }   // the last press was pressTo()
     QString onTheWay() const;                    // while it is; "Sending 2 of 5: b.txt"
     QString arrived(const QString &place) const; // once it has printed(); "Hall-3-17 sent"
     // Of the last press; none when it went out or was called off.
@@ -108,6 +112,7 @@ private:
     bool areSettingsWritten();
     bool areSeveral() const;
     void startNext();
+    void start(std::shared_ptr<const Destination> destination);
     void takeOutcome(const PrintOutcome &outcome);
     QString withTheOthers(const QString &problem) const;
     void sayWhatWasNotSent();
@@ -120,6 +125,7 @@ private:
     const PrintPlan m_plan;
     PrintQuestions *m_questions = nullptr;
     std::vector<int> m_jobs; // of this press: the documents still to be sent
+    bool m_isAside = false;
     std::unique_ptr<PrintRun> m_run;
     std::shared_ptr<const Destination> m_destination; // of the last job
     bool m_isPrinting = false;

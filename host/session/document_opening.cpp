@@ -32,6 +32,11 @@ void DocumentOpening::cancel()
     m_opening.drop();
 }
 
+QString DocumentOpening::sourcePath() const
+{
+    return m_source && m_source->path != QLatin1String("-") ? m_source->path : QString();
+}
+
 QString DocumentOpening::title() const
 {
     return m_document.isNull() ? m_title : m_document.title();

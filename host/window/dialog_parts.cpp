@@ -140,7 +140,7 @@ void DialogParts::arrangeTabOrder()
     chainFocusStops(focusStopsIn(printer) + documentStops + focusStopsIn(preview)
                     + QList<QWidget *>{panelSwitch} + panelStops + focusStopsIn(cautionBar)
                     + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(),
-                                       foot->cancel(), foot->print()});
+                                       foot->savePdf(), foot->cancel(), foot->print()});
 }
 
 void DialogParts::giveFirstFocus()

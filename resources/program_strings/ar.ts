@@ -9,6 +9,15 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>كتابة ملف PDF لما سيُطبع؛ وباسم مجلد تُكتب فيه
+document.pdf وoptions وticket.plist</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message>
         <source>This character cannot be used here.</source>
@@ -175,6 +184,14 @@
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>ملف PPD لدى خادم الطباعة على &#x2068;%1&#x2069; لهذه الطابعة فارغ؛ اطلب إعداد قائمة الانتظار مجددًا بملف PPD الخاص بالجهاز</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>هذا هو المستند نفسه وسيُفقد؛ سمِّ ملفًا آخر</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>يوجد هناك ملف آخر ليس PDF؛ سمِّ ملفًا آخر</translation>
     </message>
 </context>
 <context>
@@ -484,31 +501,6 @@
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>لا يستطيع Ghostscript قراءة ملف PostScript هذا: %1</translation>
-    </message>
-    <message>
-        <source>the document is locked with a password</source>
-        <translation>المستند مقفل بكلمة مرور</translation>
-    </message>
-    <message>
-        <source>the document is locked with another password</source>
-        <translation>المستند مقفل بكلمة مرور أخرى</translation>
-    </message>
-    <message>
-        <source>%1 – %2</source>
-        <comment>the title asked for, and the file’s name</comment>
-        <translation>&#x2066;%1&#x2069; – &#x2066;%2&#x2069;</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <comment>what the first document is called</comment>
-        <translation>
-            <numerusform>&#x2066;%1&#x2069;</numerusform>
-            <numerusform>&#x2066;%1&#x2069; ومستند آخر</numerusform>
-            <numerusform>&#x2066;%1&#x2069; ومستندان آخران</numerusform>
-            <numerusform>&#x2066;%1&#x2069; و%n مستندات أخرى</numerusform>
-            <numerusform>&#x2066;%1&#x2069; و%n مستندًا آخر</numerusform>
-            <numerusform>&#x2066;%1&#x2069; و%n مستند آخر</numerusform>
-        </translation>
     </message>
     <message>
         <source>the document is locked with a password</source>
@@ -1430,6 +1422,21 @@
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>تُحجَّم الصفحات بعدد من %1 إلى %2 بالمئة</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>الصفحة %1 أكبر من موضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحة %1 أكبر من موضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحتان %1 أكبر من موضعيهما على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>اختر صفحات أقل في الورقة، أو دع الصفحات تُصغَّر لتلائم مواضعها.</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1505,18 +1512,6 @@
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>الصفحات الفردية والزوجية</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>الصفحات الفردية فقط</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>الصفحات الزوجية فقط</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>تصغير الصفحات الأكبر</translation>
     </message>
@@ -1567,6 +1562,18 @@
     <message>
         <source>Up, then left</source>
         <translation>لأعلى ثم يسارًا</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>الفردية والزوجية</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>الصفحات الفردية</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>الصفحات الزوجية</translation>
     </message>
 </context>
 <context>
@@ -1762,6 +1769,15 @@
         <source>Sheet %1, front</source>
         <translation>الورقة %1، الوجه</translation>
     </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>أكبر من المواضع على الورقة</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>بنسبة %1</translation>
+    </message>
 </context>
 <context>
     <name>Scripts</name>
@@ -1876,6 +1892,22 @@
         <source>%1.</source>
         <comment>a clause that stands alone</comment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>الطابعة وحدها تضيف هذا: %1.</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>الكتيب</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>العلامة المائية</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>الأغلفة والإدراجات</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2028,8 +2060,17 @@
         <translation>&#x2068;%1&#x2069;: لا يمكن إنشاء النافذة: %2</translation>
     </message>
     <message>
-        <source>Choose Documents to Print</source>
-        <translation>اختيار مستندات للطباعة</translation>
+        <source>Save as PDF</source>
+        <translation>حفظ كملف PDF</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>ملفات PDF</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (مطبوع)</translation>
     </message>
     <message>
         <source>Choose Documents to Print</source>
@@ -2135,6 +2176,14 @@
         <source>All settings of the job in words, before it is printed</source>
         <translation>كل إعدادات المهمة بالكلمات قبل طباعتها</translation>
     </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>حفظ كملف PDF…</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>الصفحات كما ستُطبع، في ملف</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -2176,10 +2225,6 @@
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>لا يمكن فتح المستند: %1</translation>
-    </message>
-    <message>
-        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
-        <translation>اكتبها في النافذة، أو احفظها في ملف بالصلاحيات 0600 يحدده &#x2066;--secret DOCUMENT=FILE&#x2069;</translation>
     </message>
     <message>
         <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
@@ -2239,10 +2284,6 @@
         <translation>الصفحات الفردية والزوجية، والترتيب، والتحجيم، وعدة صفحات في الورقة</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>&amp;فقط:</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>تخطيط الصفحات</translation>
     </message>
@@ -2281,6 +2322,10 @@
     <message>
         <source>reversed</source>
         <translation>معكوس</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>&amp;منها:</translation>
     </message>
 </context>
 <context>
@@ -2471,10 +2516,6 @@ The settings stay as they are.</source>
         <source>“%1” is locked with a password.</source>
         <translation>«%1» مقفل بكلمة مرور.</translation>
     </message>
-    <message>
-        <source>“%1” is locked with a password.</source>
-        <translation>«%1» مقفل بكلمة مرور.</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::PrintFlow</name>
@@ -2582,57 +2623,6 @@ The settings stay as they are.</source>
         <source>Not sent: %1.</source>
         <translation>لم يُرسل: %1.</translation>
     </message>
-    <message>
-        <source>Not all documents are open yet.</source>
-        <translation>لم تُفتح كل المستندات بعد.</translation>
-    </message>
-    <message>
-        <source>Pages of %1: %2</source>
-        <translation>صفحات &#x2066;%1&#x2069;: %2</translation>
-    </message>
-    <message>
-        <source>Sending %1 of %2: %3</source>
-        <translation>يجري إرسال %1 من %2: &#x2066;%3&#x2069;</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n document(s) written</source>
-        <translation>
-            <numerusform>لم يُكتب أي مستند</numerusform>
-            <numerusform>كُتب مستند واحد</numerusform>
-            <numerusform>كُتب مستندان</numerusform>
-            <numerusform>كُتبت %n مستندات</numerusform>
-            <numerusform>كُتب %n مستندًا</numerusform>
-            <numerusform>كُتب %n مستند</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n document(s) sent to %1</source>
-        <translation>
-            <numerusform>لم يُرسل أي مستند إلى %1</numerusform>
-            <numerusform>أُرسل مستند واحد إلى %1</numerusform>
-            <numerusform>أُرسل مستندان إلى %1</numerusform>
-            <numerusform>أُرسلت %n مستندات إلى %1</numerusform>
-            <numerusform>أُرسل %n مستندًا إلى %1</numerusform>
-            <numerusform>أُرسل %n مستند إلى %1</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a document, and its job</comment>
-        <translation>&#x2066;%1&#x2069; (&#x2066;%2&#x2069;)</translation>
-    </message>
-    <message>
-        <source>No document was sent.</source>
-        <translation>لم يُرسل أي مستند.</translation>
-    </message>
-    <message>
-        <source>Sent: %1.</source>
-        <translation>أُرسل: %1.</translation>
-    </message>
-    <message>
-        <source>Not sent: %1.</source>
-        <translation>لم يُرسل: %1.</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::PrintRun</name>
@@ -2646,23 +2636,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>عمودي</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>أفقي</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>عمودي، مقلوب</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>أفقي، مقلوب</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>لا تقبل مهام</translation>
@@ -2683,6 +2657,88 @@ The settings stay as they are.</source>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>&#x2068;%1&#x2069;: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>&#x2068;%1&#x2069; (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1: &#x2068;%2&#x2069;</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>مختارة</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>افتراضية</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>الطابعات</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>الاسم أو المكان أو الطراز</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>البحث عن طابعة</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>لا توجد طابعة يرد هذا في اسمها أو مكانها أو طرازها.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>لا طابعات</numerusform>
+            <numerusform>طابعة واحدة</numerusform>
+            <numerusform>طابعتان</numerusform>
+            <numerusform>%n طابعات</numerusform>
+            <numerusform>%n طابعة</numerusform>
+            <numerusform>%n طابعة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 من %n طابعة</numerusform>
+            <numerusform>%1 من طابعة واحدة</numerusform>
+            <numerusform>%1 من طابعتين</numerusform>
+            <numerusform>%1 من %n طابعات</numerusform>
+            <numerusform>%1 من %n طابعة</numerusform>
+            <numerusform>%1 من %n طابعة</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودي</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>أفقي</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>عمودي، مقلوب</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>أفقي، مقلوب</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -2727,11 +2783,6 @@ The settings stay as they are.</source>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>ال&amp;اتجاه:</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>&#x2068;%1&#x2069; (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -2824,6 +2875,10 @@ The settings stay as they are.</source>
         <source>The print server has no description of its settings.</source>
         <translation>ليس لدى خادم الطباعة وصف لإعداداتها.</translation>
     </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>لم يعد خادم الطباعة يعرفها</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::Queue</name>
@@ -2910,102 +2965,9 @@ The settings stay as they are.</source>
         <source>This is not the owner’s password.</source>
         <translation>هذه ليست كلمة مرور المالك.</translation>
     </message>
-    <message>
-        <source>Password</source>
-        <translation>كلمة المرور</translation>
-    </message>
-    <message>
-        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
-        <translation>لا يسمح مؤلف «%1» بطباعته بلا كلمة مرور المالك.</translation>
-    </message>
-    <message>
-        <source>“%1” is locked with a password.</source>
-        <translation>«%1» مقفل بكلمة مرور.</translation>
-    </message>
-    <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;كلمة المرور:</translation>
-    </message>
-    <message>
-        <source>Password of the document</source>
-        <translation>كلمة مرور المستند</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>إ&amp;ظهار</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>إلغاء</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>موافق</translation>
-    </message>
-    <message>
-        <source>This is not the password.</source>
-        <translation>كلمة المرور هذه غير صحيحة.</translation>
-    </message>
-    <message>
-        <source>This is not the owner’s password.</source>
-        <translation>هذه ليست كلمة مرور المالك.</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::DocumentBar</name>
-    <message>
-        <source>Document</source>
-        <translation>المستند</translation>
-    </message>
-    <message>
-        <source>The document that the preview shows, and Remove removes</source>
-        <translation>المستند الذي تعرضه المعاينة ويزيله الأمر «إزالة»</translation>
-    </message>
-    <message>
-        <source>Document actions</source>
-        <translation>إجراءات المستندات</translation>
-    </message>
-    <message>
-        <source>Add or remove documents</source>
-        <translation>إضافة مستندات أو إزالتها</translation>
-    </message>
-    <message>
-        <source>Add…</source>
-        <translation>إضافة…</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>إزالة</translation>
-    </message>
-    <message>
-        <source>Print all as &amp;one job</source>
-        <translation>طباعة الكل ك&amp;مهمة واحدة</translation>
-    </message>
-    <message>
-        <source>The pages follow one another, as if the files were one document</source>
-        <translation>تتوالى الصفحات كما لو كانت الملفات مستندًا واحدًا</translation>
-    </message>
-    <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>إدخال كلمة ال&amp;مرور…</translation>
-    </message>
-    <message>
-        <source>%1 (sent)</source>
-        <translation>&#x2066;%1&#x2069; (أُرسل)</translation>
-    </message>
-    <message>
-        <source>%1 (locked)</source>
-        <translation>&#x2066;%1&#x2069; (مقفل)</translation>
-    </message>
-    <message>
-        <source>%1 (cannot be printed)</source>
-        <translation>&#x2066;%1&#x2069; (تتعذر طباعته)</translation>
-    </message>
-    <message>
-        <source>%1 of %2: %3</source>
-        <comment>which document of how many, and its name</comment>
-        <translation>%1 من %2: %3</translation>
-    </message>
     <message>
         <source>Document</source>
         <translation>المستند</translation>

@@ -224,42 +224,14 @@ ungültig, 130 abgebrochen.
         <translation>%1 ist das, was --ticket-out schreibt</translation>
     </message>
     <message>
-        <source>print several files as one job</source>
-        <translation>mehrere Dateien als einen Auftrag drucken</translation>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
+Ordners document.pdf, options und ticket.plist hinein</translation>
     </message>
     <message>
-        <source>standard input can be read only once</source>
-        <translation>die Standardeingabe lässt sich nur einmal lesen</translation>
-    </message>
-    <message>
-        <source>Usage: kelvo-print [OPTION]... [FILE]...
-
-Shows the print dialog for the FILEs, or for standard input (-): PDF,
-PostScript, text or pictures. Each is a job of its own.
-
-</source>
-        <translation>Aufruf: kelvo-print [OPTION]... [FILE]...
-
-Zeigt den Druckdialog für die Dateien FILE oder für die Standardeingabe (-):
-PDF, PostScript, Text oder Bilder. Jede ist ein eigener Auftrag.
-
-</translation>
-    </message>
-    <message>
-        <source>a secret for the script, in a file of mode 0600;
-DOCUMENT is the password of a PDF, DOCUMENT2
-that of the second file</source>
-        <translation>ein Geheimnis für das Skript, in einer Datei mit den
-Rechten 0600; DOCUMENT ist das Passwort eines PDF,
-DOCUMENT2 das der zweiten Datei</translation>
-    </message>
-    <message>
-        <source>write document.pdf, options and ticket.plist there
-instead of sending, in a folder for each of
-several jobs</source>
-        <translation>document.pdf, options und ticket.plist dorthin
-schreiben, statt zu senden; bei mehreren Aufträgen
-in einen Ordner für jeden</translation>
+        <source>several documents do not go into one file; add --join, or name a folder</source>
+        <translation>mehrere Dokumente gehen nicht in eine Datei; fügen Sie --join hinzu, oder nennen Sie einen Ordner</translation>
     </message>
     <message>
         <source>print several files as one job</source>
@@ -290,14 +262,6 @@ that of the second file</source>
         <translation>ein Geheimnis für das Skript, in einer Datei mit den
 Rechten 0600; DOCUMENT ist das Passwort eines PDF,
 DOCUMENT2 das der zweiten Datei</translation>
-    </message>
-    <message>
-        <source>write document.pdf, options and ticket.plist there
-instead of sending, in a folder for each of
-several jobs</source>
-        <translation>document.pdf, options und ticket.plist dorthin
-schreiben, statt zu senden; bei mehreren Aufträgen
-in einen Ordner für jeden</translation>
     </message>
 </context>
 <context>
@@ -720,6 +684,14 @@ in einen Ordner für jeden</translation>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>die PPD-Datei, die der Druckserver %1 dafür hat, ist leer; lassen Sie die Warteschlange mit der PPD-Datei des Geräts neu einrichten</translation>
     </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>dies ist das Dokument selbst, das verloren ginge; nennen Sie eine andere Datei</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>dort steht eine andere Datei, die kein PDF ist; nennen Sie eine andere Datei</translation>
+    </message>
 </context>
 <context>
     <name>Device</name>
@@ -1043,27 +1015,6 @@ in einen Ordner für jeden</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>Ghostscript kann das PostScript nicht lesen: %1</translation>
-    </message>
-    <message>
-        <source>the document is locked with a password</source>
-        <translation>das Dokument ist mit einem Passwort gesperrt</translation>
-    </message>
-    <message>
-        <source>the document is locked with another password</source>
-        <translation>das Dokument ist mit einem anderen Passwort gesperrt</translation>
-    </message>
-    <message>
-        <source>%1 – %2</source>
-        <comment>the title asked for, and the file’s name</comment>
-        <translation>%1 – %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <comment>what the first document is called</comment>
-        <translation>
-            <numerusform>%1 und %n weiteres</numerusform>
-            <numerusform>%1 und %n weitere</numerusform>
-        </translation>
     </message>
     <message>
         <source>the document is locked with a password</source>
@@ -1937,6 +1888,17 @@ in einen Ordner für jeden</translation>
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>Seiten werden mit einer Zahl von %1 bis %2 Prozent skaliert</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Seite %1 ist größer als ihr Platz auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+            <numerusform>Die Seiten %1 sind größer als ihre Plätze auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>Wählen Sie weniger Seiten pro Blatt, oder lassen Sie die Seiten einpassen.</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -2008,18 +1970,6 @@ in einen Ordner für jeden</translation>
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>Ungerade und gerade Seiten</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>Nur ungerade Seiten</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>Nur gerade Seiten</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>Größere Seiten verkleinern</translation>
     </message>
@@ -2041,35 +1991,47 @@ in einen Ordner für jeden</translation>
     </message>
     <message>
         <source>Right, then down</source>
-        <translation>Nach rechts, dann nach unten</translation>
+        <translation>Rechts, dann abwärts</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation>Nach rechts, dann nach oben</translation>
+        <translation>Rechts, dann aufwärts</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation>Nach links, dann nach unten</translation>
+        <translation>Links, dann abwärts</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation>Nach links, dann nach oben</translation>
+        <translation>Links, dann aufwärts</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation>Nach unten, dann nach rechts</translation>
+        <translation>Abwärts, dann rechts</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation>Nach unten, dann nach links</translation>
+        <translation>Abwärts, dann links</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation>Nach oben, dann nach rechts</translation>
+        <translation>Aufwärts, dann rechts</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation>Nach oben, dann nach links</translation>
+        <translation>Aufwärts, dann links</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Ungerade und gerade</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>Ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>Gerade Seiten</translation>
     </message>
 </context>
 <context>
@@ -2336,6 +2298,15 @@ in einen Ordner für jeden</translation>
     <message>
         <source>Sheet %1, front</source>
         <translation>Blatt %1, vorn</translation>
+    </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>größer als die Plätze auf dem Blatt</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>auf %1</translation>
     </message>
 </context>
 <context>
@@ -2815,6 +2786,22 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>%1.</translation>
     </message>
     <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>Nur der Drucker fügt dies hinzu: %1.</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>die Broschüre</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>das Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>Deckblätter und Einlagen</translation>
+    </message>
+    <message>
         <source>%1: %2</source>
         <comment>a document, and what is to be said of it</comment>
         <translation>%1: %2</translation>
@@ -2961,8 +2948,17 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>%1: das Fenster lässt sich nicht erstellen: %2</translation>
     </message>
     <message>
-        <source>Choose Documents to Print</source>
-        <translation>Zu druckende Dokumente wählen</translation>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (gedruckt)</translation>
     </message>
     <message>
         <source>Choose Documents to Print</source>
@@ -3068,6 +3064,14 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>All settings of the job in words, before it is printed</source>
         <translation>Alle Einstellungen des Auftrags in Worten, bevor gedruckt wird</translation>
     </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Als PDF speichern …</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>Die Seiten, wie sie gedruckt würden, in einer Datei</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -3109,10 +3113,6 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>Das Dokument lässt sich nicht öffnen: %1</translation>
-    </message>
-    <message>
-        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
-        <translation>geben Sie es im Fenster ein, oder schreiben Sie es in eine Datei mit den Rechten 0600, die --secret DOCUMENT=FILE nennt</translation>
     </message>
     <message>
         <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
@@ -3172,10 +3172,6 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Ungerade und gerade Seiten, Reihenfolge, Skalierung und mehrere Seiten auf einem Blatt</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>N&amp;ur:</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>Seitenlayout</translation>
     </message>
@@ -3214,6 +3210,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>reversed</source>
         <translation>umgekehrt</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>Da&amp;von:</translation>
     </message>
 </context>
 <context>
@@ -3404,10 +3404,6 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>“%1” is locked with a password.</source>
         <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
     </message>
-    <message>
-        <source>“%1” is locked with a password.</source>
-        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::PrintFlow</name>
@@ -3507,49 +3503,6 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>Not sent: %1.</source>
         <translation>Nicht gesendet: %1.</translation>
     </message>
-    <message>
-        <source>Not all documents are open yet.</source>
-        <translation>Noch sind nicht alle Dokumente offen.</translation>
-    </message>
-    <message>
-        <source>Pages of %1: %2</source>
-        <translation>Seiten von %1: %2</translation>
-    </message>
-    <message>
-        <source>Sending %1 of %2: %3</source>
-        <translation>%1 von %2 wird gesendet: %3</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n document(s) written</source>
-        <translation>
-            <numerusform>%n Dokument geschrieben</numerusform>
-            <numerusform>%n Dokumente geschrieben</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n document(s) sent to %1</source>
-        <translation>
-            <numerusform>%n Dokument an %1 gesendet</numerusform>
-            <numerusform>%n Dokumente an %1 gesendet</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a document, and its job</comment>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>No document was sent.</source>
-        <translation>Kein Dokument wurde gesendet.</translation>
-    </message>
-    <message>
-        <source>Sent: %1.</source>
-        <translation>Gesendet: %1.</translation>
-    </message>
-    <message>
-        <source>Not sent: %1.</source>
-        <translation>Nicht gesendet: %1.</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::PrintRun</name>
@@ -3563,23 +3516,7 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Hochformat, umgekehrt</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Querformat, umgekehrt</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>nimmt keine Aufträge an</translation>
@@ -3600,6 +3537,80 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>ausgewählt</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>Name, Standort oder Modell</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>Drucker suchen</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>Kein Drucker hat das in Name, Standort oder Modell.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n Drucker</numerusform>
+            <numerusform>%n Drucker</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 von %n Drucker</numerusform>
+            <numerusform>%1 von %n Druckern</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Hochformat, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Querformat, umgekehrt</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -3644,11 +3655,6 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>A&amp;usrichtung:</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -3741,6 +3747,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>The print server has no description of its settings.</source>
         <translation>Der Druckserver hat keine Beschreibung der Einstellungen.</translation>
     </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>der Druckserver kennt ihn nicht mehr</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::Queue</name>
@@ -3827,102 +3837,9 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>This is not the owner’s password.</source>
         <translation>Das ist nicht das Passwort des Besitzers.</translation>
     </message>
-    <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
-    <message>
-        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
-        <translation>Der Verfasser von „%1“ erlaubt das Drucken nur mit dem Passwort des Besitzers.</translation>
-    </message>
-    <message>
-        <source>“%1” is locked with a password.</source>
-        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
-    </message>
-    <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Passwort:</translation>
-    </message>
-    <message>
-        <source>Password of the document</source>
-        <translation>Passwort des Dokuments</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Anzeigen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>This is not the password.</source>
-        <translation>Das ist nicht das Passwort.</translation>
-    </message>
-    <message>
-        <source>This is not the owner’s password.</source>
-        <translation>Das ist nicht das Passwort des Besitzers.</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::DocumentBar</name>
-    <message>
-        <source>Document</source>
-        <translation>Dokument</translation>
-    </message>
-    <message>
-        <source>The document that the preview shows, and Remove removes</source>
-        <translation>Das Dokument, das die Vorschau zeigt und das „Entfernen“ entfernt</translation>
-    </message>
-    <message>
-        <source>Document actions</source>
-        <translation>Aktionen für Dokumente</translation>
-    </message>
-    <message>
-        <source>Add or remove documents</source>
-        <translation>Dokumente hinzufügen oder entfernen</translation>
-    </message>
-    <message>
-        <source>Add…</source>
-        <translation>Hinzufügen…</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message>
-        <source>Print all as &amp;one job</source>
-        <translation>Alle als &amp;einen Auftrag drucken</translation>
-    </message>
-    <message>
-        <source>The pages follow one another, as if the files were one document</source>
-        <translation>Die Seiten folgen aufeinander, als wären die Dateien ein Dokument</translation>
-    </message>
-    <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>Pass&amp;wort eingeben…</translation>
-    </message>
-    <message>
-        <source>%1 (sent)</source>
-        <translation>%1 (gesendet)</translation>
-    </message>
-    <message>
-        <source>%1 (locked)</source>
-        <translation>%1 (gesperrt)</translation>
-    </message>
-    <message>
-        <source>%1 (cannot be printed)</source>
-        <translation>%1 (nicht druckbar)</translation>
-    </message>
-    <message>
-        <source>%1 of %2: %3</source>
-        <comment>which document of how many, and its name</comment>
-        <translation>%1 von %2: %3</translation>
-    </message>
     <message>
         <source>Document</source>
         <translation>Dokument</translation>

@@ -77,6 +77,13 @@
             <numerusform>Pages %1 are larger than the paper, %2, and made smaller to fit.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Page %1 is larger than its place on the sheet: what does not fit is cut off.</numerusform>
+            <numerusform>Pages %1 are larger than their places on the sheet: what does not fit is cut off.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -85,14 +92,6 @@
         <translation>
             <numerusform>The drawing shows or uses another file, which is left out: only what a drawing holds itself is printed. Embed that file in it.</numerusform>
             <numerusform>The drawing shows or uses %n other files, which are left out: only what a drawing holds itself is printed. Embed them in it.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <comment>what the first document is called</comment>
-        <translation>
-            <numerusform>%1 and %n more</numerusform>
-            <numerusform>%1 and %n more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -172,21 +171,24 @@
     </message>
 </context>
 <context>
+    <name>kelvo::PrinterList</name>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n printer</numerusform>
+            <numerusform>%n printers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 of %n printer</numerusform>
+            <numerusform>%1 of %n printers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>kelvo::PrintFlow</name>
-    <message numerus="yes">
-        <source>%n document(s) written</source>
-        <translation>
-            <numerusform>%n document written</numerusform>
-            <numerusform>%n documents written</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n document(s) sent to %1</source>
-        <translation>
-            <numerusform>%n document sent to %1</numerusform>
-            <numerusform>%n documents sent to %1</numerusform>
-        </translation>
-    </message>
     <message numerus="yes">
         <source>%n document(s) written</source>
         <translation>

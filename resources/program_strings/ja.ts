@@ -9,6 +9,15 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>印刷されるものを PDF に書き出す。フォルダー名なら
+document.pdf、options、ticket.plist をその中に</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message numerus="yes">
         <source>At most %n characters fit here.</source>
@@ -170,6 +179,14 @@
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>プリントサーバー%1にあるこのプリンターのPPDは空です。機器のPPDで印刷キューを設定し直してもらってください</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>これは文書そのもので、失われてしまいます。別のファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>そこには PDF でない別のファイルがあります。別のファイルを指定してください</translation>
     </message>
 </context>
 <context>
@@ -474,26 +491,6 @@
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>GhostscriptでPostScriptを読み込めません: %1</translation>
-    </message>
-    <message>
-        <source>the document is locked with a password</source>
-        <translation>文書がパスワードで保護されています</translation>
-    </message>
-    <message>
-        <source>the document is locked with another password</source>
-        <translation>文書は別のパスワードで保護されています</translation>
-    </message>
-    <message>
-        <source>%1 – %2</source>
-        <comment>the title asked for, and the file’s name</comment>
-        <translation>%1 – %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <comment>what the first document is called</comment>
-        <translation>
-            <numerusform>%1ほか%n件</numerusform>
-        </translation>
     </message>
     <message>
         <source>the document is locked with a password</source>
@@ -1355,6 +1352,16 @@
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>拡大縮小率は %1～%2 パーセントの数です</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>ページ %1 は用紙上の枠より大きいため、はみ出す部分は切り取られます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>1面のページ数を減らすか、ページを枠に合わせてください。</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1425,18 +1432,6 @@
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>奇数・偶数ページ</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>奇数ページのみ</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>偶数ページのみ</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>大きいページを縮小</translation>
     </message>
@@ -1487,6 +1482,18 @@
     <message>
         <source>Up, then left</source>
         <translation>上へ、次に左へ</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>奇数・偶数</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>奇数ページ</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>偶数ページ</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1679,15 @@
         <source>Sheet %1, front</source>
         <translation>%1枚目おもて</translation>
     </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>用紙上の枠より大きい</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>%1 に拡大縮小</translation>
+    </message>
 </context>
 <context>
     <name>Scripts</name>
@@ -1786,6 +1802,22 @@
         <source>%1.</source>
         <comment>a clause that stands alone</comment>
         <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>次のものはプリンターだけが加えます：%1。</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>ウォーターマーク</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>表紙と挿入紙</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -1933,8 +1965,17 @@
         <translation>%1: ウィンドウを作成できません: %2</translation>
     </message>
     <message>
-        <source>Choose Documents to Print</source>
-        <translation>印刷する文書の選択</translation>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF ファイル</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (印刷)</translation>
     </message>
     <message>
         <source>Choose Documents to Print</source>
@@ -2040,6 +2081,14 @@
         <source>All settings of the job in words, before it is printed</source>
         <translation>印刷する前に、ジョブのすべての設定を文章で確認します</translation>
     </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>PDF として保存…</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>印刷されるとおりのページをファイルに</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -2081,10 +2130,6 @@
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>文書を開けません: %1。</translation>
-    </message>
-    <message>
-        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
-        <translation>ウィンドウで入力するか、モード0600のファイルに書き込んで --secret DOCUMENT=FILE で指定してください</translation>
     </message>
     <message>
         <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
@@ -2144,10 +2189,6 @@
         <translation>奇数・偶数ページ、順序、拡大縮小、1面に複数ページ</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>対象(&amp;L):</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>ページレイアウト</translation>
     </message>
@@ -2186,6 +2227,10 @@
     <message>
         <source>reversed</source>
         <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>対象(&amp;E):</translation>
     </message>
 </context>
 <context>
@@ -2376,10 +2421,6 @@ The settings stay as they are.</source>
         <source>“%1” is locked with a password.</source>
         <translation>「%1」はパスワードで保護されています。</translation>
     </message>
-    <message>
-        <source>“%1” is locked with a password.</source>
-        <translation>「%1」はパスワードで保護されています。</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::PrintFlow</name>
@@ -2477,47 +2518,6 @@ The settings stay as they are.</source>
         <source>Not sent: %1.</source>
         <translation>未送信: %1。</translation>
     </message>
-    <message>
-        <source>Not all documents are open yet.</source>
-        <translation>まだ開いていない文書があります。</translation>
-    </message>
-    <message>
-        <source>Pages of %1: %2</source>
-        <translation>%1のページ: %2</translation>
-    </message>
-    <message>
-        <source>Sending %1 of %2: %3</source>
-        <translation>%2件中%1件目を送信しています: %3</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n document(s) written</source>
-        <translation>
-            <numerusform>%n件の文書を書き込みました</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n document(s) sent to %1</source>
-        <translation>
-            <numerusform>%n件の文書を%1に送信しました</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>a document, and its job</comment>
-        <translation>%1（%2）</translation>
-    </message>
-    <message>
-        <source>No document was sent.</source>
-        <translation>文書は送信されていません。</translation>
-    </message>
-    <message>
-        <source>Sent: %1.</source>
-        <translation>送信済み: %1。</translation>
-    </message>
-    <message>
-        <source>Not sent: %1.</source>
-        <translation>未送信: %1。</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::PrintRun</name>
@@ -2531,23 +2531,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>縦(上下逆)</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横(上下逆)</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>ジョブを受け付けません</translation>
@@ -2568,6 +2552,78 @@ The settings stay as they are.</source>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>選択中</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>既定</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>名前、場所、機種</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>プリンターを検索</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>名前、場所、機種にこれを含むプリンターはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n台のプリンター</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%n台中%1台のプリンター</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>縦(上下逆)</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横(上下逆)</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -2612,11 +2668,6 @@ The settings stay as they are.</source>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>印刷の向き(&amp;I):</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -2709,6 +2760,10 @@ The settings stay as they are.</source>
         <source>The print server has no description of its settings.</source>
         <translation>プリントサーバーに設定の情報がありません。</translation>
     </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>プリントサーバーに登録されていません</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::Queue</name>
@@ -2795,102 +2850,9 @@ The settings stay as they are.</source>
         <source>This is not the owner’s password.</source>
         <translation>所有者のパスワードではありません。</translation>
     </message>
-    <message>
-        <source>Password</source>
-        <translation>パスワード</translation>
-    </message>
-    <message>
-        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
-        <translation>「%1」の作成者は、所有者のパスワードなしでの印刷を許可していません。</translation>
-    </message>
-    <message>
-        <source>“%1” is locked with a password.</source>
-        <translation>「%1」はパスワードで保護されています。</translation>
-    </message>
-    <message>
-        <source>&amp;Password:</source>
-        <translation>パスワード(&amp;P):</translation>
-    </message>
-    <message>
-        <source>Password of the document</source>
-        <translation>文書のパスワード</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>表示(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>This is not the password.</source>
-        <translation>パスワードが違います。</translation>
-    </message>
-    <message>
-        <source>This is not the owner’s password.</source>
-        <translation>所有者のパスワードではありません。</translation>
-    </message>
 </context>
 <context>
     <name>kelvo::DocumentBar</name>
-    <message>
-        <source>Document</source>
-        <translation>文書</translation>
-    </message>
-    <message>
-        <source>The document that the preview shows, and Remove removes</source>
-        <translation>プレビューに表示され、「削除」の対象になる文書</translation>
-    </message>
-    <message>
-        <source>Document actions</source>
-        <translation>文書の操作</translation>
-    </message>
-    <message>
-        <source>Add or remove documents</source>
-        <translation>文書の追加または削除</translation>
-    </message>
-    <message>
-        <source>Add…</source>
-        <translation>追加…</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>削除</translation>
-    </message>
-    <message>
-        <source>Print all as &amp;one job</source>
-        <translation>すべてを1つのジョブで印刷(&amp;O)</translation>
-    </message>
-    <message>
-        <source>The pages follow one another, as if the files were one document</source>
-        <translation>複数のファイルを1つの文書のように、ページを続けて印刷します</translation>
-    </message>
-    <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>パスワードの入力(&amp;W)…</translation>
-    </message>
-    <message>
-        <source>%1 (sent)</source>
-        <translation>%1（送信済み）</translation>
-    </message>
-    <message>
-        <source>%1 (locked)</source>
-        <translation>%1（保護）</translation>
-    </message>
-    <message>
-        <source>%1 (cannot be printed)</source>
-        <translation>%1（印刷できません）</translation>
-    </message>
-    <message>
-        <source>%1 of %2: %3</source>
-        <comment>which document of how many, and its name</comment>
-        <translation>%1/%2: %3</translation>
-    </message>
     <message>
         <source>Document</source>
         <translation>文書</translation>
