@@ -304,6 +304,13 @@ void PrintDialog::takeStage()
         m_grace.start(0); // when all that this stage brings is in place
 }
 
+// A window needs not say how a script is given the password.
+QString PrintDialog::whyNotShown(const DocumentOpening &document)
+{
+    return document.asksForPassword() ? tr("“%1” is locked with a password.").arg(document.title())
+                                      : document.problem();
+}
+
 void PrintDialog::takeDocument()
 {
     updateTitle();
@@ -312,11 +319,8 @@ void PrintDialog::takeDocument()
         m_parts.preview->setMessage({});
         m_parts.preview->setDocument(document.document());
     } else {
-        m_parts.preview->setMessage(
-            document.isPending() ? tr("Opening %1…").arg(document.title())
-                : document.asksForPassword() && !m_isDriven
-                ? tr("“%1” is locked with a password.").arg(document.title())
-                : document.problem());
+        m_parts.preview->setMessage(document.isPending() ? tr("Opening %1…").arg(document.title())
+                                                         : whyNotShown(document));
         // Once the window is as it will be behind the question.
         if (document.asksForPassword() && !m_isDriven && m_passwordsAsked.insert(&document).second)
             QTimer::singleShot(0, this, &PrintDialog::askForPassword);
@@ -412,9 +416,9 @@ void PrintDialog::updateFoot()
                                  : tr("Not to be printed like this. Pages: %1").arg(problem);
     }
     // Of several, it may be another one than is looked at.
-    if (const QString problem = m_session->documents().problem();
-        isReady() && m_session->documents().count() > 1 && !problem.isEmpty())
-        text = problem;
+    if (const DocumentOpening *faulty = m_session->documents().findFaulty();
+        isReady() && faulty && m_session->documents().count() > 1)
+        text = whyNotShown(*faulty);
     m_parts.foot->setText(text);
 }
 

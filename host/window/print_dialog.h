@@ -99,6 +99,7 @@ private:
     void takeStage();
     void takeDocument();
     void takeDocuments();
+    static QString whyNotShown(const DocumentOpening &document);
     void takeSettings();
 
     // The user tells.

@@ -2514,7 +2514,7 @@ The settings stay as they are.</source>
     </message>
     <message>
         <source>“%1” is locked with a password.</source>
-        <translation>«%1» مقفل بكلمة مرور.</translation>
+        <translation>«&#x2068;%1&#x2069;» مقفل بكلمة مرور.</translation>
     </message>
 </context>
 <context>
@@ -2931,11 +2931,11 @@ The settings stay as they are.</source>
     </message>
     <message>
         <source>The author of “%1” does not allow printing it without the owner’s password.</source>
-        <translation>لا يسمح مؤلف «%1» بطباعته بلا كلمة مرور المالك.</translation>
+        <translation>لا يسمح مؤلف «&#x2068;%1&#x2069;» بطباعته بلا كلمة مرور المالك.</translation>
     </message>
     <message>
         <source>“%1” is locked with a password.</source>
-        <translation>«%1» مقفل بكلمة مرور.</translation>
+        <translation>«&#x2068;%1&#x2069;» مقفل بكلمة مرور.</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
