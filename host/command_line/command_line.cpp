@@ -167,8 +167,8 @@ Result<void> takeTarget(CommandLine &line, const QString &value, const QString &
 {
     if (value.isEmpty())
         return refused(where, translate("CommandLine", "its value is empty"));
-    const bool isPdf = value.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)
-        && !QFileInfo(value).isDir();
+    const bool isPdf =
+        value.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive) && !QFileInfo(value).isDir();
     line.toPdf = isPdf ? std::optional(value) : std::nullopt;
     line.toFolder = isPdf ? std::nullopt : std::optional(value);
     return {};
@@ -191,6 +191,7 @@ constexpr OptionRow optionRows[] = {
     {"-o", nullptr, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "set an option of the device, or media, sides,\nlandscape and others that lp has; NAME alone\nswitches one on, noNAME off"), takeOption},
     {"-P", nullptr, "PAGES", QT_TRANSLATE_NOOP("CommandLine", "print only these pages: 1-3,7,9-"), takePages},
     {"-t", nullptr, "TITLE", QT_TRANSLATE_NOOP("CommandLine", "call the job so"), takeText<&CommandLine::title>},
+    {nullptr, "--join", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print several files as one job"), takeFlag<&CommandLine::join>},
     {nullptr, "--ppd", "FILE", QT_TRANSLATE_NOOP("CommandLine", "show a device without a queue"), takeText<&CommandLine::ppd>},
     {nullptr, "--demo", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show the sample device and document"), takeFlag<&CommandLine::demo>},
     {nullptr, "--preset", "NAME", QT_TRANSLATE_NOOP("CommandLine", "begin with this preset"), takeText<&CommandLine::preset>},
@@ -199,9 +200,9 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--ticket-out", "FILE", QT_TRANSLATE_NOOP("CommandLine", "write all settings when printing or when the\nscript ends"), takeText<&CommandLine::ticketOut>},
     {nullptr, "--script", "FILE", QT_TRANSLATE_NOOP("CommandLine", "drive the dialog; - is standard input"), takeText<&CommandLine::script>},
     {nullptr, "--print", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print when the script has ended"), takeFlag<&CommandLine::print>},
-    {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600"), takeSecret},
+    {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600;\nDOCUMENT is the password of a PDF, DOCUMENT2\nthat of the second file"), takeSecret},
     {nullptr, "--no-window", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show nothing; without a script, print at once"), takeFlag<&CommandLine::noWindow>},
-    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with a folder’s\nname, document.pdf, options and ticket.plist into it"), takeTarget},
+    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with a folder’s\nname, document.pdf, options and ticket.plist into it,\nor into a folder there for each of several jobs"), takeTarget},
     {nullptr, "--timeout", "SECONDS", QT_TRANSLATE_NOOP("CommandLine", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)"), takeTimeout},
     {nullptr, "--language", "LANGUAGE", QT_TRANSLATE_NOOP("CommandLine", "speak this language instead of the desktop’s"), takeText<&CommandLine::language>},
     {nullptr, "--list-printers", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list the queues and end"), takeFlag<&CommandLine::listPrinters>},
@@ -293,13 +294,13 @@ bool isOption(const QString &argument)
     return argument.startsWith(u'-') && argument != QLatin1String("-");
 }
 
-Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
+constexpr QLatin1String standardInputName("-");
+
+Result<void> takeFile(CommandLine &line, const QString &file)
 {
-    if (*hasFile)
-        return refused(file, translate("CommandLine", "only one document is printed at a time"));
-    *hasFile = true;
-    line.readsStandardInput = file == QLatin1String("-");
-    line.file = line.readsStandardInput ? QString() : file;
+    if (file == standardInputName && line.files.contains(file))
+        return refused(file, translate("CommandLine", "standard input can be read only once"));
+    line.files.append(file);
     return {};
 }
 
@@ -350,12 +351,15 @@ std::optional<Error> findClash(const CommandLine &line)
                        translate("CommandLine",
                                  "it prints after a script: add --script FILE, or use "
                                  "--no-window to print at once"));
+    if (line.toPdf && line.files.size() > 1 && !line.join)
+        return refused(QStringLiteral("--to"),
+                       translate("CommandLine",
+                                 "a PDF file has room for one job: add --join, or name a folder"));
     if (line.noWindow && !line.script && (line.ppd || line.demo) && !line.toFolder && !line.toPdf)
         return refused(
             QStringLiteral("--no-window"),
             translate("CommandLine", "a device without a queue cannot print; add --to DIR"));
-    if (line.script == QStringLiteral("-") && line.file.isEmpty()
-        && (!line.demo || line.readsStandardInput))
+    if (line.script == QStringLiteral("-") && readsStandardInput(line))
         return refused(QStringLiteral("--script -"),
                        translate("CommandLine",
                                  "standard input is the document already; name one of them "
@@ -365,10 +369,14 @@ std::optional<Error> findClash(const CommandLine &line)
 
 } // namespace
 
+bool readsStandardInput(const CommandLine &line)
+{
+    return line.files.isEmpty() ? !line.demo : line.files.contains(standardInputName);
+}
+
 Result<CommandLine> parseCommandLine(const QStringList &arguments)
 {
     CommandLine line;
-    bool hasFile = false;
     bool optionsEnded = false;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments[i];
@@ -376,7 +384,7 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
             if (argument.isEmpty())
                 return refused(QStringLiteral("\"\""),
                                translate("CommandLine", "a document has a name"));
-            if (const auto taken = takeFile(line, argument, &hasFile); !taken)
+            if (const auto taken = takeFile(line, argument); !taken)
                 return taken.error();
             continue;
         }
@@ -419,10 +427,10 @@ QString usageText()
     constexpr int helpColumn = 28;
     QString text =
         translate("CommandLine",
-                  "Usage: kelvo-print [OPTION]... [FILE]\n"
+                  "Usage: kelvo-print [OPTION]... [FILE]...\n"
                   "\n"
-                  "Shows the print dialog for FILE, or for standard input: PDF, PostScript, text\n"
-                  "or a picture.\n"
+                  "Shows the print dialog for the FILEs, or for standard input (-): PDF,\n"
+                  "PostScript, text or pictures. Each is a job of its own.\n"
                   "\n");
     for (const OptionRow &row : optionRows) {
         QStringList names;

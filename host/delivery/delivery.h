@@ -28,8 +28,8 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document;            // as the user opened it
-    PdfLayout layout;             // what of it goes out, and where; empty: all, as it is
+    Document document; // as the user opened it
+    PdfLayout layout;  // what of it goes out, and where; empty: all, as it is
     // Its pages alone, for people: no ticket goes in, and nothing that a printer is told.
     bool isForPeople = false;
     TicketFile ticket;            // as the panels wrote it, without nonce
@@ -71,9 +71,12 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
 
 // Writes the job's PDF to `path`, over another PDF, whose rights stay; a new one has those that the
-// user's files have. Refused for what is no PDF, and for `document`, the file that is printed
-// (empty: none): it would be lost. After an error what stood there stays.
-Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document);
+// user's files have. Refused for what is no PDF, and for one of `documents`, the files that are
+// printed: it would be lost. After an error what stood there stays.
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path,
+                          const QStringList &documents);
+// Makes `folder`, 0700, in one that is there; one that is there keeps its rights. NotWritable.
+Result<void> provideFolder(const QString &folder);
 
 struct DeliveredJob
 {

@@ -13,8 +13,8 @@ JobWords jobInWords(DialogSession &session, SessionCautions &cautions)
     job.writeAll();
     JobWords words = describeJob(job.ticket(), job.settings(), job.ppd(), job.secretKeys(),
                                  job.description(), job.missing());
-    if (session.document().hasSource() && !session.document().problem().isEmpty())
-        words.cautions << session.document().problem();
+    if (session.document().hasSource() && !session.documents().problem().isEmpty())
+        words.cautions << session.documents().problem();
     words.cautions += job.conflicts().sentences();
     cautions.look();
     words.cautions += cautions.inWords();
@@ -45,9 +45,9 @@ QString leftToThePrinter(SessionJob &job)
     if (sheets.frontCover == SpecialSheets::Cover::Sheet
         || sheets.backCover == SpecialSheets::Cover::Sheet || !sheets.inserts.isEmpty())
         parts << translate("Session", "covers and inserts");
-    return parts.isEmpty() ? QString()
-                           : translate("Session", "Only the printer adds this: %1.")
-                                 .arg(listed(parts));
+    return parts.isEmpty()
+        ? QString()
+        : translate("Session", "Only the printer adds this: %1.").arg(listed(parts));
 }
 
 QString jobInShort(DialogSession &session)

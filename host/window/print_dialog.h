@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <set>
 #include <vector>
 
 class QShortcut;
@@ -85,6 +86,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -95,6 +98,7 @@ private:
     void showPrinters();
     void takeStage();
     void takeDocument();
+    void takeDocuments();
     void takeSettings();
 
     // The user tells.
@@ -105,6 +109,9 @@ private:
     void showWhatFollows(); // all but conflicts
     void fixConflicts();
     void showDetails();
+    void addDocuments(const QStringList &paths);
+    void chooseDocuments();
+    void askForPassword();
     void showHelp();
 
     // Print.
@@ -144,7 +151,8 @@ private:
     QTimer m_firstFrame;      // until then the document is not opened
     bool m_hasLooked = false; // at the settings of any printer
     bool m_isDriven = false;
-    bool m_isInterrupted = false; // what is under way is the last
+    std::set<const DocumentOpening *> m_passwordsAsked; // once each, but for the button
+    bool m_isInterrupted = false;                       // what is under way is the last
     QElapsedTimer m_printingSince;
     QMap<QString, QString> m_secrets;
 

@@ -74,7 +74,7 @@ _kelvo_print()
     fi
 
     if [[ $cur == -* ]]; then
-        _kelvo_print_offer < <(printf '%s\n' -d -n -o -P -t --ppd --demo --preset --preset-out \
+        _kelvo_print_offer < <(printf '%s\n' -d -n -o -P -t --join --ppd --demo --preset --preset-out \
             --ticket-in --ticket-out --script --print --secret --no-window --to --timeout --language \
             --list-printers --list-controls --version --help-scripts -h --help)
         return
