@@ -77,6 +77,13 @@
             <numerusform>Pages %1 are larger than the paper, %2, and made smaller to fit.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Page %1 is larger than its place on the sheet: what does not fit is cut off.</numerusform>
+            <numerusform>Pages %1 are larger than their places on the sheet: what does not fit is cut off.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -152,6 +159,23 @@
         <translation>
             <numerusform>%n page found</numerusform>
             <numerusform>%n pages found</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n printer</numerusform>
+            <numerusform>%n printers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 of %n printer</numerusform>
+            <numerusform>%1 of %n printers</numerusform>
         </translation>
     </message>
 </context>
