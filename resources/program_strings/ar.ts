@@ -2515,7 +2515,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
+    <name>kelvo::PrinterChooser</name>
     <message>
         <source>Printers</source>
         <translation>الطابعات</translation>
