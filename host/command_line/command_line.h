@@ -28,7 +28,7 @@ struct CommandLine
     bool print = false;                 // --print: after the script
     QMap<QString, QString> secretFiles; // --secret NAME=FILE
     bool noWindow = false;
-    std::optional<QString> toFolder; // --to
+    std::optional<QString> toFolder, toPdf; // --to: at most one of them
     int timeoutSeconds = 30;         // --timeout, 1 to 3600
     std::optional<QString> language; // --language, "de" or "de_AT"
     bool listPrinters = false, listControls = false, version = false, help = false;

@@ -139,6 +139,7 @@ private:
     void layAsked();
     void nameJob();
     void tellFirstPage();
+    void proposePaper();
     void sync(SyncDirection direction);
 
     const Wishes m_wishes;

@@ -135,7 +135,7 @@ void DialogParts::arrangeTabOrder()
     m_panelStops = panelStops;
     chainFocusStops(focusStopsIn(printer) + focusStopsIn(preview) + QList<QWidget *>{panelSwitch}
                     + panelStops + focusStopsIn(cautionBar)
-                    + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(),
+                    + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(), foot->savePdf(),
                                        foot->cancel(), foot->print()});
 }
 

@@ -12,6 +12,7 @@
 #include "notice.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
+#include "pdf_chooser.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
 #include "session_words.h"
@@ -159,6 +160,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_parts.foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
     connect(m_parts.foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(m_parts.foot->savePdf(), &QPushButton::clicked, this, &PrintDialog::savePdf);
     connect(m_parts.foot->cancel(), &QPushButton::clicked, this, [this] {
         if (sendEvent({.kind = EventKind::ControlHit, .source = m_parts.foot->cancel()})
             == eventNotHandledErr)
@@ -335,6 +337,8 @@ void PrintDialog::updatePrintButton()
     const bool isBusy = m_flow.isPrinting() || m_sent.isTelling();
     m_parts.foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
     m_parts.foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
+    m_parts.foot->savePdf()->setEnabled(!isBusy && isReady()
+                                        && !m_session->document().document().isNull());
 }
 
 void PrintDialog::updatePreview()
@@ -503,6 +507,19 @@ void PrintDialog::print()
     m_flow.press(unfinishedPages());
 }
 
+void PrintDialog::savePdf()
+{
+    m_flow.forgetRefusal();
+    commitTypedValues(this);
+    const QString document = m_session->document().sourcePath();
+    const auto chooser = pdfChooser(m_session->document().title(), document, this);
+    connect(chooser.get(), &QFileDialog::fileSelected, this, [this, document](const QString &path) {
+        if (!m_finished)
+            m_flow.pressTo(pdfDestination(path, document), unfinishedPages());
+    });
+    runChooser(*chooser);
+}
+
 bool PrintDialog::fixesConflicts(const QString &header, const ConflictReport &report)
 {
     const int answer =
@@ -548,6 +565,8 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
         if (!m_isDriven)
             m_session->lookAtPrinter();
     }
+    if (m_isDriven && m_flow.isAside()) // no line of a script waits for it
+        printLine(stderr, QStringLiteral("kelvo-print: ") + refusal.problem);
     if (!m_isDriven)
         CFUserNotificationDisplayNotice(NoticeLevel::Stop, refusal.header, refusal.problem, {},
                                         this);
@@ -558,6 +577,12 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
 void PrintDialog::takePrinted(const QString &place)
 {
     showPrinting(false);
+    // The user may go on and print.
+    if (m_flow.isAside() && !m_isInterrupted) {
+        m_parts.foot->setText(m_flow.destination()->arrived(place));
+        m_parts.foot->savePdf()->setFocus();
+        return;
+    }
     if (m_isDriven || m_isInterrupted) {
         end(ExitStatus::Printed);
         return;
@@ -672,7 +697,8 @@ bool PrintDialog::isIdle() const
     const bool isUnderWay = !m_finished
         && (m_session->stage() == DialogSession::Stage::Searching
             || m_session->document().isPending() || (m_isDriven && m_session->search().isLooking())
-            || m_look.isActive() || m_firstFrame.isActive());
+            || m_look.isActive() || m_firstFrame.isActive()
+            || (m_flow.isPrinting() && m_flow.isAside()));
     return !isUnderWay && m_parts.isAtRest();
 }
 

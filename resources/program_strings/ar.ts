@@ -9,6 +9,15 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>كتابة ملف PDF لما سيُطبع؛ وباسم مجلد تُكتب فيه
+document.pdf وoptions وticket.plist</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message>
         <source>This character cannot be used here.</source>
@@ -175,6 +184,14 @@
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>ملف PPD لدى خادم الطباعة على &#x2068;%1&#x2069; لهذه الطابعة فارغ؛ اطلب إعداد قائمة الانتظار مجددًا بملف PPD الخاص بالجهاز</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>هذا هو المستند نفسه وسيُفقد؛ سمِّ ملفًا آخر</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>يوجد هناك ملف آخر ليس PDF؛ سمِّ ملفًا آخر</translation>
     </message>
 </context>
 <context>
@@ -1384,6 +1401,21 @@
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>تُحجَّم الصفحات بعدد من %1 إلى %2 بالمئة</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>الصفحة %1 أكبر من موضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحة %1 أكبر من موضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحتان %1 أكبر من موضعيهما على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>اختر صفحات أقل في الورقة، أو دع الصفحات تُصغَّر لتلائم مواضعها.</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1459,18 +1491,6 @@
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>الصفحات الفردية والزوجية</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>الصفحات الفردية فقط</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>الصفحات الزوجية فقط</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>تصغير الصفحات الأكبر</translation>
     </message>
@@ -1521,6 +1541,18 @@
     <message>
         <source>Up, then left</source>
         <translation>لأعلى ثم يسارًا</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>الفردية والزوجية</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>الصفحات الفردية</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>الصفحات الزوجية</translation>
     </message>
 </context>
 <context>
@@ -1716,6 +1748,15 @@
         <source>Sheet %1, front</source>
         <translation>الورقة %1، الوجه</translation>
     </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>أكبر من المواضع على الورقة</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>بنسبة %1</translation>
+    </message>
 </context>
 <context>
     <name>Scripts</name>
@@ -1830,6 +1871,22 @@
         <source>%1.</source>
         <comment>a clause that stands alone</comment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>الطابعة وحدها تضيف هذا: %1.</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>الكتيب</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>العلامة المائية</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>الأغلفة والإدراجات</translation>
     </message>
 </context>
 <context>
@@ -1980,6 +2037,19 @@
         <source>%1: the window cannot be made: %2</source>
         <translation>&#x2068;%1&#x2069;: لا يمكن إنشاء النافذة: %2</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>حفظ كملف PDF</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>ملفات PDF</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (مطبوع)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -2080,6 +2150,14 @@
         <source>All settings of the job in words, before it is printed</source>
         <translation>كل إعدادات المهمة بالكلمات قبل طباعتها</translation>
     </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>حفظ كملف PDF…</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>الصفحات كما ستُطبع، في ملف</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -2176,10 +2254,6 @@
         <translation>الصفحات الفردية والزوجية، والترتيب، والتحجيم، وعدة صفحات في الورقة</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>&amp;فقط:</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>تخطيط الصفحات</translation>
     </message>
@@ -2218,6 +2292,10 @@
     <message>
         <source>reversed</source>
         <translation>معكوس</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>&amp;منها:</translation>
     </message>
 </context>
 <context>

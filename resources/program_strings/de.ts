@@ -116,12 +116,6 @@ Rechten 0600</translation>
         <translation>diese Sprache statt der der Arbeitsumgebung</translation>
     </message>
     <message>
-        <source>write document.pdf, options and ticket.plist there
-instead of sending</source>
-        <translation>document.pdf, options und ticket.plist dorthin
-schreiben, statt zu senden</translation>
-    </message>
-    <message>
         <source>wait this long for the print server, or for a
 pipe named as file, 1 to 3600 (30)</source>
         <translation>so lange auf den Druckserver oder auf eine als Datei
@@ -251,6 +245,12 @@ ungültig, 130 abgebrochen.
     <message>
         <source>%1 is what --ticket-out writes</source>
         <translation>%1 ist das, was --ticket-out schreibt</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
+Ordners document.pdf, options und ticket.plist hinein</translation>
     </message>
 </context>
 <context>
@@ -672,6 +672,14 @@ ungültig, 130 abgebrochen.
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>die PPD-Datei, die der Druckserver %1 dafür hat, ist leer; lassen Sie die Warteschlange mit der PPD-Datei des Geräts neu einrichten</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>dies ist das Dokument selbst, das verloren ginge; nennen Sie eine andere Datei</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>dort steht eine andere Datei, die kein PDF ist; nennen Sie eine andere Datei</translation>
     </message>
 </context>
 <context>
@@ -1852,6 +1860,17 @@ ungültig, 130 abgebrochen.
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>Seiten werden mit einer Zahl von %1 bis %2 Prozent skaliert</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Seite %1 ist größer als ihr Platz auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+            <numerusform>Die Seiten %1 sind größer als ihre Plätze auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>Wählen Sie weniger Seiten pro Blatt, oder lassen Sie die Seiten einpassen.</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1923,18 +1942,6 @@ ungültig, 130 abgebrochen.
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>Ungerade und gerade Seiten</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>Nur ungerade Seiten</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>Nur gerade Seiten</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>Größere Seiten verkleinern</translation>
     </message>
@@ -1956,35 +1963,47 @@ ungültig, 130 abgebrochen.
     </message>
     <message>
         <source>Right, then down</source>
-        <translation>Nach rechts, dann nach unten</translation>
+        <translation>Rechts, dann abwärts</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation>Nach rechts, dann nach oben</translation>
+        <translation>Rechts, dann aufwärts</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation>Nach links, dann nach unten</translation>
+        <translation>Links, dann abwärts</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation>Nach links, dann nach oben</translation>
+        <translation>Links, dann aufwärts</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation>Nach unten, dann nach rechts</translation>
+        <translation>Abwärts, dann rechts</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation>Nach unten, dann nach links</translation>
+        <translation>Abwärts, dann links</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation>Nach oben, dann nach rechts</translation>
+        <translation>Aufwärts, dann rechts</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation>Nach oben, dann nach links</translation>
+        <translation>Aufwärts, dann links</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Ungerade und gerade</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>Ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>Gerade Seiten</translation>
     </message>
 </context>
 <context>
@@ -2251,6 +2270,15 @@ ungültig, 130 abgebrochen.
     <message>
         <source>Sheet %1, front</source>
         <translation>Blatt %1, vorn</translation>
+    </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>größer als die Plätze auf dem Blatt</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>auf %1</translation>
     </message>
 </context>
 <context>
@@ -2729,6 +2757,22 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <comment>a clause that stands alone</comment>
         <translation>%1.</translation>
     </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>Nur der Drucker fügt dies hinzu: %1.</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>die Broschüre</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>das Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>Deckblätter und Einlagen</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -2874,6 +2918,19 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>%1: the window cannot be made: %2</source>
         <translation>%1: das Fenster lässt sich nicht erstellen: %2</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (gedruckt)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -2974,6 +3031,14 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>All settings of the job in words, before it is printed</source>
         <translation>Alle Einstellungen des Auftrags in Worten, bevor gedruckt wird</translation>
     </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Als PDF speichern …</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>Die Seiten, wie sie gedruckt würden, in einer Datei</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -3070,10 +3135,6 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Ungerade und gerade Seiten, Reihenfolge, Skalierung und mehrere Seiten auf einem Blatt</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>N&amp;ur:</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>Seitenlayout</translation>
     </message>
@@ -3112,6 +3173,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>reversed</source>
         <translation>umgekehrt</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>Da&amp;von:</translation>
     </message>
 </context>
 <context>

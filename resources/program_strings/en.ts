@@ -77,6 +77,13 @@
             <numerusform>Pages %1 are larger than the paper, %2, and made smaller to fit.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Page %1 is larger than its place on the sheet: what does not fit is cut off.</numerusform>
+            <numerusform>Pages %1 are larger than their places on the sheet: what does not fit is cut off.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Document</name>

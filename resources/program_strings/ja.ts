@@ -9,6 +9,15 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>印刷されるものを PDF に書き出す。フォルダー名なら
+document.pdf、options、ticket.plist をその中に</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message numerus="yes">
         <source>At most %n characters fit here.</source>
@@ -170,6 +179,14 @@
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>プリントサーバー%1にあるこのプリンターのPPDは空です。機器のPPDで印刷キューを設定し直してもらってください</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>これは文書そのもので、失われてしまいます。別のファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>そこには PDF でない別のファイルがあります。別のファイルを指定してください</translation>
     </message>
 </context>
 <context>
@@ -1319,6 +1336,16 @@
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>拡大縮小率は %1～%2 パーセントの数です</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>ページ %1 は用紙上の枠より大きいため、はみ出す部分は切り取られます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>1面のページ数を減らすか、ページを枠に合わせてください。</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1389,18 +1416,6 @@
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>奇数・偶数ページ</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>奇数ページのみ</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>偶数ページのみ</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>大きいページを縮小</translation>
     </message>
@@ -1451,6 +1466,18 @@
     <message>
         <source>Up, then left</source>
         <translation>上へ、次に左へ</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>奇数・偶数</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>奇数ページ</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>偶数ページ</translation>
     </message>
 </context>
 <context>
@@ -1636,6 +1663,15 @@
         <source>Sheet %1, front</source>
         <translation>%1枚目おもて</translation>
     </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>用紙上の枠より大きい</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>%1 に拡大縮小</translation>
+    </message>
 </context>
 <context>
     <name>Scripts</name>
@@ -1750,6 +1786,22 @@
         <source>%1.</source>
         <comment>a clause that stands alone</comment>
         <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>次のものはプリンターだけが加えます：%1。</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>ウォーターマーク</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>表紙と挿入紙</translation>
     </message>
 </context>
 <context>
@@ -1895,6 +1947,19 @@
         <source>%1: the window cannot be made: %2</source>
         <translation>%1: ウィンドウを作成できません: %2</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF ファイル</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (印刷)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -1995,6 +2060,14 @@
         <source>All settings of the job in words, before it is printed</source>
         <translation>印刷する前に、ジョブのすべての設定を文章で確認します</translation>
     </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>PDF として保存…</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>印刷されるとおりのページをファイルに</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -2091,10 +2164,6 @@
         <translation>奇数・偶数ページ、順序、拡大縮小、1面に複数ページ</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>対象(&amp;L):</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>ページレイアウト</translation>
     </message>
@@ -2133,6 +2202,10 @@
     <message>
         <source>reversed</source>
         <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>対象(&amp;E):</translation>
     </message>
 </context>
 <context>
