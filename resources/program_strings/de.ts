@@ -3659,7 +3659,7 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
+    <name>kelvo::PrinterChooser</name>
     <message>
         <source>Printers</source>
         <translation>Drucker</translation>

@@ -181,7 +181,7 @@
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
+    <name>kelvo::PrinterChooser</name>
     <message numerus="yes">
         <source>%n printer(s)</source>
         <translation>

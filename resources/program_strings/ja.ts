@@ -2678,7 +2678,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
+    <name>kelvo::PrinterChooser</name>
     <message>
         <source>Printers</source>
         <translation>プリンター</translation>
