@@ -264,7 +264,9 @@ public:
 
     QString text(const ppd_group_t &group) const
     {
-        return m_translation.text(group.name, textFrom(group.text));
+        const QString standard =
+            m_isMadeFromIpp ? standardOptionWords(textFrom(group.name)) : QString();
+        return standard.isEmpty() ? m_translation.text(group.name, textFrom(group.text)) : standard;
     }
     QString text(const ppd_option_t &option) const
     {

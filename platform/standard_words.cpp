@@ -36,6 +36,7 @@ constexpr WordsRow rows[] = {
     {"", "BindType", QT_TRANSLATE_NOOP("StandardWords", "Binding")},
     {"", "OtherFinishing", QT_TRANSLATE_NOOP("StandardWords", "Other finishing")},
     {"", "cupsFinishingTemplate", QT_TRANSLATE_NOOP("StandardWords", "Finishing preset")},
+    {"", "Finishing", QT_TRANSLATE_NOOP("StandardWords", "Finishing")},
     // Duplex
     {"Duplex", "none", QT_TRANSLATE_NOOP("StandardWords", "1-sided print")},
     {"Duplex", "duplex-no-tumble", QT_TRANSLATE_NOOP("StandardWords", "2-sided print")},

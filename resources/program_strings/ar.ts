@@ -1766,6 +1766,10 @@
         <translation>إعداد تشطيب مسبق</translation>
     </message>
     <message>
+        <source>Finishing</source>
+        <translation>التشطيب</translation>
+    </message>
+    <message>
         <source>1-sided print</source>
         <translation>وجه واحد</translation>
     </message>

@@ -2676,6 +2676,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Vorlage für die Weiterverarbeitung</translation>
     </message>
     <message>
+        <source>Finishing</source>
+        <translation>Weiterverarbeitung</translation>
+    </message>
+    <message>
         <source>1-sided print</source>
         <translation>Einseitig</translation>
     </message>

@@ -1701,6 +1701,10 @@
         <translation>後処理のプリセット</translation>
     </message>
     <message>
+        <source>Finishing</source>
+        <translation>後処理</translation>
+    </message>
+    <message>
         <source>1-sided print</source>
         <translation>片面印刷</translation>
     </message>
