@@ -65,6 +65,9 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 //   copies=N   page-ranges=1-3,7   collate=true|false
 //   multiple-document-handling=separate-documents-(un)collated-copies
 //   landscape=true|false   portrait=true|false   fit-to-page=false
+//   print-color-mode, print-quality, media-source, media-type, output-bin, printer-resolution,
+//   print-content-optimize, finishing-template and finishings, with IPP's values: the option of
+//   the PPD that says the same (ipp_options.h)
 //
 // A name alone means what meaningOf() says. true is also written on and yes, false also off and no,
 // and choices of such a name are meant by all of them; an option without them, but with None, has
