@@ -6,6 +6,7 @@
 #include "dialog_foot.h"
 #include "document_preview.h"
 #include "focus_regions.h"
+#include "options_pane.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "printer_pane.h"
@@ -63,6 +64,7 @@ DialogParts::DialogParts(QWidget *window)
     , stack(new QStackedWidget)
     , waiting(new WaitingPane(stack))
     , panes(new QWidget(stack))
+    , options(new OptionsPane(stack))
     , cautionBar(new CautionBar(window))
     , foot(new DialogFoot(columns->toggle(), window))
     , m_window(window)
@@ -78,6 +80,7 @@ DialogParts::DialogParts(QWidget *window)
     panesLayout->setContentsMargins(0, 0, 0, 0);
     stack->addWidget(waiting);
     stack->addWidget(panes);
+    stack->addWidget(options);
     scroll->setWidget(stack);
 
     auto *layout = new QVBoxLayout(window);
@@ -120,6 +123,8 @@ void DialogParts::fitToPanels()
 // A pane has a layout from when its panel's content is put into it.
 bool DialogParts::arePanelsBuilt() const
 {
+    if (!options->isBuilt())
+        return false;
     const auto shown = scroll->findChildren<QWidget *>();
     return std::all_of(shown.cbegin(), shown.cend(), [](const QWidget *pane) {
         const auto id = controlIDOf(pane);

@@ -13,6 +13,7 @@ namespace kelvo {
 class CautionBar;
 class DialogFoot;
 class DocumentPreview;
+class OptionsPane;
 class PaneScroll;
 class PanelSwitch;
 class PrinterPane;
@@ -34,9 +35,10 @@ public:
     WindowColumns *const columns;
     PanelSwitch *const panelSwitch;
     PaneScroll *const scroll;
-    QStackedWidget *const stack; // the waiting pane, or the panels
+    QStackedWidget *const stack; // the waiting pane, the panels, or the host's own
     WaitingPane *const waiting;
     QWidget *const panes; // parent of the device's panels
+    OptionsPane *const options;
     CautionBar *const cautionBar;
     DialogFoot *const foot;
     PrinterPane *printer = nullptr;
