@@ -4,6 +4,7 @@
 #include "ipp_options.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "standard_words.h"
 #include "texts.h"
 #include "ticket_layers.h"
 #include "values.h"
@@ -317,7 +318,9 @@ Result<TicketPlaces> applyMedia(const Request &request)
             continue;
         }
         for (const PpdOption *option : others) {
-            const auto choice = option ? findChoiceName(part, *option) : std::nullopt;
+            auto choice = option ? findChoiceName(part, *option) : std::nullopt;
+            if (option && !choice) // "tray-2", as IPP has it
+                choice = findChoiceName(ppdName(part), *option);
             if (!choice)
                 continue;
             choices.insert(option->keyword, *choice);

@@ -128,6 +128,8 @@ QString DialogSession::whyNoPanels()
 {
     if (!m_panels)
         return m_bundleProblem;
+    if (isOfAnotherMaker()) // the bundle says whose devices it is for, without its module
+        return whyPanelsDidNotBegin({});
     if (!m_panelsLoaded) {
         m_panelsLoaded = m_panels->load();
         if (!*m_panelsLoaded)
