@@ -672,10 +672,11 @@ QString PpdFile::languageEncoding() const
     return textFrom(d->ppd->lang_encoding);
 }
 
-std::optional<QString> PpdFile::attribute(const char *keyword) const
+std::optional<QString> PpdFile::attribute(const char *keyword, const QString &part) const
 {
     const std::lock_guard lock(d->mutex);
-    const ppd_attr_t *attribute = ppdFindAttr(d->ppd.get(), keyword, nullptr);
+    const ppd_attr_t *attribute =
+        ppdFindAttr(d->ppd.get(), keyword, part.isEmpty() ? nullptr : part.toUtf8().constData());
     if (!attribute || !attribute->value)
         return std::nullopt;
     return textFrom(attribute->value);

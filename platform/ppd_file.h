@@ -84,7 +84,8 @@ public:
     QString modelName() const;        // the nickname where there is one
     QString languageEncoding() const; // lang_encoding as libcups gives it; empty when missing
     // The value of a main keyword such as "KelvoTicket" (without the quotes); none when missing.
-    std::optional<QString> attribute(const char *keyword) const;
+    // With `part`, of "*keyword part: value".
+    std::optional<QString> attribute(const char *keyword, const QString &part = {}) const;
     QStringList attributes(const char *keyword) const; // every value, e.g. of cupsFilter
 
     // What the PPD has the device told for this choice, as it stands; empty when there is nothing.

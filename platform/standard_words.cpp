@@ -361,7 +361,8 @@ QString standardChoiceWords(const QString &option, const QString &choice)
 
 QString readable(const QString &name)
 {
-    QString words = ippKeyword(name);
+    // A maker's own begin with its domain.
+    QString words = ippKeyword(name.count(u'.') > 1 ? name.section(u'.', -1) : name);
     words.replace(u'-', u' ');
     // What a maker writes in capitals is an abbreviation.
     if (name == name.toUpper())

@@ -19,7 +19,7 @@ QString ppdName(const QString &ippKeyword);
 QString standardOptionWords(const QString &option);
 // The same of its choice, of either form; "Tray 7" for "tray-7".
 QString standardChoiceWords(const QString &option, const QString &choice);
-// Of any name: "fast-dry-2" as "Fast dry 2".
+// Of any name: "com.maker.fast-dry-2" as "Fast dry 2".
 QString readable(const QString &name);
 
 // A paper by its PPD name and its size in points: "A4 (210 × 297 mm)", "Letter (8.5 × 11 in)",

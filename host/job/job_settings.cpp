@@ -497,6 +497,19 @@ Error lacksOption(const Request &request)
                          translate("Job", "this printer does not have this option"));
 }
 
+// A finishing's number, where the print server has written into its PPD what that is.
+std::optional<std::pair<QString, QString>> finishingOfNumber(const QString &number,
+                                                             const PpdFile &ppd)
+{
+    // "*StapleLocation SinglePortrait"
+    const QString rule = ppd.attribute("cupsIPPFinishings", number).value_or(QString()).trimmed();
+    const QString option = rule.section(u' ', 0, 0).mid(1);
+    const QString choice = rule.section(u' ', 1, 1);
+    if (!rule.startsWith(u'*') || !offers(ppd, option, choice))
+        return std::nullopt;
+    return std::pair(option, choice);
+}
+
 // "finishings=4,20": each belongs to an option of its own kind.
 Result<TicketPlaces> applyFinishings(const Request &request)
 {
@@ -513,6 +526,10 @@ Result<TicketPlaces> applyFinishings(const Request &request)
     QStringList known{QStringLiteral("none")};
     for (const QString &value : request.value.split(u',')) {
         bool isFound = value == QLatin1String("none") || value == QLatin1String("3");
+        if (const auto finishing = finishingOfNumber(value, *request.ppd)) {
+            choices.insert(finishing->first, finishing->second);
+            isFound = true;
+        }
         for (const PpdOption *option : options) {
             known << choiceNames(*option).mid(1);
             const auto choice =
