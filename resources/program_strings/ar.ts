@@ -1333,6 +1333,14 @@
         <source>%1: %2.</source>
         <translation>&#x2068;%1&#x2069;: %2.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>المزيد</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -2733,6 +2741,33 @@
     <message>
         <source>Written to %1</source>
         <translation>كُتب في &#x2068;%1&#x2069;</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>خيارات الطابعة</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>ليس لهذه الطابعة خيارات خاصة بها.</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1 (غير متاح)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>لا يمكن استخدامه مع إعدادات أخرى</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>لا تتيح تجهيزات الطابعة خيارًا آخر</translation>
     </message>
 </context>
 <context>

@@ -1805,6 +1805,14 @@ ungültig, 130 abgebrochen.
         <source>%1: %2.</source>
         <translation>%1: %2.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Weitere</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -3639,6 +3647,33 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>Written to %1</source>
         <translation>Geschrieben nach %1</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>Druckeroptionen</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>Dieser Drucker hat keine eigenen Optionen.</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1 (nicht angeboten)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>Kann nicht zusammen mit anderen Einstellungen verwendet werden</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>Die Ausstattung des Druckers lässt keine andere Wahl</translation>
     </message>
 </context>
 <context>

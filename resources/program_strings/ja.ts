@@ -1273,6 +1273,14 @@
         <source>%1: %2.</source>
         <translation>%1: %2。</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -2663,6 +2671,33 @@
     <message>
         <source>Written to %1</source>
         <translation>%1に書き込みました</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>プリンターのオプション</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>このプリンターには独自のオプションがありません。</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1(選択できません)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>ほかの設定と一緒には使えません</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>プリンターの装備では、ほかに選べません</translation>
     </message>
 </context>
 <context>
