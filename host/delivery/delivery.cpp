@@ -5,7 +5,6 @@
 #include "file_store.h"
 #include "job_options.h"
 #include "output_file.h"
-#include "page_ranges.h"
 #include "ppd_words.h"
 #include "queue_ppds.h"
 #include "temporary_folder.h"
@@ -46,26 +45,27 @@ Error notRead(const PreparedJob &job, const QString &where)
                             "without it, or have the queue set up with the device’s own PPD")};
 }
 
-Result<Document> pagesToPrint(const Document &document, const QString &pageRanges)
+// What is printed of the document, and how it lies.
+Result<PdfLayout> layoutOf(const JobRequest &request)
 {
+    const Document &document = request.document;
     if (document.isNull())
         return Error{Code::NotFound, translate("Delivery", "document"),
                      translate("Delivery", "there is nothing to print")};
-    if (pageRanges.trimmed().isEmpty())
-        return document;
-    const auto runs = pageRunsFrom(pageRanges, document.pageCount());
-    if (!runs)
-        return runs.error();
-    return document.withPages(runs.value());
+    if (Result<void> checked = checkLayout(request.layout, document.pageCount(), document.title());
+        !checked)
+        return checked.error();
+    return isAsItIs(request.layout, document.pageCount()) ? PdfLayout() : request.layout;
 }
 
-// The PDF that goes out: with the ticket where the device reads it, and without
+// The PDF that goes out: laid out, with the ticket where the device reads it, and without
 // any older one, which could tell an older passcode. It is written anew also where the
 // document names none: one may stand in what later revisions replaced.
-Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job)
+Result<void> makePdf(const Document &document, const PdfLayout &layout, const QByteArray &ticket,
+                     PreparedJob &job)
 {
-    const QByteArray ticket = withTicket ? job.ticket : QByteArray();
-    if (auto written = replacedTicketAhead(document, ticket)) {
+    const EmbeddedFile attachment = ticketAttachment(ticket);
+    if (auto written = document.writtenAhead(layout, attachment)) {
         job.pdfPath = written->path;
         job.pdfOwner = written->owner;
         return {};
@@ -75,7 +75,7 @@ Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job
         return folderNotMade(temporaryPath(), folder->errorString());
     job.pdfPath = folder->filePath(QStringLiteral("document.pdf"));
     job.pdfOwner = folder;
-    return replaceTicket(document.pdfPath(), ticket, job.pdfPath);
+    return makeOutgoingPdf(document.pdfPath(), layout, attachment, job.pdfPath);
 }
 
 } // namespace
@@ -83,6 +83,14 @@ Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job
 Result<PreparedJob> prepareJob(const JobRequest &request)
 {
     PreparedJob job;
+    if (request.isForPeople) {
+        const auto layout = layoutOf(request);
+        if (!layout)
+            return layout.error();
+        if (auto made = makePdf(request.document, layout.value(), {}, job); !made)
+            return made.error();
+        return job;
+    }
     job.hasPasscode = holdsSecret(request.ticket, request.secretKeys);
     job.isFax = isFax(request.ticket, request.secretKeys);
     if ((job.hasPasscode || job.isFax) && !readsTickets(request.ppd))
@@ -90,9 +98,9 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     auto options = jobOptions(request.ticket, request.settings, request.ppd, request.queueDefaults);
     if (!options)
         return options.error();
-    const auto document = pagesToPrint(request.document, request.settings.pageRanges);
-    if (!document)
-        return document.error();
+    const auto layout = layoutOf(request);
+    if (!layout)
+        return layout.error();
     auto ticket = ticketForJob(request.ticket);
     if (!ticket)
         return ticket.error();
@@ -103,8 +111,11 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     const bool withTicket = readsTickets(request.ppd);
     if (withTicket)
         job.options.push_back(ticketOption(job.ticketSha256, job.hasPasscode, job.isFax));
-    if (auto made = makePdf(document.value(), withTicket, job); !made)
+    if (auto made =
+            makePdf(request.document, layout.value(), withTicket ? job.ticket : QByteArray(), job);
+        !made) {
         return made.error();
+    }
     return job;
 }
 
@@ -185,6 +196,76 @@ Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
     std::array files = {std::move(pdf).value(), std::move(ticket).value(), std::move(list).value()};
     if (auto placed = StagedFile::place(files); !placed)
         return notWritten(placed.error());
+    return {};
+}
+
+namespace {
+
+bool isSameFile(const struct stat &one, const struct stat &other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+// What may not be replaced by a PDF.
+Result<void> checkPdfTarget(const QString &path, const QString &document)
+{
+    const auto there = fileStatus(path);
+    if (!there) {
+        const QString parent = QFileInfo(path).path();
+        if (!fileStatus(parent))
+            return Error{Code::NotWritable, path,
+                         translate("Delivery",
+                                   "the folder %1 does not exist; make it first, or name another "
+                                   "one")
+                             .arg(parent)};
+        return {};
+    }
+    const auto printed = document.isEmpty() ? std::nullopt : fileStatus(document);
+    if (printed && isSameFile(*printed, *there))
+        return Error{Code::Refused, path,
+                     translate("Delivery",
+                               "this is the document itself, which would be lost; name another "
+                               "file")};
+    if (auto replaceable = checkReplaceable({path}); !replaceable)
+        return replaceable;
+    QFile file(path);
+    if (there->st_size > 0
+        && (!file.open(QIODevice::ReadOnly) || !file.read(1024).contains("%PDF-")))
+        return Error{
+            Code::Refused, path,
+            translate("Delivery", "another file stands there that is no PDF; name another file")};
+    return {};
+}
+
+// What the system gives the user's new files. There is no way to ask that changes nothing but
+// to read it.
+mode_t usualRights()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    mode_t umask = 077;
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &line : status.readAll().split('\n')) {
+            if (line.startsWith("Umask:"))
+                umask = line.mid(6).trimmed().toUInt(nullptr, 8);
+        }
+    }
+    return 0666 & ~umask;
+}
+
+} // namespace
+
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document)
+{
+    if (auto checked = checkPdfTarget(path, document); !checked)
+        return checked;
+    const auto before = fileStatus(path);
+    auto pdf = StagedFile::withCopy(path, job.pdfPath);
+    if (!pdf)
+        return notWritten(pdf.error());
+    if (auto placed = pdf.value().place(); !placed)
+        return notWritten(placed.error());
+    // Where the file system keeps no rights there are none to be given.
+    (void)::chmod(fileNameBytes(path).constData(), before ? before->st_mode & 0777 : usualRights());
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "document.h"
 #include "job_settings.h"
+#include "pdf_layout.h"
 #include "ppd_file.h"
 #include "result.h"
 #include "secret_keys.h"
@@ -29,16 +30,19 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document;            // as the user opened it; pages are cut here
+    Document document; // as the user opened it
+    PdfLayout layout;  // what of it goes out, and where; empty: all, as it is
+    // Its pages alone, for people: no ticket goes in, and nothing that a printer is told.
+    bool isForPeople = false;
     TicketFile ticket;            // as the panels wrote it, without nonce
-    JobSettings settings;         // copies, pages, paper (job_settings.h)
+    JobSettings settings;         // copies, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one
     SecretKeys secretKeys;        // from the bundle
     QMap<QString, QString>
         queueDefaults; // of the queue (Printer::defaults), to be contradicted where needed
 };
 
-// What goes out. The PDF (a private 0600 file, pages cut, ticket attached) and
+// What goes out. The PDF (a private 0600 file, laid out, ticket attached) and
 // the options, each once.
 struct PreparedJob
 {
@@ -67,6 +71,11 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 // there; the files are 0600. Files that stand there are replaced one by one, after
 // all three were found to be replaceable; after an error what stood there stays.
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
+
+// Writes the job's PDF to `path`, over another PDF, whose rights stay; a new one has those that the
+// user's files have. Refused for what is no PDF, and for `document`, the file that is printed
+// (empty: none): it would be lost. After an error what stood there stays.
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document);
 
 struct DeliveredJob
 {

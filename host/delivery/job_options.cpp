@@ -92,22 +92,11 @@ constexpr NeutralRow neutralRows[] = {
     {"page-ranges", "1-2147483647"}, // the pages are cut already
     {"mirror", "false"},
     {"outputorder", "normal"},
+    {"orientation-requested", "3"}, // portrait: a device that reads tickets turns them itself
+    {"fit-to-page", "false"},
+    {"scaling", "100"},
+    {"page-border", "none"},
 };
-
-const char *orientationRequested(Orientation orientation)
-{
-    switch (orientation) {
-    case Orientation::Portrait:
-        return "3";
-    case Orientation::Landscape:
-        return "4";
-    case Orientation::ReverseLandscape:
-        return "5";
-    case Orientation::ReversePortrait:
-        return "6";
-    }
-    return "3";
-}
 
 // Collects options, each name once: the first one stands.
 class OptionList
@@ -187,13 +176,6 @@ void addHostOptions(const JobSettings &settings, const PpdFile *ppd,
                                      : QStringLiteral("separate-documents-uncollated-copies"));
     if (!isMadeOfIpp(ppd) && (settings.copies > 1 || isDefaulted("Collate")))
         options.add(QStringLiteral("Collate"), collateWord(settings));
-    // A device that reads tickets finds the orientation there, and its pages
-    // are not to be turned before.
-    const bool turnsPages = !readsTickets(ppd) && settings.orientation != Orientation::Portrait;
-    if (turnsPages || isDefaulted("orientation-requested"))
-        options.add(QStringLiteral("orientation-requested"),
-                    QLatin1String(orientationRequested(turnsPages ? settings.orientation
-                                                                  : Orientation::Portrait)));
     // Pages go out as they are to lie on the paper. Filters fit them to what they take for the
     // printable area, unless they are told.
     if (!readsTickets(ppd))

@@ -1,6 +1,6 @@
 #include "ticket_attachment.h"
 
-#include "embedded_files.h"
+#include "job_settings.h"
 #include "property_list.h"
 
 #include <sys/random.h>
@@ -26,19 +26,14 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
                      QString::fromUtf8(std::strerror(errno))};
     TicketFile sent = ticket;
     sent.unknown.insert(kTicketNonceKey, nonce);
-    sent.printSettings.entries.erase(kPMPageRangesKey);
+    for (const QString &key : pageEntries()) // done to the document already
+        sent.printSettings.entries.erase(key);
     return CFPropertyListCreateXMLData(propertyListFrom(sent));
 }
 
-Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target)
+EmbeddedFile ticketAttachment(const QByteArray &ticket)
 {
-    return replaceEmbeddedFile(source, kTicketAttachmentName, ticketType, ticket, target);
-}
-
-std::optional<Document::Written> replacedTicketAhead(const Document &document,
-                                                     const QByteArray &ticket)
-{
-    return document.writtenAhead(ticketType, ticket);
+    return {kTicketAttachmentName, ticketType, ticket};
 }
 
 } // namespace kelvo

@@ -1,6 +1,7 @@
 #include "asked_settings.h"
 
 #include "device_offers.h"
+#include "job_settings.h"
 #include "ppd_words.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace {
 
 TicketPlaces withoutOneJob(TicketPlaces places)
 {
-    for (const QString &key : {kPMJobNameKey, kPMPageRangesKey})
+    for (const QString &key : entriesOfOneJob())
         places.erase({kPMPrintSettingsTicket, key});
     return places;
 }
@@ -100,6 +101,13 @@ void AskedSettings::settle(const TicketFile &ticket)
 {
     m_seen = ticket;
     m_unchanged = ticket;
+}
+
+void AskedSettings::propose(const TicketFile &before, const TicketFile &after)
+{
+    const TicketFile proposed = part(after, completed(differences(before, after), m_repeated));
+    for (TicketFile *file : {&m_defaults, &m_beginning, &m_seen, &m_unchanged})
+        *file = laid(proposed, std::move(*file), {}, m_repeated);
 }
 
 bool AskedSettings::isFirstWrite(const TicketPlace &place, const TicketFile &ticket,

@@ -1,5 +1,7 @@
 #include "job_describer.h"
 
+#include "job_settings.h"
+
 #include <algorithm>
 
 namespace kelvo {
@@ -12,8 +14,8 @@ const QString deviceMakerKey = QStringLiteral("KelvoDeviceMaker");
 
 bool isHostEntry(const QString &key)
 {
-    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMPageRangesKey, kPMJobNameKey};
-    return own.contains(key);
+    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMJobNameKey};
+    return own.contains(key) || pageEntries().contains(key);
 }
 
 JobDescriber::JobDescriber(Bundle *bundle)

@@ -78,16 +78,67 @@ void SessionJob::nameJob()
 // Also where the ranges name no page: something has to be seen until they do.
 void SessionJob::tellFirstPage()
 {
-    const auto runs = pageRunsFrom(settings().pageRanges, m_pageCount);
-    const int first = runs && !runs.value().empty() ? runs.value().front().first : 1;
-    m_session->setFirstPage({m_pdfPath, first});
+    const auto pages = m_document.isNull() ? Result<PrintedPages>(PrintedPages()) : printedPages();
+    const int first = pages ? pages.value().firstOnPage(1) : 0;
+    m_session->setFirstPage({m_document.pdfPath(), std::max(1, first)});
 }
 
-void SessionJob::setDocument(const QString &pdfPath, int pageCount)
+void SessionJob::setDocument(const Document &document)
 {
-    m_pdfPath = pdfPath;
-    m_pageCount = pageCount;
+    m_document = document;
+    if (m_isSettled)
+        proposePaper();
     tellFirstPage();
+}
+
+// The document's own size, where the device has it and nobody says another one.
+void SessionJob::proposePaper()
+{
+    if (m_document.isNull() || !ppd() || namesPaper(m_device.defaults, *ppd()))
+        return;
+    const TicketFile asked = m_edits.asked.asked();
+    if (std::ranges::any_of(paperPlaces(),
+                            [&](const TicketPlace &place) { return isSet(place, asked); }))
+        return;
+    const QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    JobSettings settings = this->settings();
+    if (paper.isEmpty() || paper == settings.paperName)
+        return;
+    if (m_isSettled)
+        writeAll();
+    const TicketFile before = ticketFileFrom(*m_session);
+    settings.paperName = paper;
+    writeJobSettings(settings, ppd(), *m_session);
+    readAll();
+    sync(kSyncWrite);
+    m_edits.asked.propose(before, ticketFileFrom(*m_session));
+}
+
+Result<PrintedPages> SessionJob::printedPages()
+{
+    const JobSettings settings = this->settings();
+    const auto runs = pageRunsFrom(settings.pageRanges, m_document.pageCount());
+    if (!runs)
+        return runs.error();
+    PagesToPrint request;
+    request.chosen = pagesIn(runs.value());
+    request.set = settings.pageSet;
+    request.sizeOf = [document = m_document](int page) { return document.pageSize(page); };
+    request.layout = settings.layout;
+    request.isReversed = settings.isReversed;
+    // A device that puts pages together makes them fit, and knows which share a sheet.
+    if (!description().imposition) {
+        request.pairsSides = isTwoSided();
+        if (ppd())
+            request.paper = paperNamed(settings.paperName, *ppd()).value_or(Paper());
+    }
+    PrintedPages pages(std::move(request));
+    if (pages.count() == 0)
+        return Error{Error::Code::OutOfRange, m_document.title(),
+                     settings.pageSet == PageSet::Odd
+                         ? translate("Job", "none of these pages has an odd number")
+                         : translate("Job", "none of these pages has an even number")};
+    return pages;
 }
 
 // The device's own defaults stand in its PPD; a queue's are laid over them. What they
@@ -130,8 +181,9 @@ void SessionJob::layAsked()
         readAll();
         sync(kSyncWrite);
     }
-    tellFirstPage();
     m_edits.asked.settle(ticketFileFrom(*m_session));
+    proposePaper();
+    tellFirstPage();
     m_edits.lookedAt = m_session->printSettings().ppdChoices;
     m_edits.lastSet.clear();
 }
@@ -184,14 +236,15 @@ void SessionJob::askForCopies(int copies)
     m_edits.asked.lay(asked, AskedSettings::Kind::Chosen);
 }
 
-void SessionJob::askForPages(const QString &pages)
+// An empty text takes the entry away.
+void SessionJob::askForEntry(const QString &key, const QString &text)
 {
     TicketFile asked;
     asked.isPart = true;
-    if (pages.isEmpty())
-        asked.removed.insert({kPMPrintSettingsTicket, kPMPageRangesKey});
+    if (text.isEmpty())
+        asked.removed.insert({kPMPrintSettingsTicket, key});
     else
-        asked.printSettings.entries[kPMPageRangesKey] = {pages, hostClient};
+        asked.printSettings.entries[key] = {text, hostClient};
     m_edits.asked.lay(asked, AskedSettings::Kind::Given);
 }
 
@@ -210,19 +263,21 @@ Result<void> SessionJob::askFirst()
     if (m_wishes.copies)
         askForCopies(*m_wishes.copies);
     if (m_wishes.pages)
-        askForPages(*m_wishes.pages);
+        askForEntry(kPMPageRangesKey, *m_wishes.pages);
     return {};
 }
 
 void SessionJob::usePreset(const TicketFile *preset)
 {
-    const QString pages = settings().pageRanges;
+    const JobSettings before = settings();
     m_edits.asked.clear();
     m_edits.unknown.clear();
     askForSiteDefaults();
     if (preset)
         ask(*preset, AskedSettings::Kind::Chosen);
-    askForPages(pages); // the user's: no other printer takes them away
+    // The user's: no other printer takes them away.
+    askForEntry(kPMPageRangesKey, before.pageRanges);
+    askForEntry(kPMPageSetKey, before.pageSet == PageSet::All ? QString() : nameOf(before.pageSet));
     layAsked();
     emit reloaded();
 }

@@ -21,9 +21,9 @@ JobWords jobInWords(DialogSession &session, SessionCautions &cautions)
     return words;
 }
 
-QString pagesProblem(const DialogSession &session)
+QString pagesProblem(DialogSession &session)
 {
-    const auto pages = session.pages();
+    const auto pages = session.job().printedPages();
     if (pages)
         return {};
     const QString detail = pages.error().detail;
@@ -31,15 +31,34 @@ QString pagesProblem(const DialogSession &session)
         .arg(detail.left(1).toUpper() + detail.mid(1));
 }
 
+QString leftToThePrinter(SessionJob &job)
+{
+    const JobDescription &description = job.description();
+    QStringList parts;
+    if (description.imposition)
+        parts << translate("Session", "the booklet");
+    if (!description.overlays.empty())
+        parts << translate("Session", "the watermark");
+    if (description.leadingPage)
+        parts << description.leadingPage->name;
+    const SpecialSheets &sheets = description.sheets;
+    if (sheets.frontCover == SpecialSheets::Cover::Sheet
+        || sheets.backCover == SpecialSheets::Cover::Sheet || !sheets.inserts.isEmpty())
+        parts << translate("Session", "covers and inserts");
+    return parts.isEmpty()
+        ? QString()
+        : translate("Session", "Only the printer adds this: %1.").arg(listed(parts));
+}
+
 QString jobInShort(DialogSession &session)
 {
     SessionJob &job = session.job();
-    const int pages = pageCount(session.pages().value());
+    const PrintedPages pages = job.printedPages().value();
     const JobDescription &description = job.description();
-    const SheetSequence sequence(pages, job.isTwoSided(), description.sheets,
+    const SheetSequence sequence(pages.count(), job.isTwoSided(), description.sheets,
                                  description.imposition);
-    return shortSummary(job.ticket(), job.settings(), pages, sequence.sheets(), job.secretKeys(),
-                        description.leadingPage);
+    return shortSummary(job.ticket(), job.settings(), pages.documentPageCount(), sequence.sheets(),
+                        job.secretKeys(), description.leadingPage);
 }
 
 } // namespace kelvo

@@ -19,6 +19,7 @@ public:
 
     QPushButton *details() const { return m_details; }
     QPushButton *help() const { return m_help; }
+    QPushButton *savePdf() const { return m_savePdf; }
     QPushButton *cancel() const { return m_cancel; }
     QPushButton *print() const { return m_print; }
 
@@ -31,7 +32,7 @@ private:
 
     QLabel *m_text;
     QProgressBar *m_progress;
-    QPushButton *m_details, *m_help, *m_cancel, *m_print;
+    QPushButton *m_details, *m_help, *m_savePdf, *m_cancel, *m_print;
 };
 
 } // namespace kelvo

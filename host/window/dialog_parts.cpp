@@ -141,7 +141,7 @@ void DialogParts::arrangeTabOrder()
     chainFocusStops(focusStopsIn(printer) + focusStopsIn(preview) + QList<QWidget *>{panelSwitch}
                     + panelStops + focusStopsIn(cautionBar)
                     + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(),
-                                       foot->cancel(), foot->print()});
+                                       foot->savePdf(), foot->cancel(), foot->print()});
 }
 
 void DialogParts::giveFirstFocus()

@@ -147,7 +147,8 @@ void OptionsPane::mark(const Row &row)
         colours.setColor(QPalette::WindowText, cautionText(palette()));
     row.label->setPalette(colours);
     QFont face = font();
-    face.setBold(row.isInConflict);
+    if (row.isInConflict)
+        face.setWeight(QFont::DemiBold);
     row.label->setFont(face);
     setPlainToolTip(row.popup,
                     row.isInConflict         ? tr("Cannot be used together with other settings")
@@ -206,8 +207,9 @@ void OptionsPane::fitToFont()
     }
     const int most = fontMetrics().averageCharWidth() * longestLabel;
     int widest = 0;
+    const QFontMetrics metrics(bold); // as they are in a conflict
     for (const Row &row : m_rows)
-        widest = std::max(widest, fontMetrics().horizontalAdvance(row.label->text()));
+        widest = std::max(widest, metrics.horizontalAdvance(row.label->text()));
     m_grid->setColumnMinimumWidth(0, std::min(widest + 4, most));
     for (const Row &row : m_rows)
         row.label->setMaximumWidth(most);

@@ -1,6 +1,7 @@
 #include "print_dialog.h"
 
 #include "accessible_role.h"
+#include "audience.h"
 #include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
@@ -12,6 +13,7 @@
 #include "options_pane.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
+#include "pdf_chooser.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
 #include "session_words.h"
@@ -85,6 +87,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_firstFrame.setInterval(firstFrameMs);
     connect(&m_firstFrame, &QTimer::timeout, this, [this] {
         m_session->openTheDocument();
+        if (audience() != Audience::Nobody)
+            m_parts.printer->buildFolded();
         emit begun();
     });
     m_watch.setInterval(watchMs);
@@ -143,6 +147,9 @@ PrintDialog::PrintDialog(DialogOptions options)
         return noErr;
     });
     connect(m_parts.printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
+    connect(m_parts.printer, &PrinterPane::pageInSightWanted, this, [this] {
+        m_parts.printer->setPageInSight(std::max(1, m_parts.preview->pageInSight()));
+    });
     connect(m_parts.panelSwitch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_parts.options, &OptionsPane::built, this, [this] {
         m_parts.arrangeTabOrder();
@@ -152,6 +159,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_parts.foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
     connect(m_parts.foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(m_parts.foot->savePdf(), &QPushButton::clicked, this, &PrintDialog::savePdf);
     connect(m_parts.foot->cancel(), &QPushButton::clicked, this, [this] {
         if (sendEvent({.kind = EventKind::ControlHit, .source = m_parts.foot->cancel()})
             == eventNotHandledErr)
@@ -334,6 +342,8 @@ void PrintDialog::updatePrintButton()
     const bool isBusy = m_flow.isPrinting() || m_sent.isTelling();
     m_parts.foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
     m_parts.foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
+    m_parts.foot->savePdf()->setEnabled(!isBusy && isReady()
+                                        && !m_session->document().document().isNull());
 }
 
 void PrintDialog::updatePreview()
@@ -343,8 +353,8 @@ void PrintDialog::updatePreview()
     SessionJob &job = m_session->job();
     const JobSettings settings = job.settings();
     DocumentPreview::Layout layout;
-    if (const auto runs = m_session->pages())
-        layout.pages = runs.value();
+    if (auto pages = job.printedPages())
+        layout.pages = std::move(pages).value();
     layout.orientation = settings.orientation;
     if (const PpdFile *ppd = job.ppd())
         layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());
@@ -506,6 +516,19 @@ void PrintDialog::print()
     m_flow.press(unfinishedPages());
 }
 
+void PrintDialog::savePdf()
+{
+    m_flow.forgetRefusal();
+    commitTypedValues(this);
+    const QString document = m_session->document().sourcePath();
+    const auto chooser = pdfChooser(m_session->document().title(), document, this);
+    connect(chooser.get(), &QFileDialog::fileSelected, this, [this, document](const QString &path) {
+        if (!m_finished)
+            m_flow.pressTo(pdfDestination(path, document), unfinishedPages());
+    });
+    runChooser(*chooser);
+}
+
 bool PrintDialog::fixesConflicts(const QString &header, const ConflictReport &report)
 {
     const int answer =
@@ -551,6 +574,8 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
         if (!m_isDriven)
             m_session->lookAtPrinter();
     }
+    if (m_isDriven && m_flow.isAside()) // no line of a script waits for it
+        printLine(stderr, QStringLiteral("kelvo-print: ") + refusal.problem);
     if (!m_isDriven)
         CFUserNotificationDisplayNotice(NoticeLevel::Stop, refusal.header, refusal.problem, {},
                                         this);
@@ -561,6 +586,12 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
 void PrintDialog::takePrinted(const QString &place)
 {
     showPrinting(false);
+    // The user may go on and print.
+    if (m_flow.isAside() && !m_isInterrupted) {
+        m_parts.foot->setText(m_flow.destination()->arrived(place));
+        m_parts.foot->savePdf()->setFocus();
+        return;
+    }
     if (m_isDriven || m_isInterrupted) {
         end(ExitStatus::Printed);
         return;
@@ -675,7 +706,8 @@ bool PrintDialog::isIdle() const
     const bool isUnderWay = !m_finished
         && (m_session->stage() == DialogSession::Stage::Searching
             || m_session->document().isPending() || (m_isDriven && m_session->search().isLooking())
-            || m_look.isActive() || m_firstFrame.isActive());
+            || m_look.isActive() || m_firstFrame.isActive()
+            || (m_flow.isPrinting() && m_flow.isAside()));
     return !isUnderWay && m_parts.isAtRest();
 }
 

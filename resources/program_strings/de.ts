@@ -116,12 +116,6 @@ Rechten 0600</translation>
         <translation>diese Sprache statt der der Arbeitsumgebung</translation>
     </message>
     <message>
-        <source>write document.pdf, options and ticket.plist there
-instead of sending</source>
-        <translation>document.pdf, options und ticket.plist dorthin
-schreiben, statt zu senden</translation>
-    </message>
-    <message>
         <source>wait this long for the print server, or for a
 pipe named as file, 1 to 3600 (30)</source>
         <translation>so lange auf den Druckserver oder auf eine als Datei
@@ -251,6 +245,12 @@ ungültig, 130 abgebrochen.
     <message>
         <source>%1 is what --ticket-out writes</source>
         <translation>%1 ist das, was --ticket-out schreibt</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
+Ordners document.pdf, options und ticket.plist hinein</translation>
     </message>
 </context>
 <context>
@@ -673,6 +673,14 @@ ungültig, 130 abgebrochen.
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>die PPD-Datei, die der Druckserver %1 dafür hat, ist leer; lassen Sie die Warteschlange mit der PPD-Datei des Geräts neu einrichten</translation>
     </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>dies ist das Dokument selbst, das verloren ginge; nennen Sie eine andere Datei</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>dort steht eine andere Datei, die kein PDF ist; nennen Sie eine andere Datei</translation>
+    </message>
 </context>
 <context>
     <name>Device</name>
@@ -760,6 +768,10 @@ ungültig, 130 abgebrochen.
     <message>
         <source>it could not be turned into a sound PDF</source>
         <translation>daraus ließ sich keine einwandfreie PDF-Datei machen</translation>
+    </message>
+    <message>
+        <source>its pages cannot be laid out like this; choose another paper or scaling</source>
+        <translation>seine Seiten lassen sich so nicht anordnen; wählen Sie ein anderes Papier oder eine andere Skalierung</translation>
     </message>
     <message>
         <source>the document has %1 pages, and not all that are asked for</source>
@@ -948,10 +960,6 @@ ungültig, 130 abgebrochen.
     <message>
         <source>the document has pages 1 to %1</source>
         <translation>das Dokument hat die Seiten 1 bis %1</translation>
-    </message>
-    <message>
-        <source>the last page comes before the first; write %1-%2</source>
-        <translation>die letzte Seite kommt vor der ersten; schreiben Sie %1-%2</translation>
     </message>
     <message>
         <source>all ranges together may name %1 pages at most</source>
@@ -1394,13 +1402,6 @@ ungültig, 130 abgebrochen.
 </context>
 <context>
     <name>Job</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 und %n weitere</numerusform>
-            <numerusform>%1 und %n weitere</numerusform>
-        </translation>
-    </message>
     <message>
         <source>“%1” takes no jobs.</source>
         <translation>„%1“ nimmt keine Aufträge an.</translation>
@@ -1431,10 +1432,6 @@ ungültig, 130 abgebrochen.
             <numerusform>Seite %1 ist größer als das Papier, %2: Was nicht darauf passt, wird abgeschnitten.</numerusform>
             <numerusform>Die Seiten %1 sind größer als das Papier, %2: Was nicht darauf passt, wird abgeschnitten.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Choose larger paper; jobs are not scaled.</source>
-        <translation>Wählen Sie größeres Papier; Aufträge werden nicht skaliert.</translation>
     </message>
     <message>
         <source>The document is damaged; what could be read of it was put together, and parts may be missing.</source>
@@ -1509,10 +1506,6 @@ ungültig, 130 abgebrochen.
     <message>
         <source>this printer has no paper %1</source>
         <translation>dieser Drucker hat kein Papier %1</translation>
-    </message>
-    <message>
-        <source>pages are printed at their own size; choose a paper that holds them, -o media=NAME</source>
-        <translation>Seiten werden in ihrer eigenen Größe gedruckt; wählen Sie mit -o media=NAME ein Papier, auf das sie passen</translation>
     </message>
     <message>
         <source>this printer does not have this option</source>
@@ -1806,6 +1799,79 @@ ungültig, 130 abgebrochen.
         <translation>%1: %2.</translation>
     </message>
     <message>
+        <source>Choose larger paper, or let the pages be made to fit.</source>
+        <translation>Wählen Sie größeres Papier, oder lassen Sie die Seiten einpassen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Covers, inserts, exception pages and booklets count what is printed: the first page there has page(s) %1 of the document.</source>
+        <translation>
+            <numerusform>Deckblätter, Einlagen, Ausnahmeseiten und Broschüren zählen, was gedruckt wird: Auf der ersten Seite steht Seite %1 des Dokuments.</numerusform>
+            <numerusform>Deckblätter, Einlagen, Ausnahmeseiten und Broschüren zählen, was gedruckt wird: Auf der ersten Seite stehen die Seiten %1 des Dokuments.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Of these: %1</source>
+        <translation>Davon: %1</translation>
+    </message>
+    <message>
+        <source>Order: As in the document</source>
+        <translation>Reihenfolge: wie im Dokument</translation>
+    </message>
+    <message>
+        <source>Order: Reversed</source>
+        <translation>Reihenfolge: umgekehrt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the paper, %2, and made smaller to fit.</source>
+        <translation>
+            <numerusform>Seite %1 ist größer als das Papier, %2, und wird passend verkleinert.</numerusform>
+            <numerusform>Die Seiten %1 sind größer als das Papier, %2, und werden passend verkleinert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1</source>
+        <translation>Seiten pro Blatt: %1</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2</source>
+        <translation>Seiten pro Blatt: %1, %2</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2, with borders</source>
+        <translation>Seiten pro Blatt: %1, %2, mit Rahmen</translation>
+    </message>
+    <message>
+        <source>Scaling: %1</source>
+        <translation>Skalierung: %1</translation>
+    </message>
+    <message>
+        <source>a side has room for 1, 2, 4, 6, 9 or 16 pages</source>
+        <translation>auf einer Blattseite haben 1, 2, 4, 6, 9 oder 16 Seiten Platz</translation>
+    </message>
+    <message>
+        <source>none of these pages has an even number</source>
+        <translation>keine dieser Seiten hat eine gerade Nummer</translation>
+    </message>
+    <message>
+        <source>none of these pages has an odd number</source>
+        <translation>keine dieser Seiten hat eine ungerade Nummer</translation>
+    </message>
+    <message>
+        <source>pages are scaled by a number from %1 to %2 percent</source>
+        <translation>Seiten werden mit einer Zahl von %1 bis %2 Prozent skaliert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Seite %1 ist größer als ihr Platz auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+            <numerusform>Die Seiten %1 sind größer als ihre Plätze auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>Wählen Sie weniger Seiten pro Blatt, oder lassen Sie die Seiten einpassen.</translation>
+    </message>
+    <message>
         <source>General</source>
         <translation>Allgemein</translation>
     </message>
@@ -1867,6 +1933,85 @@ ungültig, 130 abgebrochen.
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Layout</name>
+    <message>
+        <source>%1 %</source>
+        <comment>a percentage</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Shrink larger pages</source>
+        <translation>Größere Seiten verkleinern</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>An Papier anpassen</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>Papier ausfüllen</translation>
+    </message>
+    <message>
+        <source>Percentage</source>
+        <translation>Prozentsatz</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Right, then down</source>
+        <translation>Rechts, dann abwärts</translation>
+    </message>
+    <message>
+        <source>Right, then up</source>
+        <translation>Rechts, dann aufwärts</translation>
+    </message>
+    <message>
+        <source>Left, then down</source>
+        <translation>Links, dann abwärts</translation>
+    </message>
+    <message>
+        <source>Left, then up</source>
+        <translation>Links, dann aufwärts</translation>
+    </message>
+    <message>
+        <source>Down, then right</source>
+        <translation>Abwärts, dann rechts</translation>
+    </message>
+    <message>
+        <source>Down, then left</source>
+        <translation>Abwärts, dann links</translation>
+    </message>
+    <message>
+        <source>Up, then right</source>
+        <translation>Aufwärts, dann rechts</translation>
+    </message>
+    <message>
+        <source>Up, then left</source>
+        <translation>Aufwärts, dann links</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Ungerade und gerade</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>Ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>Gerade Seiten</translation>
     </message>
 </context>
 <context>
@@ -2069,36 +2214,8 @@ ungültig, 130 abgebrochen.
 <context>
     <name>Preview</name>
     <message>
-        <source>Sheet %1 · page %2 of %3</source>
-        <translation>Blatt %1 · Seite %2 von %3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3</source>
-        <translation>Blatt %1, hinten · Seite %2 von %3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3</source>
-        <translation>Blatt %1, vorn · Seite %2 von %3</translation>
-    </message>
-    <message>
         <source>Sheet %1, back · blank</source>
         <translation>Blatt %1, hinten · leer</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3, one blank</source>
-        <translation>Blatt %1, hinten · Seite %2 von %3, eine leer</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3, one blank</source>
-        <translation>Blatt %1, vorn · Seite %2 von %3, eine leer</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · pages %2 and %3 of %4</source>
-        <translation>Blatt %1, hinten · Seiten %2 und %3 von %4</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · pages %2 and %3 of %4</source>
-        <translation>Blatt %1, vorn · Seiten %2 und %3 von %4</translation>
     </message>
     <message>
         <source>Sheet %1 · %2</source>
@@ -2138,6 +2255,38 @@ ungültig, 130 abgebrochen.
     <message>
         <source>Blank</source>
         <translation>Leer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · page(s) %2 of %3</source>
+        <translation>
+            <numerusform>%1 · Seite %2 von %3</numerusform>
+            <numerusform>%1 · Seiten %2 von %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, one blank</source>
+        <translation>%1, eine leer</translation>
+    </message>
+    <message>
+        <source>Sheet %1</source>
+        <translation>Blatt %1</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Blatt %1, hinten</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Blatt %1, vorn</translation>
+    </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>größer als die Plätze auf dem Blatt</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>auf %1</translation>
     </message>
 </context>
 <context>
@@ -2615,6 +2764,22 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>%1.</source>
         <comment>a clause that stands alone</comment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>Nur der Drucker fügt dies hinzu: %1.</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>die Broschüre</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>das Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>Deckblätter und Einlagen</translation>
     </message>
 </context>
 <context>
@@ -3468,6 +3633,19 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>%1: the window cannot be made: %2</source>
         <translation>%1: das Fenster lässt sich nicht erstellen: %2</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (gedruckt)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -3568,6 +3746,14 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>All settings of the job in words, before it is printed</source>
         <translation>Alle Einstellungen des Auftrags in Worten, bevor gedruckt wird</translation>
     </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Als PDF speichern …</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>Die Seiten, wie sie gedruckt würden, in einer Datei</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -3647,6 +3833,65 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>Written to %1</source>
         <translation>Geschrieben nach %1</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::LayoutRows</name>
+    <message>
+        <source>%1 per sheet</source>
+        <translation>%1 pro Blatt</translation>
+    </message>
+    <message>
+        <source>&amp;Borders around pages</source>
+        <translation>Ra&amp;hmen um Seiten</translation>
+    </message>
+    <message>
+        <source>Odd and even pages, order, scaling, and several pages on a sheet</source>
+        <translation>Ungerade und gerade Seiten, Reihenfolge, Skalierung und mehrere Seiten auf einem Blatt</translation>
+    </message>
+    <message>
+        <source>Page layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Page layout: %1</source>
+        <translation>Seitenlayout: %1</translation>
+    </message>
+    <message>
+        <source>Pages per s&amp;heet:</source>
+        <translation>Seiten pro &amp;Blatt:</translation>
+    </message>
+    <message>
+        <source>Percentage of a page’s own size</source>
+        <translation>Prozent der eigenen Größe einer Seite</translation>
+    </message>
+    <message>
+        <source>Re&amp;verse</source>
+        <translation>U&amp;mgekehrt</translation>
+    </message>
+    <message>
+        <source>Sc&amp;aling:</source>
+        <translation>Ska&amp;lierung:</translation>
+    </message>
+    <message>
+        <source>The last page, or sheet, comes out first</source>
+        <translation>Die letzte Seite, oder das letzte Blatt, kommt zuerst heraus</translation>
+    </message>
+    <message>
+        <source>Where the next page lies</source>
+        <translation>Wo die nächste Seite liegt</translation>
+    </message>
+    <message>
+        <source>not scaled</source>
+        <translation>nicht skaliert</translation>
+    </message>
+    <message>
+        <source>reversed</source>
+        <translation>umgekehrt</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>Da&amp;von:</translation>
     </message>
 </context>
 <context>
@@ -4039,6 +4284,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>such as 1-3, 7</source>
         <translation>etwa 1-3, 7</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Angezeigte Seite</translation>
     </message>
 </context>
 <context>
