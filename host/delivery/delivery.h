@@ -23,6 +23,8 @@ namespace kelvo {
 struct JobOption
 {
     QString name, value;
+    // It goes as a text, whatever IPP has for that name: what hands it on takes it for that.
+    bool isText = false;
     friend bool operator==(const JobOption &, const JobOption &) = default;
 };
 
@@ -70,12 +72,13 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 // all three were found to be replaceable; after an error what stood there stays.
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
 
+// Writes the job's PDF to `path`, over another PDF, whose rights stay; a new one has those that the
+// user's files have. Refused for what is no PDF, and for one of `documents`, the files that are
+// printed: it would be lost. After an error what stood there stays.
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path,
+                          const QStringList &documents);
 // Makes `folder`, 0700, in one that is there; one that is there keeps its rights. NotWritable.
 Result<void> provideFolder(const QString &folder);
-// Writes the job's PDF to `path`, over another PDF, whose rights stay; a new one has those that the
-// user's files have. Refused for what is no PDF, and for `document`, the file that is printed
-// (empty: none): it would be lost. After an error what stood there stays.
-Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document);
 
 struct DeliveredJob
 {

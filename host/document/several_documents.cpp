@@ -27,12 +27,4 @@ QString folderOfOne(const QString &folder, int number, const QString &title)
     return QStringLiteral("%1/%2-%3").arg(folder).arg(number).arg(name);
 }
 
-QString numberedFile(const QString &path, int number)
-{
-    const qsizetype ending = path.lastIndexOf(u'.');
-    return ending <= path.lastIndexOf(u'/')
-        ? QStringLiteral("%1-%2").arg(path).arg(number)
-        : QStringLiteral("%1-%2%3").arg(path.left(ending)).arg(number).arg(path.mid(ending));
-}
-
 } // namespace kelvo

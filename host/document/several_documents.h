@@ -17,7 +17,4 @@ QString titleOfOne(const QString &asked, const QString &title);
 // title says, it is one name, no longer than file systems take.
 QString folderOfOne(const QString &folder, int number, const QString &title);
 
-// The same for a file of its own: "report-2.pdf" for "report.pdf".
-QString numberedFile(const QString &path, int number);
-
 } // namespace kelvo

@@ -116,42 +116,45 @@ class PdfFile : public Destination
     Q_DECLARE_TR_FUNCTIONS(kelvo::Folder)
 
 public:
-    PdfFile(const QString &path, const QString &document)
+    PdfFile(const QString &path, const QStringList &documents)
         : m_path(path)
-        , m_document(document)
+        , m_documents(documents)
     {
     }
 
     PrintOutcome deliver(const PreparedJob &job, const std::atomic_bool &) const override
     {
-        if (const auto delivered = deliverToPdf(job, m_path, m_document); !delivered)
+        if (const auto delivered = deliverToPdf(job, m_path, m_documents); !delivered)
             return {ExitStatus::Failed, {}, delivered.error().text()};
         return {ExitStatus::Printed, m_path, {}};
     }
 
+    bool isForPeople() const override { return true; }
     std::shared_ptr<const Destination> ofOne(int number, const QString &) const override
     {
-        return pdfDestination(numberedFile(m_path, number), m_document);
+        constexpr qsizetype ending = 4; // ".pdf"
+        QString path = m_path;
+        return std::make_shared<PdfFile>(
+            path.insert(path.size() - ending, u'-' + QString::number(number)), m_documents);
     }
-
-    bool isForPeople() const override { return true; }
     QString onTheWay() const override { return tr("Writing to %1…").arg(m_path); }
     QString arrived(const QString &place) const override { return tr("Written to %1").arg(place); }
 
 private:
-    const QString m_path, m_document;
+    const QString m_path;
+    const QStringList m_documents;
 };
 
 } // namespace
 
+std::shared_ptr<const Destination> pdfDestination(const QString &path, const QStringList &documents)
+{
+    return std::make_shared<PdfFile>(path, documents);
+}
+
 std::shared_ptr<const Destination> Destination::ofOne(int, const QString &) const
 {
     return nullptr;
-}
-
-std::shared_ptr<const Destination> pdfDestination(const QString &path, const QString &document)
-{
-    return std::make_shared<PdfFile>(path, document);
 }
 
 std::shared_ptr<const Destination> queueDestination(const QString &queue, const QString &title,

@@ -75,17 +75,17 @@ void PrintFlow::press(const QString &unfinished)
 {
     Q_ASSERT(!m_isPrinting);
     m_refusal.reset();
+    m_aside.reset();
     m_isCalledOff = false;
-    m_isAside = false;
     if (!hasDestination())
         return;
     m_session.job().writeAll();
     m_jobs = m_session.documents().unsent();
-    if (!havePages(unfinished))
-        return;
     const bool isForPeople = m_plan.elsewhere && m_plan.elsewhere->isForPeople();
-    if ((!isForPeople && !goTogether()) || !areLetGo() || !areSettingsWritten())
+    if (!havePages(unfinished) || !(isForPeople || goTogether()) || !areLetGo()
+        || !areSettingsWritten())
         return;
+    m_isPrinting = true;
     startNext();
     emit started();
 }
@@ -95,19 +95,20 @@ void PrintFlow::pressTo(std::shared_ptr<const Destination> destination, const QS
     Q_ASSERT(!m_isPrinting);
     m_refusal.reset();
     m_isCalledOff = false;
-    m_isAside = true; // of the document that is looked at, and no other
+    m_aside = std::move(destination);
     m_session.job().writeAll();
     m_jobs = {m_session.documents().shownIndex()};
     if (!havePages(unfinished))
         return;
-    start(std::move(destination));
+    m_isPrinting = true;
+    startNext();
     emit started();
 }
 
 bool PrintFlow::areSeveral() const
 {
     const SessionDocuments &documents = m_session.documents();
-    return !m_isAside && documents.count() > 1 && !documents.areJoined();
+    return !m_aside && documents.count() > 1 && !documents.areJoined();
 }
 
 bool PrintFlow::hasDestination()
@@ -226,25 +227,19 @@ Result<void> PrintFlow::writeSettingsOut()
 void PrintFlow::startNext()
 {
     const PrinterSearch &search = m_session.search();
+    SessionJob &job = m_session.job();
     SessionDocuments &documents = m_session.documents();
     const int number = m_jobs.front();
     documents.show(number);
     if (areSeveral())
-        m_session.job().writeAll(); // of this document
-    auto destination = m_plan.elsewhere
-        ? m_plan.elsewhere
-        : queueDestination(search.name(), documents.title(), search.timeoutMs());
-    auto own =
-        areSeveral() ? destination->ofOne(number + 1, documents.at(number).title()) : nullptr;
-    start(own ? std::move(own) : std::move(destination));
-}
-
-void PrintFlow::start(std::shared_ptr<const Destination> destination)
-{
-    const PrinterSearch &search = m_session.search();
-    SessionJob &job = m_session.job();
-    m_isPrinting = true;
-    m_destination = std::move(destination);
+        job.writeAll(); // of this document
+    const QString title = documents.title();
+    m_destination = m_aside ? m_aside
+        : m_plan.elsewhere  ? m_plan.elsewhere
+                            : queueDestination(search.name(), title, search.timeoutMs());
+    if (auto own =
+            areSeveral() ? m_destination->ofOne(number + 1, documents.at(number).title()) : nullptr)
+        m_destination = std::move(own);
     PrintRun::Order order;
     order.request.isForPeople = m_destination->isForPeople();
     order.request.document = m_session.document().document();

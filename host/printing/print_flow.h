@@ -87,9 +87,9 @@ public:
     static QString unknownOutcome();
 
     bool isPrinting() const { return m_isPrinting; }
-    bool isAside() const { return m_isAside; }   // the last press was pressTo()
-    QString onTheWay() const;                    // while it is; "Sending 2 of 5: b.txt"
-    QString arrived(const QString &place) const; // once it has printed(); "Hall-3-17 sent"
+    bool isAside() const { return m_aside != nullptr; } // the last press was pressTo()
+    QString onTheWay() const;                           // while it is; "Sending 2 of 5: b.txt"
+    QString arrived(const QString &place) const;        // once it has printed(); "Hall-3-17 sent"
     // Of the last press; none when it went out or was called off.
     const std::optional<PrintRefusal> &refusal() const { return m_refusal; }
     void forgetRefusal() { m_refusal.reset(); } // the next press begins
@@ -112,7 +112,6 @@ private:
     bool areSettingsWritten();
     bool areSeveral() const;
     void startNext();
-    void start(std::shared_ptr<const Destination> destination);
     void takeOutcome(const PrintOutcome &outcome);
     QString withTheOthers(const QString &problem) const;
     void sayWhatWasNotSent();
@@ -124,8 +123,8 @@ private:
     SessionCautions &m_cautions;
     const PrintPlan m_plan;
     PrintQuestions *m_questions = nullptr;
-    std::vector<int> m_jobs; // of this press: the documents still to be sent
-    bool m_isAside = false;
+    std::shared_ptr<const Destination> m_aside; // of this press; null: as the plan says
+    std::vector<int> m_jobs;                    // of this press: the documents still to be sent
     std::unique_ptr<PrintRun> m_run;
     std::shared_ptr<const Destination> m_destination; // of the last job
     bool m_isPrinting = false;

@@ -183,7 +183,7 @@ Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
     if (line.toFolder)
         options.plan.elsewhere = folderDestination(*line.toFolder);
     else if (line.toPdf)
-        options.plan.elsewhere = pdfDestination(*line.toPdf, line.files.value(0));
+        options.plan.elsewhere = pdfDestination(*line.toPdf, line.files);
     options.plan.ticketOut = line.ticketOut;
     options.plan.presetOut = line.presetOut;
     return inputs;

@@ -1,5 +1,6 @@
 #include "session_job.h"
 
+#include "ipp_options.h"
 #include "job_words.h"
 #include "page_ranges.h"
 #include "ppd_words.h"
@@ -37,6 +38,7 @@ SessionJob::SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObj
 Result<void> SessionJob::beginOn(Device device)
 {
     m_device = std::move(device);
+    m_hasProposedPaper = false;
     m_session = std::make_unique<PrintSession>();
     m_session->setPrinter({m_device.name, {}, m_device.ppd});
     nameJob();
@@ -107,7 +109,9 @@ void SessionJob::proposePaper()
     if (std::ranges::any_of(paperPlaces(),
                             [&](const TicketPlace &place) { return isSet(place, asked); }))
         return;
-    const QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    if (paper.isEmpty() && m_hasProposedPaper) // that of another document
+        paper = defaultPaper(*ppd());
     JobSettings settings = this->settings();
     if (paper.isEmpty() || paper == settings.paperName)
         return;
@@ -118,6 +122,7 @@ void SessionJob::proposePaper()
     writeJobSettings(settings, ppd(), *m_session);
     readAll();
     sync(kSyncWrite);
+    m_hasProposedPaper = true;
     m_edits.asked.propose(before, ticketFileFrom(*m_session));
 }
 
@@ -156,6 +161,11 @@ TicketFile SessionJob::queueDefaults()
     for (const bool ofPpd : {false, true}) {
         for (auto option = defaults.cbegin(); option != defaults.cend(); ++option) {
             if ((ppd() && ppd()->findOption(option.key())) != ofPpd)
+                continue;
+            // cupsd has a default for some of these also where nobody has set one, and says "black
+            // and white" of a queue that it knows nothing of.
+            if (!ofPpd && option.key() != QLatin1String("sides")
+                && ippAttributes().contains(option.key()))
                 continue;
             // Most of what the server lists is no setting of a job: passed over.
             static_cast<void>(bool(applyOption({option.key(), option.value()}, ppd(), *m_session)));

@@ -44,6 +44,9 @@ public:
     // read and write them. Null for both: none.
     SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObject *parent = nullptr);
 
+    // Others than those it was made with: before settle(), for the device that is begun.
+    void setPanels(DevicePanels *panels) { m_panels = panels; }
+
     struct Device
     {
         QString name;                    // of the queue, or the device without one
@@ -170,7 +173,8 @@ private:
     FoundConflicts m_conflicts;
 
     QString m_title;
-    Document m_document; // null: not there yet
+    Document m_document;             // null: not there yet
+    bool m_hasProposedPaper = false; // on this device
     Device m_device;
     std::unique_ptr<PrintSession> m_session;
     Edits m_edits;

@@ -3,7 +3,6 @@
 <TS version="2.1" language="en_US" sourcelanguage="en">
 <context>
     <name>Job</name>
-    <!-- What will come out -->
     <message numerus="yes">
         <source>%n page(s)</source>
         <translation>
@@ -25,7 +24,6 @@
             <numerusform>%n copies</numerusform>
         </translation>
     </message>
-    <!-- %1 is "3 sheets", %2 "2 copies" -->
     <message numerus="yes">
         <source>%1 × %2 = %n sheet(s)</source>
         <translation>
@@ -40,7 +38,6 @@
             <numerusform>%n entries that the device panels add (see Ticket)</numerusform>
         </translation>
     </message>
-    <!-- Pages that do not fit: %1 is their numbers, %2 the paper, %n how many pages -->
     <message numerus="yes">
         <source>Page(s) %1 larger than the paper, %2: what does not fit is cut off.</source>
         <translation>
@@ -48,7 +45,6 @@
             <numerusform>Pages %1 are larger than the paper, %2: what does not fit is cut off.</numerusform>
         </translation>
     </message>
-    <!-- What this printer does not have, or does not read -->
     <message numerus="yes">
         <source>%n setting(s) kept, to come back with a printer that has them.</source>
         <translation>
@@ -112,7 +108,6 @@
             <numerusform>At most %n characters fit here.</numerusform>
         </translation>
     </message>
-    <!-- %1 is the name of a control, %2 the row that was asked for -->
     <message numerus="yes">
         <source>%1 has %n row(s), not %2</source>
         <translation>
@@ -133,7 +128,6 @@
 </context>
 <context>
     <name>Preview</name>
-    <!-- %1 is "Insert" -->
     <message numerus="yes">
         <source>%1, %n sheet(s)</source>
         <translation>
@@ -151,7 +145,6 @@
 </context>
 <context>
     <name>Window</name>
-    <!-- %1 is the first of several sentences -->
     <message numerus="yes">
         <source>%1 (and %n more)</source>
         <translation>
@@ -171,23 +164,6 @@
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
-    <message numerus="yes">
-        <source>%n printer(s)</source>
-        <translation>
-            <numerusform>%n printer</numerusform>
-            <numerusform>%n printers</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n printer(s)</source>
-        <translation>
-            <numerusform>%1 of %n printer</numerusform>
-            <numerusform>%1 of %n printers</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>kelvo::PrintFlow</name>
     <message numerus="yes">
         <source>%n document(s) written</source>
@@ -201,6 +177,23 @@
         <translation>
             <numerusform>%n document sent to %1</numerusform>
             <numerusform>%n documents sent to %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterChooser</name>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n printer</numerusform>
+            <numerusform>%n printers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 of %n printer</numerusform>
+            <numerusform>%1 of %n printers</numerusform>
         </translation>
     </message>
 </context>

@@ -146,7 +146,7 @@ void TestCommandLine::refusesWrongLines_data()
     row("secret twice", {"--secret=a=f", "--secret=a=g"}, "--secret: the secret a is given twice");
     row("standard input twice", {"-", "a", "-"}, "-: standard input can be read only once");
     row("several in one file", {"a", "b", "--to", "x.pdf"},
-        "--to: several documents do not go into one file; add --join, or name a folder");
+        "--to: a PDF file has room for one job: add --join, or name a folder");
     row("two readers of the input", {"a", "-", "--script", "-"},
         "--script -: standard input is the document already; name one of them as a file");
     row("two devices", {"--demo", "--ppd", "x"},
