@@ -167,8 +167,8 @@ Result<void> takeTarget(CommandLine &line, const QString &value, const QString &
 {
     if (value.isEmpty())
         return refused(where, translate("CommandLine", "its value is empty"));
-    const bool isPdf = value.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)
-        && !QFileInfo(value).isDir();
+    const bool isPdf =
+        value.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive) && !QFileInfo(value).isDir();
     line.toPdf = isPdf ? std::optional(value) : std::nullopt;
     line.toFolder = isPdf ? std::nullopt : std::optional(value);
     return {};

@@ -29,8 +29,8 @@ struct CommandLine
     QMap<QString, QString> secretFiles; // --secret NAME=FILE
     bool noWindow = false;
     std::optional<QString> toFolder, toPdf; // --to: at most one of them
-    int timeoutSeconds = 30;         // --timeout, 1 to 3600
-    std::optional<QString> language; // --language, "de" or "de_AT"
+    int timeoutSeconds = 30;                // --timeout, 1 to 3600
+    std::optional<QString> language;        // --language, "de" or "de_AT"
     bool listPrinters = false, listControls = false, version = false, help = false;
     bool helpScripts = false; // --help-scripts
 };

@@ -231,9 +231,9 @@ Result<void> checkPdfTarget(const QString &path, const QString &document)
     QFile file(path);
     if (there->st_size > 0
         && (!file.open(QIODevice::ReadOnly) || !file.read(1024).contains("%PDF-")))
-        return Error{Code::Refused, path,
-                     translate("Delivery",
-                               "another file stands there that is no PDF; name another file")};
+        return Error{
+            Code::Refused, path,
+            translate("Delivery", "another file stands there that is no PDF; name another file")};
     return {};
 }
 

@@ -28,8 +28,8 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document;            // as the user opened it
-    PdfLayout layout;             // what of it goes out, and where; empty: all, as it is
+    Document document; // as the user opened it
+    PdfLayout layout;  // what of it goes out, and where; empty: all, as it is
     // Its pages alone, for people: no ticket goes in, and nothing that a printer is told.
     bool isForPeople = false;
     TicketFile ticket;            // as the panels wrote it, without nonce

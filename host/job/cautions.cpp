@@ -52,8 +52,9 @@ std::optional<Caution> cutPlacesCaution(const QList<int> &pages)
         return std::nullopt;
     return Caution{
         Weight::Told,
-        translate("Job", "Page(s) %1 larger than the places on the sheet: what does not fit is "
-                         "cut off.",
+        translate("Job",
+                  "Page(s) %1 larger than the places on the sheet: what does not fit is "
+                  "cut off.",
                   nullptr, pages.size())
             .arg(pageListInWords(pages)),
         translate("Job", "Choose fewer pages per sheet, or let the pages be made to fit.")};

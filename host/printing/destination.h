@@ -30,7 +30,7 @@ public:
     virtual PrintOutcome deliver(const PreparedJob &job,
                                  const std::atomic_bool &cancelled) const = 0;
 
-    virtual bool isForPeople() const { return false; } // JobRequest::isForPeople
+    virtual bool isForPeople() const { return false; }       // JobRequest::isForPeople
     virtual QString onTheWay() const = 0;                    // "Sending to Hall-3…"
     virtual QString arrived(const QString &place) const = 0; // "Hall-3-17 sent"
 };

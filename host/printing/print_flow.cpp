@@ -203,7 +203,8 @@ void PrintFlow::start(std::shared_ptr<const Destination> destination)
     order.request.ticket = job.ticket();
     order.request.settings = job.settings();
     // A device that reads tickets finds there how pages are turned.
-    const bool isUpsideDown = !order.request.isForPeople && !readsTickets(search.ppd().get()) && isReverse(order.request.settings.orientation);
+    const bool isUpsideDown = !order.request.isForPeople && !readsTickets(search.ppd().get())
+        && isReverse(order.request.settings.orientation);
     order.request.layout = job.printedPages().value().pdfLayout(isUpsideDown);
     order.request.secretKeys = job.secretKeys();
     if (const Printer *printer = search.printer())

@@ -45,9 +45,9 @@ QString leftToThePrinter(SessionJob &job)
     if (sheets.frontCover == SpecialSheets::Cover::Sheet
         || sheets.backCover == SpecialSheets::Cover::Sheet || !sheets.inserts.isEmpty())
         parts << translate("Session", "covers and inserts");
-    return parts.isEmpty() ? QString()
-                           : translate("Session", "Only the printer adds this: %1.")
-                                 .arg(listed(parts));
+    return parts.isEmpty()
+        ? QString()
+        : translate("Session", "Only the printer adds this: %1.").arg(listed(parts));
 }
 
 QString jobInShort(DialogSession &session)

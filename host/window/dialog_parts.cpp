@@ -135,8 +135,8 @@ void DialogParts::arrangeTabOrder()
     m_panelStops = panelStops;
     chainFocusStops(focusStopsIn(printer) + focusStopsIn(preview) + QList<QWidget *>{panelSwitch}
                     + panelStops + focusStopsIn(cautionBar)
-                    + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(), foot->savePdf(),
-                                       foot->cancel(), foot->print()});
+                    + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(),
+                                       foot->savePdf(), foot->cancel(), foot->print()});
 }
 
 void DialogParts::giveFirstFocus()
