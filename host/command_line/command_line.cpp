@@ -202,7 +202,7 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--print", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print when the script has ended"), takeFlag<&CommandLine::print>},
     {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600;\nDOCUMENT is the password of a PDF, DOCUMENT2\nthat of the second file"), takeSecret},
     {nullptr, "--no-window", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show nothing; without a script, print at once"), takeFlag<&CommandLine::noWindow>},
-    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with a folder’s\nname, document.pdf, options and ticket.plist into it,\nor into a folder there for each of several jobs"), takeTarget},
+    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with the\nname of a folder, document.pdf, options and\nticket.plist into it, or into a folder there for\neach of several jobs"), takeTarget},
     {nullptr, "--timeout", "SECONDS", QT_TRANSLATE_NOOP("CommandLine", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)"), takeTimeout},
     {nullptr, "--language", "LANGUAGE", QT_TRANSLATE_NOOP("CommandLine", "speak this language instead of the desktop’s"), takeText<&CommandLine::language>},
     {nullptr, "--list-printers", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list the queues and end"), takeFlag<&CommandLine::listPrinters>},

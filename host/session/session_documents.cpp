@@ -130,7 +130,7 @@ void SessionDocuments::show(int index)
 
 QString SessionDocuments::title() const
 {
-    const QString asked = m_title.isEmpty() ? QString() : titleOf({{}, m_title});
+    const QString asked = askedTitle(m_title);
     if (areJoined() && asked.isEmpty()) {
         QStringList titles;
         for (const Entry &entry : m_all)

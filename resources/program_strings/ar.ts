@@ -11,16 +11,17 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it,
-or into a folder there for each of several jobs</source>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>يتسع ملف PDF لمهمة واحدة: أضف --join أو سمِّ مجلدًا</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
         <translation>كتابة ملف PDF لما سيُطبع؛ وباسم مجلد تُكتب فيه
 document.pdf وoptions وticket.plist،
 أو في مجلد فيه لكل مهمة من عدة مهام</translation>
-    </message>
-    <message>
-        <source>a PDF file has room for one job: add --join, or name a folder</source>
-        <translation>يتسع ملف PDF لمهمة واحدة: أضف --join أو سمِّ مجلدًا</translation>
     </message>
 </context>
 <context>
@@ -3007,7 +3008,7 @@ document.pdf وoptions وticket.plist،
         <translation>إزالة</translation>
     </message>
     <message>
-        <source>Print all as &amp;one job</source>
+        <source>Print all as one &amp;job</source>
         <translation>طباعة الكل ك&amp;مهمة واحدة</translation>
     </message>
     <message>
@@ -3015,8 +3016,8 @@ document.pdf وoptions وticket.plist،
         <translation>تتوالى الصفحات كما لو كانت الملفات مستندًا واحدًا</translation>
     </message>
     <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>إدخال كلمة ال&amp;مرور…</translation>
+        <source>Enter Password…</source>
+        <translation>إدخال كلمة المرور…</translation>
     </message>
     <message>
         <source>%1 (sent)</source>

@@ -254,16 +254,18 @@ Rechten 0600; DOCUMENT ist das Passwort eines PDF,
 DOCUMENT2 das der zweiten Datei</translation>
     </message>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it,
-or into a folder there for each of several jobs</source>
-        <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
-Ordners document.pdf, options und ticket.plist hinein,
-bei mehreren Aufträgen in einen Ordner für jeden</translation>
-    </message>
-    <message>
         <source>a PDF file has room for one job: add --join, or name a folder</source>
         <translation>eine PDF-Datei nimmt einen Auftrag auf: Fügen Sie --join hinzu, oder nennen Sie einen Ordner</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
+        <translation>ein PDF des zu Druckenden schreiben; mit dem
+Namen eines Ordners document.pdf, options und
+ticket.plist hinein, bei mehreren Aufträgen in
+einen Ordner für jeden</translation>
     </message>
 </context>
 <context>
@@ -3891,7 +3893,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>Print all as &amp;one job</source>
+        <source>Print all as one &amp;job</source>
         <translation>Alle als &amp;einen Auftrag drucken</translation>
     </message>
     <message>
@@ -3899,8 +3901,8 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Die Seiten folgen aufeinander, als wären die Dateien ein Dokument</translation>
     </message>
     <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>Pass&amp;wort eingeben…</translation>
+        <source>Enter Password…</source>
+        <translation>Passwort eingeben…</translation>
     </message>
     <message>
         <source>%1 (sent)</source>

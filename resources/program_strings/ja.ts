@@ -11,16 +11,17 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it,
-or into a folder there for each of several jobs</source>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>PDF ファイル1つに入るジョブは1つです。--join を加えるか、フォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
         <translation>印刷されるものを PDF に書き出す。フォルダー名なら
 document.pdf、options、ticket.plist をその中に。
 複数のジョブならその中のそれぞれのフォルダーに</translation>
-    </message>
-    <message>
-        <source>a PDF file has room for one job: add --join, or name a folder</source>
-        <translation>PDF ファイル1つに入るジョブは1つです。--join を加えるか、フォルダーを指定してください</translation>
     </message>
 </context>
 <context>
@@ -2912,7 +2913,7 @@ document.pdf、options、ticket.plist をその中に。
         <translation>削除</translation>
     </message>
     <message>
-        <source>Print all as &amp;one job</source>
+        <source>Print all as one &amp;job</source>
         <translation>すべてを1つのジョブで印刷(&amp;O)</translation>
     </message>
     <message>
@@ -2920,8 +2921,8 @@ document.pdf、options、ticket.plist をその中に。
         <translation>複数のファイルを1つの文書のように、ページを続けて印刷します</translation>
     </message>
     <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>パスワードの入力(&amp;W)…</translation>
+        <source>Enter Password…</source>
+        <translation>パスワードの入力…</translation>
     </message>
     <message>
         <source>%1 (sent)</source>

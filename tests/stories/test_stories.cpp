@@ -1047,7 +1047,8 @@ void TestStories::refusesWhatCannotBeDone_data()
     row("unknown option name", "", 2, "Jogg", hall + QStringList{"-o", "Jogg=None"});
     row("unknown name alone", "", 2, "job-name", hall + QStringList{"-o", "job-name"});
     row("choice that is not offered", "", 3, "EndOfSet", hall + QStringList{"-o", "Jog=EndOfSe"});
-    row("option that is not offered", "", 3, "own size", hall + QStringList{"-o", "fit-to-page"});
+    row("option that is not offered", "", 3, "1, 2, 4, 6, 9 or 16",
+        hall + QStringList{"-o", "number-up=3"});
     row("option of another of these devices", "", 3, "StapleLocation",
         {"--ppd", samplePpd("bare"), "--to", "out", documentPath, "-o", "noStapleLocation"});
     row("equipment", "", 3, "lpadmin", hall + QStringList{"-o", "KVFinisher=None"});

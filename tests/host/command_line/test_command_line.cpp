@@ -128,10 +128,9 @@ void TestCommandLine::refusesWrongLines_data()
     for (const char *option : {"Jog=", "=1", ""})
         row(qPrintable(QStringLiteral("option \"%1\"").arg(option)), {"-o", option},
             QStringLiteral("-o: “%1” is not NAME=VALUE, NAME or noNAME").arg(option));
-    row("pages backwards", {"-P", "5-2"},
-        "-P: page range “5-2”: the last page comes before the first; write 2-5");
-    row("pages backwards, as an option", {"-o", "Page-Ranges=5-2"},
-        "-o: page range “5-2”: the last page comes before the first; write 2-5");
+    row("pages from 0", {"-P", "0-2"}, "-P: page range “0-2”: pages begin at 1");
+    row("pages from 0, as an option", {"-o", "Page-Ranges=0-2"},
+        "-o: page range “0-2”: pages begin at 1");
     row("copies said twice", {"-o", "copies=2", "-n3"},
         "-n 3: -o copies=2 says something else; leave out one of them");
     row("copies without a number", {"-n3", "-o", "copies"},
