@@ -1,6 +1,7 @@
 #include "job_options.h"
 
 #include "device_offers.h"
+#include "job_timing.h"
 #include "ppd_words.h"
 #include "size_limits.h"
 #include "texts.h"
@@ -214,6 +215,15 @@ void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDe
     }
 }
 
+// The server's own attributes, which problemOf() would refuse of a PPD.
+void addTiming(const JobTiming &timing, OptionList &options)
+{
+    if (timing.priority)
+        options.add(QLatin1String(kJobPriorityOption), QString::number(*timing.priority));
+    if (!timing.holdUntil.isEmpty())
+        options.add(QLatin1String(kJobHoldUntilOption), timing.holdUntil);
+}
+
 } // namespace
 
 Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSettings &settings,
@@ -234,6 +244,7 @@ Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSet
                                    "another")
                              .arg(problem)};
     }
+    addTiming(jobTimingFrom(ticket.printSettings), options);
     return options.take();
 }
 

@@ -1,6 +1,7 @@
 #include "ticket_attachment.h"
 
 #include "embedded_files.h"
+#include "job_timing.h"
 #include "property_list.h"
 
 #include <sys/random.h>
@@ -26,7 +27,9 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
                      QString::fromUtf8(std::strerror(errno))};
     TicketFile sent = ticket;
     sent.unknown.insert(kTicketNonceKey, nonce);
-    sent.printSettings.entries.erase(kPMPageRangesKey);
+    // Of the document and of the server, not of the device.
+    for (const QString &key : {kPMPageRangesKey, kJobPriorityKey, kJobHoldUntilKey})
+        sent.printSettings.entries.erase(key);
     return CFPropertyListCreateXMLData(propertyListFrom(sent));
 }
 

@@ -1,6 +1,7 @@
 #include "asked_settings.h"
 
 #include "device_offers.h"
+#include "one_job_entries.h"
 #include "ppd_words.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace {
 
 TicketPlaces withoutOneJob(TicketPlaces places)
 {
-    for (const QString &key : {kPMJobNameKey, kPMPageRangesKey})
+    for (const QString &key : oneJobEntries())
         places.erase({kPMPrintSettingsTicket, key});
     return places;
 }

@@ -1,5 +1,7 @@
 #include "job_describer.h"
 
+#include "job_timing.h"
+
 #include <algorithm>
 
 namespace kelvo {
@@ -12,7 +14,8 @@ const QString deviceMakerKey = QStringLiteral("KelvoDeviceMaker");
 
 bool isHostEntry(const QString &key)
 {
-    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMPageRangesKey, kPMJobNameKey};
+    static const QStringList own{kPMCopiesKey,  kPMCollateKey,   kPMPageRangesKey,
+                                 kPMJobNameKey, kJobPriorityKey, kJobHoldUntilKey};
     return own.contains(key);
 }
 

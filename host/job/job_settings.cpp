@@ -1,6 +1,7 @@
 #include "job_settings.h"
 
 #include "device_offers.h"
+#include "job_timing.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
 #include "texts.h"
@@ -433,6 +434,33 @@ Result<TicketPlaces> applyPageRanges(const Request &request)
                           [&](JobSettings &settings) { settings.pageRanges = request.value; });
 }
 
+// The server's own, which no printer has.
+TicketPlaces applyTiming(const Request &request, const JobTiming &timing, const QString &key)
+{
+    writeJobTiming(timing, request.session);
+    return {{kPMPrintSettingsTicket, key}};
+}
+
+Result<TicketPlaces> applyPriority(const Request &request)
+{
+    const auto priority = priorityFrom(request.value);
+    if (!priority)
+        return request.error(priority.error().code, priority.error().detail);
+    JobTiming timing = jobTimingFrom(request.session.printSettings());
+    timing.priority = priority.value();
+    return applyTiming(request, timing, kJobPriorityKey);
+}
+
+Result<TicketPlaces> applyHoldUntil(const Request &request)
+{
+    const auto hold = holdUntilFrom(request.value);
+    if (!hold)
+        return request.error(hold.error().code, hold.error().detail);
+    JobTiming timing = jobTimingFrom(request.session.printSettings());
+    timing.holdUntil = hold.value();
+    return applyTiming(request, timing, kJobHoldUntilKey);
+}
+
 struct OptionRow
 {
     const char *name;
@@ -456,6 +484,8 @@ constexpr OptionRow optionRows[] = {
     {"portrait",
      [](const Request &request) { return applyOrientationFlag(request, Orientation::Portrait); }},
     {"fit-to-page", applyFitToPage},
+    {kJobPriorityOption, applyPriority},
+    {kJobHoldUntilOption, applyHoldUntil},
 };
 
 } // namespace

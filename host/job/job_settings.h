@@ -65,6 +65,7 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 //   copies=N   page-ranges=1-3,7   collate=true|false
 //   multiple-document-handling=separate-documents-(un)collated-copies
 //   landscape=true|false   portrait=true|false   fit-to-page=false
+//   job-priority=1…100   job-hold-until=WORD|HH:MM[:SS]   see job_timing.h
 //
 // A name alone means what meaningOf() says. true is also written on and yes, false also off and no,
 // and choices of such a name are meant by all of them; an option without them, but with None, has

@@ -189,6 +189,14 @@ void SessionJob::askForPages(const QString &pages)
     m_edits.asked.lay(asked, AskedSettings::Kind::Given);
 }
 
+void SessionJob::askForHold(const QString &holdUntil)
+{
+    TicketFile asked;
+    asked.isPart = true;
+    asked.printSettings.entries[kJobHoldUntilKey] = {holdUntil, hostClient};
+    m_edits.asked.lay(asked, AskedSettings::Kind::Given);
+}
+
 Result<void> SessionJob::askFirst()
 {
     using Kind = AskedSettings::Kind;
@@ -211,12 +219,15 @@ Result<void> SessionJob::askFirst()
 void SessionJob::usePreset(const TicketFile *preset)
 {
     const QString pages = settings().pageRanges;
+    const QString holdUntil = timing().holdUntil;
     m_edits.asked.clear();
     m_edits.unknown.clear();
     askForSiteDefaults();
     if (preset)
         ask(*preset, AskedSettings::Kind::Chosen);
     askForPages(pages); // the user's: no other printer takes them away
+    if (!holdUntil.isEmpty())
+        askForHold(holdUntil);
     layAsked();
     emit reloaded();
 }
@@ -256,6 +267,17 @@ void SessionJob::change(const JobSettings &settings)
     writeAll();
     writeJobSettings(settings, ppd(), *m_session);
     tellFirstPage();
+}
+
+JobTiming SessionJob::timing() const
+{
+    return jobTimingFrom(m_session->printSettings());
+}
+
+void SessionJob::setTiming(const JobTiming &timing)
+{
+    writeAll();
+    writeJobTiming(timing, *m_session);
 }
 
 TicketFile SessionJob::ticket() const

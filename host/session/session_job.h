@@ -5,6 +5,7 @@
 #include "device_panels.h"
 #include "job_describer.h"
 #include "job_settings.h"
+#include "job_timing.h"
 #include "presets.h"
 #include "secret_keys.h"
 
@@ -75,6 +76,8 @@ public:
     // hold less of a panel's setting than the user chose there, and more copies must
     // not take it away. A panel looks at the page format when it writes.
     void change(const JobSettings &settings);
+    JobTiming timing() const;
+    void setTiming(const JobTiming &timing); // as change()
     // By hand or by a script; taken up when the panels write next.
     void choose(const TicketPlaces &places) { m_edits.asked.choose(places); }
 
@@ -82,8 +85,8 @@ public:
     TicketFile ticketToKeep() const; // the same, for another day and device
     TicketFile preset() const;       // the part of it that a preset keeps; secrets are in it
 
-    // Begins again on `preset`, or on the defaults for null. The job's own pages
-    // and name stay.
+    // Begins again on `preset`, or on the defaults for null. The job's own pages,
+    // its hold and its name stay.
     void usePreset(const TicketFile *preset);
     // Whether anything differs from what was chosen as preset.
     bool isChanged() const;
@@ -132,6 +135,7 @@ private:
     Result<void> askForOption(const AskedOption &option);
     void askForCopies(int copies);
     void askForPages(const QString &pages);
+    void askForHold(const QString &holdUntil);
     void layAsked();
     void nameJob();
     void tellFirstPage();
