@@ -221,6 +221,8 @@ void PrintFlow::takeOutcome(const PrintOutcome &outcome)
         refuse(Step::Job, outcome.status, notPrinted(), outcome.problem);
         return;
     }
+    if (outcome.job)
+        m_sentJobs.push_back(*outcome.job);
     sayWhatWasNotSent();
     printLine(stdout, outcome.place + u' ' + m_session.document().title());
     emit printed(outcome.place);

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace kelvo {
 
@@ -81,6 +82,7 @@ public:
     bool isPrinting() const { return m_run != nullptr; }
     // Of the job that is on its way, or the last one; null before.
     const Destination *destination() const { return m_destination.get(); }
+    const std::vector<SentJob> &sentJobs() const { return m_sentJobs; } // to queues, in order
     // Of the last press; none when it went out or was called off.
     const std::optional<PrintRefusal> &refusal() const { return m_refusal; }
     void forgetRefusal() { m_refusal.reset(); } // the next press begins
@@ -112,6 +114,7 @@ private:
     PrintQuestions *m_questions = nullptr;
     std::unique_ptr<PrintRun> m_run;
     std::shared_ptr<const Destination> m_destination;
+    std::vector<SentJob> m_sentJobs;
     std::optional<PrintRefusal> m_refusal;
 };
 
