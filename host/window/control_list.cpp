@@ -1,6 +1,7 @@
 #include "control_list.h"
 
 #include "job_details_dialog.h"
+#include "job_timing_dialog.h"
 #include "preset_menu.h"
 #include "window_loader.h"
 
@@ -77,6 +78,8 @@ Result<QString> controlList(QWidget *dialog, Bundle *bundle)
     text += table(QStringLiteral("Save and rename presets"), presetName.get());
     const std::unique_ptr<QWidget> details(makeJobDetailsPane({}));
     text += table(QStringLiteral("What will be sent"), details.get());
+    const std::unique_ptr<QWidget> timing(makeJobTimingPane({}));
+    text += table(QStringLiteral("When to print"), timing.get());
     if (!bundle)
         return text;
     const Result<void> done = visitDescriptions(

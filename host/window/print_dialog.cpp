@@ -7,6 +7,7 @@
 #include "document_preview.h"
 #include "help_window.h"
 #include "job_details_dialog.h"
+#include "job_timing_dialog.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "pane_scroll.h"
@@ -21,6 +22,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QShortcut>
@@ -63,6 +65,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     , m_flow(*m_session, m_cautions, std::move(options.plan))
     , m_choices(this, m_session->job())
     , m_presets(new PresetMenu(m_session->job(), options.preset))
+    , m_sent([this] { return isAttended(); })
 {
     setAccessibleRole(this, QAccessible::Dialog);
     setObjectName(QStringLiteral("printDialog"));
@@ -87,6 +90,10 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     m_watch.setInterval(watchMs);
     connect(&m_watch, &QTimer::timeout, m_session.get(), &DialogSession::lookAtPrinter);
+    connect(&m_sent, &SentMessage::said, this, [this](const QString &text) {
+        m_parts.foot->setText(text);
+        m_parts.foot->showSent(m_sent.canCancel());
+    });
     connect(&m_sent, &SentMessage::told, this, [this] { end(ExitStatus::Printed); });
     watchEvents([this](const Event &event) {
         if (!isReady())
@@ -145,6 +152,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_parts.waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_parts.foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
+    connect(m_parts.foot->timing(), &QPushButton::clicked, this, &PrintDialog::changeTiming);
+    connect(m_parts.foot->cancelJob(), &QPushButton::clicked, &m_sent, &SentMessage::cancelJob);
     connect(m_parts.foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_parts.foot->cancel(), &QPushButton::clicked, this, [this] {
         if (sendEvent({.kind = EventKind::ControlHit, .source = m_parts.foot->cancel()})
@@ -322,6 +331,7 @@ void PrintDialog::updatePrintButton()
     const bool isBusy = m_flow.isPrinting() || m_sent.isTelling();
     m_parts.foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
     m_parts.foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
+    m_parts.foot->timing()->setEnabled(!isBusy && isReady());
 }
 
 void PrintDialog::updatePreview()
@@ -445,6 +455,17 @@ void PrintDialog::showDetails()
     runJobDetailsDialog(kelvo::jobInWords(*m_session, m_cautions), this);
 }
 
+void PrintDialog::changeTiming()
+{
+    commitTypedValues(this);
+    SessionJob &job = m_session->job();
+    const auto timing = askForJobTiming(job.timing(), this);
+    if (!timing || !isReady())
+        return;
+    job.setTiming(*timing);
+    m_look.start();
+}
+
 void PrintDialog::showHelp()
 {
     // The shown panel's own page; the contents where it has none.
@@ -549,13 +570,27 @@ void PrintDialog::takePrinted(const QString &place)
         end(ExitStatus::Printed);
         return;
     }
-    const QString text = m_flow.destination()->arrived(place);
-    m_sent.tell(text, m_session->document().title());
+    std::optional<SentJob> job;
+    if (const auto &jobs = m_flow.sentJobs(); !jobs.empty() && jobs.back().name() == place)
+        job = jobs.back();
+    m_pointer = QCursor::pos();
+    m_sent.tell(m_flow.destination()->arrived(place), m_session->document().title(), job,
+                m_session->search().timeoutMs());
     m_parts.setEnabled(false);
     updatePrintButton();
-    m_parts.foot->setText(text);
     m_parts.foot->cancel()->setText(tr("Close"));
+    m_parts.foot->cancel()->setAccessibleName({});
     m_parts.foot->cancel()->setFocus();
+}
+
+// Whoever moves the pointer over the window, or has gone to the button with it or by keys, is
+// about to do something with the job.
+bool PrintDialog::isAttended()
+{
+    const QPushButton *cancelJob = m_parts.foot->cancelJob();
+    const QPoint before = std::exchange(m_pointer, QCursor::pos());
+    return cancelJob->hasFocus() || cancelJob->underMouse()
+        || (before != m_pointer && frameGeometry().contains(m_pointer));
 }
 
 void PrintDialog::pressCancel()
@@ -576,11 +611,11 @@ void PrintDialog::pressCancel()
 
 void PrintDialog::interrupt()
 {
+    m_isInterrupted = true;
     if (!m_flow.isPrinting()) {
         end(m_sent.isTelling() ? ExitStatus::Printed : ExitStatus::Cancelled);
         return;
     }
-    m_isInterrupted = true;
     m_flow.interrupt();
 }
 

@@ -50,6 +50,8 @@ public:
     void setSecrets(QMap<QString, QString> secrets) { m_secrets = std::move(secrets); }
     // The files of the plan, as the settings stand; nothing without them.
     Result<void> writeSettingsOut() { return m_flow.writeSettingsOut(); }
+    const std::vector<SentJob> &sentJobs() const { return m_flow.sentJobs(); }
+    bool isInterrupted() const { return m_isInterrupted; }
     // Ends as Cancel does. A job that is on its way is cancelled and waited for, for
     // a few seconds: the status says what became of it.
     void interrupt();
@@ -105,6 +107,7 @@ private:
     void showWhatFollows(); // all but conflicts
     void fixConflicts();
     void showDetails();
+    void changeTiming();
     void showHelp();
 
     // Print.
@@ -115,6 +118,7 @@ private:
     bool printsAnyway(const Caution &caution) override;
     void showPrinting(bool printing);
     void takePrinted(const QString &place);
+    bool isAttended();
     void takeRefusal(const PrintRefusal &refusal);
     QString unfinishedPages() const;
     void end(ExitStatus status);
@@ -151,6 +155,7 @@ private:
     QTimer m_watch;             // asks what the printer is doing
 
     SentMessage m_sent;
+    QPoint m_pointer; // where it was when it was looked for last
     std::optional<ExitStatus> m_finished;
     EventHandlerRef m_handler; // takes what the shell does and passes on
     std::vector<QShortcut *> m_panelKeys, m_tabKeys;
