@@ -5,6 +5,7 @@
 #include "document_origin.h"
 #include "file_names.h"
 #include "file_store.h"
+#include "job_timing.h"
 #include "output_targets.h"
 #include "pdf_ahead.h"
 #include "presets.h"
@@ -148,6 +149,11 @@ Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
     printer.directory = std::move(ahead.printers);
     options.session.opening = std::move(ahead.document);
     options.session.job.options = line.options;
+    if (line.priority)
+        options.session.job.options.append(
+            {QLatin1String(kJobPriorityOption), QString::number(*line.priority)});
+    if (line.holdUntil)
+        options.session.job.options.append({QLatin1String(kJobHoldUntilOption), *line.holdUntil});
     options.session.job.copies = line.copies;
     options.session.job.pages = line.pages;
     options.preset = line.preset.value_or(QString());
