@@ -39,9 +39,7 @@ QString words(JobCondition::State state, const QString &holdUntil)
 QString stateInWords(const JobCondition &condition)
 {
     const QString state = words(condition.state, condition.holdUntil);
-    return condition.reason.isEmpty()
-        ? state
-        : translate("Job", "%1: %2", "a job’s state and its reason").arg(state, condition.reason);
+    return condition.reason.isEmpty() ? state : jobLine(state, condition.reason);
 }
 
 QString conditionInWords(const JobCondition &condition)
@@ -50,6 +48,16 @@ QString conditionInWords(const JobCondition &condition)
         return stateInWords(condition);
     return separated(
         {stateInWords(condition), translate("Job", "%n page(s) so far", nullptr, condition.pages)});
+}
+
+QString jobLine(const QString &job, const QString &words)
+{
+    return translate("Job", "%1: %2").arg(job, words);
+}
+
+QString notCancelledLine(const QString &job, const QString &problem)
+{
+    return translate("Job", "%1 was not cancelled: %2").arg(job, problem);
 }
 
 } // namespace kelvo

@@ -32,4 +32,8 @@ QString conditionInWords(const JobCondition &condition);
 // The same without what changes from page to page.
 QString stateInWords(const JobCondition &condition);
 
+// A job, "Hall-3-17", and such a clause. And that it could not be cancelled, and why.
+QString jobLine(const QString &job, const QString &words);
+QString notCancelledLine(const QString &job, const QString &problem);
+
 } // namespace kelvo

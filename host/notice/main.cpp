@@ -90,8 +90,7 @@ private:
     // True where it is news.
     bool tell(const JobCondition &condition)
     {
-        const QString summary =
-            translate("Notice", "%1: %2").arg(m_job.name(), stateInWords(condition));
+        const QString summary = jobLine(m_job.name(), stateInWords(condition));
         if (summary == m_told)
             return false;
         m_told = summary;
@@ -121,8 +120,7 @@ private:
         if (cancelled)
             return; // its state says so
         m_isCancelOffered = cancelled.error().code != Error::Code::Refused;
-        show(translate("Notice", "%1 was not cancelled: %2")
-                 .arg(m_job.name(), cancelled.error().detail));
+        show(notCancelledLine(m_job.name(), cancelled.error().detail));
     }
 
     void stayForAMoment()

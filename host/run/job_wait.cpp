@@ -74,7 +74,7 @@ ExitStatus waitForJobs(const std::vector<SentJob> &jobs, int timeoutMs)
         QObject::connect(watch, &JobWatch::changed, &loop, [&job, watch, quitWhenDone] {
             const QString state = stateInWords(watch->condition());
             if (std::exchange(job.said, state) != state)
-                say(translate("Main", "%1: %2").arg(watch->job().name(), state));
+                say(jobLine(watch->job().name(), state));
             quitWhenDone();
         });
         QObject::connect(watch, &JobWatch::lost, &loop, [&job, quitWhenDone](const Error &error) {

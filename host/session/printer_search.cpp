@@ -73,7 +73,8 @@ void PrinterSearch::findPrinters()
     listenTo(*m_directory);
     m_directory->refresh(m_wanted.timeoutMs,
                          m_name.isEmpty() ? PrinterDirectory::Ahead::PpdOfFirst
-                                          : PrinterDirectory::Ahead::Nothing);
+                                          : PrinterDirectory::Ahead::Nothing,
+                         m_wanted.preferred);
     // Both questions at once: the second need not wait for the first.
     if (!m_name.isEmpty())
         askForPpd();

@@ -41,7 +41,8 @@ Result<void> SessionJob::beginOn(Device device)
     m_session->setPrinter({m_device.name, {}, m_device.ppd});
     nameJob();
     const TicketFile defaults = queueDefaults();
-    m_repeatedChoices = m_describer.repeatedChoices(ppd(), m_wishes.preset || m_wishes.ticketIn);
+    m_repeatedChoices = m_describer.repeatedChoices(
+        ppd(), m_wishes.preset || m_wishes.ticketIn || m_wishes.lastUsed);
     m_edits.asked.beginOn(defaults, m_repeatedChoices);
     if (!m_areWishesAsked) {
         if (auto asked = askFirst(); !asked)
@@ -201,6 +202,8 @@ Result<void> SessionJob::askFirst()
 {
     using Kind = AskedSettings::Kind;
     askForSiteDefaults();
+    if (m_wishes.lastUsed)
+        ask(*m_wishes.lastUsed, Kind::Chosen);
     if (m_wishes.preset)
         ask(*m_wishes.preset, Kind::Chosen);
     if (const auto &ticket = m_wishes.ticketIn) // of a whole one nobody chose all

@@ -35,9 +35,10 @@ public:
     struct Wishes
     {
         std::optional<TicketFile> preset, ticketIn;
-        QList<AskedOption> options = {}; // see applyOption()
-        std::optional<int> copies;       // 1 to kMaximumCopies
-        std::optional<QString> pages;    // "1-3,7"; empty: all
+        std::optional<TicketFile> lastUsed = {}; // before a preset
+        QList<AskedOption> options = {};         // see applyOption()
+        std::optional<int> copies;               // 1 to kMaximumCopies
+        std::optional<QString> pages;            // "1-3,7"; empty: all
     };
     // Borrowed: the bundle says what of tickets is secret and what it means, `panels`
     // read and write them. Null for both: none.

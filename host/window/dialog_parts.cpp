@@ -135,8 +135,9 @@ void DialogParts::arrangeTabOrder()
     m_panelStops = panelStops;
     chainFocusStops(focusStopsIn(printer) + focusStopsIn(preview) + QList<QWidget *>{panelSwitch}
                     + panelStops + focusStopsIn(cautionBar)
-                    + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(),
-                                       foot->cancel(), foot->print()});
+                    + QList<QWidget *>{columns->toggle(), foot->cancelJob(), foot->timing(),
+                                       foot->details(), foot->help(), foot->cancel(),
+                                       foot->print()});
 }
 
 void DialogParts::giveFirstFocus()

@@ -1,6 +1,7 @@
 #include "print_dialog.h"
 
 #include "accessible_role.h"
+#include "background_work.h"
 #include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
@@ -64,7 +65,9 @@ PrintDialog::PrintDialog(DialogOptions options)
                  [this] { return place(); })
     , m_flow(*m_session, m_cautions, std::move(options.plan))
     , m_choices(this, m_session->job())
-    , m_presets(new PresetMenu(m_session->job(), options.preset))
+    , m_presets(new PresetMenu(m_session->job(), {options.preset, options.beginsWithLastUsed},
+                               options.lastUsed ? options.lastUsed->settings : std::nullopt))
+    , m_keepsLastUsed(options.lastUsed.has_value())
     , m_sent([this] { return isAttended(); })
 {
     setAccessibleRole(this, QAccessible::Dialog);
@@ -566,6 +569,7 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
 void PrintDialog::takePrinted(const QString &place)
 {
     showPrinting(false);
+    keepWhatWasUsed();
     if (m_isDriven || m_isInterrupted) {
         end(ExitStatus::Printed);
         return;
@@ -581,6 +585,27 @@ void PrintDialog::takePrinted(const QString &place)
     m_parts.foot->cancel()->setText(tr("Close"));
     m_parts.foot->cancel()->setAccessibleName({});
     m_parts.foot->cancel()->setFocus();
+}
+
+// Of a job that went to a printer. The disk keeps nobody waiting: where it takes long, the end of
+// the program does for a moment.
+void PrintDialog::keepWhatWasUsed()
+{
+    if (!m_keepsLastUsed || m_isDriven || m_flow.sentJobs().empty())
+        return;
+    LastUsed used;
+    used.printer = m_session->search().name();
+    used.settings = lastUsedFrom(m_session->job().preset(), m_session->job().secretKeys());
+    const SessionPresets &presets = m_presets->presets();
+    used.beginning = presets.picked();
+    if (const Preset *chosen = presets.chosen())
+        used.preset = chosen->name;
+    startBackgroundWork([used] {
+        if (const auto kept = keepLastUsed(used); !kept)
+            printLine(stderr,
+                      QStringLiteral("kelvo-print: ")
+                          + tr("What was printed with is not kept: %1").arg(kept.error().text()));
+    });
 }
 
 // Whoever moves the pointer over the window, or has gone to the button with it or by keys, is

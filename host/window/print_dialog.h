@@ -5,6 +5,7 @@
 #include "dialog_session.h"
 #include "event.h"
 #include "extension.h"
+#include "last_used.h"
 #include "panel_places.h"
 #include "print_flow.h"
 #include "script_target.h"
@@ -28,7 +29,11 @@ struct DialogOptions
 {
     SessionBeginning session;
     PrintPlan plan;
-    QString preset; // the name of the one in session.job; empty: the defaults
+    QString preset; // the name of the one in session.job; empty: none
+    // What was printed with last, for a window in which it can be chosen, and which keeps it when
+    // it has printed. None: it does neither.
+    std::optional<LastUsed> lastUsed = {};
+    bool beginsWithLastUsed = false; // session.job.lastUsed is that
 };
 
 // The print dialog's window. It shows what the session has, and answers what is asked on
@@ -119,6 +124,7 @@ private:
     void showPrinting(bool printing);
     void takePrinted(const QString &place);
     bool isAttended();
+    void keepWhatWasUsed();
     void takeRefusal(const PrintRefusal &refusal);
     QString unfinishedPages() const;
     void end(ExitStatus status);
@@ -141,6 +147,7 @@ private:
     PrintFlow m_flow;
     ChoiceNotes m_choices;
     PresetMenu *m_presets;
+    const bool m_keepsLastUsed;
 
     QTimer m_look;            // lookAtSettings() soon
     QTimer m_grace;           // until then the window is not shown

@@ -32,13 +32,12 @@ void SentMessage::tell(const QString &text, const QString &title, const std::opt
         notice.jobId = job->id;
         m_watch = std::make_unique<JobWatch>(*job, timeoutMs);
         connect(m_watch.get(), &JobWatch::changed, this, [this] {
-            emit said(tr("%1: %2", "a job and its state")
-                          .arg(m_watch->job().name(), conditionInWords(m_watch->condition())));
+            emit said(jobLine(m_watch->job().name(), conditionInWords(m_watch->condition())));
             if (m_watch->isOver())
                 m_moment.start(); // the last line can be read, too
         });
         connect(m_watch.get(), &JobWatch::notCancelled, this, [this](const Error &error) {
-            emit said(tr("%1 was not cancelled: %2").arg(m_watch->job().name(), error.detail));
+            emit said(notCancelledLine(m_watch->job().name(), error.detail));
             m_moment.start();
         });
         m_watch->start();
