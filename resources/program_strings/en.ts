@@ -70,6 +70,13 @@
             <numerusform>They are kept; choose a printer that reads them.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>%n page so far</numerusform>
+            <numerusform>%n pages so far</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
