@@ -1,6 +1,7 @@
 // Small commands beside their peers, each from its start to its end: the list of printers, and
 // jobs that are made without a window.
 #include "processes.h"
+#include "sample_report.h"
 
 #include "private_cups.h"
 
@@ -9,10 +10,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <cairo-pdf.h>
-
 #include <cstdio>
-#include <random>
 #include <string>
 #include <utility>
 
@@ -20,32 +18,6 @@ using namespace kelvo::bench;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// A long report: each page has a text of its own, 1.5 MB in all. Whether it was written.
-bool writeReport(const QString &path, int pages)
-{
-    const QByteArray fileName = QFile::encodeName(path);
-    cairo_surface_t *surface = cairo_pdf_surface_create(fileName.constData(), 595, 842); // A4
-    cairo_t *page = cairo_create(surface);
-    cairo_select_font_face(page, "DejaVu Sans", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
-    cairo_set_font_size(page, 10);
-    std::mt19937 random(1);
-    for (int number = 1; number <= pages; ++number) {
-        for (int line = 0; line < 60; ++line) {
-            std::string text;
-            while (text.size() < 80)
-                text += "aeinorstuldhc,. "[random() % 16];
-            cairo_move_to(page, 50, 50 + 12 * line);
-            cairo_show_text(page, text.c_str());
-        }
-        cairo_show_page(page);
-    }
-    cairo_destroy(page);
-    cairo_surface_finish(surface);
-    const bool isWritten = cairo_surface_status(surface) == CAIRO_STATUS_SUCCESS;
-    cairo_surface_destroy(surface);
-    return isWritten;
-}
 
 bool isThere(const QString &path)
 {

@@ -49,8 +49,7 @@ DocumentHelper helperFor(Task task)
     case Task::TidyPdf:
     case Task::TidyPdfToWrite:
     case Task::WritePdf:
-    case Task::SelectPdfPages:
-    case Task::ReplaceEmbeddedFile:
+    case Task::MakePdf:
     case Task::CheckEmbeddedFile:
         break;
     }

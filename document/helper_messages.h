@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document_files.h"
-#include "page_ranges.h"
+#include "outgoing_pdf.h"
 #include "pdf_pages.h"
 #include "picture_import.h"
 #include "result.h"
@@ -25,30 +25,15 @@ inline constexpr MessageSize kMostAnswered = 256 * limits::MiB; // the sizes of 
 // then come the arguments of the function. A helper has opened its files with its first
 // request, and can open no others: only WritePdf comes after another one.
 enum class Task : quint8 {
-    TidyPdf,             // source, target → PdfPages, whether `source` is good as it is
-    TidyPdfToWrite,      // source, target, written, name → the same; a sound one is kept
-    WritePdf,            // type, bytes: the one that was kept into `written`
-    SelectPdfPages,      // source, runs, target
-    ReplaceEmbeddedFile, // source, name, type, bytes, target
-    CheckEmbeddedFile,   // pdf, name, bytes
-    ConvertText,         // files, paper
-    ConvertPicture,      // files → how many other files were left out
-    ImportPicture,       // number of the file, which it has open → ImportedPicture
+    TidyPdf,           // source, target → PdfPages, whether `source` is good as it is
+    TidyPdfToWrite,    // source, target, written, name → the same; a sound one is kept
+    WritePdf,          // layout, file: the one that was kept into `written`
+    MakePdf,           // source, layout, file, target
+    CheckEmbeddedFile, // pdf, name, bytes
+    ConvertText,       // files, paper
+    ConvertPicture,    // files → how many other files were left out
+    ImportPicture,     // number of the file, which it has open → ImportedPicture
 };
-
-inline QDataStream &operator<<(QDataStream &stream, const PageRun &run)
-{
-    return stream << qint32(run.first) << qint32(run.last);
-}
-
-inline QDataStream &operator>>(QDataStream &stream, PageRun &run)
-{
-    qint32 first = 0;
-    qint32 last = 0;
-    stream >> first >> last;
-    run = {first, last};
-    return stream;
-}
 
 // A count, then so many values. What ends too early is an error of the stream.
 template <typename Value>
@@ -72,6 +57,41 @@ QDataStream &operator>>(QDataStream &stream, std::vector<Value> &values)
         values.push_back(value);
     }
     return stream;
+}
+
+inline QDataStream &operator<<(QDataStream &stream, const PlacedPage &placed)
+{
+    return stream << qint32(placed.page) << placed.rect << qint32(placed.rotation) << placed.place;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, PlacedPage &placed)
+{
+    qint32 page = 0;
+    qint32 rotation = 0;
+    stream >> page >> placed.rect >> rotation >> placed.place;
+    placed.page = page;
+    placed.rotation = rotation;
+    return stream;
+}
+
+inline QDataStream &operator<<(QDataStream &stream, const LaidOutPage &page)
+{
+    return stream << page.size << page.pages << page.isAsItIs << page.border;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, LaidOutPage &page)
+{
+    return stream >> page.size >> page.pages >> page.isAsItIs >> page.border;
+}
+
+inline QDataStream &operator<<(QDataStream &stream, const EmbeddedFile &file)
+{
+    return stream << file.name << file.mimeType << file.bytes;
+}
+
+inline QDataStream &operator>>(QDataStream &stream, EmbeddedFile &file)
+{
+    return stream >> file.name >> file.mimeType >> file.bytes;
 }
 
 inline QDataStream &operator<<(QDataStream &stream, const PdfPages &pages)

@@ -6,6 +6,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 
 namespace kelvo {
@@ -15,6 +16,11 @@ namespace {
 Error rangeError(Error::Code code, QStringView part, const QString &detail)
 {
     return Error{code, translate("Document", "page range “%1”").arg(part.trimmed()), detail};
+}
+
+int length(const PageRun &run)
+{
+    return std::abs(run.last - run.first) + 1;
 }
 
 // A page number, or nothing where there is no number. One too long for an int
@@ -54,17 +60,11 @@ Result<PageRun> pageRunFrom(QStringView part, int pageCount)
     const int last = lastNumber.value_or(pageCount);
     if (first < 1 || (lastNumber && last < 1))
         return rangeError(Error::Code::OutOfRange, part, translate("Document", "pages begin at 1"));
-    if (first > pageCount) {
+    if ((lastIsOpen ? first : std::min(first, last)) > pageCount) {
         return rangeError(Error::Code::OutOfRange, part,
                           translate("Document", "the document has pages 1 to %1").arg(pageCount));
     }
-    if (last < first) {
-        return rangeError(Error::Code::OutOfRange, part,
-                          translate("Document", "the last page comes before the first; write %1-%2")
-                              .arg(last)
-                              .arg(first));
-    }
-    return PageRun{first, std::min(last, pageCount)};
+    return PageRun{std::min(first, pageCount), std::min(last, pageCount)};
 }
 
 } // namespace
@@ -81,7 +81,7 @@ Result<std::vector<PageRun>> pageRunsFrom(const QString &text, int pageCount)
         Result<PageRun> run = pageRunFrom(part, pageCount);
         if (!run)
             return run.error();
-        pages += run.value().last - run.value().first + 1;
+        pages += length(run.value());
         // "1-,1-,1-" multiplies a document: a line of text must not fill a disk.
         if (pages > std::max(limits::documentPages, pageCount)) {
             return rangeError(Error::Code::TooLarge, part,
@@ -97,32 +97,20 @@ int pageCount(const std::vector<PageRun> &runs)
 {
     int count = 0;
     for (const PageRun &run : runs)
-        count += run.last - run.first + 1;
+        count += length(run);
     return count;
 }
 
-int documentPage(const std::vector<PageRun> &runs, int index)
+std::vector<int> pagesIn(const std::vector<PageRun> &runs)
 {
-    if (index < 0)
-        return 0;
+    std::vector<int> pages;
+    pages.reserve(static_cast<std::size_t>(pageCount(runs)));
     for (const PageRun &run : runs) {
-        const int length = run.last - run.first + 1;
-        if (index < length)
-            return run.first + index;
-        index -= length;
+        const int step = run.first <= run.last ? 1 : -1;
+        for (int page = run.first; page != run.last + step; page += step)
+            pages.push_back(page);
     }
-    return 0;
-}
-
-int printedPage(const std::vector<PageRun> &runs, int page)
-{
-    int before = 0;
-    for (const PageRun &run : runs) {
-        if (page >= run.first && page <= run.last)
-            return before + page - run.first + 1;
-        before += run.last - run.first + 1;
-    }
-    return 0;
+    return pages;
 }
 
 } // namespace kelvo

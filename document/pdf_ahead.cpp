@@ -26,15 +26,15 @@ Result<PdfPages> PdfAhead::tidy(const QString &source, const QString &target,
     return pages;
 }
 
-Result<QString> PdfAhead::write(const QByteArray &mimeType, const QByteArray &bytes)
+Result<QString> PdfAhead::write(const PdfLayout &layout, const EmbeddedFile &file)
 {
-    if (m_written.isEmpty() || m_isUsed.exchange(true))
+    if (m_written.isEmpty() || file.name != m_name || m_isUsed.exchange(true))
         return Error{Error::Code::NotFound, m_written, {}};
     Result<void> made = ask<void>(m_helpers.writer, Request::Last, Task::WritePdf,
-                                  {.where = m_written}, mimeType, bytes);
+                                  {.where = m_written}, layout, file);
     if (made) {
         made = ask<void>(m_helpers.checker, Request::Last, Task::CheckEmbeddedFile,
-                         {.where = m_written}, m_written, m_name, bytes);
+                         {.where = m_written}, m_written, m_name, file.bytes);
     }
     if (made)
         return m_written;

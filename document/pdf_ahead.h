@@ -1,5 +1,6 @@
 #pragma once
 
+#include "outgoing_pdf.h"
 #include "pdf_helpers.h"
 #include "pdf_pages.h"
 
@@ -19,10 +20,10 @@ public:
     // As tidyPdf() of pdf_pages.h, with another file in the folder of `target`.
     Result<PdfPages> tidy(const QString &source, const QString &target,
                           const std::atomic_bool &cancelled);
-    // The path of a PDF that replaceEmbeddedFile() (embedded_files.h) would make of the one that
-    // was tidied, or its error. Once, and only of one that was sound; whatever the error says, the
-    // file can be made anew then.
-    Result<QString> write(const QByteArray &mimeType, const QByteArray &bytes);
+    // The path of a PDF that makeOutgoingPdf() would make of the one that was tidied, or its error.
+    // Once, and only of one that was sound, with a file of the constructor's name; whatever the
+    // error says, the PDF can be made anew then.
+    Result<QString> write(const PdfLayout &layout, const EmbeddedFile &file);
 
 private:
     PdfHelpers m_helpers;

@@ -29,11 +29,4 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target,
     return takenWhereSound(ask<PdfPages>(Task::TidyPdf, job, source, target), source, target);
 }
 
-Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
-                            const QString &target)
-{
-    return ask<void>(Task::SelectPdfPages, {source, QFileInfo(target).path()}, source, runs,
-                     target);
-}
-
 } // namespace kelvo

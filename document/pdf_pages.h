@@ -1,6 +1,5 @@
 #pragma once
 
-#include "page_ranges.h"
 #include "result.h"
 
 #include <QSizeF>
@@ -9,8 +8,8 @@
 #include <atomic>
 #include <vector>
 
-// What is read of PDFs, and done to their pages: in a child process with limits on
-// time and memory. Blocks: for worker threads.
+// What is read of PDFs: in a child process with limits on time and memory. Blocks: for worker
+// threads.
 namespace kelvo {
 
 struct PdfPages
@@ -31,10 +30,5 @@ Result<PdfPages> tidyPdf(const QString &source, const QString &target,
 // What a helper has found, with the file moved to `target` where it is sound.
 Result<PdfPages> takenWhereSound(Result<PdfPages> pages, const QString &source,
                                  const QString &target);
-
-// A PDF at `target` of the pages that `runs` name, in their order. What belongs
-// to the other pages alone is not in it.
-Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
-                            const QString &target);
 
 } // namespace kelvo

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
@@ -15,11 +16,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (!runs)
         return 0;
     for (const kelvo::PageRun &run : runs.value()) {
-        if (run.first < 1 || run.last < run.first || run.last > pages)
+        if (std::min(run.first, run.last) < 1 || std::max(run.first, run.last) > pages)
             std::abort();
     }
-    const int count = kelvo::pageCount(runs.value());
-    if (count < 1 || kelvo::documentPage(runs.value(), count - 1) != runs.value().back().last)
+    const std::vector<int> all = kelvo::pagesIn(runs.value());
+    if (all.empty() || all.back() != runs.value().back().last
+        || static_cast<int>(all.size()) != kelvo::pageCount(runs.value()))
         std::abort();
     return 0;
 }

@@ -30,6 +30,21 @@ inline const QString kPMCopiesKey = QStringLiteral("com.apple.print.PrintSetting
 inline const QString kPMCollateKey = QStringLiteral("com.apple.print.PrintSettings.PMCopyCollate");
 inline const QString kPMPageRangesKey =
     QStringLiteral("com.kelvo.print.PrintSettings.PageRanges"); // "1-3,7"; absent: all
+// What the host does to the document's pages; absent: what page_layout.h has as defaults.
+inline const QString kPMPageSetKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.PageSet"); // "odd" or "even"
+inline const QString kPMReverseOrderKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.ReverseOrder"); // true
+inline const QString kPMScalingKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.Scaling"); // "fit", "fill", "percent", "none"
+inline const QString kPMScalingPercentKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.ScalingPercent"); // 1…800
+inline const QString kPMPagesPerSideKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.PagesPerSide"); // 2, 4, 6, 9 or 16
+inline const QString kPMPageFlowKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.PageFlow"); // "lrbt", "tblr", …
+inline const QString kPMPageBordersKey =
+    QStringLiteral("com.kelvo.print.PrintSettings.PageBorders"); // true
 inline const QString kPMJobNameKey = QStringLiteral("com.apple.print.JobInfo.PMJobName");
 
 using PPDDictionary = QMap<QString, QString>;

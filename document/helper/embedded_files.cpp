@@ -360,36 +360,20 @@ void takeEmbeddedFileOut(QPDF &pdf, const QString &name)
     FilesOfName(pdf, name).takeOut();
 }
 
-void embedFile(QPDF &pdf, const QString &name, const QByteArray &mimeType, const QByteArray &bytes)
+void embedFile(QPDF &pdf, const EmbeddedFile &embedded)
 {
     std::vector<ListedFile> listed =
         listedFiles(pdf.getRoot().getKey("/Names").isDictionary()
                         ? pdf.getRoot().getKey("/Names").getKey("/EmbeddedFiles")
                         : Handle::newNull());
-    if (!bytes.isNull()) {
-        const std::string key = name.toStdString();
-        auto stream = QPDFEFStreamObjectHelper::createEFStream(pdf, bytes.toStdString());
-        stream.setSubtype(mimeType.toStdString());
+    if (!embedded.bytes.isNull()) {
+        const std::string key = embedded.name.toStdString();
+        auto stream = QPDFEFStreamObjectHelper::createEFStream(pdf, embedded.bytes.toStdString());
+        stream.setSubtype(embedded.mimeType.toStdString());
         auto file = QPDFFileSpecObjectHelper::createFileSpec(pdf, key, stream);
         listed.push_back({key, file.getObjectHandle()});
     }
     setListedFiles(pdf, std::move(listed));
-}
-
-Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
-                                 const QByteArray &mimeType, const QByteArray &bytes,
-                                 const QString &target)
-{
-    return guarded(source, [&]() -> Result<void> {
-        auto files = openPdfFiles(source, target);
-        if (!files)
-            return files.error();
-        QPDF pdf;
-        load(pdf, files.value().source);
-        takeEmbeddedFileOut(pdf, name);
-        embedFile(pdf, name, mimeType, bytes);
-        return writePdf(pdf, *files.value().target);
-    });
 }
 
 Result<void> checkEmbeddedFile(const QString &pdfPath, const QString &name, const QByteArray &bytes)

@@ -1,8 +1,20 @@
 #include "kept_pdf.h"
 
+#include "page_layout.h"
+#include "tasks.h"
+
 #include <utility>
 
 namespace kelvo::documents {
+
+// The steps for which one must know what goes out.
+static Result<void> finish(QPDF &pdf, const PdfLayout &layout, const EmbeddedFile &file,
+                           OutputFile &target)
+{
+    layOutPages(pdf, layout);
+    embedFile(pdf, file);
+    return writePdf(pdf, target);
+}
 
 Result<PdfPages> KeptPdf::tidy(const QString &source, const QString &target, const QString &written,
                                const QString &name)
@@ -28,16 +40,28 @@ void KeptPdf::prepare()
     });
 }
 
-Result<void> KeptPdf::write(const QByteArray &mimeType, const QByteArray &bytes)
+Result<void> KeptPdf::write(const PdfLayout &layout, const EmbeddedFile &file)
 {
     if (!m_target)
         return Error{Error::Code::Damaged, m_source, {}};
     auto target = std::exchange(m_target, std::nullopt);
     if (!m_prepared)
         return m_prepared;
-    return guarded(m_source, [&]() -> Result<void> {
-        embedFile(m_pdf, m_name, mimeType, bytes);
-        return writePdf(m_pdf, *target);
+    return guarded(m_source,
+                   [&]() -> Result<void> { return finish(m_pdf, layout, file, *target); });
+}
+
+Result<void> makePdf(const QString &source, const PdfLayout &layout, const EmbeddedFile &file,
+                     const QString &target)
+{
+    return guarded(source, [&]() -> Result<void> {
+        auto files = openPdfFiles(source, target);
+        if (!files)
+            return files.error();
+        QPDF pdf;
+        load(pdf, files.value().source);
+        takeEmbeddedFileOut(pdf, file.name);
+        return finish(pdf, layout, file, *files.value().target);
     });
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "outgoing_pdf.h"
 #include "pdf_file.h"
 #include "pdf_pages.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <memory>
@@ -18,8 +18,8 @@ namespace kelvo::documents {
 Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source);
 // Every file that a reader could find under `name`, and what stands for it.
 void takeEmbeddedFileOut(QPDF &pdf, const QString &name);
-// Writes the document's list of files anew, with one of these `bytes`, or with none for null.
-void embedFile(QPDF &pdf, const QString &name, const QByteArray &mimeType, const QByteArray &bytes);
+// Writes the document's list of files anew, with `file`, where it has bytes.
+void embedFile(QPDF &pdf, const EmbeddedFile &file);
 
 // A PDF that is read once: it is checked, and kept until it is known what goes into it.
 class KeptPdf
@@ -31,9 +31,9 @@ public:
                           const QString &name);
     // Takes the file called `name` out of what was kept; nothing where nothing is.
     void prepare();
-    // Once, after prepare(): with `bytes` as the file called `name`, as replaceEmbeddedFile() does
-    // it. Damaged also where nothing was kept.
-    Result<void> write(const QByteArray &mimeType, const QByteArray &bytes);
+    // Once, after prepare(): as makePdf() does it, with a file of the name that tidy() was told.
+    // Damaged also where nothing was kept.
+    Result<void> write(const PdfLayout &layout, const EmbeddedFile &file);
 
 private:
     QPDF m_pdf;

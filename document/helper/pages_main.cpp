@@ -29,22 +29,15 @@ static void answer(Task task, QDataStream &in, QDataStream &out)
         break;
     }
     case Task::WritePdf: {
-        const auto type = take<QByteArray>(in);
-        out << kept().write(type, take<QByteArray>(in));
+        const auto layout = take<PdfLayout>(in);
+        out << kept().write(layout, take<EmbeddedFile>(in));
         break;
     }
-    case Task::SelectPdfPages: {
+    case Task::MakePdf: {
         const auto source = take<QString>(in);
-        const auto runs = take<std::vector<PageRun>>(in);
-        out << documents::selectPdfPages(source, runs, take<QString>(in));
-        break;
-    }
-    case Task::ReplaceEmbeddedFile: {
-        const auto source = take<QString>(in);
-        const auto name = take<QString>(in);
-        const auto type = take<QByteArray>(in);
-        const auto bytes = take<QByteArray>(in);
-        out << documents::replaceEmbeddedFile(source, name, type, bytes, take<QString>(in));
+        const auto layout = take<PdfLayout>(in);
+        const auto file = take<EmbeddedFile>(in);
+        out << documents::makePdf(source, layout, file, take<QString>(in));
         break;
     }
     case Task::CheckEmbeddedFile: {

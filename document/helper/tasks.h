@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document_files.h"
+#include "outgoing_pdf.h"
 #include "pdf_pages.h"
 #include "picture_import.h"
 #include "result.h"
@@ -15,11 +16,9 @@
 namespace kelvo::documents {
 
 Result<PdfPages> tidyPdf(const QString &source, const QString &target);
-Result<void> selectPdfPages(const QString &source, const std::vector<PageRun> &runs,
-                            const QString &target);
-Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
-                                 const QByteArray &mimeType, const QByteArray &bytes,
-                                 const QString &target);
+// Without the second look, which is checkEmbeddedFile(), in another process.
+Result<void> makePdf(const QString &source, const PdfLayout &layout, const EmbeddedFile &file,
+                     const QString &target);
 // Whether the only embedded file `name` has these `bytes`, or with null `bytes` there
 // is none; else Refused.
 Result<void> checkEmbeddedFile(const QString &pdfPath, const QString &name,

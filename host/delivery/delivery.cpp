@@ -5,7 +5,6 @@
 #include "file_store.h"
 #include "job_options.h"
 #include "output_file.h"
-#include "page_ranges.h"
 #include "ppd_words.h"
 #include "queue_ppds.h"
 #include "temporary_folder.h"
@@ -46,26 +45,27 @@ Error notRead(const PreparedJob &job, const QString &where)
                             "without it, or have the queue set up with the device’s own PPD")};
 }
 
-Result<Document> pagesToPrint(const Document &document, const QString &pageRanges)
+// What is printed of the document, and how it lies.
+Result<PdfLayout> layoutOf(const JobRequest &request)
 {
+    const Document &document = request.document;
     if (document.isNull())
         return Error{Code::NotFound, translate("Delivery", "document"),
                      translate("Delivery", "there is nothing to print")};
-    if (pageRanges.trimmed().isEmpty())
-        return document;
-    const auto runs = pageRunsFrom(pageRanges, document.pageCount());
-    if (!runs)
-        return runs.error();
-    return document.withPages(runs.value());
+    if (Result<void> checked = checkLayout(request.layout, document.pageCount(), document.title());
+        !checked)
+        return checked.error();
+    return isAsItIs(request.layout, document.pageCount()) ? PdfLayout() : request.layout;
 }
 
-// The PDF that goes out: with the ticket where the device reads it, and without
+// The PDF that goes out: laid out, with the ticket where the device reads it, and without
 // any older one, which could tell an older passcode. It is written anew also where the
 // document names none: one may stand in what later revisions replaced.
-Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job)
+Result<void> makePdf(const Document &document, const PdfLayout &layout, const QByteArray &ticket,
+                     PreparedJob &job)
 {
-    const QByteArray ticket = withTicket ? job.ticket : QByteArray();
-    if (auto written = replacedTicketAhead(document, ticket)) {
+    const EmbeddedFile attachment = ticketAttachment(ticket);
+    if (auto written = document.writtenAhead(layout, attachment)) {
         job.pdfPath = written->path;
         job.pdfOwner = written->owner;
         return {};
@@ -75,7 +75,7 @@ Result<void> makePdf(const Document &document, bool withTicket, PreparedJob &job
         return folderNotMade(temporaryPath(), folder->errorString());
     job.pdfPath = folder->filePath(QStringLiteral("document.pdf"));
     job.pdfOwner = folder;
-    return replaceTicket(document.pdfPath(), ticket, job.pdfPath);
+    return makeOutgoingPdf(document.pdfPath(), layout, attachment, job.pdfPath);
 }
 
 } // namespace
@@ -90,9 +90,9 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     auto options = jobOptions(request.ticket, request.settings, request.ppd, request.queueDefaults);
     if (!options)
         return options.error();
-    const auto document = pagesToPrint(request.document, request.settings.pageRanges);
-    if (!document)
-        return document.error();
+    const auto layout = layoutOf(request);
+    if (!layout)
+        return layout.error();
     auto ticket = ticketForJob(request.ticket);
     if (!ticket)
         return ticket.error();
@@ -103,8 +103,11 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     const bool withTicket = readsTickets(request.ppd);
     if (withTicket)
         job.options.push_back(ticketOption(job.ticketSha256, job.hasPasscode, job.isFax));
-    if (auto made = makePdf(document.value(), withTicket, job); !made)
+    if (auto made =
+            makePdf(request.document, layout.value(), withTicket ? job.ticket : QByteArray(), job);
+        !made) {
         return made.error();
+    }
     return job;
 }
 

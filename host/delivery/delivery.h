@@ -2,6 +2,7 @@
 
 #include "document.h"
 #include "job_settings.h"
+#include "pdf_layout.h"
 #include "ppd_file.h"
 #include "result.h"
 #include "secret_keys.h"
@@ -28,16 +29,17 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document;            // as the user opened it; pages are cut here
+    Document document;            // as the user opened it
+    PdfLayout layout;             // what of it goes out, and where; empty: all, as it is
     TicketFile ticket;            // as the panels wrote it, without nonce
-    JobSettings settings;         // copies, pages, paper (job_settings.h)
+    JobSettings settings;         // copies, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one
     SecretKeys secretKeys;        // from the bundle
     QMap<QString, QString>
         queueDefaults; // of the queue (Printer::defaults), to be contradicted where needed
 };
 
-// What goes out. The PDF (a private 0600 file, pages cut, ticket attached) and
+// What goes out. The PDF (a private 0600 file, laid out, ticket attached) and
 // the options, each once.
 struct PreparedJob
 {

@@ -91,22 +91,11 @@ constexpr NeutralRow neutralRows[] = {
     {"page-ranges", "1-2147483647"}, // the pages are cut already
     {"mirror", "false"},
     {"outputorder", "normal"},
+    {"orientation-requested", "3"}, // portrait: a device that reads tickets turns them itself
+    {"fit-to-page", "false"},
+    {"scaling", "100"},
+    {"page-border", "none"},
 };
-
-const char *orientationRequested(Orientation orientation)
-{
-    switch (orientation) {
-    case Orientation::Portrait:
-        return "3";
-    case Orientation::Landscape:
-        return "4";
-    case Orientation::ReverseLandscape:
-        return "5";
-    case Orientation::ReversePortrait:
-        return "6";
-    }
-    return "3";
-}
 
 // Collects options, each name once: the first one stands.
 class OptionList
@@ -173,8 +162,8 @@ void addPpdChoices(const PPDDictionary &wanted, const PpdFile &ppd, OptionList &
     }
 }
 
-void addHostOptions(const JobSettings &settings, const PpdFile *ppd,
-                    const QMap<QString, QString> &queueDefaults, OptionList &options)
+void addHostOptions(const JobSettings &settings, const QMap<QString, QString> &queueDefaults,
+                    OptionList &options)
 {
     const auto isDefaulted = [&](const char *name) {
         return queueDefaults.contains(QLatin1String(name));
@@ -186,13 +175,6 @@ void addHostOptions(const JobSettings &settings, const PpdFile *ppd,
                                      : QStringLiteral("separate-documents-uncollated-copies"));
     if (settings.copies > 1 || isDefaulted("Collate"))
         options.add(QStringLiteral("Collate"), collateWord(settings));
-    // A device that reads tickets finds the orientation there, and its pages
-    // are not to be turned before.
-    const bool turnsPages = !readsTickets(ppd) && settings.orientation != Orientation::Portrait;
-    if (turnsPages || isDefaulted("orientation-requested"))
-        options.add(QStringLiteral("orientation-requested"),
-                    QLatin1String(orientationRequested(turnsPages ? settings.orientation
-                                                                  : Orientation::Portrait)));
 }
 
 void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDefaults, bool hasPpd,
@@ -234,7 +216,7 @@ Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSet
     OptionList options;
     if (ppd)
         addPpdChoices(wanted, *ppd, options);
-    addHostOptions(settings, ppd, queueDefaults, options);
+    addHostOptions(settings, queueDefaults, options);
     addTwins(wanted, queueDefaults, ppd != nullptr, options);
     for (const JobOption &option : options.options()) {
         if (const QString problem = problemOf(option); !problem.isEmpty())

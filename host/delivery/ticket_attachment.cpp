@@ -1,6 +1,6 @@
 #include "ticket_attachment.h"
 
-#include "embedded_files.h"
+#include "job_settings.h"
 #include "job_timing.h"
 #include "property_list.h"
 
@@ -27,21 +27,15 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
                      QString::fromUtf8(std::strerror(errno))};
     TicketFile sent = ticket;
     sent.unknown.insert(kTicketNonceKey, nonce);
-    // Of the document and of the server, not of the device.
-    for (const QString &key : {kPMPageRangesKey, kJobPriorityKey, kJobHoldUntilKey})
+    // Done to the document already, or the server's.
+    for (const QString &key : pageEntries() + QStringList{kJobPriorityKey, kJobHoldUntilKey})
         sent.printSettings.entries.erase(key);
     return CFPropertyListCreateXMLData(propertyListFrom(sent));
 }
 
-Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target)
+EmbeddedFile ticketAttachment(const QByteArray &ticket)
 {
-    return replaceEmbeddedFile(source, kTicketAttachmentName, ticketType, ticket, target);
-}
-
-std::optional<Document::Written> replacedTicketAhead(const Document &document,
-                                                     const QByteArray &ticket)
-{
-    return document.writtenAhead(ticketType, ticket);
+    return {kTicketAttachmentName, ticketType, ticket};
 }
 
 } // namespace kelvo

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "document.h"
+#include "outgoing_pdf.h"
 #include "result.h"
 #include "ticket_file.h"
 
 #include <QByteArray>
 #include <QString>
-
-#include <optional>
 
 // The ticket inside the PDF. Devices look for the embedded file of this name.
 namespace kelvo {
@@ -19,17 +17,10 @@ inline const QString kTicketAttachmentName = QStringLiteral("kelvo-ticket.plist"
 inline const QString kTicketNonceKey = QStringLiteral("com.kelvo.print.TicketNonce");
 
 // The ticket as the attachment holds it: a ticket file with a nonce of its own,
-// and without page ranges, which have been cut already.
+// and without pages and their layout: the document is cut and laid out already.
 Result<QByteArray> ticketForJob(const TicketFile &ticket);
 
-// A new PDF, 0600, at `target`: the one at `source` with `ticket` as its only
-// embedded file of that name; with a null `ticket` it has none (embedded_files.h).
-// Damaged for what libqpdf cannot read, NotWritable for a full disk, Refused for an
-// older ticket that cannot be taken out.
-Result<void> replaceTicket(const QString &source, const QByteArray &ticket, const QString &target);
-// The same of a document that was opened for it, with kTicketAttachmentName; none for others, and
-// where it fails.
-std::optional<Document::Written> replacedTicketAhead(const Document &document,
-                                                     const QByteArray &ticket);
+// `ticket` as the attachment of a PDF; null: it has none, and loses an older one.
+EmbeddedFile ticketAttachment(const QByteArray &ticket);
 
 } // namespace kelvo

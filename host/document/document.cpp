@@ -38,7 +38,6 @@ public:
     static Result<Document> read(const OpenSource &source, const QString &title, bool onlyPdf,
                                  const std::atomic_bool &cancelled,
                                  std::shared_ptr<PdfAhead> ahead = {});
-    static Result<Document> select(const Document::Data &whole, const std::vector<PageRun> &runs);
 
 private:
     static Result<std::unique_ptr<TemporaryFolder>> makeFolder();
@@ -201,29 +200,6 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     return document;
 }
 
-Result<Document> DocumentReader::select(const Document::Data &whole,
-                                        const std::vector<PageRun> &runs)
-{
-    auto folder = makeFolder();
-    if (!folder)
-        return folder.error();
-    auto data = std::make_shared<Document::Data>();
-    data->title = whole.title;
-    data->isRepaired = whole.isRepaired;
-    data->remark = whole.remark;
-    data->pdfPath = folder.value()->path() + QLatin1Char('/') + pdfName;
-    if (Result<void> made = selectPdfPages(whole.pdfPath, runs, data->pdfPath); !made)
-        return aboutSource(made.error(), whole.title);
-    for (const PageRun &run : runs) {
-        data->sizes.insert(data->sizes.end(), whole.sizes.begin() + (run.first - 1),
-                           whole.sizes.begin() + run.last);
-    }
-    data->folder = std::move(folder).value();
-    Document document;
-    document.d = std::move(data);
-    return document;
-}
-
 QString Document::title() const
 {
     return d ? d->title : QString();
@@ -255,28 +231,12 @@ QString Document::remark() const
     return d ? d->remark : QString();
 }
 
-Result<Document> Document::withPages(const std::vector<PageRun> &runs) const
-{
-    const bool isInside = std::ranges::all_of(runs, [this](const PageRun &run) {
-        return run.first >= 1 && run.first <= run.last && run.last <= pageCount();
-    });
-    if (runs.empty() || !isInside) {
-        return Error{
-            Error::Code::OutOfRange, title(),
-            translate("Document", "the document has %1 pages, and not all that are asked for")
-                .arg(pageCount())};
-    }
-    if (runs == std::vector<PageRun>{{1, pageCount()}})
-        return *this;
-    return DocumentReader::select(*d, runs);
-}
-
-std::optional<Document::Written> Document::writtenAhead(const QByteArray &mimeType,
-                                                        const QByteArray &bytes) const
+std::optional<Document::Written> Document::writtenAhead(const PdfLayout &layout,
+                                                        const EmbeddedFile &file) const
 {
     if (!d || !d->ahead)
         return std::nullopt;
-    const Result<QString> path = d->ahead->write(mimeType, bytes);
+    const Result<QString> path = d->ahead->write(layout, file);
     return path ? std::optional(Written{path.value(), d}) : std::nullopt;
 }
 

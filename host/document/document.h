@@ -1,6 +1,6 @@
 #pragma once
 
-#include "page_ranges.h"
+#include "outgoing_pdf.h"
 #include "result.h"
 
 #include <QSizeF>
@@ -32,20 +32,15 @@ public:
     // A sentence on what of the source is not in the PDF; mostly empty.
     QString remark() const;
 
-    // The same pages cut to `runs`, in their order: what is really printed. The
-    // other pages are not in the new file. OutOfRange when `runs` is empty or
-    // names a page that is not there.
-    Result<Document> withPages(const std::vector<PageRun> &runs) const;
-
     // A PDF that has been made of it, and who owns its file.
     struct Written
     {
         QString path;
         std::shared_ptr<const void> owner;
     };
-    // What replaceEmbeddedFile() would make of it. Only where it was opened with a PdfAhead, and
+    // What makeOutgoingPdf() would make of it. Only where it was opened with a PdfAhead, and
     // once: where there is none, for whatever reason, pdfPath() is to be read.
-    std::optional<Written> writtenAhead(const QByteArray &mimeType, const QByteArray &bytes) const;
+    std::optional<Written> writtenAhead(const PdfLayout &layout, const EmbeddedFile &file) const;
 
 private:
     friend class DocumentReader;

@@ -182,7 +182,7 @@ DrawnSide SideDrawer::drawPages(const Request &request)
             drawPage(request, page, isAnyBehind ? PagePaper::None : PagePaper::White);
         drawn.problems << one.problem;
         if (!one.image.isNull())
-            pages << PictureLayer{one.image, page.rect, page.rotation};
+            pages << PictureLayer{one.image, page.rect, page.rotation, page.clip};
     }
     QList<OverlayLayer> overlays;
     for (const SideToDraw::OverlayOnPage &on : request.side.overlays) {

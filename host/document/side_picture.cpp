@@ -19,8 +19,13 @@ PictureLayer upright(PictureLayer layer)
 void paint(QPainter &painter, const PictureLayer &layer)
 {
     const QSize around = layer.rect.size() - layer.image.size();
-    painter.drawImage(layer.rect.topLeft() + QPoint(around.width() / 2, around.height() / 2),
-                      layer.image);
+    const QPoint corner = layer.rect.topLeft() + QPoint(around.width() / 2, around.height() / 2);
+    if (layer.clip.isNull()) {
+        painter.drawImage(corner, layer.image);
+        return;
+    }
+    const QRect seen = QRect(corner, layer.image.size()) & layer.clip;
+    painter.drawImage(seen.topLeft(), layer.image, seen.translated(-corner));
 }
 
 void paintLayers(QPainter &painter, const QList<PictureLayer> &pages,

@@ -22,6 +22,7 @@ struct SideToDraw
         int page = 0;     // of the document, from 1
         QRect rect;       // it is fitted into this; may reach beyond the picture
         int rotation = 0; // clockwise: 0, 90, 180 or 270
+        QRect clip = {};  // what is seen of it; null: all
         friend bool operator==(const Page &, const Page &) = default;
     };
     struct OverlayOnPage
@@ -47,6 +48,7 @@ struct PictureLayer
     QImage image;
     QRect rect; // of the picture; the image lies in its middle
     int rotation = 0;
+    QRect clip = {}; // null: all of it is seen
 };
 struct OverlayLayer
 {

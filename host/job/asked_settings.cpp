@@ -1,7 +1,7 @@
 #include "asked_settings.h"
 
 #include "device_offers.h"
-#include "one_job_entries.h"
+#include "job_settings.h"
 #include "ppd_words.h"
 
 #include <algorithm>
@@ -13,7 +13,7 @@ namespace {
 
 TicketPlaces withoutOneJob(TicketPlaces places)
 {
-    for (const QString &key : oneJobEntries())
+    for (const QString &key : entriesOfOneJob())
         places.erase({kPMPrintSettingsTicket, key});
     return places;
 }

@@ -1,5 +1,6 @@
 #include "cautions.h"
 
+#include "layout_words.h"
 #include "texts.h"
 
 namespace kelvo {
@@ -7,25 +8,6 @@ namespace kelvo {
 namespace {
 
 using Weight = Caution::Weight;
-
-// "2 and 4–6"; of many the first few.
-QString pagesInWords(const QList<int> &pages)
-{
-    constexpr qsizetype mostListed = 8;
-    QStringList runs;
-    qsizetype told = 0;
-    for (qsizetype first = 0; first < pages.size() && runs.size() < mostListed; first = told) {
-        told = first + 1;
-        while (told < pages.size() && pages[told] == pages[told - 1] + 1)
-            ++told;
-        const QString begin = QString::number(pages[first]);
-        runs << (told == first + 1 ? begin : begin + u'–' + QString::number(pages[told - 1]));
-    }
-    const qsizetype untold = pages.size() - told;
-    return untold > 0
-        ? translate("Job", "%1 and %n more", nullptr, untold).arg(runs.join(QStringLiteral(", ")))
-        : listed(runs);
-}
 
 } // namespace
 
@@ -60,8 +42,29 @@ std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &p
                    translate("Job",
                              "Page(s) %1 larger than the paper, %2: what does not fit is cut off.",
                              nullptr, pages.size())
-                       .arg(pagesInWords(pages), paper),
-                   translate("Job", "Choose larger paper; jobs are not scaled.")};
+                       .arg(pageListInWords(pages), paper),
+                   translate("Job", "Choose larger paper, or let the pages be made to fit.")};
+}
+
+std::optional<Caution> shrunkPagesCaution(const QList<int> &pages, const QString &paper)
+{
+    if (pages.isEmpty())
+        return std::nullopt;
+    return Caution{Weight::Noted,
+                   translate("Job",
+                             "Page(s) %1 larger than the paper, %2, and made smaller to fit.",
+                             nullptr, pages.size())
+                       .arg(pageListInWords(pages), paper)};
+}
+
+Caution countedPagesCaution(const QList<int> &onFirst)
+{
+    return {Weight::Noted,
+            translate("Job",
+                      "Covers, inserts, exception pages and booklets count what is printed: "
+                      "the first page there has page(s) %1 of the document.",
+                      nullptr, onFirst.size())
+                .arg(pageListInWords(onFirst))};
 }
 
 Caution repairedCaution()

@@ -35,8 +35,13 @@ struct Caution
 // A queue that is stopped, or takes no jobs.
 std::optional<Caution> printerCaution(const QString &printer, const PrinterCondition &condition);
 
-// `pages` of the document, ascending, do not fit on `paper`, which is called so.
+// `pages` of the document, ascending, do not fit on `paper`, which is called so, and are cut off,
+// or made smaller.
 std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &paper);
+std::optional<Caution> shrunkPagesCaution(const QList<int> &pages, const QString &paper);
+// Pages that go out are not the document's: covers, inserts, exceptions count what is printed.
+// `onFirst` are the document's pages on the first one.
+Caution countedPagesCaution(const QList<int> &onFirst);
 
 // The document was damaged (Document::isRepaired): what could not be read is not there.
 Caution repairedCaution();

@@ -1,5 +1,6 @@
 #include "job_describer.h"
 
+#include "job_settings.h"
 #include "job_timing.h"
 
 #include <algorithm>
@@ -14,9 +15,9 @@ const QString deviceMakerKey = QStringLiteral("KelvoDeviceMaker");
 
 bool isHostEntry(const QString &key)
 {
-    static const QStringList own{kPMCopiesKey,  kPMCollateKey,   kPMPageRangesKey,
-                                 kPMJobNameKey, kJobPriorityKey, kJobHoldUntilKey};
-    return own.contains(key);
+    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMJobNameKey, kJobPriorityKey,
+                                 kJobHoldUntilKey};
+    return own.contains(key) || pageEntries().contains(key);
 }
 
 JobDescriber::JobDescriber(Bundle *bundle)

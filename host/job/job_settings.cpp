@@ -10,6 +10,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -59,6 +60,9 @@ constexpr FlagRow documentHandlingRows[] = {
     {"separate-documents-collated-copies", true},
     {"separate-documents-uncollated-copies", false},
 };
+
+constexpr FlagRow outputOrderRows[] = {{"normal", false}, {"reverse", true}};
+constexpr FlagRow borderRows[] = {{"none", false}, {"single", true}};
 
 struct UnitRow
 {
@@ -400,17 +404,112 @@ Result<TicketPlaces> applyOrientationFlag(const Request &request, Orientation wh
     });
 }
 
+TicketPlace printPlace(const QString &key)
+{
+    return {kPMPrintSettingsTicket, key};
+}
+
+TicketPlaces scalingPlaces()
+{
+    return {printPlace(kPMScalingKey), printPlace(kPMScalingPercentKey)};
+}
+
+TicketPlaces changeScaling(const Request &request, PageScaling scaling, int percent = 100)
+{
+    return request.change(scalingPlaces(), [&](JobSettings &settings) {
+        settings.layout.scaling = scaling;
+        settings.layout.percent = percent;
+    });
+}
+
+// true: fitted; false: what is done where nobody asks.
 Result<TicketPlaces> applyFitToPage(const Request &request)
 {
     const FlagRow *row = findRow(flagRows, request.value, &FlagRow::word);
     if (!row)
         return request.unknownValue(trueAndFalse());
-    if (row->value)
-        return request.error(Code::Refused,
-                             translate("Job",
-                                       "pages are printed at their own size; choose a paper "
-                                       "that holds them, -o media=NAME"));
-    return TicketPlaces(); // what is done anyway
+    return changeScaling(request, row->value ? PageScaling::Fit : PageScaling::Shrink);
+}
+
+Result<TicketPlaces> applyPrintScaling(const Request &request)
+{
+    const auto scaling = pageScalingFrom(request.value);
+    if (!scaling || *scaling == PageScaling::Percent) // which has a name of its own
+        return request.unknownValue({QStringLiteral("auto"), QStringLiteral("auto-fit"),
+                                     QStringLiteral("fit"), QStringLiteral("fill"),
+                                     QStringLiteral("none")});
+    return changeScaling(request, *scaling);
+}
+
+// A whole number; 0 for anything else.
+int numberIn(const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber ? number : 0;
+}
+
+Result<TicketPlaces> applyScaling(const Request &request)
+{
+    const QString digits = request.value.endsWith(u'%') ? request.value.chopped(1) : request.value;
+    const int percent = numberIn(digits);
+    if (percent < kLeastPercent || percent > kMostPercent)
+        return request.error(Code::OutOfRange,
+                             translate("Job", "pages are scaled by a number from %1 to %2 percent")
+                                 .arg(kLeastPercent)
+                                 .arg(kMostPercent));
+    return changeScaling(request, PageScaling::Percent, percent);
+}
+
+Result<TicketPlaces> applyNumberUp(const Request &request)
+{
+    const int number = numberIn(request.value);
+    if (std::ranges::find(kPagesPerSide, number) == kPagesPerSide.end())
+        return request.error(Code::OutOfRange,
+                             translate("Job", "a side has room for 1, 2, 4, 6, 9 or 16 pages"));
+    return request.change({printPlace(kPMPagesPerSideKey)},
+                          [&](JobSettings &settings) { settings.layout.pagesPerSide = number; });
+}
+
+// The value of a setting that has names, as `find` knows them.
+template <typename Value>
+Result<TicketPlaces>
+applyNamed(const Request &request, const QString &key, const QStringList &known,
+           std::optional<Value> (*find)(const QString &), void (*set)(JobSettings &, Value))
+{
+    const auto value = find(request.value);
+    if (!value)
+        return request.unknownValue(known);
+    return request.change({printPlace(key)}, [&](JobSettings &settings) { set(settings, *value); });
+}
+
+Result<TicketPlaces> applyNumberUpLayout(const Request &request)
+{
+    QStringList known;
+    for (int flow = 0; flow <= int(PageFlow::BtRl); ++flow)
+        known << nameOf(PageFlow(flow));
+    return applyNamed<PageFlow>(
+        request, kPMPageFlowKey, known, pageFlowFrom,
+        [](JobSettings &settings, PageFlow flow) { settings.layout.flow = flow; });
+}
+
+Result<TicketPlaces> applyPageSet(const Request &request)
+{
+    return applyNamed<PageSet>(
+        request, kPMPageSetKey, {nameOf(PageSet::All), nameOf(PageSet::Odd), nameOf(PageSet::Even)},
+        pageSetFrom, [](JobSettings &settings, PageSet set) { settings.pageSet = set; });
+}
+
+// One of two words.
+template <std::size_t N>
+Result<TicketPlaces> applyWord(const Request &request, const FlagRow (&rows)[N], const QString &key,
+                               void (*set)(JobSettings &, bool))
+{
+    const FlagRow *row = findRow(rows, request.value, &FlagRow::word);
+    if (!row)
+        return request.unknownValue(words(rows, &FlagRow::word));
+    return request.change({printPlace(key)},
+                          [&](JobSettings &settings) { set(settings, row->value); });
 }
 
 template <std::size_t N>
@@ -484,11 +583,84 @@ constexpr OptionRow optionRows[] = {
     {"portrait",
      [](const Request &request) { return applyOrientationFlag(request, Orientation::Portrait); }},
     {"fit-to-page", applyFitToPage},
+    {"print-scaling", applyPrintScaling},
+    {"scaling", applyScaling},
+    {"number-up", applyNumberUp},
+    {"number-up-layout", applyNumberUpLayout},
+    {"page-border",
+     [](const Request &request) {
+         return applyWord(
+             request, borderRows, kPMPageBordersKey,
+             [](JobSettings &settings, bool value) { settings.layout.drawsBorders = value; });
+     }},
+    {"page-set", applyPageSet},
+    {"outputorder",
+     [](const Request &request) {
+         return applyWord(request, outputOrderRows, kPMReverseOrderKey,
+                          [](JobSettings &settings, bool value) { settings.isReversed = value; });
+     }},
     {kJobPriorityOption, applyPriority},
     {kJobHoldUntilOption, applyHoldUntil},
 };
 
+PageLayout layoutFrom(const Ticket &print)
+{
+    PageLayout layout;
+    const auto named = [&print](const QString &key) {
+        return read(print, key, asText).value_or(QString());
+    };
+    layout.scaling = pageScalingFrom(named(kPMScalingKey)).value_or(layout.scaling);
+    const int percent = read(print, kPMScalingPercentKey, asNumber).value_or(layout.percent);
+    if (percent >= kLeastPercent && percent <= kMostPercent)
+        layout.percent = percent;
+    const int perSide = read(print, kPMPagesPerSideKey, asNumber).value_or(1);
+    if (std::ranges::find(kPagesPerSide, perSide) != kPagesPerSide.end())
+        layout.pagesPerSide = perSide;
+    layout.flow = pageFlowFrom(named(kPMPageFlowKey)).value_or(layout.flow);
+    layout.drawsBorders = read(print, kPMPageBordersKey, asFlag).value_or(false);
+    return layout;
+}
+
+// What is as it is where nobody asks has no entry: tickets of jobs that are not laid out do not
+// speak of it.
+void writePages(const JobSettings &settings, PMTicketRef print)
+{
+    const PageLayout &layout = settings.layout;
+    const auto writeName = [print](const QString &key, const QString &name, bool isDefault) {
+        isDefault ? PMTicketReleaseItem(print, key) : PMTicketSetCFString(print, client, key, name);
+    };
+    const auto writeNumber = [print](const QString &key, int number, bool isDefault) {
+        isDefault ? PMTicketReleaseItem(print, key)
+                  : PMTicketSetCFNumber(print, client, key, number);
+    };
+    const auto writeFlag = [print](const QString &key, bool flag) {
+        flag ? PMTicketSetCFBoolean(print, client, key, true) : PMTicketReleaseItem(print, key);
+    };
+    writeName(kPMPageRangesKey, settings.pageRanges, settings.pageRanges.isEmpty());
+    writeName(kPMPageSetKey, nameOf(settings.pageSet), settings.pageSet == PageSet::All);
+    writeFlag(kPMReverseOrderKey, settings.isReversed);
+    writeName(kPMScalingKey, nameOf(layout.scaling), layout.scaling == PageScaling::Shrink);
+    writeNumber(kPMScalingPercentKey, layout.percent, layout.scaling != PageScaling::Percent);
+    writeNumber(kPMPagesPerSideKey, layout.pagesPerSide, layout.pagesPerSide == 1);
+    writeName(kPMPageFlowKey, nameOf(layout.flow), layout.flow == PageFlow::LrTb);
+    writeFlag(kPMPageBordersKey, layout.drawsBorders);
+}
+
 } // namespace
+
+const QStringList &pageEntries()
+{
+    static const QStringList keys{kPMPageRangesKey, kPMPageSetKey,        kPMReverseOrderKey,
+                                  kPMScalingKey,    kPMScalingPercentKey, kPMPagesPerSideKey,
+                                  kPMPageFlowKey,   kPMPageBordersKey};
+    return keys;
+}
+
+const QStringList &entriesOfOneJob()
+{
+    static const QStringList keys{kPMJobNameKey, kPMPageRangesKey, kPMPageSetKey, kJobHoldUntilKey};
+    return keys;
+}
 
 JobSettings jobSettingsFrom(const PrintSession &session, const PpdFile *ppd)
 {
@@ -499,6 +671,10 @@ JobSettings jobSettingsFrom(const PrintSession &session, const PpdFile *ppd)
     settings.copies = copies >= 1 && copies <= kMaximumCopies ? copies : 1;
     settings.collate = read(print, kPMCollateKey, asFlag).value_or(true);
     settings.pageRanges = read(print, kPMPageRangesKey, asText).value_or(QString());
+    settings.pageSet =
+        pageSetFrom(read(print, kPMPageSetKey, asText).value_or(QString())).value_or(PageSet::All);
+    settings.isReversed = read(print, kPMReverseOrderKey, asFlag).value_or(false);
+    settings.layout = layoutFrom(print);
 
     settings.paperName = print.ppdChoices.value(pageSizeOption);
     if (settings.paperName.isEmpty())
@@ -519,10 +695,7 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
     const PMTicketRef page = session.pageFormatTicket();
     PMTicketSetCFNumber(print, client, kPMCopiesKey, settings.copies);
     PMTicketSetCFBoolean(print, client, kPMCollateKey, settings.collate);
-    if (settings.pageRanges.isEmpty())
-        PMTicketReleaseItem(print, kPMPageRangesKey);
-    else
-        PMTicketSetCFString(print, client, kPMPageRangesKey, settings.pageRanges);
+    writePages(settings, print);
     PMTicketSetCFNumber(page, client, kPMOrientationKey, static_cast<int>(settings.orientation));
 
     const PpdOption *papers = ppd ? ppd->findOption(pageSizeOption) : nullptr;
@@ -540,6 +713,20 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
     PMTicketSetCFArray(page, client, kPMPaperSizeKey, {size->width(), size->height()});
     PMTicketSetCFArray(page, client, kPMUnadjustedPaperRectKey,
                        {0.0, 0.0, size->height(), size->width()});
+}
+
+std::optional<Paper> paperNamed(const QString &name, const PpdFile &ppd)
+{
+    const auto size = paperSize(name, ppd);
+    if (!size)
+        return std::nullopt;
+    Paper paper{*size};
+    // The larger margin of each two, since a device turns sheets either way.
+    if (const PpdPageSize *known = ppd.findPageSize(name)) {
+        paper.margins = {std::max({0.0, known->left, known->width - known->right}),
+                         std::max({0.0, known->bottom, known->height - known->top})};
+    }
+    return paper;
 }
 
 std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "asked_option.h"
+#include "page_placement.h"
 #include "ppd_file.h"
 #include "print_session.h"
 #include "result.h"
@@ -15,24 +16,25 @@
 // in the tickets like everything else.
 namespace kelvo {
 
-enum class Orientation : int {
-    Portrait = 1,
-    Landscape = 2,
-    ReversePortrait = 3,
-    ReverseLandscape = 4
-};
-
 struct JobSettings
 {
     int copies = 1; // 1 to 9999
     bool collate = true;
-    QString pageRanges; // "1-3,7"; empty: all
+    QString pageRanges; // "1-3,7,6-1"; empty: all
     QString paperName;  // a PPD page size, or "Custom.WxH"; empty: the PPD's default
     Orientation orientation = Orientation::Portrait;
+    PageLayout layout;
+    PageSet pageSet = PageSet::All; // of the ranges
+    bool isReversed = false;        // the last page, or sheet, first
 
     friend bool operator==(const JobSettings &, const JobSettings &) = default;
 };
 inline constexpr int kMaximumCopies = 9999;
+
+// The entries of the print settings that say which pages are printed, and how they are laid out.
+const QStringList &pageEntries();
+// Those that belong to one job, and go into no preset: its name, its pages, its hold.
+const QStringList &entriesOfOneJob();
 
 // What the tickets say. Values that are missing, of another type or out of range
 // count as the defaults above. The paper is the PPD choice "PageSize" where the
@@ -50,6 +52,9 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
 // default where nothing is chosen. Without a PPD no choice is sent.
 bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd);
 
+// The paper of that name, with what its printer leaves free of print; none as for paperSize().
+std::optional<Paper> paperNamed(const QString &name, const PpdFile &ppd);
+
 // The size in points of a page size of the PPD, or of "Custom.WxH" (with pt, in,
 // ft, cm, mm or m behind it, else points) within the PPD's limits; none otherwise.
 std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
@@ -64,7 +69,10 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 //   sides=one-sided|two-sided-long-edge|two-sided-short-edge
 //   copies=N   page-ranges=1-3,7   collate=true|false
 //   multiple-document-handling=separate-documents-(un)collated-copies
-//   landscape=true|false   portrait=true|false   fit-to-page=false
+//   landscape=true|false   portrait=true|false
+//   print-scaling=auto|auto-fit|fit|fill|none   scaling=1…800   fit-to-page=true|false
+//   number-up=1|2|4|6|9|16   number-up-layout=lrtb|lrbt|…   page-border=none|single
+//   page-set=all|odd|even   outputorder=normal|reverse
 //   job-priority=1…100   job-hold-until=WORD|HH:MM[:SS]   see job_timing.h
 //
 // A name alone means what meaningOf() says. true is also written on and yes, false also off and no,

@@ -3,6 +3,7 @@
 #include "device_offers.h"
 #include "job_describer.h"
 #include "job_timing.h"
+#include "layout_words.h"
 #include "ppd_words.h"
 #include "terminal.h"
 #include "texts.h"
@@ -111,6 +112,22 @@ QString orientationWords(Orientation orientation)
     return {};
 }
 
+void addLayout(const PageLayout &layout, JobWords &words)
+{
+    const bool isPercent = layout.scaling == PageScaling::Percent;
+    (layout.scaling == PageScaling::Shrink ? words.defaults : words.settings)
+        << translate("Job", "Scaling: %1")
+               .arg(isPercent ? percentInWords(layout.percent) : wordsOf(layout.scaling));
+    const QString perSide = QString::number(layout.pagesPerSide);
+    if (layout.pagesPerSide == 1)
+        words.defaults << translate("Job", "Pages per sheet: %1").arg(perSide);
+    else
+        words.settings << (layout.drawsBorders
+                               ? translate("Job", "Pages per sheet: %1, %2, with borders")
+                               : translate("Job", "Pages per sheet: %1, %2"))
+                              .arg(perSide, wordsOf(layout.flow));
+}
+
 // The host's own settings, each with what counts as the default.
 void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &words)
 {
@@ -132,6 +149,12 @@ void addHostSettings(const JobSettings &settings, const PpdFile *ppd, JobWords &
         settings.pageRanges.isEmpty()
             ? translate("Job", "Pages: All")
             : translate("Job", "Pages: %1").arg(visibleText(settings.pageRanges)));
+    add(settings.pageSet == PageSet::All,
+        translate("Job", "Of these: %1").arg(wordsOf(settings.pageSet)));
+    add(!settings.isReversed,
+        settings.isReversed ? translate("Job", "Order: Reversed")
+                            : translate("Job", "Order: As in the document"));
+    addLayout(settings.layout, words);
     const bool isPortrait = settings.orientation == Orientation::Portrait;
     const QString orientation =
         translate("Job", "Orientation: %1").arg(orientationWords(settings.orientation));

@@ -39,7 +39,7 @@ LastUsed readLastUsed();
 Result<void> keepLastUsed(const LastUsed &used);
 
 // What of a preset (SessionJob::preset()) comes back with the next document: no secrets, nothing
-// of one job (one_job_entries.h, SecretKeys::oneJobPaths), nor the copies and the priority, which
+// of one job (entriesOfOneJob, SecretKeys::oneJobPaths), nor the copies and the priority, which
 // nobody looks for the next time, nor paper and orientation, which follow the document. None for a
 // fax, which is no print.
 std::optional<TicketFile> lastUsedFrom(const TicketFile &preset, const SecretKeys &keys);

@@ -2,8 +2,8 @@
 
 #include "file_store.h"
 #include "folders.h"
+#include "job_settings.h"
 #include "nearest_name.h"
-#include "one_job_entries.h"
 #include "property_list.h"
 #include "size_limits.h"
 #include "terminal.h"
@@ -196,7 +196,7 @@ TicketFile presetFrom(TicketFile ticket, const SecretKeys &keys, bool keepSecret
 {
     if (!keepSecrets)
         ticket = withoutSecrets(std::move(ticket), keys);
-    for (const QString &key : oneJobEntries())
+    for (const QString &key : entriesOfOneJob())
         ticket.printSettings.entries.erase(key);
     return ticket;
 }

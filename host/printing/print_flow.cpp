@@ -2,6 +2,7 @@
 
 #include "device_offers.h"
 #include "dialog_session.h"
+#include "ppd_words.h"
 #include "presets.h"
 #include "session_cautions.h"
 #include "session_words.h"
@@ -171,7 +172,7 @@ Result<void> PrintFlow::writeSettingsOut()
 void PrintFlow::start()
 {
     const PrinterSearch &search = m_session.search();
-    const SessionJob &job = m_session.job();
+    SessionJob &job = m_session.job();
     const QString title = m_session.document().title();
     m_destination = m_plan.elsewhere ? m_plan.elsewhere
                                      : queueDestination(search.name(), title, search.timeoutMs());
@@ -179,6 +180,10 @@ void PrintFlow::start()
     order.request.document = m_session.document().document();
     order.request.ticket = job.ticket();
     order.request.settings = job.settings();
+    // A device that reads tickets finds there how pages are turned.
+    const bool isUpsideDown =
+        !readsTickets(search.ppd().get()) && isReverse(order.request.settings.orientation);
+    order.request.layout = job.printedPages().value().pdfLayout(isUpsideDown);
     order.request.secretKeys = job.secretKeys();
     if (const Printer *printer = search.printer())
         order.request.queueDefaults = printer->defaults;

@@ -28,9 +28,8 @@ DialogSession::DialogSession(SessionBeginning beginning, DevicePanels *panels, Q
     connect(&m_search, &PrinterSearch::stateChanged, this, &DialogSession::takeSearch);
     connect(m_document.get(), &DocumentOpening::ended, this, [this] {
         m_job.setTitle(m_document->title());
-        const Document &document = m_document->document();
-        if (!document.isNull())
-            m_job.setDocument(document.pdfPath(), document.pageCount());
+        if (!m_document->document().isNull())
+            m_job.setDocument(m_document->document());
         emit documentChanged();
     });
     connect(&m_job, &SessionJob::reloaded, this, &DialogSession::reloaded);
@@ -80,11 +79,6 @@ void DialogSession::choosePrinter(const QString &name)
         endPanels();
     }
     m_search.choose(name);
-}
-
-Result<std::vector<PageRun>> DialogSession::pages() const
-{
-    return pageRunsFrom(m_job.settings().pageRanges, m_document->document().pageCount());
 }
 
 void DialogSession::begin()

@@ -57,9 +57,6 @@ public:
     void choosePrinter(const QString &name);
 
     const DocumentOpening &document() const { return *m_document; }
-    // Those of the document that are printed; the error says which there are.
-    Result<std::vector<PageRun>> pages() const; // Stage::Ready, and the document is there
-
     SessionJob &job() { return m_job; } // Stage::Ready
     const SessionJob &job() const { return m_job; }
     bool hasPanels() const { return m_panels && m_panels->isBegun(); }

@@ -1,7 +1,6 @@
 #include "session_cautions.h"
 
 #include "dialog_session.h"
-#include "page_placement.h"
 #include "ppd_words.h"
 #include "terminal.h"
 #include "texts.h"
@@ -40,7 +39,7 @@ void SessionCautions::look()
     const Document &document = m_session.document().document();
     SessionJob &job = m_session.job();
     add(printer());
-    add(cutPages());
+    lookAtPages();
     if (document.isRepaired())
         add(repairedCaution());
     if (const QString remark = document.remark(); !remark.isEmpty())
@@ -107,27 +106,52 @@ std::optional<Caution> SessionCautions::printer() const
     return printer ? printerCaution(printer->name, *printer) : std::nullopt;
 }
 
-std::optional<Caution> SessionCautions::cutPages() const
+// What becomes of pages on the paper, and who counts them.
+void SessionCautions::lookAtPages()
 {
-    const PpdFile *ppd = m_session.job().ppd();
-    const Document &document = m_session.document().document();
-    // Pages of a booklet are made to fit.
-    if (!ppd || document.isNull() || m_session.job().description().imposition)
-        return std::nullopt;
-    const JobSettings settings = m_session.job().settings();
-    const auto paper = paperSize(settings.paperName, *ppd);
-    const auto runs = m_session.pages();
-    if (!paper || !runs)
-        return std::nullopt;
-    std::set<int> pages; // a page may be printed twice
-    for (const PageRun &run : runs.value()) {
-        for (int page = run.first; page <= run.last; ++page) {
-            if (placePage(document.pageSize(page), *paper, settings.orientation).isCut())
-                pages.insert(page);
+    SessionJob &job = m_session.job();
+    if (m_session.document().document().isNull())
+        return;
+    const auto printed = job.printedPages();
+    if (!printed)
+        return;
+    const PrintedPages &pages = printed.value();
+    const JobSettings settings = job.settings();
+    const bool isScaledDown = settings.layout.scaling == PageScaling::Shrink;
+    std::set<int> cut; // a page may be printed twice
+    std::set<int> shrunk;
+    for (int page = 1; page <= pages.count(); ++page) {
+        if (pages.isAsItIs(page))
+            continue;
+        const SidePlacement side = pages.placement(page);
+        const QList<int> onPage = pages.onPage(page);
+        for (qsizetype place = 0; place < onPage.size(); ++place) {
+            const PagePlacement &placed = side.pages[place];
+            if (placed.isCut())
+                cut.insert(onPage[place]);
+            else if (isScaledDown && onPage.size() == 1 && placed.scale < 1)
+                shrunk.insert(onPage[place]);
         }
     }
-    return cutPagesCaution(QList<int>(pages.begin(), pages.end()),
-                           paperWords(settings.paperName, *ppd));
+    const PpdFile *ppd = job.ppd();
+    const QString paper = ppd ? paperWords(settings.paperName, *ppd) : QString();
+    const auto add = [this](std::optional<Caution> caution) {
+        if (caution)
+            m_cautions.push_back(std::move(*caution));
+    };
+    if (settings.layout.scaling != PageScaling::Fill) // that was asked for
+        add(cutPagesCaution(QList<int>(cut.begin(), cut.end()), paper));
+    add(shrunkPagesCaution(QList<int>(shrunk.begin(), shrunk.end()), paper));
+
+    const JobDescription &description = job.description();
+    const bool isCounted = description.sheets != SpecialSheets() || description.imposition;
+    const bool isOtherCount =
+        settings.layout.pagesPerSide > 1 || settings.isReversed || settings.pageSet != PageSet::All;
+    if (isCounted && isOtherCount) {
+        QList<int> first = pages.onPage(1);
+        first.removeAll(0);
+        add(countedPagesCaution(first));
+    }
 }
 
 } // namespace kelvo

@@ -39,7 +39,7 @@ private:
     void say(bool happenedOnly);
     void lookAtCovers();
     std::optional<Caution> printer() const;
-    std::optional<Caution> cutPages() const;
+    void lookAtPages();
 
     DialogSession &m_session;
     const bool m_goesToPrinter;

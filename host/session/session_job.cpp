@@ -78,16 +78,42 @@ void SessionJob::nameJob()
 // Also where the ranges name no page: something has to be seen until they do.
 void SessionJob::tellFirstPage()
 {
-    const auto runs = pageRunsFrom(settings().pageRanges, m_pageCount);
-    const int first = runs && !runs.value().empty() ? runs.value().front().first : 1;
-    m_session->setFirstPage({m_pdfPath, first});
+    const auto pages = m_document.isNull() ? Result<PrintedPages>(PrintedPages()) : printedPages();
+    const int first = pages ? pages.value().firstOnPage(1) : 0;
+    m_session->setFirstPage({m_document.pdfPath(), std::max(1, first)});
 }
 
-void SessionJob::setDocument(const QString &pdfPath, int pageCount)
+void SessionJob::setDocument(const Document &document)
 {
-    m_pdfPath = pdfPath;
-    m_pageCount = pageCount;
+    m_document = document;
     tellFirstPage();
+}
+
+Result<PrintedPages> SessionJob::printedPages()
+{
+    const JobSettings settings = this->settings();
+    const auto runs = pageRunsFrom(settings.pageRanges, m_document.pageCount());
+    if (!runs)
+        return runs.error();
+    PagesToPrint request;
+    request.chosen = pagesIn(runs.value());
+    request.set = settings.pageSet;
+    request.sizeOf = [document = m_document](int page) { return document.pageSize(page); };
+    request.layout = settings.layout;
+    request.isReversed = settings.isReversed;
+    // A device that puts pages together makes them fit, and knows which share a sheet.
+    if (!description().imposition) {
+        request.pairsSides = isTwoSided();
+        if (ppd())
+            request.paper = paperNamed(settings.paperName, *ppd()).value_or(Paper());
+    }
+    PrintedPages pages(std::move(request));
+    if (pages.count() == 0)
+        return Error{Error::Code::OutOfRange, m_document.title(),
+                     settings.pageSet == PageSet::Odd
+                         ? translate("Job", "none of these pages has an odd number")
+                         : translate("Job", "none of these pages has an even number")};
+    return pages;
 }
 
 // The device's own defaults stand in its PPD; a queue's are laid over them. What they
@@ -179,22 +205,15 @@ void SessionJob::askForCopies(int copies)
     m_edits.asked.lay(asked, AskedSettings::Kind::Chosen);
 }
 
-void SessionJob::askForPages(const QString &pages)
+// An empty text takes the entry away.
+void SessionJob::askForEntry(const QString &key, const QString &text)
 {
     TicketFile asked;
     asked.isPart = true;
-    if (pages.isEmpty())
-        asked.removed.insert({kPMPrintSettingsTicket, kPMPageRangesKey});
+    if (text.isEmpty())
+        asked.removed.insert({kPMPrintSettingsTicket, key});
     else
-        asked.printSettings.entries[kPMPageRangesKey] = {pages, hostClient};
-    m_edits.asked.lay(asked, AskedSettings::Kind::Given);
-}
-
-void SessionJob::askForHold(const QString &holdUntil)
-{
-    TicketFile asked;
-    asked.isPart = true;
-    asked.printSettings.entries[kJobHoldUntilKey] = {holdUntil, hostClient};
+        asked.printSettings.entries[key] = {text, hostClient};
     m_edits.asked.lay(asked, AskedSettings::Kind::Given);
 }
 
@@ -215,22 +234,23 @@ Result<void> SessionJob::askFirst()
     if (m_wishes.copies)
         askForCopies(*m_wishes.copies);
     if (m_wishes.pages)
-        askForPages(*m_wishes.pages);
+        askForEntry(kPMPageRangesKey, *m_wishes.pages);
     return {};
 }
 
 void SessionJob::usePreset(const TicketFile *preset)
 {
-    const QString pages = settings().pageRanges;
+    const JobSettings before = settings();
     const QString holdUntil = timing().holdUntil;
     m_edits.asked.clear();
     m_edits.unknown.clear();
     askForSiteDefaults();
     if (preset)
         ask(*preset, AskedSettings::Kind::Chosen);
-    askForPages(pages); // the user's: no other printer takes them away
-    if (!holdUntil.isEmpty())
-        askForHold(holdUntil);
+    // The user's: no other printer takes them away.
+    askForEntry(kPMPageRangesKey, before.pageRanges);
+    askForEntry(kPMPageSetKey, before.pageSet == PageSet::All ? QString() : nameOf(before.pageSet));
+    askForEntry(kJobHoldUntilKey, holdUntil);
     layAsked();
     emit reloaded();
 }

@@ -3,10 +3,12 @@
 #include "asked_settings.h"
 #include "conflicts.h"
 #include "device_panels.h"
+#include "document.h"
 #include "job_describer.h"
 #include "job_settings.h"
 #include "job_timing.h"
 #include "presets.h"
+#include "printed_pages.h"
 #include "secret_keys.h"
 
 #include <QList>
@@ -61,9 +63,8 @@ public:
     void leave();
     // What the job is called where its tickets are laid next.
     void setTitle(const QString &title) { m_title = title; }
-    // The document, of which the panels are told the first page that is printed. Its file
-    // stays for as long as this.
-    void setDocument(const QString &pdfPath, int pageCount);
+    // The document, of which the panels are told the first page that is printed.
+    void setDocument(const Document &document);
 
     PrintSession &tickets() { return *m_session; } // another one on each device
     const PpdFile *ppd() const { return m_device.ppd.get(); }
@@ -73,6 +74,9 @@ public:
     void readAll();
     JobSettings settings() const;
     bool isTwoSided() const;
+    // What goes out of the document, which is there. OutOfRange or Damaged for pages that it
+    // does not have; where all are left out that were chosen, too.
+    Result<PrintedPages> printedPages();
     // The host's own settings; panels write before. They do not read: a ticket may
     // hold less of a panel's setting than the user chose there, and more copies must
     // not take it away. A panel looks at the page format when it writes.
@@ -135,8 +139,7 @@ private:
     void ask(const TicketFile &file, AskedSettings::Kind kind);
     Result<void> askForOption(const AskedOption &option);
     void askForCopies(int copies);
-    void askForPages(const QString &pages);
-    void askForHold(const QString &holdUntil);
+    void askForEntry(const QString &key, const QString &text);
     void layAsked();
     void nameJob();
     void tellFirstPage();
@@ -170,8 +173,7 @@ private:
     FoundConflicts m_conflicts;
 
     QString m_title;
-    QString m_pdfPath; // empty: the document is not there yet
-    int m_pageCount = 0;
+    Document m_document; // null: not there yet
     Device m_device;
     std::unique_ptr<PrintSession> m_session;
     Edits m_edits;

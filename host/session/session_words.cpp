@@ -21,9 +21,9 @@ JobWords jobInWords(DialogSession &session, SessionCautions &cautions)
     return words;
 }
 
-QString pagesProblem(const DialogSession &session)
+QString pagesProblem(DialogSession &session)
 {
-    const auto pages = session.pages();
+    const auto pages = session.job().printedPages();
     if (pages)
         return {};
     const QString detail = pages.error().detail;
@@ -34,12 +34,12 @@ QString pagesProblem(const DialogSession &session)
 QString jobInShort(DialogSession &session)
 {
     SessionJob &job = session.job();
-    const int pages = pageCount(session.pages().value());
+    const PrintedPages pages = job.printedPages().value();
     const JobDescription &description = job.description();
-    const SheetSequence sequence(pages, job.isTwoSided(), description.sheets,
+    const SheetSequence sequence(pages.count(), job.isTwoSided(), description.sheets,
                                  description.imposition);
-    return shortSummary(job.ticket(), job.settings(), pages, sequence.sheets(), job.secretKeys(),
-                        description.leadingPage);
+    return shortSummary(job.ticket(), job.settings(), pages.documentPageCount(), sequence.sheets(),
+                        job.secretKeys(), description.leadingPage);
 }
 
 } // namespace kelvo

@@ -13,7 +13,7 @@ JobWords jobInWords(DialogSession &session, SessionCautions &cautions);
 
 // Why the chosen pages cannot be printed, a sentence; empty when they can. Stage::Ready,
 // and the document is there.
-QString pagesProblem(const DialogSession &session);
+QString pagesProblem(DialogSession &session);
 // "12 pages, 6 sheets". Where there is no such problem.
 QString jobInShort(DialogSession &session);
 

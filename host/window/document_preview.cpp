@@ -3,32 +3,22 @@
 #include "accessible_role.h"
 #include "audience.h"
 #include "booklet_imposition.h"
-#include "caution_colours.h"
 #include "page_placement.h"
 #include "preview_captions.h"
+#include "sheet_view.h"
 #include "tool_tip.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
-#include <QPainterPath>
-#include <QPolygonF>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace kelvo {
 
 namespace {
-
-constexpr int rim = 10; // logical pixels around the sheet: its shadow and the focus ring
-constexpr int shadowSteps = 6;
-constexpr int wheelNotch = 120; // as Qt counts a wheel's turn
 
 // In place of a page that cannot be drawn; empty for one that can.
 QString noteOn(PageProblem problem)
@@ -48,252 +38,16 @@ QString noteOn(PageProblem problem)
     return {};
 }
 
-// One side as it is shown: before it is drawn, and then.
-struct Look
-{
-    SidePlacement placement;
-    bool drawsBorders = false; // around its pages
-    QImage picture;            // all of the side; null: not drawn
-    QStringList notes;         // one for each place; empty where a page is seen
-};
-
-// The sheet and what lies on it.
-class SheetView : public QWidget
-{
-public:
-    using QWidget::QWidget;
-
-    std::function<void(int)> step; // one side back (-1) or forward (1), ends included
-    std::function<void()> changed; // size, pixels or visibility
-    Look wanted;                   // what the side is, or shall be
-    std::optional<Look> drawn;     // and what was drawn last
-    QString words;                 // what the sheet is, where no page is printed on it
-    bool isMarked = false;         // a page is an exception
-    QString message;               // in place of a sheet
-    bool isEmpty = true;
-
-    // Where the side lies, with all of a page that the sheet cuts: in the middle, in whole
-    // pixels, because a hair of grey along an edge looks like a printed line.
-    QRectF allRect(const SidePlacement &side) const
-    {
-        const QSizeF room = QSizeF(size()) - QSizeF(2 * rim, 2 * rim);
-        const QSizeF all = side.all().size();
-        if (all.isEmpty() || room.isEmpty())
-            return {};
-        QRectF rect(QPointF(), all.scaled(room, Qt::KeepAspectRatio));
-        rect.moveCenter(QRectF(this->rect()).center());
-        return QRectF(rect.toAlignedRect());
-    }
-
-    // Logical pixels of what is placed in points.
-    QRectF onScreen(const SidePlacement &side, const QRectF &points) const
-    {
-        const QRectF all = side.all();
-        const QRectF rect = allRect(side);
-        const double across = rect.width() / all.width();
-        const double down = rect.height() / all.height();
-        return {rect.x() + (points.x() - all.x()) * across,
-                rect.y() + (points.y() - all.y()) * down, points.width() * across,
-                points.height() * down};
-    }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        if (!message.isEmpty() || isEmpty) {
-            painter.setPen(palette().color(QPalette::WindowText));
-            painter.drawText(rect().adjusted(rim, rim, -rim, -rim),
-                             Qt::AlignCenter | Qt::TextWordWrap, message);
-            if (hasFocus())
-                paintFocus(painter, QRectF(rect()).adjusted(2, 2, -2, -2));
-            return;
-        }
-        // Until the new side is drawn, the old one stays, on its own sheet.
-        const Look &shown = words.isEmpty() && drawn ? *drawn : wanted;
-        const SidePlacement &side = shown.placement;
-        const QRectF sheet = side.isCut() ? inWholePixels(sheetRect(side)) : allRect(side);
-        paintShadow(painter, sheet);
-        painter.fillRect(sheet, Qt::white);
-        if (words.isEmpty() && !shown.picture.isNull())
-            paintPicture(painter, shown);
-        if (side.isCut() && !shown.picture.isNull())
-            paintLoss(painter, side, sheet);
-        if (!side.fold.isNull())
-            paintFold(painter, side);
-        if (!words.isEmpty())
-            paintText(painter, sheet, words);
-        else
-            paintPlaces(painter, shown);
-        if (isMarked)
-            paintMark(painter, sheet);
-        painter.setPen(QColor(0, 0, 0, 45));
-        painter.drawRect(sheet.adjusted(-0.5, -0.5, 0.5, 0.5));
-        if (hasFocus())
-            paintFocus(painter, sheet.adjusted(-4, -4, 4, 4));
-    }
-
-    void keyPressEvent(QKeyEvent *event) override
-    {
-        switch (event->key()) {
-        case Qt::Key_PageUp:
-            return step(-1);
-        case Qt::Key_PageDown:
-            return step(1);
-        case Qt::Key_Home:
-            return step(-toEnd);
-        case Qt::Key_End:
-            return step(toEnd);
-        default:
-            QWidget::keyPressEvent(event);
-        }
-    }
-
-    void wheelEvent(QWheelEvent *event) override
-    {
-        m_wheel += event->angleDelta().y();
-        if (const int steps = m_wheel / wheelNotch; steps != 0) {
-            m_wheel -= steps * wheelNotch;
-            step(-steps);
-        }
-        event->accept();
-    }
-
-    void resizeEvent(QResizeEvent *) override { changed(); }
-    void showEvent(QShowEvent *) override { changed(); }
-    bool event(QEvent *event) override
-    {
-        const bool isTaken = QWidget::event(event);
-        // Another screen, other pixels.
-        if (event->type() == QEvent::ScreenChangeInternal)
-            changed();
-        return isTaken;
-    }
-
-private:
-    static constexpr int toEnd = 1'000'000'000;
-
-    static void paintShadow(QPainter &painter, const QRectF &sheet)
-    {
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0, 0, 0, 11));
-        for (int grow = 1; grow <= shadowSteps; ++grow) {
-            const QRectF layer = sheet.adjusted(-grow, -grow, grow, grow).translated(0, 1.5);
-            painter.drawRoundedRect(layer, grow, grow);
-        }
-        painter.restore();
-    }
-
-    void paintFocus(QPainter &painter, const QRectF &around) const
-    {
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(around, 3, 3);
-        painter.restore();
-    }
-
-    static void paintText(QPainter &painter, const QRectF &sheet, const QString &text)
-    {
-        painter.setPen(QColor(90, 90, 90)); // on paper, which is white in any theme
-        painter.drawText(sheet.adjusted(rim, rim, -rim, -rim), Qt::AlignCenter | Qt::TextWordWrap,
-                         text);
-    }
-
-    // The top right corner, where few pages have print.
-    void paintMark(QPainter &painter, const QRectF &sheet) const
-    {
-        const double side = std::min(fontMetrics().height() * 1.4, sheet.width() / 4);
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(palette().color(QPalette::Highlight));
-        painter.drawPolygon(QPolygonF({sheet.topRight() - QPointF(side, 0), sheet.topRight(),
-                                       sheet.topRight() + QPointF(0, side)}));
-        painter.restore();
-    }
-
-    static QRectF inWholePixels(const QRectF &rect) { return QRectF(rect.toAlignedRect()); }
-
-    QRectF sheetRect(const SidePlacement &side) const
-    {
-        return onScreen(side, {QPointF(), side.sheet});
-    }
-
-    void paintPicture(QPainter &painter, const Look &shown) const
-    {
-        QRectF rect = allRect(shown.placement);
-        // Drawn for this very size, up to rounding: pixel upon pixel, or small
-        // print would blur.
-        const double ratio = devicePixelRatioF();
-        const QSizeF size = QSizeF(shown.picture.size()) / ratio;
-        const QSizeF difference = rect.size() - size;
-        if (std::abs(difference.width()) * ratio <= 1 && std::abs(difference.height()) * ratio <= 1)
-            rect.setSize(size);
-        painter.save();
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(rect, shown.picture);
-        painter.restore();
-    }
-
-    // All is seen of a page that is cut: the sheet as it comes out, and veiled around that
-    // what is lost.
-    void paintLoss(QPainter &painter, const SidePlacement &side, const QRectF &sheet) const
-    {
-        const QRectF page = inWholePixels(onScreen(side, side.pages.first().rect));
-        QPainterPath lost;
-        lost.addRect(page);
-        QPainterPath kept;
-        kept.addRect(sheet);
-        QColor veil = palette().color(QPalette::Window);
-        veil.setAlphaF(0.72F);
-        painter.fillPath(lost - kept, veil);
-        painter.setPen(QPen(QColor(110, 110, 110), 1, Qt::DotLine));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(page.adjusted(0, 0, -1, -1));
-        painter.setPen(QPen(cautionText(palette()), 2));
-        painter.drawRect(sheet.adjusted(-1, -1, 1, 1));
-    }
-
-    // Thin and in a color that nobody takes for print.
-    void paintFold(QPainter &painter, const SidePlacement &side) const
-    {
-        const QRectF line = onScreen(side, {side.fold.p1(), side.fold.p2()});
-        painter.setPen(QPen(QColor(110, 150, 200), 1, Qt::DashLine));
-        painter.drawLine(line.topLeft().toPoint(), line.bottomRight().toPoint());
-    }
-
-    // What stands in place of pages, and the lines that are printed around pages.
-    void paintPlaces(QPainter &painter, const Look &shown) const
-    {
-        const SidePlacement &side = shown.placement;
-        for (int place = 0; place < side.pages.size(); ++place) {
-            const QRect rect = onScreen(side, side.pages[place].rect).toRect();
-            if (shown.drawsBorders && !rect.isEmpty()) {
-                painter.setPen(Qt::black);
-                painter.drawRect(rect.adjusted(0, 0, -1, -1));
-            }
-            if (!shown.notes.value(place).isEmpty())
-                paintText(painter, onScreen(side, placeOfPage(side, place)), shown.notes[place]);
-        }
-    }
-
-    int m_wheel = 0; // turned, but less than a notch
-};
-
 } // namespace
 
 struct DocumentPreview::Private
 {
     Document document;
     Layout layout;
-    std::vector<PageRun> runs; // of `layout`, or the whole document
-    SheetSequence sequence;    // of their pages
-    int index = 0;             // of the shown side
-    int followed = 0;          // the page that is followed where a side has two, as printed
+    PrintedPages pages;     // of `layout`, or the whole document
+    SheetSequence sequence; // of them
+    int index = 0;          // of the shown side
+    int followed = 0;       // the page that is followed where a side has two, as printed
     QString message;
 
     PageRenderer renderer;
@@ -303,7 +57,7 @@ struct DocumentPreview::Private
     QLabel *caption;
 
     SideToDraw asked; // what the renderer was asked for last
-    Look askedLook;
+    SideLook askedLook;
     std::optional<DrawnSide> answer; // none: it is still being drawn
     bool isPutOff = false;           // the renderer has not been asked yet
 
@@ -316,11 +70,20 @@ struct DocumentPreview::Private
         const bool isThere = followed > 0 && std::ranges::count(shown.bookletPages, followed) > 0;
         return isThere ? followed : shown.page;
     }
-    // The same as the document's.
-    int page() const { return documentPage(runs, printedPageInSight() - 1); }
+    // The first of the document's on it.
+    int page() const { return pages.firstOnPage(printedPageInSight()); }
     int sidesBehindPage() const
     {
         return index - std::max(0, sequence.indexOfPage(printedPageInSight()));
+    }
+
+    static PrintedPages allOf(const Document &document)
+    {
+        PagesToPrint all;
+        for (int page = 1; page <= document.pageCount(); ++page)
+            all.chosen.push_back(page);
+        all.sizeOf = [document](int page) { return document.pageSize(page); };
+        return PrintedPages(std::move(all));
     }
 
     void setUpSequence()
@@ -330,21 +93,14 @@ struct DocumentPreview::Private
         const int pageBefore = page();
         const int behind = sidesBehindPage();
         const bool wasAtTheBeginning = index == 0 && !isLeading();
-        const int last = document.pageCount();
-        runs = layout.pages;
-        if (runs.empty() && last > 0)
-            runs = {{1, last}};
-        // The layout of another document may still stand.
-        std::erase_if(runs, [last](const PageRun &run) { return run.first > last; });
-        for (PageRun &run : runs)
-            run.last = std::min(run.last, last);
-        sequence = SheetSequence(pageCount(runs), layout.twoSided, layout.special,
-                                 layout.imposition, layout.leadingPage.has_value());
+        pages = layout.pages.count() > 0 ? layout.pages : allOf(document);
+        sequence = SheetSequence(pages.count(), layout.twoSided, layout.special, layout.imposition,
+                                 layout.leadingPage.has_value());
         // A page may be printed twice.
         const bool isThere = page() == pageBefore && sidesBehindPage() == behind;
         // Who looks at the beginning sees what comes before it now.
         const bool stays = isThere || (wasAtTheBeginning && isLeading());
-        const int printed = stays ? 0 : kelvo::printedPage(runs, pageBefore);
+        const int printed = stays ? 0 : pages.findPrinted(pageBefore);
         if (printed > 0) {
             followed = printed;
             index = sequence.indexOfPage(printed) + behind;
@@ -366,8 +122,8 @@ struct DocumentPreview::Private
 
     bool isLeading() const { return side().kind == SheetSide::Kind::LeadingPage; }
 
-    // The pages that are printed on a side, place by place; 0 for a blank one. The leading page
-    // is none of them.
+    // The pages that go out on a side, place by place; 0 for a blank one. The leading page is
+    // none of them.
     static QList<int> printedPages(const SheetSide &shown)
     {
         if (shown.kind == SheetSide::Kind::LeadingPage)
@@ -377,6 +133,7 @@ struct DocumentPreview::Private
         return {shown.kind == SheetSide::Kind::Page ? shown.page : 0};
     }
 
+    // Where they lie on the sheet.
     SidePlacement placementOf(const SheetSide &shown) const
     {
         if (shown.kind == SheetSide::Kind::LeadingPage)
@@ -384,17 +141,65 @@ struct DocumentPreview::Private
         if (layout.imposition) {
             // Covers and inserts are folded with the sheets that they lie around or in.
             BookletSide side;
-            side.shape = document.pageSize(runs.front().first);
+            side.shape = pages.size(1);
             side.sheet = shown.bookletSheet;
             for (std::size_t place = 0; place < side.pages.size(); ++place) {
                 if (const int printed = shown.bookletPages[place]; printed > 0)
-                    side.pages[place] = document.pageSize(documentPage(runs, printed - 1));
+                    side.pages[place] = pages.size(printed);
             }
             return placeBooklet(side, *layout.imposition, layout.paper, layout.orientation);
         }
         // Before the first page, sheets are like the one that it is on.
-        return placePage(document.pageSize(page() > 0 ? page() : runs.front().first), layout.paper,
-                         layout.orientation);
+        const QSizeF size = pages.size(std::max(1, printedPageInSight()));
+        if (pages.layout().pagesPerSide == 1)
+            return placePage(size, layout.paper, layout.orientation);
+        // Several pages have turned the sheet as they need it, and one looks at it so.
+        SidePlacement side = placePage(size, {}, Orientation::Portrait);
+        if (isReverse(layout.orientation))
+            side.turnOver();
+        return side;
+    }
+
+    // What of the document lies on a side, place by place.
+    struct PlacedPages
+    {
+        SidePlacement placement;
+        QList<int> pages; // 0: none
+        QStringList notes = {};
+        QList<QRectF> borders = {};
+    };
+    PlacedPages placedPages(const SheetSide &shown, const SidePlacement &side) const
+    {
+        if (shown.kind == SheetSide::Kind::LeadingPage)
+            return {side, {0}, {QString()}};
+        const bool hasBorders = layout.imposition && layout.imposition->drawsBorders;
+        PlacedPages placed{side, {}};
+        placed.placement.pages.clear();
+        const QList<int> printed = printedPages(shown);
+        for (int place = 0; place < printed.size(); ++place) {
+            const PagePlacement &outer = side.pages[place];
+            const QList<int> onPage = pages.onPage(printed[place]);
+            if (std::ranges::count(onPage, 0) == onPage.size()) {
+                placed.placement.pages << PagePlacement{.rect = {}, .place = outer.place};
+                placed.pages << 0;
+                placed.notes << blankWords();
+                continue;
+            }
+            if (hasBorders)
+                placed.borders << outer.rect;
+            const SidePlacement inner = placedWithin(outer, pages.placement(printed[place]));
+            for (int within = 0; within < onPage.size(); ++within) {
+                PagePlacement page = inner.pages[within];
+                if (pages.isAsItIs(printed[place]))
+                    page.place = outer.place; // the sheet cuts it, if anything does
+                placed.placement.pages << page;
+                placed.pages << onPage[within];
+                placed.notes << QString();
+                if (pages.layout().drawsBorders && onPage.size() > 1 && onPage[within] > 0)
+                    placed.borders << (page.rect & page.place);
+            }
+        }
+        return placed;
     }
 
     // From what is printed to what is shown.
@@ -414,12 +219,8 @@ struct DocumentPreview::Private
 
     void showSide(const SheetSide &shown)
     {
-        sheet->wanted = {
-            placementOf(shown), layout.imposition && layout.imposition->drawsBorders, {}, {}};
-        for (int page : printedPages(shown))
-            sheet->wanted.notes << (page > 0 ? QString() : blankWords());
-        if (isLeading())
-            sheet->wanted.notes = {QString()};
+        const PlacedPages placed = placedPages(shown, placementOf(shown));
+        sheet->wanted = {placed.placement, placed.borders, {}, placed.notes};
         const bool hadWords = !sheet->words.isEmpty();
         sheet->words = sheetWords(shown, layout.words);
         sheet->isMarked = !shown.exceptions.isEmpty();
@@ -436,7 +237,7 @@ struct DocumentPreview::Private
         QString text;
         if (message.isEmpty() && count() > 0) {
             const SheetSide shown = side();
-            text = sideCaption(shown, runs, document.pageCount(), layout.words,
+            text = sideCaption(shown, pages, document.pageCount(), layout.words,
                                layout.leadingPage ? layout.leadingPage->name : QString());
             const QStringList lacking = answer ? answer->lackingOverlays : QStringList();
             const QString remark =
@@ -464,18 +265,27 @@ struct DocumentPreview::Private
         drawing.pixels = (all.size() * ratio).toSize();
         if (isLeading())
             drawing.leadingPage = layout.leadingPage;
-        const QList<int> printed = printedPages(side());
+        const SheetSide shown = side();
+        const SidePlacement outer = placementOf(shown);
+        const PlacedPages placed = placedPages(shown, outer);
+        for (int place = 0; place < placed.pages.size(); ++place) {
+            if (placed.pages[place] == 0)
+                continue;
+            const PagePlacement &page = placed.placement.pages[place];
+            SideToDraw::Page drawn{placed.pages[place], pixels(page.rect), page.rotation};
+            if (placed.pages.size() > 1)
+                drawn.clip = pixels(page.place);
+            drawing.pages << drawn;
+        }
+        const QList<int> printed = printedPages(shown);
         for (int place = 0; place < printed.size(); ++place) {
             if (printed[place] == 0)
                 continue;
-            const PagePlacement &page = placement.pages[place];
-            drawing.pages << SideToDraw::Page{documentPage(runs, printed[place] - 1),
-                                              pixels(page.rect), page.rotation};
-            const OverlayPlacement over = placeOverlay(placement, place);
+            const OverlayPlacement over = placeOverlay(outer, place);
             for (const Overlay &overlay : layout.overlays) {
                 if (!overlay.firstPageOnly || printed[place] == 1)
                     drawing.overlays << SideToDraw::OverlayOnPage{
-                        overlay, over.page, pixels(over.rect), placement.isUpsideDown ? 180 : 0};
+                        overlay, over.page, pixels(over.rect), outer.isUpsideDown ? 180 : 0};
             }
         }
         return drawing;
@@ -521,7 +331,7 @@ struct DocumentPreview::Private
 
     void showAnswer()
     {
-        Look look = askedLook;
+        SideLook look = askedLook;
         look.picture = answer->picture;
         auto problem = answer->problems.cbegin();
         for (QString &note : look.notes) {
@@ -590,7 +400,8 @@ void DocumentPreview::setDocument(const Document &document)
 {
     d->document = document;
     d->index = 0;
-    d->runs.clear();
+    d->layout.pages = {}; // another document's
+    d->pages = {};
     d->setUpSequence();
     // Another document's page must not stand in for this one's.
     d->forgetAsked();
@@ -613,6 +424,11 @@ void DocumentPreview::setOverlayPainter(OverlayPainter painter)
 void DocumentPreview::setLeadingPagePainter(LeadingPagePainter painter)
 {
     d->renderer.setLeadingPagePainter(std::move(painter));
+}
+
+int DocumentPreview::pageInSight() const
+{
+    return d->page();
 }
 
 void DocumentPreview::setMessage(const QString &message)

@@ -2,8 +2,8 @@
 
 #include "document.h"
 #include "job_settings.h"
-#include "page_ranges.h"
 #include "page_renderer.h"
+#include "printed_pages.h"
 #include "sheet_sequence.h"
 
 #include <QWidget>
@@ -30,8 +30,8 @@ public:
 
     struct Layout
     {
-        std::vector<PageRun> pages; // of the document; empty: all
-        QSizeF paper;               // points; empty: each page's own size
+        PrintedPages pages; // of this document; none: all, as they are
+        QSizeF paper;       // points; empty: each page's own size
         Orientation orientation = Orientation::Portrait;
         bool twoSided = false;
         SpecialSheets special;
@@ -44,6 +44,7 @@ public:
     void setLayout(const Layout &layout);
     void setOverlayPainter(OverlayPainter painter);         // of sides drawn from now on
     void setLeadingPagePainter(LeadingPagePainter painter); // likewise
+    int pageInSight() const;                                // of the document, from 1; 0: none
     void setMessage(const QString &message); // instead of a page; empty shows pages again
 
     // Where people do not see it (audience.h) a side is put off until this asks for it.

@@ -1,38 +1,44 @@
 #include "preview_captions.h"
 
+#include "layout_words.h"
 #include "texts.h"
+
+#include <algorithm>
 
 namespace kelvo {
 
 namespace {
 
-QString pageCaption(const SheetSide &side, const QString &sheet, const QString &page,
-                    const QString &count)
+// What a sheet is called, and which of its sides one looks at.
+QString sideWords(const SheetSide &side)
 {
+    const QString sheet = QString::number(side.sheet);
     if (!side.isTwoSided)
-        return translate("Preview", "Sheet %1 · page %2 of %3").arg(sheet, page, count);
-    return side.isBack
-        ? translate("Preview", "Sheet %1, back · page %2 of %3").arg(sheet, page, count)
-        : translate("Preview", "Sheet %1, front · page %2 of %3").arg(sheet, page, count);
+        return translate("Preview", "Sheet %1").arg(sheet);
+    return (side.isBack ? translate("Preview", "Sheet %1, back")
+                        : translate("Preview", "Sheet %1, front"))
+        .arg(sheet);
 }
 
-QString bookletCaption(const SheetSide &side, const QString &sheet,
-                       const std::vector<PageRun> &runs, const QString &count)
+QString blankBackCaption(const SheetSide &side)
 {
-    QStringList pages;
-    for (int page : side.bookletPages) {
-        if (page > 0)
-            pages << QString::number(documentPage(runs, page - 1));
-    }
+    return translate("Preview", "Sheet %1, back · blank").arg(side.sheet);
+}
+
+QString pagesCaption(const SheetSide &side, const PrintedPages &printed, const QString &count)
+{
+    const bool isBooklet = side.kind == SheetSide::Kind::Booklet;
+    QList<int> pages;
+    for (const int page :
+         isBooklet ? QList<int>{side.bookletPages[0], side.bookletPages[1]} : QList<int>{side.page})
+        pages << printed.onPage(page);
+    const bool isBlankHalf = isBooklet && std::ranges::count(side.bookletPages, 0) == 1;
+    pages.removeAll(0);
     if (pages.isEmpty())
-        return translate("Preview", "Sheet %1, back · blank").arg(sheet);
-    if (pages.size() == 1)
-        return (side.isBack ? translate("Preview", "Sheet %1, back · page %2 of %3, one blank")
-                            : translate("Preview", "Sheet %1, front · page %2 of %3, one blank"))
-            .arg(sheet, pages[0], count);
-    return (side.isBack ? translate("Preview", "Sheet %1, back · pages %2 and %3 of %4")
-                        : translate("Preview", "Sheet %1, front · pages %2 and %3 of %4"))
-        .arg(sheet, pages[0], pages[1], count);
+        return blankBackCaption(side);
+    const QString words = translate("Preview", "%1 · page(s) %2 of %3", nullptr, pages.size())
+                              .arg(sideWords(side), pageListInWords(pages), count);
+    return isBlankHalf ? translate("Preview", "%1, one blank").arg(words) : words;
 }
 
 // "2–3, 5"
@@ -48,7 +54,7 @@ QString rangesInWords(const QList<SpecialSheets::Exception> &exceptions)
 
 } // namespace
 
-QString sideCaption(const SheetSide &side, const std::vector<PageRun> &runs, int count,
+QString sideCaption(const SheetSide &side, const PrintedPages &pages, int count,
                     const SpecialSheetWords &words, const QString &leadingPage)
 {
     const QString sheet = QString::number(side.sheet);
@@ -65,14 +71,12 @@ QString sideCaption(const SheetSide &side, const std::vector<PageRun> &runs, int
         return translate("Preview", "Sheets %1–%2 · %3")
             .arg(sheet, QString::number(side.sheet + side.sheets - 1), words.insert);
     case SheetSide::Kind::BlankBack:
-        return translate("Preview", "Sheet %1, back · blank").arg(sheet);
+        return blankBackCaption(side);
     case SheetSide::Kind::Booklet:
-        return bookletCaption(side, sheet, runs, QString::number(count));
     case SheetSide::Kind::Page:
         break;
     }
-    return pageCaption(side, sheet, QString::number(documentPage(runs, side.page - 1)),
-                       QString::number(count));
+    return pagesCaption(side, pages, QString::number(count));
 }
 
 QString remarkCaption(const SheetSide &side, const SidePlacement &placement,

@@ -1,6 +1,7 @@
 #include "print_dialog.h"
 
 #include "accessible_role.h"
+#include "audience.h"
 #include "background_work.h"
 #include "bundle_painters.h"
 #include "caution_bar.h"
@@ -89,6 +90,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_firstFrame.setInterval(firstFrameMs);
     connect(&m_firstFrame, &QTimer::timeout, this, [this] {
         m_session->openTheDocument();
+        if (audience() != Audience::Nobody)
+            m_parts.printer->buildFolded();
         emit begun();
     });
     m_watch.setInterval(watchMs);
@@ -151,6 +154,9 @@ PrintDialog::PrintDialog(DialogOptions options)
         return noErr;
     });
     connect(m_parts.printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
+    connect(m_parts.printer, &PrinterPane::pageInSightWanted, this, [this] {
+        m_parts.printer->setPageInSight(std::max(1, m_parts.preview->pageInSight()));
+    });
     connect(m_parts.panelSwitch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
     connect(m_parts.waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
@@ -344,8 +350,8 @@ void PrintDialog::updatePreview()
     SessionJob &job = m_session->job();
     const JobSettings settings = job.settings();
     DocumentPreview::Layout layout;
-    if (const auto runs = m_session->pages())
-        layout.pages = runs.value();
+    if (auto pages = job.printedPages())
+        layout.pages = std::move(pages).value();
     layout.orientation = settings.orientation;
     if (const PpdFile *ppd = job.ppd())
         layout.paper = paperSize(settings.paperName, *ppd).value_or(QSizeF());

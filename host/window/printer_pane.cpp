@@ -2,6 +2,7 @@
 
 #include "accessible_role.h"
 #include "caution_colours.h"
+#include "layout_rows.h"
 #include "mnemonics.h"
 #include "popup_button.h"
 #include "preset_menu.h"
@@ -24,7 +25,7 @@ namespace kelvo {
 
 namespace {
 
-enum PagesChoice { AllPages = 1, SomePages = 2 };
+enum PagesChoice { AllPages = 1, SomePages = 2, PageInSight = 3 };
 
 // The reference values are PMOrientation's.
 struct OrientationRow
@@ -82,6 +83,7 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     , m_pagesProblem(new QLabel(this))
     , m_paper(new PopupButton(this))
     , m_orientation(new PopupButton(this))
+    , m_layout(nullptr)
     , m_settingControls{presets->popup(), m_copies, m_collate,    m_pagesChoice,
                         m_pages,          m_paper,  m_orientation}
     , m_grid(new QGridLayout(this))
@@ -114,8 +116,10 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
 
     m_pagesChoice->setObjectName(QStringLiteral("pagesChoice"));
     Menu choices;
-    choices.items = {{.text = tr("All"), .key = QStringLiteral("all"), .reference = AllPages},
-                     {.text = tr("Range"), .key = QStringLiteral("range"), .reference = SomePages}};
+    choices.items = {
+        {.text = tr("All"), .key = QStringLiteral("all"), .reference = AllPages},
+        {.text = tr("Current page"), .key = QStringLiteral("current"), .reference = PageInSight},
+        {.text = tr("Range"), .key = QStringLiteral("range"), .reference = SomePages}};
     m_pagesChoice->setMenu(choices);
     m_pages->setObjectName(QStringLiteral("pages"));
     m_pages->setAccessibleName(tr("Pages to print"));
@@ -149,6 +153,10 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
                                       .reference = static_cast<std::int32_t>(row.value)});
     m_orientation->setMenu(orientations);
     addRow(tr("Or&ientation:"), m_orientation, m_orientation);
+    m_layout =
+        new LayoutRows(this, m_grid, [this](const QString &text, QWidget *buddy, QWidget *field) {
+            return addRow(text, buddy, field);
+        });
 
     // The pages belong to one job: nobody asks whether they were chosen.
     setTicketPlaces(m_copies, {{kPMPrintSettingsTicket, kPMCopiesKey}});
@@ -159,7 +167,8 @@ PrinterPane::PrinterPane(PresetMenu *presets, QWidget *parent)
     // The presets were made before this, and come second all the same.
     QWidget *last = m_printer;
     auto stops = presets->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    stops << m_copies << m_collate << m_pagesChoice << m_pages << m_paper << m_orientation;
+    stops << m_copies << m_collate << m_pagesChoice << m_pages << m_paper << m_orientation
+          << m_layout->toggle();
     for (QWidget *stop : stops) {
         setTabOrder(last, stop);
         last = stop;
@@ -269,6 +278,8 @@ void PrinterPane::setDevice(const QString &name)
 
 void PrinterPane::setSettings(const JobSettings &settings, const PpdFile *ppd)
 {
+    m_settings = settings;
+    m_layout->setSettings(settings);
     // What is being typed stays until it is taken.
     if (m_copies->value() != settings.copies)
         m_copies->setValue(settings.copies);
@@ -330,13 +341,15 @@ void PrinterPane::dropTypedText()
 
 JobSettings PrinterPane::settings() const
 {
-    JobSettings settings;
+    JobSettings settings = m_settings;
     settings.copies = m_copies->value();
     settings.collate = m_collate->isChecked();
+    settings.pageRanges.clear();
     if (m_pagesChoice->chosenReference() == SomePages)
         settings.pageRanges = m_pages->text().trimmed();
     settings.paperName = m_paperName;
     settings.orientation = static_cast<Orientation>(m_orientation->chosenReference());
+    m_layout->putInto(settings);
     return settings;
 }
 
@@ -350,9 +363,23 @@ void PrinterPane::setSettingsEnabled(bool enabled)
     for (QWidget *control : m_settingControls)
         setEnabledWithLabel(control, enabled);
     m_presets->setEnabled(enabled);
+    m_layout->setEnabled(enabled);
     m_collate->setEnabled(enabled && m_copies->value() > 1);
     m_paper->setEnabled(enabled && m_hasPaper);
     showPageField();
+}
+
+void PrinterPane::setPageInSight(int page)
+{
+    m_pagesChoice->setValueByReference(SomePages);
+    m_pages->setText(QString::number(page));
+    showPageField();
+    emit settingsEdited();
+}
+
+void PrinterPane::buildFolded()
+{
+    m_layout->build();
 }
 
 void PrinterPane::setPagesProblem(const QString &problem)
@@ -385,6 +412,17 @@ OSStatus PrinterPane::handle(const Event &event)
         if (row < m_paper->menu().items.size())
             m_paperName = m_paper->menu().items[row].key;
         emit settingsEdited();
+        return noErr;
+    }
+    if (m_layout->isEdit(event)) {
+        JobSettings settings = m_settings;
+        m_layout->putInto(settings);
+        m_layout->setSettings(settings);
+        emit settingsEdited();
+        return noErr;
+    }
+    if (source == m_pagesChoice && isHit && m_pagesChoice->chosenReference() == PageInSight) {
+        emit pageInSightWanted();
         return noErr;
     }
     if (source == m_pagesChoice && isHit) {

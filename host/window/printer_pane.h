@@ -16,6 +16,7 @@ class QLineEdit;
 
 namespace kelvo {
 
+class LayoutRows;
 class PopupButton;
 class PresetMenu;
 class SpinField;
@@ -44,6 +45,11 @@ public:
     bool arePagesMissing() const;          // a range is chosen and not typed yet
     void setSettingsEnabled(bool enabled); // before there is a ticket: not
 
+    // The one page that is in sight, where the user has asked for it.
+    void setPageInSight(int page);
+    // What most jobs do not need, and no first frame.
+    void buildFolded();
+
     // Why the pages cannot be printed; empty when they can.
     void setPagesProblem(const QString &problem);
 
@@ -53,6 +59,7 @@ protected:
 signals:
     void printerChosen(const QString &name);
     void settingsEdited();
+    void pageInSightWanted();
 
 private:
     QLabel *addRow(const QString &text, QWidget *buddy, QWidget *field);
@@ -70,10 +77,12 @@ private:
     QLabel *m_pagesProblem;
     PopupButton *m_paper;
     PopupButton *m_orientation;
+    LayoutRows *m_layout;
     std::vector<QWidget *> m_settingControls;
     QGridLayout *m_grid;
     EventHandlerRef m_handler;
-    QString m_paperName; // as the ticket has it, also when the device lacks it
+    JobSettings m_settings; // as they were set last
+    QString m_paperName;    // as the ticket has it, also when the device lacks it
     bool m_hasPaper = false;
 };
 

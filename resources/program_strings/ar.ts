@@ -254,6 +254,10 @@
         <translation>تعذّر تحويله إلى ملف PDF سليم</translation>
     </message>
     <message>
+        <source>its pages cannot be laid out like this; choose another paper or scaling</source>
+        <translation>لا يمكن ترتيب صفحاته على هذا النحو؛ اختر ورقًا آخر أو تحجيمًا آخر</translation>
+    </message>
+    <message>
         <source>the document has %1 pages, and not all that are asked for</source>
         <translation>عدد صفحات المستند %1، وليست فيه كل الصفحات المطلوبة</translation>
     </message>
@@ -444,10 +448,6 @@
     <message>
         <source>the document has pages 1 to %1</source>
         <translation>صفحات المستند من 1 إلى %1</translation>
-    </message>
-    <message>
-        <source>the last page comes before the first; write %1-%2</source>
-        <translation>تأتي الصفحة الأخيرة قبل الأولى؛ اكتب &#x2066;%1-%2&#x2069;</translation>
     </message>
     <message>
         <source>all ranges together may name %1 pages at most</source>
@@ -894,17 +894,6 @@
 </context>
 <context>
     <name>Job</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1</numerusform>
-            <numerusform>%1 وغيرها (%n)</numerusform>
-            <numerusform>%1 وغيرها (%n)</numerusform>
-            <numerusform>%1 وغيرها (%n)</numerusform>
-            <numerusform>%1 وغيرها (%n)</numerusform>
-            <numerusform>%1 وغيرها (%n)</numerusform>
-        </translation>
-    </message>
     <message>
         <source>“%1” takes no jobs.</source>
         <translation>لا تقبل «&#x2068;%1&#x2069;» مهام.</translation>
@@ -939,10 +928,6 @@
             <numerusform>الصفحات &#x2066;%1&#x2069; أكبر من الورق، %2: يُقطع ما لا يتسع له.</numerusform>
             <numerusform>الصفحات &#x2066;%1&#x2069; أكبر من الورق، %2: يُقطع ما لا يتسع له.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Choose larger paper; jobs are not scaled.</source>
-        <translation>اختر ورقًا أكبر؛ لا يُغيَّر حجم المهام.</translation>
     </message>
     <message>
         <source>The document is damaged; what could be read of it was put together, and parts may be missing.</source>
@@ -1025,10 +1010,6 @@
     <message>
         <source>this printer has no paper %1</source>
         <translation>ليس في هذه الطابعة الورق &#x2068;%1&#x2069;</translation>
-    </message>
-    <message>
-        <source>pages are printed at their own size; choose a paper that holds them, -o media=NAME</source>
-        <translation>تُطبع الصفحات بحجمها الأصلي؛ اختر بالخيار &#x2066;-o media=NAME&#x2069; ورقًا يتسع لها</translation>
     </message>
     <message>
         <source>this printer does not have this option</source>
@@ -1342,6 +1323,76 @@
         <translation>&#x2068;%1&#x2069;: %2.</translation>
     </message>
     <message>
+        <source>Choose larger paper, or let the pages be made to fit.</source>
+        <translation>اختر ورقًا أكبر، أو دع الصفحات تُصغَّر لتلائمه.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Covers, inserts, exception pages and booklets count what is printed: the first page there has page(s) %1 of the document.</source>
+        <translation>
+            <numerusform>تُحسب الأغلفة والإدراجات وصفحات الاستثناء والكتيبات بما يُطبع: على الصفحة الأولى منه الصفحة %1 من المستند.</numerusform>
+            <numerusform>تُحسب الأغلفة والإدراجات وصفحات الاستثناء والكتيبات بما يُطبع: على الصفحة الأولى منه الصفحة %1 من المستند.</numerusform>
+            <numerusform>تُحسب الأغلفة والإدراجات وصفحات الاستثناء والكتيبات بما يُطبع: على الصفحة الأولى منه الصفحة %1 من المستند.</numerusform>
+            <numerusform>تُحسب الأغلفة والإدراجات وصفحات الاستثناء والكتيبات بما يُطبع: على الصفحة الأولى منه الصفحة %1 من المستند.</numerusform>
+            <numerusform>تُحسب الأغلفة والإدراجات وصفحات الاستثناء والكتيبات بما يُطبع: على الصفحة الأولى منه الصفحة %1 من المستند.</numerusform>
+            <numerusform>تُحسب الأغلفة والإدراجات وصفحات الاستثناء والكتيبات بما يُطبع: على الصفحة الأولى منه الصفحة %1 من المستند.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Of these: %1</source>
+        <translation>منها: %1</translation>
+    </message>
+    <message>
+        <source>Order: As in the document</source>
+        <translation>الترتيب: كما في المستند</translation>
+    </message>
+    <message>
+        <source>Order: Reversed</source>
+        <translation>الترتيب: معكوس</translation>
+    </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the paper, %2, and made smaller to fit.</source>
+        <translation>
+            <numerusform>الصفحة %1 أكبر من الورق، %2، وتُصغَّر لتلائمه.</numerusform>
+            <numerusform>الصفحة %1 أكبر من الورق، %2، وتُصغَّر لتلائمه.</numerusform>
+            <numerusform>الصفحتان %1 أكبر من الورق، %2، وتُصغَّران لتلائماه.</numerusform>
+            <numerusform>الصفحات %1 أكبر من الورق، %2، وتُصغَّر لتلائمه.</numerusform>
+            <numerusform>الصفحات %1 أكبر من الورق، %2، وتُصغَّر لتلائمه.</numerusform>
+            <numerusform>الصفحات %1 أكبر من الورق، %2، وتُصغَّر لتلائمه.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1</source>
+        <translation>الصفحات في الورقة: %1</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2</source>
+        <translation>الصفحات في الورقة: %1، %2</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2, with borders</source>
+        <translation>الصفحات في الورقة: %1، %2، بإطارات</translation>
+    </message>
+    <message>
+        <source>Scaling: %1</source>
+        <translation>التحجيم: %1</translation>
+    </message>
+    <message>
+        <source>a side has room for 1, 2, 4, 6, 9 or 16 pages</source>
+        <translation>يتسع وجه الورقة لـ 1 أو 2 أو 4 أو 6 أو 9 أو 16 صفحة</translation>
+    </message>
+    <message>
+        <source>none of these pages has an even number</source>
+        <translation>ليس بين هذه الصفحات صفحة زوجية الرقم</translation>
+    </message>
+    <message>
+        <source>none of these pages has an odd number</source>
+        <translation>ليس بين هذه الصفحات صفحة فردية الرقم</translation>
+    </message>
+    <message>
+        <source>pages are scaled by a number from %1 to %2 percent</source>
+        <translation>تُحجَّم الصفحات بعدد من %1 إلى %2 بالمئة</translation>
+    </message>
+    <message>
         <source>On the server: held %1</source>
         <translation>على الخادم: معلَّقة %1</translation>
     </message>
@@ -1584,6 +1635,89 @@
     </message>
 </context>
 <context>
+    <name>Layout</name>
+    <message>
+        <source>%1 %</source>
+        <comment>a percentage</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>الصفحات الفردية والزوجية</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>الصفحات الفردية فقط</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>الصفحات الزوجية فقط</translation>
+    </message>
+    <message>
+        <source>Shrink larger pages</source>
+        <translation>تصغير الصفحات الأكبر</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>ملاءمة الورق</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>ملء الورق</translation>
+    </message>
+    <message>
+        <source>Percentage</source>
+        <translation>نسبة مئوية</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>Right, then down</source>
+        <translation>يمينًا ثم لأسفل</translation>
+    </message>
+    <message>
+        <source>Right, then up</source>
+        <translation>يمينًا ثم لأعلى</translation>
+    </message>
+    <message>
+        <source>Left, then down</source>
+        <translation>يسارًا ثم لأسفل</translation>
+    </message>
+    <message>
+        <source>Left, then up</source>
+        <translation>يسارًا ثم لأعلى</translation>
+    </message>
+    <message>
+        <source>Down, then right</source>
+        <translation>لأسفل ثم يمينًا</translation>
+    </message>
+    <message>
+        <source>Down, then left</source>
+        <translation>لأسفل ثم يسارًا</translation>
+    </message>
+    <message>
+        <source>Up, then right</source>
+        <translation>لأعلى ثم يمينًا</translation>
+    </message>
+    <message>
+        <source>Up, then left</source>
+        <translation>لأعلى ثم يسارًا</translation>
+    </message>
+</context>
+<context>
     <name>Main</name>
     <message>
         <source>The device panels are missing (%1).</source>
@@ -1710,36 +1844,8 @@
 <context>
     <name>Preview</name>
     <message>
-        <source>Sheet %1 · page %2 of %3</source>
-        <translation>الورقة %1 · الصفحة %2 من %3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3</source>
-        <translation>الورقة %1، الظهر · الصفحة %2 من %3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3</source>
-        <translation>الورقة %1، الوجه · الصفحة %2 من %3</translation>
-    </message>
-    <message>
         <source>Sheet %1, back · blank</source>
         <translation>الورقة %1، الظهر · فارغ</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3, one blank</source>
-        <translation>الورقة %1، الظهر · الصفحة %2 من %3، وواحدة فارغة</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3, one blank</source>
-        <translation>الورقة %1، الوجه · الصفحة %2 من %3، وواحدة فارغة</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · pages %2 and %3 of %4</source>
-        <translation>الورقة %1، الظهر · الصفحتان %2 و%3 من %4</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · pages %2 and %3 of %4</source>
-        <translation>الورقة %1، الوجه · الصفحتان %2 و%3 من %4</translation>
     </message>
     <message>
         <source>Sheet %1 · %2</source>
@@ -1783,6 +1889,33 @@
     <message>
         <source>Blank</source>
         <translation>فارغ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · page(s) %2 of %3</source>
+        <translation>
+            <numerusform>%1 · الصفحة %2 من %3</numerusform>
+            <numerusform>%1 · الصفحة %2 من %3</numerusform>
+            <numerusform>%1 · الصفحتان %2 من %3</numerusform>
+            <numerusform>%1 · الصفحات %2 من %3</numerusform>
+            <numerusform>%1 · الصفحات %2 من %3</numerusform>
+            <numerusform>%1 · الصفحات %2 من %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, one blank</source>
+        <translation>%1، وواحدة فارغة</translation>
+    </message>
+    <message>
+        <source>Sheet %1</source>
+        <translation>الورقة %1</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>الورقة %1، الظهر</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>الورقة %1، الوجه</translation>
     </message>
 </context>
 <context>
@@ -2246,6 +2379,65 @@
     </message>
 </context>
 <context>
+    <name>kelvo::LayoutRows</name>
+    <message>
+        <source>%1 per sheet</source>
+        <translation>%1 في الورقة</translation>
+    </message>
+    <message>
+        <source>&amp;Borders around pages</source>
+        <translation>إ&amp;طارات حول الصفحات</translation>
+    </message>
+    <message>
+        <source>Odd and even pages, order, scaling, and several pages on a sheet</source>
+        <translation>الصفحات الفردية والزوجية، والترتيب، والتحجيم، وعدة صفحات في الورقة</translation>
+    </message>
+    <message>
+        <source>On&amp;ly:</source>
+        <translation>&amp;فقط:</translation>
+    </message>
+    <message>
+        <source>Page layout</source>
+        <translation>تخطيط الصفحات</translation>
+    </message>
+    <message>
+        <source>Page layout: %1</source>
+        <translation>تخطيط الصفحات: %1</translation>
+    </message>
+    <message>
+        <source>Pages per s&amp;heet:</source>
+        <translation>ال&amp;صفحات في الورقة:</translation>
+    </message>
+    <message>
+        <source>Percentage of a page’s own size</source>
+        <translation>النسبة من حجم الصفحة الأصلي</translation>
+    </message>
+    <message>
+        <source>Re&amp;verse</source>
+        <translation>&amp;معكوس</translation>
+    </message>
+    <message>
+        <source>Sc&amp;aling:</source>
+        <translation>الت&amp;حجيم:</translation>
+    </message>
+    <message>
+        <source>The last page, or sheet, comes out first</source>
+        <translation>تخرج الصفحة الأخيرة، أو الورقة الأخيرة، أولًا</translation>
+    </message>
+    <message>
+        <source>Where the next page lies</source>
+        <translation>موضع الصفحة التالية</translation>
+    </message>
+    <message>
+        <source>not scaled</source>
+        <translation>بلا تحجيم</translation>
+    </message>
+    <message>
+        <source>reversed</source>
+        <translation>معكوس</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::PresetMenu</name>
     <message>
         <source>Default settings</source>
@@ -2620,6 +2812,10 @@ The settings stay as they are.</source>
     <message>
         <source>such as 1-3, 7</source>
         <translation>مثل &#x2066;1-3, 7&#x2069;</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>الصفحة المعروضة</translation>
     </message>
 </context>
 <context>

@@ -790,6 +790,10 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
         <translation>daraus ließ sich keine einwandfreie PDF-Datei machen</translation>
     </message>
     <message>
+        <source>its pages cannot be laid out like this; choose another paper or scaling</source>
+        <translation>seine Seiten lassen sich so nicht anordnen; wählen Sie ein anderes Papier oder eine andere Skalierung</translation>
+    </message>
+    <message>
         <source>the document has %1 pages, and not all that are asked for</source>
         <translation>das Dokument hat %1 Seiten, und nicht alle gewünschten sind darunter</translation>
     </message>
@@ -976,10 +980,6 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     <message>
         <source>the document has pages 1 to %1</source>
         <translation>das Dokument hat die Seiten 1 bis %1</translation>
-    </message>
-    <message>
-        <source>the last page comes before the first; write %1-%2</source>
-        <translation>die letzte Seite kommt vor der ersten; schreiben Sie %1-%2</translation>
     </message>
     <message>
         <source>all ranges together may name %1 pages at most</source>
@@ -1422,13 +1422,6 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
 </context>
 <context>
     <name>Job</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 und %n weitere</numerusform>
-            <numerusform>%1 und %n weitere</numerusform>
-        </translation>
-    </message>
     <message>
         <source>“%1” takes no jobs.</source>
         <translation>„%1“ nimmt keine Aufträge an.</translation>
@@ -1459,10 +1452,6 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
             <numerusform>Seite %1 ist größer als das Papier, %2: Was nicht darauf passt, wird abgeschnitten.</numerusform>
             <numerusform>Die Seiten %1 sind größer als das Papier, %2: Was nicht darauf passt, wird abgeschnitten.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Choose larger paper; jobs are not scaled.</source>
-        <translation>Wählen Sie größeres Papier; Aufträge werden nicht skaliert.</translation>
     </message>
     <message>
         <source>The document is damaged; what could be read of it was put together, and parts may be missing.</source>
@@ -1537,10 +1526,6 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     <message>
         <source>this printer has no paper %1</source>
         <translation>dieser Drucker hat kein Papier %1</translation>
-    </message>
-    <message>
-        <source>pages are printed at their own size; choose a paper that holds them, -o media=NAME</source>
-        <translation>Seiten werden in ihrer eigenen Größe gedruckt; wählen Sie mit -o media=NAME ein Papier, auf das sie passen</translation>
     </message>
     <message>
         <source>this printer does not have this option</source>
@@ -1834,6 +1819,68 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
         <translation>%1: %2.</translation>
     </message>
     <message>
+        <source>Choose larger paper, or let the pages be made to fit.</source>
+        <translation>Wählen Sie größeres Papier, oder lassen Sie die Seiten einpassen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Covers, inserts, exception pages and booklets count what is printed: the first page there has page(s) %1 of the document.</source>
+        <translation>
+            <numerusform>Deckblätter, Einlagen, Ausnahmeseiten und Broschüren zählen, was gedruckt wird: Auf der ersten Seite steht Seite %1 des Dokuments.</numerusform>
+            <numerusform>Deckblätter, Einlagen, Ausnahmeseiten und Broschüren zählen, was gedruckt wird: Auf der ersten Seite stehen die Seiten %1 des Dokuments.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Of these: %1</source>
+        <translation>Davon: %1</translation>
+    </message>
+    <message>
+        <source>Order: As in the document</source>
+        <translation>Reihenfolge: wie im Dokument</translation>
+    </message>
+    <message>
+        <source>Order: Reversed</source>
+        <translation>Reihenfolge: umgekehrt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the paper, %2, and made smaller to fit.</source>
+        <translation>
+            <numerusform>Seite %1 ist größer als das Papier, %2, und wird passend verkleinert.</numerusform>
+            <numerusform>Die Seiten %1 sind größer als das Papier, %2, und werden passend verkleinert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1</source>
+        <translation>Seiten pro Blatt: %1</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2</source>
+        <translation>Seiten pro Blatt: %1, %2</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2, with borders</source>
+        <translation>Seiten pro Blatt: %1, %2, mit Rahmen</translation>
+    </message>
+    <message>
+        <source>Scaling: %1</source>
+        <translation>Skalierung: %1</translation>
+    </message>
+    <message>
+        <source>a side has room for 1, 2, 4, 6, 9 or 16 pages</source>
+        <translation>auf einer Blattseite haben 1, 2, 4, 6, 9 oder 16 Seiten Platz</translation>
+    </message>
+    <message>
+        <source>none of these pages has an even number</source>
+        <translation>keine dieser Seiten hat eine gerade Nummer</translation>
+    </message>
+    <message>
+        <source>none of these pages has an odd number</source>
+        <translation>keine dieser Seiten hat eine ungerade Nummer</translation>
+    </message>
+    <message>
+        <source>pages are scaled by a number from %1 to %2 percent</source>
+        <translation>Seiten werden mit einer Zahl von %1 bis %2 Prozent skaliert</translation>
+    </message>
+    <message>
         <source>On the server: held %1</source>
         <translation>Auf dem Server: angehalten %1</translation>
     </message>
@@ -2072,6 +2119,85 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     </message>
 </context>
 <context>
+    <name>Layout</name>
+    <message>
+        <source>%1 %</source>
+        <comment>a percentage</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Ungerade und gerade Seiten</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Nur ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Nur gerade Seiten</translation>
+    </message>
+    <message>
+        <source>Shrink larger pages</source>
+        <translation>Größere Seiten verkleinern</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>An Papier anpassen</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>Papier ausfüllen</translation>
+    </message>
+    <message>
+        <source>Percentage</source>
+        <translation>Prozentsatz</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Right, then down</source>
+        <translation>Nach rechts, dann nach unten</translation>
+    </message>
+    <message>
+        <source>Right, then up</source>
+        <translation>Nach rechts, dann nach oben</translation>
+    </message>
+    <message>
+        <source>Left, then down</source>
+        <translation>Nach links, dann nach unten</translation>
+    </message>
+    <message>
+        <source>Left, then up</source>
+        <translation>Nach links, dann nach oben</translation>
+    </message>
+    <message>
+        <source>Down, then right</source>
+        <translation>Nach unten, dann nach rechts</translation>
+    </message>
+    <message>
+        <source>Down, then left</source>
+        <translation>Nach unten, dann nach links</translation>
+    </message>
+    <message>
+        <source>Up, then right</source>
+        <translation>Nach oben, dann nach rechts</translation>
+    </message>
+    <message>
+        <source>Up, then left</source>
+        <translation>Nach oben, dann nach links</translation>
+    </message>
+</context>
+<context>
     <name>Main</name>
     <message>
         <source>standard output cannot be written; what was done before stays done</source>
@@ -2286,36 +2412,8 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
 <context>
     <name>Preview</name>
     <message>
-        <source>Sheet %1 · page %2 of %3</source>
-        <translation>Blatt %1 · Seite %2 von %3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3</source>
-        <translation>Blatt %1, hinten · Seite %2 von %3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3</source>
-        <translation>Blatt %1, vorn · Seite %2 von %3</translation>
-    </message>
-    <message>
         <source>Sheet %1, back · blank</source>
         <translation>Blatt %1, hinten · leer</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3, one blank</source>
-        <translation>Blatt %1, hinten · Seite %2 von %3, eine leer</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3, one blank</source>
-        <translation>Blatt %1, vorn · Seite %2 von %3, eine leer</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · pages %2 and %3 of %4</source>
-        <translation>Blatt %1, hinten · Seiten %2 und %3 von %4</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · pages %2 and %3 of %4</source>
-        <translation>Blatt %1, vorn · Seiten %2 und %3 von %4</translation>
     </message>
     <message>
         <source>Sheet %1 · %2</source>
@@ -2355,6 +2453,29 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     <message>
         <source>Blank</source>
         <translation>Leer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · page(s) %2 of %3</source>
+        <translation>
+            <numerusform>%1 · Seite %2 von %3</numerusform>
+            <numerusform>%1 · Seiten %2 von %3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, one blank</source>
+        <translation>%1, eine leer</translation>
+    </message>
+    <message>
+        <source>Sheet %1</source>
+        <translation>Blatt %1</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Blatt %1, hinten</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Blatt %1, vorn</translation>
     </message>
 </context>
 <context>
@@ -3176,6 +3297,65 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
 </context>
 <context>
+    <name>kelvo::LayoutRows</name>
+    <message>
+        <source>%1 per sheet</source>
+        <translation>%1 pro Blatt</translation>
+    </message>
+    <message>
+        <source>&amp;Borders around pages</source>
+        <translation>Ra&amp;hmen um Seiten</translation>
+    </message>
+    <message>
+        <source>Odd and even pages, order, scaling, and several pages on a sheet</source>
+        <translation>Ungerade und gerade Seiten, Reihenfolge, Skalierung und mehrere Seiten auf einem Blatt</translation>
+    </message>
+    <message>
+        <source>On&amp;ly:</source>
+        <translation>N&amp;ur:</translation>
+    </message>
+    <message>
+        <source>Page layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Page layout: %1</source>
+        <translation>Seitenlayout: %1</translation>
+    </message>
+    <message>
+        <source>Pages per s&amp;heet:</source>
+        <translation>Seiten pro &amp;Blatt:</translation>
+    </message>
+    <message>
+        <source>Percentage of a page’s own size</source>
+        <translation>Prozent der eigenen Größe einer Seite</translation>
+    </message>
+    <message>
+        <source>Re&amp;verse</source>
+        <translation>U&amp;mgekehrt</translation>
+    </message>
+    <message>
+        <source>Sc&amp;aling:</source>
+        <translation>Ska&amp;lierung:</translation>
+    </message>
+    <message>
+        <source>The last page, or sheet, comes out first</source>
+        <translation>Die letzte Seite, oder das letzte Blatt, kommt zuerst heraus</translation>
+    </message>
+    <message>
+        <source>Where the next page lies</source>
+        <translation>Wo die nächste Seite liegt</translation>
+    </message>
+    <message>
+        <source>not scaled</source>
+        <translation>nicht skaliert</translation>
+    </message>
+    <message>
+        <source>reversed</source>
+        <translation>umgekehrt</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::PresetMenu</name>
     <message>
         <source>Default settings</source>
@@ -3550,6 +3730,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>such as 1-3, 7</source>
         <translation>etwa 1-3, 7</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Angezeigte Seite</translation>
     </message>
 </context>
 <context>

@@ -48,13 +48,6 @@
             <numerusform>Pages %1 are larger than the paper, %2: what does not fit is cut off.</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 and %n more</numerusform>
-            <numerusform>%1 and %n more</numerusform>
-        </translation>
-    </message>
     <!-- What this printer does not have, or does not read -->
     <message numerus="yes">
         <source>%n setting(s) kept, to come back with a printer that has them.</source>
@@ -68,6 +61,20 @@
         <translation>
             <numerusform>It is kept; choose a printer that reads it.</numerusform>
             <numerusform>They are kept; choose a printer that reads them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Covers, inserts, exception pages and booklets count what is printed: the first page there has page(s) %1 of the document.</source>
+        <translation>
+            <numerusform>Covers, inserts, exception pages and booklets count what is printed: the first page there has page %1 of the document.</numerusform>
+            <numerusform>Covers, inserts, exception pages and booklets count what is printed: the first page there has pages %1 of the document.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the paper, %2, and made smaller to fit.</source>
+        <translation>
+            <numerusform>Page %1 is larger than the paper, %2, and made smaller to fit.</numerusform>
+            <numerusform>Pages %1 are larger than the paper, %2, and made smaller to fit.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -107,6 +114,16 @@
     </message>
 </context>
 <context>
+    <name>Layout</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Preview</name>
     <!-- %1 is "Insert" -->
     <message numerus="yes">
@@ -114,6 +131,13 @@
         <translation>
             <numerusform>%1, %n sheets</numerusform>
             <numerusform>%1, %n sheets</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · page(s) %2 of %3</source>
+        <translation>
+            <numerusform>%1 · page %2 of %3</numerusform>
+            <numerusform>%1 · pages %2 of %3</numerusform>
         </translation>
     </message>
 </context>

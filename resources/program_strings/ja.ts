@@ -249,6 +249,10 @@
         <translation>正しいPDFに変換できませんでした</translation>
     </message>
     <message>
+        <source>its pages cannot be laid out like this; choose another paper or scaling</source>
+        <translation>ページをこのように割り付けることはできません。別の用紙または拡大縮小の設定を選んでください</translation>
+    </message>
+    <message>
         <source>the document has %1 pages, and not all that are asked for</source>
         <translation>文書は%1ページで、指定されたページの一部がありません</translation>
     </message>
@@ -434,10 +438,6 @@
     <message>
         <source>the document has pages 1 to %1</source>
         <translation>文書のページは1～%1です</translation>
-    </message>
-    <message>
-        <source>the last page comes before the first; write %1-%2</source>
-        <translation>最後のページが最初のページより前です。%1-%2 と入力してください</translation>
     </message>
     <message>
         <source>all ranges together may name %1 pages at most</source>
@@ -879,12 +879,6 @@
 </context>
 <context>
     <name>Job</name>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1、ほか%nページ</numerusform>
-        </translation>
-    </message>
     <message>
         <source>“%1” takes no jobs.</source>
         <translation>「%1」はジョブを受け付けていません。</translation>
@@ -914,10 +908,6 @@
         <translation>
             <numerusform>ページ%1は用紙（%2）より大きいため、はみ出す部分は印刷されません。</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Choose larger paper; jobs are not scaled.</source>
-        <translation>より大きな用紙を選んでください。自動での縮小は行われません。</translation>
     </message>
     <message>
         <source>The document is damaged; what could be read of it was put together, and parts may be missing.</source>
@@ -990,10 +980,6 @@
     <message>
         <source>this printer has no paper %1</source>
         <translation>このプリンターに用紙%1はありません</translation>
-    </message>
-    <message>
-        <source>pages are printed at their own size; choose a paper that holds them, -o media=NAME</source>
-        <translation>ページは元の大きさのまま印刷されます。-o media=NAME で、ページが収まる用紙を選んでください</translation>
     </message>
     <message>
         <source>this printer does not have this option</source>
@@ -1282,6 +1268,66 @@
         <translation>%1: %2。</translation>
     </message>
     <message>
+        <source>Choose larger paper, or let the pages be made to fit.</source>
+        <translation>より大きい用紙を選ぶか、ページを用紙に合わせてください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Covers, inserts, exception pages and booklets count what is printed: the first page there has page(s) %1 of the document.</source>
+        <translation>
+            <numerusform>表紙、挿入紙、例外ページ、小冊子は印刷されるページで数えます。最初の面には文書のページ %1 があります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Of these: %1</source>
+        <translation>そのうち：%1</translation>
+    </message>
+    <message>
+        <source>Order: As in the document</source>
+        <translation>順序：文書のとおり</translation>
+    </message>
+    <message>
+        <source>Order: Reversed</source>
+        <translation>順序：逆順</translation>
+    </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the paper, %2, and made smaller to fit.</source>
+        <translation>
+            <numerusform>ページ %1 は用紙（%2）より大きいため、縮小して収めます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1</source>
+        <translation>1面のページ数：%1</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2</source>
+        <translation>1面のページ数：%1、%2</translation>
+    </message>
+    <message>
+        <source>Pages per sheet: %1, %2, with borders</source>
+        <translation>1面のページ数：%1、%2、枠線あり</translation>
+    </message>
+    <message>
+        <source>Scaling: %1</source>
+        <translation>拡大縮小：%1</translation>
+    </message>
+    <message>
+        <source>a side has room for 1, 2, 4, 6, 9 or 16 pages</source>
+        <translation>1面に置けるのは 1、2、4、6、9、16 ページです</translation>
+    </message>
+    <message>
+        <source>none of these pages has an even number</source>
+        <translation>これらのページに偶数ページはありません</translation>
+    </message>
+    <message>
+        <source>none of these pages has an odd number</source>
+        <translation>これらのページに奇数ページはありません</translation>
+    </message>
+    <message>
+        <source>pages are scaled by a number from %1 to %2 percent</source>
+        <translation>拡大縮小率は %1～%2 パーセントの数です</translation>
+    </message>
+    <message>
         <source>On the server: held %1</source>
         <translation>サーバー上で保留: %1</translation>
     </message>
@@ -1519,6 +1565,84 @@
     </message>
 </context>
 <context>
+    <name>Layout</name>
+    <message>
+        <source>%1 %</source>
+        <comment>a percentage</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>奇数・偶数ページ</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>奇数ページのみ</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>偶数ページのみ</translation>
+    </message>
+    <message>
+        <source>Shrink larger pages</source>
+        <translation>大きいページを縮小</translation>
+    </message>
+    <message>
+        <source>Fit to paper</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>用紙いっぱいに</translation>
+    </message>
+    <message>
+        <source>Percentage</source>
+        <translation>倍率指定</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Right, then down</source>
+        <translation>右へ、次に下へ</translation>
+    </message>
+    <message>
+        <source>Right, then up</source>
+        <translation>右へ、次に上へ</translation>
+    </message>
+    <message>
+        <source>Left, then down</source>
+        <translation>左へ、次に下へ</translation>
+    </message>
+    <message>
+        <source>Left, then up</source>
+        <translation>左へ、次に上へ</translation>
+    </message>
+    <message>
+        <source>Down, then right</source>
+        <translation>下へ、次に右へ</translation>
+    </message>
+    <message>
+        <source>Down, then left</source>
+        <translation>下へ、次に左へ</translation>
+    </message>
+    <message>
+        <source>Up, then right</source>
+        <translation>上へ、次に右へ</translation>
+    </message>
+    <message>
+        <source>Up, then left</source>
+        <translation>上へ、次に左へ</translation>
+    </message>
+</context>
+<context>
     <name>Main</name>
     <message>
         <source>The device panels are missing (%1).</source>
@@ -1645,36 +1769,8 @@
 <context>
     <name>Preview</name>
     <message>
-        <source>Sheet %1 · page %2 of %3</source>
-        <translation>%1枚目 · ページ %2/%3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3</source>
-        <translation>%1枚目うら · ページ %2/%3</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3</source>
-        <translation>%1枚目おもて · ページ %2/%3</translation>
-    </message>
-    <message>
         <source>Sheet %1, back · blank</source>
         <translation>%1枚目うら · 白紙</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · page %2 of %3, one blank</source>
-        <translation>%1枚目うら · ページ %2/%3、一方は白紙</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · page %2 of %3, one blank</source>
-        <translation>%1枚目おもて · ページ %2/%3、一方は白紙</translation>
-    </message>
-    <message>
-        <source>Sheet %1, back · pages %2 and %3 of %4</source>
-        <translation>%1枚目うら · ページ %2と%3/%4</translation>
-    </message>
-    <message>
-        <source>Sheet %1, front · pages %2 and %3 of %4</source>
-        <translation>%1枚目おもて · ページ %2と%3/%4</translation>
     </message>
     <message>
         <source>Sheet %1 · %2</source>
@@ -1713,6 +1809,28 @@
     <message>
         <source>Blank</source>
         <translation>白紙</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · page(s) %2 of %3</source>
+        <translation>
+            <numerusform>%1 · ページ %2/%3</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, one blank</source>
+        <translation>%1、一方は白紙</translation>
+    </message>
+    <message>
+        <source>Sheet %1</source>
+        <translation>%1枚目</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>%1枚目うら</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>%1枚目おもて</translation>
     </message>
 </context>
 <context>
@@ -2171,6 +2289,65 @@
     </message>
 </context>
 <context>
+    <name>kelvo::LayoutRows</name>
+    <message>
+        <source>%1 per sheet</source>
+        <translation>1面に %1</translation>
+    </message>
+    <message>
+        <source>&amp;Borders around pages</source>
+        <translation>枠線(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Odd and even pages, order, scaling, and several pages on a sheet</source>
+        <translation>奇数・偶数ページ、順序、拡大縮小、1面に複数ページ</translation>
+    </message>
+    <message>
+        <source>On&amp;ly:</source>
+        <translation>対象(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Page layout</source>
+        <translation>ページレイアウト</translation>
+    </message>
+    <message>
+        <source>Page layout: %1</source>
+        <translation>ページレイアウト：%1</translation>
+    </message>
+    <message>
+        <source>Pages per s&amp;heet:</source>
+        <translation>1面のページ数(&amp;H):</translation>
+    </message>
+    <message>
+        <source>Percentage of a page’s own size</source>
+        <translation>ページ本来の大きさに対する倍率</translation>
+    </message>
+    <message>
+        <source>Re&amp;verse</source>
+        <translation>逆順(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Sc&amp;aling:</source>
+        <translation>拡大縮小(&amp;A):</translation>
+    </message>
+    <message>
+        <source>The last page, or sheet, comes out first</source>
+        <translation>最後のページ（用紙）から出します</translation>
+    </message>
+    <message>
+        <source>Where the next page lies</source>
+        <translation>次のページの位置</translation>
+    </message>
+    <message>
+        <source>not scaled</source>
+        <translation>拡大縮小なし</translation>
+    </message>
+    <message>
+        <source>reversed</source>
+        <translation>逆順</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::PresetMenu</name>
     <message>
         <source>Default settings</source>
@@ -2545,6 +2722,10 @@ The settings stay as they are.</source>
     <message>
         <source>such as 1-3, 7</source>
         <translation>例: 1-3, 7</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>表示中のページ</translation>
     </message>
 </context>
 <context>

@@ -99,11 +99,11 @@ void TestJobOptions::sayEachSettingOnce_data()
     row("a reader of tickets turns pages itself", full, {}, landscape, {}, {"copies=1"});
     row("and is not turned by a default", full, {}, landscape, {{"orientation-requested", "5"}},
         {"copies=1", "orientation-requested=3"});
-    row("others are told to turn them", "no-ticket", {{"Jog", "EndOfSet"}}, landscape, {},
-        {"Jog=EndOfSet", "copies=1", "orientation-requested=4"});
+    row("others get them turned", "no-ticket", {{"Jog", "EndOfSet"}}, landscape,
+        {{"fit-to-page", "true"}}, {"Jog=EndOfSet", "copies=1", "fit-to-page=false"});
     row("no PPD", "", {{"Duplex", "None"}}, {2, true, {}, "A4", Orientation::ReversePortrait}, {},
         {"copies=2", "multiple-document-handling=separate-documents-collated-copies",
-         "Collate=True", "orientation-requested=6", "media=A4"});
+         "Collate=True", "media=A4"});
 }
 
 void TestJobOptions::sayEachSettingOnce()

@@ -20,6 +20,14 @@ using kelvo::test::pdfOf;
 using kelvo::test::updatedPdf;
 using Code = Error::Code;
 
+static PdfLayout pagesAsTheyAre(std::initializer_list<int> pages)
+{
+    PdfLayout layout;
+    for (const int page : pages)
+        layout.push_back({.pages = {{.page = page}}, .isAsItIs = true});
+    return layout;
+}
+
 // What goes out of the house, before it does.
 class TestPreparedJobs : public QObject
 {
@@ -428,17 +436,18 @@ void TestPreparedJobs::refuseSecretsWhereTicketsAreNotRead()
 void TestPreparedJobs::cutPages()
 {
     JobRequest wanted = request(reads, 5);
-    const auto withRanges = [&wanted](const QString &ranges) {
-        wanted.settings.pageRanges = ranges;
-        wanted.ticket.printSettings.entries[kPMPageRangesKey] = {ranges, "test"};
-        return prepareJob(wanted);
-    };
-    QCOMPARE(withRanges("6").error().code, Code::OutOfRange);
-    const auto job = withRanges("2-3,5-6");
+    wanted.settings.pageRanges = "2-3,5";
+    wanted.ticket.printSettings.entries[kPMPageRangesKey] = {"2-3,5", "test"};
+    wanted.ticket.printSettings.entries[kPMPagesPerSideKey] = {4, "test"};
+    wanted.layout = pagesAsTheyAre({2, 6});
+    QCOMPARE(prepareJob(wanted).error().code, Code::OutOfRange);
+    wanted.layout = pagesAsTheyAre({2, 3, 5});
+    const auto job = prepareJob(wanted);
     QVERIFY2(job, qPrintable(job.reason()));
     QCOMPARE(pagesOf(job.value().pdfPath), (QList<int>{2, 3, 5}));
-    // The device must not cut them again.
+    // The device must not do it again.
     QVERIFY(!job.value().ticket.contains(kPMPageRangesKey.toUtf8()));
+    QVERIFY(!job.value().ticket.contains(kPMPagesPerSideKey.toUtf8()));
 }
 
 void TestPreparedJobs::goIntoAPrivateFolder()

@@ -85,12 +85,8 @@ private slots:
     void tellsShownSizes();
     void repairsDamageAndSaysSo();
     void unlocksWhatNeedsNoPassword();
-    void cutsPagesInOrder();
-    void leavesNothingOfOtherPages();
-    void refusesPagesThatAreNotThere();
     void keepsFilesPrivateAndCleansUp();
     void saysThatTheDiskIsFull();
-    void saysThatTheDiskIsFullWhenCutting();
     void saysThatNoTemporaryFileCanBeMade();
     void doesNotWaitForASilentPipe();
     void stopsWhenCancelled();
@@ -509,77 +505,6 @@ void TestDocuments::unlocksWhatNeedsNoPassword()
     QVERIFY(bytesOf(document.value().pdfPath()).indexOf("/Encrypt") < 0);
 }
 
-void TestDocuments::cutsPagesInOrder()
-{
-    const Result<Document> whole = open(file("pdf", pdfWithPages({"", "", "", "", ""})));
-    QVERIFY(whole);
-
-    const Result<Document> cut = whole.value().withPages({{4, 5}, {2, 2}, {4, 4}});
-
-    QVERIFY2(cut, cut ? "" : qPrintable(cut.error().text()));
-    QCOMPARE(cut.value().title(), whole.value().title());
-    const auto pdf = Poppler::Document::load(cut.value().pdfPath());
-    QVERIFY(pdf);
-    QList<int> widths;
-    for (int page = 1; page <= cut.value().pageCount(); ++page) {
-        widths << cut.value().pageSize(page).toSize().width();
-        QCOMPARE(pdf->page(page - 1)->pageSize().width(), widths.last());
-    }
-    QCOMPARE(widths, QList<int>({204, 205, 202, 204}));
-    QCOMPARE(pdf->numPages(), 4);
-
-    // All pages are the document itself, and no other file.
-    const Result<Document> all = whole.value().withPages({{1, 5}});
-    QVERIFY(all);
-    QCOMPARE(all.value().pdfPath(), whole.value().pdfPath());
-}
-
-void TestDocuments::leavesNothingOfOtherPages()
-{
-    // A bookmark, a link and a form field lead to the page that is cut away.
-    const QByteArray pdf = pdfOf(
-        {"<< /Type /Catalog /Pages 2 0 R /Outlines 7 0 R /AcroForm << /Fields [9 0 R] >> >>",
-         "<< /Type /Pages /Kids [3 0 R 5 0 R] /Count 2 >>",
-         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 4 0 R /Annots [<< /Type "
-         "/Annot /Subtype /Link /Rect [0 0 9 9] /Dest [5 0 R /Fit] >>] >>",
-         stream("% KEPT"),
-         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 6 0 R /Annots [9 0 R] >>",
-         stream("% SECRET"), "<< /Type /Outlines /First 8 0 R /Last 8 0 R >>",
-         "<< /Title (b) /Parent 7 0 R /Dest [5 0 R /Fit] >>",
-         "<< /Type /Annot /Subtype /Widget /FT /Tx /T (t) /Rect [0 0 9 9] /P 5 0 R >>"});
-    const Result<Document> whole = open(file("pdf", pdf));
-    QVERIFY(whole);
-
-    const Result<Document> cut = whole.value().withPages({{1, 1}});
-
-    QVERIFY(cut);
-    QPDF result;
-    result.processFile(cut.value().pdfPath().toLocal8Bit().constData());
-    QByteArray contents;
-    for (QPDFObjectHandle &object : result.getAllObjects()) {
-        if (object.isStream()) {
-            const auto data = object.getStreamData();
-            contents.append(reinterpret_cast<const char *>(data->getBuffer()),
-                            static_cast<qsizetype>(data->getSize()));
-        }
-    }
-    QVERIFY(contents.contains("KEPT"));
-    QVERIFY(!contents.contains("SECRET"));
-    QVERIFY(!result.anyWarnings());
-}
-
-void TestDocuments::refusesPagesThatAreNotThere()
-{
-    const Result<Document> whole = open(file("pdf", pdfWithPages({"", ""})));
-    QVERIFY(whole);
-
-    QVERIFY(!whole.value().withPages({}));
-    QVERIFY(!whole.value().withPages({{0, 1}}));
-    QVERIFY(!whole.value().withPages({{2, 3}}));
-    QVERIFY(!whole.value().withPages({{2, 1}}));
-    QVERIFY(!Document().withPages({{1, 1}}));
-}
-
 void TestDocuments::keepsFilesPrivateAndCleansUp()
 {
     ::umask(0);
@@ -619,21 +544,6 @@ void TestDocuments::saysThatTheDiskIsFull()
         QVERIFY2(document.error().where.startsWith(QDir::tempPath()),
                  qPrintable(document.error().text()));
     }
-}
-
-void TestDocuments::saysThatTheDiskIsFullWhenCutting()
-{
-    QByteArray noise = "% ";
-    for (quint32 seed = 1; noise.size() < 30'000; seed = seed * 1'664'525 + 1'013'904'223)
-        noise += QByteArray::number(seed >> 8);
-    const Result<Document> whole = open(file("pdf", pdfWithPages({noise, noise})));
-    QVERIFY(whole);
-
-    const FullDisk full(5000);
-    const Result<Document> cut = whole.value().withPages({{1, 1}});
-
-    QVERIFY(!cut);
-    QCOMPARE(cut.error().code, Error::Code::NotWritable);
 }
 
 void TestDocuments::saysThatNoTemporaryFileCanBeMade()

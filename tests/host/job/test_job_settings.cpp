@@ -47,6 +47,15 @@ void TestJobSettings::comeBackFromTheTickets_data()
     row("everything set",
         JobSettings{9999, false, "1-3,7", "Legal", Orientation::ReverseLandscape});
     row("own size", JobSettings{2, true, {}, "Custom.100x200mm", Orientation::Landscape});
+    row("laid out",
+        JobSettings{1,
+                    true,
+                    {},
+                    "A4",
+                    Orientation::Portrait,
+                    {PageScaling::Percent, 71, 16, PageFlow::BtRl, true},
+                    PageSet::Even,
+                    true});
     row("paper of another device",
         JobSettings{1, true, {}, "Papyrus", Orientation::ReversePortrait});
 }
@@ -190,7 +199,32 @@ void TestJobSettings::takeOptions_data()
     row("no name of the host's", "noCollate", nullptr, {1, false, {}, "A4"}, {{"PageSize", "A4"}});
     row("a choice called otherwise", "JCLBanner", nullptr, plain, {{"JCLBanner", "True"}});
     row("none is no", "noDuplex", nullptr, plain, {{"Duplex", "None"}});
-    row("what is done anyway", "nofit-to-page", nullptr, plain);
+
+    const auto laidOut = [&plain](const PageLayout &layout) {
+        JobSettings settings = plain;
+        settings.layout = layout;
+        return settings;
+    };
+    const auto ordered = [&plain](PageSet set, bool isReversed) {
+        JobSettings settings = plain;
+        settings.pageSet = set;
+        settings.isReversed = isReversed;
+        return settings;
+    };
+    const PpdSelection a4{{"PageSize", "A4"}};
+    using enum PageScaling;
+    row("no fitting", "nofit-to-page", nullptr, plain, a4);
+    row("fitting", "fit-to-page", nullptr, laidOut({.scaling = Fit}), a4);
+    row("scaling", "print-scaling", "Fill", laidOut({.scaling = Fill}), a4);
+    row("no scaling", "print-scaling", "none", laidOut({.scaling = None}), a4);
+    row("scaling where needed", "print-scaling", "auto-fit", plain, a4);
+    row("percent", "scaling", "800", laidOut({.scaling = Percent, .percent = 800}), a4);
+    row("percent with a sign", "scaling", "50%", laidOut({.scaling = Percent, .percent = 50}), a4);
+    row("several on a side", "number-up", "6", laidOut({.pagesPerSide = 6}), a4);
+    row("their order", "number-up-layout", "tbrl", laidOut({.flow = PageFlow::TbRl}), a4);
+    row("borders", "page-border", "single", laidOut({.drawsBorders = true}), a4);
+    row("odd pages", "page-set", "odd", ordered(PageSet::Odd, false), a4);
+    row("reversed", "outputorder", "reverse", ordered(PageSet::All, true), a4);
 }
 
 void TestJobSettings::takeOptions()
@@ -210,8 +244,15 @@ void TestJobSettings::refuseOptions_data()
     row("unknown option", "StapleLocaton", "None", Code::Unsupported,
         "did you mean StapleLocation?");
     row("unknown host option", "orientation", "4", Code::Unsupported, "orientation-requested");
-    row("another program's option", "number-up", "2", Code::Unsupported, "neither this printer");
-    row("scaling", "fit-to-page", "true", Code::Refused, "at their own size");
+    row("another program's option", "mirror", "true", Code::Unsupported, "neither this printer");
+    row("fitting, perhaps", "fit-to-page", "maybe", Code::NotFound, "true, false");
+    row("unknown scaling", "print-scaling", "percent", Code::NotFound, "auto-fit, fit, fill");
+    row("nothing left", "scaling", "0", Code::OutOfRange, "from 1 to 800");
+    row("larger than any paper", "scaling", "801", Code::OutOfRange, "from 1 to 800");
+    row("5 on a side", "number-up", "5", Code::OutOfRange, "1, 2, 4, 6, 9 or 16");
+    row("unknown order", "number-up-layout", "lrlr", Code::NotFound, "lrtb");
+    row("unknown border", "page-border", "double", Code::NotFound, "single");
+    row("unknown set", "page-set", "prime", Code::NotFound, "all, odd, even");
     row("several choices are no", "StapleLocation", "yes", Code::NotFound, "there are None, ");
     row("unknown choice", "StapleLocation", "DualPortait", Code::NotFound,
         "did you mean DualPortrait?");

@@ -1,5 +1,6 @@
 #include "audience.h"
 #include "document_preview.h"
+#include "page_ranges.h"
 #include "preview_captions.h"
 #include "sample_documents.h"
 #include "table.h"
@@ -23,6 +24,17 @@ Document documentOf(const QList<QByteArray> &contents)
 {
     const Result<Document> document = documentFromPdf(file("pdf", pdfWithPages(contents)), {});
     return document ? document.value() : Document();
+}
+
+PrintedPages pagesOf(const Document &document, const std::vector<PageRun> &runs,
+                     const PageLayout &layout = {}, const Paper &paper = {})
+{
+    PagesToPrint pages;
+    pages.chosen = pagesIn(runs);
+    pages.sizeOf = [document](int page) { return document.pageSize(page); };
+    pages.layout = layout;
+    pages.paper = paper;
+    return PrintedPages(pages);
 }
 
 QString caption(const DocumentPreview &preview)
@@ -85,6 +97,7 @@ private slots:
     void beginsWithTheLeadingPage();
     void showsPaperAndMessages();
     void drawsWhatIsPrinted();
+    void drawsSeveralPagesOnASide();
     void drawsForAScriptWhenItLooks();
     void showsWhatIsCutOff();
 };
@@ -111,9 +124,10 @@ void TestDocumentPreview::namesSheets()
     QFETCH(bool, twoSided);
     QFETCH(QStringList, captions);
     DocumentPreview preview;
-    preview.setDocument(documentOf({"", "", "", "", ""}));
+    const Document document = documentOf({"", "", "", "", ""});
+    preview.setDocument(document);
 
-    preview.setLayout({pages, a4, Orientation::Portrait, twoSided});
+    preview.setLayout({pagesOf(document, pages), a4, Orientation::Portrait, twoSided});
 
     for (const QString &expected : captions) {
         QCOMPARE(caption(preview), expected);
@@ -158,14 +172,15 @@ void TestDocumentPreview::turnsPages()
 void TestDocumentPreview::staysOnThePageWhereItIsStillPrinted()
 {
     DocumentPreview preview;
-    preview.setDocument(documentOf({"", "", "", "", ""}));
+    const Document document = documentOf({"", "", "", "", ""});
+    preview.setDocument(document);
     for (int page = 1; page < 4; ++page)
         button(preview, "previewNext")->click();
     QCOMPARE(caption(preview), "Sheet 4 · page 4 of 5");
 
-    preview.setLayout({{{3, 5}}, a4, Orientation::Portrait, false});
+    preview.setLayout({pagesOf(document, {{3, 5}}), a4, Orientation::Portrait, false});
     QCOMPARE(caption(preview), "Sheet 2 · page 4 of 5");
-    preview.setLayout({{{1, 2}}, a4, Orientation::Portrait, false});
+    preview.setLayout({pagesOf(document, {{1, 2}}), a4, Orientation::Portrait, false});
     QCOMPARE(caption(preview), "Sheet 2 · page 2 of 5");
     preview.setDocument(documentOf({"", ""}));
     QCOMPARE(caption(preview), "Sheet 1 · page 1 of 2");
@@ -207,11 +222,12 @@ void TestDocumentPreview::showsSpecialSheets()
 void TestDocumentPreview::namesSidesOfBooklets()
 {
     DocumentPreview preview;
-    preview.setDocument(documentOf({"", "", "", "", "", "", "", ""}));
+    const Document document = documentOf({"", "", "", "", "", "", "", ""});
+    preview.setDocument(document);
     const SpecialSheetWords words{
         .frontCover = "Cover", .insert = "Insert", .exception = "exception %1"};
     DocumentPreview::Layout layout{.paper = a4, .words = words, .imposition = Imposition()};
-    layout.pages = {{3, 8}};
+    layout.pages = pagesOf(document, {{3, 8}});
     layout.special = {SpecialSheets::Cover::Sheet, {}, {{2, 1}}, {{2, 2, {}}, {6, 6, {}}}};
     preview.setLayout(layout);
 
@@ -221,10 +237,11 @@ void TestDocumentPreview::namesSidesOfBooklets()
              (QStringList{"Sheet 1 · Cover", "Sheet 2, front · page 3 of 8, one blank\n" + order,
                           "Sheet 2, back · page 4 of 8, one blank\nexception 2 · " + order,
                           "Sheet 3, front · pages 8 and 5 of 8\nexception 6 · " + order,
-                          "Sheet 3, back · pages 6 and 7 of 8\n" + order,
+                          "Sheet 3, back · pages 6–7 of 8\n" + order,
                           "Sheet 4 · Insert\nthe printer decides where it goes"}));
 
-    layout = {.pages = {{1, 1}}, .paper = a4.transposed(), .imposition = Imposition()};
+    layout = {
+        .pages = pagesOf(document, {{1, 1}}), .paper = a4.transposed(), .imposition = Imposition()};
     preview.setLayout(layout);
     QCOMPARE(captionsOf(preview),
              (QStringList{"Sheet 1, front · page 1 of 8, one blank\n" + order,
@@ -256,7 +273,8 @@ void TestDocumentPreview::drawsSidesOfBooklets()
 {
     DocumentPreview preview;
     preview.resize(400, 400);
-    preview.setDocument(documentOf({filled("1 0 0"), filled("0 1 0"), filled("0 0 1")}));
+    const Document document = documentOf({filled("1 0 0"), filled("0 1 0"), filled("0 0 1")});
+    preview.setDocument(document);
     preview.setLayout({.paper = {300, 400}, .imposition = Imposition{.gutter = 20}});
     preview.show();
 
@@ -279,7 +297,8 @@ void TestDocumentPreview::drawsSidesOfBooklets()
     QTRY_COMPARE(colourAt(0.485), QColor(Qt::green));
 
     // The side before a blank one comes too late for it.
-    preview.setLayout({.pages = {{1, 1}}, .paper = {300, 400}, .imposition = Imposition()});
+    preview.setLayout(
+        {.pages = pagesOf(document, {{1, 1}}), .paper = {300, 400}, .imposition = Imposition()});
     button(preview, "previewPrevious")->click();
     button(preview, "previewNext")->click();
     QTest::qWait(300);
@@ -332,8 +351,10 @@ void TestDocumentPreview::beginsWithTheLeadingPage()
             image.fill(page.version == 0 ? Qt::blue : Qt::green);
             return page.content.isEmpty() ? QImage() : image;
         });
-    preview.setDocument(documentOf({"", filled("1 0 0"), ""}));
-    DocumentPreview::Layout layout{.pages = {{2, 3}}, .paper = {300, 300}, .twoSided = true};
+    const Document document = documentOf({"", filled("1 0 0"), ""});
+    preview.setDocument(document);
+    DocumentPreview::Layout layout{
+        .pages = pagesOf(document, {{2, 3}}), .paper = {300, 300}, .twoSided = true};
     LeadingPage cover{.name = "Cover sheet", .size = {600, 200}, .content = {{"text", "x"}}};
     layout.leadingPage = cover;
     preview.setLayout(layout);
@@ -407,7 +428,8 @@ void TestDocumentPreview::drawsWhatIsPrinted()
     // The right half of the second page is blue.
     DocumentPreview preview;
     preview.resize(300, 400);
-    preview.setDocument(documentOf({filled("1 0 0"), "0 0 1 rg 101 0 101 300 re f"}));
+    const Document document = documentOf({filled("1 0 0"), "0 0 1 rg 101 0 101 300 re f"});
+    preview.setDocument(document);
     preview.show();
     QTRY_COMPARE(middle(preview), QColor(Qt::red));
 
@@ -427,8 +449,56 @@ void TestDocumentPreview::drawsWhatIsPrinted()
     QTRY_COMPARE(colourAt(0.45, 0.4), QColor(Qt::blue));
     QCOMPARE(colourAt(0.45, 0.6), QColor(Qt::white));
 
-    preview.setLayout({{{1, 1}}, {202, 300}, Orientation::Portrait, false});
+    preview.setLayout({pagesOf(document, {{1, 1}}), {202, 300}, Orientation::Portrait, false});
     QTRY_COMPARE(middle(preview), QColor(Qt::red));
+}
+
+void TestDocumentPreview::drawsSeveralPagesOnASide()
+{
+    DocumentPreview preview;
+    preview.resize(420, 400);
+    const Document document = documentOf({filled("1 0 0"), filled("0 1 0"), filled("0 0 1")});
+    preview.setDocument(document);
+    const QSizeF paper(300, 400); // pages of 200 by 300
+    const auto show = [&](const PageLayout &layout, const Imposition *booklet = nullptr) {
+        DocumentPreview::Layout shown{.pages = pagesOf(document, {{1, 3}}, layout, {paper}),
+                                      .paper = paper};
+        if (booklet)
+            shown.imposition = *booklet;
+        preview.setLayout(shown);
+    };
+    show({.pagesPerSide = 2});
+    preview.show();
+    const auto colourAt = [&preview](double x) { // of the wide sheet
+        const QImage image = preview.findChild<QWidget *>("previewSheet")->grab().toImage();
+        const int rim = 10;
+        return image.pixelColor(rim + static_cast<int>((image.width() - 2 * rim) * x),
+                                image.height() / 2 + 20);
+    };
+
+    QTRY_COMPARE(colourAt(0.25), QColor(Qt::red));
+    QCOMPARE(colourAt(0.75), QColor(Qt::green));
+    QCOMPARE(caption(preview), "Sheet 1 · pages 1–2 of 3");
+    button(preview, "previewNext")->click();
+    QTRY_COMPARE(colourAt(0.25), QColor(Qt::blue));
+    QCOMPARE(colourAt(0.75), QColor(Qt::white));
+    QCOMPARE(caption(preview), "Sheet 2 · page 3 of 3");
+
+    // What is larger than its place goes no further; the page stays in sight.
+    show({.scaling = PageScaling::Percent,
+          .percent = 400,
+          .pagesPerSide = 2,
+          .flow = PageFlow::RlTb});
+    QTRY_COMPARE(colourAt(0.52), QColor(Qt::blue));
+    QCOMPARE(colourAt(0.48), QColor(Qt::white));
+
+    // Sides with two pages each on the halves of a booklet: outside 3 and none, inside nothing
+    // but 1 and 2.
+    const Imposition booklet;
+    show({.pagesPerSide = 2}, &booklet);
+    QCOMPARE(captionsOf(preview).first(),
+             "Sheet 1, front · pages 1–2 of 3, one blank"
+             "\nshown top to bottom; the printer decides");
 }
 
 // Print at the edges of a page that is larger than the paper is lost: it is in sight

@@ -15,6 +15,11 @@ bool isWide(const QSizeF &size)
     return size.width() > size.height();
 }
 
+QRectF transposed(const QRectF &rect)
+{
+    return {rect.y(), rect.x(), rect.height(), rect.width()};
+}
+
 // The page in its half of the sheet, which begins at the fold and is as wide as `half`;
 // x runs from the fold outwards, y along it.
 PagePlacement placeInHalf(const QSizeF &page, const QSizeF &half, double gutter, double creep)
@@ -26,11 +31,6 @@ PagePlacement placeInHalf(const QSizeF &page, const QSizeF &half, double gutter,
     const double fromFold = std::max(0.0, gutter / 2 - creep);
     placement.rect = QRectF(QPointF(fromFold, (half.height() - size.height()) / 2), size);
     return placement;
-}
-
-QRectF upsideDown(const QRectF &rect, const QSizeF &sheet)
-{
-    return {QPointF(sheet.width() - rect.right(), sheet.height() - rect.bottom()), rect.size()};
 }
 
 } // namespace
@@ -72,15 +72,17 @@ SidePlacement placeBooklet(const BookletSide &side, const Imposition &imposition
 
     SidePlacement placement;
     placement.sheet = sheet;
-    placement.isUpsideDown = isReverse(orientation);
     // Reckoned as if the fold ran from top to bottom; where it does not, x and y change
     // their places.
     const QSizeF across = isStacked ? sheet.transposed() : sheet;
     const QSizeF half(across.width() / 2, across.height());
     for (int place = 0; place < 2; ++place) {
+        QRectF halfRect(QPointF(place * half.width(), 0), half);
+        if (isStacked)
+            halfRect = transposed(halfRect);
         const QSizeF &page = side.pages[place];
         if (page.isEmpty()) {
-            placement.pages << PagePlacement();
+            placement.pages << PagePlacement{.rect = {}, .place = halfRect};
             continue;
         }
         const bool isTurned = liesAcross(page, side.shape);
@@ -93,16 +95,15 @@ SidePlacement placeBooklet(const BookletSide &side, const Imposition &imposition
         else
             rect.moveLeft(half.width() + rect.left());
         if (isStacked)
-            rect = QRectF(rect.y(), rect.x(), rect.height(), rect.width());
+            rect = transposed(rect);
         placed.rotation = isTurned ? 270 : 0;
-        if (placement.isUpsideDown) {
-            rect = upsideDown(rect, sheet);
-            placed.rotation = (placed.rotation + 180) % 360;
-        }
+        placed.place = halfRect;
         placement.pages << placed;
     }
     placement.fold = isStacked ? QLineF(0, sheet.height() / 2, sheet.width(), sheet.height() / 2)
                                : QLineF(sheet.width() / 2, 0, sheet.width() / 2, sheet.height());
+    if (isReverse(orientation))
+        placement.turnOver();
     return placement;
 }
 

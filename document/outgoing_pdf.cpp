@@ -1,4 +1,4 @@
-#include "embedded_files.h"
+#include "outgoing_pdf.h"
 
 #include "document_helper.h"
 
@@ -7,9 +7,8 @@
 
 namespace kelvo {
 
-Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
-                                 const QByteArray &mimeType, const QByteArray &bytes,
-                                 const QString &target)
+Result<void> makeOutgoingPdf(const QString &source, const PdfLayout &layout,
+                             const EmbeddedFile &file, const QString &target)
 {
     const QString folder = QFileInfo(target).path();
     // Another process, and other code: what was overlooked once must not be again. It is started
@@ -17,14 +16,14 @@ Result<void> replaceEmbeddedFile(const QString &source, const QString &name,
     Result<RunningHelper> checker = RunningHelper::start(DocumentHelper::Pages, {target, folder});
     if (!checker)
         return checker.error();
-    if (Result<void> made = ask<void>(Task::ReplaceEmbeddedFile, {source, folder}, source, name,
-                                      mimeType, bytes, target);
+    if (Result<void> made =
+            ask<void>(Task::MakePdf, {source, folder}, source, layout, file, target);
         !made) {
         return made;
     }
     Result<void> checked =
         ask<void>(checker.value(), RunningHelper::Request::Last, Task::CheckEmbeddedFile,
-                  {target, folder}, target, name, bytes);
+                  {target, folder}, target, file.name, file.bytes);
     if (!checked)
         QFile::remove(target);
     return checked;

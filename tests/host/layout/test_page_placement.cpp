@@ -19,7 +19,7 @@ const QSizeF wide(842, 595);
 
 SidePlacement sideOf(const QSizeF &sheet, const QRectF &page, int rotation, bool isUpsideDown)
 {
-    return {sheet, {{page, rotation, 1}}, {}, isUpsideDown};
+    return {sheet, {{page, rotation, 1, QRectF(QPointF(), sheet)}}, {}, isUpsideDown};
 }
 
 QRectF rounded(const QRectF &rect)
