@@ -2,9 +2,11 @@
 
 #include "control_interface.h"
 #include "control_support.h"
+#include "popup_list.h"
 #include "tool_tip.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -19,6 +21,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <limits>
+#include <utility>
 
 namespace kelvo {
 
@@ -128,6 +131,18 @@ bool PopupButton::choose(int value)
     return true;
 }
 
+// Unlike choose(), it tells readers and whoever else listens to Qt, as Qt's own list does.
+bool PopupButton::chooseFromList(int value)
+{
+    if (!isEnabled() || value < 1 || value > count()
+        || !canBeChosen(m_menu.items[static_cast<std::size_t>(value - 1)]))
+        return false;
+    m_isChosenFromList = true;
+    setCurrentIndex(value - 1);
+    emit activated(value - 1);
+    return true;
+}
+
 void PopupButton::send(int index)
 {
     if (index < 0 || index >= count())
@@ -201,8 +216,42 @@ void PopupButton::showEvent(QShowEvent *event)
     QWidget::showEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
+void PopupButton::setOwnList(MakeList make)
+{
+    delete std::exchange(m_ownList, nullptr);
+    m_makeList = std::move(make);
+}
+
+bool PopupButton::isListOpen() const
+{
+    if (hasOwnList())
+        return m_ownList && m_ownList->isVisible();
+    const auto *list = findChild<QAbstractItemView *>(); // view() would make it
+    return list && list->isVisible();
+}
+
+void PopupButton::openOwnList(const QString &typed)
+{
+    if (!m_ownList) {
+        m_ownList = m_makeList(this);
+        // A pop-up window is not the one that input methods see: what they make comes to this.
+        const auto note = [this](bool isOpen) {
+            setAttribute(Qt::WA_InputMethodEnabled, isOpen);
+            updateMicroFocus();
+            update();
+        };
+        connect(m_ownList, &PopupList::opened, this, [note] { note(true); });
+        connect(m_ownList, &PopupList::closed, this, [note] { note(false); });
+    }
+    m_ownList->open(typed);
+}
+
 void PopupButton::showPopup()
 {
+    if (hasOwnList()) {
+        openOwnList({});
+        return;
+    }
     m_isChosenFromList = true;
     view()->parentWidget()->setFont(font());
     // The list shows whole texts where the screen has room for them.
@@ -216,6 +265,50 @@ void PopupButton::showPopup()
     }
     view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width() / 2));
     QComboBox::showPopup();
+}
+
+void PopupButton::hidePopup()
+{
+    if (hasOwnList() && m_ownList)
+        m_ownList->close();
+    else
+        QComboBox::hidePopup();
+}
+
+// Of the open list of its own, what has the keyboard there.
+QWidget *PopupButton::fieldOfList() const
+{
+    return m_ownList && m_ownList->isVisible() ? m_ownList->focusWidget() : nullptr;
+}
+
+QVariant PopupButton::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    const QWidget *field = fieldOfList();
+    return field ? field->inputMethodQuery(query) : QComboBox::inputMethodQuery(query);
+}
+
+void PopupButton::inputMethodEvent(QInputMethodEvent *event)
+{
+    if (QWidget *field = fieldOfList())
+        QCoreApplication::sendEvent(field, event);
+    else
+        QComboBox::inputMethodEvent(event);
+}
+
+void PopupButton::initStyleOption(QStyleOptionComboBox *option) const
+{
+    QComboBox::initStyleOption(option);
+    if (m_ownList && m_ownList->isVisible())
+        option->state |= QStyle::State_On;
+}
+
+// Qt makes its list here before it opens any.
+void PopupButton::mousePressEvent(QMouseEvent *event)
+{
+    if (hasOwnList() && event->button() == Qt::LeftButton)
+        showPopup();
+    else
+        QComboBox::mousePressEvent(event);
 }
 
 // Whether a key that would choose without the list opens it.
@@ -241,8 +334,13 @@ bool PopupButton::opensBy(const QKeyEvent &event) const
 void PopupButton::keyPressEvent(QKeyEvent *event)
 {
     if (opensBy(*event)) {
+        const QString typed = event->text().trimmed();
+        if (hasOwnList()) {
+            openOwnList(typed);
+            return;
+        }
         showPopup();
-        if (const QString typed = event->text().trimmed(); !typed.isEmpty())
+        if (!typed.isEmpty())
             view()->keyboardSearch(typed);
         return;
     }
@@ -271,7 +369,8 @@ void PopupButton::wheelEvent(QWheelEvent *event)
 // Qt would make the list to give it the font; it gets it when it is opened.
 void PopupButton::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::FontChange && !findChild<QAbstractItemView *>())
+    const bool hasQtsList = !hasOwnList() && findChild<QAbstractItemView *>();
+    if (event->type() == QEvent::FontChange && !hasQtsList)
         QWidget::changeEvent(event); // NOLINT(bugprone-parent-virtual-call)
     else
         QComboBox::changeEvent(event);

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 
+#include <functional>
 #include <memory>
 
 class QStyleOptionComboBox;
@@ -11,6 +12,7 @@ class QStyleOptionComboBox;
 namespace kelvo {
 
 class ControlInterface;
+class PopupList;
 
 // A pop-up button: shows one item of its menu. It sends Menu, then Command when
 // the item has one, then ControlHit, and only when the user chooses. Values are
@@ -63,15 +65,29 @@ public:
 
     // As if the user had picked item `value`; false when it cannot be picked.
     bool choose(int value);
+    bool chooseFromList(int value); // the same, in the open list
+
+    // What is opened in place of Qt's list, made when it is first opened; empty: Qt's. That
+    // function gives a child of its argument.
+    using MakeList = std::function<PopupList *(PopupButton *)>;
+    void setOwnList(MakeList make);
+    bool hasOwnList() const { return bool(m_makeList); }
+    PopupList *ownList() const { return m_ownList; } // null: not made yet
+    bool isListOpen() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     void showPopup() override;
+    void hidePopup() override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 protected:
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void initStyleOption(QStyleOptionComboBox *option) const override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -81,10 +97,14 @@ private:
     void send(int index);
     bool opensBy(const QKeyEvent &event) const;
     bool closesList(QEvent *event);
+    void openOwnList(const QString &typed);
+    QWidget *fieldOfList() const;
     QRect textRect(const QStyleOptionComboBox &option) const;
     QString elidedText(const QStyleOptionComboBox &option) const;
 
     Menu m_menu;
+    MakeList m_makeList;
+    PopupList *m_ownList = nullptr;
     int m_maximum = 0;
     bool m_choosesInListOnly = false;
     bool m_hasIconRoom = true;

@@ -1,6 +1,5 @@
 #include "form_fields.h"
 
-#include <algorithm>
 #include <set>
 #include <vector>
 
@@ -13,14 +12,6 @@ using Handle = QPDFObjectHandle;
 // What a field says that shares its dictionary with its only widget; the rest is the widget's.
 constexpr const char *fieldKeys[] = {"/FT", "/T",      "/TU", "/TM", "/Ff", "/V",    "/DV", "/Opt",
                                      "/I",  "/MaxLen", "/TI", "/DS", "/RV", "/Lock", "/SV"};
-
-void replaceItem(Handle list, const QPDFObjGen &object, Handle other)
-{
-    std::vector<Handle> items = list.isArray() ? list.getArrayAsVector() : std::vector<Handle>();
-    const auto item = std::ranges::find(items, object, &Handle::getObjGen);
-    if (item != items.end())
-        list.setArrayItem(static_cast<int>(item - items.begin()), other);
-}
 
 constexpr int deepest = 32; // levels of fields; what lies deeper is left as it is
 
@@ -73,11 +64,31 @@ Handle FormFields::fieldOf(Handle widget)
     }
     if (parent.isDictionary())
         field.replaceKey("/Parent", parent);
-    replaceItem(parent.isDictionary() ? parent.getKey("/Kids") : m_form.getKey("/Fields"),
-                widget.getObjGen(), field);
+    if (Handle list = parent.isDictionary() ? parent.getKey("/Kids") : m_form.getKey("/Fields");
+        list.isArray()) {
+        replaceItem(list, widget.getObjGen(), field);
+    }
     field.replaceKey("/Kids", Handle::newArray(std::vector<Handle>{widget}));
     widget.replaceKey("/Parent", field);
     return field;
+}
+
+// Lists of thousands of fields are searched once.
+void FormFields::replaceItem(Handle list, const QPDFObjGen &item, Handle other)
+{
+    std::map<QPDFObjGen, int> &places = m_places[list.getObjGen()];
+    const auto isThere = [&list, &item](int index) {
+        return index < list.getArrayNItems() && list.getArrayItem(index).getObjGen() == item;
+    };
+    auto place = places.find(item);
+    if (place == places.end() || !isThere(place->second)) {
+        places.clear();
+        for (int index = 0; index < list.getArrayNItems(); ++index)
+            places.emplace(list.getArrayItem(index).getObjGen(), index);
+        place = places.find(item);
+    }
+    if (place != places.end())
+        list.setArrayItem(place->second, other);
 }
 
 void FormFields::addCopy(Handle widget, Handle copy)

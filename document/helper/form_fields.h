@@ -2,6 +2,8 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <map>
+
 namespace kelvo::documents {
 
 // The document's interactive form. Throws what libqpdf throws.
@@ -21,9 +23,12 @@ public:
 
 private:
     QPDFObjectHandle fieldOf(QPDFObjectHandle widget);
+    void replaceItem(QPDFObjectHandle list, const QPDFObjGen &item, QPDFObjectHandle other);
 
     QPDF &m_pdf;
     QPDFObjectHandle m_form; // null: none
+    // Where items stood in a list, by the list's number; all direct lists share 0.
+    std::map<QPDFObjGen, std::map<QPDFObjGen, int>> m_places;
 };
 
 } // namespace kelvo::documents

@@ -43,7 +43,7 @@ public:
 
     void provideStreamData(QPDFObjGen const &, Pipeline *pipeline) override
     {
-        Pl_Concatenate joined("joined contents", pipeline);
+        Pl_Concatenate joined("contents", pipeline);
         for (Handle &stream : m_streams) {
             // What cannot be decoded says nothing; of what breaks off, the beginning is there.
             if (stream.pipeStreamData(nullptr, nullptr, 0, qpdf_dl_specialized))

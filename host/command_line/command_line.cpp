@@ -6,6 +6,8 @@
 #include "terminal.h"
 #include "texts.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <limits>
 
@@ -179,6 +181,18 @@ Result<void> takeSecret(CommandLine &line, const QString &value, const QString &
     return {};
 }
 
+// A folder, or a file that its name says to be a PDF.
+Result<void> takeTarget(CommandLine &line, const QString &value, const QString &where)
+{
+    if (value.isEmpty())
+        return refused(where, translate("CommandLine", "its value is empty"));
+    const bool isPdf =
+        value.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive) && !QFileInfo(value).isDir();
+    line.toPdf = isPdf ? std::optional(value) : std::nullopt;
+    line.toFolder = isPdf ? std::nullopt : std::optional(value);
+    return {};
+}
+
 Result<void> takeTimeout(CommandLine &line, const QString &value, const QString &where)
 {
     const auto seconds = wholeNumber(value, 1, maximumTimeoutSeconds);
@@ -208,7 +222,7 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--print", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print when the script has ended"), takeFlag<&CommandLine::print>},
     {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600"), takeSecret},
     {nullptr, "--no-window", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show nothing; without a script, print at once"), takeFlag<&CommandLine::noWindow>},
-    {nullptr, "--to", "DIR", QT_TRANSLATE_NOOP("CommandLine", "write document.pdf, options and ticket.plist there\ninstead of sending"), takeText<&CommandLine::toFolder>},
+    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with a folder’s\nname, document.pdf, options and ticket.plist into it"), takeTarget},
     {nullptr, "--wait", nullptr, QT_TRANSLATE_NOOP("CommandLine", "end when the job is printed, and say what becomes\nof it"), takeFlag<&CommandLine::wait>},
     {nullptr, "--timeout", "SECONDS", QT_TRANSLATE_NOOP("CommandLine", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)"), takeTimeout},
     {nullptr, "--language", "LANGUAGE", QT_TRANSLATE_NOOP("CommandLine", "speak this language instead of the desktop’s"), takeText<&CommandLine::language>},
@@ -370,15 +384,15 @@ std::optional<Error> findClash(const CommandLine &line)
                        translate("CommandLine",
                                  "it prints after a script: add --script FILE, or use "
                                  "--no-window to print at once"));
-    if (line.noWindow && !line.script && (line.ppd || line.demo) && !line.toFolder)
+    if (line.noWindow && !line.script && (line.ppd || line.demo) && !line.toFolder && !line.toPdf)
         return refused(
             QStringLiteral("--no-window"),
             translate("CommandLine", "a device without a queue cannot print; add --to DIR"));
-    if (line.wait && line.toFolder)
+    if (line.wait && (line.toFolder || line.toPdf))
         return refused(QStringLiteral("--wait"),
                        translate("CommandLine",
-                                 "a folder prints nothing that could be waited for; "
-                                 "leave out --to"));
+                                 "what is written to a file is not printed, and there is nothing "
+                                 "to wait for; leave out --to"));
     if (line.script == QStringLiteral("-") && line.file.isEmpty()
         && (!line.demo || line.readsStandardInput))
         return refused(QStringLiteral("--script -"),

@@ -30,10 +30,10 @@ struct CommandLine
     bool print = false;                 // --print: after the script
     QMap<QString, QString> secretFiles; // --secret NAME=FILE
     bool noWindow = false;
-    std::optional<QString> toFolder; // --to
-    bool wait = false;               // --wait: until the job is over
-    int timeoutSeconds = 30;         // --timeout, 1 to 3600
-    std::optional<QString> language; // --language, "de" or "de_AT"
+    std::optional<QString> toFolder, toPdf; // --to: at most one of them
+    bool wait = false;                      // --wait: until the job is over
+    int timeoutSeconds = 30;                // --timeout, 1 to 3600
+    std::optional<QString> language;        // --language, "de" or "de_AT"
     bool listPrinters = false, listControls = false, version = false, help = false;
     bool helpScripts = false; // --help-scripts
 };

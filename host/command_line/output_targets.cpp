@@ -117,6 +117,8 @@ Result<void> checkOutputTargets(const CommandLine &line)
                 return checked;
         }
     }
+    if (line.toPdf)
+        return checkTarget(QStringLiteral("--to"), *line.toPdf, inputs);
     return {};
 }
 

@@ -2,7 +2,11 @@
 
 #include "texts.h"
 
+#include <QByteArray>
+
+#include <algorithm>
 #include <chrono>
+#include <vector>
 
 namespace kelvo {
 
@@ -107,6 +111,63 @@ void askFor(ipp_t *request, std::initializer_list<const char *> attributes)
 {
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   int(attributes.size()), nullptr, attributes.begin());
+}
+
+namespace {
+
+// An answer in memory.
+struct Answer
+{
+    QByteArray bytes;
+    qsizetype at = 0; // up to which it is read
+};
+
+ssize_t readOn(void *context, ipp_uchar_t *buffer, size_t size)
+{
+    auto *answer = static_cast<Answer *>(context);
+    const qsizetype count = std::min(qsizetype(size), answer->bytes.size() - answer->at);
+    std::copy_n(answer->bytes.constData() + answer->at, count, reinterpret_cast<char *>(buffer));
+    answer->at += count;
+    return count;
+}
+
+// Null: there is no answer, or none that says yes.
+Message answerTo(http_t *http, ipp_t *request, Patience &patience)
+{
+    if (cupsSendRequest(http, request, "/", ippLength(request)) != HTTP_STATUS_CONTINUE)
+        return nullptr;
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE && !patience.isOver())
+        status = httpUpdate(http);
+    if (status != HTTP_STATUS_OK)
+        return nullptr;
+    Answer answer;
+    std::vector<char> block(64 * 1024);
+    ssize_t count = 0;
+    while ((count = httpRead2(http, block.data(), block.size())) > 0) {
+        patience.progress();
+        answer.bytes.append(block.data(), count);
+    }
+    Message response(ippNew());
+    const bool isWhole =
+        count == 0 && ippReadIO(&answer, readOn, 1, nullptr, response.get()) == IPP_STATE_DATA;
+    return isWhole && ippGetStatusCode(response.get()) < IPP_STATUS_REDIRECTION_OTHER_SITE
+        ? std::move(response)
+        : nullptr;
+}
+
+} // namespace
+
+// What is unusual, such as a server that asks who this is, libcups knows how to do, and to tell.
+Message askAtOnce(http_t *http, ipp_t *request, Patience &patience)
+{
+    if (Message response = answerTo(http, request, patience)) {
+        ippDelete(request);
+        return response;
+    }
+    if (!patience.isOver())
+        httpReconnect2(http, patience.timeoutMs(), nullptr);
+    return Message(cupsDoRequest(http, request, "/"));
 }
 
 bool lastCallSucceeded()

@@ -61,6 +61,11 @@ ipp_t *newRequest(ipp_op_t operation, const QString &queue);
 // each name and each value with a call of the system of its own.
 void askFor(ipp_t *request, std::initializer_list<const char *> attributes);
 
+// As cupsDoRequest() to the server, for answers that may be long: libcups takes those from the
+// connection name by name and value by value, for a queue of our devices in 164 pieces, each with
+// calls of the system; here they come in large blocks. Frees `request`.
+Message askAtOnce(http_t *http, ipp_t *request, Patience &patience);
+
 // Connects to the server of the environment (CUPS_SERVER, client.conf). What is
 // called on the connection fails within a quarter of a second once `patience`
 // is over; it is borrowed. This thread is never asked for a password then.

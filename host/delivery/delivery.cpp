@@ -83,6 +83,14 @@ Result<void> makePdf(const Document &document, const PdfLayout &layout, const QB
 Result<PreparedJob> prepareJob(const JobRequest &request)
 {
     PreparedJob job;
+    if (request.isForPeople) {
+        const auto layout = layoutOf(request);
+        if (!layout)
+            return layout.error();
+        if (auto made = makePdf(request.document, layout.value(), {}, job); !made)
+            return made.error();
+        return job;
+    }
     job.hasPasscode = holdsSecret(request.ticket, request.secretKeys);
     job.isFax = isFax(request.ticket, request.secretKeys);
     if ((job.hasPasscode || job.isFax) && !readsTickets(request.ppd))
@@ -188,6 +196,76 @@ Result<void> deliverToFolder(const PreparedJob &job, const QString &folder)
     std::array files = {std::move(pdf).value(), std::move(ticket).value(), std::move(list).value()};
     if (auto placed = StagedFile::place(files); !placed)
         return notWritten(placed.error());
+    return {};
+}
+
+namespace {
+
+bool isSameFile(const struct stat &one, const struct stat &other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+// What may not be replaced by a PDF.
+Result<void> checkPdfTarget(const QString &path, const QString &document)
+{
+    const auto there = fileStatus(path);
+    if (!there) {
+        const QString parent = QFileInfo(path).path();
+        if (!fileStatus(parent))
+            return Error{Code::NotWritable, path,
+                         translate("Delivery",
+                                   "the folder %1 does not exist; make it first, or name another "
+                                   "one")
+                             .arg(parent)};
+        return {};
+    }
+    const auto printed = document.isEmpty() ? std::nullopt : fileStatus(document);
+    if (printed && isSameFile(*printed, *there))
+        return Error{Code::Refused, path,
+                     translate("Delivery",
+                               "this is the document itself, which would be lost; name another "
+                               "file")};
+    if (auto replaceable = checkReplaceable({path}); !replaceable)
+        return replaceable;
+    QFile file(path);
+    if (there->st_size > 0
+        && (!file.open(QIODevice::ReadOnly) || !file.read(1024).contains("%PDF-")))
+        return Error{
+            Code::Refused, path,
+            translate("Delivery", "another file stands there that is no PDF; name another file")};
+    return {};
+}
+
+// What the system gives the user's new files. There is no way to ask that changes nothing but
+// to read it.
+mode_t usualRights()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    mode_t umask = 077;
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &line : status.readAll().split('\n')) {
+            if (line.startsWith("Umask:"))
+                umask = line.mid(6).trimmed().toUInt(nullptr, 8);
+        }
+    }
+    return 0666 & ~umask;
+}
+
+} // namespace
+
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document)
+{
+    if (auto checked = checkPdfTarget(path, document); !checked)
+        return checked;
+    const auto before = fileStatus(path);
+    auto pdf = StagedFile::withCopy(path, job.pdfPath);
+    if (!pdf)
+        return notWritten(pdf.error());
+    if (auto placed = pdf.value().place(); !placed)
+        return notWritten(placed.error());
+    // Where the file system keeps no rights there are none to be given.
+    (void)::chmod(fileNameBytes(path).constData(), before ? before->st_mode & 0777 : usualRights());
     return {};
 }
 

@@ -29,8 +29,10 @@ struct JobOption
 
 struct JobRequest
 {
-    Document document;            // as the user opened it
-    PdfLayout layout;             // what of it goes out, and where; empty: all, as it is
+    Document document; // as the user opened it
+    PdfLayout layout;  // what of it goes out, and where; empty: all, as it is
+    // Its pages alone, for people: no ticket goes in, and nothing that a printer is told.
+    bool isForPeople = false;
     TicketFile ticket;            // as the panels wrote it, without nonce
     JobSettings settings;         // copies, paper (job_settings.h)
     const PpdFile *ppd = nullptr; // borrowed; null: a queue without one
@@ -68,6 +70,11 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 // there; the files are 0600. Files that stand there are replaced one by one, after
 // all three were found to be replaceable; after an error what stood there stays.
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
+
+// Writes the job's PDF to `path`, over another PDF, whose rights stay; a new one has those that the
+// user's files have. Refused for what is no PDF, and for `document`, the file that is printed
+// (empty: none): it would be lost. After an error what stood there stays.
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document);
 
 // Streams the job to the queue. Blocks: call it on a worker thread. What libcups
 // does happens on yet another one, which is left to itself when the server does

@@ -43,9 +43,11 @@ Printer::State stateFrom(int value)
 }
 
 // What a server that has no printer answers is no failure.
-bool isAnswered()
+bool isAnswer(ipp_t *response)
 {
-    return lastCallSucceeded() || cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND;
+    const ipp_status_t status = ippGetStatusCode(response);
+    return response
+        && (status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND);
 }
 
 // One of several texts, as options are written: what would end it stands behind a backslash.
@@ -115,15 +117,15 @@ void take(ipp_attribute_t *attribute, Queue &queue)
         queue.options.insert(option, *value);
 }
 
-Result<std::vector<Queue>> readQueues(http_t *http, const Patience &patience)
+Result<std::vector<Queue>> readQueues(http_t *http, Patience &patience)
 {
     ipp_t *request = newRequest(IPP_OP_CUPS_GET_PRINTERS);
     askFor(request,
            {"printer-name", "printer-info", "printer-location", "printer-make-and-model",
-            "printer-state", "printer-state-reasons", "printer-is-accepting-jobs",
-            "printer-defaults"});
-    const Message response(cupsDoRequest(http, request, "/"));
-    if (!response || !isAnswered())
+            "printer-state", "printer-state-message", "printer-state-reasons",
+            "printer-is-accepting-jobs", "printer-defaults"});
+    const Message response = askAtOnce(http, request, patience);
+    if (!isAnswer(response.get()))
         return serverError(patience, serverName());
     std::vector<Queue> queues;
     bool isInQueue = false; // what separates two groups of attributes belongs to none
@@ -167,7 +169,8 @@ Printer printerFrom(const QString &name, const Options &options)
     printer.state = stateFrom(option("printer-state").toInt());
     printer.acceptsJobs = option("printer-is-accepting-jobs") != QLatin1String("false");
     printer.stateMessage =
-        stateWords({}, option("printer-state-reasons").split(u',', Qt::SkipEmptyParts));
+        stateWords(option("printer-state-message"),
+                   option("printer-state-reasons").split(u',', Qt::SkipEmptyParts));
     for (auto value = options.cbegin(); value != options.cend(); ++value) {
         if (!isDescription(value.key()))
             printer.defaults.insert(value.key(), value.value());

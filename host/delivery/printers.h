@@ -24,6 +24,8 @@ struct Printer : PrinterCondition
     // Option → value: what lpoptions set for the queue or instance, and what the
     // server's administrator did. Descriptions of the queue are not among them.
     QMap<QString, QString> defaults;
+
+    friend bool operator==(const Printer &, const Printer &) = default;
 };
 
 class PrinterDirectory : public QObject
@@ -45,7 +47,7 @@ public:
     void refresh(int timeoutMs = 30000, Ahead ahead = Ahead::Nothing,
                  const QString &preferred = {});
     void fetchPpd(const QString &printer, int timeoutMs = 30000);
-    // What it is doing now, with its own message, which no list of printers has.
+    // What it is doing now.
     void fetchCondition(const QString &printer, int timeoutMs = 30000);
 
 signals:

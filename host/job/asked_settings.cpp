@@ -103,6 +103,13 @@ void AskedSettings::settle(const TicketFile &ticket)
     m_unchanged = ticket;
 }
 
+void AskedSettings::propose(const TicketFile &before, const TicketFile &after)
+{
+    const TicketFile proposed = part(after, completed(differences(before, after), m_repeated));
+    for (TicketFile *file : {&m_defaults, &m_beginning, &m_seen, &m_unchanged})
+        *file = laid(proposed, std::move(*file), {}, m_repeated);
+}
+
 bool AskedSettings::isFirstWrite(const TicketPlace &place, const TicketFile &ticket,
                                  const PpdFile *ppd) const
 {

@@ -40,6 +40,8 @@ public:
 
     // The ticket as the device has it, before the user touches anything.
     void settle(const TicketFile &ticket);
+    // What is different at `after` nobody asked for: the device begins so with this document.
+    void propose(const TicketFile &before, const TicketFile &after);
     // The user has chosen what is set at `places`: the next take() finds it there,
     // whether or not it is different.
     void choose(const TicketPlaces &places);

@@ -46,6 +46,20 @@ std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &p
                    translate("Job", "Choose larger paper, or let the pages be made to fit.")};
 }
 
+std::optional<Caution> cutPlacesCaution(const QList<int> &pages)
+{
+    if (pages.isEmpty())
+        return std::nullopt;
+    return Caution{
+        Weight::Told,
+        translate("Job",
+                  "Page(s) %1 larger than the places on the sheet: what does not fit is "
+                  "cut off.",
+                  nullptr, pages.size())
+            .arg(pageListInWords(pages)),
+        translate("Job", "Choose fewer pages per sheet, or let the pages be made to fit.")};
+}
+
 std::optional<Caution> shrunkPagesCaution(const QList<int> &pages, const QString &paper)
 {
     if (pages.isEmpty())

@@ -38,6 +38,8 @@ std::optional<Caution> printerCaution(const QString &printer, const PrinterCondi
 // `pages` of the document, ascending, do not fit on `paper`, which is called so, and are cut off,
 // or made smaller.
 std::optional<Caution> cutPagesCaution(const QList<int> &pages, const QString &paper);
+// The same where several share a sheet.
+std::optional<Caution> cutPlacesCaution(const QList<int> &pages);
 std::optional<Caution> shrunkPagesCaution(const QList<int> &pages, const QString &paper);
 // Pages that go out are not the document's: covers, inserts, exceptions count what is printed.
 // `onFirst` are the document's pages on the first one.

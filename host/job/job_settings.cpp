@@ -715,6 +715,38 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
                        {0.0, 0.0, size->height(), size->width()});
 }
 
+QString paperAsLargeAs(const QSizeF &page, const PpdFile &ppd)
+{
+    const auto fits = [&page](const PpdPageSize &size) {
+        return isSameSize(page, QSizeF(size.width, size.height));
+    };
+    const PpdOption *papers = ppd.findOption(pageSizeOption);
+    const PpdPageSize *usual = papers ? ppd.findPageSize(papers->defaultChoice) : nullptr;
+    if (usual && fits(*usual))
+        return usual->name;
+    // The same paper with other margins or fed otherwise ("A4.Fullbleed", "A4Small") is called
+    // after it: its own name is the shortest.
+    QString found;
+    for (const PpdPageSize &size : ppd.pageSizes()) {
+        const bool isShorter = found.isEmpty() || size.name.size() < found.size();
+        if (size.name != QLatin1String("Custom") && isShorter && fits(size))
+            found = size.name;
+    }
+    return found;
+}
+
+bool namesPaper(const QMap<QString, QString> &queueDefaults, const PpdFile &ppd)
+{
+    const auto isNamed = [&](const char *option) {
+        return queueDefaults.contains(QLatin1String(option));
+    };
+    if (isNamed("PageSize") || isNamed("PageRegion"))
+        return true;
+    const PpdOption *papers = ppd.findOption(pageSizeOption);
+    const auto media = findPageSizeName(queueDefaults.value(QStringLiteral("media")), ppd);
+    return media && papers && *media != papers->defaultChoice;
+}
+
 std::optional<Paper> paperNamed(const QString &name, const PpdFile &ppd)
 {
     const auto size = paperSize(name, ppd);

@@ -52,6 +52,12 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
 // default where nothing is chosen. Without a PPD no choice is sent.
 bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd);
 
+// The PPD's page size that has room for just such a page, in points, either way up: the default
+// one where it is that; empty where there is none.
+QString paperAsLargeAs(const QSizeF &page, const PpdFile &ppd);
+// Whether a queue's own defaults name a paper. What a server says of the PPD's default does not.
+bool namesPaper(const QMap<QString, QString> &queueDefaults, const PpdFile &ppd);
+
 // The paper of that name, with what its printer leaves free of print; none as for paperSize().
 std::optional<Paper> paperNamed(const QString &name, const PpdFile &ppd);
 

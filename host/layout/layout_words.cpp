@@ -8,11 +8,11 @@ QString wordsOf(PageSet set)
 {
     switch (set) {
     case PageSet::All:
-        return translate("Layout", "Odd and even pages");
+        return translate("Layout", "Odd and even");
     case PageSet::Odd:
-        return translate("Layout", "Odd pages only");
+        return translate("Layout", "Odd pages");
     case PageSet::Even:
-        return translate("Layout", "Even pages only");
+        return translate("Layout", "Even pages");
     }
     return {};
 }
@@ -57,7 +57,7 @@ QString wordsOf(PageFlow flow)
     return {};
 }
 
-QString percentInWords(int percent)
+QString percentInWords(long percent)
 {
     return translate("Layout", "%1 %", "a percentage").arg(percent);
 }

@@ -11,7 +11,7 @@ namespace kelvo {
 QString wordsOf(PageSet set);
 QString wordsOf(PageScaling scaling);
 QString wordsOf(PageFlow flow);
-QString percentInWords(int percent);
+QString percentInWords(long percent);
 
 // "2 and 4–6"; of many the first few.
 QString pageListInWords(const QList<int> &pages);

@@ -162,7 +162,7 @@ bool SidePlacement::isCut() const
 QRectF SidePlacement::all() const
 {
     QRectF all(QPointF(), sheet);
-    if (pages.size() == 1 && isCut())
+    if (losesPrint())
         all |= pages.first().rect;
     return all;
 }

@@ -37,7 +37,9 @@ struct SidePlacement
     bool isUpsideDown = false; // all of it
 
     bool isCut() const; // one of its pages
-    QRectF all() const; // the sheet, and what of a cut page that has it alone lies around it
+    // A page that has the sheet for itself is cut by it.
+    bool losesPrint() const { return pages.size() == 1 && isCut(); }
+    QRectF all() const; // the sheet, and what of such a page lies around it
     void turnOver();    // all of it, by half a turn
     friend bool operator==(const SidePlacement &, const SidePlacement &) = default;
 };

@@ -101,7 +101,38 @@ private:
     const QString m_folder;
 };
 
+class PdfFile : public Destination
+{
+    Q_DECLARE_TR_FUNCTIONS(kelvo::Folder)
+
+public:
+    PdfFile(const QString &path, const QString &document)
+        : m_path(path)
+        , m_document(document)
+    {
+    }
+
+    PrintOutcome deliver(const PreparedJob &job, const std::atomic_bool &) const override
+    {
+        if (const auto delivered = deliverToPdf(job, m_path, m_document); !delivered)
+            return {ExitStatus::Failed, {}, delivered.error().text()};
+        return {ExitStatus::Printed, m_path, {}};
+    }
+
+    bool isForPeople() const override { return true; }
+    QString onTheWay() const override { return tr("Writing to %1…").arg(m_path); }
+    QString arrived(const QString &place) const override { return tr("Written to %1").arg(place); }
+
+private:
+    const QString m_path, m_document;
+};
+
 } // namespace
+
+std::shared_ptr<const Destination> pdfDestination(const QString &path, const QString &document)
+{
+    return std::make_shared<PdfFile>(path, document);
+}
 
 std::shared_ptr<const Destination> queueDestination(const QString &queue, const QString &title,
                                                     int timeoutMs)

@@ -32,6 +32,7 @@ public:
     virtual PrintOutcome deliver(const PreparedJob &job,
                                  const std::atomic_bool &cancelled) const = 0;
 
+    virtual bool isForPeople() const { return false; }       // JobRequest::isForPeople
     virtual QString onTheWay() const = 0;                    // "Sending to Hall-3…"
     virtual QString arrived(const QString &place) const = 0; // "Hall-3-17 sent"
 };
@@ -39,5 +40,7 @@ public:
 std::shared_ptr<const Destination> queueDestination(const QString &queue, const QString &title,
                                                     int timeoutMs);
 std::shared_ptr<const Destination> folderDestination(const QString &folder);
+// A PDF of what is printed, never over `document`, the file that it is made of.
+std::shared_ptr<const Destination> pdfDestination(const QString &path, const QString &document);
 
 } // namespace kelvo

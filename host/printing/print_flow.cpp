@@ -71,11 +71,34 @@ void PrintFlow::press(const QString &unfinished)
 {
     Q_ASSERT(!m_run);
     m_refusal.reset();
+    m_isAside = false;
     if (!hasDestination())
         return;
     m_session.job().writeAll();
-    if (hasPages(unfinished) && goTogether() && isLetGo() && areSettingsWritten())
-        start();
+    if (!hasPages(unfinished))
+        return;
+    const auto &elsewhere = m_plan.elsewhere;
+    if (elsewhere && elsewhere->isForPeople()) {
+        if (isLetGo() && areSettingsWritten())
+            start(elsewhere);
+        return;
+    }
+    if (goTogether() && isLetGo() && areSettingsWritten()) {
+        const PrinterSearch &search = m_session.search();
+        start(elsewhere ? elsewhere
+                        : queueDestination(search.name(), m_session.document().title(),
+                                           search.timeoutMs()));
+    }
+}
+
+void PrintFlow::pressTo(std::shared_ptr<const Destination> destination, const QString &unfinished)
+{
+    Q_ASSERT(!m_run);
+    m_refusal.reset();
+    m_isAside = true;
+    m_session.job().writeAll();
+    if (hasPages(unfinished))
+        start(std::move(destination));
 }
 
 bool PrintFlow::hasDestination()
@@ -169,20 +192,19 @@ Result<void> PrintFlow::writeSettingsOut()
     return writeTicketFile(*m_plan.presetOut, presetFrom(job.preset(), job.secretKeys(), false));
 }
 
-void PrintFlow::start()
+void PrintFlow::start(std::shared_ptr<const Destination> destination)
 {
     const PrinterSearch &search = m_session.search();
     SessionJob &job = m_session.job();
-    const QString title = m_session.document().title();
-    m_destination = m_plan.elsewhere ? m_plan.elsewhere
-                                     : queueDestination(search.name(), title, search.timeoutMs());
+    m_destination = std::move(destination);
     PrintRun::Order order;
+    order.request.isForPeople = m_destination->isForPeople();
     order.request.document = m_session.document().document();
     order.request.ticket = job.ticket();
     order.request.settings = job.settings();
     // A device that reads tickets finds there how pages are turned.
-    const bool isUpsideDown =
-        !readsTickets(search.ppd().get()) && isReverse(order.request.settings.orientation);
+    const bool isUpsideDown = !order.request.isForPeople && !readsTickets(search.ppd().get())
+        && isReverse(order.request.settings.orientation);
     order.request.layout = job.printedPages().value().pdfLayout(isUpsideDown);
     order.request.secretKeys = job.secretKeys();
     if (const Printer *printer = search.printer())
@@ -236,6 +258,11 @@ void PrintFlow::takeOutcome(const PrintOutcome &outcome)
 void PrintFlow::sayWhatWasNotSent()
 {
     SessionJob &job = m_session.job();
+    if (m_destination->isForPeople()) {
+        if (const QString sentence = leftToThePrinter(job); !sentence.isEmpty())
+            printLine(stderr, QStringLiteral("kelvo-print: ") + sentence);
+        return;
+    }
     for (const QString &setting : job.missing())
         printLine(stderr,
                   QStringLiteral("kelvo-print: ")

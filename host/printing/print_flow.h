@@ -70,6 +70,9 @@ public:
     // Not while a job is on its way. `unfinished` is what the user has still to type of the
     // pages, a sentence; mostly empty.
     void press(const QString &unfinished = {});
+    // The same to somewhere else than the plan says: a file for people, which no settings of a
+    // printer can be wrong for.
+    void pressTo(std::shared_ptr<const Destination> destination, const QString &unfinished = {});
     // A press that finds no button to press; refused() does not tell of it.
     void refuseUnready();
     void cancel(); // the outcome says whether it was in time
@@ -80,6 +83,7 @@ public:
     static QString unknownOutcome();
 
     bool isPrinting() const { return m_run != nullptr; }
+    bool isAside() const { return m_isAside; } // the last press was pressTo()
     // Of the job that is on its way, or the last one; null before.
     const Destination *destination() const { return m_destination.get(); }
     const std::vector<SentJob> &sentJobs() const { return m_sentJobs; } // to queues, in order
@@ -101,7 +105,7 @@ private:
     bool goTogether();
     bool isLetGo();
     bool areSettingsWritten();
-    void start();
+    void start(std::shared_ptr<const Destination> destination);
     void takeOutcome(const PrintOutcome &outcome);
     void sayWhatWasNotSent();
     void refuse(PrintRefusal::Step step, ExitStatus status, const QString &header,
@@ -112,6 +116,7 @@ private:
     SessionCautions &m_cautions;
     const PrintPlan m_plan;
     PrintQuestions *m_questions = nullptr;
+    bool m_isAside = false;
     std::unique_ptr<PrintRun> m_run;
     std::shared_ptr<const Destination> m_destination;
     std::vector<SentJob> m_sentJobs;

@@ -37,7 +37,7 @@ void removeLeftoversOfKilledRuns(const CommandLine &line)
                            localApplicationSupportFolder() + QStringLiteral("/Kelvo")};
     if (line.toFolder)
         folders << *line.toFolder;
-    for (const auto &file : {line.ticketOut, line.presetOut}) {
+    for (const auto &file : {line.ticketOut, line.presetOut, line.toPdf}) {
         if (file)
             folders << QFileInfo(*file).path();
     }

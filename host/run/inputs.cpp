@@ -199,6 +199,8 @@ Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
     options.preset = line.preset.value_or(QString());
     if (line.toFolder)
         options.plan.elsewhere = folderDestination(*line.toFolder);
+    else if (line.toPdf)
+        options.plan.elsewhere = pdfDestination(*line.toPdf, line.file);
     options.plan.ticketOut = line.ticketOut;
     options.plan.presetOut = line.presetOut;
     return inputs;

@@ -339,12 +339,15 @@ void ScriptRunner::Private::run(const ScriptLine &line)
         fail(line.number, *problem);
 }
 
-// Whether the next line is a key for the menu or list that the line before has opened.
+// Whether the next line is a key for the menu or list that the line before has opened, or whoever
+// runs the script is to find it open.
 bool ScriptRunner::Private::isKeyForPopup() const
 {
-    return QApplication::activePopupWidget() && next > 0 && next < lines.size()
-        && lines[next - 1].command == ScriptCommand::Key
-        && lines[next].command == ScriptCommand::Key;
+    if (!QApplication::activePopupWidget() || next == 0
+        || lines[next - 1].command != ScriptCommand::Key)
+        return false;
+    return next < lines.size() ? lines[next].command == ScriptCommand::Key
+                               : options.leavesDialogsOpen;
 }
 
 // Whether a menu or list is open that no key has opened. One of a key is for keys: other lines

@@ -52,6 +52,7 @@ public:
 
     const PrinterSearch &search() const { return m_search; }
     void lookAtPrinter() { m_search.look(); }
+    void lookAtPrinters() { m_search.lookAtAll(); }
     // Goes to another printer and takes the settings along. What the new device
     // does not have comes back with one that has it.
     void choosePrinter(const QString &name);
@@ -63,7 +64,7 @@ public:
 
 signals:
     void printersChanged();
-    void conditionChanged(); // of a printer in the list
+    void conditionChanged(); // as PrinterSearch has it
     void stageChanged();
     void documentChanged();
     void reloaded(); // every setting may have changed

@@ -22,6 +22,11 @@ void DocumentOpening::cancel()
     m_opening.drop();
 }
 
+QString DocumentOpening::sourcePath() const
+{
+    return m_source && m_source->path != QLatin1String("-") ? m_source->path : QString();
+}
+
 QString DocumentOpening::title() const
 {
     if (!m_document.isNull())

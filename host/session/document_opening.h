@@ -33,6 +33,7 @@ public:
     const Document &document() const { return m_document; } // null: not (yet) there
     const QString &problem() const { return m_problem; }    // a sentence
     QString title() const;                                  // also before it is open
+    QString sourcePath() const;                             // of the user's file; empty: it is none
 
 signals:
     void ended(); // the document is there, or known not to come

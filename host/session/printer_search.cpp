@@ -1,7 +1,9 @@
 #include "printer_search.h"
 
-#include "cautions.h"
 #include "nearest_name.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace kelvo {
 
@@ -60,6 +62,7 @@ void PrinterSearch::findPrinters()
     m_arePrintersKnown = m_isPpdKnown = false;
     m_askedFor.clear(); // answers to the last directory do not come any more
     m_lookedAt.reset();
+    m_isLookingAtAll = false;
     setState(State::Searching,
              {tr("Looking for printers"), tr("The print server has not answered yet.")});
     if (m_wanted.directory) {
@@ -119,6 +122,8 @@ void PrinterSearch::listenTo(PrinterDirectory &directory)
 
 void PrinterSearch::takePrintersProblem(const Error &error)
 {
+    if (std::exchange(m_isLookingAtAll, false))
+        return; // what the last list said stands then
     const bool isSilent = error.code == Code::TimedOut || error.code == Code::Unreachable;
     setState(
         State::Stuck,
@@ -128,6 +133,10 @@ void PrinterSearch::takePrintersProblem(const Error &error)
 
 void PrinterSearch::takePrinters(const QList<Printer> &printers)
 {
+    if (std::exchange(m_isLookingAtAll, false)) {
+        takeNews(printers);
+        return;
+    }
     m_printers = printers;
     m_arePrintersKnown = true;
     if (m_printers.isEmpty()) {
@@ -178,6 +187,31 @@ void PrinterSearch::look()
         return;
     m_lookedAt = m_name;
     m_directory->fetchCondition(m_name, m_wanted.timeoutMs);
+}
+
+void PrinterSearch::lookAtAll()
+{
+    if (!m_directory || !m_arePrintersKnown || m_isLookingAtAll)
+        return;
+    m_isLookingAtAll = true;
+    m_directory->refresh(m_wanted.timeoutMs, PrinterDirectory::Ahead::Nothing, m_wanted.preferred);
+}
+
+void PrinterSearch::takeNews(QList<Printer> printers)
+{
+    const Printer *now = printer();
+    if (now && std::ranges::find(printers, m_name, &Printer::name) == printers.end()) {
+        // Its settings are the user's work, and a server that begins anew may bring it back.
+        Printer gone = *now;
+        gone.isDefault = false;
+        gone.acceptsJobs = false;
+        gone.stateMessage = tr("the print server does not know it any more");
+        printers.append(gone);
+    }
+    if (printers == m_printers)
+        return;
+    m_printers = std::move(printers);
+    emit conditionChanged();
 }
 
 void PrinterSearch::takeCondition(const QString &printer, const PrinterCondition &condition)
@@ -254,8 +288,7 @@ void PrinterSearch::endWhenComplete()
     const Printer *now = printer();
     if (m_state == State::Found || !m_arePrintersKnown || !m_isPpdKnown || !now)
         return;
-    // A queue in trouble has a message of its own, which the list does not have.
-    if (m_isChosen || printerCaution(now->name, *now))
+    if (m_isChosen)
         look();
     setState(State::Found);
 }

@@ -57,11 +57,14 @@ public:
     void choose(const QString &name);
     // Asks what the printer is doing now; conditionChanged() says when that is news.
     void look();
-    bool isLooking() const { return m_lookedAt == m_name; }
+    bool isLooking() const { return m_lookedAt == m_name || m_isLookingAtAll; }
+    // Asks the same of all, and which there are; the printer and its settings stay. One that has
+    // gone meanwhile and is the chosen one stays in the list, and says that it has gone.
+    void lookAtAll();
 
 signals:
     void printersChanged();
-    void conditionChanged(); // of a printer in the list
+    void conditionChanged(); // of printers in the list, or which there are
     void stateChanged();
 
 private:
@@ -69,6 +72,7 @@ private:
     void listenTo(PrinterDirectory &directory);
     void takePrinters(const QList<Printer> &printers);
     void takePrintersProblem(const Error &error);
+    void takeNews(QList<Printer> printers);
     void takeCondition(const QString &printer, const PrinterCondition &condition);
     void fetchPpd();
     void askForPpd();
@@ -91,8 +95,9 @@ private:
     bool m_isAssumed = false;
     bool m_isChosen = false;           // by the user: the list may be old by then
     std::optional<QString> m_lookedAt; // whose condition is on its way
-    QSet<QString> m_askedFor;          // printers whose PPD is on its way
-    bool m_isPpdKnown = false;         // or known not to come
+    bool m_isLookingAtAll = false;
+    QSet<QString> m_askedFor;  // printers whose PPD is on its way
+    bool m_isPpdKnown = false; // or known not to come
     QString m_noPpdReason;
     std::shared_ptr<PpdFile> m_ppd;
 };

@@ -139,8 +139,10 @@ void SessionCautions::lookAtPages()
         if (caution)
             m_cautions.push_back(std::move(*caution));
     };
+    const QList<int> cutPages(cut.begin(), cut.end());
     if (settings.layout.scaling != PageScaling::Fill) // that was asked for
-        add(cutPagesCaution(QList<int>(cut.begin(), cut.end()), paper));
+        add(settings.layout.pagesPerSide > 1 ? cutPlacesCaution(cutPages)
+                                             : cutPagesCaution(cutPages, paper));
     add(shrunkPagesCaution(QList<int>(shrunk.begin(), shrunk.end()), paper));
 
     const JobDescription &description = job.description();

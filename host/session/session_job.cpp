@@ -86,7 +86,32 @@ void SessionJob::tellFirstPage()
 void SessionJob::setDocument(const Document &document)
 {
     m_document = document;
+    if (m_isSettled)
+        proposePaper();
     tellFirstPage();
+}
+
+// The document's own size, where the device has it and nobody says another one.
+void SessionJob::proposePaper()
+{
+    if (m_document.isNull() || !ppd() || namesPaper(m_device.defaults, *ppd()))
+        return;
+    const TicketFile asked = m_edits.asked.asked();
+    if (std::ranges::any_of(paperPlaces(),
+                            [&](const TicketPlace &place) { return isSet(place, asked); }))
+        return;
+    const QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    JobSettings settings = this->settings();
+    if (paper.isEmpty() || paper == settings.paperName)
+        return;
+    if (m_isSettled)
+        writeAll();
+    const TicketFile before = ticketFileFrom(*m_session);
+    settings.paperName = paper;
+    writeJobSettings(settings, ppd(), *m_session);
+    readAll();
+    sync(kSyncWrite);
+    m_edits.asked.propose(before, ticketFileFrom(*m_session));
 }
 
 Result<PrintedPages> SessionJob::printedPages()
@@ -151,8 +176,9 @@ void SessionJob::layAsked()
         readAll();
         sync(kSyncWrite);
     }
-    tellFirstPage();
     m_edits.asked.settle(ticketFileFrom(*m_session));
+    proposePaper();
+    tellFirstPage();
     m_edits.lookedAt = m_session->printSettings().ppdChoices;
     m_edits.lastSet.clear();
 }

@@ -143,6 +143,7 @@ private:
     void layAsked();
     void nameJob();
     void tellFirstPage();
+    void proposePaper();
     void sync(SyncDirection direction);
 
     const Wishes m_wishes;

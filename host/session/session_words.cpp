@@ -31,6 +31,25 @@ QString pagesProblem(DialogSession &session)
         .arg(detail.left(1).toUpper() + detail.mid(1));
 }
 
+QString leftToThePrinter(SessionJob &job)
+{
+    const JobDescription &description = job.description();
+    QStringList parts;
+    if (description.imposition)
+        parts << translate("Session", "the booklet");
+    if (!description.overlays.empty())
+        parts << translate("Session", "the watermark");
+    if (description.leadingPage)
+        parts << description.leadingPage->name;
+    const SpecialSheets &sheets = description.sheets;
+    if (sheets.frontCover == SpecialSheets::Cover::Sheet
+        || sheets.backCover == SpecialSheets::Cover::Sheet || !sheets.inserts.isEmpty())
+        parts << translate("Session", "covers and inserts");
+    return parts.isEmpty()
+        ? QString()
+        : translate("Session", "Only the printer adds this: %1.").arg(listed(parts));
+}
+
 QString jobInShort(DialogSession &session)
 {
     SessionJob &job = session.job();

@@ -22,9 +22,10 @@ DialogFoot::DialogFoot(QWidget *toggle, QWidget *parent)
     , m_text(new QLabel(this))
     , m_progress(new QProgressBar(this))
     , m_cancelJob(button("cancelJob", tr("Cancel &Job")))
-    , m_timing(button("jobTiming", tr("Whe&n to Print…")))
+    , m_timing(button("jobTiming", tr("When to Print…")))
     , m_details(button("whatWillBeSent", tr("&What Will Be Sent…")))
     , m_help(button("help", tr("&Help")))
+    , m_savePdf(button("savePdf", tr("Save as PDF…")))
     , m_cancel(button("cancel", tr("Cancel")))
     , m_print(button("print", tr("&Print")))
 {
@@ -53,7 +54,8 @@ DialogFoot::DialogFoot(QWidget *toggle, QWidget *parent)
     setOwnToolTip(m_details, tr("All settings of the job in words, before it is printed"));
     textRow->addWidget(m_details);
     auto *buttons = new ButtonRow(this);
-    buttons->setButtons({m_help}, {m_cancel, m_print});
+    setOwnToolTip(m_savePdf, tr("The pages as they would be printed, in a file"));
+    buttons->setButtons({m_help, m_savePdf}, {m_cancel, m_print});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);

@@ -21,6 +21,7 @@ public:
     QPushButton *timing() const { return m_timing; }
     QPushButton *details() const { return m_details; }
     QPushButton *help() const { return m_help; }
+    QPushButton *savePdf() const { return m_savePdf; }
     QPushButton *cancel() const { return m_cancel; }
     QPushButton *print() const { return m_print; }
 
@@ -35,7 +36,7 @@ private:
 
     QLabel *m_text;
     QProgressBar *m_progress;
-    QPushButton *m_cancelJob, *m_timing, *m_details, *m_help, *m_cancel, *m_print;
+    QPushButton *m_cancelJob, *m_timing, *m_details, *m_help, *m_savePdf, *m_cancel, *m_print;
 };
 
 } // namespace kelvo

@@ -136,8 +136,8 @@ void DialogParts::arrangeTabOrder()
     chainFocusStops(focusStopsIn(printer) + focusStopsIn(preview) + QList<QWidget *>{panelSwitch}
                     + panelStops + focusStopsIn(cautionBar)
                     + QList<QWidget *>{columns->toggle(), foot->cancelJob(), foot->timing(),
-                                       foot->details(), foot->help(), foot->cancel(),
-                                       foot->print()});
+                                       foot->details(), foot->help(), foot->savePdf(),
+                                       foot->cancel(), foot->print()});
 }
 
 void DialogParts::giveFirstFocus()

@@ -46,6 +46,7 @@ struct DocumentPreview::Private
     Layout layout;
     PrintedPages pages;     // of `layout`, or the whole document
     SheetSequence sequence; // of them
+    bool hasScaled = false; // some are not as the document has them
     int index = 0;          // of the shown side
     int followed = 0;       // the page that is followed where a side has two, as printed
     QString message;
@@ -94,6 +95,9 @@ struct DocumentPreview::Private
         const int behind = sidesBehindPage();
         const bool wasAtTheBeginning = index == 0 && !isLeading();
         pages = layout.pages.count() > 0 ? layout.pages : allOf(document);
+        hasScaled = false;
+        for (int printed = 1; printed <= pages.count() && !hasScaled; ++printed)
+            hasScaled = !pages.isAsItIs(printed);
         sequence = SheetSequence(pages.count(), layout.twoSided, layout.special, layout.imposition,
                                  layout.leadingPage.has_value());
         // A page may be printed twice.
@@ -232,7 +236,8 @@ struct DocumentPreview::Private
     void showCaption()
     {
         // Room for a remark, so that sheets do not change their size as one turns them.
-        const bool hasRemarks = layout.imposition || !layout.special.exceptions.isEmpty();
+        const bool hasRemarks =
+            layout.imposition || hasScaled || !layout.special.exceptions.isEmpty();
         caption->setMinimumHeight(hasRemarks ? 2 * caption->fontMetrics().lineSpacing() : 0);
         QString text;
         if (message.isEmpty() && count() > 0) {

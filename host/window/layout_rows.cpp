@@ -11,6 +11,8 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 #include <QToolButton>
 
 #include <algorithm>
@@ -34,17 +36,33 @@ Menu menuOf(std::initializer_list<Value> values)
     return menu;
 }
 
-// Fields beside one another, the first as wide as there is room.
-QWidget *inOneRow(QWidget *parent, std::initializer_list<QWidget *> fields)
+// Fields beside one another; `wide` has the room.
+QWidget *inOneRow(QWidget *parent, std::initializer_list<QWidget *> fields, const QWidget *wide)
 {
     auto *row = new QWidget(parent);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
     for (QWidget *field : fields)
-        layout->addWidget(field, field == *fields.begin() ? 1 : 0);
+        layout->addWidget(field, field == wide ? 1 : 0);
     return row;
 }
+
+// Keeps its looks when it is checked: the arrow says that.
+class FoldButton : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QStyleOptionToolButton option;
+        initStyleOption(&option);
+        option.state &= ~QStyle::State_On;
+        QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, option);
+    }
+};
 
 TicketPlace printPlace(const QString &key)
 {
@@ -58,7 +76,7 @@ LayoutRows::LayoutRows(QWidget *pane, QGridLayout *grid, AddRow addRow)
     , m_pane(pane)
     , m_grid(grid)
     , m_addRow(std::move(addRow))
-    , m_toggle(new QToolButton(pane))
+    , m_toggle(new FoldButton(pane))
 {
     m_toggle->setObjectName(QStringLiteral("pageLayout"));
     m_toggle->setCheckable(true);
@@ -125,9 +143,9 @@ void LayoutRows::build()
     const auto add = [this](const QString &text, QWidget *buddy, QWidget *field) {
         m_rows << m_addRow(text, buddy, field) << field;
     };
-    add(tr("On&ly:"), m_pageSet, inOneRow(m_pane, {m_pageSet, m_reverse}));
-    add(tr("Sc&aling:"), m_scaling, inOneRow(m_pane, {m_scaling, m_percent}));
-    add(tr("Pages per s&heet:"), m_perSide, inOneRow(m_pane, {m_flow, m_perSide}));
+    add(tr("Of th&ese:"), m_pageSet, inOneRow(m_pane, {m_pageSet, m_reverse}, m_pageSet));
+    add(tr("Sc&aling:"), m_scaling, inOneRow(m_pane, {m_scaling, m_percent}, m_scaling));
+    add(tr("Pages per s&heet:"), m_perSide, inOneRow(m_pane, {m_perSide, m_flow}, m_flow));
     m_grid->addWidget(m_borders, m_grid->rowCount(), 1);
     m_rows << m_borders;
 
@@ -170,6 +188,8 @@ void LayoutRows::showWhatApplies()
     const bool isSeveral = m_perSide->chosenReference() > 1;
     m_percent->setVisible(m_scaling->chosenReference() == int(PageScaling::Percent));
     m_flow->setVisible(isSeveral);
+    // In a narrow column the room is the direction's.
+    m_perSide->setMaximumWidth(isSeveral ? 4 * m_perSide->fontMetrics().height() : QWIDGETSIZE_MAX);
     m_borders->setVisible(isUnfolded() && isSeveral);
 }
 

@@ -4,6 +4,7 @@
 #include "texts.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kelvo {
 
@@ -90,8 +91,13 @@ QString remarkCaption(const SheetSide &side, const SidePlacement &placement,
     if (!side.exceptions.isEmpty())
         remarks << QString(words.exception)
                        .replace(QStringLiteral("%1"), rangesInWords(side.exceptions));
+    const bool isAlone = placement.pages.size() == 1;
     if (placement.isCut())
-        remarks << translate("Preview", "larger than the paper");
+        remarks << (isAlone ? translate("Preview", "larger than the paper")
+                            : translate("Preview", "larger than the places on the sheet"));
+    if (isAlone && std::lround(placement.pages.first().scale * 100) != 100)
+        remarks << translate("Preview", "at %1", "a percentage of its size")
+                       .arg(percentInWords(std::lround(placement.pages.first().scale * 100)));
     if (side.kind == SheetSide::Kind::Booklet)
         remarks << (placement.fold.dx() > 0
                         ? translate("Preview", "shown top to bottom; the printer decides")

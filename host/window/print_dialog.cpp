@@ -14,6 +14,7 @@
 #include "notice.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
+#include "pdf_chooser.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
 #include "session_words.h"
@@ -95,7 +96,12 @@ PrintDialog::PrintDialog(DialogOptions options)
         emit begun();
     });
     m_watch.setInterval(watchMs);
-    connect(&m_watch, &QTimer::timeout, m_session.get(), &DialogSession::lookAtPrinter);
+    connect(&m_watch, &QTimer::timeout, this, [this] {
+        if (m_parts.printer->arePrintersListed())
+            m_session->lookAtPrinters();
+        else
+            m_session->lookAtPrinter();
+    });
     connect(&m_sent, &SentMessage::said, this, [this](const QString &text) {
         m_parts.foot->setText(text);
         m_parts.foot->showSent(m_sent.canCancel());
@@ -135,6 +141,8 @@ PrintDialog::PrintDialog(DialogOptions options)
                                                    : ExitStatus::NotOffered);
     });
 
+    connect(m_parts.printer, &PrinterPane::printersListed, m_session.get(),
+            &DialogSession::lookAtPrinters);
     connect(m_parts.printer, &PrinterPane::printerChosen, this, [this](const QString &name) {
         commitTypedValues(this);
         if (const Extension *shown = panels())
@@ -164,6 +172,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_parts.foot->timing(), &QPushButton::clicked, this, &PrintDialog::changeTiming);
     connect(m_parts.foot->cancelJob(), &QPushButton::clicked, &m_sent, &SentMessage::cancelJob);
     connect(m_parts.foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(m_parts.foot->savePdf(), &QPushButton::clicked, this, &PrintDialog::savePdf);
     connect(m_parts.foot->cancel(), &QPushButton::clicked, this, [this] {
         if (sendEvent({.kind = EventKind::ControlHit, .source = m_parts.foot->cancel()})
             == eventNotHandledErr)
@@ -341,6 +350,8 @@ void PrintDialog::updatePrintButton()
     m_parts.foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
     m_parts.foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
     m_parts.foot->timing()->setEnabled(!isBusy && isReady());
+    m_parts.foot->savePdf()->setEnabled(!isBusy && isReady()
+                                        && !m_session->document().document().isNull());
 }
 
 void PrintDialog::updatePreview()
@@ -520,6 +531,19 @@ void PrintDialog::print()
     m_flow.press(unfinishedPages());
 }
 
+void PrintDialog::savePdf()
+{
+    m_flow.forgetRefusal();
+    commitTypedValues(this);
+    const QString document = m_session->document().sourcePath();
+    const auto chooser = pdfChooser(m_session->document().title(), document, this);
+    connect(chooser.get(), &QFileDialog::fileSelected, this, [this, document](const QString &path) {
+        if (!m_finished)
+            m_flow.pressTo(pdfDestination(path, document), unfinishedPages());
+    });
+    runChooser(*chooser);
+}
+
 bool PrintDialog::fixesConflicts(const QString &header, const ConflictReport &report)
 {
     const int answer =
@@ -565,6 +589,8 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
         if (!m_isDriven)
             m_session->lookAtPrinter();
     }
+    if (m_isDriven && m_flow.isAside()) // no line of a script waits for it
+        printLine(stderr, QStringLiteral("kelvo-print: ") + refusal.problem);
     if (!m_isDriven)
         CFUserNotificationDisplayNotice(NoticeLevel::Stop, refusal.header, refusal.problem, {},
                                         this);
@@ -575,6 +601,12 @@ void PrintDialog::takeRefusal(const PrintRefusal &refusal)
 void PrintDialog::takePrinted(const QString &place)
 {
     showPrinting(false);
+    // The user may go on and print.
+    if (m_flow.isAside() && !m_isInterrupted) {
+        m_parts.foot->setText(m_flow.destination()->arrived(place));
+        m_parts.foot->savePdf()->setFocus();
+        return;
+    }
     keepWhatWasUsed();
     if (m_isDriven || m_isInterrupted) {
         end(ExitStatus::Printed);
@@ -725,7 +757,8 @@ bool PrintDialog::isIdle() const
     const bool isUnderWay = !m_finished
         && (m_session->stage() == DialogSession::Stage::Searching
             || m_session->document().isPending() || (m_isDriven && m_session->search().isLooking())
-            || m_look.isActive() || m_firstFrame.isActive());
+            || m_look.isActive() || m_firstFrame.isActive()
+            || (m_flow.isPrinting() && m_flow.isAside()));
     return !isUnderWay && m_parts.isAtRest();
 }
 

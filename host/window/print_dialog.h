@@ -119,6 +119,7 @@ private:
     void pressReturn();
     void showDefaultButton();
     void print();
+    void savePdf();
     bool fixesConflicts(const QString &header, const ConflictReport &report) override;
     bool printsAnyway(const Caution &caution) override;
     void showPrinting(bool printing);

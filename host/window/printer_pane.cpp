@@ -6,6 +6,8 @@
 #include "mnemonics.h"
 #include "popup_button.h"
 #include "preset_menu.h"
+#include "printer_list.h"
+#include "printer_words.h"
 #include "spin_field.h"
 #include "texts.h"
 #include "ticket_layers.h"
@@ -42,33 +44,6 @@ constexpr OrientationRow orientationRows[] = {
     {Orientation::ReverseLandscape,
      QT_TRANSLATE_NOOP("kelvo::PrinterPane", "Landscape, upside down"), "reverse-landscape"},
 };
-
-QString stateText(const Printer &printer)
-{
-    if (!printer.acceptsJobs)
-        return PrinterPane::tr("takes no jobs");
-    switch (printer.state) {
-    case Printer::State::Idle:
-        return PrinterPane::tr("idle");
-    case Printer::State::Busy:
-        return PrinterPane::tr("printing");
-    case Printer::State::Stopped:
-        return PrinterPane::tr("stopped");
-    }
-    Q_UNREACHABLE();
-}
-
-QString toolTipFor(const Printer &printer)
-{
-    QStringList lines = {
-        PrinterPane::tr("%1: %2", "printer and its state").arg(printer.name, stateText(printer))};
-    for (const QString &text :
-         {printer.stateMessage, printer.info, printer.location, printer.makeAndModel}) {
-        if (!text.isEmpty())
-            lines.append(text);
-    }
-    return lines.join(u'\n');
-}
 
 } // namespace
 
@@ -235,20 +210,33 @@ void PrinterPane::focusPages()
     m_pages->selectAll();
 }
 
+PrinterList *PrinterPane::makePrinterList()
+{
+    m_printerList = new PrinterList(m_printer);
+    m_printerList->setPrinters(m_printers, m_chosenPrinter);
+    connect(m_printerList, &PopupList::opened, this, &PrinterPane::printersListed);
+    return m_printerList;
+}
+
+bool PrinterPane::arePrintersListed() const
+{
+    return m_printer->isListOpen();
+}
+
 void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &chosen)
 {
+    m_printers = printers;
+    m_chosenPrinter = chosen;
     Menu menu;
     std::int32_t reference = 0;
     std::int32_t shown = -1;
     for (const Printer &printer : printers) {
         if (printer.name == chosen) {
             shown = reference;
-            setPlainToolTip(m_printer, toolTipFor(printer));
+            setPlainToolTip(m_printer, printerInFull(printer));
         }
         menu.items.push_back(
-            {.text = tr("%1 (%2)", "printer and its state").arg(printer.name, stateText(printer)),
-             .key = printer.name,
-             .reference = reference++});
+            {.text = printerAndState(printer), .key = printer.name, .reference = reference++});
     }
     if (shown < 0 && !chosen.isEmpty()) {
         // Asked for, and not there (yet): shown all the same.
@@ -264,12 +252,18 @@ void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &cho
     if (!m_printer->setValueByReference(shown))
         m_printer->setValue(0);
     setEnabledWithLabel(m_printer, !printers.isEmpty());
+    if (!m_printer->hasOwnList())
+        m_printer->setOwnList([this](PopupButton *) { return makePrinterList(); });
+    if (m_printerList)
+        m_printerList->setPrinters(printers, chosen);
 }
 
 void PrinterPane::setDevice(const QString &name)
 {
     Menu menu;
     menu.items.push_back({.text = name, .key = name});
+    m_printer->setOwnList({});
+    m_printerList = nullptr;
     m_printer->setMenu(std::move(menu));
     m_printer->setValue(1);
     setEnabledWithLabel(m_printer, true);

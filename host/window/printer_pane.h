@@ -19,6 +19,7 @@ namespace kelvo {
 class LayoutRows;
 class PopupButton;
 class PresetMenu;
+class PrinterList;
 class SpinField;
 
 // The host's own controls: printer, preset, copies, pages, paper. It shows what
@@ -37,6 +38,7 @@ public:
     // The queues, or one device without a queue.
     void setPrinters(const QList<Printer> &printers, const QString &chosen);
     void setDevice(const QString &name);
+    bool arePrintersListed() const; // the user looks at their list
 
     // Enables what `ppd` offers; null: the paper is the printer's own.
     void setSettings(const JobSettings &settings, const PpdFile *ppd);
@@ -58,6 +60,7 @@ protected:
 
 signals:
     void printerChosen(const QString &name);
+    void printersListed(); // the user has opened their list
     void settingsEdited();
     void pageInSightWanted();
 
@@ -67,9 +70,13 @@ private:
     void showPageField();
     void colour();
     void fitToFont();
+    PrinterList *makePrinterList();
 
     PresetMenu *m_presets;
     PopupButton *m_printer;
+    PrinterList *m_printerList = nullptr; // null: not opened yet
+    QList<Printer> m_printers;
+    QString m_chosenPrinter;
     SpinField *m_copies;
     QCheckBox *m_collate;
     PopupButton *m_pagesChoice;

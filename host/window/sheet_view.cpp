@@ -85,12 +85,12 @@ void SheetView::paintEvent(QPaintEvent *)
     // Until the new side is drawn, the old one stays, on its own sheet.
     const SideLook &shown = words.isEmpty() && drawn ? *drawn : wanted;
     const SidePlacement &side = shown.placement;
-    const QRectF sheet = side.isCut() ? inWholePixels(sheetRect(side)) : allRect(side);
+    const QRectF sheet = side.losesPrint() ? inWholePixels(sheetRect(side)) : allRect(side);
     paintShadow(painter, sheet);
     painter.fillRect(sheet, Qt::white);
     if (words.isEmpty() && !shown.picture.isNull())
         paintPicture(painter, shown);
-    if (side.isCut() && !shown.picture.isNull())
+    if (side.losesPrint() && !shown.picture.isNull())
         paintLoss(painter, side, sheet);
     if (!side.fold.isNull())
         paintFold(painter, side);

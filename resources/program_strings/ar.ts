@@ -9,6 +9,15 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>كتابة ملف PDF لما سيُطبع؛ وباسم مجلد تُكتب فيه
+document.pdf وoptions وticket.plist</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message>
         <source>This character cannot be used here.</source>
@@ -175,6 +184,14 @@
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>ملف PPD لدى خادم الطباعة على &#x2068;%1&#x2069; لهذه الطابعة فارغ؛ اطلب إعداد قائمة الانتظار مجددًا بملف PPD الخاص بالجهاز</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>هذا هو المستند نفسه وسيُفقد؛ سمِّ ملفًا آخر</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>يوجد هناك ملف آخر ليس PDF؛ سمِّ ملفًا آخر</translation>
     </message>
     <message>
         <source>it is too late to cancel this job</source>
@@ -1392,6 +1409,21 @@
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>تُحجَّم الصفحات بعدد من %1 إلى %2 بالمئة</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>الصفحة %1 أكبر من موضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحة %1 أكبر من موضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحتان %1 أكبر من موضعيهما على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+            <numerusform>الصفحات %1 أكبر من مواضعها على الورقة: يُقطع ما لا يتسع.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>اختر صفحات أقل في الورقة، أو دع الصفحات تُصغَّر لتلائم مواضعها.</translation>
+    </message>
     <message>
         <source>On the server: held %1</source>
         <translation>على الخادم: معلَّقة %1</translation>
@@ -1653,18 +1685,6 @@
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>الصفحات الفردية والزوجية</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>الصفحات الفردية فقط</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>الصفحات الزوجية فقط</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>تصغير الصفحات الأكبر</translation>
     </message>
@@ -1715,6 +1735,18 @@
     <message>
         <source>Up, then left</source>
         <translation>لأعلى ثم يسارًا</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>الفردية والزوجية</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>الصفحات الفردية</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>الصفحات الزوجية</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +1949,15 @@
         <source>Sheet %1, front</source>
         <translation>الورقة %1، الوجه</translation>
     </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>أكبر من المواضع على الورقة</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>بنسبة %1</translation>
+    </message>
 </context>
 <context>
     <name>Scripts</name>
@@ -2031,6 +2072,22 @@
         <source>%1.</source>
         <comment>a clause that stands alone</comment>
         <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>الطابعة وحدها تضيف هذا: %1.</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>الكتيب</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>العلامة المائية</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>الأغلفة والإدراجات</translation>
     </message>
 </context>
 <context>
@@ -2181,6 +2238,19 @@
         <source>%1: the window cannot be made: %2</source>
         <translation>&#x2068;%1&#x2069;: لا يمكن إنشاء النافذة: %2</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>حفظ كملف PDF</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>ملفات PDF</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (مطبوع)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -2282,6 +2352,14 @@
         <translation>كل إعدادات المهمة بالكلمات قبل طباعتها</translation>
     </message>
     <message>
+        <source>Save as PDF…</source>
+        <translation>حفظ كملف PDF…</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>الصفحات كما ستُطبع، في ملف</translation>
+    </message>
+    <message>
         <source>At once or later, and before which other jobs</source>
         <translation>فورًا أو لاحقًا، وقبل أي مهام أخرى</translation>
     </message>
@@ -2294,8 +2372,8 @@
         <translation>يسحب المهمة من خادم الطباعة</translation>
     </message>
     <message>
-        <source>Whe&amp;n to Print…</source>
-        <translation>مو&amp;عد الطباعة…</translation>
+        <source>When to Print…</source>
+        <translation>موعد الطباعة…</translation>
     </message>
 </context>
 <context>
@@ -2393,10 +2471,6 @@
         <translation>الصفحات الفردية والزوجية، والترتيب، والتحجيم، وعدة صفحات في الورقة</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>&amp;فقط:</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>تخطيط الصفحات</translation>
     </message>
@@ -2435,6 +2509,10 @@
     <message>
         <source>reversed</source>
         <translation>معكوس</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>&amp;منها:</translation>
     </message>
 </context>
 <context>
@@ -2702,23 +2780,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>عمودي</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>أفقي</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>عمودي، مقلوب</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>أفقي، مقلوب</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>لا تقبل مهام</translation>
@@ -2739,6 +2801,88 @@ The settings stay as they are.</source>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>&#x2068;%1&#x2069;: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>&#x2068;%1&#x2069; (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1: &#x2068;%2&#x2069;</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>مختارة</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>افتراضية</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>الطابعات</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>الاسم أو المكان أو الطراز</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>البحث عن طابعة</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>لا توجد طابعة يرد هذا في اسمها أو مكانها أو طرازها.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>لا طابعات</numerusform>
+            <numerusform>طابعة واحدة</numerusform>
+            <numerusform>طابعتان</numerusform>
+            <numerusform>%n طابعات</numerusform>
+            <numerusform>%n طابعة</numerusform>
+            <numerusform>%n طابعة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 من %n طابعة</numerusform>
+            <numerusform>%1 من طابعة واحدة</numerusform>
+            <numerusform>%1 من طابعتين</numerusform>
+            <numerusform>%1 من %n طابعات</numerusform>
+            <numerusform>%1 من %n طابعة</numerusform>
+            <numerusform>%1 من %n طابعة</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودي</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>أفقي</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>عمودي، مقلوب</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>أفقي، مقلوب</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -2783,11 +2927,6 @@ The settings stay as they are.</source>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>ال&amp;اتجاه:</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>&#x2068;%1&#x2069; (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -2879,6 +3018,10 @@ The settings stay as they are.</source>
     <message>
         <source>The print server has no description of its settings.</source>
         <translation>ليس لدى خادم الطباعة وصف لإعداداتها.</translation>
+    </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>لم يعد خادم الطباعة يعرفها</translation>
     </message>
 </context>
 <context>

@@ -116,12 +116,6 @@ Rechten 0600</translation>
         <translation>diese Sprache statt der der Arbeitsumgebung</translation>
     </message>
     <message>
-        <source>write document.pdf, options and ticket.plist there
-instead of sending</source>
-        <translation>document.pdf, options und ticket.plist dorthin
-schreiben, statt zu senden</translation>
-    </message>
-    <message>
         <source>wait this long for the print server, or for a
 pipe named as file, 1 to 3600 (30)</source>
         <translation>so lange auf den Druckserver oder auf eine als Datei
@@ -253,8 +247,14 @@ ungültig, 130 abgebrochen.
         <translation>%1 ist das, was --ticket-out schreibt</translation>
     </message>
     <message>
-        <source>a folder prints nothing that could be waited for; leave out --to</source>
-        <translation>ein Ordner druckt nichts, worauf man warten könnte; lassen Sie --to weg</translation>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
+Ordners document.pdf, options und ticket.plist hinein</translation>
+    </message>
+    <message>
+        <source>what is written to a file is not printed, and there is nothing to wait for; leave out --to</source>
+        <translation>was in eine Datei geschrieben wird, wird nicht gedruckt, und es gibt nichts, worauf zu warten wäre; lassen Sie --to weg</translation>
     </message>
     <message>
         <source>end when the job is printed, and say what becomes
@@ -692,6 +692,14 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>die PPD-Datei, die der Druckserver %1 dafür hat, ist leer; lassen Sie die Warteschlange mit der PPD-Datei des Geräts neu einrichten</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>dies ist das Dokument selbst, das verloren ginge; nennen Sie eine andere Datei</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>dort steht eine andere Datei, die kein PDF ist; nennen Sie eine andere Datei</translation>
     </message>
     <message>
         <source>it is too late to cancel this job</source>
@@ -1880,6 +1888,17 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>Seiten werden mit einer Zahl von %1 bis %2 Prozent skaliert</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Seite %1 ist größer als ihr Platz auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+            <numerusform>Die Seiten %1 sind größer als ihre Plätze auf dem Blatt: Was nicht hineinpasst, wird abgeschnitten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>Wählen Sie weniger Seiten pro Blatt, oder lassen Sie die Seiten einpassen.</translation>
+    </message>
     <message>
         <source>On the server: held %1</source>
         <translation>Auf dem Server: angehalten %1</translation>
@@ -2133,18 +2152,6 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>Ungerade und gerade Seiten</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>Nur ungerade Seiten</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>Nur gerade Seiten</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>Größere Seiten verkleinern</translation>
     </message>
@@ -2166,35 +2173,47 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     </message>
     <message>
         <source>Right, then down</source>
-        <translation>Nach rechts, dann nach unten</translation>
+        <translation>Rechts, dann abwärts</translation>
     </message>
     <message>
         <source>Right, then up</source>
-        <translation>Nach rechts, dann nach oben</translation>
+        <translation>Rechts, dann aufwärts</translation>
     </message>
     <message>
         <source>Left, then down</source>
-        <translation>Nach links, dann nach unten</translation>
+        <translation>Links, dann abwärts</translation>
     </message>
     <message>
         <source>Left, then up</source>
-        <translation>Nach links, dann nach oben</translation>
+        <translation>Links, dann aufwärts</translation>
     </message>
     <message>
         <source>Down, then right</source>
-        <translation>Nach unten, dann nach rechts</translation>
+        <translation>Abwärts, dann rechts</translation>
     </message>
     <message>
         <source>Down, then left</source>
-        <translation>Nach unten, dann nach links</translation>
+        <translation>Abwärts, dann links</translation>
     </message>
     <message>
         <source>Up, then right</source>
-        <translation>Nach oben, dann nach rechts</translation>
+        <translation>Aufwärts, dann rechts</translation>
     </message>
     <message>
         <source>Up, then left</source>
-        <translation>Nach oben, dann nach links</translation>
+        <translation>Aufwärts, dann links</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Ungerade und gerade</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>Ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>Gerade Seiten</translation>
     </message>
 </context>
 <context>
@@ -2476,6 +2495,15 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     <message>
         <source>Sheet %1, front</source>
         <translation>Blatt %1, vorn</translation>
+    </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>größer als die Plätze auf dem Blatt</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>auf %1</translation>
     </message>
 </context>
 <context>
@@ -2954,6 +2982,22 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <comment>a clause that stands alone</comment>
         <translation>%1.</translation>
     </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>Nur der Drucker fügt dies hinzu: %1.</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>die Broschüre</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>das Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>Deckblätter und Einlagen</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -3099,6 +3143,19 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>%1: the window cannot be made: %2</source>
         <translation>%1: das Fenster lässt sich nicht erstellen: %2</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (gedruckt)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -3200,6 +3257,14 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Alle Einstellungen des Auftrags in Worten, bevor gedruckt wird</translation>
     </message>
     <message>
+        <source>Save as PDF…</source>
+        <translation>Als PDF speichern …</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>Die Seiten, wie sie gedruckt würden, in einer Datei</translation>
+    </message>
+    <message>
         <source>At once or later, and before which other jobs</source>
         <translation>Sofort oder später, und vor welchen anderen Aufträgen</translation>
     </message>
@@ -3212,8 +3277,8 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Nimmt den Auftrag vom Druckserver zurück</translation>
     </message>
     <message>
-        <source>Whe&amp;n to Print…</source>
-        <translation>&amp;Wann drucken…</translation>
+        <source>When to Print…</source>
+        <translation>Wann drucken…</translation>
     </message>
 </context>
 <context>
@@ -3311,10 +3376,6 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Ungerade und gerade Seiten, Reihenfolge, Skalierung und mehrere Seiten auf einem Blatt</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>N&amp;ur:</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>Seitenlayout</translation>
     </message>
@@ -3353,6 +3414,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>reversed</source>
         <translation>umgekehrt</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>Da&amp;von:</translation>
     </message>
 </context>
 <context>
@@ -3620,23 +3685,7 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Hochformat, umgekehrt</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Querformat, umgekehrt</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>nimmt keine Aufträge an</translation>
@@ -3657,6 +3706,80 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>ausgewählt</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>Name, Standort oder Modell</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>Drucker suchen</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>Kein Drucker hat das in Name, Standort oder Modell.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n Drucker</numerusform>
+            <numerusform>%n Drucker</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 von %n Drucker</numerusform>
+            <numerusform>%1 von %n Druckern</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Hochformat, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Querformat, umgekehrt</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -3701,11 +3824,6 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>A&amp;usrichtung:</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -3797,6 +3915,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>The print server has no description of its settings.</source>
         <translation>Der Druckserver hat keine Beschreibung der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>der Druckserver kennt ihn nicht mehr</translation>
     </message>
 </context>
 <context>

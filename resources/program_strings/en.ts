@@ -78,6 +78,13 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>Page %1 is larger than its place on the sheet: what does not fit is cut off.</numerusform>
+            <numerusform>Pages %1 are larger than their places on the sheet: what does not fit is cut off.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n page(s) so far</source>
         <translation>
             <numerusform>%n page so far</numerusform>
@@ -159,6 +166,23 @@
         <translation>
             <numerusform>%n page found</numerusform>
             <numerusform>%n pages found</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n printer</numerusform>
+            <numerusform>%n printers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 of %n printer</numerusform>
+            <numerusform>%1 of %n printers</numerusform>
         </translation>
     </message>
 </context>

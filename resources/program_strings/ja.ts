@@ -9,6 +9,15 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>write a PDF of what would be printed; with a folder’s
+name, document.pdf, options and ticket.plist into it</source>
+        <translation>印刷されるものを PDF に書き出す。フォルダー名なら
+document.pdf、options、ticket.plist をその中に</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message numerus="yes">
         <source>At most %n characters fit here.</source>
@@ -170,6 +179,14 @@
     <message>
         <source>the print server at %1 has an empty PPD for it; have the queue set up again with the device’s PPD</source>
         <translation>プリントサーバー%1にあるこのプリンターのPPDは空です。機器のPPDで印刷キューを設定し直してもらってください</translation>
+    </message>
+    <message>
+        <source>this is the document itself, which would be lost; name another file</source>
+        <translation>これは文書そのもので、失われてしまいます。別のファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>another file stands there that is no PDF; name another file</source>
+        <translation>そこには PDF でない別のファイルがあります。別のファイルを指定してください</translation>
     </message>
     <message>
         <source>it is too late to cancel this job</source>
@@ -1327,6 +1344,16 @@
         <source>pages are scaled by a number from %1 to %2 percent</source>
         <translation>拡大縮小率は %1～%2 パーセントの数です</translation>
     </message>
+    <message numerus="yes">
+        <source>Page(s) %1 larger than the places on the sheet: what does not fit is cut off.</source>
+        <translation>
+            <numerusform>ページ %1 は用紙上の枠より大きいため、はみ出す部分は切り取られます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
+        <translation>1面のページ数を減らすか、ページを枠に合わせてください。</translation>
+    </message>
     <message>
         <source>On the server: held %1</source>
         <translation>サーバー上で保留: %1</translation>
@@ -1578,18 +1605,6 @@
         </translation>
     </message>
     <message>
-        <source>Odd and even pages</source>
-        <translation>奇数・偶数ページ</translation>
-    </message>
-    <message>
-        <source>Odd pages only</source>
-        <translation>奇数ページのみ</translation>
-    </message>
-    <message>
-        <source>Even pages only</source>
-        <translation>偶数ページのみ</translation>
-    </message>
-    <message>
         <source>Shrink larger pages</source>
         <translation>大きいページを縮小</translation>
     </message>
@@ -1640,6 +1655,18 @@
     <message>
         <source>Up, then left</source>
         <translation>上へ、次に左へ</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>奇数・偶数</translation>
+    </message>
+    <message>
+        <source>Odd pages</source>
+        <translation>奇数ページ</translation>
+    </message>
+    <message>
+        <source>Even pages</source>
+        <translation>偶数ページ</translation>
     </message>
 </context>
 <context>
@@ -1832,6 +1859,15 @@
         <source>Sheet %1, front</source>
         <translation>%1枚目おもて</translation>
     </message>
+    <message>
+        <source>larger than the places on the sheet</source>
+        <translation>用紙上の枠より大きい</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <comment>a percentage of its size</comment>
+        <translation>%1 に拡大縮小</translation>
+    </message>
 </context>
 <context>
     <name>Scripts</name>
@@ -1946,6 +1982,22 @@
         <source>%1.</source>
         <comment>a clause that stands alone</comment>
         <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Only the printer adds this: %1.</source>
+        <translation>次のものはプリンターだけが加えます：%1。</translation>
+    </message>
+    <message>
+        <source>the booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>the watermark</source>
+        <translation>ウォーターマーク</translation>
+    </message>
+    <message>
+        <source>covers and inserts</source>
+        <translation>表紙と挿入紙</translation>
     </message>
 </context>
 <context>
@@ -2091,6 +2143,19 @@
         <source>%1: the window cannot be made: %2</source>
         <translation>%1: ウィンドウを作成できません: %2</translation>
     </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF ファイル</translation>
+    </message>
+    <message>
+        <source>%1 (printed)</source>
+        <comment>the name of a file</comment>
+        <translation>%1 (印刷)</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -2192,6 +2257,14 @@
         <translation>印刷する前に、ジョブのすべての設定を文章で確認します</translation>
     </message>
     <message>
+        <source>Save as PDF…</source>
+        <translation>PDF として保存…</translation>
+    </message>
+    <message>
+        <source>The pages as they would be printed, in a file</source>
+        <translation>印刷されるとおりのページをファイルに</translation>
+    </message>
+    <message>
         <source>At once or later, and before which other jobs</source>
         <translation>すぐにまたは後で、ほかのどのジョブより先に</translation>
     </message>
@@ -2204,8 +2277,8 @@
         <translation>プリントサーバーからジョブを取り消します</translation>
     </message>
     <message>
-        <source>Whe&amp;n to Print…</source>
-        <translation>印刷時期(&amp;N)…</translation>
+        <source>When to Print…</source>
+        <translation>印刷時期…</translation>
     </message>
 </context>
 <context>
@@ -2303,10 +2376,6 @@
         <translation>奇数・偶数ページ、順序、拡大縮小、1面に複数ページ</translation>
     </message>
     <message>
-        <source>On&amp;ly:</source>
-        <translation>対象(&amp;L):</translation>
-    </message>
-    <message>
         <source>Page layout</source>
         <translation>ページレイアウト</translation>
     </message>
@@ -2345,6 +2414,10 @@
     <message>
         <source>reversed</source>
         <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Of th&amp;ese:</source>
+        <translation>対象(&amp;E):</translation>
     </message>
 </context>
 <context>
@@ -2612,23 +2685,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterPane</name>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>縦(上下逆)</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横(上下逆)</translation>
-    </message>
+    <name>Printers</name>
     <message>
         <source>takes no jobs</source>
         <translation>ジョブを受け付けません</translation>
@@ -2649,6 +2706,78 @@ The settings stay as they are.</source>
         <source>%1: %2</source>
         <comment>printer and its state</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>printer and its state</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a printer’s state and why</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>選択中</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>既定</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterList</name>
+    <message>
+        <source>Printers</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Name, place or model</source>
+        <translation>名前、場所、機種</translation>
+    </message>
+    <message>
+        <source>Search for a printer</source>
+        <translation>プリンターを検索</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message>
+        <source>No printer has this in its name, place or model.</source>
+        <translation>名前、場所、機種にこれを含むプリンターはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n台のプリンター</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%n台中%1台のプリンター</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterPane</name>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>縦(上下逆)</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横(上下逆)</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -2693,11 +2822,6 @@ The settings stay as they are.</source>
     <message>
         <source>Or&amp;ientation:</source>
         <translation>印刷の向き(&amp;I):</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <comment>printer and its state</comment>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>None</source>
@@ -2789,6 +2913,10 @@ The settings stay as they are.</source>
     <message>
         <source>The print server has no description of its settings.</source>
         <translation>プリントサーバーに設定の情報がありません。</translation>
+    </message>
+    <message>
+        <source>the print server does not know it any more</source>
+        <translation>プリントサーバーに登録されていません</translation>
     </message>
 </context>
 <context>

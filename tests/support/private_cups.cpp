@@ -75,6 +75,37 @@ bool PrivateCups::answers() const
     return isThere;
 }
 
+// In the server's own form.
+QString PrivateCups::writeQueues() const
+{
+    QString text;
+    const QDir etc(m_folder.filePath(QStringLiteral("etc")));
+    if (!etc.mkpath(QStringLiteral("ppd")))
+        return QStringLiteral("cannot make the folder of PPDs");
+    for (const Queue &queue : m_queues) {
+        const QString tag =
+            text.isEmpty() ? QStringLiteral("DefaultPrinter") : QStringLiteral("Printer");
+        text += QStringLiteral("<%1 %2>\n").arg(tag, queue.name);
+        for (const auto &[key, value] : {std::pair("Info", queue.info),
+                                         {"Location", queue.location},
+                                         {"DeviceURI", QStringLiteral("kvtest://test")},
+                                         {"State", queue.state},
+                                         {"StateMessage", queue.stateMessage},
+                                         {"Reason", queue.reason},
+                                         {"Accepting", QStringLiteral("Yes")},
+                                         {"ErrorPolicy", QStringLiteral("stop-printer")},
+                                         {"OpPolicy", QStringLiteral("default")}}) {
+            if (!value.isEmpty())
+                text += QLatin1String(key) + u' ' + value + u'\n';
+        }
+        text += QStringLiteral("</%1>\n").arg(tag);
+        if (!queue.ppd.isEmpty()
+            && !QFile::copy(queue.ppd, etc.filePath(QStringLiteral("ppd/%1.ppd").arg(queue.name))))
+            return QStringLiteral("cannot copy ") + queue.ppd;
+    }
+    return m_queues.isEmpty() ? QString() : write(QStringLiteral("etc/printers.conf"), text);
+}
+
 QString PrivateCups::start(Encryption encryption)
 {
     const QString root = m_folder.path();
@@ -127,6 +158,8 @@ QString PrivateCups::start(Encryption encryption)
                                           "    Allow all\n"
                                           "  </Limit>\n"
                                           "</Policy>\n");
+    if (const QString problem = writeQueues(); !problem.isEmpty())
+        return problem;
     // Somebody else may take the port between asking for it and using it.
     for (int attempt = 0; attempt < 5; ++attempt) {
         m_port = freePort();

@@ -21,6 +21,18 @@ public:
 
     enum class Encryption { Never, IfRequested };
 
+    // Queues that are there as soon as it starts: hundreds take lpadmin a while. The first is the
+    // default.
+    struct Queue
+    {
+        QString name, info = {}, location = {};
+        QString ppd = {};                       // the path of its PPD; empty: none
+        QString state = QStringLiteral("Idle"); // or "Stopped"
+        QString stateMessage = {};
+        QString reason = {}; // "media-jam-error"
+    };
+    void setQueues(QList<Queue> queues) { m_queues = std::move(queues); }
+
     // Starts it and makes it the server of this process and its children
     // (CUPS_SERVER). Empty, or what went wrong.
     QString start(Encryption encryption = Encryption::Never);
@@ -54,7 +66,10 @@ private:
     QString write(const QString &name, const QString &text) const;
     bool answers() const;
 
+    QString writeQueues() const;
+
     QTemporaryDir m_folder;
+    QList<Queue> m_queues;
     QProcess m_process;
     QString m_server;
     int m_port = 0;

@@ -44,6 +44,8 @@ DEEDS = {
 BESIDE = {"help"}  # opens a window beside the print dialog, and not in front of it
 # What readers say by themselves of a window that comes up.
 SAID = {"conflict": "cannot be used together", "lacking": "does not have"}
+# A list is open in these, that of a pop-up button.
+OPEN_LISTS = {"printers", "printers_none"}
 # In these the Down key makes another choice in the pop-up button that has the focus.
 CHOSEN_BY_KEY = {"finishing_fold"}
 
@@ -266,6 +268,34 @@ class Walk:
             for source, text in self.reader.inserted))
         return [] if is_said else [f"{node}: nobody says the choice that a key has made"]
 
+    def faults_of_search(self, window):
+        """Of an open list with a field above it: what is found is said, and rows tell all that
+        they show, also while the field keeps the keyboard."""
+        field = window.find("text", "Search for a printer")
+        rows = [node for node in window.all() if node.role == "list item"]
+        if not field or "focused" not in field.states:
+            yield "the field has not the focus"
+            return
+        if not any(
+                "Accounting, stopped: Toner and drum" in row.name
+                and "room 214, Kelvo Corvane C50" in row.name for row in rows):
+            yield f"rows: {list(map(str, rows))}"
+            return
+        self.reader.announced = []
+        self.reader.press(ord("2"))
+        if not self.reader.until(lambda: "4 of 12 printers" in self.reader.announced):
+            yield f"what is found is not said: {self.reader.announced}"
+        self.reader.forget_focused()
+        self.reader.press(DOWN)
+        if not self.reader.until(lambda: any(
+                source.get_name().startswith("Cairo,") for source in self.reader.focused)):
+            yield "the row that a key comes to is not told"
+        self.reader.press(TAB)
+        if not self.reader.until(lambda: any(
+                node.role == "list" and "focused" in node.states
+                for node in self.reader.read(window.accessible).all())):
+            yield "the list: not by Tab"
+
     def visit(self, script, is_operated):
         name = os.path.basename(script)[:-len(".kps")]
         self.reader.announced = []
@@ -286,10 +316,18 @@ class Walk:
         if is_operated:
             if name in CHOSEN_BY_KEY:
                 faults += self.faults_of_key(window)
-            faults += self.faults_of_tab(window)
-            faults += self.faults_of_opening(window)
+            if name == "printers":
+                faults += self.faults_of_search(window)
+            if name not in OPEN_LISTS:
+                faults += self.faults_of_tab(window)
+                faults += self.faults_of_opening(window)
             if name in DEEDS:
                 faults += self.faults_of_deed(window, *DEEDS[name])
+        if name in OPEN_LISTS:
+            self.reader.press(ESCAPE)
+            self.reader.until(lambda: False, 0.05)
+            if self.reader.active_window() != active:
+                faults.append("Escape closes more than the list")
         self.reader.press(ESCAPE)
         if not self.reader.until(lambda: self.reader.active_window() != active):
             faults.append("Escape does not close it")

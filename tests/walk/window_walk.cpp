@@ -110,6 +110,38 @@ QStringList WindowWalk::scripts()
     return paths;
 }
 
+// Of all kinds that the list of printers shows.
+QString WindowWalk::startPrintServer()
+{
+    if (m_cups)
+        return {};
+    m_cups = std::make_unique<PrivateCups>();
+    const QString mid = samplePpd(QStringLiteral("mid"));
+    QList<PrivateCups::Queue> queues{
+        {.name = "Hall-3",
+         .info = "Printer in the hall",
+         .location = "Ground floor, hall 3",
+         .ppd = samplePpd(QStringLiteral("full"))},
+        {.name = "Accounting",
+         .location = "Second floor, room 214",
+         .ppd = mid,
+         .state = "Stopped",
+         .stateMessage = "Toner and drum are on order until Thursday",
+         .reason = "media-jam-error"},
+        {.name = "Print-Centre-Basement-North-Wing-Plotter-And-Large-Formats-0042",
+         .location = "Basement, north wing",
+         .ppd = mid},
+        {.name = "Archive", .reason = "toner-low-warning"},
+        {.name = "Tokyo", .location = QStringLiteral("東京支社 3階"), .ppd = mid},
+        {.name = "Cairo", .location = QStringLiteral("القاهرة، الطابق 2"), .ppd = mid},
+    };
+    for (int i = 1; i <= 6; ++i)
+        queues.append({.name = QStringLiteral("Office-%1").arg(i),
+                       .location = QStringLiteral("Room %1").arg(100 + i)});
+    m_cups->setQueues(queues);
+    return m_cups->start();
+}
+
 QString WindowWalk::visit(const QString &script, const std::function<void(QWidget *)> &look)
 {
     if (!m_problem.isEmpty())
@@ -122,12 +154,15 @@ QString WindowWalk::visit(const QString &script, const std::function<void(QWidge
         return lines.error().text();
     const QString first = QString::fromUtf8(bytesOf(script).split('\n').first());
     const QStringList words = first.section(u':', 0, 0).split(u' ');
-    const auto device = deviceNamed(words.value(1), folder);
-    if (!device)
-        return script + QStringLiteral(": its first line names no device");
-
     DialogOptions options;
-    options.session.printer.device = device;
+    if (words.value(1) == QLatin1String("queues")) {
+        if (const QString problem = startPrintServer(); !problem.isEmpty())
+            return problem;
+    } else {
+        options.session.printer.device = deviceNamed(words.value(1), folder);
+        if (!options.session.printer.device)
+            return script + QStringLiteral(": its first line names no device");
+    }
     options.session.bundle = m_bundle;
     if (words.size() > 2) {
         auto ticket = readTicketFile(words[2]);

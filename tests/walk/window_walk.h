@@ -2,6 +2,7 @@
 
 #include "address_book_service.h"
 #include "bundle.h"
+#include "private_cups.h"
 
 #include <QPalette>
 #include <QSize>
@@ -10,15 +11,16 @@
 #include <QTemporaryDir>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QWidget;
 
 // Opens the program's windows one after the other, in the language of the environment: each
 // script of this folder ends with one open. A script's first line names the device that it is
-// for, "# full: what it shows"; "other" is one of another maker; a ticket that the dialog begins
-// with may follow. Where it runs are people.vcf and an address book without people, and of the
-// user's files none.
+// for, "# full: what it shows"; "other" is one of another maker, "queues" the first of a dozen that
+// a print server has. A ticket that the dialog begins with may follow. Where it runs are people.vcf
+// and an address book without people, and of the user's files none.
 class WindowWalk
 {
 public:
@@ -35,9 +37,12 @@ public:
     QString visit(const QString &script, const std::function<void(QWidget *)> &look);
 
 private:
+    QString startPrintServer(); // what went wrong
+
     kelvo::Bundle *m_bundle = nullptr;
     AddressBookService m_addressBook;
-    QString m_problem; // of what all windows need
+    std::unique_ptr<PrivateCups> m_cups; // started for the first script that needs it
+    QString m_problem;                   // of what all windows need
     QSize m_dialogSize;
 };
 

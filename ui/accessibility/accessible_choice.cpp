@@ -2,6 +2,7 @@
 
 #include "menu_button.h"
 #include "popup_button.h"
+#include "popup_list.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -10,6 +11,23 @@
 #include <utility>
 
 namespace kelvo {
+
+namespace {
+
+// Null: one that is made when it is opened.
+QWidget *listOf(const QComboBox *box)
+{
+    const auto *popup = qobject_cast<const PopupButton *>(box);
+    return popup && popup->hasOwnList() ? static_cast<QWidget *>(popup->ownList()) : box->view();
+}
+
+bool isOpen(const QComboBox *box)
+{
+    const QWidget *list = listOf(box);
+    return list && list->isVisible();
+}
+
+} // namespace
 
 AccessibleComboBox::AccessibleComboBox(QComboBox *box)
     : AccessibleWidget(box, QAccessible::ComboBox)
@@ -49,13 +67,13 @@ void *AccessibleComboBox::interface_cast(QAccessible::InterfaceType type)
 // The list, and the line of one that is editable.
 int AccessibleComboBox::childCount() const
 {
-    return box()->isEditable() ? 2 : 1;
+    return box()->isEditable() ? 2 : listOf(box()) ? 1 : 0;
 }
 
 QAccessibleInterface *AccessibleComboBox::child(int index) const
 {
     if (index == 0)
-        return QAccessible::queryAccessibleInterface(box()->view());
+        return listOf(box()) ? QAccessible::queryAccessibleInterface(listOf(box())) : nullptr;
     return index == 1 && box()->isEditable()
         ? QAccessible::queryAccessibleInterface(box()->lineEdit())
         : nullptr;
@@ -69,7 +87,7 @@ QAccessibleInterface *AccessibleComboBox::childAt(int x, int y) const
 
 int AccessibleComboBox::indexOfChild(const QAccessibleInterface *child) const
 {
-    if (child->object() == box()->view())
+    if (child->object() == listOf(box()))
         return 0;
     return box()->isEditable() && child->object() == box()->lineEdit() ? 1 : -1;
 }
@@ -90,7 +108,7 @@ QAccessible::State AccessibleComboBox::state() const
     QAccessible::State state = AccessibleWidget::state();
     state.hasPopup = true;
     state.expandable = true;
-    state.expanded = box()->view()->isVisible();
+    state.expanded = isOpen(box());
     state.editable = box()->isEditable();
     if (state.editable) { // the line has the focus
         state.focusable = false;
@@ -114,7 +132,7 @@ void AccessibleComboBox::doAction(const QString &action)
         return;
     }
     later([box = box()] {
-        if (box->view()->isVisible())
+        if (isOpen(box))
             box->hidePopup();
         else if (box->isEnabled())
             box->showPopup();

@@ -143,7 +143,9 @@ void TestCommandLine::refusesWrongLines_data()
     row("held twice", {"-H", "hold", "-o", "job-hold-until=night"},
         "-H indefinite: -o job-hold-until=night says something else; leave out one of them");
     row("waiting for a folder", {"--wait", "--to", "x"},
-        "--wait: a folder prints nothing that could be waited for; leave out --to");
+        "--wait: what is written to a file is not printed, and there is nothing to wait for; leave "
+        "out "
+        "--to");
     row("timeout too long", {"--timeout", "3601"},
         "--timeout: “3601” is not a whole number from 1 to 3600");
     for (const char *option : {"Jog=", "=1", ""})

@@ -109,7 +109,8 @@ static QStringList judgedLines()
         printer.state =
             option("printer-state") == "5" ? Printer::State::Stopped : Printer::State::Idle;
         printer.acceptsJobs = option("printer-is-accepting-jobs") == "true";
-        printer.stateMessage = stateWords({}, option("printer-state-reasons").split(u','));
+        // Of a queue's own words libcups' list has nothing.
+        printer.stateMessage = printerCondition(printer.name, 10000).value().stateMessage;
         printer.isDefault = destination.is_default != 0;
         for (int at = 0; at < destination.num_options; ++at) {
             const QString name = destination.options[at].name;

@@ -102,7 +102,8 @@ void TestDocumentHelpers::areMissedWithAMessage()
             QCOMPARE(document.error().code, code);
             QVERIFY2(document.error().detail.contains(words), qPrintable(document.error().text()));
         }
-        QVERIFY(!replaceTicket(sample(), {}, QFileInfo("out").absoluteFilePath()));
+        QVERIFY(!makeOutgoingPdf(sample(), {}, ticketAttachment({}),
+                                 QFileInfo("out").absoluteFilePath()));
         PageDrawing drawing(sample());
         QCOMPARE(drawing.draw(1, {100, 100}, [] { return false; }).problem,
                  PageProblem::NotDrawable);
@@ -136,7 +137,8 @@ void TestDocumentHelpers::areAskedForEverything()
     const Result<Document> document = open(sample());
     QVERIFY2(document, qPrintable(document.reason()));
     QVERIFY(open(file("txt", "a text")));
-    QVERIFY(replaceTicket(sample(), {}, QFileInfo("out").absoluteFilePath()));
+    QVERIFY(
+        makeOutgoingPdf(sample(), {}, ticketAttachment({}), QFileInfo("out").absoluteFilePath()));
     PageDrawing drawing(document.value().pdfPath());
     QVERIFY(!drawing.draw(1, {100, 100}, [] { return false; }).image.isNull());
 
@@ -209,11 +211,11 @@ void TestDocumentHelpers::areDoneWithoutWhereTheyEndBefore()
     for (const QByteArray &number : numbers)
         QCOMPARE(::kill(number.toInt(), SIGKILL), 0);
 
-    QVERIFY(!replacedTicketAhead(document.value(), "ticket"));
+    QVERIFY(!document.value().writtenAhead({}, ticketAttachment("ticket")));
 
     const QString out = QFileInfo("out").absoluteFilePath();
     QFile::remove(out);
-    QVERIFY(replaceTicket(document.value().pdfPath(), "ticket", out));
+    QVERIFY(makeOutgoingPdf(document.value().pdfPath(), {}, ticketAttachment("ticket"), out));
 }
 
 void TestDocumentHelpers::saySoWhenTheyFail_data()

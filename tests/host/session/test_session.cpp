@@ -23,6 +23,7 @@ private slots:
     void panelsKnowTheFirstPrintedPage();
     void aSearchCanBeTriedAgain();
     void settingsComeBackWithTheirPrinter();
+    void printersComeAndGoBehindTheChosenOne();
 };
 
 void TestSession::whyThereAreNoPanels()
@@ -209,6 +210,46 @@ void TestSession::settingsComeBackWithTheirPrinter()
     QCOMPARE(run.choice("KVPunch"), "2HolePunch");
     QCOMPARE(run.panels.note, "mine");
     QCOMPARE(run.job().missing(), QStringList());
+}
+
+void TestSession::printersComeAndGoBehindTheChosenOne()
+{
+    PrivateCups cups;
+    cups.setQueues({{.name = "Hall-3", .ppd = samplePpd("full")}, {.name = "Old"}});
+    QCOMPARE(cups.start(), QString());
+    Running run(queueBeginning("Hall-3"));
+    QVERIFY(run.waitUntilIdle());
+    const QSignalSpy news(&run.session, &DialogSession::conditionChanged);
+    const auto look = [&run] {
+        run.session.lookAtPrinters();
+        QStringList lines;
+        if (run.waitUntilIdle()) {
+            for (const Printer &printer : run.session.search().printers())
+                lines << printer.name + (printer.acceptsJobs ? ": " : ", closed: ")
+                        + printer.stateMessage;
+        }
+        return lines;
+    };
+    QCOMPARE(look(), QStringList({"Hall-3: ", "Old: "}));
+    QCOMPARE(news.size(), 0); // none
+
+    QCOMPARE(cups.administer({"-x", "Old"}), QString());
+    QCOMPARE(cups.addQueue("New", {}), QString());
+    QCOMPARE(cups.administer({"-r", "Toner on order", "New"}, "cupsdisable"), QString());
+    QCOMPARE(look(), QStringList({"Hall-3: ", "New: Toner on order"}));
+
+    QCOMPARE(cups.administer({"-x", "Hall-3"}), QString());
+    const QStringList gone = look();
+    QCOMPARE(gone.size(), 2);
+    QVERIFY2(gone.last().startsWith("Hall-3, closed: the print server"), qPrintable(gone.last()));
+    QVERIFY(run.session.stage() == Stage::Ready && run.session.hasPanels());
+    QCOMPARE(news.size(), 2);
+
+    QCOMPARE(cups.addQueue("Hall-3", samplePpd("full")), QString());
+    QVERIFY(look().contains("Hall-3: "));
+    run.session.choosePrinter("New");
+    QVERIFY(run.waitUntilIdle());
+    QCOMPARE(run.session.search().name(), "New");
 }
 
 QTEST_GUILESS_MAIN(TestSession)

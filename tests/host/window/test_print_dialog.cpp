@@ -59,6 +59,7 @@ private slots:
 
     void theWindowDoesNotWaitForAServer();
     void thePanelStaysWhenThePrinterChanges();
+    void theListOfPrintersIsAskedAnew();
     void aPrinterInTroubleIsToldAndWaitedFor();
     void theDesktopTellsThatAJobIsOut();
     void withoutADesktopTheWindowTellsOfTheJob();
@@ -560,6 +561,29 @@ void TestPrintDialog::thePanelStaysWhenThePrinterChanges()
     QVERIFY(shown.find<QWidget>("specialPagesList")->isVisible());
 }
 
+void TestPrintDialog::theListOfPrintersIsAskedAnew()
+{
+    PrivateCups cups;
+    QList<PrivateCups::Queue> queues{{.name = "Hall-3", .ppd = samplePpd("full")}};
+    for (int i = 0; i < 12; ++i)
+        queues.append({.name = QStringLiteral("Office-%1").arg(i)});
+    cups.setQueues(queues);
+    QCOMPARE(cups.start(), QString());
+    Shown shown(queueOptions());
+    QVERIFY(shown.waitUntilIdle());
+    QCOMPARE(cups.administer({"-r", "Toner on order", "Office-3"}, "cupsdisable"), QString());
+    for (const char *key : {"Down", "e", "-", "3"})
+        QVERIFY(!inspector::pressKey(&shown.dialog, key));
+    const auto row = [&shown] {
+        return shown.find<QListView>("printerList")->currentIndex().data(Qt::AccessibleTextRole);
+    };
+    QTRY_VERIFY(row().toString().contains("Office-3, stopped: Toner on order"));
+    QVERIFY(!inspector::pressKey(&shown.dialog, "Return"));
+    QVERIFY(shown.waitUntilIdle());
+    QCOMPARE(shown.find<PopupButton>("printer")->currentText(), "Office-3 (stopped)");
+    QVERIFY(shown.find<QWidget>("printer")->hasFocus());
+}
+
 void TestPrintDialog::aPrinterInTroubleIsToldAndWaitedFor()
 {
     PrivateCups cups;
@@ -854,11 +878,13 @@ void TestPrintDialog::everyStopIsReachedOnceAndHasAName()
     } while (QApplication::focusWidget() != shown.find<QWidget>("printer") && stops.size() < 60);
 
     stops.removeIf([](const QString &name) { return name.startsWith("preview"); });
-    QCOMPARE(stops,
-             (QStringList{"printer", "preset", "presetMenu", "copies", "collate", "pagesChoice",
-                          "pages", "paper", "orientation", "panelSwitch", "PDEShellField", "fix",
-                          "conflictDetails", "columnToggle", "jobTiming", "whatWillBeSent", "help",
-                          "cancel", "print"}));
+    QCOMPARE(stops, (QStringList{"printer",    "preset",          "presetMenu",
+                                 "copies",     "collate",         "pagesChoice",
+                                 "pages",      "paper",           "orientation",
+                                 "pageLayout", "panelSwitch",     "PDEShellField",
+                                 "fix",        "conflictDetails", "columnToggle",
+                                 "jobTiming",  "whatWillBeSent",  "help",
+                                 "savePdf",    "cancel",          "print"}));
 }
 
 void TestPrintDialog::everythingFits_data()
