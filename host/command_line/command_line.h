@@ -15,8 +15,10 @@ namespace kelvo {
 // What the user asked for. See usageText() for each option.
 struct CommandLine
 {
-    QString file;                       // empty: standard input, or the sample with --demo
-    bool readsStandardInput = false;    // - was given: also with --demo
+    // Documents, in order; "-", at most once: standard input. Empty: that, or the sample of
+    // --demo.
+    QStringList files;
+    bool join = false;                  // --join: one job of all
     std::optional<QString> destination; // -d
     std::optional<int> copies;          // -n, 1 to 9999
     QList<AskedOption> options;         // -o, in order
@@ -37,6 +39,9 @@ struct CommandLine
     bool listPrinters = false, listControls = false, version = false, help = false;
     bool helpScripts = false; // --help-scripts
 };
+
+// Whether standard input is one of the documents.
+bool readsStandardInput(const CommandLine &line);
 
 // Refused with what was wrong, where, and the nearest option that exists.
 Result<CommandLine> parseCommandLine(const QStringList &arguments);

@@ -19,6 +19,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -119,8 +120,6 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     return job;
 }
 
-namespace {
-
 Result<void> provideFolder(const QString &folder)
 {
     if (::mkdir(fileNameBytes(folder).constData(), 0700) == 0)
@@ -144,6 +143,8 @@ Result<void> provideFolder(const QString &folder)
                              .arg(QString::fromUtf8(std::strerror(reason))),
                          writingAdvice(reason)})};
 }
+
+namespace {
 
 // Every file before the first one is replaced: a job is never half a new one.
 Result<void> checkReplaceable(const QStringList &paths)
@@ -207,7 +208,7 @@ bool isSameFile(const struct stat &one, const struct stat &other)
 }
 
 // What may not be replaced by a PDF.
-Result<void> checkPdfTarget(const QString &path, const QString &document)
+Result<void> checkPdfTarget(const QString &path, const QStringList &documents)
 {
     const auto there = fileStatus(path);
     if (!there) {
@@ -220,8 +221,11 @@ Result<void> checkPdfTarget(const QString &path, const QString &document)
                              .arg(parent)};
         return {};
     }
-    const auto printed = document.isEmpty() ? std::nullopt : fileStatus(document);
-    if (printed && isSameFile(*printed, *there))
+    const auto isPrinted = [&there](const QString &document) {
+        const auto printed = fileStatus(document);
+        return printed && isSameFile(*printed, *there);
+    };
+    if (std::ranges::any_of(documents, isPrinted))
         return Error{Code::Refused, path,
                      translate("Delivery",
                                "this is the document itself, which would be lost; name another "
@@ -254,9 +258,9 @@ mode_t usualRights()
 
 } // namespace
 
-Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document)
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QStringList &documents)
 {
-    if (auto checked = checkPdfTarget(path, document); !checked)
+    if (auto checked = checkPdfTarget(path, documents); !checked)
         return checked;
     const auto before = fileStatus(path);
     auto pdf = StagedFile::withCopy(path, job.pdfPath);

@@ -72,9 +72,12 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
 
 // Writes the job's PDF to `path`, over another PDF, whose rights stay; a new one has those that the
-// user's files have. Refused for what is no PDF, and for `document`, the file that is printed
-// (empty: none): it would be lost. After an error what stood there stays.
-Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document);
+// user's files have. Refused for what is no PDF, and for one of `documents`, the files that are
+// printed: it would be lost. After an error what stood there stays.
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path,
+                          const QStringList &documents);
+// Makes `folder`, 0700, in one that is there; one that is there keeps its rights. NotWritable.
+Result<void> provideFolder(const QString &folder);
 
 // Streams the job to the queue. Blocks: call it on a worker thread. What libcups
 // does happens on yet another one, which is left to itself when the server does

@@ -715,13 +715,18 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
                        {0.0, 0.0, size->height(), size->width()});
 }
 
+QString defaultPaper(const PpdFile &ppd)
+{
+    const PpdOption *papers = ppd.findOption(pageSizeOption);
+    return papers ? papers->defaultChoice : QString();
+}
+
 QString paperAsLargeAs(const QSizeF &page, const PpdFile &ppd)
 {
     const auto fits = [&page](const PpdPageSize &size) {
         return isSameSize(page, QSizeF(size.width, size.height));
     };
-    const PpdOption *papers = ppd.findOption(pageSizeOption);
-    const PpdPageSize *usual = papers ? ppd.findPageSize(papers->defaultChoice) : nullptr;
+    const PpdPageSize *usual = ppd.findPageSize(defaultPaper(ppd));
     if (usual && fits(*usual))
         return usual->name;
     // The same paper with other margins or fed otherwise ("A4.Fullbleed", "A4Small") is called
@@ -742,9 +747,8 @@ bool namesPaper(const QMap<QString, QString> &queueDefaults, const PpdFile &ppd)
     };
     if (isNamed("PageSize") || isNamed("PageRegion"))
         return true;
-    const PpdOption *papers = ppd.findOption(pageSizeOption);
     const auto media = findPageSizeName(queueDefaults.value(QStringLiteral("media")), ppd);
-    return media && papers && *media != papers->defaultChoice;
+    return media && *media != defaultPaper(ppd);
 }
 
 std::optional<Paper> paperNamed(const QString &name, const PpdFile &ppd)

@@ -52,6 +52,7 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
 // default where nothing is chosen. Without a PPD no choice is sent.
 bool isTwoSided(const PPDDictionary &choices, const PpdFile *ppd);
 
+QString defaultPaper(const PpdFile &ppd); // empty: it names none
 // The PPD's page size that has room for just such a page, in points, either way up: the default
 // one where it is that; empty where there is none.
 QString paperAsLargeAs(const QSizeF &page, const PpdFile &ppd);

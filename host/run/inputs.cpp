@@ -27,6 +27,8 @@ namespace kelvo {
 
 namespace {
 
+const QString pipedIn = QStringLiteral("-");
+
 // What is wrong with a file that `option` names and that could not be read at all.
 QString inputProblem(const QString &option, const Error &error, const QString &advice)
 {
@@ -81,38 +83,63 @@ Result<QString> readSecret(const QString &path)
     return text;
 }
 
-// The document, which must be named by now, or be piped in.
-std::variant<DocumentSource, InputFailure> findDocument(const CommandLine &line)
+// The documents, which must be named by now, or be piped in; without passwords.
+std::variant<std::vector<DocumentSource>, InputFailure> findDocuments(const CommandLine &line)
 {
     const DocumentOrigin origin = documentOrigin(line, standardInput());
-    DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
+    const int patienceMs = line.timeoutSeconds * 1000;
     if (origin == DocumentOrigin::Sample) {
-        source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
-        if (source.path.isEmpty())
+        const QString path = findSharedFile(QStringLiteral("demo/document.pdf"));
+        if (path.isEmpty())
             return InputFailure{ExitStatus::Failed,
                                 translate("Main", "--demo: the sample document is not installed")};
-    } else if (origin == DocumentOrigin::Missing) {
+        return std::vector{DocumentSource{path, {}, patienceMs}};
+    }
+    if (origin == DocumentOrigin::Missing) {
         return InputFailure{ExitStatus::WrongUsage,
                             translate("Main",
                                       "there is no document: name a file, or pipe one in. "
                                       "`kelvo-print --help` says more.")};
-    } else if (origin == DocumentOrigin::File && !fileStatus(line.file)) {
-        return InputFailure{ExitStatus::Failed,
-                            translate("Main",
-                                      "%1: there is no such document; check its name, or the "
-                                      "folder that it is looked for in (%2)")
-                                .arg(line.file, QDir::currentPath())};
     }
-    return source;
+    std::vector<DocumentSource> sources;
+    for (const QString &file : line.files) {
+        if (file != pipedIn && !fileStatus(file)) {
+            return InputFailure{ExitStatus::Failed,
+                                translate("Main",
+                                          "%1: there is no such document; check its name, or the "
+                                          "folder that it is looked for in (%2)")
+                                    .arg(file, QDir::currentPath())};
+        }
+        sources.push_back({file, {}, patienceMs});
+    }
+    if (sources.empty())
+        sources.push_back({pipedIn, {}, patienceMs});
+    return sources;
+}
+
+// Of the document `number`, from 1: the secret that is its alone, and the one for all.
+QStringList passwordNames(int number)
+{
+    return {QStringLiteral("DOCUMENT%1").arg(number), QStringLiteral("DOCUMENT")};
 }
 
 std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line, PdfHelpers helpers)
 {
-    const auto document = findDocument(line);
-    const auto *source = std::get_if<DocumentSource>(&document);
-    if (!source)
-        return nullptr; // readInputs() says so, in its turn
-    auto opening = std::make_shared<DocumentOpening>(*source);
+    auto documents = findDocuments(line);
+    auto *sources = std::get_if<std::vector<DocumentSource>>(&documents);
+    // What is wrong readInputs() says, in its turn. Of several none is printed at once.
+    if (!sources || sources->size() > 1)
+        return nullptr;
+    for (const QString &name : passwordNames(1)) {
+        if (!line.secretFiles.contains(name))
+            continue;
+        const auto password = readSecret(line.secretFiles.value(name));
+        if (!password)
+            return nullptr;
+        protectSecrets();
+        sources->front().passwords << password.value();
+    }
+    auto opening = std::make_shared<DocumentOpening>(sources->front());
     opening->start(std::make_shared<PdfAhead>(std::move(helpers), kTicketAttachmentName));
     return opening;
 }
@@ -187,7 +214,9 @@ Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
     if (ahead.lastUsed)
         printer.preferred = ahead.lastUsed->printer;
     options.lastUsed = std::move(ahead.lastUsed);
-    options.session.opening = std::move(ahead.document);
+    options.session.documents.title = line.title.value_or(QString());
+    options.session.documents.areJoined = line.join;
+    options.session.documents.opening = std::move(ahead.document);
     options.session.job.options = line.options;
     if (line.priority)
         options.session.job.options.append(
@@ -200,7 +229,7 @@ Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
     if (line.toFolder)
         options.plan.elsewhere = folderDestination(*line.toFolder);
     else if (line.toPdf)
-        options.plan.elsewhere = pdfDestination(*line.toPdf, line.file);
+        options.plan.elsewhere = pdfDestination(*line.toPdf, line.files);
     options.plan.ticketOut = line.ticketOut;
     options.plan.presetOut = line.presetOut;
     return inputs;
@@ -265,10 +294,17 @@ std::optional<InputFailure> readInputs(const CommandLine &line, Inputs &inputs)
                              translate("Main", "check its name, or name a queue with -d"))};
         inputs.options.session.printer.device = std::move(device).value();
     }
-    auto document = findDocument(line);
-    if (const auto *failure = std::get_if<InputFailure>(&document))
+    auto found = findDocuments(line);
+    if (const auto *failure = std::get_if<InputFailure>(&found))
         return *failure;
-    inputs.options.session.document = std::get<DocumentSource>(std::move(document));
+    auto &sources = inputs.options.session.documents.sources;
+    sources = std::get<std::vector<DocumentSource>>(std::move(found));
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        for (const QString &name : passwordNames(int(i) + 1)) {
+            if (inputs.secrets.contains(name))
+                sources[i].passwords << inputs.secrets.value(name);
+        }
+    }
     return std::nullopt;
 }
 

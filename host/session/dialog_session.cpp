@@ -17,21 +17,15 @@ DialogSession::DialogSession(SessionBeginning beginning, DevicePanels *panels, Q
     , m_bundleProblem(std::move(beginning.bundleProblem))
     , m_panels(panels)
     , m_search(std::move(beginning.printer))
-    , m_document(beginning.opening
-                     ? std::move(beginning.opening)
-                     : std::make_shared<DocumentOpening>(std::move(beginning.document)))
+    , m_documents(std::move(beginning.documents))
     , m_job(std::move(beginning.job), beginning.bundle, panels)
 {
-    m_job.setTitle(m_document->title());
+    m_job.setTitle(m_documents.title());
     connect(&m_search, &PrinterSearch::printersChanged, this, &DialogSession::printersChanged);
     connect(&m_search, &PrinterSearch::conditionChanged, this, &DialogSession::conditionChanged);
     connect(&m_search, &PrinterSearch::stateChanged, this, &DialogSession::takeSearch);
-    connect(m_document.get(), &DocumentOpening::ended, this, [this] {
-        m_job.setTitle(m_document->title());
-        if (!m_document->document().isNull())
-            m_job.setDocument(m_document->document());
-        emit documentChanged();
-    });
+    connect(&m_documents, &SessionDocuments::shownChanged, this, &DialogSession::takeDocument);
+    connect(&m_documents, &SessionDocuments::listChanged, this, &DialogSession::documentsChanged);
     connect(&m_job, &SessionJob::reloaded, this, &DialogSession::reloaded);
 }
 
@@ -47,7 +41,7 @@ void DialogSession::start()
 
 void DialogSession::stop()
 {
-    m_document->cancel();
+    m_documents.cancel();
     endPanels();
     m_search.stop();
 }
@@ -70,6 +64,14 @@ void DialogSession::takeSearch()
         begin();
     else
         emit stageChanged();
+}
+
+void DialogSession::takeDocument()
+{
+    m_job.setTitle(m_documents.title());
+    if (const Document &shown = document().document(); !shown.isNull())
+        m_job.setDocument(shown);
+    emit documentChanged();
 }
 
 void DialogSession::choosePrinter(const QString &name)

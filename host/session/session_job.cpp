@@ -37,6 +37,7 @@ SessionJob::SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObj
 Result<void> SessionJob::beginOn(Device device)
 {
     m_device = std::move(device);
+    m_hasProposedPaper = false;
     m_session = std::make_unique<PrintSession>();
     m_session->setPrinter({m_device.name, {}, m_device.ppd});
     nameJob();
@@ -70,6 +71,14 @@ void SessionJob::leave()
     m_isSettled = false;
 }
 
+void SessionJob::setTitle(const QString &title)
+{
+    if (title == m_title)
+        return;
+    m_title = title;
+    nameJob();
+}
+
 void SessionJob::nameJob()
 {
     PMTicketSetCFString(m_session->printSettingsTicket(), hostClient, kPMJobNameKey, m_title);
@@ -100,7 +109,9 @@ void SessionJob::proposePaper()
     if (std::ranges::any_of(paperPlaces(),
                             [&](const TicketPlace &place) { return isSet(place, asked); }))
         return;
-    const QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    if (paper.isEmpty() && m_hasProposedPaper) // that of another document
+        paper = defaultPaper(*ppd());
     JobSettings settings = this->settings();
     if (paper.isEmpty() || paper == settings.paperName)
         return;
@@ -111,6 +122,7 @@ void SessionJob::proposePaper()
     writeJobSettings(settings, ppd(), *m_session);
     readAll();
     sync(kSyncWrite);
+    m_hasProposedPaper = true;
     m_edits.asked.propose(before, ticketFileFrom(*m_session));
 }
 

@@ -61,8 +61,8 @@ public:
     // The panels write once more; what was set goes along to the next device, where its
     // words go too.
     void leave();
-    // What the job is called where its tickets are laid next.
-    void setTitle(const QString &title) { m_title = title; }
+    // What the job is called, in its tickets too.
+    void setTitle(const QString &title);
     // The document, of which the panels are told the first page that is printed.
     void setDocument(const Document &document);
 
@@ -174,7 +174,8 @@ private:
     FoundConflicts m_conflicts;
 
     QString m_title;
-    Document m_document; // null: not there yet
+    Document m_document;             // null: not there yet
+    bool m_hasProposedPaper = false; // on this device
     Device m_device;
     std::unique_ptr<PrintSession> m_session;
     Edits m_edits;

@@ -4,6 +4,7 @@
 #include "caution_bar.h"
 #include "control.h"
 #include "dialog_foot.h"
+#include "document_bar.h"
 #include "document_preview.h"
 #include "focus_regions.h"
 #include "pane_scroll.h"
@@ -88,12 +89,14 @@ DialogParts::DialogParts(QWidget *window)
     layout->addWidget(foot);
 }
 
-void DialogParts::place(PrinterPane *printerPane)
+void DialogParts::place(PrinterPane *printerPane, DocumentBar *documentBar)
 {
     printer = printerPane;
+    documents = documentBar;
     preview = new DocumentPreview(columns->left());
     preview->setObjectName(QStringLiteral("preview"));
     columns->setParts(printer, preview, panelSwitch, scroll);
+    columns->addBelowFields(documents);
 }
 
 void DialogParts::setEnabled(bool enabled)
@@ -130,11 +133,12 @@ bool DialogParts::arePanelsBuilt() const
 void DialogParts::arrangeTabOrder()
 {
     const QList<QWidget *> panelStops = focusStopsIn(scroll);
-    if (panelStops == m_panelStops)
+    const QList<QWidget *> documentStops = focusStopsIn(documents);
+    if (panelStops + documentStops == m_panelStops)
         return;
-    m_panelStops = panelStops;
-    chainFocusStops(focusStopsIn(printer) + focusStopsIn(preview) + QList<QWidget *>{panelSwitch}
-                    + panelStops + focusStopsIn(cautionBar)
+    m_panelStops = panelStops + documentStops;
+    chainFocusStops(focusStopsIn(printer) + documentStops + focusStopsIn(preview)
+                    + QList<QWidget *>{panelSwitch} + panelStops + focusStopsIn(cautionBar)
                     + QList<QWidget *>{columns->toggle(), foot->cancelJob(), foot->timing(),
                                        foot->details(), foot->help(), foot->savePdf(),
                                        foot->cancel(), foot->print()});
@@ -153,9 +157,9 @@ void DialogParts::giveFirstFocus()
 
 void DialogParts::goToRegion(bool forward)
 {
-    focusNextRegion(
-        {printer, preview, panelSwitch, scroll, cautionBar, columns->toggle(), foot->print()},
-        forward);
+    focusNextRegion({printer, documents, preview, panelSwitch, scroll, cautionBar,
+                     columns->toggle(), foot->print()},
+                    forward);
 }
 
 void DialogParts::noteShown()

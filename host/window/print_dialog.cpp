@@ -6,6 +6,8 @@
 #include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
+#include "document_bar.h"
+#include "document_chooser.h"
 #include "document_preview.h"
 #include "help_window.h"
 #include "job_details_dialog.h"
@@ -14,6 +16,7 @@
 #include "notice.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
+#include "password_dialog.h"
 #include "pdf_chooser.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
@@ -26,7 +29,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -76,7 +81,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     setObjectName(QStringLiteral("printDialog"));
     setPrintWindow(this);
     setWindowButtons(this, m_parts.foot->print(), m_parts.foot->cancel());
-    m_parts.place(new PrinterPane(m_presets, m_parts.columns->left()));
+    m_parts.place(new PrinterPane(m_presets, m_parts.columns->left()),
+                  new DocumentBar(m_session->documents(), m_parts.columns->left()));
     addShortcuts();
     m_parts.fitToFont();
     m_flow.setQuestions(this);
@@ -90,7 +96,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_firstFrame.setSingleShot(true);
     m_firstFrame.setInterval(firstFrameMs);
     connect(&m_firstFrame, &QTimer::timeout, this, [this] {
-        m_session->openTheDocument();
+        m_session->openDocuments();
         if (audience() != Audience::Nobody)
             m_parts.printer->buildFolded();
         emit begun();
@@ -121,6 +127,7 @@ PrintDialog::PrintDialog(DialogOptions options)
         showPrinting(true);
         m_parts.foot->cancel()->setFocus();
     });
+    connect(&m_flow, &PrintFlow::movedOn, this, &PrintDialog::updateFoot);
     connect(&m_flow, &PrintFlow::printed, this, &PrintDialog::takePrinted);
     connect(&m_flow, &PrintFlow::refused, this, &PrintDialog::takeRefusal);
 
@@ -134,6 +141,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
+    connect(m_session.get(), &DialogSession::documentsChanged, this, &PrintDialog::takeDocuments);
     connect(m_session.get(), &DialogSession::reloaded, this, &PrintDialog::takeSettings);
     connect(m_session.get(), &DialogSession::refused, this, [this](const Error &error) {
         printLine(stderr, QStringLiteral("kelvo-print: ") + error.text());
@@ -162,6 +170,8 @@ PrintDialog::PrintDialog(DialogOptions options)
         return noErr;
     });
     connect(m_parts.printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
+    connect(m_parts.documents, &DocumentBar::addRequested, this, &PrintDialog::chooseDocuments);
+    connect(m_parts.documents, &DocumentBar::passwordRequested, this, &PrintDialog::askForPassword);
     connect(m_parts.printer, &PrinterPane::pageInSightWanted, this, [this] {
         m_parts.printer->setPageInSight(std::max(1, m_parts.preview->pageInSight()));
     });
@@ -189,7 +199,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     takeStage();
     takeDocument();
-    updateTitle();
+    takeDocuments();
+    setAcceptDrops(true);
 }
 
 PrintDialog::~PrintDialog()
@@ -213,6 +224,7 @@ void PrintDialog::addShortcuts()
         }));
     m_tabKeys = {add(Qt::CTRL | Qt::Key_PageUp, [this] { sendCommand(this, kPreviousTab); }),
                  add(Qt::CTRL | Qt::Key_PageDown, [this] { sendCommand(this, kNextTab); })};
+    add(Qt::CTRL | Qt::Key_O, [this] { chooseDocuments(); });
     add(Qt::CTRL | Qt::Key_P, [this] { pressPrint(); });
     add(Qt::Key_F1, [this] { showHelp(); });
     add(Qt::Key_F6, [this] { m_parts.goToRegion(true); });
@@ -312,13 +324,30 @@ void PrintDialog::takeDocument()
         m_parts.preview->setMessage({});
         m_parts.preview->setDocument(document.document());
     } else {
-        m_parts.preview->setMessage(document.isPending() ? tr("Opening %1…").arg(document.title())
-                                                         : document.problem());
+        m_parts.preview->setMessage(
+            document.isPending() ? tr("Opening %1…").arg(document.title())
+                : document.asksForPassword() && !m_isDriven
+                ? tr("“%1” is locked with a password.").arg(document.title())
+                : document.problem());
+        // Once the window is as it will be behind the question.
+        if (document.asksForPassword() && !m_isDriven && m_passwordsAsked.insert(&document).second)
+            QTimer::singleShot(0, this, &PrintDialog::askForPassword);
     }
+    m_parts.documents->refresh();
+    m_parts.arrangeTabOrder();
     // Its pages may be too large; the first look may still be to come.
     if (m_hasLooked)
         m_look.start();
     updatePreview();
+    updatePrintButton();
+    updateFoot();
+}
+
+void PrintDialog::takeDocuments()
+{
+    updateTitle();
+    m_parts.documents->refresh();
+    m_parts.arrangeTabOrder();
     updatePrintButton();
     updateFoot();
 }
@@ -341,7 +370,7 @@ void PrintDialog::takeSettings()
 
 void PrintDialog::updateTitle()
 {
-    setWindowTitle(tr("Print “%1”").arg(m_session->document().title()));
+    setWindowTitle(tr("Print “%1”").arg(m_session->documents().title()));
 }
 
 void PrintDialog::updatePrintButton()
@@ -383,7 +412,7 @@ void PrintDialog::updatePreview()
 void PrintDialog::updateFoot()
 {
     if (m_flow.isPrinting()) {
-        m_parts.foot->setText(m_flow.destination()->onTheWay());
+        m_parts.foot->setText(m_flow.onTheWay());
         return;
     }
     QString text;
@@ -395,6 +424,10 @@ void PrintDialog::updateFoot()
         text = problem.isEmpty() ? jobInShort(*m_session)
                                  : tr("Not to be printed like this. Pages: %1").arg(problem);
     }
+    // Of several, it may be another one than is looked at.
+    if (const QString problem = m_session->documents().problem();
+        isReady() && m_session->documents().count() > 1 && !problem.isEmpty())
+        text = problem;
     m_parts.foot->setText(text);
 }
 
@@ -486,6 +519,33 @@ void PrintDialog::changeTiming()
     m_look.start();
 }
 
+void PrintDialog::addDocuments(const QStringList &paths)
+{
+    // One that is on its way has been asked about.
+    if (m_flow.isPrinting() || m_sent.isTelling() || m_finished)
+        return;
+    std::vector<DocumentSource> sources;
+    for (const QString &path : paths)
+        sources.push_back({path, {}});
+    m_session->documents().add(std::move(sources));
+}
+
+void PrintDialog::chooseDocuments()
+{
+    if (m_flow.isPrinting() || m_sent.isTelling())
+        return;
+    const auto chooser = documentChooser({}, this);
+    if (runChooser(*chooser) == QDialog::Accepted)
+        addDocuments(chooser->selectedFiles());
+}
+
+void PrintDialog::askForPassword()
+{
+    if (m_finished || m_flow.isPrinting() || QApplication::activeModalWidget())
+        return;
+    runPasswordDialog(m_session->documents(), this);
+}
+
 void PrintDialog::showHelp()
 {
     // The shown panel's own page; the contents where it has none.
@@ -535,11 +595,16 @@ void PrintDialog::savePdf()
 {
     m_flow.forgetRefusal();
     commitTypedValues(this);
-    const QString document = m_session->document().sourcePath();
-    const auto chooser = pdfChooser(m_session->document().title(), document, this);
-    connect(chooser.get(), &QFileDialog::fileSelected, this, [this, document](const QString &path) {
+    const SessionDocuments &documents = m_session->documents();
+    QStringList files;
+    for (int i = 0; i < documents.count(); ++i)
+        files << documents.at(i).sourcePath();
+    files.removeAll(QString());
+    const auto chooser =
+        pdfChooser(documents.shown().title(), documents.shown().sourcePath(), this);
+    connect(chooser.get(), &QFileDialog::fileSelected, this, [this, files](const QString &path) {
         if (!m_finished)
-            m_flow.pressTo(pdfDestination(path, document), unfinishedPages());
+            m_flow.pressTo(pdfDestination(path, files), unfinishedPages());
     });
     runChooser(*chooser);
 }
@@ -603,7 +668,7 @@ void PrintDialog::takePrinted(const QString &place)
     showPrinting(false);
     // The user may go on and print.
     if (m_flow.isAside() && !m_isInterrupted) {
-        m_parts.foot->setText(m_flow.destination()->arrived(place));
+        m_parts.foot->setText(m_flow.arrived(place));
         m_parts.foot->savePdf()->setFocus();
         return;
     }
@@ -612,11 +677,12 @@ void PrintDialog::takePrinted(const QString &place)
         end(ExitStatus::Printed);
         return;
     }
+    // Of several the desktop has no room to tell one by one.
     std::optional<SentJob> job;
-    if (const auto &jobs = m_flow.sentJobs(); !jobs.empty() && jobs.back().name() == place)
+    if (const auto &jobs = m_flow.sentJobs(); jobs.size() == 1 && jobs.back().name() == place)
         job = jobs.back();
     m_pointer = QCursor::pos();
-    m_sent.tell(m_flow.destination()->arrived(place), m_session->document().title(), job,
+    m_sent.tell(m_flow.arrived(place), m_session->documents().title(), job,
                 m_session->search().timeoutMs());
     m_parts.setEnabled(false);
     updatePrintButton();
@@ -750,13 +816,42 @@ void PrintDialog::showEvent(QShowEvent *event)
         m_watch.start();
 }
 
+namespace {
+
+// The files that are dragged; none where there is anything else among them.
+QStringList filesOf(const QMimeData &dragged)
+{
+    QStringList paths;
+    const auto urls = dragged.urls();
+    for (const QUrl &url : urls) {
+        if (!url.isLocalFile())
+            return {};
+        paths << url.toLocalFile();
+    }
+    return paths;
+}
+
+} // namespace
+
+void PrintDialog::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!filesOf(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void PrintDialog::dropEvent(QDropEvent *event)
+{
+    addDocuments(filesOf(*event->mimeData()));
+    event->acceptProposedAction();
+}
+
 // ---- what scripts ask
 
 bool PrintDialog::isIdle() const
 {
     const bool isUnderWay = !m_finished
         && (m_session->stage() == DialogSession::Stage::Searching
-            || m_session->document().isPending() || (m_isDriven && m_session->search().isLooking())
+            || m_session->documents().isPending() || (m_isDriven && m_session->search().isLooking())
             || m_look.isActive() || m_firstFrame.isActive()
             || (m_flow.isPrinting() && m_flow.isAside()));
     return !isUnderWay && m_parts.isAtRest();

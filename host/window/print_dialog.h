@@ -16,6 +16,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <set>
 #include <vector>
 
 class QShortcut;
@@ -92,6 +93,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -102,6 +105,7 @@ private:
     void showPrinters();
     void takeStage();
     void takeDocument();
+    void takeDocuments();
     void takeSettings();
 
     // The user tells.
@@ -113,6 +117,9 @@ private:
     void fixConflicts();
     void showDetails();
     void changeTiming();
+    void addDocuments(const QStringList &paths);
+    void chooseDocuments();
+    void askForPassword();
     void showHelp();
 
     // Print.
@@ -155,7 +162,8 @@ private:
     QTimer m_firstFrame;      // until then the document is not opened
     bool m_hasLooked = false; // at the settings of any printer
     bool m_isDriven = false;
-    bool m_isInterrupted = false; // what is under way is the last
+    std::set<const DocumentOpening *> m_passwordsAsked; // once each, but for the button
+    bool m_isInterrupted = false;                       // what is under way is the last
     QElapsedTimer m_printingSince;
     QMap<QString, QString> m_secrets;
 

@@ -79,9 +79,9 @@ _kelvo_print()
     fi
 
     if [[ $cur == -* ]]; then
-        _kelvo_print_offer < <(printf '%s\n' -d -n -o -P -q -H -t --ppd --demo --preset --preset-out \
-            --ticket-in --ticket-out --script --print --secret --no-window --to --wait --timeout \
-            --language --list-printers --list-controls --version --help-scripts -h --help)
+        _kelvo_print_offer < <(printf '%s\n' -d -n -o -P -q -H -t --join --ppd --demo --preset \
+            --preset-out --ticket-in --ticket-out --script --print --secret --no-window --to --wait \
+            --timeout --language --list-printers --list-controls --version --help-scripts -h --help)
         return
     fi
     _filedir '@(pdf|ps|eps|txt|png|jpg|jpeg|gif|bmp|tif|tiff|svg)'

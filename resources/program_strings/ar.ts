@@ -12,9 +12,15 @@
     <name>CommandLine</name>
     <message>
         <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it</source>
+name, document.pdf, options and ticket.plist into it,
+or into a folder there for each of several jobs</source>
         <translation>كتابة ملف PDF لما سيُطبع؛ وباسم مجلد تُكتب فيه
-document.pdf وoptions وticket.plist</translation>
+document.pdf وoptions وticket.plist،
+أو في مجلد فيه لكل مهمة من عدة مهام</translation>
+    </message>
+    <message>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>يتسع ملف PDF لمهمة واحدة: أضف --join أو سمِّ مجلدًا</translation>
     </message>
 </context>
 <context>
@@ -382,10 +388,6 @@ document.pdf وoptions وticket.plist</translation>
         <translation>يحتوي المستند على ملف أقدم &#x2068;%1&#x2069; تعذّر إخراجه؛ احفظ المستند كملف PDF جديد بلا ملفات مرفقة، واطبع ذلك</translation>
     </message>
     <message>
-        <source>the document is locked with a password; save a copy without one and print that</source>
-        <translation>المستند مقفل بكلمة مرور؛ احفظ نسخة بلا كلمة مرور واطبعها</translation>
-    </message>
-    <message>
         <source>the PDF is damaged and cannot be repaired: %1</source>
         <translation>ملف PDF تالف ولا يمكن إصلاحه: %1</translation>
     </message>
@@ -513,6 +515,31 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>لا يستطيع Ghostscript قراءة ملف PostScript هذا: %1</translation>
+    </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>المستند مقفل بكلمة مرور</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>المستند مقفل بكلمة مرور أخرى</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>&#x2066;%1&#x2069; – &#x2066;%2&#x2069;</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>&#x2066;%1&#x2069;</numerusform>
+            <numerusform>&#x2066;%1&#x2069; ومستند آخر</numerusform>
+            <numerusform>&#x2066;%1&#x2069; ومستندان آخران</numerusform>
+            <numerusform>&#x2066;%1&#x2069; و%n مستندات أخرى</numerusform>
+            <numerusform>&#x2066;%1&#x2069; و%n مستندًا آخر</numerusform>
+            <numerusform>&#x2066;%1&#x2069; و%n مستند آخر</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1803,6 +1830,49 @@ document.pdf وoptions وticket.plist</translation>
     </message>
 </context>
 <context>
+    <name>Password</name>
+    <message>
+        <source>Password</source>
+        <translation>كلمة المرور</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>لا يسمح مؤلف «%1» بطباعته بلا كلمة مرور المالك.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>«%1» مقفل بكلمة مرور.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;كلمة المرور:</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>كلمة مرور المستند</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>إ&amp;ظهار</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>كلمة المرور هذه غير صحيحة.</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>هذه ليست كلمة مرور المالك.</translation>
+    </message>
+</context>
+<context>
     <name>People</name>
     <message>
         <source>address book</source>
@@ -2089,6 +2159,11 @@ document.pdf وoptions وticket.plist</translation>
         <source>covers and inserts</source>
         <translation>الأغلفة والإدراجات</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a document, and what is to be said of it</comment>
+        <translation>&#x2066;%1&#x2069;: %2</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -2107,10 +2182,6 @@ document.pdf وoptions وticket.plist</translation>
 </context>
 <context>
     <name>Window</name>
-    <message>
-        <source>Choose a Document to Print</source>
-        <translation>اختيار مستند للطباعة</translation>
-    </message>
     <message>
         <source>PDF, PostScript, text and pictures</source>
         <translation>PDF وPostScript ونصوص وصور</translation>
@@ -2250,6 +2321,10 @@ document.pdf وoptions وticket.plist</translation>
         <source>%1 (printed)</source>
         <comment>the name of a file</comment>
         <translation>%1 (مطبوع)</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>اختيار مستندات للطباعة</translation>
     </message>
 </context>
 <context>
@@ -2408,6 +2483,62 @@ document.pdf وoptions وticket.plist</translation>
     </message>
 </context>
 <context>
+    <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>المستند</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>المستند الذي تعرضه المعاينة ويزيله الأمر «إزالة»</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>إجراءات المستندات</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>إضافة مستندات أو إزالتها</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>إضافة…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Print all as &amp;one job</source>
+        <translation>طباعة الكل ك&amp;مهمة واحدة</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>تتوالى الصفحات كما لو كانت الملفات مستندًا واحدًا</translation>
+    </message>
+    <message>
+        <source>Enter Pass&amp;word…</source>
+        <translation>إدخال كلمة ال&amp;مرور…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>&#x2066;%1&#x2069; (أُرسل)</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>&#x2066;%1&#x2069; (مقفل)</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>&#x2066;%1&#x2069; (تتعذر طباعته)</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1 من %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::DocumentOpening</name>
     <message>
         <source>There is no document to print.</source>
@@ -2416,6 +2547,10 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>لا يمكن فتح المستند: %1</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>اكتبها في النافذة، أو احفظها في ملف بالصلاحيات 0600 يحدده &#x2066;--secret DOCUMENT=FILE&#x2069;</translation>
     </message>
 </context>
 <context>
@@ -2708,6 +2843,10 @@ The settings stay as they are.</source>
         <translation>العمود الجانبي</translation>
     </message>
     <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>«%1» مقفل بكلمة مرور.</translation>
+    </message>
+    <message>
         <source>What was printed with is not kept: %1</source>
         <translation>لم يُحفظ ما طُبع به: %1</translation>
     </message>
@@ -2766,6 +2905,57 @@ The settings stay as they are.</source>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: لم يُرسل، فهذه الطابعة لا تقرأ التذاكر</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>لم تُفتح كل المستندات بعد.</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>صفحات &#x2066;%1&#x2069;: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>يجري إرسال %1 من %2: &#x2066;%3&#x2069;</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>لم يُكتب أي مستند</numerusform>
+            <numerusform>كُتب مستند واحد</numerusform>
+            <numerusform>كُتب مستندان</numerusform>
+            <numerusform>كُتبت %n مستندات</numerusform>
+            <numerusform>كُتب %n مستندًا</numerusform>
+            <numerusform>كُتب %n مستند</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>لم يُرسل أي مستند إلى %1</numerusform>
+            <numerusform>أُرسل مستند واحد إلى %1</numerusform>
+            <numerusform>أُرسل مستندان إلى %1</numerusform>
+            <numerusform>أُرسلت %n مستندات إلى %1</numerusform>
+            <numerusform>أُرسل %n مستندًا إلى %1</numerusform>
+            <numerusform>أُرسل %n مستند إلى %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>&#x2066;%1&#x2069; (&#x2066;%2&#x2069;)</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>لم يُرسل أي مستند.</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>أُرسل: %1.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>لم يُرسل: %1.</translation>
     </message>
 </context>
 <context>

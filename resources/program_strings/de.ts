@@ -103,11 +103,6 @@ Einstellungen schreiben</translation>
         <translation>drucken, wenn das Skript zu Ende ist</translation>
     </message>
     <message>
-        <source>a secret for the script, in a file of mode 0600</source>
-        <translation>ein Geheimnis für das Skript, in einer Datei mit den
-Rechten 0600</translation>
-    </message>
-    <message>
         <source>show nothing; without a script, print at once</source>
         <translation>nichts anzeigen; ohne Skript sofort drucken</translation>
     </message>
@@ -146,10 +141,6 @@ genannte Pipe warten, 1 bis 3600 (30)</translation>
         <translation>eine solche Option gibt es nicht</translation>
     </message>
     <message>
-        <source>only one document is printed at a time</source>
-        <translation>es wird nur ein Dokument auf einmal gedruckt</translation>
-    </message>
-    <message>
         <source>-o %1 says something else; leave out one of them</source>
         <translation>-o %1 besagt etwas anderes; lassen Sie eines davon weg</translation>
     </message>
@@ -184,20 +175,6 @@ genannte Pipe warten, 1 bis 3600 (30)</translation>
     <message>
         <source>its value %1 is missing</source>
         <translation>der Wert %1 fehlt</translation>
-    </message>
-    <message>
-        <source>Usage: kelvo-print [OPTION]... [FILE]
-
-Shows the print dialog for FILE, or for standard input: PDF, PostScript, text
-or a picture.
-
-</source>
-        <translation>Aufruf: kelvo-print [OPTION]... [FILE]
-
-Zeigt den Druckdialog für FILE oder für die Standardeingabe: PDF, PostScript,
-Text oder ein Bild.
-
-</translation>
     </message>
     <message>
         <source>
@@ -247,10 +224,46 @@ ungültig, 130 abgebrochen.
         <translation>%1 ist das, was --ticket-out schreibt</translation>
     </message>
     <message>
+        <source>print several files as one job</source>
+        <translation>mehrere Dateien als einen Auftrag drucken</translation>
+    </message>
+    <message>
+        <source>standard input can be read only once</source>
+        <translation>die Standardeingabe lässt sich nur einmal lesen</translation>
+    </message>
+    <message>
+        <source>Usage: kelvo-print [OPTION]... [FILE]...
+
+Shows the print dialog for the FILEs, or for standard input (-): PDF,
+PostScript, text or pictures. Each is a job of its own.
+
+</source>
+        <translation>Aufruf: kelvo-print [OPTION]... [FILE]...
+
+Zeigt den Druckdialog für die Dateien FILE oder für die Standardeingabe (-):
+PDF, PostScript, Text oder Bilder. Jede ist ein eigener Auftrag.
+
+</translation>
+    </message>
+    <message>
+        <source>a secret for the script, in a file of mode 0600;
+DOCUMENT is the password of a PDF, DOCUMENT2
+that of the second file</source>
+        <translation>ein Geheimnis für das Skript, in einer Datei mit den
+Rechten 0600; DOCUMENT ist das Passwort eines PDF,
+DOCUMENT2 das der zweiten Datei</translation>
+    </message>
+    <message>
         <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it</source>
+name, document.pdf, options and ticket.plist into it,
+or into a folder there for each of several jobs</source>
         <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
-Ordners document.pdf, options und ticket.plist hinein</translation>
+Ordners document.pdf, options und ticket.plist hinein,
+bei mehreren Aufträgen in einen Ordner für jeden</translation>
+    </message>
+    <message>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>eine PDF-Datei nimmt einen Auftrag auf: Fügen Sie --join hinzu, oder nennen Sie einen Ordner</translation>
     </message>
     <message>
         <source>what is written to a file is not printed, and there is nothing to wait for; leave out --to</source>
@@ -905,10 +918,6 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
         <translation>das Dokument enthält eine ältere Datei %1, die sich nicht herausnehmen ließ; speichern Sie es als neue PDF-Datei ohne angehängte Dateien und drucken Sie diese</translation>
     </message>
     <message>
-        <source>the document is locked with a password; save a copy without one and print that</source>
-        <translation>das Dokument ist mit einem Passwort gesperrt; speichern Sie eine Kopie ohne Passwort und drucken Sie diese</translation>
-    </message>
-    <message>
         <source>the PDF is damaged and cannot be repaired: %1</source>
         <translation>die PDF-Datei ist beschädigt und lässt sich nicht reparieren: %1</translation>
     </message>
@@ -1036,6 +1045,27 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>Ghostscript kann das PostScript nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>das Dokument ist mit einem Passwort gesperrt</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>das Dokument ist mit einem anderen Passwort gesperrt</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2358,6 +2388,49 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
     </message>
 </context>
 <context>
+    <name>Password</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>Der Verfasser von „%1“ erlaubt das Drucken nur mit dem Passwort des Besitzers.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>Passwort des Dokuments</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Anzeigen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>Das ist nicht das Passwort.</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>Das ist nicht das Passwort des Besitzers.</translation>
+    </message>
+</context>
+<context>
     <name>People</name>
     <message>
         <source>address book</source>
@@ -2998,6 +3071,11 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>covers and inserts</source>
         <translation>Deckblätter und Einlagen</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a document, and what is to be said of it</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -3016,10 +3094,6 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
 </context>
 <context>
     <name>Window</name>
-    <message>
-        <source>Choose a Document to Print</source>
-        <translation>Zu druckendes Dokument wählen</translation>
-    </message>
     <message>
         <source>PDF, PostScript, text and pictures</source>
         <translation>PDF, PostScript, Text und Bilder</translation>
@@ -3155,6 +3229,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>%1 (printed)</source>
         <comment>the name of a file</comment>
         <translation>%1 (gedruckt)</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>Zu druckende Dokumente wählen</translation>
     </message>
 </context>
 <context>
@@ -3313,6 +3391,62 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
 </context>
 <context>
+    <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>Das Dokument, das die Vorschau zeigt und das „Entfernen“ entfernt</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>Aktionen für Dokumente</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>Dokumente hinzufügen oder entfernen</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Print all as &amp;one job</source>
+        <translation>Alle als &amp;einen Auftrag drucken</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>Die Seiten folgen aufeinander, als wären die Dateien ein Dokument</translation>
+    </message>
+    <message>
+        <source>Enter Pass&amp;word…</source>
+        <translation>Pass&amp;wort eingeben…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>%1 (gesendet)</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>%1 (gesperrt)</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>%1 (nicht druckbar)</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1 von %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::DocumentOpening</name>
     <message>
         <source>There is no document to print.</source>
@@ -3321,6 +3455,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>Das Dokument lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>geben Sie es im Fenster ein, oder schreiben Sie es in eine Datei mit den Rechten 0600, die --secret DOCUMENT=FILE nennt</translation>
     </message>
 </context>
 <context>
@@ -3613,6 +3751,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <translation>die linke Spalte</translation>
     </message>
     <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
+    </message>
+    <message>
         <source>What was printed with is not kept: %1</source>
         <translation>Womit gedruckt wurde, wird nicht aufbewahrt: %1</translation>
     </message>
@@ -3671,6 +3813,49 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: nicht gesendet, dieser Drucker liest keine Tickets</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>Noch sind nicht alle Dokumente offen.</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>Seiten von %1: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>%1 von %2 wird gesendet: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n Dokument geschrieben</numerusform>
+            <numerusform>%n Dokumente geschrieben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n Dokument an %1 gesendet</numerusform>
+            <numerusform>%n Dokumente an %1 gesendet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>Kein Dokument wurde gesendet.</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>Gesendet: %1.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>Nicht gesendet: %1.</translation>
     </message>
 </context>
 <context>

@@ -101,6 +101,14 @@
             <numerusform>The drawing shows or uses %n other files, which are left out: only what a drawing holds itself is printed. Embed them in it.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -183,6 +191,23 @@
         <translation>
             <numerusform>%1 of %n printer</numerusform>
             <numerusform>%1 of %n printers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrintFlow</name>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n document written</numerusform>
+            <numerusform>%n documents written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n document sent to %1</numerusform>
+            <numerusform>%n documents sent to %1</numerusform>
         </translation>
     </message>
 </context>

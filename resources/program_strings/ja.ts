@@ -12,9 +12,15 @@
     <name>CommandLine</name>
     <message>
         <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it</source>
+name, document.pdf, options and ticket.plist into it,
+or into a folder there for each of several jobs</source>
         <translation>印刷されるものを PDF に書き出す。フォルダー名なら
-document.pdf、options、ticket.plist をその中に</translation>
+document.pdf、options、ticket.plist をその中に。
+複数のジョブならその中のそれぞれのフォルダーに</translation>
+    </message>
+    <message>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>PDF ファイル1つに入るジョブは1つです。--join を加えるか、フォルダーを指定してください</translation>
     </message>
 </context>
 <context>
@@ -372,10 +378,6 @@ document.pdf、options、ticket.plist をその中に</translation>
         <translation>文書に含まれている古いファイル%1を取り除けませんでした。添付ファイルのない新しいPDFとして保存して、それを印刷してください</translation>
     </message>
     <message>
-        <source>the document is locked with a password; save a copy without one and print that</source>
-        <translation>文書がパスワードで保護されています。パスワードのないコピーを保存して、それを印刷してください</translation>
-    </message>
-    <message>
         <source>the PDF is damaged and cannot be repaired: %1</source>
         <translation>PDFが壊れていて、修復できません: %1</translation>
     </message>
@@ -503,6 +505,26 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>GhostscriptでPostScriptを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>文書がパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>文書は別のパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1ほか%n件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1723,6 +1745,49 @@ document.pdf、options、ticket.plist をその中に</translation>
     </message>
 </context>
 <context>
+    <name>Password</name>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>「%1」の作成者は、所有者のパスワードなしでの印刷を許可していません。</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>文書のパスワード</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>所有者のパスワードではありません。</translation>
+    </message>
+</context>
+<context>
     <name>People</name>
     <message>
         <source>address book</source>
@@ -1999,6 +2064,11 @@ document.pdf、options、ticket.plist をその中に</translation>
         <source>covers and inserts</source>
         <translation>表紙と挿入紙</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a document, and what is to be said of it</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -2017,10 +2087,6 @@ document.pdf、options、ticket.plist をその中に</translation>
 </context>
 <context>
     <name>Window</name>
-    <message>
-        <source>Choose a Document to Print</source>
-        <translation>印刷する文書の選択</translation>
-    </message>
     <message>
         <source>PDF, PostScript, text and pictures</source>
         <translation>PDF、PostScript、テキスト、画像</translation>
@@ -2155,6 +2221,10 @@ document.pdf、options、ticket.plist をその中に</translation>
         <source>%1 (printed)</source>
         <comment>the name of a file</comment>
         <translation>%1 (印刷)</translation>
+    </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>印刷する文書の選択</translation>
     </message>
 </context>
 <context>
@@ -2313,6 +2383,62 @@ document.pdf、options、ticket.plist をその中に</translation>
     </message>
 </context>
 <context>
+    <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>プレビューに表示され、「削除」の対象になる文書</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>文書の操作</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>文書の追加または削除</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Print all as &amp;one job</source>
+        <translation>すべてを1つのジョブで印刷(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>複数のファイルを1つの文書のように、ページを続けて印刷します</translation>
+    </message>
+    <message>
+        <source>Enter Pass&amp;word…</source>
+        <translation>パスワードの入力(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>%1（送信済み）</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>%1（保護）</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>%1（印刷できません）</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1/%2: %3</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::DocumentOpening</name>
     <message>
         <source>There is no document to print.</source>
@@ -2321,6 +2447,10 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>文書を開けません: %1。</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>ウィンドウで入力するか、モード0600のファイルに書き込んで --secret DOCUMENT=FILE で指定してください</translation>
     </message>
 </context>
 <context>
@@ -2613,6 +2743,10 @@ The settings stay as they are.</source>
         <translation>左の列</translation>
     </message>
     <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
+    <message>
         <source>What was printed with is not kept: %1</source>
         <translation>印刷に使った設定は保存されません: %1</translation>
     </message>
@@ -2671,6 +2805,47 @@ The settings stay as they are.</source>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: このプリンターはチケットを読み取らないため、送信されません</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>まだ開いていない文書があります。</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>%1のページ: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>%2件中%1件目を送信しています: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n件の文書を書き込みました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n件の文書を%1に送信しました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>文書は送信されていません。</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>送信済み: %1。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>未送信: %1。</translation>
     </message>
 </context>
 <context>

@@ -33,8 +33,8 @@ QString told(const CommandLine &line)
         if (value)
             parts << QLatin1String(name) + u'=' + *value;
     };
-    if (!line.file.isEmpty())
-        parts << QStringLiteral("file=") + line.file;
+    for (const QString &file : line.files)
+        parts << QStringLiteral("file=") + file;
     add("d", line.destination);
     if (line.copies)
         parts << QStringLiteral("n=%1").arg(*line.copies);
@@ -66,7 +66,8 @@ void TestCommandLine::takesEveryForm_data()
 
     row("nothing", {}, "");
     row("a document", {"a.pdf"}, "file=a.pdf");
-    row("standard input", {"-"}, "");
+    row("standard input", {"-"}, "file=-");
+    row("several documents", {"b.pdf", "-n2", "-", "a.pdf"}, "file=b.pdf file=- file=a.pdf n=2");
     row("value beside", {"-d", "Hall-3"}, "d=Hall-3");
     row("value joined", {"-dHall-3"}, "d=Hall-3");
     row("document first", {"a.pdf", "-n2"}, "file=a.pdf n=2");
@@ -167,7 +168,9 @@ void TestCommandLine::refusesWrongLines_data()
     row("secret with a blank name", {"--secret", "a b=f"},
         "--secret: a secret’s name has only letters, digits, - and _");
     row("secret twice", {"--secret=a=f", "--secret=a=g"}, "--secret: the secret a is given twice");
-    row("two documents", {"a", "b"}, "b: only one document is printed at a time");
+    row("standard input twice", {"-", "a", "-"}, "-: standard input can be read only once");
+    row("two readers of the input", {"a", "-", "--script", "-"},
+        "--script -: standard input is the document already; name one of them as a file");
     row("two devices", {"--demo", "--ppd", "x"},
         "--demo: it brings a device of its own; leave out --ppd");
     row("a queue and a device without one", {"-d", "q", "--ppd", "x"},
@@ -224,7 +227,7 @@ void TestCommandLine::findsTheDocument_data()
     const Table<QStringList, Origin, Origin, Origin> row{"arguments", "terminal", "nothing",
                                                          "data"};
 
-    row("named", {"a.pdf"}, Origin::File, Origin::File, Origin::File);
+    row("named", {"a.pdf"}, Origin::Files, Origin::Files, Origin::Files);
     row("none named", {}, Origin::Chooser, Origin::Chooser, Origin::StandardInput);
     row("none named, none to ask", {"--no-window"}, Origin::Missing, Origin::StandardInput,
         Origin::StandardInput);

@@ -192,7 +192,8 @@ DialogOptions TestPrintDialog::options(const QString &device)
     DialogOptions options;
     options.session.printer.device = PpdFile::open(samplePpd(device)).value();
     options.session.bundle = m_testBundle;
-    options.session.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
+    options.session.documents.sources = {
+        DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}}};
     options.plan.elsewhere = folderDestination(m_folder->filePath(QStringLiteral("job")));
     return options;
 }
@@ -239,7 +240,7 @@ void TestPrintDialog::theChosenDocumentIsOpened()
     QCOMPARE(chooser->result(), int(QDialog::Accepted));
 
     auto begin = options();
-    begin.session.document->path = chooser->selectedFiles().value(0);
+    begin.session.documents.sources.front().path = chooser->selectedFiles().value(0);
     Shown shown(begin);
     QVERIFY(shown.waitUntilIdle());
     QVERIFY2(shown.text("summary").startsWith("3 pages"), qPrintable(shown.text("summary")));
@@ -630,7 +631,7 @@ void TestPrintDialog::theDesktopTellsThatAJobIsOut()
     NotificationService desktop;
     QCOMPARE(desktop.start(), QString());
     auto begin = queueOptions();
-    begin.session.document->title = "Profit & loss";
+    begin.session.documents.title = "Profit & loss";
     {
         Shown shown(begin, false);
         QVERIFY(shown.waitUntilIdle());
