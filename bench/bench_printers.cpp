@@ -4,7 +4,7 @@
 #include "processes.h"
 
 #include "popup_button.h"
-#include "printer_list.h"
+#include "printer_chooser.h"
 #include "private_cups.h"
 
 #include <QApplication>
@@ -75,7 +75,7 @@ struct Listed
         }
         popup.setMenu(menu);
         popup.setOwnList([printers](PopupButton *button) {
-            auto *list = new PrinterList(button);
+            auto *list = new PrinterChooser(button);
             list->setPrinters(printers, nameOf(0));
             return list;
         });

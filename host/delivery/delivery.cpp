@@ -350,7 +350,7 @@ void addOption(ipp_t *request, const JobOption &option)
     // noNAME, and not as the PPD's choice.
     const bool isFlag = value.compare("true", Qt::CaseInsensitive) == 0
         || value.compare("false", Qt::CaseInsensitive) == 0;
-    if (isFlag)
+    if (isFlag || option.isText)
         ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.constData(), nullptr,
                      value.constData());
     else

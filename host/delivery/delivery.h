@@ -24,6 +24,8 @@ namespace kelvo {
 struct JobOption
 {
     QString name, value;
+    // It goes as a text, whatever IPP has for that name: what hands it on takes it for that.
+    bool isText = false;
     friend bool operator==(const JobOption &, const JobOption &) = default;
 };
 

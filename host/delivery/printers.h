@@ -54,7 +54,8 @@ signals:
     void
     printersFound(const QList<kelvo::Printer> &printers); // the default one first, see refresh()
     void printersFailed(const kelvo::Error &error);
-    // Opened already. For a class of printers, that of its first member.
+    // Opened already. For a class of printers, that of its first member; for a queue without one, a
+    // PPD made of what its printer says over IPP.
     void ppdFetched(const QString &printer, const std::shared_ptr<kelvo::PpdFile> &ppd);
     void ppdUnreadable(const QString &printer, const kelvo::Error &error); // why PpdFile refused it
     void ppdFailed(const QString &printer, const kelvo::Error &error);     // NotFound: it has none

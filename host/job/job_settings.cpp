@@ -1,9 +1,11 @@
 #include "job_settings.h"
 
 #include "device_offers.h"
+#include "ipp_options.h"
 #include "job_timing.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "standard_words.h"
 #include "texts.h"
 #include "ticket_layers.h"
 #include "values.h"
@@ -321,7 +323,9 @@ Result<TicketPlaces> applyMedia(const Request &request)
             continue;
         }
         for (const PpdOption *option : others) {
-            const auto choice = option ? findChoiceName(part, *option) : std::nullopt;
+            auto choice = option ? findChoiceName(part, *option) : std::nullopt;
+            if (option && !choice) // "tray-2", as IPP has it
+                choice = findChoiceName(ppdName(part), *option);
             if (!choice)
                 continue;
             choices.insert(option->keyword, *choice);
@@ -603,6 +607,108 @@ constexpr OptionRow optionRows[] = {
     {kJobHoldUntilOption, applyHoldUntil},
 };
 
+// What IPP's values are called in PPDs of makers.
+constexpr WordRow makersRows[] = {
+    {"monochrome", "Gray"}, {"monochrome", "KGray"}, {"monochrome", "Grayscale"},
+    {"monochrome", "Mono"}, {"monochrome", "Black"}, {"color", "RGB"},
+    {"color", "CMYK"},      {"color", "Color"},      {"3", "Draft"},
+    {"4", "Normal"},        {"5", "High"},
+};
+
+// The choice that says what `value` says of an attribute of IPP, as it is written there.
+std::optional<QString> findIppChoice(const QString &attribute, const QString &value,
+                                     const PpdOption &option, const PpdFile &ppd)
+{
+    const QString word = value.toLower();
+    for (const PpdChoice &choice : option.choices) {
+        if (isMadeOfIpp(&ppd) && ppd.code(option.keyword, choice.keyword).toLower() == word)
+            return choice.keyword;
+    }
+    QStringList names{choiceOfIpp(attribute, word)};
+    for (const WordRow &row : makersRows) {
+        if (word == QLatin1String(row.word))
+            names << QLatin1String(row.choice);
+    }
+    for (const QString &name : names) {
+        if (const auto choice = findChoiceName(name, option))
+            return choice;
+    }
+    return std::nullopt;
+}
+
+Error lacksOption(const Request &request)
+{
+    return request.error(Code::NotFound,
+                         translate("Job", "this printer does not have this option"));
+}
+
+// A finishing's number, where the print server has written into its PPD what that is.
+std::optional<std::pair<QString, QString>> finishingOfNumber(const QString &number,
+                                                             const PpdFile &ppd)
+{
+    // "*StapleLocation SinglePortrait"
+    const QString rule = ppd.attribute("cupsIPPFinishings", number).value_or(QString()).trimmed();
+    const QString option = rule.section(u' ', 0, 0).mid(1);
+    const QString choice = rule.section(u' ', 1, 1);
+    if (!rule.startsWith(u'*') || !offers(ppd, option, choice))
+        return std::nullopt;
+    return std::pair(option, choice);
+}
+
+// "finishings=4,20": each belongs to an option of its own kind.
+Result<TicketPlaces> applyFinishings(const Request &request)
+{
+    std::vector<const PpdOption *> options;
+    for (const QString &name : finishingOptions()) {
+        if (const PpdOption *option = request.ppd->findOption(name))
+            options.push_back(option);
+    }
+    if (options.empty())
+        return lacksOption(request);
+    PpdSelection choices;
+    for (const PpdOption *option : options) // the list is all that is done
+        choices.insert(option->keyword, QStringLiteral("None"));
+    QStringList known{QStringLiteral("none")};
+    for (const QString &value : request.value.split(u',')) {
+        bool isFound = value == QLatin1String("none") || value == QLatin1String("3");
+        if (const auto finishing = finishingOfNumber(value, *request.ppd)) {
+            choices.insert(finishing->first, finishing->second);
+            isFound = true;
+        }
+        for (const PpdOption *option : options) {
+            known << choiceNames(*option).mid(1);
+            const auto choice =
+                isFound ? std::nullopt : findIppChoice(request.name, value, *option, *request.ppd);
+            if (!choice)
+                continue;
+            choices.insert(option->keyword, *choice);
+            isFound = true;
+        }
+        if (!isFound)
+            return request.error(
+                Code::NotFound,
+                nearestOrAll(translate("Job", "there is no such value"), value, known));
+    }
+    TicketPlaces places;
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
+        places.merge(request.choose(choice.key(), *choice));
+    return places;
+}
+
+// An attribute of IPP: what the PPD has for it.
+Result<TicketPlaces> applyIpp(const Request &request)
+{
+    if (request.name.compare(QLatin1String("finishings"), Qt::CaseInsensitive) == 0)
+        return applyFinishings(request);
+    const PpdOption *option = request.ppd->findOption(optionOfIpp(request.name));
+    if (!option)
+        return lacksOption(request);
+    const auto choice = findIppChoice(request.name.toLower(), request.value, *option, *request.ppd);
+    if (!choice)
+        return request.unknownValue(choiceNames(*option));
+    return request.choose(option->keyword, *choice);
+}
+
 PageLayout layoutFrom(const Ticket &print)
 {
     PageLayout layout;
@@ -788,8 +894,12 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd)
 Result<TicketPlaces> applyOption(const AskedOption &asked, const PpdFile *ppd,
                                  PrintSession &session)
 {
-    const OptionValue meant = meaningOf(asked, [ppd](const QString &name) {
-        return findRow(optionRows, name, &OptionRow::name) || findOptionInAnyCase(name, ppd);
+    const auto isOfIpp = [ppd](const QString &name) {
+        return ppd && ippAttributes().contains(name, Qt::CaseInsensitive);
+    };
+    const OptionValue meant = meaningOf(asked, [&](const QString &name) {
+        return findRow(optionRows, name, &OptionRow::name) || findOptionInAnyCase(name, ppd)
+            || isOfIpp(name);
     });
     const Request request{asked, meant.name, meant.value, ppd, session};
     const OptionRow *row = findRow(optionRows, request.name, &OptionRow::name);
@@ -807,6 +917,8 @@ Result<TicketPlaces> applyOption(const AskedOption &asked, const PpdFile *ppd,
             applied.value().merge(places);
         return applied;
     }
+    if (isOfIpp(request.name))
+        return applyIpp(request);
 
     QStringList known = words(optionRows, &OptionRow::name);
     if (ppd) {

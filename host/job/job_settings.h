@@ -80,6 +80,9 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 //   print-scaling=auto|auto-fit|fit|fill|none   scaling=1…800   fit-to-page=true|false
 //   number-up=1|2|4|6|9|16   number-up-layout=lrtb|lrbt|…   page-border=none|single
 //   page-set=all|odd|even   outputorder=normal|reverse
+//   print-color-mode, print-quality, media-source, media-type, output-bin, printer-resolution,
+//   print-content-optimize, finishing-template and finishings, with IPP's values: the option of
+//   the PPD that says the same (ipp_options.h)
 //   job-priority=1…100   job-hold-until=WORD|HH:MM[:SS]   see job_timing.h
 //
 // A name alone means what meaningOf() says. true is also written on and yes, false also off and no,

@@ -29,8 +29,10 @@ class DialogSession : public QObject
     Q_OBJECT
 
 public:
-    // `panels` are the bundle's and borrowed; null: none.
-    DialogSession(SessionBeginning beginning, DevicePanels *panels, QObject *parent = nullptr);
+    // Both borrowed: `panels` are the bundle's, `options` the host's own, for devices that those
+    // are not made for. Null: none.
+    DialogSession(SessionBeginning beginning, DevicePanels *panels, DevicePanels *options = nullptr,
+                  QObject *parent = nullptr);
     ~DialogSession() override;
 
     void start(); // the search; the document is no part of it
@@ -46,7 +48,8 @@ public:
         Ready,     // tickets are there, and panels when the device has some
     };
     Stage stage() const;
-    const SessionMessage &message() const; // while there are no panels to show
+    // While there are no panels to show; of the host's own, only why they are, where that is news.
+    const SessionMessage &message() const;
 
     const PrinterSearch &search() const { return m_search; }
     void lookAtPrinter() { m_search.look(); }
@@ -61,7 +64,8 @@ public:
     const DocumentOpening &document() const { return m_documents.shown(); }
     SessionJob &job() { return m_job; } // Stage::Ready
     const SessionJob &job() const { return m_job; }
-    bool hasPanels() const { return m_panels && m_panels->isBegun(); }
+    bool hasPanels() const { return m_panels && m_panels->isBegun(); }    // the device's
+    bool hasOptions() const { return m_options && m_options->isBegun(); } // the host's own
 
 signals:
     void printersChanged();
@@ -81,11 +85,12 @@ private:
     void beginPanels();
     QString whyNoPanels();
     QString whyPanelsDidNotBegin(const Error &error) const;
+    bool isOfAnotherMaker() const;
     void endPanels();
 
     Bundle *m_bundle;
     QString m_bundleProblem;
-    DevicePanels *m_panels;
+    DevicePanels *const m_panels, *const m_options;
     std::optional<Result<void>> m_panelsLoaded; // once, when they are first needed
     SessionMessage m_message;                   // of Stage::Ready
     PrinterSearch m_search;

@@ -1,5 +1,6 @@
 #include "session_job.h"
 
+#include "ipp_options.h"
 #include "job_words.h"
 #include "page_ranges.h"
 #include "ppd_words.h"
@@ -161,6 +162,11 @@ TicketFile SessionJob::queueDefaults()
     for (const bool ofPpd : {false, true}) {
         for (auto option = defaults.cbegin(); option != defaults.cend(); ++option) {
             if ((ppd() && ppd()->findOption(option.key())) != ofPpd)
+                continue;
+            // cupsd has a default for some of these also where nobody has set one, and says "black
+            // and white" of a queue that it knows nothing of.
+            if (!ofPpd && option.key() != QLatin1String("sides")
+                && ippAttributes().contains(option.key()))
                 continue;
             // Most of what the server lists is no setting of a job: passed over.
             static_cast<void>(bool(applyOption({option.key(), option.value()}, ppd(), *m_session)));

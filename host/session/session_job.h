@@ -46,6 +46,9 @@ public:
     // read and write them. Null for both: none.
     SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObject *parent = nullptr);
 
+    // Others than those it was made with: before settle(), for the device that is begun.
+    void setPanels(DevicePanels *panels) { m_panels = panels; }
+
     struct Device
     {
         QString name;                    // of the queue, or the device without one

@@ -7,6 +7,7 @@
 #include "document_bar.h"
 #include "document_preview.h"
 #include "focus_regions.h"
+#include "options_pane.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "printer_pane.h"
@@ -64,6 +65,7 @@ DialogParts::DialogParts(QWidget *window)
     , stack(new QStackedWidget)
     , waiting(new WaitingPane(stack))
     , panes(new QWidget(stack))
+    , options(new OptionsPane(stack))
     , cautionBar(new CautionBar(window))
     , foot(new DialogFoot(columns->toggle(), window))
     , m_window(window)
@@ -79,6 +81,7 @@ DialogParts::DialogParts(QWidget *window)
     panesLayout->setContentsMargins(0, 0, 0, 0);
     stack->addWidget(waiting);
     stack->addWidget(panes);
+    stack->addWidget(options);
     scroll->setWidget(stack);
 
     auto *layout = new QVBoxLayout(window);
@@ -123,6 +126,8 @@ void DialogParts::fitToPanels()
 // A pane has a layout from when its panel's content is put into it.
 bool DialogParts::arePanelsBuilt() const
 {
+    if (!options->isBuilt())
+        return false;
     const auto shown = scroll->findChildren<QWidget *>();
     return std::all_of(shown.cbegin(), shown.cend(), [](const QWidget *pane) {
         const auto id = controlIDOf(pane);

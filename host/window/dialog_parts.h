@@ -14,6 +14,7 @@ class CautionBar;
 class DialogFoot;
 class DocumentBar;
 class DocumentPreview;
+class OptionsPane;
 class PaneScroll;
 class PanelSwitch;
 class PrinterPane;
@@ -35,9 +36,10 @@ public:
     WindowColumns *const columns;
     PanelSwitch *const panelSwitch;
     PaneScroll *const scroll;
-    QStackedWidget *const stack; // the waiting pane, or the panels
+    QStackedWidget *const stack; // the waiting pane, the panels, or the host's own
     WaitingPane *const waiting;
     QWidget *const panes; // parent of the device's panels
+    OptionsPane *const options;
     CautionBar *const cautionBar;
     DialogFoot *const foot;
     PrinterPane *printer = nullptr;

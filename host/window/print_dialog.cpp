@@ -14,6 +14,7 @@
 #include "job_timing_dialog.h"
 #include "modal_dialog.h"
 #include "notice.h"
+#include "options_pane.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "password_dialog.h"
@@ -67,7 +68,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     , m_places(this, m_parts.panelSwitch)
     , m_bundle(options.session.bundle)
     , m_extension(m_bundle ? std::make_unique<Extension>(m_bundle, m_parts.panes) : nullptr)
-    , m_session(std::make_unique<DialogSession>(std::move(options.session), m_extension.get()))
+    , m_session(std::make_unique<DialogSession>(std::move(options.session), m_extension.get(),
+                                                m_parts.options))
     , m_cautions(*m_session, m_session->search().hasQueue() && !options.plan.elsewhere,
                  [this] { return place(); })
     , m_flow(*m_session, m_cautions, std::move(options.plan))
@@ -176,6 +178,10 @@ PrintDialog::PrintDialog(DialogOptions options)
         m_parts.printer->setPageInSight(std::max(1, m_parts.preview->pageInSight()));
     });
     connect(m_parts.panelSwitch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
+    connect(m_parts.options, &OptionsPane::built, this, [this] {
+        m_parts.arrangeTabOrder();
+        m_look.start(); // conflicts are marked there, too
+    });
     connect(m_parts.waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_parts.foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
@@ -297,8 +303,14 @@ void PrintDialog::takeStage()
 {
     Extension *shown = panels();
     m_parts.noteReady();
-    m_parts.waiting->setMessage(m_session->message());
-    m_parts.stack->setCurrentWidget(shown ? m_parts.panes : m_parts.waiting);
+    const bool hasOptions = isReady() && m_session->hasOptions();
+    if (hasOptions)
+        m_parts.options->setNote(m_session->message().text);
+    else
+        m_parts.waiting->setMessage(m_session->message());
+    m_parts.stack->setCurrentWidget(shown            ? m_parts.panes
+                                        : hasOptions ? static_cast<QWidget *>(m_parts.options)
+                                                     : m_parts.waiting);
     if (shown)
         m_places.goTo(m_place, *shown);
     m_places.showSwitch(shown);
@@ -477,7 +489,9 @@ void PrintDialog::lookAtSettings()
     m_cautions.look();
     if (m_isDriven)
         m_cautions.sayWhatHappened();
-    m_parts.cautionBar->setContents(m_session->job().conflicts(), m_cautions.all());
+    const ConflictReport conflicts = m_session->job().conflicts();
+    m_parts.cautionBar->setContents(conflicts, m_cautions.all());
+    m_parts.options->setConflicts(conflicts.options());
     showWhatFollows();
 }
 
@@ -553,7 +567,9 @@ void PrintDialog::showHelp()
     event.kind = EventKind::Command;
     event.command = fourCharCode("help");
     event.source = this;
-    if (const Extension *shown = panels(); shown && shown->shownPanel() >= 0)
+    if (m_session->hasOptions())
+        event.source = m_parts.options;
+    else if (const Extension *shown = panels(); shown && shown->shownPanel() >= 0)
         event.source = shown->panels()[static_cast<std::size_t>(shown->shownPanel())].pane;
     if (sendEvent(event) == eventNotHandledErr)
         kelvo::showHelp(helpPageOf(event.source), this);

@@ -6,7 +6,7 @@
 #include "mnemonics.h"
 #include "popup_button.h"
 #include "preset_menu.h"
-#include "printer_list.h"
+#include "printer_chooser.h"
 #include "printer_words.h"
 #include "spin_field.h"
 #include "texts.h"
@@ -210,12 +210,12 @@ void PrinterPane::focusPages()
     m_pages->selectAll();
 }
 
-PrinterList *PrinterPane::makePrinterList()
+PrinterChooser *PrinterPane::makePrinterChooser()
 {
-    m_printerList = new PrinterList(m_printer);
-    m_printerList->setPrinters(m_printers, m_chosenPrinter);
-    connect(m_printerList, &PopupList::opened, this, &PrinterPane::printersListed);
-    return m_printerList;
+    m_printerChooser = new PrinterChooser(m_printer);
+    m_printerChooser->setPrinters(m_printers, m_chosenPrinter);
+    connect(m_printerChooser, &PopupList::opened, this, &PrinterPane::printersListed);
+    return m_printerChooser;
 }
 
 bool PrinterPane::arePrintersListed() const
@@ -253,9 +253,9 @@ void PrinterPane::setPrinters(const QList<Printer> &printers, const QString &cho
         m_printer->setValue(0);
     setEnabledWithLabel(m_printer, !printers.isEmpty());
     if (!m_printer->hasOwnList())
-        m_printer->setOwnList([this](PopupButton *) { return makePrinterList(); });
-    if (m_printerList)
-        m_printerList->setPrinters(printers, chosen);
+        m_printer->setOwnList([this](PopupButton *) { return makePrinterChooser(); });
+    if (m_printerChooser)
+        m_printerChooser->setPrinters(printers, chosen);
 }
 
 void PrinterPane::setDevice(const QString &name)
@@ -263,7 +263,7 @@ void PrinterPane::setDevice(const QString &name)
     Menu menu;
     menu.items.push_back({.text = name, .key = name});
     m_printer->setOwnList({});
-    m_printerList = nullptr;
+    m_printerChooser = nullptr;
     m_printer->setMenu(std::move(menu));
     m_printer->setValue(1);
     setEnabledWithLabel(m_printer, true);

@@ -19,7 +19,7 @@ namespace kelvo {
 class LayoutRows;
 class PopupButton;
 class PresetMenu;
-class PrinterList;
+class PrinterChooser;
 class SpinField;
 
 // The host's own controls: printer, preset, copies, pages, paper. It shows what
@@ -70,11 +70,11 @@ private:
     void showPageField();
     void colour();
     void fitToFont();
-    PrinterList *makePrinterList();
+    PrinterChooser *makePrinterChooser();
 
     PresetMenu *m_presets;
     PopupButton *m_printer;
-    PrinterList *m_printerList = nullptr; // null: not opened yet
+    PrinterChooser *m_printerChooser = nullptr; // null: not opened yet
     QList<Printer> m_printers;
     QString m_chosenPrinter;
     SpinField *m_copies;

@@ -3,6 +3,7 @@
 #include "caution_colours.h"
 #include "printer_list_model.h"
 #include "printer_words.h"
+#include "texts.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -72,7 +73,7 @@ private:
     void paintFirstLine(QRect line)
     {
         const QString state = printerConditionText(m_printer);
-        const QString word = m_printer.isDefault ? tr("default") : QString();
+        const QString word = m_printer.isDefault ? translate("Printers", "default") : QString();
         const int nameWidth = m_bigMetrics.horizontalAdvance(m_printer.name) + 1;
         const int wordWidth =
             word.isEmpty() ? 0 : m_smallMetrics.horizontalAdvance(word) + gap + 2 * gap / 2;
@@ -93,8 +94,6 @@ private:
             paintLabel(QRect(line.right() + 1 + gap, line.top(), wordWidth - gap, line.height()),
                        word);
     }
-
-    static QString tr(const char *word) { return QCoreApplication::translate("Printers", word); }
 
     QRect shown(const QRect &logical) const
     {

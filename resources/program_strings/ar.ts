@@ -1452,6 +1452,14 @@ document.pdf وoptions وticket.plist،
         <translation>اختر صفحات أقل في الورقة، أو دع الصفحات تُصغَّر لتلائم مواضعها.</translation>
     </message>
     <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>المزيد</translation>
+    </message>
+    <message>
         <source>On the server: held %1</source>
         <translation>على الخادم: معلَّقة %1</translation>
     </message>
@@ -2166,6 +2174,713 @@ document.pdf وoptions وticket.plist،
     </message>
 </context>
 <context>
+    <name>StandardWords</name>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>الطباعة على الوجهين</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>الألوان</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>مصدر الورق</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>نوع الورق</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>حجم الورق</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>جودة الطباعة</translation>
+    </message>
+    <message>
+        <source>Output destination</source>
+        <translation>وجهة الإخراج</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>الدقة</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>تحسين من أجل</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>التدبيس</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>التثقيب</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>الطي</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>القص</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>التجليد</translation>
+    </message>
+    <message>
+        <source>Other finishing</source>
+        <translation>تشطيب آخر</translation>
+    </message>
+    <message>
+        <source>Finishing preset</source>
+        <translation>إعداد تشطيب مسبق</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>التشطيب</translation>
+    </message>
+    <message>
+        <source>1-sided print</source>
+        <translation>وجه واحد</translation>
+    </message>
+    <message>
+        <source>2-sided print</source>
+        <translation>وجهان</translation>
+    </message>
+    <message>
+        <source>2-sided print, flip on short edge</source>
+        <translation>وجهان، القلب على الحافة القصيرة</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>أسود وأبيض</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>تلقائي، أسود وأبيض</translation>
+    </message>
+    <message>
+        <source>Black only, no shades</source>
+        <translation>أسود فقط دون تدرّج</translation>
+    </message>
+    <message>
+        <source>Black and one color</source>
+        <translation>أسود ولون واحد</translation>
+    </message>
+    <message>
+        <source>Black only, mixed from colors</source>
+        <translation>أسود فقط ممزوج من الألوان</translation>
+    </message>
+    <message>
+        <source>Black and white, mixed from colors</source>
+        <translation>أسود وأبيض ممزوج من الألوان</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>ألوان (CMYK)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>مسودة</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>عادية</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>عالية</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>الدرج الرئيسي</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>الدرج البديل</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>اللفة البديلة</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>درج التغذية اليدوية</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>تغذية يدوية</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>الدرج العلوي</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>الدرج الأوسط</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>الدرج السفلي</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>الدرج الأيسر</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>الدرج الأيمن</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>الدرج المركزي</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>الدرج الخلفي</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>الدرج الجانبي</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>درج الأقراص</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>تغذية المظاريف</translation>
+    </message>
+    <message>
+        <source>High-capacity tray</source>
+        <translation>درج السعة الكبيرة</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>اللفة الرئيسية</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>درج الصور</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>الدرج %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>اللفة %1</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>أي نوع</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>نوع آخر</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>ورق عادي</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>ورق رقيق</translation>
+    </message>
+    <message>
+        <source>Thick paper</source>
+        <translation>ورق سميك</translation>
+    </message>
+    <message>
+        <source>Thick coated paper</source>
+        <translation>ورق سميك مطلي</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>ورق مطلي</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>ورق نفث حبر</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>ورق فاخر</translation>
+    </message>
+    <message>
+        <source>Bond paper</source>
+        <translation>ورق سندات</translation>
+    </message>
+    <message>
+        <source>Recycled paper</source>
+        <translation>ورق معاد تدويره</translation>
+    </message>
+    <message>
+        <source>Colored paper</source>
+        <translation>ورق ملوّن</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>ورق ذو ترويسة</translation>
+    </message>
+    <message>
+        <source>Preprinted paper</source>
+        <translation>ورق مطبوع مسبقًا</translation>
+    </message>
+    <message>
+        <source>Prepunched paper</source>
+        <translation>ورق مثقوب مسبقًا</translation>
+    </message>
+    <message>
+        <source>Cotton paper</source>
+        <translation>ورق قطني</translation>
+    </message>
+    <message>
+        <source>Archival paper</source>
+        <translation>ورق أرشيفي</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>ورق مقوّى</translation>
+    </message>
+    <message>
+        <source>Cardboard</source>
+        <translation>كرتون</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>ورق متصل</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>قرص</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>مظروف</translation>
+    </message>
+    <message>
+        <source>Plain envelope</source>
+        <translation>مظروف عادي</translation>
+    </message>
+    <message>
+        <source>Window envelope</source>
+        <translation>مظروف بنافذة</translation>
+    </message>
+    <message>
+        <source>Fabric</source>
+        <translation>قماش</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>فيلم</translation>
+    </message>
+    <message>
+        <source>Back-print film</source>
+        <translation>فيلم للطباعة الخلفية</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>شفافية</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ملصقات</translation>
+    </message>
+    <message>
+        <source>Continuous labels</source>
+        <translation>ملصقات متصلة</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>ورق صور</translation>
+    </message>
+    <message>
+        <source>Photo paper, glossy</source>
+        <translation>ورق صور لامع</translation>
+    </message>
+    <message>
+        <source>Photo paper, high gloss</source>
+        <translation>ورق صور شديد اللمعان</translation>
+    </message>
+    <message>
+        <source>Photo paper, matte</source>
+        <translation>ورق صور مطفأ</translation>
+    </message>
+    <message>
+        <source>Photo paper, satin</source>
+        <translation>ورق صور ساتان</translation>
+    </message>
+    <message>
+        <source>Photo paper, semi-gloss</source>
+        <translation>ورق صور نصف لامع</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>فيلم صور</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>ورق فواصل</translation>
+    </message>
+    <message>
+        <source>Precut tabs</source>
+        <translation>فواصل مقطوعة مسبقًا</translation>
+    </message>
+    <message>
+        <source>Fanfold paper</source>
+        <translation>ورق متصل مطوي</translation>
+    </message>
+    <message>
+        <source>Multi-part form</source>
+        <translation>نموذج متعدد الطبقات</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>الوجه إلى أعلى</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>الوجه إلى أسفل</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>صندوق بريدي</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>صندوق البريد %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>المكدّس %1</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>الرسومات</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>الصور</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>النص</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>النص والرسومات</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>دبوس واحد</translation>
+    </message>
+    <message>
+        <source>1 staple, top left</source>
+        <translation>دبوس واحد، أعلى اليسار</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom left</source>
+        <translation>دبوس واحد، أسفل اليسار</translation>
+    </message>
+    <message>
+        <source>1 staple, top right</source>
+        <translation>دبوس واحد، أعلى اليمين</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom right</source>
+        <translation>دبوس واحد، أسفل اليمين</translation>
+    </message>
+    <message>
+        <source>Along an edge</source>
+        <translation>على طول حافة</translation>
+    </message>
+    <message>
+        <source>Along the left edge</source>
+        <translation>على طول الحافة اليسرى</translation>
+    </message>
+    <message>
+        <source>Along the top edge</source>
+        <translation>على طول الحافة العليا</translation>
+    </message>
+    <message>
+        <source>Along the right edge</source>
+        <translation>على طول الحافة اليمنى</translation>
+    </message>
+    <message>
+        <source>Along the bottom edge</source>
+        <translation>على طول الحافة السفلى</translation>
+    </message>
+    <message>
+        <source>Through the fold</source>
+        <translation>عبر الطية</translation>
+    </message>
+    <message>
+        <source>2 staples, left</source>
+        <translation>دبوسان، اليسار</translation>
+    </message>
+    <message>
+        <source>2 staples, top</source>
+        <translation>دبوسان، الأعلى</translation>
+    </message>
+    <message>
+        <source>2 staples, right</source>
+        <translation>دبوسان، اليمين</translation>
+    </message>
+    <message>
+        <source>2 staples, bottom</source>
+        <translation>دبوسان، الأسفل</translation>
+    </message>
+    <message>
+        <source>3 staples, left</source>
+        <translation>ثلاثة دبابيس، اليسار</translation>
+    </message>
+    <message>
+        <source>3 staples, top</source>
+        <translation>ثلاثة دبابيس، الأعلى</translation>
+    </message>
+    <message>
+        <source>3 staples, right</source>
+        <translation>ثلاثة دبابيس، اليمين</translation>
+    </message>
+    <message>
+        <source>3 staples, bottom</source>
+        <translation>ثلاثة دبابيس، الأسفل</translation>
+    </message>
+    <message>
+        <source>Holes</source>
+        <translation>ثقوب</translation>
+    </message>
+    <message>
+        <source>2 holes, left</source>
+        <translation>ثقبان، اليسار</translation>
+    </message>
+    <message>
+        <source>2 holes, top</source>
+        <translation>ثقبان، الأعلى</translation>
+    </message>
+    <message>
+        <source>2 holes, right</source>
+        <translation>ثقبان، اليمين</translation>
+    </message>
+    <message>
+        <source>2 holes, bottom</source>
+        <translation>ثقبان، الأسفل</translation>
+    </message>
+    <message>
+        <source>3 holes, left</source>
+        <translation>ثلاثة ثقوب، اليسار</translation>
+    </message>
+    <message>
+        <source>3 holes, top</source>
+        <translation>ثلاثة ثقوب، الأعلى</translation>
+    </message>
+    <message>
+        <source>3 holes, right</source>
+        <translation>ثلاثة ثقوب، اليمين</translation>
+    </message>
+    <message>
+        <source>3 holes, bottom</source>
+        <translation>ثلاثة ثقوب، الأسفل</translation>
+    </message>
+    <message>
+        <source>4 holes, left</source>
+        <translation>أربعة ثقوب، اليسار</translation>
+    </message>
+    <message>
+        <source>4 holes, top</source>
+        <translation>أربعة ثقوب، الأعلى</translation>
+    </message>
+    <message>
+        <source>4 holes, right</source>
+        <translation>أربعة ثقوب، اليمين</translation>
+    </message>
+    <message>
+        <source>4 holes, bottom</source>
+        <translation>أربعة ثقوب، الأسفل</translation>
+    </message>
+    <message>
+        <source>Many holes, left</source>
+        <translation>ثقوب كثيرة، اليسار</translation>
+    </message>
+    <message>
+        <source>Many holes, top</source>
+        <translation>ثقوب كثيرة، الأعلى</translation>
+    </message>
+    <message>
+        <source>Many holes, right</source>
+        <translation>ثقوب كثيرة، اليمين</translation>
+    </message>
+    <message>
+        <source>Many holes, bottom</source>
+        <translation>ثقوب كثيرة، الأسفل</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>طي</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>طي أكورديون</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>طي بوابة مزدوج</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>طي هندسي على شكل Z</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>طي بوابة</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>طي نصفي</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>طي Z نصفي</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>طي بوابة أيسر</translation>
+    </message>
+    <message>
+        <source>C fold</source>
+        <translation>طي على شكل C</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>طي متوازٍ</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>طي ملصق</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>طي بوابة أيمن</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>طي على شكل Z</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>بعد كل صفحة</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>بعد كل مستند</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>بعد كل نسخة</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>بعد المهمة</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>تجليد</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>الحافة اليسرى</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>الحافة العليا</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>الحافة اليمنى</translation>
+    </message>
+    <message>
+        <source>Bottom edge</source>
+        <translation>الحافة السفلى</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>غلاف</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>حزم</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>كتيّب</translation>
+    </message>
+    <message>
+        <source>Offset each set</source>
+        <translation>إزاحة كل مجموعة</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>طلاء</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>تغليف بلاستيكي</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1، دون هوامش</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>&#x2066;%1 × %2&#x2069; مم</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>&#x2066;%1 × %2&#x2069; بوصة</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>مظروف %1</translation>
+    </message>
+    <message>
+        <source>Index card %1</source>
+        <translation>بطاقة فهرسة %1</translation>
+    </message>
+    <message>
+        <source>Photo %1</source>
+        <translation>صورة %1</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>بطاقة بريدية</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>بطاقة بريدية مزدوجة</translation>
+    </message>
+</context>
+<context>
     <name>Watermark</name>
     <message>
         <source>the system has no thread to read it on; close programs and choose it again</source>
@@ -2651,6 +3366,33 @@ document.pdf وoptions وticket.plist،
     </message>
 </context>
 <context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>خيارات الطابعة</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>ليس لهذه الطابعة خيارات خاصة بها.</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1 (غير متاح)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>لا يمكن استخدامه مع إعدادات أخرى</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>لا تتيح تجهيزات الطابعة خيارًا آخر</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::PresetMenu</name>
     <message>
         <source>Default settings</source>
@@ -3012,7 +3754,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
+    <name>kelvo::PrinterChooser</name>
     <message>
         <source>Printers</source>
         <translation>الطابعات</translation>

@@ -1930,6 +1930,14 @@ HH:MM (UTC), evening und andere wie bei lp</translation>
         <translation>Wählen Sie weniger Seiten pro Blatt, oder lassen Sie die Seiten einpassen.</translation>
     </message>
     <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Weitere</translation>
+    </message>
+    <message>
         <source>On the server: held %1</source>
         <translation>Auf dem Server: angehalten %1</translation>
     </message>
@@ -3078,6 +3086,713 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
 </context>
 <context>
+    <name>StandardWords</name>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>Beidseitiger Druck</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Papierquelle</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Papiersorte</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>Druckqualität</translation>
+    </message>
+    <message>
+        <source>Output destination</source>
+        <translation>Ausgabeziel</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>Optimieren für</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>Heften</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>Binden</translation>
+    </message>
+    <message>
+        <source>Other finishing</source>
+        <translation>Weitere Verarbeitung</translation>
+    </message>
+    <message>
+        <source>Finishing preset</source>
+        <translation>Vorlage für die Weiterverarbeitung</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Weiterverarbeitung</translation>
+    </message>
+    <message>
+        <source>1-sided print</source>
+        <translation>Einseitig</translation>
+    </message>
+    <message>
+        <source>2-sided print</source>
+        <translation>Beidseitig</translation>
+    </message>
+    <message>
+        <source>2-sided print, flip on short edge</source>
+        <translation>Beidseitig, über die kurze Kante wenden</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>Automatisch, Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Black only, no shades</source>
+        <translation>Nur Schwarz, ohne Graustufen</translation>
+    </message>
+    <message>
+        <source>Black and one color</source>
+        <translation>Schwarz und eine Farbe</translation>
+    </message>
+    <message>
+        <source>Black only, mixed from colors</source>
+        <translation>Nur Schwarz, aus Farben gemischt</translation>
+    </message>
+    <message>
+        <source>Black and white, mixed from colors</source>
+        <translation>Schwarzweiß, aus Farben gemischt</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>Farbe (CMYK)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Alternatives Fach</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>Alternative Rolle</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Zusatzzufuhr</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Manuelle Zufuhr</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>Oberes Fach</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Mittleres Fach</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>Unteres Fach</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Linkes Fach</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Rechtes Fach</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Zentrales Fach</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Hinteres Fach</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Seitliches Fach</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Disc-Fach</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>Umschlagzufuhr</translation>
+    </message>
+    <message>
+        <source>High-capacity tray</source>
+        <translation>Großraumfach</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>Hauptrolle</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Fotofach</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Fach %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rolle %1</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>Beliebig</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>Dünnes Papier</translation>
+    </message>
+    <message>
+        <source>Thick paper</source>
+        <translation>Dickes Papier</translation>
+    </message>
+    <message>
+        <source>Thick coated paper</source>
+        <translation>Dickes gestrichenes Papier</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Gestrichenes Papier</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Tintenstrahlpapier</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Feinpapier</translation>
+    </message>
+    <message>
+        <source>Bond paper</source>
+        <translation>Bankpostpapier</translation>
+    </message>
+    <message>
+        <source>Recycled paper</source>
+        <translation>Recyclingpapier</translation>
+    </message>
+    <message>
+        <source>Colored paper</source>
+        <translation>Farbiges Papier</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Briefbogen</translation>
+    </message>
+    <message>
+        <source>Preprinted paper</source>
+        <translation>Vorgedrucktes Papier</translation>
+    </message>
+    <message>
+        <source>Prepunched paper</source>
+        <translation>Vorgelochtes Papier</translation>
+    </message>
+    <message>
+        <source>Cotton paper</source>
+        <translation>Baumwollpapier</translation>
+    </message>
+    <message>
+        <source>Archival paper</source>
+        <translation>Archivpapier</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>Karton</translation>
+    </message>
+    <message>
+        <source>Cardboard</source>
+        <translation>Pappe</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Endlospapier</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Disc</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Plain envelope</source>
+        <translation>Umschlag ohne Fenster</translation>
+    </message>
+    <message>
+        <source>Window envelope</source>
+        <translation>Fensterumschlag</translation>
+    </message>
+    <message>
+        <source>Fabric</source>
+        <translation>Stoff</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Folie</translation>
+    </message>
+    <message>
+        <source>Back-print film</source>
+        <translation>Rückseitenfolie</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparentfolie</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Continuous labels</source>
+        <translation>Endlosetiketten</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Photo paper, glossy</source>
+        <translation>Fotopapier, glänzend</translation>
+    </message>
+    <message>
+        <source>Photo paper, high gloss</source>
+        <translation>Fotopapier, hochglänzend</translation>
+    </message>
+    <message>
+        <source>Photo paper, matte</source>
+        <translation>Fotopapier, matt</translation>
+    </message>
+    <message>
+        <source>Photo paper, satin</source>
+        <translation>Fotopapier, seidenmatt</translation>
+    </message>
+    <message>
+        <source>Photo paper, semi-gloss</source>
+        <translation>Fotopapier, halbglänzend</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Fotofilm</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>Registerpapier</translation>
+    </message>
+    <message>
+        <source>Precut tabs</source>
+        <translation>Vorgeschnittene Register</translation>
+    </message>
+    <message>
+        <source>Fanfold paper</source>
+        <translation>Leporellopapier</translation>
+    </message>
+    <message>
+        <source>Multi-part form</source>
+        <translation>Mehrlagiges Formular</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Druckseite oben</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Druckseite unten</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>Mein Postfach</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Postfach %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Stapelablage %1</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafiken</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Text und Grafiken</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>1 Heftklammer</translation>
+    </message>
+    <message>
+        <source>1 staple, top left</source>
+        <translation>1 Heftklammer, oben links</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom left</source>
+        <translation>1 Heftklammer, unten links</translation>
+    </message>
+    <message>
+        <source>1 staple, top right</source>
+        <translation>1 Heftklammer, oben rechts</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom right</source>
+        <translation>1 Heftklammer, unten rechts</translation>
+    </message>
+    <message>
+        <source>Along an edge</source>
+        <translation>An einer Kante</translation>
+    </message>
+    <message>
+        <source>Along the left edge</source>
+        <translation>An der linken Kante</translation>
+    </message>
+    <message>
+        <source>Along the top edge</source>
+        <translation>An der oberen Kante</translation>
+    </message>
+    <message>
+        <source>Along the right edge</source>
+        <translation>An der rechten Kante</translation>
+    </message>
+    <message>
+        <source>Along the bottom edge</source>
+        <translation>An der unteren Kante</translation>
+    </message>
+    <message>
+        <source>Through the fold</source>
+        <translation>Durch den Rücken</translation>
+    </message>
+    <message>
+        <source>2 staples, left</source>
+        <translation>2 Heftklammern, links</translation>
+    </message>
+    <message>
+        <source>2 staples, top</source>
+        <translation>2 Heftklammern, oben</translation>
+    </message>
+    <message>
+        <source>2 staples, right</source>
+        <translation>2 Heftklammern, rechts</translation>
+    </message>
+    <message>
+        <source>2 staples, bottom</source>
+        <translation>2 Heftklammern, unten</translation>
+    </message>
+    <message>
+        <source>3 staples, left</source>
+        <translation>3 Heftklammern, links</translation>
+    </message>
+    <message>
+        <source>3 staples, top</source>
+        <translation>3 Heftklammern, oben</translation>
+    </message>
+    <message>
+        <source>3 staples, right</source>
+        <translation>3 Heftklammern, rechts</translation>
+    </message>
+    <message>
+        <source>3 staples, bottom</source>
+        <translation>3 Heftklammern, unten</translation>
+    </message>
+    <message>
+        <source>Holes</source>
+        <translation>Löcher</translation>
+    </message>
+    <message>
+        <source>2 holes, left</source>
+        <translation>2 Löcher, links</translation>
+    </message>
+    <message>
+        <source>2 holes, top</source>
+        <translation>2 Löcher, oben</translation>
+    </message>
+    <message>
+        <source>2 holes, right</source>
+        <translation>2 Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>2 holes, bottom</source>
+        <translation>2 Löcher, unten</translation>
+    </message>
+    <message>
+        <source>3 holes, left</source>
+        <translation>3 Löcher, links</translation>
+    </message>
+    <message>
+        <source>3 holes, top</source>
+        <translation>3 Löcher, oben</translation>
+    </message>
+    <message>
+        <source>3 holes, right</source>
+        <translation>3 Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>3 holes, bottom</source>
+        <translation>3 Löcher, unten</translation>
+    </message>
+    <message>
+        <source>4 holes, left</source>
+        <translation>4 Löcher, links</translation>
+    </message>
+    <message>
+        <source>4 holes, top</source>
+        <translation>4 Löcher, oben</translation>
+    </message>
+    <message>
+        <source>4 holes, right</source>
+        <translation>4 Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>4 holes, bottom</source>
+        <translation>4 Löcher, unten</translation>
+    </message>
+    <message>
+        <source>Many holes, left</source>
+        <translation>Viele Löcher, links</translation>
+    </message>
+    <message>
+        <source>Many holes, top</source>
+        <translation>Viele Löcher, oben</translation>
+    </message>
+    <message>
+        <source>Many holes, right</source>
+        <translation>Viele Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>Many holes, bottom</source>
+        <translation>Viele Löcher, unten</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falz</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>Leporellofalz</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>Doppelter Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>Zeichnungs-Z-Falz</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>Einbruchfalz</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>Halber Z-Falz</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>Linker Fensterfalz</translation>
+    </message>
+    <message>
+        <source>C fold</source>
+        <translation>Wickelfalz</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>Parallelfalz</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>Plakatfalz</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>Rechter Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z-Falz</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>Nach jeder Seite</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>Nach jedem Dokument</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Nach jedem Exemplar</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>Nach dem Auftrag</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Binden</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linke Kante</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>Obere Kante</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechte Kante</translation>
+    </message>
+    <message>
+        <source>Bottom edge</source>
+        <translation>Untere Kante</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>Bündeln</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Offset each set</source>
+        <translation>Sätze versetzt ablegen</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Beschichten</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminieren</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1, randlos</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 in</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>Umschlag %1</translation>
+    </message>
+    <message>
+        <source>Index card %1</source>
+        <translation>Karteikarte %1</translation>
+    </message>
+    <message>
+        <source>Photo %1</source>
+        <translation>Foto %1</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>Postkarte</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>Doppelpostkarte</translation>
+    </message>
+</context>
+<context>
     <name>Watermark</name>
     <message>
         <source>the system has no thread to read it on; close programs and choose it again</source>
@@ -3559,6 +4274,33 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
 </context>
 <context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>Druckeroptionen</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>Dieser Drucker hat keine eigenen Optionen.</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1 (nicht angeboten)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>Kann nicht zusammen mit anderen Einstellungen verwendet werden</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>Die Ausstattung des Druckers lässt keine andere Wahl</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::PresetMenu</name>
     <message>
         <source>Default settings</source>
@@ -3912,7 +4654,7 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
+    <name>kelvo::PrinterChooser</name>
     <message>
         <source>Printers</source>
         <translation>Drucker</translation>

@@ -178,23 +178,6 @@
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
-    <message numerus="yes">
-        <source>%n printer(s)</source>
-        <translation>
-            <numerusform>%n printer</numerusform>
-            <numerusform>%n printers</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %n printer(s)</source>
-        <translation>
-            <numerusform>%1 of %n printer</numerusform>
-            <numerusform>%1 of %n printers</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>kelvo::PrintFlow</name>
     <message numerus="yes">
         <source>%n document(s) written</source>
@@ -208,6 +191,23 @@
         <translation>
             <numerusform>%n document sent to %1</numerusform>
             <numerusform>%n documents sent to %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrinterChooser</name>
+    <message numerus="yes">
+        <source>%n printer(s)</source>
+        <translation>
+            <numerusform>%n printer</numerusform>
+            <numerusform>%n printers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n printer(s)</source>
+        <translation>
+            <numerusform>%1 of %n printer</numerusform>
+            <numerusform>%1 of %n printers</numerusform>
         </translation>
     </message>
 </context>

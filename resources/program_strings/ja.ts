@@ -1377,6 +1377,14 @@ document.pdf、options、ticket.plist をその中に。
         <translation>1面のページ数を減らすか、ページを枠に合わせてください。</translation>
     </message>
     <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
+    <message>
         <source>On the server: held %1</source>
         <translation>サーバー上で保留: %1</translation>
     </message>
@@ -2071,6 +2079,713 @@ document.pdf、options、ticket.plist をその中に。
     </message>
 </context>
 <context>
+    <name>StandardWords</name>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>用紙トレイ</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>印刷品質</translation>
+    </message>
+    <message>
+        <source>Output destination</source>
+        <translation>排出先</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>最適化</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Other finishing</source>
+        <translation>その他の後処理</translation>
+    </message>
+    <message>
+        <source>Finishing preset</source>
+        <translation>後処理のプリセット</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>後処理</translation>
+    </message>
+    <message>
+        <source>1-sided print</source>
+        <translation>片面印刷</translation>
+    </message>
+    <message>
+        <source>2-sided print</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>2-sided print, flip on short edge</source>
+        <translation>両面印刷(短辺とじ)</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>自動(白黒)</translation>
+    </message>
+    <message>
+        <source>Black only, no shades</source>
+        <translation>黒のみ(階調なし)</translation>
+    </message>
+    <message>
+        <source>Black and one color</source>
+        <translation>黒と1色</translation>
+    </message>
+    <message>
+        <source>Black only, mixed from colors</source>
+        <translation>黒のみ(カラー混色)</translation>
+    </message>
+    <message>
+        <source>Black and white, mixed from colors</source>
+        <translation>白黒(カラー混色)</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>カラー(CMYK)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>ドラフト</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>予備トレイ</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>予備ロール</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>手差しトレイ</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>手差し給紙</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>上トレイ</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>中トレイ</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>下トレイ</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>左トレイ</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>右トレイ</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>中央トレイ</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>後トレイ</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>サイドトレイ</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>ディスクトレイ</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>封筒給紙</translation>
+    </message>
+    <message>
+        <source>High-capacity tray</source>
+        <translation>大容量トレイ</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>メインロール</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>フォトトレイ</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>トレイ%1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>ロール%1</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>指定なし</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>薄紙</translation>
+    </message>
+    <message>
+        <source>Thick paper</source>
+        <translation>厚紙</translation>
+    </message>
+    <message>
+        <source>Thick coated paper</source>
+        <translation>厚手コート紙</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>コート紙</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>インクジェット紙</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>上質紙</translation>
+    </message>
+    <message>
+        <source>Bond paper</source>
+        <translation>ボンド紙</translation>
+    </message>
+    <message>
+        <source>Recycled paper</source>
+        <translation>再生紙</translation>
+    </message>
+    <message>
+        <source>Colored paper</source>
+        <translation>色紙</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>レターヘッド</translation>
+    </message>
+    <message>
+        <source>Preprinted paper</source>
+        <translation>印刷済み用紙</translation>
+    </message>
+    <message>
+        <source>Prepunched paper</source>
+        <translation>穴あき用紙</translation>
+    </message>
+    <message>
+        <source>Cotton paper</source>
+        <translation>コットン紙</translation>
+    </message>
+    <message>
+        <source>Archival paper</source>
+        <translation>保存用紙</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>カード紙</translation>
+    </message>
+    <message>
+        <source>Cardboard</source>
+        <translation>ボール紙</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>連続紙</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Plain envelope</source>
+        <translation>普通封筒</translation>
+    </message>
+    <message>
+        <source>Window envelope</source>
+        <translation>窓付き封筒</translation>
+    </message>
+    <message>
+        <source>Fabric</source>
+        <translation>布</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>フィルム</translation>
+    </message>
+    <message>
+        <source>Back-print film</source>
+        <translation>バックプリントフィルム</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>OHPフィルム</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル紙</translation>
+    </message>
+    <message>
+        <source>Continuous labels</source>
+        <translation>連続ラベル</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Photo paper, glossy</source>
+        <translation>写真用紙(光沢)</translation>
+    </message>
+    <message>
+        <source>Photo paper, high gloss</source>
+        <translation>写真用紙(高光沢)</translation>
+    </message>
+    <message>
+        <source>Photo paper, matte</source>
+        <translation>写真用紙(マット)</translation>
+    </message>
+    <message>
+        <source>Photo paper, satin</source>
+        <translation>写真用紙(サテン)</translation>
+    </message>
+    <message>
+        <source>Photo paper, semi-gloss</source>
+        <translation>写真用紙(半光沢)</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>写真フィルム</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>タブ紙</translation>
+    </message>
+    <message>
+        <source>Precut tabs</source>
+        <translation>カット済みタブ</translation>
+    </message>
+    <message>
+        <source>Fanfold paper</source>
+        <translation>折りたたみ連続紙</translation>
+    </message>
+    <message>
+        <source>Multi-part form</source>
+        <translation>複写紙</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>上向き</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>下向き</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>マイメールボックス</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>メールボックス%1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>スタッカー%1</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>グラフィック</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>文字とグラフィック</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>1か所</translation>
+    </message>
+    <message>
+        <source>1 staple, top left</source>
+        <translation>1か所(左上)</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom left</source>
+        <translation>1か所(左下)</translation>
+    </message>
+    <message>
+        <source>1 staple, top right</source>
+        <translation>1か所(右上)</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom right</source>
+        <translation>1か所(右下)</translation>
+    </message>
+    <message>
+        <source>Along an edge</source>
+        <translation>端とじ</translation>
+    </message>
+    <message>
+        <source>Along the left edge</source>
+        <translation>左端とじ</translation>
+    </message>
+    <message>
+        <source>Along the top edge</source>
+        <translation>上端とじ</translation>
+    </message>
+    <message>
+        <source>Along the right edge</source>
+        <translation>右端とじ</translation>
+    </message>
+    <message>
+        <source>Along the bottom edge</source>
+        <translation>下端とじ</translation>
+    </message>
+    <message>
+        <source>Through the fold</source>
+        <translation>中とじ</translation>
+    </message>
+    <message>
+        <source>2 staples, left</source>
+        <translation>2か所(左)</translation>
+    </message>
+    <message>
+        <source>2 staples, top</source>
+        <translation>2か所(上)</translation>
+    </message>
+    <message>
+        <source>2 staples, right</source>
+        <translation>2か所(右)</translation>
+    </message>
+    <message>
+        <source>2 staples, bottom</source>
+        <translation>2か所(下)</translation>
+    </message>
+    <message>
+        <source>3 staples, left</source>
+        <translation>3か所(左)</translation>
+    </message>
+    <message>
+        <source>3 staples, top</source>
+        <translation>3か所(上)</translation>
+    </message>
+    <message>
+        <source>3 staples, right</source>
+        <translation>3か所(右)</translation>
+    </message>
+    <message>
+        <source>3 staples, bottom</source>
+        <translation>3か所(下)</translation>
+    </message>
+    <message>
+        <source>Holes</source>
+        <translation>穴あけ</translation>
+    </message>
+    <message>
+        <source>2 holes, left</source>
+        <translation>2穴(左)</translation>
+    </message>
+    <message>
+        <source>2 holes, top</source>
+        <translation>2穴(上)</translation>
+    </message>
+    <message>
+        <source>2 holes, right</source>
+        <translation>2穴(右)</translation>
+    </message>
+    <message>
+        <source>2 holes, bottom</source>
+        <translation>2穴(下)</translation>
+    </message>
+    <message>
+        <source>3 holes, left</source>
+        <translation>3穴(左)</translation>
+    </message>
+    <message>
+        <source>3 holes, top</source>
+        <translation>3穴(上)</translation>
+    </message>
+    <message>
+        <source>3 holes, right</source>
+        <translation>3穴(右)</translation>
+    </message>
+    <message>
+        <source>3 holes, bottom</source>
+        <translation>3穴(下)</translation>
+    </message>
+    <message>
+        <source>4 holes, left</source>
+        <translation>4穴(左)</translation>
+    </message>
+    <message>
+        <source>4 holes, top</source>
+        <translation>4穴(上)</translation>
+    </message>
+    <message>
+        <source>4 holes, right</source>
+        <translation>4穴(右)</translation>
+    </message>
+    <message>
+        <source>4 holes, bottom</source>
+        <translation>4穴(下)</translation>
+    </message>
+    <message>
+        <source>Many holes, left</source>
+        <translation>多穴(左)</translation>
+    </message>
+    <message>
+        <source>Many holes, top</source>
+        <translation>多穴(上)</translation>
+    </message>
+    <message>
+        <source>Many holes, right</source>
+        <translation>多穴(右)</translation>
+    </message>
+    <message>
+        <source>Many holes, bottom</source>
+        <translation>多穴(下)</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>アコーディオン折り</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>ダブル観音折り</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>エンジニアリングZ折り</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>観音折り</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>2つ折り</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>片袖Z折り</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>左観音折り</translation>
+    </message>
+    <message>
+        <source>C fold</source>
+        <translation>C折り</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>平行折り</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>ポスター折り</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>右観音折り</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z折り</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>ページごと</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>文書ごと</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>部ごと</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>ジョブの後</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>上端</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Bottom edge</source>
+        <translation>下端</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Offset each set</source>
+        <translation>部ごとにずらす</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>コーティング</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>ラミネート</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1(フチなし)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>封筒 %1</translation>
+    </message>
+    <message>
+        <source>Index card %1</source>
+        <translation>カード %1</translation>
+    </message>
+    <message>
+        <source>Photo %1</source>
+        <translation>写真 %1</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>はがき</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>往復はがき</translation>
+    </message>
+</context>
+<context>
     <name>Watermark</name>
     <message>
         <source>the system has no thread to read it on; close programs and choose it again</source>
@@ -2551,6 +3266,33 @@ document.pdf、options、ticket.plist をその中に。
     </message>
 </context>
 <context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>プリンターのオプション</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>このプリンターには独自のオプションがありません。</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1(選択できません)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>ほかの設定と一緒には使えません</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>プリンターの装備では、ほかに選べません</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::PresetMenu</name>
     <message>
         <source>Default settings</source>
@@ -2902,7 +3644,7 @@ The settings stay as they are.</source>
     </message>
 </context>
 <context>
-    <name>kelvo::PrinterList</name>
+    <name>kelvo::PrinterChooser</name>
     <message>
         <source>Printers</source>
         <translation>プリンター</translation>

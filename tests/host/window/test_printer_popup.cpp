@@ -1,4 +1,4 @@
-#include "printer_list.h"
+#include "printer_chooser.h"
 
 #include "inspector.h"
 #include "popup_button.h"
@@ -66,7 +66,7 @@ struct Shown
         popup->setMenu(menu);
         popup->setValueByReference(shown);
         popup->setOwnList([this, chosen](PopupButton *button) {
-            list = new PrinterList(button);
+            list = new PrinterChooser(button);
             list->setPrinters(printers, chosen);
             return list;
         });
@@ -93,7 +93,7 @@ struct Shown
     QList<Printer> printers;
     QWidget window;
     PopupButton *popup;
-    PrinterList *list = nullptr;
+    PrinterChooser *list = nullptr;
 };
 
 } // namespace

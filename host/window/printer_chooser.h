@@ -16,12 +16,12 @@ class PrinterListModel;
 
 // The printers, as they open from their pop-up button, whose menu's keys are their names: each
 // with its state, place and model, and above many of them a field that finds some of them.
-class PrinterList : public PopupList
+class PrinterChooser : public PopupList
 {
     Q_OBJECT
 
 public:
-    explicit PrinterList(PopupButton *button);
+    explicit PrinterChooser(PopupButton *button);
 
     // At any time; what somebody looks at stays where it is.
     void setPrinters(const QList<Printer> &printers, const QString &chosen);

@@ -1,4 +1,4 @@
-#include "printer_list.h"
+#include "printer_chooser.h"
 
 #include "accessible_role.h"
 #include "popup_button.h"
@@ -28,7 +28,7 @@ constexpr int widthInCharacters = 56;
 
 } // namespace
 
-PrinterList::PrinterList(PopupButton *button)
+PrinterChooser::PrinterChooser(PopupButton *button)
     : PopupList(button)
     , m_model(new PrinterListModel(this))
     , m_field(new QLineEdit(this))
@@ -65,15 +65,15 @@ PrinterList::PrinterList(PopupButton *button)
 
     for (QWidget *part : {static_cast<QWidget *>(m_field), static_cast<QWidget *>(m_list)})
         part->installEventFilter(this);
-    connect(m_field, &QLineEdit::textChanged, this, &PrinterList::find);
-    connect(m_list, &QListView::clicked, this, &PrinterList::chooseCurrent);
+    connect(m_field, &QLineEdit::textChanged, this, &PrinterChooser::find);
+    connect(m_list, &QListView::clicked, this, &PrinterChooser::chooseCurrent);
     connect(m_list, &QListView::entered, this, [this](const QModelIndex &index) {
         if (QCursor::pos() != m_mouse)
             m_list->setCurrentIndex(index);
     });
 }
 
-void PrinterList::setPrinters(const QList<Printer> &printers, const QString &chosen)
+void PrinterChooser::setPrinters(const QList<Printer> &printers, const QString &chosen)
 {
     const QString current = currentName();
     const int top = m_list->verticalScrollBar()->value();
@@ -89,7 +89,7 @@ void PrinterList::setPrinters(const QList<Printer> &printers, const QString &cho
         m_list->verticalScrollBar()->setValue(top);
 }
 
-void PrinterList::open(const QString &typed)
+void PrinterChooser::open(const QString &typed)
 {
     const bool isLong = m_model->printerCount() > mostWithoutSearch;
     {
@@ -122,13 +122,13 @@ void PrinterList::open(const QString &typed)
         m_list->keyboardSearch(typed);
 }
 
-QString PrinterList::currentName() const
+QString PrinterChooser::currentName() const
 {
     const QModelIndex current = m_list->currentIndex();
     return current.isValid() ? m_model->printerAt(current.row()).name : QString();
 }
 
-void PrinterList::setCurrent(int row)
+void PrinterChooser::setCurrent(int row)
 {
     const QModelIndex index = m_model->index(row);
     m_list->setCurrentIndex(index);
@@ -136,7 +136,7 @@ void PrinterList::setCurrent(int row)
         m_list->scrollTo(index);
 }
 
-void PrinterList::chooseCurrent()
+void PrinterChooser::chooseCurrent()
 {
     const QString name = currentName();
     const std::vector<MenuItem> &items = button()->menu().items;
@@ -145,7 +145,7 @@ void PrinterList::chooseCurrent()
         choose(int(item - items.begin()) + 1);
 }
 
-void PrinterList::find(const QString &typed)
+void PrinterChooser::find(const QString &typed)
 {
     m_model->find(typed.simplified());
     // Nothing is looked for any more: back to where it began.
@@ -154,7 +154,7 @@ void PrinterList::find(const QString &typed)
     count(true);
 }
 
-void PrinterList::count(bool isNews)
+void PrinterChooser::count(bool isNews)
 {
     const int found = m_model->rowCount(), all = m_model->printerCount();
     const QString text = found == 0 ? tr("No printer has this in its name, place or model.")
@@ -167,7 +167,7 @@ void PrinterList::count(bool isNews)
         showNotification(m_count, true, isNews);
 }
 
-bool PrinterList::eventFilter(QObject *watched, QEvent *event)
+bool PrinterChooser::eventFilter(QObject *watched, QEvent *event)
 {
     return (event->type() == QEvent::KeyPress && takeKey(watched, static_cast<QKeyEvent *>(event)))
         || PopupList::eventFilter(watched, event);
@@ -175,7 +175,7 @@ bool PrinterList::eventFilter(QObject *watched, QEvent *event)
 
 // The field has the keyboard, and the list the keys that move in it; the other way round, the field
 // has the letters.
-bool PrinterList::takeKey(QObject *watched, QKeyEvent *event)
+bool PrinterChooser::takeKey(QObject *watched, QKeyEvent *event)
 {
     switch (event->key()) {
     case Qt::Key_Return:
@@ -215,7 +215,7 @@ bool PrinterList::takeKey(QObject *watched, QKeyEvent *event)
     return true;
 }
 
-void PrinterList::changeEvent(QEvent *event)
+void PrinterChooser::changeEvent(QEvent *event)
 {
     PopupList::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
@@ -223,7 +223,7 @@ void PrinterList::changeEvent(QEvent *event)
 }
 
 // Not every dark theme has a colour for hints.
-void PrinterList::colour()
+void PrinterChooser::colour()
 {
     QColor hint = palette().color(QPalette::Text);
     hint.setAlphaF(0.6F);
