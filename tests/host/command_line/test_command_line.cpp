@@ -42,6 +42,11 @@ QString told(const CommandLine &line)
         parts << (value ? QStringLiteral("o=%1:%2").arg(name, *value)
                         : QStringLiteral("o=%1").arg(name));
     add("P", line.pages);
+    if (line.priority)
+        parts << QStringLiteral("q=%1").arg(*line.priority);
+    add("H", line.holdUntil);
+    if (line.wait)
+        parts << QStringLiteral("wait");
     add("t", line.title);
     add("ppd", line.ppd);
     add("to", line.toFolder);
@@ -72,6 +77,12 @@ void TestCommandLine::takesEveryForm_data()
     row("a name alone", {"-o", "landscape noDuplex A=1"}, "o=landscape o=noDuplex o=A:1");
     row("value with a sign", {"-o", "A=b=c"}, "o=A:b=c");
     row("open range", {"-P", "1-3, 7,9-"}, "P=1-3, 7,9-");
+    row("urgent", {"-q100"}, "q=100");
+    row("at once", {"-H", "immediate"}, "H=no-hold");
+    row("later", {"-H", "hold", "--wait"}, "H=indefinite wait");
+    row("at a time", {"-H", "7:05"}, "H=07:05");
+    row("in words", {"-H", "Second-Shift", "-o", "job-hold-until=second-shift"},
+        "o=job-hold-until:second-shift H=second-shift");
     row("later beats earlier", {"-n2", "-n3"}, "n=3");
     row("the same said twice",
         {"-n2", "-o", "copies=3 copies=02", "-P", "1 - 3", "-o", "page-ranges=1-3"},
@@ -123,6 +134,19 @@ void TestCommandLine::refusesWrongLines_data()
     for (const char *copies : {"0", "10000", "+1", "2.5", "", "9999999999"})
         row(qPrintable(QStringLiteral("copies \"%1\"").arg(copies)), {"-n", copies},
             QStringLiteral("-n: “%1” is not a whole number from 1 to 9999").arg(copies));
+    row("too urgent", {"-q", "101"},
+        "-q 101: a priority is a number from 1 to 100, the higher the sooner");
+    row("no time", {"-H", "24:00"},
+        "-H 24:00: it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: "
+        "no-hold, indefinite, day-time, evening, night, second-shift, third-shift, weekend");
+    row("of a job that is there", {"-H", "resume"},
+        "-H resume: that is for a job that is there already; use “lp -i JOB -H resume”");
+    row("held twice", {"-H", "hold", "-o", "job-hold-until=night"},
+        "-H indefinite: -o job-hold-until=night says something else; leave out one of them");
+    row("waiting for a folder", {"--wait", "--to", "x"},
+        "--wait: what is written to a file is not printed, and there is nothing to wait for; leave "
+        "out "
+        "--to");
     row("timeout too long", {"--timeout", "3601"},
         "--timeout: “3601” is not a whole number from 1 to 3600");
     for (const char *option : {"Jog=", "=1", ""})
