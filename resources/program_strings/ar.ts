@@ -3225,8 +3225,8 @@ document.pdf وoptions وticket.plist،
         <translation>إزالة</translation>
     </message>
     <message>
-        <source>Print all as one &amp;job</source>
-        <translation>طباعة الكل ك&amp;مهمة واحدة</translation>
+        <source>Print all as one job</source>
+        <translation>طباعة الكل كمهمة واحدة</translation>
     </message>
     <message>
         <source>The pages follow one another, as if the files were one document</source>

@@ -4134,8 +4134,8 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>Print all as one &amp;job</source>
-        <translation>Alle als &amp;einen Auftrag drucken</translation>
+        <source>Print all as one job</source>
+        <translation>Alle als einen Auftrag drucken</translation>
     </message>
     <message>
         <source>The pages follow one another, as if the files were one document</source>

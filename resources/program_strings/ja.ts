@@ -3125,8 +3125,8 @@ document.pdf、options、ticket.plist をその中に。
         <translation>削除</translation>
     </message>
     <message>
-        <source>Print all as one &amp;job</source>
-        <translation>すべてを1つのジョブで印刷(&amp;O)</translation>
+        <source>Print all as one job</source>
+        <translation>すべてを1つのジョブで印刷</translation>
     </message>
     <message>
         <source>The pages follow one another, as if the files were one document</source>

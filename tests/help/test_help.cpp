@@ -300,7 +300,8 @@ void TestHelp::pagesSayWhatWindowsSay()
     };
     // Keys, what one types as pages, and a measure that the window says at more length
     static const QRegularExpression others(
-        "^[\\d-]|^&[lg]t;$|\\+|^F\\d|^(E(nter|scape|ingabe|sc)|Space|Leertaste)$");
+        "^[\\d-]|^&[lg]t;$|\\+|^F\\d|^(E(nter|nd|nde|scape|ingabe|sc)|Space|Leertaste|Home|Pos1|"
+        "Page (Up|Down)|Bild (auf|ab))$");
 
     const QString html = htmlOf(language, page).simplified();
     for (const QString &name : allOf("<b>(.*?)</b>", html)) {

@@ -50,7 +50,7 @@ OPEN_LISTS = {"printers", "printers_none"}
 CHOSEN_BY_KEY = {"finishing_fold"}
 
 MARKUP = re.compile(r"&\S|</?[a-z]+>")
-KEY = re.compile(r"^([a-z]+[A-Z][A-Za-z0-9]*|STRING NOT FOUND|.* Command)$")
+KEY = re.compile(r"^(?!sRGB$)([a-z]+[A-Z][A-Za-z0-9]*|STRING NOT FOUND|.* Command)$")
 
 
 def faults_of(node):
