@@ -50,6 +50,7 @@ DocumentHelper helperFor(Task task)
     case Task::TidyPdfToWrite:
     case Task::WritePdf:
     case Task::MakePdf:
+    case Task::JoinPdfs:
     case Task::CheckEmbeddedFile:
         break;
     }
@@ -128,7 +129,7 @@ Result<QByteArray> RunningHelper::ask(const QByteArray &request, Request which,
 {
     const MessageSize size = static_cast<MessageSize>(request.size());
     constexpr qsizetype header = sizeof size;
-    const QByteArray input = QByteArray(reinterpret_cast<const char *>(&size), header) + request;
+    QByteArray input = QByteArray(reinterpret_cast<const char *>(&size), header) + request;
     const auto isAnswer = [](const QByteArray &output) {
         MessageSize announced = 0;
         if (output.size() < header)
@@ -142,6 +143,7 @@ Result<QByteArray> RunningHelper::ask(const QByteArray &request, Request which,
     Result<ChildEnd> end = m_child.ask(
         input, which == Request::Last ? RunningChild::Input::Ends : RunningChild::Input::GoesOn,
         isAnswer, job.where, job.cancelled ? *job.cancelled : never);
+    overwrite(input);
     if (!end)
         return end.error();
     switch (end.value().status) {

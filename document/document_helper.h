@@ -2,6 +2,7 @@
 
 #include "child_process.h"
 #include "helper_messages.h"
+#include "secrets.h"
 #include "texts.h"
 
 #include <QByteArray>
@@ -106,7 +107,10 @@ Result<Value> decodedAnswer(const Result<QByteArray> &answer, const QString &whe
 template <typename Value, typename... Arguments>
 Result<Value> ask(Task task, const HelperJob &job, const Arguments &...arguments)
 {
-    return decodedAnswer<Value>(askHelper(task, helperRequest(task, arguments...), job), job.where);
+    QByteArray request = helperRequest(task, arguments...);
+    const Result<QByteArray> answer = askHelper(task, request, job);
+    overwrite(request); // with passwords and tickets
+    return decodedAnswer<Value>(answer, job.where);
 }
 
 // The same of a helper that runs.
@@ -114,8 +118,10 @@ template <typename Value, typename... Arguments>
 Result<Value> ask(RunningHelper &helper, RunningHelper::Request which, Task task,
                   const HelperJob &job, const Arguments &...arguments)
 {
-    return decodedAnswer<Value>(helper.ask(helperRequest(task, arguments...), which, job),
-                                job.where);
+    QByteArray request = helperRequest(task, arguments...);
+    const Result<QByteArray> answer = helper.ask(request, which, job);
+    overwrite(request);
+    return decodedAnswer<Value>(answer, job.where);
 }
 
 } // namespace kelvo

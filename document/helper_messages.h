@@ -25,10 +25,11 @@ inline constexpr MessageSize kMostAnswered = 256 * limits::MiB; // the sizes of 
 // then come the arguments of the function. A helper has opened its files with its first
 // request, and can open no others: only WritePdf comes after another one.
 enum class Task : quint8 {
-    TidyPdf,           // source, target → PdfPages, whether `source` is good as it is
-    TidyPdfToWrite,    // source, target, written, name → the same; a sound one is kept
+    TidyPdf,           // source, target, passwords → PdfPages, whether `source` is good as it is
+    TidyPdfToWrite,    // source, target, passwords, written, name → the same; a sound one is kept
     WritePdf,          // layout, file: the one that was kept into `written`
     MakePdf,           // source, layout, file, target
+    JoinPdfs,          // sources, target
     CheckEmbeddedFile, // pdf, name, bytes
     ConvertText,       // files, paper
     ConvertPicture,    // files → how many other files were left out

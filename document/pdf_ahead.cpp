@@ -14,13 +14,14 @@ PdfAhead::PdfAhead(PdfHelpers helpers, const QString &name)
 }
 
 Result<PdfPages> PdfAhead::tidy(const QString &source, const QString &target,
-                                const std::atomic_bool &cancelled)
+                                const QStringList &passwords, const std::atomic_bool &cancelled)
 {
     const QString written = QFileInfo(target).path() + QStringLiteral("/written.pdf");
-    Result<PdfPages> pages = takenWhereSound(
-        ask<PdfPages>(m_helpers.writer, Request::Next, Task::TidyPdfToWrite,
-                      {.where = source, .cancelled = &cancelled}, source, target, written, m_name),
-        source, target);
+    Result<PdfPages> pages =
+        takenWhereSound(ask<PdfPages>(m_helpers.writer, Request::Next, Task::TidyPdfToWrite,
+                                      {.where = source, .cancelled = &cancelled}, source, target,
+                                      passwords, written, m_name),
+                        source, target);
     if (pages && pages.value().isSound)
         m_written = written;
     return pages;

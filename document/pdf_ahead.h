@@ -19,7 +19,7 @@ public:
 
     // As tidyPdf() of pdf_pages.h, with another file in the folder of `target`.
     Result<PdfPages> tidy(const QString &source, const QString &target,
-                          const std::atomic_bool &cancelled);
+                          const QStringList &passwords, const std::atomic_bool &cancelled);
     // The path of a PDF that makeOutgoingPdf() would make of the one that was tidied, or its error.
     // Once, and only of one that was sound, with a file of the constructor's name; whatever the
     // error says, the PDF can be made anew then.

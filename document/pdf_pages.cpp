@@ -22,11 +22,19 @@ Result<PdfPages> takenWhereSound(Result<PdfPages> pages, const QString &source,
     return pages;
 }
 
-Result<PdfPages> tidyPdf(const QString &source, const QString &target,
+Result<PdfPages> tidyPdf(const QString &source, const QString &target, const QStringList &passwords,
                          const std::atomic_bool &cancelled)
 {
     const HelperJob job{source, QFileInfo(target).path(), &cancelled};
-    return takenWhereSound(ask<PdfPages>(Task::TidyPdf, job, source, target), source, target);
+    return takenWhereSound(ask<PdfPages>(Task::TidyPdf, job, source, target, passwords), source,
+                           target);
+}
+
+Result<void> joinPdfs(const QStringList &sources, const QString &target,
+                      const std::atomic_bool &cancelled)
+{
+    return ask<void>(Task::JoinPdfs, {target, QFileInfo(target).path(), &cancelled}, sources,
+                     target);
 }
 
 } // namespace kelvo

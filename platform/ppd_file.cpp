@@ -3,6 +3,7 @@
 #include "file_store.h"
 #include "ppd_translation.h"
 #include "size_limits.h"
+#include "standard_words.h"
 #include "texts.h"
 
 #include <QHash>
@@ -240,19 +241,92 @@ void walk(const ppd_file_t &ppd, const auto &visit)
         walk(ppd.groups[i], visit);
 }
 
-PpdOption optionFrom(const ppd_option_t &option, const PpdTranslation &translation)
+// Made by a print server, or by us, of what a printer says over IPP. There is no text of anybody's
+// in it, but English for a few options and what libcups puts in the place of others.
+bool isMadeFromIpp(ppd_file_t *ppd)
+{
+    return QByteArrayView(ppd->nickname).endsWith(" - IPP Everywhere")
+        || ppdFindAttr(ppd, "KelvoIpp", nullptr);
+}
+
+// What people read of a PPD's options: its words in the program's language, else its own, and
+// where there are none those of the standards.
+class PpdTexts
+{
+public:
+    PpdTexts(ppd_file_t *ppd, const QByteArray &bytes)
+        : m_ppd(ppd)
+        , m_isMadeFromIpp(isMadeFromIpp(ppd))
+        , m_translation(bytes, textLanguage())
+        , m_server(m_isMadeFromIpp ? bytes : QByteArray(), QStringLiteral("C"))
+    {
+    }
+
+    QString text(const ppd_group_t &group) const
+    {
+        const QString standard =
+            m_isMadeFromIpp ? standardOptionWords(textFrom(group.name)) : QString();
+        return standard.isEmpty() ? m_translation.text(group.name, textFrom(group.text)) : standard;
+    }
+    QString text(const ppd_option_t &option) const
+    {
+        const QString keyword = textFrom(option.keyword);
+        const auto server = [&] { return m_server.text(option.keyword, {}); };
+        return chosen(
+            m_translation.text(option.keyword, {}), keyword, textFrom(option.text),
+            [&] { return standardOptionWords(keyword); }, server);
+    }
+    QString text(const ppd_option_t &option, const ppd_choice_t &choice) const
+    {
+        const QString keyword = textFrom(choice.choice);
+        const auto server = [&] { return m_server.text(option.keyword, choice.choice, {}); };
+        return chosen(
+            m_translation.text(option.keyword, choice.choice, {}), keyword, textFrom(choice.text),
+            [&] { return standardWords(option, choice); }, server);
+    }
+
+private:
+    QString chosen(const QString &translated, const QString &keyword, const QString &own,
+                   const auto &standard, const auto &server) const
+    {
+        if (!translated.isEmpty())
+            return translated;
+        if (!m_isMadeFromIpp && own != keyword)
+            return own;
+        if (const QString words = standard(); !words.isEmpty())
+            return words;
+        if (!m_isMadeFromIpp)
+            return own;
+        const QString words = server();
+        return words.isEmpty() ? readable(keyword) : words;
+    }
+    QString standardWords(const ppd_option_t &option, const ppd_choice_t &choice) const
+    {
+        const ppd_size_t *size = m_isMadeFromIpp && qstrcmp(option.keyword, "PageSize") == 0
+            ? ppdPageSize(m_ppd, choice.choice)
+            : nullptr;
+        if (size && size->width > 0 && size->length > 0)
+            return paperWords(textFrom(choice.choice), size->width, size->length);
+        return standardChoiceWords(textFrom(option.keyword), textFrom(choice.choice));
+    }
+
+    ppd_file_t *m_ppd;
+    const bool m_isMadeFromIpp;
+    const PpdTranslation m_translation;
+    const PpdTranslation m_server; // what cupsd writes as if for a language "C", in English
+};
+
+PpdOption optionFrom(const ppd_option_t &option, const PpdTexts &texts)
 {
     PpdOption copy{textFrom(option.keyword),
-                   translation.text(option.keyword, textFrom(option.text)),
+                   texts.text(option),
                    textFrom(option.defchoice),
                    option.ui == PPD_UI_PICKMANY,
                    {}};
     copy.choices.reserve(static_cast<std::size_t>(option.num_choices));
     for (int i = 0; i < option.num_choices; ++i) {
         const ppd_choice_t &choice = option.choices[i];
-        copy.choices.push_back(
-            {textFrom(choice.choice),
-             translation.text(option.keyword, choice.choice, textFrom(choice.text))});
+        copy.choices.push_back({textFrom(choice.choice), texts.text(option, choice)});
     }
     return copy;
 }
@@ -555,16 +629,16 @@ Result<std::shared_ptr<PpdFile>> PpdFile::fromBytes(const QByteArray &bytes, con
     d.ppd = opened.value();
     ppdMarkDefaults(d.ppd.get());
     d.pageSizes = pageSizesFrom(*d.ppd);
-    const PpdTranslation translation(bytes, textLanguage());
+    const PpdTexts texts(d.ppd.get(), bytes);
     d.groups.reserve(static_cast<std::size_t>(d.ppd->num_groups));
     for (int i = 0; i < d.ppd->num_groups; ++i) {
         const ppd_group_t &group = d.ppd->groups[i];
-        PpdGroup &copy = d.groups.emplace_back(
-            PpdGroup{textFrom(group.name), translation.text(group.name, textFrom(group.text)), {}});
+        PpdGroup &copy =
+            d.groups.emplace_back(PpdGroup{textFrom(group.name), texts.text(group), {}});
         std::vector<const ppd_option_t *> originals;
         walk(group, [&](const ppd_option_t &option) {
             originals.push_back(&option);
-            copy.options.push_back(optionFrom(option, translation));
+            copy.options.push_back(optionFrom(option, texts));
         });
         for (std::size_t at = 0; at < originals.size(); ++at)
             d.options.insert(originals[at], &copy.options[at]);
@@ -598,10 +672,11 @@ QString PpdFile::languageEncoding() const
     return textFrom(d->ppd->lang_encoding);
 }
 
-std::optional<QString> PpdFile::attribute(const char *keyword) const
+std::optional<QString> PpdFile::attribute(const char *keyword, const QString &part) const
 {
     const std::lock_guard lock(d->mutex);
-    const ppd_attr_t *attribute = ppdFindAttr(d->ppd.get(), keyword, nullptr);
+    const ppd_attr_t *attribute =
+        ppdFindAttr(d->ppd.get(), keyword, part.isEmpty() ? nullptr : part.toUtf8().constData());
     if (!attribute || !attribute->value)
         return std::nullopt;
     return textFrom(attribute->value);
@@ -617,6 +692,14 @@ QStringList PpdFile::attributes(const char *keyword) const
             values << textFrom(attribute->value);
     }
     return values;
+}
+
+QString PpdFile::code(const QString &option, const QString &choice) const
+{
+    const std::lock_guard lock(d->mutex);
+    ppd_option_t *found = ppdFindOption(d->ppd.get(), option.toUtf8().constData());
+    const ppd_choice_t *known = found ? ppdFindChoice(found, choice.toUtf8().constData()) : nullptr;
+    return known && known->code ? textFrom(known->code) : QString();
 }
 
 const std::vector<PpdGroup> &PpdFile::groups() const

@@ -14,7 +14,8 @@
 // A printer's PPD. ppd_file.cpp is the one file that includes <cups/ppd.h>;
 // what comes out of here is Qt types. A PPD is hostile until checked: its texts
 // are shown as plain text and are never a path, a format or markup. They are in the
-// program's language where the PPD has that, and else as the PPD was written.
+// program's language where the PPD has that, and else as the PPD was written; where it has none, as
+// in one that a print server has made of what a printer says over IPP, those of standard_words.h.
 namespace kelvo {
 
 struct PpdChoice
@@ -83,8 +84,12 @@ public:
     QString modelName() const;        // the nickname where there is one
     QString languageEncoding() const; // lang_encoding as libcups gives it; empty when missing
     // The value of a main keyword such as "KelvoTicket" (without the quotes); none when missing.
-    std::optional<QString> attribute(const char *keyword) const;
+    // With `part`, of "*keyword part: value".
+    std::optional<QString> attribute(const char *keyword, const QString &part = {}) const;
     QStringList attributes(const char *keyword) const; // every value, e.g. of cupsFilter
+
+    // What the PPD has the device told for this choice, as it stands; empty when there is nothing.
+    QString code(const QString &option, const QString &choice) const;
 
     const std::vector<PpdGroup> &groups() const;
     const PpdOption *findOption(const QString &keyword) const; // ppdFindOption; null when missing

@@ -23,6 +23,7 @@ struct Error
         OutOfRange,  // a number outside its limits
         Unsupported, // well formed, but not a kind that we handle
         Unreachable, // a server that does not answer
+        Locked,      // it asks for a password, and none that was given is right
         Refused,     // a rule of ours, or the server, said no
         TimedOut,
         Cancelled,

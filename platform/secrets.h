@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace kelvo {
@@ -12,5 +13,9 @@ inline const QString kMask = QStringLiteral("••••");
 // files, and no other process of the user reads its memory. Not from the start: the
 // desktop's services tell applications apart by files in /proc that are closed then.
 void protectSecrets();
+
+// Overwrites what held a secret, before its memory is given back. Other copies of it stay.
+void overwrite(QByteArray &bytes);
+void overwrite(QString &text);
 
 } // namespace kelvo

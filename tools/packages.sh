@@ -8,7 +8,7 @@ run_packages="g++ cmake ninja-build ccache pkg-config
     qt6-wayland qt6-image-formats-plugins qt6-translations-l10n fonts-dejavu-core fonts-liberation2 ghostscript"
 
 # Real partners of the tests, and the formatter.
-check_packages="cups-daemon cups-client dbus-daemon avahi-daemon xvfb at-spi2-core gir1.2-atspi-2.0 python3-gi libplist-utils poppler-utils qpdf evolution-data-server clang-format python3 strace
+check_packages="cups-daemon cups-client cups-ipp-utils cups-ppdc dbus-daemon avahi-daemon xvfb at-spi2-core gir1.2-atspi-2.0 python3-gi libplist-utils poppler-utils qpdf evolution-data-server clang-format python3 strace
     libfreetype-dev fonts-noto-core fonts-droid-fallback"
 
 # The linter and the fuzz targets.

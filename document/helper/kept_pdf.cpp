@@ -16,7 +16,8 @@ static Result<void> finish(QPDF &pdf, const PdfLayout &layout, const EmbeddedFil
     return writePdf(pdf, target);
 }
 
-Result<PdfPages> KeptPdf::tidy(const QString &source, const QString &target, const QString &written,
+Result<PdfPages> KeptPdf::tidy(const QString &source, const QString &target,
+                               const QStringList &passwords, const QString &written,
                                const QString &name)
 {
     auto files = openPdfFiles(source, target, written);
@@ -24,7 +25,7 @@ Result<PdfPages> KeptPdf::tidy(const QString &source, const QString &target, con
         return files.error();
     m_source = source;
     m_name = name;
-    Result<PdfPages> pages = tidyPdf(m_pdf, files.value(), source);
+    Result<PdfPages> pages = tidyPdf(m_pdf, files.value(), source, passwords);
     if (pages && pages.value().isSound)
         m_target = std::move(files.value().second);
     return pages;

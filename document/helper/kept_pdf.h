@@ -5,6 +5,7 @@
 #include "pdf_pages.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -15,7 +16,8 @@ namespace kelvo::documents {
 
 // Loads `pdf` from the source of `files` and looks at it, as tidyPdf() of document/pdf_pages.h
 // says; one that is not sound is written to their target. Errors are about `source`.
-Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source);
+Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source,
+                         const QStringList &passwords);
 // Every file that a reader could find under `name`, and what stands for it.
 void takeEmbeddedFileOut(QPDF &pdf, const QString &name);
 // Writes the document's list of files anew, with `file`, where it has bytes.
@@ -27,7 +29,8 @@ class KeptPdf
 public:
     // As tidyPdf() of tasks.h. One that is sound is kept, for write() to make a PDF at
     // `written` of it.
-    Result<PdfPages> tidy(const QString &source, const QString &target, const QString &written,
+    Result<PdfPages> tidy(const QString &source, const QString &target,
+                          const QStringList &passwords, const QString &written,
                           const QString &name);
     // Takes the file called `name` out of what was kept; nothing where nothing is.
     void prepare();

@@ -18,14 +18,16 @@ static void answer(Task task, QDataStream &in, QDataStream &out)
     switch (task) {
     case Task::TidyPdf: {
         const auto source = take<QString>(in);
-        out << documents::tidyPdf(source, take<QString>(in));
+        const auto target = take<QString>(in);
+        out << documents::tidyPdf(source, target, take<QStringList>(in));
         break;
     }
     case Task::TidyPdfToWrite: {
         const auto source = take<QString>(in);
         const auto target = take<QString>(in);
+        const auto passwords = take<QStringList>(in);
         const auto written = take<QString>(in);
-        out << kept().tidy(source, target, written, take<QString>(in));
+        out << kept().tidy(source, target, passwords, written, take<QString>(in));
         break;
     }
     case Task::WritePdf: {
@@ -38,6 +40,11 @@ static void answer(Task task, QDataStream &in, QDataStream &out)
         const auto layout = take<PdfLayout>(in);
         const auto file = take<EmbeddedFile>(in);
         out << documents::makePdf(source, layout, file, take<QString>(in));
+        break;
+    }
+    case Task::JoinPdfs: {
+        const auto sources = take<QStringList>(in);
+        out << documents::joinPdfs(sources, take<QString>(in));
         break;
     }
     case Task::CheckEmbeddedFile: {

@@ -5,6 +5,7 @@
 #include "texts.h"
 
 #include <qpdf/QPDFWriter.hh>
+#include <qpdf/QUtil.hh>
 
 #include <QFile>
 
@@ -13,16 +14,16 @@
 #include <string_view>
 #include <sys/mman.h>
 #include <sys/stat.h>
+#include <utility>
+#include <vector>
 
 namespace kelvo::documents {
 
 Error damaged(const QString &path, const QPDFExc &problem)
 {
     if (problem.getErrorCode() == qpdf_e_password) {
-        return Error{Error::Code::Refused, path,
-                     translate("Document",
-                               "the document is locked with a password; save a copy without "
-                               "one and print that")};
+        return Error{Error::Code::Locked, path,
+                     translate("Document", "the document is locked with a password")};
     }
     return Error{Error::Code::Damaged, path,
                  translate("Document", "the PDF is damaged and cannot be repaired: %1")
@@ -36,12 +37,21 @@ Error damaged(const QString &path, const std::exception &problem)
         translate("Document", "the PDF cannot be read: %1").arg(QString::fromUtf8(problem.what()))};
 }
 
+Result<std::FILE *> openToRead(const QString &path)
+{
+    std::FILE *file = std::fopen(QFile::encodeName(path).constData(), "rbe");
+    if (!file)
+        return Error{Error::Code::NotReadable, path, qt_error_string(errno)};
+    return file;
+}
+
 Result<PdfFiles> openPdfFiles(const QString &source, const QString &target, const QString &second)
 {
+    const auto opened = openToRead(source);
+    if (!opened)
+        return opened.error();
     PdfFiles files;
-    files.source = std::fopen(QFile::encodeName(source).constData(), "rbe");
-    if (!files.source)
-        return Error{Error::Code::NotReadable, source, qt_error_string(errno)};
+    files.source = opened.value();
     for (const auto &[path, file] : {std::pair(&target, &files.target), {&second, &files.second}}) {
         if (path->isEmpty())
             continue;
@@ -74,19 +84,73 @@ std::string_view mapped(std::FILE *source)
                                : std::string_view(static_cast<const char *>(bytes), size);
 }
 
+// What may have been made of `password`, as bytes: UTF-8 for AES-256, where letters that look the
+// same count as the same; PDFDocEncoding for what is older, and whatever its maker took for that.
+std::vector<std::string> spellings(const QString &password)
+{
+    std::vector<std::string> all =
+        QUtil::possible_repaired_encodings(password.toUtf8().toStdString());
+    all.push_back(password.normalized(QString::NormalizationForm_KC).toUtf8().toStdString());
+    return all;
+}
+
+// The one of `passwords` that load() speaks of. None is right: one that is not. `read` loads
+// the document with a password.
+template <typename Read>
+std::string findPassword(const QStringList &passwords, Read read)
+{
+    std::string right;
+    bool isFound = false;
+    const auto lets = [&](const std::string &password) {
+        QPDF pdf;
+        pdf.setSuppressWarnings(true);
+        try {
+            read(pdf, password);
+        } catch (const QPDFExc &problem) {
+            if (problem.getErrorCode() == qpdf_e_password)
+                return false;
+            throw;
+        }
+        if (!std::exchange(isFound, true))
+            right = password;
+        if (!mayPrint(pdf))
+            return false;
+        right = password;
+        return true;
+    };
+    if (lets({})) // no password is as good as any other
+        return {};
+    for (const QString &password : passwords) {
+        for (const std::string &spelling : spellings(password)) {
+            if (lets(spelling))
+                return spelling;
+        }
+    }
+    return right;
+}
+
 } // namespace
 
-void load(QPDF &pdf, std::FILE *source)
+void load(QPDF &pdf, std::FILE *source, const QStringList &passwords)
 {
-    pdf.setSuppressWarnings(true);
     // libqpdf goes from object to object, and a stream loses what it has read with each step:
     // from memory, a document of many small objects takes half the time.
-    if (const std::string_view bytes = mapped(source); !bytes.empty()) {
+    const std::string_view bytes = mapped(source);
+    const auto read = [&](QPDF &into, const std::string &password, bool isLast = false) {
+        if (bytes.empty())
+            into.processFile("document", source, isLast, password.c_str());
+        else
+            into.processMemoryFile("document", bytes.data(), bytes.size(), password.c_str());
+    };
+    if (!bytes.empty())
         std::fclose(source);
-        pdf.processMemoryFile("document", bytes.data(), bytes.size());
-        return;
-    }
-    pdf.processFile("document", source, true);
+    pdf.setSuppressWarnings(true);
+    read(pdf, passwords.isEmpty() ? std::string() : findPassword(passwords, read), true);
+}
+
+bool mayPrint(QPDF &pdf)
+{
+    return pdf.allowPrintLowRes() || pdf.allowPrintHighRes() || pdf.ownerPasswordMatched();
 }
 
 Result<void> writePdf(QPDF &pdf, OutputFile &target)

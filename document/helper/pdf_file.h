@@ -7,6 +7,7 @@
 #include <qpdf/QPDFExc.hh>
 
 #include <QString>
+#include <QStringList>
 
 #include <exception>
 
@@ -30,6 +31,9 @@ auto guarded(const QString &path, Work work) -> decltype(work())
     }
 }
 
+// For load(); NotReadable.
+Result<std::FILE *> openToRead(const QString &path);
+
 // The files of a task, opened before anything is read of them; from then on no other
 // file can be opened. NotReadable or NotWritable.
 struct PdfFiles
@@ -42,7 +46,12 @@ Result<PdfFiles> openPdfFiles(const QString &source, const QString &target = {},
                               const QString &second = {});
 
 // Takes `source` over, also where it throws. Its file must stay as it is for as long as `pdf`.
-void load(QPDF &pdf, std::FILE *source);
+// A document that asks for a password is opened with the first of `passwords` that lets it be
+// printed, else with the first that is right.
+void load(QPDF &pdf, std::FILE *source, const QStringList &passwords = {});
+
+// Whether whoever opened `pdf` so may print it.
+bool mayPrint(QPDF &pdf);
 
 // Writes `pdf`, never encrypted. Throws where the document is at fault; NotWritable
 // for a disk that filled up.

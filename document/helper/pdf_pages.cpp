@@ -20,12 +20,13 @@ bool beginsWithHeader(std::FILE *source)
 
 } // namespace
 
-Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source)
+Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source,
+                         const QStringList &passwords)
 {
-    return guarded(source, [&]() -> Result<PdfPages> {
+    Result<PdfPages> tidied = guarded(source, [&]() -> Result<PdfPages> {
         const bool hasHeader = beginsWithHeader(files.source);
-        load(pdf, files.source);
-        if (!pdf.allowPrintLowRes() && !pdf.allowPrintHighRes()) {
+        load(pdf, files.source, passwords);
+        if (!mayPrint(pdf)) {
             return Error{
                 Error::Code::Refused, source,
                 translate("Document", "the author of the document does not allow printing it")};
@@ -46,15 +47,19 @@ Result<PdfPages> tidyPdf(QPDF &pdf, PdfFiles &files, const QString &source)
             return written.error();
         return pages;
     });
+    if (tidied || tidied.error().code != Error::Code::Locked || passwords.isEmpty())
+        return tidied;
+    return Error{Error::Code::Locked, source,
+                 translate("Document", "the document is locked with another password")};
 }
 
-Result<PdfPages> tidyPdf(const QString &source, const QString &target)
+Result<PdfPages> tidyPdf(const QString &source, const QString &target, const QStringList &passwords)
 {
     auto files = openPdfFiles(source, target);
     if (!files)
         return files.error();
     QPDF pdf;
-    return tidyPdf(pdf, files.value(), source);
+    return tidyPdf(pdf, files.value(), source, passwords);
 }
 
 } // namespace kelvo::documents

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 // What the helpers do, each task in a file of its own: it opens its files, lets go of
 // the right to open any other (confinement.h), and only then looks at what is in them.
@@ -15,7 +16,9 @@
 // which ask for them and say what they do.
 namespace kelvo::documents {
 
-Result<PdfPages> tidyPdf(const QString &source, const QString &target);
+Result<PdfPages> tidyPdf(const QString &source, const QString &target,
+                         const QStringList &passwords);
+Result<void> joinPdfs(const QStringList &sources, const QString &target);
 // Without the second look, which is checkEmbeddedFile(), in another process.
 Result<void> makePdf(const QString &source, const PdfLayout &layout, const EmbeddedFile &file,
                      const QString &target);

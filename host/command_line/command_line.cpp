@@ -1,5 +1,6 @@
 #include "command_line.h"
 
+#include "job_timing.h"
 #include "nearest_name.h"
 #include "page_ranges.h"
 #include "terminal.h"
@@ -144,6 +145,24 @@ Result<void> takePages(CommandLine &line, const QString &value, const QString &w
     return {};
 }
 
+Result<void> takePriority(CommandLine &line, const QString &value, const QString &where)
+{
+    const auto priority = priorityFrom(value);
+    if (!priority)
+        return refused(QStringLiteral("%1 %2").arg(where, value), priority.error().detail);
+    line.priority = priority.value();
+    return {};
+}
+
+Result<void> takeHandling(CommandLine &line, const QString &value, const QString &where)
+{
+    const auto hold = holdUntilOfHandling(value);
+    if (!hold)
+        return refused(QStringLiteral("%1 %2").arg(where, value), hold.error().detail);
+    line.holdUntil = hold.value();
+    return {};
+}
+
 Result<void> takeSecret(CommandLine &line, const QString &value, const QString &where)
 {
     const auto secret = nameAndValue(value);
@@ -190,7 +209,10 @@ constexpr OptionRow optionRows[] = {
     {"-n", nullptr, "COPIES", QT_TRANSLATE_NOOP("CommandLine", "print this many copies, 1 to 9999"), takeCopies},
     {"-o", nullptr, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "set an option of the device, or media, sides,\nlandscape and others that lp has; NAME alone\nswitches one on, noNAME off"), takeOption},
     {"-P", nullptr, "PAGES", QT_TRANSLATE_NOOP("CommandLine", "print only these pages: 1-3,7,9-"), takePages},
+    {"-q", nullptr, "PRIORITY", QT_TRANSLATE_NOOP("CommandLine", "how urgent the job is, 1 to 100"), takePriority},
+    {"-H", nullptr, "HOLD", QT_TRANSLATE_NOOP("CommandLine", "when the server prints it: immediate, hold, HH:MM\n(UTC), evening and others that lp has"), takeHandling},
     {"-t", nullptr, "TITLE", QT_TRANSLATE_NOOP("CommandLine", "call the job so"), takeText<&CommandLine::title>},
+    {nullptr, "--join", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print several files as one job"), takeFlag<&CommandLine::join>},
     {nullptr, "--ppd", "FILE", QT_TRANSLATE_NOOP("CommandLine", "show a device without a queue"), takeText<&CommandLine::ppd>},
     {nullptr, "--demo", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show the sample device and document"), takeFlag<&CommandLine::demo>},
     {nullptr, "--preset", "NAME", QT_TRANSLATE_NOOP("CommandLine", "begin with this preset"), takeText<&CommandLine::preset>},
@@ -199,9 +221,10 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--ticket-out", "FILE", QT_TRANSLATE_NOOP("CommandLine", "write all settings when printing or when the\nscript ends"), takeText<&CommandLine::ticketOut>},
     {nullptr, "--script", "FILE", QT_TRANSLATE_NOOP("CommandLine", "drive the dialog; - is standard input"), takeText<&CommandLine::script>},
     {nullptr, "--print", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print when the script has ended"), takeFlag<&CommandLine::print>},
-    {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600"), takeSecret},
+    {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600;\nDOCUMENT is the password of a PDF, DOCUMENT2\nthat of the second file"), takeSecret},
     {nullptr, "--no-window", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show nothing; without a script, print at once"), takeFlag<&CommandLine::noWindow>},
-    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with a folder’s\nname, document.pdf, options and ticket.plist into it"), takeTarget},
+    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with the\nname of a folder, document.pdf, options and\nticket.plist into it, or into a folder there for\neach of several jobs"), takeTarget},
+    {nullptr, "--wait", nullptr, QT_TRANSLATE_NOOP("CommandLine", "end when the job is printed, and say what becomes\nof it"), takeFlag<&CommandLine::wait>},
     {nullptr, "--timeout", "SECONDS", QT_TRANSLATE_NOOP("CommandLine", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)"), takeTimeout},
     {nullptr, "--language", "LANGUAGE", QT_TRANSLATE_NOOP("CommandLine", "speak this language instead of the desktop’s"), takeText<&CommandLine::language>},
     {nullptr, "--list-printers", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list the queues and end"), takeFlag<&CommandLine::listPrinters>},
@@ -293,13 +316,13 @@ bool isOption(const QString &argument)
     return argument.startsWith(u'-') && argument != QLatin1String("-");
 }
 
-Result<void> takeFile(CommandLine &line, const QString &file, bool *hasFile)
+constexpr QLatin1String standardInputName("-");
+
+Result<void> takeFile(CommandLine &line, const QString &file)
 {
-    if (*hasFile)
-        return refused(file, translate("CommandLine", "only one document is printed at a time"));
-    *hasFile = true;
-    line.readsStandardInput = file == QLatin1String("-");
-    line.file = line.readsStandardInput ? QString() : file;
+    if (file == standardInputName && line.files.contains(file))
+        return refused(file, translate("CommandLine", "standard input can be read only once"));
+    line.files.append(file);
     return {};
 }
 
@@ -312,7 +335,7 @@ const AskedOption *findLastOption(const CommandLine &line, const char *name)
     return found == line.options.crend() ? nullptr : &*found;
 }
 
-// -n and -P beat the same said with -o, wherever they stand. Whoever says two things
+// -n, -P, -q and -H beat the same said with -o, wherever they stand. Whoever says two things
 // would lose one of them.
 std::optional<Error> findTwoValues(const CommandLine &line)
 {
@@ -325,6 +348,18 @@ std::optional<Error> findTwoValues(const CommandLine &line)
     if (line.copies && copies
         && wholeNumber(copies->value.value_or(QString()), 1, maximumCopies) != line.copies)
         return twice("-n", QString::number(*line.copies), *copies);
+    const AskedOption *priority = findLastOption(line, kJobPriorityOption);
+    if (line.priority && priority) {
+        const auto other = priorityFrom(priority->value.value_or(QString()));
+        if (!other || other.value() != *line.priority)
+            return twice("-q", QString::number(*line.priority), *priority);
+    }
+    const AskedOption *hold = findLastOption(line, kJobHoldUntilOption);
+    if (line.holdUntil && hold) {
+        const auto other = holdUntilFrom(hold->value.value_or(QString()));
+        if (!other || other.value() != *line.holdUntil)
+            return twice("-H", *line.holdUntil, *hold);
+    }
     const AskedOption *pages = findLastOption(line, pageRangesOption);
     if (!line.pages || !pages)
         return std::nullopt;
@@ -350,12 +385,20 @@ std::optional<Error> findClash(const CommandLine &line)
                        translate("CommandLine",
                                  "it prints after a script: add --script FILE, or use "
                                  "--no-window to print at once"));
+    if (line.toPdf && line.files.size() > 1 && !line.join)
+        return refused(QStringLiteral("--to"),
+                       translate("CommandLine",
+                                 "a PDF file has room for one job: add --join, or name a folder"));
     if (line.noWindow && !line.script && (line.ppd || line.demo) && !line.toFolder && !line.toPdf)
         return refused(
             QStringLiteral("--no-window"),
             translate("CommandLine", "a device without a queue cannot print; add --to DIR"));
-    if (line.script == QStringLiteral("-") && line.file.isEmpty()
-        && (!line.demo || line.readsStandardInput))
+    if (line.wait && (line.toFolder || line.toPdf))
+        return refused(QStringLiteral("--wait"),
+                       translate("CommandLine",
+                                 "what is written to a file is not printed, and there is nothing "
+                                 "to wait for; leave out --to"));
+    if (line.script == QStringLiteral("-") && readsStandardInput(line))
         return refused(QStringLiteral("--script -"),
                        translate("CommandLine",
                                  "standard input is the document already; name one of them "
@@ -365,10 +408,14 @@ std::optional<Error> findClash(const CommandLine &line)
 
 } // namespace
 
+bool readsStandardInput(const CommandLine &line)
+{
+    return line.files.isEmpty() ? !line.demo : line.files.contains(standardInputName);
+}
+
 Result<CommandLine> parseCommandLine(const QStringList &arguments)
 {
     CommandLine line;
-    bool hasFile = false;
     bool optionsEnded = false;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments[i];
@@ -376,7 +423,7 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
             if (argument.isEmpty())
                 return refused(QStringLiteral("\"\""),
                                translate("CommandLine", "a document has a name"));
-            if (const auto taken = takeFile(line, argument, &hasFile); !taken)
+            if (const auto taken = takeFile(line, argument); !taken)
                 return taken.error();
             continue;
         }
@@ -419,10 +466,10 @@ QString usageText()
     constexpr int helpColumn = 28;
     QString text =
         translate("CommandLine",
-                  "Usage: kelvo-print [OPTION]... [FILE]\n"
+                  "Usage: kelvo-print [OPTION]... [FILE]...\n"
                   "\n"
-                  "Shows the print dialog for FILE, or for standard input: PDF, PostScript, text\n"
-                  "or a picture.\n"
+                  "Shows the print dialog for the FILEs, or for standard input (-): PDF,\n"
+                  "PostScript, text or pictures. Each is a job of its own.\n"
                   "\n");
     for (const OptionRow &row : optionRows) {
         QStringList names;

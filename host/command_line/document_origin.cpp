@@ -19,12 +19,12 @@ StandardInput standardInput()
 
 DocumentOrigin documentOrigin(const CommandLine &line, StandardInput input)
 {
-    if (!line.file.isEmpty())
-        return DocumentOrigin::File;
-    if (line.demo && !line.readsStandardInput)
+    if (!line.files.isEmpty() && !readsStandardInput(line))
+        return DocumentOrigin::Files;
+    if (line.files.isEmpty() && line.demo)
         return DocumentOrigin::Sample;
     const bool isUserThere = !line.noWindow && !line.script && !line.listControls;
-    if (isUserThere && !line.readsStandardInput && input != StandardInput::Data)
+    if (isUserThere && line.files.isEmpty() && input != StandardInput::Data)
         return DocumentOrigin::Chooser;
     return input == StandardInput::Terminal ? DocumentOrigin::Missing
                                             : DocumentOrigin::StandardInput;

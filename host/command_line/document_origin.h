@@ -13,11 +13,11 @@ enum class StandardInput {
 
 StandardInput standardInput();
 
-// Where a job's document comes from.
+// Where the documents come from.
 enum class DocumentOrigin {
-    File,          // that was named
+    Files,         // that were named
     Sample,        // of --demo
-    StandardInput, // also one that is empty, which its reader says
+    StandardInput, // alone or beside files; also one that is empty, which its reader says
     Chooser,       // the user is asked, in a window
     Missing,       // nobody can be asked
 };

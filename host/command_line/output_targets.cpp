@@ -1,6 +1,8 @@
 #include "output_targets.h"
 
+#include "document.h"
 #include "file_names.h"
+#include "several_documents.h"
 #include "texts.h"
 #include "ticket_file.h"
 
@@ -23,13 +25,10 @@ bool isSameFile(const struct stat &one, const struct stat &other)
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
-std::optional<struct stat> documentStatus(const CommandLine &line)
+std::optional<struct stat> standardInputStatus()
 {
-    if (!line.file.isEmpty())
-        return fileStatus(line.file);
     struct stat status = {};
-    if ((line.demo && !line.readsStandardInput) || ::fstat(STDIN_FILENO, &status) != 0
-        || !S_ISREG(status.st_mode))
+    if (::fstat(STDIN_FILENO, &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     return status;
 }
@@ -49,8 +48,15 @@ struct Input
 // What is read and belongs to the user. A ticket may be read and written again.
 QList<Input> inputsOf(const CommandLine &line)
 {
-    QList<Input> inputs{{translate("CommandLine", "%1 is the document itself; it would be lost"),
-                         documentStatus(line)}};
+    QList<Input> inputs;
+    const QString document =
+        translate("CommandLine", "%1 is the document itself; it would be lost");
+    for (const QString &file : line.files) {
+        if (file != QLatin1String("-"))
+            inputs.append({document, fileStatus(file)});
+    }
+    if (readsStandardInput(line))
+        inputs.append({document, standardInputStatus()});
     if (line.script && *line.script != QLatin1String("-"))
         inputs.append({translate("CommandLine", "%1 is the script itself; it would be lost"),
                        fileStatus(*line.script)});
@@ -73,6 +79,19 @@ Result<void> checkTarget(const QString &option, const QString &target, const QLi
             return Error{Code::Refused, option, input.problem.arg(target)};
     }
     return {};
+}
+
+// Where --to writes jobs.
+QStringList foldersOf(const CommandLine &line)
+{
+    if (!line.toFolder)
+        return {};
+    if (line.join || line.files.size() < 2)
+        return {*line.toFolder};
+    QStringList folders;
+    for (const QString &file : line.files)
+        folders << folderOfOne(*line.toFolder, int(folders.size()) + 1, titleOf({file, {}}));
+    return folders;
 }
 
 } // namespace
@@ -110,9 +129,9 @@ Result<void> checkOutputTargets(const CommandLine &line)
         if (auto checked = checkTicketTarget(*target); !checked)
             return Error{checked.error().code, option, checked.error().text()};
     }
-    if (line.toFolder) {
+    for (const QString &folder : foldersOf(line)) {
         for (const char *name : {"document.pdf", "options", "ticket.plist"}) {
-            const QString target = *line.toFolder + u'/' + QLatin1String(name);
+            const QString target = folder + u'/' + QLatin1String(name);
             if (auto checked = checkTarget(QStringLiteral("--to"), target, inputs); !checked)
                 return checked;
         }

@@ -82,9 +82,14 @@ Result<Connection> connectToServer(Patience &patience)
                                  .arg(serverName(), reason),
                              howToFindTheServer()})};
     }
-    httpSetTimeout(http.get(), wakeUp, goOn, &patience);
+    endWith(http.get(), patience);
     patience.progress();
     return http;
+}
+
+void endWith(http_t *http, Patience &patience)
+{
+    httpSetTimeout(http, wakeUp, goOn, &patience);
 }
 
 ipp_t *newRequest(ipp_op_t operation)

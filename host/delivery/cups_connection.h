@@ -71,6 +71,10 @@ Message askAtOnce(http_t *http, ipp_t *request, Patience &patience);
 // is over; it is borrowed. This thread is never asked for a password then.
 Result<Connection> connectToServer(Patience &patience);
 
+// What is called on `http` fails within a quarter of a second once `patience`, which is borrowed,
+// is over.
+void endWith(http_t *http, Patience &patience);
+
 // The server for messages: "localhost:631", or a socket's path.
 QString serverName();
 

@@ -19,6 +19,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -119,8 +120,6 @@ Result<PreparedJob> prepareJob(const JobRequest &request)
     return job;
 }
 
-namespace {
-
 Result<void> provideFolder(const QString &folder)
 {
     if (::mkdir(fileNameBytes(folder).constData(), 0700) == 0)
@@ -144,6 +143,8 @@ Result<void> provideFolder(const QString &folder)
                              .arg(QString::fromUtf8(std::strerror(reason))),
                          writingAdvice(reason)})};
 }
+
+namespace {
 
 // Every file before the first one is replaced: a job is never half a new one.
 Result<void> checkReplaceable(const QStringList &paths)
@@ -207,7 +208,7 @@ bool isSameFile(const struct stat &one, const struct stat &other)
 }
 
 // What may not be replaced by a PDF.
-Result<void> checkPdfTarget(const QString &path, const QString &document)
+Result<void> checkPdfTarget(const QString &path, const QStringList &documents)
 {
     const auto there = fileStatus(path);
     if (!there) {
@@ -220,8 +221,11 @@ Result<void> checkPdfTarget(const QString &path, const QString &document)
                              .arg(parent)};
         return {};
     }
-    const auto printed = document.isEmpty() ? std::nullopt : fileStatus(document);
-    if (printed && isSameFile(*printed, *there))
+    const auto isPrinted = [&there](const QString &document) {
+        const auto printed = fileStatus(document);
+        return printed && isSameFile(*printed, *there);
+    };
+    if (std::ranges::any_of(documents, isPrinted))
         return Error{Code::Refused, path,
                      translate("Delivery",
                                "this is the document itself, which would be lost; name another "
@@ -254,9 +258,9 @@ mode_t usualRights()
 
 } // namespace
 
-Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document)
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QStringList &documents)
 {
-    if (auto checked = checkPdfTarget(path, document); !checked)
+    if (auto checked = checkPdfTarget(path, documents); !checked)
         return checked;
     const auto before = fileStatus(path);
     auto pdf = StagedFile::withCopy(path, job.pdfPath);
@@ -300,7 +304,7 @@ struct Sending
 
 QString jobName(const Sending &sending)
 {
-    return QStringLiteral("%1-%2").arg(sending.queue).arg(sending.jobId.load());
+    return SentJob{sending.queue, sending.jobId}.name();
 }
 
 QString nothingPrinted(const QString &problem)
@@ -346,7 +350,7 @@ void addOption(ipp_t *request, const JobOption &option)
     // noNAME, and not as the PPD's choice.
     const bool isFlag = value.compare("true", Qt::CaseInsensitive) == 0
         || value.compare("false", Qt::CaseInsensitive) == 0;
-    if (isFlag)
+    if (isFlag || option.isText)
         ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.constData(), nullptr,
                      value.constData());
     else
@@ -485,7 +489,7 @@ QString cancelJob(const Sending &sending, const QString &problem)
 }
 
 // All that talks to the server, on a thread of its own.
-Result<DeliveredJob> send(Sending &sending)
+Result<SentJob> send(Sending &sending)
 {
     const auto http = connectToServer(sending.patience);
     if (!http)
@@ -502,14 +506,13 @@ Result<DeliveredJob> send(Sending &sending)
             error.detail = cancelJob(sending, error.detail);
         return error;
     }
-    return DeliveredJob{jobName(sending)};
+    return SentJob{sending.queue, sending.jobId};
 }
 
 } // namespace
 
-Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue,
-                                    const QString &title, int timeoutMs,
-                                    const std::atomic_bool &cancelled)
+Result<SentJob> deliverToQueue(const PreparedJob &job, const QString &queue, const QString &title,
+                               int timeoutMs, const std::atomic_bool &cancelled)
 {
     const auto name = queueName(queue);
     if (!name)
@@ -526,8 +529,8 @@ Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue
         return sinceStop.isValid() ? sinceStop.hasExpired(graceMs())
                                    : sending->patience.isTimedOut(graceMs());
     };
-    if (auto result = runAside<DeliveredJob>([sending] { return send(*sending); },
-                                             [sending] { return sending->queue; }, isGivenUp))
+    if (auto result = runAside<SentJob>([sending] { return send(*sending); },
+                                        [sending] { return sending->queue; }, isGivenUp))
         return *result;
     const Error error =
         sinceStop.isValid() ? serverError(sending->patience, sending->queue) : noAnswer(*sending);

@@ -6,6 +6,7 @@
 #include "ppd_file.h"
 #include "result.h"
 #include "secret_keys.h"
+#include "sent_job.h"
 #include "ticket_file.h"
 
 #include <QByteArray>
@@ -23,6 +24,8 @@ namespace kelvo {
 struct JobOption
 {
     QString name, value;
+    // It goes as a text, whatever IPP has for that name: what hands it on takes it for that.
+    bool isText = false;
     friend bool operator==(const JobOption &, const JobOption &) = default;
 };
 
@@ -71,14 +74,13 @@ Result<PreparedJob> prepareJob(const JobRequest &request);
 Result<void> deliverToFolder(const PreparedJob &job, const QString &folder);
 
 // Writes the job's PDF to `path`, over another PDF, whose rights stay; a new one has those that the
-// user's files have. Refused for what is no PDF, and for `document`, the file that is printed
-// (empty: none): it would be lost. After an error what stood there stays.
-Result<void> deliverToPdf(const PreparedJob &job, const QString &path, const QString &document);
+// user's files have. Refused for what is no PDF, and for one of `documents`, the files that are
+// printed: it would be lost. After an error what stood there stays.
+Result<void> deliverToPdf(const PreparedJob &job, const QString &path,
+                          const QStringList &documents);
+// Makes `folder`, 0700, in one that is there; one that is there keeps its rights. NotWritable.
+Result<void> provideFolder(const QString &folder);
 
-struct DeliveredJob
-{
-    QString name; // "Hall-123"
-};
 // Streams the job to the queue. Blocks: call it on a worker thread. What libcups
 // does happens on yet another one, which is left to itself when the server does
 // not answer.
@@ -92,8 +94,7 @@ struct DeliveredJob
 // `timeoutMs` without progress; `cancelled` stops it before the document is
 // complete. A half-sent job is cancelled on the server. A job that may have been
 // accepted is never sent twice: the error says so then, and where to look.
-Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue,
-                                    const QString &title, int timeoutMs,
-                                    const std::atomic_bool &cancelled);
+Result<SentJob> deliverToQueue(const PreparedJob &job, const QString &queue, const QString &title,
+                               int timeoutMs, const std::atomic_bool &cancelled);
 
 } // namespace kelvo

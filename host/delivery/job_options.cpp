@@ -1,6 +1,9 @@
 #include "job_options.h"
 
 #include "device_offers.h"
+#include "ipp_job_options.h"
+#include "ipp_options.h"
+#include "job_timing.h"
 #include "ppd_words.h"
 #include "size_limits.h"
 #include "texts.h"
@@ -161,8 +164,8 @@ void addPpdChoices(const PPDDictionary &wanted, const PpdFile &ppd, OptionList &
     }
 }
 
-void addHostOptions(const JobSettings &settings, const QMap<QString, QString> &queueDefaults,
-                    OptionList &options)
+void addHostOptions(const JobSettings &settings, const PpdFile *ppd,
+                    const QMap<QString, QString> &queueDefaults, OptionList &options)
 {
     const auto isDefaulted = [&](const char *name) {
         return queueDefaults.contains(QLatin1String(name));
@@ -172,8 +175,22 @@ void addHostOptions(const JobSettings &settings, const QMap<QString, QString> &q
         options.add(QStringLiteral("multiple-document-handling"),
                     settings.collate ? QStringLiteral("separate-documents-collated-copies")
                                      : QStringLiteral("separate-documents-uncollated-copies"));
-    if (settings.copies > 1 || isDefaulted("Collate"))
+    if (!isMadeOfIpp(ppd) && (settings.copies > 1 || isDefaulted("Collate")))
         options.add(QStringLiteral("Collate"), collateWord(settings));
+    // Pages go out as they are to lie on the paper. Filters fit them to what they take for the
+    // printable area, unless they are told.
+    if (!readsTickets(ppd))
+        options.add(QStringLiteral("print-scaling"), QStringLiteral("none"));
+}
+
+// Of what the queue would do with pages that are laid out: nothing.
+void addNeutral(const QMap<QString, QString> &queueDefaults, OptionList &options)
+{
+    for (const NeutralRow &row : neutralRows) {
+        const QString neutral = QLatin1String(row.value);
+        if (queueDefaults.value(QLatin1String(row.name), neutral) != neutral)
+            options.add(QLatin1String(row.name), neutral);
+    }
 }
 
 void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDefaults, bool hasPpd,
@@ -189,11 +206,15 @@ void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDe
         if (!value.isEmpty() && (!hasPpd || queueDefaults.value(twin, value) != value))
             options.add(twin, value);
     }
-    for (const NeutralRow &row : neutralRows) {
-        const QString neutral = QLatin1String(row.value);
-        if (queueDefaults.value(QLatin1String(row.name), neutral) != neutral)
-            options.add(QLatin1String(row.name), neutral);
-    }
+}
+
+// The server's own attributes, which problemOf() would refuse of a PPD.
+void addTiming(const JobTiming &timing, OptionList &options)
+{
+    if (timing.priority)
+        options.add(QLatin1String(kJobPriorityOption), QString::number(*timing.priority));
+    if (!timing.holdUntil.isEmpty())
+        options.add(QLatin1String(kJobHoldUntilOption), timing.holdUntil);
 }
 
 } // namespace
@@ -203,11 +224,14 @@ Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSet
                                           const QMap<QString, QString> &queueDefaults)
 {
     const PPDDictionary wanted = wantedChoices(ticket, settings, ppd, queueDefaults);
+    const bool isOfIpp = isMadeOfIpp(ppd);
     OptionList options;
-    if (ppd)
+    if (ppd && !isOfIpp)
         addPpdChoices(wanted, *ppd, options);
-    addHostOptions(settings, queueDefaults, options);
-    addTwins(wanted, queueDefaults, ppd != nullptr, options);
+    addHostOptions(settings, ppd, queueDefaults, options);
+    if (!isOfIpp)
+        addTwins(wanted, queueDefaults, ppd != nullptr, options);
+    addNeutral(queueDefaults, options);
     for (const JobOption &option : options.options()) {
         if (const QString problem = problemOf(option); !problem.isEmpty())
             return Error{Code::Refused, option.name + u'=' + option.value,
@@ -216,7 +240,13 @@ Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSet
                                    "another")
                              .arg(problem)};
     }
-    return options.take();
+    addTiming(jobTimingFrom(ticket.printSettings), options);
+    std::vector<JobOption> all = options.take();
+    if (isOfIpp) { // names and values are the printer's own
+        auto attributes = ippJobOptions(wanted, *ppd, queueDefaults);
+        all.insert(all.begin(), attributes.begin(), attributes.end());
+    }
+    return all;
 }
 
 JobOption ticketOption(const QByteArray &sha256, bool hasPasscode, bool isFax)

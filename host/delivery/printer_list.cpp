@@ -227,7 +227,7 @@ void addPrinters(const Queue &queue, const UserDestinations &user, QList<Printer
 
 } // namespace
 
-Result<QList<Printer>> readPrinters(Patience &patience)
+Result<QList<Printer>> readPrinters(Patience &patience, const QString &preferred)
 {
     const auto http = connectToServer(patience);
     if (!http)
@@ -250,8 +250,12 @@ Result<QList<Printer>> readPrinters(Patience &patience)
         std::rotate(printers.begin(), found, found + 1);
         return true;
     };
-    if (!printers.isEmpty() && !markDefault(user.defaultName) && !user.isDefaultForced)
-        markDefault(readDefault(http.value().get()));
+    if (printers.isEmpty() || markDefault(user.defaultName) || user.isDefaultForced)
+        return printers;
+    markDefault(readDefault(http.value().get()));
+    const auto first = std::ranges::find(printers, preferred, &Printer::name);
+    if (first != printers.end())
+        std::rotate(printers.begin(), first, first + 1);
     return printers;
 }
 

@@ -1,6 +1,7 @@
 #include "printers.h"
 
 #include "cups_connection.h"
+#include "ipp_ppd.h"
 #include "printer_list.h"
 #include "queue_ppds.h"
 
@@ -28,9 +29,18 @@ Result<FetchedPpd> readPpd(const QString &printer, Patience &patience)
     if (!http)
         return http.error();
     const auto bytes = queuePpd(http.value().get(), queue.value(), patience);
-    if (!bytes)
-        return Error{bytes.error().code, printer, bytes.error().detail};
-    return FetchedPpd{PpdFile::fromBytes(bytes.value(), printer)};
+    if (bytes)
+        return FetchedPpd{PpdFile::fromBytes(bytes.value(), printer)};
+    const Error error{bytes.error().code, printer, bytes.error().detail};
+    if (error.code != Error::Code::NotFound)
+        return error;
+    // Without one, what the printer says of itself; it prints with common settings where that is
+    // nothing, or cannot be had.
+    const auto described = describeQueue(http.value().get(), queue.value(), patience);
+    const QByteArray made = described ? ppdFrom(described.value()) : QByteArray();
+    if (made.isEmpty())
+        return error;
+    return FetchedPpd{PpdFile::fromBytes(made, printer)};
 }
 
 // `work` aside, for a caller that has nothing else to do.
@@ -149,12 +159,12 @@ PrinterDirectory::~PrinterDirectory()
     }
 }
 
-void PrinterDirectory::refresh(int timeoutMs, Ahead ahead)
+void PrinterDirectory::refresh(int timeoutMs, Ahead ahead, const QString &preferred)
 {
     Private::ask<QList<Printer>>(
         d, timeoutMs,
-        [shared = d, timeoutMs, ahead](Patience &patience) {
-            auto printers = readPrinters(patience);
+        [shared = d, timeoutMs, ahead, preferred](Patience &patience) {
+            auto printers = readPrinters(patience, preferred);
             if (ahead == Ahead::PpdOfFirst && printers && !printers.value().isEmpty())
                 shared->fetchAhead(printers.value().first().name, timeoutMs);
             return printers;
@@ -201,7 +211,8 @@ void PrinterDirectory::fetchCondition(const QString &printer, int timeoutMs)
 
 Result<QList<Printer>> listPrinters(int timeoutMs)
 {
-    return askAndWait<QList<Printer>>(readPrinters, serverName, timeoutMs);
+    return askAndWait<QList<Printer>>([](Patience &patience) { return readPrinters(patience); },
+                                      serverName, timeoutMs);
 }
 
 Result<PrinterCondition> printerCondition(const QString &printer, int timeoutMs)

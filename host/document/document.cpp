@@ -23,7 +23,7 @@ namespace kelvo {
 struct Document::Data
 {
     QString title;
-    std::unique_ptr<TemporaryFolder> folder; // goes with us
+    std::shared_ptr<TemporaryFolder> folder; // goes with us
     QString pdfPath;                         // inside the folder
     std::vector<QSizeF> sizes;
     bool isRepaired = false;
@@ -31,16 +31,35 @@ struct Document::Data
     std::shared_ptr<PdfAhead> ahead; // null: pdfPath is to be read again
 };
 
+struct LockedDocument::Data
+{
+    OpenSource source; // closed by now
+    QString title;
+    std::shared_ptr<TemporaryFolder> folder;
+    QString copy; // in it, locked as it came
+};
+
 // Makes documents; the one place that knows how their files lie.
 class DocumentReader
 {
 public:
-    static Result<Document> read(const OpenSource &source, const QString &title, bool onlyPdf,
-                                 const std::atomic_bool &cancelled,
-                                 std::shared_ptr<PdfAhead> ahead = {});
+    struct Wanted
+    {
+        QString title;
+        QStringList passwords = {};
+        bool onlyPdf = false;
+        std::shared_ptr<PdfAhead> ahead = {};
+        LockedDocument *locked = nullptr;
+    };
+    static Result<Document> read(const OpenSource &source, Wanted wanted,
+                                 const std::atomic_bool &cancelled);
+    static Result<Document> unlock(const LockedDocument::Data &locked, const QString &password,
+                                   const std::atomic_bool &cancelled);
+    static Result<Document> join(const std::vector<Document> &documents, const QString &title,
+                                 const std::atomic_bool &cancelled);
 
 private:
-    static Result<std::unique_ptr<TemporaryFolder>> makeFolder();
+    static Result<std::shared_ptr<TemporaryFolder>> makeFolder();
     // The value is the document's remark.
     static Result<QString> convert(DocumentKind kind, const ConverterFiles &files,
                                    const std::atomic_bool &cancelled);
@@ -122,6 +141,11 @@ QString inOneLine(const QString &title)
 
 } // namespace
 
+QString askedTitle(const QString &title)
+{
+    return inOneLine(title);
+}
+
 QString titleOf(const DocumentSource &source)
 {
     QString title = inOneLine(source.title);
@@ -131,9 +155,9 @@ QString titleOf(const DocumentSource &source)
     return title.isEmpty() ? QStringLiteral("(untitled)") : title;
 }
 
-Result<std::unique_ptr<TemporaryFolder>> DocumentReader::makeFolder()
+Result<std::shared_ptr<TemporaryFolder>> DocumentReader::makeFolder()
 {
-    auto folder = std::make_unique<TemporaryFolder>();
+    auto folder = std::make_shared<TemporaryFolder>();
     if (!folder->isValid())
         return folderNotMade(temporaryPath(), folder->errorString());
     return folder;
@@ -150,9 +174,8 @@ Result<QString> DocumentReader::convert(DocumentKind kind, const ConverterFiles 
     return made ? Result<QString>(QString()) : Result<QString>(made.error());
 }
 
-Result<Document> DocumentReader::read(const OpenSource &opened, const QString &title, bool onlyPdf,
-                                      const std::atomic_bool &cancelled,
-                                      std::shared_ptr<PdfAhead> ahead)
+Result<Document> DocumentReader::read(const OpenSource &opened, Wanted wanted,
+                                      const std::atomic_bool &cancelled)
 {
     const QString &where = opened.where;
     auto folder = makeFolder();
@@ -167,7 +190,7 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     auto data = std::make_shared<Document::Data>();
     QString unchecked = source;
     if (kind.value() != DocumentKind::Pdf) {
-        if (onlyPdf)
+        if (wanted.onlyPdf)
             return Error{Error::Code::Damaged, where, translate("Document", "this is no PDF")};
         unchecked = path + QLatin1String("/converted.pdf");
         Result<QString> made = convert(kind.value(), {path, source, unchecked, where}, cancelled);
@@ -177,10 +200,18 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     }
 
     data->pdfPath = path + QLatin1Char('/') + pdfName;
-    Result<PdfPages> pages = ahead ? ahead->tidy(unchecked, data->pdfPath, cancelled)
-                                   : tidyPdf(unchecked, data->pdfPath, cancelled);
-    if (!pages)
+    Result<PdfPages> pages = wanted.ahead
+        ? wanted.ahead->tidy(unchecked, data->pdfPath, wanted.passwords, cancelled)
+        : tidyPdf(unchecked, data->pdfPath, wanted.passwords, cancelled);
+    if (!pages) {
+        const bool isLocked =
+            pages.error().code == Error::Code::Locked || pages.error().code == Error::Code::Refused;
+        if (isLocked && wanted.locked) {
+            wanted.locked->d = std::make_shared<LockedDocument::Data>(
+                LockedDocument::Data{opened, wanted.title, folder.value(), source});
+        }
         return aboutSource(pages.error(), where);
+    }
     // A converter that writes damage has met a full disk or a broken document.
     if (unchecked != source && pages.value().isRepaired) {
         return converterError(Error::Code::Damaged, {path, source, unchecked, where},
@@ -189,12 +220,57 @@ Result<Document> DocumentReader::read(const OpenSource &opened, const QString &t
     QFile::remove(source);
     QFile::remove(unchecked);
 
-    data->title = title;
+    data->title = wanted.title;
     data->sizes = std::move(pages.value().sizes);
     data->isRepaired = pages.value().isRepaired;
     if (pages.value().isSound)
-        data->ahead = std::move(ahead);
+        data->ahead = std::move(wanted.ahead);
     data->folder = std::move(folder).value();
+    Document document;
+    document.d = std::move(data);
+    return document;
+}
+
+Result<Document> DocumentReader::unlock(const LockedDocument::Data &locked, const QString &password,
+                                        const std::atomic_bool &cancelled)
+{
+    auto data = std::make_shared<Document::Data>();
+    data->pdfPath = locked.folder->path() + QLatin1Char('/') + pdfName;
+    QFile::remove(data->pdfPath); // what an earlier try has left
+    Result<PdfPages> pages = tidyPdf(locked.copy, data->pdfPath, {password}, cancelled);
+    if (!pages)
+        return aboutSource(pages.error(), locked.source.where);
+    QFile::remove(locked.copy);
+    data->title = locked.title;
+    data->sizes = std::move(pages.value().sizes);
+    data->isRepaired = pages.value().isRepaired;
+    data->folder = locked.folder;
+    Document document;
+    document.d = std::move(data);
+    return document;
+}
+
+Result<Document> DocumentReader::join(const std::vector<Document> &documents, const QString &title,
+                                      const std::atomic_bool &cancelled)
+{
+    auto folder = makeFolder();
+    if (!folder)
+        return folder.error();
+    auto data = std::make_shared<Document::Data>();
+    data->title = title;
+    data->folder = std::move(folder).value();
+    data->pdfPath = data->folder->path() + QLatin1Char('/') + pdfName;
+    QStringList sources, remarks;
+    for (const Document &document : documents) {
+        sources << document.pdfPath();
+        data->sizes.insert(data->sizes.end(), document.d->sizes.begin(), document.d->sizes.end());
+        data->isRepaired = data->isRepaired || document.isRepaired();
+        if (!document.remark().isEmpty())
+            remarks << document.remark();
+    }
+    data->remark = remarks.join(u' ');
+    if (Result<void> made = joinPdfs(sources, data->pdfPath, cancelled); !made)
+        return aboutSource(made.error(), title);
     Document document;
     document.d = std::move(data);
     return document;
@@ -240,27 +316,41 @@ std::optional<Document::Written> Document::writtenAhead(const PdfLayout &layout,
     return path ? std::optional(Written{path.value(), d}) : std::nullopt;
 }
 
+Result<Document> LockedDocument::unlocked(const QString &password,
+                                          const std::atomic_bool &cancelled) const
+{
+    return DocumentReader::unlock(*d, password, cancelled);
+}
+
+Result<Document> joinDocuments(const std::vector<Document> &documents, const QString &title,
+                               const std::atomic_bool &cancelled)
+{
+    return DocumentReader::join(documents, title, cancelled);
+}
+
 Result<Document> documentFromPdf(const QString &path, const QString &title)
 {
     Result<FileDescriptor> file = openSource(path);
     if (!file)
         return file.error();
     const std::atomic_bool notCancelled = false;
-    return DocumentReader::read({file.value().get(), path}, titleOf({path, title}), true,
-                                notCancelled);
+    return DocumentReader::read({file.value().get(), path},
+                                {.title = titleOf({path, title}), .onlyPdf = true}, notCancelled);
 }
 
 Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled,
-                              std::shared_ptr<PdfAhead> ahead)
+                              std::shared_ptr<PdfAhead> ahead, LockedDocument *locked)
 {
+    DocumentReader::Wanted wanted{titleOf(source), source.passwords, false, std::move(ahead),
+                                  locked};
     if (isStandardInput(source))
-        return DocumentReader::read({STDIN_FILENO, QStringLiteral("(stdin)")}, titleOf(source),
-                                    false, cancelled, std::move(ahead));
+        return DocumentReader::read({STDIN_FILENO, QStringLiteral("(stdin)")}, std::move(wanted),
+                                    cancelled);
     Result<FileDescriptor> file = openSource(source.path);
     if (!file)
         return file.error();
     return DocumentReader::read({file.value().get(), source.path, source.patienceMs},
-                                titleOf(source), false, cancelled, std::move(ahead));
+                                std::move(wanted), cancelled);
 }
 
 } // namespace kelvo

@@ -5,6 +5,7 @@
 
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include <atomic>
 #include <memory>
@@ -48,10 +49,31 @@ private:
     std::shared_ptr<const Data> d;
 };
 
+// A document that only a password opens, or lets be printed, with the copy that was made of it: a
+// pipe is read once. A value; cheap to copy.
+class LockedDocument
+{
+public:
+    bool isNull() const { return !d; }
+    // Locked or Refused: that is not the password. It can be tried again, but not at once in two
+    // threads. As openDocument() else.
+    Result<Document> unlocked(const QString &password, const std::atomic_bool &cancelled) const;
+
+private:
+    friend class DocumentReader;
+    struct Data;
+    std::shared_ptr<const Data> d;
+};
+
 // A PDF that is checked, copied and counted. What qpdf can repair is repaired,
-// else it is Damaged; Refused when it asks for a password or its author does
+// else it is Damaged; Locked when it asks for a password, Refused when its author does
 // not allow printing. `title` empty: the file's name.
 Result<Document> documentFromPdf(const QString &path, const QString &title);
+
+// One document of all pages of `documents`, in their order; each keeps what is typed into its
+// fields (see joinPdfs()). Blocks; errors as of openDocument().
+Result<Document> joinDocuments(const std::vector<Document> &documents, const QString &title,
+                               const std::atomic_bool &cancelled);
 
 // Where a document comes from.
 struct DocumentSource
@@ -61,24 +83,29 @@ struct DocumentSource
     // How long a pipe that `path` names may send nothing before it is given up; 0, and
     // for standard input: for ever.
     int patienceMs = 0;
+    QStringList passwords = {}; // tried where it asks for one
 };
 
 // What the job is called, in one line that every place takes where a title goes: the
 // ticket, the print server, windows. Control characters and what turns the direction
 // of text are left out.
 QString titleOf(const DocumentSource &source);
+// A title that somebody asks for, likewise; empty where nothing of it is left.
+QString askedTitle(const QString &title);
 
 // Reads PDF, PostScript, plain text (UTF-8, else Latin-1) and pictures, told
 // apart by their bytes, and makes a PDF of each, in child processes with limits on
 // time, memory and size; PostScript through Ghostscript. Blocks: call it on a worker
 // thread; `cancelled` is looked at ten times a second.
 // Unsupported, TooLarge (limits::documentBytes, textBytes, pictureBytes),
-// Damaged, Refused, TimedOut and Cancelled are about the source, and so is a text that
+// Damaged, Locked, Refused, TimedOut and Cancelled are about the source, and so is a text that
 // no font has the characters of (Unsupported); NotWritable is about the temporary
 // folder.
 //
-// With `ahead`, what the helper has read is kept for writtenAhead().
+// With `ahead`, what the helper has read is kept for writtenAhead(). `locked` gets what a password
+// is missing for.
 Result<Document> openDocument(const DocumentSource &source, const std::atomic_bool &cancelled,
-                              std::shared_ptr<PdfAhead> ahead = {});
+                              std::shared_ptr<PdfAhead> ahead = {},
+                              LockedDocument *locked = nullptr);
 
 } // namespace kelvo

@@ -23,10 +23,11 @@ struct Caution
         Noted,   // nothing that was wanted here is lost: shown, and not said when driven
     };
     Weight weight = Weight::Told;
-    QString text;             // one sentence
-    QString advice = {};      // what to do, or what becomes of it; may be empty
-    QStringList items = {};   // what may be put away, until there is more of it
-    bool hasHappened = false; // a driven run says it at once, and not only when it prints
+    QString text;              // one sentence
+    QString advice = {};       // what to do, or what becomes of it; may be empty
+    QStringList items = {};    // what may be put away, until there is more of it
+    bool hasHappened = false;  // a driven run says it at once, and not only when it prints
+    bool isOfDocument = false; // of several, each has its own
 
     QString sentences() const; // both
     friend bool operator==(const Caution &, const Caution &) = default;

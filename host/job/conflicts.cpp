@@ -155,6 +155,14 @@ QStringList ConflictReport::sentences() const
     return sentences;
 }
 
+QStringList ConflictReport::options() const
+{
+    QStringList keywords;
+    for (const Conflict &conflict : conflicts)
+        keywords += conflict.options;
+    return keywords;
+}
+
 ConflictReport findConflicts(const PrintSession &session, PpdFile &ppd, const QStringList &lastSet)
 {
     const PpdSelection selection = offeredChoices(session.printSettings().ppdChoices, ppd);

@@ -25,6 +25,7 @@ struct ConflictReport
     QStringList fixWords; // "Set Stapling to None"
     bool isEmpty() const { return conflicts.empty(); }
     QStringList sentences() const; // of the conflicts
+    QStringList options() const;   // of all conflicts, keywords
 };
 
 // What is wrong with the session's choices on this PPD; choices that the PPD

@@ -1,8 +1,11 @@
 #include "job_settings.h"
 
 #include "device_offers.h"
+#include "ipp_options.h"
+#include "job_timing.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
+#include "standard_words.h"
 #include "texts.h"
 #include "ticket_layers.h"
 #include "values.h"
@@ -320,7 +323,9 @@ Result<TicketPlaces> applyMedia(const Request &request)
             continue;
         }
         for (const PpdOption *option : others) {
-            const auto choice = option ? findChoiceName(part, *option) : std::nullopt;
+            auto choice = option ? findChoiceName(part, *option) : std::nullopt;
+            if (option && !choice) // "tray-2", as IPP has it
+                choice = findChoiceName(ppdName(part), *option);
             if (!choice)
                 continue;
             choices.insert(option->keyword, *choice);
@@ -532,6 +537,33 @@ Result<TicketPlaces> applyPageRanges(const Request &request)
                           [&](JobSettings &settings) { settings.pageRanges = request.value; });
 }
 
+// The server's own, which no printer has.
+TicketPlaces applyTiming(const Request &request, const JobTiming &timing, const QString &key)
+{
+    writeJobTiming(timing, request.session);
+    return {{kPMPrintSettingsTicket, key}};
+}
+
+Result<TicketPlaces> applyPriority(const Request &request)
+{
+    const auto priority = priorityFrom(request.value);
+    if (!priority)
+        return request.error(priority.error().code, priority.error().detail);
+    JobTiming timing = jobTimingFrom(request.session.printSettings());
+    timing.priority = priority.value();
+    return applyTiming(request, timing, kJobPriorityKey);
+}
+
+Result<TicketPlaces> applyHoldUntil(const Request &request)
+{
+    const auto hold = holdUntilFrom(request.value);
+    if (!hold)
+        return request.error(hold.error().code, hold.error().detail);
+    JobTiming timing = jobTimingFrom(request.session.printSettings());
+    timing.holdUntil = hold.value();
+    return applyTiming(request, timing, kJobHoldUntilKey);
+}
+
 struct OptionRow
 {
     const char *name;
@@ -571,7 +603,111 @@ constexpr OptionRow optionRows[] = {
          return applyWord(request, outputOrderRows, kPMReverseOrderKey,
                           [](JobSettings &settings, bool value) { settings.isReversed = value; });
      }},
+    {kJobPriorityOption, applyPriority},
+    {kJobHoldUntilOption, applyHoldUntil},
 };
+
+// What IPP's values are called in PPDs of makers.
+constexpr WordRow makersRows[] = {
+    {"monochrome", "Gray"}, {"monochrome", "KGray"}, {"monochrome", "Grayscale"},
+    {"monochrome", "Mono"}, {"monochrome", "Black"}, {"color", "RGB"},
+    {"color", "CMYK"},      {"color", "Color"},      {"3", "Draft"},
+    {"4", "Normal"},        {"5", "High"},
+};
+
+// The choice that says what `value` says of an attribute of IPP, as it is written there.
+std::optional<QString> findIppChoice(const QString &attribute, const QString &value,
+                                     const PpdOption &option, const PpdFile &ppd)
+{
+    const QString word = value.toLower();
+    for (const PpdChoice &choice : option.choices) {
+        if (isMadeOfIpp(&ppd) && ppd.code(option.keyword, choice.keyword).toLower() == word)
+            return choice.keyword;
+    }
+    QStringList names{choiceOfIpp(attribute, word)};
+    for (const WordRow &row : makersRows) {
+        if (word == QLatin1String(row.word))
+            names << QLatin1String(row.choice);
+    }
+    for (const QString &name : names) {
+        if (const auto choice = findChoiceName(name, option))
+            return choice;
+    }
+    return std::nullopt;
+}
+
+Error lacksOption(const Request &request)
+{
+    return request.error(Code::NotFound,
+                         translate("Job", "this printer does not have this option"));
+}
+
+// A finishing's number, where the print server has written into its PPD what that is.
+std::optional<std::pair<QString, QString>> finishingOfNumber(const QString &number,
+                                                             const PpdFile &ppd)
+{
+    // "*StapleLocation SinglePortrait"
+    const QString rule = ppd.attribute("cupsIPPFinishings", number).value_or(QString()).trimmed();
+    const QString option = rule.section(u' ', 0, 0).mid(1);
+    const QString choice = rule.section(u' ', 1, 1);
+    if (!rule.startsWith(u'*') || !offers(ppd, option, choice))
+        return std::nullopt;
+    return std::pair(option, choice);
+}
+
+// "finishings=4,20": each belongs to an option of its own kind.
+Result<TicketPlaces> applyFinishings(const Request &request)
+{
+    std::vector<const PpdOption *> options;
+    for (const QString &name : finishingOptions()) {
+        if (const PpdOption *option = request.ppd->findOption(name))
+            options.push_back(option);
+    }
+    if (options.empty())
+        return lacksOption(request);
+    PpdSelection choices;
+    for (const PpdOption *option : options) // the list is all that is done
+        choices.insert(option->keyword, QStringLiteral("None"));
+    QStringList known{QStringLiteral("none")};
+    for (const QString &value : request.value.split(u',')) {
+        bool isFound = value == QLatin1String("none") || value == QLatin1String("3");
+        if (const auto finishing = finishingOfNumber(value, *request.ppd)) {
+            choices.insert(finishing->first, finishing->second);
+            isFound = true;
+        }
+        for (const PpdOption *option : options) {
+            known << choiceNames(*option).mid(1);
+            const auto choice =
+                isFound ? std::nullopt : findIppChoice(request.name, value, *option, *request.ppd);
+            if (!choice)
+                continue;
+            choices.insert(option->keyword, *choice);
+            isFound = true;
+        }
+        if (!isFound)
+            return request.error(
+                Code::NotFound,
+                nearestOrAll(translate("Job", "there is no such value"), value, known));
+    }
+    TicketPlaces places;
+    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
+        places.merge(request.choose(choice.key(), *choice));
+    return places;
+}
+
+// An attribute of IPP: what the PPD has for it.
+Result<TicketPlaces> applyIpp(const Request &request)
+{
+    if (request.name.compare(QLatin1String("finishings"), Qt::CaseInsensitive) == 0)
+        return applyFinishings(request);
+    const PpdOption *option = request.ppd->findOption(optionOfIpp(request.name));
+    if (!option)
+        return lacksOption(request);
+    const auto choice = findIppChoice(request.name.toLower(), request.value, *option, *request.ppd);
+    if (!choice)
+        return request.unknownValue(choiceNames(*option));
+    return request.choose(option->keyword, *choice);
+}
 
 PageLayout layoutFrom(const Ticket &print)
 {
@@ -628,7 +764,7 @@ const QStringList &pageEntries()
 
 const QStringList &entriesOfOneJob()
 {
-    static const QStringList keys{kPMJobNameKey, kPMPageRangesKey, kPMPageSetKey};
+    static const QStringList keys{kPMJobNameKey, kPMPageRangesKey, kPMPageSetKey, kJobHoldUntilKey};
     return keys;
 }
 
@@ -685,13 +821,18 @@ void writeJobSettings(const JobSettings &settings, const PpdFile *ppd, PrintSess
                        {0.0, 0.0, size->height(), size->width()});
 }
 
+QString defaultPaper(const PpdFile &ppd)
+{
+    const PpdOption *papers = ppd.findOption(pageSizeOption);
+    return papers ? papers->defaultChoice : QString();
+}
+
 QString paperAsLargeAs(const QSizeF &page, const PpdFile &ppd)
 {
     const auto fits = [&page](const PpdPageSize &size) {
         return isSameSize(page, QSizeF(size.width, size.height));
     };
-    const PpdOption *papers = ppd.findOption(pageSizeOption);
-    const PpdPageSize *usual = papers ? ppd.findPageSize(papers->defaultChoice) : nullptr;
+    const PpdPageSize *usual = ppd.findPageSize(defaultPaper(ppd));
     if (usual && fits(*usual))
         return usual->name;
     // The same paper with other margins or fed otherwise ("A4.Fullbleed", "A4Small") is called
@@ -712,9 +853,8 @@ bool namesPaper(const QMap<QString, QString> &queueDefaults, const PpdFile &ppd)
     };
     if (isNamed("PageSize") || isNamed("PageRegion"))
         return true;
-    const PpdOption *papers = ppd.findOption(pageSizeOption);
     const auto media = findPageSizeName(queueDefaults.value(QStringLiteral("media")), ppd);
-    return media && papers && *media != papers->defaultChoice;
+    return media && *media != defaultPaper(ppd);
 }
 
 std::optional<Paper> paperNamed(const QString &name, const PpdFile &ppd)
@@ -754,8 +894,12 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd)
 Result<TicketPlaces> applyOption(const AskedOption &asked, const PpdFile *ppd,
                                  PrintSession &session)
 {
-    const OptionValue meant = meaningOf(asked, [ppd](const QString &name) {
-        return findRow(optionRows, name, &OptionRow::name) || findOptionInAnyCase(name, ppd);
+    const auto isOfIpp = [ppd](const QString &name) {
+        return ppd && ippAttributes().contains(name, Qt::CaseInsensitive);
+    };
+    const OptionValue meant = meaningOf(asked, [&](const QString &name) {
+        return findRow(optionRows, name, &OptionRow::name) || findOptionInAnyCase(name, ppd)
+            || isOfIpp(name);
     });
     const Request request{asked, meant.name, meant.value, ppd, session};
     const OptionRow *row = findRow(optionRows, request.name, &OptionRow::name);
@@ -773,6 +917,8 @@ Result<TicketPlaces> applyOption(const AskedOption &asked, const PpdFile *ppd,
             applied.value().merge(places);
         return applied;
     }
+    if (isOfIpp(request.name))
+        return applyIpp(request);
 
     QStringList known = words(optionRows, &OptionRow::name);
     if (ppd) {

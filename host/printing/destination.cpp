@@ -2,6 +2,7 @@
 
 #include "cautions.h"
 #include "printers.h"
+#include "several_documents.h"
 
 #include <QCoreApplication>
 
@@ -48,7 +49,7 @@ public:
         const auto delivered = deliverToQueue(job, m_queue, m_title, m_timeoutMs, cancelled);
         if (!delivered)
             return {statusOfDelivery(delivered.error().code), {}, whyNot(delivered.error())};
-        return {ExitStatus::Printed, delivered.value().name, {}};
+        return {ExitStatus::Printed, delivered.value().name(), {}, delivered.value()};
     }
 
     QString onTheWay() const override { return tr("Sending to %1…").arg(m_queue); }
@@ -82,23 +83,32 @@ class Folder : public Destination
     Q_DECLARE_TR_FUNCTIONS(kelvo::Folder)
 
 public:
-    explicit Folder(const QString &folder)
+    // `outer`, which is made first; empty: it must be there.
+    explicit Folder(const QString &folder, const QString &outer = {})
         : m_folder(folder)
+        , m_outer(outer)
     {
     }
 
     PrintOutcome deliver(const PreparedJob &job, const std::atomic_bool &) const override
     {
+        if (const auto made = m_outer.isEmpty() ? Result<void>() : provideFolder(m_outer); !made)
+            return {ExitStatus::Failed, {}, made.error().text()};
         if (const auto delivered = deliverToFolder(job, m_folder); !delivered)
             return {ExitStatus::Failed, {}, delivered.error().text()};
         return {ExitStatus::Printed, m_folder, {}};
+    }
+
+    std::shared_ptr<const Destination> ofOne(int number, const QString &title) const override
+    {
+        return std::make_shared<Folder>(folderOfOne(m_folder, number, title), m_folder);
     }
 
     QString onTheWay() const override { return tr("Writing to %1…").arg(m_folder); }
     QString arrived(const QString &place) const override { return tr("Written to %1").arg(place); }
 
 private:
-    const QString m_folder;
+    const QString m_folder, m_outer;
 };
 
 class PdfFile : public Destination
@@ -106,32 +116,45 @@ class PdfFile : public Destination
     Q_DECLARE_TR_FUNCTIONS(kelvo::Folder)
 
 public:
-    PdfFile(const QString &path, const QString &document)
+    PdfFile(const QString &path, const QStringList &documents)
         : m_path(path)
-        , m_document(document)
+        , m_documents(documents)
     {
     }
 
     PrintOutcome deliver(const PreparedJob &job, const std::atomic_bool &) const override
     {
-        if (const auto delivered = deliverToPdf(job, m_path, m_document); !delivered)
+        if (const auto delivered = deliverToPdf(job, m_path, m_documents); !delivered)
             return {ExitStatus::Failed, {}, delivered.error().text()};
         return {ExitStatus::Printed, m_path, {}};
     }
 
     bool isForPeople() const override { return true; }
+    std::shared_ptr<const Destination> ofOne(int number, const QString &) const override
+    {
+        constexpr qsizetype ending = 4; // ".pdf"
+        QString path = m_path;
+        return std::make_shared<PdfFile>(
+            path.insert(path.size() - ending, u'-' + QString::number(number)), m_documents);
+    }
     QString onTheWay() const override { return tr("Writing to %1…").arg(m_path); }
     QString arrived(const QString &place) const override { return tr("Written to %1").arg(place); }
 
 private:
-    const QString m_path, m_document;
+    const QString m_path;
+    const QStringList m_documents;
 };
 
 } // namespace
 
-std::shared_ptr<const Destination> pdfDestination(const QString &path, const QString &document)
+std::shared_ptr<const Destination> pdfDestination(const QString &path, const QStringList &documents)
 {
-    return std::make_shared<PdfFile>(path, document);
+    return std::make_shared<PdfFile>(path, documents);
+}
+
+std::shared_ptr<const Destination> Destination::ofOne(int, const QString &) const
+{
+    return nullptr;
 }
 
 std::shared_ptr<const Destination> queueDestination(const QString &queue, const QString &title,

@@ -7,6 +7,7 @@
 #include "session_cautions.h"
 #include "session_words.h"
 #include "terminal.h"
+#include "texts.h"
 
 #include <QTimer>
 
@@ -33,7 +34,7 @@ PrintFlow::PrintFlow(DialogSession &session, SessionCautions &cautions, PrintPla
 
 QString PrintFlow::notPrinted() const
 {
-    return tr("“%1” was not printed").arg(m_session.document().title());
+    return tr("“%1” was not printed").arg(m_session.documents().title());
 }
 
 QString PrintFlow::whyNotReady() const
@@ -43,11 +44,12 @@ QString PrintFlow::whyNotReady() const
     if (m_session.stage() == Stage::Stuck)
         return tr("%1. %2", "a headline and what follows it")
             .arg(m_session.message().header, m_session.message().text);
-    const DocumentOpening &document = m_session.document();
-    if (document.isPending())
-        return tr("The document is not open yet.");
-    if (document.document().isNull())
-        return document.problem();
+    const SessionDocuments &documents = m_session.documents();
+    if (documents.isPending())
+        return documents.count() == 1 ? tr("The document is not open yet.")
+                                      : tr("Not all documents are open yet.");
+    if (const QString problem = documents.problem(); !problem.isEmpty())
+        return problem;
     // That nobody has named this printer is told first.
     const bool isNamed = m_questions || !m_session.search().isAssumed();
     const Caution *refused = isNamed ? m_cautions.find(Caution::Weight::Refused) : nullptr;
@@ -56,6 +58,8 @@ QString PrintFlow::whyNotReady() const
 
 void PrintFlow::refuse(Step step, ExitStatus status, const QString &header, const QString &problem)
 {
+    if (step == Step::Job)
+        m_isPrinting = false;
     m_refusal = PrintRefusal{step, status, header, problem};
     emit refused(PrintRefusal(*m_refusal)); // whoever hears it may press again
 }
@@ -69,36 +73,42 @@ void PrintFlow::refuseUnready()
 
 void PrintFlow::press(const QString &unfinished)
 {
-    Q_ASSERT(!m_run);
+    Q_ASSERT(!m_isPrinting);
     m_refusal.reset();
-    m_isAside = false;
+    m_aside.reset();
+    m_isCalledOff = false;
     if (!hasDestination())
         return;
     m_session.job().writeAll();
-    if (!hasPages(unfinished))
+    m_jobs = m_session.documents().unsent();
+    const bool isForPeople = m_plan.elsewhere && m_plan.elsewhere->isForPeople();
+    if (!havePages(unfinished) || !(isForPeople || goTogether()) || !areLetGo()
+        || !areSettingsWritten())
         return;
-    const auto &elsewhere = m_plan.elsewhere;
-    if (elsewhere && elsewhere->isForPeople()) {
-        if (isLetGo() && areSettingsWritten())
-            start(elsewhere);
-        return;
-    }
-    if (goTogether() && isLetGo() && areSettingsWritten()) {
-        const PrinterSearch &search = m_session.search();
-        start(elsewhere ? elsewhere
-                        : queueDestination(search.name(), m_session.document().title(),
-                                           search.timeoutMs()));
-    }
+    m_isPrinting = true;
+    startNext();
+    emit started();
 }
 
 void PrintFlow::pressTo(std::shared_ptr<const Destination> destination, const QString &unfinished)
 {
-    Q_ASSERT(!m_run);
+    Q_ASSERT(!m_isPrinting);
     m_refusal.reset();
-    m_isAside = true;
+    m_isCalledOff = false;
+    m_aside = std::move(destination);
     m_session.job().writeAll();
-    if (hasPages(unfinished))
-        start(std::move(destination));
+    m_jobs = {m_session.documents().shownIndex()};
+    if (!havePages(unfinished))
+        return;
+    m_isPrinting = true;
+    startNext();
+    emit started();
+}
+
+bool PrintFlow::areSeveral() const
+{
+    const SessionDocuments &documents = m_session.documents();
+    return !m_aside && documents.count() > 1 && !documents.areJoined();
 }
 
 bool PrintFlow::hasDestination()
@@ -122,12 +132,19 @@ bool PrintFlow::hasDestination()
     return true;
 }
 
-bool PrintFlow::hasPages(const QString &unfinished)
+bool PrintFlow::havePages(const QString &unfinished)
 {
-    const QString problem = unfinished.isEmpty() ? pagesProblem(m_session) : unfinished;
+    QString problem = unfinished;
+    for (std::size_t i = 0; problem.isEmpty() && i < m_jobs.size(); ++i) {
+        m_session.documents().show(m_jobs[i]);
+        problem = pagesProblem(m_session);
+    }
     if (problem.isEmpty())
         return true;
-    refuse(Step::Pages, ExitStatus::WrongUsage, notPrinted(), tr("Pages: %1").arg(problem));
+    refuse(Step::Pages, ExitStatus::WrongUsage, notPrinted(),
+           areSeveral() && unfinished.isEmpty()
+               ? tr("Pages of %1: %2").arg(m_session.document().title(), problem)
+               : tr("Pages: %1").arg(problem));
     return false;
 }
 
@@ -155,7 +172,19 @@ bool PrintFlow::goTogether()
 }
 
 // What the user would want to know before, not after.
-bool PrintFlow::isLetGo()
+bool PrintFlow::areLetGo()
+{
+    QStringList answered;
+    for (const int number : m_jobs) {
+        m_session.documents().show(number);
+        if (!isLetGo(answered))
+            return false;
+    }
+    return true;
+}
+
+// What was `answered` with yes is not asked for another document.
+bool PrintFlow::isLetGo(QStringList &answered)
 {
     m_cautions.look();
     if (const Caution *refused = m_cautions.find(Caution::Weight::Refused)) {
@@ -167,7 +196,10 @@ bool PrintFlow::isLetGo()
         return true;
     }
     const Caution *asked = m_cautions.find(Caution::Weight::Asked);
-    return !asked || m_questions->printsAnyway(Caution(*asked));
+    if (!asked || answered.contains(asked->sentences()))
+        return true;
+    answered << asked->sentences();
+    return m_questions->printsAnyway(Caution(*asked));
 }
 
 bool PrintFlow::areSettingsWritten()
@@ -192,11 +224,22 @@ Result<void> PrintFlow::writeSettingsOut()
     return writeTicketFile(*m_plan.presetOut, presetFrom(job.preset(), job.secretKeys(), false));
 }
 
-void PrintFlow::start(std::shared_ptr<const Destination> destination)
+void PrintFlow::startNext()
 {
     const PrinterSearch &search = m_session.search();
     SessionJob &job = m_session.job();
-    m_destination = std::move(destination);
+    SessionDocuments &documents = m_session.documents();
+    const int number = m_jobs.front();
+    documents.show(number);
+    if (areSeveral())
+        job.writeAll(); // of this document
+    const QString title = documents.title();
+    m_destination = m_aside ? m_aside
+        : m_plan.elsewhere  ? m_plan.elsewhere
+                            : queueDestination(search.name(), title, search.timeoutMs());
+    if (auto own =
+            areSeveral() ? m_destination->ofOne(number + 1, documents.at(number).title()) : nullptr)
+        m_destination = std::move(own);
     PrintRun::Order order;
     order.request.isForPeople = m_destination->isForPeople();
     order.request.document = m_session.document().document();
@@ -214,11 +257,32 @@ void PrintFlow::start(std::shared_ptr<const Destination> destination)
     m_run = std::make_unique<PrintRun>();
     connect(m_run.get(), &PrintRun::finished, this, &PrintFlow::takeOutcome);
     m_run->start(std::move(order));
-    emit started();
+}
+
+QString PrintFlow::onTheWay() const
+{
+    const SessionDocuments &documents = m_session.documents();
+    if (!areSeveral() || m_jobs.empty())
+        return m_destination->onTheWay();
+    const int number = m_jobs.front();
+    return tr("Sending %1 of %2: %3")
+        .arg(QString::number(number + 1), QString::number(documents.count()),
+             documents.at(number).title());
+}
+
+QString PrintFlow::arrived(const QString &place) const
+{
+    if (!areSeveral())
+        return m_destination->arrived(place);
+    return m_plan.elsewhere
+        ? tr("%n document(s) written", nullptr, m_session.documents().count())
+        : tr("%n document(s) sent to %1", nullptr, m_session.documents().count())
+              .arg(m_session.search().name());
 }
 
 void PrintFlow::cancel()
 {
+    m_isCalledOff = true;
     if (m_run)
         m_run->cancel();
 }
@@ -232,12 +296,14 @@ QString PrintFlow::unknownOutcome()
 void PrintFlow::interrupt()
 {
     cancel();
+    m_isInterrupted = true;
     QTimer::singleShot(interruptMs, this, [this] {
-        if (!m_run)
+        if (!m_isPrinting)
             return;
         const QString problem = unknownOutcome();
-        printLine(stderr, QStringLiteral("kelvo-print: ") + problem);
-        refuse(Step::Job, ExitStatus::Failed, notPrinted(), problem);
+        if (!areSeveral())
+            printLine(stderr, QStringLiteral("kelvo-print: ") + problem);
+        refuse(Step::Job, ExitStatus::Failed, notPrinted(), withTheOthers(problem));
     });
 }
 
@@ -245,12 +311,57 @@ void PrintFlow::takeOutcome(const PrintOutcome &outcome)
 {
     m_run.release()->deleteLater();
     if (outcome.status != ExitStatus::Printed) {
-        refuse(Step::Job, outcome.status, notPrinted(), outcome.problem);
+        refuse(Step::Job, outcome.status, notPrinted(), withTheOthers(outcome.problem));
         return;
     }
-    sayWhatWasNotSent();
-    printLine(stdout, outcome.place + u' ' + m_session.document().title());
-    emit printed(outcome.place);
+    if (outcome.job)
+        m_sentJobs.push_back(*outcome.job);
+    SessionDocuments &documents = m_session.documents();
+    const std::vector<int> unsent = documents.unsent();
+    if (!areSeveral() || int(unsent.size()) == documents.count())
+        sayWhatWasNotSent();
+    printLine(stdout, outcome.place + u' ' + documents.title());
+    if (areSeveral())
+        documents.noteSent(m_jobs.front(), outcome.place);
+    m_jobs.erase(m_jobs.begin());
+    if (m_jobs.empty()) {
+        m_isPrinting = false;
+        emit printed(outcome.place);
+        return;
+    }
+    if (m_isCalledOff) {
+        documents.show(m_jobs.front());
+        refuse(Step::Job, ExitStatus::Cancelled, notPrinted(),
+               withTheOthers(PrintRun::tr("The job was cancelled.")));
+        return;
+    }
+    startNext();
+    emit movedOn();
+}
+
+// What has gone of several documents, and what has not.
+QString PrintFlow::withTheOthers(const QString &problem) const
+{
+    if (!areSeveral())
+        return problem;
+    const SessionDocuments &documents = m_session.documents();
+    QStringList sent, unsent;
+    for (int i = 0; i < documents.count(); ++i) {
+        const QString title = documents.at(i).title();
+        if (documents.placeOf(i).isEmpty())
+            unsent << title;
+        else
+            sent << tr("%1 (%2)", "a document, and its job").arg(title, documents.placeOf(i));
+    }
+    QStringList sentences{problem};
+    sentences << (sent.isEmpty() ? tr("No document was sent.")
+                                 : tr("Sent: %1.").arg(separated(sent)));
+    sentences << tr("Not sent: %1.").arg(separated(unsent));
+    const QString all = sentences.join(m_questions ? u'\n' : u' ');
+    // Nobody else says it then; a run that is driven ends with what was refused.
+    if (m_questions || m_isInterrupted)
+        printLine(stderr, QStringLiteral("kelvo-print: ") + sentences.join(u' '));
+    return all;
 }
 
 void PrintFlow::sayWhatWasNotSent()

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace kelvo {
 
@@ -50,6 +51,10 @@ public:
 // know before, can the settings' files be written; then the job is made and delivered on
 // a thread of its own. What comes of it is a signal.
 //
+// Of several documents that are a job each, all are asked about before the first is sent. They
+// go one after the other, each looked at while it does; where one fails the others stay, and
+// the next press sends what has not gone.
+//
 // On standard error stands what of a printed job was not sent; on standard output, where
 // it is.
 class PrintFlow : public QObject
@@ -81,10 +86,11 @@ public:
     // What is said of a job whose outcome nobody waits for.
     static QString unknownOutcome();
 
-    bool isPrinting() const { return m_run != nullptr; }
-    bool isAside() const { return m_isAside; } // the last press was pressTo()
-    // Of the job that is on its way, or the last one; null before.
-    const Destination *destination() const { return m_destination.get(); }
+    bool isPrinting() const { return m_isPrinting; }
+    bool isAside() const { return m_aside != nullptr; } // the last press was pressTo()
+    QString onTheWay() const;                           // while it is; "Sending 2 of 5: b.txt"
+    QString arrived(const QString &place) const;        // once it has printed(); "Hall-3-17 sent"
+    const std::vector<SentJob> &sentJobs() const { return m_sentJobs; } // to queues, in order
     // Of the last press; none when it went out or was called off.
     const std::optional<PrintRefusal> &refusal() const { return m_refusal; }
     void forgetRefusal() { m_refusal.reset(); } // the next press begins
@@ -93,18 +99,22 @@ public:
     Result<void> writeSettingsOut();
 
 signals:
-    void started(); // the job is on its way
-    void printed(const QString &place);
+    void started();                     // the job is on its way
+    void movedOn();                     // of several, the next one
+    void printed(const QString &place); // of several, the last one
     void refused(const kelvo::PrintRefusal &refusal);
 
 private:
     bool hasDestination();
-    bool hasPages(const QString &unfinished);
+    bool havePages(const QString &unfinished);
     bool goTogether();
-    bool isLetGo();
+    bool areLetGo();
+    bool isLetGo(QStringList &answered);
     bool areSettingsWritten();
-    void start(std::shared_ptr<const Destination> destination);
+    bool areSeveral() const;
+    void startNext();
     void takeOutcome(const PrintOutcome &outcome);
+    QString withTheOthers(const QString &problem) const;
     void sayWhatWasNotSent();
     void refuse(PrintRefusal::Step step, ExitStatus status, const QString &header,
                 const QString &problem);
@@ -114,9 +124,14 @@ private:
     SessionCautions &m_cautions;
     const PrintPlan m_plan;
     PrintQuestions *m_questions = nullptr;
-    bool m_isAside = false;
+    std::shared_ptr<const Destination> m_aside; // of this press; null: as the plan says
+    std::vector<int> m_jobs;                    // of this press: the documents still to be sent
     std::unique_ptr<PrintRun> m_run;
-    std::shared_ptr<const Destination> m_destination;
+    std::shared_ptr<const Destination> m_destination; // of the last job
+    bool m_isPrinting = false;
+    bool m_isCalledOff = false;
+    bool m_isInterrupted = false;
+    std::vector<SentJob> m_sentJobs;
     std::optional<PrintRefusal> m_refusal;
 };
 

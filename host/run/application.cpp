@@ -33,14 +33,14 @@ namespace {
 // line does.
 constexpr std::chrono::seconds displayWait(30);
 
-// The path of the document that the user chooses; empty: none.
-QString chooseDocument()
+// The paths of the documents that the user chooses; none: the dialog was cancelled.
+QStringList chooseDocuments()
 {
     // Whoever calls from a terminal means the folder that it is in.
     const bool isTerminal = standardInput() == StandardInput::Terminal;
     const auto chooser = documentChooser(isTerminal ? QDir::currentPath() : QString());
     onInterruption(chooser.get(), [&chooser] { chooser->reject(); });
-    return chooser->exec() == QDialog::Accepted ? chooser->selectedFiles().value(0) : QString();
+    return chooser->exec() == QDialog::Accepted ? chooser->selectedFiles() : QStringList();
 }
 
 } // namespace
@@ -72,8 +72,8 @@ int runApplication(char *programName, CommandLine line, EarlyWork early)
     QApplication::setQuitOnLastWindowClosed(false);
 
     if (documentOrigin(line, standardInput()) == DocumentOrigin::Chooser) {
-        line.file = chooseDocument();
-        if (line.file.isEmpty())
+        line.files = chooseDocuments();
+        if (line.files.isEmpty())
             return toInt(ExitStatus::Cancelled);
     }
     if (line.noWindow)

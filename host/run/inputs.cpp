@@ -5,6 +5,7 @@
 #include "document_origin.h"
 #include "file_names.h"
 #include "file_store.h"
+#include "job_timing.h"
 #include "output_targets.h"
 #include "pdf_ahead.h"
 #include "presets.h"
@@ -25,6 +26,8 @@
 namespace kelvo {
 
 namespace {
+
+const QString pipedIn = QStringLiteral("-");
 
 // What is wrong with a file that `option` names and that could not be read at all.
 QString inputProblem(const QString &option, const Error &error, const QString &advice)
@@ -80,43 +83,99 @@ Result<QString> readSecret(const QString &path)
     return text;
 }
 
-// The document, which must be named by now, or be piped in.
-std::variant<DocumentSource, InputFailure> findDocument(const CommandLine &line)
+// The documents, which must be named by now, or be piped in; without passwords.
+std::variant<std::vector<DocumentSource>, InputFailure> findDocuments(const CommandLine &line)
 {
     const DocumentOrigin origin = documentOrigin(line, standardInput());
-    DocumentSource source{line.file, line.title.value_or(QString()), line.timeoutSeconds * 1000};
+    const int patienceMs = line.timeoutSeconds * 1000;
     if (origin == DocumentOrigin::Sample) {
-        source.path = findSharedFile(QStringLiteral("demo/document.pdf"));
-        if (source.path.isEmpty())
+        const QString path = findSharedFile(QStringLiteral("demo/document.pdf"));
+        if (path.isEmpty())
             return InputFailure{ExitStatus::Failed,
                                 translate("Main", "--demo: the sample document is not installed")};
-    } else if (origin == DocumentOrigin::Missing) {
+        return std::vector{DocumentSource{path, {}, patienceMs}};
+    }
+    if (origin == DocumentOrigin::Missing) {
         return InputFailure{ExitStatus::WrongUsage,
                             translate("Main",
                                       "there is no document: name a file, or pipe one in. "
                                       "`kelvo-print --help` says more.")};
-    } else if (origin == DocumentOrigin::File && !fileStatus(line.file)) {
-        return InputFailure{ExitStatus::Failed,
-                            translate("Main",
-                                      "%1: there is no such document; check its name, or the "
-                                      "folder that it is looked for in (%2)")
-                                .arg(line.file, QDir::currentPath())};
     }
-    return source;
+    std::vector<DocumentSource> sources;
+    for (const QString &file : line.files) {
+        if (file != pipedIn && !fileStatus(file)) {
+            return InputFailure{ExitStatus::Failed,
+                                translate("Main",
+                                          "%1: there is no such document; check its name, or the "
+                                          "folder that it is looked for in (%2)")
+                                    .arg(file, QDir::currentPath())};
+        }
+        sources.push_back({file, {}, patienceMs});
+    }
+    if (sources.empty())
+        sources.push_back({pipedIn, {}, patienceMs});
+    return sources;
+}
+
+// Of the document `number`, from 1: the secret that is its alone, and the one for all.
+QStringList passwordNames(int number)
+{
+    return {QStringLiteral("DOCUMENT%1").arg(number), QStringLiteral("DOCUMENT")};
 }
 
 std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line, PdfHelpers helpers)
 {
-    const auto document = findDocument(line);
-    const auto *source = std::get_if<DocumentSource>(&document);
-    if (!source)
-        return nullptr; // readInputs() says so, in its turn
-    auto opening = std::make_shared<DocumentOpening>(*source);
+    auto documents = findDocuments(line);
+    auto *sources = std::get_if<std::vector<DocumentSource>>(&documents);
+    // What is wrong readInputs() says, in its turn. Of several none is printed at once.
+    if (!sources || sources->size() > 1)
+        return nullptr;
+    for (const QString &name : passwordNames(1)) {
+        if (!line.secretFiles.contains(name))
+            continue;
+        const auto password = readSecret(line.secretFiles.value(name));
+        if (!password)
+            return nullptr;
+        protectSecrets();
+        sources->front().passwords << password.value();
+    }
+    auto opening = std::make_shared<DocumentOpening>(sources->front());
     opening->start(std::make_shared<PdfAhead>(std::move(helpers), kTicketAttachmentName));
     return opening;
 }
 
-std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
+// What people have printed with last is where their windows begin, and nothing else: what a script
+// does must not depend on it, and a device without a queue prints nothing.
+std::optional<LastUsed> lastUsedFor(const CommandLine &line)
+{
+    if (line.noWindow || line.script || line.demo || line.ppd || line.listControls
+        || !keepsLastUsed())
+        return std::nullopt;
+    return readLastUsed();
+}
+
+// A preset or a ticket says with what a window begins.
+void beginWithLastUsed(const CommandLine &line, DialogOptions &options)
+{
+    using Beginning = LastUsed::Beginning;
+    if (!options.lastUsed || line.preset || line.ticketIn)
+        return;
+    const LastUsed &used = *options.lastUsed;
+    const Beginning beginning = used.beginning.value_or(Beginning::LastUsed);
+    if (beginning == Beginning::Defaults)
+        return;
+    if (beginning == Beginning::Preset) {
+        if (auto preset = PresetStore().read(used.preset)) {
+            options.session.job.preset = std::move(preset).value();
+            options.preset = used.preset;
+            return;
+        }
+    }
+    options.beginsWithLastUsed = used.settings.has_value();
+    options.session.job.lastUsed = used.settings;
+}
+
+std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line, const QString &preferred)
 {
     if (line.listControls || line.demo || line.ppd
         || documentOrigin(line, standardInput()) == DocumentOrigin::Chooser)
@@ -125,7 +184,8 @@ std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
     const int timeoutMs = line.timeoutSeconds * 1000;
     printers->refresh(timeoutMs,
                       line.destination ? PrinterDirectory::Ahead::Nothing
-                                       : PrinterDirectory::Ahead::PpdOfFirst);
+                                       : PrinterDirectory::Ahead::PpdOfFirst,
+                      preferred);
     if (line.destination)
         printers->fetchPpd(*line.destination, timeoutMs);
     return printers;
@@ -135,7 +195,12 @@ std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
 
 BegunAhead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers)
 {
-    return {helpers ? openAhead(line, std::move(*helpers)) : nullptr, askAhead(line)};
+    BegunAhead ahead;
+    if (helpers)
+        ahead.document = openAhead(line, std::move(*helpers));
+    ahead.lastUsed = lastUsedFor(line);
+    ahead.printers = askAhead(line, ahead.lastUsed ? ahead.lastUsed->printer : QString());
+    return ahead;
 }
 
 Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
@@ -146,15 +211,25 @@ Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
     printer.name = line.destination.value_or(QString());
     printer.timeoutMs = line.timeoutSeconds * 1000;
     printer.directory = std::move(ahead.printers);
-    options.session.opening = std::move(ahead.document);
+    if (ahead.lastUsed)
+        printer.preferred = ahead.lastUsed->printer;
+    options.lastUsed = std::move(ahead.lastUsed);
+    options.session.documents.title = line.title.value_or(QString());
+    options.session.documents.areJoined = line.join;
+    options.session.documents.opening = std::move(ahead.document);
     options.session.job.options = line.options;
+    if (line.priority)
+        options.session.job.options.append(
+            {QLatin1String(kJobPriorityOption), QString::number(*line.priority)});
+    if (line.holdUntil)
+        options.session.job.options.append({QLatin1String(kJobHoldUntilOption), *line.holdUntil});
     options.session.job.copies = line.copies;
     options.session.job.pages = line.pages;
     options.preset = line.preset.value_or(QString());
     if (line.toFolder)
         options.plan.elsewhere = folderDestination(*line.toFolder);
     else if (line.toPdf)
-        options.plan.elsewhere = pdfDestination(*line.toPdf, line.file);
+        options.plan.elsewhere = pdfDestination(*line.toPdf, line.files);
     options.plan.ticketOut = line.ticketOut;
     options.plan.presetOut = line.presetOut;
     return inputs;
@@ -202,6 +277,7 @@ std::optional<InputFailure> readInputs(const CommandLine &line, Inputs &inputs)
                                 preset.error().text()};
         inputs.options.session.job.preset = std::move(preset).value();
     }
+    beginWithLastUsed(line, inputs.options);
     const QString devicePath = line.demo
         ? findSharedFile(QStringLiteral("ppds/kelvo-corvane-full.ppd"))
         : line.ppd.value_or(QString());
@@ -218,10 +294,17 @@ std::optional<InputFailure> readInputs(const CommandLine &line, Inputs &inputs)
                              translate("Main", "check its name, or name a queue with -d"))};
         inputs.options.session.printer.device = std::move(device).value();
     }
-    auto document = findDocument(line);
-    if (const auto *failure = std::get_if<InputFailure>(&document))
+    auto found = findDocuments(line);
+    if (const auto *failure = std::get_if<InputFailure>(&found))
         return *failure;
-    inputs.options.session.document = std::get<DocumentSource>(std::move(document));
+    auto &sources = inputs.options.session.documents.sources;
+    sources = std::get<std::vector<DocumentSource>>(std::move(found));
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        for (const QString &name : passwordNames(int(i) + 1)) {
+            if (inputs.secrets.contains(name))
+                sources[i].passwords << inputs.secrets.value(name);
+        }
+    }
     return std::nullopt;
 }
 

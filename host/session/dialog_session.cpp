@@ -11,27 +11,23 @@ const QString deviceMakerKey = QStringLiteral("KelvoDeviceMaker");
 
 } // namespace
 
-DialogSession::DialogSession(SessionBeginning beginning, DevicePanels *panels, QObject *parent)
+DialogSession::DialogSession(SessionBeginning beginning, DevicePanels *panels,
+                             DevicePanels *options, QObject *parent)
     : QObject(parent)
     , m_bundle(beginning.bundle)
     , m_bundleProblem(std::move(beginning.bundleProblem))
     , m_panels(panels)
+    , m_options(options)
     , m_search(std::move(beginning.printer))
-    , m_document(beginning.opening
-                     ? std::move(beginning.opening)
-                     : std::make_shared<DocumentOpening>(std::move(beginning.document)))
+    , m_documents(std::move(beginning.documents))
     , m_job(std::move(beginning.job), beginning.bundle, panels)
 {
-    m_job.setTitle(m_document->title());
+    m_job.setTitle(m_documents.title());
     connect(&m_search, &PrinterSearch::printersChanged, this, &DialogSession::printersChanged);
     connect(&m_search, &PrinterSearch::conditionChanged, this, &DialogSession::conditionChanged);
     connect(&m_search, &PrinterSearch::stateChanged, this, &DialogSession::takeSearch);
-    connect(m_document.get(), &DocumentOpening::ended, this, [this] {
-        m_job.setTitle(m_document->title());
-        if (!m_document->document().isNull())
-            m_job.setDocument(m_document->document());
-        emit documentChanged();
-    });
+    connect(&m_documents, &SessionDocuments::shownChanged, this, &DialogSession::takeDocument);
+    connect(&m_documents, &SessionDocuments::listChanged, this, &DialogSession::documentsChanged);
     connect(&m_job, &SessionJob::reloaded, this, &DialogSession::reloaded);
 }
 
@@ -47,7 +43,7 @@ void DialogSession::start()
 
 void DialogSession::stop()
 {
-    m_document->cancel();
+    m_documents.cancel();
     endPanels();
     m_search.stop();
 }
@@ -70,6 +66,14 @@ void DialogSession::takeSearch()
         begin();
     else
         emit stageChanged();
+}
+
+void DialogSession::takeDocument()
+{
+    m_job.setTitle(m_documents.title());
+    if (const Document &shown = document().document(); !shown.isNull())
+        m_job.setDocument(shown);
+    emit documentChanged();
 }
 
 void DialogSession::choosePrinter(const QString &name)
@@ -98,13 +102,19 @@ void DialogSession::begin()
 
 // ---- the device's panels
 
+bool DialogSession::isOfAnotherMaker() const
+{
+    const QString maker = m_search.ppd()->manufacturer();
+    return m_bundle && !maker.isEmpty() && maker != string(m_bundle->info(), deviceMakerKey);
+}
+
 QString DialogSession::whyPanelsDidNotBegin(const Error &error) const
 {
     const QString model = m_search.ppd()->modelName();
     const QString maker = m_search.ppd()->manufacturer();
     if (maker.isEmpty())
         return tr("The panels are not made for this device (%1).").arg(model);
-    if (maker != string(m_bundle->info(), deviceMakerKey))
+    if (isOfAnotherMaker())
         return tr("The panels are not made for this device (%1, made by %2).").arg(model, maker);
     return tr("The panels could not start (%1). Installing them again may help.").arg(error.text());
 }
@@ -114,6 +124,8 @@ QString DialogSession::whyNoPanels()
 {
     if (!m_panels)
         return m_bundleProblem;
+    if (isOfAnotherMaker()) // the bundle says whose devices it is for, without its module
+        return whyPanelsDidNotBegin({});
     if (!m_panelsLoaded) {
         m_panelsLoaded = m_panels->load();
         if (!*m_panelsLoaded)
@@ -138,14 +150,24 @@ void DialogSession::beginPanels()
         works = tr("Copies and pages work as usual. Paper size, orientation and collating are "
                    "passed on; whether they are heeded is up to the printer.");
     }
+    const bool isWithout = m_search.ppd() && !hasPanels();
+    if (isWithout && m_options && m_options->begin(m_job.tickets())) {
+        m_job.setPanels(m_options);
+        if (!isOfAnotherMaker()) // nobody misses panels there
+            m_message.text = why;
+        return;
+    }
+    m_job.setPanels(m_panels);
     if (!hasPanels())
         m_message = {tr("No device panels for “%1”").arg(m_search.name()), why + u'\n' + works};
 }
 
 void DialogSession::endPanels()
 {
-    if (m_panels)
-        m_panels->end(noErr);
+    for (DevicePanels *panels : {m_panels, m_options}) {
+        if (panels)
+            panels->end(noErr);
+    }
 }
 
 } // namespace kelvo

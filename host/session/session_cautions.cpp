@@ -39,11 +39,14 @@ void SessionCautions::look()
     const Document &document = m_session.document().document();
     SessionJob &job = m_session.job();
     add(printer());
+    const auto ofAll = static_cast<std::ptrdiff_t>(m_cautions.size());
     lookAtPages();
     if (document.isRepaired())
         add(repairedCaution());
     if (const QString remark = document.remark(); !remark.isEmpty())
         add(Caution{.text = remark});
+    for (auto caution = m_cautions.begin() + ofAll; caution != m_cautions.end(); ++caution)
+        caution->isOfDocument = true;
     if (m_session.hasPanels())
         lookAtCovers();
     for (const QString &sentence : job.lost())
@@ -90,13 +93,21 @@ QStringList SessionCautions::inWords() const
 void SessionCautions::say(bool happenedOnly)
 {
     for (const Caution &caution : m_cautions) {
+        const SessionDocuments &documents = m_session.documents();
+        const bool isNamed =
+            caution.isOfDocument && documents.count() > 1 && !documents.areJoined();
+        const QString said = isNamed ? documents.title() + u'\n' + caution.text : caution.text;
         if (caution.weight == Caution::Weight::Noted || (happenedOnly && !caution.hasHappened)
-            || m_said.contains(caution.text))
+            || m_said.contains(said))
             continue;
-        m_said << caution.text;
+        m_said << said;
+        const QString sentences = isNamed
+            ? translate("Session", "%1: %2", "a document, and what is to be said of it")
+                  .arg(documents.title(), caution.sentences())
+            : caution.sentences();
         printLine(stderr,
                   QStringLiteral("kelvo-print: ")
-                      + translate("Session", "caution: %1").arg(caution.sentences()));
+                      + translate("Session", "caution: %1").arg(sentences));
     }
 }
 

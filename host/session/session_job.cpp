@@ -1,5 +1,6 @@
 #include "session_job.h"
 
+#include "ipp_options.h"
 #include "job_words.h"
 #include "page_ranges.h"
 #include "ppd_words.h"
@@ -37,11 +38,13 @@ SessionJob::SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObj
 Result<void> SessionJob::beginOn(Device device)
 {
     m_device = std::move(device);
+    m_hasProposedPaper = false;
     m_session = std::make_unique<PrintSession>();
     m_session->setPrinter({m_device.name, {}, m_device.ppd});
     nameJob();
     const TicketFile defaults = queueDefaults();
-    m_repeatedChoices = m_describer.repeatedChoices(ppd(), m_wishes.preset || m_wishes.ticketIn);
+    m_repeatedChoices = m_describer.repeatedChoices(
+        ppd(), m_wishes.preset || m_wishes.ticketIn || m_wishes.lastUsed);
     m_edits.asked.beginOn(defaults, m_repeatedChoices);
     if (!m_areWishesAsked) {
         if (auto asked = askFirst(); !asked)
@@ -67,6 +70,14 @@ void SessionJob::leave()
     if (ppd())
         m_edits.asked.learnWords(*ppd());
     m_isSettled = false;
+}
+
+void SessionJob::setTitle(const QString &title)
+{
+    if (title == m_title)
+        return;
+    m_title = title;
+    nameJob();
 }
 
 void SessionJob::nameJob()
@@ -99,7 +110,9 @@ void SessionJob::proposePaper()
     if (std::ranges::any_of(paperPlaces(),
                             [&](const TicketPlace &place) { return isSet(place, asked); }))
         return;
-    const QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    QString paper = paperAsLargeAs(m_document.pageSize(1), *ppd());
+    if (paper.isEmpty() && m_hasProposedPaper) // that of another document
+        paper = defaultPaper(*ppd());
     JobSettings settings = this->settings();
     if (paper.isEmpty() || paper == settings.paperName)
         return;
@@ -110,6 +123,7 @@ void SessionJob::proposePaper()
     writeJobSettings(settings, ppd(), *m_session);
     readAll();
     sync(kSyncWrite);
+    m_hasProposedPaper = true;
     m_edits.asked.propose(before, ticketFileFrom(*m_session));
 }
 
@@ -148,6 +162,11 @@ TicketFile SessionJob::queueDefaults()
     for (const bool ofPpd : {false, true}) {
         for (auto option = defaults.cbegin(); option != defaults.cend(); ++option) {
             if ((ppd() && ppd()->findOption(option.key())) != ofPpd)
+                continue;
+            // cupsd has a default for some of these also where nobody has set one, and says "black
+            // and white" of a queue that it knows nothing of.
+            if (!ofPpd && option.key() != QLatin1String("sides")
+                && ippAttributes().contains(option.key()))
                 continue;
             // Most of what the server lists is no setting of a job: passed over.
             static_cast<void>(bool(applyOption({option.key(), option.value()}, ppd(), *m_session)));
@@ -246,6 +265,8 @@ Result<void> SessionJob::askFirst()
 {
     using Kind = AskedSettings::Kind;
     askForSiteDefaults();
+    if (m_wishes.lastUsed)
+        ask(*m_wishes.lastUsed, Kind::Chosen);
     if (m_wishes.preset)
         ask(*m_wishes.preset, Kind::Chosen);
     if (const auto &ticket = m_wishes.ticketIn) // of a whole one nobody chose all
@@ -264,6 +285,7 @@ Result<void> SessionJob::askFirst()
 void SessionJob::usePreset(const TicketFile *preset)
 {
     const JobSettings before = settings();
+    const QString holdUntil = timing().holdUntil;
     m_edits.asked.clear();
     m_edits.unknown.clear();
     askForSiteDefaults();
@@ -272,6 +294,7 @@ void SessionJob::usePreset(const TicketFile *preset)
     // The user's: no other printer takes them away.
     askForEntry(kPMPageRangesKey, before.pageRanges);
     askForEntry(kPMPageSetKey, before.pageSet == PageSet::All ? QString() : nameOf(before.pageSet));
+    askForEntry(kJobHoldUntilKey, holdUntil);
     layAsked();
     emit reloaded();
 }
@@ -311,6 +334,17 @@ void SessionJob::change(const JobSettings &settings)
     writeAll();
     writeJobSettings(settings, ppd(), *m_session);
     tellFirstPage();
+}
+
+JobTiming SessionJob::timing() const
+{
+    return jobTimingFrom(m_session->printSettings());
+}
+
+void SessionJob::setTiming(const JobTiming &timing)
+{
+    writeAll();
+    writeJobTiming(timing, *m_session);
 }
 
 TicketFile SessionJob::ticket() const

@@ -6,6 +6,7 @@
 #include "document.h"
 #include "job_describer.h"
 #include "job_settings.h"
+#include "job_timing.h"
 #include "presets.h"
 #include "printed_pages.h"
 #include "secret_keys.h"
@@ -36,13 +37,17 @@ public:
     struct Wishes
     {
         std::optional<TicketFile> preset, ticketIn;
-        QList<AskedOption> options = {}; // see applyOption()
-        std::optional<int> copies;       // 1 to kMaximumCopies
-        std::optional<QString> pages;    // "1-3,7"; empty: all
+        std::optional<TicketFile> lastUsed = {}; // before a preset
+        QList<AskedOption> options = {};         // see applyOption()
+        std::optional<int> copies;               // 1 to kMaximumCopies
+        std::optional<QString> pages;            // "1-3,7"; empty: all
     };
     // Borrowed: the bundle says what of tickets is secret and what it means, `panels`
     // read and write them. Null for both: none.
     SessionJob(Wishes wishes, Bundle *bundle, DevicePanels *panels, QObject *parent = nullptr);
+
+    // Others than those it was made with: before settle(), for the device that is begun.
+    void setPanels(DevicePanels *panels) { m_panels = panels; }
 
     struct Device
     {
@@ -59,8 +64,8 @@ public:
     // The panels write once more; what was set goes along to the next device, where its
     // words go too.
     void leave();
-    // What the job is called where its tickets are laid next.
-    void setTitle(const QString &title) { m_title = title; }
+    // What the job is called, in its tickets too.
+    void setTitle(const QString &title);
     // The document, of which the panels are told the first page that is printed.
     void setDocument(const Document &document);
 
@@ -79,6 +84,8 @@ public:
     // hold less of a panel's setting than the user chose there, and more copies must
     // not take it away. A panel looks at the page format when it writes.
     void change(const JobSettings &settings);
+    JobTiming timing() const;
+    void setTiming(const JobTiming &timing); // as change()
     // By hand or by a script; taken up when the panels write next.
     void choose(const TicketPlaces &places) { m_edits.asked.choose(places); }
 
@@ -86,8 +93,8 @@ public:
     TicketFile ticketToKeep() const; // the same, for another day and device
     TicketFile preset() const;       // the part of it that a preset keeps; secrets are in it
 
-    // Begins again on `preset`, or on the defaults for null. The job's own pages
-    // and name stay.
+    // Begins again on `preset`, or on the defaults for null. The job's own pages,
+    // its hold and its name stay.
     void usePreset(const TicketFile *preset);
     // Whether anything differs from what was chosen as preset.
     bool isChanged() const;
@@ -170,7 +177,8 @@ private:
     FoundConflicts m_conflicts;
 
     QString m_title;
-    Document m_document; // null: not there yet
+    Document m_document;             // null: not there yet
+    bool m_hasProposedPaper = false; // on this device
     Device m_device;
     std::unique_ptr<PrintSession> m_session;
     Edits m_edits;

@@ -4,7 +4,8 @@
 
 namespace kelvo {
 
-// What is going on or wrong while there are no panels to show, and what to do.
+// What is going on or wrong while there are no panels to show, and what to do; without a header, a
+// remark on those that there are.
 struct SessionMessage
 {
     QString header, text;

@@ -13,8 +13,8 @@ JobWords jobInWords(DialogSession &session, SessionCautions &cautions)
     job.writeAll();
     JobWords words = describeJob(job.ticket(), job.settings(), job.ppd(), job.secretKeys(),
                                  job.description(), job.missing());
-    if (session.document().hasSource() && !session.document().problem().isEmpty())
-        words.cautions << session.document().problem();
+    if (session.document().hasSource() && !session.documents().problem().isEmpty())
+        words.cautions << session.documents().problem();
     words.cautions += job.conflicts().sentences();
     cautions.look();
     words.cautions += cautions.inWords();

@@ -1,7 +1,12 @@
 #include "control_list.h"
 
+#include "document_bar.h"
 #include "job_details_dialog.h"
+#include "job_timing_dialog.h"
+#include "password_dialog.h"
 #include "preset_menu.h"
+#include "printer_pane.h"
+#include "session_documents.h"
 #include "window_loader.h"
 
 #include <QDir>
@@ -71,12 +76,22 @@ Result<QString> controlList(QWidget *dialog, Bundle *bundle)
 {
     QString text = QStringLiteral("# Controls\n\nWhat scripts can reach, window by window. Made by "
                                   "`kelvo-print --list-controls`.\n\n");
+    if (auto *pane = dialog->findChild<PrinterPane *>())
+        pane->buildFolded();
     text += table(QStringLiteral("Print dialog"), dialog);
+    SessionDocuments documents({});
+    DocumentBar bar(documents);
+    bar.build();
+    text += table(QStringLiteral("Print dialog, with several documents or a locked one"), &bar);
+    const std::unique_ptr<QWidget> password(makePasswordPane({}, false));
+    text += table(QStringLiteral("Password of a document"), password.get());
     const std::unique_ptr<QWidget> presetName(
         makePresetNamePane({}, QStringLiteral("Save"), {}, true));
     text += table(QStringLiteral("Save and rename presets"), presetName.get());
     const std::unique_ptr<QWidget> details(makeJobDetailsPane({}));
     text += table(QStringLiteral("What will be sent"), details.get());
+    const std::unique_ptr<QWidget> timing(makeJobTimingPane({}));
+    text += table(QStringLiteral("When to print"), timing.get());
     if (!bundle)
         return text;
     const Result<void> done = visitDescriptions(

@@ -4,8 +4,10 @@
 #include "caution_bar.h"
 #include "control.h"
 #include "dialog_foot.h"
+#include "document_bar.h"
 #include "document_preview.h"
 #include "focus_regions.h"
+#include "options_pane.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
 #include "printer_pane.h"
@@ -63,6 +65,7 @@ DialogParts::DialogParts(QWidget *window)
     , stack(new QStackedWidget)
     , waiting(new WaitingPane(stack))
     , panes(new QWidget(stack))
+    , options(new OptionsPane(stack))
     , cautionBar(new CautionBar(window))
     , foot(new DialogFoot(columns->toggle(), window))
     , m_window(window)
@@ -78,6 +81,7 @@ DialogParts::DialogParts(QWidget *window)
     panesLayout->setContentsMargins(0, 0, 0, 0);
     stack->addWidget(waiting);
     stack->addWidget(panes);
+    stack->addWidget(options);
     scroll->setWidget(stack);
 
     auto *layout = new QVBoxLayout(window);
@@ -88,12 +92,14 @@ DialogParts::DialogParts(QWidget *window)
     layout->addWidget(foot);
 }
 
-void DialogParts::place(PrinterPane *printerPane)
+void DialogParts::place(PrinterPane *printerPane, DocumentBar *documentBar)
 {
     printer = printerPane;
+    documents = documentBar;
     preview = new DocumentPreview(columns->left());
     preview->setObjectName(QStringLiteral("preview"));
     columns->setParts(printer, preview, panelSwitch, scroll);
+    columns->addBelowFields(documents);
 }
 
 void DialogParts::setEnabled(bool enabled)
@@ -120,6 +126,8 @@ void DialogParts::fitToPanels()
 // A pane has a layout from when its panel's content is put into it.
 bool DialogParts::arePanelsBuilt() const
 {
+    if (!options->isBuilt())
+        return false;
     const auto shown = scroll->findChildren<QWidget *>();
     return std::all_of(shown.cbegin(), shown.cend(), [](const QWidget *pane) {
         const auto id = controlIDOf(pane);
@@ -130,13 +138,15 @@ bool DialogParts::arePanelsBuilt() const
 void DialogParts::arrangeTabOrder()
 {
     const QList<QWidget *> panelStops = focusStopsIn(scroll);
-    if (panelStops == m_panelStops)
+    const QList<QWidget *> documentStops = focusStopsIn(documents);
+    if (panelStops + documentStops == m_panelStops)
         return;
-    m_panelStops = panelStops;
-    chainFocusStops(focusStopsIn(printer) + focusStopsIn(preview) + QList<QWidget *>{panelSwitch}
-                    + panelStops + focusStopsIn(cautionBar)
-                    + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(),
-                                       foot->savePdf(), foot->cancel(), foot->print()});
+    m_panelStops = panelStops + documentStops;
+    chainFocusStops(focusStopsIn(printer) + documentStops + focusStopsIn(preview)
+                    + QList<QWidget *>{panelSwitch} + panelStops + focusStopsIn(cautionBar)
+                    + QList<QWidget *>{columns->toggle(), foot->cancelJob(), foot->timing(),
+                                       foot->details(), foot->help(), foot->savePdf(),
+                                       foot->cancel(), foot->print()});
 }
 
 void DialogParts::giveFirstFocus()
@@ -152,9 +162,9 @@ void DialogParts::giveFirstFocus()
 
 void DialogParts::goToRegion(bool forward)
 {
-    focusNextRegion(
-        {printer, preview, panelSwitch, scroll, cautionBar, columns->toggle(), foot->print()},
-        forward);
+    focusNextRegion({printer, documents, preview, panelSwitch, scroll, cautionBar,
+                     columns->toggle(), foot->print()},
+                    forward);
 }
 
 void DialogParts::noteShown()

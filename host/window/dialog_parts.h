@@ -12,7 +12,9 @@ namespace kelvo {
 
 class CautionBar;
 class DialogFoot;
+class DocumentBar;
 class DocumentPreview;
+class OptionsPane;
 class PaneScroll;
 class PanelSwitch;
 class PrinterPane;
@@ -28,18 +30,20 @@ class DialogParts
 public:
     // All but what stands in the left column, as children of `window`.
     explicit DialogParts(QWidget *window);
-    // The left column, which completes the window: this and the preview below it.
-    void place(PrinterPane *printerPane);
+    // The left column, which completes the window: these and the preview below them.
+    void place(PrinterPane *printerPane, DocumentBar *documentBar);
 
     WindowColumns *const columns;
     PanelSwitch *const panelSwitch;
     PaneScroll *const scroll;
-    QStackedWidget *const stack; // the waiting pane, or the panels
+    QStackedWidget *const stack; // the waiting pane, the panels, or the host's own
     WaitingPane *const waiting;
     QWidget *const panes; // parent of the device's panels
+    OptionsPane *const options;
     CautionBar *const cautionBar;
     DialogFoot *const foot;
     PrinterPane *printer = nullptr;
+    DocumentBar *documents = nullptr;
     DocumentPreview *preview = nullptr;
 
     void setEnabled(bool enabled); // all but the foot
@@ -66,7 +70,8 @@ private:
     bool arePanelsBuilt() const; // those of hidden tabs, too
 
     QWidget *m_window;
-    QList<QWidget *> m_panelStops;  // the tab order is made for these; compared, never followed
+    QList<QWidget *> m_panelStops;  // those of the documents too; the tab order is made for these;
+                                    // compared, never followed
     QPointer<QWidget> m_firstFocus; // has the focus from us, not from the user
     QTimer m_activation;            // runs while the window may still become the active one
     mutable QTimer m_panelsWait;    // runs while panels are not built, or not laid out

@@ -7,12 +7,12 @@
 
 namespace kelvo {
 
-std::unique_ptr<QFileDialog> documentChooser(const QString &folder)
+std::unique_ptr<QFileDialog> documentChooser(const QString &folder, QWidget *parent)
 {
     auto chooser =
-        std::make_unique<QFileDialog>(nullptr, translate("Window", "Choose a Document to Print"));
+        std::make_unique<QFileDialog>(parent, translate("Window", "Choose Documents to Print"));
     chooser->setObjectName(QStringLiteral("documentChooser"));
-    chooser->setFileMode(QFileDialog::ExistingFile);
+    chooser->setFileMode(QFileDialog::ExistingFiles);
     // The endings of all kinds do not fit in a line.
     chooser->setOption(QFileDialog::HideNameFilterDetails);
     chooser->setNameFilters(

@@ -2,16 +2,22 @@
 
 #include "accessible_role.h"
 #include "audience.h"
+#include "background_work.h"
 #include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
+#include "document_bar.h"
+#include "document_chooser.h"
 #include "document_preview.h"
 #include "help_window.h"
 #include "job_details_dialog.h"
+#include "job_timing_dialog.h"
 #include "modal_dialog.h"
 #include "notice.h"
+#include "options_pane.h"
 #include "pane_scroll.h"
 #include "panel_switch.h"
+#include "password_dialog.h"
 #include "pdf_chooser.h"
 #include "preset_menu.h"
 #include "printer_pane.h"
@@ -23,7 +29,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -59,18 +68,23 @@ PrintDialog::PrintDialog(DialogOptions options)
     , m_places(this, m_parts.panelSwitch)
     , m_bundle(options.session.bundle)
     , m_extension(m_bundle ? std::make_unique<Extension>(m_bundle, m_parts.panes) : nullptr)
-    , m_session(std::make_unique<DialogSession>(std::move(options.session), m_extension.get()))
+    , m_session(std::make_unique<DialogSession>(std::move(options.session), m_extension.get(),
+                                                m_parts.options))
     , m_cautions(*m_session, m_session->search().hasQueue() && !options.plan.elsewhere,
                  [this] { return place(); })
     , m_flow(*m_session, m_cautions, std::move(options.plan))
     , m_choices(this, m_session->job())
-    , m_presets(new PresetMenu(m_session->job(), options.preset))
+    , m_presets(new PresetMenu(m_session->job(), {options.preset, options.beginsWithLastUsed},
+                               options.lastUsed ? options.lastUsed->settings : std::nullopt))
+    , m_keepsLastUsed(options.lastUsed.has_value())
+    , m_sent([this] { return isAttended(); })
 {
     setAccessibleRole(this, QAccessible::Dialog);
     setObjectName(QStringLiteral("printDialog"));
     setPrintWindow(this);
     setWindowButtons(this, m_parts.foot->print(), m_parts.foot->cancel());
-    m_parts.place(new PrinterPane(m_presets, m_parts.columns->left()));
+    m_parts.place(new PrinterPane(m_presets, m_parts.columns->left()),
+                  new DocumentBar(m_session->documents(), m_parts.columns->left()));
     addShortcuts();
     m_parts.fitToFont();
     m_flow.setQuestions(this);
@@ -84,7 +98,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     m_firstFrame.setSingleShot(true);
     m_firstFrame.setInterval(firstFrameMs);
     connect(&m_firstFrame, &QTimer::timeout, this, [this] {
-        m_session->openTheDocument();
+        m_session->openDocuments();
         if (audience() != Audience::Nobody)
             m_parts.printer->buildFolded();
         emit begun();
@@ -95,6 +109,10 @@ PrintDialog::PrintDialog(DialogOptions options)
             m_session->lookAtPrinters();
         else
             m_session->lookAtPrinter();
+    });
+    connect(&m_sent, &SentMessage::said, this, [this](const QString &text) {
+        m_parts.foot->setText(text);
+        m_parts.foot->showSent(m_sent.canCancel());
     });
     connect(&m_sent, &SentMessage::told, this, [this] { end(ExitStatus::Printed); });
     watchEvents([this](const Event &event) {
@@ -111,6 +129,7 @@ PrintDialog::PrintDialog(DialogOptions options)
         showPrinting(true);
         m_parts.foot->cancel()->setFocus();
     });
+    connect(&m_flow, &PrintFlow::movedOn, this, &PrintDialog::updateFoot);
     connect(&m_flow, &PrintFlow::printed, this, &PrintDialog::takePrinted);
     connect(&m_flow, &PrintFlow::refused, this, &PrintDialog::takeRefusal);
 
@@ -124,6 +143,7 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     connect(m_session.get(), &DialogSession::stageChanged, this, &PrintDialog::takeStage);
     connect(m_session.get(), &DialogSession::documentChanged, this, &PrintDialog::takeDocument);
+    connect(m_session.get(), &DialogSession::documentsChanged, this, &PrintDialog::takeDocuments);
     connect(m_session.get(), &DialogSession::reloaded, this, &PrintDialog::takeSettings);
     connect(m_session.get(), &DialogSession::refused, this, [this](const Error &error) {
         printLine(stderr, QStringLiteral("kelvo-print: ") + error.text());
@@ -152,13 +172,21 @@ PrintDialog::PrintDialog(DialogOptions options)
         return noErr;
     });
     connect(m_parts.printer, &PrinterPane::settingsEdited, this, &PrintDialog::changeSettings);
+    connect(m_parts.documents, &DocumentBar::addRequested, this, &PrintDialog::chooseDocuments);
+    connect(m_parts.documents, &DocumentBar::passwordRequested, this, &PrintDialog::askForPassword);
     connect(m_parts.printer, &PrinterPane::pageInSightWanted, this, [this] {
         m_parts.printer->setPageInSight(std::max(1, m_parts.preview->pageInSight()));
     });
     connect(m_parts.panelSwitch, &QTabBar::currentChanged, this, &PrintDialog::showPanelAt);
+    connect(m_parts.options, &OptionsPane::built, this, [this] {
+        m_parts.arrangeTabOrder();
+        m_look.start(); // conflicts are marked there, too
+    });
     connect(m_parts.waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_parts.foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
+    connect(m_parts.foot->timing(), &QPushButton::clicked, this, &PrintDialog::changeTiming);
+    connect(m_parts.foot->cancelJob(), &QPushButton::clicked, &m_sent, &SentMessage::cancelJob);
     connect(m_parts.foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_parts.foot->savePdf(), &QPushButton::clicked, this, &PrintDialog::savePdf);
     connect(m_parts.foot->cancel(), &QPushButton::clicked, this, [this] {
@@ -177,7 +205,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     });
     takeStage();
     takeDocument();
-    updateTitle();
+    takeDocuments();
+    setAcceptDrops(true);
 }
 
 PrintDialog::~PrintDialog()
@@ -201,6 +230,7 @@ void PrintDialog::addShortcuts()
         }));
     m_tabKeys = {add(Qt::CTRL | Qt::Key_PageUp, [this] { sendCommand(this, kPreviousTab); }),
                  add(Qt::CTRL | Qt::Key_PageDown, [this] { sendCommand(this, kNextTab); })};
+    add(Qt::CTRL | Qt::Key_O, [this] { chooseDocuments(); });
     add(Qt::CTRL | Qt::Key_P, [this] { pressPrint(); });
     add(Qt::Key_F1, [this] { showHelp(); });
     add(Qt::Key_F6, [this] { m_parts.goToRegion(true); });
@@ -273,8 +303,14 @@ void PrintDialog::takeStage()
 {
     Extension *shown = panels();
     m_parts.noteReady();
-    m_parts.waiting->setMessage(m_session->message());
-    m_parts.stack->setCurrentWidget(shown ? m_parts.panes : m_parts.waiting);
+    const bool hasOptions = isReady() && m_session->hasOptions();
+    if (hasOptions)
+        m_parts.options->setNote(m_session->message().text);
+    else
+        m_parts.waiting->setMessage(m_session->message());
+    m_parts.stack->setCurrentWidget(shown            ? m_parts.panes
+                                        : hasOptions ? static_cast<QWidget *>(m_parts.options)
+                                                     : m_parts.waiting);
     if (shown)
         m_places.goTo(m_place, *shown);
     m_places.showSwitch(shown);
@@ -292,6 +328,13 @@ void PrintDialog::takeStage()
         m_grace.start(0); // when all that this stage brings is in place
 }
 
+// A window needs not say how a script is given the password.
+QString PrintDialog::whyNotShown(const DocumentOpening &document)
+{
+    return document.asksForPassword() ? tr("“%1” is locked with a password.").arg(document.title())
+                                      : document.problem();
+}
+
 void PrintDialog::takeDocument()
 {
     updateTitle();
@@ -301,12 +344,26 @@ void PrintDialog::takeDocument()
         m_parts.preview->setDocument(document.document());
     } else {
         m_parts.preview->setMessage(document.isPending() ? tr("Opening %1…").arg(document.title())
-                                                         : document.problem());
+                                                         : whyNotShown(document));
+        // Once the window is as it will be behind the question.
+        if (document.asksForPassword() && !m_isDriven && m_passwordsAsked.insert(&document).second)
+            QTimer::singleShot(0, this, &PrintDialog::askForPassword);
     }
+    m_parts.documents->refresh();
+    m_parts.arrangeTabOrder();
     // Its pages may be too large; the first look may still be to come.
     if (m_hasLooked)
         m_look.start();
     updatePreview();
+    updatePrintButton();
+    updateFoot();
+}
+
+void PrintDialog::takeDocuments()
+{
+    updateTitle();
+    m_parts.documents->refresh();
+    m_parts.arrangeTabOrder();
     updatePrintButton();
     updateFoot();
 }
@@ -329,7 +386,7 @@ void PrintDialog::takeSettings()
 
 void PrintDialog::updateTitle()
 {
-    setWindowTitle(tr("Print “%1”").arg(m_session->document().title()));
+    setWindowTitle(tr("Print “%1”").arg(m_session->documents().title()));
 }
 
 void PrintDialog::updatePrintButton()
@@ -337,6 +394,7 @@ void PrintDialog::updatePrintButton()
     const bool isBusy = m_flow.isPrinting() || m_sent.isTelling();
     m_parts.foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
     m_parts.foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
+    m_parts.foot->timing()->setEnabled(!isBusy && isReady());
     m_parts.foot->savePdf()->setEnabled(!isBusy && isReady()
                                         && !m_session->document().document().isNull());
 }
@@ -370,7 +428,7 @@ void PrintDialog::updatePreview()
 void PrintDialog::updateFoot()
 {
     if (m_flow.isPrinting()) {
-        m_parts.foot->setText(m_flow.destination()->onTheWay());
+        m_parts.foot->setText(m_flow.onTheWay());
         return;
     }
     QString text;
@@ -382,6 +440,10 @@ void PrintDialog::updateFoot()
         text = problem.isEmpty() ? jobInShort(*m_session)
                                  : tr("Not to be printed like this. Pages: %1").arg(problem);
     }
+    // Of several, it may be another one than is looked at.
+    if (const DocumentOpening *faulty = m_session->documents().findFaulty();
+        isReady() && faulty && m_session->documents().count() > 1)
+        text = whyNotShown(*faulty);
     m_parts.foot->setText(text);
 }
 
@@ -431,7 +493,9 @@ void PrintDialog::lookAtSettings()
     m_cautions.look();
     if (m_isDriven)
         m_cautions.sayWhatHappened();
-    m_parts.cautionBar->setContents(m_session->job().conflicts(), m_cautions.all());
+    const ConflictReport conflicts = m_session->job().conflicts();
+    m_parts.cautionBar->setContents(conflicts, m_cautions.all());
+    m_parts.options->setConflicts(conflicts.options());
     showWhatFollows();
 }
 
@@ -462,6 +526,44 @@ void PrintDialog::showDetails()
     runJobDetailsDialog(kelvo::jobInWords(*m_session, m_cautions), this);
 }
 
+void PrintDialog::changeTiming()
+{
+    commitTypedValues(this);
+    SessionJob &job = m_session->job();
+    const auto timing = askForJobTiming(job.timing(), this);
+    if (!timing || !isReady())
+        return;
+    job.setTiming(*timing);
+    m_look.start();
+}
+
+void PrintDialog::addDocuments(const QStringList &paths)
+{
+    // One that is on its way has been asked about.
+    if (m_flow.isPrinting() || m_sent.isTelling() || m_finished)
+        return;
+    std::vector<DocumentSource> sources;
+    for (const QString &path : paths)
+        sources.push_back({path, {}});
+    m_session->documents().add(std::move(sources));
+}
+
+void PrintDialog::chooseDocuments()
+{
+    if (m_flow.isPrinting() || m_sent.isTelling())
+        return;
+    const auto chooser = documentChooser({}, this);
+    if (runChooser(*chooser) == QDialog::Accepted)
+        addDocuments(chooser->selectedFiles());
+}
+
+void PrintDialog::askForPassword()
+{
+    if (m_finished || m_flow.isPrinting() || QApplication::activeModalWidget())
+        return;
+    runPasswordDialog(m_session->documents(), this);
+}
+
 void PrintDialog::showHelp()
 {
     // The shown panel's own page; the contents where it has none.
@@ -469,7 +571,9 @@ void PrintDialog::showHelp()
     event.kind = EventKind::Command;
     event.command = fourCharCode("help");
     event.source = this;
-    if (const Extension *shown = panels(); shown && shown->shownPanel() >= 0)
+    if (m_session->hasOptions())
+        event.source = m_parts.options;
+    else if (const Extension *shown = panels(); shown && shown->shownPanel() >= 0)
         event.source = shown->panels()[static_cast<std::size_t>(shown->shownPanel())].pane;
     if (sendEvent(event) == eventNotHandledErr)
         kelvo::showHelp(helpPageOf(event.source), this);
@@ -511,11 +615,16 @@ void PrintDialog::savePdf()
 {
     m_flow.forgetRefusal();
     commitTypedValues(this);
-    const QString document = m_session->document().sourcePath();
-    const auto chooser = pdfChooser(m_session->document().title(), document, this);
-    connect(chooser.get(), &QFileDialog::fileSelected, this, [this, document](const QString &path) {
+    const SessionDocuments &documents = m_session->documents();
+    QStringList files;
+    for (int i = 0; i < documents.count(); ++i)
+        files << documents.at(i).sourcePath();
+    files.removeAll(QString());
+    const auto chooser =
+        pdfChooser(documents.shown().title(), documents.shown().sourcePath(), this);
+    connect(chooser.get(), &QFileDialog::fileSelected, this, [this, files](const QString &path) {
         if (!m_finished)
-            m_flow.pressTo(pdfDestination(path, document), unfinishedPages());
+            m_flow.pressTo(pdfDestination(path, files), unfinishedPages());
     });
     runChooser(*chooser);
 }
@@ -579,21 +688,58 @@ void PrintDialog::takePrinted(const QString &place)
     showPrinting(false);
     // The user may go on and print.
     if (m_flow.isAside() && !m_isInterrupted) {
-        m_parts.foot->setText(m_flow.destination()->arrived(place));
+        m_parts.foot->setText(m_flow.arrived(place));
         m_parts.foot->savePdf()->setFocus();
         return;
     }
+    keepWhatWasUsed();
     if (m_isDriven || m_isInterrupted) {
         end(ExitStatus::Printed);
         return;
     }
-    const QString text = m_flow.destination()->arrived(place);
-    m_sent.tell(text, m_session->document().title());
+    // Of several the desktop has no room to tell one by one.
+    std::optional<SentJob> job;
+    if (const auto &jobs = m_flow.sentJobs(); jobs.size() == 1 && jobs.back().name() == place)
+        job = jobs.back();
+    m_pointer = QCursor::pos();
+    m_sent.tell(m_flow.arrived(place), m_session->documents().title(), job,
+                m_session->search().timeoutMs());
     m_parts.setEnabled(false);
     updatePrintButton();
-    m_parts.foot->setText(text);
     m_parts.foot->cancel()->setText(tr("Close"));
+    m_parts.foot->cancel()->setAccessibleName({});
     m_parts.foot->cancel()->setFocus();
+}
+
+// Of a job that went to a printer. The disk keeps nobody waiting: where it takes long, the end of
+// the program does for a moment.
+void PrintDialog::keepWhatWasUsed()
+{
+    if (!m_keepsLastUsed || m_isDriven || m_flow.sentJobs().empty())
+        return;
+    LastUsed used;
+    used.printer = m_session->search().name();
+    used.settings = lastUsedFrom(m_session->job().preset(), m_session->job().secretKeys());
+    const SessionPresets &presets = m_presets->presets();
+    used.beginning = presets.picked();
+    if (const Preset *chosen = presets.chosen())
+        used.preset = chosen->name;
+    startBackgroundWork([used] {
+        if (const auto kept = keepLastUsed(used); !kept)
+            printLine(stderr,
+                      QStringLiteral("kelvo-print: ")
+                          + tr("What was printed with is not kept: %1").arg(kept.error().text()));
+    });
+}
+
+// Whoever moves the pointer over the window, or has gone to the button with it or by keys, is
+// about to do something with the job.
+bool PrintDialog::isAttended()
+{
+    const QPushButton *cancelJob = m_parts.foot->cancelJob();
+    const QPoint before = std::exchange(m_pointer, QCursor::pos());
+    return cancelJob->hasFocus() || cancelJob->underMouse()
+        || (before != m_pointer && frameGeometry().contains(m_pointer));
 }
 
 void PrintDialog::pressCancel()
@@ -614,11 +760,11 @@ void PrintDialog::pressCancel()
 
 void PrintDialog::interrupt()
 {
+    m_isInterrupted = true;
     if (!m_flow.isPrinting()) {
         end(m_sent.isTelling() ? ExitStatus::Printed : ExitStatus::Cancelled);
         return;
     }
-    m_isInterrupted = true;
     m_flow.interrupt();
 }
 
@@ -690,13 +836,42 @@ void PrintDialog::showEvent(QShowEvent *event)
         m_watch.start();
 }
 
+namespace {
+
+// The files that are dragged; none where there is anything else among them.
+QStringList filesOf(const QMimeData &dragged)
+{
+    QStringList paths;
+    const auto urls = dragged.urls();
+    for (const QUrl &url : urls) {
+        if (!url.isLocalFile())
+            return {};
+        paths << url.toLocalFile();
+    }
+    return paths;
+}
+
+} // namespace
+
+void PrintDialog::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!filesOf(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void PrintDialog::dropEvent(QDropEvent *event)
+{
+    addDocuments(filesOf(*event->mimeData()));
+    event->acceptProposedAction();
+}
+
 // ---- what scripts ask
 
 bool PrintDialog::isIdle() const
 {
     const bool isUnderWay = !m_finished
         && (m_session->stage() == DialogSession::Stage::Searching
-            || m_session->document().isPending() || (m_isDriven && m_session->search().isLooking())
+            || m_session->documents().isPending() || (m_isDriven && m_session->search().isLooking())
             || m_look.isActive() || m_firstFrame.isActive()
             || (m_flow.isPrinting() && m_flow.isAside()));
     return !isUnderWay && m_parts.isAtRest();

@@ -75,6 +75,12 @@ void WindowColumns::setParts(QWidget *fields, QWidget *preview, QWidget *above, 
     right->addWidget(panels, 1);
 }
 
+void WindowColumns::addBelowFields(QWidget *part)
+{
+    m_belowFields = part;
+    static_cast<QVBoxLayout *>(m_left->layout())->insertWidget(1, part);
+}
+
 int WindowColumns::smallestWidth() const
 {
     // With room for their scroll bar, whether it shows now or not.
@@ -106,7 +112,9 @@ void WindowColumns::arrange()
                                             : Qt::ToolButtonIconOnly);
     m_left->setVisible(m_isLeftWanted);
     m_right->setVisible(!m_isNarrow || !m_isLeftWanted);
-    const int forPreview = m_left->height() - m_fields->sizeHint().height();
+    int forPreview = m_left->height() - m_fields->sizeHint().height();
+    if (m_belowFields && !m_belowFields->isHidden())
+        forPreview -= partGap + m_belowFields->sizeHint().height();
     const bool isWide = width() >= int(previewWidth * scale) || m_isNarrow;
     m_preview->setVisible(isWide && forPreview >= m_preview->minimumSizeHint().height());
 }

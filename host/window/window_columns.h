@@ -28,6 +28,9 @@ public:
     // where that is too little. Right, `panels` stand below `above`.
     void setParts(QWidget *fields, QWidget *preview, QWidget *above, PaneScroll *panels);
 
+    // Between them, at its own height; may come later, and only when it is shown it counts.
+    void addBelowFields(QWidget *part);
+
     QToolButton *toggle() const { return m_toggle; } // placed by the window
     // No narrower, or the panels would be cut: they do not scroll sideways.
     int smallestWidth() const;
@@ -41,7 +44,7 @@ protected:
 private:
     QWidget *m_left, *m_right;
     QToolButton *m_toggle;
-    QWidget *m_fields = nullptr, *m_preview = nullptr;
+    QWidget *m_fields = nullptr, *m_belowFields = nullptr, *m_preview = nullptr;
     PaneScroll *m_panels = nullptr;
     bool m_hasSize = false;     // from the window's layout
     bool m_isLeftWanted = true; // by the user

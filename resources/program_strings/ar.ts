@@ -11,10 +11,17 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it</source>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>يتسع ملف PDF لمهمة واحدة: أضف --join أو سمِّ مجلدًا</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
         <translation>كتابة ملف PDF لما سيُطبع؛ وباسم مجلد تُكتب فيه
-document.pdf وoptions وticket.plist</translation>
+document.pdf وoptions وticket.plist،
+أو في مجلد فيه لكل مهمة من عدة مهام</translation>
     </message>
 </context>
 <context>
@@ -192,6 +199,14 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>another file stands there that is no PDF; name another file</source>
         <translation>يوجد هناك ملف آخر ليس PDF؛ سمِّ ملفًا آخر</translation>
+    </message>
+    <message>
+        <source>it is too late to cancel this job</source>
+        <translation>فات أوان إلغاء هذه المهمة</translation>
+    </message>
+    <message>
+        <source>the print server at %1 does not have this job (any more)</source>
+        <translation>ليست هذه المهمة (أو لم تعد) على خادم الطباعة &#x2068;%1&#x2069;</translation>
     </message>
 </context>
 <context>
@@ -374,10 +389,6 @@ document.pdf وoptions وticket.plist</translation>
         <translation>يحتوي المستند على ملف أقدم &#x2068;%1&#x2069; تعذّر إخراجه؛ احفظ المستند كملف PDF جديد بلا ملفات مرفقة، واطبع ذلك</translation>
     </message>
     <message>
-        <source>the document is locked with a password; save a copy without one and print that</source>
-        <translation>المستند مقفل بكلمة مرور؛ احفظ نسخة بلا كلمة مرور واطبعها</translation>
-    </message>
-    <message>
         <source>the PDF is damaged and cannot be repaired: %1</source>
         <translation>ملف PDF تالف ولا يمكن إصلاحه: %1</translation>
     </message>
@@ -505,6 +516,31 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>لا يستطيع Ghostscript قراءة ملف PostScript هذا: %1</translation>
+    </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>المستند مقفل بكلمة مرور</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>المستند مقفل بكلمة مرور أخرى</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>&#x2066;%1&#x2069; – &#x2066;%2&#x2069;</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>&#x2066;%1&#x2069;</numerusform>
+            <numerusform>&#x2066;%1&#x2069; ومستند آخر</numerusform>
+            <numerusform>&#x2066;%1&#x2069; ومستندان آخران</numerusform>
+            <numerusform>&#x2066;%1&#x2069; و%n مستندات أخرى</numerusform>
+            <numerusform>&#x2066;%1&#x2069; و%n مستندًا آخر</numerusform>
+            <numerusform>&#x2066;%1&#x2069; و%n مستند آخر</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1416,6 +1452,125 @@ document.pdf وoptions وticket.plist</translation>
         <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
         <translation>اختر صفحات أقل في الورقة، أو دع الصفحات تُصغَّر لتلائم مواضعها.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>المزيد</translation>
+    </message>
+    <message>
+        <source>On the server: held %1</source>
+        <translation>على الخادم: معلَّقة %1</translation>
+    </message>
+    <message>
+        <source>Priority: %1</source>
+        <translation>الأولوية: %1</translation>
+    </message>
+    <message>
+        <source>a priority is a number from %1 to %2, the higher the sooner</source>
+        <translation>الأولوية عدد من %1 إلى %2، وكلما زاد كان الطبع أسرع</translation>
+    </message>
+    <message>
+        <source>a time is written HH:MM, in UTC</source>
+        <translation>يُكتب الوقت بالصيغة &#x2066;HH:MM&#x2069; بتوقيت UTC</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>أُلغيت</translation>
+    </message>
+    <message>
+        <source>given up by the print server</source>
+        <translation>تخلّى عنها خادم الطباعة</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>معلَّقة</translation>
+    </message>
+    <message>
+        <source>held %1</source>
+        <translation>معلَّقة %1</translation>
+    </message>
+    <message>
+        <source>it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: %1</source>
+        <translation>يُقبل &#x2066;immediate&#x2069; أو &#x2066;hold&#x2069; أو وقت &#x2066;HH:MM&#x2069; بتوقيت UTC أو إحدى كلمات &#x2066;job-hold-until: %1&#x2069;</translation>
+    </message>
+    <message>
+        <source>no longer on the print server, which does not keep how jobs ended</source>
+        <translation>لم تعد على خادم الطباعة، وهو لا يحفظ كيف انتهت المهام</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>طُبعت</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>قيد الطباعة</translation>
+    </message>
+    <message>
+        <source>that is for a job that is there already; use “lp -i JOB -H %1”</source>
+        <translation>هذا لمهمة موجودة من قبل؛ استخدم الأمر &#x2066;lp -i JOB -H %1&#x2069;</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>حتى &#x2068;%1&#x2069;</translation>
+    </message>
+    <message>
+        <source>until daytime (6 to 18 h)</source>
+        <translation>حتى النهار (من 6 إلى 18)</translation>
+    </message>
+    <message>
+        <source>until somebody releases it</source>
+        <translation>حتى يُفرج عنها</translation>
+    </message>
+    <message>
+        <source>until the evening (18 to 6 h)</source>
+        <translation>حتى المساء (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>until the night (18 to 6 h)</source>
+        <translation>حتى الليل (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>until the second shift (16 to 24 h)</source>
+        <translation>حتى الوردية الثانية (من 16 إلى 24)</translation>
+    </message>
+    <message>
+        <source>until the third shift (0 to 8 h)</source>
+        <translation>حتى الوردية الثالثة (من 0 إلى 8)</translation>
+    </message>
+    <message>
+        <source>until the weekend</source>
+        <translation>حتى عطلة نهاية الأسبوع</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>في الانتظار</translation>
+    </message>
+    <message>
+        <source>waiting, the printer is stopped</source>
+        <translation>في الانتظار، الطابعة متوقفة</translation>
+    </message>
+    <message>
+        <source>%1 was not cancelled: %2</source>
+        <translation>لم تُلغَ &#x2068;%1&#x2069;: &#x2068;%2&#x2069;</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>لا صفحات حتى الآن</numerusform>
+            <numerusform>صفحة واحدة حتى الآن</numerusform>
+            <numerusform>صفحتان حتى الآن</numerusform>
+            <numerusform>%n صفحات حتى الآن</numerusform>
+            <numerusform>%n صفحة حتى الآن</numerusform>
+            <numerusform>%n صفحة حتى الآن</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep settings in; set HOME</source>
+        <translation>لا يوجد مجلد منزل لحفظ الإعدادات فيه؛ عيّن HOME</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1470,6 +1625,81 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>Close</source>
         <translation>إغلاق</translation>
+    </message>
+</context>
+<context>
+    <name>JobTiming</name>
+    <message>
+        <source>&amp;Print:</source>
+        <translation>ال&amp;طباعة:</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>في وقت محدد</translation>
+    </message>
+    <message>
+        <source>At night (18 to 6 h)</source>
+        <translation>ليلًا (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>فورًا</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>في عطلة نهاية الأسبوع</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>In the daytime (6 to 18 h)</source>
+        <translation>نهارًا (من 6 إلى 18)</translation>
+    </message>
+    <message>
+        <source>In the evening (18 to 6 h)</source>
+        <translation>مساءً (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>In the second shift (16 to 24 h)</source>
+        <translation>في الوردية الثانية (من 16 إلى 24)</translation>
+    </message>
+    <message>
+        <source>In the third shift (0 to 8 h)</source>
+        <translation>في الوردية الثالثة (من 0 إلى 8)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Of 1 to 100; the higher, the sooner</source>
+        <translation>من 1 إلى 100؛ كلما زادت كان الطبع أسرع</translation>
+    </message>
+    <message>
+        <source>P&amp;riority:</source>
+        <translation>الأ&amp;ولوية:</translation>
+    </message>
+    <message>
+        <source>The next time that the clock shows this</source>
+        <translation>المرة التالية التي تبلغ فيها الساعة هذا الوقت</translation>
+    </message>
+    <message>
+        <source>The print server keeps the job until then; it is sent when you press Print.</source>
+        <translation>يحتفظ خادم الطباعة بالمهمة حتى ذلك الحين؛ وتُرسل عند الضغط على «طباعة».</translation>
+    </message>
+    <message>
+        <source>Time to print at</source>
+        <translation>وقت الطباعة</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>عندما يُفرج عنها</translation>
+    </message>
+    <message>
+        <source>When to Print</source>
+        <translation>موعد الطباعة</translation>
     </message>
 </context>
 <context>
@@ -1563,6 +1793,13 @@ document.pdf وoptions وticket.plist</translation>
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>Cancel Job</source>
+        <translation>إلغاء المهمة</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>there is no such bundle</source>
@@ -1599,6 +1836,49 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>its interface lacks an operation</source>
         <translation>تنقص واجهته عملية</translation>
+    </message>
+</context>
+<context>
+    <name>Password</name>
+    <message>
+        <source>Password</source>
+        <translation>كلمة المرور</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>لا يسمح مؤلف «&#x2068;%1&#x2069;» بطباعته بلا كلمة مرور المالك.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>«&#x2068;%1&#x2069;» مقفل بكلمة مرور.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;كلمة المرور:</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>كلمة مرور المستند</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>إ&amp;ظهار</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>كلمة المرور هذه غير صحيحة.</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>هذه ليست كلمة مرور المالك.</translation>
     </message>
 </context>
 <context>
@@ -1888,6 +2168,718 @@ document.pdf وoptions وticket.plist</translation>
         <source>covers and inserts</source>
         <translation>الأغلفة والإدراجات</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a document, and what is to be said of it</comment>
+        <translation>&#x2066;%1&#x2069;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>StandardWords</name>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>الطباعة على الوجهين</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>الألوان</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>مصدر الورق</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>نوع الورق</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>حجم الورق</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>جودة الطباعة</translation>
+    </message>
+    <message>
+        <source>Output destination</source>
+        <translation>وجهة الإخراج</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>الدقة</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>تحسين من أجل</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>التدبيس</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>التثقيب</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>الطي</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>القص</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>التجليد</translation>
+    </message>
+    <message>
+        <source>Other finishing</source>
+        <translation>تشطيب آخر</translation>
+    </message>
+    <message>
+        <source>Finishing preset</source>
+        <translation>إعداد تشطيب مسبق</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>التشطيب</translation>
+    </message>
+    <message>
+        <source>1-sided print</source>
+        <translation>وجه واحد</translation>
+    </message>
+    <message>
+        <source>2-sided print</source>
+        <translation>وجهان</translation>
+    </message>
+    <message>
+        <source>2-sided print, flip on short edge</source>
+        <translation>وجهان، القلب على الحافة القصيرة</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>أسود وأبيض</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>تلقائي، أسود وأبيض</translation>
+    </message>
+    <message>
+        <source>Black only, no shades</source>
+        <translation>أسود فقط دون تدرّج</translation>
+    </message>
+    <message>
+        <source>Black and one color</source>
+        <translation>أسود ولون واحد</translation>
+    </message>
+    <message>
+        <source>Black only, mixed from colors</source>
+        <translation>أسود فقط ممزوج من الألوان</translation>
+    </message>
+    <message>
+        <source>Black and white, mixed from colors</source>
+        <translation>أسود وأبيض ممزوج من الألوان</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>ألوان (CMYK)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>مسودة</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>عادية</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>عالية</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>الدرج الرئيسي</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>الدرج البديل</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>اللفة البديلة</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>درج التغذية اليدوية</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>تغذية يدوية</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>الدرج العلوي</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>الدرج الأوسط</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>الدرج السفلي</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>الدرج الأيسر</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>الدرج الأيمن</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>الدرج المركزي</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>الدرج الخلفي</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>الدرج الجانبي</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>درج الأقراص</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>تغذية المظاريف</translation>
+    </message>
+    <message>
+        <source>High-capacity tray</source>
+        <translation>درج السعة الكبيرة</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>اللفة الرئيسية</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>درج الصور</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>الدرج %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>اللفة %1</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>أي نوع</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>نوع آخر</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>ورق عادي</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>ورق رقيق</translation>
+    </message>
+    <message>
+        <source>Thick paper</source>
+        <translation>ورق سميك</translation>
+    </message>
+    <message>
+        <source>Thick coated paper</source>
+        <translation>ورق سميك مطلي</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>ورق مطلي</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>ورق نفث حبر</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>ورق فاخر</translation>
+    </message>
+    <message>
+        <source>Bond paper</source>
+        <translation>ورق سندات</translation>
+    </message>
+    <message>
+        <source>Recycled paper</source>
+        <translation>ورق معاد تدويره</translation>
+    </message>
+    <message>
+        <source>Colored paper</source>
+        <translation>ورق ملوّن</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>ورق ذو ترويسة</translation>
+    </message>
+    <message>
+        <source>Preprinted paper</source>
+        <translation>ورق مطبوع مسبقًا</translation>
+    </message>
+    <message>
+        <source>Prepunched paper</source>
+        <translation>ورق مثقوب مسبقًا</translation>
+    </message>
+    <message>
+        <source>Cotton paper</source>
+        <translation>ورق قطني</translation>
+    </message>
+    <message>
+        <source>Archival paper</source>
+        <translation>ورق أرشيفي</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>ورق مقوّى</translation>
+    </message>
+    <message>
+        <source>Cardboard</source>
+        <translation>كرتون</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>ورق متصل</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>قرص</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>مظروف</translation>
+    </message>
+    <message>
+        <source>Plain envelope</source>
+        <translation>مظروف عادي</translation>
+    </message>
+    <message>
+        <source>Window envelope</source>
+        <translation>مظروف بنافذة</translation>
+    </message>
+    <message>
+        <source>Fabric</source>
+        <translation>قماش</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>فيلم</translation>
+    </message>
+    <message>
+        <source>Back-print film</source>
+        <translation>فيلم للطباعة الخلفية</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>شفافية</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ملصقات</translation>
+    </message>
+    <message>
+        <source>Continuous labels</source>
+        <translation>ملصقات متصلة</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>ورق صور</translation>
+    </message>
+    <message>
+        <source>Photo paper, glossy</source>
+        <translation>ورق صور لامع</translation>
+    </message>
+    <message>
+        <source>Photo paper, high gloss</source>
+        <translation>ورق صور شديد اللمعان</translation>
+    </message>
+    <message>
+        <source>Photo paper, matte</source>
+        <translation>ورق صور مطفأ</translation>
+    </message>
+    <message>
+        <source>Photo paper, satin</source>
+        <translation>ورق صور ساتان</translation>
+    </message>
+    <message>
+        <source>Photo paper, semi-gloss</source>
+        <translation>ورق صور نصف لامع</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>فيلم صور</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>ورق فواصل</translation>
+    </message>
+    <message>
+        <source>Precut tabs</source>
+        <translation>فواصل مقطوعة مسبقًا</translation>
+    </message>
+    <message>
+        <source>Fanfold paper</source>
+        <translation>ورق متصل مطوي</translation>
+    </message>
+    <message>
+        <source>Multi-part form</source>
+        <translation>نموذج متعدد الطبقات</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>الوجه إلى أعلى</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>الوجه إلى أسفل</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>صندوق بريدي</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>صندوق البريد %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>المكدّس %1</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>الرسومات</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>الصور</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>النص</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>النص والرسومات</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>دبوس واحد</translation>
+    </message>
+    <message>
+        <source>1 staple, top left</source>
+        <translation>دبوس واحد، أعلى اليسار</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom left</source>
+        <translation>دبوس واحد، أسفل اليسار</translation>
+    </message>
+    <message>
+        <source>1 staple, top right</source>
+        <translation>دبوس واحد، أعلى اليمين</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom right</source>
+        <translation>دبوس واحد، أسفل اليمين</translation>
+    </message>
+    <message>
+        <source>Along an edge</source>
+        <translation>على طول حافة</translation>
+    </message>
+    <message>
+        <source>Along the left edge</source>
+        <translation>على طول الحافة اليسرى</translation>
+    </message>
+    <message>
+        <source>Along the top edge</source>
+        <translation>على طول الحافة العليا</translation>
+    </message>
+    <message>
+        <source>Along the right edge</source>
+        <translation>على طول الحافة اليمنى</translation>
+    </message>
+    <message>
+        <source>Along the bottom edge</source>
+        <translation>على طول الحافة السفلى</translation>
+    </message>
+    <message>
+        <source>Through the fold</source>
+        <translation>عبر الطية</translation>
+    </message>
+    <message>
+        <source>2 staples, left</source>
+        <translation>دبوسان، اليسار</translation>
+    </message>
+    <message>
+        <source>2 staples, top</source>
+        <translation>دبوسان، الأعلى</translation>
+    </message>
+    <message>
+        <source>2 staples, right</source>
+        <translation>دبوسان، اليمين</translation>
+    </message>
+    <message>
+        <source>2 staples, bottom</source>
+        <translation>دبوسان، الأسفل</translation>
+    </message>
+    <message>
+        <source>3 staples, left</source>
+        <translation>ثلاثة دبابيس، اليسار</translation>
+    </message>
+    <message>
+        <source>3 staples, top</source>
+        <translation>ثلاثة دبابيس، الأعلى</translation>
+    </message>
+    <message>
+        <source>3 staples, right</source>
+        <translation>ثلاثة دبابيس، اليمين</translation>
+    </message>
+    <message>
+        <source>3 staples, bottom</source>
+        <translation>ثلاثة دبابيس، الأسفل</translation>
+    </message>
+    <message>
+        <source>Holes</source>
+        <translation>ثقوب</translation>
+    </message>
+    <message>
+        <source>2 holes, left</source>
+        <translation>ثقبان، اليسار</translation>
+    </message>
+    <message>
+        <source>2 holes, top</source>
+        <translation>ثقبان، الأعلى</translation>
+    </message>
+    <message>
+        <source>2 holes, right</source>
+        <translation>ثقبان، اليمين</translation>
+    </message>
+    <message>
+        <source>2 holes, bottom</source>
+        <translation>ثقبان، الأسفل</translation>
+    </message>
+    <message>
+        <source>3 holes, left</source>
+        <translation>ثلاثة ثقوب، اليسار</translation>
+    </message>
+    <message>
+        <source>3 holes, top</source>
+        <translation>ثلاثة ثقوب، الأعلى</translation>
+    </message>
+    <message>
+        <source>3 holes, right</source>
+        <translation>ثلاثة ثقوب، اليمين</translation>
+    </message>
+    <message>
+        <source>3 holes, bottom</source>
+        <translation>ثلاثة ثقوب، الأسفل</translation>
+    </message>
+    <message>
+        <source>4 holes, left</source>
+        <translation>أربعة ثقوب، اليسار</translation>
+    </message>
+    <message>
+        <source>4 holes, top</source>
+        <translation>أربعة ثقوب، الأعلى</translation>
+    </message>
+    <message>
+        <source>4 holes, right</source>
+        <translation>أربعة ثقوب، اليمين</translation>
+    </message>
+    <message>
+        <source>4 holes, bottom</source>
+        <translation>أربعة ثقوب، الأسفل</translation>
+    </message>
+    <message>
+        <source>Many holes, left</source>
+        <translation>ثقوب كثيرة، اليسار</translation>
+    </message>
+    <message>
+        <source>Many holes, top</source>
+        <translation>ثقوب كثيرة، الأعلى</translation>
+    </message>
+    <message>
+        <source>Many holes, right</source>
+        <translation>ثقوب كثيرة، اليمين</translation>
+    </message>
+    <message>
+        <source>Many holes, bottom</source>
+        <translation>ثقوب كثيرة، الأسفل</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>طي</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>طي أكورديون</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>طي بوابة مزدوج</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>طي هندسي على شكل Z</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>طي بوابة</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>طي نصفي</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>طي Z نصفي</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>طي بوابة أيسر</translation>
+    </message>
+    <message>
+        <source>C fold</source>
+        <translation>طي على شكل C</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>طي متوازٍ</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>طي ملصق</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>طي بوابة أيمن</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>طي على شكل Z</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>بعد كل صفحة</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>بعد كل مستند</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>بعد كل نسخة</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>بعد المهمة</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>تجليد</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>الحافة اليسرى</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>الحافة العليا</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>الحافة اليمنى</translation>
+    </message>
+    <message>
+        <source>Bottom edge</source>
+        <translation>الحافة السفلى</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>غلاف</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>حزم</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>كتيّب</translation>
+    </message>
+    <message>
+        <source>Offset each set</source>
+        <translation>إزاحة كل مجموعة</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>طلاء</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>تغليف بلاستيكي</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1، دون هوامش</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>&#x2066;%1 × %2&#x2069; مم</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>&#x2066;%1 × %2&#x2069; بوصة</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>مظروف %1</translation>
+    </message>
+    <message>
+        <source>Index card %1</source>
+        <translation>بطاقة فهرسة %1</translation>
+    </message>
+    <message>
+        <source>Photo %1</source>
+        <translation>صورة %1</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>بطاقة بريدية</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>بطاقة بريدية مزدوجة</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -1906,10 +2898,6 @@ document.pdf وoptions وticket.plist</translation>
 </context>
 <context>
     <name>Window</name>
-    <message>
-        <source>Choose a Document to Print</source>
-        <translation>اختيار مستند للطباعة</translation>
-    </message>
     <message>
         <source>PDF, PostScript, text and pictures</source>
         <translation>PDF وPostScript ونصوص وصور</translation>
@@ -2050,6 +3038,10 @@ document.pdf وoptions وticket.plist</translation>
         <comment>the name of a file</comment>
         <translation>%1 (مطبوع)</translation>
     </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>اختيار مستندات للطباعة</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -2158,6 +3150,22 @@ document.pdf وoptions وticket.plist</translation>
         <source>The pages as they would be printed, in a file</source>
         <translation>الصفحات كما ستُطبع، في ملف</translation>
     </message>
+    <message>
+        <source>At once or later, and before which other jobs</source>
+        <translation>فورًا أو لاحقًا، وقبل أي مهام أخرى</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>إلغاء الم&amp;همة</translation>
+    </message>
+    <message>
+        <source>Takes the job back from the print server</source>
+        <translation>يسحب المهمة من خادم الطباعة</translation>
+    </message>
+    <message>
+        <source>When to Print…</source>
+        <translation>موعد الطباعة…</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -2191,6 +3199,62 @@ document.pdf وoptions وticket.plist</translation>
     </message>
 </context>
 <context>
+    <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>المستند</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>المستند الذي تعرضه المعاينة ويزيله الأمر «إزالة»</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>إجراءات المستندات</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>إضافة مستندات أو إزالتها</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>إضافة…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Print all as one &amp;job</source>
+        <translation>طباعة الكل ك&amp;مهمة واحدة</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>تتوالى الصفحات كما لو كانت الملفات مستندًا واحدًا</translation>
+    </message>
+    <message>
+        <source>Enter Password…</source>
+        <translation>إدخال كلمة المرور…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>&#x2066;%1&#x2069; (أُرسل)</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>&#x2066;%1&#x2069; (مقفل)</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>&#x2066;%1&#x2069; (تتعذر طباعته)</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1 من %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::DocumentOpening</name>
     <message>
         <source>There is no document to print.</source>
@@ -2199,6 +3263,10 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>لا يمكن فتح المستند: %1</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>اكتبها في النافذة، أو احفظها في ملف بالصلاحيات 0600 يحدده &#x2066;--secret DOCUMENT=FILE&#x2069;</translation>
     </message>
 </context>
 <context>
@@ -2296,6 +3364,33 @@ document.pdf وoptions وticket.plist</translation>
     <message>
         <source>Of th&amp;ese:</source>
         <translation>&amp;منها:</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>خيارات الطابعة</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>ليس لهذه الطابعة خيارات خاصة بها.</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1 (غير متاح)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>لا يمكن استخدامه مع إعدادات أخرى</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>لا تتيح تجهيزات الطابعة خيارًا آخر</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +3530,14 @@ The settings stay as they are.</source>
         <source>A star means that settings have changed since it was chosen.</source>
         <translation>تعني النجمة أن إعدادات تغيّرت منذ اختياره.</translation>
     </message>
+    <message>
+        <source>Last used settings</source>
+        <translation>آخر إعدادات مستخدمة</translation>
+    </message>
+    <message>
+        <source>“%1” is what was printed with last. Choose another name.</source>
+        <translation>«&#x2068;%1&#x2069;» هي ما طُبع به آخر مرة. اختر اسمًا آخر.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintDialog</name>
@@ -2481,6 +3584,14 @@ The settings stay as they are.</source>
     <message>
         <source>the left column</source>
         <translation>العمود الجانبي</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>«&#x2068;%1&#x2069;» مقفل بكلمة مرور.</translation>
+    </message>
+    <message>
+        <source>What was printed with is not kept: %1</source>
+        <translation>لم يُحفظ ما طُبع به: %1</translation>
     </message>
 </context>
 <context>
@@ -2537,6 +3648,57 @@ The settings stay as they are.</source>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: لم يُرسل، فهذه الطابعة لا تقرأ التذاكر</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>لم تُفتح كل المستندات بعد.</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>صفحات &#x2066;%1&#x2069;: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>يجري إرسال %1 من %2: &#x2066;%3&#x2069;</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>لم يُكتب أي مستند</numerusform>
+            <numerusform>كُتب مستند واحد</numerusform>
+            <numerusform>كُتب مستندان</numerusform>
+            <numerusform>كُتبت %n مستندات</numerusform>
+            <numerusform>كُتب %n مستندًا</numerusform>
+            <numerusform>كُتب %n مستند</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>لم يُرسل أي مستند إلى %1</numerusform>
+            <numerusform>أُرسل مستند واحد إلى %1</numerusform>
+            <numerusform>أُرسل مستندان إلى %1</numerusform>
+            <numerusform>أُرسلت %n مستندات إلى %1</numerusform>
+            <numerusform>أُرسل %n مستندًا إلى %1</numerusform>
+            <numerusform>أُرسل %n مستند إلى %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>&#x2066;%1&#x2069; (&#x2066;%2&#x2069;)</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>لم يُرسل أي مستند.</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>أُرسل: %1.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>لم يُرسل: %1.</translation>
     </message>
 </context>
 <context>
@@ -2810,6 +3972,13 @@ The settings stay as they are.</source>
         <source>%1 (%2)</source>
         <comment>what is wrong, and what the server said</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SentMessage</name>
+    <message>
+        <source>Cancelling %1…</source>
+        <translation>يجري إلغاء &#x2068;%1&#x2069;…</translation>
     </message>
 </context>
 <context>

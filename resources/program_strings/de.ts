@@ -103,11 +103,6 @@ Einstellungen schreiben</translation>
         <translation>drucken, wenn das Skript zu Ende ist</translation>
     </message>
     <message>
-        <source>a secret for the script, in a file of mode 0600</source>
-        <translation>ein Geheimnis für das Skript, in einer Datei mit den
-Rechten 0600</translation>
-    </message>
-    <message>
         <source>show nothing; without a script, print at once</source>
         <translation>nichts anzeigen; ohne Skript sofort drucken</translation>
     </message>
@@ -146,10 +141,6 @@ genannte Pipe warten, 1 bis 3600 (30)</translation>
         <translation>eine solche Option gibt es nicht</translation>
     </message>
     <message>
-        <source>only one document is printed at a time</source>
-        <translation>es wird nur ein Dokument auf einmal gedruckt</translation>
-    </message>
-    <message>
         <source>-o %1 says something else; leave out one of them</source>
         <translation>-o %1 besagt etwas anderes; lassen Sie eines davon weg</translation>
     </message>
@@ -184,20 +175,6 @@ genannte Pipe warten, 1 bis 3600 (30)</translation>
     <message>
         <source>its value %1 is missing</source>
         <translation>der Wert %1 fehlt</translation>
-    </message>
-    <message>
-        <source>Usage: kelvo-print [OPTION]... [FILE]
-
-Shows the print dialog for FILE, or for standard input: PDF, PostScript, text
-or a picture.
-
-</source>
-        <translation>Aufruf: kelvo-print [OPTION]... [FILE]
-
-Zeigt den Druckdialog für FILE oder für die Standardeingabe: PDF, PostScript,
-Text oder ein Bild.
-
-</translation>
     </message>
     <message>
         <source>
@@ -247,10 +224,68 @@ ungültig, 130 abgebrochen.
         <translation>%1 ist das, was --ticket-out schreibt</translation>
     </message>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it</source>
-        <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
-Ordners document.pdf, options und ticket.plist hinein</translation>
+        <source>print several files as one job</source>
+        <translation>mehrere Dateien als einen Auftrag drucken</translation>
+    </message>
+    <message>
+        <source>standard input can be read only once</source>
+        <translation>die Standardeingabe lässt sich nur einmal lesen</translation>
+    </message>
+    <message>
+        <source>Usage: kelvo-print [OPTION]... [FILE]...
+
+Shows the print dialog for the FILEs, or for standard input (-): PDF,
+PostScript, text or pictures. Each is a job of its own.
+
+</source>
+        <translation>Aufruf: kelvo-print [OPTION]... [FILE]...
+
+Zeigt den Druckdialog für die Dateien FILE oder für die Standardeingabe (-):
+PDF, PostScript, Text oder Bilder. Jede ist ein eigener Auftrag.
+
+</translation>
+    </message>
+    <message>
+        <source>a secret for the script, in a file of mode 0600;
+DOCUMENT is the password of a PDF, DOCUMENT2
+that of the second file</source>
+        <translation>ein Geheimnis für das Skript, in einer Datei mit den
+Rechten 0600; DOCUMENT ist das Passwort eines PDF,
+DOCUMENT2 das der zweiten Datei</translation>
+    </message>
+    <message>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>eine PDF-Datei nimmt einen Auftrag auf: Fügen Sie --join hinzu, oder nennen Sie einen Ordner</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
+        <translation>ein PDF des zu Druckenden schreiben; mit dem
+Namen eines Ordners document.pdf, options und
+ticket.plist hinein, bei mehreren Aufträgen in
+einen Ordner für jeden</translation>
+    </message>
+    <message>
+        <source>what is written to a file is not printed, and there is nothing to wait for; leave out --to</source>
+        <translation>was in eine Datei geschrieben wird, wird nicht gedruckt, und es gibt nichts, worauf zu warten wäre; lassen Sie --to weg</translation>
+    </message>
+    <message>
+        <source>end when the job is printed, and say what becomes
+of it</source>
+        <translation>erst enden, wenn der Auftrag gedruckt ist, und
+sagen, was aus ihm wird</translation>
+    </message>
+    <message>
+        <source>how urgent the job is, 1 to 100</source>
+        <translation>wie dringend der Auftrag ist, 1 bis 100</translation>
+    </message>
+    <message>
+        <source>when the server prints it: immediate, hold, HH:MM
+(UTC), evening and others that lp has</source>
+        <translation>wann der Server ihn druckt: immediate, hold,
+HH:MM (UTC), evening und andere wie bei lp</translation>
     </message>
 </context>
 <context>
@@ -681,6 +716,14 @@ Ordners document.pdf, options und ticket.plist hinein</translation>
         <source>another file stands there that is no PDF; name another file</source>
         <translation>dort steht eine andere Datei, die kein PDF ist; nennen Sie eine andere Datei</translation>
     </message>
+    <message>
+        <source>it is too late to cancel this job</source>
+        <translation>es ist zu spät, diesen Auftrag abzubrechen</translation>
+    </message>
+    <message>
+        <source>the print server at %1 does not have this job (any more)</source>
+        <translation>der Druckserver auf %1 hat diesen Auftrag nicht (mehr)</translation>
+    </message>
 </context>
 <context>
     <name>Device</name>
@@ -877,10 +920,6 @@ Ordners document.pdf, options und ticket.plist hinein</translation>
         <translation>das Dokument enthält eine ältere Datei %1, die sich nicht herausnehmen ließ; speichern Sie es als neue PDF-Datei ohne angehängte Dateien und drucken Sie diese</translation>
     </message>
     <message>
-        <source>the document is locked with a password; save a copy without one and print that</source>
-        <translation>das Dokument ist mit einem Passwort gesperrt; speichern Sie eine Kopie ohne Passwort und drucken Sie diese</translation>
-    </message>
-    <message>
         <source>the PDF is damaged and cannot be repaired: %1</source>
         <translation>die PDF-Datei ist beschädigt und lässt sich nicht reparieren: %1</translation>
     </message>
@@ -1008,6 +1047,27 @@ Ordners document.pdf, options und ticket.plist hinein</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>Ghostscript kann das PostScript nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>das Dokument ist mit einem Passwort gesperrt</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>das Dokument ist mit einem anderen Passwort gesperrt</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1931,121 @@ Ordners document.pdf, options und ticket.plist hinein</translation>
         <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
         <translation>Wählen Sie weniger Seiten pro Blatt, oder lassen Sie die Seiten einpassen.</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Weitere</translation>
+    </message>
+    <message>
+        <source>On the server: held %1</source>
+        <translation>Auf dem Server: angehalten %1</translation>
+    </message>
+    <message>
+        <source>Priority: %1</source>
+        <translation>Priorität: %1</translation>
+    </message>
+    <message>
+        <source>a priority is a number from %1 to %2, the higher the sooner</source>
+        <translation>eine Priorität ist eine Zahl von %1 bis %2, je höher, desto eher</translation>
+    </message>
+    <message>
+        <source>a time is written HH:MM, in UTC</source>
+        <translation>eine Uhrzeit wird HH:MM geschrieben, in UTC</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>given up by the print server</source>
+        <translation>vom Druckserver aufgegeben</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>held %1</source>
+        <translation>angehalten %1</translation>
+    </message>
+    <message>
+        <source>it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: %1</source>
+        <translation>erwartet wird immediate, hold, eine Uhrzeit HH:MM in UTC oder ein Wort von job-hold-until: %1</translation>
+    </message>
+    <message>
+        <source>no longer on the print server, which does not keep how jobs ended</source>
+        <translation>nicht mehr auf dem Druckserver, der nicht festhält, wie Aufträge geendet haben</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>gedruckt</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>wird gedruckt</translation>
+    </message>
+    <message>
+        <source>that is for a job that is there already; use “lp -i JOB -H %1”</source>
+        <translation>das gilt einem Auftrag, den es schon gibt; verwenden Sie „lp -i AUFTRAG -H %1“</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>until daytime (6 to 18 h)</source>
+        <translation>bis zum Tag (6 bis 18 Uhr)</translation>
+    </message>
+    <message>
+        <source>until somebody releases it</source>
+        <translation>bis ihn jemand freigibt</translation>
+    </message>
+    <message>
+        <source>until the evening (18 to 6 h)</source>
+        <translation>bis zum Abend (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the night (18 to 6 h)</source>
+        <translation>bis zur Nacht (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the second shift (16 to 24 h)</source>
+        <translation>bis zur zweiten Schicht (16 bis 24 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the third shift (0 to 8 h)</source>
+        <translation>bis zur dritten Schicht (0 bis 8 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the weekend</source>
+        <translation>bis zum Wochenende</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>waiting, the printer is stopped</source>
+        <translation>wartet, der Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>%1 was not cancelled: %2</source>
+        <translation>%1 wurde nicht abgebrochen: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>bisher %n Seite</numerusform>
+            <numerusform>bisher %n Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep settings in; set HOME</source>
+        <translation>es gibt keinen persönlichen Ordner, um Einstellungen aufzubewahren; setzen Sie HOME</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1925,6 +2100,81 @@ Ordners document.pdf, options und ticket.plist hinein</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>JobTiming</name>
+    <message>
+        <source>&amp;Print:</source>
+        <translation>&amp;Drucken:</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>At night (18 to 6 h)</source>
+        <translation>In der Nacht (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>In the daytime (6 to 18 h)</source>
+        <translation>Am Tag (6 bis 18 Uhr)</translation>
+    </message>
+    <message>
+        <source>In the evening (18 to 6 h)</source>
+        <translation>Am Abend (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>In the second shift (16 to 24 h)</source>
+        <translation>In der zweiten Schicht (16 bis 24 Uhr)</translation>
+    </message>
+    <message>
+        <source>In the third shift (0 to 8 h)</source>
+        <translation>In der dritten Schicht (0 bis 8 Uhr)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Of 1 to 100; the higher, the sooner</source>
+        <translation>Von 1 bis 100; je höher, desto eher</translation>
+    </message>
+    <message>
+        <source>P&amp;riority:</source>
+        <translation>P&amp;riorität:</translation>
+    </message>
+    <message>
+        <source>The next time that the clock shows this</source>
+        <translation>Das nächste Mal, wenn die Uhr dies zeigt</translation>
+    </message>
+    <message>
+        <source>The print server keeps the job until then; it is sent when you press Print.</source>
+        <translation>Der Druckserver behält den Auftrag bis dahin; gesendet wird er, wenn Sie auf „Drucken“ klicken.</translation>
+    </message>
+    <message>
+        <source>Time to print at</source>
+        <translation>Uhrzeit für den Druck</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>Wenn ihn jemand freigibt</translation>
+    </message>
+    <message>
+        <source>When to Print</source>
+        <translation>Wann gedruckt wird</translation>
     </message>
 </context>
 <context>
@@ -2092,6 +2342,21 @@ Ordners document.pdf, options und ticket.plist hinein</translation>
         <source>there are no texts in the language “%1”; name one of these: %2</source>
         <translation>es gibt keine Texte in der Sprache „%1“; nennen Sie eine von diesen: %2</translation>
     </message>
+    <message>
+        <source>%1 goes on without this program; “cancel %1” takes it back</source>
+        <translation>%1 läuft ohne dieses Programm weiter; „cancel %1“ nimmt den Auftrag zurück</translation>
+    </message>
+    <message>
+        <source>%1 was sent, and nobody knows what became of it (%2). It may still be printed: look with “lpstat -W all” before you print it again</source>
+        <translation>%1 wurde gesendet, und niemand weiß, was daraus geworden ist (%2). Der Auftrag wird vielleicht noch gedruckt: Sehen Sie mit „lpstat -W all“ nach, bevor Sie ihn noch einmal drucken</translation>
+    </message>
+</context>
+<context>
+    <name>Notice</name>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>Panels</name>
@@ -2130,6 +2395,49 @@ Ordners document.pdf, options und ticket.plist hinein</translation>
     <message>
         <source>its interface lacks an operation</source>
         <translation>in der Schnittstelle fehlt eine Operation</translation>
+    </message>
+</context>
+<context>
+    <name>Password</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>Der Verfasser von „%1“ erlaubt das Drucken nur mit dem Passwort des Besitzers.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>Passwort des Dokuments</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Anzeigen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>Das ist nicht das Passwort.</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>Das ist nicht das Passwort des Besitzers.</translation>
     </message>
 </context>
 <context>
@@ -2773,6 +3081,718 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>covers and inserts</source>
         <translation>Deckblätter und Einlagen</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a document, and what is to be said of it</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>StandardWords</name>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>Beidseitiger Druck</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Papierquelle</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Papiersorte</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>Druckqualität</translation>
+    </message>
+    <message>
+        <source>Output destination</source>
+        <translation>Ausgabeziel</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>Optimieren für</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>Heften</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>Binden</translation>
+    </message>
+    <message>
+        <source>Other finishing</source>
+        <translation>Weitere Verarbeitung</translation>
+    </message>
+    <message>
+        <source>Finishing preset</source>
+        <translation>Vorlage für die Weiterverarbeitung</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Weiterverarbeitung</translation>
+    </message>
+    <message>
+        <source>1-sided print</source>
+        <translation>Einseitig</translation>
+    </message>
+    <message>
+        <source>2-sided print</source>
+        <translation>Beidseitig</translation>
+    </message>
+    <message>
+        <source>2-sided print, flip on short edge</source>
+        <translation>Beidseitig, über die kurze Kante wenden</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>Automatisch, Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Black only, no shades</source>
+        <translation>Nur Schwarz, ohne Graustufen</translation>
+    </message>
+    <message>
+        <source>Black and one color</source>
+        <translation>Schwarz und eine Farbe</translation>
+    </message>
+    <message>
+        <source>Black only, mixed from colors</source>
+        <translation>Nur Schwarz, aus Farben gemischt</translation>
+    </message>
+    <message>
+        <source>Black and white, mixed from colors</source>
+        <translation>Schwarzweiß, aus Farben gemischt</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>Farbe (CMYK)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Alternatives Fach</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>Alternative Rolle</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Zusatzzufuhr</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Manuelle Zufuhr</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>Oberes Fach</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Mittleres Fach</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>Unteres Fach</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Linkes Fach</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Rechtes Fach</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Zentrales Fach</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Hinteres Fach</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Seitliches Fach</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Disc-Fach</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>Umschlagzufuhr</translation>
+    </message>
+    <message>
+        <source>High-capacity tray</source>
+        <translation>Großraumfach</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>Hauptrolle</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Fotofach</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Fach %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rolle %1</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>Beliebig</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>Dünnes Papier</translation>
+    </message>
+    <message>
+        <source>Thick paper</source>
+        <translation>Dickes Papier</translation>
+    </message>
+    <message>
+        <source>Thick coated paper</source>
+        <translation>Dickes gestrichenes Papier</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Gestrichenes Papier</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Tintenstrahlpapier</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Feinpapier</translation>
+    </message>
+    <message>
+        <source>Bond paper</source>
+        <translation>Bankpostpapier</translation>
+    </message>
+    <message>
+        <source>Recycled paper</source>
+        <translation>Recyclingpapier</translation>
+    </message>
+    <message>
+        <source>Colored paper</source>
+        <translation>Farbiges Papier</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Briefbogen</translation>
+    </message>
+    <message>
+        <source>Preprinted paper</source>
+        <translation>Vorgedrucktes Papier</translation>
+    </message>
+    <message>
+        <source>Prepunched paper</source>
+        <translation>Vorgelochtes Papier</translation>
+    </message>
+    <message>
+        <source>Cotton paper</source>
+        <translation>Baumwollpapier</translation>
+    </message>
+    <message>
+        <source>Archival paper</source>
+        <translation>Archivpapier</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>Karton</translation>
+    </message>
+    <message>
+        <source>Cardboard</source>
+        <translation>Pappe</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Endlospapier</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Disc</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Plain envelope</source>
+        <translation>Umschlag ohne Fenster</translation>
+    </message>
+    <message>
+        <source>Window envelope</source>
+        <translation>Fensterumschlag</translation>
+    </message>
+    <message>
+        <source>Fabric</source>
+        <translation>Stoff</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Folie</translation>
+    </message>
+    <message>
+        <source>Back-print film</source>
+        <translation>Rückseitenfolie</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparentfolie</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Continuous labels</source>
+        <translation>Endlosetiketten</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Photo paper, glossy</source>
+        <translation>Fotopapier, glänzend</translation>
+    </message>
+    <message>
+        <source>Photo paper, high gloss</source>
+        <translation>Fotopapier, hochglänzend</translation>
+    </message>
+    <message>
+        <source>Photo paper, matte</source>
+        <translation>Fotopapier, matt</translation>
+    </message>
+    <message>
+        <source>Photo paper, satin</source>
+        <translation>Fotopapier, seidenmatt</translation>
+    </message>
+    <message>
+        <source>Photo paper, semi-gloss</source>
+        <translation>Fotopapier, halbglänzend</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Fotofilm</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>Registerpapier</translation>
+    </message>
+    <message>
+        <source>Precut tabs</source>
+        <translation>Vorgeschnittene Register</translation>
+    </message>
+    <message>
+        <source>Fanfold paper</source>
+        <translation>Leporellopapier</translation>
+    </message>
+    <message>
+        <source>Multi-part form</source>
+        <translation>Mehrlagiges Formular</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Druckseite oben</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Druckseite unten</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>Mein Postfach</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Postfach %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Stapelablage %1</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafiken</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Text und Grafiken</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>1 Heftklammer</translation>
+    </message>
+    <message>
+        <source>1 staple, top left</source>
+        <translation>1 Heftklammer, oben links</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom left</source>
+        <translation>1 Heftklammer, unten links</translation>
+    </message>
+    <message>
+        <source>1 staple, top right</source>
+        <translation>1 Heftklammer, oben rechts</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom right</source>
+        <translation>1 Heftklammer, unten rechts</translation>
+    </message>
+    <message>
+        <source>Along an edge</source>
+        <translation>An einer Kante</translation>
+    </message>
+    <message>
+        <source>Along the left edge</source>
+        <translation>An der linken Kante</translation>
+    </message>
+    <message>
+        <source>Along the top edge</source>
+        <translation>An der oberen Kante</translation>
+    </message>
+    <message>
+        <source>Along the right edge</source>
+        <translation>An der rechten Kante</translation>
+    </message>
+    <message>
+        <source>Along the bottom edge</source>
+        <translation>An der unteren Kante</translation>
+    </message>
+    <message>
+        <source>Through the fold</source>
+        <translation>Durch den Rücken</translation>
+    </message>
+    <message>
+        <source>2 staples, left</source>
+        <translation>2 Heftklammern, links</translation>
+    </message>
+    <message>
+        <source>2 staples, top</source>
+        <translation>2 Heftklammern, oben</translation>
+    </message>
+    <message>
+        <source>2 staples, right</source>
+        <translation>2 Heftklammern, rechts</translation>
+    </message>
+    <message>
+        <source>2 staples, bottom</source>
+        <translation>2 Heftklammern, unten</translation>
+    </message>
+    <message>
+        <source>3 staples, left</source>
+        <translation>3 Heftklammern, links</translation>
+    </message>
+    <message>
+        <source>3 staples, top</source>
+        <translation>3 Heftklammern, oben</translation>
+    </message>
+    <message>
+        <source>3 staples, right</source>
+        <translation>3 Heftklammern, rechts</translation>
+    </message>
+    <message>
+        <source>3 staples, bottom</source>
+        <translation>3 Heftklammern, unten</translation>
+    </message>
+    <message>
+        <source>Holes</source>
+        <translation>Löcher</translation>
+    </message>
+    <message>
+        <source>2 holes, left</source>
+        <translation>2 Löcher, links</translation>
+    </message>
+    <message>
+        <source>2 holes, top</source>
+        <translation>2 Löcher, oben</translation>
+    </message>
+    <message>
+        <source>2 holes, right</source>
+        <translation>2 Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>2 holes, bottom</source>
+        <translation>2 Löcher, unten</translation>
+    </message>
+    <message>
+        <source>3 holes, left</source>
+        <translation>3 Löcher, links</translation>
+    </message>
+    <message>
+        <source>3 holes, top</source>
+        <translation>3 Löcher, oben</translation>
+    </message>
+    <message>
+        <source>3 holes, right</source>
+        <translation>3 Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>3 holes, bottom</source>
+        <translation>3 Löcher, unten</translation>
+    </message>
+    <message>
+        <source>4 holes, left</source>
+        <translation>4 Löcher, links</translation>
+    </message>
+    <message>
+        <source>4 holes, top</source>
+        <translation>4 Löcher, oben</translation>
+    </message>
+    <message>
+        <source>4 holes, right</source>
+        <translation>4 Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>4 holes, bottom</source>
+        <translation>4 Löcher, unten</translation>
+    </message>
+    <message>
+        <source>Many holes, left</source>
+        <translation>Viele Löcher, links</translation>
+    </message>
+    <message>
+        <source>Many holes, top</source>
+        <translation>Viele Löcher, oben</translation>
+    </message>
+    <message>
+        <source>Many holes, right</source>
+        <translation>Viele Löcher, rechts</translation>
+    </message>
+    <message>
+        <source>Many holes, bottom</source>
+        <translation>Viele Löcher, unten</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falz</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>Leporellofalz</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>Doppelter Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>Zeichnungs-Z-Falz</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>Einbruchfalz</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>Halber Z-Falz</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>Linker Fensterfalz</translation>
+    </message>
+    <message>
+        <source>C fold</source>
+        <translation>Wickelfalz</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>Parallelfalz</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>Plakatfalz</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>Rechter Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z-Falz</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>Nach jeder Seite</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>Nach jedem Dokument</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Nach jedem Exemplar</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>Nach dem Auftrag</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Binden</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linke Kante</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>Obere Kante</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechte Kante</translation>
+    </message>
+    <message>
+        <source>Bottom edge</source>
+        <translation>Untere Kante</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>Bündeln</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Offset each set</source>
+        <translation>Sätze versetzt ablegen</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Beschichten</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminieren</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1, randlos</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 in</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>Umschlag %1</translation>
+    </message>
+    <message>
+        <source>Index card %1</source>
+        <translation>Karteikarte %1</translation>
+    </message>
+    <message>
+        <source>Photo %1</source>
+        <translation>Foto %1</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>Postkarte</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>Doppelpostkarte</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -2791,10 +3811,6 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
 </context>
 <context>
     <name>Window</name>
-    <message>
-        <source>Choose a Document to Print</source>
-        <translation>Zu druckendes Dokument wählen</translation>
-    </message>
     <message>
         <source>PDF, PostScript, text and pictures</source>
         <translation>PDF, PostScript, Text und Bilder</translation>
@@ -2931,6 +3947,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <comment>the name of a file</comment>
         <translation>%1 (gedruckt)</translation>
     </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>Zu druckende Dokumente wählen</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -3039,6 +4059,22 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>The pages as they would be printed, in a file</source>
         <translation>Die Seiten, wie sie gedruckt würden, in einer Datei</translation>
     </message>
+    <message>
+        <source>At once or later, and before which other jobs</source>
+        <translation>Sofort oder später, und vor welchen anderen Aufträgen</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Auftrag abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>Takes the job back from the print server</source>
+        <translation>Nimmt den Auftrag vom Druckserver zurück</translation>
+    </message>
+    <message>
+        <source>When to Print…</source>
+        <translation>Wann drucken…</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -3072,6 +4108,62 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
 </context>
 <context>
+    <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>Das Dokument, das die Vorschau zeigt und das „Entfernen“ entfernt</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>Aktionen für Dokumente</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>Dokumente hinzufügen oder entfernen</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Print all as one &amp;job</source>
+        <translation>Alle als &amp;einen Auftrag drucken</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>Die Seiten folgen aufeinander, als wären die Dateien ein Dokument</translation>
+    </message>
+    <message>
+        <source>Enter Password…</source>
+        <translation>Passwort eingeben…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>%1 (gesendet)</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>%1 (gesperrt)</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>%1 (nicht druckbar)</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1 von %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::DocumentOpening</name>
     <message>
         <source>There is no document to print.</source>
@@ -3080,6 +4172,10 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>Das Dokument lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>geben Sie es im Fenster ein, oder schreiben Sie es in eine Datei mit den Rechten 0600, die --secret DOCUMENT=FILE nennt</translation>
     </message>
 </context>
 <context>
@@ -3177,6 +4273,33 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>Of th&amp;ese:</source>
         <translation>Da&amp;von:</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>Druckeroptionen</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>Dieser Drucker hat keine eigenen Optionen.</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1 (nicht angeboten)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>Kann nicht zusammen mit anderen Einstellungen verwendet werden</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>Die Ausstattung des Druckers lässt keine andere Wahl</translation>
     </message>
 </context>
 <context>
@@ -3316,6 +4439,14 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>A star means that settings have changed since it was chosen.</source>
         <translation>Ein Stern bedeutet, dass seit der Auswahl Einstellungen geändert wurden.</translation>
     </message>
+    <message>
+        <source>Last used settings</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>“%1” is what was printed with last. Choose another name.</source>
+        <translation>„%1“ ist das, womit zuletzt gedruckt wurde. Wählen Sie einen anderen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintDialog</name>
@@ -3362,6 +4493,14 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>the left column</source>
         <translation>die linke Spalte</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
+    </message>
+    <message>
+        <source>What was printed with is not kept: %1</source>
+        <translation>Womit gedruckt wurde, wird nicht aufbewahrt: %1</translation>
     </message>
 </context>
 <context>
@@ -3418,6 +4557,49 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: nicht gesendet, dieser Drucker liest keine Tickets</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>Noch sind nicht alle Dokumente offen.</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>Seiten von %1: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>%1 von %2 wird gesendet: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n Dokument geschrieben</numerusform>
+            <numerusform>%n Dokumente geschrieben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n Dokument an %1 gesendet</numerusform>
+            <numerusform>%n Dokumente an %1 gesendet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>Kein Dokument wurde gesendet.</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>Gesendet: %1.</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>Nicht gesendet: %1.</translation>
     </message>
 </context>
 <context>
@@ -3683,6 +4865,13 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>%1 (%2)</source>
         <comment>what is wrong, and what the server said</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SentMessage</name>
+    <message>
+        <source>Cancelling %1…</source>
+        <translation>%1 wird abgebrochen…</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,13 @@
             <numerusform>Pages %1 are larger than their places on the sheet: what does not fit is cut off.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>%n page so far</numerusform>
+            <numerusform>%n pages so far</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -92,6 +99,14 @@
         <translation>
             <numerusform>The drawing shows or uses another file, which is left out: only what a drawing holds itself is printed. Embed that file in it.</numerusform>
             <numerusform>The drawing shows or uses %n other files, which are left out: only what a drawing holds itself is printed. Embed them in it.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
         </translation>
     </message>
 </context>
@@ -159,6 +174,23 @@
         <translation>
             <numerusform>%n page found</numerusform>
             <numerusform>%n pages found</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::PrintFlow</name>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n document written</numerusform>
+            <numerusform>%n documents written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n document sent to %1</numerusform>
+            <numerusform>%n documents sent to %1</numerusform>
         </translation>
     </message>
 </context>

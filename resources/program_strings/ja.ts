@@ -11,10 +11,17 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it</source>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>PDF ファイル1つに入るジョブは1つです。--join を加えるか、フォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
         <translation>印刷されるものを PDF に書き出す。フォルダー名なら
-document.pdf、options、ticket.plist をその中に</translation>
+document.pdf、options、ticket.plist をその中に。
+複数のジョブならその中のそれぞれのフォルダーに</translation>
     </message>
 </context>
 <context>
@@ -187,6 +194,14 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>another file stands there that is no PDF; name another file</source>
         <translation>そこには PDF でない別のファイルがあります。別のファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>it is too late to cancel this job</source>
+        <translation>このジョブを中止するには遅すぎます</translation>
+    </message>
+    <message>
+        <source>the print server at %1 does not have this job (any more)</source>
+        <translation>%1のプリントサーバーにこのジョブは（もう）ありません</translation>
     </message>
 </context>
 <context>
@@ -364,10 +379,6 @@ document.pdf、options、ticket.plist をその中に</translation>
         <translation>文書に含まれている古いファイル%1を取り除けませんでした。添付ファイルのない新しいPDFとして保存して、それを印刷してください</translation>
     </message>
     <message>
-        <source>the document is locked with a password; save a copy without one and print that</source>
-        <translation>文書がパスワードで保護されています。パスワードのないコピーを保存して、それを印刷してください</translation>
-    </message>
-    <message>
         <source>the PDF is damaged and cannot be repaired: %1</source>
         <translation>PDFが壊れていて、修復できません: %1</translation>
     </message>
@@ -495,6 +506,26 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>Ghostscript cannot read the PostScript: %1</source>
         <translation>GhostscriptでPostScriptを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>the document is locked with a password</source>
+        <translation>文書がパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>the document is locked with another password</source>
+        <translation>文書は別のパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>the title asked for, and the file’s name</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <comment>what the first document is called</comment>
+        <translation>
+            <numerusform>%1ほか%n件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1346,6 +1377,120 @@ document.pdf、options、ticket.plist をその中に</translation>
         <source>Choose fewer pages per sheet, or let the pages be made to fit.</source>
         <translation>1面のページ数を減らすか、ページを枠に合わせてください。</translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>On the server: held %1</source>
+        <translation>サーバー上で保留: %1</translation>
+    </message>
+    <message>
+        <source>Priority: %1</source>
+        <translation>優先度: %1</translation>
+    </message>
+    <message>
+        <source>a priority is a number from %1 to %2, the higher the sooner</source>
+        <translation>優先度は%1から%2までの数で、大きいほど早く印刷されます</translation>
+    </message>
+    <message>
+        <source>a time is written HH:MM, in UTC</source>
+        <translation>時刻はUTCでHH:MMと書きます</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>given up by the print server</source>
+        <translation>プリントサーバーが印刷を取りやめました</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>held %1</source>
+        <translation>%1保留</translation>
+    </message>
+    <message>
+        <source>it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: %1</source>
+        <translation>immediate、hold、UTCの時刻HH:MM、またはjob-hold-untilの値を指定します: %1</translation>
+    </message>
+    <message>
+        <source>no longer on the print server, which does not keep how jobs ended</source>
+        <translation>プリントサーバーにもうありません（ジョブの結果は記録されていません）</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>印刷しました</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>that is for a job that is there already; use “lp -i JOB -H %1”</source>
+        <translation>これはすでにあるジョブのためのものです。「lp -i JOB -H %1」を使ってください</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>%1まで</translation>
+    </message>
+    <message>
+        <source>until daytime (6 to 18 h)</source>
+        <translation>日中（6～18時）まで</translation>
+    </message>
+    <message>
+        <source>until somebody releases it</source>
+        <translation>解放されるまで</translation>
+    </message>
+    <message>
+        <source>until the evening (18 to 6 h)</source>
+        <translation>夕方（18～6時）まで</translation>
+    </message>
+    <message>
+        <source>until the night (18 to 6 h)</source>
+        <translation>夜間（18～6時）まで</translation>
+    </message>
+    <message>
+        <source>until the second shift (16 to 24 h)</source>
+        <translation>第2シフト（16～24時）まで</translation>
+    </message>
+    <message>
+        <source>until the third shift (0 to 8 h)</source>
+        <translation>第3シフト（0～8時）まで</translation>
+    </message>
+    <message>
+        <source>until the weekend</source>
+        <translation>週末まで</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>waiting, the printer is stopped</source>
+        <translation>待機中（プリンターが停止しています）</translation>
+    </message>
+    <message>
+        <source>%1 was not cancelled: %2</source>
+        <translation>%1を中止できませんでした: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>これまでに%nページ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep settings in; set HOME</source>
+        <translation>設定を保存するホームフォルダーがありません。HOMEを設定してください</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1400,6 +1545,81 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>JobTiming</name>
+    <message>
+        <source>&amp;Print:</source>
+        <translation>印刷(&amp;P):</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>指定した時刻</translation>
+    </message>
+    <message>
+        <source>At night (18 to 6 h)</source>
+        <translation>夜間（18～6時）</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>すぐに</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>In the daytime (6 to 18 h)</source>
+        <translation>日中（6～18時）</translation>
+    </message>
+    <message>
+        <source>In the evening (18 to 6 h)</source>
+        <translation>夕方（18～6時）</translation>
+    </message>
+    <message>
+        <source>In the second shift (16 to 24 h)</source>
+        <translation>第2シフト（16～24時）</translation>
+    </message>
+    <message>
+        <source>In the third shift (0 to 8 h)</source>
+        <translation>第3シフト（0～8時）</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Of 1 to 100; the higher, the sooner</source>
+        <translation>1～100。大きいほど早く印刷されます</translation>
+    </message>
+    <message>
+        <source>P&amp;riority:</source>
+        <translation>優先度(&amp;R):</translation>
+    </message>
+    <message>
+        <source>The next time that the clock shows this</source>
+        <translation>次にこの時刻になったとき</translation>
+    </message>
+    <message>
+        <source>The print server keeps the job until then; it is sent when you press Print.</source>
+        <translation>それまでジョブはプリントサーバーに置かれます。［印刷］を押すと送信されます。</translation>
+    </message>
+    <message>
+        <source>Time to print at</source>
+        <translation>印刷する時刻</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>解放されたとき</translation>
+    </message>
+    <message>
+        <source>When to Print</source>
+        <translation>印刷する時期</translation>
     </message>
 </context>
 <context>
@@ -1488,6 +1708,13 @@ document.pdf、options、ticket.plist をその中に</translation>
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブを中止</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>there is no such bundle</source>
@@ -1524,6 +1751,49 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>its interface lacks an operation</source>
         <translation>インターフェイスに必要な操作がありません</translation>
+    </message>
+</context>
+<context>
+    <name>Password</name>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The author of “%1” does not allow printing it without the owner’s password.</source>
+        <translation>「%1」の作成者は、所有者のパスワードなしでの印刷を許可していません。</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Password of the document</source>
+        <translation>文書のパスワード</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>This is not the password.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+    <message>
+        <source>This is not the owner’s password.</source>
+        <translation>所有者のパスワードではありません。</translation>
     </message>
 </context>
 <context>
@@ -1803,6 +2073,718 @@ document.pdf、options、ticket.plist をその中に</translation>
         <source>covers and inserts</source>
         <translation>表紙と挿入紙</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a document, and what is to be said of it</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>StandardWords</name>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>用紙トレイ</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>印刷品質</translation>
+    </message>
+    <message>
+        <source>Output destination</source>
+        <translation>排出先</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>最適化</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Trimming</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Other finishing</source>
+        <translation>その他の後処理</translation>
+    </message>
+    <message>
+        <source>Finishing preset</source>
+        <translation>後処理のプリセット</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>後処理</translation>
+    </message>
+    <message>
+        <source>1-sided print</source>
+        <translation>片面印刷</translation>
+    </message>
+    <message>
+        <source>2-sided print</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>2-sided print, flip on short edge</source>
+        <translation>両面印刷(短辺とじ)</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>自動(白黒)</translation>
+    </message>
+    <message>
+        <source>Black only, no shades</source>
+        <translation>黒のみ(階調なし)</translation>
+    </message>
+    <message>
+        <source>Black and one color</source>
+        <translation>黒と1色</translation>
+    </message>
+    <message>
+        <source>Black only, mixed from colors</source>
+        <translation>黒のみ(カラー混色)</translation>
+    </message>
+    <message>
+        <source>Black and white, mixed from colors</source>
+        <translation>白黒(カラー混色)</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>カラー(CMYK)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>ドラフト</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>予備トレイ</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>予備ロール</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>手差しトレイ</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>手差し給紙</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>上トレイ</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>中トレイ</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>下トレイ</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>左トレイ</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>右トレイ</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>中央トレイ</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>後トレイ</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>サイドトレイ</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>ディスクトレイ</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>封筒給紙</translation>
+    </message>
+    <message>
+        <source>High-capacity tray</source>
+        <translation>大容量トレイ</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>メインロール</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>フォトトレイ</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>トレイ%1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>ロール%1</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>指定なし</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>薄紙</translation>
+    </message>
+    <message>
+        <source>Thick paper</source>
+        <translation>厚紙</translation>
+    </message>
+    <message>
+        <source>Thick coated paper</source>
+        <translation>厚手コート紙</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>コート紙</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>インクジェット紙</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>上質紙</translation>
+    </message>
+    <message>
+        <source>Bond paper</source>
+        <translation>ボンド紙</translation>
+    </message>
+    <message>
+        <source>Recycled paper</source>
+        <translation>再生紙</translation>
+    </message>
+    <message>
+        <source>Colored paper</source>
+        <translation>色紙</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>レターヘッド</translation>
+    </message>
+    <message>
+        <source>Preprinted paper</source>
+        <translation>印刷済み用紙</translation>
+    </message>
+    <message>
+        <source>Prepunched paper</source>
+        <translation>穴あき用紙</translation>
+    </message>
+    <message>
+        <source>Cotton paper</source>
+        <translation>コットン紙</translation>
+    </message>
+    <message>
+        <source>Archival paper</source>
+        <translation>保存用紙</translation>
+    </message>
+    <message>
+        <source>Cardstock</source>
+        <translation>カード紙</translation>
+    </message>
+    <message>
+        <source>Cardboard</source>
+        <translation>ボール紙</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>連続紙</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Plain envelope</source>
+        <translation>普通封筒</translation>
+    </message>
+    <message>
+        <source>Window envelope</source>
+        <translation>窓付き封筒</translation>
+    </message>
+    <message>
+        <source>Fabric</source>
+        <translation>布</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>フィルム</translation>
+    </message>
+    <message>
+        <source>Back-print film</source>
+        <translation>バックプリントフィルム</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>OHPフィルム</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル紙</translation>
+    </message>
+    <message>
+        <source>Continuous labels</source>
+        <translation>連続ラベル</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Photo paper, glossy</source>
+        <translation>写真用紙(光沢)</translation>
+    </message>
+    <message>
+        <source>Photo paper, high gloss</source>
+        <translation>写真用紙(高光沢)</translation>
+    </message>
+    <message>
+        <source>Photo paper, matte</source>
+        <translation>写真用紙(マット)</translation>
+    </message>
+    <message>
+        <source>Photo paper, satin</source>
+        <translation>写真用紙(サテン)</translation>
+    </message>
+    <message>
+        <source>Photo paper, semi-gloss</source>
+        <translation>写真用紙(半光沢)</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>写真フィルム</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>タブ紙</translation>
+    </message>
+    <message>
+        <source>Precut tabs</source>
+        <translation>カット済みタブ</translation>
+    </message>
+    <message>
+        <source>Fanfold paper</source>
+        <translation>折りたたみ連続紙</translation>
+    </message>
+    <message>
+        <source>Multi-part form</source>
+        <translation>複写紙</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>上向き</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>下向き</translation>
+    </message>
+    <message>
+        <source>My mailbox</source>
+        <translation>マイメールボックス</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>メールボックス%1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>スタッカー%1</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>グラフィック</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>文字とグラフィック</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>1か所</translation>
+    </message>
+    <message>
+        <source>1 staple, top left</source>
+        <translation>1か所(左上)</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom left</source>
+        <translation>1か所(左下)</translation>
+    </message>
+    <message>
+        <source>1 staple, top right</source>
+        <translation>1か所(右上)</translation>
+    </message>
+    <message>
+        <source>1 staple, bottom right</source>
+        <translation>1か所(右下)</translation>
+    </message>
+    <message>
+        <source>Along an edge</source>
+        <translation>端とじ</translation>
+    </message>
+    <message>
+        <source>Along the left edge</source>
+        <translation>左端とじ</translation>
+    </message>
+    <message>
+        <source>Along the top edge</source>
+        <translation>上端とじ</translation>
+    </message>
+    <message>
+        <source>Along the right edge</source>
+        <translation>右端とじ</translation>
+    </message>
+    <message>
+        <source>Along the bottom edge</source>
+        <translation>下端とじ</translation>
+    </message>
+    <message>
+        <source>Through the fold</source>
+        <translation>中とじ</translation>
+    </message>
+    <message>
+        <source>2 staples, left</source>
+        <translation>2か所(左)</translation>
+    </message>
+    <message>
+        <source>2 staples, top</source>
+        <translation>2か所(上)</translation>
+    </message>
+    <message>
+        <source>2 staples, right</source>
+        <translation>2か所(右)</translation>
+    </message>
+    <message>
+        <source>2 staples, bottom</source>
+        <translation>2か所(下)</translation>
+    </message>
+    <message>
+        <source>3 staples, left</source>
+        <translation>3か所(左)</translation>
+    </message>
+    <message>
+        <source>3 staples, top</source>
+        <translation>3か所(上)</translation>
+    </message>
+    <message>
+        <source>3 staples, right</source>
+        <translation>3か所(右)</translation>
+    </message>
+    <message>
+        <source>3 staples, bottom</source>
+        <translation>3か所(下)</translation>
+    </message>
+    <message>
+        <source>Holes</source>
+        <translation>穴あけ</translation>
+    </message>
+    <message>
+        <source>2 holes, left</source>
+        <translation>2穴(左)</translation>
+    </message>
+    <message>
+        <source>2 holes, top</source>
+        <translation>2穴(上)</translation>
+    </message>
+    <message>
+        <source>2 holes, right</source>
+        <translation>2穴(右)</translation>
+    </message>
+    <message>
+        <source>2 holes, bottom</source>
+        <translation>2穴(下)</translation>
+    </message>
+    <message>
+        <source>3 holes, left</source>
+        <translation>3穴(左)</translation>
+    </message>
+    <message>
+        <source>3 holes, top</source>
+        <translation>3穴(上)</translation>
+    </message>
+    <message>
+        <source>3 holes, right</source>
+        <translation>3穴(右)</translation>
+    </message>
+    <message>
+        <source>3 holes, bottom</source>
+        <translation>3穴(下)</translation>
+    </message>
+    <message>
+        <source>4 holes, left</source>
+        <translation>4穴(左)</translation>
+    </message>
+    <message>
+        <source>4 holes, top</source>
+        <translation>4穴(上)</translation>
+    </message>
+    <message>
+        <source>4 holes, right</source>
+        <translation>4穴(右)</translation>
+    </message>
+    <message>
+        <source>4 holes, bottom</source>
+        <translation>4穴(下)</translation>
+    </message>
+    <message>
+        <source>Many holes, left</source>
+        <translation>多穴(左)</translation>
+    </message>
+    <message>
+        <source>Many holes, top</source>
+        <translation>多穴(上)</translation>
+    </message>
+    <message>
+        <source>Many holes, right</source>
+        <translation>多穴(右)</translation>
+    </message>
+    <message>
+        <source>Many holes, bottom</source>
+        <translation>多穴(下)</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>アコーディオン折り</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>ダブル観音折り</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>エンジニアリングZ折り</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>観音折り</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>2つ折り</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>片袖Z折り</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>左観音折り</translation>
+    </message>
+    <message>
+        <source>C fold</source>
+        <translation>C折り</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>平行折り</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>ポスター折り</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>右観音折り</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z折り</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>ページごと</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>文書ごと</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>部ごと</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>ジョブの後</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>上端</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Bottom edge</source>
+        <translation>下端</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Offset each set</source>
+        <translation>部ごとにずらす</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>コーティング</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>ラミネート</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1(フチなし)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+    <message>
+        <source>Envelope %1</source>
+        <translation>封筒 %1</translation>
+    </message>
+    <message>
+        <source>Index card %1</source>
+        <translation>カード %1</translation>
+    </message>
+    <message>
+        <source>Photo %1</source>
+        <translation>写真 %1</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>はがき</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>往復はがき</translation>
+    </message>
 </context>
 <context>
     <name>Watermark</name>
@@ -1821,10 +2803,6 @@ document.pdf、options、ticket.plist をその中に</translation>
 </context>
 <context>
     <name>Window</name>
-    <message>
-        <source>Choose a Document to Print</source>
-        <translation>印刷する文書の選択</translation>
-    </message>
     <message>
         <source>PDF, PostScript, text and pictures</source>
         <translation>PDF、PostScript、テキスト、画像</translation>
@@ -1960,6 +2938,10 @@ document.pdf、options、ticket.plist をその中に</translation>
         <comment>the name of a file</comment>
         <translation>%1 (印刷)</translation>
     </message>
+    <message>
+        <source>Choose Documents to Print</source>
+        <translation>印刷する文書の選択</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>
@@ -2068,6 +3050,22 @@ document.pdf、options、ticket.plist をその中に</translation>
         <source>The pages as they would be printed, in a file</source>
         <translation>印刷されるとおりのページをファイルに</translation>
     </message>
+    <message>
+        <source>At once or later, and before which other jobs</source>
+        <translation>すぐにまたは後で、ほかのどのジョブより先に</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>ジョブを中止(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Takes the job back from the print server</source>
+        <translation>プリントサーバーからジョブを取り消します</translation>
+    </message>
+    <message>
+        <source>When to Print…</source>
+        <translation>印刷時期…</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -2101,6 +3099,62 @@ document.pdf、options、ticket.plist をその中に</translation>
     </message>
 </context>
 <context>
+    <name>kelvo::DocumentBar</name>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>The document that the preview shows, and Remove removes</source>
+        <translation>プレビューに表示され、「削除」の対象になる文書</translation>
+    </message>
+    <message>
+        <source>Document actions</source>
+        <translation>文書の操作</translation>
+    </message>
+    <message>
+        <source>Add or remove documents</source>
+        <translation>文書の追加または削除</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Print all as one &amp;job</source>
+        <translation>すべてを1つのジョブで印刷(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The pages follow one another, as if the files were one document</source>
+        <translation>複数のファイルを1つの文書のように、ページを続けて印刷します</translation>
+    </message>
+    <message>
+        <source>Enter Password…</source>
+        <translation>パスワードの入力…</translation>
+    </message>
+    <message>
+        <source>%1 (sent)</source>
+        <translation>%1（送信済み）</translation>
+    </message>
+    <message>
+        <source>%1 (locked)</source>
+        <translation>%1（保護）</translation>
+    </message>
+    <message>
+        <source>%1 (cannot be printed)</source>
+        <translation>%1（印刷できません）</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>which document of how many, and its name</comment>
+        <translation>%1/%2: %3</translation>
+    </message>
+</context>
+<context>
     <name>kelvo::DocumentOpening</name>
     <message>
         <source>There is no document to print.</source>
@@ -2109,6 +3163,10 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>The document cannot be opened: %1</source>
         <translation>文書を開けません: %1。</translation>
+    </message>
+    <message>
+        <source>type it in the window, or write it into a file of mode 0600 that --secret DOCUMENT=FILE names</source>
+        <translation>ウィンドウで入力するか、モード0600のファイルに書き込んで --secret DOCUMENT=FILE で指定してください</translation>
     </message>
 </context>
 <context>
@@ -2206,6 +3264,33 @@ document.pdf、options、ticket.plist をその中に</translation>
     <message>
         <source>Of th&amp;ese:</source>
         <translation>対象(&amp;E):</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::OptionsPane</name>
+    <message>
+        <source>Printer options</source>
+        <translation>プリンターのオプション</translation>
+    </message>
+    <message>
+        <source>This printer has no options of its own.</source>
+        <translation>このプリンターには独自のオプションがありません。</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1 (not offered)</source>
+        <translation>%1(選択できません)</translation>
+    </message>
+    <message>
+        <source>Cannot be used together with other settings</source>
+        <translation>ほかの設定と一緒には使えません</translation>
+    </message>
+    <message>
+        <source>The printer’s equipment leaves no other choice</source>
+        <translation>プリンターの装備では、ほかに選べません</translation>
     </message>
 </context>
 <context>
@@ -2345,6 +3430,14 @@ The settings stay as they are.</source>
         <source>A star means that settings have changed since it was chosen.</source>
         <translation>*は、選んだ後に設定が変更されたことを示します。</translation>
     </message>
+    <message>
+        <source>Last used settings</source>
+        <translation>前回使った設定</translation>
+    </message>
+    <message>
+        <source>“%1” is what was printed with last. Choose another name.</source>
+        <translation>「%1」は前回の印刷に使った設定です。別の名前を選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintDialog</name>
@@ -2391,6 +3484,14 @@ The settings stay as they are.</source>
     <message>
         <source>the left column</source>
         <translation>左の列</translation>
+    </message>
+    <message>
+        <source>“%1” is locked with a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>What was printed with is not kept: %1</source>
+        <translation>印刷に使った設定は保存されません: %1</translation>
     </message>
 </context>
 <context>
@@ -2447,6 +3548,47 @@ The settings stay as they are.</source>
     <message>
         <source>%1: not sent, this printer reads no tickets</source>
         <translation>%1: このプリンターはチケットを読み取らないため、送信されません</translation>
+    </message>
+    <message>
+        <source>Not all documents are open yet.</source>
+        <translation>まだ開いていない文書があります。</translation>
+    </message>
+    <message>
+        <source>Pages of %1: %2</source>
+        <translation>%1のページ: %2</translation>
+    </message>
+    <message>
+        <source>Sending %1 of %2: %3</source>
+        <translation>%2件中%1件目を送信しています: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) written</source>
+        <translation>
+            <numerusform>%n件の文書を書き込みました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) sent to %1</source>
+        <translation>
+            <numerusform>%n件の文書を%1に送信しました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a document, and its job</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>No document was sent.</source>
+        <translation>文書は送信されていません。</translation>
+    </message>
+    <message>
+        <source>Sent: %1.</source>
+        <translation>送信済み: %1。</translation>
+    </message>
+    <message>
+        <source>Not sent: %1.</source>
+        <translation>未送信: %1。</translation>
     </message>
 </context>
 <context>
@@ -2710,6 +3852,13 @@ The settings stay as they are.</source>
         <source>%1 (%2)</source>
         <comment>what is wrong, and what the server said</comment>
         <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SentMessage</name>
+    <message>
+        <source>Cancelling %1…</source>
+        <translation>%1を中止しています…</translation>
     </message>
 </context>
 <context>

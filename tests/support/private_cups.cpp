@@ -111,10 +111,21 @@ QString PrivateCups::start(Encryption encryption)
     const QString root = m_folder.path();
     const bool withTls = encryption == Encryption::IfRequested;
     for (const char *name :
-         {"etc/ssl", "bin/backend", "spool/tmp", "cache", "run", "log", "received"}) {
+         {"etc/ssl", "bin/backend", "bin/filter", "spool/tmp", "cache", "run", "log", "received"}) {
         if (!QDir(root).mkpath(QLatin1String(name)))
             return QStringLiteral("cannot make %1/%2").arg(root, QLatin1String(name));
     }
+    // PDF becomes whatever a PPD wants, unchanged: what is tried is what jobs are told.
+    const QString conversions = QStringLiteral("application/pdf application/vnd.cups-pdf 0 kvpass\n"
+                                               "application/pdf application/vnd.cups-postscript 0 "
+                                               "kvpass\n");
+    if (const QString problem = write(QStringLiteral("etc/test.convs"), conversions);
+        !problem.isEmpty())
+        return problem;
+    if (!QFile::copy(QStringLiteral(KVPASS_FILTER), root + QStringLiteral("/bin/filter/kvpass"))
+        || !QFile::link(QStringLiteral(CUPS_SERVER_BIN "/backend/ipp"),
+                        root + QStringLiteral("/bin/backend/ipp")))
+        return QStringLiteral("cannot set up the filter in ") + root;
     // The server starts its programs through one of its own.
     if (!QFile::link(QStringLiteral(CUPS_SERVER_BIN "/daemon"),
                      root + QStringLiteral("/bin/daemon"))

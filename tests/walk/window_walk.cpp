@@ -170,7 +170,8 @@ QString WindowWalk::visit(const QString &script, const std::function<void(QWidge
             return ticket.error().text();
         options.session.job.ticketIn = std::move(ticket).value();
     }
-    options.session.document = DocumentSource{sharedFile(QStringLiteral("demo/document.pdf")), {}};
+    options.session.documents.sources = {
+        DocumentSource{sharedFile(QStringLiteral("demo/document.pdf")), {}}};
     options.plan.elsewhere = folderDestination(folder.filePath(QStringLiteral("job")));
     PrintDialog dialog(std::move(options));
     dialog.setDriven(true);

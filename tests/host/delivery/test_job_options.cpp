@@ -100,10 +100,11 @@ void TestJobOptions::sayEachSettingOnce_data()
     row("and is not turned by a default", full, {}, landscape, {{"orientation-requested", "5"}},
         {"copies=1", "orientation-requested=3"});
     row("others get them turned", "no-ticket", {{"Jog", "EndOfSet"}}, landscape,
-        {{"fit-to-page", "true"}}, {"Jog=EndOfSet", "copies=1", "fit-to-page=false"});
+        {{"fit-to-page", "true"}},
+        {"Jog=EndOfSet", "copies=1", "print-scaling=none", "fit-to-page=false"});
     row("no PPD", "", {{"Duplex", "None"}}, {2, true, {}, "A4", Orientation::ReversePortrait}, {},
         {"copies=2", "multiple-document-handling=separate-documents-collated-copies",
-         "Collate=True", "media=A4"});
+         "Collate=True", "print-scaling=none", "media=A4"});
 }
 
 void TestJobOptions::sayEachSettingOnce()

@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <poppler-form.h>
 #include <poppler-qt6.h>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -41,6 +42,24 @@ QByteArray encrypted(const QByteArray &pdf, const char *password, bool mayPrint)
     writer.setOutputMemory();
     writer.setR6EncryptionParameters(password, "owner", true, true, true, true, true, true,
                                      mayPrint ? qpdf_r3p_full : qpdf_r3p_none, true);
+    writer.write();
+    const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
+    return QByteArray(reinterpret_cast<const char *>(buffer->getBuffer()),
+                      static_cast<qsizetype>(buffer->getSize()));
+}
+
+// As before AES: RC4 with 40 or 128 bits, and a password in whatever bytes its maker took.
+QByteArray encryptedWithRc4(const QByteArray &pdf, int bits, const char *password, bool mayPrint)
+{
+    QPDF document;
+    document.processMemoryFile("sample", pdf.constData(), static_cast<std::size_t>(pdf.size()));
+    QPDFWriter writer(document);
+    writer.setOutputMemory();
+    if (bits == 40)
+        writer.setR2EncryptionParametersInsecure(password, "owner", mayPrint, true, true, true);
+    else
+        writer.setR3EncryptionParametersInsecure(password, "owner", true, true, true, true, true,
+                                                 true, mayPrint ? qpdf_r3p_full : qpdf_r3p_none);
     writer.write();
     const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
     return QByteArray(reinterpret_cast<const char *>(buffer->getBuffer()),
@@ -85,6 +104,9 @@ private slots:
     void tellsShownSizes();
     void repairsDamageAndSaysSo();
     void unlocksWhatNeedsNoPassword();
+    void opensWithAPassword_data();
+    void opensWithAPassword();
+    void joinsDocuments();
     void keepsFilesPrivateAndCleansUp();
     void saysThatTheDiskIsFull();
     void saysThatNoTemporaryFileCanBeMade();
@@ -176,7 +198,7 @@ void TestDocuments::refusesWhatItCannotPrint_data()
     row("PDF that is its own page tree",
         pdfOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [2 0 R] /Count 1 >>"}),
         Code::Damaged, "PDF");
-    row("PDF with a password", encrypted(pdf, "secret", true), Code::Refused, "password");
+    row("PDF with a password", encrypted(pdf, "secret", true), Code::Locked, "with a password");
     row("PDF that must not be printed", encrypted(pdf, "", false), Code::Refused, "does not allow");
     row("PostScript with an error", "%!PS\nnonsense showpage\n", Code::Damaged, "undefined");
     row("PostScript that reads files", "%!PS\n(/etc/passwd) (r) file showpage\n", Code::Damaged,
@@ -503,6 +525,118 @@ void TestDocuments::unlocksWhatNeedsNoPassword()
     QVERIFY(document);
     QVERIFY(!document.value().isRepaired());
     QVERIFY(bytesOf(document.value().pdfPath()).indexOf("/Encrypt") < 0);
+}
+
+void TestDocuments::opensWithAPassword_data()
+{
+    // code: of the failure; Cancelled for none
+    const Table<QByteArray, QStringList, Error::Code> row{"bytes", "passwords", "code"};
+    const QByteArray pdf = pdfWithPages({filled("1 0 0"), ""});
+    const auto opened = Error::Code::Cancelled;
+    const QByteArray aes = encrypted(pdf, "Grün\u00e9 пароль", true);
+    row("AES-256", aes, {"Grün\u00e9 пароль"}, opened);
+    row("AES-256, letters put together", aes, {"Gru\u0308ne\u0301 пароль"}, opened);
+    row("the second of two", aes, {"wrong", "Grün\u00e9 пароль"}, opened);
+    row("a wrong one", aes, {"grün\u00e9 пароль"}, Error::Code::Locked);
+    row("RC4, 40 bits", encryptedWithRc4(pdf, 40, "secret", true), {"secret"}, opened);
+    row("RC4, Latin letters", encryptedWithRc4(pdf, 128, "Gr\xfcn", true), {"Grün"}, opened);
+    row("RC4, as UTF-8", encryptedWithRc4(pdf, 128, "Grün", true), {"Grün"}, opened);
+    row("not needed", encrypted(pdf, "", true), {"wrong"}, opened);
+    row("for its user, printing banned", encrypted(pdf, "secret", false), {"secret"},
+        Error::Code::Refused);
+    row("for its owner, printing banned", encrypted(pdf, "secret", false), {"secret", "owner"},
+        opened);
+    row("for its owner, no other needed", encryptedWithRc4(pdf, 128, "", false), {"owner"}, opened);
+}
+
+void TestDocuments::opensWithAPassword()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, passwords);
+    QFETCH(Error::Code, code);
+    const std::atomic_bool cancelled = false;
+    DocumentSource source{file("locked.pdf", bytes), {}};
+    source.passwords = passwords;
+
+    // With what comes on the command line, and what is typed later, each by itself.
+    const Result<Document> atOnce = openDocument(source, cancelled);
+    source.passwords.clear();
+    LockedDocument locked;
+    Result<Document> later = openDocument(source, cancelled, {}, &locked);
+    QCOMPARE(locked.isNull(), bool(later));
+    QVERIFY(QFile::remove(source.path));
+    for (const QString &password : std::as_const(passwords)) {
+        if (!later)
+            later = locked.unlocked(password, cancelled);
+    }
+
+    for (const Result<Document> &document : {atOnce, later}) {
+        QCOMPARE(document ? Error::Code::Cancelled : document.error().code, code);
+        if (!document)
+            continue;
+        QCOMPARE(document.value().pageCount(), 2);
+        QVERIFY(bytesOf(document.value().pdfPath()).indexOf("/Encrypt") < 0);
+    }
+}
+
+// What two documents call the same stays each one's own.
+void TestDocuments::joinsDocuments()
+{
+    // A field with a value and no picture of it, a layer, and a link to the second page by name.
+    const auto sample = [](const QByteArray &value, const QByteArray &layers) {
+        return pdfOf(
+            {"<< /Type /Catalog /Pages 2 0 R /AcroForm << /Fields [7 0 R] /NeedAppearances true "
+             "/DA (/Helv 12 Tf 0 g) /DR << /Font << /Helv 9 0 R >> >> >> "
+             "/OCProperties << /OCGs [8 0 R] /D << "
+                 + layers + " >> >> /Names << /Dests << /Names [(end) [5 0 R /Fit]] >> >> >>",
+             "<< /Type /Pages /Kids [3 0 R 5 0 R] /Count 2 >>",
+             "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 4 0 R "
+             "/Resources << /Properties << /L 8 0 R >> >> /Annots [7 0 R 10 0 R] >>",
+             stream("/OC /L BDC 1 0 0 rg 0 0 100 100 re f EMC"),
+             "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 300] /Contents 6 0 R >>",
+             stream("0 1 0 rg 0 0 50 50 re f"),
+             "<< /Type /Annot /Subtype /Widget /FT /Tx /T (name) /V (" + value
+                 + ") /DA (/Helv 12 Tf 0 g) /F 4 /P 3 0 R /Rect [10 200 190 230] >>",
+             "<< /Type /OCG /Name (Layer) >>",
+             "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>",
+             "<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /Border [0 0 0] /Dest (end) >>"});
+    };
+    std::vector<Document> parts;
+    for (const QByteArray &pdf :
+         {sample("Anna", "/OFF [8 0 R]"), sample("Boris", "/BaseState /OFF /ON [8 0 R]"),
+          sample("Carla", "/BaseState /OFF"), pdfWithPages({filled("0 0 1")})}) {
+        const auto part = open(file("part.pdf", pdf));
+        QVERIFY2(part, qPrintable(part.reason()));
+        parts.push_back(part.value());
+    }
+
+    const std::atomic_bool cancelled = false;
+    const auto joined = joinDocuments(parts, "All", cancelled);
+
+    QVERIFY2(joined, qPrintable(joined.reason()));
+    QCOMPARE(joined.value().title(), "All");
+    QCOMPARE(joined.value().pageCount(), 7);
+    QCOMPARE(joined.value().pageSize(7), parts.back().pageSize(1));
+    const auto whole = Poppler::Document::load(joined.value().pdfPath());
+    QVERIFY(whole);
+    int page = 0;
+    for (const Document &part : parts) {
+        const auto own = Poppler::Document::load(part.pdfPath());
+        const int first = page;
+        for (int i = 0; i < own->numPages(); ++i, ++page) {
+            QCOMPARE(whole->page(page)->renderToImage(), own->page(i)->renderToImage());
+            for (const auto &link : whole->page(page)->links())
+                QCOMPARE(static_cast<const Poppler::LinkGoto &>(*link).destination().pageNumber(),
+                         first + 2);
+            QCOMPARE(whole->page(page)->links().size(), own->page(i)->links().size());
+        }
+    }
+    QCOMPARE(whole->page(2)->formFields().size(), 1u);
+    const auto shown = [&](int number) {
+        return static_cast<const Poppler::FormFieldText &>(*whole->page(number)->formFields()[0])
+            .text();
+    };
+    QCOMPARE(QStringList({shown(0), shown(2), shown(4)}), QStringList({"Anna", "Boris", "Carla"}));
 }
 
 void TestDocuments::keepsFilesPrivateAndCleansUp()

@@ -279,6 +279,9 @@ void TestPdfLayout::drawsWhatIsPrintedTwiceFromOneForm()
     QCOMPARE(streamsOf(result).count("% KEPT"), 1);
     QVERIFY(!result.anyWarnings());
     // One field, with a widget at each place.
+    auto fields = result.getRoot().getKey("/AcroForm").getKey("/Fields");
+    QCOMPARE(fields.getArrayNItems(), 1);
+    QCOMPARE(fields.getArrayItem(0).getKey("/Kids").getArrayNItems(), 3);
     const auto form = Poppler::Document::load("twice.pdf");
     for (const auto &[page, lefts] : {std::pair(0, QList<int>{0, 200}), {1, {0}}}) {
         QList<int> found;

@@ -74,7 +74,7 @@ inline SessionBeginning sampleBeginning(const QString &ppd = samplePpd("full"))
 {
     SessionBeginning begin;
     begin.printer.device = PpdFile::open(ppd).value();
-    begin.document = DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}};
+    begin.documents.sources = {DocumentSource{shared(QStringLiteral("demo/document.pdf")), {}}};
     // For what its Info.plist says; its module is never loaded.
     begin.bundle = Bundle::open(QStringLiteral(KELVO_BUILD_DIR "/lib/KelvoPDE.pde")).value();
     return begin;
@@ -96,7 +96,7 @@ struct Running
         , session(std::move(begin), &panels)
     {
         session.start();
-        session.openTheDocument();
+        session.openDocuments();
     }
 
     bool waitUntilIdle()
