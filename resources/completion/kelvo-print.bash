@@ -63,7 +63,7 @@ _kelvo_print()
             return
             ;;
         --to)
-            _filedir -d
+            _filedir pdf
             return
             ;;
         --language)

@@ -4053,7 +4053,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Save as PDF…</source>
-        <translation>Als PDF speichern …</translation>
+        <translation>Als PDF speichern…</translation>
     </message>
     <message>
         <source>The pages as they would be printed, in a file</source>
