@@ -46,7 +46,7 @@ std::optional<QString> made(const QString &folder, const PdfLayout &layout)
     const std::atomic_bool notCancelled = false;
     const QString name = u"ticket"_s;
     PdfAhead ahead(std::move(*helpers), name);
-    if (!ahead.tidy(folder + u"/source.pdf"_s, folder + u"/document.pdf"_s, notCancelled))
+    if (!ahead.tidy(folder + u"/source.pdf"_s, folder + u"/document.pdf"_s, {}, notCancelled))
         return std::nullopt;
     const auto written = ahead.write(layout, {name, "text/plain", "ticket"});
     return written ? std::optional(written.value()) : std::nullopt;
