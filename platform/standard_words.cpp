@@ -345,8 +345,22 @@ QString standardOptionWords(const QString &option)
     return words ? translate("StandardWords", words) : QString();
 }
 
+// "600dpi", "600x1200dpi"; empty for anything else.
+static QString resolutionWords(const QString &choice)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]+)(?:x([0-9]+))?dpi$"));
+    const auto match = form.match(choice);
+    if (!match.hasMatch())
+        return {};
+    const QString down = match.captured(2);
+    return down.isEmpty() ? translate("StandardWords", "%1 dpi").arg(match.captured(1))
+                          : translate("StandardWords", "%1 × %2 dpi").arg(match.captured(1), down);
+}
+
 QString standardChoiceWords(const QString &option, const QString &choice)
 {
+    if (option == QLatin1String("Resolution"))
+        return resolutionWords(choice);
     const QString keyword = ippKeyword(choice);
     if (const char *words = findWords(option, keyword))
         return translate("StandardWords", words);

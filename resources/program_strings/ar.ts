@@ -2671,6 +2671,14 @@ document.pdf وoptions وticket.plist،
         <translation>صورة %1</translation>
     </message>
     <message>
+        <source>%1 dpi</source>
+        <translation>&#x2066;%1&#x2069; نقطة في البوصة</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>&#x2066;%1 × %2&#x2069; نقطة في البوصة</translation>
+    </message>
+    <message>
         <source>Postcard</source>
         <translation>بطاقة بريدية</translation>
     </message>

@@ -3559,6 +3559,14 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Foto %1</translation>
     </message>
     <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
+    </message>
+    <message>
         <source>Postcard</source>
         <translation>Postkarte</translation>
     </message>

@@ -2581,6 +2581,14 @@ document.pdf、options、ticket.plist をその中に。
         <translation>写真 %1</translation>
     </message>
     <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
+    </message>
+    <message>
         <source>Postcard</source>
         <translation>はがき</translation>
     </message>
