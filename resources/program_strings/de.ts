@@ -2876,7 +2876,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Paper type</source>
-        <translation>Papiersorte</translation>
+        <translation>Papierart</translation>
     </message>
     <message>
         <source>Paper size</source>
@@ -2888,7 +2888,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Output destination</source>
-        <translation>Ausgabeziel</translation>
+        <translation>Ausgabefach</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -2920,15 +2920,15 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Other finishing</source>
-        <translation>Weitere Verarbeitung</translation>
+        <translation>Weitere Endverarbeitung</translation>
     </message>
     <message>
         <source>Finishing preset</source>
-        <translation>Vorlage für die Weiterverarbeitung</translation>
+        <translation>Vorlage für die Endverarbeitung</translation>
     </message>
     <message>
         <source>Finishing</source>
-        <translation>Weiterverarbeitung</translation>
+        <translation>Endverarbeitung</translation>
     </message>
     <message>
         <source>1-sided print</source>
@@ -2940,7 +2940,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>2-sided print, flip on short edge</source>
-        <translation>Beidseitig, über die kurze Kante wenden</translation>
+        <translation>Beidseitig, kurze Kante</translation>
     </message>
     <message>
         <source>Black and white</source>
@@ -3000,7 +3000,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Bypass tray</source>
-        <translation>Zusatzzufuhr</translation>
+        <translation>Einzelblattzufuhr</translation>
     </message>
     <message>
         <source>Manual feed</source>
@@ -3168,7 +3168,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Film</source>
-        <translation>Folie</translation>
+        <translation>Kunststofffolie</translation>
     </message>
     <message>
         <source>Back-print film</source>
@@ -3176,7 +3176,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Transparency</source>
-        <translation>Transparentfolie</translation>
+        <translation>Folie</translation>
     </message>
     <message>
         <source>Labels</source>
@@ -3216,7 +3216,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Tab stock</source>
-        <translation>Registerpapier</translation>
+        <translation>Registerblätter</translation>
     </message>
     <message>
         <source>Precut tabs</source>
@@ -3520,7 +3520,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Offset each set</source>
-        <translation>Sätze versetzt ablegen</translation>
+        <translation>Jeden Satz versetzen</translation>
     </message>
     <message>
         <source>Coat</source>

@@ -1894,7 +1894,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Paper source</source>
-        <translation>用紙トレイ</translation>
+        <translation>給紙トレイ</translation>
     </message>
     <message>
         <source>Paper type</source>
@@ -1942,15 +1942,15 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Other finishing</source>
-        <translation>その他の後処理</translation>
+        <translation>その他の仕上げ</translation>
     </message>
     <message>
         <source>Finishing preset</source>
-        <translation>後処理のプリセット</translation>
+        <translation>仕上げのプリセット</translation>
     </message>
     <message>
         <source>Finishing</source>
-        <translation>後処理</translation>
+        <translation>仕上げ</translation>
     </message>
     <message>
         <source>1-sided print</source>
@@ -1958,7 +1958,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>2-sided print</source>
-        <translation>両面印刷</translation>
+        <translation>両面印刷(長辺とじ)</translation>
     </message>
     <message>
         <source>2-sided print, flip on short edge</source>
@@ -2106,7 +2106,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Thick paper</source>
-        <translation>厚紙</translation>
+        <translation>厚手の用紙</translation>
     </message>
     <message>
         <source>Thick coated paper</source>
@@ -2158,7 +2158,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Cardstock</source>
-        <translation>カード紙</translation>
+        <translation>厚紙</translation>
     </message>
     <message>
         <source>Cardboard</source>
@@ -2470,7 +2470,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>C fold</source>
-        <translation>C折り</translation>
+        <translation>内三つ折り</translation>
     </message>
     <message>
         <source>Parallel fold</source>
@@ -2486,7 +2486,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Z fold</source>
-        <translation>Z折り</translation>
+        <translation>外三つ折り</translation>
     </message>
     <message>
         <source>Trim</source>
@@ -2542,7 +2542,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Offset each set</source>
-        <translation>部ごとにずらす</translation>
+        <translation>部ごとにオフセット</translation>
     </message>
     <message>
         <source>Coat</source>
