@@ -1,5 +1,6 @@
 #include "command_line.h"
 
+#include "job_timing.h"
 #include "nearest_name.h"
 #include "page_ranges.h"
 #include "terminal.h"
@@ -144,6 +145,24 @@ Result<void> takePages(CommandLine &line, const QString &value, const QString &w
     return {};
 }
 
+Result<void> takePriority(CommandLine &line, const QString &value, const QString &where)
+{
+    const auto priority = priorityFrom(value);
+    if (!priority)
+        return refused(QStringLiteral("%1 %2").arg(where, value), priority.error().detail);
+    line.priority = priority.value();
+    return {};
+}
+
+Result<void> takeHandling(CommandLine &line, const QString &value, const QString &where)
+{
+    const auto hold = holdUntilOfHandling(value);
+    if (!hold)
+        return refused(QStringLiteral("%1 %2").arg(where, value), hold.error().detail);
+    line.holdUntil = hold.value();
+    return {};
+}
+
 Result<void> takeSecret(CommandLine &line, const QString &value, const QString &where)
 {
     const auto secret = nameAndValue(value);
@@ -190,6 +209,8 @@ constexpr OptionRow optionRows[] = {
     {"-n", nullptr, "COPIES", QT_TRANSLATE_NOOP("CommandLine", "print this many copies, 1 to 9999"), takeCopies},
     {"-o", nullptr, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "set an option of the device, or media, sides,\nlandscape and others that lp has; NAME alone\nswitches one on, noNAME off"), takeOption},
     {"-P", nullptr, "PAGES", QT_TRANSLATE_NOOP("CommandLine", "print only these pages: 1-3,7,9-"), takePages},
+    {"-q", nullptr, "PRIORITY", QT_TRANSLATE_NOOP("CommandLine", "how urgent the job is, 1 to 100"), takePriority},
+    {"-H", nullptr, "HOLD", QT_TRANSLATE_NOOP("CommandLine", "when the server prints it: immediate, hold, HH:MM\n(UTC), evening and others that lp has"), takeHandling},
     {"-t", nullptr, "TITLE", QT_TRANSLATE_NOOP("CommandLine", "call the job so"), takeText<&CommandLine::title>},
     {nullptr, "--join", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print several files as one job"), takeFlag<&CommandLine::join>},
     {nullptr, "--ppd", "FILE", QT_TRANSLATE_NOOP("CommandLine", "show a device without a queue"), takeText<&CommandLine::ppd>},
@@ -202,7 +223,8 @@ constexpr OptionRow optionRows[] = {
     {nullptr, "--print", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print when the script has ended"), takeFlag<&CommandLine::print>},
     {nullptr, "--secret", "NAME=FILE", QT_TRANSLATE_NOOP("CommandLine", "a secret for the script, in a file of mode 0600;\nDOCUMENT is the password of a PDF, DOCUMENT2\nthat of the second file"), takeSecret},
     {nullptr, "--no-window", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show nothing; without a script, print at once"), takeFlag<&CommandLine::noWindow>},
-    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with a folder’s\nname, document.pdf, options and ticket.plist into it,\nor into a folder there for each of several jobs"), takeTarget},
+    {nullptr, "--to", "FILE.pdf", QT_TRANSLATE_NOOP("CommandLine", "write a PDF of what would be printed; with the\nname of a folder, document.pdf, options and\nticket.plist into it, or into a folder there for\neach of several jobs"), takeTarget},
+    {nullptr, "--wait", nullptr, QT_TRANSLATE_NOOP("CommandLine", "end when the job is printed, and say what becomes\nof it"), takeFlag<&CommandLine::wait>},
     {nullptr, "--timeout", "SECONDS", QT_TRANSLATE_NOOP("CommandLine", "wait this long for the print server, or for a\npipe named as file, 1 to 3600 (30)"), takeTimeout},
     {nullptr, "--language", "LANGUAGE", QT_TRANSLATE_NOOP("CommandLine", "speak this language instead of the desktop’s"), takeText<&CommandLine::language>},
     {nullptr, "--list-printers", nullptr, QT_TRANSLATE_NOOP("CommandLine", "list the queues and end"), takeFlag<&CommandLine::listPrinters>},
@@ -313,7 +335,7 @@ const AskedOption *findLastOption(const CommandLine &line, const char *name)
     return found == line.options.crend() ? nullptr : &*found;
 }
 
-// -n and -P beat the same said with -o, wherever they stand. Whoever says two things
+// -n, -P, -q and -H beat the same said with -o, wherever they stand. Whoever says two things
 // would lose one of them.
 std::optional<Error> findTwoValues(const CommandLine &line)
 {
@@ -326,6 +348,18 @@ std::optional<Error> findTwoValues(const CommandLine &line)
     if (line.copies && copies
         && wholeNumber(copies->value.value_or(QString()), 1, maximumCopies) != line.copies)
         return twice("-n", QString::number(*line.copies), *copies);
+    const AskedOption *priority = findLastOption(line, kJobPriorityOption);
+    if (line.priority && priority) {
+        const auto other = priorityFrom(priority->value.value_or(QString()));
+        if (!other || other.value() != *line.priority)
+            return twice("-q", QString::number(*line.priority), *priority);
+    }
+    const AskedOption *hold = findLastOption(line, kJobHoldUntilOption);
+    if (line.holdUntil && hold) {
+        const auto other = holdUntilFrom(hold->value.value_or(QString()));
+        if (!other || other.value() != *line.holdUntil)
+            return twice("-H", *line.holdUntil, *hold);
+    }
     const AskedOption *pages = findLastOption(line, pageRangesOption);
     if (!line.pages || !pages)
         return std::nullopt;
@@ -359,6 +393,11 @@ std::optional<Error> findClash(const CommandLine &line)
         return refused(
             QStringLiteral("--no-window"),
             translate("CommandLine", "a device without a queue cannot print; add --to DIR"));
+    if (line.wait && (line.toFolder || line.toPdf))
+        return refused(QStringLiteral("--wait"),
+                       translate("CommandLine",
+                                 "what is written to a file is not printed, and there is nothing "
+                                 "to wait for; leave out --to"));
     if (line.script == QStringLiteral("-") && readsStandardInput(line))
         return refused(QStringLiteral("--script -"),
                        translate("CommandLine",

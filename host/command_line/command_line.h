@@ -23,6 +23,8 @@ struct CommandLine
     std::optional<int> copies;          // -n, 1 to 9999
     QList<AskedOption> options;         // -o, in order
     std::optional<QString> pages;       // -P
+    std::optional<int> priority;        // -q, 1 to 100
+    std::optional<QString> holdUntil;   // -H, as job-hold-until has it
     std::optional<QString> title;       // -t
     std::optional<QString> ppd;         // --ppd: a device without a queue
     bool demo = false;
@@ -31,6 +33,7 @@ struct CommandLine
     QMap<QString, QString> secretFiles; // --secret NAME=FILE
     bool noWindow = false;
     std::optional<QString> toFolder, toPdf; // --to: at most one of them
+    bool wait = false;                      // --wait: until the job is over
     int timeoutSeconds = 30;                // --timeout, 1 to 3600
     std::optional<QString> language;        // --language, "de" or "de_AT"
     bool listPrinters = false, listControls = false, version = false, help = false;

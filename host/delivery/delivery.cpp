@@ -304,7 +304,7 @@ struct Sending
 
 QString jobName(const Sending &sending)
 {
-    return QStringLiteral("%1-%2").arg(sending.queue).arg(sending.jobId.load());
+    return SentJob{sending.queue, sending.jobId}.name();
 }
 
 QString nothingPrinted(const QString &problem)
@@ -489,7 +489,7 @@ QString cancelJob(const Sending &sending, const QString &problem)
 }
 
 // All that talks to the server, on a thread of its own.
-Result<DeliveredJob> send(Sending &sending)
+Result<SentJob> send(Sending &sending)
 {
     const auto http = connectToServer(sending.patience);
     if (!http)
@@ -506,14 +506,13 @@ Result<DeliveredJob> send(Sending &sending)
             error.detail = cancelJob(sending, error.detail);
         return error;
     }
-    return DeliveredJob{jobName(sending)};
+    return SentJob{sending.queue, sending.jobId};
 }
 
 } // namespace
 
-Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue,
-                                    const QString &title, int timeoutMs,
-                                    const std::atomic_bool &cancelled)
+Result<SentJob> deliverToQueue(const PreparedJob &job, const QString &queue, const QString &title,
+                               int timeoutMs, const std::atomic_bool &cancelled)
 {
     const auto name = queueName(queue);
     if (!name)
@@ -530,8 +529,8 @@ Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue
         return sinceStop.isValid() ? sinceStop.hasExpired(graceMs())
                                    : sending->patience.isTimedOut(graceMs());
     };
-    if (auto result = runAside<DeliveredJob>([sending] { return send(*sending); },
-                                             [sending] { return sending->queue; }, isGivenUp))
+    if (auto result = runAside<SentJob>([sending] { return send(*sending); },
+                                        [sending] { return sending->queue; }, isGivenUp))
         return *result;
     const Error error =
         sinceStop.isValid() ? serverError(sending->patience, sending->queue) : noAnswer(*sending);

@@ -6,6 +6,7 @@
 #include "ppd_file.h"
 #include "result.h"
 #include "secret_keys.h"
+#include "sent_job.h"
 #include "ticket_file.h"
 
 #include <QByteArray>
@@ -80,10 +81,6 @@ Result<void> deliverToPdf(const PreparedJob &job, const QString &path,
 // Makes `folder`, 0700, in one that is there; one that is there keeps its rights. NotWritable.
 Result<void> provideFolder(const QString &folder);
 
-struct DeliveredJob
-{
-    QString name; // "Hall-123"
-};
 // Streams the job to the queue. Blocks: call it on a worker thread. What libcups
 // does happens on yet another one, which is left to itself when the server does
 // not answer.
@@ -97,8 +94,7 @@ struct DeliveredJob
 // `timeoutMs` without progress; `cancelled` stops it before the document is
 // complete. A half-sent job is cancelled on the server. A job that may have been
 // accepted is never sent twice: the error says so then, and where to look.
-Result<DeliveredJob> deliverToQueue(const PreparedJob &job, const QString &queue,
-                                    const QString &title, int timeoutMs,
-                                    const std::atomic_bool &cancelled);
+Result<SentJob> deliverToQueue(const PreparedJob &job, const QString &queue, const QString &title,
+                               int timeoutMs, const std::atomic_bool &cancelled);
 
 } // namespace kelvo

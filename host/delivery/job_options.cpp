@@ -3,6 +3,7 @@
 #include "device_offers.h"
 #include "ipp_job_options.h"
 #include "ipp_options.h"
+#include "job_timing.h"
 #include "ppd_words.h"
 #include "size_limits.h"
 #include "texts.h"
@@ -207,6 +208,15 @@ void addTwins(const PPDDictionary &wanted, const QMap<QString, QString> &queueDe
     }
 }
 
+// The server's own attributes, which problemOf() would refuse of a PPD.
+void addTiming(const JobTiming &timing, OptionList &options)
+{
+    if (timing.priority)
+        options.add(QLatin1String(kJobPriorityOption), QString::number(*timing.priority));
+    if (!timing.holdUntil.isEmpty())
+        options.add(QLatin1String(kJobHoldUntilOption), timing.holdUntil);
+}
+
 } // namespace
 
 Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSettings &settings,
@@ -230,6 +240,7 @@ Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSet
                                    "another")
                              .arg(problem)};
     }
+    addTiming(jobTimingFrom(ticket.printSettings), options);
     std::vector<JobOption> all = options.take();
     if (isOfIpp) { // names and values are the printer's own
         auto attributes = ippJobOptions(wanted, *ppd, queueDefaults);

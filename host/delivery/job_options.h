@@ -6,9 +6,9 @@
 namespace kelvo {
 
 // The PPD's options in the PPD's order, then the host's: every PPD choice of the ticket
-// once, if the PPD has it, copies and order, and what must be said because the queue's
-// defaults (`queueDefaults`) would say otherwise. Refused, with a sentence, for a choice
-// that cannot be said as an option.
+// once, if the PPD has it, copies and order, what must be said because the queue's
+// defaults (`queueDefaults`) would say otherwise, and when the server is to print it. Refused, with
+// a sentence, for a choice that cannot be said as an option.
 Result<std::vector<JobOption>> jobOptions(const TicketFile &ticket, const JobSettings &settings,
                                           const PpdFile *ppd,
                                           const QMap<QString, QString> &queueDefaults);

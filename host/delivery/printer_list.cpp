@@ -3,6 +3,8 @@
 #include "cups_connection.h"
 #include "user_destinations.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <optional>
 #include <vector>
@@ -62,12 +64,40 @@ QString inList(const QString &text)
     return written;
 }
 
+// The texts of an answer, each made once: libcups keeps equal ones in one place, and of hundreds of
+// queues nearly all are.
+class AnswerTexts
+{
+public:
+    QString text(const char *in)
+    {
+        const auto found = m_texts.constFind(in);
+        return found != m_texts.cend() ? *found : *m_texts.insert(in, QString::fromUtf8(in));
+    }
+    // "sides" of "sides-default"
+    QString option(const char *attribute)
+    {
+        const auto found = m_options.constFind(attribute);
+        return found != m_options.cend()
+            ? *found
+            : *m_options.insert(attribute,
+                                text(attribute).section(QLatin1String("-default"), 0, 0));
+    }
+
+private:
+    QHash<const char *, QString> m_texts, m_options;
+};
+
 // The attribute's values as an option's, with commas between them; none for one that cannot
 // be an option's (collections, dates, ...).
-std::optional<QString> optionValue(ipp_attribute_t *attribute)
+std::optional<QString> optionValue(ipp_attribute_t *attribute, AnswerTexts &texts)
 {
-    QStringList values;
     const int count = ippGetCount(attribute);
+    const bool isWord =
+        ippGetValueTag(attribute) == IPP_TAG_KEYWORD || ippGetValueTag(attribute) == IPP_TAG_NAME;
+    if (count == 1 && isWord)
+        return texts.text(ippGetString(attribute, 0, nullptr));
+    QStringList values;
     for (int i = 0; i < count; ++i) {
         switch (ippGetValueTag(attribute)) {
         case IPP_TAG_INTEGER:
@@ -101,17 +131,17 @@ std::optional<QString> optionValue(ipp_attribute_t *attribute)
     return values.join(u',');
 }
 
-void take(ipp_attribute_t *attribute, Queue &queue)
+void take(ipp_attribute_t *attribute, AnswerTexts &texts, Queue &queue)
 {
-    const QString name = QString::fromUtf8(ippGetName(attribute));
-    const auto value = optionValue(attribute);
+    const QString name = texts.text(ippGetName(attribute));
+    const auto value = optionValue(attribute, texts);
     if (name == QLatin1String("printer-name") && value) {
         queue.name = *value;
         return;
     }
     // As of libcups: a queue's print quality is no default for jobs. And what an administrator
     // has set for `media` comes before what the server makes of the PPD.
-    const QString option = name.section(QLatin1String("-default"), 0, 0);
+    const QString option = texts.option(ippGetName(attribute));
     if (value && option != QLatin1String("print-quality")
         && !(option == QLatin1String("media") && queue.options.contains(option)))
         queue.options.insert(option, *value);
@@ -128,6 +158,7 @@ Result<std::vector<Queue>> readQueues(http_t *http, Patience &patience)
     if (!isAnswer(response.get()))
         return serverError(patience, serverName());
     std::vector<Queue> queues;
+    AnswerTexts texts;
     bool isInQueue = false; // what separates two groups of attributes belongs to none
     for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute;
          attribute = ippNextAttribute(response.get())) {
@@ -137,7 +168,7 @@ Result<std::vector<Queue>> readQueues(http_t *http, Patience &patience)
             queues.emplace_back();
         isInQueue = isOfQueue;
         if (isOfQueue)
-            take(attribute, queues.back());
+            take(attribute, texts, queues.back());
     }
     std::erase_if(queues, [](const Queue &queue) { return queue.name.isEmpty(); });
     std::ranges::sort(queues, [](const Queue &one, const Queue &other) {
@@ -196,7 +227,7 @@ void addPrinters(const Queue &queue, const UserDestinations &user, QList<Printer
 
 } // namespace
 
-Result<QList<Printer>> readPrinters(Patience &patience)
+Result<QList<Printer>> readPrinters(Patience &patience, const QString &preferred)
 {
     const auto http = connectToServer(patience);
     if (!http)
@@ -219,8 +250,12 @@ Result<QList<Printer>> readPrinters(Patience &patience)
         std::rotate(printers.begin(), found, found + 1);
         return true;
     };
-    if (!printers.isEmpty() && !markDefault(user.defaultName) && !user.isDefaultForced)
-        markDefault(readDefault(http.value().get()));
+    if (printers.isEmpty() || markDefault(user.defaultName) || user.isDefaultForced)
+        return printers;
+    markDefault(readDefault(http.value().get()));
+    const auto first = std::ranges::find(printers, preferred, &Printer::name);
+    if (first != printers.end())
+        std::rotate(printers.begin(), first, first + 1);
     return printers;
 }
 

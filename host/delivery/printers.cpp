@@ -159,12 +159,12 @@ PrinterDirectory::~PrinterDirectory()
     }
 }
 
-void PrinterDirectory::refresh(int timeoutMs, Ahead ahead)
+void PrinterDirectory::refresh(int timeoutMs, Ahead ahead, const QString &preferred)
 {
     Private::ask<QList<Printer>>(
         d, timeoutMs,
-        [shared = d, timeoutMs, ahead](Patience &patience) {
-            auto printers = readPrinters(patience);
+        [shared = d, timeoutMs, ahead, preferred](Patience &patience) {
+            auto printers = readPrinters(patience, preferred);
             if (ahead == Ahead::PpdOfFirst && printers && !printers.value().isEmpty())
                 shared->fetchAhead(printers.value().first().name, timeoutMs);
             return printers;
@@ -211,7 +211,8 @@ void PrinterDirectory::fetchCondition(const QString &printer, int timeoutMs)
 
 Result<QList<Printer>> listPrinters(int timeoutMs)
 {
-    return askAndWait<QList<Printer>>(readPrinters, serverName, timeoutMs);
+    return askAndWait<QList<Printer>>([](Patience &patience) { return readPrinters(patience); },
+                                      serverName, timeoutMs);
 }
 
 Result<PrinterCondition> printerCondition(const QString &printer, int timeoutMs)

@@ -43,13 +43,16 @@ public:
     // PpdOfFirst: whoever takes the first printer, and asks for its PPD then, gets what the
     // thread has begun to fetch as soon as it had the list.
     enum class Ahead { Nothing, PpdOfFirst };
-    void refresh(int timeoutMs = 30000, Ahead ahead = Ahead::Nothing);
+    // `preferred` comes first, unless the user has a default printer.
+    void refresh(int timeoutMs = 30000, Ahead ahead = Ahead::Nothing,
+                 const QString &preferred = {});
     void fetchPpd(const QString &printer, int timeoutMs = 30000);
     // What it is doing now.
     void fetchCondition(const QString &printer, int timeoutMs = 30000);
 
 signals:
-    void printersFound(const QList<kelvo::Printer> &printers); // the default one first
+    void
+    printersFound(const QList<kelvo::Printer> &printers); // the default one first, see refresh()
     void printersFailed(const kelvo::Error &error);
     // Opened already. For a class of printers, that of its first member; for a queue without one, a
     // PPD made of what its printer says over IPP.

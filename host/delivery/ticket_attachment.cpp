@@ -1,6 +1,7 @@
 #include "ticket_attachment.h"
 
 #include "job_settings.h"
+#include "job_timing.h"
 #include "property_list.h"
 
 #include <sys/random.h>
@@ -26,7 +27,8 @@ Result<QByteArray> ticketForJob(const TicketFile &ticket)
                      QString::fromUtf8(std::strerror(errno))};
     TicketFile sent = ticket;
     sent.unknown.insert(kTicketNonceKey, nonce);
-    for (const QString &key : pageEntries()) // done to the document already
+    // Done to the document already, or the server's.
+    for (const QString &key : pageEntries() + QStringList{kJobPriorityKey, kJobHoldUntilKey})
         sent.printSettings.entries.erase(key);
     return CFPropertyListCreateXMLData(propertyListFrom(sent));
 }

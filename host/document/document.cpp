@@ -141,6 +141,11 @@ QString inOneLine(const QString &title)
 
 } // namespace
 
+QString askedTitle(const QString &title)
+{
+    return inOneLine(title);
+}
+
 QString titleOf(const DocumentSource &source)
 {
     QString title = inOneLine(source.title);

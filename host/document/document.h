@@ -90,6 +90,8 @@ struct DocumentSource
 // ticket, the print server, windows. Control characters and what turns the direction
 // of text are left out.
 QString titleOf(const DocumentSource &source);
+// A title that somebody asks for, likewise; empty where nothing of it is left.
+QString askedTitle(const QString &title);
 
 // Reads PDF, PostScript, plain text (UTF-8, else Latin-1) and pictures, told
 // apart by their bytes, and makes a PDF of each, in child processes with limits on

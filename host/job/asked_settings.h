@@ -50,7 +50,7 @@ public:
     void take(const TicketFile &ticket, const PpdFile *ppd);
 
     // Whether anything differs from the ticket as it settled, or as it was taken for
-    // unchanged. The job's name and its pages, which belong to one job, do not count.
+    // unchanged. What belongs to one job (entriesOfOneJob) does not count.
     bool isChanged(const TicketFile &ticket) const;
     void takeAsUnchanged(const TicketFile &ticket);
     // Changed for good: on an earlier printer, or because its preset is gone.

@@ -1,6 +1,7 @@
 #include "job_describer.h"
 
 #include "job_settings.h"
+#include "job_timing.h"
 
 #include <algorithm>
 
@@ -14,7 +15,8 @@ const QString deviceMakerKey = QStringLiteral("KelvoDeviceMaker");
 
 bool isHostEntry(const QString &key)
 {
-    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMJobNameKey};
+    static const QStringList own{kPMCopiesKey, kPMCollateKey, kPMJobNameKey, kJobPriorityKey,
+                                 kJobHoldUntilKey};
     return own.contains(key) || pageEntries().contains(key);
 }
 

@@ -2,6 +2,7 @@
 
 #include "device_offers.h"
 #include "ipp_options.h"
+#include "job_timing.h"
 #include "nearest_name.h"
 #include "ppd_words.h"
 #include "standard_words.h"
@@ -536,6 +537,33 @@ Result<TicketPlaces> applyPageRanges(const Request &request)
                           [&](JobSettings &settings) { settings.pageRanges = request.value; });
 }
 
+// The server's own, which no printer has.
+TicketPlaces applyTiming(const Request &request, const JobTiming &timing, const QString &key)
+{
+    writeJobTiming(timing, request.session);
+    return {{kPMPrintSettingsTicket, key}};
+}
+
+Result<TicketPlaces> applyPriority(const Request &request)
+{
+    const auto priority = priorityFrom(request.value);
+    if (!priority)
+        return request.error(priority.error().code, priority.error().detail);
+    JobTiming timing = jobTimingFrom(request.session.printSettings());
+    timing.priority = priority.value();
+    return applyTiming(request, timing, kJobPriorityKey);
+}
+
+Result<TicketPlaces> applyHoldUntil(const Request &request)
+{
+    const auto hold = holdUntilFrom(request.value);
+    if (!hold)
+        return request.error(hold.error().code, hold.error().detail);
+    JobTiming timing = jobTimingFrom(request.session.printSettings());
+    timing.holdUntil = hold.value();
+    return applyTiming(request, timing, kJobHoldUntilKey);
+}
+
 struct OptionRow
 {
     const char *name;
@@ -575,6 +603,8 @@ constexpr OptionRow optionRows[] = {
          return applyWord(request, outputOrderRows, kPMReverseOrderKey,
                           [](JobSettings &settings, bool value) { settings.isReversed = value; });
      }},
+    {kJobPriorityOption, applyPriority},
+    {kJobHoldUntilOption, applyHoldUntil},
 };
 
 // What IPP's values are called in PPDs of makers.
@@ -734,7 +764,7 @@ const QStringList &pageEntries()
 
 const QStringList &entriesOfOneJob()
 {
-    static const QStringList keys{kPMJobNameKey, kPMPageRangesKey, kPMPageSetKey};
+    static const QStringList keys{kPMJobNameKey, kPMPageRangesKey, kPMPageSetKey, kJobHoldUntilKey};
     return keys;
 }
 

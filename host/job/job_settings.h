@@ -33,7 +33,7 @@ inline constexpr int kMaximumCopies = 9999;
 
 // The entries of the print settings that say which pages are printed, and how they are laid out.
 const QStringList &pageEntries();
-// Those that belong to one job, and go into no preset: its name and its pages.
+// Those that belong to one job, and go into no preset: its name, its pages, its hold.
 const QStringList &entriesOfOneJob();
 
 // What the tickets say. Values that are missing, of another type or out of range
@@ -83,6 +83,7 @@ std::optional<QSizeF> paperSize(const QString &name, const PpdFile &ppd);
 //   print-color-mode, print-quality, media-source, media-type, output-bin, printer-resolution,
 //   print-content-optimize, finishing-template and finishings, with IPP's values: the option of
 //   the PPD that says the same (ipp_options.h)
+//   job-priority=1…100   job-hold-until=WORD|HH:MM[:SS]   see job_timing.h
 //
 // A name alone means what meaningOf() says. true is also written on and yes, false also off and no,
 // and choices of such a name are meant by all of them; an option without them, but with None, has

@@ -2,6 +2,7 @@
 
 #include "device_offers.h"
 #include "job_describer.h"
+#include "job_timing.h"
 #include "layout_words.h"
 #include "ppd_words.h"
 #include "terminal.h"
@@ -184,6 +185,16 @@ void addDescribed(const JobDescription &description, bool readsTickets, JobWords
     }
 }
 
+// When the server prints it. A queue may have a way of its own: what is not set is not told.
+void addTiming(const JobTiming &timing, JobWords &words)
+{
+    if (timing.priority)
+        words.settings << translate("Job", "Priority: %1").arg(QString::number(*timing.priority));
+    if (timing.isHeld())
+        words.settings
+            << translate("Job", "On the server: held %1").arg(holdInWords(timing.holdUntil));
+}
+
 // Where the description says all that is to be said.
 TicketPlaces spokenFor(const JobDescription &description)
 {
@@ -270,6 +281,7 @@ JobWords describeJob(const TicketFile &ticket, const JobSettings &settings, cons
     const TicketPlaces spoken = spokenFor(description);
     JobWords words;
     addHostSettings(settings, ppd, words);
+    addTiming(jobTimingFrom(ticket.printSettings), words);
     const PPDDictionary &choices = ticket.printSettings.ppdChoices;
     if (const PpdOption *papers = ppd ? ppd->findOption(paperOption) : nullptr)
         addOption(*papers, choices, *ppd, words);
@@ -342,6 +354,8 @@ QString shortSummary(const TicketFile &ticket, const JobSettings &settings, int 
         parts << translate("Job", "fax");
     if (leadingPage && !leadingPage->inShort.isEmpty())
         parts << leadingPage->inShort;
+    if (const JobTiming timing = jobTimingFrom(ticket.printSettings); timing.isHeld())
+        parts << translate("Job", "held %1").arg(holdInWords(timing.holdUntil));
     return separated(parts);
 }
 

@@ -16,7 +16,7 @@
 // the file's name without ".plist".
 namespace kelvo {
 
-// What of `ticket` a preset may hold: no pages and no job's name, and secrets only
+// What of `ticket` a preset may hold: nothing of one job (entriesOfOneJob), and secrets only
 // when `keepSecrets`.
 TicketFile presetFrom(TicketFile ticket, const SecretKeys &keys, bool keepSecrets);
 

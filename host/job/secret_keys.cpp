@@ -123,7 +123,8 @@ SecretKeys secretKeysOf(const Bundle *bundle)
     };
     return {
         texts(QStringLiteral("KelvoSecretTicketKeys")), texts(QStringLiteral("KelvoFaxTicketKeys")),
-        dictionary(bundle->info(), QStringLiteral("KelvoFaxTicketValues")).value_or(Dictionary())};
+        dictionary(bundle->info(), QStringLiteral("KelvoFaxTicketValues")).value_or(Dictionary()),
+        texts(QStringLiteral("KelvoOneJobTicketKeys"))};
 }
 
 QStringList secretValues(const TicketFile &ticket, const SecretKeys &keys)
@@ -172,6 +173,12 @@ TicketFile masked(TicketFile ticket, const SecretKeys &keys)
 TicketFile withoutSecrets(TicketFile ticket, const SecretKeys &keys)
 {
     return changed(std::move(ticket), keys.secretPaths,
+                   [](const QVariant &) { return QVariant(); });
+}
+
+TicketFile withoutOneJob(TicketFile ticket, const SecretKeys &keys)
+{
+    return changed(std::move(ticket), keys.oneJobPaths,
                    [](const QVariant &) { return QVariant(); });
 }
 

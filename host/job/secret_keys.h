@@ -19,6 +19,9 @@ struct SecretKeys
     // where one of these is met as well, path and number, if there are any: recipients stay in
     // a job that is printed after all.
     Dictionary faxValues{};
+    // What somebody set for one document: messages, recipients, pages that are named by their
+    // numbers. Presets keep it; what was printed with last does not.
+    QStringList oneJobPaths{};
 };
 SecretKeys secretKeysOf(const Bundle *bundle); // empty for null
 
@@ -31,5 +34,6 @@ QStringList secretValues(const TicketFile &ticket, const SecretKeys &keys);
 // or are taken out, with their keys, for presets.
 TicketFile masked(TicketFile ticket, const SecretKeys &keys);
 TicketFile withoutSecrets(TicketFile ticket, const SecretKeys &keys);
+TicketFile withoutOneJob(TicketFile ticket, const SecretKeys &keys);
 
 } // namespace kelvo

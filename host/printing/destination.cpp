@@ -49,7 +49,7 @@ public:
         const auto delivered = deliverToQueue(job, m_queue, m_title, m_timeoutMs, cancelled);
         if (!delivered)
             return {statusOfDelivery(delivered.error().code), {}, whyNot(delivered.error())};
-        return {ExitStatus::Printed, delivered.value().name, {}};
+        return {ExitStatus::Printed, delivered.value().name(), {}, delivered.value()};
     }
 
     QString onTheWay() const override { return tr("Sending to %1…").arg(m_queue); }

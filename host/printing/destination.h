@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 
 namespace kelvo {
 
@@ -14,8 +15,9 @@ namespace kelvo {
 struct PrintOutcome
 {
     ExitStatus status = ExitStatus::Failed;
-    QString place;   // printed: "Hall-123", or the folder
-    QString problem; // not printed: what, where and what to do
+    QString place;                   // printed: "Hall-123", or the folder
+    QString problem;                 // not printed: what, where and what to do
+    std::optional<SentJob> job = {}; // printed to a queue
 };
 
 // Where a prepared job goes: a printer, a folder, or whoever asked for it. It knows all

@@ -314,6 +314,8 @@ void PrintFlow::takeOutcome(const PrintOutcome &outcome)
         refuse(Step::Job, outcome.status, notPrinted(), withTheOthers(outcome.problem));
         return;
     }
+    if (outcome.job)
+        m_sentJobs.push_back(*outcome.job);
     SessionDocuments &documents = m_session.documents();
     const std::vector<int> unsent = documents.unsent();
     if (!areSeveral() || int(unsent.size()) == documents.count())

@@ -90,6 +90,7 @@ public:
     bool isAside() const { return m_aside != nullptr; } // the last press was pressTo()
     QString onTheWay() const;                           // while it is; "Sending 2 of 5: b.txt"
     QString arrived(const QString &place) const;        // once it has printed(); "Hall-3-17 sent"
+    const std::vector<SentJob> &sentJobs() const { return m_sentJobs; } // to queues, in order
     // Of the last press; none when it went out or was called off.
     const std::optional<PrintRefusal> &refusal() const { return m_refusal; }
     void forgetRefusal() { m_refusal.reset(); } // the next press begins
@@ -130,6 +131,7 @@ private:
     bool m_isPrinting = false;
     bool m_isCalledOff = false;
     bool m_isInterrupted = false;
+    std::vector<SentJob> m_sentJobs;
     std::optional<PrintRefusal> m_refusal;
 };
 

@@ -4,6 +4,7 @@
 #include "background_work.h"
 #include "folders.h"
 #include "interruption.h"
+#include "job_wait.h"
 #include "leftovers.h"
 #include "presets.h"
 #include "print_dialog.h"
@@ -17,6 +18,7 @@
 #include <QScopeGuard>
 
 #include <memory>
+#include <vector>
 
 namespace kelvo {
 
@@ -64,15 +66,25 @@ void leaveWithoutDisplay(const QString &problem)
     leave(status);
 }
 
-int runDialog(const CommandLine &line, Inputs inputs)
+namespace {
+
+// Up to where the dialog has ended. `jobs` are those that went to queues.
+struct DialogEnd
+{
+    int status;
+    std::vector<SentJob> jobs = {};
+    bool isInterrupted = false;
+};
+
+DialogEnd showDialog(const CommandLine &line, Inputs inputs)
 {
     if (const auto failure = readInputs(line, inputs)) {
         if (failure->status == ExitStatus::Cancelled)
-            return toInt(failure->status);
+            return {toInt(failure->status)};
         if (!failure->isOfScript)
-            return fail(failure->status, failure->text);
+            return {fail(failure->status, failure->text)};
         printLine(stderr, failure->text);
-        return toInt(failure->status);
+        return {toInt(failure->status)};
     }
 
     ExitStatus status = ExitStatus::Failed;
@@ -125,10 +137,21 @@ int runDialog(const CommandLine &line, Inputs inputs)
     }
     // Taking a window apart that nobody has seen takes a tenth of such a run. Threads that are
     // still at work are told to stop by that, and a panel that was asking something is ended.
-    if (audience() == Audience::Nobody && !QApplication::activeModalWidget()
+    if (audience() == Audience::Nobody && !line.wait && !QApplication::activeModalWidget()
         && waitForBackgroundWork(0))
         leave(endWith(toInt(status)));
-    return toInt(status);
+    return {toInt(status), dialog.sentJobs(), dialog.isInterrupted()};
+}
+
+} // namespace
+
+int runDialog(const CommandLine &line, Inputs inputs)
+{
+    const DialogEnd end = showDialog(line, std::move(inputs));
+    if (!line.wait || end.jobs.empty() || end.status != toInt(ExitStatus::Printed))
+        return end.status;
+    return toInt(end.isInterrupted ? leaveJobs(end.jobs)
+                                   : waitForJobs(end.jobs, line.timeoutSeconds * 1000));
 }
 
 } // namespace kelvo

@@ -5,6 +5,7 @@
 #include "document_origin.h"
 #include "file_names.h"
 #include "file_store.h"
+#include "job_timing.h"
 #include "output_targets.h"
 #include "pdf_ahead.h"
 #include "presets.h"
@@ -143,7 +144,38 @@ std::shared_ptr<DocumentOpening> openAhead(const CommandLine &line, PdfHelpers h
     return opening;
 }
 
-std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
+// What people have printed with last is where their windows begin, and nothing else: what a script
+// does must not depend on it, and a device without a queue prints nothing.
+std::optional<LastUsed> lastUsedFor(const CommandLine &line)
+{
+    if (line.noWindow || line.script || line.demo || line.ppd || line.listControls
+        || !keepsLastUsed())
+        return std::nullopt;
+    return readLastUsed();
+}
+
+// A preset or a ticket says with what a window begins.
+void beginWithLastUsed(const CommandLine &line, DialogOptions &options)
+{
+    using Beginning = LastUsed::Beginning;
+    if (!options.lastUsed || line.preset || line.ticketIn)
+        return;
+    const LastUsed &used = *options.lastUsed;
+    const Beginning beginning = used.beginning.value_or(Beginning::LastUsed);
+    if (beginning == Beginning::Defaults)
+        return;
+    if (beginning == Beginning::Preset) {
+        if (auto preset = PresetStore().read(used.preset)) {
+            options.session.job.preset = std::move(preset).value();
+            options.preset = used.preset;
+            return;
+        }
+    }
+    options.beginsWithLastUsed = used.settings.has_value();
+    options.session.job.lastUsed = used.settings;
+}
+
+std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line, const QString &preferred)
 {
     if (line.listControls || line.demo || line.ppd
         || documentOrigin(line, standardInput()) == DocumentOrigin::Chooser)
@@ -152,7 +184,8 @@ std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
     const int timeoutMs = line.timeoutSeconds * 1000;
     printers->refresh(timeoutMs,
                       line.destination ? PrinterDirectory::Ahead::Nothing
-                                       : PrinterDirectory::Ahead::PpdOfFirst);
+                                       : PrinterDirectory::Ahead::PpdOfFirst,
+                      preferred);
     if (line.destination)
         printers->fetchPpd(*line.destination, timeoutMs);
     return printers;
@@ -162,7 +195,12 @@ std::shared_ptr<PrinterDirectory> askAhead(const CommandLine &line)
 
 BegunAhead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers)
 {
-    return {helpers ? openAhead(line, std::move(*helpers)) : nullptr, askAhead(line)};
+    BegunAhead ahead;
+    if (helpers)
+        ahead.document = openAhead(line, std::move(*helpers));
+    ahead.lastUsed = lastUsedFor(line);
+    ahead.printers = askAhead(line, ahead.lastUsed ? ahead.lastUsed->printer : QString());
+    return ahead;
 }
 
 Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
@@ -173,10 +211,18 @@ Inputs beginInputs(const CommandLine &line, BegunAhead ahead)
     printer.name = line.destination.value_or(QString());
     printer.timeoutMs = line.timeoutSeconds * 1000;
     printer.directory = std::move(ahead.printers);
+    if (ahead.lastUsed)
+        printer.preferred = ahead.lastUsed->printer;
+    options.lastUsed = std::move(ahead.lastUsed);
     options.session.documents.title = line.title.value_or(QString());
     options.session.documents.areJoined = line.join;
     options.session.documents.opening = std::move(ahead.document);
     options.session.job.options = line.options;
+    if (line.priority)
+        options.session.job.options.append(
+            {QLatin1String(kJobPriorityOption), QString::number(*line.priority)});
+    if (line.holdUntil)
+        options.session.job.options.append({QLatin1String(kJobHoldUntilOption), *line.holdUntil});
     options.session.job.copies = line.copies;
     options.session.job.pages = line.pages;
     options.preset = line.preset.value_or(QString());
@@ -231,6 +277,7 @@ std::optional<InputFailure> readInputs(const CommandLine &line, Inputs &inputs)
                                 preset.error().text()};
         inputs.options.session.job.preset = std::move(preset).value();
     }
+    beginWithLastUsed(line, inputs.options);
     const QString devicePath = line.demo
         ? findSharedFile(QStringLiteral("ppds/kelvo-corvane-full.ppd"))
         : line.ppd.value_or(QString());

@@ -3,6 +3,7 @@
 #include "command_line.h"
 #include "document_opening.h"
 #include "exit_status.h"
+#include "last_used.h"
 #include "pdf_helpers.h"
 #include "print_dialog.h"
 #include "script_parser.h"
@@ -32,6 +33,7 @@ struct BegunAhead
     // is loaded. Null: there is a device without a queue, or nobody to hear the answer, which
     // comes once, as long as the user chooses a document.
     std::shared_ptr<PrinterDirectory> printers;
+    std::optional<LastUsed> lastUsed; // none: this run is none that begins there
 };
 BegunAhead beginAhead(const CommandLine &line, std::optional<PdfHelpers> helpers);
 

@@ -76,7 +76,8 @@ void PrinterSearch::findPrinters()
     listenTo(*m_directory);
     m_directory->refresh(m_wanted.timeoutMs,
                          m_name.isEmpty() ? PrinterDirectory::Ahead::PpdOfFirst
-                                          : PrinterDirectory::Ahead::Nothing);
+                                          : PrinterDirectory::Ahead::Nothing,
+                         m_wanted.preferred);
     // Both questions at once: the second need not wait for the first.
     if (!m_name.isEmpty())
         askForPpd();
@@ -193,7 +194,7 @@ void PrinterSearch::lookAtAll()
     if (!m_directory || !m_arePrintersKnown || m_isLookingAtAll)
         return;
     m_isLookingAtAll = true;
-    m_directory->refresh(m_wanted.timeoutMs);
+    m_directory->refresh(m_wanted.timeoutMs, PrinterDirectory::Ahead::Nothing, m_wanted.preferred);
 }
 
 void PrinterSearch::takeNews(QList<Printer> printers)

@@ -22,6 +22,7 @@ public:
     struct Wanted
     {
         QString name;                    // of a queue; empty: the default one, else the first
+        QString preferred = {};          // before the server's default, see PrinterDirectory
         std::shared_ptr<PpdFile> device; // in a queue's stead: a device without one
         // Asked already for the printers and the PPD of `name`, so that the server works
         // while a window is built. Null: it is asked when the search starts.

@@ -130,7 +130,7 @@ void SessionDocuments::show(int index)
 
 QString SessionDocuments::title() const
 {
-    const QString asked = m_title.isEmpty() ? QString() : titleOf({{}, m_title});
+    const QString asked = askedTitle(m_title);
     if (areJoined() && asked.isEmpty()) {
         QStringList titles;
         for (const Entry &entry : m_all)
@@ -199,13 +199,19 @@ bool SessionDocuments::isPending() const
         || (areJoined() && isOnItsWay(shown()));
 }
 
-QString SessionDocuments::problem() const
+const DocumentOpening *SessionDocuments::findFaulty() const
 {
     for (const Entry &entry : m_all) {
         if (!entry.opening->problem().isEmpty())
-            return entry.opening->problem();
+            return entry.opening.get();
     }
-    return areJoined() ? shown().problem() : QString();
+    return areJoined() && !shown().problem().isEmpty() ? &shown() : nullptr;
+}
+
+QString SessionDocuments::problem() const
+{
+    const DocumentOpening *faulty = findFaulty();
+    return faulty ? faulty->problem() : QString();
 }
 
 void SessionDocuments::noteSent(int index, const QString &place)

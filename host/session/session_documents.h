@@ -57,6 +57,7 @@ public:
     // when all can.
     bool isPending() const;
     QString problem() const;
+    const DocumentOpening *findFaulty() const; // that one; null for none
 
     // Where the job of a document went; empty: it has not been sent.
     const QString &placeOf(int index) const { return m_all[std::size_t(index)].place; }

@@ -43,7 +43,8 @@ Result<void> SessionJob::beginOn(Device device)
     m_session->setPrinter({m_device.name, {}, m_device.ppd});
     nameJob();
     const TicketFile defaults = queueDefaults();
-    m_repeatedChoices = m_describer.repeatedChoices(ppd(), m_wishes.preset || m_wishes.ticketIn);
+    m_repeatedChoices = m_describer.repeatedChoices(
+        ppd(), m_wishes.preset || m_wishes.ticketIn || m_wishes.lastUsed);
     m_edits.asked.beginOn(defaults, m_repeatedChoices);
     if (!m_areWishesAsked) {
         if (auto asked = askFirst(); !asked)
@@ -264,6 +265,8 @@ Result<void> SessionJob::askFirst()
 {
     using Kind = AskedSettings::Kind;
     askForSiteDefaults();
+    if (m_wishes.lastUsed)
+        ask(*m_wishes.lastUsed, Kind::Chosen);
     if (m_wishes.preset)
         ask(*m_wishes.preset, Kind::Chosen);
     if (const auto &ticket = m_wishes.ticketIn) // of a whole one nobody chose all
@@ -282,6 +285,7 @@ Result<void> SessionJob::askFirst()
 void SessionJob::usePreset(const TicketFile *preset)
 {
     const JobSettings before = settings();
+    const QString holdUntil = timing().holdUntil;
     m_edits.asked.clear();
     m_edits.unknown.clear();
     askForSiteDefaults();
@@ -290,6 +294,7 @@ void SessionJob::usePreset(const TicketFile *preset)
     // The user's: no other printer takes them away.
     askForEntry(kPMPageRangesKey, before.pageRanges);
     askForEntry(kPMPageSetKey, before.pageSet == PageSet::All ? QString() : nameOf(before.pageSet));
+    askForEntry(kJobHoldUntilKey, holdUntil);
     layAsked();
     emit reloaded();
 }
@@ -329,6 +334,17 @@ void SessionJob::change(const JobSettings &settings)
     writeAll();
     writeJobSettings(settings, ppd(), *m_session);
     tellFirstPage();
+}
+
+JobTiming SessionJob::timing() const
+{
+    return jobTimingFrom(m_session->printSettings());
+}
+
+void SessionJob::setTiming(const JobTiming &timing)
+{
+    writeAll();
+    writeJobTiming(timing, *m_session);
 }
 
 TicketFile SessionJob::ticket() const

@@ -6,6 +6,7 @@
 #include "document.h"
 #include "job_describer.h"
 #include "job_settings.h"
+#include "job_timing.h"
 #include "presets.h"
 #include "printed_pages.h"
 #include "secret_keys.h"
@@ -36,9 +37,10 @@ public:
     struct Wishes
     {
         std::optional<TicketFile> preset, ticketIn;
-        QList<AskedOption> options = {}; // see applyOption()
-        std::optional<int> copies;       // 1 to kMaximumCopies
-        std::optional<QString> pages;    // "1-3,7"; empty: all
+        std::optional<TicketFile> lastUsed = {}; // before a preset
+        QList<AskedOption> options = {};         // see applyOption()
+        std::optional<int> copies;               // 1 to kMaximumCopies
+        std::optional<QString> pages;            // "1-3,7"; empty: all
     };
     // Borrowed: the bundle says what of tickets is secret and what it means, `panels`
     // read and write them. Null for both: none.
@@ -82,6 +84,8 @@ public:
     // hold less of a panel's setting than the user chose there, and more copies must
     // not take it away. A panel looks at the page format when it writes.
     void change(const JobSettings &settings);
+    JobTiming timing() const;
+    void setTiming(const JobTiming &timing); // as change()
     // By hand or by a script; taken up when the panels write next.
     void choose(const TicketPlaces &places) { m_edits.asked.choose(places); }
 
@@ -89,8 +93,8 @@ public:
     TicketFile ticketToKeep() const; // the same, for another day and device
     TicketFile preset() const;       // the part of it that a preset keeps; secrets are in it
 
-    // Begins again on `preset`, or on the defaults for null. The job's own pages
-    // and name stay.
+    // Begins again on `preset`, or on the defaults for null. The job's own pages,
+    // its hold and its name stay.
     void usePreset(const TicketFile *preset);
     // Whether anything differs from what was chosen as preset.
     bool isChanged() const;

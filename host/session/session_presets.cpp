@@ -7,9 +7,14 @@
 
 namespace kelvo {
 
-SessionPresets::SessionPresets(SessionJob &job, const QString &chosen)
+using Beginning = LastUsed::Beginning;
+
+SessionPresets::SessionPresets(SessionJob &job, const Chosen &chosen,
+                               std::optional<TicketFile> lastUsed)
     : m_job(job)
-    , m_chosen(chosen)
+    , m_chosen(chosen.preset)
+    , m_lastUsed(std::move(lastUsed))
+    , m_isLastUsedChosen(chosen.isLastUsed)
 {
     reload();
 }
@@ -36,7 +41,17 @@ const Preset *SessionPresets::findOwn(const QString &name) const
 void SessionPresets::chooseDefaults()
 {
     m_chosen.clear();
+    m_isLastUsedChosen = false;
+    m_picked = Beginning::Defaults;
     m_job.usePreset(nullptr);
+}
+
+void SessionPresets::chooseLastUsed()
+{
+    m_chosen.clear();
+    m_isLastUsedChosen = true;
+    m_picked = Beginning::LastUsed;
+    m_job.usePreset(m_lastUsed ? &*m_lastUsed : nullptr);
 }
 
 Result<void> SessionPresets::choose(const QString &name)
@@ -45,6 +60,8 @@ Result<void> SessionPresets::choose(const QString &name)
     if (!file)
         return file.error();
     m_chosen = name;
+    m_isLastUsedChosen = false;
+    m_picked = Beginning::Preset;
     m_job.usePreset(&file.value());
     return {};
 }
@@ -67,6 +84,8 @@ Result<void> SessionPresets::save(const QString &name, std::optional<bool> keeps
         !saved)
         return saved;
     m_chosen = name;
+    m_isLastUsedChosen = false;
+    m_picked = Beginning::Preset;
     m_job.takeAsUnchanged();
     reload();
     return {};
@@ -77,6 +96,7 @@ Result<void> SessionPresets::rename(const QString &to)
     if (auto renamed = m_store.rename(m_chosen, to); !renamed)
         return renamed;
     m_chosen = to;
+    m_picked = Beginning::Preset;
     reload();
     return {};
 }

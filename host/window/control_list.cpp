@@ -2,8 +2,10 @@
 
 #include "document_bar.h"
 #include "job_details_dialog.h"
+#include "job_timing_dialog.h"
 #include "password_dialog.h"
 #include "preset_menu.h"
+#include "printer_pane.h"
 #include "session_documents.h"
 #include "window_loader.h"
 
@@ -74,6 +76,8 @@ Result<QString> controlList(QWidget *dialog, Bundle *bundle)
 {
     QString text = QStringLiteral("# Controls\n\nWhat scripts can reach, window by window. Made by "
                                   "`kelvo-print --list-controls`.\n\n");
+    if (auto *pane = dialog->findChild<PrinterPane *>())
+        pane->buildFolded();
     text += table(QStringLiteral("Print dialog"), dialog);
     SessionDocuments documents({});
     DocumentBar bar(documents);
@@ -86,6 +90,8 @@ Result<QString> controlList(QWidget *dialog, Bundle *bundle)
     text += table(QStringLiteral("Save and rename presets"), presetName.get());
     const std::unique_ptr<QWidget> details(makeJobDetailsPane({}));
     text += table(QStringLiteral("What will be sent"), details.get());
+    const std::unique_ptr<QWidget> timing(makeJobTimingPane({}));
+    text += table(QStringLiteral("When to print"), timing.get());
     if (!bundle)
         return text;
     const Result<void> done = visitDescriptions(

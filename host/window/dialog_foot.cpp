@@ -21,6 +21,8 @@ DialogFoot::DialogFoot(QWidget *toggle, QWidget *parent)
     : QWidget(parent)
     , m_text(new QLabel(this))
     , m_progress(new QProgressBar(this))
+    , m_cancelJob(button("cancelJob", tr("Cancel &Job")))
+    , m_timing(button("jobTiming", tr("When to Print…")))
     , m_details(button("whatWillBeSent", tr("&What Will Be Sent…")))
     , m_help(button("help", tr("&Help")))
     , m_savePdf(button("savePdf", tr("Save as PDF…")))
@@ -44,6 +46,11 @@ DialogFoot::DialogFoot(QWidget *toggle, QWidget *parent)
     textRow->addWidget(toggle);
     textRow->addWidget(m_text, 1);
     textRow->addWidget(m_progress);
+    setOwnToolTip(m_cancelJob, tr("Takes the job back from the print server"));
+    m_cancelJob->hide();
+    textRow->addWidget(m_cancelJob);
+    setOwnToolTip(m_timing, tr("At once or later, and before which other jobs"));
+    textRow->addWidget(m_timing);
     setOwnToolTip(m_details, tr("All settings of the job in words, before it is printed"));
     textRow->addWidget(m_details);
     auto *buttons = new ButtonRow(this);
@@ -75,10 +82,18 @@ void DialogFoot::setBusy(bool busy)
     m_progress->setVisible(busy);
 }
 
-// Its words end too near to the frame in some styles.
+void DialogFoot::showSent(bool canCancel)
+{
+    m_timing->hide();
+    m_details->hide();
+    m_cancelJob->setVisible(canCancel);
+}
+
+// Their words end too near to the frame in some styles.
 void DialogFoot::fitToFont()
 {
-    m_details->setMinimumWidth(m_details->sizeHint().width() + fontMetrics().height());
+    for (QPushButton *each : {m_cancelJob, m_timing, m_details})
+        each->setMinimumWidth(each->sizeHint().width() + fontMetrics().height());
 }
 
 } // namespace kelvo

@@ -17,6 +17,8 @@ public:
     // `toggle` stands before the line; it becomes a child of this.
     explicit DialogFoot(QWidget *toggle, QWidget *parent = nullptr);
 
+    QPushButton *cancelJob() const { return m_cancelJob; } // hidden until there is one
+    QPushButton *timing() const { return m_timing; }
     QPushButton *details() const { return m_details; }
     QPushButton *help() const { return m_help; }
     QPushButton *savePdf() const { return m_savePdf; }
@@ -25,6 +27,8 @@ public:
 
     void setText(const QString &text);
     void setBusy(bool busy); // a job is on its way
+    // The job is out: what can still be done is to cancel it.
+    void showSent(bool canCancel);
     void fitToFont();
 
 private:
@@ -32,7 +36,7 @@ private:
 
     QLabel *m_text;
     QProgressBar *m_progress;
-    QPushButton *m_details, *m_help, *m_savePdf, *m_cancel, *m_print;
+    QPushButton *m_cancelJob, *m_timing, *m_details, *m_help, *m_savePdf, *m_cancel, *m_print;
 };
 
 } // namespace kelvo

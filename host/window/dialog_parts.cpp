@@ -144,8 +144,9 @@ void DialogParts::arrangeTabOrder()
     m_panelStops = panelStops + documentStops;
     chainFocusStops(focusStopsIn(printer) + documentStops + focusStopsIn(preview)
                     + QList<QWidget *>{panelSwitch} + panelStops + focusStopsIn(cautionBar)
-                    + QList<QWidget *>{columns->toggle(), foot->details(), foot->help(),
-                                       foot->savePdf(), foot->cancel(), foot->print()});
+                    + QList<QWidget *>{columns->toggle(), foot->cancelJob(), foot->timing(),
+                                       foot->details(), foot->help(), foot->savePdf(),
+                                       foot->cancel(), foot->print()});
 }
 
 void DialogParts::giveFirstFocus()

@@ -49,7 +49,7 @@ void DocumentBar::makeList()
     actions.items = {{.text = tr("Add…"), .command = kAdd},
                      {.text = tr("Remove"), .command = kRemove}};
     m_actions->setMenu(std::move(actions));
-    m_join = new QCheckBox(tr("Print all as &one job"), m_listRow);
+    m_join = new QCheckBox(tr("Print all as one &job"), m_listRow);
     m_join->setObjectName(QStringLiteral("joinDocuments"));
     setOwnToolTip(m_join, tr("The pages follow one another, as if the files were one document"));
     sendControlEvents(m_join);
@@ -68,7 +68,7 @@ void DocumentBar::makeList()
 
 void DocumentBar::makePassword()
 {
-    m_password = new QPushButton(tr("Enter Pass&word…"), this);
+    m_password = new QPushButton(tr("Enter Password…"), this);
     m_password->setObjectName(QStringLiteral("enterPassword"));
     m_password->setAutoDefault(false);
     connect(m_password, &QPushButton::clicked, this, &DocumentBar::passwordRequested);

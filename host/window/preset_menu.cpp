@@ -33,6 +33,11 @@ QString defaultsName()
     return PresetMenu::tr("Default settings");
 }
 
+QString lastUsedName()
+{
+    return PresetMenu::tr("Last used settings");
+}
+
 // A preset may have 100 MB, which takes seconds to read and to write.
 class WaitCursor
 {
@@ -61,6 +66,9 @@ QString presetNameProblem(const QString &name)
     if (bare.simplified().compare(defaultsName(), Qt::CaseInsensitive) == 0)
         return PresetMenu::tr("“%1” is how the printer comes. Choose another name.")
             .arg(defaultsName());
+    if (bare.simplified().compare(lastUsedName(), Qt::CaseInsensitive) == 0)
+        return PresetMenu::tr("“%1” is what was printed with last. Choose another name.")
+            .arg(lastUsedName());
     return {};
 }
 
@@ -147,10 +155,11 @@ std::optional<NameAnswer> askForName(QWidget *parent, const QString &title, cons
 
 } // namespace
 
-PresetMenu::PresetMenu(SessionJob &job, const QString &chosen, QWidget *parent)
+PresetMenu::PresetMenu(SessionJob &job, const SessionPresets::Chosen &chosen,
+                       std::optional<TicketFile> lastUsed, QWidget *parent)
     : QWidget(parent)
     , m_job(job)
-    , m_presets(job, chosen)
+    , m_presets(job, chosen, std::move(lastUsed))
     , m_popup(new PopupButton(this))
     , m_button(new MenuButton(this))
 {
@@ -204,10 +213,15 @@ void PresetMenu::fillMenu(bool hasStar)
     };
     const std::vector<Preset> &presets = m_presets.all();
     Menu menu;
-    menu.items.push_back({.text = starred(defaultsName(), !chosen), .reference = Defaults});
+    const bool isLastUsed = m_presets.isLastUsedChosen();
+    menu.items.push_back(
+        {.text = starred(defaultsName(), !chosen && !isLastUsed), .reference = Defaults});
+    if (m_presets.hasLastUsed())
+        menu.items.push_back(
+            {.text = starred(lastUsedName(), isLastUsed), .reference = Reference::LastUsed});
     if (!presets.empty())
         menu.items.push_back({.reference = Defaults, .divider = true});
-    std::int32_t shown = Defaults;
+    std::int32_t shown = isLastUsed ? Reference::LastUsed : Defaults;
     for (std::size_t i = 0; i < presets.size(); ++i) {
         const auto reference = static_cast<std::int32_t>(i);
         const bool isChosen = &presets[i] == chosen;
@@ -256,6 +270,11 @@ void PresetMenu::choose(int reference)
 {
     if (reference == Defaults) {
         m_presets.chooseDefaults();
+        fillMenu(false);
+        return;
+    }
+    if (reference == Reference::LastUsed) {
+        m_presets.chooseLastUsed();
         fillMenu(false);
         return;
     }

@@ -24,14 +24,17 @@ class PresetMenu : public QWidget
     Q_OBJECT
 
 public:
-    // `job` is borrowed, and began with the preset `chosen`; empty: the defaults.
-    PresetMenu(SessionJob &job, const QString &chosen, QWidget *parent = nullptr);
+    // As SessionPresets.
+    PresetMenu(SessionJob &job, const SessionPresets::Chosen &chosen,
+               std::optional<TicketFile> lastUsed, QWidget *parent = nullptr);
+
+    const SessionPresets &presets() const { return m_presets; }
 
     void updateStar();
     QWidget *popup() const; // what a label in front of this is for
 
 private:
-    enum Reference { Defaults = -1 }; // else the row in m_presets.all()
+    enum Reference { LastUsed = -2, Defaults = -1 }; // else the row in m_presets.all()
 
     void fillMenu(bool hasStar);
     OSStatus handle(const Event &event);

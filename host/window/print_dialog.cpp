@@ -2,6 +2,7 @@
 
 #include "accessible_role.h"
 #include "audience.h"
+#include "background_work.h"
 #include "bundle_painters.h"
 #include "caution_bar.h"
 #include "dialog_foot.h"
@@ -10,6 +11,7 @@
 #include "document_preview.h"
 #include "help_window.h"
 #include "job_details_dialog.h"
+#include "job_timing_dialog.h"
 #include "modal_dialog.h"
 #include "notice.h"
 #include "options_pane.h"
@@ -27,6 +29,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -71,7 +74,10 @@ PrintDialog::PrintDialog(DialogOptions options)
                  [this] { return place(); })
     , m_flow(*m_session, m_cautions, std::move(options.plan))
     , m_choices(this, m_session->job())
-    , m_presets(new PresetMenu(m_session->job(), options.preset))
+    , m_presets(new PresetMenu(m_session->job(), {options.preset, options.beginsWithLastUsed},
+                               options.lastUsed ? options.lastUsed->settings : std::nullopt))
+    , m_keepsLastUsed(options.lastUsed.has_value())
+    , m_sent([this] { return isAttended(); })
 {
     setAccessibleRole(this, QAccessible::Dialog);
     setObjectName(QStringLiteral("printDialog"));
@@ -103,6 +109,10 @@ PrintDialog::PrintDialog(DialogOptions options)
             m_session->lookAtPrinters();
         else
             m_session->lookAtPrinter();
+    });
+    connect(&m_sent, &SentMessage::said, this, [this](const QString &text) {
+        m_parts.foot->setText(text);
+        m_parts.foot->showSent(m_sent.canCancel());
     });
     connect(&m_sent, &SentMessage::told, this, [this] { end(ExitStatus::Printed); });
     watchEvents([this](const Event &event) {
@@ -175,6 +185,8 @@ PrintDialog::PrintDialog(DialogOptions options)
     connect(m_parts.waiting, &WaitingPane::retryRequested, m_session.get(), &DialogSession::retry);
     connect(m_parts.cautionBar, &CautionBar::fixRequested, this, &PrintDialog::fixConflicts);
     connect(m_parts.foot->details(), &QPushButton::clicked, this, &PrintDialog::showDetails);
+    connect(m_parts.foot->timing(), &QPushButton::clicked, this, &PrintDialog::changeTiming);
+    connect(m_parts.foot->cancelJob(), &QPushButton::clicked, &m_sent, &SentMessage::cancelJob);
     connect(m_parts.foot->help(), &QPushButton::clicked, this, &PrintDialog::showHelp);
     connect(m_parts.foot->savePdf(), &QPushButton::clicked, this, &PrintDialog::savePdf);
     connect(m_parts.foot->cancel(), &QPushButton::clicked, this, [this] {
@@ -316,6 +328,13 @@ void PrintDialog::takeStage()
         m_grace.start(0); // when all that this stage brings is in place
 }
 
+// A window needs not say how a script is given the password.
+QString PrintDialog::whyNotShown(const DocumentOpening &document)
+{
+    return document.asksForPassword() ? tr("“%1” is locked with a password.").arg(document.title())
+                                      : document.problem();
+}
+
 void PrintDialog::takeDocument()
 {
     updateTitle();
@@ -324,11 +343,8 @@ void PrintDialog::takeDocument()
         m_parts.preview->setMessage({});
         m_parts.preview->setDocument(document.document());
     } else {
-        m_parts.preview->setMessage(
-            document.isPending() ? tr("Opening %1…").arg(document.title())
-                : document.asksForPassword() && !m_isDriven
-                ? tr("“%1” is locked with a password.").arg(document.title())
-                : document.problem());
+        m_parts.preview->setMessage(document.isPending() ? tr("Opening %1…").arg(document.title())
+                                                         : whyNotShown(document));
         // Once the window is as it will be behind the question.
         if (document.asksForPassword() && !m_isDriven && m_passwordsAsked.insert(&document).second)
             QTimer::singleShot(0, this, &PrintDialog::askForPassword);
@@ -378,6 +394,7 @@ void PrintDialog::updatePrintButton()
     const bool isBusy = m_flow.isPrinting() || m_sent.isTelling();
     m_parts.foot->print()->setEnabled(!isBusy && m_flow.whyNotReady().isEmpty());
     m_parts.foot->details()->setEnabled(!m_flow.isPrinting() && isReady());
+    m_parts.foot->timing()->setEnabled(!isBusy && isReady());
     m_parts.foot->savePdf()->setEnabled(!isBusy && isReady()
                                         && !m_session->document().document().isNull());
 }
@@ -424,9 +441,9 @@ void PrintDialog::updateFoot()
                                  : tr("Not to be printed like this. Pages: %1").arg(problem);
     }
     // Of several, it may be another one than is looked at.
-    if (const QString problem = m_session->documents().problem();
-        isReady() && m_session->documents().count() > 1 && !problem.isEmpty())
-        text = problem;
+    if (const DocumentOpening *faulty = m_session->documents().findFaulty();
+        isReady() && faulty && m_session->documents().count() > 1)
+        text = whyNotShown(*faulty);
     m_parts.foot->setText(text);
 }
 
@@ -507,6 +524,17 @@ void PrintDialog::showDetails()
 {
     commitTypedValues(this);
     runJobDetailsDialog(kelvo::jobInWords(*m_session, m_cautions), this);
+}
+
+void PrintDialog::changeTiming()
+{
+    commitTypedValues(this);
+    SessionJob &job = m_session->job();
+    const auto timing = askForJobTiming(job.timing(), this);
+    if (!timing || !isReady())
+        return;
+    job.setTiming(*timing);
+    m_look.start();
 }
 
 void PrintDialog::addDocuments(const QStringList &paths)
@@ -664,17 +692,54 @@ void PrintDialog::takePrinted(const QString &place)
         m_parts.foot->savePdf()->setFocus();
         return;
     }
+    keepWhatWasUsed();
     if (m_isDriven || m_isInterrupted) {
         end(ExitStatus::Printed);
         return;
     }
-    const QString text = m_flow.arrived(place);
-    m_sent.tell(text, m_session->documents().title());
+    // Of several the desktop has no room to tell one by one.
+    std::optional<SentJob> job;
+    if (const auto &jobs = m_flow.sentJobs(); jobs.size() == 1 && jobs.back().name() == place)
+        job = jobs.back();
+    m_pointer = QCursor::pos();
+    m_sent.tell(m_flow.arrived(place), m_session->documents().title(), job,
+                m_session->search().timeoutMs());
     m_parts.setEnabled(false);
     updatePrintButton();
-    m_parts.foot->setText(text);
     m_parts.foot->cancel()->setText(tr("Close"));
+    m_parts.foot->cancel()->setAccessibleName({});
     m_parts.foot->cancel()->setFocus();
+}
+
+// Of a job that went to a printer. The disk keeps nobody waiting: where it takes long, the end of
+// the program does for a moment.
+void PrintDialog::keepWhatWasUsed()
+{
+    if (!m_keepsLastUsed || m_isDriven || m_flow.sentJobs().empty())
+        return;
+    LastUsed used;
+    used.printer = m_session->search().name();
+    used.settings = lastUsedFrom(m_session->job().preset(), m_session->job().secretKeys());
+    const SessionPresets &presets = m_presets->presets();
+    used.beginning = presets.picked();
+    if (const Preset *chosen = presets.chosen())
+        used.preset = chosen->name;
+    startBackgroundWork([used] {
+        if (const auto kept = keepLastUsed(used); !kept)
+            printLine(stderr,
+                      QStringLiteral("kelvo-print: ")
+                          + tr("What was printed with is not kept: %1").arg(kept.error().text()));
+    });
+}
+
+// Whoever moves the pointer over the window, or has gone to the button with it or by keys, is
+// about to do something with the job.
+bool PrintDialog::isAttended()
+{
+    const QPushButton *cancelJob = m_parts.foot->cancelJob();
+    const QPoint before = std::exchange(m_pointer, QCursor::pos());
+    return cancelJob->hasFocus() || cancelJob->underMouse()
+        || (before != m_pointer && frameGeometry().contains(m_pointer));
 }
 
 void PrintDialog::pressCancel()
@@ -695,11 +760,11 @@ void PrintDialog::pressCancel()
 
 void PrintDialog::interrupt()
 {
+    m_isInterrupted = true;
     if (!m_flow.isPrinting()) {
         end(m_sent.isTelling() ? ExitStatus::Printed : ExitStatus::Cancelled);
         return;
     }
-    m_isInterrupted = true;
     m_flow.interrupt();
 }
 

@@ -5,6 +5,7 @@
 #include "dialog_session.h"
 #include "event.h"
 #include "extension.h"
+#include "last_used.h"
 #include "panel_places.h"
 #include "print_flow.h"
 #include "script_target.h"
@@ -29,7 +30,11 @@ struct DialogOptions
 {
     SessionBeginning session;
     PrintPlan plan;
-    QString preset; // the name of the one in session.job; empty: the defaults
+    QString preset; // the name of the one in session.job; empty: none
+    // What was printed with last, for a window in which it can be chosen, and which keeps it when
+    // it has printed. None: it does neither.
+    std::optional<LastUsed> lastUsed = {};
+    bool beginsWithLastUsed = false; // session.job.lastUsed is that
 };
 
 // The print dialog's window. It shows what the session has, and answers what is asked on
@@ -51,6 +56,8 @@ public:
     void setSecrets(QMap<QString, QString> secrets) { m_secrets = std::move(secrets); }
     // The files of the plan, as the settings stand; nothing without them.
     Result<void> writeSettingsOut() { return m_flow.writeSettingsOut(); }
+    const std::vector<SentJob> &sentJobs() const { return m_flow.sentJobs(); }
+    bool isInterrupted() const { return m_isInterrupted; }
     // Ends as Cancel does. A job that is on its way is cancelled and waited for, for
     // a few seconds: the status says what became of it.
     void interrupt();
@@ -99,6 +106,7 @@ private:
     void takeStage();
     void takeDocument();
     void takeDocuments();
+    static QString whyNotShown(const DocumentOpening &document);
     void takeSettings();
 
     // The user tells.
@@ -109,6 +117,7 @@ private:
     void showWhatFollows(); // all but conflicts
     void fixConflicts();
     void showDetails();
+    void changeTiming();
     void addDocuments(const QStringList &paths);
     void chooseDocuments();
     void askForPassword();
@@ -123,6 +132,8 @@ private:
     bool printsAnyway(const Caution &caution) override;
     void showPrinting(bool printing);
     void takePrinted(const QString &place);
+    bool isAttended();
+    void keepWhatWasUsed();
     void takeRefusal(const PrintRefusal &refusal);
     QString unfinishedPages() const;
     void end(ExitStatus status);
@@ -145,6 +156,7 @@ private:
     PrintFlow m_flow;
     ChoiceNotes m_choices;
     PresetMenu *m_presets;
+    const bool m_keepsLastUsed;
 
     QTimer m_look;            // lookAtSettings() soon
     QTimer m_grace;           // until then the window is not shown
@@ -160,6 +172,7 @@ private:
     QTimer m_watch;             // asks what the printer is doing
 
     SentMessage m_sent;
+    QPoint m_pointer; // where it was when it was looked for last
     std::optional<ExitStatus> m_finished;
     EventHandlerRef m_handler; // takes what the shell does and passes on
     std::vector<QShortcut *> m_panelKeys, m_tabKeys;

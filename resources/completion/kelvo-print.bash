@@ -38,7 +38,12 @@ _kelvo_print()
         -o)
             compopt -o nospace
             _kelvo_print_offer < <(printf '%s\n' media= sides= orientation-requested= landscape \
-                portrait copies= collate= multiple-document-handling= page-ranges=)
+                portrait copies= collate= multiple-document-handling= page-ranges= job-priority= \
+                job-hold-until=)
+            return
+            ;;
+        -H)
+            COMPREPLY=($(compgen -W 'immediate hold day-time evening night second-shift third-shift weekend' -- "$cur"))
             return
             ;;
         --preset)
@@ -65,7 +70,7 @@ _kelvo_print()
             COMPREPLY=($(compgen -W 'ar de en ja' -- "$cur"))
             return
             ;;
-        -n | -P | -t | --secret | --timeout)
+        -n | -P | -q | -t | --secret | --timeout)
             return
             ;;
     esac
@@ -74,9 +79,9 @@ _kelvo_print()
     fi
 
     if [[ $cur == -* ]]; then
-        _kelvo_print_offer < <(printf '%s\n' -d -n -o -P -t --join --ppd --demo --preset --preset-out \
-            --ticket-in --ticket-out --script --print --secret --no-window --to --timeout --language \
-            --list-printers --list-controls --version --help-scripts -h --help)
+        _kelvo_print_offer < <(printf '%s\n' -d -n -o -P -q -H -t --join --ppd --demo --preset \
+            --preset-out --ticket-in --ticket-out --script --print --secret --no-window --to --wait \
+            --timeout --language --list-printers --list-controls --version --help-scripts -h --help)
         return
     fi
     _filedir '@(pdf|ps|eps|txt|png|jpg|jpeg|gif|bmp|tif|tiff|svg)'

@@ -11,16 +11,17 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it,
-or into a folder there for each of several jobs</source>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>يتسع ملف PDF لمهمة واحدة: أضف --join أو سمِّ مجلدًا</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
         <translation>كتابة ملف PDF لما سيُطبع؛ وباسم مجلد تُكتب فيه
 document.pdf وoptions وticket.plist،
 أو في مجلد فيه لكل مهمة من عدة مهام</translation>
-    </message>
-    <message>
-        <source>a PDF file has room for one job: add --join, or name a folder</source>
-        <translation>يتسع ملف PDF لمهمة واحدة: أضف --join أو سمِّ مجلدًا</translation>
     </message>
 </context>
 <context>
@@ -198,6 +199,14 @@ document.pdf وoptions وticket.plist،
     <message>
         <source>another file stands there that is no PDF; name another file</source>
         <translation>يوجد هناك ملف آخر ليس PDF؛ سمِّ ملفًا آخر</translation>
+    </message>
+    <message>
+        <source>it is too late to cancel this job</source>
+        <translation>فات أوان إلغاء هذه المهمة</translation>
+    </message>
+    <message>
+        <source>the print server at %1 does not have this job (any more)</source>
+        <translation>ليست هذه المهمة (أو لم تعد) على خادم الطباعة &#x2068;%1&#x2069;</translation>
     </message>
 </context>
 <context>
@@ -1451,6 +1460,117 @@ document.pdf وoptions وticket.plist،
         <source>More</source>
         <translation>المزيد</translation>
     </message>
+    <message>
+        <source>On the server: held %1</source>
+        <translation>على الخادم: معلَّقة %1</translation>
+    </message>
+    <message>
+        <source>Priority: %1</source>
+        <translation>الأولوية: %1</translation>
+    </message>
+    <message>
+        <source>a priority is a number from %1 to %2, the higher the sooner</source>
+        <translation>الأولوية عدد من %1 إلى %2، وكلما زاد كان الطبع أسرع</translation>
+    </message>
+    <message>
+        <source>a time is written HH:MM, in UTC</source>
+        <translation>يُكتب الوقت بالصيغة &#x2066;HH:MM&#x2069; بتوقيت UTC</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>أُلغيت</translation>
+    </message>
+    <message>
+        <source>given up by the print server</source>
+        <translation>تخلّى عنها خادم الطباعة</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>معلَّقة</translation>
+    </message>
+    <message>
+        <source>held %1</source>
+        <translation>معلَّقة %1</translation>
+    </message>
+    <message>
+        <source>it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: %1</source>
+        <translation>يُقبل &#x2066;immediate&#x2069; أو &#x2066;hold&#x2069; أو وقت &#x2066;HH:MM&#x2069; بتوقيت UTC أو إحدى كلمات &#x2066;job-hold-until: %1&#x2069;</translation>
+    </message>
+    <message>
+        <source>no longer on the print server, which does not keep how jobs ended</source>
+        <translation>لم تعد على خادم الطباعة، وهو لا يحفظ كيف انتهت المهام</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>طُبعت</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>قيد الطباعة</translation>
+    </message>
+    <message>
+        <source>that is for a job that is there already; use “lp -i JOB -H %1”</source>
+        <translation>هذا لمهمة موجودة من قبل؛ استخدم الأمر &#x2066;lp -i JOB -H %1&#x2069;</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>حتى &#x2068;%1&#x2069;</translation>
+    </message>
+    <message>
+        <source>until daytime (6 to 18 h)</source>
+        <translation>حتى النهار (من 6 إلى 18)</translation>
+    </message>
+    <message>
+        <source>until somebody releases it</source>
+        <translation>حتى يُفرج عنها</translation>
+    </message>
+    <message>
+        <source>until the evening (18 to 6 h)</source>
+        <translation>حتى المساء (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>until the night (18 to 6 h)</source>
+        <translation>حتى الليل (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>until the second shift (16 to 24 h)</source>
+        <translation>حتى الوردية الثانية (من 16 إلى 24)</translation>
+    </message>
+    <message>
+        <source>until the third shift (0 to 8 h)</source>
+        <translation>حتى الوردية الثالثة (من 0 إلى 8)</translation>
+    </message>
+    <message>
+        <source>until the weekend</source>
+        <translation>حتى عطلة نهاية الأسبوع</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>في الانتظار</translation>
+    </message>
+    <message>
+        <source>waiting, the printer is stopped</source>
+        <translation>في الانتظار، الطابعة متوقفة</translation>
+    </message>
+    <message>
+        <source>%1 was not cancelled: %2</source>
+        <translation>لم تُلغَ &#x2068;%1&#x2069;: &#x2068;%2&#x2069;</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>لا صفحات حتى الآن</numerusform>
+            <numerusform>صفحة واحدة حتى الآن</numerusform>
+            <numerusform>صفحتان حتى الآن</numerusform>
+            <numerusform>%n صفحات حتى الآن</numerusform>
+            <numerusform>%n صفحة حتى الآن</numerusform>
+            <numerusform>%n صفحة حتى الآن</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep settings in; set HOME</source>
+        <translation>لا يوجد مجلد منزل لحفظ الإعدادات فيه؛ عيّن HOME</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1505,6 +1625,81 @@ document.pdf وoptions وticket.plist،
     <message>
         <source>Close</source>
         <translation>إغلاق</translation>
+    </message>
+</context>
+<context>
+    <name>JobTiming</name>
+    <message>
+        <source>&amp;Print:</source>
+        <translation>ال&amp;طباعة:</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>في وقت محدد</translation>
+    </message>
+    <message>
+        <source>At night (18 to 6 h)</source>
+        <translation>ليلًا (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>فورًا</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>في عطلة نهاية الأسبوع</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>In the daytime (6 to 18 h)</source>
+        <translation>نهارًا (من 6 إلى 18)</translation>
+    </message>
+    <message>
+        <source>In the evening (18 to 6 h)</source>
+        <translation>مساءً (من 18 إلى 6)</translation>
+    </message>
+    <message>
+        <source>In the second shift (16 to 24 h)</source>
+        <translation>في الوردية الثانية (من 16 إلى 24)</translation>
+    </message>
+    <message>
+        <source>In the third shift (0 to 8 h)</source>
+        <translation>في الوردية الثالثة (من 0 إلى 8)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Of 1 to 100; the higher, the sooner</source>
+        <translation>من 1 إلى 100؛ كلما زادت كان الطبع أسرع</translation>
+    </message>
+    <message>
+        <source>P&amp;riority:</source>
+        <translation>الأ&amp;ولوية:</translation>
+    </message>
+    <message>
+        <source>The next time that the clock shows this</source>
+        <translation>المرة التالية التي تبلغ فيها الساعة هذا الوقت</translation>
+    </message>
+    <message>
+        <source>The print server keeps the job until then; it is sent when you press Print.</source>
+        <translation>يحتفظ خادم الطباعة بالمهمة حتى ذلك الحين؛ وتُرسل عند الضغط على «طباعة».</translation>
+    </message>
+    <message>
+        <source>Time to print at</source>
+        <translation>وقت الطباعة</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>عندما يُفرج عنها</translation>
+    </message>
+    <message>
+        <source>When to Print</source>
+        <translation>موعد الطباعة</translation>
     </message>
 </context>
 <context>
@@ -1598,6 +1793,13 @@ document.pdf وoptions وticket.plist،
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>Cancel Job</source>
+        <translation>إلغاء المهمة</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>there is no such bundle</source>
@@ -1644,11 +1846,11 @@ document.pdf وoptions وticket.plist،
     </message>
     <message>
         <source>The author of “%1” does not allow printing it without the owner’s password.</source>
-        <translation>لا يسمح مؤلف «%1» بطباعته بلا كلمة مرور المالك.</translation>
+        <translation>لا يسمح مؤلف «&#x2068;%1&#x2069;» بطباعته بلا كلمة مرور المالك.</translation>
     </message>
     <message>
         <source>“%1” is locked with a password.</source>
-        <translation>«%1» مقفل بكلمة مرور.</translation>
+        <translation>«&#x2068;%1&#x2069;» مقفل بكلمة مرور.</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
@@ -2956,6 +3158,22 @@ document.pdf وoptions وticket.plist،
         <source>The pages as they would be printed, in a file</source>
         <translation>الصفحات كما ستُطبع، في ملف</translation>
     </message>
+    <message>
+        <source>At once or later, and before which other jobs</source>
+        <translation>فورًا أو لاحقًا، وقبل أي مهام أخرى</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>إلغاء الم&amp;همة</translation>
+    </message>
+    <message>
+        <source>Takes the job back from the print server</source>
+        <translation>يسحب المهمة من خادم الطباعة</translation>
+    </message>
+    <message>
+        <source>When to Print…</source>
+        <translation>موعد الطباعة…</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -3015,7 +3233,7 @@ document.pdf وoptions وticket.plist،
         <translation>إزالة</translation>
     </message>
     <message>
-        <source>Print all as &amp;one job</source>
+        <source>Print all as one &amp;job</source>
         <translation>طباعة الكل ك&amp;مهمة واحدة</translation>
     </message>
     <message>
@@ -3023,8 +3241,8 @@ document.pdf وoptions وticket.plist،
         <translation>تتوالى الصفحات كما لو كانت الملفات مستندًا واحدًا</translation>
     </message>
     <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>إدخال كلمة ال&amp;مرور…</translation>
+        <source>Enter Password…</source>
+        <translation>إدخال كلمة المرور…</translation>
     </message>
     <message>
         <source>%1 (sent)</source>
@@ -3320,6 +3538,14 @@ The settings stay as they are.</source>
         <source>A star means that settings have changed since it was chosen.</source>
         <translation>تعني النجمة أن إعدادات تغيّرت منذ اختياره.</translation>
     </message>
+    <message>
+        <source>Last used settings</source>
+        <translation>آخر إعدادات مستخدمة</translation>
+    </message>
+    <message>
+        <source>“%1” is what was printed with last. Choose another name.</source>
+        <translation>«&#x2068;%1&#x2069;» هي ما طُبع به آخر مرة. اختر اسمًا آخر.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintDialog</name>
@@ -3369,7 +3595,11 @@ The settings stay as they are.</source>
     </message>
     <message>
         <source>“%1” is locked with a password.</source>
-        <translation>«%1» مقفل بكلمة مرور.</translation>
+        <translation>«&#x2068;%1&#x2069;» مقفل بكلمة مرور.</translation>
+    </message>
+    <message>
+        <source>What was printed with is not kept: %1</source>
+        <translation>لم يُحفظ ما طُبع به: %1</translation>
     </message>
 </context>
 <context>
@@ -3750,6 +3980,13 @@ The settings stay as they are.</source>
         <source>%1 (%2)</source>
         <comment>what is wrong, and what the server said</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SentMessage</name>
+    <message>
+        <source>Cancelling %1…</source>
+        <translation>يجري إلغاء &#x2068;%1&#x2069;…</translation>
     </message>
 </context>
 <context>

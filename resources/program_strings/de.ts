@@ -254,16 +254,38 @@ Rechten 0600; DOCUMENT ist das Passwort eines PDF,
 DOCUMENT2 das der zweiten Datei</translation>
     </message>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it,
-or into a folder there for each of several jobs</source>
-        <translation>ein PDF des zu Druckenden schreiben; mit dem Namen eines
-Ordners document.pdf, options und ticket.plist hinein,
-bei mehreren Aufträgen in einen Ordner für jeden</translation>
-    </message>
-    <message>
         <source>a PDF file has room for one job: add --join, or name a folder</source>
         <translation>eine PDF-Datei nimmt einen Auftrag auf: Fügen Sie --join hinzu, oder nennen Sie einen Ordner</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
+        <translation>ein PDF des zu Druckenden schreiben; mit dem
+Namen eines Ordners document.pdf, options und
+ticket.plist hinein, bei mehreren Aufträgen in
+einen Ordner für jeden</translation>
+    </message>
+    <message>
+        <source>what is written to a file is not printed, and there is nothing to wait for; leave out --to</source>
+        <translation>was in eine Datei geschrieben wird, wird nicht gedruckt, und es gibt nichts, worauf zu warten wäre; lassen Sie --to weg</translation>
+    </message>
+    <message>
+        <source>end when the job is printed, and say what becomes
+of it</source>
+        <translation>erst enden, wenn der Auftrag gedruckt ist, und
+sagen, was aus ihm wird</translation>
+    </message>
+    <message>
+        <source>how urgent the job is, 1 to 100</source>
+        <translation>wie dringend der Auftrag ist, 1 bis 100</translation>
+    </message>
+    <message>
+        <source>when the server prints it: immediate, hold, HH:MM
+(UTC), evening and others that lp has</source>
+        <translation>wann der Server ihn druckt: immediate, hold,
+HH:MM (UTC), evening und andere wie bei lp</translation>
     </message>
 </context>
 <context>
@@ -693,6 +715,14 @@ bei mehreren Aufträgen in einen Ordner für jeden</translation>
     <message>
         <source>another file stands there that is no PDF; name another file</source>
         <translation>dort steht eine andere Datei, die kein PDF ist; nennen Sie eine andere Datei</translation>
+    </message>
+    <message>
+        <source>it is too late to cancel this job</source>
+        <translation>es ist zu spät, diesen Auftrag abzubrechen</translation>
+    </message>
+    <message>
+        <source>the print server at %1 does not have this job (any more)</source>
+        <translation>der Druckserver auf %1 hat diesen Auftrag nicht (mehr)</translation>
     </message>
 </context>
 <context>
@@ -1909,6 +1939,113 @@ bei mehreren Aufträgen in einen Ordner für jeden</translation>
         <source>More</source>
         <translation>Weitere</translation>
     </message>
+    <message>
+        <source>On the server: held %1</source>
+        <translation>Auf dem Server: angehalten %1</translation>
+    </message>
+    <message>
+        <source>Priority: %1</source>
+        <translation>Priorität: %1</translation>
+    </message>
+    <message>
+        <source>a priority is a number from %1 to %2, the higher the sooner</source>
+        <translation>eine Priorität ist eine Zahl von %1 bis %2, je höher, desto eher</translation>
+    </message>
+    <message>
+        <source>a time is written HH:MM, in UTC</source>
+        <translation>eine Uhrzeit wird HH:MM geschrieben, in UTC</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>given up by the print server</source>
+        <translation>vom Druckserver aufgegeben</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>held %1</source>
+        <translation>angehalten %1</translation>
+    </message>
+    <message>
+        <source>it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: %1</source>
+        <translation>erwartet wird immediate, hold, eine Uhrzeit HH:MM in UTC oder ein Wort von job-hold-until: %1</translation>
+    </message>
+    <message>
+        <source>no longer on the print server, which does not keep how jobs ended</source>
+        <translation>nicht mehr auf dem Druckserver, der nicht festhält, wie Aufträge geendet haben</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>gedruckt</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>wird gedruckt</translation>
+    </message>
+    <message>
+        <source>that is for a job that is there already; use “lp -i JOB -H %1”</source>
+        <translation>das gilt einem Auftrag, den es schon gibt; verwenden Sie „lp -i AUFTRAG -H %1“</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>until daytime (6 to 18 h)</source>
+        <translation>bis zum Tag (6 bis 18 Uhr)</translation>
+    </message>
+    <message>
+        <source>until somebody releases it</source>
+        <translation>bis ihn jemand freigibt</translation>
+    </message>
+    <message>
+        <source>until the evening (18 to 6 h)</source>
+        <translation>bis zum Abend (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the night (18 to 6 h)</source>
+        <translation>bis zur Nacht (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the second shift (16 to 24 h)</source>
+        <translation>bis zur zweiten Schicht (16 bis 24 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the third shift (0 to 8 h)</source>
+        <translation>bis zur dritten Schicht (0 bis 8 Uhr)</translation>
+    </message>
+    <message>
+        <source>until the weekend</source>
+        <translation>bis zum Wochenende</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>waiting, the printer is stopped</source>
+        <translation>wartet, der Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>%1 was not cancelled: %2</source>
+        <translation>%1 wurde nicht abgebrochen: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>bisher %n Seite</numerusform>
+            <numerusform>bisher %n Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep settings in; set HOME</source>
+        <translation>es gibt keinen persönlichen Ordner, um Einstellungen aufzubewahren; setzen Sie HOME</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1963,6 +2100,81 @@ bei mehreren Aufträgen in einen Ordner für jeden</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>JobTiming</name>
+    <message>
+        <source>&amp;Print:</source>
+        <translation>&amp;Drucken:</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>At night (18 to 6 h)</source>
+        <translation>In der Nacht (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>In the daytime (6 to 18 h)</source>
+        <translation>Am Tag (6 bis 18 Uhr)</translation>
+    </message>
+    <message>
+        <source>In the evening (18 to 6 h)</source>
+        <translation>Am Abend (18 bis 6 Uhr)</translation>
+    </message>
+    <message>
+        <source>In the second shift (16 to 24 h)</source>
+        <translation>In der zweiten Schicht (16 bis 24 Uhr)</translation>
+    </message>
+    <message>
+        <source>In the third shift (0 to 8 h)</source>
+        <translation>In der dritten Schicht (0 bis 8 Uhr)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Of 1 to 100; the higher, the sooner</source>
+        <translation>Von 1 bis 100; je höher, desto eher</translation>
+    </message>
+    <message>
+        <source>P&amp;riority:</source>
+        <translation>P&amp;riorität:</translation>
+    </message>
+    <message>
+        <source>The next time that the clock shows this</source>
+        <translation>Das nächste Mal, wenn die Uhr dies zeigt</translation>
+    </message>
+    <message>
+        <source>The print server keeps the job until then; it is sent when you press Print.</source>
+        <translation>Der Druckserver behält den Auftrag bis dahin; gesendet wird er, wenn Sie auf „Drucken“ klicken.</translation>
+    </message>
+    <message>
+        <source>Time to print at</source>
+        <translation>Uhrzeit für den Druck</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>Wenn ihn jemand freigibt</translation>
+    </message>
+    <message>
+        <source>When to Print</source>
+        <translation>Wann gedruckt wird</translation>
     </message>
 </context>
 <context>
@@ -2129,6 +2341,21 @@ bei mehreren Aufträgen in einen Ordner für jeden</translation>
     <message>
         <source>there are no texts in the language “%1”; name one of these: %2</source>
         <translation>es gibt keine Texte in der Sprache „%1“; nennen Sie eine von diesen: %2</translation>
+    </message>
+    <message>
+        <source>%1 goes on without this program; “cancel %1” takes it back</source>
+        <translation>%1 läuft ohne dieses Programm weiter; „cancel %1“ nimmt den Auftrag zurück</translation>
+    </message>
+    <message>
+        <source>%1 was sent, and nobody knows what became of it (%2). It may still be printed: look with “lpstat -W all” before you print it again</source>
+        <translation>%1 wurde gesendet, und niemand weiß, was daraus geworden ist (%2). Der Auftrag wird vielleicht noch gedruckt: Sehen Sie mit „lpstat -W all“ nach, bevor Sie ihn noch einmal drucken</translation>
+    </message>
+</context>
+<context>
+    <name>Notice</name>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
     </message>
 </context>
 <context>
@@ -3840,6 +4067,22 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <source>The pages as they would be printed, in a file</source>
         <translation>Die Seiten, wie sie gedruckt würden, in einer Datei</translation>
     </message>
+    <message>
+        <source>At once or later, and before which other jobs</source>
+        <translation>Sofort oder später, und vor welchen anderen Aufträgen</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Auftrag abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>Takes the job back from the print server</source>
+        <translation>Nimmt den Auftrag vom Druckserver zurück</translation>
+    </message>
+    <message>
+        <source>When to Print…</source>
+        <translation>Wann drucken…</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -3899,7 +4142,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>Print all as &amp;one job</source>
+        <source>Print all as one &amp;job</source>
         <translation>Alle als &amp;einen Auftrag drucken</translation>
     </message>
     <message>
@@ -3907,8 +4150,8 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
         <translation>Die Seiten folgen aufeinander, als wären die Dateien ein Dokument</translation>
     </message>
     <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>Pass&amp;wort eingeben…</translation>
+        <source>Enter Password…</source>
+        <translation>Passwort eingeben…</translation>
     </message>
     <message>
         <source>%1 (sent)</source>
@@ -4204,6 +4447,14 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>A star means that settings have changed since it was chosen.</source>
         <translation>Ein Stern bedeutet, dass seit der Auswahl Einstellungen geändert wurden.</translation>
     </message>
+    <message>
+        <source>Last used settings</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>“%1” is what was printed with last. Choose another name.</source>
+        <translation>„%1“ ist das, womit zuletzt gedruckt wurde. Wählen Sie einen anderen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintDialog</name>
@@ -4254,6 +4505,10 @@ Die Einstellungen bleiben, wie sie sind.</translation>
     <message>
         <source>“%1” is locked with a password.</source>
         <translation>„%1“ ist mit einem Passwort gesperrt.</translation>
+    </message>
+    <message>
+        <source>What was printed with is not kept: %1</source>
+        <translation>Womit gedruckt wurde, wird nicht aufbewahrt: %1</translation>
     </message>
 </context>
 <context>
@@ -4618,6 +4873,13 @@ Die Einstellungen bleiben, wie sie sind.</translation>
         <source>%1 (%2)</source>
         <comment>what is wrong, and what the server said</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SentMessage</name>
+    <message>
+        <source>Cancelling %1…</source>
+        <translation>%1 wird abgebrochen…</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 <TS version="2.1" language="en_US" sourcelanguage="en">
 <context>
     <name>Job</name>
+    <!-- What will come out -->
     <message numerus="yes">
         <source>%n page(s)</source>
         <translation>
@@ -24,6 +25,7 @@
             <numerusform>%n copies</numerusform>
         </translation>
     </message>
+    <!-- %1 is "3 sheets", %2 "2 copies" -->
     <message numerus="yes">
         <source>%1 × %2 = %n sheet(s)</source>
         <translation>
@@ -38,6 +40,7 @@
             <numerusform>%n entries that the device panels add (see Ticket)</numerusform>
         </translation>
     </message>
+    <!-- Pages that do not fit: %1 is their numbers, %2 the paper, %n how many pages -->
     <message numerus="yes">
         <source>Page(s) %1 larger than the paper, %2: what does not fit is cut off.</source>
         <translation>
@@ -45,6 +48,7 @@
             <numerusform>Pages %1 are larger than the paper, %2: what does not fit is cut off.</numerusform>
         </translation>
     </message>
+    <!-- What this printer does not have, or does not read -->
     <message numerus="yes">
         <source>%n setting(s) kept, to come back with a printer that has them.</source>
         <translation>
@@ -80,6 +84,13 @@
             <numerusform>Pages %1 are larger than their places on the sheet: what does not fit is cut off.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>%n page so far</numerusform>
+            <numerusform>%n pages so far</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Document</name>
@@ -108,6 +119,7 @@
             <numerusform>At most %n characters fit here.</numerusform>
         </translation>
     </message>
+    <!-- %1 is the name of a control, %2 the row that was asked for -->
     <message numerus="yes">
         <source>%1 has %n row(s), not %2</source>
         <translation>
@@ -128,6 +140,7 @@
 </context>
 <context>
     <name>Preview</name>
+    <!-- %1 is "Insert" -->
     <message numerus="yes">
         <source>%1, %n sheet(s)</source>
         <translation>
@@ -145,6 +158,7 @@
 </context>
 <context>
     <name>Window</name>
+    <!-- %1 is the first of several sentences -->
     <message numerus="yes">
         <source>%1 (and %n more)</source>
         <translation>

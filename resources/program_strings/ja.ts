@@ -11,16 +11,17 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>write a PDF of what would be printed; with a folder’s
-name, document.pdf, options and ticket.plist into it,
-or into a folder there for each of several jobs</source>
+        <source>a PDF file has room for one job: add --join, or name a folder</source>
+        <translation>PDF ファイル1つに入るジョブは1つです。--join を加えるか、フォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>write a PDF of what would be printed; with the
+name of a folder, document.pdf, options and
+ticket.plist into it, or into a folder there for
+each of several jobs</source>
         <translation>印刷されるものを PDF に書き出す。フォルダー名なら
 document.pdf、options、ticket.plist をその中に。
 複数のジョブならその中のそれぞれのフォルダーに</translation>
-    </message>
-    <message>
-        <source>a PDF file has room for one job: add --join, or name a folder</source>
-        <translation>PDF ファイル1つに入るジョブは1つです。--join を加えるか、フォルダーを指定してください</translation>
     </message>
 </context>
 <context>
@@ -193,6 +194,14 @@ document.pdf、options、ticket.plist をその中に。
     <message>
         <source>another file stands there that is no PDF; name another file</source>
         <translation>そこには PDF でない別のファイルがあります。別のファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>it is too late to cancel this job</source>
+        <translation>このジョブを中止するには遅すぎます</translation>
+    </message>
+    <message>
+        <source>the print server at %1 does not have this job (any more)</source>
+        <translation>%1のプリントサーバーにこのジョブは（もう）ありません</translation>
     </message>
 </context>
 <context>
@@ -1376,6 +1385,112 @@ document.pdf、options、ticket.plist をその中に。
         <source>More</source>
         <translation>その他</translation>
     </message>
+    <message>
+        <source>On the server: held %1</source>
+        <translation>サーバー上で保留: %1</translation>
+    </message>
+    <message>
+        <source>Priority: %1</source>
+        <translation>優先度: %1</translation>
+    </message>
+    <message>
+        <source>a priority is a number from %1 to %2, the higher the sooner</source>
+        <translation>優先度は%1から%2までの数で、大きいほど早く印刷されます</translation>
+    </message>
+    <message>
+        <source>a time is written HH:MM, in UTC</source>
+        <translation>時刻はUTCでHH:MMと書きます</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>given up by the print server</source>
+        <translation>プリントサーバーが印刷を取りやめました</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>held %1</source>
+        <translation>%1保留</translation>
+    </message>
+    <message>
+        <source>it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: %1</source>
+        <translation>immediate、hold、UTCの時刻HH:MM、またはjob-hold-untilの値を指定します: %1</translation>
+    </message>
+    <message>
+        <source>no longer on the print server, which does not keep how jobs ended</source>
+        <translation>プリントサーバーにもうありません（ジョブの結果は記録されていません）</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>印刷しました</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>that is for a job that is there already; use “lp -i JOB -H %1”</source>
+        <translation>これはすでにあるジョブのためのものです。「lp -i JOB -H %1」を使ってください</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>%1まで</translation>
+    </message>
+    <message>
+        <source>until daytime (6 to 18 h)</source>
+        <translation>日中（6～18時）まで</translation>
+    </message>
+    <message>
+        <source>until somebody releases it</source>
+        <translation>解放されるまで</translation>
+    </message>
+    <message>
+        <source>until the evening (18 to 6 h)</source>
+        <translation>夕方（18～6時）まで</translation>
+    </message>
+    <message>
+        <source>until the night (18 to 6 h)</source>
+        <translation>夜間（18～6時）まで</translation>
+    </message>
+    <message>
+        <source>until the second shift (16 to 24 h)</source>
+        <translation>第2シフト（16～24時）まで</translation>
+    </message>
+    <message>
+        <source>until the third shift (0 to 8 h)</source>
+        <translation>第3シフト（0～8時）まで</translation>
+    </message>
+    <message>
+        <source>until the weekend</source>
+        <translation>週末まで</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>waiting, the printer is stopped</source>
+        <translation>待機中（プリンターが停止しています）</translation>
+    </message>
+    <message>
+        <source>%1 was not cancelled: %2</source>
+        <translation>%1を中止できませんでした: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) so far</source>
+        <translation>
+            <numerusform>これまでに%nページ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no home folder to keep settings in; set HOME</source>
+        <translation>設定を保存するホームフォルダーがありません。HOMEを設定してください</translation>
+    </message>
 </context>
 <context>
     <name>JobDetails</name>
@@ -1430,6 +1545,81 @@ document.pdf、options、ticket.plist をその中に。
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>JobTiming</name>
+    <message>
+        <source>&amp;Print:</source>
+        <translation>印刷(&amp;P):</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>指定した時刻</translation>
+    </message>
+    <message>
+        <source>At night (18 to 6 h)</source>
+        <translation>夜間（18～6時）</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>すぐに</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>In the daytime (6 to 18 h)</source>
+        <translation>日中（6～18時）</translation>
+    </message>
+    <message>
+        <source>In the evening (18 to 6 h)</source>
+        <translation>夕方（18～6時）</translation>
+    </message>
+    <message>
+        <source>In the second shift (16 to 24 h)</source>
+        <translation>第2シフト（16～24時）</translation>
+    </message>
+    <message>
+        <source>In the third shift (0 to 8 h)</source>
+        <translation>第3シフト（0～8時）</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Of 1 to 100; the higher, the sooner</source>
+        <translation>1～100。大きいほど早く印刷されます</translation>
+    </message>
+    <message>
+        <source>P&amp;riority:</source>
+        <translation>優先度(&amp;R):</translation>
+    </message>
+    <message>
+        <source>The next time that the clock shows this</source>
+        <translation>次にこの時刻になったとき</translation>
+    </message>
+    <message>
+        <source>The print server keeps the job until then; it is sent when you press Print.</source>
+        <translation>それまでジョブはプリントサーバーに置かれます。［印刷］を押すと送信されます。</translation>
+    </message>
+    <message>
+        <source>Time to print at</source>
+        <translation>印刷する時刻</translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation>解放されたとき</translation>
+    </message>
+    <message>
+        <source>When to Print</source>
+        <translation>印刷する時期</translation>
     </message>
 </context>
 <context>
@@ -1515,6 +1705,13 @@ document.pdf、options、ticket.plist をその中に。
     <message>
         <source>The device panels are missing (%1).</source>
         <translation>機器のパネルがありません（%1）。</translation>
+    </message>
+</context>
+<context>
+    <name>Notice</name>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブを中止</translation>
     </message>
 </context>
 <context>
@@ -2861,6 +3058,22 @@ document.pdf、options、ticket.plist をその中に。
         <source>The pages as they would be printed, in a file</source>
         <translation>印刷されるとおりのページをファイルに</translation>
     </message>
+    <message>
+        <source>At once or later, and before which other jobs</source>
+        <translation>すぐにまたは後で、ほかのどのジョブより先に</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>ジョブを中止(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Takes the job back from the print server</source>
+        <translation>プリントサーバーからジョブを取り消します</translation>
+    </message>
+    <message>
+        <source>When to Print…</source>
+        <translation>印刷時期…</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::DialogSession</name>
@@ -2920,7 +3133,7 @@ document.pdf、options、ticket.plist をその中に。
         <translation>削除</translation>
     </message>
     <message>
-        <source>Print all as &amp;one job</source>
+        <source>Print all as one &amp;job</source>
         <translation>すべてを1つのジョブで印刷(&amp;O)</translation>
     </message>
     <message>
@@ -2928,8 +3141,8 @@ document.pdf、options、ticket.plist をその中に。
         <translation>複数のファイルを1つの文書のように、ページを続けて印刷します</translation>
     </message>
     <message>
-        <source>Enter Pass&amp;word…</source>
-        <translation>パスワードの入力(&amp;W)…</translation>
+        <source>Enter Password…</source>
+        <translation>パスワードの入力…</translation>
     </message>
     <message>
         <source>%1 (sent)</source>
@@ -3225,6 +3438,14 @@ The settings stay as they are.</source>
         <source>A star means that settings have changed since it was chosen.</source>
         <translation>*は、選んだ後に設定が変更されたことを示します。</translation>
     </message>
+    <message>
+        <source>Last used settings</source>
+        <translation>前回使った設定</translation>
+    </message>
+    <message>
+        <source>“%1” is what was printed with last. Choose another name.</source>
+        <translation>「%1」は前回の印刷に使った設定です。別の名前を選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>kelvo::PrintDialog</name>
@@ -3275,6 +3496,10 @@ The settings stay as they are.</source>
     <message>
         <source>“%1” is locked with a password.</source>
         <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>What was printed with is not kept: %1</source>
+        <translation>印刷に使った設定は保存されません: %1</translation>
     </message>
 </context>
 <context>
@@ -3635,6 +3860,13 @@ The settings stay as they are.</source>
         <source>%1 (%2)</source>
         <comment>what is wrong, and what the server said</comment>
         <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>kelvo::SentMessage</name>
+    <message>
+        <source>Cancelling %1…</source>
+        <translation>%1を中止しています…</translation>
     </message>
 </context>
 <context>

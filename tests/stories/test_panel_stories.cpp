@@ -174,7 +174,7 @@ void TestPanelStories::saysWhatWillBeMissing()
             "item @frontStockButton 'Sclr' key Blue\nclick @okButton\nanswer 2\n"
             "panel PaperOutput\ntab 2\ntab 1\nexpect @conflictBar visible true\nsummary\nprint\n");
     const Run run = desk.run({"--demo", "--no-window", "--script", "cover.kps", "--to", "out", "-o",
-                              "PageSize=A5", "-P", "1,3-4"});
+                              "PageSize=A5", "-o", "print-scaling=none", "-P", "1,3-4"});
     QENDED(run, 0);
     const QStringList messages = run.messages();
     QCOMPARE(messages.size(), 2);

@@ -114,6 +114,8 @@ private slots:
     void listsQueuesForAShell();
     void printsPlainlyOnlyWhereThereIsNoPpd();
     void endsOnAnInterrupt();
+    void waitsForItsJob();
+    void beginsNoScriptWithWhatWasUsedLast();
     void keepsWhatTheUserNamed_data();
     void keepsWhatTheUserNamed();
     void tellsOfAnOutputThatIsFull();
@@ -618,6 +620,60 @@ void TestStories::endsOnAnInterrupt()
     QCOMPARE(ready.messages(), QStringList());
 }
 
+void TestStories::waitsForItsJob()
+{
+    const Desk desk;
+    const QStringList held{"-d",   "Hall-3", "--no-window", "--wait",    "-H",
+                           "hold", "-q",     "70",          documentPath};
+    const Run printed = desk.run({"-d", "Hall-3", "--no-window", "--wait", documentPath});
+    QENDED(printed, 0);
+    QCOMPARE(printed.messages().last(),
+             "kelvo-print: " + printed.out.section(' ', 0, 0) + ": printed");
+
+    // Who is interrupted leaves the job alone.
+    const Run left = desk.interrupt(held, QByteArray("held until"));
+    QENDED(left, 130);
+    const QString job = left.out.section(' ', 0, 0);
+    QVERIFY2(left.err.contains(job + " goes on without this program"), qPrintable(left.err));
+    QCOMPARE(QProcess::execute("cancel", {job}), 0);
+
+    QProcess process;
+    desk.prepare(process, held);
+    process.start();
+    process.setReadChannel(QProcess::StandardError);
+    QVERIFY(process.waitForReadyRead(15'000));
+    QCOMPARE(QProcess::execute("cancel", {"-a"}), 0);
+    QVERIFY(process.waitForFinished(15'000));
+    QCOMPARE(process.exitCode(), 130);
+    QVERIFY(process.readAllStandardError().trimmed().endsWith(": cancelled"));
+}
+
+// What people printed with last is where their windows begin, and nothing else.
+void TestStories::beginsNoScriptWithWhatWasUsedLast()
+{
+    const Desk desk;
+    const QString folder = QFileInfo(desk.presetFolder()).path();
+    QVERIFY(QDir().mkpath(folder));
+    const QByteArray used = "<plist version=\"1.0\"><dict><key>Printer</key><string>Gone</string>"
+                            "<key>Settings</key><dict><key>FormatVersion</key><integer>1</integer>"
+                            "<key>IsPart</key><true/><key>PMPrintSettingsTicket</key><dict/>"
+                            "<key>PPDChoices</key><dict><key>StapleLocation</key>"
+                            "<string>SinglePortrait</string></dict></dict></dict></plist>";
+    const QString path = folder + "/com.kelvo.print.lastused.plist";
+    putFile(path, used);
+    putFile(desk.path("print.kps"), "print\n");
+    for (const QStringList &driven : {QStringList{"--no-window"}, {"--script", "print.kps"}}) {
+        const int before = int(m_cups.jobs(0).size());
+        const Run run = desk.run(
+            QStringList{"-d", "Hall-3", "-o", "KVPunch=2HolePunch", documentPath} + driven);
+        QENDED(run, 0);
+        const auto options = m_cups.jobs(before + 1).back().options;
+        QCOMPARE(options.value("KVPunch"), QStringList("2HolePunch"));
+        QVERIFY(options.value("StapleLocation") != QStringList("SinglePortrait"));
+        QCOMPARE(bytesOf(path), used);
+    }
+}
+
 // Nothing that the user named is lost to what the program writes.
 void TestStories::keepsWhatTheUserNamed_data()
 {
@@ -1047,7 +1103,8 @@ void TestStories::refusesWhatCannotBeDone_data()
     row("unknown option name", "", 2, "Jogg", hall + QStringList{"-o", "Jogg=None"});
     row("unknown name alone", "", 2, "job-name", hall + QStringList{"-o", "job-name"});
     row("choice that is not offered", "", 3, "EndOfSet", hall + QStringList{"-o", "Jog=EndOfSe"});
-    row("option that is not offered", "", 3, "own size", hall + QStringList{"-o", "fit-to-page"});
+    row("option that is not offered", "", 3, "1, 2, 4, 6, 9 or 16",
+        hall + QStringList{"-o", "number-up=3"});
     row("option of another of these devices", "", 3, "StapleLocation",
         {"--ppd", samplePpd("bare"), "--to", "out", documentPath, "-o", "noStapleLocation"});
     row("equipment", "", 3, "lpadmin", hall + QStringList{"-o", "KVFinisher=None"});

@@ -19,20 +19,32 @@ QString NotificationService::start()
     if (const QString problem = m_bus.start(); !problem.isEmpty())
         return problem;
     QDBusConnection bus = QDBusConnection::connectToBus(m_bus.address(), connectionName);
-    const bool isThere = bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
-                                            QDBusConnection::ExportAllSlots)
+    const bool isThere =
+        bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
+                           QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals)
         && bus.registerService(QStringLiteral("org.freedesktop.Notifications"));
     return isThere ? QString() : bus.lastError().message();
 }
 
 QStringList NotificationService::GetCapabilities() const
 {
-    return {QStringLiteral("body"), QStringLiteral("body-markup")};
+    return {QStringLiteral("actions"), QStringLiteral("body"), QStringLiteral("body-markup")};
 }
 
-uint NotificationService::Notify(const QString &, uint, const QString &, const QString &summary,
-                                 const QString &body, const QStringList &, const QVariantMap &, int)
+uint NotificationService::Notify(const QString &, uint replaces, const QString &,
+                                 const QString &summary, const QString &body,
+                                 const QStringList &actions, const QVariantMap &, int)
 {
-    m_shown << summary + u'|' + body;
-    return 1;
+    QStringList parts{summary, body};
+    for (qsizetype i = 1; i < actions.size(); i += 2)
+        parts << actions[i];
+    m_shown << parts.join(u'|');
+    return m_last = replaces ? replaces : ++m_given;
+}
+
+void NotificationService::press(const QString &key)
+{
+    constexpr uint byUser = 2;
+    emit ActionInvoked(m_last, key);
+    emit NotificationClosed(m_last, byUser);
 }

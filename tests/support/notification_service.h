@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
-// A session bus of the test's own with a desktop on it that shows notifications: it
+// A session bus of the test's own with a desktop on it that shows notifications, with buttons: it
 // keeps what it is asked to show. It ends with this object.
 class NotificationService : public QObject
 {
@@ -19,7 +19,9 @@ public:
 
     // Starts it. Empty, or what went wrong.
     QString start();
-    QStringList shown() const { return m_shown; } // "SUMMARY|BODY"
+    QStringList shown() const { return m_shown; } // "SUMMARY|BODY", and "|LABEL" of each button
+    // A button of the last one, as a desktop does it: the message goes.
+    void press(const QString &key);
 
 public slots:
     // NOLINTBEGIN(readability-identifier-naming): the service's own names
@@ -29,7 +31,14 @@ public slots:
                 const QVariantMap &hints, int timeoutMs);
     // NOLINTEND(readability-identifier-naming)
 
+signals:
+    // NOLINTBEGIN(readability-identifier-naming): the service's own names
+    void ActionInvoked(uint id, const QString &key);
+    void NotificationClosed(uint id, uint reason);
+    // NOLINTEND(readability-identifier-naming)
+
 private:
     PrivateBus m_bus;
     QStringList m_shown;
+    uint m_given = 0, m_last = 0; // numbers of messages
 };

@@ -42,6 +42,11 @@ QString told(const CommandLine &line)
         parts << (value ? QStringLiteral("o=%1:%2").arg(name, *value)
                         : QStringLiteral("o=%1").arg(name));
     add("P", line.pages);
+    if (line.priority)
+        parts << QStringLiteral("q=%1").arg(*line.priority);
+    add("H", line.holdUntil);
+    if (line.wait)
+        parts << QStringLiteral("wait");
     add("t", line.title);
     add("ppd", line.ppd);
     add("to", line.toFolder);
@@ -72,6 +77,12 @@ void TestCommandLine::takesEveryForm_data()
     row("a name alone", {"-o", "landscape noDuplex A=1"}, "o=landscape o=noDuplex o=A:1");
     row("value with a sign", {"-o", "A=b=c"}, "o=A:b=c");
     row("open range", {"-P", "1-3, 7,9-"}, "P=1-3, 7,9-");
+    row("urgent", {"-q100"}, "q=100");
+    row("at once", {"-H", "immediate"}, "H=no-hold");
+    row("later", {"-H", "hold", "--wait"}, "H=indefinite wait");
+    row("at a time", {"-H", "7:05"}, "H=07:05");
+    row("in words", {"-H", "Second-Shift", "-o", "job-hold-until=second-shift"},
+        "o=job-hold-until:second-shift H=second-shift");
     row("later beats earlier", {"-n2", "-n3"}, "n=3");
     row("the same said twice",
         {"-n2", "-o", "copies=3 copies=02", "-P", "1 - 3", "-o", "page-ranges=1-3"},
@@ -123,15 +134,27 @@ void TestCommandLine::refusesWrongLines_data()
     for (const char *copies : {"0", "10000", "+1", "2.5", "", "9999999999"})
         row(qPrintable(QStringLiteral("copies \"%1\"").arg(copies)), {"-n", copies},
             QStringLiteral("-n: “%1” is not a whole number from 1 to 9999").arg(copies));
+    row("too urgent", {"-q", "101"},
+        "-q 101: a priority is a number from 1 to 100, the higher the sooner");
+    row("no time", {"-H", "24:00"},
+        "-H 24:00: it takes immediate, hold, a time HH:MM in UTC, or a word of job-hold-until: "
+        "no-hold, indefinite, day-time, evening, night, second-shift, third-shift, weekend");
+    row("of a job that is there", {"-H", "resume"},
+        "-H resume: that is for a job that is there already; use “lp -i JOB -H resume”");
+    row("held twice", {"-H", "hold", "-o", "job-hold-until=night"},
+        "-H indefinite: -o job-hold-until=night says something else; leave out one of them");
+    row("waiting for a folder", {"--wait", "--to", "x"},
+        "--wait: what is written to a file is not printed, and there is nothing to wait for; leave "
+        "out "
+        "--to");
     row("timeout too long", {"--timeout", "3601"},
         "--timeout: “3601” is not a whole number from 1 to 3600");
     for (const char *option : {"Jog=", "=1", ""})
         row(qPrintable(QStringLiteral("option \"%1\"").arg(option)), {"-o", option},
             QStringLiteral("-o: “%1” is not NAME=VALUE, NAME or noNAME").arg(option));
-    row("pages backwards", {"-P", "5-2"},
-        "-P: page range “5-2”: the last page comes before the first; write 2-5");
-    row("pages backwards, as an option", {"-o", "Page-Ranges=5-2"},
-        "-o: page range “5-2”: the last page comes before the first; write 2-5");
+    row("pages from 0", {"-P", "0-2"}, "-P: page range “0-2”: pages begin at 1");
+    row("pages from 0, as an option", {"-o", "Page-Ranges=0-2"},
+        "-o: page range “0-2”: pages begin at 1");
     row("copies said twice", {"-o", "copies=2", "-n3"},
         "-n 3: -o copies=2 says something else; leave out one of them");
     row("copies without a number", {"-n3", "-o", "copies"},
@@ -145,6 +168,8 @@ void TestCommandLine::refusesWrongLines_data()
         "--secret: a secret’s name has only letters, digits, - and _");
     row("secret twice", {"--secret=a=f", "--secret=a=g"}, "--secret: the secret a is given twice");
     row("standard input twice", {"-", "a", "-"}, "-: standard input can be read only once");
+    row("several in one file", {"a", "b", "--to", "x.pdf"},
+        "--to: a PDF file has room for one job: add --join, or name a folder");
     row("two readers of the input", {"a", "-", "--script", "-"},
         "--script -: standard input is the document already; name one of them as a file");
     row("two devices", {"--demo", "--ppd", "x"},

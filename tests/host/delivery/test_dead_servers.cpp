@@ -37,7 +37,7 @@ private slots:
     void sayThatAJobMayHaveBeenAccepted();
 
 private:
-    Result<DeliveredJob> deliver(int timeoutMs);
+    Result<SentJob> deliver(int timeoutMs);
     void use(const QString &server) { qputenv("CUPS_SERVER", server.toUtf8()); }
 
     PrivateCups m_cups;
@@ -68,7 +68,7 @@ void TestDeadServers::initTestCase()
     m_job = job.value();
 }
 
-Result<DeliveredJob> TestDeadServers::deliver(int timeoutMs)
+Result<SentJob> TestDeadServers::deliver(int timeoutMs)
 {
     return deliverToQueue(m_job, "Office", "Title", timeoutMs, m_cancelled);
 }

@@ -6,6 +6,7 @@
 #include "table.h"
 
 #include <QDBusConnection>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -26,6 +27,8 @@ private slots:
     void asksTheServerAlone(); // first: libcups keeps the bus that it first asks
     void isAsLibcupsHasIt_data();
     void isAsLibcupsHasIt();
+    void theLastPrinterBeatsTheServersDefault_data();
+    void theLastPrinterBeatsTheServersDefault();
 
 private:
     PrivateCups m_cups;
@@ -212,6 +215,29 @@ void TestPrinterList::isAsLibcupsHasIt()
         lines << lineOf(printer);
     QCOMPARE(lines, judged);
     QCOMPARE(listed.value().first().name, first);
+}
+
+void TestPrinterList::theLastPrinterBeatsTheServersDefault_data()
+{
+    const Table<QByteArray, QString, QString> row{"user", "preferred", "first"};
+    row("the last one", "", "office", "office");
+    row("one that is gone", "", "Gone", "Hall-3-b");
+    row("the user has chosen one", "Default Raw\n", "office", "Raw");
+}
+
+void TestPrinterList::theLastPrinterBeatsTheServersDefault()
+{
+    QFETCH(QByteArray, user);
+    QFETCH(QString, preferred);
+    putFile(m_folder.filePath("site/lpoptions"), "");
+    putFile(m_folder.filePath(".cups/lpoptions"), user);
+    PrinterDirectory directory;
+    QSignalSpy found(&directory, &PrinterDirectory::printersFound);
+    directory.refresh(10000, PrinterDirectory::Ahead::Nothing, preferred);
+    QVERIFY(found.wait(15000));
+    const auto printers = found[0][0].value<QList<Printer>>();
+    QTEST(printers.first().name, "first");
+    QCOMPARE(printers.first().isDefault, printers.first().name != "office");
 }
 
 QTEST_GUILESS_MAIN(TestPrinterList)

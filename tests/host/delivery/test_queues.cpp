@@ -52,8 +52,8 @@ private slots:
 
 private:
     Result<PreparedJob> prepare(const QString &ppd, qsizetype filler = 0);
-    Result<DeliveredJob> deliver(const PreparedJob &job, const QString &queue,
-                                 const QString &title = "Title");
+    Result<SentJob> deliver(const PreparedJob &job, const QString &queue,
+                            const QString &title = "Title");
 
     PrivateCups m_cups;
     QTemporaryDir m_folder;
@@ -116,8 +116,8 @@ Result<PreparedJob> TestQueues::prepare(const QString &ppd, qsizetype filler)
     return prepareJob(m_request);
 }
 
-Result<DeliveredJob> TestQueues::deliver(const PreparedJob &job, const QString &queue,
-                                         const QString &title)
+Result<SentJob> TestQueues::deliver(const PreparedJob &job, const QString &queue,
+                                    const QString &title)
 {
     const std::atomic_bool cancelled = false;
     return deliverToQueue(job, queue, title, 10000, cancelled);
@@ -194,7 +194,7 @@ void TestQueues::jobsArriveAsTheyWerePrepared()
     const auto jobs = m_cups.jobs(static_cast<int>(before) + 1);
     QCOMPARE(jobs.size(), before + 1);
     const PrivateCups::Job &arrived = jobs.back();
-    QCOMPARE(delivered.value().name, "Hall-3-" + arrived.id);
+    QCOMPARE(delivered.value().name(), "Hall-3-" + arrived.id);
     QCOMPARE(arrived.title, QStringLiteral("Budget 2026"));
     QCOMPARE(arrived.copies, QStringLiteral("2"));
     QCOMPARE(arrived.document, bytesOf(job.value().pdfPath));

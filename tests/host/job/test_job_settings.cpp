@@ -278,6 +278,9 @@ void TestJobSettings::refuseOptions_data()
     row("a name alone", "nolandscap", {}, Code::Unsupported, "neither this printer");
     row("several choices, and a name alone", "StapleLocation", {}, Code::NotFound,
         "there are None, ");
+    row("no urgency", "job-priority", "0", Code::OutOfRange, "from 1 to 100");
+    row("no such time of the day", "job-hold-until", "evning", Code::OutOfRange,
+        "did you mean evening?");
     row("pages in words", "page-ranges", "two", Code::OutOfRange, "1-3,7");
 }
 

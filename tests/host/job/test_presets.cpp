@@ -1,6 +1,7 @@
 #include "file_store.h"
 #include "files.h"
 #include "folders.h"
+#include "job_timing.h"
 #include "presets.h"
 #include "property_list.h"
 #include "table.h"
@@ -126,6 +127,7 @@ void TestPresets::leaveOutWhatIsOfOneJob()
 {
     TicketFile file = ticketWith("None");
     file.printSettings.entries[kPMPageRangesKey] = {"1-3", "test"};
+    file.printSettings.entries[kJobHoldUntilKey] = {"evening", "test"};
     file.printSettings.entries[kPMJobNameKey] = {"Budget", "test"};
     file.printSettings.entries[kPMCopiesKey] = {qint64(2), "test"};
     QVERIFY(m_store.save("Draft", file, keys, false));

@@ -88,7 +88,7 @@ void TestSession::aPresetIsWhatWasSaved()
     auto begin = sampleBeginning();
     begin.job.preset = store.read("One").value();
     Running run(begin);
-    SessionPresets presets(run.job(), "One");
+    SessionPresets presets(run.job(), {"One"}, std::nullopt);
     run.panels.note = "mine";
     QVERIFY(presets.save("One", std::nullopt));
     QVERIFY(!run.job().isChanged());

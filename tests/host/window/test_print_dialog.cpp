@@ -1,5 +1,6 @@
 #include "test_panels.h"
 
+#include "background_work.h"
 #include "bundle.h"
 #include "document_chooser.h"
 #include "file_store.h"
@@ -61,6 +62,8 @@ private slots:
     void theListOfPrintersIsAskedAnew();
     void aPrinterInTroubleIsToldAndWaitedFor();
     void theDesktopTellsThatAJobIsOut();
+    void withoutADesktopTheWindowTellsOfTheJob();
+    void whatWasPrintedWithComesBack();
     void aDeadDesktopKeepsNobody();
 
     void theFirstKeyIsHeard();
@@ -635,15 +638,109 @@ void TestPrintDialog::theDesktopTellsThatAJobIsOut()
         shown.dialog.pressPrint();
         QVERIFY(shown.waitUntilEnded());
         QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
-        QCOMPARE(desktop.shown(), QStringList("Hall-3-1 sent|Profit &amp; loss"));
     }
+    const QString last = "Hall-3-1: printed|Profit &amp; loss";
+    QTRY_VERIFY_WITH_TIMEOUT(desktop.shown().contains(last), 15000);
+    QCOMPARE(desktop.shown().first(), "Hall-3-1 sent|Profit &amp; loss|Cancel Job");
+    // Its button is heard when the window is long gone.
+    const qsizetype before = desktop.shown().size();
+    auto held = begin;
+    held.session.job.options = {{"job-hold-until", "indefinite"}};
+    {
+        Shown shown(held, false);
+        QVERIFY(shown.waitUntilIdle());
+        shown.dialog.pressPrint();
+        QVERIFY(shown.waitUntilEnded());
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(desktop.shown().last().startsWith("Hall-3-2: held until"), 15000);
+    desktop.press("cancel");
+    QTRY_COMPARE_WITH_TIMEOUT(desktop.shown().last(),
+                              QString("Hall-3-2: cancelled|Profit &amp; loss"), 15000);
+    QCOMPARE(desktop.shown().size(), before + 3);
     // Whoever drives it reads its output.
     Shown driven(begin);
     QVERIFY(driven.waitUntilIdle());
     driven.dialog.pressPrint();
     QVERIFY(driven.waitUntilEnded());
-    QTest::qWait(50);
-    QCOMPARE(desktop.shown().size(), 1);
+    QTest::qWait(500);
+    QCOMPARE(desktop.shown().size(), before + 3);
+}
+
+void TestPrintDialog::withoutADesktopTheWindowTellsOfTheJob()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", samplePpd("full")), QString());
+    auto held = queueOptions();
+    held.session.job.options = {{"job-hold-until", "indefinite"}};
+    Shown shown(held, false);
+    QVERIFY(shown.waitUntilIdle());
+    const auto *button = shown.find<QPushButton>("cancelJob");
+    QVERIFY(!button->isVisible());
+    shown.dialog.pressPrint();
+    QTRY_VERIFY_WITH_TIMEOUT(shown.text("summary").startsWith("Hall-3-1: held until"), 15000);
+    // Whoever has gone to the button is given time.
+    shown.find<QPushButton>("cancelJob")->setFocus();
+    QTest::qWait(2000);
+    QVERIFY(button->isVisible() && !shown.dialog.finished());
+    shown.find<QPushButton>("cancelJob")->click();
+    QTRY_COMPARE_WITH_TIMEOUT(shown.text("summary"), QString("Hall-3-1: cancelled"), 15000);
+    QVERIFY(!button->isVisible());
+    QVERIFY(shown.waitUntilEnded());
+    QCOMPARE(shown.dialog.finished(), ExitStatus::Printed);
+}
+
+void TestPrintDialog::whatWasPrintedWithComesBack()
+{
+    PrivateCups cups;
+    QCOMPARE(cups.start(), QString());
+    QCOMPARE(cups.addQueue("Hall-3", samplePpd("full")), QString());
+    auto first = queueOptions();
+    first.session.job.options = {{"StapleLocation", "SinglePortrait"}, {"media", "A3"}};
+    first.lastUsed = LastUsed();
+    const auto end = [](Shown &shown, const char *button) {
+        if (button)
+            shown.find<QPushButton>(button)->click();
+        else
+            shown.dialog.pressPrint();
+        const bool hasEnded = shown.waitUntilEnded();
+        return hasEnded && waitForBackgroundWork(5000);
+    };
+    {
+        Shown shown(first, false);
+        QVERIFY(shown.waitUntilIdle());
+        QVERIFY(end(shown, "cancel"));
+        QCOMPARE(readLastUsed(), LastUsed());
+    }
+    {
+        Shown shown(first, false);
+        QVERIFY(shown.waitUntilIdle());
+        QVERIFY(end(shown, nullptr));
+    }
+    auto next = queueOptions();
+    next.lastUsed = readLastUsed();
+    QCOMPARE(next.lastUsed->printer, "Hall-3");
+    next.session.job.lastUsed = next.lastUsed->settings;
+    next.beginsWithLastUsed = true;
+    Shown shown(next, false);
+    QVERIFY(shown.waitUntilIdle());
+    QCOMPARE(shown.choice("StapleLocation"), "SinglePortrait");
+    QCOMPARE(shown.choice("PageSize"), "A4"); // the paper is the next document's
+    QCOMPARE(shown.find<PopupButton>("preset")->shownText(), "Last used settings");
+    const auto pick = [&shown](const QString &text) {
+        inspector::ItemName item;
+        item.by = inspector::ItemName::By::Text;
+        item.text = text;
+        return !inspector::choose(shown.find<QWidget>("preset"), item);
+    };
+    // One choice away: the defaults, which it begins with from then on.
+    QVERIFY(pick("Default settings"));
+    QCOMPARE(shown.choice("StapleLocation"), "");
+    QVERIFY(pick("Last used settings"));
+    QCOMPARE(shown.choice("StapleLocation"), "SinglePortrait");
+    QVERIFY(pick("Default settings"));
+    QVERIFY(end(shown, nullptr));
+    QCOMPARE(readLastUsed().beginning, LastUsed::Beginning::Defaults);
 }
 
 void TestPrintDialog::aDeadDesktopKeepsNobody()
@@ -782,11 +879,13 @@ void TestPrintDialog::everyStopIsReachedOnceAndHasAName()
     } while (QApplication::focusWidget() != shown.find<QWidget>("printer") && stops.size() < 60);
 
     stops.removeIf([](const QString &name) { return name.startsWith("preview"); });
-    QCOMPARE(stops,
-             (QStringList{"printer", "preset", "presetMenu", "copies", "collate", "pagesChoice",
-                          "pages", "paper", "orientation", "panelSwitch", "PDEShellField", "fix",
-                          "conflictDetails", "columnToggle", "whatWillBeSent", "help", "cancel",
-                          "print"}));
+    QCOMPARE(stops, (QStringList{"printer",    "preset",          "presetMenu",
+                                 "copies",     "collate",         "pagesChoice",
+                                 "pages",      "paper",           "orientation",
+                                 "pageLayout", "panelSwitch",     "PDEShellField",
+                                 "fix",        "conflictDetails", "columnToggle",
+                                 "jobTiming",  "whatWillBeSent",  "help",
+                                 "savePdf",    "cancel",          "print"}));
 }
 
 void TestPrintDialog::everythingFits_data()
