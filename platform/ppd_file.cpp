@@ -241,6 +241,12 @@ void walk(const ppd_file_t &ppd, const auto &visit)
         walk(ppd.groups[i], visit);
 }
 
+bool isAny(const char *word, std::initializer_list<const char *> words)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [word](const char *other) { return qstricmp(word, other) == 0; });
+}
+
 // Made by a print server, or by us, of what a printer says over IPP. There is no text of anybody's
 // in it, but English for a few options and what libcups puts in the place of others.
 bool isMadeFromIpp(ppd_file_t *ppd)
@@ -270,43 +276,46 @@ public:
     }
     QString text(const ppd_option_t &option) const
     {
-        const QString keyword = textFrom(option.keyword);
-        const auto server = [&] { return m_server.text(option.keyword, {}); };
-        return chosen(
-            m_translation.text(option.keyword, {}), keyword, textFrom(option.text),
-            [&] { return standardOptionWords(keyword); }, server);
+        if (hasOwn(option.keyword, option.text))
+            return m_translation.text(option.keyword, textFrom(option.text));
+        const QString translated = m_translation.text(option.keyword, {});
+        return translated.isEmpty()
+            ? chosen(option.keyword, standardOptionWords(textFrom(option.keyword)),
+                     m_server.text(option.keyword, {}))
+            : translated;
     }
     QString text(const ppd_option_t &option, const ppd_choice_t &choice) const
     {
-        const QString keyword = textFrom(choice.choice);
-        const auto server = [&] { return m_server.text(option.keyword, choice.choice, {}); };
-        return chosen(
-            m_translation.text(option.keyword, choice.choice, {}), keyword, textFrom(choice.text),
-            [&] { return standardWords(option, choice); }, server);
+        if (hasOwn(choice.choice, choice.text))
+            return m_translation.text(option.keyword, choice.choice, textFrom(choice.text));
+        const QString translated = m_translation.text(option.keyword, choice.choice, {});
+        return translated.isEmpty() ? chosen(choice.choice, standardWords(option, choice),
+                                             m_server.text(option.keyword, choice.choice, {}))
+                                    : translated;
     }
 
 private:
-    QString chosen(const QString &translated, const QString &keyword, const QString &own,
-                   const auto &standard, const auto &server) const
+    // A keyword in the place of a text is none.
+    bool hasOwn(const char *keyword, const char *text) const
     {
-        if (!translated.isEmpty())
-            return translated;
-        if (!m_isMadeFromIpp && own != keyword)
-            return own;
-        if (const QString words = standard(); !words.isEmpty())
-            return words;
-        if (!m_isMadeFromIpp)
-            return own;
-        const QString words = server();
-        return words.isEmpty() ? readable(keyword) : words;
+        return !m_isMadeFromIpp && qstrcmp(keyword, text) != 0;
+    }
+    QString chosen(const char *keyword, const QString &standard, const QString &server) const
+    {
+        for (const QString &text : {standard, server}) {
+            if (!text.isEmpty())
+                return text;
+        }
+        return m_isMadeFromIpp ? readable(textFrom(keyword)) : textFrom(keyword);
     }
     QString standardWords(const ppd_option_t &option, const ppd_choice_t &choice) const
     {
-        const ppd_size_t *size = m_isMadeFromIpp && qstrcmp(option.keyword, "PageSize") == 0
-            ? ppdPageSize(m_ppd, choice.choice)
-            : nullptr;
-        if (size && size->width > 0 && size->length > 0)
-            return paperWords(textFrom(choice.choice), size->width, size->length);
+        if (isAny(option.keyword, {"PageSize", "PageRegion"})) {
+            const ppd_size_t *size = m_isMadeFromIpp ? ppdPageSize(m_ppd, choice.choice) : nullptr;
+            return size && size->width > 0 && size->length > 0
+                ? paperWords(textFrom(choice.choice), size->width, size->length)
+                : QString();
+        }
         return standardChoiceWords(textFrom(option.keyword), textFrom(choice.choice));
     }
 
@@ -363,12 +372,6 @@ bool mark(ppd_file_t *ppd, const QString &option, const QString &choice)
     if (!isOffered(ppd, keyword, value))
         return false;
     return ppdMarkOption(ppd, keyword.constData(), value.constData()) != 0;
-}
-
-bool isAny(const char *word, std::initializer_list<const char *> words)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [word](const char *other) { return qstricmp(word, other) == 0; });
 }
 
 // Names of the printing protocol, which cupsMarkOptions() takes for other options.

@@ -2,7 +2,6 @@
 
 #include "texts.h"
 
-#include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -245,21 +244,14 @@ constexpr WordsRow rows[] = {
 };
 // clang-format on
 
-QString keyOf(const QString &option, const QString &name)
-{
-    return option + u'/' + name;
-}
-
-// Made when it is first asked for: most PPDs have words of their own.
+// Null where there are none. Most PPDs ask for a few of their hundreds of choices, or for none.
 const char *findWords(const QString &option, const QString &name)
 {
-    static const QHash<QString, const char *> known = [] {
-        QHash<QString, const char *> words;
-        for (const WordsRow &row : rows)
-            words.insert(keyOf(QLatin1String(row.option), QLatin1String(row.name)), row.words);
-        return words;
-    }();
-    return known.value(keyOf(option, name));
+    for (const WordsRow &row : rows) {
+        if (name == QLatin1String(row.name) && option == QLatin1String(row.option))
+            return row.words;
+    }
+    return nullptr;
 }
 
 // Of papers whose PPD name is none that people use. `prefix` is followed by what stands for %1.
@@ -345,8 +337,22 @@ QString standardOptionWords(const QString &option)
     return words ? translate("StandardWords", words) : QString();
 }
 
+// "600dpi", "600x1200dpi"; empty for anything else.
+static QString resolutionWords(const QString &choice)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]+)(?:x([0-9]+))?dpi$"));
+    const auto match = form.match(choice);
+    if (!match.hasMatch())
+        return {};
+    const QString down = match.captured(2);
+    return down.isEmpty() ? translate("StandardWords", "%1 dpi").arg(match.captured(1))
+                          : translate("StandardWords", "%1 × %2 dpi").arg(match.captured(1), down);
+}
+
 QString standardChoiceWords(const QString &option, const QString &choice)
 {
+    if (option == QLatin1String("Resolution"))
+        return resolutionWords(choice);
     const QString keyword = ippKeyword(choice);
     if (const char *words = findWords(option, keyword))
         return translate("StandardWords", words);

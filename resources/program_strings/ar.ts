@@ -2246,15 +2246,15 @@ document.pdf وoptions وticket.plist،
     </message>
     <message>
         <source>1-sided print</source>
-        <translation>وجه واحد</translation>
+        <translation>طباعة على وجه واحد</translation>
     </message>
     <message>
         <source>2-sided print</source>
-        <translation>وجهان</translation>
+        <translation>طباعة على الوجهين</translation>
     </message>
     <message>
         <source>2-sided print, flip on short edge</source>
-        <translation>وجهان، القلب على الحافة القصيرة</translation>
+        <translation>على الوجهين، القلب على الحافة القصيرة</translation>
     </message>
     <message>
         <source>Black and white</source>
@@ -2430,7 +2430,7 @@ document.pdf وoptions وticket.plist،
     </message>
     <message>
         <source>Letterhead</source>
-        <translation>ورق ذو ترويسة</translation>
+        <translation>ورق برأسية</translation>
     </message>
     <message>
         <source>Preprinted paper</source>
@@ -2530,11 +2530,11 @@ document.pdf وoptions وticket.plist،
     </message>
     <message>
         <source>Tab stock</source>
-        <translation>ورق فواصل</translation>
+        <translation>ورق ألسنة</translation>
     </message>
     <message>
         <source>Precut tabs</source>
-        <translation>فواصل مقطوعة مسبقًا</translation>
+        <translation>ألسنة مقطوعة مسبقًا</translation>
     </message>
     <message>
         <source>Fanfold paper</source>
@@ -2871,6 +2871,14 @@ document.pdf وoptions وticket.plist،
     <message>
         <source>Photo %1</source>
         <translation>صورة %1</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>&#x2066;%1&#x2069; نقطة في البوصة</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>&#x2066;%1 × %2&#x2069; نقطة في البوصة</translation>
     </message>
     <message>
         <source>Postcard</source>

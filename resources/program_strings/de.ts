@@ -3103,7 +3103,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Paper type</source>
-        <translation>Papiersorte</translation>
+        <translation>Papierart</translation>
     </message>
     <message>
         <source>Paper size</source>
@@ -3115,7 +3115,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Output destination</source>
-        <translation>Ausgabeziel</translation>
+        <translation>Ausgabefach</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -3147,15 +3147,15 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Other finishing</source>
-        <translation>Weitere Verarbeitung</translation>
+        <translation>Weitere Endverarbeitung</translation>
     </message>
     <message>
         <source>Finishing preset</source>
-        <translation>Vorlage für die Weiterverarbeitung</translation>
+        <translation>Vorlage für die Endverarbeitung</translation>
     </message>
     <message>
         <source>Finishing</source>
-        <translation>Weiterverarbeitung</translation>
+        <translation>Endverarbeitung</translation>
     </message>
     <message>
         <source>1-sided print</source>
@@ -3167,7 +3167,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>2-sided print, flip on short edge</source>
-        <translation>Beidseitig, über die kurze Kante wenden</translation>
+        <translation>Beidseitig, kurze Kante</translation>
     </message>
     <message>
         <source>Black and white</source>
@@ -3227,7 +3227,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Bypass tray</source>
-        <translation>Zusatzzufuhr</translation>
+        <translation>Einzelblattzufuhr</translation>
     </message>
     <message>
         <source>Manual feed</source>
@@ -3395,7 +3395,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Film</source>
-        <translation>Folie</translation>
+        <translation>Kunststofffolie</translation>
     </message>
     <message>
         <source>Back-print film</source>
@@ -3403,7 +3403,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Transparency</source>
-        <translation>Transparentfolie</translation>
+        <translation>Folie</translation>
     </message>
     <message>
         <source>Labels</source>
@@ -3443,7 +3443,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Tab stock</source>
-        <translation>Registerpapier</translation>
+        <translation>Registerblätter</translation>
     </message>
     <message>
         <source>Precut tabs</source>
@@ -3747,7 +3747,7 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     </message>
     <message>
         <source>Offset each set</source>
-        <translation>Sätze versetzt ablegen</translation>
+        <translation>Jeden Satz versetzen</translation>
     </message>
     <message>
         <source>Coat</source>
@@ -3784,6 +3784,14 @@ oder @bannerSheet: kelvo-print --list-controls listet sie auf.
     <message>
         <source>Photo %1</source>
         <translation>Foto %1</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
     </message>
     <message>
         <source>Postcard</source>

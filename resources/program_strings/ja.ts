@@ -2091,7 +2091,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Paper source</source>
-        <translation>用紙トレイ</translation>
+        <translation>給紙トレイ</translation>
     </message>
     <message>
         <source>Paper type</source>
@@ -2139,15 +2139,15 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Other finishing</source>
-        <translation>その他の後処理</translation>
+        <translation>その他の仕上げ</translation>
     </message>
     <message>
         <source>Finishing preset</source>
-        <translation>後処理のプリセット</translation>
+        <translation>仕上げのプリセット</translation>
     </message>
     <message>
         <source>Finishing</source>
-        <translation>後処理</translation>
+        <translation>仕上げ</translation>
     </message>
     <message>
         <source>1-sided print</source>
@@ -2155,7 +2155,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>2-sided print</source>
-        <translation>両面印刷</translation>
+        <translation>両面印刷(長辺とじ)</translation>
     </message>
     <message>
         <source>2-sided print, flip on short edge</source>
@@ -2303,7 +2303,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Thick paper</source>
-        <translation>厚紙</translation>
+        <translation>厚手の用紙</translation>
     </message>
     <message>
         <source>Thick coated paper</source>
@@ -2355,7 +2355,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Cardstock</source>
-        <translation>カード紙</translation>
+        <translation>厚紙</translation>
     </message>
     <message>
         <source>Cardboard</source>
@@ -2667,7 +2667,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>C fold</source>
-        <translation>C折り</translation>
+        <translation>内三つ折り</translation>
     </message>
     <message>
         <source>Parallel fold</source>
@@ -2683,7 +2683,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Z fold</source>
-        <translation>Z折り</translation>
+        <translation>外三つ折り</translation>
     </message>
     <message>
         <source>Trim</source>
@@ -2739,7 +2739,7 @@ document.pdf、options、ticket.plist をその中に。
     </message>
     <message>
         <source>Offset each set</source>
-        <translation>部ごとにずらす</translation>
+        <translation>部ごとにオフセット</translation>
     </message>
     <message>
         <source>Coat</source>
@@ -2776,6 +2776,14 @@ document.pdf、options、ticket.plist をその中に。
     <message>
         <source>Photo %1</source>
         <translation>写真 %1</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
     </message>
     <message>
         <source>Postcard</source>

@@ -45,6 +45,7 @@ void TestStandardWords::choicesHaveWords_data()
     row("as a PPD has it", "InputSlot", "ByPassTray", "Bypass tray");
     row("any number", "InputSlot", "Tray23", "Tray 23");
     row("of this option alone", "OutputBin", "ByPassTray", "");
+    row("dots", "Resolution", "600x1200dpi", "600 × 1200 dpi");
     row("unknown", "MediaType", "Com.maker.Papyrus", "");
 }
 

@@ -50,7 +50,8 @@ OPEN_LISTS = {"printers", "printers_none"}
 CHOSEN_BY_KEY = {"finishing_fold"}
 
 MARKUP = re.compile(r"&\S|</?[a-z]+>")
-KEY = re.compile(r"^(?!sRGB$)([a-z]+[A-Z][A-Za-z0-9]*|STRING NOT FOUND|.* Command)$")
+PROPER = {"sRGB"}  # is written so, and a choice of devices
+KEY = re.compile(r"^([a-z]+[A-Z][A-Za-z0-9]*|STRING NOT FOUND|.* Command)$")
 
 
 def faults_of(node):
@@ -58,7 +59,7 @@ def faults_of(node):
     for text in (node.name, node.description, node.text or ""):
         if MARKUP.search(text):
             yield f"markup in {text}"
-        if KEY.match(text) and node.role != "text":
+        if KEY.match(text) and node.role != "text" and text not in PROPER:
             yield f"a key for {text}"
     if node.role in NAMED and not node.name.strip():
         yield "no name"
